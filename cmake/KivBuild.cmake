@@ -1,0 +1,108 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# One place for how everything here is compiled, and the two functions with
+# which every library and every test is declared.
+include(GenerateExportHeader)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC OFF)
+# All libraries and programs of one build stand together, so that a program
+# finds its libraries next to it.
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(KIV_LINKER_MOLD mold)
+if(KIV_LINKER_MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+# An undeclared dependency of a library is an error when it is linked, except
+# under the sanitizers, whose runtime is only there in the program.
+if(NOT KIV_SANITIZE)
+  add_link_options($<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>:-Wl,--no-undefined>)
+endif()
+
+function(kiv_compile_options target)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_STRICT_ITERATORS
+    QT_NO_URL_CAST_FROM_STRING)
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override>
+    $<$<BOOL:${KIV_WERROR}>:-Werror>)
+  if(KIV_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined
+      -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# One set of precompiled headers, compiled once and used by every target.
+function(kiv_precompiled_headers)
+  file(WRITE ${CMAKE_BINARY_DIR}/generated/precompiled.cpp "")
+  add_library(kiv-precompiled STATIC ${CMAKE_BINARY_DIR}/generated/precompiled.cpp)
+  target_link_libraries(kiv-precompiled PUBLIC Qt6::Core)
+  kiv_compile_options(kiv-precompiled)
+  target_precompile_headers(kiv-precompiled PRIVATE
+    <QtCore/QDate> <QtCore/QDebug> <QtCore/QMetaType> <QtCore/QObject> <QtCore/QString>
+    <algorithm> <compare> <cstdint> <exception> <functional> <map> <memory> <optional>
+    <ostream> <set> <stdexcept> <string> <string_view> <utility> <vector>)
+endfunction()
+
+# kiv_add_library(<name> DIR <folder> [VERSION <x.y>] SOURCES … [MOC <headers>]
+#                 [PUBLIC <libraries>] [PRIVATE <libraries>])
+#
+# Declares the shared library lib<name>.so.<version> whose sources stand in the
+# calling folder. DIR is the folder under which others include its headers, and
+# <DIR>/export.h is made for it with the macro <NAME>_EXPORT. MOC names the
+# headers that declare QObjects.
+function(kiv_add_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DIR;VERSION" "SOURCES;MOC;PUBLIC;PRIVATE")
+  if(NOT arg_VERSION)
+    set(arg_VERSION 1.1)
+  endif()
+  add_library(${name} SHARED ${arg_SOURCES})
+  string(REPLACE "kiv-" "" short ${name})
+  add_library(Kiv::${short} ALIAS ${name})
+  set_target_properties(${name} PROPERTIES VERSION ${arg_VERSION} SOVERSION ${arg_VERSION}
+    DEFINE_SYMBOL "" EXPORT_NAME ${short})
+  if(arg_MOC)
+    qt_wrap_cpp(moc_sources ${arg_MOC} TARGET ${name})
+    target_sources(${name} PRIVATE ${moc_sources})
+  endif()
+  string(REPLACE "-" "_" macro ${name})
+  string(TOUPPER ${macro} macro)
+  generate_export_header(${name} BASE_NAME ${macro}
+    EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/generated/${arg_DIR}/export.h)
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/domain> $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>
+    $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/generated>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kiv>)
+  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+  kiv_compile_options(${name})
+  target_precompile_headers(${name} REUSE_FROM kiv-precompiled)
+endfunction()
+
+# kiv_add_test(<name> [SOURCES …] [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])
+#
+# A Qt Test program tst_<name> from <name>.cpp in the calling folder (its last
+# line includes "tst_<name>.moc" when it declares a QObject), known to CTest by
+# that name.
+function(kiv_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  add_executable(tst_${name} tst_${name}.cpp ${arg_SOURCES})
+  set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(tst_${name} PRIVATE Qt6::Test ${arg_LIBRARIES})
+  kiv_compile_options(tst_${name})
+  target_precompile_headers(tst_${name} REUSE_FROM kiv-precompiled)
+  add_test(NAME ${name} COMMAND tst_${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC")
+endfunction()

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <concepts>
+#include <cstddef>
+
+namespace kiv::foundation {
+
+/// A pointer that does not own and says so. Whoever hands it out sees to it
+/// that the object outlives it.
+template <typename T> class ObserverPtr {
+public:
+    constexpr ObserverPtr() noexcept = default;
+    constexpr ObserverPtr(std::nullptr_t) noexcept {}
+    constexpr explicit ObserverPtr(T *object) noexcept : m_object(object) {}
+    template <typename U>
+        requires std::convertible_to<U *, T *>
+    constexpr ObserverPtr(ObserverPtr<U> other) noexcept : m_object(other.get())
+    {}
+
+    [[nodiscard]] constexpr T *get() const noexcept { return m_object; }
+    [[nodiscard]] constexpr T &operator*() const noexcept { return *m_object; }
+    [[nodiscard]] constexpr T *operator->() const noexcept { return m_object; }
+    [[nodiscard]] constexpr explicit operator bool() const noexcept { return m_object != nullptr; }
+
+    friend bool operator==(ObserverPtr, ObserverPtr) noexcept = default;
+
+private:
+    T *m_object = nullptr;
+};
+
+/// Observes `object`.
+template <typename T> [[nodiscard]] constexpr ObserverPtr<T> observe(T &object) noexcept
+{
+    return ObserverPtr<T>(&object);
+}
+
+} // namespace kiv::foundation

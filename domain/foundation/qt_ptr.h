@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/export.h"
+
+#include <QtCore/QObject>
+
+#include <functional>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+namespace kiv::foundation {
+
+namespace internal {
+/// Calls `cleared` when `object` is destroyed, until the connection is
+/// disconnected. An empty connection when there is no object.
+[[nodiscard]] KIV_FOUNDATION_EXPORT QMetaObject::Connection
+createDestroyableConnection(QObject *object, std::function<void()> cleared);
+} // namespace internal
+
+/// A guarded pointer to a QObject: it becomes null when that object is
+/// destroyed, by whomever. It does not own. Every copy guards on its own.
+template <typename T> class QtPtr {
+public:
+    QtPtr() noexcept = default;
+    QtPtr(std::nullptr_t) noexcept {}
+    explicit QtPtr(T *object) { guard(object); }
+    QtPtr(const QtPtr &other) { guard(other.m_object); }
+    template <typename U>
+        requires(std::is_convertible_v<U *, T *> && !std::is_same_v<U, T>)
+    QtPtr(const QtPtr<U> &other)
+    {
+        guard(other.get());
+    }
+    QtPtr &operator=(const QtPtr &other)
+    {
+        if (this != &other) {
+            release();
+            guard(other.m_object);
+        }
+        return *this;
+    }
+    ~QtPtr() { release(); }
+
+    [[nodiscard]] T *get() const noexcept { return m_object; }
+    [[nodiscard]] T &operator*() const noexcept { return *m_object; }
+    [[nodiscard]] T *operator->() const noexcept { return m_object; }
+    [[nodiscard]] explicit operator bool() const noexcept { return m_object != nullptr; }
+    friend bool operator==(const QtPtr &a, const QtPtr &b) noexcept
+    {
+        return a.m_object == b.m_object;
+    }
+
+private:
+    void guard(T *object)
+    {
+        m_object = object;
+        m_connection =
+            internal::createDestroyableConnection(object, [this] { m_object = nullptr; });
+    }
+    void release() noexcept
+    {
+        QObject::disconnect(m_connection);
+        m_object = nullptr;
+    }
+
+    T *m_object = nullptr;
+    QMetaObject::Connection m_connection;
+};
+
+/// An owning pointer to a QObject without a parent.
+template <typename T> using UniqueQtPtr = std::unique_ptr<T>;
+
+} // namespace kiv::foundation
