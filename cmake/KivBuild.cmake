@@ -53,15 +53,16 @@ function(kiv_precompiled_headers)
     <ostream> <set> <stdexcept> <string> <string_view> <utility> <vector>)
 endfunction()
 
-# kiv_add_library(<name> DIR <folder> [VERSION <x.y>] SOURCES … [MOC <headers>]
+# kiv_add_library(<name> DIR <folder> [VERSION <x.y>] [WITHOUT_QT] SOURCES … [MOC <headers>]
 #                 [PUBLIC <libraries>] [PRIVATE <libraries>])
 #
 # Declares the shared library lib<name>.so.<version> whose sources stand in the
 # calling folder. DIR is the folder under which others include its headers, and
 # <DIR>/export.h is made for it with the macro <NAME>_EXPORT. MOC names the
-# headers that declare QObjects.
+# headers that declare QObjects. WITHOUT_QT is for a library that uses nothing of
+# Qt; it does without the precompiled headers, which are Qt's for the most part.
 function(kiv_add_library name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DIR;VERSION" "SOURCES;MOC;PUBLIC;PRIVATE")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "DIR;VERSION" "SOURCES;MOC;PUBLIC;PRIVATE")
   if(NOT arg_VERSION)
     set(arg_VERSION 1.1)
   endif()
@@ -84,7 +85,9 @@ function(kiv_add_library name)
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kiv>)
   target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
   kiv_compile_options(${name})
-  target_precompile_headers(${name} REUSE_FROM kiv-precompiled)
+  if(NOT arg_WITHOUT_QT)
+    target_precompile_headers(${name} REUSE_FROM kiv-precompiled)
+  endif()
 endfunction()
 
 # kiv_add_test(<name> [SOURCES …] [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])

@@ -8,8 +8,11 @@ namespace kiv::foundation {
 
 /// A polymorphic value that can copy itself with its dynamic type.
 template <typename T>
-concept RequireClonable = requires(const T &value) {
-    { value.clone() } -> std::convertible_to<std::unique_ptr<T>>;
+concept RequireClonable = requires(const T &value)
+{
+    {
+        value.clone()
+        } -> std::convertible_to<std::unique_ptr<T>>;
 };
 
 } // namespace kiv::foundation

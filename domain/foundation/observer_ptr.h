@@ -8,15 +8,15 @@ namespace kiv::foundation {
 
 /// A pointer that does not own and says so. Whoever hands it out sees to it
 /// that the object outlives it.
-template <typename T> class ObserverPtr {
+template <typename T>
+class ObserverPtr {
 public:
     constexpr ObserverPtr() noexcept = default;
     constexpr ObserverPtr(std::nullptr_t) noexcept {}
     constexpr explicit ObserverPtr(T *object) noexcept : m_object(object) {}
     template <typename U>
-        requires std::convertible_to<U *, T *>
-    constexpr ObserverPtr(ObserverPtr<U> other) noexcept : m_object(other.get())
-    {}
+    requires std::convertible_to<U *, T *>
+    constexpr ObserverPtr(ObserverPtr<U> other) noexcept : m_object(other.get()) {}
 
     [[nodiscard]] constexpr T *get() const noexcept { return m_object; }
     [[nodiscard]] constexpr T &operator*() const noexcept { return *m_object; }
@@ -30,7 +30,8 @@ private:
 };
 
 /// Observes `object`.
-template <typename T> [[nodiscard]] constexpr ObserverPtr<T> observe(T &object) noexcept
+template <typename T>
+[[nodiscard]] constexpr ObserverPtr<T> observe(T &object) noexcept
 {
     return ObserverPtr<T>(&object);
 }

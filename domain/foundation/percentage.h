@@ -10,6 +10,8 @@
 #include <QtCore/QString>
 
 #include <compare>
+#include <cstdint>
+#include <iosfwd>
 
 namespace kiv::foundation {
 
@@ -18,9 +20,9 @@ namespace kiv::foundation {
 class KIV_FOUNDATION_EXPORT Percentage {
 public:
     constexpr Percentage() noexcept = default;
-    constexpr Percentage(double rate, std::uint8_t digits) noexcept
-        : m_rate(rate), m_digits(digits)
-    {}
+    constexpr Percentage(double rate, std::uint8_t digits) noexcept : m_rate(rate), m_digits(digits)
+    {
+    }
 
     /// In percent: 2.75 for 2.75 %.
     [[nodiscard]] constexpr double rate() const noexcept { return m_rate; }
@@ -52,8 +54,10 @@ private:
     std::uint8_t m_digits = 0;
 };
 
-/// "2.75 %", with no more digits than needed.
+/// "2.75 %": the rate rounded to its digits, with no more digits than needed.
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString presentationText(const Percentage &percentage);
+/// Writes the presentation text.
+KIV_FOUNDATION_EXPORT std::ostream &operator<<(std::ostream &out, const Percentage &percentage);
 KIV_FOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Percentage &percentage);
 
 } // namespace kiv::foundation

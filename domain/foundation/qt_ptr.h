@@ -4,6 +4,7 @@
 #include "foundation/export.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 
 #include <functional>
 #include <memory>
@@ -21,15 +22,15 @@ createDestroyableConnection(QObject *object, std::function<void()> cleared);
 
 /// A guarded pointer to a QObject: it becomes null when that object is
 /// destroyed, by whomever. It does not own. Every copy guards on its own.
-template <typename T> class QtPtr {
+template <typename T>
+class QtPtr {
 public:
     QtPtr() noexcept = default;
     QtPtr(std::nullptr_t) noexcept {}
     explicit QtPtr(T *object) { guard(object); }
-    QtPtr(const QtPtr &other) { guard(other.m_object); }
+    QtPtr(const QtPtr &other) { guard(other.get()); }
     template <typename U>
-        requires(std::is_convertible_v<U *, T *> && !std::is_same_v<U, T>)
-    QtPtr(const QtPtr<U> &other)
+    requires(std::is_convertible_v<U *, T *> && !std::is_same_v<U, T>) QtPtr(const QtPtr<U> &other)
     {
         guard(other.get());
     }
@@ -37,25 +38,23 @@ public:
     {
         if (this != &other) {
             release();
-            guard(other.m_object);
+            guard(other.get());
         }
         return *this;
     }
     ~QtPtr() { release(); }
 
-    [[nodiscard]] T *get() const noexcept { return m_object; }
-    [[nodiscard]] T &operator*() const noexcept { return *m_object; }
-    [[nodiscard]] T *operator->() const noexcept { return m_object; }
-    [[nodiscard]] explicit operator bool() const noexcept { return m_object != nullptr; }
-    friend bool operator==(const QtPtr &a, const QtPtr &b) noexcept
-    {
-        return a.m_object == b.m_object;
-    }
+    [[nodiscard]] T *get() const noexcept { return m_alive ? m_object : nullptr; }
+    [[nodiscard]] T &operator*() const noexcept { return *get(); }
+    [[nodiscard]] T *operator->() const noexcept { return get(); }
+    [[nodiscard]] explicit operator bool() const noexcept { return get() != nullptr; }
+    friend bool operator==(const QtPtr &a, const QtPtr &b) noexcept { return a.get() == b.get(); }
 
 private:
     void guard(T *object)
     {
         m_object = object;
+        m_alive = object;
         m_connection =
             internal::createDestroyableConnection(object, [this] { m_object = nullptr; });
     }
@@ -66,10 +65,15 @@ private:
     }
 
     T *m_object = nullptr;
+    /// While an object announces its end, some pointers to it are not cleared
+    /// yet, and a copy of one would connect too late to be. This is null before
+    /// the first announcement.
+    QPointer<QObject> m_alive;
     QMetaObject::Connection m_connection;
 };
 
 /// An owning pointer to a QObject without a parent.
-template <typename T> using UniqueQtPtr = std::unique_ptr<T>;
+template <typename T>
+using UniqueQtPtr = std::unique_ptr<T>;
 
 } // namespace kiv::foundation

@@ -27,7 +27,8 @@ namespace kiv::foundation {
 [[nodiscard]] KIV_FOUNDATION_EXPORT std::string escapedUtf8(const QString &text);
 
 /// Writes to a debug stream what the value's std::ostream operator writes.
-template <typename T> QDebug streamed(QDebug debug, const T &value)
+template <typename T>
+QDebug streamed(QDebug debug, const T &value)
 {
     std::ostringstream out;
     out << value;
@@ -37,7 +38,8 @@ template <typename T> QDebug streamed(QDebug debug, const T &value)
 }
 
 /// Writes "(a, b, c)".
-template <typename Range> std::ostream &streamRange(std::ostream &out, const Range &range)
+template <typename Range>
+std::ostream &streamRange(std::ostream &out, const Range &range)
 {
     out << '(';
     const char *separator = "";

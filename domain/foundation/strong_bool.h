@@ -5,7 +5,8 @@ namespace kiv::foundation {
 
 /// A yes or no with a name of its own, so that a call reads as what it means:
 /// `struct AllowSubAccountsTag {}; using AllowSubAccounts = StrongBool<AllowSubAccountsTag>`.
-template <typename Tag> class StrongBool {
+template <typename Tag>
+class StrongBool {
 public:
     constexpr StrongBool() noexcept = default;
     constexpr explicit StrongBool(bool value) noexcept : m_value(value) {}

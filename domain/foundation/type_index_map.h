@@ -4,12 +4,15 @@
 #include "foundation/error.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <cstddef>
 #include <map>
 #include <ostream>
 #include <stdexcept>
 #include <typeindex>
+#include <typeinfo>
+#include <utility>
 
 namespace kiv::foundation {
 
@@ -17,7 +20,8 @@ namespace kiv::foundation {
 /// and size() is always the number of keys over all of them.
 ///
 /// An operation that throws leaves the map unchanged.
-template <typename K, typename V> class TypeIndexMap {
+template <typename K, typename V>
+class TypeIndexMap {
 public:
     using Inner = std::map<K, V>;
     using Outer = std::map<std::type_index, Inner>;
@@ -32,7 +36,8 @@ public:
     }
 
     /// Throws Error when there is no such key under the type.
-    template <typename T> [[nodiscard]] V &value(const K &key)
+    template <typename T>
+    [[nodiscard]] V &value(const K &key)
     {
         try {
             return m_maps.at(typeid(T)).at(key);
@@ -42,7 +47,8 @@ public:
                             .arg(typeName<T>(), presentationText(key)));
         }
     }
-    template <typename T> [[nodiscard]] const V &value(const K &key) const
+    template <typename T>
+    [[nodiscard]] const V &value(const K &key) const
     {
         try {
             return m_maps.at(typeid(T)).at(key);
@@ -53,25 +59,35 @@ public:
         }
     }
 
-    template <typename T> [[nodiscard]] bool has(const K &key) const
+    template <typename T>
+    [[nodiscard]] bool has(const K &key) const
     {
         const auto inner = m_maps.find(typeid(T));
         return inner != m_maps.end() && inner->second.contains(key);
     }
 
     /// Adds the key, or replaces its value.
-    template <typename T> void insertOrAssign(const K &key, V value)
+    template <typename T>
+    void insertOrAssign(const K &key, V value)
     {
         insertOrAssign(std::type_index(typeid(T)), key, std::move(value));
     }
     void insertOrAssign(std::type_index type, const K &key, V value)
     {
-        if (m_maps[type].insert_or_assign(key, std::move(value)).second)
-            ++m_size;
+        const auto [inner, isNewType] = m_maps.try_emplace(type);
+        try {
+            if (inner->second.insert_or_assign(key, std::move(value)).second)
+                ++m_size;
+        } catch (...) {
+            if (isNewType)
+                m_maps.erase(inner);
+            throw;
+        }
     }
 
     /// Throws Error when there is no such key under the type.
-    template <typename T> void remove(const K &key)
+    template <typename T>
+    void remove(const K &key)
     {
         const auto inner = m_maps.find(typeid(T));
         if (inner == m_maps.end()) {
@@ -90,7 +106,11 @@ public:
     }
 
 private:
-    template <typename T> static QString typeName() { return QString::fromUtf8(plainName(typeid(T))); }
+    template <typename T>
+    static QString typeName()
+    {
+        return QString::fromUtf8(plainName(typeid(T)));
+    }
 
 public:
     /// The type's implementation name without the mark that some compilers put

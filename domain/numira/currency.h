@@ -16,11 +16,13 @@ namespace numira {
 /// A currency of ISO 4217, such as USD (840). A default-constructed one is the
 /// standard's "no currency", XXX (999).
 ///
-/// Currencies are ordered by their numeric code.
+/// Known are the currencies that are in use and ISO 4217's codes for funds,
+/// precious metals and tests, as the installed ICU lists them. Currencies are
+/// ordered by their numeric code.
 class NUMIRA_EXPORT Currency {
 public:
     constexpr Currency() noexcept = default;
-    /// Throws UnknownCurrency when no active currency has this numeric code.
+    /// Throws UnknownCurrency when no known currency has this numeric code.
     explicit Currency(std::uint16_t numericCode);
 
     [[nodiscard]] constexpr std::uint16_t numericCode() const noexcept { return m_numericCode; }
@@ -42,15 +44,16 @@ private:
 };
 
 /// The currency with this alphabetic code, such as "USD". Throws
-/// UnknownCurrency for anything but the exact three upper-case letters of an
-/// active currency, or "XXX".
+/// UnknownCurrency for anything but the exact three upper-case letters of a
+/// known currency, or "XXX".
 [[nodiscard]] NUMIRA_EXPORT Currency toCurrency(const std::string &code);
 
 /// The alphabetic code.
 [[nodiscard]] NUMIRA_EXPORT std::string toStdString(const Currency &currency);
 
 /// The symbol by which people of the library's locale know the currency, such
-/// as "$" or "€"; nothing when they use the code itself.
+/// as "$" or "€" (the one that is not taken for another currency's: "CA$" in
+/// the United States); nothing when they use the code itself.
 [[nodiscard]] NUMIRA_EXPORT std::optional<std::string> currencySymbol(const Currency &currency);
 
 /// The currency's name in English, such as "US Dollar".
@@ -60,7 +63,8 @@ private:
 /// 0 for JPY, 3 for KWD. 0 where the standard says "not applicable".
 [[nodiscard]] NUMIRA_EXPORT unsigned minorUnitDigits(const Currency &currency);
 
-/// Every active currency of ISO 4217, without "no currency".
+/// Every currency in which people are paid today: the active ones of ISO 4217
+/// without funds codes, precious metals, test codes and "no currency".
 [[nodiscard]] NUMIRA_EXPORT const std::set<Currency> &activeCurrencies();
 
 NUMIRA_EXPORT std::ostream &operator<<(std::ostream &out, const Currency &currency);

@@ -11,8 +11,8 @@
 
 namespace numira {
 
-/// An exact decimal number with 12 digits after the point and 25 before it,
-/// from which amounts of money are made. Every operation either gives the exact
+/// An exact decimal number with 12 digits after the point and at least 26 before
+/// it, from which amounts of money are made. Every operation either gives the exact
 /// result, or the nearest one where its comment says so, or throws
 /// OverflowError and changes nothing.
 class NUMIRA_EXPORT Decimal {
@@ -47,9 +47,17 @@ public:
     [[nodiscard]] friend Decimal operator+(Decimal a, const Decimal &b) { return a += b; }
     [[nodiscard]] friend Decimal operator-(Decimal a, const Decimal &b) { return a -= b; }
     /// Rounded half to even at the 12th digit.
-    [[nodiscard]] friend NUMIRA_EXPORT Decimal operator*(const Decimal &a, const Decimal &b);
+    friend NUMIRA_EXPORT Decimal operator*(const Decimal &a, const Decimal &b);
+    /// This number × the number that `factor` writes, such as "-1.25e-7", with
+    /// as many digits as it has; computed exactly and rounded half to even
+    /// once, at the 12th digit. Throws InvalidAmount when it is no number.
+    [[nodiscard]] Decimal times(std::string_view factor) const;
+    /// This number × the shortest decimal that reads back as `factor`, rounded
+    /// likewise. Throws InvalidAmount when the factor is not finite.
+    [[nodiscard]] Decimal times(double factor) const;
     /// This number × numerator ÷ denominator, computed exactly and rounded half
-    /// to even once, at the 12th digit. The denominator must not be zero.
+    /// to even once, at the 12th digit. The denominator must not be zero
+    /// (std::logic_error).
     [[nodiscard]] Decimal scaled(std::int64_t numerator, std::int64_t denominator) const;
     /// Rounded half to even to `digits` digits behind the point.
     [[nodiscard]] Decimal roundedHalfEven(unsigned digits) const;
@@ -73,6 +81,7 @@ enum class RoundingMode : std::uint8_t { HalfToEven = 0 };
 
 namespace rounders {
 /// Rounds an amount of money to `digits` digits behind the point, half to even.
+/// Throws std::logic_error for a mode that does not exist.
 [[nodiscard]] NUMIRA_EXPORT Decimal currency_even(const Decimal &value, unsigned digits,
                                                   RoundingMode mode);
 } // namespace rounders

@@ -30,7 +30,6 @@ NUMIRA_EXPORT void setUpLibrary(const Converter &converter, const std::string &l
 /// The rate from one currency to another; exactly 1 for the same. Throws
 /// ConversionError without a converter, and when the rate is not positive and
 /// finite; what the converter itself throws passes through.
-[[nodiscard]] NUMIRA_EXPORT FloatingPoint conversionRate(const Currency &from,
-                                                         const Currency &to);
+[[nodiscard]] NUMIRA_EXPORT FloatingPoint conversionRate(const Currency &from, const Currency &to);
 
 } // namespace numira

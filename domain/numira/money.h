@@ -4,12 +4,17 @@
 #include "numira/currency.h"
 #include "numira/decimal.h"
 
+#include <compare>
 #include <concepts>
+#include <cstdint>
 #include <functional>
+#include <iosfwd>
+#include <string>
+#include <string_view>
 
 namespace numira {
 
-/// An exact amount in one currency: at most 25 digits before the point and 12
+/// An exact amount in one currency: at least 26 digits before the point and 12
 /// after it. Money(USD, 10, 0, 5000) is 10.005 USD.
 ///
 /// Equality compares currency and amount and never asks for a rate. Addition,
@@ -17,7 +22,8 @@ namespace numira {
 /// right operand into the left one's currency through the converter that
 /// setUpLibrary installed; without a rate they throw ConversionError. An empty
 /// money (no currency, zero) takes the currency of the first amount added to
-/// it. An operation that throws changes nothing.
+/// it, and compares with every amount as zero. An operation that throws changes
+/// nothing.
 class NUMIRA_EXPORT Money {
 public:
     /// A rounding rule: (value, digits behind the point, mode).
@@ -35,7 +41,8 @@ public:
           std::uint16_t fraction = 0);
     Money(const Currency &currency, const Decimal &amount) noexcept
         : m_currency(currency), m_amount(amount)
-    {}
+    {
+    }
 
     [[nodiscard]] const Currency &code() const noexcept { return m_currency; }
     [[nodiscard]] const Decimal &amount() const noexcept { return m_amount; }
@@ -51,7 +58,7 @@ public:
     [[nodiscard]] Money abs() const { return {m_currency, m_amount.abs()}; }
     /// Multiplies by the shortest decimal that reads back as `factor`; the
     /// result is rounded half to even at the 12th digit.
-    [[nodiscard]] friend NUMIRA_EXPORT Money operator*(const Money &money, double factor);
+    friend NUMIRA_EXPORT Money operator*(const Money &money, double factor);
     [[nodiscard]] friend Money operator*(double factor, const Money &money)
     {
         return money * factor;
@@ -73,16 +80,20 @@ public:
     [[nodiscard]] Money convertedTo(const Currency &currency) const;
 
     friend bool operator==(const Money &, const Money &) noexcept = default;
-    friend NUMIRA_EXPORT bool operator<(const Money &a, const Money &b);
-    friend bool operator>(const Money &a, const Money &b) { return b < a; }
-    friend bool operator<=(const Money &a, const Money &b) { return !(b < a); }
-    friend bool operator>=(const Money &a, const Money &b) { return !(a < b); }
-    template <std::integral Integer> friend bool operator==(const Money &money, Integer number)
+    friend bool operator<(const Money &a, const Money &b) { return a.against(b) < 0; }
+    friend bool operator>(const Money &a, const Money &b) { return a.against(b) > 0; }
+    friend bool operator<=(const Money &a, const Money &b) { return a.against(b) <= 0; }
+    friend bool operator>=(const Money &a, const Money &b) { return a.against(b) >= 0; }
+    template <std::integral Integer>
+    friend bool operator==(const Money &money, Integer number)
     {
         return money.m_amount == Decimal(static_cast<std::int64_t>(number));
     }
 
 private:
+    /// The order of the amounts, the right one converted.
+    [[nodiscard]] std::strong_ordering against(const Money &right) const;
+
     Currency m_currency;
     Decimal m_amount;
 };

@@ -1,0 +1,350 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numira/decimal.h"
+
+#include "numira/error.h"
+
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <ostream>
+#include <stdexcept>
+
+namespace numira {
+namespace {
+
+using boost::multiprecision::cpp_int;
+/// Wide enough for the product of two amounts, and checked all the same.
+using Wide = boost::multiprecision::checked_int256_t;
+__extension__ using Units = __int128;
+__extension__ using Magnitude = unsigned __int128;
+
+constexpr Units highest = static_cast<Units>(~Magnitude{0} >> 1U);
+constexpr unsigned scale = Decimal::scaleDigits;
+/// The most digits that the units can have.
+constexpr int unitDigitsMax = 39;
+
+constexpr Units powerOfTen(unsigned exponent)
+{
+    Units power = 1;
+    while (exponent-- > 0)
+        power *= 10;
+    return power;
+}
+
+constexpr Units one = powerOfTen(scale);
+
+[[noreturn]] void throwOverflow()
+{
+    throw OverflowError("The amount has more digits before the point than can be kept exactly.");
+}
+
+[[noreturn]] void throwInvalid(std::string_view text)
+{
+    constexpr std::size_t shownMax = 40;
+    std::string shown(text.substr(0, shownMax));
+    if (text.size() > shownMax)
+        shown += "...";
+    throw InvalidAmount("'" + shown + "' is not a decimal amount.");
+}
+
+constexpr bool isDigit(char c) noexcept
+{
+    return c >= '0' && c <= '9';
+}
+
+constexpr Magnitude magnitude(Units units) noexcept
+{
+    return units < 0 ? -static_cast<Magnitude>(units) : static_cast<Magnitude>(units);
+}
+
+/// Whether a quotient must move away from zero, by what is left of the division.
+template <typename Integer>
+bool roundsAway(const Integer &remainder, const Integer &divisor, bool quotientIsOdd)
+{
+    const Integer rest = divisor - remainder;
+    return remainder > rest || (remainder == rest && quotientIsOdd);
+}
+
+template <typename Integer>
+Units narrowed(const Integer &value)
+{
+    if (value > Integer(highest) || value < -Integer(highest))
+        throwOverflow();
+    return static_cast<Units>(value);
+}
+
+/// numerator ÷ denominator, rounded half to even; the denominator is positive.
+template <typename Integer>
+Units quotient(const Integer &numerator, const Integer &denominator)
+{
+    Integer whole;
+    Integer remainder;
+    divide_qr(Integer(boost::multiprecision::abs(numerator)), denominator, whole, remainder);
+    if (roundsAway<Integer>(remainder, denominator, bit_test(whole, 0)))
+        ++whole;
+    return narrowed<Integer>(numerator < 0 ? Integer(-whole) : whole);
+}
+
+/// A number that a text gives exactly: digits × 10^exponent.
+struct Exact {
+    cpp_int digits;
+    int digitCount = 0;
+    long long exponent = 0;
+};
+
+/// Reads "-1.25e-7". An exponent that no number has is kept as it is; what
+/// comes of it is decided where the number is used.
+Exact readExact(std::string_view text)
+{
+    std::string_view rest = text;
+    const bool isNegative = rest.starts_with('-');
+    if (isNegative || rest.starts_with('+'))
+        rest.remove_prefix(1);
+    std::string digits;
+    Exact exact;
+    bool isBehindPoint = false;
+    std::size_t at = 0;
+    for (; at < rest.size() && (isDigit(rest[at]) || (rest[at] == '.' && !isBehindPoint)); ++at) {
+        if (rest[at] == '.') {
+            isBehindPoint = true;
+        } else {
+            digits += rest[at];
+            exact.exponent -= isBehindPoint ? 1 : 0;
+        }
+    }
+    if (digits.empty())
+        throwInvalid(text);
+    if (at < rest.size()) {
+        if (rest[at] != 'e' && rest[at] != 'E')
+            throwInvalid(text);
+        // std::from_chars takes no plus sign.
+        at += rest.substr(at + 1).starts_with('+') ? 2 : 1;
+        int exponent = 0;
+        const char *end = rest.data() + rest.size();
+        const auto [stop, fault] = std::from_chars(rest.data() + at, end, exponent);
+        if (fault != std::errc() || stop != end)
+            throwInvalid(text);
+        exact.exponent += exponent;
+    }
+    // A leading zero would make the number octal.
+    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
+    exact.digitCount = static_cast<int>(digits.size());
+    exact.digits.assign(digits);
+    if (isNegative)
+        exact.digits = -exact.digits;
+    return exact;
+}
+
+/// units × number, rounded half to even.
+Units product(Units units, const Exact &number)
+{
+    if (units == 0 || number.digits == 0)
+        return 0;
+    // The powers of ten stay small: beyond these bounds the result is known.
+    if (number.exponent > unitDigitsMax)
+        throwOverflow();
+    if (number.exponent < -(unitDigitsMax + number.digitCount + 1))
+        return 0;
+    const cpp_int power = pow(cpp_int(10), static_cast<unsigned>(std::abs(number.exponent)));
+    const cpp_int exact = cpp_int(units) * number.digits;
+    return number.exponent >= 0 ? narrowed<cpp_int>(exact * power)
+                                : quotient<cpp_int>(exact, power);
+}
+
+/// The shortest decimal that reads back as `value`.
+std::string_view shortestText(double value, std::array<char, 32> &buffer)
+{
+    if (!std::isfinite(value))
+        throw InvalidAmount("A number that is not finite is no amount.");
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    return {buffer.data(), written.ptr};
+}
+
+/// Room for a sign, a point, a zero before it and all digits.
+using DecimalBuffer = std::array<char, unitDigitsMax + 4>;
+
+/// Writes from the back of the buffer.
+std::string_view writeUnits(Units units, unsigned digitsMin, DecimalBuffer &buffer) noexcept
+{
+    char *const end = buffer.data() + buffer.size();
+    char *begin = end;
+    Magnitude left = magnitude(units);
+    bool isNeeded = false;
+    for (unsigned digit = scale; digit > 0; --digit, left /= 10) {
+        isNeeded = isNeeded || digit <= digitsMin || left % 10 != 0;
+        if (isNeeded)
+            *--begin = static_cast<char>('0' + static_cast<int>(left % 10));
+    }
+    if (begin != end)
+        *--begin = '.';
+    do {
+        *--begin = static_cast<char>('0' + static_cast<int>(left % 10));
+        left /= 10;
+    } while (left != 0);
+    if (units < 0)
+        *--begin = '-';
+    return {begin, end};
+}
+
+} // namespace
+
+Decimal::Decimal(std::int64_t whole) noexcept : m_units(Units{whole} * one) {}
+
+Decimal Decimal::fromText(std::string_view text)
+{
+    std::string_view rest = text;
+    const bool isNegative = rest.starts_with('-');
+    if (isNegative || rest.starts_with('+'))
+        rest.remove_prefix(1);
+    const std::size_t point = std::min(rest.find('.'), rest.size());
+    const std::string_view whole = rest.substr(0, point);
+    const std::string_view behind = rest.substr(std::min(point + 1, rest.size()));
+    if (whole.empty() || behind.size() > scale || (behind.empty() && point != rest.size()) ||
+        !std::ranges::all_of(whole, isDigit) || !std::ranges::all_of(behind, isDigit))
+        throwInvalid(text);
+
+    Units units = 0;
+    const auto append = [&units](Units factor, int digit) {
+        if (__builtin_mul_overflow(units, factor, &units) ||
+            __builtin_add_overflow(units, Units{digit}, &units))
+            throwOverflow();
+    };
+    for (const char digit : whole)
+        append(10, digit - '0');
+    for (const char digit : behind)
+        append(10, digit - '0');
+    append(powerOfTen(scale - static_cast<unsigned>(behind.size())), 0);
+    Decimal decimal;
+    decimal.m_units = isNegative ? -units : units;
+    return decimal;
+}
+
+Decimal Decimal::fromDouble(double value)
+{
+    std::array<char, 32> buffer;
+    Decimal decimal;
+    decimal.m_units = product(one, readExact(shortestText(value, buffer)));
+    return decimal;
+}
+
+std::string Decimal::toText(unsigned digitsMin) const
+{
+    DecimalBuffer buffer;
+    std::string text(writeUnits(m_units, digitsMin, buffer));
+    if (digitsMin > scale)
+        text.append(digitsMin - scale, '0');
+    return text;
+}
+
+double Decimal::toDouble() const noexcept
+{
+    DecimalBuffer buffer;
+    const std::string_view text = writeUnits(m_units, 0, buffer);
+    double value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+unsigned Decimal::digits() const noexcept
+{
+    unsigned digits = scale;
+    for (Magnitude left = magnitude(m_units); digits > 0 && left % 10 == 0; left /= 10)
+        --digits;
+    return digits;
+}
+
+Decimal &Decimal::operator+=(const Decimal &other)
+{
+    Units sum = 0;
+    if (__builtin_add_overflow(m_units, other.m_units, &sum) || sum < -highest)
+        throwOverflow();
+    m_units = sum;
+    return *this;
+}
+
+Decimal &Decimal::operator-=(const Decimal &other)
+{
+    return *this += -other;
+}
+
+Decimal Decimal::operator-() const
+{
+    Decimal negated;
+    negated.m_units = -m_units;
+    return negated;
+}
+
+Decimal operator*(const Decimal &a, const Decimal &b)
+{
+    Decimal result;
+    result.m_units = quotient<Wide>(Wide(a.m_units) * Wide(b.m_units), Wide(one));
+    return result;
+}
+
+Decimal Decimal::times(std::string_view factor) const
+{
+    Decimal result;
+    result.m_units = product(m_units, readExact(factor));
+    return result;
+}
+
+Decimal Decimal::times(double factor) const
+{
+    std::array<char, 32> buffer;
+    return times(shortestText(factor, buffer));
+}
+
+Decimal Decimal::scaled(std::int64_t numerator, std::int64_t denominator) const
+{
+    if (denominator == 0)
+        throw std::logic_error("A decimal number was to be divided by zero.");
+    const Wide sign = denominator < 0 ? -1 : 1;
+    Decimal result;
+    result.m_units =
+        quotient<Wide>(Wide(m_units) * Wide(numerator) * sign, Wide(denominator) * sign);
+    return result;
+}
+
+Decimal Decimal::roundedHalfEven(unsigned digits) const
+{
+    if (digits >= scale)
+        return *this;
+    const auto step = static_cast<Magnitude>(powerOfTen(scale - digits));
+    const Magnitude all = magnitude(m_units);
+    Magnitude whole = all / step;
+    if (roundsAway<Magnitude>(all % step, step, whole % 2 != 0))
+        ++whole;
+    // The quotient is far below the highest magnitude, its product is not.
+    if (whole > static_cast<Magnitude>(highest) / step)
+        throwOverflow();
+    const auto units = static_cast<Units>(whole * step);
+    Decimal result;
+    result.m_units = m_units < 0 ? -units : units;
+    return result;
+}
+
+Decimal Decimal::abs() const
+{
+    return m_units < 0 ? -*this : *this;
+}
+
+namespace rounders {
+
+Decimal currency_even(const Decimal &value, unsigned digits, RoundingMode mode)
+{
+    if (mode != RoundingMode::HalfToEven)
+        throw std::logic_error("An unknown rounding mode was supplied.");
+    return value.roundedHalfEven(digits);
+}
+
+} // namespace rounders
+
+std::ostream &operator<<(std::ostream &out, const Decimal &decimal)
+{
+    return out << decimal.toText();
+}
+
+} // namespace numira

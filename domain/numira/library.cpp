@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "numira/library.h"
+
+#include "numira/error.h"
+
+#include <unicode/uenum.h>
+#include <unicode/uloc.h>
+
+#include <array>
+#include <optional>
+#include <set>
+
+namespace numira {
+namespace {
+
+struct LibraryState {
+    Converter converter;
+    std::string locale = "en_US";
+};
+
+LibraryState &state()
+{
+    static LibraryState theState;
+    return theState;
+}
+
+/// The locales for which ICU has data, older names included.
+std::set<std::string> availableLocales()
+{
+    std::set<std::string> names;
+    UErrorCode status = U_ZERO_ERROR;
+    UEnumeration *all = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
+    while (const char *name = uenum_next(all, nullptr, &status))
+        names.emplace(name);
+    uenum_close(all);
+    return names;
+}
+
+/// ICU's name of what may be a POSIX name such as "de_DE.UTF-8", or nothing.
+using NameFunction = int32_t (*)(const char *, char *, int32_t, UErrorCode *);
+std::optional<std::string> normalised(const std::string &name, NameFunction function)
+{
+    std::array<char, ULOC_FULLNAME_CAPACITY> buffer{};
+    UErrorCode status = U_ZERO_ERROR;
+    const int32_t length =
+        function(name.c_str(), buffer.data(), static_cast<int32_t>(buffer.size()), &status);
+    if (U_FAILURE(status) || length <= 0 || length >= static_cast<int32_t>(buffer.size()))
+        return std::nullopt;
+    return std::string(buffer.data(), static_cast<std::size_t>(length));
+}
+
+} // namespace
+
+void setUpLibrary(const Converter &converter, const std::string &localeName,
+                  ShouldAllowFallback fallback)
+{
+    static const std::set<std::string> available = availableLocales();
+    std::optional<std::string> locale = normalised(localeName, uloc_canonicalize);
+    if (!locale || !available.contains(*locale)) {
+        if (fallback == ShouldAllowFallback::No)
+            throw Error("The locale '" + localeName + "' is unknown.");
+        locale = normalised(localeName, uloc_getLanguage);
+        if (!locale || !available.contains(*locale))
+            locale = "en_US";
+    }
+    Converter copy = converter;
+    state().converter.swap(copy);
+    state().locale.swap(*locale);
+}
+
+const std::string &libraryLocale()
+{
+    return state().locale;
+}
+
+FloatingPoint conversionRate(const Currency &from, const Currency &to)
+{
+    if (from == to)
+        return 1;
+    const std::string pair = toStdString(from) + " to " + toStdString(to);
+    if (!state().converter)
+        throw ConversionError("There is no converter from " + pair + ".");
+    FloatingPoint rate = state().converter(from, to);
+    if (!isfinite(rate) || rate <= 0)
+        throw ConversionError("The rate from " + pair + " is not usable.");
+    return rate;
+}
+
+} // namespace numira
