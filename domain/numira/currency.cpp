@@ -77,7 +77,7 @@ class CurrencyTable {
 public:
     CurrencyTable()
     {
-        for (const std::string &code : listedCodes(UCURR_ALL | UCURR_NON_DEPRECATED))
+        for (const std::string &code : listedCodes(UCURR_NON_DEPRECATED))
             add(code);
         // After the active ones: a withdrawn currency may have left its number
         // to its successor.
