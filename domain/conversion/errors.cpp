@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "conversion/errors.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::conversion {
+
+ConversionError::~ConversionError() = default;
+
+namespace internal {
+
+using foundation::presentationText;
+
+ConversionError rateOutOfRange(const numira::Currency &currency)
+{
+    return ConversionError(
+        QObject::tr("The exchange rate of '%1' must be a positive number between 10^-12 and 10^12.")
+            .arg(presentationText(currency)));
+}
+
+ConversionError baseRateNotOne(const numira::Currency &base)
+{
+    return ConversionError(QObject::tr("The exchange rate of the base currency '%1' must be 1.")
+                               .arg(presentationText(base)));
+}
+
+ConversionError tableWithoutBase()
+{
+    return ConversionError(QObject::tr("Exchange rates must be given for a base currency."));
+}
+
+ConversionError tableWithoutTime()
+{
+    return ConversionError(QObject::tr("Exchange rates must have the time they were fetched at."));
+}
+
+ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to)
+{
+    return ConversionError(QObject::tr("There is no exchange rate from '%1' to '%2'.")
+                               .arg(presentationText(from), presentationText(to)));
+}
+
+} // namespace internal
+
+} // namespace kiv::conversion

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/currency_display.h"
+
+#include "foundation/presentation.h"
+#include "foundation/streams.h"
+
+#include <QtCore/QObject>
+
+#include <array>
+#include <stdexcept>
+
+namespace kiv::navigation {
+
+namespace {
+
+/// By value.
+constexpr std::array optionNames{
+    QT_TRANSLATE_NOOP("QObject", "ISO-4217 Code"),
+    QT_TRANSLATE_NOOP("QObject", "Symbol"),
+    QT_TRANSLATE_NOOP("QObject", "Symbol and Code"),
+};
+
+const char *nameOf(CurrencyDisplayOptions option)
+{
+    const auto value = static_cast<std::size_t>(option);
+    if (value >= optionNames.size()) {
+        throw std::logic_error(
+            QStringLiteral("Failed to convert from the strong value '%1' to the another type for "
+                           "'%2'.")
+                .arg(QString::number(value), QStringLiteral("QString"))
+                .toStdString());
+    }
+    return optionNames.at(value);
+}
+
+std::optional<QString> symbolOf(const numira::Currency &currency)
+{
+    const auto symbol = numira::currencySymbol(currency);
+    return symbol ? std::optional(QString::fromStdString(*symbol)) : std::nullopt;
+}
+
+} // namespace
+
+QString toQString(const CurrencyDisplayOptions &option)
+{
+    return QString::fromLatin1(nameOf(option));
+}
+
+QString presentationText(const CurrencyDisplayOptions &option)
+{
+    return QObject::tr(nameOf(option));
+}
+
+CurrencyDisplayOptions toCurrencyDisplayOptions(const QString &text)
+{
+    // A translation may use one option's English name for another, so all
+    // translated names come first.
+    for (const auto toText : {&presentationText, &toQString}) {
+        for (std::size_t value = 0; value < optionNames.size(); ++value) {
+            const auto option = static_cast<CurrencyDisplayOptions>(value);
+            if (toText(option) == text)
+                return option;
+        }
+    }
+    throw std::logic_error(
+        QStringLiteral("Failed to convert from the weak value '%1' to another type for '%2'.")
+            .arg(text, QStringLiteral("kiv::navigation::CurrencyDisplayOptions"))
+            .toStdString());
+}
+
+QString toDisplayable(const numira::Currency &currency, CurrencyDisplayOptions option)
+{
+    const QString code = foundation::toQString(currency);
+    switch (option) {
+    case CurrencyDisplayOptions::IsoCode:
+        return code;
+    case CurrencyDisplayOptions::Symbol:
+        return symbolOf(currency).value_or(code);
+    case CurrencyDisplayOptions::SymbolAndCode: {
+        const auto symbol = symbolOf(currency);
+        return symbol ? QStringLiteral("%1 [%2]").arg(code, *symbol) : code;
+    }
+    }
+    throw std::logic_error("Failed to determine the way to display currency.");
+}
+
+numira::Currency toCurrencyFromDisplayable(const QString &text,
+                                           const std::set<numira::Currency> &usable,
+                                           CurrencyDisplayOptions option)
+{
+    if (text.isEmpty())
+        return {};
+    switch (option) {
+    case CurrencyDisplayOptions::IsoCode:
+        return numira::toCurrency(text.toStdString());
+    case CurrencyDisplayOptions::Symbol:
+        for (const auto &currency : usable) {
+            if (symbolOf(currency) == text)
+                return currency;
+        }
+        throw std::logic_error("Failed to determine the currency from its symbol.");
+    case CurrencyDisplayOptions::SymbolAndCode:
+        return numira::toCurrency(text.left(3).toStdString());
+    }
+    throw std::logic_error("Failed to determine the way the currency was displayed.");
+}
+
+std::ostream &operator<<(std::ostream &out, CurrencyDisplayOptions option)
+{
+    const auto value = static_cast<std::size_t>(option);
+    if (value < optionNames.size())
+        return out << optionNames.at(value);
+    return out << "Unknown currency display option: " << value;
+}
+
+QDebug operator<<(QDebug debug, CurrencyDisplayOptions option)
+{
+    return foundation::streamed(debug, option);
+}
+
+} // namespace kiv::navigation
