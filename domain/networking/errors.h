@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "networking/export.h"
+
+#include "foundation/error.h"
+
+#include <QtCore/QString>
+
+namespace kiv::networking {
+
+/// A reply of a server that is refused. Its text is English and for the log.
+class KIV_NETWORKING_EXPORT ReplyError final : public foundation::Error {
+public:
+    using foundation::Error::Error;
+    ~ReplyError() override;
+};
+
+/// The reasons for which a request fails or a reply is refused. None holds a
+/// request's address.
+namespace internal {
+
+[[nodiscard]] QString managerDestroyed();
+[[nodiscard]] QString noSender();
+[[nodiscard]] QString addressNotAllowed();
+[[nodiscard]] QString redirectNotAllowed();
+[[nodiscard]] QString tooManyRedirects(int redirectsMax);
+[[nodiscard]] QString timedOut(qint64 milliseconds);
+[[nodiscard]] QString bodyTooLarge(qint64 bytesMax);
+[[nodiscard]] QString statusNotOk(int status);
+[[nodiscard]] QString contentEncoded();
+/// `error` is the name of a QNetworkReply::NetworkError.
+[[nodiscard]] QString transferFailed(const QString &error);
+
+[[nodiscard]] ReplyError requestFailed(const QString &reason);
+[[nodiscard]] ReplyError notJsonType(const QString &contentType);
+[[nodiscard]] ReplyError notJson(const QString &reason, int offset);
+[[nodiscard]] ReplyError duplicateMembers();
+
+} // namespace internal
+
+} // namespace kiv::networking

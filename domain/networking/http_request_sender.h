@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "networking/export.h"
+#include "networking/request_sender.h"
+
+#include <chrono>
+#include <map>
+#include <memory>
+
+QT_BEGIN_NAMESPACE
+class QNetworkAccessManager;
+QT_END_NAMESPACE
+
+namespace kiv::networking {
+
+namespace internal {
+class HttpExchange;
+}
+
+/// How much a server may ask of us.
+struct HttpLimits {
+    /// For one request from beginning to end, its redirects included.
+    std::chrono::milliseconds timeout{30'000};
+    /// Of a body, in bytes.
+    qint64 bodyMax = qint64{1} << 20;
+    int redirectsMax = 3;
+};
+
+/// Sends requests over HTTPS. Plain HTTP goes only to a loopback address
+/// written as a number, as a service on the same computer offers it.
+///
+/// A redirect is followed to the same host alone and never from HTTPS to plain
+/// HTTP. Only a reply with status 200, complete in time and no larger than the
+/// limit, is a success; no more than the limit is ever read. No cookie is kept
+/// and nothing cached.
+class KIV_NETWORKING_EXPORT HttpRequestSender final : public RequestSender {
+    Q_OBJECT
+public:
+    explicit HttpRequestSender(const HttpLimits &limits = {});
+    ~HttpRequestSender() override;
+
+    void send(kiv::networking::RequestNumber request, const QUrl &url) override;
+    void cancel(kiv::networking::RequestNumber request) override;
+
+private:
+    HttpLimits m_limits;
+    std::unique_ptr<QNetworkAccessManager> m_network;
+    std::map<RequestNumber, std::unique_ptr<internal::HttpExchange>> m_exchanges;
+};
+
+} // namespace kiv::networking

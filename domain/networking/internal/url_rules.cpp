@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "networking/internal/url_rules.h"
+
+#include <QtNetwork/QHostAddress>
+
+namespace kiv::networking::internal {
+
+namespace {
+
+bool isHttps(const QUrl &url)
+{
+    return url.scheme() == QStringLiteral("https");
+}
+
+} // namespace
+
+bool isAllowed(const QUrl &url)
+{
+    if (!url.isValid() || url.host().isEmpty())
+        return false;
+    return isHttps(url) ||
+           (url.scheme() == QStringLiteral("http") && QHostAddress(url.host()).isLoopback());
+}
+
+bool isRedirectAllowed(const QUrl &from, const QUrl &to)
+{
+    return isAllowed(to) && to.host() == from.host() && (isHttps(to) || !isHttps(from));
+}
+
+} // namespace kiv::networking::internal

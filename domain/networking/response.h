@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "networking/export.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDebug>
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+
+#include <ostream>
+
+namespace kiv::networking {
+
+/// How a request ended: with a body and its content type, or with the reason
+/// for which there is none. A reason is English and for the log; it never holds
+/// the request's address, whose query may carry a secret.
+class KIV_NETWORKING_EXPORT Response {
+public:
+    /// A failure without a reason.
+    Response() = default;
+    [[nodiscard]] static Response succeeded(QByteArray body, QString contentType);
+    [[nodiscard]] static Response failed(QString reason);
+
+    [[nodiscard]] bool isSuccess() const noexcept { return m_isSuccess; }
+    [[nodiscard]] const QByteArray &body() const noexcept { return m_body; }
+    /// As the server wrote it, such as "application/json; charset=utf-8".
+    [[nodiscard]] const QString &contentType() const noexcept { return m_contentType; }
+    [[nodiscard]] const QString &failure() const noexcept { return m_failure; }
+
+    friend bool operator==(const Response &, const Response &) = default;
+
+private:
+    bool m_isSuccess = false;
+    QByteArray m_body;
+    QString m_contentType;
+    QString m_failure;
+};
+
+/// Its size and type, or the reason; never the body.
+KIV_NETWORKING_EXPORT std::ostream &operator<<(std::ostream &out, const Response &response);
+KIV_NETWORKING_EXPORT QDebug operator<<(QDebug debug, const Response &response);
+
+} // namespace kiv::networking
+
+Q_DECLARE_METATYPE(kiv::networking::Response)
