@@ -38,7 +38,7 @@ Error::Error(const QString &message) : m_message(message), m_what(message.toUtf8
 Error::Error(const QString &message, const std::exception &cause)
     : m_message(message), m_what(message.toUtf8()), m_cause(kept(cause))
 {
-    if (m_cause)
+    if (m_cause && *cause.what() != '\0')
         m_what.append(" Caused by: ").append(cause.what());
 }
 

@@ -159,7 +159,9 @@ std::string_view shortestText(double value, std::array<char, 32> &buffer)
 {
     if (!std::isfinite(value))
         throw InvalidAmount("A number that is not finite is no amount.");
-    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    // Without an exponent large integers would be written with all their binary digits.
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::scientific);
     return {buffer.data(), written.ptr};
 }
 
