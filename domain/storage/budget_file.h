@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/budget_storage.h"
+
+#include <memory>
+
+namespace kiv::storage {
+
+/// A budget in a file. docs/file-format.md describes the file, how it is
+/// saved, and what is mended when it is loaded.
+///
+/// A file that was loaded or stored stays locked against every other
+/// BudgetFile, here or in another process, until another file is loaded or
+/// stored or this object ends.
+class KIV_STORAGE_EXPORT BudgetFile final : public BudgetStorage {
+public:
+    /// How many previous versions are kept next to the file unless told
+    /// otherwise.
+    static constexpr unsigned backupsByDefault = 5;
+
+    explicit BudgetFile(unsigned backups = backupsByDefault);
+    ~BudgetFile() override;
+
+    void setFilePathName(const QString &filePathName) override;
+    /// What does not fit together in the file but could be made so by allowed
+    /// requests is mended, with a warning in the log for each mended thing.
+    [[nodiscard]] Data load() override;
+    void store(const Data &data) override;
+    [[nodiscard]] QString filePathName() const override;
+
+private:
+    class OpenFile;
+
+    unsigned m_backups;
+    QString m_chosenPath;
+    std::unique_ptr<OpenFile> m_open;
+};
+
+} // namespace kiv::storage
