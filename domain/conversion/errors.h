@@ -24,6 +24,14 @@ namespace internal {
 [[nodiscard]] ConversionError tableWithoutTime();
 [[nodiscard]] ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to);
 
+// The rest goes to the log and is English.
+[[nodiscard]] ConversionError replyMalformed(const QString &member);
+[[nodiscard]] ConversionError replyUnknownCurrency(const QString &code);
+[[nodiscard]] QString fetchTimedOut();
+[[nodiscard]] QString sourceGone();
+[[nodiscard]] QString senderGone();
+[[nodiscard]] QString noWantedRates();
+
 } // namespace internal
 
 } // namespace kiv::conversion
