@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The Navigator's sources, by topic. Each group of slots below names its own.
+//
+//   navigator.cpp                construction, wiring, the rest of the object
+//   navigator_meta_types.cpp     the types that cross signals and slots
+//   navigator_budget_file.cpp    new, load, reload, save
+//   navigator_budget_items.cpp   bills, debts, goals, non-tracked items, wages
+//   navigator_accounts.cpp       accounts, banks and bank accounts
+//   navigator_transactions.cpp   transactions, refunds and transfers
+//   navigator_processing.cpp     items that are due
+
+#include "navigation/allow_sub_accounts.h"
+#include "navigation/bank_account_code.h"
+#include "navigation/budget_bank_account.h"
+#include "navigation/container_streams.h"
+#include "navigation/currency_display.h"
+#include "navigation/export.h"
+#include "navigation/gui_element_identifier.h"
+#include "navigation/user_preferences.h"
+
+#include "accounting/account.h"
+#include "accounting/transaction.h"
+#include "banking/bank_map.h"
+#include "budgeting/budget_totals.h"
+#include "budgeting/due.h"
+#include "foundation/error.h"
+#include "foundation/percentage.h"
+#include "foundation/qt_ptr.h"
+#include "tagging/budget_tag_manager.h"
+
+#include <QtCore/QDate>
+#include <QtCore/QObject>
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace kiv::conversion {
+class OpenExchangeRatesSource;
+}
+namespace kiv::networking {
+class RequestManager;
+class RequestSender;
+} // namespace kiv::networking
+namespace kiv::storage {
+class BudgetStorage;
+class ExchangeRatesStorage;
+} // namespace kiv::storage
+
+namespace kiv::navigation {
+
+namespace internal {
+class BudgetBankLedgers;
+}
+
+/// Stands between the views and one budget in memory, and owns both that budget
+/// and all that is needed to keep it: storages, preferences, exchange rates.
+///
+/// A view calls a slot; the Navigator changes or reads the model and answers
+/// with Q_SIGNALS:
+/// - slots named onPrepareShow… and onLookUp… change nothing; they answer with
+///   one show… or lookedUp… signal that carries all that the view draws. What
+///   they cannot answer leaves them as an exception;
+/// - every other slot answers with a …Succeeded or …Failed signal for each
+///   change. A failure carries a message for the user. It means that nothing was
+///   changed, but where docs/architecture.md lists an exception to that.
+///
+/// A change that succeeded marks the budget as changed before it is announced,
+/// and is announced when the model is whole again. So a view may call any slot,
+/// onCheckIsBudgetFileDirty or another change, from inside its handler.
+///
+/// Wrong use is not answered with a signal: an unknown enumerator, or a bank
+/// account for a kind of item that has none, leaves the slot as
+/// std::logic_error, an item of another class than its type as std::bad_cast.
+/// Loading and saving let the storages' errors out. A front end guards its event
+/// loop's notify() against them and goes on; the budget in memory stays.
+///
+/// Everything runs on the thread that owns the Navigator. Create it after the
+/// application object, and keep it until the application ends: the first one of
+/// a process converts amounts for the whole process.
+class KIV_NAVIGATION_EXPORT Navigator final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Starts with an empty budget and without a file, takes the last known
+    /// exchange rates from their storage, and starts looking for new releases.
+    /// Soon after the event loop runs it refreshes expired exchange rates and,
+    /// when no preferences were ever stored, offers the first-time wizard.
+    ///
+    /// None of the three may be null. Rates that cannot be read are no error:
+    /// a warning is logged, and conversions fail where they are needed.
+    Navigator(kiv::foundation::UniqueQtPtr<kiv::networking::RequestSender> sender,
+              std::unique_ptr<kiv::storage::BudgetStorage> budgetFiles,
+              std::unique_ptr<kiv::storage::ExchangeRatesStorage> exchangeRates);
+    ~Navigator() override;
+
+    /// Forgets the budget in memory, the file and unsaved changes. Tags,
+    /// preferences and exchange rates stay.
+    void clear();
+
+    /// Marks one side of a transaction as cleared, or both without an account.
+    void markCleared(kiv::accounting::TransactionNumber tn,
+                     std::optional<kiv::accounting::AccountNumber> account);
+    /// Takes the reconciliation of both sides of a transaction back.
+    void markUnreconciled(kiv::accounting::TransactionNumber tn);
+
+Q_SIGNALS:
+    // ---- budget items -------------------------------------------------------
+
+    /// Answers onPrepareShowBills.
+    void showBills(const kiv::budgeting::BillMap &bills, const numira::Currency &preferred,
+                   const kiv::tagging::Tags &possibleTags,
+                   const kiv::tagging::BudgetItemTags &associatedTags,
+                   const std::set<numira::Currency> &usableCurrencies,
+                   const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowNontracks.
+    void showNontracks(const kiv::budgeting::NontrackMap &nontracks,
+                       const numira::Currency &preferred, const kiv::tagging::Tags &possibleTags,
+                       const kiv::tagging::BudgetItemTags &associatedTags,
+                       const std::set<numira::Currency> &usableCurrencies,
+                       const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowWages.
+    void showWages(const kiv::budgeting::WageMap &wages, const numira::Currency &preferred,
+                   const kiv::tagging::Tags &possibleTags,
+                   const kiv::tagging::BudgetItemTags &associatedTags,
+                   const std::set<numira::Currency> &usableCurrencies,
+                   const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// The change of a budget item for which `id` asked was made.
+    void saveSucceeded(const kiv::navigation::GuiElementIdentifier &id,
+                       const kiv::budgeting::BudgetSource &source);
+    /// It was not: with the item's name as it was, and as it is displayed.
+    void saveFailed(const kiv::navigation::GuiElementIdentifier &id,
+                    const std::optional<kiv::budgeting::BudgetSource> &original,
+                    const QString &errorMessage,
+                    const std::optional<kiv::budgeting::BudgetSource> &displayed);
+
+    // ---- accounts and transactions ------------------------------------------
+
+    /// Answers onPrepareShowAccounts.
+    void showAccounts(const std::set<kiv::accounting::Account> &accounts,
+                      const std::set<numira::Currency> &usableCurrencies,
+                      const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    void accountSaveSucceeded(const kiv::accounting::AccountCode &code);
+    void accountSaveFailed(const std::optional<kiv::accounting::AccountCode> &original,
+                           const QString &errorMessage,
+                           const std::optional<kiv::accounting::AccountCode> &displayed);
+    /// Answers onPrepareShowLedgers.
+    void showLedgers(const std::set<kiv::accounting::Account> &accounts,
+                     const std::set<numira::Currency> &usableCurrencies,
+                     const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onSelectedLedger.
+    void showLedger(const kiv::accounting::LedgerAccount &ledger);
+    /// The number by which the view knows the transaction, and the one under
+    /// which it was posted.
+    void
+    transactionSaveSucceeded(const std::optional<kiv::accounting::TransactionNumber> &displayed,
+                             const std::optional<kiv::accounting::TransactionNumber> &posted);
+    void transactionSaveFailed(const std::optional<kiv::accounting::TransactionNumber> &tn,
+                               const QString &errorMessage);
+
+    // ---- banks --------------------------------------------------------------
+
+    /// Answers onPrepareShowBanks.
+    void showBanks(const kiv::banking::BankMap &banks,
+                   const std::set<kiv::accounting::Account> &allAccounts,
+                   const std::set<numira::Currency> &usableCurrencies,
+                   const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    void bankSaveSucceeded(const kiv::banking::BankName &bn);
+    void bankSaveFailed(const std::optional<kiv::banking::BankName> &original,
+                        const QString &errorMessage,
+                        const std::optional<kiv::banking::BankName> &displayed);
+    void bankAccountSaveSucceeded(const kiv::accounting::AccountCode &ac);
+    void bankAccountSaveFailed(const std::optional<kiv::accounting::AccountCode> &original,
+                               const QString &errorMessage,
+                               const std::optional<kiv::accounting::AccountCode> &displayed);
+
+    // ---- processing and surveys ---------------------------------------------
+
+    /// Answers onPrepareShowProcessBudgetItems.
+    void showProcessBudgetItems(const std::chrono::days &dueWithin,
+                                const std::vector<kiv::budgeting::BudgetItemAmountDue> &items,
+                                const std::set<kiv::banking::BankName> &banks,
+                                const numira::Currency &preferredCurrency,
+                                const std::set<numira::Currency> &usableCurrencies,
+                                const kiv::navigation::CurrencyDisplayOptions &displayAs,
+                                const std::set<kiv::accounting::AccountCode> &codes);
+    /// Answers onLookUpBankAccounts.
+    void lookedUpBankAccounts(const kiv::banking::BankName &bn,
+                              const std::set<kiv::banking::AccountNumberBankType> &accountTypes);
+    /// Answers onLookUpBudgetItemSources.
+    void lookedUpBudgetItemSources(const kiv::budgeting::BudgetItemDueIdentifier &requestedBy,
+                                   const std::set<kiv::budgeting::BudgetSource> &sources);
+    /// The due item was posted, with the transaction's number, or skipped.
+    void
+    processBudgetItemSaveSucceeded(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
+                                   const std::optional<kiv::accounting::TransactionNumber> &txnNum);
+    void processBudgetItemSaveFailed(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
+                                     const QString &errorMessage);
+
+    // ---- budget file --------------------------------------------------------
+
+    /// Asks whether unsaved changes may be given up for a new budget.
+    void showConfirmNewBudget();
+    /// The budget was emptied.
+    void showNewBudget();
+    /// Asks whether unsaved changes may be given up for what is in the file.
+    void showConfirmLoadBudgetFile(const QString &filePathName);
+    void loadedBudgetFile(const QString &filePathName, bool isReloaded);
+    /// Asks for a file name, since the budget has none.
+    void showSaveAsBudgetFile();
+    void savedBudgetFile(const QString &filePathName);
+    /// There is no file to be reloaded.
+    void showNoBudgetFileOpened();
+    /// Answers onCheckIsBudgetFileDirty.
+    void checkedIsBudgetFileDirty(bool isDirty);
+
+    // ---- transfers, refunds, wizard -----------------------------------------
+
+    /// Answers onPrepareShowMoneyTransfer.
+    void showMoneyTransfer(const std::set<kiv::navigation::BankAccountCode> &fromBanks,
+                           const std::set<kiv::navigation::BankAccountCode> &toBanks,
+                           const std::set<numira::Currency> &usableCurrencies,
+                           const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowBudgetItemRefund.
+    void showBudgetItemRefund(const std::set<numira::Currency> &codes,
+                              const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onLookUpRefundableTransactions.
+    void lookedUpRefundableTransactions(const kiv::budgeting::BudgetItemIdentifier &bii,
+                                        const kiv::accounting::AccountCode &ac,
+                                        const std::set<kiv::accounting::Transaction> &txns);
+
+public Q_SLOTS:
+    // ---- budget items: navigator_budget_items.cpp ---------------------------
+
+    void onPrepareShowBills();
+    void onPrepareShowNontracks();
+    void onPrepareShowWages();
+    /// Answers true when the item was added. Only debts and goals take a bank
+    /// account.
+    bool onAdded(const kiv::navigation::GuiElementIdentifier &id,
+                 const kiv::budgeting::BudgetItemTypes &type,
+                 const kiv::budgeting::BudgetedMoney &item,
+                 const std::optional<kiv::banking::BankAccount> &ba,
+                 const kiv::tagging::BudgetItemTags::ItemTags &itemTags);
+    /// Its success names the item as it was called before.
+    void onRenamed(const kiv::navigation::GuiElementIdentifier &id,
+                   const kiv::budgeting::BudgetItemTypes &type,
+                   const kiv::budgeting::BudgetSource &original,
+                   const kiv::budgeting::BudgetSource &changed);
+    void onUpdated(const kiv::navigation::GuiElementIdentifier &id,
+                   const kiv::budgeting::BudgetItemTypes &type,
+                   const kiv::budgeting::BudgetedMoney &item,
+                   const std::optional<kiv::banking::BankAccount> &ba,
+                   const kiv::tagging::BudgetItemTags::ItemTags &itemTags);
+    void onRemoved(const kiv::navigation::GuiElementIdentifier &id,
+                   const kiv::budgeting::BudgetItemTypes &type,
+                   const kiv::budgeting::BudgetSource &source);
+
+    // ---- accounts: navigator_accounts.cpp -----------------------------------
+
+    void onPrepareShowAccounts();
+    void onAddedAct(const kiv::accounting::Account &act);
+    /// Its success carries the code before the change.
+    void onRecoded(const kiv::accounting::AccountCode &current,
+                   const kiv::accounting::AccountCode &changed);
+    void onClosed(const kiv::accounting::AccountCode &code);
+    void onOpened(const kiv::accounting::AccountCode &code);
+    void onRemovedAct(const kiv::accounting::AccountCode &code);
+    void onPrepareShowLedgers();
+    void onSelectedLedger(const kiv::accounting::AccountCode &code);
+
+    // ---- transactions: navigator_transactions.cpp ---------------------------
+
+    void onAddedTransaction(const kiv::accounting::Transaction &txn);
+    void onUpdatedTransaction(const kiv::accounting::TransactionNumber &tn,
+                              const kiv::accounting::Transaction &txn);
+    /// Answers for each of them. Where one side is reconciled, the other alone
+    /// is marked.
+    void onMarkCleared(const std::set<kiv::accounting::TransactionNumber> &tns);
+    /// Answers for each of them.
+    void onMarkUnreconciled(const std::set<kiv::accounting::TransactionNumber> &tns);
+    void onMarkReconciled(const kiv::accounting::TransactionNumber &tn);
+    void onRemovedTransaction(const kiv::accounting::TransactionNumber &tn);
+
+    // ---- banks: navigator_accounts.cpp --------------------------------------
+
+    void onPrepareShowBanks();
+    void onBankAdded(const kiv::banking::Bank &b);
+    void onBankUpdated(const kiv::banking::Bank &b);
+    /// Its success carries the new name.
+    void onBankRenamed(const kiv::banking::BankName &original,
+                       const kiv::banking::BankName &change);
+    void onBankClosed(const kiv::banking::BankName &bn);
+    void onBankOpened(const kiv::banking::BankName &bn);
+    void onBankRemoved(const kiv::banking::BankName &bn);
+    /// Opens a ledger account of the matching kind; it belongs to no bank yet.
+    /// Answers with its code when it was added.
+    std::optional<kiv::accounting::AccountCode>
+    onAddedBankAccount(const QString &name, const kiv::banking::BankAccountTypes &type,
+                       const numira::Money &openingBalance);
+    /// Its success carries the new code.
+    void onRenamedBankAccount(const kiv::accounting::AccountCode &original,
+                              const kiv::accounting::AccountCode &changed);
+    void onRemovedBankAccount(const kiv::accounting::AccountCode &ac);
+
+    // ---- processing: navigator_processing.cpp, surveys: navigator_surveys.cpp
+
+    void onPrepareShowProcessBudgetItems();
+    void onLookUpBankAccounts(const kiv::banking::BankName &bn,
+                              const kiv::navigation::AllowSubAccounts &shouldAllow);
+    void onLookUpBudgetItemSources(const kiv::budgeting::BudgetItemDueIdentifier &requestedBy);
+    void onPostBudgetItemPosted(const kiv::budgeting::BudgetItemAmountDue &bid,
+                                const kiv::accounting::AccountCode &ac, const QDate &postOn);
+    void onPostBudgetItemPostedUnexpected(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
+                                          const numira::Money &amount,
+                                          const kiv::accounting::AccountCode &ac,
+                                          const QDate &postOn);
+    void onPostBudgetItemSkipped(const kiv::budgeting::BudgetItemDueIdentifier &bidi);
+
+    // ---- budget file: navigator_budget_file.cpp -----------------------------
+
+    /// Asks for confirmation only when something would be lost.
+    void onPrepareNewBudgetEmpty();
+    void onConfirmedNewBudgetEmpty();
+    /// Asks for confirmation whenever there are unsaved changes, even of an
+    /// empty budget.
+    void onLoadBudgetFile(const QString &filePathName);
+    /// Lets a storage's error out. Then the budget in memory, its file and the
+    /// mark of unsaved changes are as they were.
+    void onConfirmedLoadBudgetFile(const QString &filePathName, const bool &isReloaded);
+    void onSaveBudgetFile();
+    /// Appends ".budget" to a name that does not end so. Lets a storage's error
+    /// out; then the budget still counts as changed.
+    void onSaveAsBudgetFile(const QString &filePathName);
+    /// Gives unsaved changes up without asking. When the file cannot be read, an
+    /// empty budget is left.
+    void onReloadBudgetFile();
+    void onCheckIsBudgetFileDirty();
+
+    // ---- transfers and refunds: navigator_transactions.cpp ------------------
+
+    void onPrepareShowMoneyTransfer();
+    void onTransferRequested(const kiv::accounting::AccountNumber &from,
+                             const kiv::accounting::AccountNumber &to, const numira::Money &amount,
+                             const QString &reason);
+    void onPrepareShowBudgetItemRefund();
+    void onLookUpRefundableTransactions(const kiv::budgeting::BudgetItemIdentifier &bii);
+    /// Does not mark the budget as changed.
+    void onPostRefund(const kiv::accounting::TransactionNumber &txnNum,
+                      const numira::Money &refund);
+
+private:
+    /// Runs `operation`. When it throws an error of the class Caught, that is
+    /// logged behind `sentence` and handed to `failure` as a text for the user.
+    /// Tells whether it went well.
+    template <typename Caught = foundation::Error, typename Operation, typename Failure>
+    bool attempt(const char *sentence, Operation &&operation, Failure &&failure);
+
+    /// The shape of all slots that change the budget: runs `operation`, marks
+    /// the budget as changed and calls `success`, or else calls `failure`, as
+    /// attempt() says. Tells whether the budget was changed.
+    template <typename Caught = foundation::Error, typename Operation, typename Success,
+              typename Failure>
+    bool change(const char *sentence, Operation &&operation, Success &&success, Failure &&failure);
+
+    std::optional<QString> m_budgetFile;
+    bool m_isDirty = false;
+    std::unique_ptr<internal::BudgetBankLedgers> m_budgetBankLedgers;
+    UserPreferences m_preferences;
+    foundation::QtPtr<networking::RequestManager> m_requestManager;
+    foundation::QtPtr<conversion::OpenExchangeRatesSource> m_exchangeRatesSource;
+    std::unique_ptr<storage::BudgetStorage> m_budgetStorage;
+    std::unique_ptr<storage::ExchangeRatesStorage> m_exchangeRatesStorage;
+    tagging::BudgetTagManager m_tagManager;
+};
+
+} // namespace kiv::navigation
