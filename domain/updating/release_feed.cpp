@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "updating/release_feed.h"
+
+namespace kiv::updating {
+
+ReleaseFeed ReleaseFeed::builtIn()
+{
+    return {QUrl(QStringLiteral(KIV_RELEASE_FEED)),
+            SemanticVersion::fromText(QStringLiteral(KIV_VERSION))};
+}
+
+} // namespace kiv::updating

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "updating/export.h"
+#include "updating/semantic_version.h"
+
+#include <QtCore/QDate>
+
+#include <set>
+
+namespace kiv::updating {
+
+/// One release of the application: its version, its day, and what is new in
+/// it, as text for the user. Ordered by version, then day, then notes.
+struct KIV_UPDATING_EXPORT ReleaseInformation {
+    SemanticVersion version;
+    QDate releasedOn;
+    QString notes;
+
+    friend bool operator==(const ReleaseInformation &, const ReleaseInformation &) = default;
+    friend KIV_UPDATING_EXPORT std::strong_ordering operator<=>(const ReleaseInformation &a,
+                                                                const ReleaseInformation &b);
+};
+
+KIV_UPDATING_EXPORT std::ostream &operator<<(std::ostream &out, const ReleaseInformation &release);
+KIV_UPDATING_EXPORT QDebug operator<<(QDebug debug, const ReleaseInformation &release);
+
+} // namespace kiv::updating
+
+Q_DECLARE_METATYPE(kiv::updating::ReleaseInformation)
+Q_DECLARE_METATYPE(std::set<kiv::updating::ReleaseInformation>)
