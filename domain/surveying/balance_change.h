@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "surveying/export.h"
+
+#include "accounting/transaction.h"
+
+namespace kiv::surveying {
+
+/// A transaction together with what it did to the balance of the surveyed bank
+/// account. Two are the same exactly when their directions and their
+/// transactions' numbers are; decreases come before increases, then numbers
+/// count (none first).
+class KIV_SURVEYING_EXPORT BalanceChange {
+public:
+    BalanceChange() = default;
+    BalanceChange(bool isIncrease, accounting::Transaction transaction);
+
+    [[nodiscard]] bool isIncrease() const noexcept { return m_isIncrease; }
+    [[nodiscard]] const accounting::Transaction &transaction() const noexcept
+    {
+        return m_transaction;
+    }
+
+    friend KIV_SURVEYING_EXPORT std::strong_ordering operator<=>(const BalanceChange &a,
+                                                                 const BalanceChange &b) noexcept;
+    friend bool operator==(const BalanceChange &a, const BalanceChange &b) noexcept
+    {
+        return (a <=> b) == 0;
+    }
+
+private:
+    bool m_isIncrease = false;
+    accounting::Transaction m_transaction;
+};
+
+/// "+" or "-", and the transaction behind it.
+KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const BalanceChange &change);
+KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const BalanceChange &change);
+
+} // namespace kiv::surveying
+
+Q_DECLARE_METATYPE(kiv::surveying::BalanceChange)

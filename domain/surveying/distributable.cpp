@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "surveying/distributable.h"
+
+#include <stdexcept>
+
+namespace kiv::surveying {
+
+bool isDistributable(budgeting::BudgetItemTypes type, budgeting::EventFrequency period)
+{
+    using budgeting::BudgetItemTypes;
+    const bool isRare = budgeting::isRarerThanMonthly(period);
+    switch (type) {
+    case BudgetItemTypes::Goal:
+        return true;
+    case BudgetItemTypes::Bill:
+    case BudgetItemTypes::Debt:
+    case BudgetItemTypes::Nontrack:
+        return isRare;
+    case BudgetItemTypes::Wage:
+    case BudgetItemTypes::None:
+        return false;
+    }
+    throw std::logic_error("An unknown budget item type cannot be told to be distributable.");
+}
+
+} // namespace kiv::surveying

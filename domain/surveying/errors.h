@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "surveying/export.h"
+
+#include "banking/bank_account.h"
+
+#include "foundation/error.h"
+
+namespace kiv::surveying {
+
+/// An error about the survey of a bank account.
+class KIV_SURVEYING_EXPORT SurveyError : public foundation::Error {
+public:
+    SurveyError(banking::BankAccount account, const QString &message,
+                const std::exception &cause = std::exception());
+    SurveyError(const SurveyError &) noexcept;
+    ~SurveyError() override;
+    [[nodiscard]] const banking::BankAccount &account() const noexcept { return m_account; }
+
+private:
+    banking::BankAccount m_account;
+};
+
+/// The fault of a change whose amount is below zero.
+[[nodiscard]] KIV_SURVEYING_EXPORT foundation::Error negativeChange(const numira::Money &amount);
+
+/// The fault of a survey that is completed without a valid day.
+[[nodiscard]] KIV_SURVEYING_EXPORT SurveyError
+completedOnNoDay(const banking::BankAccount &account);
+
+} // namespace kiv::surveying

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tagging/budget_tag_manager.h"
+
+#include "foundation/streams.h"
+
+namespace kiv::tagging {
+
+BudgetTagManager::BudgetTagManager(BudgetItemTags associations)
+    : m_associations(std::move(associations)), m_possible(m_associations.allTags())
+{
+}
+
+BudgetItemTags BudgetTagManager::associated(budgeting::BudgetItemTypes type) const
+{
+    return m_associations.ofType(type);
+}
+
+bool BudgetTagManager::hasAssociation(const budgeting::BudgetItemIdentifier &item) const
+{
+    return m_associations.contains(item);
+}
+
+void BudgetTagManager::changeAssociation(const BudgetItemTags::ItemTags &item)
+{
+    m_possible.insert(item.tags());
+    m_associations.set(item);
+}
+
+void BudgetTagManager::renameAssociation(const budgeting::BudgetItemIdentifier &item,
+                                         const budgeting::BudgetSource &to)
+{
+    m_associations.rename(item, to);
+}
+
+void BudgetTagManager::removeAssociation(const budgeting::BudgetItemIdentifier &item)
+{
+    m_associations.remove(item);
+}
+
+void BudgetTagManager::remove(const Tags &tags)
+{
+    m_associations.remove(tags);
+    m_possible = m_possible.without(tags);
+}
+
+std::ostream &operator<<(std::ostream &out, const BudgetTagManager &manager)
+{
+    return out << manager.associations() << ", possible " << manager.possible();
+}
+
+QDebug operator<<(QDebug debug, const BudgetTagManager &manager)
+{
+    return foundation::streamed(debug, manager);
+}
+
+} // namespace kiv::tagging
