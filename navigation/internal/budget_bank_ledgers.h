@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "navigation/bank_account_code.h"
+#include "navigation/budget_bank_account.h"
+#include "navigation/internal/bank_ledgers.h"
+#include "navigation/internal/budget_ledgers.h"
+
+#include "budgeting/due.h"
+#include "surveying/completed_surveys.h"
+#include "surveying/indexed_increase_decreases.h"
+#include "surveying/mapping_survey.h"
+
+// BudgetBankLedgers is one class in several sources:
+//   budget_bank_ledgers.cpp               construction, whole state, comparison, text form
+//   budget_bank_ledgers_routing.cpp       what it hands on to one of its parts, and renaming
+//   budget_bank_ledgers_associations.cpp  debts and goals at a bank
+//   budget_bank_ledgers_accounts.cpp      recoding, bank accounts, surveys
+namespace kiv::navigation::internal {
+
+/// The whole accounting state of one budget file: ledger, budget, banks,
+/// completed surveys, the generator of account numbers, and the two objects
+/// that tie items and bank accounts to ledger accounts. Every change that
+/// touches more than one of them goes through here.
+///
+/// It is a value: a copy is independent of its source, and its BudgetLedgers
+/// and BankLedgers always observe its own members. A state that came about by
+/// allowed requests can always be copied and moved, also one in which an item or
+/// a bank has lost its account; only parts that come from outside are checked.
+///
+/// No account bears the name of a budget item. That is checked for parts at
+/// construction, and when an item is added or renamed, and when an account is
+/// added or recoded; not by setManaged.
+///
+/// Unless a member says otherwise, a refused change leaves everything as it
+/// was, and the error that is thrown is the first one: what fails while a change
+/// is undone is only logged. Where nothing is said of refusals, they are those of
+/// the part that does the work.
+class KIV_NAVIGATION_EXPORT BudgetBankLedgers {
+public:
+    using AccountNumber = accounting::AccountNumber;
+    using AccountCode = accounting::AccountCode;
+    using Transaction = accounting::Transaction;
+    using TransactionNumber = accounting::TransactionNumber;
+    using BankName = banking::BankName;
+    using BankAccount = banking::BankAccount;
+    using BankAccountTypes = banking::BankAccountTypes;
+    using BudgetSource = budgeting::BudgetSource;
+    using BudgetItemIdentifier = budgeting::BudgetItemIdentifier;
+    using Money = numira::Money;
+
+    // ---- the whole state ---------------------------------------------------
+
+    /// Nothing in it, with a generator that starts from the beginning.
+    BudgetBankLedgers();
+    /// Without surveys. Throws what BudgetLedgers and BankLedgers refuse, and
+    /// AccountError when an account bears the name of a budget item.
+    BudgetBankLedgers(accounting::GeneralLedger ledger, budgeting::Budget budget,
+                      BudgetAccountCodes codes, banking::BankMap banks,
+                      std::unique_ptr<accounting::AccountNumberGenerator> generator);
+    BudgetBankLedgers(const BudgetBankLedgers &other);
+    /// `other` can be assigned to and destroyed, nothing else.
+    BudgetBankLedgers(BudgetBankLedgers &&other) noexcept;
+    BudgetBankLedgers &operator=(const BudgetBankLedgers &) = delete;
+    BudgetBankLedgers &operator=(BudgetBankLedgers &&other) noexcept;
+    ~BudgetBankLedgers();
+
+    /// Replaces everything, or nothing when BudgetLedgers or BankLedgers refuse
+    /// the new parts. New numbers go on from the new ledger's accounts.
+    void setManaged(accounting::GeneralLedger ledger, budgeting::Budget budget,
+                    BudgetAccountCodes codes, banking::BankMap banks,
+                    surveying::CompletedSurveys surveys);
+    /// Empties everything; new numbers start from the beginning.
+    void reset();
+    /// `generator` must not be null.
+    void setAccountNumberGenerator(std::unique_ptr<accounting::AccountNumberGenerator> generator);
+
+    [[nodiscard]] const accounting::GeneralLedger &generalLedger() const noexcept
+    {
+        return m_generalLedger;
+    }
+    [[nodiscard]] const budgeting::Budget &budget() const noexcept { return m_budget; }
+    [[nodiscard]] const banking::BankMap &banks() const noexcept { return m_banks; }
+    [[nodiscard]] const BudgetLedgers &budgetLedgers() const noexcept { return m_budgetLedgers; }
+    [[nodiscard]] const BankLedgers &bankLedgers() const noexcept { return m_bankLedgers; }
+    [[nodiscard]] const surveying::CompletedSurveys &surveys() const noexcept { return m_surveys; }
+    [[nodiscard]] const accounting::AccountNumberGenerator &
+    accountCodeNumberGenerator() const noexcept
+    {
+        return *m_generator;
+    }
+    [[nodiscard]] std::set<BankName> bankNames() const;
+    /// Whether there is no item, no account, no bank and no survey.
+    [[nodiscard]] bool isEmpty() const noexcept;
+
+    // ---- accounts and transactions -----------------------------------------
+
+    void open(const AccountCode &code);
+    void close(const AccountCode &code);
+    /// Refused besides: the name of a budget item.
+    std::optional<TransactionNumber> add(const accounting::Account &account);
+    /// Removes the item whose name is the code's, with its account, or else the
+    /// account; then its association with the first bank that has it. The
+    /// account that an item owns has another name than the item, so it goes
+    /// alone, and the item stays without one.
+    void remove(const AccountCode &code);
+    /// Gives an account the number, name and parent of `to`, and takes along
+    /// its association with a bank, and that account's survey. `from` is trusted:
+    /// it must be the ledger's own code.
+    ///
+    /// Refused besides, as a BankError with the bank that has the account: taking
+    /// a bank account out from under its parent, moving it under an account
+    /// that no bank has, moving it at all once it has a reconciled
+    /// transaction; and as an AccountError the name of a budget item. If the
+    /// bank cannot follow, the ledger stays recoded.
+    void recode(const AccountCode &from, const AccountCode &to);
+    /// Opens an account of the kind that fits a bank account, of no bank yet.
+    AccountCode addAccount(const QString &name, const BankAccountTypes &types,
+                           const Money &openingBalance);
+
+    TransactionNumber post(const Transaction &transaction);
+    void repost(const TransactionNumber &number, const Transaction &transaction);
+    void remove(const TransactionNumber &number);
+    void reconcile(const TransactionNumber &number);
+    void unreconcile(const TransactionNumber &number);
+    /// Both sides without an account.
+    void clear(const TransactionNumber &number, const std::optional<AccountNumber> &account);
+    TransactionNumber postRefund(const TransactionNumber &number, const Money &amount);
+
+    // ---- banks -------------------------------------------------------------
+
+    const banking::Bank &add(banking::Bank bank);
+    void update(banking::Bank bank);
+    BankAccount addAssociation(const BankName &bank, const AccountNumber &number,
+                               const BankAccountTypes &types);
+    /// See BankLedgers::open for what stays after a refusal.
+    void open(const BankName &name);
+    void close(const BankName &name);
+    void remove(const BankName &name);
+    /// The bank's completed surveys go along.
+    void rename(const BankName &from, const BankName &to);
+
+    /// At that bank.
+    [[nodiscard]] std::optional<BankAccount> lookUpBankAccount(const BankName &bank,
+                                                               const AccountNumber &number) const;
+    /// At the first bank, in the order of names, that has the account.
+    [[nodiscard]] std::optional<BankAccount> lookUpBankAccount(const AccountNumber &number) const;
+    /// Whether any bank has the account.
+    [[nodiscard]] bool isBankAccount(const AccountNumber &number) const;
+    /// The accounts of all banks. Throws AccountError when the ledger lacks one.
+    [[nodiscard]] std::set<BankAccountCode> bankAccounts() const;
+    /// The items of one kind that are tied to a bank account; an item without an
+    /// account is left out with a warning in the log. Empty for the type None;
+    /// std::logic_error for a type above the known ones.
+    [[nodiscard]] std::set<BudgetBankAccount>
+    budgetBankAccounts(const budgeting::BudgetItemTypes &type) const;
+    [[nodiscard]] std::optional<BudgetBankAccount>
+    findBudgetBankAccount(const budgeting::BudgetItemTypes &type, const BudgetSource &source) const;
+
+    // ---- budget items ------------------------------------------------------
+
+    /// Adds a bill, a non-tracked item or a wage. Refused: a name that an
+    /// account has, and one whose account would get the name of an item. What
+    /// BudgetLedgers::add leaves behind when the ledger refuses stays here too.
+    template <budgeting::BudgetItem T>
+    requires(!budgeting::BankTiedItem<T>) AccountCode add(T item);
+    template <budgeting::BudgetItem T>
+    requires(!budgeting::BankTiedItem<T>) void update(T item);
+
+    /// Adds a debt or a goal, and ties it to a bank account: a debt's own
+    /// account becomes one of the bank (`bankAccount` names bank and kind), a
+    /// goal's own account goes below `bankAccount`. Answers with the code of the
+    /// item's account. When it cannot be tied, nothing is added, and a
+    /// BudgetItemError holds the reason as its cause.
+    template <budgeting::BankTiedItem T>
+    AccountCode add(T item, const std::optional<BankAccount> &bankAccount);
+    /// Updates a debt or a goal and ties it to the bank account requested, or to
+    /// none. A debt that another bank has too stays there. When it cannot be
+    /// tied, nothing is updated, and a BudgetItemError holds the reason as its
+    /// cause.
+    template <budgeting::BankTiedItem T>
+    void update(T item, const std::optional<BankAccount> &requested);
+
+    /// Renames the item and its account, and its distribution in the first
+    /// completed survey that has one; later surveys keep the old name. Refused:
+    /// as by add. See BudgetLedgers::rename for what stays after a failure.
+    template <budgeting::BudgetItem T>
+    void rename(const BudgetSource &from, const BudgetSource &to);
+    void renameBill(const BudgetSource &from, const BudgetSource &to);
+    void renameDebt(const BudgetSource &from, const BudgetSource &to);
+    void renameGoal(const BudgetSource &from, const BudgetSource &to);
+    void renameNontrack(const BudgetSource &from, const BudgetSource &to);
+    void renameWage(const BudgetSource &from, const BudgetSource &to);
+
+    /// See removeItem.
+    void remove(const BudgetItemIdentifier &id);
+
+    /// Posts an amount for an item that was not due.
+    TransactionNumber process(const BudgetItemIdentifier &id, const Money &amount,
+                              const AccountCode &bank, const QDate &date);
+    /// Posts an item that is due and moves it on to its next date. The item is
+    /// the first of that name among the kinds in their order. Throws
+    /// BudgetItemError when there is none that has an account.
+    TransactionNumber process(const budgeting::BudgetItemAmountDue &due, const AccountCode &bank,
+                              const QDate &date);
+    /// Moves an item on without posting; which one, and what is thrown, as above.
+    void skip(const BudgetItemIdentifier &id);
+
+    [[nodiscard]] std::optional<AccountCode>
+    lookUpAccountCode(const BudgetItemIdentifier &id) const;
+    /// The transactions of the item's account that are not reconciled on its
+    /// side.
+    [[nodiscard]] std::set<Transaction>
+    nonReconciledTransactions(const BudgetItemIdentifier &id) const;
+
+    /// Throws BudgetItemError when an account has this name.
+    void verifyBudgetSourceName(const BudgetSource &source) const;
+    /// Throws AccountError when a budget item has the code's name.
+    void verifyAccountCodeName(const AccountCode &code) const;
+
+    // ---- surveys -----------------------------------------------------------
+
+    /// The balance and day of the account's last survey; zero and no day when
+    /// it was never surveyed. Throws BankError when no bank has the account.
+    [[nodiscard]] banking::ReconciledBalance lastReconciliation(const AccountNumber &number) const;
+    /// See generateMapSurvey. Throws BankError for an unknown bank, AccountError
+    /// for an unknown account, std::out_of_range when the bank lacks it.
+    [[nodiscard]] surveying::MappingSurvey
+    createMapSurvey(const BankName &bank, const AccountNumber &number, const QDate &date) const;
+    /// See finaliseSurvey.
+    surveying::CompletedSurvey completedSurvey(
+        const QDate &date, const BankAccount &account, const Money &balance,
+        const std::set<TransactionNumber> &reconciled,
+        const surveying::IndexedIncreaseDecreases<BudgetItemIdentifier> &budgetChanges,
+        const surveying::IndexedIncreaseDecreases<AccountNumber> &accountChanges,
+        const std::map<BudgetItemIdentifier, surveying::DistributedAmount> &distribution,
+        const Money &nonDistributed, const foundation::Percentage &window);
+
+    friend KIV_NAVIGATION_EXPORT bool operator==(const BudgetBankLedgers &a,
+                                                 const BudgetBankLedgers &b);
+
+private:
+    accounting::GeneralLedger m_generalLedger;
+    budgeting::Budget m_budget;
+    banking::BankMap m_banks;
+    std::unique_ptr<accounting::AccountNumberGenerator> m_generator; ///< null only once moved from
+    BudgetLedgers m_budgetLedgers;
+    BankLedgers m_bankLedgers;
+    surveying::CompletedSurveys m_surveys;
+};
+
+/// Equal banks, budgets, ledgers and maps; surveys and generators take no part.
+[[nodiscard]] KIV_NAVIGATION_EXPORT bool operator==(const BudgetBankLedgers &a,
+                                                    const BudgetBankLedgers &b);
+
+/// "Banks (…), Budget (…), Ledgers (…), Budget Account Currency (…), Bank
+/// Account Types (First => 1200=>checking, 1300=>savings, Second => …)", on one
+/// line.
+KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetBankLedgers &ledgers);
+KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const BudgetBankLedgers &ledgers);
+
+} // namespace kiv::navigation::internal

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The members of BudgetLedgers that are the same for the five kinds of budget
+// item; budget_ledgers.h includes them.
+#include "navigation/internal/budget_ledgers.h"
+#include "navigation/internal/faults.h"
+#include "navigation/internal/undo.h"
+
+#include "budgeting/item_account.h"
+
+namespace kiv::navigation::internal {
+
+template <budgeting::BudgetItem T>
+accounting::AccountCode BudgetLedgers::add(T item, accounting::AccountNumberGenerator &generator)
+{
+    const budgeting::BudgetSource source = item.source();
+    accounting::NumberHandout number(generator, *m_ledgers);
+    const accounting::AccountCode code(number.number(), budgeting::itemAccountName(source),
+                                       std::nullopt);
+    const accounting::Account account(budgeting::ItemTraits<T>::accountType, code,
+                                      budgeting::openingMoney(item), false);
+    m_budget->items<T>().add(std::move(item));
+    // From here on a failure leaves the item in the budget: the user still has
+    // it before their eyes, and it is given an account when the file is loaded.
+    m_ledgers->add(account, generator);
+    m_codes.insertOrAssign<T>(source, code.number());
+    number.keep();
+    return code;
+}
+
+template <budgeting::BudgetItem T>
+void BudgetLedgers::update(T item, accounting::AccountNumberGenerator &generator)
+{
+    auto &items = m_budget->items<T>();
+    const budgeting::BudgetSource source = item.source();
+    const auto stored = items.find(source);
+    if (stored == items.end())
+        throw faults::cannotUpdateMissing(budgeting::ItemTraits<T>::type, source);
+    const numira::Currency currency = item.amount().code();
+    const bool isCurrencyKept = stored->second.amount().code() == currency;
+    // All items of the kind, since one without a name could not be added back.
+    Restore itemsBefore(items);
+    items.update(std::move(item));
+    if (!isCurrencyKept)
+        m_ledgers->convertTo(m_codes.value<T>(source), currency, generator);
+    itemsBefore.dismiss();
+}
+
+template <budgeting::BudgetItem T>
+void BudgetLedgers::rename(const budgeting::BudgetSource &from, const budgeting::BudgetSource &to,
+                           const std::optional<accounting::AccountNumber> &number)
+{
+    m_budget->items<T>().rename(from, to);
+    const accounting::AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(from)).code();
+    const accounting::AccountCode newCode(number.value_or(oldCode.number()),
+                                          budgeting::itemAccountName(to), std::nullopt);
+    m_ledgers->recode(oldCode, newCode);
+    m_codes.remove<T>(from);
+    m_codes.insertOrAssign<T>(to, newCode.number());
+}
+
+template <budgeting::BudgetItem T>
+void BudgetLedgers::remove(const budgeting::BudgetSource &source)
+{
+    auto &items = m_budget->items<T>();
+    if (!items.contains(source))
+        throw faults::cannotRemoveMissing(budgeting::ItemTraits<T>::type, source);
+    const accounting::AccountCode code(m_codes.value<T>(source), std::nullopt);
+    const bool isRemovable = m_ledgers->canRemove(code);
+    if constexpr (budgeting::BankTiedItem<T>) {
+        if (!isRemovable && m_ledgers->ledger(code).balance() != 0)
+            throw faults::cannotRemoveWithBalance(budgeting::ItemTraits<T>::type, source);
+    }
+    Restore itemsBefore(items);
+    items.remove(source);
+    if (isRemovable)
+        m_ledgers->remove(code.number());
+    else
+        m_ledgers->close(code.number());
+    m_codes.remove<T>(source);
+    itemsBefore.dismiss();
+}
+
+template <budgeting::BudgetItem T>
+accounting::TransactionNumber BudgetLedgers::process(const Source &source,
+                                                     const accounting::AccountCode &bank,
+                                                     const numira::Money &amount, const QDate &date)
+{
+    const accounting::AccountCode itemCode = budgetAccountCode<T>(source);
+    return processDue(budgeting::ItemTraits<T>::type, itemCode, bank, amount, date,
+                      m_budget->items<T>().at(source));
+}
+
+template <budgeting::BudgetItem T>
+void BudgetLedgers::skip(const Source &source)
+{
+    m_budget->items<T>().at(source).updateNextOccurOn();
+}
+
+} // namespace kiv::navigation::internal
