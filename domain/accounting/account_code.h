@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "accounting/account_number.h"
+
+#include <QtCore/QString>
+
+#include <optional>
+#include <set>
+
+namespace kiv::accounting {
+
+/// What an account is called: its number, its name, and the number of the
+/// account that it stands under, if any. Names may repeat in a ledger, numbers
+/// may not. Codes are ordered by number, then name (by its code units), then
+/// parent (none first).
+///
+/// A code without a name serves as a look-up key, one without a number names an
+/// account that does not exist yet.
+class KIV_ACCOUNTING_EXPORT AccountCode {
+public:
+    AccountCode() = default;
+    AccountCode(AccountNumber number, QString name, std::optional<AccountNumber> parent);
+    AccountCode(AccountNumber number, std::optional<AccountNumber> parent);
+    AccountCode(QString name, std::optional<AccountNumber> parent);
+
+    [[nodiscard]] AccountNumber number() const noexcept { return m_number; }
+    [[nodiscard]] const QString &name() const noexcept { return m_name; }
+    [[nodiscard]] const std::optional<AccountNumber> &parent() const noexcept { return m_parent; }
+    void setParent(std::optional<AccountNumber> parent) noexcept { m_parent = parent; }
+
+    friend bool operator==(const AccountCode &, const AccountCode &) noexcept = default;
+    friend KIV_ACCOUNTING_EXPORT std::strong_ordering operator<=>(const AccountCode &a,
+                                                                  const AccountCode &b) noexcept;
+
+private:
+    AccountNumber m_number;
+    QString m_name;
+    std::optional<AccountNumber> m_parent;
+};
+
+/// "1200 Checking"; the number or the name alone when there is no other.
+[[nodiscard]] KIV_ACCOUNTING_EXPORT QString presentationText(const AccountCode &code);
+/// "1200 Checking", and " under 1000" behind it when it has a parent.
+KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, const AccountCode &code);
+KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const AccountCode &code);
+
+} // namespace kiv::accounting
+
+Q_DECLARE_METATYPE(kiv::accounting::AccountCode)
+Q_DECLARE_METATYPE(std::set<kiv::accounting::AccountCode>)
+Q_DECLARE_METATYPE(std::optional<kiv::accounting::AccountCode>)

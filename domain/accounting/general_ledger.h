@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "accounting/account.h"
+#include "accounting/account_number_generator.h"
+#include "accounting/errors.h"
+
+#include "foundation/clock.h"
+
+namespace kiv::accounting {
+
+/// All accounts of a budget and the transactions between them.
+///
+/// It keeps these true, and refuses with an AccountError or a TransactionError
+/// whatever would break them; a refused change, and one that fails for any
+/// other reason, leaves the ledger (and a generator handed in) as it was:
+/// - every account has a number of its own, a known kind, and a parent that
+///   exists, is of the same kind and makes no cycle; names may repeat;
+/// - every transaction has a number of its own (16 bits), a valid day, a
+///   positive amount, and two different accounts;
+/// - each side of a transaction is kept in its account's currency, converted
+///   once, when it was posted, and rounded half to even to that currency's minor unit;
+///   an amount in the account's own currency is kept as it is;
+/// - a balance is the sum of the account's sides, positive on its kind's own
+///   side;
+/// - nothing is posted to a closed account, and a reconciled transaction is
+///   neither changed nor removed;
+/// - all refunds of a transaction together do not exceed it.
+///
+/// Accounts are found by number alone: AccountCode(number, std::nullopt) finds
+/// an account with a name and a parent. Transactions answer with the codes that
+/// their accounts have now.
+///
+/// A ledger is a value. Copies share what they have in common, transactions
+/// above all, so copying costs the same whatever its size.
+class KIV_ACCOUNTING_EXPORT GeneralLedger {
+public:
+    GeneralLedger();
+    GeneralLedger(const GeneralLedger &);
+    GeneralLedger(GeneralLedger &&) noexcept;
+    GeneralLedger &operator=(const GeneralLedger &);
+    GeneralLedger &operator=(GeneralLedger &&) noexcept;
+    ~GeneralLedger();
+
+    // ---- queries -----------------------------------------------------------
+
+    [[nodiscard]] bool isEmpty() const noexcept;
+    [[nodiscard]] std::set<AccountCode> accountCodes() const;
+    [[nodiscard]] std::set<Account> accounts() const;
+    [[nodiscard]] bool hasLedger(AccountNumber number) const noexcept;
+    [[nodiscard]] bool hasLedger(const AccountCode &code) const noexcept;
+    /// Throws AccountError when there is no such account.
+    [[nodiscard]] LedgerAccount ledger(AccountNumber number) const;
+    [[nodiscard]] LedgerAccount ledger(const AccountCode &code) const;
+    /// The present code. Throws AccountError when there is no such account.
+    [[nodiscard]] AccountCode accountCode(AccountNumber number) const;
+    /// The transaction that opened the account; nothing without one, also for
+    /// an unknown number.
+    [[nodiscard]] std::optional<Transaction> openingTransaction(AccountNumber number) const;
+    /// The accounts directly under this one.
+    [[nodiscard]] std::set<AccountNumber> lookUpChildren(AccountNumber number,
+                                                         OpenStates states) const;
+    /// Whether remove(number) would take the account away: it exists, has no
+    /// child and no transaction but its own opening one, and that is not
+    /// reconciled. Closed accounts can be removed too.
+    [[nodiscard]] bool canRemove(const AccountCode &code) const noexcept;
+    [[nodiscard]] std::optional<Transaction> lookUpTransaction(TransactionNumber number) const;
+    /// All transactions in the order of their numbers, seen from neither side.
+    [[nodiscard]] std::vector<Transaction> transactions() const;
+    [[nodiscard]] std::size_t transactionCount() const noexcept;
+    /// What may still be refunded of a transaction; zero for a refund itself.
+    /// Throws TransactionError when there is no such transaction.
+    [[nodiscard]] numira::Money refundable(TransactionNumber number) const;
+
+    // ---- accounts ----------------------------------------------------------
+
+    /// Opens an account. A balance other than zero is posted as its opening
+    /// transaction, on `openedOn`, against the equity account for openings in
+    /// that currency, which is opened too when there is none (with the next free
+    /// number of `generator`); a negative one with the sides swapped. Answers
+    /// with the number of that transaction, or nothing when none was posted.
+    ///
+    /// Refused: the invalid number, a number in use, an unknown kind, a parent
+    /// that is unknown or of another kind.
+    std::optional<TransactionNumber> add(const Account &account, AccountNumberGenerator &generator,
+                                         QDate openedOn = foundation::today());
+    /// Takes an account away with its own opening transaction. Refused: an
+    /// unknown number, and whatever canRemove tells.
+    void remove(AccountNumber number);
+    /// Refused: unknown, open already.
+    void open(const AccountCode &code);
+    /// Refused: unknown, closed already, an asset or liability whose balance is
+    /// not zero.
+    void close(AccountNumber number);
+    /// Gives the account `from.number()` the number, name and parent of `to`.
+    /// Transactions, children's parents, the opening mark, refunds and the
+    /// closed flag go along; closed accounts too. Refused: unknown `from`, the
+    /// invalid number, a number of another account, a parent that is unknown,
+    /// of another kind, or below the account itself.
+    void recode(const AccountCode &from, const AccountCode &to);
+    /// Keeps the account in another currency from now on: its own side of every
+    /// transaction is restated at the rate of the moment; statuses, the other
+    /// sides and the amounts as entered stay. Needs no rate without
+    /// transactions. Works on closed accounts. `generator` is not used at
+    /// present.
+    void convertTo(AccountNumber number, const numira::Currency &currency,
+                   AccountNumberGenerator &generator);
+
+    // ---- transactions ------------------------------------------------------
+
+    /// Posts a transaction and answers with its number: the one after the
+    /// highest, or the lowest free one once 65,535 is in use. The transaction's
+    /// own number and refund mark are ignored; its statuses are kept.
+    ///
+    /// Refused: an invalid day, accounts that are the same, unknown or closed,
+    /// an amount that is not positive or comes to nothing in an account's
+    /// currency, a full ledger, a balance out of range.
+    TransactionNumber post(const Transaction &transaction);
+    /// Replaces a transaction under its number. A side whose account stays
+    /// keeps its status, a new one has none; the opening mark stays. Refused as
+    /// by post, and: an unknown number, a side that is reconciled, an account
+    /// that it leaves and is closed, an opening transaction that would leave
+    /// the account that it opened, refunds that would exceed it, other
+    /// accounts for a transaction with refunds or for a refund.
+    void repost(TransactionNumber number, const Transaction &transaction);
+    /// Refused: an unknown number, a side that is reconciled, a closed account,
+    /// refunds that depend on it.
+    void remove(TransactionNumber number);
+
+    /// Marks both sides, or all of several, or the side of one account;
+    /// reconciling what is reconciled does nothing. Refused: an unknown number,
+    /// an account that is on neither side.
+    void reconcile(TransactionNumber number);
+    void reconcile(const std::set<TransactionNumber> &numbers);
+    void reconcile(TransactionNumber number, AccountNumber account);
+    /// Both sides go back to no status where they were reconciled. Refused: an
+    /// unknown number.
+    void unreconcile(TransactionNumber number);
+    /// Both sides, or the side of one account, are seen at the bank. Refused:
+    /// an unknown number, an account that is on neither side, a side that is
+    /// reconciled.
+    void clear(TransactionNumber number);
+    void clear(TransactionNumber number, AccountNumber account);
+
+    /// Posts a transaction that gives back some of another: the accounts
+    /// swapped, on `postedOn`. Refused: an unknown number, a refund, an amount
+    /// that is not positive or more than is left, and as by post.
+    TransactionNumber refund(TransactionNumber number, const numira::Money &amount,
+                             QDate postedOn = foundation::today());
+
+    /// The same accounts and transactions with all their marks.
+    friend KIV_ACCOUNTING_EXPORT bool operator==(const GeneralLedger &a, const GeneralLedger &b);
+    friend KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out,
+                                                          const GeneralLedger &ledger);
+
+    /// The currencies in which accounts are kept and amounts were entered.
+    friend KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
+    containedCurrencies(const GeneralLedger &ledger);
+
+private:
+    friend class LedgerReplay;
+
+    /// The state for changing: not shared with any copy.
+    internal::LedgerState &change();
+    TransactionNumber postNew(const Transaction &transaction,
+                              std::optional<TransactionNumber> refundOf);
+
+    std::shared_ptr<internal::LedgerState> m_state;
+};
+
+[[nodiscard]] KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
+containedCurrencies(const GeneralLedger &ledger);
+KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const GeneralLedger &ledger);
+
+} // namespace kiv::accounting

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounting/general_ledger.h"
+
+#include "accounting/internal/faults.h"
+#include "accounting/internal/ledger_state.h"
+#include "accounting/internal/posting.h"
+
+#include "foundation/presentation.h"
+
+#include "numira/error.h"
+
+namespace kiv::accounting {
+namespace {
+
+using internal::AccountRecord;
+using internal::LedgerState;
+
+/// The account against which accounts in the currency are opened: an open one
+/// if there are several, which conversions of such accounts can bring about.
+const AccountRecord *openingsAccount(const LedgerState &state, const numira::Currency &currency)
+{
+    const AccountRecord *found = nullptr;
+    for (const auto &account : state.accounts()) {
+        if (account->holdsOpenings && account->currency() == currency &&
+            (!found || (found->isClosed && !account->isClosed)))
+            found = account.constData();
+    }
+    return found;
+}
+
+/// Whether nothing but the account's own opening transaction holds it.
+bool isUnused(const AccountRecord &account)
+{
+    const std::size_t own = account.openedBy ? 1 : 0;
+    return account.transactions.count() == own;
+}
+
+bool isOpeningReconciled(const LedgerState &state, const AccountRecord &account)
+{
+    return account.openedBy && state.record(*account.openedBy).isReconciled();
+}
+
+/// Throws AccountError when the account `from` would come to stand under itself
+/// by taking on the code `to`.
+void checkNotUnderItself(const LedgerState &state, AccountNumber from, const AccountCode &to)
+{
+    for (auto above = to.parent(); above; above = state.account(*above).code.parent()) {
+        if (*above == from)
+            throw internal::parentBelowItself(to, state.account(*to.parent()).code);
+    }
+}
+
+} // namespace
+
+bool GeneralLedger::canRemove(const AccountCode &code) const noexcept
+{
+    const AccountRecord *account = m_state->find(code.number());
+    return account && !m_state->hasChildren(code.number()) && isUnused(*account) &&
+           !isOpeningReconciled(*m_state, *account);
+}
+
+std::optional<TransactionNumber>
+GeneralLedger::add(const Account &account, AccountNumberGenerator &generator, QDate openedOn)
+{
+    internal::checkNewAccount(*m_state, account.type(), account.code());
+    GeneralLedger next(*this);
+    const AccountNumber number = account.code().number();
+    const numira::Money &balance = account.balance();
+    next.change().insertAccount(account.type(), account.code(), balance.code(), false);
+
+    std::optional<TransactionNumber> opening;
+    std::optional<NumberHandout> handout;
+    if (!balance.isZero()) {
+        const AccountRecord *openings = openingsAccount(*next.m_state, balance.code());
+        if (!openings)
+            handout.emplace(generator, next);
+        const AccountNumber against = openings ? openings->code.number() : handout->number();
+        if (!openings) {
+            const QString name = QStringLiteral("Opening Balances %1 [Equity]")
+                                     .arg(foundation::presentationText(balance.code()));
+            next.change().insertAccount(AccountTypes::Equity,
+                                        AccountCode(against, name, std::nullopt), balance.code(),
+                                        true);
+        }
+        const bool isDebited = isDebitNormal(account.type()) == balance.isPositive();
+        opening = next.post(Transaction(openedOn, isDebited ? number : against,
+                                        isDebited ? against : number, balance.abs()));
+        next.change().changeAccount(number).openedBy = opening;
+    }
+    if (account.isClosed())
+        next.close(number);
+    if (handout)
+        handout->keep();
+    *this = std::move(next);
+    return opening;
+}
+
+void GeneralLedger::remove(AccountNumber number)
+{
+    const AccountRecord &account = m_state->account(number);
+    if (m_state->hasChildren(number))
+        throw internal::accountHasChildren(account.code);
+    if (!isUnused(account))
+        throw internal::accountHasTransactions(account.code);
+    if (isOpeningReconciled(*m_state, account))
+        throw internal::openingIsReconciled(account.code, *account.openedBy);
+    GeneralLedger next(*this);
+    if (account.openedBy)
+        next.change().exchange(*account.openedBy, std::nullopt);
+    next.change().eraseAccount(number);
+    *this = std::move(next);
+}
+
+void GeneralLedger::open(const AccountCode &code)
+{
+    const AccountRecord &account = m_state->account(code.number());
+    if (!account.isClosed)
+        throw internal::accountIsOpen(account.code);
+    change().changeAccount(code.number()).isClosed = false;
+}
+
+void GeneralLedger::close(AccountNumber number)
+{
+    internal::checkClosing(m_state->account(number));
+    change().changeAccount(number).isClosed = true;
+}
+
+void GeneralLedger::recode(const AccountCode &from, const AccountCode &to)
+{
+    const AccountRecord &account = m_state->account(from.number());
+    if (!to.number().isValid())
+        throw internal::accountNumberInvalid(to);
+    const AccountRecord *holder = m_state->find(to.number());
+    if (holder && holder != &account)
+        throw internal::accountNumberTaken(to, holder->code);
+    internal::checkParent(*m_state, account.type, to);
+    checkNotUnderItself(*m_state, from.number(), to);
+    GeneralLedger next(*this);
+    next.change().recode(from.number(), to);
+    *this = std::move(next);
+}
+
+void GeneralLedger::convertTo(AccountNumber number, const numira::Currency &currency,
+                              AccountNumberGenerator & /*generator*/)
+{
+    const AccountRecord &account = m_state->account(number);
+    if (account.currency() == currency)
+        return;
+    LedgerState::RestatedSides sides;
+    sides.reserve(account.transactions.count());
+    const internal::NumberSet &numbers = account.transactions;
+    for (auto at = numbers.next({}); at.isValid(); at = numbers.next(at)) {
+        const internal::TransactionRecord &record = m_state->record(at);
+        const numira::Money &side =
+            record.debit == number ? record.debitAmount : record.creditAmount;
+        numira::Money restated;
+        try {
+            restated = side.convertedTo(currency).rounded();
+        } catch (const numira::Error &cause) {
+            throw internal::notRestated(account.code, currency, at, cause);
+        } catch (const foundation::Error &cause) {
+            throw internal::notRestated(account.code, currency, at, cause);
+        }
+        if (!restated.isPositive())
+            throw internal::restatedToNothing(account.code, currency, at, side);
+        sides.emplace_back(at, restated);
+    }
+    GeneralLedger next(*this);
+    try {
+        next.change().restate(number, currency, sides);
+    } catch (const numira::Error &cause) {
+        throw internal::balanceOutOfRange(account.code, cause);
+    }
+    *this = std::move(next);
+}
+
+} // namespace kiv::accounting

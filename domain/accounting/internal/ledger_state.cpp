@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounting/internal/ledger_state.h"
+
+#include "accounting/internal/faults.h"
+
+#include "numira/error.h"
+
+#include <span>
+
+namespace kiv::accounting::internal {
+namespace {
+
+/// The sums that a change gives to the accounts that it touches: two that a
+/// transaction leaves and two that it enters at most.
+class ChangedSums {
+public:
+    struct Sums {
+        AccountNumber account;
+        numira::Money debits;
+        numira::Money credits;
+    };
+
+    explicit ChangedSums(const LedgerState &state) : m_state(state) {}
+
+    void subtract(const TransactionRecord &record)
+    {
+        of(record.debit).debits -= record.debitAmount;
+        of(record.credit).credits -= record.creditAmount;
+    }
+    void add(const TransactionRecord &record)
+    {
+        add(of(record.debit), &Sums::debits, record.debitAmount);
+        add(of(record.credit), &Sums::credits, record.creditAmount);
+    }
+    [[nodiscard]] std::span<const Sums> all() const { return {m_sums.data(), m_count}; }
+
+private:
+    Sums &of(AccountNumber number)
+    {
+        for (std::size_t at = 0; at < m_count; ++at) {
+            if (m_sums[at].account == number)
+                return m_sums[at];
+        }
+        const AccountRecord &account = m_state.account(number);
+        m_sums[m_count] = {number, account.debits, account.credits};
+        return m_sums[m_count++];
+    }
+    void add(Sums &sums, numira::Money Sums::*side, const numira::Money &amount) const
+    {
+        try {
+            sums.*side += amount;
+        } catch (const numira::Error &cause) {
+            throw balanceOutOfRange(m_state.account(sums.account).code, cause);
+        }
+    }
+
+    const LedgerState &m_state;
+    std::array<Sums, 4> m_sums;
+    std::size_t m_count = 0;
+};
+
+AccountNumber numberOf(const QSharedDataPointer<AccountRecord> &account) noexcept
+{
+    return account.constData()->code.number();
+}
+
+} // namespace
+
+numira::Money AccountRecord::balance() const
+{
+    return isDebitNormal(type) ? debits - credits : credits - debits;
+}
+
+bool operator==(const AccountRecord &a, const AccountRecord &b) noexcept
+{
+    return a.code == b.code && a.type == b.type && a.debits == b.debits && a.credits == b.credits &&
+           a.isClosed == b.isClosed && a.holdsOpenings == b.holdsOpenings &&
+           a.openedBy == b.openedBy && a.transactions == b.transactions;
+}
+
+LedgerState::Accounts::const_iterator LedgerState::position(AccountNumber number) const noexcept
+{
+    return std::ranges::lower_bound(m_accounts, number, {}, numberOf);
+}
+
+const AccountRecord *LedgerState::find(AccountNumber number) const noexcept
+{
+    const auto found = position(number);
+    return found != m_accounts.end() && numberOf(*found) == number ? found->constData() : nullptr;
+}
+
+const AccountRecord &LedgerState::account(AccountNumber number) const
+{
+    if (const AccountRecord *found = find(number))
+        return *found;
+    throw accountNotFound(number);
+}
+
+AccountRecord &LedgerState::changeAccount(AccountNumber number)
+{
+    const auto found = position(number);
+    if (found == m_accounts.end() || numberOf(*found) != number)
+        throw accountNotFound(number);
+    return *m_accounts[static_cast<std::size_t>(found - m_accounts.begin())];
+}
+
+void LedgerState::insertAccount(AccountTypes type, const AccountCode &code,
+                                const numira::Currency &currency, bool holdsOpenings)
+{
+    QSharedDataPointer<AccountRecord> account(new AccountRecord);
+    account->code = code;
+    account->type = type;
+    account->debits = account->credits = numira::Money(currency);
+    account->holdsOpenings = holdsOpenings;
+    m_accounts.insert(position(code.number()), std::move(account));
+}
+
+void LedgerState::eraseAccount(AccountNumber number)
+{
+    m_accounts.erase(position(number));
+}
+
+void LedgerState::recode(AccountNumber from, const AccountCode &to)
+{
+    const auto found = position(from);
+    QSharedDataPointer<AccountRecord> account = *found;
+    m_accounts.erase(found);
+    account->code = to;
+    if (to.number() != from) {
+        const NumberSet &numbers = account.constData()->transactions;
+        for (auto number = numbers.next({}); number.isValid(); number = numbers.next(number)) {
+            TransactionRecord &record = m_table.change(number);
+            (record.debit == from ? record.debit : record.credit) = to.number();
+        }
+        for (QSharedDataPointer<AccountRecord> &child : m_accounts) {
+            if (child.constData()->code.parent() == from)
+                child->code.setParent(to.number());
+        }
+    }
+    m_accounts.insert(position(to.number()), std::move(account));
+}
+
+bool LedgerState::hasChildren(AccountNumber parent) const noexcept
+{
+    return std::ranges::any_of(m_accounts, [parent](const auto &account) {
+        return account.constData()->code.parent() == parent;
+    });
+}
+
+const TransactionRecord &LedgerState::record(TransactionNumber number) const
+{
+    if (const TransactionRecord *found = m_table.find(number))
+        return *found;
+    throw transactionNotFound(number);
+}
+
+TransactionRecord &LedgerState::changeRecord(TransactionNumber number)
+{
+    if (!m_table.find(number))
+        throw transactionNotFound(number);
+    return m_table.change(number);
+}
+
+Transaction LedgerState::transaction(TransactionNumber number, AccountNumber account) const
+{
+    const TransactionRecord &record = this->record(number);
+    Transaction result;
+    result.m_occurredOn = record.occurredOn;
+    result.m_debiting = this->account(record.debit).code;
+    result.m_crediting = this->account(record.credit).code;
+    result.m_amount = record.amount;
+    result.m_debitAmount = record.debitAmount;
+    result.m_creditAmount = record.creditAmount;
+    result.m_description = record.description;
+    result.m_number = number;
+    result.m_refundOf = record.refundOf;
+    result.m_debitStatus = record.debitStatus;
+    result.m_creditStatus = record.creditStatus;
+    result.m_seenFrom = account;
+    return result;
+}
+
+void LedgerState::exchange(TransactionNumber number, const std::optional<TransactionRecord> &after)
+{
+    std::optional<TransactionRecord> before;
+    if (const TransactionRecord *found = m_table.find(number))
+        before = *found;
+
+    // First all that can fail: the sums, then the memory. Copies are left
+    // behind here, which changes no meaning.
+    ChangedSums changed(*this);
+    std::optional<TransactionNumber> original;
+    numira::Money refunded;
+    const auto meetRefund = [&](const TransactionRecord &refund) {
+        if (refund.refundOf && !original) {
+            original = refund.refundOf;
+            refunded = record(*original).refunded;
+        }
+        return refund.refundOf.has_value();
+    };
+    if (before) {
+        changed.subtract(*before);
+        if (meetRefund(*before))
+            refunded -= before->amount;
+    }
+    if (after) {
+        changed.add(*after);
+        if (meetRefund(*after))
+            refunded += after->amount;
+    }
+    std::optional<TransactionRecord> placed = after;
+    m_table.detach(number);
+    if (original)
+        m_table.detach(*original);
+    for (const ChangedSums::Sums &sums : changed.all())
+        changeAccount(sums.account).transactions.detach();
+
+    // Then all that cannot.
+    if (placed)
+        m_table.put(number, *std::move(placed));
+    else
+        m_table.erase(number);
+    if (original)
+        m_table.change(*original).refunded = refunded;
+    for (const ChangedSums::Sums &sums : changed.all()) {
+        AccountRecord &account = changeAccount(sums.account);
+        account.debits = sums.debits;
+        account.credits = sums.credits;
+        if (after && after->involves(sums.account))
+            account.transactions.insert(number);
+        else
+            account.transactions.remove(number);
+        if (!after && account.openedBy == number)
+            account.openedBy.reset();
+    }
+}
+
+void LedgerState::restate(AccountNumber number, const numira::Currency &currency,
+                          const RestatedSides &sides)
+{
+    numira::Money debits(currency);
+    numira::Money credits(currency);
+    for (const auto &[transaction, amount] : sides)
+        (record(transaction).debit == number ? debits : credits) += amount;
+    AccountRecord &account = changeAccount(number);
+    account.debits = debits;
+    account.credits = credits;
+    for (const auto &[transaction, amount] : sides) {
+        TransactionRecord &record = m_table.change(transaction);
+        (record.debit == number ? record.debitAmount : record.creditAmount) = amount;
+    }
+}
+
+bool operator==(const LedgerState &a, const LedgerState &b) noexcept
+{
+    return std::ranges::equal(a.m_accounts, b.m_accounts,
+                              [](const auto &left, const auto &right) {
+                                  return left.constData() == right.constData() ||
+                                         *left.constData() == *right.constData();
+                              }) &&
+           a.m_table == b.m_table;
+}
+
+} // namespace kiv::accounting::internal

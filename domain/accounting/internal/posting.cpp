@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounting/internal/posting.h"
+
+#include "accounting/internal/faults.h"
+
+#include "numira/error.h"
+
+namespace kiv::accounting::internal {
+
+void checkNewAccount(const LedgerState &state, AccountTypes type, const AccountCode &code)
+{
+    if (!code.number().isValid())
+        throw accountNumberInvalid(code);
+    if (const AccountRecord *holder = state.find(code.number()))
+        throw accountNumberTaken(code, holder->code);
+    if (type == AccountTypes::Unknown)
+        throw accountTypeUnknown(code);
+    static_cast<void>(isDebitNormal(type)); // every known type has a side
+    checkParent(state, type, code);
+}
+
+void checkParent(const LedgerState &state, AccountTypes type, const AccountCode &code)
+{
+    if (!code.parent())
+        return;
+    const AccountRecord *parent = state.find(*code.parent());
+    if (!parent)
+        throw parentNotFound(code);
+    if (parent->type != type)
+        throw parentOfOtherType(code, type, parent->code, parent->type);
+}
+
+void checkClosing(const AccountRecord &account)
+{
+    if (account.isClosed)
+        throw accountIsClosed(account.code);
+    const bool mustBeEmpty =
+        account.type == AccountTypes::Asset || account.type == AccountTypes::Liability;
+    if (mustBeEmpty && !account.balance().isZero())
+        throw closingWithBalance(account.code, account.balance());
+}
+
+void checkOpen(const AccountRecord &account)
+{
+    if (account.isClosed)
+        throw accountIsClosed(account.code);
+}
+
+void checkTransaction(const LedgerState &state, const Transaction &transaction,
+                      TransactionNumber number)
+{
+    for (const TransactionStatuses status :
+         {transaction.debitStatus(), transaction.creditStatus()}) {
+        if (status > TransactionStatuses::Reconciled)
+            throw std::logic_error("An unknown transaction status cannot be posted.");
+    }
+    if (!transaction.occurredOn().isValid())
+        throw dayInvalid(number);
+    if (!transaction.amount().isPositive())
+        throw amountNotPositive(number, transaction.amount());
+    const AccountRecord &debit = state.account(transaction.debiting().number());
+    const AccountRecord &credit = state.account(transaction.crediting().number());
+    if (&debit == &credit)
+        throw accountsAreTheSame(number, debit.code);
+    checkOpen(debit);
+    checkOpen(credit);
+}
+
+numira::Money convertedAmount(const numira::Money &amount, const numira::Currency &currency,
+                              TransactionNumber number)
+{
+    if (amount.code() == currency)
+        return amount;
+    const numira::Money result = [&] {
+        try {
+            return amount.convertedTo(currency).rounded();
+        } catch (const numira::Error &cause) {
+            throw notConverted(number, amount, currency, cause);
+        } catch (const foundation::Error &cause) {
+            throw notConverted(number, amount, currency, cause);
+        }
+    }();
+    if (!result.isPositive())
+        throw comesToNothing(number, amount, currency);
+    return result;
+}
+
+TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
+                            TransactionNumber number)
+{
+    checkTransaction(state, transaction, number);
+    TransactionRecord record = plainRecord(transaction);
+    record.debitAmount =
+        convertedAmount(record.amount, state.account(record.debit).currency(), number);
+    record.creditAmount =
+        convertedAmount(record.amount, state.account(record.credit).currency(), number);
+    return record;
+}
+
+TransactionRecord plainRecord(const Transaction &transaction)
+{
+    return {.occurredOn = transaction.occurredOn(),
+            .debit = transaction.debiting().number(),
+            .credit = transaction.crediting().number(),
+            .amount = transaction.amount(),
+            .debitAmount = transaction.debitAmount(),
+            .creditAmount = transaction.creditAmount(),
+            .description = transaction.description(),
+            .debitStatus = transaction.debitStatus(),
+            .creditStatus = transaction.creditStatus(),
+            .refundOf = std::nullopt,
+            .refunded = numira::Money(transaction.amount().code())};
+}
+
+} // namespace kiv::accounting::internal

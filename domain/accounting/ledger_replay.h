@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "accounting/general_ledger.h"
+
+namespace kiv::accounting {
+
+/// Builds a ledger again from what was stored of one, under the ledger's own
+/// rules but with the numbers, side amounts and marks as they were: nothing is
+/// converted, numbered or opened anew. Every step refuses, with an AccountError
+/// or a TransactionError, what the ledger itself would not have let in.
+///
+/// The order is: accounts (parents first), transactions, refunds, statuses (in
+/// the transactions), closed flags.
+class KIV_ACCOUNTING_EXPORT LedgerReplay {
+public:
+    LedgerReplay();
+    ~LedgerReplay();
+
+    /// An open account without a balance, kept in `currency`.
+    void addAccount(AccountTypes type, const AccountCode &code, const numira::Currency &currency,
+                    bool holdsOpenings);
+    /// Posts under `transaction.number()`, with its side amounts and statuses.
+    /// Refused besides: no number or one in use, a side amount that is not
+    /// positive or not in its account's currency, or in the entered currency
+    /// but different from the entered amount.
+    void post(const Transaction &transaction);
+    /// `number` gives back some of `original`: accounts swapped, not more than
+    /// is left, neither a refund of another.
+    void markRefund(TransactionNumber number, TransactionNumber original);
+    /// `number`, in which the account takes part, is its opening transaction.
+    void markOpening(AccountNumber account, TransactionNumber number);
+    /// Refused as by GeneralLedger::close.
+    void close(AccountNumber number);
+
+    /// The ledger; the replay is empty afterwards.
+    [[nodiscard]] GeneralLedger finish();
+
+private:
+    GeneralLedger m_ledger;
+};
+
+} // namespace kiv::accounting

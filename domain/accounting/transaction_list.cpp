@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "accounting/transaction_list.h"
+
+#include "accounting/internal/ledger_state.h"
+
+namespace kiv::accounting {
+
+TransactionList::TransactionList() = default;
+TransactionList::TransactionList(std::shared_ptr<const internal::LedgerState> state,
+                                 AccountNumber account)
+    : m_state(std::move(state)), m_account(&m_state->account(account))
+{
+}
+TransactionList::TransactionList(const TransactionList &) = default;
+TransactionList &TransactionList::operator=(const TransactionList &) = default;
+TransactionList::~TransactionList() = default;
+
+std::size_t TransactionList::size() const noexcept
+{
+    return m_account ? m_account->transactions.count() : 0;
+}
+
+TransactionList::const_iterator TransactionList::begin() const
+{
+    const_iterator first;
+    first.m_list = this;
+    if (m_account)
+        first.m_number = m_account->transactions.next({});
+    return first;
+}
+
+TransactionList::const_iterator TransactionList::end() const
+{
+    return {};
+}
+
+bool TransactionList::contains(TransactionNumber number) const noexcept
+{
+    return m_account && m_account->transactions.contains(number);
+}
+
+std::optional<Transaction> TransactionList::find(TransactionNumber number) const
+{
+    if (!contains(number))
+        return std::nullopt;
+    return m_state->transaction(number, m_account->code.number());
+}
+
+std::set<Transaction> TransactionList::toSet() const
+{
+    std::set<Transaction> result;
+    for (Transaction transaction : *this)
+        result.insert(result.end(), std::move(transaction));
+    return result;
+}
+
+Transaction TransactionList::const_iterator::operator*() const
+{
+    return m_list->m_state->transaction(m_number, m_list->m_account->code.number());
+}
+
+TransactionList::const_iterator &TransactionList::const_iterator::operator++()
+{
+    m_number = m_list->m_account->transactions.next(m_number);
+    return *this;
+}
+
+TransactionList::const_iterator TransactionList::const_iterator::operator++(int)
+{
+    const_iterator before = *this;
+    ++*this;
+    return before;
+}
+
+bool operator==(const TransactionList &a, const TransactionList &b)
+{
+    return a.m_account == b.m_account ||
+           (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), b.end()));
+}
+
+} // namespace kiv::accounting

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "accounting/transaction.h"
+
+#include <cstddef>
+#include <iterator>
+#include <memory>
+
+namespace kiv::accounting {
+
+namespace internal {
+struct AccountRecord;
+} // namespace internal
+
+/// The transactions of one account in the order of their numbers, as they
+/// stood when the account was read: a later change of the ledger does not show.
+/// It shares the ledger's own store, so that it costs nothing to copy or pass on.
+///
+/// Each transaction is made when it is asked for, with the codes that the
+/// accounts had at that time, and is seen from this account's side.
+class KIV_ACCOUNTING_EXPORT TransactionList {
+public:
+    class KIV_ACCOUNTING_EXPORT const_iterator {
+    public:
+        using iterator_category = std::input_iterator_tag;
+        using value_type = Transaction;
+        using difference_type = std::ptrdiff_t;
+        using reference = Transaction;
+        using pointer = void;
+
+        const_iterator() = default;
+        Transaction operator*() const;
+        const_iterator &operator++();
+        const_iterator operator++(int);
+        [[nodiscard]] TransactionNumber number() const noexcept { return m_number; }
+        friend bool operator==(const const_iterator &a, const const_iterator &b) noexcept
+        {
+            return a.m_number == b.m_number;
+        }
+
+    private:
+        friend class TransactionList;
+        const TransactionList *m_list = nullptr;
+        TransactionNumber m_number; ///< 0 at the end
+    };
+
+    /// No transactions.
+    TransactionList();
+    /// For the ledger: those of an account, which must be there.
+    TransactionList(std::shared_ptr<const internal::LedgerState> state, AccountNumber account);
+    TransactionList(const TransactionList &);
+    TransactionList &operator=(const TransactionList &);
+    ~TransactionList();
+
+    [[nodiscard]] std::size_t size() const noexcept;
+    [[nodiscard]] bool empty() const noexcept { return size() == 0; }
+    [[nodiscard]] const_iterator begin() const;
+    [[nodiscard]] const_iterator end() const;
+    [[nodiscard]] bool contains(TransactionNumber number) const noexcept;
+    [[nodiscard]] std::optional<Transaction> find(TransactionNumber number) const;
+    /// A set with a copy of each.
+    [[nodiscard]] std::set<Transaction> toSet() const;
+
+    /// The same transactions, element by element.
+    friend KIV_ACCOUNTING_EXPORT bool operator==(const TransactionList &a,
+                                                 const TransactionList &b);
+
+private:
+    std::shared_ptr<const internal::LedgerState> m_state;
+    const internal::AccountRecord *m_account = nullptr; ///< in m_state, if any
+};
+
+} // namespace kiv::accounting
