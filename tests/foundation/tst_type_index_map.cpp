@@ -30,7 +30,7 @@ QString presentationText(const Key &key)
 }
 std::ostream &operator<<(std::ostream &out, const Key &key)
 {
-    return out << key.name.toStdString();
+    return out << qPrintable(key.name);
 }
 
 using Map = kiv::foundation::TypeIndexMap<Key, int>;
@@ -61,102 +61,80 @@ class tst_TypeIndexMap : public QObject {
     Q_OBJECT
 
 private slots:
-    void sizeIsTheSumOfTheParts();
-    void refusalsNameTypeAndKey();
-    void failedInsertionLeavesNoEmptyPart();
-    void equalityComparesTypesKeysAndValues();
-    void dumpNamesEachType();
-};
-
-void tst_TypeIndexMap::sizeIsTheSumOfTheParts()
-{
-    Map map;
-    map.insertOrAssign<Red>(a, 1);
-    map.insertOrAssign<Blue>(a, 2);
-    map.insertOrAssign<Red>(b, 3);
-    map.insertOrAssign(typeid(Red), b, 4);
-    QCOMPARE(map.size(), std::size_t{3});
-    map.value<Blue>(a) = 5;
-    QCOMPARE(std::as_const(map).value<Blue>(a), 5);
-    QCOMPARE(map.value<Red>(b), 4);
-    map.remove<Blue>(a);
-    QVERIFY(!map.has<Blue>(a) && map.has<Red>(a));
-    QCOMPARE(map.maps().size(), std::size_t{1});
-    QCOMPARE(map.size(), std::size_t{2});
-    map.clear();
-    QVERIFY(map.isEmpty() && map.size() == 0 && map == Map());
-}
-
-void tst_TypeIndexMap::refusalsNameTypeAndKey()
-{
-    Map map;
-    map.insertOrAssign<Red>(a, 1);
-    const Map before = map;
-    const QString mutableOne =
-        u"Failed to find a mutable value under the type '%1' with the key '%2'."_qs;
-    QCOMPARE(refusal([&] { (void)map.value<Red>(b); }), mutableOne.arg(name<Red>(), u"<b %2>"_qs));
-    QCOMPARE(refusal([&] { (void)map.value<Blue>(a); }), mutableOne.arg(name<Blue>(), u"<a>"_qs));
-    QCOMPARE(refusal([&] { (void)before.value<Red>(b); }),
-             u"Failed to find a non-mutable value under the type '%1' with the key '%2'."_qs.arg(
-                 name<Red>(), u"<b %2>"_qs));
-    QCOMPARE(
-        refusal([&] { map.remove<Blue>(a); }),
-        u"Failed to remove the value under the key '%1' as the index type '%2' was not found."_qs
-            .arg(u"<a>"_qs, name<Blue>()));
-    QCOMPARE(
-        refusal([&] { map.remove<Red>(b); }),
-        u"Failed to remove the value under the key '%1' as the key was not found under the index type '%2'."_qs
-            .arg(u"<b %2>"_qs, name<Red>()));
-    QVERIFY(map == before);
-}
-
-void tst_TypeIndexMap::failedInsertionLeavesNoEmptyPart()
-{
-    Map map;
-    refusesCopies = true;
-    const auto reset = qScopeGuard([] { refusesCopies = false; });
-    QVERIFY_EXCEPTION_THROWN(map.insertOrAssign<Red>(a, 1), std::bad_alloc);
-    QVERIFY(map.isEmpty());
-    refusesCopies = false;
-    map.insertOrAssign<Red>(a, 1);
-    refusesCopies = true;
-    QVERIFY_EXCEPTION_THROWN(map.insertOrAssign<Red>(b, 2), std::bad_alloc);
-    QVERIFY(map.has<Red>(a) && map.size() == 1);
-}
-
-void tst_TypeIndexMap::equalityComparesTypesKeysAndValues()
-{
-    const auto make = [](std::initializer_list<std::tuple<std::type_index, Key, int>> entries) {
+    void sizeIsTheSumOfTheParts()
+    {
         Map map;
-        for (const auto &[type, key, value] : entries)
-            map.insertOrAssign(type, key, value);
-        return map;
-    };
-    const Map map = make({{typeid(Red), a, 1}, {typeid(Blue), b, 2}});
-    QVERIFY(map == make({{typeid(Blue), b, 2}, {typeid(Red), a, 1}}));
-    QVERIFY(map != make({{typeid(Red), a, 1}}));
-    QVERIFY(map != make({{typeid(Red), a, 2}, {typeid(Blue), b, 2}}));
-    QVERIFY(map != make({{typeid(Red), b, 1}, {typeid(Blue), b, 2}}));
-    QVERIFY(map != make({{typeid(Red), a, 1}, {typeid(Red), b, 2}}));
-}
+        map.insertOrAssign<Red>(a, 1);
+        map.insertOrAssign<Blue>(a, 2);
+        map.insertOrAssign<Red>(b, 3);
+        map.insertOrAssign(typeid(Red), b, 4);
+        map.value<Blue>(a) = 5;
+        QCOMPARE(map.size(), std::size_t{3});
+        QCOMPARE(std::as_const(map).value<Blue>(a), 5);
+        QCOMPARE(map.value<Red>(b), 4);
+        map.remove<Blue>(a);
+        QVERIFY(!map.has<Blue>(a) && map.has<Red>(a) && map.size() == 2);
+        QCOMPARE(map.maps().size(), std::size_t{1});
+    }
 
-void tst_TypeIndexMap::dumpNamesEachType()
-{
-    Map map;
-    std::ostringstream empty;
-    empty << map;
-    QCOMPARE(empty.str(), std::string("Type-Keys ()"));
-    map.insertOrAssign<Red>(b, 2);
-    map.insertOrAssign<Red>(a, 1);
-    map.insertOrAssign<Blue>(a, 3);
-    const QString red = name<Red>() + u"[a=>1, b %2=>2]"_qs;
-    const QString blue = name<Blue>() + u"[a=>3]"_qs;
-    const bool isRedFirst = std::type_index(typeid(Red)) < std::type_index(typeid(Blue));
-    std::ostringstream out;
-    out << map;
-    QCOMPARE(QString::fromStdString(out.str()), u"Type-Keys ("_qs + (isRedFirst ? red : blue) +
-                                                    u", "_qs + (isRedFirst ? blue : red) + u')');
-}
+    void refusalsNameTypeAndKey()
+    {
+        Map map;
+        map.insertOrAssign<Red>(a, 1);
+        const Map before = map;
+        const QString red = name<Red>();
+        const QString blue = name<Blue>();
+        QCOMPARE(refusal([&] { (void)map.value<Red>(b); }),
+                 u"Failed to find a mutable value under the type '"_qs + red +
+                     u"' with the key '<b %2>'."_qs);
+        QCOMPARE(refusal([&] { (void)before.value<Blue>(a); }),
+                 u"Failed to find a non-mutable value under the type '"_qs + blue +
+                     u"' with the key '<a>'."_qs);
+        QCOMPARE(refusal([&] { map.remove<Blue>(a); }),
+                 u"Failed to remove the value under the key '<a>' as the index type '"_qs + blue +
+                     u"' was not found."_qs);
+        QCOMPARE(
+            refusal([&] { map.remove<Red>(b); }),
+            u"Failed to remove the value under the key '<b %2>' as the key was not found under the index type '"_qs +
+                red + u"'."_qs);
+        QVERIFY(map == before && !map.has<Blue>(a));
+    }
+
+    void failedInsertionLeavesNoEmptyPart()
+    {
+        Map map;
+        map.insertOrAssign<Red>(a, 1);
+        const auto reset = qScopeGuard([] { refusesCopies = false; });
+        refusesCopies = true;
+        QVERIFY_EXCEPTION_THROWN(map.insertOrAssign<Blue>(a, 1), std::bad_alloc);
+        QVERIFY_EXCEPTION_THROWN(map.insertOrAssign<Red>(b, 2), std::bad_alloc);
+        QVERIFY(map.maps().size() == 1 && map.has<Red>(a) && map.size() == 1);
+    }
+
+    void equalityAndDumpFollowTypesKeysAndValues()
+    {
+        const auto make = [](std::initializer_list<std::tuple<std::type_index, Key, int>> entries) {
+            Map map;
+            for (const auto &[type, key, value] : entries)
+                map.insertOrAssign(type, key, value);
+            return map;
+        };
+        const Map map = make({{typeid(Red), b, 1}, {typeid(Red), a, 2}, {typeid(Blue), b, 3}});
+        QVERIFY(map == make({{typeid(Blue), b, 3}, {typeid(Red), a, 2}, {typeid(Red), b, 1}}));
+        QVERIFY(map != make({{typeid(Red), b, 1}, {typeid(Red), a, 2}}));
+        QVERIFY(map != make({{typeid(Red), b, 1}, {typeid(Red), a, 2}, {typeid(Blue), b, 4}}));
+        QVERIFY(map != make({{typeid(Red), b, 1}, {typeid(Red), a, 2}, {typeid(Blue), a, 3}}));
+
+        const QString red = name<Red>() + u"[a=>2, b %2=>1]"_qs;
+        const QString blue = name<Blue>() + u"[b %2=>3]"_qs;
+        const bool isRedFirst = std::type_index(typeid(Red)) < std::type_index(typeid(Blue));
+        std::ostringstream out;
+        out << map << Map();
+        QCOMPARE(QString::fromStdString(out.str()),
+                 u"Type-Keys (%1, %2)Type-Keys ()"_qs.arg(isRedFirst ? red : blue,
+                                                          isRedFirst ? blue : red));
+    }
+};
 
 QTEST_APPLESS_MAIN(tst_TypeIndexMap)
 #include "tst_type_index_map.moc"
