@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "banking/bank_account.h"
+
+#include <map>
+
+namespace kiv::banking {
+
+/// A bank with the ledger accounts that it keeps, each with its kind.
+class KIV_BANKING_EXPORT Bank {
+public:
+    using Accounts = std::map<accounting::AccountNumber, BankAccountTypes>;
+
+    Bank() = default;
+    Bank(BankName name, Accounts accounts, bool isClosed);
+
+    [[nodiscard]] const BankName &name() const noexcept { return m_name; }
+    [[nodiscard]] const Accounts &accounts() const noexcept { return m_accounts; }
+    [[nodiscard]] bool isClosed() const noexcept { return m_isClosed; }
+
+    friend bool operator==(const Bank &, const Bank &) = default;
+
+private:
+    BankName m_name;
+    Accounts m_accounts;
+    bool m_isClosed = false;
+};
+
+/// "First [1200=>checking, 1300=>savings]", and " closed" behind it.
+KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, const Bank &bank);
+KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const Bank &bank);
+
+} // namespace kiv::banking
+
+Q_DECLARE_METATYPE(kiv::banking::Bank)

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "banking/errors.h"
+
+/// Every sentence with which the bank map refuses a request.
+namespace kiv::banking::internal {
+
+[[nodiscard]] BankError emptyBankName(const BankName &name);
+[[nodiscard]] BankError bankExists(const BankName &name);
+[[nodiscard]] BankError bankNotFound(const BankName &name);
+[[nodiscard]] BankError bankAccountNotFound(const BankName &name, accounting::AccountNumber number);
+[[nodiscard]] BankError bankAlreadyOpen(const BankName &name);
+[[nodiscard]] BankError bankAlreadyClosed(const BankName &name);
+
+} // namespace kiv::banking::internal
