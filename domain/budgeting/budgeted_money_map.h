@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budgeting/errors.h"
+#include "budgeting/item_traits.h"
+
+#include <QtCore/QObject>
+
+#include <map>
+#include <ostream>
+
+namespace kiv::budgeting {
+
+/// The budget's items of one kind by their sources; the key is always the
+/// item's own source. Every refusal is a BudgetItemError and, with the one
+/// exception that update tells, leaves the map unchanged.
+template <BudgetItem T>
+class BudgetedMoneyMap {
+public:
+    using const_iterator = typename std::map<BudgetSource, T>::const_iterator;
+
+    [[nodiscard]] bool isEmpty() const noexcept { return m_items.empty(); }
+    [[nodiscard]] std::size_t size() const noexcept { return m_items.size(); }
+    [[nodiscard]] const_iterator begin() const noexcept { return m_items.begin(); }
+    [[nodiscard]] const_iterator end() const noexcept { return m_items.end(); }
+    [[nodiscard]] const_iterator find(const BudgetSource &source) const
+    {
+        return m_items.find(source);
+    }
+    [[nodiscard]] bool contains(const BudgetSource &source) const
+    {
+        return m_items.contains(source);
+    }
+    /// Throws std::out_of_range when there is none.
+    [[nodiscard]] const T &at(const BudgetSource &source) const { return m_items.at(source); }
+    [[nodiscard]] T &at(const BudgetSource &source) { return m_items.at(source); }
+    [[nodiscard]] std::set<BudgetSource> sources() const
+    {
+        std::set<BudgetSource> sources;
+        for (const auto &[source, item] : m_items)
+            sources.insert(sources.end(), source);
+        return sources;
+    }
+    /// The sum of the amounts in `currency`, each restated per `frequency`.
+    [[nodiscard]] numira::Money total(const numira::Currency &currency,
+                                      EventFrequency frequency) const
+    {
+        return numira::math::sum(currency, m_items, [&](const auto &entry) {
+            return accumulateOver(frequency, entry.second.amount(), entry.second.period());
+        });
+    }
+
+    void add(T item)
+    {
+        const BudgetSource source = item.source();
+        if (source.isEmpty()) {
+            throw BudgetItemError(
+                source, QObject::tr("The new budgeted money item source cannot be empty."));
+        }
+        if (m_items.contains(source)) {
+            throw BudgetItemError(
+                source, QObject::tr("The new budgeted money item source already exists."));
+        }
+        m_items.emplace(source, std::move(item));
+    }
+
+    void remove(const BudgetSource &source)
+    {
+        if (m_items.erase(source) == 0) {
+            throw BudgetItemError(
+                source,
+                QObject::tr("Failed to remove the budgeted money item as it does not exist."));
+        }
+    }
+
+    /// Replaces the item of the same source. With another currency it is
+    /// removed and added again, so that the checks of add run again; when those
+    /// refuse it (its source is empty, since it was renamed to that), the item
+    /// is gone.
+    void update(T item)
+    {
+        const auto stored = m_items.find(item.source());
+        if (stored == m_items.end()) {
+            throw BudgetItemError(
+                item.source(),
+                QObject::tr("Cannot update the budgeted money item as it does not exist."));
+        }
+        if (stored->second.amount().code() != item.amount().code()) {
+            remove(item.source());
+            add(std::move(item));
+        } else {
+            stored->second = std::move(item);
+        }
+    }
+
+    /// Renaming onto the own name is refused like any other name in use; an
+    /// empty new name is accepted.
+    void rename(const BudgetSource &from, BudgetSource to)
+    {
+        const auto stored = m_items.find(from);
+        if (stored == m_items.end()) {
+            throw BudgetItemError(from, QObject::tr("Cannot rename the budgeted money item source "
+                                                    "as it does not exist."));
+        }
+        T copy = stored->second;
+        if (m_items.contains(to)) {
+            throw BudgetItemError(copy.source(),
+                                  QObject::tr("Cannot rename the budgeted money item source, as "
+                                              "the new source, %1, already exists.")
+                                      .arg(to.name()));
+        }
+        copy.rename(to);
+        m_items.emplace(std::move(to), std::move(copy));
+        remove(from);
+    }
+
+    friend bool operator==(const BudgetedMoneyMap &, const BudgetedMoneyMap &) = default;
+
+private:
+    std::map<BudgetSource, T> m_items;
+};
+
+// Classes of their own rather than aliases: the names under which they cross
+// signals and slots.
+class KIV_BUDGETING_EXPORT BillMap final : public BudgetedMoneyMap<Bill> {};
+class KIV_BUDGETING_EXPORT DebtMap final : public BudgetedMoneyMap<Debt> {};
+class KIV_BUDGETING_EXPORT GoalMap final : public BudgetedMoneyMap<Goal> {};
+class KIV_BUDGETING_EXPORT NontrackMap final : public BudgetedMoneyMap<Nontrack> {};
+class KIV_BUDGETING_EXPORT WageMap final : public BudgetedMoneyMap<Wage> {};
+
+/// The items' own forms between parentheses, ", " between them.
+template <BudgetItem T>
+std::ostream &operator<<(std::ostream &out, const BudgetedMoneyMap<T> &map)
+{
+    out << '(';
+    const char *separator = "";
+    for (const auto &[source, item] : map) {
+        out << separator << item;
+        separator = ", ";
+    }
+    return out << ')';
+}
+
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BillMap &map);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const DebtMap &map);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const GoalMap &map);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const NontrackMap &map);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const WageMap &map);
+
+} // namespace kiv::budgeting
+
+Q_DECLARE_METATYPE(kiv::budgeting::BillMap)
+Q_DECLARE_METATYPE(kiv::budgeting::DebtMap)
+Q_DECLARE_METATYPE(kiv::budgeting::GoalMap)
+Q_DECLARE_METATYPE(kiv::budgeting::NontrackMap)
+Q_DECLARE_METATYPE(kiv::budgeting::WageMap)

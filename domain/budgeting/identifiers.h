@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "budgeting/export.h"
+
+#include <QtCore/QDate>
+#include <QtCore/QDebug>
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+
+#include <compare>
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <set>
+#include <typeindex>
+
+namespace kiv::budgeting {
+
+/// The five kinds of budget item. Whatever asks for the kinds one after the
+/// other goes in this order, and the first match wins.
+enum class BudgetItemTypes : std::uint8_t {
+    None = 0, ///< none, or unknown
+    Bill = 1,
+    Debt = 2,
+    Goal = 3,
+    Nontrack = 4,
+    Wage = 5,
+};
+
+/// The name by which the user knows a budget item. Two sources are the same
+/// exactly when their names are equal; case matters. Ordered by name, by code
+/// units.
+class KIV_BUDGETING_EXPORT BudgetSource {
+public:
+    BudgetSource() = default;
+    explicit BudgetSource(QString name) : m_name(std::move(name)) {}
+    [[nodiscard]] const QString &name() const noexcept { return m_name; }
+    [[nodiscard]] bool isEmpty() const noexcept { return m_name.isEmpty(); }
+
+    friend bool operator==(const BudgetSource &, const BudgetSource &) noexcept = default;
+    friend std::strong_ordering operator<=>(const BudgetSource &a, const BudgetSource &b) noexcept
+    {
+        return QString::compare(a.m_name, b.m_name) <=> 0;
+    }
+
+private:
+    QString m_name;
+};
+
+/// One budget item of the whole budget: kinds first, then names.
+struct KIV_BUDGETING_EXPORT BudgetItemIdentifier {
+    BudgetItemTypes type = BudgetItemTypes::None;
+    BudgetSource source;
+
+    friend bool operator==(const BudgetItemIdentifier &, const BudgetItemIdentifier &) = default;
+    friend std::strong_ordering operator<=>(const BudgetItemIdentifier &,
+                                            const BudgetItemIdentifier &) = default;
+};
+
+/// A budget item that has fallen due on a day.
+struct KIV_BUDGETING_EXPORT BudgetItemDueIdentifier {
+    BudgetItemTypes type = BudgetItemTypes::None;
+    BudgetSource source;
+    QDate dueOn;
+
+    [[nodiscard]] BudgetItemIdentifier item() const { return {type, source}; }
+    friend bool operator==(const BudgetItemDueIdentifier &,
+                           const BudgetItemDueIdentifier &) = default;
+};
+
+/// The word for the user: "bill", "debt", "goal", "non-tracked", "wage",
+/// "unknown" for None. Throws std::logic_error for a value above the known
+/// ones.
+[[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(BudgetItemTypes type);
+[[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(const BudgetSource &source);
+/// "Rent (bill)"; the number in place of the word for a kind above the known
+/// ones. The stream forms are the same.
+[[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(const BudgetItemIdentifier &id);
+
+KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, BudgetItemTypes type);
+KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetSource &source);
+KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemIdentifier &id);
+KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemDueIdentifier &id);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, BudgetItemTypes type);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetSource &source);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemIdentifier &id);
+KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemDueIdentifier &id);
+
+} // namespace kiv::budgeting
+
+Q_DECLARE_METATYPE(kiv::budgeting::BudgetItemTypes)
+Q_DECLARE_METATYPE(kiv::budgeting::BudgetSource)
+Q_DECLARE_METATYPE(std::set<kiv::budgeting::BudgetSource>)
+Q_DECLARE_METATYPE(std::optional<kiv::budgeting::BudgetSource>)
+Q_DECLARE_METATYPE(kiv::budgeting::BudgetItemIdentifier)
+Q_DECLARE_METATYPE(kiv::budgeting::BudgetItemDueIdentifier)

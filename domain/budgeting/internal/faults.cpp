@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "budgeting/internal/faults.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::budgeting::internal {
+
+BudgetItemError itemWithoutDate(const BudgetSource &source)
+{
+    return {
+        source,
+        QObject::tr("The budget item '%1' needs a valid next date.").arg(presentationText(source))};
+}
+
+BudgetItemError itemWithNegativeAmount(const BudgetSource &source, const numira::Money &amount)
+{
+    return {source, QObject::tr("The amount of the budget item '%1' cannot be negative, as %2 is.")
+                        .arg(presentationText(source), foundation::presentationText(amount))};
+}
+
+BudgetItemError noDayOfMonth(const BudgetSource &source, int day)
+{
+    return {source, QObject::tr("The budget item '%1' cannot recur on day %2 of a month.")
+                        .arg(presentationText(source), QString::number(day))};
+}
+
+foundation::Error neverRecurs()
+{
+    return foundation::Error(QObject::tr("What is not scheduled has no next date to move on to."));
+}
+
+foundation::Error noNextDate(EventFrequency frequency, QDate date)
+{
+    return foundation::Error(
+        QObject::tr("There is no date after %1 for what recurs %2.")
+            .arg(foundation::presentationText(date), presentationText(frequency)));
+}
+
+} // namespace kiv::budgeting::internal
