@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/currency_display.h"
 
+#include "navigation/internal/configuration_faults.h"
+
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
 
 #include <QtCore/QObject>
 
 #include <array>
-#include <stdexcept>
 
 namespace kiv::navigation {
 
@@ -24,11 +25,8 @@ const char *nameOf(CurrencyDisplayOptions option)
 {
     const auto value = static_cast<std::size_t>(option);
     if (value >= optionNames.size()) {
-        throw std::logic_error(
-            QStringLiteral("Failed to convert from the strong value '%1' to the another type for "
-                           "'%2'.")
-                .arg(QString::number(value), QStringLiteral("QString"))
-                .toStdString());
+        throw internal::faults::unknownStrongValue(QString::number(value),
+                                                   QStringLiteral("QString"));
     }
     return optionNames.at(value);
 }
@@ -62,10 +60,8 @@ CurrencyDisplayOptions toCurrencyDisplayOptions(const QString &text)
                 return option;
         }
     }
-    throw std::logic_error(
-        QStringLiteral("Failed to convert from the weak value '%1' to another type for '%2'.")
-            .arg(text, QStringLiteral("kiv::navigation::CurrencyDisplayOptions"))
-            .toStdString());
+    throw internal::faults::unknownWeakValue(
+        text, QStringLiteral("kiv::navigation::CurrencyDisplayOptions"));
 }
 
 QString toDisplayable(const numira::Currency &currency, CurrencyDisplayOptions option)
@@ -81,7 +77,7 @@ QString toDisplayable(const numira::Currency &currency, CurrencyDisplayOptions o
         return symbol ? QStringLiteral("%1 [%2]").arg(code, *symbol) : code;
     }
     }
-    throw std::logic_error("Failed to determine the way to display currency.");
+    throw internal::faults::unknownWayToDisplayCurrency();
 }
 
 numira::Currency toCurrencyFromDisplayable(const QString &text,
@@ -98,11 +94,11 @@ numira::Currency toCurrencyFromDisplayable(const QString &text,
             if (symbolOf(currency) == text)
                 return currency;
         }
-        throw std::logic_error("Failed to determine the currency from its symbol.");
+        throw internal::faults::unknownCurrencySymbol();
     case CurrencyDisplayOptions::SymbolAndCode:
         return numira::toCurrency(text.left(3).toStdString());
     }
-    throw std::logic_error("Failed to determine the way the currency was displayed.");
+    throw internal::faults::unknownWayCurrencyWasDisplayed();
 }
 
 std::ostream &operator<<(std::ostream &out, CurrencyDisplayOptions option)

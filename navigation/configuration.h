@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "navigation/currency_display.h"
+#include "navigation/export.h"
+#include "navigation/user_preferences.h"
+
+#include "foundation/percentage.h"
+#include "numira/currency.h"
+#include "tagging/budget_tag_manager.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QList>
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+
+#include <chrono>
+#include <ostream>
+#include <set>
+
+namespace kiv::navigation {
+
+/// What the configure view edits: the user's preferences and the budget's
+/// tags.
+struct KIV_NAVIGATION_EXPORT ConfigurationData {
+    std::chrono::hours hoursInWeek{};
+    std::chrono::days daysInWeek{};
+    numira::Currency preferredCurrency;
+    CurrencyDisplayOptions currenciesDisplayAs = CurrencyDisplayOptions::IsoCode;
+    std::set<numira::Currency> usableCurrencies;
+    foundation::Percentage surveyWindow;
+    std::chrono::days notifyDueWithin{};
+    tagging::Tags tags;
+
+    friend bool operator==(const ConfigurationData &, const ConfigurationData &) = default;
+};
+
+KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const ConfigurationData &data);
+KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const ConfigurationData &data);
+
+/// The record of what is set and of every tag that can be chosen.
+[[nodiscard]] KIV_NAVIGATION_EXPORT ConfigurationData load(const UserPreferences &preferences,
+                                                           const tagging::BudgetTagManager &tags);
+
+/// Writes an edited record back: tags that it lacks are removed from the
+/// manager (tags that the manager lacks are not added), and the preferences are
+/// set. `currencies` are those that the open budget uses.
+///
+/// Throws foundation::Error, with nothing written, when the hours are not 1 to
+/// 167, the days not 1 to 7, a currency in use is not usable, the days to
+/// notify within not 0 to 60, or the survey window not 0 to 100 %.
+KIV_NAVIGATION_EXPORT void store(const ConfigurationData &data, UserPreferences &preferences,
+                                 tagging::BudgetTagManager &tags,
+                                 const std::set<numira::Currency> &currencies);
+
+/// What the application is told when it is started.
+struct StartUpOptions {
+    bool isAdvancedUi = false; ///< -a, --advanced-ui
+    bool isJargonFree = false; ///< -j, --no-jargon
+
+    friend bool operator==(const StartUpOptions &, const StartUpOptions &) = default;
+};
+
+/// Reads the command line, whose first argument is the program's name. Help,
+/// the version and unknown options end the program, as
+/// QCommandLineParser::process does. Needs the application object.
+[[nodiscard]] KIV_NAVIGATION_EXPORT StartUpOptions parse(const QList<QString> &arguments);
+
+} // namespace kiv::navigation
+
+Q_DECLARE_METATYPE(kiv::navigation::ConfigurationData)
