@@ -4,16 +4,20 @@
 // The Navigator's sources, by topic. Each group of slots below names its own.
 //
 //   navigator.cpp                construction, wiring, the rest of the object
-//   navigator_meta_types.cpp     the types that cross signals and slots
 //   navigator_budget_file.cpp    new, load, reload, save
+//   navigator_wizard.cpp         the first-time wizard
 //   navigator_budget_items.cpp   bills, debts, goals, non-tracked items, wages
 //   navigator_accounts.cpp       accounts, banks and bank accounts
 //   navigator_transactions.cpp   transactions, refunds and transfers
 //   navigator_processing.cpp     items that are due
+//   navigator_surveys.cpp        bank account surveys
+//   navigator_settings.cpp       dashboard, exchange rates, configuration, releases
 
 #include "navigation/allow_sub_accounts.h"
 #include "navigation/bank_account_code.h"
 #include "navigation/budget_bank_account.h"
+#include "navigation/budget_wizard_templates.h"
+#include "navigation/configuration.h"
 #include "navigation/container_streams.h"
 #include "navigation/currency_display.h"
 #include "navigation/export.h"
@@ -22,13 +26,19 @@
 
 #include "accounting/account.h"
 #include "accounting/transaction.h"
+#include "adviser/budget_health.h"
 #include "banking/bank_map.h"
 #include "budgeting/budget_totals.h"
 #include "budgeting/due.h"
+#include "conversion/conversion_map.h"
 #include "foundation/error.h"
 #include "foundation/percentage.h"
 #include "foundation/qt_ptr.h"
+#include "surveying/indexed_increase_decreases.h"
+#include "surveying/mapping_survey.h"
 #include "tagging/budget_tag_manager.h"
+#include "updating/release_information.h"
+#include "updating/semantic_version.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QObject>
@@ -118,6 +128,27 @@ Q_SIGNALS:
                    const kiv::tagging::BudgetItemTags &associatedTags,
                    const std::set<numira::Currency> &usableCurrencies,
                    const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowDebts, with the bank accounts that debts are tied
+    /// to.
+    void showDebts(const kiv::budgeting::DebtMap &debts,
+                   const std::set<kiv::navigation::BudgetBankAccount> &accounts,
+                   const std::set<kiv::accounting::AccountCode> &codes,
+                   const std::set<kiv::banking::BankName> &banks, const numira::Currency &preferred,
+                   const kiv::tagging::Tags &possibleTags,
+                   const kiv::tagging::BudgetItemTags &associatedTags,
+                   const std::set<numira::Currency> &usableCurrencies,
+                   const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowGoals, with the bank accounts that goals lie under
+    /// and what all wages come to per month, in the preferred currency.
+    void showGoals(const kiv::budgeting::GoalMap &goals,
+                   const std::set<kiv::navigation::BudgetBankAccount> &accounts,
+                   const std::set<kiv::accounting::AccountCode> &codes,
+                   const std::set<kiv::banking::BankName> &banks, const numira::Currency &preferred,
+                   const kiv::tagging::Tags &possibleTags,
+                   const kiv::tagging::BudgetItemTags &associatedTags,
+                   const std::set<numira::Currency> &usableCurrencies,
+                   const kiv::navigation::CurrencyDisplayOptions &displayAs,
+                   const numira::Money &wagesTotal);
     /// Answers onPrepareShowNontracks.
     void showNontracks(const kiv::budgeting::NontrackMap &nontracks,
                        const numira::Currency &preferred, const kiv::tagging::Tags &possibleTags,
@@ -189,6 +220,12 @@ Q_SIGNALS:
                                 const std::set<numira::Currency> &usableCurrencies,
                                 const kiv::navigation::CurrencyDisplayOptions &displayAs,
                                 const std::set<kiv::accounting::AccountCode> &codes);
+    /// Answers onPrepareShowSurvey.
+    void showSurvey(const std::set<kiv::banking::BankName> &banks,
+                    const std::set<numira::Currency> &usable,
+                    const kiv::navigation::CurrencyDisplayOptions &displayAs,
+                    const kiv::foundation::Percentage &balanceWindow,
+                    const std::set<kiv::accounting::AccountCode> &codes);
     /// Answers onLookUpBankAccounts.
     void lookedUpBankAccounts(const kiv::banking::BankName &bn,
                               const std::set<kiv::banking::AccountNumberBankType> &accountTypes);
@@ -219,6 +256,45 @@ Q_SIGNALS:
     /// Answers onCheckIsBudgetFileDirty.
     void checkedIsBudgetFileDirty(bool isDirty);
 
+    // ---- dashboard, rates, configuration ------------------------------------
+
+    /// Answers onPrepareShowDashboard.
+    void showDashboard(const kiv::budgeting::BudgetTotals &bt,
+                       const std::vector<kiv::budgeting::BudgetItemAmountDue> &due,
+                       const kiv::adviser::BudgetHealth &bh, const std::chrono::days &dueWithin,
+                       const numira::Currency &preferred,
+                       const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// Answers onPrepareShowExchangeRates.
+    void showExchangeRates(const kiv::conversion::ConversionMap &currentConversions,
+                           const std::set<numira::Currency> &currencies);
+    /// Answers onFetchExchangeRates.
+    void fetchedExchangeRates(const std::set<numira::Currency> &currencies,
+                              const kiv::conversion::ConversionMap &conversions);
+    /// Answers onPrepareShowConfigure, with the currencies that are in use.
+    void showConfigure(const kiv::navigation::ConfigurationData &confData,
+                       const std::set<numira::Currency> &used);
+    void configureSaveSucceeded();
+    void configureSaveFailed(const QString &errorMessage);
+
+    // ---- surveys ------------------------------------------------------------
+
+    /// Answers onLookUpLastReconciliation, with the account's currency.
+    void lookedUpLastReconciliation(
+        const numira::Currency &code,
+        const std::optional<kiv::banking::ReconciledBalance> &reconciliation);
+    /// Answers onGenerateMappingSurvey.
+    void generatedMappingSurvey(const kiv::surveying::MappingSurvey &survey);
+    void completedSurveySucceeded();
+    void completedSurveyFailed(const QString &errorMessage);
+
+    // ---- releases -----------------------------------------------------------
+
+    /// Answers onFetchReleaseNotes, when the notes have arrived.
+    void fetchedReleaseNotes(const std::set<kiv::updating::ReleaseInformation> &versions);
+    /// There is a newer release. No further check is made before
+    /// updateAvailableAcknowledged.
+    void updateReleased(const kiv::updating::SemanticVersion &latest);
+
     // ---- transfers, refunds, wizard -----------------------------------------
 
     /// Answers onPrepareShowMoneyTransfer.
@@ -233,11 +309,25 @@ Q_SIGNALS:
     void lookedUpRefundableTransactions(const kiv::budgeting::BudgetItemIdentifier &bii,
                                         const kiv::accounting::AccountCode &ac,
                                         const std::set<kiv::accounting::Transaction> &txns);
+    /// Asks for the answers to the first-time wizard.
+    void showNewBudgetFirstTimeWizard(const numira::Currency &preferred,
+                                      const std::set<numira::Currency> &usable,
+                                      const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// For the views to emit: the user has seen that there is a newer release,
+    /// and checks may go on.
+    void updateAvailableAcknowledged();
+
+private Q_SLOTS:
+    // ---- exchange rates: navigator_settings.cpp -----------------------------
+
+    void updateAllExpiredExchangeRates();
 
 public Q_SLOTS:
     // ---- budget items: navigator_budget_items.cpp ---------------------------
 
     void onPrepareShowBills();
+    void onPrepareShowDebts();
+    void onPrepareShowGoals();
     void onPrepareShowNontracks();
     void onPrepareShowWages();
     /// Answers true when the item was added. Only debts and goals take a bank
@@ -311,6 +401,7 @@ public Q_SLOTS:
     // ---- processing: navigator_processing.cpp, surveys: navigator_surveys.cpp
 
     void onPrepareShowProcessBudgetItems();
+    void onPrepareShowSurvey();
     void onLookUpBankAccounts(const kiv::banking::BankName &bn,
                               const kiv::navigation::AllowSubAccounts &shouldAllow);
     void onLookUpBudgetItemSources(const kiv::budgeting::BudgetItemDueIdentifier &requestedBy);
@@ -342,6 +433,36 @@ public Q_SLOTS:
     void onReloadBudgetFile();
     void onCheckIsBudgetFileDirty();
 
+    // ---- dashboard, rates, configuration: navigator_settings.cpp ------------
+
+    void onPrepareShowDashboard();
+    void onPrepareShowExchangeRates();
+    /// Waits for the answer of the service.
+    void onFetchExchangeRates(const std::set<numira::Currency> &currencies);
+    void onStoreExchangeRates(const kiv::conversion::ConversionMap &conversions);
+    void onPrepareShowConfigure();
+    void onConfigureUpdated(const kiv::navigation::ConfigurationData &data);
+
+    // ---- surveys: navigator_surveys.cpp -------------------------------------
+
+    void onLookUpLastReconciliation(const kiv::accounting::AccountNumber &an);
+    void onGenerateMappingSurvey(const kiv::banking::BankName &bn,
+                                 const kiv::accounting::AccountNumber &an,
+                                 const QDate &surveyingOn);
+    void onCompletedSurvey(
+        const QDate &completedOn, const kiv::banking::BankAccount &ba, const numira::Money &balance,
+        const std::set<kiv::accounting::TransactionNumber> &allReconciled,
+        const kiv::surveying::IndexedIncreaseDecreases<kiv::budgeting::BudgetItemIdentifier>
+            &allAdded,
+        const kiv::surveying::IndexedIncreaseDecreases<kiv::accounting::AccountNumber> &allExtra,
+        const std::map<kiv::budgeting::BudgetItemIdentifier, kiv::surveying::DistributedAmount>
+            &distributed,
+        const numira::Money &nonDistributed);
+
+    // ---- releases: navigator_settings.cpp -----------------------------------
+
+    void onFetchReleaseNotes();
+
     // ---- transfers and refunds: navigator_transactions.cpp ------------------
 
     void onPrepareShowMoneyTransfer();
@@ -353,6 +474,19 @@ public Q_SLOTS:
     /// Does not mark the budget as changed.
     void onPostRefund(const kiv::accounting::TransactionNumber &txnNum,
                       const numira::Money &refund);
+
+    // ---- first-time wizard: navigator_wizard.cpp ----------------------------
+
+    void onPrepareNewBudgetFirstTimeWizard();
+    void onConfirmedNewBudgetFirstTimeWizard();
+    /// Stores the three preferences, then builds the budget. When any step of
+    /// that fails, an empty budget is left.
+    void onCompletedNewBudgetFirstTimeWizard(
+        const numira::Currency &preferred, const std::set<numira::Currency> &usable,
+        const kiv::navigation::CurrencyDisplayOptions &displayAs,
+        const kiv::banking::BankName &primary, const kiv::banking::BankAccountTypes &kind,
+        const QString &accountName, const numira::Money &initialBalance,
+        const kiv::navigation::BudgetWizardTemplates &selectedTemplate);
 
 private:
     /// Runs `operation`. When it throws an error of the class Caught, that is
@@ -367,6 +501,21 @@ private:
     template <typename Caught = foundation::Error, typename Operation, typename Success,
               typename Failure>
     bool change(const char *sentence, Operation &&operation, Success &&success, Failure &&failure);
+
+    void setUpMoneyLibrary();
+    void initialiseConversions();
+    void startUpdateNotifier();
+    /// Waits for the service, and the event loop runs meanwhile: whoever calls
+    /// this looks whether the Navigator is still there afterwards.
+    conversion::ConversionMap fetchRates(const std::set<numira::Currency> &currencies);
+    /// Adds the account and the bank that keeps it. Throws what stands in for
+    /// the answers of the slots that refused.
+    banking::BankAccount addWizardBank(const banking::BankName &name,
+                                       banking::BankAccountTypes kind, const QString &accountName,
+                                       const numira::Money &initialBalance);
+    /// Adds the items of the starter budget. Throws when one is refused.
+    void addWizardItems(BudgetWizardTemplates selected, const numira::Currency &currency,
+                        const banking::BankAccount &account);
 
     std::optional<QString> m_budgetFile;
     bool m_isDirty = false;

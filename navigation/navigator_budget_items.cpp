@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Bills, debts, goals, non-tracked items and wages.
+#include "navigation/internal/navigator_change.h"
+
+#include <stdexcept>
+
+namespace kiv::navigation {
+
+using budgeting::BankTiedItem;
+using budgeting::BudgetItemIdentifier;
+using budgeting::BudgetItemTypes;
+using budgeting::BudgetSource;
+using budgeting::ItemTraits;
+
+namespace {
+
+/// Views keep tags apart from items; this catches one that mixes up two rows.
+void requireTagsOf(const BudgetItemTypes &type, const budgeting::BudgetedMoney &item,
+                   const tagging::BudgetItemTags::ItemTags &itemTags)
+{
+    if (itemTags.type() != type) {
+        throw foundation::Error(
+            Navigator::tr("The provided item type does not match the item's type."));
+    }
+    if (itemTags.source() != item.source()) {
+        throw foundation::Error(
+            Navigator::tr("The provided item source does not match the item's source."));
+    }
+}
+
+/// A bank account for a kind of item that has none is a mistake of the view's
+/// code, not of the user.
+template <budgeting::BudgetItem Item>
+void requireNoBankAccount(const std::optional<banking::BankAccount> &ba, const char *verb)
+{
+    if (!ba)
+        return;
+    QString kind = QString::fromLatin1(ItemTraits<Item>::word);
+    kind[0] = kind[0].toUpper();
+    throw std::logic_error(
+        QStringLiteral("An item of type '%1' cannot %2 a bank account association.")
+            .arg(kind, QString::fromLatin1(verb))
+            .toStdString());
+}
+
+/// A view may change the budget while it draws itself; what it draws stays.
+template <typename Items>
+Items copied(const Items &items)
+{
+    return items;
+}
+
+/// What all five views show besides the items.
+struct ViewBasics {
+    numira::Currency preferred;
+    tagging::Tags possibleTags;
+    tagging::BudgetItemTags associatedTags;
+    std::set<numira::Currency> usableCurrencies;
+    CurrencyDisplayOptions displayAs;
+
+    ViewBasics(const UserPreferences &preferences, const tagging::BudgetTagManager &tags,
+               BudgetItemTypes type)
+        : preferred(preferences.preferredCurrency()),
+          possibleTags(tags.possible()),
+          associatedTags(tags.associated(type)),
+          usableCurrencies(preferences.usableCurrencies()),
+          displayAs(preferences.currenciesDisplayAs())
+    {
+    }
+};
+
+} // namespace
+
+// ---- showing -----------------------------------------------------------------
+
+void Navigator::onPrepareShowBills()
+{
+    const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Bill);
+    emit showBills(copied(m_budgetBankLedgers->budget().bills), view.preferred, view.possibleTags,
+                   view.associatedTags, view.usableCurrencies, view.displayAs);
+}
+
+void Navigator::onPrepareShowDebts()
+{
+    const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Debt);
+    emit showDebts(copied(m_budgetBankLedgers->budget().debts),
+                   m_budgetBankLedgers->budgetBankAccounts(BudgetItemTypes::Debt),
+                   m_budgetBankLedgers->generalLedger().accountCodes(),
+                   m_budgetBankLedgers->bankNames(), view.preferred, view.possibleTags,
+                   view.associatedTags, view.usableCurrencies, view.displayAs);
+}
+
+void Navigator::onPrepareShowGoals()
+{
+    const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Goal);
+    const numira::Money wagesTotal = m_budgetBankLedgers->budget().wages.total(
+        view.preferred, budgeting::EventFrequency::Monthly);
+    emit showGoals(copied(m_budgetBankLedgers->budget().goals),
+                   m_budgetBankLedgers->budgetBankAccounts(BudgetItemTypes::Goal),
+                   m_budgetBankLedgers->generalLedger().accountCodes(),
+                   m_budgetBankLedgers->bankNames(), view.preferred, view.possibleTags,
+                   view.associatedTags, view.usableCurrencies, view.displayAs, wagesTotal);
+}
+
+void Navigator::onPrepareShowNontracks()
+{
+    const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Nontrack);
+    emit showNontracks(copied(m_budgetBankLedgers->budget().nontracks), view.preferred,
+                       view.possibleTags, view.associatedTags, view.usableCurrencies,
+                       view.displayAs);
+}
+
+void Navigator::onPrepareShowWages()
+{
+    const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Wage);
+    emit showWages(copied(m_budgetBankLedgers->budget().wages), view.preferred, view.possibleTags,
+                   view.associatedTags, view.usableCurrencies, view.displayAs);
+}
+
+// ---- changing ----------------------------------------------------------------
+
+bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &type,
+                        const budgeting::BudgetedMoney &item,
+                        const std::optional<banking::BankAccount> &ba,
+                        const tagging::BudgetItemTags::ItemTags &itemTags)
+{
+    const auto add = [&]<typename Item>(std::type_identity<Item>) {
+        if constexpr (!BankTiedItem<Item>)
+            requireNoBankAccount<Item>(ba, "add");
+        const auto &own = dynamic_cast<const Item &>(item);
+        accounting::AccountCode code;
+        if constexpr (BankTiedItem<Item>)
+            code = m_budgetBankLedgers->add<Item>(own, ba);
+        else
+            code = m_budgetBankLedgers->add<Item>(own);
+        qInfo() << "Budget item" << ItemTraits<Item>::word << "account code:" << code;
+    };
+    return change(
+        "Failed to add budget item.",
+        [&] {
+            requireTagsOf(type, item, itemTags);
+            visitItemClass(
+                type, "An unknown budget item type was supplied when adding a new entry.", add);
+            m_tagManager.changeAssociation(itemTags);
+        },
+        [&] { emit saveSucceeded(id, item.source()); },
+        [&](const QString &why) { emit saveFailed(id, std::nullopt, why, item.source()); });
+}
+
+void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes &type,
+                          const budgeting::BudgetedMoney &item,
+                          const std::optional<banking::BankAccount> &ba,
+                          const tagging::BudgetItemTags::ItemTags &itemTags)
+{
+    const auto update = [&]<typename Item>(std::type_identity<Item>) {
+        if constexpr (!BankTiedItem<Item>)
+            requireNoBankAccount<Item>(ba, "update");
+        const auto &own = dynamic_cast<const Item &>(item);
+        if constexpr (BankTiedItem<Item>)
+            m_budgetBankLedgers->update<Item>(own, ba);
+        else
+            m_budgetBankLedgers->update<Item>(own);
+    };
+    change(
+        "Failed to update budget item.",
+        [&] {
+            requireTagsOf(type, item, itemTags);
+            visitItemClass(type, "An unknown budget item type was supplied when updating an entry.",
+                           update);
+            m_tagManager.changeAssociation(itemTags);
+        },
+        [&] { emit saveSucceeded(id, item.source()); },
+        [&](const QString &why) { emit saveFailed(id, item.source(), why, item.source()); });
+}
+
+void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes &type,
+                          const BudgetSource &original, const BudgetSource &changed)
+{
+    const auto rename = [&]<typename Item>(std::type_identity<Item>) {
+        m_budgetBankLedgers->rename<Item>(original, changed);
+    };
+    change(
+        "Failed to rename budget item.",
+        [&] {
+            visitItemClass(type, "An unknown budget item type was supplied when renaming an entry.",
+                           rename);
+            m_tagManager.renameAssociation({type, original}, changed);
+        },
+        // The old name, on purpose: by it the view finds the row that it asked
+        // to rename, and it knows the new one already.
+        [&] { emit saveSucceeded(id, original); },
+        [&](const QString &why) { emit saveFailed(id, original, why, changed); });
+}
+
+void Navigator::onRemoved(const GuiElementIdentifier &id, const BudgetItemTypes &type,
+                          const BudgetSource &source)
+{
+    const BudgetItemIdentifier item{type, source};
+    change(
+        "Failed to remove budget item.",
+        [&] {
+            m_budgetBankLedgers->remove(item);
+            m_tagManager.removeAssociation(item);
+        },
+        [&] { emit saveSucceeded(id, source); },
+        [&](const QString &why) { emit saveFailed(id, source, why, source); });
+}
+
+// ---- looking up --------------------------------------------------------------
+
+void Navigator::onLookUpBudgetItemSources(const budgeting::BudgetItemDueIdentifier &requestedBy)
+{
+    std::set<BudgetSource> sources;
+    // A view that has chosen no kind yet is answered with nothing to choose;
+    // only a change needs a kind.
+    if (requestedBy.type != BudgetItemTypes::None) {
+        visitItemClass(requestedBy.type,
+                       "An unknown budget item type was supplied when looking up all the budget "
+                       "item sources.",
+                       [&]<typename Item>(std::type_identity<Item>) {
+                           sources = m_budgetBankLedgers->budget().items<Item>().sources();
+                       });
+    }
+    emit lookedUpBudgetItemSources(requestedBy, sources);
+}
+
+} // namespace kiv::navigation

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Budget items that are due.
+#include "navigation/internal/navigator_change.h"
+
+#include "budgeting/due.h"
+
+namespace kiv::navigation {
+
+using accounting::TransactionNumber;
+using budgeting::BudgetItemDueIdentifier;
+
+void Navigator::onPrepareShowProcessBudgetItems()
+{
+    const std::chrono::days dueWithin = m_preferences.notifyDueWithin();
+    emit showProcessBudgetItems(
+        dueWithin, budgeting::budgetItemsDue(dueWithin, m_budgetBankLedgers->budget()),
+        m_budgetBankLedgers->bankNames(), m_preferences.preferredCurrency(),
+        m_preferences.usableCurrencies(), m_preferences.currenciesDisplayAs(),
+        m_budgetBankLedgers->generalLedger().accountCodes());
+}
+
+// A list of due items is processed one after the other, often long after it was
+// shown. An item that went meanwhile is the ordinary case there, not a mistake
+// of the view's code; so these three answer any exception.
+
+void Navigator::onPostBudgetItemPosted(const budgeting::BudgetItemAmountDue &bid,
+                                       const accounting::AccountCode &ac, const QDate &postOn)
+{
+    std::optional<TransactionNumber> posted;
+    change<std::exception>(
+        "Failed to process budget item due.",
+        [&] { posted = m_budgetBankLedgers->process(bid, ac, postOn); },
+        [&] { emit processBudgetItemSaveSucceeded(bid.id, posted); },
+        [&](const QString &why) { emit processBudgetItemSaveFailed(bid.id, why); });
+}
+
+void Navigator::onPostBudgetItemPostedUnexpected(const BudgetItemDueIdentifier &bidi,
+                                                 const numira::Money &amount,
+                                                 const accounting::AccountCode &ac,
+                                                 const QDate &postOn)
+{
+    std::optional<TransactionNumber> posted;
+    change<std::exception>(
+        "Failed to process budget item unexpected.",
+        [&] { posted = m_budgetBankLedgers->process(bidi.item(), amount, ac, postOn); },
+        [&] { emit processBudgetItemSaveSucceeded(bidi, posted); },
+        [&](const QString &why) { emit processBudgetItemSaveFailed(bidi, why); });
+}
+
+void Navigator::onPostBudgetItemSkipped(const BudgetItemDueIdentifier &bidi)
+{
+    change<std::exception>(
+        "Failed to skip budget item due.", [&] { m_budgetBankLedgers->skip(bidi.item()); },
+        [&] { emit processBudgetItemSaveSucceeded(bidi, std::nullopt); },
+        [&](const QString &why) { emit processBudgetItemSaveFailed(bidi, why); });
+}
+
+} // namespace kiv::navigation
