@@ -102,11 +102,8 @@ public:
 private:
     friend class BudgetBankLedgers;
 
-    /// The same without any check: for an owner that was copied or moved and
+    /// Constructs without any check: for an owner that was copied or moved and
     /// ties what it has to its own banks and ledger again, valid or not.
-    [[nodiscard]] static BankLedgers
-    rebound(foundation::ObserverPtr<banking::BankMap> banks,
-            foundation::ObserverPtr<accounting::GeneralLedger> ledgers) noexcept;
     struct Unchecked {};
     BankLedgers(Unchecked, foundation::ObserverPtr<banking::BankMap> banks,
                 foundation::ObserverPtr<accounting::GeneralLedger> ledgers) noexcept;

@@ -163,9 +163,16 @@ public:
     /// account has, and one whose account would get the name of an item. What
     /// BudgetLedgers::add leaves behind when the ledger refuses stays here too.
     template <budgeting::BudgetItem T>
-    requires(!budgeting::BankTiedItem<T>) AccountCode add(T item);
+    requires(!budgeting::BankTiedItem<T>) AccountCode add(T item)
+    {
+        verifyNewItemName(item.source());
+        return m_budgetLedgers.add(std::move(item), *m_generator);
+    }
     template <budgeting::BudgetItem T>
-    requires(!budgeting::BankTiedItem<T>) void update(T item);
+    requires(!budgeting::BankTiedItem<T>) void update(T item)
+    {
+        m_budgetLedgers.update(std::move(item), *m_generator);
+    }
 
     /// Adds a debt or a goal, and ties it to a bank account: a debt's own
     /// account becomes one of the bank (`bankAccount` names bank and kind), a
@@ -185,12 +192,32 @@ public:
     /// completed survey that has one; later surveys keep the old name. Refused:
     /// as by add. See BudgetLedgers::rename for what stays after a failure.
     template <budgeting::BudgetItem T>
-    void rename(const BudgetSource &from, const BudgetSource &to);
-    void renameBill(const BudgetSource &from, const BudgetSource &to);
-    void renameDebt(const BudgetSource &from, const BudgetSource &to);
-    void renameGoal(const BudgetSource &from, const BudgetSource &to);
-    void renameNontrack(const BudgetSource &from, const BudgetSource &to);
-    void renameWage(const BudgetSource &from, const BudgetSource &to);
+    void rename(const BudgetSource &from, const BudgetSource &to)
+    {
+        verifyNewItemName(to);
+        m_budgetLedgers.rename<T>(from, to, std::nullopt);
+        m_surveys.renamedItem({budgeting::ItemTraits<T>::type, from}, to);
+    }
+    void renameBill(const BudgetSource &from, const BudgetSource &to)
+    {
+        rename<budgeting::Bill>(from, to);
+    }
+    void renameDebt(const BudgetSource &from, const BudgetSource &to)
+    {
+        rename<budgeting::Debt>(from, to);
+    }
+    void renameGoal(const BudgetSource &from, const BudgetSource &to)
+    {
+        rename<budgeting::Goal>(from, to);
+    }
+    void renameNontrack(const BudgetSource &from, const BudgetSource &to)
+    {
+        rename<budgeting::Nontrack>(from, to);
+    }
+    void renameWage(const BudgetSource &from, const BudgetSource &to)
+    {
+        rename<budgeting::Wage>(from, to);
+    }
 
     /// See removeItem.
     void remove(const BudgetItemIdentifier &id);
@@ -240,6 +267,22 @@ public:
                                                  const BudgetBankLedgers &b);
 
 private:
+    /// As for verifyBudgetSourceName, and the name that the item's own account
+    /// will get is held against the budget items like any account's.
+    void verifyNewItemName(const BudgetSource &source) const;
+    /// Calls the visitor for the first kind, in their order, of which an item of
+    /// this name has an account; tells whether there was one.
+    template <typename Visitor>
+    bool visitOwner(const BudgetSource &source, Visitor &&visitor) const
+    {
+        return budgeting::anyItemClass([&]<typename T>(std::type_identity<T> kind) {
+            const bool isOwner = m_budgetLedgers.budgetAccountCodes().has<T>(source);
+            if (isOwner)
+                visitor(kind);
+            return isOwner;
+        });
+    }
+
     accounting::GeneralLedger m_generalLedger;
     budgeting::Budget m_budget;
     banking::BankMap m_banks;

@@ -33,6 +33,13 @@ using BudgetAccountCodes =
 /// passes through.
 class KIV_NAVIGATION_EXPORT BudgetLedgers {
 public:
+    using AccountCode = accounting::AccountCode;
+    using AccountNumberGenerator = accounting::AccountNumberGenerator;
+    using Money = numira::Money;
+    using Number = std::optional<accounting::AccountNumber>;
+    using Source = budgeting::BudgetSource;
+    using TransactionNumber = accounting::TransactionNumber;
+
     /// What a budget item's own account is called after the item and a blank:
     /// "[Budget Item]".
     static const QString budgetItemAccountSuffix_;
@@ -60,13 +67,13 @@ public:
     /// An item that the budget took but whose account the ledger refused stays
     /// in the budget, on purpose; its number is given back.
     template <budgeting::BudgetItem T>
-    accounting::AccountCode add(T item, accounting::AccountNumberGenerator &generator);
+    AccountCode add(T item, AccountNumberGenerator &generator);
 
     /// Replaces the item of the same source, and keeps its account in the
     /// item's new currency when that changed. Throws BudgetItemError when there
     /// is no such item.
     template <budgeting::BudgetItem T>
-    void update(T item, accounting::AccountNumberGenerator &generator);
+    void update(T item, AccountNumberGenerator &generator);
 
     /// Renames the item and recodes its account: named after the item, without a
     /// parent, under `number` if one is given.
@@ -74,46 +81,57 @@ public:
     /// There is no undo: when the account cannot be recoded, the item is
     /// renamed already.
     template <budgeting::BudgetItem T>
-    void rename(const budgeting::BudgetSource &from, const budgeting::BudgetSource &to,
-                const std::optional<accounting::AccountNumber> &number);
+    void rename(const Source &from, const Source &to, const Number &number);
 
     /// Removes the item and its account; an account with a history is closed
     /// instead. Throws BudgetItemError when there is no such item, and for a
     /// debt or goal whose account has a history and a balance.
     template <budgeting::BudgetItem T>
-    void remove(const budgeting::BudgetSource &source);
+    void remove(const Source &source);
 
     /// The code of the item's account. Throws foundation::Error when the map
     /// has no entry, AccountError when the ledger has no such account.
     template <budgeting::BudgetItem T>
-    [[nodiscard]] accounting::AccountCode
-    budgetAccountCode(const budgeting::BudgetSource &source) const
+    [[nodiscard]] AccountCode budgetAccountCode(const Source &source) const
     {
         return m_ledgers->ledger(m_codes.value<T>(source)).code();
     }
 
     // ---- items by the name of their kind -----------------------------------
 
-    using Source = budgeting::BudgetSource;
-    using Number = std::optional<accounting::AccountNumber>;
-    void renameBill(const Source &from, const Source &to, const Number &number);
-    void renameDebt(const Source &from, const Source &to, const Number &number);
-    void renameGoal(const Source &from, const Source &to, const Number &number);
-    void renameNontrack(const Source &from, const Source &to, const Number &number);
-    void renameWage(const Source &from, const Source &to, const Number &number);
+    void renameBill(const Source &from, const Source &to, const Number &number)
+    {
+        rename<budgeting::Bill>(from, to, number);
+    }
+    void renameDebt(const Source &from, const Source &to, const Number &number)
+    {
+        rename<budgeting::Debt>(from, to, number);
+    }
+    void renameGoal(const Source &from, const Source &to, const Number &number)
+    {
+        rename<budgeting::Goal>(from, to, number);
+    }
+    void renameNontrack(const Source &from, const Source &to, const Number &number)
+    {
+        rename<budgeting::Nontrack>(from, to, number);
+    }
+    void renameWage(const Source &from, const Source &to, const Number &number)
+    {
+        rename<budgeting::Wage>(from, to, number);
+    }
 
-    void removeBill(const Source &source);
-    void removeDebt(const Source &source);
-    void removeGoal(const Source &source);
-    void removeNontrack(const Source &source);
-    void removeWage(const Source &source);
+    void removeBill(const Source &source) { remove<budgeting::Bill>(source); }
+    void removeDebt(const Source &source) { remove<budgeting::Debt>(source); }
+    void removeGoal(const Source &source) { remove<budgeting::Goal>(source); }
+    void removeNontrack(const Source &source) { remove<budgeting::Nontrack>(source); }
+    void removeWage(const Source &source) { remove<budgeting::Wage>(source); }
 
     // ---- look-ups ----------------------------------------------------------
 
     /// The present code of the item's account; nothing for the type None, and
     /// with a warning in the log when the item has no account. Throws
     /// std::logic_error for a type above the known ones.
-    [[nodiscard]] std::optional<accounting::AccountCode>
+    [[nodiscard]] std::optional<AccountCode>
     lookUpAccountCode(const budgeting::BudgetItemIdentifier &id) const;
     /// The item that owns the account.
     [[nodiscard]] std::optional<budgeting::BudgetItemIdentifier>
@@ -131,71 +149,73 @@ public:
 
     /// Posts from `second` to `first` (which is debited) and moves the item on
     /// to its next date; when that fails, the posting is taken back.
-    accounting::TransactionNumber post(const accounting::AccountCode &first,
-                                       const accounting::AccountCode &second,
-                                       const numira::Money &amount, const QDate &date,
-                                       const QString &description, budgeting::BudgetedMoney &item);
+    TransactionNumber post(const AccountCode &first, const AccountCode &second, const Money &amount,
+                           const QDate &date, const QString &description,
+                           budgeting::BudgetedMoney &item);
 
     /// Posts a due item between its account and the bank's: a wage into the
     /// bank, all others out of it. The amount is rounded half to even to its
     /// currency's minor unit first. Throws foundation::Error when the item has
     /// no account, std::out_of_range when there is no such item.
     template <budgeting::BudgetItem T>
-    accounting::TransactionNumber process(const Source &source, const accounting::AccountCode &bank,
-                                          const numira::Money &amount, const QDate &date);
-    accounting::TransactionNumber processBill(const Source &source,
-                                              const accounting::AccountCode &bank,
-                                              const numira::Money &amount, const QDate &date);
-    accounting::TransactionNumber processDebt(const Source &source,
-                                              const accounting::AccountCode &bank,
-                                              const numira::Money &amount, const QDate &date);
-    accounting::TransactionNumber processGoal(const Source &source,
-                                              const accounting::AccountCode &bank,
-                                              const numira::Money &amount, const QDate &date);
-    accounting::TransactionNumber processNontrack(const Source &source,
-                                                  const accounting::AccountCode &bank,
-                                                  const numira::Money &amount, const QDate &date);
-    accounting::TransactionNumber processWage(const Source &source,
-                                              const accounting::AccountCode &bank,
-                                              const numira::Money &amount, const QDate &date);
+    TransactionNumber process(const Source &source, const AccountCode &bank, const Money &amount,
+                              const QDate &date);
+    TransactionNumber processBill(const Source &source, const AccountCode &bank,
+                                  const Money &amount, const QDate &date)
+    {
+        return process<budgeting::Bill>(source, bank, amount, date);
+    }
+    TransactionNumber processDebt(const Source &source, const AccountCode &bank,
+                                  const Money &amount, const QDate &date)
+    {
+        return process<budgeting::Debt>(source, bank, amount, date);
+    }
+    TransactionNumber processGoal(const Source &source, const AccountCode &bank,
+                                  const Money &amount, const QDate &date)
+    {
+        return process<budgeting::Goal>(source, bank, amount, date);
+    }
+    TransactionNumber processNontrack(const Source &source, const AccountCode &bank,
+                                      const Money &amount, const QDate &date)
+    {
+        return process<budgeting::Nontrack>(source, bank, amount, date);
+    }
+    TransactionNumber processWage(const Source &source, const AccountCode &bank,
+                                  const Money &amount, const QDate &date)
+    {
+        return process<budgeting::Wage>(source, bank, amount, date);
+    }
 
     /// Posts an amount for an item as process does, but leaves its next date
     /// alone. Throws BudgetItemError for the type None and for an item without
     /// an account, std::logic_error for a type above the known ones.
-    accounting::TransactionNumber processUnexpected(const budgeting::BudgetItemIdentifier &id,
-                                                    const numira::Money &amount,
-                                                    const accounting::AccountCode &bank,
-                                                    const QDate &date);
+    TransactionNumber processUnexpected(const budgeting::BudgetItemIdentifier &id,
+                                        const Money &amount, const AccountCode &bank,
+                                        const QDate &date);
 
     /// Moves the item on to its next date without posting. Throws
     /// std::out_of_range when there is no such item.
     template <budgeting::BudgetItem T>
     void skip(const Source &source);
-    void skipBill(const Source &source);
-    void skipDebt(const Source &source);
-    void skipGoal(const Source &source);
-    void skipNontrack(const Source &source);
-    void skipWage(const Source &source);
+    void skipBill(const Source &source) { skip<budgeting::Bill>(source); }
+    void skipDebt(const Source &source) { skip<budgeting::Debt>(source); }
+    void skipGoal(const Source &source) { skip<budgeting::Goal>(source); }
+    void skipNontrack(const Source &source) { skip<budgeting::Nontrack>(source); }
+    void skipWage(const Source &source) { skip<budgeting::Wage>(source); }
 
 private:
     friend class BudgetBankLedgers;
 
-    /// The same without any check: for an owner that was copied or moved and
+    /// Constructs without any check: for an owner that was copied or moved and
     /// ties what it has to its own budget and ledger again, valid or not.
-    [[nodiscard]] static BudgetLedgers
-    rebound(foundation::ObserverPtr<budgeting::Budget> budget,
-            foundation::ObserverPtr<accounting::GeneralLedger> ledgers,
-            BudgetAccountCodes codes) noexcept;
     struct Unchecked {};
     BudgetLedgers(Unchecked, foundation::ObserverPtr<budgeting::Budget> budget,
                   foundation::ObserverPtr<accounting::GeneralLedger> ledgers,
                   BudgetAccountCodes codes) noexcept;
 
-    accounting::TransactionNumber processDue(budgeting::BudgetItemTypes type,
-                                             const accounting::AccountCode &itemCode,
-                                             const accounting::AccountCode &bank,
-                                             const numira::Money &amount, const QDate &date,
-                                             budgeting::BudgetedMoney &item);
+    TransactionNumber processDue(budgeting::BudgetItemTypes type, const AccountCode &itemCode,
+                                 const AccountCode &bank, const Money &amount, const QDate &date,
+                                 budgeting::BudgetedMoney &item);
 
     foundation::ObserverPtr<budgeting::Budget> m_budget;
     foundation::ObserverPtr<accounting::GeneralLedger> m_ledgers;

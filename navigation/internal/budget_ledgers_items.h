@@ -12,12 +12,11 @@
 namespace kiv::navigation::internal {
 
 template <budgeting::BudgetItem T>
-accounting::AccountCode BudgetLedgers::add(T item, accounting::AccountNumberGenerator &generator)
+accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &generator)
 {
-    const budgeting::BudgetSource source = item.source();
+    const Source source = item.source();
     accounting::NumberHandout number(generator, *m_ledgers);
-    const accounting::AccountCode code(number.number(), budgeting::itemAccountName(source),
-                                       std::nullopt);
+    const AccountCode code(number.number(), budgeting::itemAccountName(source), std::nullopt);
     const accounting::Account account(budgeting::ItemTraits<T>::accountType, code,
                                       budgeting::openingMoney(item), false);
     m_budget->items<T>().add(std::move(item));
@@ -30,10 +29,10 @@ accounting::AccountCode BudgetLedgers::add(T item, accounting::AccountNumberGene
 }
 
 template <budgeting::BudgetItem T>
-void BudgetLedgers::update(T item, accounting::AccountNumberGenerator &generator)
+void BudgetLedgers::update(T item, AccountNumberGenerator &generator)
 {
     auto &items = m_budget->items<T>();
-    const budgeting::BudgetSource source = item.source();
+    const Source source = item.source();
     const auto stored = items.find(source);
     if (stored == items.end())
         throw faults::cannotUpdateMissing(budgeting::ItemTraits<T>::type, source);
@@ -48,25 +47,24 @@ void BudgetLedgers::update(T item, accounting::AccountNumberGenerator &generator
 }
 
 template <budgeting::BudgetItem T>
-void BudgetLedgers::rename(const budgeting::BudgetSource &from, const budgeting::BudgetSource &to,
-                           const std::optional<accounting::AccountNumber> &number)
+void BudgetLedgers::rename(const Source &from, const Source &to, const Number &number)
 {
     m_budget->items<T>().rename(from, to);
-    const accounting::AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(from)).code();
-    const accounting::AccountCode newCode(number.value_or(oldCode.number()),
-                                          budgeting::itemAccountName(to), std::nullopt);
+    const AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(from)).code();
+    const AccountCode newCode(number.value_or(oldCode.number()), budgeting::itemAccountName(to),
+                              std::nullopt);
     m_ledgers->recode(oldCode, newCode);
     m_codes.remove<T>(from);
     m_codes.insertOrAssign<T>(to, newCode.number());
 }
 
 template <budgeting::BudgetItem T>
-void BudgetLedgers::remove(const budgeting::BudgetSource &source)
+void BudgetLedgers::remove(const Source &source)
 {
     auto &items = m_budget->items<T>();
     if (!items.contains(source))
         throw faults::cannotRemoveMissing(budgeting::ItemTraits<T>::type, source);
-    const accounting::AccountCode code(m_codes.value<T>(source), std::nullopt);
+    const AccountCode code(m_codes.value<T>(source), std::nullopt);
     const bool isRemovable = m_ledgers->canRemove(code);
     if constexpr (budgeting::BankTiedItem<T>) {
         if (!isRemovable && m_ledgers->ledger(code).balance() != 0)
@@ -83,11 +81,10 @@ void BudgetLedgers::remove(const budgeting::BudgetSource &source)
 }
 
 template <budgeting::BudgetItem T>
-accounting::TransactionNumber BudgetLedgers::process(const Source &source,
-                                                     const accounting::AccountCode &bank,
-                                                     const numira::Money &amount, const QDate &date)
+accounting::TransactionNumber BudgetLedgers::process(const Source &source, const AccountCode &bank,
+                                                     const Money &amount, const QDate &date)
 {
-    const accounting::AccountCode itemCode = budgetAccountCode<T>(source);
+    const AccountCode itemCode = budgetAccountCode<T>(source);
     return processDue(budgeting::ItemTraits<T>::type, itemCode, bank, amount, date,
                       m_budget->items<T>().at(source));
 }

@@ -4,29 +4,35 @@
 #include "navigation/export.h"
 
 #include "accounting/errors.h"
+#include "accounting/transaction.h"
 #include "banking/bank_account.h"
 #include "banking/errors.h"
 #include "budgeting/errors.h"
-#include "budgeting/item_traits.h"
+#include "foundation/percentage.h"
+#include "surveying/distributed_amount.h"
+#include "surveying/errors.h"
 
 #include <stdexcept>
-#include <string>
 
-/// Everything that the navigation layer itself finds fault with: one function
-/// for each, which gives the exception to throw. All sentences stand in
-/// faults.cpp.
+/// What the ledgers of the navigation layer find fault with: one function for
+/// each, which gives the exception to throw. The sentences stand together in
+/// faults.cpp. A std::logic_error is a fault of the calling program.
 namespace kiv::navigation::internal::faults {
 
 using accounting::AccountCode;
 using accounting::AccountError;
 using accounting::AccountNumber;
+using accounting::TransactionNumber;
+using banking::BankAccount;
 using banking::BankAccountTypes;
 using banking::BankError;
 using banking::BankName;
 using budgeting::BudgetItemError;
+using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetItemTypes;
 using budgeting::BudgetSource;
 using foundation::Error;
+using surveying::SurveyError;
 
 // ---- records -------------------------------------------------------------------
 
@@ -34,7 +40,7 @@ Error bankAccountIsNotAccount(AccountNumber bankAccount, const AccountCode &acco
 
 // ---- budget items and their accounts -------------------------------------------
 
-Error unknownCodeType();
+Error codeOfUnknownType();
 Error codeWithoutItem(BudgetItemTypes type, const BudgetSource &source);
 Error codeWithoutAccount(AccountNumber number);
 KIV_NAVIGATION_EXPORT BudgetItemError cannotUpdateMissing(BudgetItemTypes type,
@@ -43,7 +49,46 @@ KIV_NAVIGATION_EXPORT BudgetItemError cannotRemoveMissing(BudgetItemTypes type,
                                                           const BudgetSource &source);
 KIV_NAVIGATION_EXPORT BudgetItemError cannotRemoveWithBalance(BudgetItemTypes type,
                                                               const BudgetSource &source);
-Error notBudgetedMoney(const budgeting::BudgetItemIdentifier &id);
-std::logic_error unknownItemType(BudgetItemTypes type);
+Error notBudgetedMoney(const BudgetItemIdentifier &id);
+std::logic_error itemTypeIsUnknown(BudgetItemTypes type);
+
+BudgetItemError unexpectedOfUnknownType(const BudgetSource &source);
+BudgetItemError unexpectedWithoutAccount(const BudgetSource &source);
+std::logic_error unexpectedOfInvalidType();
+
+BudgetItemError stillDistributed(const BudgetSource &source,
+                                 const surveying::DistributedAmount &amount,
+                                 const BankAccount &surveyed);
+std::logic_error invalidTypeForRemoval(BudgetItemTypes type);
+
+// ---- banks and their accounts --------------------------------------------------
+
+BankError bankWithoutAccount(const BankName &bank);
+BankError addedAccountIsMissing(const BankName &bank, AccountNumber number);
+BankError addedTypeDoesNotFit(const BankName &bank, AccountNumber number, BankAccountTypes type);
+BankError bankDoesNotExist(const BankName &bank);
+BankError accountNameIsTaken(const BankName &bank, const QString &name, const BankName &holder);
+BankError associatedAccountIsMissing(const BankName &bank, AccountNumber number);
+BankError associatedTypeIsUnknown(const BankName &bank);
+BankError cannotDissociateFromMissingBank(const BankName &bank);
+BankError cannotDissociateMissing(const BankName &bank);
+BankError cannotUpdateMissingBank(const BankName &bank);
+BankError cannotCloseByUpdate(const BankName &bank);
+BankError updatedAccountIsMissing(const BankName &bank, AccountNumber number);
+BankError updatedTypeDoesNotFit(const BankName &bank, AccountNumber number, BankAccountTypes type);
+BankError cannotChangeAccountType(const BankName &bank);
+BankError cannotRemoveMissingBank(const BankName &bank);
+BankError cannotRemoveClosedBank(const BankName &bank);
+BankError cannotRemoveBankAccount(const BankName &bank, AccountNumber number);
+AccountError cannotRecodeUnassociated(AccountNumber number);
+BankError cannotRecodeOntoAssociated(const BankName &bank, AccountNumber from, AccountNumber to);
+
+// ---- the aggregate -------------------------------------------------------------
+
+AccountError foundAccountNamedAsItem(const AccountCode &code);
+BudgetItemError itemNamedAsAccount(const BudgetSource &source);
+AccountError accountNamedAsItem(const AccountCode &code);
+BudgetItemError cannotProcessUnknownType(const BudgetSource &source);
+BudgetItemError cannotSkipUnknownType(const BudgetSource &source);
 
 } // namespace kiv::navigation::internal::faults

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/internal/faults.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QObject>
+
+#include <array>
+
+namespace kiv::navigation::internal::faults {
+namespace {
+
+/// The sentences that differ from one kind of item to the other, in the order
+/// of BudgetItemTypes from Bill on. Only debts and goals know all of them.
+struct ItemSentences {
+    const char *codeWithoutItem;
+    const char *cannotUpdateMissing;
+    const char *cannotRemoveMissing;
+    const char *cannotRemoveWithBalance = nullptr;
+};
+
+constexpr std::array<ItemSentences, 5> itemSentences{{
+    {QT_TRANSLATE_NOOP("QObject", "The budget does not have a bill source named '%1'."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot update a bill that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a bill that does not exist.")},
+    {QT_TRANSLATE_NOOP("QObject", "The budget does not have a debt source named '%1'."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot update a debt that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a debt that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a debt that has a balance.")},
+    {QT_TRANSLATE_NOOP("QObject", "The budget does not have a goal source named '%1'."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot update a goal that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a goal that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a goal that has a balance.")},
+    {QT_TRANSLATE_NOOP("QObject", "The budget does not have a non-tracked source named '%1'."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot update a nontrack that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a nontrack that does not exist.")},
+    {QT_TRANSLATE_NOOP("QObject", "The budget does not have a wage source named '%1'."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot update a wage that does not exist."),
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a wage that does not exist.")},
+}};
+
+QString sentence(BudgetItemTypes type, const char *const ItemSentences::*which)
+{
+    return QObject::tr(itemSentences.at(static_cast<std::size_t>(type) - 1).*which);
+}
+
+int integer(BudgetItemTypes type)
+{
+    return static_cast<int>(type);
+}
+
+} // namespace
+
+// ---- records -------------------------------------------------------------------
+
+Error bankAccountIsNotAccount(AccountNumber bankAccount, const AccountCode &account)
+{
+    return Error(QObject::tr("The bank account number, %1, does not match the account code "
+                             "number, %2.")
+                     .arg(presentationText(bankAccount), presentationText(account)));
+}
+
+// ---- budget items and their accounts -------------------------------------------
+
+Error codeOfUnknownType()
+{
+    return Error(QObject::tr("Unknown budget code type!"));
+}
+
+Error codeWithoutItem(BudgetItemTypes type, const BudgetSource &source)
+{
+    return Error(sentence(type, &ItemSentences::codeWithoutItem).arg(source.name()));
+}
+
+Error codeWithoutAccount(AccountNumber number)
+{
+    return Error(QObject::tr("The account ledger does not have an account number '%1'.")
+                     .arg(presentationText(number)));
+}
+
+BudgetItemError cannotUpdateMissing(BudgetItemTypes type, const BudgetSource &source)
+{
+    return {source, sentence(type, &ItemSentences::cannotUpdateMissing)};
+}
+
+BudgetItemError cannotRemoveMissing(BudgetItemTypes type, const BudgetSource &source)
+{
+    return {source, sentence(type, &ItemSentences::cannotRemoveMissing)};
+}
+
+BudgetItemError cannotRemoveWithBalance(BudgetItemTypes type, const BudgetSource &source)
+{
+    return {source, sentence(type, &ItemSentences::cannotRemoveWithBalance)};
+}
+
+Error notBudgetedMoney(const BudgetItemIdentifier &id)
+{
+    return Error(QObject::tr("The budget item '%1' is not a known type that is a budget money!")
+                     .arg(presentationText(id)));
+}
+
+std::logic_error itemTypeIsUnknown(BudgetItemTypes type)
+{
+    return std::logic_error(QObject::tr("The budget item type '%1' is not a known type.")
+                                .arg(integer(type))
+                                .toStdString());
+}
+
+BudgetItemError unexpectedOfUnknownType(const BudgetSource &source)
+{
+    return {source, QObject::tr("Cannot process unexpected budget item that has an unknown type.")};
+}
+
+BudgetItemError unexpectedWithoutAccount(const BudgetSource &source)
+{
+    return {source, QObject::tr("Failed to locate the unexpected budget item source to post.")};
+}
+
+std::logic_error unexpectedOfInvalidType()
+{
+    return std::logic_error(
+        "The Budget Item Type is not implemented for processing unexpected budget items.");
+}
+
+BudgetItemError stillDistributed(const BudgetSource &source,
+                                 const surveying::DistributedAmount &amount,
+                                 const BankAccount &surveyed)
+{
+    return {source, QObject::tr("There is %1 distributed in the surveyed bank account %2. Empty "
+                                "the distribution first before removing the budgeted item.")
+                        .arg(presentationText(amount), presentationText(surveyed))};
+}
+
+std::logic_error invalidTypeForRemoval(BudgetItemTypes type)
+{
+    return std::logic_error("Invalid budget item ID type supplied for removal " +
+                            std::to_string(integer(type)));
+}
+
+// ---- banks and their accounts --------------------------------------------------
+
+BankError bankWithoutAccount(const BankName &bank)
+{
+    return {bank, QObject::tr("The account ledger number is not present in the general ledger.")};
+}
+
+BankError addedAccountIsMissing(const BankName &bank, AccountNumber number)
+{
+    return {bank, QObject::tr("Adding the account '%1' is not in the general ledger.")
+                      .arg(presentationText(number))};
+}
+
+BankError addedTypeDoesNotFit(const BankName &bank, AccountNumber number, BankAccountTypes type)
+{
+    return {bank, QObject::tr("Invalid mapping between the account ledger '%1' and the bank "
+                              "account type '%2' during bank creation.")
+                      .arg(presentationText(number), presentationText(type))};
+}
+
+BankError bankDoesNotExist(const BankName &bank)
+{
+    return {bank, QObject::tr("The bank does not exist.")};
+}
+
+BankError accountNameIsTaken(const BankName &bank, const QString &name, const BankName &holder)
+{
+    return {bank, QObject::tr("The account name '%1' is already associated with the bank '%2'.")
+                      .arg(name, holder.institution())};
+}
+
+BankError associatedAccountIsMissing(const BankName &bank, AccountNumber number)
+{
+    return {bank, QObject::tr("The general ledger does not have the account number '%1'.")
+                      .arg(presentationText(number))};
+}
+
+BankError associatedTypeIsUnknown(const BankName &bank)
+{
+    return {bank, QObject::tr("The bank account type cannot be unknown.")};
+}
+
+BankError cannotDissociateFromMissingBank(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot remove a bank account when the bank does not exist.")};
+}
+
+BankError cannotDissociateMissing(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot remove a bank account when no association exists.")};
+}
+
+BankError cannotUpdateMissingBank(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot update when a bank by that name does not exist.")};
+}
+
+BankError cannotCloseByUpdate(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot close a bank via an update.")};
+}
+
+BankError updatedAccountIsMissing(const BankName &bank, AccountNumber number)
+{
+    return {bank, QObject::tr("Updating the account '%1' is not in the general ledger.")
+                      .arg(presentationText(number))};
+}
+
+BankError updatedTypeDoesNotFit(const BankName &bank, AccountNumber number, BankAccountTypes type)
+{
+    return {bank, QObject::tr("Invalid mapping between the account ledger '%1' and the bank "
+                              "account type '%2'.")
+                      .arg(presentationText(number), presentationText(type))};
+}
+
+BankError cannotChangeAccountType(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot change the bank account type once set.")};
+}
+
+BankError cannotRemoveMissingBank(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot remove when a bank by that name does not exist.")};
+}
+
+BankError cannotRemoveClosedBank(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot remove when the bank is closed.")};
+}
+
+BankError cannotRemoveBankAccount(const BankName &bank, AccountNumber number)
+{
+    return {bank, QObject::tr("Cannot remove the bank as the account number '%1' cannot be "
+                              "removed.")
+                      .arg(presentationText(number))};
+}
+
+AccountError cannotRecodeUnassociated(AccountNumber number)
+{
+    return {AccountCode(number, std::nullopt),
+            QObject::tr("Cannot recode a bank account when no association exists.")};
+}
+
+BankError cannotRecodeOntoAssociated(const BankName &bank, AccountNumber from, AccountNumber to)
+{
+    return {bank, QObject::tr("Cannot recode the account '%1' to the account '%2' as it is "
+                              "already associated.")
+                      .arg(presentationText(from), presentationText(to))};
+}
+
+// ---- the aggregate -------------------------------------------------------------
+
+AccountError foundAccountNamedAsItem(const AccountCode &code)
+{
+    return {code, QObject::tr("Found an account code name that is the same name as a budget "
+                              "item.")};
+}
+
+BudgetItemError itemNamedAsAccount(const BudgetSource &source)
+{
+    return {source,
+            QObject::tr("The budget item has the same name as an existing ledger account.")};
+}
+
+AccountError accountNamedAsItem(const AccountCode &code)
+{
+    return {code, QObject::tr("The code name is the same name as an existing budget item.")};
+}
+
+BudgetItemError cannotProcessUnknownType(const BudgetSource &source)
+{
+    return {source, QObject::tr("Cannot process budget item due that has an unknown type.")};
+}
+
+BudgetItemError cannotSkipUnknownType(const BudgetSource &source)
+{
+    return {source, QObject::tr("Cannot skip a budget item when its type is not known.")};
+}
+
+} // namespace kiv::navigation::internal::faults

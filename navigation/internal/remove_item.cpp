@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/internal/remove_item.h"
+
+namespace kiv::navigation::internal {
+namespace {
+
+void refuseWhileDistributed(const budgeting::BudgetItemIdentifier &id,
+                            const surveying::CompletedSurveys &surveys)
+{
+    for (const auto &[account, survey] : surveys) {
+        const auto entry = survey.distribution().find(id);
+        if (entry != survey.distribution().end())
+            throw faults::stillDistributed(id.source, entry->second, account);
+    }
+}
+
+} // namespace
+
+void removeItem(const budgeting::BudgetItemIdentifier &id, BudgetLedgers &budgetLedgers,
+                BankLedgers &bankLedgers, const surveying::CompletedSurveys &surveys)
+{
+    // An invalid type is answered below, in the removal's own words.
+    const std::optional<accounting::AccountCode> code = id.type > budgeting::BudgetItemTypes::Wage
+                                                            ? std::nullopt
+                                                            : budgetLedgers.lookUpAccountCode(id);
+    refuseWhileDistributed(id, surveys);
+    budgeting::visitItemClass(
+        id.type, faults::invalidTypeForRemoval(id.type).what(),
+        [&]<typename T>(std::type_identity<T>) { budgetLedgers.remove<T>(id.source); });
+    if (!code)
+        return;
+    const std::optional<banking::BankName> bank = bankLedgers.lookUpBankName(code->number());
+    if (bank && bankLedgers.hasAssociation(*bank, code->number()))
+        bankLedgers.removeAssociation(*bank, code->number());
+}
+
+} // namespace kiv::navigation::internal
