@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QTimer>
+#include <QtCore/QUrl>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+
+#include <functional>
+#include <memory>
+
+/// A server on the loopback address that answers every request as a test tells
+/// it to, well or badly.
+class LoopbackServer {
+public:
+    /// Gets the connection, whose request was read, and the requested path
+    /// with its query.
+    using Behaviour = std::function<void(QTcpSocket &, const QByteArray &path)>;
+
+    explicit LoopbackServer(Behaviour behaviour) : m_behaviour(std::move(behaviour))
+    {
+        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
+            while (QTcpSocket *socket = m_server.nextPendingConnection())
+                serve(*socket);
+        });
+        m_server.listen(QHostAddress::LocalHost);
+    }
+
+    [[nodiscard]] QUrl url(const QString &pathAndQuery = QStringLiteral("/")) const
+    {
+        return QUrl(
+            QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(pathAndQuery));
+    }
+    [[nodiscard]] const QList<QByteArray> &requests() const { return m_requests; }
+    /// What all connections together took of the answers.
+    [[nodiscard]] qint64 bytesTaken() const { return m_bytesTaken; }
+    [[nodiscard]] int openConnections() const { return m_openConnections; }
+
+    /// A complete answer.
+    [[nodiscard]] static Behaviour answer(const QByteArray &body,
+                                          const QByteArray &type = "application/json",
+                                          const QByteArray &status = "200 OK",
+                                          const QByteArray &moreHeaders = {})
+    {
+        return raw("HTTP/1.1 " + status + "\r\nContent-Type: " + type + "\r\nContent-Length: " +
+                   QByteArray::number(body.size()) + "\r\n" + moreHeaders + "\r\n" + body);
+    }
+    /// These bytes and the end of the connection.
+    [[nodiscard]] static Behaviour raw(const QByteArray &bytes)
+    {
+        return [bytes](QTcpSocket &socket, const QByteArray &) {
+            socket.write(bytes);
+            socket.disconnectFromHost();
+        };
+    }
+    /// The head, then the piece again and again for as long as it is taken.
+    [[nodiscard]] static Behaviour endless(const QByteArray &head, const QByteArray &piece,
+                                           int everyMs = 0)
+    {
+        return [=](QTcpSocket &socket, const QByteArray &) {
+            socket.write(head);
+            auto *timer = new QTimer(&socket);
+            QObject::connect(timer, &QTimer::timeout, &socket, [&socket, piece] {
+                if (socket.bytesToWrite() == 0)
+                    socket.write(piece);
+            });
+            timer->start(everyMs);
+        };
+    }
+    [[nodiscard]] static Behaviour silence()
+    {
+        return [](QTcpSocket &, const QByteArray &) {};
+    }
+    [[nodiscard]] static Behaviour redirect(const QByteArray &target)
+    {
+        return answer({}, "text/plain", "302 Found", "Location: " + target + "\r\n");
+    }
+
+private:
+    void serve(QTcpSocket &socket)
+    {
+        ++m_openConnections;
+        QObject::connect(&socket, &QTcpSocket::disconnected, &m_server, [this, &socket] {
+            --m_openConnections;
+            socket.deleteLater();
+        });
+        QObject::connect(&socket, &QTcpSocket::bytesWritten, &m_server,
+                         [this](qint64 bytes) { m_bytesTaken += bytes; });
+        auto head = std::make_shared<QByteArray>();
+        QObject::connect(&socket, &QTcpSocket::readyRead, &m_server, [this, &socket, head] {
+            *head += socket.readAll();
+            if (!head->endsWith("\r\n\r\n"))
+                return;
+            m_requests.append(*head);
+            m_behaviour(socket, head->split(' ').value(1));
+            head->clear();
+        });
+    }
+
+    Behaviour m_behaviour;
+    QTcpServer m_server;
+    QList<QByteArray> m_requests;
+    qint64 m_bytesTaken = 0;
+    int m_openConnections = 0;
+};
