@@ -270,6 +270,26 @@ private:
     /// As for verifyBudgetSourceName, and the name that the item's own account
     /// will get is held against the budget items like any account's.
     void verifyNewItemName(const BudgetSource &source) const;
+    /// Whether the account has a transaction that is reconciled on its side.
+    [[nodiscard]] bool hasReconciled(const AccountNumber &number) const;
+    /// Refuses what recode refuses of a bank account's parent.
+    void verifyParentOf(const AccountCode &from, const AccountCode &to) const;
+    /// The accounts of the items of one kind; see budgetBankAccounts.
+    [[nodiscard]] std::map<BudgetSource, AccountCode>
+    itemAccounts(const budgeting::BudgetItemTypes &type) const;
+    /// Ties a new item's account to the bank account: a debt's own becomes one
+    /// of the bank, a goal's own is put below it, and `code` follows.
+    BankAccount addBudgetBankAssociation(const budgeting::Debt &debt, const AccountCode &code,
+                                         const BankAccount &bankAccount);
+    BankAccount addBudgetBankAssociation(const budgeting::Goal &goal, AccountCode &code,
+                                         const BankAccount &bankAccount);
+    /// Ties the account of an item to the bank account requested, or to none.
+    void updateBudgetBankAssociation(const budgeting::Debt &debt, const AccountCode &code,
+                                     const std::optional<BankAccount> &requested,
+                                     const std::optional<BankAccount> &current);
+    void updateBudgetBankAssociation(const budgeting::Goal &goal, const AccountCode &code,
+                                     const std::optional<BankAccount> &requested,
+                                     const std::optional<BankAccount> &current);
     /// Calls the visitor for the first kind, in their order, of which an item of
     /// this name has an account; tells whether there was one.
     template <typename Visitor>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/budget_ledgers.h"
 
-#include "foundation/streams.h"
+#include "navigation/internal/logging.h"
 
 namespace kiv::navigation::internal {
 namespace {
@@ -60,7 +60,7 @@ BudgetLedgers::lookUpAccountCode(const BudgetItemIdentifier &id) const
             id.type, faults::itemTypeIsUnknown(id.type).what(),
             [&]<typename T>(std::type_identity<T>) { return budgetAccountCode<T>(id.source); });
     } catch (const foundation::Error &error) {
-        qWarning().noquote() << foundation::escaped(QString::fromUtf8(error.what()));
+        qWarning() << logText(error).constData();
         return std::nullopt;
     }
 }

@@ -18,6 +18,8 @@ struct ItemSentences {
     const char *cannotUpdateMissing;
     const char *cannotRemoveMissing;
     const char *cannotRemoveWithBalance = nullptr;
+    const char *associationNotAdded = nullptr;
+    const char *associationNotUpdated = nullptr;
 };
 
 constexpr std::array<ItemSentences, 5> itemSentences{{
@@ -27,11 +29,15 @@ constexpr std::array<ItemSentences, 5> itemSentences{{
     {QT_TRANSLATE_NOOP("QObject", "The budget does not have a debt source named '%1'."),
      QT_TRANSLATE_NOOP("QObject", "Cannot update a debt that does not exist."),
      QT_TRANSLATE_NOOP("QObject", "Cannot remove a debt that does not exist."),
-     QT_TRANSLATE_NOOP("QObject", "Cannot remove a debt that has a balance.")},
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a debt that has a balance."),
+     QT_TRANSLATE_NOOP("QObject", "Failure making the debt bank account association."),
+     QT_TRANSLATE_NOOP("QObject", "Failure updating the debt bank account association.")},
     {QT_TRANSLATE_NOOP("QObject", "The budget does not have a goal source named '%1'."),
      QT_TRANSLATE_NOOP("QObject", "Cannot update a goal that does not exist."),
      QT_TRANSLATE_NOOP("QObject", "Cannot remove a goal that does not exist."),
-     QT_TRANSLATE_NOOP("QObject", "Cannot remove a goal that has a balance.")},
+     QT_TRANSLATE_NOOP("QObject", "Cannot remove a goal that has a balance."),
+     QT_TRANSLATE_NOOP("QObject", "Failure making the goal bank account association."),
+     QT_TRANSLATE_NOOP("QObject", "Failed to update the goal bank account association.")},
     {QT_TRANSLATE_NOOP("QObject", "The budget does not have a non-tracked source named '%1'."),
      QT_TRANSLATE_NOOP("QObject", "Cannot update a nontrack that does not exist."),
      QT_TRANSLATE_NOOP("QObject", "Cannot remove a nontrack that does not exist.")},
@@ -275,6 +281,65 @@ BudgetItemError cannotProcessUnknownType(const BudgetSource &source)
 BudgetItemError cannotSkipUnknownType(const BudgetSource &source)
 {
     return {source, QObject::tr("Cannot skip a budget item when its type is not known.")};
+}
+
+BankError cannotLeaveParent(const BankName &bank)
+{
+    return {bank, QObject::tr("A bank account cannot have its parent account removed.")};
+}
+
+BankError parentIsNoBankAccount(const BankName &bank)
+{
+    return {
+        bank,
+        QObject::tr("A bank account cannot have its parent account changed to non-bank account.")};
+}
+
+BankError cannotMoveReconciled(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot change parent accounts of a bank account that has "
+                              "transactions that have been reconciled.")};
+}
+
+std::logic_error bankAccountsOfUnknownType()
+{
+    return std::logic_error("An unknown budget item type was supplied when attempting to gather "
+                            "the budget item bank accounts.");
+}
+
+BankError neverReconcilable(const AccountCode &account)
+{
+    return {BankName(), QObject::tr("Cannot get the last reconciliation amount, because no bank "
+                                    "account is associated with the account '%1'.")
+                            .arg(presentationText(account))};
+}
+
+BudgetItemError associationNotAdded(BudgetItemTypes type, const BudgetSource &source,
+                                    const std::exception &cause)
+{
+    return {source, sentence(type, &ItemSentences::associationNotAdded), cause};
+}
+
+BudgetItemError associationNotUpdated(BudgetItemTypes type, const BudgetSource &source,
+                                      const std::exception &cause)
+{
+    return {source, sentence(type, &ItemSentences::associationNotUpdated), cause};
+}
+
+BankError debtTakesNoAccount(const BankName &bank)
+{
+    return {bank, QObject::tr("The bank account cannot be set directly when updating a debt.")};
+}
+
+AccountError goalNeedsAccount(const AccountCode &goal)
+{
+    return {goal, QObject::tr("A goal must have an account to store under a bank account.")};
+}
+
+AccountError goalIsReconciled(const AccountCode &goal)
+{
+    return {goal,
+            QObject::tr("Cannot change a goal’s bank account once it has been reconciled.")};
 }
 
 } // namespace kiv::navigation::internal::faults

@@ -91,4 +91,19 @@ AccountError accountNamedAsItem(const AccountCode &code);
 BudgetItemError cannotProcessUnknownType(const BudgetSource &source);
 BudgetItemError cannotSkipUnknownType(const BudgetSource &source);
 
+BankError cannotLeaveParent(const BankName &bank);
+BankError parentIsNoBankAccount(const BankName &bank);
+BankError cannotMoveReconciled(const BankName &bank);
+std::logic_error bankAccountsOfUnknownType();
+BankError neverReconcilable(const AccountCode &account);
+
+/// `type` is Debt or Goal.
+BudgetItemError associationNotAdded(BudgetItemTypes type, const BudgetSource &source,
+                                    const std::exception &cause);
+BudgetItemError associationNotUpdated(BudgetItemTypes type, const BudgetSource &source,
+                                      const std::exception &cause);
+BankError debtTakesNoAccount(const BankName &bank);
+AccountError goalNeedsAccount(const AccountCode &goal);
+AccountError goalIsReconciled(const AccountCode &goal);
+
 } // namespace kiv::navigation::internal::faults

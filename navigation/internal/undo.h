@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "foundation/streams.h"
-
-#include <QtCore/QDebug>
+#include "navigation/internal/logging.h"
 
 #include <type_traits>
 #include <utility>
@@ -43,7 +41,7 @@ void undo(const char *sentence, Action &&action) noexcept
     try {
         action();
     } catch (const std::exception &error) {
-        qWarning().noquote() << sentence << foundation::escaped(QString::fromUtf8(error.what()));
+        logWarning(sentence, error);
     }
 }
 
