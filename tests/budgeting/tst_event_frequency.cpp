@@ -227,15 +227,15 @@ private slots:
     {
         const auto unknown = static_cast<EventFrequency>(16);
         const QDate date = day("2026-01-31");
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(toQString(unknown)), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(nextOccurrence(unknown, date, 1)),
-                                 std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(occurrencesIn(unknown, date, date)),
-                                 std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(
-            static_cast<void>(accumulateOver(EventFrequency::None, usd("1"), unknown)),
-            std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(isRarerThanMonthly(unknown)), std::logic_error);
+        const std::vector<std::function<void()>> uses{
+            [&] { static_cast<void>(toQString(unknown)); },
+            [&] { static_cast<void>(nextOccurrence(unknown, date, 1)); },
+            [&] { static_cast<void>(occurrencesIn(unknown, date, date)); },
+            [&] { static_cast<void>(accumulateOver(EventFrequency::None, usd("1"), unknown)); },
+            [&] { static_cast<void>(isRarerThanMonthly(unknown)); },
+        };
+        for (const auto &use : uses)
+            QVERIFY_EXCEPTION_THROWN(use(), std::logic_error);
     }
 };
 
