@@ -87,8 +87,6 @@ Money::Money(const Currency &currency, std::int64_t major, std::uint16_t minor,
 
 Money &Money::operator+=(const Money &other)
 {
-    if (isEmpty(other))
-        return *this;
     if (isEmpty(*this))
         return *this = other;
     m_amount += other.convertedTo(m_currency).m_amount;

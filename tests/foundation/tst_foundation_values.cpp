@@ -99,7 +99,8 @@ private slots:
               0x2029U, 0x202AU, 0x202EU, 0x2066U, 0x2069U, 0xFEFFU, 0xDE00U})
             QCOMPARE(escaped(u"a"_qs + QChar(unit) + u"b"_qs),
                      QString::asprintf("a\\u{%04X}b", unit));
-        QCOMPARE(escaped(QString(QChar(0xDE00)) + QChar(0xD83D)), u"\\u{DE00}\\u{D83D}"_qs);
+        QCOMPARE(escaped(QString(2, QChar(0xDE00)) + QChar(0xD83D)),
+                 u"\\u{DE00}\\u{DE00}\\u{D83D}"_qs);
     }
 
     void debugFormIsTheStreamForm()

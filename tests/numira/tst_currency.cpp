@@ -100,6 +100,7 @@ private slots:
             QVERIFY_EXCEPTION_THROWN(setUpLibrary({}, asked, strict), numira::Error);
             QCOMPARE(numira::libraryLocale(), "it_IT");
             QVERIFY(numira::conversionRate(Currency(840), Currency(978)) == 2);
+            QVERIFY(numira::conversionRate(Currency(840), Currency(840)) == 1);
             setUpLibrary({}, asked, numira::ShouldAllowFallback::Yes);
             QCOMPARE(numira::libraryLocale(), used);
         }

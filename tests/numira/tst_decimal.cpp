@@ -170,6 +170,9 @@ private slots:
             QCOMPARE(Decimal(1).times(value).toText(), read);
         }
         QCOMPARE((Decimal::fromText("-0.000001") * Decimal::fromText("0.0000005")).sign(), 0);
+        // The widest exponents that still change something.
+        QCOMPARE(decimal(highest).times("9e-39").toText(), "0.000000000002");
+        QCOMPARE(decimal(1).times("1e38").toText(), '1' + std::string(26, '0'));
         QCOMPARE(Decimal::fromText("0.000000000001").scaled(-3, 2).toText(), "-0.000000000002");
     }
 

@@ -119,6 +119,8 @@ private slots:
         Money money = largest;
         QVERIFY_EXCEPTION_THROWN(money += Money(eur, 0, 1), numira::OverflowError);
         QVERIFY_EXCEPTION_THROWN(money -= -largest, numira::OverflowError);
+        QVERIFY_EXCEPTION_THROWN((void)(-largest - toMoney(eur, "0.000000000001")),
+                                 numira::OverflowError);
         QVERIFY_EXCEPTION_THROWN(money += dollars, numira::OverflowError);
         QVERIFY_EXCEPTION_THROWN((void)(money * 1.000000001), numira::OverflowError);
         QVERIFY_EXCEPTION_THROWN((void)money.rounded(), numira::OverflowError);
