@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QtTest/QtTest>
+
 #include "networking/http_request_sender.h"
 #include "networking/internal/url_rules.h"
 
 #include "support/loopback_server.h"
 #include "support/message_log.h"
-
-#include <QtTest/QtTest>
 
 using kiv::networking::HttpLimits;
 using kiv::networking::HttpRequestSender;

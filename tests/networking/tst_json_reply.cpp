@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QtTest/QtTest>
+
 #include "networking/errors.h"
 #include "networking/json_reply.h"
 
-#include <QtTest/QtTest>
+#include "support/json_text.h"
 
 using kiv::networking::readJson;
 using kiv::networking::ReplyError;
 using kiv::networking::Response;
-
-namespace {
-
-/// The text with double quotes for single ones.
-QByteArray quoted(QByteArray json)
-{
-    return json.replace('\'', '"');
-}
-
-} // namespace
 
 class tst_JsonReply : public QObject {
     Q_OBJECT
@@ -33,20 +25,20 @@ private slots:
         };
         const auto twice = QStringLiteral("The reply names a member twice.");
         const auto notJson = QStringLiteral("The reply is not JSON: ");
-        row("object", quoted("{'a': {'b': 1}, 'c': [{'b': 2}, {'b': 3}]}"), {});
-        row("array", quoted("[{'a': 1}, {'a': 2}]"), {});
-        row("colons in strings", quoted("{'a:\\':': ':\\\\', 'b': ':'}"), {});
+        row("object", jsonText("{'a': {'b': 1}, 'c': [{'b': 2}, {'b': 3}]}"), {});
+        row("array", jsonText("[{'a': 1}, {'a': 2}]"), {});
+        row("colons in strings", jsonText("{'a:\\':': ':\\\\', 'b': ':'}"), {});
         row("type with a charset", "{}", {}, QStringLiteral("Application/JSON; charset=utf-8"));
         row("type of its own", "{}", {}, QStringLiteral("application/problem+json"));
-        row("member twice", quoted("{'a': 1, 'a': 2}"), twice);
-        row("member twice with the same value", quoted("{'a': 1, 'a': 1}"), twice);
-        row("member twice, deep", quoted("[{'a': {'b': 1, 'c': 2, 'b': 3}}]"), twice);
-        row("member twice, written differently", quoted("{'a': 1, '\\u0061': 2}"), twice);
+        row("member twice", jsonText("{'a': 1, 'a': 2}"), twice);
+        row("member twice with the same value", jsonText("{'a': 1, 'a': 1}"), twice);
+        row("member twice, deep", jsonText("[{'a': {'b': 1, 'c': 2, 'b': 3}}]"), twice);
+        row("member twice, written differently", jsonText("{'a': 1, '\\u0061': 2}"), twice);
         row("wrong type", "{}", QStringLiteral("The reply's type is 'text/html' and not JSON."),
             QStringLiteral("text/html"));
         row("no type", "{}", QStringLiteral("The reply's type is '' and not JSON."), QString());
         row("not JSON", "<html/>", notJson);
-        row("truncated", quoted("{'a': 1"), notJson);
+        row("truncated", jsonText("{'a': 1"), notJson);
         row("nothing", {}, notJson);
     }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QtTest/QtTest>
+
 #include "networking/request_manager.h"
 
 #include "support/scripted_sender.h"
-
-#include <QtTest/QtTest>
 
 using kiv::foundation::QtPtr;
 using kiv::networking::RequestManager;

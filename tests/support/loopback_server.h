@@ -61,7 +61,7 @@ public:
             socket.write(head);
             auto *timer = new QTimer(&socket);
             QObject::connect(timer, &QTimer::timeout, &socket, [&socket, piece] {
-                if (socket.bytesToWrite() == 0)
+                if (socket.isOpen() && socket.bytesToWrite() == 0)
                     socket.write(piece);
             });
             timer->start(everyMs);
