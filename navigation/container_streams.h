@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/streams.h"
+
 #include <QtCore/QDebug>
 
 #include <chrono>

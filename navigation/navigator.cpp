@@ -3,6 +3,7 @@
 #include "navigation/navigator.h"
 
 #include "navigation/internal/budget_bank_ledgers.h"
+#include "navigation/internal/logging.h"
 #include "navigation/internal/meta_types.h"
 #include "navigation/internal/update_notifier.h"
 
@@ -102,7 +103,7 @@ void Navigator::initialiseConversions()
         if (m_exchangeRatesStorage->exists())
             conversion::CurrencyConverter::initialiseCache(m_exchangeRatesStorage->load());
     } catch (const std::exception &error) {
-        qWarning() << "Failed to initialise the currency conversions." << error.what();
+        internal::logWarning("Failed to initialise the currency conversions.", error);
     }
 }
 

@@ -46,8 +46,7 @@ void Navigator::onCompletedNewBudgetFirstTimeWizard(
         // them ask for what was built.
         emit showNewBudget();
     } catch (const std::exception &error) {
-        qWarning() << "Failed to complete the first time wizard."
-                   << internal::logText(error).constData();
+        internal::logWarning("Failed to complete the first time wizard.", error);
         onConfirmedNewBudgetEmpty();
     }
 }

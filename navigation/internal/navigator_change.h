@@ -2,11 +2,8 @@
 #pragma once
 
 #include "navigation/internal/budget_bank_ledgers.h"
+#include "navigation/internal/logging.h"
 #include "navigation/navigator.h"
-
-#include "foundation/streams.h"
-
-#include <QtCore/QDebug>
 
 // The one shape of the Navigator's changing slots, for its own sources.
 namespace kiv::navigation {
@@ -23,13 +20,6 @@ inline QString userText(const std::exception &error)
     return QString::fromUtf8(error.what());
 }
 
-/// An exception's text for the log. It may hold names that a file brought, and
-/// a terminal must not obey them.
-inline QByteArray logText(const std::exception &error)
-{
-    return foundation::escaped(QString::fromUtf8(error.what())).toUtf8();
-}
-
 } // namespace internal
 
 template <typename Caught, typename Operation, typename Failure>
@@ -39,7 +29,7 @@ bool Navigator::attempt(const char *sentence, Operation &&operation, Failure &&f
         operation();
         return true;
     } catch (const Caught &error) {
-        qWarning() << sentence << internal::logText(error).constData();
+        internal::logWarning(sentence, error);
         failure(internal::userText(error));
         return false;
     }
