@@ -13,6 +13,7 @@
 
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 namespace kiv::navigation {
 
@@ -65,9 +66,10 @@ T readNumber(const QSettings &store, const QString &key, const T &fallback, cons
 template <typename Duration>
 std::optional<Duration> toDuration(const QVariant &value)
 {
+    // QVariant::toInt calls a number that is too large for it a success.
     bool isNumber = false;
-    const int count = value.toInt(&isNumber);
-    return isNumber ? std::optional(Duration(count)) : std::nullopt;
+    const qlonglong count = value.toLongLong(&isNumber);
+    return isNumber && std::in_range<int>(count) ? std::optional(Duration(count)) : std::nullopt;
 }
 
 numira::Currency toCurrency(const QString &code)
