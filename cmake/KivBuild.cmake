@@ -33,6 +33,8 @@ function(kiv_compile_options target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wsuggest-override>
+    # GCC 12 warns wrongly about the assignment of short texts (GCC bug 105651).
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
     $<$<BOOL:${KIV_WERROR}>:-Werror>)
   if(KIV_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=address,undefined

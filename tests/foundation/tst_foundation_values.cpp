@@ -81,7 +81,7 @@ private slots:
         QFETCH(QString, fraction);
         QFETCH(QString, text);
         if (fraction.isEmpty())
-            QVERIFY_EXCEPTION_THROWN((void)percentage.fraction(), numira::Error);
+            QVERIFY_THROWS_EXCEPTION(numira::Error, (void)percentage.fraction());
         else
             QCOMPARE(QString::fromStdString(percentage.fraction().toText()), fraction);
         QCOMPARE(presentationText(percentage), text);

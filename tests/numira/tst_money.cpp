@@ -65,11 +65,11 @@ private slots:
             QCOMPARE(out.str(), text);
             QCOMPARE(toMoney(money.code(), numira::toText(money)), money);
         }
-        QVERIFY_EXCEPTION_THROWN(Money(usd, 1, 100), numira::InvalidAmount);
-        QVERIFY_EXCEPTION_THROWN(Money(usd, 1, 0, 10'000), numira::InvalidAmount);
-        QVERIFY_EXCEPTION_THROWN(Money(jpy, 1, 1), numira::InvalidAmount);
-        QVERIFY_EXCEPTION_THROWN(Money(kwd, 1, 1000), numira::InvalidAmount);
-        QVERIFY_EXCEPTION_THROWN(Money(clf, 1, 10'000), numira::InvalidAmount);
+        QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, Money(usd, 1, 100));
+        QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, Money(usd, 1, 0, 10'000));
+        QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, Money(jpy, 1, 1));
+        QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, Money(kwd, 1, 1000));
+        QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, Money(clf, 1, 10'000));
     }
 
     void equalityNeverAsksForARate()
@@ -99,16 +99,16 @@ private slots:
     void withoutAUsableRateNothingChanges()
     {
         Money yen(jpy, 5, 0);
-        QVERIFY_EXCEPTION_THROWN(yen += Money(eur, 1, 0), numira::ConversionError);
-        QVERIFY_EXCEPTION_THROWN(yen -= Money(usd, 1, 0), numira::ConversionError);
-        QVERIFY_EXCEPTION_THROWN((void)(yen < Money(usd)), numira::ConversionError);
+        QVERIFY_THROWS_EXCEPTION(numira::ConversionError, yen += Money(eur, 1, 0));
+        QVERIFY_THROWS_EXCEPTION(numira::ConversionError, yen -= Money(usd, 1, 0));
+        QVERIFY_THROWS_EXCEPTION(numira::ConversionError, (void)(yen < Money(usd)));
         for (const char *unusable : {"0", "inf", "nan"}) {
             const auto give = [&](const auto &, const auto &) { return FloatingPoint(unusable); };
             numira::setUpLibrary(give, "en_US", numira::ShouldAllowFallback::No);
-            QVERIFY_EXCEPTION_THROWN(yen += Money(usd, 1, 0), numira::ConversionError);
+            QVERIFY_THROWS_EXCEPTION(numira::ConversionError, yen += Money(usd, 1, 0));
         }
         numira::setUpLibrary({}, "en_US", numira::ShouldAllowFallback::No);
-        QVERIFY_EXCEPTION_THROWN(yen += Money(usd, 1, 0), numira::ConversionError);
+        QVERIFY_THROWS_EXCEPTION(numira::ConversionError, yen += Money(usd, 1, 0));
         QCOMPARE(yen, Money(jpy, 5, 0));
     }
 
@@ -117,13 +117,13 @@ private slots:
         const Money largest = toMoney(eur, "170141183460469231731687303.715884105727");
         const Money dollars = toMoney(usd, "170141183460469231731687303");
         Money money = largest;
-        QVERIFY_EXCEPTION_THROWN(money += Money(eur, 0, 1), numira::OverflowError);
-        QVERIFY_EXCEPTION_THROWN(money -= -largest, numira::OverflowError);
-        QVERIFY_EXCEPTION_THROWN((void)(-largest - toMoney(eur, "0.000000000001")),
-                                 numira::OverflowError);
-        QVERIFY_EXCEPTION_THROWN(money += dollars, numira::OverflowError);
-        QVERIFY_EXCEPTION_THROWN((void)(money * 1.000000001), numira::OverflowError);
-        QVERIFY_EXCEPTION_THROWN((void)money.rounded(), numira::OverflowError);
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, money += Money(eur, 0, 1));
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, money -= -largest);
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError,
+                                 (void)(-largest - toMoney(eur, "0.000000000001")));
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, money += dollars);
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, (void)(money * 1.000000001));
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, (void)money.rounded());
         QCOMPARE(money, largest);
         QCOMPARE(-money + money, Money(eur));
     }
