@@ -31,6 +31,14 @@ public:
 
 private:
     class OpenFile;
+    /// The file that was chosen: the open one, or another one.
+    struct Chosen {
+        std::unique_ptr<OpenFile> other;
+        OpenFile *file;
+    };
+
+    [[nodiscard]] Chosen choose();
+    void goBack() noexcept;
 
     unsigned m_backups;
     QString m_chosenPath;

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/budget_file.h"
+
+#include "storage/internal/atomic_file_writer.h"
+#include "storage/internal/budget_image.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/file_lock.h"
+
+#include "foundation/streams.h"
+
+#include <QtCore/QScopeGuard>
+
+#include <new>
+
+#include <unistd.h>
+
+namespace kiv::storage {
+namespace {
+
+using internal::FileContent;
+using internal::FileKind;
+using internal::FileTarget;
+using internal::Fingerprint;
+
+/// Calls `work` and gives what it gives. What goes wrong with the content, by
+/// whichever rule, becomes the cause of the error that `toError` makes.
+template <typename Work, typename ToError>
+auto withContent(Work work, ToError toError)
+{
+    try {
+        return work();
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &cause) {
+        throw toError(cause);
+    }
+}
+
+void refuseOtherThanBudget(const FileTarget &target, FileKind kind)
+{
+    switch (kind) {
+    case FileKind::Empty:
+        throw internal::emptyFile(target.shownPath());
+    case FileKind::Foreign:
+        throw internal::notOurs(target.shownPath());
+    case FileKind::Newer:
+        throw internal::newerVersion(target.shownPath());
+    case FileKind::Malformed:
+        throw internal::damaged(target.shownPath(),
+                                internal::ContentFault("Its header is not whole."));
+    case FileKind::Budget:
+        break;
+    }
+}
+
+} // namespace
+
+/// A file that is in use: locked, and known by what it held last.
+class BudgetFile::OpenFile {
+public:
+    explicit OpenFile(FileTarget target) : m_target(std::move(target)) {}
+
+    [[nodiscard]] const FileTarget &target() const noexcept { return m_target; }
+    [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
+
+    [[nodiscard]] bool exists() const { return ::access(m_target.path().constData(), F_OK) == 0; }
+
+    /// Takes the lock unless it is held already.
+    void lock()
+    {
+        if (!m_lock)
+            m_lock = std::make_unique<internal::FileLock>(m_target);
+    }
+
+    /// Where no lock can be made nothing can be saved either, so there is
+    /// nothing to keep apart; the next attempt to save says why.
+    void lockIfPossible()
+    {
+        try {
+            lock();
+        } catch (const StorageError &error) {
+            if (error.failure() != StorageFailure::CannotWrite)
+                throw;
+        }
+    }
+
+    Data load(QStringList &mended)
+    {
+        const std::optional<FileContent> content = internal::readFile(m_target, fileSizeMax);
+        if (!content)
+            throw internal::fileNotFound(m_target.shownPath());
+        refuseOtherThanBudget(m_target, internal::kindOf(content->bytes));
+        Data data = withContent([&] { return internal::decodeBudget(content->bytes, mended); },
+                                [this](const std::exception &cause) {
+                                    return internal::damaged(m_target.shownPath(), cause);
+                                });
+        m_known = Fingerprint(content->bytes);
+        m_attempted.reset();
+        return data;
+    }
+
+    /// `known` is what was seen last under this name, if anything was.
+    void store(QByteArrayView image, const std::optional<Fingerprint> &known, unsigned backups)
+    {
+        const std::optional<FileContent> replaced = internal::readFile(m_target, fileSizeMax);
+        if (replaced)
+            checkReplaceable(replaced->bytes, known);
+        m_attempted = Fingerprint(image);
+        internal::AtomicFileWriter(m_target,
+                                   replaced ? std::optional(replaced->stamp) : std::nullopt)
+            .write(image, backups);
+        m_known = std::exchange(m_attempted, std::nullopt);
+    }
+
+private:
+    void checkReplaceable(const QByteArray &bytes, const std::optional<Fingerprint> &known) const
+    {
+        // A save that failed at its very end may have left its own content.
+        const Fingerprint found(bytes);
+        if (found == m_attempted)
+            return;
+        if (known) {
+            if (found != *known)
+                throw internal::changedOnDisk(m_target.shownPath());
+            return;
+        }
+        // Somebody chose an existing file: a budget, whole or not, stays as the
+        // backup; what is no budget is not overwritten by mistake.
+        const FileKind kind = internal::kindOf(bytes);
+        if (kind == FileKind::Foreign || kind == FileKind::Newer)
+            refuseOtherThanBudget(m_target, kind);
+    }
+
+    static constexpr qsizetype fileSizeMax = internal::fileSizeMax;
+
+    FileTarget m_target;
+    std::unique_ptr<internal::FileLock> m_lock;
+    std::optional<Fingerprint> m_known;
+    std::optional<Fingerprint> m_attempted;
+};
+
+BudgetFile::BudgetFile(unsigned backups) : m_backups(backups) {}
+BudgetFile::~BudgetFile() = default;
+
+void BudgetFile::setFilePathName(const QString &filePathName)
+{
+    m_chosenPath = filePathName;
+}
+
+QString BudgetFile::filePathName() const
+{
+    return m_chosenPath;
+}
+
+BudgetFile::Chosen BudgetFile::choose()
+{
+    if (m_chosenPath.isEmpty())
+        throw internal::noFileChosen();
+    FileTarget target(m_chosenPath);
+    if (m_open && m_open->target().isSameFile(target))
+        return {nullptr, m_open.get()};
+    auto other = std::make_unique<OpenFile>(std::move(target));
+    OpenFile *const file = other.get();
+    return {std::move(other), file};
+}
+
+void BudgetFile::goBack() noexcept
+{
+    if (m_open)
+        m_chosenPath = m_open->target().shownPath();
+}
+
+BudgetStorage::Data BudgetFile::load()
+{
+    auto backOnFailure = qScopeGuard([this] { goBack(); });
+    Chosen chosen = choose();
+    if (!chosen.file->exists())
+        throw internal::fileNotFound(m_chosenPath);
+    chosen.file->lockIfPossible();
+    QStringList mended;
+    Data data = chosen.file->load(mended);
+    for (const QString &sentence : mended)
+        qWarning().noquote() << "Mended while loading:" << foundation::escaped(sentence);
+    if (chosen.other)
+        m_open = std::move(chosen.other);
+    backOnFailure.dismiss();
+    return data;
+}
+
+void BudgetFile::store(const Data &data)
+{
+    auto backOnFailure = qScopeGuard([this] { goBack(); });
+    Chosen chosen = choose();
+    const internal::Image image = withContent(
+        [&] { return internal::encodeBudget(data); },
+        [this](const std::exception &cause) { return internal::cannotHold(m_chosenPath, cause); });
+    chosen.file->lock();
+    // The name may lead to another file than before, when it is a link.
+    const bool isOpen = m_open && (!chosen.other || m_open->target().shownPath() == m_chosenPath);
+    chosen.file->store(image.bytes(), isOpen ? m_open->known() : std::nullopt, m_backups);
+    if (chosen.other)
+        m_open = std::move(chosen.other);
+    backOnFailure.dismiss();
+}
+
+} // namespace kiv::storage

@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/atomic_file_writer.h"
+
+#include "storage/internal/errors.h"
+#include "storage/internal/file_attributes.h"
+
+#include "foundation/streams.h"
+
+#include <QtCore/QDebug>
+
+#include <algorithm>
+#include <cstring>
+
+#include <csignal>
+#include <fcntl.h>
+
+namespace kiv::storage::internal {
+namespace {
+
+/// Turns the signal that comes with a write over the process's limit of file
+/// sizes into the error that the write gives as well.
+class NoFileSizeSignal {
+public:
+    NoFileSizeSignal() noexcept
+    {
+        sigemptyset(&m_signal);
+        sigaddset(&m_signal, SIGXFSZ);
+        pthread_sigmask(SIG_BLOCK, &m_signal, &m_before);
+    }
+    ~NoFileSizeSignal()
+    {
+        if (!sigismember(&m_before, SIGXFSZ)) {
+            const timespec atOnce = {};
+            sigtimedwait(&m_signal, nullptr, &atOnce);
+        }
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+    NoFileSizeSignal(const NoFileSizeSignal &) = delete;
+    NoFileSizeSignal &operator=(const NoFileSizeSignal &) = delete;
+
+private:
+    sigset_t m_signal{};
+    sigset_t m_before{};
+};
+
+/// The path under which the system shows an open file to its process.
+QByteArray pathOf(const FileDescriptor &file)
+{
+    return "/proc/self/fd/" + QByteArray::number(file.get());
+}
+
+/// Whether the file system cannot do it, rather than failed to.
+bool isUnsupported(int error) noexcept
+{
+    return error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
+}
+
+} // namespace
+
+AtomicFileWriter::AtomicFileWriter(const FileTarget &target, std::optional<FileStamp> replaced)
+    : m_target(target),
+      m_replaced(replaced),
+      m_temporaryName(target.hiddenSibling(".saving")),
+      m_previousName(target.hiddenSibling(".previous"))
+{
+}
+
+AtomicFileWriter::~AtomicFileWriter()
+{
+    if (m_hasTemporaryName)
+        ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
+    if (m_hasPreviousName)
+        ::unlinkat(m_folder.get(), m_previousName.constData(), 0);
+}
+
+void AtomicFileWriter::write(QByteArrayView bytes, unsigned backups)
+{
+    openFolder();
+    clearLeftovers(backups);
+    createTemporary();
+    writeAll(bytes);
+    if (m_replaced)
+        takeOverAttributes();
+    check(::fsync(m_temporary.get()) == 0);
+    verify(bytes);
+    nameTemporary();
+    check(m_temporary.close());
+    if (m_replaced)
+        keepPrevious();
+    checkUnchanged();
+    check(::renameat(m_folder.get(), m_temporaryName.constData(), m_folder.get(),
+                     m_target.name().constData()) == 0);
+    m_hasTemporaryName = false;
+    syncFolder();
+    turnPreviousIntoBackup(backups);
+}
+
+void AtomicFileWriter::openFolder()
+{
+    m_folder =
+        FileDescriptor(::open(m_target.folder().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    check(static_cast<bool>(m_folder));
+    // Taking the place of a file needs no right to write to it, so it is asked
+    // for: a file that is marked read-only is to stay as it is.
+    if (m_replaced) {
+        check(::faccessat(m_folder.get(), m_target.name().constData(), W_OK, AT_EACCESS) == 0);
+    }
+}
+
+/// A writer that was stopped left its new version, finished or not, or the old
+/// one, whose place the new one may have taken already.
+void AtomicFileWriter::clearLeftovers(unsigned backups)
+{
+    ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
+    const std::optional<FileStamp> previous = stampOf(m_previousName);
+    if (!previous)
+        return;
+    m_hasPreviousName = true;
+    if (m_replaced && previous->inode == m_replaced->inode)
+        m_hasPreviousName = ::unlinkat(m_folder.get(), m_previousName.constData(), 0) != 0;
+    else
+        turnPreviousIntoBackup(backups);
+}
+
+void AtomicFileWriter::createTemporary()
+{
+    // A file without a name gets one through the process's own list of files.
+    if (::access("/proc/self/fd", X_OK) == 0) {
+        m_temporary =
+            FileDescriptor(::openat(m_folder.get(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
+        // Kernels and file systems that do not know of it open the folder.
+        if (m_temporary || !(isUnsupported(errno) || errno == EISDIR || errno == ENOENT)) {
+            check(static_cast<bool>(m_temporary));
+            return;
+        }
+    }
+    m_temporary =
+        FileDescriptor(::openat(m_folder.get(), m_temporaryName.constData(),
+                                O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
+    check(static_cast<bool>(m_temporary));
+    m_hasTemporaryName = true;
+}
+
+void AtomicFileWriter::writeAll(QByteArrayView bytes)
+{
+    const NoFileSizeSignal noSignal;
+    while (!bytes.isEmpty()) {
+        const ssize_t written =
+            ::write(m_temporary.get(), bytes.data(), static_cast<size_t>(bytes.size()));
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written == 0)
+            errno = ENOSPC; // a device that takes nothing and says nothing
+        check(written > 0);
+        bytes = bytes.sliced(written);
+    }
+}
+
+void AtomicFileWriter::takeOverAttributes()
+{
+    const FileDescriptor old(::openat(m_folder.get(), m_target.name().constData(),
+                                      O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    check(static_cast<bool>(old) && copyFileAttributes(old, m_temporary));
+}
+
+/// Reads the file back from where it was written to, as far as the system goes
+/// there again.
+void AtomicFileWriter::verify(QByteArrayView bytes)
+{
+    ::posix_fadvise(m_temporary.get(), 0, 0, POSIX_FADV_DONTNEED);
+    constexpr qsizetype blockSize = 256 * 1024;
+    QByteArray block(std::min(blockSize, bytes.size() + 1), Qt::Uninitialized);
+    qsizetype done = 0;
+    for (;;) {
+        const ssize_t got =
+            ::pread(m_temporary.get(), block.data(), static_cast<size_t>(block.size()), done);
+        if (got < 0 && errno == EINTR)
+            continue;
+        check(got >= 0);
+        if (got == 0)
+            break;
+        if (got > bytes.size() - done ||
+            std::memcmp(block.constData(), bytes.data() + done, static_cast<size_t>(got)) != 0)
+            throw notAsWritten(m_target.shownPath());
+        done += got;
+    }
+    if (done != bytes.size())
+        throw notAsWritten(m_target.shownPath());
+}
+
+void AtomicFileWriter::nameTemporary()
+{
+    if (m_hasTemporaryName)
+        return;
+    check(::linkat(AT_FDCWD, pathOf(m_temporary).constData(), m_folder.get(),
+                   m_temporaryName.constData(), AT_SYMLINK_FOLLOW) == 0);
+    m_hasTemporaryName = true;
+}
+
+void AtomicFileWriter::keepPrevious()
+{
+    m_hasPreviousName = ::linkat(m_folder.get(), m_target.name().constData(), m_folder.get(),
+                                 m_previousName.constData(), 0) == 0;
+    // Some file systems have no links; others forbid links to other people's
+    // files or to files with very many of them.
+    if (!m_hasPreviousName && (errno == EPERM || errno == EMLINK || isUnsupported(errno)))
+        qWarning().noquote() << "Saving without a backup:"
+                             << foundation::escaped(qt_error_string(errno));
+    else
+        check(m_hasPreviousName);
+}
+
+void AtomicFileWriter::checkUnchanged()
+{
+    if (stampOf(m_target.name()) != m_replaced)
+        throw changedOnDisk(m_target.shownPath());
+}
+
+void AtomicFileWriter::syncFolder()
+{
+    if (::fsync(m_folder.get()) == 0 || isUnsupported(errno))
+        return;
+    const StorageError error = cannotWrite(m_target.shownPath(), errno);
+    // What may be gone after a power cut is not saved, so the old state comes
+    // back. If it cannot, it stays where the next writer makes a backup of it.
+    if (std::exchange(m_hasPreviousName, false))
+        ::renameat(m_folder.get(), m_previousName.constData(), m_folder.get(),
+                   m_target.name().constData());
+    else if (!m_replaced)
+        ::unlinkat(m_folder.get(), m_target.name().constData(), 0);
+    throw error;
+}
+
+/// The new version is in its place already, so what fails here is no failure
+/// to save.
+void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
+{
+    if (!m_hasPreviousName)
+        return;
+    const auto backup = [this](unsigned number) {
+        return m_target.sibling(".backup-" + QByteArray::number(number));
+    };
+    const auto rename = [this](const QByteArray &from, const QByteArray &to) {
+        if (::renameat(m_folder.get(), from.constData(), m_folder.get(), to.constData()) != 0 &&
+            errno != ENOENT)
+            qWarning().noquote() << "A backup could not be kept:"
+                                 << foundation::escaped(qt_error_string(errno));
+    };
+    if (backups > 0) {
+        for (unsigned number = backups; number > 1; --number)
+            rename(backup(number - 1), backup(number));
+        rename(m_previousName, backup(1));
+    }
+    // Also when it was renamed: onto another name of the same file, renaming
+    // does nothing.
+    ::unlinkat(m_folder.get(), m_previousName.constData(), 0);
+    m_hasPreviousName = false;
+}
+
+void AtomicFileWriter::check(bool wentWell) const
+{
+    if (!wentWell)
+        throw cannotWrite(m_target.shownPath(), errno);
+}
+
+std::optional<FileStamp> AtomicFileWriter::stampOf(const QByteArray &name) const
+{
+    struct stat status = {};
+    if (::fstatat(m_folder.get(), name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+        return FileStamp(status);
+    check(errno == ENOENT);
+    return std::nullopt;
+}
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/budget_image.h"
+
+#include "storage/internal/budget_rows.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/ledger_rows.h"
+#include "storage/internal/mending.h"
+
+#include <QtCore/QtEndian>
+
+#include <sqlite3.h>
+
+namespace kiv::storage::internal {
+namespace {
+
+constexpr QByteArrayView magic("SQLite format 3", 16);
+constexpr qsizetype headerSize = 100;
+
+// Where SQLite keeps what in the header of a database.
+constexpr qsizetype pageSizeAt = 16;
+constexpr qsizetype formatsAt = 18;
+constexpr qsizetype pageCountAt = 28;
+constexpr qsizetype encodingAt = 56;
+constexpr qsizetype userVersionAt = 60;
+constexpr qsizetype applicationIdAt = 68;
+
+template <typename Number>
+Number numberAt(QByteArrayView image, qsizetype offset) noexcept
+{
+    return qFromBigEndian<Number>(image.data() + offset);
+}
+
+/// The header says of the database what every file that was written here says.
+/// Anything else (another journal mode, say) would make SQLite look for more
+/// than the image.
+bool isHeaderWhole(QByteArrayView image) noexcept
+{
+    return numberAt<quint16>(image, pageSizeAt) == pageSize &&
+           numberAt<quint16>(image, formatsAt) == 0x0101 &&
+           numberAt<quint32>(image, encodingAt) == SQLITE_UTF8 &&
+           numberAt<quint32>(image, pageCountAt) * qint64(pageSize) == image.size();
+}
+
+void writeSeal(const ImageDatabase &database, Seal &seal)
+{
+    Statement insert(database, "INSERT INTO seal VALUES(1, ?)");
+    const QByteArray digest = seal.result();
+    sqlite3_bind_text(insert.get(), 1, digest.constData(), static_cast<int>(digest.size()),
+                      SQLITE_STATIC);
+    insert.step();
+}
+
+void checkSeal(const ImageDatabase &database, Seal &seal)
+{
+    Statement select(database, "SELECT sha256 FROM seal WHERE id = 1");
+    const bool isThere = select.step();
+    const auto *text = isThere ? sqlite3_column_text(select.get(), 0) : nullptr;
+    if (!text || QByteArrayView(text, sqlite3_column_bytes(select.get(), 0)) != seal.result())
+        throw ContentFault("The checksum is wrong.");
+}
+
+/// Writes or reads all tables in their order: what stands in one may be needed
+/// for the next.
+BudgetStorage::Data readTables(const ImageDatabase &database, Seal &seal, QStringList &mended)
+{
+    BudgetStorage::Data data;
+    data.generalLedger = readLedger(database, seal, mended);
+    data.budget = readItems(database, seal);
+    data.budgetAccountCodes = readItemAccounts(database, seal);
+    data.banks = readBanks(database, seal);
+    data.surveys = readSurveys(database, seal);
+    data.itemTags = readItemTags(database, seal);
+    return data;
+}
+
+void writeTables(const ImageDatabase &database, Seal &seal, const BudgetStorage::Data &data)
+{
+    writeLedger(database, seal, data.generalLedger);
+    writeItems(database, seal, data.budget);
+    writeItemAccounts(database, seal, data.budgetAccountCodes);
+    writeBanks(database, seal, data.banks);
+    writeSurveys(database, seal, data.surveys);
+    writeItemTags(database, seal, data.itemTags);
+}
+
+} // namespace
+
+FileKind kindOf(QByteArrayView image) noexcept
+{
+    if (image.isEmpty())
+        return FileKind::Empty;
+    if (image.size() < headerSize)
+        return magic.startsWith(image.first(std::min(image.size(), magic.size())))
+                   ? FileKind::Malformed
+                   : FileKind::Foreign;
+    if (!image.startsWith(magic) || numberAt<quint32>(image, applicationIdAt) != applicationId)
+        return FileKind::Foreign;
+    const auto version = numberAt<quint32>(image, userVersionAt);
+    if (version > currentVersion)
+        return FileKind::Newer;
+    return tablesOf(version).empty() || !isHeaderWhole(image) ? FileKind::Malformed
+                                                              : FileKind::Budget;
+}
+
+Image encodeBudget(const BudgetStorage::Data &data)
+{
+    ImageDatabase database;
+    Seal seal(currentVersion);
+    writeTables(database, seal, data);
+    writeSeal(database, seal);
+    Image image = database.serialised();
+    if (image.bytes().size() > fileSizeMax)
+        throw ContentFault("There is more than a file may hold.");
+    return image;
+}
+
+BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
+{
+    const auto version = numberAt<quint32>(image, userVersionAt);
+    const ImageDatabase database(image, version);
+    Seal seal(version);
+    BudgetStorage::Data data = readTables(database, seal, mended);
+    // What was read counts only now.
+    checkSeal(database, seal);
+    mend(data, mended);
+    return data;
+}
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,348 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/budget_rows.h"
+
+#include "storage/internal/errors.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace kiv::storage::internal {
+namespace {
+
+using accounting::AccountNumber;
+using banking::BankAccountTypes;
+using budgeting::BudgetItemIdentifier;
+using budgeting::BudgetItemTypes;
+using budgeting::BudgetSource;
+using budgeting::EventFrequency;
+using numira::Money;
+
+constexpr std::int64_t accountNumberMax = std::numeric_limits<std::uint32_t>::max();
+constexpr std::int64_t dayOfMonthMax = 31;
+
+template <typename Item>
+concept HasTotal = budgeting::BankTiedItem<Item>;
+
+const Money &totalOf(const budgeting::Debt &debt) noexcept
+{
+    return debt.borrowed();
+}
+
+const Money &totalOf(const budgeting::Goal &goal) noexcept
+{
+    return goal.final();
+}
+
+AccountNumber accountNumber(RowReader &row)
+{
+    return AccountNumber(static_cast<std::uint32_t>(row.integer(0, accountNumberMax)));
+}
+
+void write(RowWriter &row, const BudgetItemIdentifier &item)
+{
+    row.integer(static_cast<int>(item.type)).text(item.source.name());
+}
+
+BudgetItemIdentifier readIdentifier(RowReader &row)
+{
+    const auto type = row.enumerator(BudgetItemTypes::Wage);
+    return {type, BudgetSource(row.text())};
+}
+
+/// Calls the visitor for the class of the row's item.
+template <typename Visitor>
+void visitClassOf(const BudgetItemIdentifier &item, RowReader &row, Visitor visitor)
+{
+    if (item.type == BudgetItemTypes::None)
+        row.refuse("is about no kind of item");
+    budgeting::visitItemClass(item.type, "An unknown kind of item was read.", visitor);
+}
+
+template <typename Item>
+void writeItem(RowWriter &row, const Item &item)
+{
+    row.newRow();
+    write(row, {budgeting::ItemTraits<Item>::type, item.source()});
+    row.money(item.amount()).integer(static_cast<int>(item.period()));
+    row.date(item.nextOccurOn()).integer(item.dayOfMonth());
+    if constexpr (HasTotal<Item>)
+        row.money(totalOf(item));
+    else
+        row.null().null();
+    row.endRow();
+}
+
+template <typename Item>
+Item readItem(RowReader &row, const BudgetSource &source)
+{
+    const Money amount = row.money();
+    const auto period = row.enumerator(EventFrequency::EveryTenYears);
+    const QDate next = row.date();
+    const auto day = static_cast<int>(row.integer(1, dayOfMonthMax));
+    const auto make = [&](auto... total) {
+        // Only an item that was made without anything has no date.
+        if (next.isValid())
+            return Item(source, amount, period, next, total...);
+        Item item;
+        item.rename(source);
+        return item;
+    };
+    Item item;
+    if constexpr (HasTotal<Item>) {
+        item = make(row.money());
+    } else {
+        if (row.optionalText() || row.optionalText())
+            row.refuse("has more than its kind has");
+        item = make();
+    }
+    item.setDayOfMonth(day);
+    return item;
+}
+
+/// Puts the item into its map. The map takes no new item without a name, but an
+/// item can lose its name later.
+template <typename Map, typename Item>
+void put(Map &items, Item item)
+{
+    const BudgetSource source = item.source();
+    if (source.isEmpty())
+        item.rename(BudgetSource(QStringLiteral("?")));
+    const BudgetSource added = item.source();
+    items.add(std::move(item));
+    if (added != source)
+        items.rename(added, source);
+}
+
+void writePercentage(RowWriter &row, const foundation::Percentage &percentage)
+{
+    // The shortest text that reads back as the same number.
+    std::array<char, 32> text{};
+    const char *const end =
+        std::to_chars(text.data(), text.data() + text.size(), percentage.rate()).ptr;
+    row.text(QString::fromLatin1(text.data(), end - text.data())).integer(percentage.digits());
+}
+
+foundation::Percentage readPercentage(RowReader &row)
+{
+    const QByteArray text = row.text().toLatin1();
+    double rate = 0.0;
+    const auto [end, error] = std::from_chars(text.begin(), text.end(), rate);
+    if (error != std::errc() || end != text.end())
+        row.refuse("has a malformed percentage");
+    const auto digits = row.integer(0, std::numeric_limits<std::uint8_t>::max());
+    return {rate, static_cast<std::uint8_t>(digits)};
+}
+
+/// The distributions of the surveys, by the keys of their rows.
+using Distributions = std::map<std::int64_t, surveying::Distribution>;
+
+Distributions readDistributions(const ImageDatabase &database, Seal &seal)
+{
+    Distributions distributions;
+    RowReader row(database, Table::Distributions, seal);
+    while (row.next()) {
+        surveying::Distribution &distribution = distributions[row.integer(1, rowsMax)];
+        const BudgetItemIdentifier item = readIdentifier(row);
+        const Money distributed = row.money();
+        const QDate next = row.date();
+        if (!distribution
+                 .emplace(item, surveying::DistributedAmount(distributed, next, row.money()))
+                 .second)
+            row.refuse("sets money aside twice for an item");
+    }
+    return distributions;
+}
+
+} // namespace
+
+void writeItems(const ImageDatabase &database, Seal &seal, const budgeting::Budget &budget)
+{
+    RowWriter row(database, Table::Items, seal);
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        for (const auto &[source, item] : budget.items<Item>())
+            writeItem(row, item);
+    });
+}
+
+budgeting::Budget readItems(const ImageDatabase &database, Seal &seal)
+{
+    budgeting::Budget budget;
+    RowReader row(database, Table::Items, seal);
+    while (row.next()) {
+        const BudgetItemIdentifier id = readIdentifier(row);
+        visitClassOf(id, row, [&]<typename Item>(std::type_identity<Item>) {
+            put(budget.items<Item>(), readItem<Item>(row, id.source));
+        });
+    }
+    return budget;
+}
+
+void writeItemAccounts(const ImageDatabase &database, Seal &seal,
+                       const BudgetStorage::BudgetAccountCodes &codes)
+{
+    RowWriter row(database, Table::ItemAccounts, seal);
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        const auto ofClass = codes.maps().find(typeid(Item));
+        if (ofClass == codes.maps().end())
+            return;
+        for (const auto &[source, number] : ofClass->second) {
+            row.newRow();
+            write(row, {budgeting::ItemTraits<Item>::type, source});
+            row.integer(number.integer()).endRow();
+        }
+    });
+}
+
+BudgetStorage::BudgetAccountCodes readItemAccounts(const ImageDatabase &database, Seal &seal)
+{
+    BudgetStorage::BudgetAccountCodes codes;
+    RowReader row(database, Table::ItemAccounts, seal);
+    while (row.next()) {
+        const BudgetItemIdentifier id = readIdentifier(row);
+        visitClassOf(id, row, [&]<typename Item>(std::type_identity<Item>) {
+            if (codes.has<Item>(id.source))
+                row.refuse("gives an item a second account");
+            codes.insertOrAssign<Item>(id.source, accountNumber(row));
+        });
+    }
+    return codes;
+}
+
+void writeBanks(const ImageDatabase &database, Seal &seal, const banking::BankMap &banks)
+{
+    RowWriter bankRow(database, Table::Banks, seal);
+    for (const auto &[name, bank] : banks)
+        bankRow.newRow().text(name.institution()).integer(bank.isClosed()).endRow();
+    RowWriter row(database, Table::BankAccounts, seal);
+    std::int64_t bankKey = 0;
+    for (const auto &[name, bank] : banks) {
+        ++bankKey;
+        for (const auto &[number, type] : bank.accounts()) {
+            row.newRow().integer(bankKey).integer(number.integer());
+            row.integer(static_cast<int>(type)).endRow();
+        }
+    }
+}
+
+banking::BankMap readBanks(const ImageDatabase &database, Seal &seal)
+{
+    struct BankRow {
+        banking::BankName name;
+        bool isClosed = false;
+        banking::Bank::Accounts accounts;
+    };
+    std::map<std::int64_t, BankRow> rows;
+    RowReader bankRow(database, Table::Banks, seal);
+    while (bankRow.next()) {
+        banking::BankName name(bankRow.text());
+        rows.emplace(bankRow.key(), BankRow{std::move(name), bankRow.boolean(), {}});
+    }
+    RowReader row(database, Table::BankAccounts, seal);
+    while (row.next()) {
+        const auto bank = rows.find(row.integer(1, rowsMax));
+        if (bank == rows.end())
+            row.refuse("is about no bank");
+        const AccountNumber number = accountNumber(row);
+        if (!bank->second.accounts.emplace(number, row.enumerator(BankAccountTypes::Cash)).second)
+            row.refuse("gives a bank an account twice");
+    }
+    banking::BankMap banks;
+    for (auto &[key, bank] : rows)
+        banks.add(banking::Bank(std::move(bank.name), std::move(bank.accounts), bank.isClosed));
+    return banks;
+}
+
+void writeSurveys(const ImageDatabase &database, Seal &seal,
+                  const surveying::CompletedSurveys &surveys)
+{
+    RowWriter surveyRow(database, Table::Surveys, seal);
+    for (const auto &[account, survey] : surveys) {
+        surveyRow.newRow().text(account.bank.institution());
+        surveyRow.integer(account.account.number.integer());
+        surveyRow.integer(static_cast<int>(account.account.type));
+        surveyRow.money(survey.reconciled().balance());
+        surveyRow.date(survey.reconciled().reconciledOn().value_or(QDate()));
+        surveyRow.money(survey.nonDistributed());
+        writePercentage(surveyRow, survey.window());
+        surveyRow.endRow();
+    }
+    RowWriter row(database, Table::Distributions, seal);
+    std::int64_t surveyKey = 0;
+    for (const auto &[account, survey] : surveys) {
+        ++surveyKey;
+        for (const auto &[item, amount] : survey.distribution()) {
+            row.newRow().integer(surveyKey);
+            write(row, item);
+            row.money(amount.distributed()).date(amount.nextOccurOn());
+            row.money(amount.expected()).endRow();
+        }
+    }
+}
+
+surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &seal)
+{
+    struct SurveyRow {
+        banking::BankAccount account;
+        Money balance;
+        QDate reconciledOn;
+        Money leftOver;
+        foundation::Percentage window;
+    };
+    std::map<std::int64_t, SurveyRow> rows;
+    RowReader row(database, Table::Surveys, seal);
+    while (row.next()) {
+        SurveyRow survey;
+        survey.account.bank = banking::BankName(row.text());
+        survey.account.account.number = accountNumber(row);
+        survey.account.account.type = row.enumerator(BankAccountTypes::Cash);
+        survey.balance = row.money();
+        survey.reconciledOn = row.date();
+        survey.leftOver = row.money();
+        survey.window = readPercentage(row);
+        rows.emplace(row.key(), std::move(survey));
+    }
+    Distributions distributions = readDistributions(database, seal);
+    surveying::CompletedSurveys surveys;
+    for (auto &[key, survey] : rows) {
+        surveying::CompletedSurvey completed(survey.account, survey.balance.code());
+        // Only a survey that was never completed has no day, and nothing else.
+        if (survey.reconciledOn.isValid())
+            completed.completed(survey.reconciledOn, survey.balance, std::move(distributions[key]),
+                                survey.leftOver, survey.window);
+        surveys.upsert(std::move(completed));
+    }
+    if (surveys.size() != rows.size() ||
+        !std::ranges::all_of(distributions,
+                             [&](const auto &entry) { return rows.contains(entry.first); }))
+        throw ContentFault("The surveys do not fit together.");
+    return surveys;
+}
+
+void writeItemTags(const ImageDatabase &database, Seal &seal, const tagging::BudgetItemTags &tags)
+{
+    RowWriter row(database, Table::ItemTags, seal);
+    for (const auto &[item, itemTags] : tags) {
+        for (const tagging::Tag &tag : itemTags) {
+            row.newRow();
+            write(row, item);
+            row.text(tag.name()).endRow();
+        }
+    }
+}
+
+tagging::BudgetItemTags readItemTags(const ImageDatabase &database, Seal &seal)
+{
+    std::map<BudgetItemIdentifier, tagging::Tags> rows;
+    RowReader row(database, Table::ItemTags, seal);
+    while (row.next()) {
+        tagging::Tags &tags = rows[readIdentifier(row)];
+        tags.insert(tagging::Tag(row.text()));
+    }
+    tagging::BudgetItemTags tags;
+    for (auto &[item, itemTags] : rows)
+        tags.set(tagging::BudgetItemTags::ItemTags(item, std::move(itemTags)));
+    return tags;
+}
+
+} // namespace kiv::storage::internal

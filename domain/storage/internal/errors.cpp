@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/errors.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::storage::internal {
+
+ContentFault::ContentFault(const std::string &what) : std::runtime_error(what) {}
+ContentFault::ContentFault(const ContentFault &) noexcept = default;
+ContentFault::~ContentFault() = default;
+
+StorageError noFileChosen()
+{
+    return {StorageFailure::NoName, {}, QObject::tr("No file was chosen.")};
+}
+
+StorageError noFileName(const QString &path)
+{
+    return {StorageFailure::NoName, path, QObject::tr("No file can have the name '%1'.").arg(path)};
+}
+
+StorageError fileNotFound(const QString &path)
+{
+    return {StorageFailure::NotFound, path, QObject::tr("There is no file '%1'.").arg(path)};
+}
+
+StorageError folderNotFound(const QString &path)
+{
+    return {StorageFailure::NotFound, path,
+            QObject::tr("The folder of the file '%1' does not exist.").arg(path)};
+}
+
+StorageError notAFile(const QString &path)
+{
+    return {StorageFailure::NotAFile, path, QObject::tr("'%1' is not a regular file.").arg(path)};
+}
+
+StorageError cannotRead(const QString &path, int error)
+{
+    return {StorageFailure::CannotRead, path,
+            QObject::tr("The file '%1' could not be read: %2.").arg(path, qt_error_string(error))};
+}
+
+StorageError tooLarge(const QString &path)
+{
+    return {StorageFailure::TooLarge, path,
+            QObject::tr("The file '%1' is larger than such a file can be.").arg(path)};
+}
+
+StorageError emptyFile(const QString &path)
+{
+    return {StorageFailure::NotOurs, path, QObject::tr("The file '%1' is empty.").arg(path)};
+}
+
+StorageError notOurs(const QString &path)
+{
+    return {StorageFailure::NotOurs, path,
+            QObject::tr("The file '%1' is not of the kind that is used here.").arg(path)};
+}
+
+StorageError newerVersion(const QString &path)
+{
+    return {StorageFailure::Newer, path,
+            QObject::tr("The file '%1' was written by a newer version of this program.").arg(path)};
+}
+
+StorageError damaged(const QString &path, const std::exception &cause)
+{
+    return {StorageFailure::Damaged, path,
+            QObject::tr("The file '%1' is damaged and was not loaded.").arg(path), cause};
+}
+
+StorageError locked(const QString &path, const QString &holder)
+{
+    return {
+        StorageFailure::Locked, path,
+        holder.isEmpty()
+            ? QObject::tr("The file '%1' is in use by another program.").arg(path)
+            : QObject::tr("The file '%1' is in use by another program (%2).").arg(path, holder)};
+}
+
+StorageError changedOnDisk(const QString &path)
+{
+    return {StorageFailure::ChangedOnDisk, path,
+            QObject::tr("The file '%1' was changed by another program and was not overwritten.")
+                .arg(path)};
+}
+
+StorageError cannotWrite(const QString &path, int error)
+{
+    return {StorageFailure::CannotWrite, path,
+            QObject::tr("The file '%1' could not be saved: %2.").arg(path, qt_error_string(error))};
+}
+
+StorageError notAsWritten(const QString &path)
+{
+    return {StorageFailure::CannotWrite, path,
+            QObject::tr("The file '%1' could not be saved: what was written reads back otherwise.")
+                .arg(path)};
+}
+
+StorageError cannotHold(const QString &path, const std::exception &cause)
+{
+    return {StorageFailure::CannotHold, path,
+            QObject::tr("The file '%1' was not saved: it cannot hold what it should.").arg(path),
+            cause};
+}
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/storage_error.h"
+
+#include <cerrno>
+#include <stdexcept>
+#include <string>
+
+namespace kiv::storage::internal {
+
+/// What is wrong with the content of a file that is of the right kind; the
+/// cause of the error that the user sees.
+class ContentFault final : public std::runtime_error {
+public:
+    explicit ContentFault(const std::string &what);
+    ContentFault(const ContentFault &) noexcept;
+    ~ContentFault() override;
+};
+
+// Each gives the error ready to be thrown. `path` is the one that the user
+// gave, `error` the system's error number.
+
+[[nodiscard]] StorageError noFileChosen();
+[[nodiscard]] StorageError noFileName(const QString &path);
+[[nodiscard]] StorageError fileNotFound(const QString &path);
+[[nodiscard]] StorageError folderNotFound(const QString &path);
+[[nodiscard]] StorageError notAFile(const QString &path);
+[[nodiscard]] StorageError cannotRead(const QString &path, int error);
+[[nodiscard]] StorageError tooLarge(const QString &path);
+[[nodiscard]] StorageError emptyFile(const QString &path);
+[[nodiscard]] StorageError notOurs(const QString &path);
+[[nodiscard]] StorageError newerVersion(const QString &path);
+[[nodiscard]] StorageError damaged(const QString &path, const std::exception &cause);
+/// `holder` tells who uses the file, if that is known.
+[[nodiscard]] StorageError locked(const QString &path, const QString &holder);
+[[nodiscard]] StorageError changedOnDisk(const QString &path);
+[[nodiscard]] StorageError cannotWrite(const QString &path, int error);
+[[nodiscard]] StorageError notAsWritten(const QString &path);
+[[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/image_database.h"
+
+#include "storage/internal/errors.h"
+
+#include <SQLiteCpp/Exception.h>
+
+#include <sqlite3.h>
+
+#include <new>
+#include <utility>
+
+namespace kiv::storage::internal {
+namespace {
+
+constexpr int stepsBetweenChecks = 1000;
+
+void check(sqlite3 *database, int result)
+{
+    if (result == SQLITE_NOMEM)
+        throw std::bad_alloc();
+    if (result != SQLITE_OK)
+        throw ContentFault(sqlite3_errmsg(database));
+}
+
+std::string_view textAt(const Statement &statement, int column)
+{
+    const auto *text = sqlite3_column_text(statement.get(), column);
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), column));
+    return text ? std::string_view(reinterpret_cast<const char *>(text), size) : std::string_view();
+}
+
+} // namespace
+
+void Image::Free::operator()(unsigned char *bytes) const noexcept
+{
+    sqlite3_free(bytes);
+}
+
+ImageDatabase::ImageDatabase()
+    : m_database(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+{
+    harden();
+    // Whatever SQLite was built with, the same rows make the same bytes.
+    m_database.exec("PRAGMA page_size = " + std::to_string(pageSize) +
+                    "; PRAGMA auto_vacuum = 0; PRAGMA encoding = 'UTF-8'"
+                    "; PRAGMA journal_mode = OFF"
+                    "; PRAGMA application_id = " +
+                    std::to_string(applicationId) +
+                    "; PRAGMA user_version = " + std::to_string(currentVersion) + "; BEGIN");
+    for (const TableDefinition &table : tablesOf(currentVersion))
+        m_database.exec(table.sql);
+}
+
+ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
+    : m_database(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+{
+    harden();
+    limitSteps(image.size());
+    // SQLite leaves the bytes alone when they are handed over as read-only.
+    auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(image.data()));
+    check(handle(), sqlite3_deserialize(handle(), "main", bytes, image.size(), image.size(),
+                                        SQLITE_DESERIALIZE_READONLY));
+    checkSchema(version);
+}
+
+Image ImageDatabase::serialised()
+{
+    m_database.exec("COMMIT");
+    sqlite3_int64 size = 0;
+    unsigned char *bytes = sqlite3_serialize(handle(), "main", &size, 0);
+    if (!bytes)
+        throw std::bad_alloc();
+    return {bytes, size};
+}
+
+void ImageDatabase::harden()
+{
+    sqlite3 *database = handle();
+    sqlite3_extended_result_codes(database, 0);
+    for (const auto &[option, value] :
+         {std::pair(SQLITE_DBCONFIG_DEFENSIVE, 1), std::pair(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0),
+          std::pair(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0), std::pair(SQLITE_DBCONFIG_ENABLE_VIEW, 0),
+          std::pair(SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0),
+          std::pair(SQLITE_DBCONFIG_WRITABLE_SCHEMA, 0)})
+        check(database, sqlite3_db_config(database, option, value, nullptr));
+    for (const auto &[limit, value] :
+         {std::pair(SQLITE_LIMIT_LENGTH, textSizeMax), std::pair(SQLITE_LIMIT_SQL_LENGTH, 4096),
+          std::pair(SQLITE_LIMIT_COLUMN, 32), std::pair(SQLITE_LIMIT_EXPR_DEPTH, 16),
+          std::pair(SQLITE_LIMIT_COMPOUND_SELECT, 2), std::pair(SQLITE_LIMIT_VDBE_OP, 10'000),
+          std::pair(SQLITE_LIMIT_FUNCTION_ARG, 8), std::pair(SQLITE_LIMIT_ATTACHED, 0),
+          std::pair(SQLITE_LIMIT_VARIABLE_NUMBER, 32), std::pair(SQLITE_LIMIT_TRIGGER_DEPTH, 1),
+          std::pair(SQLITE_LIMIT_WORKER_THREADS, 0)})
+        sqlite3_limit(database, limit, value);
+}
+
+void ImageDatabase::limitSteps(qsizetype imageSize)
+{
+    // A value takes a step and at least a byte, a row a few steps more.
+    m_stepsLeft = 100'000 + 4 * imageSize;
+    sqlite3_progress_handler(
+        handle(), stepsBetweenChecks,
+        [](void *left) { return (*static_cast<qint64 *>(left) -= stepsBetweenChecks) < 0 ? 1 : 0; },
+        &m_stepsLeft);
+}
+
+void ImageDatabase::checkSchema(std::uint32_t version)
+{
+    Statement schema(*this, "SELECT type, name, tbl_name, sql FROM sqlite_schema ORDER BY rowid");
+    for (const TableDefinition &table : tablesOf(version)) {
+        if (!schema.step() || textAt(schema, 0) != "table" || textAt(schema, 1) != table.name ||
+            textAt(schema, 2) != table.name || textAt(schema, 3) != table.sql)
+            throw ContentFault("The table '" + std::string(table.name) + "' is not as it should.");
+    }
+    if (schema.step())
+        throw ContentFault("There is more in the schema than should be.");
+}
+
+Statement::Statement(const ImageDatabase &database, const QByteArray &sql)
+{
+    sqlite3_stmt *statement = nullptr;
+    check(database.handle(),
+          sqlite3_prepare_v2(database.handle(), sql.constData(), -1, &statement, nullptr));
+    m_statement.reset(statement);
+}
+
+bool Statement::step()
+{
+    const int result = sqlite3_step(get());
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        check(sqlite3_db_handle(get()), result);
+    return result == SQLITE_ROW;
+}
+
+void Statement::reset() noexcept
+{
+    sqlite3_reset(get());
+}
+
+void Statement::Finalize::operator()(sqlite3_stmt *statement) const noexcept
+{
+    sqlite3_finalize(statement);
+}
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/internal/schema.h"
+
+#include <SQLiteCpp/Database.h>
+
+#include <QtCore/QByteArray>
+
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace kiv::storage::internal {
+
+/// The bytes of a database, as SQLite made them.
+class Image {
+public:
+    Image(unsigned char *bytes, qsizetype size) noexcept : m_bytes(bytes), m_size(size) {}
+    [[nodiscard]] QByteArrayView bytes() const noexcept { return {m_bytes.get(), m_size}; }
+
+private:
+    struct Free {
+        void operator()(unsigned char *bytes) const noexcept;
+    };
+    std::unique_ptr<unsigned char, Free> m_bytes;
+    qsizetype m_size;
+};
+
+/// A database in memory that never touches a file and trusts nothing that is in
+/// it: no views, triggers and functions of the schema's are run, texts and
+/// rows have limits, and reading ends after so many steps as the size of the
+/// image can make necessary.
+class ImageDatabase {
+public:
+    /// Empty, with the tables of the current version.
+    ImageDatabase();
+    /// Read from the image, which must outlive it. Throws ContentFault when the
+    /// schema is not the one of the version, letter by letter.
+    ImageDatabase(QByteArrayView image, std::uint32_t version);
+
+    [[nodiscard]] sqlite3 *handle() const noexcept { return m_database.getHandle(); }
+    /// Ends the building.
+    [[nodiscard]] Image serialised();
+
+private:
+    void harden();
+    void limitSteps(qsizetype imageSize);
+    void checkSchema(std::uint32_t version);
+
+    SQLite::Database m_database;
+    qint64 m_stepsLeft = 0;
+};
+
+/// A statement that is prepared once, its rows one after the other.
+class Statement {
+public:
+    Statement(const ImageDatabase &database, const QByteArray &sql);
+
+    [[nodiscard]] sqlite3_stmt *get() const noexcept { return m_statement.get(); }
+    /// Whether there is one more row. Throws ContentFault when the database is
+    /// malformed or refuses.
+    bool step();
+    void reset() noexcept;
+
+private:
+    struct Finalize {
+        void operator()(sqlite3_stmt *statement) const noexcept;
+    };
+    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+};
+
+} // namespace kiv::storage::internal

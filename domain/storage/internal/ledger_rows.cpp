@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/ledger_rows.h"
+
+#include "accounting/errors.h"
+#include "accounting/ledger_replay.h"
+
+#include <limits>
+#include <map>
+#include <vector>
+
+namespace kiv::storage::internal {
+namespace {
+
+using accounting::AccountCode;
+using accounting::AccountNumber;
+using accounting::AccountTypes;
+using accounting::LedgerReplay;
+using accounting::Transaction;
+using accounting::TransactionNumber;
+using accounting::TransactionStatuses;
+
+constexpr std::int64_t accountNumberMax = std::numeric_limits<std::uint32_t>::max();
+constexpr std::int64_t transactionNumberMax = std::numeric_limits<std::uint16_t>::max();
+
+struct AccountRow {
+    QString name;
+    std::optional<AccountNumber> parent;
+    AccountTypes type = AccountTypes::Unknown;
+    numira::Currency currency;
+    bool isClosed = false;
+    bool holdsOpenings = false;
+    std::optional<TransactionNumber> openedBy;
+    bool isReplayed = false;
+};
+/// In the order of their numbers.
+using AccountRows = std::map<AccountNumber, AccountRow>;
+
+AccountNumber toAccountNumber(std::int64_t number) noexcept
+{
+    return AccountNumber(static_cast<std::uint32_t>(number));
+}
+
+TransactionNumber toTransactionNumber(std::int64_t number) noexcept
+{
+    return TransactionNumber(static_cast<std::uint16_t>(number));
+}
+
+/// The amount on a side, when it is another than the transaction's.
+void writeSide(RowWriter &row, const numira::Money &side, const Transaction &transaction)
+{
+    if (side == transaction.amount())
+        row.null();
+    else
+        row.decimal(side.amount());
+}
+
+AccountRows readAccounts(const ImageDatabase &database, Seal &seal)
+{
+    AccountRows accounts;
+    RowReader row(database, Table::Accounts, seal);
+    while (row.next()) {
+        if (row.key() > accountNumberMax)
+            row.refuse("has a number that no account has");
+        AccountRow account;
+        account.name = row.text();
+        if (const auto parent = row.optionalInteger(1, accountNumberMax))
+            account.parent = toAccountNumber(*parent);
+        account.type = row.enumerator(AccountTypes::Income);
+        account.currency = row.currency();
+        account.isClosed = row.boolean();
+        account.holdsOpenings = row.boolean();
+        if (const auto openedBy = row.optionalInteger(1, transactionNumberMax))
+            account.openedBy = toTransactionNumber(*openedBy);
+        accounts.emplace_hint(accounts.end(), toAccountNumber(row.key()), std::move(account));
+    }
+    return accounts;
+}
+
+/// Parents first, whatever their numbers. An account whose parents go round in
+/// a circle, or into nothing, meets the ledger's refusal of an unknown parent.
+void replayAccounts(LedgerReplay &replay, AccountRows &accounts)
+{
+    std::vector<AccountRows::value_type *> waiting;
+    for (auto &entry : accounts) {
+        auto *next = &entry;
+        while (!next->second.isReplayed) {
+            waiting.push_back(next);
+            next->second.isReplayed = true;
+            const auto parent =
+                next->second.parent ? accounts.find(*next->second.parent) : accounts.end();
+            if (parent == accounts.end())
+                break;
+            next = &*parent;
+        }
+        for (; !waiting.empty(); waiting.pop_back()) {
+            const auto &[number, account] = *waiting.back();
+            replay.addAccount(account.type, AccountCode(number, account.name, account.parent),
+                              account.currency, account.holdsOpenings);
+        }
+    }
+}
+
+/// The transaction with the sides as they were stored.
+Transaction withStoredSides(const Transaction &transaction, const AccountRows &accounts,
+                            const std::optional<numira::Decimal> &debit,
+                            const std::optional<numira::Decimal> &credit)
+{
+    const auto side = [&](AccountNumber number, const std::optional<numira::Decimal> &amount) {
+        const auto account = accounts.find(number);
+        return amount && account != accounts.end()
+                   ? numira::Money(account->second.currency, *amount)
+                   : transaction.amount();
+    };
+    return transaction.withSideAmounts(side(transaction.debiting().number(), debit),
+                                       side(transaction.crediting().number(), credit));
+}
+
+using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
+
+Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
+                           const ImageDatabase &database, Seal &seal)
+{
+    Refunds refunds;
+    RowReader row(database, Table::Transactions, seal);
+    while (row.next()) {
+        if (row.key() > transactionNumberMax)
+            row.refuse("has a number that no transaction has");
+        const TransactionNumber number = toTransactionNumber(row.key());
+        const QDate date = row.date();
+        const AccountNumber debit = toAccountNumber(row.integer(1, accountNumberMax));
+        const AccountNumber credit = toAccountNumber(row.integer(1, accountNumberMax));
+        const numira::Money amount = row.money();
+        const std::optional<numira::Decimal> debitAmount = row.optionalDecimal();
+        const std::optional<numira::Decimal> creditAmount = row.optionalDecimal();
+        Transaction transaction(date, debit, credit, amount, row.optionalText(), number);
+        const auto debitStatus = row.enumerator(TransactionStatuses::Reconciled);
+        const auto creditStatus = row.enumerator(TransactionStatuses::Reconciled);
+        if (debitStatus != TransactionStatuses::None || creditStatus != TransactionStatuses::None)
+            transaction = transaction.withStatuses(debitStatus, creditStatus);
+        if (debitAmount || creditAmount)
+            transaction = withStoredSides(transaction, accounts, debitAmount, creditAmount);
+        replay.post(transaction);
+        if (const auto original = row.optionalInteger(1, transactionNumberMax))
+            refunds.emplace_back(number, toTransactionNumber(*original));
+    }
+    return refunds;
+}
+
+} // namespace
+
+void writeLedger(const ImageDatabase &database, Seal &seal, const accounting::GeneralLedger &ledger)
+{
+    const auto integer = [](const auto &number) -> std::optional<std::int64_t> {
+        return number ? std::optional<std::int64_t>(number->integer()) : std::nullopt;
+    };
+    RowWriter accounts(database, Table::Accounts, seal);
+    for (const AccountCode &code : ledger.accountCodes()) {
+        const accounting::LedgerAccount account = ledger.ledger(code);
+        accounts.integer(code.number().integer()).text(code.name());
+        accounts.optionalInteger(integer(code.parent()));
+        accounts.integer(static_cast<int>(account.type()));
+        accounts.currency(account.balance().code());
+        accounts.integer(account.isClosed()).integer(account.holdsOpenings());
+        accounts.optionalInteger(integer(account.openedBy())).endRow();
+    }
+    RowWriter transactions(database, Table::Transactions, seal);
+    for (const Transaction &transaction : ledger.transactions()) {
+        transactions.optionalInteger(integer(transaction.number())).date(transaction.occurredOn());
+        transactions.integer(transaction.debiting().number().integer());
+        transactions.integer(transaction.crediting().number().integer());
+        transactions.money(transaction.amount());
+        writeSide(transactions, transaction.debitAmount(), transaction);
+        writeSide(transactions, transaction.creditAmount(), transaction);
+        transactions.optionalText(transaction.description());
+        transactions.integer(static_cast<int>(transaction.debitStatus()));
+        transactions.integer(static_cast<int>(transaction.creditStatus()));
+        transactions.optionalInteger(integer(transaction.refundOf())).endRow();
+    }
+}
+
+accounting::GeneralLedger readLedger(const ImageDatabase &database, Seal &seal, QStringList &mended)
+{
+    LedgerReplay replay;
+    AccountRows accounts = readAccounts(database, seal);
+    replayAccounts(replay, accounts);
+    for (const auto &[refund, original] : replayTransactions(replay, accounts, database, seal))
+        replay.markRefund(refund, original);
+    for (const auto &[number, account] : accounts) {
+        if (account.openedBy)
+            replay.markOpening(number, *account.openedBy);
+    }
+    for (const auto &[number, account] : accounts) {
+        if (!account.isClosed)
+            continue;
+        try {
+            replay.close(number);
+        } catch (const accounting::AccountError &) {
+            mended << QStringLiteral("The closed account '%1' has a balance and was opened.")
+                          .arg(account.name);
+        }
+    }
+    return replay.finish();
+}
+
+} // namespace kiv::storage::internal

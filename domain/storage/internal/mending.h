@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/budget_storage.h"
+
+#include <QtCore/QStringList>
+
+namespace kiv::storage::internal {
+
+/// Makes data fit together that allowed requests have taken apart, so that
+/// whatever could be saved can be opened again. Each thing that is mended gets
+/// a sentence in `mended`:
+/// - an item without a name gets one that nothing else has; its account, tags
+///   and surveys follow;
+/// - an item whose account is gone, or that never got one, is tied to the
+///   account that bears its name and is of its kind, if no other item has it;
+///   otherwise its account is opened anew;
+/// - an account of an item that is gone is no longer tied to it;
+/// - a bank loses an account that is gone.
+///
+/// Data that fits together is left as it is.
+void mend(BudgetStorage::Data &data, QStringList &mended);
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/internal/rows.h"
+
+#include "storage/internal/dates.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/text_codec.h"
+
+#include "numira/error.h"
+
+#include <sqlite3.h>
+
+#include <limits>
+#include <new>
+#include <stdexcept>
+#include <utility>
+
+namespace kiv::storage::internal {
+namespace {
+
+QByteArray insertInto(const ImageDatabase &database, Table table)
+{
+    const QByteArray name = nameOf(table);
+    const Statement columns(database, "SELECT * FROM " + name);
+    const int count = sqlite3_column_count(columns.get());
+    return "INSERT INTO " + name + " VALUES(" + QByteArray("?,").repeated(count - 1) + "?)";
+}
+
+} // namespace
+
+RowWriter::RowWriter(const ImageDatabase &database, Table table, Seal &seal)
+    : m_seal(seal),
+      m_insert(database, insertInto(database, table)),
+      m_texts(static_cast<std::size_t>(sqlite3_bind_parameter_count(m_insert.get())))
+{
+    m_seal.beginTable(nameOf(table));
+}
+
+RowWriter &RowWriter::integer(std::int64_t value)
+{
+    sqlite3_bind_int64(m_insert.get(), ++m_column, value);
+    m_seal.integer(value);
+    return *this;
+}
+
+RowWriter &RowWriter::optionalInteger(std::optional<std::int64_t> value)
+{
+    return value ? integer(*value) : null();
+}
+
+RowWriter &RowWriter::text(const QString &text)
+{
+    return bytes(toStoredText(text));
+}
+
+RowWriter &RowWriter::optionalText(const std::optional<QString> &text)
+{
+    return text ? this->text(*text) : null();
+}
+
+RowWriter &RowWriter::date(QDate date)
+{
+    return date.isValid() ? bytes(toStoredDate(date)) : null();
+}
+
+RowWriter &RowWriter::decimal(const numira::Decimal &decimal)
+{
+    return bytes(QByteArray::fromStdString(decimal.toText()));
+}
+
+RowWriter &RowWriter::null()
+{
+    sqlite3_bind_null(m_insert.get(), ++m_column);
+    m_seal.null();
+    return *this;
+}
+
+RowWriter &RowWriter::money(const numira::Money &money)
+{
+    return decimal(money.amount()).currency(money.code());
+}
+
+RowWriter &RowWriter::currency(const numira::Currency &currency)
+{
+    const std::string_view code = currency.code();
+    return bytes(QByteArray(code.data(), static_cast<qsizetype>(code.size())));
+}
+
+void RowWriter::endRow()
+{
+    if (std::exchange(m_column, 0) != static_cast<int>(m_texts.size()))
+        throw std::logic_error("A row was not written whole.");
+    if (++m_rows > rowsMax)
+        throw ContentFault("There are too many rows.");
+    m_insert.step();
+    m_insert.reset();
+    m_seal.endRow();
+}
+
+RowWriter &RowWriter::bytes(QByteArray bytes)
+{
+    if (bytes.size() > textSizeMax)
+        throw ContentFault("A text is too long.");
+    m_seal.text(bytes);
+    QByteArray &kept = m_texts.at(static_cast<std::size_t>(m_column));
+    kept = std::move(bytes);
+    sqlite3_bind_text(m_insert.get(), ++m_column, kept.constData(), static_cast<int>(kept.size()),
+                      SQLITE_STATIC);
+    return *this;
+}
+
+RowReader::RowReader(const ImageDatabase &database, Table table, Seal &seal)
+    : m_seal(seal),
+      m_table(table),
+      m_select(database, QByteArray("SELECT * FROM ") + nameOf(table) + " ORDER BY rowid"),
+      m_columns(sqlite3_column_count(m_select.get())),
+      m_column(m_columns)
+{
+    m_seal.beginTable(nameOf(table));
+}
+
+bool RowReader::next()
+{
+    if (m_column != m_columns)
+        throw std::logic_error("A row was not read whole.");
+    if (m_rows > 0)
+        m_seal.endRow();
+    if (!m_select.step())
+        return false;
+    m_column = 0;
+    const std::int64_t key = integer(1, std::numeric_limits<std::int64_t>::max());
+    if (key <= m_key || ++m_rows > rowsMax)
+        refuse("is out of order");
+    m_key = key;
+    return true;
+}
+
+std::int64_t RowReader::integer(std::int64_t min, std::int64_t max)
+{
+    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_INTEGER)
+        refuse("has something else than a number");
+    const std::int64_t value = sqlite3_column_int64(m_select.get(), m_column++);
+    if (value < min || value > max)
+        refuse("has a number that means nothing");
+    m_seal.integer(value);
+    return value;
+}
+
+std::optional<std::int64_t> RowReader::optionalInteger(std::int64_t min, std::int64_t max)
+{
+    return isNull() ? std::nullopt : std::optional(integer(min, max));
+}
+
+QString RowReader::text()
+{
+    std::optional<QString> text = fromStoredText(bytes());
+    if (!text)
+        refuse("has a malformed text");
+    return *std::move(text);
+}
+
+std::optional<QString> RowReader::optionalText()
+{
+    return isNull() ? std::nullopt : std::optional(text());
+}
+
+QDate RowReader::date()
+{
+    if (isNull())
+        return {};
+    const QDate date = fromStoredDate(bytes());
+    if (!date.isValid())
+        refuse("has a malformed date");
+    return date;
+}
+
+numira::Decimal RowReader::decimal()
+{
+    const QByteArrayView text = bytes();
+    return numira::Decimal::fromText({text.data(), static_cast<std::size_t>(text.size())});
+}
+
+std::optional<numira::Decimal> RowReader::optionalDecimal()
+{
+    return isNull() ? std::nullopt : std::optional(decimal());
+}
+
+numira::Currency RowReader::currency()
+{
+    const QByteArrayView code = bytes();
+    const std::string_view text(code.data(), static_cast<std::size_t>(code.size()));
+    // Most rows are in the currency of the row before.
+    if (text != m_lastCurrency.code())
+        m_lastCurrency = numira::toCurrency(std::string(text));
+    return m_lastCurrency;
+}
+
+numira::Money RowReader::money()
+{
+    const numira::Decimal amount = decimal();
+    return {currency(), amount};
+}
+
+void RowReader::refuse(const std::string &why) const
+{
+    throw ContentFault("The row " + std::to_string(m_key) + " of the table '" + nameOf(m_table) +
+                       "' " + why + ".");
+}
+
+bool RowReader::isNull()
+{
+    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_NULL)
+        return false;
+    ++m_column;
+    m_seal.null();
+    return true;
+}
+
+QByteArrayView RowReader::bytes()
+{
+    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_TEXT)
+        refuse("has something else than a text");
+    const auto *text = sqlite3_column_text(m_select.get(), m_column);
+    if (!text)
+        throw std::bad_alloc();
+    const QByteArrayView bytes(text, sqlite3_column_bytes(m_select.get(), m_column++));
+    m_seal.text(bytes);
+    return bytes;
+}
+
+} // namespace kiv::storage::internal

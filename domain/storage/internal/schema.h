@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+namespace kiv::storage::internal {
+
+/// "kivb" in the header of every budget file.
+inline constexpr std::uint32_t applicationId = 0x6B'69'76'62;
+/// The version of the tables that is written.
+inline constexpr std::uint32_t currentVersion = 1;
+inline constexpr int pageSize = 4096;
+
+/// The largest file that is read or written. 65,535 transactions with a
+/// description of a thousand letters each fit in.
+inline constexpr qsizetype fileSizeMax = 128LL * 1024 * 1024;
+/// The longest text, in bytes.
+inline constexpr int textSizeMax = 16 * 1024 * 1024;
+/// The most rows of any table: as many as there are transaction numbers.
+inline constexpr qint64 rowsMax = 65'535;
+
+/// One table: what SQLite keeps in its schema for it, letter by letter.
+struct TableDefinition {
+    const char *name;
+    const char *sql;
+};
+
+/// The place of each table in the current version.
+enum class Table : std::uint8_t {
+    Accounts,
+    Transactions,
+    Items,
+    ItemAccounts,
+    Banks,
+    BankAccounts,
+    Surveys,
+    Distributions,
+    ItemTags,
+};
+inline constexpr std::size_t sealedTables = 9;
+
+/// The tables of a version, in the order in which they are made and sealed; the
+/// seal's own is the last one. Empty for a version that does not exist.
+[[nodiscard]] std::span<const TableDefinition> tablesOf(std::uint32_t version) noexcept;
+[[nodiscard]] const char *nameOf(Table table) noexcept;
+
+} // namespace kiv::storage::internal

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace kiv::storage::internal {
+
+/// The text in UTF-8, with a lone surrogate as the three bytes that its number
+/// would have as a character. So every text, whatever is in it, is read back
+/// as it was; QString's own conversion replaces such characters.
+[[nodiscard]] QByteArray toStoredText(const QString &text);
+
+/// The text whose stored form these bytes are; nothing for bytes that are no
+/// text's stored form. QString's own conversion drops a leading byte-order
+/// mark and repairs what is malformed.
+[[nodiscard]] std::optional<QString> fromStoredText(QByteArrayView bytes);
+
+} // namespace kiv::storage::internal

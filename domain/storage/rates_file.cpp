@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/rates_file.h"
+
+#include "storage/internal/atomic_file_writer.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/file_lock.h"
+
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QFileInfo>
+#include <QtCore/QList>
+
+#include <filesystem>
+#include <new>
+
+namespace kiv::storage {
+namespace {
+
+using internal::ContentFault;
+using internal::FileTarget;
+
+constexpr qsizetype fileSizeMax = 1024 * 1024;
+constexpr QByteArrayView kindWord = "kiv-exchange-rates ";
+constexpr int currentVersion = 1;
+constexpr QByteArrayView digestWord = "sha256 ";
+/// The exchange rates are in no hurry: two processes may store them in turn.
+constexpr int lockTriesMax = 20;
+
+QByteArray digestOf(QByteArrayView text)
+{
+    return QCryptographicHash::hash(text.toByteArray(), QCryptographicHash::Sha256).toHex();
+}
+
+/// "kiv-exchange-rates 1", "base USD", "fetched 2026-03-31T12:00:00.000Z", a
+/// line like "EUR 0.92" for each rate, and the checksum of all that. An empty
+/// table has neither base nor time.
+QByteArray encode(const conversion::ConversionMap &rates)
+{
+    QByteArray text = kindWord.toByteArray() + QByteArray::number(currentVersion) + '\n';
+    const auto addLine = [&text](const std::string &word, const std::string &value) {
+        text.append(QByteArray::fromStdString(word + ' ' + value)).append('\n');
+    };
+    if (rates.fetchedAt().isValid()) {
+        addLine("base", numira::toStdString(rates.base()));
+        addLine("fetched", rates.fetchedAt().toString(Qt::ISODateWithMs).toStdString());
+    }
+    for (const auto &[currency, rate] : rates.rates())
+        addLine(numira::toStdString(currency), rate.str());
+    return text + digestWord.toByteArray() + digestOf(text) + '\n';
+}
+
+/// The lines of a whole file of the present version, without its first and last.
+QList<QByteArray> checkedLines(const QByteArray &text, const QString &path)
+{
+    if (text.isEmpty())
+        throw internal::emptyFile(path);
+    if (!text.startsWith(kindWord))
+        throw internal::notOurs(path);
+    const qsizetype versionEnd = text.indexOf('\n');
+    if (text.mid(kindWord.size(), versionEnd - kindWord.size()).toInt() > currentVersion)
+        throw internal::newerVersion(path);
+    const qsizetype digestAt = text.lastIndexOf(digestWord);
+    const QByteArray content = text.left(digestAt);
+    if (text != content + digestWord.toByteArray() + digestOf(content) + '\n')
+        throw ContentFault("The checksum is wrong.");
+    QList<QByteArray> lines = content.split('\n');
+    lines.removeFirst();
+    lines.removeLast(); // what is behind the last line break: nothing
+    return lines;
+}
+
+conversion::ConversionMap decode(const QByteArray &text, const QString &path)
+{
+    numira::Currency base;
+    QDateTime fetchedAt;
+    conversion::ConversionMap::Rates rates;
+    for (const QByteArray &line : checkedLines(text, path)) {
+        const qsizetype blank = line.indexOf(' ');
+        const std::string word = line.left(blank).toStdString();
+        const QByteArray value = line.mid(blank + 1);
+        if (word == "base")
+            base = numira::toCurrency(value.toStdString());
+        else if (word == "fetched")
+            fetchedAt = QDateTime::fromString(QString::fromLatin1(value), Qt::ISODateWithMs);
+        else
+            rates.emplace(numira::toCurrency(word), numira::FloatingPoint(value.toStdString()));
+    }
+    if (rates.empty() && !fetchedAt.isValid())
+        return {};
+    return {base, fetchedAt, std::move(rates)};
+}
+
+} // namespace
+
+RatesFile::RatesFile(QString filePathName) : m_filePathName(std::move(filePathName)) {}
+RatesFile::~RatesFile() = default;
+
+bool RatesFile::exists() const
+{
+    return QFileInfo::exists(m_filePathName);
+}
+
+conversion::ConversionMap RatesFile::load() const
+{
+    const auto content = internal::readFile(FileTarget(m_filePathName), fileSizeMax);
+    if (!content)
+        throw internal::fileNotFound(m_filePathName);
+    try {
+        return decode(content->bytes, m_filePathName);
+    } catch (const StorageError &) {
+        throw;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &cause) {
+        throw internal::damaged(m_filePathName, cause);
+    }
+}
+
+void RatesFile::store(const conversion::ConversionMap &rates)
+{
+    std::error_code error;
+    std::filesystem::create_directories(QFileInfo(m_filePathName).absolutePath().toStdString(),
+                                        error);
+    if (error)
+        throw internal::cannotWrite(m_filePathName, error.value());
+    const FileTarget target(m_filePathName);
+    const internal::FileLock lock(target);
+    const auto replaced = internal::readFile(target, fileSizeMax);
+    internal::AtomicFileWriter(target, replaced ? std::optional(replaced->stamp) : std::nullopt)
+        .write(encode(rates), 0);
+}
+
+} // namespace kiv::storage
