@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <ostream>
+#include <utility>
 
 namespace kiv::foundation {
 namespace {
@@ -37,7 +38,7 @@ std::ostream &operator<<(std::ostream &out, const Percentage &percentage)
 
 QDebug operator<<(QDebug debug, const Percentage &percentage)
 {
-    return streamed(debug, percentage);
+    return streamed(std::move(debug), percentage);
 }
 
 } // namespace kiv::foundation

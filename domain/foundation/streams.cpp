@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace kiv::foundation {
 namespace {
@@ -65,12 +66,12 @@ namespace numira {
 
 QDebug operator<<(QDebug debug, const Currency &currency)
 {
-    return kiv::foundation::streamed(debug, currency);
+    return kiv::foundation::streamed(std::move(debug), currency);
 }
 
 QDebug operator<<(QDebug debug, const Money &money)
 {
-    return kiv::foundation::streamed(debug, money);
+    return kiv::foundation::streamed(std::move(debug), money);
 }
 
 } // namespace numira
