@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/internal/remove_item.h"
+
+#include "support/navigation.h"
+
+using namespace kiv;
+using namespace kiv::test;
+using budgeting::Bill;
+using budgeting::Goal;
+using budgeting::Nontrack;
+using enum BankAccountTypes;
+
+class RemoveItemTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void anItemGoesWithItsAssociation_data() { addKindRows(); }
+    void anItemGoesWithItsAssociation()
+    {
+        forKind([]<typename T>(std::type_identity<T>) {
+            Books books;
+            const State before = stateOf(books);
+            const AccountNumber own = books.add<T>("Rent").number();
+            books.bankLedgers.addAssociation(bank("Second"), own, GoalSubAccount);
+            // The same name for another kind, and another account of this bank, stay.
+            constexpr bool isBill = std::same_as<T, Bill>;
+            using Other = std::conditional_t<isBill, Nontrack, Bill>;
+            books.bankLedgers.addAssociation(bank("Second"), no(4), Loan);
+            removeItem(id<T>("Rent"), books.items, books.bankLedgers,
+                       surveys({survey(at("First", 1, Checking),
+                                       {id<Other>("Rent"), id<T>("Rents"), id<T>("rent")})}));
+            QVERIFY(!books.ledger.hasLedger(own));
+            QCOMPARE(books.budget, before.budget);
+            QCOMPARE(books.items.budgetAccountCodes(), before.codes);
+            QCOMPARE(books.banks.bank(bank("Second")).accounts(),
+                     (banking::Bank::Accounts{{no(4), Loan}}));
+        });
+    }
+
+    void isRefused()
+    {
+        Books books;
+        books.add<Bill>("Rent");
+        const AccountNumber own = books.add<Goal>("Trip").number();
+        books.spend(own);
+        books.bankLedgers.addAssociation(bank("First"), own, GoalSubAccount);
+        surveying::Distribution nothing{{id<Bill>("Rent"), {}}};
+        surveying::CompletedSurvey second(at("Second", 4, Loan), numira::toCurrency("USD"));
+        second.completed(day("2026-01-31"), usd("0"), nothing, usd("0"), {});
+        const auto completed =
+            surveys({survey(at("First", 1, Checking), {id<Goal>("Other")}), second});
+        const auto refused = [&](const budgeting::BudgetItemIdentifier &item) {
+            return refusal(books,
+                           [&] { removeItem(item, books.items, books.bankLedgers, completed); });
+        };
+        // Even a distribution of nothing.
+        QCOMPARE(refused(id<Bill>("Rent")),
+                 QStringLiteral("item Rent: There is %1 distributed in the surveyed bank account "
+                                "Second 4 (loan). Empty the distribution first before removing the "
+                                "budgeted item.")
+                     .arg(presentationText(surveying::DistributedAmount())));
+        QCOMPARE(refused(id<Goal>("Trip")), u"item Trip: Cannot remove a goal that has a balance.");
+        QCOMPARE(refused(id<Nontrack>("Rent")),
+                 u"item Rent: Cannot remove a nontrack that does not exist.");
+        QCOMPARE(refused({BudgetItemTypes::None, source("Rent")}),
+                 u"logic: Invalid budget item ID type supplied for removal 0");
+        QCOMPARE(refused({BudgetItemTypes(7), source("Rent")}),
+                 u"logic: Invalid budget item ID type supplied for removal 7");
+    }
+
+    void anItemOfTwoBanksLeavesTheFirst()
+    {
+        Books books;
+        const AccountNumber own = books.add<Goal>("Trip").number();
+        books.bankLedgers.addAssociation(bank("Second"), own, GoalSubAccount);
+        books.bankLedgers.addAssociation(bank("First"), own, GoalSubAccount);
+        removeItem(id<Goal>("Trip"), books.items, books.bankLedgers, {});
+        QCOMPARE(books.bankLedgers.lookUpBankName(own), bank("Second"));
+    }
+};
+
+QTEST_GUILESS_MAIN(RemoveItemTest)
+#include "tst_remove_item.moc"
