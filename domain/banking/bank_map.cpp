@@ -38,13 +38,12 @@ std::optional<BankName> BankMap::find(accounting::AccountNumber number) const
     return found == end() ? std::nullopt : std::optional(found->first);
 }
 
-void BankMap::add(Bank bank)
+void BankMap::add(const Bank &bank)
 {
-    const BankName name = bank.name();
-    if (name.institution().isEmpty())
-        throw internal::emptyBankName(name);
-    if (!m_banks.try_emplace(name, std::move(bank)).second)
-        throw internal::bankExists(name);
+    if (bank.name().institution().isEmpty())
+        throw internal::emptyBankName(bank.name());
+    if (!m_banks.try_emplace(bank.name(), bank).second)
+        throw internal::bankExists(bank.name());
 }
 
 void BankMap::add(const BankName &name, accounting::AccountNumber number, BankAccountTypes type)

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] std::optional<BankName> find(accounting::AccountNumber number) const;
 
     /// Refused: an empty name, a name in use.
-    void add(Bank bank);
+    void add(const Bank &bank);
     /// Adds the account to the bank, or replaces its kind there. Refused: an
     /// unknown bank.
     void add(const BankName &name, accounting::AccountNumber number, BankAccountTypes type);

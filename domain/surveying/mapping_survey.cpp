@@ -11,14 +11,15 @@ namespace kiv::surveying {
 MappingSurvey::MappingSurvey(banking::ReconciledBankAccount reconciled,
                              const numira::Money &expectedBalance, QDate startOn,
                              BudgetItemChanges budgetItemChanges, Distribution distributions,
-                             AccountChanges accountChanges, std::optional<numira::Money> amountDue)
+                             AccountChanges accountChanges,
+                             const std::optional<numira::Money> &amountDue)
     : m_reconciled(std::move(reconciled)),
       m_expectedBalance(expectedBalance),
       m_startOn(startOn),
       m_budgetItemChanges(std::move(budgetItemChanges)),
       m_distributions(std::move(distributions)),
       m_accountChanges(std::move(accountChanges)),
-      m_amountDue(std::move(amountDue))
+      m_amountDue(amountDue)
 {
 }
 
@@ -34,8 +35,8 @@ std::ostream &operator<<(std::ostream &out, const MappingSurvey &survey)
     internal::streamMap(out, survey.distributions());
     out << ", accounts ";
     internal::streamMap(out, survey.accountChanges(), streamChanges);
-    if (survey.amountDue())
-        out << ", due " << *survey.amountDue();
+    if (const std::optional<numira::Money> &due = survey.amountDue())
+        out << ", due " << *due;
     return out;
 }
 

@@ -24,7 +24,7 @@ public:
     MappingSurvey() = default;
     MappingSurvey(banking::ReconciledBankAccount reconciled, const numira::Money &expectedBalance,
                   QDate startOn, BudgetItemChanges budgetItemChanges, Distribution distributions,
-                  AccountChanges accountChanges, std::optional<numira::Money> amountDue);
+                  AccountChanges accountChanges, const std::optional<numira::Money> &amountDue);
 
     /// The account as it was last reconciled.
     [[nodiscard]] const banking::ReconciledBankAccount &reconciled() const noexcept

@@ -40,7 +40,7 @@ BudgetItemTags BudgetItemTags::ofType(budgeting::BudgetItemTypes type) const
     return chosen;
 }
 
-void BudgetItemTags::set(ItemTags item)
+void BudgetItemTags::set(const ItemTags &item)
 {
     if (item.tags().isEmpty())
         m_tags.erase(item.identifier());

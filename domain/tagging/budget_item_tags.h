@@ -52,7 +52,7 @@ public:
     [[nodiscard]] BudgetItemTags ofType(budgeting::BudgetItemTypes type) const;
 
     /// Replaces the item's tags; without any its entry goes.
-    void set(ItemTags item);
+    void set(const ItemTags &item);
     /// The tags follow the item's new name and replace those that stand there.
     /// Does nothing when the item has no entry.
     void rename(const budgeting::BudgetItemIdentifier &item, const budgeting::BudgetSource &to);
