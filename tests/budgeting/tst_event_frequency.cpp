@@ -123,6 +123,7 @@ private slots:
         row("part of a week", Weekly, "2026-01-01", "2026-01-11", 10 / 7.0);
         row("two weeks", EveryTwoWeeks, "2026-01-01", "2026-01-08", 0.5);
         row("halves of a month", TwiceAMonth, "2026-01-01", "2026-02-16", 3);
+        row("from the 31st to the 15th", TwiceAMonth, "2026-01-31", "2026-02-15", 1);
         row("part of half a month", TwiceAMonth, "2026-01-20", "2026-02-01", 1 - 4 / 16.0);
         row("months of different length", Monthly, "2026-01-15", "2026-04-15", 3);
         row("to a short month", Monthly, "2026-01-31", "2026-02-28", 1);
