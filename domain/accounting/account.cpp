@@ -64,7 +64,7 @@ std::ostream &operator<<(std::ostream &out, const Account &account)
 
 QDebug operator<<(QDebug debug, const Account &account)
 {
-    return foundation::streamed(debug, account);
+    return foundation::streamed(std::move(debug), account);
 }
 
 } // namespace kiv::accounting

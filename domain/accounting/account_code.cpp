@@ -41,14 +41,14 @@ QString presentationText(const AccountCode &code)
 std::ostream &operator<<(std::ostream &out, const AccountCode &code)
 {
     out << foundation::escapedUtf8(presentationText(code));
-    if (code.parent())
-        out << " under " << *code.parent();
+    if (const auto parent = code.parent())
+        out << " under " << *parent;
     return out;
 }
 
 QDebug operator<<(QDebug debug, const AccountCode &code)
 {
-    return foundation::streamed(debug, code);
+    return foundation::streamed(std::move(debug), code);
 }
 
 } // namespace kiv::accounting

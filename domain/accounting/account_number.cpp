@@ -17,7 +17,7 @@ std::ostream &operator<<(std::ostream &out, AccountNumber number)
 
 QDebug operator<<(QDebug debug, AccountNumber number)
 {
-    return foundation::streamed(debug, number);
+    return foundation::streamed(std::move(debug), number);
 }
 
 } // namespace kiv::accounting

@@ -70,7 +70,7 @@ std::ostream &operator<<(std::ostream &out, AccountTypes type)
 
 QDebug operator<<(QDebug debug, AccountTypes type)
 {
-    return foundation::streamed(debug, type);
+    return foundation::streamed(std::move(debug), type);
 }
 
 QString toQString(TransactionStatuses status)
@@ -93,7 +93,7 @@ std::ostream &operator<<(std::ostream &out, TransactionStatuses status)
 
 QDebug operator<<(QDebug debug, TransactionStatuses status)
 {
-    return foundation::streamed(debug, status);
+    return foundation::streamed(std::move(debug), status);
 }
 
 } // namespace kiv::accounting

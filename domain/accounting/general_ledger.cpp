@@ -164,7 +164,7 @@ std::ostream &operator<<(std::ostream &out, const GeneralLedger &ledger)
 
 QDebug operator<<(QDebug debug, const GeneralLedger &ledger)
 {
-    return foundation::streamed(debug, ledger);
+    return foundation::streamed(std::move(debug), ledger);
 }
 
 std::set<numira::Currency> containedCurrencies(const GeneralLedger &ledger)

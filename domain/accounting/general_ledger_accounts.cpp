@@ -35,18 +35,25 @@ bool isUnused(const AccountRecord &account)
     return account.transactions.count() == own;
 }
 
-bool isOpeningReconciled(const LedgerState &state, const AccountRecord &account)
+/// The transaction that opened the account, if it is reconciled.
+std::optional<TransactionNumber> reconciledOpening(const LedgerState &state,
+                                                   const AccountRecord &account)
 {
-    return account.openedBy && state.record(*account.openedBy).isReconciled();
+    if (const auto opening = account.openedBy; opening && state.record(*opening).isReconciled())
+        return opening;
+    return std::nullopt;
 }
 
 /// Throws AccountError when the account `from` would come to stand under itself
 /// by taking on the code `to`.
 void checkNotUnderItself(const LedgerState &state, AccountNumber from, const AccountCode &to)
 {
-    for (auto above = to.parent(); above; above = state.account(*above).code.parent()) {
-        if (*above == from)
-            throw internal::parentBelowItself(to, state.account(*to.parent()).code);
+    const AccountNumber none = AccountNumber::invalid();
+    const AccountNumber parent = to.parent().value_or(none);
+    for (AccountNumber above = parent; above != none;
+         above = state.account(above).code.parent().value_or(none)) {
+        if (above == from)
+            throw internal::parentBelowItself(to, state.account(parent).code);
     }
 }
 
@@ -56,7 +63,7 @@ bool GeneralLedger::canRemove(const AccountCode &code) const noexcept
 {
     const AccountRecord *account = m_state->find(code.number());
     return account && !m_state->hasChildren(code.number()) && isUnused(*account) &&
-           !isOpeningReconciled(*m_state, *account);
+           !reconciledOpening(*m_state, *account);
 }
 
 std::optional<TransactionNumber>
@@ -72,10 +79,11 @@ GeneralLedger::add(const Account &account, AccountNumberGenerator &generator, QD
     std::optional<NumberHandout> handout;
     if (!balance.isZero()) {
         const AccountRecord *openings = openingsAccount(*next.m_state, balance.code());
-        if (!openings)
-            handout.emplace(generator, next);
-        const AccountNumber against = openings ? openings->code.number() : handout->number();
-        if (!openings) {
+        AccountNumber against;
+        if (openings) {
+            against = openings->code.number();
+        } else {
+            against = handout.emplace(generator, next).number();
             const QString name = QStringLiteral("Opening Balances %1 [Equity]")
                                      .arg(foundation::presentationText(balance.code()));
             next.change().insertAccount(AccountTypes::Equity,
@@ -102,8 +110,8 @@ void GeneralLedger::remove(AccountNumber number)
         throw internal::accountHasChildren(account.code);
     if (!isUnused(account))
         throw internal::accountHasTransactions(account.code);
-    if (isOpeningReconciled(*m_state, account))
-        throw internal::openingIsReconciled(account.code, *account.openedBy);
+    if (const auto opening = reconciledOpening(*m_state, account))
+        throw internal::openingIsReconciled(account.code, *opening);
     GeneralLedger next(*this);
     if (account.openedBy)
         next.change().exchange(*account.openedBy, std::nullopt);

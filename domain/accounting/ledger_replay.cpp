@@ -42,9 +42,9 @@ void LedgerReplay::addAccount(AccountTypes type, const AccountCode &code,
 void LedgerReplay::post(const Transaction &transaction)
 {
     const LedgerState &state = *m_ledger.m_state;
-    if (!transaction.number() || !transaction.number()->isValid())
+    const TransactionNumber number = transaction.number().value_or(TransactionNumber());
+    if (!number.isValid())
         throw internal::numberMissing();
-    const TransactionNumber number = *transaction.number();
     if (state.table().find(number))
         throw internal::numberTaken(number);
     internal::checkTransaction(state, transaction, number);

@@ -135,23 +135,23 @@ std::strong_ordering operator<=>(const Transaction &a, const Transaction &b) noe
 
 std::ostream &operator<<(std::ostream &out, const Transaction &transaction)
 {
-    if (transaction.number())
-        out << '#' << *transaction.number() << ' ';
+    if (const auto &number = transaction.number())
+        out << '#' << *number << ' ';
     out << foundation::presentationText(transaction.occurredOn()).toStdString() << ' '
         << transaction.amount() << ": debit " << transaction.debiting() << " ("
         << transaction.debitAmount() << ", " << transaction.debitStatus() << "), credit "
         << transaction.crediting() << " (" << transaction.creditAmount() << ", "
         << transaction.creditStatus() << ')';
-    if (transaction.refundOf())
-        out << ", refund of #" << *transaction.refundOf();
-    if (transaction.description())
-        out << ", \"" << foundation::escapedUtf8(*transaction.description()) << '"';
+    if (const auto &original = transaction.refundOf())
+        out << ", refund of #" << *original;
+    if (const auto &description = transaction.description())
+        out << ", \"" << foundation::escapedUtf8(*description) << '"';
     return out;
 }
 
 QDebug operator<<(QDebug debug, const Transaction &transaction)
 {
-    return foundation::streamed(debug, transaction);
+    return foundation::streamed(std::move(debug), transaction);
 }
 
 } // namespace kiv::accounting

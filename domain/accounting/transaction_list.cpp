@@ -12,7 +12,17 @@ TransactionList::TransactionList(std::shared_ptr<const internal::LedgerState> st
 {
 }
 TransactionList::TransactionList(const TransactionList &) = default;
+TransactionList::TransactionList(TransactionList &&other) noexcept
+    : m_state(std::move(other.m_state)), m_account(std::exchange(other.m_account, nullptr))
+{
+}
 TransactionList &TransactionList::operator=(const TransactionList &) = default;
+TransactionList &TransactionList::operator=(TransactionList &&other) noexcept
+{
+    m_state = std::move(other.m_state);
+    m_account = std::exchange(other.m_account, nullptr);
+    return *this;
+}
 TransactionList::~TransactionList() = default;
 
 std::size_t TransactionList::size() const noexcept

@@ -50,7 +50,9 @@ public:
     /// For the ledger: those of an account, which must be there.
     TransactionList(std::shared_ptr<const internal::LedgerState> state, AccountNumber account);
     TransactionList(const TransactionList &);
+    TransactionList(TransactionList &&) noexcept;
     TransactionList &operator=(const TransactionList &);
+    TransactionList &operator=(TransactionList &&) noexcept;
     ~TransactionList();
 
     [[nodiscard]] std::size_t size() const noexcept;

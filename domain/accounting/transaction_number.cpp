@@ -17,7 +17,7 @@ std::ostream &operator<<(std::ostream &out, TransactionNumber number)
 
 QDebug operator<<(QDebug debug, TransactionNumber number)
 {
-    return foundation::streamed(debug, number);
+    return foundation::streamed(std::move(debug), number);
 }
 
 } // namespace kiv::accounting

@@ -33,13 +33,6 @@ AccountCode code(std::uint32_t number, std::optional<AccountNumber> parent = {})
     return {no(number), u"Moved %2"_qs, parent};
 }
 
-/// A change of a ledger alone.
-template <typename Operation>
-Change onLedger(Operation operation)
-{
-    return [operation](Book &book) { operation(book.ledger); };
-}
-
 Change adding(const Account &account, QDate openedOn = day("2026-01-05"))
 {
     return [=](Book &book) { book.ledger.add(account, book.generator, openedOn); };
@@ -72,8 +65,8 @@ Change refunding(std::uint16_t number, const numira::Money &amount)
     return [=](Book &book) { book.ledger.refund(txn(number), amount, day("2026-02-01")); };
 }
 
-/// One row: what was done before, what is refused, and the sentence.
-void row(const char *name, const Change &change, const char *sentence, const Change &before = {})
+/// One row: a pattern of the sentence, what is refused, and what was done before.
+void row(const char *name, const char *sentence, const Change &change, const Change &before = {})
 {
     QTest::newRow(name) << before << change << QString::fromUtf8(sentence);
 }
@@ -120,8 +113,10 @@ private slots:
                 before(*book);
         }
         const GeneralLedger copy = shared.ledger;
-        QCOMPARE(refusal(change, alone), sentence);
-        QCOMPARE(refusal(change, shared), sentence);
+        for (Book *book : {&alone, &shared}) {
+            const QString said = refusal(change, *book);
+            QVERIFY2(QRegularExpression(sentence).match(said).hasMatch(), qPrintable(said));
+        }
         QVERIFY(alone.ledger == untouched.ledger);
         QVERIFY(shared.ledger == untouched.ledger && copy == untouched.ledger);
         QCOMPARE(nextAccountNumber(alone), nextAccountNumber(untouched));
@@ -174,193 +169,141 @@ private:
 void tst_LedgerRefusals::accountRows()
 {
     using enum AccountTypes;
-    row("add: no number", adding(newAccount(Asset, no(0))),
-        "The account 'New %1' needs a number above 0.");
-    row("add: number in use", adding(newAccount(Asset, no(4))),
-        "The account '4 New %1' cannot have a number that the account '4 Rent' has.");
-    row("add: no type", adding(newAccount(Unknown, no(20))),
-        "The account '20 New %1' needs a type.");
-    row("add: unknown parent", adding(newAccount(Asset, no(20), no(77))),
-        "The account '20 New %1' cannot stand under the account 77, which does not exist.");
-    row("add: parent of another type", adding(newAccount(Expense, no(20), no(1))),
-        "The account '20 New %1' of type Expense cannot stand under the account '1 Bank' of type "
-        "Asset.");
-    row("add: opened on no day, in a currency of its own",
-        adding(newAccount(Asset, no(10), {}, money("EUR", "5")), QDate()),
-        "A transaction needs a valid day.");
-    row("add: openings are closed", adding(newAccount(Asset, no(20), {}, usd("5"))),
-        "The account '3 Opening Balances USD [Equity]' is closed.",
-        onLedger([](GeneralLedger &ledger) { ledger.close(no(3)); }));
-    row("add: openings get too large", adding(newAccount(Asset, no(20), {}, usd(huge))),
-        "The amounts of the account '3 Opening Balances USD [Equity]' would become too large.",
+    const auto euros = money("EUR", "5");
+    row("add: no number", "'New %1' needs a number", adding(newAccount(Asset, no(0))));
+    row("add: number in use", "'4 New %1' cannot .* '4 Rent' has",
+        adding(newAccount(Asset, no(4))));
+    row("add: no type", "'20 New %1' needs a type", adding(newAccount(Unknown, no(20))));
+    row("add: unknown parent", "77, which does not exist",
+        adding(newAccount(Asset, no(20), no(77))));
+    row("add: parent of another type",
+        "'20 New %1' of type Expense cannot stand under the account '1 Bank' of type Asset",
+        adding(newAccount(Expense, no(20), no(1))));
+    row("add: on no day, and the first in euros", "valid day",
+        adding(newAccount(Asset, no(10), {}, euros), QDate()));
+    row("add: openings are closed", "'3 Opening Balances USD \\[Equity\\]' is closed",
+        adding(newAccount(Asset, no(20), {}, usd("5"))),
+        [](Book &book) { book.ledger.close(no(3)); });
+    row("add: openings get too large", "'3 Opening .*' would become too large",
+        adding(newAccount(Asset, no(20), {}, usd(huge))),
         adding(newAccount(Asset, no(21), {}, usd(huge))));
-    row("add: closed with a balance",
-        adding(Account(Asset, AccountCode(no(10), u"New"_qs, {}), money("EUR", "5"), true)),
-        "The account '10 New' cannot be closed while its balance is €5.00.");
+    row("add: closed with a balance", "'10 N' cannot be closed .* €5.00",
+        adding({Asset, {no(10), u"N"_qs, {}}, euros, true}));
 
-    const auto removing = [](std::uint32_t number) {
-        return onLedger([number](GeneralLedger &ledger) { ledger.remove(no(number)); });
-    };
-    row("remove: unknown", removing(77), "There is no account with the number 77.");
-    row("remove: has a child", removing(1),
-        "The account '1 Bank' cannot be removed while accounts stand under it.");
-    row("remove: has transactions", removing(5),
-        "The account '5 Wage' cannot be removed while it has transactions.");
-    row("remove: opening reconciled", removing(20),
-        "The account '20 New %1' cannot be removed while the transaction 8, which opened it, is "
-        "reconciled.",
+    row("remove: unknown", "number 77", [](Book &b) { b.ledger.remove(no(77)); });
+    row("remove: has a child", "'1 Bank'.*accounts stand", [](Book &b) { b.ledger.remove(no(1)); });
+    row("remove: used", "'5 Wage'.*has transactions", [](Book &b) { b.ledger.remove(no(5)); });
+    row(
+        "remove: opening reconciled", "'20 New %1'.*transaction 8, which opened it, is reconciled",
+        [](Book &b) { b.ledger.remove(no(20)); },
         [](Book &book) {
             adding(newAccount(Asset, no(20), {}, usd("5")))(book);
             book.ledger.reconcile(txn(8), no(3));
         });
-    const auto closing = [](std::uint32_t number) {
-        return onLedger([number](GeneralLedger &ledger) { ledger.close(no(number)); });
-    };
-    row("close: unknown", closing(77), "There is no account with the number 77.");
-    row("close: closed", closing(7), "The account '7 Old' is closed.");
-    row("close: asset", closing(2),
-        "The account '2 Checking' cannot be closed while its balance is $1,880.00.");
-    row("close: liability", closing(6),
-        "The account '6 Card' cannot be closed while its balance is $50.00.");
-    row("open: unknown", onLedger([](GeneralLedger &ledger) { ledger.open(code(77)); }),
-        "There is no account with the number 77.");
-    row("open: open", onLedger([](GeneralLedger &ledger) { ledger.open(code(4)); }),
-        "The account '4 Rent' is open already.");
+    row("close: unknown", "number 77", [](Book &b) { b.ledger.close(no(77)); });
+    row("close: closed", "'7 Old' is closed", [](Book &b) { b.ledger.close(no(7)); });
+    row("close: asset", "'2 Checking'.* is \\$1,880.00", [](Book &b) { b.ledger.close(no(2)); });
+    row("close: liability", "'6 Card'.* is \\$50.00", [](Book &b) { b.ledger.close(no(6)); });
+    row("open: unknown", "number 77", [](Book &b) { b.ledger.open(code(77)); });
+    row("open: open", "'4 Rent' is open already", [](Book &b) { b.ledger.open(code(4)); });
 }
 
 void tst_LedgerRefusals::recodeAndConvertRows()
 {
-    row("recode: unknown", recoding(77, code(20)), "There is no account with the number 77.");
-    row("recode: no number", recoding(4, code(0)),
-        "The account 'Moved %2' needs a number above 0.");
-    row("recode: number of another", recoding(4, code(5)),
-        "The account '5 Moved %2' cannot have a number that the account '5 Wage' has.");
-    row("recode: unknown parent", recoding(4, code(20, no(77))),
-        "The account '20 Moved %2' cannot stand under the account 77, which does not exist.");
-    row("recode: parent of another type", recoding(4, code(20, no(1))),
-        "The account '20 Moved %2' of type Expense cannot stand under the account '1 Bank' of type "
-        "Asset.");
-    row("recode: under its old number", recoding(1, code(20, no(1))),
-        "The account '20 Moved %2' cannot stand under the account '1 Bank', which is itself or "
-        "stands below it.");
-    row("recode: under its new number", recoding(1, code(20, no(20))),
-        "The account '20 Moved %2' cannot stand under the account 20, which does not exist.");
-    row("recode: under its grandchild", recoding(1, code(1, no(8))),
-        "The account '1 Moved %2' cannot stand under the account '8 Envelope', which is itself or "
-        "stands below it.");
+    row("recode: unknown", "number 77", recoding(77, code(20)));
+    row("recode: no number", "'Moved %2' needs a number", recoding(4, code(0)));
+    row("recode: number of another", "'5 Moved %2' cannot .* '5 Wage' has", recoding(4, code(5)));
+    row("recode: unknown parent", "77, which does not exist", recoding(4, code(20, no(77))));
+    row("recode: parent of another type",
+        "'20 Moved %2' of type Expense cannot stand under the account '1 Bank' of type Asset",
+        recoding(4, code(20, no(1))));
+    row("recode: under its old number", "'20 M.* '1 Bank', .* itself",
+        recoding(1, code(20, no(1))));
+    row("recode: under its new number", "20, which does not exist", recoding(1, code(20, no(20))));
+    row("recode: under its grandchild", "'8 Envelope', which is itself",
+        recoding(1, code(1, no(8))));
 
-    row("convert: unknown", converting(77, "EUR"), "There is no account with the number 77.");
-    row("convert: converter refuses", converting(2, "JPY"),
-        "The account '2 Checking' cannot be kept in JPY, as the amount of its transaction 1 cannot "
-        "be converted.");
-    row("convert: no rate", converting(4, "CAD"),
-        "The account '4 Rent' cannot be kept in CAD, as the amount of its transaction 3 cannot be "
-        "converted.");
-    row("convert: comes to nothing", converting(4, "GBP"),
-        "The account '4 Rent' cannot be kept in GBP, in which the $800.00 of its transaction 3 "
-        "come to nothing.");
-    row("convert: sum too large", converting(2, "CHF"),
-        "The amounts of the account '2 Checking' would become too large.");
+    row("convert: unknown", "number 77", converting(77, "EUR"));
+    row("convert: converter refuses", "'2 Checking' .*in JPY.*transaction 1 ",
+        converting(2, "JPY"));
+    row("convert: no rate", "'4 Rent' .*in CAD.*transaction 3 cannot be conv",
+        converting(4, "CAD"));
+    row("convert: comes to nothing", "'4 Rent'.*in GBP.*\\$800.00 .* 3 come", converting(4, "GBP"));
+    row("convert: sum too large", "'2 Checking' would become too large", converting(2, "CHF"));
 }
 
 void tst_LedgerRefusals::postRows()
 {
-    row("post: no day", posting(transfer(no(2), no(4), usd("1"), QDate())),
-        "A transaction needs a valid day.");
-    row("post: zero", posting(transfer(no(2), no(4), usd("0"))),
-        "The amount of a transaction must be above zero, but is $0.00.");
-    row("post: negative", posting(transfer(no(2), no(4), usd("-0.01"))),
-        "The amount of a transaction must be above zero, but is -$0.01.");
-    row("post: one account", posting(transfer(no(2), no(2), usd("1"))),
-        "A transaction cannot debit and credit the same account '2 Checking'.");
-    row("post: debits an unknown account", posting(transfer(no(77), no(2), usd("1"))),
-        "There is no account with the number 77.");
-    row("post: credits an unknown account", posting(transfer(no(2), no(77), usd("1"))),
-        "There is no account with the number 77.");
-    row("post: debits a closed account", posting(transfer(no(7), no(2), usd("1"))),
-        "The account '7 Old' is closed.");
-    row("post: credits a closed account", posting(transfer(no(2), no(7), usd("1"))),
-        "The account '7 Old' is closed.");
-    row("post: no rate", posting(transfer(no(2), no(4), money("CAD", "1"))),
-        "The amount CA$1.00 cannot be converted into USD.");
-    row("post: comes to nothing", posting(transfer(no(2), no(9), usd("0.01"))),
-        "The amount $0.01 comes to nothing in EUR.");
-    row("post: too large", posting(transfer(no(5), no(4), usd(huge))),
-        "The amounts of the account '5 Wage' would become too large.",
-        posting(transfer(no(5), no(2), usd(huge))));
+    row("post: no day", "valid day", posting(transfer(no(2), no(4), usd("1"), QDate())));
+    row("post: zero", "above zero, but is \\$0.00", posting(transfer(no(2), no(4), usd("0"))));
+    row("post: negative", "above zero, but is -\\$1.00",
+        posting(transfer(no(2), no(4), usd("-1"))));
+    row("post: one account", "same account '2 Checking'",
+        posting(transfer(no(2), no(2), usd("1"))));
+    row("post: unknown debit", "number 77", posting(transfer(no(77), no(2), usd("1"))));
+    row("post: unknown credit", "number 77", posting(transfer(no(2), no(77), usd("1"))));
+    row("post: closed debit", "'7 Old' is closed", posting(transfer(no(7), no(2), usd("1"))));
+    row("post: closed credit", "'7 Old' is closed", posting(transfer(no(2), no(7), usd("1"))));
+    row("post: no rate", "CA\\$1.00 .*into USD",
+        posting(transfer(no(2), no(4), money("CAD", "1"))));
+    row("post: comes to nothing", "\\$0.01 comes to nothing in EUR",
+        posting(transfer(no(2), no(9), usd("0.01"))));
+    row("post: too large", "'5 Wage' would become too large",
+        posting(transfer(no(5), no(4), usd(huge))), posting(transfer(no(5), no(2), usd(huge))));
 }
 
 void tst_LedgerRefusals::repostRows()
 {
-    row("repost: unknown", reposting(77, transfer(no(2), no(4), usd("1"))),
-        "There is no transaction with the number 77.");
-    row("repost: a side reconciled", reposting(5, transfer(no(4), no(6), usd("50"))),
-        "The transaction 5 is reconciled and cannot be changed before it is unreconciled.");
-    row("repost: leaves a closed account", reposting(6, transfer(no(4), no(2), usd("10"))),
-        "The account '7 Old' is closed.");
-    row("repost: enters a closed account", reposting(2, transfer(no(2), no(7), usd("10"))),
-        "The account '7 Old' is closed.");
-    row("repost: an opening elsewhere", reposting(1, transfer(no(8), no(3), usd("100"))),
-        "The transaction 1 opened the account '2 Checking' and cannot leave it.");
-    row("repost: below its refunds", reposting(3, transfer(no(4), no(2), usd("99.99"))),
-        "The transaction 3 cannot be lowered to $99.99, as $100.00 of it were refunded.");
-    row("repost: refunded, other debit", reposting(3, transfer(no(8), no(2), usd("800"))),
-        "The accounts of the transaction 3 cannot be changed, as it is a refund or was refunded.");
-    row("repost: refunded, other currency",
-        reposting(3, transfer(no(4), no(2), money("EUR", "800"))),
-        "The amount of the transaction 3 must stay in USD, in which it was refunded.");
-    row("repost: refund, other credit", reposting(4, transfer(no(2), no(8), usd("100"))),
-        "The accounts of the transaction 4 cannot be changed, as it is a refund or was refunded.");
-    row("repost: refund above the original", reposting(4, transfer(no(2), no(4), usd("800.01"))),
-        "A refund of $800.01 exceeds the $800.00 that are left of the transaction 3.");
-    row("repost: refund of nothing", reposting(4, transfer(no(2), no(4), money("EUR", "0"))),
-        "The amount of a transaction must be above zero, but is €0.00.");
-    const auto removing = [](std::uint16_t number) {
-        return onLedger([number](GeneralLedger &ledger) { ledger.remove(txn(number)); });
-    };
-    row("remove transaction: unknown", removing(77), "There is no transaction with the number 77.");
-    row("remove transaction: a side reconciled", removing(5),
-        "The transaction 5 is reconciled and cannot be changed before it is unreconciled.");
-    row("remove transaction: closed account", removing(6), "The account '7 Old' is closed.");
-    row("remove transaction: refunded", removing(3),
-        "The transaction 3 cannot be removed, as $100.00 of it were refunded.");
+    const char *fixed = "transaction 5 is reconciled and cannot be changed";
+    const char *tied = "The accounts of the transaction [34] cannot be changed";
+    row("repost: unknown", "number 77", reposting(77, transfer(no(2), no(4), usd("1"))));
+    row("repost: reconciled", fixed, reposting(5, transfer(no(4), no(6), usd("50"))));
+    row("repost: leaves a closed account", "'7 Old' is closed",
+        reposting(6, transfer(no(4), no(2), usd("10"))));
+    row("repost: enters a closed account", "'7 Old' is closed",
+        reposting(2, transfer(no(2), no(7), usd("10"))));
+    row("repost: an opening elsewhere", "transaction 1 opened the account '2 Checking'",
+        reposting(1, transfer(no(8), no(3), usd("100"))));
+    row("repost: below its refunds", "transaction 3 .* \\$99.99, as \\$100.00",
+        reposting(3, transfer(no(4), no(2), usd("99.99"))));
+    row("repost: refunded, debit", tied, reposting(3, transfer(no(8), no(2), usd("800"))));
+    row("repost: refunded, currency", "transaction 3 must stay in USD",
+        reposting(3, transfer(no(4), no(2), money("EUR", "800"))));
+    row("repost: refund, credit", tied, reposting(4, transfer(no(2), no(8), usd("100"))));
+    row("repost: refund above the original", "\\$800.01 exceeds the \\$800.00 .* transaction 3",
+        reposting(4, transfer(no(2), no(4), usd("800.01"))));
+    row("repost: refund of nothing", "above zero, but is €0.00",
+        reposting(4, transfer(no(2), no(4), money("EUR", "0"))));
+    row("remove: unknown one", "number 77", [](Book &b) { b.ledger.remove(txn(77)); });
+    row("remove: reconciled", fixed, [](Book &b) { b.ledger.remove(txn(5)); });
+    row("remove: closed account", "'7 Old' is closed", [](Book &b) { b.ledger.remove(txn(6)); });
+    row("remove: refunded", "3 cannot .* \\$100.00 of it",
+        [](Book &b) { b.ledger.remove(txn(3)); });
 }
 
 void tst_LedgerRefusals::statusAndRefundRows()
 {
-    row("reconcile: one of several unknown", onLedger([](GeneralLedger &ledger) {
-            ledger.reconcile(std::set{txn(2), txn(77)});
-        }),
-        "There is no transaction with the number 77.");
-    row("reconcile: another account's",
-        onLedger([](GeneralLedger &ledger) { ledger.reconcile(txn(2), no(4)); }),
-        "The account 4 has no part in the transaction 2.");
-    row("unreconcile: unknown",
-        onLedger([](GeneralLedger &ledger) { ledger.unreconcile(txn(77)); }),
-        "There is no transaction with the number 77.");
-    row("clear: unknown", onLedger([](GeneralLedger &ledger) { ledger.clear(txn(77)); }),
-        "There is no transaction with the number 77.");
-    row("clear: a side reconciled", onLedger([](GeneralLedger &ledger) { ledger.clear(txn(5)); }),
-        "The transaction 5 is reconciled and cannot be changed before it is unreconciled.");
-    row("clear: this side reconciled",
-        onLedger([](GeneralLedger &ledger) { ledger.clear(txn(5), no(6)); }),
-        "The transaction 5 is reconciled and cannot be changed before it is unreconciled.");
-    row("clear: another account's",
-        onLedger([](GeneralLedger &ledger) { ledger.clear(txn(5), no(2)); }),
-        "The account 2 has no part in the transaction 5.");
+    const char *fixed = "transaction 5 is reconciled and cannot be changed";
+    row("reconcile: one unknown", "number 77", [](Book &b) {
+        b.ledger.reconcile(std::set{txn(2), txn(77)});
+    });
+    row("reconcile: not involved", "account 4 has no part in the transaction 2",
+        [](Book &b) { b.ledger.reconcile(txn(2), no(4)); });
+    row("unreconcile: unknown", "number 77", [](Book &b) { b.ledger.unreconcile(txn(77)); });
+    row("clear: unknown", "number 77", [](Book &b) { b.ledger.clear(txn(77)); });
+    row("clear: one side reconciled", fixed, [](Book &b) { b.ledger.clear(txn(5)); });
+    row("clear: this side reconciled", fixed, [](Book &b) { b.ledger.clear(txn(5), no(6)); });
+    row("clear: not involved", "account 2 has no part in the transaction 5",
+        [](Book &b) { b.ledger.clear(txn(5), no(2)); });
 
-    row("refund: unknown", refunding(77, usd("1")), "There is no transaction with the number 77.");
-    row("refund: of a refund", refunding(4, usd("1")),
-        "The transaction 4 is a refund of the transaction 3 and cannot be refunded itself.");
-    row("refund: nothing", refunding(3, usd("0")),
-        "The amount of a transaction must be above zero, but is $0.00.");
-    row("refund: more than is left", refunding(3, usd("700.01")),
-        "A refund of $700.01 exceeds the $700.00 that are left of the transaction 3.");
-    row("refund: more in another currency", refunding(3, money("EUR", "350.01")),
-        "A refund of $700.02 exceeds the $700.00 that are left of the transaction 3.");
-    row("refund: no rate", refunding(3, money("CAD", "1")),
-        "The amount CA$1.00 cannot be converted into USD.");
-    row("refund: closed account", refunding(6, usd("1")), "The account '7 Old' is closed.");
+    row("refund: unknown", "number 77", refunding(77, usd("1")));
+    row("refund: of a refund", "4 is a refund of the transaction 3", refunding(4, usd("1")));
+    row("refund: nothing", "above zero, but is \\$0.00", refunding(3, usd("0")));
+    row("refund: too much", "\\$700.01 exceeds the \\$700.00 .* 3", refunding(3, usd("700.01")));
+    row("refund: too many euros", "\\$700.02 exceeds .*700.00",
+        refunding(3, money("EUR", "350.01")));
+    row("refund: no rate", "CA\\$1.00 .*into USD", refunding(3, money("CAD", "1")));
+    row("refund: closed account", "'7 Old' is closed", refunding(6, usd("1")));
 }
 
 QTEST_APPLESS_MAIN(tst_LedgerRefusals)

@@ -29,7 +29,15 @@ void begin(LedgerReplay &replay)
     replay.post(transfer(no(1), no(2), usd("4")).withNumber(txn(3)));
 }
 
-void row(const char *name, const Step &step, const char *sentence, const Step &before = {})
+Step adding(AccountTypes type, std::uint32_t number, bool holdsOpenings)
+{
+    return [=](LedgerReplay &replay) {
+        replay.addAccount(type, {no(number), u"New"_qs, {}}, dollars, holdsOpenings);
+    };
+}
+
+/// One row: a part of the sentence, what is refused, and what was done before.
+void row(const char *name, const char *sentence, const Step &step, const Step &before = {})
 {
     QTest::newRow(name) << before << step << QString::fromUtf8(sentence);
 }
@@ -187,81 +195,64 @@ private slots:
         QTest::addColumn<Step>("before");
         QTest::addColumn<Step>("step");
         QTest::addColumn<QString>("sentence");
-        row(
-            "account: number taken",
-            [](LedgerReplay &replay) {
-                replay.addAccount(Asset, {no(2), u"New"_qs, {}}, dollars, false);
-            },
-            "The account '2 New' cannot have a number that the account '2 Rent' has.");
-        row(
-            "account: openings outside equity",
-            [](LedgerReplay &replay) {
-                replay.addAccount(Income, {no(5), u"New"_qs, {}}, dollars, true);
-            },
-            "The account '5 New' of type Income cannot hold opening balances.");
-        row(
-            "close: balance", [](LedgerReplay &replay) { replay.close(no(1)); },
-            "The account '1 Bank' cannot be closed while its balance is $94.00.");
+        row("account: number taken", "the account '2 Rent' has", adding(Asset, 2, false));
+        row("account: openings outside equity", "'5 New' of type Income", adding(Income, 5, true));
+        row("close: balance", "'1 Bank' cannot be closed while its balance is $94.00",
+            [](LedgerReplay &replay) { replay.close(no(1)); });
 
         const Transaction payment = transfer(no(2), no(1), usd("1"));
-        row("post: no number", posting(payment), "A stored transaction has no number.");
-        row("post: number 0", posting(payment.withNumber(txn(0))),
-            "A stored transaction has no number.");
-        row("post: number twice", posting(payment.withNumber(txn(3))),
-            "The transaction number 3 stands for two transactions.");
-        row("post: negative", posting(transfer(no(2), no(1), usd("-1")).withNumber(txn(4))),
-            "The amount of a transaction must be above zero, but is -$1.00.");
-        row("post: closed account", posting(payment.withNumber(txn(4))),
-            "The account '2 Rent' is closed.", [](LedgerReplay &replay) { replay.close(no(2)); });
-        row("post: debit of nothing",
-            posting(payment.withSideAmounts(usd("0"), usd("1")).withNumber(txn(4))),
-            "The transaction 4 cannot have the amount $0.00 in the account '2 Rent'.");
-        row("post: credit in another currency",
-            posting(payment.withSideAmounts(usd("1"), money("EUR", "1")).withNumber(txn(4))),
-            "The transaction 4 cannot have the amount €1.00 in the account '1 Bank'.");
+        const Transaction fourth = payment.withNumber(txn(4));
+        const Transaction back = transfer(no(1), no(2), usd("6.01")).withNumber(txn(4));
+        row("post: no number", "has no number", posting(payment));
+        row("post: number 0", "has no number", posting(payment.withNumber(txn(0))));
+        row("post: number twice", "number 3 stands for two", posting(payment.withNumber(txn(3))));
+        row("post: negative", "but is -$1.00",
+            posting(transfer(no(2), no(1), usd("-1")).withNumber(txn(4))));
+        row("post: closed account", "'2 Rent' is closed", posting(fourth),
+            [](LedgerReplay &replay) { replay.close(no(2)); });
+        row("post: debit of nothing", "4 cannot have the amount $0.00 in the account '2 Rent'",
+            posting(fourth.withSideAmounts(usd("0"), usd("1"))));
+        row("post: credit elsewhere", "4 cannot have the amount €1.00 in the account '1 Bank'",
+            posting(fourth.withSideAmounts(usd("1"), money("EUR", "1"))));
 
-        row("refund: unknown original", refunding(3, 77),
-            "There is no transaction with the number 77.");
-        row("refund: accounts not swapped", refunding(3, 1),
-            "The transaction 3 cannot be a refund of the transaction 1.");
-        row("refund: marked already", refunding(3, 2),
-            "The transaction 3 cannot be a refund of the transaction 2.", refunding(3, 2));
-        row("refund: of a refund", refunding(4, 3),
-            "The transaction 4 cannot be a refund of the transaction 3.", [](LedgerReplay &replay) {
-                replay.post(transfer(no(2), no(1), usd("1")).withNumber(txn(4)));
+        row("refund: unknown original", "number 77", refunding(3, 77));
+        row("refund: accounts not swapped", "3 cannot be a refund of the transaction 1",
+            refunding(3, 1));
+        row("refund: marked already", "3 cannot be a refund of the transaction 2", refunding(3, 2),
+            refunding(3, 2));
+        row("refund: of a refund", "4 cannot be a refund of the transaction 3", refunding(4, 3),
+            [=](LedgerReplay &replay) {
+                replay.post(fourth);
                 replay.markRefund(txn(3), txn(2));
             });
-        row("refund: was refunded itself", refunding(3, 2),
-            "The transaction 3 cannot be a refund of the transaction 2.", [](LedgerReplay &replay) {
-                replay.post(transfer(no(2), no(1), usd("1")).withNumber(txn(4)));
+        row("refund: was refunded itself", "3 cannot be a refund of the transaction 2",
+            refunding(3, 2), [=](LedgerReplay &replay) {
+                replay.post(fourth);
                 replay.markRefund(txn(4), txn(3));
             });
-        row("refund: other currency", refunding(4, 2),
-            "The transaction 4 cannot be a refund of the transaction 2.",
+        row("refund: other currency", "4 cannot be a refund of the transaction 2", refunding(4, 2),
             posting(transfer(no(1), no(2), money("EUR", "1"))
                         .withSideAmounts(usd("2"), usd("2"))
                         .withNumber(txn(4))));
-        row("refund: an opening", refunding(4, 1),
-            "The transaction 4 cannot be a refund of the transaction 1.", [](LedgerReplay &replay) {
-                replay.post(transfer(no(3), no(1), usd("1")).withNumber(txn(4)));
+        row("refund: an opening", "4 cannot be a refund of the transaction 2", refunding(4, 2),
+            [=](LedgerReplay &replay) {
+                replay.post(back);
                 replay.markOpening(no(1), txn(4));
             });
-        row("refund: more than is left", refunding(4, 2),
-            "A refund of $6.01 exceeds the $6.00 that are left of the transaction 2.",
-            [](LedgerReplay &replay) {
+        row("refund: more than is left", "$6.01 exceeds the $6.00", refunding(4, 2),
+            [=](LedgerReplay &replay) {
                 replay.markRefund(txn(3), txn(2));
-                replay.post(transfer(no(1), no(2), usd("6.01")).withNumber(txn(4)));
+                replay.post(back);
             });
 
-        row("opening: unknown", opening(1, 77), "There is no transaction with the number 77.");
-        row("opening: of another account", opening(4, 1),
-            "The transaction 1 cannot have opened the account '4 Euros'.");
-        row("opening: second", opening(1, 2),
-            "The account '1 Bank' was opened by the transaction 1 already.", opening(1, 1));
-        row("opening: of both sides", opening(3, 1),
-            "The transaction 1 cannot have opened the account '3 Openings'.", opening(1, 1));
-        row("opening: a refund", opening(1, 3),
-            "The transaction 3 cannot have opened the account '1 Bank'.", refunding(3, 2));
+        row("opening: unknown", "number 77", opening(1, 77));
+        row("opening: not involved", "1 cannot have opened the account '4 Euros'", opening(4, 1));
+        row("opening: second", "'1 Bank' was opened by the transaction 1 already", opening(1, 2),
+            opening(1, 1));
+        row("opening: both sides", "1 cannot have opened the account '3 Openings'", opening(3, 1),
+            opening(1, 1));
+        row("opening: a refund", "3 cannot have opened the account '1 Bank'", opening(1, 3),
+            refunding(3, 2));
     }
 
     void refusedStepsChangeNothing()
@@ -282,7 +273,7 @@ private slots:
         } catch (const kiv::foundation::Error &error) {
             refusal = error.message();
         }
-        QCOMPARE(refusal, sentence);
+        QVERIFY2(refusal.contains(sentence), qPrintable(refusal));
         QVERIFY(replay.finish() == untouched.finish());
         QVERIFY(replay.finish().isEmpty());
     }

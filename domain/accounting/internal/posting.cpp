@@ -21,9 +21,10 @@ void checkNewAccount(const LedgerState &state, AccountTypes type, const AccountC
 
 void checkParent(const LedgerState &state, AccountTypes type, const AccountCode &code)
 {
-    if (!code.parent())
+    const auto &number = code.parent();
+    if (!number)
         return;
-    const AccountRecord *parent = state.find(*code.parent());
+    const AccountRecord *parent = state.find(*number);
     if (!parent)
         throw parentNotFound(code);
     if (parent->type != type)

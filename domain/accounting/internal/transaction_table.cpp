@@ -21,9 +21,10 @@ constexpr std::size_t slotOf(TransactionNumber number)
 const TransactionRecord *TransactionTable::find(TransactionNumber number) const noexcept
 {
     const Chunk *chunk = m_chunks[chunkOf(number)].constData();
-    if (!chunk || !chunk->records[slotOf(number)])
+    if (!chunk)
         return nullptr;
-    return &*chunk->records[slotOf(number)];
+    const std::optional<TransactionRecord> &slot = chunk->records[slotOf(number)];
+    return slot ? &*slot : nullptr;
 }
 
 TransactionNumber TransactionTable::nextFree() const noexcept
@@ -60,7 +61,10 @@ void TransactionTable::erase(TransactionNumber number)
 
 TransactionRecord &TransactionTable::change(TransactionNumber number)
 {
-    return m_chunks[chunkOf(number)]->records[slotOf(number)].value();
+    std::optional<TransactionRecord> &slot = m_chunks[chunkOf(number)]->records[slotOf(number)];
+    if (!slot)
+        throw std::logic_error("There is no such transaction to change.");
+    return *slot;
 }
 
 bool operator==(const TransactionTable &a, const TransactionTable &b) noexcept
