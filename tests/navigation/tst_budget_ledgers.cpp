@@ -16,6 +16,16 @@ using budgeting::Wage;
 
 namespace {
 
+using Ledgers = BudgetLedgers;
+constexpr std::array renames{&Ledgers::renameBill, &Ledgers::renameDebt, &Ledgers::renameGoal,
+                             &Ledgers::renameNontrack, &Ledgers::renameWage};
+constexpr std::array removes{&Ledgers::removeBill, &Ledgers::removeDebt, &Ledgers::removeGoal,
+                             &Ledgers::removeNontrack, &Ledgers::removeWage};
+constexpr std::array processes{&Ledgers::processBill, &Ledgers::processDebt, &Ledgers::processGoal,
+                               &Ledgers::processNontrack, &Ledgers::processWage};
+constexpr std::array skips{&Ledgers::skipBill, &Ledgers::skipDebt, &Ledgers::skipGoal,
+                           &Ledgers::skipNontrack, &Ledgers::skipWage};
+
 /// The books after a bill Rent and a wage Work were added as 6 and 7.
 struct PostingBooks : Books {
     PostingBooks()
@@ -167,13 +177,13 @@ private slots:
         forKind([]<typename T>(std::type_identity<T>) {
             Books books;
             books.add<T>("Rent");
-            books.items.rename<T>(source("Rent"), source("Flat"), std::nullopt);
+            (books.items.*byKind<T>(renames))(source("Rent"), source("Flat"), std::nullopt);
             QCOMPARE(books.items.budgetAccountCode<T>(source("Flat")),
                      code(6, "Flat [Budget Item]"));
             QCOMPARE(books.budget.items<T>().sources(), std::set{source("Flat")});
             QCOMPARE(books.items.budgetAccountCodes().size(), 1u);
 
-            books.items.rename<T>(source("Flat"), source("Home"), no(60));
+            (books.items.*byKind<T>(renames))(source("Flat"), source("Home"), no(60));
             QCOMPARE(books.items.budgetAccountCode<T>(source("Home")),
                      code(60, "Home [Budget Item]"));
             QVERIFY(!books.ledger.hasLedger(no(6)));
@@ -181,15 +191,15 @@ private slots:
             books.add<T>("Water");
             QCOMPARE(refusal(books,
                              [&] {
-                                 books.items.rename<T>(source("Home"), source("Water"),
-                                                       std::nullopt);
+                                 (books.items.*byKind<T>(renames))(source("Home"), source("Water"),
+                                                                   std::nullopt);
                              }),
                      u"item Home: Cannot rename the budgeted money item source, as the new source, "
                      u"Water, already exists.");
             QCOMPARE(refusal(books,
                              [&] {
-                                 books.items.rename<T>(source("Rent"), source("Flat"),
-                                                       std::nullopt);
+                                 (books.items.*byKind<T>(renames))(source("Rent"), source("Flat"),
+                                                                   std::nullopt);
                              }),
                      u"item Rent: Cannot rename the budgeted money item source as it does not "
                      u"exist.");
@@ -221,19 +231,19 @@ private slots:
             Books books;
             const State before = stateOf(books);
             books.add<T>("Rent");
-            books.items.remove<T>(source("Rent"));
+            (books.items.*byKind<T>(removes))(source("Rent"));
             QCOMPARE(books.budget, before.budget);
             QCOMPARE(books.items.budgetAccountCodes(), before.codes);
             QVERIFY(!books.ledger.hasLedger(no(6)));
             QCOMPARE(
-                refusal(books, [&] { books.items.remove<T>(source("Rent")); }),
+                refusal(books, [&] { (books.items.*byKind<T>(removes))(source("Rent")); }),
                 QStringLiteral("item Rent: Cannot remove a %1 that does not exist.").arg(word<T>));
 
             const AccountNumber own = books.add<T>("Rent").number();
             books.spend(own, (std::same_as<T, Debt>) ? "30" : "20");
             const QString withBalance = refusal(books, [&] {
                 if (isTied<T>)
-                    books.items.remove<T>(source("Rent"));
+                    (books.items.*byKind<T>(removes))(source("Rent"));
             });
             if (isTied<T>) {
                 QCOMPARE(withBalance,
@@ -242,7 +252,7 @@ private slots:
                 books.ledger.post(std::same_as<T, Debt> ? transfer(own, no(1), usd("70"))
                                                         : transfer(no(1), own, usd("20")));
             }
-            books.items.remove<T>(source("Rent"));
+            (books.items.*byKind<T>(removes))(source("Rent"));
             QVERIFY(books.ledger.ledger(own).isClosed());
             QVERIFY(books.items.isEmpty());
             QVERIFY(books.budget.isEmpty());
@@ -359,8 +369,8 @@ private slots:
         forKind([]<typename T>(std::type_identity<T>) {
             Books books;
             const AccountCode own = books.add<T>("Rent");
-            const auto number = books.items.process<T>(source("Rent"), code(1, "Checking"),
-                                                       usd("10.005"), day("2026-02-02"));
+            const auto number = (books.items.*byKind<T>(processes))(
+                source("Rent"), code(1, "Checking"), usd("10.005"), day("2026-02-02"));
             const auto posted = books.ledger.lookUpTransaction(number).value();
             const bool isWage = std::same_as<T, Wage>;
             QCOMPARE(posted.debiting().number(), isWage ? no(1) : own.number());
@@ -372,10 +382,11 @@ private slots:
             QCOMPARE(books.budget.items<T>().at(source("Rent")).nextOccurOn(), day("2026-02-28"));
 
             const accounting::GeneralLedger before = books.ledger;
-            books.items.skip<T>(source("Rent"));
+            (books.items.*byKind<T>(skips))(source("Rent"));
             QCOMPARE(books.budget.items<T>().at(source("Rent")).nextOccurOn(), day("2026-03-31"));
             QCOMPARE(books.ledger, before);
-            QCOMPARE(refusal(books, [&] { books.items.skip<T>(source("Flat")); }), u"out of range");
+            QCOMPARE(refusal(books, [&] { (books.items.*byKind<T>(skips))(source("Flat")); }),
+                     u"out of range");
         });
     }
 

@@ -148,6 +148,13 @@ void forKind(Test &&test)
 template <budgeting::BudgetItem T>
 const QString word = QString::fromLatin1(budgeting::ItemTraits<T>::word);
 
+/// What a list in the order of the kinds holds for this one.
+template <budgeting::BudgetItem T, typename List>
+constexpr auto byKind(const List &list)
+{
+    return list[static_cast<std::size_t>(budgeting::ItemTraits<T>::type) - 1];
+}
+
 template <budgeting::BudgetItem T>
 constexpr bool isTied = budgeting::BankTiedItem<T>;
 
