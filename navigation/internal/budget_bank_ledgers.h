@@ -255,13 +255,13 @@ public:
     [[nodiscard]] surveying::MappingSurvey
     createMapSurvey(const BankName &bank, const AccountNumber &number, const QDate &date) const;
     /// See finaliseSurvey.
-    surveying::CompletedSurvey completedSurvey(
-        const QDate &date, const BankAccount &account, const Money &balance,
-        const std::set<TransactionNumber> &reconciled,
-        const surveying::IndexedIncreaseDecreases<BudgetItemIdentifier> &budgetChanges,
-        const surveying::IndexedIncreaseDecreases<AccountNumber> &accountChanges,
-        const std::map<BudgetItemIdentifier, surveying::DistributedAmount> &distribution,
-        const Money &nonDistributed, const foundation::Percentage &window);
+    surveying::CompletedSurvey
+    completedSurvey(const QDate &date, const BankAccount &account, const Money &balance,
+                    const std::set<TransactionNumber> &reconciled,
+                    const surveying::IndexedIncreaseDecreases<BudgetItemIdentifier> &budgetChanges,
+                    const surveying::IndexedIncreaseDecreases<AccountNumber> &accountChanges,
+                    const surveying::Distribution &distribution, const Money &nonDistributed,
+                    const foundation::Percentage &window);
 
     friend KIV_NAVIGATION_EXPORT bool operator==(const BudgetBankLedgers &a,
                                                  const BudgetBankLedgers &b);

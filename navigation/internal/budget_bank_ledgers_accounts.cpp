@@ -2,7 +2,9 @@
 #include "navigation/internal/budget_bank_ledgers.h"
 
 #include "navigation/internal/faults.h"
+#include "navigation/internal/finalise_survey.h"
 #include "navigation/internal/logging.h"
+#include "navigation/internal/map_survey.h"
 
 namespace kiv::navigation::internal {
 
@@ -159,6 +161,31 @@ banking::ReconciledBalance BudgetBankLedgers::lastReconciliation(const AccountNu
     }
     qInfo() << "Account" << account.code() << "Never Reconciled";
     return {Money(currency), std::nullopt, currency};
+}
+
+surveying::MappingSurvey BudgetBankLedgers::createMapSurvey(const BankName &bank,
+                                                            const AccountNumber &number,
+                                                            const QDate &date) const
+{
+    if (!m_banks.hasBank(bank))
+        throw faults::surveyedBankDoesNotExist(bank);
+    if (!m_generalLedger.hasLedger(number))
+        throw faults::surveyedAccountDoesNotExist(number);
+    const BankAccountTypes type = m_banks.bank(bank).accounts().at(number);
+    return generateMapSurvey({bank, {number, type}}, date, m_banks, m_surveys, m_budgetLedgers);
+}
+
+surveying::CompletedSurvey BudgetBankLedgers::completedSurvey(
+    const QDate &date, const BankAccount &account, const Money &balance,
+    const std::set<TransactionNumber> &reconciled,
+    const surveying::IndexedIncreaseDecreases<BudgetItemIdentifier> &budgetChanges,
+    const surveying::IndexedIncreaseDecreases<AccountNumber> &accountChanges,
+    const surveying::Distribution &distribution, const Money &nonDistributed,
+    const foundation::Percentage &window)
+{
+    return finaliseSurvey(date, account, balance, reconciled, budgetChanges, accountChanges,
+                          distribution, nonDistributed, window, m_budgetLedgers, m_bankLedgers,
+                          m_surveys, m_generalLedger);
 }
 
 } // namespace kiv::navigation::internal

@@ -338,8 +338,96 @@ AccountError goalNeedsAccount(const AccountCode &goal)
 
 AccountError goalIsReconciled(const AccountCode &goal)
 {
-    return {goal,
-            QObject::tr("Cannot change a goal’s bank account once it has been reconciled.")};
+    return {goal, QObject::tr("Cannot change a goal’s bank account once it has been reconciled.")};
+}
+
+// ---- surveys -------------------------------------------------------------------
+
+BankError surveyedBankDoesNotExist(const BankName &bank)
+{
+    return {bank, QObject::tr("Cannot perform a mapping survey upon a bank that does not exist.")};
+}
+
+AccountError surveyedAccountDoesNotExist(AccountNumber number)
+{
+    return {AccountCode(number, std::nullopt),
+            QObject::tr("Cannot perform a mapping survey upon an account that does not exist.")};
+}
+
+AccountError surveyedBankAccountDoesNotExist(AccountNumber number)
+{
+    return {AccountCode(number, std::nullopt),
+            QObject::tr("Cannot map a survey for a bank account that does not exist.")};
+}
+
+SurveyError surveyInFuture(const BankAccount &account, const QDate &date)
+{
+    return {account, QObject::tr("Cannot perform a mapping survey for a future date, %1.")
+                         .arg(foundation::presentationText(date))};
+}
+
+SurveyError surveyedAccountNotInvolved(const BankAccount &account,
+                                       const accounting::Transaction &transaction)
+{
+    return {account,
+            QObject::tr("Failed to determine the bank account involved in the additional "
+                        "transaction %1.")
+                .arg(presentationText(transaction.number().value_or(TransactionNumber())))};
+}
+
+SurveyError tickedElsewhere(const BankAccount &account, TransactionNumber number)
+{
+    return {account, QObject::tr("The transaction %1 is not in the bank account ledger nor one of "
+                                 "its children.")
+                         .arg(presentationText(number))};
+}
+
+SurveyError tickedAfterSurvey(const BankAccount &account, TransactionNumber number,
+                              const QDate &postedOn, const QDate &surveyedOn)
+{
+    return {account, QObject::tr("The posting date for transaction %1 is %2 which is after the "
+                                 "survey date, %3.")
+                         .arg(presentationText(number), foundation::presentationText(postedOn),
+                              foundation::presentationText(surveyedOn))};
+}
+
+SurveyError surveyedTypeUnknown(const BankAccount &account)
+{
+    return {account,
+            QObject::tr("The surveying bank account is neither an asset nor a liability!")};
+}
+
+SurveyError balanceOutsideWindow(const BankAccount &account, const numira::Money &calculated,
+                                 const foundation::Percentage &window, const numira::Money &balance)
+{
+    return {account, QObject::tr("The calculated budget item transaction total, '%1', must be "
+                                 "within %2 of the reconciled current balance, '%3'.")
+                         .arg(foundation::presentationText(calculated), presentationText(window),
+                              foundation::presentationText(balance))};
+}
+
+SurveyError cannotBeDistributed(const BankAccount &account, const BudgetItemIdentifier &id)
+{
+    return {account,
+            QObject::tr("The budget item %1 cannot be distributed.").arg(presentationText(id))};
+}
+
+SurveyError goalDistributedByHand(const BankAccount &account, const BudgetItemIdentifier &goal)
+{
+    return {account, QObject::tr("Cannot manually distribute into the goal '%1'.")
+                         .arg(presentationText(goal.source))};
+}
+
+SurveyError changedItemHasNoAccount(const BankAccount &account, const BudgetItemIdentifier &id)
+{
+    return {account, QObject::tr("The budget item '%1' has no account code associated with it.")
+                         .arg(presentationText(id))};
+}
+
+accounting::TransactionError reconciledTransactionMissing(TransactionNumber number)
+{
+    return {number,
+            QObject::tr("Failed to locate the reconciled transaction to determine its kind!")};
 }
 
 } // namespace kiv::navigation::internal::faults

@@ -106,4 +106,25 @@ BankError debtTakesNoAccount(const BankName &bank);
 AccountError goalNeedsAccount(const AccountCode &goal);
 AccountError goalIsReconciled(const AccountCode &goal);
 
+// ---- surveys -------------------------------------------------------------------
+
+BankError surveyedBankDoesNotExist(const BankName &bank);
+AccountError surveyedAccountDoesNotExist(AccountNumber number);
+AccountError surveyedBankAccountDoesNotExist(AccountNumber number);
+SurveyError surveyInFuture(const BankAccount &account, const QDate &date);
+SurveyError surveyedAccountNotInvolved(const BankAccount &account,
+                                       const accounting::Transaction &transaction);
+
+SurveyError tickedElsewhere(const BankAccount &account, TransactionNumber number);
+SurveyError tickedAfterSurvey(const BankAccount &account, TransactionNumber number,
+                              const QDate &postedOn, const QDate &surveyedOn);
+SurveyError surveyedTypeUnknown(const BankAccount &account);
+SurveyError balanceOutsideWindow(const BankAccount &account, const numira::Money &calculated,
+                                 const foundation::Percentage &window,
+                                 const numira::Money &balance);
+SurveyError cannotBeDistributed(const BankAccount &account, const BudgetItemIdentifier &id);
+SurveyError goalDistributedByHand(const BankAccount &account, const BudgetItemIdentifier &goal);
+SurveyError changedItemHasNoAccount(const BankAccount &account, const BudgetItemIdentifier &id);
+accounting::TransactionError reconciledTransactionMissing(TransactionNumber number);
+
 } // namespace kiv::navigation::internal::faults
