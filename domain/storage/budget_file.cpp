@@ -61,6 +61,8 @@ public:
     explicit OpenFile(FileTarget target) : m_target(std::move(target)) {}
 
     [[nodiscard]] const FileTarget &target() const noexcept { return m_target; }
+    /// `target` is the same file under another name.
+    void showAs(FileTarget target) { m_target = std::move(target); }
     [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
 
     [[nodiscard]] bool exists() const { return ::access(m_target.path().constData(), F_OK) == 0; }
@@ -157,8 +159,10 @@ BudgetFile::Chosen BudgetFile::choose()
     if (m_chosenPath.isEmpty())
         throw internal::noFileChosen();
     FileTarget target(m_chosenPath);
-    if (m_open && m_open->target().isSameFile(target))
+    if (m_open && m_open->target().isSameFile(target)) {
+        m_open->showAs(std::move(target));
         return {nullptr, m_open.get()};
+    }
     auto other = std::make_unique<OpenFile>(std::move(target));
     OpenFile *const file = other.get();
     return {std::move(other), file};

@@ -128,9 +128,11 @@ bool RowReader::next()
         return false;
     m_column = 0;
     const std::int64_t key = integer(1, std::numeric_limits<std::int64_t>::max());
-    if (key <= m_key || ++m_rows > rowsMax)
+    if (key <= m_key)
         refuse("is out of order");
     m_key = key;
+    if (++m_rows > rowsMax)
+        refuse("is one too many");
     return true;
 }
 

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cerrno>
+#include <functional>
+#include <map>
+#include <string>
+
+/// Stands between the libraries and the system: a program that includes this
+/// file answers their file calls itself, and can let one of them fail.
+namespace kiv::test {
+
+struct FailingCalls {
+    bool isOn = false;
+    std::map<std::string, int> counts; ///< how often each call was made
+
+    std::string name; ///< the call that fails
+    int from = 0;     ///< at its so-manieth time, from 1
+    int times = 0;    ///< and so many times
+    int error = 0;    ///< with this error; with 0 it lies instead
+
+    [[nodiscard]] bool isChosen(const std::string &call, int count) const
+    {
+        return isOn && call == name && count >= from && count - from < times;
+    }
+};
+
+inline FailingCalls failingCalls;
+
+/// Whether the call that comes next is to lie.
+inline bool lies(const char *call)
+{
+    return failingCalls.error == 0 && failingCalls.isChosen(call, failingCalls.counts[call] + 1);
+}
+
+/// The result of `real`, or a failure.
+template <typename Real>
+auto answer(const char *call, Real real) -> decltype(real())
+{
+    if (!failingCalls.isOn)
+        return real();
+    const int count = ++failingCalls.counts[call];
+    if (failingCalls.error == 0 || !failingCalls.isChosen(call, count))
+        return real();
+    errno = failingCalls.error;
+    return -1;
+}
+
+} // namespace kiv::test

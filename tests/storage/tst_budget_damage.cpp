@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "image_surgery.h"
+#include "random_budget.h"
+#include "scratch_folder.h"
+
+#include "support/message_log.h"
+
+#include <QtTest/QTest>
+
+#include <ctime>
+#include <random>
+
+using namespace kiv;
+using storage::StorageFailure;
+using Data = storage::BudgetStorage::Data;
+using Sql = std::vector<const char *>;
+
+namespace {
+
+Data someBudget(unsigned seed, int steps)
+{
+    std::mt19937 random(seed);
+    return test::RandomBudget(
+               [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); })
+        .make(steps);
+}
+
+/// Two accounts, a transaction and its refund.
+Data smallBudget()
+{
+    Data data;
+    accounting::SequentialAccountNumberGenerator generator;
+    const numira::Currency usd = numira::toCurrency("USD");
+    for (const std::uint32_t number : {1U, 2U})
+        data.generalLedger.add({accounting::AccountTypes::Asset,
+                                {accounting::AccountNumber(number), QStringLiteral("a"), {}},
+                                numira::Money(usd),
+                                false},
+                               generator);
+    const auto posted =
+        data.generalLedger.post({QDate(2026, 1, 1), accounting::AccountNumber(1),
+                                 accounting::AccountNumber(2), numira::Money(usd, 5, 0)});
+    data.generalLedger.refund(posted, numira::Money(usd, 2, 0), QDate(2026, 1, 2));
+    data.budget.bills.add(budgeting::Bill(budgeting::BudgetSource(QStringLiteral("Rent")),
+                                          numira::Money(usd, 5, 0),
+                                          budgeting::EventFrequency::Monthly, QDate(2026, 1, 1)));
+    return data;
+}
+
+} // namespace
+
+class BudgetDamageTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void noFlippedBitAndNoTruncationIsRead();
+    void hostileFilesAreRefusedAtOnce_data();
+    void hostileFilesAreRefusedAtOnce();
+    void aSealThatWasMadeAgainIsRight();
+
+private:
+    test::ScratchFolder m_folder;
+    const QString m_path = m_folder.path(QStringLiteral("a.budget"));
+
+    /// Whether these bytes are refused, or read as what they were.
+    bool isRefusedOrEqual(const QByteArray &bytes, const Data &data)
+    {
+        m_folder.write(QStringLiteral("a.budget"), bytes);
+        try {
+            return test::difference(test::load(m_path), data).isEmpty();
+        } catch (const storage::StorageError &) {
+            return true;
+        }
+    }
+};
+
+void BudgetDamageTest::noFlippedBitAndNoTruncationIsRead()
+{
+    // Many transactions make inner pages as well; the few of the other one are
+    // near each other, so that most flips hit something.
+    for (const auto &[steps, stride] : {std::pair(60, 311), std::pair(3000, 60'013)}) {
+        const Data data = someBudget(7, steps);
+        test::store(m_path, data);
+        const QByteArray whole = m_folder.read(QStringLiteral("a.budget"));
+        QVERIFY(isRefusedOrEqual(whole, data));
+        QVERIFY(!isRefusedOrEqual(whole, Data()));
+        for (qsizetype bit = 0; bit < 8 * whole.size(); bit += bit < 800 ? 1 : stride) {
+            QByteArray flipped = whole;
+            flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
+            if (!isRefusedOrEqual(flipped, data))
+                QFAIL(qPrintable(QStringLiteral("bit %1").arg(bit)));
+        }
+        for (qsizetype size = 0; size < whole.size(); size += 1 + size / 5) {
+            m_folder.write(QStringLiteral("a.budget"), whole.first(size));
+            QVERIFY(test::failureOf([&] { (void)test::load(m_path); }));
+        }
+    }
+}
+
+void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
+{
+    QTest::addColumn<Sql>("sql");
+    QTest::addColumn<StorageFailure>("failure");
+    const auto row = [](const char *name, const Sql &sql,
+                        StorageFailure failure = StorageFailure::Damaged) {
+        QTest::newRow(name) << sql << failure;
+    };
+    row("another program's database", {"PRAGMA application_id = 0"}, StorageFailure::NotOurs);
+    row("newer version", {"PRAGMA user_version = 2"}, StorageFailure::Newer);
+    row("version 0", {"PRAGMA user_version = 0"});
+    row("write-ahead journal", {"PRAGMA journal_mode = WAL"});
+    row("view", {"CREATE VIEW v AS SELECT * FROM accounts"});
+    row("view in a table's place", {"DROP TABLE item_tags; CREATE VIEW item_tags AS WITH RECURSIVE "
+                                    "n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                                    "SELECT i, 1, 'a', 'b' FROM n"});
+    row("trigger", {"CREATE TRIGGER t AFTER INSERT ON accounts BEGIN SELECT 1; END"});
+    row("index", {"CREATE INDEX i ON accounts(name)"});
+    row("virtual table", {"CREATE VIRTUAL TABLE f USING fts5(a)"});
+    row("generated column", {"ALTER TABLE banks ADD COLUMN g TEXT AS (hex(zeroblob(100000000)))"});
+    row("missing table", {"DROP TABLE seal"});
+    row("other types", {"PRAGMA writable_schema = ON; UPDATE sqlite_schema SET "
+                        "sql = replace(sql, 'STRICT', '') WHERE name = 'accounts'"});
+    row("tables exchanged", {"PRAGMA writable_schema = ON; UPDATE sqlite_schema SET rootpage = 3 "
+                             "WHERE name = 'accounts'"});
+    row("no seal", {"DELETE FROM seal"});
+    row("null name in a table that was not strict",
+        {"PRAGMA writable_schema = ON; UPDATE sqlite_schema SET "
+         "sql = replace(replace(sql, 'STRICT', ''), ' NOT NULL', '') WHERE name = 'accounts'",
+         "UPDATE accounts SET name = NULL",
+         "PRAGMA writable_schema = ON; UPDATE sqlite_schema SET sql = 'CREATE TABLE "
+         "accounts(number INTEGER PRIMARY KEY, name TEXT NOT NULL, parent INTEGER, type INTEGER "
+         "NOT NULL, currency TEXT NOT NULL, closed INTEGER NOT NULL, holds_openings INTEGER NOT "
+         "NULL, opened_by INTEGER) STRICT' WHERE name = 'accounts'"});
+
+    row("account under itself", {"UPDATE accounts SET parent = 1 WHERE number = 1"});
+    row("circle of parents", {"UPDATE accounts SET parent = 3 - number WHERE number < 3"});
+    row("missing parent", {"UPDATE accounts SET parent = 9"});
+    row("account number too high", {"UPDATE accounts SET number = 4294967296 WHERE number = 2"});
+    row("account type that is none", {"UPDATE accounts SET type = 6"});
+    row("account type 0", {"UPDATE accounts SET type = 0"});
+    row("currency that is none", {"UPDATE accounts SET currency = 'usd'"});
+    row("closed twice over", {"UPDATE accounts SET closed = 2"});
+    row("opened by a missing transaction", {"UPDATE accounts SET opened_by = 9"});
+    row("malformed text", {"UPDATE accounts SET name = CAST(x'ff' AS TEXT)"});
+    row("overlong text", {"UPDATE accounts SET name = CAST(x'c080' AS TEXT)"});
+    row("surrogates that make a pair",
+        {"UPDATE accounts SET name = CAST(x'eda080edb080' AS TEXT)"});
+    row("missing account", {"UPDATE transactions SET debit = 9"});
+    row("amount with an exponent", {"UPDATE transactions SET amount = '1e1'"});
+    row("negative amount", {"UPDATE transactions SET amount = '-5'"});
+    row("huge amount", {"UPDATE transactions SET amount = '1' || hex(zeroblob(1000000))"});
+    row("side in nothing", {"UPDATE transactions SET debit_amount = '0'"});
+    row("date that is none", {"UPDATE transactions SET date = '2026-02-30'"});
+    row("date with blanks", {"UPDATE transactions SET date = '2026- 2-03'"});
+    row("date of another length", {"UPDATE transactions SET date = '02026-02-03'"});
+    row("status that is none", {"UPDATE transactions SET debit_status = 3"});
+    row("refund of itself", {"UPDATE transactions SET refund_of = number"});
+    row("refund of too much", {"UPDATE transactions SET amount = '6' WHERE number = 2"});
+    row("refund of a refund", {"INSERT INTO transactions SELECT 3, date, credit, debit, amount, "
+                               "currency, NULL, NULL, NULL, 0, 0, 2 FROM transactions LIMIT 1"});
+    row("too many transactions",
+        {"WITH RECURSIVE n(i) AS (SELECT 3 UNION ALL SELECT i + 1 FROM n WHERE i < 65536) INSERT "
+         "INTO transactions SELECT i, '2026-01-01', 1, 2, '1', 'USD', NULL, NULL, NULL, 0, 0, NULL "
+         "FROM n"});
+    row("unknown kind of item", {"UPDATE items SET kind = 6"});
+    row("no kind of item", {"UPDATE items SET kind = 0"});
+    row("total of a bill", {"UPDATE items SET total = '1'"});
+    row("frequency that is none", {"UPDATE items SET frequency = 16"});
+    row("day of the month that is none", {"UPDATE items SET day_of_month = 32"});
+    row("item twice", {"INSERT INTO items SELECT 2, kind, source, amount, currency, frequency, "
+                       "next_date, day_of_month, total, total_currency FROM items"});
+    row("negative row number", {"UPDATE items SET id = -1"});
+    row("account of a missing bank", {"INSERT INTO bank_accounts VALUES(1, 1, 1, 1)"});
+    row("bank without a name", {"INSERT INTO banks VALUES(1, '', 0)"});
+    row("distribution of a missing survey",
+        {"INSERT INTO distributions VALUES(1, 1, 1, 'a', '1', 'USD', NULL, '1', 'USD')"});
+    row("percentage that is none",
+        {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', '1 %', 6)"});
+}
+
+void BudgetDamageTest::hostileFilesAreRefusedAtOnce()
+{
+    QFETCH(Sql, sql);
+    QFETCH(storage::StorageFailure, failure);
+    test::store(m_path, smallBudget());
+    test::operate(m_path, sql);
+    try {
+        test::sealAgain(m_path);
+    } catch (const SQLite::Exception &) {
+        // There is no seal or no table any more.
+    }
+    const QByteArray before = m_folder.read(QStringLiteral("a.budget"));
+    const std::clock_t start = std::clock();
+    QCOMPARE(test::failureOf([&] { (void)test::load(m_path); }), failure);
+    QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
+    QCOMPARE(m_folder.read(QStringLiteral("a.budget")), before);
+    for (const QString &name : m_folder.names())
+        QFile::remove(m_folder.path(name));
+}
+
+void BudgetDamageTest::aSealThatWasMadeAgainIsRight()
+{
+    const MessageLog log; // the item has no account
+    test::store(m_path, smallBudget());
+    test::operate(m_path, Sql{"UPDATE accounts SET name = 'other'"});
+    QCOMPARE(test::failureOf([&] { (void)test::load(m_path); }), StorageFailure::Damaged);
+    test::sealAgain(m_path);
+    QCOMPARE(test::load(m_path).generalLedger.accountCode(accounting::AccountNumber(1)).name(),
+             QStringLiteral("other"));
+}
+
+QTEST_APPLESS_MAIN(BudgetDamageTest)
+#include "tst_budget_damage.moc"

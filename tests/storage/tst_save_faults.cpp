@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "failing_calls.h"
+#include "scratch_folder.h"
+
+#include "support/message_log.h"
+
+#include <QtTest/QTest>
+
+#include <fcntl.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+using namespace kiv;
+using test::failingCalls;
+
+namespace {
+
+const QString name = QStringLiteral("home.budget");
+
+storage::BudgetStorage::Data budget(int version)
+{
+    storage::BudgetStorage::Data data;
+    data.banks.add(banking::Bank(banking::BankName(QString::number(version)), {}, false));
+    return data;
+}
+
+/// The bytes of a version.
+QByteArray bytesOf(int version)
+{
+    static std::map<int, QByteArray> known;
+    QByteArray &bytes = known[version];
+    if (bytes.isEmpty()) {
+        const test::ScratchFolder folder;
+        test::store(folder.path(name), budget(version));
+        bytes = folder.read(name);
+    }
+    return bytes;
+}
+
+/// An open budget of the second version with the first one as its backup, and
+/// with attributes that a new version has to take over.
+struct Desk {
+    Desk()
+    {
+        folder.write(name, bytesOf(2));
+        folder.write(name + QStringLiteral(".backup-1"), bytesOf(1));
+        file.setFilePathName(path);
+        (void)file.load();
+        ::setxattr(qPrintable(path), "user.note", "mine", 4, 0);
+        if (::geteuid() == 0 && ::chown(qPrintable(path), 1234, 5678) != 0)
+            qFatal("The owner cannot be changed.");
+    }
+    void save(int version) { file.store(budget(version)); }
+    void saveCarelessly(int version)
+    {
+        const QByteArray bytes = bytesOf(version);
+        const int opened = ::open(qPrintable(path), O_WRONLY | O_TRUNC);
+        const bool isWritten =
+            ::write(opened, bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size();
+        if (::close(opened) != 0 || !isWritten)
+            throw storage::StorageError(storage::StorageFailure::CannotWrite, path, {});
+    }
+
+    test::ScratchFolder folder;
+    QString path = folder.path(name);
+    storage::BudgetFile file;
+};
+
+using Saver = void (Desk::*)(int);
+
+/// Saves the third version while a call fails, and then, without a fault, the
+/// fourth. Answers with the promise that was broken, or with nothing.
+QString brokenPromise(Saver save, const test::FailingCalls &failing)
+{
+    Desk desk;
+    const QStringList before = desk.folder.names();
+    failingCalls = failing;
+    failingCalls.isOn = true;
+    const auto failure = test::failureOf([&] { (desk.*save)(3); });
+    failingCalls.isOn = false;
+
+    if (desk.folder.read(name) != bytesOf(failure ? 2 : 3))
+        return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
+    const QStringList after = desk.folder.names();
+    if (failure && after != before && failing.name != "unlinkat")
+        return QStringLiteral("left behind: %1").arg(after.join(u' '));
+    if (test::failureOf([&] { desk.save(4); }) || desk.folder.read(name) != bytesOf(4))
+        return QStringLiteral("the next save failed");
+    for (const QString &left : desk.folder.names()) {
+        if (!left.startsWith(name))
+            return QStringLiteral("left for good: %1").arg(left);
+    }
+    return {};
+}
+
+/// Which calls the saver makes, and how often each.
+std::map<std::string, int> callsOf(Saver save)
+{
+    Desk desk;
+    failingCalls = {};
+    failingCalls.isOn = true;
+    (desk.*save)(3);
+    failingCalls.isOn = false;
+    return failingCalls.counts;
+}
+
+/// The first promise that the saver breaks when one of these calls fails with
+/// one of the errors that the system gives, once or for good.
+QString firstBrokenPromise(Saver save, const std::string &call, int count)
+{
+    for (int from = 1; from <= count; ++from) {
+        for (const int error : {ENOSPC, EIO, EACCES, EPERM, EOPNOTSUPP}) {
+            for (const int times : {1, 1000}) {
+                test::FailingCalls failing;
+                failing.name = call;
+                failing.from = from;
+                failing.times = times;
+                failing.error = error;
+                const QString broken = brokenPromise(save, failing);
+                if (!broken.isEmpty())
+                    return QStringLiteral("%1 from the %2. time, %3: %4")
+                        .arg(QString::fromStdString(call), QString::number(from),
+                             qt_error_string(error), broken);
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+/// Lets each file call of a save fail in turn and compares what is left with
+/// what was promised.
+class SaveFaultsTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void aCarelessSaverIsCaught();
+    void everyFailureLeavesAWholeFile_data();
+    void everyFailureLeavesAWholeFile();
+    void lyingCallsAreFoundOut();
+};
+
+void SaveFaultsTest::initTestCase()
+{
+    for (const int version : {1, 2, 3, 4})
+        QVERIFY(!bytesOf(version).isEmpty()); // made before any call fails
+}
+
+void SaveFaultsTest::aCarelessSaverIsCaught()
+{
+    const auto calls = callsOf(&Desk::saveCarelessly);
+    QVERIFY(calls.at("write") == 1);
+    QVERIFY(!firstBrokenPromise(&Desk::saveCarelessly, "write", 1).isEmpty());
+}
+
+void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
+{
+    QTest::addColumn<int>("count");
+    for (const auto &[call, count] : callsOf(&Desk::save))
+        QTest::newRow(call.c_str()) << count;
+}
+
+void SaveFaultsTest::everyFailureLeavesAWholeFile()
+{
+    QFETCH(int, count);
+    const MessageLog log; // saving without a backup is a warning
+    QCOMPARE(firstBrokenPromise(&Desk::save, QTest::currentDataTag(), count), QString());
+}
+
+void SaveFaultsTest::lyingCallsAreFoundOut()
+{
+    const auto lying = [](const char *call) {
+        test::FailingCalls failing;
+        failing.name = call;
+        failing.from = failing.times = 1;
+        return failing;
+    };
+    for (const char *call : {"write", "pread"})
+        QCOMPARE(brokenPromise(&Desk::save, lying(call)), QString());
+
+    Desk desk;
+    failingCalls = lying("pread");
+    failingCalls.isOn = true;
+    const auto failure = test::failureOf([&] { desk.save(3); });
+    failingCalls.isOn = false;
+    QCOMPARE(failure, storage::StorageFailure::CannotWrite);
+}
+
+QTEST_APPLESS_MAIN(SaveFaultsTest)
+#include "tst_save_faults.moc"
