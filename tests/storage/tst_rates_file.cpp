@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "scratch_folder.h"
+
+#include "storage/rates_file.h"
+
+#include <QtTest/QTest>
+
+using namespace kiv;
+using conversion::ConversionMap;
+using storage::RatesFile;
+using storage::StorageFailure;
+
+class RatesFileTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void ratesAreReadAsTheyWereStored();
+    void otherFilesAreRefused_data();
+    void otherFilesAreRefused();
+
+private:
+    static ConversionMap someRates()
+    {
+        // The digits of a third go on for as long as the type has any.
+        return {numira::toCurrency("USD"),
+                QDateTime(QDate(2026, 3, 31), QTime(12, 0, 0, 7), Qt::UTC),
+                {{numira::toCurrency("EUR"), numira::FloatingPoint(1) / 3},
+                 {numira::toCurrency("JPY"), numira::FloatingPoint("151.42")},
+                 {numira::toCurrency("KWD"), numira::FloatingPoint("1e-12")}}};
+    }
+};
+
+void RatesFileTest::ratesAreReadAsTheyWereStored()
+{
+    const test::ScratchFolder folder;
+    RatesFile file(folder.path(u"new/rates"_qs));
+    QVERIFY(!file.exists());
+    QCOMPARE(test::failureOf([&] { (void)file.load(); }), StorageFailure::NotFound);
+    for (const ConversionMap &rates :
+         {someRates(), ConversionMap(),
+          ConversionMap(numira::toCurrency("EUR"), someRates().fetchedAt(), {})}) {
+        file.store(rates);
+        QVERIFY(file.exists());
+        QVERIFY(file.load() == rates);
+    }
+    QCOMPARE(folder.names(), QStringList(u"new"_qs));
+    QCOMPARE(QDir(folder.path(u"new"_qs)).entryList(QDir::Files | QDir::Hidden),
+             QStringList(u"rates"_qs));
+}
+
+void RatesFileTest::otherFilesAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<StorageFailure>("failure");
+    const auto row = [](const char *name, const QByteArray &from, const QByteArray &to,
+                        StorageFailure failure) { QTest::newRow(name) << from << to << failure; };
+    row("another kind", "kiv-exchange-rates", "kiv-exchange", StorageFailure::NotOurs);
+    row("newer", "rates 1", "rates 2", StorageFailure::Newer);
+    row("a rate changed", "151.42", "151.43", StorageFailure::Damaged);
+    row("no checksum", "sha256", "sha", StorageFailure::Damaged);
+    row("something behind it", "\nsha256", "\nsha256 \nsha256", StorageFailure::Damaged);
+}
+
+void RatesFileTest::otherFilesAreRefused()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(StorageFailure, failure);
+    const test::ScratchFolder folder;
+    RatesFile file(folder.path(u"rates"_qs));
+    file.store(someRates());
+    QByteArray bytes = folder.read(u"rates"_qs);
+    QVERIFY(bytes.contains(from));
+    bytes.replace(from, to);
+    folder.write(u"rates"_qs, bytes);
+    QCOMPARE(test::failureOf([&] { (void)file.load(); }), failure);
+    QCOMPARE(folder.read(u"rates"_qs), bytes);
+
+    // Rates can be fetched again, so whatever stands there gives way.
+    file.store(someRates());
+    QVERIFY(file.load() == someRates());
+}
+
+QTEST_APPLESS_MAIN(RatesFileTest)
+#include "tst_rates_file.moc"
