@@ -66,7 +66,7 @@ CurrencyDisplayOptions toCurrencyDisplayOptions(const QString &text)
 
 QString toDisplayable(const numira::Currency &currency, CurrencyDisplayOptions option)
 {
-    const QString code = foundation::toQString(currency);
+    QString code = foundation::toQString(currency);
     switch (option) {
     case CurrencyDisplayOptions::IsoCode:
         return code;

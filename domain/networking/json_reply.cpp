@@ -20,12 +20,12 @@ qsizetype memberCount(const QJsonValue &value)
 {
     qsizetype count = 0;
     if (value.isArray()) {
-        for (const QJsonValue &element : value.toArray())
+        for (const QJsonValue element : value.toArray())
             count += memberCount(element);
     } else if (value.isObject()) {
         const QJsonObject object = value.toObject();
         count += object.size();
-        for (const QJsonValue &member : object)
+        for (const QJsonValue member : object)
             count += memberCount(member);
     }
     return count;
@@ -57,7 +57,7 @@ QJsonDocument readJson(const Response &response)
     if (!isJsonType(response.contentType()))
         throw internal::notJsonType(response.contentType());
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(response.body(), &error);
+    QJsonDocument document = QJsonDocument::fromJson(response.body(), &error);
     if (error.error != QJsonParseError::NoError)
         throw internal::notJson(error.errorString(), error.offset);
     // Qt keeps one of two members of the same name, so that fewer are left

@@ -120,10 +120,10 @@ QString toQString(const SemanticVersion &version)
 {
     QString text =
         QStringLiteral("%1.%2.%3").arg(version.major()).arg(version.minor()).arg(version.patch());
-    if (version.preRelease())
-        text += u'-' + *version.preRelease();
-    if (version.build())
-        text += u'+' + *version.build();
+    if (const auto &preRelease = version.preRelease())
+        text += u'-' + *preRelease;
+    if (const auto &build = version.build())
+        text += u'+' + *build;
     return text;
 }
 

@@ -14,7 +14,7 @@ namespace kiv::networking::internal {
 namespace {
 
 /// What Qt may hold of a body before we take it.
-constexpr qint64 readBufferSize = 64 * 1024;
+constexpr qint64 readBufferSize = qint64{64} * 1024;
 constexpr int statusOk = 200;
 
 QNetworkRequest makeRequest(const QUrl &url)

@@ -48,7 +48,7 @@ Releases readReleases(const networking::Response &response)
         throw notAListOfReleases();
     Releases releases;
     std::optional<UpdateError> refusal;
-    for (const QJsonValue &release : list.array()) {
+    for (const QJsonValue release : list.array()) {
         try {
             releases.insert(readRelease(release.toObject()));
         } catch (const UpdateError &error) {
