@@ -1,0 +1,391 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/internal/map_survey.h"
+
+#include "navigation/internal/surveyed_changes.h"
+
+#include "support/comparison.h"
+#include "support/message_log.h"
+#include "support/navigation.h"
+
+using namespace kiv;
+using namespace kiv::test;
+using accounting::Transaction;
+using budgeting::Bill;
+using budgeting::Debt;
+using budgeting::EventFrequency;
+using budgeting::Goal;
+using budgeting::Nontrack;
+using budgeting::Wage;
+using surveying::MappingSurvey;
+using enum BankAccountTypes;
+
+namespace {
+
+/// The books with
+/// 6 Rent, a monthly bill of 10; 7 Tax, a yearly bill of 120 due 2026-03-31;
+/// 8 Work, a wage; 9 Trip, a goal of 100 under Checking, to which 10 a month go.
+struct SurveyBooks : Books {
+    surveying::CompletedSurveys completed;
+    QDate today = day("2026-03-31");
+
+    SurveyBooks()
+    {
+        add<Bill>("Rent");
+        items.add(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, day("2026-03-31")),
+                  *generator);
+        add<Wage>("Work");
+        add<Goal>("Trip");
+        putBelow(9, "Trip [Budget Item]", 1);
+    }
+    void putBelow(std::uint32_t number, const char *name, std::uint32_t parent)
+    {
+        ledger.recode(code(number, name), code(number, name, no(parent)));
+    }
+    accounting::TransactionNumber post(std::uint32_t debit, std::uint32_t credit,
+                                       const char *amount, const char *date = "2026-03-15")
+    {
+        return ledger.post(transfer(no(debit), no(credit), usd(amount), day(date)));
+    }
+    [[nodiscard]] MappingSurvey surveyOf(const BankAccount &account,
+                                         const char *date = "2026-03-31") const
+    {
+        return generateMapSurvey(account, day(date), banks, completed, items, today);
+    }
+    [[nodiscard]] MappingSurvey checking(const char *date = "2026-03-31") const
+    {
+        return surveyOf(at("First", 1, Checking), date);
+    }
+};
+
+using Change = std::function<void(SurveyBooks &)>;
+
+/// "Rent -1 +2, Tax -3", without the keys that have no changes.
+template <typename Changes, typename Name>
+QString told(const Changes &changes, const Name &name)
+{
+    QStringList all;
+    for (const auto &[key, entries] : changes) {
+        QString one = name(key);
+        for (const auto &entry : entries) {
+            one += QLatin1String(entry.isIncrease() ? " +" : " -") +
+                   presentationText(entry.transaction().number().value_or(txn(0)));
+        }
+        if (!entries.empty())
+            all.append(one);
+    }
+    return all.join(u", ");
+}
+
+/// "balance; changes by item; by account; what is set aside".
+QString told(const MappingSurvey &survey)
+{
+    QStringList aside;
+    for (const auto &[id, amount] : survey.distributions())
+        aside.append(id.source.name() + u' ' + dump(amount.distributed()).chopped(4));
+    const auto itemName = [](const auto &id) { return id.source.name(); };
+    const auto accountName = [](const auto &code) { return code.name(); };
+    return QStringLiteral("%1; %2; %3; %4")
+        .arg(dump(survey.expectedBalance()).chopped(4), told(survey.budgetItemChanges(), itemName),
+             told(survey.accountChanges(), accountName), aside.join(u", "));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+class MapSurveyTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void isRefused()
+    {
+        SurveyBooks books;
+        QCOMPARE(answer([&] { (void)books.surveyOf(at("Third", 77, Checking), "2026-04-01"); }),
+                 u"bank Third: Cannot perform a mapping survey upon a bank that does not exist.");
+        QCOMPARE(answer([&] { (void)books.surveyOf(at("First", 77, Checking), "2026-04-01"); }),
+                 u"survey First 77 (checking): Cannot perform a mapping survey for a future date, "
+                 u"2026-04-01.");
+        QCOMPARE(answer([&] { (void)books.surveyOf(at("First", 77, Checking)); }),
+                 u"account 77: Cannot map a survey for a bank account that does not exist.");
+
+        const BudgetBankLedgers all = whole(books);
+        const auto create = [&](const char *name, std::uint32_t number, const QDate &date) {
+            return answer([&] { (void)all.createMapSurvey(bank(name), no(number), date); });
+        };
+        const QDate today = foundation::today();
+        QCOMPARE(create("First", 1, today), u"accepted");
+        QVERIFY(create("First", 1, today.addDays(1)).startsWith(u"survey First 1 (checking): "));
+        QCOMPARE(create("Third", 77, today),
+                 u"bank Third: Cannot perform a mapping survey upon a bank that does not exist.");
+        QCOMPARE(create("First", 77, today),
+                 u"account 77: Cannot perform a mapping survey upon an account that does not "
+                 u"exist.");
+        QCOMPARE(create("Second", 1, today), u"out of range");
+    }
+
+    void changesCountFromTheLastReconciliation()
+    {
+        SurveyBooks books;
+        QCOMPARE(books.checking("2026-03-31").startOn(), day("2026-02-01"));
+        QCOMPARE(books.checking("2026-01-01").startOn(), day("2025-12-01"));
+        QCOMPARE(
+            books.checking().reconciled(),
+            banking::ReconciledBankAccount(at("First", 1, Checking), numira::toCurrency("USD")));
+        books.ledger.add({AccountTypes::Asset, code(20, "Purse"), usd("5"), false},
+                         *books.generator, day("2026-03-10"));
+        books.banks.add(bank("First"), no(20), Cash);
+        QCOMPARE(books.surveyOf(at("First", 20, Cash)).startOn(), day("2026-03-09"));
+        books.completed.upsert(survey(at("First", 1, Checking)));
+        QCOMPARE(books.checking().startOn(), day("2026-01-31"));
+        QCOMPARE(books.checking().expectedBalance(), usd("100"));
+    }
+
+    // ---- transactions ----------------------------------------------------------
+
+    void transactionsAreSorted_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<bool>("isCard");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char *name, Change change, const char *expected) {
+            QTest::newRow(name) << change << (expected[0] == 'c')
+                                << QString::fromLatin1(expected + (expected[0] == 'c' ? 1 : 0));
+        };
+        // A month passed: 10 were put aside for the tax. Nothing lies in the goal's account.
+        row(
+            "nothing", [](auto &) {}, "0.00; ; ; Tax 10.00, Trip 0.00");
+        row(
+            "paid to an account", [](auto &b) { b.post(5, 1, "7"); },
+            "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
+        row(
+            "received from an account", [](auto &b) { b.post(1, 5, "7"); },
+            "7.00; ; Food +1; Tax 10.00, Trip 0.00");
+        row(
+            "on the day of the survey", [](auto &b) { b.post(5, 1, "7", "2026-03-31"); },
+            "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
+        row(
+            "after the day of the survey", [](auto &b) { b.post(5, 1, "7", "2026-04-01"); },
+            "0.00; ; ; Tax 10.00, Trip 0.00");
+        row(
+            "reconciled here", [](auto &b) { b.ledger.reconcile(b.post(5, 1, "7"), no(1)); },
+            "0.00; ; ; Tax 10.00, Trip 0.00");
+        row(
+            "reconciled on the other side only",
+            [](auto &b) { b.ledger.reconcile(b.post(5, 1, "7"), no(5)); },
+            "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
+        row(
+            "paid for a monthly bill", [](auto &b) { b.post(6, 1, "7"); },
+            "-7.00; Rent -1; ; Tax 10.00, Trip 0.00");
+        row(
+            "wage", [](auto &b) { b.post(1, 8, "7"); }, "7.00; Work +1; ; Tax 10.00, Trip 0.00");
+        row(
+            "paid for a bill to save for", [](auto &b) { b.post(7, 1, "7"); },
+            "-7.00; Tax -1; ; Tax 17.00, Trip 0.00");
+        row(
+            "received back from a bill to save for", [](auto &b) { b.post(1, 7, "7"); },
+            "7.00; Tax +1; ; Tax 3.00, Trip 0.00");
+        row(
+            "to an account below", [](auto &b) { b.post(2, 1, "7"); },
+            "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00");
+        row(
+            "from an account below", [](auto &b) { b.post(1, 2, "7"); },
+            "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00");
+        row(
+            "into a goal below", [](auto &b) { b.post(9, 1, "7"); },
+            "0.00; Trip -1; ; Tax 10.00, Trip 7.00");
+        row(
+            "paid from an account below", [](auto &b) { b.post(5, 2, "7"); },
+            "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
+        row(
+            "paid from a goal below, for a bill to save for", [](auto &b) { b.post(7, 9, "7"); },
+            "-7.00; Tax -1; ; Tax 17.00, Trip -7.00");
+        row(
+            "between two accounts below", [](auto &b) { b.post(9, 2, "7"); },
+            "0.00; Trip -1; Savings +1; Tax 10.00, Trip 7.00");
+        row(
+            "charged to a card", [](auto &b) { b.post(5, 3, "7"); }, "c7.00; ; Food +1; ");
+        row(
+            "card paid off", [](auto &b) { b.post(3, 1, "7"); }, "c-7.00; ; Checking -1; ");
+        row(
+            "bill charged to a card", [](auto &b) { b.post(7, 3, "7"); }, "c7.00; Tax +1; ; ");
+        row(
+            "account below a card charged",
+            [](auto &b) {
+                b.putBelow(4, "Loan", 3);
+                b.post(5, 4, "7");
+            },
+            "c7.00; ; Food +1; ");
+        row(
+            "set aside before",
+            [](auto &b) {
+                b.completed.upsert(survey(at("First", 1, Checking), {id<Bill>("Tax")}));
+            },
+            "100.00; ; ; Tax 25.00, Trip 0.00");
+        row(
+            "set aside at another account",
+            [](auto &b) { b.completed.upsert(survey(at("First", 1, Savings), {id<Bill>("Tax")})); },
+            "100.00; ; ; Trip 0.00");
+        row(
+            "goal below another account", [](auto &b) { b.putBelow(9, "Trip [Budget Item]", 2); },
+            "0.00; ; ; Tax 10.00");
+        row(
+            "bill below this account",
+            [](auto &b) {
+                b.ledger.add({AccountTypes::Asset, code(50, "Pot", no(1)), usd("0"), false},
+                             *b.generator);
+                b.putBelow(9, "Trip [Budget Item]", 50);
+                b.post(9, 1, "7");
+            },
+            "-7.00; Trip -1; ; Tax 10.00");
+    }
+    void transactionsAreSorted()
+    {
+        QFETCH(Change, change);
+        QFETCH(bool, isCard);
+        SurveyBooks books;
+        change(books);
+        const State before = stateOf(books);
+        const MappingSurvey survey =
+            isCard ? books.surveyOf(at("First", 3, CreditCard)) : books.checking();
+        QTEST(told(survey), "expected");
+        QCOMPARE(survey.budgetItemChanges().size(), 4u);
+        QCOMPARE(survey.amountDue().has_value(), !isCard);
+        QCOMPARE(stateOf(books), before);
+    }
+
+    void whatTheLedgerNeverGives()
+    {
+        SurveyBooks books;
+        books.items.add(item<Goal>("Rome"), *books.generator); // 10
+        const SurveyedAccounts accounts{at("First", 1, Checking), {no(2), no(9)}};
+        const SurveyedAccounts card{at("First", 3, CreditCard), {}};
+        const auto numbered = [](std::uint32_t debit, std::uint32_t credit) {
+            return transfer(no(debit), no(credit), usd("7")).withNumber(txn(3));
+        };
+        const auto itemName = [](const auto &id) { return id.source.name(); };
+
+        // Money that leaves one goal's account for another moves on both goals.
+        SurveyedChanges changes(accounts, books.items, usd("0"));
+        changes.add(numbered(10, 9), no(9));
+        QCOMPARE(changes.distribution[id<Goal>("Rome")].distributed(), usd("7"));
+        QCOMPARE(changes.distribution[id<Goal>("Trip")].distributed(), usd("-7"));
+        changes.add(numbered(9, 10), no(9));
+        QCOMPARE(changes.distribution[id<Goal>("Rome")].distributed(), usd("0"));
+        QCOMPARE(changes.distribution[id<Goal>("Trip")].distributed(), usd("0"));
+
+        // A transaction that is in neither account lowers the balance.
+        SurveyedChanges strange(accounts, books.items, usd("0"));
+        strange.add(numbered(6, 5), no(2));
+        QCOMPARE(strange.expectedBalance(), usd("-7"));
+        QCOMPARE(told(strange.budgetItemChanges, itemName), u"Rent -3");
+        QCOMPARE(answer([&] { strange.add(numbered(5, 6), no(2)); }),
+                 u"survey First 1 (checking): Failed to determine the bank account involved in the "
+                 u"additional transaction 3.");
+        SurveyedChanges strangeCard(card, books.items, usd("0"));
+        strangeCard.add(numbered(5, 6), no(3));
+        QCOMPARE(strangeCard.expectedBalance(), usd("-7"));
+        QCOMPARE(told(strangeCard.budgetItemChanges, itemName), u"Rent -3");
+    }
+
+    void amountsCountInTheCurrencyOfTheirAccount()
+    {
+        installRates();
+        SurveyBooks books;
+        books.items.update(item<Bill>("Tax", money("EUR", "120"), EventFrequency::Yearly),
+                           *books.generator);
+        books.ledger.post(transfer(no(7), no(1), money("EUR", "5"), day("2026-03-15")));
+        numira::setUpLibrary({}, "en_US", numira::ShouldAllowFallback::Yes);
+        QCOMPARE(books.checking().expectedBalance(), usd("-10"));
+        QCOMPARE(books.checking().distributions().at(id<Bill>("Tax")).distributed(),
+                 money("EUR", "15"));
+    }
+
+    // ---- what is expected and due ----------------------------------------------
+
+    void anItemIsExpectedForEveryOccurrence_data()
+    {
+        QTest::addColumn<QDate>("next");
+        QTest::addColumn<numira::Money>("expected");
+        QTest::newRow("a part of one") << day("2026-09-30") << usd("120");
+        QTest::newRow("on the day") << day("2026-03-30") << usd("120");
+        QTest::newRow("one") << day("2027-03-30") << usd("120");
+        QTest::newRow("one and a half") << day("2027-09-30") << usd("180");
+        QTest::newRow("one and a half missed") << day("2024-09-30") << usd("180");
+    }
+    void anItemIsExpectedForEveryOccurrence()
+    {
+        QFETCH(QDate, next);
+        SurveyBooks books;
+        books.items.update(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, next),
+                           *books.generator);
+        // Of a goal it is the target that is expected.
+        books.items.update(item<Goal>("Trip", usd("9"), EventFrequency::Yearly, next, usd("120")),
+                           *books.generator);
+        const surveying::Distribution proposed = books.checking("2026-03-30").distributions();
+        for (const auto &item : {id<Bill>("Tax"), id<Goal>("Trip")}) {
+            QCOMPARE(proposed.at(item).nextOccurOn(), next);
+            QTEST(proposed.at(item).expected(), "expected");
+        }
+    }
+
+    void monthsAddUpSinceTheLastReconciliation()
+    {
+        SurveyBooks books;
+        books.completed.upsert(survey(at("First", 1, Checking), {id<Bill>("Tax")}));
+        const auto aside = [&](const char *date) {
+            books.today = day(date);
+            return books.checking(date).distributions().at(id<Bill>("Tax")).distributed();
+        };
+        QCOMPARE(aside("2025-12-31"), usd("5"));
+        QCOMPARE(aside("2026-01-31"), usd("5"));
+        QCOMPARE(aside("2026-02-01"), usd("15"));
+        QCOMPARE(aside("2026-04-30"), usd("35"));
+    }
+
+    void whatIsDueEachMonthIsSummedUp()
+    {
+        SurveyBooks books;
+        const auto due = [&](const char *date, const char *today) {
+            books.today = day(today);
+            return books.checking(date).amountDue();
+        };
+        const auto add = [&](auto item) { books.items.add(std::move(item), *books.generator); };
+        add(item<Debt>("Car", usd("2"), EventFrequency::Monthly, day("2026-02-27")));
+        add(item<Nontrack>("Fun", usd("4"), EventFrequency::Monthly, day("2026-03-01")));
+        add(item<Nontrack>("Food2", usd("400"), EventFrequency::Weekly, day("2026-02-20")));
+        // The bill Rent and the goal Trip are due since January, the wage does not count.
+        QCOMPARE(due("2026-02-20", "2026-02-20"), usd("22"));
+        QCOMPARE(due("2026-02-20", "2026-02-21"), usd("26")); // the days count from today
+        QCOMPARE(due("2026-02-28", "2026-02-28"), usd("22"));
+        QCOMPARE(due("2026-01-30", "2026-01-30"), usd("20"));
+        QCOMPARE(due("2025-12-31", "2025-12-31"), usd("0"));
+    }
+
+    void theWayIsLogged()
+    {
+        SurveyBooks books;
+        books.items.removeWage(source("Work"));
+        books.items.removeGoal(source("Trip"));
+        books.post(5, 1, "7");
+        books.post(5, 2, "7");
+        books.completed.upsert(survey(at("First", 1, Savings), {id<Bill>("Tax")}));
+        MessageLog log;
+        (void)books.checking();
+        QCOMPARE(log.text(),
+                 u"Generating mapping survey for First 1 (checking) on QDate(\"2026-03-31\")\n"
+                 "Calculating expected balance from QDate(\"2026-01-31\")\n"
+                 "It has been 2 since the last reconciliation calculation.\n"
+                 "There are 1 children under the bank account.\n"
+                 "Ignoring non-distributable budget item Rent (bill)\n"
+                 "Will remove distributable budget item Tax (bill) as it's already distributed in "
+                 "another bank account.\n"
+                 "Processing bank ledger transactions.\n"
+                 "Processing ledger transaction # 1\n"
+                 "Processing child ledger 2\n"
+                 "Processing child ledger transaction # 2");
+        QCOMPARE(log.debugs().size(), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(MapSurveyTest)
+#include "tst_map_survey.moc"
