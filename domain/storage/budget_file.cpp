@@ -36,6 +36,16 @@ auto withContent(Work work, ToError toError)
     }
 }
 
+/// The file's content, which was loaded once on trial: nothing is worse than a
+/// file that was saved and cannot be opened.
+internal::Image encodedSafely(const BudgetStorage::Data &data)
+{
+    internal::Image image = internal::encodeBudget(data);
+    QStringList mended;
+    (void)internal::decodeBudget(image.bytes(), mended);
+    return image;
+}
+
 void refuseOtherThanBudget(const FileTarget &target, FileKind kind)
 {
     switch (kind) {
@@ -196,7 +206,7 @@ void BudgetFile::store(const Data &data)
     auto backOnFailure = qScopeGuard([this] { goBack(); });
     Chosen chosen = choose();
     const internal::Image image = withContent(
-        [&] { return internal::encodeBudget(data); },
+        [&] { return encodedSafely(data); },
         [this](const std::exception &cause) { return internal::cannotHold(m_chosenPath, cause); });
     chosen.file->lock();
     // The name may lead to another file than before, when it is a link.

@@ -78,7 +78,7 @@ void BudgetDamageTest::noFlippedBitAndNoTruncationIsRead()
 {
     // Many transactions make inner pages as well; the few of the other one are
     // near each other, so that most flips hit something.
-    for (const auto &[steps, stride] : {std::pair(60, 311), std::pair(3000, 60'013)}) {
+    for (const auto &[steps, stride] : {std::pair(60, 311), std::pair(1000, 30'013)}) {
         const Data data = someBudget(7, steps);
         test::store(m_path, data);
         const QByteArray whole = m_folder.read(QStringLiteral("a.budget"));

@@ -42,6 +42,7 @@ private slots:
     void refusedFilesStayAndTheOpenOneStaysOpen();
     void otherFilesAreNotOverwritten_data();
     void otherFilesAreNotOverwritten();
+    void whatCouldNotBeLoadedIsNotSaved();
     void aFileInUseIsLocked();
     void whatAnotherProgramChangedIsNotOverwritten();
     void linksAreFollowed();
@@ -188,6 +189,17 @@ void BudgetSavingTest::otherFilesAreNotOverwritten()
         QCOMPARE(m_folder->read(u"other.budget.backup-1"_qs), content);
         QCOMPARE(m_file->filePathName(), path);
     }
+}
+
+void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
+{
+    const QByteArray before = m_folder->read(u"home.budget"_qs);
+    QCOMPARE(storing(m_path, QString(17'000'000, u'n')), StorageFailure::CannotHold);
+    Data strange;
+    strange.banks.add(banking::Bank(banking::BankName(u"Strange"_qs),
+                                    {{{}, static_cast<banking::BankAccountTypes>(9)}}, false));
+    QCOMPARE(test::failureOf([&] { m_file->store(strange); }), StorageFailure::CannotHold);
+    QCOMPARE(m_folder->read(u"home.budget"_qs), before);
 }
 
 void BudgetSavingTest::aFileInUseIsLocked()

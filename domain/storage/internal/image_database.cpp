@@ -15,6 +15,10 @@ namespace {
 
 constexpr int stepsBetweenChecks = 1000;
 
+/// A database belongs to the function that made it, so SQLite need not guard
+/// each call.
+const int openFlags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX;
+
 void check(sqlite3 *database, int result)
 {
     if (result == SQLITE_NOMEM)
@@ -37,8 +41,7 @@ void Image::Free::operator()(unsigned char *bytes) const noexcept
     sqlite3_free(bytes);
 }
 
-ImageDatabase::ImageDatabase()
-    : m_database(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+ImageDatabase::ImageDatabase() : m_database(":memory:", openFlags)
 {
     harden();
     // Whatever SQLite was built with, the same rows make the same bytes.
@@ -53,7 +56,7 @@ ImageDatabase::ImageDatabase()
 }
 
 ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
-    : m_database(":memory:", SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE)
+    : m_database(":memory:", openFlags)
 {
     harden();
     limitSteps(image.size());

@@ -138,9 +138,10 @@ bool RowReader::next()
 
 std::int64_t RowReader::integer(std::int64_t min, std::int64_t max)
 {
-    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_INTEGER)
+    sqlite3_value *stored = nextValue();
+    if (sqlite3_value_type(stored) != SQLITE_INTEGER)
         refuse("has something else than a number");
-    const std::int64_t value = sqlite3_column_int64(m_select.get(), m_column++);
+    const std::int64_t value = sqlite3_value_int64(stored);
     if (value < min || value > max)
         refuse("has a number that means nothing");
     m_seal.integer(value);
@@ -208,6 +209,13 @@ void RowReader::refuse(const std::string &why) const
                        "' " + why + ".");
 }
 
+sqlite3_value *RowReader::nextValue()
+{
+    // One call for a value instead of three. It is good until the next step
+    // because nobody else uses the connection.
+    return sqlite3_column_value(m_select.get(), m_column++);
+}
+
 bool RowReader::isNull()
 {
     if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_NULL)
@@ -219,12 +227,13 @@ bool RowReader::isNull()
 
 QByteArrayView RowReader::bytes()
 {
-    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_TEXT)
+    sqlite3_value *stored = nextValue();
+    if (sqlite3_value_type(stored) != SQLITE_TEXT)
         refuse("has something else than a text");
-    const auto *text = sqlite3_column_text(m_select.get(), m_column);
+    const auto *text = sqlite3_value_text(stored);
     if (!text)
         throw std::bad_alloc();
-    const QByteArrayView bytes(text, sqlite3_column_bytes(m_select.get(), m_column++));
+    const QByteArrayView bytes(text, sqlite3_value_bytes(stored));
     m_seal.text(bytes);
     return bytes;
 }

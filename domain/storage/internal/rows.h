@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+struct sqlite3_value;
+
 namespace kiv::storage::internal {
 
 /// Writes the rows of one table, value by value in the order of the columns,
@@ -80,6 +82,8 @@ public:
     [[noreturn]] void refuse(const std::string &why) const;
 
 private:
+    [[nodiscard]] sqlite3_value *nextValue();
+    /// Goes on to the next value only when this one is null.
     [[nodiscard]] bool isNull();
     /// Valid until the next step.
     [[nodiscard]] QByteArrayView bytes();

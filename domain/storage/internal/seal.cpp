@@ -1,53 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/seal.h"
 
-#include <array>
 #include <charconv>
+#include <cstring>
 
 namespace kiv::storage::internal {
-namespace {
-
-/// Hashing in pieces of this size costs little and keeps the dump small.
-constexpr qsizetype pieceSize = 32 * 1024;
-
-} // namespace
 
 Seal::Seal(std::uint32_t version) : m_hash(QCryptographicHash::Sha256)
 {
-    m_dump.reserve(2 * pieceSize);
-    m_dump.append("kiv-budget ").append(QByteArray::number(version)).append('\n');
+    append("kiv-budget ");
+    append(QByteArray::number(version));
+    append("\n");
 }
 
 void Seal::beginTable(const char *name)
 {
-    m_dump.append("table ").append(name).append('\n');
-}
-
-void Seal::integer(std::int64_t value)
-{
-    appendNumber('i', value, ';');
-}
-
-void Seal::text(QByteArrayView value)
-{
-    appendNumber('t', value.size(), ':');
-    m_dump.append(value.data(), value.size());
-}
-
-void Seal::endRow()
-{
-    m_dump.append('\n');
-    if (m_dump.size() >= pieceSize) {
-        m_hash.addData(m_dump);
-        m_dump.resize(0);
-    }
+    append("table ");
+    append(name);
+    append("\n");
 }
 
 QByteArray Seal::result()
 {
-    m_hash.addData(m_dump);
-    m_dump.resize(0);
+    m_hash.addData(QByteArrayView(m_dump.data(), std::exchange(m_size, 0)));
     return m_hash.result().toHex();
+}
+
+void Seal::append(QByteArrayView bytes)
+{
+    if (bytes.size() > std::ssize(m_dump) - m_size)
+        m_hash.addData(QByteArrayView(m_dump.data(), std::exchange(m_size, 0)));
+    if (bytes.size() > std::ssize(m_dump)) {
+        m_hash.addData(bytes);
+        return;
+    }
+    std::memcpy(m_dump.data() + m_size, bytes.data(), static_cast<std::size_t>(bytes.size()));
+    m_size += bytes.size();
 }
 
 void Seal::appendNumber(char kind, std::int64_t value, char end)
@@ -55,7 +43,7 @@ void Seal::appendNumber(char kind, std::int64_t value, char end)
     std::array<char, 24> text{kind};
     char *const last = std::to_chars(text.data() + 1, text.data() + text.size() - 1, value).ptr;
     *last = end;
-    m_dump.append(text.data(), last - text.data() + 1);
+    append({text.data(), last - text.data() + 1});
 }
 
 } // namespace kiv::storage::internal

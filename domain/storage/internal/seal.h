@@ -4,6 +4,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QCryptographicHash>
 
+#include <array>
 #include <cstdint>
 
 namespace kiv::storage::internal {
@@ -22,18 +23,24 @@ public:
     explicit Seal(std::uint32_t version);
 
     void beginTable(const char *name);
-    void null() { m_dump.append('-'); }
-    void integer(std::int64_t value);
-    void text(QByteArrayView value);
-    void endRow();
+    void null() { append("-"); }
+    void integer(std::int64_t value) { appendNumber('i', value, ';'); }
+    void text(QByteArrayView value)
+    {
+        appendNumber('t', value.size(), ':');
+        append(value);
+    }
+    void endRow() { append("\n"); }
     /// In hexadecimal digits.
     [[nodiscard]] QByteArray result();
 
 private:
+    void append(QByteArrayView bytes);
     void appendNumber(char kind, std::int64_t value, char end);
 
     QCryptographicHash m_hash;
-    QByteArray m_dump; ///< what is not hashed yet
+    std::array<char, 16 * 1024> m_dump; ///< what is not hashed yet
+    qsizetype m_size = 0;
 };
 
 } // namespace kiv::storage::internal
