@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/streams.h"
 #include "foundation/strong_bool.h"
 
 #include <QtCore/QMetaType>
@@ -10,6 +11,15 @@ namespace kiv::navigation {
 struct AllowSubAccountsTag {};
 /// Whether accounts that stand under another account are wanted too.
 using AllowSubAccounts = foundation::StrongBool<AllowSubAccountsTag>;
+
+inline std::ostream &operator<<(std::ostream &out, AllowSubAccounts allow)
+{
+    return out << (allow ? "with sub-accounts" : "without sub-accounts");
+}
+inline QDebug operator<<(QDebug debug, AllowSubAccounts allow)
+{
+    return foundation::streamed(debug, allow);
+}
 
 } // namespace kiv::navigation
 

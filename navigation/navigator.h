@@ -10,6 +10,7 @@
 //   navigator_accounts.cpp       accounts, banks and bank accounts
 //   navigator_transactions.cpp   transactions, refunds and transfers
 //   navigator_processing.cpp     items that are due
+//   navigator_surveys.cpp        bank account surveys
 //   navigator_settings.cpp       dashboard, exchange rates, configuration, releases
 
 #include "navigation/allow_sub_accounts.h"
@@ -33,6 +34,8 @@
 #include "foundation/error.h"
 #include "foundation/percentage.h"
 #include "foundation/qt_ptr.h"
+#include "surveying/indexed_increase_decreases.h"
+#include "surveying/mapping_survey.h"
 #include "tagging/budget_tag_manager.h"
 #include "updating/release_information.h"
 #include "updating/semantic_version.h"
@@ -217,6 +220,12 @@ Q_SIGNALS:
                                 const std::set<numira::Currency> &usableCurrencies,
                                 const kiv::navigation::CurrencyDisplayOptions &displayAs,
                                 const std::set<kiv::accounting::AccountCode> &codes);
+    /// Answers onPrepareShowSurvey.
+    void showSurvey(const std::set<kiv::banking::BankName> &banks,
+                    const std::set<numira::Currency> &usable,
+                    const kiv::navigation::CurrencyDisplayOptions &displayAs,
+                    const kiv::foundation::Percentage &balanceWindow,
+                    const std::set<kiv::accounting::AccountCode> &codes);
     /// Answers onLookUpBankAccounts.
     void lookedUpBankAccounts(const kiv::banking::BankName &bn,
                               const std::set<kiv::banking::AccountNumberBankType> &accountTypes);
@@ -266,6 +275,17 @@ Q_SIGNALS:
                        const std::set<numira::Currency> &used);
     void configureSaveSucceeded();
     void configureSaveFailed(const QString &errorMessage);
+
+    // ---- surveys ------------------------------------------------------------
+
+    /// Answers onLookUpLastReconciliation, with the account's currency.
+    void lookedUpLastReconciliation(
+        const numira::Currency &code,
+        const std::optional<kiv::banking::ReconciledBalance> &reconciliation);
+    /// Answers onGenerateMappingSurvey.
+    void generatedMappingSurvey(const kiv::surveying::MappingSurvey &survey);
+    void completedSurveySucceeded();
+    void completedSurveyFailed(const QString &errorMessage);
 
     // ---- releases -----------------------------------------------------------
 
@@ -381,6 +401,7 @@ public Q_SLOTS:
     // ---- processing: navigator_processing.cpp, surveys: navigator_surveys.cpp
 
     void onPrepareShowProcessBudgetItems();
+    void onPrepareShowSurvey();
     void onLookUpBankAccounts(const kiv::banking::BankName &bn,
                               const kiv::navigation::AllowSubAccounts &shouldAllow);
     void onLookUpBudgetItemSources(const kiv::budgeting::BudgetItemDueIdentifier &requestedBy);
@@ -421,6 +442,22 @@ public Q_SLOTS:
     void onStoreExchangeRates(const kiv::conversion::ConversionMap &conversions);
     void onPrepareShowConfigure();
     void onConfigureUpdated(const kiv::navigation::ConfigurationData &data);
+
+    // ---- surveys: navigator_surveys.cpp -------------------------------------
+
+    void onLookUpLastReconciliation(const kiv::accounting::AccountNumber &an);
+    void onGenerateMappingSurvey(const kiv::banking::BankName &bn,
+                                 const kiv::accounting::AccountNumber &an,
+                                 const QDate &surveyingOn);
+    void onCompletedSurvey(
+        const QDate &completedOn, const kiv::banking::BankAccount &ba, const numira::Money &balance,
+        const std::set<kiv::accounting::TransactionNumber> &allReconciled,
+        const kiv::surveying::IndexedIncreaseDecreases<kiv::budgeting::BudgetItemIdentifier>
+            &allAdded,
+        const kiv::surveying::IndexedIncreaseDecreases<kiv::accounting::AccountNumber> &allExtra,
+        const std::map<kiv::budgeting::BudgetItemIdentifier, kiv::surveying::DistributedAmount>
+            &distributed,
+        const numira::Money &nonDistributed);
 
     // ---- releases: navigator_settings.cpp -----------------------------------
 

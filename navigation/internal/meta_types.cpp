@@ -41,6 +41,9 @@ void registerMetaTypes()
 
     registerAll<tagging::Tags, tagging::BudgetItemTags, tagging::BudgetItemTags::ItemTags,
                 conversion::ConversionMap, adviser::BudgetHealth, foundation::Percentage,
+                surveying::MappingSurvey, surveying::IndexedIncreaseDecreases<BudgetItemIdentifier>,
+                surveying::IndexedIncreaseDecreases<AccountNumber>,
+                std::map<BudgetItemIdentifier, surveying::DistributedAmount>,
                 updating::SemanticVersion, std::set<updating::ReleaseInformation>, numira::Currency,
                 numira::Money, std::set<numira::Currency>, std::chrono::days,
                 std::chrono::milliseconds>();

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigator_desk.h"
+
+#include "conversion/currency_converter.h"
+#include "conversion/errors.h"
+#include "conversion/open_exchange_rates_source.h"
+#include "navigation/internal/update_notifier.h"
+#include "networking/request_manager.h"
+
+#include <QtCore/QFile>
+
+using namespace kiv;
+using namespace kiv::test;
+using conversion::ConversionMap;
+using conversion::CurrencyConverter;
+
+class NavigatorWiring : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_settings.reset();
+        CurrencyConverter::updateCache({});
+    }
+
+    void theFirstNavigatorConvertsForTheProcess();
+    void metaObjectListsTheInterface();
+    void everythingThatCrossesIsRegistered();
+    void queuedViewsHearTheSame();
+    void startsWithTheStoredRates();
+    void unreadableRatesAreNoObstacle();
+    void firstRunOffersTheWizard();
+    void expiredRatesAreRefreshedAfterTheStart();
+    void nothingHappensOnceItIsGone();
+    void itMayGoWhileItWaitsForRates();
+    void partsMayBeDestroyedFirst();
+    void acknowledgedUpdateStartsTheChecksAgain();
+
+private:
+    OwnSettings m_settings;
+};
+
+namespace {
+
+const numira::Currency eur = numira::toCurrency("EUR");
+
+ConversionMap rates(const char *eurPerUsd, int hoursOld)
+{
+    return ConversionMap(numira::toCurrency("USD"),
+                         QDateTime::currentDateTimeUtc().addSecs(-3600 * hoursOld),
+                         {{eur, numira::FloatingPoint(eurPerUsd)}});
+}
+
+QByteArray serviceReply()
+{
+    return QByteArray("{\"timestamp\": ") + QByteArray::number(QDateTime::currentSecsSinceEpoch()) +
+           ", \"base\": \"USD\", \"rates\": {\"EUR\": 0.5}}";
+}
+
+numira::Money oneDollarInEuros()
+{
+    numira::Money sum(eur);
+    sum += usd("1");
+    return sum;
+}
+
+} // namespace
+
+void NavigatorWiring::theFirstNavigatorConvertsForTheProcess()
+{
+    auto first = std::make_unique<Desk>();
+    auto second = std::make_unique<Desk>();
+    CurrencyConverter::updateCache(rates("0.5", 0));
+    QCOMPARE(oneDollarInEuros(), money("EUR", "0.50"));
+    second.reset();
+    QCOMPARE(oneDollarInEuros(), money("EUR", "0.50"));
+    first.reset();
+    QVERIFY_EXCEPTION_THROWN(oneDollarInEuros(), foundation::Error);
+    // For ever: another one does not step in.
+    const Desk third;
+    QVERIFY_EXCEPTION_THROWN(oneDollarInEuros(), foundation::Error);
+}
+
+void NavigatorWiring::metaObjectListsTheInterface()
+{
+    const QMetaObject &meta = Navigator::staticMetaObject;
+    QCOMPARE(meta.className(), "kiv::navigation::Navigator");
+    QStringList found;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        QStringList parameters;
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            parameters.append(QString::fromLatin1(method.parameterTypeName(p) + ' ' +
+                                                  method.parameterNames().at(p)));
+        }
+        found.append(
+            QStringLiteral("%1 %2 %3(%4)")
+                .arg(method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal")
+                     : method.access() == QMetaMethod::Private  ? QStringLiteral("private slot")
+                                                                : QStringLiteral("slot"),
+                     QString::fromLatin1(method.typeName()), QString::fromLatin1(method.name()),
+                     parameters.join(QStringLiteral(", "))));
+    }
+    QFile listed(QFINDTESTDATA("navigator_interface.txt"));
+    QVERIFY(listed.open(QIODevice::ReadOnly | QIODevice::Text));
+    const QStringList expected =
+        QString::fromUtf8(listed.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(found, expected);
+}
+
+void NavigatorWiring::everythingThatCrossesIsRegistered()
+{
+    const Desk desk; // registers the types
+    const QMetaObject &meta = Navigator::staticMetaObject;
+    QList<QByteArray> names{
+        "kiv::navigation::Navigator", "kiv::navigation::internal::UpdateNotifier",
+        "std::chrono::duration<long,std::ratio<86400>>",
+        "std::chrono::duration<long,std::ratio<1,1000>>", "std::chrono::milliseconds"};
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        names.append(method.parameterTypes());
+        for (int p = 0; p < method.parameterCount(); ++p) {
+            const QMetaType type = method.parameterMetaType(p);
+            QVERIFY2(type.isValid() && type == QMetaType::fromName(method.parameterTypeName(p)),
+                     method.parameterTypeName(p));
+            QVERIFY2(type.hasRegisteredDebugStreamOperator(), type.name());
+        }
+    }
+    for (const QByteArray &name : names)
+        QVERIFY2(QMetaType::fromName(name).isValid(), name.constData());
+}
+
+void NavigatorWiring::queuedViewsHearTheSame()
+{
+    Desk desk;
+    SignalLog direct(*desk.navigator);
+    SignalLog queued(*desk.navigator, Qt::QueuedConnection);
+    desk.furnish();
+    Navigator &n = *desk.navigator;
+    n.onPrepareShowBills(), n.onPrepareShowDebts(), n.onPrepareShowGoals();
+    n.onPrepareShowNontracks(), n.onPrepareShowWages(), n.onPrepareShowAccounts();
+    n.onPrepareShowBanks(), n.onSelectedLedger(code(1, "")), n.onPrepareShowProcessBudgetItems();
+    n.onPrepareShowDashboard(), n.onPrepareShowExchangeRates(), n.onPrepareShowConfigure();
+    n.onPrepareShowMoneyTransfer(), n.onPrepareShowSurvey(), n.onRemovedAct(code(99, ""));
+    n.onLookUpRefundableTransactions({budgeting::BudgetItemTypes::Bill, source("Rent")});
+    QCoreApplication::processEvents();
+    const QStringList heard = direct.take();
+    QVERIFY(heard.size() > 20);
+    QCOMPARE(queued.take(), heard);
+}
+
+void NavigatorWiring::startsWithTheStoredRates()
+{
+    const auto disk = std::make_shared<MemoryDisk>();
+    disk->rates = rates("0.25", 1);
+    Desk desk(ScriptedSender::silence(), disk);
+    QCOMPARE(CurrencyConverter::cache(), *disk->rates);
+    QCOMPARE(desk.take(),
+             texts({"- User system locale \"C\"", "? The first update check will occur in 5000ms",
+                    "? Starting update check with the interval of 3600000ms"}));
+    QVERIFY(!desk.isChanged());
+    QCOMPARE(desk.takeAfterWaiting(),
+             texts({"? Skipping fetching all exchange rates as they are not "
+                    "expired."}));
+    QVERIFY(desk.sent->sent.isEmpty());
+}
+
+void NavigatorWiring::unreadableRatesAreNoObstacle()
+{
+    const auto disk = std::make_shared<MemoryDisk>();
+    disk->rates = rates("0.25", 1);
+    disk->before = [](const QString &) { throw std::runtime_error("Bad\x1b[0m disk."); };
+    Desk desk(ScriptedSender::silence(), disk);
+    QCOMPARE(desk.take().value(1), QStringLiteral("! Failed to initialise the currency "
+                                                  "conversions. Bad\\u{001B}[0m disk."));
+    QVERIFY(CurrencyConverter::cache().isEmpty());
+}
+
+void NavigatorWiring::firstRunOffersTheWizard()
+{
+    QSettings().clear();
+    const auto disk = std::make_shared<MemoryDisk>();
+    disk->rates = rates("0.25", 1);
+    Desk desk(ScriptedSender::silence(), disk);
+    (void)desk.take();
+    // The wizard does not wait for the network.
+    const QString skipping =
+        QStringLiteral("? Skipping fetching all exchange rates as they are not expired.");
+    QStringList said;
+    QVERIFY(QTest::qWaitFor([&] { return (said += desk.take()).contains(skipping); }));
+    QCOMPARE(said.filter(QStringLiteral("showNewBudgetFirstTimeWizard(")).size(), 1);
+    QCOMPARE(said.last(), skipping);
+}
+
+void NavigatorWiring::expiredRatesAreRefreshedAfterTheStart()
+{
+    const auto disk = std::make_shared<MemoryDisk>();
+    disk->rates = rates("0.25", 25);
+    Desk desk(ScriptedSender::json(serviceReply()), disk);
+    (void)desk.take();
+    QCOMPARE(desk.takeAfterWaiting(), texts({"- Fetching all exchange rates as they are expired.",
+                                             "- Storing exchange rates."}));
+    QCOMPARE(disk->rates->rate(numira::toCurrency("USD"), eur), numira::FloatingPoint("0.5"));
+    QCOMPARE(CurrencyConverter::cache(), *disk->rates);
+    QVERIFY(desk.sent->sent.value(0).query().contains(
+        QStringLiteral("5b0c93e2d7a14f68b1e0c4a9d2f73e15")));
+    QVERIFY(!desk.isChanged());
+}
+
+void NavigatorWiring::nothingHappensOnceItIsGone()
+{
+    const auto sent = [] {
+        Desk desk;
+        return desk.sent;
+    }();
+    QTest::qWait(200);
+    QVERIFY(sent->sent.isEmpty());
+}
+
+void NavigatorWiring::itMayGoWhileItWaitsForRates()
+{
+    Desk desk;
+    bool isAnswered = false;
+    connect(desk.navigator.get(), &Navigator::fetchedExchangeRates, this,
+            [&] { isAnswered = true; });
+    QTimer::singleShot(0, this, [&] { desk.navigator.reset(); });
+    desk.navigator->onFetchExchangeRates({eur});
+    QVERIFY(desk.navigator == nullptr);
+    QVERIFY(!isAnswered);
+}
+
+void NavigatorWiring::partsMayBeDestroyedFirst()
+{
+    Desk desk;
+    Navigator &navigator = *desk.navigator;
+    (void)desk.take();
+    delete navigator.findChild<conversion::OpenExchangeRatesSource *>();
+    navigator.onFetchExchangeRates({eur});
+    QCOMPARE(desk.take(), texts({"fetchedExchangeRates((EUR), no rates)"}));
+    delete navigator.findChild<networking::RequestManager *>();
+    QVERIFY(navigator.findChild<navigation::internal::UpdateNotifier *>() == nullptr);
+    navigator.onFetchReleaseNotes();
+    emit navigator.updateAvailableAcknowledged();
+    QCOMPARE(desk.take(), texts({"fetchedReleaseNotes(())", "updateAvailableAcknowledged()"}));
+}
+
+void NavigatorWiring::acknowledgedUpdateStartsTheChecksAgain()
+{
+    Desk desk;
+    auto *notifier = desk.navigator->findChild<navigation::internal::UpdateNotifier *>();
+    (void)desk.take();
+    emit notifier->updateReleased(updating::SemanticVersion(9, 1, 0));
+    emit desk.navigator->updateAvailableAcknowledged();
+    QStringList said = desk.take();
+    said.sort();
+    QCOMPARE(said, texts({"? Starting update check with the interval of 3600000ms",
+                          "updateAvailableAcknowledged()", "updateReleased(9.1.0)"}));
+}
+
+QTEST_GUILESS_MAIN(NavigatorWiring)
+#include "tst_navigator_wiring.moc"
