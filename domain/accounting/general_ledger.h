@@ -22,7 +22,7 @@ namespace kiv::accounting {
 ///   once, when it was posted, and rounded half to even to that currency's minor unit;
 ///   an amount in the account's own currency is kept as it is;
 /// - a balance is the sum of the account's sides, positive on its kind's own
-///   side;
+///   side; the sums of its debits and of its credits never get out of range;
 /// - nothing is posted to a closed account, and a reconciled transaction is
 ///   neither changed nor removed;
 /// - all refunds of a transaction together do not exceed it.
@@ -78,10 +78,12 @@ public:
     /// transaction, on `openedOn`, against the equity account for openings in
     /// that currency, which is opened too when there is none (with the next free
     /// number of `generator`); a negative one with the sides swapped. Answers
-    /// with the number of that transaction, or nothing when none was posted.
+    /// with the number of that transaction, or nothing when none was posted. An
+    /// account that is given as closed is closed once it is there.
     ///
     /// Refused: the invalid number, a number in use, an unknown kind, a parent
-    /// that is unknown or of another kind.
+    /// that is unknown or of another kind, an opening as by post (also when the
+    /// equity account is closed), a closing as by close.
     std::optional<TransactionNumber> add(const Account &account, AccountNumberGenerator &generator,
                                          QDate openedOn = foundation::today());
     /// Takes an account away with its own opening transaction. Refused: an
@@ -102,7 +104,8 @@ public:
     /// transaction is restated at the rate of the moment; statuses, the other
     /// sides and the amounts as entered stay. Needs no rate without
     /// transactions. Works on closed accounts. `generator` is not used at
-    /// present.
+    /// present. Refused: an unknown account, a side that cannot be converted or
+    /// comes to nothing, a balance out of range.
     void convertTo(AccountNumber number, const numira::Currency &currency,
                    AccountNumberGenerator &generator);
 
@@ -117,11 +120,16 @@ public:
     /// currency, a full ledger, a balance out of range.
     TransactionNumber post(const Transaction &transaction);
     /// Replaces a transaction under its number. A side whose account stays
-    /// keeps its status, a new one has none; the opening mark stays. Refused as
-    /// by post, and: an unknown number, a side that is reconciled, an account
-    /// that it leaves and is closed, an opening transaction that would leave
-    /// the account that it opened, refunds that would exceed it, other
-    /// accounts for a transaction with refunds or for a refund.
+    /// keeps its status, a new one has none; the opening mark stays. As long as
+    /// the amount stays, so does what an account got of it: correcting a
+    /// description needs no rate. A refund's amount is taken in the currency of
+    /// what it refunds.
+    ///
+    /// Refused as by post, and: an unknown number, a side that is reconciled, an
+    /// account that it leaves and is closed, an opening transaction that would
+    /// leave the account that it opened, refunds that would exceed it, other
+    /// accounts for a transaction with refunds or for a refund, another currency
+    /// for a transaction with refunds.
     void repost(TransactionNumber number, const Transaction &transaction);
     /// Refused: an unknown number, a side that is reconciled, a closed account,
     /// refunds that depend on it.
@@ -143,8 +151,10 @@ public:
     void clear(TransactionNumber number, AccountNumber account);
 
     /// Posts a transaction that gives back some of another: the accounts
-    /// swapped, on `postedOn`. Refused: an unknown number, a refund, an amount
-    /// that is not positive or more than is left, and as by post.
+    /// swapped, on `postedOn`, with the same description. An amount in another
+    /// currency than the one in which that was entered is converted into it
+    /// first. Refused: an unknown number, a refund, an amount that is not
+    /// positive or more than is left, and as by post.
     TransactionNumber refund(TransactionNumber number, const numira::Money &amount,
                              QDate postedOn = foundation::today());
 

@@ -158,9 +158,7 @@ void GeneralLedger::convertTo(AccountNumber number, const numira::Currency &curr
     sides.reserve(account.transactions.count());
     const internal::NumberSet &numbers = account.transactions;
     for (auto at = numbers.next({}); at.isValid(); at = numbers.next(at)) {
-        const internal::TransactionRecord &record = m_state->record(at);
-        const numira::Money &side =
-            record.debit == number ? record.debitAmount : record.creditAmount;
+        const numira::Money &side = m_state->record(at).amountFor(number);
         numira::Money restated;
         try {
             restated = side.convertedTo(currency).rounded();

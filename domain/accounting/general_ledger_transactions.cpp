@@ -100,7 +100,7 @@ void GeneralLedger::repost(TransactionNumber number, const Transaction &transact
     TransactionRecord after = internal::newRecord(
         *m_state,
         before.refundOf ? enteredIn(transaction, before.amount.code(), number) : transaction,
-        number);
+        number, &before);
     checkOpening(*m_state, number, before, after);
     checkRefunds(*m_state, number, before, after);
     after.debitStatus =

@@ -33,9 +33,11 @@ std::size_t TransactionList::size() const noexcept
 TransactionList::const_iterator TransactionList::begin() const
 {
     const_iterator first;
-    first.m_list = this;
-    if (m_account)
-        first.m_number = m_account->transactions.next({});
+    if (empty())
+        return first;
+    first.m_state = m_state;
+    first.m_account = m_account;
+    first.m_number = m_account->transactions.next({});
     return first;
 }
 
@@ -66,12 +68,12 @@ std::set<Transaction> TransactionList::toSet() const
 
 Transaction TransactionList::const_iterator::operator*() const
 {
-    return m_list->m_state->transaction(m_number, m_list->m_account->code.number());
+    return m_state->transaction(m_number, m_account->code.number());
 }
 
 TransactionList::const_iterator &TransactionList::const_iterator::operator++()
 {
-    m_number = m_list->m_account->transactions.next(m_number);
+    m_number = m_account->transactions.next(m_number);
     return *this;
 }
 

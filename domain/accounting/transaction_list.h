@@ -41,7 +41,8 @@ public:
 
     private:
         friend class TransactionList;
-        const TransactionList *m_list = nullptr;
+        std::shared_ptr<const internal::LedgerState> m_state; ///< outlives the list
+        const internal::AccountRecord *m_account = nullptr;
         TransactionNumber m_number; ///< 0 at the end
     };
 

@@ -73,6 +73,12 @@ private slots:
         ledger.recode(ledger.accountCode(no(5)), {no(50), u"Start"_qs, {}});
         addAccount(ledger, generator, Asset, {}, "Fourth", {}, usd("1"));
         QVERIFY(balance(ledger, 50) == usd("31"));
+        QCOMPARE(++*generator.clone(), no(10));
+        // Of two, which a conversion makes possible, the open one is taken.
+        ledger.convertTo(no(8), numira::toCurrency("USD"), generator);
+        ledger.close(no(8));
+        addAccount(ledger, generator, Asset, {}, "Fifth", {}, usd("1"));
+        QVERIFY(balance(ledger, 50) == usd("32"));
     }
 
     void handoutsStepOverUsedNumbersAndGiveBack()
@@ -99,6 +105,9 @@ private slots:
         QCOMPARE(++*last.clone(), no(5));
         for (int attempt = 0; attempt < 2; ++attempt)
             QCOMPARE(NumberHandout(loaded, ledger).number(), no(5));
+        SequentialAccountNumberGenerator almost(no(0xFFFF'FFFE));
+        for (int attempt = 0; attempt < 2; ++attempt)
+            QCOMPARE(NumberHandout(almost, GeneralLedger()).number(), no(0xFFFF'FFFF));
         SequentialAccountNumberGenerator first;
         QCOMPARE(--first, no(0));
     }
@@ -117,6 +126,7 @@ private slots:
         QVERIFY(book.ledger == untouched.ledger);
         // Only the one that opened it: another's opening against it holds it.
         QVERIFY(!book.ledger.canRemove({no(3), {}}));
+        QVERIFY(!book.ledger.canRemove({no(1), {}})); // has a child
         // A closed one can go too, and with it the transaction's mark.
         addAccount(book.ledger, book.generator, Expense, no(30), "Spent", {}, usd("5"));
         book.ledger.close(no(30));

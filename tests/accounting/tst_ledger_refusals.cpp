@@ -277,6 +277,9 @@ void tst_LedgerRefusals::repostRows()
     row("remove: unknown one", "number 77", [](Book &b) { b.ledger.remove(txn(77)); });
     row("remove: reconciled", fixed, [](Book &b) { b.ledger.remove(txn(5)); });
     row("remove: closed account", "'7 Old' is closed", [](Book &b) { b.ledger.remove(txn(6)); });
+    row(
+        "remove: closed credit", "'5 Wage' is closed", [](Book &b) { b.ledger.remove(txn(2)); },
+        [](Book &b) { b.ledger.close(no(5)); });
     row("remove: refunded", "3 cannot .* \\$100.00 of it",
         [](Book &b) { b.ledger.remove(txn(3)); });
 }

@@ -72,8 +72,15 @@ private slots:
         QVERIFY(posted.debitAmount() == money("EUR", "6.02"));
         QVERIFY(balance(book.ledger, 9) == money("EUR", "11.02")); // 5.00 at the old rate
         QVERIFY(balance(book.ledger, 2) == usd("1855.90"));
+        // Nothing but a new amount or a new account asks for a rate again.
         ratesFromUsd().clear();
-        QVERIFY(before == before && balance(book.ledger, 9) == money("EUR", "11.02"));
+        book.ledger.repost(txn(8), Transaction(day("2026-04-01"), no(2), no(9),
+                                               money("GBP", "12.05"), u"Other way"_qs));
+        QVERIFY(found(book.ledger, 8).debitAmount() == usd("24.10"));
+        QVERIFY(balance(book.ledger, 9) == money("EUR", "-1.02"));
+        for (const Transaction &changed : {transfer(no(2), no(9), money("GBP", "12.04")),
+                                           transfer(no(2), no(5), money("GBP", "12.05"))})
+            QVERIFY_EXCEPTION_THROWN(book.ledger.repost(txn(8), changed), TransactionError);
         book.ledger.remove(txn(8));
         QVERIFY(book.ledger == before);
     }
@@ -98,7 +105,8 @@ private slots:
         QVERIFY(balance(book.ledger, 5) == usd("-2440"));
 
         // Refunds stay refunds, in the currency of what they refund.
-        book.ledger.repost(txn(4), transfer(no(2), no(4), money("EUR", "200")));
+        for (const char *euros : {"400", "200"})
+            book.ledger.repost(txn(4), transfer(no(2), no(4), money("EUR", euros)));
         QVERIFY(found(book.ledger, 4).amount() == usd("400"));
         book.ledger.repost(txn(3), transfer(no(4), no(2), usd("400"), day("2026-05-01")));
         QCOMPARE(found(book.ledger, 4).refundOf(), std::optional(txn(3)));
@@ -135,6 +143,7 @@ private slots:
         QCOMPARE(statuses(ledger, 5), u"cleared/reconciled"_qs);
         QCOMPARE(found(ledger, 5).status(), Cleared);
         QCOMPARE(ledger.ledger(no(6)).transactions().find(txn(5))->status(), Reconciled);
+        QCOMPARE((*ledger.ledger(no(6)).transactions().begin()).status(), Reconciled);
         QCOMPARE(ledger.ledger(no(4)).transactions().find(txn(5))->status(), Cleared);
         ledger.unreconcile(txn(5));
         QCOMPARE(statuses(ledger, 5), u"cleared/none"_qs);

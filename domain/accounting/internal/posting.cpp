@@ -87,14 +87,17 @@ numira::Money convertedAmount(const numira::Money &amount, const numira::Currenc
 }
 
 TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
-                            TransactionNumber number)
+                            TransactionNumber number, const TransactionRecord *before)
 {
     checkTransaction(state, transaction, number);
     TransactionRecord record = plainRecord(transaction);
-    record.debitAmount =
-        convertedAmount(record.amount, state.account(record.debit).currency(), number);
-    record.creditAmount =
-        convertedAmount(record.amount, state.account(record.credit).currency(), number);
+    const auto side = [&](AccountNumber account) {
+        if (before && before->amount == record.amount && before->involves(account))
+            return before->amountFor(account);
+        return convertedAmount(record.amount, state.account(account).currency(), number);
+    };
+    record.debitAmount = side(record.debit);
+    record.creditAmount = side(record.credit);
     return record;
 }
 

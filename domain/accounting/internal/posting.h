@@ -32,9 +32,12 @@ void checkTransaction(const LedgerState &state, const Transaction &transaction,
                                             TransactionNumber number);
 
 /// The checked transaction as the ledger keeps it, with its sides converted
-/// into the currencies of their accounts. Throws as the two above.
+/// into the currencies of their accounts. When it takes the place of `before`
+/// with the same amount, a side whose account stays is not converted again.
+/// Throws as the two above.
 [[nodiscard]] TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
-                                          TransactionNumber number);
+                                          TransactionNumber number,
+                                          const TransactionRecord *before = nullptr);
 /// The transaction as the ledger keeps it, without any check.
 [[nodiscard]] TransactionRecord plainRecord(const Transaction &transaction);
 

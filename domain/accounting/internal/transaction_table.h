@@ -35,6 +35,11 @@ struct TransactionRecord {
     {
         return account == debit || account == credit;
     }
+    /// The amount on the side of an account that it involves.
+    [[nodiscard]] const numira::Money &amountFor(AccountNumber account) const noexcept
+    {
+        return account == debit ? debitAmount : creditAmount;
+    }
     [[nodiscard]] bool isReconciled() const noexcept
     {
         return debitStatus == TransactionStatuses::Reconciled ||
