@@ -75,7 +75,10 @@ public:
     void showAs(FileTarget target) { m_target = std::move(target); }
     [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
 
-    [[nodiscard]] bool exists() const { return ::access(m_target.path().constData(), F_OK) == 0; }
+    [[nodiscard]] bool exists() const
+    {
+        return ::access(m_target.path().constData(), F_OK) == 0 || errno != ENOENT;
+    }
 
     /// Takes the lock unless it is held already.
     void lock()
@@ -98,7 +101,8 @@ public:
 
     Data load(QStringList &mended)
     {
-        const std::optional<FileContent> content = internal::readFile(m_target, fileSizeMax);
+        const std::optional<FileContent> content =
+            internal::readFile(m_target, internal::fileSizeMax);
         if (!content)
             throw internal::fileNotFound(m_target.shownPath());
         refuseOtherThanBudget(m_target, internal::kindOf(content->bytes));
@@ -114,7 +118,8 @@ public:
     /// `known` is what was seen last under this name, if anything was.
     void store(QByteArrayView image, const std::optional<Fingerprint> &known, unsigned backups)
     {
-        const std::optional<FileContent> replaced = internal::readFile(m_target, fileSizeMax);
+        const std::optional<FileContent> replaced =
+            internal::readFile(m_target, internal::fileSizeMax);
         if (replaced)
             checkReplaceable(replaced->bytes, known);
         m_attempted = Fingerprint(image);
@@ -142,8 +147,6 @@ private:
         if (kind == FileKind::Foreign || kind == FileKind::Newer)
             refuseOtherThanBudget(m_target, kind);
     }
-
-    static constexpr qsizetype fileSizeMax = internal::fileSizeMax;
 
     FileTarget m_target;
     std::unique_ptr<internal::FileLock> m_lock;

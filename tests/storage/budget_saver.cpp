@@ -2,17 +2,13 @@
 //
 // A program that saves a budget for as long as it is let:
 //
-//     budget_saver start FILE     saves the first of two budgets once
-//     budget_saver save FILE      saves the two in turn
+//     budget_saver save FILE      saves two budgets in turn
 //     budget_saver spoil FILE     does the same as a careless program does it
 //     budget_saver check FILE     status 0 when the file is one of the two
 //
-// It prints a line before it begins.
+// It prints a line once the file is there and it goes on.
 #include "random_budget.h"
-
-#include "storage/budget_file.h"
-
-#include <QtCore/QFile>
+#include "scratch_folder.h"
 
 #include <iostream>
 #include <random>
@@ -28,20 +24,18 @@ Data budget(unsigned which)
     std::mt19937 random(which);
     return test::RandomBudget(
                [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); })
-        .make(500);
-}
-
-Data load(storage::BudgetFile &file, const QString &path)
-{
-    file.setFilePathName(path);
-    return file.load();
+        .make(150);
 }
 
 [[noreturn]] void save(const QString &path)
 {
     const Data budgets[] = {budget(1), budget(2)};
     storage::BudgetFile file;
-    (void)load(file, path);
+    file.setFilePathName(path);
+    if (QFile::exists(path))
+        (void)file.load();
+    else
+        file.store(budgets[0]);
     std::cout << "saving" << std::endl;
     for (;;) {
         for (const Data &data : budgets)
@@ -51,33 +45,28 @@ Data load(storage::BudgetFile &file, const QString &path)
 
 [[noreturn]] void spoil(const QString &path)
 {
-    QByteArray contents[2];
-    for (const unsigned which : {0U, 1U}) {
-        const QString draft = path + QStringLiteral(".draft");
-        storage::BudgetFile file(0);
-        file.setFilePathName(draft);
-        file.store(budget(which + 1));
-        QFile written(draft);
-        if (!written.open(QIODevice::ReadOnly))
+    const test::ScratchFolder drafts;
+    for (const unsigned which : {1U, 2U})
+        test::store(drafts.path(QString::number(which)), budget(which));
+    const auto overwrite = [&](const QString &which) {
+        const QByteArray content = drafts.read(which);
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
             std::exit(2);
-        contents[which] = written.readAll();
-    }
+        for (qsizetype done = 0; done < content.size(); done += 4096)
+            file.write(content.mid(done, 4096));
+    };
+    overwrite(QStringLiteral("1"));
     std::cout << "saving" << std::endl;
     for (;;) {
-        for (const QByteArray &content : contents) {
-            QFile file(path);
-            if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
-                std::exit(2);
-            for (qsizetype done = 0; done < content.size(); done += 4096)
-                file.write(content.mid(done, 4096));
-        }
+        overwrite(QStringLiteral("2"));
+        overwrite(QStringLiteral("1"));
     }
 }
 
 bool isWhole(const QString &path)
 {
-    storage::BudgetFile file;
-    const Data data = load(file, path);
+    const Data data = test::load(path);
     return test::difference(data, budget(1)).isEmpty() ||
            test::difference(data, budget(2)).isEmpty();
 }
@@ -86,22 +75,14 @@ bool isWhole(const QString &path)
 
 int main(int argc, char **argv)
 {
-    const std::vector<std::string_view> arguments(argv, argv + argc);
-    if (arguments.size() != 3)
-        return 2;
-    const QString path = QFile::decodeName(argv[2]);
+    const std::string_view task = argc == 3 ? argv[1] : "";
+    const QString path = argc == 3 ? QFile::decodeName(argv[2]) : QString();
     try {
-        if (arguments[1] == "start") {
-            storage::BudgetFile file;
-            file.setFilePathName(path);
-            file.store(budget(1));
-            return 0;
-        }
-        if (arguments[1] == "save")
+        if (task == "save")
             save(path);
-        if (arguments[1] == "spoil")
+        if (task == "spoil")
             spoil(path);
-        return arguments[1] == "check" && isWhole(path) ? 0 : 1;
+        return task == "check" && isWhole(path) ? 0 : 1;
     } catch (const std::exception &error) {
         std::cerr << error.what() << '\n';
         return 1;

@@ -11,105 +11,75 @@
 using kiv::test::answer;
 using kiv::test::lies;
 
+namespace {
+
+template <long Number, typename... Arguments>
+int ask(const char *call, Arguments... arguments)
+{
+    return answer(call, [&] { return static_cast<int>(::syscall(Number, arguments...)); });
+}
+
+/// The mode behind the flags of open, if there is one.
+int openWithMode(const char *call, int folder, const char *path, int flags, va_list more)
+{
+    return ask<SYS_openat>(call, folder, path, flags, va_arg(more, mode_t));
+}
+
+} // namespace
+
 // The names that the libraries call; those of the program go before those of
 // the system's library.
 #pragma GCC visibility push(default)
-
+// clang-format off
 extern "C" {
 
 int open(const char *path, int flags, ...)
 {
     va_list more;
     va_start(more, flags);
-    const auto mode = va_arg(more, mode_t);
+    const int result = openWithMode("open", AT_FDCWD, path, flags, more);
     va_end(more);
-    return answer("open", [&] {
-        return static_cast<int>(::syscall(SYS_openat, AT_FDCWD, path, flags, mode));
-    });
+    return result;
 }
-
 int openat(int folder, const char *path, int flags, ...)
 {
     va_list more;
     va_start(more, flags);
-    const auto mode = va_arg(more, mode_t);
+    const int result = openWithMode("openat", folder, path, flags, more);
     va_end(more);
-    return answer("openat", [&] {
-        return static_cast<int>(::syscall(SYS_openat, folder, path, flags, mode));
-    });
+    return result;
 }
-
-ssize_t read(int file, void *bytes, size_t size)
-{
-    return answer("read", [&] { return ::syscall(SYS_read, file, bytes, size); });
-}
-
 ssize_t pread(int file, void *bytes, size_t size, off_t offset)
 {
     const bool isOther = lies("pread");
-    const ssize_t got =
-        answer("pread", [&] { return ::syscall(SYS_pread64, file, bytes, size, offset); });
+    const ssize_t got = ask<SYS_pread64>("pread", file, bytes, size, offset);
     if (isOther && got > 0) // a disk that gives back something else
         static_cast<std::byte *>(bytes)[got / 2] ^= std::byte{1};
     return got;
 }
-
 ssize_t write(int file, const void *bytes, size_t size)
 {
     const size_t taken = lies("write") ? size / 2 : size;
-    return answer("write", [&] { return ::syscall(SYS_write, file, bytes, taken); });
+    return ask<SYS_write>("write", file, bytes, taken);
 }
-
 int close(int file)
 {
     // The system closes the file also when it then finds something wrong.
     const auto result = static_cast<int>(::syscall(SYS_close, file));
     return answer("close", [&] { return result; });
 }
-
-int fsync(int file)
-{
-    return answer("fsync", [&] { return static_cast<int>(::syscall(SYS_fsync, file)); });
-}
-
-int fchmod(int file, mode_t mode)
-{
-    return answer("fchmod", [&] { return static_cast<int>(::syscall(SYS_fchmod, file, mode)); });
-}
-
-int fchown(int file, uid_t user, gid_t group)
-{
-    return answer("fchown",
-                  [&] { return static_cast<int>(::syscall(SYS_fchown, file, user, group)); });
-}
-
+ssize_t read(int file, void *bytes, size_t size) { return ask<SYS_read>("read", file, bytes, size); }
+int fsync(int file) { return ask<SYS_fsync>("fsync", file); }
+int fchmod(int file, mode_t mode) { return ask<SYS_fchmod>("fchmod", file, mode); }
+int fchown(int file, uid_t user, gid_t group) { return ask<SYS_fchown>("fchown", file, user, group); }
 int fsetxattr(int file, const char *name, const void *value, size_t size, int flags)
-{
-    return answer("fsetxattr", [&] {
-        return static_cast<int>(::syscall(SYS_fsetxattr, file, name, value, size, flags));
-    });
-}
-
+{ return ask<SYS_fsetxattr>("fsetxattr", file, name, value, size, flags); }
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags)
-{
-    return answer("linkat", [&] {
-        return static_cast<int>(::syscall(SYS_linkat, fromFolder, from, toFolder, to, flags));
-    });
-}
-
+{ return ask<SYS_linkat>("linkat", fromFolder, from, toFolder, to, flags); }
 int renameat(int fromFolder, const char *from, int toFolder, const char *to)
-{
-    return answer("renameat", [&] {
-        return static_cast<int>(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, 0));
-    });
-}
-
-int unlinkat(int folder, const char *path, int flags)
-{
-    return answer("unlinkat",
-                  [&] { return static_cast<int>(::syscall(SYS_unlinkat, folder, path, flags)); });
-}
+{ return ask<SYS_renameat2>("renameat", fromFolder, from, toFolder, to, 0); }
+int unlinkat(int folder, const char *path, int flags) { return ask<SYS_unlinkat>("unlinkat", folder, path, flags); }
 
 } // extern "C"
-
+// clang-format on
 #pragma GCC visibility pop
