@@ -3,47 +3,25 @@
 
 #include "networking/request_manager.h"
 
-#include "support/scripted_sender.h"
-
-using kiv::foundation::QtPtr;
 using kiv::networking::RequestManager;
+using kiv::networking::RequestNumber;
 using kiv::networking::Response;
+using namespace Qt::StringLiterals;
 
 namespace {
-
-const QUrl anywhere(QStringLiteral("https://a.example/"));
-const auto goneReason = QStringLiteral("The request manager was destroyed before the answer came.");
 
 /// Answers when it is told to, in any order.
 class ManualSender final : public kiv::networking::RequestSender {
 public:
-    void send(kiv::networking::RequestNumber request, const QUrl &) override
+    void send(RequestNumber request, const QUrl &) override { requests.append(request); }
+    void cancel(RequestNumber request) override { cancelled.append(request); }
+    void answer(qsizetype index, const QString &type)
     {
-        requests.append(request);
+        emit answered(requests.at(index), Response::succeeded("{}", type));
     }
-    void cancel(kiv::networking::RequestNumber request) override { cancelled.append(request); }
 
-    QList<kiv::networking::RequestNumber> requests;
-    QList<kiv::networking::RequestNumber> cancelled;
-};
-
-Response ok(const QByteArray &body)
-{
-    return Response::succeeded(body, QStringLiteral("text/plain"));
-}
-
-struct Users {
-    std::unique_ptr<QObject> first = std::make_unique<QObject>();
-    std::unique_ptr<QObject> second = std::make_unique<QObject>();
-    QByteArrayList answers;
-
-    kiv::networking::NotifyingSender::Answer keep(const QByteArray &who)
-    {
-        return [this, who](const Response &response) {
-            answers.append(who + ':' +
-                           (response.isSuccess() ? response.body() : response.failure().toUtf8()));
-        };
-    }
+    QList<RequestNumber> requests;
+    QList<RequestNumber> cancelled;
 };
 
 } // namespace
@@ -52,84 +30,86 @@ class tst_RequestManager : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyUserGetsItsOwnAnswerOnce()
+    void init()
     {
-        auto owned = std::make_unique<ManualSender>();
-        auto &sender = *owned;
-        RequestManager manager(std::move(owned), nullptr);
-        Users users;
-        manager.get(anywhere, *users.first, users.keep("first"));
-        manager.get(anywhere, *users.second, users.keep("second"));
-        manager.get(anywhere, *users.first, users.keep("third"));
-        QCOMPARE(sender.requests.size(), 3);
-        emit sender.answered(sender.requests.at(2), ok("3"));
-        emit sender.answered(sender.requests.at(1), ok("2"));
-        emit sender.answered(sender.requests.at(1), ok("again"));
-        emit sender.answered(4711, ok("unasked"));
-        emit sender.answered(sender.requests.at(0), Response::failed(QStringLiteral("bad")));
-        QVERIFY(users.answers.isEmpty());
-        QCoreApplication::processEvents();
-        QCOMPARE(users.answers, (QByteArrayList{"third:3", "second:2", "first:bad"}));
+        m_answers.clear();
+        m_sender = new ManualSender;
+        m_manager =
+            std::make_unique<RequestManager>(std::unique_ptr<ManualSender>(m_sender), nullptr);
+        m_first = std::make_unique<QObject>();
+        m_second = std::make_unique<QObject>();
     }
 
-    void answersAreNeverGivenWithinTheRequest()
+    void everyUserGetsItsOwnAnswerOnceAndLater()
     {
-        RequestManager manager(std::make_unique<ScriptedSender>(ScriptedSender::json("1")),
-                               nullptr);
-        Users users;
-        manager.get(anywhere, *users.first, users.keep("first"));
-        QVERIFY(users.answers.isEmpty());
+        get(*m_first, u"first "_s);
+        get(*m_second, u"second "_s);
+        get(*m_first, u"third "_s);
+        for (const auto &[index, type] : {std::pair(2, u"3"_s), {1, u"2"_s}, {1, u"again"_s}})
+            m_sender->answer(index, type);
+        emit m_sender->answered(4711, Response::succeeded("{}", u"unasked"_s));
+        emit m_sender->answered(m_sender->requests.front(), Response::failed(u"bad"_s));
+        QVERIFY(m_answers.isEmpty());
         QCoreApplication::processEvents();
-        QCOMPARE(users.answers, (QByteArrayList{"first:1"}));
+        QCOMPARE(m_answers, (QStringList{u"third 3"_s, u"second 2"_s, u"first bad"_s}));
     }
 
     void destroyedUsersAreForgottenAndTheirRequestsCancelled()
     {
-        auto owned = std::make_unique<ManualSender>();
-        auto &sender = *owned;
-        RequestManager manager(std::move(owned), nullptr);
-        Users users;
-        manager.get(anywhere, *users.first, users.keep("first"));
-        manager.get(anywhere, *users.second, users.keep("second"));
+        get(*m_first, u"first "_s);
+        get(*m_second, u"second "_s);
         // One is answered, but destroyed before the answer is given.
-        emit sender.answered(sender.requests.at(0), ok("late"));
-        users.first.reset();
-        emit sender.answered(sender.requests.at(1), ok("2"));
+        m_sender->answer(0, u"late"_s);
+        m_first.reset();
+        m_sender->answer(1, u"2"_s);
         QCoreApplication::processEvents();
-        QCOMPARE(users.answers, (QByteArrayList{"second:2"}));
-        QCOMPARE(sender.cancelled, (QList{sender.requests.at(0)}));
+        QCOMPARE(m_answers, QStringList{u"second 2"_s});
+        QCOMPARE(m_sender->cancelled, QList{m_sender->requests.front()});
     }
 
-    void aUserMayDestroyTheManager()
+    void aUserMayDestroyTheManagerWhichAnswersTheOthers()
     {
-        auto manager = std::make_unique<RequestManager>(
-            std::make_unique<ScriptedSender>(ScriptedSender::json("1")), nullptr);
-        Users users;
-        manager->get(anywhere, *users.first, [&](const Response &) { manager.reset(); });
-        manager->get(anywhere, *users.second, users.keep("second"));
+        m_manager->get(anywhere(), *m_first, [this](const Response &) { m_manager.reset(); });
+        get(*m_second, u"second "_s);
+        m_sender->answer(0, {});
         QCoreApplication::processEvents();
-        QVERIFY(!manager);
-        QCOMPARE(users.answers, (QByteArrayList{"second:" + goneReason.toUtf8()}));
+        QVERIFY(!m_manager);
+        QCOMPARE(m_answers, QStringList{u"second "_s + gone()});
     }
 
-    void destructionAnswersEveryoneWhoIsLeft()
+    void whoeverIsAnsweredAtTheEndMayDestroyOthersAndAskAgain()
     {
-        QObject parent;
-        auto *manager = new RequestManager(
-            std::make_unique<ScriptedSender>(ScriptedSender::silence()), QtPtr<QObject>(&parent));
-        Users users;
-        manager->get(anywhere, *users.first, [&](const Response &response) {
-            users.keep("first")(response);
-            users.second.reset();
-            manager->get(anywhere, *users.first, users.keep("again"));
+        auto *manager = m_manager.get();
+        manager->get(anywhere(), *m_first, [this, manager](const Response &response) {
+            m_answers.append(response.failure());
+            m_second.reset();
+            manager->get(anywhere(), *m_first, keep(u"again: "_s));
         });
-        manager->get(anywhere, *users.second, users.keep("second"));
-        delete manager;
-        QCOMPARE(users.answers, (QByteArrayList{"first:" + goneReason.toUtf8()}));
+        get(*m_second, u"second "_s);
+        m_manager.reset();
+        QCOMPARE(m_answers, QStringList{gone()});
         QCoreApplication::processEvents();
-        QCOMPARE(users.answers, (QByteArrayList{"first:" + goneReason.toUtf8(),
-                                                "again:There is nothing to send requests with."}));
+        QCOMPARE(m_answers.mid(1),
+                 QStringList{u"again: There is nothing to send requests with."_s});
     }
+
+private:
+    static QUrl anywhere() { return QUrl(u"https://a.example/"_s); }
+    static QString gone() { return u"The request manager was destroyed before the answer came."_s; }
+    kiv::networking::NotifyingSender::Answer keep(const QString &who)
+    {
+        return [this, who](const Response &response) {
+            m_answers.append(who +
+                             (response.isSuccess() ? response.contentType() : response.failure()));
+        };
+    }
+    void get(QObject &user, const QString &who) { m_manager->get(anywhere(), user, keep(who)); }
+
+    QStringList m_answers;
+    ManualSender *m_sender = nullptr;
+    std::unique_ptr<RequestManager> m_manager;
+    std::unique_ptr<QObject> m_first;
+    std::unique_ptr<QObject> m_second;
 };
 
 QTEST_GUILESS_MAIN(tst_RequestManager)

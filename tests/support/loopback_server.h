@@ -7,6 +7,7 @@
 #include <QtNetwork/QTcpSocket>
 
 #include <functional>
+#include <map>
 #include <memory>
 
 /// A server on the loopback address that answers every request as a test tells
@@ -74,6 +75,19 @@ public:
     [[nodiscard]] static Behaviour redirect(const QByteArray &target)
     {
         return answer({}, "text/plain", "302 Found", "Location: " + target + "\r\n");
+    }
+
+    /// Servers that answer `good`, an answer of JSON, badly in all ways.
+    [[nodiscard]] static std::map<const char *, Behaviour> badServers(const QByteArray &good)
+    {
+        const QByteArray head = "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n\r\n";
+        return {{"slow", endless(head, " ", 20)},
+                {"endless", endless(head, QByteArray(100'000, ' '))},
+                {"truncated", raw(head + good.left(good.size() - 1))},
+                {"redirecting", redirect("http://localhost/")},
+                {"wrong type", answer(good, "text/html")},
+                {"not JSON", answer("<html/>")},
+                {"refusing", answer(good, "application/json", "401 Unauthorized")}};
     }
 
 private:

@@ -6,6 +6,7 @@
 
 using kiv::updating::SemanticVersion;
 using kiv::updating::UpdateError;
+using namespace Qt::StringLiterals;
 
 class tst_SemanticVersion : public QObject {
     Q_OBJECT
@@ -13,55 +14,32 @@ class tst_SemanticVersion : public QObject {
 private slots:
     void isOrderedByPrecedence()
     {
-        // Those of one row have the same precedence and differ in the build.
-        const QList<QStringList> rows{
-            {QStringLiteral("0.9.255")},
-            {QStringLiteral("1.0.0-0"), QStringLiteral("1.0.0-0+0")},
-            {QStringLiteral("1.0.0-9")},
-            {QStringLiteral("1.0.0-10")},
-            {QStringLiteral("1.0.0-18446744073709551616")},
-            {QStringLiteral("1.0.0-18446744073709551617")},
-            {QStringLiteral("1.0.0--")},
-            {QStringLiteral("1.0.0-X")},
-            {QStringLiteral("1.0.0-alpha")},
-            {QStringLiteral("1.0.0-alpha.1")},
-            {QStringLiteral("1.0.0-alpha.beta")},
-            {QStringLiteral("1.0.0-beta")},
-            {QStringLiteral("1.0.0-beta.2")},
-            {QStringLiteral("1.0.0-beta.11")},
-            {QStringLiteral("1.0.0-beta-1")},
-            {QStringLiteral("1.0.0-rc.1"), QStringLiteral("1.0.0-rc.1+b.1")},
-            {QStringLiteral("1.0.0"), QStringLiteral("1.0.0+01"), QStringLiteral("1.0.0+a-b.c")},
-            {QStringLiteral("1.0.2")},
-            {QStringLiteral("1.0.10")},
-            {QStringLiteral("1.2.0")},
-            {QStringLiteral("1.10.0-rc.1")},
-            {QStringLiteral("2.0.0")},
-            {QStringLiteral("255.255.255")},
-        };
-        QList<std::pair<qsizetype, SemanticVersion>> versions;
-        for (qsizetype row = 0; row < rows.size(); ++row) {
-            for (const QString &text : rows.at(row)) {
+        // Those that are joined by "=" have the same precedence and differ in the build.
+        const auto rows = u"0.9.255 1.0.0-0=1.0.0-0+0 1.0.0-9 1.0.0-10 1.0.0-18446744073709551616 "
+                          "1.0.0-18446744073709551617 1.0.0-- 1.0.0-X 1.0.0-alpha 1.0.0-alpha.1 "
+                          "1.0.0-alpha.beta 1.0.0-beta 1.0.0-beta.2 1.0.0-beta.11 1.0.0-beta-1 "
+                          "1.0.0-rc.1=1.0.0-rc.1+b.1 1.0.0=1.0.0+01=1.0.0+a-b.c 1.0.2 1.0.10 1.2.0 "
+                          "1.10.0-rc.1 2.0.0 255.255.255"_s.split(u' ');
+        QList<std::pair<QString, SemanticVersion>> versions;
+        for (const QString &row : rows) {
+            for (const QString &text : row.split(u'=')) {
                 versions.append({row, SemanticVersion::fromText(text)});
                 QCOMPARE(toQString(versions.back().second), text);
             }
         }
         for (qsizetype i = 0; i < versions.size(); ++i) {
             for (qsizetype j = 0; j < versions.size(); ++j) {
-                const auto &a = versions.at(i).second;
-                const auto &b = versions.at(j).second;
+                const auto &[rowA, a] = versions.at(i);
+                const auto &[rowB, b] = versions.at(j);
                 const QString pair = toQString(a) + u' ' + toQString(b);
-                QVERIFY2((a <=> b) == (i <=> j), qPrintable(pair));
-                QVERIFY2((a == b) == (i == j), qPrintable(pair));
-                const bool isSameRow = versions.at(i).first == versions.at(j).first;
-                QVERIFY2(a.isNewerThan(b) == (i > j && !isSameRow), qPrintable(pair));
+                QVERIFY2((a <=> b) == (i <=> j) && (a == b) == (i == j), qPrintable(pair));
+                QVERIFY2(a.isNewerThan(b) == (i > j && rowA != rowB), qPrintable(pair));
             }
         }
     }
 
-    void refusesWhatIsNoVersion_data()
+    void refusesWhatIsNoVersion()
     {
-        QTest::addColumn<QString>("text");
         for (const char *text : {"",
                                  "1",
                                  "1.2",
@@ -89,24 +67,21 @@ private slots:
                                  "1.2.3+a+b",
                                  "1.2.3-+b",
                                  "\xd9\xa1.0.0"}) {
-            QTest::newRow(text) << QString::fromUtf8(text);
+            try {
+                (void)SemanticVersion::fromText(QString::fromUtf8(text));
+                QFAIL(text);
+            } catch (const UpdateError &) {
+            }
         }
-    }
-
-    void refusesWhatIsNoVersion()
-    {
-        QFETCH(const QString, text);
-        QVERIFY_EXCEPTION_THROWN((void)SemanticVersion::fromText(text), UpdateError);
     }
 
     void takesItsPartsForWhatTheyAre()
     {
-        const SemanticVersion version(1, 2, 3, QStringLiteral("rc.1"), QStringLiteral("5"));
-        QCOMPARE(version, SemanticVersion::fromText(QStringLiteral("1.2.3-rc.1+5")));
-        for (const auto &preRelease : {QStringLiteral("rc+5"), QString(), QStringLiteral("01")})
+        QCOMPARE(SemanticVersion(1, 2, 3, u"rc.1"_s, u"5"_s),
+                 SemanticVersion::fromText(u"1.2.3-rc.1+5"_s));
+        for (const QString &preRelease : {u"rc+5"_s, QString(), u"01"_s})
             QVERIFY_EXCEPTION_THROWN(SemanticVersion(1, 2, 3, preRelease), UpdateError);
-        QVERIFY_EXCEPTION_THROWN(SemanticVersion(1, 2, 3, std::nullopt, QStringLiteral("a+b")),
-                                 UpdateError);
+        QVERIFY_EXCEPTION_THROWN(SemanticVersion(1, 2, 3, std::nullopt, u"a+b"_s), UpdateError);
     }
 };
 
