@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "parsing/values.h"
+
+#include <functional>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace kiv::app {
+
+/// What stands behind an option in the help: the kind of its value.
+constexpr const char *valueWord(const QDate *)
+{
+    return "DATE";
+}
+constexpr const char *valueWord(const numira::Currency *)
+{
+    return "CURRENCY";
+}
+constexpr const char *valueWord(const Amount *)
+{
+    return "AMOUNT";
+}
+constexpr const char *valueWord(const foundation::Percentage *)
+{
+    return "PERCENT";
+}
+constexpr const char *valueWord(const std::chrono::days *)
+{
+    return "DAYS";
+}
+constexpr const char *valueWord(const std::chrono::hours *)
+{
+    return "HOURS";
+}
+constexpr const char *valueWord(const accounting::AccountNumber *)
+{
+    return "NUMBER";
+}
+constexpr const char *valueWord(const accounting::TransactionNumber *)
+{
+    return "NUMBER";
+}
+constexpr const char *valueWord(const void *)
+{
+    return "TEXT";
+}
+template <typename T>
+constexpr const char *valueWord(const std::optional<T> *)
+{
+    return valueWord(static_cast<const T *>(nullptr));
+}
+
+/// What every command understands besides its own arguments.
+struct Options {
+    QString file;
+    bool isJson = false;
+    bool isDryRun = false;
+    bool isVerbose = false;
+    std::optional<QDate> date;
+};
+
+/// The arguments of one command, where it declares them. A name in capitals
+/// ("NAME") is known by its place, one with dashes ("--name") is an option. The
+/// values must outlive the parsing of the command line.
+class Arguments {
+public:
+    Arguments(CLI::App &app, Options &options) : m_app(app), m_options(options) {}
+
+    template <typename T>
+    Arguments &required(const char *name, T &value, const char *help)
+    {
+        return add(name, reader(value), valueWord(&value), help, Presence::Required);
+    }
+    template <typename T>
+    Arguments &optional(const char *name, T &value, const char *help)
+    {
+        return add(name, reader(value), valueWord(&value), help, Presence::Optional);
+    }
+    /// May be given several times.
+    template <typename T>
+    Arguments &several(const char *name, std::vector<T> &values, const char *help)
+    {
+        return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
+                   Presence::Repeated);
+    }
+    /// Must be given at least once.
+    template <typename T>
+    Arguments &severalRequired(const char *name, std::vector<T> &values, const char *help)
+    {
+        return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
+                   Presence::RequiredRepeated);
+    }
+    Arguments &flag(const char *name, bool &value, const char *help);
+    /// The command takes --file.
+    Arguments &file();
+    /// The command takes --date, in place of today.
+    Arguments &dated(const char *help);
+
+private:
+    using Reader = std::function<void(const std::string &)>;
+    enum class Presence { Required, Optional, Repeated, RequiredRepeated };
+
+    template <typename T>
+    static Reader reader(T &value)
+    {
+        return [&value](const std::string &text) { readValue(text, value); };
+    }
+    template <typename T>
+    static Reader appender(std::vector<T> &values)
+    {
+        return [&values](const std::string &text) {
+            T value{};
+            readValue(text, value);
+            values.push_back(std::move(value));
+        };
+    }
+    Arguments &add(const char *name, const Reader &read, const char *word, const char *help,
+                   Presence presence);
+
+    CLI::App &m_app;
+    Options &m_options;
+};
+
+} // namespace kiv::app

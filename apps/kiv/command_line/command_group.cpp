@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "command_line/command_group.h"
+
+#include "program.h"
+
+#include <CLI/CLI.hpp>
+
+namespace kiv::app {
+
+CommandGroup CommandGroup::group(const char *name, const char *help)
+{
+    CLI::App *app = m_app.add_subcommand(name, help);
+    app->require_subcommand(1);
+    return {*app, m_program};
+}
+
+void CommandGroup::addCommand(const char *name, const char *help, CommandKind kind,
+                              const std::function<void(Arguments &)> &declare,
+                              const std::function<Report(Call &)> &run)
+{
+    CLI::App *app = m_app.add_subcommand(name, help);
+    Options &options = m_program.options();
+    Arguments arguments(*app, options);
+    declare(arguments);
+    if (kind != CommandKind::Standalone)
+        arguments.file();
+    arguments.flag("--json", options.isJson, "Print JSON for programs");
+    if (kind == CommandKind::Change)
+        arguments.flag("--dry-run", options.isDryRun, "Show what would come of it, save nothing");
+    arguments.flag("--verbose", options.isVerbose, "Show the log on standard error");
+    app->callback([&program = m_program, kind, run] { program.select(kind, run); });
+}
+
+} // namespace kiv::app

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "command_line/arguments.h"
+#include "output/report.h"
+#include "session.h"
+
+#include "foundation/clock.h"
+
+#include <memory>
+
+namespace kiv::app {
+
+class Program;
+
+/// What a command does with the budget file.
+enum class CommandKind {
+    Standalone, ///< nothing, or all by itself
+    Query,      ///< it reads it
+    Change,     ///< it reads it, and it is saved afterwards
+};
+
+/// One call of a command.
+struct Call {
+    Session &session;
+    const Options &options;
+    Program &program;
+
+    /// The day that stands for today.
+    [[nodiscard]] QDate date() const { return options.date.value_or(foundation::today()); }
+};
+
+/// A place in the tree of commands where commands are added. A command is a
+/// value with two members: `void declare(Arguments &)`, which ties its
+/// arguments to its fields, and `Report run(Call &) const`.
+class CommandGroup {
+public:
+    CommandGroup(CLI::App &app, Program &program) : m_app(app), m_program(program) {}
+
+    [[nodiscard]] CommandGroup group(const char *name, const char *help);
+
+    template <typename Command>
+    void add(const char *name, const char *help, CommandKind kind, Command command)
+    {
+        const auto held = std::make_shared<Command>(std::move(command));
+        addCommand(
+            name, help, kind, [held](Arguments &arguments) { held->declare(arguments); },
+            [held](Call &call) { return std::as_const(*held).run(call); });
+    }
+
+private:
+    void addCommand(const char *name, const char *help, CommandKind kind,
+                    const std::function<void(Arguments &)> &declare,
+                    const std::function<Report(Call &)> &run);
+
+    CLI::App &m_app;
+    Program &m_program;
+};
+
+} // namespace kiv::app

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/account_arguments.h"
+
+#include "output/json.h"
+
+namespace kiv::app {
+
+using accounting::AccountCode;
+using accounting::AccountNumber;
+using navigation::Navigator;
+
+void CodeChange::declare(Arguments &arguments)
+{
+    arguments.required("ACCOUNT", account, "The account's number or name")
+        .optional("--number", number, "The new number")
+        .optional("--name", name, "The new name")
+        .optional("--under", parent, "The account under which it is to stand")
+        .flag("--top-level", isTopLevel, "It is to stand under no other account");
+}
+
+AccountCode CodeChange::from(const AccountIndex &index) const
+{
+    return index.find(account).code();
+}
+
+AccountCode CodeChange::to(const AccountIndex &index) const
+{
+    if (parent && isTopLevel)
+        throw contradiction(QStringLiteral("--under"), QStringLiteral("--top-level"));
+    const AccountCode present = from(index);
+    std::optional<AccountNumber> under = present.parent();
+    if (parent)
+        under = index.find(*parent).code().number();
+    else if (isTopLevel)
+        under = std::nullopt;
+    const AccountCode changed(number.value_or(present.number()), name ? name->text : present.name(),
+                              under);
+    if (changed == present)
+        throw nothingToChange();
+    return changed;
+}
+
+void openOn(Session &session, AccountNumber account, const std::optional<QDate> &date)
+{
+    if (!date)
+        return;
+    const auto ledger = std::get<accounting::LedgerAccount>(session.ask(
+        &Navigator::showLedger, &Navigator::onSelectedLedger, AccountCode(account, std::nullopt)));
+    if (ledger.openedBy())
+        moveTo(session, *ledger.openedBy(), date);
+}
+
+void moveTo(Session &session, accounting::TransactionNumber number,
+            const std::optional<QDate> &date)
+{
+    if (!date)
+        return;
+    const accounting::Transaction posted = session.transaction(number);
+    const accounting::Transaction moved(*date, posted.debiting(), posted.crediting(),
+                                        posted.amount(), posted.description());
+    session.change(transactionOutcome, &Navigator::onUpdatedTransaction, number, moved);
+}
+
+Report accountReport(Session &session, AccountNumber number, const QString &sentence)
+{
+    const AccountIndex index = session.accounts();
+    const accounting::Account *account = index.find(number);
+    return Report(account ? toJson(*account, index) : QJsonObject()).line(sentence);
+}
+
+QString accountText(const AccountIndex &index, AccountNumber number)
+{
+    const accounting::Account *account = index.find(number);
+    return account ? accounting::presentationText(account->code())
+                   : accounting::presentationText(number);
+}
+
+} // namespace kiv::app

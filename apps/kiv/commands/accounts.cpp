@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// accounts, ledger, account add|recode|close|open|remove
+#include "commands/account_arguments.h"
+#include "commands/commands.h"
+
+#include "output/json.h"
+
+namespace kiv::app {
+
+using accounting::Account;
+using accounting::AccountCode;
+using accounting::AccountNumber;
+using navigation::Navigator;
+
+namespace {
+
+/// "open" and "closed" as people read them in a table.
+QString openWord(const QJsonValue &isOpen)
+{
+    return isOpen.toBool() ? QString() : QObject::tr("closed");
+}
+
+struct ListAccounts {
+    std::optional<accounting::AccountTypes> type;
+    bool isOpenOnly = false;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--type", type, "Only asset, equity, expense, liability or income")
+            .flag("--open", isOpenOnly, "Only accounts that are open");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        std::map<QString, const Account *> byPath;
+        for (const Account &account : index.accounts()) {
+            if ((!type || account.type() == *type) && !(isOpenOnly && account.isClosed()))
+                byPath.emplace(index.path(account.code().number()), &account);
+        }
+        QJsonArray rows;
+        for (const auto &[path, account] : byPath)
+            rows.append(toJson(*account, index));
+        return Report(rows).table({{QObject::tr("Number"), QStringLiteral("number")},
+                                   {QObject::tr("Account"), QStringLiteral("path")},
+                                   {QObject::tr("Balance"), QStringLiteral("balance")},
+                                   {QString(), QStringLiteral("open"), openWord}},
+                                  rows, QObject::tr("There are no accounts."));
+    }
+};
+
+struct ShowLedger {
+    QString account;
+    std::optional<QDate> from;
+    std::optional<QDate> to;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The account's number, name or path")
+            .optional("--from", from, "Only from this day on")
+            .optional("--to", to, "Only up to this day");
+    }
+
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const auto ledger = std::get<accounting::LedgerAccount>(call.session.ask(
+            &Navigator::showLedger, &Navigator::onSelectedLedger, index.find(account).code()));
+        const QJsonArray rows = lines(ledger, index);
+        const QJsonObject head = toJson(ledger, index);
+        return Report(QJsonObject{{QStringLiteral("account"), head},
+                                  {QStringLiteral("transactions"), rows}})
+            .heading(accounting::presentationText(ledger.code()))
+            .table({{QObject::tr("Number"), QStringLiteral("number")},
+                    {QObject::tr("Date"), QStringLiteral("date")},
+                    {QObject::tr("Description"), QStringLiteral("description")},
+                    {QObject::tr("Other account"), QStringLiteral("otherPath")},
+                    {QObject::tr("Change"), QStringLiteral("change")},
+                    {QObject::tr("Balance"), QStringLiteral("balance")},
+                    {QObject::tr("Status"), QStringLiteral("status")}},
+                   rows, QObject::tr("There are no transactions."));
+    }
+
+private:
+    /// The account's transactions by day, with the balance after each.
+    [[nodiscard]] QJsonArray lines(const accounting::LedgerAccount &ledger,
+                                   const AccountIndex &index) const
+    {
+        std::vector<accounting::Transaction> transactions;
+        for (const accounting::Transaction &transaction : ledger.transactions())
+            transactions.push_back(transaction);
+        std::ranges::stable_sort(transactions, {}, [](const accounting::Transaction &transaction) {
+            return transaction.occurredOn().toJulianDay();
+        });
+        const AccountNumber number = ledger.code().number();
+        numira::Money balance(ledger.balance().code());
+        QJsonArray rows;
+        for (const accounting::Transaction &transaction : transactions) {
+            const bool isDebited = transaction.debiting().number() == number;
+            const numira::Money &amount = transaction.amountFor(number);
+            const numira::Money change =
+                isDebited == accounting::isDebitNormal(ledger.type()) ? amount : -amount;
+            balance += change;
+            if ((from && transaction.occurredOn() < *from) ||
+                (to && transaction.occurredOn() > *to))
+                continue;
+            const AccountCode &other = isDebited ? transaction.crediting() : transaction.debiting();
+            QJsonObject row = toJson(transaction);
+            row.insert(QStringLiteral("change"), toJson(change));
+            row.insert(QStringLiteral("balance"), toJson(balance));
+            row.insert(QStringLiteral("status"), accounting::toQString(transaction.status()));
+            row.insert(QStringLiteral("otherPath"), index.path(other.number()));
+            rows.append(row);
+        }
+        return rows;
+    }
+};
+
+struct AddAccount {
+    NewName name;
+    accounting::AccountTypes type = accounting::AccountTypes::Unknown;
+    std::optional<AccountNumber> number;
+    std::optional<QString> parent;
+    std::optional<Amount> balance;
+    std::optional<numira::Currency> currency;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NAME", name, "The account's name")
+            .required("--type", type, "asset, equity, expense, liability or income")
+            .optional("--number", number, "Its number; the next free one otherwise")
+            .optional("--under", parent, "The account under which it stands")
+            .optional("--balance", balance, "Its opening balance; 0 otherwise")
+            .optional("--currency", currency, "Its currency; the preferred one otherwise")
+            .dated("The day of the opening balance");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const AccountIndex index = session.accounts();
+        const numira::Currency code = currency.value_or(session.preferredCurrency());
+        const AccountNumber chosen = number.value_or(index.nextNumber());
+        std::optional<AccountNumber> under;
+        if (parent)
+            under = index.find(*parent).code().number();
+        const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
+        session.change(accountOutcome, &Navigator::onAddedAct,
+                       Account(type, AccountCode(chosen, name.text, under), opening, false));
+        openOn(session, chosen, call.options.date);
+        return accountReport(session, chosen,
+                             QObject::tr("Added the account %1 %2.")
+                                 .arg(accounting::presentationText(chosen), name.text));
+    }
+};
+
+struct RecodeAccount {
+    CodeChange change;
+
+    void declare(Arguments &arguments) { change.declare(arguments); }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const AccountCode from = change.from(index);
+        const AccountCode to = change.to(index);
+        call.session.change(accountOutcome, &Navigator::onRecoded, from, to);
+        return accountReport(
+            call.session, to.number(),
+            QObject::tr("The account %1 is now %2.")
+                .arg(accounting::presentationText(from), accounting::presentationText(to)));
+    }
+};
+
+/// close, open and remove differ in their slot and their sentence alone.
+struct AccountVerb {
+    void (Navigator::*slot)(const AccountCode &);
+    QString sentence;
+    QString account = {};
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The account's number, name or path");
+    }
+    Report run(Call &call) const
+    {
+        const AccountCode code = call.session.accounts().find(account).code();
+        call.session.change(accountOutcome, slot, code);
+        return accountReport(call.session, code.number(),
+                             sentence.arg(accounting::presentationText(code)));
+    }
+};
+
+} // namespace
+
+void addAccountCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    root.add("accounts", "List all accounts with their balances", Query, ListAccounts{});
+    root.add("ledger", "List the transactions of an account", Query, ShowLedger{});
+
+    CommandGroup account = root.group("account", "Accounts of the ledger");
+    account.add("add", "Open an account", Change, AddAccount{});
+    account.add("recode", "Change an account's number, name or parent", Change, RecodeAccount{});
+    account.add("close", "Close an account", Change,
+                AccountVerb{&Navigator::onClosed, QObject::tr("Closed the account %1.")});
+    account.add("open", "Open a closed account again", Change,
+                AccountVerb{&Navigator::onOpened, QObject::tr("Opened the account %1 again.")});
+    account.add("remove", "Remove an account without transactions", Change,
+                AccountVerb{&Navigator::onRemovedAct, QObject::tr("Removed the account %1.")});
+}
+
+} // namespace kiv::app

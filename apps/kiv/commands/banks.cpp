@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// banks, bank add|rename|close|open|remove, bank-account add|attach|detach|rename|remove
+#include "commands/account_arguments.h"
+#include "commands/commands.h"
+
+#include "output/json.h"
+
+namespace kiv::app {
+
+using accounting::AccountCode;
+using accounting::AccountNumber;
+using banking::Bank;
+using banking::BankName;
+using navigation::Navigator;
+
+namespace {
+
+Report bankReport(Session &session, const BankName &name, const QString &sentence)
+{
+    const banking::BankMap banks = session.banks();
+    QJsonObject json;
+    if (banks.hasBank(name))
+        json = toJson(banks.bank(name), session.accounts());
+    return Report(json).line(sentence);
+}
+
+struct ListBanks {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        QJsonArray banks;
+        for (const auto &[name, bank] : call.session.banks())
+            banks.append(toJson(bank, index));
+        Report report{QJsonValue(banks)};
+        if (banks.isEmpty())
+            report.line(QObject::tr("There are no banks."));
+        for (const QJsonValue &bank : banks) {
+            const QString name = bank[QLatin1String("name")].toString();
+            report
+                .heading(bank[QLatin1String("open")].toBool()
+                             ? name
+                             : QObject::tr("%1 (closed)").arg(name))
+                .table({{QObject::tr("Number"), QStringLiteral("number")},
+                        {QObject::tr("Account"), QStringLiteral("name")},
+                        {QObject::tr("Kind"), QStringLiteral("type")},
+                        {QObject::tr("Balance"), QStringLiteral("balance")}},
+                       bank[QLatin1String("accounts")].toArray(),
+                       QObject::tr("It keeps no accounts."));
+        }
+        return report;
+    }
+};
+
+struct AddBank {
+    NewName name;
+
+    void declare(Arguments &arguments) { arguments.required("BANK", name, "The bank's name"); }
+    Report run(Call &call) const
+    {
+        const Bank bank(BankName(name.text), {}, false);
+        call.session.change(bankOutcome, &Navigator::onBankAdded, bank);
+        return bankReport(call.session, bank.name(),
+                          QObject::tr("Added the bank '%1'.").arg(name.text));
+    }
+};
+
+struct RenameBank {
+    QString bank;
+    NewName name;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("BANK", bank, "The bank's name")
+            .required("NEW-NAME", name, "Its new name");
+    }
+    Report run(Call &call) const
+    {
+        const BankName to(name.text);
+        call.session.change(bankOutcome, &Navigator::onBankRenamed, BankName(bank), to);
+        return bankReport(call.session, to,
+                          QObject::tr("The bank is now called '%1'.").arg(name.text));
+    }
+};
+
+/// close, open and remove differ in their slot and their sentence alone.
+struct BankVerb {
+    void (Navigator::*slot)(const BankName &);
+    QString sentence;
+    QString bank = {};
+
+    void declare(Arguments &arguments) { arguments.required("BANK", bank, "The bank's name"); }
+    Report run(Call &call) const
+    {
+        const BankName name = call.session.bank(bank).name();
+        call.session.change(bankOutcome, slot, name);
+        return bankReport(call.session, name, sentence.arg(bank));
+    }
+};
+
+void associate(Session &session, const Bank &bank, AccountNumber number,
+               std::optional<banking::BankAccountTypes> type)
+{
+    Bank::Accounts accounts = bank.accounts();
+    if (type)
+        accounts.insert_or_assign(number, *type);
+    else
+        accounts.erase(number);
+    session.change(bankOutcome, &Navigator::onBankUpdated,
+                   Bank(bank.name(), std::move(accounts), false));
+}
+
+struct AddBankAccount {
+    NewName name;
+    QString bank;
+    banking::BankAccountTypes type = banking::BankAccountTypes::Checking;
+    std::optional<Amount> balance;
+    std::optional<numira::Currency> currency;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NAME", name, "The account's name")
+            .required("--bank", bank, "The bank that keeps it")
+            .optional("--type", type,
+                      "checking (unless given), savings, credit-card, loan, line-of-credit, "
+                      "money-market or cash")
+            .optional("--balance", balance, "Its opening balance; 0 otherwise")
+            .optional("--currency", currency, "Its currency; the preferred one otherwise")
+            .dated("The day of the opening balance");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const Bank keeper = session.bank(bank);
+        const numira::Currency code = currency.value_or(session.preferredCurrency());
+        const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
+        const auto answers = session.change(bankAccountOutcome, &Navigator::onAddedBankAccount,
+                                            name.text, type, opening);
+        const AccountCode added = std::get<AccountCode>(answers.front());
+        associate(session, keeper, added.number(), type);
+        openOn(session, added.number(), call.options.date);
+        return accountReport(session, added.number(),
+                             QObject::tr("Added the account %1 at the bank '%2'.")
+                                 .arg(accounting::presentationText(added), bank));
+    }
+};
+
+struct AttachBankAccount {
+    QString account;
+    QString bank;
+    banking::BankAccountTypes type = banking::BankAccountTypes::Unknown;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "An account of the ledger")
+            .required("--bank", bank, "The bank that keeps it")
+            .required("--type", type,
+                      "checking, savings, credit-card, loan, goal-sub-account, line-of-credit, "
+                      "money-market or cash");
+    }
+    Report run(Call &call) const
+    {
+        const AccountCode code = call.session.accounts().find(account).code();
+        const Bank keeper = call.session.bank(bank);
+        associate(call.session, keeper, code.number(), type);
+        return bankReport(call.session, keeper.name(),
+                          QObject::tr("The bank '%1' keeps the account %2 now.")
+                              .arg(bank, accounting::presentationText(code)));
+    }
+};
+
+struct DetachBankAccount {
+    QString account;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The account, which stays in the ledger");
+    }
+    Report run(Call &call) const
+    {
+        const AccountCode code = call.session.accounts().find(account).code();
+        const banking::BankMap banks = call.session.banks();
+        const std::optional<BankName> keeper = banks.find(code.number());
+        if (!keeper)
+            throw notABankAccount(account);
+        associate(call.session, banks.bank(*keeper), code.number(), std::nullopt);
+        return bankReport(call.session, *keeper,
+                          QObject::tr("The bank '%1' no longer keeps the account %2.")
+                              .arg(keeper->institution(), accounting::presentationText(code)));
+    }
+};
+
+struct RenameBankAccount {
+    CodeChange change;
+
+    void declare(Arguments &arguments) { change.declare(arguments); }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const AccountCode from = change.from(index);
+        const AccountCode to = change.to(index);
+        call.session.change(bankAccountOutcome, &Navigator::onRenamedBankAccount, from, to);
+        return accountReport(
+            call.session, to.number(),
+            QObject::tr("The bank account %1 is now %2.")
+                .arg(accounting::presentationText(from), accounting::presentationText(to)));
+    }
+};
+
+struct RemoveBankAccount {
+    QString account;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The account's number, name or path");
+    }
+    Report run(Call &call) const
+    {
+        const AccountCode code = call.session.accounts().find(account).code();
+        call.session.change(bankAccountOutcome, &Navigator::onRemovedBankAccount, code);
+        return accountReport(
+            call.session, code.number(),
+            QObject::tr("Removed the bank account %1.").arg(accounting::presentationText(code)));
+    }
+};
+
+} // namespace
+
+void addBankCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    root.add("banks", "List all banks with their accounts", Query, ListBanks{});
+
+    CommandGroup bank = root.group("bank", "Banks");
+    bank.add("add", "Add a bank", Change, AddBank{});
+    bank.add("rename", "Give a bank another name", Change, RenameBank{});
+    bank.add("close", "Close a bank with its accounts", Change,
+             BankVerb{&Navigator::onBankClosed, QObject::tr("Closed the bank '%1'.")});
+    bank.add("open", "Open a closed bank again", Change,
+             BankVerb{&Navigator::onBankOpened, QObject::tr("Opened the bank '%1' again.")});
+    bank.add("remove", "Remove a bank with its accounts", Change,
+             BankVerb{&Navigator::onBankRemoved, QObject::tr("Removed the bank '%1'.")});
+
+    CommandGroup account = root.group("bank-account", "Accounts that banks keep");
+    account.add("add", "Open an account at a bank", Change, AddBankAccount{});
+    account.add("attach", "Let a bank keep an account of the ledger", Change, AttachBankAccount{});
+    account.add("detach", "Take an account from its bank", Change, DetachBankAccount{});
+    account.add("rename", "Change a bank account's number, name or parent", Change,
+                RenameBankAccount{});
+    account.add("remove", "Remove a bank account", Change, RemoveBankAccount{});
+}
+
+} // namespace kiv::app

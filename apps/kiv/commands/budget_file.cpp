@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// new, info, save-as
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+
+#include <QtCore/QFileInfo>
+
+namespace kiv::app {
+
+using navigation::Navigator;
+
+namespace {
+
+QJsonObject fileJson(const Session &session)
+{
+    return {{QStringLiteral("file"), session.file()}};
+}
+
+struct New {
+    QString file;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("FILE", file, "The file to be made; .budget is appended").file();
+    }
+    Report run(Call &call) const
+    {
+        QString path = file.isEmpty() ? call.options.file : file;
+        if (path.isEmpty())
+            path = qEnvironmentVariable("KIV_FILE");
+        if (path.isEmpty())
+            throw noFileNamed();
+        (void)call.session.ask(&Navigator::showNewBudget, &Navigator::onPrepareNewBudgetEmpty);
+        call.session.create(path);
+        return Report(fileJson(call.session))
+            .line(QObject::tr("Made the empty budget '%1'.").arg(call.session.file()));
+    }
+};
+
+struct SaveAs {
+    QString file;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("FILE", file, "The file to be made; .budget is appended");
+    }
+    Report run(Call &call) const
+    {
+        call.session.create(file);
+        return Report(fileJson(call.session))
+            .line(QObject::tr("Saved the budget as '%1'.").arg(call.session.file()));
+    }
+};
+
+/// The amounts that stand on one side of all transactions, summed up account by
+/// account, in each currency.
+QJsonArray sideTotals(const AccountIndex &index, bool isDebit)
+{
+    std::map<numira::Currency, numira::Money> totals;
+    for (const accounting::Account &account : index.accounts()) {
+        const accounting::AccountNumber number = account.code().number();
+        for (const accounting::Transaction &transaction : account.transactions()) {
+            const auto &side = isDebit ? transaction.debiting() : transaction.crediting();
+            if (side.number() == number)
+                totals[account.balance().code()] += transaction.amountFor(number);
+        }
+    }
+    QJsonArray json;
+    for (const auto &[currency, total] : totals)
+        json.append(toJson(total));
+    return json;
+}
+
+struct Info {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const budgeting::Budget budget = BudgetView(call.session).budget();
+        QJsonObject items;
+        budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+            items.insert(QLatin1String(budgeting::ItemTraits<Item>::word),
+                         static_cast<qint64>(budget.items<Item>().size()));
+        });
+        QJsonObject json = fileJson(call.session);
+        json.insert(QStringLiteral("bytes"), QFileInfo(call.session.file()).size());
+        json.insert(QStringLiteral("accounts"), static_cast<qint64>(index.accounts().size()));
+        json.insert(QStringLiteral("transactions"),
+                    static_cast<qint64>(call.session.transactions().size()));
+        json.insert(QStringLiteral("banks"), static_cast<qint64>(call.session.banks().size()));
+        json.insert(QStringLiteral("items"), items);
+        json.insert(QStringLiteral("debits"), sideTotals(index, true));
+        json.insert(QStringLiteral("credits"), sideTotals(index, false));
+
+        const auto amounts = [&call](const QJsonValue &value) {
+            return amountsText(value.toArray(), call.session.displayAs());
+        };
+        const auto counts = [](const QJsonValue &value) {
+            QStringList texts;
+            const QJsonObject object = value.toObject();
+            for (auto count = object.begin(); count != object.end(); ++count)
+                texts += count.key() + u' ' + QString::number(count.value().toInteger());
+            return texts.join(QStringLiteral(", "));
+        };
+        return Report(json).list(
+            {{QObject::tr("File"), QStringLiteral("file")},
+             {QObject::tr("Bytes"), QStringLiteral("bytes")},
+             {QObject::tr("Accounts"), QStringLiteral("accounts")},
+             {QObject::tr("Transactions"), QStringLiteral("transactions")},
+             {QObject::tr("Banks"), QStringLiteral("banks")},
+             {QObject::tr("Items"), QStringLiteral("items"), counts},
+             {QObject::tr("Sum of debits"), QStringLiteral("debits"), amounts},
+             {QObject::tr("Sum of credits"), QStringLiteral("credits"), amounts}},
+            json);
+    }
+};
+
+} // namespace
+
+void addBudgetFileCommands(CommandGroup &root)
+{
+    root.add("new", "Make an empty budget file", CommandKind::Standalone, New{});
+    root.add("info", "Tell what the budget holds", CommandKind::Query, Info{});
+    root.add("save-as", "Save the budget as another file", CommandKind::Query, SaveAs{});
+}
+
+} // namespace kiv::app

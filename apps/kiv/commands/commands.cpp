@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/commands.h"
+
+namespace kiv::app {
+
+void addCommands(CommandGroup &root)
+{
+    addBudgetFileCommands(root);
+    addWizardCommands(root);
+    addAccountCommands(root);
+    addBankCommands(root);
+    addItemCommands(root);
+    addDueCommands(root);
+    addTransactionCommands(root);
+    addSurveyCommands(root);
+    addDashboardCommands(root);
+    addConfigurationCommands(root);
+    addRatesCommands(root);
+    addReleaseCommands(root);
+    addExportCommands(root);
+    addShellCommands(root);
+    addTourCommand(root);
+}
+
+} // namespace kiv::app

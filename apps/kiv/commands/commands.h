@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "command_line/command_group.h"
+
+namespace kiv::app {
+
+// Each adds the commands of its file, in the order in which the help lists them.
+void addBudgetFileCommands(CommandGroup &root);
+void addAccountCommands(CommandGroup &root);
+void addBankCommands(CommandGroup &root);
+void addItemCommands(CommandGroup &root);
+void addDueCommands(CommandGroup &root);
+void addSurveyCommands(CommandGroup &root);
+void addTransactionCommands(CommandGroup &root);
+void addDashboardCommands(CommandGroup &root);
+void addConfigurationCommands(CommandGroup &root);
+void addRatesCommands(CommandGroup &root);
+void addReleaseCommands(CommandGroup &root);
+void addWizardCommands(CommandGroup &root);
+void addExportCommands(CommandGroup &root);
+void addShellCommands(CommandGroup &root);
+void addTourCommand(CommandGroup &root);
+
+/// Every command that there is.
+void addCommands(CommandGroup &root);
+
+} // namespace kiv::app

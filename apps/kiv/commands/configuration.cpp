@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// configure show|set, tags list|remove
+#include "commands/commands.h"
+
+#include "foundation/presentation.h"
+#include "navigation/configuration.h"
+
+namespace kiv::app {
+
+using navigation::ConfigurationData;
+using navigation::Navigator;
+
+namespace {
+
+constexpr Outcome configureOutcome{&Navigator::configureSaveSucceeded,
+                                   &Navigator::configureSaveFailed};
+
+struct DisplayOption {
+    navigation::CurrencyDisplayOptions value = navigation::CurrencyDisplayOptions::IsoCode;
+};
+
+void readValue(const std::string &text, DisplayOption &option)
+{
+    using enum navigation::CurrencyDisplayOptions;
+    static const std::vector<std::pair<QString, navigation::CurrencyDisplayOptions>> words{
+        {QStringLiteral("code"), IsoCode},
+        {QStringLiteral("symbol"), Symbol},
+        {QStringLiteral("both"), SymbolAndCode}};
+    QStringList choices;
+    for (const auto &[word, value] : words) {
+        if (QString::fromStdString(text) == word) {
+            option.value = value;
+            return;
+        }
+        choices += word;
+    }
+    throw notAChoice(QString::fromStdString(text), choices);
+}
+
+ConfigurationData present(Session &session)
+{
+    return std::get<ConfigurationData>(
+        session.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
+}
+
+QJsonArray tagNames(const tagging::Tags &tags)
+{
+    QJsonArray names;
+    for (const tagging::Tag &tag : tags)
+        names.append(tag.name());
+    return names;
+}
+
+Report configurationReport(Session &session)
+{
+    const ConfigurationData data = present(session);
+    QJsonArray usable;
+    for (const numira::Currency &currency : data.usableCurrencies)
+        usable.append(foundation::toQString(currency));
+    const QJsonObject json{
+        {QStringLiteral("preferredCurrency"), foundation::toQString(data.preferredCurrency)},
+        {QStringLiteral("usableCurrencies"), usable},
+        {QStringLiteral("currenciesDisplayAs"), navigation::toQString(data.currenciesDisplayAs)},
+        {QStringLiteral("notifyDueWithinDays"), qint64{data.notifyDueWithin.count()}},
+        {QStringLiteral("surveyWindowPercent"), data.surveyWindow.rate()},
+        {QStringLiteral("hoursInWeek"), qint64{data.hoursInWeek.count()}},
+        {QStringLiteral("daysInWeek"), qint64{data.daysInWeek.count()}}};
+    const auto percent = [](const QJsonValue &value) {
+        return QString::number(value.toDouble()) + QStringLiteral(" %");
+    };
+    return Report(json).list(
+        {{QObject::tr("Preferred currency"), QStringLiteral("preferredCurrency")},
+         {QObject::tr("Usable currencies"), QStringLiteral("usableCurrencies")},
+         {QObject::tr("Currencies are shown by"), QStringLiteral("currenciesDisplayAs")},
+         {QObject::tr("Days in which items count as due"), QStringLiteral("notifyDueWithinDays")},
+         {QObject::tr("Survey window"), QStringLiteral("surveyWindowPercent"), percent},
+         {QObject::tr("Work hours a week"), QStringLiteral("hoursInWeek")},
+         {QObject::tr("Work days a week"), QStringLiteral("daysInWeek")}},
+        json);
+}
+
+struct ShowConfiguration {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        // Here what is wrong with the settings is of interest.
+        (void)call.session.gather(&Navigator::showConfigure,
+                                  [&call] { call.session.navigator().onPrepareShowConfigure(); });
+        return configurationReport(call.session);
+    }
+};
+
+struct SetConfiguration {
+    std::optional<numira::Currency> preferred;
+    std::vector<numira::Currency> usable;
+    std::optional<DisplayOption> display;
+    std::optional<std::chrono::days> notify;
+    std::optional<foundation::Percentage> window;
+    std::optional<std::chrono::hours> hours;
+    std::optional<std::chrono::days> days;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--preferred", preferred, "The currency of amounts without one")
+            .several("--usable", usable, "A usable currency; give all of them, one by one")
+            .optional("--display", display, "How currencies are shown: code, symbol or both")
+            .optional("--notify-within", notify, "How many days ahead items count as due")
+            .optional("--survey-window", window, "By how much a survey may miss the statement")
+            .optional("--hours", hours, "Work hours a week")
+            .optional("--days", days, "Work days a week");
+    }
+    Report run(Call &call) const
+    {
+        ConfigurationData data = present(call.session);
+        data.preferredCurrency = preferred.value_or(data.preferredCurrency);
+        if (!usable.empty())
+            data.usableCurrencies = {usable.begin(), usable.end()};
+        if (display)
+            data.currenciesDisplayAs = display->value;
+        data.notifyDueWithin = notify.value_or(data.notifyDueWithin);
+        data.surveyWindow = window.value_or(data.surveyWindow);
+        data.hoursInWeek = hours.value_or(data.hoursInWeek);
+        data.daysInWeek = days.value_or(data.daysInWeek);
+        call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
+        return configurationReport(call.session);
+    }
+};
+
+struct ListTags {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        const QJsonArray names = tagNames(present(call.session).tags);
+        Report report{QJsonValue(names)};
+        for (const QJsonValue &name : names)
+            report.line(name.toString());
+        return names.isEmpty() ? report.line(QObject::tr("There are no tags.")) : report;
+    }
+};
+
+struct RemoveTags {
+    std::vector<QString> tags;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.severalRequired("TAG", tags, "Tags to be taken from every budget item");
+    }
+    Report run(Call &call) const
+    {
+        ConfigurationData data = present(call.session);
+        tagging::Tags removed;
+        for (const QString &tag : tags) {
+            if (!data.tags.contains(tagging::Tag(tag)))
+                throw noSuchTag(tag);
+            removed.insert(tagging::Tag(tag));
+        }
+        data.tags = data.tags.without(removed);
+        call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
+        return Report(QJsonValue(tagNames(data.tags)))
+            .line(QObject::tr("Removed the tags %1.")
+                      .arg(QStringList(tags.begin(), tags.end()).join(QStringLiteral(", "))));
+    }
+};
+
+} // namespace
+
+void addConfigurationCommands(CommandGroup &root)
+{
+    CommandGroup configure = root.group("configure", "The user's settings");
+    configure.add("show", "Show the settings", CommandKind::Standalone, ShowConfiguration{});
+    configure.add("set", "Change settings; what is not given stays", CommandKind::Standalone,
+                  SetConfiguration{});
+
+    CommandGroup tags = root.group("tags", "Tags on budget items");
+    tags.add("list", "List all tags", CommandKind::Query, ListTags{});
+    tags.add("remove", "Take tags from every budget item", CommandKind::Change, RemoveTags{});
+}
+
+} // namespace kiv::app

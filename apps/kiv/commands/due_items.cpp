@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// due, post, pay, skip
+#include "commands/account_arguments.h"
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+
+namespace kiv::app {
+
+using budgeting::BudgetedMoney;
+using budgeting::BudgetItemAmountDue;
+using budgeting::BudgetItemDueIdentifier;
+using budgeting::BudgetItemTypes;
+using navigation::Navigator;
+
+namespace {
+
+/// What is due by the user's settings, or within other days of another day.
+std::vector<BudgetItemAmountDue> dueItems(Call &call, std::optional<std::chrono::days> within)
+{
+    auto answer = call.session.ask(&Navigator::showProcessBudgetItems,
+                                   &Navigator::onPrepareShowProcessBudgetItems);
+    if (!within && !call.options.date)
+        return std::get<std::vector<BudgetItemAmountDue>>(std::move(answer));
+    return budgeting::budgetItemsDue(within.value_or(std::get<std::chrono::days>(answer)),
+                                     BudgetView(call.session).budget(), call.date());
+}
+
+BudgetItemAmountDue dueOf(const BudgetedMoney &item)
+{
+    return {{budgeting::toBudgetItemTypes(item), item.source(), item.nextOccurOn()}, item.amount()};
+}
+
+/// The Navigator knows the items that it posts and skips by name alone and takes
+/// the first kind that has the name; another kind's item must not be meant then.
+void refuseShadowed(const budgeting::Budget &budget, const BudgetItemDueIdentifier &id)
+{
+    budget.forEach([&id](const BudgetedMoney &item) {
+        const BudgetItemTypes kind = budgeting::toBudgetItemTypes(item);
+        if (kind < id.type && item.source() == id.source)
+            throw shadowedItem(kindWord(id.type), kindWord(kind), id.source.name());
+    });
+}
+
+/// An item's transaction as JSON, next to the item.
+QJsonObject postedJson(Session &session, const std::optional<accounting::TransactionNumber> &number,
+                       const BudgetItemDueIdentifier &id)
+{
+    QJsonObject json;
+    if (number)
+        json = toJson(session.transaction(*number));
+    json.insert(QStringLiteral("kind"), kindWord(id.type));
+    json.insert(QStringLiteral("name"), id.source.name());
+    return json;
+}
+
+/// Which item is meant.
+struct ItemArgument {
+    QString name;
+    std::optional<BudgetItemTypes> kind;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ITEM", name, "The budget item's name")
+            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat");
+    }
+    [[nodiscard]] BudgetItemAmountDue due(const BudgetView &view) const
+    {
+        return dueOf(view.find(name, kind));
+    }
+};
+
+struct ListDue {
+    std::optional<std::chrono::days> within;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--within", within, "How many days ahead; as configured otherwise")
+            .dated("Today, or another day in its place");
+    }
+    Report run(Call &call) const
+    {
+        QJsonArray rows;
+        const qint64 today = call.date().toJulianDay();
+        for (const BudgetItemAmountDue &due : dueItems(call, within)) {
+            QJsonObject row = toJson(due);
+            row.insert(QStringLiteral("inDays"), due.id.dueOn.toJulianDay() - today);
+            rows.append(row);
+        }
+        const auto when = [](const QJsonValue &inDays) {
+            const qint64 days = inDays.toInteger();
+            if (days < -1)
+                return QObject::tr("%1 days late").arg(-days);
+            if (days < 2)
+                return days < 0    ? QObject::tr("1 day late")
+                       : days == 0 ? QObject::tr("today")
+                                   : QObject::tr("tomorrow");
+            return QObject::tr("in %1 days").arg(days);
+        };
+        return Report(QJsonValue(rows))
+            .table({{QObject::tr("Due"), QStringLiteral("due")},
+                    {QObject::tr("Item"), QStringLiteral("name")},
+                    {QObject::tr("Kind"), QStringLiteral("kind")},
+                    {QObject::tr("Amount"), QStringLiteral("amount")},
+                    {QObject::tr("When"), QStringLiteral("inDays"), when}},
+                   rows, QObject::tr("Nothing is due."));
+    }
+};
+
+struct PostDue {
+    std::optional<QString> name;
+    std::optional<BudgetItemTypes> kind;
+    QString account;
+    bool isAll = false;
+    std::optional<Amount> amount;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("ITEM", name, "The budget item's name")
+            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat")
+            .required("--account", account, "The account that pays, or that a wage goes to")
+            .optional("--amount", amount, "Another amount than the item's")
+            .flag("--all", isAll, "Post everything that is due by now, in place of one item")
+            .dated("The day of posting; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        if (isAll == name.has_value())
+            throw isAll ? contradiction(QStringLiteral("--all"), QStringLiteral("ITEM"))
+                        : missing(QStringLiteral("ITEM"));
+        if (isAll && amount)
+            throw contradiction(QStringLiteral("--all"), QStringLiteral("--amount"));
+        Session &session = call.session;
+        const accounting::AccountCode code = session.accounts().find(account).code();
+        QJsonArray rows;
+        Report report;
+        const BudgetView view(session);
+        for (const BudgetItemAmountDue &due : chosen(call, view)) {
+            refuseShadowed(view.budget(), due.id);
+            for (const auto &[id, number] : session.change(
+                     dueOutcome, &Navigator::onPostBudgetItemPosted, due, code, call.date())) {
+                rows.append(postedJson(session, number, id));
+                report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
+                                .arg(kindWord(id.type), id.source.name(),
+                                     due.id.dueOn.toString(Qt::ISODate),
+                                     amountText(toJson(due.amount), session.displayAs())));
+            }
+        }
+        if (rows.isEmpty())
+            report.line(QObject::tr("Nothing is due."));
+        report.setData(isAll ? QJsonValue(rows) : rows.first());
+        return report;
+    }
+
+private:
+    [[nodiscard]] std::vector<BudgetItemAmountDue> chosen(Call &call, const BudgetView &view) const
+    {
+        if (isAll)
+            return dueItems(call, std::chrono::days(0));
+        BudgetItemAmountDue due = dueOf(view.find(*name, kind));
+        if (amount)
+            due.amount = amount->in(due.amount.code());
+        return {due};
+    }
+};
+
+struct PayUnexpected {
+    ItemArgument item;
+    Amount amount;
+    QString account;
+
+    void declare(Arguments &arguments)
+    {
+        item.declare(arguments);
+        arguments.required("AMOUNT", amount, "What is paid, or what came in for a wage")
+            .required("--account", account, "The account that pays, or that a wage goes to")
+            .dated("The day of posting; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const BudgetItemAmountDue due = item.due(BudgetView(session));
+        const numira::Money money = amount.in(due.amount.code());
+        const accounting::AccountCode code = session.accounts().find(account).code();
+        const auto answers =
+            session.change(dueOutcome, &Navigator::onPostBudgetItemPostedUnexpected, due.id, money,
+                           code, call.date());
+        const auto &[id, number] = answers.front();
+        return Report(postedJson(session, number, id))
+            .line(QObject::tr("Posted %1 for the %2 '%3', which is still due on %4.")
+                      .arg(amountText(toJson(money), session.displayAs()), kindWord(id.type),
+                           id.source.name(), due.id.dueOn.toString(Qt::ISODate)));
+    }
+};
+
+struct SkipDue {
+    ItemArgument item;
+
+    void declare(Arguments &arguments) { item.declare(arguments); }
+    Report run(Call &call) const
+    {
+        const BudgetView before(call.session);
+        const BudgetItemAmountDue due = item.due(before);
+        refuseShadowed(before.budget(), due.id);
+        call.session.change(dueOutcome, &Navigator::onPostBudgetItemSkipped, due.id);
+        const BudgetView view(call.session);
+        const BudgetedMoney &skipped = view.find(item.name, due.id.type);
+        return Report(view.json(skipped))
+            .line(QObject::tr("Skipped the %1 '%2' due on %3; it is next due on %4.")
+                      .arg(kindWord(due.id.type), item.name, due.id.dueOn.toString(Qt::ISODate),
+                           skipped.nextOccurOn().toString(Qt::ISODate)));
+    }
+};
+
+} // namespace
+
+void addDueCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    root.add("due", "List what is due", Query, ListDue{});
+    root.add("post", "Post a budget item that is due", Change, PostDue{});
+    root.add("pay", "Post an unexpected amount for a budget item", Change, PayUnexpected{});
+    root.add("skip", "Skip a budget item once, without posting", Change, SkipDue{});
+}
+
+} // namespace kiv::app

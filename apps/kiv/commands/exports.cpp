@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// export
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/journal.h"
+#include "output/json.h"
+
+namespace kiv::app {
+namespace {
+
+enum class ExportFormat { Journal, Csv, Json };
+
+void readValue(const std::string &text, ExportFormat &value)
+{
+    static const std::map<QString, ExportFormat> formats{
+        {QStringLiteral("journal"), ExportFormat::Journal},
+        {QStringLiteral("csv"), ExportFormat::Csv},
+        {QStringLiteral("json"), ExportFormat::Json}};
+    const auto found = formats.find(QString::fromStdString(text));
+    if (found == formats.end()) {
+        throw notAChoice(
+            QString::fromStdString(text),
+            {QStringLiteral("journal"), QStringLiteral("csv"), QStringLiteral("json")});
+    }
+    value = found->second;
+}
+
+QJsonObject everything(Session &session, const AccountIndex &index,
+                       const std::vector<accounting::Transaction> &transactions)
+{
+    QJsonArray accounts;
+    for (const accounting::Account &account : index.accounts())
+        accounts.append(toJson(account, index));
+    QJsonArray banks;
+    for (const auto &[name, bank] : session.banks())
+        banks.append(toJson(bank, index));
+    QJsonArray items;
+    const BudgetView view(session);
+    view.budget().forEach(
+        [&](const budgeting::BudgetedMoney &item) { items.append(view.json(item)); });
+    QJsonArray posted;
+    for (const accounting::Transaction &transaction : transactions)
+        posted.append(toJson(transaction));
+    return {{QStringLiteral("accounts"), accounts},
+            {QStringLiteral("banks"), banks},
+            {QStringLiteral("items"), items},
+            {QStringLiteral("transactions"), posted}};
+}
+
+struct Export {
+    ExportFormat format = ExportFormat::Journal;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--format", format, "journal (unless given), csv or json");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const std::vector<accounting::Transaction> transactions = call.session.transactions();
+        switch (format) {
+        case ExportFormat::Journal:
+            return Report().raw(toJournal(index, transactions));
+        case ExportFormat::Csv:
+            return Report().raw(toCsv(index, transactions));
+        case ExportFormat::Json:
+            break;
+        }
+        const Report report{QJsonValue(everything(call.session, index, transactions))};
+        return Report().raw(report.toJson());
+    }
+};
+
+} // namespace
+
+void addExportCommands(CommandGroup &root)
+{
+    root.add("export", "Write the ledger for other programs", CommandKind::Query, Export{});
+}
+
+} // namespace kiv::app

@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// bill|debt|goal|nontrack|wage add|update|rename|remove|list
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+
+namespace kiv::app {
+
+using banking::BankAccount;
+using budgeting::BudgetItemIdentifier;
+using budgeting::BudgetSource;
+using budgeting::EventFrequency;
+using budgeting::ItemTraits;
+using navigation::Navigator;
+
+namespace {
+
+/// The command has no views with elements, so one identifier serves all.
+constexpr navigation::GuiElementIdentifier caller(1);
+
+template <typename Item>
+QString wordOf()
+{
+    return QString::fromLatin1(ItemTraits<Item>::word);
+}
+
+/// What makes up an item besides its name, as far as it was given.
+template <budgeting::BudgetItem Item>
+struct ItemArguments {
+    std::optional<Amount> amount;
+    std::optional<EventFrequency> every;
+    std::optional<QDate> next;
+    std::vector<QString> tags;
+    std::optional<Amount> extra; ///< what was borrowed, or the target
+    std::optional<QString> bankAccount;
+    std::optional<QString> bank;
+    std::optional<banking::BankAccountTypes> type;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--every", every, "How often it recurs, such as monthly")
+            .optional("--next", next, "The next day on which it does")
+            .several("--tag", tags, "A tag to find it by; may be given several times");
+        if constexpr (std::same_as<Item, budgeting::Debt>) {
+            arguments.optional("--borrowed", extra, "What was borrowed: its account opens with it")
+                .optional("--bank,--bank-account", bank, "The bank that holds it")
+                .optional("--type", type, "The kind of account there: loan (unless given), …");
+        }
+        if constexpr (std::same_as<Item, budgeting::Goal>) {
+            arguments.optional("--target", extra, "What it is to come to")
+                .optional("--bank-account", bankAccount,
+                          "The bank account under which it is put aside");
+        }
+    }
+
+    [[nodiscard]] bool isEmpty() const
+    {
+        return !amount && !every && !next && tags.empty() && !extra && !bankAccount && !bank &&
+               !type;
+    }
+
+    /// The item of this name; what was not given is taken from `present`.
+    [[nodiscard]] Item item(const QString &name, const Item &present) const
+    {
+        const numira::Currency code = present.amount().code();
+        const numira::Money money = amount ? amount->in(code) : present.amount();
+        const EventFrequency period = every.value_or(present.period());
+        const QDate date = next.value_or(present.nextOccurOn());
+        const auto built = [&] {
+            if constexpr (budgeting::BankTiedItem<Item>) {
+                numira::Money sum = extraOf(present);
+                if (extra)
+                    sum = extra->in(money.code());
+                return Item(BudgetSource(name), money, period, date, sum);
+            } else {
+                return Item(BudgetSource(name), money, period, date);
+            }
+        };
+        Item made = built();
+        // An item that stands in a short month remembers the day it was given.
+        if (!next)
+            made.setDayOfMonth(present.dayOfMonth());
+        return made;
+    }
+
+    [[nodiscard]] tagging::Tags asTags() const
+    {
+        tagging::Tags made;
+        for (const QString &tag : tags)
+            made.insert(tagging::Tag(tag));
+        return made;
+    }
+
+    /// The bank account that was named, in the form in which the kind of item
+    /// is tied to one: a debt to a bank, a goal to an account.
+    [[nodiscard]] std::optional<BankAccount> named(Session &session) const
+    {
+        if (bank) {
+            const auto kind = type.value_or(banking::BankAccountTypes::Loan);
+            return BankAccount{session.bank(*bank).name(), {accounting::AccountNumber(), kind}};
+        }
+        if (type)
+            throw missing(QStringLiteral("--bank"));
+        if (!bankAccount)
+            return std::nullopt;
+        const accounting::AccountNumber number =
+            session.accounts().find(*bankAccount).code().number();
+        const banking::BankMap banks = session.banks();
+        const std::optional<banking::BankName> keeper = banks.find(number);
+        if (!keeper)
+            throw notABankAccount(*bankAccount);
+        return BankAccount{*keeper, {number, banks.bank(*keeper).accounts().at(number)}};
+    }
+
+private:
+    static const numira::Money &extraOf(const budgeting::Debt &debt) { return debt.borrowed(); }
+    static const numira::Money &extraOf(const budgeting::Goal &goal) { return goal.final(); }
+};
+
+Report itemReport(Session &session, const BudgetItemIdentifier &id, const QString &sentence)
+{
+    const BudgetView view(session);
+    const budgeting::BudgetedMoney *item = budgeting::findBudgetItem(id, view.budget());
+    return Report(item ? view.json(*item) : QJsonObject()).line(sentence);
+}
+
+template <budgeting::BudgetItem Item>
+struct AddItem {
+    NewName name;
+    ItemArguments<Item> arguments;
+    Amount amount;
+
+    void declare(Arguments &line)
+    {
+        line.required("NAME", name, "Its name").required("AMOUNT", amount, "What it comes to");
+        arguments.declare(line);
+        line.dated("Today, in place of --next");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        ItemArguments<Item> given = arguments;
+        given.amount = amount;
+        const numira::Money nothing(amount.currency.value_or(session.preferredCurrency()));
+        const Item item = given.item(name.text, blank(nothing, given.next.value_or(call.date())));
+        const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
+        session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
+                       given.named(session), tagging::BudgetItemTags::ItemTags(id, given.asTags()));
+        return itemReport(session, id,
+                          QObject::tr("Added the %1 '%2'.").arg(wordOf<Item>(), name.text));
+    }
+
+private:
+    static Item blank(const numira::Money &nothing, QDate date)
+    {
+        const auto monthly = EventFrequency::Monthly;
+        if constexpr (budgeting::BankTiedItem<Item>)
+            return Item(BudgetSource(), nothing, monthly, date, nothing);
+        else
+            return Item(BudgetSource(), nothing, monthly, date);
+    }
+};
+
+template <budgeting::BudgetItem Item>
+struct UpdateItem {
+    QString name;
+    ItemArguments<Item> arguments;
+    bool isUntied = false;
+    bool isUntagged = false;
+
+    void declare(Arguments &line)
+    {
+        line.required("NAME", name, "Its name")
+            .optional("--amount", arguments.amount, "What it comes to");
+        arguments.declare(line);
+        line.flag("--no-tags", isUntagged, "Take its tags away");
+        if constexpr (budgeting::BankTiedItem<Item>)
+            line.flag("--no-bank", isUntied, "Tie it to no bank any more");
+    }
+    Report run(Call &call) const
+    {
+        if (arguments.isEmpty() && !isUntied && !isUntagged)
+            throw nothingToChange();
+        if (isUntagged && !arguments.tags.empty())
+            throw contradiction(QStringLiteral("--no-tags"), QStringLiteral("--tag"));
+        Session &session = call.session;
+        const BudgetView view(session);
+        const std::optional<Item> present =
+            budgeting::findBudgetItem<Item>(BudgetSource(name), view.budget());
+        if (!present)
+            throw noSuchItem(wordOf<Item>(), name);
+        const BudgetItemIdentifier id{ItemTraits<Item>::type, present->source()};
+        const bool areTagsKept = arguments.tags.empty() && !isUntagged;
+        const tagging::Tags tags = areTagsKept ? view.tags(id) : arguments.asTags();
+        session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
+                       arguments.item(name, *present), bankAccount(session, view, id),
+                       tagging::BudgetItemTags::ItemTags(id, tags));
+        return itemReport(session, id,
+                          QObject::tr("Changed the %1 '%2'.").arg(wordOf<Item>(), name));
+    }
+
+private:
+    /// An update without a bank account would untie the item, so the one that
+    /// it has is sent along.
+    [[nodiscard]] std::optional<BankAccount> bankAccount(Session &session, const BudgetView &view,
+                                                         const BudgetItemIdentifier &id) const
+    {
+        const std::optional<BankAccount> named = arguments.named(session);
+        if (isUntied && named)
+            throw contradiction(QStringLiteral("--no-bank"), QStringLiteral("--bank"));
+        return named || isUntied ? named : view.bankAccount(id);
+    }
+};
+
+template <budgeting::BudgetItem Item>
+struct RenameItem {
+    QString name;
+    NewName changed;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NAME", name, "Its name").required("NEW-NAME", changed, "Its new name");
+    }
+    Report run(Call &call) const
+    {
+        const BudgetItemIdentifier id{ItemTraits<Item>::type, BudgetSource(changed.text)};
+        call.session.change(itemOutcome, &Navigator::onRenamed, caller, id.type, BudgetSource(name),
+                            id.source);
+        return itemReport(
+            call.session, id,
+            QObject::tr("The %1 '%2' is now called '%3'.").arg(wordOf<Item>(), name, changed.text));
+    }
+};
+
+template <budgeting::BudgetItem Item>
+struct RemoveItem {
+    QString name;
+
+    void declare(Arguments &arguments) { arguments.required("NAME", name, "Its name"); }
+    Report run(Call &call) const
+    {
+        const BudgetView view(call.session);
+        const QJsonObject json = view.json(view.find(name, ItemTraits<Item>::type));
+        call.session.change(itemOutcome, &Navigator::onRemoved, caller, ItemTraits<Item>::type,
+                            BudgetSource(name));
+        return Report(json).line(QObject::tr("Removed the %1 '%2'.").arg(wordOf<Item>(), name));
+    }
+};
+
+template <budgeting::BudgetItem Item>
+struct ListItems {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        const BudgetView view(call.session);
+        QJsonArray rows;
+        for (const auto &[source, item] : view.budget().items<Item>())
+            rows.append(view.json(item));
+        std::vector<Column> columns{{QObject::tr("Name"), QStringLiteral("name")},
+                                    {QObject::tr("Amount"), QStringLiteral("amount")},
+                                    {QObject::tr("Every"), QStringLiteral("every")},
+                                    {QObject::tr("Next"), QStringLiteral("next")}};
+        if constexpr (std::same_as<Item, budgeting::Debt>)
+            columns.push_back({QObject::tr("Borrowed"), QStringLiteral("borrowed")});
+        if constexpr (std::same_as<Item, budgeting::Goal>)
+            columns.push_back({QObject::tr("Target"), QStringLiteral("target")});
+        if constexpr (budgeting::BankTiedItem<Item>)
+            columns.push_back({QObject::tr("Bank"), QStringLiteral("bank")});
+        columns.push_back({QObject::tr("Tags"), QStringLiteral("tags")});
+        return Report(QJsonValue(rows)).table(columns, rows, QObject::tr("There are none."));
+    }
+};
+
+} // namespace
+
+void addItemCommands(CommandGroup &root)
+{
+    const auto addKind = [&root]<typename Item>(std::type_identity<Item>, const char *help) {
+        using enum CommandKind;
+        CommandGroup group = root.group(ItemTraits<Item>::word, help);
+        group.add("add", "Add one", Change, AddItem<Item>{});
+        group.add("update", "Change one; what is not given stays", Change, UpdateItem<Item>{});
+        group.add("rename", "Give one another name", Change, RenameItem<Item>{});
+        group.add("remove", "Remove one", Change, RemoveItem<Item>{});
+        group.add("list", "List all of them", Query, ListItems<Item>{});
+    };
+    addKind(std::type_identity<budgeting::Bill>{}, "Bills: what must be paid");
+    addKind(std::type_identity<budgeting::Debt>{}, "Debts: what was borrowed and is paid back");
+    addKind(std::type_identity<budgeting::Goal>{}, "Goals: what is put aside for a target");
+    addKind(std::type_identity<budgeting::Nontrack>{},
+            "Non-tracked items: what is spent without keeping track");
+    addKind(std::type_identity<budgeting::Wage>{}, "Wages: what comes in");
+}
+
+} // namespace kiv::app

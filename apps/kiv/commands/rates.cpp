@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// rates show|fetch|set
+#include "commands/commands.h"
+
+#include "conversion/conversion_map.h"
+#include "foundation/presentation.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <unistd.h>
+
+namespace kiv::app {
+
+using conversion::ConversionMap;
+using navigation::Navigator;
+
+namespace {
+
+/// A currency and its rate: "EUR=0.92".
+struct RateArgument {
+    numira::Currency currency;
+    numira::FloatingPoint rate;
+};
+
+void readValue(const std::string &text, RateArgument &value)
+{
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A([A-Za-z]{3})=(\d{1,20}(?:\.\d{1,20})?)\z)"));
+    const QString word = QString::fromStdString(text);
+    const QRegularExpressionMatch match = form.match(word);
+    if (!match.hasMatch())
+        throw notAnAssignment(word);
+    app::readValue(match.captured(1).toStdString(), value.currency);
+    value.rate = numira::FloatingPoint(match.captured(2).toStdString());
+}
+
+ConversionMap present(Session &session)
+{
+    return std::get<ConversionMap>(
+        session.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
+}
+
+Report ratesReport(const ConversionMap &map)
+{
+    QJsonArray rows;
+    for (const auto &[currency, rate] : map.rates()) {
+        rows.append(QJsonObject{
+            {QStringLiteral("currency"), foundation::toQString(currency)},
+            {QStringLiteral("rate"), QString::fromStdString(rate.str(12, std::ios::fmtflags()))}});
+    }
+    const QString base = map.isEmpty() ? QString() : foundation::toQString(map.base());
+    const QString time = map.fetchedAt().toString(Qt::ISODate);
+    Report report(QJsonObject{{QStringLiteral("base"), base},
+                              {QStringLiteral("fetchedAt"), time},
+                              {QStringLiteral("expired"), map.isExpired()},
+                              {QStringLiteral("rates"), rows}});
+    if (!map.isEmpty()) {
+        report.heading(map.isExpired()
+                           ? QObject::tr("For one %1, as of %2 (no longer current)").arg(base, time)
+                           : QObject::tr("For one %1, as of %2").arg(base, time));
+    }
+    return report.table({{QObject::tr("Currency"), QStringLiteral("currency")},
+                         {QObject::tr("Rate"), QStringLiteral("rate")}},
+                        rows, QObject::tr("No exchange rates are known."));
+}
+
+struct ShowRates {
+    void declare(Arguments &) {}
+    Report run(Call &call) const { return ratesReport(present(call.session)); }
+};
+
+struct FetchRates {
+    std::vector<numira::Currency> wanted;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.several("CURRENCY", wanted, "The currencies; the usable ones otherwise");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const auto shown =
+            session.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates);
+        std::set<numira::Currency> currencies(wanted.begin(), wanted.end());
+        if (currencies.empty())
+            currencies = std::get<std::set<numira::Currency>>(shown);
+        if (::isatty(STDERR_FILENO) != 0)
+            complain(QObject::tr("fetching exchange rates …"));
+        const QDateTime before = std::get<ConversionMap>(shown).fetchedAt();
+        const auto [map, warning] = session.quietly([&] {
+            return std::get<ConversionMap>(session.ask(
+                &Navigator::fetchedExchangeRates, &Navigator::onFetchExchangeRates, currencies));
+        });
+        // A fetch that failed answers with the rates as they were.
+        if (map.isEmpty() || map.fetchedAt() == before)
+            throw ratesNotFetched(warning);
+        session.navigator().onStoreExchangeRates(map);
+        return ratesReport(map);
+    }
+};
+
+struct SetRates {
+    numira::Currency base;
+    std::vector<RateArgument> rates;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("BASE", base, "The currency of which one unit is meant")
+            .severalRequired("CURRENCY=RATE", rates, "How much of another currency it buys");
+    }
+    Report run(Call &call) const
+    {
+        const ConversionMap known = present(call.session);
+        ConversionMap::Rates all;
+        if (!known.isEmpty() && known.base() == base)
+            all = known.rates();
+        for (const RateArgument &given : rates)
+            all.insert_or_assign(given.currency, given.rate);
+        const ConversionMap map(base, QDateTime::currentDateTimeUtc(), std::move(all));
+        call.session.navigator().onStoreExchangeRates(map);
+        return ratesReport(map);
+    }
+};
+
+} // namespace
+
+void addRatesCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    CommandGroup group = root.group("rates", "Exchange rates");
+    group.add("show", "Show the exchange rates that are known", Standalone, ShowRates{});
+    group.add("fetch", "Fetch the rates of the day", Standalone, FetchRates{});
+    group.add("set", "Set rates by hand", Standalone, SetRates{});
+}
+
+} // namespace kiv::app

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// updates check, release-notes
+#include "commands/commands.h"
+
+#include "output/json.h"
+
+#include "updating/release_information.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+
+#include <chrono>
+
+namespace kiv::app {
+
+using navigation::Navigator;
+using updating::ReleaseInformation;
+
+namespace {
+
+/// Somewhat longer than a request may take.
+constexpr std::chrono::seconds patience{40};
+
+/// The releases, the newest first. Throws a Refusal when no answer comes.
+std::vector<ReleaseInformation> fetchReleases(Session &session)
+{
+    std::optional<std::set<ReleaseInformation>> releases;
+    const auto [done, warning] = session.quietly([&] {
+        QEventLoop loop;
+        QObject::connect(&session.navigator(), &Navigator::fetchedReleaseNotes, &loop,
+                         [&](const std::set<ReleaseInformation> &versions) {
+                             releases = versions;
+                             loop.quit();
+                         });
+        QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+        // From within the loop, in case that the answer is there at once.
+        QTimer::singleShot(0, &session.navigator(), &Navigator::onFetchReleaseNotes);
+        return loop.exec() == 0;
+    });
+    if (!done || !releases || (releases->empty() && !warning.isEmpty()))
+        throw releasesNotFetched(warning);
+    return {releases->rbegin(), releases->rend()};
+}
+
+QJsonObject toJson(const ReleaseInformation &release)
+{
+    return {{QStringLiteral("version"), updating::toQString(release.version)},
+            {QStringLiteral("date"), app::toJson(release.releasedOn)},
+            {QStringLiteral("notes"), release.notes}};
+}
+
+struct CheckUpdates {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        const auto own =
+            updating::SemanticVersion::fromText(QCoreApplication::applicationVersion());
+        const std::vector<ReleaseInformation> releases = fetchReleases(call.session);
+        const bool isNews = !releases.empty() && releases.front().version.isNewerThan(own);
+        QJsonObject json{{QStringLiteral("version"), updating::toQString(own)},
+                         {QStringLiteral("latest"), QJsonValue()}};
+        if (!isNews)
+            return Report(json).line(QObject::tr("This is the newest release."));
+        json.insert(QStringLiteral("latest"), toJson(releases.front()));
+        return Report(json).line(QObject::tr("There is a newer release: %1.")
+                                     .arg(updating::presentationText(releases.front().version)));
+    }
+};
+
+struct ReleaseNotes {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        QJsonArray rows;
+        Report report;
+        for (const ReleaseInformation &release : fetchReleases(call.session)) {
+            rows.append(toJson(release));
+            report.heading(updating::presentationText(release.version) + u' ' +
+                           release.releasedOn.toString(Qt::ISODate));
+            for (const QString &line : release.notes.split(u'\n'))
+                report.line(line);
+        }
+        if (rows.isEmpty())
+            report.line(QObject::tr("There are no releases."));
+        report.setData(rows);
+        return report;
+    }
+};
+
+} // namespace
+
+void addReleaseCommands(CommandGroup &root)
+{
+    CommandGroup updates = root.group("updates", "Newer releases of this program");
+    updates.add("check", "Ask whether there is a newer release", CommandKind::Standalone,
+                CheckUpdates{});
+    root.add("release-notes", "Show what each release brought", CommandKind::Standalone,
+             ReleaseNotes{});
+}
+
+} // namespace kiv::app

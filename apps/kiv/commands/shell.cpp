@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// shell, watch
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "line_reader.h"
+#include "parsing/words.h"
+#include "program.h"
+#include "signal_watch.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QSocketNotifier>
+#include <QtCore/QStandardPaths>
+
+#include <unistd.h>
+
+namespace kiv::app {
+namespace {
+
+/// Opens the file that was named, if one was; later lines may name one, too.
+void openNamed(Call &call)
+{
+    const QString named =
+        call.options.file.isEmpty() ? qEnvironmentVariable("KIV_FILE") : call.options.file;
+    if (!named.isEmpty())
+        call.session.open(named);
+}
+
+/// Runs one line; tells whether another is wanted. `status` keeps the first
+/// failure.
+bool runLine(Program &program, const std::string &line, int &status)
+{
+    int ended = Program::success;
+    try {
+        const std::vector<std::string> words = splitWords(line);
+        if (words.empty())
+            return true;
+        if (words.front() == "exit" || words.front() == "quit")
+            return false;
+        ended = program.run(words);
+    } catch (const UsageError &error) {
+        complain(error.message());
+        ended = Program::misused;
+    }
+    if (status == Program::success)
+        status = ended;
+    return true;
+}
+
+/// The names of everything in the budget.
+std::vector<std::string> namesIn(Session &session)
+{
+    std::vector<std::string> names;
+    const AccountIndex index = session.accounts();
+    for (const accounting::Account &account : index.accounts())
+        names.push_back(account.code().name().toStdString());
+    for (const banking::BankName &bank : session.banks().names())
+        names.push_back(bank.institution().toStdString());
+    BudgetView(session).budget().forEach([&names](const budgeting::BudgetedMoney &item) {
+        names.push_back(item.source().name().toStdString());
+    });
+    return names;
+}
+
+struct Shell {
+    void declare(Arguments &arguments) { arguments.file(); }
+    Report run(Call &call) const
+    {
+        Program &program = call.program;
+        program.keepSession();
+        openNamed(call);
+        LineReader reader(
+            [&](const std::vector<std::string> &before) {
+                std::vector<std::string> words = program.wordsAfter(before);
+                const std::vector<std::string> names = namesIn(call.session);
+                words.insert(words.end(), names.begin(), names.end());
+                return words;
+            },
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                QStringLiteral("/history"));
+        int status = Program::success;
+        while (const std::optional<std::string> line = reader.next()) {
+            if (!runLine(program, *line, status))
+                break;
+        }
+        Report report;
+        report.setStatus(status);
+        return report;
+    }
+};
+
+struct Watch {
+    void declare(Arguments &arguments) { arguments.file(); }
+    Report run(Call &call) const
+    {
+        Program &program = call.program;
+        program.keepSession();
+        program.setSilent();
+        const SignalWatch watch(call.session.navigator(), [&program](const QJsonObject &told) {
+            program.terminal().write(safeJson(QJsonDocument(told).toJson(QJsonDocument::Compact)) +
+                                     '\n');
+        });
+        openNamed(call);
+
+        // Lines are taken as they come while the event loop runs, so that
+        // signals of timers and of the network show, too.
+        int status = Program::success;
+        QByteArray pending;
+        QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+        QObject::connect(&input, &QSocketNotifier::activated, &input, [&] {
+            char buffer[4096];
+            const ssize_t count = ::read(STDIN_FILENO, buffer, sizeof buffer);
+            if (count > 0)
+                pending.append(buffer, count);
+            else if (!pending.isEmpty() && !pending.endsWith('\n'))
+                pending.append('\n');
+            bool isWanted = count > 0;
+            for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
+                const std::string line = pending.first(end).toStdString();
+                pending.remove(0, end + 1);
+                if (!runLine(program, line, status)) {
+                    isWanted = false;
+                    break;
+                }
+            }
+            if (!isWanted)
+                QCoreApplication::quit();
+        });
+        QCoreApplication::exec();
+        Report report;
+        report.setStatus(status);
+        return report;
+    }
+};
+
+} // namespace
+
+void addShellCommands(CommandGroup &root)
+{
+    root.add("shell", "Read commands line by line and keep the budget open",
+             CommandKind::Standalone, Shell{});
+    root.add("watch", "Read commands likewise, and print the Navigator's signals as JSON lines",
+             CommandKind::Standalone, Watch{});
+}
+
+} // namespace kiv::app

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// survey show|complete|run, reconciliation last
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+#include "parsing/json_input.h"
+#include "program.h"
+#include "survey_form.h"
+
+#include "foundation/presentation.h"
+#include "foundation/streams.h"
+
+#include <QtCore/QJsonDocument>
+
+#include <cstdio>
+#include <iostream>
+
+namespace kiv::app {
+
+using navigation::Navigator;
+
+namespace {
+
+constexpr Outcome surveyOutcome{&Navigator::completedSurveySucceeded,
+                                &Navigator::completedSurveyFailed};
+
+/// Which bank account is surveyed, and for which day.
+struct SurveyArguments {
+    QString bank;
+    QString account;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("BANK", bank, "The bank's name")
+            .required("ACCOUNT", account, "The bank account's number or name")
+            .dated("The day of the statement; today otherwise");
+    }
+    [[nodiscard]] SurveyForm propose(Call &call) const
+    {
+        return SurveyForm::propose(call.session, bank, account, call.date());
+    }
+};
+
+Report formReport(Session &session, const SurveyForm &form)
+{
+    const QJsonObject json = form.toJson(session);
+    Report report{QJsonValue(json)};
+    report.list({{QObject::tr("Bank"), QStringLiteral("bank")},
+                 {QObject::tr("Account"), QStringLiteral("accountName")},
+                 {QObject::tr("Day of the statement"), QStringLiteral("date")},
+                 {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn")},
+                 {QObject::tr("Balance then"), QStringLiteral("reconciledBalance")},
+                 {QObject::tr("Changes counted from"), QStringLiteral("start")},
+                 {QObject::tr("Expected balance"), QStringLiteral("expectedBalance")},
+                 {QObject::tr("Still due this month"), QStringLiteral("amountDue")}},
+                json);
+    const auto changes = [&](const QString &title, const char *key, const QString &what) {
+        report.heading(title).table({{what, QStringLiteral("name")},
+                                     {QObject::tr("Transaction"), QStringLiteral("transaction")},
+                                     {QObject::tr("Date"), QStringLiteral("date")},
+                                     {QObject::tr("Description"), QStringLiteral("description")},
+                                     {QObject::tr("Change"), QStringLiteral("change")}},
+                                    json.value(QLatin1String(key)).toArray(),
+                                    QObject::tr("There are none."));
+    };
+    changes(QObject::tr("Changes by budget item"), "itemChanges", QObject::tr("Item"));
+    changes(QObject::tr("Other changes"), "accountChanges", QObject::tr("Account"));
+    report.heading(QObject::tr("Proposed distribution"))
+        .table({{QObject::tr("Item"), QStringLiteral("name")},
+                {QObject::tr("Kind"), QStringLiteral("kind")},
+                {QObject::tr("Set aside"), QStringLiteral("distributed")},
+                {QObject::tr("Expected"), QStringLiteral("expected")},
+                {QObject::tr("Next"), QStringLiteral("next")}},
+               json.value(QLatin1String("distribution")).toArray(),
+               QObject::tr("There is nothing to set aside for."))
+        .list({{QObject::tr("Not distributed"), QStringLiteral("nonDistributed")}}, json);
+    return report;
+}
+
+Report complete(Session &session, const SurveyForm &form)
+{
+    session.change(surveyOutcome, &Navigator::onCompletedSurvey, form.date, form.account,
+                   form.balance, form.reconciled, form.itemChanges(), form.accountChanges(),
+                   form.distribution, form.nonDistributed);
+    return Report(form.toJson(session))
+        .line(QObject::tr("Reconciled %1 with a balance of %2.")
+                  .arg(banking::presentationText(form.account),
+                       amountText(toJson(form.balance), session.displayAs())));
+}
+
+struct ShowSurvey {
+    SurveyArguments which;
+
+    void declare(Arguments &arguments) { which.declare(arguments); }
+    Report run(Call &call) const { return formReport(call.session, which.propose(call)); }
+};
+
+struct CompleteSurvey {
+    std::optional<QString> bank;
+    std::optional<QString> account;
+    std::optional<QString> file;
+    std::optional<Amount> balance;
+    std::vector<accounting::TransactionNumber> ticked;
+    bool isAllTicked = false;
+    std::vector<QString> items;
+    std::vector<QString> extras;
+    std::vector<QString> distribution;
+    std::optional<Amount> nonDistributed;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("BANK", bank, "The bank's name")
+            .optional("ACCOUNT", account, "The bank account's number or name")
+            .optional("--from", file, "A document of survey show --json, edited; - for input")
+            .optional("--balance", balance, "The statement's balance")
+            .several("--tick", ticked, "A transaction that the statement shows")
+            .flag("--tick-all", isAllTicked, "It shows all transactions of the survey")
+            .several("--item", items,
+                     "ITEM=AMOUNT: money for an item that is not booked yet; "
+                     "with a minus for what went out")
+            .several("--extra", extras, "ACCOUNT=AMOUNT: the same for another account")
+            .several("--distribute", distribution, "ITEM=AMOUNT: what is set aside for an item")
+            .optional("--not-distributed", nonDistributed, "What is set aside for nothing")
+            .dated("The day of the statement; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        SurveyForm form = start(call);
+        const numira::Currency currency = form.balance.code();
+        if (balance)
+            form.balance = balance->in(currency);
+        if (!isAllTicked && (!file || !ticked.empty()))
+            form.reconciled = {ticked.begin(), ticked.end()};
+        for (const QString &text : items)
+            form.addItem(call.session, text);
+        for (const QString &text : extras)
+            form.addExtra(call.session, text);
+        for (const QString &text : distribution)
+            form.distribute(call.session, text);
+        form.nonDistributed = nonDistributed ? nonDistributed->in(currency) : form.left();
+        form.settleGoals(call.session);
+        return complete(call.session, form);
+    }
+
+private:
+    [[nodiscard]] SurveyForm start(Call &call) const
+    {
+        if (file && (bank || account))
+            throw contradiction(QStringLiteral("--from"), QStringLiteral("BANK"));
+        if (file)
+            return SurveyForm::fromJson(call.session, readJson(*file).object());
+        if (!bank || !account)
+            throw missing(QStringLiteral("BANK ACCOUNT"));
+        if (!balance)
+            throw missing(QStringLiteral("--balance"));
+        return SurveyForm::propose(call.session, *bank, *account, call.date());
+    }
+};
+
+/// Walks a person through a statement, question by question.
+struct RunSurvey {
+    SurveyArguments which;
+
+    void declare(Arguments &arguments) { which.declare(arguments); }
+    Report run(Call &call) const
+    {
+        SurveyForm form = which.propose(call);
+        const Terminal &terminal = call.program.terminal();
+        terminal.write(formReport(call.session, form).toText(terminal, call.session.displayAs()));
+        Dialogue dialogue;
+
+        const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});
+        for (const accounting::TransactionNumber number : all) {
+            const accounting::Transaction transaction = call.session.transaction(number);
+            if (dialogue.agrees(
+                    QObject::tr("Does the statement show %1 %2 '%3', %4?")
+                        .arg(accounting::presentationText(number),
+                             transaction.occurredOn().toString(Qt::ISODate),
+                             transaction.description().value_or(QString()),
+                             amountText(toJson(transaction.amount()), call.session.displayAs()))))
+                form.reconciled.insert(number);
+        }
+        dialogue.until(QObject::tr("The statement's balance"), [&](const QString &answer) {
+            Amount amount;
+            readValue(answer.toStdString(), amount);
+            form.balance = amount.in(form.balance.code());
+        });
+        dialogue.each(QObject::tr("Money for an item that is not booked, as ITEM=AMOUNT"),
+                      [&](const QString &text) { form.addItem(call.session, text); });
+        dialogue.each(QObject::tr("Money for another account, as ACCOUNT=AMOUNT"),
+                      [&](const QString &text) { form.addExtra(call.session, text); });
+        dialogue.each(QObject::tr("What is set aside for an item, as ITEM=AMOUNT"),
+                      [&](const QString &text) { form.distribute(call.session, text); });
+        form.nonDistributed = form.left();
+        form.settleGoals(call.session);
+        if (!dialogue.agrees(QObject::tr("Complete the survey?")))
+            throw surveyGivenUp();
+        return complete(call.session, form);
+    }
+
+private:
+    /// Questions on standard error and answers from standard input, so that
+    /// standard output holds the results alone.
+    class Dialogue {
+    public:
+        bool agrees(const QString &question)
+        {
+            bool answer = false;
+            until(question + QStringLiteral(" [y/n]"), [&answer](const QString &text) {
+                if (text != u"y" && text != u"n")
+                    throw notAChoice(text, {QStringLiteral("y"), QStringLiteral("n")});
+                answer = text == u"y";
+            });
+            return answer;
+        }
+        /// Asks until `take` accepts the answer.
+        void until(const QString &question, const std::function<void(const QString &)> &take)
+        {
+            while (true) {
+                const QString answer = asked(question);
+                try {
+                    return take(answer);
+                } catch (const foundation::Error &error) {
+                    complain(error.message());
+                }
+            }
+        }
+        /// Takes answers until an empty one.
+        void each(const QString &question, const std::function<void(const QString &)> &take)
+        {
+            for (bool isDone = false; !isDone;) {
+                until(question, [&](const QString &text) {
+                    isDone = text.isEmpty();
+                    if (!isDone)
+                        take(text);
+                });
+            }
+        }
+
+    private:
+        QString asked(const QString &question)
+        {
+            const QByteArray prompt = foundation::escaped(question).toUtf8() + ": ";
+            std::fwrite(prompt.constData(), 1, static_cast<std::size_t>(prompt.size()), stderr);
+            std::string line;
+            if (!std::getline(std::cin, line))
+                throw answersEnded();
+            return QString::fromStdString(line).trimmed();
+        }
+    };
+};
+
+struct LastReconciliation {
+    QString account;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The bank account's number or name");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const accounting::AccountCode code = index.find(account).code();
+        const auto answer = call.session.ask(&Navigator::lookedUpLastReconciliation,
+                                             &Navigator::onLookUpLastReconciliation, code.number());
+        const auto &last = std::get<1>(answer);
+        const bool isReconciled = last && last->reconciledOn;
+        const QJsonObject json{
+            {QStringLiteral("account"), toJson(code.number())},
+            {QStringLiteral("currency"), foundation::toQString(std::get<0>(answer))},
+            {QStringLiteral("on"), isReconciled ? toJson(*last->reconciledOn) : QJsonValue()},
+            {QStringLiteral("balance"), isReconciled ? toJson(last->amount) : QJsonValue()}};
+        if (!isReconciled) {
+            return Report(json).line(
+                QObject::tr("%1 was never reconciled.").arg(accounting::presentationText(code)));
+        }
+        return Report(json).line(
+            QObject::tr("%1 was reconciled on %2 with a balance of %3.")
+                .arg(accounting::presentationText(code), last->reconciledOn->toString(Qt::ISODate),
+                     amountText(toJson(last->amount), call.session.displayAs())));
+    }
+};
+
+} // namespace
+
+void addSurveyCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    CommandGroup survey = root.group("survey", "Comparing the books with a bank statement");
+    survey.add("show", "Show what has happened since the last survey", Query, ShowSurvey{});
+    survey.add("complete", "Reconcile the account with a statement", Change, CompleteSurvey{});
+    survey.add("run", "Go through a statement question by question", Change, RunSurvey{});
+
+    CommandGroup reconciliation = root.group("reconciliation", "Past reconciliations");
+    reconciliation.add("last", "Show when an account was last reconciled", Query,
+                       LastReconciliation{});
+}
+
+} // namespace kiv::app

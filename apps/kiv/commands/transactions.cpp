@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// transactions, transaction add|load|update|remove|clear|reconcile|unreconcile,
+// transfer, refund, refundable
+#include "commands/account_arguments.h"
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+#include "parsing/json_input.h"
+
+namespace kiv::app {
+
+using accounting::AccountCode;
+using accounting::AccountNumber;
+using accounting::Transaction;
+using accounting::TransactionNumber;
+using navigation::Navigator;
+
+namespace {
+
+QString textOf(TransactionNumber number)
+{
+    return accounting::presentationText(number);
+}
+
+/// Adds the paths of both accounts, for people.
+QJsonObject withPaths(QJsonObject json, const AccountIndex &index)
+{
+    for (const QString &side : {QStringLiteral("debit"), QStringLiteral("credit")}) {
+        const AccountNumber number(static_cast<std::uint32_t>(json.value(side).toInteger()));
+        json.insert(side + QStringLiteral("Path"), index.path(number));
+    }
+    return json;
+}
+
+std::vector<Column> transactionColumns()
+{
+    return {{QObject::tr("Number"), QStringLiteral("number")},
+            {QObject::tr("Date"), QStringLiteral("date")},
+            {QObject::tr("Description"), QStringLiteral("description")},
+            {QObject::tr("Debit"), QStringLiteral("debitPath")},
+            {QObject::tr("Credit"), QStringLiteral("creditPath")},
+            {QObject::tr("Amount"), QStringLiteral("amount")}};
+}
+
+Report transactionReport(Session &session, TransactionNumber number, const QString &sentence)
+{
+    return Report(toJson(session.transaction(number))).line(sentence.arg(textOf(number)));
+}
+
+/// The number under which the last change posted.
+template <typename Answers>
+TransactionNumber postedNumber(const Answers &answers)
+{
+    return std::get<1>(answers.back()).value_or(TransactionNumber());
+}
+
+struct ListTransactions {
+    std::optional<QDate> from;
+    std::optional<QDate> to;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--from", from, "Only from this day on")
+            .optional("--to", to, "Only up to this day");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        QJsonArray rows;
+        for (const Transaction &transaction : call.session.transactions()) {
+            const QDate date = transaction.occurredOn();
+            if (!(from && date < *from) && !(to && date > *to))
+                rows.append(withPaths(toJson(transaction), index));
+        }
+        return Report(QJsonValue(rows))
+            .table(transactionColumns(), rows, QObject::tr("There are no transactions."));
+    }
+};
+
+struct AddTransaction {
+    Amount amount;
+    QString debit;
+    QString credit;
+    std::optional<QString> description;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("AMOUNT", amount, "What moves; in the debited account's currency")
+            .required("--debit", debit, "The account that is debited")
+            .required("--credit", credit, "The account that is credited")
+            .optional("--description", description, "What it is about")
+            .dated("The day of the transaction; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const accounting::Account &debited = index.find(debit);
+        const Transaction transaction(call.date(), debited.code(), index.find(credit).code(),
+                                      amount.in(debited.balance().code()), description);
+        const auto answers =
+            call.session.change(transactionOutcome, &Navigator::onAddedTransaction, transaction);
+        return transactionReport(call.session, postedNumber(answers),
+                                 QObject::tr("Posted transaction %1."));
+    }
+};
+
+struct LoadTransactions {
+    QString file;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("FILE", file, "A JSON list of transactions; - for standard input");
+    }
+    Report run(Call &call) const
+    {
+        QJsonArray numbers;
+        for (const Transaction &transaction : readTransactions(file, call.session.accounts())) {
+            const auto answers = call.session.change(transactionOutcome,
+                                                     &Navigator::onAddedTransaction, transaction);
+            numbers.append(toJson(std::optional(postedNumber(answers))));
+        }
+        return Report(QJsonObject{{QStringLiteral("posted"), numbers}})
+            .line(QObject::tr("Posted %1 transactions.").arg(numbers.size()));
+    }
+};
+
+struct UpdateTransaction {
+    TransactionNumber number;
+    std::optional<Amount> amount;
+    std::optional<QString> debit;
+    std::optional<QString> credit;
+    std::optional<QString> description;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NUMBER", number, "The transaction's number")
+            .optional("--amount", amount, "What moves")
+            .optional("--debit", debit, "The account that is debited")
+            .optional("--credit", credit, "The account that is credited")
+            .optional("--description", description, "What it is about")
+            .dated("The day of the transaction");
+    }
+    Report run(Call &call) const
+    {
+        if (!amount && !debit && !credit && !description && !call.options.date)
+            throw nothingToChange();
+        Session &session = call.session;
+        const AccountIndex index = session.accounts();
+        const Transaction present = session.transaction(number);
+        const AccountCode debited = debit ? index.find(*debit).code() : present.debiting();
+        const AccountCode credited = credit ? index.find(*credit).code() : present.crediting();
+        const numira::Money money = amount ? amount->in(present.amount().code()) : present.amount();
+        session.change(transactionOutcome, &Navigator::onUpdatedTransaction, number,
+                       Transaction(call.options.date.value_or(present.occurredOn()), debited,
+                                   credited, money,
+                                   description ? description : present.description()));
+        return transactionReport(session, number, QObject::tr("Changed transaction %1."));
+    }
+};
+
+/// remove and reconcile go one by one, clear and unreconcile take them all; the
+/// rest is the same.
+struct TransactionVerb {
+    std::variant<void (Navigator::*)(const TransactionNumber &),
+                 void (Navigator::*)(const std::set<TransactionNumber> &)>
+        slot;
+    QString sentence;
+    std::vector<TransactionNumber> numbers = {};
+
+    void declare(Arguments &arguments)
+    {
+        arguments.severalRequired("NUMBER", numbers, "Numbers of transactions");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const std::set<TransactionNumber> all(numbers.begin(), numbers.end());
+        if (const auto *forAll = std::get_if<1>(&slot)) {
+            session.change(transactionOutcome, *forAll, all);
+        } else {
+            for (const TransactionNumber number : all)
+                session.change(transactionOutcome, std::get<0>(slot), number);
+        }
+        QJsonArray json;
+        QStringList texts;
+        for (const TransactionNumber number : all) {
+            json.append(toJson(std::optional(number)));
+            texts += textOf(number);
+        }
+        return Report(QJsonObject{{QStringLiteral("transactions"), json}})
+            .line(sentence.arg(texts.join(QStringLiteral(", "))));
+    }
+};
+
+struct Transfer {
+    QString from;
+    QString to;
+    Amount amount;
+    QString reason = QObject::tr("Transfer");
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("FROM", from, "The bank account that the money leaves")
+            .required("TO", to, "The bank account that it goes to")
+            .required("AMOUNT", amount, "How much; in the currency of the account it goes to")
+            .optional("--description", reason, "What it is about")
+            .dated("The day of the transfer; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const AccountIndex index = session.accounts();
+        const auto answer =
+            session.ask(&Navigator::showMoneyTransfer, &Navigator::onPrepareShowMoneyTransfer);
+        const AccountCode source = index.find(from).code();
+        const accounting::Account &target = index.find(to);
+        if (!holds(std::get<0>(answer), source.number()))
+            throw noTransferFrom(from);
+        if (!holds(std::get<1>(answer), target.code().number()))
+            throw noTransferTo(to);
+        // The slot debits its first account, and a debit raises an asset.
+        const auto answers = session.change(transactionOutcome, &Navigator::onTransferRequested,
+                                            target.code().number(), source.number(),
+                                            amount.in(target.balance().code()), reason);
+        const TransactionNumber number = postedNumber(answers);
+        moveTo(session, number, call.options.date);
+        return transactionReport(session, number, QObject::tr("Posted transaction %1."));
+    }
+
+private:
+    static bool holds(const std::set<navigation::BankAccountCode> &accounts, AccountNumber number)
+    {
+        return std::ranges::any_of(accounts, [number](const auto &account) {
+            return account.account().number() == number;
+        });
+    }
+};
+
+struct Refund {
+    TransactionNumber number;
+    Amount amount;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NUMBER", number, "The transaction of which something comes back")
+            .required("AMOUNT", amount, "How much")
+            .dated("The day of the refund; today otherwise");
+    }
+    Report run(Call &call) const
+    {
+        Session &session = call.session;
+        const numira::Currency currency = session.transaction(number).amount().code();
+        const auto answers = session.change(transactionOutcome, &Navigator::onPostRefund, number,
+                                            amount.in(currency));
+        const TransactionNumber refund = postedNumber(answers);
+        moveTo(session, refund, call.options.date);
+        return transactionReport(session, refund,
+                                 QObject::tr("Posted the refund as transaction %1."));
+    }
+};
+
+struct ListRefundable {
+    QString name;
+    std::optional<budgeting::BudgetItemTypes> kind;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ITEM", name, "The budget item's name")
+            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat");
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const BudgetView view(call.session);
+        const auto answer = call.session.ask(&Navigator::lookedUpRefundableTransactions,
+                                             &Navigator::onLookUpRefundableTransactions,
+                                             identify(view.find(name, kind)));
+        QJsonArray rows;
+        for (const Transaction &transaction : std::get<std::set<Transaction>>(answer))
+            rows.append(withPaths(toJson(transaction), index));
+        return Report(QJsonValue(rows))
+            .table(transactionColumns(), rows, QObject::tr("There are none."));
+    }
+};
+
+} // namespace
+
+void addTransactionCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    root.add("transactions", "List all transactions", Query, ListTransactions{});
+
+    CommandGroup transaction = root.group("transaction", "Transactions of the ledger");
+    transaction.add("add", "Post a transaction", Change, AddTransaction{});
+    transaction.add("load", "Post all transactions of a JSON file", Change, LoadTransactions{});
+    transaction.add("update", "Change a transaction; what is not given stays", Change,
+                    UpdateTransaction{});
+    transaction.add("remove", "Remove transactions", Change,
+                    TransactionVerb{&Navigator::onRemovedTransaction,
+                                    QObject::tr("Removed the transactions %1.")});
+    transaction.add(
+        "clear", "Mark transactions as seen at the bank", Change,
+        TransactionVerb{&Navigator::onMarkCleared, QObject::tr("Cleared the transactions %1.")});
+    transaction.add("reconcile", "Mark transactions as part of a statement", Change,
+                    TransactionVerb{&Navigator::onMarkReconciled,
+                                    QObject::tr("Reconciled the transactions %1.")});
+    transaction.add("unreconcile", "Take the reconciliation of transactions back", Change,
+                    TransactionVerb{&Navigator::onMarkUnreconciled,
+                                    QObject::tr("Took the reconciliation of %1 back.")});
+
+    root.add("transfer", "Move money between bank accounts", Change, Transfer{});
+    root.add("refundable", "List what of a budget item can be refunded", Query, ListRefundable{});
+    root.add("refund", "Post a refund of a transaction", Change, Refund{});
+}
+
+} // namespace kiv::app

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// wizard, templates list|show
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/json.h"
+
+#include "navigation/budget_wizard_templates.h"
+#include "navigation/configuration.h"
+
+#include <sstream>
+
+namespace kiv::app {
+
+using navigation::BudgetWizardTemplates;
+using navigation::Navigator;
+
+namespace {
+
+struct Template {
+    const char *word;
+    BudgetWizardTemplates value;
+};
+
+/// A child has no starter budget, so it is not offered.
+constexpr Template templates[] = {
+    {"none", BudgetWizardTemplates::None},
+    {"teenager", BudgetWizardTemplates::Teenager},
+    {"adult-single", BudgetWizardTemplates::AdultSingle},
+    {"adult-married-single-income", BudgetWizardTemplates::AdultMarriedSingleIncome},
+    {"adult-married-double-income", BudgetWizardTemplates::AdultMarriedDoubleIncome},
+};
+
+struct TemplateArgument {
+    BudgetWizardTemplates value = BudgetWizardTemplates::None;
+};
+
+void readValue(const std::string &text, TemplateArgument &argument)
+{
+    QStringList choices;
+    for (const Template &known : templates) {
+        if (text == known.word) {
+            argument.value = known.value;
+            return;
+        }
+        choices += QLatin1String(known.word);
+    }
+    throw notAChoice(QString::fromStdString(text), choices);
+}
+
+/// What the first-time wizard asks for.
+struct Answers {
+    std::optional<numira::Currency> preferred;
+    QString bank;
+    banking::BankAccountTypes type = banking::BankAccountTypes::Checking;
+    QString account;
+    std::optional<Amount> balance;
+    TemplateArgument household;
+};
+
+/// Fills the budget in memory. The wizard answers a failure with an empty
+/// budget and the signals of the steps that failed.
+void fillIn(Session &session, const Answers &answers)
+{
+    const auto present = std::get<navigation::ConfigurationData>(
+        session.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
+    const numira::Currency preferred = answers.preferred.value_or(present.preferredCurrency);
+    std::set<numira::Currency> usable = present.usableCurrencies;
+    usable.insert(preferred);
+    const numira::Money balance =
+        answers.balance ? answers.balance->in(preferred) : numira::Money(preferred);
+    const auto run = [&] {
+        session.navigator().onCompletedNewBudgetFirstTimeWizard(
+            preferred, usable, present.currenciesDisplayAs, banking::BankName(answers.bank),
+            answers.type, answers.account, balance, answers.household.value);
+    };
+    QString message;
+    const auto [banks, warning] = session.quietly([&] {
+        const auto failedItems = session.gather(&Navigator::saveFailed, [&] {
+            const auto failedBanks = session.gather(&Navigator::bankSaveFailed, [&] {
+                const auto failedAccounts = session.gather(&Navigator::bankAccountSaveFailed, run);
+                if (!failedAccounts.empty())
+                    message = std::get<QString>(failedAccounts.front());
+            });
+            if (message.isEmpty() && !failedBanks.empty())
+                message = std::get<QString>(failedBanks.front());
+        });
+        if (message.isEmpty() && !failedItems.empty())
+            message = std::get<QString>(failedItems.front());
+        return session.banks();
+    });
+    if (banks.isEmpty())
+        throw wizardFailed(message);
+}
+
+QJsonArray itemsJson(Session &session)
+{
+    QJsonArray rows;
+    const BudgetView view(session);
+    view.budget().forEach(
+        [&](const budgeting::BudgetedMoney &item) { rows.append(view.json(item)); });
+    return rows;
+}
+
+Report itemsReport(const QJsonArray &rows)
+{
+    return Report(QJsonValue(rows))
+        .table({{QObject::tr("Kind"), QStringLiteral("kind")},
+                {QObject::tr("Name"), QStringLiteral("name")},
+                {QObject::tr("Every"), QStringLiteral("every")},
+                {QObject::tr("Next"), QStringLiteral("next")}},
+               rows, QObject::tr("It has no budget items."));
+}
+
+struct Wizard {
+    QString file;
+    NewName bank;
+    NewName account;
+    Answers answers;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("FILE", file, "The file to be made; .budget is appended")
+            .optional("--template", answers.household, "The household; see templates list")
+            .optional("--currency", answers.preferred, "Its currency, preferred from now on")
+            .required("--bank", bank, "The household's bank")
+            .required("--account", account, "The name of its account there")
+            .optional("--type", answers.type, "The kind of account; checking unless given")
+            .optional("--balance", answers.balance, "The account's balance; 0 otherwise");
+    }
+    Report run(Call &call) const
+    {
+        Answers given = answers;
+        given.bank = bank.text;
+        given.account = account.text;
+        Session::refuseExisting(file);
+        fillIn(call.session, given);
+        call.session.create(file);
+        Report report = itemsReport(itemsJson(call.session));
+        return report.line(QObject::tr("Made the budget '%1'.").arg(call.session.file()));
+    }
+};
+
+struct ListTemplates {
+    void declare(Arguments &) {}
+    Report run(Call &) const
+    {
+        QJsonArray rows;
+        for (const Template &known : templates) {
+            std::ostringstream text;
+            text << known.value;
+            rows.append(
+                QJsonObject{{QStringLiteral("template"), QLatin1String(known.word)},
+                            {QStringLiteral("household"), QString::fromStdString(text.str())}});
+        }
+        return Report(QJsonValue(rows))
+            .table({{QObject::tr("Template"), QStringLiteral("template")},
+                    {QObject::tr("Household"), QStringLiteral("household")}},
+                   rows, {});
+    }
+};
+
+struct ShowTemplate {
+    TemplateArgument household;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("TEMPLATE", household, "See templates list");
+    }
+    Report run(Call &call) const
+    {
+        // On a budget in memory that is never saved; a shell's own is read again.
+        const QString open = call.session.file();
+        fillIn(call.session,
+               {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
+                QObject::tr("Account"), std::nullopt, household});
+        const QJsonArray rows = itemsJson(call.session);
+        if (!open.isEmpty())
+            call.session.open(open);
+        return itemsReport(rows);
+    }
+};
+
+} // namespace
+
+void addWizardCommands(CommandGroup &root)
+{
+    root.add("wizard", "Make a new budget for a kind of household", CommandKind::Standalone,
+             Wizard{});
+    CommandGroup group = root.group("templates", "Starter budgets for the wizard");
+    group.add("list", "List the kinds of household", CommandKind::Standalone, ListTemplates{});
+    group.add("show", "Show the budget items of one", CommandKind::Standalone, ShowTemplate{});
+}
+
+} // namespace kiv::app

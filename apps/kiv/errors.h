@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "foundation/error.h"
+
+#include <QtCore/QStringList>
+
+/// Everything with which the command itself refuses a call. The sentences of
+/// the budget's own refusals come from the libraries.
+namespace kiv::app {
+
+/// The call is not one that the command understands: exit status 2.
+class UsageError final : public foundation::Error {
+public:
+    using foundation::Error::Error;
+    ~UsageError() override;
+};
+
+/// The call is understood, and refused: exit status 1.
+class Refusal final : public foundation::Error {
+public:
+    using foundation::Error::Error;
+    ~Refusal() override;
+};
+
+// ---- values on the command line --------------------------------------------
+
+[[nodiscard]] UsageError notUtf8();
+[[nodiscard]] UsageError emptyName();
+[[nodiscard]] UsageError notADate(const QString &text);
+[[nodiscard]] UsageError notAnAmount(const QString &text);
+[[nodiscard]] UsageError amountTooLarge(const QString &text);
+[[nodiscard]] UsageError tooManyDigits(const QString &text, const QString &currency,
+                                       unsigned digitsMax);
+[[nodiscard]] UsageError notACurrency(const QString &text);
+[[nodiscard]] UsageError notANumber(const QString &text, qint64 lowest, qint64 highest);
+[[nodiscard]] UsageError notAPercentage(const QString &text);
+/// None of the words that are allowed there.
+[[nodiscard]] UsageError notAChoice(const QString &text, const QStringList &choices);
+[[nodiscard]] UsageError contradiction(const QString &one, const QString &other);
+[[nodiscard]] UsageError missing(const QString &what);
+[[nodiscard]] UsageError nothingToChange();
+[[nodiscard]] UsageError noFileNamed();
+[[nodiscard]] UsageError noSuchCommand(const QString &word);
+[[nodiscard]] UsageError openQuote();
+[[nodiscard]] UsageError notAnAssignment(const QString &text);
+[[nodiscard]] UsageError unreadableInput(const QString &name, const QString &reason);
+
+// ---- what the budget does not hold -----------------------------------------
+
+[[nodiscard]] Refusal noSuchAccount(const QString &text);
+[[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &numbers);
+[[nodiscard]] Refusal noSuchBank(const QString &name);
+[[nodiscard]] Refusal notABankAccount(const QString &account);
+[[nodiscard]] Refusal noSuchItem(const QString &kind, const QString &name);
+[[nodiscard]] Refusal noSuchItem(const QString &name);
+[[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
+[[nodiscard]] Refusal answersEnded();
+[[nodiscard]] Refusal surveyGivenUp();
+/// Each with the reason, if one is known.
+[[nodiscard]] Refusal ratesNotFetched(const QString &reason);
+[[nodiscard]] Refusal releasesNotFetched(const QString &reason);
+[[nodiscard]] Refusal wizardFailed(const QString &reason);
+[[nodiscard]] Refusal noSuchTag(const QString &name);
+[[nodiscard]] Refusal shadowedItem(const QString &kind, const QString &firstKind,
+                                   const QString &name);
+[[nodiscard]] Refusal noTransferFrom(const QString &account);
+[[nodiscard]] Refusal noTransferTo(const QString &account);
+[[nodiscard]] Refusal noSuchTransaction(const QString &number);
+
+// ---- files -----------------------------------------------------------------
+
+[[nodiscard]] Refusal fileExists(const QString &path);
+[[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
+[[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
+
+} // namespace kiv::app

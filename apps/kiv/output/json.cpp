@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "output/json.h"
+
+#include "parsing/values.h"
+
+#include "budgeting/budget_items.h"
+#include "foundation/presentation.h"
+
+namespace kiv::app {
+
+using accounting::AccountNumber;
+using accounting::TransactionNumber;
+
+QJsonObject toJson(const numira::Money &money)
+{
+    return {{QStringLiteral("amount"), foundation::toQString(money)},
+            {QStringLiteral("currency"), foundation::toQString(money.code())}};
+}
+
+QJsonValue toJson(const QDate &date)
+{
+    return date.isValid() ? QJsonValue(date.toString(Qt::ISODate)) : QJsonValue();
+}
+
+QJsonValue toJson(AccountNumber number)
+{
+    return QJsonValue(qint64{number.integer()});
+}
+
+QJsonValue toJson(const std::optional<AccountNumber> &number)
+{
+    return number ? toJson(*number) : QJsonValue();
+}
+
+QJsonValue toJson(const std::optional<TransactionNumber> &number)
+{
+    return number ? QJsonValue(qint64{number->integer()}) : QJsonValue();
+}
+
+QJsonObject toJson(const accounting::Account &account, const AccountIndex &index)
+{
+    return {{QStringLiteral("number"), toJson(account.code().number())},
+            {QStringLiteral("name"), account.code().name()},
+            {QStringLiteral("type"), accounting::toQString(account.type())},
+            {QStringLiteral("parent"), toJson(account.code().parent())},
+            {QStringLiteral("open"), !account.isClosed()},
+            {QStringLiteral("balance"), toJson(account.balance())},
+            {QStringLiteral("path"), index.path(account.code().number())}};
+}
+
+QJsonObject toJson(const accounting::Transaction &transaction)
+{
+    QJsonObject json{
+        {QStringLiteral("number"), toJson(transaction.number())},
+        {QStringLiteral("date"), toJson(transaction.occurredOn())},
+        {QStringLiteral("debit"), toJson(transaction.debiting().number())},
+        {QStringLiteral("credit"), toJson(transaction.crediting().number())},
+        {QStringLiteral("amount"), toJson(transaction.amount())},
+        {QStringLiteral("description"), transaction.description().value_or(QString())},
+        {QStringLiteral("debitStatus"), accounting::toQString(transaction.debitStatus())},
+        {QStringLiteral("creditStatus"), accounting::toQString(transaction.creditStatus())}};
+    const numira::Money &amount = transaction.amount();
+    if (transaction.debitAmount() != amount || transaction.creditAmount() != amount) {
+        json.insert(QStringLiteral("debitAmount"), toJson(transaction.debitAmount()));
+        json.insert(QStringLiteral("creditAmount"), toJson(transaction.creditAmount()));
+    }
+    if (transaction.refundOf())
+        json.insert(QStringLiteral("refundOf"), toJson(transaction.refundOf()));
+    return json;
+}
+
+QJsonObject toJson(const budgeting::BudgetedMoney &item)
+{
+    QJsonObject json{{QStringLiteral("kind"), kindWord(budgeting::toBudgetItemTypes(item))},
+                     {QStringLiteral("name"), item.source().name()},
+                     {QStringLiteral("amount"), toJson(item.amount())},
+                     {QStringLiteral("every"), budgeting::toQString(item.period())},
+                     {QStringLiteral("next"), toJson(item.nextOccurOn())}};
+    if (const auto *debt = dynamic_cast<const budgeting::Debt *>(&item))
+        json.insert(QStringLiteral("borrowed"), toJson(debt->borrowed()));
+    if (const auto *goal = dynamic_cast<const budgeting::Goal *>(&item))
+        json.insert(QStringLiteral("target"), toJson(goal->final()));
+    return json;
+}
+
+QJsonObject toJson(const budgeting::BudgetItemAmountDue &due)
+{
+    return {{QStringLiteral("kind"), kindWord(due.id.type)},
+            {QStringLiteral("name"), due.id.source.name()},
+            {QStringLiteral("amount"), toJson(due.amount)},
+            {QStringLiteral("due"), toJson(due.id.dueOn)}};
+}
+
+QJsonObject toJson(const banking::Bank &bank, const AccountIndex &index)
+{
+    QJsonArray accounts;
+    for (const auto &[number, type] : bank.accounts()) {
+        QJsonObject account{{QStringLiteral("number"), toJson(number)},
+                            {QStringLiteral("type"), banking::toQString(type)}};
+        if (const accounting::Account *ledger = index.find(number)) {
+            account.insert(QStringLiteral("name"), ledger->code().name());
+            account.insert(QStringLiteral("balance"), toJson(ledger->balance()));
+        }
+        accounts.append(account);
+    }
+    return {{QStringLiteral("name"), bank.name().institution()},
+            {QStringLiteral("open"), !bank.isClosed()},
+            {QStringLiteral("accounts"), accounts}};
+}
+
+} // namespace kiv::app

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "accounting/account.h"
+
+#include <map>
+#include <set>
+#include <vector>
+
+namespace kiv::app {
+
+/// The accounts of a budget, to be found by what a person writes for one, each
+/// with its path: the root of its kind and the names of its parents and itself,
+/// with colons between them ("Assets:First:Checking").
+///
+/// Names in a path are made safe for plain-text accounting journals (no colon
+/// or semicolon, single blanks, no control characters), and where two accounts
+/// would get the same path their numbers are added to their names, so that every
+/// path stands for one account.
+class AccountIndex {
+public:
+    explicit AccountIndex(std::set<accounting::Account> accounts);
+    AccountIndex(AccountIndex &&) noexcept = default;
+    AccountIndex &operator=(AccountIndex &&) noexcept = default;
+
+    [[nodiscard]] const std::set<accounting::Account> &accounts() const &noexcept
+    {
+        return m_accounts;
+    }
+    /// They go with the index.
+    void accounts() const && = delete;
+    /// The account with this number, this name or this path, in that order.
+    /// Throws a Refusal when there is none, and when several have the name.
+    [[nodiscard]] const accounting::Account &find(const QString &text) const;
+    /// Null when there is none.
+    [[nodiscard]] const accounting::Account *find(accounting::AccountNumber number) const;
+    /// Empty for an unknown number.
+    [[nodiscard]] QString path(accounting::AccountNumber number) const;
+    /// The number after the highest one in use.
+    [[nodiscard]] accounting::AccountNumber nextNumber() const;
+
+private:
+    void makePaths();
+
+    std::set<accounting::Account> m_accounts;
+    /// Into the set, whose elements stay where they are when it is moved.
+    std::map<accounting::AccountNumber, const accounting::Account *> m_byNumber;
+    std::map<accounting::AccountNumber, QString> m_paths;
+};
+
+} // namespace kiv::app

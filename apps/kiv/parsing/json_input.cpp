@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "parsing/json_input.h"
+
+#include "errors.h"
+#include "parsing/values.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QObject>
+
+#include <cstdio>
+
+namespace kiv::app {
+
+using accounting::Transaction;
+using accounting::TransactionStatuses;
+
+namespace {
+
+constexpr qint64 bytesMax = qint64{64} << 20;
+
+template <typename T>
+T readText(const QJsonObject &object, const char *key)
+{
+    const QJsonValue value = object.value(QLatin1String(key));
+    if (!value.isString())
+        throw missing(QStringLiteral("\"%1\"").arg(QLatin1String(key)));
+    T read{};
+    readValue(value.toString().toStdString(), read);
+    return read;
+}
+
+accounting::AccountCode readAccount(const QJsonObject &object, const char *key,
+                                    const AccountIndex &index)
+{
+    const QJsonValue value = object.value(QLatin1String(key));
+    if (!value.isDouble() && !value.isString())
+        throw missing(QStringLiteral("\"%1\"").arg(QLatin1String(key)));
+    return index.find(value.isDouble() ? QString::number(value.toInteger()) : value.toString())
+        .code();
+}
+
+TransactionStatuses readStatus(const QJsonObject &object, const char *key)
+{
+    using enum TransactionStatuses;
+    const QString word = object.value(QLatin1String(key)).toString(accounting::toQString(None));
+    for (const TransactionStatuses status : {None, Cleared, Reconciled}) {
+        if (accounting::toQString(status) == word)
+            return status;
+    }
+    throw notAChoice(word, {accounting::toQString(None), accounting::toQString(Cleared),
+                            accounting::toQString(Reconciled)});
+}
+
+Transaction readTransaction(const QJsonObject &object, const AccountIndex &index)
+{
+    const accounting::AccountCode debit = readAccount(object, "debit", index);
+    const accounting::AccountCode credit = readAccount(object, "credit", index);
+    const numira::Currency currency = index.find(debit.number())->balance().code();
+    const QString description = object.value(QLatin1String("description")).toString();
+    const Transaction transaction(readText<QDate>(object, "date"), debit, credit,
+                                  readMoney(object.value(QLatin1String("amount")), currency),
+                                  description.isEmpty() ? std::nullopt
+                                                        : std::optional(description));
+    return transaction.withStatuses(readStatus(object, "debitStatus"),
+                                    readStatus(object, "creditStatus"));
+}
+
+} // namespace
+
+QByteArray readInput(const QString &path)
+{
+    QFile file(path);
+    const bool isOpen =
+        path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (!isOpen)
+        throw cannotRead(path, file.errorString());
+    // Asked for at once, an endless pipe would fill the memory.
+    const QByteArray bytes = file.read(bytesMax + 1);
+    if (file.error() != QFileDevice::NoError)
+        throw cannotRead(path, file.errorString());
+    if (bytes.size() > bytesMax)
+        throw cannotRead(path, QObject::tr("it is larger than 64 MiB"));
+    return bytes;
+}
+
+QJsonDocument readJson(const QString &path)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(readInput(path), &error);
+    if (error.error != QJsonParseError::NoError) {
+        throw unreadableInput(
+            path,
+            QObject::tr("%1 at byte %2").arg(error.errorString(), QString::number(error.offset)));
+    }
+    return document;
+}
+
+std::vector<Transaction> readTransactions(const QString &path, const AccountIndex &index)
+{
+    const QJsonDocument document = readJson(path);
+    const QJsonValue list = document.isArray()
+                                ? QJsonValue(document.array())
+                                : document.object().value(QLatin1String("transactions"));
+    if (!list.isArray())
+        throw unreadableInput(path, QObject::tr("it has no list of transactions"));
+    std::vector<Transaction> transactions;
+    for (const QJsonValue &element : list.toArray()) {
+        try {
+            transactions.push_back(readTransaction(element.toObject(), index));
+        } catch (const foundation::Error &error) {
+            throw unreadableInput(QObject::tr("transaction %1 of '%2'")
+                                      .arg(QString::number(transactions.size() + 1), path),
+                                  error.message().chopped(error.message().endsWith(u'.') ? 1 : 0));
+        }
+    }
+    return transactions;
+}
+
+numira::Money readMoney(const QJsonValue &value, const numira::Currency &otherwise)
+{
+    QString text = value.toString();
+    if (value.isObject()) {
+        text = value[QLatin1String("amount")].toString() + u' ' +
+               value[QLatin1String("currency")].toString();
+    }
+    Amount amount;
+    readValue(text.toStdString(), amount);
+    return amount.in(otherwise);
+}
+
+} // namespace kiv::app

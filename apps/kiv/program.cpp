@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "program.h"
+
+#include "commands/commands.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <CLI/CLI.hpp>
+
+namespace kiv::app {
+namespace {
+
+QString oneLine(const char *text)
+{
+    return QString::fromUtf8(text).simplified();
+}
+
+/// What CLI11 says of a wrong call, worded as a sentence where it is terse.
+QString misuse(const CLI::ParseError &error)
+{
+    const QString text = oneLine(error.what());
+    return text.endsWith(u'.') ? text : text + u'.';
+}
+
+const CLI::App *subcommand(const CLI::App &app, const std::string &name)
+{
+    const auto named = app.get_subcommands(
+        [&name](const CLI::App *command) { return command->get_name() == name; });
+    return named.empty() ? nullptr : named.front();
+}
+
+} // namespace
+
+int Program::run(const std::vector<std::string> &words)
+{
+    int status = success;
+    try {
+        return parse(words, status) ? execute() : status;
+    } catch (const UsageError &error) {
+        complain(error.message());
+        return misused;
+    } catch (const foundation::Error &error) {
+        complain(QString::fromUtf8(error.what()));
+    } catch (const std::exception &error) {
+        complain(oneLine(error.what()));
+    }
+    return refused;
+}
+
+std::unique_ptr<CLI::App> Program::declare()
+{
+    auto app = std::make_unique<CLI::App>(
+        "Keeps a household's budget: accounts, banks, bills, wages and what is due.", "kiv");
+    app->require_subcommand(1);
+    app->set_version_flag("--version",
+                          "kiv " + QCoreApplication::applicationVersion().toStdString());
+    app->footer("kiv COMMAND --help tells more about a command.");
+    Arguments arguments(*app, m_options);
+    arguments.file()
+        .flag("--json", m_options.isJson, "Print JSON for programs")
+        .flag("--verbose", m_options.isVerbose, "Show the log on standard error");
+    CommandGroup root(*app, *this);
+    addCommands(root);
+    return app;
+}
+
+std::vector<std::string> Program::wordsAfter(const std::vector<std::string> &before)
+{
+    const std::unique_ptr<CLI::App> app = declare();
+    const CLI::App *reached = app.get();
+    for (const std::string &word : before) {
+        if (const CLI::App *next = subcommand(*reached, word))
+            reached = next;
+    }
+    std::vector<std::string> words;
+    for (const CLI::App *command : reached->get_subcommands({}))
+        words.push_back(command->get_name());
+    for (const CLI::Option *option : reached->get_options()) {
+        if (option->nonpositional())
+            words.push_back(option->get_name());
+    }
+    return words;
+}
+
+void Program::refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
+{
+    const CLI::App *reached = &app;
+    for (const std::string &word : words) {
+        const CLI::App *next = subcommand(*reached, word);
+        if (word.starts_with('-') || reached->get_subcommands({}).empty())
+            return;
+        if (!next)
+            throw noSuchCommand(QString::fromStdString(word));
+        reached = next;
+    }
+}
+
+bool Program::parse(const std::vector<std::string> &words, int &status)
+{
+    m_options = Options{};
+    m_command = nullptr;
+    const std::unique_ptr<CLI::App> app = declare();
+    refuseUnknown(*app, words);
+    try {
+        // CLI11 takes the words from the back.
+        app->parse(std::vector<std::string>(words.rbegin(), words.rend()));
+    } catch (const CLI::ParseError &error) {
+        if (error.get_exit_code() != 0) {
+            complain(misuse(error));
+            status = misused;
+            return false;
+        }
+        std::ostringstream help;
+        app->exit(error, help, help);
+        m_terminal.write(QByteArray::fromStdString(help.str()));
+        return false;
+    }
+    return true;
+}
+
+void Program::select(CommandKind kind, std::function<Report(Call &)> command)
+{
+    m_kind = kind;
+    m_command = std::move(command);
+}
+
+int Program::execute()
+{
+    m_log.setVerbose(m_options.isVerbose);
+    // A command may run others through this program, which replace both.
+    const Options options = m_options;
+    const CommandKind kind = m_kind;
+    const auto command = m_command;
+
+    if (kind != CommandKind::Standalone)
+        openFile();
+    const bool isSaved = kind == CommandKind::Change && !options.isDryRun;
+    Report report;
+    {
+        auto takeBack = qScopeGuard([&] {
+            if (m_keepsSession && kind == CommandKind::Change)
+                m_session.revert();
+        });
+        Call call{m_session, options, *this};
+        report = command(call);
+        if (isSaved)
+            takeBack.dismiss();
+    }
+    if (isSaved)
+        m_session.save();
+    if (kind == CommandKind::Change && options.isDryRun)
+        report.line(QObject::tr("This was a dry run: nothing is saved."));
+    m_options = options;
+    print(report);
+    return report.status();
+}
+
+void Program::openFile()
+{
+    const QString named =
+        m_options.file.isEmpty() ? qEnvironmentVariable("KIV_FILE") : m_options.file;
+    if (named.isEmpty() && m_session.file().isEmpty())
+        throw noFileNamed();
+    if (m_session.file().isEmpty() ||
+        (!m_options.file.isEmpty() && Session::withExtension(named) != m_session.file()))
+        m_session.open(named);
+}
+
+void Program::print(const Report &report)
+{
+    if (m_isSilent)
+        return;
+    m_terminal.write(m_options.isJson ? report.toJson()
+                                      : report.toText(m_terminal, m_session.displayAs()));
+}
+
+} // namespace kiv::app

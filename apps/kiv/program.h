@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "command_line/command_group.h"
+
+namespace kiv::app {
+
+/// The command `kiv`: understands a command line, runs the command on the
+/// session's budget, saves, prints, and gives the exit status.
+class Program {
+public:
+    static constexpr int success = 0;
+    static constexpr int refused = 1;
+    static constexpr int misused = 2;
+
+    Program() = default;
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    /// Runs one command line, without the program's own name. Its refusal is
+    /// told on standard error in one sentence.
+    int run(const std::vector<std::string> &words);
+    /// From now on the session is kept from one call to the next, so a call
+    /// that failed or tried something dry is taken back in memory, too.
+    void keepSession() noexcept { m_keepsSession = true; }
+
+    /// From now on no report is printed.
+    void setSilent() noexcept { m_isSilent = true; }
+
+    /// The commands and options that may stand behind these words.
+    [[nodiscard]] std::vector<std::string> wordsAfter(const std::vector<std::string> &before);
+    [[nodiscard]] Session &session() noexcept { return m_session; }
+    [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
+
+    // ---- for the commands that are being declared ------------------------------
+
+    [[nodiscard]] Options &options() noexcept { return m_options; }
+    void select(CommandKind kind, std::function<Report(Call &)> command);
+
+private:
+    [[nodiscard]] std::unique_ptr<CLI::App> declare();
+    /// CLI11 would only say that a command is missing.
+    static void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words);
+    /// Tells whether there is a command to be executed; otherwise `status` is
+    /// the exit status.
+    bool parse(const std::vector<std::string> &words, int &status);
+    int execute();
+    void openFile();
+    void print(const Report &report);
+
+    MessageLog m_log;
+    Session m_session{m_log};
+    Terminal m_terminal;
+    Options m_options;
+    CommandKind m_kind = CommandKind::Standalone;
+    std::function<Report(Call &)> m_command;
+    bool m_keepsSession = false;
+    bool m_isSilent = false;
+};
+
+} // namespace kiv::app

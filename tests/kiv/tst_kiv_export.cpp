@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "household.h"
+
+#include <QtCore/QRandomGenerator>
+
+using kiv::test::Ended;
+using kiv::test::Household;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using Balances = std::map<QString, QString>;
+
+/// Names that mean something else to a reader of journals, to a spreadsheet or
+/// to a terminal.
+const QStringList &oddNames()
+{
+    static const QStringList names{
+        u"Food"_s,          u"Food"_s,        u"Food 7"_s,     u"A:B"_s,        u"two  blanks"_s,
+        u"; no comment"_s,  u"=SUM(A1)"_s,    u"+1"_s,         u"@home"_s,      u"(virtual)"_s,
+        u"[Budget Item]"_s, u"* star"_s,      u"12.00 USD"_s,  u"\"quoted\""_s, u"\x1b[31mred"_s,
+        u"\u202Eturned"_s,  u"line\nbreak"_s, u"Zürich 食費"_s};
+    return names;
+}
+
+/// "-12.50" and "-12.5" are the same balance.
+QString plain(QString amount)
+{
+    if (amount.contains(u'.')) {
+        while (amount.endsWith(u'0'))
+            amount.chop(1);
+        if (amount.endsWith(u'.'))
+            amount.chop(1);
+    }
+    return amount == u"-0" ? u"0"_s : amount;
+}
+
+/// Debits are positive in journals, whatever the kind of the account.
+Balances ownBalances(const Household &home)
+{
+    Balances balances;
+    for (const QJsonValue &account : home.json("accounts").array()) {
+        const QString type = account["type"_L1].toString();
+        const QJsonValue balance = account["balance"_L1];
+        QString amount = plain(balance["amount"_L1].toString());
+        if (amount != u"0") {
+            if (type != u"asset" && type != u"expense")
+                amount = amount.startsWith(u'-') ? amount.mid(1) : u'-' + amount;
+            balances[account["path"_L1].toString()] =
+                amount + u' ' + balance["currency"_L1].toString();
+        }
+    }
+    return balances;
+}
+
+/// Lines "path  amount currency", as both tools are asked for them; no path holds
+/// two blanks.
+Balances readBalances(const QByteArray &output)
+{
+    Balances balances;
+    for (const QString &line : QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts)) {
+        const QStringList cells = line.split(u"  "_s);
+        const QStringList amount = cells.value(1).trimmed().split(u' ');
+        if (plain(amount.value(0)) != u"0")
+            balances[cells[0]] = plain(amount.value(0)) + u' ' + amount.value(1);
+    }
+    return balances;
+}
+
+QByteArray toolBalances(const Household &home, const QString &tool)
+{
+    const QString format =
+        tool == u"ledger"
+            ? u"%(account)  %(quantity(scrub(amount))) %(commodity(scrub(amount)))\n"_s
+            : u"%(account)  %(total)"_s;
+    const QString option = tool == u"ledger" ? u"--balance-format"_s : u"--format"_s;
+    // The one reads bytes, the other wants a locale that is installed.
+    const kiv::test::Ended ended =
+        home.runProgram(u"env"_s, {u"LC_ALL=C.UTF-8"_s, tool, u"-f"_s, home.path("export.journal"),
+                                   u"balance"_s, u"--flat"_s, u"--no-total"_s, option, format});
+    if (ended.status != 0)
+        qWarning("%s", ended.err.constData());
+    return ended.out;
+}
+
+} // namespace
+
+class TestKivExport : public QObject {
+    Q_OBJECT
+
+private slots:
+    /// Accounts of every kind, with odd names and in two currencies, and a
+    /// thousand transactions between them.
+    void initTestCase()
+    {
+        QVERIFY(m_home.begin());
+        QByteArray script;
+        for (const QString &name : oddNames()) {
+            QString quoted = name;
+            quoted.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
+            // A shell reads lines; the one name with a line break comes below.
+            if (!name.contains(u'\n'))
+                script += "account add \"" + quoted.toUtf8() + "\" --type expense --currency USD\n";
+        }
+        script += "account add \"=SUM(A1)\" --type asset --under Checking --currency USD\n"
+                  "account add Card --type liability --currency USD --balance 120.55\n"
+                  "account add Euros --type asset --currency EUR --balance 99.01\n"
+                  "account add Yen --type asset --currency JPY --balance 1234567\n"
+                  "account add Dinar --type asset --currency KWD --balance 1.234\n";
+        const Ended shell = m_home.run("shell", script);
+        QVERIFY2(shell.status == 0, shell.err.constData());
+        const Ended broken = m_home.runProgram(
+            QStringLiteral(KIV_PROGRAM),
+            {u"account"_s, u"add"_s, u"line\nbreak"_s, u"--type"_s, u"expense"_s});
+        QVERIFY2(broken.status == 0, broken.err.constData());
+        QVERIFY(!broken.out.contains("line\nbreak"));
+
+        QJsonArray usd;
+        for (const QJsonValue &account : m_home.json("accounts").array()) {
+            if (account["balance"_L1]["currency"_L1].toString() == u"USD")
+                usd.append(account["number"_L1]);
+        }
+        QRandomGenerator random(20260131);
+        QJsonArray transactions;
+        while (transactions.size() < 1000) {
+            const QJsonValue debit = usd[static_cast<qsizetype>(random.bounded(usd.size()))];
+            const QJsonValue credit = usd[static_cast<qsizetype>(random.bounded(usd.size()))];
+            if (debit == credit)
+                continue;
+            const int cents = random.bounded(1, 500'000);
+            static const QStringList statuses{u"none"_s, u"cleared"_s, u"reconciled"_s};
+            transactions.append(QJsonObject{
+                {u"debit"_s, debit},
+                {u"credit"_s, credit},
+                {u"date"_s, QDate(2025, 1, 1).addDays(random.bounded(700)).toString(Qt::ISODate)},
+                {u"amount"_s, u"%1.%2 USD"_s.arg(cents / 100).arg(cents % 100, 2, 10, QChar(u'0'))},
+                {u"debitStatus"_s, statuses[random.bounded(3)]},
+                {u"creditStatus"_s, statuses[random.bounded(3)]},
+                {u"description"_s,
+                 oddNames()[random.bounded(static_cast<int>(oddNames().size()))]}});
+        }
+        const Ended loaded = m_home.run("transaction load -", QJsonDocument(transactions).toJson());
+        QVERIFY2(loaded.status == 0, loaded.err.constData());
+        m_home.write(m_home.path("export.journal"), m_home.run("export").out);
+    }
+
+    void bothToolsFindTheSameBalances_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::newRow("ledger") << u"ledger"_s;
+        QTest::newRow("hledger") << u"hledger"_s;
+    }
+    void bothToolsFindTheSameBalances()
+    {
+        QFETCH(QString, tool);
+        const Balances own = ownBalances(m_home);
+        QVERIFY(own.size() > 20);
+        QCOMPARE(readBalances(toolBalances(m_home, tool)), own);
+    }
+
+    void aForgedJournalIsNoticed()
+    {
+        QByteArray journal = m_home.bytes(m_home.path("export.journal"));
+        const QByteArray amount = "2500.00 USD";
+        QVERIFY(journal.contains(amount));
+        m_home.write(m_home.path("export.journal"), journal.replace(amount, "2500.01 USD"));
+        const Balances own = ownBalances(m_home);
+        const Balances forged = readBalances(toolBalances(m_home, u"hledger"_s));
+        QCOMPARE(forged.size(), own.size());
+        QVERIFY(forged != own);
+        m_home.write(m_home.path("export.journal"), m_home.run("export").out);
+    }
+
+    void nothingInAnExportIsObeyed()
+    {
+        const QByteArray csv = m_home.run("export --format csv").out;
+        QCOMPARE(csv.count("\r\n"), csv.count('\n'));
+        for (const char *start : {",\"=", ",\"+", ",\"-", ",\"@"})
+            QVERIFY2(!csv.contains(start), start);
+        QVERIFY(csv.contains("\"'=SUM(A1)\""));
+        for (const char *line : {"accounts", "accounts --json", "export", "export --format csv",
+                                 "export --format json", "transactions"}) {
+            const QByteArray out = m_home.run(line).out;
+            QVERIFY2(!out.contains('\x1b') && !out.contains("\u202E"), line);
+        }
+    }
+
+    void theJsonExportLoadsIntoAnotherBudget()
+    {
+        const QByteArray exported = m_home.run("export --format json").out;
+        const QJsonObject all = QJsonDocument::fromJson(exported).object();
+        QCOMPARE(all["transactions"_L1].toArray().size(), 1004 + 1);
+        QCOMPARE(all["accounts"_L1].toArray(), sorted(m_home.json("accounts").array()));
+        const QByteArray before = m_home.bytes();
+        const Ended refused =
+            m_home.run("transaction load -",
+                       "[{\"date\":\"2026-01-01\",\"debit\":1,\"credit\":2,\"amount\":\"1 USD\"},"
+                       "{\"date\":\"2026-02-30\",\"debit\":1,\"credit\":2,\"amount\":\"1 USD\"}]");
+        QCOMPARE(refused.status, 2);
+        QVERIFY2(refused.err.contains("transaction 2"), refused.err.constData());
+        QCOMPARE(m_home.bytes(), before);
+    }
+
+private:
+    static QJsonArray sorted(const QJsonArray &accounts)
+    {
+        std::map<qint64, QJsonValue> byNumber;
+        for (const QJsonValue &account : accounts)
+            byNumber.emplace(account["number"_L1].toInteger(), account);
+        QJsonArray result;
+        for (const auto &[number, account] : byNumber)
+            result.append(account);
+        return result;
+    }
+
+    Household m_home;
+};
+
+QTEST_GUILESS_MAIN(TestKivExport)
+#include "tst_kiv_export.moc"

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "errors.h"
+#include "output/table.h"
+#include "output/terminal.h"
+#include "parsing/account_index.h"
+#include "parsing/words.h"
+
+#include <QtTest/QtTest>
+
+using namespace kiv;
+using app::AccountIndex;
+using namespace Qt::Literals::StringLiterals;
+
+/// The pieces of the command that have more cases than are worth a process
+/// each.
+class TestKivPieces : public QObject {
+    Q_OBJECT
+
+private slots:
+    void everyPathStandsForOneAccount_data()
+    {
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<QStringList>("paths");
+        const auto row = [](const char *name, const QStringList &names, const QStringList &paths) {
+            QTest::newRow(name) << names << paths;
+        };
+        row("plain", {u"Food"_s, u"Rent"_s}, {u"Food"_s, u"Rent"_s});
+        row("the same name", {u"Food"_s, u"Food"_s}, {u"Food 1"_s, u"Food 2"_s});
+        row("alike once they are safe", {u"A:B"_s, u"A-B"_s}, {u"A-B 1"_s, u"A-B 2"_s});
+        row("a number makes another's name", {u"Food"_s, u"Food"_s, u"Food 1"_s},
+            {u"Food 1 1"_s, u"Food 2"_s, u"Food 1 3"_s});
+        row("nothing left", {u" "_s, u";"_s}, {u"1"_s, u","_s});
+    }
+    void everyPathStandsForOneAccount()
+    {
+        QFETCH(QStringList, names);
+        QFETCH(QStringList, paths);
+        std::set<accounting::Account> accounts;
+        std::uint32_t number = 0;
+        for (const QString &name : names)
+            accounts.insert(account(++number, name, std::nullopt));
+        const AccountIndex index(std::move(accounts));
+        for (number = 1; number <= static_cast<std::uint32_t>(paths.size()); ++number) {
+            QCOMPARE(index.path(accounting::AccountNumber(number)),
+                     u"Expenses:"_s + paths[number - 1]);
+        }
+    }
+
+    void accountsAreFoundByNumberNameAndPath()
+    {
+        const AccountIndex index({account(1, u"Home"_s, std::nullopt), account(2, u"Rent"_s, 1u),
+                                  account(3, u"1"_s, std::nullopt),
+                                  account(4, u"Rent"_s, std::nullopt)});
+        const auto number = [&index](const char *text) {
+            return index.find(QString::fromUtf8(text)).code().number().integer();
+        };
+        QCOMPARE(number("1"), 1u);
+        QCOMPARE(number("Home"), 1u);
+        QCOMPARE(number("Expenses:Home:Rent"), 2u);
+        QVERIFY_EXCEPTION_THROWN(number("Rent"), app::Refusal);
+        QVERIFY_EXCEPTION_THROWN(number("rent"), app::Refusal);
+        QCOMPARE(index.nextNumber().integer(), 5u);
+    }
+
+    void wordsAreSplitAsAShellDoes_data()
+    {
+        QTest::addColumn<std::string>("line");
+        QTest::addColumn<std::vector<std::string>>("words");
+        const auto row = [](const char *line, const std::vector<std::string> &words) {
+            QTest::newRow(line) << std::string(line) << words;
+        };
+        row("", {});
+        row("  a\tb  ", {"a", "b"});
+        row("'a b' \"c d\"", {"a b", "c d"});
+        row("a'b c'd", {"ab cd"});
+        row("'' \"\"", {"", ""});
+        row("a\\ b \"\\\"\" '\\'", {"a b", "\"", "\\"});
+        row("a # b", {"a"});
+        row("a#b", {"a#b"});
+    }
+    void wordsAreSplitAsAShellDoes()
+    {
+        QFETCH(std::string, line);
+        QFETCH(std::vector<std::string>, words);
+        QVERIFY(app::splitWords(line) == words);
+        for (const std::string &word : words)
+            QVERIFY(app::splitWords(app::quotedWord(word)) == std::vector{word});
+    }
+    void anOpenQuoteIsRefused()
+    {
+        QVERIFY_EXCEPTION_THROWN(app::splitWords("a 'b"), app::UsageError);
+    }
+
+    void textIsCutToColumns_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("fits") << u"abcd"_s << 4 << u"abcd"_s;
+        QTest::newRow("too long") << u"abcde"_s << 4 << u"abc…"_s;
+        QTest::newRow("wide") << u"食費食費"_s << 6 << u"食費…"_s;
+        QTest::newRow("combining") << u"e\u0301e\u0301"_s << 2 << u"e\u0301e\u0301"_s;
+    }
+    void textIsCutToColumns()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, width);
+        QTEST(app::elided(text, width), "shown");
+        QVERIFY(app::displayWidth(app::elided(text, width)) <= width);
+    }
+
+private:
+    static accounting::Account account(std::uint32_t number, const QString &name,
+                                       std::optional<std::uint32_t> parent)
+    {
+        std::optional<accounting::AccountNumber> under;
+        if (parent)
+            under = accounting::AccountNumber(*parent);
+        return {accounting::AccountTypes::Expense,
+                accounting::AccountCode(accounting::AccountNumber(number), name, under),
+                numira::Money(), false};
+    }
+};
+
+Q_DECLARE_METATYPE(std::string)
+Q_DECLARE_METATYPE(std::vector<std::string>)
+
+QTEST_APPLESS_MAIN(TestKivPieces)
+#include "tst_kiv_pieces.moc"

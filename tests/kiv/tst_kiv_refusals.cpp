@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "household.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+using kiv::test::Ended;
+using kiv::test::Household;
+
+/// Whatever is wrong with a call: one sentence on standard error, exit status 1
+/// or 2, nothing on standard output, and the file as it was, byte for byte.
+class TestKivRefusals : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(m_household.begin()); }
+
+    void badInputChangesNothing_data()
+    {
+        QTest::addColumn<QByteArray>("line");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("sentence");
+        const auto row = [](const char *name, const char *line, int status, const char *sentence) {
+            QTest::newRow(name) << QByteArray(line) << status << QByteArray(sentence);
+        };
+        const char *const amount = "is not an amount";
+        row("letters in an amount", "bill add Gym 12,3x", 2, amount);
+        row("a comma for the point", "bill add Gym 1,250", 2, amount);
+        row("no digit behind the point", "bill add Gym 12.", 2, amount);
+        row("an exponent", "bill add Gym 1e3", 2, amount);
+        row("two currencies", "bill add Gym USD_1_EUR", 2, amount);
+        row("an amount of forty digits", "bill add Gym 1234567890123456789012345678901234567890", 2,
+            "too large");
+        row("more digits than the cents", "bill add Gym 12.345_USD", 2, "'12.345 USD' has more");
+        row("cents of a yen", "bill add Gym 12.5_JPY", 2, "no minor unit");
+        row("unknown currency", "bill add Gym 12_ABQ", 2, "'ABQ' is not a currency");
+        row("no currency at all", "bill add Gym 12_XXX", 2, "'XXX' is not a currency");
+        row("a day that does not exist", "bill add Gym 12 --next 2026-02-30", 2,
+            "'2026-02-30' is not a date");
+        row("a date in another order", "bill add Gym 12 --next 30.01.2026", 2, "is not a date");
+        row("a date with more behind it", "bill add Gym 12 --next 2026-01-30T10:00", 2,
+            "is not a date");
+        row("unknown frequency", "bill add Gym 12 --every moonly", 2, "'moonly' is none of: none");
+        row("an empty name", "bill add  _ 12", 2, "A name cannot be empty");
+        row("nothing to change", "bill update Rent", 2, "Nothing to change");
+        row("an unknown option", "bill add Gym 12 --colour red", 2, "--colour");
+        row("a missing argument", "bill add Gym", 2, "AMOUNT");
+        row("an unknown command", "frobnicate", 2, "frobnicate");
+        row("no command", "", 2, "subcommand");
+        row("a negative bill", "bill add Gym -- -12", 1, "amount");
+        row("an item that is there", "bill add Rent 12 ", 1, "already exists");
+        row("an item named like an account", "wage add Checking 12", 1,
+            "The budget item has the same name as an existing ledger account.");
+        row("an account named like an item", "account add Rent --type expense", 1,
+            "The code name is the same name as an existing budget item.");
+        row("a bank account named like an item", "bank-account add Salary --bank First", 1,
+            "The code name is the same name as an existing budget item.");
+        row("an unknown account", "ledger Savings", 1, "There is no account 'Savings'.");
+        row("an unknown bank", "bank-account add Savings --bank Second", 1,
+            "There is no bank 'Second'.");
+        row("an unknown item", "bill rename Gym Club", 1, "");
+        row("an item of another kind", "bill remove Salary", 1, "There is no bill 'Salary'.");
+        row("an account number in use", "account add Food --type expense --number 1", 1, "");
+        row("a parent of another kind", "account add Food --type expense --under Checking", 1, "");
+        row("closing an account with a balance", "account close Checking", 1, "");
+        row("the same account twice", "transaction add 5 --debit Checking --credit 1", 1, "");
+        row("an amount of nothing", "transaction add 0 --debit 3 --credit Checking", 1, "");
+        row("an unknown transaction", "transaction remove 77", 1, "");
+        row("one unknown among several", "transaction clear 1 77", 1, "");
+        row("a transaction number out of range", "transaction remove 65536", 2, "1 to 65535");
+        row("more than the purchase refunded", "refund 1 9999.00", 1, "");
+        row("a missing file", "accounts --file nowhere", 1, "nowhere.budget");
+        row("a folder for a file", "accounts --file .", 1, "");
+        row("a new file over an old one", "new household", 1, "exists already");
+    }
+    void badInputChangesNothing()
+    {
+        QFETCH(QByteArray, line);
+        QFETCH(int, status);
+        QFETCH(QByteArray, sentence);
+        const QByteArray before = m_household.bytes();
+        const Ended ended = m_household.run(line.constData());
+        QVERIFY2(isRefusal(ended, status), ended.err.constData());
+        QVERIFY2(ended.err.contains(sentence), ended.err.constData());
+        QCOMPARE(m_household.bytes(), before);
+    }
+
+    void badFilesAreRefusedAndLeftAlone_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const QByteArray good = m_household.bytes();
+        QByteArray newer = good;
+        newer[60 + 3] = 99; // SQLite keeps user_version at byte 60
+        QByteArray flipped = good;
+        const qsizetype name = flipped.indexOf("Checking");
+        QVERIFY(name > 0);
+        flipped[name] = static_cast<char>(flipped[name] ^ 1);
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("truncated") << good.first(good.size() / 2);
+        QTest::newRow("one bit changed") << flipped;
+        QTest::newRow("of another program") << QByteArray("%PDF-1.7 and so on\n").repeated(400);
+        QTest::newRow("of a newer version") << newer;
+    }
+    void badFilesAreRefusedAndLeftAlone()
+    {
+        QFETCH(QByteArray, content);
+        const QString file = m_household.path("bad.budget");
+        m_household.write(file, content);
+        for (const char *line : {"accounts --file bad.budget", "bank add New --file bad.budget"}) {
+            const Ended ended = m_household.run(line);
+            QVERIFY2(isRefusal(ended, 1), ended.err.constData());
+            QVERIFY2(ended.err.contains("bad.budget"), ended.err.constData());
+            QCOMPARE(m_household.bytes(file), content);
+        }
+    }
+
+    void aFileThatIsOpenElsewhereIsRefused()
+    {
+        // A shell keeps its file open for as long as its input lasts.
+        QProcess other;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_household.path("config"));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_household.path("data"));
+        other.setProcessEnvironment(environment);
+        other.start(QStringLiteral(KIV_PROGRAM),
+                    {QStringLiteral("shell"), QStringLiteral("--file"), m_household.file()});
+        other.write("info\n");
+        QVERIFY(other.waitForReadyRead());
+        const QByteArray before = m_household.bytes();
+        const Ended ended = m_household.run("bank add Second");
+        QVERIFY2(isRefusal(ended, 1), ended.err.constData());
+        QCOMPARE(m_household.bytes(), before);
+        other.closeWriteChannel();
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(m_household.run("bank add Second --dry-run").status, 0);
+    }
+
+    void aFullDiskLeavesTheFileAsItWas()
+    {
+        const QByteArray before = m_household.bytes();
+        // A limit on the size of files stands for a disk that is full.
+        const Ended ended = m_household.runProgram(
+            QStringLiteral("/bin/sh"),
+            {QStringLiteral("-c"),
+             QStringLiteral("trap '' XFSZ; ulimit -f 1; exec \"$0\" bank add Second"),
+             QStringLiteral(KIV_PROGRAM)});
+        QVERIFY2(isRefusal(ended, 1), ended.err.constData());
+        QCOMPARE(m_household.bytes(), before);
+    }
+
+    void outputThatCannotBeWrittenIsAFailure()
+    {
+        const Ended ended = m_household.runProgram(QStringLiteral("/bin/sh"),
+                                                   {QStringLiteral("-c"),
+                                                    QStringLiteral("\"$0\" accounts >/dev/full"),
+                                                    QStringLiteral(KIV_PROGRAM)});
+        QVERIFY2(isRefusal(ended, 1), ended.err.constData());
+    }
+
+    void dryRunsSaveNothing()
+    {
+        const QByteArray before = m_household.bytes();
+        const Ended ended = m_household.run("bill add Gym 30 --dry-run");
+        QCOMPARE(ended.status, 0);
+        QVERIFY(ended.out.contains("nothing is saved"));
+        QCOMPARE(m_household.bytes(), before);
+    }
+
+private:
+    static bool isRefusal(const Ended &ended, int status)
+    {
+        return ended.status == status && ended.out.isEmpty() && ended.err.startsWith("kiv: ") &&
+               ended.err.endsWith(".\n") && ended.err.count('\n') == 1;
+    }
+
+    Household m_household;
+};
+
+QTEST_GUILESS_MAIN(TestKivRefusals)
+#include "tst_kiv_refusals.moc"
