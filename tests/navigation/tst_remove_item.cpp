@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "navigation/internal/remove_item.h"
-
 #include "support/navigation.h"
+
+#include "navigation/internal/remove_item.h"
 
 using namespace kiv;
 using namespace kiv::test;
@@ -49,23 +49,23 @@ private slots:
         second.completed(day("2026-01-31"), usd("0"), nothing, usd("0"), {});
         const auto completed =
             surveys({survey(at("First", 1, Checking), {id<Goal>("Other")}), second});
-        const auto refused = [&](const budgeting::BudgetItemIdentifier &item) {
-            return refusal(books,
-                           [&] { removeItem(item, books.items, books.bankLedgers, completed); });
+        const auto removing = [&](const budgeting::BudgetItemIdentifier &item) {
+            return [&, item] { removeItem(item, books.items, books.bankLedgers, completed); };
         };
-        // Even a distribution of nothing.
-        QCOMPARE(refused(id<Bill>("Rent")),
-                 QStringLiteral("item Rent: There is %1 distributed in the surveyed bank account "
-                                "Second 4 (loan). Empty the distribution first before removing the "
-                                "budgeted item.")
-                     .arg(presentationText(surveying::DistributedAmount())));
-        QCOMPARE(refused(id<Goal>("Trip")), u"item Trip: Cannot remove a goal that has a balance.");
-        QCOMPARE(refused(id<Nontrack>("Rent")),
-                 u"item Rent: Cannot remove a nontrack that does not exist.");
-        QCOMPARE(refused({BudgetItemTypes::None, source("Rent")}),
-                 u"logic: Invalid budget item ID type supplied for removal 0");
-        QCOMPARE(refused({BudgetItemTypes(7), source("Rent")}),
-                 u"logic: Invalid budget item ID type supplied for removal 7");
+        const QString none = presentationText(surveying::DistributedAmount());
+        checkRefusals(
+            books,
+            {{removing(id<Bill>("Rent")), // even for a distribution of nothing
+              "item Rent: There is " + none.toStdString() +
+                  " distributed in the surveyed bank account Second 4 (loan). Empty the "
+                  "distribution first before removing the budgeted item."},
+             {removing(id<Goal>("Trip")), "item Trip: Cannot remove a goal that has a balance."},
+             {removing(id<Nontrack>("Rent")),
+              "item Rent: Cannot remove a nontrack that does not exist."},
+             {removing({BudgetItemTypes::None, source("Rent")}),
+              "logic: Invalid budget item ID type supplied for removal 0"},
+             {removing({BudgetItemTypes(7), source("Rent")}),
+              "logic: Invalid budget item ID type supplied for removal 7"}});
     }
 
     void anItemOfTwoBanksLeavesTheFirst()

@@ -125,6 +125,20 @@ QString refusal(Subject &subject, Request &&request)
     return stateOf(subject) == before ? text : text + QStringLiteral(" But something changed.");
 }
 
+/// A request, and what must come of it.
+struct Refusal {
+    std::function<void()> request;
+    std::string expected;
+};
+
+/// Each of them must be answered so, and leave everything as it was.
+template <typename Subject>
+void checkRefusals(Subject &subject, const std::vector<Refusal> &refusals)
+{
+    for (const Refusal &one : refusals)
+        QCOMPARE(refusal(subject, one.request), QString::fromStdString(one.expected));
+}
+
 // ---- the five kinds of item ----------------------------------------------------
 
 /// One row for each kind; its test runs through forKind.
@@ -146,7 +160,7 @@ void forKind(Test &&test)
 
 /// "bill", "debt" and so on.
 template <budgeting::BudgetItem T>
-const QString word = QString::fromLatin1(budgeting::ItemTraits<T>::word);
+const std::string word = budgeting::ItemTraits<T>::word;
 
 /// What a list in the order of the kinds holds for this one.
 template <budgeting::BudgetItem T, typename List>
@@ -154,9 +168,6 @@ constexpr auto byKind(const List &list)
 {
     return list[static_cast<std::size_t>(budgeting::ItemTraits<T>::type) - 1];
 }
-
-template <budgeting::BudgetItem T>
-constexpr bool isTied = budgeting::BankTiedItem<T>;
 
 // ---- books ---------------------------------------------------------------------
 
@@ -271,5 +282,3 @@ private:
 };
 
 } // namespace kiv::test
-
-Q_DECLARE_METATYPE(std::function<void(kiv::test::Books &)>)
