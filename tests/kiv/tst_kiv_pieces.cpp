@@ -122,8 +122,5 @@ private:
     }
 };
 
-Q_DECLARE_METATYPE(std::string)
-Q_DECLARE_METATYPE(std::vector<std::string>)
-
 QTEST_APPLESS_MAIN(TestKivPieces)
 #include "tst_kiv_pieces.moc"
