@@ -77,7 +77,13 @@ QByteArray readInput(const QString &path)
     if (!isOpen)
         throw cannotRead(path, file.errorString());
     // Asked for at once, an endless pipe would fill the memory.
-    const QByteArray bytes = file.read(bytesMax + 1);
+    QByteArray bytes;
+    for (QByteArray part; bytes.size() <= bytesMax; bytes += part) {
+        // A pipe gives what is there, and nothing only at its end.
+        part = file.read(bytesMax + 1 - bytes.size());
+        if (part.isEmpty())
+            break;
+    }
     if (file.error() != QFileDevice::NoError)
         throw cannotRead(path, file.errorString());
     if (bytes.size() > bytesMax)
