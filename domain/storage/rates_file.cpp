@@ -8,8 +8,10 @@
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QFileInfo>
 #include <QtCore/QList>
+#include <QtCore/QThread>
 
 #include <filesystem>
+#include <memory>
 #include <new>
 
 namespace kiv::storage {
@@ -22,8 +24,23 @@ constexpr qsizetype fileSizeMax = 1024 * 1024;
 constexpr QByteArrayView kindWord = "kiv-exchange-rates ";
 constexpr int currentVersion = 1;
 constexpr QByteArrayView digestWord = "sha256 ";
-/// The exchange rates are in no hurry: two processes may store them in turn.
-constexpr int lockTriesMax = 20;
+/// How often, and after how many milliseconds, storing is tried again while
+/// another process stores its rates.
+constexpr int lockTriesMax = 50;
+constexpr unsigned long lockPause = 10;
+
+std::unique_ptr<internal::FileLock> lockInTurn(const FileTarget &target)
+{
+    for (int tries = 1;; ++tries) {
+        try {
+            return std::make_unique<internal::FileLock>(target);
+        } catch (const StorageError &error) {
+            if (error.failure() != StorageFailure::Locked || tries == lockTriesMax)
+                throw;
+        }
+        QThread::msleep(lockPause);
+    }
+}
 
 QByteArray digestOf(QByteArrayView text)
 {
@@ -123,7 +140,7 @@ void RatesFile::store(const conversion::ConversionMap &rates)
     if (error)
         throw internal::cannotWrite(m_filePathName, error.value());
     const FileTarget target(m_filePathName);
-    const internal::FileLock lock(target);
+    const auto lock = lockInTurn(target);
     const auto replaced = internal::readFile(target, fileSizeMax);
     internal::AtomicFileWriter(target, replaced ? std::optional(replaced->stamp) : std::nullopt)
         .write(encode(rates), 0);

@@ -15,6 +15,8 @@ namespace kiv::test {
 /// A folder of the test's own that goes with it.
 class ScratchFolder {
 public:
+    ScratchFolder() = default;
+    explicit ScratchFolder(const QString &parent) : m_folder(parent + QStringLiteral("/kiv")) {}
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     void write(const QString &name, const QByteArray &bytes) const
     {

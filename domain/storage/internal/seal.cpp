@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/seal.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cstring>
+#include <utility>
 
 namespace kiv::storage::internal {
 
@@ -34,7 +35,7 @@ void Seal::append(QByteArrayView bytes)
         m_hash.addData(bytes);
         return;
     }
-    std::memcpy(m_dump.data() + m_size, bytes.data(), static_cast<std::size_t>(bytes.size()));
+    std::ranges::copy(bytes, m_dump.data() + m_size);
     m_size += bytes.size();
 }
 
