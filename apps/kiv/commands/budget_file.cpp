@@ -94,8 +94,8 @@ struct Info {
         json.insert(QStringLiteral("debits"), sideTotals(index, true));
         json.insert(QStringLiteral("credits"), sideTotals(index, false));
 
-        const auto amounts = [&call](const QJsonValue &value) {
-            return amountsText(value.toArray(), call.session.displayAs());
+        const auto amounts = [displayAs = call.session.displayAs()](const QJsonValue &value) {
+            return amountsText(value.toArray(), displayAs);
         };
         const auto counts = [](const QJsonValue &value) {
             QStringList texts;
