@@ -38,6 +38,7 @@ void Navigator::onCompletedSurvey(
 {
     qInfo() << "Processing the completed survey.";
     surveying::CompletedSurvey completed;
+    const accounting::GeneralLedger before = m_budgetBankLedgers->generalLedger();
     // The user typed in what the statement shows, and a survey that cannot be
     // completed, for whatever reason, must not be lost without a word.
     change<std::exception>(
@@ -51,7 +52,13 @@ void Navigator::onCompletedSurvey(
             qInfo() << "Survey completed." << completed;
             emit completedSurveySucceeded();
         },
-        [&](const QString &why) { emit completedSurveyFailed(why); });
+        [&](const QString &why) {
+            // What was posted before the failure stays, and would be lost at the
+            // next quit if nobody were asked to save it.
+            if (!(m_budgetBankLedgers->generalLedger() == before))
+                m_isDirty = true;
+            emit completedSurveyFailed(why);
+        });
 }
 
 } // namespace kiv::navigation

@@ -33,6 +33,7 @@ private slots:
     void addedBankAccountReturnsItsCode();
     void viewsMayChangeWhatTheyDraw();
     void storesEditedRates();
+    void aFailedSurveyThatPostedIsAChange();
     void wizardBuildsABudget();
     void whatAReceiverThrowsIsNoFailure();
 
@@ -299,6 +300,25 @@ void NavigatorEffects::storesEditedRates()
     QCOMPARE(CurrencyConverter::cache(), edited);
     QCOMPARE(desk.disk->rates, std::optional(edited));
     QVERIFY(!desk.isChanged());
+}
+
+void NavigatorEffects::aFailedSurveyThatPostedIsAChange()
+{
+    using budgeting::BudgetItemTypes;
+    Desk desk;
+    desk.furnish();
+    const auto complete = [&](const budgeting::BudgetItemIdentifier &unknown) {
+        desk.navigator->onCompletedSurvey(
+            day("2999-12-31"), {bankName("First"), {no(1), BankAccountTypes::Checking}},
+            usd("2492"), {txn(1), txn(2), txn(3)},
+            {{{{BudgetItemTypes::Bill, source("Rent")}, usd("1")}, {unknown, usd("1")}}, {}}, {},
+            {}, usd("0"));
+        QVERIFY(desk.take().last().startsWith(QStringLiteral("completedSurveyFailed(")));
+    };
+    complete({BudgetItemTypes::Bill, source("Gone")});
+    QVERIFY(!desk.isChanged()); // refused before Rent's turn to be posted
+    complete({BudgetItemTypes::Nontrack, source("Gone")});
+    QVERIFY(desk.isChanged());
 }
 
 void NavigatorEffects::wizardBuildsABudget()
