@@ -18,6 +18,9 @@ QString oneLine(const char *text)
 /// What CLI11 says of a wrong call, worded as a sentence where it is terse.
 QString misuse(const CLI::ParseError &error)
 {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+        std::string_view(error.what()).starts_with("A subcommand"))
+        return QObject::tr("A command is missing; --help lists those that there are.");
     const QString text = oneLine(error.what());
     return text.endsWith(u'.') ? text : text + u'.';
 }

@@ -202,7 +202,7 @@ QJsonObject SurveyForm::toJson(Session &session) const
     for (const auto &[id, amount] : distribution) {
         QJsonObject row = itemJson(id);
         row.insert(QStringLiteral("distributed"), toJson(amount.distributed()));
-        row.insert(QStringLiteral("expected"), toJson(amount.expected()));
+        row.insert(QStringLiteral("expected"), toJson(amount.expected().rounded()));
         row.insert(QStringLiteral("next"), toJson(amount.nextOccurOn()));
         shares.append(row);
     }
@@ -214,8 +214,9 @@ QJsonObject SurveyForm::toJson(Session &session) const
             {QStringLiteral("reconciledBalance"), toJson(last.balance())},
             {QStringLiteral("start"), toJson(proposal.startOn())},
             {QStringLiteral("expectedBalance"), toJson(proposal.expectedBalance())},
-            {QStringLiteral("amountDue"),
-             proposal.amountDue() ? QJsonValue(toJson(*proposal.amountDue())) : QJsonValue()},
+            {QStringLiteral("amountDue"), proposal.amountDue()
+                                              ? QJsonValue(toJson(proposal.amountDue()->rounded()))
+                                              : QJsonValue()},
             {QStringLiteral("itemChanges"),
              changesJson(proposal.budgetItemChanges(), number, itemJson)},
             {QStringLiteral("accountChanges"),

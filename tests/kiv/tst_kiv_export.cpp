@@ -115,31 +115,9 @@ private slots:
         QVERIFY2(broken.status == 0, broken.err.constData());
         QVERIFY(!broken.out.contains("line\nbreak"));
 
-        QJsonArray usd;
-        for (const QJsonValue &account : m_home.json("accounts").array()) {
-            if (account["balance"_L1]["currency"_L1].toString() == u"USD")
-                usd.append(account["number"_L1]);
-        }
-        QRandomGenerator random(20260131);
-        QJsonArray transactions;
-        while (transactions.size() < 1000) {
-            const QJsonValue debit = usd[static_cast<qsizetype>(random.bounded(usd.size()))];
-            const QJsonValue credit = usd[static_cast<qsizetype>(random.bounded(usd.size()))];
-            if (debit == credit)
-                continue;
-            const int cents = random.bounded(1, 500'000);
-            static const QStringList statuses{u"none"_s, u"cleared"_s, u"reconciled"_s};
-            transactions.append(QJsonObject{
-                {u"debit"_s, debit},
-                {u"credit"_s, credit},
-                {u"date"_s, QDate(2025, 1, 1).addDays(random.bounded(700)).toString(Qt::ISODate)},
-                {u"amount"_s, u"%1.%2 USD"_s.arg(cents / 100).arg(cents % 100, 2, 10, QChar(u'0'))},
-                {u"debitStatus"_s, statuses[random.bounded(3)]},
-                {u"creditStatus"_s, statuses[random.bounded(3)]},
-                {u"description"_s,
-                 oddNames()[random.bounded(static_cast<int>(oddNames().size()))]}});
-        }
-        const Ended loaded = m_home.run("transaction load -", QJsonDocument(transactions).toJson());
+        QVERIFY(m_home.runAll({"rates set USD EUR=0.92 JPY=150 KWD=0.31"}));
+        const Ended loaded =
+            m_home.run("transaction load -", QJsonDocument(thousandTransactions()).toJson());
         QVERIFY2(loaded.status == 0, loaded.err.constData());
         m_home.write(m_home.path("export.journal"), m_home.run("export").out);
     }
@@ -202,6 +180,37 @@ private slots:
     }
 
 private:
+    /// Between any two accounts, in the currency of the debited one.
+    [[nodiscard]] QJsonArray thousandTransactions() const
+    {
+        const QJsonArray accounts = m_home.json("accounts").array();
+        QRandomGenerator random(20260131);
+        const auto pick = [&random](const auto &list) {
+            return list[static_cast<qsizetype>(random.bounded(static_cast<int>(list.size())))];
+        };
+        const QStringList statuses{u"none"_s, u"cleared"_s, u"reconciled"_s};
+        QJsonArray transactions;
+        while (transactions.size() < 1000) {
+            const QJsonValue debit = pick(accounts);
+            const QJsonValue credit = pick(accounts);
+            if (debit == credit)
+                continue;
+            const QString currency = debit["balance"_L1]["currency"_L1].toString();
+            QString amount = QString::number(random.bounded(1, 5000));
+            if (currency != u"JPY")
+                amount += u'.' + QString::number(random.bounded(10, 100));
+            transactions.append(QJsonObject{
+                {u"debit"_s, debit["number"_L1]},
+                {u"credit"_s, credit["number"_L1]},
+                {u"date"_s, QDate(2025, 1, 1).addDays(random.bounded(700)).toString(Qt::ISODate)},
+                {u"amount"_s, amount + u' ' + currency},
+                {u"debitStatus"_s, pick(statuses)},
+                {u"creditStatus"_s, pick(statuses)},
+                {u"description"_s, pick(oddNames())}});
+        }
+        return transactions;
+    }
+
     static QJsonArray sorted(const QJsonArray &accounts)
     {
         std::map<qint64, QJsonValue> byNumber;

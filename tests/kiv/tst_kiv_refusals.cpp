@@ -46,7 +46,8 @@ private slots:
         row("an unknown option", "bill add Gym 12 --colour red", 2, "--colour");
         row("a missing argument", "bill add Gym", 2, "AMOUNT");
         row("an unknown command", "frobnicate", 2, "frobnicate");
-        row("no command", "", 2, "subcommand");
+        row("no command", "", 2, "A command is missing");
+        row("half a command", "bank", 2, "A command is missing");
         row("a negative bill", "bill add Gym -- -12", 1, "amount");
         row("an item that is there", "bill add Rent 12 ", 1, "already exists");
         row("an item named like an account", "wage add Checking 12", 1,

@@ -68,11 +68,4 @@ Report accountReport(Session &session, AccountNumber number, const QString &sent
     return Report(account ? toJson(*account, index) : QJsonObject()).line(sentence);
 }
 
-QString accountText(const AccountIndex &index, AccountNumber number)
-{
-    const accounting::Account *account = index.find(number);
-    return account ? accounting::presentationText(account->code())
-                   : accounting::presentationText(number);
-}
-
 } // namespace kiv::app

@@ -22,6 +22,54 @@ struct CodeChange {
     [[nodiscard]] accounting::AccountCode to(const AccountIndex &index) const;
 };
 
+/// The account with this number as JSON, with a sentence about it.
+[[nodiscard]] Report accountReport(Session &session, accounting::AccountNumber number,
+                                   const QString &sentence);
+
+/// A command that gives an account another code, for one family of answers.
+/// The sentence tells the old code and the new one.
+template <typename Answers>
+struct Recode {
+    Answers outcome;
+    void (navigation::Navigator::*slot)(const accounting::AccountCode &,
+                                        const accounting::AccountCode &);
+    QString sentence;
+    CodeChange change = {};
+
+    void declare(Arguments &arguments) { change.declare(arguments); }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.session.accounts();
+        const accounting::AccountCode from = change.from(index);
+        const accounting::AccountCode to = change.to(index);
+        call.session.change(outcome, slot, from, to);
+        return accountReport(
+            call.session, to.number(),
+            sentence.arg(accounting::presentationText(from), accounting::presentationText(to)));
+    }
+};
+
+/// A command that asks one thing of an account. The sentence tells its code.
+template <typename Answers>
+struct AccountVerb {
+    Answers outcome;
+    void (navigation::Navigator::*slot)(const accounting::AccountCode &);
+    QString sentence;
+    QString account = {};
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, "The account's number, name or path");
+    }
+    Report run(Call &call) const
+    {
+        const accounting::AccountCode code = call.session.accounts().find(account).code();
+        call.session.change(outcome, slot, code);
+        return accountReport(call.session, code.number(),
+                             sentence.arg(accounting::presentationText(code)));
+    }
+};
+
 /// Moves the transaction that opened the account to another day than today, on
 /// which it was posted.
 void openOn(Session &session, accounting::AccountNumber account, const std::optional<QDate> &date);
@@ -29,12 +77,5 @@ void openOn(Session &session, accounting::AccountNumber account, const std::opti
 /// Moves a transaction that was posted today to another day.
 void moveTo(Session &session, accounting::TransactionNumber number,
             const std::optional<QDate> &date);
-
-/// The account with this number as JSON, with a sentence about it.
-[[nodiscard]] Report accountReport(Session &session, accounting::AccountNumber number,
-                                   const QString &sentence);
-
-/// "1200 Checking"
-[[nodiscard]] QString accountText(const AccountIndex &index, accounting::AccountNumber number);
 
 } // namespace kiv::app

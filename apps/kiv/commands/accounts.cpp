@@ -152,42 +152,6 @@ struct AddAccount {
     }
 };
 
-struct RecodeAccount {
-    CodeChange change;
-
-    void declare(Arguments &arguments) { change.declare(arguments); }
-    Report run(Call &call) const
-    {
-        const AccountIndex index = call.session.accounts();
-        const AccountCode from = change.from(index);
-        const AccountCode to = change.to(index);
-        call.session.change(accountOutcome, &Navigator::onRecoded, from, to);
-        return accountReport(
-            call.session, to.number(),
-            QObject::tr("The account %1 is now %2.")
-                .arg(accounting::presentationText(from), accounting::presentationText(to)));
-    }
-};
-
-/// close, open and remove differ in their slot and their sentence alone.
-struct AccountVerb {
-    void (Navigator::*slot)(const AccountCode &);
-    QString sentence;
-    QString account = {};
-
-    void declare(Arguments &arguments)
-    {
-        arguments.required("ACCOUNT", account, "The account's number, name or path");
-    }
-    Report run(Call &call) const
-    {
-        const AccountCode code = call.session.accounts().find(account).code();
-        call.session.change(accountOutcome, slot, code);
-        return accountReport(call.session, code.number(),
-                             sentence.arg(accounting::presentationText(code)));
-    }
-};
-
 } // namespace
 
 void addAccountCommands(CommandGroup &root)
@@ -198,13 +162,18 @@ void addAccountCommands(CommandGroup &root)
 
     CommandGroup account = root.group("account", "Accounts of the ledger");
     account.add("add", "Open an account", Change, AddAccount{});
-    account.add("recode", "Change an account's number, name or parent", Change, RecodeAccount{});
-    account.add("close", "Close an account", Change,
-                AccountVerb{&Navigator::onClosed, QObject::tr("Closed the account %1.")});
+    account.add(
+        "recode", "Change an account's number, name or parent", Change,
+        Recode{accountOutcome, &Navigator::onRecoded, QObject::tr("The account %1 is now %2.")});
+    account.add(
+        "close", "Close an account", Change,
+        AccountVerb{accountOutcome, &Navigator::onClosed, QObject::tr("Closed the account %1.")});
     account.add("open", "Open a closed account again", Change,
-                AccountVerb{&Navigator::onOpened, QObject::tr("Opened the account %1 again.")});
+                AccountVerb{accountOutcome, &Navigator::onOpened,
+                            QObject::tr("Opened the account %1 again.")});
     account.add("remove", "Remove an account without transactions", Change,
-                AccountVerb{&Navigator::onRemovedAct, QObject::tr("Removed the account %1.")});
+                AccountVerb{accountOutcome, &Navigator::onRemovedAct,
+                            QObject::tr("Removed the account %1.")});
 }
 
 } // namespace kiv::app

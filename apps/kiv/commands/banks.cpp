@@ -190,40 +190,6 @@ struct DetachBankAccount {
     }
 };
 
-struct RenameBankAccount {
-    CodeChange change;
-
-    void declare(Arguments &arguments) { change.declare(arguments); }
-    Report run(Call &call) const
-    {
-        const AccountIndex index = call.session.accounts();
-        const AccountCode from = change.from(index);
-        const AccountCode to = change.to(index);
-        call.session.change(bankAccountOutcome, &Navigator::onRenamedBankAccount, from, to);
-        return accountReport(
-            call.session, to.number(),
-            QObject::tr("The bank account %1 is now %2.")
-                .arg(accounting::presentationText(from), accounting::presentationText(to)));
-    }
-};
-
-struct RemoveBankAccount {
-    QString account;
-
-    void declare(Arguments &arguments)
-    {
-        arguments.required("ACCOUNT", account, "The account's number, name or path");
-    }
-    Report run(Call &call) const
-    {
-        const AccountCode code = call.session.accounts().find(account).code();
-        call.session.change(bankAccountOutcome, &Navigator::onRemovedBankAccount, code);
-        return accountReport(
-            call.session, code.number(),
-            QObject::tr("Removed the bank account %1.").arg(accounting::presentationText(code)));
-    }
-};
-
 } // namespace
 
 void addBankCommands(CommandGroup &root)
@@ -246,8 +212,11 @@ void addBankCommands(CommandGroup &root)
     account.add("attach", "Let a bank keep an account of the ledger", Change, AttachBankAccount{});
     account.add("detach", "Take an account from its bank", Change, DetachBankAccount{});
     account.add("rename", "Change a bank account's number, name or parent", Change,
-                RenameBankAccount{});
-    account.add("remove", "Remove a bank account", Change, RemoveBankAccount{});
+                Recode{bankAccountOutcome, &Navigator::onRenamedBankAccount,
+                       QObject::tr("The bank account %1 is now %2.")});
+    account.add("remove", "Remove a bank account", Change,
+                AccountVerb{bankAccountOutcome, &Navigator::onRemovedBankAccount,
+                            QObject::tr("Removed the bank account %1.")});
 }
 
 } // namespace kiv::app

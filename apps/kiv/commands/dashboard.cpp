@@ -16,12 +16,12 @@ namespace {
 QJsonObject totalsJson(const budgeting::BudgetTotals &totals)
 {
     return {{QStringLiteral("every"), budgeting::toQString(totals.frequency())},
-            {QStringLiteral("wages"), toJson(totals.wages())},
-            {QStringLiteral("bills"), toJson(totals.bills())},
-            {QStringLiteral("debts"), toJson(totals.debts())},
-            {QStringLiteral("goals"), toJson(totals.goals())},
-            {QStringLiteral("nontracks"), toJson(totals.nontracks())},
-            {QStringLiteral("remaining"), toJson(totals.remaining())}};
+            {QStringLiteral("wages"), toJson(totals.wages().rounded())},
+            {QStringLiteral("bills"), toJson(totals.bills().rounded())},
+            {QStringLiteral("debts"), toJson(totals.debts().rounded())},
+            {QStringLiteral("goals"), toJson(totals.goals().rounded())},
+            {QStringLiteral("nontracks"), toJson(totals.nontracks().rounded())},
+            {QStringLiteral("remaining"), toJson(totals.remaining().rounded())}};
 }
 
 QJsonObject healthJson(const adviser::BudgetHealth &health)
