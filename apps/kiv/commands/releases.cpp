@@ -61,7 +61,7 @@ struct CheckUpdates {
         QJsonObject json{{QStringLiteral("version"), updating::toQString(own)},
                          {QStringLiteral("latest"), QJsonValue()}};
         if (!isNews)
-            return Report(json).line(QObject::tr("This is the newest release."));
+            return Report(json).line(QObject::tr("No newer release is announced."));
         json.insert(QStringLiteral("latest"), toJson(releases.front()));
         return Report(json).line(QObject::tr("There is a newer release: %1.")
                                      .arg(updating::presentationText(releases.front().version)));
