@@ -40,6 +40,11 @@ auto answer(const char *call, Real real) -> decltype(real())
     if (!failingCalls.isOn)
         return real();
     const int count = ++failingCalls.counts[call];
+    if (failingCalls.meanwhile && failingCalls.isChosen(call, count)) {
+        failingCalls.isOn = false;
+        failingCalls.meanwhile();
+        failingCalls.isOn = true;
+    }
     if (failingCalls.error == 0 || !failingCalls.isChosen(call, count))
         return real();
     errno = failingCalls.error;

@@ -79,6 +79,10 @@ QString brokenPromise(Saver save, const test::FailingCalls &failing)
     const auto failure = test::failureOf([&] { (desk.*save)(3); });
     failingCalls.isOn = false;
 
+    const bool isSyncFailure = failing.name == "fsync" && failing.error == EIO;
+    const bool isEveryClose = failing.name == "close" && failing.from == 1 && failing.times > 1;
+    if (!failure && (isSyncFailure || isEveryClose))
+        return QStringLiteral("what may not be on the disk counts as saved");
     if (desk.folder.read(name) != bytesOf(failure ? 2 : 3))
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
     const QStringList after = desk.folder.names();
@@ -140,6 +144,7 @@ private slots:
     void everyFailureLeavesAWholeFile_data();
     void everyFailureLeavesAWholeFile();
     void lyingCallsAreFoundOut();
+    void aFileThatChangesMeanwhileIsNotOverwritten();
 };
 
 void SaveFaultsTest::initTestCase()
@@ -171,21 +176,39 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile()
 
 void SaveFaultsTest::lyingCallsAreFoundOut()
 {
-    const auto lying = [](const char *call) {
-        test::FailingCalls failing;
-        failing.name = call;
-        failing.from = failing.times = 1;
-        return failing;
-    };
-    for (const char *call : {"write", "pread"})
-        QCOMPARE(brokenPromise(&Desk::save, lying(call)), QString());
+    // A write that is cut short goes on; what reads back otherwise is not saved.
+    using storage::StorageFailure;
+    for (const auto &[call, expected] :
+         {std::pair("write", std::optional<StorageFailure>()),
+          std::pair("pread", std::optional(StorageFailure::CannotWrite))}) {
+        test::FailingCalls lying;
+        lying.name = call;
+        lying.from = lying.times = 1;
+        QCOMPARE(brokenPromise(&Desk::save, lying), QString());
 
+        Desk desk;
+        failingCalls = lying;
+        failingCalls.isOn = true;
+        const auto failure = test::failureOf([&] { desk.save(3); });
+        failingCalls.isOn = false;
+        QCOMPARE(failure, expected);
+    }
+}
+
+void SaveFaultsTest::aFileThatChangesMeanwhileIsNotOverwritten()
+{
     Desk desk;
-    failingCalls = lying("pread");
+    failingCalls = {};
+    failingCalls.name = "fsync"; // of the new version, before the old one is replaced
+    failingCalls.from = failingCalls.times = 1;
+    failingCalls.meanwhile = [&] { desk.folder.write(name, bytesOf(4)); };
     failingCalls.isOn = true;
     const auto failure = test::failureOf([&] { desk.save(3); });
-    failingCalls.isOn = false;
-    QCOMPARE(failure, storage::StorageFailure::CannotWrite);
+    failingCalls = {};
+    QCOMPARE(failure, storage::StorageFailure::ChangedOnDisk);
+    QCOMPARE(desk.folder.read(name), bytesOf(4));
+    QCOMPARE(desk.folder.names(), (QStringList{name, name + QStringLiteral(".backup-1"),
+                                               name + QStringLiteral(".lock")}));
 }
 
 QTEST_APPLESS_MAIN(SaveFaultsTest)
