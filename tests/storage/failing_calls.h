@@ -14,10 +14,11 @@ struct FailingCalls {
     bool isOn = false;
     std::map<std::string, int> counts; ///< how often each call was made
 
-    std::string name; ///< the call that fails
-    int from = 0;     ///< at its so-manieth time, from 1
-    int times = 0;    ///< and so many times
-    int error = 0;    ///< with this error; with 0 it lies instead
+    std::string name;                ///< the call that fails
+    int from = 0;                    ///< at its so-manieth time, from 1
+    int times = 0;                   ///< and so many times
+    int error = 0;                   ///< with this error; with 0 it lies instead
+    std::function<void()> meanwhile; ///< what another program does just before it
 
     [[nodiscard]] bool isChosen(const std::string &call, int count) const
     {
