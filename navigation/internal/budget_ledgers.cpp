@@ -93,7 +93,9 @@ const budgeting::BudgetedMoney &BudgetLedgers::budgetedMoney(const BudgetItemIde
 accounting::TransactionList BudgetLedgers::transactions(const BudgetItemIdentifier &id) const
 {
     const std::optional<accounting::AccountCode> code = lookUpAccountCode(id);
-    return code ? m_ledgers->ledger(*code).transactions() : accounting::TransactionList();
+    if (!code)
+        return {};
+    return m_ledgers->ledger(*code).transactions();
 }
 
 // ---- comparison and text form --------------------------------------------------
