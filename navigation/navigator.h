@@ -78,7 +78,7 @@ class BudgetBankLedgers;
 ///   they cannot answer leaves them as an exception;
 /// - every other slot answers with a …Succeeded or …Failed signal for each
 ///   change. A failure carries a message for the user. It means that nothing was
-///   changed, but where docs/architecture.md lists an exception to that.
+///   changed, but for the exceptions that docs/domain.md lists.
 ///
 /// A change that succeeded marks the budget as changed before it is announced,
 /// and is announced when the model is whole again. So a view may call any slot,
@@ -466,6 +466,8 @@ public Q_SLOTS:
     // ---- transfers and refunds: navigator_transactions.cpp ------------------
 
     void onPrepareShowMoneyTransfer();
+    /// Posts today's transaction with the accounts in this order: `from` is
+    /// debited, and a debit raises an asset.
     void onTransferRequested(const kiv::accounting::AccountNumber &from,
                              const kiv::accounting::AccountNumber &to, const numira::Money &amount,
                              const QString &reason);
