@@ -15,8 +15,8 @@ struct FailingCalls {
     std::map<std::string, int> counts; ///< how often each call was made
 
     std::string name;                ///< the call that fails
-    int from = 0;                    ///< at its so-manieth time, from 1
-    int times = 0;                   ///< and so many times
+    int from = 0;                    ///< from its time of this number on, counted from 1
+    int times = 0;                   ///< and how many times
     int error = 0;                   ///< with this error; with 0 it lies instead
     std::function<void()> meanwhile; ///< what another program does just before it
 
