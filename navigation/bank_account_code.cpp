@@ -10,10 +10,8 @@ namespace kiv::navigation {
 BankAccountCode::BankAccountCode() = default;
 
 BankAccountCode::BankAccountCode(banking::BankAccount bankAccount, accounting::AccountCode account,
-                                 numira::Currency issuedIn)
-    : m_bankAccount(std::move(bankAccount)),
-      m_account(std::move(account)),
-      m_issuedIn(std::move(issuedIn))
+                                 const numira::Currency &issuedIn)
+    : m_bankAccount(std::move(bankAccount)), m_account(std::move(account)), m_issuedIn(issuedIn)
 {
     if (m_bankAccount.account.number != m_account.number())
         throw internal::faults::bankAccountIsNotAccount(m_bankAccount.account.number, m_account);

@@ -19,7 +19,7 @@ public:
     BankAccountCode();
     /// Throws foundation::Error when the two numbers differ.
     BankAccountCode(banking::BankAccount bankAccount, accounting::AccountCode account,
-                    numira::Currency issuedIn);
+                    const numira::Currency &issuedIn);
 
     [[nodiscard]] const banking::BankName &bank() const noexcept { return m_bankAccount.bank; }
     /// The account's number together with its kind.

@@ -111,20 +111,20 @@ BankAccount BankLedgers::recode(const AccountNumber &from, const AccountNumber &
 
 // ---- banks ---------------------------------------------------------------------
 
-const Bank &BankLedgers::add(Bank bank)
+const Bank &BankLedgers::add(const Bank &bank)
 {
-    const BankName name = bank.name();
+    const BankName &name = bank.name();
     if (const auto missing = missingAccount(bank, *m_ledgers))
         throw faults::addedAccountIsMissing(name, *missing);
     for (const auto &[number, type] : bank.accounts()) {
         if (!doesFit(*m_ledgers, number, type))
             throw faults::addedTypeDoesNotFit(name, number, type);
     }
-    m_banks->add(std::move(bank));
+    m_banks->add(bank);
     return m_banks->bank(name);
 }
 
-void BankLedgers::update(Bank bank)
+void BankLedgers::update(const Bank &bank)
 {
     const BankName &name = bank.name();
     if (!m_banks->hasBank(name))

@@ -34,7 +34,7 @@ public:
 
     /// Adds a bank with accounts that the ledger has already. Refused: an
     /// account that it lacks, an account of another kind.
-    const banking::Bank &add(banking::Bank bank);
+    const banking::Bank &add(const banking::Bank &bank);
     /// Opens a ledger account of that name, under the generator's next free
     /// number, and makes it an account of the bank; answers with the number of
     /// its opening transaction, if one was posted. Refused: an unknown bank, the
@@ -57,7 +57,7 @@ public:
     /// Replaces the accounts of the bank of that name. Refused: an unknown
     /// bank, one marked closed, an account that the ledger lacks or has as
     /// another kind, another kind for an account that the bank has already.
-    void update(banking::Bank bank);
+    void update(const banking::Bank &bank);
     void rename(const banking::BankName &from, const banking::BankName &to);
 
     /// Opens the bank, then its accounts in order. An account that cannot be

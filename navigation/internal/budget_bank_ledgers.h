@@ -129,8 +129,8 @@ public:
 
     // ---- banks -------------------------------------------------------------
 
-    const banking::Bank &add(banking::Bank bank);
-    void update(banking::Bank bank);
+    const banking::Bank &add(const banking::Bank &bank);
+    void update(const banking::Bank &bank);
     BankAccount addAssociation(const BankName &bank, const AccountNumber &number,
                                const BankAccountTypes &types);
     /// See BankLedgers::open for what stays after a refusal.

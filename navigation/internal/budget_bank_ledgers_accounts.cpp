@@ -30,9 +30,10 @@ void BudgetBankLedgers::verifyParentOf(const AccountCode &from, const AccountCod
     const std::optional<BankAccount> account = lookUpBankAccount(from.number());
     if (!account || from.parent() == to.parent())
         return;
-    if (!to.parent())
+    const std::optional<AccountNumber> &parent = to.parent();
+    if (!parent)
         throw faults::cannotLeaveParent(account->bank);
-    if (!isBankAccount(*to.parent()))
+    if (!isBankAccount(*parent))
         throw faults::parentIsNoBankAccount(account->bank);
     if (hasReconciled(from.number()))
         throw faults::cannotMoveReconciled(account->bank);
@@ -124,8 +125,9 @@ std::set<BudgetBankAccount> BudgetBankLedgers::budgetBankAccounts(const BudgetIt
     std::set<BudgetBankAccount> accounts;
     for (const auto &[source, code] : itemAccounts(type)) {
         const std::optional<BankAccount> own = lookUpBankAccount(code.number());
-        const std::optional<BankAccount> parent =
-            code.parent() ? lookUpBankAccount(*code.parent()) : std::nullopt;
+        std::optional<BankAccount> parent;
+        if (const std::optional<AccountNumber> &number = code.parent())
+            parent = lookUpBankAccount(*number);
         // A bank keeps a goal under its own number too, but it shows where it lies.
         const bool showsParent = type == BudgetItemTypes::Goal ? parent.has_value() : !own;
         if (const std::optional<BankAccount> &shown = showsParent ? parent : own)

@@ -71,8 +71,8 @@ BankAccount BudgetBankLedgers::addBudgetBankAssociation(const Debt &, const Acco
 BankAccount BudgetBankLedgers::addBudgetBankAssociation(const Goal &, AccountCode &code,
                                                         const BankAccount &bankAccount)
 {
-    const BankAccount association = m_bankLedgers.addAssociation(bankAccount.bank, code.number(),
-                                                                 BankAccountTypes::GoalSubAccount);
+    BankAccount association = m_bankLedgers.addAssociation(bankAccount.bank, code.number(),
+                                                           BankAccountTypes::GoalSubAccount);
     AccountCode below = code;
     below.setParent(bankAccount.account.number);
     recode(code, below);

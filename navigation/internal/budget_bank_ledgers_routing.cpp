@@ -83,14 +83,14 @@ TransactionNumber BudgetBankLedgers::postRefund(const TransactionNumber &number,
 
 // ---- banks ---------------------------------------------------------------------
 
-const banking::Bank &BudgetBankLedgers::add(banking::Bank bank)
+const banking::Bank &BudgetBankLedgers::add(const banking::Bank &bank)
 {
-    return m_bankLedgers.add(std::move(bank));
+    return m_bankLedgers.add(bank);
 }
 
-void BudgetBankLedgers::update(banking::Bank bank)
+void BudgetBankLedgers::update(const banking::Bank &bank)
 {
-    m_bankLedgers.update(std::move(bank));
+    m_bankLedgers.update(bank);
 }
 
 BankAccount BudgetBankLedgers::addAssociation(const BankName &bank, const AccountNumber &number,

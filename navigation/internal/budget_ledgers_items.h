@@ -16,7 +16,7 @@ accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &gener
 {
     const Source source = item.source();
     accounting::NumberHandout number(generator, *m_ledgers);
-    const AccountCode code(number.number(), budgeting::itemAccountName(source), std::nullopt);
+    AccountCode code(number.number(), budgeting::itemAccountName(source), std::nullopt);
     const accounting::Account account(budgeting::ItemTraits<T>::accountType, code,
                                       budgeting::openingMoney(item), false);
     m_budget->items<T>().add(std::move(item));

@@ -27,8 +27,8 @@ using numira::Money;
 QDate startOf(const banking::ReconciledBankAccount &reconciled, const QDate &date,
               const accounting::GeneralLedger &ledger)
 {
-    if (reconciled.reconciledOn())
-        return *reconciled.reconciledOn();
+    if (const std::optional<QDate> &reconciledOn = reconciled.reconciledOn())
+        return *reconciledOn;
     if (const auto opening = ledger.openingTransaction(reconciled.bankAccount().account.number))
         return opening->occurredOn().addDays(-1);
     return foundation::firstOfMonth(date).addMonths(-1);

@@ -3,9 +3,8 @@
 
 #include "navigation/internal/surveyed_changes.h"
 
-#include "support/comparison.h"
+#include "navigation/survey_text.h"
 #include "support/message_log.h"
-#include "support/navigation.h"
 
 using namespace kiv;
 using namespace kiv::test;
@@ -56,36 +55,6 @@ struct SurveyBooks : Books {
         return surveyOf(at("First", 1, Checking), date);
     }
 };
-
-/// "Rent -1 +2, Tax -3", without the keys that have no changes.
-template <typename Changes, typename Name>
-QString told(const Changes &changes, const Name &name)
-{
-    QStringList all;
-    for (const auto &[key, entries] : changes) {
-        QString one = name(key);
-        for (const auto &entry : entries) {
-            one += QLatin1String(entry.isIncrease() ? " +" : " -") +
-                   presentationText(entry.transaction().number().value_or(txn(0)));
-        }
-        if (!entries.empty())
-            all.append(one);
-    }
-    return all.join(u", ");
-}
-
-/// "balance; changes by item; by account; what is set aside".
-QString told(const MappingSurvey &survey)
-{
-    QStringList aside;
-    for (const auto &[id, amount] : survey.distributions())
-        aside.append(id.source.name() + u' ' + dump(amount.distributed()).chopped(4));
-    const auto itemName = [](const auto &id) { return id.source.name(); };
-    const auto accountName = [](const auto &code) { return code.name(); };
-    return QStringLiteral("%1; %2; %3; %4")
-        .arg(dump(survey.expectedBalance()).chopped(4), told(survey.budgetItemChanges(), itemName),
-             told(survey.accountChanges(), accountName), aside.join(u", "));
-}
 
 } // namespace
 
@@ -193,7 +162,7 @@ private slots:
         const auto told = [](auto &&change) {
             SurveyBooks books;
             change(books);
-            return ::told(books.checking());
+            return test::told(books.checking());
         };
         const QString nothing = QStringLiteral("0.00; ; ; Tax 10.00, Trip 0.00");
         const QString paid = QStringLiteral("-7.00; ; Food -1; Tax 10.00, Trip 0.00");
