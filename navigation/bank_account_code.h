@@ -21,6 +21,7 @@ public:
     BankAccountCode(banking::BankAccount bankAccount, accounting::AccountCode account,
                     const numira::Currency &issuedIn);
 
+    /// The bank that keeps the account.
     [[nodiscard]] const banking::BankName &bank() const noexcept { return m_bankAccount.bank; }
     /// The account's number together with its kind.
     [[nodiscard]] const banking::AccountNumberBankType &bankAccountType() const noexcept
@@ -32,11 +33,15 @@ public:
     {
         return m_bankAccount.account.type;
     }
+    /// The account's code in the ledger.
     [[nodiscard]] const accounting::AccountCode &account() const noexcept { return m_account; }
+    /// The currency in which the account is kept.
     [[nodiscard]] const numira::Currency &issuedIn() const noexcept { return m_issuedIn; }
 
+    /// By bank, number, kind and currency.
     friend KIV_NAVIGATION_EXPORT std::strong_ordering
     operator<=>(const BankAccountCode &a, const BankAccountCode &b) noexcept;
+    /// Whether those four are equal.
     friend bool operator==(const BankAccountCode &a, const BankAccountCode &b) noexcept
     {
         return (a <=> b) == 0;

@@ -14,8 +14,11 @@ namespace kiv::navigation {
 /// Ordered by the item's kind, then its name, then bank, number and kind of
 /// the account.
 struct KIV_NAVIGATION_EXPORT BudgetBankAccount {
+    /// The item's kind: a debt or a goal.
     budgeting::BudgetItemTypes type = budgeting::BudgetItemTypes::None;
+    /// The item's name among those of its kind.
     budgeting::BudgetSource source;
+    /// The bank account to which it is tied.
     banking::BankAccount bankAccount;
 
     friend bool operator==(const BudgetBankAccount &, const BudgetBankAccount &) = default;

@@ -23,13 +23,21 @@ namespace kiv::navigation {
 /// What the configure view edits: the user's preferences and the budget's
 /// tags.
 struct KIV_NAVIGATION_EXPORT ConfigurationData {
+    /// The hours of a working week.
     std::chrono::hours hoursInWeek{};
+    /// The days of a working week.
     std::chrono::days daysInWeek{};
+    /// The currency in which totals are shown.
     numira::Currency preferredCurrency;
+    /// How currencies are named in lists.
     CurrencyDisplayOptions currenciesDisplayAs = CurrencyDisplayOptions::IsoCode;
+    /// The currencies that can be chosen.
     std::set<numira::Currency> usableCurrencies;
+    /// By how much the balance of a survey may miss the statement's.
     foundation::Percentage surveyWindow;
+    /// How long before its date an item is announced as due.
     std::chrono::days notifyDueWithin{};
+    /// The tags that can be chosen.
     tagging::Tags tags;
 
     friend bool operator==(const ConfigurationData &, const ConfigurationData &) = default;

@@ -17,8 +17,10 @@ namespace kiv::navigation {
 class GuiElementIdentifier {
 public:
     constexpr GuiElementIdentifier() noexcept = default;
+    /// The number that the view chose.
     constexpr explicit GuiElementIdentifier(std::uint64_t number) noexcept : m_number(number) {}
 
+    /// The number that the view chose.
     [[nodiscard]] constexpr std::uint64_t integer() const noexcept { return m_number; }
 
     friend constexpr bool operator==(GuiElementIdentifier, GuiElementIdentifier) noexcept = default;

@@ -176,7 +176,9 @@ Q_SIGNALS:
     void showAccounts(const std::set<kiv::accounting::Account> &accounts,
                       const std::set<numira::Currency> &usableCurrencies,
                       const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// The change of an account was made.
     void accountSaveSucceeded(const kiv::accounting::AccountCode &code);
+    /// It was not: with the account's code as it was, and as it is displayed.
     void accountSaveFailed(const std::optional<kiv::accounting::AccountCode> &original,
                            const QString &errorMessage,
                            const std::optional<kiv::accounting::AccountCode> &displayed);
@@ -191,6 +193,7 @@ Q_SIGNALS:
     void
     transactionSaveSucceeded(const std::optional<kiv::accounting::TransactionNumber> &displayed,
                              const std::optional<kiv::accounting::TransactionNumber> &posted);
+    /// The change of the transaction was not made.
     void transactionSaveFailed(const std::optional<kiv::accounting::TransactionNumber> &tn,
                                const QString &errorMessage);
 
@@ -201,11 +204,15 @@ Q_SIGNALS:
                    const std::set<kiv::accounting::Account> &allAccounts,
                    const std::set<numira::Currency> &usableCurrencies,
                    const kiv::navigation::CurrencyDisplayOptions &displayAs);
+    /// The change of a bank was made.
     void bankSaveSucceeded(const kiv::banking::BankName &bn);
+    /// It was not: with the bank's name as it was, and as it is displayed.
     void bankSaveFailed(const std::optional<kiv::banking::BankName> &original,
                         const QString &errorMessage,
                         const std::optional<kiv::banking::BankName> &displayed);
+    /// The change of a bank's account was made.
     void bankAccountSaveSucceeded(const kiv::accounting::AccountCode &ac);
+    /// It was not: with the account's code as it was, and as it is displayed.
     void bankAccountSaveFailed(const std::optional<kiv::accounting::AccountCode> &original,
                                const QString &errorMessage,
                                const std::optional<kiv::accounting::AccountCode> &displayed);
@@ -236,6 +243,7 @@ Q_SIGNALS:
     void
     processBudgetItemSaveSucceeded(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
                                    const std::optional<kiv::accounting::TransactionNumber> &txnNum);
+    /// The due item was neither posted nor skipped.
     void processBudgetItemSaveFailed(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
                                      const QString &errorMessage);
 
@@ -247,9 +255,11 @@ Q_SIGNALS:
     void showNewBudget();
     /// Asks whether unsaved changes may be given up for what is in the file.
     void showConfirmLoadBudgetFile(const QString &filePathName);
+    /// The budget is now the one of the file.
     void loadedBudgetFile(const QString &filePathName, bool isReloaded);
     /// Asks for a file name, since the budget has none.
     void showSaveAsBudgetFile();
+    /// The budget is in the file as it is in memory.
     void savedBudgetFile(const QString &filePathName);
     /// There is no file to be reloaded.
     void showNoBudgetFileOpened();
@@ -273,7 +283,9 @@ Q_SIGNALS:
     /// Answers onPrepareShowConfigure, with the currencies that are in use.
     void showConfigure(const kiv::navigation::ConfigurationData &confData,
                        const std::set<numira::Currency> &used);
+    /// The configuration was stored.
     void configureSaveSucceeded();
+    /// The configuration was refused or could not be stored.
     void configureSaveFailed(const QString &errorMessage);
 
     // ---- surveys ------------------------------------------------------------
@@ -284,7 +296,9 @@ Q_SIGNALS:
         const std::optional<kiv::banking::ReconciledBalance> &reconciliation);
     /// Answers onGenerateMappingSurvey.
     void generatedMappingSurvey(const kiv::surveying::MappingSurvey &survey);
+    /// The survey was recorded, and what it brought was posted.
     void completedSurveySucceeded();
+    /// It was refused; docs/domain.md tells what may stay of it.
     void completedSurveyFailed(const QString &errorMessage);
 
     // ---- releases -----------------------------------------------------------
@@ -325,10 +339,15 @@ private Q_SLOTS:
 public Q_SLOTS:
     // ---- budget items: navigator_budget_items.cpp ---------------------------
 
+    /// Answers with showBills.
     void onPrepareShowBills();
+    /// Answers with showDebts.
     void onPrepareShowDebts();
+    /// Answers with showGoals.
     void onPrepareShowGoals();
+    /// Answers with showNontracks.
     void onPrepareShowNontracks();
+    /// Answers with showWages.
     void onPrepareShowWages();
     /// Answers true when the item was added. Only debts and goals take a bank
     /// account.
@@ -342,31 +361,42 @@ public Q_SLOTS:
                    const kiv::budgeting::BudgetItemTypes &type,
                    const kiv::budgeting::BudgetSource &original,
                    const kiv::budgeting::BudgetSource &changed);
+    /// Replaces the item of this name; its bank account and its tags are replaced, too.
     void onUpdated(const kiv::navigation::GuiElementIdentifier &id,
                    const kiv::budgeting::BudgetItemTypes &type,
                    const kiv::budgeting::BudgetedMoney &item,
                    const std::optional<kiv::banking::BankAccount> &ba,
                    const kiv::tagging::BudgetItemTags::ItemTags &itemTags);
+    /// Removes the item and its tags.
     void onRemoved(const kiv::navigation::GuiElementIdentifier &id,
                    const kiv::budgeting::BudgetItemTypes &type,
                    const kiv::budgeting::BudgetSource &source);
 
     // ---- accounts: navigator_accounts.cpp -----------------------------------
 
+    /// Answers with showAccounts.
     void onPrepareShowAccounts();
+    /// Opens the account with its balance as the opening balance.
     void onAddedAct(const kiv::accounting::Account &act);
     /// Its success carries the code before the change.
     void onRecoded(const kiv::accounting::AccountCode &current,
                    const kiv::accounting::AccountCode &changed);
+    /// Closes the account.
     void onClosed(const kiv::accounting::AccountCode &code);
+    /// Opens a closed account.
     void onOpened(const kiv::accounting::AccountCode &code);
+    /// Removes the account, or the budget item of its name with its account.
     void onRemovedAct(const kiv::accounting::AccountCode &code);
+    /// Answers with showLedgers.
     void onPrepareShowLedgers();
+    /// Answers with showLedger for the account of this number.
     void onSelectedLedger(const kiv::accounting::AccountCode &code);
 
     // ---- transactions: navigator_transactions.cpp ---------------------------
 
+    /// Posts the transaction; its success carries the new number.
     void onAddedTransaction(const kiv::accounting::Transaction &txn);
+    /// Replaces the transaction of this number.
     void onUpdatedTransaction(const kiv::accounting::TransactionNumber &tn,
                               const kiv::accounting::Transaction &txn);
     /// Answers for each of them. Where one side is reconciled, the other alone
@@ -374,19 +404,27 @@ public Q_SLOTS:
     void onMarkCleared(const std::set<kiv::accounting::TransactionNumber> &tns);
     /// Answers for each of them.
     void onMarkUnreconciled(const std::set<kiv::accounting::TransactionNumber> &tns);
+    /// Marks both sides as reconciled.
     void onMarkReconciled(const kiv::accounting::TransactionNumber &tn);
+    /// Removes the transaction.
     void onRemovedTransaction(const kiv::accounting::TransactionNumber &tn);
 
     // ---- banks: navigator_accounts.cpp --------------------------------------
 
+    /// Answers with showBanks.
     void onPrepareShowBanks();
+    /// Adds the bank with the accounts that it keeps.
     void onBankAdded(const kiv::banking::Bank &b);
+    /// Replaces the accounts that the bank keeps.
     void onBankUpdated(const kiv::banking::Bank &b);
     /// Its success carries the new name.
     void onBankRenamed(const kiv::banking::BankName &original,
                        const kiv::banking::BankName &change);
+    /// Closes the bank and its accounts.
     void onBankClosed(const kiv::banking::BankName &bn);
+    /// Opens a closed bank, then its accounts in order.
     void onBankOpened(const kiv::banking::BankName &bn);
+    /// Removes the bank with all of its accounts, or nothing.
     void onBankRemoved(const kiv::banking::BankName &bn);
     /// Opens a ledger account of the matching kind; it belongs to no bank yet.
     /// Answers with its code when it was added.
@@ -396,27 +434,36 @@ public Q_SLOTS:
     /// Its success carries the new code.
     void onRenamedBankAccount(const kiv::accounting::AccountCode &original,
                               const kiv::accounting::AccountCode &changed);
+    /// Removes the account from its bank and from the ledger.
     void onRemovedBankAccount(const kiv::accounting::AccountCode &ac);
 
     // ---- processing: navigator_processing.cpp, surveys: navigator_surveys.cpp
 
+    /// Answers with showProcessBudgetItems.
     void onPrepareShowProcessBudgetItems();
+    /// Answers with showSurvey.
     void onPrepareShowSurvey();
+    /// Answers with lookedUpBankAccounts.
     void onLookUpBankAccounts(const kiv::banking::BankName &bn,
                               const kiv::navigation::AllowSubAccounts &shouldAllow);
+    /// Answers with lookedUpBudgetItemSources.
     void onLookUpBudgetItemSources(const kiv::budgeting::BudgetItemDueIdentifier &requestedBy);
+    /// Posts what is due from or to the account, and moves the item to its next date.
     void onPostBudgetItemPosted(const kiv::budgeting::BudgetItemAmountDue &bid,
                                 const kiv::accounting::AccountCode &ac, const QDate &postOn);
+    /// Posts an amount that was not expected; the item keeps its date.
     void onPostBudgetItemPostedUnexpected(const kiv::budgeting::BudgetItemDueIdentifier &bidi,
                                           const numira::Money &amount,
                                           const kiv::accounting::AccountCode &ac,
                                           const QDate &postOn);
+    /// Moves the item to its next date and posts nothing.
     void onPostBudgetItemSkipped(const kiv::budgeting::BudgetItemDueIdentifier &bidi);
 
     // ---- budget file: navigator_budget_file.cpp -----------------------------
 
     /// Asks for confirmation only when something would be lost.
     void onPrepareNewBudgetEmpty();
+    /// Empties the budget and answers with showNewBudget.
     void onConfirmedNewBudgetEmpty();
     /// Asks for confirmation whenever there are unsaved changes, even of an
     /// empty budget.
@@ -424,6 +471,7 @@ public Q_SLOTS:
     /// Lets a storage's error out. Then the budget in memory, its file and the
     /// mark of unsaved changes are as they were.
     void onConfirmedLoadBudgetFile(const QString &filePathName, const bool &isReloaded);
+    /// Saves to the budget's file, or asks for one. Lets a storage's error out.
     void onSaveBudgetFile();
     /// Appends ".budget" to a name that does not end so. Lets a storage's error
     /// out; then the budget still counts as changed.
@@ -431,24 +479,33 @@ public Q_SLOTS:
     /// Gives unsaved changes up without asking. When the file cannot be read, an
     /// empty budget is left.
     void onReloadBudgetFile();
+    /// Answers with checkedIsBudgetFileDirty.
     void onCheckIsBudgetFileDirty();
 
     // ---- dashboard, rates, configuration: navigator_settings.cpp ------------
 
+    /// Answers with showDashboard.
     void onPrepareShowDashboard();
+    /// Answers with showExchangeRates.
     void onPrepareShowExchangeRates();
     /// Waits for the answer of the service.
     void onFetchExchangeRates(const std::set<numira::Currency> &currencies);
+    /// Converts with these rates from now on, and stores them.
     void onStoreExchangeRates(const kiv::conversion::ConversionMap &conversions);
+    /// Answers with showConfigure.
     void onPrepareShowConfigure();
+    /// Checks and stores the configuration.
     void onConfigureUpdated(const kiv::navigation::ConfigurationData &data);
 
     // ---- surveys: navigator_surveys.cpp -------------------------------------
 
+    /// Answers with lookedUpLastReconciliation.
     void onLookUpLastReconciliation(const kiv::accounting::AccountNumber &an);
+    /// Answers with generatedMappingSurvey.
     void onGenerateMappingSurvey(const kiv::banking::BankName &bn,
                                  const kiv::accounting::AccountNumber &an,
                                  const QDate &surveyingOn);
+    /// Checks the survey, posts what it brought, marks what it ticked, and records it.
     void onCompletedSurvey(
         const QDate &completedOn, const kiv::banking::BankAccount &ba, const numira::Money &balance,
         const std::set<kiv::accounting::TransactionNumber> &allReconciled,
@@ -461,17 +518,21 @@ public Q_SLOTS:
 
     // ---- releases: navigator_settings.cpp -----------------------------------
 
+    /// Asks for the list of releases; answers with fetchedReleaseNotes when it arrives.
     void onFetchReleaseNotes();
 
     // ---- transfers and refunds: navigator_transactions.cpp ------------------
 
+    /// Answers with showMoneyTransfer.
     void onPrepareShowMoneyTransfer();
     /// Posts today's transaction with the accounts in this order: `from` is
     /// debited, and a debit raises an asset.
     void onTransferRequested(const kiv::accounting::AccountNumber &from,
                              const kiv::accounting::AccountNumber &to, const numira::Money &amount,
                              const QString &reason);
+    /// Answers with showBudgetItemRefund.
     void onPrepareShowBudgetItemRefund();
+    /// Answers with lookedUpRefundableTransactions.
     void onLookUpRefundableTransactions(const kiv::budgeting::BudgetItemIdentifier &bii);
     /// Does not mark the budget as changed.
     void onPostRefund(const kiv::accounting::TransactionNumber &txnNum,
@@ -479,7 +540,9 @@ public Q_SLOTS:
 
     // ---- first-time wizard: navigator_wizard.cpp ----------------------------
 
+    /// Asks for confirmation only when something would be lost.
     void onPrepareNewBudgetFirstTimeWizard();
+    /// Empties the budget and answers with showNewBudgetFirstTimeWizard.
     void onConfirmedNewBudgetFirstTimeWizard();
     /// Stores the three preferences, then builds the budget. When any step of
     /// that fails, an empty budget is left.

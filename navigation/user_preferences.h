@@ -58,26 +58,34 @@ public:
     /// By how much the balance of a survey may miss the statement's: 2.75 %
     /// unless set.
     [[nodiscard]] foundation::Percentage surveyWindow() const;
+    /// Writes the survey window.
     void setSurveyWindow(const foundation::Percentage &window);
     /// The working week: 40 hours on 5 days unless set.
     [[nodiscard]] std::chrono::hours hoursInWeek() const;
+    /// Writes the hours of the working week.
     void setHoursInWeek(const std::chrono::hours &hours);
+    /// The days of the working week.
     [[nodiscard]] std::chrono::days daysInWeek() const;
+    /// Writes the days of the working week.
     void setDaysInWeek(const std::chrono::days &days);
     /// How long before its date a budget item is announced as due: 14 days
     /// unless set.
     [[nodiscard]] std::chrono::days notifyDueWithin() const;
+    /// Writes how long before its date an item is announced.
     void setNotifyDueWithin(const std::chrono::days &days);
     /// By symbol unless set, but by code when what was set is not understood.
     [[nodiscard]] CurrencyDisplayOptions currenciesDisplayAs() const;
+    /// Writes how currencies are named.
     void setCurrenciesDisplayAs(const CurrencyDisplayOptions &option);
     /// The currency of the system's locale unless set; the US dollar when that
     /// locale has none or what was set is not understood.
     [[nodiscard]] numira::Currency preferredCurrency() const;
+    /// Writes the preferred currency.
     void setPreferredCurrency(const numira::Currency &currency);
     /// The preferred currency alone unless set, or when one of those set is not
     /// understood.
     [[nodiscard]] std::set<numira::Currency> usableCurrencies() const;
+    /// Writes the currencies that can be chosen.
     void setUsableCurrencies(const std::set<numira::Currency> &currencies);
 
 private:

@@ -20,10 +20,15 @@ public:
     /// negative one is on the other side than the kind's own.
     Account(AccountTypes type, AccountCode code, const numira::Money &balance, bool isClosed);
 
+    /// The kind, which tells the side on which the balance is positive.
     [[nodiscard]] AccountTypes type() const noexcept { return m_type; }
+    /// The number, the name and the parent.
     [[nodiscard]] const AccountCode &code() const noexcept { return m_code; }
+    /// The balance, positive on the kind's own side, in the account's currency.
     [[nodiscard]] const numira::Money &balance() const noexcept { return m_balance; }
+    /// Whether the account is closed: nothing can be posted to it.
     [[nodiscard]] bool isClosed() const noexcept { return m_isClosed; }
+    /// The account's transactions; none for an account that no ledger gave.
     [[nodiscard]] const TransactionList &transactions() const &noexcept { return m_transactions; }
     /// A copy, so that it outlives an account that only passes by, as in
     /// `for (… : ledger.ledger(number).transactions())`.
@@ -31,10 +36,12 @@ public:
 
     /// The same kind, code, balance, flag and transactions.
     friend KIV_ACCOUNTING_EXPORT bool operator==(const Account &a, const Account &b);
+    /// The order that the class tells.
     friend KIV_ACCOUNTING_EXPORT std::strong_ordering operator<=>(const Account &a,
                                                                   const Account &b) noexcept;
 
 protected:
+    /// The account with what the ledger knows of it.
     Account(AccountTypes type, AccountCode code, const numira::Money &balance, bool isClosed,
             TransactionList transactions);
 
@@ -63,6 +70,7 @@ public:
     /// are opened.
     [[nodiscard]] bool holdsOpenings() const noexcept { return m_holdsOpenings; }
 
+    /// The same account, opened by the same transaction.
     friend bool operator==(const LedgerAccount &a, const LedgerAccount &b)
     {
         return static_cast<const Account &>(a) == static_cast<const Account &>(b) &&

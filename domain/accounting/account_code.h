@@ -20,16 +20,24 @@ namespace kiv::accounting {
 class KIV_ACCOUNTING_EXPORT AccountCode {
 public:
     AccountCode() = default;
+    /// The code of a named account below `parent`, or at the top.
     AccountCode(AccountNumber number, QString name, std::optional<AccountNumber> parent);
+    /// The code of an account that is known by its number alone.
     AccountCode(AccountNumber number, std::optional<AccountNumber> parent);
+    /// The code of an account that has no number yet.
     AccountCode(QString name, std::optional<AccountNumber> parent);
 
+    /// The number, by which the account is found; invalid when it has none yet.
     [[nodiscard]] AccountNumber number() const noexcept { return m_number; }
+    /// The name; several accounts may have the same.
     [[nodiscard]] const QString &name() const noexcept { return m_name; }
+    /// The account above this one; nothing at the top.
     [[nodiscard]] const std::optional<AccountNumber> &parent() const noexcept { return m_parent; }
+    /// Puts the account below another, or at the top.
     void setParent(std::optional<AccountNumber> parent) noexcept { m_parent = parent; }
 
     friend bool operator==(const AccountCode &, const AccountCode &) noexcept = default;
+    /// By number first, then by name and parent.
     friend KIV_ACCOUNTING_EXPORT std::strong_ordering operator<=>(const AccountCode &a,
                                                                   const AccountCode &b) noexcept;
 

@@ -17,10 +17,14 @@ namespace kiv::accounting {
 class AccountNumber {
 public:
     constexpr AccountNumber() noexcept = default;
+    /// The number itself; 0 is none.
     constexpr explicit AccountNumber(std::uint32_t number) noexcept : m_number(number) {}
 
+    /// The number that no account has.
     [[nodiscard]] static constexpr AccountNumber invalid() noexcept { return {}; }
+    /// The number as an integer; 0 is none.
     [[nodiscard]] constexpr std::uint32_t integer() const noexcept { return m_number; }
+    /// Whether it can be an account's.
     [[nodiscard]] constexpr bool isValid() const noexcept { return m_number != 0; }
 
     friend constexpr bool operator==(AccountNumber, AccountNumber) noexcept = default;

@@ -42,6 +42,7 @@ static_assert(foundation::RequireClonable<AccountNumberGenerator>);
 /// the highest number it goes on with 1, so that it never ends.
 class KIV_ACCOUNTING_EXPORT SequentialAccountNumberGenerator final : public AccountNumberGenerator {
 public:
+    /// Hands out the numbers after `seed`.
     explicit SequentialAccountNumberGenerator(AccountNumber seed = {}) noexcept;
     ~SequentialAccountNumberGenerator() override;
 
@@ -68,7 +69,9 @@ public:
     NumberHandout(const NumberHandout &) = delete;
     NumberHandout &operator=(const NumberHandout &) = delete;
 
+    /// The number that was handed out.
     [[nodiscard]] AccountNumber number() const noexcept { return m_number; }
+    /// The number was used: it will not be given back.
     void keep() noexcept { m_steps = 0; }
 
 private:

@@ -41,6 +41,7 @@ enum class TransactionStatuses : std::uint8_t {
     Reconciled = 2, ///< part of a reconciled statement, and so fixed
 };
 
+/// The English name in lower case. Throws std::logic_error for any other value.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT QString toQString(TransactionStatuses status);
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, TransactionStatuses status);
 KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, TransactionStatuses status);

@@ -11,10 +11,12 @@ namespace kiv::accounting {
 /// An error about an account.
 class KIV_ACCOUNTING_EXPORT AccountError : public foundation::Error {
 public:
+    /// With what the user is told, the account, and the error behind it, if any.
     AccountError(AccountCode code, const QString &message,
                  const std::exception &cause = std::exception());
     AccountError(const AccountError &) noexcept;
     ~AccountError() override;
+    /// The account that was refused.
     [[nodiscard]] const AccountCode &code() const noexcept { return m_code; }
 
 private:
@@ -24,10 +26,12 @@ private:
 /// An error about a transaction; the number is 0 for one that was not posted.
 class KIV_ACCOUNTING_EXPORT TransactionError : public foundation::Error {
 public:
+    /// With what the user is told, the transaction, and the error behind it, if any.
     TransactionError(TransactionNumber number, const QString &message,
                      const std::exception &cause = std::exception());
     TransactionError(const TransactionError &) noexcept;
     ~TransactionError() override;
+    /// The transaction that was refused; invalid when it had no number yet.
     [[nodiscard]] TransactionNumber number() const noexcept { return m_number; }
 
 private:

@@ -44,13 +44,19 @@ public:
 
     // ---- queries -----------------------------------------------------------
 
+    /// Whether there is no account.
     [[nodiscard]] bool isEmpty() const noexcept;
+    /// The codes of all accounts.
     [[nodiscard]] std::set<AccountCode> accountCodes() const;
+    /// All accounts with their balances and transactions.
     [[nodiscard]] std::set<Account> accounts() const;
+    /// Whether there is an account with this number.
     [[nodiscard]] bool hasLedger(AccountNumber number) const noexcept;
+    /// The same by the number of the code alone.
     [[nodiscard]] bool hasLedger(const AccountCode &code) const noexcept;
     /// Throws AccountError when there is no such account.
     [[nodiscard]] LedgerAccount ledger(AccountNumber number) const;
+    /// The same by the number of the code alone.
     [[nodiscard]] LedgerAccount ledger(const AccountCode &code) const;
     /// The present code. Throws AccountError when there is no such account.
     [[nodiscard]] AccountCode accountCode(AccountNumber number) const;
@@ -64,9 +70,11 @@ public:
     /// child and no transaction but its own opening one, and that is not
     /// reconciled. Closed accounts can be removed too.
     [[nodiscard]] bool canRemove(const AccountCode &code) const noexcept;
+    /// The transaction, seen from neither side; nothing when there is none.
     [[nodiscard]] std::optional<Transaction> lookUpTransaction(TransactionNumber number) const;
     /// All transactions in the order of their numbers, seen from neither side.
     [[nodiscard]] std::vector<Transaction> transactions() const;
+    /// How many transactions there are.
     [[nodiscard]] std::size_t transactionCount() const noexcept;
     /// What may still be refunded of a transaction; zero for a refund itself.
     /// Throws TransactionError when there is no such transaction.
@@ -139,7 +147,9 @@ public:
     /// reconciling what is reconciled does nothing. Refused: an unknown number,
     /// an account that is on neither side.
     void reconcile(TransactionNumber number);
+    /// Both sides of each; none of them when one is refused.
     void reconcile(const std::set<TransactionNumber> &numbers);
+    /// The side of one account.
     void reconcile(TransactionNumber number, AccountNumber account);
     /// Both sides go back to no status where they were reconciled. Refused: an
     /// unknown number.
@@ -148,6 +158,7 @@ public:
     /// an unknown number, an account that is on neither side, a side that is
     /// reconciled.
     void clear(TransactionNumber number);
+    /// The side of one account.
     void clear(TransactionNumber number, AccountNumber account);
 
     /// Posts a transaction that gives back some of another: the accounts
@@ -178,6 +189,7 @@ private:
     std::shared_ptr<internal::LedgerState> m_state;
 };
 
+/// The currencies in which accounts are kept and transactions were entered.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
 containedCurrencies(const GeneralLedger &ledger);
 KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const GeneralLedger &ledger);

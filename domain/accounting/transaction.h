@@ -34,16 +34,21 @@ public:
                 const numira::Money &amount, std::optional<QString> description = std::nullopt,
                 std::optional<TransactionNumber> number = std::nullopt,
                 TransactionStatuses statuses = TransactionStatuses::None);
+    /// The same for accounts that are known by their numbers.
     Transaction(QDate occurredOn, AccountNumber debiting, AccountNumber crediting,
                 const numira::Money &amount, std::optional<QString> description = std::nullopt,
                 std::optional<TransactionNumber> number = std::nullopt,
                 TransactionStatuses statuses = TransactionStatuses::None);
 
+    /// The day; invalid in a default-constructed transaction.
     [[nodiscard]] QDate occurredOn() const noexcept { return m_occurredOn; }
+    /// The account that is debited.
     [[nodiscard]] const AccountCode &debiting() const noexcept { return m_debiting; }
+    /// The account that is credited.
     [[nodiscard]] const AccountCode &crediting() const noexcept { return m_crediting; }
     /// The amount in the currency in which it was entered.
     [[nodiscard]] const numira::Money &amount() const noexcept { return m_amount; }
+    /// What it was for, in the user's words; nothing when nothing was said.
     [[nodiscard]] const std::optional<QString> &description() const noexcept
     {
         return m_description;
@@ -66,7 +71,9 @@ public:
     /// The amount on the side of `account`; amount() when it is on neither.
     [[nodiscard]] const numira::Money &amountFor(AccountNumber account) const noexcept;
 
+    /// How far the debited account's side is checked against a statement.
     [[nodiscard]] TransactionStatuses debitStatus() const noexcept { return m_debitStatus; }
+    /// How far the credited account's side is checked against a statement.
     [[nodiscard]] TransactionStatuses creditStatus() const noexcept { return m_creditStatus; }
     /// The status of the side from which the transaction is seen; when it is
     /// seen from none, the lower of both.
@@ -83,7 +90,9 @@ public:
     /// currencies of their accounts, as a ledger or a file holds them.
     [[nodiscard]] Transaction withSideAmounts(const numira::Money &debit,
                                               const numira::Money &credit) const;
+    /// The same transaction under this number.
     [[nodiscard]] Transaction withNumber(TransactionNumber number) const;
+    /// The same transaction as a refund of `original`, or as none.
     [[nodiscard]] Transaction asRefundOf(std::optional<TransactionNumber> original) const;
 
     /// Everything but the side from which it is seen.

@@ -21,19 +21,30 @@ struct AccountRecord;
 /// accounts had at that time, and is seen from this account's side.
 class KIV_ACCOUNTING_EXPORT TransactionList {
 public:
+    /// Goes over the list once; each step makes its transaction anew.
     class KIV_ACCOUNTING_EXPORT const_iterator {
     public:
+        /// It gives values, not references, so it is an input iterator to C++17.
         using iterator_category = std::input_iterator_tag;
+        /// What it stands for.
         using value_type = Transaction;
+        /// The type of distances.
         using difference_type = std::ptrdiff_t;
+        /// A copy, since the list keeps no transactions of its own.
         using reference = Transaction;
+        /// There is nothing to point to.
         using pointer = void;
 
         const_iterator() = default;
+        /// The transaction, seen from the account's side.
         Transaction operator*() const;
+        /// Goes to the next number.
         const_iterator &operator++();
+        /// Goes to the next number and answers with the place before.
         const_iterator operator++(int);
+        /// The transaction's number, without making the transaction.
         [[nodiscard]] TransactionNumber number() const noexcept { return m_number; }
+        /// Whether both stand at the same place of one list.
         friend bool operator==(const const_iterator &a, const const_iterator &b) noexcept
         {
             return a.m_number == b.m_number;
@@ -56,11 +67,17 @@ public:
     TransactionList &operator=(TransactionList &&) noexcept;
     ~TransactionList();
 
+    /// How many there are.
     [[nodiscard]] std::size_t size() const noexcept;
+    /// Whether there are none.
     [[nodiscard]] bool empty() const noexcept { return size() == 0; }
+    /// The first.
     [[nodiscard]] const_iterator begin() const;
+    /// Behind the last.
     [[nodiscard]] const_iterator end() const;
+    /// Whether the account has a transaction of this number.
     [[nodiscard]] bool contains(TransactionNumber number) const noexcept;
+    /// The transaction of this number; nothing when the account has none.
     [[nodiscard]] std::optional<Transaction> find(TransactionNumber number) const;
     /// A set with a copy of each.
     [[nodiscard]] std::set<Transaction> toSet() const;

@@ -19,9 +19,12 @@ namespace kiv::accounting {
 class TransactionNumber {
 public:
     constexpr TransactionNumber() noexcept = default;
+    /// The number itself; 0 is none.
     constexpr explicit TransactionNumber(std::uint16_t number) noexcept : m_number(number) {}
 
+    /// The number as an integer; 0 is none.
     [[nodiscard]] constexpr std::uint16_t integer() const noexcept { return m_number; }
+    /// Whether it can be a transaction's.
     [[nodiscard]] constexpr bool isValid() const noexcept { return m_number != 0; }
 
     friend constexpr bool operator==(TransactionNumber, TransactionNumber) noexcept = default;

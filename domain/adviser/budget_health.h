@@ -28,7 +28,9 @@ enum class HealthGrade : std::uint8_t {
 /// One thing that was looked at, in words for the user, and whether it is as
 /// it should be.
 struct KIV_ADVISER_EXPORT HealthReason {
+    /// Whether it is as it should be.
     bool isSound = true;
+    /// The finding, as a sentence for the user.
     QString text;
 
     friend bool operator==(const HealthReason &, const HealthReason &) = default;
@@ -52,6 +54,7 @@ public:
     /// Throws what adding the totals throws.
     explicit BudgetHealth(const budgeting::BudgetTotals &totals);
 
+    /// The verdict.
     [[nodiscard]] HealthGrade grade() const noexcept { return m_grade; }
     /// The grounds of the grade: those missed and those met. Never empty but
     /// for a default-constructed health.

@@ -19,10 +19,13 @@ namespace kiv::banking {
 class KIV_BANKING_EXPORT BankName {
 public:
     BankName() = default;
+    /// Any text; the map of banks refuses an empty one.
     explicit BankName(QString institution) : m_institution(std::move(institution)) {}
+    /// The name as the user wrote it.
     [[nodiscard]] const QString &institution() const noexcept { return m_institution; }
 
     friend bool operator==(const BankName &, const BankName &) noexcept = default;
+    /// By name, by code units.
     friend std::strong_ordering operator<=>(const BankName &a, const BankName &b) noexcept
     {
         return QString::compare(a.m_institution, b.m_institution) <=> 0;
@@ -34,7 +37,9 @@ private:
 
 /// A ledger account's number with the kind of bank account that it is.
 struct KIV_BANKING_EXPORT AccountNumberBankType {
+    /// The account's number in the ledger.
     accounting::AccountNumber number;
+    /// What the account is to its bank.
     BankAccountTypes type = BankAccountTypes::Unknown;
 
     friend bool operator==(const AccountNumberBankType &, const AccountNumberBankType &) = default;
@@ -44,7 +49,9 @@ struct KIV_BANKING_EXPORT AccountNumberBankType {
 
 /// An account at a bank: BankAccount{bank, number, type}.
 struct KIV_BANKING_EXPORT BankAccount {
+    /// The bank that keeps it.
     BankName bank;
+    /// The account there.
     AccountNumberBankType account;
 
     friend bool operator==(const BankAccount &, const BankAccount &) = default;
@@ -58,11 +65,15 @@ public:
     ReconciledBankAccount() = default;
     /// Never reconciled: a zero balance and no day.
     ReconciledBankAccount(BankAccount account, const numira::Currency &currency);
+    /// `reconciledOn` is the day of the statement; nothing when there was none yet.
     ReconciledBankAccount(BankAccount account, const numira::Money &balance,
                           std::optional<QDate> reconciledOn);
 
+    /// The account.
     [[nodiscard]] const BankAccount &bankAccount() const noexcept { return m_account; }
+    /// The balance of the last statement that was accepted.
     [[nodiscard]] const numira::Money &balance() const noexcept { return m_balance; }
+    /// The day of that statement; nothing when there was none yet.
     [[nodiscard]] const std::optional<QDate> &reconciledOn() const noexcept
     {
         return m_reconciledOn;
@@ -77,13 +88,17 @@ private:
 
 /// The last reconciled balance of an account, for showing.
 struct KIV_BANKING_EXPORT ReconciledBalance {
+    /// The balance of the last statement that was accepted.
     numira::Money amount;
+    /// The day of that statement; nothing when there was none yet.
     std::optional<QDate> reconciledOn;
+    /// The account's currency.
     numira::Currency currency;
 
     friend bool operator==(const ReconciledBalance &, const ReconciledBalance &) = default;
 };
 
+/// The name as the user wrote it.
 [[nodiscard]] KIV_BANKING_EXPORT QString presentationText(const BankName &name);
 /// "First 1200 (checking)".
 [[nodiscard]] KIV_BANKING_EXPORT QString presentationText(const BankAccount &account);

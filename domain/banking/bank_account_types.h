@@ -24,7 +24,9 @@ enum class BankAccountTypes : std::uint8_t {
 /// loan and a line of credit, unknown for Unknown, asset for the rest. Throws
 /// std::logic_error for a value above the known ones.
 [[nodiscard]] KIV_BANKING_EXPORT accounting::AccountTypes toAccountTypes(BankAccountTypes type);
+/// Whether such an account is an asset in the ledger.
 [[nodiscard]] KIV_BANKING_EXPORT bool isAssetAccount(BankAccountTypes type);
+/// Whether such an account is a liability in the ledger.
 [[nodiscard]] KIV_BANKING_EXPORT bool isLiabilityAccount(BankAccountTypes type);
 
 /// The English name in lower case: "credit card". Throws std::logic_error for a

@@ -12,13 +12,20 @@ namespace kiv::banking {
 /// accounts alone.
 class KIV_BANKING_EXPORT BankMap {
 public:
+    /// Goes over pairs of name and bank in the order of names.
     using const_iterator = std::map<BankName, Bank>::const_iterator;
 
+    /// Whether there is no bank.
     [[nodiscard]] bool isEmpty() const noexcept { return m_banks.empty(); }
+    /// How many banks there are.
     [[nodiscard]] std::size_t size() const noexcept { return m_banks.size(); }
+    /// The first bank.
     [[nodiscard]] const_iterator begin() const noexcept { return m_banks.begin(); }
+    /// Behind the last bank.
     [[nodiscard]] const_iterator end() const noexcept { return m_banks.end(); }
+    /// The names of all banks.
     [[nodiscard]] std::set<BankName> names() const;
+    /// Whether there is a bank of this name.
     [[nodiscard]] bool hasBank(const BankName &name) const;
     /// Refused: unknown.
     [[nodiscard]] const Bank &bank(const BankName &name) const;

@@ -10,10 +10,12 @@ namespace kiv::banking {
 /// An error about a bank.
 class KIV_BANKING_EXPORT BankError : public foundation::Error {
 public:
+    /// With what the user is told, the bank, and the error behind it, if any.
     BankError(BankName name, const QString &message,
               const std::exception &cause = std::exception());
     BankError(const BankError &) noexcept;
     ~BankError() override;
+    /// The bank that was refused.
     [[nodiscard]] const BankName &name() const noexcept { return m_name; }
 
 private:

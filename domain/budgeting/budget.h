@@ -10,10 +10,15 @@ namespace kiv::budgeting {
 
 /// All budget items.
 struct KIV_BUDGETING_EXPORT Budget {
+    /// What must be paid.
     BillMap bills;
+    /// What is paid back.
     DebtMap debts;
+    /// What is saved for.
     GoalMap goals;
+    /// What is spent freely, within a limit.
     NontrackMap nontracks;
+    /// What comes in.
     WageMap wages;
 
     /// The map of one kind: items<Bill>() is bills.
@@ -22,12 +27,14 @@ struct KIV_BUDGETING_EXPORT Budget {
     {
         return select<T>(*this);
     }
+    /// The same, to be read only.
     template <BudgetItem T>
     [[nodiscard]] const auto &items() const noexcept
     {
         return select<T>(*this);
     }
 
+    /// Whether there is no item of any kind.
     [[nodiscard]] bool isEmpty() const noexcept;
     /// Every kind with its sources; a kind without items has an empty set.
     [[nodiscard]] std::map<BudgetItemTypes, std::set<BudgetSource>> sources() const;

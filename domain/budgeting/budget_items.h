@@ -10,6 +10,7 @@ template <typename Item>
 class ClonableItem : public BudgetedMoney {
 public:
     using BudgetedMoney::BudgetedMoney;
+    /// A copy of the item's own class.
     [[nodiscard]] std::unique_ptr<BudgetedMoney> clone() const override
     {
         return std::make_unique<Item>(static_cast<const Item &>(*this));
@@ -50,6 +51,7 @@ public:
 class KIV_BUDGETING_EXPORT Debt final : public ClonableItem<Debt> {
 public:
     Debt() = default;
+    /// A debt of `borrowed`, paid back by `amount` per period. Throws as BudgetedMoney's.
     Debt(BudgetSource source, const numira::Money &amount, EventFrequency period, QDate nextOccurOn,
          const numira::Money &borrowed);
     Debt(const Debt &) = default;
@@ -71,6 +73,7 @@ private:
 class KIV_BUDGETING_EXPORT Goal final : public ClonableItem<Goal> {
 public:
     Goal() = default;
+    /// A goal of `final`, reached by `amount` per period. Throws as BudgetedMoney's.
     Goal(BudgetSource source, const numira::Money &amount, EventFrequency period, QDate nextOccurOn,
          const numira::Money &final);
     Goal(const Goal &) = default;

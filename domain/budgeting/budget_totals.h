@@ -13,11 +13,17 @@ public:
     /// Throws what a missing exchange rate throws.
     BudgetTotals(const Budget &budget, const numira::Currency &currency, EventFrequency frequency);
 
+    /// What all bills come to.
     [[nodiscard]] const numira::Money &bills() const noexcept { return m_bills; }
+    /// What all debts come to.
     [[nodiscard]] const numira::Money &debts() const noexcept { return m_debts; }
+    /// What all goals come to.
     [[nodiscard]] const numira::Money &goals() const noexcept { return m_goals; }
+    /// What all non-tracked items come to.
     [[nodiscard]] const numira::Money &nontracks() const noexcept { return m_nontracks; }
+    /// What all wages come to.
     [[nodiscard]] const numira::Money &wages() const noexcept { return m_wages; }
+    /// The period for which the totals are.
     [[nodiscard]] EventFrequency frequency() const noexcept { return m_frequency; }
     /// Bills, debts, goals and non-tracked items together.
     [[nodiscard]] numira::Money outgoing() const;

@@ -29,9 +29,13 @@ public:
     BudgetedMoney &operator=(BudgetedMoney &&) noexcept = default;
     virtual ~BudgetedMoney();
 
+    /// The name by which the user knows the item.
     [[nodiscard]] const BudgetSource &source() const noexcept { return m_source; }
+    /// The amount of one occurrence; never negative.
     [[nodiscard]] const numira::Money &amount() const noexcept { return m_amount; }
+    /// How often it recurs.
     [[nodiscard]] EventFrequency period() const noexcept { return m_period; }
+    /// The next day on which it is expected; invalid in a default-constructed item.
     [[nodiscard]] QDate nextOccurOn() const noexcept { return m_nextOccurOn; }
     /// 1 to 31: the day of the month that the item was given.
     [[nodiscard]] int dayOfMonth() const noexcept { return m_dayOfMonth; }
@@ -39,11 +43,13 @@ public:
     /// Moves the next date on by one period. Throws foundation::Error when it
     /// cannot (see nextOccurrence); then nothing has changed.
     void updateNextOccurOn();
+    /// Gives the item another name; whoever keeps it under its name sees to the key.
     void rename(BudgetSource source) noexcept { m_source = std::move(source); }
     /// For an item read from a file, whose next date may stand in a short
     /// month. Throws BudgetItemError outside 1 to 31.
     void setDayOfMonth(int day);
 
+    /// A copy of the item's own class.
     [[nodiscard]] virtual std::unique_ptr<BudgetedMoney> clone() const;
 
     /// The same kind and the same content.

@@ -17,23 +17,32 @@ namespace kiv::budgeting {
 template <BudgetItem T>
 class BudgetedMoneyMap {
 public:
+    /// Goes over pairs of source and item in the order of sources.
     using const_iterator = typename std::map<BudgetSource, T>::const_iterator;
 
+    /// Whether there is no item.
     [[nodiscard]] bool isEmpty() const noexcept { return m_items.empty(); }
+    /// How many items there are.
     [[nodiscard]] std::size_t size() const noexcept { return m_items.size(); }
+    /// The first item.
     [[nodiscard]] const_iterator begin() const noexcept { return m_items.begin(); }
+    /// Behind the last item.
     [[nodiscard]] const_iterator end() const noexcept { return m_items.end(); }
+    /// The item of this name, or end().
     [[nodiscard]] const_iterator find(const BudgetSource &source) const
     {
         return m_items.find(source);
     }
+    /// Whether there is an item of this name.
     [[nodiscard]] bool contains(const BudgetSource &source) const
     {
         return m_items.contains(source);
     }
     /// Throws std::out_of_range when there is none.
     [[nodiscard]] const T &at(const BudgetSource &source) const { return m_items.at(source); }
+    /// The same, to be changed in all but its name.
     [[nodiscard]] T &at(const BudgetSource &source) { return m_items.at(source); }
+    /// The names of all items.
     [[nodiscard]] std::set<BudgetSource> sources() const
     {
         std::set<BudgetSource> sources;
@@ -50,6 +59,7 @@ public:
         });
     }
 
+    /// Refused: an empty name, a name in use.
     void add(T item)
     {
         const BudgetSource source = item.source();
@@ -64,6 +74,7 @@ public:
         m_items.emplace(source, std::move(item));
     }
 
+    /// Refused: no item of this name.
     void remove(const BudgetSource &source)
     {
         if (m_items.erase(source) == 0) {

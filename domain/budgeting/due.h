@@ -13,7 +13,9 @@ namespace kiv::budgeting {
 /// An item that is due, with the amount: the item's own amount, once, however
 /// long it is overdue.
 struct KIV_BUDGETING_EXPORT BudgetItemAmountDue {
+    /// Which item, and when it is due.
     BudgetItemDueIdentifier id;
+    /// The amount that is due.
     numira::Money amount;
 
     friend bool operator==(const BudgetItemAmountDue &, const BudgetItemAmountDue &) = default;

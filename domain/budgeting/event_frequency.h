@@ -38,6 +38,7 @@ enum class EventFrequency : std::uint8_t {
 /// The English name in lower case: "every two weeks". Throws std::logic_error
 /// for a value above the known ones.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString toQString(EventFrequency frequency);
+/// The name for the user. Throws likewise.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(EventFrequency frequency);
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, EventFrequency frequency);
 KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, EventFrequency frequency);

@@ -34,11 +34,15 @@ enum class BudgetItemTypes : std::uint8_t {
 class KIV_BUDGETING_EXPORT BudgetSource {
 public:
     BudgetSource() = default;
+    /// Any text; maps of items refuse an empty one.
     explicit BudgetSource(QString name) : m_name(std::move(name)) {}
+    /// The name as the user wrote it.
     [[nodiscard]] const QString &name() const noexcept { return m_name; }
+    /// Whether there is no name.
     [[nodiscard]] bool isEmpty() const noexcept { return m_name.isEmpty(); }
 
     friend bool operator==(const BudgetSource &, const BudgetSource &) noexcept = default;
+    /// By name, by code units.
     friend std::strong_ordering operator<=>(const BudgetSource &a, const BudgetSource &b) noexcept
     {
         return QString::compare(a.m_name, b.m_name) <=> 0;
@@ -50,7 +54,9 @@ private:
 
 /// One budget item of the whole budget: kinds first, then names.
 struct KIV_BUDGETING_EXPORT BudgetItemIdentifier {
+    /// The item's kind.
     BudgetItemTypes type = BudgetItemTypes::None;
+    /// The item's name among those of its kind.
     BudgetSource source;
 
     friend bool operator==(const BudgetItemIdentifier &, const BudgetItemIdentifier &) = default;
@@ -60,10 +66,14 @@ struct KIV_BUDGETING_EXPORT BudgetItemIdentifier {
 
 /// A budget item that has fallen due on a day.
 struct KIV_BUDGETING_EXPORT BudgetItemDueIdentifier {
+    /// The item's kind.
     BudgetItemTypes type = BudgetItemTypes::None;
+    /// The item's name among those of its kind.
     BudgetSource source;
+    /// The day on which it is due.
     QDate dueOn;
 
+    /// The item, whenever it is due.
     [[nodiscard]] BudgetItemIdentifier item() const { return {type, source}; }
     friend bool operator==(const BudgetItemDueIdentifier &,
                            const BudgetItemDueIdentifier &) = default;
@@ -73,6 +83,7 @@ struct KIV_BUDGETING_EXPORT BudgetItemDueIdentifier {
 /// "unknown" for None. Throws std::logic_error for a value above the known
 /// ones.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(BudgetItemTypes type);
+/// The name as the user wrote it.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(const BudgetSource &source);
 /// "Rent (bill)"; the number in place of the word for a kind above the known
 /// ones. The stream forms are the same.

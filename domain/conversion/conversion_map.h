@@ -25,6 +25,7 @@ namespace kiv::conversion {
 /// knows no base, no time and no rate.
 class KIV_CONVERSION_EXPORT ConversionMap {
 public:
+    /// Rates by the currency into which they convert.
     using Rates = std::map<numira::Currency, numira::FloatingPoint>;
 
     /// How long rates are taken for current.
@@ -36,9 +37,11 @@ public:
     /// is named and is not 1.
     ConversionMap(const numira::Currency &base, const QDateTime &fetchedAt, Rates rates);
 
+    /// The currency from which the rates convert.
     [[nodiscard]] const numira::Currency &base() const noexcept { return m_base; }
     /// The moment whose rates these are, in UTC. Not valid for the empty table.
     [[nodiscard]] const QDateTime &fetchedAt() const noexcept { return m_fetchedAt; }
+    /// How many units of each currency one of the base is worth.
     [[nodiscard]] const Rates &rates() const noexcept { return m_rates; }
     /// True when there is no rate in it.
     [[nodiscard]] bool isEmpty() const noexcept { return m_rates.empty(); }

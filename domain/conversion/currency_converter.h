@@ -49,6 +49,7 @@ public:
     static void initialiseCache(ConversionMap &&conversions);
     /// Replaces the cache.
     static void updateCache(ConversionMap conversions);
+    /// The rates with which the whole process converts.
     [[nodiscard]] static const ConversionMap &cache() noexcept;
 
 private:

@@ -18,7 +18,9 @@ namespace kiv::conversion {
 /// What a source answers: a table, or the reason for which there is none
 /// (English, for the log, and without any secret of the source).
 struct FetchedRates {
+    /// The rates that arrived; nothing after a failure.
     std::optional<ConversionMap> table;
+    /// Why there are none, in English and for the log; empty after a success.
     QString failure;
 };
 
@@ -26,8 +28,10 @@ struct FetchedRates {
 class KIV_CONVERSION_EXPORT CurrencySource : public QObject {
     Q_OBJECT
 public:
+    /// Gets what was fetched, once for each fetch.
     using Answer = std::function<void(const FetchedRates &)>;
 
+    /// A source that `parent`, if any, destroys.
     explicit CurrencySource(const foundation::QtPtr<QObject> &parent);
     ~CurrencySource() override;
 

@@ -18,6 +18,7 @@ namespace kiv::foundation {
 /// std::exception, which says nothing) adds nothing.
 class KIV_FOUNDATION_EXPORT Error : public std::exception {
 public:
+    /// An error that no other caused.
     explicit Error(const QString &message);
     /// When `cause` is the exception that is being handled, it is kept whole
     /// with its type; otherwise its text is kept.

@@ -26,14 +26,19 @@ template <typename T>
 class QtPtr {
 public:
     QtPtr() noexcept = default;
+    /// Guards nothing.
     QtPtr(std::nullptr_t) noexcept {}
+    /// Guards `object`, which may be null.
     explicit QtPtr(T *object) { guard(object); }
+    /// Guards the same object on its own.
     QtPtr(const QtPtr &other) { guard(other.get()); }
+    /// Guards the same object as one of its base classes.
     template <typename U>
     requires(std::is_convertible_v<U *, T *> && !std::is_same_v<U, T>) QtPtr(const QtPtr<U> &other)
     {
         guard(other.get());
     }
+    /// Lets go of its object and guards the other's on its own.
     QtPtr &operator=(const QtPtr &other)
     {
         if (this != &other) {
@@ -44,10 +49,15 @@ public:
     }
     ~QtPtr() { release(); }
 
+    /// The object; null when it is gone.
     [[nodiscard]] T *get() const noexcept { return m_alive ? m_object : nullptr; }
+    /// The object, which must be there.
     [[nodiscard]] T &operator*() const noexcept { return *get(); }
+    /// The object's members; it must be there.
     [[nodiscard]] T *operator->() const noexcept { return get(); }
+    /// Whether the object is there.
     [[nodiscard]] explicit operator bool() const noexcept { return get() != nullptr; }
+    /// Whether both guard the same object, or none.
     friend bool operator==(const QtPtr &a, const QtPtr &b) noexcept { return a.get() == b.get(); }
 
 private:

@@ -19,7 +19,7 @@
 namespace kiv::foundation {
 
 /// The text with every control, line-breaking, bidirectional-formatting and
-/// lone-surrogate character written as \u{XXXX}, so that a dump stays on one
+/// lone-surrogate character written as `\u{XXXX}`, so that a dump stays on one
 /// line and a terminal obeys nobody's name.
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString escaped(const QString &text);
 

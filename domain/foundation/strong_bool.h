@@ -9,7 +9,9 @@ template <typename Tag>
 class StrongBool {
 public:
     constexpr StrongBool() noexcept = default;
+    /// What `value` says.
     constexpr explicit StrongBool(bool value) noexcept : m_value(value) {}
+    /// Whether it is a yes.
     [[nodiscard]] constexpr explicit operator bool() const noexcept { return m_value; }
     friend constexpr bool operator==(StrongBool, StrongBool) noexcept = default;
 

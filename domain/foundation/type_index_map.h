@@ -23,12 +23,18 @@ namespace kiv::foundation {
 template <typename K, typename V>
 class TypeIndexMap {
 public:
+    /// The values under one type.
     using Inner = std::map<K, V>;
+    /// The inner maps under all types.
     using Outer = std::map<std::type_index, Inner>;
 
+    /// Everything, to be read.
     [[nodiscard]] const Outer &maps() const noexcept { return m_maps; }
+    /// The number of keys over all types.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    /// Whether there is no key.
     [[nodiscard]] bool isEmpty() const noexcept { return m_maps.empty(); }
+    /// Removes everything.
     void clear() noexcept
     {
         m_maps.clear();
@@ -47,6 +53,7 @@ public:
                             .arg(typeName<T>(), presentationText(key)));
         }
     }
+    /// The same, to be read only.
     template <typename T>
     [[nodiscard]] const V &value(const K &key) const
     {
@@ -59,6 +66,7 @@ public:
         }
     }
 
+    /// Whether there is such a key under the type.
     template <typename T>
     [[nodiscard]] bool has(const K &key) const
     {
@@ -72,6 +80,7 @@ public:
     {
         insertOrAssign(std::type_index(typeid(T)), key, std::move(value));
     }
+    /// The same for a type that is known by its index.
     void insertOrAssign(std::type_index type, const K &key, V value)
     {
         const auto [inner, isNewType] = m_maps.try_emplace(type);

@@ -24,6 +24,7 @@ struct HttpLimits {
     std::chrono::milliseconds timeout{30'000};
     /// Of a body, in bytes.
     qint64 bodyMax = qint64{1} << 20;
+    /// How many redirects are followed.
     int redirectsMax = 3;
 };
 
@@ -37,6 +38,7 @@ struct HttpLimits {
 class KIV_NETWORKING_EXPORT HttpRequestSender final : public RequestSender {
     Q_OBJECT
 public:
+    /// A sender that keeps to the limits.
     explicit HttpRequestSender(const HttpLimits &limits = {});
     ~HttpRequestSender() override;
 

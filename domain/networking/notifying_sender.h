@@ -14,6 +14,7 @@ namespace kiv::networking {
 /// Sends requests and notifies whoever made them of the answer.
 class KIV_NETWORKING_EXPORT NotifyingSender {
 public:
+    /// Gets the response, once for each request.
     using Answer = std::function<void(const Response &)>;
 
     NotifyingSender() = default;

@@ -31,6 +31,7 @@ public:
     virtual void cancel(kiv::networking::RequestNumber request) = 0;
 
 Q_SIGNALS:
+    /// The request has its response, good or bad; it comes once for each.
     void answered(kiv::networking::RequestNumber request, kiv::networking::Response response);
 };
 

@@ -19,13 +19,18 @@ class KIV_NETWORKING_EXPORT Response {
 public:
     /// A failure without a reason.
     Response() = default;
+    /// A response that arrived.
     [[nodiscard]] static Response succeeded(QByteArray body, QString contentType);
+    /// A request that came to nothing, and why.
     [[nodiscard]] static Response failed(QString reason);
 
+    /// Whether a response arrived.
     [[nodiscard]] bool isSuccess() const noexcept { return m_isSuccess; }
+    /// What arrived; empty after a failure.
     [[nodiscard]] const QByteArray &body() const noexcept { return m_body; }
     /// As the server wrote it, such as "application/json; charset=utf-8".
     [[nodiscard]] const QString &contentType() const noexcept { return m_contentType; }
+    /// Why nothing arrived; empty after a success.
     [[nodiscard]] const QString &failure() const noexcept { return m_failure; }
 
     friend bool operator==(const Response &, const Response &) = default;

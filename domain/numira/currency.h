@@ -25,14 +25,17 @@ public:
     /// Throws UnknownCurrency when no known currency has this numeric code.
     explicit Currency(std::uint16_t numericCode);
 
+    /// The numeric code: 840 for USD.
     [[nodiscard]] constexpr std::uint16_t numericCode() const noexcept { return m_numericCode; }
     /// The alphabetic code: three upper-case letters.
     [[nodiscard]] std::string_view code() const noexcept { return {m_code, 3}; }
 
+    /// Whether the numeric codes are equal.
     friend bool operator==(const Currency &a, const Currency &b) noexcept
     {
         return a.m_numericCode == b.m_numericCode;
     }
+    /// By numeric code.
     friend std::strong_ordering operator<=>(const Currency &a, const Currency &b) noexcept
     {
         return a.m_numericCode <=> b.m_numericCode;

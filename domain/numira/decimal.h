@@ -21,6 +21,7 @@ public:
     static constexpr unsigned scaleDigits = 12;
 
     constexpr Decimal() noexcept = default;
+    /// A whole number.
     explicit Decimal(std::int64_t whole) noexcept;
 
     /// Reads "-1234.56": an optional sign, digits, and optionally a point with
@@ -41,10 +42,15 @@ public:
     /// How many digits stand behind the point when trailing zeros are dropped.
     [[nodiscard]] unsigned digits() const noexcept;
 
+    /// Adds exactly. Throws OverflowError.
     Decimal &operator+=(const Decimal &other);
+    /// Subtracts exactly. Throws OverflowError.
     Decimal &operator-=(const Decimal &other);
+    /// The same number with the other sign.
     [[nodiscard]] Decimal operator-() const;
+    /// The exact sum. Throws OverflowError.
     [[nodiscard]] friend Decimal operator+(Decimal a, const Decimal &b) { return a += b; }
+    /// The exact difference. Throws OverflowError.
     [[nodiscard]] friend Decimal operator-(Decimal a, const Decimal &b) { return a -= b; }
     /// Rounded half to even at the 12th digit.
     friend NUMIRA_EXPORT Decimal operator*(const Decimal &a, const Decimal &b);
@@ -61,9 +67,11 @@ public:
     [[nodiscard]] Decimal scaled(std::int64_t numerator, std::int64_t denominator) const;
     /// Rounded half to even to `digits` digits behind the point.
     [[nodiscard]] Decimal roundedHalfEven(unsigned digits) const;
+    /// The number without its sign.
     [[nodiscard]] Decimal abs() const;
 
     friend bool operator==(const Decimal &a, const Decimal &b) noexcept = default;
+    /// By value.
     friend std::strong_ordering operator<=>(const Decimal &a, const Decimal &b) noexcept
     {
         return a.m_units < b.m_units   ? std::strong_ordering::less

@@ -39,26 +39,39 @@ public:
     /// currency's minor-unit digits, or `fraction` not below 10,000.
     Money(const Currency &currency, std::int64_t major, std::uint16_t minor,
           std::uint16_t fraction = 0);
+    /// An exact amount.
     Money(const Currency &currency, const Decimal &amount) noexcept
         : m_currency(currency), m_amount(amount)
     {
     }
 
+    /// The currency.
     [[nodiscard]] const Currency &code() const noexcept { return m_currency; }
+    /// The number, in whole units of the currency.
     [[nodiscard]] const Decimal &amount() const noexcept { return m_amount; }
+    /// Whether it is exactly zero.
     [[nodiscard]] bool isZero() const noexcept { return m_amount.sign() == 0; }
+    /// Whether it is below zero.
     [[nodiscard]] bool isNegative() const noexcept { return m_amount.sign() < 0; }
+    /// Whether it is above zero.
     [[nodiscard]] bool isPositive() const noexcept { return m_amount.sign() > 0; }
 
+    /// Adds, as the class tells. Throws OverflowError, ConversionError.
     Money &operator+=(const Money &other);
+    /// Subtracts, as the class tells. Throws OverflowError, ConversionError.
     Money &operator-=(const Money &other);
+    /// The sum, as += makes it.
     [[nodiscard]] friend Money operator+(Money a, const Money &b) { return a += b; }
+    /// The difference, as -= makes it.
     [[nodiscard]] friend Money operator-(Money a, const Money &b) { return a -= b; }
+    /// The same amount with the other sign.
     [[nodiscard]] Money operator-() const { return {m_currency, -m_amount}; }
+    /// The amount without its sign.
     [[nodiscard]] Money abs() const { return {m_currency, m_amount.abs()}; }
     /// Multiplies by the shortest decimal that reads back as `factor`; the
     /// result is rounded half to even at the 12th digit.
     friend NUMIRA_EXPORT Money operator*(const Money &money, double factor);
+    /// The same the other way round.
     [[nodiscard]] friend Money operator*(double factor, const Money &money)
     {
         return money * factor;
@@ -80,10 +93,15 @@ public:
     [[nodiscard]] Money convertedTo(const Currency &currency) const;
 
     friend bool operator==(const Money &, const Money &) noexcept = default;
+    /// Whether a is the smaller amount, b converted where needed.
     friend bool operator<(const Money &a, const Money &b) { return a.against(b) < 0; }
+    /// Whether a is the larger amount, b converted where needed.
     friend bool operator>(const Money &a, const Money &b) { return a.against(b) > 0; }
+    /// Whether a is not the larger amount, b converted where needed.
     friend bool operator<=(const Money &a, const Money &b) { return a.against(b) <= 0; }
+    /// Whether a is not the smaller amount, b converted where needed.
     friend bool operator>=(const Money &a, const Money &b) { return a.against(b) >= 0; }
+    /// Whether the amount is this whole number, whatever its currency.
     template <std::integral Integer>
     friend bool operator==(const Money &money, Integer number)
     {

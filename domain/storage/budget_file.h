@@ -19,6 +19,7 @@ public:
     /// otherwise.
     static constexpr unsigned backupsByDefault = 5;
 
+    /// Keeps as many previous versions next to the file.
     explicit BudgetFile(unsigned backups = backupsByDefault);
     ~BudgetFile() override;
 
@@ -27,6 +28,7 @@ public:
     /// requests is mended, with a warning in the log for each mended thing.
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
+    /// The file that was loaded or saved last; empty before.
     [[nodiscard]] QString filePathName() const override;
 
 private:

@@ -28,11 +28,17 @@ public:
 
     /// Everything that a budget file holds.
     struct KIV_STORAGE_EXPORT Data {
+        /// The accounts and transactions.
         accounting::GeneralLedger generalLedger;
+        /// The budget items.
         budgeting::Budget budget;
+        /// Which account belongs to which item.
         BudgetAccountCodes budgetAccountCodes;
+        /// The banks and the accounts that they keep.
         banking::BankMap banks;
+        /// The surveys, the last one of each bank account.
         surveying::CompletedSurveys surveys;
+        /// The tags of the items.
         tagging::BudgetItemTags itemTags;
     };
 
@@ -48,6 +54,7 @@ public:
     /// Throws StorageError when the data cannot be stored; the file is as it
     /// was before then.
     virtual void store(const Data &data) = 0;
+    /// The file that was loaded or saved last; empty before.
     [[nodiscard]] virtual QString filePathName() const = 0;
 
 protected:

@@ -35,12 +35,15 @@ KIV_STORAGE_EXPORT QDebug operator<<(QDebug debug, StorageFailure failure);
 /// names the file and the reason.
 class KIV_STORAGE_EXPORT StorageError final : public foundation::Error {
 public:
+    /// With what the user is told, the file, and the error behind it, if any.
     StorageError(StorageFailure failure, QString filePathName, const QString &message,
                  const std::exception &cause = std::exception());
     StorageError(const StorageError &) noexcept;
     ~StorageError() override;
 
+    /// What kind of failure it was.
     [[nodiscard]] StorageFailure failure() const noexcept { return m_failure; }
+    /// The file that could not be read or written.
     [[nodiscard]] const QString &filePathName() const noexcept { return m_filePathName; }
 
 private:

@@ -14,16 +14,21 @@ namespace kiv::surveying {
 class KIV_SURVEYING_EXPORT BalanceChange {
 public:
     BalanceChange() = default;
+    /// Whether the transaction raised the account's balance, and the transaction.
     BalanceChange(bool isIncrease, accounting::Transaction transaction);
 
+    /// Whether the balance rose.
     [[nodiscard]] bool isIncrease() const noexcept { return m_isIncrease; }
+    /// The transaction behind the change.
     [[nodiscard]] const accounting::Transaction &transaction() const noexcept
     {
         return m_transaction;
     }
 
+    /// By direction, then by the transaction's number.
     friend KIV_SURVEYING_EXPORT std::strong_ordering operator<=>(const BalanceChange &a,
                                                                  const BalanceChange &b) noexcept;
+    /// The same direction and the same transaction number.
     friend bool operator==(const BalanceChange &a, const BalanceChange &b) noexcept
     {
         return (a <=> b) == 0;

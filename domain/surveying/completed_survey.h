@@ -16,10 +16,12 @@ public:
     /// Nothing reconciled yet: a zero balance, no day, nothing set aside.
     CompletedSurvey(banking::BankAccount account, const numira::Currency &currency);
 
+    /// The bank account that was surveyed.
     [[nodiscard]] const banking::BankAccount &bankAccount() const noexcept
     {
         return m_reconciled.bankAccount();
     }
+    /// The account with the statement's balance and day.
     [[nodiscard]] const banking::ReconciledBankAccount &reconciled() const noexcept
     {
         return m_reconciled;
@@ -39,7 +41,9 @@ public:
     /// Each follows a new name, and does nothing when `from` is not its own. An
     /// item renamed onto one that the distribution holds already replaces it.
     void renamed(const banking::BankName &from, const banking::BankName &to);
+    /// The account has another number now.
     void renamed(accounting::AccountNumber from, accounting::AccountNumber to);
+    /// The item has another name now.
     void renamed(const budgeting::BudgetItemIdentifier &from, const budgeting::BudgetSource &to);
 
     friend bool operator==(const CompletedSurvey &, const CompletedSurvey &) = default;

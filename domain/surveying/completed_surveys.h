@@ -13,13 +13,19 @@ namespace kiv::surveying {
 /// survey may outlive the account, the bank and the items that it names.
 class KIV_SURVEYING_EXPORT CompletedSurveys {
 public:
+    /// Goes over pairs of bank account and survey.
     using const_iterator = std::map<banking::BankAccount, CompletedSurvey>::const_iterator;
 
+    /// Whether nothing was surveyed yet.
     [[nodiscard]] bool isEmpty() const noexcept { return m_surveys.empty(); }
+    /// How many bank accounts were surveyed.
     [[nodiscard]] std::size_t size() const noexcept { return m_surveys.size(); }
+    /// The first survey.
     [[nodiscard]] const_iterator begin() const noexcept { return m_surveys.begin(); }
+    /// Behind the last survey.
     [[nodiscard]] const_iterator end() const noexcept { return m_surveys.end(); }
 
+    /// The last survey of the account; nothing when there was none.
     [[nodiscard]] std::optional<CompletedSurvey>
     lookUpSurvey(const banking::BankAccount &account) const;
     /// The first of that bank and number, whatever its type.

@@ -20,6 +20,7 @@ namespace kiv::surveying {
 class KIV_SURVEYING_EXPORT DistributedAmount {
 public:
     DistributedAmount() = default;
+    /// What is set aside, of what is expected by the item's next date.
     DistributedAmount(const numira::Money &distributed, QDate nextOccurOn,
                       const numira::Money &expected);
 
@@ -30,7 +31,9 @@ public:
     /// What the item is expected to want by the day of the survey.
     [[nodiscard]] const numira::Money &expected() const noexcept { return m_expected; }
 
+    /// Sets more aside.
     DistributedAmount &operator+=(const numira::Money &money);
+    /// Sets less aside.
     DistributedAmount &operator-=(const numira::Money &money);
     /// Sets what is set aside and leaves the rest.
     DistributedAmount &operator=(const numira::Money &distributed) noexcept;

@@ -12,10 +12,12 @@ namespace kiv::surveying {
 /// An error about the survey of a bank account.
 class KIV_SURVEYING_EXPORT SurveyError : public foundation::Error {
 public:
+    /// With what the user is told, the bank account, and the error behind it, if any.
     SurveyError(banking::BankAccount account, const QString &message,
                 const std::exception &cause = std::exception());
     SurveyError(const SurveyError &) noexcept;
     ~SurveyError() override;
+    /// The bank account whose survey was refused.
     [[nodiscard]] const banking::BankAccount &account() const noexcept { return m_account; }
 
 private:

@@ -18,6 +18,7 @@ namespace kiv::surveying {
 template <typename Key>
 class IndexedIncreaseDecreases {
 public:
+    /// Amounts by what stands on the other side.
     using Amounts = std::map<Key, numira::Money>;
 
     IndexedIncreaseDecreases() = default;
@@ -33,7 +34,9 @@ public:
         }
     }
 
+    /// What raised the balance.
     [[nodiscard]] const Amounts &increases() const noexcept { return m_increases; }
+    /// What lowered the balance.
     [[nodiscard]] const Amounts &decreases() const noexcept { return m_decreases; }
 
     friend bool operator==(const IndexedIncreaseDecreases &,
@@ -48,6 +51,7 @@ private:
 KIV_SURVEYING_EXPORT std::ostream &
 operator<<(std::ostream &out,
            const IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier> &changes);
+/// Writes increases and decreases on one line, for logs.
 KIV_SURVEYING_EXPORT std::ostream &
 operator<<(std::ostream &out, const IndexedIncreaseDecreases<accounting::AccountNumber> &changes);
 

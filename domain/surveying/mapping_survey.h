@@ -18,10 +18,13 @@ namespace kiv::surveying {
 /// aside.
 class KIV_SURVEYING_EXPORT MappingSurvey {
 public:
+    /// Changes of the balance by the budget item behind them.
     using BudgetItemChanges = std::map<budgeting::BudgetItemIdentifier, std::set<BalanceChange>>;
+    /// Changes of the balance by the account behind them.
     using AccountChanges = std::map<accounting::AccountCode, std::set<BalanceChange>>;
 
     MappingSurvey() = default;
+    /// The survey with all its parts; see the members below.
     MappingSurvey(banking::ReconciledBankAccount reconciled, const numira::Money &expectedBalance,
                   QDate startOn, BudgetItemChanges budgetItemChanges, Distribution distributions,
                   AccountChanges accountChanges, const std::optional<numira::Money> &amountDue);

@@ -16,17 +16,22 @@ public:
     class KIV_TAGGING_EXPORT ItemTags {
     public:
         ItemTags() = default;
+        /// The item with these tags.
         explicit ItemTags(budgeting::BudgetItemIdentifier identifier, Tags tags = {});
 
+        /// The item's kind.
         [[nodiscard]] budgeting::BudgetItemTypes type() const noexcept { return m_identifier.type; }
+        /// The item's name among those of its kind.
         [[nodiscard]] const budgeting::BudgetSource &source() const noexcept
         {
             return m_identifier.source;
         }
+        /// The item.
         [[nodiscard]] const budgeting::BudgetItemIdentifier &identifier() const noexcept
         {
             return m_identifier;
         }
+        /// Its tags.
         [[nodiscard]] const Tags &tags() const noexcept { return m_tags; }
 
         friend bool operator==(const ItemTags &, const ItemTags &) = default;
@@ -36,13 +41,18 @@ public:
         Tags m_tags;
     };
 
+    /// Goes over pairs of item and tags.
     using const_iterator = std::map<budgeting::BudgetItemIdentifier, Tags>::const_iterator;
 
+    /// Whether no item has tags.
     [[nodiscard]] bool isEmpty() const noexcept { return m_tags.empty(); }
+    /// How many items have tags.
     [[nodiscard]] std::size_t size() const noexcept { return m_tags.size(); }
     /// Pairs of identifier and tags: kinds in their order, sources in theirs.
     [[nodiscard]] const_iterator begin() const noexcept { return m_tags.begin(); }
+    /// Behind the last item.
     [[nodiscard]] const_iterator end() const noexcept { return m_tags.end(); }
+    /// Whether the item has tags.
     [[nodiscard]] bool contains(const budgeting::BudgetItemIdentifier &item) const;
     /// The item's tags; none when it has no entry.
     [[nodiscard]] Tags tags(const budgeting::BudgetItemIdentifier &item) const;

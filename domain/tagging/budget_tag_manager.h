@@ -10,12 +10,14 @@ namespace kiv::tagging {
 class KIV_TAGGING_EXPORT BudgetTagManager {
 public:
     BudgetTagManager() = default;
+    /// With these tags on the items; they are the possible ones.
     explicit BudgetTagManager(BudgetItemTags associations);
 
     /// Every tag that can be chosen.
     [[nodiscard]] const Tags &possible() const noexcept { return m_possible; }
     /// The tags of the items of one kind.
     [[nodiscard]] BudgetItemTags associated(budgeting::BudgetItemTypes type) const;
+    /// The tags of all items.
     [[nodiscard]] const BudgetItemTags &associations() const noexcept { return m_associations; }
     /// Whether the item has a tag.
     [[nodiscard]] bool hasAssociation(const budgeting::BudgetItemIdentifier &item) const;

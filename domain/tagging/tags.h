@@ -20,10 +20,13 @@ namespace kiv::tagging {
 class KIV_TAGGING_EXPORT Tag {
 public:
     Tag() = default;
+    /// Any text.
     explicit Tag(QString name) : m_name(std::move(name)) {}
+    /// The word as the user wrote it.
     [[nodiscard]] const QString &name() const noexcept { return m_name; }
 
     friend bool operator==(const Tag &, const Tag &) noexcept = default;
+    /// By name, by code units.
     friend std::strong_ordering operator<=>(const Tag &a, const Tag &b) noexcept
     {
         return QString::compare(a.m_name, b.m_name) <=> 0;
@@ -37,19 +40,29 @@ private:
 /// name under which it crosses signals and slots.
 class KIV_TAGGING_EXPORT Tags {
 public:
+    /// Goes over the tags in their order.
     using const_iterator = std::set<Tag>::const_iterator;
 
     Tags() = default;
+    /// These tags, each once.
     Tags(std::initializer_list<Tag> tags) : m_tags(tags) {}
+    /// These tags.
     explicit Tags(std::set<Tag> tags) noexcept : m_tags(std::move(tags)) {}
 
+    /// Whether there are none.
     [[nodiscard]] bool isEmpty() const noexcept { return m_tags.empty(); }
+    /// How many there are.
     [[nodiscard]] std::size_t size() const noexcept { return m_tags.size(); }
+    /// The first.
     [[nodiscard]] const_iterator begin() const noexcept { return m_tags.begin(); }
+    /// Behind the last.
     [[nodiscard]] const_iterator end() const noexcept { return m_tags.end(); }
+    /// Whether the tag is among them.
     [[nodiscard]] bool contains(const Tag &tag) const { return m_tags.contains(tag); }
 
+    /// Adds the tag, if it is not there yet.
     void insert(Tag tag) { m_tags.insert(std::move(tag)); }
+    /// Adds those that are not there yet.
     void insert(const Tags &others) { m_tags.insert(others.begin(), others.end()); }
     /// These tags without `others`.
     [[nodiscard]] Tags without(const Tags &others) const;
@@ -60,6 +73,7 @@ private:
     std::set<Tag> m_tags;
 };
 
+/// The word as the user wrote it.
 [[nodiscard]] KIV_TAGGING_EXPORT QString presentationText(const Tag &tag);
 KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out, const Tag &tag);
 /// "(car, home)".

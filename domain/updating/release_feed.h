@@ -22,6 +22,7 @@ namespace kiv::updating {
 struct KIV_UPDATING_EXPORT ReleaseFeed {
     /// Empty: there is no list, and nothing is ever asked for.
     QUrl address;
+    /// The version that is running.
     SemanticVersion running;
 
     /// The list whose address was given when this was built (the build option

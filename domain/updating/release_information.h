@@ -13,11 +13,15 @@ namespace kiv::updating {
 /// One release of the application: its version, its day, and what is new in
 /// it, as text for the user. Ordered by version, then day, then notes.
 struct KIV_UPDATING_EXPORT ReleaseInformation {
+    /// The release's version.
     SemanticVersion version;
+    /// The day of the release.
     QDate releasedOn;
+    /// What is new in it, in plain text.
     QString notes;
 
     friend bool operator==(const ReleaseInformation &, const ReleaseInformation &) = default;
+    /// By version, then day and notes.
     friend KIV_UPDATING_EXPORT std::strong_ordering operator<=>(const ReleaseInformation &a,
                                                                 const ReleaseInformation &b);
 };

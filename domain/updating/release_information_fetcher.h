@@ -18,6 +18,7 @@ namespace kiv::updating {
 class KIV_UPDATING_EXPORT ReleaseInformationFetcher final : public QObject {
     Q_OBJECT
 public:
+    /// Asks `feed` through `sender`; `parent`, if any, destroys it.
     ReleaseInformationFetcher(networking::NotifyingSender &sender,
                               const foundation::QtPtr<QObject> &parent,
                               ReleaseFeed feed = ReleaseFeed::builtIn());

@@ -30,10 +30,15 @@ public:
     /// Throws UpdateError for anything but a version.
     [[nodiscard]] static SemanticVersion fromText(const QString &text);
 
+    /// The number that changes with incompatible changes.
     [[nodiscard]] std::uint8_t major() const noexcept { return m_major; }
+    /// The number that changes with new features.
     [[nodiscard]] std::uint8_t minor() const noexcept { return m_minor; }
+    /// The number that changes with corrections.
     [[nodiscard]] std::uint8_t patch() const noexcept { return m_patch; }
+    /// What stands behind the hyphen.
     [[nodiscard]] const std::optional<QString> &preRelease() const noexcept { return m_preRelease; }
+    /// What stands behind the plus sign.
     [[nodiscard]] const std::optional<QString> &build() const noexcept { return m_build; }
 
     /// Whether this version has a higher precedence than the other by the
@@ -56,6 +61,7 @@ private:
 
 /// "1.2.0-rc.1+build.5"
 [[nodiscard]] KIV_UPDATING_EXPORT QString toQString(const SemanticVersion &version);
+/// The same as toQString.
 [[nodiscard]] KIV_UPDATING_EXPORT QString presentationText(const SemanticVersion &version);
 KIV_UPDATING_EXPORT std::ostream &operator<<(std::ostream &out, const SemanticVersion &version);
 KIV_UPDATING_EXPORT QDebug operator<<(QDebug debug, const SemanticVersion &version);

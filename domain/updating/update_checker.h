@@ -15,6 +15,7 @@ namespace kiv::updating {
 class KIV_UPDATING_EXPORT UpdateChecker final : public QObject {
     Q_OBJECT
 public:
+    /// Checks `feed` through `sender`; `parent`, if any, destroys it.
     UpdateChecker(networking::NotifyingSender &sender, const foundation::QtPtr<QObject> &parent,
                   ReleaseFeed feed = ReleaseFeed::builtIn());
     ~UpdateChecker() override;
