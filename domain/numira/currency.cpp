@@ -25,6 +25,15 @@ constexpr std::uint16_t noCurrency = 999;
 constexpr std::array<std::string_view, 8> kept{"ANG", "BGN", "CUC", "HRK",
                                                "SLL", "SVC", "VEF", "ZWL"};
 
+struct Listed {
+    std::string_view code;
+    std::uint16_t number;
+    std::uint8_t digits;
+};
+
+/// Currencies of ISO 4217 that are newer than the ICU of some systems.
+constexpr std::array<Listed, 1> recent{{{"ZWG", 924, 2}}};
+
 /// Where ISO 4217 gives other minor-unit digits than ICU, whose digits follow
 /// what people still use in cash. From the standard's list one (current
 /// currency and funds codes); "not applicable" counts as 0.
@@ -85,6 +94,8 @@ public:
             if (std::ranges::binary_search(kept, std::string_view(code)))
                 add(code);
         }
+        for (const Listed &currency : recent)
+            add(currency);
         std::ranges::sort(m_numbers);
     }
 
@@ -109,17 +120,24 @@ private:
         const int32_t number = ucurr_getNumericCode(icu::UnicodeString(wide).getTerminatedBuffer());
         if (number <= 0 || number >= static_cast<int32_t>(m_entries.size()) || code.size() != 3)
             return;
-        Entry &entry = m_entries[static_cast<std::size_t>(number)];
-        if (entry.isKnown)
-            return;
         UErrorCode status = U_ZERO_ERROR;
         const int32_t digits =
             ucurr_getDefaultFractionDigits(icu::UnicodeString(wide).getTerminatedBuffer(), &status);
-        std::ranges::copy(code, entry.code.begin());
-        entry.digits = static_cast<std::uint8_t>(
-            digitsOfTheStandard(code, digits > 0 ? static_cast<unsigned>(digits) : 0));
+        add(Listed{code, static_cast<std::uint16_t>(number),
+                   static_cast<std::uint8_t>(
+                       digitsOfTheStandard(code, digits > 0 ? static_cast<unsigned>(digits) : 0))});
+    }
+
+    /// A number that is taken stays with the currency that has it.
+    void add(const Listed &currency)
+    {
+        Entry &entry = m_entries[currency.number];
+        if (entry.isKnown)
+            return;
+        std::ranges::copy(currency.code, entry.code.begin());
+        entry.digits = currency.digits;
         entry.isKnown = true;
-        m_numbers.emplace_back(code, static_cast<std::uint16_t>(number));
+        m_numbers.emplace_back(currency.code, currency.number);
     }
 
     std::array<Entry, 1000> m_entries{};
@@ -197,6 +215,8 @@ const std::set<Currency> &activeCurrencies()
             if (const std::uint16_t number = table().numberOf(code); number != 0)
                 currencies.emplace(number);
         }
+        for (const Listed &currency : recent)
+            currencies.emplace(currency.number);
         return currencies;
     }();
     return active;
