@@ -161,6 +161,7 @@ private:
     }
     static void heard(QtMsgType level, const QMessageLogContext &, const QString &message)
     {
+        const Unwatched aside;
         const QString mark = level == QtWarningMsg ? QStringLiteral("! ")
                              : level == QtDebugMsg ? QStringLiteral("? ")
                                                    : QStringLiteral("- ");

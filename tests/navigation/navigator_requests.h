@@ -12,4 +12,11 @@ using Rows = std::vector<std::pair<QByteArray, Request>>;
 /// What they name is what Desk::furnish() made.
 [[nodiscard]] Rows allRequests();
 
+/// What makes a furnished desk into each of the states in which a budget can be,
+/// under the state's name.
+[[nodiscard]] Rows allStates();
+
+/// Whether debits equal credits over all accounts, in the amounts as entered.
+[[nodiscard]] bool isBalanced(const accounting::GeneralLedger &ledger);
+
 } // namespace kiv::test

@@ -9,7 +9,6 @@
 
 using namespace kiv;
 using namespace kiv::test;
-using banking::BankAccountTypes;
 using storage::BudgetStorage;
 
 /// Every request in every state of a budget, and long walks over all of them:
@@ -33,25 +32,6 @@ namespace {
 
 const Rows requests = allRequests();
 const QString home = QStringLiteral("home.budget");
-
-/// Whether debits equal credits over all accounts, in the amounts as entered.
-bool isBalanced(const accounting::GeneralLedger &ledger)
-{
-    std::map<numira::Currency, numira::Money> sums;
-    for (const accounting::Account &account : ledger.accounts()) {
-        for (const accounting::Transaction &transaction : account.transactions()) {
-            const bool isDebit = transaction.debiting().number() == account.code().number();
-            numira::Money &sum =
-                sums.try_emplace(transaction.amount().code(), transaction.amount().code())
-                    .first->second;
-            if (isDebit)
-                sum += transaction.amount();
-            else
-                sum -= transaction.amount();
-        }
-    }
-    return std::ranges::all_of(sums, [](const auto &sum) { return sum.second == 0; });
-}
 
 /// What is read of a budget that was written by the real storage.
 BudgetStorage::Data throughFile(const QString &path, const BudgetStorage::Data &data)
@@ -93,61 +73,8 @@ void NavigatorStates::initTestCase()
 void NavigatorStates::staysWhole_data()
 {
     QTest::addColumn<Request>("prepare");
-    const auto addBill = [](Navigator &n) {
-        const auto bill = item<budgeting::Bill>("Gas");
-        n.onAdded(element(), toBudgetItemTypes(bill), bill, {}, tagged(bill));
-    };
-    const auto addAtBank = [](Navigator &n, const budgeting::BudgetedMoney &item,
-                              BankAccountTypes kind) {
-        n.onAdded(element(), toBudgetItemTypes(item), item,
-                  banking::BankAccount{bankName("First"), {no(1), kind}}, tagged(item));
-    };
-    const std::vector<std::pair<const char *, Request>> states{
-        {"empty", [](Navigator &n) { n.clear(); }},
-        {"new with changes", [=](Navigator &n) { n.clear(), addBill(n); }},
-        {"open", [](Navigator &) {}},
-        {"open with changes", addBill},
-        {"bank closed",
-         [](Navigator &n) {
-             n.onBankAdded(banking::Bank(bankName("Prime"), {}, false));
-             n.onBankClosed(bankName("Prime"));
-         }},
-        {"account reconciled",
-         [](Navigator &n) { n.onMarkReconciled(txn(1)), n.onMarkReconciled(txn(2)); }},
-        {"goal under a bank account",
-         [=](Navigator &n) {
-             addAtBank(n, item<budgeting::Goal>("Trip"), BankAccountTypes::Checking);
-         }},
-        {"debt at a bank",
-         [=](Navigator &n) { addAtBank(n, item<budgeting::Debt>("Car"), BankAccountTypes::Loan); }},
-        {"two currencies",
-         [](Navigator &n) {
-             n.onAddedBankAccount(QStringLiteral("Card"), BankAccountTypes::Cash,
-                                  money("EUR", "50"));
-         }},
-        {"full",
-         [](Navigator &n) {
-             for (int i = 3; i < 65535; ++i)
-                 n.onAddedTransaction(transfer(no(8), no(1), usd("0.01")));
-         }},
-        {"wizard's",
-         [](Navigator &n) {
-             n.onCompletedNewBudgetFirstTimeWizard(
-                 numira::toCurrency("USD"), {numira::toCurrency("USD")},
-                 navigation::CurrencyDisplayOptions::Symbol, bankName("First"),
-                 BankAccountTypes::Checking, QStringLiteral("Checking"), usd("100"),
-                 navigation::BudgetWizardTemplates::AdultMarriedDoubleIncome);
-         }},
-        {"after a failed load",
-         [](Navigator &n) {
-             try {
-                 n.onConfirmedLoadBudgetFile(QStringLiteral("gone"), false);
-             } catch (const storage::StorageError &) {
-             }
-         }},
-    };
-    for (const auto &[name, prepare] : states)
-        QTest::newRow(name) << prepare;
+    for (const auto &[name, prepare] : allStates())
+        QTest::newRow(name.constData()) << prepare;
 }
 
 void NavigatorStates::staysWhole()
@@ -160,18 +87,27 @@ void NavigatorStates::staysWhole()
     const BudgetStorage::Data data = preparing.save();
     QVERIFY(isBalanced(data.generalLedger));
     QVERIFY(throughFile(m_folder.filePath(home), data) == data);
+    // Filling a ledger takes long; read again, it is as full.
+    const bool isFull = data.generalLedger.transactionCount() > 1000;
 
     for (const auto &row : requests) {
         m_settings.reset();
         Desk desk;
-        desk.disk->files.insert_or_assign(home, data);
-        desk.navigator->onLoadBudgetFile(home);
+        if (isFull) {
+            desk.disk->files.insert_or_assign(home, data);
+            desk.navigator->onLoadBudgetFile(home);
+        } else {
+            desk.furnish();
+            prepare(*desk.navigator);
+        }
         (void)desk.take();
+        const bool wasChanged = desk.isChanged();
         make(desk, row);
         const QString said = desk.take().join(u'\n');
         if (row.first.startsWith("file: "))
             continue;
-        QVERIFY2(desk.isChanged() == said.contains(QStringLiteral(" *")), row.first.constData());
+        QVERIFY2(desk.isChanged() == (wasChanged || said.contains(QStringLiteral(" *"))),
+                 row.first.constData());
         if (desk.isChanged())
             QVERIFY2(isBalanced(desk.save().generalLedger), row.first.constData());
     }

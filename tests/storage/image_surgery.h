@@ -24,9 +24,8 @@ inline void operate(const QString &path, std::span<const char *const> sql)
 
 /// Makes the checksum right again for whatever stands in the tables, as far as
 /// they are tables.
-inline void sealAgain(const QString &path)
+inline void sealAgain(SQLite::Database &database)
 {
-    SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
     storage::internal::Seal seal(storage::internal::currentVersion);
     const auto tables = storage::internal::tablesOf(storage::internal::currentVersion);
     for (const auto &table : tables.first(storage::internal::sealedTables)) {
@@ -51,6 +50,12 @@ inline void sealAgain(const QString &path)
     SQLite::Statement update(database, "UPDATE seal SET sha256 = ?");
     update.bind(1, seal.result().toStdString());
     update.exec();
+}
+
+inline void sealAgain(const QString &path)
+{
+    SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+    sealAgain(database);
 }
 
 } // namespace kiv::test

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/fault.h"
+
 #include "storage/budget_storage.h"
 #include "storage/exchange_rates_storage.h"
 #include "storage/storage_error.h"
@@ -30,6 +32,8 @@ public:
     [[nodiscard]] Data load() override
     {
         const QString path = std::exchange(m_chosen, m_open);
+        fault.pass("load budget");
+        const Unwatched aside;
         m_disk->before(QStringLiteral("load budget"));
         const auto found = m_disk->files.find(path);
         if (found == m_disk->files.end()) {
@@ -42,6 +46,8 @@ public:
     void store(const Data &data) override
     {
         const QString path = std::exchange(m_chosen, m_open);
+        fault.pass("store budget");
+        const Unwatched aside;
         m_disk->before(QStringLiteral("store budget"));
         m_disk->files.insert_or_assign(path, data);
         m_chosen = m_open = path;
@@ -61,11 +67,15 @@ public:
     [[nodiscard]] bool exists() const override { return m_disk->rates.has_value(); }
     [[nodiscard]] conversion::ConversionMap load() const override
     {
+        fault.pass("load rates");
+        const Unwatched aside;
         m_disk->before(QStringLiteral("load rates"));
         return m_disk->rates.value();
     }
     void store(const conversion::ConversionMap &rates) override
     {
+        fault.pass("store rates");
+        const Unwatched aside;
         m_disk->before(QStringLiteral("store rates"));
         m_disk->rates = rates;
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/fault.h"
+
 #include "networking/request_sender.h"
 
 #include <QtCore/QList>
@@ -43,6 +45,7 @@ public:
 
     void send(kiv::networking::RequestNumber request, const QUrl &url) override
     {
+        kiv::test::fault.pass("send");
         m_record->sent.append(url);
         if (const auto response = m_script(url))
             emit answered(request, *response);

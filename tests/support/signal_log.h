@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/fault.h"
+
 #include <QtCore/QDebug>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QObject>
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
+#include <QtCore/QVariant>
 
 #include <functional>
 #include <utility>
@@ -47,6 +50,9 @@ public:
     /// What was recorded since the last call.
     [[nodiscard]] QStringList take() { return std::exchange(m_entries, {}); }
 
+    /// The arguments themselves, for each signal, since the last call.
+    [[nodiscard]] QList<QVariantList> takeValues() { return std::exchange(m_values, {}); }
+
     // What Q_OBJECT would declare; here every signal of the other object is
     // a slot of this one.
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override
@@ -63,17 +69,22 @@ private:
 
     void record(const QMetaMethod &method, void **arguments)
     {
+        const Unwatched aside;
         const QString name = QString::fromLatin1(method.name());
         if (m_ignored.contains(name))
             return;
         QStringList texts;
+        QVariantList values;
         for (int i = 0; i < method.parameterCount(); ++i) {
+            QMetaType type = method.parameterMetaType(i);
             QString text;
             QDebug stream(&text);
-            if (!method.parameterMetaType(i).debugStream(stream.nospace(), arguments[i + 1]))
+            if (!type.debugStream(stream.nospace(), arguments[i + 1]))
                 text = QStringLiteral("<no debug text>");
             texts.append(text);
+            values.append(QVariant(type, arguments[i + 1]));
         }
+        m_values.append(values);
         const qsizetype place = m_entries.size();
         m_entries.append(QStringLiteral("%1(%2)").arg(name, texts.join(QStringLiteral(", "))));
         if (m_annotation) {
@@ -85,6 +96,7 @@ private:
 
     const QMetaObject *m_meta;
     QStringList m_entries;
+    QList<QVariantList> m_values;
     QSet<QString> m_ignored;
     std::function<QString(const QString &)> m_annotation;
 };
