@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/user_preferences.h"
 
+#include "navigation/internal/logging.h"
+
 #include "foundation/presentation.h"
-#include "foundation/streams.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QLocale>
@@ -40,12 +41,6 @@ std::unique_ptr<QSettings> makeStore(const std::optional<std::filesystem::path> 
     if (!file)
         return std::make_unique<QSettings>();
     return std::make_unique<QSettings>(QString::fromStdString(file->string()), QString());
-}
-
-/// Logs the warning and, behind it, why the text was not understood.
-void warn(const char *warning, const std::exception &reason)
-{
-    qWarning() << warning << foundation::escapedUtf8(QString::fromUtf8(reason.what())).c_str();
 }
 
 /// What `parse` makes of the key's value; `fallback` and a warning when it
@@ -163,7 +158,8 @@ CurrencyDisplayOptions UserPreferences::currenciesDisplayAs() const
         return toCurrencyDisplayOptions(
             m_store->value(internal::currenciesDisplayAsKey).toString());
     } catch (const std::exception &error) {
-        warn("The 'currencies display as' failed to be converted, using default instead.", error);
+        internal::logWarning(
+            "The 'currencies display as' failed to be converted, using default instead.", error);
         return CurrencyDisplayOptions::IsoCode;
     }
 }
@@ -180,7 +176,8 @@ numira::Currency UserPreferences::preferredCurrency() const
             return toCurrency(QLocale().currencySymbol(QLocale::CurrencyIsoCode));
         return toCurrency(m_store->value(internal::currenciesPreferredKey).toString());
     } catch (const std::exception &error) {
-        warn("The 'preferred currency' failed to be converted, using default instead.", error);
+        internal::logWarning(
+            "The 'preferred currency' failed to be converted, using default instead.", error);
         return currencyOfLastResort();
     }
 }
@@ -204,7 +201,8 @@ std::set<numira::Currency> UserPreferences::usableCurrencies() const
             currencies.insert(toCurrency(code));
         return currencies;
     } catch (const std::exception &error) {
-        warn("The 'usable currencies' failed to be converted, using default instead.", error);
+        internal::logWarning(
+            "The 'usable currencies' failed to be converted, using default instead.", error);
         return {preferredCurrency()};
     }
 }

@@ -60,7 +60,7 @@ BudgetLedgers::lookUpAccountCode(const BudgetItemIdentifier &id) const
             id.type, faults::itemTypeIsUnknown(id.type).what(),
             [&]<typename T>(std::type_identity<T>) { return budgetAccountCode<T>(id.source); });
     } catch (const foundation::Error &error) {
-        qWarning() << logText(error).constData();
+        qWarning() << logText(error).c_str();
         return std::nullopt;
     }
 }

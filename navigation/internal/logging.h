@@ -9,15 +9,15 @@ namespace kiv::navigation::internal {
 
 /// An error's text for the log. It may hold names that a file brought, and a
 /// terminal must not obey them.
-inline QByteArray logText(const std::exception &error)
+inline std::string logText(const std::exception &error)
 {
-    return foundation::escaped(QString::fromUtf8(error.what())).toUtf8();
+    return foundation::escapedUtf8(QString::fromUtf8(error.what()));
 }
 
 /// Writes a warning: a fixed sentence, and the error's text.
 inline void logWarning(const char *sentence, const std::exception &error)
 {
-    qWarning() << sentence << logText(error).constData();
+    qWarning() << sentence << logText(error).c_str();
 }
 
 } // namespace kiv::navigation::internal
