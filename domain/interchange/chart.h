@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/export.h"
+
+#include "numira/money.h"
+
+#include <QtCore/QStringList>
+
+#include <vector>
+
+namespace kiv::interchange {
+
+/// One row of values, one for each label of its chart.
+struct ChartSeries {
+    QString name;
+    std::vector<numira::Money> values;
+};
+
+enum class ChartKind { Bars, Line };
+
+/// Amounts of one currency over labels such as months.
+struct Chart {
+    ChartKind kind = ChartKind::Bars;
+    QString title;
+    /// What the chart shows, in a sentence for those who cannot see it.
+    QString description;
+    QStringList labels;
+    std::vector<ChartSeries> series; ///< up to three
+};
+
+/// Round numbers on both sides of which all values lie, zero among them, from
+/// the lowest to the highest; at least two.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<numira::Decimal> axisTicks(const Chart &chart);
+
+/// The chart as an SVG element for an HTML page, with a title and a
+/// description that screen readers tell. `id` must be unique on the page.
+/// Nothing in it is taken from names without being escaped.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString toSvg(const Chart &chart, const QString &id);
+
+} // namespace kiv::interchange

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/statement.h"
+#include "interchange/written_values.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QStringList>
+
+namespace kiv::interchange {
+
+/// Sends what a statement says about to an account: the other side of entries
+/// whose text holds `contains`, in any case.
+struct AccountRule {
+    QString contains;
+    QString account;
+
+    friend bool operator==(const AccountRule &, const AccountRule &) = default;
+};
+
+/// How a bank writes its statements as CSV, and where their entries go.
+///
+/// A column is named by its heading, or by its number from 1. Without the
+/// column of amounts, money that came in and money that went out stand in two;
+/// with a column of signs, an entry counts as negative when that cell is among
+/// the negative signs.
+struct CsvProfile {
+    QString encoding = QStringLiteral("UTF-8");
+    std::optional<QChar> delimiter = std::nullopt; ///< the line's most frequent otherwise
+    int skippedLines = 0;                          ///< above the headings
+    bool hasHeadings = true;
+    QString dateColumn = {};
+    QString amountColumn = {};
+    QString inColumn = {};
+    QString outColumn = {};
+    QString signColumn = {};
+    QStringList negativeSigns = {};
+    QStringList textColumns = {};
+    QString idColumn = {};
+    QString currencyColumn = {};
+    DateFormat dateFormat = {};
+    std::optional<DecimalMark> decimalMark = std::nullopt;
+    bool isNegated = false; ///< what went out is positive
+    std::vector<AccountRule> rules = {};
+};
+
+/// Reads a profile from the JSON object that toJson writes; what is left out
+/// has its default. Throws ImportError for anything else, unknown keys too.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT CsvProfile readProfile(const QByteArray &json,
+                                                            const QString &file);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toJson(const CsvProfile &profile);
+
+/// Reads a bank statement. Columns that the profile does not name are found by
+/// common headings in English, German and Spanish. The amounts are in
+/// `currency` where the table does not tell.
+///
+/// Throws ImportError with the line of what it cannot read.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readCsvStatement(const QByteArray &bytes,
+                                                                const QString &file,
+                                                                const CsvProfile &profile,
+                                                                const numira::Currency &currency);
+
+} // namespace kiv::interchange

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/csv_profile.h"
+#include "interchange/csv_table.h"
+#include "interchange/draft.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
+
+namespace kiv::interchange {
+
+namespace {
+
+/// Headings by which banks call the columns, in lower case.
+const QStringList dateHeadings{QStringLiteral("date"),
+                               QStringLiteral("booking date"),
+                               QStringLiteral("transaction date"),
+                               QStringLiteral("posting date"),
+                               QStringLiteral("buchungstag"),
+                               QStringLiteral("buchungsdatum"),
+                               QStringLiteral("datum"),
+                               QStringLiteral("fecha"),
+                               QStringLiteral("fecha operación")};
+const QStringList amountHeadings{QStringLiteral("amount"), QStringLiteral("betrag"),
+                                 QStringLiteral("umsatz"), QStringLiteral("importe"),
+                                 QStringLiteral("cantidad")};
+const QStringList textHeadings{QStringLiteral("description"),
+                               QStringLiteral("memo"),
+                               QStringLiteral("payee"),
+                               QStringLiteral("details"),
+                               QStringLiteral("verwendungszweck"),
+                               QStringLiteral("buchungstext"),
+                               QStringLiteral("text"),
+                               QStringLiteral("concepto"),
+                               QStringLiteral("descripción")};
+const QStringList idHeadings{QStringLiteral("fitid"), QStringLiteral("transaction id"),
+                             QStringLiteral("reference"), QStringLiteral("referenz")};
+
+class StatementReader {
+public:
+    StatementReader(const CsvProfile &profile, numira::Currency currency)
+        : m_profile(profile), m_currency(currency)
+    {
+    }
+
+    Statement read(const QString &text, const QString &file)
+    {
+        std::vector<CsvRecord> records = recordsOf(text, file);
+        if (records.empty())
+            throw faults::noStatement({file, 0});
+        setHeadings(records.front());
+        Statement statement{{}, m_currency, {}};
+        for (auto record = records.begin() + (m_profile.hasHeadings ? 1 : 0);
+             record != records.end(); ++record) {
+            if (static_cast<qsizetype>(statement.entries.size()) >= transactionsMax)
+                throw faults::tooManyTransactions(record->place, transactionsMax);
+            statement.entries.push_back(entryOf(*record));
+        }
+        return statement;
+    }
+
+private:
+    [[nodiscard]] std::vector<CsvRecord> recordsOf(const QString &text, const QString &file) const
+    {
+        LineCursor lines(text, file);
+        qsizetype skipped = 0;
+        for (int line = 0; line < m_profile.skippedLines && lines.next(); ++line)
+            skipped = lines.offset();
+        const QString rest = text.mid(skipped);
+        const QStringView first = lines.next() ? lines.line() : QStringView();
+        std::vector<CsvRecord> records =
+            readCsvTable(rest, file, m_profile.delimiter.value_or(guessDelimiter(first)));
+        for (CsvRecord &record : records)
+            record.place.line += m_profile.skippedLines;
+        return records;
+    }
+
+    void setHeadings(const CsvRecord &first)
+    {
+        for (const QString &cell : first.cells)
+            m_headings +=
+                m_profile.hasHeadings ? cell.trimmed() : QString::number(m_headings.size() + 1);
+        if (m_headings.contains(QStringLiteral("debitAccount")))
+            throw faults::ownTable(first.place);
+        const Place &place = first.place;
+        m_date = need(m_profile.dateColumn, dateHeadings, "--date-column", place);
+        const bool hasTwo = !m_profile.inColumn.isEmpty() || !m_profile.outColumn.isEmpty();
+        m_in = find(m_profile.inColumn, {}, place);
+        m_out = find(m_profile.outColumn, {}, place);
+        if (!hasTwo)
+            m_amount = need(m_profile.amountColumn, amountHeadings, "--amount-column", place);
+        m_sign = find(m_profile.signColumn, {}, place);
+        m_id = find(m_profile.idColumn, idHeadings, place);
+        m_currencyAt = find(m_profile.currencyColumn, {}, place);
+        for (const QString &column : m_profile.textColumns)
+            m_texts.push_back(need(column, {}, "--text-column", place));
+        if (m_texts.empty())
+            m_texts.push_back(need({}, textHeadings, "--text-column", place));
+        for (const auto &column : {m_amount, m_in, m_out, m_sign, m_currencyAt})
+            m_needed = std::max(m_needed, column.value_or(0) + 1);
+        m_needed = std::max(m_needed, m_date + 1);
+    }
+
+    [[nodiscard]] std::optional<qsizetype> find(const QString &column, const QStringList &headings,
+                                                const Place &place) const
+    {
+        if (column.isEmpty()) {
+            for (const QString &heading : headings) {
+                const auto same = [&heading](const QString &present) {
+                    return present.compare(heading, Qt::CaseInsensitive) == 0;
+                };
+                const auto at = std::ranges::find_if(m_headings, same);
+                if (at != m_headings.end())
+                    return at - m_headings.begin();
+            }
+            return std::nullopt;
+        }
+        bool isNumber = false;
+        const qsizetype number = column.toInt(&isNumber);
+        qsizetype at = m_headings.indexOf(column);
+        if (at < 0 && isNumber && number >= 1 && number <= m_headings.size())
+            at = number - 1;
+        if (at < 0)
+            throw faults::noSuchColumn(place, column, m_headings);
+        return at;
+    }
+    [[nodiscard]] qsizetype need(const QString &column, const QStringList &headings,
+                                 const char *option, const Place &place) const
+    {
+        const auto found = find(column, headings, place);
+        if (!found)
+            throw faults::columnNotNamed(place, QLatin1String(option), m_headings);
+        return *found;
+    }
+
+    [[nodiscard]] StatementEntry entryOf(const CsvRecord &record) const
+    {
+        if (record.cells.size() < m_needed)
+            throw faults::tooFewCells(record.place, record.cells.size(), m_needed);
+        StatementEntry entry{record.place};
+        QString date = record.cells[m_date].trimmed();
+        // The time of the day stands behind it in some.
+        if (!m_profile.dateFormat.text().contains(u' '))
+            date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
+        const auto day = m_profile.dateFormat.read(date);
+        if (!day)
+            throw faults::notADate(record.place, date, m_profile.dateFormat.text());
+        entry.date = *day;
+        entry.amount = amountOf(record);
+        QStringList texts;
+        for (const qsizetype column : m_texts)
+            texts += record.cells.value(column).simplified();
+        texts.removeAll(QString());
+        entry.text = texts.join(u' ');
+        if (m_id)
+            entry.bankId = record.cells.value(*m_id).simplified();
+        return entry;
+    }
+
+    [[nodiscard]] numira::Money amountOf(const CsvRecord &record) const
+    {
+        const Place &place = record.place;
+        numira::Currency currency = m_currency;
+        if (m_currencyAt) {
+            const QString code = record.cells[*m_currencyAt].trimmed();
+            const auto read = readCurrency(code, m_currency);
+            if (!read)
+                throw faults::notACurrency(place, code);
+            currency = *read;
+        }
+        const auto cell = [&](const std::optional<qsizetype> &column) {
+            return column ? record.cells[*column].trimmed() : QString();
+        };
+        const auto read = [&](const QString &text) {
+            return statementAmount(withoutCurrency(text, currency), currency, m_profile.decimalMark,
+                                   place);
+        };
+        numira::Money amount;
+        if (m_amount) {
+            amount = read(cell(m_amount));
+        } else {
+            const numira::Money in =
+                cell(m_in).isEmpty() ? numira::Money(currency) : read(cell(m_in));
+            const numira::Money out =
+                cell(m_out).isEmpty() ? numira::Money(currency) : read(cell(m_out)).abs();
+            if (!in.isZero() && !out.isZero())
+                throw faults::bothWays(place);
+            if (cell(m_in).isEmpty() && cell(m_out).isEmpty())
+                throw faults::missingValue(place, QObject::tr("amount"));
+            amount = out.isZero() ? in : -out;
+        }
+        if (m_sign && m_profile.negativeSigns.contains(cell(m_sign)))
+            amount = -amount.abs();
+        return m_profile.isNegated ? -amount : amount;
+    }
+
+    /// The number alone, where its own currency stands beside it.
+    static QString withoutCurrency(QString text, const numira::Currency &currency)
+    {
+        QStringList names{foundation::toQString(currency)};
+        if (const auto sign = numira::currencySymbol(currency))
+            names += QString::fromStdString(*sign);
+        for (const QString &name : names)
+            text.remove(name);
+        return text.trimmed();
+    }
+
+    const CsvProfile &m_profile;
+    numira::Currency m_currency;
+    QStringList m_headings;
+    qsizetype m_date = 0;
+    qsizetype m_needed = 1;
+    std::optional<qsizetype> m_amount;
+    std::optional<qsizetype> m_in;
+    std::optional<qsizetype> m_out;
+    std::optional<qsizetype> m_sign;
+    std::optional<qsizetype> m_id;
+    std::optional<qsizetype> m_currencyAt;
+    std::vector<qsizetype> m_texts;
+};
+
+} // namespace
+
+Statement readCsvStatement(const QByteArray &bytes, const QString &file, const CsvProfile &profile,
+                           const numira::Currency &currency)
+{
+    return StatementReader(profile, currency).read(decoded(bytes, file, profile.encoding), file);
+}
+
+} // namespace kiv::interchange

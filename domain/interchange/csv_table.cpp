@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/csv_table.h"
+
+#include "interchange/draft.h"
+
+#include "foundation/streams.h"
+
+namespace kiv::interchange {
+
+namespace {
+
+class CsvReader {
+public:
+    CsvReader(const QString &text, const QString &file, QChar delimiter)
+        : m_text(text), m_file(file), m_delimiter(delimiter)
+    {
+    }
+
+    std::vector<CsvRecord> read()
+    {
+        std::vector<CsvRecord> records;
+        while (m_at < m_text.size()) {
+            CsvRecord record{{m_file, m_line}, {}};
+            do {
+                record.cells += m_at < m_text.size() && m_text[m_at] == u'"' ? quoted() : plain();
+            } while (takeDelimiter());
+            takeLineEnd();
+            if (record.cells != QStringList{QString()})
+                records.push_back(std::move(record));
+            // A header and a few lines above it are no transactions.
+            if (static_cast<qsizetype>(records.size()) > transactionsMax + 100)
+                throw faults::tooManyTransactions(records.back().place, transactionsMax);
+        }
+        return records;
+    }
+
+private:
+    [[nodiscard]] bool isAtEnd() const
+    {
+        return m_at >= m_text.size() || m_text[m_at] == u'\n' || m_text[m_at] == u'\r';
+    }
+
+    QString plain()
+    {
+        const qsizetype begin = m_at;
+        while (!isAtEnd() && m_text[m_at] != m_delimiter)
+            ++m_at;
+        return m_text.mid(begin, m_at - begin);
+    }
+
+    QString quoted()
+    {
+        const Place opened{m_file, m_line};
+        QString cell;
+        for (++m_at; m_at < m_text.size(); ++m_at) {
+            if (m_text[m_at] == u'"') {
+                ++m_at;
+                if (m_at >= m_text.size() || m_text[m_at] != u'"')
+                    break;
+            } else if (m_text[m_at] == u'\n') {
+                ++m_line;
+            }
+            cell += m_text[m_at];
+        }
+        if (m_at >= m_text.size() && (m_text.back() != u'"' || m_at > m_text.size()))
+            throw faults::quoteNotClosed(opened);
+        if (!isAtEnd() && m_text[m_at] != m_delimiter)
+            throw faults::textBehindQuote({m_file, m_line});
+        return cell;
+    }
+
+    bool takeDelimiter()
+    {
+        if (isAtEnd() || m_text[m_at] != m_delimiter)
+            return false;
+        ++m_at;
+        return true;
+    }
+
+    void takeLineEnd()
+    {
+        if (m_at < m_text.size() && m_text[m_at] == u'\r')
+            ++m_at;
+        if (m_at < m_text.size() && m_text[m_at] == u'\n')
+            ++m_at;
+        ++m_line;
+    }
+
+    const QString &m_text;
+    const QString &m_file;
+    QChar m_delimiter;
+    qsizetype m_at = 0;
+    qsizetype m_line = 1;
+};
+
+} // namespace
+
+std::vector<CsvRecord> readCsvTable(const QString &text, const QString &file, QChar delimiter)
+{
+    return CsvReader(text, file, delimiter).read();
+}
+
+QChar guessDelimiter(QStringView line)
+{
+    QChar best = u',';
+    qsizetype most = 0;
+    for (const QChar candidate : QStringLiteral(",;\t|")) {
+        qsizetype count = 0;
+        bool isQuoted = false;
+        for (const QChar character : line) {
+            if (character == u'"')
+                isQuoted = !isQuoted;
+            count += !isQuoted && character == candidate ? 1 : 0;
+        }
+        if (count > most) {
+            most = count;
+            best = candidate;
+        }
+    }
+    return best;
+}
+
+QString csvLine(const QStringList &cells)
+{
+    QStringList quoted;
+    for (const QString &text : cells) {
+        QString safe = foundation::escaped(text);
+        if (!safe.isEmpty() && QStringLiteral("=+-@").contains(safe.front()))
+            safe.prepend(u'\'');
+        quoted += u'"' + safe.replace(u'"', QStringLiteral("\"\"")) + u'"';
+    }
+    return quoted.join(u',') + QStringLiteral("\r\n");
+}
+
+} // namespace kiv::interchange

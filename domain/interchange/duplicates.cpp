@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/duplicates.h"
+
+#include "foundation/presentation.h"
+#include "foundation/streams.h"
+
+namespace kiv::interchange {
+
+using accounting::AccountNumber;
+using accounting::Transaction;
+
+namespace {
+
+const QString opening = QStringLiteral(" [id ");
+
+/// Where the identifier's bracket begins, with the blank before it; -1 when
+/// there is none.
+qsizetype idBegin(const QString &description)
+{
+    return description.endsWith(u']') ? description.lastIndexOf(opening) : -1;
+}
+
+bool takeOne(std::map<QString, int> &counts, const QString &key)
+{
+    const auto found = counts.find(key);
+    if (found == counts.end())
+        return false;
+    if (--found->second == 0)
+        counts.erase(found);
+    return true;
+}
+
+} // namespace
+
+QString withBankId(const QString &text, const QString &bankId)
+{
+    QString id = foundation::escaped(bankId.simplified());
+    id.remove(u'[').remove(u']');
+    return id.isEmpty() ? text : text + opening + id + u']';
+}
+
+QString bankIdOf(const QString &description)
+{
+    const qsizetype at = idBegin(description);
+    return at < 0
+               ? QString()
+               : description.mid(at + opening.size(), description.size() - at - opening.size() - 1);
+}
+
+Duplicates::Duplicates(const std::vector<Transaction> &present,
+                       std::optional<AccountNumber> account)
+    : m_account(account)
+{
+    for (const Transaction &transaction : present) {
+        if (!isLookedAt(transaction))
+            continue;
+        const QString id = idKey(transaction);
+        if (!id.isEmpty())
+            m_ids.insert(id);
+        ++(id.isEmpty() ? m_withoutId : m_withId)[contentKey(transaction)];
+    }
+}
+
+bool Duplicates::take(const Transaction &transaction)
+{
+    const QString id = idKey(transaction);
+    const QString content = contentKey(transaction);
+    if (!id.isEmpty())
+        return !m_ids.insert(id).second || takeOne(m_withoutId, content);
+    return takeOne(m_withoutId, content) || takeOne(m_withId, content);
+}
+
+bool Duplicates::isLookedAt(const Transaction &transaction) const
+{
+    return !m_account || transaction.involves(*m_account);
+}
+
+QString Duplicates::amountKey(const Transaction &transaction) const
+{
+    const numira::Money &amount =
+        m_account ? transaction.amountFor(*m_account) : transaction.amount();
+    const QString text =
+        foundation::toQString(amount) + u' ' + foundation::toQString(amount.code());
+    return m_account ? (transaction.debiting().number() == *m_account ? u'+' : u'-') + text
+                     : QStringLiteral("%1<%2 ").arg(
+                           accounting::presentationText(transaction.debiting().number()),
+                           accounting::presentationText(transaction.crediting().number())) +
+                           text;
+}
+
+QString Duplicates::contentKey(const Transaction &transaction) const
+{
+    QString text = transaction.description().value_or(QString());
+    if (const qsizetype at = idBegin(text); at >= 0)
+        text.truncate(at);
+    // A journal has no semicolons in descriptions.
+    text = text.replace(u';', u',').simplified().toCaseFolded();
+    return transaction.occurredOn().toString(Qt::ISODate) + amountKey(transaction) + u'\n' + text;
+}
+
+QString Duplicates::idKey(const Transaction &transaction) const
+{
+    const QString id = bankIdOf(transaction.description().value_or(QString()));
+    return id.isEmpty() ? id : amountKey(transaction) + u'\n' + id;
+}
+
+} // namespace kiv::interchange

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/export.h"
+
+#include "accounting/transaction.h"
+
+#include <map>
+#include <set>
+#include <vector>
+
+namespace kiv::interchange {
+
+/// A description with the bank's identifier of the transaction at its end:
+/// "Bakery [id 2026-0815]". Without an identifier it is the text alone.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString withBankId(const QString &text, const QString &bankId);
+/// The identifier that a description ends with; empty when there is none.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString bankIdOf(const QString &description);
+
+/// Knows the transactions of a ledger, and finds out whether one that is to be
+/// imported is there already.
+///
+/// By the bank's identifier, when both have one: it is the same transaction if
+/// its amount is the same too. Otherwise by day, amount and text; as many are
+/// known as there are, so that two coffees on one day are two. An account that
+/// is being looked at alone has its other sides left out of the comparison,
+/// since the household may have moved them.
+class KIV_INTERCHANGE_EXPORT Duplicates {
+public:
+    explicit Duplicates(const std::vector<accounting::Transaction> &present,
+                        std::optional<accounting::AccountNumber> account = std::nullopt);
+
+    /// Whether the transaction is a duplicate; it counts as present afterwards.
+    [[nodiscard]] bool take(const accounting::Transaction &transaction);
+
+private:
+    [[nodiscard]] bool isLookedAt(const accounting::Transaction &transaction) const;
+    [[nodiscard]] QString amountKey(const accounting::Transaction &transaction) const;
+    [[nodiscard]] QString contentKey(const accounting::Transaction &transaction) const;
+    [[nodiscard]] QString idKey(const accounting::Transaction &transaction) const;
+
+    std::optional<accounting::AccountNumber> m_account;
+    std::set<QString> m_ids;
+    std::map<QString, int> m_withId;
+    std::map<QString, int> m_withoutId;
+};
+
+} // namespace kiv::interchange

@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/errors.h"
+
+#include "foundation/streams.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::interchange {
+
+namespace {
+
+QString sentence(const Place &place, const QString &reason)
+{
+    return place.line > 0 ? QObject::tr("'%1', line %2: %3")
+                                .arg(place.file, QString::number(place.line), reason)
+                          : QObject::tr("'%1': %2").arg(place.file, reason);
+}
+
+/// What stands in the file, as far as a sentence has room for it.
+QString quoted(const QString &text)
+{
+    constexpr qsizetype shownMax = 60;
+    return foundation::escaped(text.size() > shownMax ? text.left(shownMax) + QChar(0x2026) : text);
+}
+
+QString listed(const QStringList &texts)
+{
+    QStringList shown;
+    for (const QString &text : texts)
+        shown += quoted(text);
+    return shown.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+ImportError::ImportError(Place place, const QString &reason, const std::exception &cause)
+    : foundation::Error(sentence(place, reason), cause), m_place(std::move(place))
+{
+}
+
+ImportError::ImportError(const ImportError &) noexcept = default;
+ImportError::~ImportError() = default;
+
+namespace faults {
+
+// ---- any file ----------------------------------------------------------------
+
+ImportError unknownEncoding(const Place &place, const QString &encoding)
+{
+    return {place, QObject::tr("'%1' is no encoding that is known.").arg(quoted(encoding))};
+}
+
+ImportError wrongEncoding(const Place &place, const QString &encoding)
+{
+    return {place, QObject::tr("This is not valid %1; name the file's encoding with --encoding.")
+                       .arg(quoted(encoding))};
+}
+
+ImportError binaryFile(const Place &place)
+{
+    return {place, QObject::tr("This is not text.")};
+}
+
+ImportError lineTooLong(const Place &place, qsizetype charactersMax)
+{
+    return {place, QObject::tr("The line has more than %1 characters.").arg(charactersMax)};
+}
+
+ImportError tooManyTransactions(const Place &place, qsizetype most)
+{
+    return {place, QObject::tr("A budget holds no more than %1 transactions.").arg(most)};
+}
+
+ImportError notADate(const Place &place, const QString &text, const QString &format)
+{
+    return {place, QObject::tr("'%1' is not a day written as %2.").arg(quoted(text), format)};
+}
+
+ImportError notANumber(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' is not a number.").arg(quoted(text))};
+}
+
+ImportError ambiguousNumber(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' can be read in two ways; name the decimal mark with "
+                               "--decimal.")
+                       .arg(quoted(text))};
+}
+
+ImportError tooLarge(const Place &place, const std::exception &cause)
+{
+    return {place, QObject::tr("The amounts here cannot be kept exactly."), cause};
+}
+
+ImportError tooManyDigits(const Place &place, const QString &text, const QString &currency,
+                          unsigned digitsMax)
+{
+    return {place, QObject::tr("'%1' has more digits behind the decimal mark than the %2 of %3.")
+                       .arg(quoted(text), QString::number(digitsMax), currency)};
+}
+
+ImportError notACurrency(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' is not the ISO 4217 code of a currency.").arg(quoted(text))};
+}
+
+// ---- journals ----------------------------------------------------------------
+
+ImportError unknownDirective(const Place &place, const QString &text)
+{
+    return {place,
+            QObject::tr("'%1' is neither a transaction nor a directive that can be imported.")
+                .arg(quoted(text))};
+}
+
+ImportError unsupported(const Place &place, const QString &what)
+{
+    return {place, QObject::tr("'%1' cannot be imported.").arg(quoted(what))};
+}
+
+ImportError strayLine(const Place &place)
+{
+    return {place, QObject::tr("The line is indented, but there is nothing that it belongs to.")};
+}
+
+ImportError notClosed(const Place &place, const QString &what)
+{
+    return {place, QObject::tr("'%1' begins here and does not end.").arg(quoted(what))};
+}
+
+ImportError unknownRoot(const Place &place, const QString &root)
+{
+    return {place,
+            QObject::tr("Accounts begin with Assets, Liabilities, Equity, Income or Expenses; "
+                        "tell what '%1' is with --root, like --root '%1=asset'.")
+                .arg(quoted(root))};
+}
+
+ImportError noAccount(const Place &place)
+{
+    return {place, QObject::tr("The name of an account is missing.")};
+}
+
+ImportError notAnAmount(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' is not an amount.").arg(quoted(text))};
+}
+
+ImportError withoutCurrency(const Place &place, const QString &text)
+{
+    return {place,
+            QObject::tr("'%1' has no currency; name one with --currency.").arg(quoted(text))};
+}
+
+ImportError notMoney(const Place &place, const QString &commodity)
+{
+    return {place,
+            QObject::tr("'%1' is not a currency; give its cost behind @, or say which currency "
+                        "it is with --commodity, like --commodity '%1=USD'.")
+                .arg(quoted(commodity))};
+}
+
+ImportError tooFewPostings(const Place &place)
+{
+    return {place, QObject::tr("The transaction has fewer than two postings.")};
+}
+
+ImportError severalWithoutAmount(const Place &place)
+{
+    return {place, QObject::tr("More than one posting of the transaction has no amount.")};
+}
+
+ImportError notBalanced(const Place &place, const QString &rest)
+{
+    return {place, QObject::tr("The transaction does not balance: %1 are left.").arg(rest)};
+}
+
+ImportError assertionFailed(const Place &place, const QString &account, const QString &asserted,
+                            const QString &found)
+{
+    return {place, QObject::tr("The balance of '%1' should be %2 here, and is %3.")
+                       .arg(quoted(account), asserted, found)};
+}
+
+ImportError badPattern(const Place &place, const QString &pattern)
+{
+    return {place, QObject::tr("'%1' is not a pattern of account names.").arg(quoted(pattern))};
+}
+
+ImportError includeRefused(const Place &place, const QString &path, const QString &reason)
+{
+    return {place, QObject::tr("'%1' is not included: %2.").arg(quoted(path), reason)};
+}
+
+// ---- bank statements ---------------------------------------------------------
+
+ImportError quoteNotClosed(const Place &place)
+{
+    return {place, QObject::tr("A quote begins here and does not end.")};
+}
+
+ImportError textBehindQuote(const Place &place)
+{
+    return {place, QObject::tr("There is text between a closing quote and the next delimiter.")};
+}
+
+ImportError noSuchColumn(const Place &place, const QString &column, const QStringList &columns)
+{
+    return {place,
+            QObject::tr("There is no column '%1' among: %2.").arg(quoted(column), listed(columns))};
+}
+
+ImportError columnNotNamed(const Place &place, const QString &option, const QStringList &columns)
+{
+    return {place,
+            QObject::tr("Say with %1 which column it is, of: %2.").arg(option, listed(columns))};
+}
+
+ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted)
+{
+    return {place, QObject::tr("The record has %1 cells where %2 are needed.")
+                       .arg(QString::number(present), QString::number(wanted))};
+}
+
+ImportError ownTable(const Place &place)
+{
+    return {place, QObject::tr("This is the table of a whole ledger, and no bank statement; import "
+                               "the journal instead.")};
+}
+
+ImportError bothWays(const Place &place)
+{
+    return {place, QObject::tr("The record has an amount that came in and one that went out.")};
+}
+
+ImportError missingValue(const Place &place, const QString &what)
+{
+    return {place, QObject::tr("The entry has no %1.").arg(what)};
+}
+
+ImportError ambiguousDates(const Place &place)
+{
+    return {place,
+            QObject::tr("The days can be read in two ways; name the order with --date-format, "
+                        "like MM/DD/YYYY.")};
+}
+
+ImportError otherCurrency(const Place &place, const QString &found, const QString &wanted)
+{
+    return {place, QObject::tr("The amount is in %1, and the account in %2.").arg(found, wanted)};
+}
+
+ImportError badProfile(const Place &place, const QString &reason)
+{
+    return {place, QObject::tr("This is no import profile: %1.").arg(reason)};
+}
+
+// ---- OFX and QIF -------------------------------------------------------------
+
+ImportError notOfx(const Place &place)
+{
+    return {place, QObject::tr("There is no <OFX> in this file.")};
+}
+
+ImportError brokenTag(const Place &place)
+{
+    return {place, QObject::tr("A tag is broken: its name or its '>' is missing.")};
+}
+
+ImportError wrongClosingTag(const Place &place, const QString &closing, const QString &open,
+                            qsizetype openedAt)
+{
+    return {place, QObject::tr("</%1> stands where the <%2> of line %3 should be closed.")
+                       .arg(quoted(closing), quoted(open), QString::number(openedAt))};
+}
+
+ImportError closesNothing(const Place &place, const QString &closing)
+{
+    return {place, QObject::tr("</%1> closes nothing.").arg(quoted(closing))};
+}
+
+ImportError tagNotClosed(const Place &place, const QString &tag)
+{
+    return {place, QObject::tr("<%1> is not closed.").arg(quoted(tag))};
+}
+
+ImportError nestedTooDeeply(const Place &place)
+{
+    return {place, QObject::tr("Tags are nested too deeply.")};
+}
+
+ImportError noStatement(const Place &place)
+{
+    return {place, QObject::tr("There is no statement of a bank account or a credit card.")};
+}
+
+ImportError severalStatements(const Place &place, const QStringList &accounts)
+{
+    return {place, QObject::tr("There are several statements; choose one with --statement: %1.")
+                       .arg(listed(accounts))};
+}
+
+ImportError noSuchStatement(const Place &place, const QString &account, const QStringList &accounts)
+{
+    return {place, QObject::tr("There is no statement of '%1', but of: %2.")
+                       .arg(quoted(account), listed(accounts))};
+}
+
+ImportError notQif(const Place &place)
+{
+    return {place, QObject::tr("The file does not begin with a QIF header like !Type:Bank.")};
+}
+
+ImportError unknownField(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' is no field of a bank statement.").arg(quoted(text))};
+}
+
+ImportError splitsDiffer(const Place &place, const QString &splits, const QString &whole)
+{
+    return {place, QObject::tr("The parts come to %1 and the whole to %2.").arg(splits, whole)};
+}
+
+} // namespace faults
+
+} // namespace kiv::interchange

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/export.h"
+
+#include "accounting/account.h"
+#include "budgeting/budget.h"
+
+#include <QtCore/QStringList>
+
+#include <map>
+#include <set>
+#include <vector>
+
+/// The figures of a report, worked out of a ledger and a budget. All amounts
+/// are exact and stay in their own currencies; none is converted.
+namespace kiv::interchange {
+
+/// The months that a report covers, up to a day within the last one.
+class KIV_INTERCHANGE_EXPORT Period {
+public:
+    static constexpr int monthsMax = 120;
+
+    /// From the month of `from` to the day `to`. Throws foundation::Error when
+    /// that is no month or more than monthsMax, or when a day is invalid.
+    Period(QDate from, QDate to);
+
+    [[nodiscard]] QDate from() const noexcept { return m_from; }
+    [[nodiscard]] QDate to() const noexcept { return m_to; }
+    [[nodiscard]] std::size_t months() const noexcept { return m_months; }
+    /// The day's month from 0 on; negative before the first one. Nothing after
+    /// the last day.
+    [[nodiscard]] std::optional<int> monthOf(QDate day) const noexcept;
+    /// "2026-01".
+    [[nodiscard]] QStringList labels() const;
+
+private:
+    QDate m_from; ///< the first of the month
+    QDate m_to;
+    std::size_t m_months;
+};
+
+/// One account at the period's end.
+struct BalanceFigure {
+    QString path;
+    accounting::AccountTypes type;
+    numira::Money balance;
+};
+
+/// One budget item: what it comes to every month as it is planned now, and what
+/// moved in each month of the period. For bills and non-tracked items that is
+/// what was spent, for wages what was earned, for goals what was put aside, for
+/// debts what was paid back.
+struct ItemFigure {
+    budgeting::BudgetItemTypes kind;
+    QString name;
+    numira::Money planned;
+    std::vector<numira::Money> actual;
+};
+
+/// What one currency comes to, month by month.
+struct CurrencyFigures {
+    std::vector<numira::Money> netWorth; ///< assets less liabilities, at each month's end
+    std::vector<numira::Money> income;
+    std::vector<numira::Money> expenses;
+    numira::Money planned;               ///< all items that money goes out for, every month
+    std::vector<numira::Money> outgoing; ///< what went out for them
+    bool hasItems = false;
+};
+
+struct Figures {
+    Period period;
+    std::vector<BalanceFigure> balances; ///< by path, but for empty accounts
+    std::vector<ItemFigure> items;
+    std::map<numira::Currency, CurrencyFigures> currencies;
+};
+
+/// Works the figures out in one pass over the transactions. Throws what adding
+/// the amounts throws.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Figures figuresOf(
+    const Period &period, const std::set<accounting::Account> &accounts,
+    const std::vector<accounting::Transaction> &transactions, const budgeting::Budget &budget);
+
+} // namespace kiv::interchange

@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/html_report.h"
+
+#include "interchange/internal/html_text.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::interchange {
+
+using accounting::AccountTypes;
+using internal::htmlText;
+using numira::Money;
+
+namespace {
+
+/// Colours that can be told apart by people who see few of them, and in grey.
+const char *const style = R"(
+:root { --ink: #1b2733; --soft: #5a6875; --rule: #d9dfe5; --paper: #ffffff; --band: #f5f7f9;
+  --one: #0b5a8f; --two: #d98410; --three: #3b8f6a; --bad: #b3261e; }
+* { box-sizing: border-box; }
+body { margin: 0 auto; max-width: 60rem; padding: 2.5rem 2rem; color: var(--ink);
+  background: var(--paper); font: 15px/1.5 system-ui, "Segoe UI", "DejaVu Sans", sans-serif; }
+header { border-bottom: 3px solid var(--one); margin-bottom: 2rem; padding-bottom: .8rem; }
+h1 { font-size: 1.9rem; margin: 0; } header p { color: var(--soft); margin: .3rem 0 0; }
+h2 { font-size: 1.3rem; margin: 2.4rem 0 .8rem; } h3 { font-size: 1rem; margin: 1.4rem 0 .4rem; }
+.cards { display: flex; flex-wrap: wrap; gap: 1rem; }
+.card { flex: 1 1 11rem; border: 1px solid var(--rule); border-radius: 8px; padding: .8rem 1rem; }
+.card span { color: var(--soft); display: block; font-size: .85rem; }
+.card strong { font-size: 1.35rem; font-variant-numeric: tabular-nums; }
+figure { margin: 1rem 0 1.6rem; } figcaption { font-weight: 600; margin-bottom: .4rem; }
+.scroll { overflow-x: auto; }
+table { border-collapse: collapse; width: 100%; font-size: .9rem; }
+th, td { padding: .32rem .6rem; text-align: left; border-bottom: 1px solid var(--rule); }
+thead th { border-bottom: 2px solid var(--soft); font-weight: 600; white-space: nowrap; }
+tbody tr:nth-child(even) { background: var(--band); }
+tr.sum td, tr.sum th { border-top: 2px solid var(--soft); font-weight: 600; }
+td.n, th.n { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
+td.over { color: var(--bad); font-weight: 600; } td.minus { color: var(--bad); }
+.note { color: var(--soft); font-size: .85rem; }
+svg { display: block; width: 100%; height: auto; } svg text { font-size: 11px; fill: var(--soft); }
+svg text.name { fill: var(--ink); font-size: 12px; } svg .tick { text-anchor: end; }
+svg .label { text-anchor: middle; } .grid { stroke: var(--rule); } .zero { stroke: var(--soft); }
+.series0 { fill: var(--one); } .series1 { fill: var(--two); } .series2 { fill: var(--three); }
+.line0 { stroke: var(--one); } .line1 { stroke: var(--two); } .line2 { stroke: var(--three); }
+.line0, .line1, .line2 { fill: none; stroke-width: 2.5; stroke-linejoin: round; }
+.area0 { fill: var(--one); opacity: .1; } .area1, .area2 { fill: none; }
+details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
+@media (prefers-color-scheme: dark) { :root { --ink: #e6ebf0; --soft: #9fb0bf; --rule: #33414d;
+  --paper: #14191e; --band: #1a2127; --one: #63b3e4; --two: #f0ad4e; --three: #7fc8a4;
+  --bad: #ff8a80; } }
+@media print { :root { --ink: #000; --soft: #444; --rule: #bbb; --paper: #fff; --band: #fff;
+  --one: #0b5a8f; --two: #d98410; --three: #3b8f6a; --bad: #900; }
+  @page { margin: 16mm; } body { max-width: none; padding: 0; font-size: 10pt; }
+  h2 { break-after: avoid; } figure, .card, tr { break-inside: avoid; }
+  thead { display: table-header-group; } .scroll { overflow: visible; }
+  * { -webkit-print-color-adjust: exact; print-color-adjust: exact; } }
+)";
+
+QString amount(const Money &money)
+{
+    return htmlText(foundation::presentationText(money));
+}
+
+QString numberCell(const Money &money, const QString &otherClass = {})
+{
+    const QString sign = money.isNegative() ? QStringLiteral(" minus") : QString();
+    return QStringLiteral("<td class=\"n%1%2\">%3</td>").arg(otherClass, sign, amount(money));
+}
+
+/// A table's head: the first column, then columns of numbers.
+QString tableHead(const QString &first, const QStringList &numbers)
+{
+    QString html =
+        QStringLiteral("<div class=\"scroll\"><table><thead><tr><th scope=\"col\">%1</th>")
+            .arg(htmlText(first));
+    for (const QString &title : numbers)
+        html += QStringLiteral("<th scope=\"col\" class=\"n\">%1</th>").arg(htmlText(title));
+    return html + QStringLiteral("</tr></thead><tbody>\n");
+}
+
+const QString tableEnd = QStringLiteral("</tbody></table></div>\n");
+
+QString headCell(const QString &text)
+{
+    return QStringLiteral("<th scope=\"row\">%1</th>").arg(htmlText(text));
+}
+
+QString card(const QString &label, const Money &money)
+{
+    return QStringLiteral("<div class=\"card\"><span>%1</span><strong>%2</strong></div>\n")
+        .arg(htmlText(label), amount(money));
+}
+
+QString summary(const Figures &figures)
+{
+    QString html = QStringLiteral("<div class=\"cards\">\n");
+    for (const auto &[currency, sums] : figures.currencies) {
+        const QString code = foundation::presentationText(currency);
+        const auto total = [currency = currency](const std::vector<Money> &months) {
+            return numira::math::sum(currency, months, [](const Money &money) { return money; });
+        };
+        html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back()) +
+                card(QObject::tr("Income, %1").arg(code), total(sums.income)) +
+                card(QObject::tr("Expenses, %1").arg(code), total(sums.expenses));
+    }
+    return html + QStringLiteral("</div>\n");
+}
+
+QString figureWithTable(const Chart &chart, const QString &id)
+{
+    QStringList names;
+    for (const ChartSeries &series : chart.series)
+        names += series.name;
+    QString html = QStringLiteral("<figure><figcaption>%1</figcaption>\n%2<details><summary>%3"
+                                  "</summary>\n%4")
+                       .arg(htmlText(chart.title), toSvg(chart, id),
+                            htmlText(QObject::tr("The figures as a table")),
+                            tableHead(QObject::tr("Month"), names));
+    for (qsizetype month = 0; month < chart.labels.size(); ++month) {
+        html += QStringLiteral("<tr>") + headCell(chart.labels[month]);
+        for (const ChartSeries &series : chart.series)
+            html += numberCell(series.values[static_cast<std::size_t>(month)]);
+        html += QStringLiteral("</tr>\n");
+    }
+    return html + tableEnd + QStringLiteral("</details></figure>\n");
+}
+
+QString balances(const Figures &figures)
+{
+    QString html;
+    for (const AccountTypes type :
+         {AccountTypes::Asset, AccountTypes::Liability, AccountTypes::Equity, AccountTypes::Income,
+          AccountTypes::Expense}) {
+        std::map<numira::Currency, Money> sums;
+        QString rows;
+        for (const BalanceFigure &figure : figures.balances) {
+            if (figure.type != type)
+                continue;
+            const numira::Currency currency = figure.balance.code();
+            sums.try_emplace(currency, currency).first->second += figure.balance;
+            // The root says the same as the heading.
+            rows += QStringLiteral("<tr>") + headCell(figure.path.section(u':', 1)) +
+                    numberCell(figure.balance) + QStringLiteral("</tr>\n");
+        }
+        if (rows.isEmpty())
+            continue;
+        for (const auto &[currency, sum] : sums)
+            rows += QStringLiteral("<tr class=\"sum\">") +
+                    headCell(QObject::tr("Total, %1").arg(foundation::presentationText(currency))) +
+                    numberCell(sum) + QStringLiteral("</tr>\n");
+        html += QStringLiteral("<h3>%1</h3>\n").arg(htmlText(accounting::presentationText(type))) +
+                tableHead(QObject::tr("Account"), {QObject::tr("Balance")}) + rows + tableEnd;
+    }
+    return html.isEmpty() ? QStringLiteral("<p class=\"note\">%1</p>\n")
+                                .arg(htmlText(QObject::tr("All accounts are empty.")))
+                          : html;
+}
+
+/// What a wage brings beyond its plan is welcome; what a bill takes is not.
+QString budgetCell(const ItemFigure &item, const Money &actual)
+{
+    const bool isSpent = item.kind == budgeting::BudgetItemTypes::Bill ||
+                         item.kind == budgeting::BudgetItemTypes::Nontrack;
+    const bool isOver =
+        isSpent && actual.code() == item.planned.code() && actual.amount() > item.planned.amount();
+    return isOver ? QStringLiteral("<td class=\"n over\">%1&nbsp;▲</td>").arg(amount(actual))
+                  : numberCell(actual);
+}
+
+QString budgetTable(const Figures &figures)
+{
+    // More months than a page is wide go to the chart alone.
+    constexpr std::size_t shownMax = 6;
+    const std::size_t months = figures.period.months();
+    const std::size_t first = months > shownMax ? months - shownMax : 0;
+    QStringList titles{QObject::tr("Planned a month")};
+    titles += figures.period.labels().mid(static_cast<qsizetype>(first));
+    QString html = tableHead(QObject::tr("Item"), titles);
+    for (const ItemFigure &item : figures.items) {
+        html += QStringLiteral("<tr>") +
+                headCell(QStringLiteral("%1 (%2)").arg(item.name,
+                                                       budgeting::presentationText(item.kind))) +
+                numberCell(item.planned);
+        for (std::size_t month = first; month < months; ++month)
+            html += budgetCell(item, item.actual[month]);
+        html += QStringLiteral("</tr>\n");
+    }
+    return html + tableEnd +
+           QStringLiteral("<p class=\"note\">%1</p>\n")
+               .arg(htmlText(QObject::tr("The plan is today's, restated per month. ▲ marks a month "
+                                         "in which more was spent.")));
+}
+
+QString heading(const QString &text)
+{
+    return QStringLiteral("<h2>%1</h2>\n").arg(htmlText(text));
+}
+
+} // namespace
+
+std::vector<Chart> chartsOf(const Figures &figures)
+{
+    std::vector<Chart> charts;
+    const QStringList labels = figures.period.labels();
+    for (const auto &[currency, sums] : figures.currencies) {
+        const QString code = foundation::presentationText(currency);
+        charts.push_back({ChartKind::Line,
+                          QObject::tr("Net worth over time, %1").arg(code),
+                          QObject::tr("At the end of each month, what all assets hold less what is "
+                                      "owed; %1 at last.")
+                              .arg(foundation::presentationText(sums.netWorth.back())),
+                          labels,
+                          {{QObject::tr("Net worth"), sums.netWorth}}});
+        charts.push_back(
+            {ChartKind::Bars,
+             QObject::tr("Income and expenses, %1").arg(code),
+             QObject::tr("What came in and what was spent in each month."),
+             labels,
+             {{QObject::tr("Income"), sums.income}, {QObject::tr("Expenses"), sums.expenses}}});
+        if (sums.hasItems)
+            charts.push_back(
+                {ChartKind::Bars,
+                 QObject::tr("Budget against actual, %1").arg(code),
+                 QObject::tr(
+                     "What bills, debts, goals and non-tracked items are planned to take in "
+                     "a month, and what went out for them."),
+                 labels,
+                 {{QObject::tr("Planned"), std::vector(sums.outgoing.size(), sums.planned)},
+                  {QObject::tr("Actual"), sums.outgoing}}});
+    }
+    return charts;
+}
+
+QByteArray toHtml(const Figures &figures, const QString &title)
+{
+    const auto date = [](QDate day) { return htmlText(foundation::presentationText(day)); };
+    QString html =
+        QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\"><head><meta charset=\"utf-8\">\n"
+                       "<meta http-equiv=\"Content-Security-Policy\" "
+                       "content=\"default-src 'none'; style-src 'unsafe-inline'\">\n"
+                       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+                       "<title>%2</title><style>%3</style></head><body>\n"
+                       "<header><h1>%2</h1><p>%4</p></header><main>\n")
+            .arg(QObject::tr("en", "the language of the reports, as HTML names it"),
+                 htmlText(title), QString::fromUtf8(style),
+                 QObject::tr("From %1 to %2")
+                     .arg(date(figures.period.from()), date(figures.period.to()))) +
+        summary(figures);
+    int id = 0;
+    for (const Chart &chart : chartsOf(figures))
+        html += figureWithTable(chart, QStringLiteral("chart%1").arg(++id));
+    if (!figures.items.empty())
+        html += heading(QObject::tr("Budget against actual by month")) + budgetTable(figures);
+    html +=
+        heading(
+            QObject::tr("Balances on %1").arg(foundation::presentationText(figures.period.to()))) +
+        balances(figures) + QStringLiteral("</main></body></html>\n");
+    return html.toUtf8();
+}
+
+} // namespace kiv::interchange

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/journal_reader.h"
+
+/// The parts of a journal as they are written, before they are balanced.
+namespace kiv::interchange::internal {
+
+/// A number of some commodity: a currency's code where it is one, else the name
+/// that the journal has for it; empty where none is written.
+struct Quantity {
+    numira::Decimal number;
+    QString commodity;
+};
+
+[[nodiscard]] QString presentationText(const Quantity &quantity);
+
+enum class PostingKind { Real, BalancedVirtual, Virtual };
+
+struct Posting {
+    Place place;
+    QString account = {};
+    PostingKind kind = PostingKind::Real;
+    accounting::TransactionStatuses status = accounting::TransactionStatuses::None;
+    std::optional<Quantity> amount = {};
+    /// What all of the amount cost, with the amount's sign.
+    std::optional<Quantity> cost = {};
+    std::optional<Quantity> assertion = {};
+    QStringList comments = {};
+
+    /// What it adds to the balance of its transaction.
+    [[nodiscard]] const Quantity &weight() const { return cost ? *cost : *amount; }
+};
+
+struct Entry {
+    Place place;
+    QDate date = {};
+    accounting::TransactionStatuses status = accounting::TransactionStatuses::None;
+    QString description = {};
+    QStringList comments = {};
+    std::vector<Posting> postings = {};
+};
+
+/// A transaction that is added to each posting whose account fits the pattern.
+struct AutomatedEntry {
+    QString pattern;
+    Entry entry;
+};
+
+/// Reads amounts and remembers how the journal writes its commodities.
+class QuantityReader {
+public:
+    explicit QuantityReader(const JournalOptions &options) : m_options(options) {}
+
+    /// "decimal-mark" of the journal.
+    void setMark(DecimalMark mark) { m_mark = mark; }
+    /// The commodity of amounts without one.
+    void setDefault(const QString &commodity) { m_default = commodity; }
+    /// Whether amounts without a commodity get one; multipliers do not.
+    void setUsesDefault(bool usesDefault) { m_usesDefault = usesDefault; }
+    /// Takes the mark from a sample like "1.000,00 EUR", and gives the commodity.
+    QString declare(QStringView sample, const Place &place);
+
+    /// Reads an amount from the beginning of `rest`, which then holds what comes
+    /// behind it.
+    Quantity read(QStringView &rest, const Place &place) const;
+
+private:
+    struct Written {
+        QString number;
+        QString commodity;
+        bool isNegative = false;
+    };
+    static Written split(QStringView &rest, const Place &place);
+    [[nodiscard]] QString named(const QString &commodity) const;
+
+    const JournalOptions &m_options;
+    std::optional<DecimalMark> m_mark;
+    std::map<QString, DecimalMark> m_marks;
+    QString m_default;
+    bool m_usesDefault = true;
+};
+
+/// Moves behind the blanks.
+void skipBlanks(QStringView &rest);
+
+} // namespace kiv::interchange::internal

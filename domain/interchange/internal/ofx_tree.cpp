@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/internal/ofx_tree.h"
+
+#include <algorithm>
+#include <map>
+
+namespace kiv::interchange::internal {
+
+namespace {
+
+constexpr std::size_t depthMax = 32;
+
+/// The characters that entities stand for. What begins with an ampersand and is
+/// no entity is left as it is, since banks write names so.
+QString withoutEntities(QString text)
+{
+    static const std::pair<QString, QString> entities[]{
+        {QStringLiteral("&lt;"), QStringLiteral("<")},
+        {QStringLiteral("&gt;"), QStringLiteral(">")},
+        {QStringLiteral("&quot;"), QStringLiteral("\"")},
+        {QStringLiteral("&apos;"), QStringLiteral("'")},
+        {QStringLiteral("&nbsp;"), QStringLiteral(" ")},
+        {QStringLiteral("&amp;"), QStringLiteral("&")}};
+    for (const auto &[entity, character] : entities)
+        text.replace(entity, character);
+    return text.simplified();
+}
+
+class TreeReader {
+public:
+    TreeReader(const QString &text, const QString &file) : m_text(text), m_place{file, 1} {}
+
+    OfxElement read()
+    {
+        advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
+        if (m_at < 0)
+            throw faults::notOfx({m_place.file, 0});
+        while (m_at < m_text.size() && !m_root) {
+            takeTag();
+            takeValue();
+        }
+        if (!m_root)
+            throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
+        return std::move(*m_root);
+    }
+
+private:
+    void advanceTo(qsizetype at)
+    {
+        m_place.line += QStringView(m_text).mid(m_at, at - m_at).count(u'\n');
+        m_at = at;
+    }
+
+    void takeTag()
+    {
+        const qsizetype end = m_text.indexOf(u'>', m_at);
+        QStringView name =
+            end < 0 ? QStringView() : QStringView(m_text).mid(m_at + 1, end - m_at - 1);
+        const bool isComment = name.startsWith(u'?') || name.startsWith(u'!');
+        const bool isClosing = name.startsWith(u'/');
+        const bool isEmpty = name.endsWith(u'/') && !isClosing;
+        name = name.sliced(isClosing ? 1 : 0).chopped(isEmpty ? 1 : 0).trimmed();
+        const auto isName = [](QChar c) {
+            return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
+                   (c >= u'0' && c <= u'9') || c == u'.' || c == u'_';
+        };
+        if (!isComment && (name.isEmpty() || !std::ranges::all_of(name, isName)))
+            throw faults::brokenTag(m_place);
+        const QString tag = name.toString().toUpper();
+        if (isClosing)
+            close(tag);
+        else if (!isComment)
+            open(tag);
+        advanceTo(end + 1);
+        if (isEmpty)
+            close(tag);
+    }
+
+    void open(const QString &tag)
+    {
+        if (m_open.size() >= depthMax)
+            throw faults::nestedTooDeeply(m_place);
+        m_open.push_back({tag, m_place});
+    }
+
+    /// In SGML a tag with a value is closed by what comes next.
+    void takeValue()
+    {
+        const qsizetype next = m_text.indexOf(u'<', m_at);
+        const qsizetype end = next < 0 ? m_text.size() : next;
+        const QString value = m_text.mid(m_at, end - m_at).trimmed();
+        if (!value.isEmpty() && !m_open.empty()) {
+            OfxElement &element = m_open.back();
+            if (!element.children.empty())
+                throw faults::brokenTag(m_place);
+            element.value = withoutEntities(value);
+            advanceTo(end);
+            const QString closing = QStringLiteral("</%1>").arg(element.tag);
+            if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive))
+                advanceTo(m_at + closing.size());
+            finish();
+            takeValue();
+            return;
+        }
+        advanceTo(end);
+    }
+
+    void close(const QString &tag)
+    {
+        // A tag before it that holds nothing is a value that is empty.
+        while (!m_open.empty() && m_open.back().tag != tag && m_open.back().children.empty() &&
+               m_open.size() > 1)
+            finish();
+        if (m_open.empty())
+            throw faults::closesNothing(m_place, tag);
+        if (m_open.back().tag != tag)
+            throw faults::wrongClosingTag(m_place, tag, m_open.back().tag,
+                                          m_open.back().place.line);
+        finish();
+    }
+
+    void finish()
+    {
+        OfxElement element = std::move(m_open.back());
+        m_open.pop_back();
+        if (m_open.empty())
+            m_root = std::move(element);
+        else
+            m_open.back().children.push_back(std::move(element));
+    }
+
+    const QString &m_text;
+    Place m_place;
+    qsizetype m_at = 0;
+    std::vector<OfxElement> m_open;
+    std::optional<OfxElement> m_root;
+};
+
+} // namespace
+
+const OfxElement *OfxElement::child(const char *name) const
+{
+    const auto found = std::ranges::find(children, QLatin1String(name), &OfxElement::tag);
+    return found == children.end() ? nullptr : &*found;
+}
+
+QString OfxElement::text(const char *name) const
+{
+    const OfxElement *found = child(name);
+    return found ? found->value : QString();
+}
+
+OfxElement readOfxTree(const QString &text, const QString &file)
+{
+    return TreeReader(text, file).read();
+}
+
+} // namespace kiv::interchange::internal

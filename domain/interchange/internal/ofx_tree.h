@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/errors.h"
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace kiv::interchange::internal {
+
+/// One element of an OFX document: a value, or further elements.
+struct OfxElement {
+    QString tag;
+    Place place;
+    QString value = {};
+    std::vector<OfxElement> children = {};
+
+    /// The first child with this tag; null when there is none.
+    [[nodiscard]] const OfxElement *child(const char *name) const;
+    /// The value of such a child; empty when there is none.
+    [[nodiscard]] QString text(const char *name) const;
+};
+
+/// Reads the document's elements from its <OFX> on. Throws ImportError for a
+/// tag that is broken, not closed, or closed where another one is open.
+[[nodiscard]] OfxElement readOfxTree(const QString &text, const QString &file);
+
+} // namespace kiv::interchange::internal

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/internal/journal_entry.h"
+
+#include "foundation/presentation.h"
+
+namespace kiv::interchange::internal {
+
+namespace {
+
+bool takeSign(QStringView &rest, bool &isNegative)
+{
+    if (!rest.startsWith(u'-') && !rest.startsWith(u'+'))
+        return false;
+    isNegative = rest.startsWith(u'-');
+    rest = rest.sliced(1);
+    return true;
+}
+
+QString takeNumber(QStringView &rest)
+{
+    qsizetype length = 0;
+    while (length < rest.size() && ((rest[length] >= u'0' && rest[length] <= u'9') ||
+                                    rest[length] == u'.' || rest[length] == u','))
+        ++length;
+    const QString number = rest.first(length).toString();
+    rest = rest.sliced(length);
+    return number;
+}
+
+QString takeCommodity(QStringView &rest, const Place &place)
+{
+    if (rest.startsWith(u'"')) {
+        const qsizetype end = rest.indexOf(u'"', 1);
+        if (end < 0)
+            throw faults::notClosed(place, rest.toString());
+        const QString name = rest.sliced(1, end - 1).toString();
+        rest = rest.sliced(end + 1);
+        return name;
+    }
+    static const QString reserved = QStringLiteral("0123456789.,;:?!-+*/^&|=<>@{}[]()\"#~\\'");
+    qsizetype length = 0;
+    while (length < rest.size() && !rest[length].isSpace() && !reserved.contains(rest[length]))
+        ++length;
+    const QString name = rest.first(length).toString();
+    rest = rest.sliced(length);
+    return name;
+}
+
+} // namespace
+
+QString presentationText(const Quantity &quantity)
+{
+    return QString::fromStdString(quantity.number.toText()) + u' ' + quantity.commodity;
+}
+
+void skipBlanks(QStringView &rest)
+{
+    while (!rest.isEmpty() && rest.front().isSpace())
+        rest = rest.sliced(1);
+}
+
+QuantityReader::Written QuantityReader::split(QStringView &rest, const Place &place)
+{
+    const QStringView whole = rest;
+    Written written;
+    bool hasSign = takeSign(rest, written.isNegative);
+    skipBlanks(rest);
+    written.commodity = takeCommodity(rest, place);
+    skipBlanks(rest);
+    if (!hasSign)
+        hasSign = takeSign(rest, written.isNegative);
+    skipBlanks(rest);
+    written.number = takeNumber(rest);
+    if (written.commodity.isEmpty()) {
+        QStringView behind = rest;
+        skipBlanks(behind);
+        written.commodity = takeCommodity(behind, place);
+        if (!written.commodity.isEmpty())
+            rest = behind;
+    }
+    if (written.number.isEmpty())
+        throw faults::notAnAmount(place, whole.trimmed().toString());
+    return written;
+}
+
+QString QuantityReader::named(const QString &commodity) const
+{
+    if (commodity.isEmpty() && !m_usesDefault)
+        return {};
+    if (commodity.isEmpty())
+        return m_default.isEmpty() && m_options.currency
+                   ? foundation::toQString(*m_options.currency)
+                   : m_default;
+    const auto given = m_options.commodities.find(commodity);
+    const auto currency = given == m_options.commodities.end()
+                              ? readCurrency(commodity, m_options.preferred)
+                              : std::optional(given->second);
+    return currency ? foundation::toQString(*currency) : commodity;
+}
+
+QString QuantityReader::declare(QStringView sample, const Place &place)
+{
+    const Written written = split(sample, place);
+    const QString commodity = named(written.commodity);
+    const qsizetype last =
+        std::max(written.number.lastIndexOf(u'.'), written.number.lastIndexOf(u','));
+    // "1,000" does not say which of the two its comma is.
+    const bool isPlain = last < 0 || written.number.size() - last != 4 ||
+                         written.number[last] == u'.' || written.number.contains(u'.');
+    if (last >= 0 && isPlain && written.number.count(written.number[last]) == 1)
+        m_marks.insert_or_assign(commodity,
+                                 static_cast<DecimalMark>(written.number[last].unicode()));
+    return commodity;
+}
+
+Quantity QuantityReader::read(QStringView &rest, const Place &place) const
+{
+    const Written written = split(rest, place);
+    const QString commodity = named(written.commodity);
+    std::optional<DecimalMark> mark = m_options.decimalMark ? m_options.decimalMark : m_mark;
+    if (const auto declared = m_marks.find(commodity); !mark && declared != m_marks.end())
+        mark = declared->second;
+    const numira::Decimal number = readNumber(written.number, mark, place);
+    return {written.isNegative ? -number : number, commodity};
+}
+
+} // namespace kiv::interchange::internal

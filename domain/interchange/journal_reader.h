@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/draft.h"
+#include "interchange/written_values.h"
+
+#include <functional>
+
+namespace kiv::interchange {
+
+/// What a journal leaves open.
+struct JournalOptions {
+    std::optional<DecimalMark> decimalMark = std::nullopt;
+    /// The currency of amounts without one; such are refused without it.
+    std::optional<numira::Currency> currency = std::nullopt;
+    /// The currency whose sign a sign is taken for where several share it.
+    numira::Currency preferred = {};
+    /// Currencies by further names that the journal has for them.
+    std::map<QString, numira::Currency> commodities = {};
+    /// Kinds of account by further roots, in lower case.
+    std::map<QString, accounting::AccountTypes> roots = {};
+    /// Gives the bytes of a file that the journal includes, or throws
+    /// ImportError. Without it every include is refused.
+    std::function<QByteArray(const QString &path, const Place &place)> include = {};
+    QString encoding = QStringLiteral("UTF-8");
+};
+
+/// Reads a plain-text accounting journal, as ledger and hledger read it.
+///
+/// Every transaction becomes as many transactions between two accounts as are
+/// needed, currency by currency. Where one currency pays for another, each goes
+/// through an account of its own under Equity:Conversion, so both amounts stay
+/// exact whatever the rates are. What is no currency is kept at its cost. An
+/// unbalanced virtual posting goes against Equity:Virtual. Comments and tags
+/// are kept behind the description. Balance assertions are checked, in the
+/// order of the file or of the days, whichever holds.
+///
+/// Throws ImportError with file and line for everything that it does not know.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Draft readJournal(const QByteArray &bytes, const QString &file,
+                                                       const JournalOptions &options);
+
+} // namespace kiv::interchange

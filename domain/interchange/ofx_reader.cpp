@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/ofx_reader.h"
+
+#include "interchange/draft.h"
+#include "interchange/internal/ofx_tree.h"
+#include "interchange/text_decoding.h"
+#include "interchange/written_values.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
+
+namespace kiv::interchange {
+
+namespace {
+
+using internal::OfxElement;
+
+/// The encoding that the header names. OFX 1 has CHARSET:1252 and
+/// ENCODING:UTF-8, OFX 2 an XML declaration.
+QString encodingOf(const QByteArray &bytes)
+{
+    const QByteArray header = bytes.left(std::min<qsizetype>(bytes.indexOf("<OFX>"), 2000));
+    const bool isXml = header.contains("<?xml");
+    static const QRegularExpression pattern(
+        QStringLiteral("encoding=[\"']([A-Za-z0-9_.:-]+)|CHARSET:\\s*([A-Za-z0-9-]+)"));
+    const auto match = pattern.match(QString::fromLatin1(header));
+    if (header.contains("ENCODING:UTF-8") || header.contains("ENCODING:UNICODE") ||
+        !match.hasMatch())
+        return utf8Name;
+    const QString name = isXml ? match.captured(1) : match.captured(2);
+    if (name == u"NONE" || name.isEmpty())
+        return utf8Name;
+    return name == u"1252" ? QStringLiteral("windows-1252") : name;
+}
+
+void findStatements(const OfxElement &element, std::vector<const OfxElement *> &statements)
+{
+    if (element.tag == u"STMTRS" || element.tag == u"CCSTMTRS")
+        statements.push_back(&element);
+    for (const OfxElement &child : element.children)
+        findStatements(child, statements);
+}
+
+QString accountOf(const OfxElement &statement)
+{
+    const OfxElement *from = statement.child("BANKACCTFROM");
+    if (!from)
+        from = statement.child("CCACCTFROM");
+    return from ? from->text("ACCTID") : QString();
+}
+
+numira::Currency currencyOf(const QString &code, const Place &place)
+{
+    const auto currency = readCurrency(code, numira::Currency());
+    if (!currency)
+        throw faults::notACurrency(place, code);
+    return *currency;
+}
+
+QDate dayOf(const OfxElement &transaction)
+{
+    // YYYYMMDD with a time and a zone behind it.
+    static const DateFormat format(QStringLiteral("YYYYMMDD"), {});
+    const QString text = transaction.text("DTPOSTED");
+    if (text.isEmpty())
+        throw faults::missingValue(transaction.place, QStringLiteral("DTPOSTED"));
+    const auto day = format.read(QStringView(text).left(8));
+    if (!day)
+        throw faults::notADate(transaction.child("DTPOSTED")->place, text, format.text());
+    return *day;
+}
+
+/// "2026-01-31" without the name of the payee would say little.
+QString textOf(const OfxElement &transaction)
+{
+    QStringList texts{transaction.text("NAME")};
+    if (const OfxElement *payee = transaction.child("PAYEE"))
+        texts += payee->text("NAME");
+    texts += transaction.text("MEMO");
+    if (const QString check = transaction.text("CHECKNUM"); !check.isEmpty())
+        texts += QObject::tr("Check %1").arg(check);
+    texts.removeAll(QString());
+    texts.removeDuplicates();
+    return texts.join(u' ');
+}
+
+StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &currency)
+{
+    StatementEntry entry{transaction.place, dayOf(transaction)};
+    const OfxElement *amount = transaction.child("TRNAMT");
+    if (!amount || amount->value.isEmpty())
+        throw faults::missingValue(transaction.place, QStringLiteral("TRNAMT"));
+    if (const OfxElement *other = transaction.child("CURRENCY")) {
+        const numira::Currency found = currencyOf(other->text("CURSYM"), other->place);
+        if (found != currency)
+            throw faults::otherCurrency(other->place, foundation::toQString(found),
+                                        foundation::toQString(currency));
+    }
+    entry.amount = statementAmount(amount->value, currency, std::nullopt, amount->place);
+    entry.text = textOf(transaction);
+    entry.bankId = transaction.text("FITID");
+    return entry;
+}
+
+} // namespace
+
+Statement readOfx(const QByteArray &bytes, const QString &file, const QString &account)
+{
+    const OfxElement document =
+        internal::readOfxTree(decoded(bytes, file, encodingOf(bytes)), file);
+    std::vector<const OfxElement *> statements;
+    findStatements(document, statements);
+    if (statements.empty())
+        throw faults::noStatement({file, 0});
+    QStringList accounts;
+    for (const OfxElement *statement : statements)
+        accounts += accountOf(*statement);
+    if (account.isEmpty() && statements.size() > 1)
+        throw faults::severalStatements(statements[1]->place, accounts);
+    const qsizetype chosen = account.isEmpty() ? 0 : accounts.indexOf(account);
+    if (chosen < 0)
+        throw faults::noSuchStatement({file, 0}, account, accounts);
+
+    const OfxElement &found = *statements[static_cast<std::size_t>(chosen)];
+    Statement statement{accounts[chosen], currencyOf(found.text("CURDEF"), found.place), {}};
+    if (const OfxElement *list = found.child("BANKTRANLIST")) {
+        for (const OfxElement &transaction : list->children) {
+            if (transaction.tag != u"STMTTRN")
+                continue;
+            if (static_cast<qsizetype>(statement.entries.size()) >= transactionsMax)
+                throw faults::tooManyTransactions(transaction.place, transactionsMax);
+            statement.entries.push_back(entryOf(transaction, statement.currency));
+        }
+    }
+    return statement;
+}
+
+} // namespace kiv::interchange

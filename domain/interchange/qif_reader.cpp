@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/qif_reader.h"
+
+#include "interchange/draft.h"
+#include "interchange/text_decoding.h"
+
+#include "foundation/presentation.h"
+#include "numira/error.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::interchange {
+
+namespace {
+
+struct Part {
+    QString category;
+    QString memo;
+    QString amount;
+    Place place;
+};
+
+/// The fields of one record, as they are written.
+struct Record {
+    Place place;
+    QString date = {};
+    QString amount = {};
+    QString payee = {};
+    QString memo = {};
+    QString number = {};
+    QString category = {};
+    std::vector<Part> parts = {};
+    bool hasFields = false;
+};
+
+/// "1/31'26" is how some write 1/31/2026.
+QString plainDate(QString text)
+{
+    text.remove(u' ');
+    return text.replace(u'\'', u'/');
+}
+
+class QifReader {
+public:
+    QifReader(const QString &text, const QString &file, const QifOptions &options)
+        : m_lines(text, file), m_options(options)
+    {
+    }
+
+    std::vector<Record> read()
+    {
+        while (m_lines.next()) {
+            const QString line = m_lines.line().trimmed().toString();
+            if (line.startsWith(u'!'))
+                enter(line);
+            else if (!line.isEmpty() && m_section == Section::None)
+                throw faults::notQif(m_lines.place());
+            else if (line == u"^")
+                finish();
+            else if (!line.isEmpty() && m_section == Section::Transactions)
+                takeField(line.front(), line.mid(1).trimmed());
+        }
+        finish(); // the last mark may be missing
+        if (m_section == Section::None)
+            throw faults::notQif({m_lines.place().file, 0});
+        return std::move(m_records);
+    }
+
+private:
+    enum class Section { None, Transactions, Skipped };
+
+    void enter(const QString &header)
+    {
+        finish();
+        const QString kind = header.mid(1).toLower().simplified();
+        if (QStringList{QStringLiteral("type:bank"), QStringLiteral("type:ccard"),
+                        QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
+                        QStringLiteral("type:oth l")}
+                .contains(kind))
+            m_section = Section::Transactions;
+        else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class" ||
+                 kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
+            m_section = Section::Skipped;
+        else
+            throw faults::unsupported(m_lines.place(), header);
+    }
+
+    void takeField(QChar field, const QString &value)
+    {
+        Record &record = m_record;
+        if (!record.hasFields)
+            record.place = m_lines.place();
+        record.hasFields = true;
+        const auto part = [&]() -> Part & {
+            if (record.parts.empty())
+                throw faults::unknownField(m_lines.place(), field + value);
+            return record.parts.back();
+        };
+        switch (field.unicode()) {
+        case u'D':
+            record.date = value;
+            break;
+        case u'T':
+        case u'U':
+            record.amount = value;
+            break;
+        case u'P':
+            record.payee = value;
+            break;
+        case u'M':
+            record.memo = value;
+            break;
+        case u'N':
+            record.number = value;
+            break;
+        case u'L':
+            record.category = value;
+            break;
+        case u'S':
+            record.parts.push_back({value, {}, {}, m_lines.place()});
+            break;
+        case u'E':
+            part().memo = value;
+            break;
+        case u'$':
+            part().amount = value;
+            break;
+        case u'C': // its status
+        case u'A': // an address
+        case u'F': // to be paid back
+        case u'%': // the share of a split
+            break;
+        default:
+            throw faults::unknownField(m_lines.place(), field + value);
+        }
+    }
+
+    void finish()
+    {
+        if (m_record.hasFields)
+            m_records.push_back(std::exchange(m_record, {}));
+        if (static_cast<qsizetype>(m_records.size()) > transactionsMax)
+            throw faults::tooManyTransactions(m_lines.place(), transactionsMax);
+    }
+
+    LineCursor m_lines;
+    const QifOptions &m_options;
+    Section m_section = Section::None;
+    Record m_record;
+    std::vector<Record> m_records;
+};
+
+/// The format in which all days can be read, when there is but one.
+DateFormat formatOf(const std::vector<Record> &records, const Place &place)
+{
+    std::vector<DateFormat> fitting;
+    for (const char *order : {"M/D/YYYY", "M/D/YY", "D/M/YYYY", "D/M/YY", "D.M.YYYY", "D.M.YY",
+                              "YYYY-MM-DD", "D-M-YYYY", "YYYY/M/D"}) {
+        const DateFormat format(QLatin1String(order), place);
+        if (std::ranges::all_of(records, [&format](const Record &record) {
+                return format.read(plainDate(record.date)).has_value();
+            }))
+            fitting.push_back(format);
+    }
+    // Two orders that say the same of every day are as good as one.
+    const auto agree = [&](const DateFormat &one, const DateFormat &other) {
+        return std::ranges::all_of(records, [&](const Record &record) {
+            return one.read(plainDate(record.date)) == other.read(plainDate(record.date));
+        });
+    };
+    if (fitting.empty())
+        return DateFormat(QStringLiteral("M/D/YYYY"), place);
+    if (!agree(fitting.front(), fitting.back()))
+        throw faults::ambiguousDates(records.front().place);
+    return fitting.front();
+}
+
+class EntryMaker {
+public:
+    EntryMaker(const QifOptions &options, DateFormat format)
+        : m_options(options), m_format(std::move(format))
+    {
+    }
+
+    void add(const Record &record, std::vector<StatementEntry> &entries) const
+    {
+        StatementEntry entry{record.place};
+        const auto day = m_format.read(plainDate(record.date));
+        if (record.date.isEmpty())
+            throw faults::missingValue(record.place, QObject::tr("date"));
+        if (!day)
+            throw faults::notADate(record.place, record.date, m_format.text());
+        if (record.amount.isEmpty())
+            throw faults::missingValue(record.place, QObject::tr("amount"));
+        entry.date = *day;
+        entry.amount = amountOf(record.amount, record.place);
+        entry.text = joined({record.number, record.payee, record.memo});
+        entry.category = categoryOf(record.category);
+        if (record.parts.empty()) {
+            entries.push_back(std::move(entry));
+            return;
+        }
+        numira::Money sum(m_options.currency);
+        for (const Part &part : record.parts) {
+            StatementEntry piece = entry;
+            piece.place = part.place;
+            piece.amount = amountOf(part.amount, part.place);
+            piece.text = joined(
+                {record.number, record.payee, part.memo.isEmpty() ? record.memo : part.memo});
+            piece.category = categoryOf(part.category);
+            sum += piece.amount;
+            entries.push_back(std::move(piece));
+        }
+        if (sum != entry.amount)
+            throw faults::splitsDiffer(record.place, foundation::toQString(sum),
+                                       foundation::toQString(entry.amount));
+    }
+
+private:
+    [[nodiscard]] numira::Money amountOf(const QString &text, const Place &place) const
+    {
+        return statementAmount(text, m_options.currency, m_options.decimalMark, place);
+    }
+    static QString joined(QStringList texts)
+    {
+        texts.removeAll(QString());
+        return texts.join(u' ').simplified();
+    }
+    /// "[Savings]" is an account, "Food/Trip" a category with a class.
+    static QString categoryOf(const QString &text)
+    {
+        if (text.startsWith(u'[') && text.endsWith(u']'))
+            return text.mid(1, text.size() - 2);
+        return text.section(u'/', 0, 0).trimmed();
+    }
+
+    const QifOptions &m_options;
+    DateFormat m_format;
+};
+
+} // namespace
+
+Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions &options)
+{
+    const QString text = decoded(bytes, file, options.encoding);
+    const std::vector<Record> records = QifReader(text, file, options).read();
+    const Place whole{file, 0};
+    if (records.empty())
+        throw faults::noStatement(whole);
+    const EntryMaker maker(options,
+                           options.dateFormat ? *options.dateFormat : formatOf(records, whole));
+    Statement statement{{}, options.currency, {}};
+    for (const Record &record : records) {
+        try {
+            maker.add(record, statement.entries);
+        } catch (const numira::Error &cause) {
+            throw faults::tooLarge(record.place, cause);
+        }
+        if (static_cast<qsizetype>(statement.entries.size()) > transactionsMax)
+            throw faults::tooManyTransactions(record.place, transactionsMax);
+    }
+    return statement;
+}
+
+} // namespace kiv::interchange

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "interchange/written_values.h"
+
+#include "foundation/presentation.h"
+#include "numira/error.h"
+
+#include <array>
+#include <tuple>
+
+namespace kiv::interchange {
+
+namespace {
+
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
+/// What is left of a number without its sign; nothing when it has several.
+std::optional<std::pair<QString, bool>> withoutSign(const QString &text)
+{
+    QString digits = text.trimmed();
+    digits.replace(QChar(0x2212), u'-'); // the minus of typographers
+    bool isNegative = false;
+    if (digits.startsWith(u'(') && digits.endsWith(u')')) {
+        isNegative = true;
+        digits = digits.mid(1, digits.size() - 2).trimmed();
+    } else if (digits.startsWith(u'-') || digits.startsWith(u'+')) {
+        isNegative = digits.startsWith(u'-');
+        digits = digits.mid(1).trimmed();
+    } else if (digits.endsWith(u'-') || digits.endsWith(u'+')) {
+        isNegative = digits.endsWith(u'-');
+        digits = digits.chopped(1).trimmed();
+    }
+    if (digits.isEmpty() || digits.contains(u'-') || digits.contains(u'+'))
+        return std::nullopt;
+    return std::pair(digits, isNegative);
+}
+
+/// The mark by which such digits show what it is; nothing when there is none.
+std::optional<QChar> markOf(const QString &digits, const QString &text, const Place &place)
+{
+    const qsizetype point = digits.lastIndexOf(u'.');
+    const qsizetype comma = digits.lastIndexOf(u',');
+    const qsizetype last = std::max(point, comma);
+    if (last < 0)
+        return std::nullopt;
+    const QChar mark = digits[last];
+    if (digits.count(mark) > 1)
+        return std::nullopt; // it groups
+    const bool hasOther = std::min(point, comma) >= 0;
+    const bool couldGroup = digits.size() - last == 4 && last > 0 && last <= 3 && digits[0] != u'0';
+    if (mark == u',' && !hasOther && couldGroup)
+        throw faults::ambiguousNumber(place, text);
+    return mark;
+}
+
+/// The digits before the mark with what groups them taken out; nothing when
+/// groups are not of three (in the Indian way, the first ones of two).
+std::optional<QString> ungrouped(const QString &whole, std::optional<QChar> mark)
+{
+    QString plain;
+    qsizetype groups = 0;
+    qsizetype sinceSeparator = 0;
+    QChar separator;
+    for (const QChar character : whole) {
+        if (isDigit(character)) {
+            plain += character;
+            ++sinceSeparator;
+            continue;
+        }
+        const bool isSeparator = QStringLiteral(".,' ’\u00A0\u202F").contains(character);
+        if (!isSeparator || (mark && character == *mark) || plain.isEmpty() ||
+            (!separator.isNull() && character != separator) ||
+            (groups > 0 ? sinceSeparator != 3 && sinceSeparator != 2 : sinceSeparator > 3))
+            return std::nullopt;
+        separator = character;
+        ++groups;
+        sinceSeparator = 0;
+    }
+    if (groups > 0 && sinceSeparator != 3)
+        return std::nullopt;
+    return plain;
+}
+
+} // namespace
+
+numira::Decimal readNumber(const QString &text, std::optional<DecimalMark> mark, const Place &place)
+{
+    const auto parts = withoutSign(text);
+    if (!parts)
+        throw faults::notANumber(place, text);
+    const auto &[digits, isNegative] = *parts;
+    const std::optional<QChar> point =
+        mark ? std::optional(QChar(static_cast<char16_t>(*mark))) : markOf(digits, text, place);
+    const qsizetype at = point ? digits.indexOf(*point) : -1;
+    const QString fraction = at < 0 ? QString() : digits.mid(at + 1);
+    const auto whole = ungrouped(at < 0 ? digits : digits.left(at), point);
+    if (!whole || (whole->isEmpty() && fraction.isEmpty()) ||
+        !std::ranges::all_of(fraction, isDigit))
+        throw faults::notANumber(place, text);
+    const QString plain = (isNegative ? QStringLiteral("-") : QString()) +
+                          (whole->isEmpty() ? QStringLiteral("0") : *whole) +
+                          (fraction.isEmpty() ? QString() : u'.' + fraction);
+    try {
+        return numira::Decimal::fromText(plain.toStdString());
+    } catch (const numira::Error &cause) {
+        throw faults::tooLarge(place, cause);
+    }
+}
+
+DateFormat::DateFormat() : m_text(QStringLiteral("YYYY-MM-DD")) {}
+
+DateFormat::DateFormat(QString text, const Place &place) : m_text(std::move(text))
+{
+    // What the format writes of a day must be what it reads.
+    QString sample = m_text;
+    for (const auto &[letters, digits] : {std::pair("YYYY", "2026"),
+                                          {"YY", "26"},
+                                          {"MM", "11"},
+                                          {"M", "11"},
+                                          {"DD", "23"},
+                                          {"D", "23"}}) {
+        const qsizetype at = sample.indexOf(QLatin1String(letters));
+        if (at >= 0)
+            sample.replace(at, static_cast<qsizetype>(std::strlen(letters)), QLatin1String(digits));
+    }
+    if (read(sample) != QDate(2026, 11, 23))
+        throw faults::notADate(place, m_text, QStringLiteral("YYYY, MM, DD"));
+}
+
+std::optional<QDate> DateFormat::read(QStringView text) const
+{
+    int year = -1;
+    int month = -1;
+    int day = -1;
+    qsizetype at = 0;
+    const auto number = [&](qsizetype least, qsizetype most, int &value) {
+        qsizetype count = 0;
+        int read = 0;
+        while (count < most && at < text.size() && isDigit(text[at])) {
+            read = read * 10 + (text[at++].unicode() - u'0');
+            ++count;
+        }
+        if (count < least || value >= 0)
+            return false;
+        value = read;
+        return true;
+    };
+    for (qsizetype letter = 0; letter < m_text.size();) {
+        const QChar kind = m_text[letter];
+        qsizetype count = 1;
+        while (letter + count < m_text.size() && m_text[letter + count] == kind)
+            ++count;
+        bool fits = true;
+        if (kind == u'Y' && (count == 4 || count == 2)) {
+            fits = number(count, count, year);
+            if (count == 2)
+                year += year < 70 ? 2000 : 1900;
+        } else if (kind == u'M' && count <= 2) {
+            fits = number(count, 2, month);
+        } else if (kind == u'D' && count <= 2) {
+            fits = number(count, 2, day);
+        } else {
+            count = 1;
+            fits = at < text.size() && text[at++] == kind;
+        }
+        if (!fits)
+            return std::nullopt;
+        letter += count;
+    }
+    const QDate date(year, month, day);
+    return at == text.size() && year > 0 && date.isValid() ? std::optional(date) : std::nullopt;
+}
+
+std::optional<numira::Currency> readCurrency(const QString &text, const numira::Currency &preferred)
+{
+    // Signs that stand for one currency wherever they are used, and the dollar.
+    static const std::map<QString, const char *> signs{
+        {QStringLiteral("$"), "USD"},   {QStringLiteral("€"), "EUR"},
+        {QStringLiteral("£"), "GBP"},   {QStringLiteral("¥"), "JPY"},
+        {QStringLiteral("₹"), "INR"},   {QStringLiteral("₩"), "KRW"},
+        {QStringLiteral("₽"), "RUB"}, {QStringLiteral("₺"), "TRY"},
+        {QStringLiteral("₴"), "UAH"},   {QStringLiteral("₪"), "ILS"},
+        {QStringLiteral("zł"), "PLN"},  {QStringLiteral("Kč"), "CZK"},
+        {QStringLiteral("R$"), "BRL"},  {QStringLiteral("US$"), "USD"}};
+    if (const auto sign = numira::currencySymbol(preferred);
+        sign && text == QString::fromStdString(*sign))
+        return preferred;
+    const auto found = signs.find(text);
+    try {
+        const numira::Currency currency =
+            numira::toCurrency(found == signs.end() ? text.toStdString() : found->second);
+        return currency == numira::Currency() ? std::nullopt : std::optional(currency);
+    } catch (const numira::Error &) {
+        return std::nullopt;
+    }
+}
+
+numira::Money statementAmount(const QString &text, const numira::Currency &currency,
+                              std::optional<DecimalMark> mark, const Place &place)
+{
+    const numira::Decimal number = readNumber(text, mark, place);
+    const unsigned digitsMax = numira::minorUnitDigits(currency);
+    if (number.digits() > digitsMax)
+        throw faults::tooManyDigits(place, text, foundation::toQString(currency), digitsMax);
+    return {currency, number};
+}
+
+} // namespace kiv::interchange
