@@ -156,8 +156,15 @@ private slots:
         QTest::addColumn<LoopbackServer::Behaviour>("behaviour");
         for (const auto &[name, behaviour] : LoopbackServer::badServers(reply))
             QTest::newRow(name) << behaviour;
-        QTest::newRow("negative rate")
-            << LoopbackServer::answer(QByteArray(reply).replace("0.92", "-1"));
+        const auto row = [](const char *name, const char *good, const char *bad) {
+            QTest::newRow(name) << LoopbackServer::answer(QByteArray(reply).replace(good, bad));
+        };
+        row("negative rate", "0.92", "-1");
+        row("rate of zero", "0.92", "0");
+        row("rate beyond all measure", "150", "1e300");
+        row("code named twice", "JPY", "EUR");
+        row("unknown code", "JPY", "ABQ");
+        row("no time", "timestamp", "time");
     }
 
     void badServersLeaveTheRatesWithOneWarning()
@@ -173,6 +180,8 @@ private slots:
         QVERIFY2(log.warnings().front().startsWith(failed), qPrintable(log.text()));
         QVERIFY2(!log.text().contains(appId), qPrintable(log.text()));
         QVERIFY(server.requests().front().contains("app_id=" + appId.toUtf8()));
+        // What the systems' buffers hold goes beyond the 1 MiB that is read.
+        QVERIFY(server.bytesTaken() < 12 << 20);
     }
 
     void aGoodServerIsBelieved()

@@ -127,6 +127,30 @@ private slots:
         QVERIFY(server.requests().isEmpty());
     }
 
+    void encryptedServersAreTrustedByTheirCertificateAndNotLeftForPlainHttp()
+    {
+        using Server = LoopbackServer;
+        LoopbackServer plain(Server::answer("{}"));
+        LoopbackServer good(Server::answer("{}"), Server::Protocol::Https);
+        LoopbackServer leading(Server::redirect(plain.url().toEncoded()), Server::Protocol::Https);
+        const auto outcome = [](const QUrl &url) {
+            HttpRequestSender sender;
+            QSignalSpy answered(&sender, &HttpRequestSender::answered);
+            sender.send(1, url);
+            if (answered.isEmpty() && !answered.wait(30'000))
+                return u"no answer"_s;
+            const auto response = answered.front().at(1).value<Response>();
+            return response.isSuccess() ? QString::fromUtf8(response.body()) : response.failure();
+        };
+        QCOMPARE(outcome(good.url()), u"The transfer failed (SslHandshakeFailedError)."_s);
+        QVERIFY(good.requests().isEmpty());
+        const LoopbackTrust trust;
+        QCOMPARE(outcome(good.url()), u"{}"_s);
+        QCOMPARE(outcome(leading.url()), u"The server redirected to another host or to a protocol "
+                                         "that is not allowed."_s);
+        QVERIFY(leading.requests().size() == 1 && plain.requests().isEmpty());
+    }
+
     void requestsCarryNoCookies()
     {
         LoopbackServer server(LoopbackServer::answer("{}", "application/json", "200 OK",

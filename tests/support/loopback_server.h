@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/loopback_certificate.h"
+
 #include <QtCore/QTimer>
 #include <QtCore/QUrl>
-#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QSslServer>
 #include <QtNetwork/QTcpSocket>
 
 #include <functional>
@@ -18,19 +20,27 @@ public:
     /// with its query.
     using Behaviour = std::function<void(QTcpSocket &, const QByteArray &path)>;
 
-    explicit LoopbackServer(Behaviour behaviour) : m_behaviour(std::move(behaviour))
+    enum class Protocol { Http, Https };
+
+    explicit LoopbackServer(Behaviour behaviour, Protocol protocol = Protocol::Http)
+        : m_behaviour(std::move(behaviour)),
+          m_protocol(protocol),
+          m_server(protocol == Protocol::Http ? std::make_unique<QTcpServer>() : encrypted())
     {
-        QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-            while (QTcpSocket *socket = m_server.nextPendingConnection())
-                serve(*socket);
-        });
-        m_server.listen(QHostAddress::LocalHost);
+        QObject::connect(m_server.get(), &QTcpServer::pendingConnectionAvailable, m_server.get(),
+                         [this] {
+                             while (QTcpSocket *socket = m_server->nextPendingConnection())
+                                 serve(*socket);
+                         });
+        m_server->listen(QHostAddress::LocalHost);
     }
 
     [[nodiscard]] QUrl url(const QString &pathAndQuery = QStringLiteral("/")) const
     {
-        return QUrl(
-            QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(pathAndQuery));
+        return QUrl(QStringLiteral("%1://127.0.0.1:%2%3")
+                        .arg(m_protocol == Protocol::Http ? QStringLiteral("http")
+                                                          : QStringLiteral("https"),
+                             QString::number(m_server->serverPort()), pathAndQuery));
     }
     [[nodiscard]] const QList<QByteArray> &requests() const { return m_requests; }
     /// What all connections together took of the answers.
@@ -84,24 +94,36 @@ public:
         return {{"slow", endless(head, " ", 20)},
                 {"endless", endless(head, QByteArray(100'000, ' '))},
                 {"truncated", raw(head + good.left(good.size() - 1))},
-                {"redirecting", redirect("http://localhost/")},
+                {"redirecting elsewhere", redirect("http://localhost/")},
+                {"redirecting for ever", redirect("/")},
                 {"wrong type", answer(good, "text/html")},
                 {"not JSON", answer("<html/>")},
                 {"refusing", answer(good, "application/json", "401 Unauthorized")}};
     }
 
 private:
+    static std::unique_ptr<QTcpServer> encrypted()
+    {
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setLocalCertificate(loopbackCertificate());
+        configuration.setPrivateKey(loopbackKey());
+        configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
+        auto server = std::make_unique<QSslServer>();
+        server->setSslConfiguration(configuration);
+        return server;
+    }
+
     void serve(QTcpSocket &socket)
     {
         ++m_openConnections;
-        QObject::connect(&socket, &QTcpSocket::disconnected, &m_server, [this, &socket] {
+        QObject::connect(&socket, &QTcpSocket::disconnected, m_server.get(), [this, &socket] {
             --m_openConnections;
             socket.deleteLater();
         });
-        QObject::connect(&socket, &QTcpSocket::bytesWritten, &m_server,
+        QObject::connect(&socket, &QTcpSocket::bytesWritten, m_server.get(),
                          [this](qint64 bytes) { m_bytesTaken += bytes; });
         auto head = std::make_shared<QByteArray>();
-        QObject::connect(&socket, &QTcpSocket::readyRead, &m_server, [this, &socket, head] {
+        QObject::connect(&socket, &QTcpSocket::readyRead, m_server.get(), [this, &socket, head] {
             *head += socket.readAll();
             if (!head->endsWith("\r\n\r\n"))
                 return;
@@ -112,7 +134,8 @@ private:
     }
 
     Behaviour m_behaviour;
-    QTcpServer m_server;
+    Protocol m_protocol;
+    std::unique_ptr<QTcpServer> m_server;
     QList<QByteArray> m_requests;
     qint64 m_bytesTaken = 0;
     int m_openConnections = 0;

@@ -150,7 +150,7 @@ private slots:
         const MessageLog log;
         QCOMPARE(answersOf(checker), (QStringList{u"started"_s, u"finished"_s}));
         QVERIFY2(log.warnings().size() == 1, qPrintable(log.text()));
-        QCOMPARE(server.requests().size(), 1);
+        QVERIFY(!server.requests().isEmpty() && server.bytesTaken() < 12 << 20);
     }
 };
 
