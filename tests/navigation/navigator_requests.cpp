@@ -88,6 +88,7 @@ Topic budgetItems()
         {"update bill", updated(item<Bill>("Rent", usd("11")))},
         {"update nontrack", updated(item<Nontrack>("Food", usd("11")))},
         {"update wage", updated(item<Wage>("Salary", usd("11")))},
+        {"update to a currency without a rate", updated(item<Bill>("Rent", money("EUR", "11")))},
         {"update unknown bill", updated(gas)},
         {"update unknown debt", updated(item<Debt>("Car"))},
         {"update with tags of another", mixedUp(gas, true)},
@@ -141,6 +142,14 @@ Topic budgetItemViews()
              n.onPrepareShowBills();
          }},
         {"tags are replaced", [](N &n) { updated(item<Bill>("Rent"))(n), n.onPrepareShowBills(); }},
+        {"a goal is moved and let go",
+         [](N &n) {
+             const auto trip = item<Goal>("Trip");
+             added(trip)(n), updated(trip, atFirst(1, BankAccountTypes::Checking))(n);
+             n.onPrepareShowGoals();
+             updated(trip)(n);
+             n.onLookUpBankAccounts(bankName("First"), AllowSubAccounts(true));
+         }},
     };
 }
 
@@ -239,6 +248,13 @@ Topic transactions()
         {"add", [=](N &n) { n.onAddedTransaction(shopping); }},
         {"add as shown under a number", [=](N &n) { n.onAddedTransaction(numbered); }},
         {"add to nowhere", [=](N &n) { n.onAddedTransaction(nowhere); }},
+        {"add in a currency without a rate",
+         [](N &n) { n.onAddedTransaction(transfer(no(8), no(1), money("EUR", "1"))); }},
+        {"add beyond all bounds",
+         [](N &n) {
+             const auto most = transfer(no(8), no(1), usd("99999999999999999999999999"));
+             n.onAddedTransaction(most), n.onAddedTransaction(most);
+         }},
         {"update", [=](N &n) { n.onUpdatedTransaction(txn(2), shopping); }},
         {"update unknown", [=](N &n) { n.onUpdatedTransaction(txn(9), shopping); }},
         {"remove", [=](N &n) { n.onRemovedTransaction(txn(2)); }},
@@ -257,6 +273,8 @@ Topic transactions()
              n.onMarkUnreconciled({txn(9), txn(2)});
          }},
         {"refund", [=](N &n) { n.onPostRefund(txn(2), usd("4")); }},
+        {"refund in a currency without a rate",
+         [=](N &n) { n.onPostRefund(txn(2), money("EUR", "1")); }},
         {"refund too much", [=](N &n) { n.onPostRefund(txn(2), usd("40")); }},
         {"show refund", [](N &n) { n.onPrepareShowBudgetItemRefund(); }},
         {"look up refundable",
@@ -305,6 +323,11 @@ Topic processing()
         {"skip", skip(BudgetItemTypes::Nontrack, "Food")},
         {"show what is due", [](N &n) { n.onPrepareShowProcessBudgetItems(); }},
         {"show dashboard", [](N &n) { n.onPrepareShowDashboard(); }},
+        {"show dashboard without a rate",
+         [](N &n) {
+             added(item<Bill>("Gas", money("EUR", "9")))(n);
+             n.onPrepareShowDashboard();
+         }},
         {"skip unknown", skip(BudgetItemTypes::Nontrack, "%1")},
     };
 }
@@ -363,6 +386,15 @@ Topic configuration()
         {"show rates", [](N &n) { n.onPrepareShowExchangeRates(); }},
         {"store no rates", [](N &n) { n.onStoreExchangeRates({}); }},
         {"fetch nothing", [](N &n) { n.onFetchExchangeRates({}); }},
+        {"refresh rates that hold",
+         [=](N &n) {
+             n.onStoreExchangeRates(conversion::ConversionMap(
+                 dollar, QDateTime::currentDateTimeUtc(),
+                 {{numira::toCurrency("EUR"), numira::FloatingPoint("2")}}));
+             QMetaObject::invokeMethod(&n, "updateAllExpiredExchangeRates", Qt::DirectConnection);
+             n.onStoreExchangeRates({});
+         }},
+        {"fetch release notes", [](N &n) { n.onFetchReleaseNotes(); }},
     };
 }
 
@@ -385,6 +417,7 @@ Topic budgetFile()
     using enum navigation::BudgetWizardTemplates;
     return {
         {"new", [](N &n) { n.onPrepareNewBudgetEmpty(); }},
+        {"new keeps the tags", [](N &n) { n.onConfirmedNewBudgetEmpty(), n.onPrepareShowBills(); }},
         {"new with changes", [=](N &n) { changed(n), n.onPrepareNewBudgetEmpty(); }},
         {"new confirmed", [=](N &n) { changed(n), n.onConfirmedNewBudgetEmpty(); }},
         {"new when empty but changed",
@@ -411,6 +444,7 @@ Topic budgetFile()
         {"prepare wizard", [](N &n) { n.onPrepareNewBudgetFirstTimeWizard(); }},
         {"prepare wizard with changes",
          [=](N &n) { changed(n), n.onPrepareNewBudgetFirstTimeWizard(); }},
+        {"wizard confirmed", [=](N &n) { changed(n), n.onConfirmedNewBudgetFirstTimeWizard(); }},
         {"wizard without items", wizard("Bank", "Daily", None)},
         {"wizard without a bank's name", wizard("", "Daily", None)},
         {"wizard for a child", wizard("Bank", "Daily", Child)},

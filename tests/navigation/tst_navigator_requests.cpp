@@ -12,11 +12,15 @@ class NavigatorRequests : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { m_first = std::make_unique<Desk>(); }
+    void cleanupTestCase() { m_first.reset(); }
     void saysWhatIsWrittenDown_data();
     void saysWhatIsWrittenDown();
+    void queuedViewsHearTheSame();
 
 private:
     OwnSettings m_settings;
+    std::unique_ptr<Desk> m_first; ///< converts for all others
 };
 
 namespace {
@@ -70,6 +74,49 @@ void NavigatorRequests::saysWhatIsWrittenDown()
     // Whatever answers with no success has changed nothing.
     if (!has("Succeeded"))
         QVERIFY(desk.save() == before);
+}
+
+void NavigatorRequests::queuedViewsHearTheSame()
+{
+    QSet<QString> heard;
+    const auto compare = [&](Desk &desk, const Request &request) {
+        SignalLog direct(*desk.navigator);
+        SignalLog queued(*desk.navigator, Qt::QueuedConnection);
+        try {
+            request(*desk.navigator);
+        } catch (const std::exception &) {
+            // What leaves a slot is another test's.
+        }
+        const QList<QVariantList> values = direct.takeValues();
+        const QStringList said = direct.take();
+        QVERIFY(queued.take().isEmpty());
+        QCoreApplication::sendPostedEvents(&queued);
+        QCOMPARE(queued.take(), said);
+        QVERIFY2(queued.takeValues() == values, qPrintable(said.join(u'\n')));
+        for (const QString &signal : said)
+            heard.insert(signal.section(u'(', 0, 0));
+    };
+    for (const auto &row : allRequests()) {
+        m_settings.reset();
+        Desk desk;
+        desk.furnish();
+        compare(desk, row.second);
+    }
+    // What comes from elsewhere than a request.
+    Desk desk;
+    compare(desk, [](Navigator &n) {
+        const updating::SemanticVersion latest(9, 1, 0);
+        emit n.fetchedReleaseNotes({{latest, day("2026-01-31"), QStringLiteral("More.")}});
+        emit n.updateReleased(latest);
+        emit n.updateAvailableAcknowledged();
+    });
+    const QMetaObject &meta = Navigator::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QString name = QString::fromLatin1(meta.method(i).name());
+        if (meta.method(i).methodType() == QMetaMethod::Signal)
+            QVERIFY2(heard.contains(name), qPrintable(name));
+    }
+    QCOMPARE(heard.size(), 50);
 }
 
 QTEST_GUILESS_MAIN(NavigatorRequests)

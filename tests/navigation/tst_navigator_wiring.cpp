@@ -27,7 +27,6 @@ private slots:
     void theFirstNavigatorConvertsForTheProcess();
     void metaObjectListsTheInterface();
     void everythingThatCrossesIsRegistered();
-    void queuedViewsHearTheSame();
     void startsWithTheStoredRates();
     void unreadableRatesAreNoObstacle();
     void firstRunOffersTheWizard();
@@ -129,25 +128,6 @@ void NavigatorWiring::everythingThatCrossesIsRegistered()
     }
     for (const QByteArray &name : names)
         QVERIFY2(QMetaType::fromName(name).isValid(), name.constData());
-}
-
-void NavigatorWiring::queuedViewsHearTheSame()
-{
-    Desk desk;
-    SignalLog direct(*desk.navigator);
-    SignalLog queued(*desk.navigator, Qt::QueuedConnection);
-    desk.furnish();
-    Navigator &n = *desk.navigator;
-    n.onPrepareShowBills(), n.onPrepareShowDebts(), n.onPrepareShowGoals();
-    n.onPrepareShowNontracks(), n.onPrepareShowWages(), n.onPrepareShowAccounts();
-    n.onPrepareShowBanks(), n.onSelectedLedger(code(1, "")), n.onPrepareShowProcessBudgetItems();
-    n.onPrepareShowDashboard(), n.onPrepareShowExchangeRates(), n.onPrepareShowConfigure();
-    n.onPrepareShowMoneyTransfer(), n.onPrepareShowSurvey(), n.onRemovedAct(code(99, ""));
-    n.onLookUpRefundableTransactions({budgeting::BudgetItemTypes::Bill, source("Rent")});
-    QCoreApplication::processEvents();
-    const QStringList heard = direct.take();
-    QVERIFY(heard.size() > 20);
-    QCOMPARE(queued.take(), heard);
 }
 
 void NavigatorWiring::startsWithTheStoredRates()
