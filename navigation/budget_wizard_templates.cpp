@@ -3,6 +3,8 @@
 
 #include "foundation/streams.h"
 
+#include <QtCore/QObject>
+
 #include <array>
 
 namespace kiv::navigation {
@@ -10,12 +12,12 @@ namespace kiv::navigation {
 std::ostream &operator<<(std::ostream &out, BudgetWizardTemplates household)
 {
     static constexpr std::array names{
-        "None",
-        "Child",
-        "Teenager",
-        "Adult, single",
-        "Adult, married, single income",
-        "Adult, married, double income",
+        QT_TRANSLATE_NOOP("QObject", "None"),
+        QT_TRANSLATE_NOOP("QObject", "Child"),
+        QT_TRANSLATE_NOOP("QObject", "Teenager"),
+        QT_TRANSLATE_NOOP("QObject", "Adult, single"),
+        QT_TRANSLATE_NOOP("QObject", "Adult, married, single income"),
+        QT_TRANSLATE_NOOP("QObject", "Adult, married, double income"),
     };
     const auto value = static_cast<std::size_t>(household);
     if (value < names.size())

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounting/transaction.h"
 
-#include "foundation/presentation.h"
+#include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 namespace kiv::accounting {
@@ -137,7 +137,7 @@ std::ostream &operator<<(std::ostream &out, const Transaction &transaction)
 {
     if (const auto &number = transaction.number())
         out << '#' << *number << ' ';
-    out << foundation::presentationText(transaction.occurredOn()).toStdString() << ' '
+    out << foundation::isoText(transaction.occurredOn()).toStdString() << ' '
         << transaction.amount() << ": debit " << transaction.debiting() << " ("
         << transaction.debitAmount() << ", " << transaction.debitStatus() << "), credit "
         << transaction.crediting() << " (" << transaction.creditAmount() << ", "

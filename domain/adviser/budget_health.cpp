@@ -2,6 +2,7 @@
 #include "adviser/budget_health.h"
 
 #include "foundation/streams.h"
+#include "numira/local_text.h"
 
 #include <QtCore/QObject>
 
@@ -19,6 +20,14 @@ constexpr std::array gradeNames{
     QT_TRANSLATE_NOOP("QObject", "poor"),    QT_TRANSLATE_NOOP("QObject", "critical"),
 };
 
+const char *nameOf(HealthGrade grade)
+{
+    const auto value = static_cast<std::size_t>(grade);
+    if (value >= gradeNames.size())
+        throw std::logic_error("An unknown budget health grade was supplied.");
+    return gradeNames.at(value);
+}
+
 constexpr int needsMax = 50;
 constexpr int freeSpendingMax = 30;
 constexpr int savingsMin = 20;
@@ -27,47 +36,71 @@ constexpr int debtsMax = 36;
 /// The share of the income in percent with one digit behind the point, rounded
 /// by `round` so that a missed limit never reads as if it were met.
 template <typename Round>
-QString shareText(const numira::Money &part, const numira::Money &income, Round round)
+double shareOf(const numira::Money &part, const numira::Money &income, Round round)
 {
     const double share = part.amount().toDouble() / income.amount().toDouble();
-    return QString::number(round(share * 1000.0) / 10.0);
+    return round(share * 1000.0) / 10.0;
 }
 
-/// `text` has the places %1 for the share and %2 for the limit.
-HealthReason atMost(int percent, const QString &text, const numira::Money &part,
+/// `sentence` has the places %1 for the share and %2 for the limit.
+HealthReason reason(bool isSound, const char *sentence, double share, int percent)
+{
+    const QString limit = QString::number(percent);
+    const QString plainShare = QString::number(share);
+    // A share beyond all bounds has an exponent, which is no decimal number.
+    const QString localShare = plainShare.contains(u'e')
+                                   ? plainShare
+                                   : QString::fromStdString(numira::toLocalText(
+                                         numira::Decimal::fromText(plainShare.toStdString())));
+    return {isSound, QObject::tr(sentence).arg(localShare, limit),
+            QString::fromLatin1(sentence).arg(plainShare, limit)};
+}
+
+HealthReason atMost(int percent, const char *sentence, const numira::Money &part,
                     const numira::Money &income)
 {
     const bool isSound = part.amount() <= income.amount().scaled(percent, 100);
     const auto round = [&](double tenths) {
         return isSound ? std::floor(tenths) : std::ceil(tenths);
     };
-    return {isSound, text.arg(shareText(part, income, round), QString::number(percent))};
+    return reason(isSound, sentence, shareOf(part, income, round), percent);
 }
 
-HealthReason atLeast(int percent, const QString &text, const numira::Money &part,
+HealthReason atLeast(int percent, const char *sentence, const numira::Money &part,
                      const numira::Money &income)
 {
     const bool isSound = part.amount() >= income.amount().scaled(percent, 100);
     const auto round = [](double tenths) { return std::floor(tenths); };
-    return {isSound, text.arg(shareText(part, income, round), QString::number(percent))};
+    return reason(isSound, sentence, shareOf(part, income, round), percent);
+}
+
+HealthReason withoutShare(bool isSound, const char *sentence)
+{
+    return {isSound, QObject::tr(sentence), QString::fromLatin1(sentence)};
 }
 
 std::vector<HealthReason> judgeShares(const budgeting::BudgetTotals &totals)
 {
     const numira::Money &income = totals.wages();
     return {
-        atMost(100, QObject::tr("%1 % of the income is planned; %2 % is all there is."),
+        atMost(100,
+               QT_TRANSLATE_NOOP("QObject", "%1 % of the income is planned; %2 % is all there is."),
                totals.outgoing(), income),
         atMost(needsMax,
-               QObject::tr("Bills and debts take %1 % of the income; up to %2 % is sound."),
+               QT_TRANSLATE_NOOP("QObject",
+                                 "Bills and debts take %1 % of the income; up to %2 % is sound."),
                totals.bills() + totals.debts(), income),
-        atMost(debtsMax, QObject::tr("Debts take %1 % of the income; up to %2 % is sound."),
+        atMost(debtsMax,
+               QT_TRANSLATE_NOOP("QObject", "Debts take %1 % of the income; up to %2 % is sound."),
                totals.debts(), income),
         atMost(freeSpendingMax,
-               QObject::tr("Free spending takes %1 % of the income; up to %2 % is sound."),
+               QT_TRANSLATE_NOOP("QObject",
+                                 "Free spending takes %1 % of the income; up to %2 % is sound."),
                totals.nontracks(), income),
-        atLeast(savingsMin, QObject::tr("Goals get %1 % of the income; from %2 % on is sound."),
-                totals.goals(), income),
+        atLeast(
+            savingsMin,
+            QT_TRANSLATE_NOOP("QObject", "Goals get %1 % of the income; from %2 % on is sound."),
+            totals.goals(), income),
     };
 }
 
@@ -77,7 +110,7 @@ HealthGrade gradeOf(const std::vector<HealthReason> &reasons)
     if (!reasons.front().isSound)
         return HealthGrade::Critical;
     const auto missed = std::count_if(reasons.begin(), reasons.end(),
-                                      [](const HealthReason &reason) { return !reason.isSound; });
+                                      [](const HealthReason &judged) { return !judged.isSound; });
     const auto worst = static_cast<std::ptrdiff_t>(HealthGrade::Poor);
     return static_cast<HealthGrade>(std::min(worst, 1 + missed));
 }
@@ -90,19 +123,23 @@ BudgetHealth::BudgetHealth(const budgeting::BudgetTotals &totals)
         m_reasons = judgeShares(totals);
         m_grade = gradeOf(m_reasons);
     } else if (totals.outgoing().isPositive()) {
-        m_reasons = {{false, QObject::tr("There is no income to pay for what goes out.")}};
+        m_reasons = {withoutShare(
+            false, QT_TRANSLATE_NOOP("QObject", "There is no income to pay for what goes out."))};
         m_grade = HealthGrade::Critical;
     } else {
-        m_reasons = {{true, QObject::tr("There is neither income nor spending to judge.")}};
+        m_reasons = {withoutShare(
+            true, QT_TRANSLATE_NOOP("QObject", "There is neither income nor spending to judge."))};
     }
 }
 
 QString presentationText(HealthGrade grade)
 {
-    const auto value = static_cast<std::size_t>(grade);
-    if (value >= gradeNames.size())
-        throw std::logic_error("An unknown budget health grade was supplied.");
-    return QObject::tr(gradeNames.at(value));
+    return QObject::tr(nameOf(grade));
+}
+
+QString toQString(HealthGrade grade)
+{
+    return QString::fromLatin1(nameOf(grade));
 }
 
 std::ostream &operator<<(std::ostream &out, HealthGrade grade)
@@ -117,8 +154,8 @@ std::ostream &operator<<(std::ostream &out, const BudgetHealth &health)
 {
     out << health.grade() << " (";
     const char *separator = "";
-    for (const auto &reason : health.reasons()) {
-        out << separator << foundation::escapedUtf8(reason.text);
+    for (const auto &judged : health.reasons()) {
+        out << separator << foundation::escapedUtf8(judged.plainText);
         separator = " ";
     }
     return out << ')';

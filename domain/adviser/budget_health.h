@@ -32,6 +32,8 @@ struct KIV_ADVISER_EXPORT HealthReason {
     bool isSound = true;
     /// The finding, as a sentence for the user.
     QString text;
+    /// The same for programs: in English, with plain numbers.
+    QString plainText = {};
 
     friend bool operator==(const HealthReason &, const HealthReason &) = default;
 };
@@ -70,6 +72,9 @@ private:
 /// The grade as one word for the user. Throws std::logic_error for a value
 /// outside the known ones.
 [[nodiscard]] KIV_ADVISER_EXPORT QString presentationText(HealthGrade grade);
+/// The grade's English name. Throws std::logic_error for a value outside the
+/// enumeration.
+[[nodiscard]] KIV_ADVISER_EXPORT QString toQString(HealthGrade grade);
 
 KIV_ADVISER_EXPORT std::ostream &operator<<(std::ostream &out, HealthGrade grade);
 KIV_ADVISER_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetHealth &health);

@@ -4,7 +4,7 @@
 #include "budgeting/internal/faults.h"
 #include "budgeting/item_traits.h"
 
-#include "foundation/presentation.h"
+#include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 #include <typeinfo>
@@ -77,9 +77,8 @@ void BudgetedMoney::streamKind(std::ostream &) const {}
 std::ostream &operator<<(std::ostream &out, const BudgetedMoney &item)
 {
     out << BudgetItemIdentifier{toBudgetItemTypes(item), item.source()} << ' ' << item.amount()
-        << ' ' << item.period() << " on "
-        << foundation::presentationText(item.nextOccurOn()).toStdString() << " day "
-        << item.dayOfMonth();
+        << ' ' << item.period() << " on " << foundation::isoText(item.nextOccurOn()).toStdString()
+        << " day " << item.dayOfMonth();
     item.streamKind(out);
     return out;
 }

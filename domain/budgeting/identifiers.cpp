@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budgeting/identifiers.h"
 
-#include "foundation/presentation.h"
+#include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 #include <QtCore/QObject>
@@ -64,7 +64,7 @@ std::ostream &operator<<(std::ostream &out, const BudgetItemIdentifier &id)
 
 std::ostream &operator<<(std::ostream &out, const BudgetItemDueIdentifier &id)
 {
-    return out << id.item() << " on " << foundation::presentationText(id.dueOn).toStdString();
+    return out << id.item() << " on " << foundation::isoText(id.dueOn).toStdString();
 }
 
 QDebug operator<<(QDebug debug, BudgetItemTypes type)

@@ -45,32 +45,32 @@ ConversionError rateMissing(const numira::Currency &from, const numira::Currency
 ConversionError replyMalformed(const QString &member)
 {
     return ConversionError(
-        QStringLiteral("The reply's member '%1' is missing or makes no sense.").arg(member));
+        QObject::tr("The reply's member '%1' is missing or makes no sense.").arg(member));
 }
 
 ConversionError replyUnknownCurrency(const QString &code)
 {
-    return ConversionError(QStringLiteral("The reply names an unknown currency '%1'.").arg(code));
+    return ConversionError(QObject::tr("The reply names an unknown currency '%1'.").arg(code));
 }
 
 QString fetchTimedOut()
 {
-    return QStringLiteral("No answer came in time.");
+    return QObject::tr("No answer came in time.");
 }
 
 QString sourceGone()
 {
-    return QStringLiteral("The source of the rates was destroyed before it answered.");
+    return QObject::tr("The source of the rates was destroyed before it answered.");
 }
 
 QString senderGone()
 {
-    return QStringLiteral("There is nothing left to send requests with.");
+    return QObject::tr("There is nothing left to send requests with.");
 }
 
 QString noWantedRates()
 {
-    return QStringLiteral("The reply has none of the wanted rates.");
+    return QObject::tr("The reply has none of the wanted rates.");
 }
 
 } // namespace internal

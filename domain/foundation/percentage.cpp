@@ -2,6 +2,7 @@
 #include "foundation/percentage.h"
 
 #include "foundation/streams.h"
+#include "numira/local_text.h"
 
 #include <cmath>
 #include <ostream>
@@ -13,6 +14,23 @@ namespace {
 /// Rates from here on are shown as floating-point numbers.
 constexpr double plainRateLimit = 1e15;
 
+/// Anything can stand in a settings file, and it must be showable.
+bool isPlain(const Percentage &percentage)
+{
+    return std::abs(percentage.rate()) < plainRateLimit;
+}
+
+numira::Decimal shown(const Percentage &percentage)
+{
+    return numira::Decimal::fromDouble(percentage.rate()).roundedHalfEven(percentage.digits());
+}
+
+QString rateText(const Percentage &percentage)
+{
+    return isPlain(percentage) ? QString::fromStdString(shown(percentage).toText())
+                               : QString::number(percentage.rate());
+}
+
 } // namespace
 
 numira::Decimal Percentage::fraction() const
@@ -22,18 +40,14 @@ numira::Decimal Percentage::fraction() const
 
 QString presentationText(const Percentage &percentage)
 {
-    const double rate = percentage.rate();
-    // Anything can stand in a settings file, and it must be showable.
-    if (!(std::abs(rate) < plainRateLimit))
-        return QString::number(rate) + QStringLiteral(" %");
-    const numira::Decimal shown =
-        numira::Decimal::fromDouble(rate).roundedHalfEven(percentage.digits());
-    return QString::fromStdString(shown.toText()) + QStringLiteral(" %");
+    if (!isPlain(percentage))
+        return rateText(percentage) + QStringLiteral(" %");
+    return QString::fromStdString(numira::toLocalText(shown(percentage))) + QStringLiteral(" %");
 }
 
 std::ostream &operator<<(std::ostream &out, const Percentage &percentage)
 {
-    return out << presentationText(percentage).toStdString();
+    return out << rateText(percentage).toStdString() << " %";
 }
 
 QDebug operator<<(QDebug debug, const Percentage &percentage)

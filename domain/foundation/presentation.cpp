@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/presentation.h"
 
+#include "foundation/local_dates.h"
+
 #include <QtCore/QObject>
 
 namespace kiv::foundation {
 
 QString presentationText(QDate date)
 {
-    return date.isValid() ? date.toString(Qt::ISODate) : QObject::tr("no date");
+    return date.isValid() ? localText(date) : QObject::tr("no date");
 }
 
 QString presentationText(const numira::Money &money)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networking/errors.h"
 
+#include <QtCore/QObject>
+
 namespace kiv::networking {
 
 ReplyError::~ReplyError() = default;
@@ -9,53 +11,53 @@ namespace internal {
 
 QString managerDestroyed()
 {
-    return QStringLiteral("The request manager was destroyed before the answer came.");
+    return QObject::tr("The request manager was destroyed before the answer came.");
 }
 
 QString noSender()
 {
-    return QStringLiteral("There is nothing to send requests with.");
+    return QObject::tr("There is nothing to send requests with.");
 }
 
 QString addressNotAllowed()
 {
-    return QStringLiteral("Only HTTPS is allowed, and plain HTTP to the loopback address.");
+    return QObject::tr("Only HTTPS is allowed, and plain HTTP to the loopback address.");
 }
 
 QString redirectNotAllowed()
 {
-    return QStringLiteral("The server redirected to another host or to a protocol that is not "
-                          "allowed.");
+    return QObject::tr("The server redirected to another host or to a protocol that is not "
+                       "allowed.");
 }
 
 QString tooManyRedirects(int redirectsMax)
 {
-    return QStringLiteral("The server redirected more than %1 times.").arg(redirectsMax);
+    return QObject::tr("The server redirected more than %1 times.").arg(redirectsMax);
 }
 
 QString timedOut(qint64 milliseconds)
 {
-    return QStringLiteral("The reply was not complete after %1 ms.").arg(milliseconds);
+    return QObject::tr("The reply was not complete after %1 ms.").arg(milliseconds);
 }
 
 QString bodyTooLarge(qint64 bytesMax)
 {
-    return QStringLiteral("The reply is larger than %1 bytes.").arg(bytesMax);
+    return QObject::tr("The reply is larger than %1 bytes.").arg(bytesMax);
 }
 
 QString statusNotOk(int status)
 {
-    return QStringLiteral("The server answered with the status %1.").arg(status);
+    return QObject::tr("The server answered with the status %1.").arg(status);
 }
 
 QString contentEncoded()
 {
-    return QStringLiteral("The reply is compressed although that was not asked for.");
+    return QObject::tr("The reply is compressed although that was not asked for.");
 }
 
 QString transferFailed(const QString &error)
 {
-    return QStringLiteral("The transfer failed (%1).").arg(error);
+    return QObject::tr("The transfer failed (%1).").arg(error);
 }
 
 ReplyError requestFailed(const QString &reason)
@@ -65,18 +67,18 @@ ReplyError requestFailed(const QString &reason)
 
 ReplyError notJsonType(const QString &contentType)
 {
-    return ReplyError(QStringLiteral("The reply's type is '%1' and not JSON.").arg(contentType));
+    return ReplyError(QObject::tr("The reply's type is '%1' and not JSON.").arg(contentType));
 }
 
 ReplyError notJson(const QString &reason, int offset)
 {
-    return ReplyError(QStringLiteral("The reply is not JSON: %1 at byte %2.")
-                          .arg(reason, QString::number(offset)));
+    return ReplyError(
+        QObject::tr("The reply is not JSON: %1 at byte %2.").arg(reason, QString::number(offset)));
 }
 
 ReplyError duplicateMembers()
 {
-    return ReplyError(QStringLiteral("The reply names a member twice."));
+    return ReplyError(QObject::tr("The reply names a member twice."));
 }
 
 } // namespace internal

@@ -2,6 +2,7 @@
 #include "numira/library.h"
 
 #include "numira/error.h"
+#include "numira/local_text.h"
 
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
@@ -49,23 +50,33 @@ std::optional<std::string> normalised(const std::string &name, NameFunction func
     return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
 
+/// The name by which ICU knows the locale, or a near one where that is allowed.
+std::string known(const std::string &localeName, ShouldAllowFallback fallback)
+{
+    static const std::set<std::string> available = availableLocales();
+    std::optional<std::string> locale = normalised(localeName, uloc_canonicalize);
+    if (locale && available.contains(*locale))
+        return *locale;
+    if (fallback == ShouldAllowFallback::No)
+        throw Error("The locale '" + localeName + "' is unknown.");
+    locale = normalised(localeName, uloc_getLanguage);
+    return locale && available.contains(*locale) ? *locale : "en_US";
+}
+
 } // namespace
 
 void setUpLibrary(const Converter &converter, const std::string &localeName,
                   ShouldAllowFallback fallback)
 {
-    static const std::set<std::string> available = availableLocales();
-    std::optional<std::string> locale = normalised(localeName, uloc_canonicalize);
-    if (!locale || !available.contains(*locale)) {
-        if (fallback == ShouldAllowFallback::No)
-            throw Error("The locale '" + localeName + "' is unknown.");
-        locale = normalised(localeName, uloc_getLanguage);
-        if (!locale || !available.contains(*locale))
-            locale = "en_US";
-    }
+    std::string locale = known(localeName, fallback);
     Converter copy = converter;
     state().converter.swap(copy);
-    state().locale.swap(*locale);
+    state().locale.swap(locale);
+}
+
+void setLocale(const std::string &localeName, ShouldAllowFallback fallback)
+{
+    state().locale = known(localeName, fallback);
 }
 
 const std::string &libraryLocale()

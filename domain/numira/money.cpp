@@ -4,9 +4,6 @@
 #include "numira/error.h"
 #include "numira/library.h"
 
-#include <unicode/numberformatter.h>
-
-#include <map>
 #include <ostream>
 #include <string>
 
@@ -28,40 +25,6 @@ std::int64_t powerOfTen(unsigned exponent)
 bool isEmpty(const Money &money)
 {
     return money.isZero() && money.code() == Currency();
-}
-
-icu::number::LocalizedNumberFormatter makeFormatter(const Currency &currency)
-{
-    const auto digits = static_cast<int32_t>(minorUnitDigits(currency));
-    icu::number::UnlocalizedNumberFormatter formatter =
-        icu::number::NumberFormatter::with()
-            .precision(icu::number::Precision::minMaxFraction(
-                digits, static_cast<int32_t>(Decimal::scaleDigits)))
-            .roundingMode(UNUM_ROUND_HALFEVEN);
-    if (currency != Currency()) {
-        UErrorCode status = U_ZERO_ERROR;
-        const icu::CurrencyUnit unit(
-            icu::StringPiece(currency.code().data(), static_cast<int32_t>(currency.code().size())),
-            status);
-        formatter = formatter.unit(unit);
-    }
-    return formatter.locale(icu::Locale(libraryLocale().c_str()));
-}
-
-/// The formatter for the currency in the library's locale. Making one takes
-/// ICU far longer than using it.
-const icu::number::LocalizedNumberFormatter &formatterFor(const Currency &currency)
-{
-    thread_local std::string locale;
-    thread_local std::map<Currency, icu::number::LocalizedNumberFormatter> formatters;
-    if (locale != libraryLocale()) {
-        formatters.clear();
-        locale = libraryLocale();
-    }
-    auto found = formatters.find(currency);
-    if (found == formatters.end())
-        found = formatters.emplace(currency, makeFormatter(currency)).first;
-    return found->second;
 }
 
 } // namespace
@@ -142,21 +105,6 @@ std::string toText(const Money &money)
 Money toMoney(const Currency &currency, std::string_view text)
 {
     return {currency, Decimal::fromText(text)};
-}
-
-std::string toLocalText(const Money &money)
-{
-    const std::string plain = money.amount().toText();
-    UErrorCode status = U_ZERO_ERROR;
-    std::string text;
-    formatterFor(money.code())
-        .formatDecimal(icu::StringPiece(plain.data(), static_cast<int32_t>(plain.size())), status)
-        .toString(status)
-        .toUTF8String(text);
-    if (U_SUCCESS(status))
-        return text;
-    // Without the locale's data an amount is still shown, and shown exactly.
-    return toText(money) + ' ' + toStdString(money.code());
 }
 
 std::ostream &operator<<(std::ostream &out, const Money &money)

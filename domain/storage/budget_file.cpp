@@ -8,6 +8,7 @@
 
 #include "foundation/streams.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QScopeGuard>
 
 #include <new>
@@ -197,7 +198,8 @@ BudgetStorage::Data BudgetFile::load()
     QStringList mended;
     Data data = chosen.file->load(mended);
     for (const QString &sentence : mended)
-        qWarning().noquote() << "Mended while loading:" << foundation::escaped(sentence);
+        qWarning().noquote() << foundation::escaped(
+            QObject::tr("Mended while loading: %1").arg(sentence));
     if (chosen.other)
         m_open = std::move(chosen.other);
     backOnFailure.dismiss();

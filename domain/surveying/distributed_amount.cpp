@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/distributed_amount.h"
 
+#include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
 
@@ -38,7 +39,7 @@ QString presentationText(const DistributedAmount &amount)
 std::ostream &operator<<(std::ostream &out, const DistributedAmount &amount)
 {
     return out << amount.distributed() << " of " << amount.expected() << " by "
-               << foundation::presentationText(amount.nextOccurOn()).toStdString();
+               << foundation::isoText(amount.nextOccurOn()).toStdString();
 }
 
 QDebug operator<<(QDebug debug, const DistributedAmount &amount)

@@ -3,7 +3,7 @@
 
 #include "surveying/internal/stream_maps.h"
 
-#include "foundation/presentation.h"
+#include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 namespace kiv::surveying {
@@ -29,7 +29,7 @@ std::ostream &operator<<(std::ostream &out, const MappingSurvey &survey)
         foundation::streamRange(out, changes);
     };
     out << survey.reconciled() << ", expected " << survey.expectedBalance() << " since "
-        << foundation::presentationText(survey.startOn()).toStdString() << ", items ";
+        << foundation::isoText(survey.startOn()).toStdString() << ", items ";
     internal::streamMap(out, survey.budgetItemChanges(), streamChanges);
     out << ", distributed ";
     internal::streamMap(out, survey.distributions());

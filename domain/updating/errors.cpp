@@ -17,12 +17,12 @@ UpdateError notAVersion(const QString &text)
 UpdateError releaseMemberMalformed(const QString &member)
 {
     return UpdateError(
-        QStringLiteral("The release's member '%1' is missing or makes no sense.").arg(member));
+        QObject::tr("The release's member '%1' is missing or makes no sense.").arg(member));
 }
 
 UpdateError notAListOfReleases()
 {
-    return UpdateError(QStringLiteral("The reply is not a list of releases."));
+    return UpdateError(QObject::tr("The reply is not a list of releases."));
 }
 
 } // namespace internal

@@ -2,6 +2,7 @@
 #include <QtTest/QtTest>
 
 #include "adviser/budget_health.h"
+#include "numira/local_text.h"
 
 using kiv::adviser::BudgetHealth;
 using kiv::adviser::HealthGrade;
@@ -65,14 +66,28 @@ private slots:
         budget.nontracks.add(item<kiv::budgeting::Nontrack>(amount.at(4)));
         const BudgetHealth health(BudgetTotals(budget, usd, EventFrequency::Monthly));
         QStringList expected = missed.split(u"; "_s, Qt::SkipEmptyParts);
-        for (const auto &[isSound, text] : health.reasons()) {
+        for (const auto &[isSound, text, plainText] : health.reasons()) {
             if (!isSound)
                 QVERIFY2(!expected.isEmpty() && text.startsWith(expected.takeFirst()),
                          qPrintable(text));
+            QCOMPARE(plainText, text);
         }
         QCOMPARE(expected, QStringList());
         QCOMPARE(health.grade(), grade);
         QVERIFY(!health.reasons().empty());
+    }
+
+    void onlyProgramsReadPlainNumbers()
+    {
+        kiv::budgeting::Budget budget;
+        budget.wages.add(item<kiv::budgeting::Wage>(u"3"_s));
+        budget.nontracks.add(item<kiv::budgeting::Nontrack>(u"1"_s));
+        numira::setLocale("de_DE", numira::ShouldAllowFallback::No);
+        const BudgetHealth health(BudgetTotals(budget, usd, EventFrequency::Monthly));
+        numira::setLocale("en_US", numira::ShouldAllowFallback::No);
+        const auto reason = health.reasons().at(3);
+        QVERIFY(reason.text.startsWith(u"Free spending takes 33,4 % of"_s));
+        QVERIFY(reason.plainText.startsWith(u"Free spending takes 33.4 % of"_s));
     }
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "foundation/dates.h"
+#include "foundation/local_dates.h"
 #include "foundation/percentage.h"
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
@@ -42,6 +43,31 @@ private slots:
         QCOMPARE(daysBetween(leapDay, QDate(2024, 2, 1)), -28);
         QCOMPARE(presentationText(leapDay.addDays(1)), u"2024-03-01"_qs);
         QCOMPARE(presentationText(QDate()), u"no date"_qs);
+    }
+
+    void peopleReadDatesAndSharesInTheirLocale_data()
+    {
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("de_AT.UTF-8") << u"09.03.2026"_qs;
+        QTest::newRow("es_ES") << u"09/03/2026"_qs;
+        QTest::newRow("en_US.UTF-8@euro") << u"03/09/2026"_qs;
+        QTest::newRow("hu_HU") << u"2026. 03. 09."_qs;
+        QTest::newRow("th_TH") << u"09/03/2026"_qs; // another calendar
+        QTest::newRow("C.UTF-8") << u"2026-03-09"_qs;
+        QTest::newRow("POSIX") << u"2026-03-09"_qs;
+        QTest::newRow("") << u"2026-03-09"_qs;
+    }
+
+    void peopleReadDatesAndSharesInTheirLocale()
+    {
+        QFETCH(const QString, shown);
+        const auto back = qScopeGuard([] { kiv::foundation::setDateLocale(""); });
+        kiv::foundation::setDateLocale(QTest::currentDataTag());
+        const QDate date(2026, 3, 9);
+        QCOMPARE(presentationText(date), shown);
+        QCOMPARE(kiv::foundation::dateFromLocalText(shown), date);
+        QVERIFY(!kiv::foundation::dateFromLocalText(shown.left(9)).isValid());
+        QCOMPARE(kiv::foundation::isoText(date), u"2026-03-09"_qs);
     }
 
     void elapsedMonthsAddUpAndKeepTheDay()

@@ -3,6 +3,7 @@
 
 #include "numira/error.h"
 #include "numira/library.h"
+#include "numira/local_text.h"
 #include "numira/money.h"
 
 #include <limits>
@@ -175,8 +176,50 @@ private slots:
                  u"$12,345,678,901,234,567,890.123456789012"_qs);
         QCOMPARE(text("ALL", "3"), u"ALL\u00A03.00"_qs);
         QCOMPARE(text("XXX", "1.5"), u"1.5"_qs);
-        numira::setUpLibrary({}, "de_DE", numira::ShouldAllowFallback::No);
+        const auto withCode = [] {
+            return QString::fromStdString(numira::toLocalTextWithCode(Money(usd, 1234, 50)));
+        };
+        QCOMPARE(withCode(), u"USD\u00A01,234.50"_qs);
+        numira::setLocale("de_DE.UTF-8", numira::ShouldAllowFallback::No);
         QCOMPARE(text("USD", "1234.5"), u"1.234,50\u00A0$"_qs);
+        QCOMPARE(withCode(), u"1.234,50\u00A0USD"_qs);
+        QCOMPARE(numira::toLocalText(numira::Decimal::fromText("1234.25")), std::string("1234,25"));
+        QCOMPARE(Money(eur, 1, 0).convertedTo(usd), Money(usd, 0, 25)); // the converter stays
+    }
+
+    void localTextIsReadWhenItHasOneMeaning_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("plain");
+        const auto row = [](const char *name, const char *locale, const char16_t *text,
+                            const char *plain) {
+            QTest::newRow(name) << QString::fromLatin1(locale) << QString::fromUtf16(text)
+                                << QString::fromLatin1(plain);
+        };
+        row("groups and decimals", "de_DE", u"-1.234.567,50", "-1234567.50");
+        row("decimals alone", "de_DE", u"1234,5", "1234.5");
+        row("a short first group", "en_US", u"12,345.60", "12345.60");
+        row("a typewriter's apostrophe", "de_CH", u"1'234.50", "1234.50");
+        row("a typewriter's blank", "fr_FR", u"1 234,50", "1234.50");
+        row("a true minus", "sv_SE", u"\u22121,5", "-1.5");
+        row("groups alone", "de_DE", u"1.234", "");
+        row("a torn group", "de_DE", u"1.23,50", "");
+        row("digits before whole groups", "de_DE", u"1234.567,50", "");
+        row("another country's", "de_DE", u"1,234.50", "");
+        row("no digits behind", "de_DE", u"12,", "");
+        row("no digits before", "de_DE", u",50", "");
+        row("a currency", "de_DE", u"12,50 EUR", "");
+    }
+
+    void localTextIsReadWhenItHasOneMeaning()
+    {
+        QFETCH(const QString, locale);
+        QFETCH(const QString, text);
+        QFETCH(const QString, plain);
+        numira::setLocale(locale.toStdString(), numira::ShouldAllowFallback::No);
+        QCOMPARE(numira::fromLocalText(text.toStdString()).value_or(std::string()),
+                 plain.toStdString());
     }
 };
 

@@ -7,6 +7,7 @@
 #include "foundation/streams.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QObject>
 
 #include <algorithm>
 #include <cstring>
@@ -204,8 +205,8 @@ void AtomicFileWriter::keepPrevious()
     // Some file systems have no links; others forbid links to other people's
     // files or to files with very many of them.
     if (!m_hasPreviousName && (errno == EPERM || errno == EMLINK || isUnsupported(errno)))
-        qWarning().noquote() << "Saving without a backup:"
-                             << foundation::escaped(qt_error_string(errno));
+        qWarning().noquote() << foundation::escaped(
+            QObject::tr("Saving without a backup: %1").arg(qt_error_string(errno)));
     else
         check(m_hasPreviousName);
 }
@@ -243,8 +244,8 @@ void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
     const auto rename = [this](const QByteArray &from, const QByteArray &to) {
         if (::renameat(m_folder.get(), from.constData(), m_folder.get(), to.constData()) != 0 &&
             errno != ENOENT)
-            qWarning().noquote() << "A backup could not be kept:"
-                                 << foundation::escaped(qt_error_string(errno));
+            qWarning().noquote() << foundation::escaped(
+                QObject::tr("A backup could not be kept: %1").arg(qt_error_string(errno)));
     };
     if (backups > 0) {
         for (unsigned number = backups; number > 1; --number)

@@ -4,6 +4,8 @@
 #include "accounting/errors.h"
 #include "accounting/ledger_replay.h"
 
+#include <QtCore/QObject>
+
 #include <limits>
 #include <map>
 #include <vector>
@@ -132,10 +134,12 @@ Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
         const numira::Money amount = row.money();
         const std::optional<numira::Decimal> debitAmount = row.optionalDecimal();
         const std::optional<numira::Decimal> creditAmount = row.optionalDecimal();
-        Transaction transaction(date, debit, credit, amount, row.optionalText(), number);
+        std::optional<QString> description = row.optionalText();
         const auto debitStatus = row.enumerator(TransactionStatuses::Reconciled);
         const auto creditStatus = row.enumerator(TransactionStatuses::Reconciled);
-        if (debitStatus != TransactionStatuses::None || creditStatus != TransactionStatuses::None)
+        Transaction transaction(date, debit, credit, amount, std::move(description), number,
+                                debitStatus);
+        if (creditStatus != debitStatus)
             transaction = transaction.withStatuses(debitStatus, creditStatus);
         if (debitAmount || creditAmount)
             transaction = withStoredSides(transaction, accounts, debitAmount, creditAmount);
@@ -195,7 +199,7 @@ accounting::GeneralLedger readLedger(const ImageDatabase &database, Seal &seal, 
         try {
             replay.close(number);
         } catch (const accounting::AccountError &) {
-            mended << QStringLiteral("The closed account '%1' has a balance and was opened.")
+            mended << QObject::tr("The closed account '%1' has a balance and was opened.")
                           .arg(account.name);
         }
     }

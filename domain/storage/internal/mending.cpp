@@ -4,6 +4,8 @@
 #include "accounting/account_number_generator.h"
 #include "budgeting/item_account.h"
 
+#include <QtCore/QObject>
+
 #include <algorithm>
 
 namespace kiv::storage::internal {
@@ -51,7 +53,7 @@ private:
         }
         m_data.itemTags.rename(id, name);
         renameInSurveys(id, name);
-        m_mended << QStringLiteral("A budget item without a name was named '%1'.").arg(name.name());
+        m_mended << QObject::tr("A budget item without a name was named '%1'.").arg(name.name());
     }
 
     /// "Unnamed bill", or that with a number behind it.
@@ -113,8 +115,8 @@ private:
             }
             m_data.budgetAccountCodes.remove<Item>(source);
             if (!hasItem)
-                m_mended << QStringLiteral("The account %1 belonged to the budget item '%2', "
-                                           "which is gone.")
+                m_mended << QObject::tr("The account %1 belonged to the budget item '%2', "
+                                        "which is gone.")
                                 .arg(presentationText(number), source.name());
         }
     }
@@ -132,10 +134,10 @@ private:
                 found ? *found : openAccount(item, ItemTraits<Item>::accountType);
             m_claimed.insert(number);
             tied.insertOrAssign<Item>(source, number);
-            m_mended << (found ? QStringLiteral("The budget item '%1' had lost its account, which "
-                                                "was found under the number %2.")
-                               : QStringLiteral("The budget item '%1' had lost its account, which "
-                                                "was opened anew under the number %2."))
+            m_mended << (found ? QObject::tr("The budget item '%1' had lost its account, which "
+                                             "was found under the number %2.")
+                               : QObject::tr("The budget item '%1' had lost its account, which "
+                                             "was opened anew under the number %2."))
                             .arg(source.name(), presentationText(number));
         }
     }
@@ -193,7 +195,7 @@ private:
                 if (m_data.generalLedger.hasLedger(number))
                     continue;
                 m_data.banks.remove(name, number);
-                m_mended << QStringLiteral("The bank '%1' had the account %2, which is gone.")
+                m_mended << QObject::tr("The bank '%1' had the account %2, which is gone.")
                                 .arg(name.institution(), presentationText(number));
             }
         }
