@@ -1,0 +1,2652 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Asset</source>
+        <translation>Vermögen</translation>
+    </message>
+    <message>
+        <source>Equity</source>
+        <translation>Eigenkapital</translation>
+    </message>
+    <message>
+        <source>Expense</source>
+        <translation>Aufwand</translation>
+    </message>
+    <message>
+        <source>Liability</source>
+        <translation>Verbindlichkeit</translation>
+    </message>
+    <message>
+        <source>Income</source>
+        <translation>Ertrag</translation>
+    </message>
+    <message>
+        <source>There is no account with the number %1.</source>
+        <translation>Es gibt kein Konto mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; needs a number above 0.</source>
+        <translation>Das Konto „%1“ braucht eine Nummer über 0.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot have a number that the account &apos;%2&apos; has.</source>
+        <translation>Das Konto „%1“ kann keine Nummer haben, die das Konto „%2“ schon hat.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; needs a type.</source>
+        <translation>Das Konto „%1“ braucht eine Kontoart.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot stand under the account %2, which does not exist.</source>
+        <translation>Das Konto „%1“ kann nicht unter dem Konto %2 stehen, da es dieses nicht gibt.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; of type %2 cannot stand under the account &apos;%3&apos; of type %4.</source>
+        <translation>Das Konto „%1“ der Art %2 kann nicht unter dem Konto „%3“ der Art %4 stehen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;, which is itself or stands below it.</source>
+        <translation>Das Konto „%1“ kann nicht unter dem Konto „%2“ stehen, da dieses es selbst ist oder unter ihm steht.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; is open already.</source>
+        <translation>Das Konto „%1“ ist bereits offen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; is closed.</source>
+        <translation>Das Konto „%1“ ist geschlossen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be closed while its balance is %2.</source>
+        <translation>Das Konto „%1“ kann nicht geschlossen werden, solange sein Saldo %2 beträgt.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be removed while accounts stand under it.</source>
+        <translation>Das Konto „%1“ kann nicht entfernt werden, solange Konten unter ihm stehen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be removed while it has transactions.</source>
+        <translation>Das Konto „%1“ kann nicht entfernt werden, solange es Buchungen hat.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be removed while the transaction %2, which opened it, is reconciled.</source>
+        <translation>Das Konto „%1“ kann nicht entfernt werden, solange seine Eröffnungsbuchung %2 abgeglichen ist.</translation>
+    </message>
+    <message>
+        <source>The amounts of the account &apos;%1&apos; would become too large.</source>
+        <translation>Die Beträge des Kontos „%1“ würden zu groß.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be kept in %2, as the amount of its transaction %3 cannot be converted.</source>
+        <translation>Das Konto „%1“ kann nicht in %2 geführt werden, da der Betrag seiner Buchung %3 nicht umgerechnet werden kann.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; cannot be kept in %2, in which the %3 of its transaction %4 come to nothing.</source>
+        <translation>Das Konto „%1“ kann nicht in %2 geführt werden, da die %3 seiner Buchung %4 darin null ergeben.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; of type %2 cannot hold opening balances.</source>
+        <translation>Das Konto „%1“ der Art %2 kann keine Anfangssalden aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; was opened by the transaction %2 already.</source>
+        <translation>Das Konto „%1“ wurde bereits durch die Buchung %2 eröffnet.</translation>
+    </message>
+    <message>
+        <source>The balance %1 of the account &apos;%2&apos; cannot be changed by %3.</source>
+        <translation>Der Saldo %1 des Kontos „%2“ kann nicht um %3 geändert werden.</translation>
+    </message>
+    <message>
+        <source>The amounts %1 and %2 cannot be compared.</source>
+        <translation>Die Beträge %1 und %2 können nicht verglichen werden.</translation>
+    </message>
+    <message>
+        <source>There is no transaction with the number %1.</source>
+        <translation>Es gibt keine Buchung mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>A transaction needs a valid day.</source>
+        <translation>Eine Buchung braucht einen gültigen Tag.</translation>
+    </message>
+    <message>
+        <source>The amount of a transaction must be above zero, but is %1.</source>
+        <translation>Der Betrag einer Buchung muss über null liegen, ist aber %1.</translation>
+    </message>
+    <message>
+        <source>A transaction cannot debit and credit the same account &apos;%1&apos;.</source>
+        <translation>Eine Buchung kann nicht dasselbe Konto „%1“ im Soll und im Haben haben.</translation>
+    </message>
+    <message>
+        <source>The amount %1 cannot be converted into %2.</source>
+        <translation>Der Betrag %1 kann nicht in %2 umgerechnet werden.</translation>
+    </message>
+    <message>
+        <source>The amount %1 comes to nothing in %2.</source>
+        <translation>Der Betrag %1 ergibt in %2 null.</translation>
+    </message>
+    <message>
+        <source>The ledger is full: it holds at most 65,535 transactions.</source>
+        <translation>Das Hauptbuch ist voll: Es fasst höchstens 65.535 Buchungen.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 is reconciled and cannot be changed before it is unreconciled.</source>
+        <translation>Die Buchung %1 ist abgeglichen und kann erst geändert werden, wenn ihr Abgleich aufgehoben ist.</translation>
+    </message>
+    <message>
+        <source>The account %1 has no part in the transaction %2.</source>
+        <translation>Das Konto %1 ist an der Buchung %2 nicht beteiligt.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 opened the account &apos;%2&apos; and cannot leave it.</source>
+        <translation>Die Buchung %1 hat das Konto „%2“ eröffnet und kann es nicht verlassen.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 is a refund of the transaction %2 and cannot be refunded itself.</source>
+        <translation>Die Buchung %1 ist eine Erstattung der Buchung %2 und kann nicht selbst erstattet werden.</translation>
+    </message>
+    <message>
+        <source>A refund of %1 exceeds the %2 that are left of the transaction %3.</source>
+        <translation>Eine Erstattung von %1 übersteigt die %2, die von der Buchung %3 übrig sind.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 cannot be lowered to %2, as %3 of it were refunded.</source>
+        <translation>Die Buchung %1 kann nicht auf %2 gesenkt werden, da %3 von ihr erstattet wurden.</translation>
+    </message>
+    <message>
+        <source>The accounts of the transaction %1 cannot be changed, as it is a refund or was refunded.</source>
+        <translation>Die Konten der Buchung %1 können nicht geändert werden, da sie eine Erstattung ist oder erstattet wurde.</translation>
+    </message>
+    <message>
+        <source>The amount of the transaction %1 must stay in %2, in which it was refunded.</source>
+        <translation>Der Betrag der Buchung %1 muss in %2 bleiben, da sie darin erstattet wurde.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 cannot be removed, as %2 of it were refunded.</source>
+        <translation>Die Buchung %1 kann nicht entfernt werden, da %2 von ihr erstattet wurden.</translation>
+    </message>
+    <message>
+        <source>A stored transaction has no number.</source>
+        <translation>Eine gespeicherte Buchung hat keine Nummer.</translation>
+    </message>
+    <message>
+        <source>The transaction number %1 stands for two transactions.</source>
+        <translation>Die Buchungsnummer %1 steht für zwei Buchungen.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 cannot have the amount %2 in the account &apos;%3&apos;.</source>
+        <translation>Die Buchung %1 kann im Konto „%3“ nicht den Betrag %2 haben.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 cannot be a refund of the transaction %2.</source>
+        <translation>Die Buchung %1 kann keine Erstattung der Buchung %2 sein.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 cannot have opened the account &apos;%2&apos;.</source>
+        <translation>Die Buchung %1 kann das Konto „%2“ nicht eröffnet haben.</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>excellent</source>
+        <translation>ausgezeichnet</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>gut</translation>
+    </message>
+    <message>
+        <source>fair</source>
+        <translation>mittelmäßig</translation>
+    </message>
+    <message>
+        <source>poor</source>
+        <translation>schlecht</translation>
+    </message>
+    <message>
+        <source>critical</source>
+        <translation>kritisch</translation>
+    </message>
+    <message>
+        <source>%1 % of the income is planned; %2 % is all there is.</source>
+        <translation>%1 % des Einkommens sind verplant; mehr als %2 % gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Bills and debts take %1 % of the income; up to %2 % is sound.</source>
+        <translation>Rechnungen und Schulden brauchen %1 % des Einkommens; bis %2 % sind solide.</translation>
+    </message>
+    <message>
+        <source>Debts take %1 % of the income; up to %2 % is sound.</source>
+        <translation>Schulden brauchen %1 % des Einkommens; bis %2 % sind solide.</translation>
+    </message>
+    <message>
+        <source>Free spending takes %1 % of the income; up to %2 % is sound.</source>
+        <translation>Freie Ausgaben brauchen %1 % des Einkommens; bis %2 % sind solide.</translation>
+    </message>
+    <message>
+        <source>Goals get %1 % of the income; from %2 % on is sound.</source>
+        <translation>Ziele bekommen %1 % des Einkommens; ab %2 % ist das solide.</translation>
+    </message>
+    <message>
+        <source>There is no income to pay for what goes out.</source>
+        <translation>Es gibt kein Einkommen, das die Ausgaben deckt.</translation>
+    </message>
+    <message>
+        <source>There is neither income nor spending to judge.</source>
+        <translation>Es gibt weder Einkommen noch Ausgaben zu beurteilen.</translation>
+    </message>
+    <message>
+        <source>checking</source>
+        <translation>Girokonto</translation>
+    </message>
+    <message>
+        <source>savings</source>
+        <translation>Sparkonto</translation>
+    </message>
+    <message>
+        <source>credit card</source>
+        <translation>Kreditkarte</translation>
+    </message>
+    <message>
+        <source>loan</source>
+        <translation>Darlehen</translation>
+    </message>
+    <message>
+        <source>goal sub-account</source>
+        <translation>Unterkonto eines Ziels</translation>
+    </message>
+    <message>
+        <source>line of credit</source>
+        <translation>Kreditlinie</translation>
+    </message>
+    <message>
+        <source>money market</source>
+        <translation>Geldmarktkonto</translation>
+    </message>
+    <message>
+        <source>cash</source>
+        <translation>Bargeld</translation>
+    </message>
+    <message>
+        <source>The name of a bank cannot be empty.</source>
+        <translation>Der Name einer Bank darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; already exists.</source>
+        <translation>Die Bank „%1“ gibt es bereits.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; does not exist.</source>
+        <translation>Die Bank „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; does not have the account &apos;%2&apos;.</source>
+        <translation>Die Bank „%1“ hat das Konto „%2“ nicht.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; is already open.</source>
+        <translation>Die Bank „%1“ ist bereits offen.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; is already closed.</source>
+        <translation>Die Bank „%1“ ist bereits geschlossen.</translation>
+    </message>
+    <message>
+        <source>The new budgeted money item source cannot be empty.</source>
+        <translation>Der Name des neuen Budgetpostens darf nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>The new budgeted money item source already exists.</source>
+        <translation>Der Name des neuen Budgetpostens ist bereits vergeben.</translation>
+    </message>
+    <message>
+        <source>Failed to remove the budgeted money item as it does not exist.</source>
+        <translation>Der Budgetposten konnte nicht entfernt werden, da es ihn nicht gibt.</translation>
+    </message>
+    <message>
+        <source>Cannot update the budgeted money item as it does not exist.</source>
+        <translation>Der Budgetposten kann nicht geändert werden, da es ihn nicht gibt.</translation>
+    </message>
+    <message>
+        <source>Cannot rename the budgeted money item source as it does not exist.</source>
+        <translation>Der Budgetposten kann nicht umbenannt werden, da es ihn nicht gibt.</translation>
+    </message>
+    <message>
+        <source>Cannot rename the budgeted money item source, as the new source, %1, already exists.</source>
+        <translation>Der Budgetposten kann nicht umbenannt werden, da der neue Name, %1, bereits vergeben ist.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>daily</source>
+        <translation>täglich</translation>
+    </message>
+    <message>
+        <source>every weekday</source>
+        <translation>werktäglich</translation>
+    </message>
+    <message>
+        <source>weekly</source>
+        <translation>wöchentlich</translation>
+    </message>
+    <message>
+        <source>every two weeks</source>
+        <translation>alle zwei Wochen</translation>
+    </message>
+    <message>
+        <source>twice a month</source>
+        <translation>zweimal im Monat</translation>
+    </message>
+    <message>
+        <source>monthly</source>
+        <translation>monatlich</translation>
+    </message>
+    <message>
+        <source>every two months</source>
+        <translation>alle zwei Monate</translation>
+    </message>
+    <message>
+        <source>quarterly</source>
+        <translation>vierteljährlich</translation>
+    </message>
+    <message>
+        <source>every four months</source>
+        <translation>alle vier Monate</translation>
+    </message>
+    <message>
+        <source>twice a year</source>
+        <translation>zweimal im Jahr</translation>
+    </message>
+    <message>
+        <source>yearly</source>
+        <translation>jährlich</translation>
+    </message>
+    <message>
+        <source>every two years</source>
+        <translation>alle zwei Jahre</translation>
+    </message>
+    <message>
+        <source>every three years</source>
+        <translation>alle drei Jahre</translation>
+    </message>
+    <message>
+        <source>every five years</source>
+        <translation>alle fünf Jahre</translation>
+    </message>
+    <message>
+        <source>every ten years</source>
+        <translation>alle zehn Jahre</translation>
+    </message>
+    <message>
+        <source>bill</source>
+        <translation>Rechnung</translation>
+    </message>
+    <message>
+        <source>debt</source>
+        <translation>Schuld</translation>
+    </message>
+    <message>
+        <source>goal</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>non-tracked</source>
+        <translation>nicht verfolgt</translation>
+    </message>
+    <message>
+        <source>wage</source>
+        <translation>Lohn</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; needs a valid next date.</source>
+        <translation>Der Budgetposten „%1“ braucht einen gültigen nächsten Termin.</translation>
+    </message>
+    <message>
+        <source>The amount of the budget item &apos;%1&apos; cannot be negative, as %2 is.</source>
+        <translation>Der Betrag des Budgetpostens „%1“ darf nicht negativ sein, wie %2 es ist.</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; cannot recur on day %2 of a month.</source>
+        <translation>Der Budgetposten „%1“ kann nicht am Tag %2 eines Monats wiederkehren.</translation>
+    </message>
+    <message>
+        <source>What is not scheduled has no next date to move on to.</source>
+        <translation>Was keinen festen Turnus hat, hat keinen nächsten Termin.</translation>
+    </message>
+    <message>
+        <source>There is no date after %1 for what recurs %2.</source>
+        <translation>Nach dem %1 gibt es keinen Termin für etwas, das so wiederkehrt: %2.</translation>
+    </message>
+    <message>
+        <source>The exchange rate of &apos;%1&apos; must be a positive number between 10^-12 and 10^12.</source>
+        <translation>Der Wechselkurs von „%1“ muss eine positive Zahl zwischen 10^-12 und 10^12 sein.</translation>
+    </message>
+    <message>
+        <source>The exchange rate of the base currency &apos;%1&apos; must be 1.</source>
+        <translation>Der Wechselkurs der Basiswährung „%1“ muss 1 sein.</translation>
+    </message>
+    <message>
+        <source>Exchange rates must be given for a base currency.</source>
+        <translation>Wechselkurse müssen sich auf eine Basiswährung beziehen.</translation>
+    </message>
+    <message>
+        <source>Exchange rates must have the time they were fetched at.</source>
+        <translation>Wechselkurse müssen den Zeitpunkt haben, zu dem sie abgerufen wurden.</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;.</source>
+        <translation>Es gibt keinen Wechselkurs von „%1“ zu „%2“.</translation>
+    </message>
+    <message>
+        <source>The reply&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
+        <translation>Das Element „%1“ der Antwort fehlt oder ergibt keinen Sinn.</translation>
+    </message>
+    <message>
+        <source>The reply names an unknown currency &apos;%1&apos;.</source>
+        <translation>Die Antwort nennt eine unbekannte Währung „%1“.</translation>
+    </message>
+    <message>
+        <source>No answer came in time.</source>
+        <translation>Es kam nicht rechtzeitig eine Antwort.</translation>
+    </message>
+    <message>
+        <source>The source of the rates was destroyed before it answered.</source>
+        <translation>Die Quelle der Kurse wurde geschlossen, bevor sie antwortete.</translation>
+    </message>
+    <message>
+        <source>There is nothing left to send requests with.</source>
+        <translation>Es ist nichts mehr da, womit Anfragen gesendet werden könnten.</translation>
+    </message>
+    <message>
+        <source>The reply has none of the wanted rates.</source>
+        <translation>Die Antwort enthält keinen der gewünschten Kurse.</translation>
+    </message>
+    <message>
+        <source>no date</source>
+        <translation>kein Datum</translation>
+    </message>
+    <message>
+        <source>Failed to find a mutable value under the type &apos;%1&apos; with the key &apos;%2&apos;.</source>
+        <translation>Unter dem Typ „%1“ wurde kein änderbarer Wert mit dem Schlüssel „%2“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Failed to find a non-mutable value under the type &apos;%1&apos; with the key &apos;%2&apos;.</source>
+        <translation>Unter dem Typ „%1“ wurde kein unveränderlicher Wert mit dem Schlüssel „%2“ gefunden.</translation>
+    </message>
+    <message>
+        <source>Failed to remove the value under the key &apos;%1&apos; as the index type &apos;%2&apos; was not found.</source>
+        <translation>Der Wert mit dem Schlüssel „%1“ konnte nicht entfernt werden, da der Typ „%2“ nicht gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>Failed to remove the value under the key &apos;%1&apos; as the key was not found under the index type &apos;%2&apos;.</source>
+        <translation>Der Wert mit dem Schlüssel „%1“ konnte nicht entfernt werden, da der Schlüssel unter dem Typ „%2“ nicht gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has a wrong value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not a JSON object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no key of one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;, line %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no encoding that is known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line has more than %1 characters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A budget holds no more than %1 transactions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a day written as %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; can be read in two ways; name the decimal mark with --decimal.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The amounts here cannot be kept exactly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The line is indented, but there is nothing that it belongs to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; begins here and does not end.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what &apos;%1&apos; is with --root, like --root &apos;%1=asset&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of an account is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no currency; name one with --currency.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency; give its cost behind @, or say which currency it is with --commodity, like --commodity &apos;%1=USD&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transaction has fewer than two postings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>More than one posting of the transaction has no amount.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The transaction does not balance: %1 are left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a pattern of account names.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not included: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quote begins here and does not end.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is text between a closing quote and the next delimiter.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no column &apos;%1&apos; among: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say with %1 which column it is, of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record has %1 cells where %2 are needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The record has an amount that came in and one that went out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The entry has no %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The days can be read in two ways; name the order with --date-format, like MM/DD/YYYY.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The amount is in %1, and the account in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is no import profile: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no &lt;OFX&gt; in this file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tag is broken: its name or its &apos;&gt;&apos; is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; stands where the &lt;%2&gt; of line %3 should be closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;/%1&gt; closes nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is not closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags are nested too deeply.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no statement of a bank account or a credit card.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are several statements; choose one with --statement: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no statement of &apos;%1&apos;, but of: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file does not begin with a QIF header like !Type:Bank.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no field of a bank statement.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The parts come to %1 and the whole to %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A report cannot end before it begins.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A report covers no more than %1 months.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net worth, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Income, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expenses, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The figures as a table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All accounts are empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planned a month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The plan is today&apos;s, restated per month. ▲ marks a month in which more was spent.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net worth over time, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net worth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Income and expenses, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What came in and what was spent in each month.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expenses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Budget against actual, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Actual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>en</source>
+        <comment>the language of the reports, as HTML names it</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Budget against actual by month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balances on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is no currency is kept at its cost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unbalanced virtual postings are kept against Equity:Virtual.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Periodic transactions are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Market prices are left out; they change no balance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no folder for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>files include each other too deeply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second days of transactions are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The request manager was destroyed before the answer came.</source>
+        <translation>Die Verbindung wurde geschlossen, bevor die Antwort kam.</translation>
+    </message>
+    <message>
+        <source>There is nothing to send requests with.</source>
+        <translation>Es ist nichts da, womit Anfragen gesendet werden könnten.</translation>
+    </message>
+    <message>
+        <source>Only HTTPS is allowed, and plain HTTP to the loopback address.</source>
+        <translation>Erlaubt ist nur HTTPS, und einfaches HTTP nur zur eigenen Adresse des Rechners.</translation>
+    </message>
+    <message>
+        <source>The server redirected to another host or to a protocol that is not allowed.</source>
+        <translation>Der Server hat auf einen anderen Rechner oder ein nicht erlaubtes Protokoll umgeleitet.</translation>
+    </message>
+    <message>
+        <source>The server redirected more than %1 times.</source>
+        <translation>Der Server hat mehr als %1 Mal umgeleitet.</translation>
+    </message>
+    <message>
+        <source>The reply was not complete after %1 ms.</source>
+        <translation>Die Antwort war nach %1 ms nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>The reply is larger than %1 bytes.</source>
+        <translation>Die Antwort ist größer als %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>The server answered with the status %1.</source>
+        <translation>Der Server hat mit dem Status %1 geantwortet.</translation>
+    </message>
+    <message>
+        <source>The reply is compressed although that was not asked for.</source>
+        <translation>Die Antwort ist komprimiert, obwohl das nicht verlangt war.</translation>
+    </message>
+    <message>
+        <source>The transfer failed (%1).</source>
+        <translation>Die Übertragung ist fehlgeschlagen (%1).</translation>
+    </message>
+    <message>
+        <source>The reply&apos;s type is &apos;%1&apos; and not JSON.</source>
+        <translation>Die Antwort ist vom Typ „%1“ und nicht JSON.</translation>
+    </message>
+    <message>
+        <source>The reply is not JSON: %1 at byte %2.</source>
+        <translation>Die Antwort ist kein JSON: %1 bei Byte %2.</translation>
+    </message>
+    <message>
+        <source>The reply names a member twice.</source>
+        <translation>Die Antwort nennt ein Element zweimal.</translation>
+    </message>
+    <message>
+        <source>Mended while loading: %1</source>
+        <translation>Beim Laden repariert: %1</translation>
+    </message>
+    <message>
+        <source>Saving without a backup: %1</source>
+        <translation>Es wird ohne Sicherung gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>A backup could not be kept: %1</source>
+        <translation>Eine Sicherung konnte nicht aufbewahrt werden: %1</translation>
+    </message>
+    <message>
+        <source>No file was chosen.</source>
+        <translation>Es wurde keine Datei gewählt.</translation>
+    </message>
+    <message>
+        <source>No file can have the name &apos;%1&apos;.</source>
+        <translation>Keine Datei kann „%1“ heißen.</translation>
+    </message>
+    <message>
+        <source>There is no file &apos;%1&apos;.</source>
+        <translation>Es gibt keine Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>The folder of the file &apos;%1&apos; does not exist.</source>
+        <translation>Den Ordner der Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a regular file.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; could not be read: %2.</source>
+        <translation>Die Datei „%1“ konnte nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is larger than such a file can be.</source>
+        <translation>Die Datei „%1“ ist größer, als eine solche Datei sein kann.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is empty.</source>
+        <translation>Die Datei „%1“ ist leer.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is not of the kind that is used here.</source>
+        <translation>Die Datei „%1“ ist nicht von der Art, die hier verwendet wird.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; was written by a newer version of this program.</source>
+        <translation>Die Datei „%1“ wurde von einer neueren Version dieses Programms geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is damaged and was not loaded.</source>
+        <translation>Die Datei „%1“ ist beschädigt und wurde nicht geladen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is in use by another program.</source>
+        <translation>Die Datei „%1“ wird von einem anderen Programm benutzt.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is in use by another program (%2).</source>
+        <translation>Die Datei „%1“ wird von einem anderen Programm benutzt (%2).</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; was changed by another program and was not overwritten.</source>
+        <translation>Die Datei „%1“ wurde von einem anderen Programm geändert und nicht überschrieben.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; could not be saved: %2.</source>
+        <translation>Die Datei „%1“ konnte nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; could not be saved: what was written reads back otherwise.</source>
+        <translation>Die Datei „%1“ konnte nicht gespeichert werden: Das Geschriebene liest sich anders zurück.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; was not saved: it cannot hold what it should.</source>
+        <translation>Die Datei „%1“ wurde nicht gespeichert: Sie kann nicht fassen, was sie soll.</translation>
+    </message>
+    <message>
+        <source>process %1, %2 on %3</source>
+        <translation>Prozess %1, %2 auf %3</translation>
+    </message>
+    <message>
+        <source>The closed account &apos;%1&apos; has a balance and was opened.</source>
+        <translation>Das geschlossene Konto „%1“ hat einen Saldo und wurde geöffnet.</translation>
+    </message>
+    <message>
+        <source>A budget item without a name was named &apos;%1&apos;.</source>
+        <translation>Ein Budgetposten ohne Namen wurde „%1“ genannt.</translation>
+    </message>
+    <message>
+        <source>The account %1 belonged to the budget item &apos;%2&apos;, which is gone.</source>
+        <translation>Das Konto %1 gehörte zum Budgetposten „%2“, den es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; had lost its account, which was found under the number %2.</source>
+        <translation>Der Budgetposten „%1“ hatte sein Konto verloren; es fand sich unter der Nummer %2.</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; had lost its account, which was opened anew under the number %2.</source>
+        <translation>Der Budgetposten „%1“ hatte sein Konto verloren; es wurde unter der Nummer %2 neu eröffnet.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; had the account %2, which is gone.</source>
+        <translation>Die Bank „%1“ hatte das Konto %2, das es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>An increase or a decrease cannot be negative, as %1 is.</source>
+        <translation>Eine Zunahme oder Abnahme kann nicht negativ sein, wie %1 es ist.</translation>
+    </message>
+    <message>
+        <source>A survey cannot be completed without a valid date.</source>
+        <translation>Ein Abgleich kann ohne gültiges Datum nicht abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a version.</source>
+        <translation>„%1“ ist keine Version.</translation>
+    </message>
+    <message>
+        <source>The release&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
+        <translation>Das Element „%1“ der Veröffentlichung fehlt oder ergibt keinen Sinn.</translation>
+    </message>
+    <message>
+        <source>The reply is not a list of releases.</source>
+        <translation>Die Antwort ist keine Liste von Veröffentlichungen.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Child</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Teenager</source>
+        <translation>Jugendlicher</translation>
+    </message>
+    <message>
+        <source>Adult, single</source>
+        <translation>Erwachsener, alleinstehend</translation>
+    </message>
+    <message>
+        <source>Adult, married, single income</source>
+        <translation>Erwachsener, verheiratet, ein Einkommen</translation>
+    </message>
+    <message>
+        <source>Adult, married, double income</source>
+        <translation>Erwachsener, verheiratet, zwei Einkommen</translation>
+    </message>
+    <message>
+        <source>Enables the advanced GUI instead of the simplified one.</source>
+        <translation>Schaltet statt der vereinfachten die erweiterte Oberfläche ein.</translation>
+    </message>
+    <message>
+        <source>Disables the usage of accounting jargon in the application.</source>
+        <translation>Schaltet Fachwörter der Buchhaltung in der Anwendung ab.</translation>
+    </message>
+    <message>
+        <source>ISO-4217 Code</source>
+        <translation>Code nach ISO 4217</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Symbol and Code</source>
+        <translation>Symbol und Code</translation>
+    </message>
+    <message>
+        <source>Processed the budget item due on %2.</source>
+        <translation>Budgetposten verarbeitet, fällig am %2.</translation>
+    </message>
+    <message>
+        <source>Processed unexpected budget item &apos;%1&apos;.</source>
+        <translation>Unerwarteten Budgetposten „%1“ verarbeitet.</translation>
+    </message>
+    <message>
+        <source>Allowance</source>
+        <translation>Taschengeld</translation>
+    </message>
+    <message>
+        <source>Part-time Job</source>
+        <translation>Nebenjob</translation>
+    </message>
+    <message>
+        <source>Gifts</source>
+        <translation>Geschenke</translation>
+    </message>
+    <message>
+        <source>Tax Refund</source>
+        <translation>Steuererstattung</translation>
+    </message>
+    <message>
+        <source>Mobile carrier</source>
+        <translation>Mobilfunkvertrag</translation>
+    </message>
+    <message>
+        <source>Music Subscription</source>
+        <translation>Musikabo</translation>
+    </message>
+    <message>
+        <source>School-related fees (clubs, sports, etc.)</source>
+        <translation>Schulkosten (AGs, Sport usw.)</translation>
+    </message>
+    <message>
+        <source>Clothing and accessories</source>
+        <translation>Kleidung und Zubehör</translation>
+    </message>
+    <message>
+        <source>Personal care items (toiletries, haircuts)</source>
+        <translation>Körperpflege (Toilettenartikel, Friseur)</translation>
+    </message>
+    <message>
+        <source>Going to movies</source>
+        <translation>Kino</translation>
+    </message>
+    <message>
+        <source>Outings with friends</source>
+        <translation>Ausgehen mit Freunden</translation>
+    </message>
+    <message>
+        <source>Dining out</source>
+        <translation>Essen gehen</translation>
+    </message>
+    <message>
+        <source>Hobby (sports equipment, art supplies)</source>
+        <translation>Hobby (Sportgeräte, Künstlerbedarf)</translation>
+    </message>
+    <message>
+        <source>Public transportation costs (bus or train fare)</source>
+        <translation>Fahrkarten (Bus oder Bahn)</translation>
+    </message>
+    <message>
+        <source>Petrol</source>
+        <translation>Benzin</translation>
+    </message>
+    <message>
+        <source>Gifts for friends and family</source>
+        <translation>Geschenke für Freunde und Familie</translation>
+    </message>
+    <message>
+        <source>Donation or charity contribution</source>
+        <translation>Spende</translation>
+    </message>
+    <message>
+        <source>Car Maintenance (oil change, repair, washing, etc.)</source>
+        <translation>Autopflege (Ölwechsel, Reparatur, Wäsche usw.)</translation>
+    </message>
+    <message>
+        <source>Pet Care</source>
+        <translation>Haustier</translation>
+    </message>
+    <message>
+        <source>Car Registration</source>
+        <translation>Kfz-Zulassung</translation>
+    </message>
+    <message>
+        <source>Emergencies</source>
+        <translation>Notfälle</translation>
+    </message>
+    <message>
+        <source>Gaming Console</source>
+        <translation>Spielkonsole</translation>
+    </message>
+    <message>
+        <source>Car</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Snacks</source>
+        <translation>Snacks</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>Rent or mortgage payment</source>
+        <translation>Miete oder Hypothekenrate</translation>
+    </message>
+    <message>
+        <source>Property taxes</source>
+        <translation>Grundsteuer</translation>
+    </message>
+    <message>
+        <source>Homeowners or renters insurance</source>
+        <translation>Gebäude- oder Hausratversicherung</translation>
+    </message>
+    <message>
+        <source>Electricity</source>
+        <translation>Strom</translation>
+    </message>
+    <message>
+        <source>Water and sewage</source>
+        <translation>Wasser und Abwasser</translation>
+    </message>
+    <message>
+        <source>Gas or heating</source>
+        <translation>Gas oder Heizung</translation>
+    </message>
+    <message>
+        <source>Inter-net and cable</source>
+        <translation>Internet und Kabelfernsehen</translation>
+    </message>
+    <message>
+        <source>Rubbish collection</source>
+        <translation>Müllabfuhr</translation>
+    </message>
+    <message>
+        <source>Groceries &amp; Household Supplies (cleaning products, toiletries, etc.)</source>
+        <translation>Lebensmittel &amp; Haushaltsbedarf (Putzmittel, Toilettenartikel usw.)</translation>
+    </message>
+    <message>
+        <source>Public transportation</source>
+        <translation>Öffentliche Verkehrsmittel</translation>
+    </message>
+    <message>
+        <source>Car Insurance</source>
+        <translation>Kfz-Versicherung</translation>
+    </message>
+    <message>
+        <source>Health insurance premiums</source>
+        <translation>Krankenversicherung</translation>
+    </message>
+    <message>
+        <source>Medical Care (e.g. Out-of-pocket medical expenses, doctor visits, prescriptions)</source>
+        <translation>Gesundheit (z. B. Zuzahlungen, Arztbesuche, Rezepte)</translation>
+    </message>
+    <message>
+        <source>Gym or fitness memberships</source>
+        <translation>Fitnessstudio</translation>
+    </message>
+    <message>
+        <source>Retirement savings (401(k), IRA) contribution</source>
+        <translation>Altersvorsorge (Riester, Rürup)</translation>
+    </message>
+    <message>
+        <source>Travel and vacations</source>
+        <translation>Reisen und Urlaub</translation>
+    </message>
+    <message>
+        <source>Subscriptions (streaming services, magazines)</source>
+        <translation>Abos (Streaming, Zeitschriften)</translation>
+    </message>
+    <message>
+        <source>Dating</source>
+        <translation>Verabredungen</translation>
+    </message>
+    <message>
+        <source>Hobbies and activities</source>
+        <translation>Hobbys und Freizeit</translation>
+    </message>
+    <message>
+        <source>Identification Document</source>
+        <translation>Ausweis</translation>
+    </message>
+    <message>
+        <source>Spring Holiday Meal</source>
+        <translation>Festessen im Frühling</translation>
+    </message>
+    <message>
+        <source>Winter Holiday Meal</source>
+        <translation>Festessen im Winter</translation>
+    </message>
+    <message>
+        <source>Winter Holiday Gifts</source>
+        <translation>Geschenke zum Winterfest</translation>
+    </message>
+    <message>
+        <source>Unexpected (3-Months Wages)</source>
+        <translation>Unvorhergesehenes (3 Monatslöhne)</translation>
+    </message>
+    <message>
+        <source>Mobile</source>
+        <translation>Handy</translation>
+    </message>
+    <message>
+        <source>Car Down Payment</source>
+        <translation>Anzahlung für ein Auto</translation>
+    </message>
+    <message>
+        <source>Home Down Payment</source>
+        <translation>Eigenkapital für ein Haus</translation>
+    </message>
+    <message>
+        <source>Free Money</source>
+        <translation>Freies Geld</translation>
+    </message>
+    <message>
+        <source>Free Money Adult 2</source>
+        <translation>Freies Geld Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Mobile Adult 2</source>
+        <translation>Handy Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Petrol Adult 2</source>
+        <translation>Benzin Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Public transportation Adult 2</source>
+        <translation>Öffentliche Verkehrsmittel Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Identification Document Adult 2</source>
+        <translation>Ausweis Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Car Registration Adult 2</source>
+        <translation>Kfz-Zulassung Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Job Adult 2</source>
+        <translation>Arbeit Erwachsener 2</translation>
+    </message>
+    <message>
+        <source>Date Night</source>
+        <translation>Abend zu zweit</translation>
+    </message>
+    <message>
+        <source>Free Money Adult 1</source>
+        <translation>Freies Geld Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Mobile Adult 1</source>
+        <translation>Handy Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Petrol Adult 1</source>
+        <translation>Benzin Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Public transportation Adult 1</source>
+        <translation>Öffentliche Verkehrsmittel Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Identification Document Adult 1</source>
+        <translation>Ausweis Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Car Registration Adult 1</source>
+        <translation>Kfz-Zulassung Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>Job Adult 1</source>
+        <translation>Arbeit Erwachsener 1</translation>
+    </message>
+    <message>
+        <source>The number of work hours in a week must be between %1 and %2.</source>
+        <translation>Die Zahl der Arbeitsstunden in einer Woche muss zwischen %1 und %2 liegen.</translation>
+    </message>
+    <message>
+        <source>The number of work days in a week must be between %1 and %2.</source>
+        <translation>Die Zahl der Arbeitstage in einer Woche muss zwischen %1 und %2 liegen.</translation>
+    </message>
+    <message>
+        <source>The data.usable_ currencies must contain &apos;%1&apos;, as they are currently in use in the application.</source>
+        <translation>Die nutzbaren Währungen müssen „%1“ enthalten, da diese gerade in Gebrauch sind.</translation>
+    </message>
+    <message>
+        <source>The number of days to notify within must be between %1 and %2.</source>
+        <translation>Die Zahl der Tage, die im Voraus erinnert wird, muss zwischen %1 und %2 liegen.</translation>
+    </message>
+    <message>
+        <source>The survey balance window must be between %1 and %2 percent.</source>
+        <translation>Die Toleranz des Abgleichs muss zwischen %1 und %2 Prozent liegen.</translation>
+    </message>
+    <message>
+        <source>The budget does not have a bill source named &apos;%1&apos;.</source>
+        <translation>Das Budget hat keine Rechnung namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Cannot update a bill that does not exist.</source>
+        <translation>Eine Rechnung, die es nicht gibt, kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a bill that does not exist.</source>
+        <translation>Eine Rechnung, die es nicht gibt, kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The budget does not have a debt source named &apos;%1&apos;.</source>
+        <translation>Das Budget hat keine Schuld namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Cannot update a debt that does not exist.</source>
+        <translation>Eine Schuld, die es nicht gibt, kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a debt that does not exist.</source>
+        <translation>Eine Schuld, die es nicht gibt, kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a debt that has a balance.</source>
+        <translation>Eine Schuld mit einem Saldo kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Failure making the debt bank account association.</source>
+        <translation>Die Schuld konnte nicht mit dem Bankkonto verknüpft werden.</translation>
+    </message>
+    <message>
+        <source>Failure updating the debt bank account association.</source>
+        <translation>Die Verknüpfung der Schuld mit dem Bankkonto konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The budget does not have a goal source named &apos;%1&apos;.</source>
+        <translation>Das Budget hat kein Ziel namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Cannot update a goal that does not exist.</source>
+        <translation>Ein Ziel, das es nicht gibt, kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a goal that does not exist.</source>
+        <translation>Ein Ziel, das es nicht gibt, kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a goal that has a balance.</source>
+        <translation>Ein Ziel mit einem Saldo kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Failure making the goal bank account association.</source>
+        <translation>Das Ziel konnte nicht mit dem Bankkonto verknüpft werden.</translation>
+    </message>
+    <message>
+        <source>Failed to update the goal bank account association.</source>
+        <translation>Die Verknüpfung des Ziels mit dem Bankkonto konnte nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The budget does not have a non-tracked source named &apos;%1&apos;.</source>
+        <translation>Das Budget hat keinen nicht verfolgten Posten namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Cannot update a nontrack that does not exist.</source>
+        <translation>Ein nicht verfolgter Posten, den es nicht gibt, kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a nontrack that does not exist.</source>
+        <translation>Ein nicht verfolgter Posten, den es nicht gibt, kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The budget does not have a wage source named &apos;%1&apos;.</source>
+        <translation>Das Budget hat keinen Lohn namens „%1“.</translation>
+    </message>
+    <message>
+        <source>Cannot update a wage that does not exist.</source>
+        <translation>Ein Lohn, den es nicht gibt, kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a wage that does not exist.</source>
+        <translation>Ein Lohn, den es nicht gibt, kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The bank account number, %1, does not match the account code number, %2.</source>
+        <translation>Die Nummer des Bankkontos, %1, passt nicht zur Nummer des Kontos, %2.</translation>
+    </message>
+    <message>
+        <source>Unknown budget code type!</source>
+        <translation>Unbekannte Art von Budgetkonto!</translation>
+    </message>
+    <message>
+        <source>The account ledger does not have an account number &apos;%1&apos;.</source>
+        <translation>Das Hauptbuch hat keine Kontonummer „%1“.</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; is not a known type that is a budget money!</source>
+        <translation>Der Budgetposten „%1“ ist von keiner bekannten Art!</translation>
+    </message>
+    <message>
+        <source>The budget item type &apos;%1&apos; is not a known type.</source>
+        <translation>Die Art „%1“ eines Budgetpostens ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Cannot process unexpected budget item that has an unknown type.</source>
+        <translation>Ein unerwarteter Budgetposten unbekannter Art kann nicht verarbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Failed to locate the unexpected budget item source to post.</source>
+        <translation>Der unerwartete Budgetposten, der gebucht werden soll, wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>There is %1 distributed in the surveyed bank account %2. Empty the distribution first before removing the budgeted item.</source>
+        <translation>Im abgeglichenen Bankkonto %2 sind %1 zurückgelegt. Vor dem Entfernen des Budgetpostens muss diese Verteilung geleert werden.</translation>
+    </message>
+    <message>
+        <source>The account ledger number is not present in the general ledger.</source>
+        <translation>Die Kontonummer ist im Hauptbuch nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>Adding the account &apos;%1&apos; is not in the general ledger.</source>
+        <translation>Das hinzuzufügende Konto „%1“ steht nicht im Hauptbuch.</translation>
+    </message>
+    <message>
+        <source>Invalid mapping between the account ledger &apos;%1&apos; and the bank account type &apos;%2&apos; during bank creation.</source>
+        <translation>Beim Anlegen der Bank passt das Konto „%1“ nicht zur Bankkontoart „%2“.</translation>
+    </message>
+    <message>
+        <source>The bank does not exist.</source>
+        <translation>Die Bank gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The account name &apos;%1&apos; is already associated with the bank &apos;%2&apos;.</source>
+        <translation>Der Kontoname „%1“ ist bereits mit der Bank „%2“ verknüpft.</translation>
+    </message>
+    <message>
+        <source>The general ledger does not have the account number &apos;%1&apos;.</source>
+        <translation>Das Hauptbuch hat die Kontonummer „%1“ nicht.</translation>
+    </message>
+    <message>
+        <source>The bank account type cannot be unknown.</source>
+        <translation>Die Art des Bankkontos darf nicht unbekannt sein.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a bank account when the bank does not exist.</source>
+        <translation>Ein Bankkonto kann nicht entfernt werden, wenn es die Bank nicht gibt.</translation>
+    </message>
+    <message>
+        <source>Cannot remove a bank account when no association exists.</source>
+        <translation>Ein Bankkonto kann nicht entfernt werden, wenn es mit keiner Bank verknüpft ist.</translation>
+    </message>
+    <message>
+        <source>Cannot update when a bank by that name does not exist.</source>
+        <translation>Eine Bank dieses Namens gibt es nicht; sie kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot close a bank via an update.</source>
+        <translation>Eine Bank kann nicht durch eine Änderung geschlossen werden.</translation>
+    </message>
+    <message>
+        <source>Updating the account &apos;%1&apos; is not in the general ledger.</source>
+        <translation>Das zu ändernde Konto „%1“ steht nicht im Hauptbuch.</translation>
+    </message>
+    <message>
+        <source>Invalid mapping between the account ledger &apos;%1&apos; and the bank account type &apos;%2&apos;.</source>
+        <translation>Das Konto „%1“ passt nicht zur Bankkontoart „%2“.</translation>
+    </message>
+    <message>
+        <source>Cannot change the bank account type once set.</source>
+        <translation>Die Art eines Bankkontos kann nicht mehr geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove when a bank by that name does not exist.</source>
+        <translation>Eine Bank dieses Namens gibt es nicht; sie kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove when the bank is closed.</source>
+        <translation>Eine geschlossene Bank kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot remove the bank as the account number &apos;%1&apos; cannot be removed.</source>
+        <translation>Die Bank kann nicht entfernt werden, da die Kontonummer „%1“ nicht entfernt werden kann.</translation>
+    </message>
+    <message>
+        <source>Cannot recode a bank account when no association exists.</source>
+        <translation>Ein Bankkonto ohne Verknüpfung kann nicht umnummeriert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot recode the account &apos;%1&apos; to the account &apos;%2&apos; as it is already associated.</source>
+        <translation>Das Konto „%1“ kann nicht in „%2“ umnummeriert werden, da dieses bereits verknüpft ist.</translation>
+    </message>
+    <message>
+        <source>Found an account code name that is the same name as a budget item.</source>
+        <translation>Ein Konto heißt genauso wie ein Budgetposten.</translation>
+    </message>
+    <message>
+        <source>The budget item has the same name as an existing ledger account.</source>
+        <translation>Der Budgetposten heißt genauso wie ein vorhandenes Konto.</translation>
+    </message>
+    <message>
+        <source>The code name is the same name as an existing budget item.</source>
+        <translation>Das Konto heißt genauso wie ein vorhandener Budgetposten.</translation>
+    </message>
+    <message>
+        <source>Cannot process budget item due that has an unknown type.</source>
+        <translation>Ein fälliger Budgetposten unbekannter Art kann nicht verarbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Cannot skip a budget item when its type is not known.</source>
+        <translation>Ein Budgetposten unbekannter Art kann nicht übersprungen werden.</translation>
+    </message>
+    <message>
+        <source>A bank account cannot have its parent account removed.</source>
+        <translation>Einem Bankkonto kann sein Oberkonto nicht genommen werden.</translation>
+    </message>
+    <message>
+        <source>A bank account cannot have its parent account changed to non-bank account.</source>
+        <translation>Das Oberkonto eines Bankkontos kann nur ein Bankkonto sein.</translation>
+    </message>
+    <message>
+        <source>Cannot change parent accounts of a bank account that has transactions that have been reconciled.</source>
+        <translation>Das Oberkonto eines Bankkontos mit abgeglichenen Buchungen kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot get the last reconciliation amount, because no bank account is associated with the account &apos;%1&apos;.</source>
+        <translation>Der Betrag des letzten Abgleichs ist nicht bekannt, da mit dem Konto „%1“ kein Bankkonto verknüpft ist.</translation>
+    </message>
+    <message>
+        <source>The bank account cannot be set directly when updating a debt.</source>
+        <translation>Beim Ändern einer Schuld kann das Bankkonto nicht unmittelbar gesetzt werden.</translation>
+    </message>
+    <message>
+        <source>A goal must have an account to store under a bank account.</source>
+        <translation>Ein Ziel braucht ein Konto, das unter einem Bankkonto stehen kann.</translation>
+    </message>
+    <message>
+        <source>Cannot change a goal’s bank account once it has been reconciled.</source>
+        <translation>Das Bankkonto eines Ziels kann nach einem Abgleich nicht mehr geändert werden.</translation>
+    </message>
+    <message>
+        <source>Cannot perform a mapping survey upon a bank that does not exist.</source>
+        <translation>Bei einer Bank, die es nicht gibt, ist kein Abgleich möglich.</translation>
+    </message>
+    <message>
+        <source>Cannot perform a mapping survey upon an account that does not exist.</source>
+        <translation>Für ein Konto, das es nicht gibt, ist kein Abgleich möglich.</translation>
+    </message>
+    <message>
+        <source>Cannot map a survey for a bank account that does not exist.</source>
+        <translation>Für ein Bankkonto, das es nicht gibt, ist kein Abgleich möglich.</translation>
+    </message>
+    <message>
+        <source>Cannot perform a mapping survey for a future date, %1.</source>
+        <translation>Für ein künftiges Datum, %1, ist kein Abgleich möglich.</translation>
+    </message>
+    <message>
+        <source>Failed to determine the bank account involved in the additional transaction %1.</source>
+        <translation>Das Bankkonto der zusätzlichen Buchung %1 konnte nicht bestimmt werden.</translation>
+    </message>
+    <message>
+        <source>The transaction %1 is not in the bank account ledger nor one of its children.</source>
+        <translation>Die Buchung %1 steht weder im Bankkonto noch in einem seiner Unterkonten.</translation>
+    </message>
+    <message>
+        <source>The posting date for transaction %1 is %2 which is after the survey date, %3.</source>
+        <translation>Das Datum der Buchung %1 ist der %2 und liegt nach dem Tag des Abgleichs, dem %3.</translation>
+    </message>
+    <message>
+        <source>The surveying bank account is neither an asset nor a liability!</source>
+        <translation>Das abzugleichende Bankkonto ist weder Vermögen noch Verbindlichkeit!</translation>
+    </message>
+    <message>
+        <source>The calculated budget item transaction total, &apos;%1&apos;, must be within %2 of the reconciled current balance, &apos;%3&apos;.</source>
+        <translation>Die errechnete Summe der Buchungen, „%1“, darf höchstens %2 vom abgeglichenen Saldo, „%3“, abweichen.</translation>
+    </message>
+    <message>
+        <source>The budget item %1 cannot be distributed.</source>
+        <translation>Für den Budgetposten %1 kann nichts zurückgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Cannot manually distribute into the goal &apos;%1&apos;.</source>
+        <translation>Für das Ziel „%1“ kann nicht von Hand zurückgelegt werden.</translation>
+    </message>
+    <message>
+        <source>The budget item &apos;%1&apos; has no account code associated with it.</source>
+        <translation>Mit dem Budgetposten „%1“ ist kein Konto verknüpft.</translation>
+    </message>
+    <message>
+        <source>Failed to locate the reconciled transaction to determine its kind!</source>
+        <translation>Die abgeglichene Buchung wurde nicht gefunden, ihre Art ist daher unbekannt!</translation>
+    </message>
+    <message>
+        <source>Additional surveyed income.</source>
+        <translation>Zusätzliche Einnahme laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Additional surveyed charges.</source>
+        <translation>Zusätzliche Belastung laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Additional surveyed expense.</source>
+        <translation>Zusätzliche Ausgabe laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Additional surveyed payments.</source>
+        <translation>Zusätzliche Zahlung laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Extra-budget surveyed income.</source>
+        <translation>Einnahme außerhalb des Budgets laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Extra-budget surveyed charges.</source>
+        <translation>Belastung außerhalb des Budgets laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Extra-budget surveyed expense.</source>
+        <translation>Ausgabe außerhalb des Budgets laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Extra-budget surveyed payments.</source>
+        <translation>Zahlung außerhalb des Budgets laut Abgleich.</translation>
+    </message>
+    <message>
+        <source>Cannot convert between currencies, because what looked up the exchange rates has been closed.</source>
+        <translation>Zwischen Währungen kann nicht umgerechnet werden, da die Quelle der Wechselkurse geschlossen wurde.</translation>
+    </message>
+    <message>
+        <source>The user preferences file, %1, is not writable.</source>
+        <translation>Die Datei der Einstellungen, %1, ist nicht beschreibbar.</translation>
+    </message>
+    <message>
+        <source>A command is missing; --help lists those that there are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no transactions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added the account %1 %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The account %1 is now %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closed the account %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened the account %1 again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the account %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no banks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (closed)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It keeps no accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added the bank &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank is now called &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added the account %1 at the bank &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; keeps the account %2 now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; no longer keeps the account %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closed the bank &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened the bank &apos;%1&apos; again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the bank &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The bank account %1 is now %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the bank account %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made the empty budget &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved the budget as &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transactions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Banks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of debits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of credits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferred currency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usable currencies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currencies are shown by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days in which items count as due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Survey window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Work hours a week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Work days a week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no tags.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the tags %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bills</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Debts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Non-tracked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Due within %1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Due</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing is due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Budget health: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days late</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 day late</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tomorrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>in %1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted the %1 &apos;%2&apos;, due on %3: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted %1 for the %2 &apos;%3&apos;, which is still due on %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Skipped the %1 &apos;%2&apos; due on %3; it is next due on %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is outside of the journal&apos;s own folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all files together are too large</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entries of nothing are left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted %1 transactions, left out %2 duplicates, opened %3 accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Debit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>duplicate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no transactions in the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added the %1 &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed the %1 &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The %1 &apos;%2&apos; is now called &apos;%3&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the %1 &apos;%2&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Borrowed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For one %1, as of %2 (no longer current)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For one %1, as of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No exchange rates are known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fetching exchange rates …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No newer release is announced.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a newer release: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no releases.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Household report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Budget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Budget against actual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no budget items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Day of the statement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last reconciled on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes counted from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Still due this month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes by budget item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proposed distribution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is nothing to set aside for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not distributed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reconciled %1 with a balance of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The statement&apos;s balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money for an item that is not booked, as ITEM=AMOUNT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money for another account, as ACCOUNT=AMOUNT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is set aside for an item, as ITEM=AMOUNT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete the survey?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was never reconciled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was reconciled on %2 with a balance of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(exit status %1)
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command ended otherwise than expected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new budget, kept in US dollars, with a bank and its checking account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What comes in, and what goes out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is due is posted; the studio is closed this month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No account may bear a budget item&apos;s name: refused, nothing changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every change above was saved at once; here the file is opened again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The debits do not equal the credits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sum of all debits equals the sum of all credits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted transaction %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted %1 transactions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changed transaction %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posted the refund as transaction %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed the transactions %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cleared the transactions %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reconciled the transactions %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Took the reconciliation of %1 back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The budget is again as it was saved at %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That changes nothing in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They hold the same.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It has no budget items.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made the budget &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Household</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; did you mean %2?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A value on the command line is not valid UTF-8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A name cannot be empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a date; write one like 2026-03-31, with a day that exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has more digits behind the point than the %2 of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a currency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write its ISO 4217 code, like USD</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a whole number from %2 to %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a percentage; write one like 2.75.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is none of: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 exclude each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to change was given; --help lists what can be changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not of the form NAME=VALUE.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv --help lists those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no option of this command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>--help lists those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A quote is not closed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot name a profile; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot understand %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no account &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv accounts lists those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several accounts are named &apos;%1&apos;; give the number of one: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no bank &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv banks lists those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No bank keeps the account &apos;%1&apos;; kiv bank-account attach ties it to one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no %1 &apos;%2&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv %1 list shows those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no budget item &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv bill list and the like show those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Several budget items are named &apos;%1&apos;; choose one with --kind: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The answers ended before the questions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The survey was not completed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The exchange rates could not be fetched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The releases could not be fetched.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The budget could not be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no tag &apos;%1&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv tags list shows those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no former version %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none was kept of this budget</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv history lists those that are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The version in &apos;%1&apos; is not whole.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money can be moved out of an asset account that a bank keeps, which &apos;%1&apos; is not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Money can be moved into an asset account that a bank keeps and that stands under no other, which &apos;%1&apos; is not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no transaction %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kiv transactions lists those that there are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;; --save-profile saves one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos; among: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say with --against which account is the other side of %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; exists already; choose another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write the output: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>warning: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is larger than 64 MiB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 at byte %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no list of transactions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transaction %1 of &apos;%2&apos;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This was a dry run: nothing is saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>kiv::navigation::Navigator</name>
+    <message>
+        <source>The provided item type does not match the item&apos;s type.</source>
+        <translation>Die angegebene Art passt nicht zur Art des Postens.</translation>
+    </message>
+    <message>
+        <source>The provided item source does not match the item&apos;s source.</source>
+        <translation>Der angegebene Name passt nicht zum Namen des Postens.</translation>
+    </message>
+    <message>
+        <source>Failed to add the bank account &apos;%1&apos; for the first time wizard.</source>
+        <translation>Das Bankkonto „%1“ konnte bei der Ersteinrichtung nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Failed to add the bank &apos;%1&apos; for the first time wizard.</source>
+        <translation>Die Bank „%1“ konnte bei der Ersteinrichtung nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Failed to add the generate the %1 budget item &apos;%2&apos; for the first time wizard.</source>
+        <translation>Der Budgetposten „%2“ (%1) konnte bei der Ersteinrichtung nicht erzeugt werden.</translation>
+    </message>
+</context>
+</TS>
