@@ -72,7 +72,7 @@ class BudgetBankLedgers;
 /// and all that is needed to keep it: storages, preferences, exchange rates.
 ///
 /// A view calls a slot; the Navigator changes or reads the model and answers
-/// with Q_SIGNALS:
+/// with signals:
 /// - slots named onPrepareShow… and onLookUp… change nothing; they answer with
 ///   one show… or lookedUp… signal that carries all that the view draws. What
 ///   they cannot answer leaves them as an exception;
@@ -544,8 +544,8 @@ public Q_SLOTS:
     void onPrepareNewBudgetFirstTimeWizard();
     /// Empties the budget and answers with showNewBudgetFirstTimeWizard.
     void onConfirmedNewBudgetFirstTimeWizard();
-    /// Stores the three preferences, then builds the budget. When any step of
-    /// that fails, an empty budget is left.
+    /// Stores the three preferences, then builds the budget, which counts as
+    /// changed. When any step of that fails, an empty budget is left.
     void onCompletedNewBudgetFirstTimeWizard(
         const numira::Currency &preferred, const std::set<numira::Currency> &usable,
         const kiv::navigation::CurrencyDisplayOptions &displayAs,
