@@ -119,6 +119,11 @@ void Navigator::onPrepareShowWages()
 
 // ---- changing ----------------------------------------------------------------
 
+// The tags are changed in a copy, which takes the place of the present ones when
+// the item was changed: that cannot fail, so that an item and its tags change
+// together or not at all.
+static_assert(std::is_nothrow_move_assignable_v<tagging::BudgetTagManager>);
+
 bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &type,
                         const budgeting::BudgetedMoney &item,
                         const std::optional<banking::BankAccount> &ba,
@@ -139,9 +144,11 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
         "Failed to add budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
+            tagging::BudgetTagManager tags(m_tagManager);
+            tags.changeAssociation(itemTags);
             visitItemClass(
                 type, "An unknown budget item type was supplied when adding a new entry.", add);
-            m_tagManager.changeAssociation(itemTags);
+            m_tagManager = std::move(tags);
         },
         [&] { emit saveSucceeded(id, item.source()); },
         [&](const QString &why) { emit saveFailed(id, std::nullopt, why, item.source()); });
@@ -165,9 +172,11 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
         "Failed to update budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
+            tagging::BudgetTagManager tags(m_tagManager);
+            tags.changeAssociation(itemTags);
             visitItemClass(type, "An unknown budget item type was supplied when updating an entry.",
                            update);
-            m_tagManager.changeAssociation(itemTags);
+            m_tagManager = std::move(tags);
         },
         [&] { emit saveSucceeded(id, item.source()); },
         [&](const QString &why) { emit saveFailed(id, item.source(), why, item.source()); });
@@ -182,9 +191,11 @@ void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes 
     change(
         "Failed to rename budget item.",
         [&] {
+            tagging::BudgetTagManager tags(m_tagManager);
+            tags.renameAssociation({type, original}, changed);
             visitItemClass(type, "An unknown budget item type was supplied when renaming an entry.",
                            rename);
-            m_tagManager.renameAssociation({type, original}, changed);
+            m_tagManager = std::move(tags);
         },
         // The old name, on purpose: by it the view finds the row that it asked
         // to rename, and it knows the new one already.
@@ -199,8 +210,10 @@ void Navigator::onRemoved(const GuiElementIdentifier &id, const BudgetItemTypes 
     change(
         "Failed to remove budget item.",
         [&] {
+            tagging::BudgetTagManager tags(m_tagManager);
+            tags.removeAssociation(item);
             m_budgetBankLedgers->remove(item);
-            m_tagManager.removeAssociation(item);
+            m_tagManager = std::move(tags);
         },
         [&] { emit saveSucceeded(id, source); },
         [&](const QString &why) { emit saveFailed(id, source, why, source); });

@@ -120,8 +120,11 @@ const Bank &BankLedgers::add(const Bank &bank)
         if (!doesFit(*m_ledgers, number, type))
             throw faults::addedTypeDoesNotFit(name, number, type);
     }
+    Restore banksBefore(*m_banks);
     m_banks->add(bank);
-    return m_banks->bank(name);
+    const Bank &added = m_banks->bank(name);
+    banksBefore.dismiss();
+    return added;
 }
 
 void BankLedgers::update(const Bank &bank)

@@ -195,8 +195,11 @@ public:
     void rename(const BudgetSource &from, const BudgetSource &to)
     {
         verifyNewItemName(to);
+        // In a copy, since nothing may fail once the item is renamed.
+        surveying::CompletedSurveys surveys(m_surveys);
+        surveys.renamedItem({budgeting::ItemTraits<T>::type, from}, to);
         m_budgetLedgers.rename<T>(from, to, std::nullopt);
-        m_surveys.renamedItem({budgeting::ItemTraits<T>::type, from}, to);
+        m_surveys = std::move(surveys);
     }
     void renameBill(const BudgetSource &from, const BudgetSource &to)
     {
@@ -267,6 +270,19 @@ public:
                                                  const BudgetBankLedgers &b);
 
 private:
+    /// Makes a change of several steps. When one of them fails, everything is put
+    /// back as it was before the first.
+    template <typename Change>
+    void wholly(Change &&change)
+    {
+        BudgetBankLedgers before(*this);
+        try {
+            change();
+        } catch (...) {
+            *this = std::move(before);
+            throw;
+        }
+    }
     /// As for verifyBudgetSourceName, and the name that the item's own account
     /// will get is held against the budget items like any account's.
     void verifyNewItemName(const BudgetSource &source) const;

@@ -33,12 +33,14 @@ std::optional<TransactionNumber> BudgetBankLedgers::add(const accounting::Accoun
 void BudgetBankLedgers::remove(const AccountCode &code)
 {
     const BudgetSource source(code.name());
-    const bool wasItem = visitOwner(
-        source, [&]<typename T>(std::type_identity<T>) { m_budgetLedgers.remove<T>(source); });
-    if (!wasItem)
-        m_generalLedger.remove(code.number());
-    if (const std::optional<BankName> bank = m_bankLedgers.lookUpBankName(code.number()))
-        m_bankLedgers.removeAssociation(*bank, code.number());
+    wholly([&] {
+        const bool wasItem = visitOwner(
+            source, [&]<typename T>(std::type_identity<T>) { m_budgetLedgers.remove<T>(source); });
+        if (!wasItem)
+            m_generalLedger.remove(code.number());
+        if (const std::optional<BankName> bank = m_bankLedgers.lookUpBankName(code.number()))
+            m_bankLedgers.removeAssociation(*bank, code.number());
+    });
 }
 
 TransactionNumber BudgetBankLedgers::post(const Transaction &transaction)
@@ -116,8 +118,10 @@ void BudgetBankLedgers::remove(const BankName &name)
 
 void BudgetBankLedgers::rename(const BankName &from, const BankName &to)
 {
-    m_bankLedgers.rename(from, to);
-    m_surveys.renamedBank(from, to);
+    wholly([&] {
+        m_bankLedgers.rename(from, to);
+        m_surveys.renamedBank(from, to);
+    });
 }
 
 std::optional<BankAccount> BudgetBankLedgers::lookUpBankAccount(const BankName &bank,
@@ -130,7 +134,7 @@ std::optional<BankAccount> BudgetBankLedgers::lookUpBankAccount(const BankName &
 
 void BudgetBankLedgers::remove(const BudgetItemIdentifier &id)
 {
-    removeItem(id, m_budgetLedgers, m_bankLedgers, m_surveys);
+    wholly([&] { removeItem(id, m_budgetLedgers, m_bankLedgers, m_surveys); });
 }
 
 TransactionNumber BudgetBankLedgers::process(const BudgetItemIdentifier &id, const Money &amount,

@@ -2,6 +2,7 @@
 #include "navigation/internal/finalise_survey.h"
 
 #include "navigation/internal/surveyed_changes.h"
+#include "navigation/internal/undo.h"
 
 #include "accounting/balances.h"
 #include "foundation/presentation.h"
@@ -269,6 +270,10 @@ finaliseSurvey(const QDate &date, const BankAccount &account, const Money &balan
     postings.post(budgetChanges);
     postings.post(accountChanges);
 
+    // What the statement shows stays; a survey that is not reconciled whole does
+    // not, since the next one would begin from its balance.
+    Restore surveysBefore(surveys);
+    Restore ledgerBefore(ledger);
     surveying::CompletedSurvey completed =
         last.value_or(surveying::CompletedSurvey(account, currency));
     completed.completed(date, balance, distribution, nonDistributed, window);
@@ -276,6 +281,8 @@ finaliseSurvey(const QDate &date, const BankAccount &account, const Money &balan
 
     reconcile(postings.posted(), accounts, bankLedgers, ledger);
     reconcile(reconciled, accounts, bankLedgers, ledger);
+    surveysBefore.dismiss();
+    ledgerBefore.dismiss();
     return completed;
 }
 

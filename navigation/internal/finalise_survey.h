@@ -27,7 +27,8 @@ namespace kiv::navigation::internal {
 /// what its account holds.
 ///
 /// What is refused only while posting (a change of an item without an account,
-/// a posting that the ledger refuses) leaves what was posted before it.
+/// a posting that the ledger refuses) leaves what was posted before it. What
+/// fails later leaves all postings, but no survey and nothing reconciled.
 KIV_NAVIGATION_EXPORT surveying::CompletedSurvey finaliseSurvey(
     const QDate &date, const banking::BankAccount &account, const numira::Money &balance,
     const std::set<accounting::TransactionNumber> &reconciled,
