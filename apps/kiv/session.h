@@ -118,6 +118,9 @@ public:
         return std::pair(std::move(result), m_log.lastKept());
     }
 
+    /// The last warning that was kept from being shown.
+    [[nodiscard]] const QString &lastWarning() const noexcept { return m_log.lastKept(); }
+
     // ---- what most commands need ---------------------------------------------
 
     [[nodiscard]] AccountIndex accounts();

@@ -26,7 +26,8 @@ FetchedRates read(const networking::Response &response)
 
 QUrl OpenExchangeRatesSource::serviceAddress()
 {
-    return QUrl(QStringLiteral("https://openexchangerates.org/api/"));
+    return QUrl(qEnvironmentVariable("KIV_RATES_SERVICE",
+                                     QStringLiteral("https://openexchangerates.org/api/")));
 }
 
 OpenExchangeRatesSource::OpenExchangeRatesSource(networking::NotifyingSender &sender, QString appId,

@@ -17,7 +17,9 @@ namespace kiv::conversion {
 class KIV_CONVERSION_EXPORT OpenExchangeRatesSource final : public CurrencySource {
     Q_OBJECT
 public:
-    /// Under which address the service's documents lie.
+    /// Under which address the service's documents lie: the public service's,
+    /// unless the environment variable KIV_RATES_SERVICE names another one (with
+    /// a slash at its end).
     [[nodiscard]] static QUrl serviceAddress();
 
     /// `appId` is the application's key at the service; it goes into the

@@ -5,7 +5,7 @@ namespace kiv::updating {
 
 ReleaseFeed ReleaseFeed::builtIn()
 {
-    return {QUrl(QStringLiteral(KIV_RELEASE_FEED)),
+    return {QUrl(qEnvironmentVariable("KIV_RELEASE_FEED", QStringLiteral(KIV_RELEASE_FEED))),
             SemanticVersion::fromText(QStringLiteral(KIV_VERSION))};
 }
 

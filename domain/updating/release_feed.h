@@ -25,8 +25,9 @@ struct KIV_UPDATING_EXPORT ReleaseFeed {
     /// The version that is running.
     SemanticVersion running;
 
-    /// The list whose address was given when this was built (the build option
-    /// KIV_RELEASE_FEED, empty by default), and the version that was built.
+    /// The list whose address the environment variable KIV_RELEASE_FEED names,
+    /// or else the one that was given when this was built (the build option of
+    /// the same name, empty by default), and the version that was built.
     [[nodiscard]] static ReleaseFeed builtIn();
 };
 

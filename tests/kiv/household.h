@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtTest/QtTest>
 
 namespace kiv::test {
@@ -62,10 +64,15 @@ public:
         QProcess process;
         process.setProcessEnvironment(m_environment);
         process.setWorkingDirectory(m_folder.path());
+        // The loop goes on meanwhile, for servers of the test's own.
+        QEventLoop loop;
+        QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
+        QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
         process.start(program, words);
         process.write(input);
         process.closeWriteChannel();
-        process.waitForFinished(60'000);
+        if (process.waitForStarted() && process.state() != QProcess::NotRunning)
+            loop.exec();
         return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
                 process.readAllStandardOutput(), process.readAllStandardError()};
     }

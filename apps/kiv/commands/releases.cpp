@@ -26,11 +26,13 @@ constexpr std::chrono::seconds patience{40};
 std::vector<ReleaseInformation> fetchReleases(Session &session)
 {
     std::optional<std::set<ReleaseInformation>> releases;
-    const auto [done, warning] = session.quietly([&] {
+    QString warning;
+    (void)session.quietly([&] {
         QEventLoop loop;
         QObject::connect(&session.navigator(), &Navigator::fetchedReleaseNotes, &loop,
                          [&](const std::set<ReleaseInformation> &versions) {
                              releases = versions;
+                             warning = session.lastWarning();
                              loop.quit();
                          });
         QTimer::singleShot(patience, &loop, &QEventLoop::quit);
@@ -38,7 +40,11 @@ std::vector<ReleaseInformation> fetchReleases(Session &session)
         QTimer::singleShot(0, &session.navigator(), &Navigator::onFetchReleaseNotes);
         return loop.exec() == 0;
     });
-    if (!done || !releases || (releases->empty() && !warning.isEmpty()))
+    // The Navigator may have warned of something else meanwhile, such as of
+    // exchange rates that it could not refresh.
+    if (!warning.startsWith(QStringLiteral("Failed to fetch the list of releases.")))
+        warning.clear();
+    if (!releases || (releases->empty() && !warning.isEmpty()))
         throw releasesNotFetched(warning);
     return {releases->rbegin(), releases->rend()};
 }
