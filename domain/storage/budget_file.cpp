@@ -47,23 +47,6 @@ internal::Image encodedSafely(const BudgetStorage::Data &data)
     return image;
 }
 
-void refuseOtherThanBudget(const FileTarget &target, FileKind kind)
-{
-    switch (kind) {
-    case FileKind::Empty:
-        throw internal::emptyFile(target.shownPath());
-    case FileKind::Foreign:
-        throw internal::notOurs(target.shownPath());
-    case FileKind::Newer:
-        throw internal::newerVersion(target.shownPath());
-    case FileKind::Malformed:
-        throw internal::damaged(target.shownPath(),
-                                internal::ContentFault("Its header is not whole."));
-    case FileKind::Budget:
-        break;
-    }
-}
-
 } // namespace
 
 /// A file that is in use: locked, and known by what it held last.
@@ -106,7 +89,7 @@ public:
             internal::readFile(m_target, internal::fileSizeMax);
         if (!content)
             throw internal::fileNotFound(m_target.shownPath());
-        refuseOtherThanBudget(m_target, internal::kindOf(content->bytes));
+        internal::requireBudget(internal::kindOf(content->bytes), m_target.shownPath());
         Data data = withContent([&] { return internal::decodeBudget(content->bytes, mended); },
                                 [this](const std::exception &cause) {
                                     return internal::damaged(m_target.shownPath(), cause);
@@ -146,7 +129,7 @@ private:
         // backup; what is no budget is not overwritten by mistake.
         const FileKind kind = internal::kindOf(bytes);
         if (kind == FileKind::Foreign || kind == FileKind::Newer)
-            refuseOtherThanBudget(m_target, kind);
+            internal::requireBudget(kind, m_target.shownPath());
     }
 
     FileTarget m_target;

@@ -3,6 +3,7 @@
 #include "random_budget.h"
 #include "scratch_folder.h"
 
+#include "storage/budget_inspection.h"
 #include "support/message_log.h"
 
 #include <QtTest/QTest>
@@ -14,6 +15,7 @@ using namespace kiv;
 using storage::StorageFailure;
 using Data = storage::BudgetStorage::Data;
 using Sql = std::vector<const char *>;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,6 +49,23 @@ Data smallBudget()
     return data;
 }
 
+/// The verdicts on the promises in their order: kept, mended, Broken, or not
+/// judged. Says so when the budget does not go with them.
+QString verdictsOn(const QString &path)
+{
+    const storage::BudgetInspection found = storage::inspectBudget(path);
+    QString verdicts;
+    for (const storage::Judgement &judgement : found.judgements) {
+        verdicts += u" kmB-"_s.at(int(judgement.verdict));
+        if ((judgement.verdict == storage::Verdict::Kept ||
+             judgement.verdict == storage::Verdict::NotJudged) != judgement.reasons.isEmpty())
+            verdicts += QStringLiteral(" without a reason");
+    }
+    return found.data.has_value() != verdicts.contains(u'B')
+               ? verdicts
+               : verdicts + QStringLiteral(" and the budget");
+}
+
 } // namespace
 
 class BudgetDamageTest final : public QObject {
@@ -57,6 +76,7 @@ private slots:
     void hostileFilesAreRefusedAtOnce_data();
     void hostileFilesAreRefusedAtOnce();
     void aSealThatWasMadeAgainIsRight();
+    void everyPromiseIsJudged();
 
 private:
     test::ScratchFolder m_folder;
@@ -193,6 +213,8 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce()
     const std::clock_t start = std::clock();
     QCOMPARE(test::failureOf([&] { (void)test::load(m_path); }), failure);
     QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
+    const QString verdicts = verdictsOn(m_path);
+    QVERIFY2(verdicts.size() == 5 && verdicts.count(u'B') == 1, qPrintable(verdicts));
     QCOMPARE(m_folder.read(QStringLiteral("a.budget")), before);
     for (const QString &name : m_folder.names())
         QFile::remove(m_folder.path(name));
@@ -207,6 +229,30 @@ void BudgetDamageTest::aSealThatWasMadeAgainIsRight()
     test::sealAgain(m_path);
     QCOMPARE(test::load(m_path).generalLedger.accountCode(accounting::AccountNumber(1)).name(),
              QStringLiteral("other"));
+}
+
+void BudgetDamageTest::everyPromiseIsJudged()
+{
+    const auto after = [this](const char *sql, bool isSealed) {
+        QFile::remove(m_path);
+        test::store(m_path, smallBudget());
+        test::operate(m_path, std::span(&sql, 1));
+        if (isSealed)
+            test::sealAgain(m_path);
+        return verdictsOn(m_path);
+    };
+    QCOMPARE(after("PRAGMA application_id = 0", false), u"B----"_s);
+    QCOMPARE(after("CREATE INDEX i ON accounts(name)", false), u"kB---"_s);
+    QCOMPARE(after("UPDATE accounts SET name = 'other'", false), u"kkB--"_s);
+    QCOMPARE(after("UPDATE accounts SET parent = 9", true), u"kkkB-"_s);
+    // The bill has no account.
+    QCOMPARE(after("UPDATE accounts SET name = 'other'", true), u"kkkkm"_s);
+    QCOMPARE(after("DELETE FROM items", true), u"kkkkk"_s);
+    // Neither a lock nor anything else is left.
+    QCOMPARE(m_folder.names(), QStringList{u"a.budget"_s});
+    QCOMPARE(storage::backupOf(m_path, 1), m_path + u".backup-1"_s);
+    QCOMPARE(test::failureOf([this] { (void)storage::inspectBudget(m_folder.path(u"b"_s)); }),
+             StorageFailure::NotFound);
 }
 
 QTEST_APPLESS_MAIN(BudgetDamageTest)

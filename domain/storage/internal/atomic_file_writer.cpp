@@ -238,9 +238,7 @@ void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
 {
     if (!m_hasPreviousName)
         return;
-    const auto backup = [this](unsigned number) {
-        return m_target.sibling(".backup-" + QByteArray::number(number));
-    };
+    const auto backup = [this](unsigned number) { return backupName(m_target, number); };
     const auto rename = [this](const QByteArray &from, const QByteArray &to) {
         if (::renameat(m_folder.get(), from.constData(), m_folder.get(), to.constData()) != 0 &&
             errno != ENOENT)

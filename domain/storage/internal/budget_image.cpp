@@ -83,7 +83,49 @@ void writeTables(const ImageDatabase &database, Seal &seal, const BudgetStorage:
     writeItemTags(database, seal, data.itemTags);
 }
 
+std::uint32_t versionOf(QByteArrayView image) noexcept
+{
+    return numberAt<quint32>(image, userVersionAt);
+}
+
+/// The rows of a table, as they stand there.
+void sealRows(const ImageDatabase &database, const char *table, Seal &seal)
+{
+    seal.beginTable(table);
+    Statement rows(database, QByteArray("SELECT * FROM ") + table + " ORDER BY rowid");
+    while (rows.step()) {
+        for (int column = 0; column < sqlite3_column_count(rows.get()); ++column) {
+            const int type = sqlite3_column_type(rows.get(), column);
+            if (type == SQLITE_NULL)
+                seal.null();
+            else if (type == SQLITE_INTEGER)
+                seal.integer(sqlite3_column_int64(rows.get(), column));
+            else if (const auto *text = sqlite3_column_text(rows.get(), column))
+                seal.text({text, sqlite3_column_bytes(rows.get(), column)});
+            else
+                throw std::bad_alloc();
+        }
+        seal.endRow();
+    }
+}
+
 } // namespace
+
+void requireBudget(FileKind kind, const QString &path)
+{
+    switch (kind) {
+    case FileKind::Empty:
+        throw emptyFile(path);
+    case FileKind::Foreign:
+        throw notOurs(path);
+    case FileKind::Newer:
+        throw newerVersion(path);
+    case FileKind::Malformed:
+        throw damaged(path, ContentFault("Its header is not whole."));
+    case FileKind::Budget:
+        break;
+    }
+}
 
 FileKind kindOf(QByteArrayView image) noexcept
 {
@@ -95,7 +137,7 @@ FileKind kindOf(QByteArrayView image) noexcept
                    : FileKind::Foreign;
     if (!image.startsWith(magic) || numberAt<quint32>(image, applicationIdAt) != applicationId)
         return FileKind::Foreign;
-    const auto version = numberAt<quint32>(image, userVersionAt);
+    const std::uint32_t version = versionOf(image);
     if (version > currentVersion)
         return FileKind::Newer;
     return tablesOf(version).empty() || !isHeaderWhole(image) ? FileKind::Malformed
@@ -116,7 +158,7 @@ Image encodeBudget(const BudgetStorage::Data &data)
 
 BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
 {
-    const auto version = numberAt<quint32>(image, userVersionAt);
+    const std::uint32_t version = versionOf(image);
     const ImageDatabase database(image, version);
     Seal seal(version);
     BudgetStorage::Data data = readTables(database, seal, mended);
@@ -124,6 +166,22 @@ BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
     checkSeal(database, seal);
     mend(data, mended);
     return data;
+}
+
+void checkTables(QByteArrayView image)
+{
+    const ImageDatabase database(image, versionOf(image));
+}
+
+void checkSeal(QByteArrayView image)
+{
+    const std::uint32_t version = versionOf(image);
+    const ImageDatabase database(image, version);
+    Seal seal(version);
+    const auto tables = tablesOf(version);
+    for (const TableDefinition &table : tables.first(tables.size() - 1))
+        sealRows(database, table.name, seal);
+    checkSeal(database, seal);
 }
 
 } // namespace kiv::storage::internal

@@ -17,6 +17,8 @@ enum class FileKind : std::uint8_t {
     Budget,
 };
 [[nodiscard]] FileKind kindOf(QByteArrayView image) noexcept;
+/// Throws the StorageError for a file of another kind than FileKind::Budget.
+void requireBudget(FileKind kind, const QString &path);
 
 /// The budget file with the data; the same bytes for the same data. Throws
 /// ContentFault when a budget file cannot hold it.
@@ -26,5 +28,11 @@ enum class FileKind : std::uint8_t {
 /// a sentence in `mended` for each thing that was. Throws ContentFault, or what
 /// the domain throws, for an image that is not as it was written.
 [[nodiscard]] BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended);
+
+/// Throws ContentFault when the image of a FileKind::Budget has other tables than
+/// its version has.
+void checkTables(QByteArrayView image);
+/// Throws ContentFault when its seal does not fit its rows, whatever they mean.
+void checkSeal(QByteArrayView image);
 
 } // namespace kiv::storage::internal

@@ -85,4 +85,9 @@ QByteArray FileTarget::stem() const
     return "kiv-" + QCryptographicHash::hash(m_name, QCryptographicHash::Sha256).toHex().left(32);
 }
 
+QByteArray backupName(const FileTarget &target, unsigned number)
+{
+    return target.sibling(".backup-" + QByteArray::number(number));
+}
+
 } // namespace kiv::storage::internal

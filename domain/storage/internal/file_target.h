@@ -43,4 +43,7 @@ private:
     QByteArray m_name;
 };
 
+/// The name in its folder of a file's backup; number 1 is the newest.
+[[nodiscard]] QByteArray backupName(const FileTarget &target, unsigned number);
+
 } // namespace kiv::storage::internal

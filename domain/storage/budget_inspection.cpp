@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/budget_inspection.h"
+
+#include "storage/internal/budget_image.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/file_content.h"
+
+#include <QtCore/QFile>
+
+#include <new>
+
+namespace kiv::storage {
+namespace {
+
+/// The reason for which `look` throws; nothing when it does not.
+template <typename Look>
+std::optional<QString> faultOf(Look look)
+{
+    try {
+        look();
+        return std::nullopt;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &fault) {
+        return QString::fromUtf8(fault.what());
+    }
+}
+
+/// Judges one promise after the other until one is broken.
+class Judge {
+public:
+    explicit Judge(BudgetInspection &inspection) : m_inspection(inspection) {}
+
+    template <typename Look>
+    void judge(FilePromise promise, Look look)
+    {
+        if (m_isBroken) {
+            m_inspection.judgements.push_back({promise, Verdict::NotJudged, {}});
+            return;
+        }
+        const std::optional<QString> fault = faultOf(look);
+        m_isBroken = fault.has_value();
+        m_inspection.judgements.push_back({promise, m_isBroken ? Verdict::Broken : Verdict::Kept,
+                                           m_isBroken ? QStringList(*fault) : QStringList()});
+    }
+
+private:
+    BudgetInspection &m_inspection;
+    bool m_isBroken = false;
+};
+
+} // namespace
+
+BudgetInspection inspectBudget(const QString &filePathName)
+{
+    const internal::FileTarget target(filePathName);
+    const std::optional<internal::FileContent> content =
+        internal::readFile(target, internal::fileSizeMax);
+    if (!content)
+        throw internal::fileNotFound(filePathName);
+    const QByteArrayView image = content->bytes;
+
+    BudgetInspection inspection;
+    inspection.savedAt = QDateTime::fromSecsSinceEpoch(content->stamp.seconds, Qt::UTC)
+                             .addMSecs(content->stamp.nanoseconds / 1'000'000);
+    inspection.size = image.size();
+    QStringList mended;
+    Judge judge(inspection);
+    judge.judge(FilePromise::Identity,
+                [&] { internal::requireBudget(internal::kindOf(image), filePathName); });
+    judge.judge(FilePromise::Tables, [&] { internal::checkTables(image); });
+    judge.judge(FilePromise::Seal, [&] { internal::checkSeal(image); });
+    judge.judge(FilePromise::Rules,
+                [&] { inspection.data = internal::decodeBudget(image, mended); });
+    judge.judge(FilePromise::Ties, [] {});
+    if (!mended.isEmpty()) {
+        inspection.judgements.back().verdict = Verdict::Mended;
+        inspection.judgements.back().reasons = mended;
+    }
+    return inspection;
+}
+
+QString backupOf(const QString &filePathName, unsigned number)
+{
+    const internal::FileTarget target(filePathName);
+    return QFile::decodeName(target.folder() + '/' + internal::backupName(target, number));
+}
+
+} // namespace kiv::storage

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "storage/budget_storage.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QStringList>
+
+#include <optional>
+#include <vector>
+
+namespace kiv::storage {
+
+/// What every budget file promises, in the order in which it is looked at. None
+/// is judged when one before it is broken.
+enum class FilePromise : std::uint8_t {
+    Identity = 1, ///< its header is that of a budget file of a known version
+    Tables = 2,   ///< its tables are those of that version
+    Seal = 3,     ///< its rows are those that were written
+    Rules = 4,    ///< its books obey the rules of the ledger
+    Ties = 5,     ///< its items, accounts and banks fit together
+};
+
+/// Whether a promise is kept.
+enum class Verdict : std::uint8_t {
+    Kept = 1,
+    Mended = 2, ///< not, but loading makes it so
+    Broken = 3,
+    NotJudged = 4,
+};
+
+/// A promise, its verdict, and the reasons where it is not kept.
+struct KIV_STORAGE_EXPORT Judgement {
+    FilePromise promise = FilePromise::Identity;
+    Verdict verdict = Verdict::NotJudged;
+    QStringList reasons;
+};
+
+/// What a look at a budget file found.
+struct KIV_STORAGE_EXPORT BudgetInspection {
+    /// When this version was written, in UTC.
+    QDateTime savedAt;
+    /// In bytes.
+    qint64 size = 0;
+    /// One for each promise, in their order.
+    std::vector<Judgement> judgements;
+    /// The budget, when no promise is broken.
+    std::optional<BudgetStorage::Data> data;
+};
+
+/// Looks at a budget file or one of its backups, without a lock, which reading
+/// alone does not need: a save replaces the file by another one and never
+/// changes it. Nothing is written. Throws StorageError when there is no file to
+/// look at, or none that can be read.
+[[nodiscard]] KIV_STORAGE_EXPORT BudgetInspection inspectBudget(const QString &filePathName);
+
+/// Where the backup of that number of a budget file lies, which need not exist;
+/// 1 is the version before the file's. Throws StorageError when the file's
+/// folder does not exist.
+[[nodiscard]] KIV_STORAGE_EXPORT QString backupOf(const QString &filePathName, unsigned number);
+
+} // namespace kiv::storage
