@@ -2,6 +2,7 @@
 #include "budget_view.h"
 
 #include "output/json.h"
+#include "parsing/similar.h"
 #include "parsing/values.h"
 
 namespace kiv::app {
@@ -43,9 +44,13 @@ const budgeting::BudgetedMoney &BudgetView::find(const QString &name,
 {
     std::vector<const budgeting::BudgetedMoney *> found;
     QStringList kinds;
+    QStringList known;
     m_budget.forEach([&](const budgeting::BudgetedMoney &item) {
         const BudgetItemIdentifier id = identify(item);
-        if (id.source.name() != name || (kind && id.type != *kind))
+        if (kind && id.type != *kind)
+            return;
+        known += id.source.name();
+        if (id.source.name() != name)
             return;
         found.push_back(&item);
         kinds += kindWord(id.type);
@@ -53,7 +58,8 @@ const budgeting::BudgetedMoney &BudgetView::find(const QString &name,
     if (found.size() > 1)
         throw ambiguousItem(name, kinds);
     if (found.empty())
-        throw kind ? noSuchItem(kindWord(*kind), name) : noSuchItem(name);
+        throw kind ? noSuchItem(kindWord(*kind), name, similarTo(name, known))
+                   : noSuchItem(name, similarTo(name, known));
     return *found.front();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors.h"
 
+#include "parsing/similar.h"
+
 #include <QtCore/QObject>
 
 namespace kiv::app {
@@ -9,6 +11,15 @@ namespace {
 QString withReason(const QString &sentence, const QString &reason)
 {
     return reason.isEmpty() ? sentence : sentence + u' ' + reason;
+}
+
+/// What there is not, and what may have been meant; otherwise what to do next.
+QString missed(const QString &what, const QStringList &similar, const QString &next)
+{
+    if (similar.isEmpty())
+        return next.isEmpty() ? what + u'.' : QObject::tr("%1; %2.").arg(what, next);
+    return QObject::tr("%1; did you mean %2?")
+        .arg(what, u'\'' + similar.join(QStringLiteral("', '")) + u'\'');
 }
 } // namespace
 
@@ -52,10 +63,10 @@ UsageError tooManyDigits(const QString &text, const QString &currency, unsigned 
                                 .arg(text, QString::number(digitsMax), currency));
 }
 
-UsageError notACurrency(const QString &text)
+UsageError notACurrency(const QString &text, const QStringList &similar)
 {
-    return UsageError(
-        QObject::tr("'%1' is not a currency; write its ISO 4217 code, like USD.").arg(text));
+    return UsageError(missed(QObject::tr("'%1' is not a currency").arg(text), similar,
+                             QObject::tr("write its ISO 4217 code, like USD")));
 }
 
 UsageError notANumber(const QString &text, qint64 lowest, qint64 highest)
@@ -72,7 +83,8 @@ UsageError notAPercentage(const QString &text)
 UsageError notAChoice(const QString &text, const QStringList &choices)
 {
     return UsageError(
-        QObject::tr("'%1' is none of: %2.").arg(text, choices.join(QStringLiteral(", "))));
+        missed(QObject::tr("'%1' is none of: %2").arg(text, choices.join(QStringLiteral(", "))),
+               similarTo(text, choices).mid(0, 1), {}));
 }
 
 UsageError contradiction(const QString &one, const QString &other)
@@ -87,13 +99,15 @@ UsageError missing(const QString &what)
 
 UsageError nothingToChange()
 {
-    return UsageError(QObject::tr("Nothing to change was given."));
+    return UsageError(
+        QObject::tr("Nothing to change was given; --help lists what can be changed."));
 }
 
 UsageError noFileNamed()
 {
     return UsageError(
-        QObject::tr("No budget file was named; use --file or the variable KIV_FILE."));
+        QObject::tr("No budget file was named; use --file or the variable KIV_FILE, or make one "
+                    "with kiv new FILE."));
 }
 
 UsageError notAnAssignment(const QString &text)
@@ -101,10 +115,16 @@ UsageError notAnAssignment(const QString &text)
     return UsageError(QObject::tr("'%1' is not of the form NAME=VALUE.").arg(text));
 }
 
-UsageError noSuchCommand(const QString &word)
+UsageError noSuchCommand(const QString &word, const QStringList &similar)
 {
-    return UsageError(
-        QObject::tr("'%1' is no command; kiv --help lists those that there are.").arg(word));
+    return UsageError(missed(QObject::tr("'%1' is no command").arg(word), similar,
+                             QObject::tr("kiv --help lists those that there are")));
+}
+
+UsageError noSuchOption(const QString &word, const QStringList &similar)
+{
+    return UsageError(missed(QObject::tr("'%1' is no option of this command").arg(word), similar,
+                             QObject::tr("--help lists those that there are")));
 }
 
 UsageError openQuote()
@@ -117,9 +137,10 @@ UsageError unreadableInput(const QString &name, const QString &reason)
     return UsageError(QObject::tr("Cannot understand %1: %2.").arg(name, reason));
 }
 
-Refusal noSuchAccount(const QString &text)
+Refusal noSuchAccount(const QString &text, const QStringList &similar)
 {
-    return Refusal(QObject::tr("There is no account '%1'.").arg(text));
+    return Refusal(missed(QObject::tr("There is no account '%1'").arg(text), similar,
+                          QObject::tr("kiv accounts lists those that there are")));
 }
 
 Refusal ambiguousAccount(const QString &name, const QStringList &numbers)
@@ -128,24 +149,29 @@ Refusal ambiguousAccount(const QString &name, const QStringList &numbers)
                        .arg(name, numbers.join(QStringLiteral(", "))));
 }
 
-Refusal noSuchBank(const QString &name)
+Refusal noSuchBank(const QString &name, const QStringList &similar)
 {
-    return Refusal(QObject::tr("There is no bank '%1'.").arg(name));
+    return Refusal(missed(QObject::tr("There is no bank '%1'").arg(name), similar,
+                          QObject::tr("kiv banks lists those that there are")));
 }
 
 Refusal notABankAccount(const QString &account)
 {
-    return Refusal(QObject::tr("No bank keeps the account '%1'.").arg(account));
+    return Refusal(
+        QObject::tr("No bank keeps the account '%1'; kiv bank-account attach ties it to one.")
+            .arg(account));
 }
 
-Refusal noSuchItem(const QString &kind, const QString &name)
+Refusal noSuchItem(const QString &kind, const QString &name, const QStringList &similar)
 {
-    return Refusal(QObject::tr("There is no %1 '%2'.").arg(kind, name));
+    return Refusal(missed(QObject::tr("There is no %1 '%2'").arg(kind, name), similar,
+                          QObject::tr("kiv %1 list shows those that there are").arg(kind)));
 }
 
-Refusal noSuchItem(const QString &name)
+Refusal noSuchItem(const QString &name, const QStringList &similar)
 {
-    return Refusal(QObject::tr("There is no budget item '%1'.").arg(name));
+    return Refusal(missed(QObject::tr("There is no budget item '%1'").arg(name), similar,
+                          QObject::tr("kiv bill list and the like show those that there are")));
 }
 
 Refusal ambiguousItem(const QString &name, const QStringList &kinds)
@@ -179,9 +205,23 @@ Refusal wizardFailed(const QString &reason)
     return Refusal(withReason(QObject::tr("The budget could not be made."), reason));
 }
 
-Refusal noSuchTag(const QString &name)
+Refusal noSuchTag(const QString &name, const QStringList &similar)
 {
-    return Refusal(QObject::tr("There is no tag '%1'.").arg(name));
+    return Refusal(missed(QObject::tr("There is no tag '%1'").arg(name), similar,
+                          QObject::tr("kiv tags list shows those that there are")));
+}
+
+Refusal noSuchVersion(const QString &number, qsizetype count)
+{
+    const QString what = QObject::tr("There is no former version %1").arg(number);
+    return Refusal(count == 0
+                       ? missed(what, {}, QObject::tr("none was kept of this budget"))
+                       : missed(what, {}, QObject::tr("kiv history lists those that are kept")));
+}
+
+Refusal versionDamaged(const QString &path, const QString &reason)
+{
+    return Refusal(withReason(QObject::tr("The version in '%1' is not whole.").arg(path), reason));
 }
 
 Refusal shadowedItem(const QString &kind, const QString &firstKind, const QString &name)
@@ -207,12 +247,13 @@ Refusal noTransferTo(const QString &account)
 
 Refusal noSuchTransaction(const QString &number)
 {
-    return Refusal(QObject::tr("There is no transaction %1.").arg(number));
+    return Refusal(missed(QObject::tr("There is no transaction %1").arg(number), {},
+                          QObject::tr("kiv transactions lists those that there are")));
 }
 
 Refusal fileExists(const QString &path)
 {
-    return Refusal(QObject::tr("The file '%1' exists already.").arg(path));
+    return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));
 }
 
 Refusal cannotWriteOutput(const QString &reason)

@@ -32,28 +32,32 @@ public:
 [[nodiscard]] UsageError amountTooLarge(const QString &text);
 [[nodiscard]] UsageError tooManyDigits(const QString &text, const QString &currency,
                                        unsigned digitsMax);
-[[nodiscard]] UsageError notACurrency(const QString &text);
+[[nodiscard]] UsageError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] UsageError notANumber(const QString &text, qint64 lowest, qint64 highest);
 [[nodiscard]] UsageError notAPercentage(const QString &text);
-/// None of the words that are allowed there.
+/// None of the words that are allowed there; the most similar is offered.
 [[nodiscard]] UsageError notAChoice(const QString &text, const QStringList &choices);
 [[nodiscard]] UsageError contradiction(const QString &one, const QString &other);
 [[nodiscard]] UsageError missing(const QString &what);
 [[nodiscard]] UsageError nothingToChange();
 [[nodiscard]] UsageError noFileNamed();
-[[nodiscard]] UsageError noSuchCommand(const QString &word);
+[[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar);
+[[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError openQuote();
 [[nodiscard]] UsageError notAnAssignment(const QString &text);
 [[nodiscard]] UsageError unreadableInput(const QString &name, const QString &reason);
 
 // ---- what the budget does not hold -----------------------------------------
+// `similar` are names that may be meant, see similarTo().
 
-[[nodiscard]] Refusal noSuchAccount(const QString &text);
+[[nodiscard]] Refusal noSuchAccount(const QString &text, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &numbers);
-[[nodiscard]] Refusal noSuchBank(const QString &name);
+[[nodiscard]] Refusal noSuchBank(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal notABankAccount(const QString &account);
-[[nodiscard]] Refusal noSuchItem(const QString &kind, const QString &name);
-[[nodiscard]] Refusal noSuchItem(const QString &name);
+[[nodiscard]] Refusal noSuchItem(const QString &kind, const QString &name,
+                                 const QStringList &similar);
+/// Of no kind at all.
+[[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
 [[nodiscard]] Refusal answersEnded();
 [[nodiscard]] Refusal surveyGivenUp();
@@ -61,12 +65,14 @@ public:
 [[nodiscard]] Refusal ratesNotFetched(const QString &reason);
 [[nodiscard]] Refusal releasesNotFetched(const QString &reason);
 [[nodiscard]] Refusal wizardFailed(const QString &reason);
-[[nodiscard]] Refusal noSuchTag(const QString &name);
+[[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal shadowedItem(const QString &kind, const QString &firstKind,
                                    const QString &name);
 [[nodiscard]] Refusal noTransferFrom(const QString &account);
 [[nodiscard]] Refusal noTransferTo(const QString &account);
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);
+[[nodiscard]] Refusal noSuchVersion(const QString &number, qsizetype count);
+[[nodiscard]] Refusal versionDamaged(const QString &path, const QString &reason);
 
 // ---- files -----------------------------------------------------------------
 

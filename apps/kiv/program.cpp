@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program.h"
 
+#include "command_line/misuse.h"
 #include "commands/commands.h"
 
 #include <QtCore/QCoreApplication>
@@ -13,16 +14,6 @@ namespace {
 QString oneLine(const char *text)
 {
     return QString::fromUtf8(text).simplified();
-}
-
-/// What CLI11 says of a wrong call, worded as a sentence where it is terse.
-QString misuse(const CLI::ParseError &error)
-{
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
-        std::string_view(error.what()).starts_with("A subcommand"))
-        return QObject::tr("A command is missing; --help lists those that there are.");
-    const QString text = oneLine(error.what());
-    return text.endsWith(u'.') ? text : text + u'.';
 }
 
 const CLI::App *subcommand(const CLI::App &app, const std::string &name)
@@ -83,19 +74,6 @@ std::vector<std::string> Program::wordsAfter(const std::vector<std::string> &bef
             words.push_back(option->get_name());
     }
     return words;
-}
-
-void Program::refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
-{
-    const CLI::App *reached = &app;
-    for (const std::string &word : words) {
-        const CLI::App *next = subcommand(*reached, word);
-        if (word.starts_with('-') || reached->get_subcommands({}).empty())
-            return;
-        if (!next)
-            throw noSuchCommand(QString::fromStdString(word));
-        reached = next;
-    }
 }
 
 bool Program::parse(const std::vector<std::string> &words, int &status)

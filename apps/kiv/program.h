@@ -39,8 +39,6 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<CLI::App> declare();
-    /// CLI11 would only say that a command is missing.
-    static void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words);
     /// Tells whether there is a command to be executed; otherwise `status` is
     /// the exit status.
     bool parse(const std::vector<std::string> &words, int &status);

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session.h"
 
+#include "parsing/similar.h"
+
 #include "networking/http_request_sender.h"
-#include "storage/budget_file.h"
 #include "storage/rates_file.h"
 
 #include <QtCore/QFileInfo>
@@ -20,9 +21,10 @@ Navigator &Session::navigator()
 {
     if (!m_navigator) {
         const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        auto budgetFile = std::make_unique<RecallingStorage>();
+        m_storage = budgetFile.get();
         m_navigator = std::make_unique<Navigator>(
-            std::make_unique<networking::HttpRequestSender>(),
-            std::make_unique<storage::BudgetFile>(),
+            std::make_unique<networking::HttpRequestSender>(), std::move(budgetFile),
             std::make_unique<storage::RatesFile>(folder + QStringLiteral("/rates")));
         // The offer of the first-time wizard empties the budget; who works on a
         // file wants that file.
@@ -78,6 +80,12 @@ void Session::revert()
     navigator().onReloadBudgetFile();
 }
 
+void Session::recall(storage::BudgetStorage::Data version)
+{
+    m_storage->recall(std::move(version));
+    navigator().onReloadBudgetFile();
+}
+
 AccountIndex Session::accounts()
 {
     return AccountIndex(std::get<std::set<accounting::Account>>(
@@ -93,8 +101,12 @@ banking::Bank Session::bank(const QString &name)
 {
     const banking::BankMap all = banks();
     const banking::BankName bankName(name);
-    if (!all.hasBank(bankName))
-        throw noSuchBank(name);
+    if (!all.hasBank(bankName)) {
+        QStringList known;
+        for (const banking::BankName &candidate : all.names())
+            known += candidate.institution();
+        throw noSuchBank(name, similarTo(name, known));
+    }
     return all.bank(bankName);
 }
 

@@ -4,6 +4,7 @@
 #include "errors.h"
 #include "message_log.h"
 #include "parsing/account_index.h"
+#include "recalling_storage.h"
 
 #include "navigation/navigator.h"
 
@@ -58,6 +59,9 @@ public:
     void saveAs(const QString &file);
     /// Gives up what was changed since the last save.
     void revert();
+    /// Puts a former version of the open file in the place of the budget in
+    /// memory; the file is as it was until that is saved.
+    void recall(storage::BudgetStorage::Data version);
 
     // ---- requests ------------------------------------------------------------
 
@@ -142,6 +146,7 @@ private:
 
     MessageLog &m_log;
     std::unique_ptr<Navigator> m_navigator;
+    RecallingStorage *m_storage = nullptr; ///< the Navigator's
     QString m_file;
 };
 

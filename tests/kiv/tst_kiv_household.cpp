@@ -214,7 +214,11 @@ private slots:
         QCOMPARE(settings["usableCurrencies"_L1], parsed("['USD', 'EUR']"));
         QVERIFY(home.run("bill list").out.contains("700.00 EUR"));
         QCOMPARE(home.run("configure set --notify-within 61").status, 1);
+        QCOMPARE(home.run("configure set").status, 2);
         QCOMPARE(home.json("configure show").object(), settings);
+        // What is preferred is usable, unless the usable ones are given.
+        QCOMPARE(home.json("configure set --preferred JPY")["usableCurrencies"_L1],
+                 parsed("['JPY', 'USD', 'EUR']"));
     }
 
     void helpNeedsNothing()

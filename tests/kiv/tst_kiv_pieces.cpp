@@ -3,6 +3,7 @@
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/account_index.h"
+#include "parsing/similar.h"
 #include "parsing/words.h"
 
 #include <QtTest/QtTest>
@@ -60,6 +61,53 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(number("Rent"), app::Refusal);
         QVERIFY_EXCEPTION_THROWN(number("rent"), app::Refusal);
         QCOMPARE(index.nextNumber().integer(), 5u);
+    }
+
+    void slipsAreCounted_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<int>("slips");
+        for (const auto &[word, slips] : {std::pair("rent", 0),
+                                          {"RENT", 0},
+                                          {"ren", 1},
+                                          {"reent", 1},
+                                          {"rant", 1},
+                                          {"rnet", 1},
+                                          {"ernt", 1},
+                                          {"tren", 2},
+                                          {"", 4},
+                                          {"tner", 3},
+                                          {"abcd", 4},
+                                          {"rente x", 3}})
+            QTest::newRow(word) << QString::fromLatin1(word) << slips;
+    }
+    void slipsAreCounted()
+    {
+        QFETCH(QString, word);
+        QFETCH(int, slips);
+        QCOMPARE(app::slipsBetween(word, u"Rent"_s), slips);
+        QCOMPARE(app::slipsBetween(u"Rent"_s, word), slips);
+    }
+
+    void whatIsAlikeIsOffered()
+    {
+        const QStringList known{u"Checking"_s, u"Chequing"_s, u"Savings"_s,   u"Car"_s,
+                                u"Rent"_s,     u"Rental"_s,   u"Rent [x y]"_s};
+        const auto offered = [&known](const QString &word) {
+            return app::similarTo(word, known).join(u',');
+        };
+        QCOMPARE(offered(u"Cheking"_s), u"Checking"_s);
+        QCOMPARE(offered(u"Cheking accont"_s), QString());
+        QCOMPARE(offered(u"Cheing"_s), u"Checking,Chequing"_s);
+        QCOMPARE(offered(u"savings"_s), u"Savings"_s);
+        QCOMPARE(offered(u"Sav"_s), u"Savings"_s);
+        QCOMPARE(offered(u"Rent"_s), u"Rental"_s); // not itself, and no beginning beside one alike
+        QCOMPARE(offered(u"Tax"_s), QString());
+        QCOMPARE(offered(u"X"_s), QString());
+        QCOMPARE(offered({}), QString());
+        QCOMPARE(offered(QString(100'000, u'a')), QString());
+        const QStringList letters{u"Ab"_s, u"Ac"_s, u"Ad"_s, u"Ae"_s};
+        QCOMPARE(app::similarTo(u"Aa"_s, letters), letters.first(3));
     }
 
     void wordsAreSplitAsAShellDoes_data()

@@ -45,7 +45,19 @@ private slots:
         row("nothing to change", "bill update Rent", 2, "Nothing to change");
         row("an unknown option", "bill add Gym 12 --colour red", 2, "--colour");
         row("a missing argument", "bill add Gym", 2, "AMOUNT");
-        row("an unknown command", "frobnicate", 2, "frobnicate");
+        row("an unknown command", "frobnicate", 2, "'frobnicate' is no command; kiv --help");
+        row("a slip in a command", "bil list", 2, "'bil' is no command; did you mean 'bill'?");
+        row("a slip in a command below", "bank-account atach 1", 2, "did you mean 'attach'?");
+        row("neighbours exchanged in an option", "bill add Gym 12 --evrey=daily", 2,
+            "'--evrey' is no option of this command; did you mean '--every'?");
+        row("a slip in an option that is needed", "post Rent --acount Checking", 2,
+            "did you mean '--account', '--amount'?");
+        row("a slip behind an option", "--file household bil list", 2, "did you mean 'bill'?");
+        row("a slip in a choice", "bill add Gym 12 --every moonthly", 2, "did you mean 'monthly'?");
+        row("a slip in a template", "wizard x --bank B --account A --template teenagr", 2,
+            "did you mean 'teenager'?");
+        row("a slip in a currency", "bill add Gym 12_UDS", 2, "did you mean 'USD', 'UZS'?");
+        row("a currency by its name", "rates set euros USD=1", 2, "did you mean 'EUR'?");
         row("no command", "", 2, "A command is missing");
         row("half a command", "bank", 2, "A command is missing");
         row("a negative bill", "bill add Gym -- -12", 1, "amount");
@@ -56,11 +68,25 @@ private slots:
             "The code name is the same name as an existing budget item.");
         row("a bank account named like an item", "bank-account add Salary --bank First", 1,
             "The code name is the same name as an existing budget item.");
-        row("an unknown account", "ledger Savings", 1, "There is no account 'Savings'.");
+        row("an unknown account", "ledger Savings", 1,
+            "There is no account 'Savings'; kiv accounts lists those that there are.");
+        row("a slip in an account", "ledger Chekcing", 1, "did you mean 'Checking'?");
+        row("the beginning of an account", "ledger Opening", 1,
+            "did you mean 'Opening Balances USD [Equity]'?");
+        row("a slip in a bank", "bank rename Frist New", 1,
+            "There is no bank 'Frist'; did you mean 'First'?");
+        row("a slip in an item", "bill rename rent Flat", 1,
+            "There is no bill 'rent'; did you mean 'Rent'?");
+        row("a slip in an item to be changed", "wage update Salery --amount 1", 1,
+            "did you mean 'Salary'?");
+        row("a slip in an item of any kind", "post Salray --account Checking", 1,
+            "There is no budget item 'Salray'; did you mean 'Salary'?");
+        row("an unknown tag", "tags remove home", 1, "There is no tag 'home'; kiv tags list");
         row("an unknown bank", "bank-account add Savings --bank Second", 1,
-            "There is no bank 'Second'.");
+            "There is no bank 'Second'; kiv banks lists");
         row("an unknown item", "bill rename Gym Club", 1, "");
-        row("an item of another kind", "bill remove Salary", 1, "There is no bill 'Salary'.");
+        row("an item of another kind", "bill remove Salary", 1,
+            "There is no bill 'Salary'; kiv bill list shows");
         row("an account number in use", "account add Food --type expense --number 1", 1, "");
         row("a parent of another kind", "account add Food --type expense --under Checking", 1, "");
         row("closing an account with a balance", "account close Checking", 1, "");
@@ -171,7 +197,8 @@ private:
     static bool isRefusal(const Ended &ended, int status)
     {
         return ended.status == status && ended.out.isEmpty() && ended.err.startsWith("kiv: ") &&
-               ended.err.endsWith(".\n") && ended.err.count('\n') == 1;
+               (ended.err.endsWith(".\n") || ended.err.endsWith("?\n")) &&
+               ended.err.count('\n') == 1;
     }
 
     Household m_household;

@@ -14,9 +14,9 @@ CommandGroup CommandGroup::group(const char *name, const char *help)
     return {*app, m_program};
 }
 
-void CommandGroup::addCommand(const char *name, const char *help, CommandKind kind,
-                              const std::function<void(Arguments &)> &declare,
-                              const std::function<Report(Call &)> &run)
+CommandGroup CommandGroup::addCommand(const char *name, const char *help, CommandKind kind,
+                                      const std::function<void(Arguments &)> &declare,
+                                      const std::function<Report(Call &)> &run)
 {
     CLI::App *app = m_app.add_subcommand(name, help);
     Options &options = m_program.options();
@@ -28,7 +28,12 @@ void CommandGroup::addCommand(const char *name, const char *help, CommandKind ki
     if (kind == CommandKind::Change)
         arguments.flag("--dry-run", options.isDryRun, "Show what would come of it, save nothing");
     arguments.flag("--verbose", options.isVerbose, "Show the log on standard error");
-    app->callback([&program = m_program, kind, run] { program.select(kind, run); });
+    // CLI11 calls back for the commands above the one that is called, too.
+    app->callback([&program = m_program, app, kind, run] {
+        if (app->get_subcommands().empty())
+            program.select(kind, run);
+    });
+    return {*app, m_program};
 }
 
 } // namespace kiv::app

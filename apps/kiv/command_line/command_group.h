@@ -39,19 +39,20 @@ public:
 
     [[nodiscard]] CommandGroup group(const char *name, const char *help);
 
+    /// Gives the command's own place, where it may get commands below it.
     template <typename Command>
-    void add(const char *name, const char *help, CommandKind kind, Command command)
+    CommandGroup add(const char *name, const char *help, CommandKind kind, Command command)
     {
         const auto held = std::make_shared<Command>(std::move(command));
-        addCommand(
+        return addCommand(
             name, help, kind, [held](Arguments &arguments) { held->declare(arguments); },
             [held](Call &call) { return std::as_const(*held).run(call); });
     }
 
 private:
-    void addCommand(const char *name, const char *help, CommandKind kind,
-                    const std::function<void(Arguments &)> &declare,
-                    const std::function<Report(Call &)> &run);
+    CommandGroup addCommand(const char *name, const char *help, CommandKind kind,
+                            const std::function<void(Arguments &)> &declare,
+                            const std::function<Report(Call &)> &run);
 
     CLI::App &m_app;
     Program &m_program;

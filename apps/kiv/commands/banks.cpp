@@ -77,7 +77,8 @@ struct RenameBank {
     Report run(Call &call) const
     {
         const BankName to(name.text);
-        call.session.change(bankOutcome, &Navigator::onBankRenamed, BankName(bank), to);
+        const BankName present = call.session.bank(bank).name();
+        call.session.change(bankOutcome, &Navigator::onBankRenamed, present, to);
         return bankReport(call.session, to,
                           QObject::tr("The bank is now called '%1'.").arg(name.text));
     }

@@ -6,6 +6,8 @@ namespace kiv::app {
 void addCommands(CommandGroup &root)
 {
     addBudgetFileCommands(root);
+    addVersionCommands(root);
+    addCheckCommand(root);
     addWizardCommands(root);
     addAccountCommands(root);
     addBankCommands(root);

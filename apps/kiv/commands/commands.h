@@ -7,6 +7,8 @@ namespace kiv::app {
 
 // Each adds the commands of its file, in the order in which the help lists them.
 void addBudgetFileCommands(CommandGroup &root);
+void addVersionCommands(CommandGroup &root);
+void addCheckCommand(CommandGroup &root);
 void addAccountCommands(CommandGroup &root);
 void addBankCommands(CommandGroup &root);
 void addItemCommands(CommandGroup &root);

@@ -2,6 +2,8 @@
 // configure show|set, tags list|remove
 #include "commands/commands.h"
 
+#include "parsing/similar.h"
+
 #include "foundation/presentation.h"
 #include "navigation/configuration.h"
 
@@ -111,7 +113,11 @@ struct SetConfiguration {
     }
     Report run(Call &call) const
     {
+        if (!preferred && usable.empty() && !display && !notify && !window && !hours && !days)
+            throw nothingToChange();
         ConfigurationData data = present(call.session);
+        if (preferred)
+            data.usableCurrencies.insert(*preferred);
         data.preferredCurrency = preferred.value_or(data.preferredCurrency);
         if (!usable.empty())
             data.usableCurrencies = {usable.begin(), usable.end()};
@@ -149,9 +155,12 @@ struct RemoveTags {
     {
         ConfigurationData data = present(call.session);
         tagging::Tags removed;
+        QStringList known;
+        for (const tagging::Tag &candidate : data.tags)
+            known += candidate.name();
         for (const QString &tag : tags) {
             if (!data.tags.contains(tagging::Tag(tag)))
-                throw noSuchTag(tag);
+                throw noSuchTag(tag, similarTo(tag, known));
             removed.insert(tagging::Tag(tag));
         }
         data.tags = data.tags.without(removed);

@@ -186,15 +186,12 @@ struct UpdateItem {
             throw contradiction(QStringLiteral("--no-tags"), QStringLiteral("--tag"));
         Session &session = call.session;
         const BudgetView view(session);
-        const std::optional<Item> present =
-            budgeting::findBudgetItem<Item>(BudgetSource(name), view.budget());
-        if (!present)
-            throw noSuchItem(wordOf<Item>(), name);
-        const BudgetItemIdentifier id{ItemTraits<Item>::type, present->source()};
+        const auto &present = dynamic_cast<const Item &>(view.find(name, ItemTraits<Item>::type));
+        const BudgetItemIdentifier id{ItemTraits<Item>::type, present.source()};
         const bool areTagsKept = arguments.tags.empty() && !isUntagged;
         const tagging::Tags tags = areTagsKept ? view.tags(id) : arguments.asTags();
         session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
-                       arguments.item(name, *present), bankAccount(session, view, id),
+                       arguments.item(name, present), bankAccount(session, view, id),
                        tagging::BudgetItemTags::ItemTags(id, tags));
         return itemReport(session, id,
                           QObject::tr("Changed the %1 '%2'.").arg(wordOf<Item>(), name));
@@ -225,7 +222,8 @@ struct RenameItem {
     Report run(Call &call) const
     {
         const BudgetItemIdentifier id{ItemTraits<Item>::type, BudgetSource(changed.text)};
-        call.session.change(itemOutcome, &Navigator::onRenamed, caller, id.type, BudgetSource(name),
+        const BudgetSource present = BudgetView(call.session).find(name, id.type).source();
+        call.session.change(itemOutcome, &Navigator::onRenamed, caller, id.type, present,
                             id.source);
         return itemReport(
             call.session, id,

@@ -2,6 +2,7 @@
 #include "parsing/account_index.h"
 
 #include "errors.h"
+#include "parsing/similar.h"
 
 #include "foundation/streams.h"
 
@@ -119,7 +120,10 @@ const Account &AccountIndex::find(const QString &text) const
         if (path == text)
             return *m_byNumber.at(candidate);
     }
-    throw noSuchAccount(text);
+    QStringList known;
+    for (const auto &[candidate, path] : m_paths)
+        known << m_byNumber.at(candidate)->code().name() << path;
+    throw noSuchAccount(text, similarTo(text, known));
 }
 
 const Account *AccountIndex::find(AccountNumber number) const

@@ -2,6 +2,7 @@
 #include "parsing/values.h"
 
 #include "errors.h"
+#include "parsing/similar.h"
 
 #include "budgeting/item_traits.h"
 #include "foundation/presentation.h"
@@ -100,7 +101,15 @@ void readValue(const std::string &text, numira::Currency &value)
     } catch (const numira::Error &) {
         // Worded below, as for "no currency".
     }
-    throw notACurrency(word);
+    QStringList codes;
+    QStringList byName;
+    for (const numira::Currency &currency : numira::activeCurrencies()) {
+        codes += foundation::toQString(currency);
+        const QString name = QString::fromStdString(numira::currencyName(currency));
+        if (word.size() > codes.back().size() && !similarTo(word, {name}).isEmpty())
+            byName += codes.back();
+    }
+    throw notACurrency(word, byName.isEmpty() ? similarTo(word, codes) : byName.mid(0, 3));
 }
 
 void readValue(const std::string &text, Amount &value)

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "command_line/misuse.h"
+
+#include "errors.h"
+#include "parsing/similar.h"
+
+#include <QtCore/QObject>
+
+#include <CLI/CLI.hpp>
+
+#include <utility>
+
+namespace kiv::app {
+namespace {
+
+QStringList commandsOf(const CLI::App &app)
+{
+    QStringList names;
+    for (const CLI::App *command : app.get_subcommands({}))
+        names += QString::fromStdString(command->get_name());
+    return names;
+}
+
+QStringList optionsOf(const CLI::App &app)
+{
+    QStringList names;
+    for (const CLI::Option *option : app.get_options()) {
+        for (const std::string &name : option->get_lnames())
+            names += QStringLiteral("--") + QString::fromStdString(name);
+    }
+    return names;
+}
+
+} // namespace
+
+void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
+{
+    const CLI::App *reached = &app;
+    bool isValue = false;
+    for (const std::string &word : words) {
+        const QString name = QString::fromStdString(word.substr(0, word.find('=')));
+        if (std::exchange(isValue, false))
+            continue;
+        if (word == "--")
+            return;
+        if (word.starts_with("--")) {
+            const QStringList options = optionsOf(*reached);
+            if (!options.contains(name))
+                throw noSuchOption(name, similarTo(name, options));
+            const CLI::Option *option = reached->get_option(name.toStdString());
+            isValue = option->get_type_size() > 0 && word.find('=') == std::string::npos;
+        } else if (const QStringList commands = commandsOf(*reached);
+                   !commands.isEmpty() && !word.starts_with('-')) {
+            const QString command = QString::fromStdString(word);
+            if (!commands.contains(command))
+                throw noSuchCommand(command, similarTo(command, commands));
+            reached = reached->get_subcommand(word);
+        }
+    }
+}
+
+QString misuse(const CLI::ParseError &error)
+{
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+        std::string_view(error.what()).starts_with("A subcommand"))
+        return QObject::tr("A command is missing; --help lists those that there are.");
+    const QString text = QString::fromUtf8(error.what()).simplified();
+    return text.endsWith(u'.') ? text : text + u'.';
+}
+
+} // namespace kiv::app

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// undo, history [diff]
+#include "commands/commands.h"
+
+#include "version_changes.h"
+
+#include "storage/budget_file.h"
+
+namespace kiv::app {
+
+namespace {
+
+/// The number of a former version; 0 is the file as it is.
+struct VersionNumber {
+    unsigned value = 0;
+};
+
+void readValue(const std::string &text, VersionNumber &version)
+{
+    const QString word = QString::fromStdString(text);
+    bool isNumber = false;
+    version.value = word.toUInt(&isNumber);
+    if (!isNumber || version.value > storage::BudgetFile::backupsByDefault)
+        throw notANumber(word, 0, storage::BudgetFile::backupsByDefault);
+}
+
+constexpr const char *valueWord(const VersionNumber *)
+{
+    return "NUMBER";
+}
+
+QString localTime(const QDateTime &time)
+{
+    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+QJsonObject toJson(const Version &version)
+{
+    QJsonObject json{{QStringLiteral("version"), qint64{version.number}},
+                     {QStringLiteral("savedAt"), version.found.savedAt.toString(Qt::ISODateWithMs)},
+                     {QStringLiteral("bytes"), version.found.size},
+                     {QStringLiteral("file"), version.path},
+                     {QStringLiteral("whole"), version.found.data.has_value()}};
+    if (const auto &data = version.found.data) {
+        qint64 items = 0;
+        data->budget.forEach([&items](const budgeting::BudgetedMoney &) { ++items; });
+        json.insert(QStringLiteral("items"), items);
+        json.insert(QStringLiteral("accounts"),
+                    static_cast<qint64>(data->generalLedger.accounts().size()));
+        json.insert(QStringLiteral("transactions"),
+                    static_cast<qint64>(data->generalLedger.transactions().size()));
+    }
+    return json;
+}
+
+struct Undo {
+    VersionNumber to{1};
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--to", to, "An older version; see history");
+    }
+    Report run(Call &call) const
+    {
+        if (to.value == 0)
+            throw nothingToChange();
+        const QString file = call.session.file();
+        const storage::BudgetStorage::Data present = versionOf(file, 0).data();
+        const Version former = versionOf(file, to.value);
+        const QJsonArray changes = changesBetween(present, former.data());
+        call.session.recall(former.data());
+        Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)},
+                                  {QStringLiteral("changes"), changes}});
+        report.line(QObject::tr("The budget is again as it was saved at %1.")
+                        .arg(localTime(former.found.savedAt)));
+        tabulate(report, changes, QObject::tr("That changes nothing in it."));
+        return report;
+    }
+};
+
+struct History {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        QJsonArray rows;
+        for (const Version &version : versionsOf(call.session.file()))
+            rows.append(toJson(version));
+        const auto time = [](const QJsonValue &value) {
+            return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
+        };
+        const auto state = [](const QJsonValue &isWhole) {
+            return isWhole.toBool() ? QString() : QObject::tr("not whole");
+        };
+        return Report(QJsonValue(rows))
+            .table({{QObject::tr("Version"), QStringLiteral("version")},
+                    {QObject::tr("Saved at"), QStringLiteral("savedAt"), time},
+                    {QObject::tr("Bytes"), QStringLiteral("bytes")},
+                    {QObject::tr("Items"), QStringLiteral("items")},
+                    {QObject::tr("Accounts"), QStringLiteral("accounts")},
+                    {QObject::tr("Transactions"), QStringLiteral("transactions")},
+                    {QString(), QStringLiteral("whole"), state}},
+                   rows, {});
+    }
+};
+
+struct Differences {
+    VersionNumber from{1};
+    VersionNumber to{0};
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("FROM", from, "A version; the one before the last save otherwise")
+            .optional("TO", to, "A version; the file as it is otherwise");
+    }
+    Report run(Call &call) const
+    {
+        const QString file = call.session.file();
+        const Version before = versionOf(file, from.value);
+        const Version after = versionOf(file, to.value);
+        const QJsonArray changes = changesBetween(before.data(), after.data());
+        Report report{QJsonValue(changes)};
+        tabulate(report, changes, QObject::tr("They hold the same."));
+        return report;
+    }
+};
+
+} // namespace
+
+void addVersionCommands(CommandGroup &root)
+{
+    using enum CommandKind;
+    root.add("undo", "Bring the budget back as it was before the last saved change", Change,
+             Undo{});
+    root.add("history", "List the former versions of the budget that are kept", Query, History{})
+        .add("diff", "Tell what changed from one version to another", Query, Differences{});
+}
+
+} // namespace kiv::app
