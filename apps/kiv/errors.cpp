@@ -133,6 +133,12 @@ UsageError openQuote()
 }
 
 UsageError unreadableInput(const QString &name, const QString &reason)
+UsageError notAProfileName(const QString &name)
+{
+    return UsageError(
+        QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
+}
+
 {
     return UsageError(QObject::tr("Cannot understand %1: %2.").arg(name, reason));
 }
@@ -252,6 +258,21 @@ Refusal noSuchTransaction(const QString &number)
 }
 
 Refusal fileExists(const QString &path)
+Refusal noSuchProfile(const QString &name, const QStringList &present)
+{
+    return Refusal(
+        present.isEmpty()
+            ? QObject::tr("There is no profile '%1'; --save-profile saves one.").arg(name)
+            : QObject::tr("There is no profile '%1' among: %2.")
+                  .arg(name, present.join(QStringLiteral(", "))));
+}
+
+Refusal noOtherAccount(const QString &entry)
+{
+    return Refusal(
+        QObject::tr("Say with --against which account is the other side of %1.").arg(entry));
+}
+
 {
     return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));
 }
@@ -262,6 +283,11 @@ Refusal cannotWriteOutput(const QString &reason)
 }
 
 Refusal cannotRead(const QString &path, const QString &reason)
+Refusal cannotWrite(const QString &path, const QString &reason)
+{
+    return Refusal(QObject::tr("Cannot write '%1': %2.").arg(path, reason));
+}
+
 {
     return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));
 }

@@ -45,6 +45,7 @@ public:
 [[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError openQuote();
 [[nodiscard]] UsageError notAnAssignment(const QString &text);
+[[nodiscard]] UsageError notAProfileName(const QString &name);
 [[nodiscard]] UsageError unreadableInput(const QString &name, const QString &reason);
 
 // ---- what the budget does not hold -----------------------------------------
@@ -74,10 +75,16 @@ public:
 [[nodiscard]] Refusal noSuchVersion(const QString &number, qsizetype count);
 [[nodiscard]] Refusal versionDamaged(const QString &path, const QString &reason);
 
+/// Of the saved import profiles.
+[[nodiscard]] Refusal noSuchProfile(const QString &name, const QStringList &present);
+/// No rule or category tells where the entry's money went or came from.
+[[nodiscard]] Refusal noOtherAccount(const QString &entry);
+
 // ---- files -----------------------------------------------------------------
 
 [[nodiscard]] Refusal fileExists(const QString &path);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
+[[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
 
 } // namespace kiv::app

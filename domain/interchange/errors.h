@@ -68,8 +68,9 @@ namespace faults {
 [[nodiscard]] ImportError assertionFailed(const Place &place, const QString &account,
                                           const QString &asserted, const QString &found);
 [[nodiscard]] ImportError badPattern(const Place &place, const QString &pattern);
-[[nodiscard]] ImportError includeRefused(const Place &place, const QString &path,
-                                         const QString &reason);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT ImportError includeRefused(const Place &place,
+                                                                const QString &path,
+                                                                const QString &reason);
 
 // ---- bank statements ---------------------------------------------------------
 
@@ -84,8 +85,9 @@ namespace faults {
 [[nodiscard]] ImportError bothWays(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
-[[nodiscard]] ImportError otherCurrency(const Place &place, const QString &found,
-                                        const QString &wanted);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT ImportError otherCurrency(const Place &place,
+                                                               const QString &found,
+                                                               const QString &wanted);
 [[nodiscard]] ImportError badProfile(const Place &place, const QString &reason);
 
 // ---- OFX and QIF -------------------------------------------------------------

@@ -34,6 +34,8 @@ figure { margin: 1rem 0 1.6rem; } figcaption { font-weight: 600; margin-bottom: 
 table { border-collapse: collapse; width: 100%; font-size: .9rem; }
 th, td { padding: .32rem .6rem; text-align: left; border-bottom: 1px solid var(--rule); }
 thead th { border-bottom: 2px solid var(--soft); font-weight: 600; white-space: nowrap; }
+tbody th { font-weight: 400; } tr.sum th { font-weight: 600; }
+.dense table { font-size: .8rem; } .dense th, .dense td { padding: .3rem .35rem; }
 tbody tr:nth-child(even) { background: var(--band); }
 tr.sum td, tr.sum th { border-top: 2px solid var(--soft); font-weight: 600; }
 td.n, th.n { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
@@ -93,17 +95,30 @@ QString card(const QString &label, const Money &money)
         .arg(htmlText(label), amount(money));
 }
 
+bool hasMoved(const std::vector<Money> &months)
+{
+    return !std::ranges::all_of(months, &Money::isZero);
+}
+
+bool hasFlow(const CurrencyFigures &sums)
+{
+    return hasMoved(sums.income) || hasMoved(sums.expenses);
+}
+
 QString summary(const Figures &figures)
 {
     QString html = QStringLiteral("<div class=\"cards\">\n");
     for (const auto &[currency, sums] : figures.currencies) {
+        if (!hasMoved(sums.netWorth) && !hasFlow(sums))
+            continue;
         const QString code = foundation::presentationText(currency);
         const auto total = [currency = currency](const std::vector<Money> &months) {
             return numira::math::sum(currency, months, [](const Money &money) { return money; });
         };
-        html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back()) +
-                card(QObject::tr("Income, %1").arg(code), total(sums.income)) +
-                card(QObject::tr("Expenses, %1").arg(code), total(sums.expenses));
+        html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back());
+        if (hasFlow(sums))
+            html += card(QObject::tr("Income, %1").arg(code), total(sums.income)) +
+                    card(QObject::tr("Expenses, %1").arg(code), total(sums.expenses));
     }
     return html + QStringLiteral("</div>\n");
 }
@@ -177,7 +192,7 @@ QString budgetTable(const Figures &figures)
     const std::size_t first = months > shownMax ? months - shownMax : 0;
     QStringList titles{QObject::tr("Planned a month")};
     titles += figures.period.labels().mid(static_cast<qsizetype>(first));
-    QString html = tableHead(QObject::tr("Item"), titles);
+    QString html = QStringLiteral("<div class=\"dense\">") + tableHead(QObject::tr("Item"), titles);
     for (const ItemFigure &item : figures.items) {
         html += QStringLiteral("<tr>") +
                 headCell(QStringLiteral("%1 (%2)").arg(item.name,
@@ -188,7 +203,7 @@ QString budgetTable(const Figures &figures)
         html += QStringLiteral("</tr>\n");
     }
     return html + tableEnd +
-           QStringLiteral("<p class=\"note\">%1</p>\n")
+           QStringLiteral("</div><p class=\"note\">%1</p>\n")
                .arg(htmlText(QObject::tr("The plan is today's, restated per month. ▲ marks a month "
                                          "in which more was spent.")));
 }
@@ -206,19 +221,22 @@ std::vector<Chart> chartsOf(const Figures &figures)
     const QStringList labels = figures.period.labels();
     for (const auto &[currency, sums] : figures.currencies) {
         const QString code = foundation::presentationText(currency);
-        charts.push_back({ChartKind::Line,
-                          QObject::tr("Net worth over time, %1").arg(code),
-                          QObject::tr("At the end of each month, what all assets hold less what is "
-                                      "owed; %1 at last.")
-                              .arg(foundation::presentationText(sums.netWorth.back())),
-                          labels,
-                          {{QObject::tr("Net worth"), sums.netWorth}}});
-        charts.push_back(
-            {ChartKind::Bars,
-             QObject::tr("Income and expenses, %1").arg(code),
-             QObject::tr("What came in and what was spent in each month."),
-             labels,
-             {{QObject::tr("Income"), sums.income}, {QObject::tr("Expenses"), sums.expenses}}});
+        if (hasMoved(sums.netWorth))
+            charts.push_back(
+                {ChartKind::Line,
+                 QObject::tr("Net worth over time, %1").arg(code),
+                 QObject::tr("At the end of each month, what all assets hold less what is "
+                             "owed; %1 at last.")
+                     .arg(foundation::presentationText(sums.netWorth.back())),
+                 labels,
+                 {{QObject::tr("Net worth"), sums.netWorth}}});
+        if (hasFlow(sums))
+            charts.push_back(
+                {ChartKind::Bars,
+                 QObject::tr("Income and expenses, %1").arg(code),
+                 QObject::tr("What came in and what was spent in each month."),
+                 labels,
+                 {{QObject::tr("Income"), sums.income}, {QObject::tr("Expenses"), sums.expenses}}});
         if (sums.hasItems)
             charts.push_back(
                 {ChartKind::Bars,

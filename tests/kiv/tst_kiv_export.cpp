@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "household.h"
+#include "peer_balances.h"
 
 #include <QtCore/QRandomGenerator>
 
+using kiv::test::Balances;
 using kiv::test::Ended;
 using kiv::test::Household;
+using kiv::test::ownBalances;
+using kiv::test::toolBalances;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-using Balances = std::map<QString, QString>;
 
 /// Names that mean something else to a reader of journals, to a spreadsheet or
 /// to a terminal.
@@ -21,66 +22,6 @@ const QStringList &oddNames()
         u"[Budget Item]"_s, u"* star"_s,      u"12.00 USD"_s,  u"\"quoted\""_s, u"\x1b[31mred"_s,
         u"\u202Eturned"_s,  u"line\nbreak"_s, u"Zürich 食費"_s};
     return names;
-}
-
-/// "-12.50" and "-12.5" are the same balance.
-QString plain(QString amount)
-{
-    if (amount.contains(u'.')) {
-        while (amount.endsWith(u'0'))
-            amount.chop(1);
-        if (amount.endsWith(u'.'))
-            amount.chop(1);
-    }
-    return amount == u"-0" ? u"0"_s : amount;
-}
-
-/// Debits are positive in journals, whatever the kind of the account.
-Balances ownBalances(const Household &home)
-{
-    Balances balances;
-    for (const QJsonValue &account : home.json("accounts").array()) {
-        const QString type = account["type"_L1].toString();
-        const QJsonValue balance = account["balance"_L1];
-        QString amount = plain(balance["amount"_L1].toString());
-        if (amount != u"0") {
-            if (type != u"asset" && type != u"expense")
-                amount = amount.startsWith(u'-') ? amount.mid(1) : u'-' + amount;
-            balances[account["path"_L1].toString()] =
-                amount + u' ' + balance["currency"_L1].toString();
-        }
-    }
-    return balances;
-}
-
-/// Lines "path  amount currency", as both tools are asked for them; no path holds
-/// two blanks.
-Balances readBalances(const QByteArray &output)
-{
-    Balances balances;
-    for (const QString &line : QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts)) {
-        const QStringList cells = line.split(u"  "_s);
-        const QStringList amount = cells.value(1).trimmed().split(u' ');
-        if (plain(amount.value(0)) != u"0")
-            balances[cells[0]] = plain(amount.value(0)) + u' ' + amount.value(1);
-    }
-    return balances;
-}
-
-QByteArray toolBalances(const Household &home, const QString &tool)
-{
-    const QString format =
-        tool == u"ledger"
-            ? u"%(account)  %(quantity(scrub(amount))) %(commodity(scrub(amount)))\n"_s
-            : u"%(account)  %(total)"_s;
-    const QString option = tool == u"ledger" ? u"--balance-format"_s : u"--format"_s;
-    // The one reads bytes, the other wants a locale that is installed.
-    const kiv::test::Ended ended =
-        home.runProgram(u"env"_s, {u"LC_ALL=C.UTF-8"_s, tool, u"-f"_s, home.path("export.journal"),
-                                   u"balance"_s, u"--flat"_s, u"--no-total"_s, option, format});
-    if (ended.status != 0)
-        qWarning("%s", ended.err.constData());
-    return ended.out;
 }
 
 } // namespace
@@ -133,7 +74,22 @@ private slots:
         QFETCH(QString, tool);
         const Balances own = ownBalances(m_home);
         QVERIFY(own.size() > 20);
-        QCOMPARE(readBalances(toolBalances(m_home, tool)), own);
+        QCOMPARE(toolBalances(m_home, tool, m_home.path("export.journal")), own);
+    }
+
+    void theJournalMakesTheSameBooks()
+    {
+        QVERIFY(m_home.runAll({"new again", "import export.journal --file again"}));
+        Balances again = ownBalances(m_home, "accounts --file again");
+        const auto isConversion = [](const auto &balance) {
+            return balance.first.startsWith(u"Equity:Conversion:");
+        };
+        QVERIFY(std::erase_if(again, isConversion) > 0);
+        QCOMPARE(again, ownBalances(m_home));
+        // All of it is there already.
+        const QJsonDocument twice = m_home.json("import export.journal --file again --dry-run");
+        QCOMPARE(twice["posted"_L1].toInt(), 0);
+        QVERIFY(twice["duplicates"_L1].toInt() > 1000);
     }
 
     void aForgedJournalIsNoticed()
@@ -143,7 +99,7 @@ private slots:
         QVERIFY(journal.contains(amount));
         m_home.write(m_home.path("export.journal"), journal.replace(amount, "2500.01 USD"));
         const Balances own = ownBalances(m_home);
-        const Balances forged = readBalances(toolBalances(m_home, u"hledger"_s));
+        const Balances forged = toolBalances(m_home, u"hledger"_s, m_home.path("export.journal"));
         QCOMPARE(forged.size(), own.size());
         QVERIFY(forged != own);
         m_home.write(m_home.path("export.journal"), m_home.run("export").out);

@@ -19,7 +19,9 @@ void addCommands(CommandGroup &root)
     addConfigurationCommands(root);
     addRatesCommands(root);
     addReleaseCommands(root);
+    addImportCommands(root);
     addExportCommands(root);
+    addReportCommands(root);
     addShellCommands(root);
     addTourCommand(root);
 }

@@ -21,6 +21,8 @@ void addRatesCommands(CommandGroup &root);
 void addReleaseCommands(CommandGroup &root);
 void addWizardCommands(CommandGroup &root);
 void addExportCommands(CommandGroup &root);
+void addImportCommands(CommandGroup &root);
+void addReportCommands(CommandGroup &root);
 void addShellCommands(CommandGroup &root);
 void addTourCommand(CommandGroup &root);
 

@@ -3,8 +3,9 @@
 #include "commands/commands.h"
 
 #include "budget_view.h"
-#include "output/journal.h"
 #include "output/json.h"
+
+#include "interchange/ledger_writer.h"
 
 namespace kiv::app {
 namespace {
@@ -26,6 +27,8 @@ void readValue(const std::string &text, ExportFormat &value)
     value = found->second;
 }
 
+/// The form that docs/import-export.md tells. Keys may be added under the same
+/// version, but none changes its meaning.
 QJsonObject everything(Session &session, const AccountIndex &index,
                        const std::vector<accounting::Transaction> &transactions)
 {
@@ -42,7 +45,9 @@ QJsonObject everything(Session &session, const AccountIndex &index,
     QJsonArray posted;
     for (const accounting::Transaction &transaction : transactions)
         posted.append(toJson(transaction));
-    return {{QStringLiteral("accounts"), accounts},
+    return {{QStringLiteral("format"), QStringLiteral("kiv-export")},
+            {QStringLiteral("version"), 1},
+            {QStringLiteral("accounts"), accounts},
             {QStringLiteral("banks"), banks},
             {QStringLiteral("items"), items},
             {QStringLiteral("transactions"), posted}};
@@ -61,9 +66,9 @@ struct Export {
         const std::vector<accounting::Transaction> transactions = call.session.transactions();
         switch (format) {
         case ExportFormat::Journal:
-            return Report().raw(toJournal(index, transactions));
+            return Report().raw(interchange::writeJournal(index.accounts(), transactions));
         case ExportFormat::Csv:
-            return Report().raw(toCsv(index, transactions));
+            return Report().raw(interchange::writeCsv(index.accounts(), transactions));
         case ExportFormat::Json:
             break;
         }

@@ -4,7 +4,7 @@
 #include "errors.h"
 #include "parsing/similar.h"
 
-#include "foundation/streams.h"
+#include "interchange/account_paths.h"
 
 #include <limits>
 
@@ -12,87 +12,12 @@ namespace kiv::app {
 
 using accounting::Account;
 using accounting::AccountNumber;
-using accounting::AccountTypes;
-
-namespace {
-
-QString rootOf(AccountTypes type)
-{
-    switch (type) {
-    case AccountTypes::Asset:
-        return QStringLiteral("Assets");
-    case AccountTypes::Equity:
-        return QStringLiteral("Equity");
-    case AccountTypes::Expense:
-        return QStringLiteral("Expenses");
-    case AccountTypes::Liability:
-        return QStringLiteral("Liabilities");
-    case AccountTypes::Income:
-        return QStringLiteral("Income");
-    case AccountTypes::Unknown:
-        break;
-    }
-    return QStringLiteral("Unknown");
-}
-
-QString safeName(const Account &account)
-{
-    // Two blanks end an account's name in a journal, and a semicolon begins a
-    // comment.
-    QString name = foundation::escaped(account.code().name().simplified());
-    name.replace(u':', u'-').replace(u';', u',');
-    return name.isEmpty() ? accounting::presentationText(account.code().number()) : name;
-}
-
-/// The parent by which a path goes on; none for a top-level account, and none
-/// for a parent that is not there.
-std::optional<AccountNumber> parentIn(const std::map<AccountNumber, const Account *> &accounts,
-                                      const Account &account)
-{
-    const std::optional<AccountNumber> &parent = account.code().parent();
-    return parent && accounts.contains(*parent) ? parent : std::nullopt;
-}
-
-} // namespace
 
 AccountIndex::AccountIndex(std::set<Account> accounts) : m_accounts(std::move(accounts))
 {
     for (const Account &account : m_accounts)
         m_byNumber.emplace(account.code().number(), &account);
-    makePaths();
-}
-
-void AccountIndex::makePaths()
-{
-    std::map<AccountNumber, QString> names;
-    for (const auto &[number, account] : m_byNumber)
-        names.emplace(number, safeName(*account));
-
-    // Siblings whose names agree get their numbers, and again if a name so made
-    // is another sibling's; two numbers differ, so this ends.
-    for (bool isUnique = false; !isUnique;) {
-        isUnique = true;
-        std::map<std::tuple<QString, AccountNumber, QString>, std::vector<AccountNumber>> groups;
-        for (const auto &[number, account] : m_byNumber) {
-            const auto parent = parentIn(m_byNumber, *account).value_or(AccountNumber());
-            groups[{rootOf(account->type()), parent, names.at(number)}].push_back(number);
-        }
-        for (const auto &[key, numbers] : groups) {
-            if (numbers.size() < 2)
-                continue;
-            isUnique = false;
-            for (const AccountNumber number : numbers)
-                names.at(number) += u' ' + accounting::presentationText(number);
-        }
-    }
-
-    for (const auto &[number, account] : m_byNumber) {
-        QString path = names.at(number);
-        for (auto parent = parentIn(m_byNumber, *account); parent;
-             parent = parentIn(m_byNumber, *m_byNumber.at(*parent)))
-            path = names.at(*parent) + u':' + path;
-        m_paths.emplace(number, rootOf(account->type()) + u':' + path);
-    }
+    m_paths = interchange::accountPaths(m_accounts);
 }
 
 const Account &AccountIndex::find(const QString &text) const

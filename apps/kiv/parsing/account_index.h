@@ -10,13 +10,7 @@
 namespace kiv::app {
 
 /// The accounts of a budget, to be found by what a person writes for one, each
-/// with its path: the root of its kind and the names of its parents and itself,
-/// with colons between them ("Assets:First:Checking").
-///
-/// Names in a path are made safe for plain-text accounting journals (no colon
-/// or semicolon, single blanks, no control characters), and where two accounts
-/// would get the same path their numbers are added to their names, so that every
-/// path stands for one account.
+/// with its path (see interchange::accountPaths).
 class AccountIndex {
 public:
     explicit AccountIndex(std::set<accounting::Account> accounts);
@@ -40,8 +34,6 @@ public:
     [[nodiscard]] accounting::AccountNumber nextNumber() const;
 
 private:
-    void makePaths();
-
     std::set<accounting::Account> m_accounts;
     /// Into the set, whose elements stay where they are when it is moved.
     std::map<accounting::AccountNumber, const accounting::Account *> m_byNumber;

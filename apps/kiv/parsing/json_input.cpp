@@ -75,6 +75,11 @@ QByteArray readInput(const QString &path)
     const bool isOpen =
         path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen)
+    const auto refuseLarge = [&path](qint64 size) {
+        if (size > bytesMax)
+            throw cannotRead(path, QObject::tr("it is larger than 64 MiB"));
+    };
+    refuseLarge(file.isSequential() ? 0 : file.size());
         throw cannotRead(path, file.errorString());
     // Asked for at once, an endless pipe would fill the memory.
     QByteArray bytes;
@@ -86,8 +91,7 @@ QByteArray readInput(const QString &path)
     }
     if (file.error() != QFileDevice::NoError)
         throw cannotRead(path, file.errorString());
-    if (bytes.size() > bytesMax)
-        throw cannotRead(path, QObject::tr("it is larger than 64 MiB"));
+    refuseLarge(bytes.size());
     return bytes;
 }
 

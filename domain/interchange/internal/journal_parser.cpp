@@ -39,6 +39,12 @@ QString takeComment(QString &text)
     return comment;
 }
 
+/// The path of a file that is named in another one.
+QString nameBeside(const QString &file, const QString &path)
+{
+    return path.startsWith(u'/') ? path : file.left(file.lastIndexOf(u'/') + 1) + path;
+}
+
 /// "name: value" pairs of a comment, with commas between them.
 void addTags(const QString &comment, std::map<QString, QString> &tags)
 {
@@ -214,7 +220,7 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
         throw faults::includeRefused(block.place, path,
                                      QObject::tr("files include each other too deeply"));
     const bool wasOwn = m_isOwn;
-    parse(m_options.include(path, block.place), path, m_depth + 1);
+    parse(m_options.include(path, block.place), nameBeside(block.place.file, path), m_depth + 1);
     m_isOwn = wasOwn;
 }
 

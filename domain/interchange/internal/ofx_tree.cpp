@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/ofx_tree.h"
 
+#include <QtCore/QStringList>
+
 #include <algorithm>
 #include <map>
 
@@ -24,6 +26,19 @@ QString withoutEntities(QString text)
     for (const auto &[entity, character] : entities)
         text.replace(entity, character);
     return text.simplified();
+}
+
+/// The tags of a transaction that hold a value. Without one they look like the
+/// beginning of something that holds further tags.
+bool isValueTag(const QString &tag)
+{
+    static const QStringList tags{
+        QStringLiteral("TRNTYPE"),  QStringLiteral("DTPOSTED"), QStringLiteral("DTUSER"),
+        QStringLiteral("DTAVAIL"),  QStringLiteral("TRNAMT"),   QStringLiteral("FITID"),
+        QStringLiteral("CHECKNUM"), QStringLiteral("REFNUM"),   QStringLiteral("SIC"),
+        QStringLiteral("PAYEEID"),  QStringLiteral("NAME"),     QStringLiteral("MEMO"),
+        QStringLiteral("SRVRTID")};
+    return tags.contains(tag);
 }
 
 class TreeReader {
@@ -78,6 +93,8 @@ private:
 
     void open(const QString &tag)
     {
+        if (!m_open.empty() && isValueTag(m_open.back().tag))
+            finish();
         if (m_open.size() >= depthMax)
             throw faults::nestedTooDeeply(m_place);
         m_open.push_back({tag, m_place});

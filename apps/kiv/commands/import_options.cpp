@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commands/import_options.h"
+
+#include "parsing/json_input.h"
+
+#include "interchange/text_decoding.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSaveFile>
+#include <QtCore/QStandardPaths>
+
+namespace kiv::app {
+
+using interchange::CsvProfile;
+using interchange::DecimalMark;
+
+namespace {
+
+/// Where profiles are kept; a name that leads elsewhere is none.
+QString profilePath(const QString &name)
+{
+    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_-]{1,64}\\z"));
+    if (!plain.match(name).hasMatch())
+        throw notAProfileName(name);
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/kiv/import/%1.json").arg(name);
+}
+
+std::pair<QString, QString> assignment(const QString &text)
+{
+    const qsizetype at = text.lastIndexOf(u'=');
+    if (at <= 0 || at + 1 == text.size())
+        throw notAnAssignment(text);
+    return {text.left(at), text.mid(at + 1)};
+}
+
+/// Reads what a journal includes: files in its own folder and below it, so that
+/// a journal from elsewhere reaches nothing else.
+class Includes {
+public:
+    explicit Includes(const QString &file)
+        : m_folder(file == u"-" ? QString() : QFileInfo(file).canonicalPath())
+    {
+    }
+
+    QByteArray operator()(const QString &path, const interchange::Place &place)
+    {
+        using interchange::faults::includeRefused;
+        // What includes it may itself stand in a folder below.
+        const QDir near(QFileInfo(place.file).path());
+        const QFileInfo wanted(near.filePath(path));
+        const QString real = wanted.canonicalFilePath();
+        if (m_folder.isEmpty() || real.isEmpty() || !wanted.isFile())
+            throw includeRefused(place, path, QObject::tr("there is no such file"));
+        if (!real.startsWith(m_folder + u'/'))
+            throw includeRefused(place, path,
+                                 QObject::tr("it is outside of the journal's own folder"));
+        QByteArray bytes = readInput(wanted.filePath());
+        m_total += bytes.size();
+        if (m_total > totalMax)
+            throw includeRefused(place, path, QObject::tr("all files together are too large"));
+        return bytes;
+    }
+
+private:
+    static constexpr qint64 totalMax = qint64{64} << 20;
+
+    QString m_folder;
+    qint64 m_total = 0;
+};
+
+} // namespace
+
+void ImportOptions::declare(Arguments &arguments)
+{
+    arguments.required("FILE", file, "The file; - for standard input")
+        .optional("--format", format, "journal, csv, ofx or qif; guessed otherwise")
+        .optional("--encoding", m_encoding, "The file's encoding; UTF-8 otherwise")
+        .optional("--decimal", m_decimal, "The decimal mark: . or ,")
+        .optional("--date-format", m_dateFormat, "How days are written, like DD.MM.YYYY")
+        .optional("--currency", m_currency, "The currency of amounts that have none (journal)")
+        .several("--root", m_roots, "What a root is, like Aktiva=asset (journal)")
+        .several("--commodity", m_commodities, "Which currency a name means, like Fr=CHF (journal)")
+        .optional("--statement", m_statement, "The bank's number of the account (ofx)")
+        .optional("--profile", profile, "Read the file as this saved profile says")
+        .optional("--save-profile", savedAs, "Save how the file was read under this name")
+        .optional("--date-column", m_date, "The column of the day, by heading or number (csv)")
+        .optional("--amount-column", m_amount, "The column of the amount (csv)")
+        .optional("--in-column", m_in, "The column of what came in (csv)")
+        .optional("--out-column", m_out, "The column of what went out (csv)")
+        .optional("--sign-column", m_sign, "The column that tells the sign (csv)")
+        .several("--negative", m_negative, "What stands there when money went out (csv)")
+        .several("--text-column", m_texts, "A column of the description (csv)")
+        .optional("--id-column", m_id, "The column of the bank's identifier (csv)")
+        .optional("--currency-column", m_currencyColumn, "The column of the currency (csv)")
+        .optional("--delimiter", m_delimiter, "What stands between cells; guessed otherwise (csv)")
+        .optional("--skip", m_skip, "How many lines stand above the headings (csv)")
+        .flag("--no-headings", m_hasNoHeadings, "The first line is an entry already (csv)")
+        .flag("--negate", m_isNegated, "Money that went out is positive (csv)");
+}
+
+ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
+{
+    static const std::map<QString, ImportFormat> names{
+        {QStringLiteral("journal"), ImportFormat::Journal},
+        {QStringLiteral("csv"), ImportFormat::Csv},
+        {QStringLiteral("ofx"), ImportFormat::Ofx},
+        {QStringLiteral("qif"), ImportFormat::Qif}};
+    static const std::map<QString, ImportFormat> endings{
+        {QStringLiteral("j"), ImportFormat::Journal},
+        {QStringLiteral("hledger"), ImportFormat::Journal},
+        {QStringLiteral("ledger"), ImportFormat::Journal},
+        {QStringLiteral("dat"), ImportFormat::Journal},
+        {QStringLiteral("tsv"), ImportFormat::Csv},
+        {QStringLiteral("qfx"), ImportFormat::Ofx}};
+    if (const auto named = names.find(format); named != names.end())
+        return named->second;
+    const QString ending = QFileInfo(file).suffix().toLower();
+    if (format.isEmpty()) {
+        for (const auto &table : {names, endings}) {
+            if (const auto found = table.find(ending); found != table.end())
+                return found->second;
+        }
+        const QByteArray head = bytes.left(4096);
+        if (head.contains("<OFX>"))
+            return ImportFormat::Ofx;
+        if (head.trimmed().startsWith("!Type:") || head.trimmed().startsWith("!Account"))
+            return ImportFormat::Qif;
+        throw missing(QStringLiteral("--format"));
+    }
+    throw notAChoice(format, {QStringLiteral("journal"), QStringLiteral("csv"),
+                              QStringLiteral("ofx"), QStringLiteral("qif")});
+}
+
+std::optional<DecimalMark> ImportOptions::decimal() const
+{
+    if (!m_decimal)
+        return std::nullopt;
+    if (*m_decimal != u"." && *m_decimal != u",")
+        throw notAChoice(*m_decimal, {QStringLiteral("."), QStringLiteral(",")});
+    return static_cast<DecimalMark>(m_decimal->front().unicode());
+}
+
+CsvProfile ImportOptions::readProfile() const
+{
+    CsvProfile read;
+    if (profile) {
+        const QString path = profilePath(*profile);
+        if (!QFileInfo(path).isFile()) {
+            const QStringList present = QFileInfo(path).dir().entryList({QStringLiteral("*.json")},
+                                                                        QDir::Files, QDir::Name);
+            throw noSuchProfile(*profile, QStringList(present).replaceInStrings(
+                                              QStringLiteral(".json"), QString()));
+        }
+        read = interchange::readProfile(readInput(path), path);
+    }
+    for (const auto &[given, column] : {std::pair(m_date, &read.dateColumn),
+                                        {m_amount, &read.amountColumn},
+                                        {m_in, &read.inColumn},
+                                        {m_out, &read.outColumn},
+                                        {m_sign, &read.signColumn},
+                                        {m_id, &read.idColumn},
+                                        {m_currencyColumn, &read.currencyColumn},
+                                        {m_encoding, &read.encoding}}) {
+        if (given)
+            *column = *given;
+    }
+    if (!m_texts.empty())
+        read.textColumns = QStringList(m_texts.begin(), m_texts.end());
+    if (!m_negative.empty())
+        read.negativeSigns = QStringList(m_negative.begin(), m_negative.end());
+    if (m_decimal)
+        read.decimalMark = decimal();
+    if (m_dateFormat)
+        read.dateFormat = interchange::DateFormat(*m_dateFormat, {QStringLiteral("--date-format")});
+    if (m_delimiter) {
+        const QString text = *m_delimiter == u"\\t" ? QStringLiteral("\t") : *m_delimiter;
+        if (text.size() != 1 || text == u"\"")
+            throw notAChoice(text, {QStringLiteral(","), QStringLiteral(";"), QStringLiteral("\\t"),
+                                    QStringLiteral("|")});
+        read.delimiter = text.front();
+    }
+    if (m_skip) {
+        bool isNumber = false;
+        read.skippedLines = m_skip->toInt(&isNumber);
+        if (!isNumber || read.skippedLines < 0)
+            throw notANumber(*m_skip, 0, 1000);
+    }
+    read.hasHeadings = read.hasHeadings && !m_hasNoHeadings;
+    read.isNegated = read.isNegated || m_isNegated;
+    return read;
+}
+
+void ImportOptions::saveProfile(const CsvProfile &saved) const
+{
+    if (!savedAs)
+        return;
+    const QString path = profilePath(*savedAs);
+    QSaveFile target(path);
+    if (!QDir().mkpath(QFileInfo(path).path()) || !target.open(QIODevice::WriteOnly) ||
+        target.write(interchange::toJson(saved)) < 0 || !target.commit())
+        throw cannotWrite(path, target.errorString());
+}
+
+interchange::JournalOptions ImportOptions::journal(const numira::Currency &preferred) const
+{
+    interchange::JournalOptions options;
+    options.decimalMark = decimal();
+    options.currency = m_currency;
+    options.preferred = preferred;
+    options.encoding = m_encoding.value_or(interchange::utf8Name);
+    for (const QString &text : m_commodities) {
+        const auto [name, code] = assignment(text);
+        readValue(code.toStdString(), options.commodities[name]);
+    }
+    for (const QString &text : m_roots) {
+        const auto [root, type] = assignment(text);
+        readValue(type.toStdString(), options.roots[root.toLower()]);
+    }
+    options.include = Includes(file);
+    return options;
+}
+
+interchange::QifOptions ImportOptions::qif(const CsvProfile &profileRead,
+                                           const numira::Currency &currency) const
+{
+    interchange::QifOptions options;
+    if (m_dateFormat || profile)
+        options.dateFormat = profileRead.dateFormat;
+    options.decimalMark = profileRead.decimalMark;
+    options.encoding = profileRead.encoding;
+    options.currency = currency;
+    return options;
+}
+
+} // namespace kiv::app

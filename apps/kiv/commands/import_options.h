@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "command_line/command_group.h"
+
+#include "interchange/csv_profile.h"
+#include "interchange/journal_reader.h"
+#include "interchange/qif_reader.h"
+
+namespace kiv::app {
+
+enum class ImportFormat { Journal, Csv, Ofx, Qif };
+
+/// The arguments that say what a file is and how it is to be read.
+struct ImportOptions {
+    QString file;
+    QString format;
+    std::optional<QString> profile;
+    std::optional<QString> savedAs;
+
+    void declare(Arguments &arguments);
+
+    /// The one that is named, or else the one that the file's name or its first
+    /// bytes show. Throws a UsageError when neither does.
+    [[nodiscard]] ImportFormat formatOf(const QByteArray &bytes) const;
+    /// The saved profile, if one is named, with what is given on the command
+    /// line in its place.
+    [[nodiscard]] interchange::CsvProfile readProfile() const;
+    /// Stores the profile when a name for it is given.
+    void saveProfile(const interchange::CsvProfile &profile) const;
+    [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
+    [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
+                                              const numira::Currency &currency) const;
+    [[nodiscard]] const QString &statement() const noexcept { return m_statement; }
+
+private:
+    [[nodiscard]] std::optional<interchange::DecimalMark> decimal() const;
+
+    QString m_statement;
+    std::vector<QString> m_roots;
+    std::vector<QString> m_commodities;
+    std::optional<numira::Currency> m_currency;
+    std::optional<QString> m_encoding;
+    std::optional<QString> m_decimal;
+    std::optional<QString> m_dateFormat;
+    std::optional<QString> m_delimiter;
+    std::optional<QString> m_skip;
+    bool m_hasNoHeadings = false;
+    bool m_isNegated = false;
+    std::optional<QString> m_date;
+    std::optional<QString> m_amount;
+    std::optional<QString> m_in;
+    std::optional<QString> m_out;
+    std::optional<QString> m_sign;
+    std::vector<QString> m_negative;
+    std::vector<QString> m_texts;
+    std::optional<QString> m_id;
+    std::optional<QString> m_currencyColumn;
+};
+
+} // namespace kiv::app

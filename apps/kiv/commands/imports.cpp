@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// import
+#include "commands/commands.h"
+#include "commands/import_options.h"
+
+#include "output/json.h"
+#include "parsing/json_input.h"
+
+#include "foundation/presentation.h"
+#include "interchange/duplicates.h"
+#include "interchange/ofx_reader.h"
+
+namespace kiv::app {
+
+using accounting::AccountCode;
+using accounting::Transaction;
+using interchange::Place;
+using navigation::Navigator;
+
+namespace {
+
+/// A transaction that a file holds, with where it stands there.
+struct Found {
+    Transaction transaction;
+    Place place;
+};
+
+struct Import {
+    ImportOptions options;
+    std::optional<QString> into;
+    std::optional<QString> against;
+    bool keepsDuplicates = false;
+
+    void declare(Arguments &arguments)
+    {
+        options.declare(arguments);
+        arguments.optional("--into", into, "The account that a bank statement is about")
+            .optional("--against", against, "The other account of entries that no rule knows")
+            .flag("--keep-duplicates", keepsDuplicates, "Post what is there already, too");
+    }
+
+    Report run(Call &call) const
+    {
+        const QByteArray bytes = readInput(options.file);
+        const ImportFormat format = options.formatOf(bytes);
+        return format == ImportFormat::Journal ? importJournal(call, bytes)
+                                               : importStatement(call, format, bytes);
+    }
+
+private:
+    // ---- journals ----------------------------------------------------------------
+
+    [[nodiscard]] Report importJournal(Call &call, const QByteArray &bytes) const
+    {
+        for (const auto &[given, name] : {std::pair(into, "--into"), {against, "--against"}}) {
+            if (given)
+                throw contradiction(QLatin1String(name), QStringLiteral("--format journal"));
+        }
+        Session &session = call.session;
+        const interchange::Draft draft = interchange::readJournal(
+            bytes, options.file, options.journal(session.preferredCurrency()));
+        const AccountIndex before = session.accounts();
+        const interchange::AccountPlan plan = interchange::planAccounts(draft, before.accounts());
+        interchange::Duplicates duplicates(session.transactions());
+        for (const accounting::Account &account : plan.missing)
+            session.change(accountOutcome, &Navigator::onAddedAct, account);
+        std::vector<Found> found;
+        for (const interchange::DraftTransaction &drafted : draft.transactions) {
+            const Transaction transaction(
+                drafted.date, plan.codes[drafted.debit], plan.codes[drafted.credit], drafted.amount,
+                drafted.text.isEmpty() ? std::nullopt : std::optional(drafted.text));
+            found.push_back({transaction.withStatuses(drafted.debitStatus, drafted.creditStatus),
+                             drafted.place});
+        }
+        return post(call, found, duplicates, plan.missing, draft.notices);
+    }
+
+    // ---- bank statements ---------------------------------------------------------
+
+    [[nodiscard]] Report importStatement(Call &call, ImportFormat format,
+                                         const QByteArray &bytes) const
+    {
+        if (!into)
+            throw missing(QStringLiteral("--into"));
+        Session &session = call.session;
+        const AccountIndex index = session.accounts();
+        const accounting::Account &account = index.find(*into);
+        const numira::Currency currency = account.balance().code();
+        const interchange::CsvProfile profile = options.readProfile();
+        const interchange::Statement statement = [&] {
+            switch (format) {
+            case ImportFormat::Ofx:
+                return interchange::readOfx(bytes, options.file, options.statement());
+            case ImportFormat::Qif:
+                return interchange::readQif(bytes, options.file, options.qif(profile, currency));
+            case ImportFormat::Csv:
+            case ImportFormat::Journal:
+                break;
+            }
+            return interchange::readCsvStatement(bytes, options.file, profile, currency);
+        }();
+
+        QStringList notices;
+        std::vector<Found> found;
+        for (const interchange::StatementEntry &entry : statement.entries) {
+            if (entry.amount.code() != currency)
+                throw interchange::faults::otherCurrency(entry.place,
+                                                         foundation::toQString(entry.amount.code()),
+                                                         foundation::toQString(currency));
+            if (entry.amount.isZero()) {
+                notices = {QObject::tr("Entries of nothing are left out.")};
+                continue;
+            }
+            const AccountCode other = otherSide(entry, profile, index);
+            const bool isIn = entry.amount.isPositive();
+            const QString text = interchange::withBankId(entry.text, entry.bankId);
+            found.push_back({Transaction(entry.date, isIn ? account.code() : other,
+                                         isIn ? other : account.code(), entry.amount.abs(),
+                                         text.isEmpty() ? std::nullopt : std::optional(text)),
+                             entry.place});
+        }
+        interchange::Duplicates duplicates(session.transactions(), account.code().number());
+        Report report = post(call, found, duplicates, {}, notices);
+        if (!call.options.isDryRun)
+            options.saveProfile(profile);
+        return report;
+    }
+
+    /// The account by the first rule that knows the text, by the category that
+    /// another program gave, or the one for all others.
+    [[nodiscard]] AccountCode otherSide(const interchange::StatementEntry &entry,
+                                        const interchange::CsvProfile &profile,
+                                        const AccountIndex &index) const
+    {
+        for (const interchange::AccountRule &rule : profile.rules) {
+            if (entry.text.contains(rule.contains, Qt::CaseInsensitive))
+                return index.find(rule.account).code();
+        }
+        if (!entry.category.isEmpty()) {
+            for (const accounting::Account &account : index.accounts()) {
+                const AccountCode &code = account.code();
+                if (code.name() == entry.category || index.path(code.number()) == entry.category)
+                    return code;
+            }
+        }
+        if (!against)
+            throw noOtherAccount(QStringLiteral("'%1', %2")
+                                     .arg(entry.text, foundation::presentationText(entry.date)));
+        return index.find(*against).code();
+    }
+
+    // ---- both --------------------------------------------------------------------
+
+    [[nodiscard]] Report post(Call &call, const std::vector<Found> &found,
+                              interchange::Duplicates &duplicates,
+                              const std::vector<accounting::Account> &opened,
+                              const QStringList &notices) const
+    {
+        QJsonArray rows;
+        qint64 posted = 0;
+        const AccountIndex index = call.session.accounts();
+        for (const auto &[transaction, place] : found) {
+            const bool isDuplicate = duplicates.take(transaction) && !keepsDuplicates;
+            if (!isDuplicate) {
+                postOne(call.session, transaction, place);
+                ++posted;
+            }
+            QJsonObject row = toJson(transaction);
+            row.remove(QStringLiteral("number"));
+            row.insert(QStringLiteral("debitPath"), index.path(transaction.debiting().number()));
+            row.insert(QStringLiteral("creditPath"), index.path(transaction.crediting().number()));
+            row.insert(QStringLiteral("line"), qint64{place.line});
+            row.insert(QStringLiteral("duplicate"), isDuplicate);
+            rows.append(row);
+        }
+        QJsonArray accounts;
+        for (const accounting::Account &account : opened)
+            accounts.append(toJson(account, index));
+        const auto duplicated = qint64{rows.size()} - posted;
+        Report report(
+            QJsonObject{{QStringLiteral("accounts"), accounts},
+                        {QStringLiteral("transactions"), rows},
+                        {QStringLiteral("posted"), posted},
+                        {QStringLiteral("duplicates"), duplicated},
+                        {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
+        if (call.options.isDryRun)
+            preview(report, accounts, rows);
+        for (const QString &notice : notices)
+            report.line(notice);
+        return report.line(QObject::tr("Posted %1 transactions, left out %2 duplicates, opened %3 "
+                                       "accounts.")
+                               .arg(QString::number(posted), QString::number(duplicated),
+                                    QString::number(opened.size())));
+    }
+
+    static void postOne(Session &session, const Transaction &transaction, const Place &place)
+    {
+        try {
+            session.change(transactionOutcome, &Navigator::onAddedTransaction, transaction);
+        } catch (const Refusal &refusal) {
+            throw interchange::ImportError(place, refusal.message());
+        }
+    }
+
+    static void preview(Report &report, const QJsonArray &accounts, const QJsonArray &rows)
+    {
+        if (!accounts.isEmpty())
+            report.table({{QObject::tr("Number"), QStringLiteral("number")},
+                          {QObject::tr("New account"), QStringLiteral("path")}},
+                         accounts, QString());
+        report.table({{QObject::tr("Line"), QStringLiteral("line")},
+                      {QObject::tr("Date"), QStringLiteral("date")},
+                      {QObject::tr("Description"), QStringLiteral("description")},
+                      {QObject::tr("Debit"), QStringLiteral("debitPath")},
+                      {QObject::tr("Credit"), QStringLiteral("creditPath")},
+                      {QObject::tr("Amount"), QStringLiteral("amount")},
+                      {QString(), QStringLiteral("duplicate"),
+                       [](const QJsonValue &isDuplicate) {
+                           return isDuplicate.toBool() ? QObject::tr("duplicate") : QString();
+                       }}},
+                     rows, QObject::tr("There are no transactions in the file."));
+    }
+};
+
+} // namespace
+
+void addImportCommands(CommandGroup &root)
+{
+    root.add("import", "Post what a journal or a bank statement holds, or nothing of it",
+             CommandKind::Change, Import{});
+}
+
+} // namespace kiv::app

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// report
+#include "commands/commands.h"
+
+#include "budget_view.h"
+#include "output/chart_text.h"
+#include "output/json.h"
+#include "program.h"
+
+#include "foundation/presentation.h"
+#include "interchange/html_report.h"
+
+namespace kiv::app {
+
+namespace {
+
+using interchange::Figures;
+using numira::Money;
+
+QJsonArray listOf(const std::vector<Money> &amounts)
+{
+    QJsonArray list;
+    for (const Money &amount : amounts)
+        list.append(toJson(amount));
+    return list;
+}
+
+QJsonArray itemsJson(const Figures &figures)
+{
+    QJsonArray items;
+    for (const interchange::ItemFigure &item : figures.items) {
+        items.append(QJsonObject{{QStringLiteral("kind"), kindWord(item.kind)},
+                                 {QStringLiteral("name"), item.name},
+                                 {QStringLiteral("planned"), toJson(item.planned)},
+                                 {QStringLiteral("last"), toJson(item.actual.back())},
+                                 {QStringLiteral("actual"), listOf(item.actual)}});
+    }
+    return items;
+}
+
+QJsonArray balancesJson(const Figures &figures)
+{
+    QJsonArray balances;
+    for (const interchange::BalanceFigure &figure : figures.balances) {
+        balances.append(QJsonObject{{QStringLiteral("path"), figure.path},
+                                    {QStringLiteral("type"), accounting::toQString(figure.type)},
+                                    {QStringLiteral("balance"), toJson(figure.balance)}});
+    }
+    return balances;
+}
+
+QJsonArray currenciesJson(const Figures &figures)
+{
+    const auto &[period, balances, items, currencies] = figures;
+    QJsonArray list;
+    for (const auto &[currency, sums] : currencies) {
+        list.append(QJsonObject{{QStringLiteral("currency"), foundation::toQString(currency)},
+                                {QStringLiteral("netWorth"), listOf(sums.netWorth)},
+                                {QStringLiteral("income"), listOf(sums.income)},
+                                {QStringLiteral("expenses"), listOf(sums.expenses)},
+                                {QStringLiteral("planned"), toJson(sums.planned)},
+                                {QStringLiteral("outgoing"), listOf(sums.outgoing)}});
+    }
+    return list;
+}
+
+struct ShowReport {
+    std::optional<QDate> from;
+    std::optional<QDate> to;
+    QString title = QObject::tr("Household report");
+    bool isHtml = false;
+    bool hasCharts = false;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--from", from, "In the first month; eleven months before otherwise")
+            .optional("--to", to, "The last day; today otherwise")
+            .flag("--html", isHtml, "Print one HTML page, with charts, to be read or printed")
+            .flag("--chart", hasCharts, "Draw the charts on the terminal")
+            .optional("--title", title, "The title of the page")
+            .dated("The last day, where --to is not given");
+    }
+
+    Report run(Call &call) const
+    {
+        const QDate last = to.value_or(call.date());
+        const interchange::Period period(from.value_or(last.addMonths(-11)), last);
+        const AccountIndex index = call.session.accounts();
+        const Figures figures =
+            interchange::figuresOf(period, index.accounts(), call.session.transactions(),
+                                   BudgetView(call.session).budget());
+        Report report(data(figures));
+        if (isHtml)
+            return call.options.isJson ? report : Report().raw(interchange::toHtml(figures, title));
+        if (hasCharts)
+            addCharts(report, figures, call);
+        else
+            addTables(report, figures);
+        return report;
+    }
+
+private:
+    static QJsonObject data(const Figures &figures)
+    {
+        return {{QStringLiteral("from"), toJson(figures.period.from())},
+                {QStringLiteral("to"), toJson(figures.period.to())},
+                {QStringLiteral("months"), QJsonArray::fromStringList(figures.period.labels())},
+                {QStringLiteral("currencies"), currenciesJson(figures)},
+                {QStringLiteral("items"), itemsJson(figures)},
+                {QStringLiteral("balances"), balancesJson(figures)}};
+    }
+
+    static void addCharts(Report &report, const Figures &figures, Call &call)
+    {
+        const int columns = call.program.terminal().width().value_or(80);
+        for (const interchange::Chart &chart : interchange::chartsOf(figures)) {
+            report.heading(chart.title);
+            for (const QString &line : chartText(chart, columns, call.session.displayAs()))
+                report.line(line);
+            report.line(QString());
+        }
+    }
+
+    static void addTables(Report &report, const Figures &figures)
+    {
+        const QStringList labels = figures.period.labels();
+        for (const auto &[currency, sums] : figures.currencies) {
+            QJsonArray rows;
+            for (std::size_t month = 0; month < figures.period.months(); ++month) {
+                rows.append(
+                    QJsonObject{{QStringLiteral("month"), labels[static_cast<qsizetype>(month)]},
+                                {QStringLiteral("income"), toJson(sums.income[month])},
+                                {QStringLiteral("expenses"), toJson(sums.expenses[month])},
+                                {QStringLiteral("planned"), toJson(sums.planned)},
+                                {QStringLiteral("outgoing"), toJson(sums.outgoing[month])},
+                                {QStringLiteral("netWorth"), toJson(sums.netWorth[month])}});
+            }
+            report.heading(foundation::presentationText(currency))
+                .table({{QObject::tr("Month"), QStringLiteral("month")},
+                        {QObject::tr("Income"), QStringLiteral("income")},
+                        {QObject::tr("Expenses"), QStringLiteral("expenses")},
+                        {QObject::tr("Budget"), QStringLiteral("planned")},
+                        {QObject::tr("Actual"), QStringLiteral("outgoing")},
+                        {QObject::tr("Net worth"), QStringLiteral("netWorth")}},
+                       rows, QString());
+        }
+        report.heading(QObject::tr("Budget against actual"))
+            .table({{QObject::tr("Kind"), QStringLiteral("kind")},
+                    {QObject::tr("Item"), QStringLiteral("name")},
+                    {QObject::tr("Planned a month"), QStringLiteral("planned")},
+                    {QObject::tr("In %1").arg(labels.back()), QStringLiteral("last")}},
+                   itemsJson(figures), QObject::tr("There are no budget items."));
+    }
+};
+
+} // namespace
+
+void addReportCommands(CommandGroup &root)
+{
+    root.add("report", "Show income, expenses, budget and net worth month by month",
+             CommandKind::Query, ShowReport{});
+}
+
+} // namespace kiv::app

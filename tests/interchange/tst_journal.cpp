@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/accounting.h"
+#include "support/damage.h"
+
+#include "interchange/duplicates.h"
+#include "interchange/journal_reader.h"
+#include "interchange/ledger_writer.h"
+
+#include "foundation/presentation.h"
+
+#include <QtTest/QtTest>
+
+#include <rapidcheck.h>
+
+using namespace kiv::interchange;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+using kiv::accounting::Account;
+using kiv::accounting::AccountCode;
+using kiv::accounting::AccountTypes;
+using kiv::accounting::Transaction;
+using kiv::accounting::TransactionStatuses;
+
+namespace {
+
+JournalOptions options()
+{
+    JournalOptions options;
+    options.preferred = numira::toCurrency("USD");
+    return options;
+}
+
+QString pathOf(const DraftAccount &account)
+{
+    return kiv::accounting::toQString(account.type) + u':' + account.names.join(u':');
+}
+
+/// "2026-01-01 expense:Food<asset:Cash 5.00 USD text !*", a line a transaction.
+QString linesOf(const Draft &draft)
+{
+    QStringList lines;
+    for (const DraftTransaction &t : draft.transactions) {
+        const auto mark = [](TransactionStatuses status) {
+            return u"-!*"_s[static_cast<int>(status)];
+        };
+        lines += u"%1 %2<%3 %4 %5 %6"_s.arg(
+            t.date.toString(Qt::ISODate), pathOf(draft.accounts[t.debit]),
+            pathOf(draft.accounts[t.credit]),
+            kiv::foundation::presentationText(t.amount.code()) + u' ' +
+                kiv::foundation::toQString(t.amount),
+            t.text, QString(mark(t.debitStatus)) + mark(t.creditStatus));
+    }
+    return lines.join(u'\n');
+}
+
+/// The books that a ledger would hold after the accounts and transactions.
+struct Books {
+    kiv::accounting::GeneralLedger ledger;
+    kiv::accounting::SequentialAccountNumberGenerator generator;
+
+    void take(const Draft &draft)
+    {
+        const AccountPlan plan = planAccounts(draft, ledger.accounts());
+        for (const Account &account : plan.missing)
+            ledger.add(account, generator, day("2026-01-01"));
+        for (const DraftTransaction &t : draft.transactions)
+            ledger.post(Transaction(t.date, plan.codes[t.debit], plan.codes[t.credit], t.amount,
+                                    t.text.isEmpty() ? std::nullopt : std::optional(t.text))
+                            .withStatuses(t.debitStatus, t.creditStatus));
+    }
+    [[nodiscard]] std::vector<Transaction> transactions() const { return ledger.transactions(); }
+};
+
+const char *const sample = "; kiv\n"
+                           "account Assets:Cash\n"
+                           "P 2026-01-01 AAPL $30\n"
+                           "2026-01-02 * (7) Shop  ; how: by card\n"
+                           "    Expenses:Food      $5.00\n"
+                           "    ! Assets:Cash\n"
+                           "2026/1/3 Broker\n"
+                           "    Assets:Shares  2 AAPL @ $30.00\n"
+                           "    Assets:Cash   $-60.00 = $-65.00\n";
+
+} // namespace
+
+class TestJournal : public QObject {
+    Q_OBJECT
+
+private slots:
+    void entriesBecomePairs_data()
+    {
+        QTest::addColumn<QByteArray>("journal");
+        QTest::addColumn<QString>("lines");
+        const auto row = [](const char *name, const char *journal, const char *lines) {
+            QTest::newRow(name) << QByteArray(journal) << QString::fromUtf8(lines);
+        };
+        row("an elided amount and a note", sample,
+            "2026-01-02 expense:Food<asset:Cash USD 5.00 (7) Shop; how: by card *!\n"
+            "2026-01-03 asset:Shares<asset:Cash USD 60.00 Broker --");
+        row("three postings are two pairs",
+            "2026-01-01 Shop\n Expenses:Food  1 USD\n Expenses:Soap  2.50 USD ; soft\n"
+            " Liabilities:Card  -3.50 USD",
+            "2026-01-01 expense:Food<liability:Card USD 1.00 Shop --\n"
+            "2026-01-01 expense:Soap<liability:Card USD 2.50 Shop; soft --");
+        row("an account on both sides keeps the difference",
+            "2026-01-01\n Assets:Cash  10 USD\n Assets:Cash  -4 USD\n Income:Job  -6 USD",
+            "2026-01-01 asset:Cash<income:Job USD 6.00  --");
+        row("one currency for another", "2026-01-01 x\n Assets:A  100 EUR @ 1.10 USD\n Assets:B",
+            "2026-01-01 equity:Conversion:USD<asset:B USD 110.00 x --\n"
+            "2026-01-01 asset:A<equity:Conversion:EUR EUR 100.00 x --");
+        row("a price that does not come out even",
+            "2026-01-01 x\n Assets:A  3.5 EUR @ 1.11 USD\n Assets:B  -3.89 USD",
+            "2026-01-01 equity:Conversion:USD<asset:B USD 3.89 x --\n"
+            "2026-01-01 asset:A<equity:Conversion:EUR EUR 3.50 x --");
+        row("an exchange without a price", "2026-01-01 x\n Assets:A  5 AAPL\n Assets:B  $-90",
+            "2026-01-01 asset:A<asset:B USD 90.00 x --");
+        row("virtual postings",
+            "2026-01-01 x\n Assets:A  $1\n Income:I\n [Assets:B]  $2\n [Assets:A]  $-2\n"
+            " (Liabilities:L)  $-3",
+            "2026-01-01 equity:Virtual<liability:L USD 3.00 x --\n"
+            "2026-01-01 asset:B<income:I USD 1.00 x --\n"
+            "2026-01-01 asset:B<asset:A USD 1.00 x --");
+        row("an automated posting",
+            "= /^income/\n (Liabilities:Tithe)  0.12\n2026-01-01 Job\n Assets:A  $200\n Income:Job",
+            "2026-01-01 asset:A<income:Job USD 200.00 Job --\n"
+            "2026-01-01 equity:Virtual<liability:Tithe USD 24.00 Job --");
+        row("a balance that is assigned, in another notation",
+            "decimal-mark ,\nY 2026\n01/05 a\n Assets:A  1.000,50 €\n Income:I\n"
+            "1/6 b\n Assets:A  = 900,50 €\n Expenses:E",
+            "2026-01-05 asset:A<income:I EUR 1000.50 a --\n"
+            "2026-01-06 expense:E<asset:A EUR 100.00 b --");
+        row("commodity formats, applied tags and block comments",
+            "commodity 1.000,00 EUR\ncomment\nanything\nend comment\napply tag trip: yes\n"
+            "2026-01-01 x\n A  2.000,00 EUR\n Equity  -2000 EUR\nend tag\n"
+            "account A  ; type: Liability",
+            "");
+        row("an assertion that holds by day and not by line",
+            "2026-01-02 b\n Assets:A  $1 = $3\n Income:I\n2026-01-01 a\n Assets:A  $2 = $2\n"
+            " Income:I",
+            "2026-01-02 asset:A<income:I USD 1.00 b --\n"
+            "2026-01-01 asset:A<income:I USD 2.00 a --");
+    }
+    void entriesBecomePairs()
+    {
+        QFETCH(QByteArray, journal);
+        QFETCH(QString, lines);
+        if (lines.isEmpty()) { // the account is declared too late
+            QVERIFY_EXCEPTION_THROWN((void)readJournal(journal, u"j"_s, options()), ImportError);
+            journal = "account A  ; type: L\n" + journal;
+            lines = u"2026-01-01 liability:A<equity:Equity EUR 2000.00 x; trip: yes --"_s;
+        }
+        QCOMPARE(linesOf(readJournal(journal, u"j"_s, options())), lines);
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QByteArray>("journal");
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char *name, const char *journal, const char *message) {
+            QTest::newRow(name) << QByteArray(journal) << QString::fromUtf8(message);
+        };
+        row("an unknown directive", "\nbucket Assets:A\n",
+            "'j', line 2: 'bucket Assets:A' is neither a transaction nor a directive that can be "
+            "imported.");
+        row("an unknown one below an account", "account Assets:A\n  alias A\n",
+            "'j', line 2: 'alias A' is neither a transaction nor a directive that can be "
+            "imported.");
+        row("an include without a folder", "include other.journal\n",
+            "'j', line 1: 'other.journal' is not included: there is no folder for it.");
+        row("a day that does not exist", "2026-02-30 x\n",
+            "'j', line 1: '2026-02-30' is not a day written as YYYY-MM-DD.");
+        row("what is left", "2026-01-01 x\n Assets:A  $3\n Assets:B  $-2\n",
+            "'j', line 1: The transaction does not balance: 1 USD are left.");
+        row("two without an amount", "2026-01-01 x\n Assets:A\n Assets:B\n",
+            "'j', line 3: More than one posting of the transaction has no amount.");
+        row("no postings", "2026-01-01 x\n",
+            "'j', line 1: The transaction has fewer than two postings.");
+        row("an unknown root", "2026-01-01 x\n Aktiva:A  $1\n Assets:B\n",
+            "'j', line 2: Accounts begin with Assets, Liabilities, Equity, Income or Expenses; "
+            "tell "
+            "what 'Aktiva' is with --root, like --root 'Aktiva=asset'.");
+        row("what is no currency", "2026-01-01 x\n Assets:A  1 AAPL\n Assets:B\n",
+            "'j', line 2: 'AAPL' is not a currency; give its cost behind @, or say which currency "
+            "it "
+            "is with --commodity, like --commodity 'AAPL=USD'.");
+        row("no currency at all", "2026-01-01 x\n Assets:A  1\n Assets:B\n",
+            "'j', line 2: '1 ' has no currency; name one with --currency.");
+        row("a comma that could be either", "2026-01-01 x\n Assets:A  $1,234\n Assets:B\n",
+            "'j', line 2: '1,234' can be read in two ways; name the decimal mark with --decimal.");
+        row("an expression", "2026-01-01 x\n Assets:A  ($1 * 2)\n Assets:B\n",
+            "'j', line 2: '($1 * 2)' cannot be imported.");
+        row("a lot", "2026-01-01 x\n Assets:A  1 AAPL {$3}\n Assets:B\n",
+            "'j', line 2: '{$3}' cannot be imported.");
+        row("an assertion", "2026-01-01 x\n Assets:A  $1 = $2\n Assets:B\n",
+            "'j', line 2: The balance of 'Assets:A' should be 2 USD here, and is 1 USD.");
+        row("a comment without an end", "\ncomment\nx\n",
+            "'j', line 2: 'comment' begins here and does not end.");
+        row("an indented line by itself", "\n  Assets:A  $1\n",
+            "'j', line 2: The line is indented, but there is nothing that it belongs to.");
+        row("a wrong encoding", "; a\n2026-01-01 caf\xe9\n",
+            "'j', line 2: This is not valid UTF-8; name the file's encoding with --encoding.");
+        row("a zero byte", "; a\n; b\0c", "");
+        row("too large an amount",
+            "2026-01-01 x\n Assets:A  $99999999999999999999999999999\n Assets:B\n",
+            "'j', line 2: The amounts here cannot be kept exactly.");
+        row("a bad pattern", "= /(/\n (Assets:A)  1\n",
+            "'j', line 1: '(' is not a pattern of account names.");
+    }
+    void refusals()
+    {
+        QFETCH(QByteArray, journal);
+        QFETCH(QString, message);
+        if (message.isEmpty()) {
+            journal = QByteArray("; a\n; b\0c", 8);
+            message = u"'j', line 2: This is not text."_s;
+        }
+        try {
+            (void)readJournal(journal, u"j"_s, options());
+            QFAIL("It was not refused.");
+        } catch (const ImportError &error) {
+            QCOMPARE(error.message(), message);
+        }
+    }
+
+    void aJournalOfTooManyTransactionsEnds()
+    {
+        QByteArray journal;
+        for (int i = 0; i <= transactionsMax; ++i)
+            journal += "2026-01-01\n Assets:A  $1\n Assets:B\n";
+        try {
+            (void)readJournal(journal, u"j"_s, options());
+            QFAIL("It was not refused.");
+        } catch (const ImportError &error) {
+            QCOMPARE(error.place().line, transactionsMax * 3 + 1);
+        }
+    }
+
+    void accountsInTwoCurrenciesAndTakenNumbers()
+    {
+        Books books;
+        books.take(
+            readJournal("2026-01-01\n Assets:Bank:A  5 USD\n Income:I\n", u"j"_s, options()));
+        books.take(
+            readJournal("2026-01-01\n Assets:Bank:A  7 EUR\n Income:I\n", u"j"_s, options()));
+        QStringList paths;
+        for (const Account &account : books.ledger.accounts())
+            paths += presentationText(account.code()) + u' ' +
+                     kiv::foundation::toQString(account.balance());
+        QCOMPARE(paths, (QStringList{u"1 Bank 0.00"_s, u"2 A 5.00"_s, u"3 I 5.00"_s,
+                                     u"4 A (EUR) 7.00"_s, u"5 I (EUR) 7.00"_s}));
+    }
+
+    void whatIsWrittenIsReadAgain()
+    {
+        const bool holds = rc::check("journal of a journal", [] {
+            Books books;
+            const auto names = *rc::gen::container<std::vector<std::string>>(
+                6, rc::gen::element<std::string>("Food", "A:B", "two  blanks", "; none",
+                                                 "(virtual)", "* star", "12.00 USD", "\"q\"",
+                                                 "Zürich 食費", "number: 9"));
+            std::vector<AccountCode> codes;
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                const auto type = static_cast<AccountTypes>(*rc::gen::inRange(1, 6));
+                const auto currency = *rc::gen::element<std::string>("USD", "JPY", "KWD");
+                const AccountCode code(no(static_cast<std::uint32_t>(7 * i + 3)),
+                                       QString::fromStdString(names[i]), std::nullopt);
+                books.ledger.add(Account(type, code, money(currency.c_str(), "0"), false),
+                                 books.generator, day("2026-01-01"));
+                codes.push_back(code);
+            }
+            for (int i = *rc::gen::inRange(0, 20); i > 0; --i) {
+                const auto debit = *rc::gen::elementOf(codes);
+                const auto credit = *rc::gen::elementOf(codes);
+                const auto currency = books.ledger.ledger(debit.number()).balance().code();
+                if (debit == credit ||
+                    books.ledger.ledger(credit.number()).balance().code() != currency)
+                    continue;
+                const auto status = static_cast<TransactionStatuses>(*rc::gen::inRange(0, 3));
+                const numira::Money amount(
+                    currency, numira::Decimal(*rc::gen::inRange(1, 10'000'000)).scaled(1, 100));
+                books.ledger.post(Transaction(day("2026-01-01").addDays(i), debit, credit, amount,
+                                              QString::fromStdString(*rc::gen::elementOf(names)))
+                                      .withStatuses(status, TransactionStatuses::None));
+            }
+            const QByteArray journal = writeJournal(books.ledger.accounts(), books.transactions());
+            Books read;
+            read.take(readJournal(journal, u"j"_s, options()));
+            const auto before = books.ledger.accounts();
+            RC_ASSERT(read.ledger.accounts().size() == before.size());
+            for (const Account &account : before) {
+                const auto again = read.ledger.ledger(account.code().number());
+                RC_ASSERT(again.type() == account.type());
+                RC_ASSERT(again.balance() == account.balance());
+            }
+            // The second journal says the same as the first.
+            RC_ASSERT(writeJournal(read.ledger.accounts(), read.transactions()) == journal);
+            // Whatever stands in the books is found to be there.
+            Duplicates duplicates(read.transactions());
+            for (const Transaction &transaction : books.transactions())
+                RC_ASSERT(duplicates.take(transaction));
+        });
+        QVERIFY(holds);
+    }
+
+    /// Whatever is read ends with books that balance, or with a refusal.
+    void damagedJournalsAreReadOrRefused()
+    {
+        QRandomGenerator random(20260131);
+        const QByteArrayList own{"Assets", "$", "2026", "@", "  ", "\n"};
+        const QByteArrayList odd{"(",           "\"",    "= $1", "@@", "\xff",
+                                 "include x\n", "1,000", ";:",   "~ "};
+        int refused = 0;
+        for (int run = randomRuns(2000); run > 0; --run) {
+            try {
+                Books().take(readJournal(damaged(sample, own, odd, random), u"j"_s, options()));
+            } catch (const ImportError &) {
+                ++refused;
+            }
+        }
+        QVERIFY(refused > 0);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestJournal)
+#include "tst_journal.moc"

@@ -1,0 +1,427 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/accounting.h"
+#include "support/damage.h"
+
+#include "interchange/csv_profile.h"
+#include "interchange/csv_table.h"
+#include "interchange/duplicates.h"
+#include "interchange/ofx_reader.h"
+#include "interchange/qif_reader.h"
+
+#include "foundation/presentation.h"
+#include "foundation/streams.h"
+
+#include <QtTest/QtTest>
+
+#include <libofx/libofx.h>
+#include <rapidcheck.h>
+
+using namespace kiv::interchange;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+using kiv::accounting::Transaction;
+
+namespace {
+
+/// "2026-01-05 -12.34 USD|Bakery|a1|", a line an entry.
+QString linesOf(const Statement &statement)
+{
+    QStringList lines;
+    for (const StatementEntry &entry : statement.entries)
+        lines += entry.date.toString(Qt::ISODate) + u' ' +
+                 kiv::foundation::toQString(entry.amount) + u' ' +
+                 kiv::foundation::toQString(entry.amount.code()) + u'|' + entry.text + u'|' +
+                 entry.bankId + u'|' + entry.category;
+    return lines.join(u'\n');
+}
+
+template <typename Read>
+QString refusalOf(Read &&read)
+{
+    try {
+        return u"read: "_s + linesOf(read());
+    } catch (const ImportError &error) {
+        return error.message();
+    }
+}
+
+Statement readCsv(const QByteArray &bytes, const QByteArray &profile)
+{
+    QByteArray json = profile;
+    return readCsvStatement(bytes, u"f"_s, readProfile(json.replace('\'', '"'), u"p"_s),
+                            numira::toCurrency("EUR"));
+}
+
+const QByteArray ofxHead = "OFXHEADER:100\nDATA:OFXSGML\nVERSION:102\nSECURITY:NONE\n"
+                           "ENCODING:USASCII\nCHARSET:1252\nCOMPRESSION:NONE\nOLDFILEUID:NONE\n"
+                           "NEWFILEUID:NONE\n\n<OFX>\n<SIGNONMSGSRSV1><SONRS><STATUS><CODE>0"
+                           "<SEVERITY>INFO</STATUS><DTSERVER>20260131<LANGUAGE>ENG</SONRS>"
+                           "</SIGNONMSGSRSV1>\n<BANKMSGSRSV1><STMTTRNRS><TRNUID>0<STATUS><CODE>0"
+                           "<SEVERITY>INFO</STATUS><STMTRS><CURDEF>USD\n<BANKACCTFROM><BANKID>1"
+                           "<ACCTID>42<ACCTTYPE>CHECKING</BANKACCTFROM>\n<BANKTRANLIST>"
+                           "<DTSTART>20260101<DTEND>20260131\n";
+const QByteArray ofxEnd = "</BANKTRANLIST><LEDGERBAL><BALAMT>1<DTASOF>20260131</LEDGERBAL></STMTRS>"
+                          "</STMTTRNRS></BANKMSGSRSV1></OFX>\n";
+
+QByteArray ofxEntry(const char *amount, const char *id, const char *name)
+{
+    return QByteArray("<STMTTRN><TRNTYPE>DEBIT<DTPOSTED>20260105120000<TRNAMT>") + amount +
+           "<FITID>" + id + "<NAME>" + name + "</STMTTRN>\n";
+}
+
+} // namespace
+
+class TestStatements : public QObject {
+    Q_OBJECT
+
+private slots:
+    void numbersAsTheyAreWritten_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("mark");
+        QTest::addColumn<QString>("number"); // or what is wrong
+        const auto row = [](const char *text, const char *mark, const char *number) {
+            QTest::addRow("%s (%s)", text, mark)
+                << QString::fromUtf8(text) << QString::fromUtf8(mark) << QString::fromUtf8(number);
+        };
+        row("1,234.56", "", "1234.56");
+        row("1.234,56", "", "1234.56");
+        row("1.234.567", "", "1234567");
+        row("1,234", "", "two ways");
+        row("0,123", "", "0.123");
+        row("1,234", ".", "1234");
+        row("1,234", ",", "1.234");
+        row("1'234.50", ".", "1234.5");
+        row("1 234,50", ",", "1234.5");
+        row("12,34,567.5", ".", "1234567.5");
+        row("12,50-", ",", "-12.5");
+        row("(3.20)", "", "-3.2");
+        row("−7", "", "-7");
+        row(".5", ".", "0.5");
+        row("1,23,45", "", "no number");
+        row("12345,678.9", "", "no number");
+        row("--1", "", "no number");
+        row("1e5", "", "no number");
+        row("", "", "no number");
+    }
+    void numbersAsTheyAreWritten()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, mark);
+        QFETCH(QString, number);
+        const auto decimal = mark.isEmpty()
+                                 ? std::nullopt
+                                 : std::optional(static_cast<DecimalMark>(mark.front().unicode()));
+        QString read;
+        try {
+            read = QString::fromStdString(readNumber(text, decimal, {}).toText());
+        } catch (const ImportError &error) {
+            read = error.message().contains(u"two ways") ? u"two ways"_s : u"no number"_s;
+        }
+        QCOMPARE(read, number);
+    }
+
+    void banksTables_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::addColumn<QByteArray>("profile");
+        QTest::addColumn<QString>("lines");
+        const auto row = [](const char *name, const char *table, const char *profile,
+                            const char *lines) {
+            QTest::newRow(name) << QByteArray(table) << QByteArray(profile)
+                                << QString::fromUtf8(lines);
+        };
+        row("common headings",
+            "\xEF\xBB\xBF"
+            "Date,Description,Amount\r\n2026-01-05,\"a, \"\"b\"\"\",-1.50\r\n",
+            "{}", "2026-01-05 -1.50 EUR|a, \"b\"||");
+        row("semicolons, another notation, lines above",
+            "Konto 42\n\nBuchungstag;Betrag;Verwendungszweck\n05.01.2026;-1.234,50 €;Miete\n",
+            "{'skip':2,'dateFormat':'DD.MM.YYYY','decimal':','}",
+            "2026-01-05 -1234.50 EUR|Miete||");
+        row("two columns of amounts by number, no headings",
+            "5/1/26\t\t3.00\tx\n6/1/26\t4.00\t\ty\n",
+            "{'headings':false,'date':'1','out':'2','in':'3','text':['4'],'dateFormat':'D/M/YY'}",
+            "2026-01-05 3.00 EUR|x||\n2026-01-06 -4.00 EUR|y||");
+        row("a column of signs, an identifier, a line break",
+            "Date,Amount,Sign,Payee,More,Ref\n2026-01-05 10:00,9.99,S,\"A\nB\",c,77\n",
+            "{'sign':'Sign','negative':['S'],'text':['Payee','More'],'id':'Ref'}",
+            "2026-01-05 -9.99 EUR|A B c|77|");
+        row("another encoding, its own currency, negated",
+            "date|amount|text|c\n2026-01-05|5|caf\xe9|USD\n",
+            "{'encoding':'ISO-8859-1','currency':'c','negate':true}",
+            "2026-01-05 -5.00 USD|café||");
+        row("the wrong encoding", "Date,Amount,Text\n2026-01-05,1,caf\xe9\n", "{}",
+            "'f', line 2: This is not valid UTF-8; name the file's encoding with --encoding.");
+        row("an unknown encoding", "x", "{'encoding':'klingon'}",
+            "'f': 'klingon' is no encoding that is known.");
+        row("a quote without an end", "Date,Amount,Text\n2026-01-05,1,\"x\n", "{}",
+            "'f', line 2: A quote begins here and does not end.");
+        row("text behind a quote", "Date,Amount,Text\n2026-01-05,1,\"x\"y\n", "{}",
+            "'f', line 2: There is text between a closing quote and the next delimiter.");
+        row("a column that is missing", "Date,Amount,Text\n", "{'id':'No'}",
+            "'f', line 1: There is no column 'No' among: Date, Amount, Text.");
+        row("a column that nobody named", "Date,Text\n", "{}",
+            "'f', line 1: Say with --amount-column which column it is, of: Date, Text.");
+        row("a short record", "Date,Text,Amount\n2026-01-05,x\n", "{}",
+            "'f', line 2: The record has 2 cells where 3 are needed.");
+        row("another order of the day", "Date,Text,Amount\n01/05/2026,x,1\n", "{}",
+            "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD.");
+        row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{}",
+            "'f', line 2: '1.234' has more digits behind the decimal mark than the 2 of EUR.");
+        row("both ways", "Date,Text,In,Out\n2026-01-05,x,1,2\n", "{'in':'In','out':'Out'}",
+            "'f', line 2: The record has an amount that came in and one that went out.");
+        row("our own table", "number,date,debit,debitAccount,amount,description\n", "{}",
+            "'f', line 1: This is the table of a whole ledger, and no bank statement; import the "
+            "journal instead.");
+        row("nothing", "\n\n", "{}",
+            "'f': There is no statement of a bank account or a credit card.");
+        row("an unknown key", "x", "{'dat':'1'}",
+            "'p': This is no import profile: 'dat' is no key of "
+            "one.");
+        row("a key of another kind", "x", "{'skip':'1'}",
+            "'p': This is no import profile: 'skip' has a wrong value.");
+    }
+    void banksTables()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QByteArray, profile);
+        QFETCH(QString, lines);
+        QString read = refusalOf([&] { return readCsv(table, profile); });
+        QCOMPARE(read.startsWith(u"read: ") ? read.mid(6) : read, lines);
+    }
+
+    void aProfileIsReadAsItWasSaved()
+    {
+        const QByteArray json =
+            "{'delimiter':';','skip':3,'headings':false,'in':'2','negative':['S',"
+            "'H'],'dateFormat':'DD.MM.YY','decimal':',','negate':true,'rules':"
+            "[{'contains':'rewe','account':'Expenses:Food'}]}";
+        const CsvProfile profile = readProfile(QByteArray(json).replace('\'', '"'), u"p"_s);
+        QCOMPARE(profile.rules, (std::vector<AccountRule>{{u"rewe"_s, u"Expenses:Food"_s}}));
+        const QByteArray saved = toJson(profile);
+        QCOMPARE(toJson(readProfile(saved, u"p"_s)), saved);
+        QVERIFY(saved.contains("\"skip\": 3"));
+    }
+
+    void tablesAreReadAsTheyWereWritten()
+    {
+        const bool holds = rc::check("csv", [] {
+            const auto cells = *rc::gen::nonEmpty(
+                rc::gen::container<std::vector<std::string>>(rc::gen::string<std::string>()));
+            QStringList written;
+            for (const std::string &cell : cells)
+                written += QString::fromLatin1(QByteArray::fromStdString(cell));
+            const auto records = readCsvTable(csvLine(written), u"f"_s, u',');
+            if (written == QStringList{QString()})
+                return; // an empty line is no record
+            RC_ASSERT(records.size() == 1U);
+            const QStringList read = records.front().cells;
+            RC_ASSERT(read.size() == written.size());
+            for (qsizetype i = 0; i < read.size(); ++i) {
+                const QString safe = kiv::foundation::escaped(written[i]);
+                const bool isFormula = !safe.isEmpty() && u"=+-@"_s.contains(safe[0]);
+                RC_ASSERT(read[i] == (isFormula ? u'\'' + safe : safe));
+            }
+        });
+        QVERIFY(holds);
+    }
+
+    void ofxTags_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("lines");
+        const auto row = [](const char *name, const QByteArray &body, const char *lines) {
+            QTest::newRow(name) << body << QString::fromUtf8(lines);
+        };
+        const QByteArray good = ofxEntry("-12.34", "a1", "Fish &amp; Chips AT&T caf\xe9");
+        row("a value without an end, entities, Windows' letters", good,
+            "2026-01-05 -12.34 USD|Fish & Chips AT&T café|a1|");
+        row("closed values and an empty one",
+            "<STMTTRN><TRNTYPE>X</TRNTYPE>\n<DTPOSTED>20260105</DTPOSTED><TRNAMT>+1,5</TRNAMT>"
+            "<MEMO>\n<NAME>n</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
+            "2026-01-05 1.50 USD|n||");
+        row("a misspelt tag", good + QByteArray(good).replace("<STMTTRN>", "<STMTRN>"),
+            "'f', line 17: </STMTTRN> stands where the <STMTRN> of line 17 should be closed.");
+        row("a tag that is not closed", QByteArray(good).replace("</STMTTRN>", ""),
+            "'f', line 17: </BANKTRANLIST> stands where the <STMTTRN> of line 16 should be "
+            "closed.");
+        row("a bracket that is missing", QByteArray(good).replace("<TRNAMT>", "<TRNAMT"),
+            "'f', line 16: A tag is broken: its name or its '>' is missing.");
+        row("no amount", QByteArray(good).replace("<TRNAMT>-12.34", ""),
+            "'f', line 16: The entry has no TRNAMT.");
+        row("no such day", QByteArray(good).replace("0105", "0230"),
+            "'f', line 16: '20260230120000' is not a day written as YYYYMMDD.");
+        row("an amount of words", QByteArray(good).replace("-12.34", "much"),
+            "'f', line 16: 'much' is not a number.");
+        row("a value between tags", good + "stray\n<STMTTRN>",
+            "'f', line 16: A tag is broken: its name or its '>' is missing.");
+    }
+    void ofxTags()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, lines);
+        const QString read = refusalOf([&] { return readOfx(ofxHead + body + ofxEnd, u"f"_s); });
+        QCOMPARE(read.startsWith(u"read: ") ? read.mid(6) : read, lines);
+    }
+
+    void ofxFilesWithoutOneStatement()
+    {
+        const auto refusal = [](const QByteArray &bytes, const QString &account = {}) {
+            return refusalOf([&] { return readOfx(bytes, u"f"_s, account); });
+        };
+        QCOMPARE(refusal("x"), u"'f': There is no <OFX> in this file."_s);
+        QCOMPARE(refusal("<OFX>\n<A>"), u"'f', line 2: <A> is not closed."_s);
+        QCOMPARE(refusal("<OFX></OFX>"),
+                 u"'f': There is no statement of a bank account or a credit card."_s);
+        const QByteArray two = "<OFX><STMTRS><CURDEF>USD<BANKACCTFROM><ACCTID>1</BANKACCTFROM>"
+                               "</STMTRS>\n<CCSTMTRS><CURDEF>EUR<CCACCTFROM><ACCTID>2</CCACCTFROM>"
+                               "</CCSTMTRS></OFX>";
+        QCOMPARE(
+            refusal(two),
+            u"'f', line 2: There are several statements; choose one with --statement: 1, 2."_s);
+        QCOMPARE(refusal(two, u"3"_s), u"'f': There is no statement of '3', but of: 1, 2."_s);
+        QCOMPARE(readOfx(two, u"f"_s, u"2"_s).currency, numira::toCurrency("EUR"));
+        QCOMPARE(refusal(QByteArray("<OFX>").repeated(40)),
+                 u"'f', line 1: Tags are nested too deeply."_s);
+    }
+
+    /// A peer finds the same entries in a file without faults.
+    void ofxAsLibofxReadsIt()
+    {
+        QByteArray bytes = ofxHead;
+        for (int i = 1; i <= 50; ++i)
+            bytes += ofxEntry(QByteArray::number(i * 7.01 - 100, 'f', 2).constData(),
+                              ("id" + QByteArray::number(i)).constData(), "Shop");
+        bytes += ofxEnd;
+        QTemporaryDir folder;
+        const QString path = folder.filePath(u"s.ofx"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) > 0);
+        file.close();
+
+        QStringList peer;
+        LibofxContextPtr context = libofx_get_new_context();
+        ofx_set_transaction_cb(
+            context,
+            [](OfxTransactionData data, void *found) {
+                *static_cast<QStringList *>(found) +=
+                    QDateTime::fromSecsSinceEpoch(data.date_posted).date().toString(Qt::ISODate) +
+                    u' ' + QString::number(data.amount, 'f', 2) + u" USD|"_s +
+                    QLatin1String(data.name) + u'|' + QLatin1String(data.fi_id) + u'|';
+                return 0;
+            },
+            &peer);
+        QCOMPARE(libofx_proc_file(context, path.toLocal8Bit().constData(), OFX), 0);
+        libofx_free_context(context);
+        QCOMPARE(peer.size(), 50);
+        QCOMPARE(linesOf(readOfx(bytes, u"f"_s)), peer.join(u'\n'));
+    }
+
+    void qifRecords_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("lines");
+        const auto row = [](const char *name, const char *file, const char *lines) {
+            QTest::newRow(name) << QByteArray(file) << QString::fromUtf8(lines);
+        };
+        row("a day beyond the twelfth tells the order",
+            "!Type:Bank\nD1/25'26\nT-1,000.00\nPRent\nLHome/2026\n^\nD1/2'26\nT5\nN12\nMx\n",
+            "2026-01-25 -1000.00 EUR|Rent||Home\n2026-01-02 5.00 EUR|12 x||");
+        row("splits, among lists",
+            "!Type:Cat\nNFood\n^\n!Account\nNBank\n^\n!Type:CCard\nD25.01.2026\nT-"
+            "30\nPShop\nSFood\n"
+            "$-10\nS[Savings]\nEkept\n$-20\n^\n",
+            "2026-01-25 -10.00 EUR|Shop||Food\n2026-01-25 -20.00 EUR|Shop kept||Savings");
+        row("days that could be either", "!Type:Bank\nD1/2/2026\nT1\n^\n",
+            "'f', line 2: The days can be read in two ways; name the order with --date-format, "
+            "like "
+            "MM/DD/YYYY.");
+        row("parts that are not the whole", "!Type:Bank\nD1/25/2026\nT3\nSa\n$1\nSb\n$1\n^\n",
+            "'f', line 2: The parts come to 2.00 and the whole to 3.00.");
+        row("no header", "D1/2/2026\n",
+            "'f', line 1: The file does not begin with a QIF header like "
+            "!Type:Bank.");
+        row("investments", "!Type:Bank\n^\n!Type:Invst\n",
+            "'f', line 3: '!Type:Invst' cannot be "
+            "imported.");
+        row("an unknown field", "!Type:Bank\nD1/25/2026\nQx\n",
+            "'f', line 3: 'Qx' is no field of a bank statement.");
+        row("no amount", "!Type:Bank\nD1/25/2026\n^\n", "'f', line 2: The entry has no amount.");
+        row("no such day", "!Type:Bank\nD30/30/2026\nT1\n^\n",
+            "'f', line 2: '30/30/2026' is not a day written as M/D/YYYY.");
+    }
+    void qifRecords()
+    {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, lines);
+        QifOptions options;
+        options.currency = numira::toCurrency("EUR");
+        const QString read = refusalOf([&] { return readQif(file, u"f"_s, options); });
+        QCOMPARE(read.startsWith(u"read: ") ? read.mid(6) : read, lines);
+    }
+
+    void duplicatesByIdentifierOrContent()
+    {
+        const auto entry = [](int other, const char *amount, const char *text,
+                              const char *id = "") {
+            return Transaction(day("2026-01-05"), no(static_cast<std::uint32_t>(other)), no(1),
+                               usd(amount),
+                               withBankId(QString::fromUtf8(text), QString::fromUtf8(id)));
+        };
+        QCOMPARE(bankIdOf(withBankId(u"Shop"_s, u"a]b[\n1"_s)), u"ab 1"_s);
+        Duplicates known({entry(2, "5", "Coffee"), entry(2, "5", "Coffee"),
+                          entry(2, "7", "Tea", "x"), entry(3, "9", "Sum; note")},
+                         no(1));
+        QVERIFY(known.take(entry(4, "5", "coffee")));        // moved to another account since
+        QVERIFY(known.take(entry(2, "5", "Coffee", "new"))); // typed in by hand
+        QVERIFY(!known.take(entry(2, "5", "Coffee")));       // the third one
+        QVERIFY(known.take(entry(2, "7", "Tea house", "x")));
+        QVERIFY(!known.take(entry(2, "8", "Tea", "x"))); // an identifier that was used again
+        QVERIFY(!known.take(entry(2, "7", "Tea", "y")));
+        QVERIFY(known.take(entry(2, "7", "Tea", "y"))); // twice in one file
+        QVERIFY(known.take(entry(2, "9", "sum, note")));
+        QVERIFY(
+            !known.take(Transaction(day("2026-01-05"), no(1), no(2), usd("7"), u"Tea [id x]"_s)));
+    }
+
+    void damagedFilesAreReadOrRefused()
+    {
+        QRandomGenerator random(7);
+        const QByteArray ofx = ofxHead + ofxEntry("-1.50", "1", "Shop") + ofxEnd;
+        const QByteArray qif = "!Type:Bank\nD1/25/2026\nT-3\nPx\nSa\n$-3\n^\nD1/26/2026\nT2\n^\n";
+        const QByteArray csv = "Date,Amount,Text\n2026-01-05,\"1.50\",x\n2026-01-06,-2,\"y\nz\"\n";
+        QifOptions options;
+        options.currency = numira::toCurrency("EUR");
+        int read = 0;
+        int refused = 0;
+        const auto attempt = [&](auto &&action) {
+            try {
+                (void)action();
+                ++read;
+            } catch (const ImportError &) {
+                ++refused;
+            }
+        };
+        for (int run = randomRuns(1500); run > 0; --run) {
+            attempt([&] {
+                return readOfx(
+                    damaged(ofx, {"<", ">", "</", "STMTTRN"}, {"<<", "/>", "<!", "\xff"}, random),
+                    u"f"_s);
+            });
+            attempt([&] {
+                return readQif(damaged(qif, {"D", "\n", "/", "!"}, {"^", "$", "'", "\xc3"}, random),
+                               u"f"_s, options);
+            });
+            attempt([&] {
+                return readCsv(
+                    damaged(csv, {"\"", ",", "\n", "2026"}, {"\"\"", ";", "\r", "\xe9"}, random),
+                    "{}");
+            });
+        }
+        QVERIFY(read > 100 && refused > 100);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestStatements)
+#include "tst_statements.moc"
