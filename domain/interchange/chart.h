@@ -13,19 +13,23 @@ namespace kiv::interchange {
 
 /// One row of values, one for each label of its chart.
 struct ChartSeries {
-    QString name;
-    std::vector<numira::Money> values;
+    QString name;                      ///< for the legend
+    std::vector<numira::Money> values; ///< all in one currency
 };
 
-enum class ChartKind { Bars, Line };
+/// How values are drawn.
+enum class ChartKind {
+    Bars, ///< side by side over each label
+    Line, ///< from label to label
+};
 
 /// Amounts of one currency over labels such as months.
 struct Chart {
-    ChartKind kind = ChartKind::Bars;
-    QString title;
+    ChartKind kind = ChartKind::Bars; ///< how it is drawn
+    QString title;                    ///< a few words
     /// What the chart shows, in a sentence for those who cannot see it.
     QString description;
-    QStringList labels;
+    QStringList labels;              ///< such as months
     std::vector<ChartSeries> series; ///< up to three
 };
 

@@ -12,8 +12,8 @@ namespace kiv::interchange {
 /// Sends what a statement says about to an account: the other side of entries
 /// whose text holds `contains`, in any case.
 struct AccountRule {
-    QString contains;
-    QString account;
+    QString contains; ///< a part of the text, not empty
+    QString account;  ///< by number, name or path
 
     friend bool operator==(const AccountRule &, const AccountRule &) = default;
 };
@@ -25,29 +25,31 @@ struct AccountRule {
 /// with a column of signs, an entry counts as negative when that cell is among
 /// the negative signs.
 struct CsvProfile {
-    QString encoding = QStringLiteral("UTF-8");
+    QString encoding = QStringLiteral("UTF-8");    ///< any name that ICU knows
     std::optional<QChar> delimiter = std::nullopt; ///< the line's most frequent otherwise
     int skippedLines = 0;                          ///< above the headings
-    bool hasHeadings = true;
-    QString dateColumn = {};
-    QString amountColumn = {};
-    QString inColumn = {};
-    QString outColumn = {};
-    QString signColumn = {};
-    QStringList negativeSigns = {};
-    QStringList textColumns = {};
-    QString idColumn = {};
-    QString currencyColumn = {};
-    DateFormat dateFormat = {};
+    bool hasHeadings = true;                       ///< whether the first line has them
+    QString dateColumn = {};                       ///< the day
+    QString amountColumn = {};                     ///< the amount, with its sign
+    QString inColumn = {};                         ///< what came in
+    QString outColumn = {};                        ///< what went out, of whatever sign
+    QString signColumn = {};                       ///< whether it came in or went out
+    QStringList negativeSigns = {};                ///< what stands there when it went out
+    QStringList textColumns = {};                  ///< what makes the description
+    QString idColumn = {};                         ///< the bank's identifier
+    QString currencyColumn = {};                   ///< a code or a sign
+    DateFormat dateFormat = {};                    ///< how days are written
+    /// Found out from each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
-    bool isNegated = false; ///< what went out is positive
-    std::vector<AccountRule> rules = {};
+    bool isNegated = false;              ///< what went out is positive
+    std::vector<AccountRule> rules = {}; ///< the first that fits counts
 };
 
 /// Reads a profile from the JSON object that toJson writes; what is left out
 /// has its default. Throws ImportError for anything else, unknown keys too.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT CsvProfile readProfile(const QByteArray &json,
                                                             const QString &file);
+/// The profile as a JSON object with all keys.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toJson(const CsvProfile &profile);
 
 /// Reads a bank statement. Columns that the profile does not name are found by

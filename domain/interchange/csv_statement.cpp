@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/csv_profile.h"
+
 #include "interchange/csv_table.h"
 #include "interchange/draft.h"
+#include "interchange/internal/faults.h"
 
 #include "foundation/presentation.h"
 

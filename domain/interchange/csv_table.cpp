@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/csv_table.h"
 
+#include "interchange/internal/faults.h"
+
 #include "interchange/draft.h"
 
 #include "foundation/streams.h"

@@ -9,8 +9,8 @@ namespace kiv::interchange {
 
 /// One record of a CSV table, and the line on which it begins.
 struct CsvRecord {
-    Place place;
-    QStringList cells;
+    Place place;       ///< its first line
+    QStringList cells; ///< without quotes
 };
 
 /// Reads a table as RFC 4180 writes it: cells between delimiters, in quotes
@@ -24,7 +24,7 @@ readCsvTable(const QString &text, const QString &file, QChar delimiter);
 
 /// The delimiter that the line has most of outside of quotes: a comma, a
 /// semicolon, a tab or a bar.
-[[nodiscard]] QChar guessDelimiter(QStringView line);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QChar guessDelimiter(QStringView line);
 
 /// One record of a table that a spreadsheet may open: all cells in quotes,
 /// control characters escaped, and an apostrophe before what would be taken for

@@ -18,9 +18,9 @@ inline constexpr qsizetype transactionsMax = 65'535;
 /// that kind's root to it. What it holds in another currency is an account of
 /// its own.
 struct DraftAccount {
-    accounting::AccountTypes type = accounting::AccountTypes::Unknown;
-    QStringList names; ///< at least one, none empty
-    numira::Currency currency;
+    accounting::AccountTypes type = accounting::AccountTypes::Unknown; ///< its kind
+    QStringList names;                                                 ///< at least one, none empty
+    numira::Currency currency; ///< the one that it is kept in
     /// The number that it should get if that is free.
     std::optional<accounting::AccountNumber> number = std::nullopt;
 
@@ -30,19 +30,22 @@ struct DraftAccount {
 /// A transaction between two of the draft's accounts, which are named by their
 /// places in it. The amount is positive and in the currency of both.
 struct DraftTransaction {
-    QDate date;
-    std::size_t debit = 0;
-    std::size_t credit = 0;
-    numira::Money amount;
-    QString text;
+    QDate date;             ///< the day
+    std::size_t debit = 0;  ///< the account that is debited
+    std::size_t credit = 0; ///< the account that is credited
+    numira::Money amount;   ///< what moves
+    QString text;           ///< the description; often empty
+    /// How far the debited side has come.
     accounting::TransactionStatuses debitStatus = accounting::TransactionStatuses::None;
+    /// How far the credited side has come.
     accounting::TransactionStatuses creditStatus = accounting::TransactionStatuses::None;
-    Place place = {};
+    Place place = {}; ///< where it begins in its file
 };
 
+/// All that a file comes to.
 struct Draft {
-    std::vector<DraftAccount> accounts;
-    std::vector<DraftTransaction> transactions;
+    std::vector<DraftAccount> accounts;         ///< in the order in which they are met
+    std::vector<DraftTransaction> transactions; ///< in the order of the file
     /// What was left out or is kept otherwise, in sentences for the user.
     QStringList notices;
 };

@@ -27,6 +27,7 @@ namespace kiv::interchange {
 /// since the household may have moved them.
 class KIV_INTERCHANGE_EXPORT Duplicates {
 public:
+    /// Knows those of the ledger, or of one account.
     explicit Duplicates(const std::vector<accounting::Transaction> &present,
                         std::optional<accounting::AccountNumber> account = std::nullopt);
 

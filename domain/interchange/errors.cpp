@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/errors.h"
 
+#include "interchange/internal/faults.h"
+
 #include "foundation/streams.h"
 
 #include <QtCore/QObject>

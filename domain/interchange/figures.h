@@ -19,14 +19,18 @@ namespace kiv::interchange {
 /// The months that a report covers, up to a day within the last one.
 class KIV_INTERCHANGE_EXPORT Period {
 public:
+    /// The longest period.
     static constexpr int monthsMax = 120;
 
     /// From the month of `from` to the day `to`. Throws foundation::Error when
     /// that is no month or more than monthsMax, or when a day is invalid.
     Period(QDate from, QDate to);
 
+    /// The first day of the first month.
     [[nodiscard]] QDate from() const noexcept { return m_from; }
+    /// The last day.
     [[nodiscard]] QDate to() const noexcept { return m_to; }
+    /// How many there are, at least one.
     [[nodiscard]] std::size_t months() const noexcept { return m_months; }
     /// The day's month from 0 on; negative before the first one. Nothing after
     /// the last day.
@@ -42,9 +46,9 @@ private:
 
 /// One account at the period's end.
 struct BalanceFigure {
-    QString path;
-    accounting::AccountTypes type;
-    numira::Money balance;
+    QString path;                  ///< see accountPaths
+    accounting::AccountTypes type; ///< its kind
+    numira::Money balance;         ///< positive on the kind's own side
 };
 
 /// One budget item: what it comes to every month as it is planned now, and what
@@ -52,27 +56,28 @@ struct BalanceFigure {
 /// what was spent, for wages what was earned, for goals what was put aside, for
 /// debts what was paid back.
 struct ItemFigure {
-    budgeting::BudgetItemTypes kind;
-    QString name;
-    numira::Money planned;
-    std::vector<numira::Money> actual;
+    budgeting::BudgetItemTypes kind;   ///< bill, debt, goal, non-tracked item or wage
+    QString name;                      ///< its source's
+    numira::Money planned;             ///< a month, rounded to the minor unit
+    std::vector<numira::Money> actual; ///< month by month
 };
 
 /// What one currency comes to, month by month.
 struct CurrencyFigures {
     std::vector<numira::Money> netWorth; ///< assets less liabilities, at each month's end
-    std::vector<numira::Money> income;
-    std::vector<numira::Money> expenses;
+    std::vector<numira::Money> income;   ///< what income accounts took in
+    std::vector<numira::Money> expenses; ///< what expense accounts took in
     numira::Money planned;               ///< all items that money goes out for, every month
     std::vector<numira::Money> outgoing; ///< what went out for them
-    bool hasItems = false;
+    bool hasItems = false;               ///< whether there are such items in this currency
 };
 
+/// All figures of a report.
 struct Figures {
-    Period period;
+    Period period;                       ///< what they are about
     std::vector<BalanceFigure> balances; ///< by path, but for empty accounts
-    std::vector<ItemFigure> items;
-    std::map<numira::Currency, CurrencyFigures> currencies;
+    std::vector<ItemFigure> items;       ///< kinds in their order, names in theirs
+    std::map<numira::Currency, CurrencyFigures> currencies; ///< of all accounts
 };
 
 /// Works the figures out in one pass over the transactions. Throws what adding

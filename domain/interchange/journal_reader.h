@@ -10,6 +10,7 @@ namespace kiv::interchange {
 
 /// What a journal leaves open.
 struct JournalOptions {
+    /// Found out from the journal's directives and each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
     /// The currency of amounts without one; such are refused without it.
     std::optional<numira::Currency> currency = std::nullopt;
@@ -22,7 +23,7 @@ struct JournalOptions {
     /// Gives the bytes of a file that the journal includes, or throws
     /// ImportError. Without it every include is refused.
     std::function<QByteArray(const QString &path, const Place &place)> include = {};
-    QString encoding = QStringLiteral("UTF-8");
+    QString encoding = QStringLiteral("UTF-8"); ///< of all its files
 };
 
 /// Reads a plain-text accounting journal, as ledger and hledger read it.

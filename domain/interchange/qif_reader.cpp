@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/qif_reader.h"
 
+#include "interchange/internal/faults.h"
+
 #include "interchange/draft.h"
 #include "interchange/text_decoding.h"
 

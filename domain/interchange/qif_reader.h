@@ -13,9 +13,10 @@ struct QifOptions {
     /// How days are written; found from them otherwise, or refused when they
     /// could be read in two ways.
     std::optional<DateFormat> dateFormat = std::nullopt;
+    /// Found out from each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
-    numira::Currency currency = {}; ///< QIF tells none
-    QString encoding = QStringLiteral("UTF-8");
+    numira::Currency currency = {};             ///< QIF tells none
+    QString encoding = QStringLiteral("UTF-8"); ///< any name that ICU knows
 };
 
 /// Reads the transactions of a bank account, a credit card or cash from a QIF

@@ -14,10 +14,10 @@ namespace kiv::interchange {
 
 /// One line of a bank statement.
 struct StatementEntry {
-    Place place;
-    QDate date = {};
+    Place place;               ///< where it begins
+    QDate date = {};           ///< when it was booked
     numira::Money amount = {}; ///< positive when money came in
-    QString text = {};
+    QString text = {};         ///< what the bank says about it
     /// The bank's own identifier of the transaction; empty when it gave none.
     QString bankId = {};
     /// The name that another program has for the other side; often empty.
@@ -28,9 +28,9 @@ struct StatementEntry {
 
 /// What a bank says about one account.
 struct Statement {
-    QString account; ///< the bank's number of it, where the file tells it
-    numira::Currency currency;
-    std::vector<StatementEntry> entries;
+    QString account;                     ///< the bank's number of it, where the file tells it
+    numira::Currency currency;           ///< of the account
+    std::vector<StatementEntry> entries; ///< in the order of the file
 };
 
 } // namespace kiv::interchange

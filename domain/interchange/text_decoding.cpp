@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/text_decoding.h"
 
+#include "interchange/internal/faults.h"
+
 #include <unicode/ucnv.h>
 
 namespace kiv::interchange {

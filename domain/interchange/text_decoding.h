@@ -19,7 +19,7 @@ inline const QString utf8Name = QStringLiteral("UTF-8");
                                                      const QString &encoding = utf8Name);
 
 /// Goes through a text line by line, without the line ends (LF, CR LF or CR).
-class LineCursor {
+class KIV_INTERCHANGE_EXPORT LineCursor {
 public:
     /// The text must outlive the cursor.
     LineCursor(QStringView text, QString file) : m_text(text), m_place{std::move(file), 0} {}
@@ -27,9 +27,11 @@ public:
     /// Moves on to the next line; false at the end. Throws ImportError for a
     /// line that is longer than any statement or journal has one.
     bool next();
+    /// Without its end; as long as the text is there.
     [[nodiscard]] QStringView line() const noexcept { return m_line; }
     /// Where the line behind this one begins.
     [[nodiscard]] qsizetype offset() const noexcept { return m_at; }
+    /// Where the line stands.
     [[nodiscard]] const Place &place() const noexcept { return m_place; }
 
 private:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/written_values.h"
 
+#include "interchange/internal/faults.h"
+
 #include "foundation/presentation.h"
 #include "numira/error.h"
 

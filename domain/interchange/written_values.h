@@ -13,7 +13,10 @@
 namespace kiv::interchange {
 
 /// A point or a comma.
-enum class DecimalMark : char16_t { Point = u'.', Comma = u',' };
+enum class DecimalMark : char16_t {
+    Point = u'.', ///< 1234.50
+    Comma = u',', ///< 1234,50
+};
 
 /// The number that a text like "1,234.50", "-12", "12,50-" or "(3.20)" writes.
 ///
@@ -33,6 +36,7 @@ public:
     /// Throws ImportError when the text has not each of the three once.
     DateFormat(QString text, const Place &place);
 
+    /// As it was given.
     [[nodiscard]] const QString &text() const noexcept { return m_text; }
     /// The day; nothing when the text is written otherwise or no such day
     /// exists. Two digits mean the years 1970 to 2069.
@@ -50,7 +54,9 @@ readCurrency(const QString &text, const numira::Currency &preferred);
 
 /// The amount, when it has no more digits than its currency. Throws ImportError
 /// otherwise: a mark that was misread would show itself so.
-[[nodiscard]] numira::Money statementAmount(const QString &text, const numira::Currency &currency,
-                                            std::optional<DecimalMark> mark, const Place &place);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT numira::Money statementAmount(const QString &text,
+                                                                   const numira::Currency &currency,
+                                                                   std::optional<DecimalMark> mark,
+                                                                   const Place &place);
 
 } // namespace kiv::interchange

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/journal_books.h"
 
+#include "interchange/internal/faults.h"
+
 #include "interchange/account_paths.h"
 
 #include "foundation/presentation.h"

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/journal_parser.h"
 
+#include "interchange/internal/faults.h"
+
 #include "numira/error.h"
 
 #include <QtCore/QObject>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/ofx_tree.h"
 
+#include "interchange/internal/faults.h"
+
 #include <QtCore/QStringList>
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/journal_entry.h"
 
+#include "interchange/internal/faults.h"
+
 #include "foundation/presentation.h"
 
 namespace kiv::interchange::internal {

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/errors.h"
+
+#include <QtCore/QStringList>
+
+namespace kiv::interchange {
+
+/// Everything for which data is refused; each sentence tells what could be done
+/// where that is not plain.
+namespace faults {
+
+// ---- any file ----------------------------------------------------------------
+
+[[nodiscard]] ImportError unknownEncoding(const Place &place, const QString &encoding);
+[[nodiscard]] ImportError wrongEncoding(const Place &place, const QString &encoding);
+[[nodiscard]] ImportError binaryFile(const Place &place);
+[[nodiscard]] ImportError lineTooLong(const Place &place, qsizetype charactersMax);
+[[nodiscard]] ImportError tooManyTransactions(const Place &place, qsizetype most);
+[[nodiscard]] ImportError notADate(const Place &place, const QString &text, const QString &format);
+[[nodiscard]] ImportError notANumber(const Place &place, const QString &text);
+[[nodiscard]] ImportError ambiguousNumber(const Place &place, const QString &text);
+[[nodiscard]] ImportError tooLarge(const Place &place, const std::exception &cause);
+[[nodiscard]] ImportError tooManyDigits(const Place &place, const QString &text,
+                                        const QString &currency, unsigned digitsMax);
+[[nodiscard]] ImportError notACurrency(const Place &place, const QString &text);
+
+// ---- journals ----------------------------------------------------------------
+
+[[nodiscard]] ImportError unknownDirective(const Place &place, const QString &text);
+[[nodiscard]] ImportError unsupported(const Place &place, const QString &what);
+[[nodiscard]] ImportError strayLine(const Place &place);
+[[nodiscard]] ImportError notClosed(const Place &place, const QString &what);
+[[nodiscard]] ImportError unknownRoot(const Place &place, const QString &root);
+[[nodiscard]] ImportError noAccount(const Place &place);
+[[nodiscard]] ImportError notAnAmount(const Place &place, const QString &text);
+[[nodiscard]] ImportError withoutCurrency(const Place &place, const QString &text);
+[[nodiscard]] ImportError notMoney(const Place &place, const QString &commodity);
+[[nodiscard]] ImportError tooFewPostings(const Place &place);
+[[nodiscard]] ImportError severalWithoutAmount(const Place &place);
+[[nodiscard]] ImportError notBalanced(const Place &place, const QString &rest);
+[[nodiscard]] ImportError assertionFailed(const Place &place, const QString &account,
+                                          const QString &asserted, const QString &found);
+[[nodiscard]] ImportError badPattern(const Place &place, const QString &pattern);
+
+// ---- bank statements ---------------------------------------------------------
+
+[[nodiscard]] ImportError quoteNotClosed(const Place &place);
+[[nodiscard]] ImportError textBehindQuote(const Place &place);
+[[nodiscard]] ImportError noSuchColumn(const Place &place, const QString &column,
+                                       const QStringList &columns);
+[[nodiscard]] ImportError columnNotNamed(const Place &place, const QString &option,
+                                         const QStringList &columns);
+[[nodiscard]] ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted);
+[[nodiscard]] ImportError ownTable(const Place &place);
+[[nodiscard]] ImportError bothWays(const Place &place);
+[[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
+[[nodiscard]] ImportError ambiguousDates(const Place &place);
+[[nodiscard]] ImportError badProfile(const Place &place, const QString &reason);
+
+// ---- OFX and QIF -------------------------------------------------------------
+
+[[nodiscard]] ImportError notOfx(const Place &place);
+[[nodiscard]] ImportError brokenTag(const Place &place);
+[[nodiscard]] ImportError wrongClosingTag(const Place &place, const QString &closing,
+                                          const QString &open, qsizetype openedAt);
+[[nodiscard]] ImportError closesNothing(const Place &place, const QString &closing);
+[[nodiscard]] ImportError tagNotClosed(const Place &place, const QString &tag);
+[[nodiscard]] ImportError nestedTooDeeply(const Place &place);
+[[nodiscard]] ImportError noStatement(const Place &place);
+[[nodiscard]] ImportError severalStatements(const Place &place, const QStringList &accounts);
+[[nodiscard]] ImportError noSuchStatement(const Place &place, const QString &account,
+                                          const QStringList &accounts);
+[[nodiscard]] ImportError notQif(const Place &place);
+[[nodiscard]] ImportError unknownField(const Place &place, const QString &text);
+[[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,
+                                       const QString &whole);
+
+} // namespace faults
+
+} // namespace kiv::interchange
