@@ -263,14 +263,19 @@ Topic transactions()
         {"reconcile unknown", [=](N &n) { n.onMarkReconciled(txn(9)); }},
         {"clear none", [=](N &n) { n.onMarkCleared({}); }},
         {"clear some",
-         [=](N &n) {
-             n.onMarkCleared({txn(3), txn(9), txn(2)});
+         [](N &n) {
+             n.onRemovedTransaction(txn(2));
+             n.onMarkCleared({txn(3), txn(2), txn(1)});
          }},
         {"clear what is reconciled",
-         [=](N &n) { n.onMarkReconciled(txn(2)), n.onMarkCleared({txn(2)}); }},
+         [](N &n) {
+             n.onMarkReconciled(txn(2));
+             n.onMarkCleared({txn(2), txn(3)});
+         }},
         {"unreconcile some",
-         [=](N &n) {
-             n.onMarkUnreconciled({txn(9), txn(2)});
+         [](N &n) {
+             n.onRemovedTransaction(txn(2));
+             n.onMarkUnreconciled({txn(3), txn(2), txn(1)});
          }},
         {"refund", [=](N &n) { n.onPostRefund(txn(2), usd("4")); }},
         {"refund in a currency without a rate",

@@ -240,6 +240,9 @@ void NavigatorEffects::addedBankAccountReturnsItsCode()
     QCOMPARE(add("Rent"), std::nullopt);
     // The number of the refused one was given back.
     QCOMPARE(add("Box"), std::optional(code(4, "Box")));
+    // The number of one that was there is not.
+    desk.navigator->onRemovedBankAccount(code(4, "Box"));
+    QCOMPARE(add("Bag"), std::optional(code(5, "Bag")));
 }
 
 void NavigatorEffects::viewsMayChangeWhatTheyDraw()

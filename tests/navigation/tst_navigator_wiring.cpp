@@ -200,14 +200,34 @@ void NavigatorWiring::nothingHappensOnceItIsGone()
 
 void NavigatorWiring::itMayGoWhileItWaitsForRates()
 {
-    Desk desk;
-    bool isAnswered = false;
-    connect(desk.navigator.get(), &Navigator::fetchedExchangeRates, this,
-            [&] { isAnswered = true; });
-    QTimer::singleShot(0, this, [&] { desk.navigator.reset(); });
-    desk.navigator->onFetchExchangeRates({eur});
-    QVERIFY(desk.navigator == nullptr);
-    QVERIFY(!isAnswered);
+    using Act = std::function<void(Navigator &)>;
+    const Act fetch = [](Navigator &n) { n.onFetchExchangeRates({eur}); };
+    const Act refresh = [](Navigator &n) {
+        QMetaObject::invokeMethod(&n, "updateAllExpiredExchangeRates", Qt::DirectConnection);
+    };
+    for (const Act &wait : {fetch, refresh}) {
+        Desk desk;
+        QTimer::singleShot(0, this, [&] { desk.navigator.reset(); });
+        wait(*desk.navigator);
+        QVERIFY(desk.navigator == nullptr);
+        const QString said = desk.take().join(u'\n');
+        QVERIFY2(!said.contains(QStringLiteral("Storing")) &&
+                     !said.contains(QStringLiteral("fetchedExchangeRates")),
+                 qPrintable(said));
+    }
+    // What it waits with may go as well.
+    const Act loseSource = [](Navigator &n) {
+        delete n.findChild<conversion::OpenExchangeRatesSource *>();
+    };
+    const Act loseManager = [](Navigator &n) {
+        delete n.findChild<networking::RequestManager *>();
+    };
+    for (const Act &lose : {loseSource, loseManager}) {
+        Desk desk;
+        QTimer::singleShot(0, this, [&] { lose(*desk.navigator); });
+        desk.navigator->onFetchExchangeRates({eur});
+        QCOMPARE(desk.take().last(), QStringLiteral("fetchedExchangeRates((EUR), no rates)"));
+    }
 }
 
 void NavigatorWiring::partsMayBeDestroyedFirst()
