@@ -104,7 +104,7 @@ private slots:
         row("a total outside the window", "--item Rent=-500", "must be within");
         row("a transaction of another account", "--tick 2", "is not in the bank account ledger");
         row("an item that takes none", "--distribute Rent=5", "cannot be distributed");
-        row("an unknown item", "--item Gym=5", "There is no budget item 'Gym'.");
+        row("an unknown item", "--item Gym=5", "There is no budget item 'Gym'; kiv bill list");
         row("no amount", "--item Rent", "NAME=VALUE");
         QTest::newRow("a day to come")
             << QByteArray("survey show First Checking --date 2199-01-01") << QByteArray("future");
