@@ -59,7 +59,8 @@ void store(const ConfigurationData &data, UserPreferences &preferences,
            tagging::BudgetTagManager &tags, const std::set<numira::Currency> &currencies)
 {
     validate(data, currencies);
-    tags.remove(tags.possible().without(data.tags));
+    tagging::BudgetTagManager fewer(tags);
+    fewer.remove(tags.possible().without(data.tags));
     preferences.setHoursInWeek(data.hoursInWeek);
     preferences.setDaysInWeek(data.daysInWeek);
     preferences.setNotifyDueWithin(data.notifyDueWithin);
@@ -67,6 +68,7 @@ void store(const ConfigurationData &data, UserPreferences &preferences,
     preferences.setUsableCurrencies(data.usableCurrencies);
     preferences.setCurrenciesDisplayAs(data.currenciesDisplayAs);
     preferences.setSurveyWindow(data.surveyWindow);
+    tags = std::move(fewer);
 }
 
 StartUpOptions parse(const QList<QString> &arguments)

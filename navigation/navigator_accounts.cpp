@@ -24,7 +24,7 @@ void Navigator::onAddedAct(const accounting::Account &act)
         "Failed to add account entry.",
         [&] {
             if (const auto opening = m_budgetBankLedgers->add(act)) {
-                qInfo() << "Added account opening balance in txn num:" << opening->integer();
+                internal::logDone("Added account opening balance in txn num:", opening->integer());
             }
         },
         [&] { emit accountSaveSucceeded(act.code()); },
@@ -92,7 +92,7 @@ void Navigator::onBankAdded(const Bank &b)
         "Failed to add a bank.",
         [&] {
             m_budgetBankLedgers->add(b);
-            qInfo() << "Successfully added bank" << b;
+            internal::logDone("Successfully added bank", b);
         },
         [&] { emit bankSaveSucceeded(b.name()); },
         // Nothing stood there before the bank was to be added.

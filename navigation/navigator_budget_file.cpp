@@ -69,7 +69,7 @@ void Navigator::onConfirmedLoadBudgetFile(const QString &filePathName, const boo
                                     std::move(loaded.budgetAccountCodes), std::move(loaded.banks),
                                     std::move(loaded.surveys));
     m_tagManager = std::move(tags);
-    qInfo() << "Successfully loaded budget.";
+    internal::logDone("Successfully loaded budget.");
 
     m_budgetFile = filePathName;
     m_isDirty = false;

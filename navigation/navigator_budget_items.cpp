@@ -138,7 +138,7 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
             code = m_budgetBankLedgers->add<Item>(own, ba);
         else
             code = m_budgetBankLedgers->add<Item>(own);
-        qInfo() << "Budget item" << ItemTraits<Item>::word << "account code:" << code;
+        internal::logDone("Budget item", ItemTraits<Item>::word, "account code:", code);
     };
     return change(
         "Failed to add budget item.",

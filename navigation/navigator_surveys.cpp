@@ -49,7 +49,7 @@ void Navigator::onCompletedSurvey(
                 nonDistributed, m_preferences.surveyWindow());
         },
         [&] {
-            qInfo() << "Survey completed." << completed;
+            internal::logDone("Survey completed.", completed);
             emit completedSurveySucceeded();
         },
         [&](const QString &why) {

@@ -54,7 +54,7 @@ void BudgetBankLedgers::recode(const AccountCode &from, const AccountCode &to)
         m_generalLedger.recode(from, to);
     if (const std::optional<BankName> bank = m_bankLedgers.lookUpBankName(from.number())) {
         const BankAccount recoded = m_bankLedgers.recode(from.number(), to.number());
-        qInfo() << "Updating bank account after recode" << recoded;
+        logDone("Updating bank account after recode", recoded);
         m_surveys.renamedAccount(*bank, from.number(), to.number());
     }
 }
@@ -67,8 +67,8 @@ AccountCode BudgetBankLedgers::addAccount(const QString &name, const BankAccount
     const std::optional<TransactionNumber> opening =
         add(accounting::Account(banking::toAccountTypes(types), code, openingBalance, false));
     number.keep();
-    qInfo() << "Added account" << name << "opening balance in"
-            << opening.value_or(TransactionNumber()).integer();
+    logDone("Added account", name, "opening balance in",
+            opening.value_or(TransactionNumber()).integer());
     return code;
 }
 

@@ -27,7 +27,7 @@ AccountCode BudgetBankLedgers::add(T item, const std::optional<BankAccount> &ban
     AccountCode code = m_budgetLedgers.add(item, *m_generator);
     try {
         const BankAccount association = addBudgetBankAssociation(item, code, *bankAccount);
-        qInfo() << "Added budget bank association:" << association;
+        logDone("Added budget bank association:", association);
         return code;
     } catch (const std::exception &cause) {
         *this = std::move(before);
@@ -96,7 +96,7 @@ void BudgetBankLedgers::updateBudgetBankAssociation(const Debt &, const AccountC
     // Another bank that has the debt keeps it: two banks may hold one debt.
     const BankAccount association =
         m_bankLedgers.addAssociation(requested->bank, code.number(), requested->account.type);
-    qInfo() << "Added bank association:" << association;
+    logDone("Added bank association:", association);
 }
 
 void BudgetBankLedgers::updateBudgetBankAssociation(const Goal &, const AccountCode &code,
@@ -123,7 +123,7 @@ void BudgetBankLedgers::updateBudgetBankAssociation(const Goal &, const AccountC
         m_bankLedgers.removeAssociation(current->bank, current->account.number);
     const BankAccount association = m_bankLedgers.addAssociation(requested->bank, code.number(),
                                                                  BankAccountTypes::GoalSubAccount);
-    qInfo() << "Updated bank account association" << association;
+    logDone("Updated bank account association", association);
     moved.setParent(parent);
     // Not through recode(): its rules for parents are those of bank accounts.
     m_generalLedger.recode(code, moved);

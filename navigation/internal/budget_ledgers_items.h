@@ -22,8 +22,10 @@ accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &gener
     m_budget->items<T>().add(std::move(item));
     // From here on a failure leaves the item in the budget: the user still has
     // it before their eyes, and it is given an account when the file is loaded.
-    m_ledgers->add(account, generator);
+    Restore codesBefore(m_codes);
     m_codes.insertOrAssign<T>(source, code.number());
+    m_ledgers->add(account, generator);
+    codesBefore.dismiss();
     number.keep();
     return code;
 }
@@ -53,9 +55,11 @@ void BudgetLedgers::rename(const Source &from, const Source &to, const Number &n
     const AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(from)).code();
     const AccountCode newCode(number.value_or(oldCode.number()), budgeting::itemAccountName(to),
                               std::nullopt);
-    m_ledgers->recode(oldCode, newCode);
+    Restore codesBefore(m_codes);
     m_codes.remove<T>(from);
     m_codes.insertOrAssign<T>(to, newCode.number());
+    m_ledgers->recode(oldCode, newCode);
+    codesBefore.dismiss();
 }
 
 template <budgeting::BudgetItem T>

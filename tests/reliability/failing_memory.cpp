@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// Stands between everything and the system's memory: what is asked for by `new`
+// is counted, and one request can be answered with none. What Qt's own lists and
+// texts ask for is left alone: some of them cannot do without.
+#include "support/fault.h"
+
+#include <cstdlib>
+
+using kiv::test::fault;
+using kiv::test::Fault;
+
+#pragma GCC visibility push(default)
+
+void *operator new(std::size_t size)
+{
+    void *memory = fault.isDue(Fault::Place::Memory, "memory") ? nullptr : std::malloc(size);
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return memory;
+}
+void operator delete(void *memory) noexcept
+{
+    std::free(memory);
+}
+void operator delete(void *memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+#pragma GCC visibility pop

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/navigator_desk.h"
+
+#include "storage/budget_file.h"
+#include "support/damage.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+
+#include <malloc.h>
+
+using namespace kiv;
+using namespace kiv::test;
+
+namespace {
+
+/// Bytes that are asked for and not given back.
+qint64 memoryInUse()
+{
+    return qint64(::mallinfo2().uordblks);
+}
+
+qsizetype openFiles()
+{
+    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+std::unique_ptr<Navigator> newNavigator()
+{
+    return std::make_unique<Navigator>(
+        std::make_unique<ScriptedSender>(ScriptedSender::silence()),
+        std::make_unique<storage::BudgetFile>(),
+        std::make_unique<MemoryRatesStorage>(std::make_shared<MemoryDisk>()));
+}
+
+} // namespace
+
+/// Opens a budget, edits, saves and closes it again and again: nothing may be
+/// kept from one time to the next.
+class Cycles : public QObject {
+    Q_OBJECT
+
+private slots:
+    void nothingIsKeptFromOneToTheNext()
+    {
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        const OwnSettings settings;
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("home.budget"));
+        newNavigator()->onSaveAsBudgetFile(path);
+        const int cycles = randomRuns(300);
+        qint64 memory = 0;
+        qsizetype files = 0;
+        for (int cycle = 0; cycle < cycles; ++cycle) {
+            const auto navigator = newNavigator();
+            navigator->onLoadBudgetFile(path);
+            const auto bill = item<budgeting::Bill>("Gas");
+            if (cycle % 2 == 0)
+                navigator->onAdded(element(), toBudgetItemTypes(bill), bill, {}, tagged(bill));
+            else
+                navigator->onRemoved(element(), toBudgetItemTypes(bill), bill.source());
+            bool isChanged = false;
+            connect(navigator.get(), &Navigator::checkedIsBudgetFileDirty,
+                    [&](bool isDirty) { isChanged = isDirty; });
+            navigator->onCheckIsBudgetFileDirty();
+            QVERIFY(isChanged);
+            navigator->onSaveBudgetFile();
+            if (cycle == cycles / 10) {
+                memory = memoryInUse();
+                files = openFiles();
+            }
+        }
+        qInstallMessageHandler(nullptr);
+        qInfo() << "Grown by" << memoryInUse() - memory << "bytes.";
+        QVERIFY(memoryInUse() < memory + 1024 * 1024);
+        QVERIFY(openFiles() <= files);
+    }
+};
+
+QTEST_GUILESS_MAIN(Cycles)
+#include "tst_cycles.moc"

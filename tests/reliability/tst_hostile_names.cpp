@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "navigation/navigator_desk.h"
+
+#include "storage/budget_file.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+
+using namespace kiv;
+using namespace kiv::test;
+
+namespace {
+
+/// Names as copied texts and enemies give them: each hostile piece in each
+/// place of an ordinary name.
+QStringList hostileNames()
+{
+    const QStringList pieces{u"\u001b[2J"_qs,
+                             u"\u001b]0;t\a"_qs,
+                             u"\u009b31m"_qs,
+                             u"\r"_qs,
+                             u"\n"_qs,
+                             u"\t"_qs,
+                             u"\b\b\b"_qs,
+                             QString(QChar(u'\0')),
+                             u"\u007f"_qs,
+                             u"\u202e"_qs,
+                             u"\u2066"_qs,
+                             u"\u200f"_qs,
+                             u"\u061c"_qs,
+                             u"\u2028"_qs,
+                             u"\ufeff"_qs,
+                             u"\u200b"_qs,
+                             QString(QChar(0xD800)),
+                             QString(QChar(0xDFFF)),
+                             u"=1+1"_qs,
+                             u"+1"_qs,
+                             u"-1"_qs,
+                             u"@SUM(A1)"_qs,
+                             u"|cmd"_qs,
+                             u"%1%2%n"_qs,
+                             u"\"';--"_qs,
+                             u"e\u0301"_qs,
+                             u"\u00e9"_qs,
+                             u"\u0430"_qs,
+                             u"\U0001F1E9\U0001F1EA"_qs,
+                             u"\U000E0041"_qs,
+                             u"\u3000"_qs,
+                             u"{}[]"_qs,
+                             u"; x"_qs,
+                             u":"_qs,
+                             u"  "_qs,
+                             u"\ufffe"_qs,
+                             u"\u0300"_qs,
+                             u"<b>&amp;"_qs,
+                             u"../../x"_qs,
+                             u"$(x)`x`"_qs};
+    QStringList names;
+    for (const QString &piece : pieces) {
+        for (const auto *frame : {u"%", u"a%", u"%a", u"a%b", u"%%", u" %", u"% ", u"%\n%", u"a %",
+                                  u"% b", u"a % b", u"%%%", u"(%)"})
+            names.append(QString(frame).replace(u'%', piece));
+    }
+    names.append(QString(1'000'000, u'n'));
+    names.append(QString(1'000'000, QChar(0x202e)));
+    return names;
+}
+
+bool isHostile(char32_t c)
+{
+    const auto category = QChar::category(c);
+    return (category == QChar::Other_Control && c != u'\n') || category == QChar::Other_Surrogate ||
+           c == 0x061c || c == 0x200e || c == 0x200f || c == 0x2028 || c == 0x2029 ||
+           (c >= 0x202a && c <= 0x202e) || (c >= 0x2066 && c <= 0x2069);
+}
+
+/// The first character that a terminal must not get; 0 when there is none.
+char32_t hostileIn(const QString &text)
+{
+    for (const char32_t c : text.toUcs4()) {
+        if (isHostile(c))
+            return c;
+    }
+    return 0;
+}
+
+} // namespace
+
+/// Whatever a name holds, it is refused or kept exactly, and no terminal, log or
+/// table is fooled by it.
+class HostileNames : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void areKeptExactlyInTheFile();
+    void neverReachTheTerminal_data();
+    void neverReachTheTerminal();
+    void areNoFormulaInATable();
+    void areWholeInJson();
+
+private:
+    QByteArray kiv(const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(KIV_PROGRAM), QStringList(arguments)
+                                                       << u"--file"_qs << m_path);
+        process.waitForFinished(-1);
+        m_errors = process.readAllStandardError();
+        return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0
+                   ? process.readAllStandardOutput()
+                   : "failed: " + m_errors;
+    }
+
+    const OwnSettings m_settings;
+    const QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath(QStringLiteral("home.budget"));
+    const QStringList m_names = hostileNames();
+    std::set<QString> m_kept; ///< the names of accounts
+    storage::BudgetStorage::Data m_data;
+    QByteArray m_errors;
+};
+
+void HostileNames::initTestCase()
+{
+    QVERIFY(m_names.size() >= 500);
+    Desk desk;
+    std::uint32_t number = 10;
+    for (const QString &name : m_names) {
+        desk.navigator->onAddedAct(
+            accounting::Account(accounting::AccountTypes::Asset,
+                                accounting::AccountCode(no(++number), name, {}), usd("0"), false));
+        desk.navigator->onBankAdded(banking::Bank(banking::BankName(name), {}, false));
+        const budgeting::Bill bill(budgeting::BudgetSource(name + u'!'), usd("1"),
+                                   budgeting::EventFrequency::Monthly, day("2026-01-31"));
+        desk.navigator->onAdded(element(), toBudgetItemTypes(bill), bill, {},
+                                tagged(bill, {tagging::Tag(name)}));
+        desk.navigator->onAddedTransaction({day("2026-01-31"), no(11), no(12), usd("1"), name});
+        for (const QString &line : desk.take()) {
+            if (line.startsWith(u"- ") || line.startsWith(u"! ") || line.startsWith(u"? "))
+                QVERIFY2(hostileIn(line) == 0, qPrintable(line.left(200)));
+        }
+    }
+    m_data = desk.save();
+    for (const accounting::Account &account : m_data.generalLedger.accounts())
+        m_kept.insert(account.code().name());
+    int kept = 0;
+    for (const QString &name : m_names)
+        kept += m_kept.contains(name);
+    QCOMPARE(kept, int(m_names.size()));
+    storage::BudgetFile file(0);
+    file.setFilePathName(m_path);
+    file.store(m_data);
+}
+
+void HostileNames::areKeptExactlyInTheFile()
+{
+    storage::BudgetFile file(0);
+    file.setFilePathName(m_folder.filePath(QStringLiteral("other.budget")));
+    file.store(m_data);
+    QVERIFY(file.load() == m_data);
+}
+
+void HostileNames::neverReachTheTerminal_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    for (const char *command :
+         {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
+          "tags list", "ledger 11", "export --format journal", "report income"})
+        QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
+}
+
+void HostileNames::neverReachTheTerminal()
+{
+    QFETCH(QStringList, arguments);
+    const QByteArray output = kiv(arguments);
+    QVERIFY2(!output.startsWith("failed"), output.left(300).constData());
+    QVERIFY(QString::fromUtf8(output).toUtf8() == output);
+    for (const QByteArray &text : {output, m_errors}) {
+        const char32_t hostile = hostileIn(QString::fromUtf8(text));
+        QVERIFY2(hostile == 0, qPrintable(QString::number(uint(hostile), 16)));
+    }
+}
+
+void HostileNames::areNoFormulaInATable()
+{
+    const QByteArray table = kiv({u"export"_qs, u"--format"_qs, u"csv"_qs});
+    bool isQuoted = false;
+    bool isBegin = true;
+    int cells = 0;
+    for (const char c : table) {
+        if (isBegin && c == '"' && !isQuoted) {
+            isQuoted = true;
+            continue;
+        }
+        if (isBegin) {
+            QVERIFY2(!QByteArray("=+-@\t\r|").contains(c), table.left(300).constData());
+            ++cells;
+        }
+        isBegin = !isQuoted && (c == ',' || c == '\n');
+        if (c == '"')
+            isQuoted = !isQuoted;
+    }
+    QVERIFY(cells > 2000);
+    QVERIFY(hostileIn(QString::fromUtf8(table).remove(u'\r')) == 0);
+}
+
+void HostileNames::areWholeInJson()
+{
+    const QByteArray output = kiv({u"accounts"_qs, u"--json"_qs});
+    const QJsonDocument document = QJsonDocument::fromJson(output);
+    QVERIFY2(!document.isNull(), output.left(300).constData());
+    std::set<QString> names;
+    const QJsonArray accounts =
+        document.isArray() ? document.array() : document.object().value(u"accounts"_qs).toArray();
+    for (const QJsonValue &account : accounts)
+        names.insert(account[u"name"_qs].toString());
+    for (const QString &name : m_kept) {
+        // Half a character has no form in UTF-8; JSON has its replacement.
+        if (name.isValidUtf16())
+            QVERIFY2(names.contains(name), qPrintable(name.left(100)));
+    }
+    QVERIFY(hostileIn(QString::fromUtf8(output)) == 0);
+}
+
+QTEST_GUILESS_MAIN(HostileNames)
+#include "tst_hostile_names.moc"
