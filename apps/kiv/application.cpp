@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "application.h"
 
+#include "locale.h"
 #include "message_log.h"
 
 namespace kiv::app {
@@ -11,6 +12,7 @@ Application::Application(int &argc, char **argv) : QCoreApplication(argc, argv)
     setOrganizationName(QStringLiteral("kiv"));
     setApplicationName(QStringLiteral("kiv"));
     setApplicationVersion(QStringLiteral(KIV_VERSION));
+    speakAsUser(*this);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

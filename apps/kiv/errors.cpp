@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors.h"
 
+#include "output/report.h"
 #include "parsing/similar.h"
 
 #include <QtCore/QObject>
@@ -170,7 +171,7 @@ Refusal notABankAccount(const QString &account)
 
 Refusal noSuchItem(const QString &kind, const QString &name, const QStringList &similar)
 {
-    return Refusal(missed(QObject::tr("There is no %1 '%2'").arg(kind, name), similar,
+    return Refusal(missed(QObject::tr("There is no %1 '%2'").arg(wordText(kind), name), similar,
                           QObject::tr("kiv %1 list shows those that there are").arg(kind)));
 }
 

@@ -55,7 +55,9 @@ void MessageLog::take(QtMsgType type, const QString &message)
 
 void complain(const QString &text)
 {
-    const std::string line = "kiv: " + foundation::escapedUtf8(text) + '\n';
+    QString told = text;
+    told.replace(QStringLiteral(" Caused by: "), QObject::tr(" Caused by: "));
+    const std::string line = "kiv: " + foundation::escapedUtf8(told) + '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

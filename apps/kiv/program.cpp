@@ -36,6 +36,7 @@ int Program::run(const std::vector<std::string> &words)
     } catch (const foundation::Error &error) {
         complain(QString::fromUtf8(error.what()));
     } catch (const std::exception &error) {
+    const auto words = [](const char *text) { return QObject::tr(text).toStdString(); };
         complain(oneLine(error.what()));
     }
     return refused;
@@ -44,15 +45,29 @@ int Program::run(const std::vector<std::string> &words)
 std::unique_ptr<CLI::App> Program::declare()
 {
     auto app = std::make_unique<CLI::App>(
-        "Keeps a household's budget: accounts, banks, bills, wages and what is due.", "kiv");
+        words(QT_TRANSLATE_NOOP(
+            "QObject",
+            "Keeps a household's budget: accounts, banks, bills, wages and what is due.")),
+        "kiv");
+    // All commands below take these over.
+    for (const char *label :
+         {QT_TRANSLATE_NOOP("QObject", "Usage"), QT_TRANSLATE_NOOP("QObject", "Positionals"),
+          QT_TRANSLATE_NOOP("QObject", "REQUIRED"), QT_TRANSLATE_NOOP("QObject", "OPTIONS"),
+          QT_TRANSLATE_NOOP("QObject", "SUBCOMMAND")})
+        app->get_formatter()->label(label, words(label));
+    app->option_defaults()->group(words(QT_TRANSLATE_NOOP("QObject", "Options")));
+    app->set_help_flag("-h,--help",
+                       words(QT_TRANSLATE_NOOP("QObject", "Print this help message and exit")));
     app->require_subcommand(1);
-    app->set_version_flag("--version",
-                          "kiv " + QCoreApplication::applicationVersion().toStdString());
-    app->footer("kiv COMMAND --help tells more about a command.");
+    app->set_version_flag(
+        "--version", "kiv " + QCoreApplication::applicationVersion().toStdString(),
+        words(QT_TRANSLATE_NOOP("QObject", "Display program version information and exit")));
+    app->footer(
+        words(QT_TRANSLATE_NOOP("QObject", "kiv COMMAND --help tells more about a command.")));
     Arguments arguments(*app, m_options);
     arguments.file()
-        .flag("--json", m_options.isJson, "Print JSON for programs")
-        .flag("--verbose", m_options.isVerbose, "Show the log on standard error");
+        .flag("--json", m_options.isJson, QObject::tr("Print JSON for programs"))
+        .flag("--verbose", m_options.isVerbose, QObject::tr("Show the log on standard error"));
     CommandGroup root(*app, *this);
     addCommands(root);
     return app;

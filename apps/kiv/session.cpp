@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session.h"
 
+#include "locale.h"
 #include "parsing/similar.h"
 
 #include "networking/http_request_sender.h"
@@ -26,6 +27,7 @@ Navigator &Session::navigator()
         m_navigator = std::make_unique<Navigator>(
             std::make_unique<networking::HttpRequestSender>(), std::move(budgetFile),
             std::make_unique<storage::RatesFile>(folder + QStringLiteral("/rates")));
+        writeNumbersAsUser();
         // The offer of the first-time wizard empties the budget; who works on a
         // file wants that file.
         QObject::connect(m_navigator.get(), &Navigator::showNewBudgetFirstTimeWizard,

@@ -145,7 +145,7 @@ SurveyForm SurveyForm::fromJson(Session &session, const QJsonObject &json)
         return json.value(QLatin1String(key)).toVariant().toString();
     };
     QDate date;
-    readValue(text("date").toStdString(), date);
+    readPlain(text("date").toStdString(), date);
     SurveyForm form = propose(session, text("bank"), text("account"), date);
     const numira::Currency currency = form.balance.code();
     form.balance = readMoney(json.value(QLatin1String("balance")), currency);

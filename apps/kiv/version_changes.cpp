@@ -11,6 +11,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QObject>
 
+#include <array>
+
 namespace kiv::app {
 
 using storage::BudgetStorage;
@@ -117,18 +119,48 @@ void compare(const QString &what, const Things &before, const Things &after, QJs
     }
 }
 
-QString textOf(const QJsonValue &value)
+/// For wordText: what changed and how, and the fields.
+[[maybe_unused]] constexpr std::array words{
+    QT_TRANSLATE_NOOP("QObject", "item"),         QT_TRANSLATE_NOOP("QObject", "account"),
+    QT_TRANSLATE_NOOP("QObject", "transaction"),  QT_TRANSLATE_NOOP("QObject", "bank"),
+    QT_TRANSLATE_NOOP("QObject", "survey"),       QT_TRANSLATE_NOOP("QObject", "added"),
+    QT_TRANSLATE_NOOP("QObject", "changed"),      QT_TRANSLATE_NOOP("QObject", "removed"),
+    QT_TRANSLATE_NOOP("QObject", "accounts"),     QT_TRANSLATE_NOOP("QObject", "amount"),
+    QT_TRANSLATE_NOOP("QObject", "balance"),      QT_TRANSLATE_NOOP("QObject", "borrowed"),
+    QT_TRANSLATE_NOOP("QObject", "credit"),       QT_TRANSLATE_NOOP("QObject", "creditAmount"),
+    QT_TRANSLATE_NOOP("QObject", "creditStatus"), QT_TRANSLATE_NOOP("QObject", "date"),
+    QT_TRANSLATE_NOOP("QObject", "debit"),        QT_TRANSLATE_NOOP("QObject", "debitAmount"),
+    QT_TRANSLATE_NOOP("QObject", "debitStatus"),  QT_TRANSLATE_NOOP("QObject", "description"),
+    QT_TRANSLATE_NOOP("QObject", "every"),        QT_TRANSLATE_NOOP("QObject", "name"),
+    QT_TRANSLATE_NOOP("QObject", "next"),         QT_TRANSLATE_NOOP("QObject", "notDistributed"),
+    QT_TRANSLATE_NOOP("QObject", "number"),       QT_TRANSLATE_NOOP("QObject", "open"),
+    QT_TRANSLATE_NOOP("QObject", "parent"),       QT_TRANSLATE_NOOP("QObject", "path"),
+    QT_TRANSLATE_NOOP("QObject", "reconciledOn"), QT_TRANSLATE_NOOP("QObject", "refundOf"),
+    QT_TRANSLATE_NOOP("QObject", "tags"),         QT_TRANSLATE_NOOP("QObject", "target"),
+    QT_TRANSLATE_NOOP("QObject", "type"),
+};
+
+QString textOf(const QString &field, const QJsonValue &value)
 {
+    if (value.isNull() || value.isUndefined())
+        return QStringLiteral("–");
+    if (QStringList{QStringLiteral("date"), QStringLiteral("next"), QStringLiteral("reconciledOn")}
+            .contains(field))
+        return dayText(value);
+    if (field == u"every" || field == u"type")
+        return wordText(value);
+    if (field == u"debitStatus" || field == u"creditStatus")
+        return statusText(value);
+
     if (value.isObject())
         return amountText(value, navigation::CurrencyDisplayOptions::IsoCode);
     if (value.isArray()) {
         QStringList texts;
         for (const QJsonValue &element : value.toArray())
-            texts += textOf(element);
+            texts += textOf({}, element);
         return texts.join(QStringLiteral(", "));
     }
-    return value.isNull() || value.isUndefined() ? QStringLiteral("–")
-                                                 : value.toVariant().toString();
+    return value.toVariant().toString();
 }
 
 /// What is different, or for something new or gone what matters of it.
@@ -141,7 +173,8 @@ QString detailOf(const QJsonObject &change)
         for (auto field = after.begin(); field != after.end(); ++field) {
             if (const QJsonValue was = before.value(field.key()); was != field.value()) {
                 details += QStringLiteral("%1 %2 → %3")
-                               .arg(field.key(), textOf(was), textOf(field.value()));
+                               .arg(wordText(field.key()), textOf(field.key(), was),
+                                    textOf(field.key(), field.value()));
             }
         }
         return details.join(QStringLiteral(", "));
@@ -149,8 +182,9 @@ QString detailOf(const QJsonObject &change)
     const QJsonObject &whole = after.isEmpty() ? before : after;
     for (const char *key : {"date", "amount", "balance", "description", "every", "next"}) {
         const QJsonValue value = whole.value(QLatin1String(key));
-        if (!value.isUndefined() && !textOf(value).isEmpty())
-            details += textOf(value);
+        if (const QString text = textOf(QLatin1String(key), value);
+            !value.isUndefined() && !text.isEmpty())
+            details += text;
     }
     return details.join(QStringLiteral(", "));
 }
@@ -216,9 +250,9 @@ void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone
         row.insert(QStringLiteral("detail"), detailOf(row));
         rows.append(row);
     }
-    report.table({{QObject::tr("What"), QStringLiteral("what")},
+    report.table({{QObject::tr("What"), QStringLiteral("what"), wordText},
                   {QObject::tr("Name"), QStringLiteral("name")},
-                  {QObject::tr("Change"), QStringLiteral("change")},
+                  {QObject::tr("Change"), QStringLiteral("change"), wordText},
                   {QObject::tr("Detail"), QStringLiteral("detail")}},
                  rows, whenNone);
 }

@@ -3,25 +3,54 @@
 
 #include <CLI/CLI.hpp>
 
-namespace kiv::app {
+#include <array>
 
-Arguments &Arguments::flag(const char *name, bool &value, const char *help)
+namespace kiv::app {
+namespace {
+
+/// The words that stand for values in the help.
+constexpr std::array placeholders{
+    QT_TRANSLATE_NOOP("QObject", "ACCOUNT"),      QT_TRANSLATE_NOOP("QObject", "ACCOUNT=AMOUNT"),
+    QT_TRANSLATE_NOOP("QObject", "AMOUNT"),       QT_TRANSLATE_NOOP("QObject", "BANK"),
+    QT_TRANSLATE_NOOP("QObject", "BANK ACCOUNT"), QT_TRANSLATE_NOOP("QObject", "BASE"),
+    QT_TRANSLATE_NOOP("QObject", "CURRENCY"),     QT_TRANSLATE_NOOP("QObject", "CURRENCY=RATE"),
+    QT_TRANSLATE_NOOP("QObject", "DATE"),         QT_TRANSLATE_NOOP("QObject", "DAYS"),
+    QT_TRANSLATE_NOOP("QObject", "FILE"),         QT_TRANSLATE_NOOP("QObject", "FROM"),
+    QT_TRANSLATE_NOOP("QObject", "HOURS"),        QT_TRANSLATE_NOOP("QObject", "ITEM"),
+    QT_TRANSLATE_NOOP("QObject", "ITEM=AMOUNT"),  QT_TRANSLATE_NOOP("QObject", "NAME"),
+    QT_TRANSLATE_NOOP("QObject", "NEW-NAME"),     QT_TRANSLATE_NOOP("QObject", "NUMBER"),
+    QT_TRANSLATE_NOOP("QObject", "PERCENT"),      QT_TRANSLATE_NOOP("QObject", "TAG"),
+    QT_TRANSLATE_NOOP("QObject", "TEMPLATE"),     QT_TRANSLATE_NOOP("QObject", "TEXT"),
+    QT_TRANSLATE_NOOP("QObject", "TO"),
+};
+
+} // namespace
+
+QString placeholder(const char *word)
 {
-    m_app.add_flag(name, value, help);
+    const bool isKnown =
+        std::ranges::find(placeholders, std::string_view(word)) != placeholders.end();
+    return isKnown ? QObject::tr(word) : QString::fromUtf8(word);
+}
+
+Arguments &Arguments::flag(const char *name, bool &value, const Help &help)
+{
+    m_app.add_flag(name, value, help.text);
     return *this;
 }
 
 Arguments &Arguments::file()
 {
-    return optional("--file", m_options.file, "The budget file; else KIV_FILE names it");
+    return optional("--file", m_options.file,
+                    QObject::tr("The budget file; else KIV_FILE names it"));
 }
 
-Arguments &Arguments::dated(const char *help)
+Arguments &Arguments::dated(const Help &help)
 {
     return optional("--date", m_options.date, help);
 }
 
-Arguments &Arguments::add(const char *name, const Reader &read, const char *word, const char *help,
+Arguments &Arguments::add(const char *name, const Reader &read, const char *word, const Help &help,
                           Presence presence)
 {
     const bool isRepeated =
@@ -30,15 +59,16 @@ Arguments &Arguments::add(const char *name, const Reader &read, const char *word
         for (const std::string &text : texts)
             read(text);
     };
-    CLI::Option *option =
-        isRepeated ? m_app.add_option_function<std::vector<std::string>>(name, readAll, help)
-                   : m_app.add_option_function<std::string>(name, read, help);
     const bool isOption = name[0] == '-';
+    const std::string shown = isOption ? name : placeholder(name).toStdString();
+    CLI::Option *option =
+        isRepeated ? m_app.add_option_function<std::vector<std::string>>(shown, readAll, help.text)
+                   : m_app.add_option_function<std::string>(shown, read, help.text);
     // An option takes one value each time, so that it does not swallow what
     // stands behind it.
     if (isRepeated && isOption)
         option->expected(1)->take_all();
-    option->type_name(isOption ? word : "");
+    option->type_name(isOption ? placeholder(word).toStdString() : "");
     option->required(presence == Presence::Required || presence == Presence::RequiredRepeated);
     return *this;
 }

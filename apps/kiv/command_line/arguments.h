@@ -12,6 +12,16 @@ class App;
 
 namespace kiv::app {
 
+/// What --help says of a command or an argument, in the user's language.
+struct Help {
+    Help(const QString &translated) : text(translated.toStdString()) {}
+    Help(const char *plain) : text(plain) {}
+    std::string text;
+};
+
+/// The word in capitals that stands for a value ("AMOUNT"), in the user's language.
+[[nodiscard]] QString placeholder(const char *word);
+
 /// What stands behind an option in the help: the kind of its value.
 constexpr const char *valueWord(const QDate *)
 {
@@ -72,34 +82,34 @@ public:
     Arguments(CLI::App &app, Options &options) : m_app(app), m_options(options) {}
 
     template <typename T>
-    Arguments &required(const char *name, T &value, const char *help)
+    Arguments &required(const char *name, T &value, const Help &help)
     {
         return add(name, reader(value), valueWord(&value), help, Presence::Required);
     }
     template <typename T>
-    Arguments &optional(const char *name, T &value, const char *help)
+    Arguments &optional(const char *name, T &value, const Help &help)
     {
         return add(name, reader(value), valueWord(&value), help, Presence::Optional);
     }
     /// May be given several times.
     template <typename T>
-    Arguments &several(const char *name, std::vector<T> &values, const char *help)
+    Arguments &several(const char *name, std::vector<T> &values, const Help &help)
     {
         return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
                    Presence::Repeated);
     }
     /// Must be given at least once.
     template <typename T>
-    Arguments &severalRequired(const char *name, std::vector<T> &values, const char *help)
+    Arguments &severalRequired(const char *name, std::vector<T> &values, const Help &help)
     {
         return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
                    Presence::RequiredRepeated);
     }
-    Arguments &flag(const char *name, bool &value, const char *help);
+    Arguments &flag(const char *name, bool &value, const Help &help);
     /// The command takes --file.
     Arguments &file();
     /// The command takes --date, in place of today.
-    Arguments &dated(const char *help);
+    Arguments &dated(const Help &help);
 
 private:
     using Reader = std::function<void(const std::string &)>;
@@ -119,7 +129,7 @@ private:
             values.push_back(std::move(value));
         };
     }
-    Arguments &add(const char *name, const Reader &read, const char *word, const char *help,
+    Arguments &add(const char *name, const Reader &read, const char *word, const Help &help,
                    Presence presence);
 
     CLI::App &m_app;

@@ -7,27 +7,39 @@
 
 namespace kiv::app {
 
-CommandGroup CommandGroup::group(const char *name, const char *help)
+namespace {
+
+CLI::App *addTo(CLI::App &above, const char *name, const Help &help)
 {
-    CLI::App *app = m_app.add_subcommand(name, help);
+    CLI::App *app = above.add_subcommand(name, help.text);
+    app->group(QObject::tr("Subcommands").toStdString());
+    return app;
+}
+
+} // namespace
+
+CommandGroup CommandGroup::group(const char *name, const Help &help)
+{
+    CLI::App *app = addTo(m_app, name, help);
     app->require_subcommand(1);
     return {*app, m_program};
 }
 
-CommandGroup CommandGroup::addCommand(const char *name, const char *help, CommandKind kind,
+CommandGroup CommandGroup::addCommand(const char *name, const Help &help, CommandKind kind,
                                       const std::function<void(Arguments &)> &declare,
                                       const std::function<Report(Call &)> &run)
 {
-    CLI::App *app = m_app.add_subcommand(name, help);
+    CLI::App *app = addTo(m_app, name, help);
     Options &options = m_program.options();
     Arguments arguments(*app, options);
     declare(arguments);
     if (kind != CommandKind::Standalone)
         arguments.file();
-    arguments.flag("--json", options.isJson, "Print JSON for programs");
+    arguments.flag("--json", options.isJson, QObject::tr("Print JSON for programs"));
     if (kind == CommandKind::Change)
-        arguments.flag("--dry-run", options.isDryRun, "Show what would come of it, save nothing");
-    arguments.flag("--verbose", options.isVerbose, "Show the log on standard error");
+        arguments.flag("--dry-run", options.isDryRun,
+                       QObject::tr("Show what would come of it, save nothing"));
+    arguments.flag("--verbose", options.isVerbose, QObject::tr("Show the log on standard error"));
     // CLI11 calls back for the commands above the one that is called, too.
     app->callback([&program = m_program, app, kind, run] {
         if (app->get_subcommands().empty())

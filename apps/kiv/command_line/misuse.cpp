@@ -5,6 +5,7 @@
 #include "parsing/similar.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
 
 #include <CLI/CLI.hpp>
 
@@ -29,6 +30,42 @@ QStringList optionsOf(const CLI::App &app)
             names += QStringLiteral("--") + QString::fromStdString(name);
     }
     return names;
+}
+
+/// What CLI11 says of a wrong call, and the same to be translated, with the
+/// parts that the first one captures.
+struct Wording {
+    const char *form;
+    const char *sentence;
+};
+constexpr Wording wordings[] = {
+    {"(.*) is required", QT_TRANSLATE_NOOP("QObject", "%1 is required.")},
+    {"(.*): 1 required (.*) missing", QT_TRANSLATE_NOOP("QObject", "%1: 1 required %2 missing.")},
+    {"The following argument was not expected: (.*)",
+     QT_TRANSLATE_NOOP("QObject", "The following argument was not expected: %1.")},
+    {"The following arguments were not expected: (.*)",
+     QT_TRANSLATE_NOOP("QObject", "The following arguments were not expected: %1.")},
+    {"(.*): At Most (\\d+) required but received (\\d+)",
+     QT_TRANSLATE_NOOP("QObject", "%1: At Most %2 required but received %3.")},
+    {"Could not convert: (.*) = (.*)", QT_TRANSLATE_NOOP("QObject", "Could not convert: %1 = %2.")},
+};
+
+/// The sentence in the user's language; empty for another text.
+QString translated(const Wording &wording, const QString &text)
+{
+    const QRegularExpression form(QRegularExpression::anchoredPattern(QLatin1String(wording.form)));
+    const QStringList parts = form.match(text).capturedTexts();
+    const QString sentence = QObject::tr(wording.sentence);
+    switch (parts.size()) {
+    case 2:
+        return sentence.arg(parts[1]);
+    case 3:
+        return sentence.arg(parts[1], parts[2]);
+    case 4:
+        return sentence.arg(parts[1], parts[2], parts[3]);
+    default:
+        return {};
+    }
 }
 
 } // namespace
@@ -65,6 +102,10 @@ QString misuse(const CLI::ParseError &error)
         std::string_view(error.what()).starts_with("A subcommand"))
         return QObject::tr("A command is missing; --help lists those that there are.");
     const QString text = QString::fromUtf8(error.what()).simplified();
+    for (const Wording &wording : wordings) {
+        if (const QString sentence = translated(wording, text); !sentence.isEmpty())
+            return sentence;
+    }
     return text.endsWith(u'.') ? text : text + u'.';
 }
 

@@ -11,11 +11,11 @@ using navigation::Navigator;
 
 void CodeChange::declare(Arguments &arguments)
 {
-    arguments.required("ACCOUNT", account, "The account's number or name")
-        .optional("--number", number, "The new number")
-        .optional("--name", name, "The new name")
-        .optional("--under", parent, "The account under which it is to stand")
-        .flag("--top-level", isTopLevel, "It is to stand under no other account");
+    arguments.required("ACCOUNT", account, QObject::tr("The account's number or name"))
+        .optional("--number", number, QObject::tr("The new number"))
+        .optional("--name", name, QObject::tr("The new name"))
+        .optional("--under", parent, QObject::tr("The account under which it is to stand"))
+        .flag("--top-level", isTopLevel, QObject::tr("It is to stand under no other account"));
 }
 
 AccountCode CodeChange::from(const AccountIndex &index) const

@@ -26,8 +26,10 @@ struct ListAccounts {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--type", type, "Only asset, equity, expense, liability or income")
-            .flag("--open", isOpenOnly, "Only accounts that are open");
+        arguments
+            .optional("--type", type,
+                      QObject::tr("Only asset, equity, expense, liability or income"))
+            .flag("--open", isOpenOnly, QObject::tr("Only accounts that are open"));
     }
     Report run(Call &call) const
     {
@@ -55,9 +57,9 @@ struct ShowLedger {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, "The account's number, name or path")
-            .optional("--from", from, "Only from this day on")
-            .optional("--to", to, "Only up to this day");
+        arguments.required("ACCOUNT", account, QObject::tr("The account's number, name or path"))
+            .optional("--from", from, QObject::tr("Only from this day on"))
+            .optional("--to", to, QObject::tr("Only up to this day"));
     }
 
     Report run(Call &call) const
@@ -71,12 +73,12 @@ struct ShowLedger {
                                   {QStringLiteral("transactions"), rows}})
             .heading(accounting::presentationText(ledger.code()))
             .table({{QObject::tr("Number"), QStringLiteral("number")},
-                    {QObject::tr("Date"), QStringLiteral("date")},
+                    {QObject::tr("Date"), QStringLiteral("date"), dayText},
                     {QObject::tr("Description"), QStringLiteral("description")},
                     {QObject::tr("Other account"), QStringLiteral("otherPath")},
                     {QObject::tr("Change"), QStringLiteral("change")},
                     {QObject::tr("Balance"), QStringLiteral("balance")},
-                    {QObject::tr("Status"), QStringLiteral("status")}},
+                    {QObject::tr("Status"), QStringLiteral("status"), statusText}},
                    rows, QObject::tr("There are no transactions."));
     }
 
@@ -125,13 +127,14 @@ struct AddAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, "The account's name")
-            .required("--type", type, "asset, equity, expense, liability or income")
-            .optional("--number", number, "Its number; the next free one otherwise")
-            .optional("--under", parent, "The account under which it stands")
-            .optional("--balance", balance, "Its opening balance; 0 otherwise")
-            .optional("--currency", currency, "Its currency; the preferred one otherwise")
-            .dated("The day of the opening balance");
+        arguments.required("NAME", name, QObject::tr("The account's name"))
+            .required("--type", type, QObject::tr("asset, equity, expense, liability or income"))
+            .optional("--number", number, QObject::tr("Its number; the next free one otherwise"))
+            .optional("--under", parent, QObject::tr("The account under which it stands"))
+            .optional("--balance", balance, QObject::tr("Its opening balance; 0 otherwise"))
+            .optional("--currency", currency,
+                      QObject::tr("Its currency; the preferred one otherwise"))
+            .dated(QObject::tr("The day of the opening balance"));
     }
     Report run(Call &call) const
     {
@@ -157,21 +160,22 @@ struct AddAccount {
 void addAccountCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("accounts", "List all accounts with their balances", Query, ListAccounts{});
-    root.add("ledger", "List the transactions of an account", Query, ShowLedger{});
+    root.add("accounts", QObject::tr("List all accounts with their balances"), Query,
+             ListAccounts{});
+    root.add("ledger", QObject::tr("List the transactions of an account"), Query, ShowLedger{});
 
-    CommandGroup account = root.group("account", "Accounts of the ledger");
-    account.add("add", "Open an account", Change, AddAccount{});
+    CommandGroup account = root.group("account", QObject::tr("Accounts of the ledger"));
+    account.add("add", QObject::tr("Open an account"), Change, AddAccount{});
     account.add(
-        "recode", "Change an account's number, name or parent", Change,
+        "recode", QObject::tr("Change an account's number, name or parent"), Change,
         Recode{accountOutcome, &Navigator::onRecoded, QObject::tr("The account %1 is now %2.")});
     account.add(
-        "close", "Close an account", Change,
+        "close", QObject::tr("Close an account"), Change,
         AccountVerb{accountOutcome, &Navigator::onClosed, QObject::tr("Closed the account %1.")});
-    account.add("open", "Open a closed account again", Change,
+    account.add("open", QObject::tr("Open a closed account again"), Change,
                 AccountVerb{accountOutcome, &Navigator::onOpened,
                             QObject::tr("Opened the account %1 again.")});
-    account.add("remove", "Remove an account without transactions", Change,
+    account.add("remove", QObject::tr("Remove an account without transactions"), Change,
                 AccountVerb{accountOutcome, &Navigator::onRemovedAct,
                             QObject::tr("Removed the account %1.")});
 }

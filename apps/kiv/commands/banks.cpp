@@ -43,7 +43,7 @@ struct ListBanks {
                              : QObject::tr("%1 (closed)").arg(name))
                 .table({{QObject::tr("Number"), QStringLiteral("number")},
                         {QObject::tr("Account"), QStringLiteral("name")},
-                        {QObject::tr("Kind"), QStringLiteral("type")},
+                        {QObject::tr("Kind"), QStringLiteral("type"), wordText},
                         {QObject::tr("Balance"), QStringLiteral("balance")}},
                        bank[QLatin1String("accounts")].toArray(),
                        QObject::tr("It keeps no accounts."));
@@ -55,7 +55,10 @@ struct ListBanks {
 struct AddBank {
     NewName name;
 
-    void declare(Arguments &arguments) { arguments.required("BANK", name, "The bank's name"); }
+    void declare(Arguments &arguments)
+    {
+        arguments.required("BANK", name, QObject::tr("The bank's name"));
+    }
     Report run(Call &call) const
     {
         const Bank bank(BankName(name.text), {}, false);
@@ -71,8 +74,8 @@ struct RenameBank {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", bank, "The bank's name")
-            .required("NEW-NAME", name, "Its new name");
+        arguments.required("BANK", bank, QObject::tr("The bank's name"))
+            .required("NEW-NAME", name, QObject::tr("Its new name"));
     }
     Report run(Call &call) const
     {
@@ -90,7 +93,10 @@ struct BankVerb {
     QString sentence;
     QString bank = {};
 
-    void declare(Arguments &arguments) { arguments.required("BANK", bank, "The bank's name"); }
+    void declare(Arguments &arguments)
+    {
+        arguments.required("BANK", bank, QObject::tr("The bank's name"));
+    }
     Report run(Call &call) const
     {
         const BankName name = call.session.bank(bank).name();
@@ -120,14 +126,16 @@ struct AddBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, "The account's name")
-            .required("--bank", bank, "The bank that keeps it")
-            .optional("--type", type,
-                      "checking (unless given), savings, credit-card, loan, line-of-credit, "
-                      "money-market or cash")
-            .optional("--balance", balance, "Its opening balance; 0 otherwise")
-            .optional("--currency", currency, "Its currency; the preferred one otherwise")
-            .dated("The day of the opening balance");
+        arguments.required("NAME", name, QObject::tr("The account's name"))
+            .required("--bank", bank, QObject::tr("The bank that keeps it"))
+            .optional(
+                "--type", type,
+                QObject::tr("checking (unless given), savings, credit-card, loan, line-of-credit, "
+                            "money-market or cash"))
+            .optional("--balance", balance, QObject::tr("Its opening balance; 0 otherwise"))
+            .optional("--currency", currency,
+                      QObject::tr("Its currency; the preferred one otherwise"))
+            .dated(QObject::tr("The day of the opening balance"));
     }
     Report run(Call &call) const
     {
@@ -153,11 +161,12 @@ struct AttachBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, "An account of the ledger")
-            .required("--bank", bank, "The bank that keeps it")
+        arguments.required("ACCOUNT", account, QObject::tr("An account of the ledger"))
+            .required("--bank", bank, QObject::tr("The bank that keeps it"))
             .required("--type", type,
-                      "checking, savings, credit-card, loan, goal-sub-account, line-of-credit, "
-                      "money-market or cash");
+                      QObject::tr(
+                          "checking, savings, credit-card, loan, goal-sub-account, line-of-credit, "
+                          "money-market or cash"));
     }
     Report run(Call &call) const
     {
@@ -175,7 +184,8 @@ struct DetachBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, "The account, which stays in the ledger");
+        arguments.required("ACCOUNT", account,
+                           QObject::tr("The account, which stays in the ledger"));
     }
     Report run(Call &call) const
     {
@@ -196,26 +206,28 @@ struct DetachBankAccount {
 void addBankCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("banks", "List all banks with their accounts", Query, ListBanks{});
+    root.add("banks", QObject::tr("List all banks with their accounts"), Query, ListBanks{});
 
-    CommandGroup bank = root.group("bank", "Banks");
-    bank.add("add", "Add a bank", Change, AddBank{});
-    bank.add("rename", "Give a bank another name", Change, RenameBank{});
-    bank.add("close", "Close a bank with its accounts", Change,
+    CommandGroup bank = root.group("bank", QObject::tr("Banks"));
+    bank.add("add", QObject::tr("Add a bank"), Change, AddBank{});
+    bank.add("rename", QObject::tr("Give a bank another name"), Change, RenameBank{});
+    bank.add("close", QObject::tr("Close a bank with its accounts"), Change,
              BankVerb{&Navigator::onBankClosed, QObject::tr("Closed the bank '%1'.")});
-    bank.add("open", "Open a closed bank again", Change,
+    bank.add("open", QObject::tr("Open a closed bank again"), Change,
              BankVerb{&Navigator::onBankOpened, QObject::tr("Opened the bank '%1' again.")});
-    bank.add("remove", "Remove a bank with its accounts", Change,
+    bank.add("remove", QObject::tr("Remove a bank with its accounts"), Change,
              BankVerb{&Navigator::onBankRemoved, QObject::tr("Removed the bank '%1'.")});
 
-    CommandGroup account = root.group("bank-account", "Accounts that banks keep");
-    account.add("add", "Open an account at a bank", Change, AddBankAccount{});
-    account.add("attach", "Let a bank keep an account of the ledger", Change, AttachBankAccount{});
-    account.add("detach", "Take an account from its bank", Change, DetachBankAccount{});
-    account.add("rename", "Change a bank account's number, name or parent", Change,
+    CommandGroup account = root.group("bank-account", QObject::tr("Accounts that banks keep"));
+    account.add("add", QObject::tr("Open an account at a bank"), Change, AddBankAccount{});
+    account.add("attach", QObject::tr("Let a bank keep an account of the ledger"), Change,
+                AttachBankAccount{});
+    account.add("detach", QObject::tr("Take an account from its bank"), Change,
+                DetachBankAccount{});
+    account.add("rename", QObject::tr("Change a bank account's number, name or parent"), Change,
                 Recode{bankAccountOutcome, &Navigator::onRenamedBankAccount,
                        QObject::tr("The bank account %1 is now %2.")});
-    account.add("remove", "Remove a bank account", Change,
+    account.add("remove", QObject::tr("Remove a bank account"), Change,
                 AccountVerb{bankAccountOutcome, &Navigator::onRemovedBankAccount,
                             QObject::tr("Removed the bank account %1.")});
 }

@@ -23,7 +23,8 @@ struct New {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, "The file to be made; .budget is appended").file();
+        arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+            .file();
     }
     Report run(Call &call) const
     {
@@ -44,7 +45,7 @@ struct SaveAs {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FILE", file, "The file to be made; .budget is appended");
+        arguments.required("FILE", file, QObject::tr("The file to be made; .budget is appended"));
     }
     Report run(Call &call) const
     {
@@ -121,9 +122,10 @@ struct Info {
 
 void addBudgetFileCommands(CommandGroup &root)
 {
-    root.add("new", "Make an empty budget file", CommandKind::Standalone, New{});
-    root.add("info", "Tell what the budget holds", CommandKind::Query, Info{});
-    root.add("save-as", "Save the budget as another file", CommandKind::Query, SaveAs{});
+    root.add("new", QObject::tr("Make an empty budget file"), CommandKind::Standalone, New{});
+    root.add("info", QObject::tr("Tell what the budget holds"), CommandKind::Query, Info{});
+    root.add("save-as", QObject::tr("Save the budget as another file"), CommandKind::Query,
+             SaveAs{});
 }
 
 } // namespace kiv::app

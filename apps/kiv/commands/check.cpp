@@ -2,9 +2,9 @@
 // check
 #include "commands/commands.h"
 
-#include "output/json.h"
 #include "program.h"
 
+#include "foundation/presentation.h"
 #include "storage/budget_inspection.h"
 
 #include <QtCore/QFileInfo>
@@ -83,7 +83,7 @@ std::vector<Told> judgeSums(const std::optional<BudgetStorage::Data> &data)
     balances.verdict = balances.reasons.isEmpty() ? Verdict::Kept : Verdict::Broken;
     sides.verdict = debits == credits ? Verdict::Kept : Verdict::Broken;
     for (const auto &[currency, sum] : debits)
-        sides.reasons += amountText(toJson(sum), navigation::CurrencyDisplayOptions::IsoCode);
+        sides.reasons += foundation::toQString(sum) + u' ' + foundation::toQString(currency);
     return {balances, sides};
 }
 
@@ -116,7 +116,7 @@ struct Check {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, "A budget file or one of its backups").file();
+        arguments.optional("FILE", file, QObject::tr("A budget file or one of its backups")).file();
     }
     Report run(Call &call) const
     {
@@ -172,8 +172,8 @@ private:
 
 void addCheckCommand(CommandGroup &root)
 {
-    root.add("check", "Verify a budget file and tell each of its promises", CommandKind::Standalone,
-             Check{});
+    root.add("check", QObject::tr("Verify a budget file and tell each of its promises"),
+             CommandKind::Standalone, Check{});
 }
 
 } // namespace kiv::app

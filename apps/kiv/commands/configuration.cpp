@@ -73,7 +73,7 @@ Report configurationReport(Session &session)
     return Report(json).list(
         {{QObject::tr("Preferred currency"), QStringLiteral("preferredCurrency")},
          {QObject::tr("Usable currencies"), QStringLiteral("usableCurrencies")},
-         {QObject::tr("Currencies are shown by"), QStringLiteral("currenciesDisplayAs")},
+         {QObject::tr("Currencies are shown by"), QStringLiteral("currenciesDisplayAs"), wordText},
          {QObject::tr("Days in which items count as due"), QStringLiteral("notifyDueWithinDays")},
          {QObject::tr("Survey window"), QStringLiteral("surveyWindowPercent"), percent},
          {QObject::tr("Work hours a week"), QStringLiteral("hoursInWeek")},
@@ -103,13 +103,18 @@ struct SetConfiguration {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--preferred", preferred, "The currency of amounts without one")
-            .several("--usable", usable, "A usable currency; give all of them, one by one")
-            .optional("--display", display, "How currencies are shown: code, symbol or both")
-            .optional("--notify-within", notify, "How many days ahead items count as due")
-            .optional("--survey-window", window, "By how much a survey may miss the statement")
-            .optional("--hours", hours, "Work hours a week")
-            .optional("--days", days, "Work days a week");
+        arguments
+            .optional("--preferred", preferred, QObject::tr("The currency of amounts without one"))
+            .several("--usable", usable,
+                     QObject::tr("A usable currency; give all of them, one by one"))
+            .optional("--display", display,
+                      QObject::tr("How currencies are shown: code, symbol or both"))
+            .optional("--notify-within", notify,
+                      QObject::tr("How many days ahead items count as due"))
+            .optional("--survey-window", window,
+                      QObject::tr("By how much a survey may miss the statement"))
+            .optional("--hours", hours, QObject::tr("Work hours a week"))
+            .optional("--days", days, QObject::tr("Work days a week"));
     }
     Report run(Call &call) const
     {
@@ -149,7 +154,8 @@ struct RemoveTags {
 
     void declare(Arguments &arguments)
     {
-        arguments.severalRequired("TAG", tags, "Tags to be taken from every budget item");
+        arguments.severalRequired("TAG", tags,
+                                  QObject::tr("Tags to be taken from every budget item"));
     }
     Report run(Call &call) const
     {
@@ -175,14 +181,16 @@ struct RemoveTags {
 
 void addConfigurationCommands(CommandGroup &root)
 {
-    CommandGroup configure = root.group("configure", "The user's settings");
-    configure.add("show", "Show the settings", CommandKind::Standalone, ShowConfiguration{});
-    configure.add("set", "Change settings; what is not given stays", CommandKind::Standalone,
-                  SetConfiguration{});
+    CommandGroup configure = root.group("configure", QObject::tr("The user's settings"));
+    configure.add("show", QObject::tr("Show the settings"), CommandKind::Standalone,
+                  ShowConfiguration{});
+    configure.add("set", QObject::tr("Change settings; what is not given stays"),
+                  CommandKind::Standalone, SetConfiguration{});
 
-    CommandGroup tags = root.group("tags", "Tags on budget items");
-    tags.add("list", "List all tags", CommandKind::Query, ListTags{});
-    tags.add("remove", "Take tags from every budget item", CommandKind::Change, RemoveTags{});
+    CommandGroup tags = root.group("tags", QObject::tr("Tags on budget items"));
+    tags.add("list", QObject::tr("List all tags"), CommandKind::Query, ListTags{});
+    tags.add("remove", QObject::tr("Take tags from every budget item"), CommandKind::Change,
+             RemoveTags{});
 }
 
 } // namespace kiv::app

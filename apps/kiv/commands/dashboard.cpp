@@ -29,9 +29,9 @@ QJsonObject healthJson(const adviser::BudgetHealth &health)
     QJsonArray reasons;
     for (const adviser::HealthReason &reason : health.reasons()) {
         reasons.append(QJsonObject{{QStringLiteral("sound"), reason.isSound},
-                                   {QStringLiteral("text"), reason.text}});
+                                   {QStringLiteral("text"), reason.plainText}});
     }
-    return {{QStringLiteral("grade"), adviser::presentationText(health.grade())},
+    return {{QStringLiteral("grade"), adviser::toQString(health.grade())},
             {QStringLiteral("reasons"), reasons}};
 }
 
@@ -42,14 +42,14 @@ struct Dashboard {
         const auto answer =
             call.session.ask(&Navigator::showDashboard, &Navigator::onPrepareShowDashboard);
         const QJsonObject totals = totalsJson(std::get<budgeting::BudgetTotals>(answer));
-        const QJsonObject health = healthJson(std::get<adviser::BudgetHealth>(answer));
+        const auto &health = std::get<adviser::BudgetHealth>(answer);
         QJsonArray due;
         for (const auto &item : std::get<std::vector<budgeting::BudgetItemAmountDue>>(answer))
             due.append(toJson(item));
         const auto within = qint64{std::get<std::chrono::days>(answer).count()};
 
         Report report(QJsonObject{{QStringLiteral("totals"), totals},
-                                  {QStringLiteral("health"), health},
+                                  {QStringLiteral("health"), healthJson(health)},
                                   {QStringLiteral("dueWithinDays"), within},
                                   {QStringLiteral("due"), due}});
         report.heading(QObject::tr("Every month"))
@@ -60,16 +60,16 @@ struct Dashboard {
                    {QObject::tr("Non-tracked"), QStringLiteral("nontracks")},
                    {QObject::tr("Remaining"), QStringLiteral("remaining")}},
                   totals)
-            .heading(QObject::tr("Due within %1 days").arg(within))
-            .table({{QObject::tr("Due"), QStringLiteral("due")},
+            .heading(QObject::tr("Due within %n days", nullptr, static_cast<int>(within)))
+            .table({{QObject::tr("Due"), QStringLiteral("due"), dayText},
                     {QObject::tr("Item"), QStringLiteral("name")},
-                    {QObject::tr("Kind"), QStringLiteral("kind")},
+                    {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Amount"), QStringLiteral("amount")}},
                    due, QObject::tr("Nothing is due."))
-            .heading(QObject::tr("Budget health: %1")
-                         .arg(health.value(QLatin1String("grade")).toString()));
-        for (const QJsonValue &reason : health.value(QLatin1String("reasons")).toArray())
-            report.line(reason[QLatin1String("text")].toString());
+            .heading(
+                QObject::tr("Budget health: %1").arg(adviser::presentationText(health.grade())));
+        for (const adviser::HealthReason &reason : health.reasons())
+            report.line(reason.text);
         return report;
     }
 };
@@ -78,8 +78,8 @@ struct Dashboard {
 
 void addDashboardCommands(CommandGroup &root)
 {
-    root.add("dashboard", "Show totals, what is due and the budget's health", CommandKind::Query,
-             Dashboard{});
+    root.add("dashboard", QObject::tr("Show totals, what is due and the budget's health"),
+             CommandKind::Query, Dashboard{});
 }
 
 } // namespace kiv::app

@@ -6,6 +6,8 @@
 #include "budget_view.h"
 #include "output/json.h"
 
+#include "foundation/presentation.h"
+
 namespace kiv::app {
 
 using budgeting::BudgetedMoney;
@@ -39,7 +41,7 @@ void refuseShadowed(const budgeting::Budget &budget, const BudgetItemDueIdentifi
     budget.forEach([&id](const BudgetedMoney &item) {
         const BudgetItemTypes kind = budgeting::toBudgetItemTypes(item);
         if (kind < id.type && item.source() == id.source)
-            throw shadowedItem(kindWord(id.type), kindWord(kind), id.source.name());
+            throw shadowedItem(kindText(id.type), kindText(kind), id.source.name());
     });
 }
 
@@ -62,8 +64,9 @@ struct ItemArgument {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ITEM", name, "The budget item's name")
-            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat");
+        arguments.required("ITEM", name, QObject::tr("The budget item's name"))
+            .optional("--kind", kind,
+                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"));
     }
     [[nodiscard]] BudgetItemAmountDue due(const BudgetView &view) const
     {
@@ -76,8 +79,10 @@ struct ListDue {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--within", within, "How many days ahead; as configured otherwise")
-            .dated("Today, or another day in its place");
+        arguments
+            .optional("--within", within,
+                      QObject::tr("How many days ahead; as configured otherwise"))
+            .dated(QObject::tr("Today, or another day in its place"));
     }
     Report run(Call &call) const
     {
@@ -90,18 +95,16 @@ struct ListDue {
         }
         const auto when = [](const QJsonValue &inDays) {
             const qint64 days = inDays.toInteger();
-            if (days < -1)
-                return QObject::tr("%1 days late").arg(-days);
-            if (days < 2)
-                return days < 0    ? QObject::tr("1 day late")
-                       : days == 0 ? QObject::tr("today")
-                                   : QObject::tr("tomorrow");
-            return QObject::tr("in %1 days").arg(days);
+            if (days < 0)
+                return QObject::tr("%n days late", nullptr, static_cast<int>(-days));
+            if (days > 1)
+                return QObject::tr("in %n days", nullptr, static_cast<int>(days));
+            return days == 0 ? QObject::tr("today") : QObject::tr("tomorrow");
         };
         return Report(QJsonValue(rows))
-            .table({{QObject::tr("Due"), QStringLiteral("due")},
+            .table({{QObject::tr("Due"), QStringLiteral("due"), dayText},
                     {QObject::tr("Item"), QStringLiteral("name")},
-                    {QObject::tr("Kind"), QStringLiteral("kind")},
+                    {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Amount"), QStringLiteral("amount")},
                     {QObject::tr("When"), QStringLiteral("inDays"), when}},
                    rows, QObject::tr("Nothing is due."));
@@ -117,18 +120,21 @@ struct PostDue {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("ITEM", name, "The budget item's name")
-            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat")
-            .required("--account", account, "The account that pays, or that a wage goes to")
-            .optional("--amount", amount, "Another amount than the item's")
-            .flag("--all", isAll, "Post everything that is due by now, in place of one item")
-            .dated("The day of posting; today otherwise");
+        arguments.optional("ITEM", name, QObject::tr("The budget item's name"))
+            .optional("--kind", kind,
+                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"))
+            .required("--account", account,
+                      QObject::tr("The account that pays, or that a wage goes to"))
+            .optional("--amount", amount, QObject::tr("Another amount than the item's"))
+            .flag("--all", isAll,
+                  QObject::tr("Post everything that is due by now, in place of one item"))
+            .dated(QObject::tr("The day of posting; today otherwise"));
     }
     Report run(Call &call) const
     {
         if (isAll == name.has_value())
-            throw isAll ? contradiction(QStringLiteral("--all"), QStringLiteral("ITEM"))
-                        : missing(QStringLiteral("ITEM"));
+            throw isAll ? contradiction(QStringLiteral("--all"), placeholder("ITEM"))
+                        : missing(placeholder("ITEM"));
         if (isAll && amount)
             throw contradiction(QStringLiteral("--all"), QStringLiteral("--amount"));
         Session &session = call.session;
@@ -142,8 +148,8 @@ struct PostDue {
                      dueOutcome, &Navigator::onPostBudgetItemPosted, due, code, call.date())) {
                 rows.append(postedJson(session, number, id));
                 report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
-                                .arg(kindWord(id.type), id.source.name(),
-                                     due.id.dueOn.toString(Qt::ISODate),
+                                .arg(kindText(id.type), id.source.name(),
+                                     foundation::presentationText(due.id.dueOn),
                                      amountText(toJson(due.amount), session.displayAs())));
             }
         }
@@ -173,9 +179,11 @@ struct PayUnexpected {
     void declare(Arguments &arguments)
     {
         item.declare(arguments);
-        arguments.required("AMOUNT", amount, "What is paid, or what came in for a wage")
-            .required("--account", account, "The account that pays, or that a wage goes to")
-            .dated("The day of posting; today otherwise");
+        arguments
+            .required("AMOUNT", amount, QObject::tr("What is paid, or what came in for a wage"))
+            .required("--account", account,
+                      QObject::tr("The account that pays, or that a wage goes to"))
+            .dated(QObject::tr("The day of posting; today otherwise"));
     }
     Report run(Call &call) const
     {
@@ -189,8 +197,8 @@ struct PayUnexpected {
         const auto &[id, number] = answers.front();
         return Report(postedJson(session, number, id))
             .line(QObject::tr("Posted %1 for the %2 '%3', which is still due on %4.")
-                      .arg(amountText(toJson(money), session.displayAs()), kindWord(id.type),
-                           id.source.name(), due.id.dueOn.toString(Qt::ISODate)));
+                      .arg(amountText(toJson(money), session.displayAs()), kindText(id.type),
+                           id.source.name(), foundation::presentationText(due.id.dueOn)));
     }
 };
 
@@ -208,8 +216,9 @@ struct SkipDue {
         const BudgetedMoney &skipped = view.find(item.name, due.id.type);
         return Report(view.json(skipped))
             .line(QObject::tr("Skipped the %1 '%2' due on %3; it is next due on %4.")
-                      .arg(kindWord(due.id.type), item.name, due.id.dueOn.toString(Qt::ISODate),
-                           skipped.nextOccurOn().toString(Qt::ISODate)));
+                      .arg(kindText(due.id.type), item.name,
+                           foundation::presentationText(due.id.dueOn),
+                           foundation::presentationText(skipped.nextOccurOn())));
     }
 };
 
@@ -218,10 +227,11 @@ struct SkipDue {
 void addDueCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("due", "List what is due", Query, ListDue{});
-    root.add("post", "Post a budget item that is due", Change, PostDue{});
-    root.add("pay", "Post an unexpected amount for a budget item", Change, PayUnexpected{});
-    root.add("skip", "Skip a budget item once, without posting", Change, SkipDue{});
+    root.add("due", QObject::tr("List what is due"), Query, ListDue{});
+    root.add("post", QObject::tr("Post a budget item that is due"), Change, PostDue{});
+    root.add("pay", QObject::tr("Post an unexpected amount for a budget item"), Change,
+             PayUnexpected{});
+    root.add("skip", QObject::tr("Skip a budget item once, without posting"), Change, SkipDue{});
 }
 
 } // namespace kiv::app

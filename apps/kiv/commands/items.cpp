@@ -19,12 +19,6 @@ namespace {
 /// The command has no views with elements, so one identifier serves all.
 constexpr navigation::GuiElementIdentifier caller(1);
 
-template <typename Item>
-QString wordOf()
-{
-    return QString::fromLatin1(ItemTraits<Item>::word);
-}
-
 /// What makes up an item besides its name, as far as it was given.
 template <budgeting::BudgetItem Item>
 struct ItemArguments {
@@ -39,18 +33,21 @@ struct ItemArguments {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--every", every, "How often it recurs, such as monthly")
-            .optional("--next", next, "The next day on which it does")
-            .several("--tag", tags, "A tag to find it by; may be given several times");
+        arguments.optional("--every", every, QObject::tr("How often it recurs, such as monthly"))
+            .optional("--next", next, QObject::tr("The next day on which it does"))
+            .several("--tag", tags, QObject::tr("A tag to find it by; may be given several times"));
         if constexpr (std::same_as<Item, budgeting::Debt>) {
-            arguments.optional("--borrowed", extra, "What was borrowed: its account opens with it")
-                .optional("--bank,--bank-account", bank, "The bank that holds it")
-                .optional("--type", type, "The kind of account there: loan (unless given), …");
+            arguments
+                .optional("--borrowed", extra,
+                          QObject::tr("What was borrowed: its account opens with it"))
+                .optional("--bank,--bank-account", bank, QObject::tr("The bank that holds it"))
+                .optional("--type", type,
+                          QObject::tr("The kind of account there: loan (unless given), …"));
         }
         if constexpr (std::same_as<Item, budgeting::Goal>) {
-            arguments.optional("--target", extra, "What it is to come to")
+            arguments.optional("--target", extra, QObject::tr("What it is to come to"))
                 .optional("--bank-account", bankAccount,
-                          "The bank account under which it is put aside");
+                          QObject::tr("The bank account under which it is put aside"));
         }
     }
 
@@ -133,9 +130,10 @@ struct AddItem {
 
     void declare(Arguments &line)
     {
-        line.required("NAME", name, "Its name").required("AMOUNT", amount, "What it comes to");
+        line.required("NAME", name, QObject::tr("Its name"))
+            .required("AMOUNT", amount, QObject::tr("What it comes to"));
         arguments.declare(line);
-        line.dated("Today, in place of --next");
+        line.dated(QObject::tr("Today, in place of --next"));
     }
     Report run(Call &call) const
     {
@@ -147,8 +145,9 @@ struct AddItem {
         const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
         session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
                        given.named(session), tagging::BudgetItemTags::ItemTags(id, given.asTags()));
-        return itemReport(session, id,
-                          QObject::tr("Added the %1 '%2'.").arg(wordOf<Item>(), name.text));
+        return itemReport(
+            session, id,
+            QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
     }
 
 private:
@@ -171,12 +170,12 @@ struct UpdateItem {
 
     void declare(Arguments &line)
     {
-        line.required("NAME", name, "Its name")
-            .optional("--amount", arguments.amount, "What it comes to");
+        line.required("NAME", name, QObject::tr("Its name"))
+            .optional("--amount", arguments.amount, QObject::tr("What it comes to"));
         arguments.declare(line);
-        line.flag("--no-tags", isUntagged, "Take its tags away");
+        line.flag("--no-tags", isUntagged, QObject::tr("Take its tags away"));
         if constexpr (budgeting::BankTiedItem<Item>)
-            line.flag("--no-bank", isUntied, "Tie it to no bank any more");
+            line.flag("--no-bank", isUntied, QObject::tr("Tie it to no bank any more"));
     }
     Report run(Call &call) const
     {
@@ -193,8 +192,9 @@ struct UpdateItem {
         session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
                        arguments.item(name, present), bankAccount(session, view, id),
                        tagging::BudgetItemTags::ItemTags(id, tags));
-        return itemReport(session, id,
-                          QObject::tr("Changed the %1 '%2'.").arg(wordOf<Item>(), name));
+        return itemReport(
+            session, id,
+            QObject::tr("Changed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
     }
 
 private:
@@ -217,7 +217,8 @@ struct RenameItem {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, "Its name").required("NEW-NAME", changed, "Its new name");
+        arguments.required("NAME", name, QObject::tr("Its name"))
+            .required("NEW-NAME", changed, QObject::tr("Its new name"));
     }
     Report run(Call &call) const
     {
@@ -225,9 +226,9 @@ struct RenameItem {
         const BudgetSource present = BudgetView(call.session).find(name, id.type).source();
         call.session.change(itemOutcome, &Navigator::onRenamed, caller, id.type, present,
                             id.source);
-        return itemReport(
-            call.session, id,
-            QObject::tr("The %1 '%2' is now called '%3'.").arg(wordOf<Item>(), name, changed.text));
+        return itemReport(call.session, id,
+                          QObject::tr("The %1 '%2' is now called '%3'.")
+                              .arg(kindText(ItemTraits<Item>::type), name, changed.text));
     }
 };
 
@@ -235,14 +236,18 @@ template <budgeting::BudgetItem Item>
 struct RemoveItem {
     QString name;
 
-    void declare(Arguments &arguments) { arguments.required("NAME", name, "Its name"); }
+    void declare(Arguments &arguments)
+    {
+        arguments.required("NAME", name, QObject::tr("Its name"));
+    }
     Report run(Call &call) const
     {
         const BudgetView view(call.session);
         const QJsonObject json = view.json(view.find(name, ItemTraits<Item>::type));
         call.session.change(itemOutcome, &Navigator::onRemoved, caller, ItemTraits<Item>::type,
                             BudgetSource(name));
-        return Report(json).line(QObject::tr("Removed the %1 '%2'.").arg(wordOf<Item>(), name));
+        return Report(json).line(
+            QObject::tr("Removed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
     }
 };
 
@@ -257,8 +262,8 @@ struct ListItems {
             rows.append(view.json(item));
         std::vector<Column> columns{{QObject::tr("Name"), QStringLiteral("name")},
                                     {QObject::tr("Amount"), QStringLiteral("amount")},
-                                    {QObject::tr("Every"), QStringLiteral("every")},
-                                    {QObject::tr("Next"), QStringLiteral("next")}};
+                                    {QObject::tr("Every"), QStringLiteral("every"), wordText},
+                                    {QObject::tr("Next"), QStringLiteral("next"), dayText}};
         if constexpr (std::same_as<Item, budgeting::Debt>)
             columns.push_back({QObject::tr("Borrowed"), QStringLiteral("borrowed")});
         if constexpr (std::same_as<Item, budgeting::Goal>)
@@ -274,21 +279,24 @@ struct ListItems {
 
 void addItemCommands(CommandGroup &root)
 {
-    const auto addKind = [&root]<typename Item>(std::type_identity<Item>, const char *help) {
+    const auto addKind = [&root]<typename Item>(std::type_identity<Item>, const QString &help) {
         using enum CommandKind;
         CommandGroup group = root.group(ItemTraits<Item>::word, help);
-        group.add("add", "Add one", Change, AddItem<Item>{});
-        group.add("update", "Change one; what is not given stays", Change, UpdateItem<Item>{});
-        group.add("rename", "Give one another name", Change, RenameItem<Item>{});
-        group.add("remove", "Remove one", Change, RemoveItem<Item>{});
-        group.add("list", "List all of them", Query, ListItems<Item>{});
+        group.add("add", QObject::tr("Add one"), Change, AddItem<Item>{});
+        group.add("update", QObject::tr("Change one; what is not given stays"), Change,
+                  UpdateItem<Item>{});
+        group.add("rename", QObject::tr("Give one another name"), Change, RenameItem<Item>{});
+        group.add("remove", QObject::tr("Remove one"), Change, RemoveItem<Item>{});
+        group.add("list", QObject::tr("List all of them"), Query, ListItems<Item>{});
     };
-    addKind(std::type_identity<budgeting::Bill>{}, "Bills: what must be paid");
-    addKind(std::type_identity<budgeting::Debt>{}, "Debts: what was borrowed and is paid back");
-    addKind(std::type_identity<budgeting::Goal>{}, "Goals: what is put aside for a target");
+    addKind(std::type_identity<budgeting::Bill>{}, QObject::tr("Bills: what must be paid"));
+    addKind(std::type_identity<budgeting::Debt>{},
+            QObject::tr("Debts: what was borrowed and is paid back"));
+    addKind(std::type_identity<budgeting::Goal>{},
+            QObject::tr("Goals: what is put aside for a target"));
     addKind(std::type_identity<budgeting::Nontrack>{},
-            "Non-tracked items: what is spent without keeping track");
-    addKind(std::type_identity<budgeting::Wage>{}, "Wages: what comes in");
+            QObject::tr("Non-tracked items: what is spent without keeping track"));
+    addKind(std::type_identity<budgeting::Wage>{}, QObject::tr("Wages: what comes in"));
 }
 
 } // namespace kiv::app

@@ -2,6 +2,8 @@
 // rates show|fetch|set
 #include "commands/commands.h"
 
+#include "locale.h"
+
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"
 
@@ -55,9 +57,11 @@ Report ratesReport(const ConversionMap &map)
                               {QStringLiteral("expired"), map.isExpired()},
                               {QStringLiteral("rates"), rows}});
     if (!map.isEmpty()) {
-        report.heading(map.isExpired()
-                           ? QObject::tr("For one %1, as of %2 (no longer current)").arg(base, time)
-                           : QObject::tr("For one %1, as of %2").arg(base, time));
+        const QString shown = momentText(map.fetchedAt());
+        report.heading(
+            map.isExpired()
+                ? QObject::tr("For one %1, as of %2 (no longer current)").arg(base, shown)
+                : QObject::tr("For one %1, as of %2").arg(base, shown));
     }
     return report.table({{QObject::tr("Currency"), QStringLiteral("currency")},
                          {QObject::tr("Rate"), QStringLiteral("rate")}},
@@ -74,7 +78,8 @@ struct FetchRates {
 
     void declare(Arguments &arguments)
     {
-        arguments.several("CURRENCY", wanted, "The currencies; the usable ones otherwise");
+        arguments.several("CURRENCY", wanted,
+                          QObject::tr("The currencies; the usable ones otherwise"));
     }
     Report run(Call &call) const
     {
@@ -93,7 +98,8 @@ struct FetchRates {
         });
         // A fetch that failed answers with the rates as they were.
         if (map.isEmpty() || map.fetchedAt() == before)
-            throw ratesNotFetched(warning);
+            throw ratesNotFetched(
+                reasonIn(warning, QStringLiteral("Failed to fetch the exchange rates.")));
         session.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
@@ -105,8 +111,9 @@ struct SetRates {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BASE", base, "The currency of which one unit is meant")
-            .severalRequired("CURRENCY=RATE", rates, "How much of another currency it buys");
+        arguments.required("BASE", base, QObject::tr("The currency of which one unit is meant"))
+            .severalRequired("CURRENCY=RATE", rates,
+                             QObject::tr("How much of another currency it buys"));
     }
     Report run(Call &call) const
     {
@@ -127,10 +134,11 @@ struct SetRates {
 void addRatesCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    CommandGroup group = root.group("rates", "Exchange rates");
-    group.add("show", "Show the exchange rates that are known", Standalone, ShowRates{});
-    group.add("fetch", "Fetch the rates of the day", Standalone, FetchRates{});
-    group.add("set", "Set rates by hand", Standalone, SetRates{});
+    CommandGroup group = root.group("rates", QObject::tr("Exchange rates"));
+    group.add("show", QObject::tr("Show the exchange rates that are known"), Standalone,
+              ShowRates{});
+    group.add("fetch", QObject::tr("Fetch the rates of the day"), Standalone, FetchRates{});
+    group.add("set", QObject::tr("Set rates by hand"), Standalone, SetRates{});
 }
 
 } // namespace kiv::app

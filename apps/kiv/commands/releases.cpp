@@ -4,6 +4,7 @@
 
 #include "output/json.h"
 
+#include "foundation/presentation.h"
 #include "updating/release_information.h"
 
 #include <QtCore/QCoreApplication>
@@ -42,10 +43,10 @@ std::vector<ReleaseInformation> fetchReleases(Session &session)
     });
     // The Navigator may have warned of something else meanwhile, such as of
     // exchange rates that it could not refresh.
-    if (!warning.startsWith(QStringLiteral("Failed to fetch the list of releases.")))
-        warning.clear();
-    if (!releases || (releases->empty() && !warning.isEmpty()))
-        throw releasesNotFetched(warning);
+    const QString reason =
+        reasonIn(warning, QStringLiteral("Failed to fetch the list of releases."));
+    if (!releases || (releases->empty() && !reason.isEmpty()))
+        throw releasesNotFetched(reason);
     return {releases->rbegin(), releases->rend()};
 }
 
@@ -83,7 +84,7 @@ struct ReleaseNotes {
         for (const ReleaseInformation &release : fetchReleases(call.session)) {
             rows.append(toJson(release));
             report.heading(updating::presentationText(release.version) + u' ' +
-                           release.releasedOn.toString(Qt::ISODate));
+                           foundation::presentationText(release.releasedOn));
             for (const QString &line : release.notes.split(u'\n'))
                 report.line(line);
         }
@@ -98,11 +99,11 @@ struct ReleaseNotes {
 
 void addReleaseCommands(CommandGroup &root)
 {
-    CommandGroup updates = root.group("updates", "Newer releases of this program");
-    updates.add("check", "Ask whether there is a newer release", CommandKind::Standalone,
-                CheckUpdates{});
-    root.add("release-notes", "Show what each release brought", CommandKind::Standalone,
-             ReleaseNotes{});
+    CommandGroup updates = root.group("updates", QObject::tr("Newer releases of this program"));
+    updates.add("check", QObject::tr("Ask whether there is a newer release"),
+                CommandKind::Standalone, CheckUpdates{});
+    root.add("release-notes", QObject::tr("Show what each release brought"),
+             CommandKind::Standalone, ReleaseNotes{});
 }
 
 } // namespace kiv::app

@@ -32,9 +32,9 @@ struct SurveyArguments {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", bank, "The bank's name")
-            .required("ACCOUNT", account, "The bank account's number or name")
-            .dated("The day of the statement; today otherwise");
+        arguments.required("BANK", bank, QObject::tr("The bank's name"))
+            .required("ACCOUNT", account, QObject::tr("The bank account's number or name"))
+            .dated(QObject::tr("The day of the statement; today otherwise"));
     }
     [[nodiscard]] SurveyForm propose(Call &call) const
     {
@@ -48,17 +48,17 @@ Report formReport(Session &session, const SurveyForm &form)
     Report report{QJsonValue(json)};
     report.list({{QObject::tr("Bank"), QStringLiteral("bank")},
                  {QObject::tr("Account"), QStringLiteral("accountName")},
-                 {QObject::tr("Day of the statement"), QStringLiteral("date")},
-                 {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn")},
+                 {QObject::tr("Day of the statement"), QStringLiteral("date"), dayText},
+                 {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn"), dayText},
                  {QObject::tr("Balance then"), QStringLiteral("reconciledBalance")},
-                 {QObject::tr("Changes counted from"), QStringLiteral("start")},
+                 {QObject::tr("Changes counted from"), QStringLiteral("start"), dayText},
                  {QObject::tr("Expected balance"), QStringLiteral("expectedBalance")},
                  {QObject::tr("Still due this month"), QStringLiteral("amountDue")}},
                 json);
     const auto changes = [&](const QString &title, const char *key, const QString &what) {
         report.heading(title).table({{what, QStringLiteral("name")},
                                      {QObject::tr("Transaction"), QStringLiteral("transaction")},
-                                     {QObject::tr("Date"), QStringLiteral("date")},
+                                     {QObject::tr("Date"), QStringLiteral("date"), dayText},
                                      {QObject::tr("Description"), QStringLiteral("description")},
                                      {QObject::tr("Change"), QStringLiteral("change")}},
                                     json.value(QLatin1String(key)).toArray(),
@@ -68,10 +68,10 @@ Report formReport(Session &session, const SurveyForm &form)
     changes(QObject::tr("Other changes"), "accountChanges", QObject::tr("Account"));
     report.heading(QObject::tr("Proposed distribution"))
         .table({{QObject::tr("Item"), QStringLiteral("name")},
-                {QObject::tr("Kind"), QStringLiteral("kind")},
+                {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                 {QObject::tr("Set aside"), QStringLiteral("distributed")},
                 {QObject::tr("Expected"), QStringLiteral("expected")},
-                {QObject::tr("Next"), QStringLiteral("next")}},
+                {QObject::tr("Next"), QStringLiteral("next"), dayText}},
                json.value(QLatin1String("distribution")).toArray(),
                QObject::tr("There is nothing to set aside for."))
         .list({{QObject::tr("Not distributed"), QStringLiteral("nonDistributed")}}, json);
@@ -110,19 +110,22 @@ struct CompleteSurvey {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("BANK", bank, "The bank's name")
-            .optional("ACCOUNT", account, "The bank account's number or name")
-            .optional("--from", file, "A document of survey show --json, edited; - for input")
-            .optional("--balance", balance, "The statement's balance")
-            .several("--tick", ticked, "A transaction that the statement shows")
-            .flag("--tick-all", isAllTicked, "It shows all transactions of the survey")
+        arguments.optional("BANK", bank, QObject::tr("The bank's name"))
+            .optional("ACCOUNT", account, QObject::tr("The bank account's number or name"))
+            .optional("--from", file,
+                      QObject::tr("A document of survey show --json, edited; - for input"))
+            .optional("--balance", balance, QObject::tr("The statement's balance"))
+            .several("--tick", ticked, QObject::tr("A transaction that the statement shows"))
+            .flag("--tick-all", isAllTicked, QObject::tr("It shows all transactions of the survey"))
             .several("--item", items,
-                     "ITEM=AMOUNT: money for an item that is not booked yet; "
-                     "with a minus for what went out")
-            .several("--extra", extras, "ACCOUNT=AMOUNT: the same for another account")
-            .several("--distribute", distribution, "ITEM=AMOUNT: what is set aside for an item")
-            .optional("--not-distributed", nonDistributed, "What is set aside for nothing")
-            .dated("The day of the statement; today otherwise");
+                     QObject::tr("ITEM=AMOUNT: money for an item that is not booked yet; "
+                                 "with a minus for what went out"))
+            .several("--extra", extras, QObject::tr("ACCOUNT=AMOUNT: the same for another account"))
+            .several("--distribute", distribution,
+                     QObject::tr("ITEM=AMOUNT: what is set aside for an item"))
+            .optional("--not-distributed", nonDistributed,
+                      QObject::tr("What is set aside for nothing"))
+            .dated(QObject::tr("The day of the statement; today otherwise"));
     }
     Report run(Call &call) const
     {
@@ -147,11 +150,11 @@ private:
     [[nodiscard]] SurveyForm start(Call &call) const
     {
         if (file && (bank || account))
-            throw contradiction(QStringLiteral("--from"), QStringLiteral("BANK"));
+            throw contradiction(QStringLiteral("--from"), placeholder("BANK"));
         if (file)
             return SurveyForm::fromJson(call.session, readJson(*file).object());
         if (!bank || !account)
-            throw missing(QStringLiteral("BANK ACCOUNT"));
+            throw missing(placeholder("BANK ACCOUNT"));
         if (!balance)
             throw missing(QStringLiteral("--balance"));
         return SurveyForm::propose(call.session, *bank, *account, call.date());
@@ -176,7 +179,7 @@ struct RunSurvey {
             if (dialogue.agrees(
                     QObject::tr("Does the statement show %1 %2 '%3', %4?")
                         .arg(accounting::presentationText(number),
-                             transaction.occurredOn().toString(Qt::ISODate),
+                             foundation::presentationText(transaction.occurredOn()),
                              transaction.description().value_or(QString()),
                              amountText(toJson(transaction.amount()), call.session.displayAs()))))
                 form.reconciled.insert(number);
@@ -256,7 +259,7 @@ struct LastReconciliation {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, "The bank account's number or name");
+        arguments.required("ACCOUNT", account, QObject::tr("The bank account's number or name"));
     }
     Report run(Call &call) const
     {
@@ -277,7 +280,8 @@ struct LastReconciliation {
         }
         return Report(json).line(
             QObject::tr("%1 was reconciled on %2 with a balance of %3.")
-                .arg(accounting::presentationText(code), last->reconciledOn->toString(Qt::ISODate),
+                .arg(accounting::presentationText(code),
+                     foundation::presentationText(*last->reconciledOn),
                      amountText(toJson(last->amount), call.session.displayAs())));
     }
 };
@@ -287,13 +291,17 @@ struct LastReconciliation {
 void addSurveyCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    CommandGroup survey = root.group("survey", "Comparing the books with a bank statement");
-    survey.add("show", "Show what has happened since the last survey", Query, ShowSurvey{});
-    survey.add("complete", "Reconcile the account with a statement", Change, CompleteSurvey{});
-    survey.add("run", "Go through a statement question by question", Change, RunSurvey{});
+    CommandGroup survey =
+        root.group("survey", QObject::tr("Comparing the books with a bank statement"));
+    survey.add("show", QObject::tr("Show what has happened since the last survey"), Query,
+               ShowSurvey{});
+    survey.add("complete", QObject::tr("Reconcile the account with a statement"), Change,
+               CompleteSurvey{});
+    survey.add("run", QObject::tr("Go through a statement question by question"), Change,
+               RunSurvey{});
 
-    CommandGroup reconciliation = root.group("reconciliation", "Past reconciliations");
-    reconciliation.add("last", "Show when an account was last reconciled", Query,
+    CommandGroup reconciliation = root.group("reconciliation", QObject::tr("Past reconciliations"));
+    reconciliation.add("last", QObject::tr("Show when an account was last reconciled"), Query,
                        LastReconciliation{});
 }
 

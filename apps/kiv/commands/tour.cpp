@@ -126,8 +126,8 @@ struct Tour {
 
 void addTourCommand(CommandGroup &root)
 {
-    root.add("tour", "Show on a temporary budget what the command does", CommandKind::Standalone,
-             Tour{});
+    root.add("tour", QObject::tr("Show on a temporary budget what the command does"),
+             CommandKind::Standalone, Tour{});
 }
 
 } // namespace kiv::app

@@ -36,7 +36,7 @@ QJsonObject withPaths(QJsonObject json, const AccountIndex &index)
 std::vector<Column> transactionColumns()
 {
     return {{QObject::tr("Number"), QStringLiteral("number")},
-            {QObject::tr("Date"), QStringLiteral("date")},
+            {QObject::tr("Date"), QStringLiteral("date"), dayText},
             {QObject::tr("Description"), QStringLiteral("description")},
             {QObject::tr("Debit"), QStringLiteral("debitPath")},
             {QObject::tr("Credit"), QStringLiteral("creditPath")},
@@ -61,8 +61,8 @@ struct ListTransactions {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--from", from, "Only from this day on")
-            .optional("--to", to, "Only up to this day");
+        arguments.optional("--from", from, QObject::tr("Only from this day on"))
+            .optional("--to", to, QObject::tr("Only up to this day"));
     }
     Report run(Call &call) const
     {
@@ -86,11 +86,13 @@ struct AddTransaction {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("AMOUNT", amount, "What moves; in the debited account's currency")
-            .required("--debit", debit, "The account that is debited")
-            .required("--credit", credit, "The account that is credited")
-            .optional("--description", description, "What it is about")
-            .dated("The day of the transaction; today otherwise");
+        arguments
+            .required("AMOUNT", amount,
+                      QObject::tr("What moves; in the debited account's currency"))
+            .required("--debit", debit, QObject::tr("The account that is debited"))
+            .required("--credit", credit, QObject::tr("The account that is credited"))
+            .optional("--description", description, QObject::tr("What it is about"))
+            .dated(QObject::tr("The day of the transaction; today otherwise"));
     }
     Report run(Call &call) const
     {
@@ -110,7 +112,8 @@ struct LoadTransactions {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FILE", file, "A JSON list of transactions; - for standard input");
+        arguments.required("FILE", file,
+                           QObject::tr("A JSON list of transactions; - for standard input"));
     }
     Report run(Call &call) const
     {
@@ -121,7 +124,8 @@ struct LoadTransactions {
             numbers.append(toJson(std::optional(postedNumber(answers))));
         }
         return Report(QJsonObject{{QStringLiteral("posted"), numbers}})
-            .line(QObject::tr("Posted %1 transactions.").arg(numbers.size()));
+            .line(
+                QObject::tr("Posted %n transactions.", nullptr, static_cast<int>(numbers.size())));
     }
 };
 
@@ -134,12 +138,12 @@ struct UpdateTransaction {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NUMBER", number, "The transaction's number")
-            .optional("--amount", amount, "What moves")
-            .optional("--debit", debit, "The account that is debited")
-            .optional("--credit", credit, "The account that is credited")
-            .optional("--description", description, "What it is about")
-            .dated("The day of the transaction");
+        arguments.required("NUMBER", number, QObject::tr("The transaction's number"))
+            .optional("--amount", amount, QObject::tr("What moves"))
+            .optional("--debit", debit, QObject::tr("The account that is debited"))
+            .optional("--credit", credit, QObject::tr("The account that is credited"))
+            .optional("--description", description, QObject::tr("What it is about"))
+            .dated(QObject::tr("The day of the transaction"));
     }
     Report run(Call &call) const
     {
@@ -170,7 +174,7 @@ struct TransactionVerb {
 
     void declare(Arguments &arguments)
     {
-        arguments.severalRequired("NUMBER", numbers, "Numbers of transactions");
+        arguments.severalRequired("NUMBER", numbers, QObject::tr("Numbers of transactions"));
     }
     Report run(Call &call) const
     {
@@ -201,11 +205,12 @@ struct Transfer {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FROM", from, "The bank account that the money leaves")
-            .required("TO", to, "The bank account that it goes to")
-            .required("AMOUNT", amount, "How much; in the currency of the account it goes to")
-            .optional("--description", reason, "What it is about")
-            .dated("The day of the transfer; today otherwise");
+        arguments.required("FROM", from, QObject::tr("The bank account that the money leaves"))
+            .required("TO", to, QObject::tr("The bank account that it goes to"))
+            .required("AMOUNT", amount,
+                      QObject::tr("How much; in the currency of the account it goes to"))
+            .optional("--description", reason, QObject::tr("What it is about"))
+            .dated(QObject::tr("The day of the transfer; today otherwise"));
     }
     Report run(Call &call) const
     {
@@ -243,9 +248,11 @@ struct Refund {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NUMBER", number, "The transaction of which something comes back")
-            .required("AMOUNT", amount, "How much")
-            .dated("The day of the refund; today otherwise");
+        arguments
+            .required("NUMBER", number,
+                      QObject::tr("The transaction of which something comes back"))
+            .required("AMOUNT", amount, QObject::tr("How much"))
+            .dated(QObject::tr("The day of the refund; today otherwise"));
     }
     Report run(Call &call) const
     {
@@ -266,8 +273,9 @@ struct ListRefundable {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ITEM", name, "The budget item's name")
-            .optional("--kind", kind, "bill, debt, goal, nontrack or wage, where names repeat");
+        arguments.required("ITEM", name, QObject::tr("The budget item's name"))
+            .optional("--kind", kind,
+                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"));
     }
     Report run(Call &call) const
     {
@@ -289,29 +297,32 @@ struct ListRefundable {
 void addTransactionCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("transactions", "List all transactions", Query, ListTransactions{});
+    root.add("transactions", QObject::tr("List all transactions"), Query, ListTransactions{});
 
-    CommandGroup transaction = root.group("transaction", "Transactions of the ledger");
-    transaction.add("add", "Post a transaction", Change, AddTransaction{});
-    transaction.add("load", "Post all transactions of a JSON file", Change, LoadTransactions{});
-    transaction.add("update", "Change a transaction; what is not given stays", Change,
+    CommandGroup transaction = root.group("transaction", QObject::tr("Transactions of the ledger"));
+    transaction.add("add", QObject::tr("Post a transaction"), Change, AddTransaction{});
+    transaction.add("load", QObject::tr("Post all transactions of a JSON file"), Change,
+                    LoadTransactions{});
+    transaction.add("update", QObject::tr("Change a transaction; what is not given stays"), Change,
                     UpdateTransaction{});
-    transaction.add("remove", "Remove transactions", Change,
+    transaction.add("remove", QObject::tr("Remove transactions"), Change,
                     TransactionVerb{&Navigator::onRemovedTransaction,
                                     QObject::tr("Removed the transactions %1.")});
     transaction.add(
-        "clear", "Mark transactions as seen at the bank", Change,
+        "clear", QObject::tr("Mark transactions as seen at the bank"), Change,
         TransactionVerb{&Navigator::onMarkCleared, QObject::tr("Cleared the transactions %1.")});
-    transaction.add("reconcile", "Mark transactions as part of a statement", Change,
+    transaction.add("reconcile", QObject::tr("Mark transactions as part of a statement"), Change,
                     TransactionVerb{&Navigator::onMarkReconciled,
                                     QObject::tr("Reconciled the transactions %1.")});
-    transaction.add("unreconcile", "Take the reconciliation of transactions back", Change,
+    transaction.add("unreconcile", QObject::tr("Take the reconciliation of transactions back"),
+                    Change,
                     TransactionVerb{&Navigator::onMarkUnreconciled,
                                     QObject::tr("Took the reconciliation of %1 back.")});
 
-    root.add("transfer", "Move money between bank accounts", Change, Transfer{});
-    root.add("refundable", "List what of a budget item can be refunded", Query, ListRefundable{});
-    root.add("refund", "Post a refund of a transaction", Change, Refund{});
+    root.add("transfer", QObject::tr("Move money between bank accounts"), Change, Transfer{});
+    root.add("refundable", QObject::tr("List what of a budget item can be refunded"), Query,
+             ListRefundable{});
+    root.add("refund", QObject::tr("Post a refund of a transaction"), Change, Refund{});
 }
 
 } // namespace kiv::app

@@ -4,6 +4,7 @@
 
 #include "version_changes.h"
 
+#include "foundation/local_dates.h"
 #include "storage/budget_file.h"
 
 namespace kiv::app {
@@ -31,7 +32,8 @@ constexpr const char *valueWord(const VersionNumber *)
 
 QString localTime(const QDateTime &time)
 {
-    return time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    const QDateTime local = time.toLocalTime();
+    return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm:ss"));
 }
 
 QJsonObject toJson(const Version &version)
@@ -58,7 +60,7 @@ struct Undo {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--to", to, "An older version; see history");
+        arguments.optional("--to", to, QObject::tr("An older version; see history"));
     }
     Report run(Call &call) const
     {
@@ -109,8 +111,10 @@ struct Differences {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FROM", from, "A version; the one before the last save otherwise")
-            .optional("TO", to, "A version; the file as it is otherwise");
+        arguments
+            .optional("FROM", from,
+                      QObject::tr("A version; the one before the last save otherwise"))
+            .optional("TO", to, QObject::tr("A version; the file as it is otherwise"));
     }
     Report run(Call &call) const
     {
@@ -129,10 +133,12 @@ struct Differences {
 void addVersionCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("undo", "Bring the budget back as it was before the last saved change", Change,
-             Undo{});
-    root.add("history", "List the former versions of the budget that are kept", Query, History{})
-        .add("diff", "Tell what changed from one version to another", Query, Differences{});
+    root.add("undo", QObject::tr("Bring the budget back as it was before the last saved change"),
+             Change, Undo{});
+    root.add("history", QObject::tr("List the former versions of the budget that are kept"), Query,
+             History{})
+        .add("diff", QObject::tr("Tell what changed from one version to another"), Query,
+             Differences{});
 }
 
 } // namespace kiv::app

@@ -105,10 +105,10 @@ QJsonArray itemsJson(Session &session)
 Report itemsReport(const QJsonArray &rows)
 {
     return Report(QJsonValue(rows))
-        .table({{QObject::tr("Kind"), QStringLiteral("kind")},
+        .table({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                 {QObject::tr("Name"), QStringLiteral("name")},
-                {QObject::tr("Every"), QStringLiteral("every")},
-                {QObject::tr("Next"), QStringLiteral("next")}},
+                {QObject::tr("Every"), QStringLiteral("every"), wordText},
+                {QObject::tr("Next"), QStringLiteral("next"), dayText}},
                rows, QObject::tr("It has no budget items."));
 }
 
@@ -120,13 +120,17 @@ struct Wizard {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FILE", file, "The file to be made; .budget is appended")
-            .optional("--template", answers.household, "The household; see templates list")
-            .optional("--currency", answers.preferred, "Its currency, preferred from now on")
-            .required("--bank", bank, "The household's bank")
-            .required("--account", account, "The name of its account there")
-            .optional("--type", answers.type, "The kind of account; checking unless given")
-            .optional("--balance", answers.balance, "The account's balance; 0 otherwise");
+        arguments.required("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+            .optional("--template", answers.household,
+                      QObject::tr("The household; see templates list"))
+            .optional("--currency", answers.preferred,
+                      QObject::tr("Its currency, preferred from now on"))
+            .required("--bank", bank, QObject::tr("The household's bank"))
+            .required("--account", account, QObject::tr("The name of its account there"))
+            .optional("--type", answers.type,
+                      QObject::tr("The kind of account; checking unless given"))
+            .optional("--balance", answers.balance,
+                      QObject::tr("The account's balance; 0 otherwise"));
     }
     Report run(Call &call) const
     {
@@ -155,7 +159,7 @@ struct ListTemplates {
         }
         return Report(QJsonValue(rows))
             .table({{QObject::tr("Template"), QStringLiteral("template")},
-                    {QObject::tr("Household"), QStringLiteral("household")}},
+                    {QObject::tr("Household"), QStringLiteral("household"), wordText}},
                    rows, {});
     }
 };
@@ -165,7 +169,7 @@ struct ShowTemplate {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("TEMPLATE", household, "See templates list");
+        arguments.required("TEMPLATE", household, QObject::tr("See templates list"));
     }
     Report run(Call &call) const
     {
@@ -185,11 +189,13 @@ struct ShowTemplate {
 
 void addWizardCommands(CommandGroup &root)
 {
-    root.add("wizard", "Make a new budget for a kind of household", CommandKind::Standalone,
-             Wizard{});
-    CommandGroup group = root.group("templates", "Starter budgets for the wizard");
-    group.add("list", "List the kinds of household", CommandKind::Standalone, ListTemplates{});
-    group.add("show", "Show the budget items of one", CommandKind::Standalone, ShowTemplate{});
+    root.add("wizard", QObject::tr("Make a new budget for a kind of household"),
+             CommandKind::Standalone, Wizard{});
+    CommandGroup group = root.group("templates", QObject::tr("Starter budgets for the wizard"));
+    group.add("list", QObject::tr("List the kinds of household"), CommandKind::Standalone,
+              ListTemplates{});
+    group.add("show", QObject::tr("Show the budget items of one"), CommandKind::Standalone,
+              ShowTemplate{});
 }
 
 } // namespace kiv::app

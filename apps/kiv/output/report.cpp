@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/report.h"
 
+#include "locale.h"
 #include "output/table.h"
 
+#include "foundation/local_dates.h"
+#include "foundation/presentation.h"
 #include "foundation/streams.h"
 #include "numira/error.h"
-#include "numira/money.h"
+#include "numira/local_text.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QObject>
@@ -67,9 +70,11 @@ QString amountText(const QJsonValue &value, navigation::CurrencyDisplayOptions d
         const numira::Money money =
             numira::toMoney(numira::toCurrency(code.toStdString()), amount.toStdString());
         if (displayAs == Symbol)
-            return QString::fromStdString(numira::toLocalText(money));
+            return foundation::presentationText(money);
         if (displayAs == SymbolAndCode)
-            return QString::fromStdString(numira::toLocalText(money)) + u' ' + code;
+            return foundation::presentationText(money) + u' ' + code;
+        if (hasNumberLocale())
+            return QString::fromStdString(numira::toLocalTextWithCode(money));
     } catch (const numira::Error &) {
         // What is no amount of a known currency is shown as it stands.
     }
@@ -82,6 +87,27 @@ QString amountsText(const QJsonArray &amounts, navigation::CurrencyDisplayOption
     for (const QJsonValue &amount : amounts)
         texts += amountText(amount, displayAs);
     return texts.isEmpty() ? QStringLiteral("0") : texts.join(QStringLiteral(", "));
+}
+
+QString dayText(const QJsonValue &isoDate)
+{
+    const QDate date = QDate::fromString(isoDate.toString(), Qt::ISODate);
+    return date.isValid() ? foundation::localText(date) : isoDate.toString();
+}
+
+QString wordText(const QJsonValue &word)
+{
+    return QObject::tr(word.toString().toUtf8().constData());
+}
+
+QString statusText(const QJsonValue &status)
+{
+    const QString word = status.toString();
+    if (word == u"cleared")
+        return QObject::tr("cleared");
+    if (word == u"reconciled")
+        return QObject::tr("reconciled");
+    return word == u"none" ? QObject::tr("none", "the status of a transaction") : word;
 }
 
 Report &Report::line(const QString &text)

@@ -25,12 +25,20 @@ struct Column {
 };
 
 /// An amount's JSON object as the user wants currencies to be shown:
-/// "$1,234.50", "1234.50 USD" or "$1,234.50 USD".
+/// "$1,234.50", "1234.50 USD" or "$1,234.50 USD" in English; with a locale for
+/// numbers, as that one writes them.
 [[nodiscard]] QString amountText(const QJsonValue &amount,
                                  navigation::CurrencyDisplayOptions displayAs);
 /// The texts of several, with commas between them; "0" for none.
 [[nodiscard]] QString amountsText(const QJsonArray &amounts,
                                   navigation::CurrencyDisplayOptions displayAs);
+
+/// A day as people read it. For columns, like the next two.
+[[nodiscard]] QString dayText(const QJsonValue &isoDate);
+/// A word of the command's own, such as "monthly", in the user's language.
+[[nodiscard]] QString wordText(const QJsonValue &word);
+/// "cleared", "reconciled" or "none" of a transaction, likewise.
+[[nodiscard]] QString statusText(const QJsonValue &status);
 
 /// The same JSON with everything that a terminal would obey as \uXXXX.
 [[nodiscard]] QByteArray safeJson(const QByteArray &json);

@@ -20,14 +20,13 @@ namespace {
 
 constexpr qint64 bytesMax = qint64{64} << 20;
 
-template <typename T>
-T readText(const QJsonObject &object, const char *key)
+QDate readDate(const QJsonObject &object, const char *key)
 {
     const QJsonValue value = object.value(QLatin1String(key));
     if (!value.isString())
         throw missing(QStringLiteral("\"%1\"").arg(QLatin1String(key)));
-    T read{};
-    readValue(value.toString().toStdString(), read);
+    QDate read;
+    readPlain(value.toString().toStdString(), read);
     return read;
 }
 
@@ -59,7 +58,7 @@ Transaction readTransaction(const QJsonObject &object, const AccountIndex &index
     const accounting::AccountCode credit = readAccount(object, "credit", index);
     const numira::Currency currency = index.find(debit.number())->balance().code();
     const QString description = object.value(QLatin1String("description")).toString();
-    const Transaction transaction(readText<QDate>(object, "date"), debit, credit,
+    const Transaction transaction(readDate(object, "date"), debit, credit,
                                   readMoney(object.value(QLatin1String("amount")), currency),
                                   description.isEmpty() ? std::nullopt
                                                         : std::optional(description));
@@ -136,7 +135,7 @@ numira::Money readMoney(const QJsonValue &value, const numira::Currency &otherwi
                value[QLatin1String("currency")].toString();
     }
     Amount amount;
-    readValue(text.toStdString(), amount);
+    readPlain(text.toStdString(), amount);
     return amount.in(otherwise);
 }
 

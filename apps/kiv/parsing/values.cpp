@@ -2,15 +2,19 @@
 #include "parsing/values.h"
 
 #include "errors.h"
+#include "locale.h"
 #include "parsing/similar.h"
 
 #include "budgeting/item_traits.h"
+#include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 #include "numira/error.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringDecoder>
 
+#include <array>
 #include <limits>
 
 namespace kiv::app {
@@ -55,6 +59,31 @@ Enumeration toEnumerator(const std::string &text, Enumeration lowest, Enumeratio
     throw notAChoice(word, choices);
 }
 
+/// What `plain` says; `word` is how it was written.
+Amount amountOf(const QString &word, const QString &plain)
+{
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A(?:([A-Za-z]{3}) ?)?([+-]?\d+(?:\.(\d+))?)(?: ?([A-Za-z]{3}))?\z)"));
+    const QRegularExpressionMatch match = form.match(plain);
+    if (!match.hasMatch() || (match.hasCaptured(1) && match.hasCaptured(4)))
+        throw notAnAmount(word);
+    Amount amount;
+    amount.text = word;
+    amount.digits = static_cast<unsigned>(match.capturedLength(3));
+    for (const int place : {1, 4}) {
+        if (match.hasCaptured(place))
+            readValue(match.captured(place).toStdString(), amount.currency);
+    }
+    try {
+        amount.number = numira::Decimal::fromText(match.captured(2).toStdString());
+    } catch (const numira::OverflowError &) {
+        throw amountTooLarge(word);
+    } catch (const numira::Error &) {
+        throw notAnAmount(word);
+    }
+    return amount;
+}
+
 } // namespace
 
 numira::Money Amount::in(const numira::Currency &otherwise) const
@@ -79,7 +108,7 @@ void readValue(const std::string &text, NewName &value)
     value.text = name;
 }
 
-void readValue(const std::string &text, QDate &value)
+void readPlain(const std::string &text, QDate &value)
 {
     const QString word = decoded(text);
     const QDate date = QDate::fromString(word, Qt::ISODate);
@@ -87,6 +116,15 @@ void readValue(const std::string &text, QDate &value)
     if (!date.isValid() || date.toString(Qt::ISODate) != word)
         throw notADate(word);
     value = date;
+}
+
+void readValue(const std::string &text, QDate &value)
+{
+    const QDate date = foundation::dateFromLocalText(decoded(text));
+    if (date.isValid())
+        value = date;
+    else
+        readPlain(text, value);
 }
 
 void readValue(const std::string &text, numira::Currency &value)
@@ -112,29 +150,22 @@ void readValue(const std::string &text, numira::Currency &value)
     throw notACurrency(word, byName.isEmpty() ? similarTo(word, codes) : byName.mid(0, 3));
 }
 
+void readPlain(const std::string &text, Amount &value)
+{
+    const QString word = decoded(text);
+    value = amountOf(word, word);
+}
+
 void readValue(const std::string &text, Amount &value)
 {
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A(?:([A-Za-z]{3}) ?)?([+-]?\d+(?:\.(\d+))?)(?: ?([A-Za-z]{3}))?\z)"));
     const QString word = decoded(text);
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A([A-Za-z]{3})?[ \x{A0}]?([^A-Za-z]*\d)[ \x{A0}]?([A-Za-z]{3})?\z)"));
     const QRegularExpressionMatch match = form.match(word);
-    if (!match.hasMatch() || (match.hasCaptured(1) && match.hasCaptured(4)))
-        throw notAnAmount(word);
-    Amount amount;
-    amount.text = word;
-    amount.digits = static_cast<unsigned>(match.capturedLength(3));
-    for (const int place : {1, 4}) {
-        if (match.hasCaptured(place))
-            readValue(match.captured(place).toStdString(), amount.currency);
-    }
-    try {
-        amount.number = numira::Decimal::fromText(match.captured(2).toStdString());
-    } catch (const numira::OverflowError &) {
-        throw amountTooLarge(word);
-    } catch (const numira::Error &) {
-        throw notAnAmount(word);
-    }
-    value = amount;
+    const QString number = match.captured(2);
+    const QString plain = plainNumber(number);
+    // What is plain already keeps its blanks, which are then judged.
+    value = amountOf(word, plain == number ? word : match.captured(1) + plain + match.captured(3));
 }
 
 void readValue(const std::string &text, budgeting::EventFrequency &value)
@@ -186,8 +217,9 @@ void readValue(const std::string &text, std::chrono::hours &value)
 void readValue(const std::string &text, foundation::Percentage &value)
 {
     const QString word = decoded(text);
-    static const QRegularExpression form(QStringLiteral(R"(\A(\d+(?:\.\d{1,6})?) ?%?\z)"));
-    const QRegularExpressionMatch match = form.match(word);
+    static const QRegularExpression form(QStringLiteral(R"(\A(\d+(?:\.\d{1,6})?)\z)"));
+    const QString number = word.endsWith(u'%') ? word.chopped(1).trimmed() : word;
+    const QRegularExpressionMatch match = form.match(plainNumber(number));
     bool isNumber = false;
     const double rate = match.captured(1).toDouble(&isNumber);
     if (!isNumber)
@@ -202,6 +234,16 @@ QString kindWord(budgeting::BudgetItemTypes kind)
                                          return QString::fromLatin1(
                                              budgeting::ItemTraits<Item>::word);
                                      });
+}
+
+QString kindText(budgeting::BudgetItemTypes kind)
+{
+    static constexpr std::array words{
+        QT_TRANSLATE_NOOP("QObject", "bill"), QT_TRANSLATE_NOOP("QObject", "debt"),
+        QT_TRANSLATE_NOOP("QObject", "goal"), QT_TRANSLATE_NOOP("QObject", "nontrack"),
+        QT_TRANSLATE_NOOP("QObject", "wage"),
+    };
+    return QObject::tr(words.at(static_cast<std::size_t>(kind) - 1));
 }
 
 } // namespace kiv::app

@@ -41,13 +41,18 @@ struct Amount {
 
 void readValue(const std::string &text, QString &value);
 void readValue(const std::string &text, NewName &value);
-/// ISO 8601: 2026-03-31.
+/// ISO 8601, as in 2026-03-31, or as the user's locale writes dates.
 void readValue(const std::string &text, QDate &value);
+/// ISO 8601 alone, for documents.
+void readPlain(const std::string &text, QDate &value);
 /// The alphabetic code, in any case; not "no currency".
 void readValue(const std::string &text, numira::Currency &value);
 /// "1234.50", "1234.50 USD" or "USD 1234.50": a point before the minor unit and
-/// no grouping, since both differ between countries.
+/// no grouping, since both differ between countries; or as the user's locale
+/// writes numbers, where that can be read in one way alone (see plainNumber).
 void readValue(const std::string &text, Amount &value);
+/// With a point and no grouping, for documents.
+void readPlain(const std::string &text, Amount &value);
 /// The English names, with blanks or dashes between the words.
 void readValue(const std::string &text, budgeting::EventFrequency &value);
 void readValue(const std::string &text, accounting::AccountTypes &value);
@@ -58,7 +63,7 @@ void readValue(const std::string &text, accounting::AccountNumber &value);
 void readValue(const std::string &text, accounting::TransactionNumber &value);
 void readValue(const std::string &text, std::chrono::days &value);
 void readValue(const std::string &text, std::chrono::hours &value);
-/// "2.75" or "2.75%".
+/// "2.75" or "2.75%", with the user's decimal mark or a point.
 void readValue(const std::string &text, foundation::Percentage &value);
 
 template <typename T>
@@ -71,5 +76,7 @@ void readValue(const std::string &text, std::optional<T> &value)
 
 /// The word of a kind of budget item on the command line and in JSON.
 [[nodiscard]] QString kindWord(budgeting::BudgetItemTypes kind);
+/// That word in the user's language.
+[[nodiscard]] QString kindText(budgeting::BudgetItemTypes kind);
 
 } // namespace kiv::app
