@@ -11,6 +11,9 @@ namespace kiv::interchange {
 
 namespace {
 
+/// No bank has so many, and a file of delimiters alone must not fill the memory.
+constexpr qsizetype cellsMax = 1000;
+
 class CsvReader {
 public:
     CsvReader(const QString &text, const QString &file, QChar delimiter)
@@ -24,6 +27,8 @@ public:
         while (m_at < m_text.size()) {
             CsvRecord record{{m_file, m_line}, {}};
             do {
+                if (record.cells.size() >= cellsMax)
+                    throw faults::tooManyCells(record.place, cellsMax);
                 record.cells += m_at < m_text.size() && m_text[m_at] == u'"' ? quoted() : plain();
             } while (takeDelimiter());
             takeLineEnd();
@@ -54,17 +59,19 @@ private:
     {
         const Place opened{m_file, m_line};
         QString cell;
+        bool isClosed = false;
         for (++m_at; m_at < m_text.size(); ++m_at) {
             if (m_text[m_at] == u'"') {
                 ++m_at;
-                if (m_at >= m_text.size() || m_text[m_at] != u'"')
+                isClosed = m_at >= m_text.size() || m_text[m_at] != u'"';
+                if (isClosed)
                     break;
             } else if (m_text[m_at] == u'\n') {
                 ++m_line;
             }
             cell += m_text[m_at];
         }
-        if (m_at >= m_text.size() && (m_text.back() != u'"' || m_at > m_text.size()))
+        if (!isClosed)
             throw faults::quoteNotClosed(opened);
         if (!isAtEnd() && m_text[m_at] != m_delimiter)
             throw faults::textBehindQuote({m_file, m_line});

@@ -219,6 +219,11 @@ ImportError columnNotNamed(const Place &place, const QString &option, const QStr
             QObject::tr("Say with %1 which column it is, of: %2.").arg(option, listed(columns))};
 }
 
+ImportError tooManyCells(const Place &place, qsizetype most)
+{
+    return {place, QObject::tr("The record has more than %1 cells.").arg(most)};
+}
+
 ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted)
 {
     return {place, QObject::tr("The record has %1 cells where %2 are needed.")

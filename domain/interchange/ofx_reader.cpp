@@ -23,7 +23,8 @@ using internal::OfxElement;
 /// ENCODING:UTF-8, OFX 2 an XML declaration.
 QString encodingOf(const QByteArray &bytes)
 {
-    const QByteArray header = bytes.left(std::min<qsizetype>(bytes.indexOf("<OFX>"), 2000));
+    const QByteArray start = bytes.left(2000);
+    const QByteArray header = start.left(std::max<qsizetype>(start.indexOf("<OFX>"), 0));
     const bool isXml = header.contains("<?xml");
     static const QRegularExpression pattern(
         QStringLiteral("encoding=[\"']([A-Za-z0-9_.:-]+)|CHARSET:\\s*([A-Za-z0-9-]+)"));

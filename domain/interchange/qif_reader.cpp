@@ -119,6 +119,8 @@ private:
             record.category = value;
             break;
         case u'S':
+            if (static_cast<qsizetype>(record.parts.size()) >= transactionsMax)
+                throw faults::tooManyTransactions(m_lines.place(), transactionsMax);
             record.parts.push_back({value, {}, {}, m_lines.place()});
             break;
         case u'E':

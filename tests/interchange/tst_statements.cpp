@@ -157,6 +157,8 @@ private slots:
             "'f': 'klingon' is no encoding that is known.");
         row("a quote without an end", "Date,Amount,Text\n2026-01-05,1,\"x\n", "{}",
             "'f', line 2: A quote begins here and does not end.");
+        row("an escaped quote at the end", "Date,Amount,Text\n2026-01-05,1,\"x\"\"", "{}",
+            "'f', line 2: A quote begins here and does not end.");
         row("text behind a quote", "Date,Amount,Text\n2026-01-05,1,\"x\"y\n", "{}",
             "'f', line 2: There is text between a closing quote and the next delimiter.");
         row("a column that is missing", "Date,Amount,Text\n", "{'id':'No'}",
@@ -241,6 +243,10 @@ private slots:
             "<STMTTRN><TRNTYPE>X</TRNTYPE>\n<DTPOSTED>20260105</DTPOSTED><TRNAMT>+1,5</TRNAMT>"
             "<MEMO>\n<NAME>n</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
             "2026-01-05 1.50 USD|n||");
+        row("comments and plain sections",
+            "<!-- a > b --><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1</TRNAMT><NAME>"
+            "<![CDATA[A & <B>]]></NAME></STMTTRN>\n",
+            "2026-01-05 1.00 USD|A & <B>||");
         row("a misspelt tag", good + QByteArray(good).replace("<STMTTRN>", "<STMTRN>"),
             "'f', line 17: </STMTTRN> stands where the <STMTRN> of line 17 should be closed.");
         row("a tag that is not closed", QByteArray(good).replace("</STMTTRN>", ""),

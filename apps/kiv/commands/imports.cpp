@@ -34,9 +34,12 @@ struct Import {
     void declare(Arguments &arguments)
     {
         options.declare(arguments);
-        arguments.optional("--into", into, "The account that a bank statement is about")
-            .optional("--against", against, "The other account of entries that no rule knows")
-            .flag("--keep-duplicates", keepsDuplicates, "Post what is there already, too");
+        arguments
+            .optional("--into", into, QObject::tr("The account that a bank statement is about"))
+            .optional("--against", against,
+                      QObject::tr("The other account of entries that no rule knows"))
+            .flag("--keep-duplicates", keepsDuplicates,
+                  QObject::tr("Post what is there already, too"));
     }
 
     Report run(Call &call) const
@@ -140,7 +143,7 @@ private:
             for (const accounting::Account &account : index.accounts()) {
                 const AccountCode &code = account.code();
                 if (code.name() == entry.category || index.path(code.number()) == entry.category)
-                    return code;
+                    return index.find(entry.category).code(); // refused when there are several
             }
         }
         if (!against)
@@ -209,7 +212,7 @@ private:
                           {QObject::tr("New account"), QStringLiteral("path")}},
                          accounts, QString());
         report.table({{QObject::tr("Line"), QStringLiteral("line")},
-                      {QObject::tr("Date"), QStringLiteral("date")},
+                      {QObject::tr("Date"), QStringLiteral("date"), dayText},
                       {QObject::tr("Description"), QStringLiteral("description")},
                       {QObject::tr("Debit"), QStringLiteral("debitPath")},
                       {QObject::tr("Credit"), QStringLiteral("creditPath")},
@@ -226,7 +229,8 @@ private:
 
 void addImportCommands(CommandGroup &root)
 {
-    root.add("import", "Post what a journal or a bank statement holds, or nothing of it",
+    root.add("import",
+             QObject::tr("Post what a journal or a bank statement holds, or nothing of it"),
              CommandKind::Change, Import{});
 }
 

@@ -52,6 +52,7 @@ namespace faults {
                                        const QStringList &columns);
 [[nodiscard]] ImportError columnNotNamed(const Place &place, const QString &option,
                                          const QStringList &columns);
+[[nodiscard]] ImportError tooManyCells(const Place &place, qsizetype most);
 [[nodiscard]] ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted);
 [[nodiscard]] ImportError ownTable(const Place &place);
 [[nodiscard]] ImportError bothWays(const Place &place);

@@ -89,7 +89,9 @@ void JournalBooks::add(AutomatedEntry automated)
 {
     Rule rule{QRegularExpression(automated.pattern, QRegularExpression::CaseInsensitiveOption),
               std::move(automated.entry)};
-    if (!rule.pattern.isValid() || automated.pattern.size() > 200)
+    // Each is tried on each posting.
+    constexpr std::size_t rulesMax = 100;
+    if (!rule.pattern.isValid() || automated.pattern.size() > 200 || m_rules.size() >= rulesMax)
         throw faults::badPattern(rule.entry.place, automated.pattern);
     for (const Posting &posting : rule.entry.postings) {
         if (!posting.amount || posting.cost || posting.assertion)
@@ -100,6 +102,8 @@ void JournalBooks::add(AutomatedEntry automated)
 
 void JournalBooks::add(Entry entry)
 try {
+    if (++m_entries > transactionsMax)
+        throw faults::tooManyTransactions(entry.place, transactionsMax);
     if (entry.postings.empty())
         throw faults::tooFewPostings(entry.place);
     for (const Posting &posting : entry.postings) {
@@ -415,9 +419,17 @@ void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
 void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, const Booking &credit,
                                   const numira::Money &amount)
 {
+    // What is kept of comments in a description; each pair of postings has all.
+    constexpr qsizetype commentsMax = 2000;
+    qsizetype length = 0;
     QStringList texts{entry.description};
     for (const QStringList *comments : {&entry.comments, &debit.comments, &credit.comments}) {
         for (const QString &comment : *comments) {
+            length += comment.size() + 1;
+            if (length > commentsMax) {
+                notice(QObject::tr("Of long comments the beginning is kept."));
+                break;
+            }
             if (!comment.isEmpty() && !texts.contains(comment))
                 texts += comment;
         }

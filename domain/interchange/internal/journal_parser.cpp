@@ -6,7 +6,6 @@
 #include "numira/error.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
 
 namespace kiv::interchange::internal {
@@ -108,6 +107,8 @@ void JournalParser::parse(const QByteArray &bytes, const QString &file, int dept
         } else if (isIndented(line)) {
             if (isBlank(line))
                 continue;
+            if (block && static_cast<qsizetype>(block->lines.size()) > transactionsMax)
+                throw faults::tooManyTransactions(lines.place(), transactionsMax);
             if (block)
                 block->lines.emplace_back(lines.place(), line.trimmed().toString());
             else if (!isComment(line.trimmed()))
@@ -149,7 +150,8 @@ void JournalParser::takeDirective(const Block &block)
     // Directives once began with "!" or "@".
     if (rest.startsWith(u'!') || rest.startsWith(u'@'))
         rest = rest.mid(1);
-    const QString word = rest.section(QRegularExpression(QStringLiteral("\\s+")), 0, 0);
+    const auto blank = std::ranges::find_if(rest, [](QChar c) { return c.isSpace(); });
+    const QString word = rest.left(blank - rest.begin());
     rest = rest.mid(word.size()).trimmed();
     if (word == u"account") {
         takeAccount(block, rest);
@@ -311,8 +313,6 @@ void JournalParser::addPostings(const Block &block, Entry &entry) const
         if (isComment(line) && line.front() != u'*' && line.front() != u'|') {
             const QString comment = line.mid(1).trimmed();
             (entry.postings.empty() ? entry.comments : entry.postings.back().comments) += comment;
-        } else if (static_cast<qsizetype>(entry.postings.size()) >= transactionsMax) {
-            throw faults::tooManyTransactions(place, transactionsMax);
         } else {
             entry.postings.push_back(readPosting(place, line));
             Posting &posting = entry.postings.back();

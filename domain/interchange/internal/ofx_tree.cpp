@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/ofx_tree.h"
 
+#include "interchange/draft.h"
+
 #include "interchange/internal/faults.h"
 
 #include <QtCore/QStringList>
@@ -13,6 +15,8 @@ namespace kiv::interchange::internal {
 namespace {
 
 constexpr std::size_t depthMax = 32;
+/// A transaction has about ten.
+constexpr qsizetype elementsMax = 16 * transactionsMax;
 
 /// The characters that entities stand for. What begins with an ampersand and is
 /// no entity is left as it is, since banks write names so.
@@ -68,8 +72,28 @@ private:
         m_at = at;
     }
 
+    /// Passes over a comment, or takes a section of plain characters for a
+    /// value. Tells whether one of them stood there.
+    bool takeSection()
+    {
+        const QStringView rest = QStringView(m_text).mid(m_at);
+        const bool isComment = rest.startsWith(u"<!--");
+        if (!isComment && !rest.startsWith(u"<![CDATA["))
+            return false;
+        const qsizetype end =
+            m_text.indexOf(isComment ? QStringLiteral("-->") : QStringLiteral("]]>"), m_at);
+        if (end < 0)
+            throw faults::brokenTag(m_place);
+        if (!isComment && !m_open.empty())
+            m_open.back().value += m_text.mid(m_at + 9, end - m_at - 9).simplified();
+        advanceTo(end + 3);
+        return true;
+    }
+
     void takeTag()
     {
+        if (takeSection())
+            return;
         const qsizetype end = m_text.indexOf(u'>', m_at);
         QStringView name =
             end < 0 ? QStringView() : QStringView(m_text).mid(m_at + 1, end - m_at - 1);
@@ -97,6 +121,8 @@ private:
     {
         if (!m_open.empty() && isValueTag(m_open.back().tag))
             finish();
+        if (++m_count > elementsMax)
+            throw faults::tooManyTransactions(m_place, transactionsMax);
         if (m_open.size() >= depthMax)
             throw faults::nestedTooDeeply(m_place);
         m_open.push_back({tag, m_place});
@@ -112,7 +138,7 @@ private:
             OfxElement &element = m_open.back();
             if (!element.children.empty())
                 throw faults::brokenTag(m_place);
-            element.value = withoutEntities(value);
+            element.value += withoutEntities(value);
             advanceTo(end);
             const QString closing = QStringLiteral("</%1>").arg(element.tag);
             if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive))
@@ -151,6 +177,7 @@ private:
     const QString &m_text;
     Place m_place;
     qsizetype m_at = 0;
+    qsizetype m_count = 0;
     std::vector<OfxElement> m_open;
     std::optional<OfxElement> m_root;
 };
