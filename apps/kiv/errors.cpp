@@ -133,13 +133,13 @@ UsageError openQuote()
     return UsageError(QObject::tr("A quote is not closed."));
 }
 
-UsageError unreadableInput(const QString &name, const QString &reason)
 UsageError notAProfileName(const QString &name)
 {
     return UsageError(
         QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
 }
 
+UsageError unreadableInput(const QString &name, const QString &reason)
 {
     return UsageError(QObject::tr("Cannot understand %1: %2.").arg(name, reason));
 }
@@ -199,12 +199,16 @@ Refusal surveyGivenUp()
 
 Refusal ratesNotFetched(const QString &reason)
 {
-    return Refusal(withReason(QObject::tr("The exchange rates could not be fetched."), reason));
+    return Refusal(
+        withReason(QObject::tr("The exchange rates could not be fetched; try again later, or set "
+                               "them with kiv rates set."),
+                   reason));
 }
 
 Refusal releasesNotFetched(const QString &reason)
 {
-    return Refusal(withReason(QObject::tr("The releases could not be fetched."), reason));
+    return Refusal(
+        withReason(QObject::tr("The releases could not be fetched; try again later."), reason));
 }
 
 Refusal wizardFailed(const QString &reason)
@@ -258,7 +262,6 @@ Refusal noSuchTransaction(const QString &number)
                           QObject::tr("kiv transactions lists those that there are")));
 }
 
-Refusal fileExists(const QString &path)
 Refusal noSuchProfile(const QString &name, const QStringList &present)
 {
     return Refusal(
@@ -274,6 +277,7 @@ Refusal noOtherAccount(const QString &entry)
         QObject::tr("Say with --against which account is the other side of %1.").arg(entry));
 }
 
+Refusal fileExists(const QString &path)
 {
     return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));
 }
@@ -283,12 +287,12 @@ Refusal cannotWriteOutput(const QString &reason)
     return Refusal(QObject::tr("Cannot write the output: %1.").arg(reason));
 }
 
-Refusal cannotRead(const QString &path, const QString &reason)
 Refusal cannotWrite(const QString &path, const QString &reason)
 {
     return Refusal(QObject::tr("Cannot write '%1': %2.").arg(path, reason));
 }
 
+Refusal cannotRead(const QString &path, const QString &reason)
 {
     return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));
 }

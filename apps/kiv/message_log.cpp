@@ -53,6 +53,11 @@ void MessageLog::take(QtMsgType type, const QString &message)
     complain(isWarning ? QObject::tr("warning: %1").arg(message) : message);
 }
 
+QString reasonIn(const QString &warning, const QString &sentence)
+{
+    return warning.startsWith(sentence) ? warning.mid(sentence.size()).trimmed() : QString();
+}
+
 void complain(const QString &text)
 {
     QString told = text;

@@ -46,6 +46,10 @@ private:
     QtMessageHandler m_previous = nullptr;
 };
 
+/// What a warning of the log tells behind its sentence; nothing of one that
+/// begins with another sentence.
+[[nodiscard]] QString reasonIn(const QString &warning, const QString &sentence);
+
 /// Writes "kiv: " and the text as one line to standard error, with nothing in it
 /// that a terminal would obey.
 void complain(const QString &text);
