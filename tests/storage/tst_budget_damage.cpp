@@ -4,12 +4,15 @@
 #include "scratch_folder.h"
 
 #include "storage/budget_inspection.h"
+#include "support/damage.h"
 #include "support/message_log.h"
 
 #include <QtTest/QTest>
 
 #include <ctime>
 #include <random>
+
+#include <sys/resource.h>
 
 using namespace kiv;
 using storage::StorageFailure;
@@ -66,6 +69,19 @@ QString verdictsOn(const QString &path)
                : verdicts + QStringLiteral(" and the budget");
 }
 
+/// As many transactions as there are numbers for.
+Data fullBudget()
+{
+    Data data = smallBudget();
+    const numira::Currency usd = numira::toCurrency("USD");
+    for (int i = 2; i < 65'535; ++i)
+        data.generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), accounting::AccountNumber(1),
+                                 accounting::AccountNumber(2),
+                                 numira::Money(usd, std::uint64_t(i), 0),
+                                 QStringLiteral("shopping")});
+    return data;
+}
+
 } // namespace
 
 class BudgetDamageTest final : public QObject {
@@ -73,13 +89,16 @@ class BudgetDamageTest final : public QObject {
 
 private slots:
     void noFlippedBitAndNoTruncationIsRead();
+    void noFlippedBitOfTheSmallestFileIsRead();
+    void noFlippedBitOfTheLargestFileIsRead();
     void hostileFilesAreRefusedAtOnce_data();
     void hostileFilesAreRefusedAtOnce();
     void aSealThatWasMadeAgainIsRight();
     void everyPromiseIsJudged();
 
 private:
-    test::ScratchFolder m_folder;
+    test::ScratchFolder m_folder{QFileInfo(u"/dev/shm"_qs).isWritable() ? u"/dev/shm"_qs
+                                                                        : QDir::tempPath()};
     const QString m_path = m_folder.path(QStringLiteral("a.budget"));
 
     /// Whether these bytes are refused, or read as what they were.
@@ -114,6 +133,41 @@ void BudgetDamageTest::noFlippedBitAndNoTruncationIsRead()
             m_folder.write(QStringLiteral("a.budget"), whole.first(size));
             QVERIFY(test::failureOf([&] { (void)test::load(m_path); }));
         }
+    }
+}
+
+void BudgetDamageTest::noFlippedBitOfTheSmallestFileIsRead()
+{
+    // Each bit and each size when there is time, otherwise some of them.
+    const int stride = randomRuns(0) > 0 ? 1 : 97;
+    test::store(m_path, {});
+    const QByteArray whole = m_folder.read(QStringLiteral("a.budget"));
+    for (qsizetype bit = 0; bit < 8 * whole.size(); bit += stride) {
+        QByteArray flipped = whole;
+        flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
+        if (!isRefusedOrEqual(flipped, {}))
+            QFAIL(qPrintable(QStringLiteral("bit %1").arg(bit)));
+    }
+    for (qsizetype size = 0; size < whole.size(); size += stride) {
+        m_folder.write(QStringLiteral("a.budget"), whole.first(size));
+        QVERIFY(test::failureOf([&] { (void)test::load(m_path); }));
+    }
+}
+
+void BudgetDamageTest::noFlippedBitOfTheLargestFileIsRead()
+{
+    const Data data = fullBudget();
+    test::store(m_path, data);
+    const QByteArray whole = m_folder.read(QStringLiteral("a.budget"));
+    const unsigned seed = std::random_device()();
+    std::mt19937 random(seed);
+    std::uniform_int_distribution<qsizetype> bits(0, 8 * whole.size() - 1);
+    for (int run = randomRuns(3); run > 0; --run) {
+        const qsizetype bit = bits(random);
+        QByteArray flipped = whole;
+        flipped[bit / 8] = static_cast<char>(flipped[bit / 8] ^ (1 << (bit % 8)));
+        if (!isRefusedOrEqual(flipped, data))
+            QFAIL(qPrintable(QStringLiteral("bit %1").arg(bit)));
     }
 }
 
@@ -152,8 +206,23 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
          "NOT NULL, currency TEXT NOT NULL, closed INTEGER NOT NULL, holds_openings INTEGER NOT "
          "NULL, opened_by INTEGER) STRICT' WHERE name = 'accounts'"});
 
+    row("stored generated column", {"CREATE TABLE n(a INTEGER, b AS (a + 1) STORED)"});
+    row("table more", {"CREATE TABLE n(a INTEGER) STRICT"});
+    row("column more", {"ALTER TABLE accounts ADD COLUMN note TEXT"});
+    row("column renamed", {"ALTER TABLE accounts RENAME COLUMN closed TO shut"});
+    row("table renamed", {"ALTER TABLE surveys RENAME TO audits"});
+    row("tree of rectangles", {"CREATE VIRTUAL TABLE r USING rtree(i, a, b)"});
+    row("trigger that never ends",
+        {"CREATE TRIGGER t AFTER INSERT ON banks BEGIN INSERT INTO banks SELECT new.id + 1, "
+         "new.id + 1, 0; END"});
+    row("larger pages", {"PRAGMA page_size = 65536; VACUUM"});
+    row("statistics", {"ANALYZE"});
+
     row("account under itself", {"UPDATE accounts SET parent = 1 WHERE number = 1"});
     row("circle of parents", {"UPDATE accounts SET parent = 3 - number WHERE number < 3"});
+    row("circle of three parents",
+        {"INSERT INTO accounts SELECT 3, name, 1, type, currency, closed, 0, NULL FROM accounts "
+         "WHERE number = 1; UPDATE accounts SET parent = 4 - number WHERE number IN (1, 3)"});
     row("missing parent", {"UPDATE accounts SET parent = 9"});
     row("account number too high", {"UPDATE accounts SET number = 4294967296 WHERE number = 2"});
     row("account type that is none", {"UPDATE accounts SET type = 6"});
@@ -213,6 +282,11 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce()
     const std::clock_t start = std::clock();
     QCOMPARE(test::failureOf([&] { (void)test::load(m_path); }), failure);
     QVERIFY(std::clock() - start < CLOCKS_PER_SEC);
+#ifndef __SANITIZE_ADDRESS__
+    rusage usage = {};
+    ::getrusage(RUSAGE_SELF, &usage);
+    QVERIFY(usage.ru_maxrss < 300 * 1024); // of the whole program so far
+#endif
     const QString verdicts = verdictsOn(m_path);
     QVERIFY2(verdicts.size() == 5 && verdicts.count(u'B') == 1, qPrintable(verdicts));
     QCOMPARE(m_folder.read(QStringLiteral("a.budget")), before);

@@ -113,7 +113,7 @@ std::map<std::string, int> callsOf(Saver save)
 QString firstBrokenPromise(Saver save, const std::string &call, int count)
 {
     for (int from = 1; from <= count; ++from) {
-        for (const int error : {ENOSPC, EIO, EACCES, EPERM, EOPNOTSUPP}) {
+        for (const int error : {ENOSPC, EIO, EACCES, EDQUOT, EROFS, EPERM, EOPNOTSUPP}) {
             for (const int times : {1, 1000}) {
                 test::FailingCalls failing;
                 failing.name = call;
