@@ -58,7 +58,7 @@ struct Export {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--format", format, "journal (unless given), csv or json");
+        arguments.optional("--format", format, QObject::tr("journal (unless given), csv or json"));
     }
     Report run(Call &call) const
     {
@@ -81,7 +81,8 @@ struct Export {
 
 void addExportCommands(CommandGroup &root)
 {
-    root.add("export", "Write the ledger for other programs", CommandKind::Query, Export{});
+    root.add("export", QObject::tr("Write the ledger for other programs"), CommandKind::Query,
+             Export{});
 }
 
 } // namespace kiv::app

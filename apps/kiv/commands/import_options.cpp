@@ -76,30 +76,39 @@ private:
 
 void ImportOptions::declare(Arguments &arguments)
 {
-    arguments.required("FILE", file, "The file; - for standard input")
-        .optional("--format", format, "journal, csv, ofx or qif; guessed otherwise")
-        .optional("--encoding", m_encoding, "The file's encoding; UTF-8 otherwise")
-        .optional("--decimal", m_decimal, "The decimal mark: . or ,")
-        .optional("--date-format", m_dateFormat, "How days are written, like DD.MM.YYYY")
-        .optional("--currency", m_currency, "The currency of amounts that have none (journal)")
-        .several("--root", m_roots, "What a root is, like Aktiva=asset (journal)")
-        .several("--commodity", m_commodities, "Which currency a name means, like Fr=CHF (journal)")
-        .optional("--statement", m_statement, "The bank's number of the account (ofx)")
-        .optional("--profile", profile, "Read the file as this saved profile says")
-        .optional("--save-profile", savedAs, "Save how the file was read under this name")
-        .optional("--date-column", m_date, "The column of the day, by heading or number (csv)")
-        .optional("--amount-column", m_amount, "The column of the amount (csv)")
-        .optional("--in-column", m_in, "The column of what came in (csv)")
-        .optional("--out-column", m_out, "The column of what went out (csv)")
-        .optional("--sign-column", m_sign, "The column that tells the sign (csv)")
-        .several("--negative", m_negative, "What stands there when money went out (csv)")
-        .several("--text-column", m_texts, "A column of the description (csv)")
-        .optional("--id-column", m_id, "The column of the bank's identifier (csv)")
-        .optional("--currency-column", m_currencyColumn, "The column of the currency (csv)")
-        .optional("--delimiter", m_delimiter, "What stands between cells; guessed otherwise (csv)")
-        .optional("--skip", m_skip, "How many lines stand above the headings (csv)")
-        .flag("--no-headings", m_hasNoHeadings, "The first line is an entry already (csv)")
-        .flag("--negate", m_isNegated, "Money that went out is positive (csv)");
+    arguments.required("FILE", file, QObject::tr("The file; - for standard input"))
+        .optional("--format", format, QObject::tr("journal, csv, ofx or qif; guessed otherwise"))
+        .optional("--encoding", m_encoding, QObject::tr("The file's encoding; UTF-8 otherwise"))
+        .optional("--decimal", m_decimal, QObject::tr("The decimal mark: . or ,"))
+        .optional("--date-format", m_dateFormat,
+                  QObject::tr("How days are written, like DD.MM.YYYY"))
+        .optional("--currency", m_currency,
+                  QObject::tr("The currency of amounts that have none (journal)"))
+        .several("--root", m_roots, QObject::tr("What a root is, like Aktiva=asset (journal)"))
+        .several("--commodity", m_commodities,
+                 QObject::tr("Which currency a name means, like Fr=CHF (journal)"))
+        .optional("--statement", m_statement, QObject::tr("The bank's number of the account (ofx)"))
+        .optional("--profile", profile, QObject::tr("Read the file as this saved profile says"))
+        .optional("--save-profile", savedAs,
+                  QObject::tr("Save how the file was read under this name"))
+        .optional("--date-column", m_date,
+                  QObject::tr("The column of the day, by heading or number (csv)"))
+        .optional("--amount-column", m_amount, QObject::tr("The column of the amount (csv)"))
+        .optional("--in-column", m_in, QObject::tr("The column of what came in (csv)"))
+        .optional("--out-column", m_out, QObject::tr("The column of what went out (csv)"))
+        .optional("--sign-column", m_sign, QObject::tr("The column that tells the sign (csv)"))
+        .several("--negative", m_negative,
+                 QObject::tr("What stands there when money went out (csv)"))
+        .several("--text-column", m_texts, QObject::tr("A column of the description (csv)"))
+        .optional("--id-column", m_id, QObject::tr("The column of the bank's identifier (csv)"))
+        .optional("--currency-column", m_currencyColumn,
+                  QObject::tr("The column of the currency (csv)"))
+        .optional("--delimiter", m_delimiter,
+                  QObject::tr("What stands between cells; guessed otherwise (csv)"))
+        .optional("--skip", m_skip, QObject::tr("How many lines stand above the headings (csv)"))
+        .flag("--no-headings", m_hasNoHeadings,
+              QObject::tr("The first line is an entry already (csv)"))
+        .flag("--negate", m_isNegated, QObject::tr("Money that went out is positive (csv)"));
 }
 
 ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const

@@ -73,12 +73,15 @@ struct ShowReport {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--from", from, "In the first month; eleven months before otherwise")
-            .optional("--to", to, "The last day; today otherwise")
-            .flag("--html", isHtml, "Print one HTML page, with charts, to be read or printed")
-            .flag("--chart", hasCharts, "Draw the charts on the terminal")
-            .optional("--title", title, "The title of the page")
-            .dated("The last day, where --to is not given");
+        arguments
+            .optional("--from", from,
+                      QObject::tr("In the first month; eleven months before otherwise"))
+            .optional("--to", to, QObject::tr("The last day; today otherwise"))
+            .flag("--html", isHtml,
+                  QObject::tr("Print one HTML page, with charts, to be read or printed"))
+            .flag("--chart", hasCharts, QObject::tr("Draw the charts on the terminal"))
+            .optional("--title", title, QObject::tr("The title of the page"))
+            .dated(QObject::tr("The last day, where --to is not given"));
     }
 
     Report run(Call &call) const
@@ -145,7 +148,7 @@ private:
                        rows, QString());
         }
         report.heading(QObject::tr("Budget against actual"))
-            .table({{QObject::tr("Kind"), QStringLiteral("kind")},
+            .table({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Item"), QStringLiteral("name")},
                     {QObject::tr("Planned a month"), QStringLiteral("planned")},
                     {QObject::tr("In %1").arg(labels.back()), QStringLiteral("last")}},
@@ -157,7 +160,7 @@ private:
 
 void addReportCommands(CommandGroup &root)
 {
-    root.add("report", "Show income, expenses, budget and net worth month by month",
+    root.add("report", QObject::tr("Show income, expenses, budget and net worth month by month"),
              CommandKind::Query, ShowReport{});
 }
 
