@@ -93,6 +93,8 @@ Topic budgetItems()
         {"update unknown debt", updated(item<Debt>("Car"))},
         {"update with tags of another", mixedUp(gas, true)},
         {"update bill at a bank", updated(gas, checking)},
+        {"update nontrack at a bank", updated(item<Nontrack>("Food"), checking)},
+        {"update wage at a bank", updated(item<Wage>("Salary"), checking)},
         {"update unknown kind",
          [=](N &n) { n.onUpdated(element(), unknown, gas, {}, unknownTags); }},
         {"rename", renamed(BudgetItemTypes::Bill, "Rent", "Home")},
@@ -299,6 +301,19 @@ Topic transactions()
 
 // ---- processing, surveys, configuration ----------------------------------------
 
+/// Changes the settings that are shown.
+template <typename Change>
+void configured(N &n, Change &&change)
+{
+    navigation::ConfigurationData data;
+    const auto shown =
+        QObject::connect(&n, &Navigator::showConfigure, &n, [&](const auto &now) { data = now; });
+    n.onPrepareShowConfigure();
+    QObject::disconnect(shown);
+    change(data);
+    n.onConfigureUpdated(data);
+}
+
 Topic processing()
 {
     const auto due = [](BudgetItemTypes type, const char *name) {
@@ -339,10 +354,12 @@ Topic processing()
 
 Topic surveys()
 {
-    const auto complete = [](const char *balance, std::uint32_t account) {
+    const auto complete = [](const char *balance, std::uint32_t account,
+                             const surveying::Distribution &distributed = {}) {
         return [=](N &n) {
             n.onCompletedSurvey(day("2999-12-31"), atFirst(account, BankAccountTypes::Checking),
-                                usd(balance), {txn(1), txn(2), txn(3)}, {}, {}, {}, usd("0"));
+                                usd(balance), {txn(1), txn(2), txn(3)}, {}, {}, distributed,
+                                usd("0"));
         };
     };
     const auto generate = [](const char *bank, std::uint32_t account) {
@@ -354,6 +371,13 @@ Topic surveys()
         {"complete", complete("2485", 1)},
         {"complete with another balance", complete("3000", 1)},
         {"complete without an account", complete("2485", 99)},
+        {"complete within the user's own window",
+         [=](N &n) {
+             configured(n, [](auto &data) { data.surveyWindow = foundation::Percentage(20, 6); });
+             complete("3000", 1)(n);
+         }},
+        {"complete with what is set aside for no item",
+         complete("2485", 1, {{{BudgetItemTypes::Bill, source("Gone")}, {}}})},
         {"last reconciliation",
          [=](N &n) { complete("2485", 1)(n), n.onLookUpLastReconciliation(no(1)); }},
         {"last reconciliation of none", [](N &n) { n.onLookUpLastReconciliation(no(1)); }},
@@ -369,14 +393,10 @@ Topic configuration()
 {
     const auto configure = [](int hours, std::set<numira::Currency> usable) {
         return [=](N &n) {
-            navigation::ConfigurationData data;
-            const auto shown = QObject::connect(&n, &Navigator::showConfigure, &n,
-                                                [&](const auto &now) { data = now; });
-            n.onPrepareShowConfigure();
-            QObject::disconnect(shown);
-            data.hoursInWeek = std::chrono::hours(hours);
-            data.usableCurrencies = usable;
-            n.onConfigureUpdated(data);
+            configured(n, [&](auto &data) {
+                data.hoursInWeek = std::chrono::hours(hours);
+                data.usableCurrencies = usable;
+            });
             n.onPrepareShowConfigure();
         };
     };
@@ -387,6 +407,12 @@ Topic configuration()
         {"store without a used currency",
          [=](N &n) {
              added(item<Bill>("Gîte", money("EUR", "9")))(n), configure(30, {dollar})(n);
+         }},
+        {"store without a currency of the ledger",
+         [=](N &n) {
+             n.onAddedBankAccount(QStringLiteral("Card"), BankAccountTypes::Cash,
+                                  money("EUR", "5"));
+             configure(30, {dollar})(n);
          }},
         {"show rates", [](N &n) { n.onPrepareShowExchangeRates(); }},
         {"store no rates", [](N &n) { n.onStoreExchangeRates({}); }},

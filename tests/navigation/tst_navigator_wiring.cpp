@@ -6,6 +6,7 @@
 #include "conversion/open_exchange_rates_source.h"
 #include "navigation/internal/update_notifier.h"
 #include "networking/request_manager.h"
+#include "updating/release_information_fetcher.h"
 
 #include <QtCore/QFile>
 
@@ -34,6 +35,7 @@ private slots:
     void nothingHappensOnceItIsGone();
     void itMayGoWhileItWaitsForRates();
     void partsMayBeDestroyedFirst();
+    void fetchersGoWithTheirAnswers();
     void acknowledgedUpdateStartsTheChecksAgain();
 
 private:
@@ -243,6 +245,17 @@ void NavigatorWiring::partsMayBeDestroyedFirst()
     navigator.onFetchReleaseNotes();
     emit navigator.updateAvailableAcknowledged();
     QCOMPARE(desk.take(), texts({"fetchedReleaseNotes(())", "updateAvailableAcknowledged()"}));
+}
+
+void NavigatorWiring::fetchersGoWithTheirAnswers()
+{
+    Desk desk;
+    (void)desk.take();
+    desk.navigator->onFetchReleaseNotes();
+    QVERIFY(desk.navigator->findChild<updating::ReleaseInformationFetcher *>() != nullptr);
+    QCOMPARE(desk.takeAfterWaiting(), texts({"fetchedReleaseNotes(())"}));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(desk.navigator->findChild<updating::ReleaseInformationFetcher *>() == nullptr);
 }
 
 void NavigatorWiring::acknowledgedUpdateStartsTheChecksAgain()
