@@ -86,6 +86,13 @@ bool GeneralLedger::hasLedger(const AccountCode &code) const noexcept
     return hasLedger(code.number());
 }
 
+bool GeneralLedger::hasLedgerNamed(const QString &name) const noexcept
+{
+    return std::ranges::any_of(m_state->accounts(), [&name](const auto &account) {
+        return account.constData()->code.name() == name;
+    });
+}
+
 LedgerAccount GeneralLedger::ledger(AccountNumber number) const
 {
     return {m_state, number};
@@ -146,7 +153,7 @@ numira::Money GeneralLedger::refundable(TransactionNumber number) const
     const internal::TransactionRecord &record = m_state->record(number);
     if (record.refundOf)
         return numira::Money(record.amount.code());
-    return record.amount - record.refunded;
+    return record.amount - record.refunded();
 }
 
 bool operator==(const GeneralLedger &a, const GeneralLedger &b)
@@ -170,12 +177,9 @@ QDebug operator<<(QDebug debug, const GeneralLedger &ledger)
 std::set<numira::Currency> containedCurrencies(const GeneralLedger &ledger)
 {
     const LedgerState &state = *ledger.m_state;
-    std::set<numira::Currency> currencies;
+    std::set<numira::Currency> currencies = state.table().currencies();
     for (const auto &account : state.accounts())
         currencies.insert(account->currency());
-    const internal::NumberSet &numbers = state.table().numbers();
-    for (auto number = numbers.next({}); number.isValid(); number = numbers.next(number))
-        currencies.insert(state.record(number).amount.code());
     return currencies;
 }
 

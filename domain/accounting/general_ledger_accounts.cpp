@@ -70,9 +70,14 @@ std::optional<TransactionNumber>
 GeneralLedger::add(const Account &account, AccountNumberGenerator &generator, QDate openedOn)
 {
     internal::checkNewAccount(*m_state, account.type(), account.code());
-    GeneralLedger next(*this);
     const AccountNumber number = account.code().number();
     const numira::Money &balance = account.balance();
+    if (balance.isZero() && !account.isClosed()) {
+        // In one step, so no copy is needed to go back to.
+        change().insertAccount(account.type(), account.code(), balance.code(), false);
+        return std::nullopt;
+    }
+    GeneralLedger next(*this);
     next.change().insertAccount(account.type(), account.code(), balance.code(), false);
 
     std::optional<TransactionNumber> opening;

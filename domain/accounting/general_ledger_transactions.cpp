@@ -41,15 +41,15 @@ void checkRefunds(const LedgerState &state, TransactionNumber number,
         throw internal::accountsHeldByRefund(number);
     if (before.refundOf) {
         const TransactionRecord &original = state.record(*before.refundOf);
-        const numira::Money left = original.amount - (original.refunded - before.amount);
+        const numira::Money left = original.amount - (original.refunded() - before.amount);
         if (after.amount > left)
             throw internal::refundTooLarge(*before.refundOf, after.amount, left);
         return;
     }
     if (after.amount.code() != before.amount.code())
         throw internal::currencyHeldByRefunds(number, before.amount.code());
-    if (after.amount < before.refunded)
-        throw internal::belowItsRefunds(number, after.amount, before.refunded);
+    if (after.amount < before.refunded())
+        throw internal::belowItsRefunds(number, after.amount, before.refunded());
 }
 
 /// Throws TransactionError when `after` leaves an account that this transaction
@@ -89,7 +89,7 @@ TransactionNumber GeneralLedger::postNew(const Transaction &transaction,
     const TransactionNumber number = m_state->table().nextFree();
     if (!number.isValid())
         throw internal::ledgerIsFull();
-    change().exchange(number, record);
+    change().exchange(number, std::move(record));
     return number;
 }
 
@@ -108,9 +108,8 @@ void GeneralLedger::repost(TransactionNumber number, const Transaction &transact
     after.creditStatus =
         after.credit == before.credit ? before.creditStatus : TransactionStatuses::None;
     after.refundOf = before.refundOf;
-    if (before.hasRefunds())
-        after.refunded = before.refunded;
-    change().exchange(number, after);
+    after.refundedAmount = before.refundedAmount;
+    change().exchange(number, std::move(after));
 }
 
 void GeneralLedger::remove(TransactionNumber number)
@@ -118,7 +117,7 @@ void GeneralLedger::remove(TransactionNumber number)
     checkChangeable(*m_state, number);
     const TransactionRecord &record = m_state->record(number);
     if (record.hasRefunds())
-        throw internal::hasRefunds(number, record.refunded);
+        throw internal::hasRefunds(number, record.refunded());
     change().exchange(number, std::nullopt);
 }
 
@@ -182,7 +181,7 @@ TransactionNumber GeneralLedger::refund(TransactionNumber number, const numira::
     const Transaction giveBack = enteredIn(
         Transaction(postedOn, original.credit, original.debit, amount, original.description),
         original.amount.code(), number);
-    const numira::Money left = original.amount - original.refunded;
+    const numira::Money left = original.amount - original.refunded();
     if (giveBack.amount().isPositive() && giveBack.amount() > left)
         throw internal::refundTooLarge(number, giveBack.amount(), left);
     return postNew(giveBack, number);

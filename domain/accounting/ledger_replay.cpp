@@ -62,11 +62,11 @@ void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber origin
         refund.debit != refunded.credit || refund.credit != refunded.debit ||
         refund.amount.code() != refunded.amount.code() || isOpening(state, number, refund))
         throw internal::notARefundOf(number, original);
-    const numira::Money left = refunded.amount - refunded.refunded;
+    const numira::Money left = refunded.amount - refunded.refunded();
     if (refund.amount > left)
         throw internal::refundTooLarge(original, refund.amount, left);
     refund.refundOf = original;
-    m_ledger.change().exchange(number, refund);
+    m_ledger.change().exchange(number, std::move(refund));
 }
 
 void LedgerReplay::markOpening(AccountNumber account, TransactionNumber number)

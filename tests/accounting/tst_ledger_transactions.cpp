@@ -192,6 +192,16 @@ private slots:
         ledger.remove(txn(65'535));
         ledger.remove(txn(65'534));
         QCOMPARE(ledger.post(transfer(no(4), no(6), usd("0.01"))), txn(65'534));
+
+        // What is left is the same, however it was kept when there was more.
+        for (std::uint16_t number = 65'534; number > 7; --number)
+            ledger.remove(txn(number));
+        QVERIFY(ledger == Book().ledger && Book().ledger == ledger && rebuilt(ledger) == ledger);
+        ratesFromUsd()["GBP"] = 1;
+        ledger.post(transfer(no(4), no(6), money("GBP", "1")));
+        QVERIFY(containedCurrencies(ledger).contains(numira::toCurrency("GBP")));
+        ledger.remove(txn(8));
+        QVERIFY(containedCurrencies(ledger) == containedCurrencies(Book().ledger));
     }
 };
 

@@ -15,7 +15,7 @@ namespace {
 class ChangedSums {
 public:
     struct Sums {
-        AccountNumber account;
+        std::size_t place; ///< of the account among all
         numira::Money debits;
         numira::Money credits;
     };
@@ -24,25 +24,29 @@ public:
 
     void subtract(const TransactionRecord &record)
     {
-        of(record.debit).debits -= record.debitAmount;
-        of(record.credit).credits -= record.creditAmount;
+        of(record.debit).debits -= record.debitAmount();
+        of(record.credit).credits -= record.creditAmount();
     }
     void add(const TransactionRecord &record)
     {
-        add(of(record.debit), &Sums::debits, record.debitAmount);
-        add(of(record.credit), &Sums::credits, record.creditAmount);
+        add(of(record.debit), &Sums::debits, record.debitAmount());
+        add(of(record.credit), &Sums::credits, record.creditAmount());
     }
     [[nodiscard]] std::span<const Sums> all() const { return {m_sums.data(), m_count}; }
 
 private:
+    [[nodiscard]] const AccountRecord &accountAt(std::size_t place) const noexcept
+    {
+        return *m_state.accounts()[place].constData();
+    }
     Sums &of(AccountNumber number)
     {
         for (std::size_t at = 0; at < m_count; ++at) {
-            if (m_sums[at].account == number)
+            if (accountAt(m_sums[at].place).code.number() == number)
                 return m_sums[at];
         }
-        const AccountRecord &account = m_state.account(number);
-        m_sums[m_count] = {number, account.debits, account.credits};
+        const std::size_t place = m_state.placeOf(number);
+        m_sums[m_count] = {place, accountAt(place).debits, accountAt(place).credits};
         return m_sums[m_count++];
     }
     void add(Sums &sums, numira::Money Sums::*side, const numira::Money &amount) const
@@ -50,7 +54,7 @@ private:
         try {
             sums.*side += amount;
         } catch (const numira::Error &cause) {
-            throw balanceOutOfRange(m_state.account(sums.account).code, cause);
+            throw balanceOutOfRange(accountAt(sums.place).code, cause);
         }
     }
 
@@ -80,13 +84,30 @@ bool operator==(const AccountRecord &a, const AccountRecord &b) noexcept
 
 LedgerState::Accounts::const_iterator LedgerState::position(AccountNumber number) const noexcept
 {
-    return std::ranges::lower_bound(m_accounts, number, {}, numberOf);
+    // As numbers differ, an account stands no further behind the first one than
+    // their numbers are apart, and just there when none between is missing.
+    const std::uint32_t first = m_accounts.empty() ? 0 : numberOf(m_accounts.front()).integer();
+    if (number.integer() <= first)
+        return m_accounts.begin();
+    const std::size_t last = std::min<std::size_t>(number.integer() - first, m_accounts.size());
+    const auto end = m_accounts.begin() + static_cast<std::ptrdiff_t>(last);
+    if (end != m_accounts.end() && numberOf(*end) == number)
+        return end;
+    return std::ranges::lower_bound(m_accounts.begin(), end, number, {}, numberOf);
 }
 
 const AccountRecord *LedgerState::find(AccountNumber number) const noexcept
 {
     const auto found = position(number);
     return found != m_accounts.end() && numberOf(*found) == number ? found->constData() : nullptr;
+}
+
+std::size_t LedgerState::placeOf(AccountNumber number) const
+{
+    const auto found = position(number);
+    if (found == m_accounts.end() || numberOf(*found) != number)
+        throw accountNotFound(number);
+    return static_cast<std::size_t>(found - m_accounts.begin());
 }
 
 const AccountRecord &LedgerState::account(AccountNumber number) const
@@ -98,10 +119,7 @@ const AccountRecord &LedgerState::account(AccountNumber number) const
 
 AccountRecord &LedgerState::changeAccount(AccountNumber number)
 {
-    const auto found = position(number);
-    if (found == m_accounts.end() || numberOf(*found) != number)
-        throw accountNotFound(number);
-    return *m_accounts[static_cast<std::size_t>(found - m_accounts.begin())];
+    return *m_accounts[placeOf(number)];
 }
 
 void LedgerState::insertAccount(AccountTypes type, const AccountCode &code,
@@ -169,8 +187,8 @@ Transaction LedgerState::transaction(TransactionNumber number, AccountNumber acc
     result.m_debiting = this->account(record.debit).code;
     result.m_crediting = this->account(record.credit).code;
     result.m_amount = record.amount;
-    result.m_debitAmount = record.debitAmount;
-    result.m_creditAmount = record.creditAmount;
+    result.m_debitAmount = record.debitAmount();
+    result.m_creditAmount = record.creditAmount();
     result.m_description = record.description;
     result.m_number = number;
     result.m_refundOf = record.refundOf;
@@ -180,12 +198,8 @@ Transaction LedgerState::transaction(TransactionNumber number, AccountNumber acc
     return result;
 }
 
-void LedgerState::exchange(TransactionNumber number, const std::optional<TransactionRecord> &after)
+void LedgerState::exchange(TransactionNumber number, std::optional<TransactionRecord> after)
 {
-    std::optional<TransactionRecord> before;
-    if (const TransactionRecord *found = m_table.find(number))
-        before = *found;
-
     // First all that can fail: the sums, then the memory. Copies are left
     // behind here, which changes no meaning.
     ChangedSums changed(*this);
@@ -194,11 +208,11 @@ void LedgerState::exchange(TransactionNumber number, const std::optional<Transac
     const auto meetRefund = [&](const TransactionRecord &refund) {
         if (refund.refundOf && !original) {
             original = refund.refundOf;
-            refunded = record(*original).refunded;
+            refunded = record(*original).refunded();
         }
         return refund.refundOf.has_value();
     };
-    if (before) {
+    if (const TransactionRecord *before = m_table.find(number)) {
         changed.subtract(*before);
         if (meetRefund(*before))
             refunded -= before->amount;
@@ -208,31 +222,30 @@ void LedgerState::exchange(TransactionNumber number, const std::optional<Transac
         if (meetRefund(*after))
             refunded += after->amount;
     }
-    std::optional<TransactionRecord> placed = after;
     m_table.detach(number);
     if (original)
         m_table.detach(*original);
     for (const ChangedSums::Sums &sums : changed.all())
-        changeAccount(sums.account).transactions.detach();
+        m_accounts[sums.place]->transactions.detach();
 
     // Then all that cannot.
-    if (placed)
-        m_table.put(number, *std::move(placed));
-    else
-        m_table.erase(number);
-    if (original)
-        m_table.change(*original).refunded = refunded;
     for (const ChangedSums::Sums &sums : changed.all()) {
-        AccountRecord &account = changeAccount(sums.account);
+        AccountRecord &account = *m_accounts[sums.place];
         account.debits = sums.debits;
         account.credits = sums.credits;
-        if (after && after->involves(sums.account))
+        if (after && after->involves(account.code.number()))
             account.transactions.insert(number);
         else
             account.transactions.remove(number);
         if (!after && account.openedBy == number)
             account.openedBy.reset();
     }
+    if (original)
+        m_table.change(*original).refundedAmount = refunded.amount();
+    if (after)
+        m_table.put(number, *std::move(after));
+    else
+        m_table.erase(number);
 }
 
 void LedgerState::restate(AccountNumber number, const numira::Currency &currency,
@@ -247,7 +260,10 @@ void LedgerState::restate(AccountNumber number, const numira::Currency &currency
     account.credits = credits;
     for (const auto &[transaction, amount] : sides) {
         TransactionRecord &record = m_table.change(transaction);
-        (record.debit == number ? record.debitAmount : record.creditAmount) = amount;
+        if (record.debit == number)
+            record.setSideAmounts(amount, record.creditAmount());
+        else
+            record.setSideAmounts(record.debitAmount(), amount);
     }
 }
 

@@ -48,6 +48,8 @@ struct LedgerState {
     [[nodiscard]] const AccountRecord *find(AccountNumber number) const noexcept;
     /// Throws AccountError when there is none.
     [[nodiscard]] const AccountRecord &account(AccountNumber number) const;
+    /// Where it stands in accounts(). Throws AccountError when there is none.
+    [[nodiscard]] std::size_t placeOf(AccountNumber number) const;
     [[nodiscard]] AccountRecord &changeAccount(AccountNumber number);
     /// Takes in an account without transactions, under a number that is free.
     void insertAccount(AccountTypes type, const AccountCode &code, const numira::Currency &currency,
@@ -72,7 +74,7 @@ struct LedgerState {
     /// nothing takes the transaction away, and with it an opening mark. Throws
     /// AccountError when an account's sums get out of range. If it throws, the
     /// state means what it meant before.
-    void exchange(TransactionNumber number, const std::optional<TransactionRecord> &after);
+    void exchange(TransactionNumber number, std::optional<TransactionRecord> after);
     /// Keeps the account in another currency, with these amounts on the
     /// account's own sides of all its transactions. Throws numira::Error when
     /// their sums get out of range.

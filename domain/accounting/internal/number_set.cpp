@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounting/internal/number_set.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace kiv::accounting::internal {
 namespace {
+
+constexpr unsigned bitsInWord = 64;
+constexpr std::size_t wordCount = 65'536 / bitsInWord;
+/// A list of more takes as much memory as the bits in the end, and longer to
+/// change.
+constexpr std::size_t fewMax = 2'048;
 
 constexpr std::size_t wordOf(TransactionNumber number)
 {
@@ -25,7 +32,10 @@ constexpr TransactionNumber numberAt(std::size_t word, std::size_t bit)
 
 bool NumberSet::contains(TransactionNumber number) const noexcept
 {
-    return m_count != 0 && (words()[wordOf(number)] & bitOf(number)) != 0;
+    if (m_count == 0)
+        return false;
+    return hasBits() ? (content().bits[wordOf(number)] & bitOf(number)) != 0
+                     : std::ranges::binary_search(content().few, number);
 }
 
 TransactionNumber NumberSet::next(TransactionNumber number) const noexcept
@@ -33,43 +43,66 @@ TransactionNumber NumberSet::next(TransactionNumber number) const noexcept
     if (number >= m_highest)
         return {};
     // There is a higher one, so the walk ends at it.
+    if (!hasBits())
+        return *std::ranges::upper_bound(content().few, number);
     const TransactionNumber from(static_cast<std::uint16_t>(number.integer() + 1));
     std::size_t word = wordOf(from);
-    std::uint64_t rest = words()[word] & ~(bitOf(from) - 1);
+    std::uint64_t rest = content().bits[word] & ~(bitOf(from) - 1);
     while (rest == 0)
-        rest = words()[++word];
+        rest = content().bits[++word];
     return numberAt(word, static_cast<std::size_t>(std::countr_zero(rest)));
 }
 
 TransactionNumber NumberSet::lowestFree() const noexcept
 {
-    if (m_count == 0)
-        return TransactionNumber(1);
-    std::uint64_t used = words()[0] | 1; // 0 is no number
-    for (std::size_t word = 0;;) {
-        if (used != ~std::uint64_t{0})
-            return numberAt(word, static_cast<std::size_t>(std::countr_one(used)));
-        if (++word == words().size())
-            return {};
-        used = words()[word];
+    if (m_count == m_highest.integer()) // no gap before the highest one
+        return TransactionNumber(static_cast<std::uint16_t>(m_count + 1));
+    if (!hasBits()) {
+        const auto &few = content().few;
+        const auto gap = std::ranges::partition_point(few, [&few](const TransactionNumber &number) {
+            return number.integer() == &number - few.data() + 1;
+        });
+        return TransactionNumber(static_cast<std::uint16_t>(gap - few.begin() + 1));
     }
+    std::uint64_t used = content().bits[0] | 1; // 0 is no number
+    std::size_t word = 0;
+    while (used == ~std::uint64_t{0})
+        used = content().bits[++word];
+    return numberAt(word, static_cast<std::size_t>(std::countr_one(used)));
 }
 
 void NumberSet::detach()
 {
-    if (m_bits.constData())
-        m_bits.detach();
-    else
-        m_bits = new Bits;
+    if (!m_content.constData())
+        m_content = new Content;
+    Content &content = *m_content;
+    if (m_count < fewMax || hasBits()) {
+        if (!hasBits() && content.few.size() == content.few.capacity())
+            content.few.reserve(std::max<std::size_t>(8, 2 * content.few.size()));
+        return;
+    }
+    content.bits.resize(wordCount);
+    for (const TransactionNumber number : content.few)
+        content.bits[wordOf(number)] |= bitOf(number);
+    content.few = {};
 }
 
 void NumberSet::insert(TransactionNumber number)
 {
     detach();
-    std::uint64_t &word = m_bits->words[wordOf(number)];
-    if ((word & bitOf(number)) != 0)
-        return;
-    word |= bitOf(number);
+    Content &content = *m_content;
+    if (hasBits()) {
+        std::uint64_t &word = content.bits[wordOf(number)];
+        if ((word & bitOf(number)) != 0)
+            return;
+        word |= bitOf(number);
+    } else {
+        const auto at =
+            number > m_highest ? content.few.end() : std::ranges::lower_bound(content.few, number);
+        if (at != content.few.end() && *at == number)
+            return;
+        content.few.insert(at, number);
+    }
     ++m_count;
     m_highest = std::max(m_highest, number);
 }
@@ -78,27 +111,43 @@ void NumberSet::remove(TransactionNumber number)
 {
     if (!contains(number))
         return;
-    m_bits->words[wordOf(number)] &= ~bitOf(number);
     if (--m_count == 0) {
-        m_bits.reset();
+        m_content.reset();
         m_highest = {};
-    } else if (number == m_highest) {
-        m_highest = highestUpTo(wordOf(number));
+        return;
     }
+    Content &content = *m_content;
+    if (hasBits())
+        content.bits[wordOf(number)] &= ~bitOf(number);
+    else
+        content.few.erase(std::ranges::lower_bound(content.few, number));
+    if (number == m_highest)
+        m_highest = highestOf(content);
 }
 
-TransactionNumber NumberSet::highestUpTo(std::size_t word) const noexcept
+TransactionNumber NumberSet::highestOf(const Content &content) const noexcept
 {
-    while (words()[word] == 0)
+    if (!hasBits())
+        return content.few.back();
+    std::size_t word = wordOf(m_highest);
+    while (content.bits[word] == 0)
         --word;
-    return numberAt(word, std::bit_width(words()[word]) - 1);
+    return numberAt(word, std::bit_width(content.bits[word]) - 1);
 }
 
 bool operator==(const NumberSet &a, const NumberSet &b) noexcept
 {
-    return a.m_count == b.m_count &&
-           (a.m_count == 0 || a.m_bits.constData() == b.m_bits.constData() ||
-            a.words() == b.words());
+    if (a.m_count != b.m_count || a.m_highest != b.m_highest)
+        return false;
+    // Content may be there for the first number, or not yet.
+    if (a.m_count == 0 || a.m_content.constData() == b.m_content.constData())
+        return true;
+    if (a.hasBits() == b.hasBits())
+        return a.content().few == b.content().few && a.content().bits == b.content().bits;
+    TransactionNumber number = a.next({});
+    while (number.isValid() && b.contains(number))
+        number = a.next(number);
+    return !number.isValid();
 }
 
 } // namespace kiv::accounting::internal

@@ -5,15 +5,14 @@
 
 #include <QtCore/QSharedDataPointer>
 
-#include <array>
 #include <cstddef>
+#include <vector>
 
 namespace kiv::accounting::internal {
 
-inline constexpr unsigned bitsInWord = 64;
-
-/// A set of transaction numbers as one bit for each possible number: 8 KiB,
-/// shared between copies until one is changed, and nothing while it is empty.
+/// A set of transaction numbers, shared between copies until one is changed.
+/// Few numbers stand in a list and many as one bit for each possible number, so
+/// that a set takes 8 KiB at most and nothing while it is empty.
 class NumberSet {
 public:
     [[nodiscard]] std::size_t count() const noexcept { return m_count; }
@@ -33,15 +32,17 @@ public:
     friend bool operator==(const NumberSet &a, const NumberSet &b) noexcept;
 
 private:
-    using Words = std::array<std::uint64_t, 65'536 / bitsInWord>;
-    struct Bits : QSharedData {
-        Words words{};
+    /// One of both is empty.
+    struct Content : QSharedData {
+        std::vector<TransactionNumber> few; ///< sorted
+        std::vector<std::uint64_t> bits;
     };
 
-    [[nodiscard]] const Words &words() const noexcept { return m_bits.constData()->words; }
-    [[nodiscard]] TransactionNumber highestUpTo(std::size_t word) const noexcept;
+    [[nodiscard]] const Content &content() const noexcept { return *m_content.constData(); }
+    [[nodiscard]] bool hasBits() const noexcept { return !content().bits.empty(); }
+    [[nodiscard]] TransactionNumber highestOf(const Content &content) const noexcept;
 
-    QSharedDataPointer<Bits> m_bits;
+    QSharedDataPointer<Content> m_content; ///< null while it is empty
     std::uint32_t m_count = 0;
     TransactionNumber m_highest;
 };

@@ -96,24 +96,24 @@ TransactionRecord newRecord(const LedgerState &state, const Transaction &transac
             return before->amountFor(account);
         return convertedAmount(record.amount, state.account(account).currency(), number);
     };
-    record.debitAmount = side(record.debit);
-    record.creditAmount = side(record.credit);
+    record.setSideAmounts(side(record.debit), side(record.credit));
     return record;
 }
 
 TransactionRecord plainRecord(const Transaction &transaction)
 {
-    return {.occurredOn = transaction.occurredOn(),
-            .debit = transaction.debiting().number(),
-            .credit = transaction.crediting().number(),
-            .amount = transaction.amount(),
-            .debitAmount = transaction.debitAmount(),
-            .creditAmount = transaction.creditAmount(),
-            .description = transaction.description(),
-            .debitStatus = transaction.debitStatus(),
-            .creditStatus = transaction.creditStatus(),
-            .refundOf = std::nullopt,
-            .refunded = numira::Money(transaction.amount().code())};
+    TransactionRecord record{.occurredOn = transaction.occurredOn(),
+                             .debit = transaction.debiting().number(),
+                             .credit = transaction.crediting().number(),
+                             .amount = transaction.amount(),
+                             .description = transaction.description(),
+                             .debitStatus = transaction.debitStatus(),
+                             .creditStatus = transaction.creditStatus(),
+                             .refundOf = std::nullopt,
+                             .refundedAmount = {},
+                             .sides = {}};
+    record.setSideAmounts(transaction.debitAmount(), transaction.creditAmount());
+    return record;
 }
 
 } // namespace kiv::accounting::internal

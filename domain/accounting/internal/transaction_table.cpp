@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounting/internal/transaction_table.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace kiv::accounting::internal {
@@ -20,11 +21,9 @@ constexpr std::size_t slotOf(TransactionNumber number)
 
 const TransactionRecord *TransactionTable::find(TransactionNumber number) const noexcept
 {
-    const Chunk *chunk = m_chunks[chunkOf(number)].constData();
-    if (!chunk)
-        return nullptr;
-    const std::optional<TransactionRecord> &slot = chunk->records[slotOf(number)];
-    return slot ? &*slot : nullptr;
+    return m_numbers.contains(number)
+               ? &m_chunks[chunkOf(number)].constData()->records[slotOf(number)]
+               : nullptr;
 }
 
 TransactionNumber TransactionTable::nextFree() const noexcept
@@ -35,6 +34,16 @@ TransactionNumber TransactionTable::nextFree() const noexcept
     return TransactionNumber(static_cast<std::uint16_t>(highest + 1));
 }
 
+std::set<numira::Currency> TransactionTable::currencies() const
+{
+    std::set<numira::Currency> currencies;
+    for (const auto &[currency, count] : m_entered) {
+        if (count > 0)
+            currencies.insert(currency);
+    }
+    return currencies;
+}
+
 void TransactionTable::detach(TransactionNumber number)
 {
     QSharedDataPointer<Chunk> &chunk = m_chunks[chunkOf(number)];
@@ -43,11 +52,14 @@ void TransactionTable::detach(TransactionNumber number)
     else
         chunk = new Chunk;
     m_numbers.detach();
+    m_entered.reserve(m_entered.size() + 1);
 }
 
 void TransactionTable::put(TransactionNumber number, TransactionRecord record)
 {
     detach(number);
+    discount(number);
+    count(record.amount.code());
     m_chunks[chunkOf(number)]->records[slotOf(number)] = std::move(record);
     m_numbers.insert(number);
 }
@@ -55,16 +67,31 @@ void TransactionTable::put(TransactionNumber number, TransactionRecord record)
 void TransactionTable::erase(TransactionNumber number)
 {
     detach(number);
-    m_chunks[chunkOf(number)]->records[slotOf(number)].reset();
+    discount(number);
+    m_chunks[chunkOf(number)]->records[slotOf(number)] = TransactionRecord();
     m_numbers.remove(number);
+}
+
+void TransactionTable::count(const numira::Currency &currency)
+{
+    const auto found = std::ranges::find(m_entered, currency, &Entered::first);
+    if (found == m_entered.end())
+        m_entered.emplace_back(currency, 1);
+    else
+        ++found->second;
+}
+
+void TransactionTable::discount(TransactionNumber number) noexcept
+{
+    if (const TransactionRecord *record = find(number))
+        --std::ranges::find(m_entered, record->amount.code(), &Entered::first)->second;
 }
 
 TransactionRecord &TransactionTable::change(TransactionNumber number)
 {
-    std::optional<TransactionRecord> &slot = m_chunks[chunkOf(number)]->records[slotOf(number)];
-    if (!slot)
+    if (!m_numbers.contains(number))
         throw std::logic_error("There is no such transaction to change.");
-    return *slot;
+    return m_chunks[chunkOf(number)]->records[slotOf(number)];
 }
 
 bool operator==(const TransactionTable &a, const TransactionTable &b) noexcept

@@ -10,27 +10,56 @@
 #include <QtCore/QDate>
 #include <QtCore/QString>
 
+#include <array>
 #include <optional>
+#include <set>
+#include <vector>
 
 namespace kiv::accounting::internal {
 
+/// What a transaction comes to in the currencies of its accounts.
+struct SideAmounts : QSharedData {
+    SideAmounts(const numira::Money &debited, const numira::Money &credited)
+        : debit(debited), credit(credited)
+    {
+    }
+    numira::Money debit;
+    numira::Money credit;
+};
+
 /// A transaction as the ledger keeps it. The accounts stand by number, so that
-/// it always shows their present codes.
+/// it always shows their present codes. It is kept small, because of a full
+/// ledger's time to load most goes into taking memory.
 struct TransactionRecord {
     QDate occurredOn;
     AccountNumber debit;
     AccountNumber credit;
-    numira::Money amount;       ///< in the currency in which it was entered
-    numira::Money debitAmount;  ///< in the debited account's currency
-    numira::Money creditAmount; ///< in the credited account's currency
+    numira::Money amount; ///< in the currency in which it was entered
     std::optional<QString> description;
     TransactionStatuses debitStatus = TransactionStatuses::None;
     TransactionStatuses creditStatus = TransactionStatuses::None;
     std::optional<TransactionNumber> refundOf;
     /// The sum of its refunds, in the currency of `amount`. Refunds are entered
     /// in that currency, so that the sum never depends on a rate.
-    numira::Money refunded;
+    numira::Decimal refundedAmount;
+    /// Null where both sides are `amount`.
+    QSharedDataPointer<SideAmounts> sides;
 
+    [[nodiscard]] const numira::Money &debitAmount() const noexcept
+    {
+        return sides.constData() ? sides.constData()->debit : amount;
+    }
+    [[nodiscard]] const numira::Money &creditAmount() const noexcept
+    {
+        return sides.constData() ? sides.constData()->credit : amount;
+    }
+    void setSideAmounts(const numira::Money &debited, const numira::Money &credited)
+    {
+        if (debited == amount && credited == amount)
+            sides.reset();
+        else
+            sides = new SideAmounts(debited, credited);
+    }
     [[nodiscard]] bool involves(AccountNumber account) const noexcept
     {
         return account == debit || account == credit;
@@ -38,16 +67,27 @@ struct TransactionRecord {
     /// The amount on the side of an account that it involves.
     [[nodiscard]] const numira::Money &amountFor(AccountNumber account) const noexcept
     {
-        return account == debit ? debitAmount : creditAmount;
+        return account == debit ? debitAmount() : creditAmount();
     }
     [[nodiscard]] bool isReconciled() const noexcept
     {
         return debitStatus == TransactionStatuses::Reconciled ||
                creditStatus == TransactionStatuses::Reconciled;
     }
-    [[nodiscard]] bool hasRefunds() const noexcept { return !refunded.isZero(); }
+    [[nodiscard]] numira::Money refunded() const noexcept
+    {
+        return {amount.code(), refundedAmount};
+    }
+    [[nodiscard]] bool hasRefunds() const noexcept { return refundedAmount.sign() != 0; }
 
-    friend bool operator==(const TransactionRecord &, const TransactionRecord &) = default;
+    friend bool operator==(const TransactionRecord &a, const TransactionRecord &b) noexcept
+    {
+        return a.occurredOn == b.occurredOn && a.debit == b.debit && a.credit == b.credit &&
+               a.amount == b.amount && a.debitAmount() == b.debitAmount() &&
+               a.creditAmount() == b.creditAmount() && a.description == b.description &&
+               a.debitStatus == b.debitStatus && a.creditStatus == b.creditStatus &&
+               a.refundOf == b.refundOf && a.refundedAmount == b.refundedAmount;
+    }
 };
 
 inline constexpr unsigned slotsInChunk = 256;
@@ -62,6 +102,8 @@ public:
     /// The number after the highest in use, or the lowest free one when that is
     /// 65,535 already; 0 when all are in use.
     [[nodiscard]] TransactionNumber nextFree() const noexcept;
+    /// The currencies in which transactions were entered.
+    [[nodiscard]] std::set<numira::Currency> currencies() const;
 
     /// Takes the memory that a change of this slot needs, so that put() and
     /// erase() cannot fail.
@@ -75,11 +117,19 @@ public:
 
 private:
     struct Chunk : QSharedData {
-        std::array<std::optional<TransactionRecord>, slotsInChunk> records;
+        /// Those without a number in use are as they are made.
+        std::array<TransactionRecord, slotsInChunk> records;
     };
+
+    /// A currency and how many transactions were entered in it.
+    using Entered = std::pair<numira::Currency, std::uint32_t>;
+
+    void count(const numira::Currency &currency);
+    void discount(TransactionNumber number) noexcept;
 
     std::array<QSharedDataPointer<Chunk>, 65'536 / slotsInChunk> m_chunks;
     NumberSet m_numbers;
+    std::vector<Entered> m_entered;
 };
 
 } // namespace kiv::accounting::internal
