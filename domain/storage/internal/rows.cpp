@@ -170,10 +170,15 @@ QDate RowReader::date()
 {
     if (isNull())
         return {};
-    const QDate date = fromStoredDate(bytes());
-    if (!date.isValid())
-        refuse("has a malformed date");
-    return date;
+    // Many rows have the day of the row before, and most the currency.
+    const QByteArrayView text = bytes();
+    if (text != QByteArrayView(m_lastDateText)) {
+        m_lastDate = fromStoredDate(text);
+        if (!m_lastDate.isValid())
+            refuse("has a malformed date");
+        m_lastDateText = text.toByteArray();
+    }
+    return m_lastDate;
 }
 
 numira::Decimal RowReader::decimal()
@@ -191,7 +196,6 @@ numira::Currency RowReader::currency()
 {
     const QByteArrayView code = bytes();
     const std::string_view text(code.data(), static_cast<std::size_t>(code.size()));
-    // Most rows are in the currency of the row before.
     if (text != m_lastCurrency.code())
         m_lastCurrency = numira::toCurrency(std::string(text));
     return m_lastCurrency;

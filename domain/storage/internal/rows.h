@@ -95,6 +95,8 @@ private:
     int m_column = 0;
     std::int64_t m_key = -1;
     qint64 m_rows = 0;
+    QByteArray m_lastDateText;
+    QDate m_lastDate;
     numira::Currency m_lastCurrency;
 };
 
