@@ -120,10 +120,8 @@ bool BudgetBankLedgers::isEmpty() const noexcept
 
 void BudgetBankLedgers::verifyBudgetSourceName(const BudgetSource &source) const
 {
-    for (const AccountCode &code : m_generalLedger.accountCodes()) {
-        if (code.name() == source.name())
-            throw faults::itemNamedAsAccount(source);
-    }
+    if (m_generalLedger.hasLedgerNamed(source.name()))
+        throw faults::itemNamedAsAccount(source);
 }
 
 void BudgetBankLedgers::verifyAccountCodeName(const AccountCode &code) const

@@ -43,6 +43,12 @@ SurveyedChanges::SurveyedChanges(const SurveyedAccounts &accounts, const BudgetL
                                  const numira::Money &balance)
     : m_accounts(accounts), m_ledgers(ledgers), m_balance(balance)
 {
+    // Looked up for each transaction, of which there may be very many.
+    for (const auto &[type, numbers] : ledgers.budgetAccountCodes().maps()) {
+        for (const auto &[source, number] : numbers)
+            m_items.emplace(number,
+                            BudgetItemIdentifier{budgeting::toBudgetItemTypes(type), source});
+    }
 }
 
 void SurveyedChanges::add(const Transaction &transaction, AccountNumber walked)
@@ -63,8 +69,8 @@ void SurveyedChanges::add(const Transaction &transaction, AccountNumber walked)
         else
             m_balance -= transaction.amountFor(subject);
     }
-    if (const auto item = m_ledgers.lookUpBudgetId(movement.counterpart))
-        addToItem(movement, *item);
+    if (const auto item = m_items.find(movement.counterpart); item != m_items.end())
+        addToItem(movement, item->second);
     else
         addToAccount(movement);
 }
@@ -89,8 +95,8 @@ void SurveyedChanges::distribute(const Movement &movement, const BudgetItemIdent
     move(item, movement.transaction.amountFor(movement.counterpart), !movement.isIncrease);
     if (!movement.isByChild)
         return;
-    if (const auto ledgerItem = m_ledgers.lookUpBudgetId(movement.walked))
-        move(*ledgerItem, movement.transaction.amountFor(movement.walked), movement.isIncrease);
+    if (const auto own = m_items.find(movement.walked); own != m_items.end())
+        move(own->second, movement.transaction.amountFor(movement.walked), movement.isIncrease);
 }
 
 void SurveyedChanges::addToAccount(const Movement &movement)

@@ -59,6 +59,7 @@ private:
 
     const SurveyedAccounts &m_accounts;
     const BudgetLedgers &m_ledgers;
+    std::map<accounting::AccountNumber, budgeting::BudgetItemIdentifier> m_items; ///< by account
     numira::Money m_balance;
 };
 
