@@ -4,6 +4,7 @@
 #include "navigation/internal/budget_bank_ledgers.h"
 #include "storage/budget_storage.h"
 
+#include <array>
 #include <memory>
 
 namespace kiv::bench {
@@ -12,6 +13,9 @@ namespace kiv::bench {
 inline constexpr int itemsInBook = 300;
 /// As many transactions as a ledger holds.
 inline constexpr int fullBook = 65'535;
+/// By which costs are measured: hardly anything first, and room for one more
+/// transaction last.
+inline constexpr std::array bookSizes{1, 1'000, 8'000, fullBook - 1};
 
 /// The bank account in which most transactions of a book take part.
 inline constexpr std::uint32_t busyAccount = 1;

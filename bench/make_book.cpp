@@ -3,7 +3,7 @@
 // a budget file and as a plain-text journal.
 #include "book.h"
 
-#include "output/journal.h"
+#include "interchange/ledger_writer.h"
 #include "storage/budget_file.h"
 
 #include <QtCore/QFile>
@@ -23,8 +23,9 @@ int main(int argc, char **argv)
     file.setFilePathName(QString::fromLocal8Bit(argv[2]));
     file.store(kiv::bench::dataOf(*whole));
 
-    const kiv::app::AccountIndex index(whole->generalLedger().accounts());
-    const QByteArray text = kiv::app::toJournal(index, whole->generalLedger().transactions());
+    const kiv::accounting::GeneralLedger &ledger = whole->generalLedger();
+    const QByteArray text =
+        kiv::interchange::writeJournal(ledger.accounts(), ledger.transactions());
     QFile journal(QString::fromLocal8Bit(argv[3]));
     if (!journal.open(QIODevice::WriteOnly) || journal.write(text) != text.size()) {
         std::cerr << "The journal cannot be written.\n";
