@@ -493,372 +493,372 @@
     </message>
     <message>
         <source>&apos;%1&apos; has a wrong value</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat einen falschen Wert</translation>
     </message>
     <message>
         <source>it is not a JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist kein JSON-Objekt</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no key of one</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Schlüssel eines Profils</translation>
     </message>
     <message>
         <source>amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrag</translation>
     </message>
     <message>
         <source>&apos;%1&apos;, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“, Zeile %2: %3</translation>
     </message>
     <message>
         <source>&apos;%1&apos;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no encoding that is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine bekannte Kodierung.</translation>
     </message>
     <message>
         <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist kein gültiges %1; die Kodierung der Datei kann mit --encoding angegeben werden.</translation>
     </message>
     <message>
         <source>This is not text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist kein Text.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile hat mehr als %1 Zeichen.</translation>
     </message>
     <message>
         <source>A budget holds no more than %1 transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Budget fasst höchstens %1 Buchungen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Tag in der Schreibweise %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; can be read in two ways; name the decimal mark with --decimal.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann auf zwei Arten gelesen werden; das Dezimalzeichen wird mit --decimal angegeben.</translation>
     </message>
     <message>
         <source>The amounts here cannot be kept exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Beträge hier können nicht genau bewahrt werden.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat mehr Stellen hinter dem Dezimalzeichen als die %2 von %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht der ISO-4217-Code einer Währung.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist weder eine Buchung noch eine Anweisung, die importiert werden kann.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht importiert werden.</translation>
     </message>
     <message>
         <source>The line is indented, but there is nothing that it belongs to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeile ist eingerückt, doch es gibt nichts, wozu sie gehört.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; begins here and does not end.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ beginnt hier und endet nicht.</translation>
     </message>
     <message>
         <source>Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what &apos;%1&apos; is with --root, like --root &apos;%1=asset&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten beginnen mit Assets, Liabilities, Equity, Income oder Expenses; was „%1“ ist, wird mit --root angegeben, etwa --root &apos;%1=asset&apos;.</translation>
     </message>
     <message>
         <source>The name of an account is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name eines Kontos fehlt.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Betrag.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has no currency; name one with --currency.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat keine Währung; sie kann mit --currency angegeben werden.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency; give its cost behind @, or say which currency it is with --commodity, like --commodity &apos;%1=USD&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Währung; hinter @ kann stehen, was es kostet, oder mit --commodity, welche Währung es ist, etwa --commodity &apos;%1=USD&apos;.</translation>
     </message>
     <message>
         <source>The transaction has fewer than two postings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Buchung hat weniger als zwei Posten.</translation>
     </message>
     <message>
         <source>More than one posting of the transaction has no amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr als ein Posten der Buchung hat keinen Betrag.</translation>
     </message>
     <message>
         <source>The transaction does not balance: %1 are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Buchung geht nicht auf: %1 bleiben übrig.</translation>
     </message>
     <message>
         <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Saldo von „%1“ müsste hier %2 sein, ist aber %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a pattern of account names.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Muster für Kontonamen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not included: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wird nicht eingebunden: %2.</translation>
     </message>
     <message>
         <source>A quote begins here and does not end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Anführungszeichen beginnt hier und endet nicht.</translation>
     </message>
     <message>
         <source>There is text between a closing quote and the next delimiter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen einem schließenden Anführungszeichen und dem nächsten Trennzeichen steht Text.</translation>
     </message>
     <message>
         <source>There is no column &apos;%1&apos; among: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Spalte „%1“ unter: %2.</translation>
     </message>
     <message>
         <source>Say with %1 which column it is, of: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit %1 wird angegeben, welche Spalte es ist, von: %2.</translation>
     </message>
     <message>
         <source>The record has %1 cells where %2 are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datensatz hat %1 Zellen, nötig sind %2.</translation>
     </message>
     <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist die Tabelle eines ganzen Hauptbuchs und kein Kontoauszug; importiert werden kann stattdessen das Journal.</translation>
     </message>
     <message>
         <source>The record has an amount that came in and one that went out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datensatz hat einen Betrag, der einging, und einen, der ausging.</translation>
     </message>
     <message>
         <source>The entry has no %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem Eintrag fehlt: %1.</translation>
     </message>
     <message>
         <source>The days can be read in two ways; name the order with --date-format, like MM/DD/YYYY.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tage können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa MM/DD/YYYY.</translation>
     </message>
     <message>
         <source>The amount is in %1, and the account in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Betrag ist in %1 und das Konto in %2.</translation>
     </message>
     <message>
         <source>This is no import profile: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist kein Importprofil: %1.</translation>
     </message>
     <message>
         <source>There is no &lt;OFX&gt; in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Datei gibt es kein &lt;OFX&gt;.</translation>
     </message>
     <message>
         <source>A tag is broken: its name or its &apos;&gt;&apos; is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Tag ist kaputt: Sein Name oder sein „&gt;“ fehlt.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; stands where the &lt;%2&gt; of line %3 should be closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/%1&gt; steht, wo das &lt;%2&gt; der Zeile %3 geschlossen werden müsste.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; closes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/%1&gt; schließt nichts.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; is not closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; wird nicht geschlossen.</translation>
     </message>
     <message>
         <source>Tags are nested too deeply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags sind zu tief verschachtelt.</translation>
     </message>
     <message>
         <source>There is no statement of a bank account or a credit card.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
     <message>
         <source>There are several statements; choose one with --statement: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt mehrere Auszüge; einer wird mit --statement gewählt: %1.</translation>
     </message>
     <message>
         <source>There is no statement of &apos;%1&apos;, but of: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Auszug von „%1“, aber von: %2.</translation>
     </message>
     <message>
         <source>The file does not begin with a QIF header like !Type:Bank.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei beginnt nicht mit einer QIF-Kopfzeile wie !Type:Bank.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no field of a bank statement.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Feld eines Kontoauszugs.</translation>
     </message>
     <message>
         <source>The parts come to %1 and the whole to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Teile ergeben %1 und das Ganze %2.</translation>
     </message>
     <message>
         <source>A report cannot end before it begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bericht kann nicht enden, bevor er beginnt.</translation>
     </message>
     <message>
         <source>A report covers no more than %1 months.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bericht umfasst höchstens %1 Monate.</translation>
     </message>
     <message>
         <source>Net worth, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reinvermögen, %1</translation>
     </message>
     <message>
         <source>Income, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einnahmen, %1</translation>
     </message>
     <message>
         <source>Expenses, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgaben, %1</translation>
     </message>
     <message>
         <source>The figures as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahlen als Tabelle</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>Total, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe, %1</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>All accounts are empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Konten sind leer.</translation>
     </message>
     <message>
         <source>Planned a month</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Monat geplant</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Posten</translation>
     </message>
     <message>
         <source>The plan is today&apos;s, restated per month. ▲ marks a month in which more was spent.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Plan ist der heutige, auf den Monat umgerechnet. ▲ kennzeichnet einen Monat, in dem mehr ausgegeben wurde.</translation>
     </message>
     <message>
         <source>Net worth over time, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reinvermögen im Lauf der Zeit, %1</translation>
     </message>
     <message>
         <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende jedes Monats, was alles Vermögen ausmacht, abzüglich der Verbindlichkeiten; zuletzt %1.</translation>
     </message>
     <message>
         <source>Net worth</source>
-        <translation type="unfinished"></translation>
+        <translation>Reinvermögen</translation>
     </message>
     <message>
         <source>Income and expenses, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einnahmen und Ausgaben, %1</translation>
     </message>
     <message>
         <source>What came in and what was spent in each month.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was in jedem Monat eingenommen und ausgegeben wurde.</translation>
     </message>
     <message>
         <source>Expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgaben</translation>
     </message>
     <message>
         <source>Budget against actual, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget und Wirklichkeit, %1</translation>
     </message>
     <message>
         <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was für Rechnungen, Schulden, Ziele und nicht verfolgte Posten im Monat geplant ist, und was dafür ausgegeben wurde.</translation>
     </message>
     <message>
         <source>Planned</source>
-        <translation type="unfinished"></translation>
+        <translation>Geplant</translation>
     </message>
     <message>
         <source>Actual</source>
-        <translation type="unfinished"></translation>
+        <translation>Tatsächlich</translation>
     </message>
     <message>
         <source>en</source>
         <comment>the language of the reports, as HTML names it</comment>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>From %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom %1 bis %2</translation>
     </message>
     <message>
         <source>Budget against actual by month</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget und Wirklichkeit nach Monaten</translation>
     </message>
     <message>
         <source>Balances on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Salden am %1</translation>
     </message>
     <message>
         <source>What is no currency is kept at its cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was keine Währung ist, wird zum Kaufpreis geführt.</translation>
     </message>
     <message>
         <source>Unbalanced virtual postings are kept against Equity:Virtual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht ausgeglichene virtuelle Posten werden gegen Equity:Virtual gebucht.</translation>
     </message>
     <message>
         <source>Periodic transactions are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederkehrende Buchungen werden ausgelassen.</translation>
     </message>
     <message>
         <source>Market prices are left out; they change no balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marktpreise werden ausgelassen; sie ändern keinen Saldo.</translation>
     </message>
     <message>
         <source>there is no folder for it</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keinen Ordner dafür</translation>
     </message>
     <message>
         <source>files include each other too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien binden einander zu tief ein</translation>
     </message>
     <message>
         <source>Second days of transactions are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Tage von Buchungen werden ausgelassen.</translation>
     </message>
     <message>
         <source>Check %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheck %1</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>The request manager was destroyed before the answer came.</source>
@@ -1718,912 +1718,2186 @@
     </message>
     <message>
         <source>A command is missing; --help lists those that there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Befehl fehlt; --help zählt auf, welche es gibt.</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation type="unfinished"></translation>
+        <translation>geschlossen</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummer</translation>
     </message>
     <message>
         <source>There are no accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Konten.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Other account</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegenkonto</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>There are no transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Buchungen.</translation>
     </message>
     <message>
         <source>Added the account %1 %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto %1 %2 angelegt.</translation>
     </message>
     <message>
         <source>The account %1 is now %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Konto %1 ist jetzt %2.</translation>
     </message>
     <message>
         <source>Closed the account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto %1 geschlossen.</translation>
     </message>
     <message>
         <source>Opened the account %1 again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto %1 wieder geöffnet.</translation>
     </message>
     <message>
         <source>Removed the account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto %1 entfernt.</translation>
     </message>
     <message>
         <source>There are no banks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Banken.</translation>
     </message>
     <message>
         <source>%1 (closed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (geschlossen)</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>It keeps no accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie führt keine Konten.</translation>
     </message>
     <message>
         <source>Added the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank „%1“ angelegt.</translation>
     </message>
     <message>
         <source>The bank is now called &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bank heißt jetzt „%1“.</translation>
     </message>
     <message>
         <source>Added the account %1 at the bank &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto %1 bei der Bank „%2“ angelegt.</translation>
     </message>
     <message>
         <source>The bank &apos;%1&apos; keeps the account %2 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bank „%1“ führt jetzt das Konto %2.</translation>
     </message>
     <message>
         <source>The bank &apos;%1&apos; no longer keeps the account %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bank „%1“ führt das Konto %2 nicht mehr.</translation>
     </message>
     <message>
         <source>Closed the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank „%1“ geschlossen.</translation>
     </message>
     <message>
         <source>Opened the bank &apos;%1&apos; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank „%1“ wieder geöffnet.</translation>
     </message>
     <message>
         <source>Removed the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank „%1“ entfernt.</translation>
     </message>
     <message>
         <source>The bank account %1 is now %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bankkonto %1 ist jetzt %2.</translation>
     </message>
     <message>
         <source>Removed the bank account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankkonto %1 entfernt.</translation>
     </message>
     <message>
         <source>Made the empty budget &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeres Budget „%1“ angelegt.</translation>
     </message>
     <message>
         <source>Saved the budget as &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget als „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Konten</translation>
     </message>
     <message>
         <source>Transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen</translation>
     </message>
     <message>
         <source>Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>Banken</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Posten</translation>
     </message>
     <message>
         <source>Sum of debits</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe im Soll</translation>
     </message>
     <message>
         <source>Sum of credits</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe im Haben</translation>
     </message>
     <message>
         <source>Preferred currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Bevorzugte Währung</translation>
     </message>
     <message>
         <source>Usable currencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Nutzbare Währungen</translation>
     </message>
     <message>
         <source>Currencies are shown by</source>
-        <translation type="unfinished"></translation>
+        <translation>Währungen zeigen als</translation>
     </message>
     <message>
         <source>Days in which items count as due</source>
-        <translation type="unfinished"></translation>
+        <translation>Tage, in denen Posten als fällig gelten</translation>
     </message>
     <message>
         <source>Survey window</source>
-        <translation type="unfinished"></translation>
+        <translation>Toleranz des Abgleichs</translation>
     </message>
     <message>
         <source>Work hours a week</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsstunden je Woche</translation>
     </message>
     <message>
         <source>Work days a week</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitstage je Woche</translation>
     </message>
     <message>
         <source>There are no tags.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Schlagwörter.</translation>
     </message>
     <message>
         <source>Removed the tags %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagwörter entfernt: %1.</translation>
     </message>
     <message>
         <source>Every month</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Monat</translation>
     </message>
     <message>
         <source>Wages</source>
-        <translation type="unfinished"></translation>
+        <translation>Löhne</translation>
     </message>
     <message>
         <source>Bills</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechnungen</translation>
     </message>
     <message>
         <source>Debts</source>
-        <translation type="unfinished"></translation>
+        <translation>Schulden</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziele</translation>
     </message>
     <message>
         <source>Non-tracked</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verfolgt</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Due within %1 days</source>
-        <translation type="unfinished"></translation>
+        <translation>Übrig</translation>
     </message>
     <message>
         <source>Due</source>
-        <translation type="unfinished"></translation>
+        <translation>Fällig</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrag</translation>
     </message>
     <message>
         <source>Nothing is due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts ist fällig.</translation>
     </message>
     <message>
         <source>Budget health: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 days late</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 day late</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesundheit des Budgets: %1</translation>
     </message>
     <message>
         <source>today</source>
-        <translation type="unfinished"></translation>
+        <translation>heute</translation>
     </message>
     <message>
         <source>tomorrow</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>in %1 days</source>
-        <translation type="unfinished"></translation>
+        <translation>morgen</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann</translation>
     </message>
     <message>
         <source>Posted the %1 &apos;%2&apos;, due on %3: %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gebucht: „%2“ (%1), fällig am %3: %4.</translation>
     </message>
     <message>
         <source>Posted %1 for the %2 &apos;%3&apos;, which is still due on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 für „%3“ (%2) gebucht, weiterhin fällig am %4.</translation>
     </message>
     <message>
         <source>Skipped the %1 &apos;%2&apos; due on %3; it is next due on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersprungen: „%2“ (%1), fällig am %3; als Nächstes fällig am %4.</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt keine solche Datei</translation>
     </message>
     <message>
         <source>it is outside of the journal&apos;s own folder</source>
-        <translation type="unfinished"></translation>
+        <translation>sie liegt außerhalb des Ordners des Journals</translation>
     </message>
     <message>
         <source>all files together are too large</source>
-        <translation type="unfinished"></translation>
+        <translation>alle Dateien zusammen sind zu groß</translation>
     </message>
     <message>
         <source>Entries of nothing are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge über nichts werden ausgelassen.</translation>
     </message>
     <message>
         <source>Posted %1 transactions, left out %2 duplicates, opened %3 accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen: %1; ausgelassene Dubletten: %2; eröffnete Konten: %3.</translation>
     </message>
     <message>
         <source>New account</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Konto</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile</translation>
     </message>
     <message>
         <source>Debit</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll</translation>
     </message>
     <message>
         <source>Credit</source>
-        <translation type="unfinished"></translation>
+        <translation>Haben</translation>
     </message>
     <message>
         <source>duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dublette</translation>
     </message>
     <message>
         <source>There are no transactions in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datei stehen keine Buchungen.</translation>
     </message>
     <message>
         <source>Added the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angelegt: „%2“ (%1).</translation>
     </message>
     <message>
         <source>Changed the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert: „%2“ (%1).</translation>
     </message>
     <message>
         <source>The %1 &apos;%2&apos; is now called &apos;%3&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%2“ (%1) heißt jetzt „%3“.</translation>
     </message>
     <message>
         <source>Removed the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt: „%2“ (%1).</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>Turnus</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Termin</translation>
     </message>
     <message>
         <source>Borrowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geliehen</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielbetrag</translation>
     </message>
     <message>
         <source>Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagwörter</translation>
     </message>
     <message>
         <source>There are none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine.</translation>
     </message>
     <message>
         <source>For one %1, as of %2 (no longer current)</source>
-        <translation type="unfinished"></translation>
+        <translation>Für 1 %1, Stand %2 (nicht mehr aktuell)</translation>
     </message>
     <message>
         <source>For one %1, as of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Für 1 %1, Stand %2</translation>
     </message>
     <message>
         <source>Currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Währung</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurs</translation>
     </message>
     <message>
         <source>No exchange rates are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Wechselkurse bekannt.</translation>
     </message>
     <message>
         <source>fetching exchange rates …</source>
-        <translation type="unfinished"></translation>
+        <translation>Wechselkurse werden abgerufen …</translation>
     </message>
     <message>
         <source>No newer release is announced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine neuere Version angekündigt.</translation>
     </message>
     <message>
         <source>There is a newer release: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt eine neuere Version: %1.</translation>
     </message>
     <message>
         <source>There are no releases.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Veröffentlichungen.</translation>
     </message>
     <message>
         <source>Household report</source>
-        <translation type="unfinished"></translation>
+        <translation>Haushaltsbericht</translation>
     </message>
     <message>
         <source>Budget</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget</translation>
     </message>
     <message>
         <source>Budget against actual</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget und Wirklichkeit</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Monat %1</translation>
     </message>
     <message>
         <source>There are no budget items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Budgetposten.</translation>
     </message>
     <message>
         <source>Day of the statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag des Kontoauszugs</translation>
     </message>
     <message>
         <source>Last reconciled on</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt abgeglichen am</translation>
     </message>
     <message>
         <source>Balance then</source>
-        <translation type="unfinished"></translation>
+        <translation>Damaliger Saldo</translation>
     </message>
     <message>
         <source>Changes counted from</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen gezählt ab</translation>
     </message>
     <message>
         <source>Expected balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwarteter Saldo</translation>
     </message>
     <message>
         <source>Still due this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Monat noch fällig</translation>
     </message>
     <message>
         <source>Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchung</translation>
     </message>
     <message>
         <source>Changes by budget item</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen nach Budgetposten</translation>
     </message>
     <message>
         <source>Other changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Änderungen</translation>
     </message>
     <message>
         <source>Proposed distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgeschlagene Verteilung</translation>
     </message>
     <message>
         <source>Set aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurückgelegt</translation>
     </message>
     <message>
         <source>Expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwartet</translation>
     </message>
     <message>
         <source>There is nothing to set aside for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts, wofür etwas zurückzulegen wäre.</translation>
     </message>
     <message>
         <source>Not distributed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verteilt</translation>
     </message>
     <message>
         <source>Reconciled %1 with a balance of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mit einem Saldo von %2 abgeglichen.</translation>
     </message>
     <message>
         <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht im Kontoauszug %1 %2 „%3“, %4?</translation>
     </message>
     <message>
         <source>The statement&apos;s balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo des Kontoauszugs</translation>
     </message>
     <message>
         <source>Money for an item that is not booked, as ITEM=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gebuchtes Geld für einen Posten, als POSTEN=BETRAG</translation>
     </message>
     <message>
         <source>Money for another account, as ACCOUNT=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Geld für ein anderes Konto, als KONTO=BETRAG</translation>
     </message>
     <message>
         <source>What is set aside for an item, as ITEM=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Was für einen Posten zurückgelegt wird, als POSTEN=BETRAG</translation>
     </message>
     <message>
         <source>Complete the survey?</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgleich abschließen?</translation>
     </message>
     <message>
         <source>%1 was never reconciled.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde noch nie abgeglichen.</translation>
     </message>
     <message>
         <source>%1 was reconciled on %2 with a balance of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde am %2 mit einem Saldo von %3 abgeglichen.</translation>
     </message>
     <message>
         <source>(exit status %1)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>(Rückgabewert %1)
+</translation>
     </message>
     <message>
         <source>The command ended otherwise than expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Befehl endete anders als erwartet.</translation>
     </message>
     <message>
         <source>A new budget, kept in US dollars, with a bank and its checking account</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein neues Budget, geführt in US-Dollar, mit einer Bank und ihrem Girokonto</translation>
     </message>
     <message>
         <source>What comes in, and what goes out</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hereinkommt und was hinausgeht</translation>
     </message>
     <message>
         <source>What is due is posted; the studio is closed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Was fällig ist, wird gebucht; das Studio hat diesen Monat zu</translation>
     </message>
     <message>
         <source>No account may bear a budget item&apos;s name: refused, nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Konto darf wie ein Budgetposten heißen: abgelehnt, nichts geändert</translation>
     </message>
     <message>
         <source>Every change above was saved at once; here the file is opened again</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Änderung oben wurde sofort gespeichert; hier wird die Datei wieder geöffnet</translation>
     </message>
     <message>
         <source>The debits do not equal the credits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll und Haben sind nicht gleich.</translation>
     </message>
     <message>
         <source>The sum of all debits equals the sum of all credits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Summe im Soll ist gleich der Summe im Haben.</translation>
     </message>
     <message>
         <source>Posted transaction %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Posted %1 transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchung %1 ausgeführt.</translation>
     </message>
     <message>
         <source>Changed transaction %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchung %1 geändert.</translation>
     </message>
     <message>
         <source>Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbuchung</translation>
     </message>
     <message>
         <source>Posted the refund as transaction %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstattung als Buchung %1 ausgeführt.</translation>
     </message>
     <message>
         <source>Removed the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen entfernt: %1.</translation>
     </message>
     <message>
         <source>Cleared the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen bestätigt: %1.</translation>
     </message>
     <message>
         <source>Reconciled the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen abgeglichen: %1.</translation>
     </message>
     <message>
         <source>Took the reconciliation of %1 back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgleich aufgehoben: %1.</translation>
     </message>
     <message>
         <source>The budget is again as it was saved at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Budget ist wieder so, wie es am %1 gespeichert wurde.</translation>
     </message>
     <message>
         <source>That changes nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ändert nichts daran.</translation>
     </message>
     <message>
         <source>not whole</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht heil</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Saved at</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert am</translation>
     </message>
     <message>
         <source>They hold the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie enthalten dasselbe.</translation>
     </message>
     <message>
         <source>It has no budget items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es hat keine Budgetposten.</translation>
     </message>
     <message>
         <source>Made the budget &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Budget „%1“ angelegt.</translation>
     </message>
     <message>
         <source>Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlage</translation>
     </message>
     <message>
         <source>Household</source>
-        <translation type="unfinished"></translation>
+        <translation>Haushalt</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2.</translation>
     </message>
     <message>
         <source>%1; did you mean %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; war %2 gemeint?</translation>
     </message>
     <message>
         <source>A value on the command line is not valid UTF-8.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Wert der Befehlszeile ist kein gültiges UTF-8.</translation>
     </message>
     <message>
         <source>A name cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name darf nicht leer sein.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date; write one like 2026-03-31, with a day that exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Datum; richtig ist etwa 2026-03-31, mit einem Tag, den es gibt.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Betrag; richtig ist etwa 1234.50 oder &apos;1234.50 USD&apos;.</translation>
     </message>
     <message>
         <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Betrag „%1“ ist zu groß, um genau bewahrt zu werden.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Betrag in %2, da diese Währung keine Untereinheit hat.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more digits behind the point than the %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat mehr Nachkommastellen als die %2 von %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Währung</translation>
     </message>
     <message>
         <source>write its ISO 4217 code, like USD</source>
-        <translation type="unfinished"></translation>
+        <translation>anzugeben ist ihr ISO-4217-Code, etwa USD</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a whole number from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine ganze Zahl von %2 bis %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a percentage; write one like 2.75.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Prozentsatz; richtig ist etwa 2.75.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nichts von: %2</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 schließen einander aus.</translation>
     </message>
     <message>
         <source>%1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlt.</translation>
     </message>
     <message>
         <source>Nothing to change was given; --help lists what can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts zum Ändern angegeben; --help zählt auf, was geändert werden kann.</translation>
     </message>
     <message>
         <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine Budgetdatei genannt; sie wird mit --file oder der Variablen KIV_FILE angegeben oder mit kiv new DATEI angelegt.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not of the form NAME=VALUE.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat nicht die Form NAME=WERT.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Befehl</translation>
     </message>
     <message>
         <source>kiv --help lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv --help zählt auf, welche es gibt</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no option of this command</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Option dieses Befehls</translation>
     </message>
     <message>
         <source>--help lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>--help zählt auf, welche es gibt</translation>
     </message>
     <message>
         <source>A quote is not closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Anführungszeichen ist nicht geschlossen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot name a profile; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann kein Profil bezeichnen; möglich sind Buchstaben, Ziffern, „-“ und „_“.</translation>
     </message>
     <message>
         <source>Cannot understand %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht zu verstehen: %2.</translation>
     </message>
     <message>
         <source>There is no account &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Konto „%1“</translation>
     </message>
     <message>
         <source>kiv accounts lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv accounts zählt auf, welche es gibt</translation>
     </message>
     <message>
         <source>Several accounts are named &apos;%1&apos;; give the number of one: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Konten heißen „%1“; anzugeben ist die Nummer von einem: %2.</translation>
     </message>
     <message>
         <source>There is no bank &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Bank „%1“</translation>
     </message>
     <message>
         <source>kiv banks lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv banks zählt auf, welche es gibt</translation>
     </message>
     <message>
         <source>No bank keeps the account &apos;%1&apos;; kiv bank-account attach ties it to one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Bank führt das Konto „%1“; kiv bank-account attach verknüpft es mit einer.</translation>
     </message>
     <message>
         <source>There is no %1 &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>„%2“ (%1) gibt es nicht</translation>
     </message>
     <message>
         <source>kiv %1 list shows those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv %1 list zeigt, was es gibt</translation>
     </message>
     <message>
         <source>There is no budget item &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Budgetposten „%1“</translation>
     </message>
     <message>
         <source>kiv bill list and the like show those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv bill list und dergleichen zeigen, was es gibt</translation>
     </message>
     <message>
         <source>Several budget items are named &apos;%1&apos;; choose one with --kind: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Budgetposten heißen „%1“; einer wird mit --kind gewählt: %2.</translation>
     </message>
     <message>
         <source>The answers ended before the questions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antworten endeten vor den Fragen.</translation>
     </message>
     <message>
         <source>The survey was not completed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The exchange rates could not be fetched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The releases could not be fetched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Abgleich wurde nicht abgeschlossen.</translation>
     </message>
     <message>
         <source>The budget could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Budget konnte nicht angelegt werden.</translation>
     </message>
     <message>
         <source>There is no tag &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Schlagwort „%1“</translation>
     </message>
     <message>
         <source>kiv tags list shows those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv tags list zeigt, welche es gibt</translation>
     </message>
     <message>
         <source>There is no former version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine frühere Version %1</translation>
     </message>
     <message>
         <source>none was kept of this budget</source>
-        <translation type="unfinished"></translation>
+        <translation>von diesem Budget wurde keine aufbewahrt</translation>
     </message>
     <message>
         <source>kiv history lists those that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv history zählt die aufbewahrten auf</translation>
     </message>
     <message>
         <source>The version in &apos;%1&apos; is not whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version in „%1“ ist nicht heil.</translation>
     </message>
     <message>
         <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%3“ (%1) kann nicht verarbeitet werden, solange es einen gleichnamigen Posten der Art %2 gibt; einer von beiden ist umzubenennen.</translation>
     </message>
     <message>
         <source>Money can be moved out of an asset account that a bank keeps, which &apos;%1&apos; is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geld kann nur von einem Vermögenskonto abgehen, das eine Bank führt; „%1“ ist keines.</translation>
     </message>
     <message>
         <source>Money can be moved into an asset account that a bank keeps and that stands under no other, which &apos;%1&apos; is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geld kann nur auf ein Vermögenskonto gehen, das eine Bank führt und das unter keinem anderen steht; „%1“ ist keines.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Buchung %1</translation>
     </message>
     <message>
         <source>kiv transactions lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv transactions zählt auf, welche es gibt</translation>
     </message>
     <message>
         <source>There is no profile &apos;%1&apos;; --save-profile saves one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Profil „%1“; --save-profile speichert eines.</translation>
     </message>
     <message>
         <source>There is no profile &apos;%1&apos; among: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Profil „%1“ unter: %2.</translation>
     </message>
     <message>
         <source>Say with --against which account is the other side of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit --against wird angegeben, welches Konto die Gegenseite ist von %1.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei „%1“ gibt es bereits; ein anderer Name ist nötig.</translation>
     </message>
     <message>
         <source>Cannot write the output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>Cannot read &apos;%1&apos;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
         <source>warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung: %1</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>it is larger than 64 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>das sind mehr als 64 MiB</translation>
     </message>
     <message>
         <source>%1 at byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bei Byte %2</translation>
     </message>
     <message>
         <source>it has no list of transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Liste von Buchungen fehlt</translation>
     </message>
     <message>
         <source>transaction %1 of &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchung %1 von „%2“</translation>
     </message>
     <message>
         <source>This was a dry run: nothing is saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies war ein Probelauf: Nichts ist gespeichert.</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>Detail</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>The record has more than %1 cells.</source>
+        <translation>Der Datensatz hat mehr als %1 Zellen.</translation>
+    </message>
+    <message>
+        <source>Of long comments the beginning is kept.</source>
+        <translation>Von langen Kommentaren wird der Anfang behalten.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT</source>
+        <translation>KONTO</translation>
+    </message>
+    <message>
+        <source>ACCOUNT=AMOUNT</source>
+        <translation>KONTO=BETRAG</translation>
+    </message>
+    <message>
+        <source>AMOUNT</source>
+        <translation>BETRAG</translation>
+    </message>
+    <message>
+        <source>BANK</source>
+        <translation>BANK</translation>
+    </message>
+    <message>
+        <source>BANK ACCOUNT</source>
+        <translation>BANK KONTO</translation>
+    </message>
+    <message>
+        <source>BASE</source>
+        <translation>BASIS</translation>
+    </message>
+    <message>
+        <source>CURRENCY</source>
+        <translation>WÄHRUNG</translation>
+    </message>
+    <message>
+        <source>CURRENCY=RATE</source>
+        <translation>WÄHRUNG=KURS</translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>DATUM</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>TAGE</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>VON</translation>
+    </message>
+    <message>
+        <source>HOURS</source>
+        <translation>STUNDEN</translation>
+    </message>
+    <message>
+        <source>ITEM</source>
+        <translation>POSTEN</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT</source>
+        <translation>POSTEN=BETRAG</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>NEW-NAME</source>
+        <translation>NEUER-NAME</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>NUMMER</translation>
+    </message>
+    <message>
+        <source>PERCENT</source>
+        <translation>PROZENT</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>SCHLAGWORT</translation>
+    </message>
+    <message>
+        <source>TEMPLATE</source>
+        <translation>VORLAGE</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>TO</source>
+        <translation>NACH</translation>
+    </message>
+    <message>
+        <source>The budget file; else KIV_FILE names it</source>
+        <translation>Die Budgetdatei; sonst nennt sie KIV_FILE</translation>
+    </message>
+    <message>
+        <source>Subcommands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Print JSON for programs</source>
+        <translation>JSON für Programme ausgeben</translation>
+    </message>
+    <message>
+        <source>Show what would come of it, save nothing</source>
+        <translation>Zeigen, was dabei herauskäme, nichts speichern</translation>
+    </message>
+    <message>
+        <source>Show the log on standard error</source>
+        <translation>Das Protokoll auf der Fehlerausgabe zeigen</translation>
+    </message>
+    <message>
+        <source>%1 is required.</source>
+        <translation>%1 ist nötig.</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing.</source>
+        <translation>%1: 1 %2 fehlt.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1.</source>
+        <translation>Das folgende Argument wurde nicht erwartet: %1.</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1.</source>
+        <translation>Die folgenden Argumente wurden nicht erwartet: %1.</translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3.</source>
+        <translation>%1: höchstens %2 möglich, aber %3 angegeben.</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2.</source>
+        <translation>Nicht umzuwandeln: %1 = %2.</translation>
+    </message>
+    <message>
+        <source>The account&apos;s number or name</source>
+        <translation>Nummer oder Name des Kontos</translation>
+    </message>
+    <message>
+        <source>The new number</source>
+        <translation>Die neue Nummer</translation>
+    </message>
+    <message>
+        <source>The new name</source>
+        <translation>Der neue Name</translation>
+    </message>
+    <message>
+        <source>The account under which it is to stand</source>
+        <translation>Das Konto, unter dem es stehen soll</translation>
+    </message>
+    <message>
+        <source>It is to stand under no other account</source>
+        <translation>Es soll unter keinem anderen Konto stehen</translation>
+    </message>
+    <message>
+        <source>Only asset, equity, expense, liability or income</source>
+        <translation>Nur asset, equity, expense, liability oder income</translation>
+    </message>
+    <message>
+        <source>Only accounts that are open</source>
+        <translation>Nur offene Konten</translation>
+    </message>
+    <message>
+        <source>The account&apos;s number, name or path</source>
+        <translation>Nummer, Name oder Pfad des Kontos</translation>
+    </message>
+    <message>
+        <source>Only from this day on</source>
+        <translation>Nur ab diesem Tag</translation>
+    </message>
+    <message>
+        <source>Only up to this day</source>
+        <translation>Nur bis zu diesem Tag</translation>
+    </message>
+    <message>
+        <source>The account&apos;s name</source>
+        <translation>Der Name des Kontos</translation>
+    </message>
+    <message>
+        <source>asset, equity, expense, liability or income</source>
+        <translation>asset, equity, expense, liability oder income</translation>
+    </message>
+    <message>
+        <source>Its number; the next free one otherwise</source>
+        <translation>Seine Nummer; sonst die nächste freie</translation>
+    </message>
+    <message>
+        <source>The account under which it stands</source>
+        <translation>Das Konto, unter dem es steht</translation>
+    </message>
+    <message>
+        <source>Its opening balance; 0 otherwise</source>
+        <translation>Sein Anfangssaldo; sonst 0</translation>
+    </message>
+    <message>
+        <source>Its currency; the preferred one otherwise</source>
+        <translation>Seine Währung; sonst die bevorzugte</translation>
+    </message>
+    <message>
+        <source>The day of the opening balance</source>
+        <translation>Der Tag des Anfangssaldos</translation>
+    </message>
+    <message>
+        <source>List all accounts with their balances</source>
+        <translation>Alle Konten mit ihren Salden auflisten</translation>
+    </message>
+    <message>
+        <source>List the transactions of an account</source>
+        <translation>Die Buchungen eines Kontos auflisten</translation>
+    </message>
+    <message>
+        <source>Accounts of the ledger</source>
+        <translation>Konten des Hauptbuchs</translation>
+    </message>
+    <message>
+        <source>Open an account</source>
+        <translation>Ein Konto eröffnen</translation>
+    </message>
+    <message>
+        <source>Change an account&apos;s number, name or parent</source>
+        <translation>Nummer, Name oder Oberkonto eines Kontos ändern</translation>
+    </message>
+    <message>
+        <source>Close an account</source>
+        <translation>Ein Konto schließen</translation>
+    </message>
+    <message>
+        <source>Open a closed account again</source>
+        <translation>Ein geschlossenes Konto wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Remove an account without transactions</source>
+        <translation>Ein Konto ohne Buchungen entfernen</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s name</source>
+        <translation>Der Name der Bank</translation>
+    </message>
+    <message>
+        <source>Its new name</source>
+        <translation>Der neue Name</translation>
+    </message>
+    <message>
+        <source>The bank that keeps it</source>
+        <translation>Die Bank, die es führt</translation>
+    </message>
+    <message>
+        <source>checking (unless given), savings, credit-card, loan, line-of-credit, money-market or cash</source>
+        <translation>checking (ohne Angabe), savings, credit-card, loan, line-of-credit, money-market oder cash</translation>
+    </message>
+    <message>
+        <source>An account of the ledger</source>
+        <translation>Ein Konto des Hauptbuchs</translation>
+    </message>
+    <message>
+        <source>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
+        <translation>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market oder cash</translation>
+    </message>
+    <message>
+        <source>The account, which stays in the ledger</source>
+        <translation>Das Konto, das im Hauptbuch bleibt</translation>
+    </message>
+    <message>
+        <source>List all banks with their accounts</source>
+        <translation>Alle Banken mit ihren Konten auflisten</translation>
+    </message>
+    <message>
+        <source>Add a bank</source>
+        <translation>Eine Bank anlegen</translation>
+    </message>
+    <message>
+        <source>Give a bank another name</source>
+        <translation>Einer Bank einen anderen Namen geben</translation>
+    </message>
+    <message>
+        <source>Close a bank with its accounts</source>
+        <translation>Eine Bank mit ihren Konten schließen</translation>
+    </message>
+    <message>
+        <source>Open a closed bank again</source>
+        <translation>Eine geschlossene Bank wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Remove a bank with its accounts</source>
+        <translation>Eine Bank mit ihren Konten entfernen</translation>
+    </message>
+    <message>
+        <source>Accounts that banks keep</source>
+        <translation>Konten, die Banken führen</translation>
+    </message>
+    <message>
+        <source>Open an account at a bank</source>
+        <translation>Ein Konto bei einer Bank eröffnen</translation>
+    </message>
+    <message>
+        <source>Let a bank keep an account of the ledger</source>
+        <translation>Ein Konto des Hauptbuchs einer Bank zuordnen</translation>
+    </message>
+    <message>
+        <source>Take an account from its bank</source>
+        <translation>Ein Konto von seiner Bank lösen</translation>
+    </message>
+    <message>
+        <source>Change a bank account&apos;s number, name or parent</source>
+        <translation>Nummer, Name oder Oberkonto eines Bankkontos ändern</translation>
+    </message>
+    <message>
+        <source>Remove a bank account</source>
+        <translation>Ein Bankkonto entfernen</translation>
+    </message>
+    <message>
+        <source>The file to be made; .budget is appended</source>
+        <translation>Die anzulegende Datei; .budget wird angehängt</translation>
+    </message>
+    <message>
+        <source>Make an empty budget file</source>
+        <translation>Eine leere Budgetdatei anlegen</translation>
+    </message>
+    <message>
+        <source>Tell what the budget holds</source>
+        <translation>Zeigen, was das Budget enthält</translation>
+    </message>
+    <message>
+        <source>Save the budget as another file</source>
+        <translation>Das Budget als andere Datei speichern</translation>
+    </message>
+    <message>
+        <source>It is a budget file of a known version</source>
+        <translation>Es ist eine Budgetdatei einer bekannten Version</translation>
+    </message>
+    <message>
+        <source>Its tables are those of that version</source>
+        <translation>Ihre Tabellen sind die dieser Version</translation>
+    </message>
+    <message>
+        <source>Its rows are those that were written</source>
+        <translation>Ihre Zeilen sind die, die geschrieben wurden</translation>
+    </message>
+    <message>
+        <source>Its books obey the rules of the ledger</source>
+        <translation>Ihre Bücher folgen den Regeln des Hauptbuchs</translation>
+    </message>
+    <message>
+        <source>Its items, accounts and banks fit together</source>
+        <translation>Posten, Konten und Banken passen zueinander</translation>
+    </message>
+    <message>
+        <source>Every balance is the sum of its transactions</source>
+        <translation>Jeder Saldo ist die Summe seiner Buchungen</translation>
+    </message>
+    <message>
+        <source>In every currency the debits equal the credits</source>
+        <translation>In jeder Währung ist Soll gleich Haben</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>gehalten</translation>
+    </message>
+    <message>
+        <source>mended when it is opened</source>
+        <translation>beim Öffnen repariert</translation>
+    </message>
+    <message>
+        <source>BROKEN</source>
+        <translation>GEBROCHEN</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>nicht beurteilt</translation>
+    </message>
+    <message>
+        <source>A budget file or one of its backups</source>
+        <translation>Eine Budgetdatei oder eine ihrer Sicherungen</translation>
+    </message>
+    <message>
+        <source>Promise</source>
+        <translation>Zusage</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is whole.</source>
+        <translation>Das Budget „%1“ ist heil.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is not whole; kiv check FILE tells which of its backups (%1.backup-1, …) is.</source>
+        <translation>Das Budget „%1“ ist nicht heil; kiv check DATEI sagt, welche seiner Sicherungen (%1.backup-1, …) es ist.</translation>
+    </message>
+    <message>
+        <source>Verify a budget file and tell each of its promises</source>
+        <translation>Eine Budgetdatei prüfen und jede ihrer Zusagen nennen</translation>
+    </message>
+    <message>
+        <source>A word of the line; the last one is being written</source>
+        <translation>Ein Wort der Zeile; das letzte wird gerade geschrieben</translation>
+    </message>
+    <message>
+        <source>What shells and manual pages are made of</source>
+        <translation>Woraus Shells und Handbuchseiten schöpfen</translation>
+    </message>
+    <message>
+        <source>Print the completion script for bash</source>
+        <translation>Das Vervollständigungsskript für bash ausgeben</translation>
+    </message>
+    <message>
+        <source>Print the completion script for zsh</source>
+        <translation>Das Vervollständigungsskript für zsh ausgeben</translation>
+    </message>
+    <message>
+        <source>Print the completion script for fish</source>
+        <translation>Das Vervollständigungsskript für fish ausgeben</translation>
+    </message>
+    <message>
+        <source>List what may stand in the place of the last word</source>
+        <translation>Auflisten, was an der Stelle des letzten Wortes stehen kann</translation>
+    </message>
+    <message>
+        <source>Print the commands in the notation of manual pages</source>
+        <translation>Die Befehle in der Schreibweise von Handbuchseiten ausgeben</translation>
+    </message>
+    <message>
+        <source>The currency of amounts without one</source>
+        <translation>Die Währung von Beträgen ohne eine</translation>
+    </message>
+    <message>
+        <source>A usable currency; give all of them, one by one</source>
+        <translation>Eine nutzbare Währung; alle sind einzeln anzugeben</translation>
+    </message>
+    <message>
+        <source>How currencies are shown: code, symbol or both</source>
+        <translation>Wie Währungen gezeigt werden: code, symbol oder both</translation>
+    </message>
+    <message>
+        <source>How many days ahead items count as due</source>
+        <translation>Wie viele Tage im Voraus Posten als fällig gelten</translation>
+    </message>
+    <message>
+        <source>By how much a survey may miss the statement</source>
+        <translation>Wie weit ein Abgleich vom Kontoauszug abweichen darf</translation>
+    </message>
+    <message>
+        <source>Tags to be taken from every budget item</source>
+        <translation>Schlagwörter, die jedem Budgetposten genommen werden</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings</source>
+        <translation>Die Einstellungen</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Die Einstellungen zeigen</translation>
+    </message>
+    <message>
+        <source>Change settings; what is not given stays</source>
+        <translation>Einstellungen ändern; was nicht angegeben ist, bleibt</translation>
+    </message>
+    <message>
+        <source>Tags on budget items</source>
+        <translation>Schlagwörter an Budgetposten</translation>
+    </message>
+    <message>
+        <source>List all tags</source>
+        <translation>Alle Schlagwörter auflisten</translation>
+    </message>
+    <message>
+        <source>Take tags from every budget item</source>
+        <translation>Jedem Budgetposten Schlagwörter nehmen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Due within %n days</source>
+        <translation>
+            <numerusform>Fällig innerhalb eines Tages</numerusform>
+            <numerusform>Fällig innerhalb von %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show totals, what is due and the budget&apos;s health</source>
+        <translation>Summen, Fälliges und die Gesundheit des Budgets zeigen</translation>
+    </message>
+    <message>
+        <source>The budget item&apos;s name</source>
+        <translation>Der Name des Budgetpostens</translation>
+    </message>
+    <message>
+        <source>bill, debt, goal, nontrack or wage, where names repeat</source>
+        <translation>bill, debt, goal, nontrack oder wage, wo Namen mehrfach vorkommen</translation>
+    </message>
+    <message>
+        <source>How many days ahead; as configured otherwise</source>
+        <translation>Wie viele Tage im Voraus; sonst wie eingestellt</translation>
+    </message>
+    <message>
+        <source>Today, or another day in its place</source>
+        <translation>Heute oder ein anderer Tag an seiner Stelle</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>%n Tag überfällig</numerusform>
+            <numerusform>%n Tage überfällig</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n days</source>
+        <translation>
+            <numerusform>in %n Tag</numerusform>
+            <numerusform>in %n Tagen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account that pays, or that a wage goes to</source>
+        <translation>Das Konto, das zahlt oder auf das ein Lohn geht</translation>
+    </message>
+    <message>
+        <source>Another amount than the item&apos;s</source>
+        <translation>Ein anderer Betrag als der des Postens</translation>
+    </message>
+    <message>
+        <source>Post everything that is due by now, in place of one item</source>
+        <translation>Alles bis jetzt Fällige buchen, statt eines Postens</translation>
+    </message>
+    <message>
+        <source>The day of posting; today otherwise</source>
+        <translation>Der Buchungstag; sonst heute</translation>
+    </message>
+    <message>
+        <source>What is paid, or what came in for a wage</source>
+        <translation>Was gezahlt wird oder als Lohn einging</translation>
+    </message>
+    <message>
+        <source>List what is due</source>
+        <translation>Auflisten, was fällig ist</translation>
+    </message>
+    <message>
+        <source>Post a budget item that is due</source>
+        <translation>Einen fälligen Budgetposten buchen</translation>
+    </message>
+    <message>
+        <source>Post an unexpected amount for a budget item</source>
+        <translation>Einen unerwarteten Betrag für einen Budgetposten buchen</translation>
+    </message>
+    <message>
+        <source>Skip a budget item once, without posting</source>
+        <translation>Einen Budgetposten einmal überspringen, ohne zu buchen</translation>
+    </message>
+    <message>
+        <source>journal (unless given), csv or json</source>
+        <translation>journal (ohne Angabe), csv oder json</translation>
+    </message>
+    <message>
+        <source>Write the ledger for other programs</source>
+        <translation>Das Hauptbuch für andere Programme schreiben</translation>
+    </message>
+    <message>
+        <source>The file; - for standard input</source>
+        <translation>Die Datei; - für die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>journal, csv, ofx or qif; guessed otherwise</source>
+        <translation>journal, csv, ofx oder qif; wird sonst erraten</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding; UTF-8 otherwise</source>
+        <translation>Die Kodierung der Datei; sonst UTF-8</translation>
+    </message>
+    <message>
+        <source>The decimal mark: . or ,</source>
+        <translation>Das Dezimalzeichen: . oder ,</translation>
+    </message>
+    <message>
+        <source>How days are written, like DD.MM.YYYY</source>
+        <translation>Wie Tage geschrieben sind, etwa DD.MM.YYYY</translation>
+    </message>
+    <message>
+        <source>The currency of amounts that have none (journal)</source>
+        <translation>Die Währung von Beträgen ohne eine (journal)</translation>
+    </message>
+    <message>
+        <source>What a root is, like Aktiva=asset (journal)</source>
+        <translation>Was eine Wurzel ist, etwa Aktiva=asset (journal)</translation>
+    </message>
+    <message>
+        <source>Which currency a name means, like Fr=CHF (journal)</source>
+        <translation>Welche Währung ein Name meint, etwa Fr=CHF (journal)</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s number of the account (ofx)</source>
+        <translation>Die Kontonummer bei der Bank (ofx)</translation>
+    </message>
+    <message>
+        <source>Read the file as this saved profile says</source>
+        <translation>Die Datei lesen, wie es dieses gespeicherte Profil sagt</translation>
+    </message>
+    <message>
+        <source>Save how the file was read under this name</source>
+        <translation>Unter diesem Namen speichern, wie die Datei gelesen wurde</translation>
+    </message>
+    <message>
+        <source>The column of the day, by heading or number (csv)</source>
+        <translation>Die Spalte des Tages, nach Überschrift oder Nummer (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the amount (csv)</source>
+        <translation>Die Spalte des Betrags (csv)</translation>
+    </message>
+    <message>
+        <source>The column of what came in (csv)</source>
+        <translation>Die Spalte der Eingänge (csv)</translation>
+    </message>
+    <message>
+        <source>The column of what went out (csv)</source>
+        <translation>Die Spalte der Ausgänge (csv)</translation>
+    </message>
+    <message>
+        <source>The column that tells the sign (csv)</source>
+        <translation>Die Spalte mit dem Vorzeichen (csv)</translation>
+    </message>
+    <message>
+        <source>What stands there when money went out (csv)</source>
+        <translation>Was dort bei Ausgängen steht (csv)</translation>
+    </message>
+    <message>
+        <source>A column of the description (csv)</source>
+        <translation>Eine Spalte der Beschreibung (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the bank&apos;s identifier (csv)</source>
+        <translation>Die Spalte mit der Kennung der Bank (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the currency (csv)</source>
+        <translation>Die Spalte der Währung (csv)</translation>
+    </message>
+    <message>
+        <source>What stands between cells; guessed otherwise (csv)</source>
+        <translation>Was zwischen Zellen steht; wird sonst erraten (csv)</translation>
+    </message>
+    <message>
+        <source>How many lines stand above the headings (csv)</source>
+        <translation>Wie viele Zeilen über den Überschriften stehen (csv)</translation>
+    </message>
+    <message>
+        <source>The first line is an entry already (csv)</source>
+        <translation>Die erste Zeile ist schon ein Eintrag (csv)</translation>
+    </message>
+    <message>
+        <source>Money that went out is positive (csv)</source>
+        <translation>Ausgänge sind positiv (csv)</translation>
+    </message>
+    <message>
+        <source>The account that a bank statement is about</source>
+        <translation>Das Konto, um das es im Kontoauszug geht</translation>
+    </message>
+    <message>
+        <source>The other account of entries that no rule knows</source>
+        <translation>Das Gegenkonto von Einträgen, die keine Regel kennt</translation>
+    </message>
+    <message>
+        <source>Post what is there already, too</source>
+        <translation>Auch buchen, was schon da ist</translation>
+    </message>
+    <message>
+        <source>Post what a journal or a bank statement holds, or nothing of it</source>
+        <translation>Buchen, was ein Journal oder Kontoauszug enthält, oder nichts davon</translation>
+    </message>
+    <message>
+        <source>How often it recurs, such as monthly</source>
+        <translation>Wie oft es wiederkehrt, etwa monthly</translation>
+    </message>
+    <message>
+        <source>The next day on which it does</source>
+        <translation>Der nächste Tag, an dem es das tut</translation>
+    </message>
+    <message>
+        <source>A tag to find it by; may be given several times</source>
+        <translation>Ein Schlagwort zum Wiederfinden; mehrmals möglich</translation>
+    </message>
+    <message>
+        <source>What was borrowed: its account opens with it</source>
+        <translation>Was geliehen wurde: Damit wird sein Konto eröffnet</translation>
+    </message>
+    <message>
+        <source>The bank that holds it</source>
+        <translation>Die Bank, bei der sie besteht</translation>
+    </message>
+    <message>
+        <source>The kind of account there: loan (unless given), …</source>
+        <translation>Die Art des Kontos dort: loan (ohne Angabe), …</translation>
+    </message>
+    <message>
+        <source>What it is to come to</source>
+        <translation>Was es werden soll</translation>
+    </message>
+    <message>
+        <source>The bank account under which it is put aside</source>
+        <translation>Das Bankkonto, unter dem es zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>Its name</source>
+        <translation>Der Name</translation>
+    </message>
+    <message>
+        <source>What it comes to</source>
+        <translation>Der Betrag</translation>
+    </message>
+    <message>
+        <source>Today, in place of --next</source>
+        <translation>Heute, statt --next</translation>
+    </message>
+    <message>
+        <source>Take its tags away</source>
+        <translation>Die Schlagwörter wegnehmen</translation>
+    </message>
+    <message>
+        <source>Tie it to no bank any more</source>
+        <translation>Mit keiner Bank mehr verknüpfen</translation>
+    </message>
+    <message>
+        <source>Add one</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Change one; what is not given stays</source>
+        <translation>Ändern; was nicht angegeben ist, bleibt</translation>
+    </message>
+    <message>
+        <source>Give one another name</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove one</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>List all of them</source>
+        <translation>Alle auflisten</translation>
+    </message>
+    <message>
+        <source>Bills: what must be paid</source>
+        <translation>Rechnungen: was bezahlt werden muss</translation>
+    </message>
+    <message>
+        <source>Debts: what was borrowed and is paid back</source>
+        <translation>Schulden: was geliehen wurde und zurückgezahlt wird</translation>
+    </message>
+    <message>
+        <source>Goals: what is put aside for a target</source>
+        <translation>Ziele: was für einen Zielbetrag zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>Non-tracked items: what is spent without keeping track</source>
+        <translation>Nicht verfolgte Posten: was ohne Nachweis ausgegeben wird</translation>
+    </message>
+    <message>
+        <source>Wages: what comes in</source>
+        <translation>Löhne: was hereinkommt</translation>
+    </message>
+    <message>
+        <source>The currencies; the usable ones otherwise</source>
+        <translation>Die Währungen; sonst die nutzbaren</translation>
+    </message>
+    <message>
+        <source>The currency of which one unit is meant</source>
+        <translation>Die Währung, von der eine Einheit gemeint ist</translation>
+    </message>
+    <message>
+        <source>How much of another currency it buys</source>
+        <translation>Wie viel einer anderen Währung man dafür bekommt</translation>
+    </message>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Wechselkurse</translation>
+    </message>
+    <message>
+        <source>Show the exchange rates that are known</source>
+        <translation>Die bekannten Wechselkurse zeigen</translation>
+    </message>
+    <message>
+        <source>Fetch the rates of the day</source>
+        <translation>Die Kurse des Tages abrufen</translation>
+    </message>
+    <message>
+        <source>Set rates by hand</source>
+        <translation>Kurse von Hand setzen</translation>
+    </message>
+    <message>
+        <source>Newer releases of this program</source>
+        <translation>Neuere Versionen dieses Programms</translation>
+    </message>
+    <message>
+        <source>Ask whether there is a newer release</source>
+        <translation>Nachfragen, ob es eine neuere Version gibt</translation>
+    </message>
+    <message>
+        <source>Show what each release brought</source>
+        <translation>Zeigen, was jede Version gebracht hat</translation>
+    </message>
+    <message>
+        <source>In the first month; eleven months before otherwise</source>
+        <translation>Im ersten Monat; sonst elf Monate zuvor</translation>
+    </message>
+    <message>
+        <source>The last day; today otherwise</source>
+        <translation>Der letzte Tag; sonst heute</translation>
+    </message>
+    <message>
+        <source>Print one HTML page, with charts, to be read or printed</source>
+        <translation>Eine HTML-Seite mit Diagrammen ausgeben, zum Lesen oder Drucken</translation>
+    </message>
+    <message>
+        <source>Draw the charts on the terminal</source>
+        <translation>Die Diagramme im Terminal zeichnen</translation>
+    </message>
+    <message>
+        <source>The title of the page</source>
+        <translation>Der Titel der Seite</translation>
+    </message>
+    <message>
+        <source>The last day, where --to is not given</source>
+        <translation>Der letzte Tag, wenn --to nicht angegeben ist</translation>
+    </message>
+    <message>
+        <source>Show income, expenses, budget and net worth month by month</source>
+        <translation>Einnahmen, Ausgaben, Budget und Reinvermögen Monat für Monat zeigen</translation>
+    </message>
+    <message>
+        <source>The budget file, as with --file</source>
+        <translation>Die Budgetdatei, wie bei --file</translation>
+    </message>
+    <message>
+        <source>Read commands line by line and keep the budget open</source>
+        <translation>Befehle Zeile für Zeile lesen und das Budget offen halten</translation>
+    </message>
+    <message>
+        <source>Read commands likewise, and print the Navigator&apos;s signals as JSON lines</source>
+        <translation>Befehle ebenso lesen und die Signale des Navigators als JSON-Zeilen ausgeben</translation>
+    </message>
+    <message>
+        <source>The bank account&apos;s number or name</source>
+        <translation>Nummer oder Name des Bankkontos</translation>
+    </message>
+    <message>
+        <source>The day of the statement; today otherwise</source>
+        <translation>Der Tag des Kontoauszugs; sonst heute</translation>
+    </message>
+    <message>
+        <source>A document of survey show --json, edited; - for input</source>
+        <translation>Ein bearbeitetes Dokument von survey show --json; - für die Eingabe</translation>
+    </message>
+    <message>
+        <source>A transaction that the statement shows</source>
+        <translation>Eine Buchung, die im Kontoauszug steht</translation>
+    </message>
+    <message>
+        <source>It shows all transactions of the survey</source>
+        <translation>Alle Buchungen des Abgleichs stehen darin</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT: money for an item that is not booked yet; with a minus for what went out</source>
+        <translation>POSTEN=BETRAG: noch nicht gebuchtes Geld für einen Posten; mit Minus, was ausging</translation>
+    </message>
+    <message>
+        <source>ACCOUNT=AMOUNT: the same for another account</source>
+        <translation>KONTO=BETRAG: dasselbe für ein anderes Konto</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT: what is set aside for an item</source>
+        <translation>POSTEN=BETRAG: was für einen Posten zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>What is set aside for nothing</source>
+        <translation>Was für nichts zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>Comparing the books with a bank statement</source>
+        <translation>Die Bücher mit einem Kontoauszug vergleichen</translation>
+    </message>
+    <message>
+        <source>Show what has happened since the last survey</source>
+        <translation>Zeigen, was seit dem letzten Abgleich geschehen ist</translation>
+    </message>
+    <message>
+        <source>Reconcile the account with a statement</source>
+        <translation>Das Konto mit einem Kontoauszug abgleichen</translation>
+    </message>
+    <message>
+        <source>Go through a statement question by question</source>
+        <translation>Einen Kontoauszug Frage für Frage durchgehen</translation>
+    </message>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Frühere Abgleiche</translation>
+    </message>
+    <message>
+        <source>Show when an account was last reconciled</source>
+        <translation>Zeigen, wann ein Konto zuletzt abgeglichen wurde</translation>
+    </message>
+    <message>
+        <source>Show on a temporary budget what the command does</source>
+        <translation>An einem vorläufigen Budget zeigen, was der Befehl kann</translation>
+    </message>
+    <message>
+        <source>What moves; in the debited account&apos;s currency</source>
+        <translation>Was bewegt wird; in der Währung des Kontos im Soll</translation>
+    </message>
+    <message>
+        <source>The account that is debited</source>
+        <translation>Das Konto im Soll</translation>
+    </message>
+    <message>
+        <source>The account that is credited</source>
+        <translation>Das Konto im Haben</translation>
+    </message>
+    <message>
+        <source>What it is about</source>
+        <translation>Worum es geht</translation>
+    </message>
+    <message>
+        <source>The day of the transaction; today otherwise</source>
+        <translation>Der Tag der Buchung; sonst heute</translation>
+    </message>
+    <message>
+        <source>A JSON list of transactions; - for standard input</source>
+        <translation>Eine JSON-Liste von Buchungen; - für die Standardeingabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>Posted %n transactions.</source>
+        <translation>
+            <numerusform>%n Buchung ausgeführt.</numerusform>
+            <numerusform>%n Buchungen ausgeführt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The transaction&apos;s number</source>
+        <translation>Die Nummer der Buchung</translation>
+    </message>
+    <message>
+        <source>What moves</source>
+        <translation>Was bewegt wird</translation>
+    </message>
+    <message>
+        <source>The day of the transaction</source>
+        <translation>Der Tag der Buchung</translation>
+    </message>
+    <message>
+        <source>Numbers of transactions</source>
+        <translation>Nummern von Buchungen</translation>
+    </message>
+    <message>
+        <source>The bank account that the money leaves</source>
+        <translation>Das Bankkonto, von dem das Geld abgeht</translation>
+    </message>
+    <message>
+        <source>The bank account that it goes to</source>
+        <translation>Das Bankkonto, auf das es geht</translation>
+    </message>
+    <message>
+        <source>How much; in the currency of the account it goes to</source>
+        <translation>Wie viel; in der Währung des Kontos, auf das es geht</translation>
+    </message>
+    <message>
+        <source>The day of the transfer; today otherwise</source>
+        <translation>Der Tag der Umbuchung; sonst heute</translation>
+    </message>
+    <message>
+        <source>The transaction of which something comes back</source>
+        <translation>Die Buchung, von der etwas zurückkommt</translation>
+    </message>
+    <message>
+        <source>How much</source>
+        <translation>Wie viel</translation>
+    </message>
+    <message>
+        <source>The day of the refund; today otherwise</source>
+        <translation>Der Tag der Erstattung; sonst heute</translation>
+    </message>
+    <message>
+        <source>List all transactions</source>
+        <translation>Alle Buchungen auflisten</translation>
+    </message>
+    <message>
+        <source>Transactions of the ledger</source>
+        <translation>Buchungen des Hauptbuchs</translation>
+    </message>
+    <message>
+        <source>Post a transaction</source>
+        <translation>Eine Buchung ausführen</translation>
+    </message>
+    <message>
+        <source>Post all transactions of a JSON file</source>
+        <translation>Alle Buchungen einer JSON-Datei ausführen</translation>
+    </message>
+    <message>
+        <source>Change a transaction; what is not given stays</source>
+        <translation>Eine Buchung ändern; was nicht angegeben ist, bleibt</translation>
+    </message>
+    <message>
+        <source>Remove transactions</source>
+        <translation>Buchungen entfernen</translation>
+    </message>
+    <message>
+        <source>Mark transactions as seen at the bank</source>
+        <translation>Buchungen als bei der Bank gesehen kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Mark transactions as part of a statement</source>
+        <translation>Buchungen als Teil eines Kontoauszugs kennzeichnen</translation>
+    </message>
+    <message>
+        <source>Take the reconciliation of transactions back</source>
+        <translation>Den Abgleich von Buchungen aufheben</translation>
+    </message>
+    <message>
+        <source>Move money between bank accounts</source>
+        <translation>Geld zwischen Bankkonten umbuchen</translation>
+    </message>
+    <message>
+        <source>List what of a budget item can be refunded</source>
+        <translation>Auflisten, was von einem Budgetposten erstattet werden kann</translation>
+    </message>
+    <message>
+        <source>Post a refund of a transaction</source>
+        <translation>Eine Erstattung einer Buchung ausführen</translation>
+    </message>
+    <message>
+        <source>An older version; see history</source>
+        <translation>Eine ältere Version; siehe history</translation>
+    </message>
+    <message>
+        <source>A version; the one before the last save otherwise</source>
+        <translation>Eine Version; sonst die vor dem letzten Speichern</translation>
+    </message>
+    <message>
+        <source>A version; the file as it is otherwise</source>
+        <translation>Eine Version; sonst die Datei, wie sie ist</translation>
+    </message>
+    <message>
+        <source>Bring the budget back as it was before the last saved change</source>
+        <translation>Das Budget zurückholen, wie es vor der letzten Änderung war</translation>
+    </message>
+    <message>
+        <source>List the former versions of the budget that are kept</source>
+        <translation>Die aufbewahrten früheren Versionen des Budgets auflisten</translation>
+    </message>
+    <message>
+        <source>Tell what changed from one version to another</source>
+        <translation>Zeigen, was sich von einer Version zur anderen geändert hat</translation>
+    </message>
+    <message>
+        <source>The household; see templates list</source>
+        <translation>Der Haushalt; siehe templates list</translation>
+    </message>
+    <message>
+        <source>Its currency, preferred from now on</source>
+        <translation>Seine Währung, von nun an die bevorzugte</translation>
+    </message>
+    <message>
+        <source>The household&apos;s bank</source>
+        <translation>Die Bank des Haushalts</translation>
+    </message>
+    <message>
+        <source>The name of its account there</source>
+        <translation>Der Name seines Kontos dort</translation>
+    </message>
+    <message>
+        <source>The kind of account; checking unless given</source>
+        <translation>Die Art des Kontos; ohne Angabe checking</translation>
+    </message>
+    <message>
+        <source>The account&apos;s balance; 0 otherwise</source>
+        <translation>Der Saldo des Kontos; sonst 0</translation>
+    </message>
+    <message>
+        <source>See templates list</source>
+        <translation>Siehe templates list</translation>
+    </message>
+    <message>
+        <source>Make a new budget for a kind of household</source>
+        <translation>Ein neues Budget für eine Art von Haushalt anlegen</translation>
+    </message>
+    <message>
+        <source>Starter budgets for the wizard</source>
+        <translation>Vorlagen für neue Budgets</translation>
+    </message>
+    <message>
+        <source>List the kinds of household</source>
+        <translation>Die Arten von Haushalten auflisten</translation>
+    </message>
+    <message>
+        <source>Show the budget items of one</source>
+        <translation>Die Budgetposten einer Art zeigen</translation>
+    </message>
+    <message>
+        <source>The exchange rates could not be fetched; try again later, or set them with kiv rates set.</source>
+        <translation>Die Wechselkurse konnten nicht abgerufen werden; später noch einmal versuchen oder mit kiv rates set setzen.</translation>
+    </message>
+    <message>
+        <source>The releases could not be fetched; try again later.</source>
+        <translation>Die Veröffentlichungen konnten nicht abgerufen werden; später noch einmal versuchen.</translation>
+    </message>
+    <message>
+        <source> Caused by: </source>
+        <translation> Ursache: </translation>
+    </message>
+    <message>
+        <source>cleared</source>
+        <translation>bestätigt</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>abgeglichen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>the status of a transaction</comment>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>nontrack</source>
+        <translation>nicht verfolgt</translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s budget: accounts, banks, bills, wages and what is due.</source>
+        <translation>Führt das Budget eines Haushalts: Konten, Banken, Rechnungen, Löhne und was fällig ist.</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>NÖTIG</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>BEFEHL</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Diese Hilfe ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>Display program version information and exit</source>
+        <translation>Die Version des Programms ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>kiv COMMAND --help tells more about a command.</source>
+        <translation>kiv BEFEHL --help sagt mehr über einen Befehl.</translation>
+    </message>
+    <message>
+        <source>item</source>
+        <translation>Posten</translation>
+    </message>
+    <message>
+        <source>account</source>
+        <translation>Konto</translation>
+    </message>
+    <message>
+        <source>transaction</source>
+        <translation>Buchung</translation>
+    </message>
+    <message>
+        <source>bank</source>
+        <translation>Bank</translation>
+    </message>
+    <message>
+        <source>survey</source>
+        <translation>Abgleich</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>hinzugefügt</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>balance</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <source>borrowed</source>
+        <translation>geliehen</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>Haben</translation>
+    </message>
+    <message>
+        <source>creditAmount</source>
+        <translation>Betrag im Haben</translation>
+    </message>
+    <message>
+        <source>creditStatus</source>
+        <translation>Status im Haben</translation>
+    </message>
+    <message>
+        <source>debit</source>
+        <translation>Soll</translation>
+    </message>
+    <message>
+        <source>debitAmount</source>
+        <translation>Betrag im Soll</translation>
+    </message>
+    <message>
+        <source>debitStatus</source>
+        <translation>Status im Soll</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>every</source>
+        <translation>Turnus</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>next</source>
+        <translation>nächster Termin</translation>
+    </message>
+    <message>
+        <source>notDistributed</source>
+        <translation>nicht verteilt</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <translation>Oberkonto</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>reconciledOn</source>
+        <translation>abgeglichen am</translation>
+    </message>
+    <message>
+        <source>refundOf</source>
+        <translation>Erstattung von</translation>
+    </message>
+    <message>
+        <source>tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>target</source>
+        <translation>Zielbetrag</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>Art</translation>
     </message>
 </context>
 <context>

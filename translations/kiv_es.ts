@@ -493,372 +493,372 @@
     </message>
     <message>
         <source>&apos;%1&apos; has a wrong value</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene un valor incorrecto</translation>
     </message>
     <message>
         <source>it is not a JSON object</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un objeto JSON</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no key of one</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una clave de perfil</translation>
     </message>
     <message>
         <source>amount</source>
-        <translation type="unfinished"></translation>
+        <translation>importe</translation>
     </message>
     <message>
         <source>&apos;%1&apos;, line %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1», línea %2: %3</translation>
     </message>
     <message>
         <source>&apos;%1&apos;: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no encoding that is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una codificación conocida.</translation>
     </message>
     <message>
         <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no es %1 válido; la codificación del archivo se indica con --encoding.</translation>
     </message>
     <message>
         <source>This is not text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no es texto.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea tiene más de %1 caracteres.</translation>
     </message>
     <message>
         <source>A budget holds no more than %1 transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un presupuesto admite como máximo %1 asientos.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un día escrito como %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; can be read in two ways; name the decimal mark with --decimal.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se puede leer de dos maneras; la marca decimal se indica con --decimal.</translation>
     </message>
     <message>
         <source>The amounts here cannot be kept exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los importes de aquí no se pueden conservar con exactitud.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene más cifras tras la marca decimal que las %2 de %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es el código ISO 4217 de una moneda.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es ni un asiento ni una directiva que se pueda importar.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede importar.</translation>
     </message>
     <message>
         <source>The line is indented, but there is nothing that it belongs to.</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea está sangrada, pero no hay nada a lo que pertenezca.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; begins here and does not end.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» empieza aquí y no termina.</translation>
     </message>
     <message>
         <source>Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what &apos;%1&apos; is with --root, like --root &apos;%1=asset&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las cuentas empiezan por Assets, Liabilities, Equity, Income o Expenses; lo que es «%1» se indica con --root, por ejemplo --root &apos;%1=asset&apos;.</translation>
     </message>
     <message>
         <source>The name of an account is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el nombre de una cuenta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un importe.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has no currency; name one with --currency.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no tiene moneda; se indica con --currency.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency; give its cost behind @, or say which currency it is with --commodity, like --commodity &apos;%1=USD&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una moneda; su coste puede ponerse tras @, o indicarse qué moneda es con --commodity, por ejemplo --commodity &apos;%1=USD&apos;.</translation>
     </message>
     <message>
         <source>The transaction has fewer than two postings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El asiento tiene menos de dos apuntes.</translation>
     </message>
     <message>
         <source>More than one posting of the transaction has no amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>Más de un apunte del asiento no tiene importe.</translation>
     </message>
     <message>
         <source>The transaction does not balance: %1 are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>El asiento no cuadra: sobran %1.</translation>
     </message>
     <message>
         <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>El saldo de «%1» debería ser aquí %2, y es %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a pattern of account names.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un patrón de nombres de cuenta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not included: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se incluye: %2.</translation>
     </message>
     <message>
         <source>A quote begins here and does not end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unas comillas empiezan aquí y no terminan.</translation>
     </message>
     <message>
         <source>There is text between a closing quote and the next delimiter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay texto entre unas comillas de cierre y el siguiente separador.</translation>
     </message>
     <message>
         <source>There is no column &apos;%1&apos; among: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna columna «%1» entre: %2.</translation>
     </message>
     <message>
         <source>Say with %1 which column it is, of: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se indica con %1 qué columna es, de: %2.</translation>
     </message>
     <message>
         <source>The record has %1 cells where %2 are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro tiene %1 celdas y hacen falta %2.</translation>
     </message>
     <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta es la tabla de un libro mayor entero y no un extracto; en su lugar se puede importar el diario.</translation>
     </message>
     <message>
         <source>The record has an amount that came in and one that went out.</source>
-        <translation type="unfinished"></translation>
+        <translation>El registro tiene un importe que entró y otro que salió.</translation>
     </message>
     <message>
         <source>The entry has no %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la entrada le falta: %1.</translation>
     </message>
     <message>
         <source>The days can be read in two ways; name the order with --date-format, like MM/DD/YYYY.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los días se pueden leer de dos maneras; el orden se indica con --date-format, por ejemplo MM/DD/YYYY.</translation>
     </message>
     <message>
         <source>The amount is in %1, and the account in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El importe está en %1 y la cuenta en %2.</translation>
     </message>
     <message>
         <source>This is no import profile: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no es un perfil de importación: %1.</translation>
     </message>
     <message>
         <source>There is no &lt;OFX&gt; in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>En este archivo no hay ningún &lt;OFX&gt;.</translation>
     </message>
     <message>
         <source>A tag is broken: its name or its &apos;&gt;&apos; is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una etiqueta está rota: le falta el nombre o su «&gt;».</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; stands where the &lt;%2&gt; of line %3 should be closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/%1&gt; está donde debería cerrarse el &lt;%2&gt; de la línea %3.</translation>
     </message>
     <message>
         <source>&lt;/%1&gt; closes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;/%1&gt; no cierra nada.</translation>
     </message>
     <message>
         <source>&lt;%1&gt; is not closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;%1&gt; no se cierra.</translation>
     </message>
     <message>
         <source>Tags are nested too deeply.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las etiquetas están anidadas a demasiada profundidad.</translation>
     </message>
     <message>
         <source>There is no statement of a bank account or a credit card.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún extracto de una cuenta bancaria o de una tarjeta de crédito.</translation>
     </message>
     <message>
         <source>There are several statements; choose one with --statement: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay varios extractos; se elige uno con --statement: %1.</translation>
     </message>
     <message>
         <source>There is no statement of &apos;%1&apos;, but of: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún extracto de «%1», pero sí de: %2.</translation>
     </message>
     <message>
         <source>The file does not begin with a QIF header like !Type:Bank.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no empieza con una cabecera QIF como !Type:Bank.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no field of a bank statement.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un campo de un extracto.</translation>
     </message>
     <message>
         <source>The parts come to %1 and the whole to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las partes suman %1 y el total es %2.</translation>
     </message>
     <message>
         <source>A report cannot end before it begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un informe no puede terminar antes de empezar.</translation>
     </message>
     <message>
         <source>A report covers no more than %1 months.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un informe abarca como máximo %1 meses.</translation>
     </message>
     <message>
         <source>Net worth, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrimonio neto, %1</translation>
     </message>
     <message>
         <source>Income, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingresos, %1</translation>
     </message>
     <message>
         <source>Expenses, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gastos, %1</translation>
     </message>
     <message>
         <source>The figures as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Las cifras en una tabla</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>Total, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Total, %1</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>All accounts are empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las cuentas están vacías.</translation>
     </message>
     <message>
         <source>Planned a month</source>
-        <translation type="unfinished"></translation>
+        <translation>Previsto al mes</translation>
     </message>
     <message>
         <source>Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Partida</translation>
     </message>
     <message>
         <source>The plan is today&apos;s, restated per month. ▲ marks a month in which more was spent.</source>
-        <translation type="unfinished"></translation>
+        <translation>El plan es el de hoy, expresado por mes. ▲ señala un mes en que se gastó más.</translation>
     </message>
     <message>
         <source>Net worth over time, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Evolución del patrimonio neto, %1</translation>
     </message>
     <message>
         <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al final de cada mes, lo que suman todos los activos menos lo que se debe; al final %1.</translation>
     </message>
     <message>
         <source>Net worth</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrimonio neto</translation>
     </message>
     <message>
         <source>Income and expenses, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingresos y gastos, %1</translation>
     </message>
     <message>
         <source>What came in and what was spent in each month.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que entró y lo que se gastó cada mes.</translation>
     </message>
     <message>
         <source>Expenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Gastos</translation>
     </message>
     <message>
         <source>Budget against actual, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Presupuesto y realidad, %1</translation>
     </message>
     <message>
         <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se prevé para facturas, deudas, metas y partidas sin seguimiento cada mes, y lo que se gastó en ellas.</translation>
     </message>
     <message>
         <source>Planned</source>
-        <translation type="unfinished"></translation>
+        <translation>Previsto</translation>
     </message>
     <message>
         <source>Actual</source>
-        <translation type="unfinished"></translation>
+        <translation>Real</translation>
     </message>
     <message>
         <source>en</source>
         <comment>the language of the reports, as HTML names it</comment>
-        <translation type="unfinished"></translation>
+        <translation>es</translation>
     </message>
     <message>
         <source>From %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Del %1 al %2</translation>
     </message>
     <message>
         <source>Budget against actual by month</source>
-        <translation type="unfinished"></translation>
+        <translation>Presupuesto y realidad por meses</translation>
     </message>
     <message>
         <source>Balances on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldos a %1</translation>
     </message>
     <message>
         <source>What is no currency is kept at its cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que no es una moneda se lleva a su coste.</translation>
     </message>
     <message>
         <source>Unbalanced virtual postings are kept against Equity:Virtual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los apuntes virtuales que no cuadran se registran contra Equity:Virtual.</translation>
     </message>
     <message>
         <source>Periodic transactions are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los asientos periódicos se omiten.</translation>
     </message>
     <message>
         <source>Market prices are left out; they change no balance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los precios de mercado se omiten; no cambian ningún saldo.</translation>
     </message>
     <message>
         <source>there is no folder for it</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay carpeta para él</translation>
     </message>
     <message>
         <source>files include each other too deeply</source>
-        <translation type="unfinished"></translation>
+        <translation>los archivos se incluyen unos a otros a demasiada profundidad</translation>
     </message>
     <message>
         <source>Second days of transactions are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos días de los asientos se omiten.</translation>
     </message>
     <message>
         <source>Check %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cheque %1</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha</translation>
     </message>
     <message>
         <source>The request manager was destroyed before the answer came.</source>
@@ -1718,912 +1718,2186 @@
     </message>
     <message>
         <source>A command is missing; --help lists those that there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta una orden; --help enumera las que hay.</translation>
     </message>
     <message>
         <source>closed</source>
-        <translation type="unfinished"></translation>
+        <translation>cerrada</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número</translation>
     </message>
     <message>
         <source>There are no accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay cuentas.</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Other account</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrapartida</translation>
     </message>
     <message>
         <source>Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>There are no transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay asientos.</translation>
     </message>
     <message>
         <source>Added the account %1 %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió la cuenta %1 %2.</translation>
     </message>
     <message>
         <source>The account %1 is now %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuenta %1 es ahora %2.</translation>
     </message>
     <message>
         <source>Closed the account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cerró la cuenta %1.</translation>
     </message>
     <message>
         <source>Opened the account %1 again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se volvió a abrir la cuenta %1.</translation>
     </message>
     <message>
         <source>Removed the account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó la cuenta %1.</translation>
     </message>
     <message>
         <source>There are no banks.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay bancos.</translation>
     </message>
     <message>
         <source>%1 (closed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (cerrado)</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>It keeps no accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>No lleva ninguna cuenta.</translation>
     </message>
     <message>
         <source>Added the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió el banco «%1».</translation>
     </message>
     <message>
         <source>The bank is now called &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>El banco se llama ahora «%1».</translation>
     </message>
     <message>
         <source>Added the account %1 at the bank &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió la cuenta %1 en el banco «%2».</translation>
     </message>
     <message>
         <source>The bank &apos;%1&apos; keeps the account %2 now.</source>
-        <translation type="unfinished"></translation>
+        <translation>El banco «%1» lleva ahora la cuenta %2.</translation>
     </message>
     <message>
         <source>The bank &apos;%1&apos; no longer keeps the account %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El banco «%1» ya no lleva la cuenta %2.</translation>
     </message>
     <message>
         <source>Closed the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cerró el banco «%1».</translation>
     </message>
     <message>
         <source>Opened the bank &apos;%1&apos; again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se volvió a abrir el banco «%1».</translation>
     </message>
     <message>
         <source>Removed the bank &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó el banco «%1».</translation>
     </message>
     <message>
         <source>The bank account %1 is now %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuenta bancaria %1 es ahora %2.</translation>
     </message>
     <message>
         <source>Removed the bank account %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó la cuenta bancaria %1.</translation>
     </message>
     <message>
         <source>Made the empty budget &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se creó el presupuesto vacío «%1».</translation>
     </message>
     <message>
         <source>Saved the budget as &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó el presupuesto como «%1».</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bytes</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuentas</translation>
     </message>
     <message>
         <source>Transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>Asientos</translation>
     </message>
     <message>
         <source>Banks</source>
-        <translation type="unfinished"></translation>
+        <translation>Bancos</translation>
     </message>
     <message>
         <source>Items</source>
-        <translation type="unfinished"></translation>
+        <translation>Partidas</translation>
     </message>
     <message>
         <source>Sum of debits</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma del debe</translation>
     </message>
     <message>
         <source>Sum of credits</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma del haber</translation>
     </message>
     <message>
         <source>Preferred currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Moneda preferida</translation>
     </message>
     <message>
         <source>Usable currencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Monedas utilizables</translation>
     </message>
     <message>
         <source>Currencies are shown by</source>
-        <translation type="unfinished"></translation>
+        <translation>Las monedas se muestran con</translation>
     </message>
     <message>
         <source>Days in which items count as due</source>
-        <translation type="unfinished"></translation>
+        <translation>Días en que las partidas cuentan como vencidas</translation>
     </message>
     <message>
         <source>Survey window</source>
-        <translation type="unfinished"></translation>
+        <translation>Margen de la conciliación</translation>
     </message>
     <message>
         <source>Work hours a week</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas de trabajo por semana</translation>
     </message>
     <message>
         <source>Work days a week</source>
-        <translation type="unfinished"></translation>
+        <translation>Días de trabajo por semana</translation>
     </message>
     <message>
         <source>There are no tags.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay etiquetas.</translation>
     </message>
     <message>
         <source>Removed the tags %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminaron las etiquetas %1.</translation>
     </message>
     <message>
         <source>Every month</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada mes</translation>
     </message>
     <message>
         <source>Wages</source>
-        <translation type="unfinished"></translation>
+        <translation>Salarios</translation>
     </message>
     <message>
         <source>Bills</source>
-        <translation type="unfinished"></translation>
+        <translation>Facturas</translation>
     </message>
     <message>
         <source>Debts</source>
-        <translation type="unfinished"></translation>
+        <translation>Deudas</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Metas</translation>
     </message>
     <message>
         <source>Non-tracked</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin seguimiento</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Due within %1 days</source>
-        <translation type="unfinished"></translation>
+        <translation>Restante</translation>
     </message>
     <message>
         <source>Due</source>
-        <translation type="unfinished"></translation>
+        <translation>Vence</translation>
     </message>
     <message>
         <source>Amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Importe</translation>
     </message>
     <message>
         <source>Nothing is due.</source>
-        <translation type="unfinished"></translation>
+        <translation>No vence nada.</translation>
     </message>
     <message>
         <source>Budget health: %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 days late</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>1 day late</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud del presupuesto: %1</translation>
     </message>
     <message>
         <source>today</source>
-        <translation type="unfinished"></translation>
+        <translation>hoy</translation>
     </message>
     <message>
         <source>tomorrow</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>in %1 days</source>
-        <translation type="unfinished"></translation>
+        <translation>mañana</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo</translation>
     </message>
     <message>
         <source>Posted the %1 &apos;%2&apos;, due on %3: %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrado: «%2» (%1), que vencía el %3: %4.</translation>
     </message>
     <message>
         <source>Posted %1 for the %2 &apos;%3&apos;, which is still due on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se registraron %1 para «%3» (%2), que sigue venciendo el %4.</translation>
     </message>
     <message>
         <source>Skipped the %1 &apos;%2&apos; due on %3; it is next due on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido: «%2» (%1), que vencía el %3; el próximo vencimiento es el %4.</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe tal archivo</translation>
     </message>
     <message>
         <source>it is outside of the journal&apos;s own folder</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de la carpeta del diario</translation>
     </message>
     <message>
         <source>all files together are too large</source>
-        <translation type="unfinished"></translation>
+        <translation>todos los archivos juntos son demasiado grandes</translation>
     </message>
     <message>
         <source>Entries of nothing are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las entradas de nada se omiten.</translation>
     </message>
     <message>
         <source>Posted %1 transactions, left out %2 duplicates, opened %3 accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Asientos registrados: %1; duplicados omitidos: %2; cuentas abiertas: %3.</translation>
     </message>
     <message>
         <source>New account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta nueva</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Debit</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe</translation>
     </message>
     <message>
         <source>Credit</source>
-        <translation type="unfinished"></translation>
+        <translation>Haber</translation>
     </message>
     <message>
         <source>duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>duplicado</translation>
     </message>
     <message>
         <source>There are no transactions in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay asientos en el archivo.</translation>
     </message>
     <message>
         <source>Added the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió «%2» (%1).</translation>
     </message>
     <message>
         <source>Changed the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambió «%2» (%1).</translation>
     </message>
     <message>
         <source>The %1 &apos;%2&apos; is now called &apos;%3&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%2» (%1) se llama ahora «%3».</translation>
     </message>
     <message>
         <source>Removed the %1 &apos;%2&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminó «%2» (%1).</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Próxima fecha</translation>
     </message>
     <message>
         <source>Borrowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestado</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Meta</translation>
     </message>
     <message>
         <source>Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>Banco</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>There are none.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada.</translation>
     </message>
     <message>
         <source>For one %1, as of %2 (no longer current)</source>
-        <translation type="unfinished"></translation>
+        <translation>Por 1 %1, a %2 (ya no está al día)</translation>
     </message>
     <message>
         <source>For one %1, as of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Por 1 %1, a %2</translation>
     </message>
     <message>
         <source>Currency</source>
-        <translation type="unfinished"></translation>
+        <translation>Moneda</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>No exchange rates are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún tipo de cambio.</translation>
     </message>
     <message>
         <source>fetching exchange rates …</source>
-        <translation type="unfinished"></translation>
+        <translation>obteniendo los tipos de cambio …</translation>
     </message>
     <message>
         <source>No newer release is announced.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se anuncia ninguna versión más reciente.</translation>
     </message>
     <message>
         <source>There is a newer release: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una versión más reciente: %1.</translation>
     </message>
     <message>
         <source>There are no releases.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay versiones publicadas.</translation>
     </message>
     <message>
         <source>Household report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe del hogar</translation>
     </message>
     <message>
         <source>Budget</source>
-        <translation type="unfinished"></translation>
+        <translation>Presupuesto</translation>
     </message>
     <message>
         <source>Budget against actual</source>
-        <translation type="unfinished"></translation>
+        <translation>Presupuesto y realidad</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En %1</translation>
     </message>
     <message>
         <source>There are no budget items.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay partidas.</translation>
     </message>
     <message>
         <source>Day of the statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Día del extracto</translation>
     </message>
     <message>
         <source>Last reconciled on</source>
-        <translation type="unfinished"></translation>
+        <translation>Última conciliación</translation>
     </message>
     <message>
         <source>Balance then</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo entonces</translation>
     </message>
     <message>
         <source>Changes counted from</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios contados desde</translation>
     </message>
     <message>
         <source>Expected balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo esperado</translation>
     </message>
     <message>
         <source>Still due this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Por vencer este mes</translation>
     </message>
     <message>
         <source>Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Asiento</translation>
     </message>
     <message>
         <source>Changes by budget item</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios por partida</translation>
     </message>
     <message>
         <source>Other changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros cambios</translation>
     </message>
     <message>
         <source>Proposed distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparto propuesto</translation>
     </message>
     <message>
         <source>Set aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Apartado</translation>
     </message>
     <message>
         <source>Expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperado</translation>
     </message>
     <message>
         <source>There is nothing to set aside for.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada para lo que apartar dinero.</translation>
     </message>
     <message>
         <source>Not distributed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin repartir</translation>
     </message>
     <message>
         <source>Reconciled %1 with a balance of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se concilió %1 con un saldo de %2.</translation>
     </message>
     <message>
         <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Aparece en el extracto %1 %2 «%3», %4?</translation>
     </message>
     <message>
         <source>The statement&apos;s balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo del extracto</translation>
     </message>
     <message>
         <source>Money for an item that is not booked, as ITEM=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Dinero sin registrar de una partida, como PARTIDA=IMPORTE</translation>
     </message>
     <message>
         <source>Money for another account, as ACCOUNT=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Dinero de otra cuenta, como CUENTA=IMPORTE</translation>
     </message>
     <message>
         <source>What is set aside for an item, as ITEM=AMOUNT</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se aparta para una partida, como PARTIDA=IMPORTE</translation>
     </message>
     <message>
         <source>Complete the survey?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Completar la conciliación?</translation>
     </message>
     <message>
         <source>%1 was never reconciled.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nunca se ha conciliado.</translation>
     </message>
     <message>
         <source>%1 was reconciled on %2 with a balance of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se concilió el %2 con un saldo de %3.</translation>
     </message>
     <message>
         <source>(exit status %1)
 </source>
-        <translation type="unfinished"></translation>
+        <translation>(estado de salida %1)
+</translation>
     </message>
     <message>
         <source>The command ended otherwise than expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>La orden terminó de otra manera que la esperada.</translation>
     </message>
     <message>
         <source>A new budget, kept in US dollars, with a bank and its checking account</source>
-        <translation type="unfinished"></translation>
+        <translation>Un presupuesto nuevo, llevado en dólares, con un banco y su cuenta corriente</translation>
     </message>
     <message>
         <source>What comes in, and what goes out</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que entra y lo que sale</translation>
     </message>
     <message>
         <source>What is due is posted; the studio is closed this month</source>
-        <translation type="unfinished"></translation>
+        <translation>Se registra lo que vence; el gimnasio está cerrado este mes</translation>
     </message>
     <message>
         <source>No account may bear a budget item&apos;s name: refused, nothing changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna cuenta puede llamarse como una partida: rechazado, nada ha cambiado</translation>
     </message>
     <message>
         <source>Every change above was saved at once; here the file is opened again</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada cambio anterior se guardó al momento; aquí el archivo se abre de nuevo</translation>
     </message>
     <message>
         <source>The debits do not equal the credits.</source>
-        <translation type="unfinished"></translation>
+        <translation>El debe no es igual al haber.</translation>
     </message>
     <message>
         <source>The sum of all debits equals the sum of all credits.</source>
-        <translation type="unfinished"></translation>
+        <translation>La suma del debe es igual a la suma del haber.</translation>
     </message>
     <message>
         <source>Posted transaction %1.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Posted %1 transactions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se registró el asiento %1.</translation>
     </message>
     <message>
         <source>Changed transaction %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se cambió el asiento %1.</translation>
     </message>
     <message>
         <source>Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Traspaso</translation>
     </message>
     <message>
         <source>Posted the refund as transaction %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se registró el reembolso como asiento %1.</translation>
     </message>
     <message>
         <source>Removed the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se eliminaron los asientos %1.</translation>
     </message>
     <message>
         <source>Cleared the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se confirmaron los asientos %1.</translation>
     </message>
     <message>
         <source>Reconciled the transactions %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conciliaron los asientos %1.</translation>
     </message>
     <message>
         <source>Took the reconciliation of %1 back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se anuló la conciliación de %1.</translation>
     </message>
     <message>
         <source>The budget is again as it was saved at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El presupuesto vuelve a estar como se guardó el %1.</translation>
     </message>
     <message>
         <source>That changes nothing in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eso no cambia nada en él.</translation>
     </message>
     <message>
         <source>not whole</source>
-        <translation type="unfinished"></translation>
+        <translation>dañada</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Saved at</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardada el</translation>
     </message>
     <message>
         <source>They hold the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contienen lo mismo.</translation>
     </message>
     <message>
         <source>It has no budget items.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene partidas.</translation>
     </message>
     <message>
         <source>Made the budget &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se creó el presupuesto «%1».</translation>
     </message>
     <message>
         <source>Template</source>
-        <translation type="unfinished"></translation>
+        <translation>Plantilla</translation>
     </message>
     <message>
         <source>Household</source>
-        <translation type="unfinished"></translation>
+        <translation>Hogar</translation>
     </message>
     <message>
         <source>%1; %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; %2.</translation>
     </message>
     <message>
         <source>%1; did you mean %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; ¿se trataba de %2?</translation>
     </message>
     <message>
         <source>A value on the command line is not valid UTF-8.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un valor de la línea de órdenes no es UTF-8 válido.</translation>
     </message>
     <message>
         <source>A name cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre no puede estar vacío.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a date; write one like 2026-03-31, with a day that exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una fecha; debe ser como 2026-03-31, con un día que exista.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un importe; debe ser como 1234.50 o &apos;1234.50 USD&apos;.</translation>
     </message>
     <message>
         <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
-        <translation type="unfinished"></translation>
+        <translation>El importe «%1» es demasiado grande para conservarlo con exactitud.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un importe en %2, moneda que no tiene unidad menor.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more digits behind the point than the %2 of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene más decimales que los %2 de %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una moneda</translation>
     </message>
     <message>
         <source>write its ISO 4217 code, like USD</source>
-        <translation type="unfinished"></translation>
+        <translation>se indica su código ISO 4217, como USD</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a whole number from %2 to %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número entero de %2 a %3.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a percentage; write one like 2.75.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un porcentaje; debe ser como 2.75.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is none of: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es ninguno de: %2</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 se excluyen entre sí.</translation>
     </message>
     <message>
         <source>%1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta %1.</translation>
     </message>
     <message>
         <source>Nothing to change was given; --help lists what can be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se indicó nada que cambiar; --help enumera lo que se puede cambiar.</translation>
     </message>
     <message>
         <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se indicó ningún archivo de presupuesto; se indica con --file o la variable KIV_FILE, o se crea con kiv new ARCHIVO.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not of the form NAME=VALUE.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no tiene la forma NOMBRE=VALOR.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no command</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una orden</translation>
     </message>
     <message>
         <source>kiv --help lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv --help enumera las que hay</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no option of this command</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una opción de esta orden</translation>
     </message>
     <message>
         <source>--help lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>--help enumera las que hay</translation>
     </message>
     <message>
         <source>A quote is not closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unas comillas no están cerradas.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot name a profile; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no puede nombrar un perfil; se admiten letras, cifras, «-» y «_».</translation>
     </message>
     <message>
         <source>Cannot understand %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se entiende %1: %2.</translation>
     </message>
     <message>
         <source>There is no account &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna cuenta «%1»</translation>
     </message>
     <message>
         <source>kiv accounts lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv accounts enumera las que hay</translation>
     </message>
     <message>
         <source>Several accounts are named &apos;%1&apos;; give the number of one: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varias cuentas se llaman «%1»; hay que indicar el número de una: %2.</translation>
     </message>
     <message>
         <source>There is no bank &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún banco «%1»</translation>
     </message>
     <message>
         <source>kiv banks lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv banks enumera los que hay</translation>
     </message>
     <message>
         <source>No bank keeps the account &apos;%1&apos;; kiv bank-account attach ties it to one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún banco lleva la cuenta «%1»; kiv bank-account attach la vincula a uno.</translation>
     </message>
     <message>
         <source>There is no %1 &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe «%2» (%1)</translation>
     </message>
     <message>
         <source>kiv %1 list shows those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv %1 list muestra lo que hay</translation>
     </message>
     <message>
         <source>There is no budget item &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna partida «%1»</translation>
     </message>
     <message>
         <source>kiv bill list and the like show those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv bill list y similares muestran lo que hay</translation>
     </message>
     <message>
         <source>Several budget items are named &apos;%1&apos;; choose one with --kind: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varias partidas se llaman «%1»; se elige una con --kind: %2.</translation>
     </message>
     <message>
         <source>The answers ended before the questions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las respuestas se acabaron antes que las preguntas.</translation>
     </message>
     <message>
         <source>The survey was not completed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The exchange rates could not be fetched.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The releases could not be fetched.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conciliación no se completó.</translation>
     </message>
     <message>
         <source>The budget could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo crear el presupuesto.</translation>
     </message>
     <message>
         <source>There is no tag &apos;%1&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna etiqueta «%1»</translation>
     </message>
     <message>
         <source>kiv tags list shows those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv tags list muestra las que hay</translation>
     </message>
     <message>
         <source>There is no former version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna versión anterior %1</translation>
     </message>
     <message>
         <source>none was kept of this budget</source>
-        <translation type="unfinished"></translation>
+        <translation>no se conservó ninguna de este presupuesto</translation>
     </message>
     <message>
         <source>kiv history lists those that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv history enumera las que se conservan</translation>
     </message>
     <message>
         <source>The version in &apos;%1&apos; is not whole.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión de «%1» está dañada.</translation>
     </message>
     <message>
         <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%3» (%1) no se puede procesar mientras haya otra partida (%2) con el mismo nombre; hay que cambiar el nombre de una.</translation>
     </message>
     <message>
         <source>Money can be moved out of an asset account that a bank keeps, which &apos;%1&apos; is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dinero solo puede salir de una cuenta de activo que lleve un banco, y «%1» no lo es.</translation>
     </message>
     <message>
         <source>Money can be moved into an asset account that a bank keeps and that stands under no other, which &apos;%1&apos; is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dinero solo puede entrar en una cuenta de activo que lleve un banco y que no dependa de otra, y «%1» no lo es.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún asiento %1</translation>
     </message>
     <message>
         <source>kiv transactions lists those that there are</source>
-        <translation type="unfinished"></translation>
+        <translation>kiv transactions enumera los que hay</translation>
     </message>
     <message>
         <source>There is no profile &apos;%1&apos;; --save-profile saves one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún perfil «%1»; --save-profile guarda uno.</translation>
     </message>
     <message>
         <source>There is no profile &apos;%1&apos; among: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún perfil «%1» entre: %2.</translation>
     </message>
     <message>
         <source>Say with --against which account is the other side of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se indica con --against qué cuenta es la contrapartida de %1.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo «%1» ya existe; hace falta otro nombre.</translation>
     </message>
     <message>
         <source>Cannot write the output: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir la salida: %1.</translation>
     </message>
     <message>
         <source>Cannot write &apos;%1&apos;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir «%1»: %2.</translation>
     </message>
     <message>
         <source>Cannot read &apos;%1&apos;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer «%1»: %2.</translation>
     </message>
     <message>
         <source>warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>aviso: %1</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>it is larger than 64 MiB</source>
-        <translation type="unfinished"></translation>
+        <translation>ocupa más de 64 MiB</translation>
     </message>
     <message>
         <source>%1 at byte %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en el byte %2</translation>
     </message>
     <message>
         <source>it has no list of transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene ninguna lista de asientos</translation>
     </message>
     <message>
         <source>transaction %1 of &apos;%2&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>asiento %1 de «%2»</translation>
     </message>
     <message>
         <source>This was a dry run: nothing is saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto fue un ensayo: no se guarda nada.</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Detail</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalle</translation>
+    </message>
+    <message>
+        <source>The record has more than %1 cells.</source>
+        <translation>El registro tiene más de %1 celdas.</translation>
+    </message>
+    <message>
+        <source>Of long comments the beginning is kept.</source>
+        <translation>De los comentarios largos se conserva el principio.</translation>
+    </message>
+    <message>
+        <source>ACCOUNT</source>
+        <translation>CUENTA</translation>
+    </message>
+    <message>
+        <source>ACCOUNT=AMOUNT</source>
+        <translation>CUENTA=IMPORTE</translation>
+    </message>
+    <message>
+        <source>AMOUNT</source>
+        <translation>IMPORTE</translation>
+    </message>
+    <message>
+        <source>BANK</source>
+        <translation>BANCO</translation>
+    </message>
+    <message>
+        <source>BANK ACCOUNT</source>
+        <translation>BANCO CUENTA</translation>
+    </message>
+    <message>
+        <source>BASE</source>
+        <translation>BASE</translation>
+    </message>
+    <message>
+        <source>CURRENCY</source>
+        <translation>MONEDA</translation>
+    </message>
+    <message>
+        <source>CURRENCY=RATE</source>
+        <translation>MONEDA=TIPO</translation>
+    </message>
+    <message>
+        <source>DATE</source>
+        <translation>FECHA</translation>
+    </message>
+    <message>
+        <source>DAYS</source>
+        <translation>DÍAS</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>ARCHIVO</translation>
+    </message>
+    <message>
+        <source>FROM</source>
+        <translation>DESDE</translation>
+    </message>
+    <message>
+        <source>HOURS</source>
+        <translation>HORAS</translation>
+    </message>
+    <message>
+        <source>ITEM</source>
+        <translation>PARTIDA</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT</source>
+        <translation>PARTIDA=IMPORTE</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NOMBRE</translation>
+    </message>
+    <message>
+        <source>NEW-NAME</source>
+        <translation>NUEVO-NOMBRE</translation>
+    </message>
+    <message>
+        <source>NUMBER</source>
+        <translation>NÚMERO</translation>
+    </message>
+    <message>
+        <source>PERCENT</source>
+        <translation>PORCENTAJE</translation>
+    </message>
+    <message>
+        <source>TAG</source>
+        <translation>ETIQUETA</translation>
+    </message>
+    <message>
+        <source>TEMPLATE</source>
+        <translation>PLANTILLA</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXTO</translation>
+    </message>
+    <message>
+        <source>TO</source>
+        <translation>HASTA</translation>
+    </message>
+    <message>
+        <source>The budget file; else KIV_FILE names it</source>
+        <translation>El archivo del presupuesto; si no, lo indica KIV_FILE</translation>
+    </message>
+    <message>
+        <source>Subcommands</source>
+        <translation>Órdenes</translation>
+    </message>
+    <message>
+        <source>Print JSON for programs</source>
+        <translation>Escribe JSON para programas</translation>
+    </message>
+    <message>
+        <source>Show what would come of it, save nothing</source>
+        <translation>Muestra el resultado sin guardar nada</translation>
+    </message>
+    <message>
+        <source>Show the log on standard error</source>
+        <translation>Muestra el registro en la salida de errores</translation>
+    </message>
+    <message>
+        <source>%1 is required.</source>
+        <translation>Hace falta %1.</translation>
+    </message>
+    <message>
+        <source>%1: 1 required %2 missing.</source>
+        <translation>%1: falta 1 %2.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1.</source>
+        <translation>No se esperaba el argumento siguiente: %1.</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1.</source>
+        <translation>No se esperaban los argumentos siguientes: %1.</translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3.</source>
+        <translation>%1: se admite como máximo %2, pero se indicaron %3.</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2.</source>
+        <translation>No se puede convertir: %1 = %2.</translation>
+    </message>
+    <message>
+        <source>The account&apos;s number or name</source>
+        <translation>Número o nombre de la cuenta</translation>
+    </message>
+    <message>
+        <source>The new number</source>
+        <translation>El número nuevo</translation>
+    </message>
+    <message>
+        <source>The new name</source>
+        <translation>El nombre nuevo</translation>
+    </message>
+    <message>
+        <source>The account under which it is to stand</source>
+        <translation>La cuenta de la que ha de depender</translation>
+    </message>
+    <message>
+        <source>It is to stand under no other account</source>
+        <translation>No ha de depender de ninguna otra cuenta</translation>
+    </message>
+    <message>
+        <source>Only asset, equity, expense, liability or income</source>
+        <translation>Solo asset, equity, expense, liability o income</translation>
+    </message>
+    <message>
+        <source>Only accounts that are open</source>
+        <translation>Solo cuentas abiertas</translation>
+    </message>
+    <message>
+        <source>The account&apos;s number, name or path</source>
+        <translation>Número, nombre o ruta de la cuenta</translation>
+    </message>
+    <message>
+        <source>Only from this day on</source>
+        <translation>Solo desde este día</translation>
+    </message>
+    <message>
+        <source>Only up to this day</source>
+        <translation>Solo hasta este día</translation>
+    </message>
+    <message>
+        <source>The account&apos;s name</source>
+        <translation>El nombre de la cuenta</translation>
+    </message>
+    <message>
+        <source>asset, equity, expense, liability or income</source>
+        <translation>asset, equity, expense, liability o income</translation>
+    </message>
+    <message>
+        <source>Its number; the next free one otherwise</source>
+        <translation>Su número; si no, el siguiente libre</translation>
+    </message>
+    <message>
+        <source>The account under which it stands</source>
+        <translation>La cuenta de la que depende</translation>
+    </message>
+    <message>
+        <source>Its opening balance; 0 otherwise</source>
+        <translation>Su saldo inicial; si no, 0</translation>
+    </message>
+    <message>
+        <source>Its currency; the preferred one otherwise</source>
+        <translation>Su moneda; si no, la preferida</translation>
+    </message>
+    <message>
+        <source>The day of the opening balance</source>
+        <translation>El día del saldo inicial</translation>
+    </message>
+    <message>
+        <source>List all accounts with their balances</source>
+        <translation>Enumera todas las cuentas con sus saldos</translation>
+    </message>
+    <message>
+        <source>List the transactions of an account</source>
+        <translation>Enumera los asientos de una cuenta</translation>
+    </message>
+    <message>
+        <source>Accounts of the ledger</source>
+        <translation>Cuentas del libro mayor</translation>
+    </message>
+    <message>
+        <source>Open an account</source>
+        <translation>Abre una cuenta</translation>
+    </message>
+    <message>
+        <source>Change an account&apos;s number, name or parent</source>
+        <translation>Cambia el número, el nombre o la cuenta superior de una cuenta</translation>
+    </message>
+    <message>
+        <source>Close an account</source>
+        <translation>Cierra una cuenta</translation>
+    </message>
+    <message>
+        <source>Open a closed account again</source>
+        <translation>Vuelve a abrir una cuenta cerrada</translation>
+    </message>
+    <message>
+        <source>Remove an account without transactions</source>
+        <translation>Elimina una cuenta sin asientos</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s name</source>
+        <translation>El nombre del banco</translation>
+    </message>
+    <message>
+        <source>Its new name</source>
+        <translation>Su nombre nuevo</translation>
+    </message>
+    <message>
+        <source>The bank that keeps it</source>
+        <translation>El banco que la lleva</translation>
+    </message>
+    <message>
+        <source>checking (unless given), savings, credit-card, loan, line-of-credit, money-market or cash</source>
+        <translation>checking (si no se indica), savings, credit-card, loan, line-of-credit, money-market o cash</translation>
+    </message>
+    <message>
+        <source>An account of the ledger</source>
+        <translation>Una cuenta del libro mayor</translation>
+    </message>
+    <message>
+        <source>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
+        <translation>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market o cash</translation>
+    </message>
+    <message>
+        <source>The account, which stays in the ledger</source>
+        <translation>La cuenta, que sigue en el libro mayor</translation>
+    </message>
+    <message>
+        <source>List all banks with their accounts</source>
+        <translation>Enumera todos los bancos con sus cuentas</translation>
+    </message>
+    <message>
+        <source>Add a bank</source>
+        <translation>Añade un banco</translation>
+    </message>
+    <message>
+        <source>Give a bank another name</source>
+        <translation>Da otro nombre a un banco</translation>
+    </message>
+    <message>
+        <source>Close a bank with its accounts</source>
+        <translation>Cierra un banco con sus cuentas</translation>
+    </message>
+    <message>
+        <source>Open a closed bank again</source>
+        <translation>Vuelve a abrir un banco cerrado</translation>
+    </message>
+    <message>
+        <source>Remove a bank with its accounts</source>
+        <translation>Elimina un banco con sus cuentas</translation>
+    </message>
+    <message>
+        <source>Accounts that banks keep</source>
+        <translation>Cuentas que llevan los bancos</translation>
+    </message>
+    <message>
+        <source>Open an account at a bank</source>
+        <translation>Abre una cuenta en un banco</translation>
+    </message>
+    <message>
+        <source>Let a bank keep an account of the ledger</source>
+        <translation>Asigna a un banco una cuenta del libro mayor</translation>
+    </message>
+    <message>
+        <source>Take an account from its bank</source>
+        <translation>Separa una cuenta de su banco</translation>
+    </message>
+    <message>
+        <source>Change a bank account&apos;s number, name or parent</source>
+        <translation>Cambia el número, el nombre o la cuenta superior de una cuenta bancaria</translation>
+    </message>
+    <message>
+        <source>Remove a bank account</source>
+        <translation>Elimina una cuenta bancaria</translation>
+    </message>
+    <message>
+        <source>The file to be made; .budget is appended</source>
+        <translation>El archivo que se crea; se le añade .budget</translation>
+    </message>
+    <message>
+        <source>Make an empty budget file</source>
+        <translation>Crea un archivo de presupuesto vacío</translation>
+    </message>
+    <message>
+        <source>Tell what the budget holds</source>
+        <translation>Muestra lo que contiene el presupuesto</translation>
+    </message>
+    <message>
+        <source>Save the budget as another file</source>
+        <translation>Guarda el presupuesto como otro archivo</translation>
+    </message>
+    <message>
+        <source>It is a budget file of a known version</source>
+        <translation>Es un archivo de presupuesto de una versión conocida</translation>
+    </message>
+    <message>
+        <source>Its tables are those of that version</source>
+        <translation>Sus tablas son las de esa versión</translation>
+    </message>
+    <message>
+        <source>Its rows are those that were written</source>
+        <translation>Sus filas son las que se escribieron</translation>
+    </message>
+    <message>
+        <source>Its books obey the rules of the ledger</source>
+        <translation>Sus libros cumplen las reglas del libro mayor</translation>
+    </message>
+    <message>
+        <source>Its items, accounts and banks fit together</source>
+        <translation>Sus partidas, cuentas y bancos encajan entre sí</translation>
+    </message>
+    <message>
+        <source>Every balance is the sum of its transactions</source>
+        <translation>Cada saldo es la suma de sus asientos</translation>
+    </message>
+    <message>
+        <source>In every currency the debits equal the credits</source>
+        <translation>En cada moneda el debe es igual al haber</translation>
+    </message>
+    <message>
+        <source>kept</source>
+        <translation>cumplida</translation>
+    </message>
+    <message>
+        <source>mended when it is opened</source>
+        <translation>reparada al abrir</translation>
+    </message>
+    <message>
+        <source>BROKEN</source>
+        <translation>ROTA</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>sin juzgar</translation>
+    </message>
+    <message>
+        <source>A budget file or one of its backups</source>
+        <translation>Un archivo de presupuesto o una de sus copias</translation>
+    </message>
+    <message>
+        <source>Promise</source>
+        <translation>Promesa</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Veredicto</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is whole.</source>
+        <translation>El presupuesto «%1» está íntegro.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is not whole; kiv check FILE tells which of its backups (%1.backup-1, …) is.</source>
+        <translation>El presupuesto «%1» está dañado; kiv check ARCHIVO indica cuál de sus copias (%1.backup-1, …) está íntegra.</translation>
+    </message>
+    <message>
+        <source>Verify a budget file and tell each of its promises</source>
+        <translation>Comprueba un archivo de presupuesto y muestra cada promesa</translation>
+    </message>
+    <message>
+        <source>A word of the line; the last one is being written</source>
+        <translation>Una palabra de la línea; la última se está escribiendo</translation>
+    </message>
+    <message>
+        <source>What shells and manual pages are made of</source>
+        <translation>Lo que usan los intérpretes y las páginas de manual</translation>
+    </message>
+    <message>
+        <source>Print the completion script for bash</source>
+        <translation>Escribe el guion de compleción para bash</translation>
+    </message>
+    <message>
+        <source>Print the completion script for zsh</source>
+        <translation>Escribe el guion de compleción para zsh</translation>
+    </message>
+    <message>
+        <source>Print the completion script for fish</source>
+        <translation>Escribe el guion de compleción para fish</translation>
+    </message>
+    <message>
+        <source>List what may stand in the place of the last word</source>
+        <translation>Enumera lo que puede ir en lugar de la última palabra</translation>
+    </message>
+    <message>
+        <source>Print the commands in the notation of manual pages</source>
+        <translation>Escribe las órdenes en la notación de las páginas de manual</translation>
+    </message>
+    <message>
+        <source>The currency of amounts without one</source>
+        <translation>La moneda de los importes que no la llevan</translation>
+    </message>
+    <message>
+        <source>A usable currency; give all of them, one by one</source>
+        <translation>Una moneda utilizable; se indican todas, una a una</translation>
+    </message>
+    <message>
+        <source>How currencies are shown: code, symbol or both</source>
+        <translation>Cómo se muestran las monedas: code, symbol o both</translation>
+    </message>
+    <message>
+        <source>How many days ahead items count as due</source>
+        <translation>Con cuántos días de antelación vencen las partidas</translation>
+    </message>
+    <message>
+        <source>By how much a survey may miss the statement</source>
+        <translation>Cuánto puede apartarse una conciliación del extracto</translation>
+    </message>
+    <message>
+        <source>Tags to be taken from every budget item</source>
+        <translation>Etiquetas que se quitan de todas las partidas</translation>
+    </message>
+    <message>
+        <source>The user&apos;s settings</source>
+        <translation>Los ajustes</translation>
+    </message>
+    <message>
+        <source>Show the settings</source>
+        <translation>Muestra los ajustes</translation>
+    </message>
+    <message>
+        <source>Change settings; what is not given stays</source>
+        <translation>Cambia los ajustes; lo que no se indica queda igual</translation>
+    </message>
+    <message>
+        <source>Tags on budget items</source>
+        <translation>Etiquetas de las partidas</translation>
+    </message>
+    <message>
+        <source>List all tags</source>
+        <translation>Enumera todas las etiquetas</translation>
+    </message>
+    <message>
+        <source>Take tags from every budget item</source>
+        <translation>Quita etiquetas de todas las partidas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Due within %n days</source>
+        <translation>
+            <numerusform>Vence en %n día</numerusform>
+            <numerusform>Vence en %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show totals, what is due and the budget&apos;s health</source>
+        <translation>Muestra los totales, lo que vence y la salud del presupuesto</translation>
+    </message>
+    <message>
+        <source>The budget item&apos;s name</source>
+        <translation>El nombre de la partida</translation>
+    </message>
+    <message>
+        <source>bill, debt, goal, nontrack or wage, where names repeat</source>
+        <translation>bill, debt, goal, nontrack o wage, si el nombre se repite</translation>
+    </message>
+    <message>
+        <source>How many days ahead; as configured otherwise</source>
+        <translation>Con cuántos días de antelación; si no, los configurados</translation>
+    </message>
+    <message>
+        <source>Today, or another day in its place</source>
+        <translation>Hoy, u otro día en su lugar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days late</source>
+        <translation>
+            <numerusform>%n día de retraso</numerusform>
+            <numerusform>%n días de retraso</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n days</source>
+        <translation>
+            <numerusform>en %n día</numerusform>
+            <numerusform>en %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The account that pays, or that a wage goes to</source>
+        <translation>La cuenta que paga, o a la que va un salario</translation>
+    </message>
+    <message>
+        <source>Another amount than the item&apos;s</source>
+        <translation>Un importe distinto del de la partida</translation>
+    </message>
+    <message>
+        <source>Post everything that is due by now, in place of one item</source>
+        <translation>Registra todo lo vencido hasta ahora, en vez de una partida</translation>
+    </message>
+    <message>
+        <source>The day of posting; today otherwise</source>
+        <translation>El día del registro; si no, hoy</translation>
+    </message>
+    <message>
+        <source>What is paid, or what came in for a wage</source>
+        <translation>Lo que se paga, o lo que entró de un salario</translation>
+    </message>
+    <message>
+        <source>List what is due</source>
+        <translation>Enumera lo que vence</translation>
+    </message>
+    <message>
+        <source>Post a budget item that is due</source>
+        <translation>Registra una partida vencida</translation>
+    </message>
+    <message>
+        <source>Post an unexpected amount for a budget item</source>
+        <translation>Registra un importe imprevisto de una partida</translation>
+    </message>
+    <message>
+        <source>Skip a budget item once, without posting</source>
+        <translation>Omite una partida una vez, sin registrarla</translation>
+    </message>
+    <message>
+        <source>journal (unless given), csv or json</source>
+        <translation>journal (si no se indica), csv o json</translation>
+    </message>
+    <message>
+        <source>Write the ledger for other programs</source>
+        <translation>Escribe el libro mayor para otros programas</translation>
+    </message>
+    <message>
+        <source>The file; - for standard input</source>
+        <translation>El archivo; - es la entrada estándar</translation>
+    </message>
+    <message>
+        <source>journal, csv, ofx or qif; guessed otherwise</source>
+        <translation>journal, csv, ofx o qif; si no, se deduce</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding; UTF-8 otherwise</source>
+        <translation>La codificación del archivo; si no, UTF-8</translation>
+    </message>
+    <message>
+        <source>The decimal mark: . or ,</source>
+        <translation>La marca decimal: . o ,</translation>
+    </message>
+    <message>
+        <source>How days are written, like DD.MM.YYYY</source>
+        <translation>Cómo se escriben los días, como DD.MM.YYYY</translation>
+    </message>
+    <message>
+        <source>The currency of amounts that have none (journal)</source>
+        <translation>La moneda de los importes que no la llevan (journal)</translation>
+    </message>
+    <message>
+        <source>What a root is, like Aktiva=asset (journal)</source>
+        <translation>Lo que es una raíz, como Activos=asset (journal)</translation>
+    </message>
+    <message>
+        <source>Which currency a name means, like Fr=CHF (journal)</source>
+        <translation>Qué moneda indica un nombre, como Fr=CHF (journal)</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s number of the account (ofx)</source>
+        <translation>El número de la cuenta en el banco (ofx)</translation>
+    </message>
+    <message>
+        <source>Read the file as this saved profile says</source>
+        <translation>Lee el archivo como dice este perfil guardado</translation>
+    </message>
+    <message>
+        <source>Save how the file was read under this name</source>
+        <translation>Guarda con este nombre cómo se leyó el archivo</translation>
+    </message>
+    <message>
+        <source>The column of the day, by heading or number (csv)</source>
+        <translation>La columna del día, por su título o número (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the amount (csv)</source>
+        <translation>La columna del importe (csv)</translation>
+    </message>
+    <message>
+        <source>The column of what came in (csv)</source>
+        <translation>La columna de lo que entró (csv)</translation>
+    </message>
+    <message>
+        <source>The column of what went out (csv)</source>
+        <translation>La columna de lo que salió (csv)</translation>
+    </message>
+    <message>
+        <source>The column that tells the sign (csv)</source>
+        <translation>La columna que indica el signo (csv)</translation>
+    </message>
+    <message>
+        <source>What stands there when money went out (csv)</source>
+        <translation>Lo que pone ahí cuando salió dinero (csv)</translation>
+    </message>
+    <message>
+        <source>A column of the description (csv)</source>
+        <translation>Una columna de la descripción (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the bank&apos;s identifier (csv)</source>
+        <translation>La columna del identificador del banco (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the currency (csv)</source>
+        <translation>La columna de la moneda (csv)</translation>
+    </message>
+    <message>
+        <source>What stands between cells; guessed otherwise (csv)</source>
+        <translation>Lo que separa las celdas; si no, se deduce (csv)</translation>
+    </message>
+    <message>
+        <source>How many lines stand above the headings (csv)</source>
+        <translation>Cuántas líneas hay sobre los títulos (csv)</translation>
+    </message>
+    <message>
+        <source>The first line is an entry already (csv)</source>
+        <translation>La primera línea ya es una entrada (csv)</translation>
+    </message>
+    <message>
+        <source>Money that went out is positive (csv)</source>
+        <translation>El dinero que salió es positivo (csv)</translation>
+    </message>
+    <message>
+        <source>The account that a bank statement is about</source>
+        <translation>La cuenta de la que trata el extracto</translation>
+    </message>
+    <message>
+        <source>The other account of entries that no rule knows</source>
+        <translation>La contrapartida de las entradas sin regla</translation>
+    </message>
+    <message>
+        <source>Post what is there already, too</source>
+        <translation>Registra también lo que ya existe</translation>
+    </message>
+    <message>
+        <source>Post what a journal or a bank statement holds, or nothing of it</source>
+        <translation>Registra lo que contiene un diario o un extracto, o nada de ello</translation>
+    </message>
+    <message>
+        <source>How often it recurs, such as monthly</source>
+        <translation>Cada cuánto se repite, por ejemplo monthly</translation>
+    </message>
+    <message>
+        <source>The next day on which it does</source>
+        <translation>El próximo día en que lo hace</translation>
+    </message>
+    <message>
+        <source>A tag to find it by; may be given several times</source>
+        <translation>Una etiqueta para encontrarla; se admiten varias</translation>
+    </message>
+    <message>
+        <source>What was borrowed: its account opens with it</source>
+        <translation>Lo que se prestó: con eso se abre su cuenta</translation>
+    </message>
+    <message>
+        <source>The bank that holds it</source>
+        <translation>El banco que la tiene</translation>
+    </message>
+    <message>
+        <source>The kind of account there: loan (unless given), …</source>
+        <translation>El tipo de cuenta allí: loan (si no se indica), …</translation>
+    </message>
+    <message>
+        <source>What it is to come to</source>
+        <translation>A cuánto ha de llegar</translation>
+    </message>
+    <message>
+        <source>The bank account under which it is put aside</source>
+        <translation>La cuenta bancaria en la que se aparta</translation>
+    </message>
+    <message>
+        <source>Its name</source>
+        <translation>Su nombre</translation>
+    </message>
+    <message>
+        <source>What it comes to</source>
+        <translation>A cuánto asciende</translation>
+    </message>
+    <message>
+        <source>Today, in place of --next</source>
+        <translation>Hoy, en lugar de --next</translation>
+    </message>
+    <message>
+        <source>Take its tags away</source>
+        <translation>Le quita las etiquetas</translation>
+    </message>
+    <message>
+        <source>Tie it to no bank any more</source>
+        <translation>Ya no la vincula a ningún banco</translation>
+    </message>
+    <message>
+        <source>Add one</source>
+        <translation>Añade una partida</translation>
+    </message>
+    <message>
+        <source>Change one; what is not given stays</source>
+        <translation>Cambia una partida; lo que no se indica queda igual</translation>
+    </message>
+    <message>
+        <source>Give one another name</source>
+        <translation>Da otro nombre a una partida</translation>
+    </message>
+    <message>
+        <source>Remove one</source>
+        <translation>Elimina una partida</translation>
+    </message>
+    <message>
+        <source>List all of them</source>
+        <translation>Enumera todas</translation>
+    </message>
+    <message>
+        <source>Bills: what must be paid</source>
+        <translation>Facturas: lo que hay que pagar</translation>
+    </message>
+    <message>
+        <source>Debts: what was borrowed and is paid back</source>
+        <translation>Deudas: lo que se pidió prestado y se devuelve</translation>
+    </message>
+    <message>
+        <source>Goals: what is put aside for a target</source>
+        <translation>Metas: lo que se aparta para alcanzar un importe</translation>
+    </message>
+    <message>
+        <source>Non-tracked items: what is spent without keeping track</source>
+        <translation>Partidas sin seguimiento: lo que se gasta sin llevar la cuenta</translation>
+    </message>
+    <message>
+        <source>Wages: what comes in</source>
+        <translation>Salarios: lo que entra</translation>
+    </message>
+    <message>
+        <source>The currencies; the usable ones otherwise</source>
+        <translation>Las monedas; si no, las utilizables</translation>
+    </message>
+    <message>
+        <source>The currency of which one unit is meant</source>
+        <translation>La moneda de la que se toma una unidad</translation>
+    </message>
+    <message>
+        <source>How much of another currency it buys</source>
+        <translation>Cuánto se obtiene de otra moneda</translation>
+    </message>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Tipos de cambio</translation>
+    </message>
+    <message>
+        <source>Show the exchange rates that are known</source>
+        <translation>Muestra los tipos de cambio conocidos</translation>
+    </message>
+    <message>
+        <source>Fetch the rates of the day</source>
+        <translation>Obtiene los tipos del día</translation>
+    </message>
+    <message>
+        <source>Set rates by hand</source>
+        <translation>Fija tipos a mano</translation>
+    </message>
+    <message>
+        <source>Newer releases of this program</source>
+        <translation>Versiones más recientes de este programa</translation>
+    </message>
+    <message>
+        <source>Ask whether there is a newer release</source>
+        <translation>Pregunta si hay una versión más reciente</translation>
+    </message>
+    <message>
+        <source>Show what each release brought</source>
+        <translation>Muestra lo que trajo cada versión</translation>
+    </message>
+    <message>
+        <source>In the first month; eleven months before otherwise</source>
+        <translation>En el primer mes; si no, once meses antes</translation>
+    </message>
+    <message>
+        <source>The last day; today otherwise</source>
+        <translation>El último día; si no, hoy</translation>
+    </message>
+    <message>
+        <source>Print one HTML page, with charts, to be read or printed</source>
+        <translation>Escribe una página HTML con gráficos, para leer o imprimir</translation>
+    </message>
+    <message>
+        <source>Draw the charts on the terminal</source>
+        <translation>Dibuja los gráficos en la terminal</translation>
+    </message>
+    <message>
+        <source>The title of the page</source>
+        <translation>El título de la página</translation>
+    </message>
+    <message>
+        <source>The last day, where --to is not given</source>
+        <translation>El último día, si no se indica --to</translation>
+    </message>
+    <message>
+        <source>Show income, expenses, budget and net worth month by month</source>
+        <translation>Muestra ingresos, gastos, presupuesto y patrimonio neto mes a mes</translation>
+    </message>
+    <message>
+        <source>The budget file, as with --file</source>
+        <translation>El archivo del presupuesto, como con --file</translation>
+    </message>
+    <message>
+        <source>Read commands line by line and keep the budget open</source>
+        <translation>Lee órdenes línea a línea y mantiene abierto el presupuesto</translation>
+    </message>
+    <message>
+        <source>Read commands likewise, and print the Navigator&apos;s signals as JSON lines</source>
+        <translation>Lee órdenes igualmente y escribe las señales del Navigator como líneas JSON</translation>
+    </message>
+    <message>
+        <source>The bank account&apos;s number or name</source>
+        <translation>Número o nombre de la cuenta bancaria</translation>
+    </message>
+    <message>
+        <source>The day of the statement; today otherwise</source>
+        <translation>El día del extracto; si no, hoy</translation>
+    </message>
+    <message>
+        <source>A document of survey show --json, edited; - for input</source>
+        <translation>Un documento editado de survey show --json; - es la entrada</translation>
+    </message>
+    <message>
+        <source>A transaction that the statement shows</source>
+        <translation>Un asiento que aparece en el extracto</translation>
+    </message>
+    <message>
+        <source>It shows all transactions of the survey</source>
+        <translation>En él aparecen todos los asientos de la conciliación</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT: money for an item that is not booked yet; with a minus for what went out</source>
+        <translation>PARTIDA=IMPORTE: dinero sin registrar de una partida; con signo menos lo que salió</translation>
+    </message>
+    <message>
+        <source>ACCOUNT=AMOUNT: the same for another account</source>
+        <translation>CUENTA=IMPORTE: lo mismo para otra cuenta</translation>
+    </message>
+    <message>
+        <source>ITEM=AMOUNT: what is set aside for an item</source>
+        <translation>PARTIDA=IMPORTE: lo que se aparta para una partida</translation>
+    </message>
+    <message>
+        <source>What is set aside for nothing</source>
+        <translation>Lo que no se aparta para nada</translation>
+    </message>
+    <message>
+        <source>Comparing the books with a bank statement</source>
+        <translation>Comparación de los libros con un extracto</translation>
+    </message>
+    <message>
+        <source>Show what has happened since the last survey</source>
+        <translation>Muestra lo ocurrido desde la última conciliación</translation>
+    </message>
+    <message>
+        <source>Reconcile the account with a statement</source>
+        <translation>Concilia la cuenta con un extracto</translation>
+    </message>
+    <message>
+        <source>Go through a statement question by question</source>
+        <translation>Recorre un extracto pregunta a pregunta</translation>
+    </message>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Conciliaciones anteriores</translation>
+    </message>
+    <message>
+        <source>Show when an account was last reconciled</source>
+        <translation>Muestra cuándo se concilió una cuenta por última vez</translation>
+    </message>
+    <message>
+        <source>Show on a temporary budget what the command does</source>
+        <translation>Muestra con un presupuesto temporal lo que hace el programa</translation>
+    </message>
+    <message>
+        <source>What moves; in the debited account&apos;s currency</source>
+        <translation>Lo que se mueve; en la moneda de la cuenta del debe</translation>
+    </message>
+    <message>
+        <source>The account that is debited</source>
+        <translation>La cuenta del debe</translation>
+    </message>
+    <message>
+        <source>The account that is credited</source>
+        <translation>La cuenta del haber</translation>
+    </message>
+    <message>
+        <source>What it is about</source>
+        <translation>De qué se trata</translation>
+    </message>
+    <message>
+        <source>The day of the transaction; today otherwise</source>
+        <translation>El día del asiento; si no, hoy</translation>
+    </message>
+    <message>
+        <source>A JSON list of transactions; - for standard input</source>
+        <translation>Una lista JSON de asientos; - es la entrada estándar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Posted %n transactions.</source>
+        <translation>
+            <numerusform>Se registró %n asiento.</numerusform>
+            <numerusform>Se registraron %n asientos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The transaction&apos;s number</source>
+        <translation>El número del asiento</translation>
+    </message>
+    <message>
+        <source>What moves</source>
+        <translation>Lo que se mueve</translation>
+    </message>
+    <message>
+        <source>The day of the transaction</source>
+        <translation>El día del asiento</translation>
+    </message>
+    <message>
+        <source>Numbers of transactions</source>
+        <translation>Números de asientos</translation>
+    </message>
+    <message>
+        <source>The bank account that the money leaves</source>
+        <translation>La cuenta bancaria de la que sale el dinero</translation>
+    </message>
+    <message>
+        <source>The bank account that it goes to</source>
+        <translation>La cuenta bancaria a la que va</translation>
+    </message>
+    <message>
+        <source>How much; in the currency of the account it goes to</source>
+        <translation>Cuánto; en la moneda de la cuenta a la que va</translation>
+    </message>
+    <message>
+        <source>The day of the transfer; today otherwise</source>
+        <translation>El día del traspaso; si no, hoy</translation>
+    </message>
+    <message>
+        <source>The transaction of which something comes back</source>
+        <translation>El asiento del que se devuelve algo</translation>
+    </message>
+    <message>
+        <source>How much</source>
+        <translation>Cuánto</translation>
+    </message>
+    <message>
+        <source>The day of the refund; today otherwise</source>
+        <translation>El día del reembolso; si no, hoy</translation>
+    </message>
+    <message>
+        <source>List all transactions</source>
+        <translation>Enumera todos los asientos</translation>
+    </message>
+    <message>
+        <source>Transactions of the ledger</source>
+        <translation>Asientos del libro mayor</translation>
+    </message>
+    <message>
+        <source>Post a transaction</source>
+        <translation>Registra un asiento</translation>
+    </message>
+    <message>
+        <source>Post all transactions of a JSON file</source>
+        <translation>Registra todos los asientos de un archivo JSON</translation>
+    </message>
+    <message>
+        <source>Change a transaction; what is not given stays</source>
+        <translation>Cambia un asiento; lo que no se indica queda igual</translation>
+    </message>
+    <message>
+        <source>Remove transactions</source>
+        <translation>Elimina asientos</translation>
+    </message>
+    <message>
+        <source>Mark transactions as seen at the bank</source>
+        <translation>Marca asientos como vistos en el banco</translation>
+    </message>
+    <message>
+        <source>Mark transactions as part of a statement</source>
+        <translation>Marca asientos como parte de un extracto</translation>
+    </message>
+    <message>
+        <source>Take the reconciliation of transactions back</source>
+        <translation>Anula la conciliación de asientos</translation>
+    </message>
+    <message>
+        <source>Move money between bank accounts</source>
+        <translation>Mueve dinero entre cuentas bancarias</translation>
+    </message>
+    <message>
+        <source>List what of a budget item can be refunded</source>
+        <translation>Enumera lo que se puede reembolsar de una partida</translation>
+    </message>
+    <message>
+        <source>Post a refund of a transaction</source>
+        <translation>Registra un reembolso de un asiento</translation>
+    </message>
+    <message>
+        <source>An older version; see history</source>
+        <translation>Una versión más antigua; véase history</translation>
+    </message>
+    <message>
+        <source>A version; the one before the last save otherwise</source>
+        <translation>Una versión; si no, la anterior al último guardado</translation>
+    </message>
+    <message>
+        <source>A version; the file as it is otherwise</source>
+        <translation>Una versión; si no, el archivo como está</translation>
+    </message>
+    <message>
+        <source>Bring the budget back as it was before the last saved change</source>
+        <translation>Recupera el presupuesto como estaba antes del último cambio</translation>
+    </message>
+    <message>
+        <source>List the former versions of the budget that are kept</source>
+        <translation>Enumera las versiones anteriores que se conservan</translation>
+    </message>
+    <message>
+        <source>Tell what changed from one version to another</source>
+        <translation>Muestra lo que cambió de una versión a otra</translation>
+    </message>
+    <message>
+        <source>The household; see templates list</source>
+        <translation>El hogar; véase templates list</translation>
+    </message>
+    <message>
+        <source>Its currency, preferred from now on</source>
+        <translation>Su moneda, preferida desde ahora</translation>
+    </message>
+    <message>
+        <source>The household&apos;s bank</source>
+        <translation>El banco del hogar</translation>
+    </message>
+    <message>
+        <source>The name of its account there</source>
+        <translation>El nombre de su cuenta allí</translation>
+    </message>
+    <message>
+        <source>The kind of account; checking unless given</source>
+        <translation>El tipo de cuenta; checking si no se indica</translation>
+    </message>
+    <message>
+        <source>The account&apos;s balance; 0 otherwise</source>
+        <translation>El saldo de la cuenta; si no, 0</translation>
+    </message>
+    <message>
+        <source>See templates list</source>
+        <translation>Véase templates list</translation>
+    </message>
+    <message>
+        <source>Make a new budget for a kind of household</source>
+        <translation>Crea un presupuesto nuevo para un tipo de hogar</translation>
+    </message>
+    <message>
+        <source>Starter budgets for the wizard</source>
+        <translation>Presupuestos iniciales para el asistente</translation>
+    </message>
+    <message>
+        <source>List the kinds of household</source>
+        <translation>Enumera los tipos de hogar</translation>
+    </message>
+    <message>
+        <source>Show the budget items of one</source>
+        <translation>Muestra las partidas de uno</translation>
+    </message>
+    <message>
+        <source>The exchange rates could not be fetched; try again later, or set them with kiv rates set.</source>
+        <translation>No se pudieron obtener los tipos de cambio; se puede reintentar más tarde o fijarlos con kiv rates set.</translation>
+    </message>
+    <message>
+        <source>The releases could not be fetched; try again later.</source>
+        <translation>No se pudieron obtener las versiones publicadas; se puede reintentar más tarde.</translation>
+    </message>
+    <message>
+        <source> Caused by: </source>
+        <translation> Causa: </translation>
+    </message>
+    <message>
+        <source>cleared</source>
+        <translation>confirmado</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>conciliado</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>the status of a transaction</comment>
+        <translation>pendiente</translation>
+    </message>
+    <message>
+        <source>nontrack</source>
+        <translation>sin seguimiento</translation>
+    </message>
+    <message>
+        <source>Keeps a household&apos;s budget: accounts, banks, bills, wages and what is due.</source>
+        <translation>Lleva el presupuesto de un hogar: cuentas, bancos, facturas, salarios y lo que vence.</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Uso</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumentos</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>OBLIGATORIO</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPCIONES</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>ORDEN</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Muestra esta ayuda y termina</translation>
+    </message>
+    <message>
+        <source>Display program version information and exit</source>
+        <translation>Muestra la versión del programa y termina</translation>
+    </message>
+    <message>
+        <source>kiv COMMAND --help tells more about a command.</source>
+        <translation>kiv ORDEN --help dice más sobre una orden.</translation>
+    </message>
+    <message>
+        <source>item</source>
+        <translation>partida</translation>
+    </message>
+    <message>
+        <source>account</source>
+        <translation>cuenta</translation>
+    </message>
+    <message>
+        <source>transaction</source>
+        <translation>asiento</translation>
+    </message>
+    <message>
+        <source>bank</source>
+        <translation>banco</translation>
+    </message>
+    <message>
+        <source>survey</source>
+        <translation>conciliación</translation>
+    </message>
+    <message>
+        <source>added</source>
+        <translation>añadido</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiado</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>eliminado</translation>
+    </message>
+    <message>
+        <source>accounts</source>
+        <translation>cuentas</translation>
+    </message>
+    <message>
+        <source>balance</source>
+        <translation>saldo</translation>
+    </message>
+    <message>
+        <source>borrowed</source>
+        <translation>prestado</translation>
+    </message>
+    <message>
+        <source>credit</source>
+        <translation>haber</translation>
+    </message>
+    <message>
+        <source>creditAmount</source>
+        <translation>importe del haber</translation>
+    </message>
+    <message>
+        <source>creditStatus</source>
+        <translation>estado del haber</translation>
+    </message>
+    <message>
+        <source>debit</source>
+        <translation>debe</translation>
+    </message>
+    <message>
+        <source>debitAmount</source>
+        <translation>importe del debe</translation>
+    </message>
+    <message>
+        <source>debitStatus</source>
+        <translation>estado del debe</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>descripción</translation>
+    </message>
+    <message>
+        <source>every</source>
+        <translation>frecuencia</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>next</source>
+        <translation>próxima fecha</translation>
+    </message>
+    <message>
+        <source>notDistributed</source>
+        <translation>sin repartir</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>abierta</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <translation>cuenta superior</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>ruta</translation>
+    </message>
+    <message>
+        <source>reconciledOn</source>
+        <translation>conciliado el</translation>
+    </message>
+    <message>
+        <source>refundOf</source>
+        <translation>reembolso de</translation>
+    </message>
+    <message>
+        <source>tags</source>
+        <translation>etiquetas</translation>
+    </message>
+    <message>
+        <source>target</source>
+        <translation>meta</translation>
+    </message>
+    <message>
+        <source>type</source>
+        <translation>tipo</translation>
     </message>
 </context>
 <context>

@@ -31,7 +31,7 @@ public:
         m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path("config"));
         m_environment.insert(QStringLiteral("XDG_DATA_HOME"), path("data"));
         m_environment.insert(QStringLiteral("KIV_FILE"), file());
-        m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("en_US.UTF-8"));
+        m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         m_environment.insert(QStringLiteral("COLUMNS"), QStringLiteral("80"));
     }
 

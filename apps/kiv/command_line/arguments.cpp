@@ -33,9 +33,9 @@ QString placeholder(const char *word)
     return isKnown ? QObject::tr(word) : QString::fromUtf8(word);
 }
 
-Arguments &Arguments::flag(const char *name, bool &value, const Help &help)
+Arguments &Arguments::flag(const char *name, bool &value, const QString &help)
 {
-    m_app.add_flag(name, value, help.text);
+    m_app.add_flag(name, value, help.toStdString());
     return *this;
 }
 
@@ -45,13 +45,13 @@ Arguments &Arguments::file()
                     QObject::tr("The budget file; else KIV_FILE names it"));
 }
 
-Arguments &Arguments::dated(const Help &help)
+Arguments &Arguments::dated(const QString &help)
 {
     return optional("--date", m_options.date, help);
 }
 
-Arguments &Arguments::add(const char *name, const Reader &read, const char *word, const Help &help,
-                          Presence presence)
+Arguments &Arguments::add(const char *name, const Reader &read, const char *word,
+                          const QString &help, Presence presence)
 {
     const bool isRepeated =
         presence == Presence::Repeated || presence == Presence::RequiredRepeated;
@@ -62,8 +62,9 @@ Arguments &Arguments::add(const char *name, const Reader &read, const char *word
     const bool isOption = name[0] == '-';
     const std::string shown = isOption ? name : placeholder(name).toStdString();
     CLI::Option *option =
-        isRepeated ? m_app.add_option_function<std::vector<std::string>>(shown, readAll, help.text)
-                   : m_app.add_option_function<std::string>(shown, read, help.text);
+        isRepeated ? m_app.add_option_function<std::vector<std::string>>(shown, readAll,
+                                                                         help.toStdString())
+                   : m_app.add_option_function<std::string>(shown, read, help.toStdString());
     // An option takes one value each time, so that it does not swallow what
     // stands behind it.
     if (isRepeated && isOption)

@@ -12,13 +12,6 @@ class App;
 
 namespace kiv::app {
 
-/// What --help says of a command or an argument, in the user's language.
-struct Help {
-    Help(const QString &translated) : text(translated.toStdString()) {}
-    Help(const char *plain) : text(plain) {}
-    std::string text;
-};
-
 /// The word in capitals that stands for a value ("AMOUNT"), in the user's language.
 [[nodiscard]] QString placeholder(const char *word);
 
@@ -76,40 +69,41 @@ struct Options {
 
 /// The arguments of one command, where it declares them. A name in capitals
 /// ("NAME") is known by its place, one with dashes ("--name") is an option. The
-/// values must outlive the parsing of the command line.
+/// values must outlive the parsing of the command line. The texts of the help come
+/// translated.
 class Arguments {
 public:
     Arguments(CLI::App &app, Options &options) : m_app(app), m_options(options) {}
 
     template <typename T>
-    Arguments &required(const char *name, T &value, const Help &help)
+    Arguments &required(const char *name, T &value, const QString &help)
     {
         return add(name, reader(value), valueWord(&value), help, Presence::Required);
     }
     template <typename T>
-    Arguments &optional(const char *name, T &value, const Help &help)
+    Arguments &optional(const char *name, T &value, const QString &help)
     {
         return add(name, reader(value), valueWord(&value), help, Presence::Optional);
     }
     /// May be given several times.
     template <typename T>
-    Arguments &several(const char *name, std::vector<T> &values, const Help &help)
+    Arguments &several(const char *name, std::vector<T> &values, const QString &help)
     {
         return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
                    Presence::Repeated);
     }
     /// Must be given at least once.
     template <typename T>
-    Arguments &severalRequired(const char *name, std::vector<T> &values, const Help &help)
+    Arguments &severalRequired(const char *name, std::vector<T> &values, const QString &help)
     {
         return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
                    Presence::RequiredRepeated);
     }
-    Arguments &flag(const char *name, bool &value, const Help &help);
+    Arguments &flag(const char *name, bool &value, const QString &help);
     /// The command takes --file.
     Arguments &file();
     /// The command takes --date, in place of today.
-    Arguments &dated(const Help &help);
+    Arguments &dated(const QString &help);
 
 private:
     using Reader = std::function<void(const std::string &)>;
@@ -129,7 +123,7 @@ private:
             values.push_back(std::move(value));
         };
     }
-    Arguments &add(const char *name, const Reader &read, const char *word, const Help &help,
+    Arguments &add(const char *name, const Reader &read, const char *word, const QString &help,
                    Presence presence);
 
     CLI::App &m_app;

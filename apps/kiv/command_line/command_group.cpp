@@ -9,23 +9,25 @@ namespace kiv::app {
 
 namespace {
 
-CLI::App *addTo(CLI::App &above, const char *name, const Help &help)
+CLI::App *addTo(CLI::App &above, const char *name, const QString &help)
 {
-    CLI::App *app = above.add_subcommand(name, help.text);
+    CLI::App *app = above.add_subcommand(name, help.toStdString());
     app->group(QObject::tr("Subcommands").toStdString());
+    // Made before the options' common group was known.
+    app->set_help_flag("-h,--help", above.get_help_ptr()->get_description());
     return app;
 }
 
 } // namespace
 
-CommandGroup CommandGroup::group(const char *name, const Help &help)
+CommandGroup CommandGroup::group(const char *name, const QString &help)
 {
     CLI::App *app = addTo(m_app, name, help);
     app->require_subcommand(1);
     return {*app, m_program};
 }
 
-CommandGroup CommandGroup::addCommand(const char *name, const Help &help, CommandKind kind,
+CommandGroup CommandGroup::addCommand(const char *name, const QString &help, CommandKind kind,
                                       const std::function<void(Arguments &)> &declare,
                                       const std::function<Report(Call &)> &run)
 {

@@ -37,11 +37,11 @@ class CommandGroup {
 public:
     CommandGroup(CLI::App &app, Program &program) : m_app(app), m_program(program) {}
 
-    [[nodiscard]] CommandGroup group(const char *name, const Help &help);
+    [[nodiscard]] CommandGroup group(const char *name, const QString &help);
 
     /// Gives the command's own place, where it may get commands below it.
     template <typename Command>
-    CommandGroup add(const char *name, const Help &help, CommandKind kind, Command command)
+    CommandGroup add(const char *name, const QString &help, CommandKind kind, Command command)
     {
         const auto held = std::make_shared<Command>(std::move(command));
         return addCommand(
@@ -50,7 +50,7 @@ public:
     }
 
 private:
-    CommandGroup addCommand(const char *name, const Help &help, CommandKind kind,
+    CommandGroup addCommand(const char *name, const QString &help, CommandKind kind,
                             const std::function<void(Arguments &)> &declare,
                             const std::function<Report(Call &)> &run);
 

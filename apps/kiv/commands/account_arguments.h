@@ -59,7 +59,7 @@ struct AccountVerb {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, "The account's number, name or path");
+        arguments.required("ACCOUNT", account, QObject::tr("The account's number, name or path"));
     }
     Report run(Call &call) const
     {
