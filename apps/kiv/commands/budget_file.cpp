@@ -102,7 +102,7 @@ struct Info {
             QStringList texts;
             const QJsonObject object = value.toObject();
             for (auto count = object.begin(); count != object.end(); ++count)
-                texts += count.key() + u' ' + QString::number(count.value().toInteger());
+                texts += wordText(count.key()) + u' ' + QString::number(count.value().toInteger());
             return texts.join(QStringLiteral(", "));
         };
         return Report(json).list(

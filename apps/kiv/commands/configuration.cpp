@@ -68,7 +68,7 @@ Report configurationReport(Session &session)
         {QStringLiteral("hoursInWeek"), qint64{data.hoursInWeek.count()}},
         {QStringLiteral("daysInWeek"), qint64{data.daysInWeek.count()}}};
     const auto percent = [](const QJsonValue &value) {
-        return QString::number(value.toDouble()) + QStringLiteral(" %");
+        return presentationText(foundation::Percentage(value.toDouble(), 6));
     };
     return Report(json).list(
         {{QObject::tr("Preferred currency"), QStringLiteral("preferredCurrency")},
