@@ -74,12 +74,12 @@ QByteArray readInput(const QString &path)
     const bool isOpen =
         path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen)
+        throw cannotRead(path, file.errorString());
     const auto refuseLarge = [&path](qint64 size) {
         if (size > bytesMax)
             throw cannotRead(path, QObject::tr("it is larger than 64 MiB"));
     };
     refuseLarge(file.isSequential() ? 0 : file.size());
-        throw cannotRead(path, file.errorString());
     // Asked for at once, an endless pipe would fill the memory.
     QByteArray bytes;
     for (QByteArray part; bytes.size() <= bytesMax; bytes += part) {
