@@ -404,6 +404,12 @@ Topic configuration()
     return {
         {"store", configure(30, {dollar})},
         {"store too long a week", configure(168, {dollar})},
+        {"store an unknown display",
+         [](N &n) {
+             configured(n, [](auto &data) {
+                 data.currenciesDisplayAs = navigation::CurrencyDisplayOptions(9);
+             });
+         }},
         {"store without a used currency",
          [=](N &n) {
              added(item<Bill>("Gîte", money("EUR", "9")))(n), configure(30, {dollar})(n);
@@ -478,6 +484,13 @@ Topic budgetFile()
         {"wizard confirmed", [=](N &n) { changed(n), n.onConfirmedNewBudgetFirstTimeWizard(); }},
         {"wizard without items", wizard("Bank", "Daily", None)},
         {"wizard without a bank's name", wizard("", "Daily", None)},
+        {"wizard with an unknown account",
+         [](N &n) {
+             n.onCompletedNewBudgetFirstTimeWizard(
+                 numira::toCurrency("EUR"), {numira::toCurrency("EUR")},
+                 navigation::CurrencyDisplayOptions::IsoCode, bankName("Bank"),
+                 BankAccountTypes::Unknown, QStringLiteral("Daily"), money("EUR", "1"), None);
+         }},
         {"wizard for a child", wizard("Bank", "Daily", Child)},
         {"wizard with an item's name", wizard("Bank", "Allowance", Teenager)},
     };
