@@ -5,6 +5,7 @@
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
@@ -61,10 +62,8 @@ QStringList hostileNames()
     for (const QString &piece : pieces) {
         for (const auto *frame : {u"%", u"a%", u"%a", u"a%b", u"%%", u" %", u"% ", u"%\n%", u"a %",
                                   u"% b", u"a % b", u"%%%", u"(%)"})
-            names.append(QString(frame).replace(u'%', piece));
+            names.append(QString::fromUtf16(frame).replace(u'%', piece));
     }
-    names.append(QString(1'000'000, u'n'));
-    names.append(QString(1'000'000, QChar(0x202e)));
     return names;
 }
 
@@ -127,7 +126,7 @@ void HostileNames::initTestCase()
 {
     QVERIFY(m_names.size() >= 500);
     Desk desk;
-    std::uint32_t number = 10;
+    std::uint32_t number = 100'000; // far from those of the bills
     for (const QString &name : m_names) {
         desk.navigator->onAddedAct(
             accounting::Account(accounting::AccountTypes::Asset,
@@ -137,7 +136,8 @@ void HostileNames::initTestCase()
                                    budgeting::EventFrequency::Monthly, day("2026-01-31"));
         desk.navigator->onAdded(element(), toBudgetItemTypes(bill), bill, {},
                                 tagged(bill, {tagging::Tag(name)}));
-        desk.navigator->onAddedTransaction({day("2026-01-31"), no(11), no(12), usd("1"), name});
+        desk.navigator->onAddedTransaction(
+            {day("2026-01-31"), no(100'001), no(100'002), usd("1"), name});
         for (const QString &line : desk.take()) {
             if (line.startsWith(u"- ") || line.startsWith(u"! ") || line.startsWith(u"? "))
                 QVERIFY2(hostileIn(line) == 0, qPrintable(line.left(200)));
@@ -157,10 +157,13 @@ void HostileNames::initTestCase()
 
 void HostileNames::areKeptExactlyInTheFile()
 {
+    storage::BudgetStorage::Data data = m_data;
+    for (const QChar c : {QChar(u'n'), QChar(0x202e)})
+        data.banks.add(banking::Bank(banking::BankName(QString(1'000'000, c)), {}, false));
     storage::BudgetFile file(0);
     file.setFilePathName(m_folder.filePath(QStringLiteral("other.budget")));
-    file.store(m_data);
-    QVERIFY(file.load() == m_data);
+    file.store(data);
+    QVERIFY(file.load() == data);
 }
 
 void HostileNames::neverReachTheTerminal_data()
@@ -168,7 +171,7 @@ void HostileNames::neverReachTheTerminal_data()
     QTest::addColumn<QStringList>("arguments");
     for (const char *command :
          {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
-          "tags list", "ledger 11", "export --format journal", "report income"})
+          "tags list", "ledger 100001", "export --format journal", "report"})
         QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
 }
 
@@ -196,7 +199,8 @@ void HostileNames::areNoFormulaInATable()
             continue;
         }
         if (isBegin) {
-            QVERIFY2(!QByteArray("=+-@\t\r|").contains(c), table.left(300).constData());
+            const bool isEmpty = !isQuoted && c == '\r'; // at the end of a line
+            QVERIFY2(isEmpty || !QByteArray("=+-@\t\r").contains(c), table.left(300).constData());
             ++cells;
         }
         isBegin = !isQuoted && (c == ',' || c == '\n');
