@@ -54,6 +54,7 @@ public:
     [[nodiscard]] bool hasLedger(AccountNumber number) const noexcept;
     /// The same by the number of the code alone.
     [[nodiscard]] bool hasLedger(const AccountCode &code) const noexcept;
+    /// Whether any account bears this name.
     [[nodiscard]] bool hasLedgerNamed(const QString &name) const noexcept;
     /// Throws AccountError when there is no such account.
     [[nodiscard]] LedgerAccount ledger(AccountNumber number) const;

@@ -31,9 +31,9 @@ enum class Verdict : std::uint8_t {
 
 /// A promise, its verdict, and the reasons where it is not kept.
 struct KIV_STORAGE_EXPORT Judgement {
-    FilePromise promise = FilePromise::Identity;
-    Verdict verdict = Verdict::NotJudged;
-    QStringList reasons;
+    FilePromise promise = FilePromise::Identity; ///< what the file should keep
+    Verdict verdict = Verdict::NotJudged;        ///< whether it does
+    QStringList reasons;                         ///< why not, in words; empty when kept
 };
 
 /// What a look at a budget file found.

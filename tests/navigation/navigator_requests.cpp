@@ -306,10 +306,13 @@ template <typename Change>
 void configured(N &n, Change &&change)
 {
     navigation::ConfigurationData data;
-    const auto shown =
-        QObject::connect(&n, &Navigator::showConfigure, &n, [&](const auto &now) { data = now; });
-    n.onPrepareShowConfigure();
-    QObject::disconnect(shown);
+    {
+        // Ends the connection, also when what is heard cannot be kept.
+        const QObject view;
+        QObject::connect(&n, &Navigator::showConfigure, &view,
+                         [&](const auto &now) { data = now; });
+        n.onPrepareShowConfigure();
+    }
     change(data);
     n.onConfigureUpdated(data);
 }
