@@ -2,6 +2,7 @@
 # One place for how everything here is compiled, and the two functions with
 # which every library and every test is declared.
 include(GenerateExportHeader)
+include(KivInstall)
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -11,6 +12,8 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC OFF)
+# The target all_verify_interface_header_sets compiles every public header alone.
+set(CMAKE_VERIFY_INTERFACE_HEADER_SETS ON)
 # All libraries and programs of one build stand together, so that a program
 # finds its libraries next to it.
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
@@ -66,11 +69,15 @@ endfunction()
 # <DIR>/export.h is made for it with the macro <NAME>_EXPORT. MOC names the
 # headers that declare QObjects. WITHOUT_QT is for a library that uses nothing of
 # Qt; it does without the precompiled headers, which are Qt's for the most part.
+# The headers among SOURCES are installed, but for those under internal/.
 function(kiv_add_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WITHOUT_QT" "DIR;VERSION" "SOURCES;MOC;PUBLIC;PRIVATE")
   if(NOT arg_VERSION)
     set(arg_VERSION 1.1)
   endif()
+  set(headers ${arg_SOURCES})
+  list(FILTER headers INCLUDE REGEX "\\.h$")
+  list(FILTER headers EXCLUDE REGEX "^internal/")
   add_library(${name} SHARED ${arg_SOURCES})
   string(REPLACE "kiv-" "" short ${name})
   add_library(Kiv::${short} ALIAS ${name})
@@ -84,15 +91,23 @@ function(kiv_add_library name)
   string(TOUPPER ${macro} macro)
   generate_export_header(${name} BASE_NAME ${macro}
     EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/generated/${arg_DIR}/export.h)
+  cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH folder_above)
+  target_sources(${name}
+    PUBLIC FILE_SET HEADERS BASE_DIRS ${folder_above} FILES ${headers}
+    PUBLIC FILE_SET export_header TYPE HEADERS BASE_DIRS ${CMAKE_BINARY_DIR}/generated
+      FILES ${CMAKE_BINARY_DIR}/generated/${arg_DIR}/export.h)
   target_include_directories(${name} PUBLIC
     $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/domain> $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>
     $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/generated>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kiv>)
-  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  # What is linked privately is nobody's business who uses the installed library.
+  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE "$<BUILD_INTERFACE:${arg_PRIVATE}>")
   kiv_compile_options(${name})
   if(NOT arg_WITHOUT_QT)
     target_precompile_headers(${name} REUSE_FROM kiv-precompiled)
   endif()
+  kiv_install_library(${name} "${arg_PUBLIC}")
 endfunction()
 
 # kiv_add_test(<name> [SOURCES …] [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])

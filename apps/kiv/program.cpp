@@ -16,13 +16,6 @@ QString oneLine(const char *text)
     return QString::fromUtf8(text).simplified();
 }
 
-const CLI::App *subcommand(const CLI::App &app, const std::string &name)
-{
-    const auto named = app.get_subcommands(
-        [&name](const CLI::App *command) { return command->get_name() == name; });
-    return named.empty() ? nullptr : named.front();
-}
-
 } // namespace
 
 int Program::run(const std::vector<std::string> &words)
@@ -36,14 +29,14 @@ int Program::run(const std::vector<std::string> &words)
     } catch (const foundation::Error &error) {
         complain(QString::fromUtf8(error.what()));
     } catch (const std::exception &error) {
-    const auto words = [](const char *text) { return QObject::tr(text).toStdString(); };
         complain(oneLine(error.what()));
     }
     return refused;
 }
 
-std::unique_ptr<CLI::App> Program::declare()
+std::unique_ptr<CLI::App> Program::commandTree()
 {
+    const auto words = [](const char *text) { return QObject::tr(text).toStdString(); };
     auto app = std::make_unique<CLI::App>(
         words(QT_TRANSLATE_NOOP(
             "QObject",
@@ -73,29 +66,11 @@ std::unique_ptr<CLI::App> Program::declare()
     return app;
 }
 
-std::vector<std::string> Program::wordsAfter(const std::vector<std::string> &before)
-{
-    const std::unique_ptr<CLI::App> app = declare();
-    const CLI::App *reached = app.get();
-    for (const std::string &word : before) {
-        if (const CLI::App *next = subcommand(*reached, word))
-            reached = next;
-    }
-    std::vector<std::string> words;
-    for (const CLI::App *command : reached->get_subcommands({}))
-        words.push_back(command->get_name());
-    for (const CLI::Option *option : reached->get_options()) {
-        if (option->nonpositional())
-            words.push_back(option->get_name());
-    }
-    return words;
-}
-
 bool Program::parse(const std::vector<std::string> &words, int &status)
 {
     m_options = Options{};
     m_command = nullptr;
-    const std::unique_ptr<CLI::App> app = declare();
+    const std::unique_ptr<CLI::App> app = commandTree();
     refuseUnknown(*app, words);
     try {
         // CLI11 takes the words from the back.

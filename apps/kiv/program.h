@@ -27,8 +27,9 @@ public:
     /// From now on no report is printed.
     void setSilent() noexcept { m_isSilent = true; }
 
-    /// The commands and options that may stand behind these words.
-    [[nodiscard]] std::vector<std::string> wordsAfter(const std::vector<std::string> &before);
+    /// All commands with their arguments. The arguments' values are this
+    /// program's, so it must outlive the tree.
+    [[nodiscard]] std::unique_ptr<CLI::App> commandTree();
     [[nodiscard]] Session &session() noexcept { return m_session; }
     [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
 
@@ -38,7 +39,6 @@ public:
     void select(CommandKind kind, std::function<Report(Call &)> command);
 
 private:
-    [[nodiscard]] std::unique_ptr<CLI::App> declare();
     /// Tells whether there is a command to be executed; otherwise `status` is
     /// the exit status.
     bool parse(const std::vector<std::string> &words, int &status);

@@ -55,6 +55,7 @@ public:
     /// The same by the number of the code alone.
     [[nodiscard]] bool hasLedger(const AccountCode &code) const noexcept;
     /// Whether any account bears this name.
+    /// Whether an account, open or closed, has this name, letter by letter.
     [[nodiscard]] bool hasLedgerNamed(const QString &name) const noexcept;
     /// Throws AccountError when there is no such account.
     [[nodiscard]] LedgerAccount ledger(AccountNumber number) const;

@@ -31,7 +31,9 @@ enum class Verdict : std::uint8_t {
 
 /// A promise, its verdict, and the reasons where it is not kept.
 struct KIV_STORAGE_EXPORT Judgement {
+    /// The promise that was judged.
     FilePromise promise = FilePromise::Identity; ///< what the file should keep
+    /// Whether it is kept.
     Verdict verdict = Verdict::NotJudged;        ///< whether it does
     QStringList reasons;                         ///< why not, in words; empty when kept
 };

@@ -24,6 +24,7 @@ void addCommands(CommandGroup &root)
     addReportCommands(root);
     addShellCommands(root);
     addTourCommand(root);
+    addCompletionCommands(root);
 }
 
 } // namespace kiv::app

@@ -25,6 +25,7 @@ void addImportCommands(CommandGroup &root);
 void addReportCommands(CommandGroup &root);
 void addShellCommands(CommandGroup &root);
 void addTourCommand(CommandGroup &root);
+void addCompletionCommands(CommandGroup &root);
 
 /// Every command that there is.
 void addCommands(CommandGroup &root);

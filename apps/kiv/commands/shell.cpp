@@ -2,7 +2,7 @@
 // shell, watch
 #include "commands/commands.h"
 
-#include "budget_view.h"
+#include "command_line/candidates.h"
 #include "line_reader.h"
 #include "parsing/words.h"
 #include "program.h"
@@ -12,6 +12,8 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QStandardPaths>
+
+#include <CLI/CLI.hpp>
 
 #include <unistd.h>
 
@@ -48,33 +50,26 @@ bool runLine(Program &program, const std::string &line, int &status)
     return true;
 }
 
-/// The names of everything in the budget.
-std::vector<std::string> namesIn(Session &session)
-{
-    std::vector<std::string> names;
-    const AccountIndex index = session.accounts();
-    for (const accounting::Account &account : index.accounts())
-        names.push_back(account.code().name().toStdString());
-    for (const banking::BankName &bank : session.banks().names())
-        names.push_back(bank.institution().toStdString());
-    BudgetView(session).budget().forEach([&names](const budgeting::BudgetedMoney &item) {
-        names.push_back(item.source().name().toStdString());
-    });
-    return names;
-}
-
 struct Shell {
-    void declare(Arguments &arguments) { arguments.file(); }
+    QString file; ///< where desktops put the name of a file that was clicked on
+
+    void declare(Arguments &arguments)
+    {
+        arguments.file().optional("FILE", file, QObject::tr("The budget file, as with --file"));
+    }
     Report run(Call &call) const
     {
         Program &program = call.program;
         program.keepSession();
-        openNamed(call);
+        if (file.isEmpty())
+            openNamed(call);
+        else
+            call.session.open(file);
         LineReader reader(
             [&](const std::vector<std::string> &before) {
-                std::vector<std::string> words = program.wordsAfter(before);
-                const std::vector<std::string> names = namesIn(call.session);
-                words.insert(words.end(), names.begin(), names.end());
+                Candidates found = candidatesAfter(*program.commandTree(), before, call.session);
+                std::vector<std::string> words = std::move(found.values);
+                words.insert(words.end(), found.options.begin(), found.options.end());
                 return words;
             },
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
@@ -138,9 +133,10 @@ struct Watch {
 
 void addShellCommands(CommandGroup &root)
 {
-    root.add("shell", "Read commands line by line and keep the budget open",
+    root.add("shell", QObject::tr("Read commands line by line and keep the budget open"),
              CommandKind::Standalone, Shell{});
-    root.add("watch", "Read commands likewise, and print the Navigator's signals as JSON lines",
+    root.add("watch",
+             QObject::tr("Read commands likewise, and print the Navigator's signals as JSON lines"),
              CommandKind::Standalone, Watch{});
 }
 

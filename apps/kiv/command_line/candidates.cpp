@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "command_line/candidates.h"
+
+#include "budget_view.h"
+#include "parsing/values.h"
+#include "session.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <ranges>
+#include <string_view>
+
+namespace kiv::app {
+namespace {
+
+using Words = std::vector<std::string>;
+
+/// The words of a line, taken in from the left.
+class Reading {
+public:
+    explicit Reading(const CLI::App &commands) : m_reached(&commands) {}
+
+    void take(const std::string &word)
+    {
+        const std::string name = word.substr(0, word.find('='));
+        if (m_awaiting && word == "=") {
+            // bash hands --file=home.budget over as three words.
+        } else if (m_awaiting) {
+            remember(word);
+            m_awaiting = nullptr;
+        } else if (word == "--") {
+            m_onlyPlaces = true;
+        } else if (word.starts_with('-') && !m_onlyPlaces) {
+            m_awaiting = m_reached->get_option_no_throw(name);
+            const bool isFlag = !m_awaiting || m_awaiting->get_type_size() == 0;
+            if (name != word && !isFlag)
+                remember(word.substr(name.size() + 1));
+            if (isFlag || name != word)
+                m_awaiting = nullptr;
+        } else if (const CLI::App *next = subcommand(word)) {
+            m_path.push_back(word);
+            m_reached = next;
+        } else {
+            ++m_placed;
+        }
+    }
+
+    /// The option that waits for its value, or else the argument whose place it
+    /// is; null when there is none.
+    [[nodiscard]] const CLI::Option *turn() const
+    {
+        if (m_awaiting)
+            return m_awaiting;
+        const auto places = m_reached->get_options(
+            [](const CLI::Option *option) { return option->get_positional(); });
+        if (m_placed < places.size())
+            return places[m_placed];
+        const bool isRepeated = !places.empty() && places.back()->get_items_expected_max() > 1;
+        return isRepeated ? places.back() : nullptr;
+    }
+    [[nodiscard]] bool awaitsValue() const noexcept { return m_awaiting != nullptr; }
+    [[nodiscard]] const CLI::App &reached() const noexcept { return *m_reached; }
+    /// The names of the commands from the root to the reached one.
+    [[nodiscard]] const Words &path() const noexcept { return m_path; }
+    [[nodiscard]] const QString &file() const noexcept { return m_file; }
+
+private:
+    [[nodiscard]] const CLI::App *subcommand(const std::string &name) const
+    {
+        for (const CLI::App *command : m_reached->get_subcommands({})) {
+            if (command->get_name() == name)
+                return command;
+        }
+        return nullptr;
+    }
+    void remember(const std::string &value)
+    {
+        if (m_awaiting->get_name() == "--file")
+            m_file = QString::fromStdString(value);
+    }
+
+    const CLI::App *m_reached;
+    const CLI::Option *m_awaiting = nullptr;
+    bool m_onlyPlaces = false;
+    std::size_t m_placed = 0;
+    Words m_path;
+    QString m_file;
+};
+
+Words accountNames(Session &session)
+{
+    Words names;
+    const AccountIndex index = session.accounts();
+    for (const accounting::Account &account : index.accounts())
+        names.push_back(account.code().name().toStdString());
+    return names;
+}
+
+Words bankNames(Session &session)
+{
+    Words names;
+    for (const banking::BankName &bank : session.banks().names())
+        names.push_back(bank.institution().toStdString());
+    return names;
+}
+
+/// The names of all items whose kind is called `kind`; of all without one.
+Words itemNames(Session &session, const std::string &kind)
+{
+    Words names;
+    BudgetView(session).budget().forEach([&](const budgeting::BudgetedMoney &item) {
+        if (kind.empty() || kindWord(identify(item).type).toStdString() == kind)
+            names.push_back(item.source().name().toStdString());
+    });
+    return names;
+}
+
+template <typename Enumeration, typename Name>
+Words choices(Enumeration lowest, Enumeration highest, Name name)
+{
+    Words words;
+    for (auto value = static_cast<int>(lowest); value <= static_cast<int>(highest); ++value)
+        words.push_back(name(static_cast<Enumeration>(value)).replace(u' ', u'-').toStdString());
+    return words;
+}
+
+/// The words of an argument that takes one of a few; nothing for others.
+Words choicesOf(const std::string &name, const Words &path)
+{
+    const auto named = [](auto value) { return toQString(value); };
+    if (name == "--every") {
+        using enum budgeting::EventFrequency;
+        return choices(None, EveryTenYears, named);
+    }
+    if (name == "--kind") {
+        using enum budgeting::BudgetItemTypes;
+        return choices(Bill, Wage, kindWord);
+    }
+    if (name == "--type" && path.front() == "account") {
+        using enum accounting::AccountTypes;
+        return choices(Asset, Income, named);
+    }
+    if (name == "--type") {
+        using enum banking::BankAccountTypes;
+        return choices(Checking, Cash, named);
+    }
+    if (name == "--format")
+        return {"journal", "csv", "json"};
+    if (name == "--currency" || name == "--preferred" || name == "--usable" || name == "CURRENCY" ||
+        name == "BASE") {
+        Words codes;
+        for (const numira::Currency &currency : numira::activeCurrencies())
+            codes.emplace_back(currency.code());
+        return codes;
+    }
+    return {};
+}
+
+Words namesOf(const std::string &name, const Words &path, Session &session)
+{
+    constexpr std::array accounts{"ACCOUNT",        "FROM",    "TO",       "--account",
+                                  "--bank-account", "--debit", "--credit", "--under"};
+    constexpr std::array kinds{"bill", "debt", "goal", "nontrack", "wage"};
+    if (std::ranges::count(accounts, name) != 0)
+        return accountNames(session);
+    if (name == "BANK" || name == "--bank")
+        return bankNames(session);
+    if (name == "ITEM")
+        return itemNames(session, {});
+    // What is to be added has no name that could be known.
+    if (name == "NAME" && std::ranges::count(kinds, path.front()) != 0 && path.back() != "add")
+        return itemNames(session, path.front());
+    return {};
+}
+
+} // namespace
+
+Candidates candidatesAfter(const CLI::App &commands, const std::vector<std::string> &before,
+                           Session &session)
+{
+    Reading reading(commands);
+    for (const std::string &word : before)
+        reading.take(word);
+
+    Candidates candidates;
+    for (const CLI::App *command : reading.reached().get_subcommands({}))
+        candidates.values.push_back(command->get_name());
+    if (const CLI::Option *turn = reading.turn(); turn && !reading.path().empty()) {
+        const std::string name = turn->get_name();
+        candidates.values = choicesOf(name, reading.path());
+        const QString file =
+            reading.file().isEmpty() ? qEnvironmentVariable("KIV_FILE") : reading.file();
+        if (session.file().isEmpty() && !file.isEmpty())
+            session.open(file);
+        if (candidates.values.empty() && !session.file().isEmpty())
+            candidates.values = namesOf(name, reading.path(), session);
+    }
+    if (!reading.awaitsValue()) {
+        for (const CLI::Option *option : reading.reached().get_options()) {
+            if (option->nonpositional())
+                candidates.options.push_back(option->get_name());
+        }
+    }
+    return candidates;
+}
+
+} // namespace kiv::app
