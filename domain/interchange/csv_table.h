@@ -3,6 +3,8 @@
 
 #include "interchange/text_decoding.h"
 
+#include <QtCore/QStringList>
+
 #include <vector>
 
 namespace kiv::interchange {
