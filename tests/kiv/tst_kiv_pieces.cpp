@@ -157,6 +157,15 @@ private slots:
         QVERIFY(app::displayWidth(app::elided(text, width)) <= width);
     }
 
+    void oneEndlessNameWidensNoOtherLine()
+    {
+        const QString endless(1'000'000, u'x');
+        const QString table =
+            app::tableText({}, {{{u"Rent"_s}, {u"1"_s}}, {{endless}, {u"2"_s}}}, app::Terminal());
+        QVERIFY(table.indexOf(u'\n') < 300);
+        QVERIFY(table.endsWith(endless + u"  2\n"_s));
+    }
+
 private:
     static accounting::Account account(std::uint32_t number, const QString &name,
                                        std::optional<std::uint32_t> parent)

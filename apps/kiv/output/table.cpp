@@ -9,6 +9,8 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int narrowest = 4;
+/// What is wider pushes the rest of its own line aside, and no other line's.
+constexpr int widestPadded = 200;
 
 struct Layout {
     std::vector<int> widths;
@@ -23,7 +25,7 @@ Layout naturalLayout(const QStringList &titles, const std::vector<std::vector<Ce
     for (std::size_t column = 0; column < count; ++column) {
         int width = titles.isEmpty() ? 0 : displayWidth(titles[static_cast<qsizetype>(column)]);
         for (const auto &row : rows) {
-            width = std::max(width, displayWidth(row[column].text));
+            width = std::max(width, std::min(widestPadded, displayWidth(row[column].text)));
             if (row[column].isNumber)
                 layout.areNumbers[column] = true;
         }
@@ -65,7 +67,7 @@ QString tableText(const QStringList &titles, const std::vector<std::vector<Cell>
         QString line;
         for (std::size_t column = 0; column < layout.widths.size(); ++column) {
             const int width = layout.widths[column];
-            const QString cell = elided(textOf(column), width);
+            const QString cell = terminal.width() ? elided(textOf(column), width) : textOf(column);
             const QString blanks(std::max(0, width - displayWidth(cell)), u' ');
             if (column > 0)
                 line += QString(gap, u' ');
