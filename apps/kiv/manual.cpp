@@ -60,7 +60,7 @@ QByteArray synopsis(const CLI::App &command, const QByteArray &path)
 void describe(const CLI::App &command, const QByteArray &path, QByteArray &manual)
 {
     const auto below = command.get_subcommands({});
-    if (below.empty()) {
+    if (command.get_require_subcommand_min() == 0) {
         manual += ".SS " + path + '\n' + synopsis(command, path) + "\n.PP\n" +
                   plain(command.get_description()) + ".\n";
         for (const CLI::Option *option : command.get_options()) {

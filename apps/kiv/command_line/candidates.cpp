@@ -146,6 +146,8 @@ Words choicesOf(const std::string &name, const Words &path)
         using enum banking::BankAccountTypes;
         return choices(Checking, Cash, named);
     }
+    if (name == "--format" && path.front() == "import")
+        return {"journal", "csv", "ofx", "qif"};
     if (name == "--format")
         return {"journal", "csv", "json"};
     if (name == "--currency" || name == "--preferred" || name == "--usable" || name == "CURRENCY" ||
@@ -160,8 +162,8 @@ Words choicesOf(const std::string &name, const Words &path)
 
 Words namesOf(const std::string &name, const Words &path, Session &session)
 {
-    constexpr std::array accounts{"ACCOUNT",        "FROM",    "TO",       "--account",
-                                  "--bank-account", "--debit", "--credit", "--under"};
+    constexpr std::array accounts{"ACCOUNT", "FROM",     "TO",      "--account", "--bank-account",
+                                  "--debit", "--credit", "--under", "--into",    "--against"};
     constexpr std::array kinds{"bill", "debt", "goal", "nontrack", "wage"};
     if (std::ranges::count(accounts, name) != 0)
         return accountNames(session);
