@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigator_requests.h"
 
+#include "support/fault.h"
+
 namespace kiv::test {
 
 using banking::Bank;
@@ -307,10 +309,16 @@ void configured(N &n, Change &&change)
 {
     navigation::ConfigurationData data;
     {
-        // Ends the connection, also when what is heard cannot be kept.
+        // Ends the connection, also when the request fails.
         const QObject view;
-        QObject::connect(&n, &Navigator::showConfigure, &view,
-                         [&](const auto &now) { data = now; });
+        const auto listen = [&] {
+            const Unwatched own;
+            QObject::connect(&n, &Navigator::showConfigure, &view, [&](const auto &now) {
+                const Unwatched alsoOwn;
+                data = now;
+            });
+        };
+        listen();
         n.onPrepareShowConfigure();
     }
     change(data);

@@ -57,7 +57,7 @@ const Deliberate mayStay[] = {
     {"^survey", "", {u"ledger"_qs, u"flag"_qs}},
     {"^file: (save|check)", "store rates", {u"file"_qs}},
     {"^network|rates", "store rates|send", {u"rates"_qs}},
-    {"^file: wizard|^configuration: store", "", {u"preferences"_qs}},
+    {"^file: wizard|^configuration: store|own window$", "", {u"preferences"_qs}},
 };
 /// Where a failure of a domain call is no failure of the request: an item whose
 /// account cannot be read counts as one without, and the log says so.
