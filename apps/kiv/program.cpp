@@ -34,11 +34,17 @@ int Program::run(const std::vector<std::string> &words)
     return refused;
 }
 
-std::unique_ptr<CLI::App> Program::commandTree()
+bool Program::needsArguments(std::string_view command) const
 {
-    const auto words = [](const char *text) { return QObject::tr(text).toStdString(); };
+    return m_words.empty() || std::ranges::find(m_words, command) != m_words.end();
+}
+
+std::unique_ptr<CLI::App> Program::commandTree(const std::vector<std::string> &words)
+{
+    m_words = words;
+    const auto translated = [](const char *text) { return QObject::tr(text).toStdString(); };
     auto app = std::make_unique<CLI::App>(
-        words(QT_TRANSLATE_NOOP(
+        translated(QT_TRANSLATE_NOOP(
             "QObject",
             "Keeps a household's budget: accounts, banks, bills, wages and what is due.")),
         "kiv");
@@ -47,16 +53,16 @@ std::unique_ptr<CLI::App> Program::commandTree()
          {QT_TRANSLATE_NOOP("QObject", "Usage"), QT_TRANSLATE_NOOP("QObject", "Positionals"),
           QT_TRANSLATE_NOOP("QObject", "REQUIRED"), QT_TRANSLATE_NOOP("QObject", "OPTIONS"),
           QT_TRANSLATE_NOOP("QObject", "SUBCOMMAND")})
-        app->get_formatter()->label(label, words(label));
-    app->option_defaults()->group(words(QT_TRANSLATE_NOOP("QObject", "Options")));
-    app->set_help_flag("-h,--help",
-                       words(QT_TRANSLATE_NOOP("QObject", "Print this help message and exit")));
+        app->get_formatter()->label(label, translated(label));
+    app->option_defaults()->group(translated(QT_TRANSLATE_NOOP("QObject", "Options")));
+    app->set_help_flag(
+        "-h,--help", translated(QT_TRANSLATE_NOOP("QObject", "Print this help message and exit")));
     app->require_subcommand(1);
     app->set_version_flag(
         "--version", "kiv " + QCoreApplication::applicationVersion().toStdString(),
-        words(QT_TRANSLATE_NOOP("QObject", "Display program version information and exit")));
+        translated(QT_TRANSLATE_NOOP("QObject", "Display program version information and exit")));
     app->footer(
-        words(QT_TRANSLATE_NOOP("QObject", "kiv COMMAND --help tells more about a command.")));
+        translated(QT_TRANSLATE_NOOP("QObject", "kiv COMMAND --help tells more about a command.")));
     Arguments arguments(*app, m_options);
     arguments.file()
         .flag("--json", m_options.isJson, QObject::tr("Print JSON for programs"))
@@ -70,7 +76,7 @@ bool Program::parse(const std::vector<std::string> &words, int &status)
 {
     m_options = Options{};
     m_command = nullptr;
-    const std::unique_ptr<CLI::App> app = commandTree();
+    const std::unique_ptr<CLI::App> app = commandTree(words);
     refuseUnknown(*app, words);
     try {
         // CLI11 takes the words from the back.

@@ -27,9 +27,10 @@ public:
     /// From now on no report is printed.
     void setSilent() noexcept { m_isSilent = true; }
 
-    /// All commands with their arguments. The arguments' values are this
-    /// program's, so it must outlive the tree.
-    [[nodiscard]] std::unique_ptr<CLI::App> commandTree();
+    /// All commands. With `words`, only those that stand among them have their
+    /// arguments, since a call reaches no other; without any, all have. The
+    /// arguments' values are this program's, so it must outlive the tree.
+    [[nodiscard]] std::unique_ptr<CLI::App> commandTree(const std::vector<std::string> &words = {});
     [[nodiscard]] Session &session() noexcept { return m_session; }
     [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
 
@@ -37,6 +38,8 @@ public:
 
     [[nodiscard]] Options &options() noexcept { return m_options; }
     void select(CommandKind kind, std::function<Report(Call &)> command);
+    /// Whether the command gets its arguments.
+    [[nodiscard]] bool needsArguments(std::string_view command) const;
 
 private:
     /// Tells whether there is a command to be executed; otherwise `status` is
@@ -52,6 +55,7 @@ private:
     Options m_options;
     CommandKind m_kind = CommandKind::Standalone;
     std::function<Report(Call &)> m_command;
+    std::vector<std::string> m_words; ///< what the tree is made for
     bool m_keepsSession = false;
     bool m_isSilent = false;
 };

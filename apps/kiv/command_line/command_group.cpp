@@ -32,6 +32,8 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
                                       const std::function<Report(Call &)> &run)
 {
     CLI::App *app = addTo(m_app, name, help);
+    if (!m_program.needsArguments(name))
+        return {*app, m_program};
     Options &options = m_program.options();
     Arguments arguments(*app, options);
     declare(arguments);
