@@ -44,10 +44,7 @@ QString plainDate(QString text)
 
 class QifReader {
 public:
-    QifReader(const QString &text, const QString &file, const QifOptions &options)
-        : m_lines(text, file), m_options(options)
-    {
-    }
+    QifReader(const QString &text, const QString &file) : m_lines(text, file) {}
 
     std::vector<Record> read()
     {
@@ -148,7 +145,6 @@ private:
     }
 
     LineCursor m_lines;
-    const QifOptions &m_options;
     Section m_section = Section::None;
     Record m_record;
     std::vector<Record> m_records;
@@ -247,7 +243,7 @@ private:
 Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions &options)
 {
     const QString text = decoded(bytes, file, options.encoding);
-    const std::vector<Record> records = QifReader(text, file, options).read();
+    const std::vector<Record> records = QifReader(text, file).read();
     const Place whole{file, 0};
     if (records.empty())
         throw faults::noStatement(whole);

@@ -127,16 +127,15 @@ private slots:
         const auto type = static_cast<AccountTypes>(6);
         const auto status = static_cast<TransactionStatuses>(3);
         Book book;
-        QVERIFY_EXCEPTION_THROWN(adding(newAccount(type, no(20)))(book), std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, adding(newAccount(type, no(20)))(book));
         const Transaction wrong =
             transfer(no(2), no(4), usd("1")).withStatuses(TransactionStatuses::None, status);
-        QVERIFY_EXCEPTION_THROWN(book.ledger.post(wrong), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(
-            static_cast<void>(book.ledger.lookUpChildren(no(1), static_cast<OpenStates>(0))),
-            std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(toQString(type)), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(isDebitNormal(AccountTypes::Unknown)),
-                                 std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, book.ledger.post(wrong));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(book.ledger.lookUpChildren(
+                                                       no(1), static_cast<OpenStates>(0))));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(toQString(type)));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error,
+                                 static_cast<void>(isDebitNormal(AccountTypes::Unknown)));
         QVERIFY(book.ledger == Book().ledger);
     }
 

@@ -153,7 +153,7 @@ private slots:
     {
         BankMap banks = twoBanks();
         QCOMPARE(dump(banks.bank(second)), u"2nd %1 [21=>credit card] closed"_qs);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(banks.bank(third)), BankError);
+        QVERIFY_THROWS_EXCEPTION(BankError, static_cast<void>(banks.bank(third)));
         QCOMPARE(banks.names(), (std::set{first, second}));
         QVERIFY(banks.hasBank(first) && !banks.hasBank(third));
         QCOMPARE(banks.find(no(21)), std::optional(second));

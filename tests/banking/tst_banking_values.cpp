@@ -34,10 +34,10 @@ private slots:
     void unknownTypesAreProgrammingErrors()
     {
         const auto unknown = static_cast<BankAccountTypes>(9);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(toAccountTypes(unknown)), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(isAssetAccount(unknown)), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(toQString(unknown)), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(presentationText(unknown)), std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(toAccountTypes(unknown)));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(isAssetAccount(unknown)));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(toQString(unknown)));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(presentationText(unknown)));
     }
 
     void accountsAreOrderedByBankNumberAndType()

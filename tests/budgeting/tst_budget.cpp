@@ -95,9 +95,9 @@ private slots:
         QCOMPARE(totals.wages(), usd("1000"));
         QCOMPARE(totals.outgoing(), usd("175"));
         QCOMPARE(totals.remaining(), usd("825"));
-        QVERIFY_EXCEPTION_THROWN(
-            BudgetTotals(budget, numira::toCurrency("EUR"), EventFrequency::Monthly),
-            numira::ConversionError);
+        QVERIFY_THROWS_EXCEPTION(
+            numira::ConversionError,
+            BudgetTotals(budget, numira::toCurrency("EUR"), EventFrequency::Monthly));
     }
 
     void whatIsDueComesInTheOrderOfItsDays()

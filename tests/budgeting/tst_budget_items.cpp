@@ -20,8 +20,8 @@ private slots:
             item<Bill>("Rent", usd(amount), EventFrequency::None, date);
         };
         make("0", day("2026-01-31"));
-        QVERIFY_EXCEPTION_THROWN(make("-0.01", day("2026-01-31")), BudgetItemError);
-        QVERIFY_EXCEPTION_THROWN(make("1", QDate()), BudgetItemError);
+        QVERIFY_THROWS_EXCEPTION(BudgetItemError, make("-0.01", day("2026-01-31")));
+        QVERIFY_THROWS_EXCEPTION(BudgetItemError, make("1", QDate()));
         QCOMPARE(item<Debt>("Loan", usd("1"), EventFrequency::Monthly, day("2026-01-31"), usd("-5"))
                      .borrowed(),
                  usd("-5"));
@@ -68,9 +68,9 @@ private slots:
         });
         QCOMPARE(toBudgetItemTypes(std::type_index(typeid(int))), BudgetItemTypes::None);
         for (const int value : {0, 6}) {
-            QVERIFY_EXCEPTION_THROWN(
-                visitItemClass(static_cast<BudgetItemTypes>(value), "unknown", [](auto) {}),
-                std::logic_error);
+            QVERIFY_THROWS_EXCEPTION(
+                std::logic_error,
+                visitItemClass(static_cast<BudgetItemTypes>(value), "unknown", [](auto) {}));
         }
     }
 
@@ -85,10 +85,10 @@ private slots:
         QCOMPARE(bill.nextOccurOn(), day("2026-03-31"));
 
         Bill never = item<Bill>("Gift", usd("1"), EventFrequency::None);
-        QVERIFY_EXCEPTION_THROWN(never.updateNextOccurOn(), kiv::foundation::Error);
+        QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error, never.updateNextOccurOn());
         QCOMPARE(never.nextOccurOn(), day("2026-01-31"));
         for (const int outside : {0, 32})
-            QVERIFY_EXCEPTION_THROWN(never.setDayOfMonth(outside), BudgetItemError);
+            QVERIFY_THROWS_EXCEPTION(BudgetItemError, never.setDayOfMonth(outside));
         QCOMPARE(never.dayOfMonth(), 31);
     }
 
@@ -114,8 +114,8 @@ private slots:
         const BudgetItemIdentifier unknown{static_cast<BudgetItemTypes>(7), source("Food")};
         QCOMPARE(presentationText(unknown), u"Food (7)"_qs);
         QCOMPARE(dump(unknown), u"Food (7)"_qs);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(presentationText(unknown.type)),
-                                 std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error,
+                                 static_cast<void>(presentationText(unknown.type)));
         QCOMPARE(dump(item<Debt>("Loan")),
                  u"Loan (debt) 10.00 USD monthly on 2026-01-31 day 31 borrowed 100.00 USD"_qs);
     }

@@ -98,11 +98,11 @@ private slots:
             static_cast<void>(nextOccurrence(frequency, date, 31));
         };
         using kiv::foundation::Error;
-        QVERIFY_EXCEPTION_THROWN(next(EventFrequency::None, day("2026-01-31")), Error);
-        QVERIFY_EXCEPTION_THROWN(next(EventFrequency::Monthly, QDate()), Error);
-        QVERIFY_EXCEPTION_THROWN(next(EventFrequency::Daily, day("9999-12-31")), Error);
-        QVERIFY_EXCEPTION_THROWN(next(EventFrequency::TwiceAMonth, day("9999-12-31")), Error);
-        QVERIFY_EXCEPTION_THROWN(next(EventFrequency::EveryTenYears, day("9990-01-31")), Error);
+        QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::None, day("2026-01-31")));
+        QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::Monthly, QDate()));
+        QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::Daily, day("9999-12-31")));
+        QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::TwiceAMonth, day("9999-12-31")));
+        QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::EveryTenYears, day("9990-01-31")));
     }
 
     void periodsBetweenDates_data()
@@ -236,7 +236,7 @@ private slots:
             [&] { static_cast<void>(isRarerThanMonthly(unknown)); },
         };
         for (const auto &use : uses)
-            QVERIFY_EXCEPTION_THROWN(use(), std::logic_error);
+            QVERIFY_THROWS_EXCEPTION(std::logic_error, use());
     }
 };
 

@@ -31,12 +31,12 @@ private slots:
         for (const char *rate : {"1e-12", "1", "1e12"})
             QCOMPARE(ConversionMap(usd, noon, {{eur, FloatingPoint(rate)}}).rates().size(), 1U);
         for (const char *rate : {"9.99e-13", "1.0000001e12", "0", "-0.92", "nan", "inf"}) {
-            QVERIFY_EXCEPTION_THROWN(ConversionMap(usd, noon, {{eur, FloatingPoint(rate)}}),
-                                     ConversionError);
+            QVERIFY_THROWS_EXCEPTION(ConversionError,
+                                     ConversionMap(usd, noon, {{eur, FloatingPoint(rate)}}));
         }
-        QVERIFY_EXCEPTION_THROWN(ConversionMap(Currency(), noon, {{eur, 1}}), ConversionError);
-        QVERIFY_EXCEPTION_THROWN(ConversionMap(usd, QDateTime(), {{eur, 1}}), ConversionError);
-        QVERIFY_EXCEPTION_THROWN(ConversionMap(usd, noon, {{usd, 2}}), ConversionError);
+        QVERIFY_THROWS_EXCEPTION(ConversionError, ConversionMap(Currency(), noon, {{eur, 1}}));
+        QVERIFY_THROWS_EXCEPTION(ConversionError, ConversionMap(usd, QDateTime(), {{eur, 1}}));
+        QVERIFY_THROWS_EXCEPTION(ConversionError, ConversionMap(usd, noon, {{usd, 2}}));
         QCOMPARE(ConversionMap(usd, noon, {{usd, 1}}).rates().size(), 1U);
     }
 
@@ -64,7 +64,7 @@ private slots:
         } catch (const ConversionError &error) {
             QCOMPARE(error.message(), u"There is no exchange rate from 'JPY' to 'GBP'."_s);
         }
-        QVERIFY_EXCEPTION_THROWN((void)ConversionMap().rate(usd, eur), ConversionError);
+        QVERIFY_THROWS_EXCEPTION(ConversionError, (void)ConversionMap().rate(usd, eur));
     }
 
     void aRateAndItsInverseGiveOne()

@@ -109,11 +109,11 @@ private slots:
 
     void periodsThatMakeNoSense()
     {
-        QVERIFY_EXCEPTION_THROWN(Period(day("2026-02-01"), day("2026-01-31")),
-                                 kiv::foundation::Error);
-        QVERIFY_EXCEPTION_THROWN(Period(day("2016-01-01"), day("2026-01-01")),
-                                 kiv::foundation::Error);
-        QVERIFY_EXCEPTION_THROWN(Period(QDate(), day("2026-01-01")), kiv::foundation::Error);
+        QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error,
+                                 Period(day("2026-02-01"), day("2026-01-31")));
+        QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error,
+                                 Period(day("2016-01-01"), day("2026-01-01")));
+        QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error, Period(QDate(), day("2026-01-01")));
         QCOMPARE(Period(day("2016-02-29"), day("2026-01-01")).months(), std::size_t{120});
     }
 

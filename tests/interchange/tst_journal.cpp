@@ -145,7 +145,7 @@ private slots:
         QFETCH(QByteArray, journal);
         QFETCH(QString, lines);
         if (lines.isEmpty()) { // the account is declared too late
-            QVERIFY_EXCEPTION_THROWN((void)readJournal(journal, u"j"_s, options()), ImportError);
+            QVERIFY_THROWS_EXCEPTION(ImportError, (void)readJournal(journal, u"j"_s, options()));
             journal = "account A  ; type: L\n" + journal;
             lines = u"2026-01-01 liability:A<equity:Equity EUR 2000.00 x; trip: yes --"_s;
         }

@@ -151,7 +151,7 @@ private slots:
         Books books;
         books.bankLedgers.close(bank("First"));
         QVERIFY(books.banks.bank(bank("First")).isClosed());
-        for (const std::uint32_t number : {1, 2, 3})
+        for (const std::uint32_t number : {1u, 2u, 3u})
             QVERIFY(books.ledger.ledger(no(number)).isClosed());
         books.ledger.open(code(2, ""));
         // An account that is open already ends it half-way.

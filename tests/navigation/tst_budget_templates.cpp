@@ -110,7 +110,7 @@ private slots:
     void refusesAChildAndTheUnknown()
     {
         for (const auto household : {BudgetWizardTemplates::Child, BudgetWizardTemplates(6)})
-            QVERIFY_EXCEPTION_THROWN((void)namesOf(household), std::logic_error);
+            QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)namesOf(household));
         QString text;
         QDebug(&text) << BudgetWizardTemplates::Child << BudgetWizardTemplates(6);
         QCOMPARE(text.trimmed(), u"Child Unknown budget template wizard value: 6"_s);

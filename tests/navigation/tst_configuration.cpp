@@ -153,21 +153,21 @@ private slots:
             QCOMPARE(toCurrencyFromDisplayable(QString(), usable, option), Currency());
             QCOMPARE(kiv::navigation::toCurrencyDisplayOptions(toQString(option)), option);
         }
-        QVERIFY_EXCEPTION_THROWN((void)toCurrencyFromDisplayable(u"€"_s, {jpy, usd}, Symbol),
-                                 std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error,
+                                 (void)toCurrencyFromDisplayable(u"€"_s, {jpy, usd}, Symbol));
     }
 
     void refusesUnknownOptionsAndTexts()
     {
         const auto unknown = CurrencyDisplayOptions(3);
         const auto euro = u"EUR"_s;
-        QVERIFY_EXCEPTION_THROWN((void)toDisplayable(eur, unknown), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN((void)toCurrencyFromDisplayable(euro, {eur}, unknown),
-                                 std::logic_error);
-        QVERIFY_EXCEPTION_THROWN((void)presentationText(unknown), std::logic_error);
-        QVERIFY_EXCEPTION_THROWN(
-            (void)toCurrencyFromDisplayable(u"eur"_s, {eur}, CurrencyDisplayOptions::IsoCode),
-            numira::UnknownCurrency);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)toDisplayable(eur, unknown));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error,
+                                 (void)toCurrencyFromDisplayable(euro, {eur}, unknown));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)presentationText(unknown));
+        QVERIFY_THROWS_EXCEPTION(
+            numira::UnknownCurrency,
+            (void)toCurrencyFromDisplayable(u"eur"_s, {eur}, CurrencyDisplayOptions::IsoCode));
         try {
             (void)kiv::navigation::toCurrencyDisplayOptions(u"symbol"_s);
             QFAIL("Case matters.");

@@ -134,8 +134,8 @@ void NavigatorEffects::failedLoadChangesNothing()
     desk.disk->files.insert_or_assign(QStringLiteral("broken.budget"), broken);
     addBill(desk, "Gas");
 
-    QVERIFY_EXCEPTION_THROWN(desk.navigator->onConfirmedLoadBudgetFile(path, false),
-                             foundation::Error);
+    QVERIFY_THROWS_EXCEPTION(foundation::Error,
+                             desk.navigator->onConfirmedLoadBudgetFile(path, false));
     QVERIFY(!desk.take().join(u'\n').contains(QStringLiteral("loadedBudgetFile")));
     QVERIFY(desk.isChanged());
     // Saving still goes to the file that is open, with its tags.
@@ -150,7 +150,7 @@ void NavigatorEffects::failedReloadLeavesAnEmptyBudget()
     Desk desk;
     desk.furnish();
     breakAccess(desk, QStringLiteral("load budget"));
-    QVERIFY_EXCEPTION_THROWN(desk.navigator->onReloadBudgetFile(), storage::StorageError);
+    QVERIFY_THROWS_EXCEPTION(storage::StorageError, desk.navigator->onReloadBudgetFile());
     desk.disk->before = [](const QString &) {};
     desk.navigator->onReloadBudgetFile();
     QCOMPARE(desk.take().last(), QStringLiteral("showNoBudgetFileOpened()"));
@@ -175,7 +175,7 @@ void NavigatorEffects::failedSaveLeavesTheBudgetChanged()
     addBill(desk, "Gas");
     breakAccess(desk, broken);
     const QString other = QStringLiteral("other.budget");
-    QVERIFY_EXCEPTION_THROWN(desk.navigator->onSaveAsBudgetFile(other), storage::StorageError);
+    QVERIFY_THROWS_EXCEPTION(storage::StorageError, desk.navigator->onSaveAsBudgetFile(other));
     QVERIFY(desk.isChanged());
     QCOMPARE(desk.disk->files.contains(other), isStored);
     // The next save goes where the budget is.
@@ -276,9 +276,8 @@ void NavigatorEffects::whatAReceiverThrowsIsNoFailure()
     (void)desk.take();
     connect(desk.navigator.get(), &Navigator::bankSaveSucceeded, this,
             [] { throw foundation::Error(QStringLiteral("The view is broken.")); });
-    QVERIFY_EXCEPTION_THROWN(
-        desk.navigator->onBankAdded(banking::Bank(bankName("First"), {}, false)),
-        foundation::Error);
+    QVERIFY_THROWS_EXCEPTION(foundation::Error, desk.navigator->onBankAdded(
+                                                    banking::Bank(bankName("First"), {}, false)));
     QCOMPARE(desk.take(),
              texts({"- Successfully added bank First []", "bankSaveSucceeded(First) *"}));
     QVERIFY(desk.isChanged());

@@ -77,10 +77,10 @@ void NavigatorWiring::theFirstNavigatorConvertsForTheProcess()
     second.reset();
     QCOMPARE(oneDollarInEuros(), money("EUR", "0.50"));
     first.reset();
-    QVERIFY_EXCEPTION_THROWN(oneDollarInEuros(), foundation::Error);
+    QVERIFY_THROWS_EXCEPTION(foundation::Error, oneDollarInEuros());
     // For ever: another one does not step in.
     const Desk third;
-    QVERIFY_EXCEPTION_THROWN(oneDollarInEuros(), foundation::Error);
+    QVERIFY_THROWS_EXCEPTION(foundation::Error, oneDollarInEuros());
 }
 
 void NavigatorWiring::metaObjectListsTheInterface()

@@ -77,7 +77,7 @@ Data fullBudget()
     for (int i = 2; i < 65'535; ++i)
         data.generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), accounting::AccountNumber(1),
                                  accounting::AccountNumber(2),
-                                 numira::Money(usd, std::uint64_t(i), 0),
+                                 numira::Money(usd, std::int64_t(i), 0),
                                  QStringLiteral("shopping")});
     return data;
 }

@@ -39,7 +39,7 @@ struct Versions {
                                       generator);
         for (int i = 0; i < transactions; ++i)
             data[0].generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), account(1), account(2),
-                                        numira::Money(usd, std::uint64_t(i + 1), 0),
+                                        numira::Money(usd, std::int64_t(i + 1), 0),
                                         QStringLiteral("shopping")});
         data[1] = data[0];
         data[1].banks.add(banking::Bank(banking::BankName(QStringLiteral("Second")), {}, false));

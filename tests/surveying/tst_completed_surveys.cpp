@@ -62,8 +62,8 @@ private slots:
         QCOMPARE(completed.nonDistributed(), money("EUR", "0"));
         QVERIFY(!completed.reconciled().reconciledOn());
         const CompletedSurvey before = completed;
-        QVERIFY_EXCEPTION_THROWN(completed.completed(QDate(), usd("1"), {}, usd("1"), {}),
-                                 SurveyError);
+        QVERIFY_THROWS_EXCEPTION(SurveyError,
+                                 completed.completed(QDate(), usd("1"), {}, usd("1"), {}));
         QCOMPARE(completed, before);
         const kiv::foundation::Percentage window(2.75, 6);
         completed.completed(day("2026-01-31"), usd("5"), {{tax, {}}}, usd("3"), window);

@@ -46,7 +46,7 @@ private slots:
         amount += usd("2.50");
         amount -= usd("10");
         QCOMPARE(amount, DistributedAmount(usd("-2.50"), date, usd("60")));
-        QVERIFY_EXCEPTION_THROWN(amount += money("EUR", "1"), numira::ConversionError);
+        QVERIFY_THROWS_EXCEPTION(numira::ConversionError, amount += money("EUR", "1"));
         QCOMPARE(amount.distributed(), usd("-2.50"));
         amount = money("EUR", "7");
         QCOMPARE(amount, DistributedAmount(money("EUR", "7"), date, usd("60")));
@@ -70,9 +70,9 @@ private slots:
             QVERIFY(!distributable(BudgetItemTypes::Wage));
             QVERIFY(!distributable(BudgetItemTypes::None));
         }
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(isDistributable(static_cast<BudgetItemTypes>(6),
-                                                                   EventFrequency::Yearly)),
-                                 std::logic_error);
+        QVERIFY_THROWS_EXCEPTION(std::logic_error,
+                                 static_cast<void>(isDistributable(static_cast<BudgetItemTypes>(6),
+                                                                   EventFrequency::Yearly)));
     }
 
     void noChangeOfABalanceIsNegative()
@@ -81,8 +81,8 @@ private slots:
         using kiv::foundation::Error;
         const Changes changes({{no(1), usd("0")}}, {{no(1), usd("2.50")}, {no(2), usd("1")}});
         QCOMPARE(dump(changes), u"(+ 1=>0.00 USD, - 1=>2.50 USD, - 2=>1.00 USD)"_qs);
-        QVERIFY_EXCEPTION_THROWN(Changes({{no(1), usd("-0.01")}}, {}), Error);
-        QVERIFY_EXCEPTION_THROWN(Changes({}, {{no(1), usd("-0.01")}}), Error);
+        QVERIFY_THROWS_EXCEPTION(Error, Changes({{no(1), usd("-0.01")}}, {}));
+        QVERIFY_THROWS_EXCEPTION(Error, Changes({}, {{no(1), usd("-0.01")}}));
     }
 };
 

@@ -80,8 +80,8 @@ private slots:
         QCOMPARE(SemanticVersion(1, 2, 3, u"rc.1"_s, u"5"_s),
                  SemanticVersion::fromText(u"1.2.3-rc.1+5"_s));
         for (const QString &preRelease : {u"rc+5"_s, QString(), u"01"_s})
-            QVERIFY_EXCEPTION_THROWN(SemanticVersion(1, 2, 3, preRelease), UpdateError);
-        QVERIFY_EXCEPTION_THROWN(SemanticVersion(1, 2, 3, std::nullopt, u"a+b"_s), UpdateError);
+            QVERIFY_THROWS_EXCEPTION(UpdateError, SemanticVersion(1, 2, 3, preRelease));
+        QVERIFY_THROWS_EXCEPTION(UpdateError, SemanticVersion(1, 2, 3, std::nullopt, u"a+b"_s));
     }
 };
 

@@ -49,6 +49,10 @@ struct Recode {
     }
 };
 
+// clang deduces the arguments of aggregates only from 17 on.
+template <typename Answers, typename Slot>
+Recode(Answers, Slot, QString) -> Recode<Answers>;
+
 /// A command that asks one thing of an account. The sentence tells its code.
 template <typename Answers>
 struct AccountVerb {
@@ -69,6 +73,8 @@ struct AccountVerb {
                              sentence.arg(accounting::presentationText(code)));
     }
 };
+template <typename Answers, typename Slot>
+AccountVerb(Answers, Slot, QString) -> AccountVerb<Answers>;
 
 /// Moves the transaction that opened the account to another day than today, on
 /// which it was posted.
