@@ -75,6 +75,7 @@ struct CompleteWords {
     Report run(Call &call) const
     {
         std::vector<std::string> before;
+        before.reserve(words.size());
         for (const QString &word : words)
             before.push_back(word.toStdString());
         std::string begun;
