@@ -43,13 +43,6 @@ void requireNoBankAccount(const std::optional<banking::BankAccount> &ba, const c
             .toStdString());
 }
 
-/// A view may change the budget while it draws itself; what it draws stays.
-template <typename Items>
-Items copied(const Items &items)
-{
-    return items;
-}
-
 /// What all five views show besides the items.
 struct ViewBasics {
     numira::Currency preferred;
@@ -76,14 +69,14 @@ struct ViewBasics {
 void Navigator::onPrepareShowBills()
 {
     const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Bill);
-    emit showBills(copied(m_budgetBankLedgers->budget().bills), view.preferred, view.possibleTags,
-                   view.associatedTags, view.usableCurrencies, view.displayAs);
+    emit showBills(internal::copied(m_budgetBankLedgers->budget().bills), view.preferred,
+                   view.possibleTags, view.associatedTags, view.usableCurrencies, view.displayAs);
 }
 
 void Navigator::onPrepareShowDebts()
 {
     const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Debt);
-    emit showDebts(copied(m_budgetBankLedgers->budget().debts),
+    emit showDebts(internal::copied(m_budgetBankLedgers->budget().debts),
                    m_budgetBankLedgers->budgetBankAccounts(BudgetItemTypes::Debt),
                    m_budgetBankLedgers->generalLedger().accountCodes(),
                    m_budgetBankLedgers->bankNames(), view.preferred, view.possibleTags,
@@ -95,7 +88,7 @@ void Navigator::onPrepareShowGoals()
     const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Goal);
     const numira::Money wagesTotal = m_budgetBankLedgers->budget().wages.total(
         view.preferred, budgeting::EventFrequency::Monthly);
-    emit showGoals(copied(m_budgetBankLedgers->budget().goals),
+    emit showGoals(internal::copied(m_budgetBankLedgers->budget().goals),
                    m_budgetBankLedgers->budgetBankAccounts(BudgetItemTypes::Goal),
                    m_budgetBankLedgers->generalLedger().accountCodes(),
                    m_budgetBankLedgers->bankNames(), view.preferred, view.possibleTags,
@@ -105,7 +98,7 @@ void Navigator::onPrepareShowGoals()
 void Navigator::onPrepareShowNontracks()
 {
     const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Nontrack);
-    emit showNontracks(copied(m_budgetBankLedgers->budget().nontracks), view.preferred,
+    emit showNontracks(internal::copied(m_budgetBankLedgers->budget().nontracks), view.preferred,
                        view.possibleTags, view.associatedTags, view.usableCurrencies,
                        view.displayAs);
 }
@@ -113,8 +106,8 @@ void Navigator::onPrepareShowNontracks()
 void Navigator::onPrepareShowWages()
 {
     const ViewBasics view(m_preferences, m_tagManager, BudgetItemTypes::Wage);
-    emit showWages(copied(m_budgetBankLedgers->budget().wages), view.preferred, view.possibleTags,
-                   view.associatedTags, view.usableCurrencies, view.displayAs);
+    emit showWages(internal::copied(m_budgetBankLedgers->budget().wages), view.preferred,
+                   view.possibleTags, view.associatedTags, view.usableCurrencies, view.displayAs);
 }
 
 // ---- changing ----------------------------------------------------------------

@@ -51,7 +51,7 @@ void Navigator::onFetchExchangeRates(const std::set<numira::Currency> &currencie
     // Waiting runs the event loop, in which anything may happen, also the end
     // of this Navigator.
     const QPointer<Navigator> self(this);
-    const std::set<numira::Currency> wanted = currencies;
+    const std::set<numira::Currency> wanted = internal::copied(currencies);
     const conversion::ConversionMap fetched = fetchRates(wanted);
     if (self)
         emit fetchedExchangeRates(wanted, fetched);

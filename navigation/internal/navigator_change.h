@@ -20,6 +20,14 @@ inline QString userText(const std::exception &error)
     return QString::fromUtf8(error.what());
 }
 
+/// A view may change the budget, or whatever it handed in, while it draws itself
+/// or a slot waits; the copy stays.
+template <typename Value>
+Value copied(const Value &value)
+{
+    return value;
+}
+
 } // namespace internal
 
 template <typename Caught, typename Operation, typename Failure>
