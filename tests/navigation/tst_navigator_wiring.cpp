@@ -76,6 +76,8 @@ void NavigatorWiring::theFirstNavigatorConvertsForTheProcess()
     QCOMPARE(oneDollarInEuros(), money("EUR", "0.50"));
     second.reset();
     QCOMPARE(oneDollarInEuros(), money("EUR", "0.50"));
+    delete first->navigator->findChild<conversion::OpenExchangeRatesSource *>();
+    QVERIFY_THROWS_EXCEPTION(foundation::Error, oneDollarInEuros());
     first.reset();
     QVERIFY_THROWS_EXCEPTION(foundation::Error, oneDollarInEuros());
     // For ever: another one does not step in.
