@@ -14,23 +14,24 @@ inline std::string logText(const std::exception &error)
     return foundation::escapedUtf8(QString::fromUtf8(error.what()));
 }
 
-/// Writes a warning: a fixed sentence, and the error's text. When there is no
-/// memory for it, the error itself matters more than its line.
+/// Writes a warning: a fixed sentence, and the error's text. When the line cannot be
+/// written, for want of memory or by the front end's own handler, the error itself
+/// matters more than its line.
 inline void logWarning(const char *sentence, const std::exception &error) noexcept
 {
     try {
         qWarning() << sentence << logText(error).c_str();
-    } catch (const std::bad_alloc &) {
+    } catch (...) {
     }
 }
 
-/// Writes what was done. It is done whether or not there is memory for the line.
+/// Writes what was done. It is done whether or not the line can be written.
 template <typename... Parts>
 void logDone(const Parts &...parts) noexcept
 {
     try {
         (qInfo() << ... << parts);
-    } catch (const std::bad_alloc &) {
+    } catch (...) {
     }
 }
 
