@@ -8,24 +8,21 @@
 #include "storage/rates_file.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QStandardPaths>
 
 #include <iostream>
 
 using namespace kiv;
-using navigation::Navigator;
+using namespace kiv::budgeting;
+using namespace kiv::navigation;
 
-/// Shows a text to the user; a desktop front end opens a dialog.
 static void show(const QString &text)
 {
     std::cout << text.toStdString() << std::endl;
 }
 
-/// Loading and saving throw what went wrong with the file. An exception that
-/// left the event loop would end the program; shown here, it costs nothing: the
-/// budget in memory is still there.
-class Application final : public QCoreApplication {
-public:
+/// Loading and saving throw what went wrong with the file. Leaving the event loop it would
+/// end the program; shown here, it costs nothing: the budget in memory is still there.
+struct Application final : QCoreApplication {
     using QCoreApplication::QCoreApplication;
     bool notify(QObject *receiver, QEvent *event) override
     try {
@@ -40,38 +37,30 @@ int main(int argc, char **argv)
 {
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("kiv-example")); // names the settings
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     Navigator navigator(std::make_unique<networking::HttpRequestSender>(),
                         std::make_unique<storage::BudgetFile>(),
-                        std::make_unique<storage::RatesFile>(folder + QStringLiteral("/rates")));
+                        std::make_unique<storage::RatesFile>(QStringLiteral("kiv-example.rates")));
 
-    // The views listen: one to what it draws, one to each answer to a change.
-    QObject::connect(&navigator, &Navigator::showBills, [](const budgeting::BillMap &bills) {
+    // Views listen: to what they draw, and to each answer to a change.
+    QObject::connect(&navigator, &Navigator::showBills, [](const BillMap &bills) {
         for (const auto &[source, bill] : bills)
             show(source.name() + u' ' + foundation::presentationText(bill.amount()));
     });
-    QObject::connect(&navigator, &Navigator::saveSucceeded, &navigator,
-                     &Navigator::onPrepareShowBills);
+    QObject::connect(&navigator, &Navigator::saveSucceeded, &Navigator::onPrepareShowBills);
     QObject::connect(&navigator, &Navigator::saveFailed,
                      [](auto, const auto &, const QString &message) { show(message); });
     QObject::connect(&navigator, &Navigator::savedBudgetFile, &show);
 
-    // What a user does comes through the event loop, under its guard.
-    const auto later = [&navigator](auto action) {
-        QMetaObject::invokeMethod(&navigator, action, Qt::QueuedConnection);
-    };
-    const budgeting::Bill rent(budgeting::BudgetSource(QStringLiteral("Rent")),
-                               numira::toMoney(numira::toCurrency("USD"), "850.00"),
-                               budgeting::EventFrequency::Monthly, QDate(2026, 12, 1));
-    const auto addRent = [&] {
-        constexpr auto kind = budgeting::BudgetItemTypes::Bill;
-        navigator.onAdded(navigation::GuiElementIdentifier(1), kind, rent, std::nullopt,
-                          tagging::BudgetItemTags::ItemTags({kind, rent.source()}));
-    };
-    later(addRent);
-    later(addRent); // is refused: there is one of this name
+    const Bill rent(BudgetSource(QStringLiteral("Rent")),
+                    numira::toMoney(numira::toCurrency("USD"), "850.00"), EventFrequency::Monthly,
+                    QDate(2026, 12, 1));
+    const tagging::BudgetItemTags::ItemTags noTags({BudgetItemTypes::Bill, rent.source()});
+    for (const int element : {1, 2}) // the second is refused: there is one of this name
+        navigator.onAdded(GuiElementIdentifier(element), BudgetItemTypes::Bill, rent, {}, noTags);
+    // What may throw comes through the event loop, under its guard, as all does from a view.
     for (const QString &path : Application::arguments().mid(1))
-        later([&navigator, path] { navigator.onSaveAsBudgetFile(path); });
-    later(&Application::quit);
+        QMetaObject::invokeMethod(&navigator, "onSaveAsBudgetFile", Qt::QueuedConnection,
+                                  Q_ARG(QString, path));
+    QMetaObject::invokeMethod(&application, &Application::quit, Qt::QueuedConnection);
     return Application::exec();
 }
