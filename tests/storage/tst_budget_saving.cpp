@@ -18,6 +18,26 @@ using Data = storage::BudgetStorage::Data;
 
 namespace {
 
+/// Is another user for a while when it is root, for whom nothing is forbidden.
+class Nobody {
+public:
+    Nobody() : m_before(::geteuid())
+    {
+        if (m_before == 0 && ::seteuid(65'534) != 0)
+            qFatal("Root cannot be somebody else.");
+    }
+    ~Nobody()
+    {
+        if (::seteuid(m_before) != 0)
+            qFatal("The user cannot come back.");
+    }
+    Nobody(const Nobody &) = delete;
+    Nobody &operator=(const Nobody &) = delete;
+
+private:
+    uid_t m_before;
+};
+
 /// A budget with a bank of that name, by which it is known again.
 Data budget(const QString &bank)
 {
@@ -42,6 +62,8 @@ private slots:
     void refusedFilesStayAndTheOpenOneStaysOpen();
     void otherFilesAreNotOverwritten_data();
     void otherFilesAreNotOverwritten();
+    void whatMayNotBeWrittenStays_data();
+    void whatMayNotBeWrittenStays();
     void whatCouldNotBeLoadedIsNotSaved();
     void aFileInUseIsLocked();
     void whatAnotherProgramChangedIsNotOverwritten();
@@ -191,6 +213,65 @@ void BudgetSavingTest::otherFilesAreNotOverwritten()
     }
 }
 
+void BudgetSavingTest::whatMayNotBeWrittenStays_data()
+{
+    QTest::addColumn<uint>("folderMode");
+    QTest::addColumn<uint>("fileMode");
+    QTest::addColumn<QString>("reading");
+    QTest::addColumn<QString>("saving");
+    const QString unwritten = u"The file '%1' could not be saved: Permission denied."_qs;
+    const QString unread = u"The file '%1' could not be read: Permission denied."_qs;
+    QTest::newRow("folder") << 0555U << 0666U << QString() << unwritten;
+    QTest::newRow("file") << 0777U << 0444U << QString() << unwritten;
+    QTest::newRow("file that hides") << 0777U << 0222U << unread << unread;
+    QTest::newRow("folder that hides") << 0333U << 0666U << QString() << unwritten;
+    QTest::newRow("closed folder") << 0666U << 0666U << unread << unread;
+}
+
+void BudgetSavingTest::whatMayNotBeWrittenStays()
+{
+    QFETCH(uint, folderMode);
+    QFETCH(uint, fileMode);
+    QFETCH(QString, reading);
+    QFETCH(QString, saving);
+    m_file.emplace(); // locks nothing any more
+    const QStringList names = m_folder->names();
+    const QByteArray before = m_folder->read(u"home.budget"_qs);
+    const auto setModes = [this](uint folder, uint file) {
+        ::chmod(qPrintable(m_path), file);
+        ::chmod(qPrintable(m_folder->path(u"."_qs)), folder);
+    };
+    const auto said = [this](auto task) {
+        try {
+            m_file->setFilePathName(m_path);
+            task();
+        } catch (const storage::StorageError &error) {
+            return error.what() == nullptr ? QString() : QString::fromUtf8(error.what());
+        }
+        return QString();
+    };
+    QString saidOnReading;
+    QString saidOnSaving;
+    setModes(folderMode, fileMode);
+    {
+        const Nobody nobody;
+        saidOnReading = said([this] { (void)m_file->load(); });
+        saidOnSaving = said([this] { m_file->store(budget(u"Second"_qs)); });
+    }
+    setModes(0777, 0666);
+    const auto expected = [this](const QString &text) {
+        return text.contains(u'%') ? text.arg(m_path) : text;
+    };
+    QCOMPARE(saidOnReading, expected(reading));
+    QCOMPARE(saidOnSaving, expected(saving));
+    m_file.emplace();
+    QCOMPARE(m_folder->names(), names);
+    QCOMPARE(m_folder->read(u"home.budget"_qs), before);
+    const Nobody nobody;
+    QCOMPARE(loading(m_path), std::nullopt);
+    QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
+}
+
 void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
 {
     const QByteArray before = m_folder->read(u"home.budget"_qs);
@@ -326,12 +407,13 @@ void BudgetSavingTest::foreignJournalsAreLeftAlone()
 {
     const QStringList planted{u"home.budget-journal"_qs, u"home.budget-shm"_qs,
                               u"home.budget-wal"_qs};
+    const QByteArray journal = QByteArray::fromHex("d9d505f920a163d7") + QByteArray(600, 'j');
     for (const QString &name : planted)
-        m_folder->write(name, QByteArray::fromHex("d9d505f920a163d7") + QByteArray(600, 'j'));
+        m_folder->write(name, journal);
     QCOMPARE(bankIn(m_file->load()), u"First"_qs);
     QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
     for (const QString &name : planted)
-        QCOMPARE(m_folder->read(name).size(), 608);
+        QCOMPARE(m_folder->read(name), journal);
 }
 
 void BudgetSavingTest::aLimitOfFileSizeIsAnError()

@@ -144,6 +144,7 @@ private slots:
     void everyFailureLeavesAWholeFile_data();
     void everyFailureLeavesAWholeFile();
     void lyingCallsAreFoundOut();
+    void aFileThatChangesMeanwhileIsNotOverwritten_data();
     void aFileThatChangesMeanwhileIsNotOverwritten();
 };
 
@@ -176,14 +177,18 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile()
 
 void SaveFaultsTest::lyingCallsAreFoundOut()
 {
-    // A write that is cut short goes on; what reads back otherwise is not saved.
+    // A write that is cut short goes on, for as long as anything is taken; what
+    // reads back otherwise is not saved.
     using storage::StorageFailure;
-    for (const auto &[call, expected] :
-         {std::pair("write", std::optional<StorageFailure>()),
-          std::pair("pread", std::optional(StorageFailure::CannotWrite))}) {
+    const std::optional<StorageFailure> cannot = StorageFailure::CannotWrite;
+    const std::optional<StorageFailure> none;
+    for (const auto &[call, times, expected] :
+         {std::tuple("write", 1, none), std::tuple("write", 1000, cannot),
+          std::tuple("pread", 1, cannot)}) {
         test::FailingCalls lying;
         lying.name = call;
-        lying.from = lying.times = 1;
+        lying.from = 1;
+        lying.times = times;
         QCOMPARE(brokenPromise(&Desk::save, lying), QString());
 
         Desk desk;
@@ -195,18 +200,37 @@ void SaveFaultsTest::lyingCallsAreFoundOut()
     }
 }
 
+void SaveFaultsTest::aFileThatChangesMeanwhileIsNotOverwritten_data()
+{
+    using Change = std::function<void(const Desk &)>;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QByteArray>("left");
+    QTest::newRow("written to") << Change([](const Desk &d) { d.folder.write(name, bytesOf(4)); })
+                                << bytesOf(4);
+    QTest::newRow("replaced") << Change([](const Desk &d) {
+        d.folder.write(u"other"_qs, bytesOf(4));
+        std::rename(qPrintable(d.folder.path(u"other"_qs)), qPrintable(d.path));
+    }) << bytesOf(4);
+    QTest::newRow("replaced by the same") << Change([](const Desk &d) {
+        QFile::remove(d.path);
+        d.folder.write(name, bytesOf(2));
+    }) << bytesOf(2);
+}
+
 void SaveFaultsTest::aFileThatChangesMeanwhileIsNotOverwritten()
 {
+    QFETCH(std::function<void(const Desk &)>, change);
+    QFETCH(QByteArray, left);
     Desk desk;
     failingCalls = {};
     failingCalls.name = "fsync"; // of the new version, before the old one is replaced
     failingCalls.from = failingCalls.times = 1;
-    failingCalls.meanwhile = [&] { desk.folder.write(name, bytesOf(4)); };
+    failingCalls.meanwhile = [&] { change(desk); };
     failingCalls.isOn = true;
     const auto failure = test::failureOf([&] { desk.save(3); });
     failingCalls = {};
     QCOMPARE(failure, storage::StorageFailure::ChangedOnDisk);
-    QCOMPARE(desk.folder.read(name), bytesOf(4));
+    QCOMPARE(desk.folder.read(name), left);
     QCOMPARE(desk.folder.names(), (QStringList{name, name + QStringLiteral(".backup-1"),
                                                name + QStringLiteral(".lock")}));
 }

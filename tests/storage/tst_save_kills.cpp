@@ -166,6 +166,7 @@ private slots:
     void aKillAtAnyMomentLeavesAWholeFile_data();
     void aKillAtAnyMomentLeavesAWholeFile();
     void aKilledProgramLeavesAWholeFile();
+    void theLockOfAKilledProgramIsNone();
 
 private:
     /// The exit status of the rig that starts whole programs.
@@ -252,6 +253,26 @@ void SaveKillsTest::aKillAtAnyMomentLeavesAWholeFile()
 void SaveKillsTest::aKilledProgramLeavesAWholeFile()
 {
     QCOMPARE(kill(u"save"_qs, 30), 0);
+}
+
+void SaveKillsTest::theLockOfAKilledProgramIsNone()
+{
+    const test::ScratchFolder folder(Versions::place());
+    const QString path = folder.path(name);
+    const QString program = QStringLiteral(BUDGET_SAVER);
+    QProcess saver;
+    saver.start(program, {u"save"_qs, path});
+    QVERIFY(saver.waitForReadyRead());
+    QProcess other;
+    other.start(program, {u"check"_qs, path});
+    QVERIFY(other.waitForFinished());
+    QCOMPARE(other.exitCode(), 1);
+    QVERIFY(other.readAllStandardError().contains("in use by another program (process " +
+                                                  QByteArray::number(saver.processId()) + ','));
+    saver.kill();
+    QVERIFY(saver.waitForFinished());
+    QVERIFY(QFile::exists(path + u".lock"_qs));
+    QCOMPARE(QProcess::execute(program, {u"check"_qs, path}), 0);
 }
 
 QTEST_APPLESS_MAIN(SaveKillsTest)
