@@ -5,6 +5,9 @@
 
 #include "foundation/presentation.h"
 
+#include <limits>
+#include <numeric>
+
 namespace kiv::interchange {
 
 using accounting::Account;
@@ -72,7 +75,7 @@ private:
     {
         while (!number || m_taken.contains(*number))
             number = AccountNumber(++m_last);
-        const AccountCode code(*number, names.back(), parent);
+        AccountCode code(*number, names.back(), parent);
         m_taken.insert(*number);
         m_byPath.emplace(pathOf(type, names), Known{code, currency});
         m_missing.emplace_back(type, code, numira::Money(currency), false);
@@ -91,13 +94,16 @@ AccountPlan planAccounts(const Draft &draft, const std::set<Account> &existing)
     Planner planner(existing);
     AccountPlan plan;
     plan.codes.resize(draft.accounts.size());
-    // Who asks for a number gets it before the others take it as the next one.
-    for (const bool isNumbered : {true, false}) {
-        for (std::size_t at = 0; at < draft.accounts.size(); ++at) {
-            if (draft.accounts[at].number.has_value() == isNumbered)
-                plan.codes[at] = planner.codeOf(draft.accounts[at]);
-        }
-    }
+    // Who asks for a number gets it before the others take it as the next one, and
+    // a parent before it is opened for its child.
+    std::vector<std::size_t> order(draft.accounts.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, {}, [&draft](std::size_t at) {
+        const DraftAccount &account = draft.accounts[at];
+        return account.number ? account.names.size() : std::numeric_limits<qsizetype>::max();
+    });
+    for (const std::size_t at : order)
+        plan.codes[at] = planner.codeOf(draft.accounts[at]);
     plan.missing = std::move(planner.m_missing);
     return plan;
 }

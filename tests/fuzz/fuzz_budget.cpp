@@ -9,6 +9,7 @@
 #include "storage/scratch_folder.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
+#include <sqlite3.h>
 
 #include <random>
 
@@ -36,6 +37,8 @@ const QByteArray &wholeFile(unsigned seed)
 /// A copy of the image in memory.
 void open(SQLite::Database &database, const QByteArray &image)
 {
+    if (image.isEmpty())
+        return;
     auto *copy = static_cast<unsigned char *>(sqlite3_malloc64(std::size_t(image.size())));
     std::memcpy(copy, image.constData(), std::size_t(image.size()));
     sqlite3_deserialize(database.getHandle(), "main", copy, image.size(), image.size(),

@@ -46,8 +46,7 @@ public:
         case 8:
             return n.onPostRefund(number(), amount());
         case 9:
-            return n.onBankUpdated(
-                {bank(), {{no(pick(12)), kind()}, {no(pick(12)), kind()}}, false});
+            return n.onBankUpdated({bank(), {{anyNumber(), kind()}, {anyNumber(), kind()}}, false});
         case 10:
             return n.onBankRenamed(bank(), bank());
         case 11:
@@ -58,7 +57,7 @@ public:
             return n.onPostBudgetItemPostedUnexpected({BudgetItemTypes(1 + pick(5)), name(), {}},
                                                       amount(), account(), date());
         case 14:
-            return n.onCompletedSurvey(date(), {bank(), {no(pick(12)), kind()}}, amount(),
+            return n.onCompletedSurvey(date(), {bank(), {anyNumber(), kind()}}, amount(),
                                        {number(), number()}, {}, {}, {}, amount());
         default:
             return rows.at(std::size_t(pick(int(rows.size())))).second(n);
@@ -73,10 +72,10 @@ private:
                                             "Car",  "",       "Checking"};
         return source(names[pick(7)]);
     }
+    accounting::AccountNumber anyNumber() { return no(std::uint32_t(pick(12))); }
     accounting::AccountCode account()
     {
-        return {no(std::uint32_t(pick(12))), name().name(),
-                pick(3) ? std::nullopt : std::optional(no(std::uint32_t(pick(12))))};
+        return {anyNumber(), name().name(), pick(3) ? std::nullopt : std::optional(anyNumber())};
     }
     accounting::TransactionNumber number() { return txn(std::uint16_t(pick(12))); }
     banking::BankName bank() { return bankName(pick(2) ? "First" : "Second"); }
@@ -85,13 +84,10 @@ private:
     numira::Money amount()
     {
         return {numira::toCurrency(pick(4) ? "USD" : "EUR"),
-                std::uint64_t(m_bytes.ConsumeIntegral<std::uint32_t>() >> pick(32)), 0,
-                std::uint32_t(pick(10'000))};
+                std::int64_t(m_bytes.ConsumeIntegral<std::uint32_t>() >> pick(32)), 0,
+                std::uint16_t(pick(10'000))};
     }
-    accounting::Transaction transaction()
-    {
-        return {date(), no(std::uint32_t(pick(12))), no(std::uint32_t(pick(12))), amount()};
-    }
+    accounting::Transaction transaction() { return {date(), anyNumber(), anyNumber(), amount()}; }
     void mark(Navigator &n)
     {
         switch (pick(4)) {

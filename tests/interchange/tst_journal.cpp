@@ -262,8 +262,12 @@ private slots:
             for (std::size_t i = 0; i < names.size(); ++i) {
                 const auto type = static_cast<AccountTypes>(*rc::gen::inRange(1, 6));
                 const auto currency = *rc::gen::element<std::string>("USD", "JPY", "KWD");
-                const AccountCode code(no(static_cast<std::uint32_t>(7 * i + 3)),
-                                       QString::fromStdString(names[i]), std::nullopt);
+                // Under the last one if it may be, whose number is greater.
+                std::optional<kiv::accounting::AccountNumber> parent;
+                if (i > 0 && books.ledger.ledger(codes.back().number()).type() == type)
+                    parent = codes.back().number();
+                const AccountCode code(no(static_cast<std::uint32_t>(7 * (6 - i) - 3)),
+                                       QString::fromStdString(names[i]), parent);
                 books.ledger.add(Account(type, code, money(currency.c_str(), "0"), false),
                                  books.generator, day("2026-01-01"));
                 codes.push_back(code);
