@@ -90,8 +90,8 @@ void collectNumbers(const Changes &changes, std::set<TransactionNumber> &numbers
 {
     for (const auto &[key, set] : changes) {
         for (const surveying::BalanceChange &change : set) {
-            if (change.transaction().number())
-                numbers.insert(*change.transaction().number());
+            if (const auto number = change.transaction().number())
+                numbers.insert(*number);
         }
     }
 }
@@ -150,22 +150,22 @@ SurveyForm SurveyForm::fromJson(Session &session, const QJsonObject &json)
     const numira::Currency currency = form.balance.code();
     form.balance = readMoney(json.value(QLatin1String("balance")), currency);
     form.reconciled.clear();
-    for (const QJsonValue &number : json.value(QLatin1String("reconciled")).toArray()) {
+    for (const QJsonValue number : json.value(QLatin1String("reconciled")).toArray()) {
         TransactionNumber read;
         readValue(number.toVariant().toString().toStdString(), read);
         form.reconciled.insert(read);
     }
     const AccountIndex index = session.accounts();
-    for (const QJsonValue &item : json.value(QLatin1String("items")).toArray())
+    for (const QJsonValue item : json.value(QLatin1String("items")).toArray())
         form.items.insert_or_assign(readItem(item),
                                     readMoney(item[QLatin1String("change")], currency));
-    for (const QJsonValue &extra : json.value(QLatin1String("accounts")).toArray()) {
+    for (const QJsonValue extra : json.value(QLatin1String("accounts")).toArray()) {
         const QString account = extra[QLatin1String("account")].toVariant().toString();
         form.extras.insert_or_assign(index.find(account).code().number(),
                                      readMoney(extra[QLatin1String("change")], currency));
     }
     form.distribution.clear();
-    for (const QJsonValue &share : json.value(QLatin1String("distribution")).toArray()) {
+    for (const QJsonValue share : json.value(QLatin1String("distribution")).toArray()) {
         const BudgetItemIdentifier id = readItem(share);
         const auto proposed = form.proposal.distributions().find(id);
         surveying::DistributedAmount amount;
@@ -183,6 +183,7 @@ QJsonObject SurveyForm::toJson(Session &session) const
     const AccountIndex index = session.accounts();
     const banking::ReconciledBankAccount &last = proposal.reconciled();
     const AccountNumber number = account.account.number;
+    const std::optional<numira::Money> &due = proposal.amountDue();
     QJsonArray ticked;
     for (const TransactionNumber transaction : reconciled)
         ticked.append(toJson(std::optional(transaction)));
@@ -214,9 +215,7 @@ QJsonObject SurveyForm::toJson(Session &session) const
             {QStringLiteral("reconciledBalance"), toJson(last.balance())},
             {QStringLiteral("start"), toJson(proposal.startOn())},
             {QStringLiteral("expectedBalance"), toJson(proposal.expectedBalance())},
-            {QStringLiteral("amountDue"), proposal.amountDue()
-                                              ? QJsonValue(toJson(proposal.amountDue()->rounded()))
-                                              : QJsonValue()},
+            {QStringLiteral("amountDue"), due ? QJsonValue(toJson(due->rounded())) : QJsonValue()},
             {QStringLiteral("itemChanges"),
              changesJson(proposal.budgetItemChanges(), number, itemJson)},
             {QStringLiteral("accountChanges"),

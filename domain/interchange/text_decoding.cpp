@@ -9,7 +9,7 @@ namespace kiv::interchange {
 
 namespace {
 
-constexpr qsizetype lineMax = 64 * 1024;
+constexpr qsizetype lineMax = qsizetype{64} * 1024;
 
 struct Converter {
     explicit Converter(const QString &name)

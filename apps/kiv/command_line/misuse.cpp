@@ -103,7 +103,7 @@ QString misuse(const CLI::ParseError &error)
         return QObject::tr("A command is missing; --help lists those that there are.");
     const QString text = QString::fromUtf8(error.what()).simplified();
     for (const Wording &wording : wordings) {
-        if (const QString sentence = translated(wording, text); !sentence.isEmpty())
+        if (QString sentence = translated(wording, text); !sentence.isEmpty())
             return sentence;
     }
     return text.endsWith(u'.') ? text : text + u'.';

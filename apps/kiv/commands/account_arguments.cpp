@@ -33,8 +33,8 @@ AccountCode CodeChange::to(const AccountIndex &index) const
         under = index.find(*parent).code().number();
     else if (isTopLevel)
         under = std::nullopt;
-    const AccountCode changed(number.value_or(present.number()), name ? name->text : present.name(),
-                              under);
+    AccountCode changed(number.value_or(present.number()), name ? name->text : present.name(),
+                        under);
     if (changed == present)
         throw nothingToChange();
     return changed;
@@ -46,8 +46,8 @@ void openOn(Session &session, AccountNumber account, const std::optional<QDate> 
         return;
     const auto ledger = std::get<accounting::LedgerAccount>(session.ask(
         &Navigator::showLedger, &Navigator::onSelectedLedger, AccountCode(account, std::nullopt)));
-    if (ledger.openedBy())
-        moveTo(session, *ledger.openedBy(), date);
+    if (const auto opening = ledger.openedBy())
+        moveTo(session, *opening, date);
 }
 
 void moveTo(Session &session, accounting::TransactionNumber number,

@@ -35,7 +35,7 @@ struct ListBanks {
         Report report{QJsonValue(banks)};
         if (banks.isEmpty())
             report.line(QObject::tr("There are no banks."));
-        for (const QJsonValue &bank : banks) {
+        for (const QJsonValue bank : banks) {
             const QString name = bank[QLatin1String("name")].toString();
             report
                 .heading(bank[QLatin1String("open")].toBool()

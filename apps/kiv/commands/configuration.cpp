@@ -143,7 +143,7 @@ struct ListTags {
     {
         const QJsonArray names = tagNames(present(call.session).tags);
         Report report{QJsonValue(names)};
-        for (const QJsonValue &name : names)
+        for (const QJsonValue name : names)
             report.line(name.toString());
         return names.isEmpty() ? report.line(QObject::tr("There are no tags.")) : report;
     }

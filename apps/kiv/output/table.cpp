@@ -59,15 +59,16 @@ QString tableText(const QStringList &titles, const std::vector<std::vector<Cell>
                   const Terminal &terminal)
 {
     Layout layout = naturalLayout(titles, rows);
-    if (terminal.width())
-        shrinkTo(*terminal.width(), layout);
+    const std::optional<int> total = terminal.width();
+    if (total)
+        shrinkTo(*total, layout);
 
     QString text;
     const auto addLine = [&](const auto &textOf, const auto &style) {
         QString line;
         for (std::size_t column = 0; column < layout.widths.size(); ++column) {
             const int width = layout.widths[column];
-            const QString cell = terminal.width() ? elided(textOf(column), width) : textOf(column);
+            const QString cell = total ? elided(textOf(column), width) : textOf(column);
             const QString blanks(std::max(0, width - displayWidth(cell)), u' ');
             if (column > 0)
                 line += QString(gap, u' ');

@@ -97,7 +97,7 @@ QByteArray readInput(const QString &path)
 QJsonDocument readJson(const QString &path)
 {
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(readInput(path), &error);
+    QJsonDocument document = QJsonDocument::fromJson(readInput(path), &error);
     if (error.error != QJsonParseError::NoError) {
         throw unreadableInput(
             path,
@@ -115,7 +115,7 @@ std::vector<Transaction> readTransactions(const QString &path, const AccountInde
     if (!list.isArray())
         throw unreadableInput(path, QObject::tr("it has no list of transactions"));
     std::vector<Transaction> transactions;
-    for (const QJsonValue &element : list.toArray()) {
+    for (const QJsonValue element : list.toArray()) {
         try {
             transactions.push_back(readTransaction(element.toObject(), index));
         } catch (const foundation::Error &error) {

@@ -194,7 +194,7 @@ void JournalBooks::inferCost(std::vector<Posting *> &group, const Sums &rest)
         if (currencyOf(commodity))
             continue;
         const auto isIt = [&name = commodity](const Posting *posting) {
-            return posting->amount->commodity == name;
+            return posting->known().commodity == name;
         };
         const auto &paid = rest.begin()->first == commodity ? *rest.rbegin() : *rest.begin();
         if (std::ranges::count_if(group, isIt) == 1)
@@ -219,9 +219,9 @@ void JournalBooks::applyRules(const Entry &entry)
             added.postings = rule.entry.postings;
             for (Posting &extra : added.postings) {
                 extra.status = posting.status;
-                if (extra.amount->commodity.isEmpty())
-                    extra.amount = {posting.amount->number * extra.amount->number,
-                                    posting.amount->commodity};
+                if (extra.known().commodity.isEmpty())
+                    extra.amount = {posting.known().number * extra.known().number,
+                                    posting.known().commodity};
             }
             fill(added.postings, rule.entry.place);
             move(added);
@@ -235,8 +235,8 @@ void JournalBooks::applyRules(const Entry &entry)
 void JournalBooks::move(const Entry &entry)
 {
     for (const Posting &posting : entry.postings) {
-        numira::Decimal &balance = m_balances[{posting.account, posting.amount->commodity}];
-        balance += posting.amount->number;
+        numira::Decimal &balance = m_balances[{posting.account, posting.known().commodity}];
+        balance += posting.known().number;
         if (posting.assertion && !m_failedAssertion) {
             const numira::Decimal present =
                 m_balances[{posting.account, posting.assertion->commodity}];
@@ -246,7 +246,7 @@ void JournalBooks::move(const Entry &entry)
                     presentationText(Quantity{present, posting.assertion->commodity}));
         }
         m_movements.push_back(
-            {entry.date, posting.account, *posting.amount, posting.assertion, posting.place});
+            {entry.date, posting.account, posting.known(), posting.assertion, posting.place});
     }
 }
 
@@ -318,8 +318,8 @@ std::size_t JournalBooks::indexOf(DraftAccount account)
 
 JournalBooks::Booking JournalBooks::bookingOf(const Posting &posting)
 {
-    std::optional<numira::Currency> currency = currencyOf(posting.amount->commodity);
-    const Quantity *kept = &*posting.amount;
+    std::optional<numira::Currency> currency = currencyOf(posting.known().commodity);
+    const Quantity *kept = &posting.known();
     if (!currency && posting.cost) {
         kept = &*posting.cost;
         currency = currencyOf(kept->commodity);

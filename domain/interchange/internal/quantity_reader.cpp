@@ -24,7 +24,7 @@ QString takeNumber(QStringView &rest)
     while (length < rest.size() && ((rest[length] >= u'0' && rest[length] <= u'9') ||
                                     rest[length] == u'.' || rest[length] == u','))
         ++length;
-    const QString number = rest.first(length).toString();
+    QString number = rest.first(length).toString();
     rest = rest.sliced(length);
     return number;
 }
@@ -35,7 +35,7 @@ QString takeCommodity(QStringView &rest, const Place &place)
         const qsizetype end = rest.indexOf(u'"', 1);
         if (end < 0)
             throw faults::notClosed(place, rest.toString());
-        const QString name = rest.sliced(1, end - 1).toString();
+        QString name = rest.sliced(1, end - 1).toString();
         rest = rest.sliced(end + 1);
         return name;
     }
@@ -43,7 +43,7 @@ QString takeCommodity(QStringView &rest, const Place &place)
     qsizetype length = 0;
     while (length < rest.size() && !rest[length].isSpace() && !reserved.contains(rest[length]))
         ++length;
-    const QString name = rest.first(length).toString();
+    QString name = rest.first(length).toString();
     rest = rest.sliced(length);
     return name;
 }
@@ -103,7 +103,7 @@ QString QuantityReader::named(const QString &commodity) const
 QString QuantityReader::declare(QStringView sample, const Place &place)
 {
     const Written written = split(sample, place);
-    const QString commodity = named(written.commodity);
+    QString commodity = named(written.commodity);
     const qsizetype last =
         std::max(written.number.lastIndexOf(u'.'), written.number.lastIndexOf(u','));
     // "1,000" does not say which of the two its comma is.
