@@ -77,7 +77,7 @@ Topic budgetItems()
         {"add what is there", added(item<Bill>("Rent"))},
         {"add under an account's name", added(item<Bill>("Checking"))},
         {"add at an unknown account", added(item<Goal>("Trip"), loan)},
-        {"add with tags of a wage", mixedUp(item<Wage>("Rent"), false)},
+        {"add with tags of a wage", mixedUp(item<Wage>("rent"), false)},
         {"add with tags of another", mixedUp(item<Bill>("rent"), false)},
         {"add bill at a bank", added(gas, checking)},
         {"add nontrack at a bank", added(item<Nontrack>("Fun"), checking)},
@@ -385,7 +385,7 @@ Topic surveys()
         {"complete within the user's own window",
          [=](N &n) {
              configured(n, [](auto &data) { data.surveyWindow = foundation::Percentage(20, 6); });
-             complete("3000", 1)(n);
+             n.onPrepareShowSurvey(), complete("3000", 1)(n);
          }},
         {"complete with what is set aside for no item",
          complete("2485", 1, {{{BudgetItemTypes::Bill, source("Gone")}, {}}})},
@@ -423,7 +423,9 @@ Topic configuration()
          }},
         {"store without a used currency",
          [=](N &n) {
-             added(item<Bill>("Gîte", money("EUR", "9")))(n), configure(30, {dollar})(n);
+             added(item<Bill>("Gîte", money("EUR", "9")))(n);
+             n.onRemovedAct(code(7, "Gîte [Budget Item]")); // only the item is left
+             configure(30, {dollar})(n);
          }},
         {"store without a currency of the ledger",
          [=](N &n) {

@@ -299,6 +299,7 @@ private slots:
         books.post(5, 1);
         books.post(5, 2);
         books.completed.upsert(survey(at("First", 1, Savings), {id<Bill>("Tax")}));
+        books.putBelow(7, "Tax [Budget Item]", 6);
         MessageLog log;
         (void)books.checking();
         QCOMPARE(log.text(),
@@ -307,6 +308,8 @@ private slots:
                  "It has been 2 since the last reconciliation calculation.\n"
                  "There are 1 children under the bank account.\n"
                  "Ignoring non-distributable budget item Rent (bill)\n"
+                 "Will remove distributable budget item Tax (bill) it's a child account "
+                 "7 Tax [Budget Item] under 6\n"
                  "Will remove distributable budget item Tax (bill) as it's already distributed in "
                  "another bank account.\n"
                  "Processing bank ledger transactions.\n"

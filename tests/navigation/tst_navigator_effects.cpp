@@ -108,6 +108,7 @@ void NavigatorEffects::loadingReplacesEverything()
     const auto saved = desk.save();
     desk.navigator->onConfirmedNewBudgetEmpty();
     addBill(desk, "Gas");
+    addBill(desk, "Rent"); // without the tags that it has in the file
     desk.navigator->onConfirmedLoadBudgetFile(home, false);
     QCOMPARE(desk.take(),
              texts({"- Loading Budget: \"home.budget\"", "- Successfully loaded budget.",
@@ -350,7 +351,7 @@ void NavigatorEffects::wizardBuildsABudget()
                 // Each goal lies under the wizard's account.
                 QCOMPARE(accounts.size(), goals.size());
                 QCOMPARE(preferred, numira::toCurrency("EUR"));
-                QCOMPARE(usable.size(), std::size_t(2));
+                QVERIFY(usable == (std::set{numira::toCurrency("EUR"), numira::toCurrency("GBP")}));
                 QCOMPARE(displayAs, navigation::CurrencyDisplayOptions::IsoCode);
             });
     desk.navigator->onPrepareShowGoals();
