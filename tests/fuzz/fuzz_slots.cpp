@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
 // Bytes as requests to a Navigator, one after the other. Debits stay equal to
-// credits, a request that answers with no success changes nothing, and what was
-// made is saved and loaded as the same.
+// credits, a request that is answered with a failure alone changes nothing, and
+// what was made is saved and loaded as the same.
 #include "navigation/navigator_requests.h"
 
 #include "storage/budget_file.h"
@@ -114,11 +114,11 @@ storage::BudgetStorage::Data throughFile(const QString &path,
     return file.load();
 }
 
-void require(bool isKept, const char *promise)
+void require(bool isKept, const char *promise, const QString &said = {})
 {
     if (!isKept) {
         qInstallMessageHandler(nullptr);
-        qFatal("Not kept: %s", promise);
+        qFatal("Not kept: %s\n%s", promise, qPrintable(said));
     }
 }
 
@@ -136,12 +136,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     desk.furnish();
     AnyRequest any(bytes);
     for (int step = 0; step < 24 && bytes.remaining_bytes() > 0; ++step) {
+        const storage::BudgetStorage::Data before = desk.save();
         try {
             any.make(*desk.navigator);
         } catch (const std::exception &) {
             // What may leave a slot is tested elsewhere.
+            continue;
         }
-        (void)desk.take();
+        const QString said = desk.take().join(u'\n');
+        if (said.contains(u"Failed(") && !said.contains(u"Succeeded("))
+            require(desk.save() == before, "a refused request changes nothing", said);
     }
     const storage::BudgetStorage::Data made = desk.save("made.budget");
     require(isBalanced(made.generalLedger), "debits are equal to credits");
