@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "application.h"
 
-#include "locale.h"
 #include "message_log.h"
+#include "user_locale.h"
 
 namespace kiv::app {
 

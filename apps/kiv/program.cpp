@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program.h"
 
+#include "command_line/help_format.h"
 #include "command_line/misuse.h"
 #include "commands/commands.h"
 
 #include <QtCore/QCoreApplication>
-
-#include <CLI/CLI.hpp>
 
 namespace kiv::app {
 namespace {
@@ -49,6 +48,7 @@ std::unique_ptr<CLI::App> Program::commandTree(const std::vector<std::string> &w
             "Keeps a household's budget: accounts, banks, bills, wages and what is due.")),
         "kiv");
     // All commands below take these over.
+    app->formatter(std::make_shared<HelpFormat>(m_terminal.width()));
     for (const char *label :
          {QT_TRANSLATE_NOOP("QObject", "Usage"), QT_TRANSLATE_NOOP("QObject", "Positionals"),
           QT_TRANSLATE_NOOP("QObject", "REQUIRED"), QT_TRANSLATE_NOOP("QObject", "OPTIONS"),

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session.h"
 
-#include "locale.h"
 #include "parsing/similar.h"
+#include "user_locale.h"
 
 #include "networking/http_request_sender.h"
 #include "storage/rates_file.h"

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "command_line/help_format.h"
 #include "errors.h"
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/account_index.h"
 #include "parsing/similar.h"
 #include "parsing/words.h"
+#include "program.h"
+#include "user_locale.h"
 
 #include <QtTest/QtTest>
 
@@ -166,6 +169,54 @@ private slots:
         QVERIFY(table.endsWith(endless + u"  2\n"_s));
     }
 
+    void helpFitsTheScreen_data()
+    {
+        QTest::addColumn<QByteArray>("language");
+        QTest::addColumn<QString>("usage");
+        QTest::newRow("English") << QByteArray("C") << u"Usage: "_s;
+        QTest::newRow("German") << QByteArray("de_DE") << u"Aufruf: "_s;
+        QTest::newRow("Spanish") << QByteArray("es_ES") << u"Uso: "_s;
+    }
+    void helpFitsTheScreen()
+    {
+        QFETCH(QByteArray, language);
+        QFETCH(QString, usage);
+        qputenv("LC_ALL", language);
+        app::speakAsUser(*QCoreApplication::instance());
+        app::Program program;
+        const auto tree = program.commandTree();
+        std::vector<const CLI::App *> commands{tree.get()};
+        int longest = 0;
+        for (std::size_t i = 0; i < commands.size(); ++i) {
+            const CLI::App *command = commands[i];
+            std::ranges::copy(command->get_subcommands({}), std::back_inserter(commands));
+            const QString help = QString::fromStdString(command->help());
+            QVERIFY2(help.contains(usage), qPrintable(help));
+            for (const QString &line : help.split(u'\n')) {
+                longest = std::max(longest, app::displayWidth(line));
+                QVERIFY2(app::displayWidth(line) <= 80, qPrintable(line));
+            }
+            // Nothing that is explained is lost on the way.
+            for (const CLI::Option *option : command->get_options()) {
+                QVERIFY2(help.simplified().contains(
+                             QString::fromStdString(option->get_description()).simplified()),
+                         qPrintable(help));
+            }
+        }
+        QVERIFY(commands.size() > 80 && longest > 70);
+    }
+
+    void helpFitsANarrowTerminal()
+    {
+        CLI::App command("What is done by it, told at length", "command");
+        command.formatter(std::make_shared<app::HelpFormat>(24));
+        command.add_option("--größe", "Wie groß es sein darf")->type_name("ZAHL");
+        const QString help = QString::fromStdString(command.help());
+        QVERIFY2(help.startsWith(u"What is done by it, told\nat length\n"_s), qPrintable(help));
+        QVERIFY2(help.contains(u"\n  --größe ZAHL\n      Wie groß es sein\n      darf\n"_s),
+                 qPrintable(help));
+    }
+
 private:
     static accounting::Account account(std::uint32_t number, const QString &name,
                                        std::optional<std::uint32_t> parent)
@@ -179,5 +230,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(TestKivPieces)
+QTEST_GUILESS_MAIN(TestKivPieces)
 #include "tst_kiv_pieces.moc"

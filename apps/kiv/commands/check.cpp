@@ -123,6 +123,7 @@ struct Check {
         const QString path = named(call);
         const storage::BudgetInspection found = storage::inspectBudget(path);
         std::vector<Told> promises;
+        promises.reserve(found.judgements.size());
         for (const storage::Judgement &judgement : found.judgements)
             promises.push_back(told(judgement));
         std::ranges::move(judgeSums(found.data), std::back_inserter(promises));

@@ -2,7 +2,7 @@
 // rates show|fetch|set
 #include "commands/commands.h"
 
-#include "locale.h"
+#include "user_locale.h"
 
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/report.h"
 
-#include "locale.h"
+#include "user_locale.h"
 #include "output/table.h"
 
 #include "foundation/local_dates.h"
@@ -34,7 +34,7 @@ Cell cellOf(const Column &column, const QJsonObject &row,
         cell.text = value.toBool() ? QObject::tr("yes") : QObject::tr("no");
     } else if (value.isArray()) {
         QStringList texts;
-        for (const QJsonValue &element : value.toArray())
+        for (const QJsonValue element : value.toArray())
             texts += element.toString();
         cell.text = texts.join(QStringLiteral(", "));
     } else {
@@ -84,7 +84,7 @@ QString amountText(const QJsonValue &value, navigation::CurrencyDisplayOptions d
 QString amountsText(const QJsonArray &amounts, navigation::CurrencyDisplayOptions displayAs)
 {
     QStringList texts;
-    for (const QJsonValue &amount : amounts)
+    for (const QJsonValue amount : amounts)
         texts += amountText(amount, displayAs);
     return texts.isEmpty() ? QStringLiteral("0") : texts.join(QStringLiteral(", "));
 }
@@ -159,6 +159,7 @@ QByteArray Report::toText(const Terminal &terminal,
             text += (line->isHeading ? terminal.bold(safe) : safe) + u'\n';
         } else if (const auto *list = std::get_if<List>(&block)) {
             std::vector<std::vector<Cell>> rows;
+            rows.reserve(list->columns.size());
             for (const Column &column : list->columns)
                 rows.push_back({Cell{column.title}, cellOf(column, list->values, displayAs)});
             for (auto &row : rows)
@@ -173,8 +174,9 @@ QByteArray Report::toText(const Terminal &terminal,
             for (const Column &column : table->columns)
                 titles += column.title;
             std::vector<std::vector<Cell>> rows;
-            for (const QJsonValue &row : table->rows) {
+            for (const QJsonValue row : table->rows) {
                 std::vector<Cell> &cells = rows.emplace_back();
+                cells.reserve(table->columns.size());
                 for (const Column &column : table->columns)
                     cells.push_back(cellOf(column, row.toObject(), displayAs));
             }

@@ -2,7 +2,7 @@
 #include "parsing/values.h"
 
 #include "errors.h"
-#include "locale.h"
+#include "user_locale.h"
 #include "parsing/similar.h"
 
 #include "budgeting/item_traits.h"
@@ -23,7 +23,7 @@ namespace {
 QString decoded(const std::string &text)
 {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString result = decoder(QByteArrayView(text));
+    QString result = decoder(QByteArrayView(text));
     if (decoder.hasError())
         throw notUtf8();
     return result;

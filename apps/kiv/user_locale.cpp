@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "locale.h"
+#include "user_locale.h"
 
 #include "foundation/local_dates.h"
 #include "numira/local_text.h"
@@ -14,7 +14,7 @@ namespace {
 QString localeOf(const char *category)
 {
     for (const char *variable : {"LC_ALL", category, "LANG"}) {
-        const QString name = qEnvironmentVariable(variable);
+        QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
             return name;
     }
