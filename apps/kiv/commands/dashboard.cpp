@@ -29,7 +29,7 @@ QJsonObject healthJson(const adviser::BudgetHealth &health)
     QJsonArray reasons;
     for (const adviser::HealthReason &reason : health.reasons()) {
         reasons.append(QJsonObject{{QStringLiteral("sound"), reason.isSound},
-                                   {QStringLiteral("text"), reason.plainText}});
+                                   {QStringLiteral("text"), reason.text}});
     }
     return {{QStringLiteral("grade"), adviser::toQString(health.grade())},
             {QStringLiteral("reasons"), reasons}};
