@@ -141,7 +141,11 @@ private slots:
         row("a wrong encoding", "s.csv", "Date,Amount,Text\n2026-01-05,1,caf\xe9\n", account, 1,
             "'s.csv', line 2: This is not valid UTF-8; name the file's encoding with "
             "--encoding.\n");
-        row("an unknown directive", "s.journal", "2026-01-01 x\n A  $1\n B\nbucket A\n", "", 1,
+        row("an unknown directive", "s.journal",
+            "2026-01-01 x\n Assets:A  $1\n Income:B\nbucket Assets:A\n", "", 1,
+            "'s.journal', line 4: 'bucket Assets:A' is neither a transaction nor a directive that "
+            "can be imported.\n");
+        row("an unknown root", "s.journal", "2026-01-01 x\n A  $1\n B\n", "", 1,
             "'s.journal', line 2: Accounts begin with Assets, Liabilities, Equity, Income or "
             "Expenses; tell what 'A' is with --root, like --root 'A=asset'.\n");
         row("an include from elsewhere", "s.journal", "include ../../etc/passwd\n", "", 1,
