@@ -3899,6 +3899,10 @@
         <source>type</source>
         <translation>Art</translation>
     </message>
+    <message>
+        <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
+        <translation>Die Änderungen von „%1“ ließen sich nicht speichern; erst mit save-as sichern.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

@@ -3899,6 +3899,10 @@
         <source>type</source>
         <translation>tipo</translation>
     </message>
+    <message>
+        <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
+        <translation>No se han podido guardar los cambios de «%1»; guárdelos antes con save-as.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

@@ -282,6 +282,12 @@ Refusal fileExists(const QString &path)
     return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));
 }
 
+Refusal unsavedChanges(const QString &path)
+{
+    return Refusal(
+        QObject::tr("The changes of '%1' could not be saved; use save-as first.").arg(path));
+}
+
 Refusal cannotWriteOutput(const QString &reason)
 {
     return Refusal(QObject::tr("Cannot write the output: %1.").arg(reason));

@@ -83,6 +83,7 @@ public:
 // ---- files -----------------------------------------------------------------
 
 [[nodiscard]] Refusal fileExists(const QString &path);
+[[nodiscard]] Refusal unsavedChanges(const QString &path);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
 [[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);

@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -23,31 +24,66 @@ namespace {
 
 constexpr int historyMax = 1000;
 
+volatile std::sig_atomic_t isInterrupted = 0;
+
+void noteInterrupt(int)
+{
+    isInterrupted = 1;
+}
+
+/// While a line is typed, Ctrl-C gives up the line and not the session.
+class InterruptsGiveUpLine {
+public:
+    InterruptsGiveUpLine()
+    {
+        struct sigaction noting = {};
+        noting.sa_handler = noteInterrupt;
+        ::sigaction(SIGINT, &noting, &m_before);
+    }
+    ~InterruptsGiveUpLine() { ::sigaction(SIGINT, &m_before, nullptr); }
+    InterruptsGiveUpLine(const InterruptsGiveUpLine &) = delete;
+    InterruptsGiveUpLine &operator=(const InterruptsGiveUpLine &) = delete;
+
+private:
+    struct sigaction m_before = {};
+};
+
+/// readline calls this when a signal has interrupted it.
+int afterSignal()
+{
+    if (std::exchange(isInterrupted, 0) != 0) {
+        rl_replace_line("", 0);
+        ::rl_crlf();
+        ::rl_on_new_line();
+        ::rl_redisplay();
+    }
+    return 0;
+}
+
 // readline asks plain functions, so what they need stands here.
 LineReader::Completer completerNow;
 std::vector<std::string> candidates;
 
-char *nextCandidate(const char *prefix, int state)
+char *nextCandidate(const char *, int state)
 {
     static std::size_t at = 0;
     if (state == 0)
         at = 0;
-    while (at < candidates.size()) {
-        const std::string &candidate = candidates[at++];
-        if (candidate.starts_with(prefix))
-            return ::strdup(candidate.c_str());
-    }
-    return nullptr;
+    return at < candidates.size() ? ::strdup(candidates[at++].c_str()) : nullptr;
 }
 
 char **complete(const char *prefix, int start, int)
 {
     rl_attempted_completion_over = 1; // no file names
     try {
-        const std::string line(rl_line_buffer, static_cast<std::size_t>(start));
+        // A quote that is open already stands before the prefix, and is closed by readline.
+        const bool isQuoted = rl_completion_quote_character != 0;
+        const std::string line(rl_line_buffer, static_cast<std::size_t>(start - int{isQuoted}));
         candidates.clear();
-        for (const std::string &word : completerNow(splitWords(line)))
-            candidates.push_back(quotedWord(word));
+        for (const std::string &word : completerNow(splitWords(line))) {
+            if (word.starts_with(prefix))
+                candidates.push_back(isQuoted ? word : quotedWord(word));
+        }
     } catch (const std::exception &) {
         // Half a line may be wrong; there is nothing to be completed then.
         candidates.clear();
@@ -66,8 +102,8 @@ LineReader::LineReader(Completer completer, QString historyFile)
         return;
     rl_readline_name = "kiv";
     rl_attempted_completion_function = complete;
-    // A quoted name is one word, with its quotes.
-    rl_completer_quote_characters = "";
+    rl_signal_event_hook = afterSignal;
+    rl_completer_quote_characters = "\"'";
     rl_basic_word_break_characters = " \t";
     ::stifle_history(historyMax);
     ::read_history(QFile::encodeName(m_historyFile).constData());
@@ -88,9 +124,12 @@ std::optional<std::string> LineReader::next()
     std::string line;
     if (!m_isInteractive)
         return std::getline(std::cin, line) ? std::optional(line) : std::nullopt;
+    const InterruptsGiveUpLine whileTyped;
     const std::unique_ptr<char, decltype(&std::free)> typed(::readline("kiv> "), &std::free);
-    if (!typed)
+    if (!typed) {
+        std::cout << std::endl;
         return std::nullopt;
+    }
     line = typed.get();
     if (!line.empty())
         ::add_history(line.c_str());

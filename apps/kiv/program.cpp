@@ -113,23 +113,34 @@ int Program::execute()
         openFile();
     const bool isSaved = kind == CommandKind::Change && !options.isDryRun;
     Report report;
-    {
-        auto takeBack = qScopeGuard([&] {
-            if (m_keepsSession && kind == CommandKind::Change)
-                m_session.revert();
-        });
+    try {
         Call call{m_session, options, *this};
         report = command(call);
-        if (isSaved)
-            takeBack.dismiss();
+    } catch (...) {
+        if (kind != CommandKind::Query)
+            takeBack();
+        throw;
     }
     if (isSaved)
         m_session.save();
-    if (kind == CommandKind::Change && options.isDryRun)
+    if (kind == CommandKind::Change && options.isDryRun) {
+        takeBack();
         report.line(QObject::tr("This was a dry run: nothing is saved."));
+    }
     m_options = options;
     print(report);
     return report.status();
+}
+
+void Program::takeBack()
+{
+    if (!m_keepsSession)
+        return;
+    try {
+        m_session.revert();
+    } catch (const std::exception &error) {
+        complain(QString::fromUtf8(error.what()));
+    }
 }
 
 void Program::openFile()

@@ -46,6 +46,8 @@ private:
     /// the exit status.
     bool parse(const std::vector<std::string> &words, int &status);
     int execute();
+    /// What a call has changed, when the next one shall not find it.
+    void takeBack();
     void openFile();
     void print(const Report &report);
 

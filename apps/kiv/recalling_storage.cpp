@@ -14,12 +14,27 @@ storage::BudgetStorage::Data RecallingStorage::load()
 {
     if (std::optional<Data> recalled = std::exchange(m_recalled, std::nullopt))
         return *std::move(recalled);
-    return m_file.load();
+    Data loaded = m_file.load();
+    settle(loaded);
+    return loaded;
 }
 
 void RecallingStorage::store(const Data &data)
 {
+    // What does not come into another file stays as it was in the open one.
+    if (m_file.filePathName() == m_openFile) {
+        m_present = data;
+        m_isUnsaved = true;
+    }
     m_file.store(data);
+    settle(data);
+}
+
+void RecallingStorage::settle(const Data &data)
+{
+    m_openFile = m_file.filePathName();
+    m_present = data;
+    m_isUnsaved = false;
 }
 
 QString RecallingStorage::filePathName() const

@@ -47,6 +47,7 @@ QString Session::withExtension(const QString &path)
 
 void Session::open(const QString &file)
 {
+    refuseUnsaved();
     const QString path = withExtension(file);
     navigator().onConfirmedLoadBudgetFile(path, false);
     m_file = path;
@@ -77,13 +78,34 @@ void Session::saveAs(const QString &file)
         std::get<QString>(ask(&Navigator::savedBudgetFile, &Navigator::onSaveAsBudgetFile, file));
 }
 
+void Session::refuseUnsaved() const
+{
+    if (m_storage && m_storage->isUnsaved())
+        throw unsavedChanges(m_file);
+}
+
+void Session::saveUnsaved()
+{
+    if (m_storage && m_storage->isUnsaved())
+        save();
+}
+
 void Session::revert()
 {
-    navigator().onReloadBudgetFile();
+    if (!m_navigator)
+        return;
+    // Not from the file, which may be gone, or older than what is in memory.
+    if (const auto &present = m_storage->present()) {
+        m_storage->recall(storage::BudgetFile::mended(*present));
+        navigator().onConfirmedLoadBudgetFile(m_file, true);
+    } else {
+        navigator().onConfirmedNewBudgetEmpty();
+    }
 }
 
 void Session::recall(storage::BudgetStorage::Data version)
 {
+    refuseUnsaved();
     m_storage->recall(std::move(version));
     navigator().onReloadBudgetFile();
 }

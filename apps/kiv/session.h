@@ -57,7 +57,13 @@ public:
     /// Writes the budget to its file.
     void save();
     void saveAs(const QString &file);
-    /// Gives up what was changed since the last save.
+    /// Throws a Refusal when the last save of the open file failed, since what it
+    /// should have held is in memory alone.
+    void refuseUnsaved() const;
+    /// The same, but tries to save once more.
+    void saveUnsaved();
+    /// Gives up what was changed since save() was last called, whether or not it
+    /// could save.
     void revert();
     /// Puts a former version of the open file in the place of the budget in
     /// memory; the file is as it was until that is saved.

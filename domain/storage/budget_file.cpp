@@ -5,6 +5,7 @@
 #include "storage/internal/budget_image.h"
 #include "storage/internal/errors.h"
 #include "storage/internal/file_lock.h"
+#include "storage/internal/mending.h"
 
 #include "foundation/streams.h"
 
@@ -35,6 +36,13 @@ auto withContent(Work work, ToError toError)
     } catch (const std::exception &cause) {
         throw toError(cause);
     }
+}
+
+void warnOf(const QStringList &mended)
+{
+    for (const QString &sentence : mended)
+        qWarning().noquote() << foundation::escaped(
+            QObject::tr("Mended while loading: %1").arg(sentence));
 }
 
 /// The file's content, which was loaded once on trial: nothing is worse than a
@@ -171,6 +179,14 @@ void BudgetFile::goBack() noexcept
         m_chosenPath = m_open->target().shownPath();
 }
 
+BudgetStorage::Data BudgetFile::mended(Data data)
+{
+    QStringList mended;
+    internal::mend(data, mended);
+    warnOf(mended);
+    return data;
+}
+
 BudgetStorage::Data BudgetFile::load()
 {
     auto backOnFailure = qScopeGuard([this] { goBack(); });
@@ -180,9 +196,7 @@ BudgetStorage::Data BudgetFile::load()
     chosen.file->lockIfPossible();
     QStringList mended;
     Data data = chosen.file->load(mended);
-    for (const QString &sentence : mended)
-        qWarning().noquote() << foundation::escaped(
-            QObject::tr("Mended while loading: %1").arg(sentence));
+    warnOf(mended);
     if (chosen.other)
         m_open = std::move(chosen.other);
     backOnFailure.dismiss();

@@ -24,8 +24,11 @@ public:
     ~BudgetFile() override;
 
     void setFilePathName(const QString &filePathName) override;
-    /// What does not fit together in the file but could be made so by allowed
-    /// requests is mended, with a warning in the log for each mended thing.
+    /// The data as load() gives it: what does not fit together but could be made so
+    /// by allowed requests is mended, with a warning in the log for each mended thing.
+    [[nodiscard]] static Data mended(Data data);
+
+    /// Mended where it needs it.
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
     /// The file that was loaded or saved last; empty before.

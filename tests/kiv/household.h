@@ -58,12 +58,17 @@ public:
         QCOMPARE(opened.write(content), content.size());
     }
 
+    /// Lets the process start in this household.
+    void prepare(QProcess &process) const
+    {
+        process.setProcessEnvironment(m_environment);
+        process.setWorkingDirectory(m_folder.path());
+    }
     [[nodiscard]] Ended runProgram(const QString &program, const QStringList &words,
                                    const QByteArray &input = {}) const
     {
         QProcess process;
-        process.setProcessEnvironment(m_environment);
-        process.setWorkingDirectory(m_folder.path());
+        prepare(process);
         // The loop goes on meanwhile, for servers of the test's own.
         QEventLoop loop;
         QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);

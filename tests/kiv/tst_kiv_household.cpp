@@ -163,46 +163,6 @@ private slots:
         QCOMPARE(home.run("refund 2 69.50").status, 0);
     }
 
-    void aShellKeepsOneBudgetOpen()
-    {
-        const Household home;
-        QVERIFY(home.begin());
-        const QByteArray before = home.bytes();
-        const Ended ended = home.run("shell", "# a comment, then a mistake\n"
-                                              "bill add Gym 12,3x\n"
-                                              "account add Rent --type expense\n"
-                                              "bill add \"Car tax\" 360 --dry-run\n"
-                                              "bill list\n");
-        QCOMPARE(ended.status, 2);
-        QCOMPARE(ended.err.count('\n'), 2);
-        QVERIFY(ended.out.contains("Rent"));
-        // The dry run is taken back in memory before the next line.
-        QCOMPARE(ended.out.count("Car tax"), 1);
-        QCOMPARE(home.bytes(), before);
-        QCOMPARE(home.run("shell", "bill add 'Car tax' 360\nbill list\nexit\nfrobnicate").status,
-                 0);
-        QVERIFY(!found(home.json("bill list"), "name", u"Car tax"_s).isEmpty());
-    }
-
-    void watchTellsSignalsAsTheyCome()
-    {
-        const Household home;
-        QVERIFY(home.begin());
-        const Ended ended = home.run("watch", "account add Rent --type expense\nbill add Gym 30\n");
-        QCOMPARE(ended.status, 1);
-        QStringList signalNames;
-        for (const QByteArray &line : ended.out.split('\n')) {
-            const QJsonDocument told = QJsonDocument::fromJson(line);
-            signalNames += told["signal"_L1].toString();
-            if (signalNames.last() == u"saveSucceeded")
-                QCOMPARE(told["arguments"_L1]["source"_L1].toString(), u"Gym"_s);
-        }
-        QVERIFY(signalNames.indexOf(u"loadedBudgetFile"_s) <
-                signalNames.indexOf(u"accountSaveFailed"_s));
-        QCOMPARE(signalNames.count(u"saveSucceeded"_s), 1);
-        QCOMPARE(signalNames.count(u"savedBudgetFile"_s), 1);
-    }
-
     void settingsAreKept()
     {
         const Household home;

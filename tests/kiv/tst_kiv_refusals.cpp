@@ -145,12 +145,8 @@ private slots:
     {
         // A shell keeps its file open for as long as its input lasts.
         QProcess other;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_household.path("config"));
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_household.path("data"));
-        other.setProcessEnvironment(environment);
-        other.start(QStringLiteral(KIV_PROGRAM),
-                    {QStringLiteral("shell"), QStringLiteral("--file"), m_household.file()});
+        m_household.prepare(other);
+        other.start(QStringLiteral(KIV_PROGRAM), {QStringLiteral("shell")});
         other.write("info\n");
         QVERIFY(other.waitForReadyRead());
         const QByteArray before = m_household.bytes();

@@ -33,7 +33,9 @@ struct New {
             path = qEnvironmentVariable("KIV_FILE");
         if (path.isEmpty())
             throw noFileNamed();
-        (void)call.session.ask(&Navigator::showNewBudget, &Navigator::onPrepareNewBudgetEmpty);
+        call.session.refuseUnsaved();
+        Session::refuseExisting(path);
+        call.session.navigator().onConfirmedNewBudgetEmpty();
         call.session.create(path);
         return Report(fileJson(call.session))
             .line(QObject::tr("Made the empty budget '%1'.").arg(call.session.file()));

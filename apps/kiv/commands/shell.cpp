@@ -35,11 +35,15 @@ bool runLine(Program &program, const std::string &line, int &status)
 {
     int ended = Program::success;
     try {
-        const std::vector<std::string> words = splitWords(line);
+        std::vector<std::string> words = splitWords(line);
         if (words.empty())
             return true;
         if (words.front() == "exit" || words.front() == "quit")
             return false;
+        if (words.front() == "help") {
+            words.erase(words.begin());
+            words.emplace_back("--help");
+        }
         ended = program.run(words);
     } catch (const UsageError &error) {
         complain(error.message());
@@ -48,6 +52,20 @@ bool runLine(Program &program, const std::string &line, int &status)
     if (status == Program::success)
         status = ended;
     return true;
+}
+
+/// What a session of many lines ends with.
+Report ended(Call &call, int status)
+{
+    try {
+        call.session.saveUnsaved();
+    } catch (const foundation::Error &error) {
+        complain(QString::fromUtf8(error.what()));
+        status = Program::refused;
+    }
+    Report report;
+    report.setStatus(status);
+    return report;
 }
 
 struct Shell {
@@ -79,9 +97,7 @@ struct Shell {
             if (!runLine(program, *line, status))
                 break;
         }
-        Report report;
-        report.setStatus(status);
-        return report;
+        return ended(call, status);
     }
 };
 
@@ -123,9 +139,7 @@ struct Watch {
                 QCoreApplication::quit();
         });
         QCoreApplication::exec();
-        Report report;
-        report.setStatus(status);
-        return report;
+        return ended(call, status);
     }
 };
 

@@ -137,6 +137,7 @@ struct Wizard {
         Answers given = answers;
         given.bank = bank.text;
         given.account = account.text;
+        call.session.refuseUnsaved();
         Session::refuseExisting(file);
         fillIn(call.session, given);
         call.session.create(file);
@@ -173,14 +174,12 @@ struct ShowTemplate {
     }
     Report run(Call &call) const
     {
-        // On a budget in memory that is never saved; a shell's own is read again.
-        const QString open = call.session.file();
+        // On a budget in memory that is never saved; a shell's own comes back.
         fillIn(call.session,
                {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
                 QObject::tr("Account"), std::nullopt, household});
         const QJsonArray rows = itemsJson(call.session);
-        if (!open.isEmpty())
-            call.session.open(open);
+        call.session.revert();
         return itemsReport(rows);
     }
 };
