@@ -4,8 +4,8 @@
 find_program(KIV_DOXYGEN doxygen)
 if(KIV_DOXYGEN)
   set(exports NUMIRA_EXPORT=)
-  foreach(library foundation accounting banking budgeting surveying tagging networking conversion
-                  interchange updating adviser storage navigation)
+  foreach(library foundation accounting banking budgeting surveying tagging networking http
+                  conversion interchange updating adviser storage navigation)
     string(TOUPPER KIV_${library}_EXPORT= macro)
     string(APPEND exports " ${macro}")
   endforeach()

@@ -3900,6 +3900,10 @@
         <translation>Art</translation>
     </message>
     <message>
+        <source>Nothing can be fetched: %1.</source>
+        <translation>Es kann nichts abgerufen werden: %1.</translation>
+    </message>
+    <message>
         <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
         <translation>Die Änderungen von „%1“ ließen sich nicht speichern; erst mit save-as sichern.</translation>
     </message>

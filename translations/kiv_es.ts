@@ -3900,6 +3900,10 @@
         <translation>tipo</translation>
     </message>
     <message>
+        <source>Nothing can be fetched: %1.</source>
+        <translation>No se puede obtener nada: %1.</translation>
+    </message>
+    <message>
         <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
         <translation>No se han podido guardar los cambios de «%1»; guárdelos antes con save-as.</translation>
     </message>

@@ -22,15 +22,7 @@ namespace internal {
 
 [[nodiscard]] QString managerDestroyed();
 [[nodiscard]] QString noSender();
-[[nodiscard]] QString addressNotAllowed();
-[[nodiscard]] QString redirectNotAllowed();
-[[nodiscard]] QString tooManyRedirects(int redirectsMax);
-[[nodiscard]] QString timedOut(qint64 milliseconds);
-[[nodiscard]] QString bodyTooLarge(qint64 bytesMax);
-[[nodiscard]] QString statusNotOk(int status);
-[[nodiscard]] QString contentEncoded();
-/// `error` is the name of a QNetworkReply::NetworkError.
-[[nodiscard]] QString transferFailed(const QString &error);
+[[nodiscard]] QString httpMissing(const QString &cause);
 
 [[nodiscard]] ReplyError requestFailed(const QString &reason);
 [[nodiscard]] ReplyError notJsonType(const QString &contentType);

@@ -1,38 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networking/http_request_sender.h"
 
-#include "networking/internal/http_exchange.h"
-
-#include <QtNetwork/QNetworkAccessManager>
+#include "networking/internal/http_transport.h"
 
 namespace kiv::networking {
 
-HttpRequestSender::HttpRequestSender(const HttpLimits &limits)
-    : m_limits(limits), m_network(std::make_unique<QNetworkAccessManager>())
-{
-}
+HttpRequestSender::HttpRequestSender(const HttpLimits &limits) : m_limits(limits) {}
 
 HttpRequestSender::~HttpRequestSender() = default;
 
 void HttpRequestSender::send(RequestNumber request, const QUrl &url)
 {
-    auto exchange = std::make_unique<internal::HttpExchange>(*m_network, m_limits);
-    auto &started = *exchange;
-    m_exchanges.insert_or_assign(request, std::move(exchange));
-    connect(&started, &internal::HttpExchange::finished, this,
-            [this, request](const Response &response) {
-                // The exchange is still running the code that called this.
-                auto *done = m_exchanges.extract(request).mapped().release();
-                done->setParent(this);
-                done->deleteLater();
-                emit answered(request, response);
-            });
-    started.start(url);
+    if (!m_transport)
+        m_transport = internal::loadHttpTransport(m_limits, KIV_HTTP_LIBRARY);
+    m_transport->start(request, url, [this, request](const Response &response) {
+        emit answered(request, response);
+    });
 }
 
 void HttpRequestSender::cancel(RequestNumber request)
 {
-    m_exchanges.erase(request);
+    if (m_transport)
+        m_transport->cancel(request);
 }
 
 } // namespace kiv::networking

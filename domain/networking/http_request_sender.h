@@ -5,17 +5,12 @@
 #include "networking/request_sender.h"
 
 #include <chrono>
-#include <map>
 #include <memory>
-
-QT_BEGIN_NAMESPACE
-class QNetworkAccessManager;
-QT_END_NAMESPACE
 
 namespace kiv::networking {
 
 namespace internal {
-class HttpExchange;
+class HttpTransport;
 }
 
 /// How much a server may ask of us.
@@ -35,6 +30,9 @@ struct HttpLimits {
 /// HTTP. Only a reply with status 200, complete in time and no larger than the
 /// limit, is a success; no more than the limit is ever read. No cookie is kept
 /// and nothing cached.
+///
+/// What speaks HTTP, Qt Network, is loaded with the first request. Where it is
+/// missing, every request fails and says so.
 class KIV_NETWORKING_EXPORT HttpRequestSender final : public RequestSender {
     Q_OBJECT
 public:
@@ -47,8 +45,7 @@ public:
 
 private:
     HttpLimits m_limits;
-    std::unique_ptr<QNetworkAccessManager> m_network;
-    std::map<RequestNumber, std::unique_ptr<internal::HttpExchange>> m_exchanges;
+    std::unique_ptr<internal::HttpTransport> m_transport;
 };
 
 } // namespace kiv::networking

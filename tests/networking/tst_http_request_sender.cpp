@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QtTest/QtTest>
 
+#include "http/internal/url_rules.h"
 #include "networking/http_request_sender.h"
-#include "networking/internal/url_rules.h"
+#include "networking/internal/http_transport.h"
 
 #include "support/loopback_server.h"
 #include "support/message_log.h"
@@ -151,6 +152,20 @@ private slots:
         QVERIFY(leading.requests().size() == 1 && plain.requests().isEmpty());
     }
 
+    void requestsFailWhenWhatSpeaksHttpIsMissing()
+    {
+        const auto transport = kiv::networking::internal::loadHttpTransport({}, "libkiv-none.so.1");
+        QStringList failures;
+        const auto note = [&](const Response &response) { failures << response.failure(); };
+        transport->start(1, QUrl(), note);
+        transport->start(2, QUrl(), note);
+        transport->cancel(1);
+        QVERIFY(failures.isEmpty());
+        QTRY_COMPARE(failures.size(), 1);
+        QVERIFY2(failures.front().startsWith(u"Nothing can be fetched: libkiv-none.so.1: "_s),
+                 qPrintable(failures.front()));
+    }
+
     void requestsCarryNoCookies()
     {
         LoopbackServer server(LoopbackServer::answer("{}", "application/json", "200 OK",
@@ -183,7 +198,7 @@ private slots:
 
     void knowsWhereItMayGo()
     {
-        using kiv::networking::internal::isRedirectAllowed;
+        using kiv::http::internal::isRedirectAllowed;
         const auto may = [](const char *from, const char *to) {
             return isRedirectAllowed(QUrl(QString::fromLatin1(from)),
                                      QUrl(QString::fromLatin1(to)));

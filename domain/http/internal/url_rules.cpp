@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "networking/internal/url_rules.h"
+#include "http/internal/url_rules.h"
 
 #include <QtNetwork/QHostAddress>
 
-namespace kiv::networking::internal {
+namespace kiv::http::internal {
 
 namespace {
 
@@ -27,4 +27,4 @@ bool isRedirectAllowed(const QUrl &from, const QUrl &to)
     return isAllowed(to) && to.host() == from.host() && (isHttps(to) || !isHttps(from));
 }
 
-} // namespace kiv::networking::internal
+} // namespace kiv::http::internal

@@ -13,14 +13,14 @@ class QNetworkAccessManager;
 class QNetworkReply;
 QT_END_NAMESPACE
 
-namespace kiv::networking::internal {
+namespace kiv::http::internal {
 
 /// One request over HTTP with all its redirects, within the limits. Destroying
 /// it gives the request up.
 class HttpExchange final : public QObject {
     Q_OBJECT
 public:
-    HttpExchange(QNetworkAccessManager &network, const HttpLimits &limits);
+    HttpExchange(QNetworkAccessManager &network, const networking::HttpLimits &limits);
     ~HttpExchange() override;
 
     /// Begins; `finished` follows once, later.
@@ -35,15 +35,15 @@ private:
     void onReadyRead();
     void onReplyFinished();
     void followRedirect();
-    void finish(const Response &response);
+    void finish(const networking::Response &response);
     void dropReply();
 
     QNetworkAccessManager &m_network;
-    HttpLimits m_limits;
+    networking::HttpLimits m_limits;
     QNetworkReply *m_reply = nullptr;
     QTimer m_deadline;
     QByteArray m_body;
     int m_redirects = 0;
 };
 
-} // namespace kiv::networking::internal
+} // namespace kiv::http::internal

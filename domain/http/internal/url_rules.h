@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "networking/export.h"
+#include "http/export.h"
 
 #include <QtCore/QUrl>
 
-namespace kiv::networking::internal {
+namespace kiv::http::internal {
 
 /// HTTPS, or plain HTTP to a loopback address written as a number (a name such
 /// as "localhost" may be resolved to anything).
-[[nodiscard]] KIV_NETWORKING_EXPORT bool isAllowed(const QUrl &url);
+[[nodiscard]] KIV_HTTP_EXPORT bool isAllowed(const QUrl &url);
 
 /// To an allowed address on the same host, and not from HTTPS to plain HTTP.
-[[nodiscard]] KIV_NETWORKING_EXPORT bool isRedirectAllowed(const QUrl &from, const QUrl &to);
+[[nodiscard]] KIV_HTTP_EXPORT bool isRedirectAllowed(const QUrl &from, const QUrl &to);
 
-} // namespace kiv::networking::internal
+} // namespace kiv::http::internal

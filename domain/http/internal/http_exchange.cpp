@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "networking/internal/http_exchange.h"
+#include "http/internal/http_exchange.h"
 
-#include "networking/errors.h"
-#include "networking/internal/url_rules.h"
+#include "http/internal/failures.h"
+#include "http/internal/url_rules.h"
 
 #include <QtCore/QMetaEnum>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
 #include <QtNetwork/QNetworkRequest>
 
-namespace kiv::networking::internal {
+namespace kiv::http::internal {
+
+using networking::HttpLimits;
+using networking::Response;
 
 namespace {
 
@@ -157,4 +160,4 @@ void HttpExchange::dropReply()
     m_reply = nullptr;
 }
 
-} // namespace kiv::networking::internal
+} // namespace kiv::http::internal

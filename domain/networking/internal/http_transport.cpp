@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "networking/internal/http_transport.h"
+
+#include "networking/errors.h"
+
+#include <QtCore/QObject>
+
+#include <dlfcn.h>
+#include <set>
+
+namespace kiv::networking::internal {
+
+namespace {
+
+/// What is left when there is no library that speaks HTTP.
+class MissingTransport final : public HttpTransport {
+public:
+    explicit MissingTransport(QString reason) : m_reason(std::move(reason)) {}
+
+    void start(RequestNumber request, const QUrl &, Done done) override
+    {
+        m_requests.insert(request);
+        QMetaObject::invokeMethod(
+            &m_context,
+            [this, request, done = std::move(done)] {
+                if (m_requests.erase(request) > 0)
+                    done(Response::failed(m_reason));
+            },
+            Qt::QueuedConnection);
+    }
+
+    void cancel(RequestNumber request) override { m_requests.erase(request); }
+
+private:
+    QString m_reason;
+    std::set<RequestNumber> m_requests;
+    /// Last, so that it goes first and nothing is called while the others go.
+    QObject m_context;
+};
+
+} // namespace
+
+std::unique_ptr<HttpTransport> loadHttpTransport(const HttpLimits &limits, const char *library)
+{
+    // Not QLibrary: the loader looks next to the library that calls it, and that
+    // has to be this one. It is never unloaded, as Qt Network must not be.
+    void *handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    void *symbol = handle ? ::dlsym(handle, "kivHttpTransport") : nullptr;
+    if (!symbol)
+        return std::make_unique<MissingTransport>(httpMissing(QString::fromLocal8Bit(::dlerror())));
+    auto *make = reinterpret_cast<HttpTransport *(*)(const HttpLimits &)>(symbol);
+    return std::unique_ptr<HttpTransport>(make(limits));
+}
+
+} // namespace kiv::networking::internal
