@@ -7,6 +7,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <iostream>
+
 namespace kiv::app {
 namespace {
 
@@ -89,7 +91,10 @@ bool Program::parse(const std::vector<std::string> &words, int &status)
         }
         std::ostringstream help;
         app->exit(error, help, help);
-        m_terminal.write(QByteArray::fromStdString(help.str()));
+        if (m_isSilent)
+            std::cerr << help.str();
+        else
+            m_terminal.write(QByteArray::fromStdString(help.str()));
         return false;
     }
     return true;

@@ -29,11 +29,11 @@ Navigator &Session::navigator()
             std::make_unique<storage::RatesFile>(folder + QStringLiteral("/rates")));
         writeNumbersAsUser();
         // The offer of the first-time wizard empties the budget; who works on a
-        // file wants that file.
+        // file wants what was in memory.
         QObject::connect(m_navigator.get(), &Navigator::showNewBudgetFirstTimeWizard,
                          m_navigator.get(), [this] {
                              if (!m_file.isEmpty())
-                                 m_navigator->onConfirmedLoadBudgetFile(m_file, false);
+                                 revert();
                          });
     }
     return *m_navigator;

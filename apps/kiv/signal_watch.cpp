@@ -3,6 +3,7 @@
 
 #include <QtCore/QDebug>
 #include <QtCore/QMetaMethod>
+#include <QtCore/QVariant>
 
 namespace kiv::app {
 namespace {
@@ -13,6 +14,10 @@ QJsonValue valueOf(QMetaType type, const void *argument)
         return *static_cast<const QString *>(argument);
     if (type == QMetaType::fromType<bool>())
         return *static_cast<const bool *>(argument);
+    // One that holds nothing equals a new one.
+    if (QByteArrayView(type.name()).startsWith("std::optional<") &&
+        type.equals(argument, QVariant(type).constData()))
+        return QJsonValue::Null;
     QString text;
     QDebug debug(&text);
     debug.nospace().noquote();

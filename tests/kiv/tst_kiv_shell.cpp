@@ -173,14 +173,19 @@ private slots:
     {
         const Household home;
         QVERIFY(home.begin());
-        const Ended ended = home.run("watch", "account add Rent --type expense\nbill add Gym 30\n");
+        const Ended ended = home.run("watch", "account add Rent --type expense\nbill add Gym 30\n"
+                                              "help bill");
         QCOMPARE(ended.status, 1);
         QStringList signalNames;
-        for (const QByteArray &line : ended.out.split('\n')) {
+        for (const QByteArray &line : ended.out.trimmed().split('\n')) {
             const QJsonDocument told = QJsonDocument::fromJson(line);
+            QVERIFY2(told.isObject(), line.constData());
             signalNames += told["signal"_L1].toString();
+            const QJsonValue arguments = told["arguments"_L1];
             if (signalNames.last() == u"saveSucceeded")
-                QCOMPARE(told["arguments"_L1]["source"_L1].toString(), u"Gym"_s);
+                QCOMPARE(arguments["source"_L1].toString(), u"Gym"_s);
+            if (signalNames.last() == u"accountSaveFailed")
+                QVERIFY(arguments["original"_L1].isNull() && arguments["displayed"_L1].isString());
         }
         QVERIFY(signalNames.indexOf(u"loadedBudgetFile"_s) <
                 signalNames.indexOf(u"accountSaveFailed"_s));
