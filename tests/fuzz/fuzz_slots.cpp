@@ -27,7 +27,8 @@ public:
     void make(Navigator &n)
     {
         static const Rows rows = allRequests();
-        switch (m_bytes.ConsumeIntegralInRange(0, 15)) {
+        m_kind = m_bytes.ConsumeIntegralInRange(0, 15);
+        switch (m_kind) {
         case 0:
             return n.onAddedAct({accounting::AccountTypes(pick(6)), account(), amount(), false});
         case 1:
@@ -62,6 +63,15 @@ public:
         default:
             return rows.at(std::size_t(pick(int(rows.size())))).second(n);
         }
+    }
+
+    /// Whether the last one may leave a trace when it fails, on purpose:
+    /// docs/domain.md gives the reasons. What comes from the list is unknown.
+    [[nodiscard]] bool mayLeaveTrace() const
+    {
+        constexpr int renaming[] = {1, 11};
+        constexpr int survey = 14;
+        return std::ranges::count(renaming, m_kind) > 0 || m_kind >= survey;
     }
 
 private:
@@ -103,6 +113,7 @@ private:
     }
 
     FuzzedDataProvider &m_bytes;
+    int m_kind = 0;
 };
 
 storage::BudgetStorage::Data throughFile(const QString &path,
@@ -144,7 +155,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             continue;
         }
         const QString said = desk.take().join(u'\n');
-        if (said.contains(u"Failed(") && !said.contains(u"Succeeded("))
+        if (!any.mayLeaveTrace() && said.contains(u"Failed(") && !said.contains(u"Succeeded("))
             require(desk.save() == before, "a refused request changes nothing", said);
     }
     const storage::BudgetStorage::Data made = desk.save("made.budget");
