@@ -9,6 +9,7 @@ namespace kiv::navigation {
 using accounting::AccountCode;
 using banking::Bank;
 using banking::BankName;
+using internal::tell;
 
 // ---- accounts ----------------------------------------------------------------
 
@@ -27,8 +28,10 @@ void Navigator::onAddedAct(const accounting::Account &act)
                 internal::logDone("Added account opening balance in txn num:", opening->integer());
             }
         },
-        [&] { emit accountSaveSucceeded(act.code()); },
-        [&](const QString &why) { emit accountSaveFailed(std::nullopt, why, act.code()); });
+        [&] { tell(this, &Navigator::accountSaveSucceeded, act.code()); },
+        [&](const QString &why) {
+            tell(this, &Navigator::accountSaveFailed, std::nullopt, why, act.code());
+        });
 }
 
 void Navigator::onRecoded(const AccountCode &current, const AccountCode &changed)
@@ -37,32 +40,34 @@ void Navigator::onRecoded(const AccountCode &current, const AccountCode &changed
         "Failed to recode an account.", [&] { m_budgetBankLedgers->recode(current, changed); },
         // The view still shows the account under its old code and finds it by
         // that; a renamed bank account is found by its new one.
-        [&] { emit accountSaveSucceeded(current); },
-        [&](const QString &why) { emit accountSaveFailed(current, why, changed); });
+        [&] { tell(this, &Navigator::accountSaveSucceeded, current); },
+        [&](const QString &why) {
+            tell(this, &Navigator::accountSaveFailed, current, why, changed);
+        });
 }
 
 void Navigator::onClosed(const AccountCode &code)
 {
     change(
         "Failed to close an account.", [&] { m_budgetBankLedgers->close(code); },
-        [&] { emit accountSaveSucceeded(code); },
-        [&](const QString &why) { emit accountSaveFailed(code, why, code); });
+        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
+        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
 }
 
 void Navigator::onOpened(const AccountCode &code)
 {
     change(
         "Failed to reopen an account.", [&] { m_budgetBankLedgers->open(code); },
-        [&] { emit accountSaveSucceeded(code); },
-        [&](const QString &why) { emit accountSaveFailed(code, why, code); });
+        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
+        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
 }
 
 void Navigator::onRemovedAct(const AccountCode &code)
 {
     change(
         "Failed to remove an account.", [&] { m_budgetBankLedgers->remove(code); },
-        [&] { emit accountSaveSucceeded(code); },
-        [&](const QString &why) { emit accountSaveFailed(code, why, code); });
+        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
+        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
 }
 
 void Navigator::onPrepareShowLedgers()
@@ -94,50 +99,54 @@ void Navigator::onBankAdded(const Bank &b)
             m_budgetBankLedgers->add(b);
             internal::logDone("Successfully added bank", b);
         },
-        [&] { emit bankSaveSucceeded(b.name()); },
+        [&] { tell(this, &Navigator::bankSaveSucceeded, b.name()); },
         // Nothing stood there before the bank was to be added.
-        [&](const QString &why) { emit bankSaveFailed(std::nullopt, why, b.name()); });
+        [&](const QString &why) {
+            tell(this, &Navigator::bankSaveFailed, std::nullopt, why, b.name());
+        });
 }
 
 void Navigator::onBankUpdated(const Bank &b)
 {
     change(
         "Failed to update a bank.", [&] { m_budgetBankLedgers->update(b); },
-        [&] { emit bankSaveSucceeded(b.name()); },
+        [&] { tell(this, &Navigator::bankSaveSucceeded, b.name()); },
         // The view shows its own edited bank, which has no other name.
-        [&](const QString &why) { emit bankSaveFailed(b.name(), why, std::nullopt); });
+        [&](const QString &why) {
+            tell(this, &Navigator::bankSaveFailed, b.name(), why, std::nullopt);
+        });
 }
 
 void Navigator::onBankRenamed(const BankName &original, const BankName &change)
 {
     this->change(
         "Failed to rename a bank.", [&] { m_budgetBankLedgers->rename(original, change); },
-        [&] { emit bankSaveSucceeded(change); },
-        [&](const QString &why) { emit bankSaveFailed(original, why, change); });
+        [&] { tell(this, &Navigator::bankSaveSucceeded, change); },
+        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, original, why, change); });
 }
 
 void Navigator::onBankClosed(const BankName &bn)
 {
     change(
         "Failed to close a bank.", [&] { m_budgetBankLedgers->close(bn); },
-        [&] { emit bankSaveSucceeded(bn); },
-        [&](const QString &why) { emit bankSaveFailed(bn, why, bn); });
+        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
+        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
 }
 
 void Navigator::onBankOpened(const BankName &bn)
 {
     change(
         "Failed to reopen a bank.", [&] { m_budgetBankLedgers->open(bn); },
-        [&] { emit bankSaveSucceeded(bn); },
-        [&](const QString &why) { emit bankSaveFailed(bn, why, bn); });
+        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
+        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
 }
 
 void Navigator::onBankRemoved(const BankName &bn)
 {
     change(
         "Failed to remove a bank.", [&] { m_budgetBankLedgers->remove(bn); },
-        [&] { emit bankSaveSucceeded(bn); },
-        [&](const QString &why) { emit bankSaveFailed(bn, why, bn); });
+        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
+        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
 }
 
 // ---- bank accounts -----------------------------------------------------------
@@ -150,10 +159,11 @@ std::optional<AccountCode> Navigator::onAddedBankAccount(const QString &name,
     change(
         "Failed to add a bank account.",
         [&] { added = m_budgetBankLedgers->addAccount(name, type, openingBalance); },
-        [&] { emit bankAccountSaveSucceeded(*added); },
+        [&] { tell(this, &Navigator::bankAccountSaveSucceeded, *added); },
         [&](const QString &why) {
             // There is no number yet, so the view finds its row by the name.
-            emit bankAccountSaveFailed(std::nullopt, why, AccountCode(name, std::nullopt));
+            tell(this, &Navigator::bankAccountSaveFailed, std::nullopt, why,
+                 AccountCode(name, std::nullopt));
         });
     return added;
 }
@@ -162,16 +172,18 @@ void Navigator::onRenamedBankAccount(const AccountCode &original, const AccountC
 {
     change(
         "Failed to rename a bank account.", [&] { m_budgetBankLedgers->recode(original, changed); },
-        [&] { emit bankAccountSaveSucceeded(changed); },
-        [&](const QString &why) { emit bankAccountSaveFailed(original, why, changed); });
+        [&] { tell(this, &Navigator::bankAccountSaveSucceeded, changed); },
+        [&](const QString &why) {
+            tell(this, &Navigator::bankAccountSaveFailed, original, why, changed);
+        });
 }
 
 void Navigator::onRemovedBankAccount(const AccountCode &ac)
 {
     change(
         "Failed to remove a bank account.", [&] { m_budgetBankLedgers->remove(ac); },
-        [&] { emit bankAccountSaveSucceeded(ac); },
-        [&](const QString &why) { emit bankAccountSaveFailed(ac, why, ac); });
+        [&] { tell(this, &Navigator::bankAccountSaveSucceeded, ac); },
+        [&](const QString &why) { tell(this, &Navigator::bankAccountSaveFailed, ac, why, ac); });
 }
 
 void Navigator::onLookUpBankAccounts(const BankName &bn, const AllowSubAccounts &shouldAllow)
@@ -180,7 +192,7 @@ void Navigator::onLookUpBankAccounts(const BankName &bn, const AllowSubAccounts 
     for (const auto &[number, type] :
          m_budgetBankLedgers->bankLedgers().bankAccountTypes(bn, shouldAllow))
         accountTypes.insert({number, type});
-    emit lookedUpBankAccounts(bn, accountTypes);
+    tell(this, &Navigator::lookedUpBankAccounts, bn, accountTypes);
 }
 
 } // namespace kiv::navigation

@@ -50,7 +50,7 @@ void Navigator::onConfirmedNewBudgetEmpty()
 void Navigator::onLoadBudgetFile(const QString &filePathName)
 {
     if (m_isDirty) {
-        emit showConfirmLoadBudgetFile(filePathName);
+        internal::tell(this, &Navigator::showConfirmLoadBudgetFile, filePathName);
         return;
     }
     onConfirmedLoadBudgetFile(filePathName, false);

@@ -11,6 +11,7 @@ using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetItemTypes;
 using budgeting::BudgetSource;
 using budgeting::ItemTraits;
+using internal::tell;
 
 namespace {
 
@@ -143,8 +144,10 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
                 type, "An unknown budget item type was supplied when adding a new entry.", add);
             m_tagManager = std::move(tags);
         },
-        [&] { emit saveSucceeded(id, item.source()); },
-        [&](const QString &why) { emit saveFailed(id, std::nullopt, why, item.source()); });
+        [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
+        [&](const QString &why) {
+            tell(this, &Navigator::saveFailed, id, std::nullopt, why, item.source());
+        });
 }
 
 void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes &type,
@@ -171,8 +174,10 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
                            update);
             m_tagManager = std::move(tags);
         },
-        [&] { emit saveSucceeded(id, item.source()); },
-        [&](const QString &why) { emit saveFailed(id, item.source(), why, item.source()); });
+        [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
+        [&](const QString &why) {
+            tell(this, &Navigator::saveFailed, id, item.source(), why, item.source());
+        });
 }
 
 void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes &type,
@@ -192,8 +197,10 @@ void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes 
         },
         // The old name, on purpose: by it the view finds the row that it asked
         // to rename, and it knows the new one already.
-        [&] { emit saveSucceeded(id, original); },
-        [&](const QString &why) { emit saveFailed(id, original, why, changed); });
+        [&] { tell(this, &Navigator::saveSucceeded, id, original); },
+        [&](const QString &why) {
+            tell(this, &Navigator::saveFailed, id, original, why, changed);
+        });
 }
 
 void Navigator::onRemoved(const GuiElementIdentifier &id, const BudgetItemTypes &type,
@@ -208,8 +215,8 @@ void Navigator::onRemoved(const GuiElementIdentifier &id, const BudgetItemTypes 
             m_budgetBankLedgers->remove(item);
             m_tagManager = std::move(tags);
         },
-        [&] { emit saveSucceeded(id, source); },
-        [&](const QString &why) { emit saveFailed(id, source, why, source); });
+        [&] { tell(this, &Navigator::saveSucceeded, id, source); },
+        [&](const QString &why) { tell(this, &Navigator::saveFailed, id, source, why, source); });
 }
 
 // ---- looking up --------------------------------------------------------------
@@ -227,7 +234,7 @@ void Navigator::onLookUpBudgetItemSources(const budgeting::BudgetItemDueIdentifi
                            sources = m_budgetBankLedgers->budget().items<Item>().sources();
                        });
     }
-    emit lookedUpBudgetItemSources(requestedBy, sources);
+    tell(this, &Navigator::lookedUpBudgetItemSources, requestedBy, sources);
 }
 
 } // namespace kiv::navigation

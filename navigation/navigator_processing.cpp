@@ -8,6 +8,7 @@ namespace kiv::navigation {
 
 using accounting::TransactionNumber;
 using budgeting::BudgetItemDueIdentifier;
+using internal::tell;
 
 void Navigator::onPrepareShowProcessBudgetItems()
 {
@@ -30,8 +31,10 @@ void Navigator::onPostBudgetItemPosted(const budgeting::BudgetItemAmountDue &bid
     change<std::exception>(
         "Failed to process budget item due.",
         [&] { posted = m_budgetBankLedgers->process(bid, ac, postOn); },
-        [&] { emit processBudgetItemSaveSucceeded(bid.id, posted); },
-        [&](const QString &why) { emit processBudgetItemSaveFailed(bid.id, why); });
+        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bid.id, posted); },
+        [&](const QString &why) {
+            tell(this, &Navigator::processBudgetItemSaveFailed, bid.id, why);
+        });
 }
 
 void Navigator::onPostBudgetItemPostedUnexpected(const BudgetItemDueIdentifier &bidi,
@@ -43,16 +46,20 @@ void Navigator::onPostBudgetItemPostedUnexpected(const BudgetItemDueIdentifier &
     change<std::exception>(
         "Failed to process budget item unexpected.",
         [&] { posted = m_budgetBankLedgers->process(bidi.item(), amount, ac, postOn); },
-        [&] { emit processBudgetItemSaveSucceeded(bidi, posted); },
-        [&](const QString &why) { emit processBudgetItemSaveFailed(bidi, why); });
+        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bidi, posted); },
+        [&](const QString &why) {
+            tell(this, &Navigator::processBudgetItemSaveFailed, bidi, why);
+        });
 }
 
 void Navigator::onPostBudgetItemSkipped(const BudgetItemDueIdentifier &bidi)
 {
     change<std::exception>(
         "Failed to skip budget item due.", [&] { m_budgetBankLedgers->skip(bidi.item()); },
-        [&] { emit processBudgetItemSaveSucceeded(bidi, std::nullopt); },
-        [&](const QString &why) { emit processBudgetItemSaveFailed(bidi, why); });
+        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bidi, std::nullopt); },
+        [&](const QString &why) {
+            tell(this, &Navigator::processBudgetItemSaveFailed, bidi, why);
+        });
 }
 
 } // namespace kiv::navigation

@@ -9,6 +9,7 @@ namespace kiv::navigation {
 using accounting::AccountNumber;
 using accounting::Transaction;
 using accounting::TransactionNumber;
+using internal::tell;
 
 namespace {
 
@@ -35,16 +36,18 @@ void Navigator::onAddedTransaction(const Transaction &txn)
     TransactionNumber posted;
     change(
         "Failed to add a transaction.", [&] { posted = m_budgetBankLedgers->post(txn); },
-        [&] { emit transactionSaveSucceeded(txn.number(), posted); },
-        [&](const QString &why) { emit transactionSaveFailed(txn.number(), why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, txn.number(), posted); },
+        [&](const QString &why) {
+            tell(this, &Navigator::transactionSaveFailed, txn.number(), why);
+        });
 }
 
 void Navigator::onUpdatedTransaction(const TransactionNumber &tn, const Transaction &txn)
 {
     change(
         "Failed to update a transaction.", [&] { m_budgetBankLedgers->repost(tn, txn); },
-        [&] { emit transactionSaveSucceeded(tn, tn); },
-        [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
 }
 
 void Navigator::onMarkCleared(const std::set<TransactionNumber> &tns)
@@ -59,7 +62,7 @@ void Navigator::onMarkCleared(const std::set<TransactionNumber> &tns)
                 if (const auto found = m_budgetBankLedgers->generalLedger().lookUpTransaction(tn))
                     side = onlySideToClear(*found);
             },
-            [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+            [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
         if (isFound)
             markCleared(tn, side);
     }
@@ -75,24 +78,24 @@ void Navigator::onMarkReconciled(const TransactionNumber &tn)
 {
     change(
         "Failed to mark a transaction as reconciled.", [&] { m_budgetBankLedgers->reconcile(tn); },
-        [&] { emit transactionSaveSucceeded(tn, tn); },
-        [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
 }
 
 void Navigator::onRemovedTransaction(const TransactionNumber &tn)
 {
     change(
         "Failed to remove a transaction.", [&] { m_budgetBankLedgers->remove(tn); },
-        [&] { emit transactionSaveSucceeded(tn, tn); },
-        [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
 }
 
 void Navigator::markCleared(TransactionNumber tn, std::optional<AccountNumber> account)
 {
     change(
         markClearedFailed, [&] { m_budgetBankLedgers->clear(tn, account); },
-        [&] { emit transactionSaveSucceeded(tn, tn); },
-        [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
 }
 
 void Navigator::markUnreconciled(TransactionNumber tn)
@@ -102,8 +105,8 @@ void Navigator::markUnreconciled(TransactionNumber tn)
         // reconciled any more counts as cleared at most, and whoever searches
         // the log for clearing that failed finds both.
         markClearedFailed, [&] { m_budgetBankLedgers->unreconcile(tn); },
-        [&] { emit transactionSaveSucceeded(tn, tn); },
-        [&](const QString &why) { emit transactionSaveFailed(tn, why); });
+        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
 }
 
 // ---- transfers ---------------------------------------------------------------
@@ -132,7 +135,9 @@ void Navigator::onTransferRequested(const AccountNumber &from, const AccountNumb
     const bool isBuilt = attempt(
         "Failed to add a transaction.",
         [&] { transfer = Transaction(foundation::today(), from, to, amount, reason); },
-        [&](const QString &why) { emit transactionSaveFailed(std::nullopt, why); });
+        [&](const QString &why) {
+            tell(this, &Navigator::transactionSaveFailed, std::nullopt, why);
+        });
     if (isBuilt)
         onAddedTransaction(transfer);
 }
@@ -149,8 +154,9 @@ void Navigator::onLookUpRefundableTransactions(const budgeting::BudgetItemIdenti
 {
     // An item without an account has an empty code and nothing to refund.
     const auto code = m_budgetBankLedgers->lookUpAccountCode(bii);
-    emit lookedUpRefundableTransactions(bii, code.value_or(accounting::AccountCode()),
-                                        m_budgetBankLedgers->nonReconciledTransactions(bii));
+    tell(this, &Navigator::lookedUpRefundableTransactions, bii,
+         code.value_or(accounting::AccountCode()),
+         m_budgetBankLedgers->nonReconciledTransactions(bii));
 }
 
 void Navigator::onPostRefund(const TransactionNumber &txnNum, const numira::Money &refund)
@@ -163,9 +169,9 @@ void Navigator::onPostRefund(const TransactionNumber &txnNum, const numira::Mone
     const bool isPosted = attempt(
         "Failed to post a refund.",
         [&] { posted = m_budgetBankLedgers->postRefund(txnNum, refund); },
-        [&](const QString &why) { emit transactionSaveFailed(txnNum, why); });
+        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, txnNum, why); });
     if (isPosted)
-        emit transactionSaveSucceeded(txnNum, posted);
+        tell(this, &Navigator::transactionSaveSucceeded, txnNum, posted);
 }
 
 } // namespace kiv::navigation

@@ -37,11 +37,15 @@ void Navigator::onCompletedNewBudgetFirstTimeWizard(
     m_preferences.setUsableCurrencies(usable);
     m_preferences.setCurrenciesDisplayAs(displayAs);
 
+    // With copies: the view that asked may let go of its answers once it hears
+    // that the budget is new.
+    const auto build = [=, this] {
+        addWizardItems(selectedTemplate, preferred,
+                       addWizardBank(primary, kind, accountName, initialBalance));
+    };
     onConfirmedNewBudgetEmpty();
     try {
-        const banking::BankAccount account =
-            addWizardBank(primary, kind, accountName, initialBalance);
-        addWizardItems(selectedTemplate, preferred, account);
+        build();
         // Once more: the first announcement emptied the views, this one lets
         // them ask for what was built.
         emit showNewBudget();

@@ -5,6 +5,8 @@
 #include "navigation/internal/logging.h"
 #include "navigation/navigator.h"
 
+#include <tuple>
+
 // The one shape of the Navigator's changing slots, for its own sources.
 namespace kiv::navigation {
 
@@ -26,6 +28,15 @@ template <typename Value>
 Value copied(const Value &value)
 {
     return value;
+}
+
+/// Emits the signal with copies, so that all views hear the same, whatever the
+/// first of them does with what it had handed in.
+template <typename... Parameters, typename... Values>
+void tell(Navigator *navigator, void (Navigator::*signal)(Parameters...), const Values &...values)
+{
+    const std::tuple<std::remove_cvref_t<Parameters>...> told(values...);
+    std::apply([&](const auto &...each) { (navigator->*signal)(each...); }, told);
 }
 
 } // namespace internal

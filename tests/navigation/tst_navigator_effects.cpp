@@ -32,6 +32,7 @@ private slots:
     void transferIsDatedToday();
     void addedBankAccountReturnsItsCode();
     void viewsMayChangeWhatTheyDraw();
+    void viewsMayLetGoOfWhatTheyHandedIn();
     void storesEditedRates();
     void aFailedSurveyThatPostedIsAChange();
     void wizardBuildsABudget();
@@ -269,6 +270,52 @@ void NavigatorEffects::viewsMayChangeWhatTheyDraw()
     n.onPrepareShowBanks();
     QCOMPARE(drawn, texts({"Gas", "Rent", "First"}));
     QVERIFY(desk.save().budget.bills.isEmpty());
+}
+
+void NavigatorEffects::viewsMayLetGoOfWhatTheyHandedIn()
+{
+    Desk desk;
+    desk.furnish();
+    Navigator &n = *desk.navigator;
+    struct Held {
+        budgeting::BudgetSource item = source("Rent");
+        budgeting::BudgetItemAmountDue due{
+            {budgeting::BudgetItemTypes::Nontrack, source("Food"), day("2026-01-31")}, usd("1")};
+        accounting::AccountCode account = code(8, "Sundries");
+        accounting::TransactionNumber number = txn(2);
+        banking::BankName bank = bankName("First");
+        QString text = QStringLiteral("Daily");
+    } held;
+    SignalLog asking(n);
+    asking.annotate([&held](const QString &) {
+        held = {{}, {}, {}, {}, {}, {}};
+        return QString();
+    });
+    SignalLog other(n);
+    for (SignalLog *log : {&asking, &other}) // the desk's own question
+        log->ignore(QStringLiteral("checkedIsBudgetFileDirty"), true);
+    const std::vector<std::function<void()>> requests{
+        [&] { n.onPostBudgetItemPosted(held.due, code(1, ""), day("2026-02-01")); },
+        [&] {
+            n.onRenamed(element(), budgeting::BudgetItemTypes::Bill, held.item, source("Home"));
+        },
+        [&] { n.onClosed(held.account); },
+        [&] { n.onBankClosed(held.bank); }, // is refused
+        [&] { n.onRemovedTransaction(held.number); },
+        [&] { n.onLoadBudgetFile(held.text); },
+        [&] {
+            n.onCompletedNewBudgetFirstTimeWizard(
+                numira::toCurrency("USD"), {numira::toCurrency("USD")},
+                navigation::CurrencyDisplayOptions::Symbol, held.bank, BankAccountTypes::Checking,
+                held.text, usd("1"), navigation::BudgetWizardTemplates::None);
+        },
+    };
+    for (const auto &request : requests) {
+        held = {};
+        request();
+        QCOMPARE(other.take(), asking.take());
+    }
+    QVERIFY(desk.save().banks.hasBank(bankName("First")));
 }
 
 void NavigatorEffects::whatAReceiverThrowsIsNoFailure()
