@@ -39,7 +39,7 @@ void LedgerReplay::addAccount(AccountTypes type, const AccountCode &code,
     m_ledger.change().insertAccount(type, code, currency, holdsOpenings);
 }
 
-void LedgerReplay::post(const Transaction &transaction)
+void LedgerReplay::post(Transaction transaction)
 {
     const LedgerState &state = *m_ledger.m_state;
     const TransactionNumber number = transaction.number().value_or(TransactionNumber());
@@ -50,7 +50,7 @@ void LedgerReplay::post(const Transaction &transaction)
     internal::checkTransaction(state, transaction, number);
     checkSide(state.account(transaction.debiting().number()), transaction.debitAmount(), number);
     checkSide(state.account(transaction.crediting().number()), transaction.creditAmount(), number);
-    m_ledger.change().exchange(number, internal::plainRecord(transaction));
+    m_ledger.change().exchange(number, internal::plainRecord(std::move(transaction)));
 }
 
 void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber original)

@@ -24,7 +24,7 @@ public:
     /// Refused besides: no number or one in use, a side amount that is not
     /// positive or not in its account's currency. A side in the entered currency
     /// may differ from the entered amount, as after GeneralLedger::convertTo.
-    void post(const Transaction &transaction);
+    void post(Transaction transaction);
     /// `number` gives back some of `original`: accounts swapped, not more than
     /// is left, neither a refund of another.
     void markRefund(TransactionNumber number, TransactionNumber original);

@@ -53,6 +53,11 @@ public:
     {
         return m_description;
     }
+    /// The description out of a transaction that is not needed any more.
+    [[nodiscard]] std::optional<QString> takeDescription() &&noexcept
+    {
+        return std::exchange(m_description, std::nullopt);
+    }
     /// The ledger's number; nothing before it is posted.
     [[nodiscard]] const std::optional<TransactionNumber> &number() const noexcept
     {

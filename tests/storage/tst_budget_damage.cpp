@@ -88,11 +88,18 @@ class BudgetDamageTest final : public QObject {
     Q_OBJECT
 
 private slots:
+    void cleanup()
+    {
+        for (const QString &name : m_folder.names())
+            QFile::remove(m_folder.path(name));
+    }
+
     void noFlippedBitAndNoTruncationIsRead();
     void noFlippedBitOfTheSmallestFileIsRead();
     void noFlippedBitOfTheLargestFileIsRead();
     void hostileFilesAreRefusedAtOnce_data();
     void hostileFilesAreRefusedAtOnce();
+    void theFirstWrongRowOfAFullFileIsNamed();
     void aSealThatWasMadeAgainIsRight();
     void everyPromiseIsJudged();
 
@@ -290,8 +297,32 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce()
     const QString verdicts = verdictsOn(m_path);
     QVERIFY2(verdicts.size() == 5 && verdicts.count(u'B') == 1, qPrintable(verdicts));
     QCOMPARE(m_folder.read(QStringLiteral("a.budget")), before);
-    for (const QString &name : m_folder.names())
-        QFile::remove(m_folder.path(name));
+}
+
+void BudgetDamageTest::theFirstWrongRowOfAFullFileIsNamed()
+{
+    const QString noText = u"The row 30000 of the table 'transactions' has a malformed text."_s;
+    const QString ruled = u"A transaction cannot debit and credit the same account '1 a'."_s;
+    const char *const badText =
+        "UPDATE transactions SET description = CAST(x'ff' AS TEXT) WHERE number = 30000";
+    test::store(m_path, fullBudget());
+    const QByteArray whole = m_folder.read(u"a.budget"_s);
+    // Rows are read and posted by different threads, one ahead of the other.
+    for (const auto &[sql, reason] :
+         {std::pair("SELECT 1", noText),
+          {"UPDATE transactions SET credit = 1 WHERE number = 29999", ruled},
+          {"UPDATE transactions SET credit = 1 WHERE number > 30000", noText},
+          {"UPDATE transactions SET date = '' WHERE number = 65000", noText}}) {
+        m_folder.write(u"a.budget"_s, whole);
+        test::operate(m_path, std::array{badText, sql});
+        test::sealAgain(m_path);
+        try {
+            (void)test::load(m_path);
+            QFAIL("It was read.");
+        } catch (const storage::StorageError &error) {
+            QVERIFY2(QString::fromUtf8(error.what()).endsWith(reason), error.what());
+        }
+    }
 }
 
 void BudgetDamageTest::aSealThatWasMadeAgainIsRight()

@@ -100,13 +100,13 @@ TransactionRecord newRecord(const LedgerState &state, const Transaction &transac
     return record;
 }
 
-TransactionRecord plainRecord(const Transaction &transaction)
+TransactionRecord plainRecord(Transaction transaction)
 {
     TransactionRecord record{.occurredOn = transaction.occurredOn(),
                              .debit = transaction.debiting().number(),
                              .credit = transaction.crediting().number(),
                              .amount = transaction.amount(),
-                             .description = transaction.description(),
+                             .description = std::move(transaction).takeDescription(),
                              .debitStatus = transaction.debitStatus(),
                              .creditStatus = transaction.creditStatus(),
                              .refundOf = std::nullopt,

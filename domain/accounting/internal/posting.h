@@ -39,6 +39,6 @@ void checkTransaction(const LedgerState &state, const Transaction &transaction,
                                           TransactionNumber number,
                                           const TransactionRecord *before = nullptr);
 /// The transaction as the ledger keeps it, without any check.
-[[nodiscard]] TransactionRecord plainRecord(const Transaction &transaction);
+[[nodiscard]] TransactionRecord plainRecord(Transaction transaction);
 
 } // namespace kiv::accounting::internal

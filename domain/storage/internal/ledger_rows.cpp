@@ -3,6 +3,8 @@
 
 #include "accounting/errors.h"
 #include "accounting/ledger_replay.h"
+#include "storage/internal/pipeline.h"
+#include "storage/internal/text_codec.h"
 
 #include <QtCore/QObject>
 
@@ -102,51 +104,110 @@ void replayAccounts(LedgerReplay &replay, AccountRows &accounts)
     }
 }
 
-/// The transaction with the sides as they were stored.
-Transaction withStoredSides(const Transaction &transaction, const AccountRows &accounts,
-                            const std::optional<numira::Decimal> &debit,
-                            const std::optional<numira::Decimal> &credit)
+/// What stands in the row of a transaction.
+struct TransactionRow {
+    TransactionNumber number;
+    QDate date;
+    AccountNumber debit;
+    AccountNumber credit;
+    numira::Money amount;
+    std::optional<numira::Decimal> debitAmount;
+    std::optional<numira::Decimal> creditAmount;
+    TransactionStatuses debitStatus = TransactionStatuses::None;
+    TransactionStatuses creditStatus = TransactionStatuses::None;
+    /// Its description among the texts of its part, if it has one.
+    std::optional<std::pair<std::size_t, std::size_t>> description;
+};
+
+/// Some rows that follow each other.
+struct TransactionRows {
+    std::vector<TransactionRow> rows;
+    std::vector<char> texts;
+};
+constexpr std::size_t rowsInPart = 256;
+
+using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
+
+TransactionRow readTransaction(RowReader &row, std::vector<char> &texts, Refunds &refunds)
 {
+    if (row.key() > transactionNumberMax)
+        row.refuse("has a number that no transaction has");
+    TransactionRow read;
+    read.number = toTransactionNumber(row.key());
+    read.date = row.date();
+    read.debit = toAccountNumber(row.integer(1, accountNumberMax));
+    read.credit = toAccountNumber(row.integer(1, accountNumberMax));
+    read.amount = row.money();
+    read.debitAmount = row.optionalDecimal();
+    read.creditAmount = row.optionalDecimal();
+    if (const auto text = row.optionalStoredText()) {
+        read.description.emplace(texts.size(), static_cast<std::size_t>(text->size()));
+        texts.insert(texts.end(), text->begin(), text->end());
+    }
+    read.debitStatus = row.enumerator(TransactionStatuses::Reconciled);
+    read.creditStatus = row.enumerator(TransactionStatuses::Reconciled);
+    if (const auto original = row.optionalInteger(1, transactionNumberMax))
+        refunds.emplace_back(read.number, toTransactionNumber(*original));
+    return read;
+}
+
+std::optional<QString> descriptionOf(const TransactionRow &row, const std::vector<char> &texts)
+{
+    if (!row.description)
+        return std::nullopt;
+    const auto [begin, size] = *row.description;
+    std::optional<QString> text =
+        fromStoredText({texts.data() + begin, static_cast<qsizetype>(size)});
+    if (!text)
+        throw rowFault(Table::Transactions, row.number.integer(), "has a malformed text");
+    return text;
+}
+
+/// The transaction with its sides as they were stored.
+Transaction transactionOf(const TransactionRow &row, const std::vector<char> &texts,
+                          const AccountRows &accounts)
+{
+    Transaction transaction(row.date, row.debit, row.credit, row.amount, descriptionOf(row, texts),
+                            row.number, row.debitStatus);
+    if (row.creditStatus != row.debitStatus)
+        transaction = transaction.withStatuses(row.debitStatus, row.creditStatus);
+    if (!row.debitAmount && !row.creditAmount)
+        return transaction;
     const auto side = [&](AccountNumber number, const std::optional<numira::Decimal> &amount) {
         const auto account = accounts.find(number);
         return amount && account != accounts.end()
                    ? numira::Money(account->second.currency, *amount)
-                   : transaction.amount();
+                   : row.amount;
     };
-    return transaction.withSideAmounts(side(transaction.debiting().number(), debit),
-                                       side(transaction.crediting().number(), credit));
+    return transaction.withSideAmounts(side(row.debit, row.debitAmount),
+                                       side(row.credit, row.creditAmount));
 }
-
-using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
 
 Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
                            const ImageDatabase &database, Seal &seal)
 {
     Refunds refunds;
-    RowReader row(database, Table::Transactions, seal);
-    while (row.next()) {
-        if (row.key() > transactionNumberMax)
-            row.refuse("has a number that no transaction has");
-        const TransactionNumber number = toTransactionNumber(row.key());
-        const QDate date = row.date();
-        const AccountNumber debit = toAccountNumber(row.integer(1, accountNumberMax));
-        const AccountNumber credit = toAccountNumber(row.integer(1, accountNumberMax));
-        const numira::Money amount = row.money();
-        const std::optional<numira::Decimal> debitAmount = row.optionalDecimal();
-        const std::optional<numira::Decimal> creditAmount = row.optionalDecimal();
-        std::optional<QString> description = row.optionalText();
-        const auto debitStatus = row.enumerator(TransactionStatuses::Reconciled);
-        const auto creditStatus = row.enumerator(TransactionStatuses::Reconciled);
-        Transaction transaction(date, debit, credit, amount, std::move(description), number,
-                                debitStatus);
-        if (creditStatus != debitStatus)
-            transaction = transaction.withStatuses(debitStatus, creditStatus);
-        if (debitAmount || creditAmount)
-            transaction = withStoredSides(transaction, accounts, debitAmount, creditAmount);
-        replay.post(transaction);
-        if (const auto original = row.optionalInteger(1, transactionNumberMax))
-            refunds.emplace_back(number, toTransactionNumber(*original));
+    // To read the rows of a full ledger and to apply its rules takes about as long.
+    Pipeline<TransactionRows> posting([&](TransactionRows &part) {
+        for (const TransactionRow &row : part.rows)
+            replay.post(transactionOf(row, part.texts, accounts));
+        part.rows.clear();
+        part.texts.clear();
+    });
+    TransactionRows part;
+    try {
+        RowReader row(database, Table::Transactions, seal);
+        while (row.next()) {
+            if (part.rows.size() == rowsInPart)
+                posting.add(std::exchange(part, posting.spare()));
+            part.rows.push_back(readTransaction(row, part.texts, refunds));
+        }
+    } catch (...) {
+        // The first row that is wrong is named, whatever is wrong with it.
+        posting.finish(std::move(part));
+        throw;
     }
+    posting.finish(std::move(part));
     return refunds;
 }
 

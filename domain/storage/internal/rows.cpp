@@ -108,6 +108,12 @@ RowWriter &RowWriter::bytes(QByteArray bytes)
     return *this;
 }
 
+ContentFault rowFault(Table table, std::int64_t key, const std::string &why)
+{
+    return ContentFault("The row " + std::to_string(key) + " of the table '" + nameOf(table) +
+                        "' " + why + ".");
+}
+
 RowReader::RowReader(const ImageDatabase &database, Table table, Seal &seal)
     : m_seal(seal),
       m_table(table),
@@ -138,40 +144,39 @@ bool RowReader::next()
 
 std::int64_t RowReader::integer(std::int64_t min, std::int64_t max)
 {
-    sqlite3_value *stored = nextValue();
-    if (sqlite3_value_type(stored) != SQLITE_INTEGER)
-        refuse("has something else than a number");
-    const std::int64_t value = sqlite3_value_int64(stored);
-    if (value < min || value > max)
-        refuse("has a number that means nothing");
-    m_seal.integer(value);
-    return value;
+    return integerFrom(nextValue(), min, max);
 }
 
 std::optional<std::int64_t> RowReader::optionalInteger(std::int64_t min, std::int64_t max)
 {
-    return isNull() ? std::nullopt : std::optional(integer(min, max));
+    sqlite3_value *stored = nextPresent();
+    return stored ? std::optional(integerFrom(stored, min, max)) : std::nullopt;
 }
 
 QString RowReader::text()
 {
-    std::optional<QString> text = fromStoredText(bytes());
-    if (!text)
-        refuse("has a malformed text");
-    return *std::move(text);
+    return textFrom(nextValue());
 }
 
 std::optional<QString> RowReader::optionalText()
 {
-    return isNull() ? std::nullopt : std::optional(text());
+    sqlite3_value *stored = nextPresent();
+    return stored ? std::optional(textFrom(stored)) : std::nullopt;
+}
+
+std::optional<QByteArrayView> RowReader::optionalStoredText()
+{
+    sqlite3_value *stored = nextPresent();
+    return stored ? std::optional(bytesFrom(stored)) : std::nullopt;
 }
 
 QDate RowReader::date()
 {
-    if (isNull())
+    sqlite3_value *stored = nextPresent();
+    if (!stored)
         return {};
     // Many rows have the day of the row before, and most the currency.
-    const QByteArrayView text = bytes();
+    const QByteArrayView text = bytesFrom(stored);
     if (text != QByteArrayView(m_lastDateText)) {
         m_lastDate = fromStoredDate(text);
         if (!m_lastDate.isValid())
@@ -183,18 +188,18 @@ QDate RowReader::date()
 
 numira::Decimal RowReader::decimal()
 {
-    const QByteArrayView text = bytes();
-    return numira::Decimal::fromText({text.data(), static_cast<std::size_t>(text.size())});
+    return decimalFrom(nextValue());
 }
 
 std::optional<numira::Decimal> RowReader::optionalDecimal()
 {
-    return isNull() ? std::nullopt : std::optional(decimal());
+    sqlite3_value *stored = nextPresent();
+    return stored ? std::optional(decimalFrom(stored)) : std::nullopt;
 }
 
 numira::Currency RowReader::currency()
 {
-    const QByteArrayView code = bytes();
+    const QByteArrayView code = bytesFrom(nextValue());
     const std::string_view text(code.data(), static_cast<std::size_t>(code.size()));
     if (text != m_lastCurrency.code())
         m_lastCurrency = numira::toCurrency(std::string(text));
@@ -207,12 +212,6 @@ numira::Money RowReader::money()
     return {currency(), amount};
 }
 
-void RowReader::refuse(const std::string &why) const
-{
-    throw ContentFault("The row " + std::to_string(m_key) + " of the table '" + nameOf(m_table) +
-                       "' " + why + ".");
-}
-
 sqlite3_value *RowReader::nextValue()
 {
     // One call for a value instead of three. It is good until the next step
@@ -220,18 +219,28 @@ sqlite3_value *RowReader::nextValue()
     return sqlite3_column_value(m_select.get(), m_column++);
 }
 
-bool RowReader::isNull()
-{
-    if (sqlite3_column_type(m_select.get(), m_column) != SQLITE_NULL)
-        return false;
-    ++m_column;
-    m_seal.null();
-    return true;
-}
-
-QByteArrayView RowReader::bytes()
+sqlite3_value *RowReader::nextPresent()
 {
     sqlite3_value *stored = nextValue();
+    if (sqlite3_value_type(stored) != SQLITE_NULL)
+        return stored;
+    m_seal.null();
+    return nullptr;
+}
+
+std::int64_t RowReader::integerFrom(sqlite3_value *stored, std::int64_t min, std::int64_t max)
+{
+    if (sqlite3_value_type(stored) != SQLITE_INTEGER)
+        refuse("has something else than a number");
+    const std::int64_t value = sqlite3_value_int64(stored);
+    if (value < min || value > max)
+        refuse("has a number that means nothing");
+    m_seal.integer(value);
+    return value;
+}
+
+QByteArrayView RowReader::bytesFrom(sqlite3_value *stored)
+{
     if (sqlite3_value_type(stored) != SQLITE_TEXT)
         refuse("has something else than a text");
     const auto *text = sqlite3_value_text(stored);
@@ -240,6 +249,20 @@ QByteArrayView RowReader::bytes()
     const QByteArrayView bytes(text, sqlite3_value_bytes(stored));
     m_seal.text(bytes);
     return bytes;
+}
+
+QString RowReader::textFrom(sqlite3_value *stored)
+{
+    std::optional<QString> text = fromStoredText(bytesFrom(stored));
+    if (!text)
+        refuse("has a malformed text");
+    return *std::move(text);
+}
+
+numira::Decimal RowReader::decimalFrom(sqlite3_value *stored)
+{
+    const QByteArrayView text = bytesFrom(stored);
+    return numira::Decimal::fromText({text.data(), static_cast<std::size_t>(text.size())});
 }
 
 } // namespace kiv::storage::internal

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/internal/errors.h"
 #include "storage/internal/image_database.h"
 #include "storage/internal/seal.h"
 
@@ -50,6 +51,9 @@ private:
     qint64 m_rows = 0;
 };
 
+/// Why a row is refused, as in "has a malformed text".
+[[nodiscard]] ContentFault rowFault(Table table, std::int64_t key, const std::string &why);
+
 /// Reads the rows of one table likewise. Every value is checked for its type;
 /// ContentFault is thrown for one that the writer would not have written.
 class RowReader {
@@ -72,6 +76,8 @@ public:
     }
     [[nodiscard]] QString text();
     [[nodiscard]] std::optional<QString> optionalText();
+    /// As it is stored and maybe malformed; valid until the next row.
+    [[nodiscard]] std::optional<QByteArrayView> optionalStoredText();
     /// Invalid for null.
     [[nodiscard]] QDate date();
     [[nodiscard]] numira::Decimal decimal();
@@ -79,14 +85,18 @@ public:
     [[nodiscard]] numira::Currency currency();
     [[nodiscard]] numira::Money money();
 
-    [[noreturn]] void refuse(const std::string &why) const;
+    [[noreturn]] void refuse(const std::string &why) const { throw rowFault(m_table, m_key, why); }
 
 private:
+    // What these give is valid until the next step.
     [[nodiscard]] sqlite3_value *nextValue();
-    /// Goes on to the next value only when this one is null.
-    [[nodiscard]] bool isNull();
-    /// Valid until the next step.
-    [[nodiscard]] QByteArrayView bytes();
+    /// Nothing when the value is null.
+    [[nodiscard]] sqlite3_value *nextPresent();
+    [[nodiscard]] std::int64_t integerFrom(sqlite3_value *stored, std::int64_t min,
+                                           std::int64_t max);
+    [[nodiscard]] QByteArrayView bytesFrom(sqlite3_value *stored);
+    [[nodiscard]] QString textFrom(sqlite3_value *stored);
+    [[nodiscard]] numira::Decimal decimalFrom(sqlite3_value *stored);
 
     Seal &m_seal;
     Table m_table;

@@ -1,13 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/seal.h"
 
-#include <algorithm>
 #include <charconv>
 #include <utility>
 
 namespace kiv::storage::internal {
 
+namespace {
+
+/// Small enough that the allocator keeps it for the next one.
+constexpr qsizetype blockSize = qsizetype{64} * 1024;
+
+} // namespace
+
 Seal::Seal(std::uint32_t version)
+    : m_dump(blockSize),
+      m_at(m_dump.data()),
+      m_end(m_at + blockSize),
+      m_hashing([this](const std::vector<char> &bytes) { hash(bytes); })
 {
     sha256_init(&m_hash);
     append("kiv-budget ");
@@ -24,27 +34,11 @@ void Seal::beginTable(const char *name)
 
 QByteArray Seal::result()
 {
-    hash({m_dump.data(), std::exchange(m_size, 0)});
+    m_dump.resize(static_cast<std::size_t>(m_at - m_dump.data()));
+    m_hashing.finish(std::exchange(m_dump, {}));
     std::array<std::uint8_t, SHA256_DIGEST_SIZE> digest;
     sha256_digest(&m_hash, digest.size(), digest.data());
     return QByteArray(reinterpret_cast<const char *>(digest.data()), digest.size()).toHex();
-}
-
-void Seal::append(char byte)
-{
-    *room(1) = byte;
-    ++m_size;
-}
-
-void Seal::append(QByteArrayView bytes)
-{
-    if (bytes.size() > std::ssize(m_dump)) {
-        hash({m_dump.data(), std::exchange(m_size, 0)});
-        hash(bytes);
-        return;
-    }
-    std::ranges::copy(bytes, room(bytes.size()));
-    m_size += bytes.size();
 }
 
 void Seal::appendNumber(char kind, std::int64_t value, char end)
@@ -52,29 +46,34 @@ void Seal::appendNumber(char kind, std::int64_t value, char end)
     constexpr qsizetype sizeMax = 24;
     char *const begin = room(sizeMax);
     *begin = kind;
-    // Most numbers have one digit.
-    if (value >= 0 && value < 10) {
-        begin[1] = static_cast<char>('0' + value);
-        begin[2] = end;
-        m_size += 3;
+    // Most numbers have one or two digits.
+    if (value >= 0 && value < 100) {
+        char *at = begin + 1;
+        if (value >= 10)
+            *at++ = static_cast<char>('0' + value / 10);
+        *at++ = static_cast<char>('0' + value % 10);
+        *at++ = end;
+        m_at = at;
         return;
     }
     char *const last = std::to_chars(begin + 1, begin + sizeMax - 1, value).ptr;
     *last = end;
-    m_size += last + 1 - begin;
+    m_at = last + 1;
 }
 
-char *Seal::room(qsizetype size)
+void Seal::makeRoom(qsizetype size)
 {
-    if (size > std::ssize(m_dump) - m_size)
-        hash({m_dump.data(), std::exchange(m_size, 0)});
-    return m_dump.data() + m_size;
+    std::vector<char> next = m_hashing.spare();
+    next.resize(static_cast<std::size_t>(std::max(blockSize, size)));
+    m_dump.resize(static_cast<std::size_t>(m_at - m_dump.data()));
+    m_at = next.data();
+    m_end = m_at + next.size();
+    m_hashing.add(std::exchange(m_dump, std::move(next)));
 }
 
-void Seal::hash(QByteArrayView bytes) noexcept
+void Seal::hash(const std::vector<char> &bytes) noexcept
 {
-    sha256_update(&m_hash, static_cast<std::size_t>(bytes.size()),
-                  reinterpret_cast<const std::uint8_t *>(bytes.data()));
+    sha256_update(&m_hash, bytes.size(), reinterpret_cast<const std::uint8_t *>(bytes.data()));
 }
 
 } // namespace kiv::storage::internal

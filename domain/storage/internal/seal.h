@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/internal/pipeline.h"
+
 #include <QtCore/QByteArray>
 
 #include <nettle/sha2.h>
 
-#include <array>
+#include <algorithm>
 #include <cstdint>
+#include <vector>
 
 namespace kiv::storage::internal {
 
@@ -36,17 +39,30 @@ public:
     [[nodiscard]] QByteArray result();
 
 private:
-    void append(char byte);
-    void append(QByteArrayView bytes);
+    void append(char byte)
+    {
+        *room(1) = byte;
+        ++m_at;
+    }
+    void append(QByteArrayView bytes) { m_at = std::ranges::copy(bytes, room(bytes.size())).out; }
     void appendNumber(char kind, std::int64_t value, char end);
     /// Where the next bytes go; there is room for so many.
-    char *room(qsizetype size);
-    void hash(QByteArrayView bytes) noexcept;
+    char *room(qsizetype size)
+    {
+        if (size > m_end - m_at)
+            makeRoom(size);
+        return m_at;
+    }
+    void makeRoom(qsizetype size);
+    void hash(const std::vector<char> &bytes) noexcept;
 
     // Nettle's, because it uses the processor's own instructions for it.
     sha256_ctx m_hash;
-    std::array<char, 16 * 1024> m_dump; ///< what is not hashed yet
-    qsizetype m_size = 0;
+    std::vector<char> m_dump; ///< what is not hashed yet, up to m_at, and room for more
+    char *m_at;
+    char *m_end;
+    /// The dump of a full budget is hashed while the rest of it is made.
+    Pipeline<std::vector<char>> m_hashing;
 };
 
 } // namespace kiv::storage::internal
