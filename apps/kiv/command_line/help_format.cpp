@@ -3,6 +3,8 @@
 
 #include "output/terminal.h"
 
+#include <QtCore/QStringList>
+
 namespace kiv::app {
 namespace {
 
