@@ -77,7 +77,7 @@ void showLedger(State &state)
         navigator->onSelectedLedger(busy);
 }
 
-/// So many items, added one after the other to an empty budget.
+/// So many items with two tags each, added one after the other to an empty budget.
 void addItems(State &state)
 {
     const auto disk = std::make_shared<test::MemoryDisk>();
@@ -86,12 +86,15 @@ void addItems(State &state)
     for (auto _ : state) {
         for (int index = 0; index < state.range(0); ++index) {
             const BudgetSource source(QStringLiteral("Item %1").arg(index));
+            const tagging::Tags tags{tagging::Tag(QStringLiteral("home")),
+                                     tagging::Tag(QStringLiteral("Tag %1").arg(index % 20))};
             const bool isAdded = navigator->onAdded(
                 navigation::GuiElementIdentifier(1), budgeting::BudgetItemTypes::Bill,
                 budgeting::Bill(source, amount, budgeting::EventFrequency::Monthly,
                                 lastDayOfBook()),
                 std::nullopt,
-                tagging::BudgetItemTags::ItemTags({budgeting::BudgetItemTypes::Bill, source}));
+                tagging::BudgetItemTags::ItemTags({budgeting::BudgetItemTypes::Bill, source},
+                                                  tags));
             if (!isAdded)
                 state.SkipWithError("An item was refused.");
         }

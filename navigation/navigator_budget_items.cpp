@@ -63,6 +63,21 @@ struct ViewBasics {
     }
 };
 
+/// An item and its tags change together or not at all: the tags first, because
+/// they can be brought back without fail.
+template <typename ChangeTags, typename ChangeItem>
+void changeTagged(tagging::BudgetTagManager &tags, tagging::BudgetTagManager::Memory former,
+                  ChangeTags &&changeTags, ChangeItem &&changeItem)
+{
+    try {
+        changeTags();
+        changeItem();
+    } catch (...) {
+        tags.restore(std::move(former));
+        throw;
+    }
+}
+
 } // namespace
 
 // ---- showing -----------------------------------------------------------------
@@ -113,11 +128,6 @@ void Navigator::onPrepareShowWages()
 
 // ---- changing ----------------------------------------------------------------
 
-// The tags are changed in a copy, which takes the place of the present ones when
-// the item was changed: that cannot fail, so that an item and its tags change
-// together or not at all.
-static_assert(std::is_nothrow_move_assignable_v<tagging::BudgetTagManager>);
-
 bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &type,
                         const budgeting::BudgetedMoney &item,
                         const std::optional<banking::BankAccount> &ba,
@@ -138,11 +148,14 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
         "Failed to add budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
-            tagging::BudgetTagManager tags(m_tagManager);
-            tags.changeAssociation(itemTags);
-            visitItemClass(
-                type, "An unknown budget item type was supplied when adding a new entry.", add);
-            m_tagManager = std::move(tags);
+            changeTagged(
+                m_tagManager, m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
+                [&] { m_tagManager.changeAssociation(itemTags); },
+                [&] {
+                    visitItemClass(
+                        type, "An unknown budget item type was supplied when adding a new entry.",
+                        add);
+                });
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
         [&](const QString &why) {
@@ -168,11 +181,14 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
         "Failed to update budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
-            tagging::BudgetTagManager tags(m_tagManager);
-            tags.changeAssociation(itemTags);
-            visitItemClass(type, "An unknown budget item type was supplied when updating an entry.",
-                           update);
-            m_tagManager = std::move(tags);
+            changeTagged(
+                m_tagManager, m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
+                [&] { m_tagManager.changeAssociation(itemTags); },
+                [&] {
+                    visitItemClass(
+                        type, "An unknown budget item type was supplied when updating an entry.",
+                        update);
+                });
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
         [&](const QString &why) {
@@ -189,11 +205,16 @@ void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes 
     change(
         "Failed to rename budget item.",
         [&] {
-            tagging::BudgetTagManager tags(m_tagManager);
-            tags.renameAssociation({type, original}, changed);
-            visitItemClass(type, "An unknown budget item type was supplied when renaming an entry.",
-                           rename);
-            m_tagManager = std::move(tags);
+            changeTagged(
+                m_tagManager, m_tagManager.remember({{type, original}, {type, changed}}),
+                [&] {
+                    m_tagManager.renameAssociation({type, original}, changed);
+                },
+                [&] {
+                    visitItemClass(
+                        type, "An unknown budget item type was supplied when renaming an entry.",
+                        rename);
+                });
         },
         // The old name, on purpose: by it the view finds the row that it asked
         // to rename, and it knows the new one already.
@@ -210,10 +231,10 @@ void Navigator::onRemoved(const GuiElementIdentifier &id, const BudgetItemTypes 
     change(
         "Failed to remove budget item.",
         [&] {
-            tagging::BudgetTagManager tags(m_tagManager);
-            tags.removeAssociation(item);
-            m_budgetBankLedgers->remove(item);
-            m_tagManager = std::move(tags);
+            changeTagged(
+                m_tagManager, m_tagManager.remember({item}),
+                [&] { m_tagManager.removeAssociation(item); },
+                [&] { m_budgetBankLedgers->remove(item); });
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, source); },
         [&](const QString &why) { tell(this, &Navigator::saveFailed, id, source, why, source); });

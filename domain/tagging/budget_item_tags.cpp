@@ -40,6 +40,14 @@ BudgetItemTags BudgetItemTags::ofType(budgeting::BudgetItemTypes type) const
     return chosen;
 }
 
+BudgetItemTags BudgetItemTags::of(std::span<const budgeting::BudgetItemIdentifier> items) const
+{
+    BudgetItemTags chosen;
+    for (const budgeting::BudgetItemIdentifier &item : items)
+        chosen.set(ItemTags(item, tags(item)));
+    return chosen;
+}
+
 void BudgetItemTags::set(const ItemTags &item)
 {
     if (item.tags().isEmpty())
@@ -69,6 +77,14 @@ void BudgetItemTags::remove(const Tags &tags)
     for (Tags &kept : m_tags | std::views::values)
         kept = kept.without(tags);
     std::erase_if(m_tags, [](const auto &entry) { return entry.second.isEmpty(); });
+}
+
+void BudgetItemTags::restore(std::span<const budgeting::BudgetItemIdentifier> items,
+                             BudgetItemTags &&former) noexcept
+{
+    for (const budgeting::BudgetItemIdentifier &item : items)
+        m_tags.erase(item);
+    m_tags.merge(former.m_tags);
 }
 
 std::ostream &operator<<(std::ostream &out, const BudgetItemTags::ItemTags &item)

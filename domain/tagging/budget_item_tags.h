@@ -6,6 +6,7 @@
 #include "budgeting/identifiers.h"
 
 #include <map>
+#include <span>
 
 namespace kiv::tagging {
 
@@ -60,6 +61,8 @@ public:
     [[nodiscard]] Tags allTags() const;
     /// The items of one kind.
     [[nodiscard]] BudgetItemTags ofType(budgeting::BudgetItemTypes type) const;
+    /// Those of the items that have tags.
+    [[nodiscard]] BudgetItemTags of(std::span<const budgeting::BudgetItemIdentifier> items) const;
 
     /// Replaces the item's tags; without any its entry goes.
     void set(const ItemTags &item);
@@ -70,6 +73,9 @@ public:
     void remove(const budgeting::BudgetItemIdentifier &item);
     /// Takes the tags from every item.
     void remove(const Tags &tags);
+    /// The items have the tags that they have in `former`, or none.
+    void restore(std::span<const budgeting::BudgetItemIdentifier> items,
+                 BudgetItemTags &&former) noexcept;
 
     friend bool operator==(const BudgetItemTags &, const BudgetItemTags &) = default;
 

@@ -20,6 +20,25 @@ bool BudgetTagManager::hasAssociation(const budgeting::BudgetItemIdentifier &ite
     return m_associations.contains(item);
 }
 
+BudgetTagManager::Memory
+BudgetTagManager::remember(std::vector<budgeting::BudgetItemIdentifier> items,
+                           const Tags &coming) const
+{
+    Memory memory{std::move(items), {}, {}};
+    memory.associations = m_associations.of(memory.items);
+    for (const Tag &tag : coming) {
+        if (!m_possible.contains(tag))
+            memory.unknown.insert(tag);
+    }
+    return memory;
+}
+
+void BudgetTagManager::restore(Memory &&memory) noexcept
+{
+    m_associations.restore(memory.items, std::move(memory.associations));
+    m_possible.remove(memory.unknown);
+}
+
 void BudgetTagManager::changeAssociation(const BudgetItemTags::ItemTags &item)
 {
     m_possible.insert(item.tags());

@@ -3,6 +3,8 @@
 
 #include "tagging/budget_item_tags.h"
 
+#include <vector>
+
 namespace kiv::tagging {
 
 /// The tags on the budget's items, and every tag that can be chosen: those in
@@ -21,6 +23,20 @@ public:
     [[nodiscard]] const BudgetItemTags &associations() const noexcept { return m_associations; }
     /// Whether the item has a tag.
     [[nodiscard]] bool hasAssociation(const budgeting::BudgetItemIdentifier &item) const;
+
+    /// The tags of some items as they were, and the tags that were not possible.
+    struct Memory {
+        std::vector<budgeting::BudgetItemIdentifier> items; ///< those that it is about
+        BudgetItemTags associations;                        ///< the tags that they had
+        Tags unknown;                                       ///< what was not possible
+    };
+    /// What it takes to undo changes of these items' tags, whose tags come to
+    /// be among `coming` or those that they have. Its cost does not grow with
+    /// the other items.
+    [[nodiscard]] Memory remember(std::vector<budgeting::BudgetItemIdentifier> items,
+                                  const Tags &coming = {}) const;
+    /// Undoes what was done to the items since; it cannot fail.
+    void restore(Memory &&memory) noexcept;
 
     /// Replaces the item's tags and makes new ones possible.
     void changeAssociation(const BudgetItemTags::ItemTags &item);

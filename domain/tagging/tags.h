@@ -64,6 +64,12 @@ public:
     void insert(Tag tag) { m_tags.insert(std::move(tag)); }
     /// Adds those that are not there yet.
     void insert(const Tags &others) { m_tags.insert(others.begin(), others.end()); }
+    /// Takes away those that are there.
+    void remove(const Tags &others) noexcept
+    {
+        for (const Tag &tag : others)
+            m_tags.erase(tag);
+    }
     /// These tags without `others`.
     [[nodiscard]] Tags without(const Tags &others) const;
 

@@ -80,6 +80,32 @@ private slots:
         QVERIFY(!manager.hasAssociation(rent));
     }
 
+    void whatWasDoneToAnItemIsUndone()
+    {
+        const BudgetItemIdentifier flat{BudgetItemTypes::Bill, BudgetSource(u"Flat"_qs)};
+        const BudgetTagManager before = household();
+        const auto undone = [&](std::vector<BudgetItemIdentifier> items, const Tags &coming,
+                                const auto &change) {
+            BudgetTagManager manager = before;
+            auto memory = manager.remember(std::move(items), coming);
+            change(manager);
+            const bool isChanged = manager != before;
+            manager.restore(std::move(memory));
+            return isChanged && manager == before;
+        };
+        QVERIFY(undone({rent}, {late, home}, [](BudgetTagManager &manager) {
+            manager.changeAssociation(BudgetItemTags::ItemTags(rent, {late, home}));
+        }));
+        QVERIFY(undone({flat}, {late}, [&](BudgetTagManager &manager) {
+            manager.changeAssociation(BudgetItemTags::ItemTags(flat, {late}));
+        }));
+        QVERIFY(undone({rent, flat}, {}, [&](BudgetTagManager &manager) {
+            manager.renameAssociation(rent, flat.source);
+        }));
+        QVERIFY(
+            undone({food}, {}, [](BudgetTagManager &manager) { manager.removeAssociation(food); }));
+    }
+
     void removedTagsAreGoneEverywhere()
     {
         BudgetTagManager manager = household();
