@@ -203,6 +203,14 @@ private slots:
         row("too large an amount",
             "2026-01-01 x\n Assets:A  $99999999999999999999999999999\n Assets:B\n",
             "'j', line 2: The amounts here cannot be kept exactly.");
+        // What is cheap to write and dear to read.
+        row("an account too deep",
+            ("2026-01-01 x\n Assets" + QByteArray(":aaaaaaaaa").repeated(100) + "  $1\n Income:I")
+                .constData(),
+            "'j', line 2: 'Assets:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaa…' cannot "
+            "be imported.");
+        row("tags within tags", QByteArray("apply tag a\n").repeated(102).constData(),
+            "'j', line 102: Tags are nested too deeply.");
         row("a bad pattern", "= /(/\n (Assets:A)  1\n",
             "'j', line 1: '(' is not a pattern of account names.");
     }
@@ -233,6 +241,19 @@ private slots:
         } catch (const ImportError &error) {
             QCOMPARE(error.place().line, transactionsMax * 3 + 1);
         }
+    }
+
+    void filesThatIncludeMoreAndMoreEnd()
+    {
+        int files = 0;
+        JournalOptions spreading = options();
+        spreading.include = [&files](const QString &path, const Place &) {
+            ++files;
+            return path.size() < 7 ? ("include x" + path.toUtf8() + '\n').repeated(10)
+                                   : QByteArray();
+        };
+        QVERIFY_THROWS_EXCEPTION(ImportError, (void)readJournal("include x\n", u"j"_s, spreading));
+        QCOMPARE(files, 1000);
     }
 
     void accountsInTwoCurrenciesAndTakenNumbers()

@@ -170,6 +170,9 @@ private slots:
             QCOMPARE(Decimal(1).times(value).toText(), read);
         }
         QCOMPARE((Decimal::fromText("-0.000001") * Decimal::fromText("0.0000005")).sign(), 0);
+        // At the highest amount nothing overflows yet.
+        QCOMPARE(decimal(highest).scaled(-1, 1), decimal(-highest));
+        QCOMPARE(decimal(-highest).scaled(-1, 1), decimal(highest));
         // The widest exponents that still change something.
         QCOMPARE(decimal(highest).times("9e-39").toText(), "0.000000000002");
         QCOMPARE(decimal(1).times("1e38").toText(), '1' + std::string(26, '0'));
@@ -186,6 +189,14 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)value.times(std::nan("")));
         for (const char *text : {"", "1e", "1ex", "e5", "1e99999999999", "1.5.", "--1"})
             QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)value.times(text));
+        // A text ends where it says, whatever stands behind it.
+        QCOMPARE(value.times(std::string_view("25", 1)).toText(), "2");
+        try {
+            (void)Decimal::fromText(std::string(41, 'x'));
+            QFAIL("It was read.");
+        } catch (const numira::InvalidAmount &error) {
+            QCOMPARE(error.what(), "'" + std::string(40, 'x') + "...' is not a decimal amount.");
+        }
         // Exponents at which the powers of ten would fill the memory.
         QVERIFY_THROWS_EXCEPTION(numira::OverflowError, (void)value.times("1e2000000000"));
         QCOMPARE(value.times("1e-2000000000").sign(), 0);

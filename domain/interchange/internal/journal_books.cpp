@@ -289,7 +289,11 @@ AccountTypes JournalBooks::typeOf(const QString &name, const QString &root,
 std::size_t JournalBooks::accountOf(const QString &name, const numira::Currency &currency,
                                     const Place &place)
 {
+    // No chart of accounts is so deep; each level opens an account of its own.
+    constexpr qsizetype levelsMax = 100;
     QStringList names = name.split(u':');
+    if (names.size() > levelsMax)
+        throw faults::unsupported(place, name);
     for (QString &part : names) {
         part = part.simplified();
         if (part.isEmpty())
@@ -421,12 +425,13 @@ void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, cons
 {
     // What is kept of comments in a description; each pair of postings has all.
     constexpr qsizetype commentsMax = 2000;
+    constexpr qsizetype textsMax = 100;
     qsizetype length = 0;
     QStringList texts{entry.description};
     for (const QStringList *comments : {&entry.comments, &debit.comments, &credit.comments}) {
         for (const QString &comment : *comments) {
             length += comment.size() + 1;
-            if (length > commentsMax) {
+            if (length > commentsMax || texts.size() > textsMax) {
                 notice(QObject::tr("Of long comments the beginning is kept."));
                 break;
             }

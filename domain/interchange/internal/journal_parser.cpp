@@ -13,6 +13,7 @@ namespace kiv::interchange::internal {
 namespace {
 
 constexpr int depthMax = 8;
+constexpr int includesMax = 1000;
 
 bool isBlank(QStringView line)
 {
@@ -220,7 +221,8 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
 {
     if (!m_options.include)
         throw faults::includeRefused(block.place, path, QObject::tr("there is no folder for it"));
-    if (m_depth >= depthMax)
+    // Each of eight files may include the next one many times.
+    if (m_depth >= depthMax || ++m_included > includesMax)
         throw faults::includeRefused(block.place, path,
                                      QObject::tr("files include each other too deeply"));
     const bool wasOwn = m_isOwn;
@@ -230,6 +232,10 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
 
 void JournalParser::takeTagging(const Block &block, const QString &word, const QString &rest)
 {
+    // Every transaction copies them.
+    constexpr qsizetype appliedTagsMax = 100;
+    if (m_appliedTags.size() > appliedTagsMax)
+        throw faults::nestedTooDeeply(block.place);
     if (word == u"apply" && rest.startsWith(u"tag "))
         m_appliedTags += rest.mid(4).trimmed();
     else if (word == u"end" && (rest.isEmpty() || rest == u"tag" || rest == u"apply tag") &&

@@ -62,6 +62,7 @@ private:
     QStringList m_appliedTags;
     std::optional<int> m_year;
     int m_depth = 0;
+    int m_included = 0;
     bool m_isOwn = false;
 };
 
