@@ -2,6 +2,8 @@
 #include "failing_calls.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -74,6 +76,15 @@ int fchmod(int file, mode_t mode) { return ask<SYS_fchmod>("fchmod", file, mode)
 int fchown(int file, uid_t user, gid_t group) { return ask<SYS_fchown>("fchown", file, user, group); }
 int fsetxattr(int file, const char *name, const void *value, size_t size, int flags)
 { return ask<SYS_fsetxattr>("fsetxattr", file, name, value, size, flags); }
+ssize_t fgetxattr(int file, const char *name, void *value, size_t size) { return ask<SYS_fgetxattr>("fgetxattr", file, name, value, size); }
+ssize_t flistxattr(int file, char *names, size_t size) { return ask<SYS_flistxattr>("flistxattr", file, names, size); }
+int fstat(int file, struct stat *status) { return ask<SYS_fstat>("fstat", file, status); }
+int fstatat(int folder, const char *path, struct stat *status, int flags) { return ask<SYS_newfstatat>("fstatat", folder, path, status, flags); }
+int lstat(const char *path, struct stat *status) { return ask<SYS_lstat>("lstat", path, status); }
+int access(const char *path, int mode) { return ask<SYS_access>("access", path, mode); }
+int faccessat(int folder, const char *path, int mode, int flags) { return ask<SYS_faccessat2>("faccessat", folder, path, mode, flags); }
+int flock(int file, int operation) { return ask<SYS_flock>("flock", file, operation); }
+int ftruncate(int file, off_t size) { return ask<SYS_ftruncate>("ftruncate", file, size); }
 int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags)
 { return ask<SYS_linkat>("linkat", fromFolder, from, toFolder, to, flags); }
 int renameat(int fromFolder, const char *from, int toFolder, const char *to)

@@ -44,13 +44,27 @@ struct Desk {
     {
         folder.write(name, bytesOf(2));
         folder.write(name + QStringLiteral(".backup-1"), bytesOf(1));
-        file.setFilePathName(path);
-        (void)file.load();
+        file->setFilePathName(path);
+        (void)file->load();
         ::setxattr(qPrintable(path), "user.note", "mine", 4, 0);
         if (::geteuid() == 0 && ::chown(qPrintable(path), 1234, 5678) != 0)
             qFatal("The owner cannot be changed.");
     }
-    void save(int version) { file.store(budget(version)); }
+    /// Of all files but the lock, which is there for as long as the file is open.
+    [[nodiscard]] QStringList names() const
+    {
+        QStringList names = folder.names();
+        names.removeAll(name + u".lock"_qs);
+        return names;
+    }
+    void save(int version) { file->store(budget(version)); }
+    /// As a program does that did not open the file before.
+    void saveUnseen(int version)
+    {
+        file.emplace();
+        file->setFilePathName(path);
+        save(version);
+    }
     void saveCarelessly(int version)
     {
         const QByteArray bytes = bytesOf(version);
@@ -63,7 +77,7 @@ struct Desk {
 
     test::ScratchFolder folder;
     QString path = folder.path(name);
-    storage::BudgetFile file;
+    std::optional<storage::BudgetFile> file{std::in_place};
 };
 
 using Saver = void (Desk::*)(int);
@@ -73,7 +87,7 @@ using Saver = void (Desk::*)(int);
 QString brokenPromise(Saver save, const test::FailingCalls &failing)
 {
     Desk desk;
-    const QStringList before = desk.folder.names();
+    const QStringList before = desk.names();
     failingCalls = failing;
     failingCalls.isOn = true;
     const auto failure = test::failureOf([&] { (desk.*save)(3); });
@@ -85,7 +99,7 @@ QString brokenPromise(Saver save, const test::FailingCalls &failing)
         return QStringLiteral("what may not be on the disk counts as saved");
     if (desk.folder.read(name) != bytesOf(failure ? 2 : 3))
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
-    const QStringList after = desk.folder.names();
+    const QStringList after = desk.names();
     if (failure && after != before && failing.name != "unlinkat")
         return QStringLiteral("left behind: %1").arg(after.join(u' '));
     if (test::failureOf([&] { desk.save(4); }) || desk.folder.read(name) != bytesOf(4))
@@ -163,16 +177,25 @@ void SaveFaultsTest::aCarelessSaverIsCaught()
 
 void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
 {
+    QTest::addColumn<QByteArray>("call");
     QTest::addColumn<int>("count");
-    for (const auto &[call, count] : callsOf(&Desk::save))
-        QTest::newRow(call.c_str()) << count;
+    QTest::addColumn<bool>("isUnseen");
+    for (const bool isUnseen : {false, true}) {
+        for (const auto &[call, count] : callsOf(isUnseen ? &Desk::saveUnseen : &Desk::save))
+            QTest::addRow("%s%s", call.c_str(), isUnseen ? " of a file not seen before" : "")
+                << QByteArray::fromStdString(call) << count << isUnseen;
+    }
 }
 
 void SaveFaultsTest::everyFailureLeavesAWholeFile()
 {
+    QFETCH(QByteArray, call);
     QFETCH(int, count);
+    QFETCH(bool, isUnseen);
     const MessageLog log; // saving without a backup is a warning
-    QCOMPARE(firstBrokenPromise(&Desk::save, QTest::currentDataTag(), count), QString());
+    QCOMPARE(
+        firstBrokenPromise(isUnseen ? &Desk::saveUnseen : &Desk::save, call.toStdString(), count),
+        QString());
 }
 
 void SaveFaultsTest::lyingCallsAreFoundOut()
