@@ -1993,10 +1993,6 @@
         <translation>Einträge über nichts werden ausgelassen.</translation>
     </message>
     <message>
-        <source>Posted %1 transactions, left out %2 duplicates, opened %3 accounts.</source>
-        <translation>Buchungen: %1; ausgelassene Dubletten: %2; eröffnete Konten: %3.</translation>
-    </message>
-    <message>
         <source>New account</source>
         <translation>Neues Konto</translation>
     </message>
@@ -3906,6 +3902,30 @@
     <message>
         <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
         <translation>Die Änderungen von „%1“ ließen sich nicht speichern; erst mit save-as sichern.</translation>
+    </message>
+    <message>
+        <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
+        <translation>Die Zeile hat %1 Zellen, obwohl es nur %2 Überschriften gibt; eine Zelle, die das Trennzeichen enthält, braucht Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>There are neither headings nor entries.</source>
+        <translation>Es gibt weder Überschriften noch Einträge.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
+        <translation>„%1“ ist keine Schreibweise für Tage; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
+    </message>
+    <message>
+        <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
+        <translation>Buchungen: %1; ausgelassene Dubletten: %2; eröffnete Konten: %3.</translation>
+    </message>
+    <message>
+        <source>What &apos;%1&apos; is cannot be told from its name; say it with --format: journal, csv, ofx or qif.</source>
+        <translation>Was „%1“ ist, geht aus dem Namen nicht hervor; es mit --format sagen: journal, csv, ofx oder qif.</translation>
+    </message>
+    <message>
+        <source>Say with --into which account the bank statement is about.</source>
+        <translation>Mit --into sagen, um welches Konto es im Kontoauszug geht.</translation>
     </message>
 </context>
 <context>

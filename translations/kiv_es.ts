@@ -1993,10 +1993,6 @@
         <translation>Las entradas de nada se omiten.</translation>
     </message>
     <message>
-        <source>Posted %1 transactions, left out %2 duplicates, opened %3 accounts.</source>
-        <translation>Asientos registrados: %1; duplicados omitidos: %2; cuentas abiertas: %3.</translation>
-    </message>
-    <message>
         <source>New account</source>
         <translation>Cuenta nueva</translation>
     </message>
@@ -3906,6 +3902,30 @@
     <message>
         <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
         <translation>No se han podido guardar los cambios de «%1»; guárdelos antes con save-as.</translation>
+    </message>
+    <message>
+        <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
+        <translation>El registro tiene %1 celdas y solo hay %2 encabezados; una celda que contiene el separador necesita comillas.</translation>
+    </message>
+    <message>
+        <source>There are neither headings nor entries.</source>
+        <translation>No hay ni encabezados ni anotaciones.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
+        <translation>«%1» no es una forma de escribir fechas; se compone de YYYY, MM y DD, como DD.MM.YYYY.</translation>
+    </message>
+    <message>
+        <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
+        <translation>Asientos registrados: %1; duplicados omitidos: %2; cuentas abiertas: %3.</translation>
+    </message>
+    <message>
+        <source>What &apos;%1&apos; is cannot be told from its name; say it with --format: journal, csv, ofx or qif.</source>
+        <translation>El nombre no dice qué es «%1»; indicarlo con --format: journal, csv, ofx o qif.</translation>
+    </message>
+    <message>
+        <source>Say with --into which account the bank statement is about.</source>
+        <translation>Indicar con --into de qué cuenta trata el extracto.</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,18 @@ Refusal noSuchProfile(const QString &name, const QStringList &present)
                   .arg(name, present.join(QStringLiteral(", "))));
 }
 
+UsageError unknownFormat(const QString &file)
+{
+    return UsageError(QObject::tr("What '%1' is cannot be told from its name; say it with "
+                                  "--format: journal, csv, ofx or qif.")
+                          .arg(file));
+}
+
+UsageError noAccountInto()
+{
+    return UsageError(QObject::tr("Say with --into which account the bank statement is about."));
+}
+
 Refusal noOtherAccount(const QString &entry)
 {
     return Refusal(

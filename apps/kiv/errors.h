@@ -77,6 +77,10 @@ public:
 
 /// Of the saved import profiles.
 [[nodiscard]] Refusal noSuchProfile(const QString &name, const QStringList &present);
+/// Neither the file's name nor its first bytes tell what it is.
+[[nodiscard]] UsageError unknownFormat(const QString &file);
+/// A statement does not say which of the budget's accounts it is about.
+[[nodiscard]] UsageError noAccountInto();
 /// No rule or category tells where the entry's money went or came from.
 [[nodiscard]] Refusal noOtherAccount(const QString &entry);
 

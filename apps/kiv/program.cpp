@@ -126,7 +126,7 @@ int Program::execute()
             takeBack();
         throw;
     }
-    if (isSaved)
+    if (isSaved && !report.isUnchanged())
         m_session.save();
     if (kind == CommandKind::Change && options.isDryRun) {
         takeBack();

@@ -50,7 +50,7 @@ public:
     {
         std::vector<CsvRecord> records = recordsOf(text, file);
         if (records.empty())
-            throw faults::noStatement({file, 0});
+            throw faults::emptyTable({file, 0});
         setHeadings(records.front());
         Statement statement{{}, m_currency, {}};
         for (auto record = records.begin() + (m_profile.hasHeadings ? 1 : 0);
@@ -140,6 +140,11 @@ private:
     {
         if (record.cells.size() < m_needed)
             throw faults::tooFewCells(record.place, record.cells.size(), m_needed);
+        // Some banks end each line with a delimiter.
+        const auto isBlank = [](const QString &cell) { return cell.trimmed().isEmpty(); };
+        if (record.cells.size() > m_headings.size() &&
+            !std::all_of(record.cells.begin() + m_headings.size(), record.cells.end(), isBlank))
+            throw faults::tooManyCells(record.place, record.cells.size(), m_headings.size());
         StatementEntry entry{record.place};
         QString date = record.cells[m_date].trimmed();
         // The time of the day stands behind it in some.

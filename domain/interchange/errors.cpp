@@ -230,6 +230,25 @@ ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted)
                        .arg(QString::number(present), QString::number(wanted))};
 }
 
+ImportError tooManyCells(const Place &place, qsizetype present, qsizetype named)
+{
+    return {place, QObject::tr("The record has %1 cells where there are %2 headings; a cell that "
+                               "holds the delimiter needs quotes around it.")
+                       .arg(QString::number(present), QString::number(named))};
+}
+
+ImportError emptyTable(const Place &place)
+{
+    return {place, QObject::tr("There are neither headings nor entries.")};
+}
+
+ImportError notADateFormat(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' is no way to write days; put one together from YYYY, MM and "
+                               "DD, like DD.MM.YYYY.")
+                       .arg(quoted(text))};
+}
+
 ImportError ownTable(const Place &place)
 {
     return {place, QObject::tr("This is the table of a whole ledger, and no bank statement; import "

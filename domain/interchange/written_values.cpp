@@ -128,7 +128,7 @@ DateFormat::DateFormat(QString text, const Place &place) : m_text(std::move(text
             sample.replace(at, static_cast<qsizetype>(std::strlen(letters)), QLatin1String(digits));
     }
     if (read(sample) != QDate(2026, 11, 23))
-        throw faults::notADate(place, m_text, QStringLiteral("YYYY, MM, DD"));
+        throw faults::notADateFormat(place, m_text);
 }
 
 std::optional<QDate> DateFormat::read(QStringView text) const

@@ -167,6 +167,12 @@ private slots:
             "'f', line 1: Say with --amount-column which column it is, of: Date, Text.");
         row("a short record", "Date,Text,Amount\n2026-01-05,x\n", "{}",
             "'f', line 2: The record has 2 cells where 3 are needed.");
+        row("a comma that divides an amount", "Date,Text,Amount\n2026-01-05,x,1,50\n", "{}",
+            "'f', line 2: The record has 4 cells where there are 3 headings; a cell that holds the "
+            "delimiter needs quotes around it.");
+        row("a date format of nothing", "Date,Text,Amount\n", "{'dateFormat':'foo'}",
+            "'p': 'foo' is no way to write days; put one together from YYYY, MM and DD, like "
+            "DD.MM.YYYY.");
         row("another order of the day", "Date,Text,Amount\n01/05/2026,x,1\n", "{}",
             "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD.");
         row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{}",
@@ -176,8 +182,7 @@ private slots:
         row("our own table", "number,date,debit,debitAccount,amount,description\n", "{}",
             "'f', line 1: This is the table of a whole ledger, and no bank statement; import the "
             "journal instead.");
-        row("nothing", "\n\n", "{}",
-            "'f': There is no statement of a bank account or a credit card.");
+        row("nothing", "\n\n", "{}", "'f': There are neither headings nor entries.");
         row("an unknown key", "x", "{'dat':'1'}",
             "'p': This is no import profile: 'dat' is no key of "
             "one.");

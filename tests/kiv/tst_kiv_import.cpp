@@ -112,6 +112,10 @@ private slots:
         const QJsonDocument second = home.json(again);
         QCOMPARE(second["posted"_L1].toInt(), 1);
         QCOMPARE(second["duplicates"_L1].toInt(), 4);
+        // What changes nothing is not saved, and keeps the former versions.
+        const QByteArray formerly = home.bytes(home.file() + u".backup-1"_s);
+        QCOMPARE(home.json(again)["posted"_L1].toInt(), 0);
+        QCOMPARE(home.bytes(home.file() + u".backup-1"_s), formerly);
         QVERIFY(home.runAll({"import s.csv --into Checking --against Other --profile mine "
                              "--keep-duplicates"}));
         QCOMPARE(ownBalances(home)[u"Assets:Checking"_s], u"497 USD"_s);
@@ -159,8 +163,9 @@ private slots:
             "Assets:New\n",
             "", 1, "'s.journal', line 4: ");
         row("no account", "s.qif", "!Type:Bank\nD1/25/2026\nT1\n^\n", "", 2,
-            "--into is missing.\n");
-        row("no format", "s.bin", "x", account, 2, "--format is missing.\n");
+            "Say with --into which account the bank statement is about.\n");
+        row("no format", "s.bin", "x", account, 2,
+            "say it with --format: journal, csv, ofx or qif.\n");
         row("a profile that leads elsewhere", "s.csv", "x",
             "--into Checking --against Salary --profile ../x", 2,
             "'../x' cannot name a profile; use letters, digits, '-' and '_'.\n");

@@ -138,7 +138,7 @@ ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
             return ImportFormat::Ofx;
         if (head.trimmed().startsWith("!Type:") || head.trimmed().startsWith("!Account"))
             return ImportFormat::Qif;
-        throw missing(QStringLiteral("--format"));
+        throw unknownFormat(file);
     }
     throw notAChoice(format, {QStringLiteral("journal"), QStringLiteral("csv"),
                               QStringLiteral("ofx"), QStringLiteral("qif")});

@@ -84,7 +84,7 @@ private:
                                          const QByteArray &bytes) const
     {
         if (!into)
-            throw missing(QStringLiteral("--into"));
+            throw noAccountInto();
         Session &session = call.session;
         const AccountIndex index = session.accounts();
         const accounting::Account &account = index.find(*into);
@@ -190,8 +190,11 @@ private:
             preview(report, accounts, rows);
         for (const QString &notice : notices)
             report.line(notice);
-        return report.line(QObject::tr("Posted %1 transactions, left out %2 duplicates, opened %3 "
-                                       "accounts.")
+        // A save of the same again would only push a former version out.
+        if (posted == 0 && opened.empty())
+            report.setUnchanged();
+        return report.line(QObject::tr("Transactions posted: %1; duplicates left out: %2; accounts "
+                                       "opened: %3.")
                                .arg(QString::number(posted), QString::number(duplicated),
                                     QString::number(opened.size())));
     }

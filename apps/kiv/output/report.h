@@ -63,6 +63,10 @@ public:
     void setStatus(int status) noexcept { m_status = status; }
     [[nodiscard]] int status() const noexcept { return m_status; }
 
+    /// The command, one that changes the budget, has found nothing to change.
+    void setUnchanged() noexcept { m_isUnchanged = true; }
+    [[nodiscard]] bool isUnchanged() const noexcept { return m_isUnchanged; }
+
     [[nodiscard]] const QJsonValue &data() const noexcept { return m_data; }
     void setData(QJsonValue data) { m_data = std::move(data); }
 
@@ -91,6 +95,7 @@ private:
     std::vector<std::variant<Line, Table, List>> m_blocks;
     QByteArray m_raw;
     int m_status = 0;
+    bool m_isUnchanged = false;
 };
 
 } // namespace kiv::app

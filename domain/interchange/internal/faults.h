@@ -54,6 +54,9 @@ namespace faults {
                                          const QStringList &columns);
 [[nodiscard]] ImportError tooManyCells(const Place &place, qsizetype most);
 [[nodiscard]] ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted);
+[[nodiscard]] ImportError tooManyCells(const Place &place, qsizetype present, qsizetype named);
+[[nodiscard]] ImportError emptyTable(const Place &place);
+[[nodiscard]] ImportError notADateFormat(const Place &place, const QString &text);
 [[nodiscard]] ImportError ownTable(const Place &place);
 [[nodiscard]] ImportError bothWays(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
