@@ -169,7 +169,7 @@ void AtomicFileWriter::takeOverAttributes()
 void AtomicFileWriter::verify(QByteArrayView bytes)
 {
     ::posix_fadvise(m_temporary.get(), 0, 0, POSIX_FADV_DONTNEED);
-    constexpr qsizetype blockSize = 256 * 1024;
+    constexpr qsizetype blockSize = qsizetype{256} * 1024;
     QByteArray block(std::min(blockSize, bytes.size() + 1), Qt::Uninitialized);
     qsizetype done = 0;
     for (;;) {
@@ -221,7 +221,7 @@ void AtomicFileWriter::syncFolder()
 {
     if (::fsync(m_folder.get()) == 0 || isUnsupported(errno))
         return;
-    const StorageError error = cannotWrite(m_target.shownPath(), errno);
+    const int cause = errno;
     // What may be gone after a power cut is not saved, so the old state comes
     // back. If it cannot, it stays where the next writer makes a backup of it.
     if (std::exchange(m_hasPreviousName, false))
@@ -229,7 +229,7 @@ void AtomicFileWriter::syncFolder()
                    m_target.name().constData());
     else if (!m_replaced)
         ::unlinkat(m_folder.get(), m_target.name().constData(), 0);
-    throw error;
+    throw cannotWrite(m_target.shownPath(), cause);
 }
 
 /// The new version is in its place already, so what fails here is no failure
