@@ -18,6 +18,8 @@ class RecallingStorage final : public storage::BudgetStorage {
 public:
     /// `version` is what the next load gives.
     void recall(Data version) { m_recalled = std::move(version); }
+    /// The file that was loaded or stored last; empty before.
+    [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
     /// Nothing before the first load or store.
     [[nodiscard]] const std::optional<Data> &present() const noexcept { return m_present; }
     /// Whether the present version could not be saved.

@@ -74,8 +74,10 @@ void Session::save()
 
 void Session::saveAs(const QString &file)
 {
-    m_file =
-        std::get<QString>(ask(&Navigator::savedBudgetFile, &Navigator::onSaveAsBudgetFile, file));
+    (void)navigator();
+    // Also when something fails after the budget was stored.
+    const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
+    (void)ask(&Navigator::savedBudgetFile, &Navigator::onSaveAsBudgetFile, file);
 }
 
 void Session::refuseUnsaved() const

@@ -40,6 +40,9 @@ private slots:
         QVERIFY2(request.contains("symbols=JPY,EUR "), request);
         QVERIFY2(!(ended.out + ended.err).contains(key), ended.err.constData());
 
+        // Once more, though there is nothing newer.
+        QCOMPARE(home.run("rates fetch EUR JPY").out, ended.out);
+
         const QJsonObject kept = home.json("rates show").object();
         QCOMPARE(kept["base"_L1].toString(), u"USD"_s);
         QCOMPARE(kept["fetchedAt"_L1].toString(), u"2026-03-01T12:00:00Z"_s);
@@ -49,6 +52,9 @@ private slots:
                              "wage add Job 92.00_EUR", "rates set USD EUR=0.92"}));
         QCOMPARE(home.json("dashboard")["totals"_L1]["wages"_L1]["amount"_L1].toString(),
                  u"100.00"_s);
+        // The end of the input does not end the last line's waiting.
+        const Ended watched = home.run("watch", "rates fetch EUR JPY");
+        QVERIFY2(watched.status == 0 && watched.out.contains("JPY 150"), watched.err.constData());
     }
 
     void badServersLeaveTheRates_data()

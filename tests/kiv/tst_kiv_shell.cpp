@@ -132,6 +132,24 @@ private slots:
                  0);
         QVERIFY(bills(home).contains(u"Car tax 360.00"_s));
         QCOMPARE(home.run("shell", "help bill add\n").out, home.run("bill add --help").out);
+        // An item that has lost its account comes back mended, as from the file.
+        QVERIFY(home.run("shell", "account remove 3\nbill add Rent 5\nbill list")
+                    .out.contains("$1,250.00"));
+    }
+
+    void anotherFileIsFollowedAlsoWhenItsRatesFail()
+    {
+        const Household home;
+        QVERIFY(home.begin());
+        const QByteArray before = home.bytes();
+        QVERIFY(QDir(home.path("data")).removeRecursively());
+        home.write(home.path("data"), "no folder");
+        const Ended ended = home.run("shell", "new second\nbill add Gym 30\nsave-as third\n"
+                                              "bill add Club 20\nbill add Club 20\n");
+        QCOMPARE(ended.status, 1);
+        QCOMPARE(home.bytes(), before);
+        QCOMPARE(home.json("bill list --file second").array().size(), 1);
+        QCOMPARE(home.json("bill list --file third").array().size(), 2);
     }
 
     void whatCouldNotBeSavedStaysInMemory()

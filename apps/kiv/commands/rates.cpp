@@ -91,15 +91,16 @@ struct FetchRates {
             currencies = std::get<std::set<numira::Currency>>(shown);
         if (::isatty(STDERR_FILENO) != 0)
             complain(QObject::tr("fetching exchange rates …"));
-        const QDateTime before = std::get<ConversionMap>(shown).fetchedAt();
         const auto [map, warning] = session.quietly([&] {
             return std::get<ConversionMap>(session.ask(
                 &Navigator::fetchedExchangeRates, &Navigator::onFetchExchangeRates, currencies));
         });
-        // A fetch that failed answers with the rates as they were.
-        if (map.isEmpty() || map.fetchedAt() == before)
-            throw ratesNotFetched(
-                reasonIn(warning, QStringLiteral("Failed to fetch the exchange rates.")));
+        // A fetch that failed answers with the rates as they were, and only the log
+        // tells it from one that found nothing newer.
+        const QString failure =
+            reasonIn(warning, QStringLiteral("Failed to fetch the exchange rates."));
+        if (map.isEmpty() || !failure.isEmpty())
+            throw ratesNotFetched(failure);
         session.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }

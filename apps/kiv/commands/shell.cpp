@@ -126,6 +126,9 @@ struct Watch {
                 pending.append(buffer, count);
             else if (!pending.isEmpty() && !pending.endsWith('\n'))
                 pending.append('\n');
+            // A line may wait in an event loop of its own, in which neither the next
+            // one nor the end of the input is due.
+            input.setEnabled(false);
             bool isWanted = count > 0;
             for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
                 const std::string line = pending.first(end).toStdString();
@@ -135,6 +138,7 @@ struct Watch {
                     break;
                 }
             }
+            input.setEnabled(isWanted);
             if (!isWanted)
                 QCoreApplication::quit();
         });
