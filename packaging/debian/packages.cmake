@@ -54,6 +54,8 @@ kiv_debian_package(kiv kiv utils "libkiv-navigation1.1 (= ${version})"
 Keeps accounts, banks, bills, debts, goals and wages in one file, tells what is
 due, and compares bank statements with the books. Every command can be
 scripted.")
+# Sentences of Qt's own, such as why a file cannot be opened.
+set(CPACK_DEBIAN_KIV_PACKAGE_RECOMMENDS qt6-translations-l10n)
 kiv_debian_package(dev libkiv-navigation-dev libdevel
   "libkiv-navigation1.1 (= ${version}), libnumira0.10 (= ${version}), qt6-base-dev, libboost-dev"
   "personal-budgeting engine (development files)
