@@ -268,20 +268,20 @@ struct LastReconciliation {
         const auto answer = call.session.ask(&Navigator::lookedUpLastReconciliation,
                                              &Navigator::onLookUpLastReconciliation, code.number());
         const auto &last = std::get<1>(answer);
-        const bool isReconciled = last && last->reconciledOn;
-        const QJsonObject json{
-            {QStringLiteral("account"), toJson(code.number())},
-            {QStringLiteral("currency"), foundation::toQString(std::get<0>(answer))},
-            {QStringLiteral("on"), isReconciled ? toJson(*last->reconciledOn) : QJsonValue()},
-            {QStringLiteral("balance"), isReconciled ? toJson(last->amount) : QJsonValue()}};
-        if (!isReconciled) {
+        QJsonObject json{{QStringLiteral("account"), toJson(code.number())},
+                         {QStringLiteral("currency"), foundation::toQString(std::get<0>(answer))},
+                         {QStringLiteral("on"), QJsonValue()},
+                         {QStringLiteral("balance"), QJsonValue()}};
+        if (!last || !last->reconciledOn) {
             return Report(json).line(
                 QObject::tr("%1 was never reconciled.").arg(accounting::presentationText(code)));
         }
+        const QDate on = *last->reconciledOn;
+        json[QStringLiteral("on")] = toJson(on);
+        json[QStringLiteral("balance")] = toJson(last->amount);
         return Report(json).line(
             QObject::tr("%1 was reconciled on %2 with a balance of %3.")
-                .arg(accounting::presentationText(code),
-                     foundation::presentationText(*last->reconciledOn),
+                .arg(accounting::presentationText(code), foundation::presentationText(on),
                      amountText(toJson(last->amount), call.session.displayAs())));
     }
 };
