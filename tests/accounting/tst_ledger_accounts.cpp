@@ -108,6 +108,8 @@ private slots:
         SequentialAccountNumberGenerator almost(no(0xFFFF'FFFE));
         for (int attempt = 0; attempt < 2; ++attempt)
             QCOMPARE(NumberHandout(almost, GeneralLedger()).number(), no(0xFFFF'FFFF));
+        SequentialAccountNumberGenerator highest(no(0xFFFF'FFFF));
+        QCOMPARE(++highest, no(1));
         SequentialAccountNumberGenerator first;
         QCOMPARE(--first, no(0));
     }

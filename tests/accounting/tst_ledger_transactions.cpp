@@ -183,9 +183,9 @@ private slots:
         QVERIFY(ledger == full && ledger.transactionCount() == 65'535);
         QCOMPARE(nextAccountNumber(book), no(10));
 
-        for (const auto free : {txn(40'000), txn(900), txn(64)})
+        for (const auto free : {txn(40'000), txn(900), txn(64), txn(9)})
             ledger.remove(free);
-        for (const auto free : {txn(64), txn(900), txn(40'000)})
+        for (const auto free : {txn(9), txn(64), txn(900), txn(40'000)})
             QCOMPARE(ledger.post(transfer(no(4), no(6), usd("0.01"))), free);
         QVERIFY(refused([&] { ledger.post(transfer(no(4), no(6), usd("1"))); }));
         QVERIFY(ledger == full && rebuilt(ledger) == full);

@@ -132,10 +132,13 @@ private slots:
         QCOMPARE(all.addAccount(QStringLiteral("New"), LineOfCredit, usd("30")), code(10, "New"));
         QCOMPARE(all.generalLedger().ledger(no(10)).type(), AccountTypes::Liability);
         QCOMPARE(all.generalLedger().ledger(no(10)).balance(), usd("30"));
-        all.addAccount(QStringLiteral("Purse"), Cash, usd("0"));
+        const AccountCode purse = all.addAccount(QStringLiteral("Purse"), Cash, usd("0"));
         QCOMPARE(log.text(), u"Added account \"New\" opening balance in 2\n"
                              u"Added account \"Purse\" opening balance in 0");
         QVERIFY(!all.isBankAccount(no(10)));
+        // A number is given once, whatever becomes of its account.
+        all.remove(purse);
+        QVERIFY(all.addAccount(QStringLiteral("Purse"), Cash, usd("0")).number() > purse.number());
     }
 
     // ---- bank accounts ---------------------------------------------------------
