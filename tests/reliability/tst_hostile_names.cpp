@@ -36,6 +36,7 @@ QStringList hostileNames()
                              u"\u200b"_qs,
                              QString(QChar(0xD800)),
                              QString(QChar(0xDFFF)),
+                             QChar(0xD800) + u"\U0001F600"_qs,
                              u"=1+1"_qs,
                              u"+1"_qs,
                              u"-1"_qs,

@@ -213,6 +213,15 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
          "NOT NULL, currency TEXT NOT NULL, closed INTEGER NOT NULL, holds_openings INTEGER NOT "
          "NULL, opened_by INTEGER) STRICT' WHERE name = 'accounts'"});
 
+    const char *const loosen = "PRAGMA writable_schema = ON; UPDATE sqlite_schema SET "
+                               "sql = replace(sql, ' STRICT', '') WHERE name = 'banks'";
+    const char *const tighten = "PRAGMA writable_schema = ON; UPDATE sqlite_schema SET "
+                                "sql = sql || ' STRICT' WHERE name = 'banks'";
+    row("bytes in a text's place", {loosen, "INSERT INTO banks VALUES(1, x'41', 0)", tighten});
+    row("text in a number's place", {loosen, "INSERT INTO banks VALUES(1, 'a', 'no')", tighten});
+    row("table of another's name", {"PRAGMA writable_schema = ON; UPDATE sqlite_schema SET "
+                                    "tbl_name = 'banks' WHERE name = 'accounts'"});
+
     row("stored generated column", {"CREATE TABLE n(a INTEGER, b AS (a + 1) STORED)"});
     row("table more", {"CREATE TABLE n(a INTEGER) STRICT"});
     row("column more", {"ALTER TABLE accounts ADD COLUMN note TEXT"});
@@ -247,6 +256,9 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("huge amount", {"UPDATE transactions SET amount = '1' || hex(zeroblob(1000000))"});
     row("side in nothing", {"UPDATE transactions SET debit_amount = '0'"});
     row("date that is none", {"UPDATE transactions SET date = '2026-02-30'"});
+    row("month below nothing", {"UPDATE transactions SET date = '2026--1-03'"});
+    row("date with strokes", {"UPDATE transactions SET date = '2026/02/03'"});
+    row("date with one stroke", {"UPDATE transactions SET date = '2026-02/03'"});
     row("date with blanks", {"UPDATE transactions SET date = '2026- 2-03'"});
     row("date of another length", {"UPDATE transactions SET date = '02026-02-03'"});
     row("status that is none", {"UPDATE transactions SET debit_status = 3"});
@@ -260,16 +272,27 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
          "FROM n"});
     row("unknown kind of item", {"UPDATE items SET kind = 6"});
     row("no kind of item", {"UPDATE items SET kind = 0"});
+    row("currency of no total", {"UPDATE items SET total_currency = 'USD'"});
     row("total of a bill", {"UPDATE items SET total = '1'"});
     row("frequency that is none", {"UPDATE items SET frequency = 16"});
     row("day of the month that is none", {"UPDATE items SET day_of_month = 32"});
     row("item twice", {"INSERT INTO items SELECT 2, kind, source, amount, currency, frequency, "
                        "next_date, day_of_month, total, total_currency FROM items"});
     row("negative row number", {"UPDATE items SET id = -1"});
+    row("second account of an item", {"INSERT INTO item_accounts VALUES(1, 1, 'Rent', 1), "
+                                      "(2, 1, 'Rent', 2)"});
+    row("account twice in a bank", {"INSERT INTO banks VALUES(1, 'a', 0); INSERT INTO "
+                                    "bank_accounts VALUES(1, 1, 1, 1), (2, 1, 1, 2)"});
     row("account of a missing bank", {"INSERT INTO bank_accounts VALUES(1, 1, 1, 1)"});
     row("bank without a name", {"INSERT INTO banks VALUES(1, '', 0)"});
     row("distribution of a missing survey",
         {"INSERT INTO distributions VALUES(1, 1, 1, 'a', '1', 'USD', NULL, '1', 'USD')"});
+    row("distributions of one item",
+        {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', '0.5', 6)",
+         "INSERT INTO distributions VALUES(1, 1, 1, 'a', '1', 'USD', NULL, '1', 'USD'), "
+         "(2, 1, 1, 'a', '1', 'USD', NULL, '1', 'USD')"});
+    row("percentage in words",
+        {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', 'half', 6)"});
     row("percentage that is none",
         {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', '1 %', 6)"});
 }

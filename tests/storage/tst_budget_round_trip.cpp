@@ -168,6 +168,43 @@ void BudgetRoundTripTest::looseTiesAreMended_data()
         return !data.budgetAccountCodes.has<budgeting::Bill>(rent) &&
                data.generalLedger.hasLedger(AccountNumber(1));
     }) << 1;
+    QTest::newRow("empty name without an account; two choices are taken") << Change([](Data &data) {
+        data.budget.bills.rename(rent, unnamed);
+        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
+        data.budget.nontracks.rename(rent, budgeting::BudgetSource(u"Unnamed bill"_qs));
+        data.budgetAccountCodes.remove<budgeting::Nontrack>(rent);
+        data.budgetAccountCodes.insertOrAssign<budgeting::Nontrack>(
+            budgeting::BudgetSource(u"Unnamed bill"_qs), AccountNumber(3));
+        data.budget.debts.rename(car, budgeting::BudgetSource(u"Unnamed bill 2 [Budget Item]"_qs));
+        data.budgetAccountCodes.remove<budgeting::Debt>(car);
+        data.budgetAccountCodes.insertOrAssign<budgeting::Debt>(
+            budgeting::BudgetSource(u"Unnamed bill 2 [Budget Item]"_qs), AccountNumber(2));
+    }) << Check([=](const Data &data) {
+        return accountOf(bill, data, budgeting::BudgetSource(u"Unnamed bill 3"_qs)) == 4;
+    }) << 2;
+    QTest::newRow("account found again: not the one of another kind, an open one first")
+        << Change([](Data &data) {
+               const QString name = budgeting::itemAccountName(rent);
+               accounting::SequentialAccountNumberGenerator generator;
+               data.budgetAccountCodes.remove<budgeting::Bill>(rent);
+               data.generalLedger.remove(AccountNumber(1));
+               for (const auto &[number, type] :
+                    {std::pair(1U, AccountTypes::Asset), std::pair(7U, AccountTypes::Expense),
+                     std::pair(8U, AccountTypes::Expense), std::pair(9U, AccountTypes::Expense)})
+                   data.generalLedger.add({type,
+                                           {AccountNumber(number), name, {}},
+                                           numira::Money(numira::toCurrency("USD")),
+                                           false},
+                                          generator);
+               data.generalLedger.close(AccountNumber(7));
+               data.generalLedger.close(AccountNumber(8));
+           })
+        << Check([=](const Data &data) { return accountOf(bill, data, rent) == 9; }) << 1;
+    QTest::newRow("account found again: a closed one rather than none") << Change([](Data &data) {
+        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
+        data.generalLedger.close(AccountNumber(1));
+    }) << Check([=](const Data &data) { return accountOf(bill, data, rent) == 1; })
+                                                                        << 1;
     QTest::newRow("empty name; the account, tags and surveys follow it") << Change([](Data &data) {
         data.budget.bills.rename(rent, unnamed);
         data.budgetAccountCodes.remove<budgeting::Bill>(rent);

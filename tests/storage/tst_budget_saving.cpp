@@ -126,6 +126,17 @@ void BudgetSavingTest::refusedFilesStayAndTheOpenOneStaysOpen_data()
         [](const auto &folder) { return folder.path(QString(256, u'a')); });
     row("missing", StorageFailure::NotFound,
         [](const auto &folder) { return folder.path(u"none.budget"_qs); });
+    row("missing at the root", StorageFailure::NotFound,
+        [](const auto &) { return u"/none.budget"_qs; });
+    row("missing where we are", StorageFailure::NotFound,
+        [](const auto &) { return u"none.budget"_qs; });
+    row("folder above", StorageFailure::NotAFile,
+        [](const auto &folder) { return folder.path(u".."_qs); });
+    row("link with a whole path", StorageFailure::NotFound, [](const auto &folder) {
+        const QString path = folder.path(u"whole.budget"_qs);
+        ::symlink(qPrintable(folder.path(u"nothing"_qs)), qPrintable(path));
+        return path;
+    });
     row("missing folder", StorageFailure::NotFound,
         [](const auto &folder) { return folder.path(u"none/a.budget"_qs); });
     row("file as a folder", StorageFailure::NotFound,

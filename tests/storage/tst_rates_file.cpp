@@ -3,6 +3,7 @@
 
 #include "storage/rates_file.h"
 
+#include <QtCore/QLockFile>
 #include <QtTest/QTest>
 
 using namespace kiv;
@@ -15,6 +16,7 @@ class RatesFileTest final : public QObject {
 
 private slots:
     void ratesAreReadAsTheyWereStored();
+    void whatIsInTheWayIsToldOf();
     void otherFilesAreRefused_data();
     void otherFilesAreRefused();
 
@@ -46,6 +48,23 @@ void RatesFileTest::ratesAreReadAsTheyWereStored()
     QCOMPARE(folder.names(), QStringList(u"new"_qs));
     QCOMPARE(QDir(folder.path(u"new"_qs)).entryList(QDir::Files | QDir::Hidden),
              QStringList(u"rates"_qs));
+}
+
+void RatesFileTest::whatIsInTheWayIsToldOf()
+{
+    const test::ScratchFolder folder;
+    folder.write(u"rates"_qs, {});
+    QCOMPARE(test::failureOf([&] { (void)RatesFile(folder.path(u"rates"_qs)).load(); }),
+             StorageFailure::NotOurs);
+    RatesFile inAFile(folder.path(u"rates/rates"_qs));
+    QCOMPARE(test::failureOf([&] { inAFile.store(someRates()); }), StorageFailure::CannotWrite);
+
+    // Another process that stores its own is waited for, but not for ever.
+    RatesFile file(folder.path(u"other"_qs));
+    QLockFile lock(folder.path(u"other.lock"_qs));
+    QVERIFY(lock.lock());
+    QCOMPARE(test::failureOf([&] { file.store(someRates()); }), StorageFailure::Locked);
+    QVERIFY(!file.exists());
 }
 
 void RatesFileTest::otherFilesAreRefused_data()
