@@ -191,11 +191,15 @@ private slots:
             QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)value.times(text));
         // A text ends where it says, whatever stands behind it.
         QCOMPARE(value.times(std::string_view("25", 1)).toText(), "2");
-        try {
-            (void)Decimal::fromText(std::string(41, 'x'));
-            QFAIL("It was read.");
-        } catch (const numira::InvalidAmount &error) {
-            QCOMPARE(error.what(), "'" + std::string(40, 'x') + "...' is not a decimal amount.");
+        QCOMPARE(value.times("010.0").toText(), "10"); // and is never octal
+        for (const std::size_t length : {40U, 41U}) {
+            try {
+                (void)Decimal::fromText(std::string(length, 'x'));
+                QFAIL("It was read.");
+            } catch (const numira::InvalidAmount &error) {
+                QCOMPARE(error.what(), "'" + std::string(40, 'x') + (length > 40 ? "..." : "") +
+                                           "' is not a decimal amount.");
+            }
         }
         // Exponents at which the powers of ten would fill the memory.
         QVERIFY_THROWS_EXCEPTION(numira::OverflowError, (void)value.times("1e2000000000"));
