@@ -24,18 +24,11 @@ accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &gener
     m_budget->items<T>().add(std::move(item));
     // From here on a failure leaves the item in the budget: the user still has
     // it before their eyes, and it is given an account when the file is loaded.
-    const Number before = m_codes.has<T>(source) ? Number(m_codes.value<T>(source)) : std::nullopt;
+    // Whoever was not in the budget had no account either.
     m_codes.insertOrAssign<T>(source, code.number());
-    // Neither takes memory, so neither can fail. A copy of all ties would make
-    // each item dearer than the one before.
-    auto tieAsBefore = qScopeGuard([&] {
-        if (before)
-            m_codes.insertOrAssign<T>(source, *before);
-        else
-            m_codes.remove<T>(source);
-    });
+    auto untied = qScopeGuard([&] { m_codes.remove<T>(source); });
     m_ledgers->add(account, generator);
-    tieAsBefore.dismiss();
+    untied.dismiss();
     number.keep();
     return code;
 }
