@@ -24,11 +24,19 @@ accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &gener
     m_budget->items<T>().add(std::move(item));
     // From here on a failure leaves the item in the budget: the user still has
     // it before their eyes, and it is given an account when the file is loaded.
-    // Whoever was not in the budget had no account either.
+    // An item that was renamed only half-way has left its tie under its old name.
+    const Number before = m_codes.has<T>(source) ? Number(m_codes.value<T>(source)) : std::nullopt;
     m_codes.insertOrAssign<T>(source, code.number());
-    auto untied = qScopeGuard([&] { m_codes.remove<T>(source); });
+    // Neither takes memory, so neither can fail. A copy of all ties would make
+    // each item dearer than the one before.
+    auto tieAsBefore = qScopeGuard([&] {
+        if (before)
+            m_codes.insertOrAssign<T>(source, *before);
+        else
+            m_codes.remove<T>(source);
+    });
     m_ledgers->add(account, generator);
-    untied.dismiss();
+    tieAsBefore.dismiss();
     number.keep();
     return code;
 }

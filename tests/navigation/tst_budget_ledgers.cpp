@@ -87,6 +87,13 @@ private slots:
             InvalidNumbers invalid;
             QVERIFY(answer([&] { books.items.add(item<T>("Gas"), invalid); }).contains(u"above 0"));
             QCOMPARE(stateOf(books), expected);
+            // So does the tie that an item left behind whose renaming failed half-way.
+            books.budget.items<T>().rename(source("Water"), source("Wet"));
+            expected = stateOf(books);
+            expected.budget.items<T>().add(item<T>("Water"));
+            QVERIFY(
+                answer([&] { books.items.add(item<T>("Water"), invalid); }).contains(u"above 0"));
+            QCOMPARE(stateOf(books), expected);
         });
     }
 
