@@ -72,7 +72,7 @@ private slots:
         }
         qInstallMessageHandler(nullptr);
         qInfo() << "Grown by" << memoryInUse() - memory << "bytes.";
-        QVERIFY(memoryInUse() < memory + 1024 * 1024);
+        QVERIFY(memoryInUse() < memory + 64 * 1024);
         QVERIFY(openFiles() <= files);
     }
 };
