@@ -250,6 +250,7 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("overlong text", {"UPDATE accounts SET name = CAST(x'c080' AS TEXT)"});
     row("surrogates that make a pair",
         {"UPDATE accounts SET name = CAST(x'eda080edb080' AS TEXT)"});
+    row("transaction number too high", {"UPDATE transactions SET number = 65536 WHERE number = 2"});
     row("missing account", {"UPDATE transactions SET debit = 9"});
     row("amount with an exponent", {"UPDATE transactions SET amount = '1e1'"});
     row("negative amount", {"UPDATE transactions SET amount = '-5'"});

@@ -6,6 +6,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <sstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -73,6 +74,7 @@ private slots:
     void foreignJournalsAreLeftAlone();
     void aLimitOfFileSizeIsAnError();
     void leftoversOfAKilledSaveAreClearedAway();
+    void failuresAreToldApart();
 
 private:
     std::optional<StorageFailure> loading(const QString &path)
@@ -454,6 +456,18 @@ void BudgetSavingTest::leftoversOfAKilledSaveAreClearedAway()
                                              u"home.budget.backup-2"_qs}));
     QCOMPARE(m_folder->read(u"home.budget.backup-1"_qs), first);
     QCOMPARE(m_folder->read(u"home.budget.backup-2"_qs), QByteArray("the version before"));
+}
+
+void BudgetSavingTest::failuresAreToldApart()
+{
+    std::set<std::string> words;
+    const int beyond = int(StorageFailure::CannotHold) + 1;
+    for (int failure = 1; failure <= beyond; ++failure) {
+        std::ostringstream out;
+        out << static_cast<StorageFailure>(failure);
+        words.insert(out.str());
+    }
+    QCOMPARE(int(words.size()), beyond);
 }
 
 QTEST_APPLESS_MAIN(BudgetSavingTest)
