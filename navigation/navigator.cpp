@@ -3,7 +3,6 @@
 #include "navigation/navigator.h"
 
 #include "navigation/internal/budget_bank_ledgers.h"
-#include "navigation/internal/call_later.h"
 #include "navigation/internal/logging.h"
 #include "navigation/internal/meta_types.h"
 #include "navigation/internal/update_notifier.h"
@@ -18,6 +17,7 @@
 #include <QtCore/QDebug>
 #include <QtCore/QLocale>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 
 namespace kiv::navigation {
 
@@ -66,9 +66,9 @@ Navigator::Navigator(foundation::UniqueQtPtr<networking::RequestSender> sender,
 
     // In this order, so that the wizard does not wait for the network.
     if (!m_preferences.doesExist()) {
-        internal::callLater(startUpDelay, this, &Navigator::onPrepareNewBudgetFirstTimeWizard);
+        QTimer::singleShot(startUpDelay, this, &Navigator::onPrepareNewBudgetFirstTimeWizard);
     }
-    internal::callLater(startUpDelay, this, &Navigator::updateAllExpiredExchangeRates);
+    QTimer::singleShot(startUpDelay, this, &Navigator::updateAllExpiredExchangeRates);
 }
 
 Navigator::~Navigator() = default;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/update_notifier.h"
 
-#include "navigation/internal/call_later.h"
-
 #include "updating/update_checker.h"
 
 #include <QtCore/QDebug>
@@ -30,7 +28,7 @@ UpdateNotifier::UpdateNotifier(const std::chrono::milliseconds &interval,
 {
     connect(m_timer.get(), &QTimer::timeout, this, &UpdateNotifier::checkForUpdate);
     logDuration("The first update check will occur in", firstCheckDelay);
-    callLater(firstCheckDelay, this, &UpdateNotifier::checkForUpdate);
+    QTimer::singleShot(firstCheckDelay, this, &UpdateNotifier::checkForUpdate);
     startCheckNotifications(interval);
 }
 
