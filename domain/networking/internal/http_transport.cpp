@@ -38,13 +38,25 @@ private:
     QObject m_context;
 };
 
+/// The path of a library in the folder of the one that this code stands in.
+QByteArray besideThis(const char *library)
+{
+    Dl_info here = {};
+    if (::dladdr(reinterpret_cast<const void *>(&besideThis), &here) == 0)
+        return library;
+    const QByteArray path = here.dli_fname;
+    return path.first(path.lastIndexOf('/') + 1) + library;
+}
+
 } // namespace
 
 std::unique_ptr<HttpTransport> loadHttpTransport(const HttpLimits &limits, const char *library)
 {
-    // Not QLibrary: the loader looks next to the library that calls it, and that
-    // has to be this one. It is never unloaded, as Qt Network must not be.
-    void *handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    // It stands next to this one, or where the system looks. It is never unloaded,
+    // as Qt Network must not be.
+    void *handle = ::dlopen(besideThis(library).constData(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle)
+        handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
     void *symbol = handle ? ::dlsym(handle, "kivHttpTransport") : nullptr;
     if (!symbol)
         return std::make_unique<MissingTransport>(httpMissing(QString::fromLocal8Bit(::dlerror())));
