@@ -34,8 +34,8 @@ struct KIV_STORAGE_EXPORT Judgement {
     /// The promise that was judged.
     FilePromise promise = FilePromise::Identity; ///< what the file should keep
     /// Whether it is kept.
-    Verdict verdict = Verdict::NotJudged;        ///< whether it does
-    QStringList reasons;                         ///< why not, in words; empty when kept
+    Verdict verdict = Verdict::NotJudged; ///< whether it does
+    QStringList reasons;                  ///< why not, in words; empty when kept
 };
 
 /// What a look at a budget file found.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/report.h"
 
-#include "user_locale.h"
 #include "output/table.h"
+#include "user_locale.h"
 
 #include "foundation/local_dates.h"
 #include "foundation/presentation.h"

@@ -2,8 +2,8 @@
 #include "parsing/values.h"
 
 #include "errors.h"
-#include "user_locale.h"
 #include "parsing/similar.h"
+#include "user_locale.h"
 
 #include "budgeting/item_traits.h"
 #include "foundation/local_dates.h"
