@@ -18,7 +18,8 @@ struct FailingCalls {
     int from = 0;                    ///< from its time of this number on, counted from 1
     int times = 0;                   ///< and how many times
     int error = 0;                   ///< with this error; with 0 it lies instead
-    std::function<void()> meanwhile; ///< what another program does just before it
+    std::function<void()> meanwhile; ///< what another program does just before it,
+                                     ///< or what else is to fail from then on
 
     [[nodiscard]] bool isChosen(const std::string &call, int count) const
     {
@@ -40,15 +41,16 @@ auto answer(const char *call, Real real) -> decltype(real())
 {
     if (!failingCalls.isOn)
         return real();
-    const int count = ++failingCalls.counts[call];
-    if (failingCalls.meanwhile && failingCalls.isChosen(call, count)) {
+    const bool isChosen = failingCalls.isChosen(call, ++failingCalls.counts[call]);
+    const int error = failingCalls.error;
+    if (failingCalls.meanwhile && isChosen) {
         failingCalls.isOn = false;
         failingCalls.meanwhile();
         failingCalls.isOn = true;
     }
-    if (failingCalls.error == 0 || !failingCalls.isChosen(call, count))
+    if (error == 0 || !isChosen)
         return real();
-    errno = failingCalls.error;
+    errno = error;
     return -1;
 }
 

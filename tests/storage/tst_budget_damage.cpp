@@ -4,6 +4,8 @@
 #include "scratch_folder.h"
 
 #include "storage/budget_inspection.h"
+#include "storage/internal/errors.h"
+#include "storage/internal/rows.h"
 #include "support/damage.h"
 #include "support/message_log.h"
 
@@ -12,6 +14,7 @@
 #include <ctime>
 #include <random>
 
+#include <sqlite3.h>
 #include <sys/resource.h>
 
 using namespace kiv;
@@ -102,6 +105,9 @@ private slots:
     void theFirstWrongRowOfAFullFileIsNamed();
     void aSealThatWasMadeAgainIsRight();
     void everyPromiseIsJudged();
+    void wantOfMemoryIsNoDamage();
+    void rowsOutOfOrderAreRefused();
+    void halfRowsAndEndlessQueriesEnd();
 
 private:
     test::ScratchFolder m_folder{QFileInfo(u"/dev/shm"_qs).isWritable() ? u"/dev/shm"_qs
@@ -255,6 +261,8 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("amount with an exponent", {"UPDATE transactions SET amount = '1e1'"});
     row("negative amount", {"UPDATE transactions SET amount = '-5'"});
     row("huge amount", {"UPDATE transactions SET amount = '1' || hex(zeroblob(1000000))"});
+    row("side of a missing account",
+        {"UPDATE transactions SET debit = 9, debit_amount = '5', credit_amount = '5'"});
     row("side in nothing", {"UPDATE transactions SET debit_amount = '0'"});
     row("date that is none", {"UPDATE transactions SET date = '2026-02-30'"});
     row("month below nothing", {"UPDATE transactions SET date = '2026--1-03'"});
@@ -382,6 +390,71 @@ void BudgetDamageTest::everyPromiseIsJudged()
     QCOMPARE(storage::backupOf(m_path, 1), m_path + u".backup-1"_s);
     QCOMPARE(test::failureOf([this] { (void)storage::inspectBudget(m_folder.path(u"b"_s)); }),
              StorageFailure::NotFound);
+}
+
+void BudgetDamageTest::wantOfMemoryIsNoDamage()
+{
+    const MessageLog log; // the item has no account
+    test::store(m_path, smallBudget());
+    const QByteArray before = m_folder.read(u"a.budget"_s);
+    const std::function<void()> load = [this] { (void)test::load(m_path); };
+    const std::function<void()> inspect = [this] { QCOMPARE(verdictsOn(m_path), u"kkkkm"_s); };
+    const std::function<void()> store = [this] { test::store(m_path, {}); };
+    for (const auto &task : {load, inspect, store}) {
+        // A little more each time, until there is enough for it.
+        int wants = 0;
+        for (sqlite3_int64 limit = 4096; wants >= 0; limit += 1024) {
+            sqlite3_hard_heap_limit64(limit);
+            const auto unlimited = qScopeGuard([] { sqlite3_hard_heap_limit64(0); });
+            try {
+                task();
+                break;
+            } catch (const std::bad_alloc &) {
+                ++wants;
+            } catch (const std::exception &other) {
+                QFAIL(other.what());
+            }
+            QCOMPARE(m_folder.read(u"a.budget"_s), before);
+        }
+        QVERIFY(wants > 3);
+    }
+}
+
+void BudgetDamageTest::rowsOutOfOrderAreRefused()
+{
+    test::store(m_path, smallBudget());
+    QByteArray bytes = m_folder.read(u"a.budget"_s);
+    // Pages of two rows exchange them.
+    for (qsizetype page = storage::internal::pageSize; page < bytes.size();
+         page += storage::internal::pageSize) {
+        if (bytes.sliced(page, 5) == QByteArray::fromHex("0d00000002"))
+            std::swap_ranges(&bytes[page + 8], &bytes[page + 10], &bytes[page + 10]);
+    }
+    m_folder.write(u"a.budget"_s, bytes);
+    try {
+        (void)test::load(m_path);
+        QFAIL("It was read.");
+    } catch (const storage::StorageError &error) {
+        QVERIFY2(QByteArray(error.what()).endsWith("the table 'accounts' is out of order."),
+                 error.what());
+    }
+}
+
+void BudgetDamageTest::halfRowsAndEndlessQueriesEnd()
+{
+    using namespace storage::internal;
+    test::store(m_path, smallBudget());
+    const QByteArray bytes = m_folder.read(u"a.budget"_s);
+    const ImageDatabase database(bytes, currentVersion);
+    Statement endless(database, "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                                "SELECT max(i) FROM n");
+    QVERIFY_THROWS_EXCEPTION(ContentFault, endless.step());
+    Seal seal(currentVersion);
+    RowReader reader(database, Table::Accounts, seal);
+    QVERIFY(reader.next());
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, reader.next());
+    RowWriter writer(database, Table::Accounts, seal);
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, writer.integer(1).endRow());
 }
 
 QTEST_APPLESS_MAIN(BudgetDamageTest)

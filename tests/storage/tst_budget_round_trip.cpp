@@ -182,6 +182,26 @@ void BudgetRoundTripTest::looseTiesAreMended_data()
     }) << Check([=](const Data &data) {
         return accountOf(bill, data, budgeting::BudgetSource(u"Unnamed bill 3"_qs)) == 4;
     }) << 2;
+    QTest::newRow("empty name; the account bears another, or is gone; a choice is an account's")
+        << Change([](Data &data) {
+               data.budget.bills.rename(rent, unnamed);
+               data.budgetAccountCodes.remove<budgeting::Bill>(rent);
+               data.budgetAccountCodes.insertOrAssign<budgeting::Bill>(unnamed, AccountNumber(1));
+               data.generalLedger.recode(
+                   data.generalLedger.accountCode(AccountNumber(3)),
+                   {AccountNumber(3), QStringLiteral("Unnamed bill [Budget Item]"), {}});
+               data.budget.debts.rename(car, unnamed);
+               data.budgetAccountCodes.remove<budgeting::Debt>(car);
+               data.budgetAccountCodes.insertOrAssign<budgeting::Debt>(unnamed, AccountNumber(9));
+           })
+        << Check([=](const Data &data) {
+               const budgeting::BudgetSource named(u"Unnamed bill 2"_qs);
+               return accountOf(bill, data, named) == 1 &&
+                      data.generalLedger.accountCode(AccountNumber(1)).name() ==
+                          budgeting::itemAccountName(rent) &&
+                      accountOf(debt, data, budgeting::BudgetSource(u"Unnamed debt"_qs)) == 4;
+           })
+        << 3;
     QTest::newRow("account found again: not the one of another kind, an open one first")
         << Change([](Data &data) {
                const QString name = budgeting::itemAccountName(rent);

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <sstream>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -143,6 +144,10 @@ void BudgetSavingTest::refusedFilesStayAndTheOpenOneStaysOpen_data()
         [](const auto &folder) { return folder.path(u"none/a.budget"_qs); });
     row("file as a folder", StorageFailure::NotFound,
         [](const auto &folder) { return folder.path(u"home.budget/a.budget"_qs); });
+    row("folder that leads to itself", StorageFailure::CannotRead, [](const auto &folder) {
+        ::symlink("loop", qPrintable(folder.path(u"loop"_qs)));
+        return folder.path(u"loop/a.budget"_qs);
+    });
     row("folder", StorageFailure::NotAFile,
         [](const auto &folder) { return folder.path(u"."_qs); });
     row("folder with a name", StorageFailure::NotAFile, [](const auto &folder) {
@@ -293,6 +298,22 @@ void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
     strange.banks.add(banking::Bank(banking::BankName(u"Strange"_qs),
                                     {{{}, static_cast<banking::BankAccountTypes>(9)}}, false));
     QCOMPARE(test::failureOf([&] { m_file->store(strange); }), StorageFailure::CannotHold);
+    // A row more than a table may have, and more bytes than a file may.
+    Data large;
+    banking::Bank::Accounts accounts;
+    for (std::uint32_t number = 1; number <= 65'536; ++number)
+        accounts.emplace(accounting::AccountNumber(number), banking::BankAccountTypes::Cash);
+    large.banks.add(banking::Bank(banking::BankName(u"Large"_qs), accounts, false));
+    QCOMPARE(test::failureOf([&] { m_file->store(large); }), StorageFailure::CannotHold);
+    large = {};
+    accounting::SequentialAccountNumberGenerator generator;
+    for (std::uint32_t number = 1; number <= 9; ++number)
+        large.generalLedger.add({accounting::AccountTypes::Asset,
+                                 {accounting::AccountNumber(number), QString(15'000'000, u'n'), {}},
+                                 numira::Money(numira::toCurrency("USD")),
+                                 false},
+                                generator);
+    QCOMPARE(test::failureOf([&] { m_file->store(large); }), StorageFailure::CannotHold);
     QCOMPARE(m_folder->read(u"home.budget"_qs), before);
 }
 
@@ -318,6 +339,20 @@ void BudgetSavingTest::aFileInUseIsLocked()
     {
         QLockFile other(m_path + u".lock"_qs);
         QVERIFY(other.lock());
+        QCOMPARE(loadingElsewhere(), StorageFailure::Locked);
+    }
+    // A lock that took the place of this one stays.
+    m_file.emplace();
+    QCOMPARE(loading(m_path), std::nullopt);
+    QVERIFY(QFile::remove(m_path + u".lock"_qs));
+    m_folder->write(u"home.budget.lock"_qs, "1\ninit\nelsewhere\n");
+    m_file.reset();
+    QVERIFY(QFile::exists(m_path + u".lock"_qs));
+    // One that does not say who it is.
+    {
+        m_folder->write(u"home.budget.lock"_qs, {});
+        QFile other(m_path + u".lock"_qs);
+        QVERIFY(other.open(QIODevice::ReadWrite) && ::flock(other.handle(), LOCK_EX) == 0);
         QCOMPARE(loadingElsewhere(), StorageFailure::Locked);
     }
     // What a killed process left, finished or not, locks nothing.
@@ -436,12 +471,25 @@ void BudgetSavingTest::aLimitOfFileSizeIsAnError()
     const rlimit tight{10'000, limit.rlim_max};
     const QStringList names = m_folder->names();
     const QByteArray before = m_folder->read(u"home.budget"_qs);
-    ::setrlimit(RLIMIT_FSIZE, &tight);
-    const auto failure = storing(m_path, u"Second"_qs);
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    QCOMPARE(failure, StorageFailure::CannotWrite);
-    QCOMPARE(m_folder->names(), names);
-    QCOMPARE(m_folder->read(u"home.budget"_qs), before);
+    sigset_t signal;
+    sigemptyset(&signal);
+    sigaddset(&signal, SIGXFSZ);
+    // A program that holds the limit's signal back still holds it back then.
+    for (const int how : {SIG_UNBLOCK, SIG_BLOCK}) {
+        sigset_t mask;
+        pthread_sigmask(how, &signal, nullptr);
+        ::setrlimit(RLIMIT_FSIZE, &tight);
+        const auto failure = storing(m_path, u"Second"_qs);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        pthread_sigmask(SIG_BLOCK, nullptr, &mask);
+        QCOMPARE(sigismember(&mask, SIGXFSZ), how == SIG_BLOCK ? 1 : 0);
+        QCOMPARE(failure, StorageFailure::CannotWrite);
+        QCOMPARE(m_folder->names(), names);
+        QCOMPARE(m_folder->read(u"home.budget"_qs), before);
+    }
+    const timespec atOnce = {};
+    QCOMPARE(sigtimedwait(&signal, nullptr, &atOnce), SIGXFSZ);
+    pthread_sigmask(SIG_UNBLOCK, &signal, nullptr);
     QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
 }
 

@@ -58,6 +58,11 @@ void RatesFileTest::whatIsInTheWayIsToldOf()
              StorageFailure::NotOurs);
     RatesFile inAFile(folder.path(u"rates/rates"_qs));
     QCOMPARE(test::failureOf([&] { inAFile.store(someRates()); }), StorageFailure::CannotWrite);
+    RatesFile atAFolder(folder.path(u"third"_qs));
+    QCOMPARE(test::failureOf([&] { (void)atAFolder.load(); }), StorageFailure::NotFound);
+    QVERIFY(QDir().mkdir(folder.path(u"third.lock"_qs)));
+    QCOMPARE(test::failureOf([&] { atAFolder.store(someRates()); }), StorageFailure::CannotWrite);
+    QCOMPARE(test::failureOf([] { (void)RatesFile(QString()).load(); }), StorageFailure::NoName);
 
     // Another process that stores its own is waited for, but not for ever.
     RatesFile file(folder.path(u"other"_qs));

@@ -6,7 +6,10 @@
 
 #include <QtTest/QTest>
 
+#include <array>
+
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -50,7 +53,9 @@ struct Desk {
         file.setFilePathName(path);
         if (standing == Standing::Open)
             (void)file.load();
-        ::setxattr(qPrintable(path), "user.note", "mine", 4, 0);
+        // A new version goes without what only the system may give.
+        for (const char *note : {"user.note", "trusted.note", "security.note"})
+            ::setxattr(qPrintable(path), note, "mine", 4, 0);
         if (::geteuid() == 0 && ::chown(qPrintable(path), 1234, 5678) != 0)
             qFatal("The owner cannot be changed.");
         if (standing == Standing::New)
@@ -168,6 +173,24 @@ private slots:
     void lyingCallsAreFoundOut();
     void aFileThatChangesMeanwhileIsNotOverwritten_data();
     void aFileThatChangesMeanwhileIsNotOverwritten();
+    void whatCannotBeTakenBackIsSavedTheNextTime_data();
+    void whatCannotBeTakenBackIsSavedTheNextTime();
+    void rightsOfALostGroupGoToNobody();
+    void aLoadIsHonestToo_data();
+    void aLoadIsHonestToo();
+
+private:
+    /// Lets the call fail that is made the `from`th time from now on.
+    static void fail(const char *call, int from, int error, std::function<void()> meanwhile = {})
+    {
+        failingCalls = {};
+        failingCalls.name = call;
+        failingCalls.from = from;
+        failingCalls.times = 1;
+        failingCalls.error = error;
+        failingCalls.meanwhile = std::move(meanwhile);
+        failingCalls.isOn = true;
+    }
 };
 
 void SaveFaultsTest::initTestCase()
@@ -215,7 +238,7 @@ void SaveFaultsTest::lyingCallsAreFoundOut()
     const std::optional<StorageFailure> none;
     for (const auto &[call, times, expected] :
          {std::tuple("write", 1, none), std::tuple("write", 1000, cannot),
-          std::tuple("pread", 1, cannot)}) {
+          std::tuple("pread", 1, cannot), std::tuple("pread", 1000, cannot)}) {
         test::FailingCalls lying;
         lying.name = call;
         lying.from = 1;
@@ -253,17 +276,122 @@ void SaveFaultsTest::aFileThatChangesMeanwhileIsNotOverwritten()
     QFETCH(std::function<void(const Desk &)>, change);
     QFETCH(QByteArray, left);
     Desk desk;
-    failingCalls = {};
-    failingCalls.name = "fsync"; // of the new version, before the old one is replaced
-    failingCalls.from = failingCalls.times = 1;
-    failingCalls.meanwhile = [&] { change(desk); };
-    failingCalls.isOn = true;
+    // While the new version is synchronised, before the old one is replaced.
+    fail("fsync", 1, 0, [&] { change(desk); });
     const auto failure = test::failureOf([&] { desk.save(3); });
     failingCalls = {};
     QCOMPARE(failure, storage::StorageFailure::ChangedOnDisk);
     QCOMPARE(desk.folder.read(name), left);
     QCOMPARE(desk.folder.names(), (QStringList{name, name + QStringLiteral(".backup-1"),
                                                name + QStringLiteral(".lock")}));
+}
+
+void SaveFaultsTest::whatCannotBeTakenBackIsSavedTheNextTime_data()
+{
+    // The new version is in its place when the folder cannot be synchronised, and
+    // there is no way back: no link to the old version, or none that can be moved.
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    QTest::newRow("no backup") << QByteArray("linkat") << QByteArray("fsync");
+    QTest::newRow("no moving back") << QByteArray("fsync") << QByteArray("renameat");
+}
+
+void SaveFaultsTest::whatCannotBeTakenBackIsSavedTheNextTime()
+{
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    const MessageLog log; // saving without a backup is a warning
+    Desk desk;
+    fail(first, 2, first == "linkat" ? EPERM : EIO, [&] { fail(second, 1, EIO); });
+    QCOMPARE(test::failureOf([&] { desk.save(3); }), storage::StorageFailure::CannotWrite);
+    failingCalls = {};
+    QCOMPARE(desk.folder.read(name), bytesOf(3));
+    desk.save(4);
+    QCOMPARE(desk.folder.read(name), bytesOf(4));
+}
+
+void SaveFaultsTest::rightsOfALostGroupGoToNobody()
+{
+    // As a list says it: its version, then who may do what. The group has the
+    // right to write.
+    constexpr const char *list = "system.posix_acl_access";
+    const QByteArray rights = QByteArray::fromHex("02000000"
+                                                  "01000600ffffffff"
+                                                  "02000600d2040000"
+                                                  "04000600ffffffff"
+                                                  "10000600ffffffff"
+                                                  "20000400ffffffff");
+    for (const bool isLost : {false, true}) {
+        Desk desk;
+        const QByteArray path = QFile::encodeName(desk.path);
+        if (::geteuid() != 0 ||
+            ::setxattr(path, list, rights.constData(), std::size_t(rights.size()), 0) != 0)
+            return; // only root gives files away, and not every file system has lists
+        if (isLost)
+            fail("fchown", 1, EPERM);
+        desk.save(3);
+        failingCalls = {};
+        struct stat status = {};
+        ::stat(path, &status);
+        QCOMPARE(status.st_mode & 0777U, isLost ? 0644U : 0664U);
+        std::array<char, 64> kept{};
+        QCOMPARE(::getxattr(path, list, kept.data(), kept.size()), isLost ? -1 : rights.size());
+    }
+}
+
+void SaveFaultsTest::aLoadIsHonestToo_data()
+{
+    using Change = std::function<void(const Desk &)>;
+    using storage::StorageFailure;
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<Change>("meanwhile");
+    QTest::addColumn<std::optional<StorageFailure>>("expected");
+    const auto row = [](const char *title, const char *call, int from, int error,
+                        const Change &meanwhile, std::optional<StorageFailure> expected) {
+        QTest::newRow(title) << QByteArray(call) << from << error << meanwhile << expected;
+    };
+    row("not to be asked for", "access", 1, EIO, {}, std::nullopt);
+    row(
+        "gone", "lstat", 2, 0, [](const Desk &d) { QFile::remove(d.path); },
+        StorageFailure::NotFound);
+    row(
+        "cut short", "read", 1, 0, [](const Desk &d) { QFile::resize(d.path, 5000); },
+        StorageFailure::Damaged);
+    row(
+        "lock replaced", "lstat", 1, 0,
+        [](const Desk &d) {
+            QFile::remove(d.path + u".lock"_qs);
+            d.folder.write(name + u".lock"_qs, "");
+        },
+        std::nullopt);
+    row(
+        "lock only to be read", "open", 1, EACCES,
+        [](const Desk &d) { d.folder.write(name + u".lock"_qs, ""); }, std::nullopt);
+    row(
+        "lock not to be opened", "open", 1, EACCES, [](const Desk &) { fail("open", 1, EACCES); },
+        std::nullopt);
+}
+
+void SaveFaultsTest::aLoadIsHonestToo()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(int, from);
+    QFETCH(int, error);
+    QFETCH(std::function<void(const Desk &)>, meanwhile);
+    QFETCH(std::optional<storage::StorageFailure>, expected);
+    Desk desk(Standing::NotOpen);
+    storage::BudgetStorage::Data data;
+    fail(call, from, error, [&] {
+        if (meanwhile)
+            meanwhile(desk);
+    });
+    const auto failure = test::failureOf([&] { data = desk.file.load(); });
+    failingCalls = {};
+    QCOMPARE(failure, expected);
+    if (!expected)
+        QVERIFY(data.banks.hasBank(banking::BankName(u"2"_qs)));
 }
 
 QTEST_APPLESS_MAIN(SaveFaultsTest)

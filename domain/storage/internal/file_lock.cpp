@@ -8,6 +8,7 @@
 #include <QtCore/QSysInfo>
 
 #include <array>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -73,7 +74,7 @@ bool isStillThere(const FileDescriptor &file, const QByteArray &path)
     struct stat opened = {};
     struct stat found = {};
     return ::fstat(file.get(), &opened) == 0 && ::lstat(path.constData(), &found) == 0 &&
-           opened.st_dev == found.st_dev && opened.st_ino == found.st_ino;
+           std::tie(opened.st_dev, opened.st_ino) == std::tie(found.st_dev, found.st_ino);
 }
 
 } // namespace

@@ -19,19 +19,46 @@ constexpr int stepsBetweenChecks = 1000;
 /// each call.
 const int openFlags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX;
 
-void check(sqlite3 *database, int result)
+/// Want of memory is no fault of the content, so it stays what it is.
+[[noreturn]] void fail(int result, const std::string &why)
 {
     if (result == SQLITE_NOMEM)
         throw std::bad_alloc();
+    throw ContentFault(why);
+}
+
+void check(sqlite3 *database, int result)
+{
     if (result != SQLITE_OK)
-        throw ContentFault(sqlite3_errmsg(database));
+        fail(result, sqlite3_errmsg(database));
+}
+
+/// Does what the library answers with exceptions of its own.
+template <typename Task>
+auto checked(Task task)
+{
+    try {
+        return task();
+    } catch (const SQLite::Exception &failure) {
+        fail(failure.getErrorCode(), failure.what());
+    }
+}
+
+SQLite::Database emptyDatabase()
+{
+    return checked([] { return SQLite::Database(":memory:", openFlags); });
+}
+
+void run(SQLite::Database &database, const std::string &sql)
+{
+    checked([&] { return database.exec(sql); });
 }
 
 std::string_view textAt(const Statement &statement, int column)
 {
     const auto *text = sqlite3_column_text(statement.get(), column);
     const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), column));
-    return text ? std::string_view(reinterpret_cast<const char *>(text), size) : std::string_view();
+    return {reinterpret_cast<const char *>(text), size}; // NULL has no size
 }
 
 } // namespace
@@ -41,22 +68,22 @@ void Image::Free::operator()(unsigned char *bytes) const noexcept
     sqlite3_free(bytes);
 }
 
-ImageDatabase::ImageDatabase() : m_database(":memory:", openFlags)
+ImageDatabase::ImageDatabase() : m_database(emptyDatabase())
 {
     harden();
     // Whatever SQLite was built with, the same rows make the same bytes.
-    m_database.exec("PRAGMA page_size = " + std::to_string(pageSize) +
-                    "; PRAGMA auto_vacuum = 0; PRAGMA encoding = 'UTF-8'"
-                    "; PRAGMA journal_mode = OFF"
-                    "; PRAGMA application_id = " +
-                    std::to_string(applicationId) +
-                    "; PRAGMA user_version = " + std::to_string(currentVersion) + "; BEGIN");
+    run(m_database, "PRAGMA page_size = " + std::to_string(pageSize) +
+                        "; PRAGMA auto_vacuum = 0; PRAGMA encoding = 'UTF-8'"
+                        "; PRAGMA journal_mode = OFF"
+                        "; PRAGMA application_id = " +
+                        std::to_string(applicationId) +
+                        "; PRAGMA user_version = " + std::to_string(currentVersion) + "; BEGIN");
     for (const TableDefinition &table : tablesOf(currentVersion))
-        m_database.exec(table.sql);
+        run(m_database, table.sql);
 }
 
 ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
-    : m_database(":memory:", openFlags)
+    : m_database(emptyDatabase())
 {
     harden();
     limitSteps(image.size());
@@ -69,7 +96,7 @@ ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
 
 Image ImageDatabase::serialised()
 {
-    m_database.exec("COMMIT");
+    run(m_database, "COMMIT");
     sqlite3_int64 size = 0;
     unsigned char *bytes = sqlite3_serialize(handle(), "main", &size, 0);
     if (!bytes)
@@ -112,11 +139,11 @@ void ImageDatabase::checkSchema(std::uint32_t version)
     Statement schema(*this, "SELECT type, name, tbl_name, sql FROM sqlite_schema ORDER BY rowid");
     for (const TableDefinition &table : tablesOf(version)) {
         if (!schema.step() || textAt(schema, 0) != "table" || textAt(schema, 1) != table.name ||
-            textAt(schema, 2) != table.name || textAt(schema, 3) != table.sql)
+            textAt(schema, 3) != table.sql)
             throw ContentFault("The table '" + std::string(table.name) + "' is not as it should.");
     }
     if (schema.step())
-        throw ContentFault("There is more in the schema than should be.");
+        throw ContentFault(std::string("There is more in the schema than should be."));
 }
 
 Statement::Statement(const ImageDatabase &database, const QByteArray &sql)
