@@ -24,14 +24,6 @@ QString safeName(const Account &account)
     return name.isEmpty() ? accounting::presentationText(account.code().number()) : name;
 }
 
-/// The parent by which a path goes on; none for a top-level account, and none
-/// for a parent that is not there.
-std::optional<AccountNumber> parentIn(const Accounts &accounts, const Account &account)
-{
-    const std::optional<AccountNumber> &parent = account.code().parent();
-    return parent && accounts.contains(*parent) ? parent : std::nullopt;
-}
-
 std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
 {
     std::map<AccountNumber, QString> names;
@@ -44,7 +36,7 @@ std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
         isUnique = true;
         std::map<std::tuple<QString, AccountNumber, QString>, std::vector<AccountNumber>> groups;
         for (const auto &[number, account] : accounts) {
-            const auto parent = parentIn(accounts, *account).value_or(AccountNumber());
+            const auto parent = account->code().parent().value_or(AccountNumber());
             groups[{rootOf(account->type()), parent, names.at(number)}].push_back(number);
         }
         for (const auto &[key, numbers] : groups) {
@@ -62,21 +54,13 @@ std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
 
 QString rootOf(AccountTypes type)
 {
-    switch (type) {
-    case AccountTypes::Asset:
-        return QStringLiteral("Assets");
-    case AccountTypes::Equity:
-        return QStringLiteral("Equity");
-    case AccountTypes::Expense:
-        return QStringLiteral("Expenses");
-    case AccountTypes::Liability:
-        return QStringLiteral("Liabilities");
-    case AccountTypes::Income:
-        return QStringLiteral("Income");
-    case AccountTypes::Unknown:
-        break;
-    }
-    return QStringLiteral("Unknown");
+    static const std::map<AccountTypes, QString> roots{
+        {AccountTypes::Asset, QStringLiteral("Assets")},
+        {AccountTypes::Liability, QStringLiteral("Liabilities")},
+        {AccountTypes::Equity, QStringLiteral("Equity")},
+        {AccountTypes::Income, QStringLiteral("Income")},
+        {AccountTypes::Expense, QStringLiteral("Expenses")}};
+    return roots.at(type);
 }
 
 AccountTypes typeOfRoot(const QString &root)
@@ -102,9 +86,11 @@ std::map<AccountNumber, QString> accountPaths(const std::set<Account> &accounts)
     std::map<AccountNumber, QString> paths;
     for (const auto &[number, account] : byNumber) {
         QString path = names.at(number);
-        for (auto parent = parentIn(byNumber, *account); parent;
-             parent = parentIn(byNumber, *byNumber.at(*parent)))
+        auto parent = account->code().parent();
+        while (parent) {
             path = names.at(*parent) + u':' + path;
+            parent = byNumber.at(*parent)->code().parent();
+        }
         paths.emplace(number, rootOf(account->type()) + u':' + path);
     }
     return paths;

@@ -10,7 +10,7 @@
 
 namespace kiv::interchange {
 
-/// Under which name accounts of a kind stand in a journal: "Assets".
+/// Under which name accounts of a known kind stand in a journal: "Assets".
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString rootOf(accounting::AccountTypes type);
 
 /// The kind of the accounts that stand under such a name, in any case, in the
@@ -23,7 +23,8 @@ namespace kiv::interchange {
 /// Names are made safe for plain-text accounting journals (no colon or
 /// semicolon, single blanks, no control characters), and where two accounts
 /// would get the same path their numbers are added to their names, so that
-/// every path stands for one account.
+/// every path stands for one account. The accounts are those of a whole ledger, so
+/// that each one's parent is among them.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::map<accounting::AccountNumber, QString>
 accountPaths(const std::set<accounting::Account> &accounts);
 

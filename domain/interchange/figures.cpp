@@ -60,10 +60,7 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
         if (!month)
             continue;
         const auto add = [&](AccountNumber number, const Money &amount, bool isDebit) {
-            const auto found = flows.find(number);
-            if (found == flows.end())
-                return;
-            Flow &flow = found->second;
+            Flow &flow = flows.at(number);
             if (*month >= 0) {
                 (isDebit ? flow.debits : flow.credits)[static_cast<std::size_t>(*month)] += amount;
             } else if (isDebit == accounting::isDebitNormal(flow.account.type())) {
@@ -81,6 +78,7 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
 void addAccount(const Flow &flow, const QString &path, Figures &figures)
 {
     const std::size_t months = figures.period.months();
+    const AccountTypes type = flow.account.type();
     const numira::Currency currency = flow.account.balance().code();
     const auto [found, isNew] = figures.currencies.try_emplace(currency);
     CurrencyFigures &sums = found->second;
@@ -91,26 +89,17 @@ void addAccount(const Flow &flow, const QString &path, Figures &figures)
     Money balance = flow.before;
     for (std::size_t month = 0; month < months; ++month) {
         balance += flow.change(month);
-        switch (flow.account.type()) {
-        case AccountTypes::Asset:
+        if (type == AccountTypes::Asset)
             sums.netWorth[month] += balance;
-            break;
-        case AccountTypes::Liability:
+        else if (type == AccountTypes::Liability)
             sums.netWorth[month] -= balance;
-            break;
-        case AccountTypes::Income:
+        else if (type == AccountTypes::Income)
             sums.income[month] += flow.change(month);
-            break;
-        case AccountTypes::Expense:
+        else if (type == AccountTypes::Expense)
             sums.expenses[month] += flow.change(month);
-            break;
-        case AccountTypes::Equity:
-        case AccountTypes::Unknown:
-            break;
-        }
     }
     if (!balance.isZero())
-        figures.balances.push_back({path, flow.account.type(), balance});
+        figures.balances.push_back({path, type, balance});
 }
 
 /// The flow of the account that the item owns; null when it has none.
@@ -147,7 +136,8 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
         // What a debt grows by was not paid.
         figure.actual[month] =
             kind == BudgetItemTypes::Debt ? flow->debits[month] : flow->change(month);
-        if (sums && isOutgoing && figure.actual[month].code() == currency)
+        // An account in the currency has brought its sums.
+        if (isOutgoing && figure.actual[month].code() == currency)
             sums->outgoing[month] += figure.actual[month];
     }
     figures.items.push_back(std::move(figure));

@@ -80,8 +80,8 @@ struct Figures {
     std::map<numira::Currency, CurrencyFigures> currencies; ///< of all accounts
 };
 
-/// Works the figures out in one pass over the transactions. Throws what adding
-/// the amounts throws.
+/// Works the figures out in one pass over the transactions, all of which are
+/// between `accounts`. Throws what adding the amounts throws.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures figuresOf(
     const Period &period, const std::set<accounting::Account> &accounts,
     const std::vector<accounting::Transaction> &transactions, const budgeting::Budget &budget);

@@ -109,13 +109,12 @@ QString summary(const Figures &figures)
 {
     QString html = QStringLiteral("<div class=\"cards\">\n");
     for (const auto &[currency, sums] : figures.currencies) {
-        if (!hasMoved(sums.netWorth) && !hasFlow(sums))
-            continue;
         const QString code = foundation::presentationText(currency);
         const auto total = [currency = currency](const std::vector<Money> &months) {
             return numira::math::sum(currency, months, [](const Money &money) { return money; });
         };
-        html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back());
+        if (hasMoved(sums.netWorth))
+            html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back());
         if (hasFlow(sums))
             html += card(QObject::tr("Income, %1").arg(code), total(sums.income)) +
                     card(QObject::tr("Expenses, %1").arg(code), total(sums.expenses));

@@ -17,8 +17,6 @@ using accounting::TransactionStatuses;
 
 namespace {
 
-using Paths = std::map<AccountNumber, QString>;
-
 QString amountText(const numira::Money &money)
 {
     return foundation::toQString(money) + u' ' + foundation::toQString(money.code());
@@ -30,23 +28,11 @@ QString numberText(const Transaction &transaction)
         transaction.number().value_or(accounting::TransactionNumber()));
 }
 
-QString pathOf(const Paths &paths, AccountNumber number)
-{
-    const auto found = paths.find(number);
-    return found == paths.end() ? QString() : found->second;
-}
-
 QString markOf(TransactionStatuses status)
 {
-    switch (status) {
-    case TransactionStatuses::Cleared:
+    if (status == TransactionStatuses::Cleared)
         return QStringLiteral("! ");
-    case TransactionStatuses::Reconciled:
-        return QStringLiteral("* ");
-    case TransactionStatuses::None:
-        break;
-    }
-    return {};
+    return status == TransactionStatuses::Reconciled ? QStringLiteral("* ") : QString();
 }
 
 /// A description on one line that begins no comment.
@@ -88,7 +74,7 @@ void declareCurrencies(QString &text, const std::set<Account> &accounts,
 QByteArray writeJournal(const std::set<Account> &accounts,
                         const std::vector<Transaction> &transactions)
 {
-    const Paths paths = accountPaths(accounts);
+    const std::map<AccountNumber, QString> paths = accountPaths(accounts);
     QString text = internal::JournalParser::ownHeader() + u'\n';
     declareCurrencies(text, accounts, transactions);
     for (const Account &account : accounts) {
@@ -106,24 +92,24 @@ QByteArray writeJournal(const std::set<Account> &accounts,
         text += QStringLiteral("\n%1 (%2) %3\n    %4%5  %6\n    %7%8  %9\n")
                     .arg(transaction.occurredOn().toString(Qt::ISODate), numberText(transaction),
                          safeDescription(transaction), markOf(transaction.debitStatus()),
-                         pathOf(paths, transaction.debiting().number()), debitText,
+                         paths.at(transaction.debiting().number()), debitText,
                          markOf(transaction.creditStatus()),
-                         pathOf(paths, transaction.crediting().number()), amountText(-credit));
+                         paths.at(transaction.crediting().number()), amountText(-credit));
     }
     return text.toUtf8();
 }
 
 QByteArray writeCsv(const std::set<Account> &accounts, const std::vector<Transaction> &transactions)
 {
-    const Paths paths = accountPaths(accounts);
+    const std::map<AccountNumber, QString> paths = accountPaths(accounts);
     QString text = QStringLiteral("number,date,debit,debitAccount,credit,creditAccount,amount,"
                                   "currency,description,debitStatus,creditStatus\r\n");
     for (const Transaction &transaction : transactions) {
         const AccountNumber debit = transaction.debiting().number();
         const AccountNumber credit = transaction.crediting().number();
         text += csvLine({numberText(transaction), transaction.occurredOn().toString(Qt::ISODate),
-                         accounting::presentationText(debit), pathOf(paths, debit),
-                         accounting::presentationText(credit), pathOf(paths, credit),
+                         accounting::presentationText(debit), paths.at(debit),
+                         accounting::presentationText(credit), paths.at(credit),
                          foundation::toQString(transaction.amount()),
                          foundation::toQString(transaction.amount().code()),
                          transaction.description().value_or(QString()),

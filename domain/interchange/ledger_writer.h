@@ -21,12 +21,14 @@ namespace kiv::interchange {
 /// a mark on each side: "!" for cleared, "*" for reconciled. A transaction
 /// between currencies states the amount of each side, the debit at the cost of
 /// the credit.
+/// All transactions are between `accounts`.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray
 writeJournal(const std::set<accounting::Account> &accounts,
              const std::vector<accounting::Transaction> &transactions);
 
 /// The transactions as a CSV table with a header (RFC 4180). No cell begins
-/// with a character by which a spreadsheet knows a formula.
+/// with a character by which a spreadsheet knows a formula. All transactions are
+/// between `accounts`.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray
 writeCsv(const std::set<accounting::Account> &accounts,
          const std::vector<accounting::Transaction> &transactions);

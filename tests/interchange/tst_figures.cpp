@@ -41,13 +41,18 @@ public:
         open(AccountTypes::Income, 3, kiv::budgeting::itemAccountName(BudgetSource(u"Job"_s)));
         open(AccountTypes::Liability, 4, kiv::budgeting::itemAccountName(BudgetSource(u"Car"_s)));
         open(AccountTypes::Equity, 5, u"Opening"_s);
-        post("2025-12-31", 1, 5, "1000");
+        // An item whose account is in another currency than its plan, and one without.
+        open(AccountTypes::Expense, 6, kiv::budgeting::itemAccountName(BudgetSource(u"Trip"_s)),
+             "EUR");
+        post("2025-12-30", 1, 5, "1005");
+        post("2025-12-31", 5, 1, "5");
         post("2026-01-31", 2, 1, "90.10");
-        post("2026-02-01", 2, 1, "120");
+        post("2026-02-01", 2, 1, "120.01");
         post("2026-02-02", 1, 2, "20");
         post("2026-02-28", 1, 3, "500");
         post("2026-03-01", 1, 4, "300");
         post("2026-03-02", 4, 1, "50");
+        post("2026-03-03", 1, 2, "5");
         post("2026-03-16", 2, 1, "999"); // after the report's last day
         budget.items<kiv::budgeting::Bill>().add(kiv::budgeting::Bill(
             BudgetSource(hostile), usd("1200"), EventFrequency::Yearly, day("2026-04-01")));
@@ -56,11 +61,15 @@ public:
         budget.items<kiv::budgeting::Debt>().add(
             kiv::budgeting::Debt(BudgetSource(u"Car"_s), usd("50"), EventFrequency::Monthly,
                                  day("2026-04-01"), usd("300")));
+        for (const auto &[name, amount] :
+             {std::pair(u"Boat"_s, money("JPY", "30")), {u"Trip"_s, usd("40")}})
+            budget.items<kiv::budgeting::Nontrack>().add(kiv::budgeting::Nontrack(
+                BudgetSource(name), amount, EventFrequency::Monthly, day("2026-04-01")));
     }
 
-    [[nodiscard]] Figures figures() const
+    [[nodiscard]] Figures figures(const char *from = "2026-01-20") const
     {
-        return figuresOf(Period(day("2026-01-20"), day("2026-03-15")), ledger.accounts(),
+        return figuresOf(Period(day(from), day("2026-03-15")), ledger.accounts(),
                          ledger.transactions(), budget);
     }
 
@@ -68,10 +77,12 @@ public:
     kiv::budgeting::Budget budget;
 
 private:
-    void open(AccountTypes type, std::uint32_t number, const QString &name)
+    void open(AccountTypes type, std::uint32_t number, const QString &name,
+              const char *currency = "USD")
     {
-        ledger.add(Account(type, AccountCode(no(number), name, std::nullopt), usd("0"), false),
-                   m_generator, day("2025-12-01"));
+        ledger.add(
+            Account(type, AccountCode(no(number), name, std::nullopt), money(currency, "0"), false),
+            m_generator, day("2025-12-01"));
     }
     void post(const char *date, std::uint32_t debit, std::uint32_t credit, const char *amount)
     {
@@ -90,21 +101,22 @@ private slots:
     void monthByMonth()
     {
         const Figures figures = Household().figures();
-        QCOMPARE(figures.currencies.size(), std::size_t{1});
+        QCOMPARE(figures.currencies.size(), std::size_t{2});
         const CurrencyFigures &sums = figures.currencies.begin()->second;
-        QCOMPARE(listed(sums.netWorth), u"909.90 1309.90 1309.90"_s);
+        QCOMPARE(listed(sums.netWorth), u"909.90 1309.89 1314.89"_s);
         QCOMPARE(listed(sums.income), u"0.00 500.00 0.00"_s);
-        QCOMPARE(listed(sums.expenses), u"90.10 100.00 0.00"_s);
-        QCOMPARE(sums.planned, usd("150"));
-        QCOMPARE(listed(sums.outgoing), u"90.10 100.00 50.00"_s);
+        QCOMPARE(listed(sums.expenses), u"90.10 100.01 -5.00"_s);
+        QCOMPARE(sums.planned, usd("190"));
+        QCOMPARE(listed(sums.outgoing), u"90.10 100.01 45.00"_s);
         QStringList items;
         for (const ItemFigure &item : figures.items)
             items += kiv::foundation::toQString(item.planned) + u": "_s + listed(item.actual);
-        // The bill, the debt (what it grew by is no payment), the wage.
-        QCOMPARE(items, (QStringList{u"100.00: 90.10 100.00 0.00"_s, u"50.00: 0.00 0.00 50.00"_s,
+        // The bill, the debt (what it grew by is no payment), the non-tracked ones, the wage.
+        QCOMPARE(items, (QStringList{u"100.00: 90.10 100.01 -5.00"_s, u"50.00: 0.00 0.00 50.00"_s,
+                                     u"30: 0 0 0"_s, u"40.00: 0.00 0.00 0.00"_s,
                                      u"500.00: 0.00 500.00 0.00"_s}));
         QCOMPARE(figures.balances.size(), std::size_t{5});
-        QCOMPARE(figures.balances.front().balance, usd("1559.90"));
+        QCOMPARE(figures.balances.front().balance, usd("1564.89"));
     }
 
     void periodsThatMakeNoSense()
@@ -114,6 +126,7 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error,
                                  Period(day("2016-01-01"), day("2026-01-01")));
         QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error, Period(QDate(), day("2026-01-01")));
+        QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error, Period(day("2026-01-01"), QDate()));
         QCOMPARE(Period(day("2016-02-29"), day("2026-01-01")).months(), std::size_t{120});
     }
 
@@ -146,6 +159,8 @@ private slots:
         QVERIFY(!page.contains("<script"));
         QVERIFY(!page.contains("\u202E"));
         QVERIFY(page.contains("&lt;script&gt;"));
+        QCOMPARE(page.count("<td class=\"n over\">$100.01&nbsp;▲</td>"), 1);
+        QVERIFY(page.contains("<td class=\"n minus\">"));
         for (const char *loaded : {"http:", "https:", "src=", "@import", "url("})
             QVERIFY2(!page.contains(loaded), loaded);
 
@@ -173,6 +188,16 @@ private slots:
         QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
         QCOMPARE(charts, 3);
         QCOMPARE(titled, charts);
+    }
+
+    void pagesOfNothingAndOfManyMonths()
+    {
+        const auto page = [](const Figures &figures) { return toHtml(figures, u"t"_s); };
+        QVERIFY(page(figuresOf(Household().figures().period, {}, {}, {}))
+                    .contains("All accounts are empty."));
+        QCOMPARE(page(Household().figures("2021-01-01")).count("r=\"1.5\""), 63);
+        QCOMPARE(toSvg({}, u"c"_s), QString());
+        QCOMPARE(toSvg({ChartKind::Bars, {}, {}, {u"2026-01"_s}, {}}, u"c"_s), QString());
     }
 };
 
