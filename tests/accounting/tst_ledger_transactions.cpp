@@ -135,6 +135,74 @@ private slots:
         QVERIFY(!book.ledger.lookUpTransaction(txn(3)) && balance(book.ledger, 4) == usd("50"));
     }
 
+    /// On this rests whatever compares a ledger with what it was before.
+    void ledgersDifferInWhateverIsChanged()
+    {
+        using Change = std::function<void(Book &)>;
+        const auto posting = [](const Transaction &transaction) {
+            return [transaction](Book &book) { book.ledger.post(transaction); };
+        };
+        const auto recoding = [](const char *name, std::optional<AccountNumber> parent) {
+            return [name, parent](Book &book) {
+                book.ledger.recode(book.ledger.accountCode(no(8)),
+                                   {no(8), QString::fromLatin1(name), parent});
+            };
+        };
+        const Transaction rent(day("2026-03-01"), no(4), no(6), usd("5"), u"March"_qs);
+        const std::vector<Change> changes{
+            [](Book &) {},
+            [](Book &b) { b.ledger.clear(txn(2), no(2)); },
+            [](Book &b) { b.ledger.clear(txn(2), no(5)); },
+            [](Book &b) { b.ledger.clear(txn(7)); },
+            [](Book &b) { b.ledger.close(no(8)); },
+            [](Book &b) { b.ledger.open(b.ledger.accountCode(no(7))); },
+            [](Book &b) { b.ledger.remove(txn(4)); },
+            [](Book &b) { b.ledger.remove(txn(7)); },
+            [](Book &b) { b.ledger.remove(no(8)); },
+            [](Book &b) { b.ledger.refund(txn(3), usd("5"), day("2026-03-01")); },
+            [](Book &b) { addAccount(b.ledger, b.generator, Asset, {}, "New"); },
+            [](Book &b) { addAccount(b.ledger, b.generator, Expense, {}, "New"); },
+            recoding("Purse", no(2)),
+            recoding("Envelope", no(1)),
+            recoding("Envelope", {}),
+            posting(rent),
+            posting({day("2026-03-02"), no(4), no(6), usd("5"), u"March"_qs}),
+            posting({day("2026-03-01"), no(2), no(6), usd("5"), u"March"_qs}),
+            posting({day("2026-03-01"), no(4), no(2), usd("5"), u"March"_qs}),
+            posting({day("2026-03-01"), no(4), no(6), usd("6"), u"March"_qs}),
+            posting({day("2026-03-01"), no(4), no(6), usd("5"), u"April"_qs}),
+            posting({day("2026-03-01"), no(4), no(6), usd("5")}),
+            posting({day("2026-03-01"), no(4), no(9), usd("5"), u"March"_qs}),
+            [&](Book &b) {
+                ratesFromUsd()["EUR"] = 1;
+                posting({day("2026-03-01"), no(4), no(9), usd("5"), u"March"_qs})(b);
+            },
+            [&](Book &b) {
+                ratesFromUsd()["GBP"] = 1; // the same on both sides, but entered in another one
+                posting({day("2026-03-01"), no(4), no(6), money("GBP", "5"), u"March"_qs})(b);
+            }};
+        std::vector<GeneralLedger> ledgers;
+        for (const Change &change : changes) {
+            installRates();
+            Book book;
+            Book again; // equal without sharing anything
+            change(book);
+            change(again);
+            QVERIFY(book.ledger == again.ledger);
+            for (const GeneralLedger &other : ledgers)
+                QVERIFY(!(book.ledger == other) && !(other == book.ledger));
+            ledgers.push_back(book.ledger);
+        }
+        // The same for one account and its transactions.
+        const LedgerAccount before = ledgers[0].ledger(no(6));
+        for (std::size_t i = 0; i < ledgers.size(); ++i) {
+            const LedgerAccount after = ledgers[i].ledger(no(6));
+            const bool isSame = i < 15 || i == 18 || i == 22 || i == 23;
+            QCOMPARE(after == before, isSame);
+            QCOMPARE(after.transactions() == before.transactions(), isSame);
+        }
+    }
+
     void statusesGoBySide()
     {
         Book book;
