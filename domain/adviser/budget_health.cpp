@@ -22,10 +22,7 @@ constexpr std::array gradeNames{
 
 const char *nameOf(HealthGrade grade)
 {
-    const auto value = static_cast<std::size_t>(grade);
-    if (value >= gradeNames.size())
-        throw std::logic_error("An unknown budget health grade was supplied.");
-    return gradeNames.at(value);
+    return gradeNames.at(static_cast<std::size_t>(grade));
 }
 
 constexpr int needsMax = 50;

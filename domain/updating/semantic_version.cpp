@@ -78,9 +78,9 @@ SemanticVersion::SemanticVersion(std::uint8_t major, std::uint8_t minor, std::ui
 {
     const QString text = toQString(*this);
     const auto match = versionPattern().match(text);
-    // A build's text must not pass as part of the pre-release, nor the other way.
-    if (!match.hasMatch() || match.captured(4) != m_preRelease.value_or(QString()) ||
-        match.captured(5) != m_build.value_or(QString()))
+    // A build's text must not pass as part of the pre-release; what stands behind
+    // that is the build.
+    if (!match.hasMatch() || match.captured(4) != m_preRelease.value_or(QString()))
         throw internal::notAVersion(text);
 }
 

@@ -48,6 +48,9 @@ private slots:
         QTest::newRow("a cent more than the income")
             << u"1000 500 0 200 300.01"_s << Critical
             << u"100.1 % of the income is planned; Free spending takes 30.1 %"_s;
+        QTest::newRow("beyond all bounds")
+            << u"0.01 0 0 0.01 10000"_s << Critical
+            << u"1e+08 % of the income is planned; Free spending takes 1e+08 %"_s;
         QTest::newRow("no income") << u"0 0 0 0 1"_s << Critical << u"There is no income to pay"_s;
         QTest::newRow("nothing at all") << u"0 0 0 0 0"_s << Unknown << u""_s;
     }
@@ -74,7 +77,7 @@ private slots:
         }
         QCOMPARE(expected, QStringList());
         QCOMPARE(health.grade(), grade);
-        QVERIFY(!health.reasons().empty());
+        QVERIFY(!health.reasons().empty() && health != BudgetHealth());
     }
 
     void onlyProgramsReadPlainNumbers()

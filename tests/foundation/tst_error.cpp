@@ -65,6 +65,7 @@ private slots:
             QCOMPARE(error.what(), "alone");
             QVERIFY(!error.cause());
         }
+        QCOMPARE(Error(u"alone"_qs, Error(QString())).what(), "alone");
     }
 
     void causeThatIsNotHandledKeepsItsText()

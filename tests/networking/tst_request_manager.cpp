@@ -91,6 +91,18 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(m_answers.mid(1),
                  QStringList{u"again: There is nothing to send requests with."_s});
+        RequestManager idle(nullptr, nullptr);
+        idle.get(anywhere(), *m_first, keep(u"none: "_s));
+        QTRY_COMPARE(m_answers.back(), u"none: There is nothing to send requests with."_s);
+    }
+
+    void responsesAreToldApart()
+    {
+        const Response good = Response::succeeded("{}", u"a/b\n"_s);
+        const Response bad = Response::failed(u"gone"_s);
+        QVERIFY(good == Response::succeeded("{}", u"a/b\n"_s) && good != bad);
+        QCOMPARE(QDebug::toString(good) + u'|' + QDebug::toString(bad),
+                 u"2 bytes of a/b\\u{000A}|failed: gone"_s);
     }
 
 private:

@@ -170,7 +170,8 @@ private slots:
             QCOMPARE(Decimal(1).times(value).toText(), read);
         }
         QCOMPARE((Decimal::fromText("-0.000001") * Decimal::fromText("0.0000005")).sign(), 0);
-        // At the highest amount nothing overflows yet.
+        // At the highest amount nothing overflows yet, and one unit more does.
+        QVERIFY_THROWS_EXCEPTION(numira::OverflowError, (void)decimal(highest + 1));
         QCOMPARE(decimal(highest).scaled(-1, 1), decimal(-highest));
         QCOMPARE(decimal(-highest).scaled(-1, 1), decimal(highest));
         // The widest exponents that still change something.
@@ -187,11 +188,12 @@ private slots:
                                                        value, 2, numira::RoundingMode{1}));
         QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)Decimal::fromDouble(-HUGE_VAL));
         QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)value.times(std::nan("")));
-        for (const char *text : {"", "1e", "1ex", "e5", "1e99999999999", "1.5.", "--1"})
+        for (const char *text :
+             {"", "1e", "1ex", "e5", "1e99999999999", "1e5x", "5x", "1.5.", "--1"})
             QVERIFY_THROWS_EXCEPTION(numira::InvalidAmount, (void)value.times(text));
         // A text ends where it says, whatever stands behind it.
         QCOMPARE(value.times(std::string_view("25", 1)).toText(), "2");
-        QCOMPARE(value.times("010.0").toText(), "10"); // and is never octal
+        QCOMPARE(value.times("+010.0").toText(), "10"); // and is never octal
         for (const std::size_t length : {40U, 41U}) {
             try {
                 (void)Decimal::fromText(std::string(length, 'x'));

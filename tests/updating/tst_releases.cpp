@@ -128,6 +128,9 @@ private slots:
                  (std::set<ReleaseInformation>{{SemanticVersion(1, 0, 0, u"rc.1"_s), day, u"n"_s},
                                                {SemanticVersion(1, 1, 0), day, u"n"_s}}));
         QVERIFY(log.warnings().size() == 1 && log.text().contains(u"256.0.0"_s));
+        const ReleaseInformation one{SemanticVersion(1, 0, 0), day, u"n"_s};
+        QVERIFY(one < (ReleaseInformation{one.version, day.addDays(1), u"a"_s}));
+        QVERIFY(one < (ReleaseInformation{one.version, day, u"o"_s}));
     }
 
     void badServersAnnounceNothingWithOneWarning_data()

@@ -45,14 +45,14 @@ int statusOf(const QNetworkReply &reply)
 
 bool isRedirect(int status)
 {
-    return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
+    return QList{301, 302, 303, 307, 308}.contains(status);
 }
 
 /// The error's name; Qt's own sentence would hold the whole address.
 QString nameOf(QNetworkReply::NetworkError error)
 {
-    const char *name = QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error);
-    return name ? QString::fromLatin1(name) : QString::number(error);
+    return QString::fromLatin1(
+        QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error));
 }
 
 } // namespace

@@ -42,9 +42,8 @@ private:
 QByteArray besideThis(const char *library)
 {
     Dl_info here = {};
-    if (::dladdr(reinterpret_cast<const void *>(&besideThis), &here) == 0)
-        return library;
-    const QByteArray path = here.dli_fname;
+    (void)::dladdr(reinterpret_cast<const void *>(&besideThis), &here);
+    const QByteArray path = here.dli_fname; // without one the name is looked for alone
     return path.first(path.lastIndexOf('/') + 1) + library;
 }
 
