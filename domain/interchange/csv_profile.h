@@ -14,8 +14,6 @@ namespace kiv::interchange {
 struct AccountRule {
     QString contains; ///< a part of the text, not empty
     QString account;  ///< by number, name or path
-
-    friend bool operator==(const AccountRule &, const AccountRule &) = default;
 };
 
 /// How a bank writes its statements as CSV, and where their entries go.

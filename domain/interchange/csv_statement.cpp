@@ -53,16 +53,14 @@ public:
             throw faults::emptyTable({file, 0});
         setHeadings(records.front());
         Statement statement{{}, m_currency, {}};
-        for (auto record = records.begin() + (m_profile.hasHeadings ? 1 : 0);
-             record != records.end(); ++record) {
-            if (static_cast<qsizetype>(statement.entries.size()) >= transactionsMax)
-                throw faults::tooManyTransactions(record->place, transactionsMax);
+        for (auto record = records.begin() + headingLines(); record != records.end(); ++record)
             statement.entries.push_back(entryOf(*record));
-        }
         return statement;
     }
 
 private:
+    [[nodiscard]] int headingLines() const { return m_profile.hasHeadings ? 1 : 0; }
+
     [[nodiscard]] std::vector<CsvRecord> recordsOf(const QString &text, const QString &file) const
     {
         LineCursor lines(text, file);
@@ -72,7 +70,8 @@ private:
         const QString rest = text.mid(skipped);
         const QStringView first = lines.next() ? lines.line() : QStringView();
         std::vector<CsvRecord> records =
-            readCsvTable(rest, file, m_profile.delimiter.value_or(guessDelimiter(first)));
+            readCsvTable(rest, file, m_profile.delimiter.value_or(guessDelimiter(first)),
+                         transactionsMax + headingLines());
         for (CsvRecord &record : records)
             record.place.line += m_profile.skippedLines;
         return records;
@@ -118,10 +117,9 @@ private:
             }
             return std::nullopt;
         }
-        bool isNumber = false;
-        const qsizetype number = column.toInt(&isNumber);
+        const qsizetype number = column.toInt(); // 0 when it is none
         qsizetype at = m_headings.indexOf(column);
-        if (at < 0 && isNumber && number >= 1 && number <= m_headings.size())
+        if (at < 0 && number >= 1 && number <= m_headings.size())
             at = number - 1;
         if (at < 0)
             throw faults::noSuchColumn(place, column, m_headings);

@@ -16,8 +16,8 @@ constexpr qsizetype cellsMax = 1000;
 
 class CsvReader {
 public:
-    CsvReader(const QString &text, const QString &file, QChar delimiter)
-        : m_text(text), m_file(file), m_delimiter(delimiter)
+    CsvReader(const QString &text, const QString &file, QChar delimiter, qsizetype recordsMax)
+        : m_text(text), m_file(file), m_delimiter(delimiter), m_recordsMax(recordsMax)
     {
     }
 
@@ -34,8 +34,7 @@ public:
             takeLineEnd();
             if (record.cells != QStringList{QString()})
                 records.push_back(std::move(record));
-            // A header and a few lines above it are no transactions.
-            if (static_cast<qsizetype>(records.size()) > transactionsMax + 100)
+            if (static_cast<qsizetype>(records.size()) > m_recordsMax)
                 throw faults::tooManyTransactions(records.back().place, transactionsMax);
         }
         return records;
@@ -80,9 +79,9 @@ private:
 
     bool takeDelimiter()
     {
-        if (isAtEnd() || m_text[m_at] != m_delimiter)
+        if (isAtEnd())
             return false;
-        ++m_at;
+        ++m_at; // a cell ends nowhere else
         return true;
     }
 
@@ -98,15 +97,17 @@ private:
     const QString &m_text;
     const QString &m_file;
     QChar m_delimiter;
+    qsizetype m_recordsMax;
     qsizetype m_at = 0;
     qsizetype m_line = 1;
 };
 
 } // namespace
 
-std::vector<CsvRecord> readCsvTable(const QString &text, const QString &file, QChar delimiter)
+std::vector<CsvRecord> readCsvTable(const QString &text, const QString &file, QChar delimiter,
+                                    qsizetype recordsMax)
 {
-    return CsvReader(text, file, delimiter).read();
+    return CsvReader(text, file, delimiter, recordsMax).read();
 }
 
 QChar guessDelimiter(QStringView line)

@@ -20,9 +20,9 @@ struct CsvRecord {
 /// cell that began without one stands for itself. Empty lines are passed over.
 ///
 /// Throws ImportError for a quote that is not closed, for text behind a closing
-/// one, and for more records than any statement has.
+/// one, and for more records than `recordsMax`, the most that may be.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<CsvRecord>
-readCsvTable(const QString &text, const QString &file, QChar delimiter);
+readCsvTable(const QString &text, const QString &file, QChar delimiter, qsizetype recordsMax);
 
 /// The delimiter that the line has most of outside of quotes: a comma, a
 /// semicolon, a tab or a bar.

@@ -301,11 +301,6 @@ ImportError wrongClosingTag(const Place &place, const QString &closing, const QS
                        .arg(quoted(closing), quoted(open), QString::number(openedAt))};
 }
 
-ImportError closesNothing(const Place &place, const QString &closing)
-{
-    return {place, QObject::tr("</%1> closes nothing.").arg(quoted(closing))};
-}
-
 ImportError tagNotClosed(const Place &place, const QString &tag)
 {
     return {place, QObject::tr("<%1> is not closed.").arg(quoted(tag))};

@@ -24,17 +24,15 @@ using internal::OfxElement;
 QString encodingOf(const QByteArray &bytes)
 {
     const QByteArray start = bytes.left(2000);
-    const QByteArray header = start.left(std::max<qsizetype>(start.indexOf("<OFX>"), 0));
-    const bool isXml = header.contains("<?xml");
+    const QString header =
+        QString::fromLatin1(start.left(std::max<qsizetype>(start.indexOf("<OFX>"), 0)));
+    static const QRegularExpression unicode(QStringLiteral("ENCODING:\\s*(?:UTF-8|UNICODE)"));
     static const QRegularExpression pattern(
-        QStringLiteral("encoding=[\"']([A-Za-z0-9_.:-]+)|CHARSET:\\s*([A-Za-z0-9-]+)"));
-    const auto match = pattern.match(QString::fromLatin1(header));
-    if (header.contains("ENCODING:UTF-8") || header.contains("ENCODING:UNICODE") ||
-        !match.hasMatch())
+        QStringLiteral("encoding=[\"']([A-Za-z0-9_.:-]+)|CHARSET:\\s*(?!NONE)([A-Za-z0-9-]+)"));
+    const auto match = pattern.match(header);
+    if (unicode.match(header).hasMatch() || !match.hasMatch())
         return utf8Name;
-    const QString name = isXml ? match.captured(1) : match.captured(2);
-    if (name == u"NONE" || name.isEmpty())
-        return utf8Name;
+    const QString name = match.captured(1) + match.captured(2);
     return name == u"1252" ? QStringLiteral("windows-1252") : name;
 }
 
@@ -101,7 +99,12 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
             throw faults::otherCurrency(other->place, foundation::toQString(found),
                                         foundation::toQString(currency));
     }
-    entry.amount = statementAmount(amount->value, currency, std::nullopt, amount->place);
+    // One comma is the mark, whatever digits follow; else commas group.
+    const QString &number = amount->value;
+    std::optional<DecimalMark> mark;
+    if (number.count(u',') == 1 && !number.contains(u'.'))
+        mark = DecimalMark::Comma;
+    entry.amount = statementAmount(number, currency, mark, amount->place);
     entry.text = textOf(transaction);
     entry.bankId = transaction.text("FITID");
     return entry;

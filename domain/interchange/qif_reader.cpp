@@ -116,8 +116,8 @@ private:
             record.category = value;
             break;
         case u'S':
-            if (static_cast<qsizetype>(record.parts.size()) >= transactionsMax)
-                throw faults::tooManyTransactions(m_lines.place(), transactionsMax);
+            if (!record.parts.empty()) // the first one is the record's
+                countEntry();
             record.parts.push_back({value, {}, {}, m_lines.place()});
             break;
         case u'E':
@@ -138,15 +138,22 @@ private:
 
     void finish()
     {
-        if (m_record.hasFields)
-            m_records.push_back(std::exchange(m_record, {}));
-        if (static_cast<qsizetype>(m_records.size()) > transactionsMax)
+        if (!m_record.hasFields)
+            return;
+        countEntry();
+        m_records.push_back(std::exchange(m_record, {}));
+    }
+
+    void countEntry()
+    {
+        if (++m_entries > transactionsMax)
             throw faults::tooManyTransactions(m_lines.place(), transactionsMax);
     }
 
     LineCursor m_lines;
     Section m_section = Section::None;
     Record m_record;
+    qsizetype m_entries = 0; ///< of the statement: records, and parts of them
     std::vector<Record> m_records;
 };
 
@@ -226,11 +233,12 @@ private:
         texts.removeAll(QString());
         return texts.join(u' ').simplified();
     }
-    /// "[Savings]" is an account, "Food/Trip" a category with a class.
+    /// "[Savings]" is an account, "Food" a category; either may have a class: "Food/Trip".
     static QString categoryOf(const QString &text)
     {
-        if (text.startsWith(u'[') && text.endsWith(u']'))
-            return text.mid(1, text.size() - 2);
+        const qsizetype end = text.indexOf(u']');
+        if (text.startsWith(u'[') && end > 0)
+            return text.mid(1, end - 1).trimmed();
         return text.section(u'/', 0, 0).trimmed();
     }
 
@@ -256,8 +264,6 @@ Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions
         } catch (const numira::Error &cause) {
             throw faults::tooLarge(record.place, cause);
         }
-        if (static_cast<qsizetype>(statement.entries.size()) > transactionsMax)
-            throw faults::tooManyTransactions(record.place, transactionsMax);
     }
     return statement;
 }

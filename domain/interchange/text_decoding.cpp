@@ -39,8 +39,8 @@ qsizetype lineOf(const QByteArray &bytes, qsizetype at)
 QString decoded(const QByteArray &bytes, const QString &file, const QString &encoding)
 {
     const Converter converter(encoding);
-    // An empty name would mean the system's encoding.
-    if (!converter.handle || encoding.isEmpty())
+    // What an empty name means is not defined.
+    if (encoding.isEmpty() || !converter.handle)
         throw faults::unknownEncoding({file, 0}, encoding);
     // No encoding makes more than one code unit of a byte, but for a few that
     // nobody writes statements in; those end here with an overflow.
@@ -53,12 +53,13 @@ QString decoded(const QByteArray &bytes, const QString &file, const QString &enc
     ucnv_toUnicode(converter.handle, &target, begin + text.size(), &source, end, nullptr, true,
                    &status);
     if (U_FAILURE(status)) {
-        // The converter has already taken the bytes that made no character.
+        // The converter has already taken the bytes that made no character, at most
+        // eight.
         char invalid[8];
         int8_t count = sizeof invalid;
         UErrorCode ignored = U_ZERO_ERROR;
         ucnv_getInvalidChars(converter.handle, invalid, &count, &ignored);
-        const qsizetype at = source - bytes.constData() - (U_SUCCESS(ignored) ? count : 0);
+        const qsizetype at = source - bytes.constData() - count;
         throw faults::wrongEncoding({file, lineOf(bytes, std::max<qsizetype>(at, 0))}, encoding);
     }
     text.truncate(target - begin);

@@ -59,7 +59,7 @@ std::optional<QChar> markOf(const QString &digits, const QString &text, const Pl
 
 /// The digits before the mark with what groups them taken out; nothing when
 /// groups are not of three (in the Indian way, the first ones of two).
-std::optional<QString> ungrouped(const QString &whole, std::optional<QChar> mark)
+std::optional<QString> ungrouped(const QString &whole)
 {
     QString plain;
     qsizetype groups = 0;
@@ -72,8 +72,7 @@ std::optional<QString> ungrouped(const QString &whole, std::optional<QChar> mark
             continue;
         }
         const bool isSeparator = QStringLiteral(".,' ’\u00A0\u202F").contains(character);
-        if (!isSeparator || (mark && character == *mark) || plain.isEmpty() ||
-            (!separator.isNull() && character != separator) ||
+        if (!isSeparator || plain.isEmpty() || (!separator.isNull() && character != separator) ||
             (groups > 0 ? sinceSeparator != 3 && sinceSeparator != 2 : sinceSeparator > 3))
             return std::nullopt;
         separator = character;
@@ -97,7 +96,7 @@ numira::Decimal readNumber(const QString &text, std::optional<DecimalMark> mark,
         mark ? std::optional(QChar(static_cast<char16_t>(*mark))) : markOf(digits, text, place);
     const qsizetype at = point ? digits.indexOf(*point) : -1;
     const QString fraction = at < 0 ? QString() : digits.mid(at + 1);
-    const auto whole = ungrouped(at < 0 ? digits : digits.left(at), point);
+    const auto whole = ungrouped(at < 0 ? digits : digits.left(at));
     if (!whole || (whole->isEmpty() && fraction.isEmpty()) ||
         !std::ranges::all_of(fraction, isDigit))
         throw faults::notANumber(place, text);
@@ -155,13 +154,14 @@ std::optional<QDate> DateFormat::read(QStringView text) const
         while (letter + count < m_text.size() && m_text[letter + count] == kind)
             ++count;
         bool fits = true;
-        if (kind == u'Y' && (count == 4 || count == 2)) {
+        // Fewer or more letters than there can be fit no digits.
+        if (kind == u'Y') {
             fits = number(count, count, year);
             if (count == 2)
                 year += year < 70 ? 2000 : 1900;
-        } else if (kind == u'M' && count <= 2) {
+        } else if (kind == u'M') {
             fits = number(count, 2, month);
-        } else if (kind == u'D' && count <= 2) {
+        } else if (kind == u'D') {
             fits = number(count, 2, day);
         } else {
             count = 1;

@@ -27,6 +27,8 @@ JournalOptions options()
 {
     JournalOptions options;
     options.preferred = numira::toCurrency("USD");
+    options.commodities = {{u"Mark"_s, numira::toCurrency("EUR")}};
+    options.roots = {{u"kasse"_s, AccountTypes::Asset}};
     return options;
 }
 
@@ -112,6 +114,10 @@ private slots:
             "2026-01-01 x\n Assets:A  3.5 EUR @ 1.11 USD\n Assets:B  -3.89 USD",
             "2026-01-01 equity:Conversion:USD<asset:B USD 3.89 x --\n"
             "2026-01-01 asset:A<equity:Conversion:EUR EUR 3.50 x --");
+        row("what was sold for a total, under other names",
+            "2026-01-01 x\n Kasse:A  -5 Mark @@ $6\n Kasse:B",
+            "2026-01-01 asset:B<equity:Conversion:USD USD 6.00 x --\n"
+            "2026-01-01 equity:Conversion:EUR<asset:A EUR 5.00 x --");
         row("an exchange without a price", "2026-01-01 x\n Assets:A  5 AAPL\n Assets:B  $-90",
             "2026-01-01 asset:A<asset:B USD 90.00 x --");
         row("virtual postings",
@@ -121,9 +127,12 @@ private slots:
             "2026-01-01 asset:B<income:I USD 1.00 x --\n"
             "2026-01-01 asset:B<asset:A USD 1.00 x --");
         row("an automated posting",
-            "= /^income/\n (Liabilities:Tithe)  0.12\n2026-01-01 Job\n Assets:A  $200\n Income:Job",
+            "= /^income/\n (Liabilities:Tithe)  0.12\n= come:Job$\n (Assets:B)  *-0.5\n"
+            " (Assets:C)  $1\n2026-01-01 Job\n Assets:A  $200\n Income:Job",
             "2026-01-01 asset:A<income:Job USD 200.00 Job --\n"
-            "2026-01-01 equity:Virtual<liability:Tithe USD 24.00 Job --");
+            "2026-01-01 equity:Virtual<liability:Tithe USD 24.00 Job --\n"
+            "2026-01-01 asset:B<equity:Virtual USD 100.00 Job --\n"
+            "2026-01-01 asset:C<equity:Virtual USD 1.00 Job --");
         row("a balance that is assigned, in another notation",
             "decimal-mark ,\nY 2026\n01/05 a\n Assets:A  1.000,50 €\n Income:I\n"
             "1/6 b\n Assets:A  = 900,50 €\n Expenses:E",
@@ -134,6 +143,22 @@ private slots:
             "2026-01-01 x\n A  2.000,00 EUR\n Equity  -2000 EUR\nend tag\n"
             "account A  ; type: Liability",
             "");
+        row("directives and remarks that change nothing, and a day of their year",
+            "  ; by itself\ntest\nx\nend test\npayee Shop\ntag trip\nN $\n"
+            "account Assets:A  ; of mine\n  note x\n  payee y\n  default\n"
+            "commodity \"A 1\"\n  format 1.000,00 \"A 1\"\n  nomarket\n  default\n  ; x\n"
+            "commodity JPY 1.000.000\ncommodity 1000 KRW\ncommodity 1,000 BHD\n"
+            "apply tag t\nend apply tag\napply tag u: 1\nend\n"
+            "commodity KWD 1.000,000\nD $1,000.00\nY2026\n"
+            "01/05=1/6 x\n Assets:A  +1,500 KWD\n Assets:B\n (Assets:C)  5\n",
+            "2026-01-05 asset:C<equity:Virtual USD 5.00 x --\n"
+            "2026-01-05 asset:A<asset:B KWD 1.500 x --");
+        row("a mark and a currency for all, a remark that stands twice",
+            "decimal-mark .\n!D $1000.00\n2026-01-05 x\n Assets:A  1,234 ; c\n Assets:B  ; c",
+            "2026-01-05 asset:A<asset:B USD 1234.00 x; c --");
+        row("a remark too long to be kept",
+            ("2026-01-01 x\n Assets:A  $1 ; " + QByteArray(2001, 'c') + "\n Assets:B").constData(),
+            "2026-01-01 asset:A<asset:B USD 1.00 x --");
         row("an assertion that holds by day and not by line",
             "2026-01-02 b\n Assets:A  $1 = $3\n Income:I\n2026-01-01 a\n Assets:A  $2 = $2\n"
             " Income:I",
@@ -156,15 +181,38 @@ private slots:
     {
         QTest::addColumn<QByteArray>("journal");
         QTest::addColumn<QString>("message");
-        const auto row = [](const char *name, const char *journal, const char *message) {
-            QTest::newRow(name) << QByteArray(journal) << QString::fromUtf8(message);
+        const auto row = [](const char *name, const QByteArray &journal,
+                            const QByteArray &message) {
+            QTest::newRow(name) << journal << QString::fromUtf8(message);
         };
-        row("an unknown directive", "\nbucket Assets:A\n",
-            "'j', line 2: 'bucket Assets:A' is neither a transaction nor a directive that can be "
-            "imported.");
-        row("an unknown one below an account", "account Assets:A\n  alias A\n",
-            "'j', line 2: 'alias A' is neither a transaction nor a directive that can be "
-            "imported.");
+        const QByteArray unsupported = "' cannot be imported.";
+        for (const QByteArray directive :
+             {"bucket Assets:A", "account Assets:A\nalias A", "commodity EUR\nalias E", "Y 26",
+              "decimal-mark x", "end tag", "end x", "apply account A"}) {
+            const QByteArrayList lines = directive.split('\n');
+            row(directive, "\n" + lines.join("\n  "),
+                "'j', line " + QByteArray::number(lines.size() + 1) + ": '" + lines.back() +
+                    "' is neither a transaction nor a directive that can be imported.");
+        }
+        for (const QByteArray query : {"= desc:Job", "= /A/ and /B/", "= 'Assets:A'"})
+            row(query, query + "\n (Assets:B)  1\n", "'j', line 1: '" + query + unsupported);
+        for (const QByteArray amount : {"($1 * 2)", "*$2", "== $1", "=* $1", "{$1}", "@ $-1"}) {
+            const bool isBehind = QByteArray("{@").contains(amount[0]);
+            row(amount,
+                "2026-01-01 x\n Assets:A  " + QByteArray(isBehind ? "1 AAPL " : "") + amount +
+                    "\n Assets:B\n",
+                "'j', line 2: '" + amount + unsupported);
+        }
+        for (const QByteArray amount : {"", "1 @ $2", "1 = $1"})
+            row("in a rule: " + amount, "= A\n (Assets:A)  " + amount,
+                "'j', line 2: 'Assets:A" + unsupported);
+        row("a kind of account that is none", "account A  ; type: Z\n",
+            "'j', line 1: 'type: Z" + unsupported);
+        row("a number in our own journal", "; kiv journal, version 1\naccount A\n ; number: x\n",
+            "'j', line 2: 'number: x" + unsupported);
+        row("a currency in our own journal",
+            "; kiv journal, version 1\naccount A\n ; currency: x\n",
+            "'j', line 2: 'x' is not the ISO 4217 code of a currency.");
         row("an include without a folder", "include other.journal\n",
             "'j', line 1: 'other.journal' is not included: there is no folder for it.");
         row("a day that does not exist", "2026-02-30 x\n",
@@ -187,10 +235,20 @@ private slots:
             "'j', line 2: '1 ' has no currency; name one with --currency.");
         row("a comma that could be either", "2026-01-01 x\n Assets:A  $1,234\n Assets:B\n",
             "'j', line 2: '1,234' can be read in two ways; name the decimal mark with --decimal.");
-        row("an expression", "2026-01-01 x\n Assets:A  ($1 * 2)\n Assets:B\n",
-            "'j', line 2: '($1 * 2)' cannot be imported.");
-        row("a lot", "2026-01-01 x\n Assets:A  1 AAPL {$3}\n Assets:B\n",
-            "'j', line 2: '{$3}' cannot be imported.");
+        row("a sample with more behind it", "commodity $1000.00 x\n",
+            "'j', line 1: '$1000.00 x' is not an amount.");
+        row("two currencies that both rise", "2026-01-01 x\n Assets:A  $1\n Assets:B  1 EUR\n",
+            "'j', line 1: The transaction does not balance: 1 EUR, 1 USD are left.");
+        row("shares in two places for one price",
+            "2026-01-01 x\n Assets:A  1 ZORK\n Assets:B  2 ZORK\n Assets:C  $-3\n",
+            "'j', line 2: 'ZORK' is not a currency; give its cost behind @, or say which currency "
+            "it is with --commodity, like --commodity 'ZORK=USD'.");
+        row("a virtual posting of nothing", "2026-01-01 x\n (Assets:A)\n",
+            "'j', line 2: The entry has no amount.");
+        row("an assertion without a currency", "2026-01-01 x\n Assets:A  $1 = 0\n Assets:B\n",
+            "'j', line 2: '0 ' has no currency; name one with --currency.");
+        row("a quote without an end", "2026-01-01 x\n Assets:A  1 \"x\n",
+            "'j', line 2: '\"x' begins here and does not end.");
         row("an assertion", "2026-01-01 x\n Assets:A  $1 = $2\n Assets:B\n",
             "'j', line 2: The balance of 'Assets:A' should be 2 USD here, and is 1 USD.");
         row("a comment without an end", "\ncomment\nx\n",
@@ -205,14 +263,26 @@ private slots:
             "'j', line 2: The amounts here cannot be kept exactly.");
         // What is cheap to write and dear to read.
         row("an account too deep",
-            ("2026-01-01 x\n Assets" + QByteArray(":aaaaaaaaa").repeated(100) + "  $1\n Income:I")
-                .constData(),
+            "2026-01-01 x\n Assets" + QByteArray(":aaaaaaaaa").repeated(100) + "  $1\n Income:I",
             "'j', line 2: 'Assets:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaaaaaaaa:aaa…' cannot "
             "be imported.");
-        row("tags within tags", QByteArray("apply tag a\n").repeated(102).constData(),
+        row("tags within tags", QByteArray("apply tag a\n").repeated(102),
             "'j', line 102: Tags are nested too deeply.");
         row("a bad pattern", "= /(/\n (Assets:A)  1\n",
             "'j', line 1: '(' is not a pattern of account names.");
+        row("a long pattern", "= " + QByteArray(201, 'A') + "\n (Assets:A)  1\n",
+            "'j', line 1: '" + QByteArray(60, 'A') + "…' is not a pattern of account names.");
+        row("many patterns", QByteArray("= A\n (Assets:A)  1\n").repeated(101),
+            "'j', line 201: 'A' is not a pattern of account names.");
+        row("a pattern without an end",
+            "= /(x+x+)+[0-9]/\n (Assets:A)  1\n2026-01-01\n Assets:" + QByteArray(90, 'x') +
+                "  $1\n Assets:B\n",
+            "'j', line 1: '(x+x+)+[0-9]' is not a pattern of account names.");
+        row("what moves nothing, many times",
+            "2026-01-01\n" + QByteArray(" A  $0\n").repeated(270'000),
+            "'j', line 1: A budget holds no more than 65535 transactions.");
+        row("a line too long", QByteArray(65'537, ';'),
+            "'j', line 1: The line has more than 65536 characters.");
     }
     void refusals()
     {
@@ -254,6 +324,27 @@ private slots:
         };
         QVERIFY_THROWS_EXCEPTION(ImportError, (void)readJournal("include x\n", u"j"_s, spreading));
         QCOMPARE(files, 1000);
+    }
+
+    /// What a file says of its lines ends with it; the user's word goes first.
+    void filesThatIncludeOthersKeepTheirOwnWays()
+    {
+        JournalOptions own = options();
+        own.currency = numira::toCurrency("EUR");
+        own.include = [](const QString &path, const Place &place) {
+            return path == u"/b"_s
+                       ? QByteArray("decimal-mark ,\nY 2025\nD $1,00\napply tag t\n"
+                                    "include c\n")
+                       : "01-02 " + place.file.toUtf8() + "\n Assets:A  1,000\n Assets:B\n";
+        };
+        const QByteArray journal = "Y 2026\ninclude /b\n01-02 x\n Assets:A  1.000\n Assets:B\n";
+        QCOMPARE(linesOf(readJournal(journal, u"/f/a"_s, own)),
+                 u"2025-01-02 asset:A<asset:B USD 1.00 /b; t --\n"
+                 "2026-01-02 asset:A<asset:B EUR 1.00 x --"_s);
+        own.decimalMark = DecimalMark::Point;
+        QCOMPARE(linesOf(readJournal("D $1.00\n" + journal, u"/f/a"_s, own)),
+                 u"2025-01-02 asset:A<asset:B USD 1000.00 /b; t --\n"
+                 "2026-01-02 asset:A<asset:B USD 1.00 x --"_s);
     }
 
     void accountsInTwoCurrenciesAndTakenNumbers()

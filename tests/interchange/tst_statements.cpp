@@ -103,6 +103,14 @@ private slots:
         row("--1", "", "no number");
         row("1e5", "", "no number");
         row("", "", "no number");
+        row("5+", "", "5");
+        row("-5+", "", "no number");
+        row("(5", "", "no number");
+        row(",123", "", "0.123");
+        row("1234,567", "", "1234.567");
+        row("'5", "", "no number");
+        row("1'234.567,5", "", "no number");
+        row(".", "", "no number");
     }
     void numbersAsTheyAreWritten()
     {
@@ -126,10 +134,9 @@ private slots:
         QTest::addColumn<QByteArray>("table");
         QTest::addColumn<QByteArray>("profile");
         QTest::addColumn<QString>("lines");
-        const auto row = [](const char *name, const char *table, const char *profile,
+        const auto row = [](const char *name, const QByteArray &table, const char *profile,
                             const char *lines) {
-            QTest::newRow(name) << QByteArray(table) << QByteArray(profile)
-                                << QString::fromUtf8(lines);
+            QTest::newRow(name) << table << QByteArray(profile) << QString::fromUtf8(lines);
         };
         row("common headings",
             "\xEF\xBB\xBF"
@@ -140,13 +147,17 @@ private slots:
             "{'skip':2,'dateFormat':'DD.MM.YYYY','decimal':','}",
             "2026-01-05 -1234.50 EUR|Miete||");
         row("two columns of amounts by number, no headings",
-            "5/1/26\t\t3.00\tx\n6/1/26\t4.00\t\ty\n",
+            "5/1/26\t\t3.00\tx\n6/1/71\t4.00\t\ty\n",
             "{'headings':false,'date':'1','out':'2','in':'3','text':['4'],'dateFormat':'D/M/YY'}",
-            "2026-01-05 3.00 EUR|x||\n2026-01-06 -4.00 EUR|y||");
+            "2026-01-05 3.00 EUR|x||\n1971-01-06 -4.00 EUR|y||");
+        row("a column by number, a day with blanks, a delimiter at the end",
+            "Date,Text,Amount\n05 01 2026,x,\"1,234\",\n",
+            "{'dateFormat':'DD MM YYYY','amount':'3','decimal':'.'}", "2026-01-05 1234.00 EUR|x||");
         row("a column of signs, an identifier, a line break",
-            "Date,Amount,Sign,Payee,More,Ref\n2026-01-05 10:00,9.99,S,\"A\nB\",c,77\n",
+            "Date,Amount,Sign,Payee,More,Ref\n2026-01-05 10:00,9.99,S,\"A\nB\",c,77\n"
+            "2026-01-06,1,H,D,,\n",
             "{'sign':'Sign','negative':['S'],'text':['Payee','More'],'id':'Ref'}",
-            "2026-01-05 -9.99 EUR|A B c|77|");
+            "2026-01-05 -9.99 EUR|A B c|77|\n2026-01-06 1.00 EUR|D||");
         row("another encoding, its own currency, negated",
             "date|amount|text|c\n2026-01-05|5|caf\xe9|USD\n",
             "{'encoding':'ISO-8859-1','currency':'c','negate':true}",
@@ -163,6 +174,14 @@ private slots:
             "'f', line 2: There is text between a closing quote and the next delimiter.");
         row("a column that is missing", "Date,Amount,Text\n", "{'id':'No'}",
             "'f', line 1: There is no column 'No' among: Date, Amount, Text.");
+        row("a number of no column", "Date,Amount,Text\n", "{'id':'4'}",
+            "'f', line 1: There is no column '4' among: Date, Amount, Text.");
+        row("a currency that is none", "Date,Amount,Text\n2026-01-05,1,XXX\n",
+            "{'currency':'Text'}", "'f', line 2: 'XXX' is not the ISO 4217 code of a currency.");
+        row("a record of delimiters", QByteArray(1001, ','), "{}",
+            "'f', line 1: The record has more than 1000 cells.");
+        row("more records than transactions", QByteArray("x\n").repeated(65'537), "{}",
+            "'f', line 65537: A budget holds no more than 65535 transactions.");
         row("a column that nobody named", "Date,Text\n", "{}",
             "'f', line 1: Say with --amount-column which column it is, of: Date, Text.");
         row("a short record", "Date,Text,Amount\n2026-01-05,x\n", "{}",
@@ -173,16 +192,29 @@ private slots:
         row("a date format of nothing", "Date,Text,Amount\n", "{'dateFormat':'foo'}",
             "'p': 'foo' is no way to write days; put one together from YYYY, MM and DD, like "
             "DD.MM.YYYY.");
+        row("a date format with two days", "Date,Text,Amount\n", "{'dateFormat':'YYYY-MM-DD DD'}",
+            "'p': 'YYYY-MM-DD DD' is no way to write days; put one together from YYYY, MM and DD, "
+            "like DD.MM.YYYY.");
         row("another order of the day", "Date,Text,Amount\n01/05/2026,x,1\n", "{}",
             "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD.");
         row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{}",
             "'f', line 2: '1.234' has more digits behind the decimal mark than the 2 of EUR.");
         row("both ways", "Date,Text,In,Out\n2026-01-05,x,1,2\n", "{'in':'In','out':'Out'}",
             "'f', line 2: The record has an amount that came in and one that went out.");
+        row("no way", "Date,Text,Out\n2026-01-05,x,\n", "{'out':'Out'}",
+            "'f', line 2: The entry has no amount.");
         row("our own table", "number,date,debit,debitAccount,amount,description\n", "{}",
             "'f', line 1: This is the table of a whole ledger, and no bank statement; import the "
             "journal instead.");
         row("nothing", "\n\n", "{}", "'f': There are neither headings nor entries.");
+        row("nothing behind the lines above", "x\n", "{'skip':2}",
+            "'f': There are neither headings nor entries.");
+        row("a profile cut off", "x", "{\n",
+            "'p', line 2: This is no import profile: unterminated object.");
+        row("a list as a profile", "x", "[]",
+            "'p': This is no import profile: it is not a JSON object.");
+        row("a mark that is none", "x", "{'decimal':'x'}",
+            "'p': This is no import profile: 'decimal' has a wrong value.");
         row("an unknown key", "x", "{'dat':'1'}",
             "'p': This is no import profile: 'dat' is no key of "
             "one.");
@@ -205,10 +237,12 @@ private slots:
             "'H'],'dateFormat':'DD.MM.YY','decimal':',','negate':true,'rules':"
             "[{'contains':'rewe','account':'Expenses:Food'}]}";
         const CsvProfile profile = readProfile(QByteArray(json).replace('\'', '"'), u"p"_s);
-        QCOMPARE(profile.rules, (std::vector<AccountRule>{{u"rewe"_s, u"Expenses:Food"_s}}));
+        QCOMPARE(profile.rules.at(0).contains, u"rewe"_s);
+        QCOMPARE(profile.rules.at(0).account, u"Expenses:Food"_s);
         const QByteArray saved = toJson(profile);
         QCOMPARE(toJson(readProfile(saved, u"p"_s)), saved);
         QVERIFY(saved.contains("\"skip\": 3"));
+        QVERIFY(toJson({}).contains("\"decimal\": null"));
     }
 
     void tablesAreReadAsTheyWereWritten()
@@ -219,7 +253,7 @@ private slots:
             QStringList written;
             for (const std::string &cell : cells)
                 written += QString::fromLatin1(QByteArray::fromStdString(cell));
-            const auto records = readCsvTable(csvLine(written), u"f"_s, u',');
+            const auto records = readCsvTable(csvLine(written), u"f"_s, u',', 1);
             if (written == QStringList{QString()})
                 return; // an empty line is no record
             RC_ASSERT(records.size() == 1U);
@@ -249,9 +283,24 @@ private slots:
             "<MEMO>\n<NAME>n</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
             "2026-01-05 1.50 USD|n||");
         row("comments and plain sections",
-            "<!-- a > b --><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1</TRNAMT><NAME>"
+            "<!-- a > b --><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1,000.5</TRNAMT><NAME>"
             "<![CDATA[A & <B>]]></NAME></STMTTRN>\n",
-            "2026-01-05 1.00 USD|A & <B>||");
+            "2026-01-05 1000.50 USD|A & <B>||");
+        const QByteArray more =
+            "<?pi?><STMTTRN><DTPOSTED>20260105<TRNAMT>1,5<CHECKNUM>7<PAYEE><NAME>P"
+            "</PAYEE><CURRENCY><CURSYM>USD</CURRENCY><MEMO/></STMTTRN>";
+        row("a payee, a check, its currency", more, "2026-01-05 1.50 USD|P Check 7||");
+        row("another currency", QByteArray(more).replace("USD", "EUR"),
+            "'f', line 16: The amount is in EUR, and the account in USD.");
+        row("an empty amount", QByteArray(good).replace("-12.34", ""),
+            "'f', line 16: The entry has no TRNAMT.");
+        row("a comma, which cannot group", QByteArray(good).replace("12.34", "1,234"),
+            "'f', line 16: '-1,234' has more digits behind the decimal mark than the 2 of USD.");
+        row("a comment without an end", "<!-- x",
+            "'f', line 16: A tag is broken: its name or its '>' is missing.");
+        row("more entries than transactions",
+            QByteArray("<STMTTRN><DTPOSTED>20260105<TRNAMT>1</STMTTRN>").repeated(65'536),
+            "'f', line 16: A budget holds no more than 65535 transactions.");
         row("a misspelt tag", good + QByteArray(good).replace("<STMTTRN>", "<STMTRN>"),
             "'f', line 17: </STMTTRN> stands where the <STMTRN> of line 17 should be closed.");
         row("a tag that is not closed", QByteArray(good).replace("</STMTTRN>", ""),
@@ -283,6 +332,8 @@ private slots:
         };
         QCOMPARE(refusal("x"), u"'f': There is no <OFX> in this file."_s);
         QCOMPARE(refusal("<OFX>\n<A>"), u"'f', line 2: <A> is not closed."_s);
+        QCOMPARE(refusal("<OFX></A>"),
+                 u"'f', line 1: </A> stands where the <OFX> of line 1 should be closed."_s);
         QCOMPARE(refusal("<OFX></OFX>"),
                  u"'f': There is no statement of a bank account or a credit card."_s);
         const QByteArray two = "<OFX><STMTRS><CURDEF>USD<BANKACCTFROM><ACCTID>1</BANKACCTFROM>"
@@ -333,16 +384,20 @@ private slots:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QString>("lines");
-        const auto row = [](const char *name, const char *file, const char *lines) {
-            QTest::newRow(name) << QByteArray(file) << QString::fromUtf8(lines);
+        QTest::addColumn<QString>("format");
+        const auto row = [](const char *name, const QByteArray &file, const char *lines,
+                            const QString &format = {}) {
+            QTest::newRow(name) << file << QString::fromUtf8(lines) << format;
         };
         row("a day beyond the twelfth tells the order",
-            "!Type:Bank\nD1/25'26\nT-1,000.00\nPRent\nLHome/2026\n^\nD1/2'26\nT5\nN12\nMx\n",
-            "2026-01-25 -1000.00 EUR|Rent||Home\n2026-01-02 5.00 EUR|12 x||");
+            "!Type:Bank\nD1/25'26\nT-1,000.00\nPRent\nLHome/2026\n^\nD1/2'26\nT5\nN12\nMx\nL[odd\n",
+            "2026-01-25 -1000.00 EUR|Rent||Home\n2026-01-02 5.00 EUR|12 x||[odd");
+        row("an order that is named", "!Type:Cash\nD2/1/2026\nT1\n^\n", "2026-01-02 1.00 EUR|||",
+            u"D/M/YYYY"_s);
         row("splits, among lists",
-            "!Type:Cat\nNFood\n^\n!Account\nNBank\n^\n!Type:CCard\nD25.01.2026\nT-"
-            "30\nPShop\nSFood\n"
-            "$-10\nS[Savings]\nEkept\n$-20\n^\n",
+            "!Option:MDY\n!Clear:AutoSwitch\n!Type:Class\nNTrip\n^\n!Type:Cat\nNFood\n^\n!Account\n"
+            "NBank\n^\n!Type:CCard\nD25.01.2026\nU-30\nC*\nF\nAStreet\nPShop\nSFood\n$-10\n%33\n"
+            "S[Savings]/Trip\nEkept\n$-20\n^\n",
             "2026-01-25 -10.00 EUR|Shop||Food\n2026-01-25 -20.00 EUR|Shop kept||Savings");
         row("days that could be either", "!Type:Bank\nD1/2/2026\nT1\n^\n",
             "'f', line 2: The days can be read in two ways; name the order with --date-format, "
@@ -353,6 +408,12 @@ private slots:
         row("no header", "D1/2/2026\n",
             "'f', line 1: The file does not begin with a QIF header like "
             "!Type:Bank.");
+        row("nothing", "", "'f': The file does not begin with a QIF header like !Type:Bank.");
+        row("no entry", "!Type:Bank\n",
+            "'f': There is no statement of a bank account or a credit card.");
+        row("more parts than transactions",
+            "!Type:Bank\nD1/25/2026\nT1\n" + QByteArray("Sa\n").repeated(65'536),
+            "'f', line 65539: A budget holds no more than 65535 transactions.");
         row("investments", "!Type:Bank\n^\n!Type:Invst\n",
             "'f', line 3: '!Type:Invst' cannot be "
             "imported.");
@@ -368,6 +429,9 @@ private slots:
         QFETCH(QString, lines);
         QifOptions options;
         options.currency = numira::toCurrency("EUR");
+        QFETCH(QString, format);
+        if (!format.isEmpty())
+            options.dateFormat = DateFormat(format, {});
         const QString read = refusalOf([&] { return readQif(file, u"f"_s, options); });
         QCOMPARE(read.startsWith(u"read: ") ? read.mid(6) : read, lines);
     }
@@ -381,7 +445,8 @@ private slots:
                                withBankId(QString::fromUtf8(text), QString::fromUtf8(id)));
         };
         QCOMPARE(bankIdOf(withBankId(u"Shop"_s, u"a]b[\n1"_s)), u"ab 1"_s);
-        Duplicates known({entry(2, "5", "Coffee"), entry(2, "5", "Coffee"),
+        const Transaction elsewhere(day("2026-01-05"), no(2), no(3), usd("5"), u"Coffee"_s);
+        Duplicates known({entry(2, "5", "Coffee"), entry(2, "5", "Coffee"), elsewhere,
                           entry(2, "7", "Tea", "x"), entry(3, "9", "Sum; note")},
                          no(1));
         QVERIFY(known.take(entry(4, "5", "coffee")));        // moved to another account since
@@ -392,6 +457,7 @@ private slots:
         QVERIFY(!known.take(entry(2, "7", "Tea", "y")));
         QVERIFY(known.take(entry(2, "7", "Tea", "y"))); // twice in one file
         QVERIFY(known.take(entry(2, "9", "sum, note")));
+        QVERIFY(known.take(entry(2, "7", "Tea"))); // typed in, with the bank's there already
         QVERIFY(
             !known.take(Transaction(day("2026-01-05"), no(1), no(2), usd("7"), u"Tea [id x]"_s)));
     }

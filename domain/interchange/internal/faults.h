@@ -69,7 +69,6 @@ namespace faults {
 [[nodiscard]] ImportError brokenTag(const Place &place);
 [[nodiscard]] ImportError wrongClosingTag(const Place &place, const QString &closing,
                                           const QString &open, qsizetype openedAt);
-[[nodiscard]] ImportError closesNothing(const Place &place, const QString &closing);
 [[nodiscard]] ImportError tagNotClosed(const Place &place, const QString &tag);
 [[nodiscard]] ImportError nestedTooDeeply(const Place &place);
 [[nodiscard]] ImportError noStatement(const Place &place);

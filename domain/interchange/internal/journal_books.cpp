@@ -74,12 +74,16 @@ void JournalBooks::declare(const QString &account, const std::map<QString, QStri
                                          byLetter == types.end() ? byWord : byLetter->second);
     }
     if (const auto tag = tags.find(QStringLiteral("number")); tag != tags.end()) {
-        if (const uint number = tag->second.toUInt())
-            m_declaredNumbers.insert_or_assign(account, accounting::AccountNumber(number));
+        const uint number = tag->second.toUInt();
+        if (number == 0)
+            throw faults::unsupported(place, QStringLiteral("number: ") + tag->second);
+        m_declaredNumbers.insert_or_assign(account, accounting::AccountNumber(number));
     }
     if (const auto tag = tags.find(QStringLiteral("currency")); tag != tags.end()) {
-        if (const auto currency = currencyOf(tag->second))
-            m_wanted.emplace_back(account, *currency, place);
+        const auto currency = currencyOf(tag->second);
+        if (!currency)
+            throw faults::notACurrency(place, tag->second);
+        m_wanted.emplace_back(account, *currency, place);
     }
 }
 
@@ -102,13 +106,13 @@ void JournalBooks::add(AutomatedEntry automated)
 
 void JournalBooks::add(Entry entry)
 try {
-    if (++m_entries > transactionsMax)
-        throw faults::tooManyTransactions(entry.place, transactionsMax);
     if (entry.postings.empty())
         throw faults::tooFewPostings(entry.place);
     for (const Posting &posting : entry.postings) {
         if (posting.amount && posting.weight().commodity.isEmpty())
             throw faults::withoutCurrency(posting.place, presentationText(*posting.amount));
+        if (posting.assertion && posting.assertion->commodity.isEmpty())
+            throw faults::withoutCurrency(posting.place, presentationText(*posting.assertion));
     }
     assign(entry);
     fill(entry.postings, entry.place);
@@ -161,7 +165,7 @@ void JournalBooks::fill(std::vector<Posting> &postings, const Place &place)
     }
     for (const Posting &posting : postings) {
         if (!posting.amount && posting.kind == PostingKind::Virtual)
-            throw faults::notAnAmount(posting.place, QString());
+            throw faults::missingValue(posting.place, QObject::tr("amount"));
     }
     std::erase_if(postings, [](const Posting &posting) { return !posting.amount; });
     std::ranges::move(filled, std::back_inserter(postings));
@@ -234,6 +238,10 @@ void JournalBooks::applyRules(const Entry &entry)
 
 void JournalBooks::move(const Entry &entry)
 {
+    // The transactions are counted when they are made; what moves nothing makes none.
+    constexpr std::size_t movementsMax = 4 * transactionsMax;
+    if (m_movements.size() + entry.postings.size() > movementsMax)
+        throw faults::tooManyTransactions(entry.place, transactionsMax);
     for (const Posting &posting : entry.postings) {
         numira::Decimal &balance = m_balances[{posting.account, posting.known().commodity}];
         balance += posting.known().number;
@@ -403,10 +411,11 @@ void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
     for (auto &[account, net] : nets)
         sort(std::move(net));
 
-    // Each pass settles one booking of one currency.
+    // Each pass settles one booking of one currency; in each, both sides come to the
+    // same.
     std::ranges::stable_sort(debits, {}, [](const Booking &b) { return b.amount.code(); });
     std::ranges::stable_sort(credits, {}, [](const Booking &b) { return b.amount.code(); });
-    while (!debits.empty() && !credits.empty()) {
+    while (!debits.empty()) {
         Booking &debit = debits.front();
         Booking &credit = credits.front();
         const numira::Money amount = std::min(debit.amount, -credit.amount);
@@ -425,13 +434,13 @@ void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, cons
 {
     // What is kept of comments in a description; each pair of postings has all.
     constexpr qsizetype commentsMax = 2000;
-    constexpr qsizetype textsMax = 100;
+    constexpr qsizetype lengthMin = 20; // so that there are not too many short ones
     qsizetype length = 0;
     QStringList texts{entry.description};
     for (const QStringList *comments : {&entry.comments, &debit.comments, &credit.comments}) {
         for (const QString &comment : *comments) {
-            length += comment.size() + 1;
-            if (length > commentsMax || texts.size() > textsMax) {
+            length += std::max(comment.size() + 1, lengthMin);
+            if (length > commentsMax) {
                 notice(QObject::tr("Of long comments the beginning is kept."));
                 break;
             }

@@ -75,7 +75,6 @@ private:
     /// posting, too.
     std::vector<std::tuple<QString, numira::Currency, Place>> m_wanted;
     std::vector<Rule> m_rules;
-    qsizetype m_entries = 0;
     Balances m_balances;
     std::vector<Movement> m_movements;
     std::optional<ImportError> m_failedAssertion;

@@ -3,8 +3,6 @@
 
 #include "interchange/journal_reader.h"
 
-#include <stdexcept>
-
 /// The parts of a journal as they are written, before they are balanced.
 namespace kiv::interchange::internal {
 
@@ -31,12 +29,7 @@ struct Posting {
     QStringList comments = {};
 
     /// The amount, once a posting without one has got it from the others.
-    [[nodiscard]] const Quantity &known() const
-    {
-        if (!amount)
-            throw std::logic_error("A posting's amount is asked for before it is known.");
-        return *amount;
-    }
+    [[nodiscard]] const Quantity &known() const { return amount.value(); }
     /// What it adds to the balance of its transaction.
     [[nodiscard]] const Quantity &weight() const { return cost ? *cost : known(); }
 };
@@ -56,17 +49,21 @@ struct AutomatedEntry {
     Entry entry;
 };
 
+/// What directives say of the amounts behind them.
+struct AmountSettings {
+    std::optional<DecimalMark> mark = {};
+    QString commodity = {};  ///< of amounts without one
+    bool usesDefault = true; ///< whether such get one; multipliers do not
+};
+
 /// Reads amounts and remembers how the journal writes its commodities.
 class QuantityReader {
 public:
-    explicit QuantityReader(const JournalOptions &options) : m_options(options) {}
+    QuantityReader(const JournalOptions &options, const AmountSettings &settings)
+        : m_options(options), m_settings(settings)
+    {
+    }
 
-    /// "decimal-mark" of the journal.
-    void setMark(DecimalMark mark) { m_mark = mark; }
-    /// The commodity of amounts without one.
-    void setDefault(const QString &commodity) { m_default = commodity; }
-    /// Whether amounts without a commodity get one; multipliers do not.
-    void setUsesDefault(bool usesDefault) { m_usesDefault = usesDefault; }
     /// Takes the mark from a sample like "1.000,00 EUR", and gives the commodity.
     QString declare(QStringView sample, const Place &place);
 
@@ -84,10 +81,8 @@ private:
     [[nodiscard]] QString named(const QString &commodity) const;
 
     const JournalOptions &m_options;
-    std::optional<DecimalMark> m_mark;
+    const AmountSettings &m_settings;
     std::map<QString, DecimalMark> m_marks;
-    QString m_default;
-    bool m_usesDefault = true;
 };
 
 /// Moves behind the blanks.

@@ -6,7 +6,7 @@
 #include "numira/error.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QScopeGuard>
+#include <QtCore/QRegularExpression>
 
 namespace kiv::interchange::internal {
 
@@ -22,12 +22,20 @@ bool isBlank(QStringView line)
 
 bool isComment(QStringView line)
 {
-    return !line.isEmpty() && QStringLiteral(";#%|*").contains(line.front());
+    return QStringLiteral(";#%|*").contains(line.front());
 }
 
 bool isIndented(QStringView line)
 {
     return !line.isEmpty() && line.front().isSpace();
+}
+
+/// Whether a line below a declaration says what is of no concern here.
+bool isRemark(const QString &line)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(?:;|(?:note|payee) |(?:nomarket|default)$)"));
+    return form.match(line).hasMatch();
 }
 
 /// The text behind a semicolon, which is taken off with it.
@@ -72,7 +80,7 @@ QString takeAccountName(QStringView &rest)
 {
     qsizetype end = 0;
     while (end < rest.size() && rest[end] != u'\t' &&
-           !(rest[end] == u' ' && (end + 1 == rest.size() || rest[end + 1].isSpace())))
+           !(rest[end] == u' ' && rest[end + 1].isSpace())) // no line ends with a blank
         ++end;
     const QString name = rest.first(end).toString().simplified();
     rest = rest.sliced(end);
@@ -88,11 +96,10 @@ const QString &JournalParser::ownHeader()
     return header;
 }
 
-void JournalParser::parse(const QByteArray &bytes, const QString &file, int depth)
+void JournalParser::parse(const QByteArray &bytes, const QString &file)
 {
     const QString text = decoded(bytes, file, m_options.encoding);
-    const int outer = std::exchange(m_depth, depth);
-    m_isOwn = text.startsWith(ownHeader());
+    m_settings.isOwn = text.startsWith(ownHeader());
     LineCursor lines(text, file);
     std::optional<Block> block;
     std::optional<Place> skipping; // a block comment
@@ -108,8 +115,6 @@ void JournalParser::parse(const QByteArray &bytes, const QString &file, int dept
         } else if (isIndented(line)) {
             if (isBlank(line))
                 continue;
-            if (block && static_cast<qsizetype>(block->lines.size()) > transactionsMax)
-                throw faults::tooManyTransactions(lines.place(), transactionsMax);
             if (block)
                 block->lines.emplace_back(lines.place(), line.trimmed().toString());
             else if (!isComment(line.trimmed()))
@@ -125,7 +130,6 @@ void JournalParser::parse(const QByteArray &bytes, const QString &file, int dept
     finish();
     if (skipping)
         throw faults::notClosed(*skipping, QStringLiteral("comment"));
-    m_depth = outer;
 }
 
 void JournalParser::take(const Block &block)
@@ -153,11 +157,13 @@ void JournalParser::takeDirective(const Block &block)
         rest = rest.mid(1);
     const auto blank = std::ranges::find_if(rest, [](QChar c) { return c.isSpace(); });
     const QString word = rest.left(blank - rest.begin());
+    static const QRegularExpression year(QStringLiteral("^(?:year\\s+|Y\\s*)([1-9][0-9]{3})$"));
+    const auto ofYear = year.match(rest);
     rest = rest.mid(word.size()).trimmed();
     if (word == u"account") {
         takeAccount(block, rest);
     } else if (word == u"commodity" || word == u"D") {
-        takeCommodity(block, rest);
+        takeCommodity(block, word == u"D", rest);
     } else if (word == u"include") {
         takeInclude(block, rest);
     } else if (word == u"apply" || word == u"end") {
@@ -165,12 +171,9 @@ void JournalParser::takeDirective(const Block &block)
     } else if (word == u"P") {
         m_sink.notice(QObject::tr("Market prices are left out; they change no balance."));
     } else if (word == u"decimal-mark" && (rest == u"." || rest == u",")) {
-        m_quantities.setMark(static_cast<DecimalMark>(rest.front().unicode()));
-    } else if (word == u"Y" || word == u"year" || (word.startsWith(u'Y') && rest.isEmpty())) {
-        bool isNumber = false;
-        m_year = (rest.isEmpty() ? word.mid(1) : rest).toInt(&isNumber);
-        if (!isNumber || *m_year < 1 || *m_year > 9999)
-            throw faults::unknownDirective(block.place, block.head);
+        m_settings.amounts.mark = static_cast<DecimalMark>(rest.front().unicode());
+    } else if (ofYear.hasMatch()) {
+        m_settings.year = ofYear.captured(1).toInt();
     } else if (word != u"payee" && word != u"tag" && word != u"N") {
         // Those three only declare what may be written.
         throw faults::unknownDirective(block.place, block.head);
@@ -183,36 +186,32 @@ void JournalParser::takeAccount(const Block &block, const QString &name)
     std::map<QString, QString> tags;
     addTags(takeComment(account), tags);
     for (const auto &[place, line] : block.lines) {
-        if (isComment(line))
+        if (line.startsWith(u';'))
             addTags(line.mid(1).trimmed(), tags);
-        else if (!line.startsWith(u"note ") && !line.startsWith(u"payee ") && line != u"default")
+        else if (!isRemark(line))
             throw faults::unknownDirective(place, line);
     }
-    if (!m_isOwn) {
+    if (!m_settings.isOwn) {
         tags.erase(QStringLiteral("number"));
         tags.erase(QStringLiteral("currency"));
     }
     m_sink.declare(account.simplified(), tags, block.place);
 }
 
-void JournalParser::takeCommodity(const Block &block, const QString &sample)
+void JournalParser::takeCommodity(const Block &block, bool isDefault, const QString &sample)
 {
     QString amount = sample;
     takeComment(amount);
-    const auto hasDigits = [](const QString &text) {
-        return std::ranges::any_of(text, [](QChar c) { return c.isDigit(); }) &&
-               !text.startsWith(u'"');
-    };
-    if (hasDigits(amount)) {
-        const QString commodity = m_quantities.declare(amount, block.place);
-        if (block.head.startsWith(u"D"))
-            m_quantities.setDefault(commodity);
-    }
+    // A name in quotes may have digits, too.
+    static const QRegularExpression withNumber(QStringLiteral("^(?:\"[^\"]*\")?[^\"]*[0-9]"));
+    if (isDefault)
+        m_settings.amounts.commodity = m_quantities.declare(amount, block.place);
+    else if (withNumber.match(amount).hasMatch())
+        m_quantities.declare(amount, block.place);
     for (const auto &[place, line] : block.lines) {
         if (line.startsWith(u"format "))
             m_quantities.declare(QStringView(line).sliced(7).trimmed(), place);
-        else if (!isComment(line) && !line.startsWith(u"note ") && line != u"nomarket" &&
-                 line != u"default")
+        else if (!isRemark(line))
             throw faults::unknownDirective(place, line);
     }
 }
@@ -222,32 +221,37 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
     if (!m_options.include)
         throw faults::includeRefused(block.place, path, QObject::tr("there is no folder for it"));
     // Each of eight files may include the next one many times.
-    if (m_depth >= depthMax || ++m_included > includesMax)
+    if (m_settings.depth >= depthMax || ++m_included > includesMax)
         throw faults::includeRefused(block.place, path,
                                      QObject::tr("files include each other too deeply"));
-    const bool wasOwn = m_isOwn;
-    parse(m_options.include(path, block.place), nameBeside(block.place.file, path), m_depth + 1);
-    m_isOwn = wasOwn;
+    const Settings outer = m_settings;
+    ++m_settings.depth;
+    parse(m_options.include(path, block.place), nameBeside(block.place.file, path));
+    m_settings = outer;
 }
 
 void JournalParser::takeTagging(const Block &block, const QString &word, const QString &rest)
 {
     // Every transaction copies them.
     constexpr qsizetype appliedTagsMax = 100;
-    if (m_appliedTags.size() > appliedTagsMax)
+    static const QStringList ends{QString(), QStringLiteral("tag"), QStringLiteral("apply tag")};
+    QStringList &applied = m_settings.appliedTags;
+    if (applied.size() > appliedTagsMax)
         throw faults::nestedTooDeeply(block.place);
     if (word == u"apply" && rest.startsWith(u"tag "))
-        m_appliedTags += rest.mid(4).trimmed();
-    else if (word == u"end" && (rest.isEmpty() || rest == u"tag" || rest == u"apply tag") &&
-             !m_appliedTags.isEmpty())
-        m_appliedTags.removeLast();
+        applied += rest.mid(4).trimmed();
+    else if (word == u"end" && ends.contains(rest) && !applied.isEmpty())
+        applied.removeLast();
     else
         throw faults::unknownDirective(block.place, block.head);
 }
 
 // ---- entries -------------------------------------------------------------------
 
-QDate JournalParser::takeDate(QStringView &rest, const Place &place) const
+namespace {
+
+/// A day, of the year given when it is written without one.
+QDate takeDate(QStringView &rest, std::optional<int> year, const Place &place)
 {
     qsizetype length = 0;
     while (length < rest.size() &&
@@ -257,8 +261,8 @@ QDate JournalParser::takeDate(QStringView &rest, const Place &place) const
     rest = rest.sliced(length);
     const QChar separator = text.contains(u'-') ? u'-' : text.contains(u'/') ? u'/' : u'.';
     QStringList parts = text.split(separator);
-    if (parts.size() == 2 && m_year)
-        parts.prepend(QString::number(*m_year));
+    if (parts.size() == 2 && year)
+        parts.prepend(QString::number(*year));
     if (parts.size() == 3 && parts[0].size() == 4) {
         const QDate date(parts[0].toInt(), parts[1].toInt(), parts[2].toInt());
         if (date.isValid())
@@ -267,14 +271,16 @@ QDate JournalParser::takeDate(QStringView &rest, const Place &place) const
     throw faults::notADate(place, text, QStringLiteral("YYYY-MM-DD"));
 }
 
+} // namespace
+
 void JournalParser::takeEntry(const Block &block)
 {
     Entry entry{block.place};
     QStringView rest = block.head;
-    entry.date = takeDate(rest, block.place);
+    entry.date = takeDate(rest, m_settings.year, block.place);
     if (rest.startsWith(u'=')) {
         rest = rest.sliced(1);
-        (void)takeDate(rest, block.place);
+        (void)takeDate(rest, entry.date.year(), block.place);
         m_sink.notice(QObject::tr("Second days of transactions are left out."));
     }
     if (!rest.isEmpty() && !rest.front().isSpace())
@@ -289,10 +295,10 @@ void JournalParser::takeEntry(const Block &block)
     }
     entry.description = rest.toString().trimmed();
     const QString comment = takeComment(entry.description);
-    if (!code.isEmpty() && !m_isOwn)
+    if (!code.isEmpty() && !m_settings.isOwn)
         entry.description = (u'(' + code + QStringLiteral(") ") + entry.description).trimmed();
     entry.comments += comment;
-    entry.comments += m_appliedTags;
+    entry.comments += m_settings.appliedTags;
     addPostings(block, entry);
     m_sink.add(std::move(entry));
 }
@@ -301,22 +307,26 @@ void JournalParser::takeAutomated(const Block &block)
 {
     QString pattern = block.head.mid(1).trimmed();
     takeComment(pattern);
-    if (pattern.size() > 1 && pattern.startsWith(u'/') && pattern.endsWith(u'/'))
-        pattern = pattern.mid(1, pattern.size() - 2);
-    else if (pattern.isEmpty() || pattern.contains(u' ') || pattern.contains(u'/') ||
-             pattern.startsWith(u'('))
+    // A sign, a quote, a blank or a word like "desc:" makes it a query of something
+    // else than one account's name, which would never fit one.
+    static const QRegularExpression form(QStringLiteral(
+        "^(?:/([^/]+)/"
+        "|(?!(?:not|any|all|expr|acct|amt|code|cur|date2?|depth|desc|inacct|note|payee|"
+        "real|status|tag|type):)([^\\s/\"'&@%#=!(][^\\s/\"'&]*))$"));
+    const auto match = form.match(pattern);
+    if (!match.hasMatch())
         throw faults::unsupported(block.place, block.head);
     Entry entry{block.place};
-    m_quantities.setUsesDefault(false);
-    const auto restore = qScopeGuard([this] { m_quantities.setUsesDefault(true); });
+    m_settings.amounts.usesDefault = false;
     addPostings(block, entry);
-    m_sink.add(AutomatedEntry{pattern, std::move(entry)});
+    m_settings.amounts.usesDefault = true;
+    m_sink.add(AutomatedEntry{match.captured(1) + match.captured(2), std::move(entry)});
 }
 
 void JournalParser::addPostings(const Block &block, Entry &entry) const
 {
     for (const auto &[place, line] : block.lines) {
-        if (isComment(line) && line.front() != u'*' && line.front() != u'|') {
+        if (line.startsWith(u';')) {
             const QString comment = line.mid(1).trimmed();
             (entry.postings.empty() ? entry.comments : entry.postings.back().comments) += comment;
         } else {
@@ -334,8 +344,7 @@ Posting JournalParser::readPosting(const Place &place, QStringView line) const
     posting.status = takeStatus(line);
     posting.account = takeAccountName(line);
     const auto isWithin = [&posting](QChar begin, QChar end) {
-        return posting.account.startsWith(begin) && posting.account.endsWith(end) &&
-               posting.account.size() > 1;
+        return posting.account.startsWith(begin) && posting.account.endsWith(end);
     };
     if (isWithin(u'(', u')'))
         posting.kind = PostingKind::Virtual;
@@ -351,12 +360,15 @@ Posting JournalParser::readPosting(const Place &place, QStringView line) const
 
 void JournalParser::readAmounts(QStringView rest, Posting &posting) const
 {
-    if (rest.startsWith(u'*')) // a multiplier of an automated transaction
-        rest = rest.sliced(1);
     if (!rest.isEmpty() && rest.front() != u';' && rest.front() != u'=') {
         if (rest.startsWith(u'('))
             throw faults::unsupported(posting.place, rest.toString());
+        const QStringView whole = rest;
+        const bool isMultiplier = rest.startsWith(u'*'); // of an automated transaction
+        rest = rest.sliced(isMultiplier ? 1 : 0);
         posting.amount = m_quantities.read(rest, posting.place);
+        if (isMultiplier && !posting.amount->commodity.isEmpty())
+            throw faults::unsupported(posting.place, whole.toString());
         skipBlanks(rest);
         readCost(rest, posting);
     }
@@ -378,13 +390,16 @@ void JournalParser::readCost(QStringView &rest, Posting &posting) const
 {
     if (!rest.startsWith(u'@'))
         return;
+    const QString whole = rest.toString();
     const bool isTotal = rest.startsWith(u"@@");
     rest = rest.sliced(isTotal ? 2 : 1);
     Quantity price = m_quantities.read(rest, posting.place);
-    const Quantity &amount = *posting.amount;
+    if (price.number.sign() < 0)
+        throw faults::unsupported(posting.place, whole);
+    const numira::Decimal &amount = posting.amount->number;
     if (!isTotal)
-        price.number = amount.number * price.number;
-    else if ((amount.number.sign() < 0) != (price.number.sign() < 0))
+        price.number = amount * price.number;
+    else if (amount.sign() < 0)
         price.number = -price.number;
     posting.cost = price;
 }

@@ -23,11 +23,11 @@ public:
 class JournalParser {
 public:
     JournalParser(const JournalOptions &options, JournalSink &sink)
-        : m_options(options), m_sink(sink), m_quantities(options)
+        : m_options(options), m_sink(sink), m_quantities(options, m_settings.amounts)
     {
     }
 
-    void parse(const QByteArray &bytes, const QString &file, int depth = 0);
+    void parse(const QByteArray &bytes, const QString &file);
 
     /// The first line of journals that are written here. In them a
     /// transaction's code is its number, and an account has the tags "number"
@@ -42,10 +42,20 @@ private:
         std::vector<std::pair<Place, QString>> lines = {};
     };
 
+    /// What holds for the lines of a file and of those that it includes there, and
+    /// ends with it.
+    struct Settings {
+        bool isOwn = false; ///< see ownHeader
+        int depth = 0;      ///< how many files include this one
+        std::optional<int> year = {};
+        QStringList appliedTags = {};
+        AmountSettings amounts = {};
+    };
+
     void take(const Block &block);
     void takeDirective(const Block &block);
     void takeAccount(const Block &block, const QString &name);
-    void takeCommodity(const Block &block, const QString &sample);
+    void takeCommodity(const Block &block, bool isDefault, const QString &sample);
     void takeInclude(const Block &block, const QString &path);
     void takeTagging(const Block &block, const QString &word, const QString &rest);
     void takeEntry(const Block &block);
@@ -54,16 +64,12 @@ private:
     [[nodiscard]] Posting readPosting(const Place &place, QStringView line) const;
     void readAmounts(QStringView rest, Posting &posting) const;
     void readCost(QStringView &rest, Posting &posting) const;
-    [[nodiscard]] QDate takeDate(QStringView &rest, const Place &place) const;
 
     const JournalOptions &m_options;
     JournalSink &m_sink;
+    Settings m_settings;
     QuantityReader m_quantities;
-    QStringList m_appliedTags;
-    std::optional<int> m_year;
-    int m_depth = 0;
     int m_included = 0;
-    bool m_isOwn = false;
 };
 
 } // namespace kiv::interchange::internal

@@ -84,7 +84,7 @@ private:
             m_text.indexOf(isComment ? QStringLiteral("-->") : QStringLiteral("]]>"), m_at);
         if (end < 0)
             throw faults::brokenTag(m_place);
-        if (!isComment && !m_open.empty())
+        if (!isComment)
             m_open.back().value += m_text.mid(m_at + 9, end - m_at - 9).simplified();
         advanceTo(end + 3);
         return true;
@@ -150,14 +150,12 @@ private:
         advanceTo(end);
     }
 
+    /// The <OFX> at least is open.
     void close(const QString &tag)
     {
         // A tag before it that holds nothing is a value that is empty.
-        while (!m_open.empty() && m_open.back().tag != tag && m_open.back().children.empty() &&
-               m_open.size() > 1)
+        while (m_open.back().tag != tag && m_open.back().children.empty() && m_open.size() > 1)
             finish();
-        if (m_open.empty())
-            throw faults::closesNothing(m_place, tag);
         if (m_open.back().tag != tag)
             throw faults::wrongClosingTag(m_place, tag, m_open.back().tag,
                                           m_open.back().place.line);

@@ -87,12 +87,12 @@ QuantityReader::Written QuantityReader::split(QStringView &rest, const Place &pl
 
 QString QuantityReader::named(const QString &commodity) const
 {
-    if (commodity.isEmpty() && !m_usesDefault)
+    if (commodity.isEmpty() && !m_settings.usesDefault)
         return {};
     if (commodity.isEmpty())
-        return m_default.isEmpty() && m_options.currency
+        return m_settings.commodity.isEmpty() && m_options.currency
                    ? foundation::toQString(*m_options.currency)
-                   : m_default;
+                   : m_settings.commodity;
     const auto given = m_options.commodities.find(commodity);
     const auto currency = given == m_options.commodities.end()
                               ? readCurrency(commodity, m_options.preferred)
@@ -102,16 +102,18 @@ QString QuantityReader::named(const QString &commodity) const
 
 QString QuantityReader::declare(QStringView sample, const Place &place)
 {
-    const Written written = split(sample, place);
+    QStringView rest = sample;
+    const Written written = split(rest, place);
+    if (!rest.trimmed().isEmpty())
+        throw faults::notAnAmount(place, sample.toString());
     QString commodity = named(written.commodity);
-    const qsizetype last =
-        std::max(written.number.lastIndexOf(u'.'), written.number.lastIndexOf(u','));
-    // "1,000" does not say which of the two its comma is.
-    const bool isPlain = last < 0 || written.number.size() - last != 4 ||
-                         written.number[last] == u'.' || written.number.contains(u'.');
-    if (last >= 0 && isPlain && written.number.count(written.number[last]) == 1)
-        m_marks.insert_or_assign(commodity,
-                                 static_cast<DecimalMark>(written.number[last].unicode()));
+    const QString &number = written.number;
+    const qsizetype last = std::max(number.lastIndexOf(u'.'), number.lastIndexOf(u','));
+    // "1,000" does not say which of the two its comma is; "1,000,000" has no mark.
+    const bool hasMark = last >= 0 && number.count(number[last]) == 1 &&
+                         (number.size() - last != 4 || number.contains(u'.'));
+    if (hasMark)
+        m_marks.insert_or_assign(commodity, static_cast<DecimalMark>(number[last].unicode()));
     return commodity;
 }
 
@@ -119,7 +121,8 @@ Quantity QuantityReader::read(QStringView &rest, const Place &place) const
 {
     const Written written = split(rest, place);
     const QString commodity = named(written.commodity);
-    std::optional<DecimalMark> mark = m_options.decimalMark ? m_options.decimalMark : m_mark;
+    std::optional<DecimalMark> mark =
+        m_options.decimalMark ? m_options.decimalMark : m_settings.mark;
     if (const auto declared = m_marks.find(commodity); !mark && declared != m_marks.end())
         mark = declared->second;
     const numira::Decimal number = readNumber(written.number, mark, place);
