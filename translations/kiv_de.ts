@@ -516,16 +516,8 @@
         <translation>„%1“: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no encoding that is known.</source>
-        <translation>„%1“ ist keine bekannte Kodierung.</translation>
-    </message>
-    <message>
         <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
         <translation>Dies ist kein gültiges %1; die Kodierung der Datei kann mit --encoding angegeben werden.</translation>
-    </message>
-    <message>
-        <source>This is not text.</source>
-        <translation>Dies ist kein Text.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
@@ -558,10 +550,6 @@
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
         <translation>„%1“ ist nicht der ISO-4217-Code einer Währung.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported.</source>
-        <translation>„%1“ ist weder eine Buchung noch eine Anweisung, die importiert werden kann.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be imported.</source>
@@ -636,10 +624,6 @@
         <translation>Mit %1 wird angegeben, welche Spalte es ist, von: %2.</translation>
     </message>
     <message>
-        <source>The record has %1 cells where %2 are needed.</source>
-        <translation>Der Datensatz hat %1 Zellen, nötig sind %2.</translation>
-    </message>
-    <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
         <translation>Dies ist die Tabelle eines ganzen Hauptbuchs und kein Kontoauszug; importiert werden kann stattdessen das Journal.</translation>
     </message>
@@ -650,10 +634,6 @@
     <message>
         <source>The entry has no %1.</source>
         <translation>Dem Eintrag fehlt: %1.</translation>
-    </message>
-    <message>
-        <source>The days can be read in two ways; name the order with --date-format, like MM/DD/YYYY.</source>
-        <translation>Die Tage können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa MM/DD/YYYY.</translation>
     </message>
     <message>
         <source>The amount is in %1, and the account in %2.</source>
@@ -2567,10 +2547,6 @@
         <translation>nein</translation>
     </message>
     <message>
-        <source>it is larger than 64 MiB</source>
-        <translation>das sind mehr als 64 MiB</translation>
-    </message>
-    <message>
         <source>%1 at byte %2</source>
         <translation>%1 bei Byte %2</translation>
     </message>
@@ -2721,14 +2697,6 @@
     <message>
         <source>%1: 1 required %2 missing.</source>
         <translation>%1: 1 %2 fehlt.</translation>
-    </message>
-    <message>
-        <source>The following argument was not expected: %1.</source>
-        <translation>Das folgende Argument wurde nicht erwartet: %1.</translation>
-    </message>
-    <message>
-        <source>The following arguments were not expected: %1.</source>
-        <translation>Die folgenden Argumente wurden nicht erwartet: %1.</translation>
     </message>
     <message>
         <source>%1: At Most %2 required but received %3.</source>
@@ -3170,10 +3138,6 @@
     <message>
         <source>journal, csv, ofx or qif; guessed otherwise</source>
         <translation>journal, csv, ofx oder qif; wird sonst erraten</translation>
-    </message>
-    <message>
-        <source>The file&apos;s encoding; UTF-8 otherwise</source>
-        <translation>Die Kodierung der Datei; sonst UTF-8</translation>
     </message>
     <message>
         <source>The decimal mark: . or ,</source>
@@ -3926,6 +3890,78 @@
     <message>
         <source>Say with --into which account the bank statement is about.</source>
         <translation>Mit --into sagen, um welches Konto es im Kontoauszug geht.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no encoding that is known; write one like windows-1252 or UTF-16.</source>
+        <translation>„%1“ ist keine bekannte Kodierung; richtig ist etwa windows-1252 oder UTF-16.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
+        <translation>„%1“ ist kein Tag in der Form %2; eine andere Form wird mit --date-format angegeben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
+        <translation>„%1“ ist weder eine Buchung noch eine Anweisung, die importiert werden kann; ein ; am Anfang der Zeile lässt sie aus.</translation>
+    </message>
+    <message>
+        <source>The record has only %1 of the %2 cells that are needed.</source>
+        <translation>Der Datensatz hat nur %1 der %2 Zellen, die nötig sind.</translation>
+    </message>
+    <message>
+        <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
+        <translation>Die Tage können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa M/D/YYYY.</translation>
+    </message>
+    <message>
+        <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
+        <translation>Die Datei endet mitten in einem Eintrag; sie ist neu abzurufen oder mit einer Zeile ^ zu beenden.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1; --help tells which are.</source>
+        <translation>Das folgende Argument wurde nicht erwartet: %1; --help sagt, welche es gibt.</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1; --help tells which are.</source>
+        <translation>Die folgenden Argumente wurden nicht erwartet: %1; --help sagt, welche es gibt.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding; else the one that it names, or UTF-8</source>
+        <translation>Die Kodierung der Datei; sonst die, die sie nennt, oder UTF-8</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
+        <translation>„%1“ ist kein Kurs; richtig ist etwa EUR=0.92.</translation>
+    </message>
+    <message>
+        <source>%1 kiv history tells which former version is whole; copy that file (&apos;%2&apos;, …) into its place.</source>
+        <translation>%1 kiv history sagt, welche frühere Version heil ist; diese Datei („%2“, …) ist an ihre Stelle zu kopieren.</translation>
+    </message>
+    <message>
+        <source>it is larger than 64 MiB, which line %1 exceeds; split it into smaller files</source>
+        <translation>das sind mehr als 64 MiB, die mit Zeile %1 überschritten werden; die Datei ist in kleinere zu teilen</translation>
+    </message>
+    <message>
+        <source>The checksum is wrong.</source>
+        <translation>Die Prüfsumme ist falsch.</translation>
+    </message>
+    <message>
+        <source>Its header is not whole.</source>
+        <translation>Ihr Kopf ist nicht heil.</translation>
+    </message>
+    <message>
+        <source>There is more than a file may hold.</source>
+        <translation>Das ist mehr, als eine Datei fassen darf.</translation>
+    </message>
+    <message>
+        <source>The surveys do not fit together.</source>
+        <translation>Die Abgleiche passen nicht zueinander.</translation>
+    </message>
+    <message>
+        <source>There are too many rows.</source>
+        <translation>Es sind zu viele Zeilen.</translation>
+    </message>
+    <message>
+        <source>A text is too long.</source>
+        <translation>Ein Text ist zu lang.</translation>
     </message>
 </context>
 <context>

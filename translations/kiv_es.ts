@@ -516,16 +516,8 @@
         <translation>«%1»: %2</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no encoding that is known.</source>
-        <translation>«%1» no es una codificación conocida.</translation>
-    </message>
-    <message>
         <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
         <translation>Esto no es %1 válido; la codificación del archivo se indica con --encoding.</translation>
-    </message>
-    <message>
-        <source>This is not text.</source>
-        <translation>Esto no es texto.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
@@ -558,10 +550,6 @@
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
         <translation>«%1» no es el código ISO 4217 de una moneda.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported.</source>
-        <translation>«%1» no es ni un asiento ni una directiva que se pueda importar.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; cannot be imported.</source>
@@ -636,10 +624,6 @@
         <translation>Se indica con %1 qué columna es, de: %2.</translation>
     </message>
     <message>
-        <source>The record has %1 cells where %2 are needed.</source>
-        <translation>El registro tiene %1 celdas y hacen falta %2.</translation>
-    </message>
-    <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
         <translation>Esta es la tabla de un libro mayor entero y no un extracto; en su lugar se puede importar el diario.</translation>
     </message>
@@ -650,10 +634,6 @@
     <message>
         <source>The entry has no %1.</source>
         <translation>A la entrada le falta: %1.</translation>
-    </message>
-    <message>
-        <source>The days can be read in two ways; name the order with --date-format, like MM/DD/YYYY.</source>
-        <translation>Los días se pueden leer de dos maneras; el orden se indica con --date-format, por ejemplo MM/DD/YYYY.</translation>
     </message>
     <message>
         <source>The amount is in %1, and the account in %2.</source>
@@ -2567,10 +2547,6 @@
         <translation>no</translation>
     </message>
     <message>
-        <source>it is larger than 64 MiB</source>
-        <translation>ocupa más de 64 MiB</translation>
-    </message>
-    <message>
         <source>%1 at byte %2</source>
         <translation>%1 en el byte %2</translation>
     </message>
@@ -2721,14 +2697,6 @@
     <message>
         <source>%1: 1 required %2 missing.</source>
         <translation>%1: falta 1 %2.</translation>
-    </message>
-    <message>
-        <source>The following argument was not expected: %1.</source>
-        <translation>No se esperaba el argumento siguiente: %1.</translation>
-    </message>
-    <message>
-        <source>The following arguments were not expected: %1.</source>
-        <translation>No se esperaban los argumentos siguientes: %1.</translation>
     </message>
     <message>
         <source>%1: At Most %2 required but received %3.</source>
@@ -3170,10 +3138,6 @@
     <message>
         <source>journal, csv, ofx or qif; guessed otherwise</source>
         <translation>journal, csv, ofx o qif; si no, se deduce</translation>
-    </message>
-    <message>
-        <source>The file&apos;s encoding; UTF-8 otherwise</source>
-        <translation>La codificación del archivo; si no, UTF-8</translation>
     </message>
     <message>
         <source>The decimal mark: . or ,</source>
@@ -3926,6 +3890,78 @@
     <message>
         <source>Say with --into which account the bank statement is about.</source>
         <translation>Indicar con --into de qué cuenta trata el extracto.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no encoding that is known; write one like windows-1252 or UTF-16.</source>
+        <translation>«%1» no es una codificación conocida; debe ser como windows-1252 o UTF-16.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
+        <translation>«%1» no es un día escrito como %2; otra forma se indica con --date-format.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
+        <translation>«%1» no es ni un asiento ni una directiva que se pueda importar; un ; al principio de la línea la omite.</translation>
+    </message>
+    <message>
+        <source>The record has only %1 of the %2 cells that are needed.</source>
+        <translation>El registro solo tiene %1 de las %2 celdas necesarias.</translation>
+    </message>
+    <message>
+        <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
+        <translation>Los días se pueden leer de dos maneras; el orden se indica con --date-format, como M/D/YYYY.</translation>
+    </message>
+    <message>
+        <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
+        <translation>El archivo termina en medio de una entrada; hay que volver a obtenerlo o terminarlo con una línea ^.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1; --help tells which are.</source>
+        <translation>No se esperaba el argumento siguiente: %1; --help dice cuáles hay.</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1; --help tells which are.</source>
+        <translation>No se esperaban los argumentos siguientes: %1; --help dice cuáles hay.</translation>
+    </message>
+    <message>
+        <source>The file&apos;s encoding; else the one that it names, or UTF-8</source>
+        <translation>La codificación del archivo; si no, la que este indica, o UTF-8</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
+        <translation>«%1» no es un tipo de cambio; debe ser como EUR=0.92.</translation>
+    </message>
+    <message>
+        <source>%1 kiv history tells which former version is whole; copy that file (&apos;%2&apos;, …) into its place.</source>
+        <translation>%1 kiv history dice qué versión anterior está íntegra; hay que copiar ese archivo («%2», …) en su lugar.</translation>
+    </message>
+    <message>
+        <source>it is larger than 64 MiB, which line %1 exceeds; split it into smaller files</source>
+        <translation>supera los 64 MiB en la línea %1; hay que dividirlo en archivos más pequeños</translation>
+    </message>
+    <message>
+        <source>The checksum is wrong.</source>
+        <translation>La suma de comprobación es incorrecta.</translation>
+    </message>
+    <message>
+        <source>Its header is not whole.</source>
+        <translation>Su cabecera no está íntegra.</translation>
+    </message>
+    <message>
+        <source>There is more than a file may hold.</source>
+        <translation>Hay más de lo que puede contener un archivo.</translation>
+    </message>
+    <message>
+        <source>The surveys do not fit together.</source>
+        <translation>Las conciliaciones no encajan entre sí.</translation>
+    </message>
+    <message>
+        <source>There are too many rows.</source>
+        <translation>Hay demasiadas filas.</translation>
+    </message>
+    <message>
+        <source>A text is too long.</source>
+        <translation>Un texto es demasiado largo.</translation>
     </message>
 </context>
 <context>

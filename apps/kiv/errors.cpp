@@ -116,6 +116,11 @@ UsageError notAnAssignment(const QString &text)
     return UsageError(QObject::tr("'%1' is not of the form NAME=VALUE.").arg(text));
 }
 
+UsageError notARate(const QString &text)
+{
+    return UsageError(QObject::tr("'%1' is not a rate; write one like EUR=0.92.").arg(text));
+}
+
 UsageError noSuchCommand(const QString &word, const QStringList &similar)
 {
     return UsageError(missed(QObject::tr("'%1' is no command").arg(word), similar,
@@ -298,6 +303,13 @@ Refusal unsavedChanges(const QString &path)
 {
     return Refusal(
         QObject::tr("The changes of '%1' could not be saved; use save-as first.").arg(path));
+}
+
+QString withBackups(const QString &sentence, const QString &backup)
+{
+    return QObject::tr("%1 kiv history tells which former version is whole; copy that file ('%2', "
+                       "…) into its place.")
+        .arg(sentence, backup);
 }
 
 Refusal cannotWriteOutput(const QString &reason)

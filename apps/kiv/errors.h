@@ -45,6 +45,7 @@ public:
 [[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError openQuote();
 [[nodiscard]] UsageError notAnAssignment(const QString &text);
+[[nodiscard]] UsageError notARate(const QString &text);
 [[nodiscard]] UsageError notAProfileName(const QString &name);
 [[nodiscard]] UsageError unreadableInput(const QString &name, const QString &reason);
 
@@ -88,6 +89,8 @@ public:
 
 [[nodiscard]] Refusal fileExists(const QString &path);
 [[nodiscard]] Refusal unsavedChanges(const QString &path);
+/// What is said of a damaged file, and what to do with its backups.
+[[nodiscard]] QString withBackups(const QString &sentence, const QString &backup);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
 [[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);

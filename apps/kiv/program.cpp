@@ -5,7 +5,11 @@
 #include "command_line/misuse.h"
 #include "commands/commands.h"
 
+#include "storage/budget_inspection.h"
+#include "storage/storage_error.h"
+
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 
 #include <iostream>
 
@@ -27,6 +31,12 @@ int Program::run(const std::vector<std::string> &words)
     } catch (const UsageError &error) {
         complain(error.message());
         return misused;
+    } catch (const storage::StorageError &error) {
+        const QString sentence = QString::fromUtf8(error.what());
+        const QString backup = storage::backupOf(error.filePathName(), 1);
+        complain(error.failure() == storage::StorageFailure::Damaged && QFile::exists(backup)
+                     ? withBackups(sentence, backup)
+                     : sentence);
     } catch (const foundation::Error &error) {
         complain(QString::fromUtf8(error.what()));
     } catch (const std::exception &error) {

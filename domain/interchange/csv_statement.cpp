@@ -38,6 +38,8 @@ const QStringList textHeadings{QStringLiteral("description"),
                                QStringLiteral("descripción")};
 const QStringList idHeadings{QStringLiteral("fitid"), QStringLiteral("transaction id"),
                              QStringLiteral("reference"), QStringLiteral("referenz")};
+const QStringList currencyHeadings{QStringLiteral("currency"), QStringLiteral("währung"),
+                                   QStringLiteral("moneda"), QStringLiteral("divisa")};
 
 class StatementReader {
 public:
@@ -90,10 +92,11 @@ private:
         m_in = find(m_profile.inColumn, {}, place);
         m_out = find(m_profile.outColumn, {}, place);
         if (!hasTwo)
-            m_amount = need(m_profile.amountColumn, amountHeadings, "--amount-column", place);
+            m_amount = need(m_profile.amountColumn, amountHeadings,
+                            "--amount-column (or --in-column and --out-column)", place);
         m_sign = find(m_profile.signColumn, {}, place);
         m_id = find(m_profile.idColumn, idHeadings, place);
-        m_currencyAt = find(m_profile.currencyColumn, {}, place);
+        m_currencyAt = find(m_profile.currencyColumn, currencyHeadings, place);
         for (const QString &column : m_profile.textColumns)
             m_texts.push_back(need(column, {}, "--text-column", place));
         if (m_texts.empty())
@@ -150,7 +153,7 @@ private:
             date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
         const auto day = m_profile.dateFormat.read(date);
         if (!day)
-            throw faults::notADate(record.place, date, m_profile.dateFormat.text());
+            throw faults::notInDateFormat(record.place, date, m_profile.dateFormat.text());
         entry.date = *day;
         entry.amount = amountOf(record);
         QStringList texts;
@@ -169,7 +172,8 @@ private:
         numira::Currency currency = m_currency;
         if (m_currencyAt) {
             const QString code = record.cells[*m_currencyAt].trimmed();
-            const auto read = readCurrency(code, m_currency);
+            const auto read =
+                code.isEmpty() ? std::optional(m_currency) : readCurrency(code, m_currency);
             if (!read)
                 throw faults::notACurrency(place, code);
             currency = *read;

@@ -49,18 +49,15 @@ namespace faults {
 
 ImportError unknownEncoding(const Place &place, const QString &encoding)
 {
-    return {place, QObject::tr("'%1' is no encoding that is known.").arg(quoted(encoding))};
+    return {place, QObject::tr("'%1' is no encoding that is known; write one like windows-1252 or "
+                               "UTF-16.")
+                       .arg(quoted(encoding))};
 }
 
 ImportError wrongEncoding(const Place &place, const QString &encoding)
 {
     return {place, QObject::tr("This is not valid %1; name the file's encoding with --encoding.")
                        .arg(quoted(encoding))};
-}
-
-ImportError binaryFile(const Place &place)
-{
-    return {place, QObject::tr("This is not text.")};
 }
 
 ImportError lineTooLong(const Place &place, qsizetype charactersMax)
@@ -76,6 +73,13 @@ ImportError tooManyTransactions(const Place &place, qsizetype most)
 ImportError notADate(const Place &place, const QString &text, const QString &format)
 {
     return {place, QObject::tr("'%1' is not a day written as %2.").arg(quoted(text), format)};
+}
+
+ImportError notInDateFormat(const Place &place, const QString &text, const QString &format)
+{
+    return {place, QObject::tr("'%1' is not a day written as %2; name another form with "
+                               "--date-format.")
+                       .arg(quoted(text), format)};
 }
 
 ImportError notANumber(const Place &place, const QString &text)
@@ -111,9 +115,10 @@ ImportError notACurrency(const Place &place, const QString &text)
 
 ImportError unknownDirective(const Place &place, const QString &text)
 {
-    return {place,
-            QObject::tr("'%1' is neither a transaction nor a directive that can be imported.")
-                .arg(quoted(text))};
+    return {place, QObject::tr(
+                       "'%1' is neither a transaction nor a directive that can be imported; a ; at "
+                       "the beginning of the line leaves it out.")
+                       .arg(quoted(text))};
 }
 
 ImportError unsupported(const Place &place, const QString &what)
@@ -151,8 +156,9 @@ ImportError notAnAmount(const Place &place, const QString &text)
 
 ImportError withoutCurrency(const Place &place, const QString &text)
 {
-    return {place,
-            QObject::tr("'%1' has no currency; name one with --currency.").arg(quoted(text))};
+    return {
+        place,
+        QObject::tr("'%1' has no currency; name one with --currency.").arg(quoted(text.trimmed()))};
 }
 
 ImportError notMoney(const Place &place, const QString &commodity)
@@ -226,7 +232,7 @@ ImportError tooManyCells(const Place &place, qsizetype most)
 
 ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted)
 {
-    return {place, QObject::tr("The record has %1 cells where %2 are needed.")
+    return {place, QObject::tr("The record has only %1 of the %2 cells that are needed.")
                        .arg(QString::number(present), QString::number(wanted))};
 }
 
@@ -269,7 +275,7 @@ ImportError ambiguousDates(const Place &place)
 {
     return {place,
             QObject::tr("The days can be read in two ways; name the order with --date-format, "
-                        "like MM/DD/YYYY.")};
+                        "like M/D/YYYY.")};
 }
 
 ImportError otherCurrency(const Place &place, const QString &found, const QString &wanted)
@@ -336,6 +342,12 @@ ImportError notQif(const Place &place)
 ImportError unknownField(const Place &place, const QString &text)
 {
     return {place, QObject::tr("'%1' is no field of a bank statement.").arg(quoted(text))};
+}
+
+ImportError entryCutOff(const Place &place)
+{
+    return {place, QObject::tr("The file ends within an entry; fetch it again, or end it with a "
+                               "line ^.")};
 }
 
 ImportError splitsDiffer(const Place &place, const QString &splits, const QString &whole)

@@ -112,10 +112,11 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
 
 } // namespace
 
-Statement readOfx(const QByteArray &bytes, const QString &file, const QString &account)
+Statement readOfx(const QByteArray &bytes, const QString &file, const QString &account,
+                  const QString &encoding)
 {
-    const OfxElement document =
-        internal::readOfxTree(decoded(bytes, file, encodingOf(bytes)), file);
+    const OfxElement document = internal::readOfxTree(
+        decoded(bytes, file, encoding.isEmpty() ? encodingOf(bytes) : encoding), file);
     std::vector<const OfxElement *> statements;
     findStatements(document, statements);
     if (statements.empty())

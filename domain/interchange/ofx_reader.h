@@ -12,9 +12,11 @@ namespace kiv::interchange {
 ///
 /// `account` chooses one statement by the bank's number of its account; it may
 /// be empty when there is but one. Every tag must be closed as it was opened,
-/// save those that hold a value. Amounts are taken from their text, not by way
-/// of binary numbers. Throws ImportError with the line of what is broken.
+/// save those of SGML that hold a value. Amounts are taken from their text, not
+/// by way of binary numbers. `encoding` goes before the one that the file names;
+/// it may be empty. Throws ImportError with the line of what is broken.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readOfx(const QByteArray &bytes, const QString &file,
-                                                       const QString &account = {});
+                                                       const QString &account = {},
+                                                       const QString &encoding = {});
 
 } // namespace kiv::interchange

@@ -44,7 +44,10 @@ QString plainDate(QString text)
 
 class QifReader {
 public:
-    QifReader(const QString &text, const QString &file) : m_lines(text, file) {}
+    QifReader(const QString &text, const QString &file)
+        : m_lines(text, file), m_endsWithinLine(!text.endsWith(u'\n') && !text.endsWith(u'\r'))
+    {
+    }
 
     std::vector<Record> read()
     {
@@ -59,7 +62,10 @@ public:
             else if (!line.isEmpty() && m_section == Section::Transactions)
                 takeField(line.front(), line.mid(1).trimmed());
         }
-        finish(); // the last mark may be missing
+        // The last mark may be missing, but what ends within a line was cut off there.
+        if (m_record.hasFields && m_endsWithinLine)
+            throw faults::entryCutOff(m_lines.place());
+        finish();
         if (m_section == Section::None)
             throw faults::notQif({m_lines.place().file, 0});
         return std::move(m_records);
@@ -151,6 +157,7 @@ private:
     }
 
     LineCursor m_lines;
+    bool m_endsWithinLine;
     Section m_section = Section::None;
     Record m_record;
     qsizetype m_entries = 0; ///< of the statement: records, and parts of them
@@ -196,7 +203,7 @@ public:
         if (record.date.isEmpty())
             throw faults::missingValue(record.place, QObject::tr("date"));
         if (!day)
-            throw faults::notADate(record.place, record.date, m_format.text());
+            throw faults::notInDateFormat(record.place, record.date, m_format.text());
         if (record.amount.isEmpty())
             throw faults::missingValue(record.place, QObject::tr("amount"));
         entry.date = *day;

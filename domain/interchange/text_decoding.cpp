@@ -66,7 +66,8 @@ QString decoded(const QByteArray &bytes, const QString &file, const QString &enc
     if (text.startsWith(QChar::ByteOrderMark))
         text.remove(0, 1);
     if (const qsizetype zero = text.indexOf(QChar(u'\0')); zero >= 0)
-        throw faults::binaryFile({file, QStringView(text).left(zero).count(u'\n') + 1});
+        throw faults::wrongEncoding({file, QStringView(text).left(zero).count(u'\n') + 1},
+                                    encoding);
     return text;
 }
 

@@ -8,6 +8,7 @@
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QFileInfo>
 #include <QtCore/QList>
+#include <QtCore/QObject>
 #include <QtCore/QThread>
 
 #include <filesystem>
@@ -78,7 +79,7 @@ QList<QByteArray> checkedLines(const QByteArray &text, const QString &path)
     const qsizetype digestAt = text.lastIndexOf(digestWord);
     const QByteArray content = text.left(digestAt);
     if (text != content + digestWord.toByteArray() + digestOf(content) + '\n')
-        throw ContentFault("The checksum is wrong.");
+        throw ContentFault(QObject::tr("The checksum is wrong."));
     QList<QByteArray> lines = content.split('\n');
     lines.removeFirst();
     lines.removeLast(); // what is behind the last line break: nothing

@@ -165,7 +165,14 @@ private slots:
         row("the wrong encoding", "Date,Amount,Text\n2026-01-05,1,caf\xe9\n", "{}",
             "'f', line 2: This is not valid UTF-8; name the file's encoding with --encoding.");
         row("an unknown encoding", "x", "{'encoding':'klingon'}",
-            "'f': 'klingon' is no encoding that is known.");
+            "'f': 'klingon' is no encoding that is known; write one like windows-1252 or UTF-16.");
+        row("no encoding", "x", "{'encoding':''}",
+            "'f': '' is no encoding that is known; write one like windows-1252 or UTF-16.");
+        row("two bytes a letter", QByteArray("D\0a\0", 4), "{}",
+            "'f', line 1: This is not valid UTF-8; name the file's encoding with --encoding.");
+        row("a column of currencies that nobody named",
+            "Date,Amount,Text,Currency\n2026-01-05,5,x,\n2026-01-05,5,y,USD\n", "{}",
+            "2026-01-05 5.00 EUR|x||\n2026-01-05 5.00 USD|y||");
         row("a quote without an end", "Date,Amount,Text\n2026-01-05,1,\"x\n", "{}",
             "'f', line 2: A quote begins here and does not end.");
         row("an escaped quote at the end", "Date,Amount,Text\n2026-01-05,1,\"x\"\"", "{}",
@@ -183,9 +190,11 @@ private slots:
         row("more records than transactions", QByteArray("x\n").repeated(65'537), "{}",
             "'f', line 65537: A budget holds no more than 65535 transactions.");
         row("a column that nobody named", "Date,Text\n", "{}",
-            "'f', line 1: Say with --amount-column which column it is, of: Date, Text.");
+            "'f', line 1: Say with --amount-column (or --in-column and --out-column) which column "
+            "it "
+            "is, of: Date, Text.");
         row("a short record", "Date,Text,Amount\n2026-01-05,x\n", "{}",
-            "'f', line 2: The record has 2 cells where 3 are needed.");
+            "'f', line 2: The record has only 2 of the 3 cells that are needed.");
         row("a comma that divides an amount", "Date,Text,Amount\n2026-01-05,x,1,50\n", "{}",
             "'f', line 2: The record has 4 cells where there are 3 headings; a cell that holds the "
             "delimiter needs quotes around it.");
@@ -196,7 +205,8 @@ private slots:
             "'p': 'YYYY-MM-DD DD' is no way to write days; put one together from YYYY, MM and DD, "
             "like DD.MM.YYYY.");
         row("another order of the day", "Date,Text,Amount\n01/05/2026,x,1\n", "{}",
-            "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD.");
+            "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD; name another form with "
+            "--date-format.");
         row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{}",
             "'f', line 2: '1.234' has more digits behind the decimal mark than the 2 of EUR.");
         row("both ways", "Date,Text,In,Out\n2026-01-05,x,1,2\n", "{'in':'In','out':'Out'}",
@@ -278,10 +288,10 @@ private slots:
         const QByteArray good = ofxEntry("-12.34", "a1", "Fish &amp; Chips AT&T caf\xe9");
         row("a value without an end, entities, Windows' letters", good,
             "2026-01-05 -12.34 USD|Fish & Chips AT&T café|a1|");
-        row("closed values and an empty one",
+        row("closed values and an empty one, letters by their numbers",
             "<STMTTRN><TRNTYPE>X</TRNTYPE>\n<DTPOSTED>20260105</DTPOSTED><TRNAMT>+1,5</TRNAMT>"
-            "<MEMO>\n<NAME>n</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
-            "2026-01-05 1.50 USD|n||");
+            "<MEMO>\n<NAME>n&#252;&#x20AC;&#0;</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
+            "2026-01-05 1.50 USD|nü€&#0;||");
         row("comments and plain sections",
             "<!-- a > b --><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1,000.5</TRNAMT><NAME>"
             "<![CDATA[A & <B>]]></NAME></STMTTRN>\n",
@@ -344,6 +354,20 @@ private slots:
             u"'f', line 2: There are several statements; choose one with --statement: 1, 2."_s);
         QCOMPARE(refusal(two, u"3"_s), u"'f': There is no statement of '3', but of: 1, 2."_s);
         QCOMPARE(readOfx(two, u"f"_s, u"2"_s).currency, numira::toCurrency("EUR"));
+        for (const char *header : {"ENCODING:UTF-8\nCHARSET:1252\n", "CHARSET:NONE\n"})
+            QCOMPARE(refusal(header + QByteArray(two).replace("2<", "\u00e9<"), u"3"_s),
+                     u"'f': There is no statement of '3', but of: 1, \u00e9."_s);
+        // XML asks for each end, and has what SGML leaves out.
+        const QByteArray xml =
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<OFX><STMTRS><CURDEF>USD"
+            "</CURDEF>\n<BANKTRANLIST><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1"
+            "</TRNAMT><NAME>caf\xe9</NAME></STMTTRN></BANKTRANLIST></STMTRS></OFX>";
+        QCOMPARE(refusal(QByteArray(xml).replace("</TRNAMT>", "").replace("\xe9", "e")),
+                 u"'f', line 3: <TRNAMT> is not closed."_s);
+        QVERIFY(refusal(xml).contains(u"--encoding"));
+        QVERIFY(refusal(QByteArray(xml).replace("UTF-8", "ISO-8859-1")).endsWith(u"café||"));
+        QCOMPARE(linesOf(readOfx(xml, u"f"_s, {}, u"windows-1252"_s)),
+                 u"2026-01-05 1.00 USD|café||"_s);
         QCOMPARE(refusal(QByteArray("<OFX>").repeated(40)),
                  u"'f', line 1: Tags are nested too deeply."_s);
     }
@@ -402,7 +426,7 @@ private slots:
         row("days that could be either", "!Type:Bank\nD1/2/2026\nT1\n^\n",
             "'f', line 2: The days can be read in two ways; name the order with --date-format, "
             "like "
-            "MM/DD/YYYY.");
+            "M/D/YYYY.");
         row("parts that are not the whole", "!Type:Bank\nD1/25/2026\nT3\nSa\n$1\nSb\n$1\n^\n",
             "'f', line 2: The parts come to 2.00 and the whole to 3.00.");
         row("no header", "D1/2/2026\n",
@@ -419,9 +443,12 @@ private slots:
             "imported.");
         row("an unknown field", "!Type:Bank\nD1/25/2026\nQx\n",
             "'f', line 3: 'Qx' is no field of a bank statement.");
+        row("an end within a line", "!Type:Bank\nD1/25/2026\nT-1",
+            "'f', line 3: The file ends within an entry; fetch it again, or end it with a line ^.");
         row("no amount", "!Type:Bank\nD1/25/2026\n^\n", "'f', line 2: The entry has no amount.");
         row("no such day", "!Type:Bank\nD30/30/2026\nT1\n^\n",
-            "'f', line 2: '30/30/2026' is not a day written as M/D/YYYY.");
+            "'f', line 2: '30/30/2026' is not a day written as M/D/YYYY; name another form with "
+            "--date-format.");
     }
     void qifRecords()
     {

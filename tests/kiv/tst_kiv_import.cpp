@@ -148,7 +148,7 @@ private slots:
         row("an unknown directive", "s.journal",
             "2026-01-01 x\n Assets:A  $1\n Income:B\nbucket Assets:A\n", "", 1,
             "'s.journal', line 4: 'bucket Assets:A' is neither a transaction nor a directive that "
-            "can be imported.\n");
+            "can be imported; a ; at the beginning of the line leaves it out.\n");
         row("an unknown root", "s.journal", "2026-01-01 x\n A  $1\n B\n", "", 1,
             "'s.journal', line 2: Accounts begin with Assets, Liabilities, Equity, Income or "
             "Expenses; tell what 'A' is with --root, like --root 'A=asset'.\n");
@@ -202,7 +202,8 @@ private slots:
         timer.start();
         const Ended ended = home.run("import large.journal");
         QCOMPARE(ended.status, 1);
-        QVERIFY2(ended.err.contains("it is larger than 64 MiB"), ended.err.constData());
+        QVERIFY2(ended.err.contains("larger than 64 MiB, which line 1 exceeds; split it"),
+                 ended.err.constData());
         QVERIFY(timer.elapsed() < 20'000);
     }
 
@@ -267,6 +268,7 @@ private slots:
         for (const QString &line : QString::fromUtf8(chart).split(u'\n'))
             QVERIFY2(line.size() <= 80, qPrintable(line));
         QCOMPARE(home.run("report --from 2026-02-01 --to 2026-01-01").status, 1);
+        QCOMPARE(home.run("report --html --chart").status, 2);
     }
 };
 

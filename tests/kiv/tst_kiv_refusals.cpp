@@ -58,6 +58,7 @@ private slots:
             "did you mean 'teenager'?");
         row("a slip in a currency", "bill add Gym 12_UDS", 2, "did you mean 'USD', 'UZS'?");
         row("a currency by its name", "rates set euros USD=1", 2, "did you mean 'EUR'?");
+        row("a rate that is none", "rates set USD EUR=abc", 2, "write one like EUR=0.92.");
         row("no command", "", 2, "A command is missing");
         row("half a command", "bank", 2, "A command is missing");
         row("a negative bill", "bill add Gym -- -12", 1, "amount");

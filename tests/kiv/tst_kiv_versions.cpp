@@ -101,6 +101,12 @@ private slots:
         home.write(home.path("household.budget.backup-1"), home.bytes().chopped(100));
         QVERIFY(refused("undo", 1, "is not whole"));
         QVERIFY(home.run("history").out.contains("not whole"));
+        // So is the file itself; what to do then is said.
+        const QByteArray whole = home.bytes();
+        home.write(home.file(), whole.chopped(100));
+        QVERIFY(refused("undo", 1, "kiv history tells which former version is whole; copy"));
+        QCOMPARE(home.run("history").out.count("not whole"), 2);
+        home.write(home.file(), whole);
     }
 
     void aShellUndoesInMemoryAndInTheFile()

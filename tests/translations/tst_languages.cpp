@@ -59,6 +59,7 @@ private slots:
                                     "bill add Rent 850.00 --next 2026-03-01",
                                     "wage add Salary 1500.10 --next 2026-03-02"}));
         m_household.write(m_household.path("zero.csv"), "date,amount,text\n2026-02-01,0,x\n");
+        m_household.write(m_household.path("short.budget"), "SQLite format 3");
     }
 
     void saysItInTheUsersWords_data()
@@ -86,6 +87,8 @@ private slots:
         row("Spanish help", spanish, "bill add --help", u"Uso:"_s);
         row("German misuse", german, "bill add", u"NAME"_s);
         row("a German sentence in JSON", german, "check --json", u"einer bekannten Version"_s);
+        row("a German sum", german, "check", u"1.234,56\u00a0EUR"_s);
+        row("a German cause", german, "accounts --file short", u"Ihr Kopf ist nicht heil."_s);
         row("a German plural", german, "due --date 2026-02-27", u"in 2 Tagen"_s);
         row("a German singular", german, "due --date 2026-03-02", u"1 Tag überfällig"_s);
         row("a Spanish plural", spanish, "due --date 2026-02-26", u"en 3 días"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/command_group.h"
 
+#include "errors.h"
 #include "program.h"
 
 #include <CLI/CLI.hpp>
@@ -19,6 +20,15 @@ CLI::App *addTo(CLI::App &above, const char *name, const QString &help)
 }
 
 } // namespace
+
+QString Call::fileNamed() const
+{
+    for (const QString &path : {options.file, session.file(), qEnvironmentVariable("KIV_FILE")}) {
+        if (!path.isEmpty())
+            return path;
+    }
+    throw noFileNamed();
+}
 
 CommandGroup CommandGroup::group(const char *name, const QString &help)
 {

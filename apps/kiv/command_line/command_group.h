@@ -28,6 +28,9 @@ struct Call {
 
     /// The day that stands for today.
     [[nodiscard]] QDate date() const { return options.date.value_or(foundation::today()); }
+    /// The budget file that is named, open, or in the variable, in this order, for
+    /// commands that open none. Throws a UsageError when there is none.
+    [[nodiscard]] QString fileNamed() const;
 };
 
 /// A place in the tree of commands where commands are added. A command is a

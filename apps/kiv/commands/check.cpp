@@ -2,6 +2,7 @@
 // check
 #include "commands/commands.h"
 
+#include "output/json.h"
 #include "program.h"
 
 #include "foundation/presentation.h"
@@ -82,8 +83,8 @@ std::vector<Told> judgeSums(const std::optional<BudgetStorage::Data> &data)
     }
     balances.verdict = balances.reasons.isEmpty() ? Verdict::Kept : Verdict::Broken;
     sides.verdict = debits == credits ? Verdict::Kept : Verdict::Broken;
-    for (const auto &[currency, sum] : debits)
-        sides.reasons += foundation::toQString(sum) + u' ' + foundation::toQString(currency);
+    for (const auto &[_, sum] : debits)
+        sides.reasons += amountText(toJson(sum), navigation::CurrencyDisplayOptions::IsoCode);
     return {balances, sides};
 }
 
@@ -158,13 +159,7 @@ private:
     /// The file that is meant: a backup has no extension of its own.
     [[nodiscard]] QString named(const Call &call) const
     {
-        QString path = file.isEmpty() ? call.options.file : file;
-        if (path.isEmpty())
-            path = call.session.file();
-        if (path.isEmpty())
-            path = qEnvironmentVariable("KIV_FILE");
-        if (path.isEmpty())
-            throw noFileNamed();
+        const QString path = file.isEmpty() ? call.fileNamed() : file;
         return QFileInfo(path).isFile() ? path : Session::withExtension(path);
     }
 };

@@ -78,7 +78,8 @@ void ImportOptions::declare(Arguments &arguments)
 {
     arguments.required("FILE", file, QObject::tr("The file; - for standard input"))
         .optional("--format", format, QObject::tr("journal, csv, ofx or qif; guessed otherwise"))
-        .optional("--encoding", m_encoding, QObject::tr("The file's encoding; UTF-8 otherwise"))
+        .optional("--encoding", m_encoding,
+                  QObject::tr("The file's encoding; else the one that it names, or UTF-8"))
         .optional("--decimal", m_decimal, QObject::tr("The decimal mark: . or ,"))
         .optional("--date-format", m_dateFormat,
                   QObject::tr("How days are written, like DD.MM.YYYY"))

@@ -32,6 +32,8 @@ struct ImportOptions {
     [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
                                               const numira::Currency &currency) const;
     [[nodiscard]] const QString &statement() const noexcept { return m_statement; }
+    /// Empty when none is given.
+    [[nodiscard]] QString encoding() const { return m_encoding.value_or(QString()); }
 
 private:
     [[nodiscard]] std::optional<interchange::DecimalMark> decimal() const;

@@ -91,15 +91,11 @@ private:
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
         const interchange::Statement statement = [&] {
-            switch (format) {
-            case ImportFormat::Ofx:
-                return interchange::readOfx(bytes, options.file, options.statement());
-            case ImportFormat::Qif:
+            if (format == ImportFormat::Ofx)
+                return interchange::readOfx(bytes, options.file, options.statement(),
+                                            options.encoding());
+            if (format == ImportFormat::Qif)
                 return interchange::readQif(bytes, options.file, options.qif(profile, currency));
-            case ImportFormat::Csv:
-            case ImportFormat::Journal:
-                break;
-            }
             return interchange::readCsvStatement(bytes, options.file, profile, currency);
         }();
 

@@ -31,7 +31,7 @@ void readValue(const std::string &text, RateArgument &value)
     const QString word = QString::fromStdString(text);
     const QRegularExpressionMatch match = form.match(word);
     if (!match.hasMatch())
-        throw notAnAssignment(word);
+        throw notARate(word);
     app::readValue(match.captured(1).toStdString(), value.currency);
     value.rate = numira::FloatingPoint(match.captured(2).toStdString());
 }

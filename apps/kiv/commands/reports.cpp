@@ -86,6 +86,8 @@ struct ShowReport {
 
     Report run(Call &call) const
     {
+        if (isHtml && hasCharts)
+            throw contradiction(QStringLiteral("--html"), QStringLiteral("--chart"));
         const QDate last = to.value_or(call.date());
         const interchange::Period period(from.value_or(last.addMonths(-11)), last);
         const AccountIndex index = call.session.accounts();

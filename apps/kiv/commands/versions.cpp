@@ -80,12 +80,13 @@ struct Undo {
     }
 };
 
+// What tells of versions opens none, so that a damaged one is no hindrance.
 struct History {
-    void declare(Arguments &) {}
+    void declare(Arguments &arguments) { arguments.file(); }
     Report run(Call &call) const
     {
         QJsonArray rows;
-        for (const Version &version : versionsOf(call.session.file()))
+        for (const Version &version : versionsOf(Session::withExtension(call.fileNamed())))
             rows.append(toJson(version));
         const auto time = [](const QJsonValue &value) {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
@@ -114,11 +115,12 @@ struct Differences {
         arguments
             .optional("FROM", from,
                       QObject::tr("A version; the one before the last save otherwise"))
-            .optional("TO", to, QObject::tr("A version; the file as it is otherwise"));
+            .optional("TO", to, QObject::tr("A version; the file as it is otherwise"))
+            .file();
     }
     Report run(Call &call) const
     {
-        const QString file = call.session.file();
+        const QString file = Session::withExtension(call.fileNamed());
         const Version before = versionOf(file, from.value);
         const Version after = versionOf(file, to.value);
         const QJsonArray changes = changesBetween(before.data(), after.data());
@@ -135,9 +137,9 @@ void addVersionCommands(CommandGroup &root)
     using enum CommandKind;
     root.add("undo", QObject::tr("Bring the budget back as it was before the last saved change"),
              Change, Undo{});
-    root.add("history", QObject::tr("List the former versions of the budget that are kept"), Query,
-             History{})
-        .add("diff", QObject::tr("Tell what changed from one version to another"), Query,
+    root.add("history", QObject::tr("List the former versions of the budget that are kept"),
+             Standalone, History{})
+        .add("diff", QObject::tr("Tell what changed from one version to another"), Standalone,
              Differences{});
 }
 

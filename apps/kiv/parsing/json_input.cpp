@@ -75,12 +75,7 @@ QByteArray readInput(const QString &path)
         path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen)
         throw cannotRead(path, file.errorString());
-    const auto refuseLarge = [&path](qint64 size) {
-        if (size > bytesMax)
-            throw cannotRead(path, QObject::tr("it is larger than 64 MiB"));
-    };
-    refuseLarge(file.isSequential() ? 0 : file.size());
-    // Asked for at once, an endless pipe would fill the memory.
+    // Asked for at once, a huge file or an endless pipe would fill the memory.
     QByteArray bytes;
     for (QByteArray part; bytes.size() <= bytesMax; bytes += part) {
         // A pipe gives what is there, and nothing only at its end.
@@ -90,7 +85,12 @@ QByteArray readInput(const QString &path)
     }
     if (file.error() != QFileDevice::NoError)
         throw cannotRead(path, file.errorString());
-    refuseLarge(bytes.size());
+    if (bytes.size() > bytesMax) {
+        const qsizetype line = bytes.count('\n') + 1;
+        throw cannotRead(path, QObject::tr("it is larger than 64 MiB, which line %1 exceeds; split "
+                                           "it into smaller files")
+                                   .arg(line));
+    }
     return bytes;
 }
 

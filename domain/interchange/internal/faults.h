@@ -15,10 +15,12 @@ namespace faults {
 
 [[nodiscard]] ImportError unknownEncoding(const Place &place, const QString &encoding);
 [[nodiscard]] ImportError wrongEncoding(const Place &place, const QString &encoding);
-[[nodiscard]] ImportError binaryFile(const Place &place);
 [[nodiscard]] ImportError lineTooLong(const Place &place, qsizetype charactersMax);
 [[nodiscard]] ImportError tooManyTransactions(const Place &place, qsizetype most);
 [[nodiscard]] ImportError notADate(const Place &place, const QString &text, const QString &format);
+/// A day of a file whose form the user can name.
+[[nodiscard]] ImportError notInDateFormat(const Place &place, const QString &text,
+                                          const QString &format);
 [[nodiscard]] ImportError notANumber(const Place &place, const QString &text);
 [[nodiscard]] ImportError ambiguousNumber(const Place &place, const QString &text);
 [[nodiscard]] ImportError tooLarge(const Place &place, const std::exception &cause);
@@ -77,6 +79,7 @@ namespace faults {
                                           const QStringList &accounts);
 [[nodiscard]] ImportError notQif(const Place &place);
 [[nodiscard]] ImportError unknownField(const Place &place, const QString &text);
+[[nodiscard]] ImportError entryCutOff(const Place &place);
 [[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,
                                        const QString &whole);
 

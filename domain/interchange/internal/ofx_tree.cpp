@@ -5,6 +5,7 @@
 
 #include "interchange/internal/faults.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -18,10 +19,33 @@ constexpr std::size_t depthMax = 32;
 /// A transaction has about ten.
 constexpr qsizetype elementsMax = 16 * transactionsMax;
 
+/// A letter by its number, "&#252;" or "&#xFC;"; what is none, or a control
+/// character, is left as it is.
+void replaceNumbers(QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("&#(?:x([0-9A-Fa-f]{1,6})|([0-9]{1,7}));"));
+    for (qsizetype from = 0;;) {
+        const QRegularExpressionMatch match = form.match(text, from);
+        if (!match.hasMatch())
+            return;
+        const bool isHexadecimal = match.hasCaptured(1);
+        const char32_t letter =
+            isHexadecimal ? match.captured(1).toUInt(nullptr, 16) : match.captured(2).toUInt();
+        from = match.capturedEnd();
+        if (letter > QChar::LastValidCodePoint || !QChar::isPrint(letter))
+            continue;
+        const QString written = QString::fromUcs4(&letter, 1);
+        text.replace(match.capturedStart(), match.capturedLength(), written);
+        from = match.capturedStart() + written.size();
+    }
+}
+
 /// The characters that entities stand for. What begins with an ampersand and is
 /// no entity is left as it is, since banks write names so.
 QString withoutEntities(QString text)
 {
+    if (text.contains(u'&'))
+        replaceNumbers(text);
     static const std::pair<QString, QString> entities[]{
         {QStringLiteral("&lt;"), QStringLiteral("<")},
         {QStringLiteral("&gt;"), QStringLiteral(">")},
@@ -56,6 +80,8 @@ public:
         advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
         if (m_at < 0)
             throw faults::notOfx({m_place.file, 0});
+        const QStringView header = QStringView(m_text).left(m_at);
+        m_isXml = header.contains(u"<?xml") || header.contains(u"<?OFX");
         while (m_at < m_text.size() && !m_root) {
             takeTag();
             takeValue();
@@ -120,7 +146,7 @@ private:
     void open(const QString &tag)
     {
         if (!m_open.empty() && isValueTag(m_open.back().tag))
-            finish();
+            finishUnclosed();
         if (++m_count > elementsMax)
             throw faults::tooManyTransactions(m_place, transactionsMax);
         if (m_open.size() >= depthMax)
@@ -141,9 +167,12 @@ private:
             element.value += withoutEntities(value);
             advanceTo(end);
             const QString closing = QStringLiteral("</%1>").arg(element.tag);
-            if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive))
+            if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive)) {
                 advanceTo(m_at + closing.size());
-            finish();
+                finish();
+            } else {
+                finishUnclosed();
+            }
             takeValue();
             return;
         }
@@ -154,11 +183,20 @@ private:
     void close(const QString &tag)
     {
         // A tag before it that holds nothing is a value that is empty.
-        while (m_open.back().tag != tag && m_open.back().children.empty() && m_open.size() > 1)
+        while (!m_isXml && m_open.back().tag != tag && m_open.back().children.empty() &&
+               m_open.size() > 1)
             finish();
         if (m_open.back().tag != tag)
             throw faults::wrongClosingTag(m_place, tag, m_open.back().tag,
                                           m_open.back().place.line);
+        finish();
+    }
+
+    /// SGML leaves the end of a value out, XML does not.
+    void finishUnclosed()
+    {
+        if (m_isXml)
+            throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
         finish();
     }
 
@@ -176,6 +214,7 @@ private:
     Place m_place;
     qsizetype m_at = 0;
     qsizetype m_count = 0;
+    bool m_isXml = false;
     std::vector<OfxElement> m_open;
     std::optional<OfxElement> m_root;
 };

@@ -6,6 +6,7 @@
 #include "storage/internal/ledger_rows.h"
 #include "storage/internal/mending.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QtEndian>
 
 #include <sqlite3.h>
@@ -56,7 +57,7 @@ void checkSeal(const ImageDatabase &database, Seal &seal)
     const bool isThere = select.step();
     const auto *text = isThere ? sqlite3_column_text(select.get(), 0) : nullptr;
     if (!text || QByteArrayView(text, sqlite3_column_bytes(select.get(), 0)) != seal.result())
-        throw ContentFault("The checksum is wrong.");
+        throw ContentFault(QObject::tr("The checksum is wrong."));
 }
 
 /// Writes or reads all tables in their order: what stands in one may be needed
@@ -121,7 +122,7 @@ void requireBudget(FileKind kind, const QString &path)
     case FileKind::Newer:
         throw newerVersion(path);
     case FileKind::Malformed:
-        throw damaged(path, ContentFault("Its header is not whole."));
+        throw damaged(path, ContentFault(QObject::tr("Its header is not whole.")));
     case FileKind::Budget:
         break;
     }
@@ -152,7 +153,7 @@ Image encodeBudget(const BudgetStorage::Data &data)
     writeSeal(database, seal);
     Image image = database.serialised();
     if (image.bytes().size() > fileSizeMax)
-        throw ContentFault("There is more than a file may hold.");
+        throw ContentFault(QObject::tr("There is more than a file may hold."));
     return image;
 }
 

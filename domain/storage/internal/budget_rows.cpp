@@ -3,6 +3,8 @@
 
 #include "storage/internal/errors.h"
 
+#include <QtCore/QObject>
+
 #include <array>
 #include <charconv>
 #include <limits>
@@ -315,7 +317,7 @@ surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &sea
     if (surveys.size() != rows.size() ||
         !std::ranges::all_of(distributions,
                              [&](const auto &entry) { return rows.contains(entry.first); }))
-        throw ContentFault("The surveys do not fit together.");
+        throw ContentFault(QObject::tr("The surveys do not fit together."));
     return surveys;
 }
 

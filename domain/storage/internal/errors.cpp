@@ -5,6 +5,7 @@
 
 namespace kiv::storage::internal {
 
+ContentFault::ContentFault(const QString &what) : ContentFault(what.toStdString()) {}
 ContentFault::ContentFault(const std::string &what) : std::runtime_error(what) {}
 ContentFault::ContentFault(const ContentFault &) noexcept = default;
 ContentFault::~ContentFault() = default;

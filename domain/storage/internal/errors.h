@@ -13,6 +13,10 @@ namespace kiv::storage::internal {
 /// cause of the error that the user sees.
 class ContentFault final : public std::runtime_error {
 public:
+    /// In the user's language.
+    explicit ContentFault(const QString &what);
+    /// Names of tables, numbers of rows and the database's own words, for those who
+    /// look into the file.
     explicit ContentFault(const std::string &what);
     ContentFault(const ContentFault &) noexcept;
     ~ContentFault() override;

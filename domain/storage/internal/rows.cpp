@@ -7,6 +7,8 @@
 
 #include "numira/error.h"
 
+#include <QtCore/QObject>
+
 #include <sqlite3.h>
 
 #include <limits>
@@ -90,7 +92,7 @@ void RowWriter::endRow()
     if (std::exchange(m_column, 0) != static_cast<int>(m_texts.size()))
         throw std::logic_error("A row was not written whole.");
     if (++m_rows > rowsMax)
-        throw ContentFault("There are too many rows.");
+        throw ContentFault(QObject::tr("There are too many rows."));
     m_insert.step();
     m_insert.reset();
     m_seal.endRow();
@@ -99,7 +101,7 @@ void RowWriter::endRow()
 RowWriter &RowWriter::bytes(QByteArray bytes)
 {
     if (bytes.size() > textSizeMax)
-        throw ContentFault("A text is too long.");
+        throw ContentFault(QObject::tr("A text is too long."));
     m_seal.text(bytes);
     QByteArray &kept = m_texts.at(static_cast<std::size_t>(m_column));
     kept = std::move(bytes);
