@@ -192,7 +192,8 @@ private slots:
             const QByteArrayList lines = directive.split('\n');
             row(directive, "\n" + lines.join("\n  "),
                 "'j', line " + QByteArray::number(lines.size() + 1) + ": '" + lines.back() +
-                    "' is neither a transaction nor a directive that can be imported.");
+                    "' is neither a transaction nor a directive that can be imported; a ; at the "
+                    "beginning of the line leaves it out.");
         }
         for (const QByteArray query : {"= desc:Job", "= /A/ and /B/", "= 'Assets:A'"})
             row(query, query + "\n (Assets:B)  1\n", "'j', line 1: '" + query + unsupported);
@@ -232,7 +233,7 @@ private slots:
             "it "
             "is with --commodity, like --commodity 'AAPL=USD'.");
         row("no currency at all", "2026-01-01 x\n Assets:A  1\n Assets:B\n",
-            "'j', line 2: '1 ' has no currency; name one with --currency.");
+            "'j', line 2: '1' has no currency; name one with --currency.");
         row("a comma that could be either", "2026-01-01 x\n Assets:A  $1,234\n Assets:B\n",
             "'j', line 2: '1,234' can be read in two ways; name the decimal mark with --decimal.");
         row("a sample with more behind it", "commodity $1000.00 x\n",
@@ -246,7 +247,7 @@ private slots:
         row("a virtual posting of nothing", "2026-01-01 x\n (Assets:A)\n",
             "'j', line 2: The entry has no amount.");
         row("an assertion without a currency", "2026-01-01 x\n Assets:A  $1 = 0\n Assets:B\n",
-            "'j', line 2: '0 ' has no currency; name one with --currency.");
+            "'j', line 2: '0' has no currency; name one with --currency.");
         row("a quote without an end", "2026-01-01 x\n Assets:A  1 \"x\n",
             "'j', line 2: '\"x' begins here and does not end.");
         row("an assertion", "2026-01-01 x\n Assets:A  $1 = $2\n Assets:B\n",
@@ -290,7 +291,8 @@ private slots:
         QFETCH(QString, message);
         if (message.isEmpty()) {
             journal = QByteArray("; a\n; b\0c", 8);
-            message = u"'j', line 2: This is not text."_s;
+            message =
+                u"'j', line 2: This is not valid UTF-8; name the file's encoding with --encoding."_s;
         }
         try {
             (void)readJournal(journal, u"j"_s, options());
