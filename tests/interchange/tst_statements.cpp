@@ -290,8 +290,8 @@ private slots:
             "2026-01-05 -12.34 USD|Fish & Chips AT&T café|a1|");
         row("closed values and an empty one, letters by their numbers",
             "<STMTTRN><TRNTYPE>X</TRNTYPE>\n<DTPOSTED>20260105</DTPOSTED><TRNAMT>+1,5</TRNAMT>"
-            "<MEMO>\n<NAME>n&#252;&#x20AC;&#0;</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
-            "2026-01-05 1.50 USD|nü€&#0;||");
+            "<MEMO>\n<NAME>n&#252;&#x20AC;&#0;&#x110000;</NAME><CHECKNUM></CHECKNUM></STMTTRN>\n",
+            "2026-01-05 1.50 USD|nü€&#0;&#x110000;||");
         row("comments and plain sections",
             "<!-- a > b --><STMTTRN><DTPOSTED>20260105</DTPOSTED><TRNAMT>1,000.5</TRNAMT><NAME>"
             "<![CDATA[A & <B>]]></NAME></STMTTRN>\n",

@@ -80,8 +80,8 @@ public:
         advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
         if (m_at < 0)
             throw faults::notOfx({m_place.file, 0});
-        const QStringView header = QStringView(m_text).left(m_at);
-        m_isXml = header.contains(u"<?xml") || header.contains(u"<?OFX");
+        // Only the header of OFX 2 has instructions: "<?xml", "<?OFX".
+        m_isXml = QStringView(m_text).left(m_at).contains(u"<?");
         while (m_at < m_text.size() && !m_root) {
             takeTag();
             takeValue();
