@@ -144,7 +144,7 @@ private slots:
             "account A  ; type: Liability",
             "");
         row("directives and remarks that change nothing, and a day of their year",
-            "  ; by itself\ntest\nx\nend test\npayee Shop\ntag trip\nN $\n"
+            "  ; by itself\ntest\nx\nend test\npayee Shop\n  ; x\ntag trip\nN $\n"
             "account Assets:A  ; of mine\n  note x\n  payee y\n  default\n"
             "commodity \"A 1\"\n  format 1.000,00 \"A 1\"\n  nomarket\n  default\n  ; x\n"
             "commodity JPY 1.000.000\ncommodity 1000 KRW\ncommodity 1,000 BHD\n"
@@ -187,8 +187,9 @@ private slots:
         };
         const QByteArray unsupported = "' cannot be imported.";
         for (const QByteArray directive :
-             {"bucket Assets:A", "account Assets:A\nalias A", "commodity EUR\nalias E", "Y 26",
-              "decimal-mark x", "end tag", "end x", "apply account A"}) {
+             {"bucket Assets:A", "account Assets:A\nalias A", "commodity EUR\nalias E",
+              "payee A\nalias B", "Y 26", "decimal-mark x", "end tag", "end x",
+              "apply account A"}) {
             const QByteArrayList lines = directive.split('\n');
             row(directive, "\n" + lines.join("\n  "),
                 "'j', line " + QByteArray::number(lines.size() + 1) + ": '" + lines.back() +

@@ -174,8 +174,13 @@ void JournalParser::takeDirective(const Block &block)
         m_settings.amounts.mark = static_cast<DecimalMark>(rest.front().unicode());
     } else if (ofYear.hasMatch()) {
         m_settings.year = ofYear.captured(1).toInt();
-    } else if (word != u"payee" && word != u"tag" && word != u"N") {
-        // Those three only declare what may be written.
+    } else if (word == u"payee" || word == u"tag" || word == u"N") {
+        // They only declare what may be written, unless an alias stands below.
+        for (const auto &[place, line] : block.lines) {
+            if (!isRemark(line))
+                throw faults::unknownDirective(place, line);
+        }
+    } else {
         throw faults::unknownDirective(block.place, block.head);
     }
 }
