@@ -24,6 +24,12 @@ QString safeName(const Account &account)
     return name.isEmpty() ? accounting::presentationText(account.code().number()) : name;
 }
 
+/// No account's number when there is none.
+AccountNumber parentOf(const Account &account)
+{
+    return account.code().parent().value_or(AccountNumber());
+}
+
 std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
 {
     std::map<AccountNumber, QString> names;
@@ -36,8 +42,8 @@ std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
         isUnique = true;
         std::map<std::tuple<QString, AccountNumber, QString>, std::vector<AccountNumber>> groups;
         for (const auto &[number, account] : accounts) {
-            const auto parent = account->code().parent().value_or(AccountNumber());
-            groups[{rootOf(account->type()), parent, names.at(number)}].push_back(number);
+            groups[{rootOf(account->type()), parentOf(*account), names.at(number)}].push_back(
+                number);
         }
         for (const auto &[key, numbers] : groups) {
             if (numbers.size() < 2)
@@ -86,10 +92,10 @@ std::map<AccountNumber, QString> accountPaths(const std::set<Account> &accounts)
     std::map<AccountNumber, QString> paths;
     for (const auto &[number, account] : byNumber) {
         QString path = names.at(number);
-        auto parent = account->code().parent();
-        while (parent) {
-            path = names.at(*parent) + u':' + path;
-            parent = byNumber.at(*parent)->code().parent();
+        AccountNumber above = parentOf(*account);
+        while (above != AccountNumber()) {
+            path = names.at(above) + u':' + path;
+            above = parentOf(*byNumber.at(above));
         }
         paths.emplace(number, rootOf(account->type()) + u':' + path);
     }

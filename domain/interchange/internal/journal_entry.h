@@ -3,6 +3,8 @@
 
 #include "interchange/journal_reader.h"
 
+#include <stdexcept>
+
 /// The parts of a journal as they are written, before they are balanced.
 namespace kiv::interchange::internal {
 
@@ -29,7 +31,12 @@ struct Posting {
     QStringList comments = {};
 
     /// The amount, once a posting without one has got it from the others.
-    [[nodiscard]] const Quantity &known() const { return amount.value(); }
+    [[nodiscard]] const Quantity &known() const
+    {
+        if (!amount)
+            throw std::logic_error("A posting's amount is asked for before it is known.");
+        return *amount;
+    }
     /// What it adds to the balance of its transaction.
     [[nodiscard]] const Quantity &weight() const { return cost ? *cost : known(); }
 };

@@ -44,7 +44,7 @@ QString takeComment(QString &text)
     const qsizetype at = text.indexOf(u';');
     if (at < 0)
         return {};
-    const QString comment = text.mid(at + 1).trimmed();
+    QString comment = text.mid(at + 1).trimmed();
     text = text.left(at).trimmed();
     return comment;
 }
@@ -82,7 +82,7 @@ QString takeAccountName(QStringView &rest)
     while (end < rest.size() && rest[end] != u'\t' &&
            !(rest[end] == u' ' && rest[end + 1].isSpace())) // no line ends with a blank
         ++end;
-    const QString name = rest.first(end).toString().simplified();
+    QString name = rest.first(end).toString().simplified();
     rest = rest.sliced(end);
     skipBlanks(rest);
     return name;
@@ -401,7 +401,7 @@ void JournalParser::readCost(QStringView &rest, Posting &posting) const
     Quantity price = m_quantities.read(rest, posting.place);
     if (price.number.sign() < 0)
         throw faults::unsupported(posting.place, whole);
-    const numira::Decimal &amount = posting.amount->number;
+    const numira::Decimal &amount = posting.known().number;
     if (!isTotal)
         price.number = amount * price.number;
     else if (amount.sign() < 0)
