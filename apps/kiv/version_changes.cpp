@@ -72,7 +72,7 @@ Things banksIn(const BudgetStorage::Data &data, const AccountIndex &index)
         QJsonObject json = toJson(bank, index);
         // Balances are told with the accounts.
         QJsonArray numbers;
-        for (const QJsonValue &account : json[QLatin1String("accounts")].toArray())
+        for (const QJsonValue account : json[QLatin1String("accounts")].toArray())
             numbers.append(account[QLatin1String("number")]);
         json.insert(QStringLiteral("accounts"), numbers);
         things.emplace(name.institution(), json);
@@ -156,7 +156,7 @@ QString textOf(const QString &field, const QJsonValue &value)
         return amountText(value, navigation::CurrencyDisplayOptions::IsoCode);
     if (value.isArray()) {
         QStringList texts;
-        for (const QJsonValue &element : value.toArray())
+        for (const QJsonValue element : value.toArray())
             texts += textOf({}, element);
         return texts.join(QStringLiteral(", "));
     }
@@ -245,7 +245,7 @@ QJsonArray changesBetween(const BudgetStorage::Data &before, const BudgetStorage
 void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone)
 {
     QJsonArray rows;
-    for (const QJsonValue &change : changes) {
+    for (const QJsonValue change : changes) {
         QJsonObject row = change.toObject();
         row.insert(QStringLiteral("detail"), detailOf(row));
         rows.append(row);

@@ -56,7 +56,7 @@ public:
     void operator()(QStringList CsvProfile::*member) const
     {
         demand(m_value.isArray());
-        for (const QJsonValue &element : m_value.toArray())
+        for (const QJsonValue element : m_value.toArray())
             (m_profile.*member) += text(element);
     }
     void operator()(bool CsvProfile::*member) const
@@ -86,7 +86,7 @@ public:
     void operator()(std::vector<AccountRule> CsvProfile::*member) const
     {
         demand(m_value.isArray());
-        for (const QJsonValue &element : m_value.toArray()) {
+        for (const QJsonValue element : m_value.toArray()) {
             (m_profile.*member)
                 .push_back({text(element[QLatin1String("contains")]),
                             text(element[QLatin1String("account")])});

@@ -21,7 +21,7 @@ namespace {
 using internal::ContentFault;
 using internal::FileTarget;
 
-constexpr qsizetype fileSizeMax = 1024 * 1024;
+constexpr qsizetype fileSizeMax = qsizetype{1024} * 1024;
 constexpr QByteArrayView kindWord = "kiv-exchange-rates ";
 constexpr int currentVersion = 1;
 constexpr QByteArrayView digestWord = "sha256 ";

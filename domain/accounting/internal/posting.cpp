@@ -106,13 +106,14 @@ TransactionRecord plainRecord(Transaction transaction)
                              .debit = transaction.debiting().number(),
                              .credit = transaction.crediting().number(),
                              .amount = transaction.amount(),
-                             .description = std::move(transaction).takeDescription(),
+                             .description = {},
                              .debitStatus = transaction.debitStatus(),
                              .creditStatus = transaction.creditStatus(),
                              .refundOf = std::nullopt,
                              .refundedAmount = {},
                              .sides = {}};
     record.setSideAmounts(transaction.debitAmount(), transaction.creditAmount());
+    record.description = std::move(transaction).takeDescription();
     return record;
 }
 
