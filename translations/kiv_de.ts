@@ -2539,14 +2539,6 @@
         <translation>Warnung: %1</translation>
     </message>
     <message>
-        <source>yes</source>
-        <translation>ja</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>nein</translation>
-    </message>
-    <message>
         <source>%1 at byte %2</source>
         <translation>%1 bei Byte %2</translation>
     </message>

@@ -2539,14 +2539,6 @@
         <translation>aviso: %1</translation>
     </message>
     <message>
-        <source>yes</source>
-        <translation>sí</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>no</translation>
-    </message>
-    <message>
         <source>%1 at byte %2</source>
         <translation>%1 en el byte %2</translation>
     </message>

@@ -27,8 +27,7 @@ BudgetView::BudgetView(Session &session)
 
 tagging::Tags BudgetView::tags(const BudgetItemIdentifier &id) const
 {
-    const auto found = m_tags.find(id.type);
-    return found == m_tags.end() ? tagging::Tags() : found->second.tags(id);
+    return m_tags.at(id.type).tags(id);
 }
 
 std::optional<banking::BankAccount> BudgetView::bankAccount(const BudgetItemIdentifier &id) const

@@ -146,7 +146,11 @@ UsageError notAProfileName(const QString &name)
 
 UsageError unreadableInput(const QString &name, const QString &reason)
 {
-    return UsageError(QObject::tr("Cannot understand %1: %2.").arg(name, reason));
+    QString sentence = QObject::tr("Cannot understand %1: %2.").arg(name, reason);
+    // The reason may be a sentence, which has an end of its own.
+    if (reason.endsWith(u'.') || reason.endsWith(u'?'))
+        sentence.chop(1);
+    return UsageError(sentence);
 }
 
 Refusal noSuchAccount(const QString &text, const QStringList &similar)

@@ -37,7 +37,7 @@ QByteArray title(const CLI::Option &option)
     } else {
         text = "\\fB" + plain(option.get_name(false, true)) + "\\fR";
         text.replace(",", "\\fR, \\fB");
-        if (option.get_type_size() != 0)
+        if (option.get_items_expected_max() > 0)
             text += " \\fI" + plain(option.get_type_name()) + "\\fR";
     }
     return text;

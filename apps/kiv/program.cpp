@@ -32,11 +32,14 @@ int Program::run(const std::vector<std::string> &words)
         complain(error.message());
         return misused;
     } catch (const storage::StorageError &error) {
-        const QString sentence = QString::fromUtf8(error.what());
-        const QString backup = storage::backupOf(error.filePathName(), 1);
-        complain(error.failure() == storage::StorageFailure::Damaged && QFile::exists(backup)
-                     ? withBackups(sentence, backup)
-                     : sentence);
+        QString sentence = QString::fromUtf8(error.what());
+        // A file that is not there may have no folder either, and then no backup has a name.
+        if (error.failure() == storage::StorageFailure::Damaged) {
+            const QString backup = storage::backupOf(error.filePathName(), 1);
+            if (QFile::exists(backup))
+                sentence = withBackups(sentence, backup);
+        }
+        complain(sentence);
     } catch (const foundation::Error &error) {
         complain(QString::fromUtf8(error.what()));
     } catch (const std::exception &error) {

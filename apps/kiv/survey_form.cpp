@@ -89,10 +89,8 @@ template <typename Changes>
 void collectNumbers(const Changes &changes, std::set<TransactionNumber> &numbers)
 {
     for (const auto &[key, set] : changes) {
-        for (const surveying::BalanceChange &change : set) {
-            if (const auto number = change.transaction().number())
-                numbers.insert(*number);
-        }
+        for (const surveying::BalanceChange &change : set)
+            numbers.insert(change.transaction().number().value());
     }
 }
 

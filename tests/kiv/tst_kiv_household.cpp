@@ -163,6 +163,120 @@ private slots:
         QCOMPARE(home.run("refund 2 69.50").status, 0);
     }
 
+    void commandsTellWhatIsThere()
+    {
+        const Household home;
+        QVERIFY(home.begin());
+        QVERIFY(home.runAll(
+            {"bill add Gym 30 --next 2026-02-03 --tag sport --tag home",
+             "goal add Trip 50 --target 900 --bank-account Checking --next 2026-02-05",
+             "account add Food --type expense --date 2026-01-01", "account add Old --type expense",
+             "account close Old", "bank add Second", "bank close Second", "rates set USD EUR=0.80",
+             "configure set --usable USD --usable EUR",
+             "account add Euros --type asset --currency EUR --balance 1",
+             "transaction add 8_USD --debit Euros --credit Checking --date 2026-02-02",
+             "pay Rent 100 --account Checking --date 2026-02-03", "transaction clear 4",
+             "account recode Food --under Old", "transaction update 3 --date 2026-02-01"}));
+        // Behind ">" stands what is told, and behind "!" what is not.
+        for (const QByteArray row :
+             {"accounts > €7.40",
+              "accounts --type expense > closed ! Assets:",
+              "accounts --type expense --open > Expenses:Rent ! closed",
+              "banks > Second (closed)",
+              "ledger Checking --from 2026-02-01 --to 2026-02-02 > 2026-02-01 ! 2026-02-03",
+              "transactions --from 2026-02-01 --to 2026-02-02 > 2026-02-01 ! 2026-02-03",
+              "transactions --json --from 2026-02-01 > \"creditAmount\"",
+              "refundable Rent > 100.00 ! 6.40",
+              "due --date 2026-02-02 --within 3 > tomorrow ! today",
+              "tags list > home\nsport\n",
+              "tags remove home --dry-run > home ! sport",
+              "report --html --json > netWorth ! <",
+              "check > is whole. ! BROKEN",
+              "post --all --account Checking --date 2020-01-01 --dry-run > Nothing is due.",
+              "account recode Food --top-level --dry-run > "
+              "7 Expenses:Old:Food is now 7 Expenses:Food.",
+              "completion words --json -- zz > ! {",
+              "completion words > bank-account\n",
+              "reconciliation last Checking > never reconciled",
+              "history diff 1 0 > 2026-02-02 → 2026-02-01",
+              "history diff 3 2 > none → cleared"}) {
+            const QByteArrayList parts = row.split('!');
+            const QByteArray line = parts[0].left(parts[0].indexOf(" > "));
+            const Ended ended = home.run(line.constData());
+            QVERIFY2(ended.out.contains(parts[0].mid(line.size() + 3).trimmed()), row + ended.out);
+            QVERIFY2(parts.size() == 1 || !ended.out.contains(parts[1].trimmed()), ended.out);
+        }
+    }
+
+    void wordsAreCompleted()
+    {
+        const Household home;
+        QVERIFY(home.begin() && home.runAll({"bank add F\n2"})); // that name is never offered
+        for (const QByteArray row : {"ban > banks bank bank-account",
+                                     "bill re > rename remove",
+                                     "bill update R > Rent",
+                                     "bill update -- R > Rent",
+                                     "bill update -- -x R > ",
+                                     "bill add R > ",
+                                     "account add R > ",
+                                     "save-as R > ",
+                                     "accounts b > ",
+                                     "post R > Rent",
+                                     "post Rent --account Che > Checking",
+                                     "post Rent --kind b > bill",
+                                     "post Rent --js --acc > --account",
+                                     "post --json --colour R > Rent",
+                                     "post --json=true R > Rent",
+                                     "bank rename F > First",
+                                     "bank-account add New --bank=First --type mo > money-market",
+                                     "bank-account add New --bank F > First",
+                                     "account add New --type e > equity expense",
+                                     "bill add Gym --every week > weekly",
+                                     "import x --format q > qif",
+                                     "export --format j > journal json",
+                                     "configure set --usable JM > JMD",
+                                     "rates fetch EUR JM > JMD",
+                                     "--file=household.budget post R > Rent",
+                                     "--file = nowhere.budget post R > ",
+                                     "--file b > "}) {
+            const QByteArray line = row.left(row.indexOf(" > "));
+            const Ended ended = home.run(("completion words -- " + line).constData());
+            QCOMPARE(line + " > " + ended.out.simplified(), row);
+        }
+    }
+
+    void eachFieldIsChangedAlone()
+    {
+        const Household home;
+        QVERIFY(home.begin());
+        QVERIFY(home.runAll(
+            {"account add Food --type expense", "account add Out --type expense --under Food",
+             "account recode Out --top-level", "pay Rent 100 --account Checking",
+             "transaction update 2 --amount USD_90", "transaction update 2 --debit Food",
+             "transaction update 2 --credit Rent_[Budget_Item]",
+             "transaction update 2 --date 2026-02-09", "bill update Rent --every weekly",
+             "bill update Rent --next 2026-03-01", "bill update Rent --tag home",
+             "debt add Car 20 --borrowed 500 --bank First", "bank add Second",
+             "debt update Car --borrowed 400", "debt update Car --bank Second",
+             "bill update Rent --no-tags", "post Rent --amount 7 --account Checking",
+             "bank-account detach Checking"}));
+        const QJsonArray all = home.json("transactions").array();
+        QCOMPARE(all[1]["debitPath"_L1].toString(), u"Expenses:Food"_s);
+        QCOMPARE(all[1]["creditPath"_L1].toString(), u"Expenses:Rent [Budget Item]"_s);
+        QCOMPARE(all[1]["amount"_L1]["amount"_L1].toString(), u"90.00"_s);
+        QCOMPARE(all[1]["date"_L1].toString(), u"2026-02-09"_s);
+        QCOMPARE(all.last()["amount"_L1]["amount"_L1].toString(), u"7.00"_s);
+        QCOMPARE(home.json("bill list").array().first(),
+                 parsed("{'kind': 'bill', 'name': 'Rent', 'every': 'weekly', 'tags': [], "
+                        "'amount': {'amount': '1250.00', 'currency': 'USD'}, "
+                        "'next': '2026-03-08'}"));
+        const QJsonValue car = home.json("debt list").array().first();
+        QCOMPARE(car["bank"_L1].toString(), u"Second"_s);
+        QCOMPARE(car["borrowed"_L1]["amount"_L1].toString(), u"400.00"_s);
+        QVERIFY(home.json("banks").array().first()["accounts"_L1].toArray().isEmpty());
+        QVERIFY(found(home.json("accounts"), "name", u"Out"_s)["parent"_L1].isNull());
+    }
+
     void settingsAreKept()
     {
         const Household home;
@@ -170,6 +284,8 @@ private slots:
                              "configure set --preferred EUR --usable EUR --usable USD "
                              "--display code --notify-within 30",
                              "bill add Miete 700"}));
+        QCOMPARE(home.run("banks").out, "There are no banks.\n");
+        QCOMPARE(home.run("tags list").out, "There are no tags.\n");
         const QJsonObject settings = home.json("configure show").object();
         QCOMPARE(settings["usableCurrencies"_L1], parsed("['USD', 'EUR']"));
         QVERIFY(home.run("bill list").out.contains("700.00 EUR"));
@@ -179,6 +295,15 @@ private slots:
         // What is preferred is usable, unless the usable ones are given.
         QCOMPARE(home.json("configure set --preferred JPY")["usableCurrencies"_L1],
                  parsed("['JPY', 'USD', 'EUR']"));
+        QVERIFY(home.runAll({"configure set --usable JPY", "configure set --survey-window 2.5",
+                             "configure set --hours 30", "configure set --days 4",
+                             "configure set --display both"}));
+        QCOMPARE(home.json("configure show").object(),
+                 parsed("{'currenciesDisplayAs': 'Symbol and Code', 'daysInWeek': 4, "
+                        "'hoursInWeek': 30, 'notifyDueWithinDays': 30, 'preferredCurrency': 'JPY', "
+                        "'surveyWindowPercent': 2.5, 'usableCurrencies': ['JPY']}")
+                     .toObject());
+        QVERIFY(home.run("bill list").out.contains("€700.00 EUR"));
     }
 
     void helpNeedsNothing()

@@ -124,6 +124,16 @@ private slots:
         QCOMPARE(home.json("import s.ofx --into Checking --against Other")["posted"_L1].toInt(), 2);
         QCOMPARE(home.json("import s.ofx --into Checking --against Other")["posted"_L1].toInt(), 0);
         QVERIFY(home.run("export").out.contains("Bakery [id x2]"));
+
+        QVERIFY(home.run("import s.csv --into Checking --profile yours")
+                    .err.contains("There is no profile 'yours' among: mine, rules."));
+        QVERIFY(QDir(home.path("config") + u"/kiv/import"_s).removeRecursively());
+        home.write(home.path("config") + u"/kiv/import"_s, "no folder");
+        const QByteArray kept = home.bytes();
+        const Ended unsaved = home.run("import s.ofx --into Checking --against Other "
+                                       "--keep-duplicates --save-profile mine");
+        QVERIFY2(unsaved.status == 1 && unsaved.err.contains("Cannot write '"), unsaved.err);
+        QCOMPARE(home.bytes(), kept);
     }
 
     void refusalsLeaveTheBudgetAlone_data()
@@ -173,6 +183,25 @@ private slots:
             "There is no profile 'none'; --save-profile saves one.\n");
         row("a root that is none", "s.journal", "x", "--root Aktiva=fish", 2,
             "'fish' is none of: ");
+        row("a root of nothing", "s.journal", "x", "--root =asset", 2, "'=asset' is not");
+        row("a root without a kind", "s.journal", "x", "--root Aktiva=", 2, "'Aktiva=' is not");
+        row("a journal into an account", "s.journal", "x", "--into Checking", 2, "--into");
+        row("an unknown format", "s.csv", "x", "--into Checking --format pdf", 2,
+            "'pdf' is none of: journal, csv, ofx, qif.\n");
+        const char *const text = "a,b\n";
+        row("an odd decimal mark", "s.csv", text, "--into 1 --decimal x", 2,
+            "'x' is none of: ., ,");
+        row("a long delimiter", "s.csv", text, "--into 1 --delimiter ab", 2, "'ab' is none of: ,");
+        row("a quote between cells", "s.csv", text, "--into 1 --delimiter \"", 2, "is none of: ,");
+        row("no lines to skip", "s.csv", text, "--into 1 --skip x", 2, "'x' is not");
+        row("fewer lines than none", "s.csv", text, "--into 1 --skip -1", 2, "'-1' is not");
+        row("an include that is not there", "s.journal", "include none.journal\n", "", 1,
+            "there is no such file");
+        row("an include of a folder", "s.journal", "include config\n", "", 1,
+            "there is no such file");
+        row("a folder", "config", {}, "--format journal", 1, "Cannot read 'config'");
+        row("what cannot be read", "/proc/self/mem", {}, "--format journal", 1,
+            "Cannot read '/proc");
     }
     void refusalsLeaveTheBudgetAlone()
     {
@@ -184,12 +213,72 @@ private slots:
         const Household home;
         QVERIFY(home.begin());
         QVERIFY(home.runAll({"account add Gone --type expense", "account close Gone"}));
-        home.write(home.path(qPrintable(file)), content);
+        if (!content.isNull())
+            home.write(home.path(qPrintable(file)), content);
         const QByteArray before = home.bytes();
         const Ended ended = home.run(("import " + file.toLatin1() + ' ' + arguments).constData());
         QCOMPARE(ended.status, status);
         QVERIFY2(ended.err.contains(message), ended.err.constData());
         QCOMPARE(home.bytes(), before);
+    }
+
+    void everyWayToReadAStatement()
+    {
+        const Household home;
+        QVERIFY(home.begin() && home.runAll({"account add Food --type expense"}));
+        const auto posted = [&home](const QByteArray &content, const QByteArray &arguments) {
+            home.write(home.path("s.bin"), content);
+            const QByteArray line = "import s.bin --into 1 --against 4 --dry-run " + arguments;
+            QStringList told;
+            for (const QJsonValue t : home.json(line.constData())["transactions"_L1].toArray())
+                told += t["date"_L1].toString() + u' ' + t["amount"_L1]["amount"_L1].toString() +
+                        u' ' + t["debitPath"_L1].toString().section(u' ', 0, 0) + u' ' +
+                        t["creditPath"_L1].toString().section(u' ', 0, 0) + u' ' +
+                        t["description"_L1].toString();
+            return told.join(u", "_s);
+        };
+        QCOMPARE(posted("bank\tX\nday\tsum\tof\tat\tid\tcode\tgo\n"
+                        "05/01/2026\t5,25\tREWE\tKöln\t7\tUSD\tS\n",
+                        "--format csv --delimiter \\t --skip 1 --date-column day "
+                        "--amount-column sum --text-column of --text-column at --id-column id "
+                        "--currency-column code --sign-column go --negative S "
+                        "--date-format DD/MM/YYYY --decimal ,"),
+                 u"2026-01-05 5.25 Income:Salary Assets:Checking REWE Köln [id 7]"_s);
+        QCOMPARE(posted("2026-01-05|5.25||x\n2026-01-06||1.00|y\n",
+                        "--format csv --delimiter | --no-headings --date-column 1 --in-column 2 "
+                        "--out-column 3 --text-column 4"),
+                 u"2026-01-05 5.25 Assets:Checking Income:Salary x, "
+                 "2026-01-06 1.00 Income:Salary Assets:Checking y"_s);
+        QCOMPARE(
+            posted("Date,Amount,Text\n2026-01-05,5.25,\n", "--format csv --negate --decimal ."),
+            u"2026-01-05 5.25 Income:Salary Assets:Checking "_s);
+        // What it is shows in its beginning, and the other side in its categories.
+        QVERIFY(posted(ofx, "").startsWith(u"2026-01-10 5.25 Income:Salary Assets:Checking Bak"));
+        const QByteArray qif = "!Type:Bank\nD13/01/2026\nT-1\nLRent [Budget Item]\n^\n"
+                               "D01/02/2026\nT-2\nLExpenses:Food\n^\n";
+        const QString categories = u"2026-01-13 1.00 Expenses:Rent Assets:Checking , "
+                                   "2026-02-01 2.00 Expenses:Food Assets:Checking "_s;
+        QCOMPARE(posted(qif, ""), categories);
+        QCOMPARE(posted("!Account\nNX\n^\n" + qif + "D01/03/2026\nT-5.25\nLNowhere\n^\n",
+                        "--date-format DD/MM/YYYY"),
+                 categories + u", 2026-03-01 5.25 Income:Salary Assets:Checking "_s);
+    }
+
+    void aJournalIsShownBeforeItIsPosted()
+    {
+        const Household home;
+        home.write(home.path("a.journal"), "2026-01-01 x\n Assets:Cash  $0\n Income:Job\n");
+        QVERIFY(home.runAll({"new"}));
+        QVERIFY(home.run("import a.journal --dry-run").out.contains("Assets:Cash"));
+        QCOMPARE(home.json("accounts").array().size(), 0);
+        QVERIFY(home.runAll({"import a.journal"})); // an account alone
+        QCOMPARE(home.json("accounts").array().size(), 1);
+        home.write(home.path("a.journal"), "2026-01-01\n Assets:Cash  5 Fr\n Income:Job\n");
+        QVERIFY(home.runAll({"import a.journal --commodity Fr=USD"}));
+        QVERIFY(home.run("import - --format journal", "include a.journal\n")
+                    .err.contains("there is no such file"));
+        QVERIFY(
+            home.run("import a.journal --commodity Fr=USD --dry-run").out.contains("duplicate"));
     }
 
     void aJournalOfAGigabyteIsRefusedAtOnce()
@@ -265,6 +354,10 @@ private slots:
         QVERIFY(page.startsWith("<!DOCTYPE html>") && page.contains("<h1>&lt;i&gt;</h1>"));
         const QByteArray chart = home.run("report --chart --to 2026-02-28").out;
         QVERIFY(chart.contains("2026-01 █"));
+        // What is hardly anything is seen.
+        QVERIFY(!chart.contains("▏"));
+        QVERIFY(home.runAll({"pay Rent 0.01 --account Checking --date 2026-02-20"}));
+        QVERIFY(home.run("report --chart --to 2026-02-28").out.contains("▏"));
         for (const QString &line : QString::fromUtf8(chart).split(u'\n'))
             QVERIFY2(line.size() <= 80, qPrintable(line));
         QCOMPARE(home.run("report --from 2026-02-01 --to 2026-01-01").status, 1);

@@ -52,6 +52,7 @@ private slots:
                              "wage add Job 92.00_EUR", "rates set USD EUR=0.92"}));
         QCOMPARE(home.json("dashboard")["totals"_L1]["wages"_L1]["amount"_L1].toString(),
                  u"100.00"_s);
+        QVERIFY(home.run("rates fetch").out.contains("0.92"));
         // The end of the input does not end the last line's waiting.
         const Ended watched = home.run("watch", "rates fetch EUR JPY");
         QVERIFY2(watched.status == 0 && watched.out.contains("JPY 150"), watched.err.constData());
@@ -94,6 +95,8 @@ private slots:
         QCOMPARE(notes.out,
                  "255.1.0 2026-03-01\nFaster.\nSafer.\n1.0.0 2026-03-01\nFaster.\nSafer.\n");
         QCOMPARE(home.json("release-notes").array().size(), 2);
+        LoopbackServer none(LoopbackServer::answer("[]"));
+        QCOMPARE(homeAt(none).run("release-notes").out, "There are no releases.\n");
     }
 
     void whatIsNotNewerIsNoNews_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/help_format.h"
 #include "errors.h"
+#include "manual.h"
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/account_index.h"
@@ -10,6 +11,10 @@
 #include "user_locale.h"
 
 #include <QtTest/QtTest>
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 using namespace kiv;
 using app::AccountIndex;
@@ -63,7 +68,15 @@ private slots:
         QCOMPARE(number("Expenses:Home:Rent"), 2u);
         QVERIFY_THROWS_EXCEPTION(app::Refusal, number("Rent"));
         QVERIFY_THROWS_EXCEPTION(app::Refusal, number("rent"));
-        QCOMPARE(index.nextNumber().integer(), 5u);
+        QCOMPARE(index.path(accounting::AccountNumber(5)), QString());
+    }
+    void numbersGoOnBehindTheHighestOrInTheFirstGap()
+    {
+        const accounting::Account first = account(1, u"First"_s, std::nullopt);
+        const accounting::Account last = account(4'294'967'295u, u"Last"_s, std::nullopt);
+        QCOMPARE(AccountIndex({}).nextNumber().integer(), 1u);
+        QCOMPARE(AccountIndex({first}).nextNumber().integer(), 2u);
+        QCOMPARE(AccountIndex({first, last}).nextNumber().integer(), 2u);
     }
 
     void slipsAreCounted_data()
@@ -94,8 +107,9 @@ private slots:
 
     void whatIsAlikeIsOffered()
     {
-        const QStringList known{u"Checking"_s, u"Chequing"_s, u"Savings"_s,   u"Car"_s,
-                                u"Rent"_s,     u"Rental"_s,   u"Rent [x y]"_s};
+        const QStringList known{u"Checking"_s, u"Chequing"_s,   u"Savings"_s,
+                                u"Car"_s,      u"Rent"_s,       u"Rental"_s,
+                                u"Y"_s,        u"Rent [x y]"_s, QString(100'000, u'X')};
         const auto offered = [&known](const QString &word) {
             return app::similarTo(word, known).join(u',');
         };
@@ -128,6 +142,8 @@ private slots:
         row("a\\ b \"\\\"\" '\\'", {"a b", "\"", "\\"});
         row("a # b", {"a"});
         row("a#b", {"a#b"});
+        row("a\\", {"a\\"}); // nothing is left to be escaped
+        row("a b\r", {"a", "b"});
     }
     void wordsAreSplitAsAShellDoes()
     {
@@ -151,6 +167,9 @@ private slots:
         QTest::newRow("too long") << u"abcde"_s << 4 << u"abc…"_s;
         QTest::newRow("wide") << u"食費食費"_s << 6 << u"食費…"_s;
         QTest::newRow("combining") << u"e\u0301e\u0301"_s << 2 << u"e\u0301e\u0301"_s;
+        QTest::newRow("without width") << u"a\u200db"_s << 2 << u"a\u200db"_s;
+        QTest::newRow("full width") << u"ＡＢ"_s << 3 << u"Ａ…"_s;
+        QTest::newRow("enclosing") << u"5\u20dd6"_s << 2 << u"5\u20dd6"_s;
     }
     void textIsCutToColumns()
     {
@@ -169,20 +188,78 @@ private slots:
         QVERIFY(table.endsWith(endless + u"  2\n"_s));
     }
 
+    void theTerminalSaysHowWideItIsAndWhetherItHasColours()
+    {
+        for (const auto &[columns, itsOwn, width] :
+             {std::tuple("100", 40, 100), {"", 40, 40}, {"-1", 40, 40}, {"many", 0, 80}}) {
+            qputenv("COLUMNS", columns);
+            QCOMPARE(terminal(itsOwn).width(), width);
+        }
+        qputenv("TERM", "xterm");
+        QCOMPARE(terminal(40).red(u"x"_s), u"\x1b[31mx\x1b[0m"_s);
+        qputenv("NO_COLOR", "1");
+        QCOMPARE(terminal(40).red(u"x"_s), u"x"_s);
+        qunsetenv("NO_COLOR");
+        qputenv("TERM", "dumb");
+        QCOMPARE(terminal(40).red(u"x"_s), u"x"_s);
+    }
+
+    /// The widest of what is no number is, and none to less than can be read.
+    void tablesAreCutToTheTerminal()
+    {
+        qputenv("TERM", "dumb");
+        qunsetenv("COLUMNS");
+        for (const auto &[columns, cut] :
+             {std::pair(29, "Name      Longest        Much\nChecking  A description  1.00\n"),
+              {26, "Name      Longest     Much\nChecking  A descrip…  1.00\n"},
+              {10, "Name  Lon…  Much\nChe…  A d…  1.00\n"}}) {
+            QCOMPARE(app::tableText({u"Name"_s, u"Longest"_s, u"Much"_s},
+                                    {{{u"Checking"_s}, {u"A description"_s}, {u"1.00"_s, true}}},
+                                    terminal(columns)),
+                     QString::fromUtf8(cut));
+        }
+    }
+
+    void theManualHasEveryCommand()
+    {
+        app::Program program;
+        const auto tree = program.commandTree();
+        const QByteArray manual = app::manualOfCommands(*tree);
+        QVERIFY(manual.contains(
+            ".SS kiv bill add\n\\fBkiv bill add\\fR \\fINAME\\fR \\fIAMOUNT\\fR\n"));
+        QVERIFY(manual.contains(".TP\n\\fB\\-\\-every\\fR \\fITEXT\\fR\n"));
+        QVERIFY(manual.contains(".TP\n\\fB\\-\\-top\\-level\\fR\n")); // a flag
+        QVERIFY(!manual.contains(".SS kiv bill\n") && !manual.contains("dry"));
+
+        // What a line begins with is no request to the formatter.
+        CLI::App odd("'tis odd", "odd");
+        odd.add_option("WORD", ".so it is")->expected(1, 9);
+        odd.add_flag("-f,--flag")->description("A \\ flag")->required();
+        QCOMPARE(app::manualOfCommands(odd),
+                 ".SS odd\n\\fBodd\\fR [\\fIWORD\\fR …] \\fB\\-f\\fR, \\fB\\-\\-flag\\fR\n.PP\n"
+                 "\\&'tis odd.\n.TP\n\\fIWORD\\fR\n\\&.so it is\n.TP\n"
+                 "\\fB\\-f\\fR, \\fB\\-\\-flag\\fR\nA \\e flag\n");
+    }
+
     void helpFitsTheScreen_data()
     {
         QTest::addColumn<QByteArray>("language");
         QTest::addColumn<QString>("usage");
-        QTest::newRow("English") << QByteArray("C") << u"Usage: "_s;
-        QTest::newRow("German") << QByteArray("de_DE") << u"Aufruf: "_s;
-        QTest::newRow("Spanish") << QByteArray("es_ES") << u"Uso: "_s;
+        QTest::addColumn<QString>("noon");
+        QTest::newRow("nothing") << QByteArray() << u"Usage: "_s << u"2026-03-01T12:00:00"_s;
+        QTest::newRow("POSIX") << QByteArray("POSIX") << u"Usage: "_s << u"2026-03-01T12:00:00"_s;
+        QTest::newRow("German") << QByteArray("de_DE") << u"Aufruf: "_s << u"01.03.2026 12:00"_s;
+        QTest::newRow("Spanish") << QByteArray("es_ES") << u"Uso: "_s << u"01/03/2026 12:00"_s;
     }
     void helpFitsTheScreen()
     {
         QFETCH(QByteArray, language);
         QFETCH(QString, usage);
+        for (const char *variable : {"LANG", "LC_MESSAGES", "LC_NUMERIC", "LC_TIME"})
+            qunsetenv(variable);
         qputenv("LC_ALL", language);
         app::speakAsUser(*QCoreApplication::instance());
+        QTEST(app::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), "noon");
         app::Program program;
         const auto tree = program.commandTree();
         std::vector<const CLI::App *> commands{tree.get()};
@@ -218,6 +295,24 @@ private slots:
     }
 
 private:
+    /// What is found when standard output is a terminal of so many columns.
+    static app::Terminal terminal(int columns)
+    {
+        std::fflush(stdout);
+        const int kept = ::dup(STDOUT_FILENO);
+        const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
+        ::grantpt(master);
+        ::unlockpt(master);
+        const int slave = ::open(::ptsname(master), O_RDWR | O_NOCTTY);
+        const winsize size{24, static_cast<unsigned short>(columns), 0, 0};
+        ::ioctl(slave, TIOCSWINSZ, &size);
+        ::dup2(slave, STDOUT_FILENO);
+        const app::Terminal found;
+        ::dup2(kept, STDOUT_FILENO);
+        for (const int opened : {kept, master, slave})
+            ::close(opened);
+        return found;
+    }
     static accounting::Account account(std::uint32_t number, const QString &name,
                                        std::optional<std::uint32_t> parent)
     {

@@ -121,7 +121,8 @@ private slots:
                                               "new household\n"
                                               "wizard household --bank B --account A\n"
                                               "templates show teenager\n"
-                                              "bill list\n");
+                                              "bill list --file " +
+                                                  home.file().toUtf8() + '\n');
         QCOMPARE(ended.status, 2);
         QCOMPARE(ended.err.count('\n'), 4);
         // What was refused or dry is taken back in memory before the next line.
@@ -132,6 +133,7 @@ private slots:
                  0);
         QVERIFY(bills(home).contains(u"Car tax 360.00"_s));
         QCOMPARE(home.run("shell", "help bill add\n").out, home.run("bill add --help").out);
+        QCOMPARE(home.run("shell household", "quit\nfrobnicate\n").status, 0);
         // An item that has lost its account comes back mended, as from the file.
         QVERIFY(home.run("shell", "account remove 3\nbill add Rent 5\nbill list")
                     .out.contains("$1,250.00"));
@@ -182,6 +184,7 @@ private slots:
         QVERIFY(terminal.type("bill update Ca\t--amount 400\r"));
         QVERIFY(terminal.type("bill rename \"Ca\tToll\r"));
         QVERIFY(terminal.type("\x1b[A\r")); // once more, and refused
+        QVERIFY(terminal.type("\r"));
         QVERIFY(terminal.type("\x04"));
         QCOMPARE(terminal.end(), 1);
         QCOMPARE(bills(home), QStringList({u"Rent 1250.00"_s, u"Toll 400.00"_s}));
@@ -209,6 +212,7 @@ private slots:
                 signalNames.indexOf(u"accountSaveFailed"_s));
         QCOMPARE(signalNames.count(u"saveSucceeded"_s), 1);
         QCOMPARE(signalNames.count(u"savedBudgetFile"_s), 1);
+        QCOMPARE(home.run("watch", "exit\nfrobnicate\n").status, 0);
     }
 };
 

@@ -57,6 +57,12 @@ private slots:
         survey[u"accounts"_s] =
             QJsonArray{QJsonObject{{u"account"_s, 2}, {u"change"_s, u"0.50 USD"_s}}};
         const QByteArray document = QJsonDocument(survey).toJson();
+        survey[u"distribution"_s] = QJsonArray{QJsonObject{
+            {u"kind"_s, u"bill"_s}, {u"name"_s, u"Rent"_s}, {u"distributed"_s, u"5"_s}}};
+        QVERIFY(m_home->run("survey complete --from -", QJsonDocument(survey).toJson())
+                    .err.contains("cannot be distributed"));
+        const Ended ticked = m_home->run("survey complete --from - --tick 1 --dry-run", document);
+        QVERIFY2(ticked.err.contains("must be within"), ticked.err + ticked.out);
         QCOMPARE(m_home->run("survey complete --from -", document).status, 0);
 
         const QJsonObject last = m_home->json("reconciliation last Checking").object();
@@ -74,16 +80,20 @@ private slots:
         QTest::addColumn<QByteArray>("line");
         QTest::addColumn<QByteArray>("input");
         QTest::newRow("flags") << QByteArray("survey complete First Checking --date 2026-01-31 "
-                                             "--balance 4330.00 --tick-all --item bill:Rent=-20")
+                                             "--balance 4330.00 --tick-all --item bill:Rent=-20 "
+                                             "--extra 2=0 --not-distributed 0")
                                << QByteArray();
         QTest::newRow("answers") << QByteArray("survey run First Checking --date 2026-01-31")
-                                 << QByteArray("y\ny\ny\ny\n433O\n4330.00\nNobody=1\n"
+                                 << QByteArray("yes\ny\ny\ny\ny\n433O\n4330.00\nNobody=1\n"
                                                "Rent=-20\n\n\n\ny\n");
     }
     void flagsAndAnswersDoTheSame()
     {
         QFETCH(QByteArray, line);
         QFETCH(QByteArray, input);
+        const Ended given = m_home->run("survey run First Checking --date 2026-01-31",
+                                        "n\ny\ny\ny\n4350\n\n\n\nn\n");
+        QVERIFY2(given.err.contains("The survey was not completed."), given.err.constData());
         const Ended ended = m_home->run(line.constData(), input);
         QVERIFY2(ended.status == 0, ended.err.constData());
         QCOMPARE(m_home->json("reconciliation last Checking")["balance"_L1]["amount"_L1].toString(),
@@ -106,6 +116,15 @@ private slots:
         row("an item that takes none", "--distribute Rent=5", "cannot be distributed");
         row("an unknown item", "--item Gym=5", "There is no budget item 'Gym'; kiv bill list");
         row("no amount", "--item Rent", "NAME=VALUE");
+        for (const auto &[line, sentence] :
+             {std::pair("survey complete", "BANK ACCOUNT"),
+              {"survey complete First", "ACCOUNT"},
+              {"survey complete First Checking", "--balance"},
+              {"survey complete First --from x", "--from"},
+              {"survey run First Checking --date 2026-01-31", "The answers ended"},
+              {"debt update Car --type loan", "--bank"},
+              {"goal update Trip --no-bank --bank-account Checking", "--no-bank"}})
+            QTest::newRow(line) << QByteArray(line) << QByteArray(sentence);
         QTest::newRow("a day to come")
             << QByteArray("survey show First Checking --date 2199-01-01") << QByteArray("future");
         QTest::newRow("an account of no bank")
@@ -136,6 +155,7 @@ private slots:
         QCOMPARE(posted["creditAmount"_L1]["amount"_L1].toString(), u"12.49"_s);
         QCOMPARE(m_home->json("rates show")["base"_L1].toString(), u"USD"_s);
         QCOMPARE(m_home->run("rates set USD EUR=0").status, 1);
+        QCOMPARE(m_home->json("rates set EUR USD=2")["rates"_L1].toArray().size(), 1);
     }
 
     void theWizardMakesABudget()
@@ -149,6 +169,12 @@ private slots:
         QCOMPARE(accounts.size(), items.size() + 2);
         QCOMPARE(m_home->run(line.constData()).status, 1);
         QCOMPARE(m_home->run("wizard other --template child --bank A --account B").status, 2);
+        const Ended refused =
+            m_home->run(("wizard other --template teenager --bank A --account " +
+                         items[0]["name"_L1].toString().replace(u' ', u'_').toUtf8())
+                            .constData());
+        QCOMPARE(refused.err, "kiv: The budget could not be made. The budget item has the same "
+                              "name as an existing ledger account.\n");
     }
 
 private:

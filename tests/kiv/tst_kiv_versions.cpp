@@ -96,8 +96,11 @@ private slots:
         QVERIFY(refused("undo", 1, "household.budget"));
         other.closeWriteChannel();
         QVERIFY(other.waitForFinished());
-        // The former version is damaged; the file is not the worse for it.
+        // The former version is no file, or damaged; the file is not the worse for it.
         QFile::remove(home.path("household.budget.backup-1"));
+        QVERIFY(QDir().mkdir(home.path("household.budget.backup-1")));
+        QVERIFY(refused("undo", 1, "household.budget.backup-1"));
+        QVERIFY(QDir().rmdir(home.path("household.budget.backup-1")));
         home.write(home.path("household.budget.backup-1"), home.bytes().chopped(100));
         QVERIFY(refused("undo", 1, "is not whole"));
         QVERIFY(home.run("history").out.contains("not whole"));
@@ -175,6 +178,11 @@ private slots:
         const QByteArray table = home.run("history diff 2 0").out;
         QVERIFY2(table.contains("amount 1250.00 USD → 1300.00 USD, tags  → home"), table);
         QVERIFY2(table.contains("2026-02-03, 5.00 USD"), table);
+        QVERIFY(home.runAll({"account add Food --type expense", "account add Out --type expense",
+                             "account recode Food --under Out", "account remove Food",
+                             "account add Food --type income --number 5"}));
+        QVERIFY(home.run("history diff 3 2").out.contains("parent – → 6"));
+        QVERIFY(home.run("history diff 3 0").out.contains("type expense → income"));
     }
 
     void everyPromiseOfAFileIsTold_data()
@@ -226,6 +234,9 @@ private slots:
         QVERIFY(home.run("check household").out.contains("2500.00 USD"));
         QCOMPARE(home.run("check nowhere").status, 1);
         QCOMPARE(home.run("check .").status, 1);
+        // What has lost its account is mended when it is opened.
+        QVERIFY(home.runAll({"account remove 3"}));
+        QVERIFY(home.run("check").out.contains("mended when it is opened"));
         // Somebody who works on the file keeps nobody from looking at it.
         QVERIFY(home.run("shell", "check\nhistory\n").out.contains("is whole."));
     }

@@ -34,7 +34,7 @@ public:
             m_onlyPlaces = true;
         } else if (word.starts_with('-') && !m_onlyPlaces) {
             m_awaiting = m_reached->get_option_no_throw(name);
-            const bool isFlag = !m_awaiting || m_awaiting->get_type_size() == 0;
+            const bool isFlag = !m_awaiting || m_awaiting->get_items_expected_max() == 0;
             if (name != word && !isFlag)
                 remember(word.substr(name.size() + 1));
             if (isFlag || name != word)
@@ -150,8 +150,8 @@ Words choicesOf(const std::string &name, const Words &path)
         return {"journal", "csv", "ofx", "qif"};
     if (name == "--format")
         return {"journal", "csv", "json"};
-    if (name == "--currency" || name == "--preferred" || name == "--usable" || name == "CURRENCY" ||
-        name == "BASE") {
+    constexpr std::array currencies{"--currency", "--preferred", "--usable", "CURRENCY", "BASE"};
+    if (std::ranges::count(currencies, name) != 0) {
         Words codes;
         for (const numira::Currency &currency : numira::activeCurrencies())
             codes.emplace_back(currency.code());
@@ -187,8 +187,10 @@ Candidates candidatesAfter(const CLI::App &commands, const std::vector<std::stri
         reading.take(word);
 
     Candidates candidates;
-    for (const CLI::App *command : reading.reached().get_subcommands({}))
-        candidates.values.push_back(command->get_name());
+    if (!reading.awaitsValue()) {
+        for (const CLI::App *command : reading.reached().get_subcommands({}))
+            candidates.values.push_back(command->get_name());
+    }
     if (const CLI::Option *turn = reading.turn(); turn && !reading.path().empty()) {
         const std::string name = turn->get_name();
         candidates.values = choicesOf(name, reading.path());

@@ -87,7 +87,7 @@ void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
             if (!options.contains(name))
                 throw noSuchOption(name, similarTo(name, options));
             const CLI::Option *option = reached->get_option(name.toStdString());
-            isValue = option->get_type_size() > 0 && word.find('=') == std::string::npos;
+            isValue = option->get_items_expected_max() > 0 && word.find('=') == std::string::npos;
         } else if (const QStringList commands = commandsOf(*reached);
                    !commands.isEmpty() && !word.starts_with('-')) {
             const QString command = QString::fromStdString(word);

@@ -43,9 +43,13 @@ struct Recode {
         const accounting::AccountCode from = change.from(index);
         const accounting::AccountCode to = change.to(index);
         call.session.change(outcome, slot, from, to);
+        // By their paths, since it may be the parent alone that is another.
+        const auto told = [](const AccountIndex &accounts, accounting::AccountNumber number) {
+            return accounting::presentationText(number) + u' ' + accounts.path(number);
+        };
         return accountReport(
             call.session, to.number(),
-            sentence.arg(accounting::presentationText(from), accounting::presentationText(to)));
+            sentence.arg(told(index, from.number()), told(call.session.accounts(), to.number())));
     }
 };
 

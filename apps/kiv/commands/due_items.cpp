@@ -46,12 +46,10 @@ void refuseShadowed(const budgeting::Budget &budget, const BudgetItemDueIdentifi
 }
 
 /// An item's transaction as JSON, next to the item.
-QJsonObject postedJson(Session &session, const std::optional<accounting::TransactionNumber> &number,
+QJsonObject postedJson(Session &session, accounting::TransactionNumber number,
                        const BudgetItemDueIdentifier &id)
 {
-    QJsonObject json;
-    if (number)
-        json = toJson(session.transaction(*number));
+    QJsonObject json = toJson(session.transaction(number));
     json.insert(QStringLiteral("kind"), kindWord(id.type));
     json.insert(QStringLiteral("name"), id.source.name());
     return json;
@@ -146,7 +144,7 @@ struct PostDue {
             refuseShadowed(view.budget(), due.id);
             for (const auto &[id, number] : session.change(
                      dueOutcome, &Navigator::onPostBudgetItemPosted, due, code, call.date())) {
-                rows.append(postedJson(session, number, id));
+                rows.append(postedJson(session, number.value(), id));
                 report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
                                 .arg(kindText(id.type), id.source.name(),
                                      foundation::presentationText(due.id.dueOn),
@@ -195,7 +193,7 @@ struct PayUnexpected {
             session.change(dueOutcome, &Navigator::onPostBudgetItemPostedUnexpected, due.id, money,
                            code, call.date());
         const auto &[id, number] = answers.front();
-        return Report(postedJson(session, number, id))
+        return Report(postedJson(session, number.value(), id))
             .line(QObject::tr("Posted %1 for the %2 '%3', which is still due on %4.")
                       .arg(amountText(toJson(money), session.displayAs()), kindText(id.type),
                            id.source.name(), foundation::presentationText(due.id.dueOn)));

@@ -64,14 +64,10 @@ struct Export {
     {
         const AccountIndex index = call.session.accounts();
         const std::vector<accounting::Transaction> transactions = call.session.transactions();
-        switch (format) {
-        case ExportFormat::Journal:
+        if (format == ExportFormat::Journal)
             return Report().raw(interchange::writeJournal(index.accounts(), transactions));
-        case ExportFormat::Csv:
+        if (format == ExportFormat::Csv)
             return Report().raw(interchange::writeCsv(index.accounts(), transactions));
-        case ExportFormat::Json:
-            break;
-        }
         const Report report{QJsonValue(everything(call.session, index, transactions))};
         return Report().raw(report.toJson());
     }

@@ -118,8 +118,7 @@ private:
 Report itemReport(Session &session, const BudgetItemIdentifier &id, const QString &sentence)
 {
     const BudgetView view(session);
-    const budgeting::BudgetedMoney *item = budgeting::findBudgetItem(id, view.budget());
-    return Report(item ? view.json(*item) : QJsonObject()).line(sentence);
+    return Report(view.json(view.find(id.source.name(), id.type))).line(sentence);
 }
 
 template <budgeting::BudgetItem Item>
@@ -189,9 +188,19 @@ struct UpdateItem {
         const BudgetItemIdentifier id{ItemTraits<Item>::type, present.source()};
         const bool areTagsKept = arguments.tags.empty() && !isUntagged;
         const tagging::Tags tags = areTagsKept ? view.tags(id) : arguments.asTags();
-        session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
-                       arguments.item(name, present), bankAccount(session, view, id),
-                       tagging::BudgetItemTags::ItemTags(id, tags));
+        const auto update = [&](const std::optional<BankAccount> &tied) {
+            session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
+                           arguments.item(name, present), tied,
+                           tagging::BudgetItemTags::ItemTags(id, tags));
+        };
+        const std::optional<BankAccount> wanted = bankAccount(session, view, id);
+        // Two banks may hold one debt; who names another bank wants it moved there.
+        if constexpr (std::same_as<Item, budgeting::Debt>) {
+            const std::optional<BankAccount> former = view.bankAccount(id);
+            if (former && wanted && wanted->bank != former->bank)
+                update(std::nullopt);
+        }
+        update(wanted);
         return itemReport(
             session, id,
             QObject::tr("Changed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));

@@ -124,7 +124,7 @@ struct Watch {
             const ssize_t count = ::read(STDIN_FILENO, buffer, sizeof buffer);
             if (count > 0)
                 pending.append(buffer, count);
-            else if (!pending.isEmpty() && !pending.endsWith('\n'))
+            else if (!pending.isEmpty()) // the last line, which is not ended
                 pending.append('\n');
             // A line may wait in an event loop of its own, in which neither the next
             // one nor the end of the input is due.

@@ -149,11 +149,11 @@ struct CompleteSurvey {
 private:
     [[nodiscard]] SurveyForm start(Call &call) const
     {
-        if (file && (bank || account))
+        if (file && bank)
             throw contradiction(QStringLiteral("--from"), placeholder("BANK"));
         if (file)
             return SurveyForm::fromJson(call.session, readJson(*file).object());
-        if (!bank || !account)
+        if (!account) // nor the bank, which stands before it
             throw missing(placeholder("BANK ACCOUNT"));
         if (!balance)
             throw missing(QStringLiteral("--balance"));

@@ -75,18 +75,17 @@ void fillIn(Session &session, const Answers &answers)
             answers.type, answers.account, balance, answers.household.value);
     };
     QString message;
+    // Of one failure at most, since the wizard ends with it.
+    const auto keepMessage = [&message](const auto &failures) {
+        for (const auto &failure : failures)
+            message = std::get<QString>(failure);
+    };
     const auto [banks, warning] = session.quietly([&] {
-        const auto failedItems = session.gather(&Navigator::saveFailed, [&] {
-            const auto failedBanks = session.gather(&Navigator::bankSaveFailed, [&] {
-                const auto failedAccounts = session.gather(&Navigator::bankAccountSaveFailed, run);
-                if (!failedAccounts.empty())
-                    message = std::get<QString>(failedAccounts.front());
-            });
-            if (message.isEmpty() && !failedBanks.empty())
-                message = std::get<QString>(failedBanks.front());
-        });
-        if (message.isEmpty() && !failedItems.empty())
-            message = std::get<QString>(failedItems.front());
+        keepMessage(session.gather(&Navigator::saveFailed, [&] {
+            keepMessage(session.gather(&Navigator::bankSaveFailed, [&] {
+                keepMessage(session.gather(&Navigator::bankAccountSaveFailed, run));
+            }));
+        }));
         return session.banks();
     });
     if (banks.isEmpty())

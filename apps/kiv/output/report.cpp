@@ -30,8 +30,6 @@ Cell cellOf(const Column &column, const QJsonObject &row,
     } else if (value.isDouble()) {
         cell.text = QString::number(value.toInteger());
         cell.isNumber = true;
-    } else if (value.isBool()) {
-        cell.text = value.toBool() ? QObject::tr("yes") : QObject::tr("no");
     } else if (value.isArray()) {
         QStringList texts;
         for (const QJsonValue element : value.toArray())
@@ -107,7 +105,7 @@ QString statusText(const QJsonValue &status)
         return QObject::tr("cleared");
     if (word == u"reconciled")
         return QObject::tr("reconciled");
-    return word == u"none" ? QObject::tr("none", "the status of a transaction") : word;
+    return QObject::tr("none", "the status of a transaction");
 }
 
 Report &Report::line(const QString &text)
@@ -165,7 +163,8 @@ QByteArray Report::toText(const Terminal &terminal,
             for (auto &row : rows)
                 row.back().isNumber = false;
             text += tableText({}, rows, terminal);
-        } else if (const auto *table = std::get_if<Table>(&block)) {
+        } else {
+            const auto *table = &std::get<Table>(block);
             if (table->rows.isEmpty()) {
                 text += foundation::escaped(table->whenEmpty) + u'\n';
                 continue;

@@ -19,8 +19,7 @@ struct Layout {
 
 Layout naturalLayout(const QStringList &titles, const std::vector<std::vector<Cell>> &rows)
 {
-    const std::size_t count =
-        rows.empty() ? static_cast<std::size_t>(titles.size()) : rows.front().size();
+    const std::size_t count = rows.front().size();
     Layout layout{std::vector<int>(count), std::vector<bool>(count)};
     for (std::size_t column = 0; column < count; ++column) {
         int width = titles.isEmpty() ? 0 : displayWidth(titles[static_cast<qsizetype>(column)]);

@@ -16,7 +16,8 @@ struct Cell {
     bool isNegative = false; ///< red where there are colours
 };
 
-/// The rows in columns two blanks apart, under their titles if there are any.
+/// The rows, of which there is at least one, in columns two blanks apart, under
+/// their titles if there are any.
 /// Where that is wider than the terminal, the widest columns of text are cut.
 [[nodiscard]] QString tableText(const QStringList &titles,
                                 const std::vector<std::vector<Cell>> &rows,

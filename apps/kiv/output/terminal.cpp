@@ -68,15 +68,13 @@ QString elided(const QString &text, int width)
 {
     if (displayWidth(text) <= width)
         return text;
-    std::u32string kept;
+    const auto codes = text.toUcs4();
     int used = 1; // the ellipsis
-    for (const char32_t code : text.toUcs4()) {
-        used += columnsOf(code);
-        if (used > width)
-            break;
-        kept += code;
-    }
-    return QString::fromStdU32String(kept) + QChar(0x2026);
+    // That it is wider than `width` is known, so the loop ends before the text.
+    qsizetype kept = 0;
+    while ((used += columnsOf(codes[kept])) <= width)
+        ++kept;
+    return QString::fromUcs4(codes.data(), kept) + QChar(0x2026);
 }
 
 } // namespace kiv::app

@@ -121,7 +121,7 @@ std::vector<Transaction> readTransactions(const QString &path, const AccountInde
         } catch (const foundation::Error &error) {
             throw unreadableInput(QObject::tr("transaction %1 of '%2'")
                                       .arg(QString::number(transactions.size() + 1), path),
-                                  error.message().chopped(error.message().endsWith(u'.') ? 1 : 0));
+                                  error.message());
         }
     }
     return transactions;
