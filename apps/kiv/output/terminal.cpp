@@ -68,13 +68,13 @@ QString elided(const QString &text, int width)
 {
     if (displayWidth(text) <= width)
         return text;
-    const auto codes = text.toUcs4();
+    const std::u32string codes = text.toStdU32String();
     int used = 1; // the ellipsis
     // That it is wider than `width` is known, so the loop ends before the text.
-    qsizetype kept = 0;
+    std::size_t kept = 0;
     while ((used += columnsOf(codes[kept])) <= width)
         ++kept;
-    return QString::fromUcs4(codes.data(), kept) + QChar(0x2026);
+    return QString::fromStdU32String(codes.substr(0, kept)) + QChar(0x2026);
 }
 
 } // namespace kiv::app
