@@ -656,10 +656,6 @@
         <translation>&lt;/%1&gt; steht, wo das &lt;%2&gt; der Zeile %3 geschlossen werden müsste.</translation>
     </message>
     <message>
-        <source>&lt;/%1&gt; closes nothing.</source>
-        <translation>&lt;/%1&gt; schließt nichts.</translation>
-    </message>
-    <message>
         <source>&lt;%1&gt; is not closed.</source>
         <translation>&lt;%1&gt; wird nicht geschlossen.</translation>
     </message>

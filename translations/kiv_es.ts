@@ -656,10 +656,6 @@
         <translation>&lt;/%1&gt; está donde debería cerrarse el &lt;%2&gt; de la línea %3.</translation>
     </message>
     <message>
-        <source>&lt;/%1&gt; closes nothing.</source>
-        <translation>&lt;/%1&gt; no cierra nada.</translation>
-    </message>
-    <message>
         <source>&lt;%1&gt; is not closed.</source>
         <translation>&lt;%1&gt; no se cierra.</translation>
     </message>

@@ -141,7 +141,7 @@ private slots:
         row("a list without an account", load, 2, "transaction 1 of '-': \"debit\"", "[{}]");
         row("a list with a slip", load, 2, "mean 'Checking'?\n", "[{'debit': 'Chekcing'}]");
         row("a list without a day", load, 2, "\"date\" is missing",
-            "{'transactions': [{'debit': 1, 'credit': 3}]}");
+            "{'transactions': [{'debit': 1, 'credit': 3, 'amount': '1'}]}");
         row("a list with an unknown status", load, 2, "'x' is none of: none, cleared, reconciled",
             "[{'debit': 1, 'credit': 3, 'date': '2026-01-01', 'amount': '1', 'debitStatus': 'x'}]");
     }
