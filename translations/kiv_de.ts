@@ -2153,8 +2153,8 @@
         <translation>Nicht verteilt</translation>
     </message>
     <message>
-        <source>Reconciled %1 with a balance of %2.</source>
-        <translation>%1 mit einem Saldo von %2 abgeglichen.</translation>
+        <source>Reconciled %1 at %2 with a balance of %3.</source>
+        <translation>%1 bei %2 mit einem Saldo von %3 abgeglichen.</translation>
     </message>
     <message>
         <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>

@@ -2153,8 +2153,8 @@
         <translation>Sin repartir</translation>
     </message>
     <message>
-        <source>Reconciled %1 with a balance of %2.</source>
-        <translation>Se concilió %1 con un saldo de %2.</translation>
+        <source>Reconciled %1 at %2 with a balance of %3.</source>
+        <translation>Se concilió %1 en %2 con un saldo de %3.</translation>
     </message>
     <message>
         <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>

@@ -259,6 +259,11 @@ void SurveyForm::settleGoals(Session &session)
     }
 }
 
+bool SurveyForm::isOwed() const
+{
+    return banking::isLiabilityAccount(account.account.type);
+}
+
 numira::Money SurveyForm::left() const
 {
     numira::Money rest = balance;

@@ -46,6 +46,9 @@ struct SurveyForm {
     /// accepted.
     void settleGoals(Session &session);
 
+    /// Whether the balance is a debt, as that of a credit card, of which nothing can be
+    /// set aside.
+    [[nodiscard]] bool isOwed() const;
     /// The balance without what is distributed.
     [[nodiscard]] numira::Money left() const;
     [[nodiscard]] surveying::IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier>

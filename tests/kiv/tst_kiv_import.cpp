@@ -358,6 +358,15 @@ private slots:
         QVERIFY(!chart.contains("▏"));
         QVERIFY(home.runAll({"pay Rent 0.01 --account Checking --date 2026-02-20"}));
         QVERIFY(home.run("report --chart --to 2026-02-28").out.contains("▏"));
+        // What is owed lies to the left of what is owned.
+        QVERIFY(home.runAll({"pay Rent 1250.01 --account Checking --date 2026-03-20",
+                             "pay Rent 1000.00 --account Checking --date 2026-04-20"}));
+        const QList<QByteArray> owed =
+            home.run("report --chart --from 2026-01-01 --to 2026-04-30").out.split('\n');
+        QVERIFY2(owed[3].startsWith("2026-03 ") && owed[3].endsWith("-$0.02") &&
+                     owed[3].indexOf("▏") + 1 == owed[1].indexOf("█") &&
+                     owed[4].startsWith("2026-04 █"),
+                 owed.join('\n'));
         for (const QString &line : QString::fromUtf8(chart).split(u'\n'))
             QVERIFY2(line.size() <= 80, qPrintable(line));
         QCOMPARE(home.run("report --from 2026-02-01 --to 2026-01-01").status, 1);

@@ -101,6 +101,25 @@ private slots:
         QCOMPARE(balanceOf(u"Expenses:Rent [Budget Item]"_s), u"1270.00"_s);
     }
 
+    void nothingIsSetAsideOfACard()
+    {
+        QVERIFY(m_home->runAll({"bank-account add Card --bank First --type credit-card "
+                                "--balance 80.00_USD --date 2026-01-01",
+                                "pay Rent 20.00 --account Card --date 2026-01-15"}));
+        QCOMPARE(m_home->run("reconciliation last Card").out, "8 Card was never reconciled.\n");
+        // Two transactions, the balance, and twice nothing; no question of a distribution.
+        const Ended ended =
+            m_home->run("survey run First Card --date 2026-01-31", "y\ny\n100\n\n\ny\n");
+        QVERIFY2(ended.out.endsWith("Reconciled 8 Card at First with a balance of $100.00.\n") &&
+                     !ended.out.contains("distribut"),
+                 ended.out + ended.err);
+        QCOMPARE(m_home->json("survey show First Card --date 2026-02-28")["amountDue"_L1],
+                 QJsonValue());
+        const Ended refused = m_home->run("survey complete First Card --date 2026-02-28 "
+                                          "--balance 100 --distribute Rent=5");
+        QVERIFY2(refused.status == 1 && refused.err.contains("cannot be distributed"), refused.err);
+    }
+
     void badSurveysChangeNothing_data()
     {
         QTest::addColumn<QByteArray>("line");

@@ -66,6 +66,8 @@ Report formReport(Session &session, const SurveyForm &form)
     };
     changes(QObject::tr("Changes by budget item"), "itemChanges", QObject::tr("Item"));
     changes(QObject::tr("Other changes"), "accountChanges", QObject::tr("Account"));
+    if (form.isOwed())
+        return report;
     report.heading(QObject::tr("Proposed distribution"))
         .table({{QObject::tr("Item"), QStringLiteral("name")},
                 {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
@@ -83,9 +85,11 @@ Report complete(Session &session, const SurveyForm &form)
     session.change(surveyOutcome, &Navigator::onCompletedSurvey, form.date, form.account,
                    form.balance, form.reconciled, form.itemChanges(), form.accountChanges(),
                    form.distribution, form.nonDistributed);
+    const accounting::AccountCode code =
+        session.accounts().find(form.account.account.number)->code();
     return Report(form.toJson(session))
-        .line(QObject::tr("Reconciled %1 with a balance of %2.")
-                  .arg(banking::presentationText(form.account),
+        .line(QObject::tr("Reconciled %1 at %2 with a balance of %3.")
+                  .arg(accounting::presentationText(code), form.account.bank.institution(),
                        amountText(toJson(form.balance), session.displayAs())));
 }
 
@@ -193,8 +197,10 @@ struct RunSurvey {
                       [&](const QString &text) { form.addItem(call.session, text); });
         dialogue.each(QObject::tr("Money for another account, as ACCOUNT=AMOUNT"),
                       [&](const QString &text) { form.addExtra(call.session, text); });
-        dialogue.each(QObject::tr("What is set aside for an item, as ITEM=AMOUNT"),
-                      [&](const QString &text) { form.distribute(call.session, text); });
+        if (!form.isOwed()) {
+            dialogue.each(QObject::tr("What is set aside for an item, as ITEM=AMOUNT"),
+                          [&](const QString &text) { form.distribute(call.session, text); });
+        }
         form.nonDistributed = form.left();
         form.settleGoals(call.session);
         if (!dialogue.agrees(QObject::tr("Complete the survey?")))

@@ -58,8 +58,10 @@ Transaction readTransaction(const QJsonObject &object, const AccountIndex &index
     const accounting::AccountCode credit = readAccount(object, "credit", index);
     const numira::Currency currency = index.find(debit.number())->balance().code();
     const QString description = object.value(QLatin1String("description")).toString();
-    const Transaction transaction(readDate(object, "date"), debit, credit,
-                                  readMoney(object.value(QLatin1String("amount")), currency),
+    // Named in turn, so that of two faults the same one is told by every compiler.
+    const auto date = readDate(object, "date");
+    const numira::Money amount = readMoney(object.value(QLatin1String("amount")), currency);
+    const Transaction transaction(date, debit, credit, amount,
                                   description.isEmpty() ? std::nullopt
                                                         : std::optional(description));
     return transaction.withStatuses(readStatus(object, "debitStatus"),
