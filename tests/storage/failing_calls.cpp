@@ -73,10 +73,13 @@ int close(int file)
     const auto result = static_cast<int>(::syscall(SYS_close, file));
     return answer("close", [&] { return result; });
 }
+ssize_t pwrite(int file, const void *bytes, size_t size, off_t offset) { return ask<SYS_pwrite64>("pwrite", file, bytes, size, offset); }
+ssize_t readlink(const char *path, char *target, size_t size) { return ask<SYS_readlink>("readlink", path, target, size); }
 ssize_t read(int file, void *bytes, size_t size) { return ask<SYS_read>("read", file, bytes, size); }
 int fsync(int file) { return ask<SYS_fsync>("fsync", file); }
 int fchmod(int file, mode_t mode) { return ask<SYS_fchmod>("fchmod", file, mode); }
 int fchown(int file, uid_t user, gid_t group) { return ask<SYS_fchown>("fchown", file, user, group); }
+int fremovexattr(int file, const char *name) { return ask<SYS_fremovexattr>("fremovexattr", file, name); }
 int fsetxattr(int file, const char *name, const void *value, size_t size, int flags)
 { return ask<SYS_fsetxattr>("fsetxattr", file, name, value, size, flags); }
 ssize_t fgetxattr(int file, const char *name, void *value, size_t size) { return ask<SYS_fgetxattr>("fgetxattr", file, name, value, size); }
