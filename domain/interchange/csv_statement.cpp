@@ -14,7 +14,7 @@ namespace kiv::interchange {
 
 namespace {
 
-/// Headings by which banks call the columns, in lower case.
+/// Headings by which banks call the columns, as `plainHeading` leaves them.
 const QStringList dateHeadings{QStringLiteral("date"),
                                QStringLiteral("booking date"),
                                QStringLiteral("transaction date"),
@@ -23,7 +23,8 @@ const QStringList dateHeadings{QStringLiteral("date"),
                                QStringLiteral("buchungsdatum"),
                                QStringLiteral("datum"),
                                QStringLiteral("fecha"),
-                               QStringLiteral("fecha operación")};
+                               QStringLiteral("fecha operacion"),
+                               QStringLiteral("fecha de operacion")};
 const QStringList amountHeadings{QStringLiteral("amount"), QStringLiteral("betrag"),
                                  QStringLiteral("umsatz"), QStringLiteral("importe"),
                                  QStringLiteral("cantidad")};
@@ -35,11 +36,20 @@ const QStringList textHeadings{QStringLiteral("description"),
                                QStringLiteral("buchungstext"),
                                QStringLiteral("text"),
                                QStringLiteral("concepto"),
-                               QStringLiteral("descripción")};
+                               QStringLiteral("descripcion")};
 const QStringList idHeadings{QStringLiteral("fitid"), QStringLiteral("transaction id"),
                              QStringLiteral("reference"), QStringLiteral("referenz")};
-const QStringList currencyHeadings{QStringLiteral("currency"), QStringLiteral("währung"),
-                                   QStringLiteral("moneda"), QStringLiteral("divisa")};
+const QStringList currencyHeadings{QStringLiteral("currency"), QStringLiteral("wahrung"),
+                                   QStringLiteral("waehrung"), QStringLiteral("moneda"),
+                                   QStringLiteral("divisa")};
+
+/// "wahrung" of "Währung": in lower case and without the marks that banks often leave out.
+QString plainHeading(const QString &heading)
+{
+    QString plain = heading.toLower().normalized(QString::NormalizationForm_D);
+    plain.removeIf([](QChar letter) { return letter.isMark(); });
+    return plain;
+}
 
 class StatementReader {
 public:
@@ -111,8 +121,10 @@ private:
     {
         if (column.isEmpty()) {
             for (const QString &heading : headings) {
-                const auto same = [&heading](const QString &present) {
-                    return present.compare(heading, Qt::CaseInsensitive) == 0;
+                const auto same = [&heading, this](const QString &present) {
+                    const QString plain = plainHeading(present);
+                    return plain == heading || (plain.startsWith(heading + QStringLiteral(" (")) &&
+                                                namesCurrency(plain.sliced(heading.size() + 2)));
                 };
                 const auto at = std::ranges::find_if(m_headings, same);
                 if (at != m_headings.end())
@@ -127,6 +139,13 @@ private:
         if (at < 0)
             throw faults::noSuchColumn(place, column, m_headings);
         return at;
+    }
+    /// Whether it is the account's currency in brackets, as in "Betrag (EUR)".
+    [[nodiscard]] bool namesCurrency(const QString &rest) const
+    {
+        const auto named = rest.endsWith(u')') ? readCurrency(rest.chopped(1).toUpper(), m_currency)
+                                               : std::nullopt;
+        return named == m_currency;
     }
     [[nodiscard]] qsizetype need(const QString &column, const QStringList &headings,
                                  const char *option, const Place &place) const

@@ -140,10 +140,10 @@ private slots:
         };
         row("common headings",
             "\xEF\xBB\xBF"
-            "Date,Description,Amount\r\n2026-01-05,\"a, \"\"b\"\"\",-1.50\r\n",
+            "Fecha Operaci\u00f3n,Description,Amount\r\n2026-01-05,\"a, \"\"b\"\"\",-1.50\r\n",
             "{}", "2026-01-05 -1.50 EUR|a, \"b\"||");
         row("semicolons, another notation, lines above",
-            "Konto 42\n\nBuchungstag;Betrag;Verwendungszweck\n05.01.2026;-1.234,50 €;Miete\n",
+            "Konto 42\n\nBuchungstag;Betrag (EUR);Verwendungszweck\n05.01.2026;-1.234,50 €;Miete\n",
             "{'skip':2,'dateFormat':'DD.MM.YYYY','decimal':','}",
             "2026-01-05 -1234.50 EUR|Miete||");
         row("two columns of amounts by number, no headings",
@@ -171,7 +171,7 @@ private slots:
         row("two bytes a letter", QByteArray("D\0a\0", 4), "{}",
             "'f', line 1: This is not valid UTF-8; name the file's encoding with --encoding.");
         row("a column of currencies that nobody named",
-            "Date,Amount,Text,Currency\n2026-01-05,5,x,\n2026-01-05,5,y,USD\n", "{}",
+            "Date,Amount,Text,Waehrung\n2026-01-05,5,x,\n2026-01-05,5,y,USD\n", "{}",
             "2026-01-05 5.00 EUR|x||\n2026-01-05 5.00 USD|y||");
         row("a quote without an end", "Date,Amount,Text\n2026-01-05,1,\"x\n", "{}",
             "'f', line 2: A quote begins here and does not end.");
@@ -189,10 +189,10 @@ private slots:
             "'f', line 1: The record has more than 1000 cells.");
         row("more records than transactions", QByteArray("x\n").repeated(65'537), "{}",
             "'f', line 65537: A budget holds no more than 65535 transactions.");
-        row("a column that nobody named", "Date,Text\n", "{}",
+        row("a column that nobody named", "Date,Text,Betrag (USD)\n", "{}",
             "'f', line 1: Say with --amount-column (or --in-column and --out-column) which column "
             "it "
-            "is, of: Date, Text.");
+            "is, of: Date, Text, Betrag (USD).");
         row("a short record", "Date,Text,Amount\n2026-01-05,x\n", "{}",
             "'f', line 2: The record has only 2 of the 3 cells that are needed.");
         row("a comma that divides an amount", "Date,Text,Amount\n2026-01-05,x,1,50\n", "{}",
