@@ -156,6 +156,16 @@ private slots:
         row("a mark and a currency for all, a remark that stands twice",
             "decimal-mark .\n!D $1000.00\n2026-01-05 x\n Assets:A  1,234 ; c\n Assets:B  ; c",
             "2026-01-05 asset:A<asset:B USD 1234.00 x; c --");
+        row("aliases and parents",
+            "alias a=Assets\nalias a:b=Assets:Bank\naccount Expenses:Food\n  alias food\n"
+            "2026-01-01 x\n a:b:c  $3\n a:d  $-1\n food  $-2\n"
+            "end aliases\napply account Assets\napply account Cash\naccount E  ; type: X\n"
+            "2026-01-02 y\n E  $1\n F\nend\nend apply account\n"
+            "2026-01-03 z\n Assets:A  $1\n Income:B",
+            "2026-01-01 asset:Bank:c<asset:d USD 1.00 x --\n"
+            "2026-01-01 asset:Bank:c<expense:Food USD 2.00 x --\n"
+            "2026-01-02 expense:Cash:E<asset:Cash:F USD 1.00 y --\n"
+            "2026-01-03 asset:A<income:B USD 1.00 z --");
         row("a remark too long to be kept",
             ("2026-01-01 x\n Assets:A  $1 ; " + QByteArray(2001, 'c') + "\n Assets:B").constData(),
             "2026-01-01 asset:A<asset:B USD 1.00 x --");
@@ -187,15 +197,24 @@ private slots:
         };
         const QByteArray unsupported = "' cannot be imported.";
         for (const QByteArray directive :
-             {"bucket Assets:A", "account Assets:A\nalias A", "commodity EUR\nalias E",
-              "payee A\nalias B", "Y 26", "decimal-mark x", "end tag", "end x",
-              "apply account A"}) {
+             {"bucket Assets:A", "commodity EUR\nalias E", "payee A\nalias B", "Y 26",
+              "decimal-mark x", "end tag", "end x", "apply account", "apply fixed A"}) {
             const QByteArrayList lines = directive.split('\n');
             row(directive, "\n" + lines.join("\n  "),
                 "'j', line " + QByteArray::number(lines.size() + 1) + ": '" + lines.back() +
                     "' is neither a transaction nor a directive that can be imported; a ; at the "
                     "beginning of the line leaves it out.");
         }
+        const QByteArray alias = "alias a=Assets:A\n";
+        for (const QByteArray other : {"/a/=b", "a", "=a"})
+            row("alias " + other, "alias " + other,
+                "'j', line 1: 'alias " + other.split('=')[0] + unsupported);
+        row("an alias and a parent", alias + "apply account Personal",
+            "'j', line 2: 'apply account Personal" + unsupported);
+        row("a parent and an alias", "apply account Personal\n" + alias,
+            "'j', line 2: 'alias a" + unsupported);
+        row("too long a parent", "apply account " + QByteArray(200, 'A'),
+            "'j', line 1: 'apply account " + QByteArray(46, 'A') + "…" + unsupported);
         for (const QByteArray query : {"= desc:Job", "= /A/ and /B/", "= 'Assets:A'"})
             row(query, query + "\n (Assets:B)  1\n", "'j', line 1: '" + query + unsupported);
         for (const QByteArray amount : {"($1 * 2)", "*$2", "== $1", "=* $1", "{$1}", "@ $-1"}) {

@@ -67,7 +67,16 @@ private slots:
                    "    [Assets:Owed:Ben]    10.00 EUR\n\n"
                    "2026-01-04 Changed back\n"
                    "    Assets:Cash          7.50 EUR @ 1.12 USD\n"
-                   "    Assets:Bank:Dollars\n");
+                   "    Assets:Bank:Dollars\n"
+                   "apply account Expenses\n\n"
+                   "2026-01-05 Moved\n"
+                   "    Lunch                5.00 EUR\n"
+                   "    Food                -5.00 EUR\n"
+                   "end apply account\n"
+                   "alias owed=Assets:Owed\n\n"
+                   "2026-01-06 Paid back\n"
+                   "    Assets:Cash          3.00 EUR\n"
+                   "    owed:Ann\n");
         QVERIFY(home.runAll({"new", "import forms.journal"}));
         Balances own = ownBalances(home);
         // Each currency that paid for another one went through an account.
@@ -75,7 +84,7 @@ private slots:
             return balance.first.startsWith(u"Equity:Conversion:");
         };
         QCOMPARE(std::erase_if(own, isConversion), std::size_t{2});
-        QCOMPARE(own.size(), std::size_t{8});
+        QCOMPARE(own.size(), std::size_t{9});
         for (const QString &tool : {u"ledger"_s, u"hledger"_s}) {
             QCOMPARE(toolBalances(home, tool, home.path("forms.journal")), own);
         }

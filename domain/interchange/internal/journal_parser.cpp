@@ -14,6 +14,8 @@ namespace {
 
 constexpr int depthMax = 8;
 constexpr int includesMax = 1000;
+/// Of what stands in place of or before each account's name, which postings copy.
+constexpr qsizetype nameMax = 200;
 
 bool isBlank(QStringView line)
 {
@@ -166,8 +168,12 @@ void JournalParser::takeDirective(const Block &block)
         takeCommodity(block, word == u"D", rest);
     } else if (word == u"include") {
         takeInclude(block, rest);
-    } else if (word == u"apply" || word == u"end") {
-        takeTagging(block, word, rest);
+    } else if (word == u"apply") {
+        takeApply(block, rest);
+    } else if (word == u"end") {
+        takeEnd(block, rest);
+    } else if (word == u"alias") {
+        takeAlias(block.place, rest.section(u'=', 0, 0), rest.section(u'=', 1));
     } else if (word == u"P") {
         m_sink.notice(QObject::tr("Market prices are left out; they change no balance."));
     } else if (word == u"decimal-mark" && (rest == u"." || rest == u",")) {
@@ -193,6 +199,8 @@ void JournalParser::takeAccount(const Block &block, const QString &name)
     for (const auto &[place, line] : block.lines) {
         if (line.startsWith(u';'))
             addTags(line.mid(1).trimmed(), tags);
+        else if (line.startsWith(u"alias "))
+            takeAlias(place, line.mid(6), account);
         else if (!isRemark(line))
             throw faults::unknownDirective(place, line);
     }
@@ -200,7 +208,7 @@ void JournalParser::takeAccount(const Block &block, const QString &name)
         tags.erase(QStringLiteral("number"));
         tags.erase(QStringLiteral("currency"));
     }
-    m_sink.declare(account.simplified(), tags, block.place);
+    m_sink.declare(fullName(account.simplified()), tags, block.place);
 }
 
 void JournalParser::takeCommodity(const Block &block, bool isDefault, const QString &sample)
@@ -235,20 +243,64 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
     m_settings = outer;
 }
 
-void JournalParser::takeTagging(const Block &block, const QString &word, const QString &rest)
+void JournalParser::takeApply(const Block &block, const QString &rest)
 {
     // Every transaction copies them.
-    constexpr qsizetype appliedTagsMax = 100;
-    static const QStringList ends{QString(), QStringLiteral("tag"), QStringLiteral("apply tag")};
-    QStringList &applied = m_settings.appliedTags;
-    if (applied.size() > appliedTagsMax)
+    constexpr std::size_t appliedMax = 100;
+    const QString kind = rest.section(u' ', 0, 0);
+    const QString value = rest.mid(kind.size()).trimmed();
+    if (m_settings.applied.size() > appliedMax)
         throw faults::nestedTooDeeply(block.place);
-    if (word == u"apply" && rest.startsWith(u"tag "))
-        applied += rest.mid(4).trimmed();
-    else if (word == u"end" && ends.contains(rest) && !applied.isEmpty())
-        applied.removeLast();
-    else
+    if (value.isEmpty() || (kind != u"tag" && kind != u"account"))
         throw faults::unknownDirective(block.place, block.head);
+    m_settings.applied.push_back({kind, value});
+    // Which of an alias and a parent comes first is not the same everywhere.
+    if (kind == u"account" && (!m_aliases.empty() || fullName({}).size() > nameMax))
+        throw faults::unsupported(block.place, block.head);
+}
+
+void JournalParser::takeEnd(const Block &block, const QString &rest)
+{
+    if (rest == u"aliases")
+        return m_aliases.clear();
+    const QString kind = rest.startsWith(u"apply") ? rest.mid(5).trimmed() : rest;
+    if (m_settings.applied.empty() || (!kind.isEmpty() && kind != m_settings.applied.back().kind))
+        throw faults::unknownDirective(block.place, block.head);
+    m_settings.applied.pop_back();
+}
+
+void JournalParser::takeAlias(const Place &place, const QString &alias, const QString &account)
+{
+    const QString name = alias.simplified();
+    const QString target = account.simplified();
+    const bool isPattern = name.startsWith(u'/');
+    if (name.isEmpty() || target.isEmpty() || isPattern || target.size() > nameMax ||
+        isApplied(QStringLiteral("account")))
+        throw faults::unsupported(place, QStringLiteral("alias ") + alias);
+    m_aliases.insert_or_assign(name, target);
+}
+
+bool JournalParser::isApplied(const QString &kind) const
+{
+    return std::ranges::find(m_settings.applied, kind, &Applied::kind) != m_settings.applied.end();
+}
+
+QString JournalParser::fullName(const QString &name) const
+{
+    QString parents;
+    for (const Applied &applied : m_settings.applied)
+        parents += applied.kind == u"account" ? applied.value + u':' : QString();
+    // An alias stands for an account or for one of its parents; the longest counts.
+    constexpr int levelsMax = 100;
+    QString full = parents + name;
+    qsizetype end = m_aliases.empty() ? -1 : 0;
+    for (int level = 0; level < levelsMax && end >= 0; ++level) {
+        end = name.indexOf(u':', end + 1);
+        const auto alias = m_aliases.find(end < 0 ? name : name.left(end));
+        if (alias != m_aliases.end())
+            full = alias->second + (end < 0 ? QString() : name.mid(end));
+    }
+    return full;
 }
 
 // ---- entries -------------------------------------------------------------------
@@ -303,7 +355,10 @@ void JournalParser::takeEntry(const Block &block)
     if (!code.isEmpty() && !m_settings.isOwn)
         entry.description = (u'(' + code + QStringLiteral(") ") + entry.description).trimmed();
     entry.comments += comment;
-    entry.comments += m_settings.appliedTags;
+    for (const Applied &applied : m_settings.applied) {
+        if (applied.kind == u"tag")
+            entry.comments += applied.value;
+    }
     addPostings(block, entry);
     m_sink.add(std::move(entry));
 }
@@ -359,6 +414,7 @@ Posting JournalParser::readPosting(const Place &place, QStringView line) const
         posting.account = posting.account.mid(1, posting.account.size() - 2).trimmed();
     if (posting.account.isEmpty())
         throw faults::noAccount(place);
+    posting.account = fullName(posting.account);
     readAmounts(line, posting);
     return posting;
 }

@@ -42,13 +42,19 @@ private:
         std::vector<std::pair<Place, QString>> lines = {};
     };
 
+    /// What "apply tag" or "apply account" says of the lines behind it.
+    struct Applied {
+        QString kind; ///< "tag" or "account"
+        QString value;
+    };
+
     /// What holds for the lines of a file and of those that it includes there, and
     /// ends with it.
     struct Settings {
         bool isOwn = false; ///< see ownHeader
         int depth = 0;      ///< how many files include this one
         std::optional<int> year = {};
-        QStringList appliedTags = {};
+        std::vector<Applied> applied = {};
         AmountSettings amounts = {};
     };
 
@@ -57,7 +63,12 @@ private:
     void takeAccount(const Block &block, const QString &name);
     void takeCommodity(const Block &block, bool isDefault, const QString &sample);
     void takeInclude(const Block &block, const QString &path);
-    void takeTagging(const Block &block, const QString &word, const QString &rest);
+    void takeApply(const Block &block, const QString &rest);
+    void takeEnd(const Block &block, const QString &rest);
+    void takeAlias(const Place &place, const QString &alias, const QString &account);
+    [[nodiscard]] bool isApplied(const QString &kind) const;
+    /// The account that such a name stands for, under what is applied.
+    [[nodiscard]] QString fullName(const QString &name) const;
     void takeEntry(const Block &block);
     void takeAutomated(const Block &block);
     void addPostings(const Block &block, Entry &entry) const;
@@ -69,6 +80,7 @@ private:
     JournalSink &m_sink;
     Settings m_settings;
     QuantityReader m_quantities;
+    std::map<QString, QString> m_aliases; ///< the accounts that they stand for
     int m_included = 0;
 };
 
