@@ -60,6 +60,16 @@ namespace kiv::accounting {
 
 using Ledger = GeneralLedger;
 using Number = TransactionNumber;
+using Generator = SequentialAccountNumberGenerator;
+
+// The pointer to a virtual function does not tell where it is.
+const AccountNumber &Generator::operator++()
+{
+    constexpr const char *name = "_ZN3kiv10accounting32SequentialAccountNumberGeneratorppEv";
+    fault.pass(name);
+    static auto *const step = reinterpret_cast<const AccountNumber &(*)(Generator *)>(::dlsym(RTLD_NEXT, name));
+    return step(this);
+}
 
 std::optional<Number> Ledger::add(const Account &a, AccountNumberGenerator &g, QDate d) { return pass(&Ledger::add, this, a, g, d); }
 void Ledger::remove(AccountNumber n) { return pass(qOverload<AccountNumber>(&Ledger::remove), this, n); }

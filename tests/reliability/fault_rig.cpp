@@ -49,7 +49,7 @@ struct Deliberate {
 };
 const Deliberate mayStay[] = {
     {"^item|^configuration|^processing: show",
-     "GeneralLedger3add|GeneralLedger4post",
+     "GeneralLedger3add|GeneralLedger4post|GeneratorppEv",
      {u"budget"_qs}},
     {"rename|new name", "GeneralLedger6ledger|GeneralLedger6recode", {u"budget"_qs}},
     {"^account: re(code|name)", "BankMap|renamedAccount", {u"ledger"_qs, u"banks"_qs}},

@@ -254,6 +254,7 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("opened by a missing transaction", {"UPDATE accounts SET opened_by = 9"});
     row("malformed text", {"UPDATE accounts SET name = CAST(x'ff' AS TEXT)"});
     row("overlong text", {"UPDATE accounts SET name = CAST(x'c080' AS TEXT)"});
+    row("text beyond all", {"UPDATE accounts SET name = printf('%.*c', 17000000, 'n')"});
     row("surrogates that make a pair",
         {"UPDATE accounts SET name = CAST(x'eda080edb080' AS TEXT)"});
     row("transaction number too high", {"UPDATE transactions SET number = 65536 WHERE number = 2"});
