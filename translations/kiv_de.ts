@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2.</source>
-        <translation>„%1“ ist kein Tag in der Schreibweise %2.</translation>
+        <translation>„%1“ ist kein Datum in der Form %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a number.</source>
@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>The amounts here cannot be kept exactly.</source>
-        <translation>Die Beträge hier können nicht genau bewahrt werden.</translation>
+        <translation>Die Beträge hier lassen sich nicht genau darstellen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>Say with %1 which column it is, of: %2.</source>
-        <translation>Mit %1 wird angegeben, welche Spalte es ist, von: %2.</translation>
+        <translation>Die Spalte wird mit %1 angegeben; es gibt: %2.</translation>
     </message>
     <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
-        <translation>Am Ende jedes Monats, was alles Vermögen ausmacht, abzüglich der Verbindlichkeiten; zuletzt %1.</translation>
+        <translation>Das gesamte Vermögen am Ende jedes Monats, abzüglich der Verbindlichkeiten; zuletzt %1.</translation>
     </message>
     <message>
         <source>Net worth</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Budget against actual, %1</source>
-        <translation>Budget und Wirklichkeit, %1</translation>
+        <translation>Plan-Ist-Vergleich, %1</translation>
     </message>
     <message>
         <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
@@ -794,7 +794,7 @@
     </message>
     <message>
         <source>Budget against actual by month</source>
-        <translation>Budget und Wirklichkeit nach Monaten</translation>
+        <translation>Plan-Ist-Vergleich nach Monaten</translation>
     </message>
     <message>
         <source>Balances on %1</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Second days of transactions are left out.</source>
-        <translation>Zweite Tage von Buchungen werden ausgelassen.</translation>
+        <translation>Zweite Datumsangaben von Buchungen werden ausgelassen.</translation>
     </message>
     <message>
         <source>Check %1</source>
@@ -1966,7 +1966,7 @@
     </message>
     <message>
         <source>Entries of nothing are left out.</source>
-        <translation>Einträge über nichts werden ausgelassen.</translation>
+        <translation>Einträge mit dem Betrag null werden ausgelassen.</translation>
     </message>
     <message>
         <source>New account</source>
@@ -2086,7 +2086,7 @@
     </message>
     <message>
         <source>Budget against actual</source>
-        <translation>Budget und Wirklichkeit</translation>
+        <translation>Plan-Ist-Vergleich</translation>
     </message>
     <message>
         <source>In %1</source>
@@ -2268,7 +2268,7 @@
     </message>
     <message>
         <source>not whole</source>
-        <translation>nicht heil</translation>
+        <translation>beschädigt</translation>
     </message>
     <message>
         <source>Version</source>
@@ -2324,7 +2324,7 @@
     </message>
     <message>
         <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
-        <translation>Der Betrag „%1“ ist zu groß, um genau bewahrt zu werden.</translation>
+        <translation>Der Betrag „%1“ ist zu groß, um genau dargestellt zu werden.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
@@ -2352,7 +2352,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is none of: %2</source>
-        <translation>„%1“ ist nichts von: %2</translation>
+        <translation>„%1“ ist keiner von diesen Werten: %2</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
@@ -2480,7 +2480,7 @@
     </message>
     <message>
         <source>The version in &apos;%1&apos; is not whole.</source>
-        <translation>Die Version in „%1“ ist nicht heil.</translation>
+        <translation>Die Version in „%1“ ist beschädigt.</translation>
     </message>
     <message>
         <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
@@ -2681,14 +2681,6 @@
     <message>
         <source>%1 is required.</source>
         <translation>%1 ist nötig.</translation>
-    </message>
-    <message>
-        <source>%1: 1 required %2 missing.</source>
-        <translation>%1: 1 %2 fehlt.</translation>
-    </message>
-    <message>
-        <source>%1: At Most %2 required but received %3.</source>
-        <translation>%1: höchstens %2 möglich, aber %3 angegeben.</translation>
     </message>
     <message>
         <source>Could not convert: %1 = %2.</source>
@@ -2940,7 +2932,7 @@
     </message>
     <message>
         <source>Verdict</source>
-        <translation>Urteil</translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2948,11 +2940,11 @@
     </message>
     <message>
         <source>The budget &apos;%1&apos; is whole.</source>
-        <translation>Das Budget „%1“ ist heil.</translation>
+        <translation>Das Budget „%1“ ist unbeschädigt.</translation>
     </message>
     <message>
         <source>The budget &apos;%1&apos; is not whole; kiv check FILE tells which of its backups (%1.backup-1, …) is.</source>
-        <translation>Das Budget „%1“ ist nicht heil; kiv check DATEI sagt, welche seiner Sicherungen (%1.backup-1, …) es ist.</translation>
+        <translation>Das Budget „%1“ ist beschädigt; kiv check DATEI sagt, welche seiner Sicherungen (%1.backup-1, …) es nicht ist.</translation>
     </message>
     <message>
         <source>Verify a budget file and tell each of its promises</source>
@@ -2964,7 +2956,7 @@
     </message>
     <message>
         <source>What shells and manual pages are made of</source>
-        <translation>Woraus Shells und Handbuchseiten schöpfen</translation>
+        <translation>Grundlage der Vervollständigung und der Handbuchseiten</translation>
     </message>
     <message>
         <source>Print the completion script for bash</source>
@@ -3133,7 +3125,7 @@
     </message>
     <message>
         <source>How days are written, like DD.MM.YYYY</source>
-        <translation>Wie Tage geschrieben sind, etwa DD.MM.YYYY</translation>
+        <translation>Schreibweise der Datumsangaben, etwa DD.MM.YYYY</translation>
     </message>
     <message>
         <source>The currency of amounts that have none (journal)</source>
@@ -3161,7 +3153,7 @@
     </message>
     <message>
         <source>The column of the day, by heading or number (csv)</source>
-        <translation>Die Spalte des Tages, nach Überschrift oder Nummer (csv)</translation>
+        <translation>Die Spalte des Datums, nach Überschrift oder Nummer (csv)</translation>
     </message>
     <message>
         <source>The column of the amount (csv)</source>
@@ -3253,7 +3245,7 @@
     </message>
     <message>
         <source>What it is to come to</source>
-        <translation>Was es werden soll</translation>
+        <translation>Welcher Betrag erreicht werden soll</translation>
     </message>
     <message>
         <source>The bank account under which it is put aside</source>
@@ -3461,7 +3453,7 @@
     </message>
     <message>
         <source>Show on a temporary budget what the command does</source>
-        <translation>An einem vorläufigen Budget zeigen, was der Befehl kann</translation>
+        <translation>An einem Probebudget zeigen, was der Befehl kann</translation>
     </message>
     <message>
         <source>What moves; in the debited account&apos;s currency</source>
@@ -3857,7 +3849,7 @@
     </message>
     <message>
         <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
-        <translation>Die Zeile hat %1 Zellen, obwohl es nur %2 Überschriften gibt; eine Zelle, die das Trennzeichen enthält, braucht Anführungszeichen.</translation>
+        <translation>Der Datensatz hat %1 Zellen, obwohl es nur %2 Überschriften gibt; eine Zelle, die das Trennzeichen enthält, braucht Anführungszeichen.</translation>
     </message>
     <message>
         <source>There are neither headings nor entries.</source>
@@ -3865,7 +3857,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
-        <translation>„%1“ ist keine Schreibweise für Tage; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
+        <translation>„%1“ ist keine Schreibweise für ein Datum; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
     </message>
     <message>
         <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
@@ -3885,7 +3877,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
-        <translation>„%1“ ist kein Tag in der Form %2; eine andere Form wird mit --date-format angegeben.</translation>
+        <translation>„%1“ ist kein Datum in der Form %2; eine andere Form wird mit --date-format angegeben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
@@ -3897,7 +3889,7 @@
     </message>
     <message>
         <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
-        <translation>Die Tage können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa M/D/YYYY.</translation>
+        <translation>Die Datumsangaben können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa M/D/YYYY.</translation>
     </message>
     <message>
         <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
@@ -3921,7 +3913,7 @@
     </message>
     <message>
         <source>%1 kiv history tells which former version is whole; copy that file (&apos;%2&apos;, …) into its place.</source>
-        <translation>%1 kiv history sagt, welche frühere Version heil ist; diese Datei („%2“, …) ist an ihre Stelle zu kopieren.</translation>
+        <translation>%1 kiv history sagt, welche frühere Version unbeschädigt ist; diese Datei („%2“, …) ist an ihre Stelle zu kopieren.</translation>
     </message>
     <message>
         <source>it is larger than 64 MiB, which line %1 exceeds; split it into smaller files</source>
@@ -3933,7 +3925,7 @@
     </message>
     <message>
         <source>Its header is not whole.</source>
-        <translation>Ihr Kopf ist nicht heil.</translation>
+        <translation>Ihr Kopf ist beschädigt.</translation>
     </message>
     <message>
         <source>There is more than a file may hold.</source>
@@ -3950,6 +3942,19 @@
     <message>
         <source>A text is too long.</source>
         <translation>Ein Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value (%2).</source>
+        <translation>%1 braucht einen Wert (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was given %3 times, where %2 is the most.</source>
+        <translation>%1 wurde %3-mal angegeben; höchstens %2-mal ist möglich.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <comment>a name</comment>
+        <translation>„%1“</translation>
     </message>
 </context>
 <context>

@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2.</source>
-        <translation>«%1» no es un día escrito como %2.</translation>
+        <translation>«%1» no es una fecha escrita como %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a number.</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>Say with %1 which column it is, of: %2.</source>
-        <translation>Se indica con %1 qué columna es, de: %2.</translation>
+        <translation>La columna se indica con %1; las que hay: %2.</translation>
     </message>
     <message>
         <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
-        <translation>Al final de cada mes, lo que suman todos los activos menos lo que se debe; al final %1.</translation>
+        <translation>Lo que suman todos los activos al final de cada mes, menos lo que se debe; el último, %1.</translation>
     </message>
     <message>
         <source>Net worth</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Budget against actual, %1</source>
-        <translation>Presupuesto y realidad, %1</translation>
+        <translation>Presupuesto y gasto real, %1</translation>
     </message>
     <message>
         <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
@@ -794,7 +794,7 @@
     </message>
     <message>
         <source>Budget against actual by month</source>
-        <translation>Presupuesto y realidad por meses</translation>
+        <translation>Presupuesto y gasto real por meses</translation>
     </message>
     <message>
         <source>Balances on %1</source>
@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>Second days of transactions are left out.</source>
-        <translation>Los segundos días de los asientos se omiten.</translation>
+        <translation>Las segundas fechas de los asientos se omiten.</translation>
     </message>
     <message>
         <source>Check %1</source>
@@ -1966,7 +1966,7 @@
     </message>
     <message>
         <source>Entries of nothing are left out.</source>
-        <translation>Las entradas de nada se omiten.</translation>
+        <translation>Las entradas de importe cero se omiten.</translation>
     </message>
     <message>
         <source>New account</source>
@@ -2086,7 +2086,7 @@
     </message>
     <message>
         <source>Budget against actual</source>
-        <translation>Presupuesto y realidad</translation>
+        <translation>Presupuesto y gasto real</translation>
     </message>
     <message>
         <source>In %1</source>
@@ -2352,7 +2352,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is none of: %2</source>
-        <translation>«%1» no es ninguno de: %2</translation>
+        <translation>«%1» no es ninguno de estos valores: %2</translation>
     </message>
     <message>
         <source>%1 and %2 exclude each other.</source>
@@ -2683,14 +2683,6 @@
         <translation>Hace falta %1.</translation>
     </message>
     <message>
-        <source>%1: 1 required %2 missing.</source>
-        <translation>%1: falta 1 %2.</translation>
-    </message>
-    <message>
-        <source>%1: At Most %2 required but received %3.</source>
-        <translation>%1: se admite como máximo %2, pero se indicaron %3.</translation>
-    </message>
-    <message>
         <source>Could not convert: %1 = %2.</source>
         <translation>No se puede convertir: %1 = %2.</translation>
     </message>
@@ -2940,7 +2932,7 @@
     </message>
     <message>
         <source>Verdict</source>
-        <translation>Veredicto</translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2964,19 +2956,19 @@
     </message>
     <message>
         <source>What shells and manual pages are made of</source>
-        <translation>Lo que usan los intérpretes y las páginas de manual</translation>
+        <translation>Base del autocompletado y de las páginas de manual</translation>
     </message>
     <message>
         <source>Print the completion script for bash</source>
-        <translation>Escribe el guion de compleción para bash</translation>
+        <translation>Escribe el guion de autocompletado para bash</translation>
     </message>
     <message>
         <source>Print the completion script for zsh</source>
-        <translation>Escribe el guion de compleción para zsh</translation>
+        <translation>Escribe el guion de autocompletado para zsh</translation>
     </message>
     <message>
         <source>Print the completion script for fish</source>
-        <translation>Escribe el guion de compleción para fish</translation>
+        <translation>Escribe el guion de autocompletado para fish</translation>
     </message>
     <message>
         <source>List what may stand in the place of the last word</source>
@@ -3133,7 +3125,7 @@
     </message>
     <message>
         <source>How days are written, like DD.MM.YYYY</source>
-        <translation>Cómo se escriben los días, como DD.MM.YYYY</translation>
+        <translation>Cómo se escriben las fechas, como DD.MM.YYYY</translation>
     </message>
     <message>
         <source>The currency of amounts that have none (journal)</source>
@@ -3161,7 +3153,7 @@
     </message>
     <message>
         <source>The column of the day, by heading or number (csv)</source>
-        <translation>La columna del día, por su título o número (csv)</translation>
+        <translation>La columna de la fecha, por encabezado o número (csv)</translation>
     </message>
     <message>
         <source>The column of the amount (csv)</source>
@@ -3201,7 +3193,7 @@
     </message>
     <message>
         <source>How many lines stand above the headings (csv)</source>
-        <translation>Cuántas líneas hay sobre los títulos (csv)</translation>
+        <translation>Cuántas líneas hay sobre los encabezados (csv)</translation>
     </message>
     <message>
         <source>The first line is an entry already (csv)</source>
@@ -3853,7 +3845,7 @@
     </message>
     <message>
         <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
-        <translation>No se han podido guardar los cambios de «%1»; guárdelos antes con save-as.</translation>
+        <translation>No se pudieron guardar los cambios de «%1»; hay que guardarlos antes con save-as.</translation>
     </message>
     <message>
         <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
@@ -3861,7 +3853,7 @@
     </message>
     <message>
         <source>There are neither headings nor entries.</source>
-        <translation>No hay ni encabezados ni anotaciones.</translation>
+        <translation>No hay ni encabezados ni entradas.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
@@ -3885,7 +3877,7 @@
     </message>
     <message>
         <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
-        <translation>«%1» no es un día escrito como %2; otra forma se indica con --date-format.</translation>
+        <translation>«%1» no es una fecha escrita como %2; otra forma se indica con --date-format.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
@@ -3897,7 +3889,7 @@
     </message>
     <message>
         <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
-        <translation>Los días se pueden leer de dos maneras; el orden se indica con --date-format, como M/D/YYYY.</translation>
+        <translation>Las fechas se pueden leer de dos maneras; el orden se indica con --date-format, como M/D/YYYY.</translation>
     </message>
     <message>
         <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
@@ -3933,7 +3925,7 @@
     </message>
     <message>
         <source>Its header is not whole.</source>
-        <translation>Su cabecera no está íntegra.</translation>
+        <translation>Su cabecera está dañada.</translation>
     </message>
     <message>
         <source>There is more than a file may hold.</source>
@@ -3950,6 +3942,19 @@
     <message>
         <source>A text is too long.</source>
         <translation>Un texto es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value (%2).</source>
+        <translation>%1 necesita un valor (%2).</translation>
+    </message>
+    <message>
+        <source>%1 was given %3 times, where %2 is the most.</source>
+        <translation>%1 se indicó %3 veces, y el máximo es %2.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos;</source>
+        <comment>a name</comment>
+        <translation>«%1»</translation>
     </message>
 </context>
 <context>

@@ -19,8 +19,10 @@ QString missed(const QString &what, const QStringList &similar, const QString &n
 {
     if (similar.isEmpty())
         return next.isEmpty() ? what + u'.' : QObject::tr("%1; %2.").arg(what, next);
-    return QObject::tr("%1; did you mean %2?")
-        .arg(what, u'\'' + similar.join(QStringLiteral("', '")) + u'\'');
+    QStringList quoted;
+    for (const QString &name : similar)
+        quoted += QObject::tr("'%1'", "a name").arg(name);
+    return QObject::tr("%1; did you mean %2?").arg(what, quoted.join(QStringLiteral(", ")));
 }
 } // namespace
 

@@ -21,13 +21,23 @@ QString oneLine(const char *text)
     return QString::fromUtf8(text).simplified();
 }
 
+/// "help bill add" is another way to say "bill add --help".
+std::vector<std::string> plainWords(std::vector<std::string> words)
+{
+    if (!words.empty() && words.front() == "help") {
+        words.erase(words.begin());
+        words.emplace_back("--help");
+    }
+    return words;
+}
+
 } // namespace
 
 int Program::run(const std::vector<std::string> &words)
 {
     int status = success;
     try {
-        return parse(words, status) ? execute() : status;
+        return parse(plainWords(words), status) ? execute() : status;
     } catch (const UsageError &error) {
         complain(error.message());
         return misused;

@@ -80,8 +80,9 @@ bool hasNumberLocale()
 
 void writeNumbersAsUser()
 {
-    if (hasNumberLocale())
-        numira::setLocale(localeOf("LC_NUMERIC").toStdString(), numira::ShouldAllowFallback::Yes);
+    // Without a locale Qt would take LANGUAGE for one, which is about words alone.
+    numira::setLocale(hasNumberLocale() ? localeOf("LC_NUMERIC").toStdString() : "en_US",
+                      numira::ShouldAllowFallback::Yes);
 }
 
 QString plainNumber(const QString &text)

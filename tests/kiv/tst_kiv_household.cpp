@@ -309,7 +309,7 @@ private slots:
     void helpNeedsNothing()
     {
         const Household home;
-        const Ended ended = home.run("bill add --help");
+        const Ended ended = home.run("help bill add");
         QCOMPARE(ended.status, 0);
         QVERIFY(ended.out.contains("--every"));
         QVERIFY(ended.err.isEmpty());

@@ -64,9 +64,10 @@ private slots:
         row("a transfer out of an item", "transfer 3 Checking 5", 1, "3");
         row("an unknown option", "bill add Gym 12 --colour red", 2, "--colour");
         row("a missing argument", "bill add Gym", 2, "AMOUNT");
-        row("an option without its value", "bill add Gym 12 --next", 2, "--next: 1 required DATE");
+        row("an option without its value", "bill add Gym 12 --next", 2,
+            "--next needs a value (DATE).");
         row("an option twice", "bill add Gym 12 --next 2026-01-01 --next 2026-01-02", 2,
-            "--next: At Most 1 required but received 2.");
+            "--next was given 2 times, where 1 is the most.");
         row("a flag with a value", "bill list --json=perhaps", 2, "perhaps");
         row("no number", "transaction remove one", 2, "'one' is not");
         row("a number below the lowest", "transaction remove 0", 2, "1 to 65535");

@@ -86,9 +86,10 @@ private slots:
         row("German help", german, "bill add --help", u"Wie oft"_s);
         row("Spanish help", spanish, "bill add --help", u"Uso:"_s);
         row("German misuse", german, "bill add", u"NAME"_s);
+        row("a German question", german, "bil add", u"war „bill“ gemeint?"_s);
         row("a German sentence in JSON", german, "check --json", u"einer bekannten Version"_s);
         row("a German sum", german, "check", u"1.234,56\u00a0EUR"_s);
-        row("a German cause", german, "accounts --file short", u"Ihr Kopf ist nicht heil."_s);
+        row("a German cause", german, "accounts --file short", u"Ihr Kopf ist beschädigt."_s);
         row("a German plural", german, "due --date 2026-02-27", u"in 2 Tagen"_s);
         row("a German singular", german, "due --date 2026-03-02", u"1 Tag überfällig"_s);
         row("a Spanish plural", spanish, "due --date 2026-02-26", u"en 3 días"_s);
@@ -103,6 +104,7 @@ private slots:
         row("another country's German", "LANG=de_AT.UTF-8", "ledger Nothing", u"Es gibt kein"_s);
         row("no language without a locale", "LANG=C.UTF-8 LANGUAGE=de", "ledger Nothing",
             u"There is no account"_s);
+        row("no numbers without a locale", "LANG=C.UTF-8 LANGUAGE=de", "accounts", u"€1,234.56"_s);
         row("words and numbers apart", "LANG=en_US.UTF-8 LANGUAGE=de", "accounts", u"€1,234.56"_s);
         row("numbers of their own", "LANG=de_DE.UTF-8 LC_NUMERIC=en_US.UTF-8", "accounts",
             u"€1,234.56"_s);

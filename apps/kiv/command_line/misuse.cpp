@@ -40,7 +40,7 @@ struct Wording {
 };
 constexpr Wording wordings[] = {
     {"(.*) is required", QT_TRANSLATE_NOOP("QObject", "%1 is required.")},
-    {"(.*): 1 required (.*) missing", QT_TRANSLATE_NOOP("QObject", "%1: 1 required %2 missing.")},
+    {"(.*): 1 required (.*) missing", QT_TRANSLATE_NOOP("QObject", "%1 needs a value (%2).")},
     {"The following argument was not expected: (.*)",
      QT_TRANSLATE_NOOP("QObject",
                        "The following argument was not expected: %1; --help tells which are.")},
@@ -48,7 +48,7 @@ constexpr Wording wordings[] = {
      QT_TRANSLATE_NOOP("QObject",
                        "The following arguments were not expected: %1; --help tells which are.")},
     {"(.*): At Most (\\d+) required but received (\\d+)",
-     QT_TRANSLATE_NOOP("QObject", "%1: At Most %2 required but received %3.")},
+     QT_TRANSLATE_NOOP("QObject", "%1 was given %3 times, where %2 is the most.")},
     {"Could not convert: (.*) = (.*)", QT_TRANSLATE_NOOP("QObject", "Could not convert: %1 = %2.")},
 };
 

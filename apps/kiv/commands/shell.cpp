@@ -35,15 +35,11 @@ bool runLine(Program &program, const std::string &line, int &status)
 {
     int ended = Program::success;
     try {
-        std::vector<std::string> words = splitWords(line);
+        const std::vector<std::string> words = splitWords(line);
         if (words.empty())
             return true;
         if (words.front() == "exit" || words.front() == "quit")
             return false;
-        if (words.front() == "help") {
-            words.erase(words.begin());
-            words.emplace_back("--help");
-        }
         ended = program.run(words);
     } catch (const UsageError &error) {
         complain(error.message());
