@@ -28,7 +28,11 @@ class MemoryBudgetStorage final : public storage::BudgetStorage {
 public:
     explicit MemoryBudgetStorage(std::shared_ptr<MemoryDisk> disk) : m_disk(std::move(disk)) {}
 
-    void setFilePathName(const QString &filePathName) override { m_chosen = filePathName; }
+    void setFilePathName(const QString &filePathName) override
+    {
+        fault.pass("choose file");
+        m_chosen = filePathName;
+    }
     [[nodiscard]] Data load() override
     {
         const QString path = std::exchange(m_chosen, m_open);
@@ -64,7 +68,11 @@ class MemoryRatesStorage final : public storage::ExchangeRatesStorage {
 public:
     explicit MemoryRatesStorage(std::shared_ptr<MemoryDisk> disk) : m_disk(std::move(disk)) {}
 
-    [[nodiscard]] bool exists() const override { return m_disk->rates.has_value(); }
+    [[nodiscard]] bool exists() const override
+    {
+        fault.pass("look for rates");
+        return m_disk->rates.has_value();
+    }
     [[nodiscard]] conversion::ConversionMap load() const override
     {
         fault.pass("load rates");
