@@ -3956,6 +3956,11 @@
         <comment>a name</comment>
         <translation>„%1“</translation>
     </message>
+    <message>
+        <source>Income</source>
+        <comment>what came in</comment>
+        <translation>Einnahmen</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

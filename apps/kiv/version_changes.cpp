@@ -189,6 +189,16 @@ QString detailOf(const QJsonObject &change)
     return details.join(QStringLiteral(", "));
 }
 
+/// An item's name has its kind before it, which has a word in each language.
+QString nameOf(const QJsonObject &change)
+{
+    const QString name = change[QLatin1String("name")].toString();
+    const bool isGone = change[QLatin1String("after")].isNull();
+    const QString kind =
+        change[QLatin1String(isGone ? "before" : "after")][QLatin1String("kind")].toString();
+    return kind.isEmpty() ? name : wordText(kind) + name.mid(kind.size());
+}
+
 } // namespace
 
 const BudgetStorage::Data &Version::data() const
@@ -248,6 +258,7 @@ void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone
     for (const QJsonValue change : changes) {
         QJsonObject row = change.toObject();
         row.insert(QStringLiteral("detail"), detailOf(row));
+        row.insert(QStringLiteral("name"), nameOf(row));
         rows.append(row);
     }
     report.table({{QObject::tr("What"), QStringLiteral("what"), wordText},

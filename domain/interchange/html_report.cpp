@@ -230,12 +230,12 @@ std::vector<Chart> chartsOf(const Figures &figures)
                  labels,
                  {{QObject::tr("Net worth"), sums.netWorth}}});
         if (hasFlow(sums))
-            charts.push_back(
-                {ChartKind::Bars,
-                 QObject::tr("Income and expenses, %1").arg(code),
-                 QObject::tr("What came in and what was spent in each month."),
-                 labels,
-                 {{QObject::tr("Income"), sums.income}, {QObject::tr("Expenses"), sums.expenses}}});
+            charts.push_back({ChartKind::Bars,
+                              QObject::tr("Income and expenses, %1").arg(code),
+                              QObject::tr("What came in and what was spent in each month."),
+                              labels,
+                              {{QObject::tr("Income", "what came in"), sums.income},
+                               {QObject::tr("Expenses"), sums.expenses}}});
         if (sums.hasItems)
             charts.push_back(
                 {ChartKind::Bars,

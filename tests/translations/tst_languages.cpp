@@ -52,12 +52,12 @@ private slots:
     void initTestCase()
     {
         speak(m_household, u"LC_ALL=C.UTF-8"_s);
-        QVERIFY(m_household.runAll({"configure set --preferred EUR --usable EUR --display symbol",
-                                    "new", "bank add First",
-                                    "bank-account add Checking --bank First --balance 1234.56 "
-                                    "--date 2026-01-31",
-                                    "bill add Rent 850.00 --next 2026-03-01",
-                                    "wage add Salary 1500.10 --next 2026-03-02"}));
+        QVERIFY(m_household.runAll(
+            {"configure set --preferred EUR --usable EUR --display symbol", "new", "bank add First",
+             "bank-account add Checking --bank First --balance 1234.56 "
+             "--date 2026-01-31",
+             "bill add Rent 850.00 --next 2026-03-01", "wage add Salary 1500.10 --next 2026-03-02",
+             "rates set EUR USD=1.25"}));
         m_household.write(m_household.path("zero.csv"), "date,amount,text\n2026-02-01,0,x\n");
         m_household.write(m_household.path("short.budget"), "SQLite format 3");
     }
@@ -89,6 +89,9 @@ private slots:
         row("a German question", german, "bil add", u"war „bill“ gemeint?"_s);
         row("a German sentence in JSON", german, "check --json", u"einer bekannten Version"_s);
         row("a German sum", german, "check", u"1.234,56\u00a0EUR"_s);
+        row("a German rate", german, "rates show", u"1,25"_s);
+        row("a German kind", german, "history diff", u"Posten  Lohn Salary"_s);
+        row("German income", german, "report", u"Einnahmen"_s);
         row("a German cause", german, "accounts --file short", u"Ihr Kopf ist beschädigt."_s);
         row("a German plural", german, "due --date 2026-02-27", u"in 2 Tagen"_s);
         row("a German singular", german, "due --date 2026-03-02", u"1 Tag überfällig"_s);

@@ -6,6 +6,8 @@
 
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"
+#include "numira/error.h"
+#include "numira/local_text.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -42,6 +44,17 @@ ConversionMap present(Session &session)
         session.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
 }
 
+/// As the user's locale writes it.
+QString rateText(const QJsonValue &rate)
+{
+    try {
+        const auto number = numira::Decimal::fromText(rate.toString().toStdString());
+        return QString::fromStdString(numira::toLocalText(number));
+    } catch (const numira::Error &) {
+        return rate.toString(); // with an exponent, for one
+    }
+}
+
 Report ratesReport(const ConversionMap &map)
 {
     QJsonArray rows;
@@ -64,7 +77,7 @@ Report ratesReport(const ConversionMap &map)
                 : QObject::tr("For one %1, as of %2").arg(base, shown));
     }
     return report.table({{QObject::tr("Currency"), QStringLiteral("currency")},
-                         {QObject::tr("Rate"), QStringLiteral("rate")}},
+                         {QObject::tr("Rate"), QStringLiteral("rate"), rateText}},
                         rows, QObject::tr("No exchange rates are known."));
 }
 

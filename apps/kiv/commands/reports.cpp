@@ -142,7 +142,7 @@ private:
             }
             report.heading(foundation::presentationText(currency))
                 .table({{QObject::tr("Month"), QStringLiteral("month")},
-                        {QObject::tr("Income"), QStringLiteral("income")},
+                        {QObject::tr("Income", "what came in"), QStringLiteral("income")},
                         {QObject::tr("Expenses"), QStringLiteral("expenses")},
                         {QObject::tr("Budget"), QStringLiteral("planned")},
                         {QObject::tr("Actual"), QStringLiteral("outgoing")},
