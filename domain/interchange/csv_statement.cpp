@@ -51,6 +51,11 @@ QString plainHeading(const QString &heading)
     return plain;
 }
 
+bool isBlank(const QString &cell)
+{
+    return cell.trimmed().isEmpty();
+}
+
 class StatementReader {
 public:
     StatementReader(const CsvProfile &profile, numira::Currency currency)
@@ -65,8 +70,10 @@ public:
             throw faults::emptyTable({file, 0});
         setHeadings(records.front());
         Statement statement{{}, m_currency, {}};
-        for (auto record = records.begin() + headingLines(); record != records.end(); ++record)
-            statement.entries.push_back(entryOf(*record));
+        for (auto record = records.begin() + headingLines(); record != records.end(); ++record) {
+            if (!std::ranges::all_of(record->cells, isBlank)) // delimiters alone
+                statement.entries.push_back(entryOf(*record));
+        }
         return statement;
     }
 
@@ -161,7 +168,6 @@ private:
         if (record.cells.size() < m_needed)
             throw faults::tooFewCells(record.place, record.cells.size(), m_needed);
         // Some banks end each line with a delimiter.
-        const auto isBlank = [](const QString &cell) { return cell.trimmed().isEmpty(); };
         if (record.cells.size() > m_headings.size() &&
             !std::all_of(record.cells.begin() + m_headings.size(), record.cells.end(), isBlank))
             throw faults::tooManyCells(record.place, record.cells.size(), m_headings.size());

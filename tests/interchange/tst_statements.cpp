@@ -151,7 +151,7 @@ private slots:
             "{'headings':false,'date':'1','out':'2','in':'3','text':['4'],'dateFormat':'D/M/YY'}",
             "2026-01-05 3.00 EUR|x||\n1971-01-06 -4.00 EUR|y||");
         row("a column by number, a day with blanks, a delimiter at the end",
-            "Date,Text,Amount\n05 01 2026,x,\"1,234\",\n",
+            "Date,Text,Amount\n05 01 2026,x,\"1,234\",\n , ,\n",
             "{'dateFormat':'DD MM YYYY','amount':'3','decimal':'.'}", "2026-01-05 1234.00 EUR|x||");
         row("a column of signs, an identifier, a line break",
             "Date,Amount,Sign,Payee,More,Ref\n2026-01-05 10:00,9.99,S,\"A\nB\",c,77\n"
