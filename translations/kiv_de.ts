@@ -444,8 +444,8 @@
         <translation>Wechselkurse müssen den Zeitpunkt haben, zu dem sie abgerufen wurden.</translation>
     </message>
     <message>
-        <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;.</source>
-        <translation>Es gibt keinen Wechselkurs von „%1“ zu „%2“.</translation>
+        <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;; fetch the rates, or set it by hand.</source>
+        <translation>Es gibt keinen Wechselkurs von „%1“ zu „%2“; er ist abzurufen oder von Hand zu setzen.</translation>
     </message>
     <message>
         <source>The reply&apos;s member &apos;%1&apos; is missing or makes no sense.</source>

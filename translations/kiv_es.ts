@@ -444,8 +444,8 @@
         <translation>Los tipos de cambio deben llevar la hora en que se obtuvieron.</translation>
     </message>
     <message>
-        <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;.</source>
-        <translation>No hay ningún tipo de cambio de «%1» a «%2».</translation>
+        <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;; fetch the rates, or set it by hand.</source>
+        <translation>No hay ningún tipo de cambio de «%1» a «%2»; hay que obtenerlo o fijarlo a mano.</translation>
     </message>
     <message>
         <source>The reply&apos;s member &apos;%1&apos; is missing or makes no sense.</source>

@@ -38,8 +38,10 @@ ConversionError tableWithoutTime()
 
 ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to)
 {
-    return ConversionError(QObject::tr("There is no exchange rate from '%1' to '%2'.")
-                               .arg(presentationText(from), presentationText(to)));
+    return ConversionError(
+        QObject::tr(
+            "There is no exchange rate from '%1' to '%2'; fetch the rates, or set it by hand.")
+            .arg(presentationText(from), presentationText(to)));
 }
 
 ConversionError replyMalformed(const QString &member)

@@ -62,7 +62,9 @@ private slots:
             (void)map.rate(jpy, gbp);
             QFAIL("There is no rate of GBP.");
         } catch (const ConversionError &error) {
-            QCOMPARE(error.message(), u"There is no exchange rate from 'JPY' to 'GBP'."_s);
+            QCOMPARE(
+                error.message(),
+                u"There is no exchange rate from 'JPY' to 'GBP'; fetch the rates, or set it by hand."_s);
         }
         QVERIFY_THROWS_EXCEPTION(ConversionError, (void)ConversionMap().rate(usd, eur));
     }
