@@ -99,11 +99,13 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
             throw faults::otherCurrency(other->place, foundation::toQString(found),
                                         foundation::toQString(currency));
     }
-    // One comma is the mark, whatever digits follow; else commas group.
+    // The only comma or point is the mark, whatever digits follow; else commas group.
     const QString &number = amount->value;
     std::optional<DecimalMark> mark;
     if (number.count(u',') == 1 && !number.contains(u'.'))
         mark = DecimalMark::Comma;
+    else if (number.count(u'.') == 1 && !number.contains(u','))
+        mark = DecimalMark::Point;
     entry.amount = statementAmount(number, currency, mark, amount->place);
     entry.text = textOf(transaction);
     entry.bankId = transaction.text("FITID");

@@ -39,6 +39,12 @@ std::optional<std::pair<QString, bool>> withoutSign(const QString &text)
     return std::pair(digits, isNegative);
 }
 
+/// Whether the mark stands where it could part thousands, as in "1.234".
+bool couldGroup(const QString &digits, qsizetype at)
+{
+    return digits.size() - at == 4 && at > 0 && at <= 3 && digits[0] != u'0';
+}
+
 /// The mark by which such digits show what it is; nothing when there is none.
 std::optional<QChar> markOf(const QString &digits, const QString &text, const Place &place)
 {
@@ -51,8 +57,7 @@ std::optional<QChar> markOf(const QString &digits, const QString &text, const Pl
     if (digits.count(mark) > 1)
         return std::nullopt; // it groups
     const bool hasOther = std::min(point, comma) >= 0;
-    const bool couldGroup = digits.size() - last == 4 && last > 0 && last <= 3 && digits[0] != u'0';
-    if (mark == u',' && !hasOther && couldGroup)
+    if (mark == u',' && !hasOther && couldGroup(digits, last))
         throw faults::ambiguousNumber(place, text);
     return mark;
 }
@@ -204,6 +209,10 @@ numira::Money statementAmount(const QString &text, const numira::Currency &curre
 {
     const numira::Decimal number = readNumber(text, mark, place);
     const unsigned digitsMax = numira::minorUnitDigits(currency);
+    // Three digits are no cents, even if they are zeros: "1.500" may be thousands.
+    const QString digits = mark || digitsMax > 2 ? QString() : withoutSign(text)->first;
+    if (couldGroup(digits, digits.indexOf(u'.')))
+        throw faults::ambiguousNumber(place, text);
     if (number.digits() > digitsMax)
         throw faults::tooManyDigits(place, text, foundation::toQString(currency), digitsMax);
     return {currency, number};

@@ -53,7 +53,8 @@ private:
 readCurrency(const QString &text, const numira::Currency &preferred);
 
 /// The amount, when it has no more digits than its currency. Throws ImportError
-/// otherwise: a mark that was misread would show itself so.
+/// otherwise, and for three digits behind a point where no mark is named and the
+/// currency has fewer: a mark that was misread would show itself so.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT numira::Money statementAmount(const QString &text,
                                                                    const numira::Currency &currency,
                                                                    std::optional<DecimalMark> mark,

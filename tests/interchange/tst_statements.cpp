@@ -207,8 +207,13 @@ private slots:
         row("another order of the day", "Date,Text,Amount\n01/05/2026,x,1\n", "{}",
             "'f', line 2: '01/05/2026' is not a day written as YYYY-MM-DD; name another form with "
             "--date-format.");
-        row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{}",
+        row("a mark that was misread", "Date,Text,Amount\n2026-01-05,x,1.234\n", "{'decimal':'.'}",
             "'f', line 2: '1.234' has more digits behind the decimal mark than the 2 of EUR.");
+        row("a point that could group", "Date,Text,Amount\n2026-01-05,x,-1.500\n", "{}",
+            "'f', line 2: '-1.500' can be read in two ways; name the decimal mark with --decimal.");
+        row("points that cannot group",
+            "Date,Text,Amount\n2026-01-05,x,0.500\n2026-01-05,x,1234.500\n", "{}",
+            "2026-01-05 0.50 EUR|x||\n2026-01-05 1234.50 EUR|x||");
         row("both ways", "Date,Text,In,Out\n2026-01-05,x,1,2\n", "{'in':'In','out':'Out'}",
             "'f', line 2: The record has an amount that came in and one that went out.");
         row("no way", "Date,Text,Out\n2026-01-05,x,\n", "{'out':'Out'}",
@@ -297,7 +302,7 @@ private slots:
             "<![CDATA[A & <B>]]></NAME></STMTTRN>\n",
             "2026-01-05 1000.50 USD|A & <B>||");
         const QByteArray more =
-            "<?pi?><STMTTRN><DTPOSTED>20260105<TRNAMT>1,5<CHECKNUM>7<PAYEE><NAME>P"
+            "<?pi?><STMTTRN><DTPOSTED>20260105<TRNAMT>1.500<CHECKNUM>7<PAYEE><NAME>P"
             "</PAYEE><CURRENCY><CURSYM>USD</CURRENCY><MEMO/></STMTTRN>";
         row("a payee, a check, its currency", more, "2026-01-05 1.50 USD|P Check 7||");
         row("another currency", QByteArray(more).replace("USD", "EUR"),
