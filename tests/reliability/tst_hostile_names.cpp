@@ -182,7 +182,8 @@ void HostileNames::neverReachTheTerminal_data()
     QTest::addColumn<QStringList>("arguments");
     for (const char *command :
          {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
-          "tags list", "ledger 100001", "export --format journal", "report"})
+          "tags list", "ledger 100001", "export --format journal", "report", "report --chart",
+          "report --html"})
         QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
 }
 
