@@ -3961,6 +3961,10 @@
         <comment>what came in</comment>
         <translation>Einnahmen</translation>
     </message>
+    <message>
+        <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
+        <translation>Kein Betrag ist negativ, aber in Spalte %1 steht „%2“; was ausging, wird mit --sign-column und --negative angegeben.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

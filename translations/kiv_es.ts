@@ -3961,6 +3961,10 @@
         <comment>what came in</comment>
         <translation>Ingresos</translation>
     </message>
+    <message>
+        <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
+        <translation>Ningún importe es negativo, pero la columna %1 contiene «%2»; lo que salió se indica con --sign-column y --negative.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

@@ -74,6 +74,10 @@ public:
             if (!std::ranges::all_of(record->cells, isBlank)) // delimiters alone
                 statement.entries.push_back(entryOf(*record));
         }
+        records.erase(records.begin(), records.begin() + headingLines());
+        if (std::ranges::none_of(statement.entries, &numira::Money::isNegative,
+                                 &StatementEntry::amount))
+            refuseSigns(records);
         return statement;
     }
 
@@ -94,6 +98,33 @@ private:
         for (CsvRecord &record : records)
             record.place.line += m_profile.skippedLines;
         return records;
+    }
+
+    /// Amounts without signs, beside a column of signs that was not named, would all come in.
+    void refuseSigns(const std::vector<CsvRecord> &records) const
+    {
+        static const QStringList out{QStringLiteral("S"),     QStringLiteral("SOLL"),
+                                     QStringLiteral("D"),     QStringLiteral("DR"),
+                                     QStringLiteral("DEBIT"), QStringLiteral("DEBE"),
+                                     QStringLiteral("CARGO")};
+        static const QStringList in{QStringLiteral("H"),      QStringLiteral("HABEN"),
+                                    QStringLiteral("C"),      QStringLiteral("CR"),
+                                    QStringLiteral("CREDIT"), QStringLiteral("HABER"),
+                                    QStringLiteral("ABONO")};
+        if (!m_amount || m_sign || m_profile.isNegated)
+            return;
+        for (qsizetype column = 0; column < m_headings.size(); ++column) {
+            const auto sign = [column](const CsvRecord &record) {
+                return record.cells.value(column).trimmed().toUpper();
+            };
+            const auto isOut = [](const QString &text) { return out.contains(text); };
+            const auto isSign = [](const QString &text) {
+                return out.contains(text) || in.contains(text) || text.isEmpty();
+            };
+            const auto found = std::ranges::find_if(records, isOut, sign);
+            if (found != records.end() && std::ranges::all_of(records, isSign, sign))
+                throw faults::signsNotNamed(found->place, column + 1, sign(*found));
+        }
     }
 
     void setHeadings(const CsvRecord &first)

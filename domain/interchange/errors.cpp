@@ -261,6 +261,13 @@ ImportError ownTable(const Place &place)
                                "the journal instead.")};
 }
 
+ImportError signsNotNamed(const Place &place, qsizetype column, const QString &sign)
+{
+    return {place, QObject::tr("No amount is negative, but column %1 holds '%2'; say with "
+                               "--sign-column and --negative what went out.")
+                       .arg(QString::number(column), quoted(sign))};
+}
+
 ImportError bothWays(const Place &place)
 {
     return {place, QObject::tr("The record has an amount that came in and one that went out.")};

@@ -214,6 +214,12 @@ private slots:
         row("points that cannot group",
             "Date,Text,Amount\n2026-01-05,x,0.500\n2026-01-05,x,1234.500\n", "{}",
             "2026-01-05 0.50 EUR|x||\n2026-01-05 1234.50 EUR|x||");
+        const QByteArray signs = "Date,Text,Amount, \n2026-01-05,x,1,H\n2026-01-06,y,2,S\n";
+        row("signs that nobody named", signs, "{}",
+            "'f', line 3: No amount is negative, but column 4 holds 'S'; say with --sign-column "
+            "and --negative what went out.");
+        row("no signs beside negative amounts", QByteArray(signs).replace(",1,", ",-1,"), "{}",
+            "2026-01-05 -1.00 EUR|x||\n2026-01-06 2.00 EUR|y||");
         row("both ways", "Date,Text,In,Out\n2026-01-05,x,1,2\n", "{'in':'In','out':'Out'}",
             "'f', line 2: The record has an amount that came in and one that went out.");
         row("no way", "Date,Text,Out\n2026-01-05,x,\n", "{'out':'Out'}",

@@ -60,6 +60,7 @@ namespace faults {
 [[nodiscard]] ImportError emptyTable(const Place &place);
 [[nodiscard]] ImportError notADateFormat(const Place &place, const QString &text);
 [[nodiscard]] ImportError ownTable(const Place &place);
+[[nodiscard]] ImportError signsNotNamed(const Place &place, qsizetype column, const QString &sign);
 [[nodiscard]] ImportError bothWays(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
