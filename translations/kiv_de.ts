@@ -3965,6 +3965,16 @@
         <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
         <translation>Kein Betrag ist negativ, aber in Spalte %1 steht „%2“; was ausging, wird mit --sign-column und --negative angegeben.</translation>
     </message>
+    <message>
+        <source>y</source>
+        <comment>the answer yes, a letter</comment>
+        <translation>j</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <comment>the answer no, a letter</comment>
+        <translation>n</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

@@ -3965,6 +3965,16 @@
         <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
         <translation>Ningún importe es negativo, pero la columna %1 contiene «%2»; lo que salió se indica con --sign-column y --negative.</translation>
     </message>
+    <message>
+        <source>y</source>
+        <comment>the answer yes, a letter</comment>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <comment>the answer no, a letter</comment>
+        <translation>n</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

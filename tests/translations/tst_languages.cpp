@@ -221,6 +221,19 @@ private slots:
             2);
     }
 
+    void questionsAreAnsweredInTheUsersLetters()
+    {
+        for (const char *locale : {"C", "de_DE", "es_ES"}) {
+            speak(m_household, u"LC_ALL=%1.UTF-8"_s.arg(QLatin1String(locale)));
+            const QByteArray yes = *locale == 'd' ? "j\n" : *locale == 'e' ? "s\n" : "y\n";
+            const Ended ended =
+                m_household.run("survey run First Checking --date 2026-02-01 --dry-run",
+                                yes + "1234.56\n\n\n\ny\n");
+            QVERIFY2(ended.status == 0 && ended.err.contains(yes.left(1) + "/n]"),
+                     ended.err.constData());
+        }
+    }
+
     /// A description is written once, in the language of who posts.
     void whatIsPostedStaysAsItWasPosted()
     {

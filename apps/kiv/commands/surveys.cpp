@@ -215,11 +215,13 @@ private:
     public:
         bool agrees(const QString &question)
         {
+            const QString yes = QObject::tr("y", "the answer yes, a letter");
+            const QString no = QObject::tr("n", "the answer no, a letter");
             bool answer = false;
-            until(question + QStringLiteral(" [y/n]"), [&answer](const QString &text) {
-                if (text != u"y" && text != u"n")
-                    throw notAChoice(text, {QStringLiteral("y"), QStringLiteral("n")});
-                answer = text == u"y";
+            until(question + QStringLiteral(" [%1/%2]").arg(yes, no), [&](const QString &text) {
+                answer = text == yes || text == u"y";
+                if (!answer && text != no && text != u"n")
+                    throw notAChoice(text, {yes, no});
             });
             return answer;
         }
