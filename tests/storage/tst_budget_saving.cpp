@@ -308,7 +308,7 @@ void BudgetSavingTest::whatMayNotBeWrittenStays()
 void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
 {
     const QByteArray before = m_folder->read(u"home.budget"_qs);
-    QCOMPARE(storing(m_path, QString(17'000'000, u'n')), StorageFailure::CannotHold);
+    QCOMPARE(storing(m_path, QString(4'200'000, u'n')), StorageFailure::CannotHold);
     Data strange;
     strange.banks.add(banking::Bank(banking::BankName(u"Strange"_qs),
                                     {{{}, static_cast<banking::BankAccountTypes>(9)}}, false));
@@ -322,9 +322,9 @@ void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
     QCOMPARE(test::failureOf([&] { m_file->store(large); }), StorageFailure::CannotHold);
     large = {};
     accounting::SequentialAccountNumberGenerator generator;
-    for (std::uint32_t number = 1; number <= 9; ++number)
+    for (std::uint32_t number = 1; number <= 20; ++number)
         large.generalLedger.add({accounting::AccountTypes::Asset,
-                                 {accounting::AccountNumber(number), QString(15'000'000, u'n'), {}},
+                                 {accounting::AccountNumber(number), QString(4'000'000, u'n'), {}},
                                  numira::Money(numira::toCurrency("USD")),
                                  false},
                                 generator);

@@ -16,10 +16,11 @@ inline constexpr std::uint32_t currentVersion = 1;
 inline constexpr int pageSize = 4096;
 
 /// The largest file that is read or written. 65,535 transactions with a
-/// description of a thousand letters each fit in.
-inline constexpr qsizetype fileSizeMax = 128LL * 1024 * 1024;
+/// description of 700 bytes each fit in, and reading it takes less than 300 MiB:
+/// it is held once, its texts twice as large, and a few texts more on their way.
+inline constexpr qsizetype fileSizeMax = 64LL * 1024 * 1024;
 /// The longest text, in bytes.
-inline constexpr int textSizeMax = 16 * 1024 * 1024;
+inline constexpr int textSizeMax = 4 * 1024 * 1024;
 /// The most rows of any table: as many as there are transaction numbers.
 inline constexpr qint64 rowsMax = 65'535;
 
