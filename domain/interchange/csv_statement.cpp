@@ -88,15 +88,21 @@ private:
     {
         LineCursor lines(text, file);
         qsizetype skipped = 0;
-        for (int line = 0; line < m_profile.skippedLines && lines.next(); ++line)
+        int skippedLines = 0;
+        for (; skippedLines < m_profile.skippedLines && lines.next(); ++skippedLines)
             skipped = lines.offset();
-        const QString rest = text.mid(skipped);
         const QStringView first = lines.next() ? lines.line() : QStringView();
+        QChar guessed = guessDelimiter(first);
+        if (first.size() == 5 && first.startsWith(u"sep=")) { // as spreadsheets write it
+            guessed = first.back();
+            skipped = lines.offset();
+            ++skippedLines;
+        }
         std::vector<CsvRecord> records =
-            readCsvTable(rest, file, m_profile.delimiter.value_or(guessDelimiter(first)),
+            readCsvTable(text.mid(skipped), file, m_profile.delimiter.value_or(guessed),
                          transactionsMax + headingLines());
         for (CsvRecord &record : records)
-            record.place.line += m_profile.skippedLines;
+            record.place.line += skippedLines;
         return records;
     }
 

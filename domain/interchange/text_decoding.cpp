@@ -38,7 +38,9 @@ qsizetype lineOf(const QByteArray &bytes, qsizetype at)
 
 QString decoded(const QByteArray &bytes, const QString &file, const QString &encoding)
 {
-    const Converter converter(encoding);
+    // No text in UTF-8 begins with the byte order mark of UTF-16.
+    const bool isWide = bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff");
+    const Converter converter(isWide && encoding == utf8Name ? QStringLiteral("UTF-16") : encoding);
     // What an empty name means is not defined.
     if (encoding.isEmpty() || !converter.handle)
         throw faults::unknownEncoding({file, 0}, encoding);

@@ -11,7 +11,8 @@ namespace kiv::interchange {
 inline const QString utf8Name = QStringLiteral("UTF-8");
 
 /// The file's bytes as text, without a byte order mark. `encoding` is any name
-/// that ICU knows, such as "UTF-8", "ISO-8859-1" or "windows-1252".
+/// that ICU knows, such as "UTF-8", "ISO-8859-1" or "windows-1252"; what begins with the
+/// byte order mark of UTF-16 is that unless another one than UTF-8 is named.
 ///
 /// Throws ImportError, with the line of the first byte that is not valid, when
 /// the bytes are something else, and when they hold a zero byte.

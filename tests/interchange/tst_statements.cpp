@@ -170,6 +170,10 @@ private slots:
             "'f': '' is no encoding that is known; write one like windows-1252 or UTF-16.");
         row("two bytes a letter", QByteArray("D\0a\0", 4), "{}",
             "'f', line 1: This is not valid UTF-8; name the file's encoding with --encoding.");
+        row("a delimiter that the first line names, two bytes a letter with their mark",
+            QStringEncoder(QStringEncoder::Utf16LE, QStringConverter::Flag::WriteBom)(
+                u"sep=|\nDate|Text|Amount\n2026-01-05|ü|1\n2026-01-06|x\n"_s),
+            "{}", "'f', line 4: The record has only 2 of the 3 cells that are needed.");
         row("a column of currencies that nobody named",
             "Date,Amount,Text,Waehrung\n2026-01-05,5,x,\n2026-01-05,5,y,USD\n", "{}",
             "2026-01-05 5.00 EUR|x||\n2026-01-05 5.00 USD|y||");
