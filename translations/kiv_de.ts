@@ -1953,6 +1953,10 @@
         <translation>Übersprungen: „%2“ (%1), fällig am %3; als Nächstes fällig am %4.</translation>
     </message>
     <message>
+        <source>patterns are not followed; name each file</source>
+        <translation>Mustern wird nicht gefolgt; jede Datei ist zu nennen</translation>
+    </message>
+    <message>
         <source>there is no such file</source>
         <translation>es gibt keine solche Datei</translation>
     </message>

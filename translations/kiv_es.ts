@@ -1953,6 +1953,10 @@
         <translation>Omitido: «%2» (%1), que vencía el %3; el próximo vencimiento es el %4.</translation>
     </message>
     <message>
+        <source>patterns are not followed; name each file</source>
+        <translation>no se siguen patrones; nombre cada archivo</translation>
+    </message>
+    <message>
         <source>there is no such file</source>
         <translation>no existe tal archivo</translation>
     </message>

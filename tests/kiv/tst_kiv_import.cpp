@@ -206,6 +206,7 @@ private slots:
         row("fewer lines than none", "s.csv", text, "--into 1 --skip -1", 2, "'-1' is not");
         row("an include that is not there", "s.journal", "include none.journal\n", "", 1,
             "there is no such file");
+        row("an include of many", "s.journal", "include *.journal\n", "", 1, "name each file");
         row("an include of a folder", "s.journal", "include config\n", "", 1,
             "there is no such file");
         row("a folder", "config", {}, "--format journal", 1, "Cannot read 'config'");

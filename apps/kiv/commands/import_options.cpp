@@ -53,6 +53,9 @@ public:
         const QDir near(QFileInfo(place.file).path());
         const QFileInfo wanted(near.filePath(path));
         const QString real = wanted.canonicalFilePath();
+        if (real.isEmpty() && (path.contains(u'*') || path.contains(u'?')))
+            throw includeRefused(place, path,
+                                 QObject::tr("patterns are not followed; name each file"));
         if (m_folder.isEmpty() || real.isEmpty() || !wanted.isFile())
             throw includeRefused(place, path, QObject::tr("there is no such file"));
         if (!real.startsWith(m_folder + u'/'))
