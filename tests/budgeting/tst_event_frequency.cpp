@@ -100,6 +100,7 @@ private slots:
         using kiv::foundation::Error;
         QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::None, day("2026-01-31")));
         QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::Monthly, QDate()));
+        QCOMPARE(nextOccurrence(EventFrequency::Daily, day("9999-12-30"), 30), day("9999-12-31"));
         QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::Daily, day("9999-12-31")));
         QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::TwiceAMonth, day("9999-12-31")));
         QVERIFY_THROWS_EXCEPTION(Error, next(EventFrequency::EveryTenYears, day("9990-01-31")));

@@ -464,6 +464,18 @@ void BudgetSavingTest::previousVersionsAreKept()
         if (name == u"home.budget"_qs)
             QCOMPARE(bankIn(test::load(folder.path(u"home.budget.backup-2"_qs))), u"6"_qs);
     }
+    // As many as are wanted.
+    for (const unsigned backups : {0U, 1U}) {
+        test::ScratchFolder folder;
+        for (int version = 1; version <= 3; ++version) {
+            storage::BudgetFile file(backups);
+            file.setFilePathName(folder.path(u"home.budget"_qs));
+            file.store(budget(QString::number(version)));
+        }
+        QCOMPARE(folder.names().size(), qsizetype(1 + backups));
+        if (backups > 0)
+            QCOMPARE(bankIn(test::load(folder.path(u"home.budget.backup-1"_qs))), u"2"_qs);
+    }
 }
 
 void BudgetSavingTest::foreignJournalsAreLeftAlone()
