@@ -101,6 +101,7 @@ private slots:
         row("167 hours", {}, [](Data &data) { data.hoursInWeek = 167h; });
         row("168 hours", hours, [](Data &data) { data.hoursInWeek = 168h; });
         row("0 days", workDays, [](Data &data) { data.daysInWeek = days(0); });
+        row("1 day", {}, [](Data &data) { data.daysInWeek = days(1); });
         row("7 days", {}, [](Data &data) { data.daysInWeek = days(7); });
         row("8 days", workDays, [](Data &data) { data.daysInWeek = days(8); });
         row("one in use is not usable", usable.arg(u"USD', 'EUR"_s),
