@@ -190,6 +190,32 @@ private slots:
         QCOMPARE(titled, charts);
     }
 
+    void whatIsMoreLiesHigher()
+    {
+        const QString curve = toSvg(
+            {ChartKind::Line, {}, {}, {u"a"_s, u"b"_s}, {{u"n"_s, {usd("1"), usd("3")}}}}, u"c"_s);
+        std::vector<double> heights;
+        static const QRegularExpression dot(u"cy=\"([0-9.]+)\""_s);
+        for (const QRegularExpressionMatch &match : dot.globalMatch(curve))
+            heights.push_back(match.captured(1).toDouble());
+        QCOMPARE(heights.size(), std::size_t{2});
+        QVERIFY(0 < heights[1] && heights[1] < heights[0]);
+    }
+
+    void chartsOfNothingAreLeftOut()
+    {
+        const Household household;
+        // In March nothing came in, and what was spent came back.
+        QByteArray page = toHtml(household.figures("2026-03-01"), u"t"_s);
+        QVERIFY(page.contains("Income and expenses, USD") && page.contains("Budget against"));
+        const Period april(day("2026-04-01"), day("2026-04-30"));
+        page = toHtml(
+            figuresOf(april, household.ledger.accounts(), household.ledger.transactions(), {}),
+            u"t"_s);
+        QVERIFY(page.contains("Net worth over time, USD") && !page.contains("Budget against") &&
+                !page.contains("Income and expenses, USD"));
+    }
+
     void pagesOfNothingAndOfManyMonths()
     {
         const auto page = [](const Figures &figures) { return toHtml(figures, u"t"_s); };

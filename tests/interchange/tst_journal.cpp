@@ -159,7 +159,8 @@ private slots:
         row("aliases and parents",
             "alias a=Assets\nalias a:b=Assets:Bank\naccount Expenses:Food\n  alias food\n"
             "2026-01-01 x\n a:b:c  $3\n a:d  $-1\n food  $-2\n"
-            "end aliases\napply account Assets\napply account Cash\naccount E  ; type: X\n"
+            "end aliases\napply account Assets\napply account Cash\naccount E  ; number: x, "
+            "currency: y,type:X\n"
             "2026-01-02 y\n E  $1\n F\nend\nend apply account\n"
             "2026-01-03 z\n Assets:A  $1\n Income:B",
             "2026-01-01 asset:Bank:c<asset:d USD 1.00 x --\n"
