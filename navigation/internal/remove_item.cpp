@@ -29,8 +29,7 @@ void removeItem(const budgeting::BudgetItemIdentifier &id, BudgetLedgers &budget
         [&]<typename T>(std::type_identity<T>) { budgetLedgers.remove<T>(id.source); });
     if (!code)
         return;
-    const std::optional<banking::BankName> bank = bankLedgers.lookUpBankName(code->number());
-    if (bank && bankLedgers.hasAssociation(*bank, code->number()))
+    if (const std::optional<banking::BankName> bank = bankLedgers.lookUpBankName(code->number()))
         bankLedgers.removeAssociation(*bank, code->number());
 }
 

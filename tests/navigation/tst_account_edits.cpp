@@ -210,8 +210,10 @@ private slots:
     void lastReconciliationAnswersForTheBanksAccount()
     {
         BudgetBankLedgers all = household();
-        setSurveys(all, surveys({survey(at("First", 1, Savings))}));
         const auto usDollar = numira::toCurrency("USD");
+        // One that was never completed has no day.
+        setSurveys(all, surveys({survey(at("First", 1, Savings)),
+                                 surveying::CompletedSurvey(at("First", 2, Savings), usDollar)}));
         MessageLog log;
         QCOMPARE(all.lastReconciliation(no(1)),
                  (banking::ReconciledBalance{usd("100"), day("2026-01-31"), usDollar}));

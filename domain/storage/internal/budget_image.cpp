@@ -54,9 +54,7 @@ void writeSeal(const ImageDatabase &database, Seal &seal)
 void checkSeal(const ImageDatabase &database, Seal &seal)
 {
     Statement select(database, "SELECT sha256 FROM seal WHERE id = 1");
-    const bool isThere = select.step();
-    const auto *text = isThere ? sqlite3_column_text(select.get(), 0) : nullptr;
-    if (!text || QByteArrayView(text, sqlite3_column_bytes(select.get(), 0)) != seal.result())
+    if (!select.step() || bytesOf(sqlite3_column_value(select.get(), 0)) != seal.result())
         throw ContentFault(QObject::tr("The checksum is wrong."));
 }
 
@@ -96,15 +94,14 @@ void sealRows(const ImageDatabase &database, const char *table, Seal &seal)
     Statement rows(database, QByteArray("SELECT * FROM ") + table + " ORDER BY rowid");
     while (rows.step()) {
         for (int column = 0; column < sqlite3_column_count(rows.get()); ++column) {
-            const int type = sqlite3_column_type(rows.get(), column);
+            sqlite3_value *const value = sqlite3_column_value(rows.get(), column);
+            const int type = sqlite3_value_type(value);
             if (type == SQLITE_NULL)
                 seal.null();
             else if (type == SQLITE_INTEGER)
-                seal.integer(sqlite3_column_int64(rows.get(), column));
-            else if (const auto *text = sqlite3_column_text(rows.get(), column))
-                seal.text({text, sqlite3_column_bytes(rows.get(), column)});
+                seal.integer(sqlite3_value_int64(value));
             else
-                throw std::bad_alloc();
+                seal.text(bytesOf(value));
         }
         seal.endRow();
     }
@@ -114,18 +111,14 @@ void sealRows(const ImageDatabase &database, const char *table, Seal &seal)
 
 void requireBudget(FileKind kind, const QString &path)
 {
-    switch (kind) {
-    case FileKind::Empty:
+    if (kind == FileKind::Empty)
         throw emptyFile(path);
-    case FileKind::Foreign:
+    if (kind == FileKind::Foreign)
         throw notOurs(path);
-    case FileKind::Newer:
+    if (kind == FileKind::Newer)
         throw newerVersion(path);
-    case FileKind::Malformed:
+    if (kind == FileKind::Malformed)
         throw damaged(path, ContentFault(QObject::tr("Its header is not whole.")));
-    case FileKind::Budget:
-        break;
-    }
 }
 
 FileKind kindOf(QByteArrayView image) noexcept

@@ -56,9 +56,8 @@ void run(SQLite::Database &database, const std::string &sql)
 
 std::string_view textAt(const Statement &statement, int column)
 {
-    const auto *text = sqlite3_column_text(statement.get(), column);
-    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement.get(), column));
-    return {reinterpret_cast<const char *>(text), size}; // NULL has no size
+    const QByteArrayView bytes = bytesOf(sqlite3_column_value(statement.get(), column));
+    return {bytes.data(), static_cast<std::size_t>(bytes.size())};
 }
 
 } // namespace
@@ -170,6 +169,14 @@ void Statement::reset() noexcept
 void Statement::Finalize::operator()(sqlite3_stmt *statement) const noexcept
 {
     sqlite3_finalize(statement);
+}
+
+QByteArrayView bytesOf(sqlite3_value *text) noexcept
+{
+    // A blob is given as it is stored, while a text may need memory for the zero
+    // behind it. The encoding is UTF-8, or the header would have been refused.
+    const void *bytes = sqlite3_value_blob(text);
+    return {static_cast<const char *>(bytes), sqlite3_value_bytes(text)};
 }
 
 } // namespace kiv::storage::internal

@@ -11,6 +11,7 @@
 
 struct sqlite3;
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 namespace kiv::storage::internal {
 
@@ -70,5 +71,8 @@ private:
     };
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
 };
+
+/// The bytes of a stored text, good until the next step; none of NULL.
+QByteArrayView bytesOf(sqlite3_value *text) noexcept;
 
 } // namespace kiv::storage::internal

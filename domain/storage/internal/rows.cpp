@@ -12,7 +12,6 @@
 #include <sqlite3.h>
 
 #include <limits>
-#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -245,10 +244,7 @@ QByteArrayView RowReader::bytesFrom(sqlite3_value *stored)
 {
     if (sqlite3_value_type(stored) != SQLITE_TEXT)
         refuse("has something else than a text");
-    const auto *text = sqlite3_value_text(stored);
-    if (!text)
-        throw std::bad_alloc();
-    const QByteArrayView bytes(text, sqlite3_value_bytes(stored));
+    const QByteArrayView bytes = bytesOf(stored);
     m_seal.text(bytes);
     return bytes;
 }
