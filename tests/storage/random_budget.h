@@ -79,13 +79,19 @@ private:
     void changeTransaction()
     {
         auto &ledger = m_data.generalLedger;
-        const accounting::TransactionNumber number(static_cast<std::uint16_t>(1 + m_pick(20)));
-        switch (m_pick(4)) {
+        const auto all = ledger.transactions();
+        if (all.empty())
+            return;
+        const auto &one = all.at(static_cast<std::size_t>(m_pick(static_cast<int>(all.size()))));
+        const accounting::TransactionNumber number = *one.number();
+        switch (m_pick(5)) {
         case 0:
-            return ledger.reconcile(number, account());
+            return ledger.reconcile(number, one.debiting().number());
         case 1:
-            return ledger.clear(number);
+            return ledger.reconcile(number, one.crediting().number());
         case 2:
+            return ledger.clear(number);
+        case 3:
             return ledger.remove(number);
         default:
             ledger.refund(number, money(), date());
