@@ -59,7 +59,7 @@ QStringList hostileNames()
                              u"<b>&amp;"_qs,
                              u"../../x"_qs,
                              u"$(x)`x`"_qs};
-    QStringList names;
+    QStringList names{QString(1'000'000, u'n'), QString(1'000'000, QChar(0x202e))};
     for (const QString &piece : pieces) {
         for (const auto *frame : {u"%", u"a%", u"%a", u"a%b", u"%%", u" %", u"% ", u"%\n%", u"a %",
                                   u"% b", u"a % b", u"%%%", u"(%)"})
@@ -143,7 +143,7 @@ void HostileNames::initTestCase()
             {day("2026-01-31"), no(100'001), no(100'000), usd("1"), name});
         for (const QString &line : desk.take()) {
             if (line.startsWith(u"- ") || line.startsWith(u"! ") || line.startsWith(u"? "))
-                QVERIFY2(hostileIn(line) == 0 && !line.contains(u'\n'), line.toUtf8().toHex());
+                QVERIFY2(hostileIn(line) == 0 && !line.contains(u'\n'), line.left(100).toUtf8().toHex());
         }
     }
     m_data = desk.save();
@@ -159,7 +159,7 @@ void HostileNames::initTestCase()
             m_data.budget.bills.sources().contains(bill) && described.contains(name) &&
             m_data.itemTags.tags({budgeting::BudgetItemTypes::Bill, bill}) ==
                 tagging::Tags{tagging::Tag(name)};
-        QVERIFY2(isKept, name.toUtf8().toHex());
+        QVERIFY2(isKept, name.left(100).toUtf8().toHex());
     }
     storage::BudgetFile file(0);
     file.setFilePathName(m_path);
@@ -168,13 +168,9 @@ void HostileNames::initTestCase()
 
 void HostileNames::areKeptExactlyInTheFile()
 {
-    storage::BudgetStorage::Data data = m_data;
-    for (const QChar c : {QChar(u'n'), QChar(0x202e)})
-        data.banks.add(banking::Bank(banking::BankName(QString(1'000'000, c)), {}, false));
     storage::BudgetFile file(0);
-    file.setFilePathName(m_folder.filePath(QStringLiteral("other.budget")));
-    file.store(data);
-    QVERIFY(file.load() == data);
+    file.setFilePathName(m_path);
+    QVERIFY(file.load() == m_data);
 }
 
 void HostileNames::neverReachTheTerminal_data()

@@ -257,6 +257,8 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("malformed text", {"UPDATE accounts SET name = CAST(x'ff' AS TEXT)"});
     row("overlong text", {"UPDATE accounts SET name = CAST(x'c080' AS TEXT)"});
     row("text beyond all", {"UPDATE accounts SET name = printf('%.*c', 4200000, 'n')"});
+    row("tag beyond all",
+        {"INSERT INTO item_tags VALUES(1, 1, 'Rent', printf('%.*c', 4200000, 'n'))"});
     row("as large as may be",
         {"UPDATE accounts SET name = printf('%.*c', 4100000, 'n'), parent = 9",
          "WITH RECURSIVE n(i) AS (VALUES(3) UNION ALL SELECT i + 1 FROM n WHERE i < 16) "

@@ -179,6 +179,7 @@ private slots:
     void aFileThatChangesMeanwhileIsNotOverwritten();
     void whatCannotBeTakenBackIsSavedTheNextTime_data();
     void whatCannotBeTakenBackIsSavedTheNextTime();
+    void onlyWhereThereAreNoLocksItGoesOnWithout();
     void rightsOfALostGroupGoToNobody();
     void aLoadIsHonestToo_data();
     void aLoadIsHonestToo();
@@ -311,6 +312,17 @@ void SaveFaultsTest::whatCannotBeTakenBackIsSavedTheNextTime()
     QCOMPARE(desk.folder.read(name), bytesOf(3));
     desk.save(4);
     QCOMPARE(desk.folder.read(name), bytesOf(4));
+}
+
+void SaveFaultsTest::onlyWhereThereAreNoLocksItGoesOnWithout()
+{
+    for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL, EIO, EINTR}) {
+        Desk desk(Standing::NotOpen);
+        fail("flock", 1, error);
+        const auto failure = test::failureOf([&] { desk.save(3); });
+        failingCalls = {};
+        QCOMPARE(failure.has_value(), error == EIO || error == EINTR);
+    }
 }
 
 void SaveFaultsTest::rightsOfALostGroupGoToNobody()

@@ -114,7 +114,7 @@ void ImageDatabase::harden()
           std::pair(SQLITE_DBCONFIG_WRITABLE_SCHEMA, 0)})
         check(database, sqlite3_db_config(database, option, value, nullptr));
     for (const auto &[limit, value] :
-         {std::pair(SQLITE_LIMIT_LENGTH, textSizeMax), std::pair(SQLITE_LIMIT_SQL_LENGTH, 4096),
+         {std::pair(SQLITE_LIMIT_LENGTH, rowSizeMax), std::pair(SQLITE_LIMIT_SQL_LENGTH, 4096),
           std::pair(SQLITE_LIMIT_COLUMN, 32), std::pair(SQLITE_LIMIT_EXPR_DEPTH, 16),
           std::pair(SQLITE_LIMIT_COMPOUND_SELECT, 2), std::pair(SQLITE_LIMIT_VDBE_OP, 10'000),
           std::pair(SQLITE_LIMIT_FUNCTION_ARG, 8), std::pair(SQLITE_LIMIT_ATTACHED, 0),

@@ -245,6 +245,8 @@ QByteArrayView RowReader::bytesFrom(sqlite3_value *stored)
     if (sqlite3_value_type(stored) != SQLITE_TEXT)
         refuse("has something else than a text");
     const QByteArrayView bytes = bytesOf(stored);
+    if (bytes.size() > textSizeMax)
+        refuse("has a text that is too long");
     m_seal.text(bytes);
     return bytes;
 }

@@ -21,6 +21,8 @@ inline constexpr int pageSize = 4096;
 inline constexpr qsizetype fileSizeMax = 64LL * 1024 * 1024;
 /// The longest text, in bytes.
 inline constexpr int textSizeMax = 4 * 1024 * 1024;
+/// The longest row: no table has more than two texts that users write.
+inline constexpr int rowSizeMax = 2 * textSizeMax + 4096;
 /// The most rows of any table: as many as there are transaction numbers.
 inline constexpr qint64 rowsMax = 65'535;
 
