@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What every transcript begins with: a household in the folder of its own where cram
+# runs it, without anything of the user's.
+export HOME="$PWD" XDG_CONFIG_HOME="$PWD/config" XDG_DATA_HOME="$PWD/data"
+export KIV_FILE=household.budget LC_ALL=C.UTF-8 COLUMNS=80
+unset LANGUAGE
+
+# Runs the command. Whatever it refuses and whatever is dry leaves the file as it was,
+# byte for byte, and what is refused is told on standard error only.
+kiv() {
+    case $1 in shell | watch | check | tour)
+        command kiv "$@"
+        return
+        ;;
+    esac
+    [ ! -f "$KIV_FILE" ] || cp "$KIV_FILE" "$CRAMTMP/before"
+    command kiv "$@" >"$CRAMTMP/told"
+    set -- $? "$*"
+    cat "$CRAMTMP/told"
+    case $1$2 in
+    [12]* | *--dry-run*) [ ! -f "$KIV_FILE" ] || cmp "$KIV_FILE" "$CRAMTMP/before" ;;
+    esac
+    [ "$1" = 0 ] || [ ! -s "$CRAMTMP/told" ] || echo "This stood on standard output."
+    return "$1"
+}
+
+# A bank with a checking account of 2,500.00 USD, a bill and a wage; made once, and
+# copied when it is wanted again.
+begin() {
+    rm -rf config data household.budget*
+    if [ ! -d "$CRAMTMP/begun" ]; then
+        kiv new
+        kiv bank add First
+        kiv bank-account add Checking --bank First --balance '2500.00 USD' --date 2026-01-01
+        kiv bill add Rent '1250.00 USD' --next 2026-01-31
+        kiv wage add Salary '3100.00 USD' --next 2026-01-25
+        mkdir "$CRAMTMP/begun"
+        cp household.budget* "$CRAMTMP/begun"
+    fi >/dev/null
+    cp "$CRAMTMP/begun/"* .
+}

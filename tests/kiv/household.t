@@ -1,0 +1,178 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+What a household does from day to day.
+
+  $ . "$TESTDIR/household.sh"
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv bank add First
+  Added the bank 'First'.
+  $ kiv bank-account add Checking --bank First --balance '2500.00 USD' --date 2026-01-01
+  Added the account 1 Checking at the bank 'First'.
+  $ kiv bill add Rent '1250.00 USD' --next 2026-01-31
+  Added the bill 'Rent'.
+  $ kiv wage add Salary '3100.00 USD' --next 2026-01-25
+  Added the wage 'Salary'.
+
+A month, from nothing to what is on file:
+
+  $ kiv bill add Power '84.35 USD' --next 2026-02-10 --tag home
+  Added the bill 'Power'.
+  $ kiv bill rename Power Light
+  The bill 'Power' is now called 'Light'.
+  $ kiv post Rent --account Checking --date 2026-02-01
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  $ kiv post Salary --account Checking --date 2026-02-01
+  Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
+  $ kiv skip Light
+  Skipped the bill 'Light' due on 2026-02-10; it is next due on 2026-03-10.
+  $ kiv pay Light 19.10 --account Checking --date 2026-02-11
+  Posted $19.10 for the bill 'Light', which is still due on 2026-03-10.
+  $ kiv transaction clear 2 3
+  Cleared the transactions 2, 3.
+  $ kiv transaction reconcile 2
+  Reconciled the transactions 2.
+  $ kiv bill update Light --amount 90.00 --every quarterly
+  Changed the bill 'Light'.
+  $ kiv transaction update 2 --description "A month's rent"
+  kiv: The transaction 2 is reconciled and cannot be changed before it is unreconciled.
+  [1]
+  $ kiv transaction unreconcile 2
+  Took the reconciliation of 2 back.
+  $ kiv transaction clear 2
+  Cleared the transactions 2.
+  $ kiv transaction update 2 --description "A month's rent"
+  Changed transaction 2.
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                       $4,330.90
+       2  Equity:Opening Balances USD [Equity]  $2,500.00
+       5  Expenses:Light [Budget Item]             $19.10
+       3  Expenses:Rent [Budget Item]           $1,250.00
+       4  Income:Salary [Budget Item]           $3,100.00
+  $ kiv transactions
+  Number  Date        Description                                        Debit                         Credit                                   Amount
+       1  2026-01-01                                                     Assets:Checking               Equity:Opening Balances USD [Equity]  $2,500.00
+       2  2026-02-01  A month's rent                                     Expenses:Rent [Budget Item]   Assets:Checking                       $1,250.00
+       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Assets:Checking               Income:Salary [Budget Item]           $3,100.00
+       4  2026-02-11  Processed unexpected budget item 'Light'.          Expenses:Light [Budget Item]  Assets:Checking                          $19.10
+  $ kiv ledger Checking
+  1 Checking
+  Number  Date        Description                                        Other account                             Change    Balance  Status
+       1  2026-01-01                                                     Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
+       2  2026-02-01  A month's rent                                     Expenses:Rent [Budget Item]           -$1,250.00  $1,250.00  cleared
+       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Income:Salary [Budget Item]            $3,100.00  $4,350.00  cleared
+       4  2026-02-11  Processed unexpected budget item 'Light'.          Expenses:Light [Budget Item]             -$19.10  $4,330.90  none
+  $ kiv info
+  File            household.budget
+  Bytes           * (glob)
+  Accounts        5
+  Transactions    4
+  Banks           1
+  Items           bill 2, debt 0, goal 0, nontrack 0, wage 1
+  Sum of debits   $6,869.10
+  Sum of credits  $6,869.10
+
+The day of the month that an item was given outlives a short month:
+
+  $ kiv bill list
+  Name      Amount  Every      Next        Tags
+  Light     $90.00  quarterly  2026-03-10  home
+  Rent   $1,250.00  monthly    2026-02-28
+  $ kiv skip Rent
+  Skipped the bill 'Rent' due on 2026-02-28; it is next due on 2026-03-31.
+
+Programs read JSON:
+
+  $ kiv accounts --json | jq -c '.[0]'
+  {"balance":{"amount":"4330.90","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"}
+  $ kiv bill list --json | jq -c '.[0]'
+  {"amount":{"amount":"90.00","currency":"USD"},"every":"quarterly","kind":"bill","name":"Light","next":"2026-03-10","tags":["home"]}
+  $ kiv transactions --json | jq -c '.[1]'
+  {"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"cleared","date":"2026-02-01","debit":3,"debitPath":"Expenses:Rent [Budget Item]","debitStatus":"cleared","description":"A month's rent","number":2}
+  $ kiv ledger Checking --json | jq -c '.transactions[1]'
+  {"amount":{"amount":"1250.00","currency":"USD"},"balance":{"amount":"1250.00","currency":"USD"},"change":{"amount":"-1250.00","currency":"USD"},"credit":1,"creditStatus":"cleared","date":"2026-02-01","debit":3,"debitStatus":"cleared","description":"A month's rent","number":2,"otherPath":"Expenses:Rent [Budget Item]","status":"cleared"}
+  $ kiv info --json | jq -c 'del(.bytes)'
+  {"accounts":5,"banks":1,"credits":[{"amount":"6869.10","currency":"USD"}],"debits":[{"amount":"6869.10","currency":"USD"}],"file":"household.budget","items":{"bill":2,"debt":0,"goal":0,"nontrack":0,"wage":1},"transactions":4}
+
+What is due, by day:
+
+  $ begin
+  $ kiv due --date 2026-01-27
+  Due         Item    Kind     Amount  When
+  2026-01-25  Salary  wage  $3,100.00  2 days late
+  2026-01-31  Rent    bill  $1,250.00  in 4 days
+  $ kiv due --date 2026-01-27 --within 3 --json
+  [
+      {
+          "amount": {
+              "amount": "3100.00",
+              "currency": "USD"
+          },
+          "due": "2026-01-25",
+          "inDays": -2,
+          "kind": "wage",
+          "name": "Salary"
+      }
+  ]
+  $ kiv due --date 2026-01-01 --within 0
+  Nothing is due.
+  $ kiv due --date 2026-01-01 --within 0 --json
+  [
+  ]
+  $ kiv post --all --account Checking --date 2026-01-31
+  Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  $ kiv due --date 2026-02-01 --within 5
+  Nothing is due.
+  $ kiv post --all --account Checking --date 2020-01-01 --dry-run
+  Nothing is due.
+  This was a dry run: nothing is saved.
+
+Names that stand in several places:
+
+  $ kiv wage add Rent '500.00 USD' --next 2026-02-01
+  Added the wage 'Rent'.
+  $ kiv account add Twin --type expense
+  Added the account 6 Twin.
+  $ kiv account add Twin --type income
+  Added the account 7 Twin.
+  $ kiv ledger Twin
+  kiv: Several accounts are named 'Twin'; give the number of one: 6, 7.
+  [1]
+  $ kiv post Rent --account Checking
+  kiv: Several budget items are named 'Rent'; choose one with --kind: bill, wage.
+  [1]
+
+Posting goes by name, and would take the bill for the wage:
+
+  $ kiv post Rent --kind wage --account Checking
+  kiv: The wage 'Rent' cannot be processed while there is a bill of the same name; rename one of them.
+  [1]
+  $ kiv pay Rent 25 --kind wage --account Checking
+  Posted $25.00 for the wage 'Rent', which is still due on 2026-02-01.
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                       $4,375.00
+       2  Equity:Opening Balances USD [Equity]  $2,500.00
+       3  Expenses:Rent [Budget Item]           $1,250.00
+       6  Expenses:Twin                             $0.00
+       5  Income:Rent [Budget Item]                $25.00
+       4  Income:Salary [Budget Item]           $3,100.00
+       7  Income:Twin                               $0.00
+
+A refund gives back what was paid, and no more:
+
+  $ begin
+  $ kiv pay Rent 100 --account Checking --date 2026-02-03
+  Posted $100.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv refund 2 30.50
+  Posted the refund as transaction 3.
+  $ kiv transactions --json | jq -c '.[-1] | .date == (now | todate[:10]), del(.date)'
+  true
+  {"amount":{"amount":"30.50","currency":"USD"},"credit":3,"creditPath":"Expenses:Rent [Budget Item]","creditStatus":"none","debit":1,"debitPath":"Assets:Checking","debitStatus":"none","description":"Processed unexpected budget item 'Rent'.","number":3,"refundOf":2}
+  $ kiv refund 2 69.51
+  kiv: A refund of $69.51 exceeds the $69.50 that are left of the transaction 2.
+  [1]
+  $ kiv refund 2 69.50
+  Posted the refund as transaction 4.

@@ -1,0 +1,248 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+What a budget holds is listed, and each field of it changed alone.
+
+  $ . "$TESTDIR/household.sh"
+
+Banks, accounts and their states:
+
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv banks
+  There are no banks.
+  $ kiv tags list
+  There are no tags.
+  $ begin
+  $ kiv bank-account add Savings --bank First --type savings
+  Added the account 5 Savings at the bank 'First'.
+  $ kiv bank-account rename Savings --under Checking --name 'Rainy days'
+  The bank account 5 Assets:Savings is now 5 Assets:Checking:Rainy days.
+  $ kiv account add Food --type expense --number 500
+  Added the account 500 Food.
+  $ kiv account recode Food --number 510
+  The account 500 Expenses:Food is now 510 Expenses:Food.
+  $ kiv account close 510
+  Closed the account 510 Food.
+  $ kiv bank rename First Second
+  The bank is now called 'Second'.
+  $ kiv banks
+  Second
+  Number  Account     Kind        Balance
+       1  Checking    checking  $2,500.00
+       5  Rainy days  savings       $0.00
+
+Money goes out of a sub-account, and into a top-level one:
+
+  $ kiv transaction add 70 --debit 'Rainy days' --credit Checking --date 2026-02-01
+  Posted transaction 2.
+  $ kiv transfer 'Rainy days' Checking 20.00 --date 2026-02-02
+  Posted transaction 3.
+  $ kiv transfer Checking Checking 5
+  kiv: A transaction cannot debit and credit the same account '1 Checking'.
+  [1]
+  $ kiv transfer Checking 'Rainy days' 5
+  kiv: Money can be moved into an asset account that a bank keeps and that stands under no other, which 'Rainy days' is not.
+  [1]
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                       $2,450.00
+       5  Assets:Checking:Rainy days               $50.00
+       2  Equity:Opening Balances USD [Equity]  $2,500.00
+     510  Expenses:Food                             $0.00  closed
+       3  Expenses:Rent [Budget Item]               $0.00
+       4  Income:Salary [Budget Item]               $0.00
+
+What is there is told:
+
+  $ begin
+  $ kiv bill add Gym 30 --next 2026-02-03 --tag sport --tag home
+  Added the bill 'Gym'.
+  $ kiv goal add Trip 50 --target 900 --bank-account Checking --next 2026-02-05
+  Added the goal 'Trip'.
+  $ kiv account add Food --type expense --date 2026-01-01
+  Added the account 7 Food.
+  $ kiv account add Old --type expense
+  Added the account 8 Old.
+  $ kiv account close Old
+  Closed the account 8 Old.
+  $ kiv bank add Second
+  Added the bank 'Second'.
+  $ kiv bank close Second
+  Closed the bank 'Second'.
+  $ kiv rates set USD EUR=0.80
+  For one USD, as of ????-??-??T??:??:??Z (glob)
+  Currency  Rate
+  EUR       0.8
+  $ kiv configure set --usable USD --usable EUR
+  Preferred currency                USD
+  Usable currencies                 USD, EUR
+  Currencies are shown by           Symbol
+  Days in which items count as due  14
+  Survey window                     2.75 %
+  Work hours a week                 40
+  Work days a week                  5
+  $ kiv account add Euros --type asset --currency EUR --balance 1 --date 2026-01-01
+  Added the account 9 Euros.
+  $ kiv transaction add '8 USD' --debit Euros --credit Checking --date 2026-02-02
+  Posted transaction 3.
+  $ kiv pay Rent 100 --account Checking --date 2026-02-03
+  Posted $100.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv transaction clear 4
+  Cleared the transactions 4.
+  $ kiv history diff 1 0
+  What         Name  Change   Detail
+  transaction  4     changed  creditStatus none → cleared, debitStatus none → cleared
+  $ kiv account recode Food --under Old
+  The account 7 Expenses:Food is now 7 Expenses:Old:Food.
+  $ kiv transaction update 3 --date 2026-02-01
+  Changed transaction 3.
+  $ kiv history diff 1 0
+  What         Name  Change   Detail
+  transaction  3     changed  date 2026-02-02 → 2026-02-01
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                       $2,392.00
+       6  Assets:Checking:Trip [Budget Item]        $0.00
+       9  Assets:Euros                              €7.40
+      10  Equity:Opening Balances EUR [Equity]      €1.00
+       2  Equity:Opening Balances USD [Equity]  $2,500.00
+       5  Expenses:Gym [Budget Item]                $0.00
+       8  Expenses:Old                              $0.00  closed
+       7  Expenses:Old:Food                         $0.00
+       3  Expenses:Rent [Budget Item]             $100.00
+       4  Income:Salary [Budget Item]               $0.00
+  $ kiv accounts --type expense
+  Number  Account                      Balance
+       5  Expenses:Gym [Budget Item]     $0.00
+       8  Expenses:Old                   $0.00  closed
+       7  Expenses:Old:Food              $0.00
+       3  Expenses:Rent [Budget Item]  $100.00
+  $ kiv accounts --type expense --open
+  Number  Account                      Balance
+       5  Expenses:Gym [Budget Item]     $0.00
+       7  Expenses:Old:Food              $0.00
+       3  Expenses:Rent [Budget Item]  $100.00
+  $ kiv banks
+  First
+  Number  Account             Kind                Balance
+       1  Checking            checking          $2,392.00
+       6  Trip [Budget Item]  goal sub-account      $0.00
+  Second (closed)
+  It keeps no accounts.
+  $ kiv banks --json | jq -c '.[]'
+  {"accounts":[{"balance":{"amount":"2392.00","currency":"USD"},"name":"Checking","number":1,"type":"checking"},{"balance":{"amount":"0.00","currency":"USD"},"name":"Trip [Budget Item]","number":6,"type":"goal sub-account"}],"name":"First","open":true}
+  {"accounts":[],"name":"Second","open":false}
+  $ kiv ledger Checking --from 2026-02-01 --to 2026-02-02
+  1 Checking
+  Number  Date        Description  Other account  Change    Balance  Status
+       3  2026-02-01               Assets:Euros   -$8.00  $2,492.00  none
+  $ kiv transactions --from 2026-02-01 --to 2026-02-02
+  Number  Date        Description  Debit         Credit           Amount
+       3  2026-02-01               Assets:Euros  Assets:Checking   $8.00
+  $ kiv transactions --json --from 2026-02-01 | jq -c '.[0]'
+  {"amount":{"amount":"8.00","currency":"USD"},"credit":1,"creditAmount":{"amount":"8.00","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":9,"debitAmount":{"amount":"6.40","currency":"EUR"},"debitPath":"Assets:Euros","debitStatus":"none","description":"","number":3}
+  $ kiv refundable Rent
+  Number  Date        Description                               Debit                        Credit            Amount
+       4  2026-02-03  Processed unexpected budget item 'Rent'.  Expenses:Rent [Budget Item]  Assets:Checking  $100.00
+  $ kiv due --date 2026-02-02 --within 3
+  Due         Item    Kind     Amount  When
+  2026-01-25  Salary  wage  $3,100.00  8 days late
+  2026-01-31  Rent    bill  $1,250.00  2 days late
+  2026-02-03  Gym     bill     $30.00  tomorrow
+  2026-02-05  Trip    goal     $50.00  in 3 days
+  $ kiv goal list
+  Name  Amount  Every    Next         Target  Bank   Tags
+  Trip  $50.00  monthly  2026-02-05  $900.00  First
+  $ kiv tags list
+  home
+  sport
+  $ kiv tags remove home --dry-run
+  Removed the tags home.
+  This was a dry run: nothing is saved.
+  $ kiv account recode Food --top-level --dry-run
+  The account 7 Expenses:Old:Food is now 7 Expenses:Food.
+  This was a dry run: nothing is saved.
+  $ kiv reconciliation last Checking
+  1 Checking was never reconciled.
+  $ kiv check
+  Promise                                         Verdict  Details
+  It is a budget file of a known version          kept
+  Its tables are those of that version            kept
+  Its rows are those that were written            kept
+  Its books obey the rules of the ledger          kept
+  Its items, accounts and banks fit together      kept
+  Every balance is the sum of its transactions    kept
+  In every currency the debits equal the credits  kept     2600.00 USD, 1.00 EUR
+  The budget 'household.budget' is whole.
+
+Each field of something is changed alone:
+
+  $ begin
+  $ kiv account add Food --type expense
+  Added the account 5 Food.
+  $ kiv account add Out --type expense --under Food
+  Added the account 6 Out.
+  $ kiv account recode Out --top-level
+  The account 6 Expenses:Food:Out is now 6 Expenses:Out.
+  $ kiv pay Rent 100 --account Checking
+  Posted $100.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv transaction update 2 --amount 'USD 90'
+  Changed transaction 2.
+  $ kiv transaction update 2 --debit Food
+  Changed transaction 2.
+  $ kiv transaction update 2 --credit 'Rent [Budget Item]'
+  Changed transaction 2.
+  $ kiv transaction update 2 --date 2026-02-09
+  Changed transaction 2.
+  $ kiv bill update Rent --every weekly
+  Changed the bill 'Rent'.
+  $ kiv bill update Rent --next 2026-03-01
+  Changed the bill 'Rent'.
+  $ kiv bill update Rent --tag home
+  Changed the bill 'Rent'.
+  $ kiv debt add Car 20 --borrowed 500 --bank First --next 2026-02-01 --date 2026-01-02
+  Added the debt 'Car'.
+  $ kiv bank add Second
+  Added the bank 'Second'.
+  $ kiv debt update Car --borrowed 400
+  Changed the debt 'Car'.
+  $ kiv debt update Car --bank Second
+  Changed the debt 'Car'.
+  $ kiv bill list
+  Name     Amount  Every   Next        Tags
+  Rent  $1,250.00  weekly  2026-03-01  home
+  $ kiv bill update Rent --no-tags
+  Changed the bill 'Rent'.
+  $ kiv post Rent --amount 7 --account Checking --date 2026-03-01
+  Posted the bill 'Rent', due on 2026-03-01: $7.00.
+  $ kiv bank-account detach Checking
+  The bank 'First' no longer keeps the account 1 Checking.
+  $ kiv transactions
+  Number  Date        Description                                       Debit                                 Credit                                   Amount
+       1  2026-01-01                                                    Assets:Checking                       Equity:Opening Balances USD [Equity]  $2,500.00
+       2  2026-02-09  Processed unexpected budget item 'Rent'.          Expenses:Food                         Expenses:Rent [Budget Item]              $90.00
+       3  ????-??-??                                                    Equity:Opening Balances USD [Equity]  Liabilities:Car [Budget Item]           $500.00 (glob)
+       4  2026-03-01  Processed the budget item due on Sun Mar 1 2026.  Expenses:Rent [Budget Item]           Assets:Checking                           $7.00
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                       $2,493.00
+       2  Equity:Opening Balances USD [Equity]  $2,000.00
+       5  Expenses:Food                            $90.00
+       6  Expenses:Out                              $0.00
+       3  Expenses:Rent [Budget Item]             -$83.00
+       4  Income:Salary [Budget Item]               $0.00
+       7  Liabilities:Car [Budget Item]           $500.00
+  $ kiv bill list
+  Name     Amount  Every   Next        Tags
+  Rent  $1,250.00  weekly  2026-03-08
+  $ kiv debt list
+  Name  Amount  Every    Next        Borrowed  Bank    Tags
+  Car   $20.00  monthly  2026-02-01   $400.00  Second
+  $ kiv debt list --json | jq -c .[]
+  {"amount":{"amount":"20.00","currency":"USD"},"bank":"Second","bankAccount":7,"borrowed":{"amount":"400.00","currency":"USD"},"every":"monthly","kind":"debt","name":"Car","next":"2026-02-01","tags":[]}
+  $ kiv banks
+  First
+  It keeps no accounts.
+  Second
+  Number  Account            Kind  Balance
+       7  Car [Budget Item]  loan  $500.00

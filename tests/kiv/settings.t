@@ -1,0 +1,140 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Help, the tour, completion and settings.
+
+  $ . "$TESTDIR/household.sh"
+
+Help needs nothing and leaves nothing:
+
+  $ kiv help bill add
+  Add one
+  Usage: kiv bill add [OPTIONS] NAME AMOUNT
+  
+  Positionals:
+    NAME REQUIRED               Its name
+    AMOUNT REQUIRED             What it comes to
+  
+  Options:
+    -h,--help                   Print this help message and exit
+    --every TEXT                How often it recurs, such as monthly
+    --next DATE                 The next day on which it does
+    --tag TEXT                  A tag to find it by; may be given several times
+    --date DATE                 Today, in place of --next
+    --file TEXT                 The budget file; else KIV_FILE names it
+    --json                      Print JSON for programs
+    --dry-run                   Show what would come of it, save nothing
+    --verbose                   Show the log on standard error
+  
+  kiv COMMAND --help tells more about a command.
+  $ kiv --version
+  kiv 1.* (glob)
+  $ ls -A
+
+The tour ends well and leaves nothing either:
+
+  $ kiv tour >tour 2>errors
+  $ grep 'equals the sum of all credits' tour
+  The sum of all debits equals the sum of all credits.
+  $ cat errors
+  kiv: The code name is the same name as an existing budget item.
+  $ ls -A
+  errors
+  tour
+
+What a shell completes, with the names of the budget; one with a line break in it is
+never offered:
+
+  $ begin
+  $ kiv bank add 'F
+  > 2'
+  Added the bank 'F\u{000A}2'.
+  $ completed() { for line; do echo "$line >" $(kiv completion words -- $line); done; }
+  $ completed 'ban' 'bill re' 'bill update R' 'bill update -- R' 'bill update -- -x R' \
+  >     'bill add R' 'account add R' 'save-as R' 'accounts b' 'post R' \
+  >     'post Rent --account Che' 'post Rent --kind b' 'post Rent --js --acc' \
+  >     'post --json --colour R' 'post --json=true R' 'bank rename F' \
+  >     'bank-account add New --bank=First --type mo' 'bank-account add New --bank F' \
+  >     'account add New --type e' 'bill add Gym --every week' 'import x --format q' \
+  >     'export --format j' 'configure set --usable JM' 'rates fetch EUR JM' \
+  >     '--file=household.budget post R' '--file = nowhere.budget post R' '--file b'
+  ban > banks bank bank-account
+  bill re > rename remove
+  bill update R > Rent
+  bill update -- R > Rent
+  bill update -- -x R >
+  bill add R >
+  account add R >
+  save-as R >
+  accounts b >
+  post R > Rent
+  post Rent --account Che > Checking
+  post Rent --kind b > bill
+  post Rent --js --acc > --account
+  post --json --colour R > Rent
+  post --json=true R > Rent
+  bank rename F > First
+  bank-account add New --bank=First --type mo > money-market
+  bank-account add New --bank F > First
+  account add New --type e > equity expense
+  bill add Gym --every week > weekly
+  import x --format q > qif
+  export --format j > journal json
+  configure set --usable JM > JMD
+  rates fetch EUR JM > JMD
+  --file=household.budget post R > Rent
+  --file = nowhere.budget post R >
+  --file b >
+  $ kiv completion words --json -- zz
+  $ echo $(kiv completion words)
+  new info save-as undo history check wizard templates accounts ledger account banks bank bank-account bill debt goal nontrack wage due post pay skip transactions transaction transfer refundable refund survey reconciliation dashboard configure tags rates updates release-notes import export report shell watch tour completion
+
+Settings are kept. What is preferred is usable, unless the usable ones are given:
+
+  $ rm household.budget*
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv configure set --preferred EUR --usable EUR --usable USD --display code --notify-within 30
+  Preferred currency                EUR
+  Usable currencies                 USD, EUR
+  Currencies are shown by           ISO-4217 Code
+  Days in which items count as due  30
+  Survey window                     2.75 %
+  Work hours a week                 40
+  Work days a week                  5
+  $ kiv bill add Miete 700 --next 2026-02-01
+  Added the bill 'Miete'.
+  $ kiv bill list
+  Name       Amount  Every    Next        Tags
+  Miete  700.00 EUR  monthly  2026-02-01
+  $ kiv configure set --notify-within 61
+  kiv: The number of days to notify within must be between 0 and 60.
+  [1]
+  $ kiv configure set
+  kiv: Nothing to change was given; --help lists what can be changed.
+  [2]
+  $ settings() { kiv configure "$@" --json | jq -c .; }
+  $ settings show
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"EUR","surveyWindowPercent":2.75,"usableCurrencies":["USD","EUR"]}
+  $ settings set --preferred JPY
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.75,"usableCurrencies":["JPY","USD","EUR"]}
+  $ settings set --usable JPY
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.75,"usableCurrencies":["JPY"]}
+  $ settings set --survey-window 2.5
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
+  $ settings set --hours 30
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
+  $ settings set --days 4
+  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
+  $ settings set --display both
+  {"currenciesDisplayAs":"Symbol and Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
+  $ kiv configure show
+  Preferred currency                JPY
+  Usable currencies                 JPY
+  Currencies are shown by           Symbol and Code
+  Days in which items count as due  30
+  Survey window                     2.5 %
+  Work hours a week                 30
+  Work days a week                  4
+  $ kiv bill list
+  Name        Amount  Every    Next        Tags
+  Miete  €700.00 EUR  monthly  2026-02-01
