@@ -39,3 +39,27 @@ begin() {
     fi >/dev/null
     cp "$CRAMTMP/begun/"* .
 }
+
+# Keeps the file open in a shell that reads what `say` writes, until `let_go`.
+hold() {
+    mkfifo "$CRAMTMP/lines"
+    command kiv shell <"$CRAMTMP/lines" >"$CRAMTMP/heard" 2>&1 &
+    exec 3>"$CRAMTMP/lines"
+    say info File
+}
+
+# say LINES ANSWER: waits half a minute for the answer at most.
+say() {
+    echo "$1" >&3
+    for _ in $(seq 600); do
+        ! grep "$2" "$CRAMTMP/heard" || return 0
+        sleep 0.05
+    done >"$CRAMTMP/found"
+    echo "'$2' is not in:"
+    cat "$CRAMTMP/heard"
+}
+
+let_go() {
+    exec 3>&-
+    wait $!
+}

@@ -43,6 +43,9 @@ Money goes out of a sub-account, and into a top-level one:
   $ kiv transfer Checking 'Rainy days' 5
   kiv: Money can be moved into an asset account that a bank keeps and that stands under no other, which 'Rainy days' is not.
   [1]
+  $ kiv accounts --json | jq -c '.[1,3]'
+  {"balance":{"amount":"50.00","currency":"USD"},"name":"Rainy days","number":5,"open":true,"parent":1,"path":"Assets:Checking:Rainy days","type":"asset"}
+  {"balance":{"amount":"0.00","currency":"USD"},"name":"Food","number":510,"open":false,"parent":null,"path":"Expenses:Food","type":"expense"}
   $ kiv accounts
   Number  Account                                 Balance
        1  Assets:Checking                       $2,450.00

@@ -1,0 +1,403 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Whatever is wrong with a call is told in one sentence on standard error; the exit status
+is 2 when the call is wrong in itself and 1 when the budget refuses it. That nothing
+stands on standard output, and the file is as it was, is seen to in household.sh.
+
+  $ . "$TESTDIR/household.sh"
+  $ begin
+
+Amounts:
+
+  $ kiv bill add Gym 12,3x
+  kiv: '12,3x' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+  $ kiv bill add Gym 1,250
+  kiv: '1,250' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+  $ kiv bill add Gym 12.
+  kiv: '12.' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+  $ kiv bill add Gym 1e3
+  kiv: '1e3' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+  $ kiv bill add Gym 'USD 1 EUR'
+  kiv: 'USD 1 EUR' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+  $ kiv bill add Gym 1234567890123456789012345678901234567890
+  kiv: The amount '1234567890123456789012345678901234567890' is too large to be kept exactly.
+  [2]
+  $ kiv bill add Gym '12.345 USD'
+  kiv: '12.345 USD' has more digits behind the point than the 2 of USD.
+  [2]
+  $ kiv bill add Gym '12.5 JPY'
+  kiv: '12.5 JPY' is not an amount of JPY, which has no minor unit.
+  [2]
+  $ kiv bill add Gym '12 ABQ'
+  kiv: 'ABQ' is not a currency; write its ISO 4217 code, like USD.
+  [2]
+  $ kiv bill add Gym '12 XXX'
+  kiv: 'XXX' is not a currency; write its ISO 4217 code, like USD.
+  [2]
+  $ kiv bill add Gym '12 UDS'
+  kiv: 'UDS' is not a currency; did you mean 'USD', 'UZS'?
+  [2]
+  $ kiv bill add Gym -- -12
+  kiv: The amount of the budget item 'Gym' cannot be negative, as -$12.00 is.
+  [1]
+
+Dates, and other values:
+
+  $ kiv bill add Gym 12 --next 2026-02-30
+  kiv: '2026-02-30' is not a date; write one like 2026-03-31, with a day that exists.
+  [2]
+  $ kiv bill add Gym 12 --next 30.01.2026
+  kiv: '30.01.2026' is not a date; write one like 2026-03-31, with a day that exists.
+  [2]
+  $ kiv bill add Gym 12 --next 2026-01-30T10:00
+  kiv: '2026-01-30T10:00' is not a date; write one like 2026-03-31, with a day that exists.
+  [2]
+  $ kiv bill add Gym 12 --every moonly
+  kiv: 'moonly' is none of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years.
+  [2]
+  $ kiv bill add Gym 12 --every moonthly
+  kiv: 'moonthly' is none of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years; did you mean 'monthly'?
+  [2]
+  $ kiv bill add ' ' 12
+  kiv: A name cannot be empty.
+  [2]
+  $ kiv configure set --survey-window 5x%
+  kiv: '5x%' is not a percentage; write one like 2.75.
+  [2]
+  $ kiv configure set --display name
+  kiv: 'name' is none of: code, symbol, both.
+  [2]
+  $ kiv rates set EUR USD
+  kiv: 'USD' is not a rate; write one like EUR=0.92.
+  [2]
+  $ kiv rates set USD EUR=abc
+  kiv: 'EUR=abc' is not a rate; write one like EUR=0.92.
+  [2]
+  $ kiv rates set euros USD=1
+  kiv: 'euros' is not a currency; did you mean 'EUR'?
+  [2]
+  $ kiv export --format pdf
+  kiv: 'pdf' is none of: journal, csv, json.
+  [2]
+  $ kiv wizard x --bank B --account A --template teenagr
+  kiv: 'teenagr' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income; did you mean 'teenager'?
+  [2]
+
+Nothing to change, and what excludes each other:
+
+  $ kiv bill update Rent
+  kiv: Nothing to change was given; --help lists what can be changed.
+  [2]
+  $ kiv account recode Checking
+  kiv: Nothing to change was given; --help lists what can be changed.
+  [2]
+  $ kiv transaction update 1
+  kiv: Nothing to change was given; --help lists what can be changed.
+  [2]
+  $ kiv undo --to 0
+  kiv: Nothing to change was given; --help lists what can be changed.
+  [2]
+  $ kiv account recode 1 --under 3 --top-level
+  kiv: --under and --top-level exclude each other.
+  [2]
+  $ kiv bill update Rent --tag home --no-tags
+  kiv: --no-tags and --tag exclude each other.
+  [2]
+  $ kiv post Rent --all --account Checking
+  kiv: --all and ITEM exclude each other.
+  [2]
+  $ kiv post --all --amount 5 --account Checking
+  kiv: --all and --amount exclude each other.
+  [2]
+  $ kiv post --account Checking
+  kiv: ITEM is missing.
+  [2]
+  $ kiv debt add Car 5 --borrowed 9 --type loan
+  kiv: --bank is missing.
+  [2]
+
+Commands, options and arguments; for a slip, what may have been meant is offered:
+
+  $ kiv
+  kiv: A command is missing; --help lists those that there are.
+  [2]
+  $ kiv bank
+  kiv: A command is missing; --help lists those that there are.
+  [2]
+  $ kiv frobnicate
+  kiv: 'frobnicate' is no command; kiv --help lists those that there are.
+  [2]
+  $ kiv bil list
+  kiv: 'bil' is no command; did you mean 'bill'?
+  [2]
+  $ kiv bank-account atach 1
+  kiv: 'atach' is no command; did you mean 'attach'?
+  [2]
+  $ kiv --file household bil list
+  kiv: 'bil' is no command; did you mean 'bill'?
+  [2]
+  $ kiv --json bil list
+  kiv: 'bil' is no command; did you mean 'bill'?
+  [2]
+  $ kiv -x bill list
+  kiv: The following argument was not expected: -x; --help tells which are.
+  [2]
+  $ kiv bill add Gym 12 --colour red
+  kiv: '--colour' is no option of this command; --help lists those that there are.
+  [2]
+  $ kiv bill add Gym 12 --evrey=daily
+  kiv: '--evrey' is no option of this command; did you mean '--every'?
+  [2]
+  $ kiv post Rent --acount Checking
+  kiv: '--acount' is no option of this command; did you mean '--account', '--amount'?
+  [2]
+  $ kiv bill add Gym
+  kiv: AMOUNT is required.
+  [2]
+  $ kiv bill add Gym 12 --next
+  kiv: --next needs a value (DATE).
+  [2]
+  $ kiv bill add Gym 12 --next 2026-01-01 --next 2026-01-02
+  kiv: --next was given 2 times, where 1 is the most.
+  [2]
+  $ kiv bill list --json=perhaps
+  kiv: Could not convert: --json = perhaps.
+  [2]
+  $ kiv transaction remove one
+  kiv: 'one' is not a whole number from 1 to 65535.
+  [2]
+  $ kiv transaction remove 0
+  kiv: '0' is not a whole number from 1 to 65535.
+  [2]
+  $ kiv transaction remove 65536
+  kiv: '65536' is not a whole number from 1 to 65535.
+  [2]
+
+Names that are not there:
+
+  $ kiv ledger Savings
+  kiv: There is no account 'Savings'; kiv accounts lists those that there are.
+  [1]
+  $ kiv ledger Chekcing
+  kiv: There is no account 'Chekcing'; did you mean 'Checking'?
+  [1]
+  $ kiv ledger Opening
+  kiv: There is no account 'Opening'; did you mean 'Opening Balances USD [Equity]'?
+  [1]
+  $ kiv bank rename Frist New
+  kiv: There is no bank 'Frist'; did you mean 'First'?
+  [1]
+  $ kiv bank-account add Savings --bank Second
+  kiv: There is no bank 'Second'; kiv banks lists those that there are.
+  [1]
+  $ kiv goal add Trip 5 --target 9 --bank-account 3
+  kiv: No bank keeps the account '3'; kiv bank-account attach ties it to one.
+  [1]
+  $ kiv bank-account detach 3
+  kiv: No bank keeps the account '3'; kiv bank-account attach ties it to one.
+  [1]
+  $ kiv bill rename Gym Club
+  kiv: There is no bill 'Gym'; kiv bill list shows those that there are.
+  [1]
+  $ kiv bill rename rent Flat
+  kiv: There is no bill 'rent'; did you mean 'Rent'?
+  [1]
+  $ kiv bill remove Salary
+  kiv: There is no bill 'Salary'; kiv bill list shows those that there are.
+  [1]
+  $ kiv wage update Salery --amount 1
+  kiv: There is no wage 'Salery'; did you mean 'Salary'?
+  [1]
+  $ kiv post Salray --account Checking
+  kiv: There is no budget item 'Salray'; did you mean 'Salary'?
+  [1]
+  $ kiv tags remove home
+  kiv: There is no tag 'home'; kiv tags list shows those that there are.
+  [1]
+  $ kiv transaction remove 77
+  kiv: There is no transaction with the number 77.
+  [1]
+  $ kiv transaction update 77 --amount 1
+  kiv: There is no transaction 77; kiv transactions lists those that there are.
+  [1]
+  $ kiv transaction clear 1 77
+  kiv: There is no transaction with the number 77.
+  [1]
+
+Names that are there already:
+
+  $ kiv bill add Rent 12
+  kiv: The new budgeted money item source already exists.
+  [1]
+  $ kiv wage add Checking 12
+  kiv: The budget item has the same name as an existing ledger account.
+  [1]
+  $ kiv account add Rent --type expense
+  kiv: The code name is the same name as an existing budget item.
+  [1]
+  $ kiv bank-account add Salary --bank First
+  kiv: The code name is the same name as an existing budget item.
+  [1]
+  $ kiv account add Food --type expense --number 1
+  kiv: The account '1 Food' cannot have a number that the account '1 Checking' has.
+  [1]
+
+What the ledger does not take:
+
+  $ kiv account add Food --type expense --under Checking
+  kiv: The account '5 Food' of type Expense cannot stand under the account '1 Checking' of type Asset.
+  [1]
+  $ kiv account close Checking
+  kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
+  [1]
+  $ kiv transfer 3 Checking 5
+  kiv: Money can be moved out of an asset account that a bank keeps, which '3' is not.
+  [1]
+  $ kiv transaction add 5 --debit Checking --credit 1
+  kiv: A transaction cannot debit and credit the same account '1 Checking'.
+  [1]
+  $ kiv transaction add 0 --debit 3 --credit Checking
+  kiv: The amount of a transaction must be above zero, but is $0.00.
+  [1]
+  $ kiv refund 1 9999.00
+  kiv: A refund of $9,999.00 exceeds the $2,500.00 that are left of the transaction 1.
+  [1]
+
+Transactions to be loaded:
+
+  $ load() { echo "$1" | kiv transaction load -; }
+  $ load '[{'
+  kiv: Cannot understand -: unterminated object at byte 3.
+  [2]
+  $ load '{"transactions": 1}'
+  kiv: Cannot understand -: it has no list of transactions.
+  [2]
+  $ load '[{}]'
+  kiv: Cannot understand transaction 1 of '-': "debit" is missing.
+  [2]
+  $ load '[{"debit": "Chekcing"}]'
+  kiv: Cannot understand transaction 1 of '-': There is no account 'Chekcing'; did you mean 'Checking'?
+  [2]
+  $ load '{"transactions": [{"debit": 1, "credit": 3, "amount": "1"}]}'
+  kiv: Cannot understand transaction 1 of '-': "date" is missing.
+  [2]
+  $ load '[{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]'
+  kiv: Cannot understand transaction 1 of '-': 'x' is none of: none, cleared, reconciled.
+  [2]
+
+Files:
+
+  $ ln -s away.budget link.budget
+  $ kiv new link
+  kiv: The file 'link.budget' exists already; choose another name.
+  [1]
+  $ kiv new household
+  kiv: The file 'household.budget' exists already; choose another name.
+  [1]
+  $ kiv accounts --file nowhere
+  kiv: There is no file 'nowhere.budget'.
+  [1]
+  $ kiv accounts --file .
+  kiv: There is no file '..budget'.
+  [1]
+  $ mkdir folder.budget
+  $ kiv accounts --file folder
+  kiv: 'folder.budget' is not a regular file.
+  [1]
+  $ printf 'bank add B\377\n' | kiv shell
+  kiv: A value on the command line is not valid UTF-8.
+  [2]
+
+A dry run tells what would be:
+
+  $ kiv bill add Gym 30 --dry-run
+  Added the bill 'Gym'.
+  This was a dry run: nothing is saved.
+
+A file that is open elsewhere is refused until it is let go:
+
+  $ hold
+  $ kiv bank add Second
+  kiv: The file 'household.budget' is in use by another program (process *, kiv on *). (glob)
+  [1]
+  $ let_go
+  $ kiv bank add Second --dry-run
+  Added the bank 'Second'.
+  This was a dry run: nothing is saved.
+
+A limit on the size of files stands for a disk that is full. It is not to hinder what a
+coverage build writes at its end:
+
+  $ (trap '' XFSZ; ulimit -f 1; LLVM_PROFILE_FILE=/dev/null command kiv bank add Second)
+  kiv: The file 'household.budget' could not be saved: File too large.
+  [1]
+
+Output that cannot be written is a failure; the second is more than is kept until the end:
+
+  $ command kiv accounts >/dev/full
+  kiv: Cannot write the output: No space left on device.
+  [1]
+  $ command kiv completion manual >/dev/full
+  kiv: Cannot write the output: No space left on device.
+  [1]
+
+After all that:
+
+  $ cmp household.budget "$CRAMTMP/begun/household.budget"
+
+Files that are no budgets of this program's, as empty, cut off, of another program, of a
+newer version (which SQLite keeps at byte 60) or with one bit changed, are left alone:
+
+  $ export KIV_FILE=bad.budget
+  $ refused() { kiv accounts; kiv bank add New; }
+  $ : >bad.budget
+  $ refused
+  kiv: The file 'bad.budget' is empty.
+  kiv: The file 'bad.budget' is empty.
+  [1]
+  $ head -c 20000 household.budget >bad.budget
+  $ refused
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is not whole.
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is not whole.
+  [1]
+  $ yes '%PDF-1.7 and so on' | head -400 >bad.budget
+  $ refused
+  kiv: The file 'bad.budget' is not of the kind that is used here.
+  kiv: The file 'bad.budget' is not of the kind that is used here.
+  [1]
+  $ cp household.budget bad.budget
+  $ printf '\143' | dd of=bad.budget bs=1 seek=63 conv=notrunc status=none
+  $ refused
+  kiv: The file 'bad.budget' was written by a newer version of this program.
+  kiv: The file 'bad.budget' was written by a newer version of this program.
+  [1]
+  $ LC_ALL=C sed '0,/Checking/s//Bhecking/' household.budget >bad.budget
+  $ refused
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: The checksum is wrong.
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: The checksum is wrong.
+  [1]
+
+Commands that need a file say that none is named:
+
+  $ KIV_FILE=
+  $ kiv accounts
+  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  [2]
+  $ kiv new
+  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  [2]
+  $ kiv check
+  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  [2]
+  $ kiv completion words -- post G
+  $ kiv rates show
+  No exchange rates are known.
+  $ printf 'new\naccounts\n' | kiv shell
+  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  [2]
