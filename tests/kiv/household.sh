@@ -18,7 +18,7 @@ kiv() {
     set -- $? "$*"
     cat "$CRAMTMP/told"
     case $1$2 in
-    [12]* | *--dry-run*) [ ! -f "$KIV_FILE" ] || cmp "$KIV_FILE" "$CRAMTMP/before" ;;
+    [12]* | *--dry-run*) [ ! -f "$KIV_FILE" ] || cmp "$KIV_FILE" "$CRAMTMP/before" >&2 ;;
     esac
     [ "$1" = 0 ] || [ ! -s "$CRAMTMP/told" ] || echo "This stood on standard output."
     return "$1"
@@ -35,9 +35,9 @@ begin() {
         kiv bill add Rent '1250.00 USD' --next 2026-01-31
         kiv wage add Salary '3100.00 USD' --next 2026-01-25
         mkdir "$CRAMTMP/begun"
-        cp household.budget* "$CRAMTMP/begun"
+        cp -p household.budget* "$CRAMTMP/begun"
     fi >/dev/null
-    cp "$CRAMTMP/begun/"* .
+    cp -p "$CRAMTMP/begun/"* .
 }
 
 # Keeps the file open in a shell that reads what `say` writes, until `let_go`.

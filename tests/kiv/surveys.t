@@ -1,0 +1,314 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Debts and goals at a bank, and comparing the books with a statement.
+
+  $ . "$TESTDIR/household.sh"
+  $ begin
+  $ kiv bill add Tax '360.00 USD' --every yearly --next 2026-07-01
+  Added the bill 'Tax'.
+  $ kiv goal add Trip '50.00 USD' --target 900 --bank-account Checking --next 2026-02-01
+  Added the goal 'Trip'.
+  $ kiv debt add Car '200.00 USD' --borrowed 5000.00 --bank First --next 2026-02-05
+  Added the debt 'Car'.
+  $ kiv post Rent --account Checking --date 2026-01-31
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  $ kiv post Salary --account Checking --date 2026-01-28
+  Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
+  $ kiv pay Trip 75 --account Checking --date 2026-01-29
+  Posted $75.00 for the goal 'Trip', which is still due on 2026-02-01.
+  $ kiv save-as january
+  Saved the budget as 'january.budget'.
+
+Items are tied to their bank. What is not given stays, the bank too:
+
+  $ kiv goal list --json | jq -c .[]
+  {"amount":{"amount":"50.00","currency":"USD"},"bank":"First","bankAccount":1,"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"900.00","currency":"USD"}}
+  $ kiv accounts
+  Number  Account                                  Balance
+       1  Assets:Checking                        $4,275.00
+       6  Assets:Checking:Trip [Budget Item]        $75.00
+       2  Equity:Opening Balances USD [Equity]  -$2,500.00
+       3  Expenses:Rent [Budget Item]            $1,250.00
+       5  Expenses:Tax [Budget Item]                 $0.00
+       4  Income:Salary [Budget Item]            $3,100.00
+       7  Liabilities:Car [Budget Item]          $5,000.00
+  $ kiv goal update Trip --target 950
+  Changed the goal 'Trip'.
+  $ kiv debt update Car --amount 210
+  Changed the debt 'Car'.
+  $ kiv goal list
+  Name  Amount  Every    Next         Target  Bank   Tags
+  Trip  $50.00  monthly  2026-02-01  $950.00  First
+  $ kiv debt list
+  Name   Amount  Every    Next         Borrowed  Bank   Tags
+  Car   $210.00  monthly  2026-02-05  $5,000.00  First
+  $ kiv goal update Trip --no-bank
+  Changed the goal 'Trip'.
+  $ kiv goal list --json | jq -c .[]
+  {"amount":{"amount":"50.00","currency":"USD"},"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"950.00","currency":"USD"}}
+  $ kiv accounts --type asset
+  Number  Account                      Balance
+       1  Assets:Checking            $4,275.00
+       6  Assets:Trip [Budget Item]     $75.00
+
+The reason stands behind what failed:
+
+  $ kiv goal update Trip --bank-account 'Car [Budget Item]'
+  kiv: Failed to update the goal bank account association. Caused by: The account '6 Trip [Budget Item]' of type Asset cannot stand under the account '7 Car [Budget Item]' of type Liability.
+  [1]
+
+An edited document completes a survey. What went to the goal stays in the family:
+
+  $ january() { cp january.budget household.budget; }
+  $ january
+  $ kiv survey show First Checking --date 2026-01-31
+  Bank                  First
+  Account               Checking
+  Day of the statement  2026-01-31
+  Last reconciled on
+  Balance then          $0.00
+  Changes counted from  2025-12-31
+  Expected balance      $4,350.00
+  Still due this month  $1,500.00
+  Changes by budget item
+  Item    Transaction  Date        Description                                            Change
+  Rent              3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  -$1,250.00
+  Trip              5  2026-01-29  Processed unexpected budget item 'Trip'.              -$75.00
+  Salary            4  2026-01-28  Processed the budget item due on Sun Jan 25 2026.   $3,100.00
+  Other changes
+  Account                        Transaction  Date        Description     Change
+  Opening Balances USD [Equity]            1  2026-01-01               $2,500.00
+  Proposed distribution
+  Item  Kind  Set aside  Expected  Next
+  Tax   bill     $30.00   $360.00  2026-07-01
+  Trip  goal     $75.00   $900.00  2026-02-01
+  Not distributed  $4,245.00
+  $ kiv survey show First Checking --date 2026-01-31 --json >shown.json
+  $ jq -c '.reconciledOn, .itemChanges[0], .accountChanges[0], .distribution[0]' shown.json
+  null
+  {"change":{"amount":"-1250.00","currency":"USD"},"date":"2026-01-31","description":"Processed the budget item due on Sat Jan 31 2026.","kind":"bill","name":"Rent","transaction":3}
+  {"account":2,"change":{"amount":"2500.00","currency":"USD"},"date":"2026-01-01","description":"","name":"Opening Balances USD [Equity]","transaction":1}
+  {"distributed":{"amount":"30.00","currency":"USD"},"expected":{"amount":"360.00","currency":"USD"},"kind":"bill","name":"Tax","next":"2026-07-01"}
+  $ jq '.balance = "4330.50" | .items = [{kind: "bill", name: "Rent", change: "-20.00"}] |
+  >     .accounts = [{account: 2, change: "0.50 USD"}]' shown.json >survey.json
+  $ jq '.distribution = [{kind: "bill", name: "Rent", distributed: "5"}]' survey.json |
+  >     kiv survey complete --from -
+  kiv: The budget item Rent (bill) cannot be distributed.
+  [1]
+  $ kiv survey complete --from - --tick 1 --dry-run <survey.json
+  kiv: The calculated budget item transaction total, '$2,480.50', must be within 2.75 % of the reconciled current balance, '$4,330.50'.
+  [1]
+  $ kiv survey complete --from survey.json
+  Reconciled 1 Checking at First with a balance of $4,330.50.
+  $ kiv reconciliation last Checking
+  1 Checking was reconciled on 2026-01-31 with a balance of $4,330.50.
+  $ kiv reconciliation last Checking --json | jq -c .
+  {"account":1,"balance":{"amount":"4330.50","currency":"USD"},"currency":"USD","on":"2026-01-31"}
+  $ kiv accounts
+  Number  Account                                  Balance
+       1  Assets:Checking                        $4,255.50
+       6  Assets:Checking:Trip [Budget Item]        $75.00
+       2  Equity:Opening Balances USD [Equity]  -$2,499.50
+       3  Expenses:Rent [Budget Item]            $1,270.00
+       5  Expenses:Tax [Budget Item]                 $0.00
+       4  Income:Salary [Budget Item]            $3,100.00
+       7  Liabilities:Car [Budget Item]          $5,000.00
+  $ kiv ledger Checking
+  1 Checking
+  Number  Date        Description                                        Other account                             Change    Balance  Status
+       1  2026-01-01                                                     Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  reconciled
+       4  2026-01-28  Processed the budget item due on Sun Jan 25 2026.  Income:Salary [Budget Item]            $3,100.00  $5,600.00  reconciled
+       5  2026-01-29  Processed unexpected budget item 'Trip'.           Assets:Checking:Trip [Budget Item]       -$75.00  $5,525.00  reconciled
+       3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  Expenses:Rent [Budget Item]           -$1,250.00  $4,275.00  reconciled
+       6  2026-01-31  Additional surveyed expense.                       Expenses:Rent [Budget Item]              -$20.00  $4,255.00  reconciled
+       7  2026-01-31  Extra-budget surveyed income.                      Equity:Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
+  $ kiv transaction remove 3
+  kiv: The transaction 3 is reconciled and cannot be changed before it is unreconciled.
+  [1]
+
+Flags do the same:
+
+  $ january
+  $ kiv survey complete First Checking --date 2026-01-31 --balance 4330.00 --tick-all \
+  >     --item bill:Rent=-20 --extra 2=0 --not-distributed 0
+  Reconciled 1 Checking at First with a balance of $4,330.00.
+  $ books() { kiv reconciliation last Checking; kiv ledger Checking; }
+  $ books >flags
+
+And so do answers, asked for until they can be understood:
+
+  $ january
+  $ run() {
+  >     (kiv survey run First "$1" --date 2026-01-31 2>&1 >tables; echo "[$?]") |
+  >         sed 's/\(n]\|AMOUNT\|balance\): /\1:\n/g'
+  > }
+  $ run Checking </dev/null
+  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
+  kiv: The answers ended before the questions.
+  [1]
+  $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking
+  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
+  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', $1,250.00? [y/n]:
+  Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
+  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', $75.00? [y/n]:
+  The statement's balance:
+  Money for an item that is not booked, as ITEM=AMOUNT:
+  Money for another account, as ACCOUNT=AMOUNT:
+  What is set aside for an item, as ITEM=AMOUNT:
+  Complete the survey? [y/n]:
+  kiv: The survey was not completed.
+  [1]
+  $ printf '%s\n' yes y y y y 433O 4330.00 Nobody=1 Rent=-20 '' '' '' y | run Checking
+  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
+  kiv: 'yes' is none of: y, n.
+  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
+  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', $1,250.00? [y/n]:
+  Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
+  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', $75.00? [y/n]:
+  The statement's balance:
+  kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  The statement's balance:
+  Money for an item that is not booked, as ITEM=AMOUNT:
+  kiv: There is no budget item 'Nobody'; kiv bill list and the like show those that there are.
+  Money for an item that is not booked, as ITEM=AMOUNT:
+  Money for an item that is not booked, as ITEM=AMOUNT:
+  Money for another account, as ACCOUNT=AMOUNT:
+  What is set aside for an item, as ITEM=AMOUNT:
+  Complete the survey? [y/n]:
+  [0]
+  $ tail -1 tables
+  Reconciled 1 Checking at First with a balance of $4,330.00.
+  $ books | diff flags -
+
+Nothing is set aside of a card, and nobody is asked for a distribution:
+
+  $ kiv bank-account add Card --bank First --type credit-card --balance '80.00 USD' \
+  >     --date 2026-01-01
+  Added the account 8 Card at the bank 'First'.
+  $ kiv pay Rent 20.00 --account Card --date 2026-01-15
+  Posted $20.00 for the bill 'Rent', which is still due on 2026-02-28.
+  $ kiv reconciliation last Card
+  8 Card was never reconciled.
+  $ printf '%s\n' y y 100 '' '' y | run Card
+  Does the statement show 7 2026-01-01 '', $80.00? [y/n]:
+  Does the statement show 8 2026-01-15 'Processed unexpected budget item 'Rent'.', $20.00? [y/n]:
+  The statement's balance:
+  Money for an item that is not booked, as ITEM=AMOUNT:
+  Money for another account, as ACCOUNT=AMOUNT:
+  Complete the survey? [y/n]:
+  [0]
+  $ cat tables
+  Bank                  First
+  Account               Card
+  Day of the statement  2026-01-31
+  Last reconciled on
+  Balance then          $0.00
+  Changes counted from  2025-12-31
+  Expected balance      $100.00
+  Still due this month
+  Changes by budget item
+  Item  Transaction  Date        Description                               Change
+  Rent            8  2026-01-15  Processed unexpected budget item 'Rent'.  $20.00
+  Other changes
+  Account                        Transaction  Date        Description  Change
+  Opening Balances USD [Equity]            7  2026-01-01               $80.00
+  Reconciled 8 Card at First with a balance of $100.00.
+  $ kiv survey show First Card --date 2026-02-28 --json | jq -c .
+  {"account":8,"accountChanges":[],"accountName":"Card","accounts":[],"amountDue":null,"balance":{"amount":"100.00","currency":"USD"},"bank":"First","date":"2026-02-28","distribution":[],"expectedBalance":{"amount":"100.00","currency":"USD"},"itemChanges":[],"items":[],"nonDistributed":{"amount":"100.00","currency":"USD"},"reconciled":[],"reconciledBalance":{"amount":"100.00","currency":"USD"},"reconciledOn":"2026-01-31","start":"2026-01-31"}
+  $ kiv survey complete First Card --date 2026-02-28 --balance 100 --distribute Rent=5
+  kiv: The budget item Rent (bill) cannot be distributed.
+  [1]
+
+Bad surveys change nothing:
+
+  $ january
+  $ complete() {
+  >     kiv survey complete First Checking --date 2026-01-31 --balance 4350.00 "$@"
+  > }
+  $ complete --tick-all --item Rent=-500
+  kiv: The calculated budget item transaction total, '$3,850.00', must be within 2.75 % of the reconciled current balance, '$4,350.00'.
+  [1]
+  $ complete --tick 2
+  kiv: The transaction 2 is not in the bank account ledger nor one of its children.
+  [1]
+  $ complete --tick-all --distribute Rent=5
+  kiv: The budget item Rent (bill) cannot be distributed.
+  [1]
+  $ complete --tick-all --item Gym=5
+  kiv: There is no budget item 'Gym'; kiv bill list and the like show those that there are.
+  [1]
+  $ complete --tick-all --item Rent
+  kiv: 'Rent' is not of the form NAME=VALUE.
+  [2]
+  $ kiv survey complete
+  kiv: BANK ACCOUNT is missing.
+  [2]
+  $ kiv survey complete First
+  kiv: BANK ACCOUNT is missing.
+  [2]
+  $ kiv survey complete First Checking
+  kiv: --balance is missing.
+  [2]
+  $ kiv survey complete First --from x
+  kiv: --from and BANK exclude each other.
+  [2]
+  $ kiv survey show First Checking --date 2199-01-01
+  kiv: Cannot perform a mapping survey for a future date, 2199-01-01.
+  [1]
+  $ kiv survey show First 'Rent [Budget Item]'
+  kiv: No bank keeps the account 'Rent [Budget Item]'; kiv bank-account attach ties it to one.
+  [1]
+  $ kiv debt update Car --type loan
+  kiv: --bank is missing.
+  [2]
+  $ kiv goal update Trip --no-bank --bank-account Checking
+  kiv: --no-bank and --bank exclude each other.
+  [2]
+
+Rates convert once and for all:
+
+  $ kiv bill add Abo '9.99 EUR' --next 2026-02-01
+  Added the bill 'Abo'.
+  $ kiv post Abo --account Checking --date 2026-02-01
+  kiv: The amount €9.99 cannot be converted into USD. Caused by: There is no exchange rate from 'EUR' to 'USD'; fetch the rates, or set it by hand.
+  [1]
+  $ kiv rates set USD EUR=0.80 | sed '1s/as of .*/as of now/'
+  For one USD, as of now
+  Currency  Rate
+  EUR       0.8
+  $ kiv post Abo --account Checking --date 2026-02-01
+  Posted the bill 'Abo', due on 2026-02-01: €9.99.
+  $ kiv rates set USD EUR=0.50 | tail -1
+  EUR       0.5
+  $ kiv transactions --json | jq -c '.[-1]'
+  {"amount":{"amount":"9.99","currency":"EUR"},"credit":1,"creditAmount":{"amount":"12.49","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":8,"debitAmount":{"amount":"9.99","currency":"EUR"},"debitPath":"Expenses:Abo [Budget Item]","debitStatus":"none","description":"Processed the budget item due on Sun Feb 1 2026.","number":6}
+  $ kiv rates set USD EUR=0
+  kiv: The exchange rate of 'EUR' must be a positive number between 10^-12 and 10^12.
+  [1]
+  $ kiv rates show --json | jq -c 'del(.fetchedAt)'
+  {"base":"USD","expired":false,"rates":[{"currency":"EUR","rate":"0.5"}]}
+  $ kiv rates set EUR USD=2 --json | jq -c 'del(.fetchedAt)'
+  {"base":"EUR","expired":false,"rates":[{"currency":"USD","rate":"2"}]}
+
+The wizard makes a budget of a template's items:
+
+  $ start() {
+  >     kiv wizard start --template teenager --bank First --account Savings \
+  >         --type savings --balance 12.50 --currency EUR "$@"
+  > }
+  $ start --json >items
+  $ jq -c '[length, .[0].name]' items
+  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
+  $ kiv templates show teenager --json | jq -c '[length, .[0].name]'
+  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
+  $ kiv accounts --file start --json | jq -c '[length, .[0]]'
+  [27,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]
+  $ start
+  kiv: The file 'start.budget' exists already; choose another name.
+  [1]
+  $ kiv wizard other --template child --bank A --account B
+  kiv: 'child' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income.
+  [2]
+  $ kiv wizard other --template teenager --bank A --account "$(jq -r '.[0].name' items)"
+  kiv: The budget could not be made. The budget item has the same name as an existing ledger account.
+  [1]

@@ -1,0 +1,328 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+What was saved before can be looked at and comes back.
+
+  $ . "$TESTDIR/household.sh"
+
+What is undone is back, byte for byte, and what is undone again is there again:
+
+  $ undone() {
+  >     begin
+  >     cp household.budget before
+  >     kiv "$@"
+  >     cp household.budget after
+  >     ! cmp -s before after || echo "Nothing was changed."
+  >     kiv undo --dry-run >dry
+  >     tail -1 dry | grep -v 'nothing is saved'
+  >     kiv undo >/dev/null
+  >     cmp before household.budget
+  >     kiv undo >/dev/null
+  >     cmp after household.budget
+  > }
+  $ undone bill add Gym 30 --tag sport
+  Added the bill 'Gym'.
+  $ undone bill update Rent --amount 1.00 --no-tags
+  Changed the bill 'Rent'.
+  $ undone bill rename Rent Flat
+  The bill 'Rent' is now called 'Flat'.
+  $ undone wage remove Salary
+  Removed the wage 'Salary'.
+  $ undone bank remove First
+  Removed the bank 'First'.
+  $ undone account recode Checking --number 77
+  The account 1 Assets:Checking is now 77 Assets:Checking.
+  $ undone transaction remove 1
+  Removed the transactions 1.
+  $ undone pay Rent 5 --account Checking
+  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ undone skip Rent
+  Skipped the bill 'Rent' due on 2026-01-31; it is next due on 2026-02-28.
+  $ undone transaction reconcile 1
+  Reconciled the transactions 1.
+  $ undone survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02
+  Reconciled 1 Checking at First with a balance of $2,500.00.
+
+Older versions come back by their number. The one that is replaced is then the newest of
+the former ones:
+
+  $ begin
+  $ kiv export --format json >first
+  $ kiv bill add Gym 30 --next 2026-02-01
+  Added the bill 'Gym'.
+  $ kiv bill add Club 20 --next 2026-02-01
+  Added the bill 'Club'.
+  $ kiv export --format json >last
+  $ kiv undo --to 2 --dry-run --json | jq -c '.changes[] | [.change, .what, .name]'
+  ["removed","item","bill Club"]
+  ["removed","item","bill Gym"]
+  ["removed","account","5 Gym [Budget Item]"]
+  ["removed","account","6 Club [Budget Item]"]
+  $ kiv undo --to 2
+  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  What     Name                  Change   Detail
+  item     bill Club             removed  20.00 USD, monthly, 2026-02-01
+  item     bill Gym              removed  30.00 USD, monthly, 2026-02-01
+  account  5 Gym [Budget Item]   removed  0.00 USD
+  account  6 Club [Budget Item]  removed  0.00 USD
+  $ kiv export --format json | cmp - first
+  $ kiv undo >/dev/null
+  $ kiv export --format json | cmp - last
+
+What is kept, from the file itself on:
+
+  $ begin
+  $ kiv bill add Gym 30 --next 2026-02-01
+  Added the bill 'Gym'.
+  $ kiv pay Gym 5 --account Checking --date 2026-02-01
+  Posted $5.00 for the bill 'Gym', which is still due on 2026-02-01.
+  $ kiv history
+  Version  Saved at             Bytes  Items  Accounts  Transactions
+        0  ????-??-?? ??:??:??  ?????      3         5             2 (glob)
+        1  ????-??-?? ??:??:??  ?????      3         5             1 (glob)
+        2  ????-??-?? ??:??:??  ?????      2         4             1 (glob)
+        3  ????-??-?? ??:??:??  ?????      1         3             1 (glob)
+        4  ????-??-?? ??:??:??  ?????      0         2             1 (glob)
+        5  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
+  $ kiv history --json >history
+  $ jq -c '.[] | [.version, .items, .accounts, .transactions, .whole, (.file | sub(".*/"; ""))]' history
+  [0,3,5,2,true,"household.budget"]
+  [1,3,5,1,true,"household.budget.backup-1"]
+  [2,2,4,1,true,"household.budget.backup-2"]
+  [3,1,3,1,true,"household.budget.backup-3"]
+  [4,0,2,1,true,"household.budget.backup-4"]
+  [5,0,0,0,true,"household.budget.backup-5"]
+  $ jq 'map(.savedAt) == (map(.savedAt) | sort | reverse),
+  >     (now - (.[0].savedAt | sub("\\.\\d+"; "") | fromdate) | fabs < 600)' history
+  true
+  true
+
+Differences are told field by field:
+
+  $ begin
+  $ kiv bill update Rent --amount 1300.00 --tag home
+  Changed the bill 'Rent'.
+  $ kiv pay Rent 5 --account Checking --date 2026-02-03
+  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv history diff
+  What         Name                  Change   Detail
+  account      1 Checking            changed  balance 2500.00 USD → 2495.00 USD
+  account      3 Rent [Budget Item]  changed  balance 0.00 USD → 5.00 USD
+  transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
+  $ kiv history diff 2 1
+  What  Name       Change   Detail
+  item  bill Rent  changed  amount 1250.00 USD → 1300.00 USD, tags  → home
+  $ kiv history diff 0 1
+  What         Name                  Change   Detail
+  account      1 Checking            changed  balance 2495.00 USD → 2500.00 USD
+  account      3 Rent [Budget Item]  changed  balance 5.00 USD → 0.00 USD
+  transaction  2                     removed  2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
+  $ kiv history diff 1 1
+  They hold the same.
+  $ kiv history diff 2 0
+  What         Name                  Change   Detail
+  item         bill Rent             changed  amount 1250.00 USD → 1300.00 USD, tags  → home
+  account      1 Checking            changed  balance 2500.00 USD → 2495.00 USD
+  account      3 Rent [Budget Item]  changed  balance 0.00 USD → 5.00 USD
+  transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
+  $ kiv history diff --json | jq -c '.[0]'
+  {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
+  $ kiv account add Food --type expense
+  Added the account 5 Food.
+  $ kiv account add Out --type expense
+  Added the account 6 Out.
+  $ kiv account recode Food --under Out
+  The account 5 Expenses:Food is now 5 Expenses:Out:Food.
+  $ kiv account remove Food
+  Removed the account 5 Food.
+  $ kiv account add Food --type income --number 5
+  Added the account 5 Food.
+  $ kiv history diff 3 2
+  What     Name    Change   Detail
+  account  5 Food  changed  parent – → 6, path Expenses:Food → Expenses:Out:Food
+  $ kiv history diff 3 0
+  What     Name    Change   Detail
+  account  5 Food  changed  path Expenses:Food → Income:Food, type expense → income
+
+A shell undoes in memory and in the file:
+
+  $ begin
+  $ kiv export --format json >first
+  $ kiv shell <<.
+  > bill add Gym 30 --next 2026-02-01
+  > undo --dry-run
+  > bill list
+  > undo
+  > bill list
+  > bill add Club 20
+  > undo
+  > .
+  Added the bill 'Gym'.
+  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  What     Name                 Change   Detail
+  item     bill Gym             removed  30.00 USD, monthly, 2026-02-01
+  account  5 Gym [Budget Item]  removed  0.00 USD
+  This was a dry run: nothing is saved.
+  Name     Amount  Every    Next        Tags
+  Gym      $30.00  monthly  2026-02-01
+  Rent  $1,250.00  monthly  2026-01-31
+  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  What     Name                 Change   Detail
+  item     bill Gym             removed  30.00 USD, monthly, 2026-02-01
+  account  5 Gym [Budget Item]  removed  0.00 USD
+  Name     Amount  Every    Next        Tags
+  Rent  $1,250.00  monthly  2026-01-31
+  Added the bill 'Club'.
+  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  What     Name                  Change   Detail
+  item     bill Club             removed  20.00 USD, monthly, ????-??-?? (glob)
+  account  5 Club [Budget Item]  removed  0.00 USD
+  $ kiv export --format json | cmp - first
+
+Nothing is undone where that would lose something:
+
+  $ rm household.budget*
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv undo
+  kiv: There is no former version 1; none was kept of this budget.
+  [1]
+  $ kiv bank add First
+  Added the bank 'First'.
+  $ kiv undo --to 2
+  kiv: There is no former version 2; kiv history lists those that are kept.
+  [1]
+  $ kiv undo --to 6
+  kiv: '6' is not a whole number from 0 to 5.
+  [2]
+  $ kiv undo --to x
+  kiv: 'x' is not a whole number from 0 to 5.
+  [2]
+  $ kiv history diff 1 3
+  kiv: There is no former version 3; kiv history lists those that are kept.
+  [1]
+  $ hold
+  $ kiv undo
+  kiv: The file 'household.budget' is in use by another program (process *, kiv on *). (glob)
+  [1]
+  $ let_go
+
+The former version is no file, or damaged; the file is not the worse for it:
+
+  $ mv household.budget.backup-1 kept
+  $ mkdir household.budget.backup-1
+  $ kiv undo
+  kiv: '*/versions.t/household.budget.backup-1' is not a regular file. (glob)
+  [1]
+  $ rmdir household.budget.backup-1
+  $ head -c -100 household.budget >household.budget.backup-1
+  $ kiv undo
+  kiv: The version in '*/versions.t/household.budget.backup-1' is not whole. The file '*/versions.t/household.budget.backup-1' is damaged and was not loaded. Caused by: Its header is not whole. (glob)
+  [1]
+  $ kiv history
+  Version  Saved at             Bytes  Items  Accounts  Transactions
+        0  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
+        1  ????-??-?? ??:??:??  ?????                                 not whole (glob)
+
+So is the file itself; what to do then is said:
+
+  $ cp household.budget whole
+  $ head -c -100 whole >household.budget
+  $ kiv undo
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is not whole. kiv history tells which former version is whole; copy that file ('*/versions.t/household.budget.backup-1', *) into its place.* (glob)
+  [1]
+  $ kiv history
+  Version  Saved at             Bytes  Items  Accounts  Transactions
+        0  ????-??-?? ??:??:??  ?????                                 not whole (glob)
+        1  ????-??-?? ??:??:??  ?????                                 not whole (glob)
+
+Every promise of a file is judged, and none behind one that is broken:
+
+  $ begin
+  $ cp household.budget whole
+  $ kiv check
+  Promise                                         Verdict  Details
+  It is a budget file of a known version          kept
+  Its tables are those of that version            kept
+  Its rows are those that were written            kept
+  Its books obey the rules of the ledger          kept
+  Its items, accounts and banks fit together      kept
+  Every balance is the sum of its transactions    kept
+  In every currency the debits equal the credits  kept     2500.00 USD
+  The budget 'household.budget' is whole.
+  $ kiv check --json | jq -c '.whole, .promises[]'
+  true
+  {"details":[],"promise":"identity","text":"It is a budget file of a known version","verdict":"kept"}
+  {"details":[],"promise":"tables","text":"Its tables are those of that version","verdict":"kept"}
+  {"details":[],"promise":"seal","text":"Its rows are those that were written","verdict":"kept"}
+  {"details":[],"promise":"rules","text":"Its books obey the rules of the ledger","verdict":"kept"}
+  {"details":[],"promise":"ties","text":"Its items, accounts and banks fit together","verdict":"kept"}
+  {"details":[],"promise":"balances","text":"Every balance is the sum of its transactions","verdict":"kept"}
+  {"details":["2500.00 USD"],"promise":"sides","text":"In every currency the debits equal the credits","verdict":"kept"}
+  $ flipped() {
+  >     perl -0777 -pe "substr(\$_, $1, 1) ^= qq(\1)" whole >household.budget
+  >     cp household.budget flipped
+  >     kiv check --json | jq -c '.whole, [.promises[].verdict]'
+  >     kiv check >told
+  >     echo "[$?]"
+  >     grep -e BROKEN -e whole told
+  >     cmp household.budget flipped
+  > }
+
+As another kind of file is, and a newer version:
+
+  $ flipped 70
+  false
+  ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
+  [1]
+  It is a budget file of a known version          BROKEN      The file 'household.budget' is not of the kind that is used here.
+  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  $ flipped 61
+  false
+  ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
+  [1]
+  It is a budget file of a known version          BROKEN      The file 'household.budget' was written by a newer version of this program.
+  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+
+A word of its tables, and a letter of a name:
+
+  $ flipped 'index($_, "CREATE TABLE")'
+  false
+  ["kept","broken","not judged","not judged","not judged","not judged","not judged"]
+  [1]
+  Its tables are those of that version            BROKEN      * (glob)
+  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  $ flipped 'index($_, "Checking")'
+  false
+  ["kept","kept","broken","not judged","not judged","not judged","not judged"]
+  [1]
+  Its rows are those that were written            BROKEN      The checksum is wrong.
+  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+
+Former versions are checked, too, and files that somebody has open. What has lost its
+account is mended when it is opened:
+
+  $ begin
+  $ kiv check household.budget.backup-1 | tail -1
+  The budget 'household.budget.backup-1' is whole.
+  $ kiv check household | tail -2
+  In every currency the debits equal the credits  kept     2500.00 USD
+  The budget 'household.budget' is whole.
+  $ kiv check nowhere
+  kiv: There is no file 'nowhere.budget'.
+  [1]
+  $ kiv check .
+  kiv: There is no file '..budget'.
+  [1]
+  $ kiv account remove 3
+  Removed the account 3 Rent [Budget Item].
+  $ kiv check | tail -4
+  Its items, accounts and banks fit together      mended when it is opened  The budget item 'Rent' had lost its account, which was opened anew under the number 5.
+  Every balance is the sum of its transactions    kept
+  In every currency the debits equal the credits  kept                      2500.00 USD
+  The budget 'household.budget' is whole.
+  $ kiv check --json | jq -c '.whole, .promises[4]'
+  true
+  {"details":["The budget item 'Rent' had lost its account, which was opened anew under the number 5."],"promise":"ties","text":"Its items, accounts and banks fit together","verdict":"mended"}
+  $ printf 'check\nhistory\n' | kiv shell | grep whole
+  kiv: warning: Mended while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 5.
+  The budget 'household.budget' is whole.
