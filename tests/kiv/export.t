@@ -1,0 +1,257 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+What other programs are given.
+
+  $ . "$TESTDIR/household.sh"
+  $ . "$TESTDIR/peers.sh"
+  $ begin
+  $ kiv post Rent --account Checking --date 2026-01-31
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  $ kiv transaction reconcile 2
+  Reconciled the transactions 2.
+  $ kiv export
+  ; kiv journal, version 1
+  commodity USD
+      format 1000.00 USD
+  
+  account Assets:Checking
+      ; number: 1, currency: USD
+  account Equity:Opening Balances USD [Equity]
+      ; number: 2, currency: USD
+  account Expenses:Rent [Budget Item]
+      ; number: 3, currency: USD
+  account Income:Salary [Budget Item]
+      ; number: 4, currency: USD
+  
+  2026-01-01 (1) 
+      Assets:Checking  2500.00 USD
+      Equity:Opening Balances USD [Equity]  -2500.00 USD
+  
+  2026-01-31 (2) Processed the budget item due on Sat Jan 31 2026.
+      * Expenses:Rent [Budget Item]  1250.00 USD
+      * Assets:Checking  -1250.00 USD
+  $ kiv export --format csv | tr '\r' '~'
+  number,date,debit,debitAccount,credit,creditAccount,amount,currency,description,debitStatus,creditStatus~
+  "1","2026-01-01","1","Assets:Checking","2","Equity:Opening Balances USD [Equity]","2500.00","USD","","none","none"~
+  "2","2026-01-31","3","Expenses:Rent [Budget Item]","1","Assets:Checking","1250.00","USD","Processed the budget item due on Sat Jan 31 2026.","reconciled","reconciled"~
+  $ kiv export --format json | jq -c '.format, .version, .banks[], .items[], .transactions[1]'
+  "kiv-export"
+  1
+  {"accounts":[{"balance":{"amount":"1250.00","currency":"USD"},"name":"Checking","number":1,"type":"checking"}],"name":"First","open":true}
+  {"amount":{"amount":"1250.00","currency":"USD"},"every":"monthly","kind":"bill","name":"Rent","next":"2026-02-28","tags":[]}
+  {"amount":{"amount":"3100.00","currency":"USD"},"every":"monthly","kind":"wage","name":"Salary","next":"2026-01-25","tags":[]}
+  {"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"creditStatus":"reconciled","date":"2026-01-31","debit":3,"debitStatus":"reconciled","description":"Processed the budget item due on Sat Jan 31 2026.","number":2}
+
+Names that mean something else to a reader of journals, to a spreadsheet or to a terminal,
+and that are never told raw:
+
+  $ begin
+  $ cat >names <<'.'
+  > Food
+  > Food
+  > Food 7
+  > A:B
+  > two  blanks
+  > ; no comment
+  > =SUM(A1)
+  > +1
+  > @home
+  > (virtual)
+  > [Budget Item]
+  > * star
+  > 12.00 USD
+  > "quoted"
+  > Zürich 食費
+  > .
+  $ printf '\033[31mred\n\342\200\256turned\n' >>names
+  $ sed 's/"/\\&/g; s/.*/account add "&" --type expense --currency USD/' names | kiv shell
+  Added the account 5 Food.
+  Added the account 6 Food.
+  Added the account 7 Food 7.
+  Added the account 8 A:B.
+  Added the account 9 two  blanks.
+  Added the account 10 ; no comment.
+  Added the account 11 =SUM(A1).
+  Added the account 12 +1.
+  Added the account 13 @home.
+  Added the account 14 (virtual).
+  Added the account 15 [Budget Item].
+  Added the account 16 * star.
+  Added the account 17 12.00 USD.
+  Added the account 18 "quoted".
+  Added the account 19 Zürich 食費.
+  Added the account 20 \u{001B}[31mred.
+  Added the account 21 \u{202E}turned.
+  $ kiv account add 'line
+  > break' --type expense
+  Added the account 22 line\u{000A}break.
+
+Accounts of the other kinds and in other currencies, and a thousand transactions from each
+account to each other one:
+
+  $ kiv shell <<.
+  > account add "=SUM(A1)" --type asset --under Checking --currency USD
+  > account add Card --type liability --currency USD --balance 120.55
+  > account add Euros --type asset --currency EUR --balance 99.01
+  > account add Yen --type asset --currency JPY --balance 1234567
+  > account add Dinar --type asset --currency KWD --balance 1.234
+  > rates set USD EUR=0.92 JPY=150 KWD=0.31
+  > .
+  Added the account 23 =SUM(A1).
+  Added the account 24 Card.
+  Added the account 25 Euros.
+  Added the account 27 Yen.
+  Added the account 29 Dinar.
+  For one USD, as of ????-??-??T??:??:??Z (glob)
+  Currency  Rate
+  JPY       150
+  KWD       0.31
+  EUR       0.92
+  $ kiv accounts --json | jq --rawfile names names '
+  >     ($names | split("\n") | .[-1] = "line\nbreak") as $names | . as $accounts | length as $n |
+  >     [range(1000) | $accounts[. % $n] as $debit | {
+  >         debit: $debit.number,
+  >         credit: $accounts[(. + 1 + (. / $n | floor) % ($n - 1)) % $n].number,
+  >         date: (1735689600 + . % 700 * 86400 | todate[:10]),
+  >         amount: "\(. * 4801 % 5000)\(if $debit.balance.currency == "JPY" then "" else
+  >             ".\(. % 90 + 10)" end) \($debit.balance.currency)",
+  >         debitStatus: ["none", "cleared", "reconciled"][. % 3],
+  >         creditStatus: ["none", "cleared", "reconciled"][(. / 3 | floor) % 3],
+  >         description: $names[. % ($names | length)]}]' >many.json
+  $ kiv transaction load many.json | tail -1
+  Posted 1000 transactions.
+
+Both tools find the same balances in the journal:
+
+  $ own >own
+  $ kiv export >export.journal
+  $ peer ledger export.journal | diff own -
+  $ peer hledger export.journal | diff own -
+  $ cat own
+  Assets:Checking  -7720.68 USD
+  Assets:Checking:=SUM(A1)  4764.24 USD
+  Assets:Dinar  61309.959 KWD
+  Assets:Euros  -9476.48 EUR
+  Assets:Yen  -14530643 JPY
+  Equity:Opening Balances EUR [Equity]  -7962.31 EUR
+  Equity:Opening Balances JPY [Equity]  -15415676 JPY
+  Equity:Opening Balances KWD [Equity]  57325.711 KWD
+  Equity:Opening Balances USD [Equity]  -15086.12 USD
+  Expenses:"quoted"  -17153.8 USD
+  Expenses:(virtual)  -12498.91 USD
+  Expenses:* star  -4810.01 USD
+  Expenses:+1  -13772.57 USD
+  Expenses:, no comment  -14559.26 USD
+  Expenses:12.00 USD  -18204.73 USD
+  Expenses:=SUM(A1)  -10447.6 USD
+  Expenses:@home  -4293.99 USD
+  Expenses:A-B  -3866.05 USD
+  Expenses:Food 5  -2274.77 USD
+  Expenses:Food 6  -17250.19 USD
+  Expenses:Food 7  -5693.21 USD
+  Expenses:Rent [Budget Item]  463.29 USD
+  Expenses:Zürich 食費  12018.35 USD
+  Expenses:[Budget Item]  -2520.4 USD
+  Expenses:\u{001B}[31mred  -12058.12 USD
+  Expenses:\u{202E}turned  -10937.87 USD
+  Expenses:line break  5217.66 USD
+  Expenses:two blanks  6775.64 USD
+  Income:Salary [Budget Item]  -7765.03 USD
+  Liabilities:Card  -12424.3 USD
+
+They see one that is forged:
+
+  $ sed 's/2500.00 USD/2500.01 USD/' export.journal >forged.journal
+  $ peer hledger forged.journal | diff -U0 own - | grep '^[-+][A-Z]'
+  -Assets:Checking  -7720.68 USD
+  +Assets:Checking  -7720.67 USD
+  -Equity:Opening Balances USD [Equity]  -15086.12 USD
+  +Equity:Opening Balances USD [Equity]  -15086.13 USD
+
+The journal makes the same books, but that each currency which paid for another one went
+through an account:
+
+  $ kiv new again
+  Made the empty budget 'again.budget'.
+  $ kiv import export.journal --file again | tail -1
+  Transactions posted: 1356; duplicates left out: 0; accounts opened: 35.
+  $ own --file again | grep -v Equity:Conversion: | diff own -
+  $ own --file again | grep -c Equity:Conversion:
+  4
+
+All of it is there already:
+
+  $ kiv import export.journal --file again --dry-run | tail -2
+  Transactions posted: 0; duplicates left out: 1356; accounts opened: 0.
+  This was a dry run: nothing is saved.
+
+Nothing in an export is obeyed:
+
+  $ kiv export --format csv >export.csv
+  $ grep -v "$(printf '\r')\$" export.csv
+  [1]
+  $ grep ',"[=+@-]' export.csv
+  [1]
+  $ grep -c "\"'=SUM(A1)\"" export.csv
+  56
+  $ raw() { grep -c "$(printf '\033\\|\342\200\256')"; }
+  $ raw <names
+  2
+  $ for command in accounts 'accounts --json' export 'export --format csv' \
+  >     'export --format json' transactions; do
+  >     kiv $command | raw
+  > done
+  0
+  0
+  0
+  0
+  0
+  0
+  [1]
+
+The JSON has all of it, accounts by their numbers, and what has a fault in it loads nothing:
+
+  $ kiv export --format json >export.json
+  $ jq '.transactions | length' export.json
+  1005
+  $ kiv accounts --json | jq 'sort_by(.number)' >accounts.json
+  $ jq .accounts export.json | diff accounts.json -
+  $ kiv transaction load - <<.
+  > [{"date": "2026-01-01", "debit": 1, "credit": 2, "amount": "1 USD"},
+  >  {"date": "2026-02-30", "debit": 1, "credit": 2, "amount": "1 USD"}]
+  > .
+  kiv: Cannot understand transaction 2 of '-': '2026-02-30' is not a date; write one like 2026-03-31, with a day that exists.
+  [2]
+
+The JSON export follows the schema that its documentation holds:
+
+  $ begin
+  $ kiv debt add Car 200 --borrowed 5000 --bank First --type loan --tag a --next 2026-01-31
+  Added the debt 'Car'.
+  $ kiv goal add Trip 50 --target 900 --bank-account Checking --next 2026-01-31
+  Added the goal 'Trip'.
+  $ kiv post --all --account Checking --date 2026-01-31
+  Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  Posted the debt 'Car', due on 2026-01-31: $200.00.
+  Posted the goal 'Trip', due on 2026-01-31: $50.00.
+  $ kiv refund 3 1.00
+  Posted the refund as transaction 7.
+  $ kiv rates set USD EUR=0.9 >rates
+  $ kiv account add Euros --type asset --currency EUR
+  Added the account 7 Euros.
+  $ kiv transaction add '3 EUR' --debit Euros --credit Checking
+  Posted transaction 8.
+  $ kiv export --format json >export.json
+  $ jq '.transactions | length' export.json
+  8
+  $ sed -n '/^```json/,/^```$/ { /^```/! p }' "$TESTDIR/../../docs/import-export.md" >schema.json
+  $ python3 -W ignore -m jsonschema -i export.json schema.json
+  $ jq '.version = 2 | .more = 1 | del(.banks)' export.json >forged.json
+  $ python3 -W ignore -m jsonschema -i forged.json schema.json \
+  >     --error-format '{error.message}
+  > '
+  'banks' is a required property
+  Additional properties are not allowed ('more' was unexpected)
+  1 was expected
+  [1]

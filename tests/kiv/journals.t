@@ -1,0 +1,232 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Journals of other accounting programs come in whole, or nothing of them does.
+
+  $ . "$TESTDIR/household.sh"
+  $ . "$TESTDIR/peers.sh"
+
+The example of ledger's own manual has the same balances in all three programs. One side
+of a virtual posting has no place in double entry; hledger does not know "apply tag", and
+automated transactions only in another notation:
+
+  $ cp "$TESTDIR/data/ledger_manual.journal" manual.journal
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv import manual.journal
+  Second days of transactions are left out.
+  Unbalanced virtual postings are kept against Equity:Virtual.
+  Transactions posted: 20; duplicates left out: 0; accounts opened: 18.
+  $ own
+  Assets:Checking  1366 USD
+  Assets:Checking:Business  30 USD
+  Assets:Savings  -5200 USD
+  Equity:Opening Balances  -1000 USD
+  Equity:Virtual  243.6 USD
+  Expenses:Auto  5500 USD
+  Expenses:Books  20 USD
+  Expenses:Escrow  300 USD
+  Expenses:Food:Groceries  334 USD
+  Expenses:Interest:Mortgage  500 USD
+  Income:Salary  -2000 USD
+  Income:Sales  -30 USD
+  Liabilities:MasterCard  -20 USD
+  Liabilities:Mortgage:Principal  200 USD
+  Liabilities:Tithe  -243.6 USD
+  $ own >own
+  $ grep -v Equity:Virtual own >ledger
+  $ peer ledger manual.journal | diff ledger -
+  $ sed 's/apply tag/; &/; s/end tag/; &/' manual.journal >plain.journal
+  $ grep -v Liabilities:Tithe ledger >hledger
+  $ peer hledger plain.journal | diff hledger -
+
+So has a journal of many forms, but for the accounts through which each currency goes that
+paid for another one:
+
+  $ cat >forms.journal <<'.'
+  > ; several currencies, prices, tags, assertions and virtual postings
+  > account Assets:Cash
+  > 
+  > 2026-01-01 * (12) Opening  ; from: before
+  >     Assets:Cash          1000.00 EUR
+  >     Equity:Opening
+  > 
+  > 2026-01-01 Opening
+  >     Assets:Bank:Dollars  500.00 USD  ; two
+  >     Equity:Dollars
+  > 
+  > 2026-01-02 Changed
+  >     Assets:Bank:Dollars  110.00 USD @@ 100.00 EUR
+  >     Assets:Cash          -100.00 EUR = 900.00 EUR
+  > 
+  > 2026-01-03 ! Dinner, shared
+  >     Expenses:Food        33.33 EUR
+  >     Assets:Owed:Ann      16.67 EUR
+  >     Assets:Cash
+  >     [Assets:Envelope]    -10.00 EUR
+  >     [Assets:Owed:Ben]    10.00 EUR
+  > 
+  > 2026-01-04 Changed back
+  >     Assets:Cash          7.50 EUR @ 1.12 USD
+  >     Assets:Bank:Dollars
+  > apply account Expenses
+  > 
+  > 2026-01-05 Moved
+  >     Lunch                5.00 EUR
+  >     Food                -5.00 EUR
+  > end apply account
+  > alias owed=Assets:Owed
+  > 
+  > 2026-01-06 Paid back
+  >     Assets:Cash          3.00 EUR
+  >     owed:Ann
+  > .
+  $ rm household.budget*
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ kiv import forms.journal
+  Transactions posted: 12; duplicates left out: 0; accounts opened: 14.
+  $ own
+  Assets:Bank:Dollars  601.6 USD
+  Assets:Cash  860.5 EUR
+  Assets:Envelope  -10 EUR
+  Assets:Owed:Ann  13.67 EUR
+  Assets:Owed:Ben  10 EUR
+  Equity:Conversion:EUR  92.5 EUR
+  Equity:Conversion:USD  -101.6 USD
+  Equity:Dollars  -500 USD
+  Equity:Opening  -1000 EUR
+  Expenses:Food  28.33 EUR
+  Expenses:Lunch  5 EUR
+  $ own | grep -v Equity:Conversion: >own
+  $ peer ledger forms.journal | diff own -
+  $ peer hledger forms.journal | diff own -
+
+A journal is shown before it is posted:
+
+  $ rm household.budget*
+  $ kiv new
+  Made the empty budget 'household.budget'.
+  $ cat >a.journal <<.
+  > 2026-01-01 x
+  >  Assets:Cash  \$0
+  >  Income:Job
+  > .
+  $ kiv import a.journal --dry-run
+  Number  New account
+       1  Assets:Cash
+  There are no transactions in the file.
+  Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
+  This was a dry run: nothing is saved.
+  $ kiv accounts
+  There are no accounts.
+  $ kiv import a.journal
+  Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
+  $ kiv accounts
+  Number  Account      Balance
+       1  Assets:Cash    $0.00
+  $ cat >a.journal <<.
+  > 2026-01-01
+  >  Assets:Cash  5 Fr
+  >  Income:Job
+  > .
+  $ kiv import a.journal --commodity Fr=USD
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 1.
+  $ kiv import a.journal --commodity Fr=USD --dry-run
+  Line  Date        Description  Debit        Credit      Amount
+     1  2026-01-01               Assets:Cash  Income:Job   $5.00  duplicate
+  Transactions posted: 0; duplicates left out: 1; accounts opened: 0.
+  This was a dry run: nothing is saved.
+  $ echo 'include a.journal' | kiv import - --format journal
+  kiv: '-', line 1: 'a.journal' is not included: there is no such file.
+  [1]
+
+Includes are followed within the journal's folder:
+
+  $ mkdir -p books/2026
+  $ echo 'include 2026/january.journal' >books/all.journal
+  $ echo 'include february.journal' >books/2026/january.journal
+  $ cat >books/2026/february.journal <<.
+  > 2026-02-01 x
+  >  Assets:A  \$1
+  >  Income:I
+  > .
+  $ kiv import books/all.journal
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 2.
+  $ : >outside.journal
+  $ ln -s ../outside.journal books/link.journal
+  $ echo 'include link.journal' >books/all.journal
+  $ kiv import books/all.journal
+  kiv: 'books/all.journal', line 1: 'link.journal' is not included: it is outside of the journal's own folder.
+  [1]
+  $ echo 'include all.journal' >books/all.journal
+  $ kiv import books/all.journal
+  kiv: 'books/all.journal', line 1: 'all.journal' is not included: files include each other too deeply.
+  [1]
+
+A journal of a gigabyte is refused at once:
+
+  $ truncate -s 1G large.journal
+  $ timeout 20 kiv import large.journal
+  kiv: Cannot read 'large.journal': it is larger than 64 MiB, which line 1 exceeds; split it into smaller files.
+  [1]
+
+What cannot be understood is refused, with its line, and so are options that do not fit:
+
+  $ begin
+  $ kiv account add Gone --type expense
+  Added the account 5 Gone.
+  $ kiv account close Gone
+  Closed the account 5 Gone.
+  $ journal() {
+  >     cat >s.journal
+  >     kiv import s.journal
+  > }
+  $ journal <<.
+  > 2026-01-01 x
+  >  Assets:A  \$1
+  >  Income:B
+  > bucket Assets:A
+  > .
+  kiv: 's.journal', line 4: 'bucket Assets:A' is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.
+  [1]
+  $ journal <<.
+  > 2026-01-01 x
+  >  A  \$1
+  >  B
+  > .
+  kiv: 's.journal', line 2: Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what 'A' is with --root, like --root 'A=asset'.
+  [1]
+  $ journal <<.
+  > 2026-01-01 x
+  >  Assets:New  \$1
+  >  Income:I
+  > 2026-01-02 y
+  >  Expenses:Gone  \$1
+  >  Assets:New
+  > .
+  kiv: 's.journal', line 4: The account '5 Gone' is closed.
+  [1]
+  $ echo 'include ../../etc/passwd' | journal
+  kiv: 's.journal', line 1: '../../etc/passwd' is not included: there is no such file.
+  [1]
+  $ echo 'include none.journal' | journal
+  kiv: 's.journal', line 1: 'none.journal' is not included: there is no such file.
+  [1]
+  $ echo 'include *.journal' | journal
+  kiv: 's.journal', line 1: '*.journal' is not included: patterns are not followed; name each file.
+  [1]
+  $ echo 'include config' | journal
+  kiv: 's.journal', line 1: 'config' is not included: there is no such file.
+  [1]
+  $ kiv import s.journal --root Aktiva=fish
+  kiv: 'fish' is none of: asset, equity, expense, liability, income.
+  [2]
+  $ kiv import s.journal --root =asset
+  kiv: '=asset' is not of the form NAME=VALUE.
+  [2]
+  $ kiv import s.journal --root Aktiva=
+  kiv: 'Aktiva=' is not of the form NAME=VALUE.
+  [2]
+  $ kiv import s.journal --into Checking
+  kiv: --into and --format journal exclude each other.
+  [2]

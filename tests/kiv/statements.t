@@ -1,0 +1,225 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Statements of banks come in whole, or nothing of them does.
+
+  $ . "$TESTDIR/household.sh"
+
+A statement is previewed, posted, and known again:
+
+  $ begin
+  $ kiv account add Food --type expense
+  Added the account 5 Food.
+  $ kiv account add Other --type expense
+  Added the account 6 Other.
+  $ cat >s.csv <<.
+  > Date;Amount;Text
+  > 05.01.2026;-1.012,50;REWE
+  > 06.01.2026;-3,00;Coffee
+  > 06.01.2026;-3,00;Coffee
+  > 07.01.2026;0,00;Nothing
+  > 08.01.2026;20,00;Refund
+  > .
+  $ mkdir -p config/kiv/import
+  $ echo '{"rules": [{"contains": "rewe", "account": "Food"}]}' >config/kiv/import/rules.json
+  $ first() {
+  >     kiv import s.csv --into Checking --against Other --profile rules \
+  >         --date-format DD.MM.YYYY --decimal , --save-profile mine "$@"
+  > }
+  $ first --dry-run
+  Line  Date        Description  Debit            Credit              Amount
+     2  2026-01-05  REWE         Expenses:Food    Assets:Checking  $1,012.50
+     3  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
+     4  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
+     6  2026-01-08  Refund       Assets:Checking  Expenses:Other      $20.00
+  Entries of nothing are left out.
+  Transactions posted: 4; duplicates left out: 0; accounts opened: 0.
+  This was a dry run: nothing is saved.
+  $ first --json | jq -c 'del(.transactions), .transactions[]'
+  {"accounts":[],"duplicates":0,"notices":["Entries of nothing are left out."],"posted":4}
+  {"amount":{"amount":"1012.50","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-05","debit":5,"debitPath":"Expenses:Food","debitStatus":"none","description":"REWE","duplicate":false,"line":2}
+  {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":3}
+  {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":4}
+  {"amount":{"amount":"20.00","currency":"USD"},"credit":6,"creditPath":"Expenses:Other","creditStatus":"none","date":"2026-01-08","debit":1,"debitPath":"Assets:Checking","debitStatus":"none","description":"Refund","duplicate":false,"line":6}
+  $ kiv ledger Checking
+  1 Checking
+  Number  Date        Description  Other account                             Change    Balance  Status
+       1  2026-01-01               Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
+       2  2026-01-05  REWE         Expenses:Food                         -$1,012.50  $1,487.50  none
+       3  2026-01-06  Coffee       Expenses:Other                            -$3.00  $1,484.50  none
+       4  2026-01-06  Coffee       Expenses:Other                            -$3.00  $1,481.50  none
+       5  2026-01-08  Refund       Expenses:Other                            $20.00  $1,501.50  none
+
+A third coffee is new; the other entries were there before:
+
+  $ echo '06.01.2026;-3,00;Coffee' >>s.csv
+  $ again() { kiv import s.csv --into Checking --against Other --profile mine "$@"; }
+  $ again
+  Entries of nothing are left out.
+  Transactions posted: 1; duplicates left out: 4; accounts opened: 0.
+
+What changes nothing is not saved, and keeps the former versions:
+
+  $ cp household.budget.backup-1 formerly
+  $ again | tail -1
+  Transactions posted: 0; duplicates left out: 5; accounts opened: 0.
+  $ cmp household.budget.backup-1 formerly
+  $ again --keep-duplicates | tail -1
+  Transactions posted: 5; duplicates left out: 0; accounts opened: 0.
+  $ kiv accounts
+  Number  Account                                 Balance
+       1  Assets:Checking                         $497.00
+       2  Equity:Opening Balances USD [Equity]  $2,500.00
+       5  Expenses:Food                         $2,025.00
+       6  Expenses:Other                          -$22.00
+       3  Expenses:Rent [Budget Item]               $0.00
+       4  Income:Salary [Budget Item]               $0.00
+
+The bank's own identifiers tell what is there already:
+
+  $ cat >s.ofx <<.
+  > <OFX><STMTRS><CURDEF>USD<BANKTRANLIST>
+  > <STMTTRN><DTPOSTED>20260110<TRNAMT>-5.25<FITID>x1<NAME>Bakery</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260110<TRNAMT>-5.25<FITID>x2<NAME>Bakery</STMTTRN>
+  > </BANKTRANLIST></STMTRS></OFX>
+  > .
+  $ kiv import s.ofx --into Checking --against Other
+  Transactions posted: 2; duplicates left out: 0; accounts opened: 0.
+  $ kiv import s.ofx --into Checking --against Other
+  Transactions posted: 0; duplicates left out: 2; accounts opened: 0.
+  $ kiv export | grep 'x2'
+  2026-01-10 (13) Bakery [id x2]
+
+Where a profile cannot be saved, nothing is posted:
+
+  $ kiv import s.csv --into Checking --profile yours
+  kiv: There is no profile 'yours' among: mine, rules.
+  [1]
+  $ rm -r config/kiv/import
+  $ echo 'no folder' >config/kiv/import
+  $ kiv import s.ofx --into Checking --against Other --keep-duplicates --save-profile mine
+  kiv: Cannot write '*/config/kiv/import/mine.json': *. (glob)
+  [1]
+
+What cannot be read is refused, with its line:
+
+  $ begin
+  $ bank() {
+  >     cat >"$1"
+  >     kiv import "$1" --into Checking --against Salary
+  > }
+  $ sed '3s/STMTTRN>$/STMTRN>/' s.ofx | bank bad.ofx
+  kiv: 'bad.ofx', line 3: </STMTRN> stands where the <STMTTRN> of line 3 should be closed.
+  [1]
+  $ sed 's/USD/EUR/' s.ofx | bank bad.ofx
+  kiv: 'bad.ofx', line 2: The amount is in EUR, and the account in USD.
+  [1]
+  $ printf 'Date,Amount,Text\n2026-01-05,1,caf\351\n' | bank bad.csv
+  kiv: 'bad.csv', line 2: This is not valid UTF-8; name the file's encoding with --encoding.
+  [1]
+  $ echo x | bank s.bin
+  kiv: What 's.bin' is cannot be told from its name; say it with --format: journal, csv, ofx or qif.
+  [2]
+  $ kiv import s.ofx --into Checking
+  kiv: Say with --against which account is the other side of 'Bakery', 2026-01-10.
+  [1]
+  $ kiv import config --format journal
+  kiv: Cannot read 'config': file to open is a directory.
+  [1]
+  $ kiv import /proc/self/mem --format journal
+  kiv: Cannot read '/proc/self/mem': *. (glob)
+  [1]
+  $ printf '!Type:Bank\nD1/25/2026\nT1\n^\n' >s.qif
+  $ kiv import s.qif
+  kiv: Say with --into which account the bank statement is about.
+  [2]
+
+So are options that do not fit:
+
+  $ kiv import s.csv --into Checking --against Salary --profile ../x
+  kiv: '../x' cannot name a profile; use letters, digits, '-' and '_'.
+  [2]
+  $ kiv import s.csv --into Checking --profile none
+  kiv: There is no profile 'none'; --save-profile saves one.
+  [1]
+  $ kiv import s.csv --into Checking --format pdf
+  kiv: 'pdf' is none of: journal, csv, ofx, qif.
+  [2]
+  $ kiv import s.csv --into 1 --decimal x
+  kiv: 'x' is none of: ., ,.
+  [2]
+  $ kiv import s.csv --into 1 --delimiter ab
+  kiv: 'ab' is none of: ,, ;, \t, |.
+  [2]
+  $ kiv import s.csv --into 1 --delimiter '"'
+  kiv: '"' is none of: ,, ;, \t, |.
+  [2]
+  $ kiv import s.csv --into 1 --skip x
+  kiv: 'x' is not a whole number from 0 to 1000.
+  [2]
+  $ kiv import s.csv --into 1 --skip -1
+  kiv: '-1' is not a whole number from 0 to 1000.
+  [2]
+
+Every way to read a statement. What it is shows in its beginning, and the other side in its
+categories:
+
+  $ begin
+  $ kiv account add Food --type expense
+  Added the account 5 Food.
+  $ read_as() {
+  >     cat >s.bin
+  >     kiv import s.bin --into 1 --against 4 --dry-run --json "$@" | jq -c '.transactions[] |
+  >         [.date, .amount.amount, .debitPath, .creditPath, .description]'
+  > }
+  $ read_as --format csv --delimiter '\t' --skip 1 --date-column day --amount-column sum \
+  >     --text-column of --text-column at --id-column id --currency-column code \
+  >     --sign-column go --negative S --date-format DD/MM/YYYY --decimal , <<.
+  > bank	X
+  > day	sum	of	at	id	code	go
+  > 05/01/2026	5,25	REWE	Köln	7	USD	S
+  > .
+  ["2026-01-05","5.25","Income:Salary [Budget Item]","Assets:Checking","REWE Köln [id 7]"]
+  $ read_as --format csv --delimiter '|' --no-headings --date-column 1 --in-column 2 \
+  >     --out-column 3 --text-column 4 <<.
+  > 2026-01-05|5.25||x
+  > 2026-01-06||1.00|y
+  > .
+  ["2026-01-05","5.25","Assets:Checking","Income:Salary [Budget Item]","x"]
+  ["2026-01-06","1.00","Income:Salary [Budget Item]","Assets:Checking","y"]
+  $ read_as --format csv --negate --decimal . <<.
+  > Date,Amount,Text
+  > 2026-01-05,5.25,
+  > .
+  ["2026-01-05","5.25","Income:Salary [Budget Item]","Assets:Checking",""]
+  $ read_as <s.ofx
+  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery [id x1]"]
+  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery [id x2]"]
+  $ read_as <<.
+  > !Type:Bank
+  > D13/01/2026
+  > T-1
+  > LRent [Budget Item]
+  > ^
+  > D01/02/2026
+  > T-2
+  > LExpenses:Food
+  > ^
+  > .
+  ["2026-01-13","1.00","Expenses:Rent [Budget Item]","Assets:Checking",""]
+  ["2026-02-01","2.00","Expenses:Food","Assets:Checking",""]
+  $ read_as --date-format DD/MM/YYYY <<.
+  > !Account
+  > NX
+  > ^
+  > !Type:Bank
+  > D13/01/2026
+  > T-1
+  > LRent [Budget Item]
+  > ^
+  > D01/03/2026
+  > T-5.25
+  > LNowhere
+  > ^
+  > .
+  ["2026-01-13","1.00","Expenses:Rent [Budget Item]","Assets:Checking",""]
+  ["2026-03-01","5.25","Income:Salary [Budget Item]","Assets:Checking",""]
