@@ -43,6 +43,7 @@ begin() {
 # Keeps the file open in a shell that reads what `say` writes, until `let_go`.
 hold() {
     mkfifo "$CRAMTMP/lines"
+    : >"$CRAMTMP/heard"
     command kiv shell <"$CRAMTMP/lines" >"$CRAMTMP/heard" 2>&1 &
     exec 3>"$CRAMTMP/lines"
     say info File

@@ -1,0 +1,166 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Many commands in one process.
+
+  $ . "$TESTDIR/household.sh"
+  $ begin
+
+A shell keeps one budget open. What is refused or dry is taken back in memory before the
+next line, and the exit status is that of the first line that failed:
+
+  $ kiv shell <<.
+  > # a comment, then a mistake
+  > bill add Gym 12,3x
+  > account add Rent --type expense
+  > bill add "Car tax" 360 --dry-run
+  > new household
+  > wizard household --bank B --account A
+  > templates list
+  > bill list --file household
+  > .
+  kiv: '12,3x' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  kiv: The code name is the same name as an existing budget item.
+  Added the bill 'Car tax'.
+  This was a dry run: nothing is saved.
+  kiv: The file 'household.budget' exists already; choose another name.
+  kiv: The file 'household.budget' exists already; choose another name.
+  Template                     Household
+  none                         None
+  teenager                     Teenager
+  adult-single                 Adult, single
+  adult-married-single-income  Adult, married, single income
+  adult-married-double-income  Adult, married, double income
+  Name     Amount  Every    Next        Tags
+  Rent  $1,250.00  monthly  2026-01-31
+  [2]
+  $ cmp household.budget "$CRAMTMP/begun/household.budget"
+  $ kiv shell <<.
+  > bill add 'Car tax' 360 --next 2026-02-01
+  > bill list
+  > exit
+  > frobnicate
+  > .
+  Added the bill 'Car tax'.
+  Name        Amount  Every    Next        Tags
+  Car tax    $360.00  monthly  2026-02-01
+  Rent     $1,250.00  monthly  2026-01-31
+  $ kiv bill list
+  Name        Amount  Every    Next        Tags
+  Car tax    $360.00  monthly  2026-02-01
+  Rent     $1,250.00  monthly  2026-01-31
+  $ echo 'help bill add' | kiv shell >told
+  $ kiv bill add --help | diff told -
+  $ printf 'quit\nfrobnicate\n' | kiv shell household
+
+An item that has lost its account comes back mended, as from the file:
+
+  $ kiv shell <<.
+  > account remove 3
+  > bill add Rent 5
+  > bill list
+  > .
+  Removed the account 3 Rent [Budget Item].
+  kiv: warning: Mended while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 6.
+  kiv: The new budgeted money item source already exists.
+  Name        Amount  Every    Next        Tags
+  Car tax    $360.00  monthly  2026-02-01
+  Rent     $1,250.00  monthly  2026-01-31
+  [1]
+
+Another file is followed also when its rates fail:
+
+  $ begin
+  $ echo 'no folder' >data
+  $ kiv shell <<.
+  > new second
+  > bill add Gym 30 --next 2026-02-01
+  > save-as third
+  > bill add Club 20 --next 2026-02-01
+  > bill add Club 20 --next 2026-02-01
+  > .
+  kiv: The file '*/shell.t/data/kiv/kiv/rates' could not be saved: Not a directory. (glob)
+  kiv: The file '*/shell.t/data/kiv/kiv/rates' could not be saved: Not a directory. (glob)
+  kiv: The file '*/shell.t/data/kiv/kiv/rates' could not be saved: Not a directory. (glob)
+  kiv: The file '*/shell.t/data/kiv/kiv/rates' could not be saved: Not a directory. (glob)
+  kiv: The new budgeted money item source already exists.
+  [1]
+  $ cmp household.budget "$CRAMTMP/begun/household.budget"
+  $ kiv bill list --file second
+  Name  Amount  Every    Next        Tags
+  Gym   $30.00  monthly  2026-02-01
+  $ kiv bill list --file third
+  Name  Amount  Every    Next        Tags
+  Club  $20.00  monthly  2026-02-01
+  Gym   $30.00  monthly  2026-02-01
+
+What could not be saved stays in memory. Neither another refusal nor a dry run gives it up,
+and no other file does; it is saved at the end at the latest:
+
+  $ begin
+  $ kiv save-as other
+  Saved the budget as 'other.budget'.
+  $ cp other.budget kept
+  $ hold
+  $ mv household.budget away
+  $ mkdir household.budget
+  $ say 'bill add Gym 30 --next 2026-02-01' 'not a regular file'
+  $ say 'bill remove Rent --dry-run' 'Removed the bill'
+  $ say 'bill add Gym 31' 'already exists'
+  $ say 'bill list --file other' 'use save-as'
+  $ rmdir household.budget
+  $ mv away household.budget
+  $ let_go
+  [1]
+  $ grep kiv: "$CRAMTMP/heard"
+  kiv: 'household.budget' is not a regular file.
+  kiv: The new budgeted money item source already exists.
+  kiv: The changes of 'household.budget' could not be saved; use save-as first.
+  $ kiv bill list
+  Name     Amount  Every    Next        Tags
+  Gym      $30.00  monthly  2026-02-01
+  Rent  $1,250.00  monthly  2026-01-31
+  $ cmp other.budget kept
+
+Watching tells signals as they come, in place of results:
+
+  $ begin
+  $ kiv watch <<. >signals
+  > account add Rent --type expense
+  > bill add Gym 30
+  > help bill
+  > .
+  kiv: The code name is the same name as an existing budget item.
+  Bills: what must be paid
+  Usage: kiv bill [OPTIONS] SUBCOMMAND
+  
+  Options:
+    -h,--help                   Print this help message and exit
+  
+  Subcommands:
+    add                         Add one
+    update                      Change one; what is not given stays
+    rename                      Give one another name
+    remove                      Remove one
+    list                        List all of them
+  
+  kiv COMMAND --help tells more about a command.
+  [1]
+  $ jq -r .signal signals
+  loadedBudgetFile
+  showAccounts
+  showProcessBudgetItems
+  accountSaveFailed
+  loadedBudgetFile
+  showProcessBudgetItems
+  saveSucceeded
+  showBills
+  showDebts
+  showGoals
+  showNontracks
+  showWages
+  savedBudgetFile
+  $ jq -c 'select(.signal | test("^save[SF]|SaveFailed"))' signals
+  {"arguments":{"displayed":"5 Rent","errorMessage":"The code name is the same name as an existing budget item.","original":null},"signal":"accountSaveFailed"}
+  {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
+  $ printf 'exit\nfrobnicate\n' | kiv watch | jq -c .signal
+  "loadedBudgetFile"
