@@ -7,6 +7,7 @@
 #include "numira/error.h"
 #include "numira/library.h"
 
+#include "support/comparison.h"
 #include "support/preferences_store.h"
 
 using kiv::foundation::Percentage;
@@ -166,6 +167,7 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
                                  (void)toCurrencyFromDisplayable(euro, {eur}, unknown));
         QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)presentationText(unknown));
+        QCOMPARE(kiv::test::dump(unknown), u"Unknown currency display option: 3"_s);
         QVERIFY_THROWS_EXCEPTION(
             numira::UnknownCurrency,
             (void)toCurrencyFromDisplayable(u"eur"_s, {eur}, CurrencyDisplayOptions::IsoCode));

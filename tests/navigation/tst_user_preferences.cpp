@@ -59,6 +59,7 @@ private slots:
         const MessageLog log;
         const UserPreferences preferences(m_store.fresh());
         QCOMPARE(valuesOf(preferences), defaults);
+        QCOMPARE(preferences.surveyWindow().digits(), 6);
         QVERIFY(!preferences.doesExist() && log.text().isEmpty());
     }
 
