@@ -105,6 +105,7 @@ namespace kiv::banking {
 
 using accounting::AccountNumber;
 
+bool BankMap::hasBank(const BankName &n) const { return pass(&BankMap::hasBank, this, n); }
 std::set<BankName> BankMap::names() const { return pass(&BankMap::names, this); }
 const Bank &BankMap::bank(const BankName &n) const { return pass(&BankMap::bank, this, n); }
 std::optional<BankName> BankMap::find(AccountNumber n) const { return pass(qOverload<AccountNumber>(&BankMap::find), this, n); }
@@ -123,6 +124,8 @@ namespace kiv::surveying {
 
 using Surveys = CompletedSurveys;
 
+std::optional<CompletedSurvey> Surveys::lookUpSurvey(const banking::BankAccount &a) const { return pass(qOverload<const banking::BankAccount &>(&Surveys::lookUpSurvey), this, a); }
+std::optional<CompletedSurvey> Surveys::lookUpSurvey(const banking::BankName &b, accounting::AccountNumber n) const { return pass(qOverload<const banking::BankName &, accounting::AccountNumber>(&Surveys::lookUpSurvey), this, b, n); }
 void Surveys::upsert(CompletedSurvey s) { return pass(&Surveys::upsert, this, s); }
 void Surveys::renamedBank(const banking::BankName &a, const banking::BankName &b) { return pass(&Surveys::renamedBank, this, a, b); }
 void Surveys::renamedAccount(const banking::BankName &b, accounting::AccountNumber from, accounting::AccountNumber to) { return pass(&Surveys::renamedAccount, this, b, from, to); }
@@ -134,6 +137,8 @@ namespace kiv::tagging {
 
 using Tagger = BudgetTagManager;
 
+bool BudgetItemTags::contains(const budgeting::BudgetItemIdentifier &i) const { return pass(&BudgetItemTags::contains, this, i); }
+Tags BudgetItemTags::tags(const budgeting::BudgetItemIdentifier &i) const { return pass(&BudgetItemTags::tags, this, i); }
 void Tagger::changeAssociation(const BudgetItemTags::ItemTags &t) { return pass(&Tagger::changeAssociation, this, t); }
 void Tagger::renameAssociation(const budgeting::BudgetItemIdentifier &i, const budgeting::BudgetSource &s) { return pass(&Tagger::renameAssociation, this, i, s); }
 void Tagger::removeAssociation(const budgeting::BudgetItemIdentifier &i) { return pass(&Tagger::removeAssociation, this, i); }
