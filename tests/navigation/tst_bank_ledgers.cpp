@@ -129,8 +129,9 @@ private slots:
         QCOMPARE(books.banks.bank(bank("Third")).accounts(),
                  (Accounts{{no(1), Cash}, {no(4), Loan}}));
 
-        const auto open = [&](const char *name, BankAccountTypes type, const char *opening) {
-            return books.bankLedgers.addAccount(bank("Second"), QString::fromUtf8(name), type,
+        const auto open = [&](const char *name, BankAccountTypes type, const char *opening,
+                              const char *at = "Second") {
+            return books.bankLedgers.addAccount(bank(at), QString::fromUtf8(name), type,
                                                 usd(opening), *books.generator);
         };
         QCOMPARE(open("Visa", CreditCard, "30"), txn(1));
@@ -144,6 +145,9 @@ private slots:
         books.bankLedgers.remove(bank("Second"));
         QVERIFY(!books.banks.hasBank(bank("Second")));
         QVERIFY(!books.ledger.hasLedger(no(6)) && !books.ledger.hasLedger(no(8)));
+        // Their numbers are not given again.
+        open("Box", Cash, "0", "First");
+        QCOMPARE(books.ledger.accountCode(no(9)), code(9, "Box"));
     }
 
     void aBankClosesAndOpensWithItsAccounts()
