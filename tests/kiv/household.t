@@ -95,9 +95,35 @@ Programs read JSON:
   $ kiv info --json | jq -c 'del(.bytes)'
   {"accounts":5,"banks":1,"credits":[{"amount":"6869.10","currency":"USD"}],"debits":[{"amount":"6869.10","currency":"USD"}],"file":"household.budget","items":{"bill":2,"debt":0,"goal":0,"nontrack":0,"wage":1},"transactions":4}
 
-What is due, by day:
+A month at a glance:
 
   $ begin
+  $ kiv dashboard
+  Every month
+  Wages        $3,100.00
+  Bills        $1,250.00
+  Debts        $0.00
+  Goals        $0.00
+  Non-tracked  $0.00
+  Remaining    $1,850.00
+  Due within 14 days
+  Due         Item    Kind     Amount
+  2026-01-25  Salary  wage  $3,100.00
+  2026-01-31  Rent    bill  $1,250.00
+  Budget health: good
+  40.3 % of the income is planned; 100 % is all there is.
+  Bills and debts take 40.3 % of the income; up to 50 % is sound.
+  Debts take 0 % of the income; up to 36 % is sound.
+  Free spending takes 0 % of the income; up to 30 % is sound.
+  Goals get 0 % of the income; from 20 % on is sound.
+  $ kiv dashboard --json | jq -c '.due[0], .dueWithinDays, .health.reasons[4], .totals.remaining'
+  {"amount":{"amount":"3100.00","currency":"USD"},"due":"2026-01-25","kind":"wage","name":"Salary"}
+  14
+  {"sound":false,"text":"Goals get 0 % of the income; from 20 % on is sound."}
+  {"amount":"1850.00","currency":"USD"}
+
+What is due, by day:
+
   $ kiv due --date 2026-01-27
   Due         Item    Kind     Amount  When
   2026-01-25  Salary  wage  $3,100.00  2 days late

@@ -249,3 +249,70 @@ Each field of something is changed alone:
   Second
   Number  Account            Kind  Balance
        7  Car [Budget Item]  loan  $500.00
+
+What was closed is opened again, and what was added is removed:
+
+  $ begin
+  $ kiv account add Food --type expense
+  Added the account 5 Food.
+  $ kiv account close Food
+  Closed the account 5 Food.
+  $ kiv account open Food
+  Opened the account 5 Food again.
+  $ kiv account remove Food
+  Removed the account 5 Food.
+  $ kiv bank-account add Card --bank First --type credit-card
+  Added the account 5 Card at the bank 'First'.
+  $ kiv bank-account detach Card
+  The bank 'First' no longer keeps the account 5 Card.
+  $ kiv bank-account attach Card --bank First --type line-of-credit
+  The bank 'First' keeps the account 5 Card now.
+  $ kiv banks
+  First
+  Number  Account   Kind              Balance
+       1  Checking  checking        $2,500.00
+       5  Card      line of credit      $0.00
+  $ kiv bank-account remove Card
+  Removed the bank account 5 Card.
+  $ kiv nontrack add Snacks 5 --every weekly --next 2026-02-01 --tag fun --tag food
+  Added the nontrack 'Snacks'.
+  $ kiv nontrack update Snacks --amount 6
+  Changed the nontrack 'Snacks'.
+  $ kiv nontrack rename Snacks Sweets
+  The nontrack 'Snacks' is now called 'Sweets'.
+  $ kiv tags remove fun
+  Removed the tags fun.
+  $ kiv nontrack list
+  Name    Amount  Every   Next        Tags
+  Sweets   $6.00  weekly  2026-02-01  food
+  $ kiv nontrack remove Sweets
+  Removed the nontrack 'Sweets'.
+  $ kiv nontrack list
+  There are none.
+  $ kiv wage list
+  Name       Amount  Every    Next        Tags
+  Salary  $3,100.00  monthly  2026-01-25
+  $ kiv bank close First
+  kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
+  [1]
+  $ kiv bank open First
+  kiv: The bank 'First' is already open.
+  [1]
+  $ kiv bank add Second
+  Added the bank 'Second'.
+  $ kiv bank close Second
+  Closed the bank 'Second'.
+  $ kiv bank open Second
+  Opened the bank 'Second' again.
+  $ kiv bank remove First
+  Removed the bank 'First'.
+  $ kiv banks
+  Second
+  It keeps no accounts.
+  $ kiv accounts --type asset
+  There are no accounts.
+  $ kiv transactions
+  There are no transactions.
+  $ kiv ledger 2
+  2 Opening Balances USD [Equity]
+  There are no transactions.

@@ -127,7 +127,10 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
   $ settings set --display both
   {"currenciesDisplayAs":"Symbol and Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
-  $ kiv configure show
+  $ kiv configure show --verbose
+  kiv: User system locale "C"
+  kiv: The first update check will occur in 5000ms
+  kiv: Starting update check with the interval of 3600000ms
   Preferred currency                JPY
   Usable currencies                 JPY
   Currencies are shown by           Symbol and Code
