@@ -50,7 +50,6 @@ public:
         QFile opened(name);
         return opened.open(QIODevice::ReadOnly) ? opened.readAll() : QByteArray();
     }
-    [[nodiscard]] QByteArray bytes() const { return bytes(file()); }
     void write(const QString &name, const QByteArray &content) const
     {
         QFile opened(name);
@@ -64,30 +63,25 @@ public:
         process.setProcessEnvironment(m_environment);
         process.setWorkingDirectory(m_folder.path());
     }
-    [[nodiscard]] Ended runProgram(const QString &program, const QStringList &words,
-                                   const QByteArray &input = {}) const
-    {
-        QProcess process;
-        prepare(process);
-        // The loop goes on meanwhile, for servers of the test's own.
-        QEventLoop loop;
-        QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
-        QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
-        process.start(program, words);
-        process.write(input);
-        process.closeWriteChannel();
-        if (process.waitForStarted() && process.state() != QProcess::NotRunning)
-            loop.exec();
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                process.readAllStandardOutput(), process.readAllStandardError()};
-    }
     /// Words are separated by blanks; a blank within a word is written as "_".
     [[nodiscard]] Ended run(const char *line, const QByteArray &input = {}) const
     {
         QStringList words = QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts);
         for (QString &word : words)
             word.replace(u'_', u' ');
-        return runProgram(QStringLiteral(KIV_PROGRAM), words, input);
+        QProcess process;
+        prepare(process);
+        // The loop goes on meanwhile, for servers of the test's own.
+        QEventLoop loop;
+        QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
+        QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
+        process.start(QStringLiteral(KIV_PROGRAM), words);
+        process.write(input);
+        process.closeWriteChannel();
+        if (process.waitForStarted() && process.state() != QProcess::NotRunning)
+            loop.exec();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                process.readAllStandardOutput(), process.readAllStandardError()};
     }
     /// Runs a command that must succeed, and gives its JSON.
     [[nodiscard]] QJsonDocument json(const char *line) const
@@ -108,15 +102,6 @@ public:
             }
         }
         return true;
-    }
-    /// A bank with a checking account of 2,500.00 USD, a bill and a wage.
-    [[nodiscard]] bool begin() const
-    {
-        return runAll({"new", "bank add First",
-                       "bank-account add Checking --bank First --balance 2500.00_USD "
-                       "--date 2026-01-01",
-                       "bill add Rent 1250.00_USD --next 2026-01-31",
-                       "wage add Salary 3100.00_USD --next 2026-01-25"});
     }
 
 private:

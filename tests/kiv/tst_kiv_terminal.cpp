@@ -81,7 +81,7 @@ private slots:
     void linesAreTypedWithHistoryAndCompletion()
     {
         const Household home;
-        QVERIFY(home.begin() && home.runAll({"bill add Car_tax 360"}));
+        QVERIFY(home.runAll({"new", "bill add Rent 1250", "bill add Car_tax 360"}));
         Terminal terminal(home);
         QVERIFY(terminal.type("bil\t rem\tRe"));
         QVERIFY(terminal.type("\x03", "Re")); // gives the line up
