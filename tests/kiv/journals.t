@@ -215,8 +215,8 @@ What cannot be understood is refused, with its line, and so are options that do 
   $ echo 'include *.journal' | journal
   kiv: 's.journal', line 1: '*.journal' is not included: patterns are not followed; name each file.
   [1]
-  $ echo 'include config' | journal
-  kiv: 's.journal', line 1: 'config' is not included: there is no such file.
+  $ echo 'include books' | journal
+  kiv: 's.journal', line 1: 'books' is not included: there is no such file.
   [1]
   $ kiv import s.journal --root Aktiva=fish
   kiv: 'fish' is none of: asset, equity, expense, liability, income.

@@ -122,8 +122,9 @@ What cannot be read is refused, with its line:
   $ kiv import s.ofx --into Checking
   kiv: Say with --against which account is the other side of 'Bakery', 2026-01-10.
   [1]
-  $ kiv import config --format journal
-  kiv: Cannot read 'config': file to open is a directory.
+  $ mkdir folder
+  $ kiv import folder --format journal
+  kiv: Cannot read 'folder': file to open is a directory.
   [1]
   $ kiv import /proc/self/mem --format journal
   kiv: Cannot read '/proc/self/mem': *. (glob)
