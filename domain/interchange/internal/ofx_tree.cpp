@@ -19,42 +19,33 @@ constexpr std::size_t depthMax = 32;
 /// A transaction has about ten.
 constexpr qsizetype elementsMax = 16 * transactionsMax;
 
-/// A letter by its number, "&#252;" or "&#xFC;"; what is none, or a control
-/// character, is left as it is.
-void replaceNumbers(QString &text)
+/// The characters that entities stand for, by their names or numbers ("&#252;",
+/// "&#xFC;"). What begins with an ampersand and is none is left as it is, since banks
+/// write names so; and so is what would be a control character.
+QString withoutEntities(QString text)
 {
-    static const QRegularExpression form(QStringLiteral("&#(?:x([0-9A-Fa-f]{1,6})|([0-9]{1,7}));"));
-    for (qsizetype from = 0;;) {
+    static const QRegularExpression form(
+        QStringLiteral("&(?:#x([0-9A-Fa-f]{1,6})|#([0-9]{1,7})|([a-z]+));"));
+    static const std::map<QString, char32_t> names{
+        {QStringLiteral("lt"), U'<'},   {QStringLiteral("gt"), U'>'},
+        {QStringLiteral("quot"), U'"'}, {QStringLiteral("apos"), U'\''},
+        {QStringLiteral("nbsp"), U' '}, {QStringLiteral("amp"), U'&'}};
+    for (qsizetype from = text.indexOf(u'&'); from >= 0;) {
         const QRegularExpressionMatch match = form.match(text, from);
         if (!match.hasMatch())
-            return;
-        const bool isHexadecimal = match.hasCaptured(1);
-        const char32_t letter =
-            isHexadecimal ? match.captured(1).toUInt(nullptr, 16) : match.captured(2).toUInt();
+            break;
         from = match.capturedEnd();
+        const auto named = names.find(match.captured(3));
+        const char32_t letter = named != names.end()   ? named->second
+                                : match.hasCaptured(1) ? match.captured(1).toUInt(nullptr, 16)
+                                                       : match.captured(2).toUInt();
         if (letter > QChar::LastValidCodePoint || !QChar::isPrint(letter))
             continue;
+        // What comes of it is not looked at again.
         const QString written = QString::fromUcs4(&letter, 1);
         text.replace(match.capturedStart(), match.capturedLength(), written);
         from = match.capturedStart() + written.size();
     }
-}
-
-/// The characters that entities stand for. What begins with an ampersand and is
-/// no entity is left as it is, since banks write names so.
-QString withoutEntities(QString text)
-{
-    if (text.contains(u'&'))
-        replaceNumbers(text);
-    static const std::pair<QString, QString> entities[]{
-        {QStringLiteral("&lt;"), QStringLiteral("<")},
-        {QStringLiteral("&gt;"), QStringLiteral(">")},
-        {QStringLiteral("&quot;"), QStringLiteral("\"")},
-        {QStringLiteral("&apos;"), QStringLiteral("'")},
-        {QStringLiteral("&nbsp;"), QStringLiteral(" ")},
-        {QStringLiteral("&amp;"), QStringLiteral("&")}};
-    for (const auto &[entity, character] : entities)
-        text.replace(entity, character);
     return text.simplified();
 }
 
