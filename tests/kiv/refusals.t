@@ -289,6 +289,13 @@ Transactions to be loaded:
   $ load '[{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]'
   kiv: Cannot understand transaction 1 of '-': 'x' is none of: none, cleared, reconciled.
   [2]
+  $ truncate -s 65M large.json
+  $ kiv transaction load large.json
+  kiv: Cannot read 'large.json': it is larger than 64 MiB, which line 1 exceeds; split it into smaller files.
+  [1]
+  $ kiv transaction load nowhere.json
+  kiv: Cannot read 'nowhere.json': No such file or directory.
+  [1]
 
 Files:
 

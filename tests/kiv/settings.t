@@ -33,6 +33,27 @@ Help needs nothing and leaves nothing:
 The tour ends well and leaves nothing either:
 
   $ kiv tour >tour 2>errors
+  $ sed -n '/^\$/ { s/^\$ //; s/20..-..-../some day/; p }' tour
+  kiv configure set --preferred USD --usable USD --display code
+  kiv new
+  kiv bank add 'First Bank'
+  kiv bank-account add Checking --bank 'First Bank' --balance 2500.00
+  kiv wage add Salary 3100.00 --next some day
+  kiv bill add Rent 1250.00 --next some day
+  kiv bill add Electricity 84.35 --next some day
+  kiv bill add Gym 29.90 --tag sport --next some day
+  kiv bill add 'Car tax' 360.00 --every yearly --next some day
+  kiv bill rename Gym 'Fitness studio'
+  kiv due
+  kiv post --all --account Checking
+  kiv skip 'Fitness studio'
+  kiv pay Electricity 19.10 --account Checking
+  kiv account add Rent --type expense
+  kiv bill list
+  kiv ledger Checking
+  kiv accounts
+  kiv dashboard
+  kiv info
   $ grep 'equals the sum of all credits' tour
   The sum of all debits equals the sum of all credits.
   $ cat errors
