@@ -93,8 +93,8 @@ QString Duplicates::contentKey(const Transaction &transaction) const
     QString text = transaction.description().value_or(QString());
     if (const qsizetype at = idBegin(text); at >= 0)
         text.truncate(at);
-    // A journal has no semicolons in descriptions.
-    text = text.replace(u';', u',').simplified().toCaseFolded();
+    // A journal has neither semicolons nor control characters in descriptions.
+    text = foundation::escaped(text.simplified()).replace(u';', u',').toCaseFolded();
     return transaction.occurredOn().toString(Qt::ISODate) + amountKey(transaction) + u'\n' + text;
 }
 
