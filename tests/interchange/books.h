@@ -4,7 +4,6 @@
 #include "support/budgeting.h"
 
 #include "budgeting/budget.h"
-#include "foundation/presentation.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -21,9 +20,22 @@ namespace kiv::test {
 struct Books {
     explicit Books(QAnyStringView text)
     {
-        for (const QString &line : text.toString().split(u'\n', Qt::SkipEmptyParts))
-            if (!takeAccount(line) && !takeTransaction(line) && !takeItem(line))
-                qFatal("'%s' says nothing.", qPrintable(line));
+        for (const QString &line : text.toString().split(u'\n', Qt::SkipEmptyParts)) {
+            const auto partsOf = [&line](const char *form) {
+                return QRegularExpression(QLatin1String(form)).match(line).capturedTexts();
+            };
+            if (const QStringList account = partsOf("^(\\d+)(?:/(\\d+))? ([a-z]+) (\\S{3}) (.*)$");
+                !account.isEmpty())
+                addAccount(account);
+            else if (const QStringList transaction =
+                         partsOf("^(\\S{10}) (\\d+)<(\\d+) (\\S+) (\\S{3})"
+                                 "(?: = (\\S+) (\\S{3}))? ([-!*])([-!*]) ?(.*)$");
+                     !transaction.isEmpty())
+                addTransaction(transaction);
+            else
+                addItem(partsOf("^([a-z-]+) (\\S+) (\\S{3}) ([a-z ]+) ([0-9-]{10}) "
+                                "(?:([0-9.]+) )?(.*)$"));
+        }
     }
 
     std::set<accounting::Account> accounts;
@@ -31,72 +43,49 @@ struct Books {
     budgeting::Budget budget;
 
 private:
-    static QStringList parts(const char *form, const QString &line)
+    template <typename Kind>
+    static Kind named(const QString &name)
     {
-        return QRegularExpression(QLatin1String(form)).match(line).capturedTexts();
+        int value = 0;
+        while (toQString(Kind(value)) != name)
+            ++value;
+        return Kind(value);
     }
-
     static numira::Money amount(const QString &number, const QString &currency)
     {
-        return money(currency.toLatin1().constData(), number.toLatin1().constData());
+        return money(currency.toLatin1(), number.toLatin1());
     }
 
-    bool takeAccount(const QString &line)
+    void addAccount(const QStringList &part)
     {
-        const QStringList part = parts("^(\\d+)(?:/(\\d+))? ([a-z]+) ([A-Z]{3}) (.*)$", line);
-        if (part.isEmpty())
-            return false;
-        int type = 0;
-        while (part[3] != accounting::toQString(accounting::AccountTypes(type)))
-            ++type;
         const auto parent = part[2].isEmpty() ? std::nullopt : std::optional(no(part[2].toUInt()));
-        accounts.insert({accounting::AccountTypes(type),
+        accounts.insert({named<accounting::AccountTypes>(part[3]),
                          {no(part[1].toUInt()), part[5], parent},
                          amount(QStringLiteral("0"), part[4]),
                          false});
-        return true;
     }
-
-    bool takeTransaction(const QString &line)
+    void addTransaction(const QStringList &part)
     {
-        const QStringList part =
-            parts("^(\\S{10}) (\\d+)<(\\d+) (\\S+) (\\S{3})(?: = (\\S+) (\\S{3}))?"
-                  " ([-!*])([-!*]) ?(.*)$",
-                  line);
-        if (part.isEmpty())
-            return false;
-        const numira::Money debit = amount(part[4], part[5]);
-        const auto status = [&](int at) {
-            return accounting::TransactionStatuses(QStringLiteral("-!*").indexOf(part[at]));
+        const auto status = [](const QString &mark) {
+            return accounting::TransactionStatuses(QStringLiteral("-!*").indexOf(mark));
         };
+        const numira::Money debit = amount(part[4], part[5]);
         transactions.push_back(
             accounting::Transaction(day(part[1].toLatin1()), no(part[2].toUInt()),
                                     no(part[3].toUInt()), debit, part[10],
                                     txn(std::uint16_t(transactions.size() + 1)))
-                .withStatuses(status(8), status(9))
+                .withStatuses(status(part[8]), status(part[9]))
                 .withSideAmounts(debit, part[6].isEmpty() ? debit : amount(part[6], part[7])));
-        return true;
     }
-
-    bool takeItem(const QString &line)
+    void addItem(const QStringList &part)
     {
-        const QStringList part =
-            parts("^(bill|debt|goal|non-tracked|wage) (\\S+) ([A-Z]{3}) ([a-z ]+)"
-                  " ([0-9-]{10}) (?:([0-9.]+) )?(.*)$",
-                  line);
-        if (part.isEmpty())
-            return false;
-        int period = 0;
-        while (part[4] != budgeting::toQString(budgeting::EventFrequency(period)))
-            ++period;
-        const QString total = part[6].isEmpty() ? part[2] : part[6];
+        const numira::Money total = amount(part.at(part.at(6).isEmpty() ? 2 : 6), part.at(3));
         budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-            if (budgeting::presentationText(budgeting::ItemTraits<Item>::type) == part[1])
-                budget.items<Item>().add(item<Item>(
-                    part[7].toUtf8(), amount(part[2], part[3]), budgeting::EventFrequency(period),
-                    day(part[5].toLatin1()), amount(total, part[3])));
+            if (presentationText(budgeting::ItemTraits<Item>::type) == part[1])
+                budget.items<Item>().add(item<Item>(part[7].toUtf8(), amount(part[2], part[3]),
+                                                    named<budgeting::EventFrequency>(part[4]),
+                                                    day(part[5].toLatin1()), total));
         });
-        return true;
     }
 };
 

@@ -3,7 +3,9 @@
 
 #include <QtTest/QtTest>
 
-#include "interchange/errors.h"
+#include "interchange/written_values.h"
+
+#include "foundation/presentation.h"
 
 /// Cases that are written down as text, many to a file:
 ///
@@ -35,6 +37,12 @@ struct Case {
     {
         const auto found = options.find(QLatin1String(name));
         return found == options.end() ? otherwise : found->second;
+    }
+    [[nodiscard]] std::optional<interchange::DecimalMark> mark() const
+    {
+        const QString mark = option("decimal");
+        return mark.isEmpty() ? std::nullopt
+                              : std::optional(interchange::DecimalMark(mark[0].unicode()));
     }
 };
 
@@ -93,6 +101,12 @@ inline void addCases(const QString &folder)
         QTest::addRow("%s: %s", qPrintable(given.file), qPrintable(given.title)) << given;
 }
 
+/// "5.00 USD".
+inline QString withCode(const numira::Money &money)
+{
+    return foundation::toQString(money) + u' ' + foundation::toQString(money.code());
+}
+
 /// What is read, as lines, or why it is refused.
 template <typename Error = interchange::ImportError, typename Read>
 QString outcome(Read &&read)
@@ -119,7 +133,7 @@ void compareLines(const Case &given, Read &&read)
     for (const QString &line : lines) {
         const QString text = line.section(u" = "_s, 0, -2);
         const QString found = outcome([&] { return read(text); }).remove(u"'': "_s);
-        QCOMPARE(text + u" = "_s + found, line);
+        QCOMPARE(text + u" = "_s + (found.isEmpty() ? u"nothing"_s : found), line);
     }
 }
 

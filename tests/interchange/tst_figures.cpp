@@ -7,7 +7,6 @@
 
 using namespace kiv::interchange;
 using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
 using kiv::foundation::Error;
 using kiv::foundation::toQString;
 using numira::Money;
@@ -44,12 +43,11 @@ QString linesOf(const Figures &figures)
             sums.outgoing);
     }
     for (const ItemFigure &item : figures.items)
-        add(presentationText(item.kind) + u' ' + item.name + u", "_s + toQString(item.planned) +
-                u' ' + toQString(item.planned.code()),
+        add(presentationText(item.kind) + u' ' + item.name + u", "_s + withCode(item.planned),
             item.actual);
     for (const BalanceFigure &figure : figures.balances)
         lines += kiv::accounting::toQString(figure.type) + u' ' + figure.path + u": "_s +
-                 toQString(figure.balance) + u' ' + toQString(figure.balance.code());
+                 withCode(figure.balance);
     return lines.join(u'\n');
 }
 
@@ -63,18 +61,16 @@ QString pageOf(const Case &given)
         if (page.contains(loaded))
             return u"It loads something."_s;
     page.replace(style, u"<style></style>"_s);
-    const QString part = given.option("only");
-    return page.split(u'\n').filter(part).join(u'\n');
+    return page.split(u'\n').filter(given.option("only")).join(u'\n');
 }
 
 /// The chart with a bar or point for each number of the text.
 Chart chartOf(const QString &text)
 {
     Chart chart;
-    ChartSeries series;
-    for (const QString &number : text.split(u' ', Qt::SkipEmptyParts))
-        series.values.push_back(usd(number.toLatin1()));
-    chart.series.push_back(series);
+    chart.series.resize(1);
+    for (const QString &number : text.split(u' '))
+        chart.series[0].values.push_back(usd(number.toLatin1()));
     return chart;
 }
 

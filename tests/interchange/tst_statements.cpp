@@ -10,14 +10,12 @@
 #include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
 
-#include "foundation/presentation.h"
 #include "foundation/streams.h"
 
 #include <libofx/libofx.h>
 
 using namespace kiv::interchange;
 using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
 using kiv::foundation::escaped;
 using kiv::foundation::toQString;
 
@@ -30,15 +28,9 @@ QString linesOf(const Statement &statement)
     QStringList lines{(toQString(statement.currency) + u' ' + statement.account).trimmed()};
     for (const StatementEntry &entry : statement.entries)
         lines += QString::number(entry.place.line) + u": "_s + entry.date.toString(Qt::ISODate) +
-                 u' ' + toQString(entry.amount) + u' ' + toQString(entry.amount.code()) + u'|' +
-                 escaped(entry.text) + u'|' + entry.bankId + u'|' + entry.category;
+                 u' ' + withCode(entry.amount) + u'|' + escaped(entry.text) + u'|' + entry.bankId +
+                 u'|' + entry.category;
     return lines.join(u'\n');
-}
-
-std::optional<DecimalMark> markOf(const Case &given)
-{
-    const QString mark = given.option("decimal");
-    return mark.isEmpty() ? std::nullopt : std::optional(DecimalMark(mark[0].unicode()));
 }
 
 /// All that a file like the case's comes to.
@@ -48,16 +40,13 @@ QString read(const Case &given, const QByteArray &bytes)
     if (given.file == u"ofx")
         return linesOf(readOfx(bytes, u"f"_s, given.option("statement"), given.option("encoding")));
     if (given.file == u"qif") {
-        QifOptions options{{}, markOf(given), eur, given.option("encoding", utf8Name)};
+        QifOptions options{{}, given.mark(), eur, given.option("encoding", utf8Name)};
         if (const QString format = given.option("date-format"); !format.isEmpty())
             options.dateFormat = DateFormat(format, {});
         return linesOf(readQif(bytes, u"f"_s, options));
     }
-    if (given.file == u"profile") {
-        const QByteArray saved = toJson(readProfile(bytes, u"p"_s));
-        return toJson(readProfile(saved, u"p"_s)) == saved ? QString::fromUtf8(saved)
-                                                           : u"It is saved otherwise."_s;
-    }
+    if (given.file == u"profile") // also what was saved is read
+        return QString::fromUtf8(toJson(readProfile(toJson(readProfile(bytes, u"p"_s)), u"s"_s)));
     const QByteArray profile = given.option("profile", u"{}"_s).toUtf8();
     return linesOf(readCsvStatement(bytes, u"f"_s, readProfile(profile, u"p"_s), eur));
 }
@@ -65,22 +54,23 @@ QString read(const Case &given, const QByteArray &bytes)
 /// What is made of a value that the case's file is about.
 QString readValue(const Case &given, const QString &text)
 {
-    const auto orNone = [](const auto &found, auto &&textOf) {
-        return found ? textOf(*found) : u"none"_s;
-    };
     if (given.file == u"numbers")
-        return QString::fromStdString(readNumber(text, markOf(given), {}).toText());
+        return QString::fromStdString(readNumber(text, given.mark(), {}).toText());
+    const auto currency = [](const QString &code) {
+        return numira::toCurrency(code.toStdString());
+    };
     if (given.file == u"amounts")
-        return toQString(statementAmount(text.section(u' ', 1),
-                                         numira::toCurrency(text.section(u' ', 0, 0).toStdString()),
-                                         markOf(given), {}));
+        return toQString(statementAmount(text.section(u' ', 1), currency(text.section(u' ', 0, 0)),
+                                         given.mark(), {}));
     if (given.file == u"days")
-        return orNone(DateFormat(given.option("date-format"), {}).read(text),
-                      [](QDate day) { return day.toString(Qt::ISODate); });
-    if (given.file == u"currencies")
-        return orNone(
-            readCurrency(text, numira::toCurrency(given.option("preferred").toStdString())),
-            [](const auto &currency) { return toQString(currency); });
+        return DateFormat(given.option("date-format"), {})
+            .read(text)
+            .value_or(QDate())
+            .toString(Qt::ISODate);
+    if (given.file == u"currencies") {
+        const auto found = readCurrency(text, currency(given.option("preferred")));
+        return found ? toQString(*found) : QString();
+    }
     if (given.file == u"delimiters")
         return escaped(guessDelimiter(text));
     if (given.file == u"cells") {
