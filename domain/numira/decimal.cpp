@@ -22,7 +22,7 @@ using Wide = boost::multiprecision::checked_int256_t;
 __extension__ using Units = __int128;
 __extension__ using Magnitude = unsigned __int128;
 
-constexpr Units highest = static_cast<Units>(~Magnitude{0} >> 1U);
+constexpr Units highest = static_cast<Units>(~Magnitude{} >> 1U);
 constexpr unsigned scale = Decimal::scaleDigits;
 /// The most digits that the units can have.
 constexpr int unitDigitsMax = 39;
@@ -83,16 +83,18 @@ Units narrowed(const Integer &value)
     return static_cast<Units>(value);
 }
 
-/// numerator ÷ denominator, rounded half to even; the denominator is positive.
+/// numerator ÷ denominator, rounded half to even; the denominator is not zero.
 template <typename Integer>
 Units quotient(const Integer &numerator, const Integer &denominator)
 {
     Integer whole;
     Integer remainder;
-    divide_qr(Integer(boost::multiprecision::abs(numerator)), denominator, whole, remainder);
-    if (roundsAway<Integer>(remainder, denominator, bit_test(whole, 0)))
+    const Integer divisor = abs(denominator);
+    divide_qr(Integer(abs(numerator)), divisor, whole, remainder);
+    if (roundsAway<Integer>(remainder, divisor, bit_test(whole, 0)))
         ++whole;
-    return narrowed<Integer>(numerator < 0 ? Integer(-whole) : whole);
+    const bool isNegative = (numerator < 0) != (denominator < 0);
+    return narrowed<Integer>(isNegative ? Integer(-whole) : whole);
 }
 
 /// A number that a text gives exactly: digits × 10^exponent.
@@ -136,10 +138,10 @@ Exact readExact(std::string_view text)
             throwInvalid(text);
         exact.exponent += exponent;
     }
-    // A leading zero would make the number octal.
-    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
     exact.digitCount = static_cast<int>(digits.size());
-    exact.digits.assign(digits);
+    // A leading zero would make the number octal.
+    if (const std::size_t first = digits.find_first_not_of('0'); first != std::string::npos)
+        exact.digits.assign(digits.substr(first));
     if (isNegative)
         exact.digits = -exact.digits;
     return exact;
@@ -148,17 +150,14 @@ Exact readExact(std::string_view text)
 /// units × number, rounded half to even.
 Units product(Units units, const Exact &number)
 {
-    if (units == 0 || number.digits == 0)
-        return 0;
-    // The powers of ten stay small: beyond these bounds the result is known.
-    if (number.exponent > unitDigitsMax)
-        throwOverflow();
-    if (number.exponent < -(unitDigitsMax + number.digitCount + 1))
-        return 0;
-    const cpp_int power = pow(cpp_int(10), static_cast<unsigned>(std::abs(number.exponent)));
-    const cpp_int exact = cpp_int(units) * number.digits;
-    return number.exponent >= 0 ? narrowed<cpp_int>(exact * power)
-                                : quotient<cpp_int>(exact, power);
+    // Beyond these bounds the result, an overflow or zero, is the same as on them.
+    const long long above = std::min<long long>(number.exponent, unitDigitsMax);
+    const long long below =
+        std::min<long long>(-number.exponent, unitDigitsMax + number.digitCount + 1);
+    const auto power = [](long long exponent) -> cpp_int {
+        return pow(cpp_int(10), static_cast<unsigned>(std::max(exponent, 0LL)));
+    };
+    return quotient<cpp_int>(cpp_int(units) * number.digits * power(above), power(below));
 }
 
 /// The shortest decimal that reads back as `value`.
@@ -321,10 +320,8 @@ Decimal Decimal::scaled(std::int64_t numerator, std::int64_t denominator) const
 {
     if (denominator == 0)
         throw std::logic_error("A decimal number was to be divided by zero.");
-    const Wide sign = denominator < 0 ? -1 : 1;
     Decimal result;
-    result.m_units =
-        quotient<Wide>(Wide(m_units) * Wide(numerator) * sign, Wide(denominator) * sign);
+    result.m_units = quotient<Wide>(Wide(m_units) * Wide(numerator), Wide(denominator));
     return result;
 }
 
