@@ -126,6 +126,26 @@ Differences are told field by field:
   transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
   $ kiv history diff --json | jq -c '.[0]'
   {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
+  $ kiv bill update Rent --every every-two-weeks --next 2026-03-01
+  Changed the bill 'Rent'.
+  $ kiv history diff
+  What  Name       Change   Detail
+  item  bill Rent  changed  every monthly → every two weeks, next 2026-01-31 → 2026-03-01
+  $ kiv survey complete First Checking --date 2026-02-28 --balance 2495 --tick-all
+  Reconciled 1 Checking at First with a balance of $2,495.00.
+  $ kiv history diff
+  What         Name     Change   Detail
+  transaction  1        changed  creditStatus none → reconciled, debitStatus none → reconciled
+  transaction  2        changed  creditStatus none → reconciled, debitStatus none → reconciled
+  survey       First 1  added    2495.00 USD
+  $ kiv bank rename First Second
+  The bank is now called 'Second'.
+  $ kiv history diff
+  What    Name      Change   Detail
+  bank    First     removed
+  bank    Second    added
+  survey  First 1   removed  2495.00 USD
+  survey  Second 1  added    2495.00 USD
   $ kiv account add Food --type expense
   Added the account 5 Food.
   $ kiv account add Out --type expense
