@@ -121,46 +121,26 @@ and no other file does; it is saved at the end at the latest:
   Rent  $1,250.00  monthly  2026-01-31
   $ cmp other.budget kept
 
-Watching tells signals as they come, in place of results:
+Watching tells signals as they come, in place of results; those that come by the clock may
+stand among them:
 
   $ begin
-  $ kiv watch <<. >signals
+  $ kiv watch <<. >signals 2>errors
   > account add Rent --type expense
-  > bill add Gym 30
+  > bill add Gym 30 --next 2026-02-01
   > help bill
   > .
+  [1]
+  $ grep -v warning errors | head -2
   kiv: The code name is the same name as an existing budget item.
   Bills: what must be paid
-  Usage: kiv bill [OPTIONS] SUBCOMMAND
-  
-  Options:
-    -h,--help                   Print this help message and exit
-  
-  Subcommands:
-    add                         Add one
-    update                      Change one; what is not given stays
-    rename                      Give one another name
-    remove                      Remove one
-    list                        List all of them
-  
-  kiv COMMAND --help tells more about a command.
-  [1]
-  $ jq -r .signal signals
+  $ jq -r .signal signals | head -1
   loadedBudgetFile
-  showAccounts
-  showProcessBudgetItems
-  accountSaveFailed
-  loadedBudgetFile
-  showProcessBudgetItems
-  saveSucceeded
-  showBills
-  showDebts
-  showGoals
-  showNontracks
-  showWages
-  savedBudgetFile
-  $ jq -c 'select(.signal | test("^save[SF]|SaveFailed"))' signals
+  $ jq -c 'select(.signal | test("^save|SaveFailed|showBills"))' signals
   {"arguments":{"displayed":"5 Rent","errorMessage":"The code name is the same name as an existing budget item.","original":null},"signal":"accountSaveFailed"}
   {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
-  $ printf 'exit\nfrobnicate\n' | kiv watch | jq -c .signal
-  "loadedBudgetFile"
+  {"arguments":{"associatedTags":"()","bills":"(Gym (bill) 30.00 USD monthly on 2026-02-01 day 1, Rent (bill) 1250.00 USD monthly on 2026-01-31 day 31)","displayAs":"Symbol","possibleTags":"()","preferred":"USD","usableCurrencies":"(USD)"},"signal":"showBills"}
+  {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
+  $ printf 'exit\nfrobnicate\n' | kiv watch >signals
+  $ jq -r .signal signals | head -1
+  loadedBudgetFile
