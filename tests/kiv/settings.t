@@ -26,6 +26,22 @@ Help needs nothing and leaves nothing:
     --verbose                   Show the log on standard error
   
   kiv COMMAND --help tells more about a command.
+  $ env LC_ALL=de_DE.UTF-8 kiv bank rename --help
+  Einer Bank einen anderen Namen geben
+  Aufruf: kiv bank rename [OPTIONEN] BANK NEUER-NAME
+  
+  Argumente:
+    BANK NÖTIG                  Der Name der Bank
+    NEUER-NAME NÖTIG            Der neue Name
+  
+  Optionen:
+    -h,--help                   Diese Hilfe ausgeben und enden
+    --file TEXT                 Die Budgetdatei; sonst nennt sie KIV_FILE
+    --json                      JSON für Programme ausgeben
+    --dry-run                   Zeigen, was dabei herauskäme, nichts speichern
+    --verbose                   Das Protokoll auf der Fehlerausgabe zeigen
+  
+  kiv BEFEHL --help sagt mehr über einen Befehl.
   $ kiv --version
   kiv 1.* (glob)
   $ ls -A
