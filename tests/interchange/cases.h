@@ -6,6 +6,7 @@
 #include "interchange/written_values.h"
 
 #include "foundation/presentation.h"
+#include "support/damage.h"
 
 /// Cases that are written down as text, many to a file:
 ///
@@ -38,6 +39,7 @@ struct Case {
         const auto found = options.find(QLatin1String(name));
         return found == options.end() ? otherwise : found->second;
     }
+    [[nodiscard]] bool isRefused() const { return expected[0].startsWith(u"refused: "); }
     [[nodiscard]] std::optional<interchange::DecimalMark> mark() const
     {
         const QString mark = option("decimal");
@@ -123,6 +125,23 @@ inline void compare(const Case &given, QAnyStringView text)
 {
     const QString found = text.toString();
     QCOMPARE(found.trimmed().split(u'\n'), given.expected);
+}
+
+/// How often the folder's sound and short texts are refused, [1], and not, [0], when they
+/// are damaged at random.
+template <typename Read>
+std::array<int, 2> refusedOfDamaged(const QString &folder, int runs, const QByteArrayList &own,
+                                    const QByteArrayList &odd, Read &&read)
+{
+    QRandomGenerator random(7);
+    std::array<int, 2> refused{};
+    for (const Case &given : casesIn(folder))
+        for (int run = given.isRefused() || given.text.size() > 5000 ? 0 : randomRuns(runs);
+             run > 0; --run)
+            ++refused[outcome([&] {
+                          return read(given, damaged(given.text, own, odd, random));
+                      }).startsWith(u"refused: ")];
+    return refused;
 }
 
 /// What comes of each line's first half stands in its second one.

@@ -2,7 +2,6 @@
 #include "cases.h"
 
 #include "support/accounting.h"
-#include "support/damage.h"
 
 #include "interchange/csv_profile.h"
 #include "interchange/csv_table.h"
@@ -34,7 +33,7 @@ QString linesOf(const Statement &statement)
 }
 
 /// All that a file like the case's comes to.
-QString read(const Case &given, const QByteArray &bytes)
+QString contentOf(const Case &given, const QByteArray &bytes)
 {
     const numira::Currency eur = numira::toCurrency("EUR");
     if (given.file == u"ofx")
@@ -99,22 +98,16 @@ private slots:
     void statements()
     {
         QFETCH(Case, given);
-        compare(given, outcome([&] { return read(given, given.text); }));
+        compare(given, outcome([&] { return contentOf(given, given.text); }));
     }
 
     void damagedFilesAreReadOrRefused()
     {
-        QRandomGenerator random(7);
-        std::map<bool, int> refused;
-        const QByteArrayList odd{"\"\"", ";", "/>", "<!", "^", "\r", "\xe9"};
-        for (const Case &given : casesIn(u"statements"_s))
-            for (int run = given.text.size() > 5000 ? 0 : randomRuns(30); run > 0; --run)
-                ++refused[outcome([&] {
-                              return read(given,
-                                          damaged(given.text, {"\"", ",", "<", "\n", "D", "1"}, odd,
-                                                  random));
-                          }).startsWith(u"refused")];
-        QVERIFY(refused[true] > 100 && refused[false] > 100);
+        const auto [sound, refused] =
+            refusedOfDamaged(u"statements"_s, 60, {"\"", ",", "<", "\n", "D", "1"},
+                             {"\"\"", ";", "/>", "<!", "^", "\r", "\xe9"}, &contentOf);
+
+        QVERIFY(sound > 100 && refused > 100);
     }
 
     /// A peer finds the same entries in a file without faults.
