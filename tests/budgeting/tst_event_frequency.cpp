@@ -126,6 +126,9 @@ private slots:
         row("halves of a month", TwiceAMonth, "2026-01-01", "2026-02-16", 3);
         row("from the 31st to the 15th", TwiceAMonth, "2026-01-31", "2026-02-15", 1);
         row("part of half a month", TwiceAMonth, "2026-01-20", "2026-02-01", 1 - 4 / 16.0);
+        row("half a month, less a day", TwiceAMonth, "2026-01-14", "2026-01-15", 1 / 16.0);
+        row("from the 15th into the second half", TwiceAMonth, "2026-01-15", "2026-01-16",
+            1 - 14 / 16.0);
         row("months of different length", Monthly, "2026-01-15", "2026-04-15", 3);
         row("to a short month", Monthly, "2026-01-31", "2026-02-28", 1);
         row("from a short month", Monthly, "2026-02-28", "2026-03-31", 1);

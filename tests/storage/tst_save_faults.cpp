@@ -180,6 +180,7 @@ private slots:
     void whatCannotBeTakenBackIsSavedTheNextTime_data();
     void whatCannotBeTakenBackIsSavedTheNextTime();
     void onlyWhereThereAreNoLocksItGoesOnWithout();
+    void theReasonIsTheSystemsOwn();
     void rightsOfALostGroupGoToNobody();
     void aLoadIsHonestToo_data();
     void aLoadIsHonestToo();
@@ -322,6 +323,19 @@ void SaveFaultsTest::onlyWhereThereAreNoLocksItGoesOnWithout()
         const auto failure = test::failureOf([&] { desk.save(3); });
         failingCalls = {};
         QCOMPARE(failure.has_value(), error == EIO || error == EINTR);
+    }
+}
+
+void SaveFaultsTest::theReasonIsTheSystemsOwn()
+{
+    Desk desk;
+    fail("write", 1, EIO);
+    try {
+        desk.save(3);
+        QFAIL("It was saved.");
+    } catch (const storage::StorageError &error) {
+        failingCalls = {};
+        QVERIFY2(error.message().contains(qt_error_string(EIO)), qPrintable(error.message()));
     }
 }
 

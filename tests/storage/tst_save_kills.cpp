@@ -290,8 +290,9 @@ void SaveKillsTest::theLockOfAKilledProgramIsNone()
     other.start(program, {u"check"_qs, path});
     QVERIFY(other.waitForFinished());
     QCOMPARE(other.exitCode(), 1);
-    QVERIFY(other.readAllStandardError().contains("in use by another program (process " +
-                                                  QByteArray::number(saver.processId()) + ','));
+    QVERIFY(other.readAllStandardError().contains(
+        "in use by another program (process " + QByteArray::number(saver.processId()) +
+        ", budget_saver on " + QSysInfo::machineHostName().toUtf8() + ")"));
     saver.kill();
     QVERIFY(saver.waitForFinished());
     QVERIFY(QFile::exists(path + u".lock"_qs));
