@@ -90,6 +90,8 @@ private slots:
         for (const int outside : {0, 32})
             QVERIFY_THROWS_EXCEPTION(BudgetItemError, never.setDayOfMonth(outside));
         QCOMPARE(never.dayOfMonth(), 31);
+        never.setDayOfMonth(1);
+        QCOMPARE(never.dayOfMonth(), 1);
     }
 
     void anItemKnowsItsAccount()
