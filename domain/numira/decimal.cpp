@@ -10,6 +10,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 
@@ -100,8 +101,8 @@ Units quotient(const Integer &numerator, const Integer &denominator)
 /// A number that a text gives exactly: digits × 10^exponent.
 struct Exact {
     cpp_int digits;
-    int digitCount = 0;
-    long long exponent = 0;
+    int digitCount; ///< leading zeros are counted, too
+    long long exponent;
 };
 
 /// Reads "-1.25e-7". An exponent that no number has is kept as it is; what
@@ -113,7 +114,7 @@ Exact readExact(std::string_view text)
     if (isNegative || rest.starts_with('+'))
         rest.remove_prefix(1);
     std::string digits;
-    Exact exact;
+    long long exponent = 0;
     bool isBehindPoint = false;
     std::size_t at = 0;
     for (; at < rest.size() && (isDigit(rest[at]) || (rest[at] == '.' && !isBehindPoint)); ++at) {
@@ -121,7 +122,7 @@ Exact readExact(std::string_view text)
             isBehindPoint = true;
         } else {
             digits += rest[at];
-            exact.exponent -= isBehindPoint ? 1 : 0;
+            exponent -= isBehindPoint ? 1 : 0;
         }
     }
     if (digits.empty())
@@ -131,20 +132,18 @@ Exact readExact(std::string_view text)
             throwInvalid(text);
         // std::from_chars takes no plus sign.
         at += rest.substr(at + 1).starts_with('+') ? 2 : 1;
-        int exponent = 0;
-        const char *end = rest.data() + rest.size();
-        const auto [stop, fault] = std::from_chars(rest.data() + at, end, exponent);
+        int written = 0;
+        const char *end = std::to_address(rest.end());
+        const auto [stop, fault] = std::from_chars(rest.data() + at, end, written);
         if (fault != std::errc() || stop != end)
             throwInvalid(text);
-        exact.exponent += exponent;
+        exponent += written;
     }
-    exact.digitCount = static_cast<int>(digits.size());
+    cpp_int number;
     // A leading zero would make the number octal.
     if (const std::size_t first = digits.find_first_not_of('0'); first != std::string::npos)
-        exact.digits.assign(digits.substr(first));
-    if (isNegative)
-        exact.digits = -exact.digits;
-    return exact;
+        number.assign(digits.substr(first));
+    return {isNegative ? cpp_int(-number) : number, static_cast<int>(digits.size()), exponent};
 }
 
 /// units × number, rounded half to even.
@@ -263,7 +262,7 @@ double Decimal::toDouble() const noexcept
     DecimalBuffer buffer;
     const std::string_view text = writeUnits(m_units, 0, buffer);
     double value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
+    std::from_chars(text.data(), std::to_address(text.end()), value);
     return value;
 }
 

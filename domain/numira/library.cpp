@@ -45,7 +45,7 @@ std::optional<std::string> normalised(const std::string &name, NameFunction func
     UErrorCode status = U_ZERO_ERROR;
     const int32_t length =
         function(name.c_str(), buffer.data(), static_cast<int32_t>(buffer.size()), &status);
-    if (U_FAILURE(status) || length <= 0 || length >= static_cast<int32_t>(buffer.size()))
+    if (U_FAILURE(status))
         return std::nullopt;
     return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
