@@ -185,8 +185,9 @@ int brokenProgram(const QString &task, int kills)
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 20'000));
         saver.kill();
         saver.waitForFinished();
-        if (saver.exitStatus() != QProcess::CrashExit ||
-            QProcess::execute(program, {u"check"_qs, path}) != 0)
+        if (saver.exitStatus() != QProcess::CrashExit)
+            qFatal("The saver ended by itself.");
+        if (QProcess::execute(program, {u"check"_qs, path}) != 0)
             return i;
     }
     return 0;
