@@ -121,11 +121,13 @@ private:
             return;
         for (qsizetype column = 0; column < m_headings.size(); ++column) {
             const auto sign = [column](const CsvRecord &record) {
-                return record.cells.value(column).trimmed().toUpper();
+                return record.cells.value(column).trimmed();
             };
-            const auto isOut = [](const QString &text) { return out.contains(text); };
-            const auto isSign = [](const QString &text) {
-                return out.contains(text) || in.contains(text) || text.isEmpty();
+            const auto isOut = [](const QString &text) {
+                return out.contains(text, Qt::CaseInsensitive);
+            };
+            const auto isSign = [&isOut](const QString &text) {
+                return isOut(text) || in.contains(text, Qt::CaseInsensitive) || text.isEmpty();
             };
             const auto found = std::ranges::find_if(records, isOut, sign);
             if (found != records.end() && std::ranges::all_of(records, isSign, sign))
@@ -261,7 +263,7 @@ private:
                 throw faults::missingValue(place, QObject::tr("amount"));
             amount = out.isZero() ? in : -out;
         }
-        if (m_sign && m_profile.negativeSigns.contains(cell(m_sign)))
+        if (m_sign && m_profile.negativeSigns.contains(cell(m_sign), Qt::CaseInsensitive))
             amount = -amount.abs();
         return m_profile.isNegated ? -amount : amount;
     }
