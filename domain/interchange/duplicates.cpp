@@ -11,13 +11,16 @@ using accounting::Transaction;
 
 namespace {
 
-const QString opening = QStringLiteral(" [id ");
+const QString opening = QStringLiteral("[id ");
 
-/// Where the identifier's bracket begins, with the blank before it; -1 when
-/// there is none.
+/// Where the identifier's bracket begins, at the front or behind a blank; -1 when there
+/// is none.
 qsizetype idBegin(const QString &description)
 {
-    return description.endsWith(u']') ? description.lastIndexOf(opening) : -1;
+    if (!description.endsWith(u']'))
+        return -1;
+    const qsizetype blank = description.lastIndexOf(u' ' + opening);
+    return blank < 0 && !description.startsWith(opening) ? -1 : blank + 1;
 }
 
 bool takeOne(std::map<QString, int> &counts, const QString &key)
@@ -36,7 +39,10 @@ QString withBankId(const QString &text, const QString &bankId)
 {
     QString id = foundation::escaped(bankId.simplified());
     id.remove(u'[').remove(u']');
-    return id.isEmpty() ? text : text + opening + id + u']';
+    if (id.isEmpty())
+        return text;
+    // Journals keep no blank at the front.
+    return (text.isEmpty() ? text : text + u' ') + opening + id + u']';
 }
 
 QString bankIdOf(const QString &description)

@@ -162,7 +162,8 @@ private slots:
                 text.replace(text.indexOf(u'?'), 1,
                              *rc::gen::element(u"Food"_s, u"A:B"_s, u"two  blanks"_s, u"; none"_s,
                                                u"(virtual)"_s, u"* star"_s, u"12.00 USD"_s,
-                                               u"\"q\""_s, u"Zürich 食費"_s, u"number: 9"_s));
+                                               u"\"q\""_s, u"Zürich 食費"_s, u"number: 9"_s,
+                                               withBankId({}, u"7"_s)));
             const Books made(text);
             requireSameAgain(made.accounts, made.transactions);
         }));
