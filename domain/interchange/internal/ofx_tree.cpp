@@ -22,7 +22,7 @@ constexpr qsizetype elementsMax = 16 * transactionsMax;
 /// The characters that entities stand for, by their names or numbers ("&#252;",
 /// "&#xFC;"). What begins with an ampersand and is none is left as it is, since banks
 /// write names so; and so is what would be a control character.
-QString withoutEntities(QString text)
+QString withoutEntities(const QString &text)
 {
     static const QRegularExpression form(
         QStringLiteral("&(?:#x([0-9A-Fa-f]{1,6})|#([0-9]{1,7})|([a-z]+));"));
@@ -30,23 +30,21 @@ QString withoutEntities(QString text)
         {QStringLiteral("lt"), U'<'},   {QStringLiteral("gt"), U'>'},
         {QStringLiteral("quot"), U'"'}, {QStringLiteral("apos"), U'\''},
         {QStringLiteral("nbsp"), U' '}, {QStringLiteral("amp"), U'&'}};
-    for (qsizetype from = text.indexOf(u'&'); from >= 0;) {
-        const QRegularExpressionMatch match = form.match(text, from);
-        if (!match.hasMatch())
-            break;
-        from = match.capturedEnd();
+    QString plain;
+    qsizetype taken = 0;
+    for (const QRegularExpressionMatch &match : form.globalMatch(text)) {
         const auto named = names.find(match.captured(3));
         const char32_t letter = named != names.end()   ? named->second
                                 : match.hasCaptured(1) ? match.captured(1).toUInt(nullptr, 16)
                                                        : match.captured(2).toUInt();
         if (letter > QChar::LastValidCodePoint || !QChar::isPrint(letter))
             continue;
-        // What comes of it is not looked at again.
-        const QString written = QString::fromUcs4(&letter, 1);
-        text.replace(match.capturedStart(), match.capturedLength(), written);
-        from = match.capturedStart() + written.size();
+        plain += QStringView(text).sliced(taken, match.capturedStart() - taken);
+        plain += QString::fromUcs4(&letter, 1);
+        taken = match.capturedEnd();
     }
-    return text.simplified();
+    plain += QStringView(text).sliced(taken);
+    return plain.simplified();
 }
 
 /// The tags of a transaction that hold a value. Without one they look like the
