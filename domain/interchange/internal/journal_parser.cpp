@@ -249,7 +249,7 @@ void JournalParser::takeApply(const Block &block, const QString &rest)
     constexpr std::size_t appliedMax = 100;
     const QString kind = rest.section(u' ', 0, 0);
     const QString value = rest.mid(kind.size()).trimmed();
-    if (m_settings.applied.size() > appliedMax)
+    if (m_settings.applied.size() >= appliedMax)
         throw faults::nestedTooDeeply(block.place);
     if (value.isEmpty() || (kind != u"tag" && kind != u"account"))
         throw faults::unknownDirective(block.place, block.head);
