@@ -108,12 +108,18 @@ QString QuantityReader::declare(QStringView sample, const Place &place)
         throw faults::notAnAmount(place, sample.toString());
     QString commodity = named(written.commodity);
     const QString &number = written.number;
+    const qsizetype points = number.count(u'.');
+    const qsizetype commas = number.count(u',');
     const qsizetype last = std::max(number.lastIndexOf(u'.'), number.lastIndexOf(u','));
-    // "1,000" does not say which of the two its comma is; "1,000,000" has no mark.
-    const bool hasMark = last >= 0 && number.count(number[last]) == 1 &&
-                         (number.size() - last != 4 || number.contains(u'.'));
-    if (hasMark)
-        m_marks.insert_or_assign(commodity, static_cast<DecimalMark>(number[last].unicode()));
+    std::optional<QChar> mark;
+    if (points + commas > 1 && (points == 0 || commas == 0)) // groups alone
+        mark = points > 0 ? u',' : u'.';
+    // "1,000" does not say which of the two its comma is.
+    else if (last >= 0 && number.count(number[last]) == 1 &&
+             (number.size() - last != 4 || points > 0))
+        mark = number[last];
+    if (mark)
+        m_marks.insert_or_assign(commodity, static_cast<DecimalMark>(mark->unicode()));
     return commodity;
 }
 
