@@ -136,9 +136,12 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
         // What a debt grows by was not paid.
         figure.actual[month] =
             kind == BudgetItemTypes::Debt ? flow->debits[month] : flow->change(month);
-        // An account in the currency has brought its sums.
-        if (isOutgoing && figure.actual[month].code() == currency)
-            sums->outgoing[month] += figure.actual[month];
+        if (!isOutgoing)
+            continue;
+        const Money &actual = figure.actual[month];
+        CurrencyFigures &own = figures.currencies.at(actual.code()); // the account brought them
+        own.outgoing[month] += actual;
+        own.hasItems = own.hasItems || !actual.isZero();
     }
     figures.items.push_back(std::move(figure));
 }

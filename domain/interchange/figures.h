@@ -69,7 +69,7 @@ struct CurrencyFigures {
     std::vector<numira::Money> expenses; ///< what expense accounts took in
     numira::Money planned;               ///< all items that money goes out for, every month
     std::vector<numira::Money> outgoing; ///< what went out for them
-    bool hasItems = false;               ///< whether there are such items in this currency
+    bool hasItems = false;               ///< whether anything is planned or went out so
 };
 
 /// All figures of a report.
