@@ -68,6 +68,8 @@ public:
         finish();
         if (m_section == Section::None)
             throw faults::notQif({m_lines.place().file, 0});
+        if (!m_hasStatement)
+            throw faults::noStatement({m_lines.place().file, 0});
         return std::move(m_records);
     }
 
@@ -88,6 +90,7 @@ private:
             m_section = Section::Skipped;
         else
             throw faults::unsupported(m_lines.place(), header);
+        m_hasStatement = m_hasStatement || m_section == Section::Transactions;
     }
 
     void takeField(QChar field, const QString &value)
@@ -159,6 +162,7 @@ private:
     LineCursor m_lines;
     bool m_endsWithinLine;
     Section m_section = Section::None;
+    bool m_hasStatement = false;
     Record m_record;
     qsizetype m_entries = 0; ///< of the statement: records, and parts of them
     std::vector<Record> m_records;
@@ -259,11 +263,8 @@ Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions
 {
     const QString text = decoded(bytes, file, options.encoding);
     const std::vector<Record> records = QifReader(text, file).read();
-    const Place whole{file, 0};
-    if (records.empty())
-        throw faults::noStatement(whole);
     const EntryMaker maker(options,
-                           options.dateFormat ? *options.dateFormat : formatOf(records, whole));
+                           options.dateFormat ? *options.dateFormat : formatOf(records, {file, 0}));
     Statement statement{{}, options.currency, {}};
     for (const Record &record : records) {
         try {
