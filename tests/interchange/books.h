@@ -46,10 +46,12 @@ private:
     template <typename Kind>
     static Kind named(const QString &name)
     {
-        int value = 0;
-        while (toQString(Kind(value)) != name)
-            ++value;
-        return Kind(value);
+        constexpr int kindsMax = 100; // more than any of them has
+        for (int value = 0; value < kindsMax; ++value) {
+            if (toQString(Kind(value)) == name)
+                return Kind(value);
+        }
+        qFatal("'%s' is none that there is.", qPrintable(name));
     }
     static numira::Money amount(const QString &number, const QString &currency)
     {
