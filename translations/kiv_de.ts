@@ -3979,6 +3979,14 @@
         <comment>the answer no, a letter</comment>
         <translation>n</translation>
     </message>
+    <message>
+        <source>A journal holds no more than %1 automated transactions.</source>
+        <translation>Ein Journal fasst höchstens %1 automatische Buchungen.</translation>
+    </message>
+    <message>
+        <source>a journal includes no more than %1 files</source>
+        <translation>ein Journal bindet höchstens %1 Dateien ein</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

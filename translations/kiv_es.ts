@@ -3979,6 +3979,14 @@
         <comment>the answer no, a letter</comment>
         <translation>n</translation>
     </message>
+    <message>
+        <source>A journal holds no more than %1 automated transactions.</source>
+        <translation>Un diario admite como máximo %1 asientos automáticos.</translation>
+    </message>
+    <message>
+        <source>a journal includes no more than %1 files</source>
+        <translation>un diario incluye como máximo %1 archivos</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

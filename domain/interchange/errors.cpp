@@ -196,6 +196,12 @@ ImportError badPattern(const Place &place, const QString &pattern)
     return {place, QObject::tr("'%1' is not a pattern of account names.").arg(quoted(pattern))};
 }
 
+ImportError tooManyRules(const Place &place, std::size_t most)
+{
+    return {place,
+            QObject::tr("A journal holds no more than %1 automated transactions.").arg(most)};
+}
+
 ImportError includeRefused(const Place &place, const QString &path, const QString &reason)
 {
     return {place, QObject::tr("'%1' is not included: %2.").arg(quoted(path), reason)};

@@ -45,6 +45,7 @@ namespace faults {
 [[nodiscard]] ImportError assertionFailed(const Place &place, const QString &account,
                                           const QString &asserted, const QString &found);
 [[nodiscard]] ImportError badPattern(const Place &place, const QString &pattern);
+[[nodiscard]] ImportError tooManyRules(const Place &place, std::size_t most);
 
 // ---- bank statements ---------------------------------------------------------
 

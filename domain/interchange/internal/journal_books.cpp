@@ -95,11 +95,22 @@ void JournalBooks::add(AutomatedEntry automated)
               std::move(automated.entry)};
     // Each is tried on each posting.
     constexpr std::size_t rulesMax = 100;
-    if (!rule.pattern.isValid() || automated.pattern.size() > 200 || m_rules.size() >= rulesMax)
-        throw faults::badPattern(rule.entry.place, automated.pattern);
+    constexpr qsizetype patternMax = 200;
+    const Place &place = rule.entry.place;
+    if (m_rules.size() >= rulesMax)
+        throw faults::tooManyRules(place, rulesMax);
+    if (automated.pattern.size() > patternMax)
+        throw faults::unsupported(place, automated.pattern);
+    if (!rule.pattern.isValid())
+        throw faults::badPattern(place, automated.pattern);
     for (const Posting &posting : rule.entry.postings) {
-        if (!posting.amount || posting.cost || posting.assertion)
-            throw faults::unsupported(posting.place, posting.account);
+        if (posting.assertion)
+            throw faults::unsupported(posting.place,
+                                      QStringLiteral("= ") + presentationText(*posting.assertion));
+        if (posting.cost)
+            throw faults::unsupported(posting.place, QStringLiteral("@"));
+        if (!posting.amount)
+            throw faults::missingValue(posting.place, QObject::tr("amount"));
     }
     m_rules.push_back(std::move(rule));
 }

@@ -233,10 +233,14 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
 {
     if (!m_options.include)
         throw faults::includeRefused(block.place, path, QObject::tr("there is no folder for it"));
-    // Each of eight files may include the next one many times.
-    if (m_settings.depth >= depthMax || ++m_included > includesMax)
+    if (m_settings.depth >= depthMax)
         throw faults::includeRefused(block.place, path,
                                      QObject::tr("files include each other too deeply"));
+    // Each of eight files may include the next one many times.
+    if (++m_included > includesMax)
+        throw faults::includeRefused(
+            block.place, path,
+            QObject::tr("a journal includes no more than %1 files").arg(includesMax));
     const Settings outer = m_settings;
     ++m_settings.depth;
     parse(m_options.include(path, block.place), nameBeside(block.place.file, path));
