@@ -67,9 +67,9 @@ struct CurrencyFigures {
     std::vector<numira::Money> netWorth; ///< assets less liabilities, at each month's end
     std::vector<numira::Money> income;   ///< what income accounts took in
     std::vector<numira::Money> expenses; ///< what expense accounts took in
-    numira::Money planned;               ///< all items that money goes out for, every month
-    std::vector<numira::Money> outgoing; ///< what went out for them
-    bool hasItems = false;               ///< whether anything is planned or went out so
+    numira::Money planned;               ///< its items that money goes out for, every month
+    std::vector<numira::Money> outgoing; ///< what went out in it for items of any currency
+    bool hasItems = false;               ///< whether anything is planned, or went out
 };
 
 /// All figures of a report.
