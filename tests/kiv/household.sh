@@ -5,6 +5,26 @@ export HOME="$PWD" XDG_CONFIG_HOME="$PWD/config" XDG_DATA_HOME="$PWD/data"
 export KIV_FILE=household.budget LC_ALL=C.UTF-8 COLUMNS=80
 unset LANGUAGE
 
+# Keeps what the file holds on which the command is to work.
+keep() {
+    watched=$KIV_FILE
+    while [ $# -gt 0 ]; do
+        [ "$1" != --file ] || watched=${2-}
+        shift
+    done
+    watched=${watched%.budget}.budget
+    rm -f "$CRAMTMP/before"
+    [ ! -f "$watched" ] || cp "$watched" "$CRAMTMP/before"
+}
+
+is_as_kept() {
+    if [ -f "$CRAMTMP/before" ]; then
+        cmp "$watched" "$CRAMTMP/before" >&2
+    elif [ -f "$watched" ]; then
+        echo "$watched was made." >&2
+    fi
+}
+
 # Runs the command. Whatever it refuses and whatever is dry leaves the file as it was,
 # byte for byte, and what is refused is told on standard error only.
 kiv() {
@@ -13,12 +33,12 @@ kiv() {
         return
         ;;
     esac
-    [ ! -f "$KIV_FILE" ] || cp "$KIV_FILE" "$CRAMTMP/before"
+    keep "$@"
     command kiv "$@" >"$CRAMTMP/told"
     set -- $? "$*"
     cat "$CRAMTMP/told"
     case $1$2 in
-    [12]* | *--dry-run*) [ ! -f "$KIV_FILE" ] || cmp "$KIV_FILE" "$CRAMTMP/before" >&2 ;;
+    [12]* | *--dry-run*) is_as_kept ;;
     esac
     [ "$1" = 0 ] || [ ! -s "$CRAMTMP/told" ] || echo "This stood on standard output."
     return "$1"
