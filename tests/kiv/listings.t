@@ -224,7 +224,7 @@ Each field of something is changed alone:
   Number  Date        Description                                       Debit                                 Credit                                   Amount
        1  2026-01-01                                                    Assets:Checking                       Equity:Opening Balances USD [Equity]  $2,500.00
        2  2026-02-09  Processed unexpected budget item 'Rent'.          Expenses:Food                         Expenses:Rent [Budget Item]              $90.00
-       3  ????-??-??                                                    Equity:Opening Balances USD [Equity]  Liabilities:Car [Budget Item]           $500.00 (glob)
+       3  2026-01-02                                                    Equity:Opening Balances USD [Equity]  Liabilities:Car [Budget Item]           $500.00
        4  2026-03-01  Processed the budget item due on Sun Mar 1 2026.  Expenses:Rent [Budget Item]           Assets:Checking                           $7.00
   $ kiv accounts
   Number  Account                                 Balance

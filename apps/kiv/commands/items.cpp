@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // bill|debt|goal|nontrack|wage add|update|rename|remove|list
+#include "commands/account_arguments.h"
 #include "commands/commands.h"
 
 #include "budget_view.h"
@@ -142,8 +143,15 @@ struct AddItem {
         const numira::Money nothing(amount.currency.value_or(session.preferredCurrency()));
         const Item item = given.item(name.text, blank(nothing, given.next.value_or(call.date())));
         const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
+        const AccountIndex before = session.accounts();
         session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
                        given.named(session), tagging::BudgetItemTags::ItemTags(id, given.asTags()));
+        // The item's own account is among those that were opened with it.
+        const AccountIndex after = session.accounts();
+        for (const accounting::Account &account : after.accounts()) {
+            if (!before.find(account.code().number()))
+                openOn(session, account.code().number(), call.options.date);
+        }
         return itemReport(
             session, id,
             QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
