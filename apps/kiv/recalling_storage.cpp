@@ -27,6 +27,7 @@ void RecallingStorage::store(const Data &data)
         m_isUnsaved = true;
     }
     m_file.store(data);
+    ++m_timesStored;
     settle(data);
 }
 

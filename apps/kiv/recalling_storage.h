@@ -24,6 +24,8 @@ public:
     [[nodiscard]] const std::optional<Data> &present() const noexcept { return m_present; }
     /// Whether the present version could not be saved.
     [[nodiscard]] bool isUnsaved() const noexcept { return m_isUnsaved; }
+    /// How often a budget was stored, in whichever file.
+    [[nodiscard]] int timesStored() const noexcept { return m_timesStored; }
 
     void setFilePathName(const QString &filePathName) override;
     [[nodiscard]] Data load() override;
@@ -38,6 +40,7 @@ private:
     QString m_openFile;
     std::optional<Data> m_present;
     bool m_isUnsaved = false;
+    int m_timesStored = 0;
     std::optional<Data> m_recalled;
 };
 

@@ -6,7 +6,9 @@
 
 #include "networking/http_request_sender.h"
 #include "storage/rates_file.h"
+#include "storage/storage_error.h"
 
+#include <QtCore/QDebug>
 #include <QtCore/QFileInfo>
 #include <QtCore/QStandardPaths>
 
@@ -67,9 +69,23 @@ void Session::create(const QString &file)
     saveAs(withExtension(file));
 }
 
+template <typename Slot, typename... Values>
+void Session::store(Slot slot, const Values &...values)
+{
+    (void)navigator();
+    const int before = m_storage->timesStored();
+    try {
+        (void)ask(&Navigator::savedBudgetFile, slot, values...);
+    } catch (const storage::StorageError &error) {
+        if (m_storage->timesStored() == before)
+            throw;
+        qWarning().noquote() << error.what();
+    }
+}
+
 void Session::save()
 {
-    (void)ask(&Navigator::savedBudgetFile, &Navigator::onSaveBudgetFile);
+    store(&Navigator::onSaveBudgetFile);
 }
 
 void Session::saveAs(const QString &file)
@@ -77,7 +93,7 @@ void Session::saveAs(const QString &file)
     (void)navigator();
     // Also when something fails after the budget was stored.
     const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
-    (void)ask(&Navigator::savedBudgetFile, &Navigator::onSaveAsBudgetFile, file);
+    store(&Navigator::onSaveAsBudgetFile, file);
 }
 
 void Session::refuseUnsaved() const

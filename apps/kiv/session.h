@@ -54,7 +54,8 @@ public:
     static void refuseExisting(const QString &file);
     /// Stores the budget in memory as a new file. Refused when there is one.
     void create(const QString &file);
-    /// Writes the budget to its file.
+    /// Writes the budget to its file. The exchange rates are stored with it; when
+    /// they alone cannot be, that is a warning.
     void save();
     void saveAs(const QString &file);
     /// Throws a Refusal when the last save of the open file failed, since what it
@@ -147,6 +148,9 @@ public:
     [[nodiscard]] accounting::Transaction transaction(accounting::TransactionNumber number);
 
 private:
+    /// Calls a slot that stores the budget, and then the exchange rates.
+    template <typename Slot, typename... Values>
+    void store(Slot slot, const Values &...values);
     /// The failure's message with the reasons behind it, which only the log has.
     [[nodiscard]] Refusal refusal(const QString &message) const;
 
