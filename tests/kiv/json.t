@@ -64,7 +64,7 @@ which it is listed.
   $ told templates list
   [{"household":"None","template":"none"},{"household":"Teenager","template":"teenager"},{"household":"Adult, single","template":"adult-single"},{"household":"Adult, married, single income","template":"adult-married-single-income"},{"household":"Adult, married, double income","template":"adult-married-double-income"}]
   $ told rates show
-  {"base":"","expired":true,"fetchedAt":"","rates":[]}
+  {"base":null,"expired":true,"fetchedAt":null,"rates":[]}
   $ told bank-account detach Savings
   {"accounts":[],"name":"Second","open":true}
   $ told bank close Second

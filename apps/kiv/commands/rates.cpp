@@ -64,11 +64,14 @@ Report ratesReport(const ConversionMap &map)
             {QStringLiteral("rate"), QString::fromStdString(rate.str(12, std::ios::fmtflags()))}});
     }
     const QString base = map.isEmpty() ? QString() : foundation::toQString(map.base());
-    const QString time = map.fetchedAt().toString(Qt::ISODate);
-    Report report(QJsonObject{{QStringLiteral("base"), base},
-                              {QStringLiteral("fetchedAt"), time},
-                              {QStringLiteral("expired"), map.isExpired()},
-                              {QStringLiteral("rates"), rows}});
+    const auto known = [&map](const QString &text) {
+        return map.isEmpty() ? QJsonValue() : QJsonValue(text);
+    };
+    Report report(
+        QJsonObject{{QStringLiteral("base"), known(base)},
+                    {QStringLiteral("fetchedAt"), known(map.fetchedAt().toString(Qt::ISODate))},
+                    {QStringLiteral("expired"), map.isExpired()},
+                    {QStringLiteral("rates"), rows}});
     if (!map.isEmpty()) {
         const QString shown = momentText(map.fetchedAt());
         report.heading(
