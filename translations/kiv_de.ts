@@ -2371,6 +2371,10 @@
         <translation>Es wurde nichts zum Ändern angegeben; --help zählt auf, was geändert werden kann.</translation>
     </message>
     <message>
+        <source>Version 0 is the file itself; kiv history lists the former ones.</source>
+        <translation>Die Version 0 ist die Datei selbst; kiv history zählt die früheren auf.</translation>
+    </message>
+    <message>
         <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
         <translation>Es wurde keine Budgetdatei genannt; sie wird mit --file oder der Variablen KIV_FILE angegeben oder mit kiv new DATEI angelegt.</translation>
     </message>

@@ -2371,6 +2371,10 @@
         <translation>No se indicó nada que cambiar; --help enumera lo que se puede cambiar.</translation>
     </message>
     <message>
+        <source>Version 0 is the file itself; kiv history lists the former ones.</source>
+        <translation>La versión 0 es el propio archivo; kiv history enumera las anteriores.</translation>
+    </message>
+    <message>
         <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
         <translation>No se indicó ningún archivo de presupuesto; se indica con --file o la variable KIV_FILE, o se crea con kiv new ARCHIVO.</translation>
     </message>

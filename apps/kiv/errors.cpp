@@ -106,6 +106,12 @@ UsageError nothingToChange()
         QObject::tr("Nothing to change was given; --help lists what can be changed."));
 }
 
+UsageError notAFormerVersion()
+{
+    return UsageError(
+        QObject::tr("Version 0 is the file itself; kiv history lists the former ones."));
+}
+
 UsageError noFileNamed()
 {
     return UsageError(

@@ -40,6 +40,7 @@ public:
 [[nodiscard]] UsageError contradiction(const QString &one, const QString &other);
 [[nodiscard]] UsageError missing(const QString &what);
 [[nodiscard]] UsageError nothingToChange();
+[[nodiscard]] UsageError notAFormerVersion();
 [[nodiscard]] UsageError noFileNamed();
 [[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);

@@ -100,7 +100,7 @@ Nothing to change, and what excludes each other:
   kiv: Nothing to change was given; --help lists what can be changed.
   [2]
   $ kiv undo --to 0
-  kiv: Nothing to change was given; --help lists what can be changed.
+  kiv: Version 0 is the file itself; kiv history lists the former ones.
   [2]
   $ kiv account recode 1 --under 3 --top-level
   kiv: --under and --top-level exclude each other.

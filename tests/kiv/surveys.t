@@ -244,7 +244,7 @@ Bad surveys change nothing:
   kiv: BANK ACCOUNT is missing.
   [2]
   $ kiv survey complete First
-  kiv: BANK ACCOUNT is missing.
+  kiv: ACCOUNT is missing.
   [2]
   $ kiv survey complete First Checking
   kiv: --balance is missing.
@@ -262,7 +262,7 @@ Bad surveys change nothing:
   kiv: --bank is missing.
   [2]
   $ kiv goal update Trip --no-bank --bank-account Checking
-  kiv: --no-bank and --bank exclude each other.
+  kiv: --no-bank and --bank-account exclude each other.
   [2]
 
 Rates convert once and for all:

@@ -222,7 +222,9 @@ private:
     {
         const std::optional<BankAccount> named = arguments.named(session);
         if (isUntied && named)
-            throw contradiction(QStringLiteral("--no-bank"), QStringLiteral("--bank"));
+            throw contradiction(QStringLiteral("--no-bank"),
+                                arguments.bank ? QStringLiteral("--bank")
+                                               : QStringLiteral("--bank-account"));
         return named || isUntied ? named : view.bankAccount(id);
     }
 };

@@ -157,8 +157,8 @@ private:
             throw contradiction(QStringLiteral("--from"), placeholder("BANK"));
         if (file)
             return SurveyForm::fromJson(call.session, readJson(*file).object());
-        if (!account) // nor the bank, which stands before it
-            throw missing(placeholder("BANK ACCOUNT"));
+        if (!account)
+            throw missing(placeholder(bank ? "ACCOUNT" : "BANK ACCOUNT"));
         if (!balance)
             throw missing(QStringLiteral("--balance"));
         return SurveyForm::propose(call.session, *bank, *account, call.date());

@@ -65,7 +65,7 @@ struct Undo {
     Report run(Call &call) const
     {
         if (to.value == 0)
-            throw nothingToChange();
+            throw notAFormerVersion();
         const QString file = call.session.file();
         const storage::BudgetStorage::Data present = versionOf(file, 0).data();
         const Version former = versionOf(file, to.value);
