@@ -1880,9 +1880,12 @@
         <source>There are no tags.</source>
         <translation>Es gibt keine Schlagwörter.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed the tags %1.</source>
-        <translation>Schlagwörter entfernt: %1.</translation>
+        <translation>
+            <numerusform>Schlagwort entfernt: %1.</numerusform>
+            <numerusform>Schlagwörter entfernt: %1.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Every month</source>
@@ -2246,21 +2249,33 @@
         <source>Posted the refund as transaction %1.</source>
         <translation>Erstattung als Buchung %1 ausgeführt.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed the transactions %1.</source>
-        <translation>Buchungen entfernt: %1.</translation>
+        <translation>
+            <numerusform>Buchung entfernt: %1.</numerusform>
+            <numerusform>Buchungen entfernt: %1.</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Cleared the transactions %1.</source>
-        <translation>Buchungen bestätigt: %1.</translation>
+        <translation>
+            <numerusform>Buchung bestätigt: %1.</numerusform>
+            <numerusform>Buchungen bestätigt: %1.</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Reconciled the transactions %1.</source>
-        <translation>Buchungen abgeglichen: %1.</translation>
+        <translation>
+            <numerusform>Buchung abgeglichen: %1.</numerusform>
+            <numerusform>Buchungen abgeglichen: %1.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>Took the reconciliation of %1 back.</source>
-        <translation>Abgleich aufgehoben: %1.</translation>
+    <message numerus="yes">
+        <source>Took the reconciliation of the transactions %1 back.</source>
+        <translation>
+            <numerusform>Abgleich der Buchung %1 aufgehoben.</numerusform>
+            <numerusform>Abgleich der Buchungen %1 aufgehoben.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The budget is again as it was saved at %1.</source>

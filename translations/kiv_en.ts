@@ -31,5 +31,40 @@
             <numerusform>Posted %n transactions.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Removed the tags %1.</source>
+        <translation>
+            <numerusform>Removed the tag %1.</numerusform>
+            <numerusform>Removed the tags %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed the transactions %1.</source>
+        <translation>
+            <numerusform>Removed the transaction %1.</numerusform>
+            <numerusform>Removed the transactions %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Cleared the transactions %1.</source>
+        <translation>
+            <numerusform>Cleared the transaction %1.</numerusform>
+            <numerusform>Cleared the transactions %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Reconciled the transactions %1.</source>
+        <translation>
+            <numerusform>Reconciled the transaction %1.</numerusform>
+            <numerusform>Reconciled the transactions %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Took the reconciliation of the transactions %1 back.</source>
+        <translation>
+            <numerusform>Took the reconciliation of the transaction %1 back.</numerusform>
+            <numerusform>Took the reconciliation of the transactions %1 back.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

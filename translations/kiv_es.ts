@@ -1880,9 +1880,12 @@
         <source>There are no tags.</source>
         <translation>No hay etiquetas.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed the tags %1.</source>
-        <translation>Se eliminaron las etiquetas %1.</translation>
+        <translation>
+            <numerusform>Se eliminó la etiqueta %1.</numerusform>
+            <numerusform>Se eliminaron las etiquetas %1.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Every month</source>
@@ -2246,21 +2249,33 @@
         <source>Posted the refund as transaction %1.</source>
         <translation>Se registró el reembolso como asiento %1.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Removed the transactions %1.</source>
-        <translation>Se eliminaron los asientos %1.</translation>
+        <translation>
+            <numerusform>Se eliminó el asiento %1.</numerusform>
+            <numerusform>Se eliminaron los asientos %1.</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Cleared the transactions %1.</source>
-        <translation>Se confirmaron los asientos %1.</translation>
+        <translation>
+            <numerusform>Se confirmó el asiento %1.</numerusform>
+            <numerusform>Se confirmaron los asientos %1.</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Reconciled the transactions %1.</source>
-        <translation>Se conciliaron los asientos %1.</translation>
+        <translation>
+            <numerusform>Se concilió el asiento %1.</numerusform>
+            <numerusform>Se conciliaron los asientos %1.</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>Took the reconciliation of %1 back.</source>
-        <translation>Se anuló la conciliación de %1.</translation>
+    <message numerus="yes">
+        <source>Took the reconciliation of the transactions %1 back.</source>
+        <translation>
+            <numerusform>Se anuló la conciliación del asiento %1.</numerusform>
+            <numerusform>Se anuló la conciliación de los asientos %1.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The budget is again as it was saved at %1.</source>

@@ -8,7 +8,7 @@ What other programs are given.
   $ kiv post Rent --account Checking --date 2026-01-31
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv transaction reconcile 2
-  Reconciled the transactions 2.
+  Reconciled the transaction 2.
   $ kiv export
   ; kiv journal, version 1
   commodity USD

@@ -31,16 +31,16 @@ A month, from nothing to what is on file:
   $ kiv transaction clear 2 3
   Cleared the transactions 2, 3.
   $ kiv transaction reconcile 2
-  Reconciled the transactions 2.
+  Reconciled the transaction 2.
   $ kiv bill update Light --amount 90.00 --every quarterly
   Changed the bill 'Light'.
   $ kiv transaction update 2 --description "A month's rent"
   kiv: The transaction 2 is reconciled and cannot be changed before it is unreconciled.
   [1]
   $ kiv transaction unreconcile 2
-  Took the reconciliation of 2 back.
+  Took the reconciliation of the transaction 2 back.
   $ kiv transaction clear 2
-  Cleared the transactions 2.
+  Cleared the transaction 2.
   $ kiv transaction update 2 --description "A month's rent"
   Changed transaction 2.
   $ kiv accounts

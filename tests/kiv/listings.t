@@ -91,7 +91,7 @@ What is there is told:
   $ kiv pay Rent 100 --account Checking --date 2026-02-03
   Posted $100.00 for the bill 'Rent', which is still due on 2026-01-31.
   $ kiv transaction clear 4
-  Cleared the transactions 4.
+  Cleared the transaction 4.
   $ kiv history diff 1 0
   What         Name  Change   Detail
   transaction  4     changed  creditStatus none → cleared, debitStatus none → cleared
@@ -160,7 +160,7 @@ What is there is told:
   home
   sport
   $ kiv tags remove home --dry-run
-  Removed the tags home.
+  Removed the tag home.
   This was a dry run: nothing is saved.
   $ kiv account recode Food --top-level --dry-run
   The account 7 Expenses:Old:Food is now 7 Expenses:Food.
@@ -281,7 +281,7 @@ What was closed is opened again, and what was added is removed:
   $ kiv nontrack rename Snacks Sweets
   The nontrack 'Snacks' is now called 'Sweets'.
   $ kiv tags remove fun
-  Removed the tags fun.
+  Removed the tag fun.
   $ kiv nontrack list
   Name    Amount  Every   Next        Tags
   Sweets   $6.00  weekly  2026-02-01  food

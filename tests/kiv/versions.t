@@ -32,13 +32,13 @@ What is undone is back, byte for byte, and what is undone again is there again:
   $ undone account recode Checking --number 77
   The account 1 Assets:Checking is now 77 Assets:Checking.
   $ undone transaction remove 1
-  Removed the transactions 1.
+  Removed the transaction 1.
   $ undone pay Rent 5 --account Checking
   Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
   $ undone skip Rent
   Skipped the bill 'Rent' due on 2026-01-31; it is next due on 2026-02-28.
   $ undone transaction reconcile 1
-  Reconciled the transactions 1.
+  Reconciled the transaction 1.
   $ undone survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02
   Reconciled 1 Checking at First with a balance of $2,500.00.
 

@@ -172,7 +172,7 @@ struct RemoveTags {
         data.tags = data.tags.without(removed);
         call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
         return Report(QJsonValue(tagNames(data.tags)))
-            .line(QObject::tr("Removed the tags %1.")
+            .line(QObject::tr("Removed the tags %1.", nullptr, static_cast<int>(tags.size()))
                       .arg(QStringList(tags.begin(), tags.end()).join(QStringLiteral(", "))));
     }
 };

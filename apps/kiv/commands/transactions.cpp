@@ -169,7 +169,7 @@ struct TransactionVerb {
     std::variant<void (Navigator::*)(const TransactionNumber &),
                  void (Navigator::*)(const std::set<TransactionNumber> &)>
         slot;
-    QString sentence;
+    const char *sentence; ///< marked for translation, with a form for one
     std::vector<TransactionNumber> numbers = {};
 
     void declare(Arguments &arguments)
@@ -193,7 +193,8 @@ struct TransactionVerb {
             texts += textOf(number);
         }
         return Report(QJsonObject{{QStringLiteral("transactions"), json}})
-            .line(sentence.arg(texts.join(QStringLiteral(", "))));
+            .line(QObject::tr(sentence, nullptr, static_cast<int>(all.size()))
+                      .arg(texts.join(QStringLiteral(", "))));
     }
 };
 
@@ -305,19 +306,23 @@ void addTransactionCommands(CommandGroup &root)
                     LoadTransactions{});
     transaction.add("update", QObject::tr("Change a transaction; what is not given stays"), Change,
                     UpdateTransaction{});
-    transaction.add("remove", QObject::tr("Remove transactions"), Change,
-                    TransactionVerb{&Navigator::onRemovedTransaction,
-                                    QObject::tr("Removed the transactions %1.")});
+    transaction.add(
+        "remove", QObject::tr("Remove transactions"), Change,
+        TransactionVerb{&Navigator::onRemovedTransaction,
+                        QT_TRANSLATE_N_NOOP("QObject", "Removed the transactions %1.")});
     transaction.add(
         "clear", QObject::tr("Mark transactions as seen at the bank"), Change,
-        TransactionVerb{&Navigator::onMarkCleared, QObject::tr("Cleared the transactions %1.")});
-    transaction.add("reconcile", QObject::tr("Mark transactions as part of a statement"), Change,
-                    TransactionVerb{&Navigator::onMarkReconciled,
-                                    QObject::tr("Reconciled the transactions %1.")});
-    transaction.add("unreconcile", QObject::tr("Take the reconciliation of transactions back"),
-                    Change,
-                    TransactionVerb{&Navigator::onMarkUnreconciled,
-                                    QObject::tr("Took the reconciliation of %1 back.")});
+        TransactionVerb{&Navigator::onMarkCleared,
+                        QT_TRANSLATE_N_NOOP("QObject", "Cleared the transactions %1.")});
+    transaction.add(
+        "reconcile", QObject::tr("Mark transactions as part of a statement"), Change,
+        TransactionVerb{&Navigator::onMarkReconciled,
+                        QT_TRANSLATE_N_NOOP("QObject", "Reconciled the transactions %1.")});
+    transaction.add(
+        "unreconcile", QObject::tr("Take the reconciliation of transactions back"), Change,
+        TransactionVerb{&Navigator::onMarkUnreconciled,
+                        QT_TRANSLATE_N_NOOP(
+                            "QObject", "Took the reconciliation of the transactions %1 back.")});
 
     root.add("transfer", QObject::tr("Move money between bank accounts"), Change, Transfer{});
     root.add("refundable", QObject::tr("List what of a budget item can be refunded"), Query,
