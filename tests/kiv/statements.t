@@ -97,7 +97,7 @@ Where a profile cannot be saved, nothing is posted:
   $ rm -r config/kiv/import
   $ echo 'no folder' >config/kiv/import
   $ kiv import s.ofx --into Checking --against Other --keep-duplicates --save-profile mine
-  kiv: Cannot write '*/config/kiv/import/mine.json': *. (glob)
+  kiv: Cannot write '*/config/kiv/import/mine.json': Not a directory. (glob)
   [1]
 
 What cannot be read is refused, with its line:
@@ -127,7 +127,7 @@ What cannot be read is refused, with its line:
   kiv: Cannot read 'folder': file to open is a directory.
   [1]
   $ kiv import /proc/self/mem --format journal
-  kiv: Cannot read '/proc/self/mem': *. (glob)
+  kiv: Cannot read '/proc/self/mem': Input/output error.
   [1]
   $ printf '!Type:Bank\nD1/25/2026\nT1\n^\n' >s.qif
   $ kiv import s.qif

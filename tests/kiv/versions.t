@@ -248,7 +248,7 @@ So is the file itself; what to do then is said:
   $ cp household.budget whole
   $ head -c -100 whole >household.budget
   $ kiv undo
-  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is not whole. kiv history tells which former version is whole; copy that file ('*/versions.t/household.budget.backup-1', *) into its place.* (glob)
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is not whole. kiv history tells which former version is whole; copy that file ('*/versions.t/household.budget.backup-1', \\xe2\\x80\\xa6) into its place. (esc) (glob)
   [1]
   $ kiv history
   Version  Saved at             Bytes  Items  Accounts  Transactions
@@ -309,7 +309,7 @@ A word of its tables, and a letter of a name:
   false
   ["kept","broken","not judged","not judged","not judged","not judged","not judged"]
   [1]
-  Its tables are those of that version            BROKEN      * (glob)
+  Its tables are those of that version            BROKEN      malformed database schema (seal)
   The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
   $ flipped 'index($_, "Checking")'
   false

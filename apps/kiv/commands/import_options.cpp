@@ -12,6 +12,8 @@
 #include <QtCore/QSaveFile>
 #include <QtCore/QStandardPaths>
 
+#include <filesystem>
+
 namespace kiv::app {
 
 using interchange::CsvProfile;
@@ -212,9 +214,13 @@ void ImportOptions::saveProfile(const CsvProfile &saved) const
     if (!savedAs)
         return;
     const QString path = profilePath(*savedAs);
+    std::error_code failure;
+    std::filesystem::create_directories(QFileInfo(path).filesystemPath().parent_path(), failure);
+    if (failure)
+        throw cannotWrite(path, QString::fromStdString(failure.message()));
     QSaveFile target(path);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !target.open(QIODevice::WriteOnly) ||
-        target.write(interchange::toJson(saved)) < 0 || !target.commit())
+    if (!target.open(QIODevice::WriteOnly) || target.write(interchange::toJson(saved)) < 0 ||
+        !target.commit())
         throw cannotWrite(path, target.errorString());
 }
 
