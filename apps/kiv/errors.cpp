@@ -85,8 +85,12 @@ UsageError notAPercentage(const QString &text)
 
 UsageError notAChoice(const QString &text, const QStringList &choices)
 {
+    // A mark would be lost among the commas.
+    QStringList shown;
+    for (const QString &choice : choices)
+        shown += choice.front().isLetter() ? choice : QObject::tr("'%1'", "a name").arg(choice);
     return UsageError(
-        missed(QObject::tr("'%1' is none of: %2").arg(text, choices.join(QStringLiteral(", "))),
+        missed(QObject::tr("'%1' is none of: %2").arg(text, shown.join(QStringLiteral(", "))),
                similarTo(text, choices).mid(0, 1), {}));
 }
 

@@ -146,13 +146,13 @@ So are options that do not fit:
   kiv: 'pdf' is none of: journal, csv, ofx, qif.
   [2]
   $ kiv import s.csv --into 1 --decimal x
-  kiv: 'x' is none of: ., ,.
+  kiv: 'x' is none of: '.', ','.
   [2]
   $ kiv import s.csv --into 1 --delimiter ab
-  kiv: 'ab' is none of: ,, ;, \t, |.
+  kiv: 'ab' is none of: ',', ';', '\t', '|'.
   [2]
   $ kiv import s.csv --into 1 --delimiter '"'
-  kiv: '"' is none of: ,, ;, \t, |.
+  kiv: '"' is none of: ',', ';', '\t', '|'.
   [2]
   $ kiv import s.csv --into 1 --skip x
   kiv: 'x' is not a whole number from 0 to 1000.
