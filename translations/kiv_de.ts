@@ -3695,8 +3695,8 @@
         <translation>offen</translation>
     </message>
     <message>
-        <source>nontrack</source>
-        <translation>nicht verfolgt</translation>
+        <source>non-tracked item</source>
+        <translation>nicht verfolgter Posten</translation>
     </message>
     <message>
         <source>Keeps a household&apos;s budget: accounts, banks, bills, wages and what is due.</source>

@@ -3695,8 +3695,8 @@
         <translation>pendiente</translation>
     </message>
     <message>
-        <source>nontrack</source>
-        <translation>sin seguimiento</translation>
+        <source>non-tracked item</source>
+        <translation>partida sin seguimiento</translation>
     </message>
     <message>
         <source>Keeps a household&apos;s budget: accounts, banks, bills, wages and what is due.</source>

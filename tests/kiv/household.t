@@ -69,7 +69,7 @@ A month, from nothing to what is on file:
   Accounts        5
   Transactions    4
   Banks           1
-  Items           bill 2, debt 0, goal 0, nontrack 0, wage 1
+  Items           bill 2, debt 0, goal 0, non-tracked item 0, wage 1
   Sum of debits   $6,869.10
   Sum of credits  $6,869.10
 

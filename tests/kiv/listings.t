@@ -275,18 +275,18 @@ What was closed is opened again, and what was added is removed:
   $ kiv bank-account remove Card
   Removed the bank account 5 Card.
   $ kiv nontrack add Snacks 5 --every weekly --next 2026-02-01 --tag fun --tag food
-  Added the nontrack 'Snacks'.
+  Added the non-tracked item 'Snacks'.
   $ kiv nontrack update Snacks --amount 6
-  Changed the nontrack 'Snacks'.
+  Changed the non-tracked item 'Snacks'.
   $ kiv nontrack rename Snacks Sweets
-  The nontrack 'Snacks' is now called 'Sweets'.
+  The non-tracked item 'Snacks' is now called 'Sweets'.
   $ kiv tags remove fun
   Removed the tag fun.
   $ kiv nontrack list
   Name    Amount  Every   Next        Tags
   Sweets   $6.00  weekly  2026-02-01  food
   $ kiv nontrack remove Sweets
-  Removed the nontrack 'Sweets'.
+  Removed the non-tracked item 'Sweets'.
   $ kiv nontrack list
   There are none.
   $ kiv wage list

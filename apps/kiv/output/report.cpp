@@ -2,6 +2,7 @@
 #include "output/report.h"
 
 #include "output/table.h"
+#include "parsing/values.h"
 #include "user_locale.h"
 
 #include "foundation/local_dates.h"
@@ -95,7 +96,12 @@ QString dayText(const QJsonValue &isoDate)
 
 QString wordText(const QJsonValue &word)
 {
-    return QObject::tr(word.toString().toUtf8().constData());
+    const QString text = word.toString();
+    // The one kind of items whose word is no English.
+    constexpr auto nontrack = budgeting::BudgetItemTypes::Nontrack;
+    if (text == kindWord(nontrack))
+        return kindText(nontrack);
+    return QObject::tr(text.toUtf8().constData());
 }
 
 QString statusText(const QJsonValue &status)

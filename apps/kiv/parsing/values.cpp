@@ -240,7 +240,7 @@ QString kindText(budgeting::BudgetItemTypes kind)
 {
     static constexpr std::array words{
         QT_TRANSLATE_NOOP("QObject", "bill"), QT_TRANSLATE_NOOP("QObject", "debt"),
-        QT_TRANSLATE_NOOP("QObject", "goal"), QT_TRANSLATE_NOOP("QObject", "nontrack"),
+        QT_TRANSLATE_NOOP("QObject", "goal"), QT_TRANSLATE_NOOP("QObject", "non-tracked item"),
         QT_TRANSLATE_NOOP("QObject", "wage"),
     };
     return QObject::tr(words.at(static_cast<std::size_t>(kind) - 1));
