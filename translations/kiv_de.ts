@@ -592,8 +592,8 @@
         <translation>Mehr als ein Posten der Buchung hat keinen Betrag.</translation>
     </message>
     <message>
-        <source>The transaction does not balance: %1 are left.</source>
-        <translation>Die Buchung geht nicht auf: %1 bleiben übrig.</translation>
+        <source>The transaction does not balance; the rest is %1.</source>
+        <translation>Die Buchung geht nicht auf; der Rest ist %1.</translation>
     </message>
     <message>
         <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>

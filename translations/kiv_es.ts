@@ -592,8 +592,8 @@
         <translation>Más de un apunte del asiento no tiene importe.</translation>
     </message>
     <message>
-        <source>The transaction does not balance: %1 are left.</source>
-        <translation>El asiento no cuadra: sobran %1.</translation>
+        <source>The transaction does not balance; the rest is %1.</source>
+        <translation>El asiento no cuadra; el resto es %1.</translation>
     </message>
     <message>
         <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>

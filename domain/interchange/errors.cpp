@@ -181,7 +181,7 @@ ImportError severalWithoutAmount(const Place &place)
 
 ImportError notBalanced(const Place &place, const QString &rest)
 {
-    return {place, QObject::tr("The transaction does not balance: %1 are left.").arg(rest)};
+    return {place, QObject::tr("The transaction does not balance; the rest is %1.").arg(rest)};
 }
 
 ImportError assertionFailed(const Place &place, const QString &account, const QString &asserted,
