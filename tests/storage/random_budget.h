@@ -202,7 +202,7 @@ private:
     {
         const QString names[] = {QStringLiteral("Rent"),
                                  QStringLiteral("Z\u00fcrich \u20ac \U0001F600"),
-                                 QString(QChar(0xD800)) + u'x',
+                                 QString(QChar(0xD800)) + QStringLiteral("x\u00e9\u20ac\U0001F600"),
                                  u'y' + QString(QChar(0xDC00)),
                                  QStringLiteral("\uFEFFmark"),
                                  QString(QChar(u'\0')) + QStringLiteral("nul\n\t%1 'quoted'"),

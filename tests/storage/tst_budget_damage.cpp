@@ -275,6 +275,7 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
         {"UPDATE transactions SET debit = 9, debit_amount = '5', credit_amount = '5'"});
     row("side in nothing", {"UPDATE transactions SET debit_amount = '0'"});
     row("date that is none", {"UPDATE transactions SET date = '2026-02-30'"});
+    row("year in letters", {"UPDATE transactions SET date = 'MMXX-02-03'"});
     row("month below nothing", {"UPDATE transactions SET date = '2026--1-03'"});
     row("date with strokes", {"UPDATE transactions SET date = '2026/02/03'"});
     row("date with one stroke", {"UPDATE transactions SET date = '2026-02/03'"});
