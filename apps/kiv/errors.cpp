@@ -156,15 +156,6 @@ UsageError notAProfileName(const QString &name)
         QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
 }
 
-UsageError unreadableInput(const QString &name, const QString &reason)
-{
-    QString sentence = QObject::tr("Cannot understand %1: %2.").arg(name, reason);
-    // The reason may be a sentence, which has an end of its own.
-    if (reason.endsWith(u'.') || reason.endsWith(u'?'))
-        sentence.chop(1);
-    return UsageError(sentence);
-}
-
 Refusal noSuchAccount(const QString &text, const QStringList &similar)
 {
     return Refusal(missed(QObject::tr("There is no account '%1'").arg(text), similar,
@@ -341,6 +332,15 @@ Refusal cannotWrite(const QString &path, const QString &reason)
 Refusal cannotRead(const QString &path, const QString &reason)
 {
     return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));
+}
+
+Refusal unreadableInput(const QString &name, const QString &reason)
+{
+    QString sentence = QObject::tr("Cannot understand %1: %2.").arg(name, reason);
+    // The reason may be a sentence, which has an end of its own.
+    if (reason.endsWith(u'.') || reason.endsWith(u'?'))
+        sentence.chop(1);
+    return Refusal(sentence);
 }
 
 } // namespace kiv::app

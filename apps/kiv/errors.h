@@ -48,7 +48,6 @@ public:
 [[nodiscard]] UsageError notAnAssignment(const QString &text);
 [[nodiscard]] UsageError notARate(const QString &text);
 [[nodiscard]] UsageError notAProfileName(const QString &name);
-[[nodiscard]] UsageError unreadableInput(const QString &name, const QString &reason);
 
 // ---- what the budget does not hold -----------------------------------------
 // `similar` are names that may be meant, see similarTo().
@@ -95,5 +94,7 @@ public:
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
 [[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
+/// It was read, and does not say what it should.
+[[nodiscard]] Refusal unreadableInput(const QString &name, const QString &reason);
 
 } // namespace kiv::app

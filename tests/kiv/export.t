@@ -221,7 +221,7 @@ The JSON has all of it, accounts by their numbers, and what has a fault in it lo
   >  {"date": "2026-02-30", "debit": 1, "credit": 2, "amount": "1 USD"}]
   > .
   kiv: Cannot understand transaction 2 of '-': '2026-02-30' is not a date; write one like 2026-03-31, with a day that exists.
-  [2]
+  [1]
 
 The JSON export follows the schema that its documentation holds:
 

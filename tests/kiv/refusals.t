@@ -273,22 +273,22 @@ Transactions to be loaded:
   $ load() { echo "$1" | kiv transaction load -; }
   $ load '[{'
   kiv: Cannot understand -: unterminated object at byte 3.
-  [2]
+  [1]
   $ load '{"transactions": 1}'
   kiv: Cannot understand -: it has no list of transactions.
-  [2]
+  [1]
   $ load '[{}]'
   kiv: Cannot understand transaction 1 of '-': "debit" is missing.
-  [2]
+  [1]
   $ load '[{"debit": "Chekcing"}]'
   kiv: Cannot understand transaction 1 of '-': There is no account 'Chekcing'; did you mean 'Checking'?
-  [2]
+  [1]
   $ load '{"transactions": [{"debit": 1, "credit": 3, "amount": "1"}]}'
   kiv: Cannot understand transaction 1 of '-': "date" is missing.
-  [2]
+  [1]
   $ load '[{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]'
   kiv: Cannot understand transaction 1 of '-': 'x' is none of: none, cleared, reconciled.
-  [2]
+  [1]
   $ truncate -s 65M large.json
   $ kiv transaction load large.json
   kiv: Cannot read 'large.json': it is larger than 64 MiB, which line 1 exceeds; split it into smaller files.
