@@ -280,7 +280,7 @@ What was closed is opened again, and what was added is removed:
   Changed the non-tracked item 'Snacks'.
   $ kiv nontrack rename Snacks Sweets
   The non-tracked item 'Snacks' is now called 'Sweets'.
-  $ kiv tags remove fun
+  $ kiv tags remove fun fun
   Removed the tag fun.
   $ kiv nontrack list
   Name    Amount  Every   Next        Tags

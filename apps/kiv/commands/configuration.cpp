@@ -164,16 +164,19 @@ struct RemoveTags {
         QStringList known;
         for (const tagging::Tag &candidate : data.tags)
             known += candidate.name();
+        QStringList named;
         for (const QString &tag : tags) {
             if (!data.tags.contains(tagging::Tag(tag)))
                 throw noSuchTag(tag, similarTo(tag, known));
             removed.insert(tagging::Tag(tag));
+            named += tag;
         }
+        named.removeDuplicates();
         data.tags = data.tags.without(removed);
         call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
         return Report(QJsonValue(tagNames(data.tags)))
-            .line(QObject::tr("Removed the tags %1.", nullptr, static_cast<int>(tags.size()))
-                      .arg(QStringList(tags.begin(), tags.end()).join(QStringLiteral(", "))));
+            .line(QObject::tr("Removed the tags %1.", nullptr, static_cast<int>(named.size()))
+                      .arg(named.join(QStringLiteral(", "))));
     }
 };
 

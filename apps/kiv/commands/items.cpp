@@ -143,21 +143,32 @@ struct AddItem {
         const numira::Money nothing(amount.currency.value_or(session.preferredCurrency()));
         const Item item = given.item(name.text, blank(nothing, given.next.value_or(call.date())));
         const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
-        const AccountIndex before = session.accounts();
-        session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
-                       given.named(session), tagging::BudgetItemTags::ItemTags(id, given.asTags()));
-        // The item's own account is among those that were opened with it.
-        const AccountIndex after = session.accounts();
-        for (const accounting::Account &account : after.accounts()) {
-            if (!before.find(account.code().number()))
-                openOn(session, account.code().number(), call.options.date);
-        }
+        const auto add = [&] {
+            session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
+                           given.named(session),
+                           tagging::BudgetItemTags::ItemTags(id, given.asTags()));
+        };
+        if (call.options.date)
+            openingOn(session, *call.options.date, add);
+        else
+            add();
         return itemReport(
             session, id,
             QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
     }
 
 private:
+    /// The item's own account is among those that `add` opens.
+    static void openingOn(Session &session, const QDate &date, const auto &add)
+    {
+        const AccountIndex before = session.accounts();
+        add();
+        const AccountIndex after = session.accounts();
+        for (const accounting::Account &account : after.accounts()) {
+            if (!before.find(account.code().number()))
+                openOn(session, account.code().number(), date);
+        }
+    }
     static Item blank(const numira::Money &nothing, QDate date)
     {
         const auto monthly = EventFrequency::Monthly;
