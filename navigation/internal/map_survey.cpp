@@ -153,6 +153,8 @@ void Generation::propose(const BudgetedMoney &item, int months)
     const Money expected = (goal ? goal->final() : item.amount()) * occurrencesUntil(m_date, item);
     surveying::DistributedAmount &proposed = m_changes.distribution[id];
     proposed = surveying::DistributedAmount(before, item.nextOccurOn(), expected);
+    if (months <= 0)
+        return;
     const Money monthly =
         budgeting::accumulateOver(EventFrequency::Monthly, item.amount(), item.period());
     for (int month = 0; month < months; ++month)
