@@ -43,6 +43,7 @@ void validate(const ConfigurationData &data, const std::set<numira::Currency> &i
     // Written so that a window which is not a number is refused as well.
     if (!(data.surveyWindow >= 0.0 && data.surveyWindow <= 100.0))
         throw faults::surveyWindowOutOfRange();
+    static_cast<void>(toQString(data.currenciesDisplayAs)); // throws for an unknown one
 }
 
 } // namespace

@@ -56,7 +56,8 @@ KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const ConfigurationData &d
 ///
 /// Throws foundation::Error, with nothing written, when the hours are not 1 to
 /// 167, the days not 1 to 7, a currency in use is not usable, the days to
-/// notify within not 0 to 60, or the survey window not 0 to 100 %.
+/// notify within not 0 to 60, or the survey window not 0 to 100 %. Likewise
+/// std::logic_error for an unknown display of currencies.
 KIV_NAVIGATION_EXPORT void store(const ConfigurationData &data, UserPreferences &preferences,
                                  tagging::BudgetTagManager &tags,
                                  const std::set<numira::Currency> &currencies);

@@ -167,6 +167,12 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
                                  (void)toCurrencyFromDisplayable(euro, {eur}, unknown));
         QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)presentationText(unknown));
+        UserPreferences preferences(m_store.fresh());
+        BudgetTagManager tags = someTags();
+        ConfigurationData data = accepted();
+        data.currenciesDisplayAs = unknown;
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, store(data, preferences, tags, {}));
+        QVERIFY(!preferences.doesExist());
         QCOMPARE(kiv::test::dump(unknown), u"Unknown currency display option: 3"_s);
         QVERIFY_THROWS_EXCEPTION(
             numira::UnknownCurrency,
