@@ -118,6 +118,7 @@ std::optional<Transaction> GeneralLedger::openingTransaction(AccountNumber numbe
 
 std::set<AccountNumber> GeneralLedger::lookUpChildren(AccountNumber number, OpenStates states) const
 {
+    static_cast<void>(isIn(states, false)); // throws for an unknown value
     std::set<AccountNumber> children;
     for (const auto &account : m_state->accounts()) {
         if (isIn(states, account->isClosed) && account->code.parent() == number)
@@ -180,6 +181,7 @@ std::set<numira::Currency> containedCurrencies(const GeneralLedger &ledger)
     std::set<numira::Currency> currencies = state.table().currencies();
     for (const auto &account : state.accounts())
         currencies.insert(account->currency());
+    currencies.erase(numira::Currency());
     return currencies;
 }
 

@@ -177,7 +177,8 @@ public:
     friend KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out,
                                                           const GeneralLedger &ledger);
 
-    /// The currencies in which accounts are kept and amounts were entered.
+    /// The currencies in which accounts are kept and amounts were entered; an
+    /// account without one adds none.
     friend KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
     containedCurrencies(const GeneralLedger &ledger);
 

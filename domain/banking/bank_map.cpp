@@ -9,6 +9,16 @@
 #include <ranges>
 
 namespace kiv::banking {
+namespace {
+
+/// What kind the account is of tells on which side it stands, so each has one.
+void checkKinds(const Bank::Accounts &accounts)
+{
+    for (const auto &[number, type] : accounts)
+        static_cast<void>(toAccountTypes(type));
+}
+
+} // namespace
 
 std::set<BankName> BankMap::names() const
 {
@@ -42,6 +52,7 @@ void BankMap::add(const Bank &bank)
 {
     if (bank.name().institution().isEmpty())
         throw internal::emptyBankName(bank.name());
+    checkKinds(bank.accounts());
     if (!m_banks.try_emplace(bank.name(), bank).second)
         throw internal::bankExists(bank.name());
 }
@@ -51,6 +62,7 @@ void BankMap::add(const BankName &name, accounting::AccountNumber number, BankAc
     const Bank &stored = bank(name);
     Bank::Accounts accounts = stored.accounts();
     accounts.insert_or_assign(number, type);
+    checkKinds(accounts);
     replace(Bank(name, std::move(accounts), stored.isClosed()));
 }
 
@@ -71,7 +83,9 @@ void BankMap::remove(const BankName &name, accounting::AccountNumber number)
 
 void BankMap::update(const Bank &bank)
 {
-    replace(Bank(bank.name(), bank.accounts(), this->bank(bank.name()).isClosed()));
+    const Bank &stored = this->bank(bank.name());
+    checkKinds(bank.accounts());
+    replace(Bank(bank.name(), bank.accounts(), stored.isClosed()));
 }
 
 void BankMap::rename(const BankName &from, const BankName &to)

@@ -32,7 +32,8 @@ public:
     /// The first bank, in the order of names, that keeps the account.
     [[nodiscard]] std::optional<BankName> find(accounting::AccountNumber number) const;
 
-    /// Refused: an empty name, a name in use.
+    /// Refused: an empty name, a name in use. Throws std::logic_error for an
+    /// account of an unknown kind, as the next two do.
     void add(const Bank &bank);
     /// Adds the account to the bank, or replaces its kind there. Refused: an
     /// unknown bank.
@@ -42,7 +43,7 @@ public:
     /// Refused: an unknown bank, an account that it does not keep.
     void remove(const BankName &name, accounting::AccountNumber number);
     /// Replaces the accounts of the bank; the closed flag stays as it is stored.
-    /// Refused: unknown.
+    /// Refused: an unknown bank. Throws likewise.
     void update(const Bank &bank);
     /// Refused: unknown `from`, an empty `to`, `to` in use (its own name too).
     void rename(const BankName &from, const BankName &to);

@@ -15,7 +15,7 @@ BudgetedMoney::BudgetedMoney(BudgetSource source, const numira::Money &amount,
                              EventFrequency period, QDate nextOccurOn)
     : m_source(std::move(source)),
       m_amount(amount),
-      m_period(period),
+      m_period(known(period)),
       m_nextOccurOn(nextOccurOn),
       m_dayOfMonth(nextOccurOn.day())
 {

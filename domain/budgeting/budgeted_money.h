@@ -20,7 +20,8 @@ namespace kiv::budgeting {
 class KIV_BUDGETING_EXPORT BudgetedMoney {
 public:
     BudgetedMoney() = default;
-    /// Throws BudgetItemError when the date is invalid or the amount negative.
+    /// Throws BudgetItemError when the date is invalid or the amount negative, and
+    /// std::logic_error for an unknown frequency.
     BudgetedMoney(BudgetSource source, const numira::Money &amount, EventFrequency period,
                   QDate nextOccurOn);
     BudgetedMoney(const BudgetedMoney &) = default;

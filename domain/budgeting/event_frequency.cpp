@@ -131,6 +131,12 @@ double unitsBetween(const Place &from, const Place &next, int daysMax)
 
 } // namespace
 
+EventFrequency known(EventFrequency frequency)
+{
+    static_cast<void>(recurrenceOf(frequency));
+    return frequency;
+}
+
 QString toQString(EventFrequency frequency)
 {
     return QString::fromLatin1(recurrenceOf(frequency).name);

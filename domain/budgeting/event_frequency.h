@@ -35,6 +35,9 @@ enum class EventFrequency : std::uint8_t {
     EveryTenYears = 15,
 };
 
+/// The same frequency. Throws std::logic_error for a value above the known ones.
+[[nodiscard]] KIV_BUDGETING_EXPORT EventFrequency known(EventFrequency frequency);
+
 /// The English name in lower case: "every two weeks". Throws std::logic_error
 /// for a value above the known ones.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString toQString(EventFrequency frequency);

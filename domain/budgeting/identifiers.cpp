@@ -26,11 +26,16 @@ bool isKnown(BudgetItemTypes type)
 
 } // namespace
 
-QString presentationText(BudgetItemTypes type)
+BudgetItemTypes known(BudgetItemTypes type)
 {
     if (!isKnown(type))
         throw std::logic_error("An unknown budget item type was supplied.");
-    return QObject::tr(words[static_cast<std::size_t>(type)]);
+    return type;
+}
+
+QString presentationText(BudgetItemTypes type)
+{
+    return QObject::tr(words[static_cast<std::size_t>(known(type))]);
 }
 
 QString presentationText(const BudgetSource &source)

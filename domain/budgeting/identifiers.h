@@ -79,6 +79,9 @@ struct KIV_BUDGETING_EXPORT BudgetItemDueIdentifier {
                            const BudgetItemDueIdentifier &) = default;
 };
 
+/// The same kind. Throws std::logic_error for a value above the known ones.
+[[nodiscard]] KIV_BUDGETING_EXPORT BudgetItemTypes known(BudgetItemTypes type);
+
 /// The word for the user: "bill", "debt", "goal", "non-tracked", "wage",
 /// "unknown" for None. Throws std::logic_error for a value above the known
 /// ones.

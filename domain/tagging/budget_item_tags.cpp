@@ -35,6 +35,7 @@ Tags BudgetItemTags::allTags() const
 BudgetItemTags BudgetItemTags::ofType(budgeting::BudgetItemTypes type) const
 {
     BudgetItemTags chosen;
+    static_cast<void>(known(type));
     std::ranges::copy_if(m_tags, std::inserter(chosen.m_tags, chosen.m_tags.end()),
                          [type](const auto &entry) { return entry.first.type == type; });
     return chosen;

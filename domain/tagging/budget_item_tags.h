@@ -59,7 +59,7 @@ public:
     [[nodiscard]] Tags tags(const budgeting::BudgetItemIdentifier &item) const;
     /// All tags of all items.
     [[nodiscard]] Tags allTags() const;
-    /// The items of one kind.
+    /// The items of one kind. Throws std::logic_error for an unknown one.
     [[nodiscard]] BudgetItemTags ofType(budgeting::BudgetItemTypes type) const;
     /// Those of the items that have tags.
     [[nodiscard]] BudgetItemTags of(std::span<const budgeting::BudgetItemIdentifier> items) const;

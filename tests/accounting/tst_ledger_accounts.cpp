@@ -212,6 +212,9 @@ private slots:
         book.ledger.convertTo(no(1), numira::toCurrency("JPY"), book.generator);
         book.ledger.convertTo(no(7), numira::toCurrency("EUR"), book.generator);
         QCOMPARE(balance(book.ledger, 1), money("JPY", "0"));
+        book.ledger.add(
+            Account(AccountTypes::Expense, AccountCode(no(90), u"Misc"_qs, {}), {}, false),
+            book.generator);
         const std::set<numira::Currency> currencies = containedCurrencies(book.ledger);
         QVERIFY(currencies == std::set({numira::toCurrency("USD"), numira::toCurrency("EUR"),
                                         numira::toCurrency("JPY")}));

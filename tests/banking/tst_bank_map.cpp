@@ -149,6 +149,25 @@ private slots:
         }
     }
 
+    void unknownKindsAreProgrammingErrors()
+    {
+        const auto unknown = static_cast<BankAccountTypes>(9);
+        const std::vector<Request> requests{
+            [=](BankMap &banks) {
+                banks.add(Bank(third, {{no(1), unknown}}, false));
+            },
+            [=](BankMap &banks) { banks.add(first, no(12), unknown); },
+            [=](BankMap &banks) {
+                banks.update(Bank(first, {{no(12), unknown}}, false));
+            },
+        };
+        for (const Request &request : requests) {
+            BankMap banks = twoBanks();
+            QVERIFY_THROWS_EXCEPTION(std::logic_error, request(banks));
+            QCOMPARE(banks, twoBanks());
+        }
+    }
+
     void lookUpsGoByName()
     {
         BankMap banks = twoBanks();

@@ -35,8 +35,9 @@ void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
     const QByteArray before = m_folder->read(u"home.budget"_qs);
     QCOMPARE(storing(m_path, QString(4'200'000, u'n')), StorageFailure::CannotHold);
     Data strange;
-    strange.banks.add(banking::Bank(banking::BankName(u"Strange"_qs),
-                                    {{{}, static_cast<banking::BankAccountTypes>(9)}}, false));
+    strange.surveys.upsert(surveying::CompletedSurvey(
+        {banking::BankName(u"Strange"_qs), {{}, static_cast<banking::BankAccountTypes>(9)}},
+        numira::Currency()));
     QCOMPARE(test::failureOf([&] { m_file->store(strange); }), StorageFailure::CannotHold);
     // A row more than a table may have, and more bytes than a file may.
     Data large;

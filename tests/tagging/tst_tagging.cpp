@@ -47,6 +47,8 @@ private slots:
         QCOMPARE(dump(manager.associated(BudgetItemTypes::Bill)),
                  u"(Rent (bill)=>(Home, home))"_qs);
         QVERIFY(manager.associated(BudgetItemTypes::Goal).isEmpty());
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(manager.associated(
+                                                       static_cast<BudgetItemTypes>(6))));
         QVERIFY(!manager.hasAssociation({BudgetItemTypes::Goal, rent.source}));
         QVERIFY(manager.associations().tags({BudgetItemTypes::Goal, rent.source}).isEmpty());
     }
