@@ -28,6 +28,17 @@ const QStringList dateHeadings{QStringLiteral("date"),
 const QStringList amountHeadings{QStringLiteral("amount"), QStringLiteral("betrag"),
                                  QStringLiteral("umsatz"), QStringLiteral("importe"),
                                  QStringLiteral("cantidad")};
+/// Of two columns; a bank's debit lessens what the customer has.
+const QStringList outHeadings{QStringLiteral("debit"),      QStringLiteral("debit amount"),
+                              QStringLiteral("withdrawal"), QStringLiteral("withdrawals"),
+                              QStringLiteral("money out"),  QStringLiteral("paid out"),
+                              QStringLiteral("soll"),       QStringLiteral("cargo"),
+                              QStringLiteral("cargos"),     QStringLiteral("debe")};
+const QStringList inHeadings{QStringLiteral("credit"),   QStringLiteral("credit amount"),
+                             QStringLiteral("deposit"),  QStringLiteral("deposits"),
+                             QStringLiteral("money in"), QStringLiteral("paid in"),
+                             QStringLiteral("haben"),    QStringLiteral("abono"),
+                             QStringLiteral("abonos"),   QStringLiteral("haber")};
 const QStringList textHeadings{QStringLiteral("description"),
                                QStringLiteral("memo"),
                                QStringLiteral("payee"),
@@ -144,12 +155,7 @@ private:
             throw faults::ownTable(first.place);
         const Place &place = first.place;
         m_date = need(m_profile.dateColumn, dateHeadings, "--date-column", place);
-        const bool hasTwo = !m_profile.inColumn.isEmpty() || !m_profile.outColumn.isEmpty();
-        m_in = find(m_profile.inColumn, {}, place);
-        m_out = find(m_profile.outColumn, {}, place);
-        if (!hasTwo)
-            m_amount = need(m_profile.amountColumn, amountHeadings,
-                            "--amount-column (or --in-column and --out-column)", place);
+        setAmounts(place);
         m_sign = find(m_profile.signColumn, {}, place);
         m_id = find(m_profile.idColumn, idHeadings, place);
         m_currencyAt = find(m_profile.currencyColumn, currencyHeadings, place);
@@ -160,6 +166,24 @@ private:
         for (const auto &column : {m_amount, m_in, m_out, m_sign, m_currencyAt})
             m_needed = std::max(m_needed, column.value_or(0) + 1);
         m_needed = std::max(m_needed, m_date + 1);
+    }
+
+    void setAmounts(const Place &place)
+    {
+        m_in = find(m_profile.inColumn, {}, place);
+        m_out = find(m_profile.outColumn, {}, place);
+        if (m_in || m_out)
+            return;
+        m_amount = find(m_profile.amountColumn, amountHeadings, place);
+        if (m_amount)
+            return;
+        // Half of a pair would leave out what went the other way.
+        m_in = find({}, inHeadings, place);
+        m_out = find({}, outHeadings, place);
+        if (!m_in || !m_out)
+            throw faults::columnNotNamed(
+                place, QLatin1String("--amount-column (or --in-column and --out-column)"),
+                m_headings);
     }
 
     [[nodiscard]] std::optional<qsizetype> find(const QString &column, const QStringList &headings,
