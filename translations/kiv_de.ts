@@ -4006,6 +4006,13 @@
         <source>a journal includes no more than %1 files</source>
         <translation>ein Journal bindet höchstens %1 Dateien ein</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more changes are not shown; --json tells all.</source>
+        <translation>
+            <numerusform>%n weitere Änderung ist nicht gezeigt; --json nennt alle.</numerusform>
+            <numerusform>%n weitere Änderungen sind nicht gezeigt; --json nennt alle.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

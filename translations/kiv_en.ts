@@ -66,5 +66,12 @@
             <numerusform>Took the reconciliation of the transactions %1 back.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n more changes are not shown; --json tells all.</source>
+        <translation>
+            <numerusform>%n more change is not shown; --json tells all.</numerusform>
+            <numerusform>%n more changes are not shown; --json tells all.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -4006,6 +4006,13 @@
         <source>a journal includes no more than %1 files</source>
         <translation>un diario incluye como máximo %1 archivos</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more changes are not shown; --json tells all.</source>
+        <translation>
+            <numerusform>%n cambio más no se muestra; --json los da todos.</numerusform>
+            <numerusform>%n cambios más no se muestran; --json los da todos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

@@ -252,10 +252,12 @@ QJsonArray changesBetween(const BudgetStorage::Data &before, const BudgetStorage
     return changes;
 }
 
-void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone)
+void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone, qsizetype rowsMax)
 {
     QJsonArray rows;
     for (const QJsonValue change : changes) {
+        if (rows.size() == rowsMax)
+            break;
         QJsonObject row = change.toObject();
         row.insert(QStringLiteral("detail"), detailOf(row));
         row.insert(QStringLiteral("name"), nameOf(row));
@@ -266,6 +268,8 @@ void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone
                   {QObject::tr("Change"), QStringLiteral("change"), wordText},
                   {QObject::tr("Detail"), QStringLiteral("detail")}},
                  rows, whenNone);
+    if (const auto left = static_cast<int>(changes.size() - rows.size()); left > 0)
+        report.line(QObject::tr("%n more changes are not shown; --json tells all.", nullptr, left));
 }
 
 } // namespace kiv::app

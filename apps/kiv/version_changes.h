@@ -31,7 +31,8 @@ struct Version {
 [[nodiscard]] QJsonArray changesBetween(const storage::BudgetStorage::Data &before,
                                         const storage::BudgetStorage::Data &after);
 
-/// Those changes as a table.
-void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone);
+/// Those changes as a table of at most that many rows, and how many are left.
+void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone,
+              qsizetype rowsMax = std::numeric_limits<qsizetype>::max());
 
 } // namespace kiv::app

@@ -68,6 +68,23 @@ the former ones:
   $ kiv undo >/dev/null
   $ kiv export --format json | cmp - last
 
+A large import that is undone does not fill the terminal:
+
+  $ begin
+  $ load() { jq -n "[range($1) | {date: \"2026-01-02\", debit: 1, credit: 4, amount: \"1 USD\"}]" |
+  >     kiv transaction load - >/dev/null && kiv undo >lines && wc -l <lines && tail -1 lines; }
+  $ load 18
+  22
+  transaction  19                      removed  2026-01-02, 1.00 USD
+  $ load 19
+  23
+  1 more change is not shown; --json tells all.
+  $ load 1000
+  23
+  982 more changes are not shown; --json tells all.
+  $ kiv undo --dry-run --json | jq '.changes | length'
+  1002
+
 What is kept, from the file itself on:
 
   $ begin

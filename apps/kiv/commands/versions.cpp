@@ -75,9 +75,13 @@ struct Undo {
                                   {QStringLiteral("changes"), changes}});
         report.line(QObject::tr("The budget is again as it was saved at %1.")
                         .arg(localTime(former.found.savedAt)));
-        tabulate(report, changes, QObject::tr("That changes nothing in it."));
+        tabulate(report, changes, QObject::tr("That changes nothing in it."), shownMax);
         return report;
     }
+
+private:
+    /// What fits a screen: an import that is undone may have posted thousands.
+    static constexpr qsizetype shownMax = 20;
 };
 
 // What tells of versions opens none, so that a damaged one is no hindrance.
