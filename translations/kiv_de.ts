@@ -4013,6 +4013,26 @@
             <numerusform>%n weitere Änderungen sind nicht gezeigt; --json nennt alle.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Some amounts in the column of what went out are negative, and some are not; write what was given back as what came in.</source>
+        <translation>Manche Beträge in der Spalte der Abgänge sind negativ und manche nicht; was erstattet wurde, gehört zu den Eingängen.</translation>
+    </message>
+    <message>
+        <source>The file ends within its last line; fetch it again, or end it with a line end.</source>
+        <translation>Die Datei endet mitten in ihrer letzten Zeile; sie muss neu geholt oder mit einem Zeilenende abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>The file holds entries of several accounts; make a file of each.</source>
+        <translation>Die Datei enthält Einträge mehrerer Konten; jedes braucht eine eigene Datei.</translation>
+    </message>
+    <message>
+        <source>Entries that are not booked yet are left out.</source>
+        <translation>Noch nicht gebuchte Einträge werden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
+        <translation>Es gibt kein Konto „%1“; was dorthin ging, kommt auf „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

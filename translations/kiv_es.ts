@@ -4013,6 +4013,26 @@
             <numerusform>%n cambios más no se muestran; --json los da todos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Some amounts in the column of what went out are negative, and some are not; write what was given back as what came in.</source>
+        <translation>Algunos importes de la columna de salidas son negativos y otros no; lo que se devolvió debe figurar como entrada.</translation>
+    </message>
+    <message>
+        <source>The file ends within its last line; fetch it again, or end it with a line end.</source>
+        <translation>El archivo termina a mitad de la última línea; hay que obtenerlo de nuevo o terminarlo con un fin de línea.</translation>
+    </message>
+    <message>
+        <source>The file holds entries of several accounts; make a file of each.</source>
+        <translation>El archivo contiene apuntes de varias cuentas; cada una necesita su propio archivo.</translation>
+    </message>
+    <message>
+        <source>Entries that are not booked yet are left out.</source>
+        <translation>Se omiten los apuntes que aún no están contabilizados.</translation>
+    </message>
+    <message>
+        <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
+        <translation>No hay ninguna cuenta «%1»; lo que se movió allí va a «%2».</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

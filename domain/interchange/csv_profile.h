@@ -30,7 +30,7 @@ struct CsvProfile {
     QString dateColumn = {};                       ///< the day
     QString amountColumn = {};                     ///< the amount, with its sign
     QString inColumn = {};                         ///< what came in
-    QString outColumn = {};                        ///< what went out, of whatever sign
+    QString outColumn = {};                        ///< what went out, all with a minus or none
     QString signColumn = {};                       ///< whether it came in or went out
     QStringList negativeSigns = {};                ///< what stands there when it went out
     QStringList textColumns = {};                  ///< what makes the description

@@ -4,6 +4,7 @@
 #include "interchange/csv_table.h"
 #include "interchange/draft.h"
 #include "interchange/internal/faults.h"
+#include "interchange/internal/statement_words.h"
 
 #include "foundation/presentation.h"
 
@@ -14,45 +15,7 @@ namespace kiv::interchange {
 
 namespace {
 
-/// Headings by which banks call the columns, as `plainHeading` leaves them.
-const QStringList dateHeadings{QStringLiteral("date"),
-                               QStringLiteral("booking date"),
-                               QStringLiteral("transaction date"),
-                               QStringLiteral("posting date"),
-                               QStringLiteral("buchungstag"),
-                               QStringLiteral("buchungsdatum"),
-                               QStringLiteral("datum"),
-                               QStringLiteral("fecha"),
-                               QStringLiteral("fecha operacion"),
-                               QStringLiteral("fecha de operacion")};
-const QStringList amountHeadings{QStringLiteral("amount"), QStringLiteral("betrag"),
-                                 QStringLiteral("umsatz"), QStringLiteral("importe"),
-                                 QStringLiteral("cantidad")};
-/// Of two columns; a bank's debit lessens what the customer has.
-const QStringList outHeadings{QStringLiteral("debit"),      QStringLiteral("debit amount"),
-                              QStringLiteral("withdrawal"), QStringLiteral("withdrawals"),
-                              QStringLiteral("money out"),  QStringLiteral("paid out"),
-                              QStringLiteral("soll"),       QStringLiteral("cargo"),
-                              QStringLiteral("cargos"),     QStringLiteral("debe")};
-const QStringList inHeadings{QStringLiteral("credit"),   QStringLiteral("credit amount"),
-                             QStringLiteral("deposit"),  QStringLiteral("deposits"),
-                             QStringLiteral("money in"), QStringLiteral("paid in"),
-                             QStringLiteral("haben"),    QStringLiteral("abono"),
-                             QStringLiteral("abonos"),   QStringLiteral("haber")};
-const QStringList textHeadings{QStringLiteral("description"),
-                               QStringLiteral("memo"),
-                               QStringLiteral("payee"),
-                               QStringLiteral("details"),
-                               QStringLiteral("verwendungszweck"),
-                               QStringLiteral("buchungstext"),
-                               QStringLiteral("text"),
-                               QStringLiteral("concepto"),
-                               QStringLiteral("descripcion")};
-const QStringList idHeadings{QStringLiteral("fitid"), QStringLiteral("transaction id"),
-                             QStringLiteral("reference"), QStringLiteral("referenz")};
-const QStringList currencyHeadings{QStringLiteral("currency"), QStringLiteral("wahrung"),
-                                   QStringLiteral("waehrung"), QStringLiteral("moneda"),
-                                   QStringLiteral("divisa")};
+namespace words = internal::words;
 
 /// "wahrung" of "Währung": in lower case and without the marks that banks often leave out.
 QString plainHeading(const QString &heading)
@@ -82,9 +45,15 @@ public:
         setHeadings(records.front());
         Statement statement{{}, m_currency, {}};
         for (auto record = records.begin() + headingLines(); record != records.end(); ++record) {
-            if (!std::ranges::all_of(record->cells, isBlank)) // delimiters alone
+            if (std::ranges::all_of(record->cells, isBlank)) // delimiters alone
+                continue;
+            if (isPending(*record))
+                statement.hasPending = true;
+            else
                 statement.entries.push_back(entryOf(*record));
         }
+        if (!text.endsWith(u'\n') && !text.endsWith(u'\r'))
+            refuseCutOff(records);
         records.erase(records.begin(), records.begin() + headingLines());
         if (std::ranges::none_of(statement.entries, &numira::Money::isNegative,
                                  &StatementEntry::amount))
@@ -117,17 +86,19 @@ private:
         return records;
     }
 
+    /// A shorter line than the one before, without an end, lacks what we cannot know.
+    static void refuseCutOff(const std::vector<CsvRecord> &records)
+    {
+        if (records.size() < 3)
+            return;
+        const CsvRecord &last = records.back();
+        if (last.cells.size() < records[records.size() - 2].cells.size())
+            throw faults::rowCutOff(last.place);
+    }
+
     /// Amounts without signs, beside a column of signs that was not named, would all come in.
     void refuseSigns(const std::vector<CsvRecord> &records) const
     {
-        static const QStringList out{QStringLiteral("S"),     QStringLiteral("SOLL"),
-                                     QStringLiteral("D"),     QStringLiteral("DR"),
-                                     QStringLiteral("DEBIT"), QStringLiteral("DEBE"),
-                                     QStringLiteral("CARGO")};
-        static const QStringList in{QStringLiteral("H"),      QStringLiteral("HABEN"),
-                                    QStringLiteral("C"),      QStringLiteral("CR"),
-                                    QStringLiteral("CREDIT"), QStringLiteral("HABER"),
-                                    QStringLiteral("ABONO")};
         if (!m_amount || m_sign || m_profile.isNegated)
             return;
         for (qsizetype column = 0; column < m_headings.size(); ++column) {
@@ -135,13 +106,18 @@ private:
                 return record.cells.value(column).trimmed();
             };
             const auto isOut = [](const QString &text) {
-                return out.contains(text, Qt::CaseInsensitive);
+                return words::wentOut.contains(text, Qt::CaseInsensitive);
             };
-            const auto isSign = [&isOut](const QString &text) {
-                return isOut(text) || in.contains(text, Qt::CaseInsensitive) || text.isEmpty();
+            const auto isIn = [](const QString &text) {
+                return words::cameIn.contains(text, Qt::CaseInsensitive);
+            };
+            const auto isSign = [&](const QString &text) {
+                return isOut(text) || isIn(text) || text.isEmpty();
             };
             const auto found = std::ranges::find_if(records, isOut, sign);
-            if (found != records.end() && std::ranges::all_of(records, isSign, sign))
+            // Other kinds of entries, such as checks, may stand among both.
+            if (found != records.end() && (std::ranges::any_of(records, isIn, sign) ||
+                                           std::ranges::all_of(records, isSign, sign)))
                 throw faults::signsNotNamed(found->place, column + 1, sign(*found));
         }
     }
@@ -154,15 +130,15 @@ private:
         if (m_headings.contains(QStringLiteral("debitAccount")))
             throw faults::ownTable(first.place);
         const Place &place = first.place;
-        m_date = need(m_profile.dateColumn, dateHeadings, "--date-column", place);
+        m_date = need(m_profile.dateColumn, words::date, "--date-column", place);
         setAmounts(place);
         m_sign = find(m_profile.signColumn, {}, place);
-        m_id = find(m_profile.idColumn, idHeadings, place);
-        m_currencyAt = find(m_profile.currencyColumn, currencyHeadings, place);
+        m_id = find(m_profile.idColumn, words::id, place);
+        m_currencyAt = find(m_profile.currencyColumn, words::currency, place);
         for (const QString &column : m_profile.textColumns)
             m_texts.push_back(need(column, {}, "--text-column", place));
         if (m_texts.empty())
-            m_texts.push_back(need({}, textHeadings, "--text-column", place));
+            m_texts.push_back(need({}, words::text, "--text-column", place));
         for (const auto &column : {m_amount, m_in, m_out, m_sign, m_currencyAt})
             m_needed = std::max(m_needed, column.value_or(0) + 1);
         m_needed = std::max(m_needed, m_date + 1);
@@ -170,16 +146,21 @@ private:
 
     void setAmounts(const Place &place)
     {
-        m_in = find(m_profile.inColumn, {}, place);
-        m_out = find(m_profile.outColumn, {}, place);
+        // Who names one of two means the other as well, where it is plain.
+        const bool hasIn = !m_profile.inColumn.isEmpty();
+        const bool hasOut = !m_profile.outColumn.isEmpty();
+        m_in = find(m_profile.inColumn, hasOut ? words::in : QStringList(), place);
+        m_out = find(m_profile.outColumn, hasIn ? words::out : QStringList(), place);
         if (m_in || m_out)
             return;
-        m_amount = find(m_profile.amountColumn, amountHeadings, place);
-        if (m_amount)
+        m_amount = find(m_profile.amountColumn, words::amount, place);
+        if (m_amount) {
+            requireOwnCurrency(m_headings[*m_amount], place);
             return;
+        }
         // Half of a pair would leave out what went the other way.
-        m_in = find({}, inHeadings, place);
-        m_out = find({}, outHeadings, place);
+        m_in = find({}, words::in, place);
+        m_out = find({}, words::out, place);
         if (!m_in || !m_out)
             throw faults::columnNotNamed(
                 place, QLatin1String("--amount-column (or --in-column and --out-column)"),
@@ -210,6 +191,15 @@ private:
             throw faults::noSuchColumn(place, column, m_headings);
         return at;
     }
+    /// A column of "Amount (EUR)" holds nothing else.
+    void requireOwnCurrency(const QString &heading, const Place &place) const
+    {
+        static const QRegularExpression bracket(QStringLiteral("\\(([A-Za-z]{3})\\)$"));
+        const auto named = readCurrency(bracket.match(heading).captured(1).toUpper(), m_currency);
+        if (named && *named != m_currency)
+            throw faults::otherCurrency(place, foundation::toQString(*named),
+                                        foundation::toQString(m_currency));
+    }
     /// Whether it is the account's currency in brackets, as in "Betrag (EUR)".
     [[nodiscard]] bool namesCurrency(const QString &rest) const
     {
@@ -226,7 +216,17 @@ private:
         return *found;
     }
 
-    [[nodiscard]] StatementEntry entryOf(const CsvRecord &record) const
+    [[nodiscard]] bool isPending(const CsvRecord &record) const
+    {
+        for (qsizetype column = 0; column < record.cells.size(); ++column) {
+            if (std::ranges::find(m_texts, column) == m_texts.end() &&
+                words::pending.contains(record.cells[column].trimmed(), Qt::CaseInsensitive))
+                return true;
+        }
+        return false;
+    }
+
+    [[nodiscard]] StatementEntry entryOf(const CsvRecord &record)
     {
         if (record.cells.size() < m_needed)
             throw faults::tooFewCells(record.place, record.cells.size(), m_needed);
@@ -234,14 +234,22 @@ private:
         if (record.cells.size() > m_headings.size() &&
             !std::all_of(record.cells.begin() + m_headings.size(), record.cells.end(), isBlank))
             throw faults::tooManyCells(record.place, record.cells.size(), m_headings.size());
+        // Where the headings end with a delimiter too, an amount that a comma divides has
+        // digits there.
+        for (qsizetype column = 0; column < record.cells.size(); ++column) {
+            if (m_headings.value(column).isEmpty() && !record.cells[column].isEmpty() &&
+                record.cells[column].front().isDigit())
+                throw faults::tooManyCells(record.place, record.cells.size(), column);
+        }
         StatementEntry entry{record.place};
-        QString date = record.cells[m_date].trimmed();
+        const QString written = record.cells[m_date].trimmed();
+        QString date = written;
         // The time of the day stands behind it in some.
         if (!m_profile.dateFormat.text().contains(u' '))
             date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
         const auto day = m_profile.dateFormat.read(date);
         if (!day)
-            throw faults::notInDateFormat(record.place, date, m_profile.dateFormat.text());
+            throw faults::notInDateFormat(record.place, written, m_profile.dateFormat.text());
         entry.date = *day;
         entry.amount = amountOf(record);
         QStringList texts;
@@ -254,14 +262,14 @@ private:
         return entry;
     }
 
-    [[nodiscard]] numira::Money amountOf(const CsvRecord &record) const
+    [[nodiscard]] numira::Money amountOf(const CsvRecord &record)
     {
         const Place &place = record.place;
         numira::Currency currency = m_currency;
         if (m_currencyAt) {
             const QString code = record.cells[*m_currencyAt].trimmed();
-            const auto read =
-                code.isEmpty() ? std::optional(m_currency) : readCurrency(code, m_currency);
+            const auto read = code.isEmpty() ? std::optional(m_currency)
+                                             : readCurrency(code.toUpper(), m_currency);
             if (!read)
                 throw faults::notACurrency(place, code);
             currency = *read;
@@ -279,25 +287,46 @@ private:
         } else {
             const numira::Money in =
                 cell(m_in).isEmpty() ? numira::Money(currency) : read(cell(m_in));
-            const numira::Money out =
-                cell(m_out).isEmpty() ? numira::Money(currency) : read(cell(m_out)).abs();
+            const numira::Money out = cell(m_out).isEmpty() ? numira::Money(currency)
+                                                            : outgoing(read(cell(m_out)), place);
             if (!in.isZero() && !out.isZero())
                 throw faults::bothWays(place);
             if (cell(m_in).isEmpty() && cell(m_out).isEmpty())
                 throw faults::missingValue(place, QObject::tr("amount"));
             amount = out.isZero() ? in : -out;
         }
-        if (m_sign && m_profile.negativeSigns.contains(cell(m_sign), Qt::CaseInsensitive))
+        const QStringList &negative =
+            m_profile.negativeSigns.isEmpty() ? words::wentOut : m_profile.negativeSigns;
+        if (m_sign && negative.contains(cell(m_sign), Qt::CaseInsensitive))
             amount = -amount.abs();
         return m_profile.isNegated ? -amount : amount;
+    }
+
+    /// Some write what went out with a minus, some without; in one column, one of both
+    /// would be what was given back.
+    [[nodiscard]] numira::Money outgoing(const numira::Money &amount, const Place &place)
+    {
+        if (amount.isZero())
+            return amount;
+        if (m_isOutNegative.value_or(amount.isNegative()) != amount.isNegative())
+            throw faults::mixedSigns(place);
+        m_isOutNegative = amount.isNegative();
+        return amount.abs();
     }
 
     /// The number alone, where its own currency stands beside it.
     static QString withoutCurrency(QString text, const numira::Currency &currency)
     {
-        QStringList names{foundation::toQString(currency)};
-        if (const auto sign = numira::currencySymbol(currency))
-            names += QString::fromStdString(*sign);
+        const QString code = foundation::toQString(currency);
+        QStringList names{code};
+        if (const auto symbol = numira::currencySymbol(currency)) {
+            // "A$" is "AU$" and "$" as well, where Australian dollars are used.
+            const QString sign = QString::fromStdString(*symbol);
+            if (sign.endsWith(u'$'))
+                names += {code.left(2) + u'$', sign, QStringLiteral("$")};
+            else
+                names += sign;
+        }
         for (const QString &name : names)
             text.remove(name);
         return text.trimmed();
@@ -314,6 +343,7 @@ private:
     std::optional<qsizetype> m_sign;
     std::optional<qsizetype> m_id;
     std::optional<qsizetype> m_currencyAt;
+    std::optional<bool> m_isOutNegative;
     std::vector<qsizetype> m_texts;
 };
 

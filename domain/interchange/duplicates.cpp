@@ -53,6 +53,26 @@ QString bankIdOf(const QString &description)
                : description.mid(at + opening.size(), description.size() - at - opening.size() - 1);
 }
 
+void forgetSharedIds(std::vector<StatementEntry> &entries)
+{
+    static const QStringList none{QStringLiteral("NOTPROVIDED"), QStringLiteral("NONREF")};
+    std::map<QString, const StatementEntry *> first;
+    std::set<QString> shared;
+    for (const StatementEntry &entry : entries) {
+        const QString &id = entry.bankId;
+        const StatementEntry &other = *first.emplace(id, &entry).first->second;
+        const bool isSame = other.date == entry.date && other.text == entry.text &&
+                            numira::compareExactly(other.amount, entry.amount) == 0;
+        if (!isSame || none.contains(id, Qt::CaseInsensitive) ||
+            std::ranges::all_of(id, [](QChar letter) { return letter == u'0'; }))
+            shared.insert(id);
+    }
+    for (StatementEntry &entry : entries) {
+        if (shared.contains(entry.bankId))
+            entry.bankId.clear();
+    }
+}
+
 Duplicates::Duplicates(const std::vector<Transaction> &present,
                        std::optional<AccountNumber> account)
     : m_account(account)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "interchange/export.h"
+#include "interchange/statement.h"
 
 #include "accounting/transaction.h"
 
@@ -16,6 +17,10 @@ namespace kiv::interchange {
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString withBankId(const QString &text, const QString &bankId);
 /// The identifier that a description ends with; empty when there is none.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString bankIdOf(const QString &description);
+
+/// Takes identifiers away that tell none from another: "0", "NOTPROVIDED" and their
+/// like, and those that entries of one file share that differ in day, amount or text.
+KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries);
 
 /// Knows the transactions of a ledger, and finds out whether one that is to be
 /// imported is there already.

@@ -279,6 +279,18 @@ ImportError bothWays(const Place &place)
     return {place, QObject::tr("The record has an amount that came in and one that went out.")};
 }
 
+ImportError mixedSigns(const Place &place)
+{
+    return {place, QObject::tr("Some amounts in the column of what went out are negative, and "
+                               "some are not; write what was given back as what came in.")};
+}
+
+ImportError rowCutOff(const Place &place)
+{
+    return {place, QObject::tr("The file ends within its last line; fetch it again, or end it with "
+                               "a line end.")};
+}
+
 ImportError missingValue(const Place &place, const QString &what)
 {
     return {place, QObject::tr("The entry has no %1.").arg(what)};
@@ -355,6 +367,11 @@ ImportError notQif(const Place &place)
 ImportError unknownField(const Place &place, const QString &text)
 {
     return {place, QObject::tr("'%1' is no field of a bank statement.").arg(quoted(text))};
+}
+
+ImportError severalAccounts(const Place &place)
+{
+    return {place, QObject::tr("The file holds entries of several accounts; make a file of each.")};
 }
 
 ImportError entryCutOff(const Place &place)

@@ -89,6 +89,8 @@ QString textOf(const OfxElement &transaction)
 
 StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &currency)
 {
+    if (const OfxElement *correction = transaction.child("CORRECTACTION"))
+        throw faults::unsupported(correction->place, QStringLiteral("CORRECTACTION"));
     StatementEntry entry{transaction.place, dayOf(transaction)};
     const OfxElement *amount = transaction.child("TRNAMT");
     if (!amount || amount->value.isEmpty())

@@ -84,13 +84,21 @@ private:
                         QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
                         QStringLiteral("type:oth l")}
                 .contains(kind))
-            m_section = Section::Transactions;
+            enterAccount();
         else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class" ||
                  kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
             m_section = Section::Skipped;
         else
             throw faults::unsupported(m_lines.place(), header);
+        m_isOfNext = m_isOfNext || (kind == u"account" && !m_records.empty());
         m_hasStatement = m_hasStatement || m_section == Section::Transactions;
+    }
+
+    void enterAccount()
+    {
+        if (m_isOfNext)
+            throw faults::severalAccounts(m_lines.place());
+        m_section = Section::Transactions;
     }
 
     void takeField(QChar field, const QString &value)
@@ -163,6 +171,7 @@ private:
     bool m_endsWithinLine;
     Section m_section = Section::None;
     bool m_hasStatement = false;
+    bool m_isOfNext = false; ///< another account was named behind an entry
     Record m_record;
     qsizetype m_entries = 0; ///< of the statement: records, and parts of them
     std::vector<Record> m_records;
@@ -213,7 +222,7 @@ public:
         entry.date = *day;
         entry.amount = amountOf(record.amount, record.place);
         entry.text = joined({record.number, record.payee, record.memo});
-        entry.category = categoryOf(record.category);
+        setCategory(entry, record.category);
         if (record.parts.empty()) {
             entries.push_back(std::move(entry));
             return;
@@ -225,7 +234,7 @@ public:
             piece.amount = amountOf(part.amount, part.place);
             piece.text = joined(
                 {record.number, record.payee, part.memo.isEmpty() ? record.memo : part.memo});
-            piece.category = categoryOf(part.category);
+            setCategory(piece, part.category);
             sum += piece.amount;
             entries.push_back(std::move(piece));
         }
@@ -245,12 +254,13 @@ private:
         return texts.join(u' ').simplified();
     }
     /// "[Savings]" is an account, "Food" a category; either may have a class: "Food/Trip".
-    static QString categoryOf(const QString &text)
+    static void setCategory(StatementEntry &entry, const QString &text)
     {
         const qsizetype end = text.indexOf(u']');
-        if (text.startsWith(u'[') && end > 0)
-            return text.mid(1, end - 1).trimmed();
-        return text.section(u'/', 0, 0).trimmed();
+        const bool isAccount = text.startsWith(u'[') && end > 0;
+        entry.category =
+            isAccount ? text.mid(1, end - 1).trimmed() : text.section(u'/', 0, 0).trimmed();
+        entry.isTransfer = isAccount && !entry.category.isEmpty();
     }
 
     const QifOptions &m_options;

@@ -22,6 +22,7 @@ struct StatementEntry {
     QString bankId = {};
     /// The name that another program has for the other side; often empty.
     QString category = {};
+    bool isTransfer = false; ///< whether that is the name of an account
 
     friend bool operator==(const StatementEntry &, const StatementEntry &) = default;
 };
@@ -31,6 +32,7 @@ struct Statement {
     QString account;                     ///< the bank's number of it, where the file tells it
     numira::Currency currency;           ///< of the account
     std::vector<StatementEntry> entries; ///< in the order of the file
+    bool hasPending = false;             ///< some were left out that are not booked yet
 };
 
 } // namespace kiv::interchange

@@ -21,14 +21,17 @@ using kiv::foundation::toQString;
 namespace {
 
 /// The currency and the account, then "2: 2026-01-05 -12.34 EUR|text|id|category" of
-/// each entry.
-QString linesOf(const Statement &statement)
+/// each entry; "[category]" where it is an account.
+QString linesOf(Statement statement)
 {
+    forgetSharedIds(statement.entries);
     QStringList lines{(toQString(statement.currency) + u' ' + statement.account).trimmed()};
+    if (statement.hasPending)
+        lines.front() += u", without what is pending"_s;
     for (const StatementEntry &entry : statement.entries)
         lines += QString::number(entry.place.line) + u": "_s + entry.date.toString(Qt::ISODate) +
                  u' ' + withCode(entry.amount) + u'|' + escaped(entry.text) + u'|' + entry.bankId +
-                 u'|' + entry.category;
+                 u'|' + (entry.isTransfer ? u'[' + entry.category + u']' : entry.category);
     return lines.join(u'\n');
 }
 
@@ -47,7 +50,9 @@ QString contentOf(const Case &given, const QByteArray &bytes)
     if (given.file == u"profile") // also what was saved is read
         return QString::fromUtf8(toJson(readProfile(toJson(readProfile(bytes, u"p"_s)), u"s"_s)));
     const QByteArray profile = given.option("profile", u"{}"_s).toUtf8();
-    return linesOf(readCsvStatement(bytes, u"f"_s, readProfile(profile, u"p"_s), eur));
+    return linesOf(
+        readCsvStatement(bytes, u"f"_s, readProfile(profile, u"p"_s),
+                         numira::toCurrency(given.option("currency", u"EUR"_s).toStdString())));
 }
 
 /// What is made of a value that the case's file is about.

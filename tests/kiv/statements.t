@@ -88,6 +88,31 @@ The bank's own identifiers tell what is there already:
   Transactions posted: 0; duplicates left out: 2; accounts opened: 0.
   $ kiv export | grep 'x2'
   2026-01-10 (13) Bakery [id x2]
+  $ kiv transaction update 13 --description 'Cake for Ann'
+  Changed transaction 13.
+  $ kiv transaction update 12 --description 'Bread [id mine]'
+  Changed transaction 12.
+  $ kiv import s.ofx --into Checking --against Other --dry-run | grep Bakery
+     2  2026-01-10  Bakery [id x1]  Expenses:Other  Assets:Checking   $5.25
+     3  2026-01-10  Bakery [id x2]  Expenses:Other  Assets:Checking   $5.25  duplicate
+
+What is left out, or goes elsewhere than the file says, is told:
+
+  $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif
+  $ kiv import s.qif --into Checking --against Other --dry-run | grep account
+  There is no account 'Visa'; what was moved there goes to 'Expenses:Other'.
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  $ printf 'Date,Text,Amount,State\n2026-02-01,Shop,-9,Pending\n' >pending.csv
+  $ kiv import pending.csv --into Checking --against Other
+  Entries that are not booked yet are left out.
+  Transactions posted: 0; duplicates left out: 0; accounts opened: 0.
+
+A file that was cut off is not half a file:
+
+  $ printf 'Date,Text,Amount,Balance\n2026-02-01,A,-5.00,95.00\n2026-02-02,B,-15' >cut.csv
+  $ kiv import cut.csv --into Checking --against Other
+  kiv: 'cut.csv', line 3: The file ends within its last line; fetch it again, or end it with a line end.
+  [1]
 
 Where a profile cannot be saved, nothing is posted:
 

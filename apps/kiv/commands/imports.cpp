@@ -90,7 +90,7 @@ private:
         const accounting::Account &account = index.find(*into);
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
-        const interchange::Statement statement = [&] {
+        interchange::Statement statement = [&] {
             if (format == ImportFormat::Ofx)
                 return interchange::readOfx(bytes, options.file, options.statement(),
                                             options.encoding());
@@ -99,7 +99,10 @@ private:
             return interchange::readCsvStatement(bytes, options.file, profile, currency);
         }();
 
+        interchange::forgetSharedIds(statement.entries);
         QStringList notices;
+        if (statement.hasPending)
+            notices += QObject::tr("Entries that are not booked yet are left out.");
         std::vector<Found> found;
         for (const interchange::StatementEntry &entry : statement.entries) {
             if (entry.amount.code() != currency)
@@ -107,10 +110,10 @@ private:
                                                          foundation::toQString(entry.amount.code()),
                                                          foundation::toQString(currency));
             if (entry.amount.isZero()) {
-                notices = {QObject::tr("Entries of nothing are left out.")};
+                notices += QObject::tr("Entries of nothing are left out.");
                 continue;
             }
-            const AccountCode other = otherSide(entry, profile, index);
+            const AccountCode other = otherSide(entry, profile, index, notices);
             const bool isIn = entry.amount.isPositive();
             const QString text = interchange::withBankId(entry.text, entry.bankId);
             found.push_back({Transaction(entry.date, isIn ? account.code() : other,
@@ -118,6 +121,7 @@ private:
                                          text.isEmpty() ? std::nullopt : std::optional(text)),
                              entry.place});
         }
+        notices.removeDuplicates();
         interchange::Duplicates duplicates(session.transactions(), account.code().number());
         Report report = post(call, found, duplicates, {}, notices);
         if (!call.options.isDryRun)
@@ -129,7 +133,7 @@ private:
     /// another program gave, or the one for all others.
     [[nodiscard]] AccountCode otherSide(const interchange::StatementEntry &entry,
                                         const interchange::CsvProfile &profile,
-                                        const AccountIndex &index) const
+                                        const AccountIndex &index, QStringList &notices) const
     {
         for (const interchange::AccountRule &rule : profile.rules) {
             if (entry.text.contains(rule.contains, Qt::CaseInsensitive))
@@ -145,7 +149,11 @@ private:
         if (!against)
             throw noOtherAccount(QStringLiteral("'%1', %2")
                                      .arg(entry.text, foundation::presentationText(entry.date)));
-        return index.find(*against).code();
+        AccountCode code = index.find(*against).code();
+        if (entry.isTransfer)
+            notices += QObject::tr("There is no account '%1'; what was moved there goes to '%2'.")
+                           .arg(entry.category, index.path(code.number()));
+        return code;
     }
 
     // ---- both --------------------------------------------------------------------

@@ -8,6 +8,8 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
+#include "interchange/duplicates.h"
+
 namespace kiv::app {
 
 using accounting::AccountCode;
@@ -157,9 +159,21 @@ struct UpdateTransaction {
         const numira::Money money = amount ? amount->in(present.amount().code()) : present.amount();
         session.change(transactionOutcome, &Navigator::onUpdatedTransaction, number,
                        Transaction(call.options.date.value_or(present.occurredOn()), debited,
-                                   credited, money,
-                                   description ? description : present.description()));
+                                   credited, money, describedAfter(present)));
         return transactionReport(session, number, QObject::tr("Changed transaction %1."));
+    }
+
+private:
+    /// The bank's identifier stays behind another text, so that the transaction is
+    /// known again when its statement is imported once more.
+    [[nodiscard]] std::optional<QString> describedAfter(const Transaction &present) const
+    {
+        if (!description || !present.description())
+            return description ? description : present.description();
+        const QString id = interchange::bankIdOf(*present.description());
+        return interchange::bankIdOf(*description).isEmpty()
+                   ? interchange::withBankId(*description, id)
+                   : *description;
     }
 };
 

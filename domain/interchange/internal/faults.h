@@ -63,6 +63,8 @@ namespace faults {
 [[nodiscard]] ImportError ownTable(const Place &place);
 [[nodiscard]] ImportError signsNotNamed(const Place &place, qsizetype column, const QString &sign);
 [[nodiscard]] ImportError bothWays(const Place &place);
+[[nodiscard]] ImportError mixedSigns(const Place &place);
+[[nodiscard]] ImportError rowCutOff(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
 [[nodiscard]] ImportError badProfile(const Place &place, const QString &reason);
@@ -81,6 +83,7 @@ namespace faults {
                                           const QStringList &accounts);
 [[nodiscard]] ImportError notQif(const Place &place);
 [[nodiscard]] ImportError unknownField(const Place &place, const QString &text);
+[[nodiscard]] ImportError severalAccounts(const Place &place);
 [[nodiscard]] ImportError entryCutOff(const Place &place);
 [[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,
                                        const QString &whole);
