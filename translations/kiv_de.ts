@@ -4033,6 +4033,10 @@
         <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
         <translation>Es gibt kein Konto „%1“; was dorthin ging, kommt auf „%2“.</translation>
     </message>
+    <message>
+        <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
+        <translation>Manche Einträge sind älter als der Anfangssaldo vom %1, der sie vielleicht schon enthält.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

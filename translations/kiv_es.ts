@@ -4033,6 +4033,10 @@
         <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
         <translation>No hay ninguna cuenta «%1»; lo que se movió allí va a «%2».</translation>
     </message>
+    <message>
+        <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
+        <translation>Algunos apuntes son anteriores al saldo inicial del %1, que quizá ya los incluye.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

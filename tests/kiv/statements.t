@@ -106,6 +106,13 @@ What is left out, or goes elsewhere than the file says, is told:
   $ kiv import pending.csv --into Checking --against Other
   Entries that are not booked yet are left out.
   Transactions posted: 0; duplicates left out: 0; accounts opened: 0.
+  $ printf 'Date,Text,Amount\n2025-12-31,Old,-9\n2026-01-01,New,-9\n' >old.csv
+  $ kiv import old.csv --into Checking --against Other
+  Some entries are older than the opening balance of 2026-01-01, which may hold them already.
+  Transactions posted: 2; duplicates left out: 0; accounts opened: 0.
+  $ sed -i /Old/d old.csv
+  $ kiv import old.csv --into Checking --against Other
+  Transactions posted: 0; duplicates left out: 1; accounts opened: 0.
 
 A file that was cut off is not half a file:
 

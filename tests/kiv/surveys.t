@@ -148,9 +148,9 @@ And so do answers, asked for until they can be understood:
   [1]
   $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking
   Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', $1,250.00? [y/n]:
+  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00? [y/n]:
   Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
-  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', $75.00? [y/n]:
+  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', -$75.00? [y/n]:
   The statement's balance:
   Money for an item that is not booked, as ITEM=AMOUNT:
   Money for another account, as ACCOUNT=AMOUNT:
@@ -162,9 +162,9 @@ And so do answers, asked for until they can be understood:
   Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
   kiv: 'yes' is none of: y, n.
   Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', $1,250.00? [y/n]:
+  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00? [y/n]:
   Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
-  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', $75.00? [y/n]:
+  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', -$75.00? [y/n]:
   The statement's balance:
   kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
   The statement's balance:

@@ -122,11 +122,26 @@ private:
                              entry.place});
         }
         notices.removeDuplicates();
+        const std::optional<QDate> opened = openedOn(session, account.code());
+        if (opened && std::ranges::any_of(found, [&opened](const Found &one) {
+                return one.transaction.occurredOn() < *opened;
+            }))
+            notices += QObject::tr("Some entries are older than the opening balance of %1, which "
+                                   "may hold them already.")
+                           .arg(foundation::presentationText(*opened));
         interchange::Duplicates duplicates(session.transactions(), account.code().number());
         Report report = post(call, found, duplicates, {}, notices);
         if (!call.options.isDryRun)
             options.saveProfile(profile);
         return report;
+    }
+
+    [[nodiscard]] static std::optional<QDate> openedOn(Session &session, const AccountCode &code)
+    {
+        const auto ledger = std::get<accounting::LedgerAccount>(
+            session.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
+        const auto opening = ledger.openedBy();
+        return opening ? std::optional(session.transaction(*opening).occurredOn()) : std::nullopt;
     }
 
     /// The account by the first rule that knows the text, by the category that

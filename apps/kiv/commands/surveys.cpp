@@ -180,12 +180,12 @@ struct RunSurvey {
         const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});
         for (const accounting::TransactionNumber number : all) {
             const accounting::Transaction transaction = call.session.transaction(number);
-            if (dialogue.agrees(
-                    QObject::tr("Does the statement show %1 %2 '%3', %4?")
-                        .arg(accounting::presentationText(number),
-                             foundation::presentationText(transaction.occurredOn()),
-                             transaction.description().value_or(QString()),
-                             amountText(toJson(transaction.amount()), call.session.displayAs()))))
+            if (dialogue.agrees(QObject::tr("Does the statement show %1 %2 '%3', %4?")
+                                    .arg(accounting::presentationText(number),
+                                         foundation::presentationText(transaction.occurredOn()),
+                                         transaction.description().value_or(QString()),
+                                         amountText(toJson(changeBy(transaction, form)),
+                                                    call.session.displayAs()))))
                 form.reconciled.insert(number);
         }
         dialogue.until(QObject::tr("The statement's balance"), [&](const QString &answer) {
@@ -260,6 +260,18 @@ private:
             return QString::fromStdString(line).trimmed();
         }
     };
+
+    /// As the statement shows it; one of an account below goes by its own amount.
+    [[nodiscard]] static numira::Money changeBy(const accounting::Transaction &transaction,
+                                                const SurveyForm &form)
+    {
+        const accounting::AccountNumber account = form.account.account.number;
+        if (!transaction.involves(account))
+            return transaction.amount();
+        const numira::Money amount = transaction.amountFor(account);
+        const bool isDebited = transaction.debiting().number() == account;
+        return isDebited == form.isOwed() ? -amount : amount;
+    }
 };
 
 struct LastReconciliation {
