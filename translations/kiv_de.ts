@@ -4037,6 +4037,10 @@
         <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
         <translation>Manche Einträge sind älter als der Anfangssaldo vom %1, der sie vielleicht schon enthält.</translation>
     </message>
+    <message>
+        <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
+        <translation>Was von „%1“ auf dasselbe Konto geht, etwa ein Anfangssaldo, wird ausgelassen.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

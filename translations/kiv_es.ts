@@ -4037,6 +4037,10 @@
         <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
         <translation>Algunos apuntes son anteriores al saldo inicial del %1, que quizá ya los incluye.</translation>
     </message>
+    <message>
+        <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
+        <translation>Se omite lo que va de «%1» a la misma cuenta, como un saldo inicial.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

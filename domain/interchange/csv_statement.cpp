@@ -135,6 +135,11 @@ private:
         m_sign = find(m_profile.signColumn, {}, place);
         m_id = find(m_profile.idColumn, words::id, place);
         m_currencyAt = find(m_profile.currencyColumn, words::currency, place);
+        // "Amount in GBP" beside an amount abroad, whose currency that column tells.
+        if (m_profile.currencyColumn.isEmpty() && m_amount &&
+            m_headings[*m_amount].contains(QRegularExpression(
+                QStringLiteral("\\b%1\\b").arg(foundation::toQString(m_currency)))))
+            m_currencyAt = std::nullopt;
         for (const QString &column : m_profile.textColumns)
             m_texts.push_back(need(column, {}, "--text-column", place));
         if (m_texts.empty())

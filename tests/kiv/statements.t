@@ -102,6 +102,9 @@ What is left out, or goes elsewhere than the file says, is told:
   $ kiv import s.qif --into Checking --against Other --dry-run | grep account
   There is no account 'Visa'; what was moved there goes to 'Expenses:Other'.
   Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  $ printf '!Type:Bank\nD1/15/2026\nT9\nPOpening Balance\nL[Checking]\n^\n' >s.qif
+  $ kiv import s.qif --into Checking --against Other --dry-run | grep itself
+  What moves from 'Assets:Checking' to itself, such as an opening balance, is left out.
   $ printf 'Date,Text,Amount,State\n2026-02-01,Shop,-9,Pending\n' >pending.csv
   $ kiv import pending.csv --into Checking --against Other
   Entries that are not booked yet are left out.

@@ -114,6 +114,13 @@ private:
                 continue;
             }
             const AccountCode other = otherSide(entry, profile, index, notices);
+            // Other programs write an opening balance so.
+            if (entry.isTransfer && other == account.code()) {
+                notices += QObject::tr("What moves from '%1' to itself, such as an opening "
+                                       "balance, is left out.")
+                               .arg(index.path(other.number()));
+                continue;
+            }
             const bool isIn = entry.amount.isPositive();
             const QString text = interchange::withBankId(entry.text, entry.bankId);
             found.push_back({Transaction(entry.date, isIn ? account.code() : other,
