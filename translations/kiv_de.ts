@@ -4041,6 +4041,10 @@
         <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
         <translation>Was von „%1“ auf dasselbe Konto geht, etwa ein Anfangssaldo, wird ausgelassen.</translation>
     </message>
+    <message>
+        <source>How many lines stand below the entries, as of totals (csv)</source>
+        <translation>Wie viele Zeilen unter den Einträgen stehen, etwa Summen (csv)</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

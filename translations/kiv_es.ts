@@ -4041,6 +4041,10 @@
         <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
         <translation>Se omite lo que va de «%1» a la misma cuenta, como un saldo inicial.</translation>
     </message>
+    <message>
+        <source>How many lines stand below the entries, as of totals (csv)</source>
+        <translation>Cuántas líneas hay debajo de los apuntes, como totales (csv)</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

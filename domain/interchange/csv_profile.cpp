@@ -26,6 +26,7 @@ const std::map<QString, Member> &members()
         {QStringLiteral("encoding"), &CsvProfile::encoding},
         {QStringLiteral("delimiter"), &CsvProfile::delimiter},
         {QStringLiteral("skip"), &CsvProfile::skippedLines},
+        {QStringLiteral("skipLast"), &CsvProfile::skippedLast},
         {QStringLiteral("headings"), &CsvProfile::hasHeadings},
         {QStringLiteral("date"), &CsvProfile::dateColumn},
         {QStringLiteral("amount"), &CsvProfile::amountColumn},

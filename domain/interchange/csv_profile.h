@@ -26,6 +26,7 @@ struct CsvProfile {
     QString encoding = QStringLiteral("UTF-8");    ///< any name that ICU knows
     std::optional<QChar> delimiter = std::nullopt; ///< the line's most frequent otherwise
     int skippedLines = 0;                          ///< above the headings
+    int skippedLast = 0;                           ///< records below the entries, as of totals
     bool hasHeadings = true;                       ///< whether the first line has them
     QString dateColumn = {};                       ///< the day
     QString amountColumn = {};                     ///< the amount, with its sign

@@ -43,6 +43,10 @@ public:
         if (records.empty())
             throw faults::emptyTable({file, 0});
         setHeadings(records.front());
+        // Neither more than there are nor the headings.
+        for (int line = 0;
+             line<m_profile.skippedLast &&static_cast<int>(records.size())> headingLines(); ++line)
+            records.pop_back();
         Statement statement{{}, m_currency, {}};
         for (auto record = records.begin() + headingLines(); record != records.end(); ++record) {
             if (std::ranges::all_of(record->cells, isBlank)) // delimiters alone

@@ -74,8 +74,8 @@ void forgetSharedIds(std::vector<StatementEntry> &entries)
 }
 
 Duplicates::Duplicates(const std::vector<Transaction> &present,
-                       std::optional<AccountNumber> account)
-    : m_account(account)
+                       std::optional<AccountNumber> account, std::set<AccountNumber> kept)
+    : m_account(account), m_kept(std::move(kept))
 {
     for (const Transaction &transaction : present) {
         if (!isLookedAt(transaction))
@@ -83,7 +83,10 @@ Duplicates::Duplicates(const std::vector<Transaction> &present,
         const QString id = idKey(transaction);
         if (!id.isEmpty())
             m_ids.insert(id);
-        ++(id.isEmpty() ? m_withoutId : m_withId)[contentKey(transaction)];
+        const QString content = contentKey(transaction);
+        ++(id.isEmpty() ? m_withoutId : m_withId)[content];
+        if (const QString transfer = transferKey(transaction); !transfer.isEmpty())
+            m_transfers.emplace(transfer, Transfer{id, content});
     }
 }
 
@@ -91,9 +94,30 @@ bool Duplicates::take(const Transaction &transaction)
 {
     const QString id = idKey(transaction);
     const QString content = contentKey(transaction);
-    if (!id.isEmpty())
-        return !m_ids.insert(id).second || takeOne(m_withoutId, content);
-    return takeOne(m_withoutId, content) || takeOne(m_withId, content);
+    const bool isKnown = id.isEmpty() ? takeOne(m_withoutId, content) || takeOne(m_withId, content)
+                                      : !m_ids.insert(id).second || takeOne(m_withoutId, content);
+    if (isKnown)
+        claim(transferKey(transaction), id, content);
+    return isKnown;
+}
+
+bool Duplicates::takeTransfer(const Transaction &transaction)
+{
+    const auto found = m_transfers.find(transferKey(transaction));
+    if (found == m_transfers.end())
+        return false;
+    m_transfers.erase(found);
+    return true;
+}
+
+void Duplicates::claim(const QString &transfer, const QString &id, const QString &content)
+{
+    const auto [first, last] = m_transfers.equal_range(transfer);
+    const auto isSame = [&](const auto &entry) {
+        return (!id.isEmpty() && entry.second.id == id) || entry.second.content == content;
+    };
+    if (const auto found = std::find_if(first, last, isSame); found != last)
+        m_transfers.erase(found);
 }
 
 bool Duplicates::isLookedAt(const Transaction &transaction) const
@@ -112,6 +136,18 @@ QString Duplicates::amountKey(const Transaction &transaction) const
                            accounting::presentationText(transaction.debiting().number()),
                            accounting::presentationText(transaction.crediting().number())) +
                            text;
+}
+
+/// Empty where not both accounts are kept by a bank.
+QString Duplicates::transferKey(const Transaction &transaction) const
+{
+    const AccountNumber debit = transaction.debiting().number();
+    const AccountNumber credit = transaction.crediting().number();
+    if (!m_account || !m_kept.contains(debit) || !m_kept.contains(credit))
+        return {};
+    return QStringLiteral("%1%2 %3<%4")
+        .arg(transaction.occurredOn().toString(Qt::ISODate), amountKey(transaction),
+             accounting::presentationText(debit), accounting::presentationText(credit));
 }
 
 QString Duplicates::contentKey(const Transaction &transaction) const

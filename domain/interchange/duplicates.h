@@ -32,12 +32,18 @@ KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries
 /// since the household may have moved them.
 class KIV_INTERCHANGE_EXPORT Duplicates {
 public:
-    /// Knows those of the ledger, or of one account.
+    /// Knows those of the ledger, or of one account. `kept` are the accounts of
+    /// banks, which have statements too.
     explicit Duplicates(const std::vector<accounting::Transaction> &present,
-                        std::optional<accounting::AccountNumber> account = std::nullopt);
+                        std::optional<accounting::AccountNumber> account = std::nullopt,
+                        std::set<accounting::AccountNumber> kept = {});
 
     /// Whether the transaction is a duplicate; it counts as present afterwards.
     [[nodiscard]] bool take(const accounting::Transaction &transaction);
+    /// Whether it is a transfer that is there from the statement of its other account,
+    /// which tells it in words and with an identifier of its own: by day, amount and
+    /// both accounts. To be asked once all have been taken, of those that are new.
+    [[nodiscard]] bool takeTransfer(const accounting::Transaction &transaction);
 
 private:
     [[nodiscard]] bool isLookedAt(const accounting::Transaction &transaction) const;
@@ -45,7 +51,18 @@ private:
     [[nodiscard]] QString contentKey(const accounting::Transaction &transaction) const;
     [[nodiscard]] QString idKey(const accounting::Transaction &transaction) const;
 
+    [[nodiscard]] QString transferKey(const accounting::Transaction &transaction) const;
+    void claim(const QString &transfer, const QString &id, const QString &content);
+
+    /// A transfer that was there before, by what it would be known otherwise.
+    struct Transfer {
+        QString id;
+        QString content;
+    };
+
     std::optional<accounting::AccountNumber> m_account;
+    std::set<accounting::AccountNumber> m_kept;
+    std::multimap<QString, Transfer> m_transfers; ///< that no entry was found to be
     std::set<QString> m_ids;
     std::map<QString, int> m_withId;
     std::map<QString, int> m_withoutId;

@@ -13,6 +13,7 @@
 using namespace kiv::interchange;
 using namespace kiv::test;
 using kiv::accounting::Account;
+using kiv::accounting::AccountNumber;
 using kiv::accounting::GeneralLedger;
 using kiv::accounting::Transaction;
 using kiv::accounting::TransactionStatuses;
@@ -141,11 +142,21 @@ private slots:
         if (given.file == u"table")
             return compare(given, writeCsv(books.accounts, books.transactions).replace('\r', ""));
         const uint number = given.option("account").toUInt();
-        Duplicates known(books.transactions, number ? std::optional(no(number)) : std::nullopt);
+        std::set<AccountNumber> kept;
+        for (const QString &text : given.option("kept").split(u',', Qt::SkipEmptyParts))
+            kept.insert(no(text.toUInt()));
+        Duplicates known(books.transactions, number ? std::optional(no(number)) : std::nullopt,
+                         kept);
         QStringList found;
-        for (const Transaction &transaction : Books(given.others.at(u"imported"_s)).transactions)
+        const Books imported(given.others.at(u"imported"_s));
+        for (const Transaction &transaction : imported.transactions)
             found += (known.take(transaction) ? u"known: "_s : u"new: "_s) +
                      transaction.description().value();
+        for (qsizetype at = 0; at < found.size(); ++at) {
+            if (found[at].startsWith(u"new") &&
+                known.takeTransfer(imported.transactions[std::size_t(at)]))
+                found[at].replace(0, 3, u"transfer"_s);
+        }
         compare(given, found.join(u'\n'));
     }
 

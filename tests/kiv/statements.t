@@ -96,6 +96,22 @@ The bank's own identifiers tell what is there already:
      2  2026-01-10  Bakery [id x1]  Expenses:Other  Assets:Checking   $5.25
      3  2026-01-10  Bakery [id x2]  Expenses:Other  Assets:Checking   $5.25  duplicate
 
+A transfer comes in once, in whatever words both banks tell it:
+
+  $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01
+  Added the account 7 Savings at the bank 'First'.
+  $ moved() { echo "<OFX><STMTRS><CURDEF>USD<BANKTRANLIST><STMTTRN><DTPOSTED>20260112<TRNAMT>$1
+  >     <FITID>$2<NAME>$3</STMTTRN></BANKTRANLIST></STMTRS></OFX>" >moved.ofx; }
+  $ moved -300 c7 'TO SAVINGS'
+  $ kiv import moved.ofx --into Checking --against Savings
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  $ moved 300 s9 'FROM CHECKING'
+  $ kiv import moved.ofx --into Savings --against Checking
+  Transactions posted: 0; duplicates left out: 1; accounts opened: 0.
+  $ kiv import moved.ofx --into Savings --against Other --dry-run | tail -2
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  This was a dry run: nothing is saved.
+
 What is left out, or goes elsewhere than the file says, is told:
 
   $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif

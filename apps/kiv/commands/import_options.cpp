@@ -112,6 +112,8 @@ void ImportOptions::declare(Arguments &arguments)
         .optional("--delimiter", m_delimiter,
                   QObject::tr("What stands between cells; guessed otherwise (csv)"))
         .optional("--skip", m_skip, QObject::tr("How many lines stand above the headings (csv)"))
+        .optional("--skip-last", m_skipLast,
+                  QObject::tr("How many lines stand below the entries, as of totals (csv)"))
         .flag("--no-headings", m_hasNoHeadings,
               QObject::tr("The first line is an entry already (csv)"))
         .flag("--negate", m_isNegated, QObject::tr("Money that went out is positive (csv)"));
@@ -198,12 +200,16 @@ CsvProfile ImportOptions::readProfile() const
                                     QStringLiteral("|")});
         read.delimiter = text.front();
     }
-    if (m_skip) {
+    const auto readCount = [](const std::optional<QString> &text, int &count) {
+        if (!text)
+            return;
         bool isNumber = false;
-        read.skippedLines = m_skip->toInt(&isNumber);
-        if (!isNumber || read.skippedLines < 0)
-            throw notANumber(*m_skip, 0, 1000);
-    }
+        count = text->toInt(&isNumber);
+        if (!isNumber || count < 0)
+            throw notANumber(*text, 0, 1000);
+    };
+    readCount(m_skip, read.skippedLines);
+    readCount(m_skipLast, read.skippedLast);
     read.hasHeadings = read.hasHeadings && !m_hasNoHeadings;
     read.isNegated = read.isNegated || m_isNegated;
     return read;

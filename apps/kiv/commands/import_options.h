@@ -47,6 +47,7 @@ private:
     std::optional<QString> m_dateFormat;
     std::optional<QString> m_delimiter;
     std::optional<QString> m_skip;
+    std::optional<QString> m_skipLast;
     bool m_hasNoHeadings = false;
     bool m_isNegated = false;
     std::optional<QString> m_date;

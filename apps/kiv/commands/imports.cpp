@@ -136,7 +136,8 @@ private:
             notices += QObject::tr("Some entries are older than the opening balance of %1, which "
                                    "may hold them already.")
                            .arg(foundation::presentationText(*opened));
-        interchange::Duplicates duplicates(session.transactions(), account.code().number());
+        interchange::Duplicates duplicates(session.transactions(), account.code().number(),
+                                           keptByBanks(session));
         Report report = post(call, found, duplicates, {}, notices);
         if (!call.options.isDryRun)
             options.saveProfile(profile);
@@ -149,6 +150,16 @@ private:
             session.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
         const auto opening = ledger.openedBy();
         return opening ? std::optional(session.transaction(*opening).occurredOn()) : std::nullopt;
+    }
+
+    [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Session &session)
+    {
+        std::set<accounting::AccountNumber> kept;
+        for (const auto &[name, bank] : session.banks()) {
+            for (const auto &[number, type] : bank.accounts())
+                kept.insert(number);
+        }
+        return kept;
     }
 
     /// The account by the first rule that knows the text, by the category that
@@ -188,8 +199,10 @@ private:
         QJsonArray rows;
         qint64 posted = 0;
         const AccountIndex index = call.session.accounts();
-        for (const auto &[transaction, place] : found) {
-            const bool isDuplicate = duplicates.take(transaction) && !keepsDuplicates;
+        const std::vector<bool> known = knownAmong(found, duplicates);
+        for (std::size_t at = 0; at < found.size(); ++at) {
+            const auto &[transaction, place] = found[at];
+            const bool isDuplicate = known[at] && !keepsDuplicates;
             if (!isDuplicate) {
                 postOne(call.session, transaction, place);
                 ++posted;
@@ -223,6 +236,17 @@ private:
                                        "opened: %3.")
                                .arg(QString::number(posted), QString::number(duplicated),
                                     QString::number(opened.size())));
+    }
+
+    [[nodiscard]] static std::vector<bool> knownAmong(const std::vector<Found> &found,
+                                                      interchange::Duplicates &duplicates)
+    {
+        std::vector<bool> known;
+        for (const Found &one : found)
+            known.push_back(duplicates.take(one.transaction));
+        for (std::size_t at = 0; at < found.size(); ++at)
+            known[at] = known[at] || duplicates.takeTransfer(found[at].transaction);
+        return known;
     }
 
     static void postOne(Session &session, const Transaction &transaction, const Place &place)
