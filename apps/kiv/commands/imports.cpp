@@ -98,41 +98,18 @@ private:
                 return interchange::readQif(bytes, options.file, options.qif(profile, currency));
             return interchange::readCsvStatement(bytes, options.file, profile, currency);
         }();
-
         interchange::forgetSharedIds(statement.entries);
+
         QStringList notices;
         if (statement.hasPending)
             notices += QObject::tr("Entries that are not booked yet are left out.");
         std::vector<Found> found;
         for (const interchange::StatementEntry &entry : statement.entries) {
-            if (entry.amount.code() != currency)
-                throw interchange::faults::otherCurrency(entry.place,
-                                                         foundation::toQString(entry.amount.code()),
-                                                         foundation::toQString(currency));
-            if (entry.amount.isZero()) {
-                notices += QObject::tr("Entries of nothing are left out.");
-                continue;
-            }
-            const AccountCode other = otherSide(entry, profile, index, notices);
-            // Other programs write an opening balance so.
-            if (entry.isTransfer && other == account.code()) {
-                notices += QObject::tr("What moves from '%1' to itself, such as an opening "
-                                       "balance, is left out.")
-                               .arg(index.path(other.number()));
-                continue;
-            }
-            const bool isIn = entry.amount.isPositive();
-            const QString text = interchange::withBankId(entry.text, entry.bankId);
-            found.push_back({Transaction(entry.date, isIn ? account.code() : other,
-                                         isIn ? other : account.code(), entry.amount.abs(),
-                                         text.isEmpty() ? std::nullopt : std::optional(text)),
-                             entry.place});
+            if (auto transaction = transactionOf(entry, account, profile, index, notices))
+                found.push_back({*std::move(transaction), entry.place});
         }
         notices.removeDuplicates();
-        const std::optional<QDate> opened = openedOn(session, account.code());
-        if (opened && std::ranges::any_of(found, [&opened](const Found &one) {
-                return one.transaction.occurredOn() < *opened;
-            }))
+        if (const auto opened = openedAfterSome(session, account.code(), found))
             notices += QObject::tr("Some entries are older than the opening balance of %1, which "
                                    "may hold them already.")
                            .arg(foundation::presentationText(*opened));
@@ -144,12 +121,49 @@ private:
         return report;
     }
 
-    [[nodiscard]] static std::optional<QDate> openedOn(Session &session, const AccountCode &code)
+    /// Nothing, and a notice, for what moves no money.
+    [[nodiscard]] std::optional<Transaction> transactionOf(const interchange::StatementEntry &entry,
+                                                           const accounting::Account &account,
+                                                           const interchange::CsvProfile &profile,
+                                                           const AccountIndex &index,
+                                                           QStringList &notices) const
+    {
+        const numira::Currency currency = account.balance().code();
+        if (entry.amount.code() != currency)
+            throw interchange::faults::otherCurrency(entry.place,
+                                                     foundation::toQString(entry.amount.code()),
+                                                     foundation::toQString(currency));
+        if (entry.amount.isZero()) {
+            notices += QObject::tr("Entries of nothing are left out.");
+            return std::nullopt;
+        }
+        const AccountCode other = otherSide(entry, profile, index, notices);
+        // Other programs write an opening balance so.
+        if (entry.isTransfer && other == account.code()) {
+            notices += QObject::tr("What moves from '%1' to itself, such as an opening balance, "
+                                   "is left out.")
+                           .arg(index.path(other.number()));
+            return std::nullopt;
+        }
+        const bool isIn = entry.amount.isPositive();
+        const QString text = interchange::withBankId(entry.text, entry.bankId);
+        return Transaction(entry.date, isIn ? account.code() : other, isIn ? other : account.code(),
+                           entry.amount.abs(), text.isEmpty() ? std::nullopt : std::optional(text));
+    }
+
+    /// The day of the account's opening balance, if some are older.
+    [[nodiscard]] static std::optional<QDate>
+    openedAfterSome(Session &session, const AccountCode &code, const std::vector<Found> &found)
     {
         const auto ledger = std::get<accounting::LedgerAccount>(
             session.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
         const auto opening = ledger.openedBy();
-        return opening ? std::optional(session.transaction(*opening).occurredOn()) : std::nullopt;
+        if (!opening)
+            return std::nullopt;
+        const QDate day = session.transaction(*opening).occurredOn();
+        const bool areSomeOlder = std::ranges::any_of(
+            found, [&day](const Found &one) { return one.transaction.occurredOn() < day; });
+        return areSomeOlder ? std::optional(day) : std::nullopt;
     }
 
     [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Session &session)
@@ -242,6 +256,7 @@ private:
                                                       interchange::Duplicates &duplicates)
     {
         std::vector<bool> known;
+        known.reserve(found.size());
         for (const Found &one : found)
             known.push_back(duplicates.take(one.transaction));
         for (std::size_t at = 0; at < found.size(); ++at)
