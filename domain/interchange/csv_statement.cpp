@@ -119,9 +119,11 @@ private:
                 return isOut(text) || isIn(text) || text.isEmpty();
             };
             const auto found = std::ranges::find_if(records, isOut, sign);
-            // Other kinds of entries, such as checks, may stand among both.
-            if (found != records.end() && (std::ranges::any_of(records, isIn, sign) ||
-                                           std::ranges::all_of(records, isSign, sign)))
+            // Other kinds of entries, such as checks, may stand among both; "-" alone
+            // often stands for nothing.
+            if (found != records.end() &&
+                (std::ranges::any_of(records, isIn, sign) ||
+                 (sign(*found) != u"-" && std::ranges::all_of(records, isSign, sign))))
                 throw faults::signsNotNamed(found->place, column + 1, sign(*found));
         }
     }

@@ -112,6 +112,14 @@ A transfer comes in once, in whatever words both banks tell it:
   Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
   This was a dry run: nothing is saved.
 
+Cash has no statement, so what was taken out twice is two:
+
+  $ kiv bank-account add Purse --bank First --type cash
+  Added the account 8 Purse at the bank 'First'.
+  $ for id in c8 c9; do moved -20 $id ATM; kiv import moved.ofx --into Checking --against Purse; done
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+
 What is left out, or goes elsewhere than the file says, is told:
 
   $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif

@@ -14,6 +14,7 @@ namespace kiv::app {
 
 using accounting::AccountCode;
 using accounting::Transaction;
+using banking::BankAccountTypes;
 using interchange::Place;
 using navigation::Navigator;
 
@@ -166,12 +167,15 @@ private:
         return areSomeOlder ? std::optional(day) : std::nullopt;
     }
 
+    /// Those that banks send statements of.
     [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Session &session)
     {
         std::set<accounting::AccountNumber> kept;
         for (const auto &[name, bank] : session.banks()) {
-            for (const auto &[number, type] : bank.accounts())
-                kept.insert(number);
+            for (const auto &[number, type] : bank.accounts()) {
+                if (type != BankAccountTypes::Cash && type != BankAccountTypes::GoalSubAccount)
+                    kept.insert(number);
+            }
         }
         return kept;
     }
