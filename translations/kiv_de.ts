@@ -4045,6 +4045,10 @@
         <source>How many lines stand below the entries, as of totals (csv)</source>
         <translation>Wie viele Zeilen unter den Einträgen stehen, etwa Summen (csv)</translation>
     </message>
+    <message>
+        <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
+        <translation>Zeile %1 ist vielleicht eine Umbuchung, die aus dem Auszug des anderen Kontos schon da ist.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

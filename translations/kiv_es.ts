@@ -4045,6 +4045,10 @@
         <source>How many lines stand below the entries, as of totals (csv)</source>
         <translation>Cuántas líneas hay debajo de los apuntes, como totales (csv)</translation>
     </message>
+    <message>
+        <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
+        <translation>La línea %1 quizá sea una transferencia que ya está, por el extracto de la otra cuenta.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

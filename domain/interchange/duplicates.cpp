@@ -13,6 +13,9 @@ namespace {
 
 const QString opening = QStringLiteral("[id ");
 
+/// How many days lie at most between a booking and the same one told again.
+constexpr qint64 daysApart = 15;
+
 /// Where the identifier's bracket begins, at the front or behind a blank; -1 when there
 /// is none.
 qsizetype idBegin(const QString &description)
@@ -55,7 +58,9 @@ QString bankIdOf(const QString &description)
 
 void forgetSharedIds(std::vector<StatementEntry> &entries)
 {
-    static const QStringList none{QStringLiteral("NOTPROVIDED"), QStringLiteral("NONREF")};
+    static const QStringList none{QStringLiteral("NOTPROVIDED"), QStringLiteral("NONREF"),
+                                  QStringLiteral("NONE"),        QStringLiteral("NULL"),
+                                  QStringLiteral("N/A"),         QStringLiteral("-")};
     std::map<QString, const StatementEntry *> first;
     std::set<QString> shared;
     for (const StatementEntry &entry : entries) {
@@ -82,7 +87,7 @@ Duplicates::Duplicates(const std::vector<Transaction> &present,
             continue;
         const QString id = idKey(transaction);
         if (!id.isEmpty())
-            m_ids.insert(id);
+            m_ids.emplace(id, transaction.occurredOn());
         const QString content = contentKey(transaction);
         ++(id.isEmpty() ? m_withoutId : m_withId)[content];
         if (const QString transfer = transferKey(transaction); !transfer.isEmpty())
@@ -94,11 +99,23 @@ bool Duplicates::take(const Transaction &transaction)
 {
     const QString id = idKey(transaction);
     const QString content = contentKey(transaction);
-    const bool isKnown = id.isEmpty() ? takeOne(m_withoutId, content) || takeOne(m_withId, content)
-                                      : !m_ids.insert(id).second || takeOne(m_withoutId, content);
+    const bool isKnown =
+        id.isEmpty() ? takeOne(m_withoutId, content) || takeOne(m_withId, content)
+                     : takeId(id, transaction.occurredOn()) || takeOne(m_withoutId, content);
     if (isKnown)
         claim(transferKey(transaction), id, content);
     return isKnown;
+}
+
+bool Duplicates::takeId(const QString &id, const QDate &day)
+{
+    const auto [first, last] = m_ids.equal_range(id);
+    const bool isThere = std::any_of(first, last, [&day](const auto &entry) {
+        return std::abs(entry.second.daysTo(day)) <= daysApart;
+    });
+    if (!isThere)
+        m_ids.emplace(id, day);
+    return isThere;
 }
 
 bool Duplicates::takeTransfer(const Transaction &transaction)

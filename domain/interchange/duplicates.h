@@ -26,7 +26,8 @@ KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries
 /// imported is there already.
 ///
 /// By the bank's identifier, when both have one: it is the same transaction if
-/// its amount is the same too. Otherwise by day, amount and text; as many are
+/// its amount is the same too, and its day no more than fifteen days away, since
+/// some banks give the same identifiers again. Otherwise by day, amount and text; as many are
 /// known as there are, so that two coffees on one day are two. An account that
 /// is being looked at alone has its other sides left out of the comparison,
 /// since the household may have moved them.
@@ -40,9 +41,10 @@ public:
 
     /// Whether the transaction is a duplicate; it counts as present afterwards.
     [[nodiscard]] bool take(const accounting::Transaction &transaction);
-    /// Whether it is a transfer that is there from the statement of its other account,
-    /// which tells it in words and with an identifier of its own: by day, amount and
-    /// both accounts. To be asked once all have been taken, of those that are new.
+    /// Whether it may be a transfer that is there from the statement of its other
+    /// account, which tells it in words and with an identifier of its own: day, amount
+    /// and both accounts are the same, as those of a second transfer would be, too. To
+    /// be asked once all have been taken, of those that are new.
     [[nodiscard]] bool takeTransfer(const accounting::Transaction &transaction);
 
 private:
@@ -52,6 +54,7 @@ private:
     [[nodiscard]] QString idKey(const accounting::Transaction &transaction) const;
 
     [[nodiscard]] QString transferKey(const accounting::Transaction &transaction) const;
+    [[nodiscard]] bool takeId(const QString &id, const QDate &day);
     void claim(const QString &transfer, const QString &id, const QString &content);
 
     /// A transfer that was there before, by what it would be known otherwise.
@@ -63,7 +66,7 @@ private:
     std::optional<accounting::AccountNumber> m_account;
     std::set<accounting::AccountNumber> m_kept;
     std::multimap<QString, Transfer> m_transfers; ///< that no entry was found to be
-    std::set<QString> m_ids;
+    std::multimap<QString, QDate> m_ids;
     std::map<QString, int> m_withId;
     std::map<QString, int> m_withoutId;
 };

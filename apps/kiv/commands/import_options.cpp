@@ -221,7 +221,8 @@ void ImportOptions::saveProfile(const CsvProfile &saved) const
         return;
     const QString path = profilePath(*savedAs);
     std::error_code failure;
-    std::filesystem::create_directories(QFileInfo(path).filesystemPath().parent_path(), failure);
+    std::filesystem::create_directories(QFileInfo(path).filesystemFilePath().parent_path(),
+                                        failure);
     if (failure)
         throw cannotWrite(path, QString::fromStdString(failure.message()));
     QSaveFile target(path);

@@ -24,6 +24,7 @@ namespace {
 struct Found {
     Transaction transaction;
     Place place;
+    QStringList notices = {}; ///< to be told when it is posted
 };
 
 struct Import {
@@ -105,15 +106,20 @@ private:
         if (statement.hasPending)
             notices += QObject::tr("Entries that are not booked yet are left out.");
         std::vector<Found> found;
+        const std::optional<QDate> opened = openedOn(session, account.code());
         for (const interchange::StatementEntry &entry : statement.entries) {
-            if (auto transaction = transactionOf(entry, account, profile, index, notices))
-                found.push_back({*std::move(transaction), entry.place});
+            QStringList told;
+            const auto transaction = transactionOf(entry, account, profile, index, told);
+            if (!transaction) {
+                notices += told;
+                continue;
+            }
+            if (opened && entry.date < *opened)
+                told += QObject::tr("Some entries are older than the opening balance of %1, which "
+                                    "may hold them already.")
+                            .arg(foundation::presentationText(*opened));
+            found.push_back({*transaction, entry.place, told});
         }
-        notices.removeDuplicates();
-        if (const auto opened = openedAfterSome(session, account.code(), found))
-            notices += QObject::tr("Some entries are older than the opening balance of %1, which "
-                                   "may hold them already.")
-                           .arg(foundation::presentationText(*opened));
         interchange::Duplicates duplicates(session.transactions(), account.code().number(),
                                            keptByBanks(session));
         Report report = post(call, found, duplicates, {}, notices);
@@ -152,19 +158,12 @@ private:
                            entry.amount.abs(), text.isEmpty() ? std::nullopt : std::optional(text));
     }
 
-    /// The day of the account's opening balance, if some are older.
-    [[nodiscard]] static std::optional<QDate>
-    openedAfterSome(Session &session, const AccountCode &code, const std::vector<Found> &found)
+    [[nodiscard]] static std::optional<QDate> openedOn(Session &session, const AccountCode &code)
     {
         const auto ledger = std::get<accounting::LedgerAccount>(
             session.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
         const auto opening = ledger.openedBy();
-        if (!opening)
-            return std::nullopt;
-        const QDate day = session.transaction(*opening).occurredOn();
-        const bool areSomeOlder = std::ranges::any_of(
-            found, [&day](const Found &one) { return one.transaction.occurredOn() < day; });
-        return areSomeOlder ? std::optional(day) : std::nullopt;
+        return opening ? std::optional(session.transaction(*opening).occurredOn()) : std::nullopt;
     }
 
     /// Those that banks send statements of.
@@ -212,18 +211,23 @@ private:
     [[nodiscard]] Report post(Call &call, const std::vector<Found> &found,
                               interchange::Duplicates &duplicates,
                               const std::vector<accounting::Account> &opened,
-                              const QStringList &notices) const
+                              QStringList notices) const
     {
         QJsonArray rows;
         qint64 posted = 0;
         const AccountIndex index = call.session.accounts();
         const std::vector<bool> known = knownAmong(found, duplicates);
         for (std::size_t at = 0; at < found.size(); ++at) {
-            const auto &[transaction, place] = found[at];
+            const auto &[transaction, place, told] = found[at];
             const bool isDuplicate = known[at] && !keepsDuplicates;
             if (!isDuplicate) {
                 postOne(call.session, transaction, place);
                 ++posted;
+                notices += told;
+                if (!known[at] && duplicates.takeTransfer(transaction))
+                    notices += QObject::tr("Line %1 may be a transfer that is there already, from "
+                                           "the statement of its other account.")
+                                   .arg(place.line);
             }
             QJsonObject row = toJson(transaction);
             row.remove(QStringLiteral("number"));
@@ -233,6 +237,7 @@ private:
             row.insert(QStringLiteral("duplicate"), isDuplicate);
             rows.append(row);
         }
+        notices.removeDuplicates();
         QJsonArray accounts;
         for (const accounting::Account &account : opened)
             accounts.append(toJson(account, index));
@@ -263,8 +268,6 @@ private:
         known.reserve(found.size());
         for (const Found &one : found)
             known.push_back(duplicates.take(one.transaction));
-        for (std::size_t at = 0; at < found.size(); ++at)
-            known[at] = known[at] || duplicates.takeTransfer(found[at].transaction);
         return known;
     }
 
