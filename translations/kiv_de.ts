@@ -4049,6 +4049,18 @@
         <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
         <translation>Zeile %1 ist vielleicht eine Umbuchung, die aus dem Auszug des anderen Kontos schon da ist.</translation>
     </message>
+    <message>
+        <source>An amount in the column of what came in is negative; write it as what went out, or without its sign.</source>
+        <translation>Ein Betrag in der Spalte der Eingänge ist negativ; er gehört zu den Abgängen oder braucht kein Vorzeichen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not tell whether the amount went out; name what does with --negative.</source>
+        <translation>„%1“ sagt nicht, ob der Betrag abging; was das sagt, wird mit --negative genannt.</translation>
+    </message>
+    <message>
+        <source>The line is to be left out, but has a day; leave out fewer lines.</source>
+        <translation>Die Zeile soll ausgelassen werden, hat aber einen Tag; es sind weniger Zeilen auszulassen.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

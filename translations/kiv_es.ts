@@ -4049,6 +4049,18 @@
         <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
         <translation>La línea %1 quizá sea una transferencia que ya está, por el extracto de la otra cuenta.</translation>
     </message>
+    <message>
+        <source>An amount in the column of what came in is negative; write it as what went out, or without its sign.</source>
+        <translation>Un importe de la columna de entradas es negativo; debe figurar como salida o sin signo.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not tell whether the amount went out; name what does with --negative.</source>
+        <translation>«%1» no dice si el importe salió; lo que lo dice se indica con --negative.</translation>
+    </message>
+    <message>
+        <source>The line is to be left out, but has a day; leave out fewer lines.</source>
+        <translation>La línea debe omitirse, pero tiene un día; hay que omitir menos líneas.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

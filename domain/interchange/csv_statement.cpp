@@ -43,10 +43,7 @@ public:
         if (records.empty())
             throw faults::emptyTable({file, 0});
         setHeadings(records.front());
-        // Neither more than there are nor the headings.
-        for (int line = 0;
-             line<m_profile.skippedLast &&static_cast<int>(records.size())> headingLines(); ++line)
-            records.pop_back();
+        leaveOutLast(records);
         Statement statement{{}, m_currency, {}};
         for (auto record = records.begin() + headingLines(); record != records.end(); ++record) {
             if (std::ranges::all_of(record->cells, isBlank)) // delimiters alone
@@ -90,10 +87,23 @@ private:
         return records;
     }
 
+    /// A line with a day is an entry, of which none is left out in silence.
+    void leaveOutLast(std::vector<CsvRecord> &records) const
+    {
+        for (int line = 0;
+             line<m_profile.skippedLast &&static_cast<int>(records.size())> headingLines();
+             ++line) {
+            const CsvRecord &last = records.back();
+            if (m_profile.dateFormat.read(last.cells.value(m_date).trimmed()))
+                throw faults::entryLeftOut(last.place);
+            records.pop_back();
+        }
+    }
+
     /// A shorter line than the one before, without an end, lacks what we cannot know.
     static void refuseCutOff(const std::vector<CsvRecord> &records)
     {
-        if (records.size() < 3)
+        if (records.size() < 2)
             return;
         const CsvRecord &last = records.back();
         if (last.cells.size() < records[records.size() - 2].cells.size())
@@ -153,6 +163,9 @@ private:
         for (const auto &column : {m_amount, m_in, m_out, m_sign, m_currencyAt})
             m_needed = std::max(m_needed, column.value_or(0) + 1);
         m_needed = std::max(m_needed, m_date + 1);
+        m_named = m_headings.size();
+        while (m_named > m_needed && m_headings[m_named - 1].isEmpty())
+            --m_named;
     }
 
     void setAmounts(const Place &place)
@@ -162,8 +175,11 @@ private:
         const bool hasOut = !m_profile.outColumn.isEmpty();
         m_in = find(m_profile.inColumn, hasOut ? words::in : QStringList(), place);
         m_out = find(m_profile.outColumn, hasIn ? words::out : QStringList(), place);
-        if (m_in || m_out)
+        if (m_in || m_out) {
+            for (const auto &column : {m_in, m_out})
+                requireOwnCurrency(column ? m_headings[*column] : QString(), place);
             return;
+        }
         m_amount = find(m_profile.amountColumn, words::amount, place);
         if (m_amount) {
             requireOwnCurrency(m_headings[*m_amount], place);
@@ -202,11 +218,14 @@ private:
             throw faults::noSuchColumn(place, column, m_headings);
         return at;
     }
-    /// A column of "Amount (EUR)" holds nothing else.
+    /// A column of "Amount (EUR)" or "Amount in EUR" holds nothing else.
     void requireOwnCurrency(const QString &heading, const Place &place) const
     {
-        static const QRegularExpression bracket(QStringLiteral("\\(([A-Za-z]{3})\\)$"));
-        const auto named = readCurrency(bracket.match(heading).captured(1).toUpper(), m_currency);
+        static const QRegularExpression pattern(
+            QStringLiteral("\\(([^()]+)\\)$|\\bin ([A-Za-z]{3})$"));
+        const auto match = pattern.match(heading);
+        const QString name = match.captured(1) + match.captured(2);
+        const auto named = readCurrency(name.toUpper(), m_currency);
         if (named && *named != m_currency)
             throw faults::otherCurrency(place, foundation::toQString(*named),
                                         foundation::toQString(m_currency));
@@ -230,9 +249,12 @@ private:
     [[nodiscard]] bool isPending(const CsvRecord &record) const
     {
         for (qsizetype column = 0; column < record.cells.size(); ++column) {
-            if (std::ranges::find(m_texts, column) == m_texts.end() &&
-                words::pending.contains(record.cells[column].trimmed(), Qt::CaseInsensitive))
-                return true;
+            if (std::ranges::find(m_texts, column) != m_texts.end())
+                continue;
+            for (const QString &word : record.cells[column].simplified().split(u' ')) {
+                if (words::pending.contains(word, Qt::CaseInsensitive))
+                    return true;
+            }
         }
         return false;
     }
@@ -246,11 +268,10 @@ private:
             !std::all_of(record.cells.begin() + m_headings.size(), record.cells.end(), isBlank))
             throw faults::tooManyCells(record.place, record.cells.size(), m_headings.size());
         // Where the headings end with a delimiter too, an amount that a comma divides has
-        // digits there.
-        for (qsizetype column = 0; column < record.cells.size(); ++column) {
-            if (m_headings.value(column).isEmpty() && !record.cells[column].isEmpty() &&
-                record.cells[column].front().isDigit())
-                throw faults::tooManyCells(record.place, record.cells.size(), column);
+        // digits behind the last of them.
+        for (qsizetype column = m_named; column < record.cells.size(); ++column) {
+            if (!record.cells[column].isEmpty() && record.cells[column].front().isDigit())
+                throw faults::tooManyCells(record.place, record.cells.size(), m_named);
         }
         StatementEntry entry{record.place};
         const QString written = record.cells[m_date].trimmed();
@@ -279,8 +300,9 @@ private:
         numira::Currency currency = m_currency;
         if (m_currencyAt) {
             const QString code = record.cells[*m_currencyAt].trimmed();
-            const auto read = code.isEmpty() ? std::optional(m_currency)
-                                             : readCurrency(code.toUpper(), m_currency);
+            const auto read = code.isEmpty() || isOwnSign(code)
+                                  ? std::optional(m_currency)
+                                  : readCurrency(code.toUpper(), m_currency);
             if (!read)
                 throw faults::notACurrency(place, code);
             currency = *read;
@@ -300,17 +322,30 @@ private:
                 cell(m_in).isEmpty() ? numira::Money(currency) : read(cell(m_in));
             const numira::Money out = cell(m_out).isEmpty() ? numira::Money(currency)
                                                             : outgoing(read(cell(m_out)), place);
+            if (in.isNegative())
+                throw faults::negativeIn(place);
             if (!in.isZero() && !out.isZero())
                 throw faults::bothWays(place);
             if (cell(m_in).isEmpty() && cell(m_out).isEmpty())
                 throw faults::missingValue(place, QObject::tr("amount"));
             amount = out.isZero() ? in : -out;
         }
-        const QStringList &negative =
-            m_profile.negativeSigns.isEmpty() ? words::wentOut : m_profile.negativeSigns;
-        if (m_sign && negative.contains(cell(m_sign), Qt::CaseInsensitive))
+        if (m_sign && isOut(cell(m_sign), place))
             amount = -amount.abs();
         return m_profile.isNegated ? -amount : amount;
+    }
+
+    /// By the signs that were named, or by the common ones.
+    [[nodiscard]] bool isOut(const QString &sign, const Place &place) const
+    {
+        if (!m_profile.negativeSigns.isEmpty())
+            return m_profile.negativeSigns.contains(sign, Qt::CaseInsensitive);
+        const bool isOut = words::wentOut.contains(sign, Qt::CaseInsensitive);
+        // A deposit is a D as well as a debit.
+        if ((!isOut && !words::cameIn.contains(sign, Qt::CaseInsensitive) && !sign.isEmpty()) ||
+            sign.compare(u"D", Qt::CaseInsensitive) == 0)
+            throw faults::signUnknown(place, sign);
+        return isOut;
     }
 
     /// Some write what went out with a minus, some without; in one column, one of both
@@ -323,6 +358,13 @@ private:
             throw faults::mixedSigns(place);
         m_isOutNegative = amount.isNegative();
         return amount.abs();
+    }
+
+    /// "$" where Australian dollars are used, whose full sign is "A$".
+    [[nodiscard]] bool isOwnSign(const QString &text) const
+    {
+        const auto symbol = numira::currencySymbol(m_currency);
+        return text == u"$" && symbol && symbol->ends_with('$');
     }
 
     /// The number alone, where its own currency stands beside it.
@@ -348,6 +390,7 @@ private:
     QStringList m_headings;
     qsizetype m_date = 0;
     qsizetype m_needed = 1;
+    qsizetype m_named = 0; ///< up to the last column with a heading
     std::optional<qsizetype> m_amount;
     std::optional<qsizetype> m_in;
     std::optional<qsizetype> m_out;

@@ -285,6 +285,25 @@ ImportError mixedSigns(const Place &place)
                                "some are not; write what was given back as what came in.")};
 }
 
+ImportError negativeIn(const Place &place)
+{
+    return {place, QObject::tr("An amount in the column of what came in is negative; write it as "
+                               "what went out, or without its sign.")};
+}
+
+ImportError signUnknown(const Place &place, const QString &sign)
+{
+    return {place, QObject::tr("'%1' does not tell whether the amount went out; name what does "
+                               "with --negative.")
+                       .arg(quoted(sign))};
+}
+
+ImportError entryLeftOut(const Place &place)
+{
+    return {place,
+            QObject::tr("The line is to be left out, but has a day; leave out fewer lines.")};
+}
+
 ImportError rowCutOff(const Place &place)
 {
     return {place, QObject::tr("The file ends within its last line; fetch it again, or end it with "

@@ -59,6 +59,8 @@ public:
                 throw faults::notQif(m_lines.place());
             else if (line == u"^")
                 finish();
+            else if (m_isInAccount && line.startsWith(u'N'))
+                m_named = line.mid(1).trimmed();
             else if (!line.isEmpty() && m_section == Section::Transactions)
                 takeField(line.front(), line.mid(1).trimmed());
         }
@@ -84,20 +86,22 @@ private:
                         QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
                         QStringLiteral("type:oth l")}
                 .contains(kind))
-            enterAccount();
+            enterAccount(kind);
         else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class" ||
                  kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
             m_section = Section::Skipped;
         else
             throw faults::unsupported(m_lines.place(), header);
-        m_isOfNext = m_isOfNext || (kind == u"account" && !m_records.empty());
+        m_isInAccount = kind == u"account";
         m_hasStatement = m_hasStatement || m_section == Section::Transactions;
     }
 
-    void enterAccount()
+    void enterAccount(const QString &kind)
     {
-        if (m_isOfNext)
+        const QString account = kind + u'\n' + m_named;
+        if (!m_records.empty() && account != m_account)
             throw faults::severalAccounts(m_lines.place());
+        m_account = account;
         m_section = Section::Transactions;
     }
 
@@ -171,7 +175,9 @@ private:
     bool m_endsWithinLine;
     Section m_section = Section::None;
     bool m_hasStatement = false;
-    bool m_isOfNext = false; ///< another account was named behind an entry
+    bool m_isInAccount = false;
+    QString m_named;   ///< by the last account's own record
+    QString m_account; ///< whose entries are read, by kind and name
     Record m_record;
     qsizetype m_entries = 0; ///< of the statement: records, and parts of them
     std::vector<Record> m_records;

@@ -64,6 +64,9 @@ namespace faults {
 [[nodiscard]] ImportError signsNotNamed(const Place &place, qsizetype column, const QString &sign);
 [[nodiscard]] ImportError bothWays(const Place &place);
 [[nodiscard]] ImportError mixedSigns(const Place &place);
+[[nodiscard]] ImportError negativeIn(const Place &place);
+[[nodiscard]] ImportError signUnknown(const Place &place, const QString &sign);
+[[nodiscard]] ImportError entryLeftOut(const Place &place);
 [[nodiscard]] ImportError rowCutOff(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
