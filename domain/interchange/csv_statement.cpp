@@ -90,12 +90,10 @@ private:
     /// A line with a day is an entry, of which none is left out in silence.
     void leaveOutLast(std::vector<CsvRecord> &records) const
     {
-        for (int line = 0;
-             line<m_profile.skippedLast &&static_cast<int>(records.size())> headingLines();
-             ++line) {
-            const CsvRecord &last = records.back();
-            if (m_profile.dateFormat.read(last.cells.value(m_date).trimmed()))
-                throw faults::entryLeftOut(last.place);
+        const auto entries = static_cast<int>(records.size()) - headingLines();
+        for (int left = std::min(m_profile.skippedLast, entries); left > 0; --left) {
+            if (dayOf(records.back()))
+                throw faults::entryLeftOut(records.back().place);
             records.pop_back();
         }
     }
@@ -259,6 +257,15 @@ private:
         return false;
     }
 
+    [[nodiscard]] std::optional<QDate> dayOf(const CsvRecord &record) const
+    {
+        QString date = record.cells.value(m_date).trimmed();
+        // The time of the day stands behind it in some.
+        if (!m_profile.dateFormat.text().contains(u' '))
+            date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
+        return m_profile.dateFormat.read(date);
+    }
+
     [[nodiscard]] StatementEntry entryOf(const CsvRecord &record)
     {
         if (record.cells.size() < m_needed)
@@ -274,14 +281,10 @@ private:
                 throw faults::tooManyCells(record.place, record.cells.size(), m_named);
         }
         StatementEntry entry{record.place};
-        const QString written = record.cells[m_date].trimmed();
-        QString date = written;
-        // The time of the day stands behind it in some.
-        if (!m_profile.dateFormat.text().contains(u' '))
-            date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
-        const auto day = m_profile.dateFormat.read(date);
+        const auto day = dayOf(record);
         if (!day)
-            throw faults::notInDateFormat(record.place, written, m_profile.dateFormat.text());
+            throw faults::notInDateFormat(record.place, record.cells[m_date].trimmed(),
+                                          m_profile.dateFormat.text());
         entry.date = *day;
         entry.amount = amountOf(record);
         QStringList texts;
