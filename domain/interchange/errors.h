@@ -43,10 +43,6 @@ namespace faults {
 [[nodiscard]] KIV_INTERCHANGE_EXPORT ImportError includeRefused(const Place &place,
                                                                 const QString &path,
                                                                 const QString &reason);
-/// An amount stands in another currency than the account that it is for.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT ImportError otherCurrency(const Place &place,
-                                                               const QString &found,
-                                                               const QString &wanted);
 
 } // namespace faults
 

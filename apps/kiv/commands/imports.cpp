@@ -9,6 +9,7 @@
 #include "foundation/presentation.h"
 #include "interchange/duplicates.h"
 #include "interchange/ofx_reader.h"
+#include "interchange/statement_plan.h"
 
 namespace kiv::app {
 
@@ -24,6 +25,7 @@ namespace {
 struct Found {
     Transaction transaction;
     Place place;
+    bool isKnown = false;     ///< whether it is there already
     QStringList notices = {}; ///< to be told when it is posted
 };
 
@@ -75,9 +77,9 @@ private:
                 drafted.date, plan.codes[drafted.debit], plan.codes[drafted.credit], drafted.amount,
                 drafted.text.isEmpty() ? std::nullopt : std::optional(drafted.text));
             found.push_back({transaction.withStatuses(drafted.debitStatus, drafted.creditStatus),
-                             drafted.place});
+                             drafted.place, duplicates.take(transaction)});
         }
-        return post(call, found, duplicates, plan.missing, draft.notices);
+        return post(call, found, plan.missing, draft.notices);
     }
 
     // ---- bank statements ---------------------------------------------------------
@@ -92,7 +94,7 @@ private:
         const accounting::Account &account = index.find(*into);
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
-        interchange::Statement statement = [&] {
+        const interchange::Statement statement = [&] {
             if (format == ImportFormat::Ofx)
                 return interchange::readOfx(bytes, options.file, options.statement(),
                                             options.encoding());
@@ -100,62 +102,35 @@ private:
                 return interchange::readQif(bytes, options.file, options.qif(profile, currency));
             return interchange::readCsvStatement(bytes, options.file, profile, currency);
         }();
-        interchange::forgetSharedIds(statement.entries);
-
-        QStringList notices;
-        if (statement.hasPending)
-            notices += QObject::tr("Entries that are not booked yet are left out.");
+        const interchange::StatementPlan plan = interchange::planStatement(
+            statement,
+            {account.code(), currency, openedOn(session, account.code()), index.accounts(),
+             session.transactions(), keptByBanks(session)},
+            {profile.rules, against,
+             [&index](const QString &name) { return index.find(name).code(); }});
         std::vector<Found> found;
-        const std::optional<QDate> opened = openedOn(session, account.code());
-        for (const interchange::StatementEntry &entry : statement.entries) {
-            QStringList told;
-            const auto transaction = transactionOf(entry, account, profile, index, told);
-            if (!transaction) {
-                notices += told;
-                continue;
-            }
-            if (opened && entry.date < *opened)
-                told += QObject::tr("Some entries are older than the opening balance of %1, which "
-                                    "may hold them already.")
-                            .arg(foundation::presentationText(*opened));
-            found.push_back({*transaction, entry.place, told});
+        for (const interchange::PlannedEntry &planned : plan.entries) {
+            const interchange::StatementEntry &entry = planned.entry;
+            if (planned.chosenBy == interchange::ChosenBy::Nobody)
+                throw noOtherAccount(
+                    QStringLiteral("'%1', %2")
+                        .arg(entry.text, foundation::presentationText(entry.date)));
+            found.push_back(
+                {planned.transaction, entry.place, planned.isDuplicate, textsOf(planned.notices)});
         }
-        interchange::Duplicates duplicates(session.transactions(), account.code().number(),
-                                           keptByBanks(session));
-        Report report = post(call, found, duplicates, {}, notices);
+        Report report = post(call, found, {}, textsOf(plan.notices));
         if (!call.options.isDryRun)
             options.saveProfile(profile);
         return report;
     }
 
-    /// Nothing, and a notice, for what moves no money.
-    [[nodiscard]] std::optional<Transaction> transactionOf(const interchange::StatementEntry &entry,
-                                                           const accounting::Account &account,
-                                                           const interchange::CsvProfile &profile,
-                                                           const AccountIndex &index,
-                                                           QStringList &notices) const
+    [[nodiscard]] static QStringList
+    textsOf(const std::vector<interchange::StatementNotice> &notices)
     {
-        const numira::Currency currency = account.balance().code();
-        if (entry.amount.code() != currency)
-            throw interchange::faults::otherCurrency(entry.place,
-                                                     foundation::toQString(entry.amount.code()),
-                                                     foundation::toQString(currency));
-        if (entry.amount.isZero()) {
-            notices += QObject::tr("Entries of nothing are left out.");
-            return std::nullopt;
-        }
-        const AccountCode other = otherSide(entry, profile, index, notices);
-        // Other programs write an opening balance so.
-        if (entry.isTransfer && other == account.code()) {
-            notices += QObject::tr("What moves from '%1' to itself, such as an opening balance, "
-                                   "is left out.")
-                           .arg(index.path(other.number()));
-            return std::nullopt;
-        }
-        const bool isIn = entry.amount.isPositive();
-        const QString text = interchange::withBankId(entry.text, entry.bankId);
-        return Transaction(entry.date, isIn ? account.code() : other, isIn ? other : account.code(),
-                           entry.amount.abs(), text.isEmpty() ? std::nullopt : std::optional(text));
+        QStringList texts;
+        for (const interchange::StatementNotice &notice : notices)
+            texts += notice.text;
+        return texts;
     }
 
     [[nodiscard]] static std::optional<QDate> openedOn(Session &session, const AccountCode &code)
@@ -179,55 +154,21 @@ private:
         return kept;
     }
 
-    /// The account by the first rule that knows the text, by the category that
-    /// another program gave, or the one for all others.
-    [[nodiscard]] AccountCode otherSide(const interchange::StatementEntry &entry,
-                                        const interchange::CsvProfile &profile,
-                                        const AccountIndex &index, QStringList &notices) const
-    {
-        for (const interchange::AccountRule &rule : profile.rules) {
-            if (entry.text.contains(rule.contains, Qt::CaseInsensitive))
-                return index.find(rule.account).code();
-        }
-        if (!entry.category.isEmpty()) {
-            for (const accounting::Account &account : index.accounts()) {
-                const AccountCode &code = account.code();
-                if (code.name() == entry.category || index.path(code.number()) == entry.category)
-                    return index.find(entry.category).code(); // refused when there are several
-            }
-        }
-        if (!against)
-            throw noOtherAccount(QStringLiteral("'%1', %2")
-                                     .arg(entry.text, foundation::presentationText(entry.date)));
-        AccountCode code = index.find(*against).code();
-        if (entry.isTransfer)
-            notices += QObject::tr("There is no account '%1'; what was moved there goes to '%2'.")
-                           .arg(entry.category, index.path(code.number()));
-        return code;
-    }
-
     // ---- both --------------------------------------------------------------------
 
     [[nodiscard]] Report post(Call &call, const std::vector<Found> &found,
-                              interchange::Duplicates &duplicates,
                               const std::vector<accounting::Account> &opened,
                               QStringList notices) const
     {
         QJsonArray rows;
         qint64 posted = 0;
         const AccountIndex index = call.session.accounts();
-        const std::vector<bool> known = knownAmong(found, duplicates);
-        for (std::size_t at = 0; at < found.size(); ++at) {
-            const auto &[transaction, place, told] = found[at];
-            const bool isDuplicate = known[at] && !keepsDuplicates;
+        for (const auto &[transaction, place, isKnown, told] : found) {
+            const bool isDuplicate = isKnown && !keepsDuplicates;
             if (!isDuplicate) {
                 postOne(call.session, transaction, place);
                 ++posted;
                 notices += told;
-                if (!known[at] && duplicates.takeTransfer(transaction))
-                    notices += QObject::tr("Line %1 may be a transfer that is there already, from "
-                                           "the statement of its other account.")
-                                   .arg(place.line);
             }
             QJsonObject row = toJson(transaction);
             row.remove(QStringLiteral("number"));
@@ -259,16 +200,6 @@ private:
                                        "opened: %3.")
                                .arg(QString::number(posted), QString::number(duplicated),
                                     QString::number(opened.size())));
-    }
-
-    [[nodiscard]] static std::vector<bool> knownAmong(const std::vector<Found> &found,
-                                                      interchange::Duplicates &duplicates)
-    {
-        std::vector<bool> known;
-        known.reserve(found.size());
-        for (const Found &one : found)
-            known.push_back(duplicates.take(one.transaction));
-        return known;
     }
 
     static void postOne(Session &session, const Transaction &transaction, const Place &place)

@@ -70,6 +70,9 @@ namespace faults {
 [[nodiscard]] ImportError rowCutOff(const Place &place);
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
+/// An amount stands in another currency than the account that it is for.
+[[nodiscard]] ImportError otherCurrency(const Place &place, const QString &found,
+                                        const QString &wanted);
 [[nodiscard]] ImportError badProfile(const Place &place, const QString &reason);
 
 // ---- OFX and QIF -------------------------------------------------------------
