@@ -4061,6 +4061,61 @@
         <source>The line is to be left out, but has a day; leave out fewer lines.</source>
         <translation>Die Zeile soll ausgelassen werden, hat aber einen Tag; es sind weniger Zeilen auszulassen.</translation>
     </message>
+    <message>
+        <source>The entry has more than %1 characters up to here.</source>
+        <translation>Der Eintrag hat bis hierher mehr als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The descriptions of all transactions up to here have more than %1 characters.</source>
+        <translation>Die Beschreibungen aller Buchungen bis hierher haben mehr als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>A journal has no more than %1 accounts, those above others included.</source>
+        <translation>Ein Journal hat höchstens %1 Konten, Oberkonten eingeschlossen.</translation>
+    </message>
+    <message>
+        <source>The accounts up to here and those above them have names of more than %1 characters, each with the names on the way to it.</source>
+        <translation>Die Namen der Konten bis hierher und ihrer Oberkonten haben mehr als %1 Zeichen, jeder mit den Namen auf dem Weg zu ihm.</translation>
+    </message>
+    <message>
+        <source>The kind of &apos;%1&apos; is declared further down; put the declaration above the account&apos;s first transaction.</source>
+        <translation>Die Art von „%1“ wird erst weiter unten angegeben; die Angabe gehört über die erste Buchung des Kontos.</translation>
+    </message>
+    <message>
+        <source>Programs differ on what the aliases make of &apos;%1&apos;; write the whole name of the account.</source>
+        <translation>Was die Alias aus „%1“ machen, ist nicht in allen Programmen gleich; es hilft, den ganzen Namen des Kontos zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Programs differ on the amount that leads to this balance of &apos;%1&apos;; write the amount.</source>
+        <translation>Welcher Betrag zu diesem Saldo von „%1“ führt, ist nicht in allen Programmen gleich; es hilft, den Betrag zu schreiben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; may be an amount or a multiplier; write it with its currency, or with * before it.</source>
+        <translation>„%1“ kann ein Betrag oder ein Faktor sein; es hilft, die Währung dazu oder * davor zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Programs differ on whether this automated transaction fits &apos;%1&apos;, which stands above it or is added by another one.</source>
+        <translation>Ob diese automatische Buchung zu „%1“ passt, das über ihr steht oder von einer anderen hinzugefügt wird, ist nicht in allen Programmen gleich.</translation>
+    </message>
+    <message>
+        <source>Some accounts become one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>Manche Konten werden zu einem, so „%1“ und „%2“.</translation>
+    </message>
+    <message>
+        <source>The postings of automated transactions are added.</source>
+        <translation>Was automatische Buchungen hinzufügen, wird gebucht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transaction(s) that move nothing are left out.</source>
+        <translation>
+            <numerusform>%n Buchung, die nichts bewegt, wird weggelassen.</numerusform>
+            <numerusform>%n Buchungen, die nichts bewegen, werden weggelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Days in comments are left out; all of a transaction has its day.</source>
+        <translation>Daten in Kommentaren werden weggelassen; alles in einer Buchung hat deren Datum.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

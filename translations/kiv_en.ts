@@ -73,5 +73,12 @@
             <numerusform>%n more changes are not shown; --json tells all.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n transaction(s) that move nothing are left out.</source>
+        <translation>
+            <numerusform>%n transaction that moves nothing is left out.</numerusform>
+            <numerusform>%n transactions that move nothing are left out.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

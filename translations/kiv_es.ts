@@ -4061,6 +4061,61 @@
         <source>The line is to be left out, but has a day; leave out fewer lines.</source>
         <translation>La línea debe omitirse, pero tiene un día; hay que omitir menos líneas.</translation>
     </message>
+    <message>
+        <source>The entry has more than %1 characters up to here.</source>
+        <translation>La entrada tiene hasta aquí más de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>The descriptions of all transactions up to here have more than %1 characters.</source>
+        <translation>Las descripciones de todos los asientos hasta aquí tienen más de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>A journal has no more than %1 accounts, those above others included.</source>
+        <translation>Un diario tiene como máximo %1 cuentas, incluidas las superiores.</translation>
+    </message>
+    <message>
+        <source>The accounts up to here and those above them have names of more than %1 characters, each with the names on the way to it.</source>
+        <translation>Los nombres de las cuentas hasta aquí y de sus cuentas superiores tienen más de %1 caracteres, cada uno con los que llevan a él.</translation>
+    </message>
+    <message>
+        <source>The kind of &apos;%1&apos; is declared further down; put the declaration above the account&apos;s first transaction.</source>
+        <translation>El tipo de «%1» se declara más abajo; la declaración debe estar antes del primer asiento de la cuenta.</translation>
+    </message>
+    <message>
+        <source>Programs differ on what the aliases make of &apos;%1&apos;; write the whole name of the account.</source>
+        <translation>No todos los programas coinciden en lo que los alias hacen de «%1»; conviene escribir el nombre completo de la cuenta.</translation>
+    </message>
+    <message>
+        <source>Programs differ on the amount that leads to this balance of &apos;%1&apos;; write the amount.</source>
+        <translation>No todos los programas coinciden en el importe que lleva a este saldo de «%1»; conviene escribir el importe.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; may be an amount or a multiplier; write it with its currency, or with * before it.</source>
+        <translation>«%1» puede ser un importe o un factor; conviene escribir su moneda, o * delante.</translation>
+    </message>
+    <message>
+        <source>Programs differ on whether this automated transaction fits &apos;%1&apos;, which stands above it or is added by another one.</source>
+        <translation>No todos los programas coinciden en si este asiento automático encaja con «%1», que está antes de él o que añade otro.</translation>
+    </message>
+    <message>
+        <source>Some accounts become one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>Algunas cuentas se convierten en una sola, como «%1» y «%2».</translation>
+    </message>
+    <message>
+        <source>The postings of automated transactions are added.</source>
+        <translation>Se registra lo que añaden los asientos automáticos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transaction(s) that move nothing are left out.</source>
+        <translation>
+            <numerusform>Se omite %n asiento que no mueve nada.</numerusform>
+            <numerusform>Se omiten %n asientos que no mueven nada.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Days in comments are left out; all of a transaction has its day.</source>
+        <translation>Las fechas en los comentarios se omiten; todo en un asiento tiene la fecha de este.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::navigation::Navigator</name>

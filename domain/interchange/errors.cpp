@@ -65,6 +65,19 @@ ImportError lineTooLong(const Place &place, qsizetype charactersMax)
     return {place, QObject::tr("The line has more than %1 characters.").arg(charactersMax)};
 }
 
+ImportError textTooLong(const Place &place, qsizetype charactersMax)
+{
+    return {place,
+            QObject::tr("The entry has more than %1 characters up to here.").arg(charactersMax)};
+}
+
+ImportError descriptionsTooLong(const Place &place, qsizetype charactersMax)
+{
+    return {place, QObject::tr("The descriptions of all transactions up to here have more than %1 "
+                               "characters.")
+                       .arg(charactersMax)};
+}
+
 ImportError tooManyTransactions(const Place &place, qsizetype most)
 {
     return {place, QObject::tr("A budget holds no more than %1 transactions.").arg(most)};
@@ -194,6 +207,56 @@ ImportError assertionFailed(const Place &place, const QString &account, const QS
 ImportError badPattern(const Place &place, const QString &pattern)
 {
     return {place, QObject::tr("'%1' is not a pattern of account names.").arg(quoted(pattern))};
+}
+
+ImportError tooManyAccounts(const Place &place, qsizetype most)
+{
+    return {place, QObject::tr("A journal has no more than %1 accounts, those above others "
+                               "included.")
+                       .arg(most)};
+}
+
+ImportError pathsTooLong(const Place &place, qsizetype charactersMax)
+{
+    return {place,
+            QObject::tr("The accounts up to here and those above them have names of more than %1 "
+                        "characters, each with the names on the way to it.")
+                .arg(charactersMax)};
+}
+
+ImportError kindDeclaredLate(const Place &place, const QString &account)
+{
+    return {place, QObject::tr("The kind of '%1' is declared further down; put the declaration "
+                               "above the account's first transaction.")
+                       .arg(quoted(account))};
+}
+
+ImportError ambiguousAlias(const Place &place, const QString &account)
+{
+    return {place, QObject::tr("Programs differ on what the aliases make of '%1'; write the whole "
+                               "name of the account.")
+                       .arg(quoted(account))};
+}
+
+ImportError ambiguousAssignment(const Place &place, const QString &account)
+{
+    return {place, QObject::tr("Programs differ on the amount that leads to this balance of '%1'; "
+                               "write the amount.")
+                       .arg(quoted(account))};
+}
+
+ImportError ambiguousMultiplier(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' may be an amount or a multiplier; write it with its currency, "
+                               "or with * before it.")
+                       .arg(quoted(text))};
+}
+
+ImportError ambiguousRule(const Place &place, const QString &account)
+{
+    return {place, QObject::tr("Programs differ on whether this automated transaction fits '%1', "
+                               "which stands above it or is added by another one.")
+                       .arg(quoted(account))};
 }
 
 ImportError tooManyRules(const Place &place, std::size_t most)

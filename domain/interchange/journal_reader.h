@@ -36,7 +36,9 @@ struct JournalOptions {
 /// are kept behind the description. Balance assertions are checked, in the
 /// order of the file or of the days, whichever holds.
 ///
-/// Throws ImportError with file and line for everything that it does not know.
+/// Throws ImportError with file and line for everything that it does not know, for
+/// what ledger and hledger read in different ways, and for what would need too much
+/// memory. What is left out, such as days of single postings, is noticed.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Draft readJournal(const QByteArray &bytes, const QString &file,
                                                        const JournalOptions &options);
 

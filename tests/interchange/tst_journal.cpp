@@ -67,11 +67,26 @@ QString linesOf(const Draft &draft)
     return (lines + draft.notices).join(u'\n');
 }
 
+/// Each transaction of the file is one of the draft, or told of.
+void requireAllRead(const QByteArray &journal, const Draft &draft)
+{
+    static const QRegularExpression aside(u"(?ms)^(comment|test)\\s*\\n.*?^end \\1\\s*$"_s);
+    static const QRegularExpression head(u"(?m)^[0-9]"_s);
+    static const QRegularExpression told(u"(?m)^([0-9]+) transaction"_s);
+    std::set<qsizetype> lines;
+    for (const DraftTransaction &transaction : draft.transactions)
+        lines.insert(transaction.place.line);
+    if (QString::fromUtf8(journal).remove(aside).count(head) !=
+        std::ssize(lines) + told.match(draft.notices.join(u'\n')).captured(1).toInt())
+        throw std::runtime_error("Not all of it is read: " + journal.toStdString());
+}
+
 /// Opens and posts what the journal comes to.
 void take(const QByteArray &journal, GeneralLedger &ledger)
 {
     kiv::accounting::SequentialAccountNumberGenerator generator;
     const Draft draft = readJournal(journal, u"j"_s, optionsOf({}));
+    requireAllRead(journal, draft);
     const AccountPlan plan = planAccounts(draft, ledger.accounts());
     for (const Account &account : plan.missing)
         ledger.add(account, generator, day("2026-01-01"));
@@ -123,6 +138,16 @@ private slots:
                              });
 
         QVERIFY(sound > 100 && refused > 100);
+    }
+
+    /// Those above others count, and a child of its own for each posting.
+    void moreAccountsThanMayBeAreRefused()
+    {
+        QByteArray journal("2026-01-01\n Income:I  $-30000\n");
+        for (int account = 0; account < 30'000; ++account)
+            journal += " Assets:" + QByteArray::number(account) + "  $1\n";
+        const auto read = [&] { return linesOf(readJournal(journal, u"j"_s, optionsOf({}))); };
+        QVERIFY(outcome(read).startsWith(u"refused: 'j', line 30000: A journal has no more"));
     }
 
     void ledgers_data() { addCases(u"ledgers"_s); }

@@ -13,7 +13,9 @@ automated transactions only in another notation:
   $ kiv new
   Made the empty budget 'household.budget'.
   $ kiv import manual.journal
+  Days in comments are left out; all of a transaction has its day.
   Second days of transactions are left out.
+  The postings of automated transactions are added.
   Unbalanced virtual postings are kept against Equity:Virtual.
   Transactions posted: 20; duplicates left out: 0; accounts opened: 18.
   $ own
@@ -115,11 +117,13 @@ A journal is shown before it is posted:
   Number  New account
        1  Assets:Cash
   There are no transactions in the file.
+  1 transaction that moves nothing is left out.
   Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
   This was a dry run: nothing is saved.
   $ kiv accounts
   There are no accounts.
   $ kiv import a.journal
+  1 transaction that moves nothing is left out.
   Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
   $ kiv accounts
   Number  Account      Balance

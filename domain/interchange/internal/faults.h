@@ -16,6 +16,8 @@ namespace faults {
 [[nodiscard]] ImportError unknownEncoding(const Place &place, const QString &encoding);
 [[nodiscard]] ImportError wrongEncoding(const Place &place, const QString &encoding);
 [[nodiscard]] ImportError lineTooLong(const Place &place, qsizetype charactersMax);
+[[nodiscard]] ImportError textTooLong(const Place &place, qsizetype charactersMax);
+[[nodiscard]] ImportError descriptionsTooLong(const Place &place, qsizetype charactersMax);
 [[nodiscard]] ImportError tooManyTransactions(const Place &place, qsizetype most);
 [[nodiscard]] ImportError notADate(const Place &place, const QString &text, const QString &format);
 /// A day of a file whose form the user can name.
@@ -45,6 +47,14 @@ namespace faults {
 [[nodiscard]] ImportError assertionFailed(const Place &place, const QString &account,
                                           const QString &asserted, const QString &found);
 [[nodiscard]] ImportError badPattern(const Place &place, const QString &pattern);
+[[nodiscard]] ImportError tooManyAccounts(const Place &place, qsizetype most);
+[[nodiscard]] ImportError pathsTooLong(const Place &place, qsizetype charactersMax);
+[[nodiscard]] ImportError kindDeclaredLate(const Place &place, const QString &account);
+/// What ledger and hledger read in two ways.
+[[nodiscard]] ImportError ambiguousAlias(const Place &place, const QString &account);
+[[nodiscard]] ImportError ambiguousAssignment(const Place &place, const QString &account);
+[[nodiscard]] ImportError ambiguousMultiplier(const Place &place, const QString &text);
+[[nodiscard]] ImportError ambiguousRule(const Place &place, const QString &account);
 [[nodiscard]] ImportError tooManyRules(const Place &place, std::size_t most);
 
 // ---- bank statements ---------------------------------------------------------

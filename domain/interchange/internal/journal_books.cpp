@@ -2,15 +2,13 @@
 #include "interchange/internal/journal_books.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/limits.h"
 
 #include "interchange/account_paths.h"
 
-#include "foundation/presentation.h"
 #include "numira/error.h"
 
 #include <QtCore/QObject>
-
-#include <deque>
 
 namespace kiv::interchange::internal {
 
@@ -34,11 +32,6 @@ QString textOf(const Sums &sums)
     return texts.join(QStringLiteral(", "));
 }
 
-std::optional<numira::Currency> currencyOf(const QString &commodity)
-{
-    return readCurrency(commodity, numira::Currency());
-}
-
 /// Whether so little is left that it comes from rounding a price's product: at
 /// most half a minor unit.
 bool isRounding(const QString &commodity, const numira::Decimal &rest)
@@ -48,6 +41,11 @@ bool isRounding(const QString &commodity, const numira::Decimal &rest)
 }
 
 } // namespace
+
+std::optional<numira::Currency> currencyOf(const QString &commodity)
+{
+    return readCurrency(commodity, numira::Currency());
+}
 
 void JournalBooks::notice(const QString &sentence)
 {
@@ -59,9 +57,14 @@ void JournalBooks::declare(const QString &account, const std::map<QString, QStri
                            const Place &place)
 {
     static const std::map<QString, AccountTypes> types{
-        {QStringLiteral("a"), AccountTypes::Asset},     {QStringLiteral("c"), AccountTypes::Asset},
-        {QStringLiteral("l"), AccountTypes::Liability}, {QStringLiteral("e"), AccountTypes::Equity},
-        {QStringLiteral("v"), AccountTypes::Equity},    {QStringLiteral("r"), AccountTypes::Income},
+        {QStringLiteral("a"), AccountTypes::Asset},
+        {QStringLiteral("c"), AccountTypes::Asset},
+        {QStringLiteral("cash"), AccountTypes::Asset},
+        {QStringLiteral("conversion"), AccountTypes::Equity},
+        {QStringLiteral("l"), AccountTypes::Liability},
+        {QStringLiteral("e"), AccountTypes::Equity},
+        {QStringLiteral("v"), AccountTypes::Equity},
+        {QStringLiteral("r"), AccountTypes::Income},
         {QStringLiteral("x"), AccountTypes::Expense}};
     if (account.isEmpty())
         throw faults::noAccount(place);
@@ -93,10 +96,8 @@ void JournalBooks::add(AutomatedEntry automated)
 {
     Rule rule{QRegularExpression(automated.pattern, QRegularExpression::CaseInsensitiveOption),
               std::move(automated.entry)};
-    // Each is tried on each posting.
-    constexpr std::size_t rulesMax = 100;
     constexpr qsizetype patternMax = 200;
-    const Place &place = rule.entry.place;
+    const Place place = rule.entry.place;
     if (m_rules.size() >= rulesMax)
         throw faults::tooManyRules(place, rulesMax);
     if (automated.pattern.size() > patternMax)
@@ -113,6 +114,10 @@ void JournalBooks::add(AutomatedEntry automated)
             throw faults::missingValue(posting.place, QObject::tr("amount"));
     }
     m_rules.push_back(std::move(rule));
+    for (const auto &[key, balance] : m_balances) {
+        if (fits(m_rules.size() - 1, key.first))
+            throw faults::ambiguousRule(place, key.first);
+    }
 }
 
 void JournalBooks::add(Entry entry)
@@ -128,22 +133,41 @@ try {
     assign(entry);
     fill(entry.postings, entry.place);
     move(entry);
+    const std::size_t before = m_draft.transactions.size();
     book(entry);
     applyRules(entry);
+    m_withoutEffect += m_draft.transactions.size() == before;
 } catch (const numira::Error &cause) {
     throw faults::tooLarge(entry.place, cause);
 }
 
-void JournalBooks::assign(Entry &entry)
+void JournalBooks::assign(Entry &entry) const
 {
-    // "Assets:Cash  = $100" without an amount means what leads there.
+    if (std::ranges::none_of(entry.postings, [](const Posting &posting) {
+            return !posting.amount && posting.assertion;
+        }))
+        return;
+    // "Assets:Cash  = $100" without an amount means what leads there, from what the
+    // postings above it have made.
+    Balances here;
     for (Posting &posting : entry.postings) {
-        if (posting.amount || !posting.assertion)
-            continue;
-        const auto found = m_balances.find({posting.account, posting.assertion->commodity});
-        const numira::Decimal present =
-            found == m_balances.end() ? numira::Decimal() : found->second;
-        posting.amount = {posting.assertion->number - present, posting.assertion->commodity};
+        if (!posting.amount && posting.assertion) {
+            const auto &[number, commodity] = *posting.assertion;
+            Balance present;
+            for (const Balances *balances : {&m_balances, &std::as_const(here)}) {
+                const auto found = balances->find({posting.account, commodity});
+                if (found == balances->end())
+                    continue;
+                present.all += found->second.all;
+                present.real += found->second.real;
+            }
+            if (posting.kind == PostingKind::Real && present.all != present.real)
+                throw faults::ambiguousAssignment(posting.place, posting.account);
+            posting.amount = {number - present.all, commodity};
+            posting.isAssigned = true;
+        }
+        if (posting.amount)
+            add(here, movementOf(entry, posting));
     }
 }
 
@@ -217,28 +241,40 @@ void JournalBooks::inferCost(std::vector<Posting *> &group, const Sums &rest)
     }
 }
 
+bool JournalBooks::fits(std::size_t rule, const QString &account)
+{
+    Fitting &known = m_fitting[account];
+    for (; known.asked < m_rules.size(); ++known.asked) {
+        const Rule &asked = m_rules[known.asked];
+        const auto match = asked.pattern.match(account);
+        if (!match.isValid())
+            throw faults::badPattern(asked.entry.place, asked.pattern.pattern());
+        known.rules[known.asked] = match.hasMatch();
+    }
+    return known.rules[rule];
+}
+
 void JournalBooks::applyRules(const Entry &entry)
 {
-    for (Rule &rule : m_rules) {
+    for (std::size_t at = 0; at < m_rules.size(); ++at) {
+        const Entry &rule = m_rules[at].entry;
         for (const Posting &posting : entry.postings) {
-            auto known = rule.fits.find(posting.account);
-            if (known == rule.fits.end()) {
-                const auto match = rule.pattern.match(posting.account);
-                if (!match.isValid())
-                    throw faults::badPattern(rule.entry.place, rule.pattern.pattern());
-                known = rule.fits.emplace(posting.account, match.hasMatch()).first;
-            }
-            if (!known->second)
+            if (!fits(at, posting.account))
                 continue;
+            notice(QObject::tr("The postings of automated transactions are added."));
             Entry added = entry;
-            added.postings = rule.entry.postings;
+            added.postings = rule.postings;
             for (Posting &extra : added.postings) {
                 extra.status = posting.status;
                 if (extra.known().commodity.isEmpty())
                     extra.amount = {posting.known().number * extra.known().number,
                                     posting.known().commodity};
+                for (std::size_t later = at + 1; later < m_rules.size(); ++later) {
+                    if (fits(later, extra.account))
+                        throw faults::ambiguousRule(m_rules[later].entry.place, extra.account);
+                }
             }
-            fill(added.postings, rule.entry.place);
+            fill(added.postings, rule.place);
             move(added);
             book(added);
         }
@@ -247,6 +283,30 @@ void JournalBooks::applyRules(const Entry &entry)
 
 // ---- assertions ----------------------------------------------------------------
 
+JournalBooks::Movement JournalBooks::movementOf(const Entry &entry, const Posting &posting)
+{
+    return {entry.date,        posting.account,    posting.kind, posting.known(),
+            posting.assertion, posting.isAssigned, posting.place};
+}
+
+void JournalBooks::add(Balances &balances, const Movement &movement)
+{
+    Balance &balance = balances[{movement.account, movement.amount.commodity}];
+    balance.all += movement.amount.number;
+    if (movement.kind == PostingKind::Real)
+        balance.real += movement.amount.number;
+}
+
+bool JournalBooks::holds(const Balances &balances, const Movement &movement)
+{
+    if (!movement.assertion)
+        return true;
+    const auto found = balances.find({movement.account, movement.assertion->commodity});
+    const Balance present = found == balances.end() ? Balance() : found->second;
+    return movement.assertion->number == present.all ||
+           (movement.kind == PostingKind::Real && movement.assertion->number == present.real);
+}
+
 void JournalBooks::move(const Entry &entry)
 {
     // The transactions are counted when they are made; what moves nothing makes none.
@@ -254,217 +314,48 @@ void JournalBooks::move(const Entry &entry)
     if (m_movements.size() + entry.postings.size() > movementsMax)
         throw faults::tooManyTransactions(entry.place, transactionsMax);
     for (const Posting &posting : entry.postings) {
-        numira::Decimal &balance = m_balances[{posting.account, posting.known().commodity}];
-        balance += posting.known().number;
-        if (posting.assertion && !m_failedAssertion) {
-            const numira::Decimal present =
-                m_balances[{posting.account, posting.assertion->commodity}];
-            if (present != posting.assertion->number)
-                m_failedAssertion = faults::assertionFailed(
-                    posting.place, posting.account, presentationText(*posting.assertion),
-                    presentationText(Quantity{present, posting.assertion->commodity}));
-        }
-        m_movements.push_back(
-            {entry.date, posting.account, posting.known(), posting.assertion, posting.place});
+        m_movements.push_back(movementOf(entry, posting));
+        Movement &movement = m_movements.back();
+        add(m_balances, movement);
+        // All that name an account share one text.
+        movement.account =
+            m_balances.find({movement.account, movement.amount.commodity})->first.first;
+        if (m_failedAssertion || holds(m_balances, movement))
+            continue;
+        const QString &commodity = movement.assertion->commodity;
+        m_failedAssertion = faults::assertionFailed(
+            posting.place, posting.account, presentationText(*posting.assertion),
+            presentationText(Quantity{m_balances[{posting.account, commodity}].all, commodity}));
+    }
+}
+
+void JournalBooks::checkByDay()
+{
+    if (!m_failedAssertion && std::ranges::none_of(m_movements, &Movement::isAssigned))
+        return;
+    std::ranges::stable_sort(m_movements, {}, &Movement::date);
+    Balances balances;
+    for (const Movement &movement : m_movements) {
+        add(balances, movement);
+        if (holds(balances, movement))
+            continue;
+        if (m_failedAssertion)
+            throw ImportError(*m_failedAssertion);
+        if (movement.isAssigned)
+            throw faults::ambiguousAssignment(movement.place, movement.account);
     }
 }
 
 Draft JournalBooks::finish()
 {
-    if (m_failedAssertion) {
-        std::ranges::stable_sort(m_movements, {}, &Movement::date);
-        Balances balances;
-        for (const Movement &movement : m_movements) {
-            balances[{movement.account, movement.amount.commodity}] += movement.amount.number;
-            if (movement.assertion && balances[{movement.account, movement.assertion->commodity}] !=
-                                          movement.assertion->number)
-                throw ImportError(*m_failedAssertion);
-        }
-    }
+    checkByDay();
     for (const auto &[account, currency, place] : m_wanted)
         (void)accountOf(account, currency, place);
+    checkKinds();
+    if (m_withoutEffect > 0)
+        notice(QObject::tr("%n transaction(s) that move nothing are left out.", nullptr,
+                           m_withoutEffect));
     return std::move(m_draft);
-}
-
-// ---- booking -------------------------------------------------------------------
-
-AccountTypes JournalBooks::typeOf(const QString &name, const QString &root,
-                                  const Place &place) const
-{
-    // The nearest declaration counts, and then the root.
-    for (QString above = name; !above.isEmpty();
-         above = above.contains(u':') ? above.section(u':', 0, -2) : QString()) {
-        const auto declared = m_declaredTypes.find(above);
-        if (declared != m_declaredTypes.end())
-            return declared->second;
-    }
-    const auto given = m_options.roots.find(root.toLower());
-    const AccountTypes type = given == m_options.roots.end() ? typeOfRoot(root) : given->second;
-    if (type == AccountTypes::Unknown)
-        throw faults::unknownRoot(place, root);
-    return type;
-}
-
-std::size_t JournalBooks::accountOf(const QString &name, const numira::Currency &currency,
-                                    const Place &place)
-{
-    // No chart of accounts is so deep; each level opens an account of its own.
-    constexpr qsizetype levelsMax = 100;
-    QStringList names = name.split(u':');
-    if (names.size() > levelsMax)
-        throw faults::unsupported(place, name);
-    for (QString &part : names) {
-        part = part.simplified();
-        if (part.isEmpty())
-            throw faults::noAccount(place);
-    }
-    DraftAccount account;
-    account.type = typeOf(name, names.front(), place);
-    // What is posted to the root itself gets an account of its name.
-    if (names.size() > 1)
-        names.removeFirst();
-    account.names = names;
-    account.currency = currency;
-    if (const auto number = m_declaredNumbers.find(name); number != m_declaredNumbers.end())
-        account.number = number->second;
-    return indexOf(std::move(account));
-}
-
-std::size_t JournalBooks::indexOf(DraftAccount account)
-{
-    const auto [known, isNew] = m_indexes.try_emplace(
-        {account.type, account.names, account.currency}, m_draft.accounts.size());
-    if (isNew)
-        m_draft.accounts.push_back(std::move(account));
-    return known->second;
-}
-
-JournalBooks::Booking JournalBooks::bookingOf(const Posting &posting)
-{
-    std::optional<numira::Currency> currency = currencyOf(posting.known().commodity);
-    const Quantity *kept = &posting.known();
-    if (!currency && posting.cost) {
-        kept = &*posting.cost;
-        currency = currencyOf(kept->commodity);
-        notice(QObject::tr("What is no currency is kept at its cost."));
-    }
-    if (!currency)
-        throw faults::notMoney(posting.place, kept->commodity);
-    return {accountOf(posting.account, *currency, posting.place),
-            numira::Money(*currency, kept->number), posting.status, posting.comments};
-}
-
-void JournalBooks::book(const Entry &entry)
-{
-    std::vector<Booking> bookings;
-    for (const Posting &posting : entry.postings) {
-        Booking booking = bookingOf(posting);
-        if (posting.kind == PostingKind::Virtual) {
-            notice(QObject::tr("Unbalanced virtual postings are kept against Equity:Virtual."));
-            const numira::Money amount = booking.amount;
-            settle(entry,
-                   {std::move(booking),
-                    {indexOf({AccountTypes::Equity, {QStringLiteral("Virtual")}, amount.code()}),
-                     -amount}});
-        } else {
-            bookings.push_back(std::move(booking));
-        }
-    }
-    addConversions(bookings);
-    settle(entry, std::move(bookings));
-}
-
-void JournalBooks::addConversions(std::vector<Booking> &bookings)
-{
-    std::map<numira::Currency, numira::Money> sums;
-    for (const Booking &booking : bookings)
-        sums.try_emplace(booking.amount.code(), booking.amount.code()).first->second +=
-            booking.amount;
-    for (const auto &[currency, sum] : sums) {
-        if (!sum.isZero())
-            bookings.push_back(
-                {indexOf({AccountTypes::Equity,
-                          {QStringLiteral("Conversion"), foundation::toQString(currency)},
-                          currency}),
-                 -sum});
-    }
-}
-
-void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
-{
-    // An account that goes both up and down only changes by the difference;
-    // money cannot go from it to itself.
-    std::map<std::size_t, std::pair<bool, bool>> ways;
-    for (const Booking &booking : bookings) {
-        ways[booking.account].first |= booking.amount.isPositive();
-        ways[booking.account].second |= booking.amount.isNegative();
-    }
-    std::map<std::size_t, Booking> nets;
-    std::deque<Booking> debits;
-    std::deque<Booking> credits;
-    const auto sort = [&](Booking booking) {
-        if (booking.amount.isPositive())
-            debits.push_back(std::move(booking));
-        else if (booking.amount.isNegative())
-            credits.push_back(std::move(booking));
-    };
-    for (Booking &booking : bookings) {
-        if (ways[booking.account] != std::pair(true, true)) {
-            sort(std::move(booking));
-            continue;
-        }
-        const auto [net, isNew] = nets.try_emplace(booking.account, booking);
-        if (!isNew) {
-            net->second.amount += booking.amount;
-            net->second.comments += booking.comments;
-        }
-    }
-    for (auto &[account, net] : nets)
-        sort(std::move(net));
-
-    // Each pass settles one booking of one currency; in each, both sides come to the
-    // same.
-    std::ranges::stable_sort(debits, {}, [](const Booking &b) { return b.amount.code(); });
-    std::ranges::stable_sort(credits, {}, [](const Booking &b) { return b.amount.code(); });
-    while (!debits.empty()) {
-        Booking &debit = debits.front();
-        Booking &credit = credits.front();
-        const numira::Money amount = std::min(debit.amount, -credit.amount);
-        addTransaction(entry, debit, credit, amount);
-        debit.amount -= amount;
-        credit.amount += amount;
-        if (debit.amount.isZero())
-            debits.pop_front();
-        if (credit.amount.isZero())
-            credits.pop_front();
-    }
-}
-
-void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, const Booking &credit,
-                                  const numira::Money &amount)
-{
-    // What is kept of comments in a description; each pair of postings has all.
-    constexpr qsizetype commentsMax = 2000;
-    constexpr qsizetype lengthMin = 20; // so that there are not too many short ones
-    qsizetype length = 0;
-    QStringList texts{entry.description};
-    for (const QStringList *comments : {&entry.comments, &debit.comments, &credit.comments}) {
-        for (const QString &comment : *comments) {
-            length += std::max(comment.size() + 1, lengthMin);
-            if (length > commentsMax) {
-                notice(QObject::tr("Of long comments the beginning is kept."));
-                break;
-            }
-            if (!comment.isEmpty() && !texts.contains(comment))
-                texts += comment;
-        }
-    }
-    texts.removeAll(QString());
-    if (static_cast<qsizetype>(m_draft.transactions.size()) >= transactionsMax)
-        throw faults::tooManyTransactions(entry.place, transactionsMax);
-    m_draft.transactions.push_back({entry.date, debit.account, credit.account, amount,
-                                    texts.join(QStringLiteral("; ")), debit.status, credit.status,
-                                    entry.place});
 }
 
 } // namespace kiv::interchange::internal

@@ -4,11 +4,18 @@
 #include "interchange/internal/journal_parser.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
+
+#include <bitset>
 
 namespace kiv::interchange::internal {
 
+/// The currency that a commodity is; nothing for another one.
+[[nodiscard]] std::optional<numira::Currency> currencyOf(const QString &commodity);
+
 /// Balances the entries of a journal and splits them into transactions between
-/// two accounts.
+/// two accounts. Written in two sources: entries, automated transactions and
+/// assertions; and bookings.
 class JournalBooks final : public JournalSink {
 public:
     explicit JournalBooks(const JournalOptions &options) : m_options(options) {}
@@ -34,24 +41,46 @@ private:
     struct Rule {
         QRegularExpression pattern;
         Entry entry;
-        std::map<QString, bool> fits = {}; ///< by the names that were asked for
+    };
+    static constexpr std::size_t rulesMax = 100; ///< each is tried on each account
+    /// The rules that fit an account, as far as they were asked.
+    struct Fitting {
+        std::size_t asked = 0;
+        std::bitset<rulesMax> rules = {};
     };
     /// A posting, for the assertions: they may hold in the order of the days.
     struct Movement {
         QDate date;
         QString account;
+        PostingKind kind;
         Quantity amount;
         std::optional<Quantity> assertion;
+        bool isAssigned; ///< whether the amount comes from the assertion
         Place place;
     };
-    using Balances = std::map<std::pair<QString, QString>, numira::Decimal>;
+    /// By account and commodity. Whether virtual postings count is not the same
+    /// everywhere.
+    struct Balance {
+        numira::Decimal all;
+        numira::Decimal real; ///< without virtual postings
+    };
+    using Balances = std::map<std::pair<QString, QString>, Balance>;
+    struct KnownAccount {
+        std::size_t index; ///< in the draft
+        Place place;       ///< where it is met first
+    };
 
     void fill(std::vector<Posting> &postings, const Place &place);
     void checkBalance(std::vector<Posting *> &group, const Place &place);
     void inferCost(std::vector<Posting *> &group, const std::map<QString, numira::Decimal> &rest);
     void applyRules(const Entry &entry);
-    void assign(Entry &entry);
+    [[nodiscard]] bool fits(std::size_t rule, const QString &account);
+    void assign(Entry &entry) const;
     void move(const Entry &entry);
+    [[nodiscard]] static Movement movementOf(const Entry &entry, const Posting &posting);
+    [[nodiscard]] static bool holds(const Balances &balances, const Movement &movement);
+    static void add(Balances &balances, const Movement &movement);
+    void checkByDay();
     void book(const Entry &entry);
     [[nodiscard]] Booking bookingOf(const Posting &posting);
     void addConversions(std::vector<Booking> &bookings);
@@ -61,7 +90,11 @@ private:
 
     [[nodiscard]] std::size_t accountOf(const QString &name, const numira::Currency &currency,
                                         const Place &place);
-    [[nodiscard]] std::size_t indexOf(DraftAccount account);
+    [[nodiscard]] std::size_t newAccount(const QString &name, const numira::Currency &currency,
+                                         const Place &place);
+    void checkKinds() const;
+    /// The draft's account; `name` is kept when it is new.
+    [[nodiscard]] std::size_t indexOf(DraftAccount account, const QString &name);
     [[nodiscard]] accounting::AccountTypes typeOf(const QString &name, const QString &root,
                                                   const Place &place) const;
 
@@ -74,7 +107,16 @@ private:
     /// Accounts that are declared with their currency are wanted without a
     /// posting, too.
     std::vector<std::tuple<QString, numira::Currency, Place>> m_wanted;
+    std::map<std::pair<QString, numira::Currency>, KnownAccount> m_known;
+    std::vector<QString> m_names; ///< the first of each of the draft's accounts
+    bool m_hasJoined = false;     ///< whether one of them has further names
+    QSet<QString> m_paths;        ///< of the accounts and those above them
+    qsizetype m_pathsSize = 0;
+    qsizetype m_opened = 0; ///< accounts that are opened, at most
+    qsizetype m_descriptionsSize = 0;
+    int m_withoutEffect = 0; ///< entries
     std::vector<Rule> m_rules;
+    std::map<QString, Fitting> m_fitting;
     Balances m_balances;
     std::vector<Movement> m_movements;
     std::optional<ImportError> m_failedAssertion;

@@ -28,6 +28,7 @@ struct Posting {
     /// What all of the amount cost, with the amount's sign.
     std::optional<Quantity> cost = {};
     std::optional<Quantity> assertion = {};
+    bool isAssigned = false; ///< whether the amount is what leads to the assertion
     QStringList comments = {};
 
     /// The amount, once a posting without one has got it from the others.
@@ -76,7 +77,7 @@ public:
 
     /// Reads an amount from the beginning of `rest`, which then holds what comes
     /// behind it.
-    Quantity read(QStringView &rest, const Place &place) const;
+    Quantity read(QStringView &rest, const Place &place);
 
 private:
     struct Written {
@@ -90,9 +91,13 @@ private:
     const JournalOptions &m_options;
     const AmountSettings &m_settings;
     std::map<QString, DecimalMark> m_marks;
+    std::set<QString> m_withComma; ///< commodities whose amounts had a decimal comma
 };
 
 /// Moves behind the blanks.
 void skipBlanks(QStringView &rest);
+
+/// The text behind a semicolon, which is taken off with it.
+QString takeComment(QString &text);
 
 } // namespace kiv::interchange::internal

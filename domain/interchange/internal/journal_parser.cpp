@@ -2,6 +2,7 @@
 #include "interchange/internal/journal_parser.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/limits.h"
 
 #include "numira/error.h"
 
@@ -11,16 +12,6 @@
 namespace kiv::interchange::internal {
 
 namespace {
-
-constexpr int depthMax = 8;
-constexpr int includesMax = 1000;
-/// Of what stands in place of or before each account's name, which postings copy.
-constexpr qsizetype nameMax = 200;
-
-bool isBlank(QStringView line)
-{
-    return line.trimmed().isEmpty();
-}
 
 bool isComment(QStringView line)
 {
@@ -32,39 +23,15 @@ bool isIndented(QStringView line)
     return !line.isEmpty() && line.front().isSpace();
 }
 
-/// Whether a line below a declaration says what is of no concern here.
-bool isRemark(const QString &line)
+/// Whether the line ends a block comment that begins with `word`.
+bool endsComment(QStringView line, const QString &word, const Place &place)
 {
-    static const QRegularExpression form(
-        QStringLiteral("^(?:;|(?:note|payee) |(?:nomarket|default)$)"));
-    return form.match(line).hasMatch();
-}
-
-/// The text behind a semicolon, which is taken off with it.
-QString takeComment(QString &text)
-{
-    const qsizetype at = text.indexOf(u';');
-    if (at < 0)
-        return {};
-    QString comment = text.mid(at + 1).trimmed();
-    text = text.left(at).trimmed();
-    return comment;
-}
-
-/// The path of a file that is named in another one.
-QString nameBeside(const QString &file, const QString &path)
-{
-    return path.startsWith(u'/') ? path : file.left(file.lastIndexOf(u'/') + 1) + path;
-}
-
-/// "name: value" pairs of a comment, with commas between them.
-void addTags(const QString &comment, std::map<QString, QString> &tags)
-{
-    for (const QString &part : comment.split(u',')) {
-        const qsizetype colon = part.indexOf(u':');
-        if (colon > 0)
-            tags.insert_or_assign(part.left(colon).trimmed(), part.mid(colon + 1).trimmed());
-    }
+    if (!line.startsWith(u"end comment") && !line.startsWith(u"end test"))
+        return false;
+    // Where another end counts, and where it does not, is not the same everywhere.
+    if (line.trimmed() != QStringLiteral("end ") + word)
+        throw faults::unsupported(place, line.toString());
+    return true;
 }
 
 accounting::TransactionStatuses takeStatus(QStringView &rest)
@@ -92,6 +59,16 @@ QString takeAccountName(QStringView &rest)
 
 } // namespace
 
+QString takeComment(QString &text)
+{
+    const qsizetype at = text.indexOf(u';');
+    if (at < 0)
+        return {};
+    QString comment = text.mid(at + 1).trimmed();
+    text = text.left(at).trimmed();
+    return comment;
+}
+
 const QString &JournalParser::ownHeader()
 {
     static const QString header = QStringLiteral("; kiv journal, version 1");
@@ -104,207 +81,60 @@ void JournalParser::parse(const QByteArray &bytes, const QString &file)
     m_settings.isOwn = text.startsWith(ownHeader());
     LineCursor lines(text, file);
     std::optional<Block> block;
-    std::optional<Place> skipping; // a block comment
+    std::optional<Block> skipping; // a block comment
     const auto finish = [&] {
         if (block)
             take(*std::exchange(block, std::nullopt));
     };
     while (lines.next()) {
         const QStringView line = lines.line();
+        const QStringView trimmed = line.trimmed();
         if (skipping) {
-            if (line.trimmed() == u"end comment" || line.trimmed() == u"end test")
+            if (endsComment(line, skipping->head, lines.place()))
                 skipping.reset();
-        } else if (isIndented(line)) {
-            if (isBlank(line))
-                continue;
+        } else if (isIndented(line) && !trimmed.isEmpty()) {
             if (block)
-                block->lines.emplace_back(lines.place(), line.trimmed().toString());
-            else if (!isComment(line.trimmed()))
+                block->add(lines.place(), trimmed);
+            else if (!isComment(trimmed))
                 throw faults::strayLine(lines.place());
         } else {
             finish();
-            if (line.trimmed() == u"comment" || line.trimmed() == u"test")
-                skipping = lines.place();
-            else if (!line.isEmpty() && !isComment(line))
-                block = Block{lines.place(), line.trimmed().toString()};
+            if (trimmed == u"comment" || trimmed == u"test")
+                skipping = Block{lines.place(), trimmed.toString()};
+            else if (!trimmed.isEmpty() && !isComment(line))
+                block = Block{lines.place(), trimmed.toString(), line.size()};
         }
     }
     finish();
     if (skipping)
-        throw faults::notClosed(*skipping, QStringLiteral("comment"));
+        throw faults::notClosed(skipping->place, QStringLiteral("comment"));
 }
 
-void JournalParser::take(const Block &block)
+void JournalParser::Block::add(const Place &at, QStringView line)
+{
+    size += std::max(line.size(), limits::lineTextMin);
+    if (size > limits::entryTextMax)
+        throw faults::textTooLong(at, limits::entryTextMax);
+    lines.emplace_back(at, line);
+}
+
+void JournalParser::take(Block block)
 try {
     const QChar first = block.head.front();
-    if (first >= u'0' && first <= u'9')
+    if (first >= u'0' && first <= u'9') {
         takeEntry(block);
-    else if (first == u'=')
+    } else if (first == u'=') {
         takeAutomated(block);
-    else if (first == u'~')
+    } else if (first == u'~') {
+        (void)block.takeLines();
         m_sink.notice(QObject::tr("Periodic transactions are left out."));
-    else
+    } else {
         takeDirective(block);
+    }
+    if (!block.lines.empty())
+        throw faults::strayLine(block.lines.front().first);
 } catch (const numira::Error &cause) {
     throw faults::tooLarge(block.place, cause);
-}
-
-// ---- directives ----------------------------------------------------------------
-
-void JournalParser::takeDirective(const Block &block)
-{
-    QString rest = block.head;
-    // Directives once began with "!" or "@".
-    if (rest.startsWith(u'!') || rest.startsWith(u'@'))
-        rest = rest.mid(1);
-    const auto blank = std::ranges::find_if(rest, [](QChar c) { return c.isSpace(); });
-    const QString word = rest.left(blank - rest.begin());
-    static const QRegularExpression year(QStringLiteral("^(?:year\\s+|Y\\s*)([1-9][0-9]{3})$"));
-    const auto ofYear = year.match(rest);
-    rest = rest.mid(word.size()).trimmed();
-    if (word == u"account") {
-        takeAccount(block, rest);
-    } else if (word == u"commodity" || word == u"D") {
-        takeCommodity(block, word == u"D", rest);
-    } else if (word == u"include") {
-        takeInclude(block, rest);
-    } else if (word == u"apply") {
-        takeApply(block, rest);
-    } else if (word == u"end") {
-        takeEnd(block, rest);
-    } else if (word == u"alias") {
-        takeAlias(block.place, rest.section(u'=', 0, 0), rest.section(u'=', 1));
-    } else if (word == u"P") {
-        m_sink.notice(QObject::tr("Market prices are left out; they change no balance."));
-    } else if (word == u"decimal-mark" && (rest == u"." || rest == u",")) {
-        m_settings.amounts.mark = static_cast<DecimalMark>(rest.front().unicode());
-    } else if (ofYear.hasMatch()) {
-        m_settings.year = ofYear.captured(1).toInt();
-    } else if (word == u"payee" || word == u"tag" || word == u"N") {
-        // They only declare what may be written, unless an alias stands below.
-        for (const auto &[place, line] : block.lines) {
-            if (!isRemark(line))
-                throw faults::unknownDirective(place, line);
-        }
-    } else {
-        throw faults::unknownDirective(block.place, block.head);
-    }
-}
-
-void JournalParser::takeAccount(const Block &block, const QString &name)
-{
-    QString account = name;
-    std::map<QString, QString> tags;
-    addTags(takeComment(account), tags);
-    for (const auto &[place, line] : block.lines) {
-        if (line.startsWith(u';'))
-            addTags(line.mid(1).trimmed(), tags);
-        else if (line.startsWith(u"alias "))
-            takeAlias(place, line.mid(6), account);
-        else if (!isRemark(line))
-            throw faults::unknownDirective(place, line);
-    }
-    if (!m_settings.isOwn) {
-        tags.erase(QStringLiteral("number"));
-        tags.erase(QStringLiteral("currency"));
-    }
-    m_sink.declare(fullName(account.simplified()), tags, block.place);
-}
-
-void JournalParser::takeCommodity(const Block &block, bool isDefault, const QString &sample)
-{
-    QString amount = sample;
-    takeComment(amount);
-    // A name in quotes may have digits, too.
-    static const QRegularExpression withNumber(QStringLiteral("^(?:\"[^\"]*\")?[^\"]*[0-9]"));
-    if (isDefault)
-        m_settings.amounts.commodity = m_quantities.declare(amount, block.place);
-    else if (withNumber.match(amount).hasMatch())
-        m_quantities.declare(amount, block.place);
-    for (const auto &[place, line] : block.lines) {
-        if (line.startsWith(u"format "))
-            m_quantities.declare(QStringView(line).sliced(7).trimmed(), place);
-        else if (!isRemark(line))
-            throw faults::unknownDirective(place, line);
-    }
-}
-
-void JournalParser::takeInclude(const Block &block, const QString &path)
-{
-    if (!m_options.include)
-        throw faults::includeRefused(block.place, path, QObject::tr("there is no folder for it"));
-    if (m_settings.depth >= depthMax)
-        throw faults::includeRefused(block.place, path,
-                                     QObject::tr("files include each other too deeply"));
-    // Each of eight files may include the next one many times.
-    if (++m_included > includesMax)
-        throw faults::includeRefused(
-            block.place, path,
-            QObject::tr("a journal includes no more than %1 files").arg(includesMax));
-    const Settings outer = m_settings;
-    ++m_settings.depth;
-    parse(m_options.include(path, block.place), nameBeside(block.place.file, path));
-    m_settings = outer;
-}
-
-void JournalParser::takeApply(const Block &block, const QString &rest)
-{
-    // Every transaction copies them.
-    constexpr std::size_t appliedMax = 100;
-    const QString kind = rest.section(u' ', 0, 0);
-    const QString value = rest.mid(kind.size()).trimmed();
-    if (m_settings.applied.size() >= appliedMax)
-        throw faults::nestedTooDeeply(block.place);
-    if (value.isEmpty() || (kind != u"tag" && kind != u"account"))
-        throw faults::unknownDirective(block.place, block.head);
-    m_settings.applied.push_back({kind, value});
-    // Which of an alias and a parent comes first is not the same everywhere.
-    if (kind == u"account" && (!m_aliases.empty() || fullName({}).size() > nameMax))
-        throw faults::unsupported(block.place, block.head);
-}
-
-void JournalParser::takeEnd(const Block &block, const QString &rest)
-{
-    if (rest == u"aliases")
-        return m_aliases.clear();
-    const QString kind = rest.startsWith(u"apply") ? rest.mid(5).trimmed() : rest;
-    if (m_settings.applied.empty() || (!kind.isEmpty() && kind != m_settings.applied.back().kind))
-        throw faults::unknownDirective(block.place, block.head);
-    m_settings.applied.pop_back();
-}
-
-void JournalParser::takeAlias(const Place &place, const QString &alias, const QString &account)
-{
-    const QString name = alias.simplified();
-    const QString target = account.simplified();
-    const bool isPattern = name.startsWith(u'/');
-    if (name.isEmpty() || target.isEmpty() || isPattern || target.size() > nameMax ||
-        isApplied(QStringLiteral("account")))
-        throw faults::unsupported(place, QStringLiteral("alias ") + alias);
-    m_aliases.insert_or_assign(name, target);
-}
-
-bool JournalParser::isApplied(const QString &kind) const
-{
-    return std::ranges::find(m_settings.applied, kind, &Applied::kind) != m_settings.applied.end();
-}
-
-QString JournalParser::fullName(const QString &name) const
-{
-    QString parents;
-    for (const Applied &applied : m_settings.applied)
-        parents += applied.kind == u"account" ? applied.value + u':' : QString();
-    // An alias stands for an account or for one of its parents; the longest counts.
-    constexpr int levelsMax = 100;
-    QString full = parents + name;
-    qsizetype end = m_aliases.empty() ? -1 : 0;
-    for (int level = 0; level < levelsMax && end >= 0; ++level) {
-        end = name.indexOf(u':', end + 1);
-        const auto alias = m_aliases.find(end < 0 ? name : name.left(end));
-        if (alias != m_aliases.end())
-            full = alias->second + (end < 0 ? QString() : name.mid(end));
-    }
-    return full;
 }
 
 // ---- entries -------------------------------------------------------------------
@@ -334,7 +164,7 @@ QDate takeDate(QStringView &rest, std::optional<int> year, const Place &place)
 
 } // namespace
 
-void JournalParser::takeEntry(const Block &block)
+void JournalParser::takeEntry(Block &block)
 {
     Entry entry{block.place};
     QStringView rest = block.head;
@@ -358,6 +188,7 @@ void JournalParser::takeEntry(const Block &block)
     const QString comment = takeComment(entry.description);
     if (!code.isEmpty() && !m_settings.isOwn)
         entry.description = (u'(' + code + QStringLiteral(") ") + entry.description).trimmed();
+    noticeDays(comment);
     entry.comments += comment;
     for (const Applied &applied : m_settings.applied) {
         if (applied.kind == u"tag")
@@ -367,7 +198,7 @@ void JournalParser::takeEntry(const Block &block)
     m_sink.add(std::move(entry));
 }
 
-void JournalParser::takeAutomated(const Block &block)
+void JournalParser::takeAutomated(Block &block)
 {
     QString pattern = block.head.mid(1).trimmed();
     takeComment(pattern);
@@ -387,22 +218,33 @@ void JournalParser::takeAutomated(const Block &block)
     m_sink.add(AutomatedEntry{match.captured(1) + match.captured(2), std::move(entry)});
 }
 
-void JournalParser::addPostings(const Block &block, Entry &entry) const
+void JournalParser::addPostings(Block &block, Entry &entry)
 {
-    for (const auto &[place, line] : block.lines) {
+    for (const auto &[place, line] : block.takeLines()) {
         if (line.startsWith(u';')) {
-            const QString comment = line.mid(1).trimmed();
+            const QString comment = line.sliced(1).trimmed().toString();
+            noticeDays(comment);
             (entry.postings.empty() ? entry.comments : entry.postings.back().comments) += comment;
         } else {
             entry.postings.push_back(readPosting(place, line));
             Posting &posting = entry.postings.back();
             if (posting.status == accounting::TransactionStatuses::None)
                 posting.status = entry.status;
+            for (const QString &comment : posting.comments)
+                noticeDays(comment);
         }
     }
 }
 
-Posting JournalParser::readPosting(const Place &place, QStringView line) const
+void JournalParser::noticeDays(const QString &comment)
+{
+    static const QRegularExpression day(QStringLiteral("\\[=?[0-9]|(?:^|[\\s,])date2?:"));
+    if (day.match(comment).hasMatch())
+        m_sink.notice(QObject::tr("Days in comments are left out; all of a transaction has its "
+                                  "day."));
+}
+
+Posting JournalParser::readPosting(const Place &place, QStringView line)
 {
     Posting posting{place};
     posting.status = takeStatus(line);
@@ -418,12 +260,15 @@ Posting JournalParser::readPosting(const Place &place, QStringView line) const
         posting.account = posting.account.mid(1, posting.account.size() - 2).trimmed();
     if (posting.account.isEmpty())
         throw faults::noAccount(place);
-    posting.account = fullName(posting.account);
+    posting.account = fullName(posting.account, place);
+    // There the payee of the transaction chooses another account.
+    if (m_hasPayees && posting.account.section(u':', -1) == u"Unknown")
+        throw faults::unsupported(place, posting.account);
     readAmounts(line, posting);
     return posting;
 }
 
-void JournalParser::readAmounts(QStringView rest, Posting &posting) const
+void JournalParser::readAmounts(QStringView rest, Posting &posting)
 {
     if (!rest.isEmpty() && rest.front() != u';' && rest.front() != u'=') {
         if (rest.startsWith(u'('))
@@ -434,6 +279,10 @@ void JournalParser::readAmounts(QStringView rest, Posting &posting) const
         posting.amount = m_quantities.read(rest, posting.place);
         if (isMultiplier && !posting.amount->commodity.isEmpty())
             throw faults::unsupported(posting.place, whole.toString());
+        // A default currency may make an amount of what is a multiplier elsewhere.
+        if (!isMultiplier && posting.amount->commodity.isEmpty() &&
+            !m_settings.amounts.usesDefault && !m_settings.amounts.commodity.isEmpty())
+            throw faults::ambiguousMultiplier(posting.place, whole.toString());
         skipBlanks(rest);
         readCost(rest, posting);
     }
@@ -451,7 +300,7 @@ void JournalParser::readAmounts(QStringView rest, Posting &posting) const
         throw faults::unsupported(posting.place, rest.toString());
 }
 
-void JournalParser::readCost(QStringView &rest, Posting &posting) const
+void JournalParser::readCost(QStringView &rest, Posting &posting)
 {
     if (!rest.startsWith(u'@'))
         return;

@@ -4,6 +4,8 @@
 #include "interchange/internal/journal_entry.h"
 #include "interchange/text_decoding.h"
 
+#include <QtCore/QMap>
+
 namespace kiv::interchange::internal {
 
 /// Takes what a parser finds, in the order of the file.
@@ -19,7 +21,8 @@ public:
 };
 
 /// Turns the lines of a journal into entries. Knows the forms that ledger and
-/// hledger share, and refuses everything else.
+/// hledger share, and refuses everything else. Written in two sources: lines and
+/// entries; and directives.
 class JournalParser {
 public:
     JournalParser(const JournalOptions &options, JournalSink &sink)
@@ -35,12 +38,25 @@ public:
     static const QString &ownHeader();
 
 private:
-    /// A directive's or entry's first line, and the indented ones behind it.
+    using Line = std::pair<Place, QStringView>; ///< of the text that is parsed
+
+    /// A directive's or entry's first line, and the indented ones behind it. Whoever
+    /// knows what these mean takes them; those that nobody took are refused.
     struct Block {
         Place place;
         QString head;
-        std::vector<std::pair<Place, QString>> lines = {};
+        qsizetype size = 0; ///< of its text, see entryTextMax
+        std::vector<Line> lines = {};
+
+        void add(const Place &at, QStringView line);
+        [[nodiscard]] std::vector<Line> takeLines() { return std::exchange(lines, {}); }
     };
+
+    struct Alias {
+        QString account;
+        std::size_t order = 0; ///< a later one has a greater one
+    };
+    using Aliases = QMap<QString, Alias>;
 
     /// What "apply tag" or "apply account" says of the lines behind it.
     struct Applied {
@@ -56,31 +72,41 @@ private:
         std::optional<int> year = {};
         std::vector<Applied> applied = {};
         AmountSettings amounts = {};
+        Aliases aliases = {};
     };
 
-    void take(const Block &block);
-    void takeDirective(const Block &block);
-    void takeAccount(const Block &block, const QString &name);
-    void takeCommodity(const Block &block, bool isDefault, const QString &sample);
+    void take(Block block);
+    void takeDirective(Block &block);
+    void takeAccount(Block &block, const QString &name);
+    void takeCommodity(Block &block, bool isDefault, const QString &sample);
+    static void takeRemarks(Block &block);
     void takeInclude(const Block &block, const QString &path);
     void takeApply(const Block &block, const QString &rest);
     void takeEnd(const Block &block, const QString &rest);
     void takeAlias(const Place &place, const QString &alias, const QString &account);
     [[nodiscard]] bool isApplied(const QString &kind) const;
+    /// What the name is with an alias of all of it, or else of its root, replaced.
+    [[nodiscard]] static QString withWholeOrRoot(const Aliases &aliases, const QString &name);
+    /// What the name is with the latest alias of it, or of a parent, replaced, and so on.
+    [[nodiscard]] static QString withLatest(const Aliases &aliases, QString name);
     /// The account that such a name stands for, under what is applied.
-    [[nodiscard]] QString fullName(const QString &name) const;
-    void takeEntry(const Block &block);
-    void takeAutomated(const Block &block);
-    void addPostings(const Block &block, Entry &entry) const;
-    [[nodiscard]] Posting readPosting(const Place &place, QStringView line) const;
-    void readAmounts(QStringView rest, Posting &posting) const;
-    void readCost(QStringView &rest, Posting &posting) const;
+    [[nodiscard]] QString fullName(const QString &name, const Place &place) const;
+    void takeEntry(Block &block);
+    void takeAutomated(Block &block);
+    void addPostings(Block &block, Entry &entry);
+    void noticeDays(const QString &comment);
+    [[nodiscard]] Posting readPosting(const Place &place, QStringView line);
+    void readAmounts(QStringView rest, Posting &posting);
+    void readCost(QStringView &rest, Posting &posting);
 
     const JournalOptions &m_options;
     JournalSink &m_sink;
     Settings m_settings;
     QuantityReader m_quantities;
-    std::map<QString, QString> m_aliases; ///< the accounts that they stand for
+    Aliases m_aliases; ///< those of included files go on behind them
+    std::size_t m_aliasOrder = 0;
+    bool m_hasPayees = false; ///< whether payees choose accounts
+    qsizetype m_declared = 0;
     int m_included = 0;
 };
 

@@ -123,7 +123,7 @@ QString QuantityReader::declare(QStringView sample, const Place &place)
     return commodity;
 }
 
-Quantity QuantityReader::read(QStringView &rest, const Place &place) const
+Quantity QuantityReader::read(QStringView &rest, const Place &place)
 {
     const Written written = split(rest, place);
     const QString commodity = named(written.commodity);
@@ -131,6 +131,16 @@ Quantity QuantityReader::read(QStringView &rest, const Place &place) const
         m_options.decimalMark ? m_options.decimalMark : m_settings.mark;
     if (const auto declared = m_marks.find(commodity); !mark && declared != m_marks.end())
         mark = declared->second;
+    if (!mark) {
+        // Where amounts have a decimal comma, "1.234" may be a thousand.
+        const qsizetype point = written.number.lastIndexOf(u'.');
+        const qsizetype comma = written.number.indexOf(u',');
+        if (comma < 0 && point >= 0 && written.number.size() - point == 4 &&
+            m_withComma.contains(commodity))
+            throw faults::ambiguousNumber(place, written.number);
+        if (comma > point && written.number.count(u',') == 1)
+            m_withComma.insert(commodity);
+    }
     const numira::Decimal number = readNumber(written.number, mark, place);
     return {written.isNegative ? -number : number, commodity};
 }
