@@ -2,6 +2,7 @@
 // Construction and wiring.
 #include "navigation/navigator.h"
 
+#include "navigation/failure.h"
 #include "navigation/internal/budget_bank_ledgers.h"
 #include "navigation/internal/logging.h"
 #include "navigation/internal/meta_types.h"
@@ -59,6 +60,7 @@ Navigator::Navigator(foundation::UniqueQtPtr<networking::RequestSender> sender,
       m_exchangeRatesStorage(std::move(exchangeRates)),
       m_tagManager(tagging::BudgetItemTags())
 {
+    new LastFailure(this);
     internal::registerMetaTypes();
     setUpMoneyLibrary();
     initialiseConversions();

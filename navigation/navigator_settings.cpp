@@ -82,7 +82,12 @@ conversion::ConversionMap Navigator::fetchRates(const std::set<numira::Currency>
     // A front end may have destroyed the source; what is known stays then.
     if (!m_exchangeRatesSource)
         return CurrencyConverter::cache();
-    return CurrencyConverter(*m_exchangeRatesSource).fetchAll(currencies);
+    CurrencyConverter converter(*m_exchangeRatesSource);
+    const QPointer<Navigator> self(this);
+    conversion::ConversionMap fetched = converter.fetchAll(currencies);
+    if (self && converter.failure())
+        internal::keepFailure(*this, "Failed to fetch the exchange rates.", *converter.failure());
+    return fetched;
 }
 
 // ---- configuration -----------------------------------------------------------
@@ -114,6 +119,13 @@ void Navigator::onFetchReleaseNotes()
     }
     auto *fetcher = new updating::ReleaseInformationFetcher(*m_requestManager,
                                                             foundation::QtPtr<QObject>(this));
+    connect(fetcher, &updating::ReleaseInformationFetcher::fetched, this, [this, fetcher] {
+        if (fetcher->failure())
+            internal::keepFailure(*this, "Failed to fetch the list of releases.",
+                                  *fetcher->failure());
+        else if (LastFailure *last = LastFailure::of(*this))
+            last->clear();
+    });
     connect(fetcher, &updating::ReleaseInformationFetcher::fetched, this,
             &Navigator::fetchedReleaseNotes);
     connect(fetcher, &updating::ReleaseInformationFetcher::fetched, fetcher, &QObject::deleteLater);

@@ -44,6 +44,8 @@ void Navigator::onCompletedNewBudgetFirstTimeWizard(
                        addWizardBank(primary, kind, accountName, initialBalance));
     };
     onConfirmedNewBudgetEmpty();
+    if (LastFailure *last = LastFailure::of(*this))
+        last->clear();
     try {
         build();
         // Once more: the first announcement emptied the views, this one lets
@@ -51,6 +53,10 @@ void Navigator::onCompletedNewBudgetFirstTimeWizard(
         emit showNewBudget();
     } catch (const std::exception &error) {
         internal::logWarning("Failed to complete the first time wizard.", error);
+        // A slot that refused has left the reason; what stands in for its answer
+        // tells less.
+        if (const LastFailure *last = LastFailure::of(*this); last && !last->failure())
+            internal::keepFailure(*this, "Failed to complete the first time wizard.", error);
         onConfirmedNewBudgetEmpty();
     }
 }

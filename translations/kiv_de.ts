@@ -2446,10 +2446,6 @@
         <translation>kiv banks zählt auf, welche es gibt</translation>
     </message>
     <message>
-        <source>No bank keeps the account &apos;%1&apos;; kiv bank-account attach ties it to one.</source>
-        <translation>Keine Bank führt das Konto „%1“; kiv bank-account attach verknüpft es mit einer.</translation>
-    </message>
-    <message>
         <source>There is no %1 &apos;%2&apos;</source>
         <translation>„%2“ (%1) gibt es nicht</translation>
     </message>
@@ -2464,10 +2460,6 @@
     <message>
         <source>kiv bill list and the like show those that there are</source>
         <translation>kiv bill list und dergleichen zeigen, was es gibt</translation>
-    </message>
-    <message>
-        <source>Several budget items are named &apos;%1&apos;; choose one with --kind: %2.</source>
-        <translation>Mehrere Budgetposten heißen „%1“; einer wird mit --kind gewählt: %2.</translation>
     </message>
     <message>
         <source>The answers ended before the questions.</source>
@@ -3867,10 +3859,6 @@
         <translation>Es kann nichts abgerufen werden: %1.</translation>
     </message>
     <message>
-        <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
-        <translation>Die Änderungen von „%1“ ließen sich nicht speichern; erst mit save-as sichern.</translation>
-    </message>
-    <message>
         <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
         <translation>Der Datensatz hat %1 Zellen, obwohl es nur %2 Überschriften gibt; eine Zelle, die das Trennzeichen enthält, braucht Anführungszeichen.</translation>
     </message>
@@ -4115,6 +4103,30 @@
     <message>
         <source>Days in comments are left out; all of a transaction has its day.</source>
         <translation>Daten in Kommentaren werden weggelassen; alles in einer Buchung hat deren Datum.</translation>
+    </message>
+    <message>
+        <source>No bank keeps the account &apos;%1&apos;</source>
+        <translation>Keine Bank führt das Konto „%1“</translation>
+    </message>
+    <message>
+        <source>Several budget items are named &apos;%1&apos;</source>
+        <translation>Mehrere Budgetposten heißen „%1“</translation>
+    </message>
+    <message>
+        <source>The changes of &apos;%1&apos; could not be saved</source>
+        <translation>Die Änderungen von „%1“ ließen sich nicht speichern</translation>
+    </message>
+    <message>
+        <source>kiv bank-account attach ties it to one</source>
+        <translation>kiv bank-account attach verknüpft es mit einer</translation>
+    </message>
+    <message>
+        <source>choose one with --kind: %1</source>
+        <translation>einer wird mit --kind gewählt: %1</translation>
+    </message>
+    <message>
+        <source>use save-as first</source>
+        <translation>erst mit save-as sichern</translation>
     </message>
 </context>
 <context>

@@ -2446,10 +2446,6 @@
         <translation>kiv banks enumera los que hay</translation>
     </message>
     <message>
-        <source>No bank keeps the account &apos;%1&apos;; kiv bank-account attach ties it to one.</source>
-        <translation>Ningún banco lleva la cuenta «%1»; kiv bank-account attach la vincula a uno.</translation>
-    </message>
-    <message>
         <source>There is no %1 &apos;%2&apos;</source>
         <translation>No existe «%2» (%1)</translation>
     </message>
@@ -2464,10 +2460,6 @@
     <message>
         <source>kiv bill list and the like show those that there are</source>
         <translation>kiv bill list y similares muestran lo que hay</translation>
-    </message>
-    <message>
-        <source>Several budget items are named &apos;%1&apos;; choose one with --kind: %2.</source>
-        <translation>Varias partidas se llaman «%1»; se elige una con --kind: %2.</translation>
     </message>
     <message>
         <source>The answers ended before the questions.</source>
@@ -3867,10 +3859,6 @@
         <translation>No se puede obtener nada: %1.</translation>
     </message>
     <message>
-        <source>The changes of &apos;%1&apos; could not be saved; use save-as first.</source>
-        <translation>No se pudieron guardar los cambios de «%1»; hay que guardarlos antes con save-as.</translation>
-    </message>
-    <message>
         <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
         <translation>El registro tiene %1 celdas y solo hay %2 encabezados; una celda que contiene el separador necesita comillas.</translation>
     </message>
@@ -4115,6 +4103,30 @@
     <message>
         <source>Days in comments are left out; all of a transaction has its day.</source>
         <translation>Las fechas en los comentarios se omiten; todo en un asiento tiene la fecha de este.</translation>
+    </message>
+    <message>
+        <source>No bank keeps the account &apos;%1&apos;</source>
+        <translation>Ningún banco lleva la cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>Several budget items are named &apos;%1&apos;</source>
+        <translation>Varias partidas se llaman «%1»</translation>
+    </message>
+    <message>
+        <source>The changes of &apos;%1&apos; could not be saved</source>
+        <translation>No se pudieron guardar los cambios de «%1»</translation>
+    </message>
+    <message>
+        <source>kiv bank-account attach ties it to one</source>
+        <translation>kiv bank-account attach la vincula a uno</translation>
+    </message>
+    <message>
+        <source>choose one with --kind: %1</source>
+        <translation>se elige una con --kind: %1</translation>
+    </message>
+    <message>
+        <source>use save-as first</source>
+        <translation>hay que guardarlos antes con save-as</translation>
     </message>
 </context>
 <context>

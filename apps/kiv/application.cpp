@@ -2,17 +2,17 @@
 #include "application.h"
 
 #include "message_log.h"
-#include "user_locale.h"
+
+#include "workbench/document/program_identity.h"
+#include "workbench/entry/user_locale.h"
+#include "workbench/requests/requests.h"
 
 namespace kiv::app {
 
 Application::Application(int &argc, char **argv) : QCoreApplication(argc, argv)
 {
-    // Both name the folders of the settings and of the exchange rates.
-    setOrganizationName(QStringLiteral("kiv"));
-    setApplicationName(QStringLiteral("kiv"));
-    setApplicationVersion(QStringLiteral(KIV_VERSION));
-    speakAsUser(*this);
+    workbench::identifyProgram();
+    workbench::speakAsUser(*this);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)
@@ -20,7 +20,7 @@ bool Application::notify(QObject *receiver, QEvent *event)
     try {
         return QCoreApplication::notify(receiver, event);
     } catch (const std::exception &error) {
-        complain(QString::fromUtf8(error.what()));
+        complain(workbench::userText(error));
         return false;
     }
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "errors.h"
 
-#include "output/report.h"
-#include "parsing/similar.h"
+#include "workbench/requests/requests.h"
 
 #include <QtCore/QObject>
 
@@ -14,84 +13,53 @@ QString withReason(const QString &sentence, const QString &reason)
     return reason.isEmpty() ? sentence : sentence + u' ' + reason;
 }
 
-/// What there is not, and what may have been meant; otherwise what to do next.
+/// `next` is what to do, where no name is alike.
 QString missed(const QString &what, const QStringList &similar, const QString &next)
 {
-    if (similar.isEmpty())
-        return next.isEmpty() ? what + u'.' : QObject::tr("%1; %2.").arg(what, next);
-    QStringList quoted;
-    for (const QString &name : similar)
-        quoted += QObject::tr("'%1'", "a name").arg(name);
-    return QObject::tr("%1; did you mean %2?").arg(what, quoted.join(QStringLiteral(", ")));
+    return similar.isEmpty() ? QObject::tr("%1; %2.").arg(what, next)
+                             : workbench::didYouMean(what, similar);
+}
+
+/// What the user can do, as a part of a sentence.
+QString remedyText(const Refusal &refusal)
+{
+    using enum workbench::Remedy;
+    switch (refusal.remedy()) {
+    case ListAccounts:
+        return QObject::tr("kiv accounts lists those that there are");
+    case ListBanks:
+        return QObject::tr("kiv banks lists those that there are");
+    case ListItems:
+        return refusal.subject().isEmpty()
+                   ? QObject::tr("kiv bill list and the like show those that there are")
+                   : QObject::tr("kiv %1 list shows those that there are").arg(refusal.subject());
+    case ListTags:
+        return QObject::tr("kiv tags list shows those that there are");
+    case ListTransactions:
+        return QObject::tr("kiv transactions lists those that there are");
+    case ListVersions:
+        return QObject::tr("kiv history lists those that are kept");
+    case AttachBankAccount:
+        return QObject::tr("kiv bank-account attach ties it to one");
+    case ChooseKind:
+        return QObject::tr("choose one with --kind: %1").arg(refusal.subject());
+    case SaveElsewhere:
+        return QObject::tr("use save-as first");
+    case None:
+        break;
+    }
+    return {};
 }
 } // namespace
 
 UsageError::~UsageError() = default;
-Refusal::~Refusal() = default;
 
-UsageError notUtf8()
+QString told(const std::exception &error)
 {
-    return UsageError(QObject::tr("A value on the command line is not valid UTF-8."));
-}
-
-UsageError emptyName()
-{
-    return UsageError(QObject::tr("A name cannot be empty."));
-}
-
-UsageError notADate(const QString &text)
-{
-    return UsageError(
-        QObject::tr("'%1' is not a date; write one like 2026-03-31, with a day that exists.")
-            .arg(text));
-}
-
-UsageError notAnAmount(const QString &text)
-{
-    return UsageError(
-        QObject::tr("'%1' is not an amount; write one like 1234.50 or '1234.50 USD'.").arg(text));
-}
-
-UsageError amountTooLarge(const QString &text)
-{
-    return UsageError(QObject::tr("The amount '%1' is too large to be kept exactly.").arg(text));
-}
-
-UsageError tooManyDigits(const QString &text, const QString &currency, unsigned digitsMax)
-{
-    return UsageError(digitsMax == 0
-                          ? QObject::tr("'%1' is not an amount of %2, which has no minor unit.")
-                                .arg(text, currency)
-                          : QObject::tr("'%1' has more digits behind the point than the %2 of %3.")
-                                .arg(text, QString::number(digitsMax), currency));
-}
-
-UsageError notACurrency(const QString &text, const QStringList &similar)
-{
-    return UsageError(missed(QObject::tr("'%1' is not a currency").arg(text), similar,
-                             QObject::tr("write its ISO 4217 code, like USD")));
-}
-
-UsageError notANumber(const QString &text, qint64 lowest, qint64 highest)
-{
-    return UsageError(QObject::tr("'%1' is not a whole number from %2 to %3.")
-                          .arg(text, QString::number(lowest), QString::number(highest)));
-}
-
-UsageError notAPercentage(const QString &text)
-{
-    return UsageError(QObject::tr("'%1' is not a percentage; write one like 2.75.").arg(text));
-}
-
-UsageError notAChoice(const QString &text, const QStringList &choices)
-{
-    // A mark would be lost among the commas.
-    QStringList shown;
-    for (const QString &choice : choices)
-        shown += choice.front().isLetter() ? choice : QObject::tr("'%1'", "a name").arg(choice);
-    return UsageError(
-        missed(QObject::tr("'%1' is none of: %2").arg(text, shown.join(QStringLiteral(", "))),
-               similarTo(text, choices).mid(0, 1), {}));
+    if (const auto *refusal = dynamic_cast<const Refusal *>(&error);
+        refusal && refusal->remedy() != workbench::Remedy::None)
+        return QObject::tr("%1; %2.").arg(refusal->statement(), remedyText(*refusal));
+    return workbench::userText(error);
 }
 
 UsageError contradiction(const QString &one, const QString &other)
@@ -123,11 +91,6 @@ UsageError noFileNamed()
                     "with kiv new FILE."));
 }
 
-UsageError notAnAssignment(const QString &text)
-{
-    return UsageError(QObject::tr("'%1' is not of the form NAME=VALUE.").arg(text));
-}
-
 UsageError notARate(const QString &text)
 {
     return UsageError(QObject::tr("'%1' is not a rate; write one like EUR=0.92.").arg(text));
@@ -154,49 +117,6 @@ UsageError notAProfileName(const QString &name)
 {
     return UsageError(
         QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
-}
-
-Refusal noSuchAccount(const QString &text, const QStringList &similar)
-{
-    return Refusal(missed(QObject::tr("There is no account '%1'").arg(text), similar,
-                          QObject::tr("kiv accounts lists those that there are")));
-}
-
-Refusal ambiguousAccount(const QString &name, const QStringList &numbers)
-{
-    return Refusal(QObject::tr("Several accounts are named '%1'; give the number of one: %2.")
-                       .arg(name, numbers.join(QStringLiteral(", "))));
-}
-
-Refusal noSuchBank(const QString &name, const QStringList &similar)
-{
-    return Refusal(missed(QObject::tr("There is no bank '%1'").arg(name), similar,
-                          QObject::tr("kiv banks lists those that there are")));
-}
-
-Refusal notABankAccount(const QString &account)
-{
-    return Refusal(
-        QObject::tr("No bank keeps the account '%1'; kiv bank-account attach ties it to one.")
-            .arg(account));
-}
-
-Refusal noSuchItem(const QString &kind, const QString &name, const QStringList &similar)
-{
-    return Refusal(missed(QObject::tr("There is no %1 '%2'").arg(wordText(kind), name), similar,
-                          QObject::tr("kiv %1 list shows those that there are").arg(kind)));
-}
-
-Refusal noSuchItem(const QString &name, const QStringList &similar)
-{
-    return Refusal(missed(QObject::tr("There is no budget item '%1'").arg(name), similar,
-                          QObject::tr("kiv bill list and the like show those that there are")));
-}
-
-Refusal ambiguousItem(const QString &name, const QStringList &kinds)
-{
-    return Refusal(QObject::tr("Several budget items are named '%1'; choose one with --kind: %2.")
-                       .arg(name, kinds.join(QStringLiteral(", "))));
 }
 
 Refusal answersEnded()
@@ -230,21 +150,8 @@ Refusal wizardFailed(const QString &reason)
 
 Refusal noSuchTag(const QString &name, const QStringList &similar)
 {
-    return Refusal(missed(QObject::tr("There is no tag '%1'").arg(name), similar,
-                          QObject::tr("kiv tags list shows those that there are")));
-}
-
-Refusal noSuchVersion(const QString &number, qsizetype count)
-{
-    const QString what = QObject::tr("There is no former version %1").arg(number);
-    return Refusal(count == 0
-                       ? missed(what, {}, QObject::tr("none was kept of this budget"))
-                       : missed(what, {}, QObject::tr("kiv history lists those that are kept")));
-}
-
-Refusal versionDamaged(const QString &path, const QString &reason)
-{
-    return Refusal(withReason(QObject::tr("The version in '%1' is not whole.").arg(path), reason));
+    return workbench::missed(QObject::tr("There is no tag '%1'").arg(name), similar,
+                             workbench::Remedy::ListTags);
 }
 
 Refusal shadowedItem(const QString &kind, const QString &firstKind, const QString &name)
@@ -266,12 +173,6 @@ Refusal noTransferTo(const QString &account)
     return Refusal(QObject::tr("Money can be moved into an asset account that a bank keeps and "
                                "that stands under no other, which '%1' is not.")
                        .arg(account));
-}
-
-Refusal noSuchTransaction(const QString &number)
-{
-    return Refusal(missed(QObject::tr("There is no transaction %1").arg(number), {},
-                          QObject::tr("kiv transactions lists those that there are")));
 }
 
 Refusal noSuchProfile(const QString &name, const QStringList &present)
@@ -299,17 +200,6 @@ Refusal noOtherAccount(const QString &entry)
 {
     return Refusal(
         QObject::tr("Say with --against which account is the other side of %1.").arg(entry));
-}
-
-Refusal fileExists(const QString &path)
-{
-    return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));
-}
-
-Refusal unsavedChanges(const QString &path)
-{
-    return Refusal(
-        QObject::tr("The changes of '%1' could not be saved; use save-as first.").arg(path));
 }
 
 QString withBackups(const QString &sentence, const QString &backup)

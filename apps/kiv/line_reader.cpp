@@ -31,7 +31,7 @@ void noteInterrupt(int)
     isInterrupted = 1;
 }
 
-/// While a line is typed, Ctrl-C gives up the line and not the session.
+/// While a line is typed, Ctrl-C gives up the line and not the requests.
 class InterruptsGiveUpLine {
 public:
     InterruptsGiveUpLine()
@@ -114,7 +114,7 @@ LineReader::~LineReader()
     completerNow = nullptr;
     if (!m_isInteractive)
         return;
-    // What cannot be kept is only lost to the next session.
+    // What cannot be kept is only lost to the next requests.
     QDir().mkpath(QFileInfo(m_historyFile).path());
     ::write_history(QFile::encodeName(m_historyFile).constData());
 }

@@ -24,17 +24,6 @@ MessageLog::~MessageLog()
     current = nullptr;
 }
 
-MessageLog::Muted::Muted(MessageLog &log) : m_log(log)
-{
-    ++m_log.m_muted;
-    m_log.m_lastKept.clear();
-}
-
-MessageLog::Muted::~Muted()
-{
-    --m_log.m_muted;
-}
-
 void MessageLog::handle(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (current)
@@ -44,25 +33,17 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext &, const QStrin
 void MessageLog::take(QtMsgType type, const QString &message)
 {
     const bool isWarning = type != QtDebugMsg && type != QtInfoMsg;
-    if (isWarning && m_muted > 0)
-        m_lastKept = message;
-    const bool isNews = isWarning && m_muted == 0 && !m_written.contains(message);
+    const bool isMuted = m_isBusy && m_isBusy();
+    const bool isNews = isWarning && !isMuted && !m_written.contains(message);
     if (!m_isVerbose && !isNews)
         return;
     m_written += message;
     complain(isWarning ? QObject::tr("warning: %1").arg(message) : message);
 }
 
-QString reasonIn(const QString &warning, const QString &sentence)
-{
-    return warning.startsWith(sentence) ? warning.mid(sentence.size()).trimmed() : QString();
-}
-
 void complain(const QString &text)
 {
-    QString told = text;
-    told.replace(QStringLiteral(" Caused by: "), QObject::tr(" Caused by: "));
-    const std::string line = "kiv: " + foundation::escapedUtf8(told) + '\n';
+    const std::string line = "kiv: " + foundation::escapedUtf8(text) + '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

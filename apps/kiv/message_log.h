@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
+
 namespace kiv::app {
 
 /// Takes over the program's log while it lives: warnings about the budget reach
@@ -19,36 +21,19 @@ public:
     /// Everything is written, as it comes.
     void setVerbose(bool isVerbose) noexcept { m_isVerbose = isVerbose; }
 
-    /// While it lives, warnings are kept instead of written, since the answer
-    /// to the request says the same to the user.
-    class Muted {
-    public:
-        explicit Muted(MessageLog &log);
-        ~Muted();
-        Muted(const Muted &) = delete;
-        Muted &operator=(const Muted &) = delete;
-
-    private:
-        MessageLog &m_log;
-    };
-
-    /// The last warning that was kept.
-    [[nodiscard]] const QString &lastKept() const noexcept { return m_lastKept; }
+    /// While `isBusy` says so, warnings are not written, since the answer to the
+    /// request says the same to the user.
+    void setMutedWhile(std::function<bool()> isBusy) { m_isBusy = std::move(isBusy); }
 
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);
     void take(QtMsgType type, const QString &message);
 
     bool m_isVerbose = false;
-    int m_muted = 0;
-    QString m_lastKept;
+    std::function<bool()> m_isBusy;
     QStringList m_written;
     QtMessageHandler m_previous = nullptr;
 };
-
-/// What a warning of the log tells behind its sentence; nothing of one that
-/// begins with another sentence.
-[[nodiscard]] QString reasonIn(const QString &warning, const QString &sentence);
 
 /// Writes "kiv: " and the text as one line to standard error, with nothing in it
 /// that a terminal would obey.

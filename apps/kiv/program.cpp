@@ -5,11 +5,13 @@
 #include "command_line/misuse.h"
 #include "commands/commands.h"
 
+#include "networking/http_request_sender.h"
 #include "storage/budget_inspection.h"
 #include "storage/storage_error.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QStandardPaths>
 
 #include <iostream>
 
@@ -33,16 +35,27 @@ std::vector<std::string> plainWords(std::vector<std::string> words)
 
 } // namespace
 
+Program::Program()
+    : m_document({[] {
+                      return foundation::UniqueQtPtr<networking::RequestSender>(
+                          new networking::HttpRequestSender());
+                  },
+                  QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                      QStringLiteral("/rates")})
+{
+    m_log.setMutedWhile([this] { return m_document.requests().isBusy(); });
+}
+
 int Program::run(const std::vector<std::string> &words)
 {
     int status = success;
     try {
         return parse(plainWords(words), status) ? execute() : status;
-    } catch (const UsageError &error) {
+    } catch (const EntryError &error) {
         complain(error.message());
         return misused;
     } catch (const storage::StorageError &error) {
-        QString sentence = QString::fromUtf8(error.what());
+        QString sentence = told(error);
         // A file that is not there may have no folder either, and then no backup has a name.
         if (error.failure() == storage::StorageFailure::Damaged) {
             const QString backup = storage::backupOf(error.filePathName(), 1);
@@ -51,7 +64,7 @@ int Program::run(const std::vector<std::string> &words)
         }
         complain(sentence);
     } catch (const foundation::Error &error) {
-        complain(QString::fromUtf8(error.what()));
+        complain(told(error));
     } catch (const std::exception &error) {
         complain(oneLine(error.what()));
     }
@@ -142,7 +155,7 @@ int Program::execute()
     const bool isSaved = kind == CommandKind::Change && !options.isDryRun;
     Report report;
     try {
-        Call call{m_session, options, *this};
+        Call call{m_document, m_document.requests(), options, *this};
         report = command(call);
     } catch (...) {
         if (kind != CommandKind::Query)
@@ -150,7 +163,7 @@ int Program::execute()
         throw;
     }
     if (isSaved && !report.isUnchanged())
-        m_session.save();
+        m_document.save();
     if (kind == CommandKind::Change && options.isDryRun) {
         takeBack();
         report.line(QObject::tr("This was a dry run: nothing is saved."));
@@ -162,12 +175,12 @@ int Program::execute()
 
 void Program::takeBack()
 {
-    if (!m_keepsSession)
+    if (!m_keepsBudget)
         return;
     try {
-        m_session.revert();
+        m_document.revert();
     } catch (const std::exception &error) {
-        complain(QString::fromUtf8(error.what()));
+        complain(told(error));
     }
 }
 
@@ -175,11 +188,11 @@ void Program::openFile()
 {
     const QString named =
         m_options.file.isEmpty() ? qEnvironmentVariable("KIV_FILE") : m_options.file;
-    if (named.isEmpty() && m_session.file().isEmpty())
+    if (named.isEmpty() && m_document.file().isEmpty())
         throw noFileNamed();
-    if (m_session.file().isEmpty() ||
-        (!m_options.file.isEmpty() && Session::withExtension(named) != m_session.file()))
-        m_session.open(named);
+    if (m_document.file().isEmpty() ||
+        (!m_options.file.isEmpty() && Document::withExtension(named) != m_document.file()))
+        m_document.open(named);
 }
 
 void Program::print(const Report &report)
@@ -187,7 +200,7 @@ void Program::print(const Report &report)
     if (m_isSilent)
         return;
     m_terminal.write(m_options.isJson ? report.toJson()
-                                      : report.toText(m_terminal, m_session.displayAs()));
+                                      : report.toText(m_terminal, m_document.displayAs()));
 }
 
 } // namespace kiv::app

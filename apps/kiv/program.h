@@ -2,27 +2,28 @@
 #pragma once
 
 #include "command_line/command_group.h"
+#include "message_log.h"
 
 namespace kiv::app {
 
 /// The command `kiv`: understands a command line, runs the command on the
-/// session's budget, saves, prints, and gives the exit status.
+/// document's budget, saves, prints, and gives the exit status.
 class Program {
 public:
     static constexpr int success = 0;
     static constexpr int refused = 1;
     static constexpr int misused = 2;
 
-    Program() = default;
+    Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
     /// Runs one command line, without the program's own name. Its refusal is
     /// told on standard error in one sentence.
     int run(const std::vector<std::string> &words);
-    /// From now on the session is kept from one call to the next, so a call
+    /// From now on the budget is kept from one call to the next, so a call
     /// that failed or tried something dry is taken back in memory, too.
-    void keepSession() noexcept { m_keepsSession = true; }
+    void keepBudget() noexcept { m_keepsBudget = true; }
 
     /// From now on no report is printed.
     void setSilent() noexcept { m_isSilent = true; }
@@ -31,7 +32,7 @@ public:
     /// arguments, since a call reaches no other; without any, all have. The
     /// arguments' values are this program's, so it must outlive the tree.
     [[nodiscard]] std::unique_ptr<CLI::App> commandTree(const std::vector<std::string> &words = {});
-    [[nodiscard]] Session &session() noexcept { return m_session; }
+    [[nodiscard]] Document &document() noexcept { return m_document; }
     [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
 
     // ---- for the commands that are being declared ------------------------------
@@ -52,13 +53,13 @@ private:
     void print(const Report &report);
 
     MessageLog m_log;
-    Session m_session{m_log};
+    Document m_document;
     Terminal m_terminal;
     Options m_options;
     CommandKind m_kind = CommandKind::Standalone;
     std::function<Report(Call &)> m_command;
     std::vector<std::string> m_words; ///< what the tree is made for
-    bool m_keepsSession = false;
+    bool m_keepsBudget = false;
     bool m_isSilent = false;
 };
 

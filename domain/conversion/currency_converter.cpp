@@ -87,6 +87,7 @@ numira::FloatingPoint CurrencyConverter::lookUp(const numira::Currency &from,
 
 ConversionMap CurrencyConverter::fetchAll(const std::set<numira::Currency> &wanted)
 {
+    m_failure.reset();
     if (wanted.empty() || isFetching)
         return cache();
     FetchedRates answer;
@@ -106,6 +107,7 @@ ConversionMap CurrencyConverter::fetchAll(const std::set<numira::Currency> &want
         }
         answer.failure = internal::noWantedRates();
     }
+    m_failure.emplace(answer.failure);
     qWarning() << "Failed to fetch the exchange rates."
                << foundation::escapedUtf8(answer.failure).c_str();
     return cache();

@@ -5,7 +5,10 @@
 #include "conversion/currency_source.h"
 #include "conversion/export.h"
 
+#include "foundation/error.h"
+
 #include <chrono>
+#include <optional>
 #include <set>
 
 namespace kiv::conversion {
@@ -44,6 +47,12 @@ public:
     /// call, do not touch what such a call may have destroyed. Throws nothing
     /// for the network's sake.
     [[nodiscard]] ConversionMap fetchAll(const std::set<numira::Currency> &wanted);
+    /// Why the last fetchAll had no usable answer, in English; nothing when it had
+    /// one, and before.
+    [[nodiscard]] const std::optional<foundation::Error> &failure() const noexcept
+    {
+        return m_failure;
+    }
 
     /// Takes over what the cache starts with.
     static void initialiseCache(ConversionMap &&conversions);
@@ -55,6 +64,7 @@ public:
 private:
     CurrencySource &m_source;
     std::chrono::milliseconds m_patience;
+    std::optional<foundation::Error> m_failure;
 };
 
 } // namespace kiv::conversion

@@ -40,6 +40,9 @@ public:
         surveying::CompletedSurveys surveys;
         /// The tags of the items.
         tagging::BudgetItemTags itemTags;
+
+        /// Whether all parts are the same.
+        friend bool operator==(const Data &, const Data &) = default;
     };
 
     virtual ~BudgetStorage();

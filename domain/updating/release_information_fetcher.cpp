@@ -16,9 +16,10 @@ ReleaseInformationFetcher::~ReleaseInformationFetcher() = default;
 
 void ReleaseInformationFetcher::fetch()
 {
-    internal::fetchReleases(
-        m_sender, m_feed, *this,
-        [this](const std::set<ReleaseInformation> &releases) { emit fetched(releases); });
+    internal::fetchReleases(m_sender, m_feed, *this, [this](internal::FetchedReleases answer) {
+        m_failure = std::move(answer.failure);
+        emit fetched(answer.releases);
+    });
 }
 
 } // namespace kiv::updating

@@ -5,11 +5,13 @@
 #include "updating/release_feed.h"
 #include "updating/release_information.h"
 
+#include "foundation/error.h"
 #include "foundation/qt_ptr.h"
 #include "networking/notifying_sender.h"
 
 #include <QtCore/QObject>
 
+#include <optional>
 #include <set>
 
 namespace kiv::updating {
@@ -26,6 +28,12 @@ public:
 
     /// Starts; `fetched` comes later, never from within this call.
     void fetch();
+    /// Why the list was refused, in English; nothing when it was not, and before
+    /// `fetched`.
+    [[nodiscard]] const std::optional<foundation::Error> &failure() const noexcept
+    {
+        return m_failure;
+    }
 
 Q_SIGNALS:
     /// Empty when there is no feed or it was refused.
@@ -34,6 +42,7 @@ Q_SIGNALS:
 private:
     networking::NotifyingSender &m_sender;
     ReleaseFeed m_feed;
+    std::optional<foundation::Error> m_failure;
 };
 
 } // namespace kiv::updating

@@ -16,7 +16,8 @@ UpdateChecker::~UpdateChecker() = default;
 void UpdateChecker::check()
 {
     internal::fetchReleases(
-        m_sender, m_feed, *this, [this](const std::set<ReleaseInformation> &releases) {
+        m_sender, m_feed, *this, [this](const internal::FetchedReleases &fetched) {
+            const std::set<ReleaseInformation> &releases = fetched.releases;
             const foundation::QtPtr<UpdateChecker> self(this);
             if (!releases.empty() && releases.rbegin()->version.isNewerThan(m_feed.running))
                 emit updateReleased(releases.rbegin()->version);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "navigation/failure.h"
 #include "navigation/internal/budget_bank_ledgers.h"
 #include "navigation/internal/logging.h"
 #include "navigation/navigator.h"
@@ -20,6 +21,18 @@ inline QString userText(const foundation::Error &error)
 inline QString userText(const std::exception &error)
 {
     return QString::fromUtf8(error.what());
+}
+
+/// Leaves the failure for whoever hears of it. Where memory is short the refusal
+/// itself matters more.
+inline void keepFailure(const QObject &navigator, const char *sentence,
+                        const std::exception &error) noexcept
+{
+    try {
+        if (LastFailure *last = LastFailure::of(navigator))
+            last->keep(failureOf(QString::fromLatin1(sentence), error));
+    } catch (...) {
+    }
 }
 
 /// A view may change the budget, or whatever it handed in, while it draws itself
@@ -49,6 +62,7 @@ bool Navigator::attempt(const char *sentence, Operation &&operation, Failure &&f
         return true;
     } catch (const Caught &error) {
         internal::logWarning(sentence, error);
+        internal::keepFailure(*this, sentence, error);
         failure(internal::userText(error));
         return false;
     }

@@ -4,11 +4,10 @@
 #include "manual.h"
 #include "output/table.h"
 #include "output/terminal.h"
-#include "parsing/account_index.h"
-#include "parsing/similar.h"
 #include "parsing/words.h"
 #include "program.h"
-#include "user_locale.h"
+
+#include "workbench/entry/user_locale.h"
 
 #include <QtTest/QtTest>
 
@@ -17,7 +16,6 @@
 #include <unistd.h>
 
 using namespace kiv;
-using app::AccountIndex;
 using namespace Qt::Literals::StringLiterals;
 
 /// The pieces of the command that have more cases than are worth a process
@@ -26,107 +24,6 @@ class TestKivPieces : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyPathStandsForOneAccount_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QStringList>("paths");
-        const auto row = [](const char *name, const QStringList &names, const QStringList &paths) {
-            QTest::newRow(name) << names << paths;
-        };
-        row("plain", {u"Food"_s, u"Rent"_s}, {u"Food"_s, u"Rent"_s});
-        row("the same name", {u"Food"_s, u"Food"_s}, {u"Food 1"_s, u"Food 2"_s});
-        row("alike once they are safe", {u"A:B"_s, u"A-B"_s}, {u"A-B 1"_s, u"A-B 2"_s});
-        row("a number makes another's name", {u"Food"_s, u"Food"_s, u"Food 1"_s},
-            {u"Food 1 1"_s, u"Food 2"_s, u"Food 1 3"_s});
-        row("nothing left", {u" "_s, u";"_s}, {u"1"_s, u","_s});
-    }
-    void everyPathStandsForOneAccount()
-    {
-        QFETCH(QStringList, names);
-        QFETCH(QStringList, paths);
-        std::set<accounting::Account> accounts;
-        std::uint32_t number = 0;
-        for (const QString &name : names)
-            accounts.insert(account(++number, name, std::nullopt));
-        const AccountIndex index(std::move(accounts));
-        for (number = 1; number <= static_cast<std::uint32_t>(paths.size()); ++number) {
-            QCOMPARE(index.path(accounting::AccountNumber(number)),
-                     u"Expenses:"_s + paths[number - 1]);
-        }
-    }
-
-    void accountsAreFoundByNumberNameAndPath()
-    {
-        const AccountIndex index({account(1, u"Home"_s, std::nullopt), account(2, u"Rent"_s, 1u),
-                                  account(3, u"1"_s, std::nullopt),
-                                  account(4, u"Rent"_s, std::nullopt)});
-        const auto number = [&index](const char *text) {
-            return index.find(QString::fromUtf8(text)).code().number().integer();
-        };
-        QCOMPARE(number("1"), 1u);
-        QCOMPARE(number("Home"), 1u);
-        QCOMPARE(number("Expenses:Home:Rent"), 2u);
-        QVERIFY_THROWS_EXCEPTION(app::Refusal, number("Rent"));
-        QVERIFY_THROWS_EXCEPTION(app::Refusal, number("rent"));
-        QCOMPARE(index.path(accounting::AccountNumber(5)), QString());
-    }
-    void numbersGoOnBehindTheHighestOrInTheFirstGap()
-    {
-        const accounting::Account first = account(1, u"First"_s, std::nullopt);
-        const accounting::Account last = account(4'294'967'295u, u"Last"_s, std::nullopt);
-        QCOMPARE(AccountIndex({}).nextNumber().integer(), 1u);
-        QCOMPARE(AccountIndex({first}).nextNumber().integer(), 2u);
-        QCOMPARE(AccountIndex({first, last}).nextNumber().integer(), 2u);
-    }
-
-    void slipsAreCounted_data()
-    {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<int>("slips");
-        for (const auto &[word, slips] : {std::pair("rent", 0),
-                                          {"RENT", 0},
-                                          {"ren", 1},
-                                          {"reent", 1},
-                                          {"rant", 1},
-                                          {"rnet", 1},
-                                          {"ernt", 1},
-                                          {"tren", 2},
-                                          {"", 4},
-                                          {"tner", 3},
-                                          {"abcd", 4},
-                                          {"rente x", 3}})
-            QTest::newRow(word) << QString::fromLatin1(word) << slips;
-    }
-    void slipsAreCounted()
-    {
-        QFETCH(QString, word);
-        QFETCH(int, slips);
-        QCOMPARE(app::slipsBetween(word, u"Rent"_s), slips);
-        QCOMPARE(app::slipsBetween(u"Rent"_s, word), slips);
-    }
-
-    void whatIsAlikeIsOffered()
-    {
-        const QStringList known{u"Checking"_s, u"Chequing"_s,   u"Savings"_s,
-                                u"Car"_s,      u"Rent"_s,       u"Rental"_s,
-                                u"Y"_s,        u"Rent [x y]"_s, QString(100'000, u'X')};
-        const auto offered = [&known](const QString &word) {
-            return app::similarTo(word, known).join(u',');
-        };
-        QCOMPARE(offered(u"Cheking"_s), u"Checking"_s);
-        QCOMPARE(offered(u"Cheking accont"_s), QString());
-        QCOMPARE(offered(u"Cheing"_s), u"Checking,Chequing"_s);
-        QCOMPARE(offered(u"savings"_s), u"Savings"_s);
-        QCOMPARE(offered(u"Sav"_s), u"Savings"_s);
-        QCOMPARE(offered(u"Rent"_s), u"Rental"_s); // not itself, and no beginning beside one alike
-        QCOMPARE(offered(u"Tax"_s), QString());
-        QCOMPARE(offered(u"X"_s), QString());
-        QCOMPARE(offered({}), QString());
-        QCOMPARE(offered(QString(100'000, u'a')), QString());
-        const QStringList letters{u"Ab"_s, u"Ac"_s, u"Ad"_s, u"Ae"_s};
-        QCOMPARE(app::similarTo(u"Aa"_s, letters), letters.first(3));
-    }
-
     void wordsAreSplitAsAShellDoes_data()
     {
         QTest::addColumn<std::string>("line");
@@ -258,8 +155,8 @@ private slots:
         for (const char *variable : {"LANG", "LC_MESSAGES", "LC_NUMERIC", "LC_TIME"})
             qunsetenv(variable);
         qputenv("LC_ALL", language);
-        app::speakAsUser(*QCoreApplication::instance());
-        QTEST(app::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), "noon");
+        workbench::speakAsUser(*QCoreApplication::instance());
+        QTEST(workbench::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), "noon");
         app::Program program;
         const auto tree = program.commandTree();
         std::vector<const CLI::App *> commands{tree.get()};
@@ -312,16 +209,6 @@ private:
         for (const int opened : {kept, master, slave})
             ::close(opened);
         return found;
-    }
-    static accounting::Account account(std::uint32_t number, const QString &name,
-                                       std::optional<std::uint32_t> parent)
-    {
-        std::optional<accounting::AccountNumber> under;
-        if (parent)
-            under = accounting::AccountNumber(*parent);
-        return {accounting::AccountTypes::Expense,
-                accounting::AccountCode(accounting::AccountNumber(number), name, under),
-                numira::Money(), false};
     }
 };
 

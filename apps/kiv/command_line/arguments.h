@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "parsing/values.h"
+#include "workbench/entry/kind_words.h"
+#include "workbench/entry/values.h"
 
 #include <functional>
 #include <vector>
@@ -11,6 +12,13 @@ class App;
 }
 
 namespace kiv::app {
+
+using workbench::Amount;
+using workbench::kindText;
+using workbench::kindWord;
+using workbench::NewName;
+using workbench::readPlain;
+using workbench::readValue;
 
 /// The word in capitals that stands for a value ("AMOUNT"), in the user's language.
 [[nodiscard]] QString placeholder(const char *word);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/candidates.h"
 
-#include "budget_view.h"
-#include "parsing/values.h"
-#include "session.h"
+#include "command_line/command_group.h"
 
 #include <CLI/CLI.hpp>
 
@@ -89,28 +87,28 @@ private:
     QString m_file;
 };
 
-Words accountNames(Session &session)
+Words accountNames(Requests &requests)
 {
     Words names;
-    const AccountIndex index = session.accounts();
+    const AccountIndex index = requests.accounts();
     for (const accounting::Account &account : index.accounts())
         names.push_back(account.code().name().toStdString());
     return names;
 }
 
-Words bankNames(Session &session)
+Words bankNames(Requests &requests)
 {
     Words names;
-    for (const banking::BankName &bank : session.banks().names())
+    for (const banking::BankName &bank : requests.banks().names())
         names.push_back(bank.institution().toStdString());
     return names;
 }
 
 /// The names of all items whose kind is called `kind`; of all without one.
-Words itemNames(Session &session, const std::string &kind)
+Words itemNames(Requests &requests, const std::string &kind)
 {
     Words names;
-    BudgetView(session).budget().forEach([&](const budgeting::BudgetedMoney &item) {
+    BudgetView(requests).budget().forEach([&](const budgeting::BudgetedMoney &item) {
         if (kind.empty() || kindWord(identify(item).type).toStdString() == kind)
             names.push_back(item.source().name().toStdString());
     });
@@ -160,27 +158,27 @@ Words choicesOf(const std::string &name, const Words &path)
     return {};
 }
 
-Words namesOf(const std::string &name, const Words &path, Session &session)
+Words namesOf(const std::string &name, const Words &path, Requests &requests)
 {
     constexpr std::array accounts{"ACCOUNT", "FROM",     "TO",      "--account", "--bank-account",
                                   "--debit", "--credit", "--under", "--into",    "--against"};
     constexpr std::array kinds{"bill", "debt", "goal", "nontrack", "wage"};
     if (std::ranges::count(accounts, name) != 0)
-        return accountNames(session);
+        return accountNames(requests);
     if (name == "BANK" || name == "--bank")
-        return bankNames(session);
+        return bankNames(requests);
     if (name == "ITEM")
-        return itemNames(session, {});
+        return itemNames(requests, {});
     // What is to be added has no name that could be known.
     if (name == "NAME" && std::ranges::count(kinds, path.front()) != 0 && path.back() != "add")
-        return itemNames(session, path.front());
+        return itemNames(requests, path.front());
     return {};
 }
 
 } // namespace
 
 Candidates candidatesAfter(const CLI::App &commands, const std::vector<std::string> &before,
-                           Session &session)
+                           Document &document)
 {
     Reading reading(commands);
     for (const std::string &word : before)
@@ -196,10 +194,10 @@ Candidates candidatesAfter(const CLI::App &commands, const std::vector<std::stri
         candidates.values = choicesOf(name, reading.path());
         const QString file =
             reading.file().isEmpty() ? qEnvironmentVariable("KIV_FILE") : reading.file();
-        if (session.file().isEmpty() && !file.isEmpty())
-            session.open(file);
-        if (candidates.values.empty() && !session.file().isEmpty())
-            candidates.values = namesOf(name, reading.path(), session);
+        if (document.file().isEmpty() && !file.isEmpty())
+            document.open(file);
+        if (candidates.values.empty() && !document.file().isEmpty())
+            candidates.values = namesOf(name, reading.path(), document.requests());
     }
     if (!reading.awaitsValue()) {
         for (const CLI::Option *option : reading.reached().get_options()) {

@@ -8,9 +8,11 @@ namespace CLI {
 class App;
 }
 
-namespace kiv::app {
+namespace kiv::workbench {
+class Document;
+}
 
-class Session;
+namespace kiv::app {
 
 /// What may be written next on a command line.
 struct Candidates {
@@ -19,10 +21,11 @@ struct Candidates {
 };
 
 /// The candidates behind the words `before`, which follow the command's own
-/// name. Names come from the budget of `session` that is open, or else from the
+/// name. Names come from the budget of `document` that is open, or else from the
 /// file that the words or KIV_FILE name; without one there are no names. An
 /// argument whose values nobody can list, such as an amount or a file, has none.
 [[nodiscard]] Candidates candidatesAfter(const CLI::App &commands,
-                                         const std::vector<std::string> &before, Session &session);
+                                         const std::vector<std::string> &before,
+                                         workbench::Document &document);
 
 } // namespace kiv::app

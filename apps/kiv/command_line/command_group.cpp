@@ -23,7 +23,7 @@ CLI::App *addTo(CLI::App &above, const char *name, const QString &help)
 
 QString Call::fileNamed() const
 {
-    for (const QString &path : {options.file, session.file(), qEnvironmentVariable("KIV_FILE")}) {
+    for (const QString &path : {options.file, document.file(), qEnvironmentVariable("KIV_FILE")}) {
         if (!path.isEmpty())
             return path;
     }

@@ -2,14 +2,26 @@
 #pragma once
 
 #include "command_line/arguments.h"
+#include "errors.h"
 #include "output/report.h"
-#include "session.h"
+
+#include "workbench/document/document.h"
+#include "workbench/entry/similar.h"
+#include "workbench/requests/budget_view.h"
 
 #include "foundation/clock.h"
 
 #include <memory>
 
 namespace kiv::app {
+
+using workbench::AccountIndex;
+using workbench::BudgetView;
+using workbench::Document;
+using workbench::identify;
+using workbench::notAChoice;
+using workbench::Requests;
+using workbench::similarTo;
 
 class Program;
 
@@ -22,7 +34,8 @@ enum class CommandKind {
 
 /// One call of a command.
 struct Call {
-    Session &session;
+    workbench::Document &document;
+    workbench::Requests &requests;
     const Options &options;
     Program &program;
 

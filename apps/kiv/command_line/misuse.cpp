@@ -2,7 +2,8 @@
 #include "command_line/misuse.h"
 
 #include "errors.h"
-#include "parsing/similar.h"
+
+#include "workbench/entry/similar.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
@@ -85,14 +86,14 @@ void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
         if (word.starts_with("--")) {
             const QStringList options = optionsOf(*reached);
             if (!options.contains(name))
-                throw noSuchOption(name, similarTo(name, options));
+                throw noSuchOption(name, workbench::similarTo(name, options));
             const CLI::Option *option = reached->get_option(name.toStdString());
             isValue = option->get_items_expected_max() > 0 && word.find('=') == std::string::npos;
         } else if (const QStringList commands = commandsOf(*reached);
                    !commands.isEmpty() && !word.starts_with('-')) {
             const QString command = QString::fromStdString(word);
             if (!commands.contains(command))
-                throw noSuchCommand(command, similarTo(command, commands));
+                throw noSuchCommand(command, workbench::similarTo(command, commands));
             reached = reached->get_subcommand(word);
         }
     }

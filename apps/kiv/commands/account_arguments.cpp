@@ -40,30 +40,30 @@ AccountCode CodeChange::to(const AccountIndex &index) const
     return changed;
 }
 
-void openOn(Session &session, AccountNumber account, const std::optional<QDate> &date)
+void openOn(Requests &requests, AccountNumber account, const std::optional<QDate> &date)
 {
     if (!date)
         return;
-    const auto ledger = std::get<accounting::LedgerAccount>(session.ask(
+    const auto ledger = std::get<accounting::LedgerAccount>(requests.ask(
         &Navigator::showLedger, &Navigator::onSelectedLedger, AccountCode(account, std::nullopt)));
     if (const auto opening = ledger.openedBy())
-        moveTo(session, *opening, date);
+        moveTo(requests, *opening, date);
 }
 
-void moveTo(Session &session, accounting::TransactionNumber number,
+void moveTo(Requests &requests, accounting::TransactionNumber number,
             const std::optional<QDate> &date)
 {
     if (!date)
         return;
-    const accounting::Transaction posted = session.transaction(number);
+    const accounting::Transaction posted = requests.transaction(number);
     const accounting::Transaction moved(*date, posted.debiting(), posted.crediting(),
                                         posted.amount(), posted.description());
-    session.change(transactionOutcome, &Navigator::onUpdatedTransaction, number, moved);
+    requests.change(workbench::transactionOutcome, &Navigator::onUpdatedTransaction, number, moved);
 }
 
-Report accountReport(Session &session, AccountNumber number, const QString &sentence)
+Report accountReport(Requests &requests, AccountNumber number, const QString &sentence)
 {
-    const AccountIndex index = session.accounts();
+    const AccountIndex index = requests.accounts();
     const accounting::Account *account = index.find(number);
     return Report(account ? toJson(*account, index) : QJsonObject()).line(sentence);
 }

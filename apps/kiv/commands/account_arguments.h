@@ -23,7 +23,7 @@ struct CodeChange {
 };
 
 /// The account with this number as JSON, with a sentence about it.
-[[nodiscard]] Report accountReport(Session &session, accounting::AccountNumber number,
+[[nodiscard]] Report accountReport(Requests &requests, accounting::AccountNumber number,
                                    const QString &sentence);
 
 /// A command that gives an account another code, for one family of answers.
@@ -39,17 +39,17 @@ struct Recode {
     void declare(Arguments &arguments) { change.declare(arguments); }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         const accounting::AccountCode from = change.from(index);
         const accounting::AccountCode to = change.to(index);
-        call.session.change(outcome, slot, from, to);
+        call.requests.change(outcome, slot, from, to);
         // By their paths, since it may be the parent alone that is another.
         const auto told = [](const AccountIndex &accounts, accounting::AccountNumber number) {
             return accounting::presentationText(number) + u' ' + accounts.path(number);
         };
         return accountReport(
-            call.session, to.number(),
-            sentence.arg(told(index, from.number()), told(call.session.accounts(), to.number())));
+            call.requests, to.number(),
+            sentence.arg(told(index, from.number()), told(call.requests.accounts(), to.number())));
     }
 };
 
@@ -71,9 +71,9 @@ struct AccountVerb {
     }
     Report run(Call &call) const
     {
-        const accounting::AccountCode code = call.session.accounts().find(account).code();
-        call.session.change(outcome, slot, code);
-        return accountReport(call.session, code.number(),
+        const accounting::AccountCode code = call.requests.accounts().find(account).code();
+        call.requests.change(outcome, slot, code);
+        return accountReport(call.requests, code.number(),
                              sentence.arg(accounting::presentationText(code)));
     }
 };
@@ -82,10 +82,11 @@ AccountVerb(Answers, Slot, QString) -> AccountVerb<Answers>;
 
 /// Moves the transaction that opened the account to another day than today, on
 /// which it was posted.
-void openOn(Session &session, accounting::AccountNumber account, const std::optional<QDate> &date);
+void openOn(Requests &requests, accounting::AccountNumber account,
+            const std::optional<QDate> &date);
 
 /// Moves a transaction that was posted today to another day.
-void moveTo(Session &session, accounting::TransactionNumber number,
+void moveTo(Requests &requests, accounting::TransactionNumber number,
             const std::optional<QDate> &date);
 
 } // namespace kiv::app

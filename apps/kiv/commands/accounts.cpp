@@ -33,7 +33,7 @@ struct ListAccounts {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         std::map<QString, const Account *> byPath;
         for (const Account &account : index.accounts()) {
             if ((!type || account.type() == *type) && !(isOpenOnly && account.isClosed()))
@@ -64,8 +64,8 @@ struct ShowLedger {
 
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
-        const auto ledger = std::get<accounting::LedgerAccount>(call.session.ask(
+        const AccountIndex index = call.requests.accounts();
+        const auto ledger = std::get<accounting::LedgerAccount>(call.requests.ask(
             &Navigator::showLedger, &Navigator::onSelectedLedger, index.find(account).code()));
         const QJsonArray rows = lines(ledger, index);
         const QJsonObject head = toJson(ledger, index);
@@ -138,18 +138,18 @@ struct AddAccount {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
-        const AccountIndex index = session.accounts();
-        const numira::Currency code = currency.value_or(session.preferredCurrency());
+        Requests &requests = call.requests;
+        const AccountIndex index = requests.accounts();
+        const numira::Currency code = currency.value_or(requests.preferredCurrency());
         const AccountNumber chosen = number.value_or(index.nextNumber());
         std::optional<AccountNumber> under;
         if (parent)
             under = index.find(*parent).code().number();
         const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
-        session.change(accountOutcome, &Navigator::onAddedAct,
-                       Account(type, AccountCode(chosen, name.text, under), opening, false));
-        openOn(session, chosen, call.options.date);
-        return accountReport(session, chosen,
+        requests.change(workbench::accountOutcome, &Navigator::onAddedAct,
+                        Account(type, AccountCode(chosen, name.text, under), opening, false));
+        openOn(requests, chosen, call.options.date);
+        return accountReport(requests, chosen,
                              QObject::tr("Added the account %1 %2.")
                                  .arg(accounting::presentationText(chosen), name.text));
     }
@@ -166,17 +166,17 @@ void addAccountCommands(CommandGroup &root)
 
     CommandGroup account = root.group("account", QObject::tr("Accounts of the ledger"));
     account.add("add", QObject::tr("Open an account"), Change, AddAccount{});
-    account.add(
-        "recode", QObject::tr("Change an account's number, name or parent"), Change,
-        Recode{accountOutcome, &Navigator::onRecoded, QObject::tr("The account %1 is now %2.")});
-    account.add(
-        "close", QObject::tr("Close an account"), Change,
-        AccountVerb{accountOutcome, &Navigator::onClosed, QObject::tr("Closed the account %1.")});
+    account.add("recode", QObject::tr("Change an account's number, name or parent"), Change,
+                Recode{workbench::accountOutcome, &Navigator::onRecoded,
+                       QObject::tr("The account %1 is now %2.")});
+    account.add("close", QObject::tr("Close an account"), Change,
+                AccountVerb{workbench::accountOutcome, &Navigator::onClosed,
+                            QObject::tr("Closed the account %1.")});
     account.add("open", QObject::tr("Open a closed account again"), Change,
-                AccountVerb{accountOutcome, &Navigator::onOpened,
+                AccountVerb{workbench::accountOutcome, &Navigator::onOpened,
                             QObject::tr("Opened the account %1 again.")});
     account.add("remove", QObject::tr("Remove an account without transactions"), Change,
-                AccountVerb{accountOutcome, &Navigator::onRemovedAct,
+                AccountVerb{workbench::accountOutcome, &Navigator::onRemovedAct,
                             QObject::tr("Removed the account %1.")});
 }
 

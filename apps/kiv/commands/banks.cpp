@@ -5,6 +5,8 @@
 
 #include "output/json.h"
 
+#include "workbench/document/bank_steps.h"
+
 namespace kiv::app {
 
 using accounting::AccountCode;
@@ -15,12 +17,12 @@ using navigation::Navigator;
 
 namespace {
 
-Report bankReport(Session &session, const BankName &name, const QString &sentence)
+Report bankReport(Requests &requests, const BankName &name, const QString &sentence)
 {
-    const banking::BankMap banks = session.banks();
+    const banking::BankMap banks = requests.banks();
     QJsonObject json;
     if (banks.hasBank(name))
-        json = toJson(banks.bank(name), session.accounts());
+        json = toJson(banks.bank(name), requests.accounts());
     return Report(json).line(sentence);
 }
 
@@ -28,9 +30,9 @@ struct ListBanks {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         QJsonArray banks;
-        for (const auto &[name, bank] : call.session.banks())
+        for (const auto &[name, bank] : call.requests.banks())
             banks.append(toJson(bank, index));
         Report report{QJsonValue(banks)};
         if (banks.isEmpty())
@@ -62,8 +64,8 @@ struct AddBank {
     Report run(Call &call) const
     {
         const Bank bank(BankName(name.text), {}, false);
-        call.session.change(bankOutcome, &Navigator::onBankAdded, bank);
-        return bankReport(call.session, bank.name(),
+        call.requests.change(workbench::bankOutcome, &Navigator::onBankAdded, bank);
+        return bankReport(call.requests, bank.name(),
                           QObject::tr("Added the bank '%1'.").arg(name.text));
     }
 };
@@ -80,16 +82,16 @@ struct RenameBank {
     Report run(Call &call) const
     {
         const BankName to(name.text);
-        const BankName present = call.session.bank(bank).name();
-        call.session.change(bankOutcome, &Navigator::onBankRenamed, present, to);
-        return bankReport(call.session, to,
+        const BankName present = call.requests.bank(bank).name();
+        call.requests.change(workbench::bankOutcome, &Navigator::onBankRenamed, present, to);
+        return bankReport(call.requests, to,
                           QObject::tr("The bank is now called '%1'.").arg(name.text));
     }
 };
 
-/// close, open and remove differ in their slot and their sentence alone.
+/// close, open and remove differ in what they ask and in their sentence alone.
 struct BankVerb {
-    void (Navigator::*slot)(const BankName &);
+    void (*step)(Requests &, const BankName &);
     QString sentence;
     QString bank = {};
 
@@ -99,22 +101,15 @@ struct BankVerb {
     }
     Report run(Call &call) const
     {
-        const BankName name = call.session.bank(bank).name();
-        call.session.change(bankOutcome, slot, name);
-        return bankReport(call.session, name, sentence.arg(bank));
+        const BankName name = call.requests.bank(bank).name();
+        step(call.requests, name);
+        return bankReport(call.requests, name, sentence.arg(bank));
     }
 };
 
-void associate(Session &session, const Bank &bank, AccountNumber number,
-               std::optional<banking::BankAccountTypes> type)
+void removeBank(Requests &requests, const BankName &name)
 {
-    Bank::Accounts accounts = bank.accounts();
-    if (type)
-        accounts.insert_or_assign(number, *type);
-    else
-        accounts.erase(number);
-    session.change(bankOutcome, &Navigator::onBankUpdated,
-                   Bank(bank.name(), std::move(accounts), false));
+    requests.change(workbench::bankOutcome, &Navigator::onBankRemoved, name);
 }
 
 struct AddBankAccount {
@@ -139,16 +134,17 @@ struct AddBankAccount {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
-        const Bank keeper = session.bank(bank);
-        const numira::Currency code = currency.value_or(session.preferredCurrency());
+        Requests &requests = call.requests;
+        const Bank keeper = requests.bank(bank);
+        const numira::Currency code = currency.value_or(requests.preferredCurrency());
         const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
-        const auto answers = session.change(bankAccountOutcome, &Navigator::onAddedBankAccount,
-                                            name.text, type, opening);
+        const auto answers =
+            requests.change(workbench::bankAccountOutcome, &Navigator::onAddedBankAccount,
+                            name.text, type, opening);
         const AccountCode added = std::get<AccountCode>(answers.front());
-        associate(session, keeper, added.number(), type);
-        openOn(session, added.number(), call.options.date);
-        return accountReport(session, added.number(),
+        workbench::attachBankAccount(call.document, keeper.name(), added.number(), type);
+        openOn(requests, added.number(), call.options.date);
+        return accountReport(requests, added.number(),
                              QObject::tr("Added the account %1 at the bank '%2'.")
                                  .arg(accounting::presentationText(added), bank));
     }
@@ -170,10 +166,10 @@ struct AttachBankAccount {
     }
     Report run(Call &call) const
     {
-        const AccountCode code = call.session.accounts().find(account).code();
-        const Bank keeper = call.session.bank(bank);
-        associate(call.session, keeper, code.number(), type);
-        return bankReport(call.session, keeper.name(),
+        const AccountCode code = call.requests.accounts().find(account).code();
+        const Bank keeper = call.requests.bank(bank);
+        workbench::attachBankAccount(call.document, keeper.name(), code.number(), type);
+        return bankReport(call.requests, keeper.name(),
                           QObject::tr("The bank '%1' keeps the account %2 now.")
                               .arg(bank, accounting::presentationText(code)));
     }
@@ -189,15 +185,12 @@ struct DetachBankAccount {
     }
     Report run(Call &call) const
     {
-        const AccountCode code = call.session.accounts().find(account).code();
-        const banking::BankMap banks = call.session.banks();
-        const std::optional<BankName> keeper = banks.find(code.number());
-        if (!keeper)
-            throw notABankAccount(account);
-        associate(call.session, banks.bank(*keeper), code.number(), std::nullopt);
-        return bankReport(call.session, *keeper,
+        const AccountCode code = call.requests.accounts().find(account).code();
+        const banking::BankAccount kept = call.requests.bankAccount(code.number(), account);
+        workbench::detachBankAccount(call.requests, kept);
+        return bankReport(call.requests, kept.bank,
                           QObject::tr("The bank '%1' no longer keeps the account %2.")
-                              .arg(keeper->institution(), accounting::presentationText(code)));
+                              .arg(kept.bank.institution(), accounting::presentationText(code)));
     }
 };
 
@@ -212,11 +205,11 @@ void addBankCommands(CommandGroup &root)
     bank.add("add", QObject::tr("Add a bank"), Change, AddBank{});
     bank.add("rename", QObject::tr("Give a bank another name"), Change, RenameBank{});
     bank.add("close", QObject::tr("Close a bank with its accounts"), Change,
-             BankVerb{&Navigator::onBankClosed, QObject::tr("Closed the bank '%1'.")});
+             BankVerb{workbench::closeBank, QObject::tr("Closed the bank '%1'.")});
     bank.add("open", QObject::tr("Open a closed bank again"), Change,
-             BankVerb{&Navigator::onBankOpened, QObject::tr("Opened the bank '%1' again.")});
+             BankVerb{workbench::openBank, QObject::tr("Opened the bank '%1' again.")});
     bank.add("remove", QObject::tr("Remove a bank with its accounts"), Change,
-             BankVerb{&Navigator::onBankRemoved, QObject::tr("Removed the bank '%1'.")});
+             BankVerb{removeBank, QObject::tr("Removed the bank '%1'.")});
 
     CommandGroup account = root.group("bank-account", QObject::tr("Accounts that banks keep"));
     account.add("add", QObject::tr("Open an account at a bank"), Change, AddBankAccount{});
@@ -225,10 +218,10 @@ void addBankCommands(CommandGroup &root)
     account.add("detach", QObject::tr("Take an account from its bank"), Change,
                 DetachBankAccount{});
     account.add("rename", QObject::tr("Change a bank account's number, name or parent"), Change,
-                Recode{bankAccountOutcome, &Navigator::onRenamedBankAccount,
+                Recode{workbench::bankAccountOutcome, &Navigator::onRenamedBankAccount,
                        QObject::tr("The bank account %1 is now %2.")});
     account.add("remove", QObject::tr("Remove a bank account"), Change,
-                AccountVerb{bankAccountOutcome, &Navigator::onRemovedBankAccount,
+                AccountVerb{workbench::bankAccountOutcome, &Navigator::onRemovedBankAccount,
                             QObject::tr("Removed the bank account %1.")});
 }
 

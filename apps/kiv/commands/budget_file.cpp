@@ -2,7 +2,6 @@
 // new, info, save-as
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 
 #include <QtCore/QFileInfo>
@@ -13,9 +12,9 @@ using navigation::Navigator;
 
 namespace {
 
-QJsonObject fileJson(const Session &session)
+QJsonObject fileJson(const Document &document)
 {
-    return {{QStringLiteral("file"), session.file()}};
+    return {{QStringLiteral("file"), document.file()}};
 }
 
 struct New {
@@ -33,12 +32,12 @@ struct New {
             path = qEnvironmentVariable("KIV_FILE");
         if (path.isEmpty())
             throw noFileNamed();
-        call.session.refuseUnsaved();
-        Session::refuseExisting(path);
-        call.session.navigator().onConfirmedNewBudgetEmpty();
-        call.session.create(path);
-        return Report(fileJson(call.session))
-            .line(QObject::tr("Made the empty budget '%1'.").arg(call.session.file()));
+        call.document.refuseUnsaved();
+        Document::refuseExisting(path);
+        call.requests.navigator().onConfirmedNewBudgetEmpty();
+        call.document.create(path);
+        return Report(fileJson(call.document))
+            .line(QObject::tr("Made the empty budget '%1'.").arg(call.document.file()));
     }
 };
 
@@ -51,9 +50,9 @@ struct SaveAs {
     }
     Report run(Call &call) const
     {
-        call.session.create(file);
-        return Report(fileJson(call.session))
-            .line(QObject::tr("Saved the budget as '%1'.").arg(call.session.file()));
+        call.document.create(file);
+        return Report(fileJson(call.document))
+            .line(QObject::tr("Saved the budget as '%1'.").arg(call.document.file()));
     }
 };
 
@@ -80,24 +79,24 @@ struct Info {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
-        const budgeting::Budget budget = BudgetView(call.session).budget();
+        const AccountIndex index = call.requests.accounts();
+        const budgeting::Budget budget = BudgetView(call.requests).budget();
         QJsonObject items;
         budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
             items.insert(QLatin1String(budgeting::ItemTraits<Item>::word),
                          static_cast<qint64>(budget.items<Item>().size()));
         });
-        QJsonObject json = fileJson(call.session);
-        json.insert(QStringLiteral("bytes"), QFileInfo(call.session.file()).size());
+        QJsonObject json = fileJson(call.document);
+        json.insert(QStringLiteral("bytes"), QFileInfo(call.document.file()).size());
         json.insert(QStringLiteral("accounts"), static_cast<qint64>(index.accounts().size()));
         json.insert(QStringLiteral("transactions"),
-                    static_cast<qint64>(call.session.transactions().size()));
-        json.insert(QStringLiteral("banks"), static_cast<qint64>(call.session.banks().size()));
+                    static_cast<qint64>(call.requests.transactions().size()));
+        json.insert(QStringLiteral("banks"), static_cast<qint64>(call.requests.banks().size()));
         json.insert(QStringLiteral("items"), items);
         json.insert(QStringLiteral("debits"), sideTotals(index, true));
         json.insert(QStringLiteral("credits"), sideTotals(index, false));
 
-        const auto amounts = [displayAs = call.session.displayAs()](const QJsonValue &value) {
+        const auto amounts = [displayAs = call.document.displayAs()](const QJsonValue &value) {
             return amountsText(value.toArray(), displayAs);
         };
         const auto counts = [](const QJsonValue &value) {

@@ -2,90 +2,26 @@
 // check
 #include "commands/commands.h"
 
-#include "output/json.h"
 #include "program.h"
 
-#include "foundation/presentation.h"
-#include "storage/budget_inspection.h"
+#include "workbench/document/verification.h"
 
 #include <QtCore/QFileInfo>
 
+#include <array>
+
 namespace kiv::app {
 
-using accounting::Account;
-using storage::BudgetStorage;
-using storage::FilePromise;
 using storage::Verdict;
+using workbench::Promise;
 
 namespace {
 
-/// One promise of a budget file as it is told: its word for programs, its
-/// sentence for people, and what became of it.
-struct Told {
-    const char *word;
-    QString sentence;
-    Verdict verdict = Verdict::NotJudged;
-    QStringList reasons = {};
-};
-
-Told told(const storage::Judgement &judgement)
+/// The promise's word for programs.
+const char *wordOf(Promise promise)
 {
-    switch (judgement.promise) {
-    case FilePromise::Identity:
-        return {"identity", QObject::tr("It is a budget file of a known version"),
-                judgement.verdict, judgement.reasons};
-    case FilePromise::Tables:
-        return {"tables", QObject::tr("Its tables are those of that version"), judgement.verdict,
-                judgement.reasons};
-    case FilePromise::Seal:
-        return {"seal", QObject::tr("Its rows are those that were written"), judgement.verdict,
-                judgement.reasons};
-    case FilePromise::Rules:
-        return {"rules", QObject::tr("Its books obey the rules of the ledger"), judgement.verdict,
-                judgement.reasons};
-    case FilePromise::Ties:
-        break;
-    }
-    return {"ties", QObject::tr("Its items, accounts and banks fit together"), judgement.verdict,
-            judgement.reasons};
-}
-
-/// A sum that grows by amounts of one currency after the other.
-using Sums = std::map<numira::Currency, numira::Money>;
-
-void add(Sums &sums, const numira::Money &amount)
-{
-    sums.try_emplace(amount.code(), amount.code()).first->second += amount;
-}
-
-/// Adds up the transactions account by account, and finds whether that gives the
-/// balances, and the same sum on both sides.
-std::vector<Told> judgeSums(const std::optional<BudgetStorage::Data> &data)
-{
-    Told balances{"balances", QObject::tr("Every balance is the sum of its transactions")};
-    Told sides{"sides", QObject::tr("In every currency the debits equal the credits")};
-    if (!data)
-        return {balances, sides};
-    Sums debits;
-    Sums credits;
-    for (const Account &account : data->generalLedger.accounts()) {
-        numira::Money sum(account.balance().code());
-        for (const accounting::Transaction &transaction : account.transactions()) {
-            const bool isDebit = transaction.debiting().number() == account.code().number();
-            const numira::Money &amount = transaction.amountFor(account.code().number());
-            sum += isDebit == accounting::isDebitNormal(account.type()) ? amount : -amount;
-            // One that goes from one currency to another is in neither sum.
-            if (transaction.debitAmount().code() == transaction.creditAmount().code())
-                add(isDebit ? debits : credits, amount);
-        }
-        if (sum != account.balance())
-            balances.reasons += accounting::presentationText(account.code());
-    }
-    balances.verdict = balances.reasons.isEmpty() ? Verdict::Kept : Verdict::Broken;
-    sides.verdict = debits == credits ? Verdict::Kept : Verdict::Broken;
-    for (const auto &[_, sum] : debits)
-        sides.reasons += amountText(toJson(sum), navigation::CurrencyDisplayOptions::IsoCode);
-    return {balances, sides};
+    constexpr std::array words{"identity", "tables", "seal", "rules", "ties", "balances", "sides"};
+    return words.at(static_cast<std::size_t>(promise) - 1);
 }
 
 const char *wordOf(Verdict verdict)
@@ -122,20 +58,13 @@ struct Check {
     Report run(Call &call) const
     {
         const QString path = named(call);
-        const storage::BudgetInspection found = storage::inspectBudget(path);
-        std::vector<Told> promises;
-        promises.reserve(found.judgements.size());
-        for (const storage::Judgement &judgement : found.judgements)
-            promises.push_back(told(judgement));
-        std::ranges::move(judgeSums(found.data), std::back_inserter(promises));
-
+        const workbench::Verification found = workbench::verify(path);
+        const bool isWhole = found.isWhole();
         QJsonArray rows;
-        bool isWhole = true;
-        for (const Told &promise : promises) {
-            isWhole = isWhole && promise.verdict != Verdict::Broken;
+        for (const workbench::PromiseVerdict &promise : found.promises) {
             rows.append(QJsonObject{
-                {QStringLiteral("promise"), QLatin1String(promise.word)},
-                {QStringLiteral("text"), promise.sentence},
+                {QStringLiteral("promise"), QLatin1String(wordOf(promise.promise))},
+                {QStringLiteral("text"), promise.sentence()},
                 {QStringLiteral("verdict"), QLatin1String(wordOf(promise.verdict))},
                 {QStringLiteral("details"), QJsonArray::fromStringList(promise.reasons)}});
         }
@@ -160,7 +89,7 @@ private:
     [[nodiscard]] QString named(const Call &call) const
     {
         const QString path = file.isEmpty() ? call.fileNamed() : file;
-        return QFileInfo(path).isFile() ? path : Session::withExtension(path);
+        return QFileInfo(path).isFile() ? path : Document::withExtension(path);
     }
 };
 

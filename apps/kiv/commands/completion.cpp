@@ -85,7 +85,7 @@ struct CompleteWords {
         }
         Candidates found;
         try {
-            found = candidatesAfter(*call.program.commandTree(), before, call.session);
+            found = candidatesAfter(*call.program.commandTree(), before, call.document);
         } catch (const foundation::Error &) {
             // A budget that cannot be read has no names to offer.
         }

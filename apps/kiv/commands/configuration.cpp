@@ -2,8 +2,6 @@
 // configure show|set, tags list|remove
 #include "commands/commands.h"
 
-#include "parsing/similar.h"
-
 #include "foundation/presentation.h"
 #include "navigation/configuration.h"
 
@@ -13,9 +11,6 @@ using navigation::ConfigurationData;
 using navigation::Navigator;
 
 namespace {
-
-constexpr Outcome configureOutcome{&Navigator::configureSaveSucceeded,
-                                   &Navigator::configureSaveFailed};
 
 struct DisplayOption {
     navigation::CurrencyDisplayOptions value = navigation::CurrencyDisplayOptions::IsoCode;
@@ -39,10 +34,10 @@ void readValue(const std::string &text, DisplayOption &option)
     throw notAChoice(QString::fromStdString(text), choices);
 }
 
-ConfigurationData present(Session &session)
+ConfigurationData present(Requests &requests)
 {
     return std::get<ConfigurationData>(
-        session.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
+        requests.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
 }
 
 QJsonArray tagNames(const tagging::Tags &tags)
@@ -53,9 +48,9 @@ QJsonArray tagNames(const tagging::Tags &tags)
     return names;
 }
 
-Report configurationReport(Session &session)
+Report configurationReport(Requests &requests)
 {
-    const ConfigurationData data = present(session);
+    const ConfigurationData data = present(requests);
     QJsonArray usable;
     for (const numira::Currency &currency : data.usableCurrencies)
         usable.append(foundation::toQString(currency));
@@ -86,9 +81,9 @@ struct ShowConfiguration {
     Report run(Call &call) const
     {
         // Here what is wrong with the settings is of interest.
-        (void)call.session.gather(&Navigator::showConfigure,
-                                  [&call] { call.session.navigator().onPrepareShowConfigure(); });
-        return configurationReport(call.session);
+        (void)call.requests.gather(&Navigator::showConfigure,
+                                   [&call] { call.requests.navigator().onPrepareShowConfigure(); });
+        return configurationReport(call.requests);
     }
 };
 
@@ -120,7 +115,7 @@ struct SetConfiguration {
     {
         if (!preferred && usable.empty() && !display && !notify && !window && !hours && !days)
             throw nothingToChange();
-        ConfigurationData data = present(call.session);
+        ConfigurationData data = present(call.requests);
         if (preferred)
             data.usableCurrencies.insert(*preferred);
         data.preferredCurrency = preferred.value_or(data.preferredCurrency);
@@ -132,8 +127,8 @@ struct SetConfiguration {
         data.surveyWindow = window.value_or(data.surveyWindow);
         data.hoursInWeek = hours.value_or(data.hoursInWeek);
         data.daysInWeek = days.value_or(data.daysInWeek);
-        call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
-        return configurationReport(call.session);
+        call.requests.change(workbench::configureOutcome, &Navigator::onConfigureUpdated, data);
+        return configurationReport(call.requests);
     }
 };
 
@@ -141,7 +136,7 @@ struct ListTags {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const QJsonArray names = tagNames(present(call.session).tags);
+        const QJsonArray names = tagNames(present(call.requests).tags);
         Report report{QJsonValue(names)};
         for (const QJsonValue name : names)
             report.line(name.toString());
@@ -159,7 +154,7 @@ struct RemoveTags {
     }
     Report run(Call &call) const
     {
-        ConfigurationData data = present(call.session);
+        ConfigurationData data = present(call.requests);
         tagging::Tags removed;
         QStringList known;
         for (const tagging::Tag &candidate : data.tags)
@@ -173,7 +168,7 @@ struct RemoveTags {
         }
         named.removeDuplicates();
         data.tags = data.tags.without(removed);
-        call.session.change(configureOutcome, &Navigator::onConfigureUpdated, data);
+        call.requests.change(workbench::configureOutcome, &Navigator::onConfigureUpdated, data);
         return Report(QJsonValue(tagNames(data.tags)))
             .line(QObject::tr("Removed the tags %1.", nullptr, static_cast<int>(named.size()))
                       .arg(named.join(QStringLiteral(", "))));

@@ -40,7 +40,7 @@ struct Dashboard {
     Report run(Call &call) const
     {
         const auto answer =
-            call.session.ask(&Navigator::showDashboard, &Navigator::onPrepareShowDashboard);
+            call.requests.ask(&Navigator::showDashboard, &Navigator::onPrepareShowDashboard);
         const QJsonObject totals = totalsJson(std::get<budgeting::BudgetTotals>(answer));
         const auto &health = std::get<adviser::BudgetHealth>(answer);
         QJsonArray due;

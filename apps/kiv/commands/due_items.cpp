@@ -3,7 +3,6 @@
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 
 #include "foundation/presentation.h"
@@ -21,12 +20,12 @@ namespace {
 /// What is due by the user's settings, or within other days of another day.
 std::vector<BudgetItemAmountDue> dueItems(Call &call, std::optional<std::chrono::days> within)
 {
-    auto answer = call.session.ask(&Navigator::showProcessBudgetItems,
-                                   &Navigator::onPrepareShowProcessBudgetItems);
+    auto answer = call.requests.ask(&Navigator::showProcessBudgetItems,
+                                    &Navigator::onPrepareShowProcessBudgetItems);
     if (!within && !call.options.date)
         return std::get<std::vector<BudgetItemAmountDue>>(std::move(answer));
     return budgeting::budgetItemsDue(within.value_or(std::get<std::chrono::days>(answer)),
-                                     BudgetView(call.session).budget(), call.date());
+                                     BudgetView(call.requests).budget(), call.date());
 }
 
 BudgetItemAmountDue dueOf(const BudgetedMoney &item)
@@ -46,10 +45,10 @@ void refuseShadowed(const budgeting::Budget &budget, const BudgetItemDueIdentifi
 }
 
 /// An item's transaction as JSON, next to the item.
-QJsonObject postedJson(Session &session, accounting::TransactionNumber number,
+QJsonObject postedJson(Requests &requests, accounting::TransactionNumber number,
                        const BudgetItemDueIdentifier &id)
 {
-    QJsonObject json = toJson(session.transaction(number));
+    QJsonObject json = toJson(requests.transaction(number));
     json.insert(QStringLiteral("kind"), kindWord(id.type));
     json.insert(QStringLiteral("name"), id.source.name());
     return json;
@@ -135,20 +134,21 @@ struct PostDue {
                         : missing(placeholder("ITEM"));
         if (isAll && amount)
             throw contradiction(QStringLiteral("--all"), QStringLiteral("--amount"));
-        Session &session = call.session;
-        const accounting::AccountCode code = session.accounts().find(account).code();
+        Requests &requests = call.requests;
+        const accounting::AccountCode code = requests.accounts().find(account).code();
         QJsonArray rows;
         Report report;
-        const BudgetView view(session);
+        const BudgetView view(requests);
         for (const BudgetItemAmountDue &due : chosen(call, view)) {
             refuseShadowed(view.budget(), due.id);
-            for (const auto &[id, number] : session.change(
-                     dueOutcome, &Navigator::onPostBudgetItemPosted, due, code, call.date())) {
-                rows.append(postedJson(session, number.value(), id));
+            for (const auto &[id, number] :
+                 requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemPosted, due,
+                                 code, call.date())) {
+                rows.append(postedJson(requests, number.value(), id));
                 report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
                                 .arg(kindText(id.type), id.source.name(),
                                      foundation::presentationText(due.id.dueOn),
-                                     amountText(toJson(due.amount), session.displayAs())));
+                                     amountText(toJson(due.amount), requests.displayAs())));
             }
         }
         if (rows.isEmpty())
@@ -185,17 +185,17 @@ struct PayUnexpected {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
-        const BudgetItemAmountDue due = item.due(BudgetView(session));
+        Requests &requests = call.requests;
+        const BudgetItemAmountDue due = item.due(BudgetView(requests));
         const numira::Money money = amount.in(due.amount.code());
-        const accounting::AccountCode code = session.accounts().find(account).code();
+        const accounting::AccountCode code = requests.accounts().find(account).code();
         const auto answers =
-            session.change(dueOutcome, &Navigator::onPostBudgetItemPostedUnexpected, due.id, money,
-                           code, call.date());
+            requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemPostedUnexpected,
+                            due.id, money, code, call.date());
         const auto &[id, number] = answers.front();
-        return Report(postedJson(session, number.value(), id))
+        return Report(postedJson(requests, number.value(), id))
             .line(QObject::tr("Posted %1 for the %2 '%3', which is still due on %4.")
-                      .arg(amountText(toJson(money), session.displayAs()), kindText(id.type),
+                      .arg(amountText(toJson(money), requests.displayAs()), kindText(id.type),
                            id.source.name(), foundation::presentationText(due.id.dueOn)));
     }
 };
@@ -206,13 +206,13 @@ struct SkipDue {
     void declare(Arguments &arguments) { item.declare(arguments); }
     Report run(Call &call) const
     {
-        const BudgetView before(call.session);
+        const BudgetView before(call.requests);
         const BudgetItemAmountDue due = item.due(before);
         refuseShadowed(before.budget(), due.id);
-        call.session.change(dueOutcome, &Navigator::onPostBudgetItemSkipped, due.id);
-        const BudgetView view(call.session);
+        call.requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemSkipped, due.id);
+        const BudgetView view(call.requests);
         const BudgetedMoney &skipped = view.find(item.name, due.id.type);
-        return Report(view.json(skipped))
+        return Report(toJson(skipped, view))
             .line(QObject::tr("Skipped the %1 '%2' due on %3; it is next due on %4.")
                       .arg(kindText(due.id.type), item.name,
                            foundation::presentationText(due.id.dueOn),

@@ -2,7 +2,6 @@
 // export
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 
 #include "interchange/ledger_writer.h"
@@ -29,19 +28,19 @@ void readValue(const std::string &text, ExportFormat &value)
 
 /// The form that docs/import-export.md tells. Keys may be added under the same
 /// version, but none changes its meaning.
-QJsonObject everything(Session &session, const AccountIndex &index,
+QJsonObject everything(Requests &requests, const AccountIndex &index,
                        const std::vector<accounting::Transaction> &transactions)
 {
     QJsonArray accounts;
     for (const accounting::Account &account : index.accounts())
         accounts.append(toJson(account, index));
     QJsonArray banks;
-    for (const auto &[name, bank] : session.banks())
+    for (const auto &[name, bank] : requests.banks())
         banks.append(toJson(bank, index));
     QJsonArray items;
-    const BudgetView view(session);
+    const BudgetView view(requests);
     view.budget().forEach(
-        [&](const budgeting::BudgetedMoney &item) { items.append(view.json(item)); });
+        [&](const budgeting::BudgetedMoney &item) { items.append(toJson(item, view)); });
     QJsonArray posted;
     for (const accounting::Transaction &transaction : transactions)
         posted.append(toJson(transaction));
@@ -62,13 +61,13 @@ struct Export {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
-        const std::vector<accounting::Transaction> transactions = call.session.transactions();
+        const AccountIndex index = call.requests.accounts();
+        const std::vector<accounting::Transaction> transactions = call.requests.transactions();
         if (format == ExportFormat::Journal)
             return Report().raw(interchange::writeJournal(index.accounts(), transactions));
         if (format == ExportFormat::Csv)
             return Report().raw(interchange::writeCsv(index.accounts(), transactions));
-        const Report report{QJsonValue(everything(call.session, index, transactions))};
+        const Report report{QJsonValue(everything(call.requests, index, transactions))};
         return Report().raw(report.toJson());
     }
 };

@@ -35,7 +35,7 @@ std::pair<QString, QString> assignment(const QString &text)
 {
     const qsizetype at = text.lastIndexOf(u'=');
     if (at <= 0 || at + 1 == text.size())
-        throw notAnAssignment(text);
+        throw workbench::notAnAssignment(text);
     return {text.left(at), text.mid(at + 1)};
 }
 
@@ -206,7 +206,7 @@ CsvProfile ImportOptions::readProfile() const
         bool isNumber = false;
         count = text->toInt(&isNumber);
         if (!isNumber || count < 0)
-            throw notANumber(*text, 0, 1000);
+            throw workbench::notANumber(*text, 0, 1000);
     };
     readCount(m_skip, read.skippedLines);
     readCount(m_skipLast, read.skippedLast);

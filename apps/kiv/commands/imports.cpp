@@ -63,14 +63,14 @@ private:
             if (given)
                 throw contradiction(QLatin1String(name), QStringLiteral("--format journal"));
         }
-        Session &session = call.session;
+        Requests &requests = call.requests;
         const interchange::Draft draft = interchange::readJournal(
-            bytes, options.file, options.journal(session.preferredCurrency()));
-        const AccountIndex before = session.accounts();
+            bytes, options.file, options.journal(requests.preferredCurrency()));
+        const AccountIndex before = requests.accounts();
         const interchange::AccountPlan plan = interchange::planAccounts(draft, before.accounts());
-        interchange::Duplicates duplicates(session.transactions());
+        interchange::Duplicates duplicates(requests.transactions());
         for (const accounting::Account &account : plan.missing)
-            session.change(accountOutcome, &Navigator::onAddedAct, account);
+            requests.change(workbench::accountOutcome, &Navigator::onAddedAct, account);
         std::vector<Found> found;
         for (const interchange::DraftTransaction &drafted : draft.transactions) {
             const Transaction transaction(
@@ -89,8 +89,8 @@ private:
     {
         if (!into)
             throw noAccountInto();
-        Session &session = call.session;
-        const AccountIndex index = session.accounts();
+        Requests &requests = call.requests;
+        const AccountIndex index = requests.accounts();
         const accounting::Account &account = index.find(*into);
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
@@ -104,8 +104,8 @@ private:
         }();
         const interchange::StatementPlan plan = interchange::planStatement(
             statement,
-            {account.code(), currency, openedOn(session, account.code()), index.accounts(),
-             session.transactions(), keptByBanks(session)},
+            {account.code(), currency, openedOn(requests, account.code()), index.accounts(),
+             requests.transactions(), keptByBanks(requests)},
             {profile.rules, against,
              [&index](const QString &name) { return index.find(name).code(); }});
         std::vector<Found> found;
@@ -133,19 +133,19 @@ private:
         return texts;
     }
 
-    [[nodiscard]] static std::optional<QDate> openedOn(Session &session, const AccountCode &code)
+    [[nodiscard]] static std::optional<QDate> openedOn(Requests &requests, const AccountCode &code)
     {
         const auto ledger = std::get<accounting::LedgerAccount>(
-            session.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
+            requests.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
         const auto opening = ledger.openedBy();
-        return opening ? std::optional(session.transaction(*opening).occurredOn()) : std::nullopt;
+        return opening ? std::optional(requests.transaction(*opening).occurredOn()) : std::nullopt;
     }
 
     /// Those that banks send statements of.
-    [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Session &session)
+    [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Requests &requests)
     {
         std::set<accounting::AccountNumber> kept;
-        for (const auto &[name, bank] : session.banks()) {
+        for (const auto &[name, bank] : requests.banks()) {
             for (const auto &[number, type] : bank.accounts()) {
                 if (type != BankAccountTypes::Cash && type != BankAccountTypes::GoalSubAccount)
                     kept.insert(number);
@@ -162,11 +162,11 @@ private:
     {
         QJsonArray rows;
         qint64 posted = 0;
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         for (const auto &[transaction, place, isKnown, told] : found) {
             const bool isDuplicate = isKnown && !keepsDuplicates;
             if (!isDuplicate) {
-                postOne(call.session, transaction, place);
+                postOne(call.requests, transaction, place);
                 ++posted;
                 notices += told;
             }
@@ -202,10 +202,11 @@ private:
                                     QString::number(opened.size())));
     }
 
-    static void postOne(Session &session, const Transaction &transaction, const Place &place)
+    static void postOne(Requests &requests, const Transaction &transaction, const Place &place)
     {
         try {
-            session.change(transactionOutcome, &Navigator::onAddedTransaction, transaction);
+            requests.change(workbench::transactionOutcome, &Navigator::onAddedTransaction,
+                            transaction);
         } catch (const Refusal &refusal) {
             throw interchange::ImportError(place, refusal.message());
         }

@@ -3,7 +3,6 @@
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 
 namespace kiv::app {
@@ -92,23 +91,19 @@ struct ItemArguments {
 
     /// The bank account that was named, in the form in which the kind of item
     /// is tied to one: a debt to a bank, a goal to an account.
-    [[nodiscard]] std::optional<BankAccount> named(Session &session) const
+    [[nodiscard]] std::optional<BankAccount> named(Requests &requests) const
     {
         if (bank) {
             const auto kind = type.value_or(banking::BankAccountTypes::Loan);
-            return BankAccount{session.bank(*bank).name(), {accounting::AccountNumber(), kind}};
+            return BankAccount{requests.bank(*bank).name(), {accounting::AccountNumber(), kind}};
         }
         if (type)
             throw missing(QStringLiteral("--bank"));
         if (!bankAccount)
             return std::nullopt;
         const accounting::AccountNumber number =
-            session.accounts().find(*bankAccount).code().number();
-        const banking::BankMap banks = session.banks();
-        const std::optional<banking::BankName> keeper = banks.find(number);
-        if (!keeper)
-            throw notABankAccount(*bankAccount);
-        return BankAccount{*keeper, {number, banks.bank(*keeper).accounts().at(number)}};
+            requests.accounts().find(*bankAccount).code().number();
+        return requests.bankAccount(number, *bankAccount);
     }
 
 private:
@@ -116,10 +111,10 @@ private:
     static const numira::Money &extraOf(const budgeting::Goal &goal) { return goal.final(); }
 };
 
-Report itemReport(Session &session, const BudgetItemIdentifier &id, const QString &sentence)
+Report itemReport(Requests &requests, const BudgetItemIdentifier &id, const QString &sentence)
 {
-    const BudgetView view(session);
-    return Report(view.json(view.find(id.source.name(), id.type))).line(sentence);
+    const BudgetView view(requests);
+    return Report(toJson(view.find(id.source.name(), id.type), view)).line(sentence);
 }
 
 template <budgeting::BudgetItem Item>
@@ -137,36 +132,36 @@ struct AddItem {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
+        Requests &requests = call.requests;
         ItemArguments<Item> given = arguments;
         given.amount = amount;
-        const numira::Money nothing(amount.currency.value_or(session.preferredCurrency()));
+        const numira::Money nothing(amount.currency.value_or(requests.preferredCurrency()));
         const Item item = given.item(name.text, blank(nothing, given.next.value_or(call.date())));
         const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
         const auto add = [&] {
-            session.change(itemOutcome, &Navigator::onAdded, caller, id.type, item,
-                           given.named(session),
-                           tagging::BudgetItemTags::ItemTags(id, given.asTags()));
+            requests.change(workbench::itemOutcome, &Navigator::onAdded, caller, id.type, item,
+                            given.named(requests),
+                            tagging::BudgetItemTags::ItemTags(id, given.asTags()));
         };
         if (call.options.date)
-            openingOn(session, *call.options.date, add);
+            openingOn(requests, *call.options.date, add);
         else
             add();
         return itemReport(
-            session, id,
+            requests, id,
             QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
     }
 
 private:
     /// The item's own account is among those that `add` opens.
-    static void openingOn(Session &session, const QDate &date, const auto &add)
+    static void openingOn(Requests &requests, const QDate &date, const auto &add)
     {
-        const AccountIndex before = session.accounts();
+        const AccountIndex before = requests.accounts();
         add();
-        const AccountIndex after = session.accounts();
+        const AccountIndex after = requests.accounts();
         for (const accounting::Account &account : after.accounts()) {
             if (!before.find(account.code().number()))
-                openOn(session, account.code().number(), date);
+                openOn(requests, account.code().number(), date);
         }
     }
     static Item blank(const numira::Money &nothing, QDate date)
@@ -201,18 +196,18 @@ struct UpdateItem {
             throw nothingToChange();
         if (isUntagged && !arguments.tags.empty())
             throw contradiction(QStringLiteral("--no-tags"), QStringLiteral("--tag"));
-        Session &session = call.session;
-        const BudgetView view(session);
+        Requests &requests = call.requests;
+        const BudgetView view(requests);
         const auto &present = dynamic_cast<const Item &>(view.find(name, ItemTraits<Item>::type));
         const BudgetItemIdentifier id{ItemTraits<Item>::type, present.source()};
         const bool areTagsKept = arguments.tags.empty() && !isUntagged;
         const tagging::Tags tags = areTagsKept ? view.tags(id) : arguments.asTags();
         const auto update = [&](const std::optional<BankAccount> &tied) {
-            session.change(itemOutcome, &Navigator::onUpdated, caller, id.type,
-                           arguments.item(name, present), tied,
-                           tagging::BudgetItemTags::ItemTags(id, tags));
+            requests.change(workbench::itemOutcome, &Navigator::onUpdated, caller, id.type,
+                            arguments.item(name, present), tied,
+                            tagging::BudgetItemTags::ItemTags(id, tags));
         };
-        const std::optional<BankAccount> wanted = bankAccount(session, view, id);
+        const std::optional<BankAccount> wanted = bankAccount(requests, view, id);
         // Two banks may hold one debt; who names another bank wants it moved there.
         if constexpr (std::same_as<Item, budgeting::Debt>) {
             const std::optional<BankAccount> former = view.bankAccount(id);
@@ -221,17 +216,17 @@ struct UpdateItem {
         }
         update(wanted);
         return itemReport(
-            session, id,
+            requests, id,
             QObject::tr("Changed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
     }
 
 private:
     /// An update without a bank account would untie the item, so the one that
     /// it has is sent along.
-    [[nodiscard]] std::optional<BankAccount> bankAccount(Session &session, const BudgetView &view,
+    [[nodiscard]] std::optional<BankAccount> bankAccount(Requests &requests, const BudgetView &view,
                                                          const BudgetItemIdentifier &id) const
     {
-        const std::optional<BankAccount> named = arguments.named(session);
+        const std::optional<BankAccount> named = arguments.named(requests);
         if (isUntied && named)
             throw contradiction(QStringLiteral("--no-bank"),
                                 arguments.bank ? QStringLiteral("--bank")
@@ -253,10 +248,10 @@ struct RenameItem {
     Report run(Call &call) const
     {
         const BudgetItemIdentifier id{ItemTraits<Item>::type, BudgetSource(changed.text)};
-        const BudgetSource present = BudgetView(call.session).find(name, id.type).source();
-        call.session.change(itemOutcome, &Navigator::onRenamed, caller, id.type, present,
-                            id.source);
-        return itemReport(call.session, id,
+        const BudgetSource present = BudgetView(call.requests).find(name, id.type).source();
+        call.requests.change(workbench::itemOutcome, &Navigator::onRenamed, caller, id.type,
+                             present, id.source);
+        return itemReport(call.requests, id,
                           QObject::tr("The %1 '%2' is now called '%3'.")
                               .arg(kindText(ItemTraits<Item>::type), name, changed.text));
     }
@@ -272,10 +267,10 @@ struct RemoveItem {
     }
     Report run(Call &call) const
     {
-        const BudgetView view(call.session);
-        const QJsonObject json = view.json(view.find(name, ItemTraits<Item>::type));
-        call.session.change(itemOutcome, &Navigator::onRemoved, caller, ItemTraits<Item>::type,
-                            BudgetSource(name));
+        const BudgetView view(call.requests);
+        const QJsonObject json = toJson(view.find(name, ItemTraits<Item>::type), view);
+        call.requests.change(workbench::itemOutcome, &Navigator::onRemoved, caller,
+                             ItemTraits<Item>::type, BudgetSource(name));
         return Report(json).line(
             QObject::tr("Removed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
     }
@@ -286,10 +281,10 @@ struct ListItems {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const BudgetView view(call.session);
+        const BudgetView view(call.requests);
         QJsonArray rows;
         for (const auto &[source, item] : view.budget().items<Item>())
-            rows.append(view.json(item));
+            rows.append(toJson(item, view));
         std::vector<Column> columns{{QObject::tr("Name"), QStringLiteral("name")},
                                     {QObject::tr("Amount"), QStringLiteral("amount")},
                                     {QObject::tr("Every"), QStringLiteral("every"), wordText},

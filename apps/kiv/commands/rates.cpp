@@ -2,7 +2,10 @@
 // rates show|fetch|set
 #include "commands/commands.h"
 
-#include "user_locale.h"
+#include "message_log.h"
+#include "output/json.h"
+
+#include "workbench/entry/user_locale.h"
 
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"
@@ -34,14 +37,14 @@ void readValue(const std::string &text, RateArgument &value)
     const QRegularExpressionMatch match = form.match(word);
     if (!match.hasMatch())
         throw notARate(word);
-    app::readValue(match.captured(1).toStdString(), value.currency);
+    workbench::readValue(match.captured(1).toStdString(), value.currency);
     value.rate = numira::FloatingPoint(match.captured(2).toStdString());
 }
 
-ConversionMap present(Session &session)
+ConversionMap present(Requests &requests)
 {
     return std::get<ConversionMap>(
-        session.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
+        requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
 }
 
 /// As the user's locale writes it.
@@ -73,7 +76,7 @@ Report ratesReport(const ConversionMap &map)
                     {QStringLiteral("expired"), map.isExpired()},
                     {QStringLiteral("rates"), rows}});
     if (!map.isEmpty()) {
-        const QString shown = momentText(map.fetchedAt());
+        const QString shown = workbench::momentText(map.fetchedAt());
         report.heading(
             map.isExpired()
                 ? QObject::tr("For one %1, as of %2 (no longer current)").arg(base, shown)
@@ -86,7 +89,7 @@ Report ratesReport(const ConversionMap &map)
 
 struct ShowRates {
     void declare(Arguments &) {}
-    Report run(Call &call) const { return ratesReport(present(call.session)); }
+    Report run(Call &call) const { return ratesReport(present(call.requests)); }
 };
 
 struct FetchRates {
@@ -99,25 +102,19 @@ struct FetchRates {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
+        Requests &requests = call.requests;
         const auto shown =
-            session.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates);
+            requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates);
         std::set<numira::Currency> currencies(wanted.begin(), wanted.end());
         if (currencies.empty())
             currencies = std::get<std::set<numira::Currency>>(shown);
         if (::isatty(STDERR_FILENO) != 0)
             complain(QObject::tr("fetching exchange rates …"));
-        const auto [map, warning] = session.quietly([&] {
-            return std::get<ConversionMap>(session.ask(
-                &Navigator::fetchedExchangeRates, &Navigator::onFetchExchangeRates, currencies));
-        });
-        // A fetch that failed answers with the rates as they were, and only the log
-        // tells it from one that found nothing newer.
-        const QString failure =
-            reasonIn(warning, QStringLiteral("Failed to fetch the exchange rates."));
-        if (map.isEmpty() || !failure.isEmpty())
-            throw ratesNotFetched(failure);
-        session.navigator().onStoreExchangeRates(map);
+        const auto [map, failure] = requests.fetchRates(currencies);
+        // A fetch that failed answers with the rates as they were.
+        if (map.isEmpty() || failure)
+            throw ratesNotFetched(failure.value_or(QString()));
+        requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
 };
@@ -134,14 +131,14 @@ struct SetRates {
     }
     Report run(Call &call) const
     {
-        const ConversionMap known = present(call.session);
+        const ConversionMap known = present(call.requests);
         ConversionMap::Rates all;
         if (!known.isEmpty() && known.base() == base)
             all = known.rates();
         for (const RateArgument &given : rates)
             all.insert_or_assign(given.currency, given.rate);
         const ConversionMap map(base, QDateTime::currentDateTimeUtc(), std::move(all));
-        call.session.navigator().onStoreExchangeRates(map);
+        call.requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
 };

@@ -8,8 +8,6 @@
 #include "updating/release_information.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QEventLoop>
-#include <QtCore/QTimer>
 
 #include <chrono>
 
@@ -24,30 +22,12 @@ namespace {
 constexpr std::chrono::seconds patience{40};
 
 /// The releases, the newest first. Throws a Refusal when no answer comes.
-std::vector<ReleaseInformation> fetchReleases(Session &session)
+std::vector<ReleaseInformation> fetchReleases(Requests &requests)
 {
-    std::optional<std::set<ReleaseInformation>> releases;
-    QString warning;
-    (void)session.quietly([&] {
-        QEventLoop loop;
-        QObject::connect(&session.navigator(), &Navigator::fetchedReleaseNotes, &loop,
-                         [&](const std::set<ReleaseInformation> &versions) {
-                             releases = versions;
-                             warning = session.lastWarning();
-                             loop.quit();
-                         });
-        QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-        // From within the loop, in case that the answer is there at once.
-        QTimer::singleShot(0, &session.navigator(), &Navigator::onFetchReleaseNotes);
-        return loop.exec() == 0;
-    });
-    // The Navigator may have warned of something else meanwhile, such as of
-    // exchange rates that it could not refresh.
-    const QString reason =
-        reasonIn(warning, QStringLiteral("Failed to fetch the list of releases."));
-    if (!releases || (releases->empty() && !reason.isEmpty()))
-        throw releasesNotFetched(reason);
-    return {releases->rbegin(), releases->rend()};
+    const auto [releases, failure] = requests.fetchReleases(patience);
+    if (releases.empty() && failure)
+        throw releasesNotFetched(*failure);
+    return {releases.rbegin(), releases.rend()};
 }
 
 QJsonObject toJson(const ReleaseInformation &release)
@@ -63,7 +43,7 @@ struct CheckUpdates {
     {
         const auto own =
             updating::SemanticVersion::fromText(QCoreApplication::applicationVersion());
-        const std::vector<ReleaseInformation> releases = fetchReleases(call.session);
+        const std::vector<ReleaseInformation> releases = fetchReleases(call.requests);
         const bool isNews = !releases.empty() && releases.front().version.isNewerThan(own);
         QJsonObject json{{QStringLiteral("version"), updating::toQString(own)},
                          {QStringLiteral("latest"), QJsonValue()}};
@@ -81,7 +61,7 @@ struct ReleaseNotes {
     {
         QJsonArray rows;
         Report report;
-        for (const ReleaseInformation &release : fetchReleases(call.session)) {
+        for (const ReleaseInformation &release : fetchReleases(call.requests)) {
             rows.append(toJson(release));
             report.heading(updating::presentationText(release.version) + u' ' +
                            foundation::presentationText(release.releasedOn));

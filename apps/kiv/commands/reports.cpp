@@ -2,7 +2,6 @@
 // report
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/chart_text.h"
 #include "output/json.h"
 #include "program.h"
@@ -90,10 +89,10 @@ struct ShowReport {
             throw contradiction(QStringLiteral("--html"), QStringLiteral("--chart"));
         const QDate last = to.value_or(call.date());
         const interchange::Period period(from.value_or(last.addMonths(-11)), last);
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         const Figures figures =
-            interchange::figuresOf(period, index.accounts(), call.session.transactions(),
-                                   BudgetView(call.session).budget());
+            interchange::figuresOf(period, index.accounts(), call.requests.transactions(),
+                                   BudgetView(call.requests).budget());
         Report report(data(figures));
         if (isHtml)
             return call.options.isJson ? report : Report().raw(interchange::toHtml(figures, title));
@@ -120,7 +119,7 @@ private:
         const int columns = call.program.terminal().width().value_or(80);
         for (const interchange::Chart &chart : interchange::chartsOf(figures)) {
             report.heading(chart.title);
-            for (const QString &line : chartText(chart, columns, call.session.displayAs()))
+            for (const QString &line : chartText(chart, columns, call.document.displayAs()))
                 report.line(line);
             report.line(QString());
         }

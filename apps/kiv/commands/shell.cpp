@@ -26,7 +26,7 @@ void openNamed(Call &call)
     const QString named =
         call.options.file.isEmpty() ? qEnvironmentVariable("KIV_FILE") : call.options.file;
     if (!named.isEmpty())
-        call.session.open(named);
+        call.document.open(named);
 }
 
 /// Runs one line; tells whether another is wanted. `status` keeps the first
@@ -41,7 +41,7 @@ bool runLine(Program &program, const std::string &line, int &status)
         if (words.front() == "exit" || words.front() == "quit")
             return false;
         ended = program.run(words);
-    } catch (const UsageError &error) {
+    } catch (const EntryError &error) {
         complain(error.message());
         ended = Program::misused;
     }
@@ -50,13 +50,13 @@ bool runLine(Program &program, const std::string &line, int &status)
     return true;
 }
 
-/// What a session of many lines ends with.
+/// What many lines ends with.
 Report ended(Call &call, int status)
 {
     try {
-        call.session.saveUnsaved();
+        call.document.saveUnsaved();
     } catch (const foundation::Error &error) {
-        complain(QString::fromUtf8(error.what()));
+        complain(told(error));
         status = Program::refused;
     }
     Report report;
@@ -74,14 +74,14 @@ struct Shell {
     Report run(Call &call) const
     {
         Program &program = call.program;
-        program.keepSession();
+        program.keepBudget();
         if (file.isEmpty())
             openNamed(call);
         else
-            call.session.open(file);
+            call.document.open(file);
         LineReader reader(
             [&](const std::vector<std::string> &before) {
-                Candidates found = candidatesAfter(*program.commandTree(), before, call.session);
+                Candidates found = candidatesAfter(*program.commandTree(), before, call.document);
                 std::vector<std::string> words = std::move(found.values);
                 words.insert(words.end(), found.options.begin(), found.options.end());
                 return words;
@@ -102,11 +102,11 @@ struct Watch {
     Report run(Call &call) const
     {
         Program &program = call.program;
-        program.keepSession();
+        program.keepBudget();
         program.setSilent();
-        const SignalWatch watch(call.session.navigator(), [&program](const QJsonObject &told) {
-            program.terminal().write(safeJson(QJsonDocument(told).toJson(QJsonDocument::Compact)) +
-                                     '\n');
+        const SignalWatch watch(call.requests.navigator(), [&program](const QJsonObject &signal) {
+            program.terminal().write(
+                safeJson(QJsonDocument(signal).toJson(QJsonDocument::Compact)) + '\n');
         });
         openNamed(call);
 

@@ -2,11 +2,10 @@
 // survey show|complete|run, reconciliation last
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
+#include "output/survey_json.h"
 #include "parsing/json_input.h"
 #include "program.h"
-#include "survey_form.h"
 
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
@@ -22,9 +21,6 @@ using navigation::Navigator;
 
 namespace {
 
-constexpr Outcome surveyOutcome{&Navigator::completedSurveySucceeded,
-                                &Navigator::completedSurveyFailed};
-
 /// Which bank account is surveyed, and for which day.
 struct SurveyArguments {
     QString bank;
@@ -38,13 +34,13 @@ struct SurveyArguments {
     }
     [[nodiscard]] SurveyForm propose(Call &call) const
     {
-        return SurveyForm::propose(call.session, bank, account, call.date());
+        return SurveyForm::propose(call.requests, bank, account, call.date());
     }
 };
 
-Report formReport(Session &session, const SurveyForm &form)
+Report formReport(Requests &requests, const SurveyForm &form)
 {
-    const QJsonObject json = form.toJson(session);
+    const QJsonObject json = toJson(form, requests);
     Report report{QJsonValue(json)};
     report.list({{QObject::tr("Bank"), QStringLiteral("bank")},
                  {QObject::tr("Account"), QStringLiteral("accountName")},
@@ -80,24 +76,22 @@ Report formReport(Session &session, const SurveyForm &form)
     return report;
 }
 
-Report complete(Session &session, const SurveyForm &form)
+Report complete(Requests &requests, const SurveyForm &form)
 {
-    session.change(surveyOutcome, &Navigator::onCompletedSurvey, form.date, form.account,
-                   form.balance, form.reconciled, form.itemChanges(), form.accountChanges(),
-                   form.distribution, form.nonDistributed);
+    form.complete(requests);
     const accounting::AccountCode code =
-        session.accounts().find(form.account.account.number)->code();
-    return Report(form.toJson(session))
+        requests.accounts().find(form.account.account.number)->code();
+    return Report(toJson(form, requests))
         .line(QObject::tr("Reconciled %1 at %2 with a balance of %3.")
                   .arg(accounting::presentationText(code), form.account.bank.institution(),
-                       amountText(toJson(form.balance), session.displayAs())));
+                       amountText(toJson(form.balance), requests.displayAs())));
 }
 
 struct ShowSurvey {
     SurveyArguments which;
 
     void declare(Arguments &arguments) { which.declare(arguments); }
-    Report run(Call &call) const { return formReport(call.session, which.propose(call)); }
+    Report run(Call &call) const { return formReport(call.requests, which.propose(call)); }
 };
 
 struct CompleteSurvey {
@@ -138,16 +132,17 @@ struct CompleteSurvey {
         if (balance)
             form.balance = balance->in(currency);
         if (!isAllTicked && (!file || !ticked.empty()))
-            form.reconciled = {ticked.begin(), ticked.end()};
+            form.reconciled.clear();
+        form.reconciled.insert(ticked.begin(), ticked.end());
         for (const QString &text : items)
-            form.addItem(call.session, text);
+            form.addItem(call.requests, text);
         for (const QString &text : extras)
-            form.addExtra(call.session, text);
+            form.addExtra(call.requests, text);
         for (const QString &text : distribution)
-            form.distribute(call.session, text);
+            form.distribute(call.requests, text);
         form.nonDistributed = nonDistributed ? nonDistributed->in(currency) : form.left();
-        form.settleGoals(call.session);
-        return complete(call.session, form);
+        form.settleGoals(call.requests);
+        return complete(call.requests, form);
     }
 
 private:
@@ -156,12 +151,12 @@ private:
         if (file && bank)
             throw contradiction(QStringLiteral("--from"), placeholder("BANK"));
         if (file)
-            return SurveyForm::fromJson(call.session, readJson(*file).object());
+            return surveyFromJson(call.requests, readJson(*file).object());
         if (!account)
             throw missing(placeholder(bank ? "ACCOUNT" : "BANK ACCOUNT"));
         if (!balance)
             throw missing(QStringLiteral("--balance"));
-        return SurveyForm::propose(call.session, *bank, *account, call.date());
+        return SurveyForm::propose(call.requests, *bank, *account, call.date());
     }
 };
 
@@ -174,18 +169,18 @@ struct RunSurvey {
     {
         SurveyForm form = which.propose(call);
         const Terminal &terminal = call.program.terminal();
-        terminal.write(formReport(call.session, form).toText(terminal, call.session.displayAs()));
+        terminal.write(formReport(call.requests, form).toText(terminal, call.document.displayAs()));
         Dialogue dialogue;
 
         const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});
         for (const accounting::TransactionNumber number : all) {
-            const accounting::Transaction transaction = call.session.transaction(number);
+            const accounting::Transaction transaction = call.requests.transaction(number);
             if (dialogue.agrees(QObject::tr("Does the statement show %1 %2 '%3', %4?")
                                     .arg(accounting::presentationText(number),
                                          foundation::presentationText(transaction.occurredOn()),
                                          transaction.description().value_or(QString()),
                                          amountText(toJson(changeBy(transaction, form)),
-                                                    call.session.displayAs()))))
+                                                    call.document.displayAs()))))
                 form.reconciled.insert(number);
         }
         dialogue.until(QObject::tr("The statement's balance"), [&](const QString &answer) {
@@ -194,18 +189,18 @@ struct RunSurvey {
             form.balance = amount.in(form.balance.code());
         });
         dialogue.each(QObject::tr("Money for an item that is not booked, as ITEM=AMOUNT"),
-                      [&](const QString &text) { form.addItem(call.session, text); });
+                      [&](const QString &text) { form.addItem(call.requests, text); });
         dialogue.each(QObject::tr("Money for another account, as ACCOUNT=AMOUNT"),
-                      [&](const QString &text) { form.addExtra(call.session, text); });
+                      [&](const QString &text) { form.addExtra(call.requests, text); });
         if (!form.isOwed()) {
             dialogue.each(QObject::tr("What is set aside for an item, as ITEM=AMOUNT"),
-                          [&](const QString &text) { form.distribute(call.session, text); });
+                          [&](const QString &text) { form.distribute(call.requests, text); });
         }
         form.nonDistributed = form.left();
-        form.settleGoals(call.session);
+        form.settleGoals(call.requests);
         if (!dialogue.agrees(QObject::tr("Complete the survey?")))
             throw surveyGivenUp();
-        return complete(call.session, form);
+        return complete(call.requests, form);
     }
 
 private:
@@ -233,7 +228,7 @@ private:
                 try {
                     return take(answer);
                 } catch (const foundation::Error &error) {
-                    complain(error.message());
+                    complain(told(error));
                 }
             }
         }
@@ -283,10 +278,11 @@ struct LastReconciliation {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         const accounting::AccountCode code = index.find(account).code();
-        const auto answer = call.session.ask(&Navigator::lookedUpLastReconciliation,
-                                             &Navigator::onLookUpLastReconciliation, code.number());
+        const auto answer =
+            call.requests.ask(&Navigator::lookedUpLastReconciliation,
+                              &Navigator::onLookUpLastReconciliation, code.number());
         const auto &last = std::get<1>(answer);
         QJsonObject json{{QStringLiteral("account"), toJson(code.number())},
                          {QStringLiteral("currency"), foundation::toQString(std::get<0>(answer))},
@@ -302,7 +298,7 @@ struct LastReconciliation {
         return Report(json).line(
             QObject::tr("%1 was reconciled on %2 with a balance of %3.")
                 .arg(accounting::presentationText(code), foundation::presentationText(on),
-                     amountText(toJson(last->amount), call.session.displayAs())));
+                     amountText(toJson(last->amount), call.document.displayAs())));
     }
 };
 

@@ -4,7 +4,6 @@
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 #include "parsing/json_input.h"
 
@@ -45,9 +44,9 @@ std::vector<Column> transactionColumns()
             {QObject::tr("Amount"), QStringLiteral("amount")}};
 }
 
-Report transactionReport(Session &session, TransactionNumber number, const QString &sentence)
+Report transactionReport(Requests &requests, TransactionNumber number, const QString &sentence)
 {
-    return Report(toJson(session.transaction(number))).line(sentence.arg(textOf(number)));
+    return Report(toJson(requests.transaction(number))).line(sentence.arg(textOf(number)));
 }
 
 /// The number under which the last change posted.
@@ -68,9 +67,9 @@ struct ListTransactions {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         QJsonArray rows;
-        for (const Transaction &transaction : call.session.transactions()) {
+        for (const Transaction &transaction : call.requests.transactions()) {
             const QDate date = transaction.occurredOn();
             if (!(from && date < *from) && !(to && date > *to))
                 rows.append(withPaths(toJson(transaction), index));
@@ -98,13 +97,13 @@ struct AddTransaction {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
+        const AccountIndex index = call.requests.accounts();
         const accounting::Account &debited = index.find(debit);
         const Transaction transaction(call.date(), debited.code(), index.find(credit).code(),
                                       amount.in(debited.balance().code()), description);
-        const auto answers =
-            call.session.change(transactionOutcome, &Navigator::onAddedTransaction, transaction);
-        return transactionReport(call.session, postedNumber(answers),
+        const auto answers = call.requests.change(workbench::transactionOutcome,
+                                                  &Navigator::onAddedTransaction, transaction);
+        return transactionReport(call.requests, postedNumber(answers),
                                  QObject::tr("Posted transaction %1."));
     }
 };
@@ -120,9 +119,9 @@ struct LoadTransactions {
     Report run(Call &call) const
     {
         QJsonArray numbers;
-        for (const Transaction &transaction : readTransactions(file, call.session.accounts())) {
-            const auto answers = call.session.change(transactionOutcome,
-                                                     &Navigator::onAddedTransaction, transaction);
+        for (const Transaction &transaction : readTransactions(file, call.requests.accounts())) {
+            const auto answers = call.requests.change(workbench::transactionOutcome,
+                                                      &Navigator::onAddedTransaction, transaction);
             numbers.append(toJson(std::optional(postedNumber(answers))));
         }
         return Report(QJsonObject{{QStringLiteral("posted"), numbers}})
@@ -151,16 +150,16 @@ struct UpdateTransaction {
     {
         if (!amount && !debit && !credit && !description && !call.options.date)
             throw nothingToChange();
-        Session &session = call.session;
-        const AccountIndex index = session.accounts();
-        const Transaction present = session.transaction(number);
+        Requests &requests = call.requests;
+        const AccountIndex index = requests.accounts();
+        const Transaction present = requests.transaction(number);
         const AccountCode debited = debit ? index.find(*debit).code() : present.debiting();
         const AccountCode credited = credit ? index.find(*credit).code() : present.crediting();
         const numira::Money money = amount ? amount->in(present.amount().code()) : present.amount();
-        session.change(transactionOutcome, &Navigator::onUpdatedTransaction, number,
-                       Transaction(call.options.date.value_or(present.occurredOn()), debited,
-                                   credited, money, describedAfter(present)));
-        return transactionReport(session, number, QObject::tr("Changed transaction %1."));
+        requests.change(workbench::transactionOutcome, &Navigator::onUpdatedTransaction, number,
+                        Transaction(call.options.date.value_or(present.occurredOn()), debited,
+                                    credited, money, describedAfter(present)));
+        return transactionReport(requests, number, QObject::tr("Changed transaction %1."));
     }
 
 private:
@@ -192,13 +191,13 @@ struct TransactionVerb {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
+        Requests &requests = call.requests;
         const std::set<TransactionNumber> all(numbers.begin(), numbers.end());
         if (const auto *forAll = std::get_if<1>(&slot)) {
-            session.change(transactionOutcome, *forAll, all);
+            requests.change(workbench::transactionOutcome, *forAll, all);
         } else {
             for (const TransactionNumber number : all)
-                session.change(transactionOutcome, std::get<0>(slot), number);
+                requests.change(workbench::transactionOutcome, std::get<0>(slot), number);
         }
         QJsonArray json;
         QStringList texts;
@@ -229,10 +228,10 @@ struct Transfer {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
-        const AccountIndex index = session.accounts();
+        Requests &requests = call.requests;
+        const AccountIndex index = requests.accounts();
         const auto answer =
-            session.ask(&Navigator::showMoneyTransfer, &Navigator::onPrepareShowMoneyTransfer);
+            requests.ask(&Navigator::showMoneyTransfer, &Navigator::onPrepareShowMoneyTransfer);
         const AccountCode source = index.find(from).code();
         const accounting::Account &target = index.find(to);
         if (!holds(std::get<0>(answer), source.number()))
@@ -240,12 +239,12 @@ struct Transfer {
         if (!holds(std::get<1>(answer), target.code().number()))
             throw noTransferTo(to);
         // The slot debits its first account, and a debit raises an asset.
-        const auto answers = session.change(transactionOutcome, &Navigator::onTransferRequested,
-                                            target.code().number(), source.number(),
-                                            amount.in(target.balance().code()), reason);
+        const auto answers = requests.change(
+            workbench::transactionOutcome, &Navigator::onTransferRequested, target.code().number(),
+            source.number(), amount.in(target.balance().code()), reason);
         const TransactionNumber number = postedNumber(answers);
-        moveTo(session, number, call.options.date);
-        return transactionReport(session, number, QObject::tr("Posted transaction %1."));
+        moveTo(requests, number, call.options.date);
+        return transactionReport(requests, number, QObject::tr("Posted transaction %1."));
     }
 
 private:
@@ -271,13 +270,13 @@ struct Refund {
     }
     Report run(Call &call) const
     {
-        Session &session = call.session;
-        const numira::Currency currency = session.transaction(number).amount().code();
-        const auto answers = session.change(transactionOutcome, &Navigator::onPostRefund, number,
-                                            amount.in(currency));
+        Requests &requests = call.requests;
+        const numira::Currency currency = requests.transaction(number).amount().code();
+        const auto answers = requests.change(workbench::transactionOutcome,
+                                             &Navigator::onPostRefund, number, amount.in(currency));
         const TransactionNumber refund = postedNumber(answers);
-        moveTo(session, refund, call.options.date);
-        return transactionReport(session, refund,
+        moveTo(requests, refund, call.options.date);
+        return transactionReport(requests, refund,
                                  QObject::tr("Posted the refund as transaction %1."));
     }
 };
@@ -294,11 +293,11 @@ struct ListRefundable {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.session.accounts();
-        const BudgetView view(call.session);
-        const auto answer = call.session.ask(&Navigator::lookedUpRefundableTransactions,
-                                             &Navigator::onLookUpRefundableTransactions,
-                                             identify(view.find(name, kind)));
+        const AccountIndex index = call.requests.accounts();
+        const BudgetView view(call.requests);
+        const auto answer = call.requests.ask(&Navigator::lookedUpRefundableTransactions,
+                                              &Navigator::onLookUpRefundableTransactions,
+                                              identify(view.find(name, kind)));
         QJsonArray rows;
         for (const Transaction &transaction : std::get<std::set<Transaction>>(answer))
             rows.append(withPaths(toJson(transaction), index));

@@ -2,7 +2,9 @@
 // undo, history [diff]
 #include "commands/commands.h"
 
-#include "version_changes.h"
+#include "output/change_table.h"
+
+#include "workbench/versions/kept_versions.h"
 
 #include "foundation/local_dates.h"
 #include "storage/budget_file.h"
@@ -22,7 +24,7 @@ void readValue(const std::string &text, VersionNumber &version)
     bool isNumber = false;
     version.value = word.toUInt(&isNumber);
     if (!isNumber || version.value > storage::BudgetFile::backupsByDefault)
-        throw notANumber(word, 0, storage::BudgetFile::backupsByDefault);
+        throw workbench::notANumber(word, 0, storage::BudgetFile::backupsByDefault);
 }
 
 constexpr const char *valueWord(const VersionNumber *)
@@ -36,7 +38,7 @@ QString localTime(const QDateTime &time)
     return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm:ss"));
 }
 
-QJsonObject toJson(const Version &version)
+QJsonObject toJson(const workbench::Version &version)
 {
     QJsonObject json{{QStringLiteral("version"), qint64{version.number}},
                      {QStringLiteral("savedAt"), version.found.savedAt.toString(Qt::ISODateWithMs)},
@@ -66,11 +68,11 @@ struct Undo {
     {
         if (to.value == 0)
             throw notAFormerVersion();
-        const QString file = call.session.file();
-        const storage::BudgetStorage::Data present = versionOf(file, 0).data();
-        const Version former = versionOf(file, to.value);
-        const QJsonArray changes = changesBetween(present, former.data());
-        call.session.recall(former.data());
+        const QString file = call.document.file();
+        const storage::BudgetStorage::Data present = workbench::versionOf(file, 0).data();
+        const workbench::Version former = workbench::versionOf(file, to.value);
+        const QJsonArray changes = app::toJson(workbench::changesBetween(present, former.data()));
+        call.document.recall(former.data());
         Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)},
                                   {QStringLiteral("changes"), changes}});
         report.line(QObject::tr("The budget is again as it was saved at %1.")
@@ -90,7 +92,8 @@ struct History {
     Report run(Call &call) const
     {
         QJsonArray rows;
-        for (const Version &version : versionsOf(Session::withExtension(call.fileNamed())))
+        for (const workbench::Version &version :
+             workbench::versionsOf(Document::withExtension(call.fileNamed())))
             rows.append(toJson(version));
         const auto time = [](const QJsonValue &value) {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
@@ -124,10 +127,11 @@ struct Differences {
     }
     Report run(Call &call) const
     {
-        const QString file = Session::withExtension(call.fileNamed());
-        const Version before = versionOf(file, from.value);
-        const Version after = versionOf(file, to.value);
-        const QJsonArray changes = changesBetween(before.data(), after.data());
+        const QString file = Document::withExtension(call.fileNamed());
+        const workbench::Version before = workbench::versionOf(file, from.value);
+        const workbench::Version after = workbench::versionOf(file, to.value);
+        const QJsonArray changes =
+            app::toJson(workbench::changesBetween(before.data(), after.data()));
         Report report{QJsonValue(changes)};
         tabulate(report, changes, QObject::tr("They hold the same."));
         return report;

@@ -2,7 +2,6 @@
 // wizard, templates list|show
 #include "commands/commands.h"
 
-#include "budget_view.h"
 #include "output/json.h"
 
 #include "navigation/budget_wizard_templates.h"
@@ -58,46 +57,33 @@ struct Answers {
     TemplateArgument household;
 };
 
-/// Fills the budget in memory. The wizard answers a failure with an empty
-/// budget and the signals of the steps that failed.
-void fillIn(Session &session, const Answers &answers)
+/// Fills the budget in memory.
+void fillIn(Requests &requests, const Answers &answers)
 {
     const auto present = std::get<navigation::ConfigurationData>(
-        session.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
+        requests.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
     const numira::Currency preferred = answers.preferred.value_or(present.preferredCurrency);
     std::set<numira::Currency> usable = present.usableCurrencies;
     usable.insert(preferred);
     const numira::Money balance =
         answers.balance ? answers.balance->in(preferred) : numira::Money(preferred);
     const auto run = [&] {
-        session.navigator().onCompletedNewBudgetFirstTimeWizard(
+        requests.navigator().onCompletedNewBudgetFirstTimeWizard(
             preferred, usable, present.currenciesDisplayAs, banking::BankName(answers.bank),
             answers.type, answers.account, balance, answers.household.value);
     };
-    QString message;
-    // Of one failure at most, since the wizard ends with it.
-    const auto keepMessage = [&message](const auto &failures) {
-        for (const auto &failure : failures)
-            message = std::get<QString>(failure);
-    };
-    const auto [banks, warning] = session.quietly([&] {
-        keepMessage(session.gather(&Navigator::saveFailed, [&] {
-            keepMessage(session.gather(&Navigator::bankSaveFailed, [&] {
-                keepMessage(session.gather(&Navigator::bankAccountSaveFailed, run));
-            }));
-        }));
-        return session.banks();
-    });
-    if (banks.isEmpty())
-        throw wizardFailed(message);
+    const std::optional<navigation::Failure> failure = requests.failureOf(run);
+    // It answers a failure with an empty budget, and success has made the bank.
+    if (requests.banks().isEmpty())
+        throw wizardFailed(failure ? workbench::userText(*failure) : QString());
 }
 
-QJsonArray itemsJson(Session &session)
+QJsonArray itemsJson(Requests &requests)
 {
     QJsonArray rows;
-    const BudgetView view(session);
+    const BudgetView view(requests);
     view.budget().forEach(
-        [&](const budgeting::BudgetedMoney &item) { rows.append(view.json(item)); });
+        [&](const budgeting::BudgetedMoney &item) { rows.append(toJson(item, view)); });
     return rows;
 }
 
@@ -136,12 +122,12 @@ struct Wizard {
         Answers given = answers;
         given.bank = bank.text;
         given.account = account.text;
-        call.session.refuseUnsaved();
-        Session::refuseExisting(file);
-        fillIn(call.session, given);
-        call.session.create(file);
-        Report report = itemsReport(itemsJson(call.session));
-        return report.line(QObject::tr("Made the budget '%1'.").arg(call.session.file()));
+        call.document.refuseUnsaved();
+        Document::refuseExisting(file);
+        fillIn(call.requests, given);
+        call.document.create(file);
+        Report report = itemsReport(itemsJson(call.requests));
+        return report.line(QObject::tr("Made the budget '%1'.").arg(call.document.file()));
     }
 };
 
@@ -174,11 +160,11 @@ struct ShowTemplate {
     Report run(Call &call) const
     {
         // On a budget in memory that is never saved; a shell's own comes back.
-        fillIn(call.session,
+        fillIn(call.requests,
                {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
                 QObject::tr("Account"), std::nullopt, household});
-        const QJsonArray rows = itemsJson(call.session);
-        call.session.revert();
+        const QJsonArray rows = itemsJson(call.requests);
+        call.document.revert();
         return itemsReport(rows);
     }
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/json.h"
 
-#include "parsing/values.h"
+#include "workbench/entry/kind_words.h"
 
 #include "budgeting/budget_items.h"
 #include "foundation/presentation.h"
@@ -10,6 +10,8 @@ namespace kiv::app {
 
 using accounting::AccountNumber;
 using accounting::TransactionNumber;
+using workbench::AccountIndex;
+using workbench::kindWord;
 
 QJsonObject toJson(const numira::Money &money)
 {
@@ -37,15 +39,22 @@ QJsonValue toJson(const std::optional<TransactionNumber> &number)
     return number ? QJsonValue(qint64{number->integer()}) : QJsonValue();
 }
 
+QJsonObject accountJson(const accounting::AccountCode &code, accounting::AccountTypes type,
+                        bool isOpen, const numira::Money &balance, const QString &path)
+{
+    return {{QStringLiteral("number"), toJson(code.number())},
+            {QStringLiteral("name"), code.name()},
+            {QStringLiteral("type"), accounting::toQString(type)},
+            {QStringLiteral("parent"), toJson(code.parent())},
+            {QStringLiteral("open"), isOpen},
+            {QStringLiteral("balance"), toJson(balance)},
+            {QStringLiteral("path"), path}};
+}
+
 QJsonObject toJson(const accounting::Account &account, const AccountIndex &index)
 {
-    return {{QStringLiteral("number"), toJson(account.code().number())},
-            {QStringLiteral("name"), account.code().name()},
-            {QStringLiteral("type"), accounting::toQString(account.type())},
-            {QStringLiteral("parent"), toJson(account.code().parent())},
-            {QStringLiteral("open"), !account.isClosed()},
-            {QStringLiteral("balance"), toJson(account.balance())},
-            {QStringLiteral("path"), index.path(account.code().number())}};
+    return accountJson(account.code(), account.type(), !account.isClosed(), account.balance(),
+                       index.path(account.code().number()));
 }
 
 QJsonObject toJson(const accounting::Transaction &transaction)
@@ -80,6 +89,21 @@ QJsonObject toJson(const budgeting::BudgetedMoney &item)
         json.insert(QStringLiteral("borrowed"), toJson(debt->borrowed()));
     if (const auto *goal = dynamic_cast<const budgeting::Goal *>(&item))
         json.insert(QStringLiteral("target"), toJson(goal->final()));
+    return json;
+}
+
+QJsonObject toJson(const budgeting::BudgetedMoney &item, const workbench::BudgetView &view)
+{
+    QJsonObject json = toJson(item);
+    QJsonArray tagNames;
+    const budgeting::BudgetItemIdentifier id = workbench::identify(item);
+    for (const tagging::Tag &tag : view.tags(id))
+        tagNames.append(tag.name());
+    json.insert(QStringLiteral("tags"), tagNames);
+    if (const auto account = view.bankAccount(id)) {
+        json.insert(QStringLiteral("bankAccount"), toJson(account->account.number));
+        json.insert(QStringLiteral("bank"), account->bank.institution());
+    }
     return json;
 }
 

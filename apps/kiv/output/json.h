@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "parsing/account_index.h"
+#include "workbench/requests/budget_view.h"
 
 #include "banking/bank_map.h"
 #include "budgeting/due.h"
@@ -22,7 +22,11 @@ namespace kiv::app {
 [[nodiscard]] QJsonValue toJson(const std::optional<accounting::AccountNumber> &number);
 [[nodiscard]] QJsonValue toJson(const std::optional<accounting::TransactionNumber> &number);
 /// {number, name, type, parent, open, balance, path}
-[[nodiscard]] QJsonObject toJson(const accounting::Account &account, const AccountIndex &index);
+[[nodiscard]] QJsonObject accountJson(const accounting::AccountCode &code,
+                                      accounting::AccountTypes type, bool isOpen,
+                                      const numira::Money &balance, const QString &path);
+[[nodiscard]] QJsonObject toJson(const accounting::Account &account,
+                                 const workbench::AccountIndex &index);
 /// {number, date, debit, credit, amount, description, debitStatus,
 /// creditStatus}, with debitAmount and creditAmount where the sides are kept in
 /// another currency than the amount's, and refundOf for a refund.
@@ -30,9 +34,13 @@ namespace kiv::app {
 /// {kind, name, amount, every, next}, with borrowed for a debt and target for a
 /// goal.
 [[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item);
+/// The same with the item's tags, and bankAccount (a number) and bank where it is
+/// tied to one.
+[[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item,
+                                 const workbench::BudgetView &view);
 /// {kind, name, amount, due}
 [[nodiscard]] QJsonObject toJson(const budgeting::BudgetItemAmountDue &due);
 /// {name, open, accounts: [{number, name, type, balance}]}
-[[nodiscard]] QJsonObject toJson(const banking::Bank &bank, const AccountIndex &index);
+[[nodiscard]] QJsonObject toJson(const banking::Bank &bank, const workbench::AccountIndex &index);
 
 } // namespace kiv::app

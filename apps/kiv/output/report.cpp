@@ -2,14 +2,13 @@
 #include "output/report.h"
 
 #include "output/table.h"
-#include "parsing/values.h"
-#include "user_locale.h"
+
+#include "workbench/entry/kind_words.h"
+#include "workbench/entry/money_text.h"
 
 #include "foundation/local_dates.h"
-#include "foundation/presentation.h"
 #include "foundation/streams.h"
 #include "numira/error.h"
-#include "numira/local_text.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QObject>
@@ -62,22 +61,16 @@ QByteArray safeJson(const QByteArray &json)
 
 QString amountText(const QJsonValue &value, navigation::CurrencyDisplayOptions displayAs)
 {
-    using enum navigation::CurrencyDisplayOptions;
     const QString amount = value[QLatin1String("amount")].toString();
     const QString code = value[QLatin1String("currency")].toString();
     try {
-        const numira::Money money =
-            numira::toMoney(numira::toCurrency(code.toStdString()), amount.toStdString());
-        if (displayAs == Symbol)
-            return foundation::presentationText(money);
-        if (displayAs == SymbolAndCode)
-            return foundation::presentationText(money) + u' ' + code;
-        if (hasNumberLocale())
-            return QString::fromStdString(numira::toLocalTextWithCode(money));
+        return workbench::amountText(
+            numira::toMoney(numira::toCurrency(code.toStdString()), amount.toStdString()),
+            displayAs);
     } catch (const numira::Error &) {
         // What is no amount of a known currency is shown as it stands.
+        return amount + u' ' + code;
     }
-    return amount + u' ' + code;
 }
 
 QString amountsText(const QJsonArray &amounts, navigation::CurrencyDisplayOptions displayAs)
@@ -99,8 +92,8 @@ QString wordText(const QJsonValue &word)
     const QString text = word.toString();
     // The one kind of items whose word is no English.
     constexpr auto nontrack = budgeting::BudgetItemTypes::Nontrack;
-    if (text == kindWord(nontrack))
-        return kindText(nontrack);
+    if (text == workbench::kindWord(nontrack))
+        return workbench::kindText(nontrack);
     return QObject::tr(text.toUtf8().constData());
 }
 

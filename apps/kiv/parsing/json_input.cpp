@@ -2,7 +2,8 @@
 #include "parsing/json_input.h"
 
 #include "errors.h"
-#include "parsing/values.h"
+
+#include "workbench/entry/values.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -15,6 +16,9 @@ namespace kiv::app {
 
 using accounting::Transaction;
 using accounting::TransactionStatuses;
+using workbench::AccountIndex;
+using workbench::notAChoice;
+using workbench::readPlain;
 
 namespace {
 
@@ -123,7 +127,7 @@ std::vector<Transaction> readTransactions(const QString &path, const AccountInde
         } catch (const foundation::Error &error) {
             throw unreadableInput(QObject::tr("transaction %1 of '%2'")
                                       .arg(QString::number(transactions.size() + 1), path),
-                                  error.message());
+                                  told(error));
         }
     }
     return transactions;
@@ -136,7 +140,7 @@ numira::Money readMoney(const QJsonValue &value, const numira::Currency &otherwi
         text = value[QLatin1String("amount")].toString() + u' ' +
                value[QLatin1String("currency")].toString();
     }
-    Amount amount;
+    workbench::Amount amount;
     readPlain(text.toStdString(), amount);
     return amount.in(otherwise);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "parsing/account_index.h"
+#include "workbench/entry/account_index.h"
 
 #include <QtCore/QJsonObject>
 
@@ -19,8 +19,8 @@ namespace kiv::app {
 /// The transactions of an array in the shape in which they are exported. The
 /// accounts may also be named, and the amount may be written as "12.50 USD";
 /// description and statuses may be missing.
-[[nodiscard]] std::vector<accounting::Transaction> readTransactions(const QString &path,
-                                                                    const AccountIndex &index);
+[[nodiscard]] std::vector<accounting::Transaction>
+readTransactions(const QString &path, const workbench::AccountIndex &index);
 
 /// "12.50 USD", or {"amount": "12.50", "currency": "USD"}.
 [[nodiscard]] numira::Money readMoney(const QJsonValue &value, const numira::Currency &otherwise);

@@ -60,20 +60,20 @@ Releases readReleases(const networking::Response &response)
     return releases;
 }
 
-Releases readReleasesOrWarn(const networking::Response &response)
+FetchedReleases readReleasesOrWarn(const networking::Response &response)
 {
     try {
-        return readReleases(response);
+        return {readReleases(response), std::nullopt};
     } catch (const foundation::Error &error) {
         warn("Failed to fetch the list of releases.", error);
-        return {};
+        return {{}, error};
     }
 }
 
 } // namespace
 
 void fetchReleases(networking::NotifyingSender &sender, const ReleaseFeed &feed, QObject &user,
-                   std::function<void(const Releases &)> done)
+                   std::function<void(const FetchedReleases &)> done)
 {
     if (feed.address.isEmpty()) {
         QMetaObject::invokeMethod(

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "user_locale.h"
+#include "workbench/entry/user_locale.h"
 
 #include "foundation/local_dates.h"
 #include "numira/local_text.h"
@@ -8,7 +8,7 @@
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QTranslator>
 
-namespace kiv::app {
+namespace kiv::workbench {
 namespace {
 
 QString localeOf(const char *category)
@@ -101,4 +101,4 @@ QString momentText(const QDateTime &moment)
     return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm"));
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/export.h"
+
 #include "accounting/account.h"
 
 #include <map>
 #include <set>
 #include <vector>
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 /// The accounts of a budget, to be found by what a person writes for one, each
 /// with its path (see interchange::accountPaths).
-class AccountIndex {
+class KIV_WORKBENCH_EXPORT AccountIndex {
 public:
     explicit AccountIndex(std::set<accounting::Account> accounts);
     AccountIndex(AccountIndex &&) noexcept = default;
@@ -40,4 +42,4 @@ private:
     std::map<accounting::AccountNumber, QString> m_paths;
 };
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "budget_view.h"
+#include "workbench/requests/budget_view.h"
 
-#include "output/json.h"
-#include "parsing/similar.h"
-#include "parsing/values.h"
+#include "workbench/entry/kind_words.h"
+#include "workbench/entry/similar.h"
+#include "workbench/internal/faults.h"
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetItemTypes;
 using budgeting::BudgetSource;
 
-BudgetView::BudgetView(Session &session)
+BudgetView::BudgetView(Requests &requests)
 {
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        const auto answer = session.ask(ItemView<Item>::signal, ItemView<Item>::slot);
+        const auto answer = requests.ask(ItemView<Item>::signal, ItemView<Item>::slot);
         auto &items = m_budget.items<Item>();
         items = std::get<std::remove_cvref_t<decltype(items)>>(answer);
         m_tags.emplace(budgeting::ItemTraits<Item>::type,
@@ -55,26 +55,22 @@ const budgeting::BudgetedMoney &BudgetView::find(const QString &name,
         kinds += kindWord(id.type);
     });
     if (found.size() > 1)
-        throw ambiguousItem(name, kinds);
+        throw internal::ambiguousItem(name, kinds);
     if (found.empty())
-        throw kind ? noSuchItem(kindWord(*kind), name, similarTo(name, known))
-                   : noSuchItem(name, similarTo(name, known));
+        throw kind ? internal::noSuchItem(*kind, name, similarTo(name, known))
+                   : internal::noSuchItem(name, similarTo(name, known));
     return *found.front();
 }
 
-QJsonObject BudgetView::json(const budgeting::BudgetedMoney &item) const
+BudgetItemIdentifier BudgetView::findTyped(const QString &text) const
 {
-    QJsonObject json = toJson(item);
-    QJsonArray tagNames;
-    const BudgetItemIdentifier id = identify(item);
-    for (const tagging::Tag &tag : tags(id))
-        tagNames.append(tag.name());
-    json.insert(QStringLiteral("tags"), tagNames);
-    if (const auto account = bankAccount(id)) {
-        json.insert(QStringLiteral("bankAccount"), toJson(account->account.number));
-        json.insert(QStringLiteral("bank"), account->bank.institution());
-    }
-    return json;
+    const qsizetype at = text.indexOf(u':');
+    std::optional<BudgetItemTypes> kind;
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        if (at > 0 && text.first(at) == QLatin1String(budgeting::ItemTraits<Item>::word))
+            kind = budgeting::ItemTraits<Item>::type;
+    });
+    return identify(find(kind ? text.sliced(at + 1) : text, kind));
 }
 
 BudgetItemIdentifier identify(const budgeting::BudgetedMoney &item)
@@ -82,4 +78,4 @@ BudgetItemIdentifier identify(const budgeting::BudgetedMoney &item)
     return {budgeting::toBudgetItemTypes(item), item.source()};
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

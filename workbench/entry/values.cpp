@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "parsing/values.h"
+#include "workbench/entry/values.h"
 
-#include "errors.h"
-#include "parsing/similar.h"
-#include "user_locale.h"
+#include "workbench/entry/kind_words.h"
+#include "workbench/entry/similar.h"
+#include "workbench/entry/user_locale.h"
+#include "workbench/internal/faults.h"
 
-#include "budgeting/item_traits.h"
 #include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 #include "numira/error.h"
@@ -14,10 +14,10 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringDecoder>
 
-#include <array>
 #include <limits>
 
-namespace kiv::app {
+namespace kiv::workbench {
+
 namespace {
 
 QString decoded(const std::string &text)
@@ -25,7 +25,7 @@ QString decoded(const std::string &text)
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString result = decoder(QByteArrayView(text));
     if (decoder.hasError())
-        throw notUtf8();
+        throw internal::notUtf8();
     return result;
 }
 
@@ -66,7 +66,7 @@ Amount amountOf(const QString &word, const QString &plain)
         QStringLiteral(R"(\A(?:([A-Za-z]{3}) ?)?([+-]?\d+(?:\.(\d+))?)(?: ?([A-Za-z]{3}))?\z)"));
     const QRegularExpressionMatch match = form.match(plain);
     if (!match.hasMatch() || (match.hasCaptured(1) && match.hasCaptured(4)))
-        throw notAnAmount(word);
+        throw internal::notAnAmount(word);
     Amount amount;
     amount.text = word;
     amount.digits = static_cast<unsigned>(match.capturedLength(3));
@@ -77,9 +77,9 @@ Amount amountOf(const QString &word, const QString &plain)
     try {
         amount.number = numira::Decimal::fromText(match.captured(2).toStdString());
     } catch (const numira::OverflowError &) {
-        throw amountTooLarge(word);
+        throw internal::amountTooLarge(word);
     } catch (const numira::Error &) {
-        throw notAnAmount(word);
+        throw internal::notAnAmount(word);
     }
     return amount;
 }
@@ -91,7 +91,7 @@ numira::Money Amount::in(const numira::Currency &otherwise) const
     const numira::Currency code = currency.value_or(otherwise);
     const unsigned digitsMax = numira::minorUnitDigits(code);
     if (digits > digitsMax)
-        throw tooManyDigits(text, foundation::toQString(code), digitsMax);
+        throw internal::tooManyDigits(text, foundation::toQString(code), digitsMax);
     return {code, number};
 }
 
@@ -104,7 +104,7 @@ void readValue(const std::string &text, NewName &value)
 {
     const QString name = decoded(text);
     if (name.trimmed().isEmpty())
-        throw emptyName();
+        throw internal::emptyName();
     value.text = name;
 }
 
@@ -114,7 +114,7 @@ void readPlain(const std::string &text, QDate &value)
     const QDate date = QDate::fromString(word, Qt::ISODate);
     // Qt reads more forms than the one that it writes.
     if (!date.isValid() || date.toString(Qt::ISODate) != word)
-        throw notADate(word);
+        throw internal::notADate(word);
     value = date;
 }
 
@@ -147,7 +147,8 @@ void readValue(const std::string &text, numira::Currency &value)
         if (word.size() > codes.back().size() && !similarTo(word, {name}).isEmpty())
             byName += codes.back();
     }
-    throw notACurrency(word, byName.isEmpty() ? similarTo(word, codes) : byName.mid(0, 3));
+    throw internal::notACurrency(word,
+                                 byName.isEmpty() ? similarTo(word, codes) : byName.mid(0, 3));
 }
 
 void readPlain(const std::string &text, Amount &value)
@@ -223,27 +224,8 @@ void readValue(const std::string &text, foundation::Percentage &value)
     bool isNumber = false;
     const double rate = match.captured(1).toDouble(&isNumber);
     if (!isNumber)
-        throw notAPercentage(word);
+        throw internal::notAPercentage(word);
     value = foundation::Percentage(rate, 6);
 }
 
-QString kindWord(budgeting::BudgetItemTypes kind)
-{
-    return budgeting::visitItemClass(kind, "An unknown kind of budget item has no word.",
-                                     []<typename Item>(std::type_identity<Item>) {
-                                         return QString::fromLatin1(
-                                             budgeting::ItemTraits<Item>::word);
-                                     });
-}
-
-QString kindText(budgeting::BudgetItemTypes kind)
-{
-    static constexpr std::array words{
-        QT_TRANSLATE_NOOP("QObject", "bill"), QT_TRANSLATE_NOOP("QObject", "debt"),
-        QT_TRANSLATE_NOOP("QObject", "goal"), QT_TRANSLATE_NOOP("QObject", "non-tracked item"),
-        QT_TRANSLATE_NOOP("QObject", "wage"),
-    };
-    return QObject::tr(words.at(static_cast<std::size_t>(kind) - 1));
-}
-
-} // namespace kiv::app
+} // namespace kiv::workbench

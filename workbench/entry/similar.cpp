@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "parsing/similar.h"
+#include "workbench/entry/similar.h"
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 namespace {
 constexpr qsizetype suggestionsMax = 3;
@@ -66,4 +66,4 @@ QStringList similarTo(const QString &word, const QStringList &known)
     return similar.first(std::min(similar.size(), suggestionsMax));
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "session.h"
+#include "workbench/requests/requests.h"
 
 #include "surveying/indexed_increase_decreases.h"
 #include "surveying/mapping_survey.h"
 
-#include <QtCore/QJsonObject>
-
-namespace kiv::app {
+namespace kiv::workbench {
 
 /// The survey of a bank account as a person fills it in: what the Navigator
 /// proposes, and what the person makes of it.
-struct SurveyForm {
+struct KIV_WORKBENCH_EXPORT SurveyForm {
     banking::BankAccount account;
     QDate date;
     surveying::MappingSurvey proposal;
@@ -29,22 +27,19 @@ struct SurveyForm {
     /// The proposal, filled in as if the statement agreed with it. Throws a
     /// Refusal when there is no such bank or the bank does not keep the
     /// account, and what the Navigator's slot throws.
-    [[nodiscard]] static SurveyForm propose(Session &session, const QString &bank,
+    [[nodiscard]] static SurveyForm propose(Requests &requests, const QString &bank,
                                             const QString &account, QDate date);
-    /// A new proposal, filled in as an edited document says: its balance,
-    /// reconciled, items, accounts and distribution count.
-    [[nodiscard]] static SurveyForm fromJson(Session &session, const QJsonObject &json);
-    [[nodiscard]] QJsonObject toJson(Session &session) const;
-
     /// "Rent=-20.00", or "bill:Rent=-20.00" where names repeat.
-    void addItem(Session &session, const QString &text);
+    void addItem(Requests &requests, const QString &text);
     /// "Interest=1.25": an account's number or name.
-    void addExtra(Session &session, const QString &text);
+    void addExtra(Requests &requests, const QString &text);
     /// "Holiday=300.00".
-    void distribute(Session &session, const QString &text);
+    void distribute(Requests &requests, const QString &text);
     /// A goal's distribution is what its account holds, and nothing else is
     /// accepted.
-    void settleGoals(Session &session);
+    void settleGoals(Requests &requests);
+    /// Completes the survey. Throws a Refusal with the Navigator's reason.
+    void complete(Requests &requests) const;
 
     /// Whether the balance is a debt, as that of a credit card, of which nothing can be
     /// set aside.
@@ -57,4 +52,4 @@ struct SurveyForm {
     accountChanges() const;
 };
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "recalling_storage.h"
+#include "workbench/internal/recalling_storage.h"
 
 #include <utility>
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 void RecallingStorage::setFilePathName(const QString &filePathName)
 {
@@ -21,6 +21,8 @@ storage::BudgetStorage::Data RecallingStorage::load()
 
 void RecallingStorage::store(const Data &data)
 {
+    if (m_isCatching)
+        throw Caught{data};
     // What does not come into another file stays as it was in the open one.
     if (m_file.filePathName() == m_openFile) {
         m_present = data;
@@ -43,4 +45,4 @@ QString RecallingStorage::filePathName() const
     return m_file.filePathName();
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

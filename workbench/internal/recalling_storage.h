@@ -3,9 +3,12 @@
 
 #include "storage/budget_file.h"
 
-#include <optional>
+#include <QtCore/QScopeGuard>
 
-namespace kiv::app {
+#include <optional>
+#include <stdexcept>
+
+namespace kiv::workbench {
 
 /// A budget file of which another version can be recalled: the next load gives
 /// that version in place of what the file holds. The file itself stays open,
@@ -27,12 +30,33 @@ public:
     /// How often a budget was stored, in whichever file.
     [[nodiscard]] int timesStored() const noexcept { return m_timesStored; }
 
+    /// The budget that `save` hands over, which calls a slot that stores it. Nothing
+    /// is stored, and nothing changes for the Navigator either.
+    template <typename Save>
+    [[nodiscard]] Data caught(Save &&save)
+    {
+        m_isCatching = true;
+        const auto end = qScopeGuard([this] { m_isCatching = false; });
+        try {
+            save();
+        } catch (Caught &data) {
+            return std::move(data.data);
+        }
+        throw std::logic_error("A save handed no budget over.");
+    }
+
     void setFilePathName(const QString &filePathName) override;
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
     [[nodiscard]] QString filePathName() const override;
 
 private:
+    /// Ends a save before it has touched anything: no exception of the domain, so
+    /// that nobody on the way takes it for a failure.
+    struct Caught {
+        Data data;
+    };
+
     /// `data` is now in the open file.
     void settle(const Data &data);
 
@@ -41,7 +65,8 @@ private:
     std::optional<Data> m_present;
     bool m_isUnsaved = false;
     int m_timesStored = 0;
+    bool m_isCatching = false;
     std::optional<Data> m_recalled;
 };
 
-} // namespace kiv::app
+} // namespace kiv::workbench

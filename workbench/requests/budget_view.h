@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "session.h"
+#include "workbench/requests/requests.h"
 
 #include "budgeting/budget.h"
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 /// The Navigator's signal and slot that show the items of one kind.
 template <typename Item>
@@ -38,9 +38,9 @@ struct ItemView<budgeting::Wage> {
 
 /// The budget's items with their tags and bank accounts, as the Navigator's
 /// five views show them at one time.
-class BudgetView {
+class KIV_WORKBENCH_EXPORT BudgetView {
 public:
-    explicit BudgetView(Session &session);
+    explicit BudgetView(Requests &requests);
 
     [[nodiscard]] const budgeting::Budget &budget() const noexcept { return m_budget; }
     [[nodiscard]] tagging::Tags tags(const budgeting::BudgetItemIdentifier &id) const;
@@ -51,9 +51,9 @@ public:
     /// Refusal when there is none, and when several kinds have one.
     [[nodiscard]] const budgeting::BudgetedMoney &
     find(const QString &name, std::optional<budgeting::BudgetItemTypes> kind) const;
-    /// toJson of the item with its tags, and bankAccount (a number and the
-    /// bank's name) where it is tied to one.
-    [[nodiscard]] QJsonObject json(const budgeting::BudgetedMoney &item) const;
+    /// The item with this name, with the word of its kind and a colon before it
+    /// where names repeat: "Rent", "bill:Rent". Throws as find() does.
+    [[nodiscard]] budgeting::BudgetItemIdentifier findTyped(const QString &text) const;
 
 private:
     budgeting::Budget m_budget;
@@ -61,6 +61,7 @@ private:
     std::set<navigation::BudgetBankAccount> m_bankAccounts;
 };
 
-[[nodiscard]] budgeting::BudgetItemIdentifier identify(const budgeting::BudgetedMoney &item);
+[[nodiscard]] KIV_WORKBENCH_EXPORT budgeting::BudgetItemIdentifier
+identify(const budgeting::BudgetedMoney &item);
 
-} // namespace kiv::app
+} // namespace kiv::workbench

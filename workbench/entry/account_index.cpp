@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "parsing/account_index.h"
+#include "workbench/entry/account_index.h"
 
-#include "errors.h"
-#include "parsing/similar.h"
+#include "workbench/entry/similar.h"
+#include "workbench/internal/faults.h"
 
 #include "interchange/account_paths.h"
 
 #include <limits>
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 using accounting::Account;
 using accounting::AccountNumber;
@@ -36,7 +36,7 @@ const Account &AccountIndex::find(const QString &text) const
         QStringList numbers;
         for (const Account *account : named)
             numbers += accounting::presentationText(account->code().number());
-        throw ambiguousAccount(text, numbers);
+        throw internal::ambiguousAccount(text, numbers);
     }
     if (named.size() == 1)
         return *named.front();
@@ -48,7 +48,7 @@ const Account &AccountIndex::find(const QString &text) const
     QStringList known;
     for (const auto &[candidate, path] : m_paths)
         known << m_byNumber.at(candidate)->code().name() << path;
-    throw noSuchAccount(text, similarTo(text, known));
+    throw internal::noSuchAccount(text, similarTo(text, known));
 }
 
 const Account *AccountIndex::find(AccountNumber number) const
@@ -74,4 +74,4 @@ AccountNumber AccountIndex::nextNumber() const
     return AccountNumber(number);
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

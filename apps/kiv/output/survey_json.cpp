@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "output/survey_json.h"
+
+#include "output/json.h"
+#include "parsing/json_input.h"
+
+#include "workbench/entry/kind_words.h"
+#include "workbench/entry/values.h"
+#include "workbench/requests/budget_view.h"
+
+namespace kiv::app {
+
+using accounting::AccountNumber;
+using accounting::TransactionNumber;
+using budgeting::BudgetItemIdentifier;
+using workbench::AccountIndex;
+using workbench::BudgetView;
+using workbench::kindWord;
+using workbench::readPlain;
+using workbench::readValue;
+using workbench::Requests;
+
+namespace {
+
+BudgetItemIdentifier readItem(const BudgetView &view, const QJsonValue &json)
+{
+    budgeting::BudgetItemTypes kind{};
+    readValue(json[QLatin1String("kind")].toString().toStdString(), kind);
+    return identify(view.find(json[QLatin1String("name")].toString(), kind));
+}
+
+QJsonObject itemJson(const BudgetItemIdentifier &id)
+{
+    return {{QStringLiteral("kind"), kindWord(id.type)},
+            {QStringLiteral("name"), id.source.name()}};
+}
+
+QJsonObject codeJson(const accounting::AccountCode &code)
+{
+    return {{QStringLiteral("account"), toJson(code.number())},
+            {QStringLiteral("name"), code.name()}};
+}
+
+/// One row for each change, with what it did to the balance.
+template <typename Changes, typename KeyJson>
+QJsonArray changesJson(const Changes &changes, AccountNumber surveyed, KeyJson keyJson)
+{
+    QJsonArray rows;
+    for (const auto &[key, set] : changes) {
+        for (const surveying::BalanceChange &change : set) {
+            const accounting::Transaction &transaction = change.transaction();
+            const numira::Money &amount = transaction.amountFor(surveyed);
+            QJsonObject row = keyJson(key);
+            row.insert(QStringLiteral("transaction"), toJson(transaction.number()));
+            row.insert(QStringLiteral("date"), toJson(transaction.occurredOn()));
+            row.insert(QStringLiteral("description"),
+                       transaction.description().value_or(QString()));
+            row.insert(QStringLiteral("change"), toJson(change.isIncrease() ? amount : -amount));
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
+} // namespace
+
+SurveyForm surveyFromJson(Requests &requests, const QJsonObject &json)
+{
+    const auto text = [&json](const char *key) {
+        return json.value(QLatin1String(key)).toVariant().toString();
+    };
+    QDate date;
+    readPlain(text("date").toStdString(), date);
+    SurveyForm form = SurveyForm::propose(requests, text("bank"), text("account"), date);
+    const numira::Currency currency = form.balance.code();
+    form.balance = readMoney(json.value(QLatin1String("balance")), currency);
+    form.reconciled.clear();
+    for (const QJsonValue number : json.value(QLatin1String("reconciled")).toArray()) {
+        TransactionNumber read;
+        readValue(number.toVariant().toString().toStdString(), read);
+        form.reconciled.insert(read);
+    }
+    const AccountIndex index = requests.accounts();
+    const BudgetView view(requests);
+    for (const QJsonValue item : json.value(QLatin1String("items")).toArray())
+        form.items.insert_or_assign(readItem(view, item),
+                                    readMoney(item[QLatin1String("change")], currency));
+    for (const QJsonValue extra : json.value(QLatin1String("accounts")).toArray()) {
+        const QString account = extra[QLatin1String("account")].toVariant().toString();
+        form.extras.insert_or_assign(index.find(account).code().number(),
+                                     readMoney(extra[QLatin1String("change")], currency));
+    }
+    form.distribution.clear();
+    for (const QJsonValue share : json.value(QLatin1String("distribution")).toArray()) {
+        const BudgetItemIdentifier id = readItem(view, share);
+        const auto proposed = form.proposal.distributions().find(id);
+        surveying::DistributedAmount amount;
+        if (proposed != form.proposal.distributions().end())
+            amount = proposed->second;
+        amount = readMoney(share[QLatin1String("distributed")], currency);
+        form.distribution.insert_or_assign(id, amount);
+    }
+    return form;
+}
+
+QJsonObject toJson(const SurveyForm &form, Requests &requests)
+{
+    const AccountIndex index = requests.accounts();
+    const banking::ReconciledBankAccount &last = form.proposal.reconciled();
+    const AccountNumber number = form.account.account.number;
+    const std::optional<numira::Money> &due = form.proposal.amountDue();
+    QJsonArray ticked;
+    for (const TransactionNumber transaction : form.reconciled)
+        ticked.append(toJson(std::optional(transaction)));
+    QJsonArray added;
+    for (const auto &[id, money] : form.items) {
+        QJsonObject row = itemJson(id);
+        row.insert(QStringLiteral("change"), toJson(money));
+        added.append(row);
+    }
+    QJsonArray extra;
+    for (const auto &[other, money] : form.extras) {
+        QJsonObject row = codeJson(index.find(other)->code());
+        row.insert(QStringLiteral("change"), toJson(money));
+        extra.append(row);
+    }
+    QJsonArray shares;
+    for (const auto &[id, amount] : form.distribution) {
+        QJsonObject row = itemJson(id);
+        row.insert(QStringLiteral("distributed"), toJson(amount.distributed()));
+        row.insert(QStringLiteral("expected"), toJson(amount.expected().rounded()));
+        row.insert(QStringLiteral("next"), toJson(amount.nextOccurOn()));
+        shares.append(row);
+    }
+    return {{QStringLiteral("bank"), form.account.bank.institution()},
+            {QStringLiteral("account"), toJson(number)},
+            {QStringLiteral("accountName"), index.find(number)->code().name()},
+            {QStringLiteral("date"), toJson(form.date)},
+            {QStringLiteral("reconciledOn"), toJson(last.reconciledOn().value_or(QDate()))},
+            {QStringLiteral("reconciledBalance"), toJson(last.balance())},
+            {QStringLiteral("start"), toJson(form.proposal.startOn())},
+            {QStringLiteral("expectedBalance"), toJson(form.proposal.expectedBalance())},
+            {QStringLiteral("amountDue"), due ? QJsonValue(toJson(due->rounded())) : QJsonValue()},
+            {QStringLiteral("itemChanges"),
+             changesJson(form.proposal.budgetItemChanges(), number, itemJson)},
+            {QStringLiteral("accountChanges"),
+             changesJson(form.proposal.accountChanges(), number, codeJson)},
+            {QStringLiteral("balance"), toJson(form.balance)},
+            {QStringLiteral("reconciled"), ticked},
+            {QStringLiteral("items"), added},
+            {QStringLiteral("accounts"), extra},
+            {QStringLiteral("distribution"), shares},
+            {QStringLiteral("nonDistributed"), toJson(form.nonDistributed)}};
+}
+
+} // namespace kiv::app

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/document/bank_steps.h"
+
+namespace kiv::workbench {
+
+using accounting::AccountCode;
+using banking::Bank;
+using banking::BankName;
+using navigation::Navigator;
+
+namespace {
+
+std::vector<AccountCode> closedAccounts(Requests &requests, const Bank &bank)
+{
+    const AccountIndex index = requests.accounts();
+    std::vector<AccountCode> closed;
+    for (const auto &[number, type] : bank.accounts()) {
+        const accounting::Account *account = index.find(number);
+        if (account && account->isClosed())
+            closed.push_back(account->code());
+    }
+    return closed;
+}
+
+void keep(Requests &requests, const BankName &name, Bank::Accounts accounts)
+{
+    requests.change(bankOutcome, &Navigator::onBankUpdated, Bank(name, std::move(accounts), false));
+}
+
+} // namespace
+
+void closeBank(Requests &requests, const BankName &name)
+{
+    // A bank closes all its accounts, and stops at one that is closed already.
+    const Bank bank = requests.bank(name.institution());
+    std::vector<AccountCode> opened;
+    auto undo = qScopeGuard([&] {
+        for (const AccountCode &code : opened)
+            requests.navigator().onClosed(code);
+    });
+    if (!bank.isClosed()) {
+        for (const AccountCode &code : closedAccounts(requests, bank)) {
+            requests.change(accountOutcome, &Navigator::onOpened, code);
+            opened.push_back(code);
+        }
+    }
+    requests.change(bankOutcome, &Navigator::onBankClosed, name);
+    undo.dismiss();
+}
+
+void openBank(Requests &requests, const BankName &name)
+{
+    const bool wasClosed = requests.bank(name.institution()).isClosed();
+    try {
+        requests.change(bankOutcome, &Navigator::onBankOpened, name);
+    } catch (const Refusal &) {
+        // A bank opens its accounts one after the other, and stops at one that is
+        // open already; the bank itself is open then.
+        const Bank bank = requests.bank(name.institution());
+        if (!wasClosed || bank.isClosed())
+            throw;
+        for (const AccountCode &code : closedAccounts(requests, bank))
+            requests.change(accountOutcome, &Navigator::onOpened, code);
+    }
+}
+
+void attachBankAccount(Document &document, const BankName &bank, accounting::AccountNumber account,
+                       banking::BankAccountTypes kind)
+{
+    Requests &requests = document.requests();
+    const Bank::Accounts before = requests.bank(bank.institution()).accounts();
+    Bank::Accounts after = before;
+    // A kind cannot be changed once it is set, so the account leaves its bank first.
+    const auto kept = before.find(account);
+    const bool isOtherKind = kept != before.end() && kept->second != kind;
+    if (isOtherKind) {
+        after.erase(account);
+        keep(requests, bank, after);
+    }
+    after.insert_or_assign(account, kind);
+    try {
+        keep(requests, bank, after);
+    } catch (const Refusal &) {
+        if (isOtherKind)
+            keep(requests, bank, before);
+        throw;
+    }
+    document.mend();
+}
+
+void detachBankAccount(Requests &requests, const banking::BankAccount &account)
+{
+    Bank::Accounts accounts = requests.bank(account.bank.institution()).accounts();
+    accounts.erase(account.account.number);
+    keep(requests, account.bank, std::move(accounts));
+}
+
+} // namespace kiv::workbench

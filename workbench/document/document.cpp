@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/document/document.h"
+
+#include "workbench/entry/user_locale.h"
+#include "workbench/internal/faults.h"
+#include "workbench/internal/recalling_storage.h"
+
+#include "storage/rates_file.h"
+#include "storage/storage_error.h"
+
+#include <QtCore/QDebug>
+#include <QtCore/QFileInfo>
+
+namespace kiv::workbench {
+
+using navigation::Navigator;
+using storage::BudgetStorage;
+
+Document::Document(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings)),
+      m_requests([this]() -> Navigator & { return navigator(); })
+{
+}
+
+Document::~Document() = default;
+
+Navigator &Document::navigator()
+{
+    if (!m_navigator) {
+        auto budgetFile = std::make_unique<RecallingStorage>();
+        m_storage = budgetFile.get();
+        m_navigator = std::make_unique<Navigator>(
+            m_surroundings.makeSender(), std::move(budgetFile),
+            std::make_unique<storage::RatesFile>(m_surroundings.ratesFile));
+        writeNumbersAsUser();
+        // The offer of the first-time wizard empties the budget; who works on a
+        // file wants what was in memory.
+        QObject::connect(m_navigator.get(), &Navigator::showNewBudgetFirstTimeWizard,
+                         m_navigator.get(), [this] {
+                             if (!m_file.isEmpty())
+                                 revert();
+                         });
+    }
+    return *m_navigator;
+}
+
+navigation::CurrencyDisplayOptions Document::displayAs()
+{
+    return m_navigator ? m_requests.displayAs() : navigation::CurrencyDisplayOptions::IsoCode;
+}
+
+QString Document::withExtension(const QString &path)
+{
+    static const QString extension = QStringLiteral(".budget");
+    return path.endsWith(extension) ? path : path + extension;
+}
+
+void Document::open(const QString &file)
+{
+    refuseUnsaved();
+    const QString path = withExtension(file);
+    navigator().onConfirmedLoadBudgetFile(path, false);
+    m_file = path;
+}
+
+void Document::refuseExisting(const QString &file)
+{
+    // A dangling link counts as a file, too: what it names is not ours to make.
+    const QFileInfo target(withExtension(file));
+    if (target.exists() || target.isSymLink())
+        throw internal::fileExists(target.filePath());
+}
+
+void Document::create(const QString &file)
+{
+    refuseExisting(file);
+    saveAs(withExtension(file));
+}
+
+template <typename Slot, typename... Values>
+void Document::store(Slot slot, const Values &...values)
+{
+    (void)navigator();
+    const int before = m_storage->timesStored();
+    try {
+        (void)m_requests.ask(&Navigator::savedBudgetFile, slot, values...);
+    } catch (const storage::StorageError &error) {
+        if (m_storage->timesStored() == before)
+            throw;
+        qWarning().noquote() << userText(error);
+    }
+}
+
+void Document::save()
+{
+    store(&Navigator::onSaveBudgetFile);
+}
+
+void Document::saveAs(const QString &file)
+{
+    (void)navigator();
+    // Also when something fails after the budget was stored.
+    const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
+    store(&Navigator::onSaveAsBudgetFile, file);
+}
+
+void Document::refuseUnsaved() const
+{
+    if (m_storage && m_storage->isUnsaved())
+        throw internal::unsavedChanges(m_file);
+}
+
+void Document::saveUnsaved()
+{
+    if (m_storage && m_storage->isUnsaved())
+        save();
+}
+
+void Document::revert()
+{
+    if (!m_navigator)
+        return;
+    // Not from the file, which may be gone, or older than what is in memory.
+    if (const auto &present = m_storage->present()) {
+        m_storage->recall(storage::BudgetFile::mended(*present));
+        navigator().onConfirmedLoadBudgetFile(m_file, true);
+    } else {
+        navigator().onConfirmedNewBudgetEmpty();
+    }
+}
+
+void Document::recall(BudgetStorage::Data version)
+{
+    refuseUnsaved();
+    m_storage->recall(std::move(version));
+    navigator().onReloadBudgetFile();
+}
+
+BudgetStorage::Data Document::present()
+{
+    return m_storage->caught([this] { navigator().onSaveAsBudgetFile(m_file); });
+}
+
+void Document::mend()
+{
+    const BudgetStorage::Data data = present();
+    BudgetStorage::Data mended = storage::BudgetFile::mended(data);
+    if (mended == data)
+        return;
+    m_storage->recall(std::move(mended));
+    (void)m_requests.ask(&Navigator::loadedBudgetFile, &Navigator::onConfirmedLoadBudgetFile,
+                         m_file, true);
+}
+
+} // namespace kiv::workbench

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/entry/kind_words.h"
+
+#include "budgeting/item_traits.h"
+
+#include <QtCore/QObject>
+
+#include <array>
+
+namespace kiv::workbench {
+
+QString kindWord(budgeting::BudgetItemTypes kind)
+{
+    return budgeting::visitItemClass(kind, "An unknown kind of budget item has no word.",
+                                     []<typename Item>(std::type_identity<Item>) {
+                                         return QString::fromLatin1(
+                                             budgeting::ItemTraits<Item>::word);
+                                     });
+}
+
+QString kindText(budgeting::BudgetItemTypes kind)
+{
+    static constexpr std::array words{
+        QT_TRANSLATE_NOOP("QObject", "bill"), QT_TRANSLATE_NOOP("QObject", "debt"),
+        QT_TRANSLATE_NOOP("QObject", "goal"), QT_TRANSLATE_NOOP("QObject", "non-tracked item"),
+        QT_TRANSLATE_NOOP("QObject", "wage"),
+    };
+    return QObject::tr(words.at(static_cast<std::size_t>(kind) - 1));
+}
+
+} // namespace kiv::workbench

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/export.h"
+
+#include "budgeting/identifiers.h"
+
+#include <QtCore/QString>
+
+namespace kiv::workbench {
+
+/// The word of a kind of budget item, as a person types it and in JSON.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString kindWord(budgeting::BudgetItemTypes kind);
+/// That word in the user's language.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString kindText(budgeting::BudgetItemTypes kind);
+
+} // namespace kiv::workbench

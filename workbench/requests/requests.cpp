@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/requests/requests.h"
+
+#include "workbench/entry/similar.h"
+#include "workbench/internal/faults.h"
+
+#include "navigation/configuration.h"
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+
+namespace kiv::workbench {
+
+using navigation::Failure;
+using navigation::LastFailure;
+using navigation::Navigator;
+
+QString userText(const Failure &failure)
+{
+    QString text = failure.message;
+    for (const QString &cause : failure.causes)
+        text += QObject::tr(" Caused by: ") + cause;
+    return text;
+}
+
+QString userText(const std::exception &error)
+{
+    return userText(navigation::failureOf({}, error));
+}
+
+Requests::Requests(std::function<Navigator &()> reach) : m_reach(std::move(reach)) {}
+
+Requests::~Requests() = default;
+
+AccountIndex Requests::accounts()
+{
+    return AccountIndex(std::get<std::set<accounting::Account>>(
+        ask(&Navigator::showAccounts, &Navigator::onPrepareShowAccounts)));
+}
+
+banking::BankMap Requests::banks()
+{
+    return std::get<banking::BankMap>(ask(&Navigator::showBanks, &Navigator::onPrepareShowBanks));
+}
+
+banking::Bank Requests::bank(const QString &name)
+{
+    const banking::BankMap all = banks();
+    const banking::BankName bankName(name);
+    if (!all.hasBank(bankName)) {
+        QStringList known;
+        for (const banking::BankName &candidate : all.names())
+            known += candidate.institution();
+        throw internal::noSuchBank(name, similarTo(name, known));
+    }
+    return all.bank(bankName);
+}
+
+banking::BankAccount Requests::bankAccount(accounting::AccountNumber number, const QString &name)
+{
+    const banking::BankMap all = banks();
+    const std::optional<banking::BankName> keeper = all.find(number);
+    if (!keeper)
+        throw internal::notABankAccount(name);
+    return {*keeper, {number, all.bank(*keeper).accounts().at(number)}};
+}
+
+numira::Currency Requests::preferredCurrency()
+{
+    return std::get<navigation::ConfigurationData>(
+               ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure))
+        .preferredCurrency;
+}
+
+navigation::CurrencyDisplayOptions Requests::displayAs()
+{
+    return std::get<navigation::ConfigurationData>(
+               ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure))
+        .currenciesDisplayAs;
+}
+
+std::vector<accounting::Transaction> Requests::transactions()
+{
+    // Every transaction debits one account, so that it comes once.
+    std::vector<accounting::Transaction> all;
+    const AccountIndex index = accounts();
+    for (const accounting::Account &account : index.accounts()) {
+        for (const accounting::Transaction &transaction : account.transactions()) {
+            if (transaction.debiting().number() == account.code().number())
+                all.push_back(transaction);
+        }
+    }
+    std::ranges::sort(all, {}, [](const accounting::Transaction &transaction) {
+        return transaction.number().value_or(accounting::TransactionNumber());
+    });
+    return all;
+}
+
+accounting::Transaction Requests::transaction(accounting::TransactionNumber number)
+{
+    const AccountIndex index = accounts();
+    for (const accounting::Account &account : index.accounts()) {
+        if (const auto found = account.transactions().find(number))
+            return *found;
+    }
+    throw internal::noSuchTransaction(accounting::presentationText(number));
+}
+
+Requests::Fetch<conversion::ConversionMap>
+Requests::fetchRates(const std::set<numira::Currency> &currencies)
+{
+    conversion::ConversionMap rates;
+    const std::optional<Failure> failure = failureOf([&] {
+        rates = std::get<conversion::ConversionMap>(
+            ask(&Navigator::fetchedExchangeRates, &Navigator::onFetchExchangeRates, currencies));
+    });
+    if (failure)
+        return {std::move(rates), userText(*failure)};
+    return {std::move(rates), std::nullopt};
+}
+
+Requests::Fetch<std::set<updating::ReleaseInformation>>
+Requests::fetchReleases(std::chrono::milliseconds patience)
+{
+    const Running running(*this);
+    Fetch<std::set<updating::ReleaseInformation>> answer{{}, QString()};
+    QEventLoop loop;
+    QObject::connect(&navigator(), &Navigator::fetchedReleaseNotes, &loop,
+                     [&](const std::set<updating::ReleaseInformation> &versions) {
+                         const std::optional<Failure> failure = knownFailure();
+                         answer = {versions, std::nullopt};
+                         if (failure)
+                             answer.failure = userText(*failure);
+                         loop.quit();
+                     });
+    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    // From within the loop, in case that the answer is there at once.
+    QTimer::singleShot(0, &navigator(), &Navigator::onFetchReleaseNotes);
+    loop.exec();
+    return answer;
+}
+
+Failure Requests::reasonOf(const QString &text) const
+{
+    // Where memory was too short to leave the reason, the signal has a part of it.
+    return knownFailure().value_or(Failure{{}, text, {}});
+}
+
+std::optional<Failure> Requests::knownFailure() const
+{
+    const LastFailure *last = LastFailure::of(navigator());
+    return last ? last->failure() : std::nullopt;
+}
+
+void Requests::forgetFailure() const
+{
+    if (LastFailure *last = LastFailure::of(navigator()))
+        last->clear();
+}
+
+} // namespace kiv::workbench

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/surveys/survey_form.h"
+
+#include "workbench/entry/values.h"
+#include "workbench/internal/faults.h"
+#include "workbench/requests/budget_view.h"
+
+namespace kiv::workbench {
+
+using accounting::AccountNumber;
+using accounting::TransactionNumber;
+using budgeting::BudgetItemIdentifier;
+using budgeting::BudgetItemTypes;
+using navigation::Navigator;
+
+namespace {
+
+struct Assignment {
+    QString name;
+    Amount amount;
+};
+
+Assignment readAssignment(const QString &text)
+{
+    const qsizetype at = text.lastIndexOf(u'=');
+    if (at < 1)
+        throw notAnAssignment(text);
+    Assignment read{text.first(at), {}};
+    readValue(text.sliced(at + 1).toStdString(), read.amount);
+    return read;
+}
+
+template <typename Changes>
+void collectNumbers(const Changes &changes, std::set<TransactionNumber> &numbers)
+{
+    for (const auto &[key, set] : changes) {
+        for (const surveying::BalanceChange &change : set)
+            numbers.insert(change.transaction().number().value());
+    }
+}
+
+template <typename Key>
+surveying::IndexedIncreaseDecreases<Key> bySign(const std::map<Key, numira::Money> &changes)
+{
+    std::map<Key, numira::Money> increases;
+    std::map<Key, numira::Money> decreases;
+    for (const auto &[key, money] : changes)
+        (money.isNegative() ? decreases : increases).emplace(key, money.abs());
+    return {std::move(increases), std::move(decreases)};
+}
+
+} // namespace
+
+SurveyForm SurveyForm::propose(Requests &requests, const QString &bank, const QString &account,
+                               QDate date)
+{
+    const banking::BankName name = requests.bank(bank).name();
+    const AccountNumber number = requests.accounts().find(account).code().number();
+    const auto kept = std::get<std::set<banking::AccountNumberBankType>>(
+        requests.ask(&Navigator::lookedUpBankAccounts, &Navigator::onLookUpBankAccounts, name,
+                     navigation::AllowSubAccounts(true)));
+    const auto found = std::ranges::find(kept, number, &banking::AccountNumberBankType::number);
+    if (found == kept.end())
+        throw internal::notABankAccount(account);
+
+    SurveyForm form;
+    form.account = {name, *found};
+    form.date = date;
+    form.proposal = std::get<surveying::MappingSurvey>(
+        requests.ask(&Navigator::generatedMappingSurvey, &Navigator::onGenerateMappingSurvey, name,
+                     number, date));
+    form.balance = form.proposal.expectedBalance();
+    form.distribution = form.proposal.distributions();
+    collectNumbers(form.proposal.budgetItemChanges(), form.reconciled);
+    collectNumbers(form.proposal.accountChanges(), form.reconciled);
+    try {
+        form.nonDistributed = form.left();
+    } catch (const std::exception &) {
+        // Without an exchange rate nobody can tell; it is for information only.
+        form.nonDistributed = numira::Money(form.balance.code());
+    }
+    return form;
+}
+
+void SurveyForm::addItem(Requests &requests, const QString &text)
+{
+    const Assignment read = readAssignment(text);
+    items.insert_or_assign(BudgetView(requests).findTyped(read.name),
+                           read.amount.in(balance.code()));
+}
+
+void SurveyForm::addExtra(Requests &requests, const QString &text)
+{
+    const Assignment read = readAssignment(text);
+    extras.insert_or_assign(requests.accounts().find(read.name).code().number(),
+                            read.amount.in(balance.code()));
+}
+
+void SurveyForm::distribute(Requests &requests, const QString &text)
+{
+    const Assignment read = readAssignment(text);
+    distribution[BudgetView(requests).findTyped(read.name)] = read.amount.in(balance.code());
+}
+
+void SurveyForm::settleGoals(Requests &requests)
+{
+    const AccountIndex index = requests.accounts();
+    for (auto &[id, amount] : distribution) {
+        if (id.type != BudgetItemTypes::Goal)
+            continue;
+        const auto answer = requests.ask(&Navigator::lookedUpRefundableTransactions,
+                                         &Navigator::onLookUpRefundableTransactions, id);
+        const AccountNumber number = std::get<accounting::AccountCode>(answer).number();
+        if (const accounting::Account *own = index.find(number))
+            amount = own->balance();
+    }
+}
+
+void SurveyForm::complete(Requests &requests) const
+{
+    requests.change(surveyOutcome, &Navigator::onCompletedSurvey, date, account, balance,
+                    reconciled, itemChanges(), accountChanges(), distribution, nonDistributed);
+}
+
+bool SurveyForm::isOwed() const
+{
+    return banking::isLiabilityAccount(account.account.type);
+}
+
+numira::Money SurveyForm::left() const
+{
+    numira::Money rest = balance;
+    for (const auto &[id, amount] : distribution)
+        rest -= amount.distributed();
+    return rest;
+}
+
+surveying::IndexedIncreaseDecreases<BudgetItemIdentifier> SurveyForm::itemChanges() const
+{
+    return bySign(items);
+}
+
+surveying::IndexedIncreaseDecreases<AccountNumber> SurveyForm::accountChanges() const
+{
+    return bySign(extras);
+}
+
+} // namespace kiv::workbench
