@@ -304,6 +304,21 @@ What was closed is opened again, and what was added is removed:
   Closed the bank 'Second'.
   $ kiv bank open Second
   Opened the bank 'Second' again.
+  $ for account in Jar Pot; do kiv bank-account add $account --bank Second; done >/dev/null
+  $ kiv account close Jar
+  Closed the account 5 Jar.
+  $ kiv bank close Second
+  Closed the bank 'Second'.
+  $ kiv account open Jar
+  Opened the account 5 Jar again.
+  $ kiv bank open Second
+  Opened the bank 'Second' again.
+  $ kiv accounts --type asset --open
+  Number  Account            Balance
+       1  Assets:Checking  $2,500.00
+       5  Assets:Jar           $0.00
+       6  Assets:Pot           $0.00
+  $ for account in Jar Pot; do kiv bank-account remove $account; done >/dev/null
   $ kiv bank remove First
   Removed the bank 'First'.
   $ kiv banks

@@ -84,6 +84,9 @@ Dates, and other values:
   $ kiv export --format pdf
   kiv: 'pdf' is none of: journal, csv, json.
   [2]
+  $ env LC_ALL=de_DE.UTF-8 kiv account remove 'x Caused by: y'
+  kiv: Es gibt kein Konto \xe2\x80\x9ex Caused by: y\xe2\x80\x9c; kiv accounts z\xc3\xa4hlt auf, welche es gibt. (esc)
+  [1]
   $ kiv wizard x --bank B --account A --template teenagr
   kiv: 'teenagr' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income; did you mean 'teenager'?
   [2]

@@ -306,6 +306,9 @@ The wizard makes a budget of a template's items:
   $ start
   kiv: The file 'start.budget' exists already; choose another name.
   [1]
+  $ kiv wizard other --template teenager --bank A --account B --type credit-card
+  kiv: The budget could not be made. Failure making the goal bank account association. Caused by: The account '22 Emergencies [Budget Item]' of type Asset cannot stand under the account '1 B' of type Liability.
+  [1]
   $ kiv wizard other --template child --bank A --account B
   kiv: 'child' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income.
   [2]

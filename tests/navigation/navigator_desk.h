@@ -207,13 +207,6 @@ inline void Desk::furnish()
     (void)save();
 }
 
-inline bool operator==(const storage::BudgetStorage::Data &a, const storage::BudgetStorage::Data &b)
-{
-    return a.generalLedger == b.generalLedger && a.budget == b.budget &&
-           a.budgetAccountCodes == b.budgetAccountCodes && a.banks == b.banks &&
-           a.surveys == b.surveys && a.itemTags == b.itemTags;
-}
-
 inline QStringList texts(const std::vector<const char *> &lines)
 {
     QStringList list;

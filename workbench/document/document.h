@@ -26,8 +26,10 @@ struct Surroundings {
 /// unsaved, and what went wrong with it.
 class KIV_WORKBENCH_EXPORT Document {
 public:
+    /// What it works with.
     using Navigator = navigation::Navigator;
 
+    /// Touches no file and makes no Navigator yet.
     explicit Document(Surroundings surroundings);
     ~Document();
     Document(const Document &) = delete;
@@ -36,6 +38,7 @@ public:
     /// Made when it is first asked for, since a call that only prints its help
     /// should not wait for it.
     [[nodiscard]] Navigator &navigator();
+    /// How to ask the Navigator.
     [[nodiscard]] Requests &requests() noexcept { return m_requests; }
     /// How currencies are to be shown; by their codes as long as there is no
     /// Navigator that knows.

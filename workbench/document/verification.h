@@ -10,19 +10,19 @@ namespace kiv::workbench {
 /// What a budget file promises: first what its storage judges, then what its books
 /// add up to.
 enum class Promise : std::uint8_t {
-    Identity = 1,
-    Tables = 2,
-    Seal = 3,
-    Rules = 4,
-    Ties = 5,
+    Identity = 1, ///< its header is that of a budget file of a known version
+    Tables = 2,   ///< its tables are those of that version
+    Seal = 3,     ///< its rows are those that were written
+    Rules = 4,    ///< its books obey the rules of the ledger
+    Ties = 5,     ///< its items, accounts and banks fit together
     Balances = 6, ///< every balance is the sum of its transactions
     Sides = 7,    ///< in every currency the debits equal the credits
 };
 
 /// One promise, and what became of it.
 struct KIV_WORKBENCH_EXPORT PromiseVerdict {
-    Promise promise{};
-    storage::Verdict verdict = storage::Verdict::NotJudged;
+    Promise promise{};                                      ///< what was judged
+    storage::Verdict verdict = storage::Verdict::NotJudged; ///< whether it is kept
     QStringList reasons; ///< in words; for Sides the sums that were compared
 
     /// What is promised, as a sentence without its end in the user's language.
@@ -31,7 +31,7 @@ struct KIV_WORKBENCH_EXPORT PromiseVerdict {
 
 /// A budget file that was looked at.
 struct KIV_WORKBENCH_EXPORT Verification {
-    QString path;
+    QString path;                         ///< of the file
     std::vector<PromiseVerdict> promises; ///< each once, in their order
 
     /// Whether no promise is broken.

@@ -15,10 +15,12 @@ namespace kiv::workbench {
 /// with its path (see interchange::accountPaths).
 class KIV_WORKBENCH_EXPORT AccountIndex {
 public:
+    /// Takes the accounts over.
     explicit AccountIndex(std::set<accounting::Account> accounts);
     AccountIndex(AccountIndex &&) noexcept = default;
     AccountIndex &operator=(AccountIndex &&) noexcept = default;
 
+    /// In the order of their numbers.
     [[nodiscard]] const std::set<accounting::Account> &accounts() const &noexcept
     {
         return m_accounts;

@@ -25,15 +25,15 @@ namespace kiv::workbench {
 
 /// A name that somebody gives to something: not empty, and not blanks alone.
 struct NewName {
-    QString text;
+    QString text; ///< as it was typed
 };
 
 /// An amount as it was written: the currency may be left to the context.
 struct KIV_WORKBENCH_EXPORT Amount {
-    QString text;
-    numira::Decimal number;
-    unsigned digits = 0; ///< behind the point, as written
-    std::optional<numira::Currency> currency;
+    QString text;                             ///< as it was typed
+    numira::Decimal number;                   ///< what it says
+    unsigned digits = 0;                      ///< behind the point, as written
+    std::optional<numira::Currency> currency; ///< where one was written
 
     /// The amount, in `otherwise` when it was written without a currency.
     /// Throws an EntryError when it has more digits behind the point than its
@@ -41,7 +41,9 @@ struct KIV_WORKBENCH_EXPORT Amount {
     [[nodiscard]] numira::Money in(const numira::Currency &otherwise) const;
 };
 
+/// Any text that is valid UTF-8.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, QString &value);
+/// Refuses what is blank.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, NewName &value);
 /// ISO 8601, as in 2026-03-31, or as the user's locale writes dates.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, QDate &value);
@@ -57,19 +59,26 @@ KIV_WORKBENCH_EXPORT void readValue(const std::string &text, Amount &value);
 KIV_WORKBENCH_EXPORT void readPlain(const std::string &text, Amount &value);
 /// The English names, with blanks or dashes between the words.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, budgeting::EventFrequency &value);
+/// One of the five, in English.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, accounting::AccountTypes &value);
+/// One of the eight, in English.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, banking::BankAccountTypes &value);
 /// "bill", "debt", "goal", "nontrack" or "wage".
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, budgeting::BudgetItemTypes &value);
+/// A whole number above 0.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, accounting::AccountNumber &value);
+/// A whole number from 1 to 65,535.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, accounting::TransactionNumber &value);
+/// A whole number up to 36,600.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, std::chrono::days &value);
+/// A whole number up to 100,000.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, std::chrono::hours &value);
 /// "2.75" or "2.75%", with the user's decimal mark or a point.
 KIV_WORKBENCH_EXPORT void readValue(const std::string &text, foundation::Percentage &value);
 
+/// As the value itself.
 template <typename T>
-KIV_WORKBENCH_EXPORT void readValue(const std::string &text, std::optional<T> &value)
+void readValue(const std::string &text, std::optional<T> &value)
 {
     T read{};
     readValue(text, read);

@@ -11,6 +11,39 @@ using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetItemTypes;
 using budgeting::BudgetSource;
 
+namespace {
+
+/// The Navigator's signal and slot that show the items of one kind.
+template <typename Item>
+struct ItemView;
+template <>
+struct ItemView<budgeting::Bill> {
+    static constexpr auto signal = &navigation::Navigator::showBills;
+    static constexpr auto slot = &navigation::Navigator::onPrepareShowBills;
+};
+template <>
+struct ItemView<budgeting::Debt> {
+    static constexpr auto signal = &navigation::Navigator::showDebts;
+    static constexpr auto slot = &navigation::Navigator::onPrepareShowDebts;
+};
+template <>
+struct ItemView<budgeting::Goal> {
+    static constexpr auto signal = &navigation::Navigator::showGoals;
+    static constexpr auto slot = &navigation::Navigator::onPrepareShowGoals;
+};
+template <>
+struct ItemView<budgeting::Nontrack> {
+    static constexpr auto signal = &navigation::Navigator::showNontracks;
+    static constexpr auto slot = &navigation::Navigator::onPrepareShowNontracks;
+};
+template <>
+struct ItemView<budgeting::Wage> {
+    static constexpr auto signal = &navigation::Navigator::showWages;
+    static constexpr auto slot = &navigation::Navigator::onPrepareShowWages;
+};
+
+} // namespace
+
 BudgetView::BudgetView(Requests &requests)
 {
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {

@@ -7,42 +7,17 @@
 
 namespace kiv::workbench {
 
-/// The Navigator's signal and slot that show the items of one kind.
-template <typename Item>
-struct ItemView;
-template <>
-struct ItemView<budgeting::Bill> {
-    static constexpr auto signal = &navigation::Navigator::showBills;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowBills;
-};
-template <>
-struct ItemView<budgeting::Debt> {
-    static constexpr auto signal = &navigation::Navigator::showDebts;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowDebts;
-};
-template <>
-struct ItemView<budgeting::Goal> {
-    static constexpr auto signal = &navigation::Navigator::showGoals;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowGoals;
-};
-template <>
-struct ItemView<budgeting::Nontrack> {
-    static constexpr auto signal = &navigation::Navigator::showNontracks;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowNontracks;
-};
-template <>
-struct ItemView<budgeting::Wage> {
-    static constexpr auto signal = &navigation::Navigator::showWages;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowWages;
-};
-
 /// The budget's items with their tags and bank accounts, as the Navigator's
 /// five views show them at one time.
 class KIV_WORKBENCH_EXPORT BudgetView {
 public:
+    /// Asks for all five kinds. Throws what the slots throw, such as the want of an
+    /// exchange rate.
     explicit BudgetView(Requests &requests);
 
+    /// All items.
     [[nodiscard]] const budgeting::Budget &budget() const noexcept { return m_budget; }
+    /// The item's tags.
     [[nodiscard]] tagging::Tags tags(const budgeting::BudgetItemIdentifier &id) const;
     /// The bank account to which a debt or goal is tied.
     [[nodiscard]] std::optional<banking::BankAccount>
@@ -61,6 +36,7 @@ private:
     std::set<navigation::BudgetBankAccount> m_bankAccounts;
 };
 
+/// The item's kind and name.
 [[nodiscard]] KIV_WORKBENCH_EXPORT budgeting::BudgetItemIdentifier
 identify(const budgeting::BudgetedMoney &item);
 

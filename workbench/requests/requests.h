@@ -23,9 +23,10 @@ using Answer = std::tuple<std::remove_cvref_t<Arguments>...>;
 /// The two signals with which the Navigator answers one family of changes.
 template <typename Succeeded, typename Failed>
 struct Outcome {
-    Succeeded succeeded;
-    Failed failed;
+    Succeeded succeeded; ///< once for each change
+    Failed failed;       ///< with the reason
 };
+/// Made from its two signals.
 template <typename Succeeded, typename Failed>
 Outcome(Succeeded, Failed) -> Outcome<Succeeded, Failed>;
 
@@ -38,6 +39,7 @@ Outcome(Succeeded, Failed) -> Outcome<Succeeded, Failed>;
 /// become return values and exceptions.
 class KIV_WORKBENCH_EXPORT Requests {
 public:
+    /// Whom requests are made to.
     using Navigator = navigation::Navigator;
 
     /// `reach` gives the Navigator, and may make it when it is first asked for.
@@ -46,6 +48,7 @@ public:
     Requests(const Requests &) = delete;
     Requests &operator=(const Requests &) = delete;
 
+    /// The Navigator, made if need be.
     [[nodiscard]] Navigator &navigator() const { return m_reach(); }
     /// Whether a request waits for its answer. What is logged meanwhile is for
     /// developers, since the answer says the same to the user.
@@ -104,7 +107,9 @@ public:
 
     // ---- what most front ends need -------------------------------------------
 
+    /// All accounts with their transactions.
     [[nodiscard]] AccountIndex accounts();
+    /// All banks.
     [[nodiscard]] banking::BankMap banks();
     /// Throws a Refusal when there is none.
     [[nodiscard]] banking::Bank bank(const QString &name);
@@ -112,6 +117,7 @@ public:
     /// bank keeps it.
     [[nodiscard]] banking::BankAccount bankAccount(accounting::AccountNumber number,
                                                    const QString &name);
+    /// The currency of amounts that are typed without one.
     [[nodiscard]] numira::Currency preferredCurrency();
     /// How currencies are to be shown.
     [[nodiscard]] navigation::CurrencyDisplayOptions displayAs();
@@ -125,7 +131,7 @@ public:
     /// What a service answered, or else why it did not.
     template <typename Fetched>
     struct Fetch {
-        Fetched fetched;
+        Fetched fetched;                ///< empty, or what was known, when it failed
         std::optional<QString> failure; ///< empty when nobody knows why
     };
     /// Rates for these currencies; the known ones when there was a failure.
@@ -167,20 +173,28 @@ private:
     int m_running = 0;
 };
 
+/// Of changes to budget items.
 inline constexpr Outcome itemOutcome{&navigation::Navigator::saveSucceeded,
                                      &navigation::Navigator::saveFailed};
+/// Of changes to accounts.
 inline constexpr Outcome accountOutcome{&navigation::Navigator::accountSaveSucceeded,
                                         &navigation::Navigator::accountSaveFailed};
+/// Of changes to banks.
 inline constexpr Outcome bankOutcome{&navigation::Navigator::bankSaveSucceeded,
                                      &navigation::Navigator::bankSaveFailed};
+/// Of changes to bank accounts.
 inline constexpr Outcome bankAccountOutcome{&navigation::Navigator::bankAccountSaveSucceeded,
                                             &navigation::Navigator::bankAccountSaveFailed};
+/// Of changes to transactions, refunds and transfers.
 inline constexpr Outcome transactionOutcome{&navigation::Navigator::transactionSaveSucceeded,
                                             &navigation::Navigator::transactionSaveFailed};
+/// Of changes to due budget items.
 inline constexpr Outcome dueOutcome{&navigation::Navigator::processBudgetItemSaveSucceeded,
                                     &navigation::Navigator::processBudgetItemSaveFailed};
+/// Of changes to the user's settings.
 inline constexpr Outcome configureOutcome{&navigation::Navigator::configureSaveSucceeded,
                                           &navigation::Navigator::configureSaveFailed};
+/// Of changes to surveys.
 inline constexpr Outcome surveyOutcome{&navigation::Navigator::completedSurveySucceeded,
                                        &navigation::Navigator::completedSurveyFailed};
 

@@ -11,18 +11,20 @@ namespace kiv::workbench {
 /// The survey of a bank account as a person fills it in: what the Navigator
 /// proposes, and what the person makes of it.
 struct KIV_WORKBENCH_EXPORT SurveyForm {
-    banking::BankAccount account;
-    QDate date;
-    surveying::MappingSurvey proposal;
+    banking::BankAccount account;      ///< that is surveyed
+    QDate date;                        ///< of the statement
+    surveying::MappingSurvey proposal; ///< the Navigator's
 
     numira::Money balance; ///< of the statement
+    /// The transactions that the statement shows.
     std::set<accounting::TransactionNumber> reconciled;
     /// Money that the statement shows and the books do not, by what it changed
     /// the balance.
     std::map<budgeting::BudgetItemIdentifier, numira::Money> items;
+    /// The same for accounts that are no item's.
     std::map<accounting::AccountNumber, numira::Money> extras;
-    surveying::Distribution distribution;
-    numira::Money nonDistributed;
+    surveying::Distribution distribution; ///< what is set aside for items
+    numira::Money nonDistributed;         ///< what is set aside for nothing
 
     /// The proposal, filled in as if the statement agreed with it. Throws a
     /// Refusal when there is no such bank or the bank does not keep the
@@ -46,8 +48,10 @@ struct KIV_WORKBENCH_EXPORT SurveyForm {
     [[nodiscard]] bool isOwed() const;
     /// The balance without what is distributed.
     [[nodiscard]] numira::Money left() const;
+    /// `items` by what they did to the balance.
     [[nodiscard]] surveying::IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier>
     itemChanges() const;
+    /// `extras` likewise.
     [[nodiscard]] surveying::IndexedIncreaseDecreases<accounting::AccountNumber>
     accountChanges() const;
 };

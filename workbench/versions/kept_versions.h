@@ -10,9 +10,9 @@ namespace kiv::workbench {
 /// One version of a budget file: number 0 is the file itself, 1 the version
 /// before, and so on.
 struct KIV_WORKBENCH_EXPORT Version {
-    unsigned number = 0;
-    QString path;
-    storage::BudgetInspection found;
+    unsigned number = 0;             ///< how many saves ago
+    QString path;                    ///< where it lies
+    storage::BudgetInspection found; ///< what a look at it found
 
     /// Its budget. Throws a Refusal when it is not whole.
     [[nodiscard]] const storage::BudgetStorage::Data &data() const;
