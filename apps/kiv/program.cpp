@@ -164,6 +164,7 @@ int Program::execute()
     }
     if (isSaved && !report.isUnchanged())
         m_document.save();
+    report.finish();
     if (kind == CommandKind::Change && options.isDryRun) {
         takeBack();
         report.line(QObject::tr("This was a dry run: nothing is saved."));

@@ -37,6 +37,8 @@ const std::map<QString, Member> &members()
         {QStringLiteral("text"), &CsvProfile::textColumns},
         {QStringLiteral("id"), &CsvProfile::idColumn},
         {QStringLiteral("currency"), &CsvProfile::currencyColumn},
+        {QStringLiteral("status"), &CsvProfile::statusColumn},
+        {QStringLiteral("balance"), &CsvProfile::balanceColumn},
         {QStringLiteral("dateFormat"), &CsvProfile::dateFormat},
         {QStringLiteral("decimal"), &CsvProfile::decimalMark},
         {QStringLiteral("negate"), &CsvProfile::isNegated},
@@ -67,7 +69,7 @@ public:
     }
     void operator()(int CsvProfile::*member) const
     {
-        demand(m_value.toInt(-1) >= 0);
+        demand(m_value.toInt(-1) >= 0 && m_value.toInt() <= CsvProfile::skippedMax);
         m_profile.*member = m_value.toInt();
     }
     void operator()(std::optional<QChar> CsvProfile::*member) const

@@ -23,6 +23,9 @@ struct AccountRule {
 /// with a column of signs, an entry counts as negative when that cell is among
 /// the negative signs.
 struct CsvProfile {
+    /// The most lines that are left out above or below.
+    static constexpr int skippedMax = 1000;
+
     QString encoding = QStringLiteral("UTF-8");    ///< any name that ICU knows
     std::optional<QChar> delimiter = std::nullopt; ///< the line's most frequent otherwise
     int skippedLines = 0;                          ///< above the headings
@@ -37,6 +40,8 @@ struct CsvProfile {
     QStringList textColumns = {};                  ///< what makes the description
     QString idColumn = {};                         ///< the bank's identifier
     QString currencyColumn = {};                   ///< a code or a sign
+    QString statusColumn = {};                     ///< whether the bank has booked it
+    QString balanceColumn = {};                    ///< the balance after it; "-" for none
     DateFormat dateFormat = {};                    ///< how days are written
     /// Found out from each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
@@ -54,6 +59,9 @@ struct CsvProfile {
 /// Reads a bank statement. Columns that the profile does not name are found by
 /// common headings in English, German and Spanish. The amounts are in
 /// `currency` where the table does not tell.
+///
+/// Where balances are told, each must be the one before with the amount added, from the
+/// first entry to the last or from the last to the first.
 ///
 /// Throws ImportError with the line of what it cannot read.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readCsvStatement(const QByteArray &bytes,

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/csv_profile.h"
 
-#include "interchange/csv_table.h"
 #include "interchange/draft.h"
-#include "interchange/internal/faults.h"
+#include "interchange/internal/csv_columns.h"
+#include "interchange/internal/description_count.h"
+#include "interchange/internal/running_balance.h"
 #include "interchange/internal/statement_words.h"
 
 #include "foundation/presentation.h"
@@ -16,14 +17,6 @@ namespace kiv::interchange {
 namespace {
 
 namespace words = internal::words;
-
-/// "wahrung" of "Währung": in lower case and without the marks that banks often leave out.
-QString plainHeading(const QString &heading)
-{
-    QString plain = heading.toLower().normalized(QString::NormalizationForm_D);
-    plain.removeIf([](QChar letter) { return letter.isMark(); });
-    return plain;
-}
 
 bool isBlank(const QString &cell)
 {
@@ -42,20 +35,17 @@ public:
         std::vector<CsvRecord> records = recordsOf(text, file);
         if (records.empty())
             throw faults::emptyTable({file, 0});
-        setHeadings(records.front());
+        m_columns = internal::columnsOf(records.front(), m_profile, m_currency);
+        if (m_profile.hasHeadings && hasDay(records.front().cells))
+            throw faults::headingsAreEntry(records.front().place);
         leaveOutLast(records);
-        Statement statement{{}, m_currency, {}};
-        for (auto record = records.begin() + headingLines(); record != records.end(); ++record) {
-            if (std::ranges::all_of(record->cells, isBlank)) // delimiters alone
-                continue;
-            if (isPending(*record))
-                statement.hasPending = true;
-            else
-                statement.entries.push_back(entryOf(*record));
-        }
         if (!text.endsWith(u'\n') && !text.endsWith(u'\r'))
             refuseCutOff(records);
         records.erase(records.begin(), records.begin() + headingLines());
+        std::erase_if(records, [](const CsvRecord &record) { // delimiters alone
+            return std::ranges::all_of(record.cells, isBlank);
+        });
+        Statement statement = statementOf(records);
         if (std::ranges::none_of(statement.entries, &numira::Money::isNegative,
                                  &StatementEntry::amount))
             refuseSigns(records);
@@ -63,9 +53,34 @@ public:
     }
 
 private:
+    [[nodiscard]] Statement statementOf(const std::vector<CsvRecord> &records)
+    {
+        // Some banks end each line with a delimiter, but then they do so throughout.
+        for (const CsvRecord &record : records)
+            m_width = std::min(m_width.value_or(record.cells.size()), record.cells.size());
+        Statement statement{{}, m_currency, {}};
+        std::vector<internal::BalanceStep> steps;
+        for (const CsvRecord &record : records) {
+            requireOneEntry(record);
+            requireWidth(record);
+            internal::BalanceStep step{record.place, {}, balanceOf(record)};
+            if (isPending(record)) {
+                ++statement.pending;
+            } else {
+                statement.entries.push_back(entryOf(record));
+                const numira::Money &amount = statement.entries.back().amount;
+                if (amount.code() == m_currency)
+                    step.amount = amount;
+            }
+            steps.push_back(std::move(step));
+        }
+        internal::requireRunningBalance(std::move(steps), m_profile.isNegated);
+        return statement;
+    }
+
     [[nodiscard]] int headingLines() const { return m_profile.hasHeadings ? 1 : 0; }
 
-    [[nodiscard]] std::vector<CsvRecord> recordsOf(const QString &text, const QString &file) const
+    [[nodiscard]] std::vector<CsvRecord> recordsOf(const QString &text, const QString &file)
     {
         LineCursor lines(text, file);
         qsizetype skipped = 0;
@@ -79,9 +94,9 @@ private:
             skipped = lines.offset();
             ++skippedLines;
         }
+        m_delimiter = m_profile.delimiter.value_or(guessed);
         std::vector<CsvRecord> records =
-            readCsvTable(text.mid(skipped), file, m_profile.delimiter.value_or(guessed),
-                         transactionsMax + headingLines());
+            readCsvTable(text.mid(skipped), file, m_delimiter, transactionsMax + headingLines());
         for (CsvRecord &record : records)
             record.place.line += skippedLines;
         return records;
@@ -92,7 +107,7 @@ private:
     {
         const auto entries = static_cast<int>(records.size()) - headingLines();
         for (int left = std::min(m_profile.skippedLast, entries); left > 0; --left) {
-            if (dayOf(records.back()))
+            if (dayOf(records.back().cells))
                 throw faults::entryLeftOut(records.back().place);
             records.pop_back();
         }
@@ -111,9 +126,9 @@ private:
     /// Amounts without signs, beside a column of signs that was not named, would all come in.
     void refuseSigns(const std::vector<CsvRecord> &records) const
     {
-        if (!m_amount || m_sign || m_profile.isNegated)
+        if (!m_columns.amount || m_columns.sign || m_profile.isNegated)
             return;
-        for (qsizetype column = 0; column < m_headings.size(); ++column) {
+        for (qsizetype column = 0; column < m_columns.headings.size(); ++column) {
             const auto sign = [column](const CsvRecord &record) {
                 return record.cells.value(column).trimmed();
             };
@@ -136,164 +151,103 @@ private:
         }
     }
 
-    void setHeadings(const CsvRecord &first)
-    {
-        for (const QString &cell : first.cells)
-            m_headings +=
-                m_profile.hasHeadings ? cell.trimmed() : QString::number(m_headings.size() + 1);
-        if (m_headings.contains(QStringLiteral("debitAccount")))
-            throw faults::ownTable(first.place);
-        const Place &place = first.place;
-        m_date = need(m_profile.dateColumn, words::date, "--date-column", place);
-        setAmounts(place);
-        m_sign = find(m_profile.signColumn, {}, place);
-        m_id = find(m_profile.idColumn, words::id, place);
-        m_currencyAt = find(m_profile.currencyColumn, words::currency, place);
-        // "Amount in GBP" beside an amount abroad, whose currency that column tells.
-        if (m_profile.currencyColumn.isEmpty() && m_amount &&
-            m_headings[*m_amount].contains(QRegularExpression(
-                QStringLiteral("\\b%1\\b").arg(foundation::toQString(m_currency)))))
-            m_currencyAt = std::nullopt;
-        for (const QString &column : m_profile.textColumns)
-            m_texts.push_back(need(column, {}, "--text-column", place));
-        if (m_texts.empty())
-            m_texts.push_back(need({}, words::text, "--text-column", place));
-        for (const auto &column : {m_amount, m_in, m_out, m_sign, m_currencyAt})
-            m_needed = std::max(m_needed, column.value_or(0) + 1);
-        m_needed = std::max(m_needed, m_date + 1);
-        m_named = m_headings.size();
-        while (m_named > m_needed && m_headings[m_named - 1].isEmpty())
-            --m_named;
-    }
-
-    void setAmounts(const Place &place)
-    {
-        // Who names one of two means the other as well, where it is plain.
-        const bool hasIn = !m_profile.inColumn.isEmpty();
-        const bool hasOut = !m_profile.outColumn.isEmpty();
-        m_in = find(m_profile.inColumn, hasOut ? words::in : QStringList(), place);
-        m_out = find(m_profile.outColumn, hasIn ? words::out : QStringList(), place);
-        if (m_in || m_out) {
-            for (const auto &column : {m_in, m_out})
-                requireOwnCurrency(column ? m_headings[*column] : QString(), place);
-            return;
-        }
-        m_amount = find(m_profile.amountColumn, words::amount, place);
-        if (m_amount) {
-            requireOwnCurrency(m_headings[*m_amount], place);
-            return;
-        }
-        // Half of a pair would leave out what went the other way.
-        m_in = find({}, words::in, place);
-        m_out = find({}, words::out, place);
-        if (!m_in || !m_out)
-            throw faults::columnNotNamed(
-                place, QLatin1String("--amount-column (or --in-column and --out-column)"),
-                m_headings);
-    }
-
-    [[nodiscard]] std::optional<qsizetype> find(const QString &column, const QStringList &headings,
-                                                const Place &place) const
-    {
-        if (column.isEmpty()) {
-            for (const QString &heading : headings) {
-                const auto same = [&heading, this](const QString &present) {
-                    const QString plain = plainHeading(present);
-                    return plain == heading || (plain.startsWith(heading + QStringLiteral(" (")) &&
-                                                namesCurrency(plain.sliced(heading.size() + 2)));
-                };
-                const auto at = std::ranges::find_if(m_headings, same);
-                if (at != m_headings.end())
-                    return at - m_headings.begin();
-            }
-            return std::nullopt;
-        }
-        const qsizetype number = column.toInt(); // 0 when it is none
-        qsizetype at = m_headings.indexOf(column);
-        if (at < 0 && number >= 1 && number <= m_headings.size())
-            at = number - 1;
-        if (at < 0)
-            throw faults::noSuchColumn(place, column, m_headings);
-        return at;
-    }
-    /// A column of "Amount (EUR)" or "Amount in EUR" holds nothing else.
-    void requireOwnCurrency(const QString &heading, const Place &place) const
-    {
-        static const QRegularExpression pattern(
-            QStringLiteral("\\(([^()]+)\\)$|\\bin ([A-Za-z]{3})$"));
-        const auto match = pattern.match(heading);
-        const QString name = match.captured(1) + match.captured(2);
-        const auto named = readCurrency(name.toUpper(), m_currency);
-        if (named && *named != m_currency)
-            throw faults::otherCurrency(place, foundation::toQString(*named),
-                                        foundation::toQString(m_currency));
-    }
-    /// Whether it is the account's currency in brackets, as in "Betrag (EUR)".
-    [[nodiscard]] bool namesCurrency(const QString &rest) const
-    {
-        const auto named = rest.endsWith(u')') ? readCurrency(rest.chopped(1).toUpper(), m_currency)
-                                               : std::nullopt;
-        return named == m_currency;
-    }
-    [[nodiscard]] qsizetype need(const QString &column, const QStringList &headings,
-                                 const char *option, const Place &place) const
-    {
-        const auto found = find(column, headings, place);
-        if (!found)
-            throw faults::columnNotNamed(place, QLatin1String(option), m_headings);
-        return *found;
-    }
-
     [[nodiscard]] bool isPending(const CsvRecord &record) const
     {
-        for (qsizetype column = 0; column < record.cells.size(); ++column) {
-            if (std::ranges::find(m_texts, column) != m_texts.end())
-                continue;
-            for (const QString &word : record.cells[column].simplified().split(u' ')) {
-                if (words::pending.contains(word, Qt::CaseInsensitive))
-                    return true;
-            }
-        }
-        return false;
+        const QStringList said =
+            m_columns.status ? record.cells.value(*m_columns.status).simplified().split(u' ')
+                             : QStringList();
+        return std::ranges::any_of(said, [](const QString &word) {
+            return words::pending.contains(word, Qt::CaseInsensitive);
+        });
     }
 
-    [[nodiscard]] std::optional<QDate> dayOf(const CsvRecord &record) const
+    [[nodiscard]] std::optional<QDate> dayOf(const QStringList &cells) const
     {
-        QString date = record.cells.value(m_date).trimmed();
+        QString date = cells.value(m_columns.date).trimmed();
         // The time of the day stands behind it in some.
         if (!m_profile.dateFormat.text().contains(u' '))
             date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
         return m_profile.dateFormat.read(date);
     }
 
-    [[nodiscard]] StatementEntry entryOf(const CsvRecord &record)
+    /// An entry stands where the headings should, or behind them where its line end is lost.
+    [[nodiscard]] bool hasDay(const QStringList &headings) const
     {
-        if (record.cells.size() < m_needed)
-            throw faults::tooFewCells(record.place, record.cells.size(), m_needed);
-        // Some banks end each line with a delimiter.
-        if (record.cells.size() > m_headings.size() &&
-            !std::all_of(record.cells.begin() + m_headings.size(), record.cells.end(), isBlank))
-            throw faults::tooManyCells(record.place, record.cells.size(), m_headings.size());
+        static const QRegularExpression delimiters(QStringLiteral("[,;|\t\"]"));
+        const QStringList parts = headings.join(u'\t').split(delimiters);
+        return std::ranges::any_of(parts, [this](const QString &part) {
+            return m_profile.dateFormat.read(part.trimmed()).has_value();
+        });
+    }
+
+    /// A quote that is closed too late holds the lines of further entries.
+    void requireOneEntry(const CsvRecord &record) const
+    {
+        Place place = record.place;
+        for (const QString &cell : record.cells) {
+            const QStringList lines = cell.split(u'\n');
+            for (const QString &line : lines.mid(1)) {
+                ++place.line;
+                const QStringList cells = line.split(m_delimiter);
+                if (cells.size() > m_columns.date + 1 && dayOf(cells))
+                    throw faults::entryWithinQuotes(place);
+            }
+        }
+    }
+
+    void requireWidth(const CsvRecord &record) const
+    {
+        const qsizetype size = record.cells.size();
+        const qsizetype headings = m_columns.headings.size();
+        // Cells that are empty may have been pushed out by a part of an amount.
+        const auto isCell = [](const QString &cell) { return !isBlank(cell); };
+        if (size > headings && (size > m_width || std::any_of(record.cells.begin() + headings,
+                                                              record.cells.end(), isCell)))
+            throw faults::tooManyCells(record.place, size, headings);
         // Where the headings end with a delimiter too, an amount that a comma divides has
         // digits behind the last of them.
-        for (qsizetype column = m_named; column < record.cells.size(); ++column) {
+        for (qsizetype column = m_columns.named; column < size; ++column) {
             if (!record.cells[column].isEmpty() && record.cells[column].front().isDigit())
-                throw faults::tooManyCells(record.place, record.cells.size(), m_named);
+                throw faults::tooManyCells(record.place, size, m_columns.named);
         }
+    }
+
+    void requireWholeAmounts(const CsvRecord &record) const
+    {
+        static const QRegularExpression grouped(
+            QStringLiteral("^[^0-9.,]*[0-9]{1,3},[0-9]{3}\\.[0-9]+[^0-9]*$"));
+        static const QRegularExpression parted(
+            QStringLiteral("^[^0-9.,]*[0-9]+,[0-9]{2,3}[^0-9,]*$"));
+        for (const auto &column : {m_columns.amount, m_columns.in, m_columns.out}) {
+            if (!column || m_delimiter != u',' || column.value() + 1 == m_columns.balance)
+                continue;
+            const QString both = record.cells[*column] + u',' + record.cells.value(*column + 1);
+            if (both.contains(grouped) ||
+                (record.cells.size() > m_columns.headings.size() && both.contains(parted)))
+                throw faults::amountDivided(record.place, both);
+        }
+    }
+
+    [[nodiscard]] StatementEntry entryOf(const CsvRecord &record)
+    {
+        if (record.cells.size() < m_columns.needed)
+            throw faults::tooFewCells(record.place, record.cells.size(), m_columns.needed);
+        requireWholeAmounts(record);
         StatementEntry entry{record.place};
-        const auto day = dayOf(record);
+        const auto day = dayOf(record.cells);
         if (!day)
-            throw faults::notInDateFormat(record.place, record.cells[m_date].trimmed(),
+            throw faults::notInDateFormat(record.place, record.cells[m_columns.date].trimmed(),
                                           m_profile.dateFormat.text());
         entry.date = *day;
         entry.amount = amountOf(record);
         QStringList texts;
-        for (const qsizetype column : m_texts)
+        for (const qsizetype column : m_columns.texts)
             texts += record.cells.value(column).simplified();
         texts.removeAll(QString());
         entry.text = texts.join(u' ');
-        if (m_id)
-            entry.bankId = record.cells.value(*m_id).simplified();
+        m_descriptions.add(entry.text, record.place);
+        if (m_columns.id)
+            entry.bankId = record.cells.value(*m_columns.id).simplified();
         return entry;
     }
 
@@ -301,8 +255,8 @@ private:
     {
         const Place &place = record.place;
         numira::Currency currency = m_currency;
-        if (m_currencyAt) {
-            const QString code = record.cells[*m_currencyAt].trimmed();
+        if (m_columns.currency) {
+            const QString code = record.cells[*m_columns.currency].trimmed();
             const auto read = code.isEmpty() || isOwnSign(code)
                                   ? std::optional(m_currency)
                                   : readCurrency(code.toUpper(), m_currency);
@@ -313,29 +267,50 @@ private:
         const auto cell = [&](const std::optional<qsizetype> &column) {
             return column ? record.cells[*column].trimmed() : QString();
         };
-        const auto read = [&](const QString &text) {
-            return statementAmount(withoutCurrency(text, currency), currency, m_profile.decimalMark,
-                                   place);
-        };
+        const auto read = [&](const QString &text) { return moneyOf(text, currency, place); };
         numira::Money amount;
-        if (m_amount) {
-            amount = read(cell(m_amount));
+        if (m_columns.amount) {
+            amount = read(cell(m_columns.amount));
         } else {
-            const numira::Money in =
-                cell(m_in).isEmpty() ? numira::Money(currency) : read(cell(m_in));
-            const numira::Money out = cell(m_out).isEmpty() ? numira::Money(currency)
-                                                            : outgoing(read(cell(m_out)), place);
+            const QString cameIn = cell(m_columns.in);
+            const QString wentOut = cell(m_columns.out);
+            const numira::Money none(currency);
+            const numira::Money in = cameIn.isEmpty() ? none : read(cameIn);
+            const numira::Money out = wentOut.isEmpty() ? none : outgoing(read(wentOut), place);
             if (in.isNegative())
                 throw faults::negativeIn(place);
             if (!in.isZero() && !out.isZero())
                 throw faults::bothWays(place);
-            if (cell(m_in).isEmpty() && cell(m_out).isEmpty())
+            if (cameIn.isEmpty() && wentOut.isEmpty())
                 throw faults::missingValue(place, QObject::tr("amount"));
             amount = out.isZero() ? in : -out;
         }
-        if (m_sign && isOut(cell(m_sign), place))
+        if (m_columns.sign && isOut(cell(m_columns.sign), place))
             amount = -amount.abs();
         return m_profile.isNegated ? -amount : amount;
+    }
+
+    [[nodiscard]] numira::Money moneyOf(const QString &text, const numira::Currency &currency,
+                                        const Place &place) const
+    {
+        return statementAmount(withoutCurrency(text, currency), currency, m_profile.decimalMark,
+                               place);
+    }
+
+    /// Nothing where none is told, or no number stands in a column that nobody named.
+    [[nodiscard]] std::optional<numira::Money> balanceOf(const CsvRecord &record) const
+    {
+        const QString text =
+            m_columns.balance ? record.cells.value(*m_columns.balance).trimmed() : QString();
+        if (text.isEmpty())
+            return std::nullopt;
+        try {
+            return moneyOf(text, m_currency, record.place);
+        } catch (const ImportError &) {
+            if (!m_profile.balanceColumn.isEmpty())
+                throw;
+            return std::nullopt;
+        }
     }
 
     /// By the signs that were named, or by the common ones.
@@ -383,25 +358,23 @@ private:
             else
                 names += sign;
         }
-        for (const QString &name : names)
-            text.remove(name);
+        static const QRegularExpression digit(QStringLiteral("[0-9]"));
+        for (const QString &name : names) {
+            const qsizetype at = text.indexOf(name);
+            if (at >= 0 &&
+                (!text.left(at).contains(digit) || !text.mid(at + name.size()).contains(digit)))
+                text.remove(at, name.size());
+        }
         return text.trimmed();
     }
 
     const CsvProfile &m_profile;
     numira::Currency m_currency;
-    QStringList m_headings;
-    qsizetype m_date = 0;
-    qsizetype m_needed = 1;
-    qsizetype m_named = 0; ///< up to the last column with a heading
-    std::optional<qsizetype> m_amount;
-    std::optional<qsizetype> m_in;
-    std::optional<qsizetype> m_out;
-    std::optional<qsizetype> m_sign;
-    std::optional<qsizetype> m_id;
-    std::optional<qsizetype> m_currencyAt;
+    QChar m_delimiter;
+    internal::CsvColumns m_columns;
+    internal::DescriptionCount m_descriptions;
+    std::optional<qsizetype> m_width; ///< of the shortest entry
     std::optional<bool> m_isOutNegative;
-    std::vector<qsizetype> m_texts;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "interchange/csv_table.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/limits.h"
 
 #include "interchange/draft.h"
 
@@ -30,6 +31,10 @@ public:
                 if (record.cells.size() >= cellsMax)
                     throw faults::tooManyCells(record.place, cellsMax);
                 record.cells += m_at < m_text.size() && m_text[m_at] == u'"' ? quoted() : plain();
+                m_characters += std::max(record.cells.back().size(), limits::cellTextMin);
+                if (m_characters > limits::tableTextMax)
+                    throw faults::tableTooLarge(record.place, limits::tableTextMax,
+                                                limits::cellTextMin);
             } while (takeDelimiter());
             takeLineEnd();
             if (record.cells != QStringList{QString()})
@@ -46,11 +51,18 @@ private:
         return m_at >= m_text.size() || m_text[m_at] == u'\n' || m_text[m_at] == u'\r';
     }
 
+    static void requireShort(qsizetype characters, const Place &place)
+    {
+        if (characters > lineMax)
+            throw faults::textTooLong(place, lineMax);
+    }
+
     QString plain()
     {
         const qsizetype begin = m_at;
         while (!isAtEnd() && m_text[m_at] != m_delimiter)
             ++m_at;
+        requireShort(m_at - begin, {m_file, m_line});
         return m_text.mid(begin, m_at - begin);
     }
 
@@ -69,6 +81,7 @@ private:
                 ++m_line;
             }
             cell += m_text[m_at];
+            requireShort(cell.size(), opened);
         }
         if (!isClosed)
             throw faults::quoteNotClosed(opened);
@@ -100,6 +113,7 @@ private:
     qsizetype m_recordsMax;
     qsizetype m_at = 0;
     qsizetype m_line = 1;
+    qsizetype m_characters = 0;
 };
 
 } // namespace

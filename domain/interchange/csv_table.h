@@ -20,7 +20,8 @@ struct CsvRecord {
 /// cell that began without one stands for itself. Empty lines are passed over.
 ///
 /// Throws ImportError for a quote that is not closed, for text behind a closing
-/// one, and for more records than `recordsMax`, the most that may be.
+/// one, for more records than `recordsMax`, the most that may be, and for longer
+/// cells and larger tables than there are of as many entries.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<CsvRecord>
 readCsvTable(const QString &text, const QString &file, QChar delimiter, qsizetype recordsMax);
 

@@ -299,6 +299,13 @@ ImportError tooManyCells(const Place &place, qsizetype most)
     return {place, QObject::tr("The record has more than %1 cells.").arg(most)};
 }
 
+ImportError tableTooLarge(const Place &place, qsizetype charactersMax, qsizetype cellMin)
+{
+    return {place, QObject::tr("The table has more than %1 characters up to here, of which each "
+                               "cell counts as %2 at least; make several files of it.")
+                       .arg(QString::number(charactersMax), QString::number(cellMin))};
+}
+
 ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted)
 {
     return {place, QObject::tr("The record has only %1 of the %2 cells that are needed.")
@@ -310,6 +317,40 @@ ImportError tooManyCells(const Place &place, qsizetype present, qsizetype named)
     return {place, QObject::tr("The record has %1 cells where there are %2 headings; a cell that "
                                "holds the delimiter needs quotes around it.")
                        .arg(QString::number(present), QString::number(named))};
+}
+
+ImportError amountDivided(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("'%1' stands in two cells and may be one amount; an amount that "
+                               "holds the delimiter needs quotes around it.")
+                       .arg(quoted(text))};
+}
+
+ImportError columnsAlike(const Place &place, const QStringList &columns, const QString &heading,
+                         const QString &option)
+{
+    return {place, QObject::tr("The columns %1 are all called '%2'; choose one by its number "
+                               "with %3.")
+                       .arg(columns.join(QStringLiteral(", ")), quoted(heading), option)};
+}
+
+ImportError headingsAreEntry(const Place &place)
+{
+    return {place, QObject::tr("The line of the headings holds an entry; say --no-headings where "
+                               "there are none.")};
+}
+
+ImportError entryWithinQuotes(const Place &place)
+{
+    return {place, QObject::tr("This entry stands within quotes that begin on a line above it; "
+                               "close them there.")};
+}
+
+ImportError balanceDiffers(const Place &place, const QString &expected, const QString &found)
+{
+    return {place, QObject::tr("With the amounts of the entries the balance is %1 here, but the "
+                               "file says %2; --balance-column - leaves it unchecked.")
+                       .arg(expected, found)};
 }
 
 ImportError emptyTable(const Place &place)
@@ -449,6 +490,35 @@ ImportError notQif(const Place &place)
 ImportError unknownField(const Place &place, const QString &text)
 {
     return {place, QObject::tr("'%1' is no field of a bank statement.").arg(quoted(text))};
+}
+
+ImportError entryOutside(const Place &place)
+{
+    return {place, QObject::tr("An entry stands here outside of the list of a statement.")};
+}
+
+ImportError outsideDocument(const Place &place)
+{
+    return {place, QObject::tr("Here is more than what stands between <OFX> and </OFX>; make a "
+                               "file of each document.")};
+}
+
+ImportError repeatedTag(const Place &place, const QString &tag)
+{
+    return {place, QObject::tr("<%1> is there a second time.").arg(quoted(tag))};
+}
+
+ImportError repeatedField(const Place &place, const QString &text)
+{
+    return {place, QObject::tr("With '%1' the entry has two lines of a kind; a line ^ may be "
+                               "missing above.")
+                       .arg(quoted(text))};
+}
+
+ImportError amountsDiffer(const Place &place, const QString &one, const QString &other)
+{
+    return {place,
+            QObject::tr("The entry has two amounts, %1 and %2.").arg(quoted(one), quoted(other))};
 }
 
 ImportError severalAccounts(const Place &place)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/ofx_reader.h"
 
-#include "interchange/internal/faults.h"
+#include "interchange/internal/description_count.h"
 
 #include "interchange/draft.h"
 #include "interchange/internal/ofx_tree.h"
@@ -12,6 +12,8 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
+
+#include <set>
 
 namespace kiv::interchange {
 
@@ -33,23 +35,102 @@ QString encodingOf(const QByteArray &bytes)
     if (unicode.match(header).hasMatch() || !match.hasMatch())
         return utf8Name;
     const QString name = match.captured(1) + match.captured(2);
+    // Headers are often copied from another file. What is valid in UTF-8 and not ASCII
+    // would be a row of odd letters in an encoding of one byte a letter.
+    static const QRegularExpression oneByte(QStringLiteral("^(1252|windows-125.|iso-8859-.+)$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    if (oneByte.match(name).hasMatch() && QUtf8StringView(bytes).isValidUtf8())
+        return utf8Name;
     return name == u"1252" ? QStringLiteral("windows-1252") : name;
+}
+
+bool isStatement(const OfxElement &element)
+{
+    return element.tag == u"STMTRS" || element.tag == u"CCSTMTRS" || element.tag == u"INVSTMTRS";
 }
 
 void findStatements(const OfxElement &element, std::vector<const OfxElement *> &statements)
 {
-    if (element.tag == u"STMTRS" || element.tag == u"CCSTMTRS")
+    if (isStatement(element))
         statements.push_back(&element);
     for (const OfxElement &child : element.children)
         findStatements(child, statements);
 }
 
+/// Entries stand in the lists of statements alone, and have each value once. Who writes
+/// them otherwise means something that would be lost.
+void requireEntriesInLists(const OfxElement &element, bool isWithin = false, bool isList = false)
+{
+    std::set<QString> values;
+    for (const OfxElement &child : element.children) {
+        const bool isStray = child.tag == u"STMTTRN" ? !isList
+                                                     : isWithin && child.tag == u"TRNAMT" &&
+                                                           !element.tag.startsWith(u"STMTTRN");
+        if (isStray)
+            throw faults::entryOutside(child.place);
+        if (isWithin && child.children.empty() && !values.insert(child.tag).second)
+            throw faults::repeatedTag(child.place, child.tag);
+        if (child.tag != u"INVSTMTRS") // they have lists of their own
+            requireEntriesInLists(child, isWithin || isStatement(child),
+                                  isStatement(element) && child.tag == u"BANKTRANLIST");
+    }
+}
+
+const OfxElement *accountElement(const OfxElement &statement)
+{
+    for (const char *tag : {"BANKACCTFROM", "CCACCTFROM", "INVACCTFROM"}) {
+        if (const OfxElement *found = statement.child(tag))
+            return found;
+    }
+    return nullptr;
+}
+
 QString accountOf(const OfxElement &statement)
 {
-    const OfxElement *from = statement.child("BANKACCTFROM");
-    if (!from)
-        from = statement.child("CCACCTFROM");
+    const OfxElement *from = accountElement(statement);
     return from ? from->text("ACCTID") : QString();
+}
+
+/// Accounts of several kinds, or at several banks, may have the same number.
+bool isSameAccount(const OfxElement &one, const OfxElement &other)
+{
+    const auto identity = [](const OfxElement &statement) {
+        QStringList parts{statement.tag, statement.text("CURDEF")};
+        if (const OfxElement *from = accountElement(statement)) {
+            for (const char *tag : {"BANKID", "BRANCHID", "ACCTID", "ACCTTYPE"})
+                parts += from->text(tag);
+        }
+        return parts;
+    };
+    return identity(one) == identity(other);
+}
+
+/// All statements of the account that is named, or of the only one.
+std::vector<const OfxElement *> chosenStatements(const OfxElement &document, const QString &account,
+                                                 const QString &file)
+{
+    std::vector<const OfxElement *> statements;
+    findStatements(document, statements);
+    if (statements.empty())
+        throw faults::noStatement({file, 0});
+    QStringList accounts;
+    for (const OfxElement *statement : statements)
+        accounts += accountOf(*statement);
+    accounts.removeDuplicates();
+    if (account.isEmpty() && accounts.size() > 1)
+        throw faults::severalStatements(statements[1]->place, accounts);
+    if (!account.isEmpty() && !accounts.contains(account))
+        throw faults::noSuchStatement({file, 0}, account, accounts);
+    std::erase_if(statements, [&account](const OfxElement *statement) {
+        return !account.isEmpty() && accountOf(*statement) != account;
+    });
+    for (const OfxElement *statement : statements) {
+        if (statement->tag == u"INVSTMTRS")
+            throw faults::unsupported(statement->place, statement->tag);
+        if (!isSameAccount(*statements.front(), *statement))
+            throw faults::severalAccounts(statement->place);
+    }
+    return statements;
 }
 
 numira::Currency currencyOf(const QString &code, const Place &place)
@@ -121,28 +202,22 @@ Statement readOfx(const QByteArray &bytes, const QString &file, const QString &a
 {
     const OfxElement document = internal::readOfxTree(
         decoded(bytes, file, encoding.isEmpty() ? encodingOf(bytes) : encoding), file);
-    std::vector<const OfxElement *> statements;
-    findStatements(document, statements);
-    if (statements.empty())
-        throw faults::noStatement({file, 0});
-    QStringList accounts;
-    for (const OfxElement *statement : statements)
-        accounts += accountOf(*statement);
-    if (account.isEmpty() && statements.size() > 1)
-        throw faults::severalStatements(statements[1]->place, accounts);
-    const qsizetype chosen = account.isEmpty() ? 0 : accounts.indexOf(account);
-    if (chosen < 0)
-        throw faults::noSuchStatement({file, 0}, account, accounts);
-
-    const OfxElement &found = *statements[static_cast<std::size_t>(chosen)];
-    Statement statement{accounts[chosen], currencyOf(found.text("CURDEF"), found.place), {}};
-    if (const OfxElement *list = found.child("BANKTRANLIST")) {
-        for (const OfxElement &transaction : list->children) {
-            if (transaction.tag != u"STMTTRN")
-                continue;
-            if (static_cast<qsizetype>(statement.entries.size()) >= transactionsMax)
-                throw faults::tooManyTransactions(transaction.place, transactionsMax);
-            statement.entries.push_back(entryOf(transaction, statement.currency));
+    requireEntriesInLists(document);
+    const std::vector<const OfxElement *> statements = chosenStatements(document, account, file);
+    const OfxElement &first = *statements.front();
+    internal::DescriptionCount descriptions;
+    Statement statement{accountOf(first), currencyOf(first.text("CURDEF"), first.place), {}};
+    for (const OfxElement *found : statements) {
+        for (const OfxElement &list : found->children) {
+            for (const OfxElement &transaction : list.children) {
+                statement.pending += transaction.tag == u"STMTTRNP" ? 1 : 0;
+                if (transaction.tag != u"STMTTRN")
+                    continue;
+                if (static_cast<qsizetype>(statement.entries.size()) >= transactionsMax)
+                    throw faults::tooManyTransactions(transaction.place, transactionsMax);
+                statement.entries.push_back(entryOf(transaction, statement.currency));
+                descriptions.add(statement.entries.back().text, transaction.place);
+            }
         }
     }
     return statement;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/qif_reader.h"
 
-#include "interchange/internal/faults.h"
+#include "interchange/internal/description_count.h"
 
 #include "interchange/draft.h"
 #include "interchange/text_decoding.h"
@@ -10,6 +10,7 @@
 #include "numira/error.h"
 
 #include <QtCore/QObject>
+#include <QtCore/QRegularExpression>
 
 namespace kiv::interchange {
 
@@ -27,12 +28,13 @@ struct Record {
     Place place;
     QString date = {};
     QString amount = {};
+    QString sameAmount = {}; ///< as some write it a second time
     QString payee = {};
     QString memo = {};
     QString number = {};
     QString category = {};
     std::vector<Part> parts = {};
-    bool hasFields = false;
+    QString fields = {}; ///< the letters of those that it has, or its last part has
 };
 
 /// "1/31'26" is how some write 1/31/2026.
@@ -63,9 +65,11 @@ public:
                 m_named = line.mid(1).trimmed();
             else if (!line.isEmpty() && m_section == Section::Transactions)
                 takeField(line.front(), line.mid(1).trimmed());
+            else if (isAmount(line))
+                throw faults::entryOutside(m_lines.place());
         }
         // The last mark may be missing, but what ends within a line was cut off there.
-        if (m_record.hasFields && m_endsWithinLine)
+        if (!m_record.fields.isEmpty() && m_endsWithinLine)
             throw faults::entryCutOff(m_lines.place());
         finish();
         if (m_section == Section::None)
@@ -78,17 +82,26 @@ public:
 private:
     enum class Section { None, Transactions, Skipped };
 
+    /// In lists of accounts and categories stand words there, or nothing.
+    static bool isAmount(const QString &line)
+    {
+        static const QRegularExpression pattern(QStringLiteral("^[TU]\\s*[-+(]?[.,0-9]"));
+        return pattern.match(line).hasMatch();
+    }
+
     void enter(const QString &header)
     {
-        finish();
         const QString kind = header.mid(1).toLower().simplified();
+        // How lists are to be taken over; what stands around goes on.
+        if (kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
+            return;
+        finish();
         if (QStringList{QStringLiteral("type:bank"), QStringLiteral("type:ccard"),
                         QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
                         QStringLiteral("type:oth l")}
                 .contains(kind))
             enterAccount(kind);
-        else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class" ||
-                 kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
+        else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class")
             m_section = Section::Skipped;
         else
             throw faults::unsupported(m_lines.place(), header);
@@ -108,9 +121,13 @@ private:
     void takeField(QChar field, const QString &value)
     {
         Record &record = m_record;
-        if (!record.hasFields)
+        if (record.fields.isEmpty())
             record.place = m_lines.place();
-        record.hasFields = true;
+        // Two of a kind are two entries without a mark between them.
+        if (!record.fields.contains(field))
+            record.fields += field;
+        else if (QStringLiteral("DTUPMNLE$").contains(field))
+            throw faults::repeatedField(m_lines.place(), field + value);
         const auto part = [&]() -> Part & {
             if (record.parts.empty())
                 throw faults::unknownField(m_lines.place(), field + value);
@@ -121,8 +138,10 @@ private:
             record.date = value;
             break;
         case u'T':
-        case u'U':
             record.amount = value;
+            break;
+        case u'U':
+            record.sameAmount = value;
             break;
         case u'P':
             record.payee = value;
@@ -140,6 +159,7 @@ private:
             if (!record.parts.empty()) // the first one is the record's
                 countEntry();
             record.parts.push_back({value, {}, {}, m_lines.place()});
+            record.fields.remove(u'E').remove(u'$');
             break;
         case u'E':
             part().memo = value;
@@ -159,7 +179,7 @@ private:
 
     void finish()
     {
-        if (!m_record.hasFields)
+        if (m_record.fields.isEmpty())
             return;
         countEntry();
         m_records.push_back(std::exchange(m_record, {}));
@@ -215,7 +235,7 @@ public:
     {
     }
 
-    void add(const Record &record, std::vector<StatementEntry> &entries) const
+    void add(const Record &record, std::vector<StatementEntry> &entries)
     {
         StatementEntry entry{record.place};
         const auto day = m_format.read(plainDate(record.date));
@@ -223,11 +243,9 @@ public:
             throw faults::missingValue(record.place, QObject::tr("date"));
         if (!day)
             throw faults::notInDateFormat(record.place, record.date, m_format.text());
-        if (record.amount.isEmpty())
-            throw faults::missingValue(record.place, QObject::tr("amount"));
         entry.date = *day;
-        entry.amount = amountOf(record.amount, record.place);
-        entry.text = joined({record.number, record.payee, record.memo});
+        entry.amount = amountOf(record);
+        entry.text = joined({record.number, record.payee, record.memo}, record.place);
         setCategory(entry, record.category);
         if (record.parts.empty()) {
             entries.push_back(std::move(entry));
@@ -238,8 +256,8 @@ public:
             StatementEntry piece = entry;
             piece.place = part.place;
             piece.amount = amountOf(part.amount, part.place);
-            piece.text = joined(
-                {record.number, record.payee, part.memo.isEmpty() ? record.memo : part.memo});
+            if (!part.memo.isEmpty())
+                piece.text = joined({record.number, record.payee, part.memo}, part.place);
             setCategory(piece, part.category);
             sum += piece.amount;
             entries.push_back(std::move(piece));
@@ -254,10 +272,24 @@ private:
     {
         return statementAmount(text, m_options.currency, m_options.decimalMark, place);
     }
-    static QString joined(QStringList texts)
+    /// Most write it twice, some with more digits.
+    [[nodiscard]] numira::Money amountOf(const Record &record) const
+    {
+        if (record.amount.isEmpty() && record.sameAmount.isEmpty())
+            throw faults::missingValue(record.place, QObject::tr("amount"));
+        const QString &text = record.amount.isEmpty() ? record.sameAmount : record.amount;
+        const numira::Money amount = amountOf(text, record.place);
+        if (!record.sameAmount.isEmpty() && amountOf(record.sameAmount, record.place) != amount)
+            throw faults::amountsDiffer(record.place, record.amount, record.sameAmount);
+        return amount;
+    }
+    /// Each part of a split repeats what the whole says.
+    QString joined(QStringList texts, const Place &place)
     {
         texts.removeAll(QString());
-        return texts.join(u' ').simplified();
+        QString text = texts.join(u' ').simplified();
+        m_descriptions.add(text, place);
+        return text;
     }
     /// "[Savings]" is an account, "Food" a category; either may have a class: "Food/Trip".
     static void setCategory(StatementEntry &entry, const QString &text)
@@ -271,6 +303,7 @@ private:
 
     const QifOptions &m_options;
     DateFormat m_format;
+    internal::DescriptionCount m_descriptions;
 };
 
 } // namespace
@@ -279,8 +312,8 @@ Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions
 {
     const QString text = decoded(bytes, file, options.encoding);
     const std::vector<Record> records = QifReader(text, file).read();
-    const EntryMaker maker(options,
-                           options.dateFormat ? *options.dateFormat : formatOf(records, {file, 0}));
+    EntryMaker maker(options,
+                     options.dateFormat ? *options.dateFormat : formatOf(records, {file, 0}));
     Statement statement{{}, options.currency, {}};
     for (const Record &record : records) {
         try {

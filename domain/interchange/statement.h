@@ -32,7 +32,7 @@ struct Statement {
     QString account;                     ///< the bank's number of it, where the file tells it
     numira::Currency currency;           ///< of the account
     std::vector<StatementEntry> entries; ///< in the order of the file
-    bool hasPending = false;             ///< some were left out that are not booked yet
+    qsizetype pending = 0;               ///< how many were left out that are not booked yet
 };
 
 } // namespace kiv::interchange

@@ -130,7 +130,7 @@ StatementPlan planStatement(Statement statement, const StatementBooks &books,
 {
     forgetSharedIds(statement.entries);
     Planner planner(books, choices);
-    if (statement.hasPending)
+    if (statement.pending > 0)
         planner.m_plan.notices.push_back(
             {Kinds::Pending, {}, QObject::tr("Entries that are not booked yet are left out.")});
     for (StatementEntry &entry : statement.entries)

@@ -9,8 +9,6 @@ namespace kiv::interchange {
 
 namespace {
 
-constexpr qsizetype lineMax = qsizetype{64} * 1024;
-
 struct Converter {
     explicit Converter(const QString &name)
     {

@@ -19,6 +19,9 @@ inline const QString utf8Name = QStringLiteral("UTF-8");
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString decoded(const QByteArray &bytes, const QString &file,
                                                      const QString &encoding = utf8Name);
 
+/// No line of a file, and no text of an entry, has more characters.
+inline constexpr qsizetype lineMax = qsizetype{64} * 1024;
+
 /// Goes through a text line by line, without the line ends (LF, CR LF or CR).
 class KIV_INTERCHANGE_EXPORT LineCursor {
 public:

@@ -26,7 +26,7 @@ QString linesOf(Statement statement)
 {
     forgetSharedIds(statement.entries);
     QStringList lines{(toQString(statement.currency) + u' ' + statement.account).trimmed()};
-    if (statement.hasPending)
+    if (statement.pending > 0)
         lines.front() += u", without what is pending"_s;
     for (const StatementEntry &entry : statement.entries)
         lines += QString::number(entry.place.line) + u": "_s + entry.date.toString(Qt::ISODate) +
@@ -35,24 +35,65 @@ QString linesOf(Statement statement)
     return lines.join(u'\n');
 }
 
+/// How many entries the text has by its looks alone: by tags, by the lines that begin an
+/// entry or another part of it, or by lines with a day.
+qsizetype entriesIn(const QString &form, const QString &text)
+{
+    static const QRegularExpression tag(u"<STMTTRNP?>"_s,
+                                        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression day(
+        u"(^|[,;|\\t\"])\\s*(\\d{4}-\\d\\d-\\d\\d|\\d\\d?([./ ])\\d\\d?\\3\\d\\d)"_s);
+    static const QRegularExpression lineEnd(u"[\r\n]+"_s);
+    if (form == u"ofx")
+        return text.count(tag);
+    qsizetype entries = 0;
+    qsizetype parts = 0;
+    for (const QString &line : text.split(lineEnd)) {
+        if (form == u"csv") {
+            entries += line.contains(day) ? 1 : 0;
+        } else if (line.startsWith(u'D') || (line.startsWith(u'S') && ++parts > 1)) {
+            ++entries;
+        } else if (line.startsWith(u'^')) {
+            parts = 0;
+        }
+    }
+    return entries;
+}
+
+/// The statement, when each entry of its text was read or is told to be left out.
+Statement whole(const QString &form, const QByteArray &bytes, Statement statement)
+{
+    const qsizetype read = qsizetype(statement.entries.size()) + statement.pending;
+    const qsizetype shown = entriesIn(form, QString::fromLatin1(bytes));
+    if (read != shown)
+        throw std::runtime_error(
+            u"%1 of %2 entries were read of:\n%3"_s
+                .arg(QString::number(read), QString::number(shown), QString::fromUtf8(bytes))
+                .toStdString());
+    return statement;
+}
+
 /// All that a file like the case's comes to.
 QString contentOf(const Case &given, const QByteArray &bytes)
 {
     const numira::Currency eur = numira::toCurrency("EUR");
     if (given.file == u"ofx")
-        return linesOf(readOfx(bytes, u"f"_s, given.option("statement"), given.option("encoding")));
+        return linesOf(
+            whole(u"ofx"_s, bytes,
+                  readOfx(bytes, u"f"_s, given.option("statement"), given.option("encoding"))));
     if (given.file == u"qif") {
         QifOptions options{{}, given.mark(), eur, given.option("encoding", utf8Name)};
         if (const QString format = given.option("date-format"); !format.isEmpty())
             options.dateFormat = DateFormat(format, {});
-        return linesOf(readQif(bytes, u"f"_s, options));
+        return linesOf(whole(u"qif"_s, bytes, readQif(bytes, u"f"_s, options)));
     }
     if (given.file == u"profile") // also what was saved is read
         return QString::fromUtf8(toJson(readProfile(toJson(readProfile(bytes, u"p"_s)), u"s"_s)));
     const QByteArray profile = given.option("profile", u"{}"_s).toUtf8();
-    return linesOf(
+    return linesOf(whole(
+        u"csv"_s, bytes,
         readCsvStatement(bytes, u"f"_s, readProfile(profile, u"p"_s),
-                         numira::toCurrency(given.option("currency", u"EUR"_s).toStdString())));
+                         numira::toCurrency(given.option("currency", u"EUR"_s).toStdString()))));
 }
 
 /// What is made of a value that the case's file is about.

@@ -149,6 +149,17 @@ A file that was cut off is not half a file:
   kiv: 'cut.csv', line 3: The file ends within its last line; fetch it again, or end it with a line end.
   [1]
 
+A profile is saved with the budget, or not at all:
+
+  $ (trap '' XFSZ; ulimit -f 1; LLVM_PROFILE_FILE=/dev/null command kiv import s.csv \
+  >     --into Checking --against Other --profile rules --date-format DD.MM.YYYY --decimal , \
+  >     --keep-duplicates --save-profile unsaved)
+  kiv: The file 'household.budget' could not be saved: File too large.
+  [1]
+  $ ls config/kiv/import
+  mine.json
+  rules.json
+
 Where a profile cannot be saved, nothing is posted:
 
   $ kiv import s.csv --into Checking --profile yours
@@ -219,6 +230,18 @@ So are options that do not fit:
   [2]
   $ kiv import s.csv --into 1 --skip -1
   kiv: '-1' is not a whole number from 0 to 1000.
+  [2]
+  $ kiv import s.csv --into 1 --skip 1001
+  kiv: '1001' is not a whole number from 0 to 1000.
+  [2]
+  $ kiv import s.ofx --into 1 --decimal ,
+  kiv: --decimal and --format ofx exclude each other.
+  [2]
+  $ kiv import s.qif --into 1 --no-headings
+  kiv: --no-headings and --format qif exclude each other.
+  [2]
+  $ echo | kiv import - --format journal --save-profile mine
+  kiv: --save-profile and --format journal exclude each other.
   [2]
 
 Every way to read a statement. What it is shows in its beginning, and the other side in its

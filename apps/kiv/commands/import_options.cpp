@@ -94,6 +94,9 @@ void ImportOptions::declare(Arguments &arguments)
         .several("--commodity", m_commodities,
                  QObject::tr("Which currency a name means, like Fr=CHF (journal)"))
         .optional("--statement", m_statement, QObject::tr("The bank's number of the account (ofx)"))
+        .optional("--into", into, QObject::tr("The account that a bank statement is about"))
+        .optional("--against", against,
+                  QObject::tr("The other account of entries that no rule knows"))
         .optional("--profile", profile, QObject::tr("Read the file as this saved profile says"))
         .optional("--save-profile", savedAs,
                   QObject::tr("Save how the file was read under this name"))
@@ -109,6 +112,10 @@ void ImportOptions::declare(Arguments &arguments)
         .optional("--id-column", m_id, QObject::tr("The column of the bank's identifier (csv)"))
         .optional("--currency-column", m_currencyColumn,
                   QObject::tr("The column of the currency (csv)"))
+        .optional("--status-column", m_status,
+                  QObject::tr("The column that tells what is not booked yet (csv)"))
+        .optional("--balance-column", m_balance,
+                  QObject::tr("The column of the balance; - to leave it unchecked (csv)"))
         .optional("--delimiter", m_delimiter,
                   QObject::tr("What stands between cells; guessed otherwise (csv)"))
         .optional("--skip", m_skip, QObject::tr("How many lines stand above the headings (csv)"))
@@ -120,6 +127,60 @@ void ImportOptions::declare(Arguments &arguments)
 }
 
 ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
+{
+    const ImportFormat form = guessedFormat(bytes);
+    refuseUnused(form);
+    return form;
+}
+
+/// What has no effect is often a mistake in what the file is.
+void ImportOptions::refuseUnused(ImportFormat form) const
+{
+    using enum ImportFormat;
+    static const std::map<ImportFormat, QString> names{{Journal, QStringLiteral("journal")},
+                                                       {Csv, QStringLiteral("csv")},
+                                                       {Ofx, QStringLiteral("ofx")},
+                                                       {Qif, QStringLiteral("qif")}};
+    struct Use {
+        const char *option;
+        bool isGiven;
+        std::set<ImportFormat> by;
+    };
+    const std::set<ImportFormat> statements{Csv, Ofx, Qif};
+    for (const auto &[option, isGiven, by] :
+         {Use{"--decimal", m_decimal.has_value(), {Journal, Csv, Qif}},
+          Use{"--date-format", m_dateFormat.has_value(), {Csv, Qif}},
+          Use{"--currency", m_currency.has_value(), {Journal}},
+          Use{"--root", !m_roots.empty(), {Journal}},
+          Use{"--commodity", !m_commodities.empty(), {Journal}},
+          Use{"--statement", !m_statement.isEmpty(), {Ofx}},
+          Use{"--into", into.has_value(), statements},
+          Use{"--against", against.has_value(), statements},
+          Use{"--profile", profile.has_value(), statements},
+          Use{"--save-profile", savedAs.has_value(), statements},
+          Use{"--date-column", m_date.has_value(), {Csv}},
+          Use{"--amount-column", m_amount.has_value(), {Csv}},
+          Use{"--in-column", m_in.has_value(), {Csv}},
+          Use{"--out-column", m_out.has_value(), {Csv}},
+          Use{"--sign-column", m_sign.has_value(), {Csv}},
+          Use{"--negative", !m_negative.empty(), {Csv}},
+          Use{"--text-column", !m_texts.empty(), {Csv}},
+          Use{"--id-column", m_id.has_value(), {Csv}},
+          Use{"--currency-column", m_currencyColumn.has_value(), {Csv}},
+          Use{"--status-column", m_status.has_value(), {Csv}},
+          Use{"--balance-column", m_balance.has_value(), {Csv}},
+          Use{"--delimiter", m_delimiter.has_value(), {Csv}},
+          Use{"--skip", m_skip.has_value(), {Csv}},
+          Use{"--skip-last", m_skipLast.has_value(), {Csv}},
+          Use{"--no-headings", m_hasNoHeadings, {Csv}},
+          Use{"--negate", m_isNegated, {Csv}}}) {
+        if (isGiven && !by.contains(form))
+            throw contradiction(QLatin1String(option),
+                                QStringLiteral("--format %1").arg(names.at(form)));
+    }
+}
+
+ImportFormat ImportOptions::guessedFormat(const QByteArray &bytes) const
 {
     static const std::map<QString, ImportFormat> names{
         {QStringLiteral("journal"), ImportFormat::Journal},
@@ -181,6 +242,8 @@ CsvProfile ImportOptions::readProfile() const
                                         {m_sign, &read.signColumn},
                                         {m_id, &read.idColumn},
                                         {m_currencyColumn, &read.currencyColumn},
+                                        {m_status, &read.statusColumn},
+                                        {m_balance, &read.balanceColumn},
                                         {m_encoding, &read.encoding}}) {
         if (given)
             *column = *given;
@@ -205,8 +268,8 @@ CsvProfile ImportOptions::readProfile() const
             return;
         bool isNumber = false;
         count = text->toInt(&isNumber);
-        if (!isNumber || count < 0)
-            throw workbench::notANumber(*text, 0, 1000);
+        if (!isNumber || count < 0 || count > CsvProfile::skippedMax)
+            throw workbench::notANumber(*text, 0, CsvProfile::skippedMax);
     };
     readCount(m_skip, read.skippedLines);
     readCount(m_skipLast, read.skippedLast);
@@ -215,20 +278,25 @@ CsvProfile ImportOptions::readProfile() const
     return read;
 }
 
-void ImportOptions::saveProfile(const CsvProfile &saved) const
+std::function<void()> ImportOptions::storedProfile(const CsvProfile &saved) const
 {
     if (!savedAs)
-        return;
+        return {};
     const QString path = profilePath(*savedAs);
     std::error_code failure;
     std::filesystem::create_directories(QFileInfo(path).filesystemFilePath().parent_path(),
                                         failure);
     if (failure)
         throw cannotWrite(path, QString::fromStdString(failure.message()));
-    QSaveFile target(path);
-    if (!target.open(QIODevice::WriteOnly) || target.write(interchange::toJson(saved)) < 0 ||
-        !target.commit())
-        throw cannotWrite(path, target.errorString());
+    // The new file lies beside the old one, and goes away with this unless it is committed.
+    const auto target = std::make_shared<QSaveFile>(path);
+    if (!target->open(QIODevice::WriteOnly) || target->write(interchange::toJson(saved)) < 0 ||
+        !target->flush())
+        throw cannotWrite(path, target->errorString());
+    return [target, path] {
+        if (!target->commit())
+            throw cannotWrite(path, target->errorString());
+    };
 }
 
 interchange::JournalOptions ImportOptions::journal(const numira::Currency &preferred) const

@@ -15,19 +15,23 @@ enum class ImportFormat { Journal, Csv, Ofx, Qif };
 struct ImportOptions {
     QString file;
     QString format;
+    std::optional<QString> into;
+    std::optional<QString> against;
     std::optional<QString> profile;
     std::optional<QString> savedAs;
 
     void declare(Arguments &arguments);
 
     /// The one that is named, or else the one that the file's name or its first
-    /// bytes show. Throws a UsageError when neither does.
+    /// bytes show. Throws a UsageError when neither does, and for options that such a
+    /// file does not need.
     [[nodiscard]] ImportFormat formatOf(const QByteArray &bytes) const;
     /// The saved profile, if one is named, with what is given on the command
     /// line in its place.
     [[nodiscard]] interchange::CsvProfile readProfile() const;
-    /// Stores the profile when a name for it is given.
-    void saveProfile(const interchange::CsvProfile &profile) const;
+    /// Writes the profile aside when a name for it is given, and gives what puts it in its
+    /// place, to be called once the budget is saved.
+    [[nodiscard]] std::function<void()> storedProfile(const interchange::CsvProfile &profile) const;
     [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
     [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
                                               const numira::Currency &currency) const;
@@ -36,6 +40,8 @@ struct ImportOptions {
     [[nodiscard]] QString encoding() const { return m_encoding.value_or(QString()); }
 
 private:
+    [[nodiscard]] ImportFormat guessedFormat(const QByteArray &bytes) const;
+    void refuseUnused(ImportFormat form) const;
     [[nodiscard]] std::optional<interchange::DecimalMark> decimal() const;
 
     QString m_statement;
@@ -59,6 +65,8 @@ private:
     std::vector<QString> m_texts;
     std::optional<QString> m_id;
     std::optional<QString> m_currencyColumn;
+    std::optional<QString> m_status;
+    std::optional<QString> m_balance;
 };
 
 } // namespace kiv::app

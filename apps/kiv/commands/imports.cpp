@@ -31,19 +31,13 @@ struct Found {
 
 struct Import {
     ImportOptions options;
-    std::optional<QString> into;
-    std::optional<QString> against;
     bool keepsDuplicates = false;
 
     void declare(Arguments &arguments)
     {
         options.declare(arguments);
-        arguments
-            .optional("--into", into, QObject::tr("The account that a bank statement is about"))
-            .optional("--against", against,
-                      QObject::tr("The other account of entries that no rule knows"))
-            .flag("--keep-duplicates", keepsDuplicates,
-                  QObject::tr("Post what is there already, too"));
+        arguments.flag("--keep-duplicates", keepsDuplicates,
+                       QObject::tr("Post what is there already, too"));
     }
 
     Report run(Call &call) const
@@ -59,10 +53,6 @@ private:
 
     [[nodiscard]] Report importJournal(Call &call, const QByteArray &bytes) const
     {
-        for (const auto &[given, name] : {std::pair(into, "--into"), {against, "--against"}}) {
-            if (given)
-                throw contradiction(QLatin1String(name), QStringLiteral("--format journal"));
-        }
         Requests &requests = call.requests;
         const interchange::Draft draft = interchange::readJournal(
             bytes, options.file, options.journal(requests.preferredCurrency()));
@@ -87,11 +77,11 @@ private:
     [[nodiscard]] Report importStatement(Call &call, ImportFormat format,
                                          const QByteArray &bytes) const
     {
-        if (!into)
+        if (!options.into)
             throw noAccountInto();
         Requests &requests = call.requests;
         const AccountIndex index = requests.accounts();
-        const accounting::Account &account = index.find(*into);
+        const accounting::Account &account = index.find(*options.into);
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
         const interchange::Statement statement = [&] {
@@ -106,7 +96,7 @@ private:
             statement,
             {account.code(), currency, openedOn(requests, account.code()), index.accounts(),
              requests.transactions(), keptByBanks(requests)},
-            {profile.rules, against,
+            {profile.rules, options.against,
              [&index](const QString &name) { return index.find(name).code(); }});
         std::vector<Found> found;
         for (const interchange::PlannedEntry &planned : plan.entries) {
@@ -120,7 +110,7 @@ private:
         }
         Report report = post(call, found, {}, textsOf(plan.notices));
         if (!call.options.isDryRun)
-            options.saveProfile(profile);
+            report.setFinish(options.storedProfile(profile));
         return report;
     }
 

@@ -67,6 +67,14 @@ public:
     void setUnchanged() noexcept { m_isUnchanged = true; }
     [[nodiscard]] bool isUnchanged() const noexcept { return m_isUnchanged; }
 
+    /// What is left to be done once the budget is saved; not called when it could not be.
+    void setFinish(std::function<void()> finish) { m_finish = std::move(finish); }
+    void finish() const
+    {
+        if (m_finish)
+            m_finish();
+    }
+
     [[nodiscard]] const QJsonValue &data() const noexcept { return m_data; }
     void setData(QJsonValue data) { m_data = std::move(data); }
 
@@ -96,6 +104,7 @@ private:
     QByteArray m_raw;
     int m_status = 0;
     bool m_isUnchanged = false;
+    std::function<void()> m_finish;
 };
 
 } // namespace kiv::app

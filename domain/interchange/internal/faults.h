@@ -66,8 +66,20 @@ namespace faults {
 [[nodiscard]] ImportError columnNotNamed(const Place &place, const QString &option,
                                          const QStringList &columns);
 [[nodiscard]] ImportError tooManyCells(const Place &place, qsizetype most);
+/// A cell counts as `cellMin` characters at least.
+[[nodiscard]] ImportError tableTooLarge(const Place &place, qsizetype charactersMax,
+                                        qsizetype cellMin);
 [[nodiscard]] ImportError tooFewCells(const Place &place, qsizetype present, qsizetype wanted);
 [[nodiscard]] ImportError tooManyCells(const Place &place, qsizetype present, qsizetype named);
+/// A comma within an amount that has no quotes around it makes two cells of it.
+[[nodiscard]] ImportError amountDivided(const Place &place, const QString &text);
+/// `columns` are the numbers of those that share the heading.
+[[nodiscard]] ImportError columnsAlike(const Place &place, const QStringList &columns,
+                                       const QString &heading, const QString &option);
+[[nodiscard]] ImportError headingsAreEntry(const Place &place);
+[[nodiscard]] ImportError entryWithinQuotes(const Place &place);
+[[nodiscard]] ImportError balanceDiffers(const Place &place, const QString &expected,
+                                         const QString &found);
 [[nodiscard]] ImportError emptyTable(const Place &place);
 [[nodiscard]] ImportError notADateFormat(const Place &place, const QString &text);
 [[nodiscard]] ImportError ownTable(const Place &place);
@@ -99,6 +111,14 @@ namespace faults {
                                           const QStringList &accounts);
 [[nodiscard]] ImportError notQif(const Place &place);
 [[nodiscard]] ImportError unknownField(const Place &place, const QString &text);
+/// An entry stands where it belongs to no statement.
+[[nodiscard]] ImportError entryOutside(const Place &place);
+[[nodiscard]] ImportError outsideDocument(const Place &place);
+[[nodiscard]] ImportError repeatedTag(const Place &place, const QString &tag);
+/// The entry has such a line already.
+[[nodiscard]] ImportError repeatedField(const Place &place, const QString &text);
+[[nodiscard]] ImportError amountsDiffer(const Place &place, const QString &one,
+                                        const QString &other);
 [[nodiscard]] ImportError severalAccounts(const Place &place);
 [[nodiscard]] ImportError entryCutOff(const Place &place);
 [[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,

@@ -10,6 +10,9 @@ namespace kiv::interchange::limits {
 /// lineTextMin, since each is kept.
 inline constexpr qsizetype entryTextMax = qsizetype{4} * 1024 * 1024;
 inline constexpr qsizetype lineTextMin = 16;
+/// Characters of a table's cells. A short cell counts as cellTextMin.
+inline constexpr qsizetype tableTextMax = qsizetype{16} * 1024 * 1024;
+inline constexpr qsizetype cellTextMin = 16;
 /// Characters of the descriptions of all transactions.
 inline constexpr qsizetype descriptionsMax = qsizetype{8} * 1024 * 1024;
 /// Characters of the paths of all accounts and of those above them.

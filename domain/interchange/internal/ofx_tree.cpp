@@ -4,6 +4,7 @@
 #include "interchange/draft.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/text_decoding.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
@@ -69,14 +70,21 @@ public:
         advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
         if (m_at < 0)
             throw faults::notOfx({m_place.file, 0});
+        static const QRegularExpression tag(QStringLiteral("<[^?!]"));
+        if (const auto match = tag.match(QStringView(m_text).left(m_at)); match.hasMatch()) {
+            m_place.line = 1 + m_text.left(match.capturedStart()).count(u'\n');
+            throw faults::outsideDocument(m_place);
+        }
         // Only the header of OFX 2 has instructions: "<?xml", "<?OFX".
         m_isXml = QStringView(m_text).left(m_at).contains(u"<?");
         while (m_at < m_text.size() && !m_root) {
             takeTag();
-            takeValue();
+            if (!m_root)
+                takeValue();
         }
         if (!m_root)
             throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
+        refuseRest();
         return std::move(*m_root);
     }
 
@@ -85,6 +93,20 @@ private:
     {
         m_place.line += QStringView(m_text).mid(m_at, at - m_at).count(u'\n');
         m_at = at;
+    }
+
+    /// Only comments may stand behind the document.
+    void refuseRest()
+    {
+        do {
+            qsizetype at = m_at;
+            while (at < m_text.size() && m_text[at].isSpace())
+                ++at;
+            advanceTo(at);
+        } while (m_at < m_text.size() && QStringView(m_text).sliced(m_at).startsWith(u"<!--") &&
+                 takeSection());
+        if (m_at < m_text.size())
+            throw faults::outsideDocument(m_place);
     }
 
     /// Passes over a comment, or takes a section of plain characters for a
@@ -99,8 +121,10 @@ private:
             m_text.indexOf(isComment ? QStringLiteral("-->") : QStringLiteral("]]>"), m_at);
         if (end < 0)
             throw faults::brokenTag(m_place);
-        if (!isComment)
+        if (!isComment) {
+            requireRoom(end - m_at - 9);
             m_open.back().value += m_text.mid(m_at + 9, end - m_at - 9).simplified();
+        }
         advanceTo(end + 3);
         return true;
     }
@@ -143,17 +167,24 @@ private:
         m_open.push_back({tag, m_place});
     }
 
+    void requireRoom(qsizetype characters) const
+    {
+        if (m_open.back().value.size() + characters > lineMax)
+            throw faults::textTooLong(m_open.back().place, lineMax);
+    }
+
     /// In SGML a tag with a value is closed by what comes next.
     void takeValue()
     {
         const qsizetype next = m_text.indexOf(u'<', m_at);
         const qsizetype end = next < 0 ? m_text.size() : next;
-        const QString value = m_text.mid(m_at, end - m_at).trimmed();
+        const QStringView value = QStringView(m_text).sliced(m_at, end - m_at).trimmed();
         if (!value.isEmpty() && !m_open.empty()) {
             OfxElement &element = m_open.back();
             if (!element.children.empty())
                 throw faults::brokenTag(m_place);
-            element.value += withoutEntities(value);
+            requireRoom(value.size());
+            element.value += withoutEntities(value.toString());
             advanceTo(end);
             const QString closing = QStringLiteral("</%1>").arg(element.tag);
             if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive)) {

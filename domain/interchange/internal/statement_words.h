@@ -39,6 +39,14 @@ inline const QStringList wentOut =
 inline const QStringList cameIn =
     listed(QStringLiteral("H|HABEN|C|CR|CRE|CREDIT|CRDT|DEPOSIT|IN|GUTSCHRIFT|EINGANG|HABER|"
                           "ABONO|+"));
+/// Where the bank tells how far an entry has come.
+inline const QStringList status =
+    listed(QStringLiteral("status|state|booking status|posting status|transaction status|"
+                          "buchungsstatus|umsatzstatus|info|estado"));
+/// What the account holds after an entry.
+inline const QStringList balance =
+    listed(QStringLiteral("balance|running balance|account balance|saldo|kontostand|"
+                          "saldo nach buchung"));
 /// While the bank has not booked an entry, and may still change it.
 inline const QStringList pending = listed(QStringLiteral("PENDING|VORGEMERKT|PENDIENTE"));
 
