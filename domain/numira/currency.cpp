@@ -2,7 +2,7 @@
 #include "numira/currency.h"
 
 #include "numira/error.h"
-#include "numira/library.h"
+#include "numira/locale.h"
 
 #include <unicode/ucurr.h>
 #include <unicode/unistr.h>

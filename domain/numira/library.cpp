@@ -2,65 +2,14 @@
 #include "numira/library.h"
 
 #include "numira/error.h"
-#include "numira/local_text.h"
-
-#include <unicode/uenum.h>
-#include <unicode/uloc.h>
-
-#include <array>
-#include <optional>
-#include <set>
 
 namespace numira {
 namespace {
 
-struct LibraryState {
-    Converter converter;
-    std::string locale = "en_US";
-};
-
-LibraryState &state()
+Converter &installedConverter()
 {
-    static LibraryState theState;
-    return theState;
-}
-
-/// The locales for which ICU has data, older names included.
-std::set<std::string> availableLocales()
-{
-    std::set<std::string> names;
-    UErrorCode status = U_ZERO_ERROR;
-    UEnumeration *all = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
-    while (const char *name = uenum_next(all, nullptr, &status))
-        names.emplace(name);
-    uenum_close(all);
-    return names;
-}
-
-/// ICU's name of what may be a POSIX name such as "de_DE.UTF-8", or nothing.
-using NameFunction = int32_t (*)(const char *, char *, int32_t, UErrorCode *);
-std::optional<std::string> normalised(const std::string &name, NameFunction function)
-{
-    std::array<char, ULOC_FULLNAME_CAPACITY> buffer{};
-    UErrorCode status = U_ZERO_ERROR;
-    const int32_t length =
-        function(name.c_str(), buffer.data(), static_cast<int32_t>(buffer.size()), &status);
-    if (U_FAILURE(status))
-        return std::nullopt;
-    return std::string(buffer.data(), static_cast<std::size_t>(length));
-}
-
-/// The name by which ICU knows the locale, or a near one where that is allowed.
-std::string known(const std::string &localeName, ShouldAllowFallback fallback)
-{
-    static const std::set<std::string> available = availableLocales();
-    std::optional<std::string> locale = normalised(localeName, uloc_canonicalize);
-    if (locale && available.contains(*locale))
-        return *locale;
-    if (fallback == ShouldAllowFallback::No)
-        throw Error("The locale '" + localeName + "' is unknown.");
-    locale = normalised(localeName, uloc_getLanguage);
-    return locale && available.contains(*locale) ? *locale : "en_US";
+    static Converter converter;
+    return converter;
 }
 
 } // namespace
@@ -68,20 +17,10 @@ std::string known(const std::string &localeName, ShouldAllowFallback fallback)
 void setUpLibrary(const Converter &converter, const std::string &localeName,
                   ShouldAllowFallback fallback)
 {
-    std::string locale = known(localeName, fallback);
     Converter copy = converter;
-    state().converter.swap(copy);
-    state().locale.swap(locale);
-}
-
-void setLocale(const std::string &localeName, ShouldAllowFallback fallback)
-{
-    state().locale = known(localeName, fallback);
-}
-
-const std::string &libraryLocale()
-{
-    return state().locale;
+    // First what may refuse.
+    setLocale(localeName, fallback);
+    installedConverter().swap(copy);
 }
 
 FloatingPoint conversionRate(const Currency &from, const Currency &to)
@@ -89,9 +28,9 @@ FloatingPoint conversionRate(const Currency &from, const Currency &to)
     if (from == to)
         return 1;
     const std::string pair = toStdString(from) + " to " + toStdString(to);
-    if (!state().converter)
+    if (!installedConverter())
         throw ConversionError("There is no converter from " + pair + ".");
-    FloatingPoint rate = state().converter(from, to);
+    FloatingPoint rate = installedConverter()(from, to);
     if (!isfinite(rate) || rate <= 0)
         throw ConversionError("The rate from " + pair + " is not usable.");
     return rate;

@@ -3,15 +3,12 @@
 
 #include "numira/currency.h"
 #include "numira/floating_point.h"
+#include "numira/locale.h"
 
 #include <functional>
 #include <string>
 
 namespace numira {
-
-/// Whether a locale that is not known may be replaced by a near one (its
-/// language alone, then en_US).
-enum class ShouldAllowFallback : bool { No = false, Yes = true };
 
 /// Gives the rate by which an amount in the first currency is multiplied to
 /// become one in the second.
@@ -23,9 +20,6 @@ using Converter = std::function<FloatingPoint(const Currency &from, const Curren
 /// nothing is installed.
 NUMIRA_EXPORT void setUpLibrary(const Converter &converter, const std::string &localeName,
                                 ShouldAllowFallback fallback);
-
-/// The locale in use: "en_US" before setUpLibrary was called.
-[[nodiscard]] NUMIRA_EXPORT const std::string &libraryLocale();
 
 /// The rate from one currency to another; exactly 1 for the same. Throws
 /// ConversionError without a converter, and when the rate is not positive and

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "numira/library.h"
+#include "numira/locale.h"
 #include "numira/money.h"
 
 #include <optional>
@@ -10,10 +10,6 @@
 
 /// Numbers as the library's locale writes them, besides toLocalText of an amount.
 namespace numira {
-
-/// Replaces the library's locale alone; the converter stays. Throws Error when
-/// the locale is unknown and no fallback is allowed; then nothing is changed.
-NUMIRA_EXPORT void setLocale(const std::string &localeName, ShouldAllowFallback fallback);
 
 /// The amount with its currency's code where the locale puts it:
 /// "1.234,50 EUR" in German, "EUR 1,234.50" in English (with a no-break space).

@@ -3,6 +3,7 @@
 
 #include "foundation/local_dates.h"
 #include "numira/local_text.h"
+#include "numira/locale.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLibraryInfo>
