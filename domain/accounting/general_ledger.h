@@ -71,7 +71,9 @@ public:
                                                          OpenStates states) const;
     /// Whether remove(number) would take the account away: it exists, has no
     /// child and no transaction but its own opening one, and that is not
-    /// reconciled. Closed accounts can be removed too.
+    /// reconciled. An opening transaction that was changed so that its other side
+    /// holds no openings moves real money, and counts as any other. Closed
+    /// accounts can be removed too.
     [[nodiscard]] bool canRemove(const AccountCode &code) const noexcept;
     /// The transaction, seen from neither side; nothing when there is none.
     [[nodiscard]] std::optional<Transaction> lookUpTransaction(TransactionNumber number) const;

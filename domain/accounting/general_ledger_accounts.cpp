@@ -28,11 +28,17 @@ const AccountRecord *openingsAccount(const LedgerState &state, const numira::Cur
     return found;
 }
 
-/// Whether nothing but the account's own opening transaction holds it.
-bool isUnused(const AccountRecord &account)
+/// Whether nothing but the account's own opening transaction holds it. An opening
+/// whose other side was changed to an account that holds no openings moves real
+/// money, and must not go with the account.
+bool isUnused(const LedgerState &state, const AccountRecord &account)
 {
-    const std::size_t own = account.openedBy ? 1 : 0;
-    return account.transactions.count() == own;
+    const std::size_t count = account.transactions.count();
+    if (count != 1 || !account.openedBy)
+        return count == 0;
+    const internal::TransactionRecord &opening = state.record(*account.openedBy);
+    const AccountNumber own = account.code.number();
+    return state.account(opening.debit == own ? opening.credit : opening.debit).holdsOpenings;
 }
 
 /// The transaction that opened the account, if it is reconciled.
@@ -62,7 +68,7 @@ void checkNotUnderItself(const LedgerState &state, AccountNumber from, const Acc
 bool GeneralLedger::canRemove(const AccountCode &code) const noexcept
 {
     const AccountRecord *account = m_state->find(code.number());
-    return account && !m_state->hasChildren(code.number()) && isUnused(*account) &&
+    return account && !m_state->hasChildren(code.number()) && isUnused(*m_state, *account) &&
            !reconciledOpening(*m_state, *account);
 }
 
@@ -113,7 +119,7 @@ void GeneralLedger::remove(AccountNumber number)
     const AccountRecord &account = m_state->account(number);
     if (m_state->hasChildren(number))
         throw internal::accountHasChildren(account.code);
-    if (!isUnused(account))
+    if (!isUnused(*m_state, account))
         throw internal::accountHasTransactions(account.code);
     if (const auto opening = reconciledOpening(*m_state, account))
         throw internal::openingIsReconciled(account.code, *opening);

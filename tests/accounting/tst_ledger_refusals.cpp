@@ -193,6 +193,13 @@ void tst_LedgerRefusals::accountRows()
     row("remove: has a child", "'1 Bank'.*accounts stand", [](Book &b) { b.ledger.remove(no(1)); });
     row("remove: used", "'5 Wage'.*has transactions", [](Book &b) { b.ledger.remove(no(5)); });
     row(
+        "remove: opening moves real money", "'20 New %1'.*has transactions",
+        [](Book &b) { b.ledger.remove(no(20)); },
+        [](Book &book) {
+            adding(newAccount(Asset, no(20), {}, usd("5")))(book);
+            book.ledger.repost(txn(8), transfer(no(20), no(2), usd("5")));
+        });
+    row(
         "remove: opening reconciled", "'20 New %1'.*transaction 8, which opened it, is reconciled",
         [](Book &b) { b.ledger.remove(no(20)); },
         [](Book &book) {
