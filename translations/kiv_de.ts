@@ -56,6 +56,10 @@
         <translation>Das Konto „%1“ kann nicht unter dem Konto „%2“ stehen, da dieses es selbst ist oder unter ihm steht.</translation>
     </message>
     <message>
+        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;: accounts can be nested at most %3 deep.</source>
+        <translation>Das Konto „%1“ kann nicht unter dem Konto „%2“ stehen: Konten lassen sich höchstens %3 Ebenen tief verschachteln.</translation>
+    </message>
+    <message>
         <source>The account &apos;%1&apos; is open already.</source>
         <translation>Das Konto „%1“ ist bereits offen.</translation>
     </message>

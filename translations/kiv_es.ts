@@ -56,6 +56,10 @@
         <translation>La cuenta «%1» no puede depender de la cuenta «%2», que es ella misma o depende de ella.</translation>
     </message>
     <message>
+        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;: accounts can be nested at most %3 deep.</source>
+        <translation>La cuenta «%1» no puede depender de la cuenta «%2»: las cuentas se pueden anidar en un máximo de %3 niveles.</translation>
+    </message>
+    <message>
         <source>The account &apos;%1&apos; is open already.</source>
         <translation>La cuenta «%1» ya está abierta.</translation>
     </message>

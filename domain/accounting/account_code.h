@@ -10,6 +10,11 @@
 
 namespace kiv::accounting {
 
+/// How deep accounts may be nested, one at the top being 1 deep. With the name of
+/// their kind in front, their paths have 100 names at most, as in journals. A budget
+/// file with deeper ones is still loaded.
+inline constexpr int accountDepthMax = 99;
+
 /// What an account is called: its number, its name, and the number of the
 /// account that it stands under, if any. Names may repeat in a ledger, numbers
 /// may not. Codes are ordered by number, then name (by its code units), then

@@ -16,6 +16,8 @@ namespace kiv::accounting {
 /// other reason, leaves the ledger (and a generator handed in) as it was:
 /// - every account has a number of its own, a known kind, and a parent that
 ///   exists, is of the same kind and makes no cycle; names may repeat;
+/// - accounts are nested at most accountDepthMax deep, but for those of a file that
+///   has deeper ones;
 /// - every transaction has a number of its own (16 bits), a valid day, a
 ///   positive amount, and two different accounts;
 /// - each side of a transaction is kept in its account's currency, converted
@@ -95,7 +97,7 @@ public:
     /// account that is given as closed is closed once it is there.
     ///
     /// Refused: the invalid number, a number in use, an unknown kind, a parent
-    /// that is unknown or of another kind, an opening as by post (also when the
+    /// that is unknown, of another kind or too deep already, an opening as by post (also when the
     /// equity account is closed), a closing as by close.
     std::optional<TransactionNumber> add(const Account &account, AccountNumberGenerator &generator,
                                          QDate openedOn = foundation::today());
@@ -111,7 +113,8 @@ public:
     /// Transactions, children's parents, the opening mark, refunds and the
     /// closed flag go along; closed accounts too. Refused: unknown `from`, the
     /// invalid number, a number of another account, a parent that is unknown,
-    /// of another kind, or below the account itself.
+    /// of another kind, or below the account itself, and another parent under
+    /// which it or an account below it would be too deep.
     void recode(const AccountCode &from, const AccountCode &to);
     /// Keeps the account in another currency from now on: its own side of every
     /// transaction is restated at the rate of the moment; statuses, the other

@@ -76,6 +76,7 @@ std::optional<TransactionNumber>
 GeneralLedger::add(const Account &account, AccountNumberGenerator &generator, QDate openedOn)
 {
     internal::checkNewAccount(*m_state, account.type(), account.code());
+    internal::checkDepth(*m_state, account.code());
     const AccountNumber number = account.code().number();
     const numira::Money &balance = account.balance();
     if (balance.isZero() && !account.isClosed()) {
@@ -154,6 +155,8 @@ void GeneralLedger::recode(const AccountCode &from, const AccountCode &to)
         throw internal::accountNumberTaken(to, holder->code);
     internal::checkParent(*m_state, account.type, to);
     checkNotUnderItself(*m_state, from.number(), to);
+    if (to.parent() != account.code.parent())
+        internal::checkDepth(*m_state, to, from.number());
     GeneralLedger next(*this);
     next.change().recode(from.number(), to);
     *this = std::move(next);

@@ -17,7 +17,8 @@ public:
     LedgerReplay();
     ~LedgerReplay();
 
-    /// An open account without a balance, kept in `currency`.
+    /// An open account without a balance, kept in `currency`; it may be nested
+    /// deeper than the ledger allows.
     void addAccount(AccountTypes type, const AccountCode &code, const numira::Currency &currency,
                     bool holdsOpenings);
     /// Posts under `transaction.number()`, with its side amounts and statuses.

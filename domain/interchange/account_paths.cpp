@@ -30,7 +30,30 @@ AccountNumber parentOf(const Account &account)
     return account.code().parent().value_or(AccountNumber());
 }
 
-std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
+/// Under which account each stands in its path. An account that is nested deeper than
+/// paths go stands beside its nearest ancestor that is not.
+std::map<AccountNumber, AccountNumber> parentsInPaths(const Accounts &accounts)
+{
+    std::map<AccountNumber, AccountNumber> parents;
+    std::map<AccountNumber, int> depths{{AccountNumber(), 0}};
+    std::vector<AccountNumber> waiting;
+    for (const auto &[number, account] : accounts) {
+        for (AccountNumber above = number; !depths.contains(above);
+             above = parentOf(*accounts.at(above)))
+            waiting.push_back(above);
+        for (; !waiting.empty(); waiting.pop_back()) {
+            const AccountNumber parent = parentOf(*accounts.at(waiting.back()));
+            const int depth = depths.at(parent) + 1;
+            const bool isCut = depth > accounting::accountDepthMax;
+            parents.emplace(waiting.back(), isCut ? parents.at(parent) : parent);
+            depths.emplace(waiting.back(), isCut ? depth - 1 : depth);
+        }
+    }
+    return parents;
+}
+
+std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts,
+                                             const std::map<AccountNumber, AccountNumber> &parents)
 {
     std::map<AccountNumber, QString> names;
     for (const auto &[number, account] : accounts)
@@ -42,7 +65,7 @@ std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts)
         isUnique = true;
         std::map<std::tuple<QString, AccountNumber, QString>, std::vector<AccountNumber>> groups;
         for (const auto &[number, account] : accounts) {
-            groups[{rootOf(account->type()), parentOf(*account), names.at(number)}].push_back(
+            groups[{rootOf(account->type()), parents.at(number), names.at(number)}].push_back(
                 number);
         }
         for (const auto &[key, numbers] : groups) {
@@ -87,16 +110,15 @@ std::map<AccountNumber, QString> accountPaths(const std::set<Account> &accounts)
     Accounts byNumber;
     for (const Account &account : accounts)
         byNumber.emplace(account.code().number(), &account);
-    const std::map<AccountNumber, QString> names = uniqueNames(byNumber);
+    const std::map<AccountNumber, AccountNumber> parents = parentsInPaths(byNumber);
+    const std::map<AccountNumber, QString> names = uniqueNames(byNumber, parents);
 
     std::map<AccountNumber, QString> paths;
     for (const auto &[number, account] : byNumber) {
         QString path = names.at(number);
-        AccountNumber above = parentOf(*account);
-        while (above != AccountNumber()) {
+        for (AccountNumber above = parents.at(number); above != AccountNumber();
+             above = parents.at(above))
             path = names.at(above) + u':' + path;
-            above = parentOf(*byNumber.at(above));
-        }
         paths.emplace(number, rootOf(account->type()) + u':' + path);
     }
     return paths;

@@ -23,7 +23,9 @@ namespace kiv::interchange {
 /// Names are made safe for plain-text accounting journals (no colon or
 /// semicolon, single blanks, no control characters), and where two accounts
 /// would get the same path their numbers are added to their names, so that
-/// every path stands for one account. The accounts are those of a whole ledger, so
+/// every path stands for one account. Accounts that are nested deeper than
+/// accounting::accountDepthMax stand beside their nearest ancestor that is not, so that
+/// no path has more than 100 names. The accounts are those of a whole ledger, so
 /// that each one's parent is among them.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::map<accounting::AccountNumber, QString>
 accountPaths(const std::set<accounting::Account> &accounts);

@@ -65,6 +65,14 @@ Change refunding(std::uint16_t number, const numira::Money &amount)
     return [=](Book &book) { book.ledger.refund(txn(number), amount, day("2026-02-01")); };
 }
 
+/// Accounts 101 to 199, each under the one before: as deep as may be.
+void openChain(Book &book)
+{
+    for (std::uint32_t number = 101; number <= 199; ++number)
+        adding(newAccount(AccountTypes::Asset, no(number),
+                          number == 101 ? std::nullopt : std::optional(no(number - 1))))(book);
+}
+
 /// One row: a pattern of the sentence, what is refused, and what was done before.
 void row(const char *name, const char *sentence, const Change &change, const Change &before = {})
 {
@@ -178,6 +186,8 @@ void tst_LedgerRefusals::accountRows()
     row("add: parent of another type",
         "'20 New %1' of type Expense cannot stand under the account '1 Bank' of type Asset",
         adding(newAccount(Expense, no(20), no(1))));
+    row("add: too deep", "'20 New %1' .* '199 New %1'.* 99 deep",
+        adding(newAccount(Asset, no(20), no(199))), openChain);
     row("add: on no day, and the first in euros", "valid day",
         adding(newAccount(Asset, no(10), {}, euros), QDate()));
     row("add: openings are closed", "'3 Opening Balances USD \\[Equity\\]' is closed",
@@ -228,6 +238,10 @@ void tst_LedgerRefusals::recodeAndConvertRows()
     row("recode: under its new number", "20, which does not exist", recoding(1, code(20, no(20))));
     row("recode: under its grandchild", "'8 Envelope', which is itself",
         recoding(1, code(1, no(8))));
+
+    // It has a child and a grandchild.
+    row("recode: its children too deep", "'1 Moved %2' .* '197 New %1'.* 99 deep",
+        recoding(1, code(1, no(197))), openChain);
 
     row("convert: unknown", "number 77", converting(77, "EUR"));
     row("convert: converter refuses", "'2 Checking' .*in JPY.*transaction 1 ",

@@ -8,6 +8,8 @@
 #include "interchange/journal_reader.h"
 #include "interchange/ledger_writer.h"
 
+#include "accounting/ledger_replay.h"
+
 #include <rapidcheck.h>
 
 using namespace kiv::interchange;
@@ -115,6 +117,21 @@ class TestJournal : public QObject {
     Q_OBJECT
 
 private slots:
+    void pathsOfDeepAccountsAreCut()
+    {
+        constexpr std::uint32_t count = 200;
+        kiv::accounting::LedgerReplay replay;
+        for (std::uint32_t number = 1; number <= count; ++number)
+            replay.addAccount(
+                kiv::accounting::AccountTypes::Asset,
+                {no(number), u"A"_s, number == 1 ? std::nullopt : std::optional(no(number - 1))},
+                numira::toCurrency("USD"), false);
+        std::set<QString> paths;
+        for (const auto &[number, path] : accountPaths(replay.finish().accounts()))
+            paths.insert(path.section(u':', 0, 99));
+        QCOMPARE(paths.size(), count);
+    }
+
     void journals_data() { addCases(u"journals"_s); }
     void journals()
     {

@@ -56,6 +56,14 @@ AccountError parentBelowItself(const AccountCode &code, const AccountCode &paren
                       .arg(presentationText(code), presentationText(parent))};
 }
 
+AccountError accountTooDeep(const AccountCode &code, const AccountCode &parent)
+{
+    return {code, QObject::tr("The account '%1' cannot stand under the account '%2': accounts can "
+                              "be nested at most %3 deep.")
+                      .arg(presentationText(code), presentationText(parent),
+                           QString::number(accountDepthMax))};
+}
+
 AccountError accountIsOpen(const AccountCode &code)
 {
     return {code, QObject::tr("The account '%1' is open already.").arg(presentationText(code))};

@@ -20,6 +20,7 @@ namespace kiv::accounting::internal {
 [[nodiscard]] AccountError parentOfOtherType(const AccountCode &code, AccountTypes type,
                                              const AccountCode &parent, AccountTypes parentType);
 [[nodiscard]] AccountError parentBelowItself(const AccountCode &code, const AccountCode &parent);
+[[nodiscard]] AccountError accountTooDeep(const AccountCode &code, const AccountCode &parent);
 [[nodiscard]] AccountError accountIsOpen(const AccountCode &code);
 [[nodiscard]] AccountError accountIsClosed(const AccountCode &code);
 [[nodiscard]] AccountError closingWithBalance(const AccountCode &code,

@@ -6,6 +6,27 @@
 #include "numira/error.h"
 
 namespace kiv::accounting::internal {
+namespace {
+
+/// On how many levels accounts stand under this one; no more than `most` are counted.
+int levelsBelow(const LedgerState &state, AccountNumber number, int most)
+{
+    std::set<AccountNumber> level{number};
+    for (int levels = 0; levels < most; ++levels) {
+        std::set<AccountNumber> below;
+        for (const auto &account : state.accounts()) {
+            const AccountCode &code = account->code;
+            if (code.parent() && level.contains(*code.parent()))
+                below.insert(code.number());
+        }
+        if (below.empty())
+            return levels;
+        level = std::move(below);
+    }
+    return most;
+}
+
+} // namespace
 
 void checkNewAccount(const LedgerState &state, AccountTypes type, const AccountCode &code)
 {
@@ -29,6 +50,20 @@ void checkParent(const LedgerState &state, AccountTypes type, const AccountCode 
         throw parentNotFound(code);
     if (parent->type != type)
         throw parentOfOtherType(code, type, parent->code, parent->type);
+}
+
+void checkDepth(const LedgerState &state, const AccountCode &code, AccountNumber moved)
+{
+    if (!code.parent())
+        return;
+    int depth = 1;
+    for (std::optional<AccountNumber> above = code.parent(); above && depth <= accountDepthMax;
+         above = state.account(*above).code.parent())
+        ++depth;
+    if (moved.isValid() && depth <= accountDepthMax)
+        depth += levelsBelow(state, moved, accountDepthMax);
+    if (depth > accountDepthMax)
+        throw accountTooDeep(code, state.account(*code.parent()).code);
 }
 
 void checkClosing(const AccountRecord &account)

@@ -13,6 +13,10 @@ void checkNewAccount(const LedgerState &state, AccountTypes type, const AccountC
 /// The account `code` of this type may stand under its parent, if it has any.
 /// Throws AccountError.
 void checkParent(const LedgerState &state, AccountTypes type, const AccountCode &code);
+/// The account `code`, with all accounts under the number `moved`, stands no deeper
+/// than accountDepthMax. One at the top always may: that brings accounts up. Throws
+/// AccountError.
+void checkDepth(const LedgerState &state, const AccountCode &code, AccountNumber moved = {});
 /// The account may be closed. Throws AccountError.
 void checkClosing(const AccountRecord &account);
 /// Throws AccountError when the account is closed.
