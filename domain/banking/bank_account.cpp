@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "banking/bank_account.h"
 
-#include "foundation/presentation.h"
+#include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 namespace kiv::banking {
@@ -12,7 +12,7 @@ void streamReconciled(std::ostream &out, const numira::Money &balance,
 {
     out << balance;
     if (on)
-        out << " on " << foundation::presentationText(*on).toStdString();
+        out << " on " << foundation::isoText(*on).toStdString();
     else
         out << " never reconciled";
 }

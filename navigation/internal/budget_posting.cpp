@@ -2,7 +2,6 @@
 #include "navigation/internal/budget_ledgers.h"
 
 #include "accounting/transaction.h"
-#include "foundation/local_dates.h"
 
 namespace kiv::navigation::internal {
 namespace {
@@ -44,11 +43,10 @@ TransactionNumber BudgetLedgers::processDue(BudgetItemTypes type, const AccountC
                                             const AccountCode &bank, const numira::Money &amount,
                                             const QDate &date, budgeting::BudgetedMoney &item)
 {
-    // The marker is %2 in every catalogue of translations, though it is the only one.
-    const QString description =
-        QObject::tr("Processed the budget item due on %2.")
-            .arg(foundation::hasDateLocale() ? foundation::localText(item.nextOccurOn())
-                                             : item.nextOccurOn().toString(Qt::TextDate));
+    // The marker is %2 in every catalogue of translations, though it is the only one. The
+    // day is written alike in every language.
+    const QString description = QObject::tr("Processed the budget item due on %2.")
+                                    .arg(item.nextOccurOn().toString(Qt::TextDate));
     const auto [first, second] = sidesOf(type, itemCode, bank);
     return post(first, second, amount.rounded(), date, description, item);
 }

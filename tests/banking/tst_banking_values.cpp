@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "banking/bank.h"
 
+#include "foundation/local_dates.h"
+
 #include "support/accounting.h"
 #include "support/comparison.h"
 
@@ -61,6 +63,8 @@ private slots:
                                   {no(1200), BankAccountTypes::CreditCard}};
         QCOMPARE(presentationText(account), u"First %2\n 1200 (credit card)"_qs);
         QCOMPARE(dump(account), u"First %2\\u{000A} 1200 (credit card)"_qs);
+        const auto back = qScopeGuard([] { kiv::foundation::setDateLocale(""); });
+        kiv::foundation::setDateLocale("de_DE");
         QCOMPARE(dump(ReconciledBankAccount(account, usd("5"), day("2026-01-31"))),
                  dump(account) + u" 5.00 USD on 2026-01-31"_qs);
     }

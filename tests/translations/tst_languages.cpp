@@ -241,7 +241,7 @@ private slots:
         QVERIFY(m_household.runAll({"post Rent --account Checking --date 2026-03-01"}));
         speak(m_household, u"LC_ALL=es_ES.UTF-8"_s);
         const Ended listed = m_household.run("transactions --from 2026-03-01");
-        QVERIFY2(listed.out.contains("Budgetposten verarbeitet, fällig am 01.03.2026."),
+        QVERIFY2(listed.out.contains("Budgetposten verarbeitet, fällig am Sun Mar 1 2026."),
                  listed.out.constData());
         QVERIFY(listed.out.contains("Expenses:Rent [Budget Item]"));
     }
