@@ -10,7 +10,8 @@ namespace kiv::budgeting {
 class KIV_BUDGETING_EXPORT BudgetTotals {
 public:
     BudgetTotals() = default;
-    /// Throws what a missing exchange rate throws.
+    /// Throws std::logic_error for a frequency above the known ones, and what a
+    /// missing exchange rate throws.
     BudgetTotals(const Budget &budget, const numira::Currency &currency, EventFrequency frequency);
 
     /// What all bills come to.

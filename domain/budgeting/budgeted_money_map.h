@@ -50,12 +50,15 @@ public:
             sources.insert(sources.end(), source);
         return sources;
     }
-    /// The sum of the amounts in `currency`, each restated per `frequency`.
+    /// The sum of the amounts in `currency`, each restated per `frequency`. Throws
+    /// std::logic_error for a frequency above the known ones, and what a missing
+    /// exchange rate throws.
     [[nodiscard]] numira::Money total(const numira::Currency &currency,
                                       EventFrequency frequency) const
     {
-        return numira::math::sum(currency, m_items, [&](const auto &entry) {
-            return accumulateOver(frequency, entry.second.amount(), entry.second.period());
+        const EventFrequency per = known(frequency); // also without any item
+        return numira::math::sum(currency, m_items, [per](const auto &entry) {
+            return accumulateOver(per, entry.second.amount(), entry.second.period());
         });
     }
 

@@ -41,6 +41,7 @@ void BudgetTagManager::restore(Memory &&memory) noexcept
 
 void BudgetTagManager::changeAssociation(const BudgetItemTags::ItemTags &item)
 {
+    static_cast<void>(budgeting::known(item.type()));
     m_possible.insert(item.tags());
     m_associations.set(item);
 }

@@ -38,7 +38,8 @@ public:
     /// Undoes what was done to the items since; it cannot fail.
     void restore(Memory &&memory) noexcept;
 
-    /// Replaces the item's tags and makes new ones possible.
+    /// Replaces the item's tags and makes new ones possible. Throws
+    /// std::logic_error for an item of an unknown kind; then nothing has changed.
     void changeAssociation(const BudgetItemTags::ItemTags &item);
     /// The item's tags follow its new name. Does nothing when it has none.
     void renameAssociation(const budgeting::BudgetItemIdentifier &item,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QtTest/QtTest>
 
-#include "budgeting/budget_items.h"
+#include "budgeting/budget_totals.h"
 #include "budgeting/event_frequency.h"
 
 #include "foundation/error.h"
@@ -239,6 +239,7 @@ private slots:
             [&] { static_cast<void>(occurrencesIn(unknown, date, date)); },
             [&] { static_cast<void>(accumulateOver(EventFrequency::None, usd("1"), unknown)); },
             [&] { static_cast<void>(isRarerThanMonthly(unknown)); },
+            [&] { static_cast<void>(BudgetTotals(Budget(), usd("1").code(), unknown)); },
             [&] { static_cast<void>(Bill(BudgetSource(u"Rent"_qs), usd("1"), unknown, date)); },
         };
         for (const auto &use : uses)

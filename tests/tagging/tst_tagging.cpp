@@ -49,6 +49,9 @@ private slots:
         QVERIFY(manager.associated(BudgetItemTypes::Goal).isEmpty());
         QVERIFY_THROWS_EXCEPTION(std::logic_error, static_cast<void>(manager.associated(
                                                        static_cast<BudgetItemTypes>(6))));
+        const BudgetItemIdentifier unknown{static_cast<BudgetItemTypes>(6), rent.source};
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, household().changeAssociation(
+                                                       BudgetItemTags::ItemTags(unknown, {late})));
         QVERIFY(!manager.hasAssociation({BudgetItemTypes::Goal, rent.source}));
         QVERIFY(manager.associations().tags({BudgetItemTypes::Goal, rent.source}).isEmpty());
     }
