@@ -57,4 +57,9 @@ KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const DistributedAmount &am
 
 } // namespace kiv::surveying
 
+namespace kiv::foundation {
+// Found as foundation::presentationText too, like those of amounts and dates.
+using surveying::presentationText;
+} // namespace kiv::foundation
+
 Q_DECLARE_METATYPE(kiv::surveying::DistributedAmount)

@@ -50,7 +50,7 @@ private slots:
         QCOMPARE(amount.distributed(), usd("-2.50"));
         amount = money("EUR", "7");
         QCOMPARE(amount, DistributedAmount(money("EUR", "7"), date, usd("60")));
-        QCOMPARE(presentationText(amount), u"€7.00"_qs);
+        QCOMPARE(kiv::foundation::presentationText(amount), u"€7.00"_qs);
 
         DistributedAmount fresh;
         fresh -= money("EUR", "3");
