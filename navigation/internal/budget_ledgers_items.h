@@ -62,12 +62,14 @@ void BudgetLedgers::update(T item, AccountNumberGenerator &generator)
 template <budgeting::BudgetItem T>
 void BudgetLedgers::rename(const Source &from, const Source &to, const Number &number)
 {
-    m_budget->items<T>().rename(from, to);
-    const AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(from)).code();
+    // `from` may be the key of the very item, which goes when it is renamed.
+    const Source original = from;
+    m_budget->items<T>().rename(original, to);
+    const AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(original)).code();
     const AccountCode newCode(number.value_or(oldCode.number()), budgeting::itemAccountName(to),
                               std::nullopt);
     Restore codesBefore(m_codes);
-    m_codes.remove<T>(from);
+    m_codes.remove<T>(original);
     m_codes.insertOrAssign<T>(to, newCode.number());
     m_ledgers->recode(oldCode, newCode);
     codesBefore.dismiss();
@@ -76,22 +78,24 @@ void BudgetLedgers::rename(const Source &from, const Source &to, const Number &n
 template <budgeting::BudgetItem T>
 void BudgetLedgers::remove(const Source &source)
 {
+    // `source` may be the key of the very item, which goes first.
+    const Source original = source;
     auto &items = m_budget->items<T>();
-    if (!items.contains(source))
-        throw faults::cannotRemoveMissing(budgeting::ItemTraits<T>::type, source);
-    const AccountCode code(m_codes.value<T>(source), std::nullopt);
+    if (!items.contains(original))
+        throw faults::cannotRemoveMissing(budgeting::ItemTraits<T>::type, original);
+    const AccountCode code(m_codes.value<T>(original), std::nullopt);
     const bool isRemovable = m_ledgers->canRemove(code);
     if constexpr (budgeting::BankTiedItem<T>) {
         if (!isRemovable && m_ledgers->ledger(code).balance() != 0)
-            throw faults::cannotRemoveWithBalance(budgeting::ItemTraits<T>::type, source);
+            throw faults::cannotRemoveWithBalance(budgeting::ItemTraits<T>::type, original);
     }
     Restore itemsBefore(items);
-    items.remove(source);
+    items.remove(original);
     if (isRemovable)
         m_ledgers->remove(code.number());
     else
         m_ledgers->close(code.number());
-    m_codes.remove<T>(source);
+    m_codes.remove<T>(original);
     itemsBefore.dismiss();
 }
 
