@@ -6,9 +6,12 @@
 
 #include <QtCore/QObject>
 
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <stdexcept>
+#include <string>
 
 namespace kiv::adviser {
 
@@ -30,45 +33,62 @@ constexpr int freeSpendingMax = 30;
 constexpr int savingsMin = 20;
 constexpr int debtsMax = 36;
 
-/// The share of the income in percent with one digit behind the point, rounded
-/// by `round` so that a missed limit never reads as if it were met.
-template <typename Round>
-double shareOf(const numira::Money &part, const numira::Money &income, Round round)
+using boost::multiprecision::cpp_int;
+
+/// The amount in units of its last digit, an integer of any size.
+cpp_int unitsOf(const numira::Money &money)
 {
-    const double share = part.amount().toDouble() / income.amount().toDouble();
-    return round(share * 1000.0) / 10.0;
+    std::string digits = money.amount().toText(numira::Decimal::scaleDigits);
+    std::erase(digits, '.');
+    // Leading zeros would make it an octal number.
+    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
+    return cpp_int(digits);
+}
+
+enum class Rounding : std::uint8_t { Up, Down };
+
+/// The share of the income in percent, computed exactly, with one digit behind the
+/// point. It is rounded so that a missed limit never reads as if it were met.
+std::string shareOf(const cpp_int &part, const cpp_int &income, Rounding rounding)
+{
+    cpp_int tenths;
+    cpp_int rest;
+    divide_qr(cpp_int(part * 1000), income, tenths, rest);
+    if (rounding == Rounding::Up && rest != 0)
+        ++tenths;
+    const cpp_int whole = tenths / 10;
+    const cpp_int tenth = tenths % 10;
+    return tenth == 0 ? whole.str() : whole.str() + '.' + tenth.str();
 }
 
 /// `sentence` has the places %1 for the share and %2 for the limit.
-HealthReason reason(bool isSound, const char *sentence, double share, int percent)
+HealthReason reason(bool isSound, const char *sentence, const std::string &share, int percent)
 {
+    constexpr std::size_t lengthMax = 20; // of a share that people could read
     const QString limit = QString::number(percent);
-    const QString plainShare = QString::number(share);
-    // A share beyond all bounds has an exponent, which is no decimal number.
-    const QString localShare = plainShare.contains(u'e')
-                                   ? plainShare
-                                   : QString::fromStdString(numira::toLocalText(
-                                         numira::Decimal::fromText(plainShare.toStdString())));
-    return {isSound, QObject::tr(sentence).arg(localShare, limit),
-            QString::fromLatin1(sentence).arg(plainShare, limit)};
+    const std::string local =
+        share.size() > lengthMax ? share : numira::toLocalText(numira::Decimal::fromText(share));
+    return {isSound, QObject::tr(sentence).arg(QString::fromStdString(local), limit),
+            QString::fromLatin1(sentence).arg(QString::fromStdString(share), limit)};
 }
 
 HealthReason atMost(int percent, const char *sentence, const numira::Money &part,
                     const numira::Money &income)
 {
-    const bool isSound = part.amount() <= income.amount().scaled(percent, 100);
-    const auto round = [&](double tenths) {
-        return isSound ? std::floor(tenths) : std::ceil(tenths);
-    };
-    return reason(isSound, sentence, shareOf(part, income, round), percent);
+    const cpp_int share = unitsOf(part);
+    const cpp_int all = unitsOf(income);
+    const bool isSound = share * 100 <= all * percent;
+    return reason(isSound, sentence, shareOf(share, all, isSound ? Rounding::Down : Rounding::Up),
+                  percent);
 }
 
 HealthReason atLeast(int percent, const char *sentence, const numira::Money &part,
                      const numira::Money &income)
 {
-    const bool isSound = part.amount() >= income.amount().scaled(percent, 100);
-    const auto round = [](double tenths) { return std::floor(tenths); };
-    return reason(isSound, sentence, shareOf(part, income, round), percent);
+    const cpp_int share = unitsOf(part);
+    const cpp_int all = unitsOf(income);
+    return reason(share * 100 >= all * percent, sentence, shareOf(share, all, Rounding::Down),
+                  percent);
 }
 
 HealthReason withoutShare(bool isSound, const char *sentence)

@@ -49,8 +49,12 @@ private slots:
             << u"1000 500 0 200 300.01"_s << Critical
             << u"100.1 % of the income is planned; Free spending takes 30.1 %"_s;
         QTest::newRow("beyond all bounds")
-            << u"0.01 0 0 0.01 10000"_s << Critical
-            << u"1e+08 % of the income is planned; Free spending takes 1e+08 %"_s;
+            << u"0.01 0 0 1.01 1000000000000000000000"_s << Critical
+            << u"10000000000000000000010100 % of the income is planned; "
+               "Free spending takes 10000000000000000000000000 %"_s;
+        QTest::newRow("to the last digit") << u"1000 2007 0 200 0"_s << Critical
+                                           << u"220.7 % of the income is planned; "
+                                              "Bills and debts take 200.7 %"_s;
         QTest::newRow("no income") << u"0 0 0 0 1"_s << Critical << u"There is no income to pay"_s;
         QTest::newRow("nothing at all") << u"0 0 0 0 0"_s << Unknown << u""_s;
     }
