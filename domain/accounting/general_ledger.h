@@ -56,8 +56,7 @@ public:
     [[nodiscard]] bool hasLedger(AccountNumber number) const noexcept;
     /// The same by the number of the code alone.
     [[nodiscard]] bool hasLedger(const AccountCode &code) const noexcept;
-    /// Whether any account bears this name.
-    /// Whether an account, open or closed, has this name, letter by letter.
+    /// Whether an account, open or closed, has exactly this name.
     [[nodiscard]] bool hasLedgerNamed(const QString &name) const noexcept;
     /// Throws AccountError when there is no such account.
     [[nodiscard]] LedgerAccount ledger(AccountNumber number) const;

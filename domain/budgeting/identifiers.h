@@ -89,7 +89,7 @@ struct KIV_BUDGETING_EXPORT BudgetItemDueIdentifier {
 /// The name as the user wrote it.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(const BudgetSource &source);
 /// "Rent (bill)"; the number in place of the word for a kind above the known
-/// ones. The stream forms are the same.
+/// ones. The stream forms are the same in English.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(const BudgetItemIdentifier &id);
 
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, BudgetItemTypes type);

@@ -16,11 +16,11 @@
 namespace kiv::conversion {
 
 /// What a source answers: a table, or the reason for which there is none
-/// (English, for the log, and without any secret of the source).
+/// (a sentence for the user, who finds it in the log, without any secret of the source).
 struct FetchedRates {
     /// The rates that arrived; nothing after a failure.
     std::optional<ConversionMap> table;
-    /// Why there are none, in English and for the log; empty after a success.
+    /// Why there are none; empty after a success.
     QString failure;
 };
 

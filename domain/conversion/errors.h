@@ -24,7 +24,7 @@ namespace internal {
 [[nodiscard]] ConversionError tableWithoutTime();
 [[nodiscard]] ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to);
 
-// The rest goes to the log and is English.
+// Where the user finds the rest is the log.
 [[nodiscard]] ConversionError replyMalformed(const QString &member);
 [[nodiscard]] ConversionError replyUnknownCurrency(const QString &code);
 [[nodiscard]] QString fetchTimedOut();

@@ -14,7 +14,8 @@
 /// libraries.
 namespace kiv::foundation {
 
-/// The date as ISO 8601 writes it: "2026-03-31"; "no date" when it is invalid.
+/// The date as localText writes it; "no date" in the user's language when it is
+/// invalid.
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString presentationText(QDate date);
 /// See numira::toLocalText.
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString presentationText(const numira::Money &money);

@@ -18,8 +18,8 @@
 /// operator<< on std::ostream; the QDebug form forwards to it with streamed().
 namespace kiv::foundation {
 
-/// The text with every control, line-breaking, bidirectional-formatting and
-/// lone-surrogate character written as `\u{XXXX}`, so that a dump stays on one
+/// The text with every control, line-breaking and bidirectional-formatting character,
+/// byte order mark and lone surrogate written as `\u{XXXX}`, so that a dump stays on one
 /// line and a terminal obeys nobody's name.
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString escaped(const QString &text);
 
@@ -52,8 +52,8 @@ std::ostream &streamRange(std::ostream &out, const Range &range)
 
 } // namespace kiv::foundation
 
-// Qt's debug stream knows neither sets nor optionals of the standard library
-// before Qt 6.5; these stand in Qt's look-up namespace of the element types.
+// The money library knows nothing of Qt. These stand in its namespace, where look-up
+// finds them for its types.
 namespace numira {
 KIV_FOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Currency &currency);
 KIV_FOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Money &money);

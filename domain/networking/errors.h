@@ -9,7 +9,7 @@
 
 namespace kiv::networking {
 
-/// A reply of a server that is refused. Its text is English and for the log.
+/// A reply of a server that is refused. The user finds its text in the log.
 class KIV_NETWORKING_EXPORT ReplyError final : public foundation::Error {
 public:
     using foundation::Error::Error;

@@ -13,8 +13,8 @@
 namespace kiv::networking {
 
 /// How a request ended: with a body and its content type, or with the reason
-/// for which there is none. A reason is English and for the log; it never holds
-/// the request's address, whose query may carry a secret.
+/// for which there is none. A reason is a sentence for the user, who finds it in the
+/// log; it never holds the request's address, whose query may carry a secret.
 class KIV_NETWORKING_EXPORT Response {
 public:
     /// A failure without a reason.

@@ -31,7 +31,8 @@ public:
     /// Mended where it needs it.
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
-    /// The file that was loaded or saved last; empty before.
+    /// The file that was chosen; empty before. A load or store that fails chooses the
+    /// one that was loaded or saved last again, if there is one.
     [[nodiscard]] QString filePathName() const override;
 
 private:

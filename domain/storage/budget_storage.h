@@ -57,7 +57,8 @@ public:
     /// Throws StorageError when the data cannot be stored; the file is as it
     /// was before then.
     virtual void store(const Data &data) = 0;
-    /// The file that was loaded or saved last; empty before.
+    /// The file that was chosen; empty before. A load or store that fails chooses the
+    /// one that was loaded or saved last again, if there is one.
     [[nodiscard]] virtual QString filePathName() const = 0;
 
 protected:

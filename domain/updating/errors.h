@@ -17,7 +17,7 @@ public:
 namespace internal {
 
 [[nodiscard]] UpdateError notAVersion(const QString &text);
-// These go to the log and are English.
+// Where the user finds these is the log.
 [[nodiscard]] UpdateError releaseMemberMalformed(const QString &member);
 [[nodiscard]] UpdateError notAListOfReleases();
 

@@ -61,8 +61,8 @@ public:
     void rename(const banking::BankName &from, const banking::BankName &to);
 
     /// Opens the bank, then its accounts in order. An account that cannot be
-    /// opened (because it is open) ends this with its error, and what was
-    /// opened before stays open.
+    /// opened (because it is open) ends this with its error; the bank and the
+    /// accounts that were opened before stay open.
     void open(const banking::BankName &name);
     /// Closes the bank and all of its accounts, or nothing.
     void close(const banking::BankName &name);
