@@ -22,7 +22,8 @@ namespace kiv::accounting {
 ///   positive amount, and two different accounts;
 /// - each side of a transaction is kept in its account's currency, converted
 ///   once, when it was posted, and rounded half to even to that currency's minor unit;
-///   an amount in the account's own currency is kept as it is;
+///   an amount in the account's own currency is kept as it is, and both sides are
+///   equal when they are in one currency;
 /// - a balance is the sum of the account's sides, positive on its kind's own
 ///   side; the sums of its debits and of its credits never get out of range;
 /// - nothing is posted to a closed account, and a reconciled transaction is
@@ -116,10 +117,11 @@ public:
     /// which it or an account below it would be too deep.
     void recode(const AccountCode &from, const AccountCode &to);
     /// Keeps the account in another currency from now on: its own side of every
-    /// transaction is restated at the rate of the moment; statuses, the other
-    /// sides and the amounts as entered stay. Needs no rate without
-    /// transactions. Works on closed accounts. `generator` is not used at
-    /// present. Refused: an unknown account, a side that cannot be converted or
+    /// transaction is restated at the rate of the moment, or becomes the amount
+    /// as entered or that of the other side if that is in this currency;
+    /// statuses, the other sides and the amounts as entered stay. Works on closed
+    /// accounts. `generator` is not used at present. Refused: an unknown account,
+    /// a side that has to be converted and cannot be or
     /// comes to nothing, a balance out of range.
     void convertTo(AccountNumber number, const numira::Currency &currency,
                    AccountNumberGenerator &generator);
@@ -136,7 +138,7 @@ public:
     TransactionNumber post(const Transaction &transaction);
     /// Replaces a transaction under its number. A side whose account stays
     /// keeps its status, a new one has none; the opening mark stays. As long as
-    /// the amount stays, so does what an account got of it: correcting a
+    /// the amount stays, so does what it came to in a currency: correcting a
     /// description needs no rate. A refund's amount is taken in the currency of
     /// what it refunds.
     ///

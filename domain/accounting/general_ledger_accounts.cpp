@@ -172,7 +172,12 @@ void GeneralLedger::convertTo(AccountNumber number, const numira::Currency &curr
     sides.reserve(account.transactions.count());
     const internal::NumberSet &numbers = account.transactions;
     for (auto at = numbers.next({}); at.isValid(); at = numbers.next(at)) {
-        const numira::Money &side = m_state->record(at).amountFor(number);
+        const internal::TransactionRecord &record = m_state->record(at);
+        const numira::Money &side = record.amountFor(number);
+        if (const numira::Money *known = record.knownIn(currency)) {
+            sides.emplace_back(at, *known);
+            continue;
+        }
         numira::Money restated;
         try {
             restated = side.convertedTo(currency).rounded();

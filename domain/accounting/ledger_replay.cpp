@@ -12,9 +12,11 @@ using internal::AccountRecord;
 using internal::LedgerState;
 using internal::TransactionRecord;
 
-void checkSide(const AccountRecord &account, const numira::Money &amount, TransactionNumber number)
+void checkSide(const AccountRecord &account, const numira::Money &amount,
+               const TransactionRecord &record, TransactionNumber number)
 {
-    if (!amount.isPositive() || amount.code() != account.currency())
+    if (!amount.isPositive() || amount.code() != account.currency() ||
+        *record.knownIn(amount.code()) != amount)
         throw internal::sideAmountWrong(number, amount, account.code);
 }
 
@@ -48,9 +50,10 @@ void LedgerReplay::post(Transaction transaction)
     if (state.table().find(number))
         throw internal::numberTaken(number);
     internal::checkTransaction(state, transaction, number);
-    checkSide(state.account(transaction.debiting().number()), transaction.debitAmount(), number);
-    checkSide(state.account(transaction.crediting().number()), transaction.creditAmount(), number);
-    m_ledger.change().exchange(number, internal::plainRecord(std::move(transaction)));
+    TransactionRecord record = internal::plainRecord(std::move(transaction));
+    checkSide(state.account(record.debit), record.debitAmount(), record, number);
+    checkSide(state.account(record.credit), record.creditAmount(), record, number);
+    m_ledger.change().exchange(number, std::move(record));
 }
 
 void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber original)

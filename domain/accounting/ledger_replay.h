@@ -23,8 +23,8 @@ public:
                     bool holdsOpenings);
     /// Posts under `transaction.number()`, with its side amounts and statuses.
     /// Refused besides: no number or one in use, a side amount that is not
-    /// positive or not in its account's currency. A side in the entered currency
-    /// may differ from the entered amount, as after GeneralLedger::convertTo.
+    /// positive, not in its account's currency, or another than the entered amount
+    /// or the other side's in the same currency.
     void post(Transaction transaction);
     /// `number` gives back some of `original`: accounts swapped, not more than
     /// is left, neither a refund of another.

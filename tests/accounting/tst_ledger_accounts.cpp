@@ -203,9 +203,9 @@ private slots:
         QVERIFY(balance(book.ledger, 4) == money("EUR", "249.75")); // 266.40 - 33.30 + 16.65
         QVERIFY(balance(book.ledger, 2) == balance(Book().ledger, 2));
 
-        // From the entered currency back into it: at today's rate, not as entered.
+        // Back into the entered currency, or into the other side's: without a rate.
         book.ledger.convertTo(no(9), numira::toCurrency("USD"), book.generator);
-        QVERIFY(found(book.ledger, 7).debitAmount() == usd("15.02")); // 5.00 / 0.333
+        QVERIFY(found(book.ledger, 7).debitAmount() == usd("10"));
         QVERIFY(rebuilt(book.ledger) == book.ledger);
 
         // Nothing to convert needs no rate, and a closed account can be.

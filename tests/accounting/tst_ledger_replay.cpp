@@ -218,6 +218,12 @@ private slots:
             posting(fourth.withSideAmounts(usd("0"), usd("1"))));
         row("post: credit elsewhere", "4 cannot have the amount €1.00 in the account '1 Bank'",
             posting(fourth.withSideAmounts(usd("1"), money("EUR", "1"))));
+        row("post: debit that differs", "4 cannot have the amount $2.00 in the account '2 Rent'",
+            posting(fourth.withSideAmounts(usd("2"), usd("1"))));
+        row("post: sides that differ", "4 cannot have the amount $2.00 in the account '1 Bank'",
+            posting(transfer(no(2), no(1), money("EUR", "1"))
+                        .withSideAmounts(usd("1"), usd("2"))
+                        .withNumber(txn(4))));
 
         row("refund: unknown original", "number 77", refunding(3, 77));
         const Transaction toThird = transfer(no(1), no(3), usd("1"));

@@ -72,15 +72,16 @@ private slots:
         QVERIFY(posted.debitAmount() == money("EUR", "6.02"));
         QVERIFY(balance(book.ledger, 9) == money("EUR", "11.02")); // 5.00 at the old rate
         QVERIFY(balance(book.ledger, 2) == usd("1855.90"));
-        // Nothing but a new amount or a new account asks for a rate again.
+        // Nothing but a new amount or a new currency asks for a rate again.
         ratesFromUsd().clear();
         book.ledger.repost(txn(8), Transaction(day("2026-04-01"), no(2), no(9),
                                                money("GBP", "12.05"), u"Other way"_qs));
         QVERIFY(found(book.ledger, 8).debitAmount() == usd("24.10"));
         QVERIFY(balance(book.ledger, 9) == money("EUR", "-1.02"));
-        for (const Transaction &changed : {transfer(no(2), no(9), money("GBP", "12.04")),
-                                           transfer(no(2), no(5), money("GBP", "12.05"))})
-            QVERIFY_THROWS_EXCEPTION(TransactionError, book.ledger.repost(txn(8), changed));
+        const Transaction changed = transfer(no(2), no(9), money("GBP", "12.04"));
+        QVERIFY_THROWS_EXCEPTION(TransactionError, book.ledger.repost(txn(8), changed));
+        book.ledger.repost(txn(8), transfer(no(2), no(5), money("GBP", "12.05")));
+        QCOMPARE(found(book.ledger, 8).creditAmount(), usd("24.10"));
         book.ledger.remove(txn(8));
         QVERIFY(book.ledger == before);
     }

@@ -154,8 +154,10 @@ private:
     void addBank()
     {
         banking::Bank::Accounts accounts;
-        if (m_data.generalLedger.hasLedger(accounting::AccountNumber(1)) && m_pick(2))
-            accounts.emplace(accounting::AccountNumber(1), banking::BankAccountTypes::Cash);
+        const accounting::AccountNumber first(1);
+        if (m_data.generalLedger.hasLedger(first) && m_pick(2) &&
+            m_data.generalLedger.ledger(first).type() == accounting::AccountTypes::Asset)
+            accounts.emplace(first, banking::BankAccountTypes::Cash);
         m_data.banks.add(banking::Bank(banking::BankName(name()), accounts, m_pick(2) == 0));
     }
 
@@ -163,7 +165,7 @@ private:
     {
         const banking::BankAccount account{
             banking::BankName(name()),
-            {accounting::AccountNumber(picked(9)), banking::BankAccountTypes::Loan}};
+            {accounting::AccountNumber(picked(9)), banking::BankAccountTypes::Cash}};
         surveying::CompletedSurvey survey(account, currency());
         if (m_pick(2)) {
             surveying::Distribution distribution;

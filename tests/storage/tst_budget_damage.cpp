@@ -9,6 +9,7 @@
 #include "support/damage.h"
 #include "support/message_log.h"
 
+#include <QtCore/QtEndian>
 #include <QtTest/QTest>
 
 #include <ctime>
@@ -111,6 +112,7 @@ private slots:
     void noFlippedBitOfTheLargestFileIsRead();
     void hostileFilesAreRefusedAtOnce_data();
     void hostileFilesAreRefusedAtOnce();
+    void rowsThatSharePagesAreRefused();
     void theFirstWrongRowOfAFullFileIsNamed();
     void aSealThatWasMadeAgainIsRight();
     void everyPromiseIsJudged();
@@ -280,6 +282,8 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
     row("huge amount", {"UPDATE transactions SET amount = '1' || hex(zeroblob(1000000))"});
     row("side of a missing account",
         {"UPDATE transactions SET debit = 9, debit_amount = '5', credit_amount = '5'"});
+    row("sides that differ",
+        {"UPDATE transactions SET debit_amount = '1', credit_amount = '2' WHERE number = 1"});
     row("side in nothing", {"UPDATE transactions SET debit_amount = '0'"});
     row("date that is none", {"UPDATE transactions SET date = '2026-02-30'"});
     row("year in letters", {"UPDATE transactions SET date = 'MMXX-02-03'"});
@@ -310,6 +314,8 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
                                       "(2, 1, 'Rent', 2)"});
     row("account twice in a bank", {"INSERT INTO banks VALUES(1, 'a', 0); INSERT INTO "
                                     "bank_accounts VALUES(1, 1, 1, 1), (2, 1, 1, 2)"});
+    row("account of no kind",
+        {"INSERT INTO banks VALUES(1, 'a', 0)", "INSERT INTO bank_accounts VALUES(1, 1, 1, 0)"});
     row("account of a missing bank", {"INSERT INTO bank_accounts VALUES(1, 1, 1, 1)"});
     row("bank without a name", {"INSERT INTO banks VALUES(1, '', 0)"});
     row("distribution of a missing survey",
@@ -320,6 +326,10 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce_data()
          "(2, 1, 1, 'a', '1', 'USD', NULL, '1', 'USD')"});
     row("percentage in words",
         {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', 'half', 6)"});
+    row("percentage that is no number",
+        {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', 'nan', 6)"});
+    row("tag twice", {"INSERT INTO item_tags VALUES(1, 1, 'Rent', 'a'), (2, 1, 'Rent', 'a')"});
+    row("second seal", {"INSERT INTO seal VALUES(2, '')"});
     row("percentage that is none",
         {"INSERT INTO surveys VALUES(1, 'a', 1, 1, '1', 'USD', NULL, '1', 'USD', '1 %', 6)"});
 }
@@ -350,6 +360,32 @@ void BudgetDamageTest::hostileFilesAreRefusedAtOnce()
     const QString verdicts = verdictsOn(m_path);
     QVERIFY2(verdicts.size() == 5 && verdicts.count(u'B') == 1, qPrintable(verdicts));
     QCOMPARE(m_folder.read(QStringLiteral("a.budget")), before);
+}
+
+void BudgetDamageTest::rowsThatSharePagesAreRefused()
+{
+    using storage::internal::pageSize;
+    test::store(m_path, {});
+    test::operate(m_path, Sql{"WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i + 1 FROM n "
+                              "WHERE i < 4) INSERT INTO item_tags "
+                              "SELECT i, 1, i, printf('%.*c', 3998370, 'n') FROM n"});
+    test::sealAgain(m_path);
+    QByteArray bytes = m_folder.read(u"a.budget"_s);
+    const auto numberAt = [&](qsizetype at) { return qFromBigEndian<quint32>(&bytes[at]); };
+    // The page of the four rows is filled from its end, and each row ends with the
+    // number of the page where its text goes on: all get the first one's.
+    const qsizetype page = bytes.indexOf(QByteArray::fromHex("0d00000004"));
+    const quint32 first = numberAt(page + pageSize - 4);
+    quint32 second = 0;
+    for (qsizetype row = 0; row < 3; ++row) {
+        const auto end = page + qFromBigEndian<quint16>(&bytes[page + 8 + 2 * row]);
+        second = row == 0 ? numberAt(end - 4) : second;
+        qToBigEndian(first, &bytes[end - 4]);
+    }
+    bytes.truncate(qsizetype(second - 1) * pageSize);
+    qToBigEndian(second - 1, &bytes[28]);
+    m_folder.write(u"a.budget"_s, bytes);
+    QCOMPARE(test::failureOf([&] { (void)test::load(m_path); }), StorageFailure::Damaged);
 }
 
 void BudgetDamageTest::theFirstWrongRowOfAFullFileIsNamed()
@@ -387,6 +423,18 @@ void BudgetDamageTest::aSealThatWasMadeAgainIsRight()
     test::sealAgain(m_path);
     QCOMPARE(test::load(m_path).generalLedger.accountCode(accounting::AccountNumber(1)).name(),
              QStringLiteral("other"));
+    // As 1.1.0 left an item's account that was converted and came back; and parents
+    // as deep as a ledger had let them in.
+    test::operate(m_path, Sql{"UPDATE accounts SET name = 'Car [Budget Item]' WHERE number = 1",
+                              "UPDATE transactions SET debit_amount = '4.99' WHERE number = 1",
+                              "WITH RECURSIVE n(i) AS (VALUES(3) UNION ALL SELECT i + 1 FROM n "
+                              "WHERE i < 203) INSERT INTO accounts SELECT i, 'deep', i - 1, 1, "
+                              "'USD', 0, 0, NULL FROM n"});
+    test::sealAgain(m_path);
+    const Data loaded = test::load(m_path);
+    QVERIFY(loaded.generalLedger.hasLedger(accounting::AccountNumber(203)));
+    QCOMPARE(loaded.generalLedger.ledger(accounting::AccountNumber(1)).balance(),
+             numira::Money(numira::toCurrency("USD"), 3, 0));
 }
 
 void BudgetDamageTest::everyPromiseIsJudged()

@@ -127,9 +127,10 @@ TransactionRecord newRecord(const LedgerState &state, const Transaction &transac
     checkTransaction(state, transaction, number);
     TransactionRecord record = plainRecord(transaction);
     const auto side = [&](AccountNumber account) {
-        if (before && before->amount == record.amount && before->involves(account))
-            return before->amountFor(account);
-        return convertedAmount(record.amount, state.account(account).currency(), number);
+        const numira::Currency &currency = state.account(account).currency();
+        const bool isSameAmount = before && before->amount == record.amount;
+        const numira::Money *known = isSameAmount ? before->knownIn(currency) : nullptr;
+        return known ? *known : convertedAmount(record.amount, currency, number);
     };
     record.setSideAmounts(side(record.debit), side(record.credit));
     return record;

@@ -37,7 +37,8 @@ void checkTransaction(const LedgerState &state, const Transaction &transaction,
 
 /// The checked transaction as the ledger keeps it, with its sides converted
 /// into the currencies of their accounts. When it takes the place of `before`
-/// with the same amount, a side whose account stays is not converted again.
+/// with the same amount, what that had in a currency stays and is not converted
+/// again.
 /// Throws as the two above.
 [[nodiscard]] TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
                                           TransactionNumber number,

@@ -69,6 +69,17 @@ struct TransactionRecord {
     {
         return account == debit ? debitAmount() : creditAmount();
     }
+    /// The amount that stands in this currency: the entered one, or that of a
+    /// side. Those of one currency are equal, so that debits equal credits. Null
+    /// when there is none.
+    [[nodiscard]] const numira::Money *knownIn(const numira::Currency &currency) const noexcept
+    {
+        for (const numira::Money *known : {&amount, &debitAmount(), &creditAmount()}) {
+            if (known->code() == currency)
+                return known;
+        }
+        return nullptr;
+    }
     [[nodiscard]] bool isReconciled() const noexcept
     {
         return debitStatus == TransactionStatuses::Reconciled ||

@@ -53,8 +53,9 @@ void writeSeal(const ImageDatabase &database, Seal &seal)
 
 void checkSeal(const ImageDatabase &database, Seal &seal)
 {
-    Statement select(database, "SELECT sha256 FROM seal WHERE id = 1");
-    if (!select.step() || bytesOf(sqlite3_column_value(select.get(), 0)) != seal.result())
+    Statement select(database, "SELECT id, sha256 FROM seal");
+    if (!select.step() || sqlite3_column_int64(select.get(), 0) != 1 ||
+        bytesOf(sqlite3_column_value(select.get(), 1)) != seal.result() || select.step())
         throw ContentFault(QObject::tr("The checksum is wrong."));
 }
 
@@ -154,7 +155,7 @@ BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
 {
     const std::uint32_t version = versionOf(image);
     const ImageDatabase database(image, version);
-    Seal seal(version);
+    Seal seal(version, image.size());
     BudgetStorage::Data data = readTables(database, seal, mended);
     // What was read counts only now.
     checkSeal(database, seal);
@@ -171,7 +172,7 @@ void checkSeal(QByteArrayView image)
 {
     const std::uint32_t version = versionOf(image);
     const ImageDatabase database(image, version);
-    Seal seal(version);
+    Seal seal(version, image.size());
     const auto tables = tablesOf(version);
     for (const TableDefinition &table : tables.first(tables.size() - 1))
         sealRows(database, table.name, seal);

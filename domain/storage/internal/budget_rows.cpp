@@ -7,6 +7,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace kiv::storage::internal {
@@ -130,7 +131,7 @@ foundation::Percentage readPercentage(RowReader &row)
     const QByteArray text = row.text().toLatin1();
     double rate = 0.0;
     const auto [end, error] = std::from_chars(text.begin(), text.end(), rate);
-    if (error != std::errc() || end != text.end())
+    if (error != std::errc() || end != text.end() || !std::isfinite(rate))
         row.refuse("has a malformed percentage");
     const auto digits = row.integer(0, std::numeric_limits<std::uint8_t>::max());
     return {rate, static_cast<std::uint8_t>(digits)};
@@ -246,7 +247,10 @@ banking::BankMap readBanks(const ImageDatabase &database, Seal &seal)
         if (bank == rows.end())
             row.refuse("is about no bank");
         const AccountNumber number = accountNumber(row);
-        if (!bank->second.accounts.emplace(number, row.enumerator(BankAccountTypes::Cash)).second)
+        const auto type = row.enumerator(BankAccountTypes::Cash);
+        if (type == BankAccountTypes::Unknown)
+            row.refuse("gives a bank an account of no kind");
+        if (!bank->second.accounts.emplace(number, type).second)
             row.refuse("gives a bank an account twice");
     }
     banking::BankMap banks;
@@ -339,7 +343,10 @@ tagging::BudgetItemTags readItemTags(const ImageDatabase &database, Seal &seal)
     RowReader row(database, Table::ItemTags, seal);
     while (row.next()) {
         tagging::Tags &tags = rows[readIdentifier(row)];
-        tags.insert(tagging::Tag(row.text()));
+        tagging::Tag tag(row.text());
+        if (tags.contains(tag))
+            row.refuse("gives an item a tag twice");
+        tags.insert(std::move(tag));
     }
     tagging::BudgetItemTags tags;
     for (auto &[item, itemTags] : rows)

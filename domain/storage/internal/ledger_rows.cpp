@@ -6,10 +6,13 @@
 #include "storage/internal/pipeline.h"
 #include "storage/internal/text_codec.h"
 
+#include "budgeting/item_account.h"
+
 #include <QtCore/QObject>
 
 #include <limits>
 #include <map>
+#include <set>
 #include <vector>
 
 namespace kiv::storage::internal {
@@ -163,9 +166,44 @@ std::optional<QString> descriptionOf(const TransactionRow &row, const std::vecto
     return text;
 }
 
-/// The transaction with its sides as they were stored.
+bool isItemsAccount(const AccountRow &account)
+{
+    static const QString suffix = budgeting::itemAccountName(budgeting::BudgetSource());
+    return account.name.endsWith(suffix);
+}
+
+/// Version 1.1.0 took the rate of the moment when an item's account came back to
+/// the entered currency, or the account of a side was exchanged. So amounts in one
+/// currency could differ, which the ledger refuses. The accounts whose sides are
+/// made equal to the other amount go into `settled`.
+void settleSides(numira::Money &debit, numira::Money &credit, const TransactionRow &row,
+                 const AccountRows &accounts, std::set<AccountNumber> &settled)
+{
+    const auto settle = [&](numira::Money &side, const numira::Money &other, AccountNumber number) {
+        if (side.code() == other.code() && side != other) {
+            side = other;
+            settled.insert(number);
+        }
+    };
+    const auto isItems = [&](AccountNumber number) {
+        const auto account = accounts.find(number);
+        return account != accounts.end() && isItemsAccount(account->second);
+    };
+    if (isItems(row.debit))
+        settle(debit, row.amount, row.debit);
+    if (isItems(row.credit))
+        settle(credit, row.amount, row.credit);
+    if (debit.code() == row.amount.code())
+        return;
+    if (isItems(row.debit))
+        settle(debit, credit, row.debit);
+    else
+        settle(credit, debit, row.credit);
+}
+
+/// The transaction with its sides as they were stored, or as they are mended.
 Transaction transactionOf(const TransactionRow &row, const std::vector<char> &texts,
-                          const AccountRows &accounts)
+                          const AccountRows &accounts, std::set<AccountNumber> &settled)
 {
     Transaction transaction(row.date, row.debit, row.credit, row.amount, descriptionOf(row, texts),
                             row.number, row.debitStatus);
@@ -179,18 +217,21 @@ Transaction transactionOf(const TransactionRow &row, const std::vector<char> &te
                    ? numira::Money(account->second.currency, *amount)
                    : row.amount;
     };
-    return transaction.withSideAmounts(side(row.debit, row.debitAmount),
-                                       side(row.credit, row.creditAmount));
+    numira::Money debit = side(row.debit, row.debitAmount);
+    numira::Money credit = side(row.credit, row.creditAmount);
+    settleSides(debit, credit, row, accounts, settled);
+    return transaction.withSideAmounts(debit, credit);
 }
 
 Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
-                           const ImageDatabase &database, Seal &seal)
+                           const ImageDatabase &database, Seal &seal,
+                           std::set<AccountNumber> &settled)
 {
     Refunds refunds;
     // To read the rows of a full ledger and to apply its rules takes about as long.
     Pipeline<TransactionRows> posting([&](TransactionRows &part) {
         for (const TransactionRow &row : part.rows)
-            replay.post(transactionOf(row, part.texts, accounts));
+            replay.post(transactionOf(row, part.texts, accounts, settled));
         part.rows.clear();
         part.texts.clear();
     });
@@ -248,8 +289,15 @@ accounting::GeneralLedger readLedger(const ImageDatabase &database, Seal &seal, 
     LedgerReplay replay;
     AccountRows accounts = readAccounts(database, seal);
     replayAccounts(replay, accounts);
-    for (const auto &[refund, original] : replayTransactions(replay, accounts, database, seal))
+    std::set<AccountNumber> settled;
+    for (const auto &[refund, original] :
+         replayTransactions(replay, accounts, database, seal, settled))
         replay.markRefund(refund, original);
+    for (const AccountNumber number : settled) {
+        mended << QObject::tr("Amounts in the account '%1' that differed from those of their "
+                              "transactions in the same currency were corrected.")
+                      .arg(accounts.at(number).name);
+    }
     for (const auto &[number, account] : accounts) {
         if (account.openedBy)
             replay.markOpening(number, *account.openedBy);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/seal.h"
 
+#include "storage/internal/errors.h"
+
 #include <charconv>
 #include <utility>
 
@@ -13,8 +15,9 @@ constexpr qsizetype blockSize = qsizetype{64} * 1024;
 
 } // namespace
 
-Seal::Seal(std::uint32_t version)
-    : m_dump(blockSize),
+Seal::Seal(std::uint32_t version, qint64 textsMax)
+    : m_textsLeft(textsMax),
+      m_dump(blockSize),
       m_at(m_dump.data()),
       m_end(m_at + blockSize),
       m_hashing([this](const std::vector<char> &bytes) { hash(bytes); })
@@ -69,6 +72,11 @@ void Seal::makeRoom(qsizetype size)
     m_at = next.data();
     m_end = m_at + next.size();
     m_hashing.add(std::exchange(m_dump, std::move(next)));
+}
+
+void Seal::refuseText()
+{
+    throw ContentFault(std::string("There are more texts than the file has room for."));
 }
 
 void Seal::hash(const std::vector<char> &bytes) noexcept

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 namespace kiv::storage::internal {
@@ -24,13 +25,19 @@ namespace kiv::storage::internal {
 /// ":" TEXT for a text of so many bytes.
 class Seal {
 public:
-    explicit Seal(std::uint32_t version);
+    /// All texts together have at most `textsMax` bytes: those of an image have
+    /// no more than the image, unless rows share what belongs to one of them.
+    explicit Seal(std::uint32_t version, qint64 textsMax = std::numeric_limits<qint64>::max());
 
     void beginTable(const char *name);
     void null() { append('-'); }
     void integer(std::int64_t value) { appendNumber('i', value, ';'); }
+    /// Throws ContentFault when it is one too many.
     void text(QByteArrayView value)
     {
+        m_textsLeft -= value.size();
+        if (m_textsLeft < 0)
+            refuseText();
         appendNumber('t', value.size(), ':');
         append(value);
     }
@@ -54,10 +61,12 @@ private:
         return m_at;
     }
     void makeRoom(qsizetype size);
+    [[noreturn]] static void refuseText();
     void hash(const std::vector<char> &bytes) noexcept;
 
     // Nettle's, because it uses the processor's own instructions for it.
     sha256_ctx m_hash;
+    qint64 m_textsLeft;
     std::vector<char> m_dump; ///< what is not hashed yet, up to m_at, and room for more
     char *m_at;
     char *m_end;
