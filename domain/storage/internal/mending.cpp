@@ -27,7 +27,8 @@ public:
             [this]<typename Item>(std::type_identity<Item>) { nameUnnamed<Item>(); });
         // Whatever names a missing account goes first: an account that is opened
         // anew may get its number.
-        dropMissingBankAccounts();
+        dropBankAccounts();
+        carrySurveys();
         budgeting::forEachItemClass(
             [this]<typename Item>(std::type_identity<Item>) { dropMissingTies<Item>(); });
         budgeting::forEachItemClass(
@@ -187,18 +188,75 @@ private:
         return handout.number();
     }
 
-    void dropMissingBankAccounts()
+    void dropBankAccounts()
     {
         const banking::BankMap banks = m_data.banks;
         for (const auto &[name, bank] : banks) {
-            for (const auto &[number, type] : bank.accounts()) {
-                if (m_data.generalLedger.hasLedger(number))
+            for (const auto &[number, kind] : bank.accounts()) {
+                const bool isThere = m_data.generalLedger.hasLedger(number);
+                if (isThere && canBeAtBank(m_data.generalLedger.ledger(number).type()))
                     continue;
                 m_data.banks.remove(name, number);
-                m_mended << QObject::tr("The bank '%1' had the account %2, which is gone.")
+                m_mended << (isThere ? QObject::tr("The bank '%1' had the account %2, which is "
+                                                   "neither an asset nor a liability.")
+                                     : QObject::tr("The bank '%1' had the account %2, which is "
+                                                   "gone."))
                                 .arg(name.institution(), presentationText(number));
             }
         }
+    }
+
+    static bool canBeAtBank(accounting::AccountTypes type)
+    {
+        return type == accounting::AccountTypes::Asset ||
+               type == accounting::AccountTypes::Liability;
+    }
+
+    /// A proposal finds the last survey by bank and number, the check of what comes
+    /// of it by the kind as well. So an account has one survey, under its present kind.
+    void carrySurveys()
+    {
+        surveying::CompletedSurveys carried;
+        for (const auto &[account, survey] : m_data.surveys) {
+            const banking::BankAccount present = asKept(account);
+            const auto other = carried.lookUpSurvey(present);
+            const auto day = [](const auto &one) { return one.reconciled().reconciledOn(); };
+            if (present == account && (!other || day(survey) >= day(*other)))
+                carried.upsert(survey);
+            if (present == account)
+                continue;
+            if (!other || day(survey) > day(*other))
+                carried.upsert(movedTo(present, survey));
+            m_mended << QObject::tr("The last survey of the account %1 at the bank '%2' was made "
+                                    "when it was another kind of account; it counts for the "
+                                    "present kind, unless a later one does.")
+                            .arg(presentationText(account.account.number),
+                                 account.bank.institution());
+        }
+        m_data.surveys = std::move(carried);
+    }
+
+    static surveying::CompletedSurvey movedTo(banking::BankAccount account,
+                                              const surveying::CompletedSurvey &survey)
+    {
+        const numira::Money &balance = survey.reconciled().balance();
+        surveying::CompletedSurvey moved(std::move(account), balance.code());
+        if (const auto &day = survey.reconciled().reconciledOn())
+            moved.completed(*day, balance, survey.distribution(), survey.nonDistributed(),
+                            survey.window());
+        return moved;
+    }
+
+    /// The same with the kind that its bank knows it by, if it keeps it.
+    banking::BankAccount asKept(banking::BankAccount account) const
+    {
+        if (m_data.banks.hasBank(account.bank)) {
+            const banking::Bank::Accounts &kept = m_data.banks.bank(account.bank).accounts();
+            const auto found = kept.find(account.account.number);
+            if (found != kept.end())
+                account.account.type = found->second;
+        }
+        return account;
     }
 
     BudgetStorage::Data &m_data;

@@ -16,7 +16,9 @@ namespace kiv::storage::internal {
 ///   account that bears its name and is of its kind, if no other item has it;
 ///   otherwise its account is opened anew;
 /// - an account of an item that is gone is no longer tied to it;
-/// - a bank loses an account that is gone.
+/// - a bank loses an account that is gone, or is neither an asset nor a liability;
+/// - a survey of an account that its bank keeps as another kind by now becomes one
+///   of that kind; of two the later one stays.
 ///
 /// Data that fits together is left as it is.
 void mend(BudgetStorage::Data &data, QStringList &mended);
