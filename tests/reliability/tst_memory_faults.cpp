@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fault_rig.h"
 
+#include "storage/internal/pipeline.h"
 #include "support/damage.h"
 
 using namespace kiv;
@@ -14,6 +15,7 @@ class MemoryFaults : public QObject {
 private slots:
     void everyFailureLeavesNoTrace_data();
     void everyFailureLeavesNoTrace();
+    void aWorkerThatWantsMemoryEndsNothing();
 };
 
 void MemoryFaults::everyFailureLeavesNoTrace_data()
@@ -50,6 +52,24 @@ void MemoryFaults::everyFailureLeavesNoTrace()
     if (!broken.isEmpty())
         QTextStream(stderr) << broken.join(u'\n') << '\n';
     QVERIFY(broken.isEmpty() && trials > 200);
+}
+
+void MemoryFaults::aWorkerThatWantsMemoryEndsNothing()
+{
+    long wants = 0;
+    for (long due = 1; wants == due - 1; ++due) {
+        fault = {.isOn = true, .place = Fault::Place::Memory, .due = due};
+        try {
+            storage::internal::Pipeline<int> pipeline([](int &) {});
+            for (int part = 0; part < 64; ++part)
+                pipeline.add(int(part));
+            pipeline.finish(0);
+        } catch (const std::bad_alloc &) {
+            ++wants;
+        }
+        fault = {};
+    }
+    QVERIFY(wants > 1);
 }
 
 QTEST_GUILESS_MAIN(MemoryFaults)

@@ -71,6 +71,9 @@ private:
 
     void start()
     {
+        // Taken here, where want of memory is an error; the worker has nobody to
+        // tell.
+        m_spare.reserve(waitingMax);
         try {
             m_thread = std::thread([this] { run(); });
         } catch (const std::system_error &) {
@@ -118,7 +121,8 @@ private:
                 m_changed.notify_all();
                 workOn(part);
                 lock.lock();
-                m_spare.push_back(std::move(part));
+                if (m_spare.size() < m_spare.capacity())
+                    m_spare.push_back(std::move(part));
             }
         }
     }
