@@ -95,6 +95,7 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
 { return ask<SYS_linkat>("linkat", fromFolder, from, toFolder, to, flags); }
 int renameat(int fromFolder, const char *from, int toFolder, const char *to)
 { return ask<SYS_renameat2>("renameat", fromFolder, from, toFolder, to, 0); }
+int unlink(const char *path) { return ask<SYS_unlink>("unlink", path); }
 int unlinkat(int folder, const char *path, int flags) { return ask<SYS_unlinkat>("unlinkat", folder, path, flags); }
 
 } // extern "C"

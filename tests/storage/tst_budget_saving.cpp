@@ -178,14 +178,16 @@ void BudgetSavingTest::aLimitOfFileSizeIsAnError()
 {
     rlimit limit = {};
     ::getrlimit(RLIMIT_FSIZE, &limit);
-    const rlimit tight{10'000, limit.rlim_max};
+    m_file.emplace(); // each attempt makes its lock
     const QStringList names = m_folder->names();
     const QByteArray before = m_folder->read(u"home.budget"_qs);
     sigset_t signal;
     sigemptyset(&signal);
     sigaddset(&signal, SIGXFSZ);
     // A program that holds the limit's signal back still holds it back then.
-    for (const int how : {SIG_UNBLOCK, SIG_BLOCK}) {
+    for (const auto &[how, size] : {std::pair(SIG_UNBLOCK, 0U), std::pair(SIG_UNBLOCK, 10'000U),
+                                    std::pair(SIG_BLOCK, 10'000U)}) {
+        const rlimit tight{size, limit.rlim_max};
         sigset_t mask;
         pthread_sigmask(how, &signal, nullptr);
         ::setrlimit(RLIMIT_FSIZE, &tight);

@@ -46,6 +46,8 @@ private slots:
     void otherFilesAreNotOverwritten();
     void whatMayNotBeWrittenStays_data();
     void whatMayNotBeWrittenStays();
+    void whatIsInTheWayStays_data();
+    void whatIsInTheWayStays();
     void linksAreFollowed();
     void attributesAreKept();
 };
@@ -201,6 +203,10 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays_data()
     QTest::newRow("file") << 0777U << 0444U << QString() << unwritten;
     QTest::newRow("file that hides") << 0777U << 0222U << unread << unread;
     QTest::newRow("folder that hides") << 0333U << 0666U << QString() << unwritten;
+    if (::geteuid() == 0)
+        QTest::newRow("folder whose files stay their owners'")
+            << 01777U << 0666U << QString()
+            << u"The file '%1' could not be saved: Operation not permitted."_qs;
     QTest::newRow("closed folder") << 0666U << 0666U << unread << unread;
 }
 
@@ -246,6 +252,58 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
     const Nobody nobody;
     QCOMPARE(loading(m_path), std::nullopt);
     QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
+}
+
+void BudgetTargetsTest::whatIsInTheWayStays_data()
+{
+    using Make = std::function<void(const QByteArray &)>;
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<Make>("make");
+    const auto row = [](const char *title, const QString &name, const Make &make) {
+        QTest::newRow(title) << name << make;
+    };
+    const auto text = [](const QByteArray &content) {
+        return [content](const QByteArray &path) {
+            QFile file(QFile::decodeName(path));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) > 0);
+        };
+    };
+    const QString lock = u"home.budget.lock"_qs;
+    row("text as a lock", lock, text("Dear John\n"));
+    row("number as a lock", lock, text("4711\n"));
+    row("folder as a lock", lock, [](const QByteArray &path) { ::mkdir(path, 0700); });
+    row("link as a lock", lock, [](const QByteArray &path) { ::symlink("home.budget", path); });
+    row("second name as a lock", lock, [=](const QByteArray &path) {
+        text("1\ninit\nelsewhere\n")(path);
+        ::link(path, QByteArray(path + "2"));
+    });
+    row("folder as what is being saved", u".home.budget.saving"_qs,
+        [](const QByteArray &path) { ::mkdir(path, 0700); });
+}
+
+void BudgetTargetsTest::whatIsInTheWayStays()
+{
+    QFETCH(QString, name);
+    QFETCH(std::function<void(const QByteArray &)>, make);
+    m_file.emplace(); // locks nothing any more
+    make(QFile::encodeName(m_folder->path(name)));
+    const QStringList names = m_folder->names();
+    const QByteArray before = m_folder->read(name);
+    for (const bool isSaved : {false, true}) {
+        m_file->setFilePathName(m_path);
+        try {
+            if (isSaved)
+                m_file->store(budget(u"Second"_qs));
+            else
+                (void)m_file->load();
+            QVERIFY(!isSaved && !name.endsWith(u".lock"_qs));
+        } catch (const storage::StorageError &error) {
+            QVERIFY2(error.message().contains(m_folder->path(name)), qPrintable(error.message()));
+        }
+    }
+    m_file.reset();
+    QCOMPARE(m_folder->names(), names);
+    QCOMPARE(m_folder->read(name), before);
 }
 
 void BudgetTargetsTest::linksAreFollowed()

@@ -110,6 +110,10 @@ QString brokenPromise(Saver save, const test::FailingCalls &failing,
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
     if (failure && desk.folder.read(backup) != bytesOf(1))
         return QStringLiteral("a failed save changed the backup");
+    // The lock of a file that is not open went with the attempt.
+    if (failure && standing != Standing::Open && failing.times == 1 &&
+        desk.folder.names().contains(name + u".lock"_qs))
+        return QStringLiteral("the lock file was left");
     const QStringList after = desk.names();
     if (failure && after != before && failing.name != "unlinkat")
         return QStringLiteral("left behind: %1").arg(after.join(u' '));
@@ -180,6 +184,7 @@ private slots:
     void whatCannotBeTakenBackIsSavedTheNextTime_data();
     void whatCannotBeTakenBackIsSavedTheNextTime();
     void onlyWhereThereAreNoLocksItGoesOnWithout();
+    void theLockFileGoesWithTheFile();
     void theReasonIsTheSystemsOwn();
     void rightsOfALostGroupGoToNobody();
     void aLoadIsHonestToo_data();
@@ -326,6 +331,21 @@ void SaveFaultsTest::onlyWhereThereAreNoLocksItGoesOnWithout()
     }
 }
 
+void SaveFaultsTest::theLockFileGoesWithTheFile()
+{
+    for (const char *call : {"lstat", "unlink"}) {
+        const Desk desk(Standing::NotOpen);
+        {
+            storage::BudgetFile file;
+            file.setFilePathName(desk.path);
+            (void)file.load();
+            fail(call, 1, EIO);
+        }
+        failingCalls = {};
+        QVERIFY2(!desk.folder.names().contains(name + u".lock"_qs), call);
+    }
+}
+
 void SaveFaultsTest::theReasonIsTheSystemsOwn()
 {
     Desk desk;
@@ -389,24 +409,29 @@ void SaveFaultsTest::aLoadIsHonestToo_data()
     };
     row("not to be asked for", "access", 1, EIO, {}, std::nullopt);
     row(
-        "gone", "lstat", 2, 0, [](const Desk &d) { QFile::remove(d.path); },
+        "gone", "lstat", 3, 0, [](const Desk &d) { QFile::remove(d.path); },
         StorageFailure::NotFound);
     row(
         "cut short", "read", 1, 0, [](const Desk &d) { QFile::resize(d.path, 5000); },
         StorageFailure::Damaged);
     row(
-        "lock replaced", "lstat", 1, 0,
+        "lock replaced", "lstat", 2, 0,
         [](const Desk &d) {
             QFile::remove(d.path + u".lock"_qs);
             d.folder.write(name + u".lock"_qs, "");
         },
         std::nullopt);
     row(
-        "lock only to be read", "open", 1, EACCES,
-        [](const Desk &d) { d.folder.write(name + u".lock"_qs, ""); }, std::nullopt);
-    row(
-        "lock not to be opened", "open", 1, EACCES, [](const Desk &) { fail("open", 1, EACCES); },
+        "lock only to be read", "lstat", 1, 0,
+        [](const Desk &d) {
+            d.folder.write(name + u".lock"_qs, "");
+            fail("open", 1, EACCES);
+        },
         std::nullopt);
+    row("lock not to be made", "open", 1, EACCES, {}, std::nullopt);
+    row(
+        "lock made by another just then", "open", 1, 0,
+        [](const Desk &d) { d.folder.write(name + u".lock"_qs, ""); }, std::nullopt);
 }
 
 void SaveFaultsTest::aLoadIsHonestToo()

@@ -3,46 +3,21 @@
 
 #include "storage/internal/errors.h"
 #include "storage/internal/file_attributes.h"
+#include "storage/internal/file_size_signal.h"
 
 #include "foundation/streams.h"
 
 #include <QtCore/QDebug>
+#include <QtCore/QFile>
 #include <QtCore/QObject>
 
 #include <algorithm>
 #include <cstring>
 
-#include <csignal>
 #include <fcntl.h>
 
 namespace kiv::storage::internal {
 namespace {
-
-/// Turns the signal that comes with a write over the process's limit of file
-/// sizes into the error that the write gives as well.
-class NoFileSizeSignal {
-public:
-    NoFileSizeSignal() noexcept
-    {
-        sigemptyset(&m_signal);
-        sigaddset(&m_signal, SIGXFSZ);
-        pthread_sigmask(SIG_BLOCK, &m_signal, &m_before);
-    }
-    ~NoFileSizeSignal()
-    {
-        if (!sigismember(&m_before, SIGXFSZ)) {
-            const timespec atOnce = {};
-            sigtimedwait(&m_signal, nullptr, &atOnce);
-        }
-        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
-    }
-    NoFileSizeSignal(const NoFileSizeSignal &) = delete;
-    NoFileSizeSignal &operator=(const NoFileSizeSignal &) = delete;
-
-private:
-    sigset_t m_signal{};
-    sigset_t m_before{};
-};
 
 /// The path under which the system shows an open file to its process.
 QByteArray pathOf(const FileDescriptor &file)
@@ -105,7 +80,21 @@ void AtomicFileWriter::openFolder()
     // for: a file that is marked read-only is to stay as it is.
     if (m_replaced) {
         check(::faccessat(m_folder.get(), m_target.name().constData(), W_OK, AT_EACCESS) == 0);
+        checkSticky();
     }
+}
+
+/// In a folder with the sticky bit only the owner of a file, or of the folder, takes a
+/// name away. Asked before, because a link to the old version could not be removed.
+void AtomicFileWriter::checkSticky() const
+{
+    struct stat folder = {};
+    struct stat file = {};
+    check(::fstat(m_folder.get(), &folder) == 0 &&
+          ::fstatat(m_folder.get(), m_target.name().constData(), &file, AT_SYMLINK_NOFOLLOW) == 0);
+    const uid_t user = ::geteuid();
+    if ((folder.st_mode & S_ISVTX) && user != 0 && user != folder.st_uid && user != file.st_uid)
+        throw cannotWrite(m_target.shownPath(), EPERM);
 }
 
 /// A writer that was stopped left its new version, finished or not, or the old
@@ -138,7 +127,7 @@ void AtomicFileWriter::createTemporary()
     m_temporary =
         FileDescriptor(::openat(m_folder.get(), m_temporaryName.constData(),
                                 O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-    check(static_cast<bool>(m_temporary));
+    check(static_cast<bool>(m_temporary), m_temporaryName);
     m_hasTemporaryName = true;
 }
 
@@ -194,7 +183,8 @@ void AtomicFileWriter::nameTemporary()
     if (m_hasTemporaryName)
         return;
     check(::linkat(AT_FDCWD, pathOf(m_temporary).constData(), m_folder.get(),
-                   m_temporaryName.constData(), AT_SYMLINK_FOLLOW) == 0);
+                   m_temporaryName.constData(), AT_SYMLINK_FOLLOW) == 0,
+          m_temporaryName);
     m_hasTemporaryName = true;
 }
 
@@ -208,7 +198,7 @@ void AtomicFileWriter::keepPrevious()
         qWarning().noquote() << foundation::escaped(
             QObject::tr("Saving without a backup: %1").arg(qt_error_string(errno)));
     else
-        check(m_hasPreviousName);
+        check(m_hasPreviousName, m_previousName);
 }
 
 void AtomicFileWriter::checkUnchanged()
@@ -256,8 +246,10 @@ void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
     m_hasPreviousName = false;
 }
 
-void AtomicFileWriter::check(bool wentWell) const
+void AtomicFileWriter::check(bool wentWell, const QByteArray &made) const
 {
+    if (!wentWell && errno == EEXIST && !made.isEmpty())
+        throw inTheWay(m_target.shownPath(), QFile::decodeName(m_target.folder() + '/' + made));
     if (!wentWell)
         throw cannotWrite(m_target.shownPath(), errno);
 }

@@ -33,6 +33,7 @@ public:
 
 private:
     void openFolder();
+    void checkSticky() const;
     void clearLeftovers(unsigned backups);
     void createTemporary();
     void writeAll(QByteArrayView bytes);
@@ -44,8 +45,9 @@ private:
     void syncFolder();
     void turnPreviousIntoBackup(unsigned backups);
 
-    /// Throws CannotWrite for errno unless the call went well.
-    void check(bool wentWell) const;
+    /// Throws CannotWrite for errno unless the call went well; `made` is the name
+    /// that it was to make, if any.
+    void check(bool wentWell, const QByteArray &made = {}) const;
     [[nodiscard]] std::optional<FileStamp> stampOf(const QByteArray &name) const;
 
     const FileTarget &m_target;

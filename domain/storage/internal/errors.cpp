@@ -80,6 +80,14 @@ StorageError locked(const QString &path, const QString &holder)
             : QObject::tr("The file '%1' is in use by another program (%2).").arg(path, holder)};
 }
 
+StorageError notALock(const QString &path, const QString &lockPath)
+{
+    return {StorageFailure::NotOurs, lockPath,
+            QObject::tr("The file '%1' cannot be locked: '%2' is not a lock file. Move it away or "
+                        "rename it.")
+                .arg(path, lockPath)};
+}
+
 StorageError changedOnDisk(const QString &path)
 {
     return {StorageFailure::ChangedOnDisk, path,
@@ -91,6 +99,12 @@ StorageError cannotWrite(const QString &path, int error)
 {
     return {StorageFailure::CannotWrite, path,
             QObject::tr("The file '%1' could not be saved: %2.").arg(path, qt_error_string(error))};
+}
+
+StorageError inTheWay(const QString &path, const QString &other)
+{
+    return {StorageFailure::CannotWrite, path,
+            QObject::tr("The file '%1' could not be saved: '%2' is in the way.").arg(path, other)};
 }
 
 StorageError notAsWritten(const QString &path)

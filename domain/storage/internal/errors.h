@@ -38,8 +38,12 @@ public:
 [[nodiscard]] StorageError damaged(const QString &path, const std::exception &cause);
 /// `holder` tells who uses the file, if that is known.
 [[nodiscard]] StorageError locked(const QString &path, const QString &holder);
+/// `lockPath` is where the lock file has to be.
+[[nodiscard]] StorageError notALock(const QString &path, const QString &lockPath);
 [[nodiscard]] StorageError changedOnDisk(const QString &path);
 [[nodiscard]] StorageError cannotWrite(const QString &path, int error);
+/// `other` has the name of a file that saving makes.
+[[nodiscard]] StorageError inTheWay(const QString &path, const QString &other);
 [[nodiscard]] StorageError notAsWritten(const QString &path);
 [[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
 

@@ -2,11 +2,15 @@
 #include "storage/internal/file_lock.h"
 
 #include "storage/internal/errors.h"
+#include "storage/internal/file_size_signal.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QSysInfo>
 
+#include <algorithm>
 #include <array>
 #include <tuple>
 
@@ -28,14 +32,26 @@ bool isWithoutLocks(int error) noexcept
     return error == ENOLCK || error == ENOSYS || error == EOPNOTSUPP || error == EINVAL;
 }
 
-/// What the holder of the lock wrote, as "process 4711, kiv on host".
-QString holder(const FileDescriptor &file)
+/// What stands in the lock file, or nothing when it is not what lock files hold: the
+/// number of a process and two to four lines, as QLockFile writes them.
+QList<QByteArray> linesIn(const FileDescriptor &file)
 {
     std::array<char, 1024> text{};
     const ssize_t length = ::pread(file.get(), text.data(), text.size(), 0);
-    const QList<QByteArray> lines =
-        QByteArray(text.data(), std::max<ssize_t>(length, 0)).split('\n');
-    if (lines.size() < 3)
+    QList<QByteArray> lines = QByteArray(text.data(), std::max<ssize_t>(length, 0)).split('\n');
+    const auto isDigit = [](char sign) { return sign >= '0' && sign <= '9'; };
+    if (length == std::ssize(text) || lines.size() < 4 || lines.size() > 6 ||
+        !lines.last().isEmpty() || lines.first().isEmpty() ||
+        !std::ranges::all_of(lines.first(), isDigit))
+        return {};
+    return lines;
+}
+
+/// What the holder of the lock wrote, as "process 4711, kiv on host".
+QString holder(const FileDescriptor &file)
+{
+    const QList<QByteArray> lines = linesIn(file);
+    if (lines.isEmpty())
         return {};
     return QObject::tr("process %1, %2 on %3")
         .arg(QString::fromUtf8(lines[0]), QString::fromUtf8(lines[1]), QString::fromUtf8(lines[2]));
@@ -43,38 +59,19 @@ QString holder(const FileDescriptor &file)
 
 void writeHolder(const FileDescriptor &file)
 {
-    const QByteArray text = QByteArray::number(::getpid()) + '\n' +
-                            ::program_invocation_short_name + '\n' +
+    const NoFileSizeSignal noSignal;
+    const QByteArray program = QByteArray(::program_invocation_short_name).replace('\n', ' ');
+    const QByteArray text = QByteArray::number(::getpid()) + '\n' + program + '\n' +
                             QSysInfo::machineHostName().toUtf8() + '\n';
     // It only helps those who read it; the lock holds without.
-    if (::ftruncate(file.get(), 0) == 0)
-        (void)!::pwrite(file.get(), text.constData(), static_cast<size_t>(text.size()), 0);
+    if (::ftruncate(file.get(), 0) == 0 &&
+        ::pwrite(file.get(), text.constData(), static_cast<size_t>(text.size()), 0) != text.size())
+        (void)!::ftruncate(file.get(), 0);
 }
 
-/// Opens the lock file of that path. Somebody else's may be only readable,
-/// which is enough for locking it.
-FileDescriptor openLockFile(const FileTarget &target, const QByteArray &path)
+bool isSameFile(const FileStamp &stamp, const struct stat &status) noexcept
 {
-    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
-    FileDescriptor file(::open(path.constData(), O_RDWR | O_CREAT | flags, 0666));
-    if (!file && errno == EACCES) {
-        file = FileDescriptor(::open(path.constData(), O_RDONLY | flags));
-        if (!file)
-            errno = EACCES;
-    }
-    if (!file)
-        throw cannotWrite(target.shownPath(), errno);
-    return file;
-}
-
-/// Whether the path still leads to the open file: its former holder may have
-/// removed it since it was opened.
-bool isStillThere(const FileDescriptor &file, const QByteArray &path)
-{
-    struct stat opened = {};
-    struct stat found = {};
-    return ::fstat(file.get(), &opened) == 0 && ::lstat(path.constData(), &found) == 0 &&
-           std::tie(opened.st_dev, opened.st_ino) == std::tie(found.st_dev, found.st_ino);
+    return std::tie(stamp.device, stamp.inode) == std::tie(status.st_dev, status.st_ino);
 }
 
 } // namespace
@@ -82,18 +79,17 @@ bool isStillThere(const FileDescriptor &file, const QByteArray &path)
 FileLock::FileLock(const FileTarget &target)
     : m_path(target.folder() + '/' + target.sibling(".lock"))
 {
+    auto nothingLeft = qScopeGuard([this] {
+        if (m_isMade)
+            ::unlink(m_path.constData());
+    });
     for (int tries = 0; tries < triesMax; ++tries) {
-        m_file = openLockFile(target, m_path);
-        if (::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
-            if (errno == EWOULDBLOCK)
-                throw locked(target.shownPath(), holder(m_file));
-            if (!isWithoutLocks(errno))
-                throw cannotWrite(target.shownPath(), errno);
-        }
-        if (isStillThere(m_file, m_path)) {
+        if (open(target) && lock(target)) {
             writeHolder(m_file);
+            nothingLeft.dismiss();
             return;
         }
+        m_isMade = false;
     }
     throw locked(target.shownPath(), {});
 }
@@ -101,8 +97,69 @@ FileLock::FileLock(const FileTarget &target)
 FileLock::~FileLock()
 {
     // Removed before it is unlocked, so that nobody's lock is removed but this.
-    if (isStillThere(m_file, m_path))
+    remove();
+}
+
+void FileLock::remove() noexcept
+{
+    // What the system refuses once is asked for again.
+    struct stat found = {};
+    if (::lstat(m_path.constData(), &found) != 0 && ::lstat(m_path.constData(), &found) != 0)
+        return;
+    if (isSameFile(m_stamp, found) && ::unlink(m_path.constData()) != 0)
         ::unlink(m_path.constData());
+}
+
+bool FileLock::open(const FileTarget &target)
+{
+    constexpr int flags = O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY;
+    struct stat found = {};
+    if (::lstat(m_path.constData(), &found) != 0) {
+        if (errno != ENOENT)
+            throw cannotWrite(target.shownPath(), errno);
+        m_file =
+            FileDescriptor(::open(m_path.constData(), O_RDWR | O_CREAT | O_EXCL | flags, 0666));
+        m_isMade = static_cast<bool>(m_file);
+        if (!m_file && errno != EEXIST)
+            throw cannotWrite(target.shownPath(), errno);
+        return m_isMade;
+    }
+    // Opening a device may do something to it.
+    if (!S_ISREG(found.st_mode))
+        throw notALock(target.shownPath(), QFile::decodeName(m_path));
+    // Somebody else's may be only readable, which is enough for locking it.
+    m_file = FileDescriptor(::open(m_path.constData(), O_RDWR | flags));
+    if (!m_file && errno == EACCES)
+        m_file = FileDescriptor(::open(m_path.constData(), O_RDONLY | flags));
+    if (!m_file && errno != ENOENT && errno != ELOOP)
+        throw cannotWrite(target.shownPath(), errno);
+    return static_cast<bool>(m_file);
+}
+
+bool FileLock::lock(const FileTarget &target)
+{
+    if (::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) {
+            m_isMade = false;
+            throw locked(target.shownPath(), holder(m_file));
+        }
+        if (!isWithoutLocks(errno))
+            throw cannotWrite(target.shownPath(), errno);
+    }
+    struct stat opened = {};
+    struct stat found = {};
+    if (::fstat(m_file.get(), &opened) != 0)
+        throw cannotWrite(target.shownPath(), errno);
+    m_stamp = FileStamp(opened);
+    // Its former holder may have removed it since it was opened.
+    if (::lstat(m_path.constData(), &found) != 0 && errno != ENOENT)
+        throw cannotWrite(target.shownPath(), errno);
+    if (!isSameFile(m_stamp, found))
+        return false;
+    if (!S_ISREG(opened.st_mode) || opened.st_nlink != 1 ||
+        (opened.st_size > 0 && linesIn(m_file).isEmpty()))
+        throw notALock(target.shownPath(), QFile::decodeName(m_path));
+    return true;
 }
 
 } // namespace kiv::storage::internal

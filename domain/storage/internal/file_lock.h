@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/internal/file_content.h"
 #include "storage/internal/file_descriptor.h"
-#include "storage/internal/file_target.h"
 
 namespace kiv::storage::internal {
 
@@ -12,19 +12,28 @@ namespace kiv::storage::internal {
 /// however that ends.
 ///
 /// The lock file holds what QLockFile writes (process, program and host), so
-/// that programs which use that class keep away as well.
+/// that programs which use that class keep away as well. Nothing else is taken for a
+/// lock file, since it is overwritten and removed.
 class FileLock {
 public:
-    /// Throws StorageError: Locked when another has the lock, CannotWrite when
-    /// the lock file cannot be made.
+    /// Throws StorageError: Locked when another has the lock, NotOurs when what has
+    /// the lock file's name is none, CannotWrite when the lock file cannot be made.
     explicit FileLock(const FileTarget &target);
     ~FileLock();
     FileLock(const FileLock &) = delete;
     FileLock &operator=(const FileLock &) = delete;
 
 private:
+    /// False when another took the name, or gave it back, just then.
+    [[nodiscard]] bool open(const FileTarget &target);
+    [[nodiscard]] bool lock(const FileTarget &target);
+    /// Removes the lock file, if the path still leads to it.
+    void remove() noexcept;
+
     QByteArray m_path;
     FileDescriptor m_file;
+    FileStamp m_stamp;
+    bool m_isMade = false; ///< by this lock
 };
 
 } // namespace kiv::storage::internal
