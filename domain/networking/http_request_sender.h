@@ -26,8 +26,8 @@ struct HttpLimits {
 /// Sends requests over HTTPS. Plain HTTP goes only to a loopback address
 /// written as a number, as a service on the same computer offers it.
 ///
-/// A redirect is followed to the same host alone and never from HTTPS to plain
-/// HTTP. Only a reply with status 200, complete in time and no larger than the
+/// A redirect is followed to the same host and port alone and never from HTTPS to
+/// plain HTTP. Only a reply with status 200, complete in time and no larger than the
 /// limit, is a success; no more than the limit is ever read. No cookie is kept
 /// and nothing cached.
 ///

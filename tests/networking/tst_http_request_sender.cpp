@@ -164,6 +164,11 @@ private slots:
         QTRY_COMPARE(failures.size(), 1);
         QVERIFY2(failures.front().startsWith(u"Nothing can be fetched: libkiv-none.so.1: "_s),
                  qPrintable(failures.front()));
+        // One that is there and cannot be loaded says what is wrong with it.
+        const auto broken = kiv::networking::internal::loadHttpTransport({}, "../CMakeCache.txt");
+        broken->start(3, QUrl(), note);
+        QTRY_COMPARE(failures.size(), 2);
+        QVERIFY2(failures.back().contains(u"invalid ELF header"_s), qPrintable(failures.back()));
     }
 
     void requestsCarryNoCookies()
@@ -178,6 +183,7 @@ private slots:
         QTRY_COMPARE(answered.size(), 2);
         QCOMPARE(server.requests().size(), 2);
         QVERIFY(!server.requests().at(1).toLower().contains("cookie"));
+        QVERIFY(server.requests().at(1).contains("User-Agent: kiv/" KIV_VERSION "\r"));
     }
 
     void cancelledRequestsAreNotAnswered()
@@ -204,9 +210,10 @@ private slots:
                                      QUrl(QString::fromLatin1(to)));
         };
         QVERIFY(may("https://a.example/x", "https://A.EXAMPLE/y"));
-        QVERIFY(may("https://a.example/", "https://a.example:8443/"));
-        QVERIFY(may("http://127.0.0.1:80/", "http://127.0.0.1:81/"));
+        QVERIFY(may("https://a.example/", "https://a.example:443/"));
         QVERIFY(may("http://[::1]/", "https://[::1]/x"));
+        QVERIFY(!may("https://a.example/", "https://a.example:8443/"));
+        QVERIFY(!may("http://127.0.0.1:80/", "http://127.0.0.1:81/"));
         QVERIFY(!may("https://a.example/", "https://b.a.example/"));
         QVERIFY(!may("https://a.example/", "http://a.example/"));
         QVERIFY(!may("https://127.0.0.1/", "http://127.0.0.1/"));

@@ -31,7 +31,7 @@ QNetworkRequest makeRequest(const QUrl &url)
     request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
-    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("kiv/1.1"));
+    request.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("kiv/" KIV_VERSION));
     request.setRawHeader("Accept", "application/json");
     // Otherwise Qt asks for compression and unpacks it before the limit counts.
     request.setRawHeader("Accept-Encoding", "identity");

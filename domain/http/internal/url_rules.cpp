@@ -12,6 +12,14 @@ bool isHttps(const QUrl &url)
     return url.scheme() == QStringLiteral("https");
 }
 
+/// 0 for the one that the scheme has when none is named.
+int portOf(const QUrl &url)
+{
+    const int usual = isHttps(url) ? 443 : 80;
+    const int port = url.port(usual);
+    return port == usual ? 0 : port;
+}
+
 } // namespace
 
 bool isAllowed(const QUrl &url)
@@ -24,7 +32,8 @@ bool isAllowed(const QUrl &url)
 
 bool isRedirectAllowed(const QUrl &from, const QUrl &to)
 {
-    return isAllowed(to) && to.host() == from.host() && (isHttps(to) || !isHttps(from));
+    return isAllowed(to) && to.host() == from.host() && portOf(to) == portOf(from) &&
+           (isHttps(to) || !isHttps(from));
 }
 
 } // namespace kiv::http::internal

@@ -11,7 +11,8 @@ namespace kiv::http::internal {
 /// as "localhost" may be resolved to anything).
 [[nodiscard]] KIV_HTTP_EXPORT bool isAllowed(const QUrl &url);
 
-/// To an allowed address on the same host, and not from HTTPS to plain HTTP.
+/// To an allowed address on the same host and port (another port may be another
+/// one's service), and not from HTTPS to plain HTTP.
 [[nodiscard]] KIV_HTTP_EXPORT bool isRedirectAllowed(const QUrl &from, const QUrl &to);
 
 } // namespace kiv::http::internal

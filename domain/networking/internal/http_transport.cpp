@@ -3,6 +3,7 @@
 
 #include "networking/errors.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QObject>
 
 #include <dlfcn.h>
@@ -53,12 +54,21 @@ std::unique_ptr<HttpTransport> loadHttpTransport(const HttpLimits &limits, const
 {
     // It stands next to this one, or where the system looks. It is never unloaded,
     // as Qt Network must not be.
-    void *handle = ::dlopen(besideThis(library).constData(), RTLD_NOW | RTLD_LOCAL);
-    if (!handle)
+    const QByteArray beside = besideThis(library);
+    QByteArray fault;
+    void *handle = ::dlopen(beside.constData(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle) {
+        fault = ::dlerror();
         handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+        // One that is here and does not load is the one to be told of.
+        if (!handle && !QFile::exists(QFile::decodeName(beside)))
+            fault = ::dlerror();
+    }
     void *symbol = handle ? ::dlsym(handle, "kivHttpTransport") : nullptr;
+    if (handle && !symbol)
+        fault = ::dlerror();
     if (!symbol)
-        return std::make_unique<MissingTransport>(httpMissing(QString::fromLocal8Bit(::dlerror())));
+        return std::make_unique<MissingTransport>(httpMissing(QString::fromLocal8Bit(fault)));
     auto *make = reinterpret_cast<HttpTransport *(*)(const HttpLimits &)>(symbol);
     return std::unique_ptr<HttpTransport>(make(limits));
 }
