@@ -277,7 +277,8 @@ Q_SIGNALS:
     /// Answers onPrepareShowExchangeRates.
     void showExchangeRates(const kiv::conversion::ConversionMap &currentConversions,
                            const std::set<numira::Currency> &currencies);
-    /// Answers onFetchExchangeRates.
+    /// Answers onFetchExchangeRates: the known rates with the fetched ones laid
+    /// over them; the known ones alone when the fetch failed.
     void fetchedExchangeRates(const std::set<numira::Currency> &currencies,
                               const kiv::conversion::ConversionMap &conversions);
     /// Answers onPrepareShowConfigure, with the currencies that are in use.
@@ -488,7 +489,7 @@ public Q_SLOTS:
     void onPrepareShowDashboard();
     /// Answers with showExchangeRates.
     void onPrepareShowExchangeRates();
-    /// Waits for the answer of the service.
+    /// Waits for the answer of the service. Nothing is stored.
     void onFetchExchangeRates(const std::set<numira::Currency> &currencies);
     /// Converts with these rates from now on, and stores them.
     void onStoreExchangeRates(const kiv::conversion::ConversionMap &conversions);

@@ -55,20 +55,48 @@ QString codesOf(const std::set<numira::Currency> &currencies)
     return codes.join(QStringLiteral(", "));
 }
 
-/// The wanted rates of the table and the base's own; `missing` gets those that
-/// it lacks.
-ConversionMap restrict(const ConversionMap &table, const std::set<numira::Currency> &wanted,
-                       std::set<numira::Currency> &missing)
+/// The rates of the table that are among the wanted ones, and the base's own.
+ConversionMap restrict(const ConversionMap &table, const std::set<numira::Currency> &wanted)
 {
     ConversionMap::Rates rates{{table.base(), 1}};
     for (const auto &currency : wanted) {
         const auto found = table.rates().find(currency);
         if (found != table.rates().end())
             rates.insert(*found);
-        else if (currency != table.base())
-            missing.insert(currency);
     }
     return {table.base(), table.fetchedAt(), std::move(rates)};
+}
+
+std::set<numira::Currency> missingFrom(const ConversionMap &table,
+                                       const std::set<numira::Currency> &wanted)
+{
+    std::set<numira::Currency> missing = wanted;
+    std::erase_if(missing, [&](const auto &currency) { return table.rates().contains(currency); });
+    return missing;
+}
+
+/// Whether `fetched` is from before the last fetch. A last fetch that lies in the
+/// future is the fault of some clock, and must not hold up all that come after it.
+bool isOutdated(const ConversionMap &fetched, const ConversionMap &known)
+{
+    return known.hasFetched() && fetched.fetchedAt() < known.fetchedAt() &&
+           known.fetchedAt() <= QDateTime::currentDateTimeUtc() + ConversionMap::lifetime;
+}
+
+/// The known rates with the wanted ones of the reply laid over them. `missing`
+/// gets the wanted currencies that the reply lacks.
+ConversionMap update(const ConversionMap &known, const ConversionMap &reply,
+                     const std::set<numira::Currency> &wanted, std::set<numira::Currency> &missing)
+{
+    std::set<numira::Currency> used = wanted;
+    used.insert(known.base());
+    const ConversionMap fetched = restrict(reply, used);
+    missing = missingFrom(fetched, wanted);
+    if (missing == wanted)
+        throw internal::noWantedRates();
+    if (isOutdated(fetched, known))
+        throw internal::ratesOutdated(fetched.fetchedAt(), known.fetchedAt());
+    return known.updatedWith(fetched);
 }
 
 } // namespace
@@ -90,22 +118,28 @@ ConversionMap CurrencyConverter::fetchAll(const std::set<numira::Currency> &want
     m_failure.reset();
     if (wanted.empty() || isFetching)
         return cache();
+    // The base of what is known joins it with rates of another base.
+    std::set<numira::Currency> asked = wanted;
+    if (!cache().isEmpty())
+        asked.insert(cache().base());
     FetchedRates answer;
     {
         isFetching = true;
         const auto waited = qScopeGuard([] { isFetching = false; });
-        answer = waitForRates(m_source, wanted, m_patience);
+        answer = waitForRates(m_source, asked, m_patience);
     }
-    std::set<numira::Currency> missing;
     if (answer.table) {
-        ConversionMap fetched = restrict(*answer.table, wanted, missing);
-        if (missing.size() < wanted.size()) {
-            if (!missing.empty())
+        try {
+            std::set<numira::Currency> missing;
+            ConversionMap updated = update(cache(), *answer.table, wanted, missing);
+            if (!missing.empty()) {
                 qWarning() << "The source has no exchange rates of these currencies:"
                            << codesOf(missing);
-            return fetched;
+            }
+            return updated;
+        } catch (const ConversionError &error) {
+            answer.failure = error.message();
         }
-        answer.failure = internal::noWantedRates();
     }
     m_failure.emplace(answer.failure);
     qWarning() << "Failed to fetch the exchange rates."

@@ -33,14 +33,17 @@ public:
     [[nodiscard]] numira::FloatingPoint lookUp(const numira::Currency &from,
                                                const numira::Currency &to) const;
 
-    /// Waits for the source's rates of the wanted currencies and answers with
-    /// them and the base currency's, at the source's time. Where the source
-    /// lacks some, the answer does too, with one warning that names them.
+    /// Waits for the source's rates of the wanted currencies and answers with the
+    /// cache's rates and these laid over them, as ConversionMap::updatedWith
+    /// does. So nothing that is known is lost, and a rate that was typed stays
+    /// until the source gives one for its currency. Where the source lacks some
+    /// of the wanted currencies, one warning names them.
     ///
     /// When there is no usable answer (a failure, the time is up, a refused
-    /// reply, none of the wanted rates, or the source is destroyed meanwhile)
-    /// it warns once and answers with the cache as it stands. The same, without
-    /// a warning, when nothing is wanted or another fetch is waiting already.
+    /// reply, none of the wanted rates, rates from before the last fetch, or the
+    /// source is destroyed meanwhile) it warns once and answers with the cache as
+    /// it stands. The same, without a warning, when nothing is wanted or another
+    /// fetch is waiting already.
     ///
     /// It waits in an event loop that takes no user input, but timers, sockets
     /// and queued calls run meanwhile and may destroy the caller: after this

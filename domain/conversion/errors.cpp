@@ -70,9 +70,16 @@ QString senderGone()
     return QObject::tr("There is nothing left to send requests with.");
 }
 
-QString noWantedRates()
+ConversionError noWantedRates()
 {
-    return QObject::tr("The reply has none of the wanted rates.");
+    return ConversionError(QObject::tr("The reply has none of the wanted rates."));
+}
+
+ConversionError ratesOutdated(const QDateTime &given, const QDateTime &known)
+{
+    return ConversionError(
+        QObject::tr("The reply's rates are of %1, older than the known ones of %2.")
+            .arg(given.toString(Qt::ISODate), known.toString(Qt::ISODate)));
 }
 
 } // namespace internal

@@ -6,6 +6,8 @@
 #include "foundation/error.h"
 #include "numira/currency.h"
 
+#include <QtCore/QDateTime>
+
 namespace kiv::conversion {
 
 /// A table of exchange rates, a reply that should have held one, or a wish for
@@ -30,7 +32,8 @@ namespace internal {
 [[nodiscard]] QString fetchTimedOut();
 [[nodiscard]] QString sourceGone();
 [[nodiscard]] QString senderGone();
-[[nodiscard]] QString noWantedRates();
+[[nodiscard]] ConversionError noWantedRates();
+[[nodiscard]] ConversionError ratesOutdated(const QDateTime &given, const QDateTime &known);
 
 } // namespace internal
 

@@ -5,12 +5,16 @@
 #include "storage/internal/errors.h"
 #include "storage/internal/file_lock.h"
 
+#include "foundation/streams.h"
+
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QDebug>
 #include <QtCore/QFileInfo>
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QThread>
 
+#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <new>
@@ -18,12 +22,13 @@
 namespace kiv::storage {
 namespace {
 
+using conversion::RateSource;
 using internal::ContentFault;
 using internal::FileTarget;
 
 constexpr qsizetype fileSizeMax = qsizetype{1024} * 1024;
 constexpr QByteArrayView kindWord = "kiv-exchange-rates ";
-constexpr int currentVersion = 1;
+constexpr int currentVersion = 2;
 constexpr QByteArrayView digestWord = "sha256 ";
 /// How often, and after how many milliseconds, storing is tried again while
 /// another process stores its rates.
@@ -48,9 +53,9 @@ QByteArray digestOf(QByteArrayView text)
     return QCryptographicHash::hash(text.toByteArray(), QCryptographicHash::Sha256).toHex();
 }
 
-/// "kiv-exchange-rates 1", "base USD", "fetched 2026-03-31T12:00:00.000Z", a
-/// line like "EUR 0.92" for each rate, and the checksum of all that. An empty
-/// table has neither base nor time.
+/// "kiv-exchange-rates 2", "base USD", "fetched 2026-03-31T12:00:00.000Z", a
+/// line like "EUR 0.92 typed 2026-03-31" for each rate, and the checksum of all
+/// that. An empty table has neither base nor time.
 QByteArray encode(const conversion::ConversionMap &rates)
 {
     QByteArray text = kindWord.toByteArray() + QByteArray::number(currentVersion) + '\n';
@@ -61,8 +66,12 @@ QByteArray encode(const conversion::ConversionMap &rates)
         addLine("base", numira::toStdString(rates.base()));
         addLine("fetched", rates.fetchedAt().toString(Qt::ISODateWithMs).toStdString());
     }
-    for (const auto &[currency, rate] : rates.rates())
-        addLine(numira::toStdString(currency), rate.str());
+    for (const auto &[currency, rate] : rates.rates()) {
+        const conversion::RateOrigin &origin = rates.origins().at(currency);
+        addLine(numira::toStdString(currency),
+                rate.str() + (origin.source == RateSource::Typed ? " typed " : " fetched ") +
+                    origin.day.toString(Qt::ISODate).toStdString());
+    }
     return text + digestWord.toByteArray() + digestOf(text) + '\n';
 }
 
@@ -91,20 +100,60 @@ conversion::ConversionMap decode(const QByteArray &text, const QString &path)
     numira::Currency base;
     QDateTime fetchedAt;
     conversion::ConversionMap::Rates rates;
+    conversion::ConversionMap::Origins origins;
     for (const QByteArray &line : checkedLines(text, path)) {
-        const qsizetype blank = line.indexOf(' ');
-        const std::string word = line.left(blank).toStdString();
-        const QByteArray value = line.mid(blank + 1);
+        const QList<QByteArray> words = line.split(' ');
+        const std::string word = words.front().toStdString();
+        const QByteArray value = words.value(1);
         if (word == "base")
             base = numira::toCurrency(value.toStdString());
         else if (word == "fetched")
             fetchedAt = QDateTime::fromString(QString::fromLatin1(value), Qt::ISODateWithMs);
         else
             rates.emplace(numira::toCurrency(word), numira::FloatingPoint(value.toStdString()));
+        // The first form of the file has no origins.
+        if (words.size() > 2) {
+            origins.emplace(
+                numira::toCurrency(word),
+                conversion::RateOrigin{
+                    words.at(2) == "typed" ? RateSource::Typed : RateSource::Fetched,
+                    QDate::fromString(QString::fromLatin1(words.value(3)), Qt::ISODate)});
+        }
     }
     if (rates.empty() && !fetchedAt.isValid())
         return {};
-    return {base, fetchedAt, std::move(rates)};
+    return {base, fetchedAt, std::move(rates), origins};
+}
+
+/// Throws StorageError when these are not the bytes of such a file.
+conversion::ConversionMap ratesIn(const QByteArray &text, const QString &path)
+{
+    try {
+        return decode(text, path);
+    } catch (const StorageError &) {
+        throw;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &cause) {
+        throw internal::damaged(path, cause);
+    }
+}
+
+/// Gives the file a name that no other has, and tells of it.
+void setAside(const FileTarget &target, const StorageError &reason)
+{
+    const auto isTaken = [&target](const QByteArray &name) {
+        const std::filesystem::path path((target.folder() + '/' + name).toStdString());
+        return std::filesystem::exists(std::filesystem::symlink_status(path));
+    };
+    QByteArray name = target.sibling(".unreadable");
+    for (int number = 2; isTaken(name); ++number)
+        name = target.sibling(".unreadable-" + QByteArray::number(number));
+    if (std::rename(target.path().constData(), (target.folder() + '/' + name).constData()) != 0)
+        throw internal::cannotWrite(target.shownPath(), errno);
+    qWarning().noquote() << foundation::escaped(
+        QObject::tr("%1 It was renamed to '%2'.")
+            .arg(reason.message(), QString::fromLocal8Bit(name)));
 }
 
 } // namespace
@@ -122,15 +171,7 @@ conversion::ConversionMap RatesFile::load() const
     const auto content = internal::readFile(FileTarget(m_filePathName), fileSizeMax);
     if (!content)
         throw internal::fileNotFound(m_filePathName);
-    try {
-        return decode(content->bytes, m_filePathName);
-    } catch (const StorageError &) {
-        throw;
-    } catch (const std::bad_alloc &) {
-        throw;
-    } catch (const std::exception &cause) {
-        throw internal::damaged(m_filePathName, cause);
-    }
+    return ratesIn(content->bytes, m_filePathName);
 }
 
 void RatesFile::store(const conversion::ConversionMap &rates)
@@ -142,9 +183,20 @@ void RatesFile::store(const conversion::ConversionMap &rates)
         throw internal::cannotWrite(m_filePathName, error.value());
     const FileTarget target(m_filePathName);
     const auto lock = lockInTurn(target);
-    const auto replaced = internal::readFile(target, fileSizeMax);
-    internal::AtomicFileWriter(target, replaced ? std::optional(replaced->stamp) : std::nullopt)
-        .write(encode(rates), 0);
+    std::optional<internal::FileStamp> replaced;
+    try {
+        if (const auto content = internal::readFile(target, fileSizeMax)) {
+            const conversion::ConversionMap known = ratesIn(content->bytes, m_filePathName);
+            if (rates.isEmpty() && !known.isEmpty())
+                return;
+            replaced = content->stamp;
+        }
+    } catch (const StorageError &reason) {
+        if (reason.failure() == StorageFailure::NotAFile)
+            throw;
+        setAside(target, reason);
+    }
+    internal::AtomicFileWriter(target, replaced).write(encode(rates), 0);
 }
 
 } // namespace kiv::storage

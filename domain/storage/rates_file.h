@@ -8,6 +8,11 @@
 namespace kiv::storage {
 
 /// Exchange rates in a small text file with a checksum.
+///
+/// A file that cannot be read is never overwritten: when rates are stored, it is
+/// set aside under a name of its own ("rates.unreadable"), and a warning tells of
+/// that. An empty table does not take the place of one that is not: storing it
+/// does nothing then.
 class KIV_STORAGE_EXPORT RatesFile final : public ExchangeRatesStorage {
 public:
     /// The file need not exist; its folder is made when rates are first stored.

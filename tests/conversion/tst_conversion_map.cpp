@@ -69,6 +69,30 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(ConversionError, (void)ConversionMap().rate(usd, eur));
     }
 
+    void ratesAreLaidOverEachOther()
+    {
+        using enum kiv::conversion::RateSource;
+        const QDateTime later = noon.addDays(1);
+        const ConversionMap known(usd, noon, {{usd, 1}, {eur, FloatingPoint("0.5")}, {jpy, 150}});
+        // What was typed leaves the time of the fetch.
+        QCOMPARE(known.updatedWith({usd, later, {{eur, 2}}, Typed}),
+                 ConversionMap(usd, noon, {{usd, 1}, {eur, 2}, {jpy, 150}},
+                               ConversionMap::Origins{{eur, {Typed, later.date()}}}));
+        const ConversionMap typed(eur, noon, {{usd, 2}, {gbp, 4}}, Typed);
+        QCOMPARE(typed.updatedWith(known),
+                 ConversionMap(usd, noon,
+                               {{usd, 1}, {eur, FloatingPoint("0.5")}, {jpy, 150}, {gbp, 2}},
+                               ConversionMap::Origins{{gbp, {Typed, noon.date()}}}));
+        // Another base that only the known rates lead to.
+        QCOMPARE(typed.updatedWith({usd, later, {{jpy, 150}}}),
+                 ConversionMap(usd, later, {{jpy, 150}, {eur, FloatingPoint("0.5")}, {gbp, 2}},
+                               ConversionMap::Origins{{eur, {Typed, noon.date()}},
+                                                      {gbp, {Typed, noon.date()}}}));
+        QVERIFY_THROWS_EXCEPTION(ConversionError,
+                                 (void)typed.updatedWith({jpy, later, {{Currency(756), 1}}}));
+        QCOMPARE(typed.updatedWith({}), typed);
+    }
+
     void aRateAndItsInverseGiveOne()
     {
         const auto anyRate = [] {

@@ -84,10 +84,10 @@ private slots:
         QTest::newRow("some missing")
             << std::set{gbp, eur, Currency(756)} << fetched
             << u"The source has no exchange rates of these currencies: \"CHF, GBP\""_s
-            << u"CHF,GBP,EUR"_s;
+            << u"CHF,GBP,USD,EUR"_s;
         QTest::newRow("all missing")
             << std::set{gbp} << standing << failed + u"The reply has none of the wanted rates."_s
-            << u"GBP"_s;
+            << u"GBP,USD"_s;
         QTest::newRow("nothing wanted") << std::set<Currency>() << standing << u""_s << u""_s;
     }
 
@@ -108,6 +108,21 @@ private slots:
                                      "?app_id=0123456789abcdef&symbols="_s +
                                          query);
         }
+    }
+
+    void knownRatesStayUnlessNewerOnesCome()
+    {
+        const Service service(scripted(ScriptedSender::json(reply)));
+        const ConversionMap newer(usd, fetched.fetchedAt().addSecs(1),
+                                  {{eur, FloatingPoint("0.9")}});
+        CurrencyConverter::updateCache(newer);
+        const MessageLog log;
+        QCOMPARE(CurrencyConverter(*service.source).fetchAll({eur}), newer);
+        QCOMPARE(log.text(), failed + u"The reply's rates are of 2026-03-01T12:00:00Z, older than "
+                                      "the known ones of 2026-03-01T12:00:01Z."_s);
+        CurrencyConverter::updateCache(
+            ConversionMap(usd, standing.fetchedAt(), {{eur, 1}, {gbp, 2}}));
+        QVERIFY(CurrencyConverter(*service.source).fetchAll({eur}).rate(usd, gbp) == 2);
     }
 
     void aSecondFetchAnswersAtOnce()

@@ -103,10 +103,10 @@ account to each other one:
   Added the account 27 Yen.
   Added the account 29 Dinar.
   For one USD, as of ????-??-??T??:??:??Z (glob)
-  Currency  Rate
-  JPY       150
-  KWD       0.31
-  EUR       0.92
+  Currency  Rate  Date        Source
+  JPY       150   ????-??-??  typed (glob)
+  KWD       0.31  ????-??-??  typed (glob)
+  EUR       0.92  ????-??-??  typed (glob)
   $ kiv accounts --json | jq --rawfile names names '
   >     ($names | split("\n") | .[-1] = "line\nbreak") as $names | . as $accounts | length as $n |
   >     [range(1000) | $accounts[. % $n] as $debit | {

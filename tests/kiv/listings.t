@@ -74,8 +74,8 @@ What is there is told:
   Closed the bank 'Second'.
   $ kiv rates set USD EUR=0.80
   For one USD, as of ????-??-??T??:??:??Z (glob)
-  Currency  Rate
-  EUR       0.8
+  Currency  Rate  Date        Source
+  EUR       0.8   ????-??-??  typed (glob)
   $ kiv configure set --usable USD --usable EUR
   Preferred currency                USD
   Usable currencies                 USD, EUR

@@ -78,6 +78,9 @@ Dates, and other values:
   $ kiv rates set USD EUR=abc
   kiv: 'EUR=abc' is not a rate; write one like EUR=0.92.
   [2]
+  $ kiv rates set USD EUR=1 EUR=2
+  kiv: 'EUR' is named twice.
+  [2]
   $ kiv rates set euros USD=1
   kiv: 'euros' is not a currency; did you mean 'EUR'?
   [2]

@@ -274,21 +274,21 @@ Rates convert once and for all:
   [1]
   $ kiv rates set USD EUR=0.80 | sed '1s/as of .*/as of now/'
   For one USD, as of now
-  Currency  Rate
-  EUR       0.8
+  Currency  Rate  Date        Source
+  EUR       0.8   ????-??-??  typed (glob)
   $ kiv post Abo --account Checking --date 2026-02-01
   Posted the bill 'Abo', due on 2026-02-01: €9.99.
   $ kiv rates set USD EUR=0.50 | tail -1
-  EUR       0.5
+  EUR       0.5   ????-??-??  typed (glob)
   $ kiv transactions --json | jq -c '.[-1]'
   {"amount":{"amount":"9.99","currency":"EUR"},"credit":1,"creditAmount":{"amount":"12.49","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":8,"debitAmount":{"amount":"9.99","currency":"EUR"},"debitPath":"Expenses:Abo [Budget Item]","debitStatus":"none","description":"Processed the budget item due on Sun Feb 1 2026.","number":6}
   $ kiv rates set USD EUR=0
   kiv: The exchange rate of 'EUR' must be a positive number between 10^-12 and 10^12.
   [1]
-  $ kiv rates show --json | jq -c 'del(.fetchedAt)'
-  {"base":"USD","expired":false,"rates":[{"currency":"EUR","rate":"0.5"}]}
-  $ kiv rates set EUR USD=2 --json | jq -c 'del(.fetchedAt)'
-  {"base":"EUR","expired":false,"rates":[{"currency":"USD","rate":"2"}]}
+  $ kiv rates show --json | jq -c 'del(.fetchedAt, .rates[].day)'
+  {"base":"USD","expired":false,"rates":[{"currency":"EUR","rate":"0.5","source":"typed"}]}
+  $ kiv rates set EUR USD=2 --json | jq -c 'del(.fetchedAt, .rates[].day)'
+  {"base":"EUR","expired":false,"rates":[{"currency":"USD","rate":"2","source":"typed"}]}
 
 The wizard makes a budget of a template's items:
 

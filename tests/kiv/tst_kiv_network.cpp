@@ -53,6 +53,8 @@ private slots:
         QCOMPARE(home.json("dashboard")["totals"_L1]["wages"_L1]["amount"_L1].toString(),
                  u"100.00"_s);
         QVERIFY(home.run("rates fetch").out.contains("0.92"));
+        const Ended lacking = home.run("rates fetch GBP JPY CHF");
+        QVERIFY2(lacking.err.endsWith("currencies: CHF, GBP\n"), lacking.err.constData());
         // The end of the input does not end the last line's waiting.
         const Ended watched = home.run("watch", "rates fetch EUR JPY");
         QVERIFY2(watched.status == 0 && watched.out.contains("JPY 150"), watched.err.constData());

@@ -28,7 +28,9 @@ private:
                 QDateTime(QDate(2026, 3, 31), QTime(12, 0, 0, 7), Qt::UTC),
                 {{numira::toCurrency("EUR"), numira::FloatingPoint(1) / 3},
                  {numira::toCurrency("JPY"), numira::FloatingPoint("151.42")},
-                 {numira::toCurrency("KWD"), numira::FloatingPoint("1e-12")}}};
+                 {numira::toCurrency("KWD"), numira::FloatingPoint("1e-12")}},
+                ConversionMap::Origins{{numira::toCurrency("KWD"),
+                                        {conversion::RateSource::Typed, QDate(2026, 3, 30)}}}};
     }
 };
 
@@ -39,12 +41,22 @@ void RatesFileTest::ratesAreReadAsTheyWereStored()
     QVERIFY(!file.exists());
     QCOMPARE(test::failureOf([&] { (void)file.load(); }), StorageFailure::NotFound);
     for (const ConversionMap &rates :
-         {someRates(), ConversionMap(),
-          ConversionMap(numira::toCurrency("EUR"), someRates().fetchedAt(), {})}) {
+         {ConversionMap(), ConversionMap(numira::toCurrency("EUR"), someRates().fetchedAt(), {}),
+          someRates()}) {
         file.store(rates);
         QVERIFY(file.exists());
         QVERIFY(file.load() == rates);
     }
+    file.store({}); // nothing takes the place of something
+    QVERIFY(file.load() == someRates());
+    // The first form, without origins.
+    folder.write(u"new/rates"_qs,
+                 "kiv-exchange-rates 1\nbase USD\nfetched 2026-03-31T12:00:00.007Z\n"
+                 "JPY 151.42\nsha256 c370196dcd33de6ba3382b129d57b0016142afe7"
+                 "c882f033ff3ef16336568851\n");
+    QCOMPARE(file.load(),
+             ConversionMap(someRates().base(), someRates().fetchedAt(),
+                           {{numira::toCurrency("JPY"), numira::FloatingPoint("151.42")}}));
     QCOMPARE(folder.names(), QStringList(u"new"_qs));
     QCOMPARE(QDir(folder.path(u"new"_qs)).entryList(QDir::Files | QDir::Hidden),
              QStringList(u"rates"_qs));
@@ -80,7 +92,7 @@ void RatesFileTest::otherFilesAreRefused_data()
     const auto row = [](const char *name, const QByteArray &from, const QByteArray &to,
                         StorageFailure failure) { QTest::newRow(name) << from << to << failure; };
     row("another kind", "kiv-exchange-rates", "kiv-exchange", StorageFailure::NotOurs);
-    row("newer", "rates 1", "rates 2", StorageFailure::Newer);
+    row("newer", "rates 2", "rates 3", StorageFailure::Newer);
     row("a rate changed", "151.42", "151.43", StorageFailure::Damaged);
     row("no checksum", "sha256", "sha", StorageFailure::Damaged);
     row("something behind it", "\nsha256", "\nsha256 \nsha256", StorageFailure::Damaged);
@@ -101,9 +113,14 @@ void RatesFileTest::otherFilesAreRefused()
     QCOMPARE(test::failureOf([&] { (void)file.load(); }), failure);
     QCOMPARE(folder.read(u"rates"_qs), bytes);
 
-    // Rates can be fetched again, so whatever stands there gives way.
-    file.store(someRates());
-    QVERIFY(file.load() == someRates());
+    // It is set aside, and so is the next one.
+    for (const QString &aside : {u"rates.unreadable"_qs, u"rates.unreadable-2"_qs}) {
+        folder.write(u"rates"_qs, bytes);
+        file.store({});
+        QCOMPARE(folder.read(aside), bytes);
+        QVERIFY(file.load().isEmpty());
+    }
+    QCOMPARE(folder.names().size(), 3);
 }
 
 QTEST_APPLESS_MAIN(RatesFileTest)

@@ -19,6 +19,8 @@
 namespace kiv::app {
 
 using conversion::ConversionMap;
+using conversion::RateOrigin;
+using conversion::RateSource;
 using navigation::Navigator;
 
 namespace {
@@ -58,13 +60,32 @@ QString rateText(const QJsonValue &rate)
     }
 }
 
+QString sourceText(const QJsonValue &source)
+{
+    return source.toString() == QStringLiteral("typed") ? QObject::tr("typed")
+                                                        : QObject::tr("fetched");
+}
+
+QString codesOf(const std::set<numira::Currency> &currencies)
+{
+    QStringList codes;
+    for (const numira::Currency &currency : currencies)
+        codes += foundation::toQString(currency);
+    return codes.join(QStringLiteral(", "));
+}
+
 Report ratesReport(const ConversionMap &map)
 {
     QJsonArray rows;
     for (const auto &[currency, rate] : map.rates()) {
+        const RateOrigin &origin = map.origins().at(currency);
         rows.append(QJsonObject{
             {QStringLiteral("currency"), foundation::toQString(currency)},
-            {QStringLiteral("rate"), QString::fromStdString(rate.str(12, std::ios::fmtflags()))}});
+            {QStringLiteral("rate"), QString::fromStdString(rate.str(12, std::ios::fmtflags()))},
+            {QStringLiteral("day"), origin.day.toString(Qt::ISODate)},
+            {QStringLiteral("source"), origin.source == RateSource::Typed
+                                           ? QStringLiteral("typed")
+                                           : QStringLiteral("fetched")}});
     }
     const QString base = map.isEmpty() ? QString() : foundation::toQString(map.base());
     const auto known = [&map](const QString &text) {
@@ -83,7 +104,9 @@ Report ratesReport(const ConversionMap &map)
                 : QObject::tr("For one %1, as of %2").arg(base, shown));
     }
     return report.table({{QObject::tr("Currency"), QStringLiteral("currency")},
-                         {QObject::tr("Rate"), QStringLiteral("rate"), rateText}},
+                         {QObject::tr("Rate"), QStringLiteral("rate"), rateText},
+                         {QObject::tr("Date"), QStringLiteral("day"), dayText},
+                         {QObject::tr("Source"), QStringLiteral("source"), sourceText}},
                         rows, QObject::tr("No exchange rates are known."));
 }
 
@@ -114,6 +137,12 @@ struct FetchRates {
         // A fetch that failed answers with the rates as they were.
         if (map.isEmpty() || failure)
             throw ratesNotFetched(failure.value_or(QString()));
+        if (const QString lacking = codesOf(map.notFetched(currencies)); !lacking.isEmpty()) {
+            complain(QObject::tr("warning: %1")
+                         .arg(QObject::tr("The service has no exchange rates of these currencies: "
+                                          "%1")
+                                  .arg(lacking)));
+        }
         requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
@@ -132,12 +161,14 @@ struct SetRates {
     Report run(Call &call) const
     {
         const ConversionMap known = present(call.requests);
-        ConversionMap::Rates all;
-        if (!known.isEmpty() && known.base() == base)
-            all = known.rates();
-        for (const RateArgument &given : rates)
-            all.insert_or_assign(given.currency, given.rate);
-        const ConversionMap map(base, QDateTime::currentDateTimeUtc(), std::move(all));
+        ConversionMap::Rates typed;
+        for (const RateArgument &given : rates) {
+            if (!typed.emplace(given.currency, given.rate).second)
+                throw UsageError(
+                    QObject::tr("'%1' is named twice.").arg(foundation::toQString(given.currency)));
+        }
+        const ConversionMap map = known.updatedWith(
+            {base, QDateTime::currentDateTimeUtc(), std::move(typed), RateSource::Typed});
         call.requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
