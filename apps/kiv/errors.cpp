@@ -64,7 +64,12 @@ QString told(const std::exception &error)
 
 UsageError contradiction(const QString &one, const QString &other)
 {
-    return UsageError(QObject::tr("%1 and %2 exclude each other.").arg(one, other));
+    return UsageError(QObject::tr("Use either %1 or %2, not both.").arg(one, other));
+}
+
+UsageError onlyWith(const QString &name, const QString &base)
+{
+    return UsageError(QObject::tr("%1 goes only with %2.").arg(name, base));
 }
 
 UsageError missing(const QString &what)

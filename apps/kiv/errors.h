@@ -27,6 +27,7 @@ public:
 // ---- values on the command line --------------------------------------------
 
 [[nodiscard]] UsageError contradiction(const QString &one, const QString &other);
+[[nodiscard]] UsageError onlyWith(const QString &name, const QString &base);
 [[nodiscard]] UsageError missing(const QString &what);
 [[nodiscard]] UsageError nothingToChange();
 [[nodiscard]] UsageError notAFormerVersion();

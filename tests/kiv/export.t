@@ -242,7 +242,7 @@ The JSON export follows the schema that its documentation holds:
   Added the account 7 Euros.
   $ kiv transaction add '3 EUR' --debit Euros --credit Checking
   Posted transaction 8.
-  $ kiv export --format json >export.json
+  $ kiv export --json >export.json
   $ jq '.transactions | length' export.json
   8
   $ sed -n '/^```json/,/^```$/ { /^```/! p }' "$TESTDIR/../../docs/import-export.md" >schema.json

@@ -146,6 +146,9 @@ What is due, by day:
   $ kiv due --date 2026-01-01 --within 0 --json
   [
   ]
+  $ kiv post --all --kind bill --account Checking --date 2026-01-31 --dry-run
+  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  This was a dry run: nothing is saved.
   $ kiv post --all --account Checking --date 2026-01-31
   Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.

@@ -233,5 +233,5 @@ What cannot be understood is refused, with its line, and so are options that do 
   kiv: 'Aktiva=' is not of the form NAME=VALUE.
   [2]
   $ kiv import s.journal --into Checking
-  kiv: --into and --format journal exclude each other.
+  kiv: Use either --into or --format journal, not both.
   [2]

@@ -109,22 +109,46 @@ Nothing to change, and what excludes each other:
   kiv: Version 0 is the file itself; kiv history lists the former ones.
   [2]
   $ kiv account recode 1 --under 3 --top-level
-  kiv: --under and --top-level exclude each other.
+  kiv: Use either --under or --top-level, not both.
   [2]
   $ kiv bill update Rent --tag home --no-tags
-  kiv: --no-tags and --tag exclude each other.
+  kiv: Use either --no-tags or --tag, not both.
   [2]
   $ kiv post Rent --all --account Checking
-  kiv: --all and ITEM exclude each other.
+  kiv: Use either --all or ITEM, not both.
   [2]
   $ kiv post --all --amount 5 --account Checking
-  kiv: --all and --amount exclude each other.
+  kiv: Use either --all or --amount, not both.
   [2]
   $ kiv post --account Checking
   kiv: ITEM is missing.
   [2]
   $ kiv debt add Car 5 --borrowed 9 --type loan
-  kiv: --bank is missing.
+  kiv: --type goes only with --bank.
+  [2]
+  $ kiv new a --file b
+  kiv: Use either FILE or --file, not both.
+  [2]
+  $ kiv --file b check a
+  kiv: Use either FILE or --file, not both.
+  [2]
+  $ kiv shell a --file b
+  kiv: Use either FILE or --file, not both.
+  [2]
+  $ kiv wizard a --file b --bank B --account A
+  kiv: Use either FILE or --file, not both.
+  [2]
+  $ kiv report --title T
+  kiv: --title goes only with --html.
+  [2]
+  $ kiv --json report --chart
+  kiv: Use either --chart or --json, not both.
+  [2]
+  $ kiv report --to 2026-01-31 --date 2026-02-28
+  kiv: Use either --to or --date, not both.
+  [2]
+  $ kiv export --format csv --json
+  kiv: Use either --format or --json, not both.
   [2]
 
 Commands, options and arguments; for a slip, what may have been meant is offered:

@@ -19,7 +19,7 @@ Reports come in three forms, and as JSON.
   {"currency":"USD","expenses":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"income":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"netWorth":[{"amount":"1250.00","currency":"USD"},{"amount":"1250.00","currency":"USD"}],"outgoing":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"planned":{"amount":"1250.00","currency":"USD"}}
   {"actual":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"kind":"bill","last":{"amount":"0.00","currency":"USD"},"name":"Rent","planned":{"amount":"1250.00","currency":"USD"}}
   {"actual":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"kind":"wage","last":{"amount":"0.00","currency":"USD"},"name":"Salary","planned":{"amount":"3100.00","currency":"USD"}}
-  $ kiv report --html --json --to 2026-02-28 | jq -c 'keys, .from, .to'
+  $ kiv report --json --to 2026-02-28 | jq -c 'keys, .from, .to'
   ["balances","currencies","from","items","months","to"]
   "2025-03-01"
   "2026-02-28"
@@ -37,7 +37,10 @@ Reports come in three forms, and as JSON.
   kiv: A report cannot end before it begins.
   [1]
   $ kiv report --html --chart
-  kiv: --html and --chart exclude each other.
+  kiv: Use either --html or --chart, not both.
+  [2]
+  $ kiv report --html --json
+  kiv: Use either --html or --json, not both.
   [2]
 
 A chart is as wide as the terminal. What is hardly anything is seen, and what is owed lies to

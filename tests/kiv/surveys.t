@@ -250,7 +250,13 @@ Bad surveys change nothing:
   kiv: --balance is missing.
   [2]
   $ kiv survey complete First --from x
-  kiv: --from and BANK exclude each other.
+  kiv: Use either --from or BANK, not both.
+  [2]
+  $ kiv survey complete --from x --date 2026-01-31
+  kiv: Use either --from or --date, not both.
+  [2]
+  $ complete --tick-all --tick 99
+  kiv: Use either --tick-all or --tick, not both.
   [2]
   $ kiv survey show First Checking --date 2199-01-01
   kiv: Cannot perform a mapping survey for a future date, 2199-01-01.
@@ -259,10 +265,10 @@ Bad surveys change nothing:
   kiv: No bank keeps the account 'Rent [Budget Item]'; kiv bank-account attach ties it to one.
   [1]
   $ kiv debt update Car --type loan
-  kiv: --bank is missing.
+  kiv: --type goes only with --bank.
   [2]
   $ kiv goal update Trip --no-bank --bank-account Checking
-  kiv: --no-bank and --bank-account exclude each other.
+  kiv: Use either --no-bank or --bank-account, not both.
   [2]
 
 Rates convert once and for all:
@@ -293,7 +299,7 @@ Rates convert once and for all:
 The wizard makes a budget of a template's items:
 
   $ start() {
-  >     kiv wizard start --template teenager --bank First --account Savings \
+  >     kiv --file start wizard --template teenager --bank First --account Savings \
   >         --type savings --balance 12.50 --currency EUR "$@"
   > }
   $ start --json >items

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/arguments.h"
 
+#include "errors.h"
+
 #include <CLI/CLI.hpp>
 
 #include <array>
@@ -24,7 +26,39 @@ constexpr std::array placeholders{
     QT_TRANSLATE_NOOP("QObject", "TO"),
 };
 
+/// As the option's place in CLI11 and messages have it.
+std::string shownName(const std::string &name)
+{
+    return name[0] == '-' ? name : placeholder(name.c_str()).toStdString();
+}
+
+/// Whether it stands on the command line, be it before the command.
+bool isGiven(const CLI::App *app, const std::string &name)
+{
+    for (; app; app = app->get_parent()) {
+        const CLI::Option *option = app->get_option_no_throw(shownName(name));
+        if (option && option->count() > 0)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
+
+void ArgumentRules::check(const CLI::App &command) const
+{
+    const auto shown = [](const std::string &name) {
+        return QString::fromStdString(shownName(name));
+    };
+    for (const auto &[one, other] : exclusive) {
+        if (isGiven(&command, one) && isGiven(&command, other))
+            throw contradiction(shown(one), shown(other));
+    }
+    for (const auto &[name, base] : dependent) {
+        if (isGiven(&command, name) && !isGiven(&command, base))
+            throw onlyWith(shown(name), shown(base));
+    }
+}
 
 QString placeholder(const char *word)
 {
@@ -36,6 +70,18 @@ QString placeholder(const char *word)
 Arguments &Arguments::flag(const char *name, bool &value, const QString &help)
 {
     m_app.add_flag(name, value, help.toStdString());
+    return *this;
+}
+
+Arguments &Arguments::exclusive(const char *one, const char *other)
+{
+    m_rules.exclusive.emplace_back(one, other);
+    return *this;
+}
+
+Arguments &Arguments::only(const char *name, const char *base)
+{
+    m_rules.dependent.emplace_back(name, base);
     return *this;
 }
 

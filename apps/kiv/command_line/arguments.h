@@ -75,6 +75,15 @@ struct Options {
     std::optional<QDate> date;
 };
 
+/// Which arguments of a command go together.
+struct ArgumentRules {
+    std::vector<std::pair<std::string, std::string>> exclusive = {};
+    std::vector<std::pair<std::string, std::string>> dependent = {}; ///< each on the second
+
+    /// Throws a UsageError for a call of the command that breaks one.
+    void check(const CLI::App &command) const;
+};
+
 /// The arguments of one command, where it declares them. A name in capitals
 /// ("NAME") is known by its place, one with dashes ("--name") is an option. The
 /// values must outlive the parsing of the command line. The texts of the help come
@@ -108,10 +117,16 @@ public:
                    Presence::RequiredRepeated);
     }
     Arguments &flag(const char *name, bool &value, const QString &help);
+    /// The command refuses to be given both of two of its arguments.
+    Arguments &exclusive(const char *one, const char *other);
+    /// The command refuses to be given `name` alone: without `base` it means nothing.
+    Arguments &only(const char *name, const char *base);
     /// The command takes --file.
     Arguments &file();
     /// The command takes --date, in place of today.
     Arguments &dated(const QString &help);
+
+    [[nodiscard]] const ArgumentRules &rules() const { return m_rules; }
 
 private:
     using Reader = std::function<void(const std::string &)>;
@@ -136,6 +151,7 @@ private:
 
     CLI::App &m_app;
     Options &m_options;
+    ArgumentRules m_rules;
 };
 
 } // namespace kiv::app

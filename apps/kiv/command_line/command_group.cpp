@@ -30,6 +30,15 @@ QString Call::fileNamed() const
     throw noFileNamed();
 }
 
+QString Call::fileToMake(const QString &given) const
+{
+    for (const QString &path : {given, options.file, qEnvironmentVariable("KIV_FILE")}) {
+        if (!path.isEmpty())
+            return path;
+    }
+    throw noFileNamed();
+}
+
 CommandGroup CommandGroup::group(const char *name, const QString &help)
 {
     CLI::App *app = addTo(m_app, name, help);
@@ -55,9 +64,11 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
                        QObject::tr("Show what would come of it, save nothing"));
     arguments.flag("--verbose", options.isVerbose, QObject::tr("Show the log on standard error"));
     // CLI11 calls back for the commands above the one that is called, too.
-    app->callback([&program = m_program, app, kind, run] {
-        if (app->get_subcommands().empty())
-            program.select(kind, run);
+    app->callback([&program = m_program, app, kind, run, rules = arguments.rules()] {
+        if (!app->get_subcommands().empty())
+            return;
+        rules.check(*app);
+        program.select(kind, run);
     });
     return {*app, m_program};
 }

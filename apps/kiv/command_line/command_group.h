@@ -44,6 +44,9 @@ struct Call {
     /// The budget file that is named, open, or in the variable, in this order, for
     /// commands that open none. Throws a UsageError when there is none.
     [[nodiscard]] QString fileNamed() const;
+    /// The file to be made: `given` by its place, named, or in the variable. Throws a
+    /// UsageError when there is none.
+    [[nodiscard]] QString fileToMake(const QString &given) const;
 };
 
 /// A place in the tree of commands where commands are added. A command is a

@@ -15,7 +15,8 @@ void CodeChange::declare(Arguments &arguments)
         .optional("--number", number, QObject::tr("The new number"))
         .optional("--name", name, QObject::tr("The new name"))
         .optional("--under", parent, QObject::tr("The account under which it is to stand"))
-        .flag("--top-level", isTopLevel, QObject::tr("It is to stand under no other account"));
+        .flag("--top-level", isTopLevel, QObject::tr("It is to stand under no other account"))
+        .exclusive("--under", "--top-level");
 }
 
 AccountCode CodeChange::from(const AccountIndex &index) const
@@ -25,8 +26,6 @@ AccountCode CodeChange::from(const AccountIndex &index) const
 
 AccountCode CodeChange::to(const AccountIndex &index) const
 {
-    if (parent && isTopLevel)
-        throw contradiction(QStringLiteral("--under"), QStringLiteral("--top-level"));
     const AccountCode present = from(index);
     std::optional<AccountNumber> under = present.parent();
     if (parent)

@@ -23,15 +23,12 @@ struct New {
     void declare(Arguments &arguments)
     {
         arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
-            .file();
+            .file()
+            .exclusive("FILE", "--file");
     }
     Report run(Call &call) const
     {
-        QString path = file.isEmpty() ? call.options.file : file;
-        if (path.isEmpty())
-            path = qEnvironmentVariable("KIV_FILE");
-        if (path.isEmpty())
-            throw noFileNamed();
+        const QString path = call.fileToMake(file);
         call.document.refuseUnsaved();
         Document::refuseExisting(path);
         call.requests.navigator().onConfirmedNewBudgetEmpty();

@@ -53,7 +53,9 @@ struct Check {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, QObject::tr("A budget file or one of its backups")).file();
+        arguments.optional("FILE", file, QObject::tr("A budget file or one of its backups"))
+            .file()
+            .exclusive("FILE", "--file");
     }
     Report run(Call &call) const
     {

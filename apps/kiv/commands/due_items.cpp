@@ -119,21 +119,21 @@ struct PostDue {
     {
         arguments.optional("ITEM", name, QObject::tr("The budget item's name"))
             .optional("--kind", kind,
-                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"))
+                      QObject::tr("bill, debt, goal, nontrack or wage: where names repeat, or of "
+                                  "--all"))
             .required("--account", account,
                       QObject::tr("The account that pays, or that a wage goes to"))
             .optional("--amount", amount, QObject::tr("Another amount than the item's"))
             .flag("--all", isAll,
                   QObject::tr("Post everything that is due by now, in place of one item"))
-            .dated(QObject::tr("The day of posting; today otherwise"));
+            .dated(QObject::tr("The day of posting; today otherwise"))
+            .exclusive("--all", "ITEM")
+            .exclusive("--all", "--amount");
     }
     Report run(Call &call) const
     {
-        if (isAll == name.has_value())
-            throw isAll ? contradiction(QStringLiteral("--all"), placeholder("ITEM"))
-                        : missing(placeholder("ITEM"));
-        if (isAll && amount)
-            throw contradiction(QStringLiteral("--all"), QStringLiteral("--amount"));
+        if (!isAll && !name)
+            throw missing(placeholder("ITEM"));
         Requests &requests = call.requests;
         const accounting::AccountCode code = requests.accounts().find(account).code();
         QJsonArray rows;
@@ -160,8 +160,11 @@ struct PostDue {
 private:
     [[nodiscard]] std::vector<BudgetItemAmountDue> chosen(Call &call, const BudgetView &view) const
     {
-        if (isAll)
-            return dueItems(call, std::chrono::days(0));
+        if (isAll) {
+            std::vector<BudgetItemAmountDue> due = dueItems(call, std::chrono::days(0));
+            std::erase_if(due, [this](const auto &one) { return kind && one.id.type != *kind; });
+            return due;
+        }
         BudgetItemAmountDue due = dueOf(view.find(*name, kind));
         if (amount)
             due.amount = amount->in(due.amount.code());

@@ -57,16 +57,17 @@ struct Export {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--format", format, QObject::tr("journal (unless given), csv or json"));
+        arguments.optional("--format", format, QObject::tr("journal (unless given), csv or json"))
+            .exclusive("--format", "--json");
     }
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
         const std::vector<accounting::Transaction> transactions = call.requests.transactions();
-        if (format == ExportFormat::Journal)
-            return Report().raw(interchange::writeJournal(index.accounts(), transactions));
         if (format == ExportFormat::Csv)
             return Report().raw(interchange::writeCsv(index.accounts(), transactions));
+        if (format == ExportFormat::Journal && !call.options.isJson)
+            return Report().raw(interchange::writeJournal(index.accounts(), transactions));
         const Report report{QJsonValue(everything(call.requests, index, transactions))};
         return Report().raw(report.toJson());
     }

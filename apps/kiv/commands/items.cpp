@@ -42,7 +42,8 @@ struct ItemArguments {
                           QObject::tr("What was borrowed: its account opens with it"))
                 .optional("--bank,--bank-account", bank, QObject::tr("The bank that holds it"))
                 .optional("--type", type,
-                          QObject::tr("The kind of account there: loan (unless given), …"));
+                          QObject::tr("The kind of account there: loan (unless given), …"))
+                .only("--type", "--bank");
         }
         if constexpr (std::same_as<Item, budgeting::Goal>) {
             arguments.optional("--target", extra, QObject::tr("What it is to come to"))
@@ -97,8 +98,6 @@ struct ItemArguments {
             const auto kind = type.value_or(banking::BankAccountTypes::Loan);
             return BankAccount{requests.bank(*bank).name(), {accounting::AccountNumber(), kind}};
         }
-        if (type)
-            throw missing(QStringLiteral("--bank"));
         if (!bankAccount)
             return std::nullopt;
         const accounting::AccountNumber number =
@@ -186,16 +185,17 @@ struct UpdateItem {
         line.required("NAME", name, QObject::tr("Its name"))
             .optional("--amount", arguments.amount, QObject::tr("What it comes to"));
         arguments.declare(line);
-        line.flag("--no-tags", isUntagged, QObject::tr("Take its tags away"));
+        line.flag("--no-tags", isUntagged, QObject::tr("Take its tags away"))
+            .exclusive("--no-tags", "--tag");
         if constexpr (budgeting::BankTiedItem<Item>)
-            line.flag("--no-bank", isUntied, QObject::tr("Tie it to no bank any more"));
+            line.flag("--no-bank", isUntied, QObject::tr("Tie it to no bank any more"))
+                .exclusive("--no-bank",
+                           std::same_as<Item, budgeting::Debt> ? "--bank" : "--bank-account");
     }
     Report run(Call &call) const
     {
         if (arguments.isEmpty() && !isUntied && !isUntagged)
             throw nothingToChange();
-        if (isUntagged && !arguments.tags.empty())
-            throw contradiction(QStringLiteral("--no-tags"), QStringLiteral("--tag"));
         Requests &requests = call.requests;
         const BudgetView view(requests);
         const auto &present = dynamic_cast<const Item &>(view.find(name, ItemTraits<Item>::type));
@@ -227,10 +227,6 @@ private:
                                                          const BudgetItemIdentifier &id) const
     {
         const std::optional<BankAccount> named = arguments.named(requests);
-        if (isUntied && named)
-            throw contradiction(QStringLiteral("--no-bank"),
-                                arguments.bank ? QStringLiteral("--bank")
-                                               : QStringLiteral("--bank-account"));
         return named || isUntied ? named : view.bankAccount(id);
     }
 };

@@ -80,13 +80,16 @@ struct ShowReport {
                   QObject::tr("Print one HTML page, with charts, to be read or printed"))
             .flag("--chart", hasCharts, QObject::tr("Draw the charts on the terminal"))
             .optional("--title", title, QObject::tr("The title of the page"))
-            .dated(QObject::tr("The last day, where --to is not given"));
+            .dated(QObject::tr("The last day, where --to is not given"))
+            .exclusive("--html", "--chart")
+            .exclusive("--html", "--json")
+            .exclusive("--chart", "--json")
+            .exclusive("--to", "--date")
+            .only("--title", "--html");
     }
 
     Report run(Call &call) const
     {
-        if (isHtml && hasCharts)
-            throw contradiction(QStringLiteral("--html"), QStringLiteral("--chart"));
         const QDate last = to.value_or(call.date());
         const interchange::Period period(from.value_or(last.addMonths(-11)), last);
         const AccountIndex index = call.requests.accounts();
@@ -95,7 +98,7 @@ struct ShowReport {
                                    BudgetView(call.requests).budget());
         Report report(data(figures));
         if (isHtml)
-            return call.options.isJson ? report : Report().raw(interchange::toHtml(figures, title));
+            return Report().raw(interchange::toHtml(figures, title));
         if (hasCharts)
             addCharts(report, figures, call);
         else

@@ -69,7 +69,9 @@ struct Shell {
 
     void declare(Arguments &arguments)
     {
-        arguments.file().optional("FILE", file, QObject::tr("The budget file, as with --file"));
+        arguments.file()
+            .optional("FILE", file, QObject::tr("The budget file, as with --file"))
+            .exclusive("FILE", "--file");
     }
     Report run(Call &call) const
     {

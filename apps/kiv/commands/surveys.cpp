@@ -123,7 +123,10 @@ struct CompleteSurvey {
                      QObject::tr("ITEM=AMOUNT: what is set aside for an item"))
             .optional("--not-distributed", nonDistributed,
                       QObject::tr("What is set aside for nothing"))
-            .dated(QObject::tr("The day of the statement; today otherwise"));
+            .dated(QObject::tr("The day of the statement; today otherwise"))
+            .exclusive("--from", "BANK")
+            .exclusive("--from", "--date")
+            .exclusive("--tick-all", "--tick");
     }
     Report run(Call &call) const
     {
@@ -148,8 +151,6 @@ struct CompleteSurvey {
 private:
     [[nodiscard]] SurveyForm start(Call &call) const
     {
-        if (file && bank)
-            throw contradiction(QStringLiteral("--from"), placeholder("BANK"));
         if (file)
             return surveyFromJson(call.requests, readJson(*file).object());
         if (!account)

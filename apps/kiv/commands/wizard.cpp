@@ -105,7 +105,9 @@ struct Wizard {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+        arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+            .file()
+            .exclusive("FILE", "--file")
             .optional("--template", answers.household,
                       QObject::tr("The household; see templates list"))
             .optional("--currency", answers.preferred,
@@ -123,9 +125,10 @@ struct Wizard {
         given.bank = bank.text;
         given.account = account.text;
         call.document.refuseUnsaved();
-        Document::refuseExisting(file);
+        const QString path = call.fileToMake(file);
+        Document::refuseExisting(path);
         fillIn(call.requests, given);
-        call.document.create(file);
+        call.document.create(path);
         Report report = itemsReport(itemsJson(call.requests));
         return report.line(QObject::tr("Made the budget '%1'.").arg(call.document.file()));
     }
