@@ -148,13 +148,13 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
         "Failed to add budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
-            changeTagged(
-                m_tagManager, m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
-                [&] { m_tagManager.changeAssociation(itemTags); },
-                [&] {
-                    visitItemClass(
-                        type, "An unknown budget item type was supplied when adding a new entry.",
-                        add);
+            visitItemClass(
+                type, "An unknown budget item type was supplied when adding a new entry.",
+                [&](auto itemClass) {
+                    changeTagged(
+                        m_tagManager,
+                        m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
+                        [&] { m_tagManager.changeAssociation(itemTags); }, [&] { add(itemClass); });
                 });
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
@@ -181,14 +181,14 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
         "Failed to update budget item.",
         [&] {
             requireTagsOf(type, item, itemTags);
-            changeTagged(
-                m_tagManager, m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
-                [&] { m_tagManager.changeAssociation(itemTags); },
-                [&] {
-                    visitItemClass(
-                        type, "An unknown budget item type was supplied when updating an entry.",
-                        update);
-                });
+            visitItemClass(type, "An unknown budget item type was supplied when updating an entry.",
+                           [&](auto itemClass) {
+                               changeTagged(
+                                   m_tagManager,
+                                   m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
+                                   [&] { m_tagManager.changeAssociation(itemTags); },
+                                   [&] { update(itemClass); });
+                           });
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
         [&](const QString &why) {

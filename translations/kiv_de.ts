@@ -2378,10 +2378,6 @@
         <translation>„%1“ ist keiner von diesen Werten: %2</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 und %2 schließen einander aus.</translation>
-    </message>
-    <message>
         <source>%1 is missing.</source>
         <translation>%1 fehlt.</translation>
     </message>
@@ -4183,6 +4179,98 @@
     <message>
         <source>The column of the balance; - to leave it unchecked (csv)</source>
         <translation>Die Spalte des Saldos; - lässt ihn ungeprüft (csv)</translation>
+    </message>
+    <message>
+        <source>The reply&apos;s rates are of %1, older than the known ones of %2.</source>
+        <translation>Die Kurse der Antwort sind vom %1 und älter als die bekannten vom %2.</translation>
+    </message>
+    <message>
+        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
+        <translation>Die Tabelle hat bis hierher mehr als %1 Zeichen, wobei jede Zelle als mindestens %2 zählt; sie ist auf mehrere Dateien aufzuteilen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
+        <translation>„%1“ steht in zwei Zellen und ist vielleicht ein einziger Betrag; ein Betrag, der das Trennzeichen enthält, braucht Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
+        <translation>Die Spalten %1 heißen alle „%2“; eine davon wird mit %3 durch ihre Nummer gewählt.</translation>
+    </message>
+    <message>
+        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
+        <translation>Die Zeile der Überschriften enthält einen Eintrag; gibt es keine Überschriften, ist --no-headings anzugeben.</translation>
+    </message>
+    <message>
+        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
+        <translation>Dieser Eintrag steht innerhalb von Anführungszeichen, die auf einer Zeile darüber beginnen; sie sind dort zu schließen.</translation>
+    </message>
+    <message>
+        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
+        <translation>Nach den Beträgen der Einträge ist der Saldo hier %1, die Datei nennt aber %2; --balance-column - lässt ihn ungeprüft.</translation>
+    </message>
+    <message>
+        <source>An entry stands here outside of the list of a statement.</source>
+        <translation>Hier steht ein Eintrag außerhalb der Liste eines Kontoauszugs.</translation>
+    </message>
+    <message>
+        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
+        <translation>Hier steht mehr als das, was zwischen &lt;OFX&gt; und &lt;/OFX&gt; steht; jedes Dokument braucht eine eigene Datei.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is there a second time.</source>
+        <translation>&lt;%1&gt; kommt ein zweites Mal vor.</translation>
+    </message>
+    <message>
+        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
+        <translation>Mit „%1“ hat der Eintrag zwei Zeilen einer Art; darüber fehlt vielleicht eine Zeile ^.</translation>
+    </message>
+    <message>
+        <source>The entry has two amounts, %1 and %2.</source>
+        <translation>Der Eintrag hat zwei Beträge, %1 und %2.</translation>
+    </message>
+    <message>
+        <source>%1 It was renamed to &apos;%2&apos;.</source>
+        <translation>%1 Sie heißt jetzt „%2“.</translation>
+    </message>
+    <message>
+        <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
+        <translation>bill, debt, goal, nontrack oder wage: wo sich Namen wiederholen, oder für --all</translation>
+    </message>
+    <message>
+        <source>The column that tells what is not booked yet (csv)</source>
+        <translation>Die Spalte, die sagt, was noch nicht gebucht ist (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the balance; - to leave it unchecked (csv)</source>
+        <translation>Die Spalte des Saldos; - lässt ihn ungeprüft (csv)</translation>
+    </message>
+    <message>
+        <source>typed</source>
+        <translation>von Hand</translation>
+    </message>
+    <message>
+        <source>fetched</source>
+        <translation>abgerufen</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>The service has no exchange rates of these currencies: %1</source>
+        <translation>Der Dienst hat keine Wechselkurse für diese Währungen: %1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is named twice.</source>
+        <translation>„%1“ wird zweimal genannt.</translation>
+    </message>
+    <message>
+        <source>Use either %1 or %2, not both.</source>
+        <translation>Entweder %1 oder %2 angeben, nicht beides.</translation>
+    </message>
+    <message>
+        <source>%1 goes only with %2.</source>
+        <translation>%1 gilt nur zusammen mit %2.</translation>
     </message>
 </context>
 <context>

@@ -2378,10 +2378,6 @@
         <translation>«%1» no es ninguno de estos valores: %2</translation>
     </message>
     <message>
-        <source>%1 and %2 exclude each other.</source>
-        <translation>%1 y %2 se excluyen entre sí.</translation>
-    </message>
-    <message>
         <source>%1 is missing.</source>
         <translation>Falta %1.</translation>
     </message>
@@ -4183,6 +4179,98 @@
     <message>
         <source>The column of the balance; - to leave it unchecked (csv)</source>
         <translation>La columna del saldo; - lo deja sin comprobar (csv)</translation>
+    </message>
+    <message>
+        <source>The reply&apos;s rates are of %1, older than the known ones of %2.</source>
+        <translation>Los tipos de la respuesta son del %1, más antiguos que los conocidos del %2.</translation>
+    </message>
+    <message>
+        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
+        <translation>La tabla tiene hasta aquí más de %1 caracteres, contando cada celda como %2 al menos; hay que dividirla en varios archivos.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
+        <translation>«%1» ocupa dos celdas y puede ser un solo importe; un importe que contiene el separador necesita comillas.</translation>
+    </message>
+    <message>
+        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
+        <translation>Las columnas %1 se llaman todas «%2»; se elige una por su número con %3.</translation>
+    </message>
+    <message>
+        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
+        <translation>La línea de los encabezados contiene una entrada; si no hay encabezados, se indica con --no-headings.</translation>
+    </message>
+    <message>
+        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
+        <translation>Esta entrada está dentro de unas comillas que empiezan en una línea anterior; hay que cerrarlas allí.</translation>
+    </message>
+    <message>
+        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
+        <translation>Según los importes de las entradas, el saldo es aquí %1, pero el archivo dice %2; --balance-column - lo deja sin comprobar.</translation>
+    </message>
+    <message>
+        <source>An entry stands here outside of the list of a statement.</source>
+        <translation>Aquí hay una entrada fuera de la lista de un extracto.</translation>
+    </message>
+    <message>
+        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
+        <translation>Aquí hay más de lo que está entre &lt;OFX&gt; y &lt;/OFX&gt;; cada documento necesita su propio archivo.</translation>
+    </message>
+    <message>
+        <source>&lt;%1&gt; is there a second time.</source>
+        <translation>&lt;%1&gt; aparece por segunda vez.</translation>
+    </message>
+    <message>
+        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
+        <translation>Con «%1» la entrada tiene dos líneas de una clase; quizá falte una línea ^ más arriba.</translation>
+    </message>
+    <message>
+        <source>The entry has two amounts, %1 and %2.</source>
+        <translation>La entrada tiene dos importes, %1 y %2.</translation>
+    </message>
+    <message>
+        <source>%1 It was renamed to &apos;%2&apos;.</source>
+        <translation>%1 Ahora se llama «%2».</translation>
+    </message>
+    <message>
+        <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
+        <translation>bill, debt, goal, nontrack o wage: donde se repiten nombres, o para --all</translation>
+    </message>
+    <message>
+        <source>The column that tells what is not booked yet (csv)</source>
+        <translation>La columna que dice qué no está contabilizado aún (csv)</translation>
+    </message>
+    <message>
+        <source>The column of the balance; - to leave it unchecked (csv)</source>
+        <translation>La columna del saldo; - lo deja sin comprobar (csv)</translation>
+    </message>
+    <message>
+        <source>typed</source>
+        <translation>a mano</translation>
+    </message>
+    <message>
+        <source>fetched</source>
+        <translation>obtenido</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Origen</translation>
+    </message>
+    <message>
+        <source>The service has no exchange rates of these currencies: %1</source>
+        <translation>El servicio no tiene tipos de cambio de estas monedas: %1</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is named twice.</source>
+        <translation>«%1» aparece dos veces.</translation>
+    </message>
+    <message>
+        <source>Use either %1 or %2, not both.</source>
+        <translation>Indicar %1 o %2, no ambos.</translation>
+    </message>
+    <message>
+        <source>%1 goes only with %2.</source>
+        <translation>%1 solo vale junto con %2.</translation>
     </message>
 </context>
 <context>

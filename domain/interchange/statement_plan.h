@@ -15,6 +15,7 @@ namespace kiv::interchange {
 
 /// What the user should know of a statement or one of its entries.
 struct StatementNotice {
+    /// What can be told of an entry or of a statement.
     enum class Kinds {
         Pending,       ///< entries are left out that the bank has not booked yet
         Nothing,       ///< an entry of the amount zero is left out

@@ -235,13 +235,13 @@ So are options that do not fit:
   kiv: '1001' is not a whole number from 0 to 1000.
   [2]
   $ kiv import s.ofx --into 1 --decimal ,
-  kiv: --decimal and --format ofx exclude each other.
+  kiv: Use either --decimal or --format ofx, not both.
   [2]
   $ kiv import s.qif --into 1 --no-headings
-  kiv: --no-headings and --format qif exclude each other.
+  kiv: Use either --no-headings or --format qif, not both.
   [2]
   $ echo | kiv import - --format journal --save-profile mine
-  kiv: --save-profile and --format journal exclude each other.
+  kiv: Use either --save-profile or --format journal, not both.
   [2]
 
 Every way to read a statement. What it is shows in its beginning, and the other side in its

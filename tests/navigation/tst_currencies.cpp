@@ -108,14 +108,15 @@ private slots:
         QCOMPARE(front.monthlyBills(), QStringLiteral("430.00"));
 
         // An account that is kept in another currency from now on is restated
-        // at the rate of that moment, and no other account with it.
+        // at the rate of that moment, but for what came from an account in that
+        // currency. No other account is restated with it.
         const auto inEuros = bill("Gym", money("EUR", "8"));
         n.onUpdated(element(), BudgetItemTypes::Bill, inEuros, {}, tagged(inEuros));
         front.pay("Hotel", money("EUR", "100"), 1); // 6
         QStringList converted = posted;
         converted[0] = QStringLiteral("Checking 350.00 USD: 1=1000.00 3=200.00 5=50.00 6=400.00");
         converted[4] = QStringLiteral("Hotel [Budget Item] 200.00 EUR: 3=100.00 6=100.00");
-        converted[5] = QStringLiteral("Gym [Budget Item] 7.50 EUR: 4=7.50");
+        converted[5] = QStringLiteral("Gym [Budget Item] 15.00 EUR: 4=15.00");
         QCOMPARE(front.books(), converted);
 
         const QTemporaryDir folder;
