@@ -4185,64 +4185,12 @@
         <translation>Die Kurse der Antwort sind vom %1 und älter als die bekannten vom %2.</translation>
     </message>
     <message>
-        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
-        <translation>Die Tabelle hat bis hierher mehr als %1 Zeichen, wobei jede Zelle als mindestens %2 zählt; sie ist auf mehrere Dateien aufzuteilen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
-        <translation>„%1“ steht in zwei Zellen und ist vielleicht ein einziger Betrag; ein Betrag, der das Trennzeichen enthält, braucht Anführungszeichen.</translation>
-    </message>
-    <message>
-        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
-        <translation>Die Spalten %1 heißen alle „%2“; eine davon wird mit %3 durch ihre Nummer gewählt.</translation>
-    </message>
-    <message>
-        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
-        <translation>Die Zeile der Überschriften enthält einen Eintrag; gibt es keine Überschriften, ist --no-headings anzugeben.</translation>
-    </message>
-    <message>
-        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
-        <translation>Dieser Eintrag steht innerhalb von Anführungszeichen, die auf einer Zeile darüber beginnen; sie sind dort zu schließen.</translation>
-    </message>
-    <message>
-        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
-        <translation>Nach den Beträgen der Einträge ist der Saldo hier %1, die Datei nennt aber %2; --balance-column - lässt ihn ungeprüft.</translation>
-    </message>
-    <message>
-        <source>An entry stands here outside of the list of a statement.</source>
-        <translation>Hier steht ein Eintrag außerhalb der Liste eines Kontoauszugs.</translation>
-    </message>
-    <message>
-        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
-        <translation>Hier steht mehr als das, was zwischen &lt;OFX&gt; und &lt;/OFX&gt; steht; jedes Dokument braucht eine eigene Datei.</translation>
-    </message>
-    <message>
-        <source>&lt;%1&gt; is there a second time.</source>
-        <translation>&lt;%1&gt; kommt ein zweites Mal vor.</translation>
-    </message>
-    <message>
-        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
-        <translation>Mit „%1“ hat der Eintrag zwei Zeilen einer Art; darüber fehlt vielleicht eine Zeile ^.</translation>
-    </message>
-    <message>
-        <source>The entry has two amounts, %1 and %2.</source>
-        <translation>Der Eintrag hat zwei Beträge, %1 und %2.</translation>
-    </message>
-    <message>
         <source>%1 It was renamed to &apos;%2&apos;.</source>
         <translation>%1 Sie heißt jetzt „%2“.</translation>
     </message>
     <message>
         <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
         <translation>bill, debt, goal, nontrack oder wage: wo sich Namen wiederholen, oder für --all</translation>
-    </message>
-    <message>
-        <source>The column that tells what is not booked yet (csv)</source>
-        <translation>Die Spalte, die sagt, was noch nicht gebucht ist (csv)</translation>
-    </message>
-    <message>
-        <source>The column of the balance; - to leave it unchecked (csv)</source>
-        <translation>Die Spalte des Saldos; - lässt ihn ungeprüft (csv)</translation>
     </message>
     <message>
         <source>typed</source>
@@ -4271,6 +4219,26 @@
     <message>
         <source>%1 goes only with %2.</source>
         <translation>%1 gilt nur zusammen mit %2.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be locked: &apos;%2&apos; is not a lock file. Move it away or rename it.</source>
+        <translation>Die Datei „%1“ kann nicht gesperrt werden: „%2“ ist keine Sperrdatei. Sie ist zu verschieben oder umzubenennen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; could not be saved: &apos;%2&apos; is in the way.</source>
+        <translation>Die Datei „%1“ konnte nicht gespeichert werden: „%2“ ist im Weg.</translation>
+    </message>
+    <message>
+        <source>Amounts in the account &apos;%1&apos; that differed from those of their transactions in the same currency were corrected.</source>
+        <translation>Beträge im Konto „%1“, die von denen ihrer Buchungen in derselben Währung abwichen, wurden berichtigt.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; had the account %2, which is neither an asset nor a liability.</source>
+        <translation>Die Bank „%1“ hatte das Konto %2, das weder Vermögen noch Verbindlichkeit ist.</translation>
+    </message>
+    <message>
+        <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
+        <translation>Der letzte Abgleich des Kontos %1 bei der Bank „%2“ stammt aus der Zeit, als es ein Konto anderer Art war; er gilt für die jetzige Art, sofern es keinen späteren gibt.</translation>
     </message>
 </context>
 <context>

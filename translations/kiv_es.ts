@@ -4185,64 +4185,12 @@
         <translation>Los tipos de la respuesta son del %1, más antiguos que los conocidos del %2.</translation>
     </message>
     <message>
-        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
-        <translation>La tabla tiene hasta aquí más de %1 caracteres, contando cada celda como %2 al menos; hay que dividirla en varios archivos.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
-        <translation>«%1» ocupa dos celdas y puede ser un solo importe; un importe que contiene el separador necesita comillas.</translation>
-    </message>
-    <message>
-        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
-        <translation>Las columnas %1 se llaman todas «%2»; se elige una por su número con %3.</translation>
-    </message>
-    <message>
-        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
-        <translation>La línea de los encabezados contiene una entrada; si no hay encabezados, se indica con --no-headings.</translation>
-    </message>
-    <message>
-        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
-        <translation>Esta entrada está dentro de unas comillas que empiezan en una línea anterior; hay que cerrarlas allí.</translation>
-    </message>
-    <message>
-        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
-        <translation>Según los importes de las entradas, el saldo es aquí %1, pero el archivo dice %2; --balance-column - lo deja sin comprobar.</translation>
-    </message>
-    <message>
-        <source>An entry stands here outside of the list of a statement.</source>
-        <translation>Aquí hay una entrada fuera de la lista de un extracto.</translation>
-    </message>
-    <message>
-        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
-        <translation>Aquí hay más de lo que está entre &lt;OFX&gt; y &lt;/OFX&gt;; cada documento necesita su propio archivo.</translation>
-    </message>
-    <message>
-        <source>&lt;%1&gt; is there a second time.</source>
-        <translation>&lt;%1&gt; aparece por segunda vez.</translation>
-    </message>
-    <message>
-        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
-        <translation>Con «%1» la entrada tiene dos líneas de una clase; quizá falte una línea ^ más arriba.</translation>
-    </message>
-    <message>
-        <source>The entry has two amounts, %1 and %2.</source>
-        <translation>La entrada tiene dos importes, %1 y %2.</translation>
-    </message>
-    <message>
         <source>%1 It was renamed to &apos;%2&apos;.</source>
         <translation>%1 Ahora se llama «%2».</translation>
     </message>
     <message>
         <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
         <translation>bill, debt, goal, nontrack o wage: donde se repiten nombres, o para --all</translation>
-    </message>
-    <message>
-        <source>The column that tells what is not booked yet (csv)</source>
-        <translation>La columna que dice qué no está contabilizado aún (csv)</translation>
-    </message>
-    <message>
-        <source>The column of the balance; - to leave it unchecked (csv)</source>
-        <translation>La columna del saldo; - lo deja sin comprobar (csv)</translation>
     </message>
     <message>
         <source>typed</source>
@@ -4271,6 +4219,26 @@
     <message>
         <source>%1 goes only with %2.</source>
         <translation>%1 solo vale junto con %2.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; cannot be locked: &apos;%2&apos; is not a lock file. Move it away or rename it.</source>
+        <translation>El archivo «%1» no se puede bloquear: «%2» no es un archivo de bloqueo. Hay que moverlo o cambiarle el nombre.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; could not be saved: &apos;%2&apos; is in the way.</source>
+        <translation>No se pudo guardar el archivo «%1»: «%2» lo impide.</translation>
+    </message>
+    <message>
+        <source>Amounts in the account &apos;%1&apos; that differed from those of their transactions in the same currency were corrected.</source>
+        <translation>Se corrigieron los importes de la cuenta «%1» que diferían de los de sus asientos en la misma moneda.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; had the account %2, which is neither an asset nor a liability.</source>
+        <translation>El banco «%1» tenía la cuenta %2, que no es de activo ni de pasivo.</translation>
+    </message>
+    <message>
+        <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
+        <translation>La última conciliación de la cuenta %1 del banco «%2» se hizo cuando era una cuenta de otro tipo; vale para el tipo actual, salvo que haya una posterior.</translation>
     </message>
 </context>
 <context>
