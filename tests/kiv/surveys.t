@@ -135,6 +135,25 @@ Flags do the same:
   $ books() { kiv reconciliation last Checking; kiv ledger Checking; }
   $ books >flags
 
+Its last survey follows an account to the kind that is right, and the next one starts there:
+
+  $ kiv bank-account attach Checking --bank First --type savings
+  The bank 'First' keeps the account 1 Checking now.
+  $ kiv reconciliation last Checking
+  1 Checking was reconciled on 2026-01-31 with a balance of $4,330.00.
+  $ kiv survey show First Checking --date 2026-02-15 --json | jq -c '.reconciledOn, .expectedBalance'
+  "2026-01-31"
+  {"amount":"4330.00","currency":"USD"}
+  $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
+  Reconciled 1 Checking at First with a balance of $4,330.00.
+  $ kiv survey complete First Checking --date 2026-02-16 --balance 4330.00 --tick-all --tick 99
+  kiv: Use either --tick-all or --tick, not both.
+  [2]
+  $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
+  $ kiv survey complete --from nil.json
+  kiv: There is no bill 'Nil'; kiv bill list shows those that there are.
+  [1]
+
 And so do answers, asked for until they can be understood:
 
   $ january

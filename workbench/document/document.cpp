@@ -144,7 +144,9 @@ BudgetStorage::Data Document::present()
 void Document::mend()
 {
     const BudgetStorage::Data data = present();
-    BudgetStorage::Data mended = storage::BudgetFile::mended(data);
+    // The user has asked for what is mended here, so that no warning is due.
+    BudgetStorage::Data mended =
+        m_requests.within([&data] { return storage::BudgetFile::mended(data); });
     if (mended == data)
         return;
     m_storage->recall(std::move(mended));

@@ -54,6 +54,14 @@ public:
     /// developers, since the answer says the same to the user.
     [[nodiscard]] bool isBusy() const noexcept { return m_running > 0; }
 
+    /// Does a part of a request, in which the requests are busy.
+    template <typename Work>
+    auto within(Work &&work)
+    {
+        const Running running(*this);
+        return work();
+    }
+
     /// Calls `request` and gathers what `signal` carried meanwhile. This one alone
     /// does not count as busy.
     template <typename... Arguments, typename Request>
