@@ -62,6 +62,7 @@ Navigator::Navigator(foundation::UniqueQtPtr<networking::RequestSender> sender,
 {
     new LastFailure(this);
     internal::registerMetaTypes();
+    qRegisterMetaType<Navigator>();
     setUpMoneyLibrary();
     initialiseConversions();
     startUpdateNotifier();

@@ -4,6 +4,7 @@
 #include "accounting/internal/faults.h"
 #include "accounting/internal/ledger_state.h"
 #include "accounting/internal/posting.h"
+#include "accounting/number_handout.h"
 
 #include "foundation/presentation.h"
 

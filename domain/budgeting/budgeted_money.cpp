@@ -2,7 +2,6 @@
 #include "budgeting/budgeted_money.h"
 
 #include "budgeting/internal/faults.h"
-#include "budgeting/item_traits.h"
 
 #include "foundation/local_dates.h"
 #include "foundation/streams.h"
@@ -81,23 +80,6 @@ std::ostream &operator<<(std::ostream &out, const BudgetedMoney &item)
         << " day " << item.dayOfMonth();
     item.streamKind(out);
     return out;
-}
-
-BudgetItemTypes toBudgetItemTypes(const BudgetedMoney &item)
-{
-    return toBudgetItemTypes(std::type_index(typeid(item)));
-}
-
-BudgetItemTypes toBudgetItemTypes(std::type_index type)
-{
-    BudgetItemTypes kind = BudgetItemTypes::None;
-    anyItemClass([&]<typename Item>(std::type_identity<Item>) {
-        if (type != typeid(Item))
-            return false;
-        kind = ItemTraits<Item>::type;
-        return true;
-    });
-    return kind;
 }
 
 QDebug operator<<(QDebug debug, const BudgetedMoney &item)

@@ -6,6 +6,8 @@
 
 #include "foundation/clonable.h"
 
+#include <typeindex>
+
 #include <memory>
 
 namespace kiv::budgeting {
@@ -80,6 +82,8 @@ static_assert(foundation::RequireClonable<BudgetedMoney>);
 
 /// The item's kind, by its dynamic type; None for the base alone.
 [[nodiscard]] KIV_BUDGETING_EXPORT BudgetItemTypes toBudgetItemTypes(const BudgetedMoney &item);
+/// The kind whose class has this type index; None for any other type.
+[[nodiscard]] KIV_BUDGETING_EXPORT BudgetItemTypes toBudgetItemTypes(std::type_index type);
 
 KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetedMoney &item);
 

@@ -163,7 +163,7 @@ QDate nextOccurrence(EventFrequency frequency, QDate date, int dayOfMonth)
         throw internal::neverRecurs();
     const QDate next = date.isValid() ? unchecked(frequency, date, dayOfMonth) : QDate();
     if (!next.isValid() || next.year() > 9999)
-        throw internal::noNextDate(frequency, date);
+        throw internal::noNextDate(presentationText(frequency), date);
     return next;
 }
 

@@ -104,7 +104,4 @@ bool anyItemClass(Visitor &&visitor)
            visitor(std::type_identity<Wage>{});
 }
 
-/// The kind whose class has this type index; None for any other type.
-[[nodiscard]] KIV_BUDGETING_EXPORT BudgetItemTypes toBudgetItemTypes(std::type_index type);
-
 } // namespace kiv::budgeting

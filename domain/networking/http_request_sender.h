@@ -2,6 +2,7 @@
 #pragma once
 
 #include "networking/export.h"
+#include "networking/http_limits.h"
 #include "networking/request_sender.h"
 
 #include <chrono>
@@ -12,16 +13,6 @@ namespace kiv::networking {
 namespace internal {
 class HttpTransport;
 }
-
-/// How much a server may ask of us.
-struct HttpLimits {
-    /// For one request from beginning to end, its redirects included.
-    std::chrono::milliseconds timeout{30'000};
-    /// Of a body, in bytes.
-    qint64 bodyMax = qint64{1} << 20;
-    /// How many redirects are followed.
-    int redirectsMax = 3;
-};
 
 /// Sends requests over HTTPS. Plain HTTP goes only to a loopback address
 /// written as a number, as a service on the same computer offers it.

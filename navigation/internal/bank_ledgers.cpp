@@ -4,6 +4,8 @@
 #include "navigation/internal/faults.h"
 #include "navigation/internal/undo.h"
 
+#include "accounting/number_handout.h"
+
 namespace kiv::navigation::internal {
 
 using accounting::AccountCode;

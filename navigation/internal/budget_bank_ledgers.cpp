@@ -3,6 +3,7 @@
 
 #include "navigation/internal/faults.h"
 
+#include "budgeting/item_account.h"
 #include "foundation/streams.h"
 
 namespace kiv::navigation::internal {

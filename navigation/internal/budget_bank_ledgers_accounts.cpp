@@ -6,6 +6,9 @@
 #include "navigation/internal/logging.h"
 #include "navigation/internal/map_survey.h"
 
+#include "accounting/number_handout.h"
+#include "budgeting/item_account.h"
+
 namespace kiv::navigation::internal {
 
 using accounting::AccountCode;

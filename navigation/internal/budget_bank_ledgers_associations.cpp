@@ -2,6 +2,7 @@
 #include "navigation/internal/budget_bank_ledgers.h"
 
 #include "navigation/internal/faults.h"
+#include "navigation/internal/logging.h"
 
 namespace kiv::navigation::internal {
 

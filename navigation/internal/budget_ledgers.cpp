@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/budget_ledgers.h"
 
+#include "navigation/internal/faults.h"
 #include "navigation/internal/logging.h"
+
+#include "budgeting/item_account.h"
 
 namespace kiv::navigation::internal {
 namespace {

@@ -10,7 +10,7 @@
 
 // BudgetLedgers is one class in several sources:
 //   budget_ledgers.cpp      construction, look-ups, comparison and text form
-//   budget_ledgers_items.h  what is the same for the five kinds of item
+//   budget_ledgers_items.cpp  what is the same for the five kinds of item
 //   budget_posting.cpp      posting for an item
 namespace kiv::navigation::internal {
 
@@ -229,5 +229,3 @@ private:
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetLedgers &ledgers);
 
 } // namespace kiv::navigation::internal
-
-#include "navigation/internal/budget_ledgers_items.h"

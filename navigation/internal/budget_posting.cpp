@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/budget_ledgers.h"
 
+#include "navigation/internal/faults.h"
+#include "navigation/internal/undo.h"
+
 #include "accounting/transaction.h"
 
 namespace kiv::navigation::internal {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/finalise_survey.h"
 
+#include "navigation/internal/faults.h"
 #include "navigation/internal/surveyed_changes.h"
 #include "navigation/internal/undo.h"
 

@@ -1,8 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/meta_types.h"
 
+#include "accounting/account.h"
+#include "accounting/transaction.h"
+#include "adviser/budget_health.h"
+#include "banking/bank_map.h"
+#include "budgeting/budget_totals.h"
+#include "budgeting/due.h"
+#include "conversion/conversion_map.h"
+#include "foundation/error.h"
+#include "foundation/percentage.h"
+#include "foundation/qt_ptr.h"
+#include "navigation/allow_sub_accounts.h"
+#include "navigation/bank_account_code.h"
+#include "navigation/budget_bank_account.h"
+#include "navigation/budget_wizard_templates.h"
+#include "navigation/configuration.h"
+#include "navigation/container_streams.h"
+#include "navigation/currency_display.h"
+#include "navigation/gui_element_identifier.h"
 #include "navigation/internal/update_notifier.h"
-#include "navigation/navigator.h"
+#include "navigation/user_preferences.h"
+#include "surveying/indexed_increase_decreases.h"
+#include "surveying/mapping_survey.h"
+#include "tagging/budget_tag_manager.h"
+#include "updating/release_information.h"
+#include "updating/semantic_version.h"
 
 namespace kiv::navigation::internal {
 
@@ -18,9 +41,9 @@ void registerAll()
 
 void registerMetaTypes()
 {
-    registerAll<Navigator, UpdateNotifier, AllowSubAccounts, BudgetWizardTemplates,
-                ConfigurationData, CurrencyDisplayOptions, GuiElementIdentifier,
-                std::set<BankAccountCode>, std::set<BudgetBankAccount>>();
+    registerAll<UpdateNotifier, AllowSubAccounts, BudgetWizardTemplates, ConfigurationData,
+                CurrencyDisplayOptions, GuiElementIdentifier, std::set<BankAccountCode>,
+                std::set<BudgetBankAccount>>();
 
     using namespace accounting;
     registerAll<Account, AccountCode, AccountNumber, LedgerAccount, Transaction, TransactionNumber,

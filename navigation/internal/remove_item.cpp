@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/remove_item.h"
 
+#include "navigation/internal/faults.h"
+
 namespace kiv::navigation::internal {
 namespace {
 

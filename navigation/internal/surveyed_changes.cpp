@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/internal/surveyed_changes.h"
 
+#include "navigation/internal/faults.h"
+
 #include "accounting/balances.h"
 #include "surveying/distributable.h"
 

@@ -4,6 +4,7 @@
 #include "support/accounting.h"
 
 #include "accounting/ledger_replay.h"
+#include "accounting/number_handout.h"
 
 #include "numira/error.h"
 #include "numira/library.h"

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/help_format.h"
-#include "errors.h"
-#include "manual.h"
+#include "command_line/manual.h"
+#include "commands/commands.h"
+#include "messages/errors.h"
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/words.h"
-#include "program.h"
+#include "program/program.h"
 
 #include "workbench/entry/user_locale.h"
 
@@ -119,7 +120,7 @@ private slots:
 
     void theManualHasEveryCommand()
     {
-        app::Program program;
+        app::Program program(app::declareCommands);
         const auto tree = program.commandTree();
         const QByteArray manual = app::manualOfCommands(*tree);
         QVERIFY(manual.contains(
@@ -157,7 +158,7 @@ private slots:
         qputenv("LC_ALL", language);
         workbench::speakAsUser(*QCoreApplication::instance());
         QTEST(workbench::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), "noon");
-        app::Program program;
+        app::Program program(app::declareCommands);
         const auto tree = program.commandTree();
         std::vector<const CLI::App *> commands{tree.get()};
         int longest = 0;

@@ -6,6 +6,8 @@
 #include "budgeting/item_account.h"
 #include "numira/library.h"
 
+#include "accounting/number_handout.h"
+
 #include <functional>
 
 namespace kiv::test {

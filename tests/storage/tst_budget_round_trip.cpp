@@ -4,6 +4,8 @@
 
 #include "support/message_log.h"
 
+#include "accounting/number_handout.h"
+
 #include <QtTest/QTest>
 
 #include <rapidcheck.h>

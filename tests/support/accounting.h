@@ -2,6 +2,7 @@
 #pragma once
 
 #include "accounting/general_ledger.h"
+#include "accounting/number_handout.h"
 
 /// Short ways to write dates, amounts, accounts and transactions in tests.
 /// Everything is valid unless a test asks for something else.

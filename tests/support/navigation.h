@@ -3,6 +3,8 @@
 
 #include "navigation/internal/budget_bank_ledgers.h"
 
+#include "accounting/number_handout.h"
+#include "banking/errors.h"
 #include "foundation/presentation.h"
 #include "numira/error.h"
 #include "numira/library.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/arguments.h"
 
-#include "errors.h"
+#include "messages/errors.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/candidates.h"
 
-#include "command_line/command_group.h"
+#include "workbench/document/document.h"
+#include "workbench/entry/kind_words.h"
+#include "workbench/requests/budget_view.h"
 
 #include <CLI/CLI.hpp>
 
@@ -11,6 +13,14 @@
 #include <string_view>
 
 namespace kiv::app {
+
+using workbench::AccountIndex;
+using workbench::BudgetView;
+using workbench::Document;
+using workbench::identify;
+using workbench::kindWord;
+using workbench::Requests;
+
 namespace {
 
 using Words = std::vector<std::string>;

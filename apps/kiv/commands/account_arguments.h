@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "command_line/command_group.h"
+#include "commands/command_group.h"
 
 /// Arguments that several commands about accounts share.
 namespace kiv::app {

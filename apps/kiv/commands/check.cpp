@@ -2,7 +2,8 @@
 // check
 #include "commands/commands.h"
 
-#include "program.h"
+#include "messages/exit_status.h"
+#include "program/program.h"
 
 #include "workbench/document/verification.h"
 
@@ -82,7 +83,7 @@ struct Check {
                           : QObject::tr("The budget '%1' is not whole; kiv check FILE tells which "
                                         "of its backups (%1.backup-1, …) is.")
                                 .arg(path));
-        report.setStatus(isWhole ? Program::success : Program::refused);
+        report.setStatus(isWhole ? ExitStatus::success : ExitStatus::refused);
         return report;
     }
 

@@ -3,8 +3,9 @@
 
 namespace kiv::app {
 
-void addCommands(CommandGroup &root)
+void declareCommands(CLI::App &app, const Declaring &declaring)
 {
+    CommandGroup root(app, declaring);
     addBudgetFileCommands(root);
     addVersionCommands(root);
     addCheckCommand(root);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "command_line/command_group.h"
+#include "commands/command_group.h"
 
 namespace kiv::app {
 
@@ -27,7 +27,7 @@ void addShellCommands(CommandGroup &root);
 void addTourCommand(CommandGroup &root);
 void addCompletionCommands(CommandGroup &root);
 
-/// Every command that there is.
-void addCommands(CommandGroup &root);
+/// Every command that there is, below the root; see DeclareCommands.
+void declareCommands(CLI::App &root, const Declaring &declaring);
 
 } // namespace kiv::app

@@ -3,8 +3,8 @@
 #include "commands/commands.h"
 
 #include "command_line/candidates.h"
-#include "manual.h"
-#include "program.h"
+#include "command_line/manual.h"
+#include "program/program.h"
 
 #include "foundation/streams.h"
 

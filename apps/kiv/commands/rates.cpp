@@ -2,7 +2,7 @@
 // rates show|fetch|set
 #include "commands/commands.h"
 
-#include "message_log.h"
+#include "messages/message_log.h"
 #include "output/json.h"
 
 #include "workbench/entry/user_locale.h"

@@ -4,7 +4,7 @@
 
 #include "output/chart_text.h"
 #include "output/json.h"
-#include "program.h"
+#include "program/program.h"
 
 #include "foundation/presentation.h"
 #include "interchange/html_report.h"

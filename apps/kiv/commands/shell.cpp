@@ -3,10 +3,11 @@
 #include "commands/commands.h"
 
 #include "command_line/candidates.h"
-#include "line_reader.h"
+#include "messages/exit_status.h"
+#include "output/signal_watch.h"
 #include "parsing/words.h"
-#include "program.h"
-#include "signal_watch.h"
+#include "program/line_reader.h"
+#include "program/program.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
@@ -33,7 +34,7 @@ void openNamed(Call &call)
 /// failure.
 bool runLine(Program &program, const std::string &line, int &status)
 {
-    int ended = Program::success;
+    int ended = ExitStatus::success;
     try {
         const std::vector<std::string> words = splitWords(line);
         if (words.empty())
@@ -43,9 +44,9 @@ bool runLine(Program &program, const std::string &line, int &status)
         ended = program.run(words);
     } catch (const EntryError &error) {
         complain(error.message());
-        ended = Program::misused;
+        ended = ExitStatus::misused;
     }
-    if (status == Program::success)
+    if (status == ExitStatus::success)
         status = ended;
     return true;
 }
@@ -57,7 +58,7 @@ Report ended(Call &call, int status)
         call.document.saveUnsaved();
     } catch (const foundation::Error &error) {
         complain(told(error));
-        status = Program::refused;
+        status = ExitStatus::refused;
     }
     Report report;
     report.setStatus(status);
@@ -90,7 +91,7 @@ struct Shell {
             },
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                 QStringLiteral("/history"));
-        int status = Program::success;
+        int status = ExitStatus::success;
         while (const std::optional<std::string> line = reader.next()) {
             if (!runLine(program, *line, status))
                 break;
@@ -114,7 +115,7 @@ struct Watch {
 
         // Lines are taken as they come while the event loop runs, so that
         // signals of timers and of the network show, too.
-        int status = Program::success;
+        int status = ExitStatus::success;
         QByteArray pending;
         QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
         QObject::connect(&input, &QSocketNotifier::activated, &input, [&] {

@@ -5,7 +5,7 @@
 #include "output/json.h"
 #include "output/survey_json.h"
 #include "parsing/json_input.h"
-#include "program.h"
+#include "program/program.h"
 
 #include "foundation/presentation.h"
 #include "foundation/streams.h"

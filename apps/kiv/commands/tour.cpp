@@ -2,7 +2,8 @@
 // tour
 #include "commands/commands.h"
 
-#include "program.h"
+#include "messages/exit_status.h"
+#include "program/program.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
@@ -34,7 +35,7 @@ public:
     }
 
     /// Shows a command line with its output.
-    void show(const QStringList &words, int expected = Program::success)
+    void show(const QStringList &words, int expected = ExitStatus::success)
     {
         QStringList quoted;
         for (const QString &word : words)
@@ -43,14 +44,14 @@ public:
         m_terminal.write(m_terminal.faint(line).toUtf8());
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
         run(words, expected);
-        if (expected != Program::success)
+        if (expected != ExitStatus::success)
             m_terminal.write(QObject::tr("(exit status %1)\n").arg(expected).toUtf8());
     }
 
     QJsonDocument answer(const QStringList &words)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        run(words, Program::success);
+        run(words, ExitStatus::success);
         return QJsonDocument::fromJson(m_process.readAllStandardOutput());
     }
 
@@ -105,7 +106,7 @@ struct Tour {
 
         guide.say(
             QObject::tr("No account may bear a budget item's name: refused, nothing changed"));
-        guide.show(words("account|add|Rent|--type|expense"), Program::refused);
+        guide.show(words("account|add|Rent|--type|expense"), ExitStatus::refused);
 
         guide.say(
             QObject::tr("Every change above was saved at once; here the file is opened again"));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/terminal.h"
 
-#include "errors.h"
+#include "messages/errors.h"
 
 #include <unicode/uchar.h>
 

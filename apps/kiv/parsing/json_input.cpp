@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parsing/json_input.h"
 
-#include "errors.h"
+#include "messages/errors.h"
 
 #include "workbench/entry/values.h"
 

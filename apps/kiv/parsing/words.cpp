@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "parsing/words.h"
 
-#include "errors.h"
+#include "messages/errors.h"
 
 #include <optional>
 

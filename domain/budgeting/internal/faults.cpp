@@ -31,11 +31,10 @@ foundation::Error neverRecurs()
     return foundation::Error(QObject::tr("What is not scheduled has no next date to move on to."));
 }
 
-foundation::Error noNextDate(EventFrequency frequency, QDate date)
+foundation::Error noNextDate(const QString &frequency, QDate date)
 {
-    return foundation::Error(
-        QObject::tr("There is no date after %1 for what recurs %2.")
-            .arg(foundation::presentationText(date), presentationText(frequency)));
+    return foundation::Error(QObject::tr("There is no date after %1 for what recurs %2.")
+                                 .arg(foundation::presentationText(date), frequency));
 }
 
 } // namespace kiv::budgeting::internal

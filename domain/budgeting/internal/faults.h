@@ -2,7 +2,10 @@
 #pragma once
 
 #include "budgeting/errors.h"
-#include "budgeting/event_frequency.h"
+
+#include "numira/money.h"
+
+#include <QtCore/QDate>
 
 /// The sentences with which items and dates are refused. Those of the item maps
 /// stand in their template.
@@ -13,6 +16,7 @@ namespace kiv::budgeting::internal {
                                                      const numira::Money &amount);
 [[nodiscard]] BudgetItemError noDayOfMonth(const BudgetSource &source, int day);
 [[nodiscard]] foundation::Error neverRecurs();
-[[nodiscard]] foundation::Error noNextDate(EventFrequency frequency, QDate date);
+/// `frequency` is its text for people.
+[[nodiscard]] foundation::Error noNextDate(const QString &frequency, QDate date);
 
 } // namespace kiv::budgeting::internal

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "networking/http_request_sender.h"
+#include "networking/http_limits.h"
+#include "networking/request_sender.h"
 #include "networking/response.h"
 
 #include <QtCore/QUrl>

@@ -2,6 +2,7 @@
 #include "storage/internal/mending.h"
 
 #include "accounting/account_number_generator.h"
+#include "accounting/number_handout.h"
 #include "budgeting/item_account.h"
 
 #include <QtCore/QObject>

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#pragma once
-
-// The members of BudgetLedgers that are the same for the five kinds of budget
-// item; budget_ledgers.h includes them.
+// The members of BudgetLedgers that are the same for the five kinds of budget item.
 #include "navigation/internal/budget_ledgers.h"
 #include "navigation/internal/faults.h"
 #include "navigation/internal/undo.h"
 
+#include "accounting/number_handout.h"
 #include "budgeting/item_account.h"
 
 #include <QtCore/QScopeGuard>
@@ -113,5 +111,52 @@ void BudgetLedgers::skip(const Source &source)
 {
     m_budget->items<T>().at(source).updateNextOccurOn();
 }
+
+template BudgetLedgers::AccountCode BudgetLedgers::add(budgeting::Bill, AccountNumberGenerator &);
+template BudgetLedgers::AccountCode BudgetLedgers::add(budgeting::Debt, AccountNumberGenerator &);
+template BudgetLedgers::AccountCode BudgetLedgers::add(budgeting::Goal, AccountNumberGenerator &);
+template BudgetLedgers::AccountCode BudgetLedgers::add(budgeting::Nontrack,
+                                                       AccountNumberGenerator &);
+template BudgetLedgers::AccountCode BudgetLedgers::add(budgeting::Wage, AccountNumberGenerator &);
+template void BudgetLedgers::update(budgeting::Bill, AccountNumberGenerator &);
+template void BudgetLedgers::update(budgeting::Debt, AccountNumberGenerator &);
+template void BudgetLedgers::update(budgeting::Goal, AccountNumberGenerator &);
+template void BudgetLedgers::update(budgeting::Nontrack, AccountNumberGenerator &);
+template void BudgetLedgers::update(budgeting::Wage, AccountNumberGenerator &);
+template void BudgetLedgers::rename<budgeting::Bill>(const Source &, const Source &,
+                                                     const Number &);
+template void BudgetLedgers::rename<budgeting::Debt>(const Source &, const Source &,
+                                                     const Number &);
+template void BudgetLedgers::rename<budgeting::Goal>(const Source &, const Source &,
+                                                     const Number &);
+template void BudgetLedgers::rename<budgeting::Nontrack>(const Source &, const Source &,
+                                                         const Number &);
+template void BudgetLedgers::rename<budgeting::Wage>(const Source &, const Source &,
+                                                     const Number &);
+template void BudgetLedgers::remove<budgeting::Bill>(const Source &);
+template void BudgetLedgers::remove<budgeting::Debt>(const Source &);
+template void BudgetLedgers::remove<budgeting::Goal>(const Source &);
+template void BudgetLedgers::remove<budgeting::Nontrack>(const Source &);
+template void BudgetLedgers::remove<budgeting::Wage>(const Source &);
+template BudgetLedgers::TransactionNumber
+BudgetLedgers::process<budgeting::Bill>(const Source &, const AccountCode &, const Money &,
+                                        const QDate &);
+template BudgetLedgers::TransactionNumber
+BudgetLedgers::process<budgeting::Debt>(const Source &, const AccountCode &, const Money &,
+                                        const QDate &);
+template BudgetLedgers::TransactionNumber
+BudgetLedgers::process<budgeting::Goal>(const Source &, const AccountCode &, const Money &,
+                                        const QDate &);
+template BudgetLedgers::TransactionNumber
+BudgetLedgers::process<budgeting::Nontrack>(const Source &, const AccountCode &, const Money &,
+                                            const QDate &);
+template BudgetLedgers::TransactionNumber
+BudgetLedgers::process<budgeting::Wage>(const Source &, const AccountCode &, const Money &,
+                                        const QDate &);
+template void BudgetLedgers::skip<budgeting::Bill>(const Source &);
+template void BudgetLedgers::skip<budgeting::Debt>(const Source &);
+template void BudgetLedgers::skip<budgeting::Goal>(const Source &);
+template void BudgetLedgers::skip<budgeting::Nontrack>(const Source &);
+template void BudgetLedgers::skip<budgeting::Wage>(const Source &);
 
 } // namespace kiv::navigation::internal

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "command_line/command_group.h"
-#include "message_log.h"
+#include "command_line/selection.h"
+#include "messages/message_log.h"
+#include "output/terminal.h"
+
+#include "workbench/document/document.h"
 
 namespace kiv::app {
 
@@ -10,11 +13,8 @@ namespace kiv::app {
 /// document's budget, saves, prints, and gives the exit status.
 class Program {
 public:
-    static constexpr int success = 0;
-    static constexpr int refused = 1;
-    static constexpr int misused = 2;
-
-    Program();
+    /// `declare` adds the commands that there are.
+    explicit Program(DeclareCommands declare);
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
@@ -32,15 +32,8 @@ public:
     /// arguments, since a call reaches no other; without any, all have. The
     /// arguments' values are this program's, so it must outlive the tree.
     [[nodiscard]] std::unique_ptr<CLI::App> commandTree(const std::vector<std::string> &words = {});
-    [[nodiscard]] Document &document() noexcept { return m_document; }
+    [[nodiscard]] workbench::Document &document() noexcept { return m_document; }
     [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
-
-    // ---- for the commands that are being declared ------------------------------
-
-    [[nodiscard]] Options &options() noexcept { return m_options; }
-    void select(CommandKind kind, std::function<Report(Call &)> command);
-    /// Whether the command gets its arguments.
-    [[nodiscard]] bool needsArguments(std::string_view command) const;
 
 private:
     /// Tells whether there is a command to be executed; otherwise `status` is
@@ -52,13 +45,12 @@ private:
     void openFile();
     void print(const Report &report);
 
+    DeclareCommands m_declare;
     MessageLog m_log;
-    Document m_document;
+    workbench::Document m_document;
     Terminal m_terminal;
     Options m_options;
-    CommandKind m_kind = CommandKind::Standalone;
-    std::function<Report(Call &)> m_command;
-    std::vector<std::string> m_words; ///< what the tree is made for
+    Selection m_selection;
     bool m_keepsBudget = false;
     bool m_isSilent = false;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "errors.h"
+#include "messages/errors.h"
 
 #include "workbench/requests/requests.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "signal_watch.h"
+#include "output/signal_watch.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QMetaMethod>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "application.h"
+#include "program/application.h"
 
-#include "message_log.h"
+#include "messages/message_log.h"
 
 #include "workbench/document/program_identity.h"
 #include "workbench/entry/user_locale.h"

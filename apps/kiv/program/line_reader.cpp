@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "line_reader.h"
+#include "program/line_reader.h"
 
-#include "errors.h"
+#include "messages/errors.h"
 #include "parsing/words.h"
 
 #include <QtCore/QDir>

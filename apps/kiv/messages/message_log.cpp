@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "message_log.h"
+#include "messages/message_log.h"
 
 #include "foundation/streams.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "manual.h"
+#include "command_line/manual.h"
 
 #include <CLI/CLI.hpp>
 

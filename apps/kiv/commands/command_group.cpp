@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "command_line/command_group.h"
+#include "commands/command_group.h"
 
-#include "errors.h"
-#include "program.h"
+#include "messages/errors.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,39 +20,21 @@ CLI::App *addTo(CLI::App &above, const char *name, const QString &help)
 
 } // namespace
 
-QString Call::fileNamed() const
-{
-    for (const QString &path : {options.file, document.file(), qEnvironmentVariable("KIV_FILE")}) {
-        if (!path.isEmpty())
-            return path;
-    }
-    throw noFileNamed();
-}
-
-QString Call::fileToMake(const QString &given) const
-{
-    for (const QString &path : {given, options.file, qEnvironmentVariable("KIV_FILE")}) {
-        if (!path.isEmpty())
-            return path;
-    }
-    throw noFileNamed();
-}
-
 CommandGroup CommandGroup::group(const char *name, const QString &help)
 {
     CLI::App *app = addTo(m_app, name, help);
     app->require_subcommand(1);
-    return {*app, m_program};
+    return {*app, m_declaring};
 }
 
 CommandGroup CommandGroup::addCommand(const char *name, const QString &help, CommandKind kind,
                                       const std::function<void(Arguments &)> &declare,
-                                      const std::function<Report(Call &)> &run)
+                                      const std::function<Report(Program &, const Options &)> &run)
 {
     CLI::App *app = addTo(m_app, name, help);
-    if (!m_program.needsArguments(name))
-        return {*app, m_program};
-    Options &options = m_program.options();
+    if (!m_declaring.needsArguments(name))
+        return {*app, m_declaring};
+    Options &options = m_declaring.options;
     Arguments arguments(*app, options);
     declare(arguments);
     if (kind != CommandKind::Standalone)
@@ -64,13 +45,13 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
                        QObject::tr("Show what would come of it, save nothing"));
     arguments.flag("--verbose", options.isVerbose, QObject::tr("Show the log on standard error"));
     // CLI11 calls back for the commands above the one that is called, too.
-    app->callback([&program = m_program, app, kind, run, rules = arguments.rules()] {
+    app->callback([&selection = m_declaring.selection, app, kind, run, rules = arguments.rules()] {
         if (!app->get_subcommands().empty())
             return;
         rules.check(*app);
-        program.select(kind, run);
+        selection = {kind, run};
     });
-    return {*app, m_program};
+    return {*app, m_declaring};
 }
 
 } // namespace kiv::app

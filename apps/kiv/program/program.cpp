@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "program.h"
+#include "program/program.h"
 
-#include "command_line/help_format.h"
+#include "command_line/command_tree.h"
 #include "command_line/misuse.h"
-#include "commands/commands.h"
+#include "messages/errors.h"
+#include "messages/exit_status.h"
 
 #include "networking/http_request_sender.h"
 #include "storage/budget_inspection.h"
@@ -12,6 +13,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QStandardPaths>
+
+#include <CLI/CLI.hpp>
 
 #include <iostream>
 
@@ -35,8 +38,9 @@ std::vector<std::string> plainWords(std::vector<std::string> words)
 
 } // namespace
 
-Program::Program()
-    : m_document({[] {
+Program::Program(DeclareCommands declare)
+    : m_declare(std::move(declare)),
+      m_document({[] {
                       return foundation::UniqueQtPtr<networking::RequestSender>(
                           new networking::HttpRequestSender());
                   },
@@ -48,12 +52,12 @@ Program::Program()
 
 int Program::run(const std::vector<std::string> &words)
 {
-    int status = success;
+    int status = ExitStatus::success;
     try {
         return parse(plainWords(words), status) ? execute() : status;
     } catch (const EntryError &error) {
         complain(error.message());
-        return misused;
+        return ExitStatus::misused;
     } catch (const storage::StorageError &error) {
         QString sentence = told(error);
         // A file that is not there may have no folder either, and then no backup has a name.
@@ -68,52 +72,18 @@ int Program::run(const std::vector<std::string> &words)
     } catch (const std::exception &error) {
         complain(oneLine(error.what()));
     }
-    return refused;
-}
-
-bool Program::needsArguments(std::string_view command) const
-{
-    return m_words.empty() || std::ranges::find(m_words, command) != m_words.end();
+    return ExitStatus::refused;
 }
 
 std::unique_ptr<CLI::App> Program::commandTree(const std::vector<std::string> &words)
 {
-    m_words = words;
-    const auto translated = [](const char *text) { return QObject::tr(text).toStdString(); };
-    auto app = std::make_unique<CLI::App>(
-        translated(QT_TRANSLATE_NOOP(
-            "QObject",
-            "Keeps a household's budget: accounts, banks, bills, wages and what is due.")),
-        "kiv");
-    // All commands below take these over.
-    app->formatter(std::make_shared<HelpFormat>(m_terminal.width()));
-    for (const char *label :
-         {QT_TRANSLATE_NOOP("QObject", "Usage"), QT_TRANSLATE_NOOP("QObject", "Positionals"),
-          QT_TRANSLATE_NOOP("QObject", "REQUIRED"), QT_TRANSLATE_NOOP("QObject", "OPTIONS"),
-          QT_TRANSLATE_NOOP("QObject", "SUBCOMMAND")})
-        app->get_formatter()->label(label, translated(label));
-    app->option_defaults()->group(translated(QT_TRANSLATE_NOOP("QObject", "Options")));
-    app->set_help_flag(
-        "-h,--help", translated(QT_TRANSLATE_NOOP("QObject", "Print this help message and exit")));
-    app->require_subcommand(1);
-    app->set_version_flag(
-        "--version", "kiv " + QCoreApplication::applicationVersion().toStdString(),
-        translated(QT_TRANSLATE_NOOP("QObject", "Display program version information and exit")));
-    app->footer(
-        translated(QT_TRANSLATE_NOOP("QObject", "kiv COMMAND --help tells more about a command.")));
-    Arguments arguments(*app, m_options);
-    arguments.file()
-        .flag("--json", m_options.isJson, QObject::tr("Print JSON for programs"))
-        .flag("--verbose", m_options.isVerbose, QObject::tr("Show the log on standard error"));
-    CommandGroup root(*app, *this);
-    addCommands(root);
-    return app;
+    return app::commandTree(m_terminal.width(), {m_options, m_selection, words}, m_declare);
 }
 
 bool Program::parse(const std::vector<std::string> &words, int &status)
 {
     m_options = Options{};
-    m_command = nullptr;
+    m_selection = Selection{};
     const std::unique_ptr<CLI::App> app = commandTree(words);
     refuseUnknown(*app, words);
     try {
@@ -122,7 +92,7 @@ bool Program::parse(const std::vector<std::string> &words, int &status)
     } catch (const CLI::ParseError &error) {
         if (error.get_exit_code() != 0) {
             complain(misuse(error));
-            status = misused;
+            status = ExitStatus::misused;
             return false;
         }
         std::ostringstream help;
@@ -136,27 +106,19 @@ bool Program::parse(const std::vector<std::string> &words, int &status)
     return true;
 }
 
-void Program::select(CommandKind kind, std::function<Report(Call &)> command)
-{
-    m_kind = kind;
-    m_command = std::move(command);
-}
-
 int Program::execute()
 {
     m_log.setVerbose(m_options.isVerbose);
     // A command may run others through this program, which replace both.
     const Options options = m_options;
-    const CommandKind kind = m_kind;
-    const auto command = m_command;
+    const auto [kind, command] = m_selection;
 
     if (kind != CommandKind::Standalone)
         openFile();
     const bool isSaved = kind == CommandKind::Change && !options.isDryRun;
     Report report;
     try {
-        Call call{m_document, m_document.requests(), options, *this};
-        report = command(call);
+        report = command(*this, options);
     } catch (...) {
         if (kind != CommandKind::Query)
             takeBack();
