@@ -114,8 +114,11 @@ std::vector<const OfxElement *> chosenStatements(const OfxElement &document, con
     if (statements.empty())
         throw faults::noStatement({file, 0});
     QStringList accounts;
-    for (const OfxElement *statement : statements)
+    for (const OfxElement *statement : statements) {
         accounts += accountOf(*statement);
+        if (!account.isEmpty() && accounts.back().isEmpty()) // it could be of this one, too
+            throw faults::severalAccounts(statement->place);
+    }
     accounts.removeDuplicates();
     if (account.isEmpty() && accounts.size() > 1)
         throw faults::severalStatements(statements[1]->place, accounts);
