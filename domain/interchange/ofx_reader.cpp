@@ -13,8 +13,6 @@
 #include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 
-#include <set>
-
 namespace kiv::interchange {
 
 namespace {
@@ -57,19 +55,16 @@ void findStatements(const OfxElement &element, std::vector<const OfxElement *> &
         findStatements(child, statements);
 }
 
-/// Entries stand in the lists of statements alone, and have each value once. Who writes
-/// them otherwise means something that would be lost.
+/// Entries stand in the lists of statements alone. Who writes them elsewhere means
+/// something that would be lost.
 void requireEntriesInLists(const OfxElement &element, bool isWithin = false, bool isList = false)
 {
-    std::set<QString> values;
     for (const OfxElement &child : element.children) {
         const bool isStray = child.tag == u"STMTTRN" ? !isList
                                                      : isWithin && child.tag == u"TRNAMT" &&
                                                            !element.tag.startsWith(u"STMTTRN");
         if (isStray)
             throw faults::entryOutside(child.place);
-        if (isWithin && child.children.empty() && !values.insert(child.tag).second)
-            throw faults::repeatedTag(child.place, child.tag);
         if (child.tag != u"INVSTMTRS") // they have lists of their own
             requireEntriesInLists(child, isWithin || isStatement(child),
                                   isStatement(element) && child.tag == u"BANKTRANLIST");

@@ -65,7 +65,7 @@ public:
                 m_named = line.mid(1).trimmed();
             else if (!line.isEmpty() && m_section == Section::Transactions)
                 takeField(line.front(), line.mid(1).trimmed());
-            else if (isAmount(line))
+            else if (isOfEntry(line))
                 throw faults::entryOutside(m_lines.place());
         }
         // The last mark may be missing, but what ends within a line was cut off there.
@@ -82,10 +82,10 @@ public:
 private:
     enum class Section { None, Transactions, Skipped };
 
-    /// In lists of accounts and categories stand words there, or nothing.
-    static bool isAmount(const QString &line)
+    /// Lists of accounts and categories have no payees and parts, and no number behind T.
+    static bool isOfEntry(const QString &line)
     {
-        static const QRegularExpression pattern(QStringLiteral("^[TU]\\s*[-+(]?[.,0-9]"));
+        static const QRegularExpression pattern(QStringLiteral("^(?:[TU]\\s*[-+(]?[.,0-9]|[PS].)"));
         return pattern.match(line).hasMatch();
     }
 

@@ -35,31 +35,27 @@ QString linesOf(Statement statement)
     return lines.join(u'\n');
 }
 
-/// How many entries the text has by its looks alone: by tags, by the lines that begin an
-/// entry or another part of it, or by lines with a day.
+/// How many entries the text has by its looks alone: by tags, by lines with a day, or by
+/// what marks parts and days between the ends of entries with an amount.
 qsizetype entriesIn(const QString &form, const QString &text)
 {
     static const QRegularExpression tag(u"<STMTTRNP?>"_s,
                                         QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression day(
-        u"(^|[,;|\\t\"])\\s*(\\d{4}-\\d\\d-\\d\\d(?![-\\d])|\\d\\d?([./ ])\\d\\d?\\3\\d\\d)"_s);
-    static const QRegularExpression begin(u"^\\s*D *\\d+ *[-./] *\\d"_s);
     static const QRegularExpression lineEnd(u"[\r\n]+"_s);
+    static const QRegularExpression dayInLine(
+        u"(^|[,;|\\t\"])\\s*(\\d{4}-\\d\\d-\\d\\d(?![-\\d])|\\d\\d?/\\d\\d?/\\d\\d|"
+        "\\d\\d([. ])\\d\\d\\3\\d{4})"_s);
+    static const QRegularExpression end(u"[\r\n][ \\t]*(\\^|!(?![OoCc]))"_s);
+    static const QRegularExpression amount(u"[\r\n][ \\t]*[TU]\\s*[-+.,\\d]"_s);
+    static const QRegularExpression day(u"[\r\n][ \\t]*D *\\d+ *[-./] *\\d"_s);
+    static const QRegularExpression part(u"[\r\n][ \\t]*S"_s);
     if (form == u"ofx")
         return text.count(tag);
-    if (!text.contains(lineEnd)) // all of it is headings
-        return 0;
+    if (form == u"csv")
+        return text.contains(lineEnd) ? text.split(lineEnd).filter(dayInLine).size() : 0;
     qsizetype entries = 0;
-    qsizetype parts = 0;
-    for (const QString &line : text.split(lineEnd)) {
-        if (form == u"csv") {
-            entries += line.contains(day) ? 1 : 0;
-        } else if (line.contains(begin) || (line.trimmed().startsWith(u'S') && ++parts > 1)) {
-            ++entries;
-        } else if (line.trimmed().startsWith(u'^')) {
-            parts = 0;
-        }
-    }
+    for (const QString &record : text.split(end).filter(amount))
+        entries += std::max(record.count(day), record.count(part));
     return entries;
 }
 
@@ -68,7 +64,8 @@ Statement whole(const QString &form, const QByteArray &bytes, Statement statemen
 {
     const qsizetype read = qsizetype(statement.entries.size());
     const qsizetype shown = entriesIn(form, QString::fromLatin1(bytes));
-    if ((read > shown && shown > 0) || read + statement.pending < shown) // what is pending may have no day
+    if ((read > shown && shown > 0) ||
+        read + statement.pending < shown) // what is pending may have no day
         throw std::runtime_error(
             u"%1 of %2 entries were read of:\n%3"_s
                 .arg(QString::number(read), QString::number(shown), QString::fromUtf8(bytes))

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace kiv::interchange::internal {
 
@@ -58,6 +59,18 @@ bool isValueTag(const QString &tag)
         QStringLiteral("CHECKNUM"), QStringLiteral("REFNUM"),   QStringLiteral("SIC"),
         QStringLiteral("PAYEEID"),  QStringLiteral("NAME"),     QStringLiteral("MEMO"),
         QStringLiteral("SRVRTID")};
+    return tags.contains(tag);
+}
+
+/// The values that are read; all others of a large file would fill the memory.
+bool isRead(const QString &tag)
+{
+    static const std::set<QString> tags{
+        QStringLiteral("ACCTID"),   QStringLiteral("ACCTTYPE"), QStringLiteral("BANKID"),
+        QStringLiteral("BRANCHID"), QStringLiteral("CHECKNUM"), QStringLiteral("CORRECTACTION"),
+        QStringLiteral("CURDEF"),   QStringLiteral("CURSYM"),   QStringLiteral("DTPOSTED"),
+        QStringLiteral("FITID"),    QStringLiteral("MEMO"),     QStringLiteral("NAME"),
+        QStringLiteral("TRNAMT")};
     return tags.contains(tag);
 }
 
@@ -144,7 +157,8 @@ private:
             return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
                    (c >= u'0' && c <= u'9') || c == u'.' || c == u'_';
         };
-        if (!isComment && (name.isEmpty() || !std::ranges::all_of(name, isName)))
+        if (isComment ? name.contains(u'<') // its own end is missing
+                      : name.isEmpty() || !std::ranges::all_of(name, isName))
             throw faults::brokenTag(m_place);
         const QString tag = name.toString().toUpper();
         if (isClosing)
@@ -181,7 +195,7 @@ private:
         const QStringView value = QStringView(m_text).sliced(m_at, end - m_at).trimmed();
         if (!value.isEmpty() && !m_open.empty()) {
             OfxElement &element = m_open.back();
-            if (!element.children.empty())
+            if (element.holdsElements)
                 throw faults::brokenTag(m_place);
             requireRoom(value.size());
             element.value += withoutEntities(value.toString());
@@ -203,7 +217,7 @@ private:
     void close(const QString &tag)
     {
         // A tag before it that holds nothing is a value that is empty.
-        while (!m_isXml && m_open.back().tag != tag && m_open.back().children.empty() &&
+        while (!m_isXml && m_open.back().tag != tag && !m_open.back().holdsElements &&
                m_open.size() > 1)
             finish();
         if (m_open.back().tag != tag)
@@ -224,10 +238,19 @@ private:
     {
         OfxElement element = std::move(m_open.back());
         m_open.pop_back();
-        if (m_open.empty())
+        if (m_open.empty()) {
             m_root = std::move(element);
-        else
-            m_open.back().children.push_back(std::move(element));
+            return;
+        }
+        OfxElement &parent = m_open.back();
+        parent.holdsElements = true;
+        const bool isValue = !element.holdsElements && !element.value.isEmpty();
+        if (isValue && !isRead(element.tag))
+            return;
+        if (isValue && std::ranges::find(parent.children, element.tag, &OfxElement::tag) !=
+                           parent.children.end())
+            throw faults::repeatedTag(element.place, element.tag);
+        parent.children.push_back(std::move(element));
     }
 
     const QString &m_text;
