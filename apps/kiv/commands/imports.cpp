@@ -6,6 +6,8 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
+#include "workbench/statements/statement_books.h"
+
 #include "foundation/presentation.h"
 #include "interchange/duplicates.h"
 #include "interchange/ofx_reader.h"
@@ -13,9 +15,7 @@
 
 namespace kiv::app {
 
-using accounting::AccountCode;
 using accounting::Transaction;
-using banking::BankAccountTypes;
 using interchange::Place;
 using navigation::Navigator;
 
@@ -93,9 +93,7 @@ private:
             return interchange::readCsvStatement(bytes, options.file, profile, currency);
         }();
         const interchange::StatementPlan plan = interchange::planStatement(
-            statement,
-            {account.code(), currency, openedOn(requests, account.code()), index.accounts(),
-             requests.transactions(), keptByBanks(requests)},
+            statement, workbench::statementBooks(requests, account),
             {profile.rules, options.against,
              [&index](const QString &name) { return index.find(name).code(); }});
         std::vector<Found> found;
@@ -121,27 +119,6 @@ private:
         for (const interchange::StatementNotice &notice : notices)
             texts += notice.text;
         return texts;
-    }
-
-    [[nodiscard]] static std::optional<QDate> openedOn(Requests &requests, const AccountCode &code)
-    {
-        const auto ledger = std::get<accounting::LedgerAccount>(
-            requests.ask(&Navigator::showLedger, &Navigator::onSelectedLedger, code));
-        const auto opening = ledger.openedBy();
-        return opening ? std::optional(requests.transaction(*opening).occurredOn()) : std::nullopt;
-    }
-
-    /// Those that banks send statements of.
-    [[nodiscard]] static std::set<accounting::AccountNumber> keptByBanks(Requests &requests)
-    {
-        std::set<accounting::AccountNumber> kept;
-        for (const auto &[name, bank] : requests.banks()) {
-            for (const auto &[number, type] : bank.accounts()) {
-                if (type != BankAccountTypes::Cash && type != BankAccountTypes::GoalSubAccount)
-                    kept.insert(number);
-            }
-        }
-        return kept;
     }
 
     // ---- both --------------------------------------------------------------------
