@@ -34,9 +34,12 @@ void closeBank(Requests &requests, const BankName &name)
     // A bank closes all its accounts, and stops at one that is closed already.
     const Bank bank = requests.bank(name.institution());
     std::vector<AccountCode> opened;
+    // They were closed a moment ago and can be closed again.
     auto undo = qScopeGuard([&] {
-        for (const AccountCode &code : opened)
-            requests.navigator().onClosed(code);
+        requests.within([&] {
+            for (const AccountCode &code : opened)
+                requests.navigator().onClosed(code);
+        });
     });
     if (!bank.isClosed()) {
         for (const AccountCode &code : closedAccounts(requests, bank)) {
