@@ -134,22 +134,36 @@ function(kiv_link_as_one program app)
   set_target_properties(${program} PROPERTIES BUILD_RPATH ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 endfunction()
 
-# kiv_add_test(<name> [SOURCES …] [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])
+# kiv_add_test(<name> SOURCES … [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])
 #
-# A Qt Test program tst_<name> from <name>.cpp in the calling folder (its last
-# line includes "tst_<name>.moc" when it declares a QObject), known to CTest by
-# that name.
+# A program tst_<name> of those suites that its sources declare (support/suite.h; the
+# last line of such a source includes its .moc), and the test <name> that runs all of
+# them. One program a library: to link and start many costs more than what they test.
 function(kiv_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
-  if(NOT arg_TIMEOUT)
-    set(arg_TIMEOUT 120)
-  endif()
-  add_executable(tst_${name} tst_${name}.cpp ${arg_SOURCES})
+  add_executable(tst_${name} ${arg_SOURCES})
   set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(tst_${name} PRIVATE Qt6::Test ${arg_LIBRARIES})
+  target_link_libraries(tst_${name} PRIVATE kiv-test-main ${arg_LIBRARIES})
   kiv_compile_options(tst_${name})
-  target_precompile_headers(tst_${name} REUSE_FROM kiv-precompiled)
-  add_test(NAME ${name} COMMAND tst_${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC")
+  target_precompile_headers(tst_${name} REUSE_FROM kiv-test-main)
+  kiv_add_run(${name} ${name} TIMEOUT "${arg_TIMEOUT}" LABELS "${arg_LABELS}")
+endfunction()
+
+# kiv_add_run(<test> <name> [<suite> [<function>…]] [RUNS <number>] [TIMEOUT …] [LABELS …])
+#
+# The test <test> that runs tst_<name>, or only one suite of it, or only functions of
+# that. RUNS is handed over as KIV_RANDOM_RUNS, for those who repeat something often.
+function(kiv_add_run test name)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "TIMEOUT;RUNS" "LABELS")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 300)
+  endif()
+  add_test(NAME ${test} COMMAND tst_${name} ${arg_UNPARSED_ARGUMENTS})
+  set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 TZ=UTC
+    QTEST_FUNCTION_TIMEOUT=${arg_TIMEOUT}000)
+  if(arg_RUNS)
+    list(APPEND environment KIV_RANDOM_RUNS=${arg_RUNS})
+  endif()
+  set_tests_properties(${test} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
+    ENVIRONMENT "${environment}")
 endfunction()

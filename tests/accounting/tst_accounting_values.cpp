@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "sample_book.h"
 
 #include "accounting/balances.h"
-
-#include <QtTest/QtTest>
 
 #include <sstream>
 
@@ -186,5 +186,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_AccountingValues)
+static const kiv::test::Suite<tst_AccountingValues> suite;
 #include "tst_accounting_values.moc"

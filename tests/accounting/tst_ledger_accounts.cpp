@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "sample_book.h"
+#include "support/suite.h"
 
-#include <QtTest/QtTest>
+#include "sample_book.h"
 
 using namespace kiv::test;
 using enum AccountTypes;
@@ -221,5 +221,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_LedgerAccounts)
+static const kiv::test::Suite<tst_LedgerAccounts> suite;
 #include "tst_ledger_accounts.moc"

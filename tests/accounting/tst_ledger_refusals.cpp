@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "sample_book.h"
+#include "support/suite.h"
 
-#include <QtTest/QtTest>
+#include "sample_book.h"
 
 using namespace kiv::test;
 using Change = std::function<void(Book &)>;
@@ -329,5 +329,5 @@ void tst_LedgerRefusals::statusAndRefundRows()
     row("refund: closed account", "'7 Old' is closed", refunding(6, usd("1")));
 }
 
-QTEST_APPLESS_MAIN(tst_LedgerRefusals)
+static const kiv::test::Suite<tst_LedgerRefusals> suite;
 #include "tst_ledger_refusals.moc"

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "sample_book.h"
 
-#include <QtTest/QtTest>
 #include <rapidcheck.h>
 
 #include <sstream>
@@ -391,5 +392,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_LedgerReplay)
+static const kiv::test::Suite<tst_LedgerReplay> suite;
 #include "tst_ledger_replay.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "accounting/internal/number_set.h"
 
@@ -92,5 +92,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_NumberSet)
+static const kiv::test::Suite<tst_NumberSet> suite;
 #include "tst_number_set.moc"

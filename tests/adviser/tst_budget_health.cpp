@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "adviser/budget_health.h"
 #include "numira/local_text.h"
@@ -98,5 +98,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BudgetHealth)
+static const kiv::test::Suite<tst_BudgetHealth> suite;
 #include "tst_budget_health.moc"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "banking/bank_map.h"
 #include "banking/errors.h"
 
 #include "support/accounting.h"
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::banking;
 using namespace kiv::test;
@@ -182,5 +182,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BankMap)
+static const kiv::test::Suite<tst_BankMap> suite;
 #include "tst_bank_map.moc"

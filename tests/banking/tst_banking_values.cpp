@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "banking/bank.h"
 
 #include "foundation/local_dates.h"
 
 #include "support/accounting.h"
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 #include <stdexcept>
 
@@ -78,5 +78,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BankingValues)
+static const kiv::test::Suite<tst_BankingValues> suite;
 #include "tst_banking_values.moc"

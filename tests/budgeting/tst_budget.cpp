@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "budgeting/budget_totals.h"
 #include "budgeting/due.h"
 
@@ -6,8 +8,6 @@
 
 #include "support/budgeting.h"
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::budgeting;
 using namespace kiv::test;
@@ -124,5 +124,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Budget)
+static const kiv::test::Suite<tst_Budget> suite;
 #include "tst_budget.moc"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "budgeting/errors.h"
 #include "budgeting/item_account.h"
 
 #include "support/budgeting.h"
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::budgeting;
 using namespace kiv::test;
@@ -123,5 +123,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BudgetItems)
+static const kiv::test::Suite<tst_BudgetItems> suite;
 #include "tst_budget_items.moc"

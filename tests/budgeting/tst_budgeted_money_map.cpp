@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "budgeting/budget.h"
 
 #include "support/budgeting.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::budgeting;
 using namespace kiv::test;
@@ -160,5 +160,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BudgetedMoneyMap)
+static const kiv::test::Suite<tst_BudgetedMoneyMap> suite;
 #include "tst_budgeted_money_map.moc"

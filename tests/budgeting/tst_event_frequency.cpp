@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "budgeting/budget_totals.h"
 #include "budgeting/event_frequency.h"
@@ -247,5 +247,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_EventFrequency)
+static const kiv::test::Suite<tst_EventFrequency> suite;
 #include "tst_event_frequency.moc"

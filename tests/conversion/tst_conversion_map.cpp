@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "conversion/conversion_map.h"
 #include "conversion/errors.h"
@@ -117,5 +117,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_ConversionMap)
+static const kiv::test::Suite<tst_ConversionMap> suite;
 #include "tst_conversion_map.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "conversion/currency_converter.h"
 #include "conversion/errors.h"
@@ -216,5 +216,5 @@ private:
     std::shared_ptr<ScriptedSender::Record> m_record;
 };
 
-QTEST_GUILESS_MAIN(tst_CurrencyConverter)
+static const kiv::test::Suite<tst_CurrencyConverter> suite;
 #include "tst_currency_converter.moc"

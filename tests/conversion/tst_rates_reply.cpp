@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "conversion/internal/rates_reply.h"
 
@@ -103,5 +103,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_RatesReply)
+static const kiv::test::Suite<tst_RatesReply> suite;
 #include "tst_rates_reply.moc"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "foundation/error.h"
 
 #include "numira/error.h"
-
-#include <QtTest/QtTest>
 
 #include <optional>
 
@@ -90,5 +90,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Error)
+static const kiv::test::Suite<tst_Error> suite;
 #include "tst_error.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "foundation/dates.h"
 #include "foundation/local_dates.h"
 #include "foundation/percentage.h"
@@ -8,7 +10,6 @@
 
 #include "numira/error.h"
 
-#include <QtTest/QtTest>
 #include <rapidcheck.h>
 
 #include <cmath>
@@ -141,5 +142,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_FoundationValues)
+static const kiv::test::Suite<tst_FoundationValues> suite;
 #include "tst_foundation_values.moc"

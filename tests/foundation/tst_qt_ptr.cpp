@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "foundation/qt_ptr.h"
+#include "support/suite.h"
 
-#include <QtTest/QtTest>
+#include "foundation/qt_ptr.h"
 
 using kiv::foundation::QtPtr;
 using kiv::foundation::UniqueQtPtr;
@@ -65,5 +65,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_QtPtr)
+static const kiv::test::Suite<tst_QtPtr> suite;
 #include "tst_qt_ptr.moc"

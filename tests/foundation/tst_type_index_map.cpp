@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "foundation/type_index_map.h"
+#include "support/suite.h"
 
-#include <QtTest/QtTest>
+#include "foundation/type_index_map.h"
 
 #include <sstream>
 
@@ -136,5 +136,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_TypeIndexMap)
+static const kiv::test::Suite<tst_TypeIndexMap> suite;
 #include "tst_type_index_map.moc"

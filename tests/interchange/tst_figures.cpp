@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "cases.h"
 
 #include "books.h"
@@ -63,5 +65,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestFigures)
+static const kiv::test::Suite<TestFigures> suite;
 #include "tst_figures.moc"

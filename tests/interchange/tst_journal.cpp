@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "cases.h"
 
 #include "books.h"
@@ -223,5 +225,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestJournal)
+static const kiv::test::Suite<TestJournal> suite;
 #include "tst_journal.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "cases.h"
 
 #include "support/accounting.h"
@@ -181,5 +183,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TestStatements)
+static const kiv::test::Suite<TestStatements> suite;
 #include "tst_statements.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "household.h"
 
 #include "support/json_text.h"
@@ -180,5 +182,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestKivNetwork)
+static const kiv::test::Suite<TestKivNetwork> suite;
 #include "tst_kiv_network.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "command_line/help_format.h"
 #include "command_line/manual.h"
 #include "commands/commands.h"
@@ -9,8 +11,6 @@
 #include "program/program.h"
 
 #include "workbench/entry/user_locale.h"
-
-#include <QtTest/QtTest>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -213,5 +213,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestKivPieces)
+static const kiv::test::Suite<TestKivPieces> suite;
 #include "tst_kiv_pieces.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "household.h"
 
 #include <fcntl.h>
@@ -95,5 +97,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestKivTerminal)
+static const kiv::test::Suite<TestKivTerminal> suite;
 #include "tst_kiv_terminal.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/message_log.h"
 #include "support/navigation.h"
 
@@ -230,5 +232,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(AccountEditsTest)
+static const kiv::test::Suite<AccountEditsTest> suite;
 #include "tst_account_edits.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/comparison.h"
 #include "support/navigation.h"
 
@@ -60,5 +62,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BankAccountRecordsTest)
+static const kiv::test::Suite<BankAccountRecordsTest> suite;
 #include "tst_bank_account_records.moc"

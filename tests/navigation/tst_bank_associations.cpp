@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/message_log.h"
 #include "support/navigation.h"
 
@@ -188,5 +190,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BankAssociationsTest)
+static const kiv::test::Suite<BankAssociationsTest> suite;
 #include "tst_bank_associations.moc"

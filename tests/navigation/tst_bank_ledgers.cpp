@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/comparison.h"
 #include "support/navigation.h"
 
@@ -218,5 +220,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BankLedgersTest)
+static const kiv::test::Suite<BankLedgersTest> suite;
 #include "tst_bank_ledgers.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/comparison.h"
 #include "support/message_log.h"
 #include "support/navigation.h"
@@ -328,5 +330,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BudgetBankLedgersTest)
+static const kiv::test::Suite<BudgetBankLedgersTest> suite;
 #include "tst_budget_bank_ledgers.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/comparison.h"
 #include "support/message_log.h"
 #include "support/navigation.h"
@@ -400,5 +402,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BudgetLedgersTest)
+static const kiv::test::Suite<BudgetLedgersTest> suite;
 #include "tst_budget_ledgers.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "navigation/internal/budget_item_generator.h"
 
@@ -117,5 +118,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_BudgetTemplates)
+static const kiv::test::Suite<tst_BudgetTemplates> suite;
 #include "tst_budget_templates.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include <QtTest/QTest>
 
 #include "storage/budget_file.h"
@@ -419,5 +421,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BudgetWalk)
+static const kiv::test::Suite<BudgetWalk> suite;
 #include "tst_budget_walk.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "navigation/configuration.h"
 
@@ -27,7 +27,6 @@ namespace {
 const Currency usd(840);
 const Currency eur(978);
 const Currency jpy(392);
-constexpr auto parseVariable = "KIV_TEST_PARSE";
 
 Tag tag(const char *name)
 {
@@ -201,12 +200,9 @@ private slots:
             {"--nonsense", 1, u"Unknown option 'nonsense'."_s},
         };
         QProcess program;
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QString::fromLatin1(parseVariable), u"1"_s);
-        program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::MergedChannels);
         for (const auto &[arguments, exitCode, output] : rows) {
-            program.start(QCoreApplication::applicationFilePath(),
+            program.start(QStringLiteral(PARSE_ARGUMENTS),
                           QString::fromLatin1(arguments).split(u' ', Qt::SkipEmptyParts));
             QVERIFY(program.waitForFinished());
             QCOMPARE(program.exitStatus(), QProcess::NormalExit);
@@ -220,16 +216,5 @@ private:
     PreferencesStore m_store;
 };
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    // Some command lines end the program, so it reads them in another one.
-    if (qEnvironmentVariableIsSet(parseVariable)) {
-        QCoreApplication::setApplicationVersion(u"4.5.6"_s);
-        const auto options = kiv::navigation::parse(QCoreApplication::arguments());
-        return 10 + int(options.isAdvancedUi) + 2 * int(options.isJargonFree);
-    }
-    tst_Configuration test;
-    return QTest::qExec(&test, argc, argv);
-}
+static const kiv::test::Suite<tst_Configuration> suite;
 #include "tst_configuration.moc"

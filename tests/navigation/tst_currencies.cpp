@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigator_desk.h"
 
 #include "foundation/presentation.h"
@@ -154,5 +156,5 @@ private:
     FrontEnd m_front;
 };
 
-QTEST_GUILESS_MAIN(Currencies)
+static const kiv::test::Suite<Currencies> suite;
 #include "tst_currencies.moc"

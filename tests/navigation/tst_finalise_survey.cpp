@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/comparison.h"
 #include "support/message_log.h"
 #include "support/navigation.h"
@@ -374,5 +376,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(FinaliseSurveyTest)
+static const kiv::test::Suite<FinaliseSurveyTest> suite;
 #include "tst_finalise_survey.moc"

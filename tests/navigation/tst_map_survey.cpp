@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigation/internal/map_survey.h"
 
 #include "navigation/internal/surveyed_changes.h"
@@ -320,5 +322,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(MapSurveyTest)
+static const kiv::test::Suite<MapSurveyTest> suite;
 #include "tst_map_survey.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigator_desk.h"
 
 #include "conversion/currency_converter.h"
@@ -410,5 +412,5 @@ void NavigatorEffects::wizardBuildsABudget()
     QVERIFY(budget.debts.isEmpty() && !budget.bills.isEmpty() && !budget.wages.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(NavigatorEffects)
+static const kiv::test::Suite<NavigatorEffects> suite;
 #include "tst_navigator_effects.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigator_requests.h"
 
 #include <QtCore/QFile>
@@ -119,5 +121,5 @@ void NavigatorRequests::queuedViewsHearTheSame()
     QCOMPARE(heard.size(), 50);
 }
 
-QTEST_GUILESS_MAIN(NavigatorRequests)
+static const kiv::test::Suite<NavigatorRequests> suite;
 #include "tst_navigator_requests.moc"

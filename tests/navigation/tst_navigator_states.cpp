@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigator_requests.h"
 
 #include "storage/budget_file.h"
@@ -141,5 +143,5 @@ void NavigatorStates::walksSurviveTheFile()
     }
 }
 
-QTEST_GUILESS_MAIN(NavigatorStates)
+static const kiv::test::Suite<NavigatorStates> suite;
 #include "tst_navigator_states.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigator_desk.h"
 
 #include "conversion/currency_converter.h"
@@ -273,5 +275,5 @@ void NavigatorWiring::acknowledgedUpdateStartsTheChecksAgain()
                           "updateAvailableAcknowledged()", "updateReleased(9.1.0)"}));
 }
 
-QTEST_GUILESS_MAIN(NavigatorWiring)
+static const kiv::test::Suite<NavigatorWiring> suite;
 #include "tst_navigator_wiring.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "support/navigation.h"
 
 #include "navigation/internal/remove_item.h"
@@ -79,5 +81,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(RemoveItemTest)
+static const kiv::test::Suite<RemoveItemTest> suite;
 #include "tst_remove_item.moc"

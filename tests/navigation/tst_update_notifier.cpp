@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "navigation/internal/update_notifier.h"
 
@@ -136,5 +137,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_UpdateNotifier)
+static const kiv::test::Suite<tst_UpdateNotifier> suite;
 #include "tst_update_notifier.moc"

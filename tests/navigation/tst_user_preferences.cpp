@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "navigation/user_preferences.h"
 
@@ -198,5 +199,5 @@ private:
     PreferencesStore m_store;
 };
 
-QTEST_GUILESS_MAIN(tst_UserPreferences)
+static const kiv::test::Suite<tst_UserPreferences> suite;
 #include "tst_user_preferences.moc"

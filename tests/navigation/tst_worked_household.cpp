@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "survey_text.h"
 
 #include "navigation/internal/map_survey.h"
@@ -161,5 +163,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(WorkedHouseholdTest)
+static const kiv::test::Suite<WorkedHouseholdTest> suite;
 #include "tst_worked_household.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "http/internal/url_rules.h"
 #include "networking/http_request_sender.h"
@@ -223,5 +224,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_HttpRequestSender)
+static const kiv::test::Suite<tst_HttpRequestSender> suite;
 #include "tst_http_request_sender.moc"

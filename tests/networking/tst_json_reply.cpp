@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "networking/errors.h"
 #include "networking/json_reply.h"
@@ -63,5 +64,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_JsonReply)
+static const kiv::test::Suite<tst_JsonReply> suite;
 #include "tst_json_reply.moc"

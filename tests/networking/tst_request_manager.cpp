@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "networking/request_manager.h"
 
@@ -124,5 +125,5 @@ private:
     std::unique_ptr<QObject> m_second;
 };
 
-QTEST_GUILESS_MAIN(tst_RequestManager)
+static const kiv::test::Suite<tst_RequestManager> suite;
 #include "tst_request_manager.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "numira/currency.h"
 #include "numira/error.h"
@@ -129,5 +130,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Currency)
+static const kiv::test::Suite<tst_Currency> suite;
 #include "tst_currency.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Decimals against a model of unbounded integers that count 10^-12.
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "numira/decimal.h"
 #include "numira/error.h"
@@ -209,5 +210,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Decimal)
+static const kiv::test::Suite<tst_Decimal> suite;
 #include "tst_decimal.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+
+#include "support/suite.h"
 
 #include "numira/error.h"
 #include "numira/library.h"
@@ -223,5 +224,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Money)
+static const kiv::test::Suite<tst_Money> suite;
 #include "tst_money.moc"

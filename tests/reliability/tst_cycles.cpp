@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigation/navigator_desk.h"
 
 #include "storage/budget_file.h"
@@ -99,5 +101,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(Cycles)
+static const kiv::test::Suite<Cycles> suite;
 #include "tst_cycles.moc"

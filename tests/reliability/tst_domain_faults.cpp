@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "fault_rig.h"
 
 #include "support/damage.h"
@@ -83,5 +85,5 @@ void DomainFaults::everyFailureLeavesNoTrace()
     QVERIFY(broken.isEmpty() && trials > 200);
 }
 
-QTEST_GUILESS_MAIN(DomainFaults)
+static const kiv::test::Suite<DomainFaults> suite;
 #include "tst_domain_faults.moc"

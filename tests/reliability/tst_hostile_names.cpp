@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "navigation/navigator_desk.h"
 
 #include "storage/budget_file.h"
@@ -240,5 +242,5 @@ void HostileNames::areWholeInJson()
     QVERIFY(hostileIn(QString::fromUtf8(output)) == 0);
 }
 
-QTEST_GUILESS_MAIN(HostileNames)
+static const kiv::test::Suite<HostileNames> suite;
 #include "tst_hostile_names.moc"

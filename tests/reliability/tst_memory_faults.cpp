@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "fault_rig.h"
 
 #include "storage/internal/pipeline.h"
@@ -72,5 +74,5 @@ void MemoryFaults::aWorkerThatWantsMemoryEndsNothing()
     QVERIFY(wants > 1);
 }
 
-QTEST_GUILESS_MAIN(MemoryFaults)
+static const kiv::test::Suite<MemoryFaults> suite;
 #include "tst_memory_faults.moc"

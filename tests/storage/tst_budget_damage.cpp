@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "image_surgery.h"
 #include "random_budget.h"
 #include "scratch_folder.h"
@@ -526,5 +528,5 @@ void BudgetDamageTest::halfRowsAndEndlessQueriesEnd()
     QVERIFY_THROWS_EXCEPTION(std::logic_error, writer.integer(1).endRow());
 }
 
-QTEST_APPLESS_MAIN(BudgetDamageTest)
+static const kiv::test::Suite<BudgetDamageTest> suite;
 #include "tst_budget_damage.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "random_budget.h"
 #include "scratch_folder.h"
 
@@ -353,5 +355,5 @@ void BudgetRoundTripTest::aClosedAccountWithABalanceIsOpened()
     QCOMPARE(test::difference(data, loaded), QString());
 }
 
-QTEST_APPLESS_MAIN(BudgetRoundTripTest)
+static const kiv::test::Suite<BudgetRoundTripTest> suite;
 #include "tst_budget_round_trip.moc"

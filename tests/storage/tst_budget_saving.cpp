@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "open_budget.h"
 
 #include <QtCore/QLockFile>
@@ -230,5 +232,5 @@ void BudgetSavingTest::failuresAreToldApart()
     QCOMPARE(int(words.size()), beyond);
 }
 
-QTEST_APPLESS_MAIN(BudgetSavingTest)
+static const kiv::test::Suite<BudgetSavingTest> suite;
 #include "tst_budget_saving.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "open_budget.h"
 
 #include <sys/stat.h>
@@ -349,5 +351,5 @@ void BudgetTargetsTest::attributesAreKept()
     QCOMPARE(QByteArray(note.data()), QByteArray("mine"));
 }
 
-QTEST_APPLESS_MAIN(BudgetTargetsTest)
+static const kiv::test::Suite<BudgetTargetsTest> suite;
 #include "tst_budget_targets.moc"

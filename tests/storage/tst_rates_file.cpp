@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "scratch_folder.h"
 
 #include "storage/rates_file.h"
@@ -123,5 +125,5 @@ void RatesFileTest::otherFilesAreRefused()
     QCOMPARE(folder.names().size(), 3);
 }
 
-QTEST_APPLESS_MAIN(RatesFileTest)
+static const kiv::test::Suite<RatesFileTest> suite;
 #include "tst_rates_file.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "failing_calls.h"
 #include "scratch_folder.h"
 
@@ -454,5 +456,5 @@ void SaveFaultsTest::aLoadIsHonestToo()
         QVERIFY(data.banks.hasBank(banking::BankName(u"2"_qs)));
 }
 
-QTEST_APPLESS_MAIN(SaveFaultsTest)
+static const kiv::test::Suite<SaveFaultsTest> suite;
 #include "tst_save_faults.moc"

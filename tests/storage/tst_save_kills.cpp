@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "failing_calls.h"
 #include "scratch_folder.h"
 
@@ -300,5 +302,5 @@ void SaveKillsTest::theLockOfAKilledProgramIsNone()
     QCOMPARE(QProcess::execute(program, {u"check"_qs, path}), 0);
 }
 
-QTEST_APPLESS_MAIN(SaveKillsTest)
+static const kiv::test::Suite<SaveKillsTest> suite;
 #include "tst_save_kills.moc"

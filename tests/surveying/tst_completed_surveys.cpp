@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "surveying/completed_surveys.h"
 #include "surveying/errors.h"
 
 #include "support/accounting.h"
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::surveying;
 using namespace kiv::test;
@@ -169,5 +169,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_CompletedSurveys)
+static const kiv::test::Suite<tst_CompletedSurveys> suite;
 #include "tst_completed_surveys.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "surveying/distributable.h"
 #include "surveying/indexed_increase_decreases.h"
@@ -86,5 +86,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_SurveyingValues)
+static const kiv::test::Suite<tst_SurveyingValues> suite;
 #include "tst_surveying_values.moc"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "tagging/budget_tag_manager.h"
 
 #include "support/comparison.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv::tagging;
 using kiv::budgeting::BudgetItemIdentifier;
@@ -121,5 +121,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_Tagging)
+static const kiv::test::Suite<tst_Tagging> suite;
 #include "tst_tagging.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "catalogue.h"
 
 #include "navigation/currency_display.h"
@@ -7,8 +9,6 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
-#include <QtTest/QtTest>
-
 #include <set>
 
 using kiv::test::faults;
@@ -155,5 +155,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Catalogues)
+static const kiv::test::Suite<tst_Catalogues> suite;
 #include "tst_catalogues.moc"

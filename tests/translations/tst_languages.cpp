@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "household.h"
 
 using kiv::test::Ended;
@@ -247,5 +249,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Languages)
+static const kiv::test::Suite<tst_Languages> suite;
 #include "tst_languages.moc"

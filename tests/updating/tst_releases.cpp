@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "updating/release_information_fetcher.h"
 #include "updating/update_checker.h"
@@ -157,5 +157,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_Releases)
+static const kiv::test::Suite<tst_Releases> suite;
 #include "tst_releases.moc"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QtTest/QtTest>
+#include "support/suite.h"
 
 #include "updating/errors.h"
 #include "updating/semantic_version.h"
@@ -85,5 +85,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_SemanticVersion)
+static const kiv::test::Suite<tst_SemanticVersion> suite;
 #include "tst_semantic_version.moc"

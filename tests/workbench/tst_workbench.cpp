@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
 #include "workbench/document/document.h"
 #include "workbench/entry/similar.h"
 
 #include "support/scripted_sender.h"
-
-#include <QtTest/QtTest>
 
 using namespace kiv;
 using workbench::AccountIndex;
@@ -130,5 +130,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(TestWorkbench)
+static const kiv::test::Suite<TestWorkbench> suite;
 #include "tst_workbench.moc"
