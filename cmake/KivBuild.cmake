@@ -160,7 +160,7 @@ function(kiv_add_run test name)
   endif()
   add_test(NAME ${test} COMMAND tst_${name} ${arg_UNPARSED_ARGUMENTS})
   set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 TZ=UTC
-    QTEST_FUNCTION_TIMEOUT=${arg_TIMEOUT}000)
+    QTEST_FUNCTION_TIMEOUT=${arg_TIMEOUT}000 QTEST_DISABLE_STACK_DUMP=1)
   if(arg_RUNS)
     list(APPEND environment KIV_RANDOM_RUNS=${arg_RUNS})
   endif()

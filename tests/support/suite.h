@@ -18,7 +18,7 @@ public:
     [[nodiscard]] virtual std::unique_ptr<QObject> tests() const = 0;
 };
 
-template<typename Tests>
+template <typename Tests>
 class Suite final : public AnySuite {
 public:
     QByteArray name() const override { return Tests::staticMetaObject.className(); }
