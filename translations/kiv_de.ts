@@ -496,18 +496,6 @@
         <translation>Der Wert mit dem Schlüssel „%1“ konnte nicht entfernt werden, da der Schlüssel unter dem Typ „%2“ nicht gefunden wurde.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a wrong value</source>
-        <translation>„%1“ hat einen falschen Wert</translation>
-    </message>
-    <message>
-        <source>it is not a JSON object</source>
-        <translation>es ist kein JSON-Objekt</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no key of one</source>
-        <translation>„%1“ ist kein Schlüssel eines Profils</translation>
-    </message>
-    <message>
         <source>amount</source>
         <translation>Betrag</translation>
     </message>
@@ -520,8 +508,8 @@
         <translation>„%1“: %2</translation>
     </message>
     <message>
-        <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
-        <translation>Dies ist kein gültiges %1; die Kodierung der Datei kann mit --encoding angegeben werden.</translation>
+        <source>The file is not valid %1 here; name its encoding with --encoding.</source>
+        <translation>Die Datei ist hier kein gültiges %1; ihre Kodierung kann mit --encoding angegeben werden.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
@@ -532,7 +520,7 @@
         <translation>Ein Budget fasst höchstens %1 Buchungen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a day written as %2.</source>
+        <source>&apos;%1&apos; is not a date in the form %2.</source>
         <translation>„%1“ ist kein Datum in der Form %2.</translation>
     </message>
     <message>
@@ -544,12 +532,12 @@
         <translation>„%1“ kann auf zwei Arten gelesen werden; das Dezimalzeichen wird mit --decimal angegeben.</translation>
     </message>
     <message>
-        <source>The amounts here cannot be kept exactly.</source>
-        <translation>Die Beträge hier lassen sich nicht genau darstellen.</translation>
+        <source>An amount here is too large to be kept exactly.</source>
+        <translation>Ein Betrag hier ist zu groß, um genau dargestellt zu werden.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
-        <translation>„%1“ hat mehr Stellen hinter dem Dezimalzeichen als die %2 von %3.</translation>
+        <source>&apos;%1&apos; has more decimal places than %3, which has %2.</source>
+        <translation>„%1“ hat mehr Nachkommastellen als %3; dort sind es %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
@@ -560,20 +548,20 @@
         <translation>„%1“ kann nicht importiert werden.</translation>
     </message>
     <message>
-        <source>The line is indented, but there is nothing that it belongs to.</source>
-        <translation>Die Zeile ist eingerückt, doch es gibt nichts, wozu sie gehört.</translation>
+        <source>The line is indented but belongs to no transaction or directive.</source>
+        <translation>Die Zeile ist eingerückt, gehört aber zu keiner Buchung oder Anweisung.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; begins here and does not end.</source>
-        <translation>„%1“ beginnt hier und endet nicht.</translation>
+        <source>&apos;%1&apos; begins here and is never closed.</source>
+        <translation>„%1“ beginnt hier und wird nie geschlossen.</translation>
     </message>
     <message>
-        <source>Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what &apos;%1&apos; is with --root, like --root &apos;%1=asset&apos;.</source>
-        <translation>Konten beginnen mit Assets, Liabilities, Equity, Income oder Expenses; was „%1“ ist, wird mit --root angegeben, etwa --root &apos;%1=asset&apos;.</translation>
+        <source>&apos;%1&apos; is not a known top-level account; tell what it is with --root, like --root &apos;%1=asset&apos;.</source>
+        <translation>„%1“ ist kein bekanntes oberstes Konto; was es ist, wird mit --root angegeben, etwa --root &apos;%1=asset&apos;.</translation>
     </message>
     <message>
-        <source>The name of an account is missing.</source>
-        <translation>Der Name eines Kontos fehlt.</translation>
+        <source>The account name is missing.</source>
+        <translation>Der Name des Kontos fehlt.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount.</source>
@@ -584,8 +572,8 @@
         <translation>„%1“ hat keine Währung; sie kann mit --currency angegeben werden.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a currency; give its cost behind @, or say which currency it is with --commodity, like --commodity &apos;%1=USD&apos;.</source>
-        <translation>„%1“ ist keine Währung; hinter @ kann stehen, was es kostet, oder mit --commodity, welche Währung es ist, etwa --commodity &apos;%1=USD&apos;.</translation>
+        <source>&apos;%1&apos; is not a currency; write its cost after @, or name its currency, like --commodity &apos;%1=USD&apos;.</source>
+        <translation>„%1“ ist keine Währung; hinter @ kann der Preis stehen, oder die Währung wird angegeben, etwa --commodity &apos;%1=USD&apos;.</translation>
     </message>
     <message>
         <source>The transaction has fewer than two postings.</source>
@@ -596,43 +584,43 @@
         <translation>Mehr als ein Posten der Buchung hat keinen Betrag.</translation>
     </message>
     <message>
-        <source>The transaction does not balance; the rest is %1.</source>
-        <translation>Die Buchung geht nicht auf; der Rest ist %1.</translation>
+        <source>The transaction does not balance; it is off by %1.</source>
+        <translation>Die Buchung geht nicht auf; der Unterschied ist %1.</translation>
     </message>
     <message>
-        <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>
+        <source>The balance of &apos;%1&apos; should be %2 here, but is %3.</source>
         <translation>Der Saldo von „%1“ müsste hier %2 sein, ist aber %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a pattern of account names.</source>
-        <translation>„%1“ ist kein Muster für Kontonamen.</translation>
+        <source>&apos;%1&apos; is not a valid pattern for account names.</source>
+        <translation>„%1“ ist kein gültiges Muster für Kontonamen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not included: %2.</source>
-        <translation>„%1“ wird nicht eingebunden: %2.</translation>
+        <source>Cannot include &apos;%1&apos;: %2.</source>
+        <translation>„%1“ kann nicht eingebunden werden: %2.</translation>
     </message>
     <message>
-        <source>A quote begins here and does not end.</source>
-        <translation>Ein Anführungszeichen beginnt hier und endet nicht.</translation>
+        <source>A quote opens here and is never closed.</source>
+        <translation>Ein Anführungszeichen beginnt hier und wird nie geschlossen.</translation>
     </message>
     <message>
-        <source>There is text between a closing quote and the next delimiter.</source>
+        <source>There is text after a closing quote, before the next delimiter.</source>
         <translation>Zwischen einem schließenden Anführungszeichen und dem nächsten Trennzeichen steht Text.</translation>
     </message>
     <message>
-        <source>There is no column &apos;%1&apos; among: %2.</source>
-        <translation>Es gibt keine Spalte „%1“ unter: %2.</translation>
+        <source>There is no column &apos;%1&apos;; the columns are: %2.</source>
+        <translation>Es gibt keine Spalte „%1“; die Spalten sind: %2.</translation>
     </message>
     <message>
-        <source>Say with %1 which column it is, of: %2.</source>
-        <translation>Die Spalte wird mit %1 angegeben; es gibt: %2.</translation>
+        <source>A column is not known; name it with %1. The columns are: %2.</source>
+        <translation>Eine Spalte ist nicht bekannt; sie wird mit %1 angegeben. Die Spalten sind: %2.</translation>
     </message>
     <message>
-        <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
-        <translation>Dies ist die Tabelle eines ganzen Hauptbuchs und kein Kontoauszug; importiert werden kann stattdessen das Journal.</translation>
+        <source>This table is an exported ledger, not a bank statement; import the journal instead.</source>
+        <translation>Diese Tabelle ist ein exportiertes Hauptbuch und kein Kontoauszug; importiert werden kann stattdessen das Journal.</translation>
     </message>
     <message>
-        <source>The record has an amount that came in and one that went out.</source>
+        <source>The row has one amount that came in and one that went out.</source>
         <translation>Der Datensatz hat einen Betrag, der einging, und einen, der ausging.</translation>
     </message>
     <message>
@@ -640,63 +628,59 @@
         <translation>Dem Eintrag fehlt: %1.</translation>
     </message>
     <message>
-        <source>The amount is in %1, and the account in %2.</source>
-        <translation>Der Betrag ist in %1 und das Konto in %2.</translation>
+        <source>The amount is in %1, but the account is in %2.</source>
+        <translation>Der Betrag ist in %1, das Konto aber in %2.</translation>
     </message>
     <message>
-        <source>This is no import profile: %1.</source>
-        <translation>Dies ist kein Importprofil: %1.</translation>
-    </message>
-    <message>
-        <source>There is no &lt;OFX&gt; in this file.</source>
-        <translation>In dieser Datei gibt es kein &lt;OFX&gt;.</translation>
+        <source>The file contains no &lt;OFX&gt;.</source>
+        <translation>Die Datei enthält kein &lt;OFX&gt;.</translation>
     </message>
     <message>
         <source>A tag is broken: its name or its &apos;&gt;&apos; is missing.</source>
         <translation>Ein Tag ist kaputt: Sein Name oder sein „&gt;“ fehlt.</translation>
     </message>
     <message>
-        <source>&lt;/%1&gt; stands where the &lt;%2&gt; of line %3 should be closed.</source>
-        <translation>&lt;/%1&gt; steht, wo das &lt;%2&gt; der Zeile %3 geschlossen werden müsste.</translation>
+        <source>&lt;/%1&gt; does not close &lt;%2&gt;, which opens on line %3.</source>
+        <translation>&lt;/%1&gt; schließt nicht &lt;%2&gt;, das auf Zeile %3 beginnt.</translation>
     </message>
     <message>
-        <source>&lt;%1&gt; is not closed.</source>
-        <translation>&lt;%1&gt; wird nicht geschlossen.</translation>
+        <source>&lt;%1&gt; is never closed.</source>
+        <translation>&lt;%1&gt; wird nie geschlossen.</translation>
     </message>
     <message>
         <source>Tags are nested too deeply.</source>
         <translation>Tags sind zu tief verschachtelt.</translation>
     </message>
     <message>
-        <source>There is no statement of a bank account or a credit card.</source>
-        <translation>Es gibt keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
+        <source>The file contains no statement of a bank account or credit card.</source>
+        <translation>Die Datei enthält keinen Auszug eines Bankkontos oder einer Kreditkarte.</translation>
     </message>
     <message>
-        <source>There are several statements; choose one with --statement: %1.</source>
-        <translation>Es gibt mehrere Auszüge; einer wird mit --statement gewählt: %1.</translation>
+        <source>The file contains several statements; choose one with --statement: %1.</source>
+        <translation>Die Datei enthält mehrere Auszüge; einer wird mit --statement gewählt: %1.</translation>
     </message>
     <message>
-        <source>There is no statement of &apos;%1&apos;, but of: %2.</source>
-        <translation>Es gibt keinen Auszug von „%1“, aber von: %2.</translation>
+        <source>The file contains no statement of &apos;%1&apos;; choose one of: %2.</source>
+        <translation>Die Datei enthält keinen Auszug von „%1“; wählbar sind: %2.</translation>
     </message>
     <message>
         <source>The file does not begin with a QIF header like !Type:Bank.</source>
         <translation>Die Datei beginnt nicht mit einer QIF-Kopfzeile wie !Type:Bank.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no field of a bank statement.</source>
-        <translation>„%1“ ist kein Feld eines Kontoauszugs.</translation>
+        <source>&apos;%1&apos; is not a known field of a bank statement.</source>
+        <translation>„%1“ ist kein bekanntes Feld eines Kontoauszugs.</translation>
     </message>
     <message>
-        <source>The parts come to %1 and the whole to %2.</source>
-        <translation>Die Teile ergeben %1 und das Ganze %2.</translation>
+        <source>The parts add up to %1, but the whole is %2.</source>
+        <translation>Die Teile ergeben %1, das Ganze ist aber %2.</translation>
     </message>
     <message>
         <source>A report cannot end before it begins.</source>
         <translation>Ein Bericht kann nicht enden, bevor er beginnt.</translation>
     </message>
     <message>
-        <source>A report covers no more than %1 months.</source>
+        <source>A report covers at most %1 months.</source>
         <translation>Ein Bericht umfasst höchstens %1 Monate.</translation>
     </message>
     <message>
@@ -736,7 +720,7 @@
         <translation>Alle Konten sind leer.</translation>
     </message>
     <message>
-        <source>Planned a month</source>
+        <source>Planned per month</source>
         <translation>Im Monat geplant</translation>
     </message>
     <message>
@@ -744,15 +728,15 @@
         <translation>Posten</translation>
     </message>
     <message>
-        <source>The plan is today&apos;s, restated per month. ▲ marks a month in which more was spent.</source>
-        <translation>Der Plan ist der heutige, auf den Monat umgerechnet. ▲ kennzeichnet einen Monat, in dem mehr ausgegeben wurde.</translation>
+        <source>The plan is today&apos;s, restated per month. ▲ marks months with higher spending.</source>
+        <translation>Der Plan ist der heutige, auf den Monat umgerechnet. ▲ kennzeichnet Monate mit höheren Ausgaben.</translation>
     </message>
     <message>
         <source>Net worth over time, %1</source>
         <translation>Reinvermögen im Lauf der Zeit, %1</translation>
     </message>
     <message>
-        <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
+        <source>All assets less all debts at the end of each month; the last is %1.</source>
         <translation>Das gesamte Vermögen am Ende jedes Monats, abzüglich der Verbindlichkeiten; zuletzt %1.</translation>
     </message>
     <message>
@@ -764,7 +748,7 @@
         <translation>Einnahmen und Ausgaben, %1</translation>
     </message>
     <message>
-        <source>What came in and what was spent in each month.</source>
+        <source>Money that came in and money spent in each month.</source>
         <translation>Was in jedem Monat eingenommen und ausgegeben wurde.</translation>
     </message>
     <message>
@@ -776,8 +760,8 @@
         <translation>Plan-Ist-Vergleich, %1</translation>
     </message>
     <message>
-        <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
-        <translation>Was für Rechnungen, Schulden, Ziele und nicht verfolgte Posten im Monat geplant ist, und was dafür ausgegeben wurde.</translation>
+        <source>Planned and actual spending per month on bills, debts, goals and non-tracked items.</source>
+        <translation>Geplante und tatsächliche Ausgaben im Monat für Rechnungen, Schulden, Ziele und nicht verfolgte Posten.</translation>
     </message>
     <message>
         <source>Planned</source>
@@ -805,32 +789,32 @@
         <translation>Salden am %1</translation>
     </message>
     <message>
-        <source>What is no currency is kept at its cost.</source>
+        <source>Commodities other than currencies are kept at their cost.</source>
         <translation>Was keine Währung ist, wird zum Kaufpreis geführt.</translation>
     </message>
     <message>
-        <source>Unbalanced virtual postings are kept against Equity:Virtual.</source>
+        <source>Unbalanced virtual postings are posted against Equity:Virtual.</source>
         <translation>Nicht ausgeglichene virtuelle Posten werden gegen Equity:Virtual gebucht.</translation>
     </message>
     <message>
-        <source>Periodic transactions are left out.</source>
-        <translation>Wiederkehrende Buchungen werden ausgelassen.</translation>
+        <source>Periodic transactions are skipped.</source>
+        <translation>Wiederkehrende Buchungen werden übersprungen.</translation>
     </message>
     <message>
-        <source>Market prices are left out; they change no balance.</source>
-        <translation>Marktpreise werden ausgelassen; sie ändern keinen Saldo.</translation>
+        <source>Market prices are skipped; they change no balance.</source>
+        <translation>Marktpreise werden übersprungen; sie ändern keinen Saldo.</translation>
     </message>
     <message>
-        <source>there is no folder for it</source>
-        <translation>es gibt keinen Ordner dafür</translation>
+        <source>the journal has no folder</source>
+        <translation>das Journal hat keinen Ordner</translation>
     </message>
     <message>
-        <source>files include each other too deeply</source>
-        <translation>Dateien binden einander zu tief ein</translation>
+        <source>too many files include each other</source>
+        <translation>zu viele Dateien binden einander ein</translation>
     </message>
     <message>
-        <source>Second days of transactions are left out.</source>
-        <translation>Zweite Datumsangaben von Buchungen werden ausgelassen.</translation>
+        <source>Second dates of transactions are skipped.</source>
+        <translation>Zweite Datumsangaben von Buchungen werden übersprungen.</translation>
     </message>
     <message>
         <source>Check %1</source>
@@ -1976,8 +1960,8 @@
         <translation>alle Dateien zusammen sind zu groß</translation>
     </message>
     <message>
-        <source>Entries of nothing are left out.</source>
-        <translation>Einträge mit dem Betrag null werden ausgelassen.</translation>
+        <source>Entries with amount zero are skipped.</source>
+        <translation>Einträge mit dem Betrag null werden übersprungen.</translation>
     </message>
     <message>
         <source>New account</source>
@@ -2574,12 +2558,12 @@
         <translation>Einzelheiten</translation>
     </message>
     <message>
-        <source>The record has more than %1 cells.</source>
+        <source>The row has more than %1 cells.</source>
         <translation>Der Datensatz hat mehr als %1 Zellen.</translation>
     </message>
     <message>
-        <source>Of long comments the beginning is kept.</source>
-        <translation>Von langen Kommentaren wird der Anfang behalten.</translation>
+        <source>Long comments are cut off.</source>
+        <translation>Lange Kommentare werden gekürzt.</translation>
     </message>
     <message>
         <source>ACCOUNT</source>
@@ -3859,16 +3843,16 @@
         <translation>Es kann nichts abgerufen werden: %1.</translation>
     </message>
     <message>
-        <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
-        <translation>Der Datensatz hat %1 Zellen, obwohl es nur %2 Überschriften gibt; eine Zelle, die das Trennzeichen enthält, braucht Anführungszeichen.</translation>
+        <source>The row has %1 cells but there are %2 headings; put quotes around cells that contain the delimiter.</source>
+        <translation>Der Datensatz hat %1 Zellen, es gibt aber %2 Überschriften; Zellen, die das Trennzeichen enthalten, brauchen Anführungszeichen.</translation>
     </message>
     <message>
-        <source>There are neither headings nor entries.</source>
-        <translation>Es gibt weder Überschriften noch Einträge.</translation>
+        <source>The file has no headings and no entries.</source>
+        <translation>Die Datei hat weder Überschriften noch Einträge.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
-        <translation>„%1“ ist keine Schreibweise für ein Datum; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
+        <source>&apos;%1&apos; is not a date form; combine YYYY, MM and DD, like DD.MM.YYYY.</source>
+        <translation>„%1“ ist keine Form für ein Datum; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
     </message>
     <message>
         <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
@@ -3883,28 +3867,28 @@
         <translation>Mit --into sagen, um welches Konto es im Kontoauszug geht.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no encoding that is known; write one like windows-1252 or UTF-16.</source>
+        <source>&apos;%1&apos; is not a known encoding; use one like windows-1252 or UTF-16.</source>
         <translation>„%1“ ist keine bekannte Kodierung; richtig ist etwa windows-1252 oder UTF-16.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
+        <source>&apos;%1&apos; is not a date in the form %2; name another form with --date-format.</source>
         <translation>„%1“ ist kein Datum in der Form %2; eine andere Form wird mit --date-format angegeben.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
-        <translation>„%1“ ist weder eine Buchung noch eine Anweisung, die importiert werden kann; ein ; am Anfang der Zeile lässt sie aus.</translation>
+        <source>&apos;%1&apos; is not a known transaction or directive; put ; before the line to skip it.</source>
+        <translation>„%1“ ist keine bekannte Buchung oder Anweisung; ein ; am Anfang der Zeile überspringt sie.</translation>
     </message>
     <message>
-        <source>The record has only %1 of the %2 cells that are needed.</source>
+        <source>The row has only %1 of the %2 cells it needs.</source>
         <translation>Der Datensatz hat nur %1 der %2 Zellen, die nötig sind.</translation>
     </message>
     <message>
-        <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
+        <source>The dates can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
         <translation>Die Datumsangaben können auf zwei Arten gelesen werden; die Reihenfolge wird mit --date-format angegeben, etwa M/D/YYYY.</translation>
     </message>
     <message>
-        <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
-        <translation>Die Datei endet mitten in einem Eintrag; sie ist neu abzurufen oder mit einer Zeile ^ zu beenden.</translation>
+        <source>The last entry may be cut off; download the file again, or end it with a line ^.</source>
+        <translation>Der letzte Eintrag ist vielleicht abgeschnitten; die Datei ist neu herunterzuladen oder mit einer Zeile ^ zu beenden.</translation>
     </message>
     <message>
         <source>The following argument was not expected: %1; --help tells which are.</source>
@@ -3973,7 +3957,7 @@
         <translation>Einnahmen</translation>
     </message>
     <message>
-        <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
+        <source>No amount is negative, but column %1 contains &apos;%2&apos;; tell what went out with --sign-column and --negative.</source>
         <translation>Kein Betrag ist negativ, aber in Spalte %1 steht „%2“; was ausging, wird mit --sign-column und --negative angegeben.</translation>
     </message>
     <message>
@@ -3987,11 +3971,11 @@
         <translation>n</translation>
     </message>
     <message>
-        <source>A journal holds no more than %1 automated transactions.</source>
+        <source>A journal can have at most %1 automated transactions.</source>
         <translation>Ein Journal fasst höchstens %1 automatische Buchungen.</translation>
     </message>
     <message>
-        <source>a journal includes no more than %1 files</source>
+        <source>a journal can include at most %1 files</source>
         <translation>ein Journal bindet höchstens %1 Dateien ein</translation>
     </message>
     <message numerus="yes">
@@ -4002,107 +3986,107 @@
         </translation>
     </message>
     <message>
-        <source>Some amounts in the column of what went out are negative, and some are not; write what was given back as what came in.</source>
-        <translation>Manche Beträge in der Spalte der Abgänge sind negativ und manche nicht; was erstattet wurde, gehört zu den Eingängen.</translation>
+        <source>The column of what went out has both signs; move refunds to the column of what came in.</source>
+        <translation>Die Spalte der Abgänge hat beide Vorzeichen; Erstattungen gehören in die Spalte der Eingänge.</translation>
     </message>
     <message>
-        <source>The file ends within its last line; fetch it again, or end it with a line end.</source>
-        <translation>Die Datei endet mitten in ihrer letzten Zeile; sie muss neu geholt oder mit einem Zeilenende abgeschlossen werden.</translation>
+        <source>The last line may be cut off; download the file again, or end it with a line break.</source>
+        <translation>Die letzte Zeile ist vielleicht abgeschnitten; die Datei ist neu herunterzuladen oder mit einem Zeilenende abzuschließen.</translation>
     </message>
     <message>
-        <source>The file holds entries of several accounts; make a file of each.</source>
+        <source>The file has entries of several accounts; put each account into its own file.</source>
         <translation>Die Datei enthält Einträge mehrerer Konten; jedes braucht eine eigene Datei.</translation>
     </message>
     <message>
-        <source>Entries that are not booked yet are left out.</source>
-        <translation>Noch nicht gebuchte Einträge werden ausgelassen.</translation>
+        <source>Entries that the bank has not booked yet are skipped.</source>
+        <translation>Einträge, die die Bank noch nicht gebucht hat, werden übersprungen.</translation>
     </message>
     <message>
-        <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
-        <translation>Es gibt kein Konto „%1“; was dorthin ging, kommt auf „%2“.</translation>
+        <source>There is no account &apos;%1&apos;; its transfers are posted to &apos;%2&apos;.</source>
+        <translation>Es gibt kein Konto „%1“; seine Umbuchungen kommen auf „%2“.</translation>
     </message>
     <message>
-        <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
+        <source>Some entries are older than the opening balance of %1, which may already include them.</source>
         <translation>Manche Einträge sind älter als der Anfangssaldo vom %1, der sie vielleicht schon enthält.</translation>
     </message>
     <message>
-        <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
-        <translation>Was von „%1“ auf dasselbe Konto geht, etwa ein Anfangssaldo, wird ausgelassen.</translation>
+        <source>Entries from &apos;%1&apos; to itself are skipped, such as an opening balance.</source>
+        <translation>Einträge von „%1“ auf dasselbe Konto werden übersprungen, etwa ein Anfangssaldo.</translation>
     </message>
     <message>
         <source>How many lines stand below the entries, as of totals (csv)</source>
         <translation>Wie viele Zeilen unter den Einträgen stehen, etwa Summen (csv)</translation>
     </message>
     <message>
-        <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
-        <translation>Zeile %1 ist vielleicht eine Umbuchung, die aus dem Auszug des anderen Kontos schon da ist.</translation>
+        <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
+        <translation>Zeile %1 ist vielleicht eine Umbuchung, die durch den Auszug des anderen Kontos schon gebucht ist.</translation>
     </message>
     <message>
-        <source>An amount in the column of what came in is negative; write it as what went out, or without its sign.</source>
+        <source>An amount in the column of what came in is negative; move it to what went out, or remove its sign.</source>
         <translation>Ein Betrag in der Spalte der Eingänge ist negativ; er gehört zu den Abgängen oder braucht kein Vorzeichen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; does not tell whether the amount went out; name what does with --negative.</source>
-        <translation>„%1“ sagt nicht, ob der Betrag abging; was das sagt, wird mit --negative genannt.</translation>
+        <source>&apos;%1&apos; does not tell whether the amount went out; name the words that do with --negative.</source>
+        <translation>„%1“ sagt nicht, ob der Betrag abging; die Wörter dafür werden mit --negative genannt.</translation>
     </message>
     <message>
-        <source>The line is to be left out, but has a day; leave out fewer lines.</source>
-        <translation>Die Zeile soll ausgelassen werden, hat aber einen Tag; es sind weniger Zeilen auszulassen.</translation>
+        <source>The line to be skipped contains a date; skip fewer lines with --skip-last.</source>
+        <translation>Die Zeile soll übersprungen werden, enthält aber ein Datum; mit --skip-last sind weniger Zeilen zu überspringen.</translation>
     </message>
     <message>
         <source>The entry has more than %1 characters up to here.</source>
         <translation>Der Eintrag hat bis hierher mehr als %1 Zeichen.</translation>
     </message>
     <message>
-        <source>The descriptions of all transactions up to here have more than %1 characters.</source>
-        <translation>Die Beschreibungen aller Buchungen bis hierher haben mehr als %1 Zeichen.</translation>
+        <source>All descriptions up to here have more than %1 characters together; split the file.</source>
+        <translation>Alle Beschreibungen bis hierher haben zusammen mehr als %1 Zeichen; die Datei ist aufzuteilen.</translation>
     </message>
     <message>
-        <source>A journal has no more than %1 accounts, those above others included.</source>
+        <source>A journal can have at most %1 accounts, parent accounts included.</source>
         <translation>Ein Journal hat höchstens %1 Konten, Oberkonten eingeschlossen.</translation>
     </message>
     <message>
-        <source>The accounts up to here and those above them have names of more than %1 characters, each with the names on the way to it.</source>
-        <translation>Die Namen der Konten bis hierher und ihrer Oberkonten haben mehr als %1 Zeichen, jeder mit den Namen auf dem Weg zu ihm.</translation>
+        <source>The full names of all accounts up to here have more than %1 characters together; shorten them.</source>
+        <translation>Die vollen Namen aller Konten bis hierher haben zusammen mehr als %1 Zeichen; sie sind zu kürzen.</translation>
     </message>
     <message>
-        <source>The kind of &apos;%1&apos; is declared further down; put the declaration above the account&apos;s first transaction.</source>
-        <translation>Die Art von „%1“ wird erst weiter unten angegeben; die Angabe gehört über die erste Buchung des Kontos.</translation>
+        <source>The kind of &apos;%1&apos; is declared too late; move the declaration above the account&apos;s first transaction.</source>
+        <translation>Die Art von „%1“ wird zu spät angegeben; die Angabe gehört über die erste Buchung des Kontos.</translation>
     </message>
     <message>
-        <source>Programs differ on what the aliases make of &apos;%1&apos;; write the whole name of the account.</source>
-        <translation>Was die Alias aus „%1“ machen, ist nicht in allen Programmen gleich; es hilft, den ganzen Namen des Kontos zu schreiben.</translation>
+        <source>Programs differ on how aliases rename &apos;%1&apos;; write the full account name.</source>
+        <translation>Programme sind sich nicht einig, wie die Alias „%1“ umbenennen; es hilft, den vollen Namen des Kontos zu schreiben.</translation>
     </message>
     <message>
-        <source>Programs differ on the amount that leads to this balance of &apos;%1&apos;; write the amount.</source>
-        <translation>Welcher Betrag zu diesem Saldo von „%1“ führt, ist nicht in allen Programmen gleich; es hilft, den Betrag zu schreiben.</translation>
+        <source>Programs differ on which amount gives this balance of &apos;%1&apos;; write the amount.</source>
+        <translation>Programme sind sich nicht einig, welcher Betrag diesen Saldo von „%1“ ergibt; es hilft, den Betrag zu schreiben.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; may be an amount or a multiplier; write it with its currency, or with * before it.</source>
+        <source>&apos;%1&apos; may be an amount or a multiplier; add its currency, or put * before it.</source>
         <translation>„%1“ kann ein Betrag oder ein Faktor sein; es hilft, die Währung dazu oder * davor zu schreiben.</translation>
     </message>
     <message>
-        <source>Programs differ on whether this automated transaction fits &apos;%1&apos;, which stands above it or is added by another one.</source>
-        <translation>Ob diese automatische Buchung zu „%1“ passt, das über ihr steht oder von einer anderen hinzugefügt wird, ist nicht in allen Programmen gleich.</translation>
+        <source>Programs differ on whether this automated transaction applies to &apos;%1&apos;, which was posted earlier or automatically.</source>
+        <translation>Programme sind sich nicht einig, ob diese automatische Buchung für „%1“ gilt, das schon vorher oder automatisch bebucht wurde.</translation>
     </message>
     <message>
-        <source>Some accounts become one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
-        <translation>Manche Konten werden zu einem, so „%1“ und „%2“.</translation>
+        <source>Some accounts are merged into one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>Manche Konten werden zu einem zusammengelegt, so „%1“ und „%2“.</translation>
     </message>
     <message>
         <source>The postings of automated transactions are added.</source>
         <translation>Was automatische Buchungen hinzufügen, wird gebucht.</translation>
     </message>
     <message numerus="yes">
-        <source>%n transaction(s) that move nothing are left out.</source>
+        <source>%n transaction(s) that move no money are skipped.</source>
         <translation>
             <numerusform>%n Buchung, die nichts bewegt, wird weggelassen.</numerusform>
             <numerusform>%n Buchungen, die nichts bewegen, werden weggelassen.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Days in comments are left out; all of a transaction has its day.</source>
-        <translation>Daten in Kommentaren werden weggelassen; alles in einer Buchung hat deren Datum.</translation>
+        <source>Dates in comments are skipped; each posting has the date of its transaction.</source>
+        <translation>Datumsangaben in Kommentaren werden übersprungen; jeder Posten hat das Datum seiner Buchung.</translation>
     </message>
     <message>
         <source>No bank keeps the account &apos;%1&apos;</source>
@@ -4129,48 +4113,48 @@
         <translation>erst mit save-as sichern</translation>
     </message>
     <message>
-        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
-        <translation>Die Tabelle hat bis hierher mehr als %1 Zeichen, wobei jede Zelle als mindestens %2 zählt; sie ist auf mehrere Dateien aufzuteilen.</translation>
+        <source>The table has more than %1 characters up to here, each cell counted as at least %2; split the file.</source>
+        <translation>Die Tabelle hat bis hierher mehr als %1 Zeichen, jede Zelle als mindestens %2 gezählt; die Datei ist aufzuteilen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
-        <translation>„%1“ steht in zwei Zellen und ist vielleicht ein einziger Betrag; ein Betrag, der das Trennzeichen enthält, braucht Anführungszeichen.</translation>
+        <source>&apos;%1&apos; is in two cells but may be one amount; put quotes around amounts that contain the delimiter.</source>
+        <translation>„%1“ steht in zwei Zellen, ist aber vielleicht ein einziger Betrag; Beträge, die das Trennzeichen enthalten, brauchen Anführungszeichen.</translation>
     </message>
     <message>
-        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
+        <source>The columns %1 are all named &apos;%2&apos;; choose one by its number with %3.</source>
         <translation>Die Spalten %1 heißen alle „%2“; eine davon wird mit %3 durch ihre Nummer gewählt.</translation>
     </message>
     <message>
-        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
-        <translation>Die Zeile der Überschriften enthält einen Eintrag; gibt es keine Überschriften, ist --no-headings anzugeben.</translation>
+        <source>The heading line contains an entry; use --no-headings if the file has no headings.</source>
+        <translation>Die Zeile der Überschriften enthält einen Eintrag; hat die Datei keine Überschriften, ist --no-headings anzugeben.</translation>
     </message>
     <message>
-        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
-        <translation>Dieser Eintrag steht innerhalb von Anführungszeichen, die auf einer Zeile darüber beginnen; sie sind dort zu schließen.</translation>
+        <source>This entry is inside quotes that open on an earlier line; close them there.</source>
+        <translation>Dieser Eintrag steht innerhalb von Anführungszeichen, die auf einer früheren Zeile beginnen; sie sind dort zu schließen.</translation>
     </message>
     <message>
-        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
-        <translation>Nach den Beträgen der Einträge ist der Saldo hier %1, die Datei nennt aber %2; --balance-column - lässt ihn ungeprüft.</translation>
+        <source>The entries add up to a balance of %1 here, but the file says %2; --balance-column - skips this check.</source>
+        <translation>Die Einträge ergeben hier den Saldo %1, die Datei nennt aber %2; --balance-column - überspringt diese Prüfung.</translation>
     </message>
     <message>
-        <source>An entry stands here outside of the list of a statement.</source>
-        <translation>Hier steht ein Eintrag außerhalb der Liste eines Kontoauszugs.</translation>
+        <source>This entry belongs to no statement.</source>
+        <translation>Dieser Eintrag gehört zu keinem Kontoauszug.</translation>
     </message>
     <message>
-        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
-        <translation>Hier steht mehr als das, was zwischen &lt;OFX&gt; und &lt;/OFX&gt; steht; jedes Dokument braucht eine eigene Datei.</translation>
+        <source>There is text outside &lt;OFX&gt; and &lt;/OFX&gt;; put each document into its own file.</source>
+        <translation>Außerhalb von &lt;OFX&gt; und &lt;/OFX&gt; steht noch etwas; jedes Dokument braucht eine eigene Datei.</translation>
     </message>
     <message>
-        <source>&lt;%1&gt; is there a second time.</source>
-        <translation>&lt;%1&gt; kommt ein zweites Mal vor.</translation>
+        <source>&lt;%1&gt; appears twice.</source>
+        <translation>&lt;%1&gt; kommt zweimal vor.</translation>
     </message>
     <message>
-        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
-        <translation>Mit „%1“ hat der Eintrag zwei Zeilen einer Art; darüber fehlt vielleicht eine Zeile ^.</translation>
+        <source>&apos;%1&apos; repeats a field of this entry; a line ^ may be missing above.</source>
+        <translation>„%1“ wiederholt ein Feld dieses Eintrags; darüber fehlt vielleicht eine Zeile ^.</translation>
     </message>
     <message>
-        <source>The entry has two amounts, %1 and %2.</source>
-        <translation>Der Eintrag hat zwei Beträge, %1 und %2.</translation>
+        <source>The entry has two different amounts, %1 and %2.</source>
+        <translation>Der Eintrag hat zwei verschiedene Beträge, %1 und %2.</translation>
     </message>
     <message>
         <source>The column that tells what is not booked yet (csv)</source>
@@ -4239,6 +4223,30 @@
     <message>
         <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
         <translation>Der letzte Abgleich des Kontos %1 bei der Bank „%2“ stammt aus der Zeit, als es ein Konto anderer Art war; er gilt für die jetzige Art, sofern es keinen späteren gibt.</translation>
+    </message>
+    <message>
+        <source>The entry has no amount.</source>
+        <translation>Der Eintrag hat keinen Betrag.</translation>
+    </message>
+    <message>
+        <source>The entry has no date.</source>
+        <translation>Der Eintrag hat kein Datum.</translation>
+    </message>
+    <message>
+        <source>The import profile is not valid JSON: %1.</source>
+        <translation>Das Importprofil ist kein gültiges JSON: %1.</translation>
+    </message>
+    <message>
+        <source>The import profile is not a JSON object.</source>
+        <translation>Das Importprofil ist kein JSON-Objekt.</translation>
+    </message>
+    <message>
+        <source>The import profile has an unknown key &apos;%1&apos;.</source>
+        <translation>Das Importprofil hat einen unbekannten Schlüssel „%1“.</translation>
+    </message>
+    <message>
+        <source>The import profile has a wrong value for &apos;%1&apos;.</source>
+        <translation>Das Importprofil hat einen falschen Wert für „%1“.</translation>
     </message>
 </context>
 <context>

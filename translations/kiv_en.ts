@@ -74,7 +74,7 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n transaction(s) that move nothing are left out.</source>
+        <source>%n transaction(s) that move no money are skipped.</source>
         <translation>
             <numerusform>%n transaction that moves nothing is left out.</numerusform>
             <numerusform>%n transactions that move nothing are left out.</numerusform>

@@ -496,18 +496,6 @@
         <translation>No se pudo eliminar el valor con la clave «%1», porque la clave no se encontró en el tipo «%2».</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has a wrong value</source>
-        <translation>«%1» tiene un valor incorrecto</translation>
-    </message>
-    <message>
-        <source>it is not a JSON object</source>
-        <translation>no es un objeto JSON</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; is no key of one</source>
-        <translation>«%1» no es una clave de perfil</translation>
-    </message>
-    <message>
         <source>amount</source>
         <translation>importe</translation>
     </message>
@@ -520,8 +508,8 @@
         <translation>«%1»: %2</translation>
     </message>
     <message>
-        <source>This is not valid %1; name the file&apos;s encoding with --encoding.</source>
-        <translation>Esto no es %1 válido; la codificación del archivo se indica con --encoding.</translation>
+        <source>The file is not valid %1 here; name its encoding with --encoding.</source>
+        <translation>El archivo no es %1 válido aquí; su codificación se indica con --encoding.</translation>
     </message>
     <message>
         <source>The line has more than %1 characters.</source>
@@ -532,7 +520,7 @@
         <translation>Un presupuesto admite como máximo %1 asientos.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a day written as %2.</source>
+        <source>&apos;%1&apos; is not a date in the form %2.</source>
         <translation>«%1» no es una fecha escrita como %2.</translation>
     </message>
     <message>
@@ -544,12 +532,12 @@
         <translation>«%1» se puede leer de dos maneras; la marca decimal se indica con --decimal.</translation>
     </message>
     <message>
-        <source>The amounts here cannot be kept exactly.</source>
-        <translation>Los importes de aquí no se pueden conservar con exactitud.</translation>
+        <source>An amount here is too large to be kept exactly.</source>
+        <translation>Un importe de aquí es demasiado grande para conservarlo con exactitud.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has more digits behind the decimal mark than the %2 of %3.</source>
-        <translation>«%1» tiene más cifras tras la marca decimal que las %2 de %3.</translation>
+        <source>&apos;%1&apos; has more decimal places than %3, which has %2.</source>
+        <translation>«%1» tiene más decimales que %3, que tiene %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not the ISO 4217 code of a currency.</source>
@@ -560,20 +548,20 @@
         <translation>«%1» no se puede importar.</translation>
     </message>
     <message>
-        <source>The line is indented, but there is nothing that it belongs to.</source>
-        <translation>La línea está sangrada, pero no hay nada a lo que pertenezca.</translation>
+        <source>The line is indented but belongs to no transaction or directive.</source>
+        <translation>La línea está sangrada, pero no pertenece a ningún asiento ni directiva.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; begins here and does not end.</source>
-        <translation>«%1» empieza aquí y no termina.</translation>
+        <source>&apos;%1&apos; begins here and is never closed.</source>
+        <translation>«%1» empieza aquí y nunca se cierra.</translation>
     </message>
     <message>
-        <source>Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what &apos;%1&apos; is with --root, like --root &apos;%1=asset&apos;.</source>
-        <translation>Las cuentas empiezan por Assets, Liabilities, Equity, Income o Expenses; lo que es «%1» se indica con --root, por ejemplo --root &apos;%1=asset&apos;.</translation>
+        <source>&apos;%1&apos; is not a known top-level account; tell what it is with --root, like --root &apos;%1=asset&apos;.</source>
+        <translation>«%1» no es una cuenta raíz conocida; lo que es se indica con --root, por ejemplo --root &apos;%1=asset&apos;.</translation>
     </message>
     <message>
-        <source>The name of an account is missing.</source>
-        <translation>Falta el nombre de una cuenta.</translation>
+        <source>The account name is missing.</source>
+        <translation>Falta el nombre de la cuenta.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount.</source>
@@ -584,8 +572,8 @@
         <translation>«%1» no tiene moneda; se indica con --currency.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a currency; give its cost behind @, or say which currency it is with --commodity, like --commodity &apos;%1=USD&apos;.</source>
-        <translation>«%1» no es una moneda; su coste puede ponerse tras @, o indicarse qué moneda es con --commodity, por ejemplo --commodity &apos;%1=USD&apos;.</translation>
+        <source>&apos;%1&apos; is not a currency; write its cost after @, or name its currency, like --commodity &apos;%1=USD&apos;.</source>
+        <translation>«%1» no es una moneda; su coste puede ponerse tras @, o se indica su moneda, por ejemplo --commodity &apos;%1=USD&apos;.</translation>
     </message>
     <message>
         <source>The transaction has fewer than two postings.</source>
@@ -596,107 +584,103 @@
         <translation>Más de un apunte del asiento no tiene importe.</translation>
     </message>
     <message>
-        <source>The transaction does not balance; the rest is %1.</source>
-        <translation>El asiento no cuadra; el resto es %1.</translation>
+        <source>The transaction does not balance; it is off by %1.</source>
+        <translation>El asiento no cuadra; la diferencia es %1.</translation>
     </message>
     <message>
-        <source>The balance of &apos;%1&apos; should be %2 here, and is %3.</source>
-        <translation>El saldo de «%1» debería ser aquí %2, y es %3.</translation>
+        <source>The balance of &apos;%1&apos; should be %2 here, but is %3.</source>
+        <translation>El saldo de «%1» debería ser aquí %2, pero es %3.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a pattern of account names.</source>
-        <translation>«%1» no es un patrón de nombres de cuenta.</translation>
+        <source>&apos;%1&apos; is not a valid pattern for account names.</source>
+        <translation>«%1» no es un patrón válido de nombres de cuenta.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not included: %2.</source>
-        <translation>«%1» no se incluye: %2.</translation>
+        <source>Cannot include &apos;%1&apos;: %2.</source>
+        <translation>No se puede incluir «%1»: %2.</translation>
     </message>
     <message>
-        <source>A quote begins here and does not end.</source>
-        <translation>Unas comillas empiezan aquí y no terminan.</translation>
+        <source>A quote opens here and is never closed.</source>
+        <translation>Unas comillas se abren aquí y nunca se cierran.</translation>
     </message>
     <message>
-        <source>There is text between a closing quote and the next delimiter.</source>
+        <source>There is text after a closing quote, before the next delimiter.</source>
         <translation>Hay texto entre unas comillas de cierre y el siguiente separador.</translation>
     </message>
     <message>
-        <source>There is no column &apos;%1&apos; among: %2.</source>
-        <translation>No hay ninguna columna «%1» entre: %2.</translation>
+        <source>There is no column &apos;%1&apos;; the columns are: %2.</source>
+        <translation>No hay ninguna columna «%1»; las columnas son: %2.</translation>
     </message>
     <message>
-        <source>Say with %1 which column it is, of: %2.</source>
-        <translation>La columna se indica con %1; las que hay: %2.</translation>
+        <source>A column is not known; name it with %1. The columns are: %2.</source>
+        <translation>No se conoce una columna; se indica con %1. Las columnas son: %2.</translation>
     </message>
     <message>
-        <source>This is the table of a whole ledger, and no bank statement; import the journal instead.</source>
-        <translation>Esta es la tabla de un libro mayor entero y no un extracto; en su lugar se puede importar el diario.</translation>
+        <source>This table is an exported ledger, not a bank statement; import the journal instead.</source>
+        <translation>Esta tabla es un libro mayor exportado y no un extracto; en su lugar se puede importar el diario.</translation>
     </message>
     <message>
-        <source>The record has an amount that came in and one that went out.</source>
-        <translation>El registro tiene un importe que entró y otro que salió.</translation>
+        <source>The row has one amount that came in and one that went out.</source>
+        <translation>La fila tiene un importe que entró y otro que salió.</translation>
     </message>
     <message>
         <source>The entry has no %1.</source>
         <translation>A la entrada le falta: %1.</translation>
     </message>
     <message>
-        <source>The amount is in %1, and the account in %2.</source>
-        <translation>El importe está en %1 y la cuenta en %2.</translation>
+        <source>The amount is in %1, but the account is in %2.</source>
+        <translation>El importe está en %1, pero la cuenta en %2.</translation>
     </message>
     <message>
-        <source>This is no import profile: %1.</source>
-        <translation>Esto no es un perfil de importación: %1.</translation>
-    </message>
-    <message>
-        <source>There is no &lt;OFX&gt; in this file.</source>
-        <translation>En este archivo no hay ningún &lt;OFX&gt;.</translation>
+        <source>The file contains no &lt;OFX&gt;.</source>
+        <translation>El archivo no contiene ningún &lt;OFX&gt;.</translation>
     </message>
     <message>
         <source>A tag is broken: its name or its &apos;&gt;&apos; is missing.</source>
         <translation>Una etiqueta está rota: le falta el nombre o su «&gt;».</translation>
     </message>
     <message>
-        <source>&lt;/%1&gt; stands where the &lt;%2&gt; of line %3 should be closed.</source>
-        <translation>&lt;/%1&gt; está donde debería cerrarse el &lt;%2&gt; de la línea %3.</translation>
+        <source>&lt;/%1&gt; does not close &lt;%2&gt;, which opens on line %3.</source>
+        <translation>&lt;/%1&gt; no cierra &lt;%2&gt;, que se abre en la línea %3.</translation>
     </message>
     <message>
-        <source>&lt;%1&gt; is not closed.</source>
-        <translation>&lt;%1&gt; no se cierra.</translation>
+        <source>&lt;%1&gt; is never closed.</source>
+        <translation>&lt;%1&gt; nunca se cierra.</translation>
     </message>
     <message>
         <source>Tags are nested too deeply.</source>
         <translation>Las etiquetas están anidadas a demasiada profundidad.</translation>
     </message>
     <message>
-        <source>There is no statement of a bank account or a credit card.</source>
-        <translation>No hay ningún extracto de una cuenta bancaria o de una tarjeta de crédito.</translation>
+        <source>The file contains no statement of a bank account or credit card.</source>
+        <translation>El archivo no contiene ningún extracto de una cuenta bancaria o de una tarjeta de crédito.</translation>
     </message>
     <message>
-        <source>There are several statements; choose one with --statement: %1.</source>
-        <translation>Hay varios extractos; se elige uno con --statement: %1.</translation>
+        <source>The file contains several statements; choose one with --statement: %1.</source>
+        <translation>El archivo contiene varios extractos; se elige uno con --statement: %1.</translation>
     </message>
     <message>
-        <source>There is no statement of &apos;%1&apos;, but of: %2.</source>
-        <translation>No hay ningún extracto de «%1», pero sí de: %2.</translation>
+        <source>The file contains no statement of &apos;%1&apos;; choose one of: %2.</source>
+        <translation>El archivo no contiene ningún extracto de «%1»; se puede elegir entre: %2.</translation>
     </message>
     <message>
         <source>The file does not begin with a QIF header like !Type:Bank.</source>
         <translation>El archivo no empieza con una cabecera QIF como !Type:Bank.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no field of a bank statement.</source>
-        <translation>«%1» no es un campo de un extracto.</translation>
+        <source>&apos;%1&apos; is not a known field of a bank statement.</source>
+        <translation>«%1» no es un campo conocido de un extracto.</translation>
     </message>
     <message>
-        <source>The parts come to %1 and the whole to %2.</source>
-        <translation>Las partes suman %1 y el total es %2.</translation>
+        <source>The parts add up to %1, but the whole is %2.</source>
+        <translation>Las partes suman %1, pero el total es %2.</translation>
     </message>
     <message>
         <source>A report cannot end before it begins.</source>
         <translation>Un informe no puede terminar antes de empezar.</translation>
     </message>
     <message>
-        <source>A report covers no more than %1 months.</source>
+        <source>A report covers at most %1 months.</source>
         <translation>Un informe abarca como máximo %1 meses.</translation>
     </message>
     <message>
@@ -736,7 +720,7 @@
         <translation>Todas las cuentas están vacías.</translation>
     </message>
     <message>
-        <source>Planned a month</source>
+        <source>Planned per month</source>
         <translation>Previsto al mes</translation>
     </message>
     <message>
@@ -744,15 +728,15 @@
         <translation>Partida</translation>
     </message>
     <message>
-        <source>The plan is today&apos;s, restated per month. ▲ marks a month in which more was spent.</source>
-        <translation>El plan es el de hoy, expresado por mes. ▲ señala un mes en que se gastó más.</translation>
+        <source>The plan is today&apos;s, restated per month. ▲ marks months with higher spending.</source>
+        <translation>El plan es el de hoy, expresado por mes. ▲ señala los meses con más gasto.</translation>
     </message>
     <message>
         <source>Net worth over time, %1</source>
         <translation>Evolución del patrimonio neto, %1</translation>
     </message>
     <message>
-        <source>At the end of each month, what all assets hold less what is owed; %1 at last.</source>
+        <source>All assets less all debts at the end of each month; the last is %1.</source>
         <translation>Lo que suman todos los activos al final de cada mes, menos lo que se debe; el último, %1.</translation>
     </message>
     <message>
@@ -764,7 +748,7 @@
         <translation>Ingresos y gastos, %1</translation>
     </message>
     <message>
-        <source>What came in and what was spent in each month.</source>
+        <source>Money that came in and money spent in each month.</source>
         <translation>Lo que entró y lo que se gastó cada mes.</translation>
     </message>
     <message>
@@ -776,8 +760,8 @@
         <translation>Presupuesto y gasto real, %1</translation>
     </message>
     <message>
-        <source>What bills, debts, goals and non-tracked items are planned to take in a month, and what went out for them.</source>
-        <translation>Lo que se prevé para facturas, deudas, metas y partidas sin seguimiento cada mes, y lo que se gastó en ellas.</translation>
+        <source>Planned and actual spending per month on bills, debts, goals and non-tracked items.</source>
+        <translation>Gasto previsto y real al mes en facturas, deudas, metas y partidas sin seguimiento.</translation>
     </message>
     <message>
         <source>Planned</source>
@@ -805,31 +789,31 @@
         <translation>Saldos a %1</translation>
     </message>
     <message>
-        <source>What is no currency is kept at its cost.</source>
+        <source>Commodities other than currencies are kept at their cost.</source>
         <translation>Lo que no es una moneda se lleva a su coste.</translation>
     </message>
     <message>
-        <source>Unbalanced virtual postings are kept against Equity:Virtual.</source>
+        <source>Unbalanced virtual postings are posted against Equity:Virtual.</source>
         <translation>Los apuntes virtuales que no cuadran se registran contra Equity:Virtual.</translation>
     </message>
     <message>
-        <source>Periodic transactions are left out.</source>
+        <source>Periodic transactions are skipped.</source>
         <translation>Los asientos periódicos se omiten.</translation>
     </message>
     <message>
-        <source>Market prices are left out; they change no balance.</source>
+        <source>Market prices are skipped; they change no balance.</source>
         <translation>Los precios de mercado se omiten; no cambian ningún saldo.</translation>
     </message>
     <message>
-        <source>there is no folder for it</source>
-        <translation>no hay carpeta para él</translation>
+        <source>the journal has no folder</source>
+        <translation>el diario no tiene carpeta</translation>
     </message>
     <message>
-        <source>files include each other too deeply</source>
-        <translation>los archivos se incluyen unos a otros a demasiada profundidad</translation>
+        <source>too many files include each other</source>
+        <translation>demasiados archivos se incluyen unos a otros</translation>
     </message>
     <message>
-        <source>Second days of transactions are left out.</source>
+        <source>Second dates of transactions are skipped.</source>
         <translation>Las segundas fechas de los asientos se omiten.</translation>
     </message>
     <message>
@@ -1976,7 +1960,7 @@
         <translation>todos los archivos juntos son demasiado grandes</translation>
     </message>
     <message>
-        <source>Entries of nothing are left out.</source>
+        <source>Entries with amount zero are skipped.</source>
         <translation>Las entradas de importe cero se omiten.</translation>
     </message>
     <message>
@@ -2574,12 +2558,12 @@
         <translation>Detalle</translation>
     </message>
     <message>
-        <source>The record has more than %1 cells.</source>
-        <translation>El registro tiene más de %1 celdas.</translation>
+        <source>The row has more than %1 cells.</source>
+        <translation>La fila tiene más de %1 celdas.</translation>
     </message>
     <message>
-        <source>Of long comments the beginning is kept.</source>
-        <translation>De los comentarios largos se conserva el principio.</translation>
+        <source>Long comments are cut off.</source>
+        <translation>Los comentarios largos se acortan.</translation>
     </message>
     <message>
         <source>ACCOUNT</source>
@@ -3859,16 +3843,16 @@
         <translation>No se puede obtener nada: %1.</translation>
     </message>
     <message>
-        <source>The record has %1 cells where there are %2 headings; a cell that holds the delimiter needs quotes around it.</source>
-        <translation>El registro tiene %1 celdas y solo hay %2 encabezados; una celda que contiene el separador necesita comillas.</translation>
+        <source>The row has %1 cells but there are %2 headings; put quotes around cells that contain the delimiter.</source>
+        <translation>La fila tiene %1 celdas, pero hay %2 encabezados; las celdas que contienen el separador necesitan comillas.</translation>
     </message>
     <message>
-        <source>There are neither headings nor entries.</source>
-        <translation>No hay ni encabezados ni entradas.</translation>
+        <source>The file has no headings and no entries.</source>
+        <translation>El archivo no tiene encabezados ni entradas.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no way to write days; put one together from YYYY, MM and DD, like DD.MM.YYYY.</source>
-        <translation>«%1» no es una forma de escribir fechas; se compone de YYYY, MM y DD, como DD.MM.YYYY.</translation>
+        <source>&apos;%1&apos; is not a date form; combine YYYY, MM and DD, like DD.MM.YYYY.</source>
+        <translation>«%1» no es una forma de fecha; se compone de YYYY, MM y DD, como DD.MM.YYYY.</translation>
     </message>
     <message>
         <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
@@ -3883,28 +3867,28 @@
         <translation>Indicar con --into de qué cuenta trata el extracto.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no encoding that is known; write one like windows-1252 or UTF-16.</source>
+        <source>&apos;%1&apos; is not a known encoding; use one like windows-1252 or UTF-16.</source>
         <translation>«%1» no es una codificación conocida; debe ser como windows-1252 o UTF-16.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a day written as %2; name another form with --date-format.</source>
+        <source>&apos;%1&apos; is not a date in the form %2; name another form with --date-format.</source>
         <translation>«%1» no es una fecha escrita como %2; otra forma se indica con --date-format.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.</source>
-        <translation>«%1» no es ni un asiento ni una directiva que se pueda importar; un ; al principio de la línea la omite.</translation>
+        <source>&apos;%1&apos; is not a known transaction or directive; put ; before the line to skip it.</source>
+        <translation>«%1» no es un asiento ni una directiva conocidos; un ; al principio de la línea la omite.</translation>
     </message>
     <message>
-        <source>The record has only %1 of the %2 cells that are needed.</source>
-        <translation>El registro solo tiene %1 de las %2 celdas necesarias.</translation>
+        <source>The row has only %1 of the %2 cells it needs.</source>
+        <translation>La fila solo tiene %1 de las %2 celdas necesarias.</translation>
     </message>
     <message>
-        <source>The days can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
+        <source>The dates can be read in two ways; name the order with --date-format, like M/D/YYYY.</source>
         <translation>Las fechas se pueden leer de dos maneras; el orden se indica con --date-format, como M/D/YYYY.</translation>
     </message>
     <message>
-        <source>The file ends within an entry; fetch it again, or end it with a line ^.</source>
-        <translation>El archivo termina en medio de una entrada; hay que volver a obtenerlo o terminarlo con una línea ^.</translation>
+        <source>The last entry may be cut off; download the file again, or end it with a line ^.</source>
+        <translation>La última entrada quizá esté cortada; hay que descargar el archivo de nuevo o terminarlo con una línea ^.</translation>
     </message>
     <message>
         <source>The following argument was not expected: %1; --help tells which are.</source>
@@ -3973,7 +3957,7 @@
         <translation>Ingresos</translation>
     </message>
     <message>
-        <source>No amount is negative, but column %1 holds &apos;%2&apos;; say with --sign-column and --negative what went out.</source>
+        <source>No amount is negative, but column %1 contains &apos;%2&apos;; tell what went out with --sign-column and --negative.</source>
         <translation>Ningún importe es negativo, pero la columna %1 contiene «%2»; lo que salió se indica con --sign-column y --negative.</translation>
     </message>
     <message>
@@ -3987,11 +3971,11 @@
         <translation>n</translation>
     </message>
     <message>
-        <source>A journal holds no more than %1 automated transactions.</source>
+        <source>A journal can have at most %1 automated transactions.</source>
         <translation>Un diario admite como máximo %1 asientos automáticos.</translation>
     </message>
     <message>
-        <source>a journal includes no more than %1 files</source>
+        <source>a journal can include at most %1 files</source>
         <translation>un diario incluye como máximo %1 archivos</translation>
     </message>
     <message numerus="yes">
@@ -4002,107 +3986,107 @@
         </translation>
     </message>
     <message>
-        <source>Some amounts in the column of what went out are negative, and some are not; write what was given back as what came in.</source>
-        <translation>Algunos importes de la columna de salidas son negativos y otros no; lo que se devolvió debe figurar como entrada.</translation>
+        <source>The column of what went out has both signs; move refunds to the column of what came in.</source>
+        <translation>La columna de salidas tiene ambos signos; los reembolsos deben ir en la columna de entradas.</translation>
     </message>
     <message>
-        <source>The file ends within its last line; fetch it again, or end it with a line end.</source>
-        <translation>El archivo termina a mitad de la última línea; hay que obtenerlo de nuevo o terminarlo con un fin de línea.</translation>
+        <source>The last line may be cut off; download the file again, or end it with a line break.</source>
+        <translation>La última línea quizá esté cortada; hay que descargar el archivo de nuevo o terminarlo con un fin de línea.</translation>
     </message>
     <message>
-        <source>The file holds entries of several accounts; make a file of each.</source>
-        <translation>El archivo contiene apuntes de varias cuentas; cada una necesita su propio archivo.</translation>
+        <source>The file has entries of several accounts; put each account into its own file.</source>
+        <translation>El archivo contiene entradas de varias cuentas; cada una necesita su propio archivo.</translation>
     </message>
     <message>
-        <source>Entries that are not booked yet are left out.</source>
-        <translation>Se omiten los apuntes que aún no están contabilizados.</translation>
+        <source>Entries that the bank has not booked yet are skipped.</source>
+        <translation>Se omiten las entradas que el banco aún no ha contabilizado.</translation>
     </message>
     <message>
-        <source>There is no account &apos;%1&apos;; what was moved there goes to &apos;%2&apos;.</source>
-        <translation>No hay ninguna cuenta «%1»; lo que se movió allí va a «%2».</translation>
+        <source>There is no account &apos;%1&apos;; its transfers are posted to &apos;%2&apos;.</source>
+        <translation>No hay ninguna cuenta «%1»; sus traspasos se registran en «%2».</translation>
     </message>
     <message>
-        <source>Some entries are older than the opening balance of %1, which may hold them already.</source>
-        <translation>Algunos apuntes son anteriores al saldo inicial del %1, que quizá ya los incluye.</translation>
+        <source>Some entries are older than the opening balance of %1, which may already include them.</source>
+        <translation>Algunas entradas son anteriores al saldo inicial del %1, que quizá ya las incluye.</translation>
     </message>
     <message>
-        <source>What moves from &apos;%1&apos; to itself, such as an opening balance, is left out.</source>
-        <translation>Se omite lo que va de «%1» a la misma cuenta, como un saldo inicial.</translation>
+        <source>Entries from &apos;%1&apos; to itself are skipped, such as an opening balance.</source>
+        <translation>Las entradas de «%1» a la misma cuenta se omiten, como un saldo inicial.</translation>
     </message>
     <message>
         <source>How many lines stand below the entries, as of totals (csv)</source>
         <translation>Cuántas líneas hay debajo de los apuntes, como totales (csv)</translation>
     </message>
     <message>
-        <source>Line %1 may be a transfer that is there already, from the statement of its other account.</source>
-        <translation>La línea %1 quizá sea una transferencia que ya está, por el extracto de la otra cuenta.</translation>
+        <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
+        <translation>La línea %1 quizá sea un traspaso ya registrado con el extracto de la otra cuenta.</translation>
     </message>
     <message>
-        <source>An amount in the column of what came in is negative; write it as what went out, or without its sign.</source>
+        <source>An amount in the column of what came in is negative; move it to what went out, or remove its sign.</source>
         <translation>Un importe de la columna de entradas es negativo; debe figurar como salida o sin signo.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; does not tell whether the amount went out; name what does with --negative.</source>
-        <translation>«%1» no dice si el importe salió; lo que lo dice se indica con --negative.</translation>
+        <source>&apos;%1&apos; does not tell whether the amount went out; name the words that do with --negative.</source>
+        <translation>«%1» no dice si el importe salió; las palabras que lo dicen se indican con --negative.</translation>
     </message>
     <message>
-        <source>The line is to be left out, but has a day; leave out fewer lines.</source>
-        <translation>La línea debe omitirse, pero tiene un día; hay que omitir menos líneas.</translation>
+        <source>The line to be skipped contains a date; skip fewer lines with --skip-last.</source>
+        <translation>La línea que se omitiría contiene una fecha; hay que omitir menos líneas con --skip-last.</translation>
     </message>
     <message>
         <source>The entry has more than %1 characters up to here.</source>
         <translation>La entrada tiene hasta aquí más de %1 caracteres.</translation>
     </message>
     <message>
-        <source>The descriptions of all transactions up to here have more than %1 characters.</source>
-        <translation>Las descripciones de todos los asientos hasta aquí tienen más de %1 caracteres.</translation>
+        <source>All descriptions up to here have more than %1 characters together; split the file.</source>
+        <translation>Todas las descripciones hasta aquí suman más de %1 caracteres; hay que dividir el archivo.</translation>
     </message>
     <message>
-        <source>A journal has no more than %1 accounts, those above others included.</source>
+        <source>A journal can have at most %1 accounts, parent accounts included.</source>
         <translation>Un diario tiene como máximo %1 cuentas, incluidas las superiores.</translation>
     </message>
     <message>
-        <source>The accounts up to here and those above them have names of more than %1 characters, each with the names on the way to it.</source>
-        <translation>Los nombres de las cuentas hasta aquí y de sus cuentas superiores tienen más de %1 caracteres, cada uno con los que llevan a él.</translation>
+        <source>The full names of all accounts up to here have more than %1 characters together; shorten them.</source>
+        <translation>Los nombres completos de todas las cuentas hasta aquí suman más de %1 caracteres; hay que acortarlos.</translation>
     </message>
     <message>
-        <source>The kind of &apos;%1&apos; is declared further down; put the declaration above the account&apos;s first transaction.</source>
-        <translation>El tipo de «%1» se declara más abajo; la declaración debe estar antes del primer asiento de la cuenta.</translation>
+        <source>The kind of &apos;%1&apos; is declared too late; move the declaration above the account&apos;s first transaction.</source>
+        <translation>El tipo de «%1» se declara demasiado tarde; la declaración debe estar antes del primer asiento de la cuenta.</translation>
     </message>
     <message>
-        <source>Programs differ on what the aliases make of &apos;%1&apos;; write the whole name of the account.</source>
-        <translation>No todos los programas coinciden en lo que los alias hacen de «%1»; conviene escribir el nombre completo de la cuenta.</translation>
+        <source>Programs differ on how aliases rename &apos;%1&apos;; write the full account name.</source>
+        <translation>Los programas no coinciden en cómo los alias cambian «%1»; conviene escribir el nombre completo de la cuenta.</translation>
     </message>
     <message>
-        <source>Programs differ on the amount that leads to this balance of &apos;%1&apos;; write the amount.</source>
-        <translation>No todos los programas coinciden en el importe que lleva a este saldo de «%1»; conviene escribir el importe.</translation>
+        <source>Programs differ on which amount gives this balance of &apos;%1&apos;; write the amount.</source>
+        <translation>Los programas no coinciden en qué importe da este saldo de «%1»; conviene escribir el importe.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; may be an amount or a multiplier; write it with its currency, or with * before it.</source>
+        <source>&apos;%1&apos; may be an amount or a multiplier; add its currency, or put * before it.</source>
         <translation>«%1» puede ser un importe o un factor; conviene escribir su moneda, o * delante.</translation>
     </message>
     <message>
-        <source>Programs differ on whether this automated transaction fits &apos;%1&apos;, which stands above it or is added by another one.</source>
-        <translation>No todos los programas coinciden en si este asiento automático encaja con «%1», que está antes de él o que añade otro.</translation>
+        <source>Programs differ on whether this automated transaction applies to &apos;%1&apos;, which was posted earlier or automatically.</source>
+        <translation>Los programas no coinciden en si este asiento automático se aplica a «%1», que se registró antes o automáticamente.</translation>
     </message>
     <message>
-        <source>Some accounts become one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
-        <translation>Algunas cuentas se convierten en una sola, como «%1» y «%2».</translation>
+        <source>Some accounts are merged into one, such as &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>Algunas cuentas se reúnen en una sola, como «%1» y «%2».</translation>
     </message>
     <message>
         <source>The postings of automated transactions are added.</source>
         <translation>Se registra lo que añaden los asientos automáticos.</translation>
     </message>
     <message numerus="yes">
-        <source>%n transaction(s) that move nothing are left out.</source>
+        <source>%n transaction(s) that move no money are skipped.</source>
         <translation>
             <numerusform>Se omite %n asiento que no mueve nada.</numerusform>
             <numerusform>Se omiten %n asientos que no mueven nada.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Days in comments are left out; all of a transaction has its day.</source>
-        <translation>Las fechas en los comentarios se omiten; todo en un asiento tiene la fecha de este.</translation>
+        <source>Dates in comments are skipped; each posting has the date of its transaction.</source>
+        <translation>Las fechas en los comentarios se omiten; cada apunte tiene la fecha de su asiento.</translation>
     </message>
     <message>
         <source>No bank keeps the account &apos;%1&apos;</source>
@@ -4129,48 +4113,48 @@
         <translation>hay que guardarlos antes con save-as</translation>
     </message>
     <message>
-        <source>The table has more than %1 characters up to here, of which each cell counts as %2 at least; make several files of it.</source>
-        <translation>La tabla tiene hasta aquí más de %1 caracteres, contando cada celda como %2 al menos; hay que dividirla en varios archivos.</translation>
+        <source>The table has more than %1 characters up to here, each cell counted as at least %2; split the file.</source>
+        <translation>La tabla tiene hasta aquí más de %1 caracteres, contando cada celda como al menos %2; hay que dividir el archivo.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; stands in two cells and may be one amount; an amount that holds the delimiter needs quotes around it.</source>
-        <translation>«%1» ocupa dos celdas y puede ser un solo importe; un importe que contiene el separador necesita comillas.</translation>
+        <source>&apos;%1&apos; is in two cells but may be one amount; put quotes around amounts that contain the delimiter.</source>
+        <translation>«%1» está en dos celdas, pero puede ser un solo importe; los importes que contienen el separador necesitan comillas.</translation>
     </message>
     <message>
-        <source>The columns %1 are all called &apos;%2&apos;; choose one by its number with %3.</source>
+        <source>The columns %1 are all named &apos;%2&apos;; choose one by its number with %3.</source>
         <translation>Las columnas %1 se llaman todas «%2»; se elige una por su número con %3.</translation>
     </message>
     <message>
-        <source>The line of the headings holds an entry; say --no-headings where there are none.</source>
-        <translation>La línea de los encabezados contiene una entrada; si no hay encabezados, se indica con --no-headings.</translation>
+        <source>The heading line contains an entry; use --no-headings if the file has no headings.</source>
+        <translation>La línea de los encabezados contiene una entrada; si el archivo no tiene encabezados, se indica con --no-headings.</translation>
     </message>
     <message>
-        <source>This entry stands within quotes that begin on a line above it; close them there.</source>
-        <translation>Esta entrada está dentro de unas comillas que empiezan en una línea anterior; hay que cerrarlas allí.</translation>
+        <source>This entry is inside quotes that open on an earlier line; close them there.</source>
+        <translation>Esta entrada está dentro de unas comillas que se abren en una línea anterior; hay que cerrarlas allí.</translation>
     </message>
     <message>
-        <source>With the amounts of the entries the balance is %1 here, but the file says %2; --balance-column - leaves it unchecked.</source>
-        <translation>Según los importes de las entradas, el saldo es aquí %1, pero el archivo dice %2; --balance-column - lo deja sin comprobar.</translation>
+        <source>The entries add up to a balance of %1 here, but the file says %2; --balance-column - skips this check.</source>
+        <translation>Las entradas dan aquí un saldo de %1, pero el archivo dice %2; --balance-column - omite esta comprobación.</translation>
     </message>
     <message>
-        <source>An entry stands here outside of the list of a statement.</source>
-        <translation>Aquí hay una entrada fuera de la lista de un extracto.</translation>
+        <source>This entry belongs to no statement.</source>
+        <translation>Esta entrada no pertenece a ningún extracto.</translation>
     </message>
     <message>
-        <source>Here is more than what stands between &lt;OFX&gt; and &lt;/OFX&gt;; make a file of each document.</source>
-        <translation>Aquí hay más de lo que está entre &lt;OFX&gt; y &lt;/OFX&gt;; cada documento necesita su propio archivo.</translation>
+        <source>There is text outside &lt;OFX&gt; and &lt;/OFX&gt;; put each document into its own file.</source>
+        <translation>Hay texto fuera de &lt;OFX&gt; y &lt;/OFX&gt;; cada documento necesita su propio archivo.</translation>
     </message>
     <message>
-        <source>&lt;%1&gt; is there a second time.</source>
-        <translation>&lt;%1&gt; aparece por segunda vez.</translation>
+        <source>&lt;%1&gt; appears twice.</source>
+        <translation>&lt;%1&gt; aparece dos veces.</translation>
     </message>
     <message>
-        <source>With &apos;%1&apos; the entry has two lines of a kind; a line ^ may be missing above.</source>
-        <translation>Con «%1» la entrada tiene dos líneas de una clase; quizá falte una línea ^ más arriba.</translation>
+        <source>&apos;%1&apos; repeats a field of this entry; a line ^ may be missing above.</source>
+        <translation>«%1» repite un campo de esta entrada; quizá falte una línea ^ más arriba.</translation>
     </message>
     <message>
-        <source>The entry has two amounts, %1 and %2.</source>
-        <translation>La entrada tiene dos importes, %1 y %2.</translation>
+        <source>The entry has two different amounts, %1 and %2.</source>
+        <translation>La entrada tiene dos importes distintos, %1 y %2.</translation>
     </message>
     <message>
         <source>The column that tells what is not booked yet (csv)</source>
@@ -4239,6 +4223,30 @@
     <message>
         <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
         <translation>La última conciliación de la cuenta %1 del banco «%2» se hizo cuando era una cuenta de otro tipo; vale para el tipo actual, salvo que haya una posterior.</translation>
+    </message>
+    <message>
+        <source>The entry has no amount.</source>
+        <translation>La entrada no tiene importe.</translation>
+    </message>
+    <message>
+        <source>The entry has no date.</source>
+        <translation>La entrada no tiene fecha.</translation>
+    </message>
+    <message>
+        <source>The import profile is not valid JSON: %1.</source>
+        <translation>El perfil de importación no es JSON válido: %1.</translation>
+    </message>
+    <message>
+        <source>The import profile is not a JSON object.</source>
+        <translation>El perfil de importación no es un objeto JSON.</translation>
+    </message>
+    <message>
+        <source>The import profile has an unknown key &apos;%1&apos;.</source>
+        <translation>El perfil de importación tiene una clave desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>The import profile has a wrong value for &apos;%1&apos;.</source>
+        <translation>El perfil de importación tiene un valor incorrecto para «%1».</translation>
     </message>
 </context>
 <context>

@@ -6,7 +6,6 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QObject>
 
 #include <variant>
 
@@ -101,7 +100,7 @@ private:
     void demand(bool isGood) const
     {
         if (!isGood)
-            throw faults::badProfile(m_place, QObject::tr("'%1' has a wrong value").arg(m_key));
+            throw faults::wrongProfileValue(m_place, m_key);
     }
     [[nodiscard]] QString text(const QJsonValue &value) const
     {
@@ -146,15 +145,15 @@ CsvProfile readProfile(const QByteArray &json, const QString &file)
     const auto line = json.left(error.offset).count('\n') + 1;
     const Place place{file, error.error == QJsonParseError::NoError ? 0 : line};
     if (!document.isObject())
-        throw faults::badProfile(place, error.error == QJsonParseError::NoError
-                                            ? QObject::tr("it is not a JSON object")
-                                            : error.errorString());
+        throw error.error == QJsonParseError::NoError
+            ? faults::profileNotAnObject(place)
+            : faults::profileNotJson(place, error.errorString());
     CsvProfile profile;
     const QJsonObject object = document.object();
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
         const auto member = members().find(entry.key());
         if (member == members().end())
-            throw faults::badProfile(place, QObject::tr("'%1' is no key of one").arg(entry.key()));
+            throw faults::unknownProfileKey(place, entry.key());
         const QJsonValue value = entry.value();
         if (!value.isNull())
             std::visit(MemberReader(profile, member->first, value, place), member->second);

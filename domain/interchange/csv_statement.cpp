@@ -282,7 +282,7 @@ private:
             if (!in.isZero() && !out.isZero())
                 throw faults::bothWays(place);
             if (cameIn.isEmpty() && wentOut.isEmpty())
-                throw faults::missingValue(place, QObject::tr("amount"));
+                throw faults::missingAmount(place);
             amount = out.isZero() ? in : -out;
         }
         if (m_columns.sign && isOut(cell(m_columns.sign), place))

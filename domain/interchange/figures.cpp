@@ -2,11 +2,9 @@
 #include "interchange/figures.h"
 
 #include "interchange/account_paths.h"
+#include "interchange/internal/faults.h"
 
 #include "budgeting/item_account.h"
-#include "foundation/error.h"
-
-#include <QtCore/QObject>
 
 namespace kiv::interchange {
 
@@ -151,11 +149,10 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
 Period::Period(QDate from, QDate to) : m_from(from.year(), from.month(), 1), m_to(to), m_months(0)
 {
     if (!from.isValid() || !to.isValid() || from > to)
-        throw foundation::Error(QObject::tr("A report cannot end before it begins."));
+        throw faults::reportEndsFirst();
     const int months = monthsBetween(m_from, m_to) + 1;
     if (months > monthsMax)
-        throw foundation::Error(
-            QObject::tr("A report covers no more than %1 months.").arg(monthsMax));
+        throw faults::reportTooLong(monthsMax);
     m_months = static_cast<std::size_t>(months);
 }
 

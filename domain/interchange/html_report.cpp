@@ -189,7 +189,7 @@ QString budgetTable(const Figures &figures)
     constexpr std::size_t shownMax = 6;
     const std::size_t months = figures.period.months();
     const std::size_t first = months > shownMax ? months - shownMax : 0;
-    QStringList titles{QObject::tr("Planned a month")};
+    QStringList titles{QObject::tr("Planned per month")};
     titles += figures.period.labels().mid(static_cast<qsizetype>(first));
     QString html = QStringLiteral("<div class=\"dense\">") + tableHead(QObject::tr("Item"), titles);
     for (const ItemFigure &item : figures.items) {
@@ -203,8 +203,8 @@ QString budgetTable(const Figures &figures)
     }
     return html + tableEnd +
            QStringLiteral("</div><p class=\"note\">%1</p>\n")
-               .arg(htmlText(QObject::tr("The plan is today's, restated per month. ▲ marks a month "
-                                         "in which more was spent.")));
+               .arg(htmlText(QObject::tr("The plan is today's, restated per month. ▲ marks months "
+                                         "with higher spending.")));
 }
 
 QString heading(const QString &text)
@@ -224,15 +224,14 @@ std::vector<Chart> chartsOf(const Figures &figures)
             charts.push_back(
                 {ChartKind::Line,
                  QObject::tr("Net worth over time, %1").arg(code),
-                 QObject::tr("At the end of each month, what all assets hold less what is "
-                             "owed; %1 at last.")
+                 QObject::tr("All assets less all debts at the end of each month; the last is %1.")
                      .arg(foundation::presentationText(sums.netWorth.back())),
                  labels,
                  {{QObject::tr("Net worth"), sums.netWorth}}});
         if (hasFlow(sums))
             charts.push_back({ChartKind::Bars,
                               QObject::tr("Income and expenses, %1").arg(code),
-                              QObject::tr("What came in and what was spent in each month."),
+                              QObject::tr("Money that came in and money spent in each month."),
                               labels,
                               {{QObject::tr("Income", "what came in"), sums.income},
                                {QObject::tr("Expenses"), sums.expenses}}});
@@ -240,9 +239,8 @@ std::vector<Chart> chartsOf(const Figures &figures)
             charts.push_back(
                 {ChartKind::Bars,
                  QObject::tr("Budget against actual, %1").arg(code),
-                 QObject::tr(
-                     "What bills, debts, goals and non-tracked items are planned to take in "
-                     "a month, and what went out for them."),
+                 QObject::tr("Planned and actual spending per month on bills, debts, goals and "
+                             "non-tracked items."),
                  labels,
                  {{QObject::tr("Planned"), std::vector(sums.outgoing.size(), sums.planned)},
                   {QObject::tr("Actual"), sums.outgoing}}});

@@ -9,7 +9,6 @@
 #include "foundation/presentation.h"
 #include "numira/error.h"
 
-#include <QtCore/QObject>
 #include <QtCore/QRegularExpression>
 
 namespace kiv::interchange {
@@ -240,7 +239,7 @@ public:
         StatementEntry entry{record.place};
         const auto day = m_format.read(plainDate(record.date));
         if (record.date.isEmpty())
-            throw faults::missingValue(record.place, QObject::tr("date"));
+            throw faults::missingDate(record.place);
         if (!day)
             throw faults::notInDateFormat(record.place, record.date, m_format.text());
         entry.date = *day;
@@ -276,7 +275,7 @@ private:
     [[nodiscard]] numira::Money amountOf(const Record &record) const
     {
         if (record.amount.isEmpty() && record.sameAmount.isEmpty())
-            throw faults::missingValue(record.place, QObject::tr("amount"));
+            throw faults::missingAmount(record.place);
         const QString &text = record.amount.isEmpty() ? record.sameAmount : record.amount;
         const numira::Money amount = amountOf(text, record.place);
         if (!record.sameAmount.isEmpty() && amountOf(record.sameAmount, record.place) != amount)

@@ -35,8 +35,8 @@ public:
             throw faults::otherCurrency(entry.place, foundation::toQString(entry.amount.code()),
                                         foundation::toQString(m_books.currency));
         if (entry.amount.isZero()) {
-            m_plan.notices.push_back(
-                {Kinds::Nothing, entry.place, QObject::tr("Entries of nothing are left out.")});
+            m_plan.notices.push_back({Kinds::Nothing, entry.place,
+                                      QObject::tr("Entries with amount zero are skipped.")});
             return;
         }
         PlannedEntry planned{std::move(entry), {}};
@@ -45,18 +45,16 @@ public:
         if (planned.entry.isTransfer && other == m_books.account) {
             m_plan.notices.push_back(
                 {Kinds::ToItself, planned.entry.place,
-                 QObject::tr("What moves from '%1' to itself, such as an opening balance, "
-                             "is left out.")
+                 QObject::tr("Entries from '%1' to itself are skipped, such as an opening balance.")
                      .arg(pathOf(other))});
             return;
         }
         planned.transaction = transactionOf(planned.entry, other);
         if (m_books.openedOn && planned.entry.date < *m_books.openedOn)
-            planned.notices.push_back(
-                {Kinds::BeforeOpening, planned.entry.place,
-                 QObject::tr("Some entries are older than the opening balance of %1, which "
-                             "may hold them already.")
-                     .arg(foundation::presentationText(*m_books.openedOn))});
+            planned.notices.push_back({Kinds::BeforeOpening, planned.entry.place,
+                                       QObject::tr("Some entries are older than the opening "
+                                                   "balance of %1, which may already include them.")
+                                           .arg(foundation::presentationText(*m_books.openedOn))});
         m_plan.entries.push_back(std::move(planned));
     }
 
@@ -67,11 +65,10 @@ public:
             planned.isDuplicate = duplicates.take(planned.transaction);
         for (PlannedEntry &planned : m_plan.entries) {
             if (!planned.isDuplicate && duplicates.takeTransfer(planned.transaction))
-                planned.notices.push_back(
-                    {Kinds::MaybeTransfer, planned.entry.place,
-                     QObject::tr("Line %1 may be a transfer that is there already, from "
-                                 "the statement of its other account.")
-                         .arg(planned.entry.place.line)});
+                planned.notices.push_back({Kinds::MaybeTransfer, planned.entry.place,
+                                           QObject::tr("Line %1 may be a transfer that the other "
+                                                       "account's statement already posted.")
+                                               .arg(planned.entry.place.line)});
         }
     }
 
@@ -98,7 +95,7 @@ private:
         if (entry.isTransfer)
             planned.notices.push_back(
                 {Kinds::OtherAccount, entry.place,
-                 QObject::tr("There is no account '%1'; what was moved there goes to '%2'.")
+                 QObject::tr("There is no account '%1'; its transfers are posted to '%2'.")
                      .arg(entry.category, pathOf(other))});
         return other;
     }
@@ -132,7 +129,9 @@ StatementPlan planStatement(Statement statement, const StatementBooks &books,
     Planner planner(books, choices);
     if (statement.pending > 0)
         planner.m_plan.notices.push_back(
-            {Kinds::Pending, {}, QObject::tr("Entries that are not booked yet are left out.")});
+            {Kinds::Pending,
+             {},
+             QObject::tr("Entries that the bank has not booked yet are skipped.")});
     for (StatementEntry &entry : statement.entries)
         planner.add(std::move(entry));
     planner.findDuplicates();

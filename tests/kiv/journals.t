@@ -13,10 +13,10 @@ automated transactions only in another notation:
   $ kiv new
   Made the empty budget 'household.budget'.
   $ kiv import manual.journal
-  Days in comments are left out; all of a transaction has its day.
-  Second days of transactions are left out.
+  Dates in comments are skipped; each posting has the date of its transaction.
+  Second dates of transactions are skipped.
   The postings of automated transactions are added.
-  Unbalanced virtual postings are kept against Equity:Virtual.
+  Unbalanced virtual postings are posted against Equity:Virtual.
   Transactions posted: 20; duplicates left out: 0; accounts opened: 18.
   $ own
   Assets:Checking  1366 USD
@@ -141,7 +141,7 @@ A journal is shown before it is posted:
   Transactions posted: 0; duplicates left out: 1; accounts opened: 0.
   This was a dry run: nothing is saved.
   $ echo 'include a.journal' | kiv import - --format journal
-  kiv: '-', line 1: 'a.journal' is not included: there is no such file.
+  kiv: '-', line 1: Cannot include 'a.journal': there is no such file.
   [1]
 
 Includes are followed within the journal's folder:
@@ -159,16 +159,16 @@ Includes are followed within the journal's folder:
   $ : >books.journal
   $ echo 'include ../books.journal' >books/all.journal
   $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: '../books.journal' is not included: it is outside of the journal's own folder.
+  kiv: 'books/all.journal', line 1: Cannot include '../books.journal': it is outside of the journal's own folder.
   [1]
   $ ln -s ../books.journal books/link.journal
   $ echo 'include link.journal' >books/all.journal
   $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: 'link.journal' is not included: it is outside of the journal's own folder.
+  kiv: 'books/all.journal', line 1: Cannot include 'link.journal': it is outside of the journal's own folder.
   [1]
   $ echo 'include all.journal' >books/all.journal
   $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: 'all.journal' is not included: files include each other too deeply.
+  kiv: 'books/all.journal', line 1: Cannot include 'all.journal': too many files include each other.
   [1]
 
 A journal of a gigabyte is refused at once:
@@ -195,14 +195,14 @@ What cannot be understood is refused, with its line, and so are options that do 
   >  Income:B
   > bucket Assets:A
   > .
-  kiv: 's.journal', line 4: 'bucket Assets:A' is neither a transaction nor a directive that can be imported; a ; at the beginning of the line leaves it out.
+  kiv: 's.journal', line 4: 'bucket Assets:A' is not a known transaction or directive; put ; before the line to skip it.
   [1]
   $ journal <<.
   > 2026-01-01 x
   >  A  \$1
   >  B
   > .
-  kiv: 's.journal', line 2: Accounts begin with Assets, Liabilities, Equity, Income or Expenses; tell what 'A' is with --root, like --root 'A=asset'.
+  kiv: 's.journal', line 2: 'A' is not a known top-level account; tell what it is with --root, like --root 'A=asset'.
   [1]
   $ journal <<.
   > 2026-01-01 x
@@ -215,13 +215,13 @@ What cannot be understood is refused, with its line, and so are options that do 
   kiv: 's.journal', line 4: The account '5 Gone' is closed.
   [1]
   $ echo 'include none.journal' | journal
-  kiv: 's.journal', line 1: 'none.journal' is not included: there is no such file.
+  kiv: 's.journal', line 1: Cannot include 'none.journal': there is no such file.
   [1]
   $ echo 'include *.journal' | journal
-  kiv: 's.journal', line 1: '*.journal' is not included: patterns are not followed; name each file.
+  kiv: 's.journal', line 1: Cannot include '*.journal': patterns are not followed; name each file.
   [1]
   $ echo 'include books' | journal
-  kiv: 's.journal', line 1: 'books' is not included: there is no such file.
+  kiv: 's.journal', line 1: Cannot include 'books': there is no such file.
   [1]
   $ kiv import s.journal --root Aktiva=fish
   kiv: 'fish' is none of: asset, equity, expense, liability, income.

@@ -12,9 +12,9 @@ Reports come in three forms, and as JSON.
   2026-01   $0.00  $1,250.00  $1,250.00  $1,250.00  $1,250.00
   2026-02   $0.00      $0.00  $1,250.00      $0.00  $1,250.00
   Budget against actual
-  Kind  Item    Planned a month  In 2026-02
-  bill  Rent          $1,250.00       $0.00
-  wage  Salary        $3,100.00       $0.00
+  Kind  Item    Planned per month  In 2026-02
+  bill  Rent            $1,250.00       $0.00
+  wage  Salary          $3,100.00       $0.00
   $ kiv report --from 2026-01-01 --to 2026-02-28 --json | jq -c '.currencies[], .items[]'
   {"currency":"USD","expenses":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"income":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"netWorth":[{"amount":"1250.00","currency":"USD"},{"amount":"1250.00","currency":"USD"}],"outgoing":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"planned":{"amount":"1250.00","currency":"USD"}}
   {"actual":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"kind":"bill","last":{"amount":"0.00","currency":"USD"},"name":"Rent","planned":{"amount":"1250.00","currency":"USD"}}

@@ -31,11 +31,11 @@ A statement is previewed, posted, and known again:
      3  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
      4  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
      6  2026-01-08  Refund       Assets:Checking  Expenses:Other      $20.00
-  Entries of nothing are left out.
+  Entries with amount zero are skipped.
   Transactions posted: 4; duplicates left out: 0; accounts opened: 0.
   This was a dry run: nothing is saved.
   $ first --json | jq -c 'del(.transactions), .transactions[]'
-  {"accounts":[],"duplicates":0,"notices":["Entries of nothing are left out."],"posted":4}
+  {"accounts":[],"duplicates":0,"notices":["Entries with amount zero are skipped."],"posted":4}
   {"amount":{"amount":"1012.50","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-05","debit":5,"debitPath":"Expenses:Food","debitStatus":"none","description":"REWE","duplicate":false,"line":2}
   {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":3}
   {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":4}
@@ -54,7 +54,7 @@ A third coffee is new; the other entries were there before:
   $ echo '06.01.2026;-3,00;Coffee' >>s.csv
   $ again() { kiv import s.csv --into Checking --against Other --profile mine "$@"; }
   $ again
-  Entries of nothing are left out.
+  Entries with amount zero are skipped.
   Transactions posted: 1; duplicates left out: 4; accounts opened: 0.
 
 What changes nothing is not saved, and keeps the former versions:
@@ -107,7 +107,7 @@ A transfer that both banks tell is told as one that may be there:
   Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
   $ moved 300 s9 'FROM CHECKING'
   $ kiv import moved.ofx --into Savings --against Checking --dry-run | tail -3
-  Line 1 may be a transfer that is there already, from the statement of its other account.
+  Line 1 may be a transfer that the other account's statement already posted.
   Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
   This was a dry run: nothing is saved.
   $ kiv import moved.ofx --into Savings --against Other --dry-run | tail -2
@@ -126,18 +126,18 @@ What is left out, or goes elsewhere than the file says, is told:
 
   $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep account
-  There is no account 'Visa'; what was moved there goes to 'Expenses:Other'.
+  There is no account 'Visa'; its transfers are posted to 'Expenses:Other'.
   Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
   $ printf '!Type:Bank\nD1/15/2026\nT9\nPOpening Balance\nL[Checking]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep itself
-  What moves from 'Assets:Checking' to itself, such as an opening balance, is left out.
+  Entries from 'Assets:Checking' to itself are skipped, such as an opening balance.
   $ printf 'Date,Text,Amount,State\n2026-02-01,Shop,-9,Pending\n' >pending.csv
   $ kiv import pending.csv --into Checking --against Other --save-profile mine
-  Entries that are not booked yet are left out.
+  Entries that the bank has not booked yet are skipped.
   Transactions posted: 0; duplicates left out: 0; accounts opened: 0.
   $ printf 'Date,Text,Amount\n2025-12-31,Old,-9\n2026-01-01,New,-9\n' >old.csv
   $ kiv import old.csv --into Checking --against Other
-  Some entries are older than the opening balance of 2026-01-01, which may hold them already.
+  Some entries are older than the opening balance of 2026-01-01, which may already include them.
   Transactions posted: 2; duplicates left out: 0; accounts opened: 0.
   $ kiv import old.csv --into Checking --against Other --profile mine
   Transactions posted: 0; duplicates left out: 2; accounts opened: 0.
@@ -146,7 +146,7 @@ A file that was cut off is not half a file:
 
   $ printf 'Date,Text,Amount,Balance\n2026-02-01,A,-5.00,95.00\n2026-02-02,B,-15' >cut.csv
   $ kiv import cut.csv --into Checking --against Other
-  kiv: 'cut.csv', line 3: The file ends within its last line; fetch it again, or end it with a line end.
+  kiv: 'cut.csv', line 3: The last line may be cut off; download the file again, or end it with a line break.
   [1]
 
 A profile is saved with the budget, or not at all:
@@ -179,13 +179,13 @@ What cannot be read is refused, with its line:
   >     kiv import "$1" --into Checking --against Salary
   > }
   $ sed '3s/STMTTRN>$/STMTRN>/' s.ofx | bank bad.ofx
-  kiv: 'bad.ofx', line 3: </STMTRN> stands where the <STMTTRN> of line 3 should be closed.
+  kiv: 'bad.ofx', line 3: </STMTRN> does not close <STMTTRN>, which opens on line 3.
   [1]
   $ sed 's/USD/EUR/' s.ofx | bank bad.ofx
-  kiv: 'bad.ofx', line 2: The amount is in EUR, and the account in USD.
+  kiv: 'bad.ofx', line 2: The amount is in EUR, but the account is in USD.
   [1]
   $ printf 'Date,Amount,Text\n2026-01-05,1,caf\351\n' | bank bad.csv
-  kiv: 'bad.csv', line 2: This is not valid UTF-8; name the file's encoding with --encoding.
+  kiv: 'bad.csv', line 2: The file is not valid UTF-8 here; name its encoding with --encoding.
   [1]
   $ echo x | bank s.bin
   kiv: What 's.bin' is cannot be told from its name; say it with --format: journal, csv, ofx or qif.

@@ -154,7 +154,7 @@ private:
         report.heading(QObject::tr("Budget against actual"))
             .table({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Item"), QStringLiteral("name")},
-                    {QObject::tr("Planned a month"), QStringLiteral("planned")},
+                    {QObject::tr("Planned per month"), QStringLiteral("planned")},
                     {QObject::tr("In %1").arg(labels.back()), QStringLiteral("last")}},
                    itemsJson(figures), QObject::tr("There are no budget items."));
     }

@@ -7,9 +7,12 @@
 
 namespace kiv::interchange {
 
-/// Everything for which data is refused; each sentence tells what could be done
-/// where that is not plain.
+/// The sentences with which the readers refuse data, one function for each. A sentence
+/// says what to do next where that is not obvious.
 namespace faults {
+
+/// A text of the file, shortened and without control characters, to stand in a sentence.
+[[nodiscard]] QString quoted(const QString &text);
 
 // ---- any file ----------------------------------------------------------------
 
@@ -56,6 +59,9 @@ namespace faults {
 [[nodiscard]] ImportError ambiguousMultiplier(const Place &place, const QString &text);
 [[nodiscard]] ImportError ambiguousRule(const Place &place, const QString &account);
 [[nodiscard]] ImportError tooManyRules(const Place &place, std::size_t most);
+[[nodiscard]] ImportError includeWithoutFolder(const Place &place, const QString &path);
+[[nodiscard]] ImportError includedTooDeeply(const Place &place, const QString &path);
+[[nodiscard]] ImportError tooManyIncludes(const Place &place, const QString &path, int most);
 
 // ---- bank statements ---------------------------------------------------------
 
@@ -90,12 +96,21 @@ namespace faults {
 [[nodiscard]] ImportError signUnknown(const Place &place, const QString &sign);
 [[nodiscard]] ImportError entryLeftOut(const Place &place);
 [[nodiscard]] ImportError rowCutOff(const Place &place);
+/// `what` is the name of a tag.
 [[nodiscard]] ImportError missingValue(const Place &place, const QString &what);
+[[nodiscard]] ImportError missingAmount(const Place &place);
+[[nodiscard]] ImportError missingDate(const Place &place);
 [[nodiscard]] ImportError ambiguousDates(const Place &place);
 /// An amount stands in another currency than the account that it is for.
 [[nodiscard]] ImportError otherCurrency(const Place &place, const QString &found,
                                         const QString &wanted);
-[[nodiscard]] ImportError badProfile(const Place &place, const QString &reason);
+
+// ---- profiles ----------------------------------------------------------------
+
+[[nodiscard]] ImportError profileNotJson(const Place &place, const QString &reason);
+[[nodiscard]] ImportError profileNotAnObject(const Place &place);
+[[nodiscard]] ImportError unknownProfileKey(const Place &place, const QString &key);
+[[nodiscard]] ImportError wrongProfileValue(const Place &place, const QString &key);
 
 // ---- OFX and QIF -------------------------------------------------------------
 
@@ -123,6 +138,11 @@ namespace faults {
 [[nodiscard]] ImportError entryCutOff(const Place &place);
 [[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,
                                        const QString &whole);
+
+// ---- reports -----------------------------------------------------------------
+
+[[nodiscard]] foundation::Error reportEndsFirst();
+[[nodiscard]] foundation::Error reportTooLong(int monthsMax);
 
 } // namespace faults
 

@@ -90,7 +90,7 @@ std::size_t JournalBooks::newAccount(const QString &name, const numira::Currency
         account.number = number->second;
     const std::size_t index = indexOf(std::move(account), whole);
     if (m_names[index] != whole && !std::exchange(m_hasJoined, true))
-        notice(QObject::tr("Some accounts become one, such as '%1' and '%2'.")
+        notice(QObject::tr("Some accounts are merged into one, such as '%1' and '%2'.")
                    .arg(foundation::escaped(m_names[index]), foundation::escaped(whole)));
     return index;
 }
@@ -113,7 +113,7 @@ JournalBooks::Booking JournalBooks::bookingOf(const Posting &posting)
     if (!currency && posting.cost) {
         kept = &*posting.cost;
         currency = currencyOf(kept->commodity);
-        notice(QObject::tr("What is no currency is kept at its cost."));
+        notice(QObject::tr("Commodities other than currencies are kept at their cost."));
     }
     if (!currency)
         throw faults::notMoney(posting.place, kept->commodity);
@@ -127,7 +127,7 @@ void JournalBooks::book(const Entry &entry)
     for (const Posting &posting : entry.postings) {
         Booking booking = bookingOf(posting);
         if (posting.kind == PostingKind::Virtual) {
-            notice(QObject::tr("Unbalanced virtual postings are kept against Equity:Virtual."));
+            notice(QObject::tr("Unbalanced virtual postings are posted against Equity:Virtual."));
             const numira::Money amount = booking.amount;
             settle(entry,
                    {std::move(booking),
@@ -221,7 +221,7 @@ void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, cons
         for (const QString &comment : *comments) {
             length += std::max(comment.size() + 1, lengthMin);
             if (length > commentsMax) {
-                notice(QObject::tr("Of long comments the beginning is kept."));
+                notice(QObject::tr("Long comments are cut off."));
                 break;
             }
             if (!comment.isEmpty() && !texts.contains(comment))

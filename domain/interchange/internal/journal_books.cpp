@@ -111,7 +111,7 @@ void JournalBooks::add(AutomatedEntry automated)
         if (posting.cost)
             throw faults::unsupported(posting.place, QStringLiteral("@"));
         if (!posting.amount)
-            throw faults::missingValue(posting.place, QObject::tr("amount"));
+            throw faults::missingAmount(posting.place);
     }
     m_rules.push_back(std::move(rule));
     for (const auto &[key, balance] : m_balances) {
@@ -200,7 +200,7 @@ void JournalBooks::fill(std::vector<Posting> &postings, const Place &place)
     }
     for (const Posting &posting : postings) {
         if (!posting.amount && posting.kind == PostingKind::Virtual)
-            throw faults::missingValue(posting.place, QObject::tr("amount"));
+            throw faults::missingAmount(posting.place);
     }
     std::erase_if(postings, [](const Posting &posting) { return !posting.amount; });
     std::ranges::move(filled, std::back_inserter(postings));
@@ -353,7 +353,7 @@ Draft JournalBooks::finish()
         (void)accountOf(account, currency, place);
     checkKinds();
     if (m_withoutEffect > 0)
-        notice(QObject::tr("%n transaction(s) that move nothing are left out.", nullptr,
+        notice(QObject::tr("%n transaction(s) that move no money are skipped.", nullptr,
                            m_withoutEffect));
     return std::move(m_draft);
 }

@@ -73,7 +73,7 @@ void JournalParser::takeDirective(Block &block)
     } else if (word == u"alias") {
         takeAlias(block.place, rest.section(u'=', 0, 0), rest.section(u'=', 1));
     } else if (word == u"P") {
-        m_sink.notice(QObject::tr("Market prices are left out; they change no balance."));
+        m_sink.notice(QObject::tr("Market prices are skipped; they change no balance."));
     } else if (word == u"decimal-mark" && (rest == u"." || rest == u",")) {
         m_settings.amounts.mark = static_cast<DecimalMark>(rest.front().unicode());
     } else if (ofYear.hasMatch()) {
@@ -139,15 +139,12 @@ void JournalParser::takeCommodity(Block &block, bool isDefault, const QString &s
 void JournalParser::takeInclude(const Block &block, const QString &path)
 {
     if (!m_options.include)
-        throw faults::includeRefused(block.place, path, QObject::tr("there is no folder for it"));
+        throw faults::includeWithoutFolder(block.place, path);
     if (m_settings.depth >= depthMax)
-        throw faults::includeRefused(block.place, path,
-                                     QObject::tr("files include each other too deeply"));
+        throw faults::includedTooDeeply(block.place, path);
     // Each of eight files may include the next one many times.
     if (++m_included > includesMax)
-        throw faults::includeRefused(
-            block.place, path,
-            QObject::tr("a journal includes no more than %1 files").arg(includesMax));
+        throw faults::tooManyIncludes(block.place, path, includesMax);
     const Settings outer = m_settings;
     ++m_settings.depth;
     parse(m_options.include(path, block.place), nameBeside(block.place.file, path));

@@ -127,7 +127,7 @@ try {
         takeAutomated(block);
     } else if (first == u'~') {
         (void)block.takeLines();
-        m_sink.notice(QObject::tr("Periodic transactions are left out."));
+        m_sink.notice(QObject::tr("Periodic transactions are skipped."));
     } else {
         takeDirective(block);
     }
@@ -172,7 +172,7 @@ void JournalParser::takeEntry(Block &block)
     if (rest.startsWith(u'=')) {
         rest = rest.sliced(1);
         (void)takeDate(rest, entry.date.year(), block.place);
-        m_sink.notice(QObject::tr("Second days of transactions are left out."));
+        m_sink.notice(QObject::tr("Second dates of transactions are skipped."));
     }
     if (!rest.isEmpty() && !rest.front().isSpace())
         throw faults::unknownDirective(block.place, block.head);
@@ -240,8 +240,8 @@ void JournalParser::noticeDays(const QString &comment)
 {
     static const QRegularExpression day(QStringLiteral("\\[=?[0-9]|(?:^|[\\s,])date2?:"));
     if (day.match(comment).hasMatch())
-        m_sink.notice(QObject::tr("Days in comments are left out; all of a transaction has its "
-                                  "day."));
+        m_sink.notice(QObject::tr(
+            "Dates in comments are skipped; each posting has the date of its transaction."));
 }
 
 Posting JournalParser::readPosting(const Place &place, QStringView line)
