@@ -4,8 +4,36 @@
 #include "support/comparison.h"
 #include "support/navigation.h"
 
-/// A survey in one line, short enough to be written down in a test.
 namespace kiv::test {
+
+/// The books with
+/// 6 Rent, a monthly bill of 10; 7 Tax, a yearly bill of 120 due 2026-03-31;
+/// 8 Work, a wage; 9 Trip, a goal of 100 under Checking, to which 10 a month go.
+struct SurveyBooks : Books {
+    surveying::CompletedSurveys completed;
+
+    SurveyBooks()
+    {
+        add<budgeting::Bill>("Rent");
+        items.add(item<budgeting::Bill>("Tax", usd("120"), budgeting::EventFrequency::Yearly,
+                                        day("2026-03-31")),
+                  *generator);
+        add<budgeting::Wage>("Work");
+        add<budgeting::Goal>("Trip");
+        putBelow(9, "Trip [Budget Item]", 1);
+    }
+    void putBelow(std::uint32_t number, const char *name, std::uint32_t parent)
+    {
+        ledger.recode(code(number, name), code(number, name, no(parent)));
+    }
+    accounting::TransactionNumber post(std::uint32_t debit, std::uint32_t credit,
+                                       const char *amount = "7", const char *date = "2026-03-15")
+    {
+        return ledger.post(transfer(no(debit), no(credit), usd(amount), day(date)));
+    }
+};
+
+// A survey in one line, short enough to be written down in a test.
 
 /// "Rent -1 +2, Tax -3", without the keys that have no changes.
 template <typename Changes, typename Name>

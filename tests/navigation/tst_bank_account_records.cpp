@@ -28,11 +28,6 @@ private slots:
                      record("B", 10, Checking, "JPY"), record("a", 1, Checking, "JPY")}),
                  u"");
         QCOMPARE(record("A", 1, Checking, "USD", "One"), record("A", 1, Checking, "USD", "Two"));
-        const BankAccountCode one = record("A", 1, Savings, "USD", "One");
-        QCOMPARE(one.bank(), bank("A"));
-        QCOMPARE(one.supportedAccountType(), Savings);
-        QCOMPARE(one.bankAccountType().number, one.account().number());
-        QCOMPARE(one.issuedIn(), numira::toCurrency("USD"));
     }
 
     void numbersMustAgree()

@@ -42,10 +42,9 @@ struct KindBooks : Books {
     }
     void remove(const char *name) { (items.*byKind<T>(removes))(source(name)); }
     void skip(const char *name) { (items.*byKind<T>(skips))(source(name)); }
-    auto process(const char *name, const numira::Money &amount, std::uint32_t bank = 1)
+    auto process(const char *name, const numira::Money &amount)
     {
-        return (items.*byKind<T>(processes))(source(name), code(bank, ""), amount,
-                                             day("2026-02-02"));
+        return (items.*byKind<T>(processes))(source(name), code(1, ""), amount, day("2026-02-02"));
     }
     /// The budget's own key of the only item: it goes with the item.
     [[nodiscard]] const budgeting::BudgetSource &ownKey() const
@@ -81,10 +80,6 @@ private slots:
             QCOMPARE(books.budget.items<T>().at(source("Rent")), item<T>("Rent"));
             QCOMPARE(books.items.budgetAccountCode<T>(source("Rent")), added);
             QCOMPARE(books.items.budgetAccountCodes().size(), 1u);
-            checkRefusals(books, {{[&] { books.add<T>("Rent"); },
-                                   "item Rent: The new budgeted money item source already exists."},
-                                  {[&] { books.add<T>(""); },
-                                   "item : The new budgeted money item source cannot be empty."}});
             const AccountNumber next = nextNumber(*books.generator, books.ledger);
             QCOMPARE(books.add<T>("Water").number(), next);
 
@@ -138,13 +133,9 @@ private slots:
             books.update("Rent", money("EUR", "20"));
             QCOMPARE(books.stored("Rent").amount(), money("EUR", "20"));
             QCOMPARE(books.balance(no(6)).abs(), money("EUR", isDebt<T> ? "47.50" : "2.50"));
-            checkRefusals(
-                books, {{[&] { books.update("Flat", usd("1")); },
-                         "item Flat: Cannot update a " + word<T> + " that does not exist."},
-                        {[&] { books.update("Rent", money("JPY", "1")); },
-                         "account 6 Rent [Budget Item]: The account '6 Rent [Budget Item]' cannot "
-                         "be kept in JPY, as the amount of its transaction 1 cannot be converted. "
-                         "Caused by: no rate"}});
+            QVERIFY(refusal(books, [&] {
+                        books.update("Rent", money("JPY", "1"));
+                    }).endsWith(u"Caused by: no rate"));
         });
     }
 
@@ -178,12 +169,6 @@ private slots:
             QVERIFY(!books.ledger.hasLedger(no(6)));
             QCOMPARE(books.budget.template items<T>().sources(), std::set{source("Home")});
             QCOMPARE(books.items.budgetAccountCodes().size(), 1u);
-            checkRefusals(books, {{[&] { books.rename("Home", "Home"); },
-                                   "item Home: Cannot rename the budgeted money item source, as "
-                                   "the new source, Home, already exists."},
-                                  {[&] { books.rename("Rent", "Flat"); },
-                                   "item Rent: Cannot rename the budgeted money item source as it "
-                                   "does not exist."}});
         });
     }
 
@@ -212,10 +197,6 @@ private slots:
             (books.items.*byKind<T>(removes))(books.ownKey());
             QVERIFY(books.budget.isEmpty() && books.items.isEmpty());
             QVERIFY(!books.ledger.hasLedger(no(6)));
-            checkRefusals(books,
-                          {{[&] { books.remove("Rent"); },
-                            "item Rent: Cannot remove a " + word<T> + " that does not exist."}});
-
             const AccountNumber own = books.template add<T>("Rent").number();
             books.spend(own, "20");
             if (budgeting::BankTiedItem<T>) {
@@ -229,17 +210,6 @@ private slots:
             QVERIFY(books.ledger.ledger(own).isClosed());
             QVERIFY(books.budget.isEmpty() && books.items.isEmpty());
         });
-    }
-
-    void anItemStaysWhenItsAccountCannotGo()
-    {
-        KindBooks<Bill> books;
-        books.add<Bill>("Rent");
-        books.spend(no(6));
-        books.ledger.close(no(6));
-        checkRefusals(books, {{[&] { books.remove("Rent"); },
-                               "account 6 Rent [Budget Item]: The account '6 Rent [Budget Item]' "
-                               "is closed."}});
     }
 
     // ---- look-ups --------------------------------------------------------------
@@ -280,7 +250,7 @@ private slots:
                  u"The budget item 'Rent (unknown)' is not a known type that is a budget money!");
     }
 
-    // ---- construction, comparison, text form -----------------------------------
+    // ---- construction, comparison -----------------------------------
 
     void constructionChecksTheCodes_data() { addKindRows(); }
     void constructionChecksTheCodes()
@@ -307,20 +277,16 @@ private slots:
         });
     }
 
-    void comparesAndDumpsByContent()
+    void comparesByContent()
     {
         Books a, b;
-        a.add<Bill>("Re\nnt");
+        a.add<Bill>("Rent");
         QVERIFY(a.items != b.items);
-        b.add<Bill>("Re\nnt");
+        b.add<Bill>("Rent");
         QVERIFY(a.items == b.items);
         b.items.clearCodes();
         QVERIFY(a.items != b.items);
         QVERIFY(b.items.isEmpty() && a.budget == b.budget);
-        QCOMPARE(dump(a.items),
-                 QStringLiteral("Budget (%1), General Ledger (%2), Budget-Account ISO-4217 Codes "
-                                "(Type-Keys (%3[Re\\u{000A}nt=>6]))")
-                     .arg(dump(a.budget), dump(a.ledger), QLatin1String(typeid(Bill).name())));
     }
 
     // ---- posting ---------------------------------------------------------------
@@ -346,29 +312,20 @@ private slots:
             books.skip("Rent");
             QCOMPARE(books.stored("Rent").nextOccurOn(), day("2026-03-31"));
             QCOMPARE(books.ledger, before);
-            checkRefusals(books, {{[&] { books.skip("Flat"); }, "out of range"}});
-            QVERIFY(refusal(books, [&] {
-                        books.process("Flat", usd("1"));
-                    }).startsWith(u"Failed to find a non-mutable value"));
         });
     }
 
-    void processIsRefused()
+    void whatCannotBeMovedOnIsNotPosted()
     {
         KindBooks<Bill> books;
         books.add<Bill>("Rent");
-        const auto refused = [&](std::uint32_t bank, const char *amount) {
-            return refusal(books, [&] { books.process("Rent", usd(amount), bank); });
-        };
-        QCOMPARE(refused(77, "1"), u"account 77: There is no account with the number 77.");
-        QVERIFY(refused(1, "0.005").startsWith(u"transaction 0: The amount of"));
-        // It cannot be moved on, so the posting is taken back.
+        const auto post = [&] { books.process("Rent", usd("1")); };
         books.items.update(item<Bill>("Rent", usd("1"), EventFrequency::None), *books.generator);
-        QCOMPARE(refused(1, "1"), answer([] {
+        QCOMPARE(refusal(books, post), answer([] {
                      item<Bill>("", usd("1"), EventFrequency::None).updateNextOccurOn();
                  }));
         books.budget.bills.remove(source("Rent"));
-        QCOMPARE(refused(1, "1"), u"out of range");
+        QCOMPARE(refusal(books, post), u"out of range");
     }
 
     void anUnexpectedAmountLeavesTheDateAlone()
@@ -390,15 +347,6 @@ private slots:
         QCOMPARE(earned.crediting().number(), no(7));
         QCOMPARE(*earned.description(), u"Processed unexpected budget item 'Work'.");
         QCOMPARE(books.budget, before);
-        const std::string missing = ": Failed to locate the unexpected budget item source to post.";
-        checkRefusals(
-            books, {{[&] { unexpected(BudgetItemTypes::None, "Rent"); },
-                     "item Rent: Cannot process unexpected budget item that has an unknown type."},
-                    {[&] { unexpected(BudgetItemTypes::Debt, "Rent"); }, "item Rent" + missing},
-                    {[&] { unexpected(BudgetItemTypes::Bill, "Work"); }, "item Work" + missing},
-                    {[&] { unexpected(BudgetItemTypes(6), "Rent"); },
-                     "logic: The Budget Item Type is not implemented for processing unexpected "
-                     "budget items."}});
     }
 };
 

@@ -6,7 +6,6 @@
 #include "navigation/internal/surveyed_changes.h"
 
 #include "navigation/survey_text.h"
-#include "support/message_log.h"
 
 using namespace kiv;
 using namespace kiv::test;
@@ -22,31 +21,9 @@ using enum BankAccountTypes;
 
 namespace {
 
-/// The books with
-/// 6 Rent, a monthly bill of 10; 7 Tax, a yearly bill of 120 due 2026-03-31;
-/// 8 Work, a wage; 9 Trip, a goal of 100 under Checking, to which 10 a month go.
-struct SurveyBooks : Books {
-    surveying::CompletedSurveys completed;
+struct MappedBooks : SurveyBooks {
     QDate today = day("2026-03-31");
 
-    SurveyBooks()
-    {
-        add<Bill>("Rent");
-        items.add(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, day("2026-03-31")),
-                  *generator);
-        add<Wage>("Work");
-        add<Goal>("Trip");
-        putBelow(9, "Trip [Budget Item]", 1);
-    }
-    void putBelow(std::uint32_t number, const char *name, std::uint32_t parent)
-    {
-        ledger.recode(code(number, name), code(number, name, no(parent)));
-    }
-    accounting::TransactionNumber post(std::uint32_t debit, std::uint32_t credit,
-                                       const char *date = "2026-03-15")
-    {
-        return ledger.post(transfer(no(debit), no(credit), usd("7"), day(date)));
-    }
     [[nodiscard]] MappingSurvey surveyOf(const BankAccount &account,
                                          const char *date = "2026-03-31") const
     {
@@ -64,40 +41,9 @@ class MapSurveyTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void isRefused()
-    {
-        SurveyBooks books;
-        BudgetBankLedgers all = whole(books);
-        const QDate today = foundation::today();
-        const auto survey = [&](const char *name, std::uint32_t number, const char *date) {
-            return [=, &books] { (void)books.surveyOf(at(name, number, Checking), date); };
-        };
-        const auto create = [&](const char *name, std::uint32_t number, const QDate &date) {
-            return [=, &all] { (void)all.createMapSurvey(bank(name), no(number), date); };
-        };
-        const std::string noBank =
-            "bank Third: Cannot perform a mapping survey upon a bank that does not exist.";
-        checkRefusals(
-            books,
-            {{survey("Third", 77, "2026-04-01"), noBank},
-             {survey("First", 77, "2026-04-01"),
-              "survey First 77 (checking): Cannot perform a mapping survey for a future date, "
-              "2026-04-01."},
-             {survey("First", 77, "2026-03-31"),
-              "account 77: Cannot map a survey for a bank account that does not exist."}});
-        checkRefusals(all,
-                      {{create("First", 1, today), "accepted"},
-                       {create("Third", 77, today), noBank},
-                       {create("First", 77, today),
-                        "account 77: Cannot perform a mapping survey upon an account that does not "
-                        "exist."},
-                       {create("Second", 1, today), "out of range"}});
-        QVERIFY(answer(create("First", 1, today.addDays(1))).startsWith(u"survey First 1"));
-    }
-
     void changesCountFromTheLastReconciliation()
     {
-        SurveyBooks books;
+        MappedBooks books;
         QCOMPARE(books.checking("2026-03-31").startOn(), day("2026-02-01"));
         QCOMPARE(books.checking("2026-01-01").startOn(), day("2025-12-01"));
         QCOMPARE(
@@ -147,7 +93,7 @@ private slots:
         QFETCH(std::uint32_t, surveyed);
         QFETCH(std::uint32_t, debit);
         QFETCH(std::uint32_t, credit);
-        SurveyBooks books;
+        MappedBooks books;
         books.putBelow(4, "Loan", 3);
         books.post(debit, credit);
         const State before = stateOf(books);
@@ -162,14 +108,14 @@ private slots:
     void onlyWhatIsOpenOnTheDayCounts()
     {
         const auto told = [](auto &&change) {
-            SurveyBooks books;
+            MappedBooks books;
             change(books);
             return test::told(books.checking());
         };
         const QString nothing = QStringLiteral("0.00; ; ; Tax 10.00, Trip 0.00");
         const QString paid = QStringLiteral("-7.00; ; Food -1; Tax 10.00, Trip 0.00");
-        QCOMPARE(told([](auto &b) { b.post(5, 1, "2026-03-31"); }), paid);
-        QCOMPARE(told([](auto &b) { b.post(5, 1, "2026-04-01"); }), nothing);
+        QCOMPARE(told([](auto &b) { b.post(5, 1, "7", "2026-03-31"); }), paid);
+        QCOMPARE(told([](auto &b) { b.post(5, 1, "7", "2026-04-01"); }), nothing);
         QCOMPARE(told([](auto &b) { b.ledger.reconcile(b.post(5, 1), no(1)); }), nothing);
         QCOMPARE(told([](auto &b) { b.ledger.reconcile(b.post(5, 1), no(5)); }), paid);
         // What the last survey set aside goes on, but not what another account's did.
@@ -187,7 +133,7 @@ private slots:
 
     void whatTheLedgerNeverGives()
     {
-        SurveyBooks books;
+        MappedBooks books;
         books.items.add(item<Goal>("Rome"), *books.generator); // 10
         const SurveyedAccounts accounts{at("First", 1, Checking), {no(2), no(9)}};
         const SurveyedAccounts card{at("First", 3, CreditCard), {}};
@@ -222,7 +168,7 @@ private slots:
     void amountsCountInTheCurrencyOfTheirAccount()
     {
         installRates();
-        SurveyBooks books;
+        MappedBooks books;
         books.items.update(item<Bill>("Tax", money("EUR", "120"), EventFrequency::Yearly),
                            *books.generator);
         books.ledger.post(transfer(no(7), no(1), money("EUR", "5"), day("2026-03-15")));
@@ -247,7 +193,7 @@ private slots:
     void anItemIsExpectedForEveryOccurrence()
     {
         QFETCH(QDate, next);
-        SurveyBooks books;
+        MappedBooks books;
         books.items.update(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, next),
                            *books.generator);
         // Of a goal it is the target that is expected.
@@ -262,7 +208,7 @@ private slots:
 
     void monthsAddUpSinceTheLastReconciliation()
     {
-        SurveyBooks books;
+        MappedBooks books;
         books.completed.upsert(survey(at("First", 1, Checking), {id<Bill>("Tax")}));
         const auto aside = [&](const char *date) {
             books.today = day(date);
@@ -276,7 +222,7 @@ private slots:
 
     void whatIsDueEachMonthIsSummedUp()
     {
-        SurveyBooks books;
+        MappedBooks books;
         const auto due = [&](const char *date, const char *today) {
             books.today = day(today);
             return books.checking(date).amountDue();
@@ -291,34 +237,6 @@ private slots:
         QCOMPARE(due("2026-02-28", "2026-02-28"), usd("22"));
         QCOMPARE(due("2026-01-30", "2026-01-30"), usd("20"));
         QCOMPARE(due("2025-12-31", "2025-12-31"), usd("0"));
-    }
-
-    void theWayIsLogged()
-    {
-        SurveyBooks books;
-        books.items.removeWage(source("Work"));
-        books.items.removeGoal(source("Trip"));
-        books.post(5, 1);
-        books.post(5, 2);
-        books.completed.upsert(survey(at("First", 1, Savings), {id<Bill>("Tax")}));
-        books.putBelow(7, "Tax [Budget Item]", 6);
-        MessageLog log;
-        (void)books.checking();
-        QCOMPARE(log.text(),
-                 u"Generating mapping survey for First 1 (checking) on QDate(\"2026-03-31\")\n"
-                 "Calculating expected balance from QDate(\"2026-01-31\")\n"
-                 "It has been 2 since the last reconciliation calculation.\n"
-                 "There are 1 children under the bank account.\n"
-                 "Ignoring non-distributable budget item Rent (bill)\n"
-                 "Will remove distributable budget item Tax (bill) it's a child account "
-                 "7 Tax [Budget Item] under 6\n"
-                 "Will remove distributable budget item Tax (bill) as it's already distributed in "
-                 "another bank account.\n"
-                 "Processing bank ledger transactions.\n"
-                 "Processing ledger transaction # 1\n"
-                 "Processing child ledger 2\n"
-                 "Processing child ledger transaction # 2");
-        QCOMPARE(log.debugs().size(), 2);
     }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "navigator_desk.h"
+#include "navigator_requests.h"
 
 #include "conversion/currency_converter.h"
 
@@ -21,18 +21,12 @@ private slots:
         CurrencyConverter::updateCache({});
     }
 
-    void savesUnderANameWithItsExtension_data();
-    void savesUnderANameWithItsExtension();
     void loadingReplacesEverything();
-    void failedLoadChangesNothing_data();
     void failedLoadChangesNothing();
     void failedReloadLeavesAnEmptyBudget();
-    void failedSaveLeavesTheBudgetChanged_data();
     void failedSaveLeavesTheBudgetChanged();
-    void clearingSparesTheReconciledSide_data();
     void clearingSparesTheReconciledSide();
     void transferIsDatedToday();
-    void addedBankAccountReturnsItsCode();
     void viewsMayChangeWhatTheyDraw();
     void viewsMayLetGoOfWhatTheyHandedIn();
     void storesEditedRates();
@@ -48,10 +42,10 @@ namespace {
 
 const QString home = QStringLiteral("home.budget");
 
-void addBill(Desk &desk, const char *name)
+/// Makes requests whose answers do not matter.
+void ask(Desk &desk, const char *requests)
 {
-    const auto bill = item<budgeting::Bill>(name);
-    desk.navigator->onAdded(element(), budgeting::BudgetItemTypes::Bill, bill, {}, tagged(bill));
+    requestOf(QString::fromLatin1(requests))(*desk.navigator);
     (void)desk.take();
 }
 
@@ -68,50 +62,14 @@ void breakAccess(Desk &desk, const QString &broken)
 
 } // namespace
 
-void NavigatorEffects::savesUnderANameWithItsExtension_data()
-{
-    QTest::addColumn<QString>("asked");
-    QTest::addColumn<QString>("stored");
-    QTest::newRow("as it is") << "a.budget"
-                              << "a.budget";
-    QTest::newRow("without") << "a"
-                             << "a.budget";
-    QTest::newRow("another") << "a.txt"
-                             << "a.txt.budget";
-    QTest::newRow("capitals") << "a.BUDGET"
-                              << "a.BUDGET.budget";
-}
-
-void NavigatorEffects::savesUnderANameWithItsExtension()
-{
-    QFETCH(const QString, asked);
-    QFETCH(const QString, stored);
-    Desk desk;
-    addBill(desk, "Rent");
-    desk.navigator->onSaveAsBudgetFile(asked);
-    QCOMPARE(desk.take(),
-             QStringList({QStringLiteral("- User selected the file-name \"%1\" to store the budget "
-                                         "under.")
-                              .arg(stored),
-                          QStringLiteral("savedBudgetFile(\"%1\")").arg(stored)}));
-    QVERIFY(desk.disk->files.contains(stored));
-    QVERIFY(!desk.isChanged());
-    // The name is kept with its extension, and the rates are stored too.
-    QVERIFY(desk.disk->rates.has_value());
-    addBill(desk, "Gas");
-    desk.navigator->onSaveBudgetFile();
-    QCOMPARE(desk.take().value(0), QStringLiteral("- Handling Save Budget to \"%1\"").arg(stored));
-    QCOMPARE(desk.disk->files.at(stored).budget.bills.size(), std::size_t(2));
-}
-
 void NavigatorEffects::loadingReplacesEverything()
 {
     Desk desk;
     desk.furnish();
     const auto saved = desk.save();
     desk.navigator->onConfirmedNewBudgetEmpty();
-    addBill(desk, "Gas");
-    addBill(desk, "Rent"); // without the tags that it has in the file
+    // Rent without the tags that it has in the file.
+    ask(desk, "Added(bill Gas); Added(bill Rent)");
     desk.navigator->onConfirmedLoadBudgetFile(home, false);
     QCOMPARE(desk.take(),
              texts({"- Loading Budget: \"home.budget\"", "- Successfully loaded budget.",
@@ -120,26 +78,19 @@ void NavigatorEffects::loadingReplacesEverything()
     QVERIFY(desk.save("copy.budget") == saved);
 }
 
-void NavigatorEffects::failedLoadChangesNothing_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("no such file") << "gone.budget";
-    QTest::newRow("an item that names no account") << "broken.budget";
-}
-
 void NavigatorEffects::failedLoadChangesNothing()
 {
-    QFETCH(const QString, path);
     Desk desk;
     desk.furnish();
     auto broken = desk.save();
     broken.budgetAccountCodes.insertOrAssign<budgeting::Bill>(source("Nothing"), no(99));
     broken.itemTags = {};
     desk.disk->files.insert_or_assign(QStringLiteral("broken.budget"), broken);
-    addBill(desk, "Gas");
+    ask(desk, "Added(bill Gas)");
 
-    QVERIFY_THROWS_EXCEPTION(foundation::Error,
-                             desk.navigator->onConfirmedLoadBudgetFile(path, false));
+    // An item names an account that is not there.
+    QVERIFY_THROWS_EXCEPTION(foundation::Error, desk.navigator->onConfirmedLoadBudgetFile(
+                                                    QStringLiteral("broken.budget"), false));
     QVERIFY(!desk.take().join(u'\n').contains(QStringLiteral("loadedBudgetFile")));
     QVERIFY(desk.isChanged());
     // Saving still goes to the file that is open, with its tags.
@@ -161,61 +112,48 @@ void NavigatorEffects::failedReloadLeavesAnEmptyBudget()
     QVERIFY(desk.save("copy.budget").generalLedger.isEmpty());
 }
 
-void NavigatorEffects::failedSaveLeavesTheBudgetChanged_data()
-{
-    QTest::addColumn<QString>("broken");
-    QTest::addColumn<bool>("isStored");
-    QTest::newRow("budget") << "store budget" << false;
-    // Saved, but counted as changed: saving once more is the safe side.
-    QTest::newRow("rates") << "store rates" << true;
-}
-
 void NavigatorEffects::failedSaveLeavesTheBudgetChanged()
 {
-    QFETCH(const QString, broken);
-    QFETCH(const bool, isStored);
-    Desk desk;
-    desk.furnish();
-    addBill(desk, "Gas");
-    breakAccess(desk, broken);
-    const QString other = QStringLiteral("other.budget");
-    QVERIFY_THROWS_EXCEPTION(storage::StorageError, desk.navigator->onSaveAsBudgetFile(other));
-    QVERIFY(desk.isChanged());
-    QCOMPARE(desk.disk->files.contains(other), isStored);
-    // The next save goes where the budget is.
-    desk.disk->before = [](const QString &) {};
-    desk.navigator->onSaveBudgetFile();
-    QCOMPARE(desk.take().last(),
-             QStringLiteral("savedBudgetFile(\"%1\")").arg(isStored ? other : home));
-}
-
-void NavigatorEffects::clearingSparesTheReconciledSide_data()
-{
-    QTest::addColumn<quint32>("reconciled");
-    QTest::addColumn<QString>("statuses");
-    QTest::newRow("debit") << 3U << QStringLiteral("reconciled, cleared");
-    QTest::newRow("credit") << 1U << QStringLiteral("cleared, reconciled");
-    QTest::newRow("neither") << 0U << QStringLiteral("cleared, cleared");
+    // Without the rates it is saved, but counts as changed: to save once more is safe.
+    for (const bool isStored : {false, true}) {
+        Desk desk;
+        desk.furnish();
+        ask(desk, "Added(bill Gas)");
+        breakAccess(desk,
+                    isStored ? QStringLiteral("store rates") : QStringLiteral("store budget"));
+        const QString other = QStringLiteral("other.budget");
+        QVERIFY_THROWS_EXCEPTION(storage::StorageError, desk.navigator->onSaveAsBudgetFile(other));
+        QVERIFY(desk.isChanged());
+        QCOMPARE(desk.disk->files.contains(other), isStored);
+        // The next save goes where the budget is, with its rates.
+        desk.disk->before = [](const QString &) {};
+        desk.disk->rates.reset();
+        desk.navigator->onSaveBudgetFile();
+        QCOMPARE(desk.take().last(),
+                 QStringLiteral("savedBudgetFile(\"%1\")").arg(isStored ? other : home));
+        QVERIFY(!desk.isChanged() && desk.disk->rates);
+    }
 }
 
 void NavigatorEffects::clearingSparesTheReconciledSide()
 {
-    QFETCH(const quint32, reconciled);
-    QFETCH(const QString, statuses);
-    Desk desk;
-    desk.furnish();
-    const QString path = QStringLiteral("home.budget");
-    if (reconciled != 0)
-        desk.disk->files.at(path).generalLedger.reconcile(txn(2), no(reconciled));
-    desk.navigator->onLoadBudgetFile(path);
-    (void)desk.take();
-
-    desk.navigator->onMarkCleared({txn(2)});
-    QCOMPARE(desk.take(), texts({"transactionSaveSucceeded(2, 2) *"}));
-    const auto cleared = desk.save().generalLedger.lookUpTransaction(txn(2)).value();
-    QCOMPARE(QStringLiteral("%1, %2").arg(toQString(cleared.debitStatus()),
-                                          toQString(cleared.creditStatus())),
-             statuses);
+    const std::map<quint32, QString> rows{{0U, QStringLiteral("cleared, cleared")},
+                                          {1U, QStringLiteral("cleared, reconciled")},
+                                          {3U, QStringLiteral("reconciled, cleared")}};
+    for (const auto &[reconciled, statuses] : rows) {
+        Desk desk;
+        desk.furnish();
+        if (reconciled != 0)
+            desk.disk->files.at(home).generalLedger.reconcile(txn(2), no(reconciled));
+        desk.navigator->onLoadBudgetFile(home);
+        (void)desk.take();
+        desk.navigator->onMarkCleared({txn(2)});
+        QCOMPARE(desk.take(), texts({"transactionSaveSucceeded(2, 2) *"}));
+        const auto cleared = desk.save().generalLedger.lookUpTransaction(txn(2)).value();
+        QCOMPARE(QStringLiteral("%1, %2").arg(toQString(cleared.debitStatus()),
+                                              toQString(cleared.creditStatus())),
+                 statuses);
+    }
 }
 
 void NavigatorEffects::transferIsDatedToday()
@@ -228,25 +166,6 @@ void NavigatorEffects::transferIsDatedToday()
     QCOMPARE(posted, accounting::Transaction(foundation::today(), code(4, "Savings", no(1)),
                                              code(1, "Checking"), usd("5"), QStringLiteral("Back"),
                                              txn(4)));
-}
-
-void NavigatorEffects::addedBankAccountReturnsItsCode()
-{
-    Desk desk;
-    const auto add = [&](const char *name) {
-        return desk.navigator->onAddedBankAccount(QString::fromUtf8(name), BankAccountTypes::Cash,
-                                                  usd("1"));
-    };
-    QCOMPARE(add("Purse"), std::optional(code(1, "Purse")));
-    const auto bill = item<budgeting::Bill>("Rent");
-    QVERIFY(desk.navigator->onAdded(element(), budgeting::BudgetItemTypes::Bill, bill, {},
-                                    tagged(bill)));
-    QCOMPARE(add("Rent"), std::nullopt);
-    // The number of the refused one was given back.
-    QCOMPARE(add("Box"), std::optional(code(4, "Box")));
-    // The number of one that was there is not.
-    desk.navigator->onRemovedBankAccount(code(4, "Box"));
-    QCOMPARE(add("Bag"), std::optional(code(5, "Bag")));
 }
 
 void NavigatorEffects::viewsMayChangeWhatTheyDraw()
@@ -267,7 +186,7 @@ void NavigatorEffects::viewsMayChangeWhatTheyDraw()
             drawn.append(name.institution());
         }
     });
-    addBill(desk, "Gas");
+    ask(desk, "Added(bill Gas)");
     n.onPrepareShowBills();
     n.onPrepareShowBanks();
     QCOMPARE(drawn, texts({"Gas", "Rent", "First"}));
@@ -356,20 +275,17 @@ void NavigatorEffects::storesEditedRates()
 
 void NavigatorEffects::aFailedSurveyThatPostedIsAChange()
 {
-    using budgeting::BudgetItemTypes;
     Desk desk;
     desk.furnish();
-    const auto complete = [&](const budgeting::BudgetItemIdentifier &unknown) {
-        desk.navigator->onCompletedSurvey(
-            day("2999-12-31"), {bankName("First"), {no(1), BankAccountTypes::Checking}},
-            usd("2492"), {txn(1), txn(2), txn(3)},
-            {{{{BudgetItemTypes::Bill, source("Rent")}, usd("1")}, {unknown, usd("1")}}, {}}, {},
-            {}, usd("0"));
+    const auto complete = [&](const QString &unknown) {
+        requestOf(QStringLiteral("CompletedSurvey(2999-12-31, First 1 checking, 2492, 1 2 3, "
+                                 "bill Rent +1 & %1 Gone +1)")
+                      .arg(unknown))(*desk.navigator);
         QVERIFY(desk.take().last().startsWith(QStringLiteral("completedSurveyFailed(")));
     };
-    complete({BudgetItemTypes::Bill, source("Gone")});
+    complete(QStringLiteral("bill"));
     QVERIFY(!desk.isChanged()); // refused before Rent's turn to be posted
-    complete({BudgetItemTypes::Nontrack, source("Gone")});
+    complete(QStringLiteral("nontrack"));
     QVERIFY(desk.isChanged());
 }
 
@@ -377,21 +293,8 @@ void NavigatorEffects::wizardBuildsABudget()
 {
     Desk desk;
     desk.furnish();
-    desk.navigator->onCompletedNewBudgetFirstTimeWizard(
-        numira::toCurrency("EUR"), {numira::toCurrency("EUR"), numira::toCurrency("GBP")},
-        navigation::CurrencyDisplayOptions::IsoCode, bankName("Bank"), BankAccountTypes::Checking,
-        QStringLiteral("Daily"), money("EUR", "100"),
-        navigation::BudgetWizardTemplates::AdultSingle);
-    QStringList said = desk.take();
-    QCOMPARE(said.mid(0, 6),
-             texts({"- Clearing the budget values to show the new empty budget.", "showNewBudget()",
-                    "- Added account \"Daily\" opening balance in 1",
-                    "bankAccountSaveSucceeded(1 Daily) *",
-                    "- Successfully added bank Bank [1=>checking]", "bankSaveSucceeded(Bank) *"}));
-    QCOMPARE(said.last(), QStringLiteral("showNewBudget()"));
-    QVERIFY(desk.isChanged());
-
-    QStringList tied;
+    ask(desk, "CompletedNewBudgetFirstTimeWizard(EUR, EUR GBP, 0, Bank, checking, Daily, 100 EUR, "
+              "single)");
     connect(desk.navigator.get(), &Navigator::showGoals, this,
             [&](const auto &goals, const auto &accounts, const auto &, const auto &,
                 const numira::Currency &preferred, const auto &, const auto &,

@@ -39,8 +39,8 @@ private:
     std::optional<QString> m_thrown;
 };
 
-/// All requests, those to the network as well. Left out are the few whose first
-/// step is silent, so that nobody can tell where it ends.
+/// The requests, those to the network as well. Left out are the few whose first step is
+/// silent, so that nobody can tell where it ends, and the "more" that take the same ways.
 [[nodiscard]] Rows rigRequests();
 
 } // namespace kiv::test
