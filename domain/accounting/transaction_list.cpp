@@ -86,7 +86,8 @@ TransactionList::const_iterator TransactionList::const_iterator::operator++(int)
 
 bool operator==(const TransactionList &a, const TransactionList &b)
 {
-    return a.m_account == b.m_account ||
+    // Ledgers share an account that did not change itself, though its transactions did.
+    return (a.m_account == b.m_account && a.m_state == b.m_state) ||
            (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), b.end()));
 }
 
