@@ -1,38 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "sample_book.h"
+#include "ledger_book.h"
+
+#include "support/comparison.h"
 
 #include "accounting/balances.h"
+#include "accounting/internal/number_set.h"
 
-#include <sstream>
+#include <random>
 
 using namespace kiv::test;
 using kiv::foundation::Percentage;
+using enum AccountTypes;
 using enum TransactionStatuses;
 
 namespace {
 
-/// Checks all comparisons of every pair of values that are given in ascending
-/// order and differ.
-template <typename T>
-bool areInOrder(const std::vector<T> &values)
-{
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        for (std::size_t j = 0; j < values.size(); ++j) {
-            if ((values[i] <=> values[j]) != (i <=> j) || (values[i] == values[j]) != (i == j))
-                return false;
-        }
-    }
-    return true;
-}
+using internal::NumberSet;
 
-template <typename T>
-QString text(const T &value)
+/// Whether the numbers are those, however they are asked for.
+bool areThose(const NumberSet &numbers, const std::set<TransactionNumber> &expected)
 {
-    std::ostringstream out;
-    out << value;
-    return QString::fromStdString(out.str());
+    std::vector<TransactionNumber> walked;
+    for (auto number = numbers.next({}); number.isValid(); number = numbers.next(number))
+        walked.push_back(number);
+    NumberSet anew;
+    TransactionNumber free(1);
+    for (const TransactionNumber number : expected) {
+        if (!numbers.contains(number))
+            return false;
+        anew.insert(number);
+        if (number == free)
+            free = txn(static_cast<std::uint16_t>(free.integer() + 1));
+    }
+    const bool isEqual = numbers == anew && anew == numbers;
+    if (!expected.empty()) {
+        // As many, and the same highest one, but another below it.
+        anew.remove(*expected.begin());
+        anew.insert(free);
+    }
+    return std::ranges::equal(walked, expected) && numbers.count() == expected.size() &&
+           numbers.highest() == (expected.empty() ? txn(0) : *expected.rbegin()) &&
+           numbers.lowestFree() == free && !numbers.contains(free) && isEqual &&
+           (numbers == anew) == (expected.empty() || *expected.begin() == free);
 }
 
 } // namespace
@@ -45,122 +56,108 @@ private slots:
 
     void valuesAreOrdered()
     {
-        QVERIFY(areInOrder<AccountCode>({{},
-                                         {u"Z"_qs, {}},
-                                         {no(1), {}},
-                                         {no(1), u"A"_qs, {}},
-                                         {no(1), u"A"_qs, no(3)},
-                                         {no(1), u"A"_qs, no(4)},
-                                         {no(1), u"Z"_qs, {}},
-                                         {no(1), u"a"_qs, {}},
-                                         {no(1), u"ä"_qs, {}},
-                                         {no(2), {}}}));
+        const std::vector<AccountCode> codes{{},
+                                             {u"Z"_qs, {}},
+                                             {no(1), {}},
+                                             {no(1), u"A"_qs, {}},
+                                             {no(1), u"A"_qs, no(3)},
+                                             {no(1), u"A"_qs, no(4)},
+                                             {no(1), u"ä"_qs, {}},
+                                             {no(2), {}}};
+        QCOMPARE(comparisonFault(codes), QString());
+        QCOMPARE(presentationText(codes[1]) + presentationText(codes[2]), u"Z1"_qs);
 
         const Transaction base = transfer(no(1), no(2), usd("5"));
         const Transaction first = base.withNumber(txn(1));
-        QVERIFY(areInOrder<Transaction>(
-            {Transaction(day("2026-01-01")), base, first,
-             first.asRefundOf(txn(3)), // statuses, refund mark and text come last
-             first.withStatuses(None, Reconciled), first.withStatuses(Cleared, None),
-             first.withSideAmounts(usd("5"), usd("6")), first.withSideAmounts(usd("6"), usd("5")),
-             transfer(no(1), no(2), usd("6")).withNumber(txn(1)),
-             transfer(no(1), no(2), money("EUR", "1")).withNumber(txn(1)),
-             transfer(no(1), no(3), usd("5")).withNumber(txn(1)),
-             transfer(no(2), no(1), usd("5")).withNumber(txn(1)),
-             transfer(no(1), no(2), usd("1"), day("2026-01-16")).withNumber(txn(1)),
-             transfer(no(1), no(2), usd("1"), day("2025-01-16")).withNumber(txn(2))}));
         const auto described = [](std::optional<QString> description) {
-            return Transaction(day("2026-01-15"), no(1), no(2), usd("5"), std::move(description));
+            return Transaction(day("2026-01-14"), no(1), no(2), usd("5"), std::move(description));
         };
-        QVERIFY(areInOrder<Transaction>({described({}), described(QString()), described(u"b"_qs)}));
+        QCOMPARE(comparisonFault(std::vector{
+                     Transaction(day("2026-01-01")), described({}), described(QString()),
+                     described(u"b"_qs), base, first,
+                     first.asRefundOf(txn(3)), // statuses, refund mark and text come last
+                     first.withStatuses(None, Reconciled), first.withStatuses(Cleared, None),
+                     first.withSideAmounts(usd("5"), usd("6")),
+                     first.withSideAmounts(usd("6"), usd("5")),
+                     transfer(no(1), no(2), usd("6")).withNumber(txn(1)),
+                     transfer(no(1), no(2), money("EUR", "1")).withNumber(txn(1)),
+                     transfer(no(1), no(3), usd("5")).withNumber(txn(1)),
+                     transfer(no(2), no(1), usd("5")).withNumber(txn(1)),
+                     transfer(no(1), no(2), usd("1"), day("2026-01-16")).withNumber(txn(1)),
+                     transfer(no(1), no(2), usd("1"), day("2025-01-16")).withNumber(txn(2))}),
+                 QString());
 
         const AccountCode code(no(1), {});
-        using enum AccountTypes;
-        QVERIFY(areInOrder<Account>({{Asset, code, usd("2"), false},
-                                     {Asset, code, money("EUR", "1"), false},
-                                     {Asset, code, usd("1"), true},
-                                     {Equity, code, usd("1"), false},
-                                     {Asset, AccountCode(no(2), {}), usd("1"), false}}));
+        QCOMPARE(
+            comparisonFault(std::vector<Account>{{Asset, code, usd("2"), false},
+                                                 {Asset, code, money("EUR", "1"), false},
+                                                 {Asset, code, usd("1"), true},
+                                                 {Equity, code, usd("1"), false},
+                                                 {Asset, AccountCode(no(2), {}), usd("1"), false}}),
+            QString());
         QVERIFY(Account(Book().ledger.ledger(no(4))) !=
                 Account(Expense, AccountCode(no(4), u"Rent"_qs, {}), usd("750"), false));
     }
 
-    void sidesAreSeenFromTheirAccounts()
+    void eachSideHasItsAmountAndStatus()
     {
         const Transaction transaction = transfer(no(1), no(2), usd("5"))
                                             .withStatuses(Reconciled, Cleared)
-                                            .withSideAmounts(money("EUR", "4"), money("GBP", "3"));
+                                            .withSideAmounts(usd("4"), usd("3"));
         QCOMPARE(transaction.status(), Cleared);
-        QCOMPARE(transaction.seenFrom(no(1)).status(), Reconciled);
-        QCOMPARE(transaction.seenFrom(no(2)).status(), Cleared);
-        QCOMPARE(transaction.seenFrom(no(3)).status(), Cleared);
         QVERIFY(transaction.seenFrom(no(1)) == transaction);
-        QVERIFY(transaction.amountFor(no(1)) == money("EUR", "4"));
-        QVERIFY(transaction.amountFor(no(2)) == money("GBP", "3"));
-        QVERIFY(transaction.amountFor(no(3)) == usd("5"));
-    }
-
-    void balancesFollowTheirOwnSide()
-    {
-        const Transaction transaction =
-            transfer(no(1), no(2), usd("5")).withSideAmounts(usd("4"), usd("3"));
-        const auto asset = [&](std::uint32_t number) {
-            return adjustAssetBalance({no(number), {}}, usd("10"), transaction);
+        struct Side {
+            std::uint32_t account;
+            const char *amount;
+            TransactionStatuses status;
+            const char *asset; // what becomes of ten dollars
+            const char *liability;
         };
-        const auto liability = [&](std::uint32_t number) {
-            return adjustLiabilityBalance({no(number), {}}, usd("10"), transaction);
-        };
-        QVERIFY(shouldIncreaseAsset(transaction, no(1)) &&
-                !shouldIncreaseAsset(transaction, no(2)));
-        QVERIFY(asset(1) == usd("14") && asset(2) == usd("7") && asset(3) == usd("10"));
-        QVERIFY(liability(1) == usd("6") && liability(2) == usd("13"));
-        QVERIFY(liability(3) == usd("10"));
+        for (const auto &[account, amount, status, asset, liability] :
+             {Side{1, "4", Reconciled, "14", "6"}, Side{2, "3", Cleared, "7", "13"},
+              Side{3, "5", Cleared, "10", "10"}}) {
+            const AccountCode code(no(account), {});
+            QVERIFY(transaction.amountFor(no(account)) == usd(amount));
+            QCOMPARE(transaction.seenFrom(no(account)).status(), status);
+            QVERIFY(adjustAssetBalance(code, usd("10"), transaction) == usd(asset));
+            QVERIFY(adjustLiabilityBalance(code, usd("10"), transaction) == usd(liability));
+            QCOMPARE(shouldIncreaseAsset(transaction, no(account)), account == 1);
+        }
         QVERIFY_THROWS_EXCEPTION(AccountError, static_cast<void>(adjustAssetBalance(
                                                    {no(1), {}}, money("CAD", "1"), transaction)));
     }
 
-    void theWindowIncludesItsBounds_data()
-    {
-        QTest::addColumn<QByteArray>("calculated");
-        QTest::addColumn<QByteArray>("reference");
-        QTest::addColumn<double>("rate");
-        QTest::addColumn<bool>("isWithin");
-        const auto row = [](const char *calculated, const char *reference, double rate, bool is) {
-            QTest::addRow("%s of %s at %g", calculated, reference, rate)
-                << QByteArray(calculated) << QByteArray(reference) << rate << is;
-        };
-        row("102.75", "100", 2.75, true);
-        row("102.750000000001", "100", 2.75, false);
-        row("97.25", "100", 2.75, true);
-        row("97.249999999999", "100", 2.75, false);
-        row("-102.75", "-100", 2.75, true);
-        row("-102.76", "-100", 2.75, false);
-        row("0", "0", 2.75, true);
-        row("0.000000000001", "0", 2.75, false);
-        // 2.75 % of it is 0.02 and 0.7 of the last digit.
-        row("0.747272727299", "0.727272727298", 2.75, false);
-        row("0.747272727298", "0.727272727298", 2.75, true);
-        row("1027500000000000000000000", "1000000000000000000000000", 2.75, true);
-        row("1027500000000000000000000.000000000001", "1000000000000000000000000", 2.75, false);
-        row("5", "5", 0, true);
-        row("5", "5", -1, false);
-    }
-
     void theWindowIncludesItsBounds()
     {
-        QFETCH(QByteArray, calculated);
-        QFETCH(QByteArray, reference);
-        QFETCH(double, rate);
-        QFETCH(bool, isWithin);
-        for (const bool byMajor : {true, false}) {
-            QCOMPARE(isWithinWindow(usd(calculated.constData()), Percentage(rate, 6),
-                                    usd(reference.constData()), ByMajorUnit(byMajor)),
-                     isWithin);
+        struct Row {
+            const char *calculated;
+            const char *reference;
+            double rate;
+            bool isWithin;
+        };
+        for (const auto &[calculated, reference, rate, isWithin] : std::initializer_list<Row>{
+                 {"102.75", "100", 2.75, true},
+                 {"102.750000000001", "100", 2.75, false},
+                 {"97.25", "100", 2.75, true},
+                 {"97.249999999999", "100", 2.75, false},
+                 {"-102.75", "-100", 2.75, true},
+                 {"-102.76", "-100", 2.75, false},
+                 {"0", "0", 2.75, true},
+                 {"0.000000000001", "0", 2.75, false},
+                 // 2.75 % of it is 0.02 and 0.7 of the last digit.
+                 {"0.747272727299", "0.727272727298", 2.75, false},
+                 {"0.747272727298", "0.727272727298", 2.75, true},
+                 {"1027500000000000000000000", "1000000000000000000000000", 2.75, true},
+                 {"1027500000000000000000000.000000000001", "1000000000000000000000000", 2.75,
+                  false},
+                 {"5", "5", 0, true},
+                 {"5", "5", -1, false}}) {
+            for (const bool byMajor : {true, false}) {
+                QVERIFY2(isWithinWindow(usd(calculated), Percentage(rate, 6), usd(reference),
+                                        ByMajorUnit(byMajor)) == isWithin,
+                         calculated);
+            }
         }
-    }
-
-    void theWindowIsInTheReferencesCurrency()
-    {
         const auto isWithin = [](const char *currency, const char *calculated) {
             return isWithinWindow(money(currency, calculated), Percentage(2.75, 6), usd("100"),
                                   ByMajorUnit(true));
@@ -169,20 +166,65 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(kiv::foundation::Error, static_cast<void>(isWithin("CAD", "1")));
     }
 
-    void textsStayOnOneLine()
+    void handoutsStepOverUsedNumbersAndGiveBack()
     {
-        Book book;
-        book.ledger.recode(AccountCode(no(8), {}), {no(8), u"Two\nlines %1"_qs, no(2)});
-        book.ledger.repost(txn(2), {day("2026-01-02"), no(2), no(5), usd("1"), u"tab\there"_qs});
-        const QString dump = text(book.ledger);
-        QVERIFY(!dump.contains(u'\n') && !dump.contains(u'\t'));
-        QVERIFY(
-            dump.contains(u"asset account 8 Two\\u{000A}lines %1 under 2, open, balance 0.00 USD"));
-        QCOMPARE(text(found(book.ledger, 4)),
-                 u"#4 2026-01-04 100.00 USD: debit 2 Checking under 1 (100.00 USD, none), credit "
-                 u"4 Rent (100.00 USD, none), refund of #3, \"January\""_qs);
-        QCOMPARE(presentationText(AccountCode(u"Only a name"_qs, {})), u"Only a name"_qs);
-        QCOMPARE(presentationText(AccountCode(no(1200), {})), u"1200"_qs);
+        GeneralLedger ledger;
+        SequentialAccountNumberGenerator generator;
+        addAccount(ledger, generator, Asset, no(2), "By hand");
+        {
+            const NumberHandout refused(generator, ledger);
+            QCOMPARE(refused.number(), no(1));
+            // The one in between keeps its number, and steps over number 2.
+            addAccount(ledger, generator, Asset, {}, "Meanwhile");
+            QVERIFY(ledger.hasLedger(no(3)));
+        }
+        for (const std::uint32_t expected : {1U, 4U})
+            QCOMPARE(addAccount(ledger, generator, Asset, {}, "Taken"), no(expected));
+        addAccount(ledger, generator, Asset, no(0xFFFF'FFFF), "Highest by hand");
+        SequentialAccountNumberGenerator loaded(generator.seedFrom(ledger.accounts()));
+        SequentialAccountNumberGenerator almost(no(0xFFFF'FFFE));
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            QCOMPARE(NumberHandout(loaded, ledger).number(), no(5));
+            QCOMPARE(NumberHandout(almost, GeneralLedger()).number(), no(0xFFFF'FFFF));
+        }
+        QCOMPARE(++*loaded.clone(), no(1)); // goes on from the lowest
+        SequentialAccountNumberGenerator first;
+        QCOMPARE(--first, no(0));
+    }
+
+    /// Few numbers and many are kept in two ways, and change from one to the other.
+    void numberSetsAnswerLikeSetsOfTheSameNumbers()
+    {
+        const unsigned seed = std::random_device()();
+        qInfo() << "seed" << seed;
+        std::mt19937 random(seed);
+        for (const auto &[highest, additions] :
+             {std::pair(300, 250), {65'535, 400}, {6'000, 9'000}, {65'535, 4'000}}) {
+            std::uniform_int_distribution<int> any(1, highest);
+            NumberSet numbers;
+            std::set<TransactionNumber> expected;
+            for (int i = 0; i < additions; ++i) {
+                const auto number = txn(static_cast<std::uint16_t>(any(random)));
+                numbers.insert(number);
+                expected.insert(number);
+            }
+            const NumberSet all = numbers; // shares what the next changes change
+            const std::set<TransactionNumber> expectedOfAll = expected;
+            QVERIFY(areThose(numbers, expected));
+            // Less and less, until only a few far from each other are left.
+            while (!expected.empty()) {
+                for (std::size_t i = 1 + expected.size() / 2; i > 0; --i) {
+                    const auto from =
+                        expected.lower_bound(txn(static_cast<std::uint16_t>(any(random))));
+                    const auto gone = from == expected.end() ? *expected.begin() : *from;
+                    numbers.remove(gone);
+                    numbers.remove(gone);
+                    expected.erase(gone);
+                }
+                QVERIFY(areThose(numbers, expected) && !(numbers == all));
+            }
+            QVERIFY(areThose(all, expectedOfAll));
+        }
     }
 };
 
