@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "foundation/streams.h"
+#include "foundation/debug_stream.h"
 #include "foundation/strong_bool.h"
 
 #include <QtCore/QMetaType>
@@ -15,10 +15,6 @@ using AllowSubAccounts = foundation::StrongBool<AllowSubAccountsTag>;
 inline std::ostream &operator<<(std::ostream &out, AllowSubAccounts allow)
 {
     return out << (allow ? "with sub-accounts" : "without sub-accounts");
-}
-inline QDebug operator<<(QDebug debug, AllowSubAccounts allow)
-{
-    return foundation::streamed(debug, allow);
 }
 
 } // namespace kiv::navigation

@@ -30,9 +30,4 @@ std::ostream &operator<<(std::ostream &out, const BankAccountCode &account)
                << account.supportedAccountType() << ") in " << account.issuedIn();
 }
 
-QDebug operator<<(QDebug debug, const BankAccountCode &account)
-{
-    return foundation::streamed(debug, account);
-}
-
 } // namespace kiv::navigation

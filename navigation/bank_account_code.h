@@ -5,6 +5,7 @@
 
 #include "accounting/account_code.h"
 #include "banking/bank_account.h"
+#include "foundation/debug_stream.h"
 
 namespace kiv::navigation {
 
@@ -54,7 +55,7 @@ private:
 };
 
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const BankAccountCode &account);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const BankAccountCode &account);
+using foundation::operator<<;
 
 } // namespace kiv::navigation
 

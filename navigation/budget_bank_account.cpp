@@ -18,9 +18,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetBankAccount &account)
                << account.bankAccount;
 }
 
-QDebug operator<<(QDebug debug, const BudgetBankAccount &account)
-{
-    return foundation::streamed(debug, account);
-}
-
 } // namespace kiv::navigation

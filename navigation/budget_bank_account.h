@@ -5,6 +5,7 @@
 
 #include "banking/bank_account.h"
 #include "budgeting/identifiers.h"
+#include "foundation/debug_stream.h"
 
 namespace kiv::navigation {
 
@@ -33,7 +34,7 @@ lookUpBankAccount(const budgeting::BudgetSource &source,
                   const std::set<BudgetBankAccount> &accounts);
 
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetBankAccount &account);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const BudgetBankAccount &account);
+using foundation::operator<<;
 
 } // namespace kiv::navigation
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/budget_wizard_templates.h"
 
-#include "foundation/streams.h"
+#include "foundation/enum_table.h"
 
 #include <QtCore/QObject>
 
@@ -19,15 +19,9 @@ std::ostream &operator<<(std::ostream &out, BudgetWizardTemplates household)
         QT_TRANSLATE_NOOP("QObject", "Adult, married, single income"),
         QT_TRANSLATE_NOOP("QObject", "Adult, married, double income"),
     };
-    const auto value = static_cast<std::size_t>(household);
-    if (value < names.size())
-        return out << names.at(value);
-    return out << "Unknown budget template wizard value: " << value;
-}
-
-QDebug operator<<(QDebug debug, BudgetWizardTemplates household)
-{
-    return foundation::streamed(debug, household);
+    if (const auto *name = foundation::entryOf(names, household))
+        return out << *name;
+    return out << "Unknown budget template wizard value: " << static_cast<std::size_t>(household);
 }
 
 } // namespace kiv::navigation

@@ -3,7 +3,8 @@
 
 #include "navigation/export.h"
 
-#include <QtCore/QDebug>
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QMetaType>
 
 #include <cstdint>
@@ -23,7 +24,7 @@ enum class BudgetWizardTemplates : std::uint8_t {
 
 /// Such as "Adult, married, single income".
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, BudgetWizardTemplates household);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, BudgetWizardTemplates household);
+using foundation::operator<<;
 
 } // namespace kiv::navigation
 

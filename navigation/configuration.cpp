@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/configuration.h"
 
-#include "navigation/internal/configuration_faults.h"
+#include "navigation/internal/faults.h"
 
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
@@ -97,11 +97,6 @@ std::ostream &operator<<(std::ostream &out, const ConfigurationData &data)
     return out << " by " << data.currenciesDisplayAs << ", survey window "
                << data.surveyWindow.rate() << " %, due within " << data.notifyDueWithin.count()
                << " days, tags " << data.tags;
-}
-
-QDebug operator<<(QDebug debug, const ConfigurationData &data)
-{
-    return foundation::streamed(debug, data);
 }
 
 } // namespace kiv::navigation

@@ -5,11 +5,11 @@
 #include "navigation/export.h"
 #include "navigation/user_preferences.h"
 
+#include "foundation/debug_stream.h"
 #include "foundation/percentage.h"
 #include "numira/currency.h"
 #include "tagging/budget_tag_manager.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QList>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
@@ -44,7 +44,7 @@ struct KIV_NAVIGATION_EXPORT ConfigurationData {
 };
 
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const ConfigurationData &data);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const ConfigurationData &data);
+using foundation::operator<<;
 
 /// The record of what is set and of every tag that can be chosen.
 [[nodiscard]] KIV_NAVIGATION_EXPORT ConfigurationData load(const UserPreferences &preferences,

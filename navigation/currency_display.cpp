@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/currency_display.h"
 
-#include "navigation/internal/configuration_faults.h"
+#include "navigation/internal/faults.h"
 
+#include "foundation/enum_table.h"
 #include "foundation/presentation.h"
-#include "foundation/streams.h"
 
 #include <QtCore/QObject>
 
@@ -23,12 +23,10 @@ constexpr std::array optionNames{
 
 const char *nameOf(CurrencyDisplayOptions option)
 {
-    const auto value = static_cast<std::size_t>(option);
-    if (value >= optionNames.size()) {
-        throw internal::faults::unknownStrongValue(QString::number(value),
-                                                   QStringLiteral("QString"));
-    }
-    return optionNames.at(value);
+    if (const auto *name = foundation::entryOf(optionNames, option))
+        return *name;
+    throw internal::faults::unknownStrongValue(QString::number(static_cast<std::size_t>(option)),
+                                               QStringLiteral("QString"));
 }
 
 std::optional<QString> symbolOf(const numira::Currency &currency)
@@ -103,15 +101,9 @@ numira::Currency toCurrencyFromDisplayable(const QString &text,
 
 std::ostream &operator<<(std::ostream &out, CurrencyDisplayOptions option)
 {
-    const auto value = static_cast<std::size_t>(option);
-    if (value < optionNames.size())
-        return out << optionNames.at(value);
-    return out << "Unknown currency display option: " << value;
-}
-
-QDebug operator<<(QDebug debug, CurrencyDisplayOptions option)
-{
-    return foundation::streamed(debug, option);
+    if (const auto *name = foundation::entryOf(optionNames, option))
+        return out << *name;
+    return out << "Unknown currency display option: " << static_cast<std::size_t>(option);
 }
 
 } // namespace kiv::navigation

@@ -3,9 +3,10 @@
 
 #include "navigation/export.h"
 
+#include "foundation/debug_stream.h"
+
 #include "numira/currency.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -45,7 +46,7 @@ toCurrencyFromDisplayable(const QString &text, const std::set<numira::Currency> 
                           CurrencyDisplayOptions option);
 
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, CurrencyDisplayOptions option);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, CurrencyDisplayOptions option);
+using foundation::operator<<;
 
 } // namespace kiv::navigation
 

@@ -10,9 +10,4 @@ std::ostream &operator<<(std::ostream &out, GuiElementIdentifier id)
     return out << id.integer();
 }
 
-QDebug operator<<(QDebug debug, GuiElementIdentifier id)
-{
-    return foundation::streamed(debug, id);
-}
-
 } // namespace kiv::navigation

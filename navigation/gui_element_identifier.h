@@ -3,7 +3,8 @@
 
 #include "navigation/export.h"
 
-#include <QtCore/QDebug>
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QMetaType>
 
 #include <compare>
@@ -32,7 +33,7 @@ private:
 };
 
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, GuiElementIdentifier id);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, GuiElementIdentifier id);
+using foundation::operator<<;
 
 } // namespace kiv::navigation
 

@@ -4,6 +4,7 @@
 
 #include "navigation/failure.h"
 #include "navigation/internal/budget_bank_ledgers.h"
+#include "navigation/internal/faults.h"
 #include "navigation/internal/logging.h"
 #include "navigation/internal/meta_types.h"
 #include "navigation/internal/update_notifier.h"
@@ -35,13 +36,6 @@ constexpr std::chrono::milliseconds startUpDelay = 100ms;
 QString exchangeRatesAppId()
 {
     return QStringLiteral("5b0c93e2d7a14f68b1e0c4a9d2f73e15");
-}
-
-foundation::Error converterGone()
-{
-    return foundation::Error(
-        QObject::tr("Cannot convert between currencies, because what looked up the exchange rates "
-                    "has been closed."));
 }
 
 } // namespace
@@ -90,7 +84,7 @@ void Navigator::setUpMoneyLibrary()
             [first = QPointer<Navigator>(this)](const numira::Currency &from,
                                                 const numira::Currency &to) {
                 if (!first || !first->m_exchangeRatesSource)
-                    throw converterGone();
+                    throw internal::faults::converterGone();
                 return conversion::CurrencyConverter(*first->m_exchangeRatesSource)
                     .lookUp(from, to);
             },

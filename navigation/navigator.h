@@ -66,7 +66,11 @@ namespace kiv::navigation {
 
 namespace internal {
 class BudgetBankLedgers;
-}
+template <typename Name>
+struct Answers;
+template <typename Name>
+struct AnsweredNames;
+} // namespace internal
 
 /// Stands between the views and one budget in memory, and owns both that budget
 /// and all that is needed to keep it: storages, preferences, exchange rates.
@@ -567,6 +571,19 @@ private:
     template <typename Caught = foundation::Error, typename Operation, typename Success,
               typename Failure>
     bool change(const char *sentence, Operation &&operation, Success &&success, Failure &&failure);
+
+    /// change() for what has a name. `answers` are the two signals, `names` what they carry.
+    template <typename Name, typename Operation>
+    void changeNamed(const char *sentence, const internal::Answers<Name> &answers,
+                     const internal::AnsweredNames<Name> &names, Operation &&operation);
+    /// change() for a transaction, which is answered by its number.
+    template <typename Operation>
+    void changeTransaction(const char *sentence, const accounting::TransactionNumber &tn,
+                           Operation &&operation);
+    /// change() for an item that is due. `operation` gives the number of the posting, if any.
+    template <typename Operation>
+    void changeDue(const char *sentence, const budgeting::BudgetItemDueIdentifier &bidi,
+                   Operation &&operation);
 
     void setUpMoneyLibrary();
     void initialiseConversions();

@@ -11,6 +11,17 @@ using banking::Bank;
 using banking::BankName;
 using internal::tell;
 
+namespace {
+
+constexpr internal::Answers<AccountCode> accountAnswers{&Navigator::accountSaveSucceeded,
+                                                        &Navigator::accountSaveFailed};
+constexpr internal::Answers<BankName> bankAnswers{&Navigator::bankSaveSucceeded,
+                                                  &Navigator::bankSaveFailed};
+constexpr internal::Answers<AccountCode> bankAccountAnswers{&Navigator::bankAccountSaveSucceeded,
+                                                            &Navigator::bankAccountSaveFailed};
+
+} // namespace
+
 // ---- accounts ----------------------------------------------------------------
 
 void Navigator::onPrepareShowAccounts()
@@ -21,53 +32,39 @@ void Navigator::onPrepareShowAccounts()
 
 void Navigator::onAddedAct(const accounting::Account &act)
 {
-    change(
-        "Failed to add account entry.",
-        [&] {
-            if (const auto opening = m_budgetBankLedgers->add(act)) {
-                internal::logDone("Added account opening balance in txn num:", opening->integer());
-            }
-        },
-        [&] { tell(this, &Navigator::accountSaveSucceeded, act.code()); },
-        [&](const QString &why) {
-            tell(this, &Navigator::accountSaveFailed, std::nullopt, why, act.code());
-        });
+    changeNamed("Failed to add account entry.", accountAnswers,
+                {act.code(), std::nullopt, act.code()}, [&] {
+                    if (const auto opening = m_budgetBankLedgers->add(act)) {
+                        internal::logDone("Added account opening balance in txn num:",
+                                          opening->integer());
+                    }
+                });
 }
 
 void Navigator::onRecoded(const AccountCode &current, const AccountCode &changed)
 {
-    change(
-        "Failed to recode an account.", [&] { m_budgetBankLedgers->recode(current, changed); },
-        // The view still shows the account under its old code and finds it by
-        // that; a renamed bank account is found by its new one.
-        [&] { tell(this, &Navigator::accountSaveSucceeded, current); },
-        [&](const QString &why) {
-            tell(this, &Navigator::accountSaveFailed, current, why, changed);
-        });
+    // The view still shows the account under its old code and finds it by that; a renamed bank
+    // account is found by its new one.
+    changeNamed("Failed to recode an account.", accountAnswers, {current, current, changed},
+                [&] { m_budgetBankLedgers->recode(current, changed); });
 }
 
 void Navigator::onClosed(const AccountCode &code)
 {
-    change(
-        "Failed to close an account.", [&] { m_budgetBankLedgers->close(code); },
-        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
-        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
+    changeNamed("Failed to close an account.", accountAnswers, {code, code, code},
+                [&] { m_budgetBankLedgers->close(code); });
 }
 
 void Navigator::onOpened(const AccountCode &code)
 {
-    change(
-        "Failed to reopen an account.", [&] { m_budgetBankLedgers->open(code); },
-        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
-        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
+    changeNamed("Failed to reopen an account.", accountAnswers, {code, code, code},
+                [&] { m_budgetBankLedgers->open(code); });
 }
 
 void Navigator::onRemovedAct(const AccountCode &code)
 {
-    change(
-        "Failed to remove an account.", [&] { m_budgetBankLedgers->remove(code); },
-        [&] { tell(this, &Navigator::accountSaveSucceeded, code); },
-        [&](const QString &why) { tell(this, &Navigator::accountSaveFailed, code, why, code); });
+    changeNamed("Failed to remove an account.", accountAnswers, {code, code, code},
+                [&] { m_budgetBankLedgers->remove(code); });
 }
 
 void Navigator::onPrepareShowLedgers()
@@ -93,60 +90,42 @@ void Navigator::onPrepareShowBanks()
 
 void Navigator::onBankAdded(const Bank &b)
 {
-    change(
-        "Failed to add a bank.",
-        [&] {
-            m_budgetBankLedgers->add(b);
-            internal::logDone("Successfully added bank", b);
-        },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, b.name()); },
-        // Nothing stood there before the bank was to be added.
-        [&](const QString &why) {
-            tell(this, &Navigator::bankSaveFailed, std::nullopt, why, b.name());
-        });
+    // Nothing stood there before the bank was to be added.
+    changeNamed("Failed to add a bank.", bankAnswers, {b.name(), std::nullopt, b.name()}, [&] {
+        m_budgetBankLedgers->add(b);
+        internal::logDone("Successfully added bank", b);
+    });
 }
 
 void Navigator::onBankUpdated(const Bank &b)
 {
-    change(
-        "Failed to update a bank.", [&] { m_budgetBankLedgers->update(b); },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, b.name()); },
-        // The view shows its own edited bank, which has no other name.
-        [&](const QString &why) {
-            tell(this, &Navigator::bankSaveFailed, b.name(), why, std::nullopt);
-        });
+    // The view shows its own edited bank, which has no other name.
+    changeNamed("Failed to update a bank.", bankAnswers, {b.name(), b.name(), std::nullopt},
+                [&] { m_budgetBankLedgers->update(b); });
 }
 
 void Navigator::onBankRenamed(const BankName &original, const BankName &change)
 {
-    this->change(
-        "Failed to rename a bank.", [&] { m_budgetBankLedgers->rename(original, change); },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, change); },
-        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, original, why, change); });
+    changeNamed("Failed to rename a bank.", bankAnswers, {change, original, change},
+                [&] { m_budgetBankLedgers->rename(original, change); });
 }
 
 void Navigator::onBankClosed(const BankName &bn)
 {
-    change(
-        "Failed to close a bank.", [&] { m_budgetBankLedgers->close(bn); },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
-        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
+    changeNamed("Failed to close a bank.", bankAnswers, {bn, bn, bn},
+                [&] { m_budgetBankLedgers->close(bn); });
 }
 
 void Navigator::onBankOpened(const BankName &bn)
 {
-    change(
-        "Failed to reopen a bank.", [&] { m_budgetBankLedgers->open(bn); },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
-        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
+    changeNamed("Failed to reopen a bank.", bankAnswers, {bn, bn, bn},
+                [&] { m_budgetBankLedgers->open(bn); });
 }
 
 void Navigator::onBankRemoved(const BankName &bn)
 {
-    change(
-        "Failed to remove a bank.", [&] { m_budgetBankLedgers->remove(bn); },
-        [&] { tell(this, &Navigator::bankSaveSucceeded, bn); },
-        [&](const QString &why) { tell(this, &Navigator::bankSaveFailed, bn, why, bn); });
+    changeNamed("Failed to remove a bank.", bankAnswers, {bn, bn, bn},
+                [&] { m_budgetBankLedgers->remove(bn); });
 }
 
 // ---- bank accounts -----------------------------------------------------------
@@ -170,20 +149,15 @@ std::optional<AccountCode> Navigator::onAddedBankAccount(const QString &name,
 
 void Navigator::onRenamedBankAccount(const AccountCode &original, const AccountCode &changed)
 {
-    change(
-        "Failed to rename a bank account.", [&] { m_budgetBankLedgers->recode(original, changed); },
-        [&] { tell(this, &Navigator::bankAccountSaveSucceeded, changed); },
-        [&](const QString &why) {
-            tell(this, &Navigator::bankAccountSaveFailed, original, why, changed);
-        });
+    changeNamed("Failed to rename a bank account.", bankAccountAnswers,
+                {changed, original, changed},
+                [&] { m_budgetBankLedgers->recode(original, changed); });
 }
 
 void Navigator::onRemovedBankAccount(const AccountCode &ac)
 {
-    change(
-        "Failed to remove a bank account.", [&] { m_budgetBankLedgers->remove(ac); },
-        [&] { tell(this, &Navigator::bankAccountSaveSucceeded, ac); },
-        [&](const QString &why) { tell(this, &Navigator::bankAccountSaveFailed, ac, why, ac); });
+    changeNamed("Failed to remove a bank account.", bankAccountAnswers, {ac, ac, ac},
+                [&] { m_budgetBankLedgers->remove(ac); });
 }
 
 void Navigator::onLookUpBankAccounts(const BankName &bn, const AllowSubAccounts &shouldAllow)

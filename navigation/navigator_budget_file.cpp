@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The budget file: new, load, reload, save.
 //
-// What storages throw leaves these slots: a file that cannot be read or written
-// is answered by whoever can show the user more than one sentence about it.
+// Storage exceptions pass through these slots: the front end shows them.
 #include "navigation/internal/navigator_change.h"
 
 #include "conversion/currency_converter.h"

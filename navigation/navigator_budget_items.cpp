@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Bills, debts, goals, non-tracked items and wages.
+#include "navigation/internal/faults.h"
 #include "navigation/internal/navigator_change.h"
-
-#include <stdexcept>
+#include "navigation/internal/undo.h"
 
 namespace kiv::navigation {
 
@@ -12,36 +12,29 @@ using budgeting::BudgetItemTypes;
 using budgeting::BudgetSource;
 using budgeting::ItemTraits;
 using internal::tell;
+namespace faults = internal::faults;
 
 namespace {
 
-/// Views keep tags apart from items; this catches one that mixes up two rows.
+/// Refuses the tags of another item: views keep tags and items apart and may mix up two rows.
 void requireTagsOf(const BudgetItemTypes &type, const budgeting::BudgetedMoney &item,
                    const tagging::BudgetItemTags::ItemTags &itemTags)
 {
-    if (itemTags.type() != type) {
-        throw foundation::Error(
-            Navigator::tr("The provided item type does not match the item's type."));
-    }
-    if (itemTags.source() != item.source()) {
-        throw foundation::Error(
-            Navigator::tr("The provided item source does not match the item's source."));
-    }
+    if (itemTags.type() != type)
+        throw faults::tagsOfOtherType();
+    if (itemTags.source() != item.source())
+        throw faults::tagsOfOtherSource();
 }
 
-/// A bank account for a kind of item that has none is a mistake of the view's
-/// code, not of the user.
+/// The item as one of its class. A bank account for a kind of item that has none is a mistake of
+/// the view's code, not of the user.
 template <budgeting::BudgetItem Item>
-void requireNoBankAccount(const std::optional<banking::BankAccount> &ba, const char *verb)
+const Item &ownItem(const budgeting::BudgetedMoney &item,
+                    const std::optional<banking::BankAccount> &ba, const char *verb)
 {
-    if (!ba)
-        return;
-    QString kind = QString::fromLatin1(ItemTraits<Item>::word);
-    kind[0] = kind[0].toUpper();
-    throw std::logic_error(
-        QStringLiteral("An item of type '%1' cannot %2 a bank account association.")
-            .arg(kind, QString::fromLatin1(verb))
-            .toStdString());
+    if (!BankTiedItem<Item> && ba)
+        throw faults::takesNoBankAccount(ItemTraits<Item>::word, verb);
+    return dynamic_cast<const Item &>(item);
 }
 
 /// What all five views show besides the items.
@@ -69,13 +62,28 @@ template <typename ChangeTags, typename ChangeItem>
 void changeTagged(tagging::BudgetTagManager &tags, tagging::BudgetTagManager::Memory former,
                   ChangeTags &&changeTags, ChangeItem &&changeItem)
 {
-    try {
-        changeTags();
-        changeItem();
-    } catch (...) {
-        tags.restore(std::move(former));
-        throw;
-    }
+    const auto putBack = [&tags](tagging::BudgetTagManager::Memory &&before) noexcept {
+        tags.restore(std::move(before));
+    };
+    internal::Restore tagsBefore(std::move(former), putBack);
+    changeTags();
+    changeItem();
+    tagsBefore.dismiss();
+}
+
+/// Stores an item that was added or updated, with its tags. `changeItem` gets the item's class.
+template <typename UnknownType, typename ChangeItem>
+void storeTagged(tagging::BudgetTagManager &tags, const BudgetItemTypes &type,
+                 const budgeting::BudgetedMoney &item,
+                 const tagging::BudgetItemTags::ItemTags &itemTags, UnknownType &&unknownType,
+                 ChangeItem &&changeItem)
+{
+    requireTagsOf(type, item, itemTags);
+    visitItemClass(type, unknownType, [&](auto itemClass) {
+        changeTagged(
+            tags, tags.remember({itemTags.identifier()}, itemTags.tags()),
+            [&] { tags.changeAssociation(itemTags); }, [&] { changeItem(itemClass); });
+    });
 }
 
 } // namespace
@@ -134,9 +142,7 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
                         const tagging::BudgetItemTags::ItemTags &itemTags)
 {
     const auto add = [&]<typename Item>(std::type_identity<Item>) {
-        if constexpr (!BankTiedItem<Item>)
-            requireNoBankAccount<Item>(ba, "add");
-        const auto &own = dynamic_cast<const Item &>(item);
+        const Item &own = ownItem<Item>(item, ba, "add");
         accounting::AccountCode code;
         if constexpr (BankTiedItem<Item>)
             code = m_budgetBankLedgers->add<Item>(own, ba);
@@ -146,17 +152,7 @@ bool Navigator::onAdded(const GuiElementIdentifier &id, const BudgetItemTypes &t
     };
     return change(
         "Failed to add budget item.",
-        [&] {
-            requireTagsOf(type, item, itemTags);
-            visitItemClass(
-                type, "An unknown budget item type was supplied when adding a new entry.",
-                [&](auto itemClass) {
-                    changeTagged(
-                        m_tagManager,
-                        m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
-                        [&] { m_tagManager.changeAssociation(itemTags); }, [&] { add(itemClass); });
-                });
-        },
+        [&] { storeTagged(m_tagManager, type, item, itemTags, faults::unknownTypeToAdd, add); },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
         [&](const QString &why) {
             tell(this, &Navigator::saveFailed, id, std::nullopt, why, item.source());
@@ -169,9 +165,7 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
                           const tagging::BudgetItemTags::ItemTags &itemTags)
 {
     const auto update = [&]<typename Item>(std::type_identity<Item>) {
-        if constexpr (!BankTiedItem<Item>)
-            requireNoBankAccount<Item>(ba, "update");
-        const auto &own = dynamic_cast<const Item &>(item);
+        const Item &own = ownItem<Item>(item, ba, "update");
         if constexpr (BankTiedItem<Item>)
             m_budgetBankLedgers->update<Item>(own, ba);
         else
@@ -180,15 +174,7 @@ void Navigator::onUpdated(const GuiElementIdentifier &id, const BudgetItemTypes 
     change(
         "Failed to update budget item.",
         [&] {
-            requireTagsOf(type, item, itemTags);
-            visitItemClass(type, "An unknown budget item type was supplied when updating an entry.",
-                           [&](auto itemClass) {
-                               changeTagged(
-                                   m_tagManager,
-                                   m_tagManager.remember({itemTags.identifier()}, itemTags.tags()),
-                                   [&] { m_tagManager.changeAssociation(itemTags); },
-                                   [&] { update(itemClass); });
-                           });
+            storeTagged(m_tagManager, type, item, itemTags, faults::unknownTypeToUpdate, update);
         },
         [&] { tell(this, &Navigator::saveSucceeded, id, item.source()); },
         [&](const QString &why) {
@@ -210,11 +196,7 @@ void Navigator::onRenamed(const GuiElementIdentifier &id, const BudgetItemTypes 
                 [&] {
                     m_tagManager.renameAssociation({type, original}, changed);
                 },
-                [&] {
-                    visitItemClass(
-                        type, "An unknown budget item type was supplied when renaming an entry.",
-                        rename);
-                });
+                [&] { visitItemClass(type, faults::unknownTypeToRename, rename); });
         },
         // The old name, on purpose: by it the view finds the row that it asked
         // to rename, and it knows the new one already.
@@ -248,9 +230,7 @@ void Navigator::onLookUpBudgetItemSources(const budgeting::BudgetItemDueIdentifi
     // A view that has chosen no kind yet is answered with nothing to choose;
     // only a change needs a kind.
     if (requestedBy.type != BudgetItemTypes::None) {
-        visitItemClass(requestedBy.type,
-                       "An unknown budget item type was supplied when looking up all the budget "
-                       "item sources.",
+        visitItemClass(requestedBy.type, faults::unknownTypeToLookUp,
                        [&]<typename Item>(std::type_identity<Item>) {
                            sources = m_budgetBankLedgers->budget().items<Item>().sources();
                        });

@@ -6,9 +6,7 @@
 
 namespace kiv::navigation {
 
-using accounting::TransactionNumber;
 using budgeting::BudgetItemDueIdentifier;
-using internal::tell;
 
 void Navigator::onPrepareShowProcessBudgetItems()
 {
@@ -27,14 +25,8 @@ void Navigator::onPrepareShowProcessBudgetItems()
 void Navigator::onPostBudgetItemPosted(const budgeting::BudgetItemAmountDue &bid,
                                        const accounting::AccountCode &ac, const QDate &postOn)
 {
-    std::optional<TransactionNumber> posted;
-    change<std::exception>(
-        "Failed to process budget item due.",
-        [&] { posted = m_budgetBankLedgers->process(bid, ac, postOn); },
-        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bid.id, posted); },
-        [&](const QString &why) {
-            tell(this, &Navigator::processBudgetItemSaveFailed, bid.id, why);
-        });
+    changeDue("Failed to process budget item due.", bid.id,
+              [&] { return m_budgetBankLedgers->process(bid, ac, postOn); });
 }
 
 void Navigator::onPostBudgetItemPostedUnexpected(const BudgetItemDueIdentifier &bidi,
@@ -42,24 +34,16 @@ void Navigator::onPostBudgetItemPostedUnexpected(const BudgetItemDueIdentifier &
                                                  const accounting::AccountCode &ac,
                                                  const QDate &postOn)
 {
-    std::optional<TransactionNumber> posted;
-    change<std::exception>(
-        "Failed to process budget item unexpected.",
-        [&] { posted = m_budgetBankLedgers->process(bidi.item(), amount, ac, postOn); },
-        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bidi, posted); },
-        [&](const QString &why) {
-            tell(this, &Navigator::processBudgetItemSaveFailed, bidi, why);
-        });
+    changeDue("Failed to process budget item unexpected.", bidi,
+              [&] { return m_budgetBankLedgers->process(bidi.item(), amount, ac, postOn); });
 }
 
 void Navigator::onPostBudgetItemSkipped(const BudgetItemDueIdentifier &bidi)
 {
-    change<std::exception>(
-        "Failed to skip budget item due.", [&] { m_budgetBankLedgers->skip(bidi.item()); },
-        [&] { tell(this, &Navigator::processBudgetItemSaveSucceeded, bidi, std::nullopt); },
-        [&](const QString &why) {
-            tell(this, &Navigator::processBudgetItemSaveFailed, bidi, why);
-        });
+    changeDue("Failed to skip budget item due.", bidi, [&] {
+        m_budgetBankLedgers->skip(bidi.item());
+        return std::nullopt;
+    });
 }
 
 } // namespace kiv::navigation

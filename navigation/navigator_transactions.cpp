@@ -44,10 +44,8 @@ void Navigator::onAddedTransaction(const Transaction &txn)
 
 void Navigator::onUpdatedTransaction(const TransactionNumber &tn, const Transaction &txn)
 {
-    change(
-        "Failed to update a transaction.", [&] { m_budgetBankLedgers->repost(tn, txn); },
-        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
-        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
+    changeTransaction("Failed to update a transaction.", tn,
+                      [&] { m_budgetBankLedgers->repost(tn, txn); });
 }
 
 void Navigator::onMarkCleared(const std::set<TransactionNumber> &tns)
@@ -76,37 +74,26 @@ void Navigator::onMarkUnreconciled(const std::set<TransactionNumber> &tns)
 
 void Navigator::onMarkReconciled(const TransactionNumber &tn)
 {
-    change(
-        "Failed to mark a transaction as reconciled.", [&] { m_budgetBankLedgers->reconcile(tn); },
-        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
-        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
+    changeTransaction("Failed to mark a transaction as reconciled.", tn,
+                      [&] { m_budgetBankLedgers->reconcile(tn); });
 }
 
 void Navigator::onRemovedTransaction(const TransactionNumber &tn)
 {
-    change(
-        "Failed to remove a transaction.", [&] { m_budgetBankLedgers->remove(tn); },
-        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
-        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
+    changeTransaction("Failed to remove a transaction.", tn,
+                      [&] { m_budgetBankLedgers->remove(tn); });
 }
 
 void Navigator::markCleared(TransactionNumber tn, std::optional<AccountNumber> account)
 {
-    change(
-        markClearedFailed, [&] { m_budgetBankLedgers->clear(tn, account); },
-        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
-        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
+    changeTransaction(markClearedFailed, tn, [&] { m_budgetBankLedgers->clear(tn, account); });
 }
 
 void Navigator::markUnreconciled(TransactionNumber tn)
 {
-    change(
-        // The sentence of clearing, on purpose: a transaction that is not
-        // reconciled any more counts as cleared at most, and whoever searches
-        // the log for clearing that failed finds both.
-        markClearedFailed, [&] { m_budgetBankLedgers->unreconcile(tn); },
-        [&] { tell(this, &Navigator::transactionSaveSucceeded, tn, tn); },
-        [&](const QString &why) { tell(this, &Navigator::transactionSaveFailed, tn, why); });
+    // The sentence of clearing, on purpose: a transaction that is not reconciled any more counts
+    // as cleared at most. Who searches the log for clearing that failed finds both.
+    changeTransaction(markClearedFailed, tn, [&] { m_budgetBankLedgers->unreconcile(tn); });
 }
 
 // ---- transfers ---------------------------------------------------------------

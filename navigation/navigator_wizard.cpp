@@ -3,6 +3,7 @@
 #include "navigation/internal/navigator_change.h"
 
 #include "navigation/internal/budget_item_generator.h"
+#include "navigation/internal/faults.h"
 
 namespace kiv::navigation {
 
@@ -67,16 +68,14 @@ banking::BankAccount Navigator::addWizardBank(const banking::BankName &name,
                                               const numira::Money &initialBalance)
 {
     const auto code = onAddedBankAccount(accountName, kind, initialBalance);
-    if (!code) {
-        throw foundation::Error(
-            tr("Failed to add the bank account '%1' for the first time wizard.").arg(accountName));
-    }
+    if (!code)
+        throw internal::faults::wizardBankAccountNotAdded(accountName);
+
     onBankAdded(banking::Bank(name, {{code->number(), kind}}, false));
     // The slot has told the views why; it answers nobody else.
-    if (!m_budgetBankLedgers->banks().hasBank(name)) {
-        throw foundation::Error(
-            tr("Failed to add the bank '%1' for the first time wizard.").arg(name.institution()));
-    }
+    if (!m_budgetBankLedgers->banks().hasBank(name))
+        throw internal::faults::wizardBankNotAdded(name);
+
     return {name, {code->number(), kind}};
 }
 
@@ -89,11 +88,8 @@ void Navigator::addWizardItems(BudgetWizardTemplates selected, const numira::Cur
         const auto bankAccount =
             isAtBank ? std::optional<banking::BankAccount>(account) : std::nullopt;
         const tagging::BudgetItemTags::ItemTags noTags({type, item->source()});
-        if (!onAdded(GuiElementIdentifier(), type, *item, bankAccount, noTags)) {
-            throw foundation::Error(
-                tr("Failed to add the generate the %1 budget item '%2' for the first time wizard.")
-                    .arg(budgeting::presentationText(type), item->source().name()));
-        }
+        if (!onAdded(GuiElementIdentifier(), type, *item, bankAccount, noTags))
+            throw internal::faults::wizardItemNotAdded(type, item->source());
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "navigation/user_preferences.h"
 
+#include "navigation/internal/faults.h"
 #include "navigation/internal/logging.h"
 
 #include "foundation/presentation.h"
@@ -13,7 +14,6 @@
 #include <QtCore/QVariant>
 
 #include <cmath>
-#include <stdexcept>
 #include <utility>
 
 namespace kiv::navigation {
@@ -195,7 +195,7 @@ std::set<numira::Currency> UserPreferences::usableCurrencies() const
         const QVariant value = m_store->value(internal::currenciesUsableKey);
         // An empty list comes back from the file as an invalid value.
         if (value.isValid() && !value.canConvert<QStringList>())
-            throw std::runtime_error("The value is not a list of texts.");
+            throw internal::faults::notAListOfTexts();
         std::set<numira::Currency> currencies;
         for (const QString &code : value.toStringList())
             currencies.insert(toCurrency(code));

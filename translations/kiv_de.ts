@@ -4248,9 +4248,6 @@
         <source>The import profile has a wrong value for &apos;%1&apos;.</source>
         <translation>Das Importprofil hat einen falschen Wert für „%1“.</translation>
     </message>
-</context>
-<context>
-    <name>kiv::navigation::Navigator</name>
     <message>
         <source>The provided item type does not match the item&apos;s type.</source>
         <translation>Die angegebene Art passt nicht zur Art des Postens.</translation>

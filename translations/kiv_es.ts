@@ -4248,9 +4248,6 @@
         <source>The import profile has a wrong value for &apos;%1&apos;.</source>
         <translation>El perfil de importación tiene un valor incorrecto para «%1».</translation>
     </message>
-</context>
-<context>
-    <name>kiv::navigation::Navigator</name>
     <message>
         <source>The provided item type does not match the item&apos;s type.</source>
         <translation>El tipo indicado no coincide con el tipo de la partida.</translation>

@@ -62,9 +62,4 @@ std::ostream &operator<<(std::ostream &out, const Account &account)
     return out;
 }
 
-QDebug operator<<(QDebug debug, const Account &account)
-{
-    return foundation::streamed(std::move(debug), account);
-}
-
 } // namespace kiv::accounting

@@ -5,6 +5,8 @@
 #include "accounting/account_types.h"
 #include "accounting/transaction_list.h"
 
+#include "foundation/debug_stream.h"
+
 #include "numira/money.h"
 
 namespace kiv::accounting {
@@ -30,13 +32,13 @@ public:
     [[nodiscard]] bool isClosed() const noexcept { return m_isClosed; }
     /// The account's transactions; none for an account that no ledger gave.
     [[nodiscard]] const TransactionList &transactions() const &noexcept { return m_transactions; }
-    /// A copy, so that it outlives an account that only passes by, as in
+    /// A copy, so that it outlives a temporary account, as in
     /// `for (… : ledger.ledger(number).transactions())`.
     [[nodiscard]] TransactionList transactions() && { return m_transactions; }
 
     /// The same kind, code, balance, flag and transactions.
     friend KIV_ACCOUNTING_EXPORT bool operator==(const Account &a, const Account &b);
-    /// The order that the class tells.
+    /// In the order that the class describes.
     friend KIV_ACCOUNTING_EXPORT std::strong_ordering operator<=>(const Account &a,
                                                                   const Account &b) noexcept;
 
@@ -86,7 +88,7 @@ private:
 };
 
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, const Account &account);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const Account &account);
+using foundation::operator<<;
 
 } // namespace kiv::accounting
 

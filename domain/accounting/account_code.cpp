@@ -46,9 +46,4 @@ std::ostream &operator<<(std::ostream &out, const AccountCode &code)
     return out;
 }
 
-QDebug operator<<(QDebug debug, const AccountCode &code)
-{
-    return foundation::streamed(std::move(debug), code);
-}
-
 } // namespace kiv::accounting

@@ -3,6 +3,8 @@
 
 #include "accounting/account_number.h"
 
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QString>
 
 #include <optional>
@@ -56,7 +58,7 @@ private:
 [[nodiscard]] KIV_ACCOUNTING_EXPORT QString presentationText(const AccountCode &code);
 /// "1200 Checking", and " under 1000" behind it when it has a parent.
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, const AccountCode &code);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const AccountCode &code);
+using foundation::operator<<;
 
 } // namespace kiv::accounting
 

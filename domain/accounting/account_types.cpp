@@ -1,13 +1,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounting/account_types.h"
 
-#include "foundation/streams.h"
+#include "accounting/internal/mistakes.h"
+
+#include "foundation/enum_table.h"
 
 #include <QtCore/QObject>
 
-#include <stdexcept>
+#include <array>
+#include <ostream>
 
 namespace kiv::accounting {
+namespace {
+
+struct Type {
+    const char *name;
+    const char *text; ///< for the user
+};
+
+/// By the values of AccountTypes.
+constexpr std::array<Type, 6> types{{
+    {"unknown", QT_TRANSLATE_NOOP("QObject", "Unknown")},
+    {"asset", QT_TRANSLATE_NOOP("QObject", "Asset")},
+    {"equity", QT_TRANSLATE_NOOP("QObject", "Equity")},
+    {"expense", QT_TRANSLATE_NOOP("QObject", "Expense")},
+    {"liability", QT_TRANSLATE_NOOP("QObject", "Liability")},
+    {"income", QT_TRANSLATE_NOOP("QObject", "Income")},
+}};
+
+/// By the values of TransactionStatuses.
+constexpr std::array<const char *, 3> statuses{"none", "cleared", "reconciled"};
+
+const char *nameOf(AccountTypes type)
+{
+    if (const Type *known = foundation::entryOf(types, type))
+        return known->name;
+    throw internal::typeWithoutName();
+}
+
+const char *nameOf(TransactionStatuses status)
+{
+    if (const auto *known = foundation::entryOf(statuses, status))
+        return *known;
+    throw internal::statusWithoutName();
+}
+
+} // namespace
 
 bool isDebitNormal(AccountTypes type)
 {
@@ -22,78 +60,34 @@ bool isDebitNormal(AccountTypes type)
     case AccountTypes::Unknown:
         break;
     }
-    throw std::logic_error("An unknown account type has no side on which its balance is positive.");
+    throw internal::typeWithoutSide();
 }
 
 QString toQString(AccountTypes type)
 {
-    switch (type) {
-    case AccountTypes::Unknown:
-        return QStringLiteral("unknown");
-    case AccountTypes::Asset:
-        return QStringLiteral("asset");
-    case AccountTypes::Equity:
-        return QStringLiteral("equity");
-    case AccountTypes::Expense:
-        return QStringLiteral("expense");
-    case AccountTypes::Liability:
-        return QStringLiteral("liability");
-    case AccountTypes::Income:
-        return QStringLiteral("income");
-    }
-    throw std::logic_error("An unknown account type has no name.");
+    return QString::fromLatin1(nameOf(type));
 }
 
 QString presentationText(AccountTypes type)
 {
-    switch (type) {
-    case AccountTypes::Unknown:
-        return QObject::tr("Unknown");
-    case AccountTypes::Asset:
-        return QObject::tr("Asset");
-    case AccountTypes::Equity:
-        return QObject::tr("Equity");
-    case AccountTypes::Expense:
-        return QObject::tr("Expense");
-    case AccountTypes::Liability:
-        return QObject::tr("Liability");
-    case AccountTypes::Income:
-        return QObject::tr("Income");
-    }
-    throw std::logic_error("An unknown account type has no text.");
+    if (const Type *known = foundation::entryOf(types, type))
+        return QObject::tr(known->text);
+    throw internal::typeWithoutText();
 }
 
 std::ostream &operator<<(std::ostream &out, AccountTypes type)
 {
-    return out << toQString(type).toStdString();
-}
-
-QDebug operator<<(QDebug debug, AccountTypes type)
-{
-    return foundation::streamed(std::move(debug), type);
+    return out << nameOf(type);
 }
 
 QString toQString(TransactionStatuses status)
 {
-    switch (status) {
-    case TransactionStatuses::None:
-        return QStringLiteral("none");
-    case TransactionStatuses::Cleared:
-        return QStringLiteral("cleared");
-    case TransactionStatuses::Reconciled:
-        return QStringLiteral("reconciled");
-    }
-    throw std::logic_error("An unknown transaction status has no name.");
+    return QString::fromLatin1(nameOf(status));
 }
 
 std::ostream &operator<<(std::ostream &out, TransactionStatuses status)
 {
-    return out << toQString(status).toStdString();
-}
-
-QDebug operator<<(QDebug debug, TransactionStatuses status)
-{
-    return foundation::streamed(std::move(debug), status);
+    return out << nameOf(status);
 }
 
 } // namespace kiv::accounting

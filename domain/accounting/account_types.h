@@ -3,7 +3,8 @@
 
 #include "accounting/export.h"
 
-#include <QtCore/QDebug>
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QMetaType>
 
 #include <cstdint>
@@ -32,7 +33,6 @@ enum class AccountTypes : std::uint8_t {
 /// The name for the user.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT QString presentationText(AccountTypes type);
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, AccountTypes type);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, AccountTypes type);
 
 /// How far one side of a transaction has come.
 enum class TransactionStatuses : std::uint8_t {
@@ -44,7 +44,7 @@ enum class TransactionStatuses : std::uint8_t {
 /// The English name in lower case. Throws std::logic_error for any other value.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT QString toQString(TransactionStatuses status);
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, TransactionStatuses status);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, TransactionStatuses status);
+using foundation::operator<<;
 
 /// Which accounts a query takes.
 enum class OpenStates : std::uint8_t { Open = 1, Closed = 2, Either = 3 };

@@ -3,9 +3,7 @@
 
 #include "accounting/internal/faults.h"
 
-#include "foundation/presentation.h"
-
-#include "numira/error.h"
+#include "foundation/money_refusals.h"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>
 
@@ -18,13 +16,11 @@ numira::Money adjusted(const AccountCode &account, const numira::Money &balance,
     if (!transaction.involves(account.number()))
         return balance;
     const numira::Money &amount = transaction.amountFor(account.number());
-    try {
-        return increases ? balance + amount : balance - amount;
-    } catch (const numira::Error &cause) {
-        throw internal::balanceNotAdjusted(account, balance, amount, cause);
-    } catch (const foundation::Error &cause) {
-        throw internal::balanceNotAdjusted(account, balance, amount, cause);
-    }
+    return foundation::withMoneyRefusals(
+        [&] { return increases ? balance + amount : balance - amount; },
+        [&](const std::exception &cause) {
+            return internal::balanceNotAdjusted(account, balance, amount, cause);
+        });
 }
 
 /// Holds every product of an amount (37 digits) and a percentage exactly.
@@ -73,13 +69,11 @@ numira::Money adjustLiabilityBalance(const AccountCode &account, const numira::M
 bool isWithinWindow(const numira::Money &calculated, const foundation::Percentage &window,
                     const numira::Money &reference, ByMajorUnit /*both sides would be scaled*/)
 {
-    try {
-        return isWithin(calculated, window, reference);
-    } catch (const numira::Error &cause) {
-        throw internal::notComparable(calculated, reference, cause);
-    } catch (const foundation::Error &cause) {
-        throw internal::notComparable(calculated, reference, cause);
-    }
+    return foundation::withMoneyRefusals([&] { return isWithin(calculated, window, reference); },
+                                         [&](const std::exception &cause) {
+                                             return internal::notComparable(calculated, reference,
+                                                                            cause);
+                                         });
 }
 
 } // namespace kiv::accounting

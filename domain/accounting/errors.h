@@ -11,7 +11,7 @@ namespace kiv::accounting {
 /// An error about an account.
 class KIV_ACCOUNTING_EXPORT AccountError : public foundation::Error {
 public:
-    /// With what the user is told, the account, and the error behind it, if any.
+    /// `message` is for the user; `cause` is the error behind it, if any.
     AccountError(AccountCode code, const QString &message,
                  const std::exception &cause = std::exception());
     AccountError(const AccountError &) noexcept;
@@ -26,7 +26,7 @@ private:
 /// An error about a transaction; the number is 0 for one that was not posted.
 class KIV_ACCOUNTING_EXPORT TransactionError : public foundation::Error {
 public:
-    /// With what the user is told, the transaction, and the error behind it, if any.
+    /// `message` is for the user; `cause` is the error behind it, if any.
     TransactionError(TransactionNumber number, const QString &message,
                      const std::exception &cause = std::exception());
     TransactionError(const TransactionError &) noexcept;

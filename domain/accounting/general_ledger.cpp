@@ -2,6 +2,7 @@
 #include "accounting/general_ledger.h"
 
 #include "accounting/internal/ledger_state.h"
+#include "accounting/internal/mistakes.h"
 
 #include "foundation/streams.h"
 
@@ -29,7 +30,7 @@ bool isIn(OpenStates states, bool isClosed)
     case OpenStates::Either:
         return true;
     }
-    throw std::logic_error("Accounts are open, closed or either.");
+    throw internal::openStatesUnknown();
 }
 
 } // namespace
@@ -168,11 +169,6 @@ std::ostream &operator<<(std::ostream &out, const GeneralLedger &ledger)
     foundation::streamRange(out, ledger.accounts());
     out << ", transactions ";
     return foundation::streamRange(out, ledger.transactions());
-}
-
-QDebug operator<<(QDebug debug, const GeneralLedger &ledger)
-{
-    return foundation::streamed(std::move(debug), ledger);
 }
 
 std::set<numira::Currency> containedCurrencies(const GeneralLedger &ledger)

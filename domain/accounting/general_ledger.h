@@ -6,6 +6,7 @@
 #include "accounting/errors.h"
 
 #include "foundation/clock.h"
+#include "foundation/debug_stream.h"
 
 namespace kiv::accounting {
 
@@ -71,7 +72,7 @@ public:
     /// The accounts directly under this one.
     [[nodiscard]] std::set<AccountNumber> lookUpChildren(AccountNumber number,
                                                          OpenStates states) const;
-    /// Whether remove(number) would take the account away: it exists, has no
+    /// Whether remove(number) would remove the account: it exists, has no
     /// child and no transaction but its own opening one, and that is not
     /// reconciled. An opening transaction that was changed so that its other side
     /// holds no openings moves real money, and counts as any other. Closed
@@ -101,8 +102,8 @@ public:
     /// equity account is closed), a closing as by close.
     std::optional<TransactionNumber> add(const Account &account, AccountNumberGenerator &generator,
                                          QDate openedOn = foundation::today());
-    /// Takes an account away with its own opening transaction. Refused: an
-    /// unknown number, and whatever canRemove tells.
+    /// Removes an account with its own opening transaction. Refused: an
+    /// unknown number, and an account for which canRemove is false.
     void remove(AccountNumber number);
     /// Refused: unknown, open already.
     void open(const AccountCode &code);
@@ -137,10 +138,10 @@ public:
     /// currency, a full ledger, a balance out of range.
     TransactionNumber post(const Transaction &transaction);
     /// Replaces a transaction under its number. A side whose account stays
-    /// keeps its status, a new one has none; the opening mark stays. As long as
-    /// the amount stays, so does what it came to in a currency: correcting a
-    /// description needs no rate. A refund's amount is taken in the currency of
-    /// what it refunds.
+    /// keeps its status, a new one has none; the opening mark stays. While the
+    /// amount stays, its converted amounts stay too: correcting a description
+    /// needs no rate. A refund's amount is taken in the currency of what it
+    /// refunds.
     ///
     /// Refused as by post, and: an unknown number, a side that is reconciled, an
     /// account that it leaves and is closed, an opening transaction that would
@@ -202,6 +203,6 @@ private:
 /// The currencies in which accounts are kept and transactions were entered.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
 containedCurrencies(const GeneralLedger &ledger);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const GeneralLedger &ledger);
+using foundation::operator<<;
 
 } // namespace kiv::accounting

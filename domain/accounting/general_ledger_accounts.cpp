@@ -6,9 +6,8 @@
 #include "accounting/internal/posting.h"
 #include "accounting/number_handout.h"
 
+#include "foundation/money_refusals.h"
 #include "foundation/presentation.h"
-
-#include "numira/error.h"
 
 namespace kiv::accounting {
 namespace {
@@ -179,24 +178,20 @@ void GeneralLedger::convertTo(AccountNumber number, const numira::Currency &curr
             sides.emplace_back(at, *known);
             continue;
         }
-        numira::Money restated;
-        try {
-            restated = side.convertedTo(currency).rounded();
-        } catch (const numira::Error &cause) {
-            throw internal::notRestated(account.code, currency, at, cause);
-        } catch (const foundation::Error &cause) {
-            throw internal::notRestated(account.code, currency, at, cause);
-        }
+        const numira::Money restated = foundation::withMoneyRefusals(
+            [&] { return side.convertedTo(currency).rounded(); },
+            [&](const std::exception &cause) {
+                return internal::notRestated(account.code, currency, at, cause);
+            });
         if (!restated.isPositive())
             throw internal::restatedToNothing(account.code, currency, at, side);
         sides.emplace_back(at, restated);
     }
     GeneralLedger next(*this);
-    try {
-        next.change().restate(number, currency, sides);
-    } catch (const numira::Error &cause) {
-        throw internal::balanceOutOfRange(account.code, cause);
-    }
+    foundation::withMoneyRefusals([&] { next.change().restate(number, currency, sides); },
+                                  [&](const std::exception &cause) {
+                                      return internal::balanceOutOfRange(account.code, cause);
+                                  });
     *this = std::move(next);
 }
 

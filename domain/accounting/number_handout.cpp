@@ -3,18 +3,16 @@
 
 namespace kiv::accounting {
 
+NumberHandout::NumberHandout(AccountNumberGenerator &generator) : m_generator(generator) {}
+
+// When this throws, the object stands already, and its destructor takes the steps back.
 NumberHandout::NumberHandout(AccountNumberGenerator &generator, const GeneralLedger &ledger)
-    : m_generator(generator)
+    : NumberHandout(generator)
 {
-    try {
-        m_first = m_number = ++m_generator;
-        m_steps = 1;
-        for (; ledger.hasLedger(m_number); ++m_steps)
-            m_number = ++m_generator;
-    } catch (...) {
-        takeBack();
-        throw;
-    }
+    m_first = m_number = ++m_generator;
+    m_steps = 1;
+    for (; ledger.hasLedger(m_number); ++m_steps)
+        m_number = ++m_generator;
 }
 
 NumberHandout::~NumberHandout()

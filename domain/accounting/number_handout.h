@@ -5,11 +5,11 @@
 
 namespace kiv::accounting {
 
-/// The next number that no account of the ledger has, taken from a generator
-/// for as long as a change may still fail: unless keep() is called, every step
-/// that was made since is taken back, also those of hand-outs within it that
-/// were kept, so that the next hand-out gives the same number again if no
-/// account has it by then.
+/// Takes the next number that no account of the ledger has from a generator.
+///
+/// Unless keep() is called, every step made since is taken back, also those of
+/// hand-outs within it that were kept. The next hand-out then gives the same
+/// number again, if no account has it by then.
 class KIV_ACCOUNTING_EXPORT NumberHandout {
 public:
     /// Throws what the generator throws when it has no number left.
@@ -24,6 +24,7 @@ public:
     void keep() noexcept { m_steps = 0; }
 
 private:
+    explicit NumberHandout(AccountNumberGenerator &generator);
     void takeBack() noexcept;
 
     AccountNumberGenerator &m_generator;

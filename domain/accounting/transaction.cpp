@@ -6,21 +6,23 @@
 
 namespace kiv::accounting {
 
-Transaction::Transaction(QDate occurredOn) : m_occurredOn(occurredOn) {}
+Transaction::Transaction(QDate occurredOn) : m_parts{.occurredOn = occurredOn} {}
+
+Transaction::Transaction(internal::TransactionParts parts) noexcept : m_parts(std::move(parts)) {}
 
 Transaction::Transaction(QDate occurredOn, AccountCode debiting, AccountCode crediting,
                          const numira::Money &amount, std::optional<QString> description,
                          std::optional<TransactionNumber> number, TransactionStatuses statuses)
-    : m_occurredOn(occurredOn),
-      m_debiting(std::move(debiting)),
-      m_crediting(std::move(crediting)),
-      m_amount(amount),
-      m_debitAmount(amount),
-      m_creditAmount(amount),
-      m_description(std::move(description)),
-      m_number(number),
-      m_debitStatus(statuses),
-      m_creditStatus(statuses)
+    : m_parts{.occurredOn = occurredOn,
+              .debiting = std::move(debiting),
+              .crediting = std::move(crediting),
+              .amount = amount,
+              .debitAmount = amount,
+              .creditAmount = amount,
+              .description = std::move(description),
+              .number = number,
+              .debitStatus = statuses,
+              .creditStatus = statuses}
 {
 }
 
@@ -35,39 +37,39 @@ Transaction::Transaction(QDate occurredOn, AccountNumber debiting, AccountNumber
 
 const numira::Money &Transaction::amountFor(AccountNumber account) const noexcept
 {
-    if (account == m_debiting.number())
-        return m_debitAmount;
-    if (account == m_crediting.number())
-        return m_creditAmount;
-    return m_amount;
+    if (account == m_parts.debiting.number())
+        return m_parts.debitAmount;
+    if (account == m_parts.crediting.number())
+        return m_parts.creditAmount;
+    return m_parts.amount;
 }
 
 TransactionStatuses Transaction::status() const noexcept
 {
-    if (m_seenFrom.isValid() && m_seenFrom == m_debiting.number())
-        return m_debitStatus;
-    if (m_seenFrom.isValid() && m_seenFrom == m_crediting.number())
-        return m_creditStatus;
-    return std::min(m_debitStatus, m_creditStatus);
+    if (m_parts.seenFrom.isValid() && m_parts.seenFrom == m_parts.debiting.number())
+        return m_parts.debitStatus;
+    if (m_parts.seenFrom.isValid() && m_parts.seenFrom == m_parts.crediting.number())
+        return m_parts.creditStatus;
+    return std::min(m_parts.debitStatus, m_parts.creditStatus);
 }
 
 bool Transaction::involves(AccountNumber account) const noexcept
 {
-    return account == m_debiting.number() || account == m_crediting.number();
+    return account == m_parts.debiting.number() || account == m_parts.crediting.number();
 }
 
 Transaction Transaction::withStatuses(TransactionStatuses debit, TransactionStatuses credit) const
 {
     Transaction result = *this;
-    result.m_debitStatus = debit;
-    result.m_creditStatus = credit;
+    result.m_parts.debitStatus = debit;
+    result.m_parts.creditStatus = credit;
     return result;
 }
 
 Transaction Transaction::seenFrom(AccountNumber account) const
 {
     Transaction result = *this;
-    result.m_seenFrom = account;
+    result.m_parts.seenFrom = account;
     return result;
 }
 
@@ -75,22 +77,22 @@ Transaction Transaction::withSideAmounts(const numira::Money &debit,
                                          const numira::Money &credit) const
 {
     Transaction result = *this;
-    result.m_debitAmount = debit;
-    result.m_creditAmount = credit;
+    result.m_parts.debitAmount = debit;
+    result.m_parts.creditAmount = credit;
     return result;
 }
 
 Transaction Transaction::withNumber(TransactionNumber number) const
 {
     Transaction result = *this;
-    result.m_number = number;
+    result.m_parts.number = number;
     return result;
 }
 
 Transaction Transaction::asRefundOf(std::optional<TransactionNumber> original) const
 {
     Transaction result = *this;
-    result.m_refundOf = original;
+    result.m_parts.refundOf = original;
     return result;
 }
 
@@ -99,38 +101,39 @@ bool operator==(const Transaction &a, const Transaction &b) noexcept
     return (a <=> b) == 0;
 }
 
-std::strong_ordering operator<=>(const Transaction &a, const Transaction &b) noexcept
+std::strong_ordering operator<=>(const Transaction &left, const Transaction &right) noexcept
 {
-    const auto byMoney = [&a, &b](numira::Money Transaction::*amount) {
+    using Parts = internal::TransactionParts;
+    const Parts &a = left.m_parts;
+    const Parts &b = right.m_parts;
+    const auto byMoney = [&a, &b](numira::Money Parts::*amount) {
         return numira::compareExactly(a.*amount, b.*amount);
     };
-    const auto byText = [](const std::optional<QString> &left,
-                           const std::optional<QString> &right) -> std::strong_ordering {
-        if (left && right)
-            return left->compare(*right) <=> 0;
-        return left.has_value() <=> right.has_value();
+    const auto byText = [](const std::optional<QString> &one,
+                           const std::optional<QString> &other) -> std::strong_ordering {
+        if (one && other)
+            return one->compare(*other) <=> 0;
+        return one.has_value() <=> other.has_value();
     };
-    if (const auto order = a.m_number <=> b.m_number; order != 0)
+    if (const auto order = a.number <=> b.number; order != 0)
         return order;
-    if (const auto order = a.m_occurredOn.toJulianDay() <=> b.m_occurredOn.toJulianDay();
-        order != 0)
+    if (const auto order = a.occurredOn.toJulianDay() <=> b.occurredOn.toJulianDay(); order != 0)
         return order;
-    if (const auto order = a.m_debiting <=> b.m_debiting; order != 0)
+    if (const auto order = a.debiting <=> b.debiting; order != 0)
         return order;
-    if (const auto order = a.m_crediting <=> b.m_crediting; order != 0)
+    if (const auto order = a.crediting <=> b.crediting; order != 0)
         return order;
-    for (const auto amount :
-         {&Transaction::m_amount, &Transaction::m_debitAmount, &Transaction::m_creditAmount}) {
+    for (const auto amount : {&Parts::amount, &Parts::debitAmount, &Parts::creditAmount}) {
         if (const auto order = byMoney(amount); order != 0)
             return order;
     }
-    if (const auto order = a.m_debitStatus <=> b.m_debitStatus; order != 0)
+    if (const auto order = a.debitStatus <=> b.debitStatus; order != 0)
         return order;
-    if (const auto order = a.m_creditStatus <=> b.m_creditStatus; order != 0)
+    if (const auto order = a.creditStatus <=> b.creditStatus; order != 0)
         return order;
-    if (const auto order = a.m_refundOf <=> b.m_refundOf; order != 0)
+    if (const auto order = a.refundOf <=> b.refundOf; order != 0)
         return order;
-    return byText(a.m_description, b.m_description);
+    return byText(a.description, b.description);
 }
 
 std::ostream &operator<<(std::ostream &out, const Transaction &transaction)
@@ -147,11 +150,6 @@ std::ostream &operator<<(std::ostream &out, const Transaction &transaction)
     if (const auto &description = transaction.description())
         out << ", \"" << foundation::escapedUtf8(*description) << '"';
     return out;
-}
-
-QDebug operator<<(QDebug debug, const Transaction &transaction)
-{
-    return foundation::streamed(std::move(debug), transaction);
 }
 
 } // namespace kiv::accounting

@@ -5,6 +5,8 @@
 #include "accounting/account_types.h"
 #include "accounting/transaction_number.h"
 
+#include "foundation/debug_stream.h"
+
 #include "numira/money.h"
 
 #include <QtCore/QDate>
@@ -12,7 +14,23 @@
 namespace kiv::accounting {
 
 namespace internal {
-struct LedgerState;
+
+/// All that a transaction holds.
+struct TransactionParts {
+    QDate occurredOn = {};
+    AccountCode debiting = {};
+    AccountCode crediting = {};
+    numira::Money amount = {};
+    numira::Money debitAmount = {};
+    numira::Money creditAmount = {};
+    std::optional<QString> description = {};
+    std::optional<TransactionNumber> number = {};
+    std::optional<TransactionNumber> refundOf = {};
+    TransactionStatuses debitStatus = TransactionStatuses::None;
+    TransactionStatuses creditStatus = TransactionStatuses::None;
+    AccountNumber seenFrom = {}; ///< invalid when it is seen from no side
+};
+
 } // namespace internal
 
 /// Money that moves between two accounts on a day: the first account is
@@ -29,6 +47,8 @@ public:
     Transaction() = default;
     /// A day without a transaction, for comparing and looking up.
     explicit Transaction(QDate occurredOn);
+    /// The transaction as the ledger keeps it, whole.
+    explicit Transaction(internal::TransactionParts parts) noexcept;
     /// Both sides start with `statuses`.
     Transaction(QDate occurredOn, AccountCode debiting, AccountCode crediting,
                 const numira::Money &amount, std::optional<QString> description = std::nullopt,
@@ -41,45 +61,48 @@ public:
                 TransactionStatuses statuses = TransactionStatuses::None);
 
     /// The day; invalid in a default-constructed transaction.
-    [[nodiscard]] QDate occurredOn() const noexcept { return m_occurredOn; }
+    [[nodiscard]] QDate occurredOn() const noexcept { return m_parts.occurredOn; }
     /// The account that is debited.
-    [[nodiscard]] const AccountCode &debiting() const noexcept { return m_debiting; }
+    [[nodiscard]] const AccountCode &debiting() const noexcept { return m_parts.debiting; }
     /// The account that is credited.
-    [[nodiscard]] const AccountCode &crediting() const noexcept { return m_crediting; }
+    [[nodiscard]] const AccountCode &crediting() const noexcept { return m_parts.crediting; }
     /// The amount in the currency in which it was entered.
-    [[nodiscard]] const numira::Money &amount() const noexcept { return m_amount; }
+    [[nodiscard]] const numira::Money &amount() const noexcept { return m_parts.amount; }
     /// What it was for, in the user's words; nothing when nothing was said.
     [[nodiscard]] const std::optional<QString> &description() const noexcept
     {
-        return m_description;
+        return m_parts.description;
     }
     /// The description out of a transaction that is not needed any more.
     [[nodiscard]] std::optional<QString> takeDescription() &&noexcept
     {
-        return std::exchange(m_description, std::nullopt);
+        return std::exchange(m_parts.description, std::nullopt);
     }
     /// The ledger's number; nothing before it is posted.
     [[nodiscard]] const std::optional<TransactionNumber> &number() const noexcept
     {
-        return m_number;
+        return m_parts.number;
     }
     /// The transaction that this one refunds, if any.
     [[nodiscard]] const std::optional<TransactionNumber> &refundOf() const noexcept
     {
-        return m_refundOf;
+        return m_parts.refundOf;
     }
 
     /// The amount in the debited account's currency; amount() before posting.
-    [[nodiscard]] const numira::Money &debitAmount() const noexcept { return m_debitAmount; }
+    [[nodiscard]] const numira::Money &debitAmount() const noexcept { return m_parts.debitAmount; }
     /// The amount in the credited account's currency; amount() before posting.
-    [[nodiscard]] const numira::Money &creditAmount() const noexcept { return m_creditAmount; }
+    [[nodiscard]] const numira::Money &creditAmount() const noexcept
+    {
+        return m_parts.creditAmount;
+    }
     /// The amount on the side of `account`; amount() when it is on neither.
     [[nodiscard]] const numira::Money &amountFor(AccountNumber account) const noexcept;
 
     /// How far the debited account's side is checked against a statement.
-    [[nodiscard]] TransactionStatuses debitStatus() const noexcept { return m_debitStatus; }
+    [[nodiscard]] TransactionStatuses debitStatus() const noexcept { return m_parts.debitStatus; }
     /// How far the credited account's side is checked against a statement.
-    [[nodiscard]] TransactionStatuses creditStatus() const noexcept { return m_creditStatus; }
+    [[nodiscard]] TransactionStatuses creditStatus() const noexcept { return m_parts.creditStatus; }
     /// The status of the side from which the transaction is seen; when it is
     /// seen from none, the lower of both.
     [[nodiscard]] TransactionStatuses status() const noexcept;
@@ -109,24 +132,11 @@ public:
                                                                   const Transaction &b) noexcept;
 
 private:
-    friend struct internal::LedgerState; // makes it whole from what it keeps
-
-    QDate m_occurredOn;
-    AccountCode m_debiting;
-    AccountCode m_crediting;
-    numira::Money m_amount;
-    numira::Money m_debitAmount;
-    numira::Money m_creditAmount;
-    std::optional<QString> m_description;
-    std::optional<TransactionNumber> m_number;
-    std::optional<TransactionNumber> m_refundOf;
-    TransactionStatuses m_debitStatus = TransactionStatuses::None;
-    TransactionStatuses m_creditStatus = TransactionStatuses::None;
-    AccountNumber m_seenFrom;
+    internal::TransactionParts m_parts;
 };
 
 KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out, const Transaction &transaction);
-KIV_ACCOUNTING_EXPORT QDebug operator<<(QDebug debug, const Transaction &transaction);
+using foundation::operator<<;
 
 } // namespace kiv::accounting
 

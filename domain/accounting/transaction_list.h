@@ -11,11 +11,12 @@ namespace kiv::accounting {
 
 namespace internal {
 struct AccountRecord;
+struct LedgerState;
 } // namespace internal
 
 /// The transactions of one account in the order of their numbers, as they
 /// stood when the account was read: a later change of the ledger does not show.
-/// It shares the ledger's own store, so that it costs nothing to copy or pass on.
+/// It shares the ledger's own store, so copies cost nothing.
 ///
 /// Each transaction is made when it is asked for, with the codes that the
 /// accounts had at that time, and is seen from this account's side.

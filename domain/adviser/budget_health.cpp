@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "adviser/budget_health.h"
 
+#include "foundation/enum_table.h"
 #include "foundation/streams.h"
 #include "numira/local_text.h"
 
@@ -161,10 +162,9 @@ QString toQString(HealthGrade grade)
 
 std::ostream &operator<<(std::ostream &out, HealthGrade grade)
 {
-    const auto value = static_cast<std::size_t>(grade);
-    if (value < gradeNames.size())
-        return out << gradeNames.at(value);
-    return out << "unknown grade " << value;
+    if (const auto *name = foundation::entryOf(gradeNames, grade))
+        return out << *name;
+    return out << "unknown grade " << static_cast<std::size_t>(grade);
 }
 
 std::ostream &operator<<(std::ostream &out, const BudgetHealth &health)
@@ -176,16 +176,6 @@ std::ostream &operator<<(std::ostream &out, const BudgetHealth &health)
         separator = " ";
     }
     return out << ')';
-}
-
-QDebug operator<<(QDebug debug, HealthGrade grade)
-{
-    return foundation::streamed(debug, grade);
-}
-
-QDebug operator<<(QDebug debug, const BudgetHealth &health)
-{
-    return foundation::streamed(debug, health);
 }
 
 } // namespace kiv::adviser

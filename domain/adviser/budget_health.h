@@ -4,8 +4,8 @@
 #include "adviser/export.h"
 
 #include "budgeting/budget_totals.h"
+#include "foundation/debug_stream.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -78,8 +78,7 @@ private:
 
 KIV_ADVISER_EXPORT std::ostream &operator<<(std::ostream &out, HealthGrade grade);
 KIV_ADVISER_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetHealth &health);
-KIV_ADVISER_EXPORT QDebug operator<<(QDebug debug, HealthGrade grade);
-KIV_ADVISER_EXPORT QDebug operator<<(QDebug debug, const BudgetHealth &health);
+using foundation::operator<<;
 
 } // namespace kiv::adviser
 

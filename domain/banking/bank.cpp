@@ -21,9 +21,4 @@ std::ostream &operator<<(std::ostream &out, const Bank &bank)
     return out << (bank.isClosed() ? "] closed" : "]");
 }
 
-QDebug operator<<(QDebug debug, const Bank &bank)
-{
-    return foundation::streamed(debug, bank);
-}
-
 } // namespace kiv::banking

@@ -3,6 +3,8 @@
 
 #include "banking/bank_account.h"
 
+#include "foundation/debug_stream.h"
+
 #include <map>
 
 namespace kiv::banking {
@@ -34,7 +36,7 @@ private:
 
 /// "First [1200=>checking, 1300=>savings]", and " closed" behind it.
 KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, const Bank &bank);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const Bank &bank);
+using foundation::operator<<;
 
 } // namespace kiv::banking
 

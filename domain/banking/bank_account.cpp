@@ -71,29 +71,4 @@ std::ostream &operator<<(std::ostream &out, const ReconciledBalance &balance)
     return out << " in " << balance.currency;
 }
 
-QDebug operator<<(QDebug debug, const BankName &name)
-{
-    return foundation::streamed(debug, name);
-}
-
-QDebug operator<<(QDebug debug, const AccountNumberBankType &account)
-{
-    return foundation::streamed(debug, account);
-}
-
-QDebug operator<<(QDebug debug, const BankAccount &account)
-{
-    return foundation::streamed(debug, account);
-}
-
-QDebug operator<<(QDebug debug, const ReconciledBankAccount &account)
-{
-    return foundation::streamed(debug, account);
-}
-
-QDebug operator<<(QDebug debug, const ReconciledBalance &balance)
-{
-    return foundation::streamed(debug, balance);
-}
-
 } // namespace kiv::banking

@@ -4,6 +4,7 @@
 #include "banking/bank_account_types.h"
 
 #include "accounting/account_number.h"
+#include "foundation/debug_stream.h"
 
 #include "numira/money.h"
 
@@ -110,11 +111,7 @@ KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, const BankAccount
 KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out,
                                             const ReconciledBankAccount &account);
 KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, const ReconciledBalance &balance);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const BankName &name);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const AccountNumberBankType &account);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const BankAccount &account);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const ReconciledBankAccount &account);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const ReconciledBalance &balance);
+using foundation::operator<<;
 
 } // namespace kiv::banking
 

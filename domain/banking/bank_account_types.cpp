@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "banking/bank_account_types.h"
 
-#include "foundation/streams.h"
+#include "banking/internal/mistakes.h"
+
+#include "foundation/enum_table.h"
 
 #include <QtCore/QObject>
 
 #include <array>
-#include <stdexcept>
+#include <ostream>
 
 namespace kiv::banking {
 namespace {
@@ -31,10 +33,9 @@ constexpr std::array<Kind, 9> kinds{{
 
 const Kind &kindOf(BankAccountTypes type)
 {
-    const auto value = static_cast<std::size_t>(type);
-    if (value >= kinds.size())
-        throw std::logic_error("An unknown bank account type was supplied.");
-    return kinds[value];
+    if (const Kind *known = foundation::entryOf(kinds, type))
+        return *known;
+    throw internal::bankAccountTypeUnknown();
 }
 
 } // namespace
@@ -67,11 +68,6 @@ QString presentationText(BankAccountTypes type)
 std::ostream &operator<<(std::ostream &out, BankAccountTypes type)
 {
     return out << kindOf(type).name;
-}
-
-QDebug operator<<(QDebug debug, BankAccountTypes type)
-{
-    return foundation::streamed(debug, type);
 }
 
 } // namespace kiv::banking

@@ -4,6 +4,7 @@
 #include "banking/export.h"
 
 #include "accounting/account_types.h"
+#include "foundation/debug_stream.h"
 
 namespace kiv::banking {
 
@@ -35,7 +36,7 @@ enum class BankAccountTypes : std::uint8_t {
 /// The name for the user.
 [[nodiscard]] KIV_BANKING_EXPORT QString presentationText(BankAccountTypes type);
 KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, BankAccountTypes type);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, BankAccountTypes type);
+using foundation::operator<<;
 
 } // namespace kiv::banking
 

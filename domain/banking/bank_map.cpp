@@ -125,9 +125,4 @@ std::ostream &operator<<(std::ostream &out, const BankMap &banks)
     return foundation::streamRange(out, banks | std::views::values);
 }
 
-QDebug operator<<(QDebug debug, const BankMap &banks)
-{
-    return foundation::streamed(debug, banks);
-}
-
 } // namespace kiv::banking

@@ -3,6 +3,8 @@
 
 #include "banking/bank.h"
 
+#include "foundation/debug_stream.h"
+
 namespace kiv::banking {
 
 /// The banks of a budget, in the order of their names. Every refusal is a
@@ -63,7 +65,7 @@ private:
 
 /// The banks' own forms between parentheses, ", " between them.
 KIV_BANKING_EXPORT std::ostream &operator<<(std::ostream &out, const BankMap &banks);
-KIV_BANKING_EXPORT QDebug operator<<(QDebug debug, const BankMap &banks);
+using foundation::operator<<;
 
 } // namespace kiv::banking
 

@@ -10,7 +10,7 @@ namespace kiv::banking {
 /// An error about a bank.
 class KIV_BANKING_EXPORT BankError : public foundation::Error {
 public:
-    /// With what the user is told, the bank, and the error behind it, if any.
+    /// `message` is for the user; `cause` is the error behind it, if any.
     BankError(BankName name, const QString &message,
               const std::exception &cause = std::exception());
     BankError(const BankError &) noexcept;

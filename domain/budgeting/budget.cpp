@@ -60,9 +60,4 @@ std::ostream &operator<<(std::ostream &out, const Budget &budget)
                << budget.goals << ", nontracks " << budget.nontracks << ", wages " << budget.wages;
 }
 
-QDebug operator<<(QDebug debug, const Budget &budget)
-{
-    return foundation::streamed(debug, budget);
-}
-
 } // namespace kiv::budgeting

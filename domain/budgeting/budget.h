@@ -3,6 +3,8 @@
 
 #include "budgeting/budgeted_money_map.h"
 
+#include "foundation/debug_stream.h"
+
 #include <map>
 #include <set>
 
@@ -87,6 +89,6 @@ findBudgetItem(const BudgetItemIdentifier &id, const Budget &budget);
 containedCurrencies(const Budget &budget);
 
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const Budget &budget);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const Budget &budget);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting

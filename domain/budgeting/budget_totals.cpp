@@ -33,9 +33,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetTotals &totals)
                << totals.wages();
 }
 
-QDebug operator<<(QDebug debug, const BudgetTotals &totals)
-{
-    return foundation::streamed(debug, totals);
-}
-
 } // namespace kiv::budgeting

@@ -3,10 +3,12 @@
 
 #include "budgeting/budget.h"
 
+#include "foundation/debug_stream.h"
+
 namespace kiv::budgeting {
 
-/// What each kind of item comes to in one currency per period: for the
-/// dashboard, and for judging the budget's health.
+/// The totals of each kind of item in one currency per period, for the
+/// dashboard and for judging the budget's health.
 class KIV_BUDGETING_EXPORT BudgetTotals {
 public:
     BudgetTotals() = default;
@@ -43,7 +45,7 @@ private:
 };
 
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetTotals &totals);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetTotals &totals);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting
 

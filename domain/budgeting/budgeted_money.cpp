@@ -82,9 +82,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetedMoney &item)
     return out;
 }
 
-QDebug operator<<(QDebug debug, const BudgetedMoney &item)
-{
-    return foundation::streamed(debug, item);
-}
-
 } // namespace kiv::budgeting

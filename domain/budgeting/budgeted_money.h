@@ -5,6 +5,7 @@
 #include "budgeting/identifiers.h"
 
 #include "foundation/clonable.h"
+#include "foundation/debug_stream.h"
 
 #include <typeindex>
 
@@ -46,7 +47,7 @@ public:
     /// Moves the next date on by one period. Throws foundation::Error when it
     /// cannot (see nextOccurrence); then nothing has changed.
     void updateNextOccurOn();
-    /// Gives the item another name; whoever keeps it under its name sees to the key.
+    /// Gives the item another name. A map that has it under its name must change the key.
     void rename(BudgetSource source) noexcept { m_source = std::move(source); }
     /// For an item read from a file, whose next date may stand in a short
     /// month. Throws BudgetItemError outside 1 to 31.
@@ -85,7 +86,7 @@ static_assert(foundation::RequireClonable<BudgetedMoney>);
 /// The kind whose class has this type index; None for any other type.
 [[nodiscard]] KIV_BUDGETING_EXPORT BudgetItemTypes toBudgetItemTypes(std::type_index type);
 
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetedMoney &item);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting
 

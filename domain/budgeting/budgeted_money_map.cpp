@@ -1,33 +1,60 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budgeting/budgeted_money_map.h"
 
-#include "foundation/streams.h"
+#include "budgeting/internal/faults.h"
 
 namespace kiv::budgeting {
 
-QDebug operator<<(QDebug debug, const BillMap &map)
+template <BudgetItem T>
+void BudgetedMoneyMap<T>::add(T item)
 {
-    return foundation::streamed(debug, map);
+    const BudgetSource source = item.source();
+    if (source.isEmpty())
+        throw internal::newSourceEmpty(source);
+    if (m_items.contains(source))
+        throw internal::newSourceExists(source);
+    m_items.emplace(source, std::move(item));
 }
 
-QDebug operator<<(QDebug debug, const DebtMap &map)
+template <BudgetItem T>
+void BudgetedMoneyMap<T>::remove(const BudgetSource &source)
 {
-    return foundation::streamed(debug, map);
+    if (m_items.erase(source) == 0)
+        throw internal::cannotRemoveMissing(source);
 }
 
-QDebug operator<<(QDebug debug, const GoalMap &map)
+template <BudgetItem T>
+void BudgetedMoneyMap<T>::update(T item)
 {
-    return foundation::streamed(debug, map);
+    const auto stored = m_items.find(item.source());
+    if (stored == m_items.end())
+        throw internal::cannotUpdateMissing(item.source());
+    if (stored->second.amount().code() != item.amount().code()) {
+        remove(item.source());
+        add(std::move(item));
+    } else {
+        stored->second = std::move(item);
+    }
 }
 
-QDebug operator<<(QDebug debug, const NontrackMap &map)
+template <BudgetItem T>
+void BudgetedMoneyMap<T>::rename(const BudgetSource &from, BudgetSource to)
 {
-    return foundation::streamed(debug, map);
+    const auto stored = m_items.find(from);
+    if (stored == m_items.end())
+        throw internal::cannotRenameMissing(from);
+    T copy = stored->second;
+    if (m_items.contains(to))
+        throw internal::cannotRenameOnto(copy.source(), to);
+    copy.rename(to);
+    m_items.emplace(std::move(to), std::move(copy));
+    remove(from);
 }
 
-QDebug operator<<(QDebug debug, const WageMap &map)
-{
-    return foundation::streamed(debug, map);
-}
+template class BudgetedMoneyMap<Bill>;
+template class BudgetedMoneyMap<Debt>;
+template class BudgetedMoneyMap<Goal>;
+template class BudgetedMoneyMap<Nontrack>;
+template class BudgetedMoneyMap<Wage>;
 
 } // namespace kiv::budgeting

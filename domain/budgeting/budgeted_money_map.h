@@ -4,7 +4,7 @@
 #include "budgeting/errors.h"
 #include "budgeting/item_traits.h"
 
-#include <QtCore/QObject>
+#include "foundation/debug_stream.h"
 
 #include <map>
 #include <ostream>
@@ -12,8 +12,8 @@
 namespace kiv::budgeting {
 
 /// The budget's items of one kind by their sources; the key is always the
-/// item's own source. Every refusal is a BudgetItemError and, with the one
-/// exception that update tells, leaves the map unchanged.
+/// item's own source. Every refusal is a BudgetItemError and leaves the map
+/// unchanged, with one exception in update().
 template <BudgetItem T>
 class BudgetedMoneyMap {
 public:
@@ -63,76 +63,32 @@ public:
     }
 
     /// Refused: an empty name, a name in use.
-    void add(T item)
-    {
-        const BudgetSource source = item.source();
-        if (source.isEmpty()) {
-            throw BudgetItemError(
-                source, QObject::tr("The new budgeted money item source cannot be empty."));
-        }
-        if (m_items.contains(source)) {
-            throw BudgetItemError(
-                source, QObject::tr("The new budgeted money item source already exists."));
-        }
-        m_items.emplace(source, std::move(item));
-    }
+    void add(T item);
 
     /// Refused: no item of this name.
-    void remove(const BudgetSource &source)
-    {
-        if (m_items.erase(source) == 0) {
-            throw BudgetItemError(
-                source,
-                QObject::tr("Failed to remove the budgeted money item as it does not exist."));
-        }
-    }
+    void remove(const BudgetSource &source);
 
     /// Replaces the item of the same source. With another currency it is
     /// removed and added again, so that the checks of add run again; when those
     /// refuse it (its source is empty, since it was renamed to that), the item
     /// is gone.
-    void update(T item)
-    {
-        const auto stored = m_items.find(item.source());
-        if (stored == m_items.end()) {
-            throw BudgetItemError(
-                item.source(),
-                QObject::tr("Cannot update the budgeted money item as it does not exist."));
-        }
-        if (stored->second.amount().code() != item.amount().code()) {
-            remove(item.source());
-            add(std::move(item));
-        } else {
-            stored->second = std::move(item);
-        }
-    }
+    void update(T item);
 
     /// Renaming onto the own name is refused like any other name in use; an
     /// empty new name is accepted.
-    void rename(const BudgetSource &from, BudgetSource to)
-    {
-        const auto stored = m_items.find(from);
-        if (stored == m_items.end()) {
-            throw BudgetItemError(from, QObject::tr("Cannot rename the budgeted money item source "
-                                                    "as it does not exist."));
-        }
-        T copy = stored->second;
-        if (m_items.contains(to)) {
-            throw BudgetItemError(copy.source(),
-                                  QObject::tr("Cannot rename the budgeted money item source, as "
-                                              "the new source, %1, already exists.")
-                                      .arg(to.name()));
-        }
-        copy.rename(to);
-        m_items.emplace(std::move(to), std::move(copy));
-        remove(from);
-    }
+    void rename(const BudgetSource &from, BudgetSource to);
 
     friend bool operator==(const BudgetedMoneyMap &, const BudgetedMoneyMap &) = default;
 
 private:
     std::map<BudgetSource, T> m_items;
 };
+
+extern template class KIV_BUDGETING_EXPORT BudgetedMoneyMap<Bill>;
+extern template class KIV_BUDGETING_EXPORT BudgetedMoneyMap<Debt>;
+extern template class KIV_BUDGETING_EXPORT BudgetedMoneyMap<Goal>;
+extern template class KIV_BUDGETING_EXPORT BudgetedMoneyMap<Nontrack>;
+extern template class KIV_BUDGETING_EXPORT BudgetedMoneyMap<Wage>;
 
 // Classes of their own rather than aliases: the names under which they cross
 // signals and slots.
@@ -155,11 +111,7 @@ std::ostream &operator<<(std::ostream &out, const BudgetedMoneyMap<T> &map)
     return out << ')';
 }
 
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BillMap &map);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const DebtMap &map);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const GoalMap &map);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const NontrackMap &map);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const WageMap &map);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting
 

@@ -29,9 +29,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetItemAmountDue &due)
     return out << due.id << ' ' << due.amount;
 }
 
-QDebug operator<<(QDebug debug, const BudgetItemAmountDue &due)
-{
-    return foundation::streamed(debug, due);
-}
-
 } // namespace kiv::budgeting

@@ -4,6 +4,7 @@
 #include "budgeting/budget.h"
 
 #include "foundation/clock.h"
+#include "foundation/debug_stream.h"
 
 #include <chrono>
 #include <vector>
@@ -28,7 +29,7 @@ struct KIV_BUDGETING_EXPORT BudgetItemAmountDue {
 budgetItemsDue(std::chrono::days within, const Budget &budget, QDate today = foundation::today());
 
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemAmountDue &due);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemAmountDue &due);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting
 

@@ -10,7 +10,7 @@ namespace kiv::budgeting {
 /// An error about a budget item.
 class KIV_BUDGETING_EXPORT BudgetItemError : public foundation::Error {
 public:
-    /// With what the user is told, the item, and the error behind it, if any.
+    /// `message` is for the user; `cause` is the error behind it, if any.
     BudgetItemError(BudgetSource source, const QString &message,
                     const std::exception &cause = std::exception());
     BudgetItemError(const BudgetItemError &) noexcept;

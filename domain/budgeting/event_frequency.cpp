@@ -2,15 +2,16 @@
 #include "budgeting/event_frequency.h"
 
 #include "budgeting/internal/faults.h"
+#include "budgeting/internal/mistakes.h"
 
 #include "foundation/dates.h"
-#include "foundation/streams.h"
+#include "foundation/enum_table.h"
 
 #include <QtCore/QObject>
 
 #include <algorithm>
 #include <array>
-#include <stdexcept>
+#include <ostream>
 
 namespace kiv::budgeting {
 namespace {
@@ -45,10 +46,9 @@ constexpr std::array<Recurrence, 16> recurrences{{
 
 const Recurrence &recurrenceOf(EventFrequency frequency)
 {
-    const auto value = static_cast<std::size_t>(frequency);
-    if (value >= recurrences.size())
-        throw std::logic_error("An unknown event frequency was supplied.");
-    return recurrences[value];
+    if (const Recurrence *known = foundation::entryOf(recurrences, frequency))
+        return *known;
+    throw internal::frequencyUnknown();
 }
 
 /// The day of the month of the earlier of the two dates of a month. The 31st
@@ -150,11 +150,6 @@ QString presentationText(EventFrequency frequency)
 std::ostream &operator<<(std::ostream &out, EventFrequency frequency)
 {
     return out << recurrenceOf(frequency).name;
-}
-
-QDebug operator<<(QDebug debug, EventFrequency frequency)
-{
-    return foundation::streamed(debug, frequency);
 }
 
 QDate nextOccurrence(EventFrequency frequency, QDate date, int dayOfMonth)

@@ -3,10 +3,11 @@
 
 #include "budgeting/export.h"
 
+#include "foundation/debug_stream.h"
+
 #include "numira/money.h"
 
 #include <QtCore/QDate>
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -44,7 +45,7 @@ enum class EventFrequency : std::uint8_t {
 /// The name for the user. Throws likewise.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString presentationText(EventFrequency frequency);
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, EventFrequency frequency);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, EventFrequency frequency);
+using foundation::operator<<;
 
 /// The date one period after `date`. Periods of a month and longer land on
 /// `dayOfMonth`, or on the last day of a month that is too short for it. Two

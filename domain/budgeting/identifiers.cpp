@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "budgeting/identifiers.h"
 
+#include "budgeting/internal/mistakes.h"
+
+#include "foundation/enum_table.h"
 #include "foundation/local_dates.h"
 #include "foundation/streams.h"
 
 #include <QtCore/QObject>
 
 #include <array>
-#include <stdexcept>
 
 namespace kiv::budgeting {
 namespace {
@@ -19,23 +21,25 @@ constexpr std::array<const char *, 6> words{
     QT_TRANSLATE_NOOP("QObject", "non-tracked"), QT_TRANSLATE_NOOP("QObject", "wage"),
 };
 
-bool isKnown(BudgetItemTypes type)
+/// Null for a value above the known ones.
+const char *wordOf(BudgetItemTypes type)
 {
-    return static_cast<std::size_t>(type) < words.size();
+    const auto *known = foundation::entryOf(words, type);
+    return known ? *known : nullptr;
 }
 
 } // namespace
 
 BudgetItemTypes known(BudgetItemTypes type)
 {
-    if (!isKnown(type))
-        throw std::logic_error("An unknown budget item type was supplied.");
+    if (!wordOf(type))
+        throw internal::itemTypeUnknown();
     return type;
 }
 
 QString presentationText(BudgetItemTypes type)
 {
-    return QObject::tr(words[static_cast<std::size_t>(known(type))]);
+    return QObject::tr(wordOf(known(type)));
 }
 
 QString presentationText(const BudgetSource &source)
@@ -46,14 +50,14 @@ QString presentationText(const BudgetSource &source)
 QString presentationText(const BudgetItemIdentifier &id)
 {
     const QString kind =
-        isKnown(id.type) ? presentationText(id.type) : QString::number(static_cast<int>(id.type));
+        wordOf(id.type) ? presentationText(id.type) : QString::number(static_cast<int>(id.type));
     return QStringLiteral("%1 (%2)").arg(presentationText(id.source), kind);
 }
 
 std::ostream &operator<<(std::ostream &out, BudgetItemTypes type)
 {
-    if (isKnown(type))
-        return out << words[static_cast<std::size_t>(type)];
+    if (const char *word = wordOf(type))
+        return out << word;
     return out << static_cast<int>(type);
 }
 
@@ -70,26 +74,6 @@ std::ostream &operator<<(std::ostream &out, const BudgetItemIdentifier &id)
 std::ostream &operator<<(std::ostream &out, const BudgetItemDueIdentifier &id)
 {
     return out << id.item() << " on " << foundation::isoText(id.dueOn).toStdString();
-}
-
-QDebug operator<<(QDebug debug, BudgetItemTypes type)
-{
-    return foundation::streamed(debug, type);
-}
-
-QDebug operator<<(QDebug debug, const BudgetSource &source)
-{
-    return foundation::streamed(debug, source);
-}
-
-QDebug operator<<(QDebug debug, const BudgetItemIdentifier &id)
-{
-    return foundation::streamed(debug, id);
-}
-
-QDebug operator<<(QDebug debug, const BudgetItemDueIdentifier &id)
-{
-    return foundation::streamed(debug, id);
 }
 
 } // namespace kiv::budgeting

@@ -3,8 +3,9 @@
 
 #include "budgeting/export.h"
 
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QDate>
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -96,10 +97,7 @@ KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, BudgetItemTypes
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetSource &source);
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemIdentifier &id);
 KIV_BUDGETING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemDueIdentifier &id);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, BudgetItemTypes type);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetSource &source);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemIdentifier &id);
-KIV_BUDGETING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemDueIdentifier &id);
+using foundation::operator<<;
 
 } // namespace kiv::budgeting
 

@@ -11,7 +11,7 @@ namespace kiv::budgeting {
 /// The name of the account of an item: the source's name, a blank, the suffix.
 [[nodiscard]] KIV_BUDGETING_EXPORT QString itemAccountName(const BudgetSource &source);
 
-/// With what the item's account opens: what was borrowed for a debt, zero in
+/// The opening balance of the item's account: what was borrowed for a debt, zero in
 /// the item's currency for all others.
 [[nodiscard]] KIV_BUDGETING_EXPORT numira::Money openingMoney(const BudgetedMoney &item);
 

@@ -6,8 +6,6 @@
 #include "accounting/account_types.h"
 
 #include <concepts>
-#include <stdexcept>
-#include <string>
 #include <type_traits>
 
 namespace kiv::budgeting {
@@ -59,12 +57,10 @@ concept BudgetItem = std::derived_from<T, BudgetedMoney> && requires
 template <typename T>
 concept BankTiedItem = std::same_as<T, Debt> || std::same_as<T, Goal>;
 
-/// Calls `visitor.operator()<Item>(std::type_identity<Item>)` for the class of
-/// the kind. Throws std::logic_error with `unknownMessage` for None and for
-/// values above the known ones.
-template <typename Visitor>
-decltype(auto) visitItemClass(BudgetItemTypes type, const std::string &unknownMessage,
-                              Visitor &&visitor)
+/// Calls `visitor.operator()<Item>(std::type_identity<Item>)` for the class of the kind. Throws
+/// what `unknownType` makes for None and for values above the known ones.
+template <typename UnknownType, typename Visitor>
+decltype(auto) visitItemClass(BudgetItemTypes type, UnknownType &&unknownType, Visitor &&visitor)
 {
     switch (type) {
     case BudgetItemTypes::Bill:
@@ -80,7 +76,7 @@ decltype(auto) visitItemClass(BudgetItemTypes type, const std::string &unknownMe
     case BudgetItemTypes::None:
         break;
     }
-    throw std::logic_error(unknownMessage);
+    throw unknownType();
 }
 
 /// Calls the visitor for all five classes in their order.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "conversion/conversion_map.h"
 
-#include "conversion/errors.h"
+#include "conversion/internal/faults.h"
 #include "foundation/streams.h"
 
 #include <algorithm>
@@ -34,11 +34,6 @@ bool isInRange(const numira::FloatingPoint &rate)
 std::ostream &operator<<(std::ostream &out, RateSource source)
 {
     return out << (source == RateSource::Typed ? "typed" : "fetched");
-}
-
-QDebug operator<<(QDebug debug, RateSource source)
-{
-    return foundation::streamed(debug, source);
 }
 
 ConversionMap::ConversionMap(const numira::Currency &base, const QDateTime &fetchedAt, Rates rates,
@@ -152,11 +147,6 @@ std::ostream &operator<<(std::ostream &out, const ConversionMap &map)
         separator = ", ";
     }
     return out << ')';
-}
-
-QDebug operator<<(QDebug debug, const ConversionMap &map)
-{
-    return foundation::streamed(debug, map);
 }
 
 } // namespace kiv::conversion

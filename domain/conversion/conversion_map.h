@@ -3,11 +3,12 @@
 
 #include "conversion/export.h"
 
+#include "foundation/debug_stream.h"
+
 #include "numira/currency.h"
 #include "numira/floating_point.h"
 
 #include <QtCore/QDateTime>
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 
 #include <chrono>
@@ -26,7 +27,6 @@ enum class RateSource : std::uint8_t {
 
 /// "fetched" or "typed".
 KIV_CONVERSION_EXPORT std::ostream &operator<<(std::ostream &out, RateSource source);
-KIV_CONVERSION_EXPORT QDebug operator<<(QDebug debug, RateSource source);
 
 /// Where a rate comes from, and its day in UTC.
 struct RateOrigin {
@@ -117,7 +117,7 @@ private:
 /// "USD at 2026-03-31T12:00:00Z (EUR 0.92, GBP 0.79 typed 2026-03-30)", or "no
 /// rates". What was fetched on the table's own day has no word of its origin.
 KIV_CONVERSION_EXPORT std::ostream &operator<<(std::ostream &out, const ConversionMap &map);
-KIV_CONVERSION_EXPORT QDebug operator<<(QDebug debug, const ConversionMap &map);
+using foundation::operator<<;
 
 } // namespace kiv::conversion
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "conversion/currency_converter.h"
 
-#include "conversion/errors.h"
+#include "conversion/internal/faults.h"
 
 #include "foundation/presentation.h"
 #include "foundation/streams.h"

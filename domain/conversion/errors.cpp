@@ -1,87 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "conversion/errors.h"
 
-#include "foundation/presentation.h"
-
-#include <QtCore/QObject>
-
 namespace kiv::conversion {
 
 ConversionError::~ConversionError() = default;
-
-namespace internal {
-
-using foundation::presentationText;
-
-ConversionError rateOutOfRange(const numira::Currency &currency)
-{
-    return ConversionError(
-        QObject::tr("The exchange rate of '%1' must be a positive number between 10^-12 and 10^12.")
-            .arg(presentationText(currency)));
-}
-
-ConversionError baseRateNotOne(const numira::Currency &base)
-{
-    return ConversionError(QObject::tr("The exchange rate of the base currency '%1' must be 1.")
-                               .arg(presentationText(base)));
-}
-
-ConversionError tableWithoutBase()
-{
-    return ConversionError(QObject::tr("Exchange rates must be given for a base currency."));
-}
-
-ConversionError tableWithoutTime()
-{
-    return ConversionError(QObject::tr("Exchange rates must have the time they were fetched at."));
-}
-
-ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to)
-{
-    return ConversionError(
-        QObject::tr(
-            "There is no exchange rate from '%1' to '%2'; fetch the rates, or set it by hand.")
-            .arg(presentationText(from), presentationText(to)));
-}
-
-ConversionError replyMalformed(const QString &member)
-{
-    return ConversionError(
-        QObject::tr("The reply's member '%1' is missing or makes no sense.").arg(member));
-}
-
-ConversionError replyUnknownCurrency(const QString &code)
-{
-    return ConversionError(QObject::tr("The reply names an unknown currency '%1'.").arg(code));
-}
-
-QString fetchTimedOut()
-{
-    return QObject::tr("No answer came in time.");
-}
-
-QString sourceGone()
-{
-    return QObject::tr("The source of the rates was destroyed before it answered.");
-}
-
-QString senderGone()
-{
-    return QObject::tr("There is nothing left to send requests with.");
-}
-
-ConversionError noWantedRates()
-{
-    return ConversionError(QObject::tr("The reply has none of the wanted rates."));
-}
-
-ConversionError ratesOutdated(const QDateTime &given, const QDateTime &known)
-{
-    return ConversionError(
-        QObject::tr("The reply's rates are of %1, older than the known ones of %2.")
-            .arg(given.toString(Qt::ISODate), known.toString(Qt::ISODate)));
-}
-
-} // namespace internal
 
 } // namespace kiv::conversion

@@ -4,9 +4,6 @@
 #include "conversion/export.h"
 
 #include "foundation/error.h"
-#include "numira/currency.h"
-
-#include <QtCore/QDateTime>
 
 namespace kiv::conversion {
 
@@ -17,24 +14,5 @@ public:
     using foundation::Error::Error;
     ~ConversionError() override;
 };
-
-namespace internal {
-
-[[nodiscard]] ConversionError rateOutOfRange(const numira::Currency &currency);
-[[nodiscard]] ConversionError baseRateNotOne(const numira::Currency &base);
-[[nodiscard]] ConversionError tableWithoutBase();
-[[nodiscard]] ConversionError tableWithoutTime();
-[[nodiscard]] ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to);
-
-// Where the user finds the rest is the log.
-[[nodiscard]] ConversionError replyMalformed(const QString &member);
-[[nodiscard]] ConversionError replyUnknownCurrency(const QString &code);
-[[nodiscard]] QString fetchTimedOut();
-[[nodiscard]] QString sourceGone();
-[[nodiscard]] QString senderGone();
-[[nodiscard]] ConversionError noWantedRates();
-[[nodiscard]] ConversionError ratesOutdated(const QDateTime &given, const QDateTime &known);
-
-} // namespace internal
 
 } // namespace kiv::conversion

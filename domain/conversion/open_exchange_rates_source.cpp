@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "conversion/open_exchange_rates_source.h"
 
-#include "conversion/errors.h"
+#include "conversion/internal/faults.h"
 #include "conversion/internal/rates_reply.h"
 
 #include "foundation/presentation.h"

@@ -6,8 +6,7 @@
 
 namespace kiv::foundation {
 
-/// A pointer that does not own and says so. Whoever hands it out sees to it
-/// that the object outlives it.
+/// A pointer that does not own its object. The object must outlive it.
 template <typename T>
 class ObserverPtr {
 public:

@@ -50,9 +50,4 @@ std::ostream &operator<<(std::ostream &out, const Percentage &percentage)
     return out << rateText(percentage).toStdString() << " %";
 }
 
-QDebug operator<<(QDebug debug, const Percentage &percentage)
-{
-    return streamed(std::move(debug), percentage);
-}
-
 } // namespace kiv::foundation

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "foundation/debug_stream.h"
 #include "foundation/export.h"
 
 #include "numira/decimal.h"
 
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -64,7 +64,6 @@ private:
 [[nodiscard]] KIV_FOUNDATION_EXPORT QString presentationText(const Percentage &percentage);
 /// Writes the presentation text.
 KIV_FOUNDATION_EXPORT std::ostream &operator<<(std::ostream &out, const Percentage &percentage);
-KIV_FOUNDATION_EXPORT QDebug operator<<(QDebug debug, const Percentage &percentage);
 
 } // namespace kiv::foundation
 

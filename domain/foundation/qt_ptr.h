@@ -21,7 +21,7 @@ createDestroyableConnection(QObject *object, std::function<void()> cleared);
 } // namespace internal
 
 /// A guarded pointer to a QObject: it becomes null when that object is
-/// destroyed, by whomever. It does not own. Every copy guards on its own.
+/// destroyed. It does not own. Every copy guards on its own.
 template <typename T>
 class QtPtr {
 public:

@@ -61,17 +61,3 @@ std::string escapedUtf8(const QString &text)
 }
 
 } // namespace kiv::foundation
-
-namespace numira {
-
-QDebug operator<<(QDebug debug, const Currency &currency)
-{
-    return kiv::foundation::streamed(std::move(debug), currency);
-}
-
-QDebug operator<<(QDebug debug, const Money &money)
-{
-    return kiv::foundation::streamed(std::move(debug), money);
-}
-
-} // namespace numira

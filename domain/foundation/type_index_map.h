@@ -3,7 +3,6 @@
 
 #include "foundation/error.h"
 
-#include <QtCore/QObject>
 #include <QtCore/QString>
 
 #include <cstddef>
@@ -15,6 +14,18 @@
 #include <utility>
 
 namespace kiv::foundation {
+
+/// Every sentence with which the map refuses something: one function each, which gives the
+/// exception to throw.
+namespace internal {
+[[nodiscard]] KIV_FOUNDATION_EXPORT Error mutableValueMissing(const QString &type,
+                                                              const QString &key);
+[[nodiscard]] KIV_FOUNDATION_EXPORT Error valueMissing(const QString &type, const QString &key);
+[[nodiscard]] KIV_FOUNDATION_EXPORT Error typeToRemoveMissing(const QString &type,
+                                                              const QString &key);
+[[nodiscard]] KIV_FOUNDATION_EXPORT Error keyToRemoveMissing(const QString &type,
+                                                             const QString &key);
+} // namespace internal
 
 /// A two-level map: first by a type, then by a key. No inner map is ever empty,
 /// and size() is always the number of keys over all of them.
@@ -48,9 +59,7 @@ public:
         try {
             return m_maps.at(typeid(T)).at(key);
         } catch (const std::out_of_range &) {
-            throw Error(QObject::tr("Failed to find a mutable value under the type '%1' with the "
-                                    "key '%2'.")
-                            .arg(typeName<T>(), presentationText(key)));
+            throw internal::mutableValueMissing(typeName<T>(), presentationText(key));
         }
     }
     /// The same, to be read only.
@@ -60,9 +69,7 @@ public:
         try {
             return m_maps.at(typeid(T)).at(key);
         } catch (const std::out_of_range &) {
-            throw Error(QObject::tr("Failed to find a non-mutable value under the type '%1' with "
-                                    "the key '%2'.")
-                            .arg(typeName<T>(), presentationText(key)));
+            throw internal::valueMissing(typeName<T>(), presentationText(key));
         }
     }
 
@@ -83,15 +90,15 @@ public:
     /// The same for a type that is known by its index.
     void insertOrAssign(std::type_index type, const K &key, V value)
     {
-        const auto [inner, isNewType] = m_maps.try_emplace(type);
-        try {
+        if (const auto inner = m_maps.find(type); inner != m_maps.end()) {
             if (inner->second.insert_or_assign(key, std::move(value)).second)
                 ++m_size;
-        } catch (...) {
-            if (isNewType)
-                m_maps.erase(inner);
-            throw;
+            return;
         }
+        Inner first;
+        first.emplace(key, std::move(value));
+        m_maps.emplace(type, std::move(first));
+        ++m_size;
     }
 
     /// Throws Error when there is no such key under the type.
@@ -99,16 +106,10 @@ public:
     void remove(const K &key)
     {
         const auto inner = m_maps.find(typeid(T));
-        if (inner == m_maps.end()) {
-            throw Error(QObject::tr("Failed to remove the value under the key '%1' as the index "
-                                    "type '%2' was not found.")
-                            .arg(presentationText(key), typeName<T>()));
-        }
-        if (inner->second.erase(key) == 0) {
-            throw Error(QObject::tr("Failed to remove the value under the key '%1' as the key was "
-                                    "not found under the index type '%2'.")
-                            .arg(presentationText(key), typeName<T>()));
-        }
+        if (inner == m_maps.end())
+            throw internal::typeToRemoveMissing(typeName<T>(), presentationText(key));
+        if (inner->second.erase(key) == 0)
+            throw internal::keyToRemoveMissing(typeName<T>(), presentationText(key));
         --m_size;
         if (inner->second.empty())
             m_maps.erase(inner);

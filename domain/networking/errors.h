@@ -5,8 +5,6 @@
 
 #include "foundation/error.h"
 
-#include <QtCore/QString>
-
 namespace kiv::networking {
 
 /// A reply of a server that is refused. The user finds its text in the log.
@@ -15,20 +13,5 @@ public:
     using foundation::Error::Error;
     ~ReplyError() override;
 };
-
-/// The reasons for which a request fails or a reply is refused. None holds a
-/// request's address.
-namespace internal {
-
-[[nodiscard]] QString managerDestroyed();
-[[nodiscard]] QString noSender();
-[[nodiscard]] QString httpMissing(const QString &cause);
-
-[[nodiscard]] ReplyError requestFailed(const QString &reason);
-[[nodiscard]] ReplyError notJsonType(const QString &contentType);
-[[nodiscard]] ReplyError notJson(const QString &reason, int offset);
-[[nodiscard]] ReplyError duplicateMembers();
-
-} // namespace internal
 
 } // namespace kiv::networking

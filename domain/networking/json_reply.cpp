@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networking/json_reply.h"
 
-#include "networking/errors.h"
+#include "networking/internal/faults.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>

@@ -11,7 +11,7 @@
 
 namespace kiv::networking {
 
-/// Sends requests and notifies whoever made them of the answer.
+/// Sends requests, and hands each answer to the object that asked.
 class KIV_NETWORKING_EXPORT NotifyingSender {
 public:
     /// Gets the response, once for each request.

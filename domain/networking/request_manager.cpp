@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networking/request_manager.h"
 
-#include "networking/errors.h"
+#include "networking/internal/faults.h"
 
 namespace kiv::networking {
 

@@ -11,7 +11,7 @@
 
 namespace kiv::networking {
 
-/// Identifies a request between a sender and whoever uses it.
+/// Identifies a request between a sender and its user.
 using RequestNumber = std::uint64_t;
 
 /// What really sends requests. A front end chooses one and hands it over:

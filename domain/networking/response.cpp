@@ -29,9 +29,4 @@ std::ostream &operator<<(std::ostream &out, const Response &response)
                << foundation::escapedUtf8(response.contentType());
 }
 
-QDebug operator<<(QDebug debug, const Response &response)
-{
-    return foundation::streamed(debug, response);
-}
-
 } // namespace kiv::networking

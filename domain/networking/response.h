@@ -3,8 +3,9 @@
 
 #include "networking/export.h"
 
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QByteArray>
-#include <QtCore/QDebug>
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -44,7 +45,7 @@ private:
 
 /// Its size and type, or the reason; never the body.
 KIV_NETWORKING_EXPORT std::ostream &operator<<(std::ostream &out, const Response &response);
-KIV_NETWORKING_EXPORT QDebug operator<<(QDebug debug, const Response &response);
+using foundation::operator<<;
 
 } // namespace kiv::networking
 

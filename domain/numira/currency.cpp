@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numira/currency.h"
 
-#include "numira/error.h"
+#include "numira/internal/faults.h"
 #include "numira/locale.h"
 
 #include <unicode/ucurr.h>
@@ -169,8 +169,7 @@ Currency::Currency(std::uint16_t numericCode) : m_numericCode(numericCode)
 {
     const Entry *entry = table().find(numericCode);
     if (entry == nullptr)
-        throw UnknownCurrency("No currency has the numeric code " + std::to_string(numericCode) +
-                              ".");
+        throw internal::unknownNumericCode(numericCode);
     std::ranges::copy(entry->code, m_code);
 }
 
@@ -178,7 +177,7 @@ Currency toCurrency(const std::string &code)
 {
     const std::uint16_t number = table().numberOf(code);
     if (number == 0)
-        throw UnknownCurrency("No currency has the code '" + code.substr(0, 40) + "'.");
+        throw internal::unknownCode(code);
     return Currency(number);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numira/decimal.h"
 
-#include "numira/error.h"
+#include "numira/internal/faults.h"
 
 #include <boost/multiprecision/cpp_int.hpp>
 
@@ -12,7 +12,6 @@
 #include <limits>
 #include <memory>
 #include <ostream>
-#include <stdexcept>
 
 namespace numira {
 namespace {
@@ -44,20 +43,6 @@ constexpr auto powersOfTen = [] {
     return powers;
 }();
 
-[[noreturn]] void throwOverflow()
-{
-    throw OverflowError("The amount has more digits before the point than can be kept exactly.");
-}
-
-[[noreturn]] void throwInvalid(std::string_view text)
-{
-    constexpr std::size_t shownMax = 40;
-    std::string shown(text.substr(0, shownMax));
-    if (text.size() > shownMax)
-        shown += "...";
-    throw InvalidAmount("'" + shown + "' is not a decimal amount.");
-}
-
 constexpr bool isDigit(char c) noexcept
 {
     return c >= '0' && c <= '9';
@@ -80,7 +65,7 @@ template <typename Integer>
 Units narrowed(const Integer &value)
 {
     if (value > Integer(highest) || value < -Integer(highest))
-        throwOverflow();
+        throw internal::amountTooLarge();
     return static_cast<Units>(value);
 }
 
@@ -126,17 +111,17 @@ Exact readExact(std::string_view text)
         }
     }
     if (digits.empty())
-        throwInvalid(text);
+        throw internal::notAnAmount(text);
     if (at < rest.size()) {
         if (rest[at] != 'e' && rest[at] != 'E')
-            throwInvalid(text);
+            throw internal::notAnAmount(text);
         // std::from_chars takes no plus sign.
         at += rest.substr(at + 1).starts_with('+') ? 2 : 1;
         int written = 0;
         const char *end = std::to_address(rest.end());
         const auto [stop, fault] = std::from_chars(rest.data() + at, end, written);
         if (fault != std::errc() || stop != end)
-            throwInvalid(text);
+            throw internal::notAnAmount(text);
         exponent += written;
     }
     cpp_int number;
@@ -163,7 +148,7 @@ Units product(Units units, const Exact &number)
 std::string_view shortestText(double value, std::array<char, 32> &buffer)
 {
     if (!std::isfinite(value))
-        throw InvalidAmount("A number that is not finite is no amount.");
+        throw internal::numberNotFinite();
     // Without an exponent large integers would be written with all their binary digits.
     const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
                                        std::chars_format::scientific);
@@ -211,7 +196,7 @@ Decimal Decimal::fromText(std::string_view text)
     const std::string_view behind = rest.substr(std::min(point + 1, rest.size()));
     if (whole.empty() || behind.size() > scale || (behind.empty() && point != rest.size()) ||
         !std::ranges::all_of(whole, isDigit) || !std::ranges::all_of(behind, isDigit))
-        throwInvalid(text);
+        throw internal::notAnAmount(text);
 
     // In 64 bits as long as they hold all digits, which is nearly always and much
     // faster, and then in 128.
@@ -222,7 +207,7 @@ Decimal Decimal::fromText(std::string_view text)
     const auto multiplyAndAdd = [&units](Units factor, int digit) {
         if (__builtin_mul_overflow(units, factor, &units) ||
             __builtin_add_overflow(units, Units{digit}, &units))
-            throwOverflow();
+            throw internal::amountTooLarge();
     };
     for (const std::string_view digits : {whole, behind}) {
         for (const char digit : digits) {
@@ -278,7 +263,7 @@ Decimal &Decimal::operator+=(const Decimal &other)
 {
     Units sum = 0;
     if (__builtin_add_overflow(m_units, other.m_units, &sum) || sum < -highest)
-        throwOverflow();
+        throw internal::amountTooLarge();
     m_units = sum;
     return *this;
 }
@@ -318,7 +303,7 @@ Decimal Decimal::times(double factor) const
 Decimal Decimal::scaled(std::int64_t numerator, std::int64_t denominator) const
 {
     if (denominator == 0)
-        throw std::logic_error("A decimal number was to be divided by zero.");
+        throw internal::divisionByZero();
     Decimal result;
     result.m_units = quotient<Wide>(Wide(m_units) * Wide(numerator), Wide(denominator));
     return result;
@@ -335,7 +320,7 @@ Decimal Decimal::roundedHalfEven(unsigned digits) const
         ++whole;
     // The quotient is far below the highest magnitude, its product is not.
     if (whole > static_cast<Magnitude>(highest) / step)
-        throwOverflow();
+        throw internal::amountTooLarge();
     const auto units = static_cast<Units>(whole * step);
     Decimal result;
     result.m_units = m_units < 0 ? -units : units;
@@ -352,7 +337,7 @@ namespace rounders {
 Decimal currency_even(const Decimal &value, unsigned digits, RoundingMode mode)
 {
     if (mode != RoundingMode::HalfToEven)
-        throw std::logic_error("An unknown rounding mode was supplied.");
+        throw internal::unknownRounding();
     return value.roundedHalfEven(digits);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numira/library.h"
 
-#include "numira/error.h"
+#include "numira/internal/faults.h"
 
 namespace numira {
 namespace {
@@ -27,12 +27,11 @@ FloatingPoint conversionRate(const Currency &from, const Currency &to)
 {
     if (from == to)
         return 1;
-    const std::string pair = toStdString(from) + " to " + toStdString(to);
     if (!installedConverter())
-        throw ConversionError("There is no converter from " + pair + ".");
+        throw internal::noConverter(toStdString(from), toStdString(to));
     FloatingPoint rate = installedConverter()(from, to);
     if (!isfinite(rate) || rate <= 0)
-        throw ConversionError("The rate from " + pair + " is not usable.");
+        throw internal::rateNotUsable(toStdString(from), toStdString(to));
     return rate;
 }
 

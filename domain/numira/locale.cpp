@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numira/locale.h"
 
-#include "numira/error.h"
+#include "numira/internal/faults.h"
 
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
@@ -52,7 +52,7 @@ std::string known(const std::string &localeName, ShouldAllowFallback fallback)
     if (locale && available.contains(*locale))
         return *locale;
     if (fallback == ShouldAllowFallback::No)
-        throw Error("The locale '" + localeName + "' is unknown.");
+        throw internal::unknownLocale(localeName);
     locale = normalised(localeName, uloc_getLanguage);
     return locale && available.contains(*locale) ? *locale : "en_US";
 }

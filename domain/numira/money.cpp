@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numira/money.h"
 
-#include "numira/error.h"
+#include "numira/internal/faults.h"
 #include "numira/library.h"
 
 #include <ostream>
@@ -35,11 +35,9 @@ Money::Money(const Currency &currency, std::int64_t major, std::uint16_t minor,
 {
     const unsigned digits = minorUnitDigits(currency);
     if (minor >= powerOfTen(digits))
-        throw InvalidAmount("There are not " + std::to_string(minor) + " minor units in " +
-                            toStdString(currency) + ".");
+        throw internal::noSuchMinorUnits(minor, toStdString(currency));
     if (fraction >= fractionsInMinorUnit)
-        throw InvalidAmount("A minor unit has no " + std::to_string(fraction) +
-                            " ten-thousandths.");
+        throw internal::noSuchFraction(fraction);
     const Decimal behindPoint = Decimal(std::int64_t{minor} * fractionsInMinorUnit + fraction)
                                     .scaled(1, powerOfTen(digits + fractionDigits));
     if (major < 0)

@@ -56,9 +56,9 @@ public:
     /// Whether it is above zero.
     [[nodiscard]] bool isPositive() const noexcept { return m_amount.sign() > 0; }
 
-    /// Adds, as the class tells. Throws OverflowError, ConversionError.
+    /// Adds; see the class. Throws OverflowError, ConversionError.
     Money &operator+=(const Money &other);
-    /// Subtracts, as the class tells. Throws OverflowError, ConversionError.
+    /// Subtracts; see the class. Throws OverflowError, ConversionError.
     Money &operator-=(const Money &other);
     /// The sum, as += makes it.
     [[nodiscard]] friend Money operator+(Money a, const Money &b) { return a += b; }

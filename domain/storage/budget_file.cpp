@@ -3,7 +3,7 @@
 
 #include "storage/internal/atomic_file_writer.h"
 #include "storage/internal/budget_image.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_lock.h"
 #include "storage/internal/mending.h"
 
@@ -24,8 +24,8 @@ using internal::FileKind;
 using internal::FileTarget;
 using internal::Fingerprint;
 
-/// Calls `work` and gives what it gives. What goes wrong with the content, by
-/// whichever rule, becomes the cause of the error that `toError` makes.
+/// Calls `work` and gives its result. An error becomes the cause of the one that
+/// `toError` makes.
 template <typename Work, typename ToError>
 auto withContent(Work work, ToError toError)
 {
@@ -45,8 +45,8 @@ void warnOf(const QStringList &mended)
             QObject::tr("Mended while loading: %1").arg(sentence));
 }
 
-/// The file's content, which was loaded once on trial: nothing is worse than a
-/// file that was saved and cannot be opened.
+/// The file's content, loaded once as a test: a saved file must be one that can
+/// be opened.
 internal::Image encodedSafely(const BudgetStorage::Data &data)
 {
     internal::Image image = internal::encodeBudget(data);
@@ -57,7 +57,7 @@ internal::Image encodedSafely(const BudgetStorage::Data &data)
 
 } // namespace
 
-/// A file that is in use: locked, and known by what it held last.
+/// A file in use: locked, with the fingerprint of its last content.
 class BudgetFile::OpenFile {
 public:
     explicit OpenFile(FileTarget target) : m_target(std::move(target)) {}
@@ -79,8 +79,8 @@ public:
             m_lock = std::make_unique<internal::FileLock>(m_target);
     }
 
-    /// Where no lock can be made nothing can be saved either, so there is
-    /// nothing to keep apart; the next attempt to save says why.
+    /// Where no lock can be made, nothing can be saved either, so no lock is
+    /// needed. The next attempt to save says why.
     void lockIfPossible()
     {
         try {
@@ -133,8 +133,8 @@ private:
                 throw internal::changedOnDisk(m_target.shownPath());
             return;
         }
-        // Somebody chose an existing file: a budget, whole or not, stays as the
-        // backup; what is no budget is not overwritten by mistake.
+        // The user chose an existing file. A budget, whole or not, stays as the
+        // backup; another file is not overwritten.
         const FileKind kind = internal::kindOf(bytes);
         if (kind == FileKind::Foreign || kind == FileKind::Newer)
             internal::requireBudget(kind, m_target.shownPath());

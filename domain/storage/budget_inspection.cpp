@@ -2,7 +2,7 @@
 #include "storage/budget_inspection.h"
 
 #include "storage/internal/budget_image.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_content.h"
 
 #include <QtCore/QFile>
@@ -12,7 +12,7 @@
 namespace kiv::storage {
 namespace {
 
-/// The reason for which `look` throws; nothing when it does not.
+/// The text of the error that `look` throws, if it does.
 template <typename Look>
 std::optional<QString> faultOf(Look look)
 {
@@ -26,7 +26,7 @@ std::optional<QString> faultOf(Look look)
     }
 }
 
-/// Judges one promise after the other until one is broken.
+/// Checks one condition after the other until one fails.
 class Judge {
 public:
     explicit Judge(BudgetInspection &inspection) : m_inspection(inspection) {}

@@ -2,7 +2,7 @@
 #include "storage/rates_file.h"
 
 #include "storage/internal/atomic_file_writer.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_lock.h"
 
 #include "foundation/streams.h"
@@ -88,10 +88,10 @@ QList<QByteArray> checkedLines(const QByteArray &text, const QString &path)
     const qsizetype digestAt = text.lastIndexOf(digestWord);
     const QByteArray content = text.left(digestAt);
     if (text != content + digestWord.toByteArray() + digestOf(content) + '\n')
-        throw ContentFault(QObject::tr("The checksum is wrong."));
+        throw internal::checksumWrong();
     QList<QByteArray> lines = content.split('\n');
     lines.removeFirst();
-    lines.removeLast(); // what is behind the last line break: nothing
+    lines.removeLast(); // empty: nothing follows the last line break
     return lines;
 }
 
@@ -125,7 +125,7 @@ conversion::ConversionMap decode(const QByteArray &text, const QString &path)
     return {base, fetchedAt, std::move(rates), origins};
 }
 
-/// Throws StorageError when these are not the bytes of such a file.
+/// Throws StorageError for the bytes of another or a damaged file.
 conversion::ConversionMap ratesIn(const QByteArray &text, const QString &path)
 {
     try {
@@ -139,7 +139,7 @@ conversion::ConversionMap ratesIn(const QByteArray &text, const QString &path)
     }
 }
 
-/// Gives the file a name that no other has, and tells of it.
+/// Renames a damaged file to an unused name, and logs that.
 void setAside(const FileTarget &target, const StorageError &reason)
 {
     const auto isTaken = [&target](const QByteArray &name) {

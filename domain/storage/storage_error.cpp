@@ -1,54 +1,35 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/storage_error.h"
 
-#include "foundation/streams.h"
+#include "foundation/enum_table.h"
 
+#include <array>
 #include <ostream>
 
 namespace kiv::storage {
 namespace {
 
-const char *word(StorageFailure failure) noexcept
-{
-    switch (failure) {
-    case StorageFailure::NoName:
-        return "no name";
-    case StorageFailure::NotFound:
-        return "not found";
-    case StorageFailure::NotAFile:
-        return "not a file";
-    case StorageFailure::CannotRead:
-        return "cannot read";
-    case StorageFailure::TooLarge:
-        return "too large";
-    case StorageFailure::NotOurs:
-        return "another kind of file";
-    case StorageFailure::Newer:
-        return "newer version";
-    case StorageFailure::Damaged:
-        return "damaged";
-    case StorageFailure::Locked:
-        return "locked";
-    case StorageFailure::ChangedOnDisk:
-        return "changed on disk";
-    case StorageFailure::CannotWrite:
-        return "cannot write";
-    case StorageFailure::CannotHold:
-        return "cannot hold";
-    }
-    return "unknown failure";
-}
+/// By the values of StorageFailure, which begin with 1.
+constexpr std::array<const char *, 13> words{"unknown failure",
+                                             "no name",
+                                             "not found",
+                                             "not a file",
+                                             "cannot read",
+                                             "too large",
+                                             "another kind of file",
+                                             "newer version",
+                                             "damaged",
+                                             "locked",
+                                             "changed on disk",
+                                             "cannot write",
+                                             "cannot hold"};
 
 } // namespace
 
 std::ostream &operator<<(std::ostream &out, StorageFailure failure)
 {
-    return out << word(failure);
-}
-
-QDebug operator<<(QDebug debug, StorageFailure failure)
-{
-    return foundation::streamed(debug, failure);
+    const auto *word = foundation::entryOf(words, failure);
+    return out << (word ? *word : words.front());
 }
 
 StorageError::StorageError(StorageFailure failure, QString filePathName, const QString &message,

@@ -3,9 +3,8 @@
 
 #include "storage/export.h"
 
+#include "foundation/debug_stream.h"
 #include "foundation/error.h"
-
-#include <QtCore/QDebug>
 
 #include <cstdint>
 #include <iosfwd>
@@ -29,7 +28,7 @@ enum class StorageFailure : std::uint8_t {
 };
 
 KIV_STORAGE_EXPORT std::ostream &operator<<(std::ostream &out, StorageFailure failure);
-KIV_STORAGE_EXPORT QDebug operator<<(QDebug debug, StorageFailure failure);
+using foundation::operator<<;
 
 /// A file that could not be loaded or stored. The message is one sentence that
 /// names the file and the reason.

@@ -22,9 +22,4 @@ std::ostream &operator<<(std::ostream &out, const BalanceChange &change)
     return out << (change.isIncrease() ? '+' : '-') << change.transaction();
 }
 
-QDebug operator<<(QDebug debug, const BalanceChange &change)
-{
-    return foundation::streamed(debug, change);
-}
-
 } // namespace kiv::surveying

@@ -4,6 +4,7 @@
 #include "surveying/export.h"
 
 #include "accounting/transaction.h"
+#include "foundation/debug_stream.h"
 
 namespace kiv::surveying {
 
@@ -41,7 +42,7 @@ private:
 
 /// "+" or "-", and the transaction behind it.
 KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const BalanceChange &change);
-KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const BalanceChange &change);
+using foundation::operator<<;
 
 } // namespace kiv::surveying
 

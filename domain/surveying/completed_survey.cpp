@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/completed_survey.h"
 
-#include "surveying/errors.h"
+#include "surveying/internal/faults.h"
 #include "surveying/internal/stream_maps.h"
 
 #include "foundation/streams.h"
@@ -18,7 +18,7 @@ void CompletedSurvey::completed(QDate on, const numira::Money &balance, Distribu
                                 const foundation::Percentage &window)
 {
     if (!on.isValid())
-        throw completedOnNoDay(bankAccount());
+        throw internal::completedOnNoDay(bankAccount());
     m_reconciled = banking::ReconciledBankAccount(bankAccount(), balance, on);
     m_distribution = std::move(distribution);
     m_nonDistributed = nonDistributed;
@@ -59,11 +59,6 @@ std::ostream &operator<<(std::ostream &out, const CompletedSurvey &survey)
     out << survey.reconciled() << ", distributed ";
     internal::streamMap(out, survey.distribution());
     return out << ", not distributed " << survey.nonDistributed() << ", within " << survey.window();
-}
-
-QDebug operator<<(QDebug debug, const CompletedSurvey &survey)
-{
-    return foundation::streamed(debug, survey);
 }
 
 } // namespace kiv::surveying

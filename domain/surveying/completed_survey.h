@@ -4,6 +4,7 @@
 #include "surveying/distributed_amount.h"
 
 #include "banking/bank_account.h"
+#include "foundation/debug_stream.h"
 #include "foundation/percentage.h"
 
 namespace kiv::surveying {
@@ -58,6 +59,6 @@ private:
 };
 
 KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const CompletedSurvey &survey);
-KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const CompletedSurvey &survey);
+using foundation::operator<<;
 
 } // namespace kiv::surveying

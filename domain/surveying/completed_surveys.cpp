@@ -81,9 +81,4 @@ std::ostream &operator<<(std::ostream &out, const CompletedSurveys &surveys)
     return foundation::streamRange(out, surveys | std::views::values);
 }
 
-QDebug operator<<(QDebug debug, const CompletedSurveys &surveys)
-{
-    return foundation::streamed(debug, surveys);
-}
-
 } // namespace kiv::surveying

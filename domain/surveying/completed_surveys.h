@@ -3,6 +3,8 @@
 
 #include "surveying/completed_survey.h"
 
+#include "foundation/debug_stream.h"
+
 #include <map>
 #include <optional>
 
@@ -58,6 +60,6 @@ private:
 
 /// The surveys' own forms between parentheses, ", " between them.
 KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const CompletedSurveys &surveys);
-KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const CompletedSurveys &surveys);
+using foundation::operator<<;
 
 } // namespace kiv::surveying

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/distributable.h"
 
-#include <stdexcept>
+#include "surveying/internal/faults.h"
 
 namespace kiv::surveying {
 
@@ -20,7 +20,7 @@ bool isDistributable(budgeting::BudgetItemTypes type, budgeting::EventFrequency 
     case BudgetItemTypes::None:
         return false;
     }
-    throw std::logic_error("An unknown budget item type cannot be told to be distributable.");
+    throw internal::itemTypeUnknown();
 }
 
 } // namespace kiv::surveying

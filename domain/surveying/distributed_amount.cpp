@@ -42,9 +42,4 @@ std::ostream &operator<<(std::ostream &out, const DistributedAmount &amount)
                << foundation::isoText(amount.nextOccurOn()).toStdString();
 }
 
-QDebug operator<<(QDebug debug, const DistributedAmount &amount)
-{
-    return foundation::streamed(debug, amount);
-}
-
 } // namespace kiv::surveying

@@ -4,6 +4,7 @@
 #include "surveying/export.h"
 
 #include "budgeting/identifiers.h"
+#include "foundation/debug_stream.h"
 
 #include "numira/money.h"
 
@@ -53,7 +54,7 @@ using Distribution = std::map<budgeting::BudgetItemIdentifier, DistributedAmount
 [[nodiscard]] KIV_SURVEYING_EXPORT QString presentationText(const DistributedAmount &amount);
 /// "5.00 USD of 60.00 USD by 2026-03-31".
 KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const DistributedAmount &amount);
-KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const DistributedAmount &amount);
+using foundation::operator<<;
 
 } // namespace kiv::surveying
 

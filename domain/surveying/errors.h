@@ -12,7 +12,7 @@ namespace kiv::surveying {
 /// An error about the survey of a bank account.
 class KIV_SURVEYING_EXPORT SurveyError : public foundation::Error {
 public:
-    /// With what the user is told, the bank account, and the error behind it, if any.
+    /// `message` is for the user; `cause` is the error behind it, if any.
     SurveyError(banking::BankAccount account, const QString &message,
                 const std::exception &cause = std::exception());
     SurveyError(const SurveyError &) noexcept;
@@ -23,12 +23,5 @@ public:
 private:
     banking::BankAccount m_account;
 };
-
-/// The fault of a change whose amount is below zero.
-[[nodiscard]] KIV_SURVEYING_EXPORT foundation::Error negativeChange(const numira::Money &amount);
-
-/// The fault of a survey that is completed without a valid day.
-[[nodiscard]] KIV_SURVEYING_EXPORT SurveyError
-completedOnNoDay(const banking::BankAccount &account);
 
 } // namespace kiv::surveying

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/indexed_increase_decreases.h"
 
+#include "surveying/internal/faults.h"
+
 namespace kiv::surveying {
 namespace {
 
@@ -21,6 +23,21 @@ std::ostream &streamChanges(std::ostream &out, const IndexedIncreaseDecreases<Ke
 }
 
 } // namespace
+
+template <typename Key>
+IndexedIncreaseDecreases<Key>::IndexedIncreaseDecreases(Amounts increases, Amounts decreases)
+    : m_increases(std::move(increases)), m_decreases(std::move(decreases))
+{
+    for (const Amounts *amounts : {&m_increases, &m_decreases}) {
+        for (const auto &[key, amount] : *amounts) {
+            if (amount.isNegative())
+                throw internal::negativeChange(amount);
+        }
+    }
+}
+
+template class IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier>;
+template class IndexedIncreaseDecreases<accounting::AccountNumber>;
 
 std::ostream &operator<<(std::ostream &out,
                          const IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier> &changes)

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "surveying/errors.h"
+#include "surveying/export.h"
 
 #include "accounting/account_number.h"
 #include "budgeting/identifiers.h"
-
-#include "foundation/streams.h"
+#include "foundation/debug_stream.h"
+#include "numira/money.h"
 
 #include <map>
 
@@ -23,16 +23,7 @@ public:
 
     IndexedIncreaseDecreases() = default;
     /// Throws foundation::Error when an amount is negative.
-    IndexedIncreaseDecreases(Amounts increases, Amounts decreases)
-        : m_increases(std::move(increases)), m_decreases(std::move(decreases))
-    {
-        for (const Amounts *amounts : {&m_increases, &m_decreases}) {
-            for (const auto &[key, amount] : *amounts) {
-                if (amount.isNegative())
-                    throw negativeChange(amount);
-            }
-        }
-    }
+    IndexedIncreaseDecreases(Amounts increases, Amounts decreases);
 
     /// What raised the balance.
     [[nodiscard]] const Amounts &increases() const noexcept { return m_increases; }
@@ -47,6 +38,10 @@ private:
     Amounts m_decreases;
 };
 
+extern template class KIV_SURVEYING_EXPORT
+    IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier>;
+extern template class KIV_SURVEYING_EXPORT IndexedIncreaseDecreases<accounting::AccountNumber>;
+
 /// "(+ 1200=>5.00 USD, - 1300=>2.50 USD)": increases, then decreases.
 KIV_SURVEYING_EXPORT std::ostream &
 operator<<(std::ostream &out,
@@ -55,11 +50,7 @@ operator<<(std::ostream &out,
 KIV_SURVEYING_EXPORT std::ostream &
 operator<<(std::ostream &out, const IndexedIncreaseDecreases<accounting::AccountNumber> &changes);
 
-template <typename Key>
-QDebug operator<<(QDebug debug, const IndexedIncreaseDecreases<Key> &changes)
-{
-    return foundation::streamed(debug, changes);
-}
+using foundation::operator<<;
 
 } // namespace kiv::surveying
 

@@ -40,9 +40,4 @@ std::ostream &operator<<(std::ostream &out, const MappingSurvey &survey)
     return out;
 }
 
-QDebug operator<<(QDebug debug, const MappingSurvey &survey)
-{
-    return foundation::streamed(debug, survey);
-}
-
 } // namespace kiv::surveying

@@ -5,6 +5,7 @@
 #include "surveying/distributed_amount.h"
 
 #include "banking/bank_account.h"
+#include "foundation/debug_stream.h"
 
 #include <map>
 #include <optional>
@@ -70,7 +71,7 @@ private:
 };
 
 KIV_SURVEYING_EXPORT std::ostream &operator<<(std::ostream &out, const MappingSurvey &survey);
-KIV_SURVEYING_EXPORT QDebug operator<<(QDebug debug, const MappingSurvey &survey);
+using foundation::operator<<;
 
 } // namespace kiv::surveying
 

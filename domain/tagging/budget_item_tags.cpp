@@ -101,14 +101,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetItemTags &tags)
                                         }));
 }
 
-QDebug operator<<(QDebug debug, const BudgetItemTags::ItemTags &item)
-{
-    return foundation::streamed(debug, item);
-}
-
-QDebug operator<<(QDebug debug, const BudgetItemTags &tags)
-{
-    return foundation::streamed(debug, tags);
-}
-
 } // namespace kiv::tagging

@@ -4,6 +4,7 @@
 #include "tagging/tags.h"
 
 #include "budgeting/identifiers.h"
+#include "foundation/debug_stream.h"
 
 #include <map>
 #include <span>
@@ -88,8 +89,7 @@ KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out,
                                             const BudgetItemTags::ItemTags &item);
 /// The items' forms between parentheses, ", " between them.
 KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetItemTags &tags);
-KIV_TAGGING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemTags::ItemTags &item);
-KIV_TAGGING_EXPORT QDebug operator<<(QDebug debug, const BudgetItemTags &tags);
+using foundation::operator<<;
 
 } // namespace kiv::tagging
 

@@ -68,9 +68,4 @@ std::ostream &operator<<(std::ostream &out, const BudgetTagManager &manager)
     return out << manager.associations() << ", possible " << manager.possible();
 }
 
-QDebug operator<<(QDebug debug, const BudgetTagManager &manager)
-{
-    return foundation::streamed(debug, manager);
-}
-
 } // namespace kiv::tagging

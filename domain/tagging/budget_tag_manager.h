@@ -3,6 +3,8 @@
 
 #include "tagging/budget_item_tags.h"
 
+#include "foundation/debug_stream.h"
+
 #include <vector>
 
 namespace kiv::tagging {
@@ -57,6 +59,6 @@ private:
 };
 
 KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetTagManager &manager);
-KIV_TAGGING_EXPORT QDebug operator<<(QDebug debug, const BudgetTagManager &manager);
+using foundation::operator<<;
 
 } // namespace kiv::tagging

@@ -31,14 +31,4 @@ std::ostream &operator<<(std::ostream &out, const Tags &tags)
     return foundation::streamRange(out, tags);
 }
 
-QDebug operator<<(QDebug debug, const Tag &tag)
-{
-    return foundation::streamed(debug, tag);
-}
-
-QDebug operator<<(QDebug debug, const Tags &tags)
-{
-    return foundation::streamed(debug, tags);
-}
-
 } // namespace kiv::tagging

@@ -3,7 +3,8 @@
 
 #include "tagging/export.h"
 
-#include <QtCore/QDebug>
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -64,7 +65,7 @@ public:
     void insert(Tag tag) { m_tags.insert(std::move(tag)); }
     /// Adds those that are not there yet.
     void insert(const Tags &others) { m_tags.insert(others.begin(), others.end()); }
-    /// Takes away those that are there.
+    /// Removes those of the tags that it has.
     void remove(const Tags &others) noexcept
     {
         for (const Tag &tag : others)
@@ -84,8 +85,7 @@ private:
 KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out, const Tag &tag);
 /// "(car, home)".
 KIV_TAGGING_EXPORT std::ostream &operator<<(std::ostream &out, const Tags &tags);
-KIV_TAGGING_EXPORT QDebug operator<<(QDebug debug, const Tag &tag);
-KIV_TAGGING_EXPORT QDebug operator<<(QDebug debug, const Tags &tags);
+using foundation::operator<<;
 
 } // namespace kiv::tagging
 

@@ -21,9 +21,4 @@ std::ostream &operator<<(std::ostream &out, const ReleaseInformation &release)
                << foundation::escapedUtf8(release.notes);
 }
 
-QDebug operator<<(QDebug debug, const ReleaseInformation &release)
-{
-    return foundation::streamed(debug, release);
-}
-
 } // namespace kiv::updating

@@ -4,6 +4,8 @@
 #include "updating/export.h"
 #include "updating/semantic_version.h"
 
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QDate>
 
 #include <set>
@@ -27,7 +29,7 @@ struct KIV_UPDATING_EXPORT ReleaseInformation {
 };
 
 KIV_UPDATING_EXPORT std::ostream &operator<<(std::ostream &out, const ReleaseInformation &release);
-KIV_UPDATING_EXPORT QDebug operator<<(QDebug debug, const ReleaseInformation &release);
+using foundation::operator<<;
 
 } // namespace kiv::updating
 

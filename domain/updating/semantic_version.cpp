@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "updating/semantic_version.h"
 
-#include "updating/errors.h"
+#include "updating/internal/faults.h"
 
 #include "foundation/streams.h"
 
@@ -135,11 +135,6 @@ QString presentationText(const SemanticVersion &version)
 std::ostream &operator<<(std::ostream &out, const SemanticVersion &version)
 {
     return out << foundation::escapedUtf8(toQString(version));
-}
-
-QDebug operator<<(QDebug debug, const SemanticVersion &version)
-{
-    return foundation::streamed(debug, version);
 }
 
 } // namespace kiv::updating

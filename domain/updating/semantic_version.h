@@ -3,7 +3,8 @@
 
 #include "updating/export.h"
 
-#include <QtCore/QDebug>
+#include "foundation/debug_stream.h"
+
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
 
@@ -64,7 +65,7 @@ private:
 /// The same as toQString.
 [[nodiscard]] KIV_UPDATING_EXPORT QString presentationText(const SemanticVersion &version);
 KIV_UPDATING_EXPORT std::ostream &operator<<(std::ostream &out, const SemanticVersion &version);
-KIV_UPDATING_EXPORT QDebug operator<<(QDebug debug, const SemanticVersion &version);
+using foundation::operator<<;
 
 } // namespace kiv::updating
 

@@ -102,8 +102,7 @@ public:
 private:
     friend class BudgetBankLedgers;
 
-    /// Constructs without any check: for an owner that was copied or moved and
-    /// ties what it has to its own banks and ledger again, valid or not.
+    /// Constructs without any check, for an owner that was copied or moved.
     struct Unchecked {};
     BankLedgers(Unchecked, foundation::ObserverPtr<banking::BankMap> banks,
                 foundation::ObserverPtr<accounting::GeneralLedger> ledgers) noexcept;

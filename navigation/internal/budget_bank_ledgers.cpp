@@ -64,7 +64,7 @@ BudgetBankLedgers::BudgetBankLedgers(BudgetBankLedgers &&other) noexcept
 
 BudgetBankLedgers &BudgetBankLedgers::operator=(BudgetBankLedgers &&other) noexcept
 {
-    // Both ledgers observe this object's own members already, and go on doing so.
+    // Both ledgers already observe this object's own members.
     m_generalLedger = std::move(other.m_generalLedger);
     m_budget = std::move(other.m_budget);
     m_banks = std::move(other.m_banks);
@@ -80,8 +80,7 @@ void BudgetBankLedgers::setManaged(accounting::GeneralLedger ledger, budgeting::
                                    BudgetAccountCodes codes, banking::BankMap banks,
                                    surveying::CompletedSurveys surveys)
 {
-    // The new parts are checked before they come in, so that a refusal needs no
-    // way back.
+    // The new parts are checked first, so that a refusal needs no undo.
     auto generator = std::make_unique<accounting::SequentialAccountNumberGenerator>(
         m_generator->seedFrom(ledger.accounts()));
     BudgetLedgers checked(observe(budget), observe(ledger), std::move(codes));
@@ -144,8 +143,8 @@ void BudgetBankLedgers::verifyNewItemName(const BudgetSource &source) const
 
 bool operator==(const BudgetBankLedgers &a, const BudgetBankLedgers &b)
 {
-    // The maps from items to accounts are all that the two ledgers add to what
-    // they observe.
+    // Besides what they observe, the two ledgers hold only the map from items to
+    // accounts.
     return a.m_banks == b.m_banks && a.m_budget == b.m_budget &&
            a.m_generalLedger == b.m_generalLedger &&
            a.m_budgetLedgers.budgetAccountCodes() == b.m_budgetLedgers.budgetAccountCodes();
@@ -167,11 +166,6 @@ std::ostream &operator<<(std::ostream &out, const BudgetBankLedgers &ledgers)
         }
     }
     return out << ')';
-}
-
-QDebug operator<<(QDebug debug, const BudgetBankLedgers &ledgers)
-{
-    return foundation::streamed(debug, ledgers);
 }
 
 } // namespace kiv::navigation::internal

@@ -7,13 +7,14 @@
 #include "navigation/internal/budget_ledgers.h"
 
 #include "budgeting/due.h"
+#include "foundation/debug_stream.h"
 #include "surveying/completed_surveys.h"
 #include "surveying/indexed_increase_decreases.h"
 #include "surveying/mapping_survey.h"
 
 // BudgetBankLedgers is one class in several sources:
 //   budget_bank_ledgers.cpp               construction, whole state, comparison, text form
-//   budget_bank_ledgers_routing.cpp       what it hands on to one of its parts, and renaming
+//   budget_bank_ledgers_routing.cpp       what goes to one of its parts, and renaming
 //   budget_bank_ledgers_associations.cpp  debts and goals at a bank
 //   budget_bank_ledgers_accounts.cpp      recoding, bank accounts, surveys
 namespace kiv::navigation::internal {
@@ -24,18 +25,16 @@ namespace kiv::navigation::internal {
 /// touches more than one of them goes through here.
 ///
 /// It is a value: a copy is independent of its source, and its BudgetLedgers
-/// and BankLedgers always observe its own members. A state that came about by
-/// allowed requests can always be copied and moved, also one in which an item or
-/// a bank has lost its account; only parts that come from outside are checked.
+/// and BankLedgers always observe its own members. Only parts that come from
+/// outside are checked: a copy or a move never fails because an item or a bank
+/// has lost its account.
 ///
-/// No account bears the name of a budget item. That is checked for parts at
-/// construction, and when an item is added or renamed, and when an account is
-/// added or recoded; not by setManaged.
+/// No account has the name of a budget item. That is checked at construction,
+/// when an item is added or renamed, and when an account is added or recoded;
+/// not by setManaged.
 ///
 /// Unless a member says otherwise, a refused change leaves everything as it
-/// was, and the error that is thrown is the first one: what fails while a change
-/// is undone is only logged. Where nothing is said of refusals, they are those of
-/// the part that does the work.
+/// was. A member that names no refusals has those of the part that does the work.
 class KIV_NAVIGATION_EXPORT BudgetBankLedgers {
 public:
     using AccountNumber = accounting::AccountNumber;
@@ -51,7 +50,7 @@ public:
 
     // ---- the whole state ---------------------------------------------------
 
-    /// Nothing in it, with a generator that starts from the beginning.
+    /// Empty, with a generator that starts from the beginning.
     BudgetBankLedgers();
     /// Without surveys. Throws what BudgetLedgers and BankLedgers refuse, and
     /// AccountError when an account bears the name of a budget item.
@@ -97,22 +96,22 @@ public:
 
     void open(const AccountCode &code);
     void close(const AccountCode &code);
-    /// Refused besides: the name of a budget item.
+    /// Also refused: the name of a budget item.
     std::optional<TransactionNumber> add(const accounting::Account &account);
     /// Removes the item whose name is the code's, with its account, or else the
     /// account; then its association with the first bank that has it. The
     /// account that an item owns has another name than the item, so it goes
     /// alone, and the item stays without one.
     void remove(const AccountCode &code);
-    /// Gives an account the number, name and parent of `to`, and takes along
-    /// its association with a bank, and that account's survey. `from` is trusted:
-    /// it must be the ledger's own code.
+    /// Gives an account the number, name and parent of `to`. Its association
+    /// with a bank and its survey follow. `from` must be the ledger's own code;
+    /// that is not checked.
     ///
-    /// Refused besides, as a BankError with the bank that has the account: taking
+    /// Also refused, as a BankError with the bank that has the account: taking
     /// a bank account out from under its parent, moving it under an account
     /// that no bank has, moving it at all once it has a reconciled
-    /// transaction; and as an AccountError the name of a budget item. If the
-    /// bank cannot follow, the ledger stays recoded.
+    /// transaction. The name of a budget item is refused as an AccountError. If
+    /// the bank cannot follow, the ledger stays recoded.
     void recode(const AccountCode &from, const AccountCode &to);
     /// Opens an account of the kind that fits a bank account, of no bank yet.
     AccountCode addAccount(const QString &name, const BankAccountTypes &types,
@@ -137,7 +136,7 @@ public:
     void open(const BankName &name);
     void close(const BankName &name);
     void remove(const BankName &name);
-    /// The bank's completed surveys go along.
+    /// The bank's completed surveys follow.
     void rename(const BankName &from, const BankName &to);
 
     /// At that bank.
@@ -195,7 +194,7 @@ public:
     void rename(const BudgetSource &from, const BudgetSource &to)
     {
         verifyNewItemName(to);
-        // In a copy, since nothing may fail once the item is renamed.
+        // In a copy, since nothing after the item's renaming may fail.
         surveying::CompletedSurveys surveys(m_surveys);
         surveys.renamedItem({budgeting::ItemTraits<T>::type, from}, to);
         m_budgetLedgers.rename<T>(from, to, std::nullopt);
@@ -233,7 +232,7 @@ public:
     /// BudgetItemError when there is none that has an account.
     TransactionNumber process(const budgeting::BudgetItemAmountDue &due, const AccountCode &bank,
                               const QDate &date);
-    /// Moves an item on without posting; which one, and what is thrown, as above.
+    /// Moves an item on without posting. Finds it, and throws, as the one above.
     void skip(const BudgetItemIdentifier &id);
 
     [[nodiscard]] std::optional<AccountCode>
@@ -270,21 +269,8 @@ public:
                                                  const BudgetBankLedgers &b);
 
 private:
-    /// Makes a change of several steps. When one of them fails, everything is put
-    /// back as it was before the first.
-    template <typename Change>
-    void wholly(Change &&change)
-    {
-        BudgetBankLedgers before(*this);
-        try {
-            change();
-        } catch (...) {
-            *this = std::move(before);
-            throw;
-        }
-    }
-    /// As for verifyBudgetSourceName, and the name that the item's own account
-    /// will get is held against the budget items like any account's.
+    /// As verifyBudgetSourceName. Checks besides that the name of the item's own
+    /// account is no item's.
     void verifyNewItemName(const BudgetSource &source) const;
     /// Whether the account has a transaction that is reconciled on its side.
     [[nodiscard]] bool hasReconciled(const AccountNumber &number) const;
@@ -336,6 +322,6 @@ private:
 /// Account Types (First => 1200=>checking, 1300=>savings, Second => …)", on one
 /// line.
 KIV_NAVIGATION_EXPORT std::ostream &operator<<(std::ostream &out, const BudgetBankLedgers &ledgers);
-KIV_NAVIGATION_EXPORT QDebug operator<<(QDebug debug, const BudgetBankLedgers &ledgers);
+using foundation::operator<<;
 
 } // namespace kiv::navigation::internal

@@ -110,7 +110,7 @@ BudgetBankLedgers::itemAccounts(const BudgetItemTypes &type) const
     if (type == BudgetItemTypes::None)
         return codes;
     budgeting::visitItemClass(
-        type, faults::bankAccountsOfUnknownType().what(), [&]<typename T>(std::type_identity<T>) {
+        type, faults::bankAccountsOfUnknownType, [&]<typename T>(std::type_identity<T>) {
             for (const auto &[source, item] : m_budget.items<T>()) {
                 try {
                     codes.emplace(source, m_budgetLedgers.budgetAccountCode<T>(source));
@@ -131,7 +131,7 @@ std::set<BudgetBankAccount> BudgetBankLedgers::budgetBankAccounts(const BudgetIt
         std::optional<BankAccount> parent;
         if (const std::optional<AccountNumber> &number = code.parent())
             parent = lookUpBankAccount(*number);
-        // A bank keeps a goal under its own number too, but it shows where it lies.
+        // A bank has a goal under its own number too, but shows it at its parent.
         const bool showsParent = type == BudgetItemTypes::Goal ? parent.has_value() : !own;
         if (const std::optional<BankAccount> &shown = showsParent ? parent : own)
             accounts.insert({type, source, *shown});

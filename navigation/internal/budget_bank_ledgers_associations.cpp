@@ -3,6 +3,7 @@
 
 #include "navigation/internal/faults.h"
 #include "navigation/internal/logging.h"
+#include "navigation/internal/undo.h"
 
 namespace kiv::navigation::internal {
 
@@ -13,10 +14,10 @@ using banking::BankName;
 using budgeting::Debt;
 using budgeting::Goal;
 
-// Adding and updating are undone by putting a copy of the whole state back.
-// Taking the single steps back would leave traces: removing the item is refused
-// while an old survey still names it, and converting its account back to the
-// first currency would lose cents.
+// Adding and updating are undone by restoring a copy of the whole state. Undoing
+// single steps would leave traces: removing the item is refused while an old
+// survey still names it, and converting its account back to the first currency
+// would lose cents.
 
 template <budgeting::BankTiedItem T>
 AccountCode BudgetBankLedgers::add(T item, const std::optional<BankAccount> &bankAccount)
@@ -24,38 +25,31 @@ AccountCode BudgetBankLedgers::add(T item, const std::optional<BankAccount> &ban
     verifyNewItemName(item.source());
     if (!bankAccount)
         return m_budgetLedgers.add(std::move(item), *m_generator);
-    BudgetBankLedgers before(*this);
+    Restore before(*this);
     AccountCode code = m_budgetLedgers.add(item, *m_generator);
     try {
         const BankAccount association = addBudgetBankAssociation(item, code, *bankAccount);
         logDone("Added budget bank association:", association);
-        return code;
     } catch (const std::exception &cause) {
-        *this = std::move(before);
         throw faults::associationNotAdded(budgeting::ItemTraits<T>::type, item.source(), cause);
     }
+    before.dismiss();
+    return code;
 }
 
 template <budgeting::BankTiedItem T>
 void BudgetBankLedgers::update(T item, const std::optional<BankAccount> &requested)
 {
-    BudgetBankLedgers before(*this);
+    Restore before(*this);
     m_budgetLedgers.update(item, *m_generator);
-    AccountCode code;
-    std::optional<BankAccount> current;
-    try {
-        code = m_budgetLedgers.budgetAccountCode<T>(item.source());
-        current = m_bankLedgers.lookUpBankAccount(code.number());
-    } catch (...) {
-        *this = std::move(before);
-        throw;
-    }
+    const AccountCode code = m_budgetLedgers.budgetAccountCode<T>(item.source());
+    const std::optional<BankAccount> current = m_bankLedgers.lookUpBankAccount(code.number());
     try {
         updateBudgetBankAssociation(item, code, requested, current);
     } catch (const std::exception &cause) {
-        *this = std::move(before);
         throw faults::associationNotUpdated(budgeting::ItemTraits<T>::type, item.source(), cause);
     }
+    before.dismiss();
 }
 
 template AccountCode BudgetBankLedgers::add(Debt, const std::optional<BankAccount> &);

@@ -3,6 +3,7 @@
 
 #include "navigation/internal/faults.h"
 #include "navigation/internal/remove_item.h"
+#include "navigation/internal/undo.h"
 
 namespace kiv::navigation::internal {
 
@@ -33,14 +34,14 @@ std::optional<TransactionNumber> BudgetBankLedgers::add(const accounting::Accoun
 void BudgetBankLedgers::remove(const AccountCode &code)
 {
     const BudgetSource source(code.name());
-    wholly([&] {
-        const bool wasItem = visitOwner(
-            source, [&]<typename T>(std::type_identity<T>) { m_budgetLedgers.remove<T>(source); });
-        if (!wasItem)
-            m_generalLedger.remove(code.number());
-        if (const std::optional<BankName> bank = m_bankLedgers.lookUpBankName(code.number()))
-            m_bankLedgers.removeAssociation(*bank, code.number());
-    });
+    Restore before(*this);
+    const bool wasItem = visitOwner(
+        source, [&]<typename T>(std::type_identity<T>) { m_budgetLedgers.remove<T>(source); });
+    if (!wasItem)
+        m_generalLedger.remove(code.number());
+    if (const std::optional<BankName> bank = m_bankLedgers.lookUpBankName(code.number()))
+        m_bankLedgers.removeAssociation(*bank, code.number());
+    before.dismiss();
 }
 
 TransactionNumber BudgetBankLedgers::post(const Transaction &transaction)
@@ -118,10 +119,10 @@ void BudgetBankLedgers::remove(const BankName &name)
 
 void BudgetBankLedgers::rename(const BankName &from, const BankName &to)
 {
-    wholly([&] {
-        m_bankLedgers.rename(from, to);
-        m_surveys.renamedBank(from, to);
-    });
+    Restore before(*this);
+    m_bankLedgers.rename(from, to);
+    m_surveys.renamedBank(from, to);
+    before.dismiss();
 }
 
 std::optional<BankAccount> BudgetBankLedgers::lookUpBankAccount(const BankName &bank,
@@ -134,7 +135,9 @@ std::optional<BankAccount> BudgetBankLedgers::lookUpBankAccount(const BankName &
 
 void BudgetBankLedgers::remove(const BudgetItemIdentifier &id)
 {
-    wholly([&] { removeItem(id, m_budgetLedgers, m_bankLedgers, m_surveys); });
+    Restore before(*this);
+    removeItem(id, m_budgetLedgers, m_bankLedgers, m_surveys);
+    before.dismiss();
 }
 
 TransactionNumber BudgetBankLedgers::process(const BudgetItemIdentifier &id, const Money &amount,

@@ -2,12 +2,14 @@
 #include "navigation/internal/budget_item_generator.h"
 
 #include "navigation/internal/budget_templates.h"
-#include "navigation/internal/configuration_faults.h"
+#include "navigation/internal/faults.h"
 
 #include "budgeting/budget_items.h"
 #include "foundation/clock.h"
 
 #include <QtCore/QObject>
+
+#include <array>
 
 namespace kiv::navigation::internal {
 
@@ -62,57 +64,58 @@ void rename(const Items &items, std::span<const ItemRename> renames)
     }
 }
 
-class EmptyBudgetItemGenerator final : public BudgetItemGenerator {
-public:
-    using BudgetItemGenerator::BudgetItemGenerator;
-    [[nodiscard]] Items generate() const override { return {}; }
+/// A part of a starter budget: its items, and new names for some of the earlier ones.
+struct Step {
+    std::span<const ItemTemplate> (*items)();
+    std::span<const ItemRename> (*renames)() = nullptr;
 };
 
-class TeenBudgetItemGenerator final : public BudgetItemGenerator {
+constexpr std::array steps{
+    Step{teenagerItems},
+    Step{adultSingleItems},
+    Step{secondAdultItems, renamesWhenMarried},
+    Step{secondIncomeItems, renamesWithSecondIncome},
+};
+
+std::span<const Step> stepsOf(BudgetWizardTemplates household)
+{
+    const std::span<const Step> all(steps);
+    switch (household) {
+    case BudgetWizardTemplates::None:
+        return {};
+    case BudgetWizardTemplates::Teenager:
+        return all.first(1);
+    case BudgetWizardTemplates::AdultSingle:
+        return all.subspan(1, 1);
+    case BudgetWizardTemplates::AdultMarriedSingleIncome:
+        return all.subspan(1, 2);
+    case BudgetWizardTemplates::AdultMarriedDoubleIncome:
+        return all.subspan(1, 3);
+    case BudgetWizardTemplates::Child:
+        break;
+    }
+    throw faults::noStarterBudget();
+}
+
+class HouseholdItemGenerator final : public BudgetItemGenerator {
 public:
-    using BudgetItemGenerator::BudgetItemGenerator;
+    HouseholdItemGenerator(std::span<const Step> parts, const numira::Currency &currency)
+        : BudgetItemGenerator(currency), m_steps(parts)
+    {
+    }
     [[nodiscard]] Items generate() const override
     {
         Items items;
-        append(items, teenagerItems(), currency());
+        for (const Step &step : m_steps) {
+            if (step.renames != nullptr)
+                rename(items, step.renames());
+            append(items, step.items(), currency());
+        }
         return items;
     }
-};
 
-class AdultSingleBudgetItemGenerator : public BudgetItemGenerator {
-public:
-    using BudgetItemGenerator::BudgetItemGenerator;
-    [[nodiscard]] Items generate() const override
-    {
-        Items items;
-        append(items, adultSingleItems(), currency());
-        return items;
-    }
-};
-
-class AdultMarriedSingleIncomeBudgetItemGenerator : public AdultSingleBudgetItemGenerator {
-public:
-    using AdultSingleBudgetItemGenerator::AdultSingleBudgetItemGenerator;
-    [[nodiscard]] Items generate() const override
-    {
-        Items items = AdultSingleBudgetItemGenerator::generate();
-        rename(items, renamesWhenMarried());
-        append(items, secondAdultItems(), currency());
-        return items;
-    }
-};
-
-class AdultMarriedDoubleIncomeBudgetItemGenerator final
-    : public AdultMarriedSingleIncomeBudgetItemGenerator {
-public:
-    using AdultMarriedSingleIncomeBudgetItemGenerator::AdultMarriedSingleIncomeBudgetItemGenerator;
-    [[nodiscard]] Items generate() const override
-    {
-        Items items = AdultMarriedSingleIncomeBudgetItemGenerator::generate();
-        rename(items, renamesWithSecondIncome());
-        append(items, secondIncomeItems(), currency());
-        return items;
-    }
+private:
+    std::span<const Step> m_steps;
 };
 
 } // namespace
@@ -120,21 +123,7 @@ public:
 std::unique_ptr<BudgetItemGenerator> makeBudgetItemGenerator(BudgetWizardTemplates household,
                                                              const numira::Currency &currency)
 {
-    switch (household) {
-    case BudgetWizardTemplates::None:
-        return std::make_unique<EmptyBudgetItemGenerator>(currency);
-    case BudgetWizardTemplates::Teenager:
-        return std::make_unique<TeenBudgetItemGenerator>(currency);
-    case BudgetWizardTemplates::AdultSingle:
-        return std::make_unique<AdultSingleBudgetItemGenerator>(currency);
-    case BudgetWizardTemplates::AdultMarriedSingleIncome:
-        return std::make_unique<AdultMarriedSingleIncomeBudgetItemGenerator>(currency);
-    case BudgetWizardTemplates::AdultMarriedDoubleIncome:
-        return std::make_unique<AdultMarriedDoubleIncomeBudgetItemGenerator>(currency);
-    case BudgetWizardTemplates::Child:
-        break;
-    }
-    throw faults::noStarterBudget();
+    return std::make_unique<HouseholdItemGenerator>(stepsOf(household), currency);
 }
 
 } // namespace kiv::navigation::internal

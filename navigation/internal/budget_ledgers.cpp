@@ -60,7 +60,7 @@ BudgetLedgers::lookUpAccountCode(const BudgetItemIdentifier &id) const
         return std::nullopt;
     try {
         return budgeting::visitItemClass(
-            id.type, faults::itemTypeIsUnknown(id.type).what(),
+            id.type, [&] { return faults::itemTypeIsUnknown(id.type); },
             [&]<typename T>(std::type_identity<T>) { return budgetAccountCode<T>(id.source); });
     } catch (const foundation::Error &error) {
         qWarning() << logText(error).c_str();

@@ -40,8 +40,8 @@ public:
     using Source = budgeting::BudgetSource;
     using TransactionNumber = accounting::TransactionNumber;
 
-    /// What a budget item's own account is called after the item and a blank:
-    /// "[Budget Item]".
+    /// The end of the name of a budget item's own account, behind the item and a
+    /// blank: "[Budget Item]".
     static const QString budgetItemAccountSuffix_;
 
     /// Throws foundation::Error when an entry of `codes` names no kind of item,
@@ -206,8 +206,7 @@ public:
 private:
     friend class BudgetBankLedgers;
 
-    /// Constructs without any check: for an owner that was copied or moved and
-    /// ties what it has to its own budget and ledger again, valid or not.
+    /// Constructs without any check, for an owner that was copied or moved.
     struct Unchecked {};
     BudgetLedgers(Unchecked, foundation::ObserverPtr<budgeting::Budget> budget,
                   foundation::ObserverPtr<accounting::GeneralLedger> ledgers,

@@ -7,8 +7,6 @@
 #include "accounting/number_handout.h"
 #include "budgeting/item_account.h"
 
-#include <QtCore/QScopeGuard>
-
 namespace kiv::navigation::internal {
 
 template <budgeting::BudgetItem T>
@@ -20,21 +18,21 @@ accounting::AccountCode BudgetLedgers::add(T item, AccountNumberGenerator &gener
     const accounting::Account account(budgeting::ItemTraits<T>::accountType, code,
                                       budgeting::openingMoney(item), false);
     m_budget->items<T>().add(std::move(item));
-    // From here on a failure leaves the item in the budget: the user still has
-    // it before their eyes, and it is given an account when the file is loaded.
-    // An item that was renamed only half-way has left its tie under its old name.
+    // From here on a failure leaves the item in the budget: the user still sees
+    // it, and loading the file opens its account. A rename that failed half-way
+    // may have left a tie under this name.
     const Number before = m_codes.has<T>(source) ? Number(m_codes.value<T>(source)) : std::nullopt;
     m_codes.insertOrAssign<T>(source, code.number());
-    // Neither takes memory, so neither can fail. A copy of all ties would make
-    // each item dearer than the one before.
-    auto tieAsBefore = qScopeGuard([&] {
-        if (before)
-            m_codes.insertOrAssign<T>(source, *before);
+    // Neither takes memory, so neither can fail. With a copy of all ties, each
+    // item would cost more than the one before.
+    Restore tieBefore(before, [&](Number &&tie) noexcept {
+        if (tie)
+            m_codes.insertOrAssign<T>(source, *tie);
         else
             m_codes.remove<T>(source);
     });
     m_ledgers->add(account, generator);
-    tieAsBefore.dismiss();
+    tieBefore.dismiss();
     number.keep();
     return code;
 }
@@ -60,7 +58,7 @@ void BudgetLedgers::update(T item, AccountNumberGenerator &generator)
 template <budgeting::BudgetItem T>
 void BudgetLedgers::rename(const Source &from, const Source &to, const Number &number)
 {
-    // `from` may be the key of the very item, which goes when it is renamed.
+    // `from` may be the item's own key, which is gone once it is renamed.
     const Source original = from;
     m_budget->items<T>().rename(original, to);
     const AccountCode oldCode = m_ledgers->ledger(m_codes.value<T>(original)).code();
@@ -76,7 +74,7 @@ void BudgetLedgers::rename(const Source &from, const Source &to, const Number &n
 template <budgeting::BudgetItem T>
 void BudgetLedgers::remove(const Source &source)
 {
-    // `source` may be the key of the very item, which goes first.
+    // `source` may be the item's own key, which is removed first.
     const Source original = source;
     auto &items = m_budget->items<T>();
     if (!items.contains(original))

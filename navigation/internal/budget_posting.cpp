@@ -31,14 +31,11 @@ TransactionNumber BudgetLedgers::post(const AccountCode &first, const AccountCod
                                       const numira::Money &amount, const QDate &date,
                                       const QString &description, budgeting::BudgetedMoney &item)
 {
+    Restore ledgersBefore(*m_ledgers);
     const TransactionNumber number =
         m_ledgers->post(accounting::Transaction(date, first, second, amount, description));
-    try {
-        item.updateNextOccurOn();
-    } catch (...) {
-        undo("Failed to take back a posting.", [&] { m_ledgers->remove(number); });
-        throw;
-    }
+    item.updateNextOccurOn();
+    ledgersBefore.dismiss();
     return number;
 }
 
@@ -61,7 +58,7 @@ TransactionNumber BudgetLedgers::processUnexpected(const budgeting::BudgetItemId
     if (id.type == BudgetItemTypes::None)
         throw faults::unexpectedOfUnknownType(id.source);
     const AccountCode itemCode = budgeting::visitItemClass(
-        id.type, faults::unexpectedOfInvalidType().what(), [&]<typename T>(std::type_identity<T>) {
+        id.type, faults::unexpectedOfInvalidType, [&]<typename T>(std::type_identity<T>) {
             if (!m_codes.has<T>(id.source))
                 throw faults::unexpectedWithoutAccount(id.source);
             return budgetAccountCode<T>(id.source);

@@ -9,7 +9,7 @@
 #include <span>
 
 /// The items with which the first-time wizard fills a new budget. Names are
-/// English; whoever shows them translates them.
+/// English; the generator translates them.
 namespace kiv::navigation::internal {
 
 struct ItemTemplate {

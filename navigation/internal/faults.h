@@ -14,9 +14,12 @@
 
 #include <stdexcept>
 
-/// What the ledgers of the navigation layer find fault with: one function for
-/// each, which gives the exception to throw. The sentences stand together in
-/// faults.cpp. A std::logic_error is a fault of the calling program.
+// The faults stand in two sources:
+//   faults.cpp           records, ledgers, the aggregate, surveys
+//   faults_of_slots.cpp  the Navigator's slots, settings, starter budgets
+
+/// Every sentence with which the navigation layer refuses something: one function each, which
+/// gives the exception to throw. A std::logic_error is a mistake of the calling program.
 namespace kiv::navigation::internal::faults {
 
 using accounting::AccountCode;
@@ -126,5 +129,43 @@ SurveyError cannotBeDistributed(const BankAccount &account, const BudgetItemIden
 SurveyError goalDistributedByHand(const BankAccount &account, const BudgetItemIdentifier &goal);
 SurveyError changedItemHasNoAccount(const BankAccount &account, const BudgetItemIdentifier &id);
 accounting::TransactionError reconciledTransactionMissing(TransactionNumber number);
+
+// ---- slots -----------------------------------------------------------------------
+
+Error converterGone();
+Error tagsOfOtherType();
+Error tagsOfOtherSource();
+/// `word` names the kind, as in ItemTraits; `verb` is "add" or "update".
+std::logic_error takesNoBankAccount(const char *word, const char *verb);
+std::logic_error unknownTypeToAdd();
+std::logic_error unknownTypeToUpdate();
+std::logic_error unknownTypeToRename();
+std::logic_error unknownTypeToLookUp();
+
+Error wizardBankAccountNotAdded(const QString &account);
+Error wizardBankNotAdded(const BankName &bank);
+Error wizardItemNotAdded(BudgetItemTypes type, const BudgetSource &source);
+
+// ---- settings --------------------------------------------------------------------
+
+Error workHoursOutOfRange();
+Error workDaysOutOfRange();
+/// `codes` are joined by "', '".
+Error currenciesInUse(const QString &codes);
+Error notifyDueWithinOutOfRange();
+Error surveyWindowOutOfRange();
+/// For the log.
+std::runtime_error notAListOfTexts();
+
+std::logic_error unknownStrongValue(const QString &value, const QString &target);
+std::logic_error unknownWeakValue(const QString &value, const QString &target);
+std::logic_error unknownWayToDisplayCurrency();
+std::logic_error unknownWayCurrencyWasDisplayed();
+std::logic_error unknownCurrencySymbol();
+
+// ---- starter budgets -------------------------------------------------------------
+
+std::logic_error noStarterBudget();
+std::logic_error unknownStarterItem();
 
 } // namespace kiv::navigation::internal::faults

@@ -26,7 +26,7 @@ using AccountChanges = surveying::IndexedIncreaseDecreases<AccountNumber>;
 
 // ---- checks, which change nothing ----------------------------------------------
 
-/// The ticked transactions, held against the accounts in which they must stand.
+/// The ticked transactions, which must be in the surveyed accounts.
 class TickedTransactions {
 public:
     TickedTransactions(const SurveyedAccounts &accounts, const accounting::GeneralLedger &ledger)
@@ -47,7 +47,7 @@ public:
                 throw faults::tickedAfterSurvey(m_accounts.bankAccount, number,
                                                 transaction.occurredOn(), date);
             }
-            if (!isWithinFamily(transaction))
+            if (!m_accounts.isWithin(transaction))
                 balance = adjusted(account, balance, transaction);
         }
         return balance;
@@ -66,14 +66,6 @@ private:
                 return {ledger.code(), *std::move(transaction)};
         }
         throw faults::tickedElsewhere(m_accounts.bankAccount, number);
-    }
-
-    /// Whether the money stays within the bank account and those under it, so
-    /// that the statement's balance does not move.
-    [[nodiscard]] bool isWithinFamily(const Transaction &transaction) const
-    {
-        return m_accounts.contains(transaction.debiting().number()) &&
-               m_accounts.contains(transaction.crediting().number());
     }
 
     [[nodiscard]] Money adjusted(const AccountCode &account, const Money &balance,
@@ -103,7 +95,7 @@ void apply(const surveying::IndexedIncreaseDecreases<Key> &changes, Money &balan
 void checkBalance(const BankAccount &account, const Money &calculated, const Money &balance,
                   const foundation::Percentage &window)
 {
-    // Nothing lies within a part of zero, so there the window is one major unit.
+    // A part of zero is zero, so there the window is one major unit.
     const Money unit(calculated.code(), 1, 0);
     const bool fits = balance == 0 ? -unit < calculated && calculated < unit
                                    : accounting::isWithinWindow(calculated, window, balance,
@@ -227,8 +219,8 @@ void reconcile(const std::set<TransactionNumber> &numbers, const SurveyedAccount
         const AccountNumber debit = transaction->debiting().number();
         const AccountNumber credit = transaction->crediting().number();
         const bool isOwnDebited = accounts.contains(debit);
-        const bool isWithinFamily = isOwnDebited && accounts.contains(credit);
-        if (!isWithinFamily && isSurveyedByItself(isOwnDebited ? credit : debit, banks))
+        if (!accounts.isWithin(*transaction) &&
+            isSurveyedByItself(isOwnDebited ? credit : debit, banks))
             oneSided.emplace(number, isOwnDebited ? debit : credit);
         else
             whole.insert(number);
@@ -271,8 +263,8 @@ finaliseSurvey(const QDate &date, const BankAccount &account, const Money &balan
     postings.post(budgetChanges);
     postings.post(accountChanges);
 
-    // What the statement shows stays; a survey that is not reconciled whole does
-    // not, since the next one would begin from its balance.
+    // After a failure the postings stay, since the statement shows them. The survey
+    // does not, since the next one would begin from its balance.
     Restore surveysBefore(surveys);
     Restore ledgerBefore(ledger);
     surveying::CompletedSurvey completed =

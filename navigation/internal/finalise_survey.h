@@ -14,10 +14,10 @@ namespace kiv::navigation::internal {
 /// statement of a day: checks that it adds up, posts what was missing, records
 /// the survey, and reconciles what was posted and ticked.
 ///
-/// `balance` is the statement's, `reconciled` what was ticked, the changes what
-/// the statement shows and the ledger lacks, `distribution` and `nonDistributed`
-/// what is set aside and what is left over, and `window` by how much an asset's
-/// balance may miss the statement's.
+/// `balance` is the statement's; `reconciled` was ticked. The changes are what the
+/// statement shows and the ledger lacks. `distribution` is set aside and
+/// `nonDistributed` left over. An asset's balance may differ from the statement's
+/// by `window`.
 ///
 /// Refused before anything has changed, as SurveyErrors: a ticked transaction
 /// that is neither in the account nor in one under it, or is later than the day;

@@ -7,16 +7,16 @@
 
 namespace kiv::navigation::internal {
 
-/// An error's text for the log. It may hold names that a file brought, and a
-/// terminal must not obey them.
+/// An error's text for the log, escaped: a name from a file must not control a
+/// terminal.
 inline std::string logText(const std::exception &error)
 {
     return foundation::escapedUtf8(QString::fromUtf8(error.what()));
 }
 
-/// Writes a warning: a fixed sentence, and the error's text. When the line cannot be
-/// written, for want of memory or by the front end's own handler, the error itself
-/// matters more than its line.
+/// Writes a warning: a fixed sentence, and the error's text. A line that cannot be
+/// written, for want of memory or by the front end's own handler, is left out: the
+/// error matters more.
 inline void logWarning(const char *sentence, const std::exception &error) noexcept
 {
     try {

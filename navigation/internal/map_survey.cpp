@@ -35,8 +35,7 @@ QDate startOf(const banking::ReconciledBankAccount &reconciled, const QDate &dat
     return foundation::firstOfMonth(date).addMonths(-1);
 }
 
-/// How many times an item is expected to be wanted by then: never less than
-/// once.
+/// The number of times that an item occurs until then, at least 1.
 double occurrencesUntil(const QDate &date, const BudgetedMoney &item)
 {
     return std::max(1.0,
@@ -60,7 +59,7 @@ bool isExpense(BudgetItemTypes type)
     return false;
 }
 
-/// What is still to be paid each month until the end of the date's month.
+/// The monthly payments that are still due until the end of the date's month.
 Money dueUntilMonthEnd(const QDate &date, const budgeting::Budget &budget,
                        const numira::Currency &currency, const QDate &today)
 {
@@ -74,7 +73,7 @@ Money dueUntilMonthEnd(const QDate &date, const budgeting::Budget &budget,
         });
 }
 
-/// One survey on its way.
+/// Builds one proposal.
 class Generation {
 public:
     Generation(SurveyedAccounts accounts, const QDate &date,
@@ -127,7 +126,7 @@ void Generation::run()
     for (const AccountNumber child : m_accounts.children) {
         qInfo() << "Processing child ledger" << child;
         walk(child, "Processing child ledger transaction #");
-        // What lies in an item's own account under the bank account is set aside.
+        // The balance of an item's own account under the bank account is set aside.
         if (const auto item = m_ledgers.lookUpBudgetId(child))
             m_changes.distribution[*item] = ledger().ledger(child).balance();
     }
@@ -180,7 +179,7 @@ void Generation::markElsewhere(const BudgetItemIdentifier &id)
 
 void Generation::walk(AccountNumber number, const char *sentence)
 {
-    // Asked once: a ledger may hold tens of thousands of transactions.
+    // Looked up once, since a ledger may hold tens of thousands of transactions.
     const bool isLogged = QLoggingCategory::defaultCategory()->isDebugEnabled();
     const accounting::TransactionList transactions = ledger().ledger(number).transactions();
     for (const accounting::Transaction &transaction : transactions) {

@@ -9,9 +9,9 @@
 
 namespace kiv::navigation::internal {
 
-/// What a household goes through to reconcile a bank account on a day: every
-/// change since the last reconciliation, the balance that it should show, and a
-/// proposal of what to set aside for each budget item. Only reads.
+/// Proposes a survey of a bank account on a day: every change since the last
+/// reconciliation, the expected balance, and what to set aside for each budget
+/// item. Only reads.
 ///
 /// Refused: a bank that does not exist (BankError), a date after `today`
 /// (SurveyError), an account that does not exist (AccountError).

@@ -71,8 +71,7 @@ void registerMetaTypes()
                 numira::Money, std::set<numira::Currency>, std::chrono::days,
                 std::chrono::milliseconds>();
 
-    // These go by another name in signals and slots than the compiler knows
-    // them by.
+    // In signals and slots these have other names than for the compiler.
     qRegisterMetaType<AllowSubAccounts>("kiv::navigation::AllowSubAccounts");
     qRegisterMetaType<std::chrono::days>("std::chrono::days");
     qRegisterMetaType<std::chrono::milliseconds>("std::chrono::milliseconds");

@@ -21,13 +21,13 @@ void refuseWhileDistributed(const budgeting::BudgetItemIdentifier &id,
 void removeItem(const budgeting::BudgetItemIdentifier &id, BudgetLedgers &budgetLedgers,
                 BankLedgers &bankLedgers, const surveying::CompletedSurveys &surveys)
 {
-    // An invalid type is answered below, in the removal's own words.
+    // An invalid type is refused below, with the sentence of a removal.
     const std::optional<accounting::AccountCode> code = id.type > budgeting::BudgetItemTypes::Wage
                                                             ? std::nullopt
                                                             : budgetLedgers.lookUpAccountCode(id);
     refuseWhileDistributed(id, surveys);
     budgeting::visitItemClass(
-        id.type, faults::invalidTypeForRemoval(id.type).what(),
+        id.type, [&] { return faults::invalidTypeForRemoval(id.type); },
         [&]<typename T>(std::type_identity<T>) { budgetLedgers.remove<T>(id.source); });
     if (!code)
         return;

@@ -18,12 +18,14 @@ bool SurveyedAccounts::contains(AccountNumber account) const
     return account == number() || children.contains(account);
 }
 
+bool SurveyedAccounts::isWithin(const Transaction &transaction) const
+{
+    return contains(transaction.debiting().number()) && contains(transaction.crediting().number());
+}
+
 bool SurveyedAccounts::isInternal(const Transaction &transaction) const
 {
-    const AccountNumber debit = transaction.debiting().number();
-    const AccountNumber credit = transaction.crediting().number();
-    return (debit == number() && children.contains(credit)) ||
-           (credit == number() && children.contains(debit));
+    return isWithin(transaction) && transaction.involves(number());
 }
 
 /// A transaction as it moves the surveyed balance.
@@ -45,7 +47,7 @@ SurveyedChanges::SurveyedChanges(const SurveyedAccounts &accounts, const BudgetL
                                  const numira::Money &balance)
     : m_accounts(accounts), m_ledgers(ledgers), m_balance(balance)
 {
-    // Looked up for each transaction, of which there may be very many.
+    // A map, since each of very many transactions is looked up.
     for (const auto &[type, numbers] : ledgers.budgetAccountCodes().maps()) {
         for (const auto &[source, number] : numbers)
             m_items.emplace(number,
@@ -109,8 +111,8 @@ void SurveyedChanges::addToAccount(const Movement &movement)
         return code.number() != m_accounts.number() && code.number() != movement.walked;
     };
     if (movement.isInternal) {
-        // The child is the other account, on whichever of the two it was found,
-        // and the money has left one and come into the other.
+        // One account is the bank account, the other the child. The money has left
+        // one and come into the other.
         const AccountCode &child = debit.number() == m_accounts.number() ? credit : debit;
         accountChanges[child].insert(movement.change());
         accountChanges[child].insert({!movement.isIncrease, movement.transaction});

@@ -20,29 +20,31 @@ struct KIV_NAVIGATION_EXPORT SurveyedAccounts {
     [[nodiscard]] bool isAsset() const { return banking::isAssetAccount(bankAccount.account.type); }
     /// Whether it is the bank account or one under it.
     [[nodiscard]] bool contains(accounting::AccountNumber account) const;
+    /// Whether both sides of the transaction are among these accounts. Then the
+    /// statement's balance does not move.
+    [[nodiscard]] bool isWithin(const accounting::Transaction &transaction) const;
     /// Whether the transaction moves money between the bank account and one
     /// under it.
     [[nodiscard]] bool isInternal(const accounting::Transaction &transaction) const;
 };
 
-/// What the transactions of a surveyed bank account come to: the balance that
-/// they lead to, the changes by budget item and by account, and what is set
-/// aside for the items.
+/// Sums up the transactions of a surveyed bank account: the expected balance, the
+/// changes by budget item and by account, and what is set aside for the items.
 ///
-/// An amount counts as it stands on the side of the account that it moves, in
-/// that account's currency.
+/// An amount counts on the side of the account that it moves, in that account's
+/// currency.
 class KIV_NAVIGATION_EXPORT SurveyedChanges {
 public:
     using BudgetItemChanges = surveying::MappingSurvey::BudgetItemChanges;
     using AccountChanges = surveying::MappingSurvey::AccountChanges;
 
-    /// Both have to outlive this.
+    /// Accounts and ledgers must outlive it.
     SurveyedChanges(const SurveyedAccounts &accounts, const BudgetLedgers &ledgers,
                     const numira::Money &balance);
 
-    /// Takes up a transaction that stands in the ledger account `walked`, which
-    /// is the bank account or one under it. Taking up an internal transfer again
-    /// from its other account changes nothing. Throws SurveyError when neither
+    /// Adds a transaction of the ledger account `walked`, which is the bank
+    /// account or one under it. Adding an internal transfer again from its other
+    /// account changes nothing. Throws SurveyError when neither
     /// side is `walked` or the bank account, and no budget item is concerned.
     void add(const accounting::Transaction &transaction, accounting::AccountNumber walked);
 

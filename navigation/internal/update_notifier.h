@@ -18,8 +18,8 @@ namespace kiv::navigation::internal {
 /// interval, counted from the beginning. When it has announced one, it stops
 /// until startCheckNotifications is called: then the user has acknowledged.
 ///
-/// Nothing limits how many checks are under way; one that was begun before the
-/// stop may still announce its release.
+/// Several checks can run at once. One that began before the stop may still
+/// announce its release.
 class KIV_NAVIGATION_EXPORT UpdateNotifier final : public QObject {
     Q_OBJECT
 public:

@@ -204,7 +204,8 @@ private slots:
 
     void theKindGoesWithTheObject()
     {
-        forEachItemClass([]<typename Item>(std::type_identity<Item>) {
+        const auto unknown = [] { return std::logic_error("unknown"); };
+        forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
             const Item made = item<Item>("A");
             QCOMPARE(toBudgetItemTypes(made), ItemTraits<Item>::type);
             QCOMPARE(toBudgetItemTypes(*made.clone()), ItemTraits<Item>::type);
@@ -214,7 +215,7 @@ private slots:
             QVERIFY(budget.isEmpty());
             budget.items<Item>().add(made);
             QVERIFY(!budget.isEmpty() && !(budget == Budget()));
-            visitItemClass(ItemTraits<Item>::type, "unknown",
+            visitItemClass(ItemTraits<Item>::type, unknown,
                            []<typename Visited>(std::type_identity<Visited>) {
                                QVERIFY((std::is_same_v<Visited, Item>));
                            });
@@ -223,7 +224,7 @@ private slots:
         for (const int value : {0, 6}) {
             QVERIFY_THROWS_EXCEPTION(
                 std::logic_error,
-                visitItemClass(static_cast<BudgetItemTypes>(value), "unknown", [](auto) {}));
+                visitItemClass(static_cast<BudgetItemTypes>(value), unknown, [](auto) {}));
         }
     }
 

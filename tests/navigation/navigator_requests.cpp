@@ -174,7 +174,7 @@ struct Read {
         const QString amount = text.section(u' ', 2);
         const BudgetItemIdentifier id = item(text.section(u' ', 0, 1));
         return budgeting::visitItemClass(
-            id.type, "no kind",
+            id.type, [] { return std::logic_error("no kind"); },
             [&]<typename Item>(std::type_identity<Item>) -> std::shared_ptr<BudgetedMoney> {
                 return std::make_shared<Item>(
                     test::item<Item>(qUtf8Printable(id.source.name()),

@@ -85,10 +85,13 @@ void checkBooks(const Data &data)
     }
     for (const auto &[type, name] : itemsOf(data)) {
         RC_ASSERT(!ledger.hasLedgerNamed(name.name()));
-        budgeting::visitItemClass(type, "no kind", [&]<typename T>(std::type_identity<T>) {
-            const auto own = ledger.accountCode(data.budgetAccountCodes.template value<T>(name));
-            RC_ASSERT(own.name() == name.name() + u" [Budget Item]"_qs);
-        });
+        budgeting::visitItemClass(
+            type, [] { return std::logic_error("no kind"); },
+            [&]<typename T>(std::type_identity<T>) {
+                const auto own =
+                    ledger.accountCode(data.budgetAccountCodes.template value<T>(name));
+                RC_ASSERT(own.name() == name.name() + u" [Budget Item]"_qs);
+            });
     }
 }
 

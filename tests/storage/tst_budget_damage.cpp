@@ -6,7 +6,7 @@
 #include "scratch_folder.h"
 
 #include "storage/budget_inspection.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/rows.h"
 #include "support/damage.h"
 #include "support/message_log.h"

@@ -8,6 +8,7 @@
 #include "foundation/presentation.h"
 #include "numira/error.h"
 #include "numira/library.h"
+#include "surveying/errors.h"
 
 #include "support/budgeting.h"
 
@@ -157,7 +158,8 @@ template <typename Test>
 void forKind(Test &&test)
 {
     QFETCH(BudgetItemTypes, type);
-    budgeting::visitItemClass(type, "no kind", test);
+    budgeting::visitItemClass(
+        type, [] { return std::logic_error("no kind"); }, test);
 }
 
 /// "bill", "debt" and so on.

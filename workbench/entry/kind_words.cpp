@@ -6,16 +6,24 @@
 #include <QtCore/QObject>
 
 #include <array>
+#include <stdexcept>
 
 namespace kiv::workbench {
+namespace {
+
+std::logic_error kindWithoutWord()
+{
+    return std::logic_error("An unknown kind of budget item has no word.");
+}
+
+} // namespace
 
 QString kindWord(budgeting::BudgetItemTypes kind)
 {
-    return budgeting::visitItemClass(kind, "An unknown kind of budget item has no word.",
-                                     []<typename Item>(std::type_identity<Item>) {
-                                         return QString::fromLatin1(
-                                             budgeting::ItemTraits<Item>::word);
-                                     });
+    return budgeting::visitItemClass(
+        kind, kindWithoutWord, []<typename Item>(std::type_identity<Item>) {
+            return QString::fromLatin1(budgeting::ItemTraits<Item>::word);
+        });
 }
 
 QString kindText(budgeting::BudgetItemTypes kind)

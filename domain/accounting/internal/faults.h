@@ -6,8 +6,8 @@
 
 #include "numira/money.h"
 
-/// Every sentence with which the ledger refuses something, one function each.
-/// A transaction that was not posted yet goes by the number 0.
+/// Every sentence with which the ledger refuses something: one function each, which gives the
+/// exception to throw. A transaction that was not posted yet goes by the number 0.
 namespace kiv::accounting::internal {
 
 // ---- accounts --------------------------------------------------------------

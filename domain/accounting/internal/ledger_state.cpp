@@ -3,7 +3,7 @@
 
 #include "accounting/internal/faults.h"
 
-#include "numira/error.h"
+#include "foundation/money_refusals.h"
 
 #include <span>
 
@@ -51,11 +51,11 @@ private:
     }
     void add(Sums &sums, numira::Money Sums::*side, const numira::Money &amount) const
     {
-        try {
-            sums.*side += amount;
-        } catch (const numira::Error &cause) {
-            throw balanceOutOfRange(accountAt(sums.place).code, cause);
-        }
+        foundation::withMoneyRefusals([&] { sums.*side += amount; },
+                                      [&](const std::exception &cause) {
+                                          return balanceOutOfRange(accountAt(sums.place).code,
+                                                                   cause);
+                                      });
     }
 
     const LedgerState &m_state;
@@ -182,20 +182,18 @@ TransactionRecord &LedgerState::changeRecord(TransactionNumber number)
 Transaction LedgerState::transaction(TransactionNumber number, AccountNumber account) const
 {
     const TransactionRecord &record = this->record(number);
-    Transaction result;
-    result.m_occurredOn = record.occurredOn;
-    result.m_debiting = this->account(record.debit).code;
-    result.m_crediting = this->account(record.credit).code;
-    result.m_amount = record.amount;
-    result.m_debitAmount = record.debitAmount();
-    result.m_creditAmount = record.creditAmount();
-    result.m_description = record.description;
-    result.m_number = number;
-    result.m_refundOf = record.refundOf;
-    result.m_debitStatus = record.debitStatus;
-    result.m_creditStatus = record.creditStatus;
-    result.m_seenFrom = account;
-    return result;
+    return Transaction({.occurredOn = record.occurredOn,
+                        .debiting = this->account(record.debit).code,
+                        .crediting = this->account(record.credit).code,
+                        .amount = record.amount,
+                        .debitAmount = record.debitAmount(),
+                        .creditAmount = record.creditAmount(),
+                        .description = record.description,
+                        .number = number,
+                        .refundOf = record.refundOf,
+                        .debitStatus = record.debitStatus,
+                        .creditStatus = record.creditStatus,
+                        .seenFrom = account});
 }
 
 void LedgerState::exchange(TransactionNumber number, std::optional<TransactionRecord> after)

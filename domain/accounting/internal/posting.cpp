@@ -2,8 +2,9 @@
 #include "accounting/internal/posting.h"
 
 #include "accounting/internal/faults.h"
+#include "accounting/internal/mistakes.h"
 
-#include "numira/error.h"
+#include "foundation/money_refusals.h"
 
 namespace kiv::accounting::internal {
 namespace {
@@ -88,7 +89,7 @@ void checkTransaction(const LedgerState &state, const Transaction &transaction,
     for (const TransactionStatuses status :
          {transaction.debitStatus(), transaction.creditStatus()}) {
         if (status > TransactionStatuses::Reconciled)
-            throw std::logic_error("An unknown transaction status cannot be posted.");
+            throw statusNotPostable();
     }
     if (!transaction.occurredOn().isValid())
         throw dayInvalid(number);
@@ -107,15 +108,9 @@ numira::Money convertedAmount(const numira::Money &amount, const numira::Currenc
 {
     if (amount.code() == currency)
         return amount;
-    const numira::Money result = [&] {
-        try {
-            return amount.convertedTo(currency).rounded();
-        } catch (const numira::Error &cause) {
-            throw notConverted(number, amount, currency, cause);
-        } catch (const foundation::Error &cause) {
-            throw notConverted(number, amount, currency, cause);
-        }
-    }();
+    const numira::Money result = foundation::withMoneyRefusals(
+        [&] { return amount.convertedTo(currency).rounded(); },
+        [&](const std::exception &cause) { return notConverted(number, amount, currency, cause); });
     if (!result.isPositive())
         throw comesToNothing(number, amount, currency);
     return result;

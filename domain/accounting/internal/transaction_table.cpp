@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "accounting/internal/transaction_table.h"
 
+#include "accounting/internal/mistakes.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -90,7 +92,7 @@ void TransactionTable::discount(TransactionNumber number) noexcept
 TransactionRecord &TransactionTable::change(TransactionNumber number)
 {
     if (!m_numbers.contains(number))
-        throw std::logic_error("There is no such transaction to change.");
+        throw recordToChangeMissing();
     return m_chunks[chunkOf(number)]->records[slotOf(number)];
 }
 

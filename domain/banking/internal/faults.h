@@ -3,7 +3,8 @@
 
 #include "banking/errors.h"
 
-/// Every sentence with which the bank map refuses a request.
+/// Every sentence with which this library refuses something: one function each, which gives the
+/// exception to throw.
 namespace kiv::banking::internal {
 
 [[nodiscard]] BankError emptyBankName(const BankName &name);

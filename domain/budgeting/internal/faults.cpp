@@ -26,6 +26,39 @@ BudgetItemError noDayOfMonth(const BudgetSource &source, int day)
                         .arg(presentationText(source), QString::number(day))};
 }
 
+BudgetItemError newSourceEmpty(const BudgetSource &source)
+{
+    return {source, QObject::tr("The new budgeted money item source cannot be empty.")};
+}
+
+BudgetItemError newSourceExists(const BudgetSource &source)
+{
+    return {source, QObject::tr("The new budgeted money item source already exists.")};
+}
+
+BudgetItemError cannotRemoveMissing(const BudgetSource &source)
+{
+    return {source, QObject::tr("Failed to remove the budgeted money item as it does not exist.")};
+}
+
+BudgetItemError cannotUpdateMissing(const BudgetSource &source)
+{
+    return {source, QObject::tr("Cannot update the budgeted money item as it does not exist.")};
+}
+
+BudgetItemError cannotRenameMissing(const BudgetSource &source)
+{
+    return {source,
+            QObject::tr("Cannot rename the budgeted money item source as it does not exist.")};
+}
+
+BudgetItemError cannotRenameOnto(const BudgetSource &source, const BudgetSource &to)
+{
+    return {source, QObject::tr("Cannot rename the budgeted money item source, as the new source, "
+                                "%1, already exists.")
+                        .arg(to.name())};
+}
+
 foundation::Error neverRecurs()
 {
     return foundation::Error(QObject::tr("What is not scheduled has no next date to move on to."));

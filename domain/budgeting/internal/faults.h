@@ -7,14 +7,25 @@
 
 #include <QtCore/QDate>
 
-/// The sentences with which items and dates are refused. Those of the item maps
-/// stand in their template.
+/// Every sentence with which this library refuses something: one function each, which gives the
+/// exception to throw.
 namespace kiv::budgeting::internal {
+
+// ---- items ---------------------------------------------------------------------
 
 [[nodiscard]] BudgetItemError itemWithoutDate(const BudgetSource &source);
 [[nodiscard]] BudgetItemError itemWithNegativeAmount(const BudgetSource &source,
                                                      const numira::Money &amount);
 [[nodiscard]] BudgetItemError noDayOfMonth(const BudgetSource &source, int day);
+[[nodiscard]] BudgetItemError newSourceEmpty(const BudgetSource &source);
+[[nodiscard]] BudgetItemError newSourceExists(const BudgetSource &source);
+[[nodiscard]] BudgetItemError cannotRemoveMissing(const BudgetSource &source);
+[[nodiscard]] BudgetItemError cannotUpdateMissing(const BudgetSource &source);
+[[nodiscard]] BudgetItemError cannotRenameMissing(const BudgetSource &source);
+[[nodiscard]] BudgetItemError cannotRenameOnto(const BudgetSource &source, const BudgetSource &to);
+
+// ---- dates ---------------------------------------------------------------------
+
 [[nodiscard]] foundation::Error neverRecurs();
 /// `frequency` is its text for people.
 [[nodiscard]] foundation::Error noNextDate(const QString &frequency, QDate date);

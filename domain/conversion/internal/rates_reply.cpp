@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "conversion/internal/rates_reply.h"
 
-#include "conversion/errors.h"
+#include "conversion/internal/faults.h"
 
+#include "foundation/money_refusals.h"
 #include "networking/json_reply.h"
-#include "numira/error.h"
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QLocale>
@@ -20,14 +20,12 @@ constexpr double timestampMax = 253402300799.0;
 
 numira::Currency readCurrency(const QString &code)
 {
-    try {
-        const auto currency = numira::toCurrency(code.toStdString());
-        if (currency == numira::Currency())
-            throw replyUnknownCurrency(code);
-        return currency;
-    } catch (const numira::Error &) {
+    const auto currency = foundation::withMoneyRefusals(
+        [&] { return numira::toCurrency(code.toStdString()); },
+        [&](const std::exception &) { return replyUnknownCurrency(code); });
+    if (currency == numira::Currency())
         throw replyUnknownCurrency(code);
-    }
+    return currency;
 }
 
 QDateTime readTimestamp(const QJsonValue &value)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "http/internal/http_exchange.h"
 
-#include "http/internal/failures.h"
+#include "http/internal/faults.h"
 #include "http/internal/url_rules.h"
 
 #include <QtCore/QMetaEnum>

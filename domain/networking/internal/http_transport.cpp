@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "networking/internal/http_transport.h"
 
-#include "networking/errors.h"
+#include "networking/internal/faults.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QObject>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/atomic_file_writer.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_attributes.h"
 #include "storage/internal/file_size_signal.h"
 
@@ -25,7 +25,7 @@ QByteArray pathOf(const FileDescriptor &file)
     return "/proc/self/fd/" + QByteArray::number(file.get());
 }
 
-/// Whether the file system cannot do it, rather than failed to.
+/// Whether the file system does not support the call.
 bool isUnsupported(int error) noexcept
 {
     return error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
@@ -76,16 +76,16 @@ void AtomicFileWriter::openFolder()
     m_folder =
         FileDescriptor(::open(m_target.folder().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     check(static_cast<bool>(m_folder));
-    // Taking the place of a file needs no right to write to it, so it is asked
-    // for: a file that is marked read-only is to stay as it is.
+    // Replacing a file needs no right to write to it. It is checked all the same, since
+    // a read-only file must not be replaced.
     if (m_replaced) {
         check(::faccessat(m_folder.get(), m_target.name().constData(), W_OK, AT_EACCESS) == 0);
         checkSticky();
     }
 }
 
-/// In a folder with the sticky bit only the owner of a file, or of the folder, takes a
-/// name away. Asked before, because a link to the old version could not be removed.
+/// In a folder with the sticky bit, only the owner of a file or of the folder can remove
+/// a name. Checked first, because a link to the old version could not be removed.
 void AtomicFileWriter::checkSticky() const
 {
     struct stat folder = {};
@@ -97,8 +97,8 @@ void AtomicFileWriter::checkSticky() const
         throw cannotWrite(m_target.shownPath(), EPERM);
 }
 
-/// A writer that was stopped left its new version, finished or not, or the old
-/// one, whose place the new one may have taken already.
+/// A stopped writer has left its new version, finished or not, or the old one, which
+/// may already be replaced.
 void AtomicFileWriter::clearLeftovers(unsigned backups)
 {
     ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
@@ -118,7 +118,7 @@ void AtomicFileWriter::createTemporary()
     if (::access("/proc/self/fd", X_OK) == 0) {
         m_temporary =
             FileDescriptor(::openat(m_folder.get(), ".", O_TMPFILE | O_RDWR | O_CLOEXEC, 0600));
-        // Kernels and file systems that do not know of it open the folder.
+        // Kernels and file systems without this feature open the folder.
         if (m_temporary || !(isUnsupported(errno) || errno == EISDIR || errno == ENOENT)) {
             check(static_cast<bool>(m_temporary));
             return;
@@ -140,7 +140,7 @@ void AtomicFileWriter::writeAll(QByteArrayView bytes)
         if (written < 0 && errno == EINTR)
             continue;
         if (written == 0)
-            errno = ENOSPC; // a device that takes nothing and says nothing
+            errno = ENOSPC; // a device that writes nothing and reports no error
         check(written > 0);
         bytes = bytes.sliced(written);
     }
@@ -153,8 +153,7 @@ void AtomicFileWriter::takeOverAttributes()
     check(static_cast<bool>(old) && copyFileAttributes(old, m_temporary));
 }
 
-/// Reads the file back from where it was written to, as far as the system goes
-/// there again.
+/// Reads the file back from the device, if the system does not use its cache.
 void AtomicFileWriter::verify(QByteArrayView bytes)
 {
     ::posix_fadvise(m_temporary.get(), 0, 0, POSIX_FADV_DONTNEED);
@@ -212,8 +211,8 @@ void AtomicFileWriter::syncFolder()
     if (::fsync(m_folder.get()) == 0 || isUnsupported(errno))
         return;
     const int cause = errno;
-    // What may be gone after a power cut is not saved, so the old state comes
-    // back. If it cannot, it stays where the next writer makes a backup of it.
+    // The new version could be lost in a power cut, so the old one is put back. If that
+    // fails, the next writer makes a backup of it.
     if (std::exchange(m_hasPreviousName, false))
         ::renameat(m_folder.get(), m_previousName.constData(), m_folder.get(),
                    m_target.name().constData());
@@ -222,8 +221,8 @@ void AtomicFileWriter::syncFolder()
     throw cannotWrite(m_target.shownPath(), cause);
 }
 
-/// The new version is in its place already, so what fails here is no failure
-/// to save.
+/// The new version is already in its place, so a failure here does not fail the
+/// save.
 void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
 {
     if (!m_hasPreviousName)
@@ -240,8 +239,7 @@ void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
             rename(backup(number - 1), backup(number));
         rename(m_previousName, backup(1));
     }
-    // Also when it was renamed: onto another name of the same file, renaming
-    // does nothing.
+    // Also after renaming, which does nothing between two names of the same file.
     ::unlinkat(m_folder.get(), m_previousName.constData(), 0);
     m_hasPreviousName = false;
 }

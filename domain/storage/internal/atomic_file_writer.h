@@ -15,14 +15,14 @@ namespace kiv::storage::internal {
 /// one's owner, mode and extended attributes. Then it takes the name, and the
 /// folder is synced. The old version stays as the first backup.
 ///
-/// Whoever writes holds the file's lock: what a writer left that was stopped is
-/// cleared away by the next one.
+/// The caller holds the file's lock. The next writer removes what a stopped one
+/// has left.
 class AtomicFileWriter {
 public:
     /// `replaced` is the version that is to be replaced, nothing when there
     /// should be none.
     AtomicFileWriter(const FileTarget &target, std::optional<FileStamp> replaced);
-    /// Leaves no file behind that has no business there.
+    /// Removes the temporary files.
     ~AtomicFileWriter();
     AtomicFileWriter(const AtomicFileWriter &) = delete;
     AtomicFileWriter &operator=(const AtomicFileWriter &) = delete;

@@ -2,7 +2,7 @@
 #include "storage/internal/budget_image.h"
 
 #include "storage/internal/budget_rows.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/ledger_rows.h"
 #include "storage/internal/mending.h"
 
@@ -17,7 +17,7 @@ namespace {
 constexpr QByteArrayView magic("SQLite format 3", 16);
 constexpr qsizetype headerSize = 100;
 
-// Where SQLite keeps what in the header of a database.
+// The offsets in the header of an SQLite database.
 constexpr qsizetype pageSizeAt = 16;
 constexpr qsizetype formatsAt = 18;
 constexpr qsizetype pageCountAt = 28;
@@ -31,9 +31,8 @@ Number numberAt(QByteArrayView image, qsizetype offset) noexcept
     return qFromBigEndian<Number>(image.data() + offset);
 }
 
-/// The header says of the database what every file that was written here says.
-/// Anything else (another journal mode, say) would make SQLite look for more
-/// than the image.
+/// Whether the header is as in every file that was written here. Another one, with
+/// another journal mode for instance, would make SQLite look for further files.
 bool isHeaderWhole(QByteArrayView image) noexcept
 {
     return numberAt<quint16>(image, pageSizeAt) == pageSize &&
@@ -56,11 +55,10 @@ void checkSeal(const ImageDatabase &database, Seal &seal)
     Statement select(database, "SELECT id, sha256 FROM seal");
     if (!select.step() || sqlite3_column_int64(select.get(), 0) != 1 ||
         bytesOf(sqlite3_column_value(select.get(), 1)) != seal.result() || select.step())
-        throw ContentFault(QObject::tr("The checksum is wrong."));
+        throw checksumWrong();
 }
 
-/// Writes or reads all tables in their order: what stands in one may be needed
-/// for the next.
+/// Writes or reads all tables in their order, since one may need an earlier one.
 BudgetStorage::Data readTables(const ImageDatabase &database, Seal &seal, QStringList &mended)
 {
     BudgetStorage::Data data;
@@ -119,7 +117,7 @@ void requireBudget(FileKind kind, const QString &path)
     if (kind == FileKind::Newer)
         throw newerVersion(path);
     if (kind == FileKind::Malformed)
-        throw damaged(path, ContentFault(QObject::tr("Its header is not whole.")));
+        throw damaged(path, headerNotWhole());
 }
 
 FileKind kindOf(QByteArrayView image) noexcept
@@ -147,7 +145,7 @@ Image encodeBudget(const BudgetStorage::Data &data)
     writeSeal(database, seal);
     Image image = database.serialised();
     if (image.bytes().size() > fileSizeMax)
-        throw ContentFault(QObject::tr("There is more than a file may hold."));
+        throw moreThanAFileMayHold();
     return image;
 }
 
@@ -157,7 +155,7 @@ BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
     const ImageDatabase database(image, version);
     Seal seal(version, image.size());
     BudgetStorage::Data data = readTables(database, seal, mended);
-    // What was read counts only now.
+    // The rows are trusted only now.
     checkSeal(database, seal);
     mend(data, mended);
     return data;

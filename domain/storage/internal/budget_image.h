@@ -8,7 +8,7 @@
 
 namespace kiv::storage::internal {
 
-/// What the first bytes of a file tell.
+/// The kind of a file, from its first bytes.
 enum class FileKind : std::uint8_t {
     Empty,
     Foreign,   ///< no budget file

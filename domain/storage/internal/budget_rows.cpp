@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/budget_rows.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 
 #include <QtCore/QObject>
 
@@ -59,7 +59,7 @@ void visitClassOf(const BudgetItemIdentifier &item, RowReader &row, Visitor visi
 {
     if (item.type == BudgetItemTypes::None)
         row.refuse("is about no kind of item");
-    budgeting::visitItemClass(item.type, "An unknown kind of item was read.", visitor);
+    budgeting::visitItemClass(item.type, itemKindUnknown, visitor);
 }
 
 template <typename Item>
@@ -84,7 +84,7 @@ Item readItem(RowReader &row, const BudgetSource &source)
     const QDate next = row.date();
     const auto day = static_cast<int>(row.integer(1, dayOfMonthMax));
     const auto make = [&](auto... total) {
-        // Only an item that was made without anything has no date.
+        // Only a default-constructed item has no date.
         if (next.isValid())
             return Item(source, amount, period, next, total...);
         Item item;
@@ -321,7 +321,7 @@ surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &sea
     if (surveys.size() != rows.size() ||
         !std::ranges::all_of(distributions,
                              [&](const auto &entry) { return rows.contains(entry.first); }))
-        throw ContentFault(QObject::tr("The surveys do not fit together."));
+        throw surveysDoNotFit();
     return surveys;
 }
 

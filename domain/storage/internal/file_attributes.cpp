@@ -10,8 +10,8 @@
 namespace kiv::storage::internal {
 namespace {
 
-/// Calls `get(buffer, size)` as the calls for extended attributes want it:
-/// first for the size, then for the content.
+/// Calls `get(buffer, size)` twice, as extended attributes need: for the size, then
+/// for the content.
 template <typename Get>
 bool fetch(QByteArray &buffer, Get get)
 {

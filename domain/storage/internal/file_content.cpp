@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/file_content.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_descriptor.h"
 
 #include <QtCore/QHashFunctions>

@@ -11,7 +11,7 @@
 
 namespace kiv::storage::internal {
 
-/// By what one version of a file is told from another at a glance.
+/// What distinguishes one version of a file from another without reading it.
 struct FileStamp {
     dev_t device = 0;
     ino_t inode = 0;
@@ -24,7 +24,7 @@ struct FileStamp {
     friend bool operator==(const FileStamp &, const FileStamp &) noexcept = default;
 };
 
-/// By what a content is known again: for as long as this process runs.
+/// A hash by which this process recognises a content.
 struct Fingerprint {
     qsizetype size = 0;
     std::size_t hash = 0;

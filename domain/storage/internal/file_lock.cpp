@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/file_lock.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/file_size_signal.h"
 
 #include <QtCore/QFile>
@@ -25,15 +25,14 @@ namespace {
 /// its holder ends just then, before this gives up.
 constexpr int triesMax = 100;
 
-/// A file system without locks keeps nobody out, which is no reason to keep the
-/// user out.
+/// On a file system without locks, files are used without a lock.
 bool isWithoutLocks(int error) noexcept
 {
     return error == ENOLCK || error == ENOSYS || error == EOPNOTSUPP || error == EINVAL;
 }
 
-/// What stands in the lock file, or nothing when it is not what lock files hold: the
-/// number of a process and two to four lines, as QLockFile writes them.
+/// The lines of the lock file, as QLockFile writes them: the number of a process and
+/// two to four lines. Empty for other content.
 QList<QByteArray> linesIn(const FileDescriptor &file)
 {
     std::array<char, 1024> text{};
@@ -63,7 +62,7 @@ void writeHolder(const FileDescriptor &file)
     const QByteArray program = QByteArray(::program_invocation_short_name).replace('\n', ' ');
     const QByteArray text = QByteArray::number(::getpid()) + '\n' + program + '\n' +
                             QSysInfo::machineHostName().toUtf8() + '\n';
-    // It only helps those who read it; the lock holds without.
+    // Only information for readers; the lock holds without it.
     if (::ftruncate(file.get(), 0) == 0 &&
         ::pwrite(file.get(), text.constData(), static_cast<size_t>(text.size()), 0) != text.size())
         (void)!::ftruncate(file.get(), 0);
@@ -96,13 +95,13 @@ FileLock::FileLock(const FileTarget &target)
 
 FileLock::~FileLock()
 {
-    // Removed before it is unlocked, so that nobody's lock is removed but this.
+    // Removed before it is unlocked, so that no other lock is removed.
     remove();
 }
 
 void FileLock::remove() noexcept
 {
-    // What the system refuses once is asked for again.
+    // A failed call is repeated once.
     struct stat found = {};
     if (::lstat(m_path.constData(), &found) != 0 && ::lstat(m_path.constData(), &found) != 0)
         return;
@@ -127,7 +126,7 @@ bool FileLock::open(const FileTarget &target)
     // Opening a device may do something to it.
     if (!S_ISREG(found.st_mode))
         throw notALock(target.shownPath(), QFile::decodeName(m_path));
-    // Somebody else's may be only readable, which is enough for locking it.
+    // Another user's file may be read-only, which is enough for locking it.
     m_file = FileDescriptor(::open(m_path.constData(), O_RDWR | flags));
     if (!m_file && errno == EACCES)
         m_file = FileDescriptor(::open(m_path.constData(), O_RDONLY | flags));

@@ -6,14 +6,13 @@
 
 namespace kiv::storage::internal {
 
-/// Keeps every other FileLock, in this and in other processes, from the same
-/// file for as long as it lives. The lock is the system's advisory lock on a
-/// file that stands next to the locked one, so that it ends with its process,
-/// however that ends.
+/// Locks a file against every other FileLock, in this and in other processes. The
+/// lock is the system's advisory lock on a file next to the locked one, so it ends
+/// with its process, however that ends.
 ///
 /// The lock file holds what QLockFile writes (process, program and host), so
-/// that programs which use that class keep away as well. Nothing else is taken for a
-/// lock file, since it is overwritten and removed.
+/// programs which use that class respect it too. Since a lock file is overwritten
+/// and removed, a file with other content is not taken for one.
 class FileLock {
 public:
     /// Throws StorageError: Locked when another has the lock, NotOurs when what has

@@ -5,8 +5,8 @@
 
 namespace kiv::storage::internal {
 
-/// While it lives, a write over the process's limit of file sizes gives its error
-/// without the signal that comes with it, which would end the process.
+/// Blocks the signal of a write over the process's limit of file sizes, which would
+/// end the process. The write then fails with its error.
 class NoFileSizeSignal {
 public:
     NoFileSizeSignal() noexcept

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/image_database.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 
 #include <SQLiteCpp/Exception.h>
 
@@ -19,7 +19,7 @@ constexpr int stepsBetweenChecks = 1000;
 /// each call.
 const int openFlags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX;
 
-/// Want of memory is no fault of the content, so it stays what it is.
+/// Want of memory is no fault of the content, so it is std::bad_alloc.
 [[noreturn]] void fail(int result, const std::string &why)
 {
     if (result == SQLITE_NOMEM)
@@ -33,7 +33,7 @@ void check(sqlite3 *database, int result)
         fail(result, sqlite3_errmsg(database));
 }
 
-/// Does what the library answers with exceptions of its own.
+/// Turns exceptions of the library into ContentFault.
 template <typename Task>
 auto checked(Task task)
 {
@@ -70,7 +70,7 @@ void Image::Free::operator()(unsigned char *bytes) const noexcept
 ImageDatabase::ImageDatabase() : m_database(emptyDatabase())
 {
     harden();
-    // Whatever SQLite was built with, the same rows make the same bytes.
+    // The same rows give the same bytes with every build of SQLite.
     run(m_database, "PRAGMA page_size = " + std::to_string(pageSize) +
                         "; PRAGMA auto_vacuum = 0; PRAGMA encoding = 'UTF-8'"
                         "; PRAGMA journal_mode = OFF"
@@ -86,7 +86,7 @@ ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
 {
     harden();
     limitSteps(image.size());
-    // SQLite leaves the bytes alone when they are handed over as read-only.
+    // SQLite does not change bytes that it gets as read-only.
     auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(image.data()));
     check(handle(), sqlite3_deserialize(handle(), "main", bytes, image.size(), image.size(),
                                         SQLITE_DESERIALIZE_READONLY));
@@ -139,10 +139,10 @@ void ImageDatabase::checkSchema(std::uint32_t version)
     for (const TableDefinition &table : tablesOf(version)) {
         if (!schema.step() || textAt(schema, 0) != "table" || textAt(schema, 1) != table.name ||
             textAt(schema, 3) != table.sql)
-            throw ContentFault("The table '" + std::string(table.name) + "' is not as it should.");
+            throw tableNotAsItShould(table.name);
     }
     if (schema.step())
-        throw ContentFault(std::string("There is more in the schema than should be."));
+        throw moreInSchema();
 }
 
 Statement::Statement(const ImageDatabase &database, const QByteArray &sql)

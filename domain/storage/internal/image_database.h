@@ -29,10 +29,9 @@ private:
     qsizetype m_size;
 };
 
-/// A database in memory that never touches a file and trusts nothing that is in
-/// it: no views, triggers and functions of the schema's are run, texts and
-/// rows have limits, and reading ends after so many steps as the size of the
-/// image can make necessary.
+/// A database in memory that never touches a file and does not trust its content.
+/// Views, triggers and functions of the schema do not run, texts and rows have
+/// limits, and the size of the image limits the steps of reading.
 class ImageDatabase {
 public:
     /// Empty, with the tables of the current version.
@@ -42,7 +41,7 @@ public:
     ImageDatabase(QByteArrayView image, std::uint32_t version);
 
     [[nodiscard]] sqlite3 *handle() const noexcept { return m_database.getHandle(); }
-    /// Ends the building.
+    /// The finished image; nothing can be written after it.
     [[nodiscard]] Image serialised();
 
 private:
@@ -54,7 +53,7 @@ private:
     qint64 m_stepsLeft = 0;
 };
 
-/// A statement that is prepared once, its rows one after the other.
+/// A prepared statement, with its rows one after the other.
 class Statement {
 public:
     Statement(const ImageDatabase &database, const QByteArray &sql);

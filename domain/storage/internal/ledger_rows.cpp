@@ -52,7 +52,7 @@ TransactionNumber toTransactionNumber(std::int64_t number) noexcept
     return TransactionNumber(static_cast<std::uint16_t>(number));
 }
 
-/// The amount on a side, when it is another than the transaction's.
+/// The amount on a side, if it differs from the transaction's.
 void writeSide(RowWriter &row, const numira::Money &side, const Transaction &transaction)
 {
     if (side == transaction.amount())
@@ -83,8 +83,8 @@ AccountRows readAccounts(const ImageDatabase &database, Seal &seal)
     return accounts;
 }
 
-/// Parents first, whatever their numbers. An account whose parents go round in
-/// a circle, or into nothing, meets the ledger's refusal of an unknown parent.
+/// Parents first, whatever their numbers. The ledger refuses an account whose parents
+/// form a circle or are missing, as one with an unknown parent.
 void replayAccounts(LedgerReplay &replay, AccountRows &accounts)
 {
     std::vector<AccountRows::value_type *> waiting;
@@ -107,7 +107,7 @@ void replayAccounts(LedgerReplay &replay, AccountRows &accounts)
     }
 }
 
-/// What stands in the row of a transaction.
+/// The row of a transaction.
 struct TransactionRow {
     TransactionNumber number;
     QDate date;
@@ -122,7 +122,7 @@ struct TransactionRow {
     std::optional<std::pair<std::size_t, std::size_t>> description;
 };
 
-/// Some rows that follow each other.
+/// A part of the rows, in their order.
 struct TransactionRows {
     std::vector<TransactionRow> rows;
     std::vector<char> texts;
@@ -162,7 +162,7 @@ std::optional<QString> descriptionOf(const TransactionRow &row, const std::vecto
     std::optional<QString> text =
         fromStoredText({texts.data() + begin, static_cast<qsizetype>(size)});
     if (!text)
-        throw rowFault(Table::Transactions, row.number.integer(), "has a malformed text");
+        throw rowRefused(nameOf(Table::Transactions), row.number.integer(), "has a malformed text");
     return text;
 }
 
@@ -228,7 +228,7 @@ Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
                            std::set<AccountNumber> &settled)
 {
     Refunds refunds;
-    // To read the rows of a full ledger and to apply its rules takes about as long.
+    // Reading the rows of a full ledger takes about as long as applying its rules.
     Pipeline<TransactionRows> posting([&](TransactionRows &part) {
         for (const TransactionRow &row : part.rows)
             replay.post(transactionOf(row, part.texts, accounts, settled));
@@ -244,7 +244,7 @@ Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
             part.rows.push_back(readTransaction(row, part.texts, refunds));
         }
     } catch (...) {
-        // The first row that is wrong is named, whatever is wrong with it.
+        // A fault of an earlier row is reported instead, so the first wrong row is named.
         posting.finish(std::move(part));
         throw;
     }

@@ -26,8 +26,8 @@ public:
     {
         budgeting::forEachItemClass(
             [this]<typename Item>(std::type_identity<Item>) { nameUnnamed<Item>(); });
-        // Whatever names a missing account goes first: an account that is opened
-        // anew may get its number.
+        // References to missing accounts are removed first: a new account may get
+        // the number of one.
         dropBankAccounts();
         carrySurveys();
         budgeting::forEachItemClass(
@@ -80,7 +80,7 @@ private:
         return BudgetSource(name);
     }
 
-    /// Lets an account that bears its item's old name bear the new one.
+    /// Gives an account that has its item's old name the new one.
     void renameAccount(AccountNumber number, const BudgetSource &from, const BudgetSource &to)
     {
         if (!m_data.generalLedger.hasLedger(number))
@@ -181,8 +181,8 @@ private:
         try {
             add(opening);
         } catch (const foundation::Error &) {
-            // A full ledger, for instance, takes no opening transaction. Better
-            // without it than not at all.
+            // A full ledger, for instance, takes no opening transaction. Then the
+            // account is opened without one.
             add(numira::Money(opening.code()));
         }
         handout.keep();
@@ -213,8 +213,8 @@ private:
                type == accounting::AccountTypes::Liability;
     }
 
-    /// A proposal finds the last survey by bank and number, the check of what comes
-    /// of it by the kind as well. So an account has one survey, under its present kind.
+    /// A proposal finds the last survey by bank and number; completing it also uses
+    /// the kind. So an account has one survey, under its present kind.
     void carrySurveys()
     {
         surveying::CompletedSurveys carried;
@@ -248,7 +248,7 @@ private:
         return moved;
     }
 
-    /// The same with the kind that its bank knows it by, if it keeps it.
+    /// The same account with the kind that its bank has for it, if it has it.
     banking::BankAccount asKept(banking::BankAccount account) const
     {
         if (m_data.banks.hasBank(account.bank)) {

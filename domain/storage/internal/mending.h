@@ -7,9 +7,8 @@
 
 namespace kiv::storage::internal {
 
-/// Makes data fit together that allowed requests have taken apart, so that
-/// whatever could be saved can be opened again. Each thing that is mended gets
-/// a sentence in `mended`:
+/// Repairs data that allowed requests have left inconsistent, so that every saved
+/// budget can be opened again. Each repair adds a sentence to `mended`:
 /// - an item without a name gets one that nothing else has; its account, tags
 ///   and surveys follow;
 /// - an item whose account is gone, or that never got one, is tied to the
@@ -20,7 +19,7 @@ namespace kiv::storage::internal {
 /// - a survey of an account that its bank keeps as another kind by now becomes one
 ///   of that kind; of two the later one stays.
 ///
-/// Data that fits together is left as it is.
+/// Consistent data is left as it is.
 void mend(BudgetStorage::Data &data, QStringList &mended);
 
 } // namespace kiv::storage::internal

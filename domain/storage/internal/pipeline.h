@@ -13,16 +13,16 @@
 
 namespace kiv::storage::internal {
 
-/// Works on parts, in the order in which they are added, while the next ones are
-/// made. The only part is worked on by finish() itself; more are worked on by a
-/// thread, which is gone when finish() or the destructor returns.
+/// Processes parts in the order in which they are added, while the next ones are
+/// made. finish() processes a single part itself; more are processed by a thread,
+/// which has ended when finish() or the destructor returns.
 template <typename Part>
 class Pipeline {
 public:
     using Work = std::function<void(Part &)>;
 
     explicit Pipeline(Work work) : m_work(std::move(work)) {}
-    /// Leaves undone what was not begun.
+    /// Drops the parts that were not begun.
     ~Pipeline()
     {
         {
@@ -34,8 +34,8 @@ public:
     Pipeline(const Pipeline &) = delete;
     Pipeline &operator=(const Pipeline &) = delete;
 
-    /// A part that was worked on, or a new one. They go back and forth, because
-    /// memory that one thread takes and another gives back makes both wait.
+    /// A part that was processed, or a new one. Parts are used again, because memory
+    /// that one thread takes and another frees makes both wait.
     [[nodiscard]] Part spare()
     {
         const std::scoped_lock lock(m_mutex);
@@ -46,7 +46,7 @@ public:
         return part;
     }
 
-    /// Once the work has thrown, nothing more is worked on.
+    /// Once the work has thrown, no more parts are processed.
     void add(Part &&part)
     {
         if (!m_thread.joinable())
@@ -54,7 +54,7 @@ public:
         give(std::move(part));
     }
 
-    /// Adds the last part, and returns when all are worked on. Throws what the
+    /// Adds the last part, and returns when all are processed. Throws what the
     /// work threw.
     void finish(Part &&last)
     {
@@ -65,19 +65,18 @@ public:
     }
 
 private:
-    /// A thread that is woken for each part wakes up for longer than it works.
+    /// Waking the thread for each part would take longer than the work itself.
     static constexpr std::size_t waitingMin = 4;
     static constexpr std::size_t waitingMax = 8;
 
     void start()
     {
-        // Taken here, where want of memory is an error; the worker has nobody to
-        // tell.
+        // Taken here, where want of memory can be reported; the worker could not.
         m_spare.reserve(waitingMax);
         try {
             m_thread = std::thread([this] { run(); });
         } catch (const std::system_error &) {
-            // There are too many threads; give() does without one.
+            // There are too many threads, so finish() does the work.
         }
     }
 

@@ -2,7 +2,7 @@
 #include "storage/internal/rows.h"
 
 #include "storage/internal/dates.h"
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/text_codec.h"
 
 #include "numira/error.h"
@@ -89,9 +89,9 @@ RowWriter &RowWriter::currency(const numira::Currency &currency)
 void RowWriter::endRow()
 {
     if (std::exchange(m_column, 0) != static_cast<int>(m_texts.size()))
-        throw std::logic_error("A row was not written whole.");
+        throw rowNotWrittenWhole();
     if (++m_rows > rowsMax)
-        throw ContentFault(QObject::tr("There are too many rows."));
+        throw tooManyRows();
     m_insert.step();
     m_insert.reset();
     m_seal.endRow();
@@ -100,19 +100,13 @@ void RowWriter::endRow()
 RowWriter &RowWriter::bytes(QByteArray bytes)
 {
     if (bytes.size() > textSizeMax)
-        throw ContentFault(QObject::tr("A text is too long."));
+        throw textTooLong();
     m_seal.text(bytes);
     QByteArray &kept = m_texts.at(static_cast<std::size_t>(m_column));
     kept = std::move(bytes);
     sqlite3_bind_text(m_insert.get(), ++m_column, kept.constData(), static_cast<int>(kept.size()),
                       SQLITE_STATIC);
     return *this;
-}
-
-ContentFault rowFault(Table table, std::int64_t key, const std::string &why)
-{
-    return ContentFault("The row " + std::to_string(key) + " of the table '" + nameOf(table) +
-                        "' " + why + ".");
 }
 
 RowReader::RowReader(const ImageDatabase &database, Table table, Seal &seal)
@@ -128,7 +122,7 @@ RowReader::RowReader(const ImageDatabase &database, Table table, Seal &seal)
 bool RowReader::next()
 {
     if (m_column != m_columns)
-        throw std::logic_error("A row was not read whole.");
+        throw rowNotReadWhole();
     if (m_rows > 0)
         m_seal.endRow();
     if (!m_select.step())
@@ -215,8 +209,8 @@ numira::Money RowReader::money()
 
 sqlite3_value *RowReader::nextValue()
 {
-    // One call for a value instead of three. It is good until the next step
-    // because nobody else uses the connection.
+    // One call for a value instead of three. It is valid until the next step,
+    // because nothing else uses the connection.
     return sqlite3_column_value(m_select.get(), m_column++);
 }
 

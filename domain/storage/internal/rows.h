@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 #include "storage/internal/image_database.h"
 #include "storage/internal/seal.h"
 
@@ -51,11 +51,8 @@ private:
     qint64 m_rows = 0;
 };
 
-/// Why a row is refused, as in "has a malformed text".
-[[nodiscard]] ContentFault rowFault(Table table, std::int64_t key, const std::string &why);
-
-/// Reads the rows of one table likewise. Every value is checked for its type;
-/// ContentFault is thrown for one that the writer would not have written.
+/// Reads the rows of one table in the same way. Throws ContentFault for a value
+/// that the writer would not have written.
 class RowReader {
 public:
     RowReader(const ImageDatabase &database, Table table, Seal &seal);
@@ -85,7 +82,10 @@ public:
     [[nodiscard]] numira::Currency currency();
     [[nodiscard]] numira::Money money();
 
-    [[noreturn]] void refuse(const std::string &why) const { throw rowFault(m_table, m_key, why); }
+    [[noreturn]] void refuse(const std::string &why) const
+    {
+        throw rowRefused(nameOf(m_table), m_key, why);
+    }
 
 private:
     // What these give is valid until the next step.

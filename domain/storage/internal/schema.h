@@ -16,8 +16,8 @@ inline constexpr std::uint32_t currentVersion = 1;
 inline constexpr int pageSize = 4096;
 
 /// The largest file that is read or written. 65,535 transactions with a
-/// description of 700 bytes each fit in, and reading it takes less than 300 MiB:
-/// it is held once, its texts twice as large, and a few texts more on their way.
+/// description of 700 bytes each fit in. Reading it takes less than 300 MiB: the file
+/// itself, its texts in twice their size, and a few texts that are being read.
 inline constexpr qsizetype fileSizeMax = 64LL * 1024 * 1024;
 /// The longest text, in bytes.
 inline constexpr int textSizeMax = 4 * 1024 * 1024;
@@ -26,7 +26,7 @@ inline constexpr int rowSizeMax = 2 * textSizeMax + 4096;
 /// The most rows of any table: as many as there are transaction numbers.
 inline constexpr qint64 rowsMax = 65'535;
 
-/// One table: what SQLite keeps in its schema for it, letter by letter.
+/// A table, exactly as SQLite keeps it in its schema.
 struct TableDefinition {
     const char *name;
     const char *sql;

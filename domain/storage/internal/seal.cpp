@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/internal/seal.h"
 
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 
 #include <charconv>
 #include <utility>
@@ -76,7 +76,7 @@ void Seal::makeRoom(qsizetype size)
 
 void Seal::refuseText()
 {
-    throw ContentFault(std::string("There are more texts than the file has room for."));
+    throw tooManyTexts();
 }
 
 void Seal::hash(const std::vector<char> &bytes) noexcept

@@ -25,8 +25,8 @@ namespace kiv::storage::internal {
 /// ":" TEXT for a text of so many bytes.
 class Seal {
 public:
-    /// All texts together have at most `textsMax` bytes: those of an image have
-    /// no more than the image, unless rows share what belongs to one of them.
+    /// All texts together have at most `textsMax` bytes. More than the image has
+    /// can only come from rows that share the same bytes.
     explicit Seal(std::uint32_t version, qint64 textsMax = std::numeric_limits<qint64>::max());
 
     void beginTable(const char *name);
@@ -64,7 +64,7 @@ private:
     [[noreturn]] static void refuseText();
     void hash(const std::vector<char> &bytes) noexcept;
 
-    // Nettle's, because it uses the processor's own instructions for it.
+    // Nettle's, because it uses the processor's SHA instructions.
     sha256_ctx m_hash;
     qint64 m_textsLeft;
     std::vector<char> m_dump; ///< what is not hashed yet, up to m_at, and room for more

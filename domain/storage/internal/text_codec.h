@@ -13,9 +13,9 @@ namespace kiv::storage::internal {
 /// as it was; QString's own conversion replaces such characters.
 [[nodiscard]] QByteArray toStoredText(const QString &text);
 
-/// The text whose stored form these bytes are; nothing for bytes that are no
-/// text's stored form. QString's own conversion drops a leading byte-order
-/// mark and repairs what is malformed.
+/// The text with this stored form; nothing for bytes that are no stored form.
+/// QString's own conversion drops a leading byte-order mark and repairs malformed
+/// bytes.
 [[nodiscard]] std::optional<QString> fromStoredText(QByteArrayView bytes);
 
 } // namespace kiv::storage::internal

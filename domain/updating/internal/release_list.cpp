@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "updating/internal/release_list.h"
 
-#include "updating/errors.h"
+#include "updating/internal/faults.h"
 
 #include "foundation/streams.h"
 #include "networking/json_reply.h"

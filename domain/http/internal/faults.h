@@ -5,7 +5,7 @@
 
 namespace kiv::http::internal {
 
-/// The reasons for which an exchange fails. None holds a request's address.
+/// The reasons for which an exchange fails: one function each. None holds a request's address.
 [[nodiscard]] QString addressNotAllowed();
 [[nodiscard]] QString redirectNotAllowed();
 [[nodiscard]] QString tooManyRedirects(int redirectsMax);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "storage/internal/errors.h"
+#include "storage/internal/faults.h"
 
 #include <QtCore/QObject>
 
@@ -119,6 +119,72 @@ StorageError cannotHold(const QString &path, const std::exception &cause)
     return {StorageFailure::CannotHold, path,
             QObject::tr("The file '%1' was not saved: it cannot hold what it should.").arg(path),
             cause};
+}
+
+ContentFault checksumWrong()
+{
+    return ContentFault(QObject::tr("The checksum is wrong."));
+}
+
+ContentFault headerNotWhole()
+{
+    return ContentFault(QObject::tr("Its header is not whole."));
+}
+
+ContentFault moreThanAFileMayHold()
+{
+    return ContentFault(QObject::tr("There is more than a file may hold."));
+}
+
+ContentFault tooManyRows()
+{
+    return ContentFault(QObject::tr("There are too many rows."));
+}
+
+ContentFault tooManyTexts()
+{
+    return ContentFault(std::string("There are more texts than the file has room for."));
+}
+
+ContentFault textTooLong()
+{
+    return ContentFault(QObject::tr("A text is too long."));
+}
+
+ContentFault surveysDoNotFit()
+{
+    return ContentFault(QObject::tr("The surveys do not fit together."));
+}
+
+ContentFault tableNotAsItShould(const std::string &table)
+{
+    return ContentFault("The table '" + table + "' is not as it should.");
+}
+
+ContentFault moreInSchema()
+{
+    return ContentFault(std::string("There is more in the schema than should be."));
+}
+
+ContentFault rowRefused(const std::string &table, std::int64_t key, const std::string &why)
+{
+    return ContentFault("The row " + std::to_string(key) + " of the table '" + table + "' " + why +
+                        ".");
+}
+
+std::logic_error rowNotWrittenWhole()
+{
+    return std::logic_error("A row was not written whole.");
+}
+
+std::logic_error rowNotReadWhole()
+{
+    return std::logic_error("A row was not read whole.");
+}
+
+std::logic_error itemKindUnknown()
+{
+    return std::logic_error("An unknown kind of item was read.");
 }
 
 } // namespace kiv::storage::internal

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "http/internal/failures.h"
+#include "http/internal/faults.h"
 
 #include <QtCore/QObject>
 

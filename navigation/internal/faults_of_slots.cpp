@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "navigation/internal/configuration_faults.h"
+#include "navigation/internal/faults.h"
 
 #include <QtCore/QObject>
 
 namespace kiv::navigation::internal::faults {
-
-using foundation::Error;
 
 namespace {
 
@@ -15,6 +13,76 @@ QString number(int value)
 }
 
 } // namespace
+
+// ---- slots -----------------------------------------------------------------------
+
+Error converterGone()
+{
+    return Error(QObject::tr("Cannot convert between currencies, because what looked up the "
+                             "exchange rates has been closed."));
+}
+
+Error tagsOfOtherType()
+{
+    return Error(QObject::tr("The provided item type does not match the item's type."));
+}
+
+Error tagsOfOtherSource()
+{
+    return Error(QObject::tr("The provided item source does not match the item's source."));
+}
+
+std::logic_error takesNoBankAccount(const char *word, const char *verb)
+{
+    QString kind = QString::fromLatin1(word);
+    kind[0] = kind[0].toUpper();
+    return std::logic_error(
+        QStringLiteral("An item of type '%1' cannot %2 a bank account association.")
+            .arg(kind, QString::fromLatin1(verb))
+            .toStdString());
+}
+
+std::logic_error unknownTypeToAdd()
+{
+    return std::logic_error("An unknown budget item type was supplied when adding a new entry.");
+}
+
+std::logic_error unknownTypeToUpdate()
+{
+    return std::logic_error("An unknown budget item type was supplied when updating an entry.");
+}
+
+std::logic_error unknownTypeToRename()
+{
+    return std::logic_error("An unknown budget item type was supplied when renaming an entry.");
+}
+
+std::logic_error unknownTypeToLookUp()
+{
+    return std::logic_error("An unknown budget item type was supplied when looking up all the "
+                            "budget item sources.");
+}
+
+Error wizardBankAccountNotAdded(const QString &account)
+{
+    return Error(
+        QObject::tr("Failed to add the bank account '%1' for the first time wizard.").arg(account));
+}
+
+Error wizardBankNotAdded(const BankName &bank)
+{
+    return Error(QObject::tr("Failed to add the bank '%1' for the first time wizard.")
+                     .arg(bank.institution()));
+}
+
+Error wizardItemNotAdded(BudgetItemTypes type, const BudgetSource &source)
+{
+    return Error(QObject::tr("Failed to add the generate the %1 budget item '%2' for the first "
+                             "time wizard.")
+                     .arg(presentationText(type), source.name()));
+}
+
+// ---- settings --------------------------------------------------------------------
 
 Error workHoursOutOfRange()
 {
@@ -49,6 +117,11 @@ Error surveyWindowOutOfRange()
                      .arg(QString::number(0.0, 'g'), QString::number(100.0, 'g')));
 }
 
+std::runtime_error notAListOfTexts()
+{
+    return std::runtime_error("The value is not a list of texts.");
+}
+
 std::logic_error unknownStrongValue(const QString &value, const QString &target)
 {
     return std::logic_error(QStringLiteral("Failed to convert from the strong value '%1' to the "
@@ -79,6 +152,8 @@ std::logic_error unknownCurrencySymbol()
 {
     return std::logic_error("Failed to determine the currency from its symbol.");
 }
+
+// ---- starter budgets -------------------------------------------------------------
 
 std::logic_error noStarterBudget()
 {

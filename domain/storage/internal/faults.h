@@ -4,6 +4,7 @@
 #include "storage/storage_error.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -22,8 +23,11 @@ public:
     ~ContentFault() override;
 };
 
-// Each gives the error ready to be thrown. `path` is the one that the user
-// gave, `error` the system's error number.
+// Every sentence with which this library refuses something: one function each, which gives the
+// exception to throw.
+
+// ---- files -----------------------------------------------------------------------
+// `path` is the one that the user gave, `error` the system's error number.
 
 [[nodiscard]] StorageError noFileChosen();
 [[nodiscard]] StorageError noFileName(const QString &path);
@@ -46,5 +50,26 @@ public:
 [[nodiscard]] StorageError inTheWay(const QString &path, const QString &other);
 [[nodiscard]] StorageError notAsWritten(const QString &path);
 [[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
+
+// ---- their content ---------------------------------------------------------------
+
+[[nodiscard]] ContentFault checksumWrong();
+[[nodiscard]] ContentFault headerNotWhole();
+[[nodiscard]] ContentFault moreThanAFileMayHold();
+[[nodiscard]] ContentFault tooManyRows();
+[[nodiscard]] ContentFault tooManyTexts();
+[[nodiscard]] ContentFault textTooLong();
+[[nodiscard]] ContentFault surveysDoNotFit();
+[[nodiscard]] ContentFault tableNotAsItShould(const std::string &table);
+[[nodiscard]] ContentFault moreInSchema();
+/// `why` is such as "has a malformed text".
+[[nodiscard]] ContentFault rowRefused(const std::string &table, std::int64_t key,
+                                      const std::string &why);
+
+// ---- mistakes of the calling program ---------------------------------------------
+
+[[nodiscard]] std::logic_error rowNotWrittenWhole();
+[[nodiscard]] std::logic_error rowNotReadWhole();
+[[nodiscard]] std::logic_error itemKindUnknown();
 
 } // namespace kiv::storage::internal
