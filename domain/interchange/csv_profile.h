@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "interchange/statement.h"
 #include "interchange/written_values.h"
 
 #include <QtCore/QByteArray>
@@ -55,18 +54,5 @@ struct CsvProfile {
                                                             const QString &file);
 /// The profile as a JSON object with all keys.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toJson(const CsvProfile &profile);
-
-/// Reads a bank statement. Columns that the profile does not name are found by
-/// common headings in English, German and Spanish. The amounts are in
-/// `currency` where the table does not tell.
-///
-/// Where balances are told, each must be the one before with the amount added, from the
-/// first entry to the last or from the last to the first.
-///
-/// Throws ImportError with the line of what it cannot read.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readCsvStatement(const QByteArray &bytes,
-                                                                const QString &file,
-                                                                const CsvProfile &profile,
-                                                                const numira::Currency &currency);
 
 } // namespace kiv::interchange

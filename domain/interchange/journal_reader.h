@@ -10,20 +10,21 @@ namespace kiv::interchange {
 
 /// What a journal leaves open.
 struct JournalOptions {
-    /// Found out from the journal's directives and each number otherwise.
+    /// Of all its files, any name that ICU knows; UTF-8 otherwise.
+    std::optional<QString> encoding = std::nullopt;
+    /// Found from the journal's directives and from each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
-    /// The currency of amounts without one; such are refused without it.
+    /// Of amounts without one; such amounts are refused otherwise.
     std::optional<numira::Currency> currency = std::nullopt;
-    /// The currency whose sign a sign is taken for where several share it.
+    /// The currency that a sign means where several share it.
     numira::Currency preferred = {};
-    /// Currencies by further names that the journal has for them.
+    /// Currencies by other names that the journal has for them.
     std::map<QString, numira::Currency> commodities = {};
-    /// Kinds of account by further roots, in lower case.
+    /// Kinds of account by other names of top-level accounts, in lower case.
     std::map<QString, accounting::AccountTypes> roots = {};
     /// Gives the bytes of a file that the journal includes, or throws
     /// ImportError. Without it every include is refused.
     std::function<QByteArray(const QString &path, const Place &place)> include = {};
-    QString encoding = QStringLiteral("UTF-8"); ///< of all its files
 };
 
 /// Reads a plain-text accounting journal, as ledger and hledger read it.

@@ -195,13 +195,13 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
 
 } // namespace
 
-Statement readOfx(const QByteArray &bytes, const QString &file, const QString &account,
-                  const QString &encoding)
+Statement readOfx(const QByteArray &bytes, const QString &file, const OfxOptions &options)
 {
-    const OfxElement document = internal::readOfxTree(
-        decoded(bytes, file, encoding.isEmpty() ? encodingOf(bytes) : encoding), file);
+    const QString encoding = options.encoding ? *options.encoding : encodingOf(bytes);
+    const OfxElement document = internal::readOfxTree(decoded(bytes, file, encoding), file);
     requireEntriesInLists(document);
-    const std::vector<const OfxElement *> statements = chosenStatements(document, account, file);
+    const std::vector<const OfxElement *> statements =
+        chosenStatements(document, options.account, file);
     const OfxElement &first = *statements.front();
     internal::DescriptionCount descriptions;
     Statement statement{accountOf(first), currencyOf(first.text("CURDEF"), first.place), {}};

@@ -309,7 +309,7 @@ private:
 
 Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions &options)
 {
-    const QString text = decoded(bytes, file, options.encoding);
+    const QString text = decoded(bytes, file, options.encoding.value_or(utf8Name));
     const std::vector<Record> records = QifReader(text, file).read();
     EntryMaker maker(options,
                      options.dateFormat ? *options.dateFormat : formatOf(records, {file, 0}));

@@ -10,13 +10,14 @@ namespace kiv::interchange {
 
 /// What a QIF file leaves open.
 struct QifOptions {
-    /// How days are written; found from them otherwise, or refused when they
-    /// could be read in two ways.
-    std::optional<DateFormat> dateFormat = std::nullopt;
-    /// Found out from each number otherwise.
+    /// Any name that ICU knows; UTF-8 otherwise.
+    std::optional<QString> encoding = std::nullopt;
+    /// Found from each number otherwise.
     std::optional<DecimalMark> decimalMark = std::nullopt;
-    numira::Currency currency = {};             ///< QIF tells none
-    QString encoding = QStringLiteral("UTF-8"); ///< any name that ICU knows
+    /// Found from all dates otherwise; dates that could be read in two ways are refused.
+    std::optional<DateFormat> dateFormat = std::nullopt;
+    /// Of the account: QIF names none.
+    numira::Currency currency = {};
 };
 
 /// Reads the transactions of a bank account, a credit card or cash from a QIF

@@ -4,7 +4,7 @@
 // or QIF file, a saved profile, or a CSV table, which stands behind a profile on
 // a line. What is read is refused, or can be used: a journal goes into a ledger,
 // and is the same when it is written and read again.
-#include "interchange/csv_profile.h"
+#include "interchange/csv_reader.h"
 #include "interchange/csv_table.h"
 #include "interchange/journal_reader.h"
 #include "interchange/ledger_writer.h"
@@ -97,15 +97,15 @@ void read(char kind, const QByteArray &bytes)
     case 'j':
         return readAsJournal(bytes);
     case 'o':
-        return require(readOfx(bytes, name));
+        return require(readOfx(bytes, name, {}));
     case 'q':
         return require(readQif(bytes, name, options));
     case 'p':
         return readAsProfile(bytes);
     default:
-        return require(readCsvStatement(bytes.mid(end + 1), name,
-                                        end > 0 ? readProfile(bytes.left(end), name) : CsvProfile(),
-                                        options.currency));
+        return require(readCsv(
+            bytes.mid(end + 1), name,
+            {end > 0 ? readProfile(bytes.left(end), name) : CsvProfile(), options.currency}));
     }
 }
 

@@ -4,7 +4,7 @@
 #include "cases.h"
 
 #include "interchange/account_paths.h"
-#include "interchange/csv_profile.h"
+#include "interchange/csv_reader.h"
 #include "interchange/csv_table.h"
 #include "interchange/duplicates.h"
 #include "interchange/html_report.h"
@@ -37,11 +37,17 @@ QString unless(const char *usual, QDate date)
     return text == QLatin1String(usual) ? QString() : u' ' + text;
 }
 
+std::optional<QString> encodingOf(const Case &given)
+{
+    const auto found = given.options.constFind(u"encoding"_s);
+    return found == given.options.constEnd() ? std::nullopt : std::optional(*found);
+}
+
 JournalOptions optionsOf(const Case &given)
 {
     JournalOptions options{.preferred = currency(given.options.value(u"preferred"_s, u"USD"_s))};
     options.decimalMark = given.mark();
-    options.encoding = given.options.value(u"encoding"_s, options.encoding);
+    options.encoding = encodingOf(given);
     options.roots[u"kasse"_s] = kiv::accounting::AccountTypes::Asset;
     options.commodities[u"Mark"_s] = currency(u"EUR"_s);
     if (given.options.contains(u"currency"_s))
@@ -181,14 +187,13 @@ qsizetype entriesIn(const QString &form, QString text)
 Statement statementOf(const Case &given, const QByteArray &bytes)
 {
     if (given.file == u"ofx")
-        return readOfx(bytes, u"f"_s, given.options.value(u"statement"_s),
-                       given.options.value(u"encoding"_s));
+        return readOfx(bytes, u"f"_s, {encodingOf(given), given.options.value(u"statement"_s)});
     const numira::Currency own = currency(given.options.value(u"currency"_s, u"EUR"_s));
     if (given.file.startsWith(u"csv"))
-        return readCsvStatement(
-            bytes, u"f"_s, readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s),
-            own);
-    QifOptions options{{}, given.mark(), own, given.options.value(u"encoding"_s, utf8Name)};
+        return readCsv(
+            bytes, u"f"_s,
+            {readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s), own});
+    QifOptions options{encodingOf(given), given.mark(), {}, own};
     if (const QString format = given.options.value(u"date-format"_s); !format.isEmpty())
         options.dateFormat = DateFormat(format, {});
     return readQif(bytes, u"f"_s, options);

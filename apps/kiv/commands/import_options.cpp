@@ -305,7 +305,7 @@ interchange::JournalOptions ImportOptions::journal(const numira::Currency &prefe
     options.decimalMark = decimal();
     options.currency = m_currency;
     options.preferred = preferred;
-    options.encoding = m_encoding.value_or(interchange::utf8Name);
+    options.encoding = m_encoding;
     for (const QString &text : m_commodities) {
         const auto [name, code] = assignment(text);
         readValue(code.toStdString(), options.commodities[name]);

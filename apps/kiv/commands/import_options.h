@@ -3,8 +3,9 @@
 
 #include "commands/command_group.h"
 
-#include "interchange/csv_profile.h"
+#include "interchange/csv_reader.h"
 #include "interchange/journal_reader.h"
+#include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
 
 namespace kiv::app {
@@ -35,9 +36,7 @@ struct ImportOptions {
     [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
     [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
                                               const numira::Currency &currency) const;
-    [[nodiscard]] const QString &statement() const noexcept { return m_statement; }
-    /// Empty when none is given.
-    [[nodiscard]] QString encoding() const { return m_encoding.value_or(QString()); }
+    [[nodiscard]] interchange::OfxOptions ofx() const { return {m_encoding, m_statement}; }
 
 private:
     [[nodiscard]] ImportFormat guessedFormat(const QByteArray &bytes) const;

@@ -10,7 +10,6 @@
 
 #include "foundation/presentation.h"
 #include "interchange/duplicates.h"
-#include "interchange/ofx_reader.h"
 #include "interchange/statement_plan.h"
 
 namespace kiv::app {
@@ -86,11 +85,10 @@ private:
         const interchange::CsvProfile profile = options.readProfile();
         const interchange::Statement statement = [&] {
             if (format == ImportFormat::Ofx)
-                return interchange::readOfx(bytes, options.file, options.statement(),
-                                            options.encoding());
+                return interchange::readOfx(bytes, options.file, options.ofx());
             if (format == ImportFormat::Qif)
                 return interchange::readQif(bytes, options.file, options.qif(profile, currency));
-            return interchange::readCsvStatement(bytes, options.file, profile, currency);
+            return interchange::readCsv(bytes, options.file, {profile, currency});
         }();
         const interchange::StatementPlan plan = interchange::planStatement(
             statement, workbench::statementBooks(requests, account),

@@ -23,6 +23,14 @@ struct CsvColumns {
     qsizetype named = 0;  ///< up to the last column with a heading
 };
 
+/// How the rows of a statement are understood. The profile must outlive it.
+struct CsvLayout {
+    const CsvProfile &profile;
+    numira::Currency currency; ///< of the account
+    QChar delimiter;           ///< between cells
+    CsvColumns columns;
+};
+
 /// Finds the columns that the profile names, and others by common headings. Throws
 /// ImportError, with the option that helps, for those that are missing or there twice.
 [[nodiscard]] CsvColumns columnsOf(const CsvRecord &first, const CsvProfile &profile,

@@ -3,6 +3,7 @@
 
 #include "interchange/internal/faults.h"
 #include "interchange/internal/limits.h"
+#include "interchange/internal/quantity_reader.h"
 
 #include "interchange/account_paths.h"
 
@@ -359,14 +360,3 @@ Draft JournalBooks::finish()
 }
 
 } // namespace kiv::interchange::internal
-
-namespace kiv::interchange {
-
-Draft readJournal(const QByteArray &bytes, const QString &file, const JournalOptions &options)
-{
-    internal::JournalBooks books(options);
-    internal::JournalParser(options, books).parse(bytes, file);
-    return books.finish();
-}
-
-} // namespace kiv::interchange

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "interchange/internal/journal_parser.h"
+#include "interchange/internal/journal_entry.h"
+#include "interchange/journal_reader.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
@@ -16,15 +17,18 @@ namespace kiv::interchange::internal {
 /// Balances the entries of a journal and splits them into transactions between
 /// two accounts. Written in two sources: entries, automated transactions and
 /// assertions; and bookings.
-class JournalBooks final : public JournalSink {
+class JournalBooks {
 public:
     explicit JournalBooks(const JournalOptions &options) : m_options(options) {}
 
-    void add(Entry entry) override;
-    void add(AutomatedEntry automated) override;
+    // What the parser finds is told in the order of the file.
+    void add(Entry entry);
+    void add(AutomatedEntry automated);
+    /// An account that is declared, with the tags of its comments.
     void declare(const QString &account, const std::map<QString, QString> &tags,
-                 const Place &place) override;
-    void notice(const QString &sentence) override;
+                 const Place &place);
+    /// Keeps a sentence for the user, once.
+    void notice(const QString &sentence);
 
     /// Checks the assertions that did not hold in the order of the file, and
     /// gives what was read.

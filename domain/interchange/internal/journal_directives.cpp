@@ -73,7 +73,7 @@ void JournalParser::takeDirective(Block &block)
     } else if (word == u"alias") {
         takeAlias(block.place, rest.section(u'=', 0, 0), rest.section(u'=', 1));
     } else if (word == u"P") {
-        m_sink.notice(QObject::tr("Market prices are skipped; they change no balance."));
+        m_books.notice(QObject::tr("Market prices are skipped; they change no balance."));
     } else if (word == u"decimal-mark" && (rest == u"." || rest == u",")) {
         m_settings.amounts.mark = static_cast<DecimalMark>(rest.front().unicode());
     } else if (ofYear.hasMatch()) {
@@ -113,7 +113,7 @@ void JournalParser::takeAccount(Block &block, const QString &name)
         tags.erase(QStringLiteral("number"));
         tags.erase(QStringLiteral("currency"));
     }
-    m_sink.declare(fullName(account.simplified(), block.place), tags, block.place);
+    m_books.declare(fullName(account.simplified(), block.place), tags, block.place);
 }
 
 void JournalParser::takeCommodity(Block &block, bool isDefault, const QString &sample)

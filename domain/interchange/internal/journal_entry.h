@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "interchange/journal_reader.h"
+#include "interchange/draft.h"
 
 #include <stdexcept>
 
@@ -14,8 +14,6 @@ struct Quantity {
     numira::Decimal number;
     QString commodity;
 };
-
-[[nodiscard]] QString presentationText(const Quantity &quantity);
 
 enum class PostingKind { Real, BalancedVirtual, Virtual };
 
@@ -56,48 +54,5 @@ struct AutomatedEntry {
     QString pattern;
     Entry entry;
 };
-
-/// What directives say of the amounts behind them.
-struct AmountSettings {
-    std::optional<DecimalMark> mark = {};
-    QString commodity = {};  ///< of amounts without one
-    bool usesDefault = true; ///< whether such get one; multipliers do not
-};
-
-/// Reads amounts and remembers how the journal writes its commodities.
-class QuantityReader {
-public:
-    QuantityReader(const JournalOptions &options, const AmountSettings &settings)
-        : m_options(options), m_settings(settings)
-    {
-    }
-
-    /// Takes the mark from a sample like "1.000,00 EUR", and gives the commodity.
-    QString declare(QStringView sample, const Place &place);
-
-    /// Reads an amount from the beginning of `rest`, which then holds what comes
-    /// behind it.
-    Quantity read(QStringView &rest, const Place &place);
-
-private:
-    struct Written {
-        QString number;
-        QString commodity;
-        bool isNegative = false;
-    };
-    static Written split(QStringView &rest, const Place &place);
-    [[nodiscard]] QString named(const QString &commodity) const;
-
-    const JournalOptions &m_options;
-    const AmountSettings &m_settings;
-    std::map<QString, DecimalMark> m_marks;
-    std::set<QString> m_withComma; ///< commodities whose amounts had a decimal comma
-};
-
-/// Moves behind the blanks.
-void skipBlanks(QStringView &rest);
-
-/// The text behind a semicolon, which is taken off with it.
-QString takeComment(QString &text);
 
 } // namespace kiv::interchange::internal

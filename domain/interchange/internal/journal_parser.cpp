@@ -77,7 +77,7 @@ const QString &JournalParser::ownHeader()
 
 void JournalParser::parse(const QByteArray &bytes, const QString &file)
 {
-    const QString text = decoded(bytes, file, m_options.encoding);
+    const QString text = decoded(bytes, file, m_options.encoding.value_or(utf8Name));
     m_settings.isOwn = text.startsWith(ownHeader());
     LineCursor lines(text, file);
     std::optional<Block> block;
@@ -127,7 +127,7 @@ try {
         takeAutomated(block);
     } else if (first == u'~') {
         (void)block.takeLines();
-        m_sink.notice(QObject::tr("Periodic transactions are skipped."));
+        m_books.notice(QObject::tr("Periodic transactions are skipped."));
     } else {
         takeDirective(block);
     }
@@ -172,7 +172,7 @@ void JournalParser::takeEntry(Block &block)
     if (rest.startsWith(u'=')) {
         rest = rest.sliced(1);
         (void)takeDate(rest, entry.date.year(), block.place);
-        m_sink.notice(QObject::tr("Second dates of transactions are skipped."));
+        m_books.notice(QObject::tr("Second dates of transactions are skipped."));
     }
     if (!rest.isEmpty() && !rest.front().isSpace())
         throw faults::unknownDirective(block.place, block.head);
@@ -195,7 +195,7 @@ void JournalParser::takeEntry(Block &block)
             entry.comments += applied.value;
     }
     addPostings(block, entry);
-    m_sink.add(std::move(entry));
+    m_books.add(std::move(entry));
 }
 
 void JournalParser::takeAutomated(Block &block)
@@ -215,7 +215,7 @@ void JournalParser::takeAutomated(Block &block)
     m_settings.amounts.usesDefault = false;
     addPostings(block, entry);
     m_settings.amounts.usesDefault = true;
-    m_sink.add(AutomatedEntry{match.captured(1) + match.captured(2), std::move(entry)});
+    m_books.add(AutomatedEntry{match.captured(1) + match.captured(2), std::move(entry)});
 }
 
 void JournalParser::addPostings(Block &block, Entry &entry)
@@ -240,7 +240,7 @@ void JournalParser::noticeDays(const QString &comment)
 {
     static const QRegularExpression day(QStringLiteral("\\[=?[0-9]|(?:^|[\\s,])date2?:"));
     if (day.match(comment).hasMatch())
-        m_sink.notice(QObject::tr(
+        m_books.notice(QObject::tr(
             "Dates in comments are skipped; each posting has the date of its transaction."));
 }
 

@@ -1,32 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "interchange/internal/journal_entry.h"
+#include "interchange/internal/journal_books.h"
+#include "interchange/internal/quantity_reader.h"
 #include "interchange/text_decoding.h"
 
 #include <QtCore/QMap>
 
 namespace kiv::interchange::internal {
 
-/// Takes what a parser finds, in the order of the file.
-class JournalSink {
-public:
-    virtual ~JournalSink() = default;
-    virtual void add(Entry entry) = 0;
-    virtual void add(AutomatedEntry automated) = 0;
-    /// An account that is declared, with the tags of its comments.
-    virtual void declare(const QString &account, const std::map<QString, QString> &tags,
-                         const Place &place) = 0;
-    virtual void notice(const QString &sentence) = 0;
-};
-
-/// Turns the lines of a journal into entries. Knows the forms that ledger and
-/// hledger share, and refuses everything else. Written in two sources: lines and
+/// Turns the lines of a journal into entries and hands them to the books. Knows the forms that
+/// ledger and hledger share, and refuses everything else. Written in two sources: lines and
 /// entries; and directives.
 class JournalParser {
 public:
-    JournalParser(const JournalOptions &options, JournalSink &sink)
-        : m_options(options), m_sink(sink), m_quantities(options, m_settings.amounts)
+    JournalParser(const JournalOptions &options, JournalBooks &books)
+        : m_options(options), m_books(books), m_quantities(options, m_settings.amounts)
     {
     }
 
@@ -100,7 +89,7 @@ private:
     void readCost(QStringView &rest, Posting &posting);
 
     const JournalOptions &m_options;
-    JournalSink &m_sink;
+    JournalBooks &m_books;
     Settings m_settings;
     QuantityReader m_quantities;
     Aliases m_aliases; ///< those of included files go on behind them
@@ -109,5 +98,8 @@ private:
     qsizetype m_declared = 0;
     int m_included = 0;
 };
+
+/// The text behind a semicolon, which is taken off with it.
+QString takeComment(QString &text);
 
 } // namespace kiv::interchange::internal

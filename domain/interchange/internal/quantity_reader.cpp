@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "interchange/internal/journal_entry.h"
+#include "interchange/internal/quantity_reader.h"
 
 #include "interchange/internal/faults.h"
 

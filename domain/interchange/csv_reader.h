@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/csv_profile.h"
+#include "interchange/statement.h"
+
+namespace kiv::interchange {
+
+/// What a CSV file leaves open.
+struct CsvOptions {
+    CsvProfile profile = {};        ///< how the bank writes its files
+    numira::Currency currency = {}; ///< of the account, where the table does not tell it
+};
+
+/// Reads a bank statement in CSV. Columns that the profile does not name are found by
+/// common headings in English, German and Spanish.
+///
+/// Where the table has balances, each must be the one before plus the amount, from the
+/// first entry to the last or from the last to the first.
+///
+/// Throws ImportError with the line of what it cannot read.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readCsv(const QByteArray &bytes, const QString &file,
+                                                       const CsvOptions &options);
+
+} // namespace kiv::interchange
