@@ -59,8 +59,8 @@ std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts,
     for (const auto &[number, account] : accounts)
         names.emplace(number, safeName(*account));
 
-    // Siblings whose names agree get their numbers, and again if a name so made
-    // is another sibling's; two numbers differ, so this ends.
+    // Siblings with equal names get their numbers behind them, again if the new name is
+    // taken. Numbers differ, so this ends.
     for (bool isUnique = false; !isUnique;) {
         isUnique = true;
         std::map<std::tuple<QString, AccountNumber, QString>, std::vector<AccountNumber>> groups;

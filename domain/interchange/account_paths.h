@@ -10,23 +10,21 @@
 
 namespace kiv::interchange {
 
-/// Under which name accounts of a known kind stand in a journal: "Assets".
+/// The top-level name of accounts of this kind in a journal, such as "Assets".
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString rootOf(accounting::AccountTypes type);
 
-/// The kind of the accounts that stand under such a name, in any case, in the
-/// singular or plural, or under "Revenues"; Unknown for any other name.
+/// The kind of accounts with such a top-level name, in upper or lower case, singular or
+/// plural. "Revenues" counts as income; any other name gives Unknown.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT accounting::AccountTypes typeOfRoot(const QString &root);
 
 /// The path of each account: the root of its kind and the names of its parents
 /// and itself, with colons between them ("Assets:First:Checking").
 ///
-/// Names are made safe for plain-text accounting journals (no colon or
-/// semicolon, single blanks, no control characters), and where two accounts
-/// would get the same path their numbers are added to their names, so that
-/// every path stands for one account. Accounts that are nested deeper than
-/// accounting::accountDepthMax stand beside their nearest ancestor that is not, so that
-/// no path has more than 100 names. The accounts are those of a whole ledger, so
-/// that each one's parent is among them.
+/// Names are made safe for plain-text journals: no colon, semicolon or control character,
+/// single blanks. Accounts that would share a path get their numbers behind their names, so
+/// every path names one account. Accounts nested deeper than accounting::accountDepthMax
+/// stand beside their nearest ancestor that is not, so no path has more than 100 names.
+/// `accounts` must be a whole ledger's: each account's parent must be among them.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::map<accounting::AccountNumber, QString>
 accountPaths(const std::set<accounting::Account> &accounts);
 

@@ -33,13 +33,11 @@ struct Chart {
     std::vector<ChartSeries> series; ///< up to three
 };
 
-/// Round numbers on both sides of which all values lie, zero among them, from
-/// the lowest to the highest; at least two.
+/// Round numbers that enclose all values and include zero, in rising order; at least two.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<numira::Decimal> axisTicks(const Chart &chart);
 
-/// The chart as an SVG element for an HTML page, with a title and a
-/// description that screen readers tell. `id` must be unique on the page.
-/// Nothing in it is taken from names without being escaped.
+/// The chart as an SVG element for an HTML page, with a title and a description that screen
+/// readers tell. `id` must be unique on the page. All names in it are escaped.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString toSvg(const Chart &chart, const QString &id);
 
 } // namespace kiv::interchange

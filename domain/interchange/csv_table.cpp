@@ -12,7 +12,7 @@ namespace kiv::interchange {
 
 namespace {
 
-/// No bank has so many, and a file of delimiters alone must not fill the memory.
+/// No bank has so many. The limit keeps a file of delimiters from filling the memory.
 constexpr qsizetype cellsMax = 1000;
 
 class CsvReader {

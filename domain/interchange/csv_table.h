@@ -9,29 +9,26 @@
 
 namespace kiv::interchange {
 
-/// One record of a CSV table, and the line on which it begins.
+/// One row of a CSV table.
 struct CsvRecord {
-    Place place;       ///< its first line
+    Place place;       ///< where it begins
     QStringList cells; ///< without quotes
 };
 
-/// Reads a table as RFC 4180 writes it: cells between delimiters, in quotes
-/// where they hold delimiters, line ends or doubled quotes. A quote within a
-/// cell that began without one stands for itself. Empty lines are passed over.
+/// Reads a table in the form of RFC 4180. Cells that contain delimiters, line breaks or
+/// doubled quotes stand in quotes. A quote inside an unquoted cell is an ordinary
+/// character. Empty lines are skipped.
 ///
-/// Throws ImportError for a quote that is not closed, for text behind a closing
-/// one, for more records than `recordsMax`, the most that may be, and for longer
-/// cells and larger tables than there are of as many entries.
+/// Throws ImportError for a quote that is never closed, for text after a closing quote, for
+/// more than `recordsMax` rows, and for cells or tables that are too large.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<CsvRecord>
 readCsvTable(const QString &text, const QString &file, QChar delimiter, qsizetype recordsMax);
 
-/// The delimiter that the line has most of outside of quotes: a comma, a
-/// semicolon, a tab or a bar.
+/// The most frequent delimiter of the line outside quotes: a comma, semicolon, tab or bar.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QChar guessDelimiter(QStringView line);
 
-/// One record of a table that a spreadsheet may open: all cells in quotes,
-/// control characters escaped, and an apostrophe before what would be taken for
-/// a formula.
+/// One row of a table that is safe to open in a spreadsheet: all cells are quoted, control
+/// characters escaped, and cells that look like formulas begin with an apostrophe.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString csvLine(const QStringList &cells);
 
 } // namespace kiv::interchange

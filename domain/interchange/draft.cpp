@@ -94,8 +94,8 @@ AccountPlan planAccounts(const Draft &draft, const std::set<Account> &existing)
     Planner planner(existing);
     AccountPlan plan;
     plan.codes.resize(draft.accounts.size());
-    // Who asks for a number gets it before the others take it as the next one, and
-    // a parent before it is opened for its child.
+    // Accounts that want a number get it before others take it as the next one. Parents get
+    // theirs before they are opened for a child.
     std::vector<std::size_t> order(draft.accounts.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::stable_sort(order, {}, [&draft](std::size_t at) {

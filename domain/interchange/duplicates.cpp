@@ -13,7 +13,7 @@ namespace {
 
 const QString opening = QStringLiteral("[id ");
 
-/// How many days lie at most between a booking and the same one told again.
+/// The most days between a transaction and the same one in a later statement.
 constexpr qint64 daysApart = 15;
 
 /// Where the identifier's bracket begins, at the front or behind a blank; -1 when there

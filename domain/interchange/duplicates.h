@@ -12,39 +12,37 @@
 
 namespace kiv::interchange {
 
-/// A description with the bank's identifier of the transaction at its end:
-/// "Bakery [id 2026-0815]". Without an identifier it is the text alone.
+/// The description with the bank's identifier at its end: "Bakery [id 2026-0815]". Without
+/// an identifier it is the text alone.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString withBankId(const QString &text, const QString &bankId);
 /// The identifier that a description ends with; empty when there is none.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString bankIdOf(const QString &description);
 
-/// Takes identifiers away that tell none from another: "0", "NOTPROVIDED" and their
-/// like, and those that entries of one file share that differ in day, amount or text.
+/// Clears identifiers that do not identify: placeholders such as "0" or "NOTPROVIDED", and
+/// ones shared by entries that differ in day, amount or text.
 KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries);
 
-/// Knows the transactions of a ledger, and finds out whether one that is to be
-/// imported is there already.
+/// Finds out whether the ledger already has a transaction that is being imported.
 ///
-/// By the bank's identifier, when both have one: it is the same transaction if
-/// its amount is the same too, and its day no more than fifteen days away, since
-/// some banks give the same identifiers again. Otherwise by day, amount and text; as many are
-/// known as there are, so that two coffees on one day are two. An account that
-/// is being looked at alone has its other sides left out of the comparison,
-/// since the household may have moved them.
+/// Where both have the bank's identifier, they are the same if the amounts are equal and
+/// the days at most fifteen days apart: some banks reuse identifiers. Otherwise day, amount
+/// and text decide. Each known transaction matches once, so two coffees on one day stay
+/// two. When only one account is compared, the other sides do not count: the household may
+/// have moved them.
 class KIV_INTERCHANGE_EXPORT Duplicates {
 public:
-    /// Knows those of the ledger, or of one account. `kept` are the accounts of
-    /// banks, which have statements too.
+    /// Compares with these transactions, or only with those of `account`. `kept` are the
+    /// accounts for which banks send statements.
     explicit Duplicates(const std::vector<accounting::Transaction> &present,
                         std::optional<accounting::AccountNumber> account = std::nullopt,
                         std::set<accounting::AccountNumber> kept = {});
 
-    /// Whether the transaction is a duplicate; it counts as present afterwards.
+    /// Whether the transaction is a duplicate. It counts as known afterwards.
     [[nodiscard]] bool take(const accounting::Transaction &transaction);
-    /// Whether it may be a transfer that is there from the statement of its other
-    /// account, which tells it in words and with an identifier of its own: day, amount
-    /// and both accounts are the same, as those of a second transfer would be, too. To
-    /// be asked once all have been taken, of those that are new.
+    /// Whether it may be a transfer that the other account's statement already posted, with
+    /// another text and identifier: day, amount and both accounts are the same. A second
+    /// transfer looks the same, so this is only a guess. Ask it for new transactions, after
+    /// take() was called for all.
     [[nodiscard]] bool takeTransfer(const accounting::Transaction &transaction);
 
 private:

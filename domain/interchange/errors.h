@@ -7,13 +7,11 @@
 
 #include <QtCore/QString>
 
-/// What other programs write, read and written: journals, bank statements,
-/// tables and reports. Plain values, bytes in and bytes out; whoever uses them
-/// brings the files and the ledger.
+/// Reads and writes the formats of other programs: journals, bank statements, tables and
+/// reports. Values and bytes go in and out; callers open files and own the ledger.
 namespace kiv::interchange {
 
-/// Where something stands in a file that is being read. Lines count from 1; 0
-/// is the file as a whole.
+/// A place in a file that is being read. Lines count from 1; 0 is the whole file.
 struct Place {
     QString file;       ///< its name, as it was given
     qsizetype line = 0; ///< in that file
@@ -21,25 +19,25 @@ struct Place {
     friend bool operator==(const Place &, const Place &) = default;
 };
 
-/// Data that cannot be taken over.
+/// A file cannot be imported.
 class KIV_INTERCHANGE_EXPORT ImportError : public foundation::Error {
 public:
     /// The message is "'FILE', line LINE: REASON".
     ImportError(Place place, const QString &reason, const std::exception &cause = std::exception());
     ImportError(const ImportError &) noexcept;
     ~ImportError() override;
-    /// Where the data stands.
+    /// The place of what cannot be imported.
     [[nodiscard]] const Place &place() const noexcept { return m_place; }
 
 private:
     Place m_place;
 };
 
-/// Refusals that callers of the readers have to word, too.
+/// Errors that callers of the readers throw, too.
 namespace faults {
 
-/// The journal includes `path`, which whoever gives it its files refuses;
-/// `reason` goes on from a colon.
+/// The caller refuses to open `path`, which the journal includes. `reason` is a clause that
+/// follows a colon.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT ImportError includeRefused(const Place &place,
                                                                 const QString &path,
                                                                 const QString &reason);

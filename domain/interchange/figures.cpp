@@ -131,7 +131,7 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
         sums->hasItems = true;
     }
     for (std::size_t month = 0; flow && month < months; ++month) {
-        // What a debt grows by was not paid.
+        // Growth of a debt is no payment.
         figure.actual[month] =
             kind == BudgetItemTypes::Debt ? flow->debits[month] : flow->change(month);
         if (!isOutgoing)

@@ -12,8 +12,8 @@
 #include <set>
 #include <vector>
 
-/// The figures of a report, worked out of a ledger and a budget. All amounts
-/// are exact and stay in their own currencies; none is converted.
+/// The figures of a report on a ledger and a budget. All amounts are exact and stay in
+/// their own currency.
 namespace kiv::interchange {
 
 /// The months that a report covers, up to a day within the last one.
@@ -51,10 +51,9 @@ struct BalanceFigure {
     numira::Money balance;         ///< positive on the kind's own side
 };
 
-/// One budget item: what it comes to every month as it is planned now, and what
-/// moved in each month of the period. For bills and non-tracked items that is
-/// what was spent, for wages what was earned, for goals what was put aside, for
-/// debts what was paid back.
+/// One budget item: its planned amount per month today, and the actual amount of each
+/// month. Actual means spent for bills and non-tracked items, earned for wages, put aside
+/// for goals, and paid back for debts.
 struct ItemFigure {
     budgeting::BudgetItemTypes kind;   ///< bill, debt, goal, non-tracked item or wage
     QString name;                      ///< its source's
@@ -62,13 +61,13 @@ struct ItemFigure {
     std::vector<numira::Money> actual; ///< month by month
 };
 
-/// What one currency comes to, month by month.
+/// The figures of one currency, month by month.
 struct CurrencyFigures {
     std::vector<numira::Money> netWorth; ///< assets less liabilities, at each month's end
-    std::vector<numira::Money> income;   ///< what income accounts took in
-    std::vector<numira::Money> expenses; ///< what expense accounts took in
-    numira::Money planned;               ///< its items that money goes out for, every month
-    std::vector<numira::Money> outgoing; ///< what went out in it for items of any currency
+    std::vector<numira::Money> income;   ///< of income accounts
+    std::vector<numira::Money> expenses; ///< of expense accounts
+    numira::Money planned;               ///< of all items but wages, per month
+    std::vector<numira::Money> outgoing; ///< spent on such items, also on those in other currencies
     bool hasItems = false;               ///< whether anything is planned, or went out
 };
 
@@ -80,8 +79,8 @@ struct Figures {
     std::map<numira::Currency, CurrencyFigures> currencies; ///< of all accounts
 };
 
-/// Works the figures out in one pass over the transactions, all of which are
-/// between `accounts`. Throws what adding the amounts throws.
+/// Computes the figures in one pass over the transactions. All transactions must be between
+/// `accounts`. Throws what adding the amounts throws.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures figuresOf(
     const Period &period, const std::set<accounting::Account> &accounts,
     const std::vector<accounting::Transaction> &transactions, const budgeting::Budget &budget);

@@ -15,7 +15,7 @@ using numira::Money;
 
 namespace {
 
-/// Colours that can be told apart by people who see few of them, and in grey.
+/// Colours that stay distinct for colour-blind people and in grey.
 const char *const style = R"(
 :root { --ink: #1b2733; --soft: #5a6875; --rule: #d9dfe5; --paper: #ffffff; --band: #f5f7f9;
   --one: #0b5a8f; --two: #d98410; --three: #3b8f6a; --bad: #b3261e; }
@@ -172,7 +172,7 @@ QString balances(const Figures &figures)
                           : html;
 }
 
-/// What a wage brings beyond its plan is welcome; what a bill takes is not.
+/// More than planned is good for a wage and bad for a bill.
 QString budgetCell(const ItemFigure &item, const Money &actual)
 {
     const bool isSpent = item.kind == budgeting::BudgetItemTypes::Bill ||
@@ -185,7 +185,7 @@ QString budgetCell(const ItemFigure &item, const Money &actual)
 
 QString budgetTable(const Figures &figures)
 {
-    // More months than a page is wide go to the chart alone.
+    // The table shows only the months that fit a page; the chart shows all.
     constexpr std::size_t shownMax = 6;
     const std::size_t months = figures.period.months();
     const std::size_t first = months > shownMax ? months - shownMax : 0;

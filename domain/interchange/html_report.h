@@ -8,14 +8,12 @@
 
 namespace kiv::interchange {
 
-/// The charts of a report: for each currency its net worth, income against
-/// expenses, and the budget against what went out, where there is something to
-/// show.
+/// The charts of a report, for each currency: net worth, income and expenses, and planned
+/// and actual spending. Empty charts are left out.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<Chart> chartsOf(const Figures &figures);
 
-/// The figures as one HTML page to be read, printed or sent: nothing in it is
-/// loaded from elsewhere, and no script runs. Charts are SVG; each has its
-/// figures in a table.
+/// The figures as one HTML page to read, print or send. It loads nothing and runs no
+/// script. Charts are SVG; each has its figures in a table.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toHtml(const Figures &figures,
                                                        const QString &title);
 

@@ -35,15 +35,15 @@ QString markOf(TransactionStatuses status)
     return status == TransactionStatuses::Reconciled ? QStringLiteral("* ") : QString();
 }
 
-/// A description on one line that begins no comment.
+/// The description on one line, without a start of a comment.
 QString safeDescription(const Transaction &transaction)
 {
     return foundation::escaped(transaction.description().value_or(QString()).simplified())
         .replace(u';', u',');
 }
 
-/// How each currency is written, so that every reader takes the point for what
-/// it is and shows all digits.
+/// How each currency is written, so that every reader takes the point for the decimal mark
+/// and shows all digits.
 void declareCurrencies(QString &text, const std::set<Account> &accounts,
                        const std::vector<Transaction> &transactions)
 {

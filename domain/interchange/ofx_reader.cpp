@@ -33,8 +33,8 @@ QString encodingOf(const QByteArray &bytes)
     if (unicode.match(header).hasMatch() || !match.hasMatch())
         return utf8Name;
     const QString name = match.captured(1) + match.captured(2);
-    // Headers are often copied from another file. What is valid in UTF-8 and not ASCII
-    // would be a row of odd letters in an encoding of one byte a letter.
+    // Headers are often wrong copies. Text that is valid UTF-8 beyond ASCII makes no sense
+    // in an encoding with one byte per letter.
     static const QRegularExpression oneByte(QStringLiteral("^(1252|windows-125.|iso-8859-.+)$"),
                                             QRegularExpression::CaseInsensitiveOption);
     if (oneByte.match(name).hasMatch() && QUtf8StringView(bytes).isValidUtf8())
@@ -55,8 +55,7 @@ void findStatements(const OfxElement &element, std::vector<const OfxElement *> &
         findStatements(child, statements);
 }
 
-/// Entries stand in the lists of statements alone. Who writes them elsewhere means
-/// something that would be lost.
+/// Refuses entries outside the lists of statements: they would be lost.
 void requireEntriesInLists(const OfxElement &element, bool isWithin = false, bool isList = false)
 {
     for (const OfxElement &child : element.children) {
@@ -111,7 +110,7 @@ std::vector<const OfxElement *> chosenStatements(const OfxElement &document, con
     QStringList accounts;
     for (const OfxElement *statement : statements) {
         accounts += accountOf(*statement);
-        if (!account.isEmpty() && accounts.back().isEmpty()) // it could be of this one, too
+        if (!account.isEmpty() && accounts.back().isEmpty()) // it may be the same account
             throw faults::severalAccounts(statement->place);
     }
     accounts.removeDuplicates();
@@ -152,7 +151,7 @@ QDate dayOf(const OfxElement &transaction)
     return *day;
 }
 
-/// "2026-01-31" without the name of the payee would say little.
+/// The payee's name, memo and check number.
 QString textOf(const OfxElement &transaction)
 {
     QStringList texts{transaction.text("NAME")};
@@ -180,7 +179,8 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
             throw faults::otherCurrency(other->place, foundation::toQString(found),
                                         foundation::toQString(currency));
     }
-    // The only comma or point is the mark, whatever digits follow; else commas group.
+    // A single comma or point is the decimal mark, whatever digits follow. Otherwise commas
+    // group.
     const QString &number = amount->value;
     std::optional<DecimalMark> mark;
     if (number.count(u',') == 1 && !number.contains(u'.'))

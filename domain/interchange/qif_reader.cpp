@@ -27,13 +27,13 @@ struct Record {
     Place place;
     QString date = {};
     QString amount = {};
-    QString sameAmount = {}; ///< as some write it a second time
+    QString sameAmount = {}; ///< some programs write the amount twice
     QString payee = {};
     QString memo = {};
     QString number = {};
     QString category = {};
     std::vector<Part> parts = {};
-    QString fields = {}; ///< the letters of those that it has, or its last part has
+    QString fields = {}; ///< letters of the fields read so far, of the last part if there are parts
 };
 
 /// "1/31'26" is how some write 1/31/2026.
@@ -67,7 +67,7 @@ public:
             else if (isOfEntry(line))
                 throw faults::entryOutside(m_lines.place());
         }
-        // The last mark may be missing, but what ends within a line was cut off there.
+        // The last ^ may be missing, but a file that ends inside a line was cut off.
         if (!m_record.fields.isEmpty() && m_endsWithinLine)
             throw faults::entryCutOff(m_lines.place());
         finish();
@@ -81,7 +81,8 @@ public:
 private:
     enum class Section { None, Transactions, Skipped };
 
-    /// Lists of accounts and categories have no payees and parts, and no number behind T.
+    /// Whether the line can only belong to an entry. Lists of accounts and categories have
+    /// no payees, no parts, and no number after T.
     static bool isOfEntry(const QString &line)
     {
         static const QRegularExpression pattern(QStringLiteral("^(?:[TU]\\s*[-+(]?[.,0-9]|[PS].)"));
@@ -91,7 +92,7 @@ private:
     void enter(const QString &header)
     {
         const QString kind = header.mid(1).toLower().simplified();
-        // How lists are to be taken over; what stands around goes on.
+        // Options for importing lists; the present section continues.
         if (kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
             return;
         finish();
@@ -122,7 +123,7 @@ private:
         Record &record = m_record;
         if (record.fields.isEmpty())
             record.place = m_lines.place();
-        // Two of a kind are two entries without a mark between them.
+        // A repeated field means two entries without a ^ between them.
         if (!record.fields.contains(field))
             record.fields += field;
         else if (QStringLiteral("DTUPMNLE$").contains(field))
@@ -195,14 +196,14 @@ private:
     Section m_section = Section::None;
     bool m_hasStatement = false;
     bool m_isInAccount = false;
-    QString m_named;   ///< by the last account's own record
+    QString m_named;   ///< name in the last !Account record
     QString m_account; ///< whose entries are read, by kind and name
     Record m_record;
     qsizetype m_entries = 0; ///< of the statement: records, and parts of them
     std::vector<Record> m_records;
 };
 
-/// The format in which all days can be read, when there is but one.
+/// The only format that fits all dates.
 DateFormat formatOf(const std::vector<Record> &records, const Place &place)
 {
     std::vector<DateFormat> fitting;
@@ -214,7 +215,7 @@ DateFormat formatOf(const std::vector<Record> &records, const Place &place)
             }))
             fitting.push_back(format);
     }
-    // Two orders that say the same of every day are as good as one.
+    // Two formats that read every date alike count as one.
     const auto agree = [&](const DateFormat &one, const DateFormat &other) {
         return std::ranges::all_of(records, [&](const Record &record) {
             return one.read(plainDate(record.date)) == other.read(plainDate(record.date));
@@ -271,7 +272,7 @@ private:
     {
         return statementAmount(text, m_options.currency, m_options.decimalMark, place);
     }
-    /// Most write it twice, some with more digits.
+    /// Many programs write the amount twice, some with more digits.
     [[nodiscard]] numira::Money amountOf(const Record &record) const
     {
         if (record.amount.isEmpty() && record.sameAmount.isEmpty())

@@ -20,11 +20,10 @@ struct QifOptions {
     numira::Currency currency = {};
 };
 
-/// Reads the transactions of a bank account, a credit card or cash from a QIF
-/// file. Each part of a split becomes an entry of its own; a category is the
-/// name of the other side. Lists of categories and accounts are passed over,
-/// investments are refused. Throws ImportError with the line of what it cannot
-/// read.
+/// Reads the transactions of a bank account, a credit card or cash from a QIF file. Each
+/// part of a split becomes an entry of its own; its category names the other side. Lists of
+/// categories and accounts are skipped, investments refused. Throws ImportError with the
+/// line of what it cannot read.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readQif(const QByteArray &bytes, const QString &file,
                                                        const QifOptions &options);
 

@@ -20,19 +20,19 @@ struct StatementEntry {
     QString text = {};         ///< what the bank says about it
     /// The bank's own identifier of the transaction; empty when it gave none.
     QString bankId = {};
-    /// The name that another program has for the other side; often empty.
+    /// The other side's name in the program that wrote the file; often empty.
     QString category = {};
     bool isTransfer = false; ///< whether that is the name of an account
 
     friend bool operator==(const StatementEntry &, const StatementEntry &) = default;
 };
 
-/// What a bank says about one account.
+/// A bank's statement of one account.
 struct Statement {
-    QString account;                     ///< the bank's number of it, where the file tells it
+    QString account;                     ///< the bank's number, if the file has it
     numira::Currency currency;           ///< of the account
     std::vector<StatementEntry> entries; ///< in the order of the file
-    qsizetype pending = 0;               ///< how many were left out that are not booked yet
+    qsizetype pending = 0; ///< number of skipped entries that the bank has not booked yet
 };
 
 } // namespace kiv::interchange

@@ -28,7 +28,7 @@ public:
         }
     }
 
-    /// Nothing, and a notice of the plan, for what moves no money.
+    /// Adds the entry to the plan. An entry that moves no money becomes a notice.
     void add(StatementEntry entry)
     {
         if (entry.amount.code() != m_books.currency)
@@ -41,7 +41,7 @@ public:
         }
         PlannedEntry planned{std::move(entry), {}};
         const AccountCode other = chooseOther(planned);
-        // Other programs write an opening balance so.
+        // Other programs write opening balances this way.
         if (planned.entry.isTransfer && other == m_books.account) {
             m_plan.notices.push_back(
                 {Kinds::ToItself, planned.entry.place,

@@ -10,50 +10,50 @@
 #include <functional>
 #include <set>
 
-/// What a bank statement comes to in a ledger, before anything is posted.
+/// What a bank statement would post to a ledger.
 namespace kiv::interchange {
 
-/// What the user should know of a statement or one of its entries.
+/// What the user should know about a statement or one of its entries.
 struct StatementNotice {
-    /// What can be told of an entry or of a statement.
+    /// The subjects of notices.
     enum class Kinds {
-        Pending,       ///< entries are left out that the bank has not booked yet
-        Nothing,       ///< an entry of the amount zero is left out
-        ToItself,      ///< an entry is left out that moves from the account to itself
-        OtherAccount,  ///< the other side is no account of the ledger, and the money goes elsewhere
-        BeforeOpening, ///< older than the opening balance, which may hold it already
-        MaybeTransfer, ///< may be there already from the statement of its other account
+        Pending,       ///< entries that the bank has not booked yet are skipped
+        Nothing,       ///< an entry with amount zero is skipped
+        ToItself,      ///< an entry from the account to itself is skipped
+        OtherAccount,  ///< the ledger has no such other account, so another one is used
+        BeforeOpening, ///< older than the opening balance, which may already include it
+        MaybeTransfer, ///< the other account's statement may already have posted it
     };
-    Kinds kind;   ///< for those who tell it in another way
-    Place place;  ///< of the entry; line 0 for the statement as a whole
+    Kinds kind;   ///< for front ends with their own wording
+    Place place;  ///< of the entry; line 0 for the whole statement
     QString text; ///< a sentence for the user; entries may share it
 };
 
-/// What chose the account on the other side of an entry.
+/// What chose an entry's counter-account.
 enum class ChosenBy {
     Nobody,   ///< it is still to be chosen
-    Rule,     ///< a rule whose text the entry holds
-    Category, ///< the name that another program gave, which is that of an account
+    Rule,     ///< a rule that matches the entry's text
+    Category, ///< the entry's category, which is the name of an account
     Default,  ///< the account for all others
 };
 
-/// An entry as it can be posted.
+/// An entry that can be posted.
 struct PlannedEntry {
-    StatementEntry entry; ///< as the bank tells it
-    /// The same between two accounts; the other one is invalid while nobody chose it.
+    StatementEntry entry; ///< as the bank wrote it
+    /// What would be posted. The counter-account is invalid as long as nobody chose it.
     accounting::Transaction transaction;
     ChosenBy chosenBy = ChosenBy::Nobody;      ///< the other account
-    bool isDuplicate = false;                  ///< whether it is there already
+    bool isDuplicate = false;                  ///< whether the ledger already has it
     std::vector<StatementNotice> notices = {}; ///< to be told when it is posted
 };
 
-/// All that a statement comes to.
+/// All that a statement would post.
 struct StatementPlan {
     std::vector<PlannedEntry> entries;    ///< in the order of the file
     std::vector<StatementNotice> notices; ///< what was left out
 };
 
-/// The ledger that a statement is planned for.
+/// The ledger that a statement is imported into.
 struct StatementBooks {
     accounting::AccountCode account;             ///< that the statement is about
     numira::Currency currency;                   ///< of that account
@@ -63,19 +63,19 @@ struct StatementBooks {
     std::set<accounting::AccountNumber> kept;    ///< accounts that banks send statements of
 };
 
-/// Where the entries of a statement go. Accounts are named by number, name or path.
+/// How counter-accounts are chosen. Accounts are given by number, name or path.
 struct StatementChoices {
-    std::vector<AccountRule> rules; ///< the first that fits counts
-    /// The other account of entries that neither a rule nor a category knows.
+    std::vector<AccountRule> rules; ///< the first that matches counts
+    /// The counter-account of entries that no rule and no category matches.
     std::optional<QString> otherwise;
-    /// Finds an account that is named. It is asked only for those that entries need, and
-    /// what it throws passes through.
+    /// Finds an account. It is called only for accounts that entries need; its exceptions
+    /// pass through.
     std::function<accounting::AccountCode(const QString &)> find;
 };
 
-/// Plans to post each entry between the statement's account and another one, and
-/// finds those that are there already. Throws ImportError for an entry in another
-/// currency than the account's.
+/// Plans each entry as a transaction between the statement's account and a counter-account,
+/// and finds duplicates. Throws ImportError for an entry in another currency than the
+/// account's.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT StatementPlan planStatement(Statement statement,
                                                                  const StatementBooks &books,
                                                                  const StatementChoices &choices);

@@ -42,8 +42,8 @@ QString decoded(const QByteArray &bytes, const QString &file, const QString &enc
     // What an empty name means is not defined.
     if (encoding.isEmpty() || !converter.handle)
         throw faults::unknownEncoding({file, 0}, encoding);
-    // No encoding makes more than one code unit of a byte, but for a few that
-    // nobody writes statements in; those end here with an overflow.
+    // Encodings make at most one code unit of a byte. The few exceptions are never used for
+    // statements; they end here with an overflow.
     QString text(bytes.size() + 8, Qt::Uninitialized);
     auto *target = reinterpret_cast<UChar *>(text.data());
     const UChar *const begin = target;
@@ -53,8 +53,7 @@ QString decoded(const QByteArray &bytes, const QString &file, const QString &enc
     ucnv_toUnicode(converter.handle, &target, begin + text.size(), &source, end, nullptr, true,
                    &status);
     if (U_FAILURE(status)) {
-        // The converter has already taken the bytes that made no character, at most
-        // eight.
+        // The converter has already taken the invalid bytes, at most eight.
         char invalid[8];
         int8_t count = sizeof invalid;
         UErrorCode ignored = U_ZERO_ERROR;

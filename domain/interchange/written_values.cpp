@@ -18,11 +18,11 @@ bool isDigit(QChar character)
     return character >= u'0' && character <= u'9';
 }
 
-/// What is left of a number without its sign; nothing when it has several.
+/// The number without its sign; nothing when it has several signs.
 std::optional<std::pair<QString, bool>> withoutSign(const QString &text)
 {
     QString digits = text.trimmed();
-    digits.replace(QChar(0x2212), u'-'); // the minus of typographers
+    digits.replace(QChar(0x2212), u'-'); // typographic minus
     bool isNegative = false;
     if (digits.startsWith(u'(') && digits.endsWith(u')')) {
         isNegative = true;
@@ -39,13 +39,13 @@ std::optional<std::pair<QString, bool>> withoutSign(const QString &text)
     return std::pair(digits, isNegative);
 }
 
-/// Whether the mark stands where it could part thousands, as in "1.234".
+/// Whether the mark may group thousands, as in "1.234".
 bool couldGroup(const QString &digits, qsizetype at)
 {
     return digits.size() - at == 4 && at > 0 && at <= 3 && digits[0] != u'0';
 }
 
-/// The mark by which such digits show what it is; nothing when there is none.
+/// The decimal mark that the digits show; nothing when they show none.
 std::optional<QChar> markOf(const QString &digits, const QString &text, const Place &place)
 {
     const qsizetype point = digits.lastIndexOf(u'.');
@@ -62,8 +62,8 @@ std::optional<QChar> markOf(const QString &digits, const QString &text, const Pl
     return mark;
 }
 
-/// The digits before the mark with what groups them taken out; nothing when
-/// groups are not of three (in the Indian way, the first ones of two).
+/// The digits before the mark without grouping; nothing when the groups do not have three
+/// digits (or two before the last, the Indian way).
 std::optional<QString> ungrouped(const QString &whole)
 {
     QString plain;
@@ -119,7 +119,7 @@ DateFormat::DateFormat() : m_text(QStringLiteral("YYYY-MM-DD")) {}
 
 DateFormat::DateFormat(QString text, const Place &place) : m_text(std::move(text))
 {
-    // What the format writes of a day must be what it reads.
+    // The format must write the date exactly as it was read.
     QString sample = m_text;
     for (const auto &[letters, digits] : {std::pair("YYYY", "2026"),
                                           {"YY", "26"},
@@ -159,7 +159,7 @@ std::optional<QDate> DateFormat::read(QStringView text) const
         while (letter + count < m_text.size() && m_text[letter + count] == kind)
             ++count;
         bool fits = true;
-        // Fewer or more letters than there can be fit no digits.
+        // Other numbers of letters match no digits.
         if (kind == u'Y') {
             fits = number(count, count, year);
             if (count == 2)
@@ -182,7 +182,7 @@ std::optional<QDate> DateFormat::read(QStringView text) const
 
 std::optional<numira::Currency> readCurrency(const QString &text, const numira::Currency &preferred)
 {
-    // Signs that stand for one currency wherever they are used, and the dollar.
+    // Signs that mean the same currency everywhere, and the dollar.
     static const std::map<QString, const char *> signs{
         {QStringLiteral("$"), "USD"},   {QStringLiteral("€"), "EUR"},
         {QStringLiteral("£"), "GBP"},   {QStringLiteral("¥"), "JPY"},
@@ -209,7 +209,7 @@ numira::Money statementAmount(const QString &text, const numira::Currency &curre
 {
     const numira::Decimal number = readNumber(text, mark, place);
     const unsigned digitsMax = numira::minorUnitDigits(currency);
-    // Three digits are no cents, even if they are zeros: "1.500" may be thousands.
+    // Three decimals are no cents, even if they are zeros: "1.500" may mean thousands.
     const QString digits = mark || digitsMax > 2 ? QString() : withoutSign(text)->first;
     if (couldGroup(digits, digits.indexOf(u'.')))
         throw faults::ambiguousNumber(place, text);

@@ -62,7 +62,8 @@ private:
         const auto findOut = [this](const QStringList &headings) {
             m_columns.out = find(m_profile.outColumn, headings, "--out-column");
         };
-        // Who names one of two means the other as well, where it is plain.
+        // A profile that names one of the two columns means both; the other is found by
+        // heading.
         findIn(m_profile.outColumn.isEmpty() ? QStringList() : words::in);
         findOut(m_profile.inColumn.isEmpty() ? QStringList() : words::out);
         if (m_columns.in || m_columns.out) {
@@ -74,7 +75,7 @@ private:
         requireOwnCurrency(m_columns.amount);
         if (m_columns.amount)
             return;
-        // Half of a pair would leave out what went the other way.
+        // One column of the pair alone would lose the entries of the other.
         findIn(words::in);
         findOut(words::out);
         if (!m_columns.in || !m_columns.out)
@@ -85,7 +86,8 @@ private:
 
     void findCurrency()
     {
-        // "Amount in GBP" beside an amount abroad, whose currency that column tells.
+        // A column of currencies next to "Amount in GBP" tells the currency of an amount
+        // abroad.
         const QRegularExpression own(
             QStringLiteral("\\b%1\\b").arg(foundation::toQString(m_currency)));
         if (!m_profile.currencyColumn.isEmpty() || !m_columns.amount ||
@@ -94,7 +96,7 @@ private:
                 find(m_profile.currencyColumn, words::currency, "--currency-column");
     }
 
-    /// Of common headings, a text may stand under several that are alike.
+    /// Several columns with the same common heading may hold parts of the text.
     void findTexts()
     {
         for (const QString &column : m_profile.textColumns)

@@ -6,7 +6,7 @@
 
 namespace kiv::interchange::internal {
 
-/// Where the columns of a statement stand, counted from 0.
+/// The columns of a statement, by their index.
 struct CsvColumns {
     QStringList headings; ///< or numbers where there are none
     qsizetype date = 0;
@@ -19,8 +19,8 @@ struct CsvColumns {
     std::optional<qsizetype> status;
     std::optional<qsizetype> balance;
     std::vector<qsizetype> texts;
-    qsizetype needed = 1; ///< cells that an entry must have
-    qsizetype named = 0;  ///< up to the last column with a heading
+    qsizetype needed = 1; ///< number of cells that an entry must have
+    qsizetype named = 0;  ///< number of columns up to the last heading
 };
 
 /// How the rows of a statement are understood. The profile must outlive it.
@@ -32,7 +32,7 @@ struct CsvLayout {
 };
 
 /// Finds the columns that the profile names, and others by common headings. Throws
-/// ImportError, with the option that helps, for those that are missing or there twice.
+/// ImportError, which names an option, for a column that is missing or ambiguous.
 [[nodiscard]] CsvColumns columnsOf(const CsvRecord &first, const CsvProfile &profile,
                                    const numira::Currency &currency);
 

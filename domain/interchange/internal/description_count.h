@@ -6,10 +6,11 @@
 
 namespace kiv::interchange::internal {
 
-/// Counts the characters of a statement's texts, of which several entries may repeat one.
+/// Counts the characters of all descriptions of a statement. Several entries may repeat one
+/// text.
 class DescriptionCount {
 public:
-    /// Throws ImportError for more than descriptions have together.
+    /// Throws ImportError when all descriptions together are too long.
     void add(const QString &text, const Place &place)
     {
         m_characters += text.size();

@@ -5,8 +5,8 @@
 
 namespace kiv::interchange::internal {
 
-/// A text of an HTML or SVG element or of an attribute in double quotes: nothing
-/// in it is markup, and nothing turns the line around.
+/// The text escaped for an HTML or SVG element or for an attribute in double quotes,
+/// without characters that change the writing direction.
 [[nodiscard]] inline QString htmlText(const QString &text)
 {
     return foundation::escaped(text).toHtmlEscaped();

@@ -69,7 +69,7 @@ std::size_t JournalBooks::newAccount(const QString &name, const numira::Currency
         if (part.isEmpty())
             throw faults::noAccount(place);
         whole += (whole.isEmpty() ? QString() : QStringLiteral(":")) + part;
-        // What is there already may be so as a parent, or in another currency.
+        // It may be known as a parent, or in another currency.
         if (m_paths.contains(whole) && &part != &names.back())
             continue;
         m_paths.insert(whole);
@@ -81,7 +81,7 @@ std::size_t JournalBooks::newAccount(const QString &name, const numira::Currency
     }
     DraftAccount account;
     account.type = typeOf(name, names.front(), place);
-    // What is posted to the root itself gets an account of its name.
+    // Postings to the top-level name itself get an account of that name.
     if (names.size() > 1)
         names.removeFirst();
     account.names = names;
@@ -161,8 +161,8 @@ void JournalBooks::addConversions(std::vector<Booking> &bookings)
 
 void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
 {
-    // An account that goes both up and down only changes by the difference;
-    // money cannot go from it to itself.
+    // An account with debits and credits only changes by the difference; money cannot go
+    // from it to itself.
     std::map<std::size_t, std::pair<bool, bool>> ways;
     for (const Booking &booking : bookings) {
         ways[booking.account].first |= booking.amount.isPositive();
@@ -191,8 +191,7 @@ void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
     for (auto &[account, net] : nets)
         sort(std::move(net));
 
-    // Each pass settles one booking of one currency; in each, both sides come to the
-    // same.
+    // Each pass settles one booking. In each currency, both sides have the same sum.
     std::ranges::stable_sort(debits, {}, [](const Booking &b) { return b.amount.code(); });
     std::ranges::stable_sort(credits, {}, [](const Booking &b) { return b.amount.code(); });
     while (!debits.empty()) {
@@ -212,9 +211,9 @@ void JournalBooks::settle(const Entry &entry, std::vector<Booking> bookings)
 void JournalBooks::addTransaction(const Entry &entry, const Booking &debit, const Booking &credit,
                                   const numira::Money &amount)
 {
-    // What is kept of comments in a description; each pair of postings has all.
+    // The most characters of comments in a description. Each pair of postings repeats them.
     constexpr qsizetype commentsMax = 2000;
-    constexpr qsizetype lengthMin = 20; // so that there are not too many short ones
+    constexpr qsizetype lengthMin = 20; // limits the number of short ones
     qsizetype length = 0;
     QStringList texts{entry.description};
     for (const QStringList *comments : {&entry.comments, &debit.comments, &credit.comments}) {

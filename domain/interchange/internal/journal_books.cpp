@@ -33,8 +33,7 @@ QString textOf(const Sums &sums)
     return texts.join(QStringLiteral(", "));
 }
 
-/// Whether so little is left that it comes from rounding a price's product: at
-/// most half a minor unit.
+/// Whether the rest is only a rounding error of a price: at most half a minor unit.
 bool isRounding(const QString &commodity, const numira::Decimal &rest)
 {
     const auto currency = currencyOf(commodity);
@@ -148,8 +147,8 @@ void JournalBooks::assign(Entry &entry) const
             return !posting.amount && posting.assertion;
         }))
         return;
-    // "Assets:Cash  = $100" without an amount means what leads there, from what the
-    // postings above it have made.
+    // "Assets:Cash  = $100" without an amount means the amount that leads to this balance,
+    // after the postings above it.
     Balances here;
     for (Posting &posting : entry.postings) {
         if (!posting.amount && posting.assertion) {
@@ -229,7 +228,7 @@ void JournalBooks::checkBalance(std::vector<Posting *> &group, const Place &plac
 
 void JournalBooks::inferCost(std::vector<Posting *> &group, const Sums &rest)
 {
-    // What is no currency, and stands in one posting, cost what was paid.
+    // A commodity that is no currency and has one posting costs what was paid.
     for (const auto &[commodity, number] : rest) {
         if (currencyOf(commodity))
             continue;
@@ -310,7 +309,7 @@ bool JournalBooks::holds(const Balances &balances, const Movement &movement)
 
 void JournalBooks::move(const Entry &entry)
 {
-    // The transactions are counted when they are made; what moves nothing makes none.
+    // Transactions have a limit of their own, but postings without an effect make none.
     constexpr std::size_t movementsMax = 4 * transactionsMax;
     if (m_movements.size() + entry.postings.size() > movementsMax)
         throw faults::tooManyTransactions(entry.place, transactionsMax);
@@ -318,7 +317,7 @@ void JournalBooks::move(const Entry &entry)
         m_movements.push_back(movementOf(entry, posting));
         Movement &movement = m_movements.back();
         add(m_balances, movement);
-        // All that name an account share one text.
+        // All movements of an account share one text.
         movement.account =
             m_balances.find({movement.account, movement.amount.commodity})->first.first;
         if (m_failedAssertion || holds(m_balances, movement))

@@ -14,9 +14,9 @@ namespace kiv::interchange::internal {
 /// The currency that a commodity is; nothing for another one.
 [[nodiscard]] std::optional<numira::Currency> currencyOf(const QString &commodity);
 
-/// Balances the entries of a journal and splits them into transactions between
-/// two accounts. Written in two sources: entries, automated transactions and
-/// assertions; and bookings.
+/// Balances the entries of a journal and splits them into transactions between two
+/// accounts. Two sources: journal_books.cpp has entries, automated transactions and
+/// assertions; journal_bookings.cpp has accounts and transactions.
 class JournalBooks {
 public:
     explicit JournalBooks(const JournalOptions &options) : m_options(options) {}
@@ -30,8 +30,8 @@ public:
     /// Keeps a sentence for the user, once.
     void notice(const QString &sentence);
 
-    /// Checks the assertions that did not hold in the order of the file, and
-    /// gives what was read.
+    /// Checks assertions that failed in file order once more by date, and returns the
+    /// draft.
     [[nodiscard]] Draft finish();
 
 private:
@@ -46,13 +46,13 @@ private:
         QRegularExpression pattern;
         Entry entry;
     };
-    static constexpr std::size_t rulesMax = 100; ///< each is tried on each account
-    /// The rules that fit an account, as far as they were asked.
+    static constexpr std::size_t rulesMax = 100; ///< each is matched against each account
+    /// Which rules match an account, as far as they were tried.
     struct Fitting {
         std::size_t asked = 0;
         std::bitset<rulesMax> rules = {};
     };
-    /// A posting, for the assertions: they may hold in the order of the days.
+    /// A posting, kept for assertions that hold only in the order of dates.
     struct Movement {
         QDate date;
         QString account;
@@ -62,8 +62,7 @@ private:
         bool isAssigned; ///< whether the amount comes from the assertion
         Place place;
     };
-    /// By account and commodity. Whether virtual postings count is not the same
-    /// everywhere.
+    /// By account and commodity. Programs differ on whether virtual postings count.
     struct Balance {
         numira::Decimal all;
         numira::Decimal real; ///< without virtual postings
@@ -71,7 +70,7 @@ private:
     using Balances = std::map<std::pair<QString, QString>, Balance>;
     struct KnownAccount {
         std::size_t index; ///< in the draft
-        Place place;       ///< where it is met first
+        Place place;       ///< of its first use
     };
 
     void fill(std::vector<Posting> &postings, const Place &place);
@@ -97,7 +96,7 @@ private:
     [[nodiscard]] std::size_t newAccount(const QString &name, const numira::Currency &currency,
                                          const Place &place);
     void checkKinds() const;
-    /// The draft's account; `name` is kept when it is new.
+    /// The index of the draft's account. A new account keeps `name`.
     [[nodiscard]] std::size_t indexOf(DraftAccount account, const QString &name);
     [[nodiscard]] accounting::AccountTypes typeOf(const QString &name, const QString &root,
                                                   const Place &place) const;
@@ -108,13 +107,12 @@ private:
         m_indexes;
     std::map<QString, accounting::AccountTypes> m_declaredTypes;
     std::map<QString, accounting::AccountNumber> m_declaredNumbers;
-    /// Accounts that are declared with their currency are wanted without a
-    /// posting, too.
+    /// Accounts declared with a currency are opened even without a posting.
     std::vector<std::tuple<QString, numira::Currency, Place>> m_wanted;
     std::map<std::pair<QString, numira::Currency>, KnownAccount> m_known;
-    std::vector<QString> m_names; ///< the first of each of the draft's accounts
-    bool m_hasJoined = false;     ///< whether one of them has further names
-    QSet<QString> m_paths;        ///< of the accounts and those above them
+    std::vector<QString> m_names; ///< the first name of each account of the draft
+    bool m_hasJoined = false;     ///< whether an account has several names
+    QSet<QString> m_paths;        ///< of the accounts and their parents
     qsizetype m_pathsSize = 0;
     qsizetype m_opened = 0; ///< accounts that are opened, at most
     qsizetype m_descriptionsSize = 0;

@@ -14,12 +14,12 @@ namespace {
 
 constexpr int depthMax = 8;
 constexpr int includesMax = 1000;
-/// Of what stands in place of or before each account's name, which postings copy.
+/// The longest alias target or applied parent; postings copy it.
 constexpr qsizetype nameMax = 200;
-/// Of an account's name that an alias could stand for.
+/// Levels of an account's name that aliases are looked up for.
 constexpr int levelsMax = 100;
 
-/// Whether a line below a declaration says what is of no concern here.
+/// Whether a line below a declaration can be ignored.
 bool isRemark(QStringView line)
 {
     static const QRegularExpression form(
@@ -33,8 +33,8 @@ QString nameBeside(const QString &file, const QString &path)
     return path.startsWith(u'/') ? path : file.left(file.lastIndexOf(u'/') + 1) + path;
 }
 
-/// Those "name: value" pairs of a comment that say something of an account; commas
-/// stand between them.
+/// Adds the "name: value" pairs of a comment that describe an account. Commas separate
+/// them.
 void addTags(const QString &comment, std::map<QString, QString> &tags)
 {
     static const QStringList known{QStringLiteral("type"), QStringLiteral("number"),
@@ -142,7 +142,7 @@ void JournalParser::takeInclude(const Block &block, const QString &path)
         throw faults::includeWithoutFolder(block.place, path);
     if (m_settings.depth >= depthMax)
         throw faults::includedTooDeeply(block.place, path);
-    // Each of eight files may include the next one many times.
+    // The depth alone is no limit: each file may include the next one many times.
     if (++m_included > includesMax)
         throw faults::tooManyIncludes(block.place, path, includesMax);
     const Settings outer = m_settings;
@@ -162,7 +162,7 @@ void JournalParser::takeApply(const Block &block, const QString &rest)
     if (value.isEmpty() || (kind != u"tag" && kind != u"account"))
         throw faults::unknownDirective(block.place, block.head);
     m_settings.applied.push_back({kind, value});
-    // Which of an alias and a parent comes first is not the same everywhere.
+    // Programs differ on whether aliases or applied parents come first.
     if (kind == u"account" && (!m_aliases.empty() || fullName({}, block.place).size() > nameMax))
         throw faults::unsupported(block.place, block.head);
 }
@@ -201,8 +201,8 @@ QString JournalParser::withWholeOrRoot(const Aliases &aliases, const QString &na
 
 QString JournalParser::withLatest(const Aliases &aliases, QString name)
 {
-    // Each replaces what the later ones have made; two steps are enough to see that
-    // it differs from what one would be.
+    // Each alias applies to the result of the later ones. Two steps show whether the result
+    // differs from that of one.
     std::size_t order = std::numeric_limits<std::size_t>::max();
     for (int step = 0; step < 2; ++step) {
         const Alias *latest = nullptr;

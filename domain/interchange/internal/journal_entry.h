@@ -8,8 +8,8 @@
 /// The parts of a journal as they are written, before they are balanced.
 namespace kiv::interchange::internal {
 
-/// A number of some commodity: a currency's code where it is one, else the name
-/// that the journal has for it; empty where none is written.
+/// A number of a commodity. A currency has its ISO code, another commodity its name in the
+/// journal; empty where none is written.
 struct Quantity {
     numira::Decimal number;
     QString commodity;
@@ -23,13 +23,13 @@ struct Posting {
     PostingKind kind = PostingKind::Real;
     accounting::TransactionStatuses status = accounting::TransactionStatuses::None;
     std::optional<Quantity> amount = {};
-    /// What all of the amount cost, with the amount's sign.
+    /// The cost of the whole amount, with the amount's sign.
     std::optional<Quantity> cost = {};
     std::optional<Quantity> assertion = {};
-    bool isAssigned = false; ///< whether the amount is what leads to the assertion
+    bool isAssigned = false; ///< whether the amount was computed from the assertion
     QStringList comments = {};
 
-    /// The amount, once a posting without one has got it from the others.
+    /// The amount. A posting without one must have been filled before.
     [[nodiscard]] const Quantity &known() const
     {
         if (!amount)
@@ -49,7 +49,7 @@ struct Entry {
     std::vector<Posting> postings = {};
 };
 
-/// A transaction that is added to each posting whose account fits the pattern.
+/// Postings that are added for each posting whose account matches the pattern.
 struct AutomatedEntry {
     QString pattern;
     Entry entry;

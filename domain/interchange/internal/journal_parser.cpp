@@ -28,7 +28,7 @@ bool endsComment(QStringView line, const QString &word, const Place &place)
 {
     if (!line.startsWith(u"end comment") && !line.startsWith(u"end test"))
         return false;
-    // Where another end counts, and where it does not, is not the same everywhere.
+    // Programs differ on whether the other end counts here.
     if (line.trimmed() != QStringLiteral("end ") + word)
         throw faults::unsupported(place, line.toString());
     return true;
@@ -141,7 +141,7 @@ try {
 
 namespace {
 
-/// A day, of the year given when it is written without one.
+/// A date; `year` is used where the date has none.
 QDate takeDate(QStringView &rest, std::optional<int> year, const Place &place)
 {
     qsizetype length = 0;
@@ -202,8 +202,8 @@ void JournalParser::takeAutomated(Block &block)
 {
     QString pattern = block.head.mid(1).trimmed();
     takeComment(pattern);
-    // A sign, a quote, a blank or a word like "desc:" makes it a query of something
-    // else than one account's name, which would never fit one.
+    // A sign, quote, blank or word like "desc:" makes it a query for something else, which
+    // would never match an account's name.
     static const QRegularExpression form(QStringLiteral(
         "^(?:/([^/]+)/"
         "|(?!(?:not|any|all|expr|acct|amt|code|cur|date2?|depth|desc|inacct|note|payee|"
@@ -261,7 +261,7 @@ Posting JournalParser::readPosting(const Place &place, QStringView line)
     if (posting.account.isEmpty())
         throw faults::noAccount(place);
     posting.account = fullName(posting.account, place);
-    // There the payee of the transaction chooses another account.
+    // With payees declared, the transaction's payee chooses another account.
     if (m_hasPayees && posting.account.section(u':', -1) == u"Unknown")
         throw faults::unsupported(place, posting.account);
     readAmounts(line, posting);
@@ -279,7 +279,7 @@ void JournalParser::readAmounts(QStringView rest, Posting &posting)
         posting.amount = m_quantities.read(rest, posting.place);
         if (isMultiplier && !posting.amount->commodity.isEmpty())
             throw faults::unsupported(posting.place, whole.toString());
-        // A default currency may make an amount of what is a multiplier elsewhere.
+        // With a default currency, some programs read a multiplier as an amount.
         if (!isMultiplier && posting.amount->commodity.isEmpty() &&
             !m_settings.amounts.usesDefault && !m_settings.amounts.commodity.isEmpty())
             throw faults::ambiguousMultiplier(posting.place, whole.toString());

@@ -9,9 +9,9 @@
 
 namespace kiv::interchange::internal {
 
-/// Turns the lines of a journal into entries and hands them to the books. Knows the forms that
-/// ledger and hledger share, and refuses everything else. Written in two sources: lines and
-/// entries; and directives.
+/// Turns the lines of a journal into entries and hands them to the books. Reads what ledger
+/// and hledger share, and refuses everything else. Two sources: journal_parser.cpp has
+/// lines and entries, journal_directives.cpp directives.
 class JournalParser {
 public:
     JournalParser(const JournalOptions &options, JournalBooks &books)
@@ -21,16 +21,15 @@ public:
 
     void parse(const QByteArray &bytes, const QString &file);
 
-    /// The first line of journals that are written here. In them a
-    /// transaction's code is its number, and an account has the tags "number"
-    /// and "currency".
+    /// The first line of journals that writeJournal() writes. In them a transaction's code
+    /// is its number, and accounts have the tags "number" and "currency".
     static const QString &ownHeader();
 
 private:
     using Line = std::pair<Place, QStringView>; ///< of the text that is parsed
 
-    /// A directive's or entry's first line, and the indented ones behind it. Whoever
-    /// knows what these mean takes them; those that nobody took are refused.
+    /// The first line of a directive or entry with its indented lines. Functions take the
+    /// lines that they understand; lines left over are refused.
     struct Block {
         Place place;
         QString head;
@@ -47,14 +46,13 @@ private:
     };
     using Aliases = QMap<QString, Alias>;
 
-    /// What "apply tag" or "apply account" says of the lines behind it.
+    /// An "apply tag" or "apply account" for the lines after it.
     struct Applied {
         QString kind; ///< "tag" or "account"
         QString value;
     };
 
-    /// What holds for the lines of a file and of those that it includes there, and
-    /// ends with it.
+    /// Settings of a file and of the files that it includes. They end with the file.
     struct Settings {
         bool isOwn = false; ///< see ownHeader
         int depth = 0;      ///< how many files include this one
@@ -74,11 +72,12 @@ private:
     void takeEnd(const Block &block, const QString &rest);
     void takeAlias(const Place &place, const QString &alias, const QString &account);
     [[nodiscard]] bool isApplied(const QString &kind) const;
-    /// What the name is with an alias of all of it, or else of its root, replaced.
+    /// The name with an alias for all of it, or else for its first part, applied.
     [[nodiscard]] static QString withWholeOrRoot(const Aliases &aliases, const QString &name);
-    /// What the name is with the latest alias of it, or of a parent, replaced, and so on.
+    /// The name with the latest alias for it or a parent applied, then the one before, and
+    /// so on.
     [[nodiscard]] static QString withLatest(const Aliases &aliases, QString name);
-    /// The account that such a name stands for, under what is applied.
+    /// The account that the name means, below the applied parents.
     [[nodiscard]] QString fullName(const QString &name, const Place &place) const;
     void takeEntry(Block &block);
     void takeAutomated(Block &block);
@@ -92,14 +91,14 @@ private:
     JournalBooks &m_books;
     Settings m_settings;
     QuantityReader m_quantities;
-    Aliases m_aliases; ///< those of included files go on behind them
+    Aliases m_aliases; ///< aliases of included files stay in force after them
     std::size_t m_aliasOrder = 0;
     bool m_hasPayees = false; ///< whether payees choose accounts
     qsizetype m_declared = 0;
     int m_included = 0;
 };
 
-/// The text behind a semicolon, which is taken off with it.
+/// Cuts off the comment, and returns its text without the semicolon.
 QString takeComment(QString &text);
 
 } // namespace kiv::interchange::internal

@@ -3,7 +3,7 @@
 
 #include <QtCore/QtGlobal>
 
-/// What a file may hold at most, so that reading one of 64 MiB needs less than 300 MiB.
+/// Limits that keep reading a file of 64 MiB below 300 MiB of memory.
 namespace kiv::interchange::limits {
 
 /// Characters of an entry or a directive with all its lines. A short line counts as
@@ -15,9 +15,9 @@ inline constexpr qsizetype tableTextMax = qsizetype{16} * 1024 * 1024;
 inline constexpr qsizetype cellTextMin = 16;
 /// Characters of the descriptions of all transactions.
 inline constexpr qsizetype descriptionsMax = qsizetype{8} * 1024 * 1024;
-/// Characters of the paths of all accounts and of those above them.
+/// Characters of the paths of all accounts, parents included.
 inline constexpr qsizetype accountPathsMax = qsizetype{4} * 1024 * 1024;
-/// Accounts with those above them, and declarations of accounts.
+/// Accounts, parents included; and declarations of accounts.
 inline constexpr qsizetype accountsMax = 30'000;
 /// Aliases, each time that one is declared.
 inline constexpr std::size_t aliasesMax = 10'000;

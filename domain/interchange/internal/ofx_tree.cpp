@@ -21,9 +21,8 @@ constexpr std::size_t depthMax = 32;
 /// A transaction has about ten.
 constexpr qsizetype elementsMax = 16 * transactionsMax;
 
-/// The characters that entities stand for, by their names or numbers ("&#252;",
-/// "&#xFC;"). What begins with an ampersand and is none is left as it is, since banks
-/// write names so; and so is what would be a control character.
+/// Replaces entities, by name or number ("&#252;", "&#xFC;"). Other texts after an
+/// ampersand stay, since banks write names that way; so do entities of control characters.
 QString withoutEntities(const QString &text)
 {
     static const QRegularExpression form(
@@ -49,8 +48,8 @@ QString withoutEntities(const QString &text)
     return plain.simplified();
 }
 
-/// The tags of a transaction that hold a value. Without one they look like the
-/// beginning of something that holds further tags.
+/// Tags of a transaction that hold a value. An empty one looks like the start of a tag that
+/// holds others.
 bool isValueTag(const QString &tag)
 {
     static const QStringList tags{
@@ -122,8 +121,7 @@ private:
             throw faults::outsideDocument(m_place);
     }
 
-    /// Passes over a comment, or takes a section of plain characters for a
-    /// value. Tells whether one of them stood there.
+    /// Skips a comment, or takes a CDATA section as a value. Returns whether there was one.
     bool takeSection()
     {
         const QStringView rest = QStringView(m_text).mid(m_at);
@@ -157,7 +155,7 @@ private:
             return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') ||
                    (c >= u'0' && c <= u'9') || c == u'.' || c == u'_';
         };
-        if (isComment ? name.contains(u'<') // its own end is missing
+        if (isComment ? name.contains(u'<') // its > is missing
                       : name.isEmpty() || !std::ranges::all_of(name, isName))
             throw faults::brokenTag(m_place);
         const QString tag = name.toString().toUpper();
@@ -216,7 +214,7 @@ private:
     /// The <OFX> at least is open.
     void close(const QString &tag)
     {
-        // A tag before it that holds nothing is a value that is empty.
+        // A tag before it without content is an empty value.
         while (!m_isXml && m_open.back().tag != tag && !m_open.back().holdsElements &&
                m_open.size() > 1)
             finish();
@@ -226,7 +224,7 @@ private:
         finish();
     }
 
-    /// SGML leaves the end of a value out, XML does not.
+    /// In SGML, values need no closing tag; in XML they do.
     void finishUnclosed()
     {
         if (m_isXml)

@@ -15,7 +15,7 @@ struct OfxElement {
     Place place;
     QString value = {};
     std::vector<OfxElement> children = {};
-    bool holdsElements = false; ///< also such as are not kept
+    bool holdsElements = false; ///< also elements that were left out
 
     /// The first child with this tag; null when there is none.
     [[nodiscard]] const OfxElement *child(const char *name) const;
@@ -23,9 +23,9 @@ struct OfxElement {
     [[nodiscard]] QString text(const char *name) const;
 };
 
-/// Reads the document's elements, but for values that say nothing of statements. Throws
-/// ImportError for a tag that is broken, not closed, or closed where another one is open,
-/// for a value that stands twice in one element, and for what stands around the document.
+/// Reads the document's elements; values that no statement needs are left out. Throws
+/// ImportError for a tag that is broken, never closed or closed in the wrong place, for a
+/// value that appears twice in one element, and for text outside the document.
 [[nodiscard]] OfxElement readOfxTree(const QString &text, const QString &file);
 
 } // namespace kiv::interchange::internal

@@ -114,7 +114,7 @@ QString QuantityReader::declare(QStringView sample, const Place &place)
     std::optional<QChar> mark;
     if (points + commas > 1 && (points == 0 || commas == 0)) // groups alone
         mark = points > 0 ? u',' : u'.';
-    // "1,000" does not say which of the two its comma is.
+    // The comma of "1,000" may group or be the decimal mark.
     else if (last >= 0 && number.count(number[last]) == 1 &&
              (number.size() - last != 4 || points > 0))
         mark = number[last];

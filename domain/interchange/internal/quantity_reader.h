@@ -9,11 +9,11 @@ namespace kiv::interchange::internal {
 /// As sentences show it: "1.5 USD".
 [[nodiscard]] QString presentationText(const Quantity &quantity);
 
-/// What directives say of the amounts behind them.
+/// How directives set the form of amounts after them.
 struct AmountSettings {
     std::optional<DecimalMark> mark = {};
     QString commodity = {};  ///< of amounts without one
-    bool usesDefault = true; ///< whether such get one; multipliers do not
+    bool usesDefault = true; ///< whether amounts without one get it; multipliers do not
 };
 
 /// Reads amounts and remembers how the journal writes its commodities.
@@ -46,7 +46,7 @@ private:
     std::set<QString> m_withComma; ///< commodities whose amounts had a decimal comma
 };
 
-/// Moves behind the blanks.
+/// Skips blanks at the beginning.
 void skipBlanks(QStringView &rest);
 
 } // namespace kiv::interchange::internal

@@ -39,7 +39,7 @@ std::optional<Mismatch> mismatchIn(std::ranges::input_range auto &&steps)
     return std::nullopt;
 }
 
-/// That of the order which holds for longer.
+/// The mismatch in the order that fits for longer.
 std::optional<Mismatch> mismatchOf(const std::vector<BalanceStep> &steps)
 {
     const auto down = mismatchIn(steps);

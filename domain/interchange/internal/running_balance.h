@@ -10,16 +10,16 @@
 
 namespace kiv::interchange::internal {
 
-/// What a statement's entry says of the account's balance.
+/// What an entry tells about the account's balance.
 struct BalanceStep {
     Place place;
-    std::optional<numira::Money> amount;  ///< nothing where the bank may still change it
-    std::optional<numira::Money> balance; ///< after it, where it is told
+    std::optional<numira::Money> amount;  ///< empty while the bank may still change it
+    std::optional<numira::Money> balance; ///< after the entry, if the file has it
 };
 
-/// Refuses entries of which one's balance is not the former one with the amounts added
-/// since then, neither from the first to the last nor from the last to the first. It
-/// may be what is owed, from which the amounts are taken.
+/// Refuses a balance that is not the one before plus the amounts since, read neither from
+/// first to last nor from last to first. With `mayBeOwed`, balances of what is owed fit
+/// too: amounts lower them.
 void requireRunningBalance(std::vector<BalanceStep> steps, bool mayBeOwed);
 
 } // namespace kiv::interchange::internal

@@ -3,9 +3,9 @@
 
 #include <QtCore/QStringList>
 
-/// The words of English, German and Spanish by which banks' tables are understood.
-/// Headings stand in the form of `plainHeading`: in lower case, without marks; what
-/// stands in cells is compared in any case.
+/// English, German and Spanish words in banks' tables. Headings are written as
+/// `plainHeading` returns them: in lower case, without marks. Words in cells are compared
+/// ignoring case.
 namespace kiv::interchange::internal::words {
 
 inline QStringList listed(const QString &words)
@@ -17,7 +17,7 @@ inline const QStringList date =
     listed(QStringLiteral("date|booking date|transaction date|posting date|buchungstag|"
                           "buchungsdatum|datum|fecha|fecha operacion|fecha de operacion"));
 inline const QStringList amount = listed(QStringLiteral("amount|betrag|umsatz|importe|cantidad"));
-/// The two columns of some; a bank's debit lessens what the customer has.
+/// Some tables have two columns. A bank's debit is money that leaves the account.
 inline const QStringList out =
     listed(QStringLiteral("debit|debit amount|withdrawal|withdrawals|money out|paid out|soll|"
                           "belastung|lastschrift|cargo|cargos|debe"));
@@ -27,27 +27,27 @@ inline const QStringList in =
 inline const QStringList text =
     listed(QStringLiteral("description|memo|payee|details|verwendungszweck|buchungstext|text|"
                           "concepto|descripcion"));
-/// A reference is often the payer's own, the same each month, and so not among them.
+/// "Reference" is missing on purpose: it is often the payer's own and the same each month.
 inline const QStringList id = listed(QStringLiteral("fitid|transaction id"));
 inline const QStringList currency =
     listed(QStringLiteral("currency|wahrung|waehrung|moneda|divisa"));
 
-/// In a column that tells which way an amount without a sign went.
+/// In a column that tells the direction of an amount without a sign.
 inline const QStringList wentOut =
     listed(QStringLiteral("S|SOLL|D|DR|DEB|DEBIT|DBIT|WITHDRAWAL|OUT|BELASTUNG|LASTSCHRIFT|"
                           "AUSGANG|DEBE|CARGO|-"));
 inline const QStringList cameIn =
     listed(QStringLiteral("H|HABEN|C|CR|CRE|CREDIT|CRDT|DEPOSIT|IN|GUTSCHRIFT|EINGANG|HABER|"
                           "ABONO|+"));
-/// Where the bank tells how far an entry has come.
+/// The column that tells whether the bank has booked an entry.
 inline const QStringList status =
     listed(QStringLiteral("status|state|booking status|posting status|transaction status|"
                           "buchungsstatus|umsatzstatus|info|estado"));
-/// What the account holds after an entry.
+/// The account's balance after an entry.
 inline const QStringList balance =
     listed(QStringLiteral("balance|running balance|account balance|saldo|kontostand|"
                           "saldo nach buchung"));
-/// While the bank has not booked an entry, and may still change it.
+/// Status of an entry that the bank has not booked and may still change.
 inline const QStringList pending = listed(QStringLiteral("PENDING|VORGEMERKT|PENDIENTE"));
 
 } // namespace kiv::interchange::internal::words
