@@ -2502,10 +2502,6 @@
         <translation>kiv transactions zählt auf, welche es gibt</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos;; --save-profile saves one.</source>
-        <translation>Es gibt kein Profil „%1“; --save-profile speichert eines.</translation>
-    </message>
-    <message>
         <source>There is no profile &apos;%1&apos; among: %2.</source>
         <translation>Es gibt kein Profil „%1“ unter: %2.</translation>
     </message>
@@ -4247,6 +4243,14 @@
     <message>
         <source>The import profile has a wrong value for &apos;%1&apos;.</source>
         <translation>Das Importprofil hat einen falschen Wert für „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;</source>
+        <translation>Es gibt kein Profil „%1“</translation>
+    </message>
+    <message>
+        <source>--save-profile saves one</source>
+        <translation>--save-profile speichert eines</translation>
     </message>
     <message>
         <source>The provided item type does not match the item&apos;s type.</source>

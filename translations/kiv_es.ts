@@ -2502,10 +2502,6 @@
         <translation>kiv transactions enumera los que hay</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos;; --save-profile saves one.</source>
-        <translation>No hay ningún perfil «%1»; --save-profile guarda uno.</translation>
-    </message>
-    <message>
         <source>There is no profile &apos;%1&apos; among: %2.</source>
         <translation>No hay ningún perfil «%1» entre: %2.</translation>
     </message>
@@ -4247,6 +4243,14 @@
     <message>
         <source>The import profile has a wrong value for &apos;%1&apos;.</source>
         <translation>El perfil de importación tiene un valor incorrecto para «%1».</translation>
+    </message>
+    <message>
+        <source>There is no profile &apos;%1&apos;</source>
+        <translation>No hay ningún perfil «%1»</translation>
+    </message>
+    <message>
+        <source>--save-profile saves one</source>
+        <translation>--save-profile guarda uno</translation>
     </message>
     <message>
         <source>The provided item type does not match the item&apos;s type.</source>

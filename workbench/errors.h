@@ -31,6 +31,7 @@ enum class Remedy : std::uint8_t {
     AttachBankAccount = 7, ///< let a bank keep the account
     ChooseKind = 8,        ///< among the kinds in Refusal::subject
     SaveElsewhere = 9,     ///< save under another name
+    SaveProfile = 10,      ///< save the way of reading a file as a profile
 };
 
 /// The request is understood, and refused.

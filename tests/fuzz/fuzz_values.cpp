@@ -2,11 +2,9 @@
 //
 // Bytes as each kind of value that a user types: refused with an error for the
 // user, or read; an amount and a date are written again as the same.
-#include "apps/kiv/parsing/values.h"
 #include "foundation/error.h"
 #include "numira/library.h"
-
-#include <CLI/CLI.hpp>
+#include "workbench/entry/values.h"
 
 #include <cstdlib>
 #include <sstream>
@@ -16,20 +14,19 @@ using namespace kiv;
 namespace {
 
 template <typename T>
-std::optional<T> read(const std::string &text)
+std::optional<T> read(const QString &text)
 {
     try {
         T value{};
-        app::readValue(text, value);
+        workbench::readValue(text, value);
         return value;
     } catch (const foundation::Error &) {
-    } catch (const CLI::Error &) {
     }
     return std::nullopt;
 }
 
 template <typename... T>
-void readEach(const std::string &text)
+void readEach(const QString &text)
 {
     (void)(read<T>(text), ...);
 }
@@ -44,17 +41,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return true;
     }();
     (void)isSetUp;
-    const std::string text(reinterpret_cast<const char *>(data), size);
-    readEach<QString, app::NewName, numira::Currency, budgeting::EventFrequency,
+    const QString text =
+        QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    readEach<QString, workbench::NewName, numira::Currency, budgeting::EventFrequency,
              accounting::AccountTypes, banking::BankAccountTypes, budgeting::BudgetItemTypes,
              accounting::AccountNumber, accounting::TransactionNumber, std::chrono::days,
              std::chrono::hours, foundation::Percentage>(text);
-    if (const auto amount = read<app::Amount>(text)) {
+    if (const auto amount = read<workbench::Amount>(text)) {
         if (numira::Decimal::fromText(amount->number.toText()) != amount->number)
             std::abort();
     }
     if (const auto date = read<QDate>(text)) {
-        if (read<QDate>(date->toString(Qt::ISODate).toStdString()) != date)
+        if (read<QDate>(date->toString(Qt::ISODate)) != date)
             std::abort();
     }
     return 0;

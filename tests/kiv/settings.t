@@ -121,9 +121,16 @@ never offered:
   --file=household.budget post R > Rent
   --file = nowhere.budget post R >
   --file b >
-  $ kiv completion words --json -- zz
+  $ kiv --json completion bash
+  kiv: '--json' is no option of this command; --help lists those that there are.
+  [2]
   $ echo $(kiv completion words)
   new info save-as undo history check wizard templates accounts ledger account banks bank bank-account bill debt goal nontrack wage due post pay skip transactions transaction transfer refundable refund survey reconciliation dashboard configure tags rates updates release-notes import export report shell watch tour completion
+
+A rates file that cannot be read gets another name, which is told:
+
+  $ mkdir -p data/kiv/kiv && echo damaged >data/kiv/kiv/rates
+  $ kiv new other
 
 Settings are kept. What is preferred is usable, unless the usable ones are given:
 

@@ -83,7 +83,11 @@ void Document::store(Slot slot, const Values &...values)
     (void)navigator();
     const int before = m_storage->timesStored();
     try {
-        (void)m_requests.ask(&Navigator::savedBudgetFile, slot, values...);
+        // What is logged meanwhile is news: no answer tells that a file got another name.
+        const auto answers = m_requests.gather(&Navigator::savedBudgetFile,
+                                               [&] { std::invoke(slot, navigator(), values...); });
+        if (answers.size() != 1)
+            throw std::logic_error("A save was not answered once.");
     } catch (const storage::StorageError &error) {
         if (m_storage->timesStored() == before)
             throw;

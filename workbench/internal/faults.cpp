@@ -7,10 +7,18 @@
 
 namespace kiv::workbench::internal {
 
-EntryError notUtf8()
+using interchange::ImportError;
+using interchange::Place;
+using interchange::faults::includeRefused;
+
+namespace {
+
+QString withReason(const QString &sentence, const QString &reason)
 {
-    return EntryError(QObject::tr("A value on the command line is not valid UTF-8."));
+    return reason.isEmpty() ? sentence : sentence + u' ' + reason;
 }
+
+} // namespace
 
 EntryError emptyName()
 {
@@ -92,6 +100,14 @@ Refusal noSuchItem(const QString &name, const QStringList &similar)
                   Remedy::ListItems);
 }
 
+Refusal shadowedItem(budgeting::BudgetItemTypes kind, budgeting::BudgetItemTypes firstKind,
+                     const QString &name)
+{
+    return Refusal(QObject::tr("The %1 '%3' cannot be processed while there is a %2 of the same "
+                               "name; rename one of them.")
+                       .arg(kindText(kind), kindText(firstKind), name));
+}
+
 Refusal ambiguousItem(const QString &name, const QStringList &kinds)
 {
     return Refusal(QObject::tr("Several budget items are named '%1'").arg(name), Remedy::ChooseKind,
@@ -115,8 +131,7 @@ Refusal noSuchVersion(const QString &number, qsizetype count)
 
 Refusal versionDamaged(const QString &path, const QString &reason)
 {
-    const QString sentence = QObject::tr("The version in '%1' is not whole.").arg(path);
-    return Refusal(reason.isEmpty() ? sentence : sentence + u' ' + reason);
+    return Refusal(withReason(QObject::tr("The version in '%1' is not whole.").arg(path), reason));
 }
 
 Refusal fileExists(const QString &path)
@@ -128,6 +143,62 @@ Refusal unsavedChanges(const QString &path)
 {
     return Refusal(QObject::tr("The changes of '%1' could not be saved").arg(path),
                    Remedy::SaveElsewhere);
+}
+
+Refusal starterFailed(const QString &reason)
+{
+    return Refusal(withReason(QObject::tr("The budget could not be made."), reason));
+}
+
+Refusal cannotRead(const QString &path, const QString &reason)
+{
+    return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));
+}
+
+Refusal cannotWrite(const QString &path, const QString &reason)
+{
+    return Refusal(QObject::tr("Cannot write '%1': %2.").arg(path, reason));
+}
+
+Refusal fileTooLarge(const QString &path, qsizetype line)
+{
+    return cannotRead(path, QObject::tr("it is larger than 64 MiB, which line %1 exceeds; split it "
+                                        "into smaller files")
+                                .arg(line));
+}
+
+EntryError notAProfileName(const QString &name)
+{
+    return EntryError(
+        QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
+}
+
+Refusal noSuchProfile(const QString &name, const QStringList &present)
+{
+    if (present.isEmpty())
+        return missed(QObject::tr("There is no profile '%1'").arg(name), {}, Remedy::SaveProfile);
+    return Refusal(QObject::tr("There is no profile '%1' among: %2.")
+                       .arg(name, present.join(QStringLiteral(", "))));
+}
+
+ImportError includesPattern(const Place &place, const QString &path)
+{
+    return includeRefused(place, path, QObject::tr("patterns are not followed; name each file"));
+}
+
+ImportError includesNoFile(const Place &place, const QString &path)
+{
+    return includeRefused(place, path, QObject::tr("there is no such file"));
+}
+
+ImportError includesOutside(const Place &place, const QString &path)
+{
+    return includeRefused(place, path, QObject::tr("it is outside of the journal's own folder"));
+}
+
+ImportError includesTooMuch(const Place &place, const QString &path)
+{
+    return includeRefused(place, path, QObject::tr("all files together are too large"));
 }
 
 } // namespace kiv::workbench::internal

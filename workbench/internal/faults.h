@@ -4,13 +4,13 @@
 #include "workbench/errors.h"
 
 #include "budgeting/identifiers.h"
+#include "interchange/errors.h"
 
 /// The sentences with which the workbench refuses, one function for each.
 namespace kiv::workbench::internal {
 
 // ---- what a person types ----------------------------------------------------
 
-[[nodiscard]] EntryError notUtf8();
 [[nodiscard]] EntryError emptyName();
 [[nodiscard]] EntryError notADate(const QString &text);
 [[nodiscard]] EntryError notAnAmount(const QString &text);
@@ -29,6 +29,9 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal notABankAccount(const QString &account);
 [[nodiscard]] Refusal noSuchItem(budgeting::BudgetItemTypes kind, const QString &name,
                                  const QStringList &similar);
+/// An item of the kind `firstKind` has the same name.
+[[nodiscard]] Refusal shadowedItem(budgeting::BudgetItemTypes kind,
+                                   budgeting::BudgetItemTypes firstKind, const QString &name);
 /// Of no kind at all.
 [[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
@@ -40,5 +43,26 @@ namespace kiv::workbench::internal {
 
 [[nodiscard]] Refusal fileExists(const QString &path);
 [[nodiscard]] Refusal unsavedChanges(const QString &path);
+/// With the reason, if one is known.
+[[nodiscard]] Refusal starterFailed(const QString &reason);
+
+[[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
+[[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
+/// `line` is the one that exceeds the limit.
+[[nodiscard]] Refusal fileTooLarge(const QString &path, qsizetype line);
+
+// ---- imports -------------------------------------------------------------------
+
+[[nodiscard]] EntryError notAProfileName(const QString &name);
+/// `present` are the names of all profiles.
+[[nodiscard]] Refusal noSuchProfile(const QString &name, const QStringList &present);
+[[nodiscard]] interchange::ImportError includesPattern(const interchange::Place &place,
+                                                       const QString &path);
+[[nodiscard]] interchange::ImportError includesNoFile(const interchange::Place &place,
+                                                      const QString &path);
+[[nodiscard]] interchange::ImportError includesOutside(const interchange::Place &place,
+                                                       const QString &path);
+[[nodiscard]] interchange::ImportError includesTooMuch(const interchange::Place &place,
+                                                       const QString &path);
 
 } // namespace kiv::workbench::internal

@@ -26,7 +26,7 @@ Assignment readAssignment(const QString &text)
     if (at < 1)
         throw notAnAssignment(text);
     Assignment read{text.first(at), {}};
-    readValue(text.sliced(at + 1).toStdString(), read.amount);
+    readValue(text.sliced(at + 1), read.amount);
     return read;
 }
 

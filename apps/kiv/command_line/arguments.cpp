@@ -3,6 +3,8 @@
 
 #include "messages/errors.h"
 
+#include <QtCore/QStringDecoder>
+
 #include <CLI/CLI.hpp>
 
 #include <array>
@@ -58,6 +60,8 @@ void ArgumentRules::check(const CLI::App &command) const
         if (isGiven(&command, name) && !isGiven(&command, base))
             throw onlyWith(shown(name), shown(base));
     }
+    if (!takesJson && isGiven(&command, "--json"))
+        throw noSuchOption(QStringLiteral("--json"), {});
 }
 
 QString placeholder(const char *word)
@@ -65,6 +69,15 @@ QString placeholder(const char *word)
     const bool isKnown =
         std::ranges::find(placeholders, std::string_view(word)) != placeholders.end();
     return isKnown ? QObject::tr(word) : QString::fromUtf8(word);
+}
+
+QString decoded(const std::string &word)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = decoder(QByteArrayView(word));
+    if (decoder.hasError())
+        throw notUtf8();
+    return text;
 }
 
 Arguments &Arguments::flag(const char *name, bool &value, const QString &help)
@@ -82,6 +95,12 @@ Arguments &Arguments::exclusive(const char *one, const char *other)
 Arguments &Arguments::only(const char *name, const char *base)
 {
     m_rules.dependent.emplace_back(name, base);
+    return *this;
+}
+
+Arguments &Arguments::withoutJson()
+{
+    m_rules.takesJson = false;
     return *this;
 }
 

@@ -23,6 +23,9 @@ using workbench::readValue;
 /// The word in capitals that stands for a value ("AMOUNT"), in the user's language.
 [[nodiscard]] QString placeholder(const char *word);
 
+/// A word of the command line. Throws a UsageError when it is not valid UTF-8.
+[[nodiscard]] QString decoded(const std::string &word);
+
 /// What stands behind an option in the help: the kind of its value.
 constexpr const char *valueWord(const QDate *)
 {
@@ -79,6 +82,7 @@ struct Options {
 struct ArgumentRules {
     std::vector<std::pair<std::string, std::string>> exclusive = {};
     std::vector<std::pair<std::string, std::string>> dependent = {}; ///< each on the second
+    bool takesJson = true;
 
     /// Throws a UsageError for a call of the command that breaks one.
     void check(const CLI::App &command) const;
@@ -126,6 +130,9 @@ public:
     /// The command takes --date, in place of today.
     Arguments &dated(const QString &help);
 
+    /// The command refuses --json: what it prints is for programs already.
+    Arguments &withoutJson();
+
     [[nodiscard]] const ArgumentRules &rules() const { return m_rules; }
 
 private:
@@ -135,14 +142,14 @@ private:
     template <typename T>
     static Reader reader(T &value)
     {
-        return [&value](const std::string &text) { readValue(text, value); };
+        return [&value](const std::string &word) { readValue(decoded(word), value); };
     }
     template <typename T>
     static Reader appender(std::vector<T> &values)
     {
-        return [&values](const std::string &text) {
+        return [&values](const std::string &word) {
             T value{};
-            readValue(text, value);
+            readValue(decoded(word), value);
             values.push_back(std::move(value));
         };
     }

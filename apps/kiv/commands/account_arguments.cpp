@@ -39,27 +39,6 @@ AccountCode CodeChange::to(const AccountIndex &index) const
     return changed;
 }
 
-void openOn(Requests &requests, AccountNumber account, const std::optional<QDate> &date)
-{
-    if (!date)
-        return;
-    const auto ledger = std::get<accounting::LedgerAccount>(requests.ask(
-        &Navigator::showLedger, &Navigator::onSelectedLedger, AccountCode(account, std::nullopt)));
-    if (const auto opening = ledger.openedBy())
-        moveTo(requests, *opening, date);
-}
-
-void moveTo(Requests &requests, accounting::TransactionNumber number,
-            const std::optional<QDate> &date)
-{
-    if (!date)
-        return;
-    const accounting::Transaction posted = requests.transaction(number);
-    const accounting::Transaction moved(*date, posted.debiting(), posted.crediting(),
-                                        posted.amount(), posted.description());
-    requests.change(workbench::transactionOutcome, &Navigator::onUpdatedTransaction, number, moved);
-}
-
 Report accountReport(Requests &requests, AccountNumber number, const QString &sentence)
 {
     const AccountIndex index = requests.accounts();

@@ -80,13 +80,4 @@ struct AccountVerb {
 template <typename Answers, typename Slot>
 AccountVerb(Answers, Slot, QString) -> AccountVerb<Answers>;
 
-/// Moves the transaction that opened the account to another day than today, on
-/// which it was posted.
-void openOn(Requests &requests, accounting::AccountNumber account,
-            const std::optional<QDate> &date);
-
-/// Moves a transaction that was posted today to another day.
-void moveTo(Requests &requests, accounting::TransactionNumber number,
-            const std::optional<QDate> &date);
-
 } // namespace kiv::app

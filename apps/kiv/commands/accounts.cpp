@@ -5,6 +5,8 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/other_day.h"
+
 namespace kiv::app {
 
 using accounting::Account;
@@ -148,7 +150,7 @@ struct AddAccount {
         const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
         requests.change(workbench::accountOutcome, &Navigator::onAddedAct,
                         Account(type, AccountCode(chosen, name.text, under), opening, false));
-        openOn(requests, chosen, call.options.date);
+        workbench::openOn(requests, chosen, call.options.date);
         return accountReport(requests, chosen,
                              QObject::tr("Added the account %1 %2.")
                                  .arg(accounting::presentationText(chosen), name.text));

@@ -6,6 +6,7 @@
 #include "output/json.h"
 
 #include "workbench/document/bank_steps.h"
+#include "workbench/requests/other_day.h"
 
 namespace kiv::app {
 
@@ -143,7 +144,7 @@ struct AddBankAccount {
                             name.text, type, opening);
         const AccountCode added = std::get<AccountCode>(answers.front());
         workbench::attachBankAccount(call.document, keeper.name(), added.number(), type);
-        openOn(requests, added.number(), call.options.date);
+        workbench::openOn(requests, added.number(), call.options.date);
         return accountReport(requests, added.number(),
                              QObject::tr("Added the account %1 at the bank '%2'.")
                                  .arg(accounting::presentationText(added), bank));

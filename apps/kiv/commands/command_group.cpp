@@ -39,7 +39,8 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
     declare(arguments);
     if (kind != CommandKind::Standalone)
         arguments.file();
-    arguments.flag("--json", options.isJson, QObject::tr("Print JSON for programs"));
+    if (arguments.rules().takesJson)
+        arguments.flag("--json", options.isJson, QObject::tr("Print JSON for programs"));
     if (kind == CommandKind::Change)
         arguments.flag("--dry-run", options.isDryRun,
                        QObject::tr("Show what would come of it, save nothing"));

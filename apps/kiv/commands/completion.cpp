@@ -52,12 +52,12 @@ complete -c kiv -n 'not count (__kiv_words) >/dev/null' -F
 struct PrintScript {
     const char *script;
 
-    void declare(Arguments &) {}
+    void declare(Arguments &arguments) { arguments.withoutJson(); }
     Report run(Call &) const { return Report().raw(script); }
 };
 
 struct PrintManual {
-    void declare(Arguments &) {}
+    void declare(Arguments &arguments) { arguments.withoutJson(); }
     Report run(Call &call) const
     {
         return Report().raw(manualOfCommands(*call.program.commandTree()));
@@ -69,8 +69,10 @@ struct CompleteWords {
 
     void declare(Arguments &arguments)
     {
-        arguments.several("WORD", words,
-                          QObject::tr("A word of the line; the last one is being written"));
+        arguments
+            .several("WORD", words,
+                     QObject::tr("A word of the line; the last one is being written"))
+            .withoutJson();
     }
     Report run(Call &call) const
     {

@@ -16,7 +16,7 @@ struct DisplayOption {
     navigation::CurrencyDisplayOptions value = navigation::CurrencyDisplayOptions::IsoCode;
 };
 
-void readValue(const std::string &text, DisplayOption &option)
+void readValue(const QString &text, DisplayOption &option)
 {
     using enum navigation::CurrencyDisplayOptions;
     static const std::vector<std::pair<QString, navigation::CurrencyDisplayOptions>> words{
@@ -25,13 +25,13 @@ void readValue(const std::string &text, DisplayOption &option)
         {QStringLiteral("both"), SymbolAndCode}};
     QStringList choices;
     for (const auto &[word, value] : words) {
-        if (QString::fromStdString(text) == word) {
+        if (text == word) {
             option.value = value;
             return;
         }
         choices += word;
     }
-    throw notAChoice(QString::fromStdString(text), choices);
+    throw notAChoice(text, choices);
 }
 
 ConfigurationData present(Requests &requests)

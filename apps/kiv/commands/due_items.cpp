@@ -5,6 +5,8 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/due_items.h"
+
 #include "foundation/presentation.h"
 
 namespace kiv::app {
@@ -16,33 +18,6 @@ using budgeting::BudgetItemTypes;
 using navigation::Navigator;
 
 namespace {
-
-/// What is due by the user's settings, or within other days of another day.
-std::vector<BudgetItemAmountDue> dueItems(Call &call, std::optional<std::chrono::days> within)
-{
-    auto answer = call.requests.ask(&Navigator::showProcessBudgetItems,
-                                    &Navigator::onPrepareShowProcessBudgetItems);
-    if (!within && !call.options.date)
-        return std::get<std::vector<BudgetItemAmountDue>>(std::move(answer));
-    return budgeting::budgetItemsDue(within.value_or(std::get<std::chrono::days>(answer)),
-                                     BudgetView(call.requests).budget(), call.date());
-}
-
-BudgetItemAmountDue dueOf(const BudgetedMoney &item)
-{
-    return {{budgeting::toBudgetItemTypes(item), item.source(), item.nextOccurOn()}, item.amount()};
-}
-
-/// The Navigator knows the items that it posts and skips by name alone and takes
-/// the first kind that has the name; another kind's item must not be meant then.
-void refuseShadowed(const budgeting::Budget &budget, const BudgetItemDueIdentifier &id)
-{
-    budget.forEach([&id](const BudgetedMoney &item) {
-        const BudgetItemTypes kind = budgeting::toBudgetItemTypes(item);
-        if (kind < id.type && item.source() == id.source)
-            throw shadowedItem(kindText(id.type), kindText(kind), id.source.name());
-    });
-}
 
 /// An item's transaction as JSON, next to the item.
 QJsonObject postedJson(Requests &requests, accounting::TransactionNumber number,
@@ -67,7 +42,7 @@ struct ItemArgument {
     }
     [[nodiscard]] BudgetItemAmountDue due(const BudgetView &view) const
     {
-        return dueOf(view.find(name, kind));
+        return workbench::dueOf(view.find(name, kind));
     }
 };
 
@@ -85,7 +60,8 @@ struct ListDue {
     {
         QJsonArray rows;
         const qint64 today = call.date().toJulianDay();
-        for (const BudgetItemAmountDue &due : dueItems(call, within)) {
+        for (const BudgetItemAmountDue &due :
+             workbench::dueItems(call.requests, within, call.options.date)) {
             QJsonObject row = toJson(due);
             row.insert(QStringLiteral("inDays"), due.id.dueOn.toJulianDay() - today);
             rows.append(row);
@@ -140,7 +116,7 @@ struct PostDue {
         Report report;
         const BudgetView view(requests);
         for (const BudgetItemAmountDue &due : chosen(call, view)) {
-            refuseShadowed(view.budget(), due.id);
+            workbench::refuseShadowed(view.budget(), due.id);
             for (const auto &[id, number] :
                  requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemPosted, due,
                                  code, call.date())) {
@@ -161,11 +137,12 @@ private:
     [[nodiscard]] std::vector<BudgetItemAmountDue> chosen(Call &call, const BudgetView &view) const
     {
         if (isAll) {
-            std::vector<BudgetItemAmountDue> due = dueItems(call, std::chrono::days(0));
+            std::vector<BudgetItemAmountDue> due =
+                workbench::dueItems(call.requests, std::chrono::days(0), call.options.date);
             std::erase_if(due, [this](const auto &one) { return kind && one.id.type != *kind; });
             return due;
         }
-        BudgetItemAmountDue due = dueOf(view.find(*name, kind));
+        BudgetItemAmountDue due = workbench::dueOf(view.find(*name, kind));
         if (amount)
             due.amount = amount->in(due.amount.code());
         return {due};
@@ -211,7 +188,7 @@ struct SkipDue {
     {
         const BudgetView before(call.requests);
         const BudgetItemAmountDue due = item.due(before);
-        refuseShadowed(before.budget(), due.id);
+        workbench::refuseShadowed(before.budget(), due.id);
         call.requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemSkipped, due.id);
         const BudgetView view(call.requests);
         const BudgetedMoney &skipped = view.find(item.name, due.id.type);

@@ -11,17 +11,16 @@ namespace {
 
 enum class ExportFormat { Journal, Csv, Json };
 
-void readValue(const std::string &text, ExportFormat &value)
+void readValue(const QString &text, ExportFormat &value)
 {
     static const std::map<QString, ExportFormat> formats{
         {QStringLiteral("journal"), ExportFormat::Journal},
         {QStringLiteral("csv"), ExportFormat::Csv},
         {QStringLiteral("json"), ExportFormat::Json}};
-    const auto found = formats.find(QString::fromStdString(text));
+    const auto found = formats.find(text);
     if (found == formats.end()) {
         throw notAChoice(
-            QString::fromStdString(text),
-            {QStringLiteral("journal"), QStringLiteral("csv"), QStringLiteral("json")});
+            text, {QStringLiteral("journal"), QStringLiteral("csv"), QStringLiteral("json")});
     }
     value = found->second;
 }

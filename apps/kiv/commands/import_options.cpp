@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/import_options.h"
 
-#include "parsing/json_input.h"
+#include "workbench/statements/import_profiles.h"
+#include "workbench/statements/journal_files.h"
 
-#include "interchange/text_decoding.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QObject>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QSaveFile>
-#include <QtCore/QStandardPaths>
-
-#include <filesystem>
 
 namespace kiv::app {
 
@@ -21,16 +13,6 @@ using interchange::DecimalMark;
 
 namespace {
 
-/// Where profiles are kept; a name that leads elsewhere is none.
-QString profilePath(const QString &name)
-{
-    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_-]{1,64}\\z"));
-    if (!plain.match(name).hasMatch())
-        throw notAProfileName(name);
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-           QStringLiteral("/kiv/import/%1.json").arg(name);
-}
-
 std::pair<QString, QString> assignment(const QString &text)
 {
     const qsizetype at = text.lastIndexOf(u'=');
@@ -38,44 +20,6 @@ std::pair<QString, QString> assignment(const QString &text)
         throw workbench::notAnAssignment(text);
     return {text.left(at), text.mid(at + 1)};
 }
-
-/// Reads what a journal includes: files in its own folder and below it, so that
-/// a journal from elsewhere reaches nothing else.
-class Includes {
-public:
-    explicit Includes(const QString &file)
-        : m_folder(file == u"-" ? QString() : QFileInfo(file).canonicalPath())
-    {
-    }
-
-    QByteArray operator()(const QString &path, const interchange::Place &place)
-    {
-        using interchange::faults::includeRefused;
-        // What includes it may itself stand in a folder below.
-        const QDir near(QFileInfo(place.file).path());
-        const QFileInfo wanted(near.filePath(path));
-        const QString real = wanted.canonicalFilePath();
-        if (real.isEmpty() && (path.contains(u'*') || path.contains(u'?')))
-            throw includeRefused(place, path,
-                                 QObject::tr("patterns are not followed; name each file"));
-        if (m_folder.isEmpty() || real.isEmpty() || !wanted.isFile())
-            throw includeRefused(place, path, QObject::tr("there is no such file"));
-        if (!real.startsWith(m_folder + u'/'))
-            throw includeRefused(place, path,
-                                 QObject::tr("it is outside of the journal's own folder"));
-        QByteArray bytes = readInput(wanted.filePath());
-        m_total += bytes.size();
-        if (m_total > totalMax)
-            throw includeRefused(place, path, QObject::tr("all files together are too large"));
-        return bytes;
-    }
-
-private:
-    static constexpr qint64 totalMax = qint64{64} << 20;
-
-    QString m_folder;
-    qint64 m_total = 0;
-};
 
 } // namespace
 
@@ -128,19 +72,19 @@ void ImportOptions::declare(Arguments &arguments)
 
 ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
 {
-    const ImportFormat form = guessedFormat(bytes);
-    refuseUnused(form);
-    return form;
+    const std::optional<ImportFormat> form = format.isEmpty()
+                                                 ? workbench::guessImportFormat(file, bytes)
+                                                 : workbench::importFormatOf(format);
+    if (!form)
+        throw unknownFormat(file);
+    refuseUnused(*form);
+    return *form;
 }
 
 /// What has no effect is often a mistake in what the file is.
 void ImportOptions::refuseUnused(ImportFormat form) const
 {
     using enum ImportFormat;
-    static const std::map<ImportFormat, QString> names{{Journal, QStringLiteral("journal")},
-                                                       {Csv, QStringLiteral("csv")},
-                                                       {Ofx, QStringLiteral("ofx")},
-                                                       {Qif, QStringLiteral("qif")}};
     struct Use {
         const char *option;
         bool isGiven;
@@ -175,42 +119,10 @@ void ImportOptions::refuseUnused(ImportFormat form) const
           Use{"--no-headings", m_hasNoHeadings, {Csv}},
           Use{"--negate", m_isNegated, {Csv}}}) {
         if (isGiven && !by.contains(form))
-            throw contradiction(QLatin1String(option),
-                                QStringLiteral("--format %1").arg(names.at(form)));
+            throw contradiction(
+                QLatin1String(option),
+                QStringLiteral("--format %1").arg(workbench::importFormatWord(form)));
     }
-}
-
-ImportFormat ImportOptions::guessedFormat(const QByteArray &bytes) const
-{
-    static const std::map<QString, ImportFormat> names{
-        {QStringLiteral("journal"), ImportFormat::Journal},
-        {QStringLiteral("csv"), ImportFormat::Csv},
-        {QStringLiteral("ofx"), ImportFormat::Ofx},
-        {QStringLiteral("qif"), ImportFormat::Qif}};
-    static const std::map<QString, ImportFormat> endings{
-        {QStringLiteral("j"), ImportFormat::Journal},
-        {QStringLiteral("hledger"), ImportFormat::Journal},
-        {QStringLiteral("ledger"), ImportFormat::Journal},
-        {QStringLiteral("dat"), ImportFormat::Journal},
-        {QStringLiteral("tsv"), ImportFormat::Csv},
-        {QStringLiteral("qfx"), ImportFormat::Ofx}};
-    if (const auto named = names.find(format); named != names.end())
-        return named->second;
-    const QString ending = QFileInfo(file).suffix().toLower();
-    if (format.isEmpty()) {
-        for (const auto &table : {names, endings}) {
-            if (const auto found = table.find(ending); found != table.end())
-                return found->second;
-        }
-        const QByteArray head = bytes.left(4096);
-        if (head.contains("<OFX>"))
-            return ImportFormat::Ofx;
-        if (head.trimmed().startsWith("!Type:") || head.trimmed().startsWith("!Account"))
-            return ImportFormat::Qif;
-        throw unknownFormat(file);
-    }
-    throw notAChoice(format, {QStringLiteral("journal"), QStringLiteral("csv"),
-                              QStringLiteral("ofx"), QStringLiteral("qif")});
 }
 
 std::optional<DecimalMark> ImportOptions::decimal() const
@@ -225,16 +137,8 @@ std::optional<DecimalMark> ImportOptions::decimal() const
 CsvProfile ImportOptions::readProfile() const
 {
     CsvProfile read;
-    if (profile) {
-        const QString path = profilePath(*profile);
-        if (!QFileInfo(path).isFile()) {
-            const QStringList present = QFileInfo(path).dir().entryList({QStringLiteral("*.json")},
-                                                                        QDir::Files, QDir::Name);
-            throw noSuchProfile(*profile, QStringList(present).replaceInStrings(
-                                              QStringLiteral(".json"), QString()));
-        }
-        read = interchange::readProfile(readInput(path), path);
-    }
+    if (profile)
+        read = workbench::readSavedProfile(*profile);
     for (const auto &[given, column] : {std::pair(m_date, &read.dateColumn),
                                         {m_amount, &read.amountColumn},
                                         {m_in, &read.inColumn},
@@ -280,23 +184,7 @@ CsvProfile ImportOptions::readProfile() const
 
 std::function<void()> ImportOptions::storedProfile(const CsvProfile &saved) const
 {
-    if (!savedAs)
-        return {};
-    const QString path = profilePath(*savedAs);
-    std::error_code failure;
-    std::filesystem::create_directories(QFileInfo(path).filesystemFilePath().parent_path(),
-                                        failure);
-    if (failure)
-        throw cannotWrite(path, QString::fromStdString(failure.message()));
-    // The new file lies beside the old one, and goes away with this unless it is committed.
-    const auto target = std::make_shared<QSaveFile>(path);
-    if (!target->open(QIODevice::WriteOnly) || target->write(interchange::toJson(saved)) < 0 ||
-        !target->flush())
-        throw cannotWrite(path, target->errorString());
-    return [target, path] {
-        if (!target->commit())
-            throw cannotWrite(path, target->errorString());
-    };
+    return savedAs ? workbench::storedProfile(*savedAs, saved) : std::function<void()>();
 }
 
 interchange::JournalOptions ImportOptions::journal(const numira::Currency &preferred) const
@@ -308,13 +196,13 @@ interchange::JournalOptions ImportOptions::journal(const numira::Currency &prefe
     options.encoding = m_encoding;
     for (const QString &text : m_commodities) {
         const auto [name, code] = assignment(text);
-        readValue(code.toStdString(), options.commodities[name]);
+        readValue(code, options.commodities[name]);
     }
     for (const QString &text : m_roots) {
         const auto [root, type] = assignment(text);
-        readValue(type.toStdString(), options.roots[root.toLower()]);
+        readValue(type, options.roots[root.toLower()]);
     }
-    options.include = Includes(file);
+    options.include = workbench::JournalFiles(file == u"-" ? QString() : file);
     return options;
 }
 

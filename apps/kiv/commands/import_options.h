@@ -3,6 +3,8 @@
 
 #include "commands/command_group.h"
 
+#include "workbench/statements/import_format.h"
+
 #include "interchange/csv_reader.h"
 #include "interchange/journal_reader.h"
 #include "interchange/ofx_reader.h"
@@ -10,7 +12,7 @@
 
 namespace kiv::app {
 
-enum class ImportFormat { Journal, Csv, Ofx, Qif };
+using workbench::ImportFormat;
 
 /// The arguments that say what a file is and how it is to be read.
 struct ImportOptions {
@@ -39,7 +41,6 @@ struct ImportOptions {
     [[nodiscard]] interchange::OfxOptions ofx() const { return {m_encoding, m_statement}; }
 
 private:
-    [[nodiscard]] ImportFormat guessedFormat(const QByteArray &bytes) const;
     void refuseUnused(ImportFormat form) const;
     [[nodiscard]] std::optional<interchange::DecimalMark> decimal() const;
 

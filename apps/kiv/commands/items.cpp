@@ -5,6 +5,8 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/other_day.h"
+
 namespace kiv::app {
 
 using banking::BankAccount;
@@ -142,27 +144,13 @@ struct AddItem {
                             given.named(requests),
                             tagging::BudgetItemTags::ItemTags(id, given.asTags()));
         };
-        if (call.options.date)
-            openingOn(requests, *call.options.date, add);
-        else
-            add();
+        workbench::openNewOn(requests, call.options.date, add);
         return itemReport(
             requests, id,
             QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
     }
 
 private:
-    /// The item's own account is among those that `add` opens.
-    static void openingOn(Requests &requests, const QDate &date, const auto &add)
-    {
-        const AccountIndex before = requests.accounts();
-        add();
-        const AccountIndex after = requests.accounts();
-        for (const accounting::Account &account : after.accounts()) {
-            if (!before.find(account.code().number()))
-                openOn(requests, account.code().number(), date);
-        }
-    }
     static Item blank(const numira::Money &nothing, QDate date)
     {
         const auto monthly = EventFrequency::Monthly;

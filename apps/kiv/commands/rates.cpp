@@ -31,15 +31,14 @@ struct RateArgument {
     numira::FloatingPoint rate;
 };
 
-void readValue(const std::string &text, RateArgument &value)
+void readValue(const QString &text, RateArgument &value)
 {
     static const QRegularExpression form(
         QStringLiteral(R"(\A([A-Za-z]{3})=(\d{1,20}(?:\.\d{1,20})?)\z)"));
-    const QString word = QString::fromStdString(text);
-    const QRegularExpressionMatch match = form.match(word);
+    const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
-        throw notARate(word);
-    workbench::readValue(match.captured(1).toStdString(), value.currency);
+        throw notARate(text);
+    workbench::readValue(match.captured(1), value.currency);
     value.rate = numira::FloatingPoint(match.captured(2).toStdString());
 }
 

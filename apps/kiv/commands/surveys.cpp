@@ -186,7 +186,7 @@ struct RunSurvey {
         }
         dialogue.until(QObject::tr("The statement's balance"), [&](const QString &answer) {
             Amount amount;
-            readValue(answer.toStdString(), amount);
+            readValue(answer, amount);
             form.balance = amount.in(form.balance.code());
         });
         dialogue.each(QObject::tr("Money for an item that is not booked, as ITEM=AMOUNT"),

@@ -7,6 +7,8 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
+#include "workbench/requests/other_day.h"
+
 #include "interchange/duplicates.h"
 
 namespace kiv::app {
@@ -243,7 +245,7 @@ struct Transfer {
             workbench::transactionOutcome, &Navigator::onTransferRequested, target.code().number(),
             source.number(), amount.in(target.balance().code()), reason);
         const TransactionNumber number = postedNumber(answers);
-        moveTo(requests, number, call.options.date);
+        workbench::moveTo(requests, number, call.options.date);
         return transactionReport(requests, number, QObject::tr("Posted transaction %1."));
     }
 
@@ -275,7 +277,7 @@ struct Refund {
         const auto answers = requests.change(workbench::transactionOutcome,
                                              &Navigator::onPostRefund, number, amount.in(currency));
         const TransactionNumber refund = postedNumber(answers);
-        moveTo(requests, refund, call.options.date);
+        workbench::moveTo(requests, refund, call.options.date);
         return transactionReport(requests, refund,
                                  QObject::tr("Posted the refund as transaction %1."));
     }

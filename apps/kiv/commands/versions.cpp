@@ -18,13 +18,12 @@ struct VersionNumber {
     unsigned value = 0;
 };
 
-void readValue(const std::string &text, VersionNumber &version)
+void readValue(const QString &text, VersionNumber &version)
 {
-    const QString word = QString::fromStdString(text);
     bool isNumber = false;
-    version.value = word.toUInt(&isNumber);
+    version.value = text.toUInt(&isNumber);
     if (!isNumber || version.value > storage::BudgetFile::backupsByDefault)
-        throw workbench::notANumber(word, 0, storage::BudgetFile::backupsByDefault);
+        throw workbench::notANumber(text, 0, storage::BudgetFile::backupsByDefault);
 }
 
 constexpr const char *valueWord(const VersionNumber *)

@@ -4,15 +4,13 @@
 
 #include "output/json.h"
 
-#include "navigation/budget_wizard_templates.h"
-#include "navigation/configuration.h"
+#include "workbench/document/starter_budget.h"
 
 #include <sstream>
 
 namespace kiv::app {
 
 using navigation::BudgetWizardTemplates;
-using navigation::Navigator;
 
 namespace {
 
@@ -34,48 +32,17 @@ struct TemplateArgument {
     BudgetWizardTemplates value = BudgetWizardTemplates::None;
 };
 
-void readValue(const std::string &text, TemplateArgument &argument)
+void readValue(const QString &text, TemplateArgument &argument)
 {
     QStringList choices;
     for (const Template &known : templates) {
-        if (text == known.word) {
+        if (text == QLatin1String(known.word)) {
             argument.value = known.value;
             return;
         }
         choices += QLatin1String(known.word);
     }
-    throw notAChoice(QString::fromStdString(text), choices);
-}
-
-/// What the first-time wizard asks for.
-struct Answers {
-    std::optional<numira::Currency> preferred;
-    QString bank;
-    banking::BankAccountTypes type = banking::BankAccountTypes::Checking;
-    QString account;
-    std::optional<Amount> balance;
-    TemplateArgument household;
-};
-
-/// Fills the budget in memory.
-void fillIn(Requests &requests, const Answers &answers)
-{
-    const auto present = std::get<navigation::ConfigurationData>(
-        requests.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
-    const numira::Currency preferred = answers.preferred.value_or(present.preferredCurrency);
-    std::set<numira::Currency> usable = present.usableCurrencies;
-    usable.insert(preferred);
-    const numira::Money balance =
-        answers.balance ? answers.balance->in(preferred) : numira::Money(preferred);
-    const auto run = [&] {
-        requests.navigator().onCompletedNewBudgetFirstTimeWizard(
-            preferred, usable, present.currenciesDisplayAs, banking::BankName(answers.bank),
-            answers.type, answers.account, balance, answers.household.value);
-    };
-    const std::optional<navigation::Failure> failure = requests.failureOf(run);
-    // It answers a failure with an empty budget, and success has made the bank.
-    if (requests.banks().isEmpty())
-        throw wizardFailed(failure ? workbench::userText(*failure) : QString());
+    throw notAChoice(text, choices);
 }
 
 QJsonArray itemsJson(Requests &requests)
@@ -101,15 +68,15 @@ struct Wizard {
     QString file;
     NewName bank;
     NewName account;
-    Answers answers;
+    TemplateArgument household;
+    workbench::StarterAnswers answers = {};
 
     void declare(Arguments &arguments)
     {
         arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
             .file()
             .exclusive("FILE", "--file")
-            .optional("--template", answers.household,
-                      QObject::tr("The household; see templates list"))
+            .optional("--template", household, QObject::tr("The household; see templates list"))
             .optional("--currency", answers.preferred,
                       QObject::tr("Its currency, preferred from now on"))
             .required("--bank", bank, QObject::tr("The household's bank"))
@@ -121,13 +88,14 @@ struct Wizard {
     }
     Report run(Call &call) const
     {
-        Answers given = answers;
+        workbench::StarterAnswers given = answers;
         given.bank = bank.text;
         given.account = account.text;
+        given.household = household.value;
         call.document.refuseUnsaved();
         const QString path = call.fileToMake(file);
         Document::refuseExisting(path);
-        fillIn(call.requests, given);
+        workbench::fillIn(call.requests, given);
         call.document.create(path);
         Report report = itemsReport(itemsJson(call.requests));
         return report.line(QObject::tr("Made the budget '%1'.").arg(call.document.file()));
@@ -163,9 +131,9 @@ struct ShowTemplate {
     Report run(Call &call) const
     {
         // On a budget in memory that is never saved; a shell's own comes back.
-        fillIn(call.requests,
-               {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
-                QObject::tr("Account"), std::nullopt, household});
+        workbench::fillIn(call.requests,
+                          {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
+                           QObject::tr("Account"), std::nullopt, household.value});
         const QJsonArray rows = itemsJson(call.requests);
         call.document.revert();
         return itemsReport(rows);

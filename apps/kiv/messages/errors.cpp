@@ -45,6 +45,8 @@ QString remedyText(const Refusal &refusal)
         return QObject::tr("choose one with --kind: %1").arg(refusal.subject());
     case SaveElsewhere:
         return QObject::tr("use save-as first");
+    case SaveProfile:
+        return QObject::tr("--save-profile saves one");
     case None:
         break;
     }
@@ -118,10 +120,9 @@ UsageError openQuote()
     return UsageError(QObject::tr("A quote is not closed."));
 }
 
-UsageError notAProfileName(const QString &name)
+UsageError notUtf8()
 {
-    return UsageError(
-        QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
+    return UsageError(QObject::tr("A value on the command line is not valid UTF-8."));
 }
 
 Refusal answersEnded()
@@ -148,22 +149,10 @@ Refusal releasesNotFetched(const QString &reason)
         withReason(QObject::tr("The releases could not be fetched; try again later."), reason));
 }
 
-Refusal wizardFailed(const QString &reason)
-{
-    return Refusal(withReason(QObject::tr("The budget could not be made."), reason));
-}
-
 Refusal noSuchTag(const QString &name, const QStringList &similar)
 {
     return workbench::missed(QObject::tr("There is no tag '%1'").arg(name), similar,
                              workbench::Remedy::ListTags);
-}
-
-Refusal shadowedItem(const QString &kind, const QString &firstKind, const QString &name)
-{
-    return Refusal(QObject::tr("The %1 '%3' cannot be processed while there is a %2 of the same "
-                               "name; rename one of them.")
-                       .arg(kind, firstKind, name));
 }
 
 Refusal noTransferFrom(const QString &account)
@@ -178,15 +167,6 @@ Refusal noTransferTo(const QString &account)
     return Refusal(QObject::tr("Money can be moved into an asset account that a bank keeps and "
                                "that stands under no other, which '%1' is not.")
                        .arg(account));
-}
-
-Refusal noSuchProfile(const QString &name, const QStringList &present)
-{
-    return Refusal(
-        present.isEmpty()
-            ? QObject::tr("There is no profile '%1'; --save-profile saves one.").arg(name)
-            : QObject::tr("There is no profile '%1' among: %2.")
-                  .arg(name, present.join(QStringLiteral(", "))));
 }
 
 UsageError unknownFormat(const QString &file)
@@ -217,16 +197,6 @@ QString withBackups(const QString &sentence, const QString &backup)
 Refusal cannotWriteOutput(const QString &reason)
 {
     return Refusal(QObject::tr("Cannot write the output: %1.").arg(reason));
-}
-
-Refusal cannotWrite(const QString &path, const QString &reason)
-{
-    return Refusal(QObject::tr("Cannot write '%1': %2.").arg(path, reason));
-}
-
-Refusal cannotRead(const QString &path, const QString &reason)
-{
-    return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));
 }
 
 Refusal unreadableInput(const QString &name, const QString &reason)

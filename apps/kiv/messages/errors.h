@@ -35,8 +35,8 @@ public:
 [[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);
 [[nodiscard]] UsageError openQuote();
+[[nodiscard]] UsageError notUtf8();
 [[nodiscard]] UsageError notARate(const QString &text);
-[[nodiscard]] UsageError notAProfileName(const QString &name);
 
 // ---- what the budget does not hold -----------------------------------------
 // `similar` are names that may be meant, see similarTo().
@@ -46,15 +46,10 @@ public:
 /// Each with the reason, if one is known.
 [[nodiscard]] Refusal ratesNotFetched(const QString &reason);
 [[nodiscard]] Refusal releasesNotFetched(const QString &reason);
-[[nodiscard]] Refusal wizardFailed(const QString &reason);
 [[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
-[[nodiscard]] Refusal shadowedItem(const QString &kind, const QString &firstKind,
-                                   const QString &name);
 [[nodiscard]] Refusal noTransferFrom(const QString &account);
 [[nodiscard]] Refusal noTransferTo(const QString &account);
 
-/// Of the saved import profiles.
-[[nodiscard]] Refusal noSuchProfile(const QString &name, const QStringList &present);
 /// Neither the file's name nor its first bytes tell what it is.
 [[nodiscard]] UsageError unknownFormat(const QString &file);
 /// A statement does not say which of the budget's accounts it is about.
@@ -67,8 +62,6 @@ public:
 /// What is said of a damaged file, and what to do with its backups.
 [[nodiscard]] QString withBackups(const QString &sentence, const QString &backup);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
-[[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
-[[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
 /// It was read, and does not say what it should.
 [[nodiscard]] Refusal unreadableInput(const QString &name, const QString &reason);
 

@@ -25,7 +25,7 @@ namespace {
 BudgetItemIdentifier readItem(const BudgetView &view, const QJsonValue &json)
 {
     budgeting::BudgetItemTypes kind{};
-    readValue(json[QLatin1String("kind")].toString().toStdString(), kind);
+    readValue(json[QLatin1String("kind")].toString(), kind);
     return identify(view.find(json[QLatin1String("name")].toString(), kind));
 }
 
@@ -70,14 +70,14 @@ SurveyForm surveyFromJson(Requests &requests, const QJsonObject &json)
         return json.value(QLatin1String(key)).toVariant().toString();
     };
     QDate date;
-    readPlain(text("date").toStdString(), date);
+    readPlain(text("date"), date);
     SurveyForm form = SurveyForm::propose(requests, text("bank"), text("account"), date);
     const numira::Currency currency = form.balance.code();
     form.balance = readMoney(json.value(QLatin1String("balance")), currency);
     form.reconciled.clear();
     for (const QJsonValue number : json.value(QLatin1String("reconciled")).toArray()) {
         TransactionNumber read;
-        readValue(number.toVariant().toString().toStdString(), read);
+        readValue(number.toVariant().toString(), read);
         form.reconciled.insert(read);
     }
     const AccountIndex index = requests.accounts();

@@ -4,6 +4,7 @@
 #include "messages/errors.h"
 
 #include "workbench/entry/values.h"
+#include "workbench/statements/input_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
@@ -22,15 +23,13 @@ using workbench::readPlain;
 
 namespace {
 
-constexpr qint64 bytesMax = qint64{64} << 20;
-
 QDate readDate(const QJsonObject &object, const char *key)
 {
     const QJsonValue value = object.value(QLatin1String(key));
     if (!value.isString())
         throw missing(QStringLiteral("\"%1\"").arg(QLatin1String(key)));
     QDate read;
-    readPlain(value.toString().toStdString(), read);
+    readPlain(value.toString(), read);
     return read;
 }
 
@@ -76,28 +75,11 @@ Transaction readTransaction(const QJsonObject &object, const AccountIndex &index
 
 QByteArray readInput(const QString &path)
 {
-    QFile file(path);
-    const bool isOpen =
-        path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (!isOpen)
-        throw cannotRead(path, file.errorString());
-    // Asked for at once, a huge file or an endless pipe would fill the memory.
-    QByteArray bytes;
-    for (QByteArray part; bytes.size() <= bytesMax; bytes += part) {
-        // A pipe gives what is there, and nothing only at its end.
-        part = file.read(bytesMax + 1 - bytes.size());
-        if (part.isEmpty())
-            break;
-    }
-    if (file.error() != QFileDevice::NoError)
-        throw cannotRead(path, file.errorString());
-    if (bytes.size() > bytesMax) {
-        const qsizetype line = bytes.count('\n') + 1;
-        throw cannotRead(path, QObject::tr("it is larger than 64 MiB, which line %1 exceeds; split "
-                                           "it into smaller files")
-                                   .arg(line));
-    }
-    return bytes;
+    if (path != u"-")
+        return workbench::readFile(path);
+    QFile input;
+    (void)input.open(stdin, QIODevice::ReadOnly); // readWhole refuses what is not open
+    return workbench::readWhole(input, path);
 }
 
 QJsonDocument readJson(const QString &path)
@@ -141,7 +123,7 @@ numira::Money readMoney(const QJsonValue &value, const numira::Currency &otherwi
                value[QLatin1String("currency")].toString();
     }
     workbench::Amount amount;
-    readPlain(text.toStdString(), amount);
+    readPlain(text, amount);
     return amount.in(otherwise);
 }
 

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/export.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace kiv::workbench {
+
+/// The form of a file that is imported.
+enum class ImportFormat {
+    Journal, ///< plain-text accounting
+    Csv,     ///< a bank's table
+    Ofx,     ///< a bank's statement, also as QFX
+    Qif,     ///< a bank's statement
+};
+
+/// "journal", "csv", "ofx" or "qif".
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString importFormatWord(ImportFormat format);
+
+/// Reads such a word. Throws an EntryError for another one.
+[[nodiscard]] KIV_WORKBENCH_EXPORT ImportFormat importFormatOf(const QString &word);
+
+/// The format that the file's extension shows, or else its first bytes. Nothing when
+/// neither does.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<ImportFormat>
+guessImportFormat(const QString &file, const QByteArray &bytes);
+
+} // namespace kiv::workbench
