@@ -36,8 +36,8 @@
         <translation>Das Konto „%1“ braucht eine Nummer über 0.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot have a number that the account &apos;%2&apos; has.</source>
-        <translation>Das Konto „%1“ kann keine Nummer haben, die das Konto „%2“ schon hat.</translation>
+        <source>The account &apos;%1&apos; cannot have the number of the account &apos;%2&apos;.</source>
+        <translation>Das Konto „%1“ kann nicht die Nummer des Kontos „%2“ haben.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; needs a type.</source>
@@ -52,8 +52,8 @@
         <translation>Das Konto „%1“ der Art %2 kann nicht unter dem Konto „%3“ der Art %4 stehen.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;, which is itself or stands below it.</source>
-        <translation>Das Konto „%1“ kann nicht unter dem Konto „%2“ stehen, da dieses es selbst ist oder unter ihm steht.</translation>
+        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;, which is the same account or stands under it.</source>
+        <translation>Das Konto „%1“ kann nicht unter dem Konto „%2“ stehen; dieses ist dasselbe Konto oder steht unter ihm.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;: accounts can be nested at most %3 deep.</source>
@@ -80,7 +80,7 @@
         <translation>Das Konto „%1“ kann nicht entfernt werden, solange es Buchungen hat.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot be removed while the transaction %2, which opened it, is reconciled.</source>
+        <source>The account &apos;%1&apos; cannot be removed while its opening transaction %2 is reconciled.</source>
         <translation>Das Konto „%1“ kann nicht entfernt werden, solange seine Eröffnungsbuchung %2 abgeglichen ist.</translation>
     </message>
     <message>
@@ -92,8 +92,8 @@
         <translation>Das Konto „%1“ kann nicht in %2 geführt werden, da der Betrag seiner Buchung %3 nicht umgerechnet werden kann.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot be kept in %2, in which the %3 of its transaction %4 come to nothing.</source>
-        <translation>Das Konto „%1“ kann nicht in %2 geführt werden, da die %3 seiner Buchung %4 darin null ergeben.</translation>
+        <source>The account &apos;%1&apos; cannot be kept in %2: the %3 of its transaction %4 would round to zero.</source>
+        <translation>Das Konto „%1“ kann nicht in %2 geführt werden: Die %3 seiner Buchung %4 würden auf null gerundet.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; of type %2 cannot hold opening balances.</source>
@@ -132,24 +132,24 @@
         <translation>Der Betrag %1 kann nicht in %2 umgerechnet werden.</translation>
     </message>
     <message>
-        <source>The amount %1 comes to nothing in %2.</source>
-        <translation>Der Betrag %1 ergibt in %2 null.</translation>
+        <source>The amount %1 rounds to zero in %2.</source>
+        <translation>Der Betrag %1 wird in %2 auf null gerundet.</translation>
     </message>
     <message>
         <source>The ledger is full: it holds at most 65,535 transactions.</source>
         <translation>Das Hauptbuch ist voll: Es fasst höchstens 65.535 Buchungen.</translation>
     </message>
     <message>
-        <source>The transaction %1 is reconciled and cannot be changed before it is unreconciled.</source>
-        <translation>Die Buchung %1 ist abgeglichen und kann erst geändert werden, wenn ihr Abgleich aufgehoben ist.</translation>
+        <source>The transaction %1 is reconciled; undo its reconciliation before you change it.</source>
+        <translation>Die Buchung %1 ist abgeglichen; vor einer Änderung ist ihr Abgleich aufzuheben.</translation>
     </message>
     <message>
-        <source>The account %1 has no part in the transaction %2.</source>
+        <source>The account %1 is not part of the transaction %2.</source>
         <translation>Das Konto %1 ist an der Buchung %2 nicht beteiligt.</translation>
     </message>
     <message>
-        <source>The transaction %1 opened the account &apos;%2&apos; and cannot leave it.</source>
-        <translation>Die Buchung %1 hat das Konto „%2“ eröffnet und kann es nicht verlassen.</translation>
+        <source>The transaction %1 opened the account &apos;%2&apos; and must stay in it.</source>
+        <translation>Die Buchung %1 hat das Konto „%2“ eröffnet und muss darin bleiben.</translation>
     </message>
     <message>
         <source>The transaction %1 is a refund of the transaction %2 and cannot be refunded itself.</source>
@@ -180,8 +180,8 @@
         <translation>Eine gespeicherte Buchung hat keine Nummer.</translation>
     </message>
     <message>
-        <source>The transaction number %1 stands for two transactions.</source>
-        <translation>Die Buchungsnummer %1 steht für zwei Buchungen.</translation>
+        <source>Two transactions have the number %1.</source>
+        <translation>Zwei Buchungen haben die Nummer %1.</translation>
     </message>
     <message>
         <source>The transaction %1 cannot have the amount %2 in the account &apos;%3&apos;.</source>
@@ -220,8 +220,8 @@
         <translation>kritisch</translation>
     </message>
     <message>
-        <source>%1 % of the income is planned; %2 % is all there is.</source>
-        <translation>%1 % des Einkommens sind verplant; mehr als %2 % gibt es nicht.</translation>
+        <source>%1 % of the income is planned; at most %2 % is possible.</source>
+        <translation>%1 % des Einkommens sind verplant; höchstens %2 % sind möglich.</translation>
     </message>
     <message>
         <source>Bills and debts take %1 % of the income; up to %2 % is sound.</source>
@@ -244,8 +244,8 @@
         <translation>Es gibt kein Einkommen, das die Ausgaben deckt.</translation>
     </message>
     <message>
-        <source>There is neither income nor spending to judge.</source>
-        <translation>Es gibt weder Einkommen noch Ausgaben zu beurteilen.</translation>
+        <source>There is no income and no spending yet.</source>
+        <translation>Es gibt noch kein Einkommen und keine Ausgaben.</translation>
     </message>
     <message>
         <source>checking</source>
@@ -416,20 +416,20 @@
         <translation>Der Budgetposten „%1“ braucht einen gültigen nächsten Termin.</translation>
     </message>
     <message>
-        <source>The amount of the budget item &apos;%1&apos; cannot be negative, as %2 is.</source>
-        <translation>Der Betrag des Budgetpostens „%1“ darf nicht negativ sein, wie %2 es ist.</translation>
+        <source>The amount of the budget item &apos;%1&apos; cannot be negative, but is %2.</source>
+        <translation>Der Betrag des Budgetpostens „%1“ darf nicht negativ sein, ist aber %2.</translation>
     </message>
     <message>
         <source>The budget item &apos;%1&apos; cannot recur on day %2 of a month.</source>
         <translation>Der Budgetposten „%1“ kann nicht am Tag %2 eines Monats wiederkehren.</translation>
     </message>
     <message>
-        <source>What is not scheduled has no next date to move on to.</source>
-        <translation>Was keinen festen Turnus hat, hat keinen nächsten Termin.</translation>
+        <source>A budget item without a frequency has no next date.</source>
+        <translation>Ein Budgetposten ohne Turnus hat keinen nächsten Termin.</translation>
     </message>
     <message>
-        <source>There is no date after %1 for what recurs %2.</source>
-        <translation>Nach dem %1 gibt es keinen Termin für etwas, das so wiederkehrt: %2.</translation>
+        <source>A budget item with the frequency &apos;%2&apos; has no date after %1.</source>
+        <translation>Ein Budgetposten mit dem Turnus „%2“ hat keinen Termin nach dem %1.</translation>
     </message>
     <message>
         <source>The exchange rate of &apos;%1&apos; must be a positive number between 10^-12 and 10^12.</source>
@@ -440,36 +440,36 @@
         <translation>Der Wechselkurs der Basiswährung „%1“ muss 1 sein.</translation>
     </message>
     <message>
-        <source>Exchange rates must be given for a base currency.</source>
-        <translation>Wechselkurse müssen sich auf eine Basiswährung beziehen.</translation>
+        <source>Exchange rates need a base currency.</source>
+        <translation>Wechselkurse brauchen eine Basiswährung.</translation>
     </message>
     <message>
-        <source>Exchange rates must have the time they were fetched at.</source>
-        <translation>Wechselkurse müssen den Zeitpunkt haben, zu dem sie abgerufen wurden.</translation>
+        <source>Exchange rates need the time when they were fetched.</source>
+        <translation>Wechselkurse brauchen die Zeit, zu der sie abgerufen wurden.</translation>
     </message>
     <message>
         <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;; fetch the rates, or set it by hand.</source>
         <translation>Es gibt keinen Wechselkurs von „%1“ zu „%2“; er ist abzurufen oder von Hand zu setzen.</translation>
     </message>
     <message>
-        <source>The reply&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
-        <translation>Das Element „%1“ der Antwort fehlt oder ergibt keinen Sinn.</translation>
+        <source>The member &apos;%1&apos; of the reply is missing or invalid.</source>
+        <translation>Das Element „%1“ der Antwort fehlt oder ist ungültig.</translation>
     </message>
     <message>
-        <source>The reply names an unknown currency &apos;%1&apos;.</source>
-        <translation>Die Antwort nennt eine unbekannte Währung „%1“.</translation>
+        <source>The reply contains the unknown currency &apos;%1&apos;.</source>
+        <translation>Die Antwort enthält die unbekannte Währung „%1“.</translation>
     </message>
     <message>
         <source>No answer came in time.</source>
         <translation>Es kam nicht rechtzeitig eine Antwort.</translation>
     </message>
     <message>
-        <source>The source of the rates was destroyed before it answered.</source>
+        <source>The source of the rates was closed before it answered.</source>
         <translation>Die Quelle der Kurse wurde geschlossen, bevor sie antwortete.</translation>
     </message>
     <message>
-        <source>There is nothing left to send requests with.</source>
-        <translation>Es ist nichts mehr da, womit Anfragen gesendet werden könnten.</translation>
+        <source>Requests can no longer be sent.</source>
+        <translation>Anfragen können nicht mehr gesendet werden.</translation>
     </message>
     <message>
         <source>The reply has none of the wanted rates.</source>
@@ -825,12 +825,12 @@
         <translation>Datum</translation>
     </message>
     <message>
-        <source>The request manager was destroyed before the answer came.</source>
+        <source>The connection was closed before the answer came.</source>
         <translation>Die Verbindung wurde geschlossen, bevor die Antwort kam.</translation>
     </message>
     <message>
-        <source>There is nothing to send requests with.</source>
-        <translation>Es ist nichts da, womit Anfragen gesendet werden könnten.</translation>
+        <source>Requests cannot be sent.</source>
+        <translation>Anfragen können nicht gesendet werden.</translation>
     </message>
     <message>
         <source>Only HTTPS is allowed, and plain HTTP to the loopback address.</source>
@@ -857,27 +857,27 @@
         <translation>Der Server hat mit dem Status %1 geantwortet.</translation>
     </message>
     <message>
-        <source>The reply is compressed although that was not asked for.</source>
-        <translation>Die Antwort ist komprimiert, obwohl das nicht verlangt war.</translation>
+        <source>The reply is compressed, which was not requested.</source>
+        <translation>Die Antwort ist komprimiert, was nicht verlangt war.</translation>
     </message>
     <message>
         <source>The transfer failed (%1).</source>
         <translation>Die Übertragung ist fehlgeschlagen (%1).</translation>
     </message>
     <message>
-        <source>The reply&apos;s type is &apos;%1&apos; and not JSON.</source>
-        <translation>Die Antwort ist vom Typ „%1“ und nicht JSON.</translation>
+        <source>The reply is not JSON; its type is &apos;%1&apos;.</source>
+        <translation>Die Antwort ist kein JSON, sondern vom Typ „%1“.</translation>
     </message>
     <message>
         <source>The reply is not JSON: %1 at byte %2.</source>
         <translation>Die Antwort ist kein JSON: %1 bei Byte %2.</translation>
     </message>
     <message>
-        <source>The reply names a member twice.</source>
-        <translation>Die Antwort nennt ein Element zweimal.</translation>
+        <source>The reply contains a member twice.</source>
+        <translation>Die Antwort enthält ein Element zweimal.</translation>
     </message>
     <message>
-        <source>Mended while loading: %1</source>
+        <source>Repaired while loading: %1</source>
         <translation>Beim Laden repariert: %1</translation>
     </message>
     <message>
@@ -893,8 +893,8 @@
         <translation>Es wurde keine Datei gewählt.</translation>
     </message>
     <message>
-        <source>No file can have the name &apos;%1&apos;.</source>
-        <translation>Keine Datei kann „%1“ heißen.</translation>
+        <source>&apos;%1&apos; is not a valid file name.</source>
+        <translation>„%1“ ist kein gültiger Dateiname.</translation>
     </message>
     <message>
         <source>There is no file &apos;%1&apos;.</source>
@@ -913,16 +913,16 @@
         <translation>Die Datei „%1“ konnte nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is larger than such a file can be.</source>
-        <translation>Die Datei „%1“ ist größer, als eine solche Datei sein kann.</translation>
+        <source>The file &apos;%1&apos; is too large.</source>
+        <translation>Die Datei „%1“ ist zu groß.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is empty.</source>
         <translation>Die Datei „%1“ ist leer.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not of the kind that is used here.</source>
-        <translation>Die Datei „%1“ ist nicht von der Art, die hier verwendet wird.</translation>
+        <source>The file &apos;%1&apos; was not written by this program.</source>
+        <translation>Die Datei „%1“ stammt nicht von diesem Programm.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; was written by a newer version of this program.</source>
@@ -949,12 +949,12 @@
         <translation>Die Datei „%1“ konnte nicht gespeichert werden: %2.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; could not be saved: what was written reads back otherwise.</source>
-        <translation>Die Datei „%1“ konnte nicht gespeichert werden: Das Geschriebene liest sich anders zurück.</translation>
+        <source>The file &apos;%1&apos; could not be saved: it cannot be read back as it was written.</source>
+        <translation>Die Datei „%1“ konnte nicht gespeichert werden: Sie lässt sich nicht so lesen, wie sie geschrieben wurde.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; was not saved: it cannot hold what it should.</source>
-        <translation>Die Datei „%1“ wurde nicht gespeichert: Sie kann nicht fassen, was sie soll.</translation>
+        <source>The file &apos;%1&apos; was not saved: it cannot hold this budget.</source>
+        <translation>Die Datei „%1“ wurde nicht gespeichert: Sie kann dieses Budget nicht fassen.</translation>
     </message>
     <message>
         <source>process %1, %2 on %3</source>
@@ -985,8 +985,8 @@
         <translation>Die Bank „%1“ hatte das Konto %2, das es nicht mehr gibt.</translation>
     </message>
     <message>
-        <source>An increase or a decrease cannot be negative, as %1 is.</source>
-        <translation>Eine Zunahme oder Abnahme kann nicht negativ sein, wie %1 es ist.</translation>
+        <source>An increase or a decrease cannot be negative, but is %1.</source>
+        <translation>Eine Zunahme oder Abnahme kann nicht negativ sein, ist aber %1.</translation>
     </message>
     <message>
         <source>A survey cannot be completed without a valid date.</source>
@@ -997,8 +997,8 @@
         <translation>„%1“ ist keine Version.</translation>
     </message>
     <message>
-        <source>The release&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
-        <translation>Das Element „%1“ der Veröffentlichung fehlt oder ergibt keinen Sinn.</translation>
+        <source>The member &apos;%1&apos; of the release is missing or invalid.</source>
+        <translation>Das Element „%1“ der Veröffentlichung fehlt oder ist ungültig.</translation>
     </message>
     <message>
         <source>The reply is not a list of releases.</source>
@@ -1673,16 +1673,16 @@
         <translation>Zahlung außerhalb des Budgets laut Abgleich.</translation>
     </message>
     <message>
-        <source>Cannot convert between currencies, because what looked up the exchange rates has been closed.</source>
-        <translation>Zwischen Währungen kann nicht umgerechnet werden, da die Quelle der Wechselkurse geschlossen wurde.</translation>
+        <source>Cannot convert between currencies: the source of the exchange rates is closed.</source>
+        <translation>Zwischen Währungen kann nicht umgerechnet werden: Die Quelle der Wechselkurse ist geschlossen.</translation>
     </message>
     <message>
         <source>The user preferences file, %1, is not writable.</source>
         <translation>Die Datei der Einstellungen, %1, ist nicht beschreibbar.</translation>
     </message>
     <message>
-        <source>A command is missing; --help lists those that there are.</source>
-        <translation>Ein Befehl fehlt; --help zählt auf, welche es gibt.</translation>
+        <source>No command given</source>
+        <translation>Kein Befehl angegeben</translation>
     </message>
     <message>
         <source>closed</source>
@@ -1753,10 +1753,6 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>It keeps no accounts.</source>
-        <translation>Sie führt keine Konten.</translation>
-    </message>
-    <message>
         <source>Added the bank &apos;%1&apos;.</source>
         <translation>Bank „%1“ angelegt.</translation>
     </message>
@@ -1765,16 +1761,16 @@
         <translation>Die Bank heißt jetzt „%1“.</translation>
     </message>
     <message>
-        <source>Added the account %1 at the bank &apos;%2&apos;.</source>
+        <source>Added the account %1 to the bank &apos;%2&apos;.</source>
         <translation>Konto %1 bei der Bank „%2“ angelegt.</translation>
     </message>
     <message>
-        <source>The bank &apos;%1&apos; keeps the account %2 now.</source>
-        <translation>Die Bank „%1“ führt jetzt das Konto %2.</translation>
+        <source>Assigned the account %2 to the bank &apos;%1&apos;.</source>
+        <translation>Konto %2 der Bank „%1“ zugeordnet.</translation>
     </message>
     <message>
-        <source>The bank &apos;%1&apos; no longer keeps the account %2.</source>
-        <translation>Die Bank „%1“ führt das Konto %2 nicht mehr.</translation>
+        <source>Separated the account %2 from the bank &apos;%1&apos;.</source>
+        <translation>Konto %2 von der Bank „%1“ gelöst.</translation>
     </message>
     <message>
         <source>Closed the bank &apos;%1&apos;.</source>
@@ -1797,7 +1793,7 @@
         <translation>Bankkonto %1 entfernt.</translation>
     </message>
     <message>
-        <source>Made the empty budget &apos;%1&apos;.</source>
+        <source>Created the empty budget &apos;%1&apos;.</source>
         <translation>Leeres Budget „%1“ angelegt.</translation>
     </message>
     <message>
@@ -1845,12 +1841,12 @@
         <translation>Nutzbare Währungen</translation>
     </message>
     <message>
-        <source>Currencies are shown by</source>
-        <translation>Währungen zeigen als</translation>
+        <source>Display of currencies</source>
+        <translation>Anzeige von Währungen</translation>
     </message>
     <message>
-        <source>Days in which items count as due</source>
-        <translation>Tage, in denen Posten als fällig gelten</translation>
+        <source>Due items shown ahead, in days</source>
+        <translation>Fällige Posten im Voraus, in Tagen</translation>
     </message>
     <message>
         <source>Survey window</source>
@@ -1944,20 +1940,20 @@
         <translation>Übersprungen: „%2“ (%1), fällig am %3; als Nächstes fällig am %4.</translation>
     </message>
     <message>
-        <source>patterns are not followed; name each file</source>
-        <translation>Mustern wird nicht gefolgt; jede Datei ist zu nennen</translation>
+        <source>patterns are not supported; name each file</source>
+        <translation>Muster werden nicht unterstützt; jede Datei ist einzeln zu nennen</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>es gibt keine solche Datei</translation>
+        <source>the file does not exist</source>
+        <translation>die Datei gibt es nicht</translation>
     </message>
     <message>
-        <source>it is outside of the journal&apos;s own folder</source>
+        <source>it is outside the folder of the journal</source>
         <translation>sie liegt außerhalb des Ordners des Journals</translation>
     </message>
     <message>
-        <source>all files together are too large</source>
-        <translation>alle Dateien zusammen sind zu groß</translation>
+        <source>all files together are larger than 64 MiB</source>
+        <translation>alle Dateien zusammen sind größer als 64 MiB</translation>
     </message>
     <message>
         <source>Entries with amount zero are skipped.</source>
@@ -2036,11 +2032,11 @@
         <translation>Es gibt keine.</translation>
     </message>
     <message>
-        <source>For one %1, as of %2 (no longer current)</source>
+        <source>For 1 %1, as of %2 (out of date)</source>
         <translation>Für 1 %1, Stand %2 (nicht mehr aktuell)</translation>
     </message>
     <message>
-        <source>For one %1, as of %2</source>
+        <source>For 1 %1, as of %2</source>
         <translation>Für 1 %1, Stand %2</translation>
     </message>
     <message>
@@ -2052,16 +2048,16 @@
         <translation>Kurs</translation>
     </message>
     <message>
-        <source>No exchange rates are known.</source>
-        <translation>Es sind keine Wechselkurse bekannt.</translation>
+        <source>There are no exchange rates; use kiv rates fetch or kiv rates set.</source>
+        <translation>Es gibt keine Wechselkurse; abrufen mit kiv rates fetch oder setzen mit kiv rates set.</translation>
     </message>
     <message>
         <source>fetching exchange rates …</source>
         <translation>Wechselkurse werden abgerufen …</translation>
     </message>
     <message>
-        <source>No newer release is announced.</source>
-        <translation>Es ist keine neuere Version angekündigt.</translation>
+        <source>There is no newer release.</source>
+        <translation>Es gibt keine neuere Version.</translation>
     </message>
     <message>
         <source>There is a newer release: %1.</source>
@@ -2100,12 +2096,12 @@
         <translation>Zuletzt abgeglichen am</translation>
     </message>
     <message>
-        <source>Balance then</source>
-        <translation>Damaliger Saldo</translation>
+        <source>Reconciled balance</source>
+        <translation>Abgeglichener Saldo</translation>
     </message>
     <message>
-        <source>Changes counted from</source>
-        <translation>Änderungen gezählt ab</translation>
+        <source>Changes since</source>
+        <translation>Änderungen seit</translation>
     </message>
     <message>
         <source>Expected balance</source>
@@ -2140,8 +2136,8 @@
         <translation>Erwartet</translation>
     </message>
     <message>
-        <source>There is nothing to set aside for.</source>
-        <translation>Es gibt nichts, wofür etwas zurückzulegen wäre.</translation>
+        <source>There are no items to set money aside for.</source>
+        <translation>Es gibt keine Posten, für die zurückgelegt wird.</translation>
     </message>
     <message>
         <source>Not distributed</source>
@@ -2152,24 +2148,28 @@
         <translation>%1 bei %2 mit einem Saldo von %3 abgeglichen.</translation>
     </message>
     <message>
-        <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>
-        <translation>Steht im Kontoauszug %1 %2 „%3“, %4?</translation>
+        <source>Is transaction %1 of %2, &apos;%3&apos;, %4, on the statement?</source>
+        <translation>Steht Buchung %1 vom %2, „%3“, %4, im Kontoauszug?</translation>
     </message>
     <message>
-        <source>The statement&apos;s balance</source>
+        <source>Balance of the statement</source>
         <translation>Saldo des Kontoauszugs</translation>
     </message>
     <message>
-        <source>Money for an item that is not booked, as ITEM=AMOUNT</source>
-        <translation>Nicht gebuchtes Geld für einen Posten, als POSTEN=BETRAG</translation>
+        <source>Unbooked money of an item, as ITEM=AMOUNT</source>
+        <translation>Nicht gebuchtes Geld eines Postens, als POSTEN=BETRAG</translation>
     </message>
     <message>
-        <source>Money for another account, as ACCOUNT=AMOUNT</source>
-        <translation>Geld für ein anderes Konto, als KONTO=BETRAG</translation>
+        <source>Unbooked money of another account, as ACCOUNT=AMOUNT</source>
+        <translation>Nicht gebuchtes Geld eines anderen Kontos, als KONTO=BETRAG</translation>
     </message>
     <message>
-        <source>What is set aside for an item, as ITEM=AMOUNT</source>
-        <translation>Was für einen Posten zurückgelegt wird, als POSTEN=BETRAG</translation>
+        <source>Amount to set aside for an item, as ITEM=AMOUNT</source>
+        <translation>Betrag, der für einen Posten zurückgelegt wird, als POSTEN=BETRAG</translation>
+    </message>
+    <message>
+        <source>(empty to continue)</source>
+        <translation>(leer: weiter)</translation>
     </message>
     <message>
         <source>Complete the survey?</source>
@@ -2190,28 +2190,28 @@
 </translation>
     </message>
     <message>
-        <source>The command ended otherwise than expected.</source>
-        <translation>Der Befehl endete anders als erwartet.</translation>
+        <source>The tour stopped: the last command gave an unexpected exit status.</source>
+        <translation>Der Rundgang endet hier: Der letzte Befehl gab einen unerwarteten Rückgabewert.</translation>
     </message>
     <message>
-        <source>A new budget, kept in US dollars, with a bank and its checking account</source>
-        <translation>Ein neues Budget, geführt in US-Dollar, mit einer Bank und ihrem Girokonto</translation>
+        <source>A new budget in US dollars, with a bank and a checking account</source>
+        <translation>Ein neues Budget in US-Dollar, mit einer Bank und einem Girokonto</translation>
     </message>
     <message>
-        <source>What comes in, and what goes out</source>
-        <translation>Was hereinkommt und was hinausgeht</translation>
+        <source>Wages and bills, with the days when they are due</source>
+        <translation>Löhne und Rechnungen, mit den Tagen, an denen sie fällig sind</translation>
     </message>
     <message>
-        <source>What is due is posted; the studio is closed this month</source>
-        <translation>Was fällig ist, wird gebucht; das Studio hat diesen Monat zu</translation>
+        <source>Due items are posted; the fitness studio is closed this month and is skipped</source>
+        <translation>Fällige Posten werden gebucht; das Fitnessstudio hat diesen Monat zu und wird übersprungen</translation>
     </message>
     <message>
-        <source>No account may bear a budget item&apos;s name: refused, nothing changed</source>
-        <translation>Kein Konto darf wie ein Budgetposten heißen: abgelehnt, nichts geändert</translation>
+        <source>An account cannot have the name of a budget item: kiv refuses and changes nothing</source>
+        <translation>Ein Konto kann nicht wie ein Budgetposten heißen: kiv lehnt ab und ändert nichts</translation>
     </message>
     <message>
-        <source>Every change above was saved at once; here the file is opened again</source>
-        <translation>Jede Änderung oben wurde sofort gespeichert; hier wird die Datei wieder geöffnet</translation>
+        <source>Every change was saved at once; each command opens the file again</source>
+        <translation>Jede Änderung wurde sofort gespeichert; jeder Befehl öffnet die Datei neu</translation>
     </message>
     <message>
         <source>The debits do not equal the credits.</source>
@@ -2259,22 +2259,22 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Took the reconciliation of the transactions %1 back.</source>
+        <source>Undid the reconciliation of the transactions %1.</source>
         <translation>
             <numerusform>Abgleich der Buchung %1 aufgehoben.</numerusform>
             <numerusform>Abgleich der Buchungen %1 aufgehoben.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The budget is again as it was saved at %1.</source>
-        <translation>Das Budget ist wieder so, wie es am %1 gespeichert wurde.</translation>
+        <source>Restored the version saved at %1.</source>
+        <translation>Version vom %1 wiederhergestellt.</translation>
     </message>
     <message>
-        <source>That changes nothing in it.</source>
-        <translation>Das ändert nichts daran.</translation>
+        <source>Both versions are the same.</source>
+        <translation>Beide Versionen sind gleich.</translation>
     </message>
     <message>
-        <source>not whole</source>
+        <source>damaged</source>
         <translation>beschädigt</translation>
     </message>
     <message>
@@ -2286,15 +2286,7 @@
         <translation>Gespeichert am</translation>
     </message>
     <message>
-        <source>They hold the same.</source>
-        <translation>Sie enthalten dasselbe.</translation>
-    </message>
-    <message>
-        <source>It has no budget items.</source>
-        <translation>Es hat keine Budgetposten.</translation>
-    </message>
-    <message>
-        <source>Made the budget &apos;%1&apos;.</source>
+        <source>Created the budget &apos;%1&apos;.</source>
         <translation>Budget „%1“ angelegt.</translation>
     </message>
     <message>
@@ -2322,24 +2314,24 @@
         <translation>Ein Name darf nicht leer sein.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a date; write one like 2026-03-31, with a day that exists.</source>
-        <translation>„%1“ ist kein Datum; richtig ist etwa 2026-03-31, mit einem Tag, den es gibt.</translation>
+        <source>&apos;%1&apos; is not a valid date; write one like 2026-03-31.</source>
+        <translation>„%1“ ist kein gültiges Datum; richtig ist etwa 2026-03-31.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
         <translation>„%1“ ist kein Betrag; richtig ist etwa 1234.50 oder &apos;1234.50 USD&apos;.</translation>
     </message>
     <message>
-        <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
-        <translation>Der Betrag „%1“ ist zu groß, um genau dargestellt zu werden.</translation>
+        <source>The amount &apos;%1&apos; is too large.</source>
+        <translation>Der Betrag „%1“ ist zu groß.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
-        <translation>„%1“ ist kein Betrag in %2, da diese Währung keine Untereinheit hat.</translation>
+        <source>&apos;%1&apos; is not an amount in %2, which has no decimals.</source>
+        <translation>„%1“ ist kein Betrag in %2; diese Währung hat keine Nachkommastellen.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has more digits behind the point than the %2 of %3.</source>
-        <translation>„%1“ hat mehr Nachkommastellen als die %2 von %3.</translation>
+        <source>&apos;%1&apos; has too many decimals; %3 allows %2.</source>
+        <translation>„%1“ hat zu viele Nachkommastellen; %3 erlaubt %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency</source>
@@ -2358,7 +2350,7 @@
         <translation>„%1“ ist kein Prozentsatz; richtig ist etwa 2.75.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is none of: %2</source>
+        <source>&apos;%1&apos; is not one of: %2</source>
         <translation>„%1“ ist keiner von diesen Werten: %2</translation>
     </message>
     <message>
@@ -2366,44 +2358,36 @@
         <translation>%1 fehlt.</translation>
     </message>
     <message>
-        <source>Nothing to change was given; --help lists what can be changed.</source>
-        <translation>Es wurde nichts zum Ändern angegeben; --help zählt auf, was geändert werden kann.</translation>
+        <source>No change given; see --help.</source>
+        <translation>Keine Änderung angegeben; siehe --help.</translation>
     </message>
     <message>
-        <source>Version 0 is the file itself; kiv history lists the former ones.</source>
-        <translation>Die Version 0 ist die Datei selbst; kiv history zählt die früheren auf.</translation>
+        <source>Version 0 is the file itself; see kiv history for older ones.</source>
+        <translation>Version 0 ist die Datei selbst; ältere zeigt kiv history.</translation>
     </message>
     <message>
-        <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
-        <translation>Es wurde keine Budgetdatei genannt; sie wird mit --file oder der Variablen KIV_FILE angegeben oder mit kiv new DATEI angelegt.</translation>
+        <source>No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.</source>
+        <translation>Keine Budgetdatei angegeben; sie wird mit --file oder der Variablen KIV_FILE genannt oder mit kiv new DATEI angelegt.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not of the form NAME=VALUE.</source>
         <translation>„%1“ hat nicht die Form NAME=WERT.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no command</source>
-        <translation>„%1“ ist kein Befehl</translation>
+        <source>There is no command &apos;%1&apos;</source>
+        <translation>Es gibt keinen Befehl „%1“</translation>
     </message>
     <message>
-        <source>kiv --help lists those that there are</source>
-        <translation>kiv --help zählt auf, welche es gibt</translation>
+        <source>There is no option &apos;%1&apos;</source>
+        <translation>Es gibt keine Option „%1“</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no option of this command</source>
-        <translation>„%1“ ist keine Option dieses Befehls</translation>
+        <source>A closing quote is missing.</source>
+        <translation>Ein schließendes Anführungszeichen fehlt.</translation>
     </message>
     <message>
-        <source>--help lists those that there are</source>
-        <translation>--help zählt auf, welche es gibt</translation>
-    </message>
-    <message>
-        <source>A quote is not closed.</source>
-        <translation>Ein Anführungszeichen ist nicht geschlossen.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot name a profile; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
-        <translation>„%1“ kann kein Profil bezeichnen; möglich sind Buchstaben, Ziffern, „-“ und „_“.</translation>
+        <source>&apos;%1&apos; is not a profile name; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
+        <translation>„%1“ ist kein Profilname; möglich sind Buchstaben, Ziffern, „-“ und „_“.</translation>
     </message>
     <message>
         <source>Cannot understand %1: %2.</source>
@@ -2414,47 +2398,39 @@
         <translation>Es gibt kein Konto „%1“</translation>
     </message>
     <message>
-        <source>kiv accounts lists those that there are</source>
-        <translation>kiv accounts zählt auf, welche es gibt</translation>
+        <source>see %1</source>
+        <translation>siehe %1</translation>
     </message>
     <message>
-        <source>Several accounts are named &apos;%1&apos;; give the number of one: %2.</source>
-        <translation>Mehrere Konten heißen „%1“; anzugeben ist die Nummer von einem: %2.</translation>
+        <source>Several accounts are named &apos;%1&apos;; use one of the numbers %2.</source>
+        <translation>Mehrere Konten heißen „%1“; stattdessen eine dieser Nummern angeben: %2.</translation>
     </message>
     <message>
         <source>There is no bank &apos;%1&apos;</source>
         <translation>Es gibt keine Bank „%1“</translation>
     </message>
     <message>
-        <source>kiv banks lists those that there are</source>
-        <translation>kiv banks zählt auf, welche es gibt</translation>
-    </message>
-    <message>
         <source>There is no %1 &apos;%2&apos;</source>
         <translation>„%2“ (%1) gibt es nicht</translation>
-    </message>
-    <message>
-        <source>kiv %1 list shows those that there are</source>
-        <translation>kiv %1 list zeigt, was es gibt</translation>
     </message>
     <message>
         <source>There is no budget item &apos;%1&apos;</source>
         <translation>Es gibt keinen Budgetposten „%1“</translation>
     </message>
     <message>
-        <source>kiv bill list and the like show those that there are</source>
-        <translation>kiv bill list und dergleichen zeigen, was es gibt</translation>
+        <source>see kiv bill list (or debt, goal, nontrack, wage)</source>
+        <translation>siehe kiv bill list (oder debt, goal, nontrack, wage)</translation>
     </message>
     <message>
-        <source>The answers ended before the questions.</source>
-        <translation>Die Antworten endeten vor den Fragen.</translation>
+        <source>The input ended before the last question; nothing is saved.</source>
+        <translation>Die Eingabe endete vor der letzten Frage; nichts ist gespeichert.</translation>
     </message>
     <message>
-        <source>The survey was not completed.</source>
-        <translation>Der Abgleich wurde nicht abgeschlossen.</translation>
+        <source>The survey was not completed; nothing is saved.</source>
+        <translation>Der Abgleich wurde nicht abgeschlossen; nichts ist gespeichert.</translation>
     </message>
     <message>
-        <source>The budget could not be made.</source>
+        <source>The budget could not be created.</source>
         <translation>Das Budget konnte nicht angelegt werden.</translation>
     </message>
     <message>
@@ -2462,23 +2438,15 @@
         <translation>Es gibt kein Schlagwort „%1“</translation>
     </message>
     <message>
-        <source>kiv tags list shows those that there are</source>
-        <translation>kiv tags list zeigt, welche es gibt</translation>
+        <source>There is no version %1</source>
+        <translation>Es gibt keine Version %1</translation>
     </message>
     <message>
-        <source>There is no former version %1</source>
-        <translation>Es gibt keine frühere Version %1</translation>
+        <source>this budget has no older versions</source>
+        <translation>dieses Budget hat keine älteren Versionen</translation>
     </message>
     <message>
-        <source>none was kept of this budget</source>
-        <translation>von diesem Budget wurde keine aufbewahrt</translation>
-    </message>
-    <message>
-        <source>kiv history lists those that are kept</source>
-        <translation>kiv history zählt die aufbewahrten auf</translation>
-    </message>
-    <message>
-        <source>The version in &apos;%1&apos; is not whole.</source>
+        <source>The version in &apos;%1&apos; is damaged.</source>
         <translation>Die Version in „%1“ ist beschädigt.</translation>
     </message>
     <message>
@@ -2486,28 +2454,28 @@
         <translation>„%3“ (%1) kann nicht verarbeitet werden, solange es einen gleichnamigen Posten der Art %2 gibt; einer von beiden ist umzubenennen.</translation>
     </message>
     <message>
-        <source>Money can be moved out of an asset account that a bank keeps, which &apos;%1&apos; is not.</source>
-        <translation>Geld kann nur von einem Vermögenskonto abgehen, das eine Bank führt; „%1“ ist keines.</translation>
+        <source>Cannot transfer from &apos;%1&apos;; choose an asset account of a bank.</source>
+        <translation>Von „%1“ kann nicht umgebucht werden; möglich ist ein Vermögenskonto einer Bank.</translation>
     </message>
     <message>
-        <source>Money can be moved into an asset account that a bank keeps and that stands under no other, which &apos;%1&apos; is not.</source>
-        <translation>Geld kann nur auf ein Vermögenskonto gehen, das eine Bank führt und das unter keinem anderen steht; „%1“ ist keines.</translation>
+        <source>Cannot transfer to &apos;%1&apos;; choose an asset account of a bank without a parent account.</source>
+        <translation>Auf „%1“ kann nicht umgebucht werden; möglich ist ein Vermögenskonto einer Bank ohne Oberkonto.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
         <translation>Es gibt keine Buchung %1</translation>
     </message>
     <message>
-        <source>kiv transactions lists those that there are</source>
-        <translation>kiv transactions zählt auf, welche es gibt</translation>
+        <source>There is no profile &apos;%1&apos;; save one with --save-profile.</source>
+        <translation>Es gibt kein Profil „%1“; gespeichert wird eines mit --save-profile.</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos; among: %2.</source>
-        <translation>Es gibt kein Profil „%1“ unter: %2.</translation>
+        <source>There is no profile &apos;%1&apos;; saved profiles: %2.</source>
+        <translation>Es gibt kein Profil „%1“; gespeichert sind: %2.</translation>
     </message>
     <message>
-        <source>Say with --against which account is the other side of %1.</source>
-        <translation>Mit --against wird angegeben, welches Konto die Gegenseite ist von %1.</translation>
+        <source>Give the counter-account of %1 with --against.</source>
+        <translation>Das Gegenkonto von %1 mit --against angeben.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
@@ -2542,8 +2510,8 @@
         <translation>Buchung %1 von „%2“</translation>
     </message>
     <message>
-        <source>This was a dry run: nothing is saved.</source>
-        <translation>Dies war ein Probelauf: Nichts ist gespeichert.</translation>
+        <source>Dry run: nothing is saved.</source>
+        <translation>Probelauf: Nichts ist gespeichert.</translation>
     </message>
     <message>
         <source>What</source>
@@ -2654,100 +2622,92 @@
         <translation>NACH</translation>
     </message>
     <message>
-        <source>The budget file; else KIV_FILE names it</source>
-        <translation>Die Budgetdatei; sonst nennt sie KIV_FILE</translation>
+        <source>Budget file (default: the variable KIV_FILE)</source>
+        <translation>Budgetdatei (Standard: die Variable KIV_FILE)</translation>
     </message>
     <message>
-        <source>Subcommands</source>
+        <source>Commands</source>
         <translation>Befehle</translation>
     </message>
     <message>
-        <source>Print JSON for programs</source>
-        <translation>JSON für Programme ausgeben</translation>
+        <source>Print JSON, for programs</source>
+        <translation>JSON ausgeben, für Programme</translation>
     </message>
     <message>
-        <source>Show what would come of it, save nothing</source>
-        <translation>Zeigen, was dabei herauskäme, nichts speichern</translation>
+        <source>Show the result, save nothing</source>
+        <translation>Das Ergebnis zeigen, nichts speichern</translation>
     </message>
     <message>
         <source>Show the log on standard error</source>
         <translation>Das Protokoll auf der Fehlerausgabe zeigen</translation>
     </message>
     <message>
-        <source>%1 is required.</source>
-        <translation>%1 ist nötig.</translation>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
     </message>
     <message>
-        <source>Could not convert: %1 = %2.</source>
-        <translation>Nicht umzuwandeln: %1 = %2.</translation>
+        <source>%1 does not accept the value &apos;%2&apos;</source>
+        <translation>%1 nimmt den Wert „%2“ nicht an</translation>
     </message>
     <message>
-        <source>The account&apos;s number or name</source>
-        <translation>Nummer oder Name des Kontos</translation>
+        <source>Account: number, name or path</source>
+        <translation>Konto: Nummer, Name oder Pfad</translation>
     </message>
     <message>
-        <source>The new number</source>
-        <translation>Die neue Nummer</translation>
+        <source>New number</source>
+        <translation>Neue Nummer</translation>
     </message>
     <message>
-        <source>The new name</source>
-        <translation>Der neue Name</translation>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
     </message>
     <message>
-        <source>The account under which it is to stand</source>
-        <translation>Das Konto, unter dem es stehen soll</translation>
+        <source>New parent account</source>
+        <translation>Neues Oberkonto</translation>
     </message>
     <message>
-        <source>It is to stand under no other account</source>
-        <translation>Es soll unter keinem anderen Konto stehen</translation>
+        <source>Remove the parent account</source>
+        <translation>Das Oberkonto entfernen</translation>
     </message>
     <message>
-        <source>Only asset, equity, expense, liability or income</source>
-        <translation>Nur asset, equity, expense, liability oder income</translation>
+        <source>Only accounts of this type: asset, equity, expense, liability or income</source>
+        <translation>Nur Konten dieser Art: asset, equity, expense, liability oder income</translation>
     </message>
     <message>
-        <source>Only accounts that are open</source>
+        <source>Only open accounts</source>
         <translation>Nur offene Konten</translation>
     </message>
     <message>
-        <source>The account&apos;s number, name or path</source>
-        <translation>Nummer, Name oder Pfad des Kontos</translation>
+        <source>First day</source>
+        <translation>Erster Tag</translation>
     </message>
     <message>
-        <source>Only from this day on</source>
-        <translation>Nur ab diesem Tag</translation>
+        <source>Last day</source>
+        <translation>Letzter Tag</translation>
     </message>
     <message>
-        <source>Only up to this day</source>
-        <translation>Nur bis zu diesem Tag</translation>
+        <source>Type: asset, equity, expense, liability or income</source>
+        <translation>Art: asset, equity, expense, liability oder income</translation>
     </message>
     <message>
-        <source>The account&apos;s name</source>
-        <translation>Der Name des Kontos</translation>
+        <source>Number (default: the next free one)</source>
+        <translation>Nummer (Standard: die nächste freie)</translation>
     </message>
     <message>
-        <source>asset, equity, expense, liability or income</source>
-        <translation>asset, equity, expense, liability oder income</translation>
+        <source>Parent account</source>
+        <translation>Oberkonto</translation>
     </message>
     <message>
-        <source>Its number; the next free one otherwise</source>
-        <translation>Seine Nummer; sonst die nächste freie</translation>
+        <source>Opening balance (default: 0)</source>
+        <translation>Anfangssaldo (Standard: 0)</translation>
     </message>
     <message>
-        <source>The account under which it stands</source>
-        <translation>Das Konto, unter dem es steht</translation>
+        <source>Currency (default: the preferred one)</source>
+        <translation>Währung (Standard: die bevorzugte)</translation>
     </message>
     <message>
-        <source>Its opening balance; 0 otherwise</source>
-        <translation>Sein Anfangssaldo; sonst 0</translation>
-    </message>
-    <message>
-        <source>Its currency; the preferred one otherwise</source>
-        <translation>Seine Währung; sonst die bevorzugte</translation>
-    </message>
-    <message>
-        <source>The day of the opening balance</source>
-        <translation>Der Tag des Anfangssaldos</translation>
+        <source>Day of the opening balance (default: today)</source>
+        <translation>Tag des Anfangssaldos (Standard: heute)</translation>
     </message>
     <message>
         <source>List all accounts with their balances</source>
@@ -2758,12 +2718,12 @@
         <translation>Die Buchungen eines Kontos auflisten</translation>
     </message>
     <message>
-        <source>Accounts of the ledger</source>
-        <translation>Konten des Hauptbuchs</translation>
+        <source>Add, change, close or remove an account</source>
+        <translation>Ein Konto anlegen, ändern, schließen oder entfernen</translation>
     </message>
     <message>
-        <source>Open an account</source>
-        <translation>Ein Konto eröffnen</translation>
+        <source>Add an account</source>
+        <translation>Ein Konto anlegen</translation>
     </message>
     <message>
         <source>Change an account&apos;s number, name or parent</source>
@@ -2774,40 +2734,24 @@
         <translation>Ein Konto schließen</translation>
     </message>
     <message>
-        <source>Open a closed account again</source>
-        <translation>Ein geschlossenes Konto wieder öffnen</translation>
+        <source>Reopen an account</source>
+        <translation>Ein Konto wieder öffnen</translation>
     </message>
     <message>
         <source>Remove an account without transactions</source>
         <translation>Ein Konto ohne Buchungen entfernen</translation>
     </message>
     <message>
-        <source>The bank&apos;s name</source>
-        <translation>Der Name der Bank</translation>
+        <source>Name of the bank</source>
+        <translation>Name der Bank</translation>
     </message>
     <message>
-        <source>Its new name</source>
-        <translation>Der neue Name</translation>
+        <source>Type: checking (default), savings, credit-card, loan, line-of-credit, money-market or cash</source>
+        <translation>Art: checking (Standard), savings, credit-card, loan, line-of-credit, money-market oder cash</translation>
     </message>
     <message>
-        <source>The bank that keeps it</source>
-        <translation>Die Bank, die es führt</translation>
-    </message>
-    <message>
-        <source>checking (unless given), savings, credit-card, loan, line-of-credit, money-market or cash</source>
-        <translation>checking (ohne Angabe), savings, credit-card, loan, line-of-credit, money-market oder cash</translation>
-    </message>
-    <message>
-        <source>An account of the ledger</source>
-        <translation>Ein Konto des Hauptbuchs</translation>
-    </message>
-    <message>
-        <source>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
-        <translation>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market oder cash</translation>
-    </message>
-    <message>
-        <source>The account, which stays in the ledger</source>
-        <translation>Das Konto, das im Hauptbuch bleibt</translation>
+        <source>Type: checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
+        <translation>Art: checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market oder cash</translation>
     </message>
     <message>
         <source>List all banks with their accounts</source>
@@ -2818,36 +2762,40 @@
         <translation>Eine Bank anlegen</translation>
     </message>
     <message>
-        <source>Give a bank another name</source>
-        <translation>Einer Bank einen anderen Namen geben</translation>
+        <source>Add, rename, close or remove a bank</source>
+        <translation>Eine Bank anlegen, umbenennen, schließen oder entfernen</translation>
     </message>
     <message>
-        <source>Close a bank with its accounts</source>
-        <translation>Eine Bank mit ihren Konten schließen</translation>
+        <source>Rename a bank</source>
+        <translation>Eine Bank umbenennen</translation>
     </message>
     <message>
-        <source>Open a closed bank again</source>
-        <translation>Eine geschlossene Bank wieder öffnen</translation>
+        <source>Close a bank and its accounts</source>
+        <translation>Eine Bank und ihre Konten schließen</translation>
     </message>
     <message>
-        <source>Remove a bank with its accounts</source>
-        <translation>Eine Bank mit ihren Konten entfernen</translation>
+        <source>Reopen a bank and its accounts</source>
+        <translation>Eine Bank und ihre Konten wieder öffnen</translation>
     </message>
     <message>
-        <source>Accounts that banks keep</source>
-        <translation>Konten, die Banken führen</translation>
+        <source>Remove a bank and its accounts</source>
+        <translation>Eine Bank und ihre Konten entfernen</translation>
     </message>
     <message>
-        <source>Open an account at a bank</source>
-        <translation>Ein Konto bei einer Bank eröffnen</translation>
+        <source>Add, change or remove an account of a bank</source>
+        <translation>Das Konto einer Bank anlegen, ändern oder entfernen</translation>
     </message>
     <message>
-        <source>Let a bank keep an account of the ledger</source>
+        <source>Add an account to a bank</source>
+        <translation>Ein Konto bei einer Bank anlegen</translation>
+    </message>
+    <message>
+        <source>Assign an account of the ledger to a bank</source>
         <translation>Ein Konto des Hauptbuchs einer Bank zuordnen</translation>
     </message>
     <message>
-        <source>Take an account from its bank</source>
-        <translation>Ein Konto von seiner Bank lösen</translation>
+        <source>Separate an account from its bank; it stays in the ledger</source>
+        <translation>Ein Konto von seiner Bank lösen; es bleibt im Hauptbuch</translation>
     </message>
     <message>
         <source>Change a bank account&apos;s number, name or parent</source>
@@ -2858,39 +2806,39 @@
         <translation>Ein Bankkonto entfernen</translation>
     </message>
     <message>
-        <source>The file to be made; .budget is appended</source>
-        <translation>Die anzulegende Datei; .budget wird angehängt</translation>
+        <source>New file; .budget is added if it is missing</source>
+        <translation>Neue Datei; .budget wird ergänzt, falls es fehlt</translation>
     </message>
     <message>
-        <source>Make an empty budget file</source>
+        <source>Create an empty budget file</source>
         <translation>Eine leere Budgetdatei anlegen</translation>
     </message>
     <message>
-        <source>Tell what the budget holds</source>
+        <source>Show what the budget contains</source>
         <translation>Zeigen, was das Budget enthält</translation>
     </message>
     <message>
-        <source>Save the budget as another file</source>
-        <translation>Das Budget als andere Datei speichern</translation>
+        <source>Save the budget under another name</source>
+        <translation>Das Budget unter anderem Namen speichern</translation>
     </message>
     <message>
-        <source>It is a budget file of a known version</source>
-        <translation>Es ist eine Budgetdatei einer bekannten Version</translation>
+        <source>The file is a budget file of a known version</source>
+        <translation>Die Datei ist eine Budgetdatei einer bekannten Version</translation>
     </message>
     <message>
-        <source>Its tables are those of that version</source>
-        <translation>Ihre Tabellen sind die dieser Version</translation>
+        <source>The tables belong to that version</source>
+        <translation>Die Tabellen gehören zu dieser Version</translation>
     </message>
     <message>
-        <source>Its rows are those that were written</source>
-        <translation>Ihre Zeilen sind die, die geschrieben wurden</translation>
+        <source>The rows are as they were saved</source>
+        <translation>Die Zeilen sind so, wie sie gespeichert wurden</translation>
     </message>
     <message>
-        <source>Its books obey the rules of the ledger</source>
-        <translation>Ihre Bücher folgen den Regeln des Hauptbuchs</translation>
+        <source>The books follow the rules of the ledger</source>
+        <translation>Die Bücher folgen den Regeln des Hauptbuchs</translation>
     </message>
     <message>
-        <source>Its items, accounts and banks fit together</source>
+        <source>Items, accounts and banks match</source>
         <translation>Posten, Konten und Banken passen zueinander</translation>
     </message>
     <message>
@@ -2898,35 +2846,35 @@
         <translation>Jeder Saldo ist die Summe seiner Buchungen</translation>
     </message>
     <message>
-        <source>In every currency the debits equal the credits</source>
+        <source>Debits equal credits in every currency</source>
         <translation>In jeder Währung ist Soll gleich Haben</translation>
     </message>
     <message>
-        <source>kept</source>
-        <translation>gehalten</translation>
+        <source>ok</source>
+        <translation>in Ordnung</translation>
     </message>
     <message>
-        <source>mended when it is opened</source>
-        <translation>beim Öffnen repariert</translation>
+        <source>repaired when opened</source>
+        <translation>wird beim Öffnen repariert</translation>
     </message>
     <message>
-        <source>BROKEN</source>
-        <translation>GEBROCHEN</translation>
+        <source>FAILED</source>
+        <translation>FEHLER</translation>
     </message>
     <message>
-        <source>not judged</source>
-        <translation>nicht beurteilt</translation>
+        <source>not checked</source>
+        <translation>nicht geprüft</translation>
     </message>
     <message>
-        <source>A budget file or one of its backups</source>
-        <translation>Eine Budgetdatei oder eine ihrer Sicherungen</translation>
+        <source>Budget file or one of its backups</source>
+        <translation>Budgetdatei oder eine ihrer Sicherungen</translation>
     </message>
     <message>
-        <source>Promise</source>
-        <translation>Zusage</translation>
+        <source>Check</source>
+        <translation>Prüfung</translation>
     </message>
     <message>
-        <source>Verdict</source>
+        <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
     <message>
@@ -2934,24 +2882,24 @@
         <translation>Einzelheiten</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is whole.</source>
+        <source>The budget &apos;%1&apos; is intact.</source>
         <translation>Das Budget „%1“ ist unbeschädigt.</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is not whole; kiv check FILE tells which of its backups (%1.backup-1, …) is.</source>
-        <translation>Das Budget „%1“ ist beschädigt; kiv check DATEI sagt, welche seiner Sicherungen (%1.backup-1, …) es nicht ist.</translation>
+        <source>The budget &apos;%1&apos; is damaged; find an intact version with kiv history.</source>
+        <translation>Das Budget „%1“ ist beschädigt; eine unbeschädigte Version suchen mit kiv history.</translation>
     </message>
     <message>
-        <source>Verify a budget file and tell each of its promises</source>
-        <translation>Eine Budgetdatei prüfen und jede ihrer Zusagen nennen</translation>
+        <source>Check a budget file for damage</source>
+        <translation>Eine Budgetdatei auf Schäden prüfen</translation>
     </message>
     <message>
-        <source>A word of the line; the last one is being written</source>
-        <translation>Ein Wort der Zeile; das letzte wird gerade geschrieben</translation>
+        <source>Words of the command line; the last one is incomplete</source>
+        <translation>Wörter der Befehlszeile; das letzte ist unvollständig</translation>
     </message>
     <message>
-        <source>What shells and manual pages are made of</source>
-        <translation>Grundlage der Vervollständigung und der Handbuchseiten</translation>
+        <source>Print completion scripts or the manual page</source>
+        <translation>Vervollständigungsskripte oder die Handbuchseite ausgeben</translation>
     </message>
     <message>
         <source>Print the completion script for bash</source>
@@ -2966,60 +2914,56 @@
         <translation>Das Vervollständigungsskript für fish ausgeben</translation>
     </message>
     <message>
-        <source>List what may stand in the place of the last word</source>
-        <translation>Auflisten, was an der Stelle des letzten Wortes stehen kann</translation>
+        <source>List completions of the last word</source>
+        <translation>Mögliche Ergänzungen des letzten Wortes auflisten</translation>
     </message>
     <message>
-        <source>Print the commands in the notation of manual pages</source>
-        <translation>Die Befehle in der Schreibweise von Handbuchseiten ausgeben</translation>
+        <source>Print the commands as part of a manual page</source>
+        <translation>Die Befehle als Teil einer Handbuchseite ausgeben</translation>
     </message>
     <message>
-        <source>The currency of amounts without one</source>
-        <translation>Die Währung von Beträgen ohne eine</translation>
+        <source>Preferred currency, used for amounts without one</source>
+        <translation>Bevorzugte Währung, für Beträge ohne Währung</translation>
     </message>
     <message>
-        <source>A usable currency; give all of them, one by one</source>
-        <translation>Eine nutzbare Währung; alle sind einzeln anzugeben</translation>
+        <source>Usable currency; replaces the old list (repeatable)</source>
+        <translation>Nutzbare Währung; ersetzt die alte Liste (wiederholbar)</translation>
     </message>
     <message>
-        <source>How currencies are shown: code, symbol or both</source>
-        <translation>Wie Währungen gezeigt werden: code, symbol oder both</translation>
+        <source>Display of currencies: code, symbol or both</source>
+        <translation>Anzeige von Währungen: code, symbol oder both</translation>
     </message>
     <message>
-        <source>How many days ahead items count as due</source>
-        <translation>Wie viele Tage im Voraus Posten als fällig gelten</translation>
+        <source>Show due items this many days ahead</source>
+        <translation>Fällige Posten so viele Tage im Voraus zeigen</translation>
     </message>
     <message>
-        <source>By how much a survey may miss the statement</source>
-        <translation>Wie weit ein Abgleich vom Kontoauszug abweichen darf</translation>
+        <source>Allowed difference between survey and statement, in percent</source>
+        <translation>Erlaubte Abweichung des Abgleichs vom Kontoauszug, in Prozent</translation>
     </message>
     <message>
-        <source>Tags to be taken from every budget item</source>
-        <translation>Schlagwörter, die jedem Budgetposten genommen werden</translation>
-    </message>
-    <message>
-        <source>The user&apos;s settings</source>
-        <translation>Die Einstellungen</translation>
+        <source>Show or change the settings</source>
+        <translation>Die Einstellungen zeigen oder ändern</translation>
     </message>
     <message>
         <source>Show the settings</source>
         <translation>Die Einstellungen zeigen</translation>
     </message>
     <message>
-        <source>Change settings; what is not given stays</source>
-        <translation>Einstellungen ändern; was nicht angegeben ist, bleibt</translation>
+        <source>Change the given settings</source>
+        <translation>Die angegebenen Einstellungen ändern</translation>
     </message>
     <message>
-        <source>Tags on budget items</source>
-        <translation>Schlagwörter an Budgetposten</translation>
+        <source>List or remove tags</source>
+        <translation>Schlagwörter auflisten oder entfernen</translation>
     </message>
     <message>
         <source>List all tags</source>
         <translation>Alle Schlagwörter auflisten</translation>
     </message>
     <message>
-        <source>Take tags from every budget item</source>
-        <translation>Jedem Budgetposten Schlagwörter nehmen</translation>
+        <source>Remove tags from all budget items</source>
+        <translation>Schlagwörter von allen Budgetposten entfernen</translation>
     </message>
     <message numerus="yes">
         <source>Due within %n days</source>
@@ -3029,24 +2973,24 @@
         </translation>
     </message>
     <message>
-        <source>Show totals, what is due and the budget&apos;s health</source>
-        <translation>Summen, Fälliges und die Gesundheit des Budgets zeigen</translation>
+        <source>Show totals, due items and budget health</source>
+        <translation>Summen, fällige Posten und Gesundheit des Budgets zeigen</translation>
     </message>
     <message>
-        <source>The budget item&apos;s name</source>
-        <translation>Der Name des Budgetpostens</translation>
+        <source>Name of the budget item</source>
+        <translation>Name des Budgetpostens</translation>
     </message>
     <message>
-        <source>bill, debt, goal, nontrack or wage, where names repeat</source>
-        <translation>bill, debt, goal, nontrack oder wage, wo Namen mehrfach vorkommen</translation>
+        <source>Kind, if several items have the name: bill, debt, goal, nontrack or wage</source>
+        <translation>Art, falls mehrere Posten so heißen: bill, debt, goal, nontrack oder wage</translation>
     </message>
     <message>
-        <source>How many days ahead; as configured otherwise</source>
-        <translation>Wie viele Tage im Voraus; sonst wie eingestellt</translation>
+        <source>Days ahead (default: the setting)</source>
+        <translation>Tage im Voraus (Standard: die Einstellung)</translation>
     </message>
     <message>
-        <source>Today, or another day in its place</source>
-        <translation>Heute oder ein anderer Tag an seiner Stelle</translation>
+        <source>Day to count from (default: today)</source>
+        <translation>Tag, ab dem gezählt wird (Standard: heute)</translation>
     </message>
     <message numerus="yes">
         <source>%n days late</source>
@@ -3063,31 +3007,27 @@
         </translation>
     </message>
     <message>
-        <source>The account that pays, or that a wage goes to</source>
-        <translation>Das Konto, das zahlt oder auf das ein Lohn geht</translation>
+        <source>Account that pays, or that receives a wage</source>
+        <translation>Konto, das zahlt oder einen Lohn erhält</translation>
     </message>
     <message>
-        <source>Another amount than the item&apos;s</source>
-        <translation>Ein anderer Betrag als der des Postens</translation>
+        <source>Amount (default: that of the item)</source>
+        <translation>Betrag (Standard: der des Postens)</translation>
     </message>
     <message>
-        <source>Post everything that is due by now, in place of one item</source>
-        <translation>Alles bis jetzt Fällige buchen, statt eines Postens</translation>
+        <source>Post all due items</source>
+        <translation>Alle fälligen Posten buchen</translation>
     </message>
     <message>
-        <source>The day of posting; today otherwise</source>
-        <translation>Der Buchungstag; sonst heute</translation>
+        <source>Day (default: today)</source>
+        <translation>Tag (Standard: heute)</translation>
     </message>
     <message>
-        <source>What is paid, or what came in for a wage</source>
-        <translation>Was gezahlt wird oder als Lohn einging</translation>
+        <source>List due items</source>
+        <translation>Fällige Posten auflisten</translation>
     </message>
     <message>
-        <source>List what is due</source>
-        <translation>Auflisten, was fällig ist</translation>
-    </message>
-    <message>
-        <source>Post a budget item that is due</source>
+        <source>Post a due budget item</source>
         <translation>Einen fälligen Budgetposten buchen</translation>
     </message>
     <message>
@@ -3099,380 +3039,352 @@
         <translation>Einen Budgetposten einmal überspringen, ohne zu buchen</translation>
     </message>
     <message>
-        <source>journal (unless given), csv or json</source>
-        <translation>journal (ohne Angabe), csv oder json</translation>
+        <source>Format: journal (default), csv or json</source>
+        <translation>Format: journal (Standard), csv oder json</translation>
     </message>
     <message>
-        <source>Write the ledger for other programs</source>
-        <translation>Das Hauptbuch für andere Programme schreiben</translation>
+        <source>Print the ledger for other programs</source>
+        <translation>Das Hauptbuch für andere Programme ausgeben</translation>
     </message>
     <message>
-        <source>The file; - for standard input</source>
-        <translation>Die Datei; - für die Standardeingabe</translation>
+        <source>File; - for standard input</source>
+        <translation>Datei; - für die Standardeingabe</translation>
     </message>
     <message>
-        <source>journal, csv, ofx or qif; guessed otherwise</source>
-        <translation>journal, csv, ofx oder qif; wird sonst erraten</translation>
+        <source>Format: journal, csv, ofx or qif (default: guessed)</source>
+        <translation>Format: journal, csv, ofx oder qif (Standard: erraten)</translation>
     </message>
     <message>
-        <source>The decimal mark: . or ,</source>
-        <translation>Das Dezimalzeichen: . oder ,</translation>
+        <source>Decimal mark: . or ,</source>
+        <translation>Dezimalzeichen: . oder ,</translation>
     </message>
     <message>
-        <source>How days are written, like DD.MM.YYYY</source>
-        <translation>Schreibweise der Datumsangaben, etwa DD.MM.YYYY</translation>
+        <source>Date format, such as DD.MM.YYYY</source>
+        <translation>Datumsformat, etwa DD.MM.YYYY</translation>
     </message>
     <message>
-        <source>The currency of amounts that have none (journal)</source>
-        <translation>Die Währung von Beträgen ohne eine (journal)</translation>
+        <source>Currency of amounts without one (journal)</source>
+        <translation>Währung von Beträgen ohne Währung (journal)</translation>
     </message>
     <message>
-        <source>What a root is, like Aktiva=asset (journal)</source>
-        <translation>Was eine Wurzel ist, etwa Aktiva=asset (journal)</translation>
+        <source>Type of a top account, such as Aktiva=asset (journal, repeatable)</source>
+        <translation>Art eines obersten Kontos, etwa Aktiva=asset (journal, wiederholbar)</translation>
     </message>
     <message>
-        <source>Which currency a name means, like Fr=CHF (journal)</source>
-        <translation>Welche Währung ein Name meint, etwa Fr=CHF (journal)</translation>
+        <source>Currency behind a name, such as Fr=CHF (journal, repeatable)</source>
+        <translation>Währung hinter einem Namen, etwa Fr=CHF (journal, wiederholbar)</translation>
     </message>
     <message>
-        <source>The bank&apos;s number of the account (ofx)</source>
-        <translation>Die Kontonummer bei der Bank (ofx)</translation>
+        <source>Account number, to choose one of several statements (ofx)</source>
+        <translation>Kontonummer, um einen von mehreren Auszügen zu wählen (ofx)</translation>
     </message>
     <message>
-        <source>Read the file as this saved profile says</source>
-        <translation>Die Datei lesen, wie es dieses gespeicherte Profil sagt</translation>
+        <source>Saved profile to read the file with</source>
+        <translation>Gespeichertes Profil, mit dem die Datei gelesen wird</translation>
     </message>
     <message>
-        <source>Save how the file was read under this name</source>
-        <translation>Unter diesem Namen speichern, wie die Datei gelesen wurde</translation>
+        <source>Save these options as a profile with this name</source>
+        <translation>Diese Optionen als Profil mit diesem Namen speichern</translation>
     </message>
     <message>
-        <source>The column of the day, by heading or number (csv)</source>
-        <translation>Die Spalte des Datums, nach Überschrift oder Nummer (csv)</translation>
+        <source>Column of the date, by heading or number (csv)</source>
+        <translation>Spalte des Datums, nach Überschrift oder Nummer (csv)</translation>
     </message>
     <message>
-        <source>The column of the amount (csv)</source>
-        <translation>Die Spalte des Betrags (csv)</translation>
+        <source>Column of the amount (csv)</source>
+        <translation>Spalte des Betrags (csv)</translation>
     </message>
     <message>
-        <source>The column of what came in (csv)</source>
-        <translation>Die Spalte der Eingänge (csv)</translation>
+        <source>Column of incoming amounts (csv)</source>
+        <translation>Spalte der Eingänge (csv)</translation>
     </message>
     <message>
-        <source>The column of what went out (csv)</source>
-        <translation>Die Spalte der Ausgänge (csv)</translation>
+        <source>Column of outgoing amounts (csv)</source>
+        <translation>Spalte der Ausgänge (csv)</translation>
     </message>
     <message>
-        <source>The column that tells the sign (csv)</source>
-        <translation>Die Spalte mit dem Vorzeichen (csv)</translation>
+        <source>Column of the sign (csv)</source>
+        <translation>Spalte des Vorzeichens (csv)</translation>
     </message>
     <message>
-        <source>What stands there when money went out (csv)</source>
-        <translation>Was dort bei Ausgängen steht (csv)</translation>
+        <source>Text in the sign column for outgoing amounts (csv, repeatable)</source>
+        <translation>Text in der Spalte des Vorzeichens bei Ausgängen (csv, wiederholbar)</translation>
     </message>
     <message>
-        <source>A column of the description (csv)</source>
-        <translation>Eine Spalte der Beschreibung (csv)</translation>
+        <source>Column of the description (csv, repeatable)</source>
+        <translation>Spalte der Beschreibung (csv, wiederholbar)</translation>
     </message>
     <message>
-        <source>The column of the bank&apos;s identifier (csv)</source>
-        <translation>Die Spalte mit der Kennung der Bank (csv)</translation>
+        <source>Column of the bank&apos;s identifier (csv)</source>
+        <translation>Spalte mit der Kennung der Bank (csv)</translation>
     </message>
     <message>
-        <source>The column of the currency (csv)</source>
-        <translation>Die Spalte der Währung (csv)</translation>
+        <source>Column of the currency (csv)</source>
+        <translation>Spalte der Währung (csv)</translation>
     </message>
     <message>
-        <source>What stands between cells; guessed otherwise (csv)</source>
-        <translation>Was zwischen Zellen steht; wird sonst erraten (csv)</translation>
+        <source>Delimiter between cells (csv, default: guessed)</source>
+        <translation>Trennzeichen zwischen Zellen (csv, Standard: erraten)</translation>
     </message>
     <message>
-        <source>How many lines stand above the headings (csv)</source>
-        <translation>Wie viele Zeilen über den Überschriften stehen (csv)</translation>
+        <source>Number of lines above the headings (csv)</source>
+        <translation>Zahl der Zeilen über den Überschriften (csv)</translation>
     </message>
     <message>
-        <source>The first line is an entry already (csv)</source>
-        <translation>Die erste Zeile ist schon ein Eintrag (csv)</translation>
+        <source>The file has no headings (csv)</source>
+        <translation>Die Datei hat keine Überschriften (csv)</translation>
     </message>
     <message>
-        <source>Money that went out is positive (csv)</source>
+        <source>Outgoing amounts are positive (csv)</source>
         <translation>Ausgänge sind positiv (csv)</translation>
     </message>
     <message>
-        <source>The account that a bank statement is about</source>
-        <translation>Das Konto, um das es im Kontoauszug geht</translation>
+        <source>Account of the bank statement</source>
+        <translation>Konto des Kontoauszugs</translation>
     </message>
     <message>
-        <source>The other account of entries that no rule knows</source>
-        <translation>Das Gegenkonto von Einträgen, die keine Regel kennt</translation>
+        <source>Counter-account of entries that match no rule</source>
+        <translation>Gegenkonto von Einträgen, zu denen keine Regel passt</translation>
     </message>
     <message>
-        <source>Post what is there already, too</source>
-        <translation>Auch buchen, was schon da ist</translation>
+        <source>Post duplicates, too</source>
+        <translation>Auch Dubletten buchen</translation>
     </message>
     <message>
-        <source>Post what a journal or a bank statement holds, or nothing of it</source>
-        <translation>Buchen, was ein Journal oder Kontoauszug enthält, oder nichts davon</translation>
+        <source>Import a journal or statement, all or nothing</source>
+        <translation>Journal oder Kontoauszug importieren, ganz oder gar nicht</translation>
     </message>
     <message>
-        <source>How often it recurs, such as monthly</source>
-        <translation>Wie oft es wiederkehrt, etwa monthly</translation>
+        <source>Frequency, such as monthly</source>
+        <translation>Turnus, etwa monthly</translation>
     </message>
     <message>
-        <source>The next day on which it does</source>
-        <translation>Der nächste Tag, an dem es das tut</translation>
+        <source>Next due date</source>
+        <translation>Nächster Termin</translation>
     </message>
     <message>
-        <source>A tag to find it by; may be given several times</source>
-        <translation>Ein Schlagwort zum Wiederfinden; mehrmals möglich</translation>
+        <source>Tag (repeatable)</source>
+        <translation>Schlagwort (wiederholbar)</translation>
     </message>
     <message>
-        <source>What was borrowed: its account opens with it</source>
-        <translation>Was geliehen wurde: Damit wird sein Konto eröffnet</translation>
+        <source>Amount borrowed; the opening balance of its account</source>
+        <translation>Geliehener Betrag; der Anfangssaldo des Kontos der Schuld</translation>
     </message>
     <message>
-        <source>The bank that holds it</source>
-        <translation>Die Bank, bei der sie besteht</translation>
+        <source>Type of the bank account, such as loan (default)</source>
+        <translation>Art des Bankkontos, etwa loan (Standard)</translation>
     </message>
     <message>
-        <source>The kind of account there: loan (unless given), …</source>
-        <translation>Die Art des Kontos dort: loan (ohne Angabe), …</translation>
+        <source>Target amount</source>
+        <translation>Zielbetrag</translation>
     </message>
     <message>
-        <source>What it is to come to</source>
-        <translation>Welcher Betrag erreicht werden soll</translation>
+        <source>Bank account that holds the savings</source>
+        <translation>Bankkonto, auf dem zurückgelegt wird</translation>
     </message>
     <message>
-        <source>The bank account under which it is put aside</source>
-        <translation>Das Bankkonto, unter dem es zurückgelegt wird</translation>
+        <source>Day of the opening; next due date if --next is missing</source>
+        <translation>Tag der Eröffnung; nächster Termin, falls --next fehlt</translation>
     </message>
     <message>
-        <source>Its name</source>
-        <translation>Der Name</translation>
+        <source>Remove all tags</source>
+        <translation>Alle Schlagwörter entfernen</translation>
     </message>
     <message>
-        <source>What it comes to</source>
-        <translation>Der Betrag</translation>
+        <source>Remove the link to the bank</source>
+        <translation>Die Verknüpfung mit der Bank entfernen</translation>
     </message>
     <message>
-        <source>Today, in place of --next</source>
-        <translation>Heute, statt --next</translation>
+        <source>Add an item</source>
+        <translation>Einen Posten anlegen</translation>
     </message>
     <message>
-        <source>Take its tags away</source>
-        <translation>Die Schlagwörter wegnehmen</translation>
+        <source>Change the given values of an item</source>
+        <translation>Die angegebenen Werte eines Postens ändern</translation>
     </message>
     <message>
-        <source>Tie it to no bank any more</source>
-        <translation>Mit keiner Bank mehr verknüpfen</translation>
+        <source>Rename an item</source>
+        <translation>Einen Posten umbenennen</translation>
     </message>
     <message>
-        <source>Add one</source>
-        <translation>Anlegen</translation>
+        <source>Remove an item</source>
+        <translation>Einen Posten entfernen</translation>
     </message>
     <message>
-        <source>Change one; what is not given stays</source>
-        <translation>Ändern; was nicht angegeben ist, bleibt</translation>
+        <source>List all items</source>
+        <translation>Alle Posten auflisten</translation>
     </message>
     <message>
-        <source>Give one another name</source>
-        <translation>Umbenennen</translation>
+        <source>Add, change or list bills</source>
+        <translation>Rechnungen anlegen, ändern oder auflisten</translation>
     </message>
     <message>
-        <source>Remove one</source>
-        <translation>Entfernen</translation>
+        <source>Add, change or list debts</source>
+        <translation>Schulden anlegen, ändern oder auflisten</translation>
     </message>
     <message>
-        <source>List all of them</source>
-        <translation>Alle auflisten</translation>
+        <source>Add, change or list goals to save for</source>
+        <translation>Sparziele anlegen, ändern oder auflisten</translation>
     </message>
     <message>
-        <source>Bills: what must be paid</source>
-        <translation>Rechnungen: was bezahlt werden muss</translation>
+        <source>Add, change or list free spending (non-tracked)</source>
+        <translation>Freie Ausgaben (nicht verfolgt) anlegen, ändern, auflisten</translation>
     </message>
     <message>
-        <source>Debts: what was borrowed and is paid back</source>
-        <translation>Schulden: was geliehen wurde und zurückgezahlt wird</translation>
+        <source>Add, change or list wages</source>
+        <translation>Löhne anlegen, ändern oder auflisten</translation>
     </message>
     <message>
-        <source>Goals: what is put aside for a target</source>
-        <translation>Ziele: was für einen Zielbetrag zurückgelegt wird</translation>
+        <source>Currencies (default: the usable ones)</source>
+        <translation>Währungen (Standard: die nutzbaren)</translation>
     </message>
     <message>
-        <source>Non-tracked items: what is spent without keeping track</source>
-        <translation>Nicht verfolgte Posten: was ohne Nachweis ausgegeben wird</translation>
+        <source>Base currency; each rate is for one unit of it</source>
+        <translation>Basiswährung; jeder Kurs gilt für eine Einheit davon</translation>
     </message>
     <message>
-        <source>Wages: what comes in</source>
-        <translation>Löhne: was hereinkommt</translation>
+        <source>Rate of a currency, such as EUR=0.92 (repeatable)</source>
+        <translation>Kurs einer Währung, etwa EUR=0.92 (wiederholbar)</translation>
     </message>
     <message>
-        <source>The currencies; the usable ones otherwise</source>
-        <translation>Die Währungen; sonst die nutzbaren</translation>
+        <source>Show, fetch or set exchange rates</source>
+        <translation>Wechselkurse zeigen, abrufen oder setzen</translation>
     </message>
     <message>
-        <source>The currency of which one unit is meant</source>
-        <translation>Die Währung, von der eine Einheit gemeint ist</translation>
+        <source>Show the exchange rates</source>
+        <translation>Die Wechselkurse zeigen</translation>
     </message>
     <message>
-        <source>How much of another currency it buys</source>
-        <translation>Wie viel einer anderen Währung man dafür bekommt</translation>
-    </message>
-    <message>
-        <source>Exchange rates</source>
-        <translation>Wechselkurse</translation>
-    </message>
-    <message>
-        <source>Show the exchange rates that are known</source>
-        <translation>Die bekannten Wechselkurse zeigen</translation>
-    </message>
-    <message>
-        <source>Fetch the rates of the day</source>
-        <translation>Die Kurse des Tages abrufen</translation>
+        <source>Fetch current rates</source>
+        <translation>Aktuelle Kurse abrufen</translation>
     </message>
     <message>
         <source>Set rates by hand</source>
         <translation>Kurse von Hand setzen</translation>
     </message>
     <message>
-        <source>Newer releases of this program</source>
-        <translation>Neuere Versionen dieses Programms</translation>
+        <source>Check for a newer release</source>
+        <translation>Nach einer neueren Version suchen</translation>
     </message>
     <message>
-        <source>Ask whether there is a newer release</source>
-        <translation>Nachfragen, ob es eine neuere Version gibt</translation>
+        <source>Show the release notes</source>
+        <translation>Die Neuerungen der Versionen zeigen</translation>
     </message>
     <message>
-        <source>Show what each release brought</source>
-        <translation>Zeigen, was jede Version gebracht hat</translation>
+        <source>Day in the first month (default: eleven months before the last day)</source>
+        <translation>Tag im ersten Monat (Standard: elf Monate vor dem letzten Tag)</translation>
     </message>
     <message>
-        <source>In the first month; eleven months before otherwise</source>
-        <translation>Im ersten Monat; sonst elf Monate zuvor</translation>
+        <source>Last day (default: today)</source>
+        <translation>Letzter Tag (Standard: heute)</translation>
     </message>
     <message>
-        <source>The last day; today otherwise</source>
-        <translation>Der letzte Tag; sonst heute</translation>
+        <source>Print an HTML page with charts</source>
+        <translation>Eine HTML-Seite mit Diagrammen ausgeben</translation>
     </message>
     <message>
-        <source>Print one HTML page, with charts, to be read or printed</source>
-        <translation>Eine HTML-Seite mit Diagrammen ausgeben, zum Lesen oder Drucken</translation>
+        <source>Draw charts on the terminal</source>
+        <translation>Diagramme im Terminal zeichnen</translation>
     </message>
     <message>
-        <source>Draw the charts on the terminal</source>
-        <translation>Die Diagramme im Terminal zeichnen</translation>
+        <source>Title of the HTML page</source>
+        <translation>Titel der HTML-Seite</translation>
     </message>
     <message>
-        <source>The title of the page</source>
-        <translation>Der Titel der Seite</translation>
+        <source>Last day, like --to</source>
+        <translation>Letzter Tag, wie --to</translation>
     </message>
     <message>
-        <source>The last day, where --to is not given</source>
-        <translation>Der letzte Tag, wenn --to nicht angegeben ist</translation>
+        <source>Show income, expenses and net worth by month</source>
+        <translation>Einnahmen, Ausgaben und Reinvermögen nach Monaten zeigen</translation>
     </message>
     <message>
-        <source>Show income, expenses, budget and net worth month by month</source>
-        <translation>Einnahmen, Ausgaben, Budget und Reinvermögen Monat für Monat zeigen</translation>
+        <source>Budget file, like --file</source>
+        <translation>Budgetdatei, wie --file</translation>
     </message>
     <message>
-        <source>The budget file, as with --file</source>
-        <translation>Die Budgetdatei, wie bei --file</translation>
+        <source>Read commands line by line, keep the budget open</source>
+        <translation>Befehle Zeile für Zeile lesen, das Budget offen halten</translation>
     </message>
     <message>
-        <source>Read commands line by line and keep the budget open</source>
-        <translation>Befehle Zeile für Zeile lesen und das Budget offen halten</translation>
+        <source>Like shell, but print all signals as JSON</source>
+        <translation>Wie shell, aber alle Signale als JSON ausgeben</translation>
     </message>
     <message>
-        <source>Read commands likewise, and print the Navigator&apos;s signals as JSON lines</source>
-        <translation>Befehle ebenso lesen und die Signale des Navigators als JSON-Zeilen ausgeben</translation>
+        <source>Day of the statement (default: today)</source>
+        <translation>Tag des Kontoauszugs (Standard: heute)</translation>
     </message>
     <message>
-        <source>The bank account&apos;s number or name</source>
-        <translation>Nummer oder Name des Bankkontos</translation>
+        <source>Edited output of survey show --json; - for standard input</source>
+        <translation>Bearbeitete Ausgabe von survey show --json; - für die Standardeingabe</translation>
     </message>
     <message>
-        <source>The day of the statement; today otherwise</source>
-        <translation>Der Tag des Kontoauszugs; sonst heute</translation>
+        <source>Number of a transaction on the statement (repeatable)</source>
+        <translation>Nummer einer Buchung im Kontoauszug (wiederholbar)</translation>
     </message>
     <message>
-        <source>A document of survey show --json, edited; - for input</source>
-        <translation>Ein bearbeitetes Dokument von survey show --json; - für die Eingabe</translation>
+        <source>All transactions are on the statement</source>
+        <translation>Alle Buchungen stehen im Kontoauszug</translation>
     </message>
     <message>
-        <source>A transaction that the statement shows</source>
-        <translation>Eine Buchung, die im Kontoauszug steht</translation>
+        <source>Unbooked money of an item, negative if it went out (repeatable)</source>
+        <translation>Nicht gebuchtes Geld eines Postens, negativ bei Ausgängen (wiederholbar)</translation>
     </message>
     <message>
-        <source>It shows all transactions of the survey</source>
-        <translation>Alle Buchungen des Abgleichs stehen darin</translation>
+        <source>Unbooked money of another account (repeatable)</source>
+        <translation>Nicht gebuchtes Geld eines anderen Kontos (wiederholbar)</translation>
     </message>
     <message>
-        <source>ITEM=AMOUNT: money for an item that is not booked yet; with a minus for what went out</source>
-        <translation>POSTEN=BETRAG: noch nicht gebuchtes Geld für einen Posten; mit Minus, was ausging</translation>
+        <source>Amount to set aside for an item (repeatable)</source>
+        <translation>Betrag, der für einen Posten zurückgelegt wird (wiederholbar)</translation>
     </message>
     <message>
-        <source>ACCOUNT=AMOUNT: the same for another account</source>
-        <translation>KONTO=BETRAG: dasselbe für ein anderes Konto</translation>
+        <source>Amount that is not distributed (default: the rest)</source>
+        <translation>Nicht verteilter Betrag (Standard: der Rest)</translation>
     </message>
     <message>
-        <source>ITEM=AMOUNT: what is set aside for an item</source>
-        <translation>POSTEN=BETRAG: was für einen Posten zurückgelegt wird</translation>
-    </message>
-    <message>
-        <source>What is set aside for nothing</source>
-        <translation>Was für nichts zurückgelegt wird</translation>
-    </message>
-    <message>
-        <source>Comparing the books with a bank statement</source>
+        <source>Compare the books with a bank statement</source>
         <translation>Die Bücher mit einem Kontoauszug vergleichen</translation>
     </message>
     <message>
-        <source>Show what has happened since the last survey</source>
-        <translation>Zeigen, was seit dem letzten Abgleich geschehen ist</translation>
+        <source>Show the changes since the last survey</source>
+        <translation>Die Änderungen seit dem letzten Abgleich zeigen</translation>
     </message>
     <message>
-        <source>Reconcile the account with a statement</source>
-        <translation>Das Konto mit einem Kontoauszug abgleichen</translation>
+        <source>Reconcile an account with a statement</source>
+        <translation>Ein Konto mit einem Kontoauszug abgleichen</translation>
     </message>
     <message>
-        <source>Go through a statement question by question</source>
-        <translation>Einen Kontoauszug Frage für Frage durchgehen</translation>
+        <source>Reconcile an account question by question</source>
+        <translation>Ein Konto Frage für Frage abgleichen</translation>
     </message>
     <message>
-        <source>Past reconciliations</source>
-        <translation>Frühere Abgleiche</translation>
+        <source>Show the last reconciliation</source>
+        <translation>Den letzten Abgleich zeigen</translation>
     </message>
     <message>
-        <source>Show when an account was last reconciled</source>
-        <translation>Zeigen, wann ein Konto zuletzt abgeglichen wurde</translation>
+        <source>Show the last reconciliation of an account</source>
+        <translation>Den letzten Abgleich eines Kontos zeigen</translation>
     </message>
     <message>
-        <source>Show on a temporary budget what the command does</source>
-        <translation>An einem Probebudget zeigen, was der Befehl kann</translation>
+        <source>Demonstrate kiv on a temporary budget</source>
+        <translation>kiv an einem Probebudget vorführen</translation>
     </message>
     <message>
-        <source>What moves; in the debited account&apos;s currency</source>
-        <translation>Was bewegt wird; in der Währung des Kontos im Soll</translation>
+        <source>Amount, in the currency of the debited account</source>
+        <translation>Betrag, in der Währung des Kontos im Soll</translation>
     </message>
     <message>
-        <source>The account that is debited</source>
-        <translation>Das Konto im Soll</translation>
+        <source>Account to debit</source>
+        <translation>Konto im Soll</translation>
     </message>
     <message>
-        <source>The account that is credited</source>
-        <translation>Das Konto im Haben</translation>
+        <source>Account to credit</source>
+        <translation>Konto im Haben</translation>
     </message>
     <message>
-        <source>What it is about</source>
-        <translation>Worum es geht</translation>
-    </message>
-    <message>
-        <source>The day of the transaction; today otherwise</source>
-        <translation>Der Tag der Buchung; sonst heute</translation>
-    </message>
-    <message>
-        <source>A JSON list of transactions; - for standard input</source>
-        <translation>Eine JSON-Liste von Buchungen; - für die Standardeingabe</translation>
+        <source>JSON list of transactions; - for standard input</source>
+        <translation>JSON-Liste von Buchungen; - für die Standardeingabe</translation>
     </message>
     <message numerus="yes">
         <source>Posted %n transactions.</source>
@@ -3482,56 +3394,40 @@
         </translation>
     </message>
     <message>
-        <source>The transaction&apos;s number</source>
-        <translation>Die Nummer der Buchung</translation>
+        <source>Number of the transaction</source>
+        <translation>Nummer der Buchung</translation>
     </message>
     <message>
-        <source>What moves</source>
-        <translation>Was bewegt wird</translation>
+        <source>Day</source>
+        <translation>Tag</translation>
     </message>
     <message>
-        <source>The day of the transaction</source>
-        <translation>Der Tag der Buchung</translation>
+        <source>Numbers of the transactions</source>
+        <translation>Nummern der Buchungen</translation>
     </message>
     <message>
-        <source>Numbers of transactions</source>
-        <translation>Nummern von Buchungen</translation>
+        <source>Bank account that the money leaves</source>
+        <translation>Bankkonto, von dem das Geld abgeht</translation>
     </message>
     <message>
-        <source>The bank account that the money leaves</source>
-        <translation>Das Bankkonto, von dem das Geld abgeht</translation>
+        <source>Bank account that the money goes to</source>
+        <translation>Bankkonto, auf das das Geld geht</translation>
     </message>
     <message>
-        <source>The bank account that it goes to</source>
-        <translation>Das Bankkonto, auf das es geht</translation>
+        <source>Amount, in the currency of the account it goes to</source>
+        <translation>Betrag, in der Währung des Kontos, auf das er geht</translation>
     </message>
     <message>
-        <source>How much; in the currency of the account it goes to</source>
-        <translation>Wie viel; in der Währung des Kontos, auf das es geht</translation>
-    </message>
-    <message>
-        <source>The day of the transfer; today otherwise</source>
-        <translation>Der Tag der Umbuchung; sonst heute</translation>
-    </message>
-    <message>
-        <source>The transaction of which something comes back</source>
-        <translation>Die Buchung, von der etwas zurückkommt</translation>
-    </message>
-    <message>
-        <source>How much</source>
-        <translation>Wie viel</translation>
-    </message>
-    <message>
-        <source>The day of the refund; today otherwise</source>
-        <translation>Der Tag der Erstattung; sonst heute</translation>
+        <source>Number of the transaction to refund</source>
+        <translation>Nummer der zu erstattenden Buchung</translation>
     </message>
     <message>
         <source>List all transactions</source>
         <translation>Alle Buchungen auflisten</translation>
     </message>
     <message>
-        <source>Transactions of the ledger</source>
-        <translation>Buchungen des Hauptbuchs</translation>
+        <source>Add, change, mark or remove transactions</source>
+        <translation>Buchungen anlegen, ändern, kennzeichnen oder entfernen</translation>
     </message>
     <message>
         <source>Post a transaction</source>
@@ -3542,23 +3438,23 @@
         <translation>Alle Buchungen einer JSON-Datei ausführen</translation>
     </message>
     <message>
-        <source>Change a transaction; what is not given stays</source>
-        <translation>Eine Buchung ändern; was nicht angegeben ist, bleibt</translation>
+        <source>Change the given values of a transaction</source>
+        <translation>Die angegebenen Werte einer Buchung ändern</translation>
     </message>
     <message>
         <source>Remove transactions</source>
         <translation>Buchungen entfernen</translation>
     </message>
     <message>
-        <source>Mark transactions as seen at the bank</source>
-        <translation>Buchungen als bei der Bank gesehen kennzeichnen</translation>
+        <source>Mark transactions as cleared by the bank</source>
+        <translation>Buchungen als von der Bank bestätigt kennzeichnen</translation>
     </message>
     <message>
-        <source>Mark transactions as part of a statement</source>
-        <translation>Buchungen als Teil eines Kontoauszugs kennzeichnen</translation>
+        <source>Mark transactions as reconciled with a statement</source>
+        <translation>Buchungen als mit einem Kontoauszug abgeglichen kennzeichnen</translation>
     </message>
     <message>
-        <source>Take the reconciliation of transactions back</source>
+        <source>Undo the reconciliation of transactions</source>
         <translation>Den Abgleich von Buchungen aufheben</translation>
     </message>
     <message>
@@ -3566,80 +3462,72 @@
         <translation>Geld zwischen Bankkonten umbuchen</translation>
     </message>
     <message>
-        <source>List what of a budget item can be refunded</source>
-        <translation>Auflisten, was von einem Budgetposten erstattet werden kann</translation>
+        <source>List refundable transactions of a budget item</source>
+        <translation>Erstattbare Buchungen eines Budgetpostens auflisten</translation>
     </message>
     <message>
         <source>Post a refund of a transaction</source>
         <translation>Eine Erstattung einer Buchung ausführen</translation>
     </message>
     <message>
-        <source>An older version; see history</source>
-        <translation>Eine ältere Version; siehe history</translation>
+        <source>Number of the version, see kiv history (default: 1)</source>
+        <translation>Nummer der Version, siehe kiv history (Standard: 1)</translation>
     </message>
     <message>
-        <source>A version; the one before the last save otherwise</source>
-        <translation>Eine Version; sonst die vor dem letzten Speichern</translation>
+        <source>Number of the older version (default: 1)</source>
+        <translation>Nummer der älteren Version (Standard: 1)</translation>
     </message>
     <message>
-        <source>A version; the file as it is otherwise</source>
-        <translation>Eine Version; sonst die Datei, wie sie ist</translation>
+        <source>Number of the newer version (default: 0, the file itself)</source>
+        <translation>Nummer der neueren Version (Standard: 0, die Datei selbst)</translation>
     </message>
     <message>
-        <source>Bring the budget back as it was before the last saved change</source>
-        <translation>Das Budget zurückholen, wie es vor der letzten Änderung war</translation>
+        <source>Restore the version before the last change</source>
+        <translation>Die Version vor der letzten Änderung wiederherstellen</translation>
     </message>
     <message>
-        <source>List the former versions of the budget that are kept</source>
-        <translation>Die aufbewahrten früheren Versionen des Budgets auflisten</translation>
+        <source>List the kept versions of the budget</source>
+        <translation>Die aufbewahrten Versionen des Budgets auflisten</translation>
     </message>
     <message>
-        <source>Tell what changed from one version to another</source>
-        <translation>Zeigen, was sich von einer Version zur anderen geändert hat</translation>
+        <source>Show the changes between two versions</source>
+        <translation>Die Änderungen zwischen zwei Versionen zeigen</translation>
     </message>
     <message>
-        <source>The household; see templates list</source>
-        <translation>Der Haushalt; siehe templates list</translation>
+        <source>Template, see kiv templates list (default: none)</source>
+        <translation>Vorlage, siehe kiv templates list (Standard: none)</translation>
     </message>
     <message>
-        <source>Its currency, preferred from now on</source>
-        <translation>Seine Währung, von nun an die bevorzugte</translation>
+        <source>Currency, which becomes the preferred one</source>
+        <translation>Währung, die zur bevorzugten wird</translation>
     </message>
     <message>
-        <source>The household&apos;s bank</source>
-        <translation>Die Bank des Haushalts</translation>
+        <source>Name of the bank account</source>
+        <translation>Name des Bankkontos</translation>
     </message>
     <message>
-        <source>The name of its account there</source>
-        <translation>Der Name seines Kontos dort</translation>
+        <source>Type of the bank account, such as checking (default)</source>
+        <translation>Art des Bankkontos, etwa checking (Standard)</translation>
     </message>
     <message>
-        <source>The kind of account; checking unless given</source>
-        <translation>Die Art des Kontos; ohne Angabe checking</translation>
+        <source>Template, see kiv templates list</source>
+        <translation>Vorlage, siehe kiv templates list</translation>
     </message>
     <message>
-        <source>The account&apos;s balance; 0 otherwise</source>
-        <translation>Der Saldo des Kontos; sonst 0</translation>
+        <source>Create a budget from a template</source>
+        <translation>Ein Budget nach einer Vorlage anlegen</translation>
     </message>
     <message>
-        <source>See templates list</source>
-        <translation>Siehe templates list</translation>
+        <source>Show the templates of kiv wizard</source>
+        <translation>Die Vorlagen von kiv wizard zeigen</translation>
     </message>
     <message>
-        <source>Make a new budget for a kind of household</source>
-        <translation>Ein neues Budget für eine Art von Haushalt anlegen</translation>
+        <source>List all templates</source>
+        <translation>Alle Vorlagen auflisten</translation>
     </message>
     <message>
-        <source>Starter budgets for the wizard</source>
-        <translation>Vorlagen für neue Budgets</translation>
-    </message>
-    <message>
-        <source>List the kinds of household</source>
-        <translation>Die Arten von Haushalten auflisten</translation>
-    </message>
-    <message>
-        <source>Show the budget items of one</source>
-        <translation>Die Budgetposten einer Art zeigen</translation>
+        <source>Show the budget items of a template</source>
+        <translation>Die Budgetposten einer Vorlage zeigen</translation>
     </message>
     <message>
         <source>The exchange rates could not be fetched; try again later, or set them with kiv rates set.</source>
@@ -3679,7 +3567,7 @@
         <translation>Aufruf</translation>
     </message>
     <message>
-        <source>Positionals</source>
+        <source>Arguments</source>
         <translation>Argumente</translation>
     </message>
     <message>
@@ -3691,7 +3579,7 @@
         <translation>OPTIONEN</translation>
     </message>
     <message>
-        <source>SUBCOMMAND</source>
+        <source>COMMAND</source>
         <translation>BEFEHL</translation>
     </message>
     <message>
@@ -3699,16 +3587,16 @@
         <translation>Optionen</translation>
     </message>
     <message>
-        <source>Print this help message and exit</source>
-        <translation>Diese Hilfe ausgeben und enden</translation>
+        <source>Show this help</source>
+        <translation>Diese Hilfe zeigen</translation>
     </message>
     <message>
-        <source>Display program version information and exit</source>
-        <translation>Die Version des Programms ausgeben und enden</translation>
+        <source>Show the version of kiv</source>
+        <translation>Die Version von kiv zeigen</translation>
     </message>
     <message>
-        <source>kiv COMMAND --help tells more about a command.</source>
-        <translation>kiv BEFEHL --help sagt mehr über einen Befehl.</translation>
+        <source>kiv COMMAND --help describes a command.</source>
+        <translation>kiv BEFEHL --help beschreibt einen Befehl.</translation>
     </message>
     <message>
         <source>item</source>
@@ -3835,8 +3723,8 @@
         <translation>Art</translation>
     </message>
     <message>
-        <source>Nothing can be fetched: %1.</source>
-        <translation>Es kann nichts abgerufen werden: %1.</translation>
+        <source>Cannot load the HTTP library: %1.</source>
+        <translation>Die HTTP-Bibliothek kann nicht geladen werden: %1.</translation>
     </message>
     <message>
         <source>The row has %1 cells but there are %2 headings; put quotes around cells that contain the delimiter.</source>
@@ -3851,16 +3739,16 @@
         <translation>„%1“ ist keine Form für ein Datum; sie besteht aus YYYY, MM und DD, etwa DD.MM.YYYY.</translation>
     </message>
     <message>
-        <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
-        <translation>Buchungen: %1; ausgelassene Dubletten: %2; eröffnete Konten: %3.</translation>
+        <source>Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.</source>
+        <translation>Buchungen: %1; übersprungene Dubletten: %2; eröffnete Konten: %3.</translation>
     </message>
     <message>
-        <source>What &apos;%1&apos; is cannot be told from its name; say it with --format: journal, csv, ofx or qif.</source>
-        <translation>Was „%1“ ist, geht aus dem Namen nicht hervor; es mit --format sagen: journal, csv, ofx oder qif.</translation>
+        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx or qif.</source>
+        <translation>Das Format von „%1“ ist nicht erkennbar; mit --format angeben: journal, csv, ofx oder qif.</translation>
     </message>
     <message>
-        <source>Say with --into which account the bank statement is about.</source>
-        <translation>Mit --into sagen, um welches Konto es im Kontoauszug geht.</translation>
+        <source>Give the account of the bank statement with --into.</source>
+        <translation>Das Konto des Kontoauszugs mit --into angeben.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a known encoding; use one like windows-1252 or UTF-16.</source>
@@ -3887,44 +3775,44 @@
         <translation>Der letzte Eintrag ist vielleicht abgeschnitten; die Datei ist neu herunterzuladen oder mit einer Zeile ^ zu beenden.</translation>
     </message>
     <message>
-        <source>The following argument was not expected: %1; --help tells which are.</source>
-        <translation>Das folgende Argument wurde nicht erwartet: %1; --help sagt, welche es gibt.</translation>
+        <source>Unexpected argument: %1</source>
+        <translation>Unerwartetes Argument: %1</translation>
     </message>
     <message>
-        <source>The following arguments were not expected: %1; --help tells which are.</source>
-        <translation>Die folgenden Argumente wurden nicht erwartet: %1; --help sagt, welche es gibt.</translation>
+        <source>Unexpected arguments: %1</source>
+        <translation>Unerwartete Argumente: %1</translation>
     </message>
     <message>
-        <source>The file&apos;s encoding; else the one that it names, or UTF-8</source>
-        <translation>Die Kodierung der Datei; sonst die, die sie nennt, oder UTF-8</translation>
+        <source>Encoding (default: the one named in the file, or UTF-8)</source>
+        <translation>Kodierung (Standard: die in der Datei genannte oder UTF-8)</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
         <translation>„%1“ ist kein Kurs; richtig ist etwa EUR=0.92.</translation>
     </message>
     <message>
-        <source>%1 kiv history tells which former version is whole; copy that file (&apos;%2&apos;, …) into its place.</source>
-        <translation>%1 kiv history sagt, welche frühere Version unbeschädigt ist; diese Datei („%2“, …) ist an ihre Stelle zu kopieren.</translation>
+        <source>%1 Find an intact version with kiv history, then copy its file (such as &apos;%2&apos;) over the damaged one.</source>
+        <translation>%1 Mit kiv history eine unbeschädigte Version suchen, dann deren Datei (etwa „%2“) über die beschädigte kopieren.</translation>
     </message>
     <message>
-        <source>it is larger than 64 MiB, which line %1 exceeds; split it into smaller files</source>
-        <translation>das sind mehr als 64 MiB, die mit Zeile %1 überschritten werden; die Datei ist in kleinere zu teilen</translation>
+        <source>it is larger than 64 MiB (exceeded in line %1); split it into smaller files</source>
+        <translation>sie ist größer als 64 MiB (überschritten in Zeile %1) und in kleinere zu teilen</translation>
     </message>
     <message>
         <source>The checksum is wrong.</source>
         <translation>Die Prüfsumme ist falsch.</translation>
     </message>
     <message>
-        <source>Its header is not whole.</source>
+        <source>Its header is damaged.</source>
         <translation>Ihr Kopf ist beschädigt.</translation>
     </message>
     <message>
-        <source>There is more than a file may hold.</source>
-        <translation>Das ist mehr, als eine Datei fassen darf.</translation>
+        <source>The content is larger than a file may be.</source>
+        <translation>Der Inhalt ist größer, als eine Datei sein darf.</translation>
     </message>
     <message>
-        <source>The surveys do not fit together.</source>
-        <translation>Die Abgleiche passen nicht zueinander.</translation>
+        <source>The surveys contradict each other.</source>
+        <translation>Die Abgleiche widersprechen einander.</translation>
     </message>
     <message>
         <source>There are too many rows.</source>
@@ -3935,12 +3823,12 @@
         <translation>Ein Text ist zu lang.</translation>
     </message>
     <message>
-        <source>%1 needs a value (%2).</source>
-        <translation>%1 braucht einen Wert (%2).</translation>
+        <source>%1 needs a value (%2)</source>
+        <translation>%1 braucht einen Wert (%2)</translation>
     </message>
     <message>
-        <source>%1 was given %3 times, where %2 is the most.</source>
-        <translation>%1 wurde %3-mal angegeben; höchstens %2-mal ist möglich.</translation>
+        <source>%1 was given %3 times, at most %2 is allowed</source>
+        <translation>%1 wurde %3-mal angegeben, höchstens %2-mal ist erlaubt</translation>
     </message>
     <message>
         <source>&apos;%1&apos;</source>
@@ -3975,10 +3863,10 @@
         <translation>ein Journal bindet höchstens %1 Dateien ein</translation>
     </message>
     <message numerus="yes">
-        <source>%n more changes are not shown; --json tells all.</source>
+        <source>%n more changes are not shown; see all with --json.</source>
         <translation>
-            <numerusform>%n weitere Änderung ist nicht gezeigt; --json nennt alle.</numerusform>
-            <numerusform>%n weitere Änderungen sind nicht gezeigt; --json nennt alle.</numerusform>
+            <numerusform>%n weitere Änderung ist nicht gezeigt; --json zeigt alle.</numerusform>
+            <numerusform>%n weitere Änderungen sind nicht gezeigt; --json zeigt alle.</numerusform>
         </translation>
     </message>
     <message>
@@ -4010,8 +3898,8 @@
         <translation>Einträge von „%1“ auf dasselbe Konto werden übersprungen, etwa ein Anfangssaldo.</translation>
     </message>
     <message>
-        <source>How many lines stand below the entries, as of totals (csv)</source>
-        <translation>Wie viele Zeilen unter den Einträgen stehen, etwa Summen (csv)</translation>
+        <source>Number of lines below the entries, such as totals (csv)</source>
+        <translation>Zahl der Zeilen unter den Einträgen, etwa Summen (csv)</translation>
     </message>
     <message>
         <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
@@ -4085,8 +3973,8 @@
         <translation>Datumsangaben in Kommentaren werden übersprungen; jeder Posten hat das Datum seiner Buchung.</translation>
     </message>
     <message>
-        <source>No bank keeps the account &apos;%1&apos;</source>
-        <translation>Keine Bank führt das Konto „%1“</translation>
+        <source>The account &apos;%1&apos; is not assigned to a bank</source>
+        <translation>Das Konto „%1“ ist keiner Bank zugeordnet</translation>
     </message>
     <message>
         <source>Several budget items are named &apos;%1&apos;</source>
@@ -4097,16 +3985,16 @@
         <translation>Die Änderungen von „%1“ ließen sich nicht speichern</translation>
     </message>
     <message>
-        <source>kiv bank-account attach ties it to one</source>
-        <translation>kiv bank-account attach verknüpft es mit einer</translation>
+        <source>assign it with kiv bank-account attach</source>
+        <translation>zuordnen mit kiv bank-account attach</translation>
     </message>
     <message>
         <source>choose one with --kind: %1</source>
         <translation>einer wird mit --kind gewählt: %1</translation>
     </message>
     <message>
-        <source>use save-as first</source>
-        <translation>erst mit save-as sichern</translation>
+        <source>save them elsewhere with save-as</source>
+        <translation>anderswo speichern mit save-as</translation>
     </message>
     <message>
         <source>The table has more than %1 characters up to here, each cell counted as at least %2; split the file.</source>
@@ -4153,15 +4041,15 @@
         <translation>Der Eintrag hat zwei verschiedene Beträge, %1 und %2.</translation>
     </message>
     <message>
-        <source>The column that tells what is not booked yet (csv)</source>
-        <translation>Die Spalte, die sagt, was noch nicht gebucht ist (csv)</translation>
+        <source>Column that marks pending entries (csv)</source>
+        <translation>Spalte, die vorgemerkte Einträge kennzeichnet (csv)</translation>
     </message>
     <message>
-        <source>The column of the balance; - to leave it unchecked (csv)</source>
-        <translation>Die Spalte des Saldos; - lässt ihn ungeprüft (csv)</translation>
+        <source>Column of the balance; - skips its check (csv)</source>
+        <translation>Spalte des Saldos; - überspringt seine Prüfung (csv)</translation>
     </message>
     <message>
-        <source>The reply&apos;s rates are of %1, older than the known ones of %2.</source>
+        <source>The rates of the reply are from %1, older than the known ones from %2.</source>
         <translation>Die Kurse der Antwort sind vom %1 und älter als die bekannten vom %2.</translation>
     </message>
     <message>
@@ -4169,8 +4057,8 @@
         <translation>%1 Sie heißt jetzt „%2“.</translation>
     </message>
     <message>
-        <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
-        <translation>bill, debt, goal, nontrack oder wage: wo sich Namen wiederholen, oder für --all</translation>
+        <source>Kind, if several items have the name, or to limit --all: bill, debt, goal, nontrack or wage</source>
+        <translation>Art, falls mehrere Posten so heißen oder um --all einzuschränken: bill, debt, goal, nontrack oder wage</translation>
     </message>
     <message>
         <source>typed</source>
@@ -4185,19 +4073,19 @@
         <translation>Herkunft</translation>
     </message>
     <message>
-        <source>The service has no exchange rates of these currencies: %1</source>
-        <translation>Der Dienst hat keine Wechselkurse für diese Währungen: %1</translation>
+        <source>The service has no exchange rates for: %1</source>
+        <translation>Der Dienst hat keine Wechselkurse für: %1</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is named twice.</source>
-        <translation>„%1“ wird zweimal genannt.</translation>
+        <source>The currency &apos;%1&apos; is given twice.</source>
+        <translation>Die Währung „%1“ ist zweimal angegeben.</translation>
     </message>
     <message>
         <source>Use either %1 or %2, not both.</source>
         <translation>Entweder %1 oder %2 angeben, nicht beides.</translation>
     </message>
     <message>
-        <source>%1 goes only with %2.</source>
+        <source>Use %1 only together with %2.</source>
         <translation>%1 gilt nur zusammen mit %2.</translation>
     </message>
     <message>
@@ -4217,8 +4105,44 @@
         <translation>Die Bank „%1“ hatte das Konto %2, das weder Vermögen noch Verbindlichkeit ist.</translation>
     </message>
     <message>
-        <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
-        <translation>Der letzte Abgleich des Kontos %1 bei der Bank „%2“ stammt aus der Zeit, als es ein Konto anderer Art war; er gilt für die jetzige Art, sofern es keinen späteren gibt.</translation>
+        <source>The last survey of the account %1 at the bank &apos;%2&apos; is from when the account had another type; it now counts for the present type, unless there is a later one.</source>
+        <translation>Der letzte Abgleich des Kontos %1 bei der Bank „%2“ stammt aus der Zeit, als das Konto eine andere Art hatte; er gilt jetzt für die heutige Art, sofern es keinen späteren gibt.</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Budget file</source>
+        <translation>Budgetdatei</translation>
+    </message>
+    <message>
+        <source>Accounts and transactions</source>
+        <translation>Konten und Buchungen</translation>
+    </message>
+    <message>
+        <source>Budget items</source>
+        <translation>Budgetposten</translation>
+    </message>
+    <message>
+        <source>Banks and statements</source>
+        <translation>Banken und Kontoauszüge</translation>
+    </message>
+    <message>
+        <source>Reports and export</source>
+        <translation>Berichte und Export</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstiges</translation>
+    </message>
+    <message>
+        <source>There are no refundable transactions.</source>
+        <translation>Es gibt keine erstattbaren Buchungen.</translation>
     </message>
     <message>
         <source>The entry has no amount.</source>

@@ -60,17 +60,17 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Took the reconciliation of the transactions %1 back.</source>
+        <source>Undid the reconciliation of the transactions %1.</source>
         <translation>
-            <numerusform>Took the reconciliation of the transaction %1 back.</numerusform>
-            <numerusform>Took the reconciliation of the transactions %1 back.</numerusform>
+            <numerusform>Undid the reconciliation of the transaction %1.</numerusform>
+            <numerusform>Undid the reconciliation of the transactions %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n more changes are not shown; --json tells all.</source>
+        <source>%n more changes are not shown; see all with --json.</source>
         <translation>
-            <numerusform>%n more change is not shown; --json tells all.</numerusform>
-            <numerusform>%n more changes are not shown; --json tells all.</numerusform>
+            <numerusform>%n more change is not shown; see all with --json.</numerusform>
+            <numerusform>%n more changes are not shown; see all with --json.</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -36,8 +36,8 @@
         <translation>La cuenta «%1» necesita un número mayor que 0.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot have a number that the account &apos;%2&apos; has.</source>
-        <translation>La cuenta «%1» no puede tener un número que ya tiene la cuenta «%2».</translation>
+        <source>The account &apos;%1&apos; cannot have the number of the account &apos;%2&apos;.</source>
+        <translation>La cuenta «%1» no puede tener el número de la cuenta «%2».</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; needs a type.</source>
@@ -52,8 +52,8 @@
         <translation>La cuenta «%1» de tipo %2 no puede depender de la cuenta «%3» de tipo %4.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;, which is itself or stands below it.</source>
-        <translation>La cuenta «%1» no puede depender de la cuenta «%2», que es ella misma o depende de ella.</translation>
+        <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;, which is the same account or stands under it.</source>
+        <translation>La cuenta «%1» no puede depender de la cuenta «%2», que es la misma o depende de ella.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; cannot stand under the account &apos;%2&apos;: accounts can be nested at most %3 deep.</source>
@@ -80,8 +80,8 @@
         <translation>La cuenta «%1» no se puede eliminar mientras tenga asientos.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot be removed while the transaction %2, which opened it, is reconciled.</source>
-        <translation>La cuenta «%1» no se puede eliminar mientras el asiento %2, que la abrió, esté conciliado.</translation>
+        <source>The account &apos;%1&apos; cannot be removed while its opening transaction %2 is reconciled.</source>
+        <translation>La cuenta «%1» no se puede eliminar mientras su asiento de apertura, %2, esté conciliado.</translation>
     </message>
     <message>
         <source>The amounts of the account &apos;%1&apos; would become too large.</source>
@@ -92,8 +92,8 @@
         <translation>La cuenta «%1» no se puede llevar en %2, porque el importe de su asiento %3 no se puede convertir.</translation>
     </message>
     <message>
-        <source>The account &apos;%1&apos; cannot be kept in %2, in which the %3 of its transaction %4 come to nothing.</source>
-        <translation>La cuenta «%1» no se puede llevar en %2, moneda en la que los %3 de su asiento %4 quedan en nada.</translation>
+        <source>The account &apos;%1&apos; cannot be kept in %2: the %3 of its transaction %4 would round to zero.</source>
+        <translation>La cuenta «%1» no se puede llevar en %2: los %3 de su asiento %4 se redondearían a cero.</translation>
     </message>
     <message>
         <source>The account &apos;%1&apos; of type %2 cannot hold opening balances.</source>
@@ -132,24 +132,24 @@
         <translation>El importe %1 no se puede convertir a %2.</translation>
     </message>
     <message>
-        <source>The amount %1 comes to nothing in %2.</source>
-        <translation>El importe %1 queda en nada en %2.</translation>
+        <source>The amount %1 rounds to zero in %2.</source>
+        <translation>El importe %1 se redondea a cero en %2.</translation>
     </message>
     <message>
         <source>The ledger is full: it holds at most 65,535 transactions.</source>
         <translation>El libro mayor está lleno: admite como máximo 65.535 asientos.</translation>
     </message>
     <message>
-        <source>The transaction %1 is reconciled and cannot be changed before it is unreconciled.</source>
-        <translation>El asiento %1 está conciliado y no se puede cambiar antes de anular su conciliación.</translation>
+        <source>The transaction %1 is reconciled; undo its reconciliation before you change it.</source>
+        <translation>El asiento %1 está conciliado; antes de cambiarlo hay que anular su conciliación.</translation>
     </message>
     <message>
-        <source>The account %1 has no part in the transaction %2.</source>
+        <source>The account %1 is not part of the transaction %2.</source>
         <translation>La cuenta %1 no interviene en el asiento %2.</translation>
     </message>
     <message>
-        <source>The transaction %1 opened the account &apos;%2&apos; and cannot leave it.</source>
-        <translation>El asiento %1 abrió la cuenta «%2» y no puede salir de ella.</translation>
+        <source>The transaction %1 opened the account &apos;%2&apos; and must stay in it.</source>
+        <translation>El asiento %1 abrió la cuenta «%2» y debe seguir en ella.</translation>
     </message>
     <message>
         <source>The transaction %1 is a refund of the transaction %2 and cannot be refunded itself.</source>
@@ -180,8 +180,8 @@
         <translation>Un asiento guardado no tiene número.</translation>
     </message>
     <message>
-        <source>The transaction number %1 stands for two transactions.</source>
-        <translation>El número de asiento %1 corresponde a dos asientos.</translation>
+        <source>Two transactions have the number %1.</source>
+        <translation>Dos asientos tienen el número %1.</translation>
     </message>
     <message>
         <source>The transaction %1 cannot have the amount %2 in the account &apos;%3&apos;.</source>
@@ -220,8 +220,8 @@
         <translation>crítica</translation>
     </message>
     <message>
-        <source>%1 % of the income is planned; %2 % is all there is.</source>
-        <translation>El %1 % de los ingresos está asignado; el %2 % es todo lo que hay.</translation>
+        <source>%1 % of the income is planned; at most %2 % is possible.</source>
+        <translation>El %1 % de los ingresos está asignado; como máximo es posible el %2 %.</translation>
     </message>
     <message>
         <source>Bills and debts take %1 % of the income; up to %2 % is sound.</source>
@@ -244,8 +244,8 @@
         <translation>No hay ingresos con los que pagar los gastos.</translation>
     </message>
     <message>
-        <source>There is neither income nor spending to judge.</source>
-        <translation>No hay ni ingresos ni gastos que valorar.</translation>
+        <source>There is no income and no spending yet.</source>
+        <translation>Todavía no hay ingresos ni gastos.</translation>
     </message>
     <message>
         <source>checking</source>
@@ -416,20 +416,20 @@
         <translation>La partida «%1» necesita una próxima fecha válida.</translation>
     </message>
     <message>
-        <source>The amount of the budget item &apos;%1&apos; cannot be negative, as %2 is.</source>
-        <translation>El importe de la partida «%1» no puede ser negativo, como lo es %2.</translation>
+        <source>The amount of the budget item &apos;%1&apos; cannot be negative, but is %2.</source>
+        <translation>El importe de la partida «%1» no puede ser negativo, pero es %2.</translation>
     </message>
     <message>
         <source>The budget item &apos;%1&apos; cannot recur on day %2 of a month.</source>
         <translation>La partida «%1» no puede repetirse el día %2 de un mes.</translation>
     </message>
     <message>
-        <source>What is not scheduled has no next date to move on to.</source>
-        <translation>Lo que no está programado no tiene una próxima fecha a la que pasar.</translation>
+        <source>A budget item without a frequency has no next date.</source>
+        <translation>Una partida sin frecuencia no tiene próxima fecha.</translation>
     </message>
     <message>
-        <source>There is no date after %1 for what recurs %2.</source>
-        <translation>No hay ninguna fecha después del %1 para lo que se repite así: %2.</translation>
+        <source>A budget item with the frequency &apos;%2&apos; has no date after %1.</source>
+        <translation>Una partida con la frecuencia «%2» no tiene ninguna fecha después del %1.</translation>
     </message>
     <message>
         <source>The exchange rate of &apos;%1&apos; must be a positive number between 10^-12 and 10^12.</source>
@@ -440,36 +440,36 @@
         <translation>El tipo de cambio de la moneda base «%1» debe ser 1.</translation>
     </message>
     <message>
-        <source>Exchange rates must be given for a base currency.</source>
-        <translation>Los tipos de cambio deben referirse a una moneda base.</translation>
+        <source>Exchange rates need a base currency.</source>
+        <translation>Los tipos de cambio necesitan una moneda base.</translation>
     </message>
     <message>
-        <source>Exchange rates must have the time they were fetched at.</source>
-        <translation>Los tipos de cambio deben llevar la hora en que se obtuvieron.</translation>
+        <source>Exchange rates need the time when they were fetched.</source>
+        <translation>Los tipos de cambio necesitan la hora en que se obtuvieron.</translation>
     </message>
     <message>
         <source>There is no exchange rate from &apos;%1&apos; to &apos;%2&apos;; fetch the rates, or set it by hand.</source>
         <translation>No hay ningún tipo de cambio de «%1» a «%2»; hay que obtenerlo o fijarlo a mano.</translation>
     </message>
     <message>
-        <source>The reply&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
-        <translation>El elemento «%1» de la respuesta falta o no tiene sentido.</translation>
+        <source>The member &apos;%1&apos; of the reply is missing or invalid.</source>
+        <translation>El elemento «%1» de la respuesta falta o no es válido.</translation>
     </message>
     <message>
-        <source>The reply names an unknown currency &apos;%1&apos;.</source>
-        <translation>La respuesta nombra una moneda desconocida, «%1».</translation>
+        <source>The reply contains the unknown currency &apos;%1&apos;.</source>
+        <translation>La respuesta contiene la moneda desconocida «%1».</translation>
     </message>
     <message>
         <source>No answer came in time.</source>
         <translation>No llegó ninguna respuesta a tiempo.</translation>
     </message>
     <message>
-        <source>The source of the rates was destroyed before it answered.</source>
+        <source>The source of the rates was closed before it answered.</source>
         <translation>La fuente de los tipos de cambio se cerró antes de responder.</translation>
     </message>
     <message>
-        <source>There is nothing left to send requests with.</source>
-        <translation>Ya no queda nada con que enviar peticiones.</translation>
+        <source>Requests can no longer be sent.</source>
+        <translation>Ya no se pueden enviar peticiones.</translation>
     </message>
     <message>
         <source>The reply has none of the wanted rates.</source>
@@ -825,12 +825,12 @@
         <translation>fecha</translation>
     </message>
     <message>
-        <source>The request manager was destroyed before the answer came.</source>
+        <source>The connection was closed before the answer came.</source>
         <translation>La conexión se cerró antes de que llegara la respuesta.</translation>
     </message>
     <message>
-        <source>There is nothing to send requests with.</source>
-        <translation>No hay nada con que enviar peticiones.</translation>
+        <source>Requests cannot be sent.</source>
+        <translation>No se pueden enviar peticiones.</translation>
     </message>
     <message>
         <source>Only HTTPS is allowed, and plain HTTP to the loopback address.</source>
@@ -857,7 +857,7 @@
         <translation>El servidor respondió con el estado %1.</translation>
     </message>
     <message>
-        <source>The reply is compressed although that was not asked for.</source>
+        <source>The reply is compressed, which was not requested.</source>
         <translation>La respuesta está comprimida, aunque no se pidió.</translation>
     </message>
     <message>
@@ -865,19 +865,19 @@
         <translation>La transferencia de datos falló (%1).</translation>
     </message>
     <message>
-        <source>The reply&apos;s type is &apos;%1&apos; and not JSON.</source>
-        <translation>La respuesta es de tipo «%1» y no JSON.</translation>
+        <source>The reply is not JSON; its type is &apos;%1&apos;.</source>
+        <translation>La respuesta no es JSON; es de tipo «%1».</translation>
     </message>
     <message>
         <source>The reply is not JSON: %1 at byte %2.</source>
         <translation>La respuesta no es JSON: %1 en el byte %2.</translation>
     </message>
     <message>
-        <source>The reply names a member twice.</source>
-        <translation>La respuesta nombra un elemento dos veces.</translation>
+        <source>The reply contains a member twice.</source>
+        <translation>La respuesta contiene un elemento dos veces.</translation>
     </message>
     <message>
-        <source>Mended while loading: %1</source>
+        <source>Repaired while loading: %1</source>
         <translation>Reparado al cargar: %1</translation>
     </message>
     <message>
@@ -893,8 +893,8 @@
         <translation>No se eligió ningún archivo.</translation>
     </message>
     <message>
-        <source>No file can have the name &apos;%1&apos;.</source>
-        <translation>Ningún archivo puede llamarse «%1».</translation>
+        <source>&apos;%1&apos; is not a valid file name.</source>
+        <translation>«%1» no es un nombre de archivo válido.</translation>
     </message>
     <message>
         <source>There is no file &apos;%1&apos;.</source>
@@ -913,16 +913,16 @@
         <translation>No se pudo leer el archivo «%1»: %2.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is larger than such a file can be.</source>
-        <translation>El archivo «%1» es mayor de lo que puede ser un archivo así.</translation>
+        <source>The file &apos;%1&apos; is too large.</source>
+        <translation>El archivo «%1» es demasiado grande.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is empty.</source>
         <translation>El archivo «%1» está vacío.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; is not of the kind that is used here.</source>
-        <translation>El archivo «%1» no es del tipo que se usa aquí.</translation>
+        <source>The file &apos;%1&apos; was not written by this program.</source>
+        <translation>El archivo «%1» no es de este programa.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; was written by a newer version of this program.</source>
@@ -949,12 +949,12 @@
         <translation>No se pudo guardar el archivo «%1»: %2.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; could not be saved: what was written reads back otherwise.</source>
-        <translation>No se pudo guardar el archivo «%1»: lo escrito se lee de otra manera.</translation>
+        <source>The file &apos;%1&apos; could not be saved: it cannot be read back as it was written.</source>
+        <translation>No se pudo guardar el archivo «%1»: no se puede leer tal como se escribió.</translation>
     </message>
     <message>
-        <source>The file &apos;%1&apos; was not saved: it cannot hold what it should.</source>
-        <translation>No se guardó el archivo «%1»: no puede contener lo que debería.</translation>
+        <source>The file &apos;%1&apos; was not saved: it cannot hold this budget.</source>
+        <translation>No se guardó el archivo «%1»: no puede contener este presupuesto.</translation>
     </message>
     <message>
         <source>process %1, %2 on %3</source>
@@ -985,8 +985,8 @@
         <translation>El banco «%1» tenía la cuenta %2, que ya no existe.</translation>
     </message>
     <message>
-        <source>An increase or a decrease cannot be negative, as %1 is.</source>
-        <translation>Un aumento o una disminución no puede ser negativo, como lo es %1.</translation>
+        <source>An increase or a decrease cannot be negative, but is %1.</source>
+        <translation>Un aumento o una disminución no puede ser negativo, pero es %1.</translation>
     </message>
     <message>
         <source>A survey cannot be completed without a valid date.</source>
@@ -997,8 +997,8 @@
         <translation>«%1» no es una versión.</translation>
     </message>
     <message>
-        <source>The release&apos;s member &apos;%1&apos; is missing or makes no sense.</source>
-        <translation>El elemento «%1» de la versión publicada falta o no tiene sentido.</translation>
+        <source>The member &apos;%1&apos; of the release is missing or invalid.</source>
+        <translation>El elemento «%1» de la versión publicada falta o no es válido.</translation>
     </message>
     <message>
         <source>The reply is not a list of releases.</source>
@@ -1673,16 +1673,16 @@
         <translation>Pagos fuera del presupuesto según la conciliación.</translation>
     </message>
     <message>
-        <source>Cannot convert between currencies, because what looked up the exchange rates has been closed.</source>
-        <translation>No se puede convertir entre monedas, porque se cerró lo que consultaba los tipos de cambio.</translation>
+        <source>Cannot convert between currencies: the source of the exchange rates is closed.</source>
+        <translation>No se puede convertir entre monedas: la fuente de los tipos de cambio está cerrada.</translation>
     </message>
     <message>
         <source>The user preferences file, %1, is not writable.</source>
         <translation>No se puede escribir en el archivo de preferencias, %1.</translation>
     </message>
     <message>
-        <source>A command is missing; --help lists those that there are.</source>
-        <translation>Falta una orden; --help enumera las que hay.</translation>
+        <source>No command given</source>
+        <translation>No se indicó ninguna orden</translation>
     </message>
     <message>
         <source>closed</source>
@@ -1753,10 +1753,6 @@
         <translation>Tipo</translation>
     </message>
     <message>
-        <source>It keeps no accounts.</source>
-        <translation>No lleva ninguna cuenta.</translation>
-    </message>
-    <message>
         <source>Added the bank &apos;%1&apos;.</source>
         <translation>Se añadió el banco «%1».</translation>
     </message>
@@ -1765,16 +1761,16 @@
         <translation>El banco se llama ahora «%1».</translation>
     </message>
     <message>
-        <source>Added the account %1 at the bank &apos;%2&apos;.</source>
-        <translation>Se añadió la cuenta %1 en el banco «%2».</translation>
+        <source>Added the account %1 to the bank &apos;%2&apos;.</source>
+        <translation>Se añadió la cuenta %1 al banco «%2».</translation>
     </message>
     <message>
-        <source>The bank &apos;%1&apos; keeps the account %2 now.</source>
-        <translation>El banco «%1» lleva ahora la cuenta %2.</translation>
+        <source>Assigned the account %2 to the bank &apos;%1&apos;.</source>
+        <translation>Se asignó la cuenta %2 al banco «%1».</translation>
     </message>
     <message>
-        <source>The bank &apos;%1&apos; no longer keeps the account %2.</source>
-        <translation>El banco «%1» ya no lleva la cuenta %2.</translation>
+        <source>Separated the account %2 from the bank &apos;%1&apos;.</source>
+        <translation>Se separó la cuenta %2 del banco «%1».</translation>
     </message>
     <message>
         <source>Closed the bank &apos;%1&apos;.</source>
@@ -1797,7 +1793,7 @@
         <translation>Se eliminó la cuenta bancaria %1.</translation>
     </message>
     <message>
-        <source>Made the empty budget &apos;%1&apos;.</source>
+        <source>Created the empty budget &apos;%1&apos;.</source>
         <translation>Se creó el presupuesto vacío «%1».</translation>
     </message>
     <message>
@@ -1845,12 +1841,12 @@
         <translation>Monedas utilizables</translation>
     </message>
     <message>
-        <source>Currencies are shown by</source>
-        <translation>Las monedas se muestran con</translation>
+        <source>Display of currencies</source>
+        <translation>Presentación de las monedas</translation>
     </message>
     <message>
-        <source>Days in which items count as due</source>
-        <translation>Días en que las partidas cuentan como vencidas</translation>
+        <source>Due items shown ahead, in days</source>
+        <translation>Vencimientos con antelación, en días</translation>
     </message>
     <message>
         <source>Survey window</source>
@@ -1944,20 +1940,20 @@
         <translation>Omitido: «%2» (%1), que vencía el %3; el próximo vencimiento es el %4.</translation>
     </message>
     <message>
-        <source>patterns are not followed; name each file</source>
-        <translation>no se siguen patrones; nombre cada archivo</translation>
+        <source>patterns are not supported; name each file</source>
+        <translation>no se admiten patrones; hay que nombrar cada archivo</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>no existe tal archivo</translation>
+        <source>the file does not exist</source>
+        <translation>el archivo no existe</translation>
     </message>
     <message>
-        <source>it is outside of the journal&apos;s own folder</source>
+        <source>it is outside the folder of the journal</source>
         <translation>está fuera de la carpeta del diario</translation>
     </message>
     <message>
-        <source>all files together are too large</source>
-        <translation>todos los archivos juntos son demasiado grandes</translation>
+        <source>all files together are larger than 64 MiB</source>
+        <translation>todos los archivos juntos superan los 64 MiB</translation>
     </message>
     <message>
         <source>Entries with amount zero are skipped.</source>
@@ -2036,11 +2032,11 @@
         <translation>No hay nada.</translation>
     </message>
     <message>
-        <source>For one %1, as of %2 (no longer current)</source>
+        <source>For 1 %1, as of %2 (out of date)</source>
         <translation>Por 1 %1, a %2 (ya no está al día)</translation>
     </message>
     <message>
-        <source>For one %1, as of %2</source>
+        <source>For 1 %1, as of %2</source>
         <translation>Por 1 %1, a %2</translation>
     </message>
     <message>
@@ -2052,16 +2048,16 @@
         <translation>Tipo</translation>
     </message>
     <message>
-        <source>No exchange rates are known.</source>
-        <translation>No se conoce ningún tipo de cambio.</translation>
+        <source>There are no exchange rates; use kiv rates fetch or kiv rates set.</source>
+        <translation>No hay tipos de cambio; se obtienen con kiv rates fetch o se fijan con kiv rates set.</translation>
     </message>
     <message>
         <source>fetching exchange rates …</source>
         <translation>obteniendo los tipos de cambio …</translation>
     </message>
     <message>
-        <source>No newer release is announced.</source>
-        <translation>No se anuncia ninguna versión más reciente.</translation>
+        <source>There is no newer release.</source>
+        <translation>No hay ninguna versión más reciente.</translation>
     </message>
     <message>
         <source>There is a newer release: %1.</source>
@@ -2100,12 +2096,12 @@
         <translation>Última conciliación</translation>
     </message>
     <message>
-        <source>Balance then</source>
-        <translation>Saldo entonces</translation>
+        <source>Reconciled balance</source>
+        <translation>Saldo conciliado</translation>
     </message>
     <message>
-        <source>Changes counted from</source>
-        <translation>Cambios contados desde</translation>
+        <source>Changes since</source>
+        <translation>Cambios desde</translation>
     </message>
     <message>
         <source>Expected balance</source>
@@ -2140,8 +2136,8 @@
         <translation>Esperado</translation>
     </message>
     <message>
-        <source>There is nothing to set aside for.</source>
-        <translation>No hay nada para lo que apartar dinero.</translation>
+        <source>There are no items to set money aside for.</source>
+        <translation>No hay partidas para las que apartar dinero.</translation>
     </message>
     <message>
         <source>Not distributed</source>
@@ -2152,24 +2148,28 @@
         <translation>Se concilió %1 en %2 con un saldo de %3.</translation>
     </message>
     <message>
-        <source>Does the statement show %1 %2 &apos;%3&apos;, %4?</source>
-        <translation>¿Aparece en el extracto %1 %2 «%3», %4?</translation>
+        <source>Is transaction %1 of %2, &apos;%3&apos;, %4, on the statement?</source>
+        <translation>¿Está en el extracto el asiento %1 del %2, «%3», %4?</translation>
     </message>
     <message>
-        <source>The statement&apos;s balance</source>
+        <source>Balance of the statement</source>
         <translation>Saldo del extracto</translation>
     </message>
     <message>
-        <source>Money for an item that is not booked, as ITEM=AMOUNT</source>
+        <source>Unbooked money of an item, as ITEM=AMOUNT</source>
         <translation>Dinero sin registrar de una partida, como PARTIDA=IMPORTE</translation>
     </message>
     <message>
-        <source>Money for another account, as ACCOUNT=AMOUNT</source>
-        <translation>Dinero de otra cuenta, como CUENTA=IMPORTE</translation>
+        <source>Unbooked money of another account, as ACCOUNT=AMOUNT</source>
+        <translation>Dinero sin registrar de otra cuenta, como CUENTA=IMPORTE</translation>
     </message>
     <message>
-        <source>What is set aside for an item, as ITEM=AMOUNT</source>
-        <translation>Lo que se aparta para una partida, como PARTIDA=IMPORTE</translation>
+        <source>Amount to set aside for an item, as ITEM=AMOUNT</source>
+        <translation>Importe que se aparta para una partida, como PARTIDA=IMPORTE</translation>
+    </message>
+    <message>
+        <source>(empty to continue)</source>
+        <translation>(vacío: continuar)</translation>
     </message>
     <message>
         <source>Complete the survey?</source>
@@ -2190,28 +2190,28 @@
 </translation>
     </message>
     <message>
-        <source>The command ended otherwise than expected.</source>
-        <translation>La orden terminó de otra manera que la esperada.</translation>
+        <source>The tour stopped: the last command gave an unexpected exit status.</source>
+        <translation>El recorrido se detuvo: la última orden dio un estado de salida inesperado.</translation>
     </message>
     <message>
-        <source>A new budget, kept in US dollars, with a bank and its checking account</source>
-        <translation>Un presupuesto nuevo, llevado en dólares, con un banco y su cuenta corriente</translation>
+        <source>A new budget in US dollars, with a bank and a checking account</source>
+        <translation>Un presupuesto nuevo en dólares, con un banco y una cuenta corriente</translation>
     </message>
     <message>
-        <source>What comes in, and what goes out</source>
-        <translation>Lo que entra y lo que sale</translation>
+        <source>Wages and bills, with the days when they are due</source>
+        <translation>Salarios y facturas, con los días en que vencen</translation>
     </message>
     <message>
-        <source>What is due is posted; the studio is closed this month</source>
-        <translation>Se registra lo que vence; el gimnasio está cerrado este mes</translation>
+        <source>Due items are posted; the fitness studio is closed this month and is skipped</source>
+        <translation>Se registra lo que vence; el gimnasio está cerrado este mes y se omite</translation>
     </message>
     <message>
-        <source>No account may bear a budget item&apos;s name: refused, nothing changed</source>
-        <translation>Ninguna cuenta puede llamarse como una partida: rechazado, nada ha cambiado</translation>
+        <source>An account cannot have the name of a budget item: kiv refuses and changes nothing</source>
+        <translation>Una cuenta no puede llamarse como una partida: kiv lo rechaza y no cambia nada</translation>
     </message>
     <message>
-        <source>Every change above was saved at once; here the file is opened again</source>
-        <translation>Cada cambio anterior se guardó al momento; aquí el archivo se abre de nuevo</translation>
+        <source>Every change was saved at once; each command opens the file again</source>
+        <translation>Cada cambio se guardó al momento; cada orden vuelve a abrir el archivo</translation>
     </message>
     <message>
         <source>The debits do not equal the credits.</source>
@@ -2259,22 +2259,22 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>Took the reconciliation of the transactions %1 back.</source>
+        <source>Undid the reconciliation of the transactions %1.</source>
         <translation>
             <numerusform>Se anuló la conciliación del asiento %1.</numerusform>
             <numerusform>Se anuló la conciliación de los asientos %1.</numerusform>
         </translation>
     </message>
     <message>
-        <source>The budget is again as it was saved at %1.</source>
-        <translation>El presupuesto vuelve a estar como se guardó el %1.</translation>
+        <source>Restored the version saved at %1.</source>
+        <translation>Se restauró la versión guardada el %1.</translation>
     </message>
     <message>
-        <source>That changes nothing in it.</source>
-        <translation>Eso no cambia nada en él.</translation>
+        <source>Both versions are the same.</source>
+        <translation>Ambas versiones son iguales.</translation>
     </message>
     <message>
-        <source>not whole</source>
+        <source>damaged</source>
         <translation>dañada</translation>
     </message>
     <message>
@@ -2286,15 +2286,7 @@
         <translation>Guardada el</translation>
     </message>
     <message>
-        <source>They hold the same.</source>
-        <translation>Contienen lo mismo.</translation>
-    </message>
-    <message>
-        <source>It has no budget items.</source>
-        <translation>No tiene partidas.</translation>
-    </message>
-    <message>
-        <source>Made the budget &apos;%1&apos;.</source>
+        <source>Created the budget &apos;%1&apos;.</source>
         <translation>Se creó el presupuesto «%1».</translation>
     </message>
     <message>
@@ -2322,24 +2314,24 @@
         <translation>Un nombre no puede estar vacío.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a date; write one like 2026-03-31, with a day that exists.</source>
-        <translation>«%1» no es una fecha; debe ser como 2026-03-31, con un día que exista.</translation>
+        <source>&apos;%1&apos; is not a valid date; write one like 2026-03-31.</source>
+        <translation>«%1» no es una fecha válida; debe ser como 2026-03-31.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not an amount; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
         <translation>«%1» no es un importe; debe ser como 1234.50 o &apos;1234.50 USD&apos;.</translation>
     </message>
     <message>
-        <source>The amount &apos;%1&apos; is too large to be kept exactly.</source>
-        <translation>El importe «%1» es demasiado grande para conservarlo con exactitud.</translation>
+        <source>The amount &apos;%1&apos; is too large.</source>
+        <translation>El importe «%1» es demasiado grande.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not an amount of %2, which has no minor unit.</source>
-        <translation>«%1» no es un importe en %2, moneda que no tiene unidad menor.</translation>
+        <source>&apos;%1&apos; is not an amount in %2, which has no decimals.</source>
+        <translation>«%1» no es un importe en %2, moneda que no tiene decimales.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; has more digits behind the point than the %2 of %3.</source>
-        <translation>«%1» tiene más decimales que los %2 de %3.</translation>
+        <source>&apos;%1&apos; has too many decimals; %3 allows %2.</source>
+        <translation>«%1» tiene demasiados decimales; %3 admite %2.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a currency</source>
@@ -2358,7 +2350,7 @@
         <translation>«%1» no es un porcentaje; debe ser como 2.75.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is none of: %2</source>
+        <source>&apos;%1&apos; is not one of: %2</source>
         <translation>«%1» no es ninguno de estos valores: %2</translation>
     </message>
     <message>
@@ -2366,15 +2358,15 @@
         <translation>Falta %1.</translation>
     </message>
     <message>
-        <source>Nothing to change was given; --help lists what can be changed.</source>
-        <translation>No se indicó nada que cambiar; --help enumera lo que se puede cambiar.</translation>
+        <source>No change given; see --help.</source>
+        <translation>No se indicó ningún cambio; véase --help.</translation>
     </message>
     <message>
-        <source>Version 0 is the file itself; kiv history lists the former ones.</source>
-        <translation>La versión 0 es el propio archivo; kiv history enumera las anteriores.</translation>
+        <source>Version 0 is the file itself; see kiv history for older ones.</source>
+        <translation>La versión 0 es el propio archivo; las anteriores se ven con kiv history.</translation>
     </message>
     <message>
-        <source>No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.</source>
+        <source>No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.</source>
         <translation>No se indicó ningún archivo de presupuesto; se indica con --file o la variable KIV_FILE, o se crea con kiv new ARCHIVO.</translation>
     </message>
     <message>
@@ -2382,28 +2374,20 @@
         <translation>«%1» no tiene la forma NOMBRE=VALOR.</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no command</source>
-        <translation>«%1» no es una orden</translation>
+        <source>There is no command &apos;%1&apos;</source>
+        <translation>No hay ninguna orden «%1»</translation>
     </message>
     <message>
-        <source>kiv --help lists those that there are</source>
-        <translation>kiv --help enumera las que hay</translation>
+        <source>There is no option &apos;%1&apos;</source>
+        <translation>No hay ninguna opción «%1»</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is no option of this command</source>
-        <translation>«%1» no es una opción de esta orden</translation>
+        <source>A closing quote is missing.</source>
+        <translation>Faltan las comillas de cierre.</translation>
     </message>
     <message>
-        <source>--help lists those that there are</source>
-        <translation>--help enumera las que hay</translation>
-    </message>
-    <message>
-        <source>A quote is not closed.</source>
-        <translation>Unas comillas no están cerradas.</translation>
-    </message>
-    <message>
-        <source>&apos;%1&apos; cannot name a profile; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
-        <translation>«%1» no puede nombrar un perfil; se admiten letras, cifras, «-» y «_».</translation>
+        <source>&apos;%1&apos; is not a profile name; use letters, digits, &apos;-&apos; and &apos;_&apos;.</source>
+        <translation>«%1» no es un nombre de perfil; se admiten letras, cifras, «-» y «_».</translation>
     </message>
     <message>
         <source>Cannot understand %1: %2.</source>
@@ -2414,47 +2398,39 @@
         <translation>No hay ninguna cuenta «%1»</translation>
     </message>
     <message>
-        <source>kiv accounts lists those that there are</source>
-        <translation>kiv accounts enumera las que hay</translation>
+        <source>see %1</source>
+        <translation>véase %1</translation>
     </message>
     <message>
-        <source>Several accounts are named &apos;%1&apos;; give the number of one: %2.</source>
-        <translation>Varias cuentas se llaman «%1»; hay que indicar el número de una: %2.</translation>
+        <source>Several accounts are named &apos;%1&apos;; use one of the numbers %2.</source>
+        <translation>Varias cuentas se llaman «%1»; se indica uno de estos números: %2.</translation>
     </message>
     <message>
         <source>There is no bank &apos;%1&apos;</source>
         <translation>No hay ningún banco «%1»</translation>
     </message>
     <message>
-        <source>kiv banks lists those that there are</source>
-        <translation>kiv banks enumera los que hay</translation>
-    </message>
-    <message>
         <source>There is no %1 &apos;%2&apos;</source>
         <translation>No existe «%2» (%1)</translation>
-    </message>
-    <message>
-        <source>kiv %1 list shows those that there are</source>
-        <translation>kiv %1 list muestra lo que hay</translation>
     </message>
     <message>
         <source>There is no budget item &apos;%1&apos;</source>
         <translation>No hay ninguna partida «%1»</translation>
     </message>
     <message>
-        <source>kiv bill list and the like show those that there are</source>
-        <translation>kiv bill list y similares muestran lo que hay</translation>
+        <source>see kiv bill list (or debt, goal, nontrack, wage)</source>
+        <translation>véase kiv bill list (o debt, goal, nontrack, wage)</translation>
     </message>
     <message>
-        <source>The answers ended before the questions.</source>
-        <translation>Las respuestas se acabaron antes que las preguntas.</translation>
+        <source>The input ended before the last question; nothing is saved.</source>
+        <translation>La entrada terminó antes de la última pregunta; no se guarda nada.</translation>
     </message>
     <message>
-        <source>The survey was not completed.</source>
-        <translation>La conciliación no se completó.</translation>
+        <source>The survey was not completed; nothing is saved.</source>
+        <translation>La conciliación no se completó; no se guarda nada.</translation>
     </message>
     <message>
-        <source>The budget could not be made.</source>
+        <source>The budget could not be created.</source>
         <translation>No se pudo crear el presupuesto.</translation>
     </message>
     <message>
@@ -2462,23 +2438,15 @@
         <translation>No hay ninguna etiqueta «%1»</translation>
     </message>
     <message>
-        <source>kiv tags list shows those that there are</source>
-        <translation>kiv tags list muestra las que hay</translation>
+        <source>There is no version %1</source>
+        <translation>No hay ninguna versión %1</translation>
     </message>
     <message>
-        <source>There is no former version %1</source>
-        <translation>No hay ninguna versión anterior %1</translation>
+        <source>this budget has no older versions</source>
+        <translation>este presupuesto no tiene versiones anteriores</translation>
     </message>
     <message>
-        <source>none was kept of this budget</source>
-        <translation>no se conservó ninguna de este presupuesto</translation>
-    </message>
-    <message>
-        <source>kiv history lists those that are kept</source>
-        <translation>kiv history enumera las que se conservan</translation>
-    </message>
-    <message>
-        <source>The version in &apos;%1&apos; is not whole.</source>
+        <source>The version in &apos;%1&apos; is damaged.</source>
         <translation>La versión de «%1» está dañada.</translation>
     </message>
     <message>
@@ -2486,28 +2454,28 @@
         <translation>«%3» (%1) no se puede procesar mientras haya otra partida (%2) con el mismo nombre; hay que cambiar el nombre de una.</translation>
     </message>
     <message>
-        <source>Money can be moved out of an asset account that a bank keeps, which &apos;%1&apos; is not.</source>
-        <translation>El dinero solo puede salir de una cuenta de activo que lleve un banco, y «%1» no lo es.</translation>
+        <source>Cannot transfer from &apos;%1&apos;; choose an asset account of a bank.</source>
+        <translation>No se puede traspasar desde «%1»; debe ser una cuenta de activo de un banco.</translation>
     </message>
     <message>
-        <source>Money can be moved into an asset account that a bank keeps and that stands under no other, which &apos;%1&apos; is not.</source>
-        <translation>El dinero solo puede entrar en una cuenta de activo que lleve un banco y que no dependa de otra, y «%1» no lo es.</translation>
+        <source>Cannot transfer to &apos;%1&apos;; choose an asset account of a bank without a parent account.</source>
+        <translation>No se puede traspasar a «%1»; debe ser una cuenta de activo de un banco sin cuenta superior.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
         <translation>No hay ningún asiento %1</translation>
     </message>
     <message>
-        <source>kiv transactions lists those that there are</source>
-        <translation>kiv transactions enumera los que hay</translation>
+        <source>There is no profile &apos;%1&apos;; save one with --save-profile.</source>
+        <translation>No hay ningún perfil «%1»; se guarda uno con --save-profile.</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos; among: %2.</source>
-        <translation>No hay ningún perfil «%1» entre: %2.</translation>
+        <source>There is no profile &apos;%1&apos;; saved profiles: %2.</source>
+        <translation>No hay ningún perfil «%1»; los guardados son: %2.</translation>
     </message>
     <message>
-        <source>Say with --against which account is the other side of %1.</source>
-        <translation>Se indica con --against qué cuenta es la contrapartida de %1.</translation>
+        <source>Give the counter-account of %1 with --against.</source>
+        <translation>La contrapartida de %1 se indica con --against.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
@@ -2542,8 +2510,8 @@
         <translation>asiento %1 de «%2»</translation>
     </message>
     <message>
-        <source>This was a dry run: nothing is saved.</source>
-        <translation>Esto fue un ensayo: no se guarda nada.</translation>
+        <source>Dry run: nothing is saved.</source>
+        <translation>Ensayo: no se guarda nada.</translation>
     </message>
     <message>
         <source>What</source>
@@ -2654,100 +2622,92 @@
         <translation>HASTA</translation>
     </message>
     <message>
-        <source>The budget file; else KIV_FILE names it</source>
-        <translation>El archivo del presupuesto; si no, lo indica KIV_FILE</translation>
+        <source>Budget file (default: the variable KIV_FILE)</source>
+        <translation>Archivo de presupuesto (por defecto: la variable KIV_FILE)</translation>
     </message>
     <message>
-        <source>Subcommands</source>
+        <source>Commands</source>
         <translation>Órdenes</translation>
     </message>
     <message>
-        <source>Print JSON for programs</source>
-        <translation>Escribe JSON para programas</translation>
+        <source>Print JSON, for programs</source>
+        <translation>Escribe JSON, para programas</translation>
     </message>
     <message>
-        <source>Show what would come of it, save nothing</source>
-        <translation>Muestra el resultado sin guardar nada</translation>
+        <source>Show the result, save nothing</source>
+        <translation>Muestra el resultado, no guarda nada</translation>
     </message>
     <message>
         <source>Show the log on standard error</source>
         <translation>Muestra el registro en la salida de errores</translation>
     </message>
     <message>
-        <source>%1 is required.</source>
-        <translation>Hace falta %1.</translation>
+        <source>%1 is missing</source>
+        <translation>Falta %1</translation>
     </message>
     <message>
-        <source>Could not convert: %1 = %2.</source>
-        <translation>No se puede convertir: %1 = %2.</translation>
+        <source>%1 does not accept the value &apos;%2&apos;</source>
+        <translation>%1 no admite el valor «%2»</translation>
     </message>
     <message>
-        <source>The account&apos;s number or name</source>
-        <translation>Número o nombre de la cuenta</translation>
+        <source>Account: number, name or path</source>
+        <translation>Cuenta: número, nombre o ruta</translation>
     </message>
     <message>
-        <source>The new number</source>
-        <translation>El número nuevo</translation>
+        <source>New number</source>
+        <translation>Número nuevo</translation>
     </message>
     <message>
-        <source>The new name</source>
-        <translation>El nombre nuevo</translation>
+        <source>New name</source>
+        <translation>Nombre nuevo</translation>
     </message>
     <message>
-        <source>The account under which it is to stand</source>
-        <translation>La cuenta de la que ha de depender</translation>
+        <source>New parent account</source>
+        <translation>Cuenta superior nueva</translation>
     </message>
     <message>
-        <source>It is to stand under no other account</source>
-        <translation>No ha de depender de ninguna otra cuenta</translation>
+        <source>Remove the parent account</source>
+        <translation>Quita la cuenta superior</translation>
     </message>
     <message>
-        <source>Only asset, equity, expense, liability or income</source>
-        <translation>Solo asset, equity, expense, liability o income</translation>
+        <source>Only accounts of this type: asset, equity, expense, liability or income</source>
+        <translation>Solo cuentas de este tipo: asset, equity, expense, liability o income</translation>
     </message>
     <message>
-        <source>Only accounts that are open</source>
+        <source>Only open accounts</source>
         <translation>Solo cuentas abiertas</translation>
     </message>
     <message>
-        <source>The account&apos;s number, name or path</source>
-        <translation>Número, nombre o ruta de la cuenta</translation>
+        <source>First day</source>
+        <translation>Primer día</translation>
     </message>
     <message>
-        <source>Only from this day on</source>
-        <translation>Solo desde este día</translation>
+        <source>Last day</source>
+        <translation>Último día</translation>
     </message>
     <message>
-        <source>Only up to this day</source>
-        <translation>Solo hasta este día</translation>
+        <source>Type: asset, equity, expense, liability or income</source>
+        <translation>Tipo: asset, equity, expense, liability o income</translation>
     </message>
     <message>
-        <source>The account&apos;s name</source>
-        <translation>El nombre de la cuenta</translation>
+        <source>Number (default: the next free one)</source>
+        <translation>Número (por defecto: el siguiente libre)</translation>
     </message>
     <message>
-        <source>asset, equity, expense, liability or income</source>
-        <translation>asset, equity, expense, liability o income</translation>
+        <source>Parent account</source>
+        <translation>Cuenta superior</translation>
     </message>
     <message>
-        <source>Its number; the next free one otherwise</source>
-        <translation>Su número; si no, el siguiente libre</translation>
+        <source>Opening balance (default: 0)</source>
+        <translation>Saldo inicial (por defecto: 0)</translation>
     </message>
     <message>
-        <source>The account under which it stands</source>
-        <translation>La cuenta de la que depende</translation>
+        <source>Currency (default: the preferred one)</source>
+        <translation>Moneda (por defecto: la preferida)</translation>
     </message>
     <message>
-        <source>Its opening balance; 0 otherwise</source>
-        <translation>Su saldo inicial; si no, 0</translation>
-    </message>
-    <message>
-        <source>Its currency; the preferred one otherwise</source>
-        <translation>Su moneda; si no, la preferida</translation>
-    </message>
-    <message>
-        <source>The day of the opening balance</source>
-        <translation>El día del saldo inicial</translation>
+        <source>Day of the opening balance (default: today)</source>
+        <translation>Día del saldo inicial (por defecto: hoy)</translation>
     </message>
     <message>
         <source>List all accounts with their balances</source>
@@ -2758,12 +2718,12 @@
         <translation>Enumera los asientos de una cuenta</translation>
     </message>
     <message>
-        <source>Accounts of the ledger</source>
-        <translation>Cuentas del libro mayor</translation>
+        <source>Add, change, close or remove an account</source>
+        <translation>Añade, cambia, cierra o elimina una cuenta</translation>
     </message>
     <message>
-        <source>Open an account</source>
-        <translation>Abre una cuenta</translation>
+        <source>Add an account</source>
+        <translation>Añade una cuenta</translation>
     </message>
     <message>
         <source>Change an account&apos;s number, name or parent</source>
@@ -2774,40 +2734,24 @@
         <translation>Cierra una cuenta</translation>
     </message>
     <message>
-        <source>Open a closed account again</source>
-        <translation>Vuelve a abrir una cuenta cerrada</translation>
+        <source>Reopen an account</source>
+        <translation>Vuelve a abrir una cuenta</translation>
     </message>
     <message>
         <source>Remove an account without transactions</source>
         <translation>Elimina una cuenta sin asientos</translation>
     </message>
     <message>
-        <source>The bank&apos;s name</source>
-        <translation>El nombre del banco</translation>
+        <source>Name of the bank</source>
+        <translation>Nombre del banco</translation>
     </message>
     <message>
-        <source>Its new name</source>
-        <translation>Su nombre nuevo</translation>
+        <source>Type: checking (default), savings, credit-card, loan, line-of-credit, money-market or cash</source>
+        <translation>Tipo: checking (por defecto), savings, credit-card, loan, line-of-credit, money-market o cash</translation>
     </message>
     <message>
-        <source>The bank that keeps it</source>
-        <translation>El banco que la lleva</translation>
-    </message>
-    <message>
-        <source>checking (unless given), savings, credit-card, loan, line-of-credit, money-market or cash</source>
-        <translation>checking (si no se indica), savings, credit-card, loan, line-of-credit, money-market o cash</translation>
-    </message>
-    <message>
-        <source>An account of the ledger</source>
-        <translation>Una cuenta del libro mayor</translation>
-    </message>
-    <message>
-        <source>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
-        <translation>checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market o cash</translation>
-    </message>
-    <message>
-        <source>The account, which stays in the ledger</source>
-        <translation>La cuenta, que sigue en el libro mayor</translation>
+        <source>Type: checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market or cash</source>
+        <translation>Tipo: checking, savings, credit-card, loan, goal-sub-account, line-of-credit, money-market o cash</translation>
     </message>
     <message>
         <source>List all banks with their accounts</source>
@@ -2818,36 +2762,40 @@
         <translation>Añade un banco</translation>
     </message>
     <message>
-        <source>Give a bank another name</source>
-        <translation>Da otro nombre a un banco</translation>
+        <source>Add, rename, close or remove a bank</source>
+        <translation>Añade, renombra, cierra o elimina un banco</translation>
     </message>
     <message>
-        <source>Close a bank with its accounts</source>
-        <translation>Cierra un banco con sus cuentas</translation>
+        <source>Rename a bank</source>
+        <translation>Cambia el nombre de un banco</translation>
     </message>
     <message>
-        <source>Open a closed bank again</source>
-        <translation>Vuelve a abrir un banco cerrado</translation>
+        <source>Close a bank and its accounts</source>
+        <translation>Cierra un banco y sus cuentas</translation>
     </message>
     <message>
-        <source>Remove a bank with its accounts</source>
-        <translation>Elimina un banco con sus cuentas</translation>
+        <source>Reopen a bank and its accounts</source>
+        <translation>Vuelve a abrir un banco y sus cuentas</translation>
     </message>
     <message>
-        <source>Accounts that banks keep</source>
-        <translation>Cuentas que llevan los bancos</translation>
+        <source>Remove a bank and its accounts</source>
+        <translation>Elimina un banco y sus cuentas</translation>
     </message>
     <message>
-        <source>Open an account at a bank</source>
-        <translation>Abre una cuenta en un banco</translation>
+        <source>Add, change or remove an account of a bank</source>
+        <translation>Añade, cambia o elimina la cuenta de un banco</translation>
     </message>
     <message>
-        <source>Let a bank keep an account of the ledger</source>
+        <source>Add an account to a bank</source>
+        <translation>Añade una cuenta a un banco</translation>
+    </message>
+    <message>
+        <source>Assign an account of the ledger to a bank</source>
         <translation>Asigna a un banco una cuenta del libro mayor</translation>
     </message>
     <message>
-        <source>Take an account from its bank</source>
-        <translation>Separa una cuenta de su banco</translation>
+        <source>Separate an account from its bank; it stays in the ledger</source>
+        <translation>Separa una cuenta de su banco; sigue en el libro mayor</translation>
     </message>
     <message>
         <source>Change a bank account&apos;s number, name or parent</source>
@@ -2858,75 +2806,75 @@
         <translation>Elimina una cuenta bancaria</translation>
     </message>
     <message>
-        <source>The file to be made; .budget is appended</source>
-        <translation>El archivo que se crea; se le añade .budget</translation>
+        <source>New file; .budget is added if it is missing</source>
+        <translation>Archivo nuevo; se añade .budget si falta</translation>
     </message>
     <message>
-        <source>Make an empty budget file</source>
+        <source>Create an empty budget file</source>
         <translation>Crea un archivo de presupuesto vacío</translation>
     </message>
     <message>
-        <source>Tell what the budget holds</source>
+        <source>Show what the budget contains</source>
         <translation>Muestra lo que contiene el presupuesto</translation>
     </message>
     <message>
-        <source>Save the budget as another file</source>
-        <translation>Guarda el presupuesto como otro archivo</translation>
+        <source>Save the budget under another name</source>
+        <translation>Guarda el presupuesto con otro nombre</translation>
     </message>
     <message>
-        <source>It is a budget file of a known version</source>
-        <translation>Es un archivo de presupuesto de una versión conocida</translation>
+        <source>The file is a budget file of a known version</source>
+        <translation>El archivo es un presupuesto de una versión conocida</translation>
     </message>
     <message>
-        <source>Its tables are those of that version</source>
-        <translation>Sus tablas son las de esa versión</translation>
+        <source>The tables belong to that version</source>
+        <translation>Las tablas corresponden a esa versión</translation>
     </message>
     <message>
-        <source>Its rows are those that were written</source>
-        <translation>Sus filas son las que se escribieron</translation>
+        <source>The rows are as they were saved</source>
+        <translation>Las filas están como se guardaron</translation>
     </message>
     <message>
-        <source>Its books obey the rules of the ledger</source>
-        <translation>Sus libros cumplen las reglas del libro mayor</translation>
+        <source>The books follow the rules of the ledger</source>
+        <translation>Los libros cumplen las reglas del libro mayor</translation>
     </message>
     <message>
-        <source>Its items, accounts and banks fit together</source>
-        <translation>Sus partidas, cuentas y bancos encajan entre sí</translation>
+        <source>Items, accounts and banks match</source>
+        <translation>Las partidas, las cuentas y los bancos encajan</translation>
     </message>
     <message>
         <source>Every balance is the sum of its transactions</source>
         <translation>Cada saldo es la suma de sus asientos</translation>
     </message>
     <message>
-        <source>In every currency the debits equal the credits</source>
+        <source>Debits equal credits in every currency</source>
         <translation>En cada moneda el debe es igual al haber</translation>
     </message>
     <message>
-        <source>kept</source>
-        <translation>cumplida</translation>
+        <source>ok</source>
+        <translation>correcto</translation>
     </message>
     <message>
-        <source>mended when it is opened</source>
-        <translation>reparada al abrir</translation>
+        <source>repaired when opened</source>
+        <translation>se repara al abrir</translation>
     </message>
     <message>
-        <source>BROKEN</source>
-        <translation>ROTA</translation>
+        <source>FAILED</source>
+        <translation>FALLO</translation>
     </message>
     <message>
-        <source>not judged</source>
-        <translation>sin juzgar</translation>
+        <source>not checked</source>
+        <translation>sin comprobar</translation>
     </message>
     <message>
-        <source>A budget file or one of its backups</source>
-        <translation>Un archivo de presupuesto o una de sus copias</translation>
+        <source>Budget file or one of its backups</source>
+        <translation>Archivo de presupuesto o una de sus copias</translation>
     </message>
     <message>
-        <source>Promise</source>
-        <translation>Promesa</translation>
+        <source>Check</source>
+        <translation>Comprobación</translation>
     </message>
     <message>
-        <source>Verdict</source>
+        <source>Result</source>
         <translation>Resultado</translation>
     </message>
     <message>
@@ -2934,24 +2882,24 @@
         <translation>Detalles</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is whole.</source>
+        <source>The budget &apos;%1&apos; is intact.</source>
         <translation>El presupuesto «%1» está íntegro.</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is not whole; kiv check FILE tells which of its backups (%1.backup-1, …) is.</source>
-        <translation>El presupuesto «%1» está dañado; kiv check ARCHIVO indica cuál de sus copias (%1.backup-1, …) está íntegra.</translation>
+        <source>The budget &apos;%1&apos; is damaged; find an intact version with kiv history.</source>
+        <translation>El presupuesto «%1» está dañado; se busca una versión íntegra con kiv history.</translation>
     </message>
     <message>
-        <source>Verify a budget file and tell each of its promises</source>
-        <translation>Comprueba un archivo de presupuesto y muestra cada promesa</translation>
+        <source>Check a budget file for damage</source>
+        <translation>Comprueba si un archivo de presupuesto está dañado</translation>
     </message>
     <message>
-        <source>A word of the line; the last one is being written</source>
-        <translation>Una palabra de la línea; la última se está escribiendo</translation>
+        <source>Words of the command line; the last one is incomplete</source>
+        <translation>Palabras de la línea de órdenes; la última está incompleta</translation>
     </message>
     <message>
-        <source>What shells and manual pages are made of</source>
-        <translation>Base del autocompletado y de las páginas de manual</translation>
+        <source>Print completion scripts or the manual page</source>
+        <translation>Escribe los guiones de autocompletado o la página de manual</translation>
     </message>
     <message>
         <source>Print the completion script for bash</source>
@@ -2966,60 +2914,56 @@
         <translation>Escribe el guion de autocompletado para fish</translation>
     </message>
     <message>
-        <source>List what may stand in the place of the last word</source>
-        <translation>Enumera lo que puede ir en lugar de la última palabra</translation>
+        <source>List completions of the last word</source>
+        <translation>Enumera las formas de completar la última palabra</translation>
     </message>
     <message>
-        <source>Print the commands in the notation of manual pages</source>
-        <translation>Escribe las órdenes en la notación de las páginas de manual</translation>
+        <source>Print the commands as part of a manual page</source>
+        <translation>Escribe las órdenes como parte de una página de manual</translation>
     </message>
     <message>
-        <source>The currency of amounts without one</source>
-        <translation>La moneda de los importes que no la llevan</translation>
+        <source>Preferred currency, used for amounts without one</source>
+        <translation>Moneda preferida, para los importes sin moneda</translation>
     </message>
     <message>
-        <source>A usable currency; give all of them, one by one</source>
-        <translation>Una moneda utilizable; se indican todas, una a una</translation>
+        <source>Usable currency; replaces the old list (repeatable)</source>
+        <translation>Moneda utilizable; sustituye la lista anterior (repetible)</translation>
     </message>
     <message>
-        <source>How currencies are shown: code, symbol or both</source>
-        <translation>Cómo se muestran las monedas: code, symbol o both</translation>
+        <source>Display of currencies: code, symbol or both</source>
+        <translation>Presentación de las monedas: code, symbol o both</translation>
     </message>
     <message>
-        <source>How many days ahead items count as due</source>
-        <translation>Con cuántos días de antelación vencen las partidas</translation>
+        <source>Show due items this many days ahead</source>
+        <translation>Muestra los vencimientos con tantos días de antelación</translation>
     </message>
     <message>
-        <source>By how much a survey may miss the statement</source>
-        <translation>Cuánto puede apartarse una conciliación del extracto</translation>
+        <source>Allowed difference between survey and statement, in percent</source>
+        <translation>Diferencia admitida entre conciliación y extracto, en porcentaje</translation>
     </message>
     <message>
-        <source>Tags to be taken from every budget item</source>
-        <translation>Etiquetas que se quitan de todas las partidas</translation>
-    </message>
-    <message>
-        <source>The user&apos;s settings</source>
-        <translation>Los ajustes</translation>
+        <source>Show or change the settings</source>
+        <translation>Muestra o cambia los ajustes</translation>
     </message>
     <message>
         <source>Show the settings</source>
         <translation>Muestra los ajustes</translation>
     </message>
     <message>
-        <source>Change settings; what is not given stays</source>
-        <translation>Cambia los ajustes; lo que no se indica queda igual</translation>
+        <source>Change the given settings</source>
+        <translation>Cambia los ajustes indicados</translation>
     </message>
     <message>
-        <source>Tags on budget items</source>
-        <translation>Etiquetas de las partidas</translation>
+        <source>List or remove tags</source>
+        <translation>Enumera o elimina etiquetas</translation>
     </message>
     <message>
         <source>List all tags</source>
         <translation>Enumera todas las etiquetas</translation>
     </message>
     <message>
-        <source>Take tags from every budget item</source>
-        <translation>Quita etiquetas de todas las partidas</translation>
+        <source>Remove tags from all budget items</source>
+        <translation>Elimina etiquetas de todas las partidas</translation>
     </message>
     <message numerus="yes">
         <source>Due within %n days</source>
@@ -3029,24 +2973,24 @@
         </translation>
     </message>
     <message>
-        <source>Show totals, what is due and the budget&apos;s health</source>
-        <translation>Muestra los totales, lo que vence y la salud del presupuesto</translation>
+        <source>Show totals, due items and budget health</source>
+        <translation>Muestra totales, vencimientos y salud del presupuesto</translation>
     </message>
     <message>
-        <source>The budget item&apos;s name</source>
-        <translation>El nombre de la partida</translation>
+        <source>Name of the budget item</source>
+        <translation>Nombre de la partida</translation>
     </message>
     <message>
-        <source>bill, debt, goal, nontrack or wage, where names repeat</source>
-        <translation>bill, debt, goal, nontrack o wage, si el nombre se repite</translation>
+        <source>Kind, if several items have the name: bill, debt, goal, nontrack or wage</source>
+        <translation>Tipo, si varias partidas se llaman así: bill, debt, goal, nontrack o wage</translation>
     </message>
     <message>
-        <source>How many days ahead; as configured otherwise</source>
-        <translation>Con cuántos días de antelación; si no, los configurados</translation>
+        <source>Days ahead (default: the setting)</source>
+        <translation>Días de antelación (por defecto: el ajuste)</translation>
     </message>
     <message>
-        <source>Today, or another day in its place</source>
-        <translation>Hoy, u otro día en su lugar</translation>
+        <source>Day to count from (default: today)</source>
+        <translation>Día desde el que se cuenta (por defecto: hoy)</translation>
     </message>
     <message numerus="yes">
         <source>%n days late</source>
@@ -3063,31 +3007,27 @@
         </translation>
     </message>
     <message>
-        <source>The account that pays, or that a wage goes to</source>
-        <translation>La cuenta que paga, o a la que va un salario</translation>
+        <source>Account that pays, or that receives a wage</source>
+        <translation>Cuenta que paga o que recibe un salario</translation>
     </message>
     <message>
-        <source>Another amount than the item&apos;s</source>
-        <translation>Un importe distinto del de la partida</translation>
+        <source>Amount (default: that of the item)</source>
+        <translation>Importe (por defecto: el de la partida)</translation>
     </message>
     <message>
-        <source>Post everything that is due by now, in place of one item</source>
-        <translation>Registra todo lo vencido hasta ahora, en vez de una partida</translation>
+        <source>Post all due items</source>
+        <translation>Registra todas las partidas vencidas</translation>
     </message>
     <message>
-        <source>The day of posting; today otherwise</source>
-        <translation>El día del registro; si no, hoy</translation>
+        <source>Day (default: today)</source>
+        <translation>Día (por defecto: hoy)</translation>
     </message>
     <message>
-        <source>What is paid, or what came in for a wage</source>
-        <translation>Lo que se paga, o lo que entró de un salario</translation>
+        <source>List due items</source>
+        <translation>Enumera las partidas que vencen</translation>
     </message>
     <message>
-        <source>List what is due</source>
-        <translation>Enumera lo que vence</translation>
-    </message>
-    <message>
-        <source>Post a budget item that is due</source>
+        <source>Post a due budget item</source>
         <translation>Registra una partida vencida</translation>
     </message>
     <message>
@@ -3099,380 +3039,352 @@
         <translation>Omite una partida una vez, sin registrarla</translation>
     </message>
     <message>
-        <source>journal (unless given), csv or json</source>
-        <translation>journal (si no se indica), csv o json</translation>
+        <source>Format: journal (default), csv or json</source>
+        <translation>Formato: journal (por defecto), csv o json</translation>
     </message>
     <message>
-        <source>Write the ledger for other programs</source>
+        <source>Print the ledger for other programs</source>
         <translation>Escribe el libro mayor para otros programas</translation>
     </message>
     <message>
-        <source>The file; - for standard input</source>
-        <translation>El archivo; - es la entrada estándar</translation>
+        <source>File; - for standard input</source>
+        <translation>Archivo; - para la entrada estándar</translation>
     </message>
     <message>
-        <source>journal, csv, ofx or qif; guessed otherwise</source>
-        <translation>journal, csv, ofx o qif; si no, se deduce</translation>
+        <source>Format: journal, csv, ofx or qif (default: guessed)</source>
+        <translation>Formato: journal, csv, ofx o qif (por defecto: se deduce)</translation>
     </message>
     <message>
-        <source>The decimal mark: . or ,</source>
-        <translation>La marca decimal: . o ,</translation>
+        <source>Decimal mark: . or ,</source>
+        <translation>Marca decimal: . o ,</translation>
     </message>
     <message>
-        <source>How days are written, like DD.MM.YYYY</source>
-        <translation>Cómo se escriben las fechas, como DD.MM.YYYY</translation>
+        <source>Date format, such as DD.MM.YYYY</source>
+        <translation>Formato de fecha, como DD.MM.YYYY</translation>
     </message>
     <message>
-        <source>The currency of amounts that have none (journal)</source>
-        <translation>La moneda de los importes que no la llevan (journal)</translation>
+        <source>Currency of amounts without one (journal)</source>
+        <translation>Moneda de los importes sin moneda (journal)</translation>
     </message>
     <message>
-        <source>What a root is, like Aktiva=asset (journal)</source>
-        <translation>Lo que es una raíz, como Activos=asset (journal)</translation>
+        <source>Type of a top account, such as Aktiva=asset (journal, repeatable)</source>
+        <translation>Tipo de una cuenta principal, como Activos=asset (journal, repetible)</translation>
     </message>
     <message>
-        <source>Which currency a name means, like Fr=CHF (journal)</source>
-        <translation>Qué moneda indica un nombre, como Fr=CHF (journal)</translation>
+        <source>Currency behind a name, such as Fr=CHF (journal, repeatable)</source>
+        <translation>Moneda a la que se refiere un nombre, como Fr=CHF (journal, repetible)</translation>
     </message>
     <message>
-        <source>The bank&apos;s number of the account (ofx)</source>
-        <translation>El número de la cuenta en el banco (ofx)</translation>
+        <source>Account number, to choose one of several statements (ofx)</source>
+        <translation>Número de cuenta, para elegir uno de varios extractos (ofx)</translation>
     </message>
     <message>
-        <source>Read the file as this saved profile says</source>
-        <translation>Lee el archivo como dice este perfil guardado</translation>
+        <source>Saved profile to read the file with</source>
+        <translation>Perfil guardado con el que se lee el archivo</translation>
     </message>
     <message>
-        <source>Save how the file was read under this name</source>
-        <translation>Guarda con este nombre cómo se leyó el archivo</translation>
+        <source>Save these options as a profile with this name</source>
+        <translation>Guarda estas opciones como perfil con este nombre</translation>
     </message>
     <message>
-        <source>The column of the day, by heading or number (csv)</source>
-        <translation>La columna de la fecha, por encabezado o número (csv)</translation>
+        <source>Column of the date, by heading or number (csv)</source>
+        <translation>Columna de la fecha, por encabezado o número (csv)</translation>
     </message>
     <message>
-        <source>The column of the amount (csv)</source>
-        <translation>La columna del importe (csv)</translation>
+        <source>Column of the amount (csv)</source>
+        <translation>Columna del importe (csv)</translation>
     </message>
     <message>
-        <source>The column of what came in (csv)</source>
-        <translation>La columna de lo que entró (csv)</translation>
+        <source>Column of incoming amounts (csv)</source>
+        <translation>Columna de las entradas de dinero (csv)</translation>
     </message>
     <message>
-        <source>The column of what went out (csv)</source>
-        <translation>La columna de lo que salió (csv)</translation>
+        <source>Column of outgoing amounts (csv)</source>
+        <translation>Columna de las salidas de dinero (csv)</translation>
     </message>
     <message>
-        <source>The column that tells the sign (csv)</source>
-        <translation>La columna que indica el signo (csv)</translation>
+        <source>Column of the sign (csv)</source>
+        <translation>Columna del signo (csv)</translation>
     </message>
     <message>
-        <source>What stands there when money went out (csv)</source>
-        <translation>Lo que pone ahí cuando salió dinero (csv)</translation>
+        <source>Text in the sign column for outgoing amounts (csv, repeatable)</source>
+        <translation>Texto de la columna del signo para las salidas (csv, repetible)</translation>
     </message>
     <message>
-        <source>A column of the description (csv)</source>
-        <translation>Una columna de la descripción (csv)</translation>
+        <source>Column of the description (csv, repeatable)</source>
+        <translation>Columna de la descripción (csv, repetible)</translation>
     </message>
     <message>
-        <source>The column of the bank&apos;s identifier (csv)</source>
-        <translation>La columna del identificador del banco (csv)</translation>
+        <source>Column of the bank&apos;s identifier (csv)</source>
+        <translation>Columna del identificador del banco (csv)</translation>
     </message>
     <message>
-        <source>The column of the currency (csv)</source>
-        <translation>La columna de la moneda (csv)</translation>
+        <source>Column of the currency (csv)</source>
+        <translation>Columna de la moneda (csv)</translation>
     </message>
     <message>
-        <source>What stands between cells; guessed otherwise (csv)</source>
-        <translation>Lo que separa las celdas; si no, se deduce (csv)</translation>
+        <source>Delimiter between cells (csv, default: guessed)</source>
+        <translation>Separador de celdas (csv, por defecto: se deduce)</translation>
     </message>
     <message>
-        <source>How many lines stand above the headings (csv)</source>
-        <translation>Cuántas líneas hay sobre los encabezados (csv)</translation>
+        <source>Number of lines above the headings (csv)</source>
+        <translation>Número de líneas sobre los encabezados (csv)</translation>
     </message>
     <message>
-        <source>The first line is an entry already (csv)</source>
-        <translation>La primera línea ya es una entrada (csv)</translation>
+        <source>The file has no headings (csv)</source>
+        <translation>El archivo no tiene encabezados (csv)</translation>
     </message>
     <message>
-        <source>Money that went out is positive (csv)</source>
-        <translation>El dinero que salió es positivo (csv)</translation>
+        <source>Outgoing amounts are positive (csv)</source>
+        <translation>Las salidas son positivas (csv)</translation>
     </message>
     <message>
-        <source>The account that a bank statement is about</source>
-        <translation>La cuenta de la que trata el extracto</translation>
+        <source>Account of the bank statement</source>
+        <translation>Cuenta del extracto</translation>
     </message>
     <message>
-        <source>The other account of entries that no rule knows</source>
-        <translation>La contrapartida de las entradas sin regla</translation>
+        <source>Counter-account of entries that match no rule</source>
+        <translation>Contrapartida de las entradas sin regla</translation>
     </message>
     <message>
-        <source>Post what is there already, too</source>
-        <translation>Registra también lo que ya existe</translation>
+        <source>Post duplicates, too</source>
+        <translation>Registra también los duplicados</translation>
     </message>
     <message>
-        <source>Post what a journal or a bank statement holds, or nothing of it</source>
-        <translation>Registra lo que contiene un diario o un extracto, o nada de ello</translation>
+        <source>Import a journal or statement, all or nothing</source>
+        <translation>Importa un diario o un extracto, todo o nada</translation>
     </message>
     <message>
-        <source>How often it recurs, such as monthly</source>
-        <translation>Cada cuánto se repite, por ejemplo monthly</translation>
+        <source>Frequency, such as monthly</source>
+        <translation>Frecuencia, como monthly</translation>
     </message>
     <message>
-        <source>The next day on which it does</source>
-        <translation>El próximo día en que lo hace</translation>
+        <source>Next due date</source>
+        <translation>Próxima fecha</translation>
     </message>
     <message>
-        <source>A tag to find it by; may be given several times</source>
-        <translation>Una etiqueta para encontrarla; se admiten varias</translation>
+        <source>Tag (repeatable)</source>
+        <translation>Etiqueta (repetible)</translation>
     </message>
     <message>
-        <source>What was borrowed: its account opens with it</source>
-        <translation>Lo que se prestó: con eso se abre su cuenta</translation>
+        <source>Amount borrowed; the opening balance of its account</source>
+        <translation>Importe prestado; el saldo inicial de la cuenta de la deuda</translation>
     </message>
     <message>
-        <source>The bank that holds it</source>
-        <translation>El banco que la tiene</translation>
+        <source>Type of the bank account, such as loan (default)</source>
+        <translation>Tipo de la cuenta bancaria, como loan (por defecto)</translation>
     </message>
     <message>
-        <source>The kind of account there: loan (unless given), …</source>
-        <translation>El tipo de cuenta allí: loan (si no se indica), …</translation>
+        <source>Target amount</source>
+        <translation>Importe de la meta</translation>
     </message>
     <message>
-        <source>What it is to come to</source>
-        <translation>A cuánto ha de llegar</translation>
+        <source>Bank account that holds the savings</source>
+        <translation>Cuenta bancaria en la que se aparta el dinero</translation>
     </message>
     <message>
-        <source>The bank account under which it is put aside</source>
-        <translation>La cuenta bancaria en la que se aparta</translation>
+        <source>Day of the opening; next due date if --next is missing</source>
+        <translation>Día de la apertura; próxima fecha si falta --next</translation>
     </message>
     <message>
-        <source>Its name</source>
-        <translation>Su nombre</translation>
+        <source>Remove all tags</source>
+        <translation>Elimina todas las etiquetas</translation>
     </message>
     <message>
-        <source>What it comes to</source>
-        <translation>A cuánto asciende</translation>
+        <source>Remove the link to the bank</source>
+        <translation>Elimina el vínculo con el banco</translation>
     </message>
     <message>
-        <source>Today, in place of --next</source>
-        <translation>Hoy, en lugar de --next</translation>
-    </message>
-    <message>
-        <source>Take its tags away</source>
-        <translation>Le quita las etiquetas</translation>
-    </message>
-    <message>
-        <source>Tie it to no bank any more</source>
-        <translation>Ya no la vincula a ningún banco</translation>
-    </message>
-    <message>
-        <source>Add one</source>
+        <source>Add an item</source>
         <translation>Añade una partida</translation>
     </message>
     <message>
-        <source>Change one; what is not given stays</source>
-        <translation>Cambia una partida; lo que no se indica queda igual</translation>
+        <source>Change the given values of an item</source>
+        <translation>Cambia los valores indicados de una partida</translation>
     </message>
     <message>
-        <source>Give one another name</source>
-        <translation>Da otro nombre a una partida</translation>
+        <source>Rename an item</source>
+        <translation>Cambia el nombre de una partida</translation>
     </message>
     <message>
-        <source>Remove one</source>
+        <source>Remove an item</source>
         <translation>Elimina una partida</translation>
     </message>
     <message>
-        <source>List all of them</source>
-        <translation>Enumera todas</translation>
+        <source>List all items</source>
+        <translation>Enumera todas las partidas</translation>
     </message>
     <message>
-        <source>Bills: what must be paid</source>
-        <translation>Facturas: lo que hay que pagar</translation>
+        <source>Add, change or list bills</source>
+        <translation>Añade, cambia o enumera facturas</translation>
     </message>
     <message>
-        <source>Debts: what was borrowed and is paid back</source>
-        <translation>Deudas: lo que se pidió prestado y se devuelve</translation>
+        <source>Add, change or list debts</source>
+        <translation>Añade, cambia o enumera deudas</translation>
     </message>
     <message>
-        <source>Goals: what is put aside for a target</source>
-        <translation>Metas: lo que se aparta para alcanzar un importe</translation>
+        <source>Add, change or list goals to save for</source>
+        <translation>Añade, cambia o enumera metas de ahorro</translation>
     </message>
     <message>
-        <source>Non-tracked items: what is spent without keeping track</source>
-        <translation>Partidas sin seguimiento: lo que se gasta sin llevar la cuenta</translation>
+        <source>Add, change or list free spending (non-tracked)</source>
+        <translation>Añade, cambia o enumera gastos libres (sin seguimiento)</translation>
     </message>
     <message>
-        <source>Wages: what comes in</source>
-        <translation>Salarios: lo que entra</translation>
+        <source>Add, change or list wages</source>
+        <translation>Añade, cambia o enumera salarios</translation>
     </message>
     <message>
-        <source>The currencies; the usable ones otherwise</source>
-        <translation>Las monedas; si no, las utilizables</translation>
+        <source>Currencies (default: the usable ones)</source>
+        <translation>Monedas (por defecto: las utilizables)</translation>
     </message>
     <message>
-        <source>The currency of which one unit is meant</source>
-        <translation>La moneda de la que se toma una unidad</translation>
+        <source>Base currency; each rate is for one unit of it</source>
+        <translation>Moneda base; cada tipo vale para una unidad de ella</translation>
     </message>
     <message>
-        <source>How much of another currency it buys</source>
-        <translation>Cuánto se obtiene de otra moneda</translation>
+        <source>Rate of a currency, such as EUR=0.92 (repeatable)</source>
+        <translation>Tipo de una moneda, como EUR=0.92 (repetible)</translation>
     </message>
     <message>
-        <source>Exchange rates</source>
-        <translation>Tipos de cambio</translation>
+        <source>Show, fetch or set exchange rates</source>
+        <translation>Muestra, obtiene o fija tipos de cambio</translation>
     </message>
     <message>
-        <source>Show the exchange rates that are known</source>
-        <translation>Muestra los tipos de cambio conocidos</translation>
+        <source>Show the exchange rates</source>
+        <translation>Muestra los tipos de cambio</translation>
     </message>
     <message>
-        <source>Fetch the rates of the day</source>
-        <translation>Obtiene los tipos del día</translation>
+        <source>Fetch current rates</source>
+        <translation>Obtiene los tipos actuales</translation>
     </message>
     <message>
         <source>Set rates by hand</source>
         <translation>Fija tipos a mano</translation>
     </message>
     <message>
-        <source>Newer releases of this program</source>
-        <translation>Versiones más recientes de este programa</translation>
+        <source>Check for a newer release</source>
+        <translation>Comprueba si hay una versión más reciente</translation>
     </message>
     <message>
-        <source>Ask whether there is a newer release</source>
-        <translation>Pregunta si hay una versión más reciente</translation>
+        <source>Show the release notes</source>
+        <translation>Muestra las novedades de las versiones</translation>
     </message>
     <message>
-        <source>Show what each release brought</source>
-        <translation>Muestra lo que trajo cada versión</translation>
+        <source>Day in the first month (default: eleven months before the last day)</source>
+        <translation>Día del primer mes (por defecto: once meses antes del último día)</translation>
     </message>
     <message>
-        <source>In the first month; eleven months before otherwise</source>
-        <translation>En el primer mes; si no, once meses antes</translation>
+        <source>Last day (default: today)</source>
+        <translation>Último día (por defecto: hoy)</translation>
     </message>
     <message>
-        <source>The last day; today otherwise</source>
-        <translation>El último día; si no, hoy</translation>
+        <source>Print an HTML page with charts</source>
+        <translation>Escribe una página HTML con gráficos</translation>
     </message>
     <message>
-        <source>Print one HTML page, with charts, to be read or printed</source>
-        <translation>Escribe una página HTML con gráficos, para leer o imprimir</translation>
+        <source>Draw charts on the terminal</source>
+        <translation>Dibuja gráficos en la terminal</translation>
     </message>
     <message>
-        <source>Draw the charts on the terminal</source>
-        <translation>Dibuja los gráficos en la terminal</translation>
+        <source>Title of the HTML page</source>
+        <translation>Título de la página HTML</translation>
     </message>
     <message>
-        <source>The title of the page</source>
-        <translation>El título de la página</translation>
+        <source>Last day, like --to</source>
+        <translation>Último día, como --to</translation>
     </message>
     <message>
-        <source>The last day, where --to is not given</source>
-        <translation>El último día, si no se indica --to</translation>
+        <source>Show income, expenses and net worth by month</source>
+        <translation>Muestra ingresos, gastos y patrimonio neto por meses</translation>
     </message>
     <message>
-        <source>Show income, expenses, budget and net worth month by month</source>
-        <translation>Muestra ingresos, gastos, presupuesto y patrimonio neto mes a mes</translation>
+        <source>Budget file, like --file</source>
+        <translation>Archivo de presupuesto, como --file</translation>
     </message>
     <message>
-        <source>The budget file, as with --file</source>
-        <translation>El archivo del presupuesto, como con --file</translation>
+        <source>Read commands line by line, keep the budget open</source>
+        <translation>Lee órdenes línea a línea, con el presupuesto abierto</translation>
     </message>
     <message>
-        <source>Read commands line by line and keep the budget open</source>
-        <translation>Lee órdenes línea a línea y mantiene abierto el presupuesto</translation>
+        <source>Like shell, but print all signals as JSON</source>
+        <translation>Como shell, pero escribe todas las señales como JSON</translation>
     </message>
     <message>
-        <source>Read commands likewise, and print the Navigator&apos;s signals as JSON lines</source>
-        <translation>Lee órdenes igualmente y escribe las señales del Navigator como líneas JSON</translation>
+        <source>Day of the statement (default: today)</source>
+        <translation>Día del extracto (por defecto: hoy)</translation>
     </message>
     <message>
-        <source>The bank account&apos;s number or name</source>
-        <translation>Número o nombre de la cuenta bancaria</translation>
+        <source>Edited output of survey show --json; - for standard input</source>
+        <translation>Salida editada de survey show --json; - para la entrada estándar</translation>
     </message>
     <message>
-        <source>The day of the statement; today otherwise</source>
-        <translation>El día del extracto; si no, hoy</translation>
+        <source>Number of a transaction on the statement (repeatable)</source>
+        <translation>Número de un asiento del extracto (repetible)</translation>
     </message>
     <message>
-        <source>A document of survey show --json, edited; - for input</source>
-        <translation>Un documento editado de survey show --json; - es la entrada</translation>
+        <source>All transactions are on the statement</source>
+        <translation>Todos los asientos están en el extracto</translation>
     </message>
     <message>
-        <source>A transaction that the statement shows</source>
-        <translation>Un asiento que aparece en el extracto</translation>
+        <source>Unbooked money of an item, negative if it went out (repeatable)</source>
+        <translation>Dinero sin registrar de una partida, negativo si salió (repetible)</translation>
     </message>
     <message>
-        <source>It shows all transactions of the survey</source>
-        <translation>En él aparecen todos los asientos de la conciliación</translation>
+        <source>Unbooked money of another account (repeatable)</source>
+        <translation>Dinero sin registrar de otra cuenta (repetible)</translation>
     </message>
     <message>
-        <source>ITEM=AMOUNT: money for an item that is not booked yet; with a minus for what went out</source>
-        <translation>PARTIDA=IMPORTE: dinero sin registrar de una partida; con signo menos lo que salió</translation>
+        <source>Amount to set aside for an item (repeatable)</source>
+        <translation>Importe que se aparta para una partida (repetible)</translation>
     </message>
     <message>
-        <source>ACCOUNT=AMOUNT: the same for another account</source>
-        <translation>CUENTA=IMPORTE: lo mismo para otra cuenta</translation>
+        <source>Amount that is not distributed (default: the rest)</source>
+        <translation>Importe sin repartir (por defecto: el resto)</translation>
     </message>
     <message>
-        <source>ITEM=AMOUNT: what is set aside for an item</source>
-        <translation>PARTIDA=IMPORTE: lo que se aparta para una partida</translation>
+        <source>Compare the books with a bank statement</source>
+        <translation>Compara los libros con un extracto</translation>
     </message>
     <message>
-        <source>What is set aside for nothing</source>
-        <translation>Lo que no se aparta para nada</translation>
+        <source>Show the changes since the last survey</source>
+        <translation>Muestra los cambios desde la última conciliación</translation>
     </message>
     <message>
-        <source>Comparing the books with a bank statement</source>
-        <translation>Comparación de los libros con un extracto</translation>
+        <source>Reconcile an account with a statement</source>
+        <translation>Concilia una cuenta con un extracto</translation>
     </message>
     <message>
-        <source>Show what has happened since the last survey</source>
-        <translation>Muestra lo ocurrido desde la última conciliación</translation>
+        <source>Reconcile an account question by question</source>
+        <translation>Concilia una cuenta pregunta a pregunta</translation>
     </message>
     <message>
-        <source>Reconcile the account with a statement</source>
-        <translation>Concilia la cuenta con un extracto</translation>
+        <source>Show the last reconciliation</source>
+        <translation>Muestra la última conciliación</translation>
     </message>
     <message>
-        <source>Go through a statement question by question</source>
-        <translation>Recorre un extracto pregunta a pregunta</translation>
+        <source>Show the last reconciliation of an account</source>
+        <translation>Muestra la última conciliación de una cuenta</translation>
     </message>
     <message>
-        <source>Past reconciliations</source>
-        <translation>Conciliaciones anteriores</translation>
+        <source>Demonstrate kiv on a temporary budget</source>
+        <translation>Muestra kiv con un presupuesto temporal</translation>
     </message>
     <message>
-        <source>Show when an account was last reconciled</source>
-        <translation>Muestra cuándo se concilió una cuenta por última vez</translation>
+        <source>Amount, in the currency of the debited account</source>
+        <translation>Importe, en la moneda de la cuenta del debe</translation>
     </message>
     <message>
-        <source>Show on a temporary budget what the command does</source>
-        <translation>Muestra con un presupuesto temporal lo que hace el programa</translation>
+        <source>Account to debit</source>
+        <translation>Cuenta del debe</translation>
     </message>
     <message>
-        <source>What moves; in the debited account&apos;s currency</source>
-        <translation>Lo que se mueve; en la moneda de la cuenta del debe</translation>
+        <source>Account to credit</source>
+        <translation>Cuenta del haber</translation>
     </message>
     <message>
-        <source>The account that is debited</source>
-        <translation>La cuenta del debe</translation>
-    </message>
-    <message>
-        <source>The account that is credited</source>
-        <translation>La cuenta del haber</translation>
-    </message>
-    <message>
-        <source>What it is about</source>
-        <translation>De qué se trata</translation>
-    </message>
-    <message>
-        <source>The day of the transaction; today otherwise</source>
-        <translation>El día del asiento; si no, hoy</translation>
-    </message>
-    <message>
-        <source>A JSON list of transactions; - for standard input</source>
-        <translation>Una lista JSON de asientos; - es la entrada estándar</translation>
+        <source>JSON list of transactions; - for standard input</source>
+        <translation>Lista JSON de asientos; - para la entrada estándar</translation>
     </message>
     <message numerus="yes">
         <source>Posted %n transactions.</source>
@@ -3482,56 +3394,40 @@
         </translation>
     </message>
     <message>
-        <source>The transaction&apos;s number</source>
-        <translation>El número del asiento</translation>
+        <source>Number of the transaction</source>
+        <translation>Número del asiento</translation>
     </message>
     <message>
-        <source>What moves</source>
-        <translation>Lo que se mueve</translation>
+        <source>Day</source>
+        <translation>Día</translation>
     </message>
     <message>
-        <source>The day of the transaction</source>
-        <translation>El día del asiento</translation>
+        <source>Numbers of the transactions</source>
+        <translation>Números de los asientos</translation>
     </message>
     <message>
-        <source>Numbers of transactions</source>
-        <translation>Números de asientos</translation>
+        <source>Bank account that the money leaves</source>
+        <translation>Cuenta bancaria de la que sale el dinero</translation>
     </message>
     <message>
-        <source>The bank account that the money leaves</source>
-        <translation>La cuenta bancaria de la que sale el dinero</translation>
+        <source>Bank account that the money goes to</source>
+        <translation>Cuenta bancaria a la que va el dinero</translation>
     </message>
     <message>
-        <source>The bank account that it goes to</source>
-        <translation>La cuenta bancaria a la que va</translation>
+        <source>Amount, in the currency of the account it goes to</source>
+        <translation>Importe, en la moneda de la cuenta a la que va</translation>
     </message>
     <message>
-        <source>How much; in the currency of the account it goes to</source>
-        <translation>Cuánto; en la moneda de la cuenta a la que va</translation>
-    </message>
-    <message>
-        <source>The day of the transfer; today otherwise</source>
-        <translation>El día del traspaso; si no, hoy</translation>
-    </message>
-    <message>
-        <source>The transaction of which something comes back</source>
-        <translation>El asiento del que se devuelve algo</translation>
-    </message>
-    <message>
-        <source>How much</source>
-        <translation>Cuánto</translation>
-    </message>
-    <message>
-        <source>The day of the refund; today otherwise</source>
-        <translation>El día del reembolso; si no, hoy</translation>
+        <source>Number of the transaction to refund</source>
+        <translation>Número del asiento que se reembolsa</translation>
     </message>
     <message>
         <source>List all transactions</source>
         <translation>Enumera todos los asientos</translation>
     </message>
     <message>
-        <source>Transactions of the ledger</source>
-        <translation>Asientos del libro mayor</translation>
+        <source>Add, change, mark or remove transactions</source>
+        <translation>Añade, cambia, marca o elimina asientos</translation>
     </message>
     <message>
         <source>Post a transaction</source>
@@ -3542,23 +3438,23 @@
         <translation>Registra todos los asientos de un archivo JSON</translation>
     </message>
     <message>
-        <source>Change a transaction; what is not given stays</source>
-        <translation>Cambia un asiento; lo que no se indica queda igual</translation>
+        <source>Change the given values of a transaction</source>
+        <translation>Cambia los valores indicados de un asiento</translation>
     </message>
     <message>
         <source>Remove transactions</source>
         <translation>Elimina asientos</translation>
     </message>
     <message>
-        <source>Mark transactions as seen at the bank</source>
-        <translation>Marca asientos como vistos en el banco</translation>
+        <source>Mark transactions as cleared by the bank</source>
+        <translation>Marca asientos como confirmados por el banco</translation>
     </message>
     <message>
-        <source>Mark transactions as part of a statement</source>
-        <translation>Marca asientos como parte de un extracto</translation>
+        <source>Mark transactions as reconciled with a statement</source>
+        <translation>Marca asientos como conciliados con un extracto</translation>
     </message>
     <message>
-        <source>Take the reconciliation of transactions back</source>
+        <source>Undo the reconciliation of transactions</source>
         <translation>Anula la conciliación de asientos</translation>
     </message>
     <message>
@@ -3566,80 +3462,72 @@
         <translation>Mueve dinero entre cuentas bancarias</translation>
     </message>
     <message>
-        <source>List what of a budget item can be refunded</source>
-        <translation>Enumera lo que se puede reembolsar de una partida</translation>
+        <source>List refundable transactions of a budget item</source>
+        <translation>Enumera los asientos reembolsables de una partida</translation>
     </message>
     <message>
         <source>Post a refund of a transaction</source>
         <translation>Registra un reembolso de un asiento</translation>
     </message>
     <message>
-        <source>An older version; see history</source>
-        <translation>Una versión más antigua; véase history</translation>
+        <source>Number of the version, see kiv history (default: 1)</source>
+        <translation>Número de la versión, véase kiv history (por defecto: 1)</translation>
     </message>
     <message>
-        <source>A version; the one before the last save otherwise</source>
-        <translation>Una versión; si no, la anterior al último guardado</translation>
+        <source>Number of the older version (default: 1)</source>
+        <translation>Número de la versión anterior (por defecto: 1)</translation>
     </message>
     <message>
-        <source>A version; the file as it is otherwise</source>
-        <translation>Una versión; si no, el archivo como está</translation>
+        <source>Number of the newer version (default: 0, the file itself)</source>
+        <translation>Número de la versión posterior (por defecto: 0, el propio archivo)</translation>
     </message>
     <message>
-        <source>Bring the budget back as it was before the last saved change</source>
-        <translation>Recupera el presupuesto como estaba antes del último cambio</translation>
+        <source>Restore the version before the last change</source>
+        <translation>Restaura la versión anterior al último cambio</translation>
     </message>
     <message>
-        <source>List the former versions of the budget that are kept</source>
-        <translation>Enumera las versiones anteriores que se conservan</translation>
+        <source>List the kept versions of the budget</source>
+        <translation>Enumera las versiones conservadas del presupuesto</translation>
     </message>
     <message>
-        <source>Tell what changed from one version to another</source>
-        <translation>Muestra lo que cambió de una versión a otra</translation>
+        <source>Show the changes between two versions</source>
+        <translation>Muestra los cambios entre dos versiones</translation>
     </message>
     <message>
-        <source>The household; see templates list</source>
-        <translation>El hogar; véase templates list</translation>
+        <source>Template, see kiv templates list (default: none)</source>
+        <translation>Plantilla, véase kiv templates list (por defecto: none)</translation>
     </message>
     <message>
-        <source>Its currency, preferred from now on</source>
-        <translation>Su moneda, preferida desde ahora</translation>
+        <source>Currency, which becomes the preferred one</source>
+        <translation>Moneda, que pasa a ser la preferida</translation>
     </message>
     <message>
-        <source>The household&apos;s bank</source>
-        <translation>El banco del hogar</translation>
+        <source>Name of the bank account</source>
+        <translation>Nombre de la cuenta bancaria</translation>
     </message>
     <message>
-        <source>The name of its account there</source>
-        <translation>El nombre de su cuenta allí</translation>
+        <source>Type of the bank account, such as checking (default)</source>
+        <translation>Tipo de la cuenta bancaria, como checking (por defecto)</translation>
     </message>
     <message>
-        <source>The kind of account; checking unless given</source>
-        <translation>El tipo de cuenta; checking si no se indica</translation>
+        <source>Template, see kiv templates list</source>
+        <translation>Plantilla, véase kiv templates list</translation>
     </message>
     <message>
-        <source>The account&apos;s balance; 0 otherwise</source>
-        <translation>El saldo de la cuenta; si no, 0</translation>
+        <source>Create a budget from a template</source>
+        <translation>Crea un presupuesto a partir de una plantilla</translation>
     </message>
     <message>
-        <source>See templates list</source>
-        <translation>Véase templates list</translation>
+        <source>Show the templates of kiv wizard</source>
+        <translation>Muestra las plantillas de kiv wizard</translation>
     </message>
     <message>
-        <source>Make a new budget for a kind of household</source>
-        <translation>Crea un presupuesto nuevo para un tipo de hogar</translation>
+        <source>List all templates</source>
+        <translation>Enumera todas las plantillas</translation>
     </message>
     <message>
-        <source>Starter budgets for the wizard</source>
-        <translation>Presupuestos iniciales para el asistente</translation>
-    </message>
-    <message>
-        <source>List the kinds of household</source>
-        <translation>Enumera los tipos de hogar</translation>
-    </message>
-    <message>
-        <source>Show the budget items of one</source>
-        <translation>Muestra las partidas de uno</translation>
+        <source>Show the budget items of a template</source>
+        <translation>Muestra las partidas de una plantilla</translation>
     </message>
     <message>
         <source>The exchange rates could not be fetched; try again later, or set them with kiv rates set.</source>
@@ -3679,7 +3567,7 @@
         <translation>Uso</translation>
     </message>
     <message>
-        <source>Positionals</source>
+        <source>Arguments</source>
         <translation>Argumentos</translation>
     </message>
     <message>
@@ -3691,7 +3579,7 @@
         <translation>OPCIONES</translation>
     </message>
     <message>
-        <source>SUBCOMMAND</source>
+        <source>COMMAND</source>
         <translation>ORDEN</translation>
     </message>
     <message>
@@ -3699,16 +3587,16 @@
         <translation>Opciones</translation>
     </message>
     <message>
-        <source>Print this help message and exit</source>
-        <translation>Muestra esta ayuda y termina</translation>
+        <source>Show this help</source>
+        <translation>Muestra esta ayuda</translation>
     </message>
     <message>
-        <source>Display program version information and exit</source>
-        <translation>Muestra la versión del programa y termina</translation>
+        <source>Show the version of kiv</source>
+        <translation>Muestra la versión de kiv</translation>
     </message>
     <message>
-        <source>kiv COMMAND --help tells more about a command.</source>
-        <translation>kiv ORDEN --help dice más sobre una orden.</translation>
+        <source>kiv COMMAND --help describes a command.</source>
+        <translation>kiv ORDEN --help describe una orden.</translation>
     </message>
     <message>
         <source>item</source>
@@ -3835,8 +3723,8 @@
         <translation>tipo</translation>
     </message>
     <message>
-        <source>Nothing can be fetched: %1.</source>
-        <translation>No se puede obtener nada: %1.</translation>
+        <source>Cannot load the HTTP library: %1.</source>
+        <translation>No se puede cargar la biblioteca HTTP: %1.</translation>
     </message>
     <message>
         <source>The row has %1 cells but there are %2 headings; put quotes around cells that contain the delimiter.</source>
@@ -3851,16 +3739,16 @@
         <translation>«%1» no es una forma de fecha; se compone de YYYY, MM y DD, como DD.MM.YYYY.</translation>
     </message>
     <message>
-        <source>Transactions posted: %1; duplicates left out: %2; accounts opened: %3.</source>
+        <source>Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.</source>
         <translation>Asientos registrados: %1; duplicados omitidos: %2; cuentas abiertas: %3.</translation>
     </message>
     <message>
-        <source>What &apos;%1&apos; is cannot be told from its name; say it with --format: journal, csv, ofx or qif.</source>
-        <translation>El nombre no dice qué es «%1»; indicarlo con --format: journal, csv, ofx o qif.</translation>
+        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx or qif.</source>
+        <translation>No se reconoce el formato de «%1»; se indica con --format: journal, csv, ofx o qif.</translation>
     </message>
     <message>
-        <source>Say with --into which account the bank statement is about.</source>
-        <translation>Indicar con --into de qué cuenta trata el extracto.</translation>
+        <source>Give the account of the bank statement with --into.</source>
+        <translation>La cuenta del extracto se indica con --into.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a known encoding; use one like windows-1252 or UTF-16.</source>
@@ -3887,44 +3775,44 @@
         <translation>La última entrada quizá esté cortada; hay que descargar el archivo de nuevo o terminarlo con una línea ^.</translation>
     </message>
     <message>
-        <source>The following argument was not expected: %1; --help tells which are.</source>
-        <translation>No se esperaba el argumento siguiente: %1; --help dice cuáles hay.</translation>
+        <source>Unexpected argument: %1</source>
+        <translation>Argumento inesperado: %1</translation>
     </message>
     <message>
-        <source>The following arguments were not expected: %1; --help tells which are.</source>
-        <translation>No se esperaban los argumentos siguientes: %1; --help dice cuáles hay.</translation>
+        <source>Unexpected arguments: %1</source>
+        <translation>Argumentos inesperados: %1</translation>
     </message>
     <message>
-        <source>The file&apos;s encoding; else the one that it names, or UTF-8</source>
-        <translation>La codificación del archivo; si no, la que este indica, o UTF-8</translation>
+        <source>Encoding (default: the one named in the file, or UTF-8)</source>
+        <translation>Codificación (por defecto: la que indica el archivo, o UTF-8)</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
         <translation>«%1» no es un tipo de cambio; debe ser como EUR=0.92.</translation>
     </message>
     <message>
-        <source>%1 kiv history tells which former version is whole; copy that file (&apos;%2&apos;, …) into its place.</source>
-        <translation>%1 kiv history dice qué versión anterior está íntegra; hay que copiar ese archivo («%2», …) en su lugar.</translation>
+        <source>%1 Find an intact version with kiv history, then copy its file (such as &apos;%2&apos;) over the damaged one.</source>
+        <translation>%1 Con kiv history se busca una versión íntegra; después se copia su archivo (como «%2») sobre el dañado.</translation>
     </message>
     <message>
-        <source>it is larger than 64 MiB, which line %1 exceeds; split it into smaller files</source>
-        <translation>supera los 64 MiB en la línea %1; hay que dividirlo en archivos más pequeños</translation>
+        <source>it is larger than 64 MiB (exceeded in line %1); split it into smaller files</source>
+        <translation>supera los 64 MiB (en la línea %1); hay que dividirlo en archivos más pequeños</translation>
     </message>
     <message>
         <source>The checksum is wrong.</source>
         <translation>La suma de comprobación es incorrecta.</translation>
     </message>
     <message>
-        <source>Its header is not whole.</source>
+        <source>Its header is damaged.</source>
         <translation>Su cabecera está dañada.</translation>
     </message>
     <message>
-        <source>There is more than a file may hold.</source>
-        <translation>Hay más de lo que puede contener un archivo.</translation>
+        <source>The content is larger than a file may be.</source>
+        <translation>El contenido es mayor de lo que puede ser un archivo.</translation>
     </message>
     <message>
-        <source>The surveys do not fit together.</source>
-        <translation>Las conciliaciones no encajan entre sí.</translation>
+        <source>The surveys contradict each other.</source>
+        <translation>Las conciliaciones se contradicen.</translation>
     </message>
     <message>
         <source>There are too many rows.</source>
@@ -3935,12 +3823,12 @@
         <translation>Un texto es demasiado largo.</translation>
     </message>
     <message>
-        <source>%1 needs a value (%2).</source>
-        <translation>%1 necesita un valor (%2).</translation>
+        <source>%1 needs a value (%2)</source>
+        <translation>%1 necesita un valor (%2)</translation>
     </message>
     <message>
-        <source>%1 was given %3 times, where %2 is the most.</source>
-        <translation>%1 se indicó %3 veces, y el máximo es %2.</translation>
+        <source>%1 was given %3 times, at most %2 is allowed</source>
+        <translation>%1 se indicó %3 veces, como máximo se admite %2</translation>
     </message>
     <message>
         <source>&apos;%1&apos;</source>
@@ -3975,10 +3863,10 @@
         <translation>un diario incluye como máximo %1 archivos</translation>
     </message>
     <message numerus="yes">
-        <source>%n more changes are not shown; --json tells all.</source>
+        <source>%n more changes are not shown; see all with --json.</source>
         <translation>
-            <numerusform>%n cambio más no se muestra; --json los da todos.</numerusform>
-            <numerusform>%n cambios más no se muestran; --json los da todos.</numerusform>
+            <numerusform>%n cambio más no se muestra; --json los muestra todos.</numerusform>
+            <numerusform>%n cambios más no se muestran; --json los muestra todos.</numerusform>
         </translation>
     </message>
     <message>
@@ -4010,8 +3898,8 @@
         <translation>Las entradas de «%1» a la misma cuenta se omiten, como un saldo inicial.</translation>
     </message>
     <message>
-        <source>How many lines stand below the entries, as of totals (csv)</source>
-        <translation>Cuántas líneas hay debajo de los apuntes, como totales (csv)</translation>
+        <source>Number of lines below the entries, such as totals (csv)</source>
+        <translation>Número de líneas bajo las entradas, como totales (csv)</translation>
     </message>
     <message>
         <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
@@ -4085,8 +3973,8 @@
         <translation>Las fechas en los comentarios se omiten; cada apunte tiene la fecha de su asiento.</translation>
     </message>
     <message>
-        <source>No bank keeps the account &apos;%1&apos;</source>
-        <translation>Ningún banco lleva la cuenta «%1»</translation>
+        <source>The account &apos;%1&apos; is not assigned to a bank</source>
+        <translation>La cuenta «%1» no está asignada a ningún banco</translation>
     </message>
     <message>
         <source>Several budget items are named &apos;%1&apos;</source>
@@ -4097,16 +3985,16 @@
         <translation>No se pudieron guardar los cambios de «%1»</translation>
     </message>
     <message>
-        <source>kiv bank-account attach ties it to one</source>
-        <translation>kiv bank-account attach la vincula a uno</translation>
+        <source>assign it with kiv bank-account attach</source>
+        <translation>se asigna con kiv bank-account attach</translation>
     </message>
     <message>
         <source>choose one with --kind: %1</source>
         <translation>se elige una con --kind: %1</translation>
     </message>
     <message>
-        <source>use save-as first</source>
-        <translation>hay que guardarlos antes con save-as</translation>
+        <source>save them elsewhere with save-as</source>
+        <translation>se guardan en otro lugar con save-as</translation>
     </message>
     <message>
         <source>The table has more than %1 characters up to here, each cell counted as at least %2; split the file.</source>
@@ -4153,15 +4041,15 @@
         <translation>La entrada tiene dos importes distintos, %1 y %2.</translation>
     </message>
     <message>
-        <source>The column that tells what is not booked yet (csv)</source>
-        <translation>La columna que dice qué no está contabilizado aún (csv)</translation>
+        <source>Column that marks pending entries (csv)</source>
+        <translation>Columna que marca las entradas pendientes (csv)</translation>
     </message>
     <message>
-        <source>The column of the balance; - to leave it unchecked (csv)</source>
-        <translation>La columna del saldo; - lo deja sin comprobar (csv)</translation>
+        <source>Column of the balance; - skips its check (csv)</source>
+        <translation>Columna del saldo; - omite su comprobación (csv)</translation>
     </message>
     <message>
-        <source>The reply&apos;s rates are of %1, older than the known ones of %2.</source>
+        <source>The rates of the reply are from %1, older than the known ones from %2.</source>
         <translation>Los tipos de la respuesta son del %1, más antiguos que los conocidos del %2.</translation>
     </message>
     <message>
@@ -4169,8 +4057,8 @@
         <translation>%1 Ahora se llama «%2».</translation>
     </message>
     <message>
-        <source>bill, debt, goal, nontrack or wage: where names repeat, or of --all</source>
-        <translation>bill, debt, goal, nontrack o wage: donde se repiten nombres, o para --all</translation>
+        <source>Kind, if several items have the name, or to limit --all: bill, debt, goal, nontrack or wage</source>
+        <translation>Tipo, si varias partidas se llaman así o para limitar --all: bill, debt, goal, nontrack o wage</translation>
     </message>
     <message>
         <source>typed</source>
@@ -4185,19 +4073,19 @@
         <translation>Origen</translation>
     </message>
     <message>
-        <source>The service has no exchange rates of these currencies: %1</source>
-        <translation>El servicio no tiene tipos de cambio de estas monedas: %1</translation>
+        <source>The service has no exchange rates for: %1</source>
+        <translation>El servicio no tiene tipos de cambio para: %1</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is named twice.</source>
-        <translation>«%1» aparece dos veces.</translation>
+        <source>The currency &apos;%1&apos; is given twice.</source>
+        <translation>La moneda «%1» se indica dos veces.</translation>
     </message>
     <message>
         <source>Use either %1 or %2, not both.</source>
         <translation>Indicar %1 o %2, no ambos.</translation>
     </message>
     <message>
-        <source>%1 goes only with %2.</source>
+        <source>Use %1 only together with %2.</source>
         <translation>%1 solo vale junto con %2.</translation>
     </message>
     <message>
@@ -4217,8 +4105,44 @@
         <translation>El banco «%1» tenía la cuenta %2, que no es de activo ni de pasivo.</translation>
     </message>
     <message>
-        <source>The last survey of the account %1 at the bank &apos;%2&apos; was made when it was another kind of account; it counts for the present kind, unless a later one does.</source>
-        <translation>La última conciliación de la cuenta %1 del banco «%2» se hizo cuando era una cuenta de otro tipo; vale para el tipo actual, salvo que haya una posterior.</translation>
+        <source>The last survey of the account %1 at the bank &apos;%2&apos; is from when the account had another type; it now counts for the present type, unless there is a later one.</source>
+        <translation>La última conciliación de la cuenta %1 del banco «%2» es de cuando la cuenta era de otro tipo; ahora vale para el tipo actual, salvo que haya una posterior.</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Budget file</source>
+        <translation>Archivo de presupuesto</translation>
+    </message>
+    <message>
+        <source>Accounts and transactions</source>
+        <translation>Cuentas y asientos</translation>
+    </message>
+    <message>
+        <source>Budget items</source>
+        <translation>Partidas</translation>
+    </message>
+    <message>
+        <source>Banks and statements</source>
+        <translation>Bancos y extractos</translation>
+    </message>
+    <message>
+        <source>Reports and export</source>
+        <translation>Informes y exportación</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otros</translation>
+    </message>
+    <message>
+        <source>There are no refundable transactions.</source>
+        <translation>No hay asientos reembolsables.</translation>
     </message>
     <message>
         <source>The entry has no amount.</source>

@@ -38,12 +38,12 @@ QString didYouMean(const QString &statement, const QStringList &similar)
 
 EntryError notAChoice(const QString &text, const QStringList &choices)
 {
-    // A mark would be lost among the commas.
+    // Quotes, since a mark such as "," would be lost among the commas.
     QStringList shown;
     for (const QString &choice : choices)
         shown += choice.front().isLetter() ? choice : QObject::tr("'%1'", "a name").arg(choice);
     const QString statement =
-        QObject::tr("'%1' is none of: %2").arg(text, shown.join(QStringLiteral(", ")));
+        QObject::tr("'%1' is not one of: %2").arg(text, shown.join(QStringLiteral(", ")));
     const QStringList similar = similarTo(text, choices).mid(0, 1);
     return EntryError(similar.isEmpty() ? statement + u'.' : didYouMean(statement, similar));
 }

@@ -102,7 +102,8 @@ std::vector<HealthReason> judgeShares(const budgeting::BudgetTotals &totals)
     const numira::Money &income = totals.wages();
     return {
         atMost(100,
-               QT_TRANSLATE_NOOP("QObject", "%1 % of the income is planned; %2 % is all there is."),
+               QT_TRANSLATE_NOOP("QObject",
+                                 "%1 % of the income is planned; at most %2 % is possible."),
                totals.outgoing(), income),
         atMost(needsMax,
                QT_TRANSLATE_NOOP("QObject",
@@ -146,7 +147,7 @@ BudgetHealth::BudgetHealth(const budgeting::BudgetTotals &totals)
         m_grade = HealthGrade::Critical;
     } else {
         m_reasons = {withoutShare(
-            true, QT_TRANSLATE_NOOP("QObject", "There is neither income nor spending to judge."))};
+            true, QT_TRANSLATE_NOOP("QObject", "There is no income and no spending yet."))};
     }
 }
 

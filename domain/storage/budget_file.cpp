@@ -42,7 +42,7 @@ void warnOf(const QStringList &mended)
 {
     for (const QString &sentence : mended)
         qWarning().noquote() << foundation::escaped(
-            QObject::tr("Mended while loading: %1").arg(sentence));
+            QObject::tr("Repaired while loading: %1").arg(sentence));
 }
 
 /// The file's content, loaded once as a test: a saved file must be one that can

@@ -18,8 +18,8 @@ QString number(int value)
 
 Error converterGone()
 {
-    return Error(QObject::tr("Cannot convert between currencies, because what looked up the "
-                             "exchange rates has been closed."));
+    return Error(QObject::tr(
+        "Cannot convert between currencies: the source of the exchange rates is closed."));
 }
 
 Error tagsOfOtherType()

@@ -246,8 +246,9 @@ private slots:
         CurrencyConverter::updateCache(newer);
         const MessageLog log;
         QCOMPARE(CurrencyConverter(*service.source).fetchAll({eur}), newer);
-        QCOMPARE(log.text(), failed + u"The reply's rates are of 2026-03-01T12:00:00Z, older than "
-                                      "the known ones of 2026-03-01T12:00:01Z."_s);
+        QCOMPARE(log.text(), failed +
+                                 u"The rates of the reply are from 2026-03-01T12:00:00Z, older "
+                                 "than the known ones from 2026-03-01T12:00:01Z."_s);
         CurrencyConverter::updateCache(
             ConversionMap(usd, standing.fetchedAt(), {{eur, 1}, {gbp, 2}}));
         QVERIFY(CurrencyConverter(*service.source).fetchAll({eur}).rate(usd, gbp) == 2);

@@ -102,7 +102,7 @@ account to each other one:
   Added the account 25 Euros.
   Added the account 27 Yen.
   Added the account 29 Dinar.
-  For one USD, as of ????-??-??T??:??:??Z (glob)
+  For 1 USD, as of ????-??-??T??:??:??Z (glob)
   Currency  Rate  Date        Source
   JPY       150   ????-??-??  typed (glob)
   KWD       0.31  ????-??-??  typed (glob)
@@ -172,9 +172,9 @@ The journal makes the same books, but that each currency which paid for another 
 through an account:
 
   $ kiv new again
-  Made the empty budget 'again.budget'.
+  Created the empty budget 'again.budget'.
   $ kiv import export.journal --file again | tail -1
-  Transactions posted: 1356; duplicates left out: 0; accounts opened: 35.
+  Transactions posted: 1356; duplicates skipped: 0; accounts opened: 35.
   $ own --file again | grep -v Equity:Conversion: | diff own -
   $ own --file again | grep -c Equity:Conversion:
   4
@@ -182,8 +182,8 @@ through an account:
 All of it is there already:
 
   $ kiv import export.journal --file again --dry-run | tail -2
-  Transactions posted: 0; duplicates left out: 1356; accounts opened: 0.
-  This was a dry run: nothing is saved.
+  Transactions posted: 0; duplicates skipped: 1356; accounts opened: 0.
+  Dry run: nothing is saved.
 
 Nothing in an export is obeyed:
 
@@ -220,7 +220,7 @@ The JSON has all of it, accounts by their numbers, and what has a fault in it lo
   > [{"date": "2026-01-01", "debit": 1, "credit": 2, "amount": "1 USD"},
   >  {"date": "2026-02-30", "debit": 1, "credit": 2, "amount": "1 USD"}]
   > .
-  kiv: Cannot understand transaction 2 of '-': '2026-02-30' is not a date; write one like 2026-03-31, with a day that exists.
+  kiv: Cannot understand transaction 2 of '-': '2026-02-30' is not a valid date; write one like 2026-03-31.
   [1]
 
 The JSON export follows the schema that its documentation holds:

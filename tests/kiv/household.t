@@ -4,11 +4,11 @@ What a household does from day to day.
 
   $ . "$TESTDIR/household.sh"
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv bank add First
   Added the bank 'First'.
   $ kiv bank-account add Checking --bank First --balance '2500.00 USD' --date 2026-01-01
-  Added the account 1 Checking at the bank 'First'.
+  Added the account 1 Checking to the bank 'First'.
   $ kiv bill add Rent '1250.00 USD' --next 2026-01-31
   Added the bill 'Rent'.
   $ kiv wage add Salary '3100.00 USD' --next 2026-01-25
@@ -35,10 +35,10 @@ A month, from nothing to what is on file:
   $ kiv bill update Light --amount 90.00 --every quarterly
   Changed the bill 'Light'.
   $ kiv transaction update 2 --description "A month's rent"
-  kiv: The transaction 2 is reconciled and cannot be changed before it is unreconciled.
+  kiv: The transaction 2 is reconciled; undo its reconciliation before you change it.
   [1]
   $ kiv transaction unreconcile 2
-  Took the reconciliation of the transaction 2 back.
+  Undid the reconciliation of the transaction 2.
   $ kiv transaction clear 2
   Cleared the transaction 2.
   $ kiv transaction update 2 --description "A month's rent"
@@ -111,7 +111,7 @@ A month at a glance:
   2026-01-25  Salary  wage  $3,100.00
   2026-01-31  Rent    bill  $1,250.00
   Budget health: good
-  40.3 % of the income is planned; 100 % is all there is.
+  40.3 % of the income is planned; at most 100 % is possible.
   Bills and debts take 40.3 % of the income; up to 50 % is sound.
   Debts take 0 % of the income; up to 36 % is sound.
   Free spending takes 0 % of the income; up to 30 % is sound.
@@ -148,7 +148,7 @@ What is due, by day:
   ]
   $ kiv post --all --kind bill --account Checking --date 2026-01-31 --dry-run
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
   $ kiv post --all --account Checking --date 2026-01-31
   Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
@@ -156,7 +156,7 @@ What is due, by day:
   Nothing is due.
   $ kiv post --all --account Checking --date 2020-01-01 --dry-run
   Nothing is due.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
 
 Names that stand in several places:
 
@@ -167,7 +167,7 @@ Names that stand in several places:
   $ kiv account add Twin --type income
   Added the account 7 Twin.
   $ kiv ledger Twin
-  kiv: Several accounts are named 'Twin'; give the number of one: 6, 7.
+  kiv: Several accounts are named 'Twin'; use one of the numbers 6, 7.
   [1]
   $ kiv post Rent --account Checking
   kiv: Several budget items are named 'Rent'; choose one with --kind: bill, wage.

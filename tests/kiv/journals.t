@@ -11,13 +11,13 @@ automated transactions only in another notation:
 
   $ cp "$TESTDIR/data/ledger_manual.journal" manual.journal
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv import manual.journal
   Dates in comments are skipped; each posting has the date of its transaction.
   Second dates of transactions are skipped.
   The postings of automated transactions are added.
   Unbalanced virtual postings are posted against Equity:Virtual.
-  Transactions posted: 20; duplicates left out: 0; accounts opened: 18.
+  Transactions posted: 20; duplicates skipped: 0; accounts opened: 18.
   $ own
   Assets:Checking  1366 USD
   Assets:Checking:Business  30 USD
@@ -84,9 +84,9 @@ paid for another one:
   > .
   $ rm household.budget*
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv import forms.journal
-  Transactions posted: 12; duplicates left out: 0; accounts opened: 14.
+  Transactions posted: 12; duplicates skipped: 0; accounts opened: 14.
   $ own
   Assets:Bank:Dollars  601.6 USD
   Assets:Cash  860.5 EUR
@@ -107,7 +107,7 @@ A journal is shown before it is posted:
 
   $ rm household.budget*
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ cat >a.journal <<.
   > 2026-01-01 x
   >  Assets:Cash  \$0
@@ -118,13 +118,13 @@ A journal is shown before it is posted:
        1  Assets:Cash
   There are no transactions in the file.
   1 transaction that moves nothing is left out.
-  Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
-  This was a dry run: nothing is saved.
+  Transactions posted: 0; duplicates skipped: 0; accounts opened: 1.
+  Dry run: nothing is saved.
   $ kiv accounts
   There are no accounts.
   $ kiv import a.journal
   1 transaction that moves nothing is left out.
-  Transactions posted: 0; duplicates left out: 0; accounts opened: 1.
+  Transactions posted: 0; duplicates skipped: 0; accounts opened: 1.
   $ kiv accounts
   Number  Account      Balance
        1  Assets:Cash    $0.00
@@ -134,14 +134,14 @@ A journal is shown before it is posted:
   >  Income:Job
   > .
   $ kiv import a.journal --commodity Fr=USD
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 1.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 1.
   $ kiv import a.journal --commodity Fr=USD --dry-run
   Line  Date        Description  Debit        Credit      Amount
      1  2026-01-01               Assets:Cash  Income:Job   $5.00  duplicate
-  Transactions posted: 0; duplicates left out: 1; accounts opened: 0.
-  This was a dry run: nothing is saved.
+  Transactions posted: 0; duplicates skipped: 1; accounts opened: 0.
+  Dry run: nothing is saved.
   $ echo 'include a.journal' | kiv import - --format journal
-  kiv: '-', line 1: Cannot include 'a.journal': there is no such file.
+  kiv: '-', line 1: Cannot include 'a.journal': the file does not exist.
   [1]
 
 Includes are followed within the journal's folder:
@@ -155,16 +155,16 @@ Includes are followed within the journal's folder:
   >  Income:I
   > .
   $ kiv import books/all.journal
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 2.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 2.
   $ : >books.journal
   $ echo 'include ../books.journal' >books/all.journal
   $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: Cannot include '../books.journal': it is outside of the journal's own folder.
+  kiv: 'books/all.journal', line 1: Cannot include '../books.journal': it is outside the folder of the journal.
   [1]
   $ ln -s ../books.journal books/link.journal
   $ echo 'include link.journal' >books/all.journal
   $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: Cannot include 'link.journal': it is outside of the journal's own folder.
+  kiv: 'books/all.journal', line 1: Cannot include 'link.journal': it is outside the folder of the journal.
   [1]
   $ echo 'include all.journal' >books/all.journal
   $ kiv import books/all.journal
@@ -175,7 +175,7 @@ A journal of a gigabyte is refused at once:
 
   $ truncate -s 1G large.journal
   $ timeout 20 kiv import large.journal
-  kiv: Cannot read 'large.journal': it is larger than 64 MiB, which line 1 exceeds; split it into smaller files.
+  kiv: Cannot read 'large.journal': it is larger than 64 MiB (exceeded in line 1); split it into smaller files.
   [1]
 
 What cannot be understood is refused, with its line, and so are options that do not fit:
@@ -215,16 +215,16 @@ What cannot be understood is refused, with its line, and so are options that do 
   kiv: 's.journal', line 4: The account '5 Gone' is closed.
   [1]
   $ echo 'include none.journal' | journal
-  kiv: 's.journal', line 1: Cannot include 'none.journal': there is no such file.
+  kiv: 's.journal', line 1: Cannot include 'none.journal': the file does not exist.
   [1]
   $ echo 'include *.journal' | journal
-  kiv: 's.journal', line 1: Cannot include '*.journal': patterns are not followed; name each file.
+  kiv: 's.journal', line 1: Cannot include '*.journal': patterns are not supported; name each file.
   [1]
   $ echo 'include books' | journal
-  kiv: 's.journal', line 1: Cannot include 'books': there is no such file.
+  kiv: 's.journal', line 1: Cannot include 'books': the file does not exist.
   [1]
   $ kiv import s.journal --root Aktiva=fish
-  kiv: 'fish' is none of: asset, equity, expense, liability, income.
+  kiv: 'fish' is not one of: asset, equity, expense, liability, income.
   [2]
   $ kiv import s.journal --root =asset
   kiv: '=asset' is not of the form NAME=VALUE.

@@ -7,14 +7,14 @@ What a budget holds is listed, and each field of it changed alone.
 Banks, accounts and their states:
 
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv banks
   There are no banks.
   $ kiv tags list
   There are no tags.
   $ begin
   $ kiv bank-account add Savings --bank First --type savings
-  Added the account 5 Savings at the bank 'First'.
+  Added the account 5 Savings to the bank 'First'.
   $ kiv bank-account rename Savings --under Checking --name 'Rainy days'
   The bank account 5 Assets:Savings is now 5 Assets:Checking:Rainy days.
   $ kiv account add Food --type expense --number 500
@@ -27,7 +27,7 @@ Banks, accounts and their states:
   The bank is now called 'Second'.
   $ kiv banks
   Second
-  Number  Account     Kind        Balance
+  Number  Account     Type        Balance
        1  Checking    checking  $2,500.00
        5  Rainy days  savings       $0.00
 
@@ -41,7 +41,7 @@ Money goes out of a sub-account, and into a top-level one:
   kiv: A transaction cannot debit and credit the same account '1 Checking'.
   [1]
   $ kiv transfer Checking 'Rainy days' 5
-  kiv: Money can be moved into an asset account that a bank keeps and that stands under no other, which 'Rainy days' is not.
+  kiv: Cannot transfer to 'Rainy days'; choose an asset account of a bank without a parent account.
   [1]
   $ kiv accounts --json | jq -c '.[1,3]'
   {"balance":{"amount":"50.00","currency":"USD"},"name":"Rainy days","number":5,"open":true,"parent":1,"path":"Assets:Checking:Rainy days","type":"asset"}
@@ -73,17 +73,17 @@ What is there is told:
   $ kiv bank close Second
   Closed the bank 'Second'.
   $ kiv rates set USD EUR=0.80
-  For one USD, as of ????-??-??T??:??:??Z (glob)
+  For 1 USD, as of ????-??-??T??:??:??Z (glob)
   Currency  Rate  Date        Source
   EUR       0.8   ????-??-??  typed (glob)
   $ kiv configure set --usable USD --usable EUR
-  Preferred currency                USD
-  Usable currencies                 USD, EUR
-  Currencies are shown by           Symbol
-  Days in which items count as due  14
-  Survey window                     2.75 %
-  Work hours a week                 40
-  Work days a week                  5
+  Preferred currency              USD
+  Usable currencies               USD, EUR
+  Display of currencies           Symbol
+  Due items shown ahead, in days  14
+  Survey window                   2.75 %
+  Work hours a week               40
+  Work days a week                5
   $ kiv account add Euros --type asset --currency EUR --balance 1 --date 2026-01-01
   Added the account 9 Euros.
   $ kiv transaction add '8 USD' --debit Euros --credit Checking --date 2026-02-02
@@ -127,11 +127,11 @@ What is there is told:
        3  Expenses:Rent [Budget Item]  $100.00
   $ kiv banks
   First
-  Number  Account             Kind                Balance
+  Number  Account             Type                Balance
        1  Checking            checking          $2,392.00
        6  Trip [Budget Item]  goal sub-account      $0.00
   Second (closed)
-  It keeps no accounts.
+  There are no accounts.
   $ kiv banks --json | jq -c '.[]'
   {"accounts":[{"balance":{"amount":"2392.00","currency":"USD"},"name":"Checking","number":1,"type":"checking"},{"balance":{"amount":"0.00","currency":"USD"},"name":"Trip [Budget Item]","number":6,"type":"goal sub-account"}],"name":"First","open":true}
   {"accounts":[],"name":"Second","open":false}
@@ -161,22 +161,22 @@ What is there is told:
   sport
   $ kiv tags remove home --dry-run
   Removed the tag home.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
   $ kiv account recode Food --top-level --dry-run
   The account 7 Expenses:Old:Food is now 7 Expenses:Food.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
   $ kiv reconciliation last Checking
   1 Checking was never reconciled.
   $ kiv check
-  Promise                                         Verdict  Details
-  It is a budget file of a known version          kept
-  Its tables are those of that version            kept
-  Its rows are those that were written            kept
-  Its books obey the rules of the ledger          kept
-  Its items, accounts and banks fit together      kept
-  Every balance is the sum of its transactions    kept
-  In every currency the debits equal the credits  kept     2600.00 USD, 1.00 EUR
-  The budget 'household.budget' is whole.
+  Check                                         Result  Details
+  The file is a budget file of a known version  ok
+  The tables belong to that version             ok
+  The rows are as they were saved               ok
+  The books follow the rules of the ledger      ok
+  Items, accounts and banks match               ok
+  Every balance is the sum of its transactions  ok
+  Debits equal credits in every currency        ok      2600.00 USD, 1.00 EUR
+  The budget 'household.budget' is intact.
 
 Each field of something is changed alone:
 
@@ -219,7 +219,7 @@ Each field of something is changed alone:
   $ kiv post Rent --amount 7 --account Checking --date 2026-03-01
   Posted the bill 'Rent', due on 2026-03-01: $7.00.
   $ kiv bank-account detach Checking
-  The bank 'First' no longer keeps the account 1 Checking.
+  Separated the account 1 Checking from the bank 'First'.
   $ kiv transactions
   Number  Date        Description                                       Debit                                 Credit                                   Amount
        1  2026-01-01                                                    Assets:Checking                       Equity:Opening Balances USD [Equity]  $2,500.00
@@ -245,9 +245,9 @@ Each field of something is changed alone:
   {"amount":{"amount":"20.00","currency":"USD"},"bank":"Second","bankAccount":7,"borrowed":{"amount":"400.00","currency":"USD"},"every":"monthly","kind":"debt","name":"Car","next":"2026-02-01","tags":[]}
   $ kiv banks
   First
-  It keeps no accounts.
+  There are no accounts.
   Second
-  Number  Account            Kind  Balance
+  Number  Account            Type  Balance
        7  Car [Budget Item]  loan  $500.00
 
 What was closed is opened again, and what was added is removed:
@@ -262,14 +262,14 @@ What was closed is opened again, and what was added is removed:
   $ kiv account remove Food
   Removed the account 5 Food.
   $ kiv bank-account add Card --bank First --type credit-card
-  Added the account 5 Card at the bank 'First'.
+  Added the account 5 Card to the bank 'First'.
   $ kiv bank-account detach Card
-  The bank 'First' no longer keeps the account 5 Card.
+  Separated the account 5 Card from the bank 'First'.
   $ kiv bank-account attach Card --bank First --type line-of-credit
-  The bank 'First' keeps the account 5 Card now.
+  Assigned the account 5 Card to the bank 'First'.
   $ kiv banks
   First
-  Number  Account   Kind              Balance
+  Number  Account   Type              Balance
        1  Checking  checking        $2,500.00
        5  Card      line of credit      $0.00
   $ kiv bank-account remove Card
@@ -288,7 +288,7 @@ What was closed is opened again, and what was added is removed:
   $ kiv nontrack remove Sweets
   Removed the non-tracked item 'Sweets'.
   $ kiv nontrack list
-  There are none.
+  There are no budget items.
   $ kiv wage list
   Name       Amount  Every    Next        Tags
   Salary  $3,100.00  monthly  2026-01-25
@@ -323,7 +323,7 @@ What was closed is opened again, and what was added is removed:
   Removed the bank 'First'.
   $ kiv banks
   Second
-  It keeps no accounts.
+  There are no accounts.
   $ kiv accounts --type asset
   There are no accounts.
   $ kiv transactions

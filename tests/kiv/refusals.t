@@ -25,13 +25,13 @@ Amounts:
   kiv: 'USD 1 EUR' is not an amount; write one like 1234.50 or '1234.50 USD'.
   [2]
   $ kiv bill add Gym 1234567890123456789012345678901234567890
-  kiv: The amount '1234567890123456789012345678901234567890' is too large to be kept exactly.
+  kiv: The amount '1234567890123456789012345678901234567890' is too large.
   [2]
   $ kiv bill add Gym '12.345 USD'
-  kiv: '12.345 USD' has more digits behind the point than the 2 of USD.
+  kiv: '12.345 USD' has too many decimals; USD allows 2.
   [2]
   $ kiv bill add Gym '12.5 JPY'
-  kiv: '12.5 JPY' is not an amount of JPY, which has no minor unit.
+  kiv: '12.5 JPY' is not an amount in JPY, which has no decimals.
   [2]
   $ kiv bill add Gym '12 ABQ'
   kiv: 'ABQ' is not a currency; write its ISO 4217 code, like USD.
@@ -43,25 +43,25 @@ Amounts:
   kiv: 'UDS' is not a currency; did you mean 'USD', 'UZS'?
   [2]
   $ kiv bill add Gym -- -12
-  kiv: The amount of the budget item 'Gym' cannot be negative, as -$12.00 is.
+  kiv: The amount of the budget item 'Gym' cannot be negative, but is -$12.00.
   [1]
 
 Dates, and other values:
 
   $ kiv bill add Gym 12 --next 2026-02-30
-  kiv: '2026-02-30' is not a date; write one like 2026-03-31, with a day that exists.
+  kiv: '2026-02-30' is not a valid date; write one like 2026-03-31.
   [2]
   $ kiv bill add Gym 12 --next 30.01.2026
-  kiv: '30.01.2026' is not a date; write one like 2026-03-31, with a day that exists.
+  kiv: '30.01.2026' is not a valid date; write one like 2026-03-31.
   [2]
   $ kiv bill add Gym 12 --next 2026-01-30T10:00
-  kiv: '2026-01-30T10:00' is not a date; write one like 2026-03-31, with a day that exists.
+  kiv: '2026-01-30T10:00' is not a valid date; write one like 2026-03-31.
   [2]
   $ kiv bill add Gym 12 --every moonly
-  kiv: 'moonly' is none of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years.
+  kiv: 'moonly' is not one of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years.
   [2]
   $ kiv bill add Gym 12 --every moonthly
-  kiv: 'moonthly' is none of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years; did you mean 'monthly'?
+  kiv: 'moonthly' is not one of: none, daily, every-weekday, weekly, every-two-weeks, twice-a-month, monthly, every-two-months, quarterly, every-four-months, twice-a-year, yearly, every-two-years, every-three-years, every-five-years, every-ten-years; did you mean 'monthly'?
   [2]
   $ kiv bill add ' ' 12
   kiv: A name cannot be empty.
@@ -70,7 +70,7 @@ Dates, and other values:
   kiv: '5x%' is not a percentage; write one like 2.75.
   [2]
   $ kiv configure set --display name
-  kiv: 'name' is none of: code, symbol, both.
+  kiv: 'name' is not one of: code, symbol, both.
   [2]
   $ kiv rates set EUR USD
   kiv: 'USD' is not a rate; write one like EUR=0.92.
@@ -79,34 +79,34 @@ Dates, and other values:
   kiv: 'EUR=abc' is not a rate; write one like EUR=0.92.
   [2]
   $ kiv rates set USD EUR=1 EUR=2
-  kiv: 'EUR' is named twice.
+  kiv: The currency 'EUR' is given twice.
   [2]
   $ kiv rates set euros USD=1
   kiv: 'euros' is not a currency; did you mean 'EUR'?
   [2]
   $ kiv export --format pdf
-  kiv: 'pdf' is none of: journal, csv, json.
+  kiv: 'pdf' is not one of: journal, csv, json.
   [2]
   $ env LC_ALL=de_DE.UTF-8 kiv account remove 'x Caused by: y'
-  kiv: Es gibt kein Konto \xe2\x80\x9ex Caused by: y\xe2\x80\x9c; kiv accounts z\xc3\xa4hlt auf, welche es gibt. (esc)
+  kiv: Es gibt kein Konto \xe2\x80\x9ex Caused by: y\xe2\x80\x9c; siehe kiv accounts. (esc)
   [1]
   $ kiv wizard x --bank B --account A --template teenagr
-  kiv: 'teenagr' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income; did you mean 'teenager'?
+  kiv: 'teenagr' is not one of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income; did you mean 'teenager'?
   [2]
 
 Nothing to change, and what excludes each other:
 
   $ kiv bill update Rent
-  kiv: Nothing to change was given; --help lists what can be changed.
+  kiv: No change given; see --help.
   [2]
   $ kiv account recode Checking
-  kiv: Nothing to change was given; --help lists what can be changed.
+  kiv: No change given; see --help.
   [2]
   $ kiv transaction update 1
-  kiv: Nothing to change was given; --help lists what can be changed.
+  kiv: No change given; see --help.
   [2]
   $ kiv undo --to 0
-  kiv: Version 0 is the file itself; kiv history lists the former ones.
+  kiv: Version 0 is the file itself; see kiv history for older ones.
   [2]
   $ kiv account recode 1 --under 3 --top-level
   kiv: Use either --under or --top-level, not both.
@@ -124,7 +124,7 @@ Nothing to change, and what excludes each other:
   kiv: ITEM is missing.
   [2]
   $ kiv debt add Car 5 --borrowed 9 --type loan
-  kiv: --type goes only with --bank.
+  kiv: Use --type only together with --bank.
   [2]
   $ kiv new a --file b
   kiv: Use either FILE or --file, not both.
@@ -139,7 +139,7 @@ Nothing to change, and what excludes each other:
   kiv: Use either FILE or --file, not both.
   [2]
   $ kiv report --title T
-  kiv: --title goes only with --html.
+  kiv: Use --title only together with --html.
   [2]
   $ kiv --json report --chart
   kiv: Use either --chart or --json, not both.
@@ -154,49 +154,49 @@ Nothing to change, and what excludes each other:
 Commands, options and arguments; for a slip, what may have been meant is offered:
 
   $ kiv
-  kiv: A command is missing; --help lists those that there are.
+  kiv: No command given; see kiv --help.
   [2]
   $ kiv bank
-  kiv: A command is missing; --help lists those that there are.
+  kiv: No command given; see kiv bank --help.
   [2]
   $ kiv frobnicate
-  kiv: 'frobnicate' is no command; kiv --help lists those that there are.
+  kiv: There is no command 'frobnicate'; see kiv --help.
   [2]
   $ kiv bil list
-  kiv: 'bil' is no command; did you mean 'bill'?
+  kiv: There is no command 'bil'; did you mean 'bill'?
   [2]
   $ kiv bank-account atach 1
-  kiv: 'atach' is no command; did you mean 'attach'?
+  kiv: There is no command 'atach'; did you mean 'attach'?
   [2]
   $ kiv --file household bil list
-  kiv: 'bil' is no command; did you mean 'bill'?
+  kiv: There is no command 'bil'; did you mean 'bill'?
   [2]
   $ kiv --json bil list
-  kiv: 'bil' is no command; did you mean 'bill'?
+  kiv: There is no command 'bil'; did you mean 'bill'?
   [2]
   $ kiv -x bill list
-  kiv: The following argument was not expected: -x; --help tells which are.
+  kiv: Unexpected argument: -x; see kiv bill list --help.
   [2]
   $ kiv bill add Gym 12 --colour red
-  kiv: '--colour' is no option of this command; --help lists those that there are.
+  kiv: There is no option '--colour'; see kiv bill add --help.
   [2]
   $ kiv bill add Gym 12 --evrey=daily
-  kiv: '--evrey' is no option of this command; did you mean '--every'?
+  kiv: There is no option '--evrey'; did you mean '--every'?
   [2]
   $ kiv post Rent --acount Checking
-  kiv: '--acount' is no option of this command; did you mean '--account', '--amount'?
+  kiv: There is no option '--acount'; did you mean '--account', '--amount'?
   [2]
   $ kiv bill add Gym
-  kiv: AMOUNT is required.
+  kiv: AMOUNT is missing; see kiv bill add --help.
   [2]
   $ kiv bill add Gym 12 --next
-  kiv: --next needs a value (DATE).
+  kiv: --next needs a value (DATE); see kiv bill add --help.
   [2]
   $ kiv bill add Gym 12 --next 2026-01-01 --next 2026-01-02
-  kiv: --next was given 2 times, where 1 is the most.
+  kiv: --next was given 2 times, at most 1 is allowed; see kiv bill add --help.
   [2]
   $ kiv bill list --json=perhaps
-  kiv: Could not convert: --json = perhaps.
+  kiv: --json does not accept the value 'perhaps'; see kiv bill list --help.
   [2]
   $ kiv transaction remove one
   kiv: 'one' is not a whole number from 1 to 65535.
@@ -211,7 +211,7 @@ Commands, options and arguments; for a slip, what may have been meant is offered
 Names that are not there:
 
   $ kiv ledger Savings
-  kiv: There is no account 'Savings'; kiv accounts lists those that there are.
+  kiv: There is no account 'Savings'; see kiv accounts.
   [1]
   $ kiv ledger Chekcing
   kiv: There is no account 'Chekcing'; did you mean 'Checking'?
@@ -223,22 +223,22 @@ Names that are not there:
   kiv: There is no bank 'Frist'; did you mean 'First'?
   [1]
   $ kiv bank-account add Savings --bank Second
-  kiv: There is no bank 'Second'; kiv banks lists those that there are.
+  kiv: There is no bank 'Second'; see kiv banks.
   [1]
   $ kiv goal add Trip 5 --target 9 --bank-account 3
-  kiv: No bank keeps the account '3'; kiv bank-account attach ties it to one.
+  kiv: The account '3' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
   $ kiv bank-account detach 3
-  kiv: No bank keeps the account '3'; kiv bank-account attach ties it to one.
+  kiv: The account '3' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
   $ kiv bill rename Gym Club
-  kiv: There is no bill 'Gym'; kiv bill list shows those that there are.
+  kiv: There is no bill 'Gym'; see kiv bill list.
   [1]
   $ kiv bill rename rent Flat
   kiv: There is no bill 'rent'; did you mean 'Rent'?
   [1]
   $ kiv bill remove Salary
-  kiv: There is no bill 'Salary'; kiv bill list shows those that there are.
+  kiv: There is no bill 'Salary'; see kiv bill list.
   [1]
   $ kiv wage update Salery --amount 1
   kiv: There is no wage 'Salery'; did you mean 'Salary'?
@@ -247,13 +247,13 @@ Names that are not there:
   kiv: There is no budget item 'Salray'; did you mean 'Salary'?
   [1]
   $ kiv tags remove home
-  kiv: There is no tag 'home'; kiv tags list shows those that there are.
+  kiv: There is no tag 'home'; see kiv tags list.
   [1]
   $ kiv transaction remove 77
   kiv: There is no transaction with the number 77.
   [1]
   $ kiv transaction update 77 --amount 1
-  kiv: There is no transaction 77; kiv transactions lists those that there are.
+  kiv: There is no transaction 77; see kiv transactions.
   [1]
   $ kiv transaction clear 1 77
   kiv: There is no transaction with the number 77.
@@ -274,7 +274,7 @@ Names that are there already:
   kiv: The code name is the same name as an existing budget item.
   [1]
   $ kiv account add Food --type expense --number 1
-  kiv: The account '1 Food' cannot have a number that the account '1 Checking' has.
+  kiv: The account '1 Food' cannot have the number of the account '1 Checking'.
   [1]
 
 What the ledger does not take:
@@ -286,7 +286,7 @@ What the ledger does not take:
   kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
   [1]
   $ kiv transfer 3 Checking 5
-  kiv: Money can be moved out of an asset account that a bank keeps, which '3' is not.
+  kiv: Cannot transfer from '3'; choose an asset account of a bank.
   [1]
   $ kiv transaction add 5 --debit Checking --credit 1
   kiv: A transaction cannot debit and credit the same account '1 Checking'.
@@ -317,11 +317,11 @@ Transactions to be loaded:
   kiv: Cannot understand transaction 1 of '-': "date" is missing.
   [1]
   $ load '[{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]'
-  kiv: Cannot understand transaction 1 of '-': 'x' is none of: none, cleared, reconciled.
+  kiv: Cannot understand transaction 1 of '-': 'x' is not one of: none, cleared, reconciled.
   [1]
   $ truncate -s 65M large.json
   $ kiv transaction load large.json
-  kiv: Cannot read 'large.json': it is larger than 64 MiB, which line 1 exceeds; split it into smaller files.
+  kiv: Cannot read 'large.json': it is larger than 64 MiB (exceeded in line 1); split it into smaller files.
   [1]
   $ kiv transaction load nowhere.json
   kiv: Cannot read 'nowhere.json': No such file or directory.
@@ -354,7 +354,7 @@ A dry run tells what would be:
 
   $ kiv bill add Gym 30 --dry-run
   Added the bill 'Gym'.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
 
 A file that is open elsewhere is refused until it is let go:
 
@@ -365,7 +365,7 @@ A file that is open elsewhere is refused until it is let go:
   $ let_go
   $ kiv bank add Second --dry-run
   Added the bank 'Second'.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
 
 A limit on the size of files stands for a disk that is full. It is not to hinder what a
 coverage build writes at its end:
@@ -399,13 +399,13 @@ newer version (which SQLite keeps at byte 60) or with one bit changed, are left 
   [1]
   $ head -c 20000 household.budget >bad.budget
   $ refused
-  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is not whole.
-  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is not whole.
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is damaged.
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is damaged.
   [1]
   $ yes '%PDF-1.7 and so on' | head -400 >bad.budget
   $ refused
-  kiv: The file 'bad.budget' is not of the kind that is used here.
-  kiv: The file 'bad.budget' is not of the kind that is used here.
+  kiv: The file 'bad.budget' was not written by this program.
+  kiv: The file 'bad.budget' was not written by this program.
   [1]
   $ cp household.budget bad.budget
   $ printf '\143' | dd of=bad.budget bs=1 seek=63 conv=notrunc status=none
@@ -423,18 +423,18 @@ Commands that need a file say that none is named:
 
   $ KIV_FILE=
   $ kiv accounts
-  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
   [2]
   $ kiv new
-  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
   [2]
   $ kiv check
-  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
   [2]
   $ kiv completion words -- post G
   $ kiv rates show
-  No exchange rates are known.
+  There are no exchange rates; use kiv rates fetch or kiv rates set.
   $ printf 'new\naccounts\n' | kiv shell
-  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
-  kiv: No budget file was named; use --file or the variable KIV_FILE, or make one with kiv new FILE.
+  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
+  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
   [2]

@@ -7,41 +7,40 @@ Help, the tour, completion and settings.
 Help needs nothing and leaves nothing:
 
   $ kiv help bill add
-  Add one
+  Add an item
   Usage: kiv bill add [OPTIONS] NAME AMOUNT
   
-  Positionals:
-    NAME REQUIRED               Its name
-    AMOUNT REQUIRED             What it comes to
+  Arguments:
+    NAME REQUIRED               Name
+    AMOUNT REQUIRED             Amount
   
   Options:
-    -h,--help                   Print this help message and exit
-    --every TEXT                How often it recurs, such as monthly
-    --next DATE                 The next day on which it does
-    --tag TEXT                  A tag to find it by; may be given several times
-    --date DATE                 Today, in place of --next
-    --file TEXT                 The budget file; else KIV_FILE names it
-    --json                      Print JSON for programs
-    --dry-run                   Show what would come of it, save nothing
+    -h,--help                   Show this help
+    --every TEXT                Frequency, such as monthly
+    --next DATE                 Next due date
+    --tag TAG                   Tag (repeatable)
+    --date DATE                 Day of the opening; next due date if --next is
+                                missing
+    --file FILE                 Budget file (default: the variable KIV_FILE)
+    --json                      Print JSON, for programs
+    --dry-run                   Show the result, save nothing
     --verbose                   Show the log on standard error
   
-  kiv COMMAND --help tells more about a command.
   $ env LC_ALL=de_DE.UTF-8 kiv bank rename --help
-  Einer Bank einen anderen Namen geben
+  Eine Bank umbenennen
   Aufruf: kiv bank rename [OPTIONEN] BANK NEUER-NAME
   
   Argumente:
-    BANK NÖTIG                  Der Name der Bank
-    NEUER-NAME NÖTIG            Der neue Name
+    BANK NÖTIG                  Name der Bank
+    NEUER-NAME NÖTIG            Neuer Name
   
   Optionen:
-    -h,--help                   Diese Hilfe ausgeben und enden
-    --file TEXT                 Die Budgetdatei; sonst nennt sie KIV_FILE
-    --json                      JSON für Programme ausgeben
-    --dry-run                   Zeigen, was dabei herauskäme, nichts speichern
+    -h,--help                   Diese Hilfe zeigen
+    --file DATEI                Budgetdatei (Standard: die Variable KIV_FILE)
+    --json                      JSON ausgeben, für Programme
+    --dry-run                   Das Ergebnis zeigen, nichts speichern
     --verbose                   Das Protokoll auf der Fehlerausgabe zeigen
   
-  kiv BEFEHL --help sagt mehr über einen Befehl.
   $ kiv --version
   kiv 1.* (glob)
   $ ls -A
@@ -125,7 +124,7 @@ never offered:
   kiv: '--json' is no option of this command; --help lists those that there are.
   [2]
   $ echo $(kiv completion words)
-  new info save-as undo history check wizard templates accounts ledger account banks bank bank-account bill debt goal nontrack wage due post pay skip transactions transaction transfer refundable refund survey reconciliation dashboard configure tags rates updates release-notes import export report shell watch tour completion
+  new info save-as wizard templates undo history check accounts ledger account transactions transaction transfer refundable refund bill debt goal nontrack wage tags due post pay skip banks bank bank-account import survey reconciliation dashboard report export configure rates shell watch tour updates release-notes completion
 
 A rates file that cannot be read gets another name, which is told:
 
@@ -136,15 +135,15 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
 
   $ rm household.budget*
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv configure set --preferred EUR --usable EUR --usable USD --display code --notify-within 30
-  Preferred currency                EUR
-  Usable currencies                 USD, EUR
-  Currencies are shown by           ISO-4217 Code
-  Days in which items count as due  30
-  Survey window                     2.75 %
-  Work hours a week                 40
-  Work days a week                  5
+  Preferred currency              EUR
+  Usable currencies               USD, EUR
+  Display of currencies           ISO-4217 Code
+  Due items shown ahead, in days  30
+  Survey window                   2.75 %
+  Work hours a week               40
+  Work days a week                5
   $ kiv bill add Miete 700 --next 2026-02-01
   Added the bill 'Miete'.
   $ kiv bill list
@@ -154,7 +153,7 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   kiv: The number of days to notify within must be between 0 and 60.
   [1]
   $ kiv configure set
-  kiv: Nothing to change was given; --help lists what can be changed.
+  kiv: No change given; see --help.
   [2]
   $ settings() { kiv configure "$@" --json | jq -c .; }
   $ settings show
@@ -175,13 +174,13 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   kiv: User system locale "C"
   kiv: The first update check will occur in 5000ms
   kiv: Starting update check with the interval of 3600000ms
-  Preferred currency                JPY
-  Usable currencies                 JPY
-  Currencies are shown by           Symbol and Code
-  Days in which items count as due  30
-  Survey window                     2.5 %
-  Work hours a week                 30
-  Work days a week                  4
+  Preferred currency              JPY
+  Usable currencies               JPY
+  Display of currencies           Symbol and Code
+  Due items shown ahead, in days  30
+  Survey window                   2.5 %
+  Work hours a week               30
+  Work days a week                4
   $ kiv bill list
   Name        Amount  Every    Next        Tags
   Miete  €700.00 EUR  monthly  2026-02-01

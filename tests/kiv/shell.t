@@ -21,7 +21,7 @@ next line, and the exit status is that of the first line that failed:
   kiv: '12,3x' is not an amount; write one like 1234.50 or '1234.50 USD'.
   kiv: The code name is the same name as an existing budget item.
   Added the bill 'Car tax'.
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
   kiv: The file 'household.budget' exists already; choose another name.
   kiv: The file 'household.budget' exists already; choose another name.
   Template                     Household
@@ -60,7 +60,7 @@ An item that has lost its account comes back mended, as from the file:
   > bill list
   > .
   Removed the account 3 Rent [Budget Item].
-  kiv: warning: Mended while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 6.
+  kiv: warning: Repaired while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 6.
   kiv: The new budgeted money item source already exists.
   Name        Amount  Every    Next        Tags
   Car tax    $360.00  monthly  2026-02-01
@@ -79,7 +79,7 @@ That rates could not be stored is a warning, since the budget was saved:
   > bill add Club 20 --next 2026-02-01
   > .
   kiv: warning: The file '*/shell.t/data/kiv/kiv/rates' could not be saved: Not a directory. (glob)
-  Made the empty budget 'second.budget'.
+  Created the empty budget 'second.budget'.
   Added the bill 'Gym'.
   Saved the budget as 'third.budget'.
   Added the bill 'Club'.
@@ -107,7 +107,7 @@ and no other file does; it is saved at the end at the latest:
   $ say 'bill add Gym 30 --next 2026-02-01' 'not a regular file'
   $ say 'bill remove Rent --dry-run' 'Removed the bill'
   $ say 'bill add Gym 31' 'already exists'
-  $ say 'bill list --file other' 'use save-as'
+  $ say 'bill list --file other' 'elsewhere with save-as'
   $ rmdir household.budget
   $ mv away household.budget
   $ let_go
@@ -115,7 +115,7 @@ and no other file does; it is saved at the end at the latest:
   $ grep kiv: "$CRAMTMP/heard"
   kiv: 'household.budget' is not a regular file.
   kiv: The new budgeted money item source already exists.
-  kiv: The changes of 'household.budget' could not be saved; use save-as first.
+  kiv: The changes of 'household.budget' could not be saved; save them elsewhere with save-as.
   $ kiv bill list
   Name     Amount  Every    Next        Tags
   Gym      $30.00  monthly  2026-02-01
@@ -134,7 +134,7 @@ stand among them:
   [1]
   $ grep -v warning errors | head -2
   kiv: The code name is the same name as an existing budget item.
-  Bills: what must be paid
+  Add, change or list bills
   $ jq -r .signal signals | head -1
   loadedBudgetFile
   $ jq -c 'select(.signal | test("^save|SaveFailed|showBills"))' signals

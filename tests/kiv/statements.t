@@ -32,8 +32,8 @@ A statement is previewed, posted, and known again:
      4  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
      6  2026-01-08  Refund       Assets:Checking  Expenses:Other      $20.00
   Entries with amount zero are skipped.
-  Transactions posted: 4; duplicates left out: 0; accounts opened: 0.
-  This was a dry run: nothing is saved.
+  Transactions posted: 4; duplicates skipped: 0; accounts opened: 0.
+  Dry run: nothing is saved.
   $ first --json | jq -c 'del(.transactions), .transactions[]'
   {"accounts":[],"duplicates":0,"notices":["Entries with amount zero are skipped."],"posted":4}
   {"amount":{"amount":"1012.50","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-05","debit":5,"debitPath":"Expenses:Food","debitStatus":"none","description":"REWE","duplicate":false,"line":2}
@@ -55,16 +55,16 @@ A third coffee is new; the other entries were there before:
   $ again() { kiv import s.csv --into Checking --against Other --profile mine "$@"; }
   $ again
   Entries with amount zero are skipped.
-  Transactions posted: 1; duplicates left out: 4; accounts opened: 0.
+  Transactions posted: 1; duplicates skipped: 4; accounts opened: 0.
 
 What changes nothing is not saved, and keeps the former versions:
 
   $ cp household.budget.backup-1 formerly
   $ again | tail -1
-  Transactions posted: 0; duplicates left out: 5; accounts opened: 0.
+  Transactions posted: 0; duplicates skipped: 5; accounts opened: 0.
   $ cmp household.budget.backup-1 formerly
   $ again --keep-duplicates | tail -1
-  Transactions posted: 5; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 5; duplicates skipped: 0; accounts opened: 0.
   $ kiv accounts
   Number  Account                                 Balance
        1  Assets:Checking                         $497.00
@@ -83,9 +83,9 @@ The bank's own identifiers tell what is there already:
   > </BANKTRANLIST></STMTRS></OFX>
   > .
   $ kiv import s.ofx --into Checking --against Other
-  Transactions posted: 2; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 2; duplicates skipped: 0; accounts opened: 0.
   $ kiv import s.ofx --into Checking --against Other
-  Transactions posted: 0; duplicates left out: 2; accounts opened: 0.
+  Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
   $ kiv export | grep 'x2'
   2026-01-10 (13) Bakery [id x2]
   $ kiv transaction update 13 --description 'Cake for Ann'
@@ -99,48 +99,48 @@ The bank's own identifiers tell what is there already:
 A transfer that both banks tell is told as one that may be there:
 
   $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01
-  Added the account 7 Savings at the bank 'First'.
+  Added the account 7 Savings to the bank 'First'.
   $ moved() { echo "<OFX><STMTRS><CURDEF>USD<BANKTRANLIST><STMTTRN><DTPOSTED>20260112<TRNAMT>$1
   >     <FITID>$2<NAME>$3</STMTTRN></BANKTRANLIST></STMTRS></OFX>" >moved.ofx; }
   $ moved -300 c7 'TO SAVINGS'
   $ kiv import moved.ofx --into Checking --against Savings
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
   $ moved 300 s9 'FROM CHECKING'
   $ kiv import moved.ofx --into Savings --against Checking --dry-run | tail -3
   Line 1 may be a transfer that the other account's statement already posted.
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
-  This was a dry run: nothing is saved.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  Dry run: nothing is saved.
   $ kiv import moved.ofx --into Savings --against Other --dry-run | tail -2
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
-  This was a dry run: nothing is saved.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  Dry run: nothing is saved.
 
 Cash has no statement of its own:
 
   $ kiv bank-account add Purse --bank First --type cash
-  Added the account 8 Purse at the bank 'First'.
+  Added the account 8 Purse to the bank 'First'.
   $ for id in c8 c9; do moved -20 $id ATM; kiv import moved.ofx --into Checking --against Purse; done
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
 
 What is left out, or goes elsewhere than the file says, is told:
 
   $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep account
   There is no account 'Visa'; its transfers are posted to 'Expenses:Other'.
-  Transactions posted: 1; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
   $ printf '!Type:Bank\nD1/15/2026\nT9\nPOpening Balance\nL[Checking]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep itself
   Entries from 'Assets:Checking' to itself are skipped, such as an opening balance.
   $ printf 'Date,Text,Amount,State\n2026-02-01,Shop,-9,Pending\n' >pending.csv
   $ kiv import pending.csv --into Checking --against Other --save-profile mine
   Entries that the bank has not booked yet are skipped.
-  Transactions posted: 0; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 0; duplicates skipped: 0; accounts opened: 0.
   $ printf 'Date,Text,Amount\n2025-12-31,Old,-9\n2026-01-01,New,-9\n' >old.csv
   $ kiv import old.csv --into Checking --against Other
   Some entries are older than the opening balance of 2026-01-01, which may already include them.
-  Transactions posted: 2; duplicates left out: 0; accounts opened: 0.
+  Transactions posted: 2; duplicates skipped: 0; accounts opened: 0.
   $ kiv import old.csv --into Checking --against Other --profile mine
-  Transactions posted: 0; duplicates left out: 2; accounts opened: 0.
+  Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
 
 A file that was cut off is not half a file:
 
@@ -163,7 +163,7 @@ A profile is saved with the budget, or not at all:
 Where a profile cannot be saved, nothing is posted:
 
   $ kiv import s.csv --into Checking --profile yours
-  kiv: There is no profile 'yours' among: mine, rules.
+  kiv: There is no profile 'yours'; saved profiles: mine, rules.
   [1]
   $ rm -r config/kiv/import
   $ echo 'no folder' >config/kiv/import
@@ -188,10 +188,10 @@ What cannot be read is refused, with its line:
   kiv: 'bad.csv', line 2: The file is not valid UTF-8 here; name its encoding with --encoding.
   [1]
   $ echo x | bank s.bin
-  kiv: What 's.bin' is cannot be told from its name; say it with --format: journal, csv, ofx or qif.
+  kiv: Cannot tell the format of 's.bin'; use --format: journal, csv, ofx or qif.
   [2]
   $ kiv import s.ofx --into Checking
-  kiv: Say with --against which account is the other side of 'Bakery', 2026-01-10.
+  kiv: Give the counter-account of 'Bakery', 2026-01-10 with --against.
   [1]
   $ mkdir folder
   $ kiv import folder --format journal
@@ -202,28 +202,28 @@ What cannot be read is refused, with its line:
   [1]
   $ printf '!Type:Bank\nD1/25/2026\nT1\n^\n' >s.qif
   $ kiv import s.qif
-  kiv: Say with --into which account the bank statement is about.
+  kiv: Give the account of the bank statement with --into.
   [2]
 
 So are options that do not fit:
 
   $ kiv import s.csv --into Checking --against Salary --profile ../x
-  kiv: '../x' cannot name a profile; use letters, digits, '-' and '_'.
+  kiv: '../x' is not a profile name; use letters, digits, '-' and '_'.
   [2]
   $ kiv import s.csv --into Checking --profile none
-  kiv: There is no profile 'none'; --save-profile saves one.
+  kiv: There is no profile 'none'; save one with --save-profile.
   [1]
   $ kiv import s.csv --into Checking --format pdf
-  kiv: 'pdf' is none of: journal, csv, ofx, qif.
+  kiv: 'pdf' is not one of: journal, csv, ofx, qif.
   [2]
   $ kiv import s.csv --into 1 --decimal x
-  kiv: 'x' is none of: '.', ','.
+  kiv: 'x' is not one of: '.', ','.
   [2]
   $ kiv import s.csv --into 1 --delimiter ab
-  kiv: 'ab' is none of: ',', ';', '\t', '|'.
+  kiv: 'ab' is not one of: ',', ';', '\t', '|'.
   [2]
   $ kiv import s.csv --into 1 --delimiter '"'
-  kiv: '"' is none of: ',', ';', '\t', '|'.
+  kiv: '"' is not one of: ',', ';', '\t', '|'.
   [2]
   $ kiv import s.csv --into 1 --skip x
   kiv: 'x' is not a whole number from 0 to 1000.

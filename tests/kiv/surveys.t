@@ -66,8 +66,8 @@ An edited document completes a survey. What went to the goal stays in the family
   Account               Checking
   Day of the statement  2026-01-31
   Last reconciled on
-  Balance then          $0.00
-  Changes counted from  2025-12-31
+  Reconciled balance    $0.00
+  Changes since         2025-12-31
   Expected balance      $4,350.00
   Still due this month  $1,500.00
   Changes by budget item
@@ -123,7 +123,7 @@ An edited document completes a survey. What went to the goal stays in the family
        6  2026-01-31  Additional surveyed expense.                       Expenses:Rent [Budget Item]              -$20.00  $4,255.00  reconciled
        7  2026-01-31  Extra-budget surveyed income.                      Equity:Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
   $ kiv transaction remove 3
-  kiv: The transaction 3 is reconciled and cannot be changed before it is unreconciled.
+  kiv: The transaction 3 is reconciled; undo its reconciliation before you change it.
   [1]
 
 Flags do the same:
@@ -138,7 +138,7 @@ Flags do the same:
 Its last survey follows an account to the kind that is right, and the next one starts there:
 
   $ kiv bank-account attach Checking --bank First --type savings
-  The bank 'First' keeps the account 1 Checking now.
+  Assigned the account 1 Checking to the bank 'First'.
   $ kiv reconciliation last Checking
   1 Checking was reconciled on 2026-01-31 with a balance of $4,330.00.
   $ kiv survey show First Checking --date 2026-02-15 --json | jq -c '.reconciledOn, .expectedBalance'
@@ -151,7 +151,7 @@ Its last survey follows an account to the kind that is right, and the next one s
   [2]
   $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
   $ kiv survey complete --from nil.json
-  kiv: There is no bill 'Nil'; kiv bill list shows those that there are.
+  kiv: There is no bill 'Nil'; see kiv bill list.
   [1]
 
 And so do answers, asked for until they can be understood:
@@ -159,40 +159,40 @@ And so do answers, asked for until they can be understood:
   $ january
   $ run() {
   >     (kiv survey run First "$1" --date 2026-01-31 2>&1 >tables; echo "[$?]") |
-  >         sed 's/\(n]\|AMOUNT\|balance\): /\1:\n/g'
+  >         sed 's/\(n]\|continue)\|statement\): /\1:\n/g'
   > }
   $ run Checking </dev/null
-  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  kiv: The answers ended before the questions.
+  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
+  kiv: The input ended before the last question; nothing is saved.
   [1]
   $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking
-  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00? [y/n]:
-  Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
-  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', -$75.00? [y/n]:
-  The statement's balance:
-  Money for an item that is not booked, as ITEM=AMOUNT:
-  Money for another account, as ACCOUNT=AMOUNT:
-  What is set aside for an item, as ITEM=AMOUNT:
+  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
+  Is transaction 3 of 2026-01-31, 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00, on the statement? [y/n]:
+  Is transaction 4 of 2026-01-28, 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00, on the statement? [y/n]:
+  Is transaction 5 of 2026-01-29, 'Processed unexpected budget item 'Trip'.', -$75.00, on the statement? [y/n]:
+  Balance of the statement:
+  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
+  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
+  Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
   Complete the survey? [y/n]:
-  kiv: The survey was not completed.
+  kiv: The survey was not completed; nothing is saved.
   [1]
   $ printf '%s\n' yes y y y y 433O 4330.00 Nobody=1 Rent=-20 '' '' '' y | run Checking
-  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  kiv: 'yes' is none of: y, n.
-  Does the statement show 1 2026-01-01 '', $2,500.00? [y/n]:
-  Does the statement show 3 2026-01-31 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00? [y/n]:
-  Does the statement show 4 2026-01-28 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00? [y/n]:
-  Does the statement show 5 2026-01-29 'Processed unexpected budget item 'Trip'.', -$75.00? [y/n]:
-  The statement's balance:
+  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
+  kiv: 'yes' is not one of: y, n.
+  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
+  Is transaction 3 of 2026-01-31, 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00, on the statement? [y/n]:
+  Is transaction 4 of 2026-01-28, 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00, on the statement? [y/n]:
+  Is transaction 5 of 2026-01-29, 'Processed unexpected budget item 'Trip'.', -$75.00, on the statement? [y/n]:
+  Balance of the statement:
   kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
-  The statement's balance:
-  Money for an item that is not booked, as ITEM=AMOUNT:
-  kiv: There is no budget item 'Nobody'; kiv bill list and the like show those that there are.
-  Money for an item that is not booked, as ITEM=AMOUNT:
-  Money for an item that is not booked, as ITEM=AMOUNT:
-  Money for another account, as ACCOUNT=AMOUNT:
-  What is set aside for an item, as ITEM=AMOUNT:
+  Balance of the statement:
+  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
+  kiv: There is no budget item 'Nobody'; see kiv bill list (or debt, goal, nontrack, wage).
+  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
+  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
+  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
+  Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
   Complete the survey? [y/n]:
   [0]
   $ tail -1 tables
@@ -203,17 +203,17 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
 
   $ kiv bank-account add Card --bank First --type credit-card --balance '80.00 USD' \
   >     --date 2026-01-01
-  Added the account 8 Card at the bank 'First'.
+  Added the account 8 Card to the bank 'First'.
   $ kiv pay Rent 20.00 --account Card --date 2026-01-15
   Posted $20.00 for the bill 'Rent', which is still due on 2026-02-28.
   $ kiv reconciliation last Card
   8 Card was never reconciled.
   $ printf '%s\n' y y 100 '' '' y | run Card
-  Does the statement show 7 2026-01-01 '', $80.00? [y/n]:
-  Does the statement show 8 2026-01-15 'Processed unexpected budget item 'Rent'.', $20.00? [y/n]:
-  The statement's balance:
-  Money for an item that is not booked, as ITEM=AMOUNT:
-  Money for another account, as ACCOUNT=AMOUNT:
+  Is transaction 7 of 2026-01-01, '', $80.00, on the statement? [y/n]:
+  Is transaction 8 of 2026-01-15, 'Processed unexpected budget item 'Rent'.', $20.00, on the statement? [y/n]:
+  Balance of the statement:
+  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
+  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
   Complete the survey? [y/n]:
   [0]
   $ cat tables
@@ -221,8 +221,8 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
   Account               Card
   Day of the statement  2026-01-31
   Last reconciled on
-  Balance then          $0.00
-  Changes counted from  2025-12-31
+  Reconciled balance    $0.00
+  Changes since         2025-12-31
   Expected balance      $100.00
   Still due this month
   Changes by budget item
@@ -254,7 +254,7 @@ Bad surveys change nothing:
   kiv: The budget item Rent (bill) cannot be distributed.
   [1]
   $ complete --tick-all --item Gym=5
-  kiv: There is no budget item 'Gym'; kiv bill list and the like show those that there are.
+  kiv: There is no budget item 'Gym'; see kiv bill list (or debt, goal, nontrack, wage).
   [1]
   $ complete --tick-all --item Rent
   kiv: 'Rent' is not of the form NAME=VALUE.
@@ -281,10 +281,10 @@ Bad surveys change nothing:
   kiv: Cannot perform a mapping survey for a future date, 2199-01-01.
   [1]
   $ kiv survey show First 'Rent [Budget Item]'
-  kiv: No bank keeps the account 'Rent [Budget Item]'; kiv bank-account attach ties it to one.
+  kiv: The account 'Rent [Budget Item]' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
   $ kiv debt update Car --type loan
-  kiv: --type goes only with --bank.
+  kiv: Use --type only together with --bank.
   [2]
   $ kiv goal update Trip --no-bank --bank-account Checking
   kiv: Use either --no-bank or --bank-account, not both.
@@ -298,7 +298,7 @@ Rates convert once and for all:
   kiv: The amount €9.99 cannot be converted into USD. Caused by: There is no exchange rate from 'EUR' to 'USD'; fetch the rates, or set it by hand.
   [1]
   $ kiv rates set USD EUR=0.80 | sed '1s/as of .*/as of now/'
-  For one USD, as of now
+  For 1 USD, as of now
   Currency  Rate  Date        Source
   EUR       0.8   ????-??-??  typed (glob)
   $ kiv post Abo --account Checking --date 2026-02-01
@@ -332,11 +332,11 @@ The wizard makes a budget of a template's items:
   kiv: The file 'start.budget' exists already; choose another name.
   [1]
   $ kiv wizard other --template teenager --bank A --account B --type credit-card
-  kiv: The budget could not be made. Failure making the goal bank account association. Caused by: The account '22 Emergencies [Budget Item]' of type Asset cannot stand under the account '1 B' of type Liability.
+  kiv: The budget could not be created. Failure making the goal bank account association. Caused by: The account '22 Emergencies [Budget Item]' of type Asset cannot stand under the account '1 B' of type Liability.
   [1]
   $ kiv wizard other --template child --bank A --account B
-  kiv: 'child' is none of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income.
+  kiv: 'child' is not one of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income.
   [2]
   $ kiv wizard other --template teenager --bank A --account "$(jq -r '.[0].name' items)"
-  kiv: The budget could not be made. The budget item has the same name as an existing ledger account.
+  kiv: The budget could not be created. The budget item has the same name as an existing ledger account.
   [1]

@@ -56,7 +56,7 @@ private slots:
                  u"100.00"_s);
         QVERIFY(home.run("rates fetch").out.contains("0.92"));
         const Ended lacking = home.run("rates fetch GBP JPY CHF");
-        QVERIFY2(lacking.err.endsWith("currencies: CHF, GBP\n"), lacking.err.constData());
+        QVERIFY2(lacking.err.endsWith("for: CHF, GBP\n"), lacking.err.constData());
         // The end of the input does not end the last line's waiting.
         const Ended watched = home.run("watch", "rates fetch EUR JPY");
         QVERIFY2(watched.status == 0 && watched.out.contains("JPY 150"), watched.err.constData());
@@ -125,7 +125,7 @@ private slots:
         const Household home = homeAt(server);
         const Ended ended = home.run("updates check");
         QVERIFY2(ended.status == 0, ended.err.constData());
-        QCOMPARE(ended.out, "No newer release is announced.\n");
+        QCOMPARE(ended.out, "There is no newer release.\n");
         QCOMPARE(server.requests().size(), 2);
     }
 

@@ -58,7 +58,7 @@ the former ones:
   ["removed","account","5 Gym [Budget Item]"]
   ["removed","account","6 Club [Budget Item]"]
   $ kiv undo --to 2
-  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
   What     Name                  Change   Detail
   item     bill Club             removed  20.00 USD, monthly, 2026-02-01
   item     bill Gym              removed  30.00 USD, monthly, 2026-02-01
@@ -78,10 +78,10 @@ A large import that is undone does not fill the terminal:
   transaction  19                      removed  2026-01-02, 1.00 USD
   $ load 19
   23
-  1 more change is not shown; --json tells all.
+  1 more change is not shown; see all with --json.
   $ load 1000
   23
-  982 more changes are not shown; --json tells all.
+  982 more changes are not shown; see all with --json.
   $ kiv undo --dry-run --json | jq '.changes | length'
   1002
 
@@ -134,7 +134,7 @@ Differences are told field by field:
   account      3 Rent [Budget Item]  changed  balance 5.00 USD → 0.00 USD
   transaction  2                     removed  2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
   $ kiv history diff 1 1
-  They hold the same.
+  Both versions are the same.
   $ kiv history diff 2 0
   What         Name                  Change   Detail
   item         bill Rent             changed  amount 1250.00 USD → 1300.00 USD, tags  → home
@@ -194,22 +194,22 @@ A shell undoes in memory and in the file:
   > undo
   > .
   Added the bill 'Gym'.
-  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
   What     Name                 Change   Detail
   item     bill Gym             removed  30.00 USD, monthly, 2026-02-01
   account  5 Gym [Budget Item]  removed  0.00 USD
-  This was a dry run: nothing is saved.
+  Dry run: nothing is saved.
   Name     Amount  Every    Next        Tags
   Gym      $30.00  monthly  2026-02-01
   Rent  $1,250.00  monthly  2026-01-31
-  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
   What     Name                 Change   Detail
   item     bill Gym             removed  30.00 USD, monthly, 2026-02-01
   account  5 Gym [Budget Item]  removed  0.00 USD
   Name     Amount  Every    Next        Tags
   Rent  $1,250.00  monthly  2026-01-31
   Added the bill 'Club'.
-  The budget is again as it was saved at ????-??-?? ??:??:??. (glob)
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
   What     Name                  Change   Detail
   item     bill Club             removed  20.00 USD, monthly, ????-??-?? (glob)
   account  5 Club [Budget Item]  removed  0.00 USD
@@ -219,14 +219,14 @@ Nothing is undone where that would lose something:
 
   $ rm household.budget*
   $ kiv new
-  Made the empty budget 'household.budget'.
+  Created the empty budget 'household.budget'.
   $ kiv undo
-  kiv: There is no former version 1; none was kept of this budget.
+  kiv: There is no version 1; this budget has no older versions.
   [1]
   $ kiv bank add First
   Added the bank 'First'.
   $ kiv undo --to 2
-  kiv: There is no former version 2; kiv history lists those that are kept.
+  kiv: There is no version 2; see kiv history.
   [1]
   $ kiv undo --to 6
   kiv: '6' is not a whole number from 0 to 5.
@@ -235,7 +235,7 @@ Nothing is undone where that would lose something:
   kiv: 'x' is not a whole number from 0 to 5.
   [2]
   $ kiv history diff 1 3
-  kiv: There is no former version 3; kiv history lists those that are kept.
+  kiv: There is no version 3; see kiv history.
   [1]
   $ hold
   $ kiv undo
@@ -253,55 +253,55 @@ The former version is no file, or damaged; the file is not the worse for it:
   $ rmdir household.budget.backup-1
   $ head -c -100 household.budget >household.budget.backup-1
   $ kiv undo
-  kiv: The version in '*/versions.t/household.budget.backup-1' is not whole. The file '*/versions.t/household.budget.backup-1' is damaged and was not loaded. Caused by: Its header is not whole. (glob)
+  kiv: The version in '*/versions.t/household.budget.backup-1' is damaged. The file '*/versions.t/household.budget.backup-1' is damaged and was not loaded. Caused by: Its header is damaged. (glob)
   [1]
   $ kiv history
   Version  Saved at             Bytes  Items  Accounts  Transactions
         0  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
-        1  ????-??-?? ??:??:??  ?????                                 not whole (glob)
+        1  ????-??-?? ??:??:??  ?????                                 damaged (glob)
 
 So is the file itself; what to do then is said:
 
   $ cp household.budget whole
   $ head -c -100 whole >household.budget
   $ kiv undo
-  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is not whole. kiv history tells which former version is whole; copy that file ('*/versions.t/household.budget.backup-1', \\xe2\\x80\\xa6) into its place. (esc) (glob)
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is damaged. Find an intact version with kiv history, then copy its file (such as '*/versions.t/household.budget.backup-1') over the damaged one. (glob)
   [1]
   $ kiv history
   Version  Saved at             Bytes  Items  Accounts  Transactions
-        0  ????-??-?? ??:??:??  ?????                                 not whole (glob)
-        1  ????-??-?? ??:??:??  ?????                                 not whole (glob)
+        0  ????-??-?? ??:??:??  ?????                                 damaged (glob)
+        1  ????-??-?? ??:??:??  ?????                                 damaged (glob)
 
 Every promise of a file is judged, and none behind one that is broken:
 
   $ begin
   $ cp household.budget whole
   $ kiv check
-  Promise                                         Verdict  Details
-  It is a budget file of a known version          kept
-  Its tables are those of that version            kept
-  Its rows are those that were written            kept
-  Its books obey the rules of the ledger          kept
-  Its items, accounts and banks fit together      kept
-  Every balance is the sum of its transactions    kept
-  In every currency the debits equal the credits  kept     2500.00 USD
-  The budget 'household.budget' is whole.
+  Check                                         Result  Details
+  The file is a budget file of a known version  ok
+  The tables belong to that version             ok
+  The rows are as they were saved               ok
+  The books follow the rules of the ledger      ok
+  Items, accounts and banks match               ok
+  Every balance is the sum of its transactions  ok
+  Debits equal credits in every currency        ok      2500.00 USD
+  The budget 'household.budget' is intact.
   $ kiv check --json | jq -c '.whole, .promises[]'
   true
-  {"details":[],"promise":"identity","text":"It is a budget file of a known version","verdict":"kept"}
-  {"details":[],"promise":"tables","text":"Its tables are those of that version","verdict":"kept"}
-  {"details":[],"promise":"seal","text":"Its rows are those that were written","verdict":"kept"}
-  {"details":[],"promise":"rules","text":"Its books obey the rules of the ledger","verdict":"kept"}
-  {"details":[],"promise":"ties","text":"Its items, accounts and banks fit together","verdict":"kept"}
+  {"details":[],"promise":"identity","text":"The file is a budget file of a known version","verdict":"kept"}
+  {"details":[],"promise":"tables","text":"The tables belong to that version","verdict":"kept"}
+  {"details":[],"promise":"seal","text":"The rows are as they were saved","verdict":"kept"}
+  {"details":[],"promise":"rules","text":"The books follow the rules of the ledger","verdict":"kept"}
+  {"details":[],"promise":"ties","text":"Items, accounts and banks match","verdict":"kept"}
   {"details":[],"promise":"balances","text":"Every balance is the sum of its transactions","verdict":"kept"}
-  {"details":["2500.00 USD"],"promise":"sides","text":"In every currency the debits equal the credits","verdict":"kept"}
+  {"details":["2500.00 USD"],"promise":"sides","text":"Debits equal credits in every currency","verdict":"kept"}
   $ flipped() {
   >     perl -0777 -pe "substr(\$_, $1, 1) ^= qq(\1)" whole >household.budget
   >     cp household.budget flipped
   >     kiv check --json | jq -c '.whole, [.promises[].verdict]'
   >     kiv check >told
   >     echo "[$?]"
-  >     grep -e BROKEN -e whole told
+  >     grep -e FAILED -e '^The budget' told
   >     cmp household.budget flipped
   > }
 
@@ -311,14 +311,14 @@ As another kind of file is, and a newer version:
   false
   ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
   [1]
-  It is a budget file of a known version          BROKEN      The file 'household.budget' is not of the kind that is used here.
-  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  The file is a budget file of a known version  FAILED       The file 'household.budget' was not written by this program.
+  The budget 'household.budget' is damaged; find an intact version with kiv history.
   $ flipped 61
   false
   ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
   [1]
-  It is a budget file of a known version          BROKEN      The file 'household.budget' was written by a newer version of this program.
-  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  The file is a budget file of a known version  FAILED       The file 'household.budget' was written by a newer version of this program.
+  The budget 'household.budget' is damaged; find an intact version with kiv history.
 
 A word of its tables, and a letter of a name:
 
@@ -326,24 +326,24 @@ A word of its tables, and a letter of a name:
   false
   ["kept","broken","not judged","not judged","not judged","not judged","not judged"]
   [1]
-  Its tables are those of that version            BROKEN      malformed database schema (seal)
-  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  The tables belong to that version             FAILED       malformed database schema (seal)
+  The budget 'household.budget' is damaged; find an intact version with kiv history.
   $ flipped 'index($_, "Checking")'
   false
   ["kept","kept","broken","not judged","not judged","not judged","not judged"]
   [1]
-  Its rows are those that were written            BROKEN      The checksum is wrong.
-  The budget 'household.budget' is not whole; kiv check FILE tells which of its backups (household.budget.backup-1, …) is.
+  The rows are as they were saved               FAILED       The checksum is wrong.
+  The budget 'household.budget' is damaged; find an intact version with kiv history.
 
 Former versions are checked, too, and files that somebody has open. What has lost its
 account is mended when it is opened:
 
   $ begin
   $ kiv check household.budget.backup-1 | tail -1
-  The budget 'household.budget.backup-1' is whole.
+  The budget 'household.budget.backup-1' is intact.
   $ kiv check household | tail -2
-  In every currency the debits equal the credits  kept     2500.00 USD
-  The budget 'household.budget' is whole.
+  Debits equal credits in every currency        ok      2500.00 USD
+  The budget 'household.budget' is intact.
   $ kiv check nowhere
   kiv: There is no file 'nowhere.budget'.
   [1]
@@ -353,13 +353,13 @@ account is mended when it is opened:
   $ kiv account remove 3
   Removed the account 3 Rent [Budget Item].
   $ kiv check | tail -4
-  Its items, accounts and banks fit together      mended when it is opened  The budget item 'Rent' had lost its account, which was opened anew under the number 5.
-  Every balance is the sum of its transactions    kept
-  In every currency the debits equal the credits  kept                      2500.00 USD
-  The budget 'household.budget' is whole.
+  Items, accounts and banks match               repaired when opened  The budget item 'Rent' had lost its account, which was opened anew under the number 5.
+  Every balance is the sum of its transactions  ok
+  Debits equal credits in every currency        ok                    2500.00 USD
+  The budget 'household.budget' is intact.
   $ kiv check --json | jq -c '.whole, .promises[4]'
   true
-  {"details":["The budget item 'Rent' had lost its account, which was opened anew under the number 5."],"promise":"ties","text":"Its items, accounts and banks fit together","verdict":"mended"}
-  $ printf 'check\nhistory\n' | kiv shell | grep whole
-  kiv: warning: Mended while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 5.
-  The budget 'household.budget' is whole.
+  {"details":["The budget item 'Rent' had lost its account, which was opened anew under the number 5."],"promise":"ties","text":"Items, accounts and banks match","verdict":"mended"}
+  $ printf 'check\nhistory\n' | kiv shell | grep '^The budget'
+  kiv: warning: Repaired while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 5.
+  The budget 'household.budget' is intact.

@@ -95,7 +95,7 @@ private slots:
         const auto tooLate = u"The reply was not complete after 400 ms."_s;
         const auto closed = u"The transfer failed (RemoteHostClosedError)."_s;
         const auto status = u"The server answered with the status %1."_s;
-        const auto compressed = u"The reply is compressed although that was not asked for."_s;
+        const auto compressed = u"The reply is compressed, which was not requested."_s;
         const auto elsewhere = u"The server redirected to another host or to a protocol that is "
                                "not allowed."_s;
         const QByteArray full(mebibyte, ' ');
@@ -187,7 +187,7 @@ private slots:
         transport->cancel(1);
         QVERIFY(failures.isEmpty());
         QTRY_COMPARE(failures.size(), 1);
-        QVERIFY2(failures.front().startsWith(u"Nothing can be fetched: libkiv-none.so.1: "_s),
+        QVERIFY2(failures.front().startsWith(u"Cannot load the HTTP library: libkiv-none.so.1: "_s),
                  qPrintable(failures.front()));
         // One that is there and cannot be loaded says what is wrong with it.
         const auto broken = kiv::networking::internal::loadHttpTransport({}, "../CMakeCache.txt");
@@ -293,17 +293,16 @@ private slots:
         m_manager.reset();
         QCOMPARE(m_answers, QStringList{gone()});
         QCoreApplication::processEvents();
-        QCOMPARE(m_answers.mid(1),
-                 QStringList{u"again: There is nothing to send requests with."_s});
+        QCOMPARE(m_answers.mid(1), QStringList{u"again: Requests cannot be sent."_s});
         RequestManager idle(nullptr, nullptr);
         idle.get(anywhere(), *m_first, keep(u"none: "_s));
-        QTRY_COMPARE(m_answers.back(), u"none: There is nothing to send requests with."_s);
+        QTRY_COMPARE(m_answers.back(), u"none: Requests cannot be sent."_s);
     }
 
     void onlyJsonWithoutRepetitionsIsRead()
     {
         const auto json = u"application/json"_s;
-        const auto twice = u"The reply names a member twice."_s;
+        const auto twice = u"The reply contains a member twice."_s;
         const auto broken = u"The reply is not JSON: "_s;
         const QByteArray deep = QByteArray(500'000, '[') + QByteArray(500'000, ']');
         for (const auto &[text, type, refusal] :
@@ -316,8 +315,8 @@ private slots:
               {"{'a': 1, 'a': 1}", json, twice},
               {"{'a': 1, '\\u0061': 2}", json, twice},
               {"[{'a': {'b': 1, 'c': 2, 'b': 3}}]", json, twice},
-              {"{}", u"text/html"_s, u"The reply's type is 'text/html' and not JSON."_s},
-              {"{}", {}, u"The reply's type is '' and not JSON."_s},
+              {"{}", u"text/html"_s, u"The reply is not JSON; its type is 'text/html'."_s},
+              {"{}", {}, u"The reply is not JSON; its type is ''."_s},
               {"<html/>", json, broken},
               {"{'a': 1", json, broken},
               {"", json, broken},
@@ -331,7 +330,7 @@ private slots:
 
 private:
     static QUrl anywhere() { return QUrl(u"https://a.example/"_s); }
-    static QString gone() { return u"The request manager was destroyed before the answer came."_s; }
+    static QString gone() { return u"The connection was closed before the answer came."_s; }
     kiv::networking::NotifyingSender::Answer keep(const QString &who)
     {
         return [this, who](const Response &response) {

@@ -85,7 +85,7 @@ private slots:
         row("a German refusal", german, "ledger Nothing", u"Es gibt kein Konto „Nothing“;"_s);
         row("a Spanish refusal", spanish, "ledger Nothing", u"No hay ninguna cuenta «Nothing»;"_s);
         row("a German refusal of the domain", german, "bank close Nothing", u"Bank „Nothing“"_s);
-        row("German help", german, "bill add --help", u"Wie oft"_s);
+        row("German help", german, "bill add --help", u"Turnus, etwa"_s);
         row("Spanish help", spanish, "bill add --help", u"Uso:"_s);
         row("German misuse", german, "bill add", u"NAME"_s);
         row("a German question", german, "bil add", u"war „bill“ gemeint?"_s);

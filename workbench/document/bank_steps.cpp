@@ -31,10 +31,10 @@ void keep(Requests &requests, const BankName &name, Bank::Accounts accounts)
 
 void closeBank(Requests &requests, const BankName &name)
 {
-    // A bank closes all its accounts, and stops at one that is closed already.
+    // The Navigator closes the accounts one by one, and stops at a closed one.
     const Bank bank = requests.bank(name.institution());
     std::vector<AccountCode> opened;
-    // They were closed a moment ago and can be closed again.
+    // Closing them again cannot fail: they were closed before.
     auto undo = qScopeGuard([&] {
         requests.within([&] {
             for (const AccountCode &code : opened)
@@ -57,8 +57,8 @@ void openBank(Requests &requests, const BankName &name)
     try {
         requests.change(bankOutcome, &Navigator::onBankOpened, name);
     } catch (const Refusal &) {
-        // A bank opens its accounts one after the other, and stops at one that is
-        // open already; the bank itself is open then.
+        // The Navigator opens the accounts one by one, and stops at an open one; the
+        // bank itself is open then.
         const Bank bank = requests.bank(name.institution());
         if (!wasClosed || bank.isClosed())
             throw;
@@ -73,7 +73,8 @@ void attachBankAccount(Document &document, const BankName &bank, accounting::Acc
     Requests &requests = document.requests();
     const Bank::Accounts before = requests.bank(bank.institution()).accounts();
     Bank::Accounts after = before;
-    // A kind cannot be changed once it is set, so the account leaves its bank first.
+    // The type of a bank account cannot be changed, so the account leaves its bank
+    // first.
     const auto kept = before.find(account);
     const bool isOtherKind = kept != before.end() && kept->second != kind;
     if (isOtherKind) {

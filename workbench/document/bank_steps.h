@@ -3,24 +3,24 @@
 
 #include "workbench/document/document.h"
 
-/// Changes of banks that take the Navigator several requests, each as one step: it
-/// is done whole, or throws a Refusal with the Navigator's reason and leaves the
-/// budget as it was.
+/// Changes of banks that need several requests to the Navigator. Each is made
+/// completely, or throws a Refusal with the Navigator's reason and leaves the budget
+/// unchanged.
 namespace kiv::workbench {
 
-/// Closes a bank with its accounts, also when some of them are closed already.
+/// Closes a bank and its accounts; some of them may be closed already.
 KIV_WORKBENCH_EXPORT void closeBank(Requests &requests, const banking::BankName &name);
 
-/// Opens a closed bank with its accounts, also when some of them are open already.
+/// Opens a closed bank and its accounts; some of them may be open already.
 KIV_WORKBENCH_EXPORT void openBank(Requests &requests, const banking::BankName &name);
 
-/// Lets the bank keep the account under this kind, or correct the kind under which it
-/// keeps it. A former survey of the account is carried along.
+/// Assigns the account to the bank with this type, or corrects its type. The last survey
+/// of the account is kept.
 KIV_WORKBENCH_EXPORT void attachBankAccount(Document &document, const banking::BankName &bank,
                                             accounting::AccountNumber account,
                                             banking::BankAccountTypes kind);
 
-/// Takes the account from its bank; it stays in the ledger.
+/// Separates the account from its bank; it stays in the ledger.
 KIV_WORKBENCH_EXPORT void detachBankAccount(Requests &requests,
                                             const banking::BankAccount &account);
 

@@ -33,8 +33,7 @@ Navigator &Document::navigator()
             m_surroundings.makeSender(), std::move(budgetFile),
             std::make_unique<storage::RatesFile>(m_surroundings.ratesFile));
         writeNumbersAsUser();
-        // The offer of the first-time wizard empties the budget; who works on a
-        // file wants what was in memory.
+        // The first-time wizard empties the budget; a document with a file restores it.
         QObject::connect(m_navigator.get(), &Navigator::showNewBudgetFirstTimeWizard,
                          m_navigator.get(), [this] {
                              if (!m_file.isEmpty())
@@ -65,7 +64,7 @@ void Document::open(const QString &file)
 
 void Document::refuseExisting(const QString &file)
 {
-    // A dangling link counts as a file, too: what it names is not ours to make.
+    // A dangling link counts as a file, too: the file that it names must not be created.
     const QFileInfo target(withExtension(file));
     if (target.exists() || target.isSymLink())
         throw internal::fileExists(target.filePath());
@@ -103,7 +102,7 @@ void Document::save()
 void Document::saveAs(const QString &file)
 {
     (void)navigator();
-    // Also when something fails after the budget was stored.
+    // Also if something fails after the budget was stored.
     const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
     store(&Navigator::onSaveAsBudgetFile, file);
 }
@@ -124,7 +123,7 @@ void Document::revert()
 {
     if (!m_navigator)
         return;
-    // Not from the file, which may be gone, or older than what is in memory.
+    // Not from the file, which may be missing or older than the budget in memory.
     if (const auto &present = m_storage->present()) {
         m_storage->recall(storage::BudgetFile::mended(*present));
         navigator().onConfirmedLoadBudgetFile(m_file, true);
@@ -148,7 +147,7 @@ BudgetStorage::Data Document::present()
 void Document::mend()
 {
     const BudgetStorage::Data data = present();
-    // The user has asked for what is mended here, so that no warning is due.
+    // No warnings here: the user asked for the change that is repaired.
     BudgetStorage::Data mended =
         m_requests.within([&data] { return storage::BudgetFile::mended(data); });
     if (mended == data)

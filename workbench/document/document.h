@@ -14,67 +14,64 @@ namespace kiv::workbench {
 
 class RecallingStorage;
 
-/// What a front end brings along for its Navigator.
+/// What a front end provides for its Navigator.
 struct Surroundings {
-    /// Makes what reaches the network.
+    /// Creates the sender of network requests.
     std::function<foundation::UniqueQtPtr<networking::RequestSender>()> makeSender;
     /// The file with the exchange rates.
     QString ratesFile;
 };
 
-/// One Navigator with the budget file on which it works: what is open, what is
-/// unsaved, and what went wrong with it.
+/// A Navigator with its budget file. It knows the open file and whether its changes are
+/// saved.
 class KIV_WORKBENCH_EXPORT Document {
 public:
-    /// What it works with.
+    /// The Navigator of this document.
     using Navigator = navigation::Navigator;
 
-    /// Touches no file and makes no Navigator yet.
+    /// Opens no file, and creates no Navigator yet.
     explicit Document(Surroundings surroundings);
     ~Document();
     Document(const Document &) = delete;
     Document &operator=(const Document &) = delete;
 
-    /// Made when it is first asked for, since a call that only prints its help
-    /// should not wait for it.
+    /// The Navigator, created when first needed: a call that only prints help should not
+    /// wait for it.
     [[nodiscard]] Navigator &navigator();
-    /// How to ask the Navigator.
+    /// The requests to the Navigator.
     [[nodiscard]] Requests &requests() noexcept { return m_requests; }
-    /// How currencies are to be shown; by their codes as long as there is no
-    /// Navigator that knows.
+    /// The display of currencies; by code as long as there is no Navigator.
     [[nodiscard]] navigation::CurrencyDisplayOptions displayAs();
 
-    /// The path with the extension that every budget file has.
+    /// The path with the extension of budget files.
     [[nodiscard]] static QString withExtension(const QString &path);
-    /// The open file; empty when there is none.
+    /// The open file; empty if there is none.
     [[nodiscard]] const QString &file() const noexcept { return m_file; }
-    /// Throws what the storage throws, and a Refusal as refuseUnsaved() does; the
-    /// open file stays open then.
+    /// Opens a file. Throws what the storage throws, or a Refusal as refuseUnsaved()
+    /// does; the open file then stays open.
     void open(const QString &file);
-    /// Throws a Refusal when there is a file of this name.
+    /// Throws a Refusal if the file exists.
     static void refuseExisting(const QString &file);
-    /// Stores the budget in memory as a new file. Refused when there is one.
+    /// Saves the budget in memory as a new file. Throws a Refusal if the file exists.
     void create(const QString &file);
-    /// Writes the budget to its file. The exchange rates are stored with it; when
-    /// they alone cannot be, that is a warning.
+    /// Saves the budget to its file, and the exchange rates with it. If only the rates
+    /// cannot be saved, that is a warning.
     void save();
-    /// The same under another name, which is the open file from then on.
+    /// Saves the budget under another name, which is then the open file.
     void saveAs(const QString &file);
-    /// Throws a Refusal when the last save of the open file failed, since what it
-    /// should have held is in memory alone.
+    /// Throws a Refusal if the last save of the open file failed: its changes are only
+    /// in memory.
     void refuseUnsaved() const;
-    /// The same, but tries to save once more.
+    /// Saves again if the last save failed.
     void saveUnsaved();
-    /// Gives up what was changed since save() was last called, whether or not it
-    /// could save.
+    /// Drops the changes since the last call of save(), even if that save failed.
     void revert();
-    /// Puts a former version of the open file in the place of the budget in
-    /// memory; the file is as it was until that is saved.
+    /// Replaces the budget in memory with an older version. The file stays as it is
+    /// until the next save.
     void recall(storage::BudgetStorage::Data version);
-    /// The budget in memory as it would be saved to the open file.
+    /// The budget in memory, as save() would write it.
     [[nodiscard]] storage::BudgetStorage::Data present();
-    /// Does at once to the budget in memory what the next opening of its file would
-    /// do: what does not fit together and could be made so is mended.
+    /// Repairs the budget in memory now, as the next opening of its file would.
     void mend();
 
 private:

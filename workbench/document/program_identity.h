@@ -5,9 +5,8 @@
 
 namespace kiv::workbench {
 
-/// Gives the running program the organisation and application name that all front
-/// ends share, and their version. The names choose the folders of the settings and
-/// of the exchange rates.
+/// Sets the organisation, name and version of the application, which all front ends
+/// share. The names choose the folders of settings and exchange rates.
 KIV_WORKBENCH_EXPORT void identifyProgram();
 
 } // namespace kiv::workbench

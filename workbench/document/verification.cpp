@@ -31,7 +31,7 @@ Promise promiseOf(FilePromise promise)
     return Promise::Ties;
 }
 
-/// A sum that grows by amounts of one currency after the other.
+/// Sums by currency.
 using Sums = std::map<numira::Currency, numira::Money>;
 
 void add(Sums &sums, const numira::Money &amount)
@@ -39,8 +39,8 @@ void add(Sums &sums, const numira::Money &amount)
     sums.try_emplace(amount.code(), amount.code()).first->second += amount;
 }
 
-/// Adds up the transactions account by account, and finds whether that gives the
-/// balances, and the same sum on both sides.
+/// Adds up the transactions by account, and compares the sums with the balances and with
+/// each other.
 std::vector<PromiseVerdict> judgeSums(const std::optional<BudgetStorage::Data> &data)
 {
     PromiseVerdict balances{Promise::Balances, Verdict::NotJudged, {}};
@@ -55,7 +55,7 @@ std::vector<PromiseVerdict> judgeSums(const std::optional<BudgetStorage::Data> &
             const bool isDebit = transaction.debiting().number() == account.code().number();
             const numira::Money &amount = transaction.amountFor(account.code().number());
             sum += isDebit == accounting::isDebitNormal(account.type()) ? amount : -amount;
-            // One that goes from one currency to another is in neither sum.
+            // A transaction between currencies counts in neither sum.
             if (transaction.debitAmount().code() == transaction.creditAmount().code())
                 add(isDebit ? debits : credits, amount);
         }
@@ -75,21 +75,21 @@ QString PromiseVerdict::sentence() const
 {
     switch (promise) {
     case Promise::Identity:
-        return QObject::tr("It is a budget file of a known version");
+        return QObject::tr("The file is a budget file of a known version");
     case Promise::Tables:
-        return QObject::tr("Its tables are those of that version");
+        return QObject::tr("The tables belong to that version");
     case Promise::Seal:
-        return QObject::tr("Its rows are those that were written");
+        return QObject::tr("The rows are as they were saved");
     case Promise::Rules:
-        return QObject::tr("Its books obey the rules of the ledger");
+        return QObject::tr("The books follow the rules of the ledger");
     case Promise::Ties:
-        return QObject::tr("Its items, accounts and banks fit together");
+        return QObject::tr("Items, accounts and banks match");
     case Promise::Balances:
         return QObject::tr("Every balance is the sum of its transactions");
     case Promise::Sides:
         break;
     }
-    return QObject::tr("In every currency the debits equal the credits");
+    return QObject::tr("Debits equal credits in every currency");
 }
 
 bool Verification::isWhole() const

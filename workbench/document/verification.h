@@ -7,39 +7,38 @@
 
 namespace kiv::workbench {
 
-/// What a budget file promises: first what its storage judges, then what its books
-/// add up to.
+/// The checks of a budget file: first those of the storage, then the sums of the books.
 enum class Promise : std::uint8_t {
-    Identity = 1, ///< its header is that of a budget file of a known version
-    Tables = 2,   ///< its tables are those of that version
-    Seal = 3,     ///< its rows are those that were written
-    Rules = 4,    ///< its books obey the rules of the ledger
-    Ties = 5,     ///< its items, accounts and banks fit together
+    Identity = 1, ///< it is a budget file of a known version
+    Tables = 2,   ///< the tables belong to that version
+    Seal = 3,     ///< the rows are as they were saved
+    Rules = 4,    ///< the books follow the rules of the ledger
+    Ties = 5,     ///< items, accounts and banks match
     Balances = 6, ///< every balance is the sum of its transactions
-    Sides = 7,    ///< in every currency the debits equal the credits
+    Sides = 7,    ///< debits equal credits in every currency
 };
 
-/// One promise, and what became of it.
+/// A check and its result.
 struct KIV_WORKBENCH_EXPORT PromiseVerdict {
-    Promise promise{};                                      ///< what was judged
-    storage::Verdict verdict = storage::Verdict::NotJudged; ///< whether it is kept
-    QStringList reasons; ///< in words; for Sides the sums that were compared
+    Promise promise{};                                      ///< the check
+    storage::Verdict verdict = storage::Verdict::NotJudged; ///< its result
+    QStringList reasons; ///< details; for Sides the compared sums
 
-    /// What is promised, as a sentence without its end in the user's language.
+    /// The check as a sentence without its end, in the user's language.
     [[nodiscard]] QString sentence() const;
 };
 
-/// A budget file that was looked at.
+/// A checked budget file.
 struct KIV_WORKBENCH_EXPORT Verification {
     QString path;                         ///< of the file
-    std::vector<PromiseVerdict> promises; ///< each once, in their order
+    std::vector<PromiseVerdict> promises; ///< all checks in order
 
-    /// Whether no promise is broken.
+    /// Whether no check failed.
     [[nodiscard]] bool isWhole() const;
 };
 
-/// Judges a budget file or one of its former versions. Writes nothing. Throws what
-/// storage::inspectBudget throws.
+/// Checks a budget file or a backup. Writes nothing. Throws what storage::inspectBudget
+/// throws.
 [[nodiscard]] KIV_WORKBENCH_EXPORT Verification verify(const QString &path);
 
 } // namespace kiv::workbench

@@ -11,35 +11,35 @@
 
 namespace kiv::workbench {
 
-/// The accounts of a budget, to be found by what a person writes for one, each
-/// with its path (see interchange::accountPaths).
+/// The accounts of a budget with their paths, to be found by number, name or path. See
+/// interchange::accountPaths.
 class KIV_WORKBENCH_EXPORT AccountIndex {
 public:
-    /// Takes the accounts over.
+    /// Takes the accounts.
     explicit AccountIndex(std::set<accounting::Account> accounts);
     AccountIndex(AccountIndex &&) noexcept = default;
     AccountIndex &operator=(AccountIndex &&) noexcept = default;
 
-    /// In the order of their numbers.
+    /// The accounts, ordered by number.
     [[nodiscard]] const std::set<accounting::Account> &accounts() const &noexcept
     {
         return m_accounts;
     }
-    /// They go with the index.
+    /// Not from a temporary, which owns them.
     void accounts() const && = delete;
-    /// The account with this number, this name or this path, in that order.
-    /// Throws a Refusal when there is none, and when several have the name.
+    /// The account with this number, name or path, tried in this order. Throws a Refusal
+    /// if there is none, or if several have the name.
     [[nodiscard]] const accounting::Account &find(const QString &text) const;
-    /// Null when there is none.
+    /// The account with this number, or null.
     [[nodiscard]] const accounting::Account *find(accounting::AccountNumber number) const;
-    /// Empty for an unknown number.
+    /// The path of the account; empty if there is none.
     [[nodiscard]] QString path(accounting::AccountNumber number) const;
-    /// The number after the highest one in use.
+    /// The next number after the highest.
     [[nodiscard]] accounting::AccountNumber nextNumber() const;
 
 private:
     std::set<accounting::Account> m_accounts;
-    /// Into the set, whose elements stay where they are when it is moved.
+    /// Points into the set, whose elements keep their addresses when it is moved.
     std::map<accounting::AccountNumber, const accounting::Account *> m_byNumber;
     std::map<accounting::AccountNumber, QString> m_paths;
 };

@@ -9,7 +9,7 @@
 
 namespace kiv::workbench {
 
-/// The word of a kind of budget item, as a person types it and in JSON.
+/// The word of a kind of budget item, as typed and in JSON.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString kindWord(budgeting::BudgetItemTypes kind);
 /// That word in the user's language.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString kindText(budgeting::BudgetItemTypes kind);

@@ -10,8 +10,8 @@
 
 namespace kiv::workbench {
 
-/// An amount as the user wants currencies to be shown: "$1,234.50", "1234.50 USD" or
-/// "$1,234.50 USD" in English; with a locale for numbers, as that one writes them.
+/// Formats an amount with the chosen currency display: "$1,234.50", "1234.50 USD" or
+/// "$1,234.50 USD". Numbers follow the locale.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString amountText(const numira::Money &amount,
                                                       navigation::CurrencyDisplayOptions displayAs);
 

@@ -9,7 +9,7 @@ namespace kiv::workbench {
 
 namespace {
 constexpr qsizetype suggestionsMax = 3;
-/// A name of a few kilobytes is no slip of the keyboard.
+/// Longer words are not typing errors.
 constexpr qsizetype lengthMax = 100;
 } // namespace
 
@@ -18,8 +18,8 @@ int slipsBetween(const QString &one, const QString &other)
     const QString a = one.toCaseFolded();
     const QString b = other.toCaseFolded();
     const auto width = static_cast<std::size_t>(b.size()) + 1;
-    // The distances of the beginnings of b from those of a that end two letters
-    // before, one before, and here.
+    // Rows of the distance table: for the beginnings of a that end two letters before,
+    // one before, and here.
     std::vector<int> before(width);
     std::vector<int> last(width);
     std::vector<int> row(width);
@@ -51,7 +51,7 @@ QStringList similarTo(const QString &word, const QStringList &known)
         if (candidate == word || qAbs(candidate.size() - word.size()) > lengthMax)
             continue;
         const int slips = slipsBetween(word, candidate);
-        // One letter in place of another is not alike.
+        // Two words of one letter are not similar.
         if (slips <= slipsMin && slips < std::max(word.size(), candidate.size())) {
             if (slips < slipsMin)
                 nearest.clear();

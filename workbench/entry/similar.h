@@ -7,15 +7,13 @@
 
 namespace kiv::workbench {
 
-/// By how many slips two words differ, whatever their case: letters that are
-/// missing, added or wrong, and neighbours that changed places. No letter is
-/// edited twice (the optimal string alignment distance).
+/// The number of typing errors between two words, ignoring case: missing, extra or wrong
+/// letters, and swapped neighbours. This is the optimal string alignment distance.
 [[nodiscard]] KIV_WORKBENCH_EXPORT int slipsBetween(const QString &one, const QString &other);
 
-/// Those of `known` for which somebody may have meant to write `word`: with the
-/// fewest slips, which are at most one, and one more for every four letters of
-/// the word; or, where there is none, those that begin with it. Three at most;
-/// the word itself is not among them.
+/// The known names that are similar to `word`, at most three. First those with the
+/// fewest typing errors: at most one, and one more for every four letters. Without any,
+/// those that begin with `word`. The word itself is never among them.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QStringList similarTo(const QString &word,
                                                          const QStringList &known);
 

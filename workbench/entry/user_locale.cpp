@@ -22,7 +22,7 @@ QString localeOf(const char *category)
     return {};
 }
 
-/// "de_AT" of "de_AT.UTF-8@euro".
+/// "de_AT" from "de_AT.UTF-8@euro".
 QString withoutEncoding(const QString &locale)
 {
     return locale.section(u'.', 0, 0).section(u'@', 0, 0);
@@ -34,7 +34,7 @@ bool isPlain(const QString &locale)
     return name.isEmpty() || name == u"C" || name == u"POSIX";
 }
 
-/// Tells whether there are any.
+/// Installs a translation, and returns whether it exists.
 bool install(QCoreApplication &application, const QString &file, const QString &folder)
 {
     auto *translator = new QTranslator(&application);
@@ -44,13 +44,13 @@ bool install(QCoreApplication &application, const QString &file, const QString &
     return false;
 }
 
-/// Tells whether it is spoken now.
+/// Installs the translations of a locale, and returns whether they exist.
 bool speak(QCoreApplication &application, const QString &locale)
 {
     const QString name = withoutEncoding(locale);
     if (!install(application, QStringLiteral("kiv_") + name, QStringLiteral(":/kiv/translations")))
         return false;
-    // What Qt itself says, if its translations are there.
+    // The messages of Qt, if their translations are installed.
     install(application, QStringLiteral("qtbase_") + name,
             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     return true;
@@ -81,7 +81,7 @@ bool hasNumberLocale()
 
 void writeNumbersAsUser()
 {
-    // Without a locale Qt would take LANGUAGE for one, which is about words alone.
+    // Without a locale, Qt would use LANGUAGE, which is for messages only.
     numira::setLocale(hasNumberLocale() ? localeOf("LC_NUMERIC").toStdString() : "en_US",
                       numira::ShouldAllowFallback::Yes);
 }

@@ -8,28 +8,27 @@
 
 class QCoreApplication;
 
-/// The user's language and locale, from the environment as POSIX has it: LC_ALL
-/// decides, else the category's own variable, else LANG. "C" and "POSIX" mean
-/// English, ISO 8601 and plain decimals, which is also what programs get.
+/// The user's language and locale, from the environment as in POSIX: LC_ALL, then the
+/// variable of the category, then LANG. "C" and "POSIX" mean English, ISO 8601 dates and
+/// plain decimals, which suit programs.
 namespace kiv::workbench {
 
-/// Installs the translations for LC_MESSAGES, or for the first of LANGUAGE's
-/// languages that there are any for; English needs none but for its plurals.
-/// Dates are shown as in LC_TIME and numbers as in LC_NUMERIC from now on.
+/// Installs the translations for LC_MESSAGES, or for the first available language in
+/// LANGUAGE. Dates then follow LC_TIME and numbers LC_NUMERIC.
 KIV_WORKBENCH_EXPORT void speakAsUser(QCoreApplication &application);
 
-/// Whether amounts are written as in some locale, that of LC_NUMERIC.
+/// Whether LC_NUMERIC names a locale.
 [[nodiscard]] KIV_WORKBENCH_EXPORT bool hasNumberLocale();
-/// Sees to it again after the Navigator was made, which takes the locale of the
-/// system, into which Qt lets LANGUAGE have a say.
+/// Sets the locale of numbers again after the Navigator was created. The Navigator uses
+/// the system's locale, which in Qt depends on LANGUAGE, too.
 KIV_WORKBENCH_EXPORT void writeNumbersAsUser();
 
-/// A number as "-1234.50", where it is written in the locale's own way and can
-/// mean nothing else; every other text as it is.
+/// Turns a number in the locale's form into "-1234.50" if it has only one meaning. Any
+/// other text is returned unchanged.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString plainNumber(const QString &text);
 
-/// A moment for people: ISO 8601 in UTC without a locale for dates, otherwise the
-/// local day and time.
+/// A time for people: local date and time in the locale's form, or ISO 8601 in UTC
+/// without a locale.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString momentText(const QDateTime &moment);
 
 } // namespace kiv::workbench

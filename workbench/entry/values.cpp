@@ -30,7 +30,7 @@ Integer toInteger(const QString &text, Integer lowest,
     return static_cast<Integer>(number);
 }
 
-/// The enumerator from `lowest` to `highest` whose English name was written.
+/// The enumerator between `lowest` and `highest` with this English name.
 template <typename Enumeration, typename Name>
 Enumeration toEnumerator(const QString &text, Enumeration lowest, Enumeration highest, Name name)
 {
@@ -46,7 +46,7 @@ Enumeration toEnumerator(const QString &text, Enumeration lowest, Enumeration hi
     throw notAChoice(text, choices);
 }
 
-/// What `plain` says; `word` is how it was written.
+/// The amount in `plain`; `word` is the text as typed.
 Amount amountOf(const QString &word, const QString &plain)
 {
     static const QRegularExpression form(
@@ -121,7 +121,7 @@ void readValue(const QString &text, numira::Currency &value)
             return;
         }
     } catch (const numira::Error &) {
-        // Worded below, as for "no currency".
+        // Reported below, as for "no currency".
     }
     QStringList codes;
     QStringList byName;
@@ -147,7 +147,7 @@ void readValue(const QString &text, Amount &value)
     const QRegularExpressionMatch match = form.match(text);
     const QString number = match.captured(2);
     const QString plain = plainNumber(number);
-    // What is plain already keeps its blanks, which are then judged.
+    // A plain number keeps its blanks, so that they are checked.
     value = amountOf(text, plain == number ? text : match.captured(1) + plain + match.captured(3));
 }
 

@@ -18,45 +18,43 @@
 #include <chrono>
 #include <optional>
 
-/// How what a person types becomes a value. Each readValue throws an EntryError
-/// that says what was expected, and leaves the value unchanged then.
+/// Reads typed values. Each readValue throws an EntryError that says what was expected,
+/// and then leaves the value unchanged.
 namespace kiv::workbench {
 
-/// A name that somebody gives to something: not empty, and not blanks alone.
+/// A new name: not empty, and not only blanks.
 struct NewName {
-    QString text; ///< as it was typed
+    QString text; ///< as typed
 };
 
-/// An amount as it was written: the currency may be left to the context.
+/// An amount as typed, possibly without a currency.
 struct KIV_WORKBENCH_EXPORT Amount {
-    QString text;                             ///< as it was typed
-    numira::Decimal number;                   ///< what it says
-    unsigned digits = 0;                      ///< behind the point, as written
-    std::optional<numira::Currency> currency; ///< where one was written
+    QString text;                             ///< as typed
+    numira::Decimal number;                   ///< the value
+    unsigned digits = 0;                      ///< decimals, as typed
+    std::optional<numira::Currency> currency; ///< if one was typed
 
-    /// The amount, in `otherwise` when it was written without a currency.
-    /// Throws an EntryError when it has more digits behind the point than its
-    /// currency's minor unit.
+    /// The amount, in `otherwise` if it has no currency. Throws an EntryError if it has
+    /// more decimals than its currency.
     [[nodiscard]] numira::Money in(const numira::Currency &otherwise) const;
 };
 
 /// Any text.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, QString &value);
-/// Refuses what is blank.
+/// Refuses empty and blank texts.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, NewName &value);
-/// ISO 8601, as in 2026-03-31, or as the user's locale writes dates.
+/// ISO 8601, such as 2026-03-31, or the locale's form.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, QDate &value);
-/// ISO 8601 alone, for documents.
+/// ISO 8601 only, for documents.
 KIV_WORKBENCH_EXPORT void readPlain(const QString &text, QDate &value);
-/// The alphabetic code, in any case; not "no currency".
+/// The alphabetic code, ignoring case; not "no currency".
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, numira::Currency &value);
-/// "1234.50", "1234.50 USD" or "USD 1234.50": a point before the minor unit and
-/// no grouping, since both differ between countries; or as the user's locale
-/// writes numbers, where that can be read in one way alone (see plainNumber).
+/// "1234.50", "1234.50 USD" or "USD 1234.50", with a point and without grouping. The
+/// locale's form is read, too, if it has only one meaning; see plainNumber().
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, Amount &value);
 /// With a point and no grouping, for documents.
 KIV_WORKBENCH_EXPORT void readPlain(const QString &text, Amount &value);
-/// The English names, with blanks or dashes between the words.
+/// The English names, with blanks or hyphens between the words.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, budgeting::EventFrequency &value);
 /// One of the five, in English.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, accounting::AccountTypes &value);

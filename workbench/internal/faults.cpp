@@ -28,8 +28,7 @@ EntryError emptyName()
 EntryError notADate(const QString &text)
 {
     return EntryError(
-        QObject::tr("'%1' is not a date; write one like 2026-03-31, with a day that exists.")
-            .arg(text));
+        QObject::tr("'%1' is not a valid date; write one like 2026-03-31.").arg(text));
 }
 
 EntryError notAnAmount(const QString &text)
@@ -40,16 +39,16 @@ EntryError notAnAmount(const QString &text)
 
 EntryError amountTooLarge(const QString &text)
 {
-    return EntryError(QObject::tr("The amount '%1' is too large to be kept exactly.").arg(text));
+    return EntryError(QObject::tr("The amount '%1' is too large.").arg(text));
 }
 
 EntryError tooManyDigits(const QString &text, const QString &currency, unsigned digitsMax)
 {
-    return EntryError(digitsMax == 0
-                          ? QObject::tr("'%1' is not an amount of %2, which has no minor unit.")
-                                .arg(text, currency)
-                          : QObject::tr("'%1' has more digits behind the point than the %2 of %3.")
-                                .arg(text, QString::number(digitsMax), currency));
+    return EntryError(
+        digitsMax == 0
+            ? QObject::tr("'%1' is not an amount in %2, which has no decimals.").arg(text, currency)
+            : QObject::tr("'%1' has too many decimals; %3 allows %2.")
+                  .arg(text, QString::number(digitsMax), currency));
 }
 
 EntryError notACurrency(const QString &text, const QStringList &similar)
@@ -73,7 +72,7 @@ Refusal noSuchAccount(const QString &text, const QStringList &similar)
 
 Refusal ambiguousAccount(const QString &name, const QStringList &numbers)
 {
-    return Refusal(QObject::tr("Several accounts are named '%1'; give the number of one: %2.")
+    return Refusal(QObject::tr("Several accounts are named '%1'; use one of the numbers %2.")
                        .arg(name, numbers.join(QStringLiteral(", "))));
 }
 
@@ -84,7 +83,7 @@ Refusal noSuchBank(const QString &name, const QStringList &similar)
 
 Refusal notABankAccount(const QString &account)
 {
-    return Refusal(QObject::tr("No bank keeps the account '%1'").arg(account),
+    return Refusal(QObject::tr("The account '%1' is not assigned to a bank").arg(account),
                    Remedy::AttachBankAccount);
 }
 
@@ -122,16 +121,16 @@ Refusal noSuchTransaction(const QString &number)
 
 Refusal noSuchVersion(const QString &number, qsizetype count)
 {
-    const QString statement = QObject::tr("There is no former version %1").arg(number);
+    const QString statement = QObject::tr("There is no version %1").arg(number);
     if (count > 0)
         return missed(statement, {}, Remedy::ListVersions);
     return Refusal(
-        QObject::tr("%1; %2.").arg(statement, QObject::tr("none was kept of this budget")));
+        QObject::tr("%1; %2.").arg(statement, QObject::tr("this budget has no older versions")));
 }
 
 Refusal versionDamaged(const QString &path, const QString &reason)
 {
-    return Refusal(withReason(QObject::tr("The version in '%1' is not whole.").arg(path), reason));
+    return Refusal(withReason(QObject::tr("The version in '%1' is damaged.").arg(path), reason));
 }
 
 Refusal fileExists(const QString &path)
@@ -147,7 +146,7 @@ Refusal unsavedChanges(const QString &path)
 
 Refusal starterFailed(const QString &reason)
 {
-    return Refusal(withReason(QObject::tr("The budget could not be made."), reason));
+    return Refusal(withReason(QObject::tr("The budget could not be created."), reason));
 }
 
 Refusal cannotRead(const QString &path, const QString &reason)
@@ -162,7 +161,7 @@ Refusal cannotWrite(const QString &path, const QString &reason)
 
 Refusal fileTooLarge(const QString &path, qsizetype line)
 {
-    return cannotRead(path, QObject::tr("it is larger than 64 MiB, which line %1 exceeds; split it "
+    return cannotRead(path, QObject::tr("it is larger than 64 MiB (exceeded in line %1); split it "
                                         "into smaller files")
                                 .arg(line));
 }
@@ -170,35 +169,35 @@ Refusal fileTooLarge(const QString &path, qsizetype line)
 EntryError notAProfileName(const QString &name)
 {
     return EntryError(
-        QObject::tr("'%1' cannot name a profile; use letters, digits, '-' and '_'.").arg(name));
+        QObject::tr("'%1' is not a profile name; use letters, digits, '-' and '_'.").arg(name));
 }
 
 Refusal noSuchProfile(const QString &name, const QStringList &present)
 {
     if (present.isEmpty())
         return missed(QObject::tr("There is no profile '%1'").arg(name), {}, Remedy::SaveProfile);
-    return Refusal(QObject::tr("There is no profile '%1' among: %2.")
+    return Refusal(QObject::tr("There is no profile '%1'; saved profiles: %2.")
                        .arg(name, present.join(QStringLiteral(", "))));
 }
 
 ImportError includesPattern(const Place &place, const QString &path)
 {
-    return includeRefused(place, path, QObject::tr("patterns are not followed; name each file"));
+    return includeRefused(place, path, QObject::tr("patterns are not supported; name each file"));
 }
 
 ImportError includesNoFile(const Place &place, const QString &path)
 {
-    return includeRefused(place, path, QObject::tr("there is no such file"));
+    return includeRefused(place, path, QObject::tr("the file does not exist"));
 }
 
 ImportError includesOutside(const Place &place, const QString &path)
 {
-    return includeRefused(place, path, QObject::tr("it is outside of the journal's own folder"));
+    return includeRefused(place, path, QObject::tr("it is outside the folder of the journal"));
 }
 
 ImportError includesTooMuch(const Place &place, const QString &path)
 {
-    return includeRefused(place, path, QObject::tr("all files together are too large"));
+    return includeRefused(place, path, QObject::tr("all files together are larger than 64 MiB"));
 }
 
 } // namespace kiv::workbench::internal

@@ -6,10 +6,10 @@
 #include "budgeting/identifiers.h"
 #include "interchange/errors.h"
 
-/// The sentences with which the workbench refuses, one function for each.
+/// The errors of the workbench, one function for each.
 namespace kiv::workbench::internal {
 
-// ---- what a person types ----------------------------------------------------
+// ---- typed values -----------------------------------------------------------
 
 [[nodiscard]] EntryError emptyName();
 [[nodiscard]] EntryError notADate(const QString &text);
@@ -20,8 +20,8 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] EntryError notAPercentage(const QString &text);
 
-// ---- what the budget does not hold ------------------------------------------
-// `similar` are names that may be meant, see similarTo().
+// ---- what is not in the budget -----------------------------------------------
+// `similar` are names to offer, see similarTo().
 
 [[nodiscard]] Refusal noSuchAccount(const QString &text, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &numbers);
@@ -32,7 +32,7 @@ namespace kiv::workbench::internal {
 /// An item of the kind `firstKind` has the same name.
 [[nodiscard]] Refusal shadowedItem(budgeting::BudgetItemTypes kind,
                                    budgeting::BudgetItemTypes firstKind, const QString &name);
-/// Of no kind at all.
+/// There is no item with this name, of any kind.
 [[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);

@@ -23,7 +23,7 @@ void RecallingStorage::store(const Data &data)
 {
     if (m_isCatching)
         throw Caught{data};
-    // What does not come into another file stays as it was in the open one.
+    // If saving another file fails, the open one is unchanged.
     if (m_file.filePathName() == m_openFile) {
         m_present = data;
         m_isUnsaved = true;

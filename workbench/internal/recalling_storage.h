@@ -10,28 +10,27 @@
 
 namespace kiv::workbench {
 
-/// A budget file of which another version can be recalled: the next load gives
-/// that version in place of what the file holds. The file itself stays open,
-/// locked and known meanwhile, so that saving puts the version in its place as
-/// it would any other change, and the replaced one becomes a backup.
+/// A budget file whose next load can return another version. The file stays open and
+/// locked meanwhile. So a save writes that version like any other change, and the
+/// replaced one becomes a backup.
 ///
-/// It also knows the present version, which was loaded last or is to be in the
-/// open file, also when that could not be saved.
+/// It also keeps the present version: the one loaded last, or the one to be saved to the
+/// open file, even if saving failed.
 class RecallingStorage final : public storage::BudgetStorage {
 public:
-    /// `version` is what the next load gives.
+    /// The next load returns `version`.
     void recall(Data version) { m_recalled = std::move(version); }
     /// The file that was loaded or stored last; empty before.
     [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
-    /// Nothing before the first load or store.
+    /// The present version; nothing before the first load or store.
     [[nodiscard]] const std::optional<Data> &present() const noexcept { return m_present; }
-    /// Whether the present version could not be saved.
+    /// Whether saving the present version failed.
     [[nodiscard]] bool isUnsaved() const noexcept { return m_isUnsaved; }
-    /// How often a budget was stored, in whichever file.
+    /// How often a budget was stored, in any file.
     [[nodiscard]] int timesStored() const noexcept { return m_timesStored; }
 
-    /// The budget that `save` hands over, which calls a slot that stores it. Nothing
-    /// is stored, and nothing changes for the Navigator either.
+    /// The budget that `save` would store; `save` calls a slot that stores it. Nothing
+    /// is stored, and the Navigator is unchanged.
     template <typename Save>
     [[nodiscard]] Data caught(Save &&save)
     {
@@ -51,13 +50,13 @@ public:
     [[nodiscard]] QString filePathName() const override;
 
 private:
-    /// Ends a save before it has touched anything: no exception of the domain, so
-    /// that nobody on the way takes it for a failure.
+    /// Ends a save before it writes. It is not an error of the domain, so nobody handles
+    /// it as a failure.
     struct Caught {
         Data data;
     };
 
-    /// `data` is now in the open file.
+    /// Notes that the open file now holds `data`.
     void settle(const Data &data);
 
     storage::BudgetFile m_file;

@@ -13,7 +13,7 @@ using budgeting::BudgetSource;
 
 namespace {
 
-/// The Navigator's signal and slot that show the items of one kind.
+/// The signal and slot of the Navigator for the items of one kind.
 template <typename Item>
 struct ItemView;
 template <>

@@ -7,27 +7,26 @@
 
 namespace kiv::workbench {
 
-/// The budget's items with their tags and bank accounts, as the Navigator's
-/// five views show them at one time.
+/// The items of the budget with their tags and bank accounts.
 class KIV_WORKBENCH_EXPORT BudgetView {
 public:
-    /// Asks for all five kinds. Throws what the slots throw, such as the want of an
-    /// exchange rate.
+    /// Asks for all five kinds. Throws what the slots throw, such as a missing exchange
+    /// rate.
     explicit BudgetView(Requests &requests);
 
     /// All items.
     [[nodiscard]] const budgeting::Budget &budget() const noexcept { return m_budget; }
     /// The item's tags.
     [[nodiscard]] tagging::Tags tags(const budgeting::BudgetItemIdentifier &id) const;
-    /// The bank account to which a debt or goal is tied.
+    /// The bank account that a debt or goal is linked to.
     [[nodiscard]] std::optional<banking::BankAccount>
     bankAccount(const budgeting::BudgetItemIdentifier &id) const;
-    /// The item with this name, of the kind that is given if one is. Throws a
-    /// Refusal when there is none, and when several kinds have one.
+    /// The item with this name, of this kind if one is given. Throws a Refusal if there
+    /// is none, or if several kinds have the name.
     [[nodiscard]] const budgeting::BudgetedMoney &
     find(const QString &name, std::optional<budgeting::BudgetItemTypes> kind) const;
-    /// The item with this name, with the word of its kind and a colon before it
-    /// where names repeat: "Rent", "bill:Rent". Throws as find() does.
+    /// The item with this name; its kind can stand before it, as in "bill:Rent". Throws
+    /// as find() does.
     [[nodiscard]] budgeting::BudgetItemIdentifier findTyped(const QString &text) const;
 
 private:

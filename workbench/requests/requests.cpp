@@ -81,7 +81,7 @@ navigation::CurrencyDisplayOptions Requests::displayAs()
 
 std::vector<accounting::Transaction> Requests::transactions()
 {
-    // Every transaction debits one account, so that it comes once.
+    // Every transaction debits one account, so it is found once.
     std::vector<accounting::Transaction> all;
     const AccountIndex index = accounts();
     for (const accounting::Account &account : index.accounts()) {
@@ -134,7 +134,7 @@ Requests::fetchReleases(std::chrono::milliseconds patience)
                          loop.quit();
                      });
     QTimer::singleShot(patience, &loop, &QEventLoop::quit);
-    // From within the loop, in case that the answer is there at once.
+    // Called from within the loop, since the answer may come at once.
     QTimer::singleShot(0, &navigator(), &Navigator::onFetchReleaseNotes);
     loop.exec();
     return answer;
@@ -142,7 +142,7 @@ Requests::fetchReleases(std::chrono::milliseconds patience)
 
 Failure Requests::reasonOf(const QString &text) const
 {
-    // Where memory was too short to leave the reason, the signal has a part of it.
+    // If memory was too short for the reason, the signal has a part of it.
     return knownFailure().value_or(Failure{{}, text, {}});
 }
 

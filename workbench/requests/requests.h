@@ -16,45 +16,45 @@
 
 namespace kiv::workbench {
 
-/// What a signal of the Navigator carried.
+/// The arguments of a signal of the Navigator.
 template <typename... Arguments>
 using Answer = std::tuple<std::remove_cvref_t<Arguments>...>;
 
-/// The two signals with which the Navigator answers one family of changes.
+/// The two signals that answer one group of changes.
 template <typename Succeeded, typename Failed>
 struct Outcome {
     Succeeded succeeded; ///< once for each change
     Failed failed;       ///< with the reason
 };
-/// Made from its two signals.
+/// Deduced from its two signals.
 template <typename Succeeded, typename Failed>
 Outcome(Succeeded, Failed) -> Outcome<Succeeded, Failed>;
 
-/// The failure in the user's language: its message with all causes behind it.
+/// The failure in the user's language: its message and all causes.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString userText(const navigation::Failure &failure);
-/// The same of an error that a request threw.
+/// The same for an error that a request threw.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString userText(const std::exception &error);
 
-/// A front end's way to ask the Navigator: slots are called here, and their signals
-/// become return values and exceptions.
+/// Calls slots of the Navigator, and turns their signals into return values and
+/// exceptions.
 class KIV_WORKBENCH_EXPORT Requests {
 public:
-    /// Whom requests are made to.
+    /// The class that answers the requests.
     using Navigator = navigation::Navigator;
 
-    /// `reach` gives the Navigator, and may make it when it is first asked for.
+    /// `reach` returns the Navigator, and may create it first.
     explicit Requests(std::function<Navigator &()> reach);
     ~Requests();
     Requests(const Requests &) = delete;
     Requests &operator=(const Requests &) = delete;
 
-    /// The Navigator, made if need be.
+    /// The Navigator, created if needed.
     [[nodiscard]] Navigator &navigator() const { return m_reach(); }
-    /// Whether a request waits for its answer. What is logged meanwhile is for
-    /// developers, since the answer says the same to the user.
+    /// Whether a request is running. Log messages are then for developers: the answer
+    /// says the same to the user.
     [[nodiscard]] bool isBusy() const noexcept { return m_running > 0; }
 
-    /// Does a part of a request, in which the requests are busy.
+    /// Runs `work` as part of a request.
     template <typename Work>
     auto within(Work &&work)
     {
@@ -62,8 +62,8 @@ public:
         return work();
     }
 
-    /// Calls `request` and gathers what `signal` carried meanwhile. This one alone
-    /// does not count as busy.
+    /// Calls `request`, and returns the arguments of every `signal` meanwhile. It does
+    /// not count as busy.
     template <typename... Arguments, typename Request>
     [[nodiscard]] std::vector<Answer<Arguments...>> gather(void (Navigator::*signal)(Arguments...),
                                                            Request &&request)
@@ -78,8 +78,8 @@ public:
         return answers;
     }
 
-    /// Calls a slot that answers with exactly one `signal`, and gives what that
-    /// carried. Throws what the slot throws.
+    /// Calls a slot that answers with exactly one `signal`, and returns its arguments.
+    /// Throws what the slot throws.
     template <typename... Arguments, typename Slot, typename... Values>
     Answer<Arguments...> ask(void (Navigator::*signal)(Arguments...), Slot slot,
                              const Values &...values)
@@ -91,8 +91,8 @@ public:
         return std::move(answers.front());
     }
 
-    /// Calls a slot that makes changes and gives what its successes carried.
-    /// Throws a Refusal with the first failure's text.
+    /// Calls a changing slot, and returns the arguments of its successes. Throws a
+    /// Refusal with the text of the first failure.
     template <typename... Succeeded, typename... Failed, typename Slot, typename... Values>
     std::vector<Answer<Succeeded...>> change(
         const Outcome<void (Navigator::*)(Succeeded...), void (Navigator::*)(Failed...)> &outcome,
@@ -100,7 +100,7 @@ public:
     {
         const Running running(*this);
         std::optional<navigation::Failure> failure;
-        // The reason is there while its signal is heard, and may be another's later.
+        // The reason is known only while the signal is delivered.
         const QMetaObject::Connection connection = QObject::connect(
             &navigator(), outcome.failed, [&](const std::remove_cvref_t<Failed> &...told) {
                 if (!failure)
@@ -119,38 +119,38 @@ public:
     [[nodiscard]] AccountIndex accounts();
     /// All banks.
     [[nodiscard]] banking::BankMap banks();
-    /// Throws a Refusal when there is none.
+    /// The bank with this name. Throws a Refusal if there is none.
     [[nodiscard]] banking::Bank bank(const QString &name);
-    /// The bank account with this number. Throws a Refusal that has `name` when no
-    /// bank keeps it.
+    /// The bank account with this number. Throws a Refusal with `name` if it is not
+    /// assigned to a bank.
     [[nodiscard]] banking::BankAccount bankAccount(accounting::AccountNumber number,
                                                    const QString &name);
-    /// The currency of amounts that are typed without one.
+    /// The currency of amounts without one.
     [[nodiscard]] numira::Currency preferredCurrency();
-    /// How currencies are to be shown.
+    /// The display of currencies.
     [[nodiscard]] navigation::CurrencyDisplayOptions displayAs();
     /// All transactions in the order of their numbers.
     [[nodiscard]] std::vector<accounting::Transaction> transactions();
-    /// Throws a Refusal when there is none.
+    /// The transaction with this number. Throws a Refusal if there is none.
     [[nodiscard]] accounting::Transaction transaction(accounting::TransactionNumber number);
 
     // ---- services ------------------------------------------------------------
 
-    /// What a service answered, or else why it did not.
+    /// The answer of a service, or the reason for its failure.
     template <typename Fetched>
     struct Fetch {
-        Fetched fetched;                ///< empty, or what was known, when it failed
-        std::optional<QString> failure; ///< empty when nobody knows why
+        Fetched fetched;                ///< after a failure empty, or the known values
+        std::optional<QString> failure; ///< the reason, which can be empty
     };
-    /// Rates for these currencies; the known ones when there was a failure.
+    /// The rates of these currencies; after a failure the known ones.
     [[nodiscard]] Fetch<conversion::ConversionMap>
     fetchRates(const std::set<numira::Currency> &currencies);
-    /// Waits so long for the list of releases, in an event loop.
+    /// Fetches the list of releases, in an event loop for at most `patience`.
     [[nodiscard]] Fetch<std::set<updating::ReleaseInformation>>
     fetchReleases(std::chrono::milliseconds patience);
 
-    /// Calls `request`, one whose failure no signal tells: why it failed, as far as
-    /// the Navigator knows; nothing when it knows of no failure.
+    /// Calls a `request` that has no failure signal, and returns the failure that the
+    /// Navigator knows, if any.
     template <typename Request>
     [[nodiscard]] std::optional<navigation::Failure> failureOf(Request &&request)
     {
@@ -172,7 +172,7 @@ private:
         Requests &m_requests;
     };
 
-    /// The reason behind a signal that carried this text.
+    /// The failure behind a signal with this text.
     [[nodiscard]] navigation::Failure reasonOf(const QString &text) const;
     [[nodiscard]] std::optional<navigation::Failure> knownFailure() const;
     void forgetFailure() const;

@@ -16,7 +16,7 @@ std::optional<QDate> openedOn(Requests &requests, const accounting::AccountCode 
     return opening ? std::optional(requests.transaction(*opening).occurredOn()) : std::nullopt;
 }
 
-/// Those that banks send statements of.
+/// The accounts of all banks.
 std::set<accounting::AccountNumber> keptByBanks(Requests &requests)
 {
     std::set<accounting::AccountNumber> kept;

@@ -7,8 +7,8 @@
 
 namespace kiv::workbench {
 
-/// The open budget's ledger as a statement of this account is planned for. Throws what
-/// the Navigator's slots throw.
+/// The ledger of the open budget, in the form needed to plan a statement of this
+/// account. Throws what the Navigator's slots throw.
 [[nodiscard]] KIV_WORKBENCH_EXPORT interchange::StatementBooks
 statementBooks(Requests &requests, const accounting::Account &account);
 

@@ -76,7 +76,7 @@ SurveyForm SurveyForm::propose(Requests &requests, const QString &bank, const QS
     try {
         form.nonDistributed = form.left();
     } catch (const std::exception &) {
-        // Without an exchange rate nobody can tell; it is for information only.
+        // Unknown without an exchange rate; it is for information only.
         form.nonDistributed = numira::Money(form.balance.code());
     }
     return form;

@@ -8,50 +8,49 @@
 
 namespace kiv::workbench {
 
-/// The survey of a bank account as a person fills it in: what the Navigator
-/// proposes, and what the person makes of it.
+/// The survey of a bank account: the Navigator's proposal, and what the user enters.
 struct KIV_WORKBENCH_EXPORT SurveyForm {
-    banking::BankAccount account;      ///< that is surveyed
+    banking::BankAccount account;      ///< the surveyed account
     QDate date;                        ///< of the statement
     surveying::MappingSurvey proposal; ///< the Navigator's
 
     numira::Money balance; ///< of the statement
-    /// The transactions that the statement shows.
+    /// The transactions on the statement.
     std::set<accounting::TransactionNumber> reconciled;
-    /// Money that the statement shows and the books do not, by what it changed
-    /// the balance.
+    /// Money on the statement that is not in the books yet, as its effect on the
+    /// balance.
     std::map<budgeting::BudgetItemIdentifier, numira::Money> items;
-    /// The same for accounts that are no item's.
+    /// The same for accounts that do not belong to an item.
     std::map<accounting::AccountNumber, numira::Money> extras;
-    surveying::Distribution distribution; ///< what is set aside for items
-    numira::Money nonDistributed;         ///< what is set aside for nothing
+    surveying::Distribution distribution; ///< amounts set aside for items
+    numira::Money nonDistributed;         ///< the amount that is not distributed
 
-    /// The proposal, filled in as if the statement agreed with it. Throws a
-    /// Refusal when there is no such bank or the bank does not keep the
-    /// account, and what the Navigator's slot throws.
+    /// The proposal, filled in as if the statement agreed with it. Throws a Refusal if
+    /// the bank or its account does not exist, and what the slot throws.
     [[nodiscard]] static SurveyForm propose(Requests &requests, const QString &bank,
                                             const QString &account, QDate date);
-    /// "Rent=-20.00", or "bill:Rent=-20.00" where names repeat.
+    /// Adds unbooked money of an item: "Rent=-20.00", or "bill:Rent=-20.00" if several
+    /// items have the name.
     void addItem(Requests &requests, const QString &text);
-    /// "Interest=1.25": an account's number or name.
+    /// Adds unbooked money of an account: "Interest=1.25".
     void addExtra(Requests &requests, const QString &text);
-    /// "Holiday=300.00".
+    /// Sets money aside for an item: "Holiday=300.00".
     void distribute(Requests &requests, const QString &text);
-    /// A goal's distribution is what its account holds, and nothing else is
-    /// accepted.
+    /// Sets the distribution of each goal to the balance of its account; no other value
+    /// is accepted.
     void settleGoals(Requests &requests);
     /// Completes the survey. Throws a Refusal with the Navigator's reason.
     void complete(Requests &requests) const;
 
-    /// Whether the balance is a debt, as that of a credit card, of which nothing can be
-    /// set aside.
+    /// Whether the balance is a debt, as of a credit card. Nothing can be set aside of
+    /// it.
     [[nodiscard]] bool isOwed() const;
-    /// The balance without what is distributed.
+    /// The balance minus the distribution.
     [[nodiscard]] numira::Money left() const;
-    /// `items` by what they did to the balance.
+    /// `items` by their effect on the balance.
     [[nodiscard]] surveying::IndexedIncreaseDecreases<budgeting::BudgetItemIdentifier>
     itemChanges() const;
-    /// `extras` likewise.
+    /// `extras` by their effect on the balance.
     [[nodiscard]] surveying::IndexedIncreaseDecreases<accounting::AccountNumber>
     accountChanges() const;
 };

@@ -14,7 +14,7 @@ using storage::BudgetStorage;
 
 namespace {
 
-/// A transaction is the same for a person whatever its accounts are called.
+/// Names of accounts do not matter for a transaction.
 bool isSame(const Transaction &before, const Transaction &after)
 {
     const auto seen = [](const Transaction &transaction) {
@@ -34,7 +34,7 @@ bool isSame(const State &before, const State &after)
     return before == after;
 }
 
-/// Both are in the order of their keys; `nameOf` tells a thing by key and state.
+/// Compares two maps; `nameOf` makes a name of a key.
 template <typename Things, typename NameOf>
 void compare(const Things &before, const Things &after, NameOf nameOf, std::vector<Change> &changes)
 {
@@ -76,7 +76,7 @@ auto accountsIn(const BudgetStorage::Data &data)
 {
     const std::set<accounting::Account> accounts = data.generalLedger.accounts();
     const auto paths = interchange::accountPaths(accounts);
-    // An account that has another name is another one.
+    // An account with another name is another account.
     std::map<std::pair<AccountNumber, QString>, AccountState> states;
     for (const accounting::Account &account : accounts) {
         const accounting::AccountCode &code = account.code();

@@ -9,10 +9,10 @@
 #include <variant>
 #include <vector>
 
-/// What changed from one version of a budget to another.
+/// The changes between two versions of a budget.
 namespace kiv::workbench {
 
-/// What a person sees of a budget item.
+/// A budget item as the user sees it.
 struct ItemState {
     budgeting::BudgetItemIdentifier id;    ///< its kind and name
     numira::Money amount;                  ///< each time
@@ -22,11 +22,11 @@ struct ItemState {
     std::optional<numira::Money> target;   ///< of a goal
     tagging::Tags tags;                    ///< of the item
 
-    /// Whether a person sees the same.
+    /// Whether the user sees no difference.
     friend bool operator==(const ItemState &, const ItemState &) = default;
 };
 
-/// What a person sees of an account, apart from its transactions.
+/// An account as the user sees it, without its transactions.
 struct AccountState {
     accounting::AccountCode code;    ///< number, name and parent
     QString path;                    ///< see interchange::accountPaths
@@ -34,43 +34,43 @@ struct AccountState {
     bool isClosed = false;           ///< whether it is closed
     numira::Money balance;           ///< after all transactions
 
-    /// Whether a person sees the same.
+    /// Whether the user sees no difference.
     friend bool operator==(const AccountState &, const AccountState &) = default;
 };
 
-/// What a person sees of a bank. Balances are told with the accounts.
+/// A bank as the user sees it. Balances belong to the accounts.
 struct BankState {
     banking::BankName name;                          ///< its name
     bool isClosed = false;                           ///< whether it is closed
-    std::vector<accounting::AccountNumber> accounts; ///< that it keeps
+    std::vector<accounting::AccountNumber> accounts; ///< of the bank
 
-    /// Whether a person sees the same.
+    /// Whether the user sees no difference.
     friend bool operator==(const BankState &, const BankState &) = default;
 };
 
-/// What a person sees of the last survey of a bank account.
+/// The last survey of a bank account as the user sees it.
 struct SurveyState {
     QDate reconciledOn;           ///< the statement's day
     numira::Money balance;        ///< the statement's
-    numira::Money nonDistributed; ///< what was set aside for nothing
+    numira::Money nonDistributed; ///< the amount that was not distributed
 
-    /// Whether a person sees the same.
+    /// Whether the user sees no difference.
     friend bool operator==(const SurveyState &, const SurveyState &) = default;
 };
 
-/// Anything that can be told of a change.
+/// Anything that can change.
 using Thing =
     std::variant<ItemState, AccountState, accounting::Transaction, BankState, SurveyState>;
 
-/// One thing that was added (no `before`), removed (no `after`) or changed.
+/// Something added (without `before`), removed (without `after`) or changed.
 struct Change {
-    QString name;                ///< by which it is told: "bill Rent", "12 Checking", "17"
-    std::optional<Thing> before; ///< nothing of what is new
-    std::optional<Thing> after;  ///< nothing of what is gone
+    QString name;                ///< for example "bill Rent", "12 Checking", "17"
+    std::optional<Thing> before; ///< empty if it was added
+    std::optional<Thing> after;  ///< empty if it was removed
 };
 
-/// What became of items, accounts, transactions, banks and surveys, in this order;
-/// of each kind first what was there before, then what is new.
+/// The changes of items, accounts, transactions, banks and surveys, in this order. Of
+/// each kind, removed and changed things come before added ones.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<Change>
 changesBetween(const storage::BudgetStorage::Data &before,
                const storage::BudgetStorage::Data &after);

@@ -7,20 +7,20 @@
 
 namespace kiv::workbench {
 
-/// One version of a budget file: number 0 is the file itself, 1 the version
-/// before, and so on.
+/// A version of a budget file: number 0 is the file itself, 1 the version before it, and
+/// so on.
 struct KIV_WORKBENCH_EXPORT Version {
     unsigned number = 0;             ///< how many saves ago
-    QString path;                    ///< where it lies
-    storage::BudgetInspection found; ///< what a look at it found
+    QString path;                    ///< of its file
+    storage::BudgetInspection found; ///< the result of inspecting it
 
-    /// Its budget. Throws a Refusal when it is not whole.
+    /// The budget. Throws a Refusal if the file is damaged.
     [[nodiscard]] const storage::BudgetStorage::Data &data() const;
 };
 
-/// That version. Throws a Refusal when it is not kept.
+/// The version with this number. Throws a Refusal if it does not exist.
 [[nodiscard]] KIV_WORKBENCH_EXPORT Version versionOf(const QString &file, unsigned number);
-/// All that are kept, the newest first.
+/// All versions, newest first.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<Version> versionsOf(const QString &file);
 
 } // namespace kiv::workbench

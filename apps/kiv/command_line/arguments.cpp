@@ -12,7 +12,7 @@
 namespace kiv::app {
 namespace {
 
-/// The words that stand for values in the help.
+/// The placeholders of values in the help.
 constexpr std::array placeholders{
     QT_TRANSLATE_NOOP("QObject", "ACCOUNT"),      QT_TRANSLATE_NOOP("QObject", "ACCOUNT=AMOUNT"),
     QT_TRANSLATE_NOOP("QObject", "AMOUNT"),       QT_TRANSLATE_NOOP("QObject", "BANK"),
@@ -28,13 +28,46 @@ constexpr std::array placeholders{
     QT_TRANSLATE_NOOP("QObject", "TO"),
 };
 
-/// As the option's place in CLI11 and messages have it.
+/// The placeholders of options whose values are texts.
+constexpr std::pair<std::string_view, const char *> optionWords[]{
+    {"--account", "ACCOUNT"},
+    {"--against", "ACCOUNT"},
+    {"--bank", "BANK"},
+    {"--bank,--bank-account", "BANK"},
+    {"--bank-account", "ACCOUNT"},
+    {"--credit", "ACCOUNT"},
+    {"--debit", "ACCOUNT"},
+    {"--distribute", "ITEM=AMOUNT"},
+    {"--extra", "ACCOUNT=AMOUNT"},
+    {"--file", "FILE"},
+    {"--from", "FILE"},
+    {"--into", "ACCOUNT"},
+    {"--item", "ITEM=AMOUNT"},
+    {"--name", "NAME"},
+    {"--tag", "TAG"},
+    {"--template", "TEMPLATE"},
+    {"--under", "ACCOUNT"},
+};
+
+/// The placeholder of an option's value, of which `word` is the kind.
+std::string valueName(std::string_view name, const char *word)
+{
+    if (std::string_view(word) == "TEXT") {
+        for (const auto &[option, own] : optionWords) {
+            if (option == name)
+                return placeholder(own).toStdString();
+        }
+    }
+    return placeholder(word).toStdString();
+}
+
+/// The name as CLI11 and messages show it.
 std::string shownName(const std::string &name)
 {
     return name[0] == '-' ? name : placeholder(name.c_str()).toStdString();
 }
 
-/// Whether it stands on the command line, be it before the command.
+/// Whether the option was given, possibly before the command.
 bool isGiven(const CLI::App *app, const std::string &name)
 {
     for (; app; app = app->get_parent()) {
@@ -107,7 +140,7 @@ Arguments &Arguments::withoutJson()
 Arguments &Arguments::file()
 {
     return optional("--file", m_options.file,
-                    QObject::tr("The budget file; else KIV_FILE names it"));
+                    QObject::tr("Budget file (default: the variable KIV_FILE)"));
 }
 
 Arguments &Arguments::dated(const QString &help)
@@ -130,11 +163,10 @@ Arguments &Arguments::add(const char *name, const Reader &read, const char *word
         isRepeated ? m_app.add_option_function<std::vector<std::string>>(shown, readAll,
                                                                          help.toStdString())
                    : m_app.add_option_function<std::string>(shown, read, help.toStdString());
-    // An option takes one value each time, so that it does not swallow what
-    // stands behind it.
+    // Each use of an option takes one value, so that it does not take the next argument.
     if (isRepeated && isOption)
         option->expected(1)->take_all();
-    option->type_name(isOption ? placeholder(word).toStdString() : "");
+    option->type_name(isOption ? valueName(name, word) : "");
     option->required(presence == Presence::Required || presence == Presence::RequiredRepeated);
     return *this;
 }

@@ -23,10 +23,10 @@ using workbench::readValue;
 /// The word in capitals that stands for a value ("AMOUNT"), in the user's language.
 [[nodiscard]] QString placeholder(const char *word);
 
-/// A word of the command line. Throws a UsageError when it is not valid UTF-8.
+/// A word of the command line. Throws a UsageError if it is not valid UTF-8.
 [[nodiscard]] QString decoded(const std::string &word);
 
-/// What stands behind an option in the help: the kind of its value.
+/// The word for an option's value in the help, by its type.
 constexpr const char *valueWord(const QDate *)
 {
     return "DATE";
@@ -69,7 +69,7 @@ constexpr const char *valueWord(const std::optional<T> *)
     return valueWord(static_cast<const T *>(nullptr));
 }
 
-/// What every command understands besides its own arguments.
+/// Options that every command has.
 struct Options {
     QString file;
     bool isJson = false;
@@ -78,20 +78,19 @@ struct Options {
     std::optional<QDate> date;
 };
 
-/// Which arguments of a command go together.
+/// Rules on which arguments can be combined.
 struct ArgumentRules {
     std::vector<std::pair<std::string, std::string>> exclusive = {};
-    std::vector<std::pair<std::string, std::string>> dependent = {}; ///< each on the second
+    std::vector<std::pair<std::string, std::string>> dependent = {}; ///< the first needs the second
     bool takesJson = true;
 
-    /// Throws a UsageError for a call of the command that breaks one.
+    /// Throws a UsageError if a call of the command breaks a rule.
     void check(const CLI::App &command) const;
 };
 
-/// The arguments of one command, where it declares them. A name in capitals
-/// ("NAME") is known by its place, one with dashes ("--name") is an option. The
-/// values must outlive the parsing of the command line. The texts of the help come
-/// translated.
+/// Declares the arguments of one command. A name in capitals ("NAME") is a positional
+/// argument, a name with dashes ("--name") an option. The values must outlive the
+/// parsing. Help texts are passed translated.
 class Arguments {
 public:
     Arguments(CLI::App &app, Options &options) : m_app(app), m_options(options) {}
@@ -106,14 +105,14 @@ public:
     {
         return add(name, reader(value), valueWord(&value), help, Presence::Optional);
     }
-    /// May be given several times.
+    /// An argument that can be given several times.
     template <typename T>
     Arguments &several(const char *name, std::vector<T> &values, const QString &help)
     {
         return add(name, appender(values), valueWord(static_cast<T *>(nullptr)), help,
                    Presence::Repeated);
     }
-    /// Must be given at least once.
+    /// The same, at least once.
     template <typename T>
     Arguments &severalRequired(const char *name, std::vector<T> &values, const QString &help)
     {
@@ -121,13 +120,13 @@ public:
                    Presence::RequiredRepeated);
     }
     Arguments &flag(const char *name, bool &value, const QString &help);
-    /// The command refuses to be given both of two of its arguments.
+    /// Refuses calls with both arguments.
     Arguments &exclusive(const char *one, const char *other);
-    /// The command refuses to be given `name` alone: without `base` it means nothing.
+    /// Refuses calls with `name` but without `base`.
     Arguments &only(const char *name, const char *base);
-    /// The command takes --file.
+    /// Adds --file.
     Arguments &file();
-    /// The command takes --date, in place of today.
+    /// Adds --date, the day that replaces today.
     Arguments &dated(const QString &help);
 
     /// The command refuses --json: what it prints is for programs already.

@@ -25,7 +25,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// The words of a line, taken in from the left.
+/// Follows the words of a line from left to right.
 class Reading {
 public:
     explicit Reading(const CLI::App &commands) : m_reached(&commands) {}
@@ -34,7 +34,7 @@ public:
     {
         const std::string name = word.substr(0, word.find('='));
         if (m_awaiting && word == "=") {
-            // bash hands --file=home.budget over as three words.
+            // bash splits --file=home.budget into three words.
         } else if (m_awaiting) {
             remember(word);
             m_awaiting = nullptr;
@@ -55,8 +55,8 @@ public:
         }
     }
 
-    /// The option that waits for its value, or else the argument whose place it
-    /// is; null when there is none.
+    /// The option that needs a value, or else the next positional argument; null if
+    /// there is none.
     [[nodiscard]] const CLI::Option *turn() const
     {
         if (m_awaiting)
@@ -70,7 +70,7 @@ public:
     }
     [[nodiscard]] bool awaitsValue() const noexcept { return m_awaiting != nullptr; }
     [[nodiscard]] const CLI::App &reached() const noexcept { return *m_reached; }
-    /// The names of the commands from the root to the reached one.
+    /// The names of the commands from the root to the current one.
     [[nodiscard]] const Words &path() const noexcept { return m_path; }
     [[nodiscard]] const QString &file() const noexcept { return m_file; }
 
@@ -114,7 +114,7 @@ Words bankNames(Requests &requests)
     return names;
 }
 
-/// The names of all items whose kind is called `kind`; of all without one.
+/// The names of all items of this kind, or of all kinds if it is empty.
 Words itemNames(Requests &requests, const std::string &kind)
 {
     Words names;
@@ -134,7 +134,7 @@ Words choices(Enumeration lowest, Enumeration highest, Name name)
     return words;
 }
 
-/// The words of an argument that takes one of a few; nothing for others.
+/// The choices of an argument; empty if it takes free values.
 Words choicesOf(const std::string &name, const Words &path)
 {
     const auto named = [](auto value) { return toQString(value); };
@@ -179,7 +179,7 @@ Words namesOf(const std::string &name, const Words &path, Requests &requests)
         return bankNames(requests);
     if (name == "ITEM")
         return itemNames(requests, {});
-    // What is to be added has no name that could be known.
+    // The name of a new item cannot be completed.
     if (name == "NAME" && std::ranges::count(kinds, path.front()) != 0 && path.back() != "add")
         return itemNames(requests, path.front());
     return {};

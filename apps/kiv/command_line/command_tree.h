@@ -8,8 +8,8 @@
 
 namespace kiv::app {
 
-/// The root of all commands with what it has of its own, its help so wide; `declare`
-/// adds the commands.
+/// Creates the root command with its options; `declare` adds the commands. The help is
+/// at most `width` columns wide.
 [[nodiscard]] std::unique_ptr<CLI::App>
 commandTree(std::optional<int> width, const Declaring &declaring, const DeclareCommands &declare);
 

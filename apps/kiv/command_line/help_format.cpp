@@ -42,7 +42,8 @@ std::string HelpFormat::make_subcommand(const CLI::App *command) const
 
 std::string HelpFormat::make_footer(const CLI::App *app) const
 {
-    return wrapped({}, Formatter::make_footer(app), 0);
+    const std::string footer = Formatter::make_footer(app);
+    return footer.empty() ? footer : wrapped({}, footer, 0);
 }
 
 std::string HelpFormat::row(const std::string &name, const std::string &meaning) const

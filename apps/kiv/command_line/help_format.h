@@ -7,11 +7,11 @@
 
 namespace kiv::app {
 
-/// Lays the help out in lines of at most so many columns, as they show: CLI11
-/// itself counts bytes and never breaks a line.
+/// Wraps the help to the width of the terminal. CLI11 itself counts bytes and never
+/// breaks a line.
 class HelpFormat final : public CLI::Formatter {
 public:
-    /// Nothing makes it wider than 80 columns, beyond which lines are hard to read.
+    /// Lines have at most 80 columns, even on a wider terminal.
     explicit HelpFormat(std::optional<int> terminalWidth);
 
     std::string make_description(const CLI::App *app) const override;
@@ -21,13 +21,13 @@ public:
     std::string make_footer(const CLI::App *app) const override;
 
 private:
-    /// A name, and what it means in a column beside or below it.
+    /// A name, and its meaning in a column beside or below it.
     [[nodiscard]] std::string row(const std::string &name, const std::string &meaning) const;
-    /// `begun`, and then the words in lines of which all but the first are indented.
+    /// `begun` and then the words; all lines but the first are indented.
     [[nodiscard]] std::string wrapped(QString begun, const std::string &words, int indent) const;
 
     int m_width;
-    int m_column; ///< where the meanings begin
+    int m_column; ///< the first column of the meanings
 };
 
 } // namespace kiv::app

@@ -11,7 +11,7 @@
 namespace kiv::app {
 namespace {
 
-/// The text as a line of a manual page, with nothing that has a meaning there.
+/// The text as a line of a manual page, with its special characters escaped.
 QByteArray plain(const std::string &text)
 {
     QByteArray line = QByteArray::fromStdString(text);
@@ -27,8 +27,7 @@ bool isCommon(const CLI::Option &option)
     return std::ranges::count(common, option.get_name()) != 0;
 }
 
-/// "\fBNAME\fR" for an argument known by its place, "\fB\-\-name\fR \fIDATE\fR"
-/// for an option.
+/// "\fINAME\fR" for a positional argument, "\fB\-\-name\fR \fIDATE\fR" for an option.
 QByteArray title(const CLI::Option &option)
 {
     QByteArray text;
@@ -60,6 +59,8 @@ QByteArray synopsis(const CLI::App &command, const QByteArray &path)
 void describe(const CLI::App &command, const QByteArray &path, QByteArray &manual)
 {
     const auto below = command.get_subcommands({});
+    const bool isRoot = command.get_parent() == nullptr;
+    std::string heading;
     if (command.get_require_subcommand_min() == 0) {
         manual += ".SS " + path + '\n' + synopsis(command, path) + "\n.PP\n" +
                   plain(command.get_description()) + ".\n";
@@ -68,8 +69,12 @@ void describe(const CLI::App &command, const QByteArray &path, QByteArray &manua
                 manual += ".TP\n" + title(*option) + '\n' + plain(option->get_description()) + '\n';
         }
     }
-    for (const CLI::App *next : below)
+    for (const CLI::App *next : below) {
+        if (isRoot && next->get_group() != std::exchange(heading, next->get_group()))
+            manual +=
+                ".SH " + plain(QString::fromStdString(heading).toUpper().toStdString()) + '\n';
         describe(*next, path + ' ' + plain(next->get_name()), manual);
+    }
 }
 
 } // namespace

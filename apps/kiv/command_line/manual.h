@@ -9,8 +9,8 @@ class App;
 
 namespace kiv::app {
 
-/// All commands with their arguments in the notation of manual pages (the man
-/// macros), one subsection each; what stands around them is written by hand.
+/// The sections of the manual page on all commands, in man macros: a section for each
+/// heading, a subsection for each command. The other sections are in packaging/man.
 /// Options that nearly every command has are left out.
 [[nodiscard]] QByteArray manualOfCommands(const CLI::App &commands);
 

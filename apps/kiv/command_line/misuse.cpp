@@ -33,27 +33,44 @@ QStringList optionsOf(const CLI::App &app)
     return names;
 }
 
-/// What CLI11 says of a wrong call, and the same to be translated, with the
-/// parts that the first one captures.
+/// "kiv bill add --help"
+QString helpOf(const CLI::App &app)
+{
+    QString line = QStringLiteral("--help");
+    for (const CLI::App *at = &app; at; at = at->get_parent())
+        line.prepend(QString::fromStdString(at->get_name()) + u' ');
+    return line;
+}
+
+/// The last command among the parsed words.
+const CLI::App &reachedIn(const CLI::App &app)
+{
+    const CLI::App *reached = &app;
+    while (!reached->get_subcommands().empty())
+        reached = reached->get_subcommands().front();
+    return *reached;
+}
+
+/// A message of CLI11, and what replaces it: a sentence without its end, with the
+/// parts that the form captures.
 struct Wording {
     const char *form;
     const char *sentence;
 };
 constexpr Wording wordings[] = {
-    {"(.*) is required", QT_TRANSLATE_NOOP("QObject", "%1 is required.")},
-    {"(.*): 1 required (.*) missing", QT_TRANSLATE_NOOP("QObject", "%1 needs a value (%2).")},
+    {"(.*) is required", QT_TRANSLATE_NOOP("QObject", "%1 is missing")},
+    {"(.*): 1 required (.*) missing", QT_TRANSLATE_NOOP("QObject", "%1 needs a value (%2)")},
     {"The following argument was not expected: (.*)",
-     QT_TRANSLATE_NOOP("QObject",
-                       "The following argument was not expected: %1; --help tells which are.")},
+     QT_TRANSLATE_NOOP("QObject", "Unexpected argument: %1")},
     {"The following arguments were not expected: (.*)",
-     QT_TRANSLATE_NOOP("QObject",
-                       "The following arguments were not expected: %1; --help tells which are.")},
+     QT_TRANSLATE_NOOP("QObject", "Unexpected arguments: %1")},
     {"(.*): At Most (\\d+) required but received (\\d+)",
-     QT_TRANSLATE_NOOP("QObject", "%1 was given %3 times, where %2 is the most.")},
-    {"Could not convert: (.*) = (.*)", QT_TRANSLATE_NOOP("QObject", "Could not convert: %1 = %2.")},
+     QT_TRANSLATE_NOOP("QObject", "%1 was given %3 times, at most %2 is allowed")},
+    {"Could not convert: (.*) = (.*)",
+     QT_TRANSLATE_NOOP("QObject", "%1 does not accept the value '%2'")},
 };
 
-/// The sentence in the user's language; empty for another text.
+/// The sentence in the user's language; empty if the form does not match.
 QString translated(const Wording &wording, const QString &text)
 {
     const QRegularExpression form(QRegularExpression::anchoredPattern(QLatin1String(wording.form)));
@@ -86,30 +103,34 @@ void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
         if (word.starts_with("--")) {
             const QStringList options = optionsOf(*reached);
             if (!options.contains(name))
-                throw noSuchOption(name, workbench::similarTo(name, options));
+                throw noSuchOption(name, workbench::similarTo(name, options), helpOf(*reached));
             const CLI::Option *option = reached->get_option(name.toStdString());
             isValue = option->get_items_expected_max() > 0 && word.find('=') == std::string::npos;
         } else if (const QStringList commands = commandsOf(*reached);
                    !commands.isEmpty() && !word.starts_with('-')) {
             const QString command = QString::fromStdString(word);
             if (!commands.contains(command))
-                throw noSuchCommand(command, workbench::similarTo(command, commands));
+                throw noSuchCommand(command, workbench::similarTo(command, commands),
+                                    helpOf(*reached));
             reached = reached->get_subcommand(word);
         }
     }
 }
 
-QString misuse(const CLI::ParseError &error)
+UsageError misuse(const CLI::App &app, const CLI::ParseError &error)
 {
+    const QString help = helpOf(reachedIn(app));
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
         std::string_view(error.what()).starts_with("A subcommand"))
-        return QObject::tr("A command is missing; --help lists those that there are.");
-    const QString text = QString::fromUtf8(error.what()).simplified();
+        return wrongCall(QObject::tr("No command given"), help);
+    QString text = QString::fromUtf8(error.what()).simplified();
     for (const Wording &wording : wordings) {
-        if (QString sentence = translated(wording, text); !sentence.isEmpty())
-            return sentence;
+        if (const QString sentence = translated(wording, text); !sentence.isEmpty())
+            return wrongCall(sentence, help);
     }
-    return text.endsWith(u'.') ? text : text + u'.';
+    if (text.endsWith(u'.'))
+        text.chop(1);
+    return wrongCall(text, help);
 }
 
 } // namespace kiv::app

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtCore/QString>
+#include "messages/errors.h"
 
 #include <string>
 #include <vector>
@@ -13,12 +13,11 @@ class ParseError;
 
 namespace kiv::app {
 
-/// Throws a UsageError for the first word that is no command where one is
-/// expected, or no option of the command that is called, with what may have been
-/// meant. CLI11 would only say that something is missing or too much.
+/// Checks the words for unknown commands and options. Throws a UsageError for the
+/// first one, with a similar name or the help to look at.
 void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words);
 
-/// What CLI11 says of a wrong call, worded as a sentence where it is terse.
-[[nodiscard]] QString misuse(const CLI::ParseError &error);
+/// The error for a call that CLI11 could not parse, with the help to look at.
+[[nodiscard]] UsageError misuse(const CLI::App &app, const CLI::ParseError &error);
 
 } // namespace kiv::app

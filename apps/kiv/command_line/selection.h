@@ -12,23 +12,22 @@ class Program;
 
 /// What a command does with the budget file.
 enum class CommandKind {
-    Standalone, ///< nothing, or all by itself
-    Query,      ///< it reads it
-    Change,     ///< it reads it, and it is saved afterwards
+    Standalone, ///< opens no file itself, or does it in its own way
+    Query,      ///< reads it
+    Change,     ///< reads it; it is saved afterwards
 };
 
-/// The command that a command line chose, which is what parsing it comes to.
+/// The command that was chosen by parsing a command line.
 struct Selection {
     CommandKind kind = CommandKind::Standalone;
     std::function<Report(Program &, const Options &)> run = {};
 };
 
-/// What the commands are declared with.
+/// What is needed to declare the commands.
 struct Declaring {
     Options &options;
-    Selection &selection; ///< set by the command that is chosen
-    /// Only commands among these words get their arguments, since a call reaches no
-    /// other; without any words all do.
+    Selection &selection; ///< set by the chosen command
+    /// Only commands named here get their arguments, which saves time. If empty, all do.
     std::vector<std::string> words;
 
     [[nodiscard]] bool needsArguments(std::string_view command) const
@@ -37,8 +36,8 @@ struct Declaring {
     }
 };
 
-/// Adds all commands below the root. Their arguments are written to what the second
-/// one refers to, so it must outlive the tree.
+/// Adds all commands to the root. Parsing writes to what `declaring` refers to, which
+/// must outlive the tree.
 using DeclareCommands = std::function<void(CLI::App &root, const Declaring &declaring)>;
 
 } // namespace kiv::app

@@ -11,11 +11,11 @@ using navigation::Navigator;
 
 void CodeChange::declare(Arguments &arguments)
 {
-    arguments.required("ACCOUNT", account, QObject::tr("The account's number or name"))
-        .optional("--number", number, QObject::tr("The new number"))
-        .optional("--name", name, QObject::tr("The new name"))
-        .optional("--under", parent, QObject::tr("The account under which it is to stand"))
-        .flag("--top-level", isTopLevel, QObject::tr("It is to stand under no other account"))
+    arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+        .optional("--number", number, QObject::tr("New number"))
+        .optional("--name", name, QObject::tr("New name"))
+        .optional("--under", parent, QObject::tr("New parent account"))
+        .flag("--top-level", isTopLevel, QObject::tr("Remove the parent account"))
         .exclusive("--under", "--top-level");
 }
 

@@ -15,10 +15,9 @@ struct CodeChange {
     bool isTopLevel = false;
 
     void declare(Arguments &arguments);
-    /// The account's present code.
+    /// The present code of the account.
     [[nodiscard]] accounting::AccountCode from(const AccountIndex &index) const;
-    /// The code that it is to have. Throws a UsageError when that is the
-    /// present one.
+    /// The new code of the account. Throws a UsageError if nothing changes.
     [[nodiscard]] accounting::AccountCode to(const AccountIndex &index) const;
 };
 
@@ -26,8 +25,8 @@ struct CodeChange {
 [[nodiscard]] Report accountReport(Requests &requests, accounting::AccountNumber number,
                                    const QString &sentence);
 
-/// A command that gives an account another code, for one family of answers.
-/// The sentence tells the old code and the new one.
+/// A command that changes the code of an account. `outcome` is the pair of signals that
+/// answer; the sentence has places for the old and the new code.
 template <typename Answers>
 struct Recode {
     Answers outcome;
@@ -43,7 +42,7 @@ struct Recode {
         const accounting::AccountCode from = change.from(index);
         const accounting::AccountCode to = change.to(index);
         call.requests.change(outcome, slot, from, to);
-        // By their paths, since it may be the parent alone that is another.
+        // With their paths, since only the parent may have changed.
         const auto told = [](const AccountIndex &accounts, accounting::AccountNumber number) {
             return accounting::presentationText(number) + u' ' + accounts.path(number);
         };
@@ -53,11 +52,12 @@ struct Recode {
     }
 };
 
-// clang deduces the arguments of aggregates only from 17 on.
+// Needed by clang before version 17, which does not deduce the arguments of aggregates.
 template <typename Answers, typename Slot>
 Recode(Answers, Slot, QString) -> Recode<Answers>;
 
-/// A command that asks one thing of an account. The sentence tells its code.
+/// A command with an account as its only argument. The sentence has a place for its
+/// code.
 template <typename Answers>
 struct AccountVerb {
     Answers outcome;
@@ -67,7 +67,7 @@ struct AccountVerb {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, QObject::tr("The account's number, name or path"));
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"));
     }
     Report run(Call &call) const
     {

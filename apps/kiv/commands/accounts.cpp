@@ -16,7 +16,7 @@ using navigation::Navigator;
 
 namespace {
 
-/// "open" and "closed" as people read them in a table.
+/// "closed" for people; nothing for an open account.
 QString openWord(const QJsonValue &isOpen)
 {
     return isOpen.toBool() ? QString() : QObject::tr("closed");
@@ -29,9 +29,11 @@ struct ListAccounts {
     void declare(Arguments &arguments)
     {
         arguments
-            .optional("--type", type,
-                      QObject::tr("Only asset, equity, expense, liability or income"))
-            .flag("--open", isOpenOnly, QObject::tr("Only accounts that are open"));
+            .optional(
+                "--type", type,
+                QObject::tr(
+                    "Only accounts of this type: asset, equity, expense, liability or income"))
+            .flag("--open", isOpenOnly, QObject::tr("Only open accounts"));
     }
     Report run(Call &call) const
     {
@@ -59,9 +61,9 @@ struct ShowLedger {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, QObject::tr("The account's number, name or path"))
-            .optional("--from", from, QObject::tr("Only from this day on"))
-            .optional("--to", to, QObject::tr("Only up to this day"));
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .optional("--from", from, QObject::tr("First day"))
+            .optional("--to", to, QObject::tr("Last day"));
     }
 
     Report run(Call &call) const
@@ -129,14 +131,14 @@ struct AddAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, QObject::tr("The account's name"))
-            .required("--type", type, QObject::tr("asset, equity, expense, liability or income"))
-            .optional("--number", number, QObject::tr("Its number; the next free one otherwise"))
-            .optional("--under", parent, QObject::tr("The account under which it stands"))
-            .optional("--balance", balance, QObject::tr("Its opening balance; 0 otherwise"))
-            .optional("--currency", currency,
-                      QObject::tr("Its currency; the preferred one otherwise"))
-            .dated(QObject::tr("The day of the opening balance"));
+        arguments.required("NAME", name, QObject::tr("Name"))
+            .required("--type", type,
+                      QObject::tr("Type: asset, equity, expense, liability or income"))
+            .optional("--number", number, QObject::tr("Number (default: the next free one)"))
+            .optional("--under", parent, QObject::tr("Parent account"))
+            .optional("--balance", balance, QObject::tr("Opening balance (default: 0)"))
+            .optional("--currency", currency, QObject::tr("Currency (default: the preferred one)"))
+            .dated(QObject::tr("Day of the opening balance (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -166,15 +168,16 @@ void addAccountCommands(CommandGroup &root)
              ListAccounts{});
     root.add("ledger", QObject::tr("List the transactions of an account"), Query, ShowLedger{});
 
-    CommandGroup account = root.group("account", QObject::tr("Accounts of the ledger"));
-    account.add("add", QObject::tr("Open an account"), Change, AddAccount{});
+    CommandGroup account =
+        root.group("account", QObject::tr("Add, change, close or remove an account"));
+    account.add("add", QObject::tr("Add an account"), Change, AddAccount{});
     account.add("recode", QObject::tr("Change an account's number, name or parent"), Change,
                 Recode{workbench::accountOutcome, &Navigator::onRecoded,
                        QObject::tr("The account %1 is now %2.")});
     account.add("close", QObject::tr("Close an account"), Change,
                 AccountVerb{workbench::accountOutcome, &Navigator::onClosed,
                             QObject::tr("Closed the account %1.")});
-    account.add("open", QObject::tr("Open a closed account again"), Change,
+    account.add("open", QObject::tr("Reopen an account"), Change,
                 AccountVerb{workbench::accountOutcome, &Navigator::onOpened,
                             QObject::tr("Opened the account %1 again.")});
     account.add("remove", QObject::tr("Remove an account without transactions"), Change,

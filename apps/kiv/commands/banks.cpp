@@ -46,10 +46,10 @@ struct ListBanks {
                              : QObject::tr("%1 (closed)").arg(name))
                 .table({{QObject::tr("Number"), QStringLiteral("number")},
                         {QObject::tr("Account"), QStringLiteral("name")},
-                        {QObject::tr("Kind"), QStringLiteral("type"), wordText},
+                        {QObject::tr("Type"), QStringLiteral("type"), wordText},
                         {QObject::tr("Balance"), QStringLiteral("balance")}},
                        bank[QLatin1String("accounts")].toArray(),
-                       QObject::tr("It keeps no accounts."));
+                       QObject::tr("There are no accounts."));
         }
         return report;
     }
@@ -60,7 +60,7 @@ struct AddBank {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", name, QObject::tr("The bank's name"));
+        arguments.required("BANK", name, QObject::tr("Name of the bank"));
     }
     Report run(Call &call) const
     {
@@ -77,8 +77,8 @@ struct RenameBank {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", bank, QObject::tr("The bank's name"))
-            .required("NEW-NAME", name, QObject::tr("Its new name"));
+        arguments.required("BANK", bank, QObject::tr("Name of the bank"))
+            .required("NEW-NAME", name, QObject::tr("New name"));
     }
     Report run(Call &call) const
     {
@@ -90,7 +90,7 @@ struct RenameBank {
     }
 };
 
-/// close, open and remove differ in what they ask and in their sentence alone.
+/// close, open and remove, which differ in their step and their sentence.
 struct BankVerb {
     void (*step)(Requests &, const BankName &);
     QString sentence;
@@ -98,7 +98,7 @@ struct BankVerb {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", bank, QObject::tr("The bank's name"));
+        arguments.required("BANK", bank, QObject::tr("Name of the bank"));
     }
     Report run(Call &call) const
     {
@@ -122,16 +122,14 @@ struct AddBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, QObject::tr("The account's name"))
-            .required("--bank", bank, QObject::tr("The bank that keeps it"))
-            .optional(
-                "--type", type,
-                QObject::tr("checking (unless given), savings, credit-card, loan, line-of-credit, "
-                            "money-market or cash"))
-            .optional("--balance", balance, QObject::tr("Its opening balance; 0 otherwise"))
-            .optional("--currency", currency,
-                      QObject::tr("Its currency; the preferred one otherwise"))
-            .dated(QObject::tr("The day of the opening balance"));
+        arguments.required("NAME", name, QObject::tr("Name"))
+            .required("--bank", bank, QObject::tr("Name of the bank"))
+            .optional("--type", type,
+                      QObject::tr("Type: checking (default), savings, credit-card, loan, "
+                                  "line-of-credit, money-market or cash"))
+            .optional("--balance", balance, QObject::tr("Opening balance (default: 0)"))
+            .optional("--currency", currency, QObject::tr("Currency (default: the preferred one)"))
+            .dated(QObject::tr("Day of the opening balance (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -146,7 +144,7 @@ struct AddBankAccount {
         workbench::attachBankAccount(call.document, keeper.name(), added.number(), type);
         workbench::openOn(requests, added.number(), call.options.date);
         return accountReport(requests, added.number(),
-                             QObject::tr("Added the account %1 at the bank '%2'.")
+                             QObject::tr("Added the account %1 to the bank '%2'.")
                                  .arg(accounting::presentationText(added), bank));
     }
 };
@@ -158,12 +156,11 @@ struct AttachBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, QObject::tr("An account of the ledger"))
-            .required("--bank", bank, QObject::tr("The bank that keeps it"))
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .required("--bank", bank, QObject::tr("Name of the bank"))
             .required("--type", type,
-                      QObject::tr(
-                          "checking, savings, credit-card, loan, goal-sub-account, line-of-credit, "
-                          "money-market or cash"));
+                      QObject::tr("Type: checking, savings, credit-card, loan, goal-sub-account, "
+                                  "line-of-credit, money-market or cash"));
     }
     Report run(Call &call) const
     {
@@ -171,7 +168,7 @@ struct AttachBankAccount {
         const Bank keeper = call.requests.bank(bank);
         workbench::attachBankAccount(call.document, keeper.name(), code.number(), type);
         return bankReport(call.requests, keeper.name(),
-                          QObject::tr("The bank '%1' keeps the account %2 now.")
+                          QObject::tr("Assigned the account %2 to the bank '%1'.")
                               .arg(bank, accounting::presentationText(code)));
     }
 };
@@ -181,8 +178,7 @@ struct DetachBankAccount {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account,
-                           QObject::tr("The account, which stays in the ledger"));
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"));
     }
     Report run(Call &call) const
     {
@@ -190,7 +186,7 @@ struct DetachBankAccount {
         const banking::BankAccount kept = call.requests.bankAccount(code.number(), account);
         workbench::detachBankAccount(call.requests, kept);
         return bankReport(call.requests, kept.bank,
-                          QObject::tr("The bank '%1' no longer keeps the account %2.")
+                          QObject::tr("Separated the account %2 from the bank '%1'.")
                               .arg(kept.bank.institution(), accounting::presentationText(code)));
     }
 };
@@ -202,22 +198,23 @@ void addBankCommands(CommandGroup &root)
     using enum CommandKind;
     root.add("banks", QObject::tr("List all banks with their accounts"), Query, ListBanks{});
 
-    CommandGroup bank = root.group("bank", QObject::tr("Banks"));
+    CommandGroup bank = root.group("bank", QObject::tr("Add, rename, close or remove a bank"));
     bank.add("add", QObject::tr("Add a bank"), Change, AddBank{});
-    bank.add("rename", QObject::tr("Give a bank another name"), Change, RenameBank{});
-    bank.add("close", QObject::tr("Close a bank with its accounts"), Change,
+    bank.add("rename", QObject::tr("Rename a bank"), Change, RenameBank{});
+    bank.add("close", QObject::tr("Close a bank and its accounts"), Change,
              BankVerb{workbench::closeBank, QObject::tr("Closed the bank '%1'.")});
-    bank.add("open", QObject::tr("Open a closed bank again"), Change,
+    bank.add("open", QObject::tr("Reopen a bank and its accounts"), Change,
              BankVerb{workbench::openBank, QObject::tr("Opened the bank '%1' again.")});
-    bank.add("remove", QObject::tr("Remove a bank with its accounts"), Change,
+    bank.add("remove", QObject::tr("Remove a bank and its accounts"), Change,
              BankVerb{removeBank, QObject::tr("Removed the bank '%1'.")});
 
-    CommandGroup account = root.group("bank-account", QObject::tr("Accounts that banks keep"));
-    account.add("add", QObject::tr("Open an account at a bank"), Change, AddBankAccount{});
-    account.add("attach", QObject::tr("Let a bank keep an account of the ledger"), Change,
+    CommandGroup account =
+        root.group("bank-account", QObject::tr("Add, change or remove an account of a bank"));
+    account.add("add", QObject::tr("Add an account to a bank"), Change, AddBankAccount{});
+    account.add("attach", QObject::tr("Assign an account of the ledger to a bank"), Change,
                 AttachBankAccount{});
-    account.add("detach", QObject::tr("Take an account from its bank"), Change,
-                DetachBankAccount{});
+    account.add("detach", QObject::tr("Separate an account from its bank; it stays in the ledger"),
+                Change, DetachBankAccount{});
     account.add("rename", QObject::tr("Change a bank account's number, name or parent"), Change,
                 Recode{workbench::bankAccountOutcome, &Navigator::onRenamedBankAccount,
                        QObject::tr("The bank account %1 is now %2.")});

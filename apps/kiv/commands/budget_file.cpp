@@ -22,7 +22,7 @@ struct New {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+        arguments.optional("FILE", file, QObject::tr("New file; .budget is added if it is missing"))
             .file()
             .exclusive("FILE", "--file");
     }
@@ -34,7 +34,7 @@ struct New {
         call.requests.navigator().onConfirmedNewBudgetEmpty();
         call.document.create(path);
         return Report(fileJson(call.document))
-            .line(QObject::tr("Made the empty budget '%1'.").arg(call.document.file()));
+            .line(QObject::tr("Created the empty budget '%1'.").arg(call.document.file()));
     }
 };
 
@@ -43,7 +43,8 @@ struct SaveAs {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FILE", file, QObject::tr("The file to be made; .budget is appended"));
+        arguments.required("FILE", file,
+                           QObject::tr("New file; .budget is added if it is missing"));
     }
     Report run(Call &call) const
     {
@@ -53,8 +54,7 @@ struct SaveAs {
     }
 };
 
-/// The amounts that stand on one side of all transactions, summed up account by
-/// account, in each currency.
+/// Sums up one side of all transactions, account by account, for each currency.
 QJsonArray sideTotals(const AccountIndex &index, bool isDebit)
 {
     std::map<numira::Currency, numira::Money> totals;
@@ -120,9 +120,9 @@ struct Info {
 
 void addBudgetFileCommands(CommandGroup &root)
 {
-    root.add("new", QObject::tr("Make an empty budget file"), CommandKind::Standalone, New{});
-    root.add("info", QObject::tr("Tell what the budget holds"), CommandKind::Query, Info{});
-    root.add("save-as", QObject::tr("Save the budget as another file"), CommandKind::Query,
+    root.add("new", QObject::tr("Create an empty budget file"), CommandKind::Standalone, New{});
+    root.add("info", QObject::tr("Show what the budget contains"), CommandKind::Query, Info{});
+    root.add("save-as", QObject::tr("Save the budget under another name"), CommandKind::Query,
              SaveAs{});
 }
 

@@ -31,13 +31,13 @@ struct Call {
     const Options &options;
     Program &program;
 
-    /// The day that stands for today.
+    /// The value of --date, or today.
     [[nodiscard]] QDate date() const { return options.date.value_or(foundation::today()); }
-    /// The budget file that is named, open, or in the variable, in this order, for
-    /// commands that open none. Throws a UsageError when there is none.
+    /// The budget file for commands that do not open one: from --file, the open document
+    /// or KIV_FILE, in this order. Throws a UsageError if there is none.
     [[nodiscard]] QString fileNamed() const;
-    /// The file to be made: `given` by its place, named, or in the variable. Throws a
-    /// UsageError when there is none.
+    /// The file to create: `given`, or from --file or KIV_FILE. Throws a UsageError if
+    /// there is none.
     [[nodiscard]] QString fileToMake(const QString &given) const;
 };
 

@@ -18,7 +18,7 @@ using workbench::Promise;
 
 namespace {
 
-/// The promise's word for programs.
+/// The word for the check in JSON.
 const char *wordOf(Promise promise)
 {
     constexpr std::array words{"identity", "tables", "seal", "rules", "ties", "balances", "sides"};
@@ -43,10 +43,10 @@ const char *wordOf(Verdict verdict)
 QString verdictText(const QJsonValue &word)
 {
     const QString text = word.toString();
-    return text == u"kept"     ? QObject::tr("kept")
-           : text == u"mended" ? QObject::tr("mended when it is opened")
-           : text == u"broken" ? QObject::tr("BROKEN")
-                               : QObject::tr("not judged");
+    return text == u"kept"     ? QObject::tr("ok")
+           : text == u"mended" ? QObject::tr("repaired when opened")
+           : text == u"broken" ? QObject::tr("FAILED")
+                               : QObject::tr("not checked");
 }
 
 struct Check {
@@ -54,7 +54,7 @@ struct Check {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, QObject::tr("A budget file or one of its backups"))
+        arguments.optional("FILE", file, QObject::tr("Budget file or one of its backups"))
             .file()
             .exclusive("FILE", "--file");
     }
@@ -75,20 +75,20 @@ struct Check {
                                   {QStringLiteral("whole"), isWhole},
                                   {QStringLiteral("promises"), rows}});
         report
-            .table({{QObject::tr("Promise"), QStringLiteral("text")},
-                    {QObject::tr("Verdict"), QStringLiteral("verdict"), verdictText},
+            .table({{QObject::tr("Check"), QStringLiteral("text")},
+                    {QObject::tr("Result"), QStringLiteral("verdict"), verdictText},
                     {QObject::tr("Details"), QStringLiteral("details")}},
                    rows, {})
-            .line(isWhole ? QObject::tr("The budget '%1' is whole.").arg(path)
-                          : QObject::tr("The budget '%1' is not whole; kiv check FILE tells which "
-                                        "of its backups (%1.backup-1, …) is.")
+            .line(isWhole ? QObject::tr("The budget '%1' is intact.").arg(path)
+                          : QObject::tr("The budget '%1' is damaged; find an intact version with "
+                                        "kiv history.")
                                 .arg(path));
         report.setStatus(isWhole ? ExitStatus::success : ExitStatus::refused);
         return report;
     }
 
 private:
-    /// The file that is meant: a backup has no extension of its own.
+    /// The file to check. The name of a backup is used as it is, without the extension.
     [[nodiscard]] QString named(const Call &call) const
     {
         const QString path = file.isEmpty() ? call.fileNamed() : file;
@@ -100,8 +100,8 @@ private:
 
 void addCheckCommand(CommandGroup &root)
 {
-    root.add("check", QObject::tr("Verify a budget file and tell each of its promises"),
-             CommandKind::Standalone, Check{});
+    root.add("check", QObject::tr("Check a budget file for damage"), CommandKind::Standalone,
+             Check{});
 }
 
 } // namespace kiv::app

@@ -7,22 +7,18 @@
 
 namespace kiv::app {
 
-namespace {
-
-CLI::App *addTo(CLI::App &above, const char *name, const QString &help)
+CLI::App *CommandGroup::addNode(const char *name, const QString &help)
 {
-    CLI::App *app = above.add_subcommand(name, help.toStdString());
-    app->group(QObject::tr("Subcommands").toStdString());
-    // Made before the options' common group was known.
-    app->set_help_flag("-h,--help", above.get_help_ptr()->get_description());
+    CLI::App *app = m_app.add_subcommand(name, help.toStdString());
+    app->group(m_heading.toStdString());
+    // CLI11 creates --help before the common group of options is set.
+    app->set_help_flag("-h,--help", m_app.get_help_ptr()->get_description());
     return app;
 }
 
-} // namespace
-
 CommandGroup CommandGroup::group(const char *name, const QString &help)
 {
-    CLI::App *app = addTo(m_app, name, help);
+    CLI::App *app = addNode(name, help);
     app->require_subcommand(1);
     return {*app, m_declaring};
 }
@@ -31,21 +27,21 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
                                       const std::function<void(Arguments &)> &declare,
                                       const std::function<Report(Program &, const Options &)> &run)
 {
-    CLI::App *app = addTo(m_app, name, help);
+    CLI::App *app = addNode(name, help);
     if (!m_declaring.needsArguments(name))
         return {*app, m_declaring};
+    app->footer("");
     Options &options = m_declaring.options;
     Arguments arguments(*app, options);
     declare(arguments);
     if (kind != CommandKind::Standalone)
         arguments.file();
     if (arguments.rules().takesJson)
-        arguments.flag("--json", options.isJson, QObject::tr("Print JSON for programs"));
+        arguments.flag("--json", options.isJson, QObject::tr("Print JSON, for programs"));
     if (kind == CommandKind::Change)
-        arguments.flag("--dry-run", options.isDryRun,
-                       QObject::tr("Show what would come of it, save nothing"));
+        arguments.flag("--dry-run", options.isDryRun, QObject::tr("Show the result, save nothing"));
     arguments.flag("--verbose", options.isVerbose, QObject::tr("Show the log on standard error"));
-    // CLI11 calls back for the commands above the one that is called, too.
+    // CLI11 also calls back for the commands above the called one.
     app->callback([&selection = m_declaring.selection, app, kind, run, rules = arguments.rules()] {
         if (!app->get_subcommands().empty())
             return;

@@ -8,16 +8,20 @@
 
 namespace kiv::app {
 
-/// A place in the tree of commands where commands are added. A command is a
-/// value with two members: `void declare(Arguments &)`, which ties its
-/// arguments to its fields, and `Report run(Call &) const`.
+/// A node of the command tree, to which commands are added. A command is a value
+/// with two members: `void declare(Arguments &)`, which ties its arguments to its
+/// fields, and `Report run(Call &) const`.
 class CommandGroup {
 public:
     CommandGroup(CLI::App &app, const Declaring &declaring) : m_app(app), m_declaring(declaring) {}
 
+    /// The help lists the commands that follow under this heading.
+    void setHeading(const QString &heading) { m_heading = heading; }
+
+    /// Adds a command that only has commands below it.
     [[nodiscard]] CommandGroup group(const char *name, const QString &help);
 
-    /// Gives the command's own place, where it may get commands below it.
+    /// Adds a command, and returns its node for commands below it.
     template <typename Command>
     CommandGroup add(const char *name, const QString &help, CommandKind kind, Command command)
     {
@@ -35,8 +39,11 @@ private:
                             const std::function<void(Arguments &)> &declare,
                             const std::function<Report(Program &, const Options &)> &run);
 
+    CLI::App *addNode(const char *name, const QString &help);
+
     CLI::App &m_app;
     Declaring m_declaring;
+    QString m_heading = QObject::tr("Commands");
 };
 
 } // namespace kiv::app

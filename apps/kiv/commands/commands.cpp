@@ -6,25 +6,33 @@ namespace kiv::app {
 void declareCommands(CLI::App &app, const Declaring &declaring)
 {
     CommandGroup root(app, declaring);
+    root.setHeading(QObject::tr("Budget file"));
     addBudgetFileCommands(root);
+    addWizardCommands(root);
     addVersionCommands(root);
     addCheckCommand(root);
-    addWizardCommands(root);
+    root.setHeading(QObject::tr("Accounts and transactions"));
     addAccountCommands(root);
-    addBankCommands(root);
-    addItemCommands(root);
-    addDueCommands(root);
     addTransactionCommands(root);
+    root.setHeading(QObject::tr("Budget items"));
+    addItemCommands(root);
+    addTagCommands(root);
+    addDueCommands(root);
+    root.setHeading(QObject::tr("Banks and statements"));
+    addBankCommands(root);
+    addImportCommands(root);
     addSurveyCommands(root);
+    root.setHeading(QObject::tr("Reports and export"));
     addDashboardCommands(root);
+    addReportCommands(root);
+    addExportCommands(root);
+    root.setHeading(QObject::tr("Settings"));
     addConfigurationCommands(root);
     addRatesCommands(root);
-    addReleaseCommands(root);
-    addImportCommands(root);
-    addExportCommands(root);
-    addReportCommands(root);
+    root.setHeading(QObject::tr("Other"));
     addShellCommands(root);
     addTourCommand(root);
+    addReleaseCommands(root);
     addCompletionCommands(root);
 }
 

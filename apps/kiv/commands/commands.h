@@ -5,29 +5,30 @@
 
 namespace kiv::app {
 
-// Each adds the commands of its file, in the order in which the help lists them.
+// Each adds the commands of its topic. The help lists them in this order.
 void addBudgetFileCommands(CommandGroup &root);
+void addWizardCommands(CommandGroup &root);
 void addVersionCommands(CommandGroup &root);
 void addCheckCommand(CommandGroup &root);
 void addAccountCommands(CommandGroup &root);
-void addBankCommands(CommandGroup &root);
-void addItemCommands(CommandGroup &root);
-void addDueCommands(CommandGroup &root);
-void addSurveyCommands(CommandGroup &root);
 void addTransactionCommands(CommandGroup &root);
+void addItemCommands(CommandGroup &root);
+void addTagCommands(CommandGroup &root);
+void addDueCommands(CommandGroup &root);
+void addBankCommands(CommandGroup &root);
+void addImportCommands(CommandGroup &root);
+void addSurveyCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);
+void addReportCommands(CommandGroup &root);
+void addExportCommands(CommandGroup &root);
 void addConfigurationCommands(CommandGroup &root);
 void addRatesCommands(CommandGroup &root);
-void addReleaseCommands(CommandGroup &root);
-void addWizardCommands(CommandGroup &root);
-void addExportCommands(CommandGroup &root);
-void addImportCommands(CommandGroup &root);
-void addReportCommands(CommandGroup &root);
 void addShellCommands(CommandGroup &root);
 void addTourCommand(CommandGroup &root);
+void addReleaseCommands(CommandGroup &root);
 void addCompletionCommands(CommandGroup &root);
 
-/// Every command that there is, below the root; see DeclareCommands.
+/// Adds all commands to the root, under their headings; see DeclareCommands.
 void declareCommands(CLI::App &root, const Declaring &declaring);
 
 } // namespace kiv::app

@@ -13,8 +13,8 @@
 namespace kiv::app {
 namespace {
 
-// The scripts only hand the words over and take back what `completion words`
-// prints. Where that is nothing, the shell completes file names.
+// The scripts pass the words to `completion words` and use what it prints. If that is
+// nothing, the shell completes file names.
 
 constexpr const char *bashScript = R"(# bash completion for kiv
 _kiv() {
@@ -71,7 +71,7 @@ struct CompleteWords {
     {
         arguments
             .several("WORD", words,
-                     QObject::tr("A word of the line; the last one is being written"))
+                     QObject::tr("Words of the command line; the last one is incomplete"))
             .withoutJson();
     }
     Report run(Call &call) const
@@ -89,12 +89,12 @@ struct CompleteWords {
         try {
             found = candidatesAfter(*call.program.commandTree(), before, call.document);
         } catch (const foundation::Error &) {
-            // A budget that cannot be read has no names to offer.
+            // Without a readable budget there are no names to offer.
         }
         const bool wantsOption = begun.starts_with('-');
         QByteArray lines;
         for (const std::string &word : wantsOption ? found.options : found.values) {
-            // A shell's line is no place for a name with control characters.
+            // Names with control characters are not safe on the command line.
             const QString name = QString::fromStdString(word);
             if (word.starts_with(begun) && foundation::escaped(name) == name)
                 lines += QByteArray::fromStdString(word) + '\n';
@@ -108,7 +108,7 @@ struct CompleteWords {
 void addCompletionCommands(CommandGroup &root)
 {
     CommandGroup group =
-        root.group("completion", QObject::tr("What shells and manual pages are made of"));
+        root.group("completion", QObject::tr("Print completion scripts or the manual page"));
     using enum CommandKind;
     group.add("bash", QObject::tr("Print the completion script for bash"), Standalone,
               PrintScript{bashScript});
@@ -116,10 +116,10 @@ void addCompletionCommands(CommandGroup &root)
               PrintScript{zshScript});
     group.add("fish", QObject::tr("Print the completion script for fish"), Standalone,
               PrintScript{fishScript});
-    group.add("words", QObject::tr("List what may stand in the place of the last word"), Standalone,
+    group.add("words", QObject::tr("List completions of the last word"), Standalone,
               CompleteWords{});
-    group.add("manual", QObject::tr("Print the commands in the notation of manual pages"),
-              Standalone, PrintManual{});
+    group.add("manual", QObject::tr("Print the commands as part of a manual page"), Standalone,
+              PrintManual{});
 }
 
 } // namespace kiv::app

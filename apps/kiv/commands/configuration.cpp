@@ -68,8 +68,8 @@ Report configurationReport(Requests &requests)
     return Report(json).list(
         {{QObject::tr("Preferred currency"), QStringLiteral("preferredCurrency")},
          {QObject::tr("Usable currencies"), QStringLiteral("usableCurrencies")},
-         {QObject::tr("Currencies are shown by"), QStringLiteral("currenciesDisplayAs"), wordText},
-         {QObject::tr("Days in which items count as due"), QStringLiteral("notifyDueWithinDays")},
+         {QObject::tr("Display of currencies"), QStringLiteral("currenciesDisplayAs"), wordText},
+         {QObject::tr("Due items shown ahead, in days"), QStringLiteral("notifyDueWithinDays")},
          {QObject::tr("Survey window"), QStringLiteral("surveyWindowPercent"), percent},
          {QObject::tr("Work hours a week"), QStringLiteral("hoursInWeek")},
          {QObject::tr("Work days a week"), QStringLiteral("daysInWeek")}},
@@ -80,7 +80,8 @@ struct ShowConfiguration {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        // Here what is wrong with the settings is of interest.
+        // This request does not mute the warnings, so that the user sees those on the
+        // settings.
         (void)call.requests.gather(&Navigator::showConfigure,
                                    [&call] { call.requests.navigator().onPrepareShowConfigure(); });
         return configurationReport(call.requests);
@@ -99,15 +100,15 @@ struct SetConfiguration {
     void declare(Arguments &arguments)
     {
         arguments
-            .optional("--preferred", preferred, QObject::tr("The currency of amounts without one"))
+            .optional("--preferred", preferred,
+                      QObject::tr("Preferred currency, used for amounts without one"))
             .several("--usable", usable,
-                     QObject::tr("A usable currency; give all of them, one by one"))
+                     QObject::tr("Usable currency; replaces the old list (repeatable)"))
             .optional("--display", display,
-                      QObject::tr("How currencies are shown: code, symbol or both"))
-            .optional("--notify-within", notify,
-                      QObject::tr("How many days ahead items count as due"))
+                      QObject::tr("Display of currencies: code, symbol or both"))
+            .optional("--notify-within", notify, QObject::tr("Show due items this many days ahead"))
             .optional("--survey-window", window,
-                      QObject::tr("By how much a survey may miss the statement"))
+                      QObject::tr("Allowed difference between survey and statement, in percent"))
             .optional("--hours", hours, QObject::tr("Work hours a week"))
             .optional("--days", days, QObject::tr("Work days a week"));
     }
@@ -149,8 +150,7 @@ struct RemoveTags {
 
     void declare(Arguments &arguments)
     {
-        arguments.severalRequired("TAG", tags,
-                                  QObject::tr("Tags to be taken from every budget item"));
+        arguments.severalRequired("TAG", tags, QObject::tr("Tags"));
     }
     Report run(Call &call) const
     {
@@ -179,15 +179,18 @@ struct RemoveTags {
 
 void addConfigurationCommands(CommandGroup &root)
 {
-    CommandGroup configure = root.group("configure", QObject::tr("The user's settings"));
+    CommandGroup configure = root.group("configure", QObject::tr("Show or change the settings"));
     configure.add("show", QObject::tr("Show the settings"), CommandKind::Standalone,
                   ShowConfiguration{});
-    configure.add("set", QObject::tr("Change settings; what is not given stays"),
-                  CommandKind::Standalone, SetConfiguration{});
+    configure.add("set", QObject::tr("Change the given settings"), CommandKind::Standalone,
+                  SetConfiguration{});
+}
 
-    CommandGroup tags = root.group("tags", QObject::tr("Tags on budget items"));
+void addTagCommands(CommandGroup &root)
+{
+    CommandGroup tags = root.group("tags", QObject::tr("List or remove tags"));
     tags.add("list", QObject::tr("List all tags"), CommandKind::Query, ListTags{});
-    tags.add("remove", QObject::tr("Take tags from every budget item"), CommandKind::Change,
+    tags.add("remove", QObject::tr("Remove tags from all budget items"), CommandKind::Change,
              RemoveTags{});
 }
 

@@ -78,7 +78,7 @@ struct Dashboard {
 
 void addDashboardCommands(CommandGroup &root)
 {
-    root.add("dashboard", QObject::tr("Show totals, what is due and the budget's health"),
+    root.add("dashboard", QObject::tr("Show totals, due items and budget health"),
              CommandKind::Query, Dashboard{});
 }
 

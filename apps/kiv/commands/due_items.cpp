@@ -19,7 +19,7 @@ using navigation::Navigator;
 
 namespace {
 
-/// An item's transaction as JSON, next to the item.
+/// The transaction as JSON, with the kind and name of its item.
 QJsonObject postedJson(Requests &requests, accounting::TransactionNumber number,
                        const BudgetItemDueIdentifier &id)
 {
@@ -29,16 +29,18 @@ QJsonObject postedJson(Requests &requests, accounting::TransactionNumber number,
     return json;
 }
 
-/// Which item is meant.
+/// The argument ITEM, with its kind.
 struct ItemArgument {
     QString name;
     std::optional<BudgetItemTypes> kind;
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ITEM", name, QObject::tr("The budget item's name"))
-            .optional("--kind", kind,
-                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"));
+        arguments.required("ITEM", name, QObject::tr("Name of the budget item"))
+            .optional(
+                "--kind", kind,
+                QObject::tr(
+                    "Kind, if several items have the name: bill, debt, goal, nontrack or wage"));
     }
     [[nodiscard]] BudgetItemAmountDue due(const BudgetView &view) const
     {
@@ -51,10 +53,8 @@ struct ListDue {
 
     void declare(Arguments &arguments)
     {
-        arguments
-            .optional("--within", within,
-                      QObject::tr("How many days ahead; as configured otherwise"))
-            .dated(QObject::tr("Today, or another day in its place"));
+        arguments.optional("--within", within, QObject::tr("Days ahead (default: the setting)"))
+            .dated(QObject::tr("Day to count from (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -93,16 +93,15 @@ struct PostDue {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("ITEM", name, QObject::tr("The budget item's name"))
+        arguments.optional("ITEM", name, QObject::tr("Name of the budget item"))
             .optional("--kind", kind,
-                      QObject::tr("bill, debt, goal, nontrack or wage: where names repeat, or of "
-                                  "--all"))
+                      QObject::tr("Kind, if several items have the name, or to limit --all: bill, "
+                                  "debt, goal, nontrack or wage"))
             .required("--account", account,
-                      QObject::tr("The account that pays, or that a wage goes to"))
-            .optional("--amount", amount, QObject::tr("Another amount than the item's"))
-            .flag("--all", isAll,
-                  QObject::tr("Post everything that is due by now, in place of one item"))
-            .dated(QObject::tr("The day of posting; today otherwise"))
+                      QObject::tr("Account that pays, or that receives a wage"))
+            .optional("--amount", amount, QObject::tr("Amount (default: that of the item)"))
+            .flag("--all", isAll, QObject::tr("Post all due items"))
+            .dated(QObject::tr("Day (default: today)"))
             .exclusive("--all", "ITEM")
             .exclusive("--all", "--amount");
     }
@@ -157,11 +156,10 @@ struct PayUnexpected {
     void declare(Arguments &arguments)
     {
         item.declare(arguments);
-        arguments
-            .required("AMOUNT", amount, QObject::tr("What is paid, or what came in for a wage"))
+        arguments.required("AMOUNT", amount, QObject::tr("Amount"))
             .required("--account", account,
-                      QObject::tr("The account that pays, or that a wage goes to"))
-            .dated(QObject::tr("The day of posting; today otherwise"));
+                      QObject::tr("Account that pays, or that receives a wage"))
+            .dated(QObject::tr("Day (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -205,8 +203,8 @@ struct SkipDue {
 void addDueCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("due", QObject::tr("List what is due"), Query, ListDue{});
-    root.add("post", QObject::tr("Post a budget item that is due"), Change, PostDue{});
+    root.add("due", QObject::tr("List due items"), Query, ListDue{});
+    root.add("post", QObject::tr("Post a due budget item"), Change, PostDue{});
     root.add("pay", QObject::tr("Post an unexpected amount for a budget item"), Change,
              PayUnexpected{});
     root.add("skip", QObject::tr("Skip a budget item once, without posting"), Change, SkipDue{});

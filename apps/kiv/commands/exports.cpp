@@ -25,8 +25,8 @@ void readValue(const QString &text, ExportFormat &value)
     value = found->second;
 }
 
-/// The form that docs/import-export.md tells. Keys may be added under the same
-/// version, but none changes its meaning.
+/// The form that docs/import-export.md describes. Keys can be added under the same
+/// version, but their meanings do not change.
 QJsonObject everything(Requests &requests, const AccountIndex &index,
                        const std::vector<accounting::Transaction> &transactions)
 {
@@ -56,7 +56,8 @@ struct Export {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--format", format, QObject::tr("journal (unless given), csv or json"))
+        arguments
+            .optional("--format", format, QObject::tr("Format: journal (default), csv or json"))
             .exclusive("--format", "--json");
     }
     Report run(Call &call) const
@@ -76,7 +77,7 @@ struct Export {
 
 void addExportCommands(CommandGroup &root)
 {
-    root.add("export", QObject::tr("Write the ledger for other programs"), CommandKind::Query,
+    root.add("export", QObject::tr("Print the ledger for other programs"), CommandKind::Query,
              Export{});
 }
 

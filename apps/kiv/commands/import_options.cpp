@@ -25,49 +25,51 @@ std::pair<QString, QString> assignment(const QString &text)
 
 void ImportOptions::declare(Arguments &arguments)
 {
-    arguments.required("FILE", file, QObject::tr("The file; - for standard input"))
-        .optional("--format", format, QObject::tr("journal, csv, ofx or qif; guessed otherwise"))
+    arguments.required("FILE", file, QObject::tr("File; - for standard input"))
+        .optional("--format", format,
+                  QObject::tr("Format: journal, csv, ofx or qif (default: guessed)"))
         .optional("--encoding", m_encoding,
-                  QObject::tr("The file's encoding; else the one that it names, or UTF-8"))
-        .optional("--decimal", m_decimal, QObject::tr("The decimal mark: . or ,"))
-        .optional("--date-format", m_dateFormat,
-                  QObject::tr("How days are written, like DD.MM.YYYY"))
+                  QObject::tr("Encoding (default: the one named in the file, or UTF-8)"))
+        .optional("--decimal", m_decimal, QObject::tr("Decimal mark: . or ,"))
+        .optional("--date-format", m_dateFormat, QObject::tr("Date format, such as DD.MM.YYYY"))
         .optional("--currency", m_currency,
-                  QObject::tr("The currency of amounts that have none (journal)"))
-        .several("--root", m_roots, QObject::tr("What a root is, like Aktiva=asset (journal)"))
+                  QObject::tr("Currency of amounts without one (journal)"))
+        .several("--root", m_roots,
+                 QObject::tr("Type of a top account, such as Aktiva=asset (journal, repeatable)"))
         .several("--commodity", m_commodities,
-                 QObject::tr("Which currency a name means, like Fr=CHF (journal)"))
-        .optional("--statement", m_statement, QObject::tr("The bank's number of the account (ofx)"))
-        .optional("--into", into, QObject::tr("The account that a bank statement is about"))
+                 QObject::tr("Currency behind a name, such as Fr=CHF (journal, repeatable)"))
+        .optional("--statement", m_statement,
+                  QObject::tr("Account number, to choose one of several statements (ofx)"))
+        .optional("--into", into, QObject::tr("Account of the bank statement"))
         .optional("--against", against,
-                  QObject::tr("The other account of entries that no rule knows"))
-        .optional("--profile", profile, QObject::tr("Read the file as this saved profile says"))
+                  QObject::tr("Counter-account of entries that match no rule"))
+        .optional("--profile", profile, QObject::tr("Saved profile to read the file with"))
         .optional("--save-profile", savedAs,
-                  QObject::tr("Save how the file was read under this name"))
+                  QObject::tr("Save these options as a profile with this name"))
         .optional("--date-column", m_date,
-                  QObject::tr("The column of the day, by heading or number (csv)"))
-        .optional("--amount-column", m_amount, QObject::tr("The column of the amount (csv)"))
-        .optional("--in-column", m_in, QObject::tr("The column of what came in (csv)"))
-        .optional("--out-column", m_out, QObject::tr("The column of what went out (csv)"))
-        .optional("--sign-column", m_sign, QObject::tr("The column that tells the sign (csv)"))
+                  QObject::tr("Column of the date, by heading or number (csv)"))
+        .optional("--amount-column", m_amount, QObject::tr("Column of the amount (csv)"))
+        .optional("--in-column", m_in, QObject::tr("Column of incoming amounts (csv)"))
+        .optional("--out-column", m_out, QObject::tr("Column of outgoing amounts (csv)"))
+        .optional("--sign-column", m_sign, QObject::tr("Column of the sign (csv)"))
         .several("--negative", m_negative,
-                 QObject::tr("What stands there when money went out (csv)"))
-        .several("--text-column", m_texts, QObject::tr("A column of the description (csv)"))
-        .optional("--id-column", m_id, QObject::tr("The column of the bank's identifier (csv)"))
+                 QObject::tr("Text in the sign column for outgoing amounts (csv, repeatable)"))
+        .several("--text-column", m_texts,
+                 QObject::tr("Column of the description (csv, repeatable)"))
+        .optional("--id-column", m_id, QObject::tr("Column of the bank's identifier (csv)"))
         .optional("--currency-column", m_currencyColumn,
-                  QObject::tr("The column of the currency (csv)"))
+                  QObject::tr("Column of the currency (csv)"))
         .optional("--status-column", m_status,
-                  QObject::tr("The column that tells what is not booked yet (csv)"))
+                  QObject::tr("Column that marks pending entries (csv)"))
         .optional("--balance-column", m_balance,
-                  QObject::tr("The column of the balance; - to leave it unchecked (csv)"))
+                  QObject::tr("Column of the balance; - skips its check (csv)"))
         .optional("--delimiter", m_delimiter,
-                  QObject::tr("What stands between cells; guessed otherwise (csv)"))
-        .optional("--skip", m_skip, QObject::tr("How many lines stand above the headings (csv)"))
+                  QObject::tr("Delimiter between cells (csv, default: guessed)"))
+        .optional("--skip", m_skip, QObject::tr("Number of lines above the headings (csv)"))
         .optional("--skip-last", m_skipLast,
-                  QObject::tr("How many lines stand below the entries, as of totals (csv)"))
-        .flag("--no-headings", m_hasNoHeadings,
-              QObject::tr("The first line is an entry already (csv)"))
-        .flag("--negate", m_isNegated, QObject::tr("Money that went out is positive (csv)"));
+                  QObject::tr("Number of lines below the entries, such as totals (csv)"))
+        .flag("--no-headings", m_hasNoHeadings, QObject::tr("The file has no headings (csv)"))
+        .flag("--negate", m_isNegated, QObject::tr("Outgoing amounts are positive (csv)"));
 }
 
 ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
@@ -81,7 +83,7 @@ ImportFormat ImportOptions::formatOf(const QByteArray &bytes) const
     return *form;
 }
 
-/// What has no effect is often a mistake in what the file is.
+/// Options without effect are refused: often the file is not what the user thinks.
 void ImportOptions::refuseUnused(ImportFormat form) const
 {
     using enum ImportFormat;

@@ -14,7 +14,7 @@ namespace kiv::app {
 
 using workbench::ImportFormat;
 
-/// The arguments that say what a file is and how it is to be read.
+/// The arguments of an import: what the file is, and how to read it.
 struct ImportOptions {
     QString file;
     QString format;
@@ -25,15 +25,13 @@ struct ImportOptions {
 
     void declare(Arguments &arguments);
 
-    /// The one that is named, or else the one that the file's name or its first
-    /// bytes show. Throws a UsageError when neither does, and for options that such a
-    /// file does not need.
+    /// The format from --format, the file name or the first bytes. Throws a UsageError
+    /// if it is unknown, and for options without effect on this format.
     [[nodiscard]] ImportFormat formatOf(const QByteArray &bytes) const;
-    /// The saved profile, if one is named, with what is given on the command
-    /// line in its place.
+    /// The saved profile, or an empty one, with the values from the command line.
     [[nodiscard]] interchange::CsvProfile readProfile() const;
-    /// Writes the profile aside when a name for it is given, and gives what puts it in its
-    /// place, to be called once the budget is saved.
+    /// Writes the profile to a temporary file if --save-profile is given. The returned
+    /// function puts the file in place; call it after saving the budget.
     [[nodiscard]] std::function<void()> storedProfile(const interchange::CsvProfile &profile) const;
     [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
     [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,

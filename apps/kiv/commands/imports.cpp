@@ -20,12 +20,12 @@ using navigation::Navigator;
 
 namespace {
 
-/// A transaction that a file holds, with where it stands there.
+/// A transaction of a file, with its place there.
 struct Found {
     Transaction transaction;
     Place place;
-    bool isKnown = false;     ///< whether it is there already
-    QStringList notices = {}; ///< to be told when it is posted
+    bool isKnown = false;     ///< whether the budget has it already
+    QStringList notices = {}; ///< shown if it is posted
 };
 
 struct Import {
@@ -35,8 +35,7 @@ struct Import {
     void declare(Arguments &arguments)
     {
         options.declare(arguments);
-        arguments.flag("--keep-duplicates", keepsDuplicates,
-                       QObject::tr("Post what is there already, too"));
+        arguments.flag("--keep-duplicates", keepsDuplicates, QObject::tr("Post duplicates, too"));
     }
 
     Report run(Call &call) const
@@ -158,13 +157,13 @@ private:
             preview(report, accounts, rows);
         for (const QString &notice : notices)
             report.line(notice);
-        // A save of the same again would only push a former version out.
+        // Saving an unchanged budget would only push out an older version.
         if (posted == 0 && opened.empty())
             report.setUnchanged();
-        return report.line(QObject::tr("Transactions posted: %1; duplicates left out: %2; accounts "
-                                       "opened: %3.")
-                               .arg(QString::number(posted), QString::number(duplicated),
-                                    QString::number(opened.size())));
+        return report.line(
+            QObject::tr("Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.")
+                .arg(QString::number(posted), QString::number(duplicated),
+                     QString::number(opened.size())));
     }
 
     static void postOne(Requests &requests, const Transaction &transaction, const Place &place)
@@ -201,8 +200,7 @@ private:
 
 void addImportCommands(CommandGroup &root)
 {
-    root.add("import",
-             QObject::tr("Post what a journal or a bank statement holds, or nothing of it"),
+    root.add("import", QObject::tr("Import a journal or statement, all or nothing"),
              CommandKind::Change, Import{});
 }
 

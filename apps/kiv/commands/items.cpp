@@ -18,39 +18,39 @@ using navigation::Navigator;
 
 namespace {
 
-/// The command has no views with elements, so one identifier serves all.
+/// The command has no GUI elements, so one identifier serves all.
 constexpr navigation::GuiElementIdentifier caller(1);
 
-/// What makes up an item besides its name, as far as it was given.
+/// The arguments of an item besides its name, as far as they were given.
 template <budgeting::BudgetItem Item>
 struct ItemArguments {
     std::optional<Amount> amount;
     std::optional<EventFrequency> every;
     std::optional<QDate> next;
     std::vector<QString> tags;
-    std::optional<Amount> extra; ///< what was borrowed, or the target
+    std::optional<Amount> extra; ///< the borrowed amount, or the target
     std::optional<QString> bankAccount;
     std::optional<QString> bank;
     std::optional<banking::BankAccountTypes> type;
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--every", every, QObject::tr("How often it recurs, such as monthly"))
-            .optional("--next", next, QObject::tr("The next day on which it does"))
-            .several("--tag", tags, QObject::tr("A tag to find it by; may be given several times"));
+        arguments.optional("--every", every, QObject::tr("Frequency, such as monthly"))
+            .optional("--next", next, QObject::tr("Next due date"))
+            .several("--tag", tags, QObject::tr("Tag (repeatable)"));
         if constexpr (std::same_as<Item, budgeting::Debt>) {
             arguments
                 .optional("--borrowed", extra,
-                          QObject::tr("What was borrowed: its account opens with it"))
-                .optional("--bank,--bank-account", bank, QObject::tr("The bank that holds it"))
+                          QObject::tr("Amount borrowed; the opening balance of its account"))
+                .optional("--bank,--bank-account", bank, QObject::tr("Name of the bank"))
                 .optional("--type", type,
-                          QObject::tr("The kind of account there: loan (unless given), …"))
+                          QObject::tr("Type of the bank account, such as loan (default)"))
                 .only("--type", "--bank");
         }
         if constexpr (std::same_as<Item, budgeting::Goal>) {
-            arguments.optional("--target", extra, QObject::tr("What it is to come to"))
+            arguments.optional("--target", extra, QObject::tr("Target amount"))
                 .optional("--bank-account", bankAccount,
-                          QObject::tr("The bank account under which it is put aside"));
+                          QObject::tr("Bank account that holds the savings"));
         }
     }
 
@@ -60,7 +60,7 @@ struct ItemArguments {
                !type;
     }
 
-    /// The item of this name; what was not given is taken from `present`.
+    /// The item with this name; missing values are taken from `present`.
     [[nodiscard]] Item item(const QString &name, const Item &present) const
     {
         const numira::Currency code = present.amount().code();
@@ -78,7 +78,7 @@ struct ItemArguments {
             }
         };
         Item made = built();
-        // An item that stands in a short month remembers the day it was given.
+        // In a short month, an item keeps the day of the month that it was given.
         if (!next)
             made.setDayOfMonth(present.dayOfMonth());
         return made;
@@ -92,8 +92,7 @@ struct ItemArguments {
         return made;
     }
 
-    /// The bank account that was named, in the form in which the kind of item
-    /// is tied to one: a debt to a bank, a goal to an account.
+    /// The given bank account: for a debt from --bank, for a goal from --bank-account.
     [[nodiscard]] std::optional<BankAccount> named(Requests &requests) const
     {
         if (bank) {
@@ -126,10 +125,10 @@ struct AddItem {
 
     void declare(Arguments &line)
     {
-        line.required("NAME", name, QObject::tr("Its name"))
-            .required("AMOUNT", amount, QObject::tr("What it comes to"));
+        line.required("NAME", name, QObject::tr("Name"))
+            .required("AMOUNT", amount, QObject::tr("Amount"));
         arguments.declare(line);
-        line.dated(QObject::tr("Today, in place of --next"));
+        line.dated(QObject::tr("Day of the opening; next due date if --next is missing"));
     }
     Report run(Call &call) const
     {
@@ -170,13 +169,13 @@ struct UpdateItem {
 
     void declare(Arguments &line)
     {
-        line.required("NAME", name, QObject::tr("Its name"))
-            .optional("--amount", arguments.amount, QObject::tr("What it comes to"));
+        line.required("NAME", name, QObject::tr("Name"))
+            .optional("--amount", arguments.amount, QObject::tr("Amount"));
         arguments.declare(line);
-        line.flag("--no-tags", isUntagged, QObject::tr("Take its tags away"))
+        line.flag("--no-tags", isUntagged, QObject::tr("Remove all tags"))
             .exclusive("--no-tags", "--tag");
         if constexpr (budgeting::BankTiedItem<Item>)
-            line.flag("--no-bank", isUntied, QObject::tr("Tie it to no bank any more"))
+            line.flag("--no-bank", isUntied, QObject::tr("Remove the link to the bank"))
                 .exclusive("--no-bank",
                            std::same_as<Item, budgeting::Debt> ? "--bank" : "--bank-account");
     }
@@ -196,7 +195,7 @@ struct UpdateItem {
                             tagging::BudgetItemTags::ItemTags(id, tags));
         };
         const std::optional<BankAccount> wanted = bankAccount(requests, view, id);
-        // Two banks may hold one debt; who names another bank wants it moved there.
+        // A debt can have accounts at two banks; with another bank it is moved there.
         if constexpr (std::same_as<Item, budgeting::Debt>) {
             const std::optional<BankAccount> former = view.bankAccount(id);
             if (former && wanted && wanted->bank != former->bank)
@@ -209,8 +208,8 @@ struct UpdateItem {
     }
 
 private:
-    /// An update without a bank account would untie the item, so the one that
-    /// it has is sent along.
+    /// The given bank account, or else the present one: an update without it would
+    /// remove the link.
     [[nodiscard]] std::optional<BankAccount> bankAccount(Requests &requests, const BudgetView &view,
                                                          const BudgetItemIdentifier &id) const
     {
@@ -226,8 +225,8 @@ struct RenameItem {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NAME", name, QObject::tr("Its name"))
-            .required("NEW-NAME", changed, QObject::tr("Its new name"));
+        arguments.required("NAME", name, QObject::tr("Name"))
+            .required("NEW-NAME", changed, QObject::tr("New name"));
     }
     Report run(Call &call) const
     {
@@ -245,10 +244,7 @@ template <budgeting::BudgetItem Item>
 struct RemoveItem {
     QString name;
 
-    void declare(Arguments &arguments)
-    {
-        arguments.required("NAME", name, QObject::tr("Its name"));
-    }
+    void declare(Arguments &arguments) { arguments.required("NAME", name, QObject::tr("Name")); }
     Report run(Call &call) const
     {
         const BudgetView view(call.requests);
@@ -280,7 +276,8 @@ struct ListItems {
         if constexpr (budgeting::BankTiedItem<Item>)
             columns.push_back({QObject::tr("Bank"), QStringLiteral("bank")});
         columns.push_back({QObject::tr("Tags"), QStringLiteral("tags")});
-        return Report(QJsonValue(rows)).table(columns, rows, QObject::tr("There are none."));
+        return Report(QJsonValue(rows))
+            .table(columns, rows, QObject::tr("There are no budget items."));
     }
 };
 
@@ -291,21 +288,20 @@ void addItemCommands(CommandGroup &root)
     const auto addKind = [&root]<typename Item>(std::type_identity<Item>, const QString &help) {
         using enum CommandKind;
         CommandGroup group = root.group(ItemTraits<Item>::word, help);
-        group.add("add", QObject::tr("Add one"), Change, AddItem<Item>{});
-        group.add("update", QObject::tr("Change one; what is not given stays"), Change,
+        group.add("add", QObject::tr("Add an item"), Change, AddItem<Item>{});
+        group.add("update", QObject::tr("Change the given values of an item"), Change,
                   UpdateItem<Item>{});
-        group.add("rename", QObject::tr("Give one another name"), Change, RenameItem<Item>{});
-        group.add("remove", QObject::tr("Remove one"), Change, RemoveItem<Item>{});
-        group.add("list", QObject::tr("List all of them"), Query, ListItems<Item>{});
+        group.add("rename", QObject::tr("Rename an item"), Change, RenameItem<Item>{});
+        group.add("remove", QObject::tr("Remove an item"), Change, RemoveItem<Item>{});
+        group.add("list", QObject::tr("List all items"), Query, ListItems<Item>{});
     };
-    addKind(std::type_identity<budgeting::Bill>{}, QObject::tr("Bills: what must be paid"));
-    addKind(std::type_identity<budgeting::Debt>{},
-            QObject::tr("Debts: what was borrowed and is paid back"));
+    addKind(std::type_identity<budgeting::Bill>{}, QObject::tr("Add, change or list bills"));
+    addKind(std::type_identity<budgeting::Debt>{}, QObject::tr("Add, change or list debts"));
     addKind(std::type_identity<budgeting::Goal>{},
-            QObject::tr("Goals: what is put aside for a target"));
+            QObject::tr("Add, change or list goals to save for"));
     addKind(std::type_identity<budgeting::Nontrack>{},
-            QObject::tr("Non-tracked items: what is spent without keeping track"));
-    addKind(std::type_identity<budgeting::Wage>{}, QObject::tr("Wages: what comes in"));
+            QObject::tr("Add, change or list free spending (non-tracked)"));
+    addKind(std::type_identity<budgeting::Wage>{}, QObject::tr("Add, change or list wages"));
 }
 
 } // namespace kiv::app

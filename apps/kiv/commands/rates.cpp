@@ -48,14 +48,14 @@ ConversionMap present(Requests &requests)
         requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
 }
 
-/// As the user's locale writes it.
+/// The rate in the form of the locale.
 QString rateText(const QJsonValue &rate)
 {
     try {
         const auto number = numira::Decimal::fromText(rate.toString().toStdString());
         return QString::fromStdString(numira::toLocalText(number));
     } catch (const numira::Error &) {
-        return rate.toString(); // with an exponent, for one
+        return rate.toString(); // such as one with an exponent
     }
 }
 
@@ -97,16 +97,16 @@ Report ratesReport(const ConversionMap &map)
                     {QStringLiteral("rates"), rows}});
     if (!map.isEmpty()) {
         const QString shown = workbench::momentText(map.fetchedAt());
-        report.heading(
-            map.isExpired()
-                ? QObject::tr("For one %1, as of %2 (no longer current)").arg(base, shown)
-                : QObject::tr("For one %1, as of %2").arg(base, shown));
+        report.heading(map.isExpired()
+                           ? QObject::tr("For 1 %1, as of %2 (out of date)").arg(base, shown)
+                           : QObject::tr("For 1 %1, as of %2").arg(base, shown));
     }
-    return report.table({{QObject::tr("Currency"), QStringLiteral("currency")},
-                         {QObject::tr("Rate"), QStringLiteral("rate"), rateText},
-                         {QObject::tr("Date"), QStringLiteral("day"), dayText},
-                         {QObject::tr("Source"), QStringLiteral("source"), sourceText}},
-                        rows, QObject::tr("No exchange rates are known."));
+    return report.table(
+        {{QObject::tr("Currency"), QStringLiteral("currency")},
+         {QObject::tr("Rate"), QStringLiteral("rate"), rateText},
+         {QObject::tr("Date"), QStringLiteral("day"), dayText},
+         {QObject::tr("Source"), QStringLiteral("source"), sourceText}},
+        rows, QObject::tr("There are no exchange rates; use kiv rates fetch or kiv rates set."));
 }
 
 struct ShowRates {
@@ -119,8 +119,7 @@ struct FetchRates {
 
     void declare(Arguments &arguments)
     {
-        arguments.several("CURRENCY", wanted,
-                          QObject::tr("The currencies; the usable ones otherwise"));
+        arguments.several("CURRENCY", wanted, QObject::tr("Currencies (default: the usable ones)"));
     }
     Report run(Call &call) const
     {
@@ -133,14 +132,13 @@ struct FetchRates {
         if (::isatty(STDERR_FILENO) != 0)
             complain(QObject::tr("fetching exchange rates …"));
         const auto [map, failure] = requests.fetchRates(currencies);
-        // A fetch that failed answers with the rates as they were.
+        // A failed fetch answers with the old rates.
         if (map.isEmpty() || failure)
             throw ratesNotFetched(failure.value_or(QString()));
         if (const QString lacking = codesOf(map.notFetched(currencies)); !lacking.isEmpty()) {
-            complain(QObject::tr("warning: %1")
-                         .arg(QObject::tr("The service has no exchange rates of these currencies: "
-                                          "%1")
-                                  .arg(lacking)));
+            complain(
+                QObject::tr("warning: %1")
+                    .arg(QObject::tr("The service has no exchange rates for: %1").arg(lacking)));
         }
         requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
@@ -153,9 +151,10 @@ struct SetRates {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BASE", base, QObject::tr("The currency of which one unit is meant"))
+        arguments
+            .required("BASE", base, QObject::tr("Base currency; each rate is for one unit of it"))
             .severalRequired("CURRENCY=RATE", rates,
-                             QObject::tr("How much of another currency it buys"));
+                             QObject::tr("Rate of a currency, such as EUR=0.92 (repeatable)"));
     }
     Report run(Call &call) const
     {
@@ -163,8 +162,8 @@ struct SetRates {
         ConversionMap::Rates typed;
         for (const RateArgument &given : rates) {
             if (!typed.emplace(given.currency, given.rate).second)
-                throw UsageError(
-                    QObject::tr("'%1' is named twice.").arg(foundation::toQString(given.currency)));
+                throw UsageError(QObject::tr("The currency '%1' is given twice.")
+                                     .arg(foundation::toQString(given.currency)));
         }
         const ConversionMap map = known.updatedWith(
             {base, QDateTime::currentDateTimeUtc(), std::move(typed), RateSource::Typed});
@@ -178,10 +177,9 @@ struct SetRates {
 void addRatesCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    CommandGroup group = root.group("rates", QObject::tr("Exchange rates"));
-    group.add("show", QObject::tr("Show the exchange rates that are known"), Standalone,
-              ShowRates{});
-    group.add("fetch", QObject::tr("Fetch the rates of the day"), Standalone, FetchRates{});
+    CommandGroup group = root.group("rates", QObject::tr("Show, fetch or set exchange rates"));
+    group.add("show", QObject::tr("Show the exchange rates"), Standalone, ShowRates{});
+    group.add("fetch", QObject::tr("Fetch current rates"), Standalone, FetchRates{});
     group.add("set", QObject::tr("Set rates by hand"), Standalone, SetRates{});
 }
 

@@ -18,10 +18,10 @@ using updating::ReleaseInformation;
 
 namespace {
 
-/// Somewhat longer than a request may take.
+/// Slightly longer than the time limit of a request.
 constexpr std::chrono::seconds patience{40};
 
-/// The releases, the newest first. Throws a Refusal when no answer comes.
+/// Fetches the releases, newest first. Throws a Refusal if there is no answer.
 std::vector<ReleaseInformation> fetchReleases(Requests &requests)
 {
     const auto [releases, failure] = requests.fetchReleases(patience);
@@ -48,7 +48,7 @@ struct CheckUpdates {
         QJsonObject json{{QStringLiteral("version"), updating::toQString(own)},
                          {QStringLiteral("latest"), QJsonValue()}};
         if (!isNews)
-            return Report(json).line(QObject::tr("No newer release is announced."));
+            return Report(json).line(QObject::tr("There is no newer release."));
         json.insert(QStringLiteral("latest"), toJson(releases.front()));
         return Report(json).line(QObject::tr("There is a newer release: %1.")
                                      .arg(updating::presentationText(releases.front().version)));
@@ -79,11 +79,11 @@ struct ReleaseNotes {
 
 void addReleaseCommands(CommandGroup &root)
 {
-    CommandGroup updates = root.group("updates", QObject::tr("Newer releases of this program"));
-    updates.add("check", QObject::tr("Ask whether there is a newer release"),
-                CommandKind::Standalone, CheckUpdates{});
-    root.add("release-notes", QObject::tr("Show what each release brought"),
-             CommandKind::Standalone, ReleaseNotes{});
+    CommandGroup updates = root.group("updates", QObject::tr("Check for a newer release"));
+    updates.add("check", QObject::tr("Check for a newer release"), CommandKind::Standalone,
+                CheckUpdates{});
+    root.add("release-notes", QObject::tr("Show the release notes"), CommandKind::Standalone,
+             ReleaseNotes{});
 }
 
 } // namespace kiv::app

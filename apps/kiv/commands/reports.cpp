@@ -73,14 +73,14 @@ struct ShowReport {
     void declare(Arguments &arguments)
     {
         arguments
-            .optional("--from", from,
-                      QObject::tr("In the first month; eleven months before otherwise"))
-            .optional("--to", to, QObject::tr("The last day; today otherwise"))
-            .flag("--html", isHtml,
-                  QObject::tr("Print one HTML page, with charts, to be read or printed"))
-            .flag("--chart", hasCharts, QObject::tr("Draw the charts on the terminal"))
-            .optional("--title", title, QObject::tr("The title of the page"))
-            .dated(QObject::tr("The last day, where --to is not given"))
+            .optional(
+                "--from", from,
+                QObject::tr("Day in the first month (default: eleven months before the last day)"))
+            .optional("--to", to, QObject::tr("Last day (default: today)"))
+            .flag("--html", isHtml, QObject::tr("Print an HTML page with charts"))
+            .flag("--chart", hasCharts, QObject::tr("Draw charts on the terminal"))
+            .optional("--title", title, QObject::tr("Title of the HTML page"))
+            .dated(QObject::tr("Last day, like --to"))
             .exclusive("--html", "--chart")
             .exclusive("--html", "--json")
             .exclusive("--chart", "--json")
@@ -164,7 +164,7 @@ private:
 
 void addReportCommands(CommandGroup &root)
 {
-    root.add("report", QObject::tr("Show income, expenses, budget and net worth month by month"),
+    root.add("report", QObject::tr("Show income, expenses and net worth by month"),
              CommandKind::Query, ShowReport{});
 }
 

@@ -21,7 +21,8 @@
 namespace kiv::app {
 namespace {
 
-/// Opens the file that was named, if one was; later lines may name one, too.
+/// Opens the file from --file or KIV_FILE, if there is one. Later lines can name one,
+/// too.
 void openNamed(Call &call)
 {
     const QString named =
@@ -30,7 +31,7 @@ void openNamed(Call &call)
         call.document.open(named);
 }
 
-/// Runs one line; tells whether another is wanted. `status` keeps the first
+/// Runs one line. Returns false if it ends the session. `status` keeps the first
 /// failure.
 bool runLine(Program &program, const std::string &line, int &status)
 {
@@ -51,7 +52,7 @@ bool runLine(Program &program, const std::string &line, int &status)
     return true;
 }
 
-/// What many lines ends with.
+/// Ends a session: saves unsaved changes.
 Report ended(Call &call, int status)
 {
     try {
@@ -66,12 +67,12 @@ Report ended(Call &call, int status)
 }
 
 struct Shell {
-    QString file; ///< where desktops put the name of a file that was clicked on
+    QString file; ///< set by desktops when a file is opened
 
     void declare(Arguments &arguments)
     {
         arguments.file()
-            .optional("FILE", file, QObject::tr("The budget file, as with --file"))
+            .optional("FILE", file, QObject::tr("Budget file, like --file"))
             .exclusive("FILE", "--file");
     }
     Report run(Call &call) const
@@ -113,8 +114,8 @@ struct Watch {
         });
         openNamed(call);
 
-        // Lines are taken as they come while the event loop runs, so that
-        // signals of timers and of the network show, too.
+        // Lines are read while the event loop runs, so that signals of timers and of the
+        // network are printed, too.
         int status = ExitStatus::success;
         QByteArray pending;
         QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
@@ -123,10 +124,10 @@ struct Watch {
             const ssize_t count = ::read(STDIN_FILENO, buffer, sizeof buffer);
             if (count > 0)
                 pending.append(buffer, count);
-            else if (!pending.isEmpty()) // the last line, which is not ended
+            else if (!pending.isEmpty()) // the last line, without a line end
                 pending.append('\n');
-            // A line may wait in an event loop of its own, in which neither the next
-            // one nor the end of the input is due.
+            // A command may run an event loop of its own, in which no further input must
+            // be read.
             input.setEnabled(false);
             bool isWanted = count > 0;
             for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
@@ -150,10 +151,9 @@ struct Watch {
 
 void addShellCommands(CommandGroup &root)
 {
-    root.add("shell", QObject::tr("Read commands line by line and keep the budget open"),
+    root.add("shell", QObject::tr("Read commands line by line, keep the budget open"),
              CommandKind::Standalone, Shell{});
-    root.add("watch",
-             QObject::tr("Read commands likewise, and print the Navigator's signals as JSON lines"),
+    root.add("watch", QObject::tr("Like shell, but print all signals as JSON"),
              CommandKind::Standalone, Watch{});
 }
 

@@ -21,16 +21,16 @@ using navigation::Navigator;
 
 namespace {
 
-/// Which bank account is surveyed, and for which day.
+/// The bank account to survey, and the day.
 struct SurveyArguments {
     QString bank;
     QString account;
 
     void declare(Arguments &arguments)
     {
-        arguments.required("BANK", bank, QObject::tr("The bank's name"))
-            .required("ACCOUNT", account, QObject::tr("The bank account's number or name"))
-            .dated(QObject::tr("The day of the statement; today otherwise"));
+        arguments.required("BANK", bank, QObject::tr("Name of the bank"))
+            .required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .dated(QObject::tr("Day of the statement (default: today)"));
     }
     [[nodiscard]] SurveyForm propose(Call &call) const
     {
@@ -46,8 +46,8 @@ Report formReport(Requests &requests, const SurveyForm &form)
                  {QObject::tr("Account"), QStringLiteral("accountName")},
                  {QObject::tr("Day of the statement"), QStringLiteral("date"), dayText},
                  {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn"), dayText},
-                 {QObject::tr("Balance then"), QStringLiteral("reconciledBalance")},
-                 {QObject::tr("Changes counted from"), QStringLiteral("start"), dayText},
+                 {QObject::tr("Reconciled balance"), QStringLiteral("reconciledBalance")},
+                 {QObject::tr("Changes since"), QStringLiteral("start"), dayText},
                  {QObject::tr("Expected balance"), QStringLiteral("expectedBalance")},
                  {QObject::tr("Still due this month"), QStringLiteral("amountDue")}},
                 json);
@@ -71,7 +71,7 @@ Report formReport(Requests &requests, const SurveyForm &form)
                 {QObject::tr("Expected"), QStringLiteral("expected")},
                 {QObject::tr("Next"), QStringLiteral("next"), dayText}},
                json.value(QLatin1String("distribution")).toArray(),
-               QObject::tr("There is nothing to set aside for."))
+               QObject::tr("There are no items to set money aside for."))
         .list({{QObject::tr("Not distributed"), QStringLiteral("nonDistributed")}}, json);
     return report;
 }
@@ -108,22 +108,23 @@ struct CompleteSurvey {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("BANK", bank, QObject::tr("The bank's name"))
-            .optional("ACCOUNT", account, QObject::tr("The bank account's number or name"))
+        arguments.optional("BANK", bank, QObject::tr("Name of the bank"))
+            .optional("ACCOUNT", account, QObject::tr("Account: number, name or path"))
             .optional("--from", file,
-                      QObject::tr("A document of survey show --json, edited; - for input"))
-            .optional("--balance", balance, QObject::tr("The statement's balance"))
-            .several("--tick", ticked, QObject::tr("A transaction that the statement shows"))
-            .flag("--tick-all", isAllTicked, QObject::tr("It shows all transactions of the survey"))
+                      QObject::tr("Edited output of survey show --json; - for standard input"))
+            .optional("--balance", balance, QObject::tr("Balance of the statement"))
+            .several("--tick", ticked,
+                     QObject::tr("Number of a transaction on the statement (repeatable)"))
+            .flag("--tick-all", isAllTicked, QObject::tr("All transactions are on the statement"))
             .several("--item", items,
-                     QObject::tr("ITEM=AMOUNT: money for an item that is not booked yet; "
-                                 "with a minus for what went out"))
-            .several("--extra", extras, QObject::tr("ACCOUNT=AMOUNT: the same for another account"))
+                     QObject::tr("Unbooked money of an item, negative if it went out (repeatable)"))
+            .several("--extra", extras,
+                     QObject::tr("Unbooked money of another account (repeatable)"))
             .several("--distribute", distribution,
-                     QObject::tr("ITEM=AMOUNT: what is set aside for an item"))
+                     QObject::tr("Amount to set aside for an item (repeatable)"))
             .optional("--not-distributed", nonDistributed,
-                      QObject::tr("What is set aside for nothing"))
-            .dated(QObject::tr("The day of the statement; today otherwise"))
+                      QObject::tr("Amount that is not distributed (default: the rest)"))
+            .dated(QObject::tr("Day of the statement (default: today)"))
             .exclusive("--from", "BANK")
             .exclusive("--from", "--date")
             .exclusive("--tick-all", "--tick");
@@ -161,7 +162,7 @@ private:
     }
 };
 
-/// Walks a person through a statement, question by question.
+/// Asks about a statement, question by question.
 struct RunSurvey {
     SurveyArguments which;
 
@@ -176,7 +177,7 @@ struct RunSurvey {
         const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});
         for (const accounting::TransactionNumber number : all) {
             const accounting::Transaction transaction = call.requests.transaction(number);
-            if (dialogue.agrees(QObject::tr("Does the statement show %1 %2 '%3', %4?")
+            if (dialogue.agrees(QObject::tr("Is transaction %1 of %2, '%3', %4, on the statement?")
                                     .arg(accounting::presentationText(number),
                                          foundation::presentationText(transaction.occurredOn()),
                                          transaction.description().value_or(QString()),
@@ -184,17 +185,17 @@ struct RunSurvey {
                                                     call.document.displayAs()))))
                 form.reconciled.insert(number);
         }
-        dialogue.until(QObject::tr("The statement's balance"), [&](const QString &answer) {
+        dialogue.until(QObject::tr("Balance of the statement"), [&](const QString &answer) {
             Amount amount;
             readValue(answer, amount);
             form.balance = amount.in(form.balance.code());
         });
-        dialogue.each(QObject::tr("Money for an item that is not booked, as ITEM=AMOUNT"),
+        dialogue.each(QObject::tr("Unbooked money of an item, as ITEM=AMOUNT"),
                       [&](const QString &text) { form.addItem(call.requests, text); });
-        dialogue.each(QObject::tr("Money for another account, as ACCOUNT=AMOUNT"),
+        dialogue.each(QObject::tr("Unbooked money of another account, as ACCOUNT=AMOUNT"),
                       [&](const QString &text) { form.addExtra(call.requests, text); });
         if (!form.isOwed()) {
-            dialogue.each(QObject::tr("What is set aside for an item, as ITEM=AMOUNT"),
+            dialogue.each(QObject::tr("Amount to set aside for an item, as ITEM=AMOUNT"),
                           [&](const QString &text) { form.distribute(call.requests, text); });
         }
         form.nonDistributed = form.left();
@@ -205,8 +206,8 @@ struct RunSurvey {
     }
 
 private:
-    /// Questions on standard error and answers from standard input, so that
-    /// standard output holds the results alone.
+    /// Asks on standard error and reads answers from standard input, so that standard
+    /// output holds only the results.
     class Dialogue {
     public:
         bool agrees(const QString &question)
@@ -233,11 +234,12 @@ private:
                 }
             }
         }
-        /// Takes answers until an empty one.
+        /// Accepts answers until an empty one.
         void each(const QString &question, const std::function<void(const QString &)> &take)
         {
+            const QString shown = question + u' ' + QObject::tr("(empty to continue)");
             for (bool isDone = false; !isDone;) {
-                until(question, [&](const QString &text) {
+                until(shown, [&](const QString &text) {
                     isDone = text.isEmpty();
                     if (!isDone)
                         take(text);
@@ -257,7 +259,8 @@ private:
         }
     };
 
-    /// As the statement shows it; one of an account below goes by its own amount.
+    /// The amount as the statement shows it. For a transaction of a sub-account it is
+    /// the transaction's own amount.
     [[nodiscard]] static numira::Money changeBy(const accounting::Transaction &transaction,
                                                 const SurveyForm &form)
     {
@@ -275,7 +278,7 @@ struct LastReconciliation {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ACCOUNT", account, QObject::tr("The bank account's number or name"));
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"));
     }
     Report run(Call &call) const
     {
@@ -309,16 +312,16 @@ void addSurveyCommands(CommandGroup &root)
 {
     using enum CommandKind;
     CommandGroup survey =
-        root.group("survey", QObject::tr("Comparing the books with a bank statement"));
-    survey.add("show", QObject::tr("Show what has happened since the last survey"), Query,
-               ShowSurvey{});
-    survey.add("complete", QObject::tr("Reconcile the account with a statement"), Change,
+        root.group("survey", QObject::tr("Compare the books with a bank statement"));
+    survey.add("show", QObject::tr("Show the changes since the last survey"), Query, ShowSurvey{});
+    survey.add("complete", QObject::tr("Reconcile an account with a statement"), Change,
                CompleteSurvey{});
-    survey.add("run", QObject::tr("Go through a statement question by question"), Change,
+    survey.add("run", QObject::tr("Reconcile an account question by question"), Change,
                RunSurvey{});
 
-    CommandGroup reconciliation = root.group("reconciliation", QObject::tr("Past reconciliations"));
-    reconciliation.add("last", QObject::tr("Show when an account was last reconciled"), Query,
+    CommandGroup reconciliation =
+        root.group("reconciliation", QObject::tr("Show the last reconciliation"));
+    reconciliation.add("last", QObject::tr("Show the last reconciliation of an account"), Query,
                        LastReconciliation{});
 }
 

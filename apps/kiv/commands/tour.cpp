@@ -13,7 +13,7 @@
 namespace kiv::app {
 namespace {
 
-/// Runs this program, one process a command, on a budget and settings in a
+/// Runs this program, one process for each command, with a budget and settings in a
 /// temporary folder.
 class Guide {
 public:
@@ -62,7 +62,8 @@ private:
         m_process.closeWriteChannel();
         m_process.waitForFinished(-1);
         if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != expected)
-            throw Refusal(QObject::tr("The command ended otherwise than expected."));
+            throw Refusal(
+                QObject::tr("The tour stopped: the last command gave an unexpected exit status."));
     }
 
     const Terminal &m_terminal;
@@ -83,14 +84,13 @@ struct Tour {
         const QDate today = call.date();
         const auto day = [&today](int days) { return today.addDays(days).toString(Qt::ISODate); };
 
-        guide.say(
-            QObject::tr("A new budget, kept in US dollars, with a bank and its checking account"));
+        guide.say(QObject::tr("A new budget in US dollars, with a bank and a checking account"));
         guide.show(words("configure|set|--preferred|USD|--usable|USD|--display|code"));
         guide.show(words("new"));
         guide.show(words("bank|add|First Bank"));
         guide.show(words("bank-account|add|Checking|--bank|First Bank|--balance|2500.00"));
 
-        guide.say(QObject::tr("What comes in, and what goes out"));
+        guide.say(QObject::tr("Wages and bills, with the days when they are due"));
         guide.show(words("wage|add|Salary|3100.00|--next") << day(-1));
         guide.show(words("bill|add|Rent|1250.00|--next") << day(-3));
         guide.show(words("bill|add|Electricity|84.35|--next") << day(0));
@@ -99,17 +99,17 @@ struct Tour {
         guide.show(words("bill|rename|Gym|Fitness studio"));
         guide.show(words("due"));
 
-        guide.say(QObject::tr("What is due is posted; the studio is closed this month"));
+        guide.say(QObject::tr(
+            "Due items are posted; the fitness studio is closed this month and is skipped"));
         guide.show(words("post|--all|--account|Checking"));
         guide.show(words("skip|Fitness studio"));
         guide.show(words("pay|Electricity|19.10|--account|Checking"));
 
-        guide.say(
-            QObject::tr("No account may bear a budget item's name: refused, nothing changed"));
+        guide.say(QObject::tr(
+            "An account cannot have the name of a budget item: kiv refuses and changes nothing"));
         guide.show(words("account|add|Rent|--type|expense"), ExitStatus::refused);
 
-        guide.say(
-            QObject::tr("Every change above was saved at once; here the file is opened again"));
+        guide.say(QObject::tr("Every change was saved at once; each command opens the file again"));
         guide.show(words("bill|list"));
         guide.show(words("ledger|Checking"));
         guide.show(words("accounts"));
@@ -127,8 +127,8 @@ struct Tour {
 
 void addTourCommand(CommandGroup &root)
 {
-    root.add("tour", QObject::tr("Show on a temporary budget what the command does"),
-             CommandKind::Standalone, Tour{});
+    root.add("tour", QObject::tr("Demonstrate kiv on a temporary budget"), CommandKind::Standalone,
+             Tour{});
 }
 
 } // namespace kiv::app

@@ -51,7 +51,7 @@ Report transactionReport(Requests &requests, TransactionNumber number, const QSt
     return Report(toJson(requests.transaction(number))).line(sentence.arg(textOf(number)));
 }
 
-/// The number under which the last change posted.
+/// The number of the last posted transaction.
 template <typename Answers>
 TransactionNumber postedNumber(const Answers &answers)
 {
@@ -64,8 +64,8 @@ struct ListTransactions {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--from", from, QObject::tr("Only from this day on"))
-            .optional("--to", to, QObject::tr("Only up to this day"));
+        arguments.optional("--from", from, QObject::tr("First day"))
+            .optional("--to", to, QObject::tr("Last day"));
     }
     Report run(Call &call) const
     {
@@ -91,11 +91,11 @@ struct AddTransaction {
     {
         arguments
             .required("AMOUNT", amount,
-                      QObject::tr("What moves; in the debited account's currency"))
-            .required("--debit", debit, QObject::tr("The account that is debited"))
-            .required("--credit", credit, QObject::tr("The account that is credited"))
-            .optional("--description", description, QObject::tr("What it is about"))
-            .dated(QObject::tr("The day of the transaction; today otherwise"));
+                      QObject::tr("Amount, in the currency of the debited account"))
+            .required("--debit", debit, QObject::tr("Account to debit"))
+            .required("--credit", credit, QObject::tr("Account to credit"))
+            .optional("--description", description, QObject::tr("Description"))
+            .dated(QObject::tr("Day (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -116,7 +116,7 @@ struct LoadTransactions {
     void declare(Arguments &arguments)
     {
         arguments.required("FILE", file,
-                           QObject::tr("A JSON list of transactions; - for standard input"));
+                           QObject::tr("JSON list of transactions; - for standard input"));
     }
     Report run(Call &call) const
     {
@@ -141,12 +141,12 @@ struct UpdateTransaction {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("NUMBER", number, QObject::tr("The transaction's number"))
-            .optional("--amount", amount, QObject::tr("What moves"))
-            .optional("--debit", debit, QObject::tr("The account that is debited"))
-            .optional("--credit", credit, QObject::tr("The account that is credited"))
-            .optional("--description", description, QObject::tr("What it is about"))
-            .dated(QObject::tr("The day of the transaction"));
+        arguments.required("NUMBER", number, QObject::tr("Number of the transaction"))
+            .optional("--amount", amount, QObject::tr("Amount"))
+            .optional("--debit", debit, QObject::tr("Account to debit"))
+            .optional("--credit", credit, QObject::tr("Account to credit"))
+            .optional("--description", description, QObject::tr("Description"))
+            .dated(QObject::tr("Day"));
     }
     Report run(Call &call) const
     {
@@ -165,8 +165,8 @@ struct UpdateTransaction {
     }
 
 private:
-    /// The bank's identifier stays behind another text, so that the transaction is
-    /// known again when its statement is imported once more.
+    /// The new description, with the bank's identifier of the old one. A later import of
+    /// the statement then recognises the transaction.
     [[nodiscard]] std::optional<QString> describedAfter(const Transaction &present) const
     {
         if (!description || !present.description())
@@ -178,18 +178,18 @@ private:
     }
 };
 
-/// remove and reconcile go one by one, clear and unreconcile take them all; the
-/// rest is the same.
+/// remove, reconcile, clear and unreconcile. The slots of the first two take one number,
+/// those of the others all numbers.
 struct TransactionVerb {
     std::variant<void (Navigator::*)(const TransactionNumber &),
                  void (Navigator::*)(const std::set<TransactionNumber> &)>
         slot;
-    const char *sentence; ///< marked for translation, with a form for one
+    const char *sentence; ///< marked for translation, with a singular form
     std::vector<TransactionNumber> numbers = {};
 
     void declare(Arguments &arguments)
     {
-        arguments.severalRequired("NUMBER", numbers, QObject::tr("Numbers of transactions"));
+        arguments.severalRequired("NUMBER", numbers, QObject::tr("Numbers of the transactions"));
     }
     Report run(Call &call) const
     {
@@ -221,12 +221,12 @@ struct Transfer {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("FROM", from, QObject::tr("The bank account that the money leaves"))
-            .required("TO", to, QObject::tr("The bank account that it goes to"))
+        arguments.required("FROM", from, QObject::tr("Bank account that the money leaves"))
+            .required("TO", to, QObject::tr("Bank account that the money goes to"))
             .required("AMOUNT", amount,
-                      QObject::tr("How much; in the currency of the account it goes to"))
-            .optional("--description", reason, QObject::tr("What it is about"))
-            .dated(QObject::tr("The day of the transfer; today otherwise"));
+                      QObject::tr("Amount, in the currency of the account it goes to"))
+            .optional("--description", reason, QObject::tr("Description"))
+            .dated(QObject::tr("Day (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -264,11 +264,9 @@ struct Refund {
 
     void declare(Arguments &arguments)
     {
-        arguments
-            .required("NUMBER", number,
-                      QObject::tr("The transaction of which something comes back"))
-            .required("AMOUNT", amount, QObject::tr("How much"))
-            .dated(QObject::tr("The day of the refund; today otherwise"));
+        arguments.required("NUMBER", number, QObject::tr("Number of the transaction to refund"))
+            .required("AMOUNT", amount, QObject::tr("Amount"))
+            .dated(QObject::tr("Day (default: today)"));
     }
     Report run(Call &call) const
     {
@@ -289,9 +287,11 @@ struct ListRefundable {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("ITEM", name, QObject::tr("The budget item's name"))
-            .optional("--kind", kind,
-                      QObject::tr("bill, debt, goal, nontrack or wage, where names repeat"));
+        arguments.required("ITEM", name, QObject::tr("Name of the budget item"))
+            .optional(
+                "--kind", kind,
+                QObject::tr(
+                    "Kind, if several items have the name: bill, debt, goal, nontrack or wage"));
     }
     Report run(Call &call) const
     {
@@ -304,7 +304,8 @@ struct ListRefundable {
         for (const Transaction &transaction : std::get<std::set<Transaction>>(answer))
             rows.append(withPaths(toJson(transaction), index));
         return Report(QJsonValue(rows))
-            .table(transactionColumns(), rows, QObject::tr("There are none."));
+            .table(transactionColumns(), rows,
+                   QObject::tr("There are no refundable transactions."));
     }
 };
 
@@ -315,32 +316,33 @@ void addTransactionCommands(CommandGroup &root)
     using enum CommandKind;
     root.add("transactions", QObject::tr("List all transactions"), Query, ListTransactions{});
 
-    CommandGroup transaction = root.group("transaction", QObject::tr("Transactions of the ledger"));
+    CommandGroup transaction =
+        root.group("transaction", QObject::tr("Add, change, mark or remove transactions"));
     transaction.add("add", QObject::tr("Post a transaction"), Change, AddTransaction{});
     transaction.add("load", QObject::tr("Post all transactions of a JSON file"), Change,
                     LoadTransactions{});
-    transaction.add("update", QObject::tr("Change a transaction; what is not given stays"), Change,
+    transaction.add("update", QObject::tr("Change the given values of a transaction"), Change,
                     UpdateTransaction{});
     transaction.add(
         "remove", QObject::tr("Remove transactions"), Change,
         TransactionVerb{&Navigator::onRemovedTransaction,
                         QT_TRANSLATE_N_NOOP("QObject", "Removed the transactions %1.")});
     transaction.add(
-        "clear", QObject::tr("Mark transactions as seen at the bank"), Change,
+        "clear", QObject::tr("Mark transactions as cleared by the bank"), Change,
         TransactionVerb{&Navigator::onMarkCleared,
                         QT_TRANSLATE_N_NOOP("QObject", "Cleared the transactions %1.")});
     transaction.add(
-        "reconcile", QObject::tr("Mark transactions as part of a statement"), Change,
+        "reconcile", QObject::tr("Mark transactions as reconciled with a statement"), Change,
         TransactionVerb{&Navigator::onMarkReconciled,
                         QT_TRANSLATE_N_NOOP("QObject", "Reconciled the transactions %1.")});
     transaction.add(
-        "unreconcile", QObject::tr("Take the reconciliation of transactions back"), Change,
-        TransactionVerb{&Navigator::onMarkUnreconciled,
-                        QT_TRANSLATE_N_NOOP(
-                            "QObject", "Took the reconciliation of the transactions %1 back.")});
+        "unreconcile", QObject::tr("Undo the reconciliation of transactions"), Change,
+        TransactionVerb{
+            &Navigator::onMarkUnreconciled,
+            QT_TRANSLATE_N_NOOP("QObject", "Undid the reconciliation of the transactions %1.")});
 
     root.add("transfer", QObject::tr("Move money between bank accounts"), Change, Transfer{});
-    root.add("refundable", QObject::tr("List what of a budget item can be refunded"), Query,
+    root.add("refundable", QObject::tr("List refundable transactions of a budget item"), Query,
              ListRefundable{});
     root.add("refund", QObject::tr("Post a refund of a transaction"), Change, Refund{});
 }

@@ -13,7 +13,7 @@ namespace kiv::app {
 
 namespace {
 
-/// The number of a former version; 0 is the file as it is.
+/// The number of a kept version; 0 is the file itself.
 struct VersionNumber {
     unsigned value = 0;
 };
@@ -61,7 +61,8 @@ struct Undo {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--to", to, QObject::tr("An older version; see history"));
+        arguments.optional("--to", to,
+                           QObject::tr("Number of the version, see kiv history (default: 1)"));
     }
     Report run(Call &call) const
     {
@@ -74,18 +75,18 @@ struct Undo {
         call.document.recall(former.data());
         Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)},
                                   {QStringLiteral("changes"), changes}});
-        report.line(QObject::tr("The budget is again as it was saved at %1.")
-                        .arg(localTime(former.found.savedAt)));
-        tabulate(report, changes, QObject::tr("That changes nothing in it."), shownMax);
+        report.line(
+            QObject::tr("Restored the version saved at %1.").arg(localTime(former.found.savedAt)));
+        tabulate(report, changes, QObject::tr("Both versions are the same."), shownMax);
         return report;
     }
 
 private:
-    /// What fits a screen: an import that is undone may have posted thousands.
+    /// Fits on a screen: an undone import may have posted thousands.
     static constexpr qsizetype shownMax = 20;
 };
 
-// What tells of versions opens none, so that a damaged one is no hindrance.
+// history and history diff open no document, so they also work with damaged files.
 struct History {
     void declare(Arguments &arguments) { arguments.file(); }
     Report run(Call &call) const
@@ -98,7 +99,7 @@ struct History {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
         };
         const auto state = [](const QJsonValue &isWhole) {
-            return isWhole.toBool() ? QString() : QObject::tr("not whole");
+            return isWhole.toBool() ? QString() : QObject::tr("damaged");
         };
         return Report(QJsonValue(rows))
             .table({{QObject::tr("Version"), QStringLiteral("version")},
@@ -118,10 +119,9 @@ struct Differences {
 
     void declare(Arguments &arguments)
     {
-        arguments
-            .optional("FROM", from,
-                      QObject::tr("A version; the one before the last save otherwise"))
-            .optional("TO", to, QObject::tr("A version; the file as it is otherwise"))
+        arguments.optional("FROM", from, QObject::tr("Number of the older version (default: 1)"))
+            .optional("TO", to,
+                      QObject::tr("Number of the newer version (default: 0, the file itself)"))
             .file();
     }
     Report run(Call &call) const
@@ -132,7 +132,7 @@ struct Differences {
         const QJsonArray changes =
             app::toJson(workbench::changesBetween(before.data(), after.data()));
         Report report{QJsonValue(changes)};
-        tabulate(report, changes, QObject::tr("They hold the same."));
+        tabulate(report, changes, QObject::tr("Both versions are the same."));
         return report;
     }
 };
@@ -142,11 +142,9 @@ struct Differences {
 void addVersionCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("undo", QObject::tr("Bring the budget back as it was before the last saved change"),
-             Change, Undo{});
-    root.add("history", QObject::tr("List the former versions of the budget that are kept"),
-             Standalone, History{})
-        .add("diff", QObject::tr("Tell what changed from one version to another"), Standalone,
+    root.add("undo", QObject::tr("Restore the version before the last change"), Change, Undo{});
+    root.add("history", QObject::tr("List the kept versions of the budget"), Standalone, History{})
+        .add("diff", QObject::tr("Show the changes between two versions"), Standalone,
              Differences{});
 }
 

@@ -19,7 +19,7 @@ struct Template {
     BudgetWizardTemplates value;
 };
 
-/// A child has no starter budget, so it is not offered.
+/// Without Child, which has no items.
 constexpr Template templates[] = {
     {"none", BudgetWizardTemplates::None},
     {"teenager", BudgetWizardTemplates::Teenager},
@@ -61,7 +61,7 @@ Report itemsReport(const QJsonArray &rows)
                 {QObject::tr("Name"), QStringLiteral("name")},
                 {QObject::tr("Every"), QStringLiteral("every"), wordText},
                 {QObject::tr("Next"), QStringLiteral("next"), dayText}},
-               rows, QObject::tr("It has no budget items."));
+               rows, QObject::tr("There are no budget items."));
 }
 
 struct Wizard {
@@ -73,18 +73,18 @@ struct Wizard {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, QObject::tr("The file to be made; .budget is appended"))
+        arguments.optional("FILE", file, QObject::tr("New file; .budget is added if it is missing"))
             .file()
             .exclusive("FILE", "--file")
-            .optional("--template", household, QObject::tr("The household; see templates list"))
+            .optional("--template", household,
+                      QObject::tr("Template, see kiv templates list (default: none)"))
             .optional("--currency", answers.preferred,
-                      QObject::tr("Its currency, preferred from now on"))
-            .required("--bank", bank, QObject::tr("The household's bank"))
-            .required("--account", account, QObject::tr("The name of its account there"))
+                      QObject::tr("Currency, which becomes the preferred one"))
+            .required("--bank", bank, QObject::tr("Name of the bank"))
+            .required("--account", account, QObject::tr("Name of the bank account"))
             .optional("--type", answers.type,
-                      QObject::tr("The kind of account; checking unless given"))
-            .optional("--balance", answers.balance,
-                      QObject::tr("The account's balance; 0 otherwise"));
+                      QObject::tr("Type of the bank account, such as checking (default)"))
+            .optional("--balance", answers.balance, QObject::tr("Opening balance (default: 0)"));
     }
     Report run(Call &call) const
     {
@@ -98,7 +98,7 @@ struct Wizard {
         workbench::fillIn(call.requests, given);
         call.document.create(path);
         Report report = itemsReport(itemsJson(call.requests));
-        return report.line(QObject::tr("Made the budget '%1'.").arg(call.document.file()));
+        return report.line(QObject::tr("Created the budget '%1'.").arg(call.document.file()));
     }
 };
 
@@ -126,11 +126,12 @@ struct ShowTemplate {
 
     void declare(Arguments &arguments)
     {
-        arguments.required("TEMPLATE", household, QObject::tr("See templates list"));
+        arguments.required("TEMPLATE", household, QObject::tr("Template, see kiv templates list"));
     }
     Report run(Call &call) const
     {
-        // On a budget in memory that is never saved; a shell's own comes back.
+        // This fills a budget in memory that is never saved; revert() restores that of a
+        // shell.
         workbench::fillIn(call.requests,
                           {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
                            QObject::tr("Account"), std::nullopt, household.value});
@@ -144,12 +145,11 @@ struct ShowTemplate {
 
 void addWizardCommands(CommandGroup &root)
 {
-    root.add("wizard", QObject::tr("Make a new budget for a kind of household"),
-             CommandKind::Standalone, Wizard{});
-    CommandGroup group = root.group("templates", QObject::tr("Starter budgets for the wizard"));
-    group.add("list", QObject::tr("List the kinds of household"), CommandKind::Standalone,
-              ListTemplates{});
-    group.add("show", QObject::tr("Show the budget items of one"), CommandKind::Standalone,
+    root.add("wizard", QObject::tr("Create a budget from a template"), CommandKind::Standalone,
+             Wizard{});
+    CommandGroup group = root.group("templates", QObject::tr("Show the templates of kiv wizard"));
+    group.add("list", QObject::tr("List all templates"), CommandKind::Standalone, ListTemplates{});
+    group.add("show", QObject::tr("Show the budget items of a template"), CommandKind::Standalone,
               ShowTemplate{});
 }
 

@@ -13,40 +13,45 @@ QString withReason(const QString &sentence, const QString &reason)
     return reason.isEmpty() ? sentence : sentence + u' ' + reason;
 }
 
-/// `next` is what to do, where no name is alike.
-QString missed(const QString &what, const QStringList &similar, const QString &next)
+QString seeCommand(const QString &command)
 {
-    return similar.isEmpty() ? QObject::tr("%1; %2.").arg(what, next)
+    return QObject::tr("see %1").arg(command);
+}
+
+/// Offers similar names, or else the help.
+QString missed(const QString &what, const QStringList &similar, const QString &help)
+{
+    return similar.isEmpty() ? QObject::tr("%1; %2.").arg(what, seeCommand(help))
                              : workbench::didYouMean(what, similar);
 }
 
-/// What the user can do, as a part of a sentence.
+/// The end of a sentence: what the user can do.
 QString remedyText(const Refusal &refusal)
 {
     using enum workbench::Remedy;
     switch (refusal.remedy()) {
     case ListAccounts:
-        return QObject::tr("kiv accounts lists those that there are");
+        return seeCommand(QStringLiteral("kiv accounts"));
     case ListBanks:
-        return QObject::tr("kiv banks lists those that there are");
+        return seeCommand(QStringLiteral("kiv banks"));
     case ListItems:
         return refusal.subject().isEmpty()
-                   ? QObject::tr("kiv bill list and the like show those that there are")
-                   : QObject::tr("kiv %1 list shows those that there are").arg(refusal.subject());
+                   ? QObject::tr("see kiv bill list (or debt, goal, nontrack, wage)")
+                   : seeCommand(QStringLiteral("kiv %1 list").arg(refusal.subject()));
     case ListTags:
-        return QObject::tr("kiv tags list shows those that there are");
+        return seeCommand(QStringLiteral("kiv tags list"));
     case ListTransactions:
-        return QObject::tr("kiv transactions lists those that there are");
+        return seeCommand(QStringLiteral("kiv transactions"));
     case ListVersions:
-        return QObject::tr("kiv history lists those that are kept");
+        return seeCommand(QStringLiteral("kiv history"));
     case AttachBankAccount:
-        return QObject::tr("kiv bank-account attach ties it to one");
+        return QObject::tr("assign it with kiv bank-account attach");
     case ChooseKind:
         return QObject::tr("choose one with --kind: %1").arg(refusal.subject());
     case SaveElsewhere:
-        return QObject::tr("use save-as first");
+        return QObject::tr("save them elsewhere with save-as");
     case SaveProfile:
-        return QObject::tr("--save-profile saves one");
+        return QObject::tr("save one with --save-profile");
     case None:
         break;
     }
@@ -71,7 +76,7 @@ UsageError contradiction(const QString &one, const QString &other)
 
 UsageError onlyWith(const QString &name, const QString &base)
 {
-    return UsageError(QObject::tr("%1 goes only with %2.").arg(name, base));
+    return UsageError(QObject::tr("Use %1 only together with %2.").arg(name, base));
 }
 
 UsageError missing(const QString &what)
@@ -81,21 +86,18 @@ UsageError missing(const QString &what)
 
 UsageError nothingToChange()
 {
-    return UsageError(
-        QObject::tr("Nothing to change was given; --help lists what can be changed."));
+    return UsageError(QObject::tr("No change given; see --help."));
 }
 
 UsageError notAFormerVersion()
 {
-    return UsageError(
-        QObject::tr("Version 0 is the file itself; kiv history lists the former ones."));
+    return UsageError(QObject::tr("Version 0 is the file itself; see kiv history for older ones."));
 }
 
 UsageError noFileNamed()
 {
-    return UsageError(
-        QObject::tr("No budget file was named; use --file or the variable KIV_FILE, or make one "
-                    "with kiv new FILE."));
+    return UsageError(QObject::tr("No budget file given; use --file or the variable KIV_FILE, or "
+                                  "create one with kiv new FILE."));
 }
 
 UsageError notARate(const QString &text)
@@ -103,21 +105,24 @@ UsageError notARate(const QString &text)
     return UsageError(QObject::tr("'%1' is not a rate; write one like EUR=0.92.").arg(text));
 }
 
-UsageError noSuchCommand(const QString &word, const QStringList &similar)
+UsageError noSuchCommand(const QString &word, const QStringList &similar, const QString &help)
 {
-    return UsageError(missed(QObject::tr("'%1' is no command").arg(word), similar,
-                             QObject::tr("kiv --help lists those that there are")));
+    return UsageError(missed(QObject::tr("There is no command '%1'").arg(word), similar, help));
 }
 
-UsageError noSuchOption(const QString &word, const QStringList &similar)
+UsageError noSuchOption(const QString &word, const QStringList &similar, const QString &help)
 {
-    return UsageError(missed(QObject::tr("'%1' is no option of this command").arg(word), similar,
-                             QObject::tr("--help lists those that there are")));
+    return UsageError(missed(QObject::tr("There is no option '%1'").arg(word), similar, help));
+}
+
+UsageError wrongCall(const QString &what, const QString &help)
+{
+    return UsageError(missed(what, {}, help));
 }
 
 UsageError openQuote()
 {
-    return UsageError(QObject::tr("A quote is not closed."));
+    return UsageError(QObject::tr("A closing quote is missing."));
 }
 
 UsageError notUtf8()
@@ -127,12 +132,12 @@ UsageError notUtf8()
 
 Refusal answersEnded()
 {
-    return Refusal(QObject::tr("The answers ended before the questions."));
+    return Refusal(QObject::tr("The input ended before the last question; nothing is saved."));
 }
 
 Refusal surveyGivenUp()
 {
-    return Refusal(QObject::tr("The survey was not completed."));
+    return Refusal(QObject::tr("The survey was not completed; nothing is saved."));
 }
 
 Refusal ratesNotFetched(const QString &reason)
@@ -157,40 +162,39 @@ Refusal noSuchTag(const QString &name, const QStringList &similar)
 
 Refusal noTransferFrom(const QString &account)
 {
-    return Refusal(QObject::tr("Money can be moved out of an asset account that a bank keeps, "
-                               "which '%1' is not.")
-                       .arg(account));
+    return Refusal(
+        QObject::tr("Cannot transfer from '%1'; choose an asset account of a bank.").arg(account));
 }
 
 Refusal noTransferTo(const QString &account)
 {
-    return Refusal(QObject::tr("Money can be moved into an asset account that a bank keeps and "
-                               "that stands under no other, which '%1' is not.")
-                       .arg(account));
+    return Refusal(
+        QObject::tr(
+            "Cannot transfer to '%1'; choose an asset account of a bank without a parent account.")
+            .arg(account));
 }
 
 UsageError unknownFormat(const QString &file)
 {
-    return UsageError(QObject::tr("What '%1' is cannot be told from its name; say it with "
-                                  "--format: journal, csv, ofx or qif.")
-                          .arg(file));
+    return UsageError(
+        QObject::tr("Cannot tell the format of '%1'; use --format: journal, csv, ofx or qif.")
+            .arg(file));
 }
 
 UsageError noAccountInto()
 {
-    return UsageError(QObject::tr("Say with --into which account the bank statement is about."));
+    return UsageError(QObject::tr("Give the account of the bank statement with --into."));
 }
 
 Refusal noOtherAccount(const QString &entry)
 {
-    return Refusal(
-        QObject::tr("Say with --against which account is the other side of %1.").arg(entry));
+    return Refusal(QObject::tr("Give the counter-account of %1 with --against.").arg(entry));
 }
 
 QString withBackups(const QString &sentence, const QString &backup)
 {
-    return QObject::tr("%1 kiv history tells which former version is whole; copy that file ('%2', "
-                       "…) into its place.")
+    return QObject::tr("%1 Find an intact version with kiv history, then copy its file (such as "
+                       "'%2') over the damaged one.")
         .arg(sentence, backup);
 }
 
@@ -202,7 +206,7 @@ Refusal cannotWriteOutput(const QString &reason)
 Refusal unreadableInput(const QString &name, const QString &reason)
 {
     QString sentence = QObject::tr("Cannot understand %1: %2.").arg(name, reason);
-    // The reason may be a sentence, which has an end of its own.
+    // If the reason is a sentence, it has its own end.
     if (reason.endsWith(u'.') || reason.endsWith(u'?'))
         sentence.chop(1);
     return Refusal(sentence);

@@ -5,14 +5,14 @@
 
 #include <QtCore/QStringList>
 
-/// Everything with which the command itself refuses a call, in the user's language.
-/// The sentences of the budget's own refusals come from the libraries.
+/// The errors of the command itself, with sentences in the user's language. The errors
+/// of the budget are in the libraries.
 namespace kiv::app {
 
 using workbench::EntryError;
 using workbench::Refusal;
 
-/// The call is not one that the command understands: exit status 2, as for every
+/// A call that the command does not understand. The exit status is 2, as for every
 /// EntryError.
 class UsageError final : public EntryError {
 public:
@@ -20,8 +20,8 @@ public:
     ~UsageError() override;
 };
 
-/// What went wrong in the user's language, with its causes, and with what the user
-/// can do about it where there is a command for that.
+/// The sentence for the user: the message with its causes, and the command that can help
+/// if there is one.
 [[nodiscard]] QString told(const std::exception &error);
 
 // ---- values on the command line --------------------------------------------
@@ -32,37 +32,42 @@ public:
 [[nodiscard]] UsageError nothingToChange();
 [[nodiscard]] UsageError notAFormerVersion();
 [[nodiscard]] UsageError noFileNamed();
-[[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar);
-[[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar);
+// `help` is the command that shows the help.
+[[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar,
+                                       const QString &help);
+[[nodiscard]] UsageError noSuchOption(const QString &word, const QStringList &similar,
+                                      const QString &help);
+/// `what` is a sentence without its end.
+[[nodiscard]] UsageError wrongCall(const QString &what, const QString &help);
 [[nodiscard]] UsageError openQuote();
 [[nodiscard]] UsageError notUtf8();
 [[nodiscard]] UsageError notARate(const QString &text);
 
-// ---- what the budget does not hold -----------------------------------------
-// `similar` are names that may be meant, see similarTo().
+// ---- what is not in the budget ---------------------------------------------
+// `similar` are names to offer, see similarTo().
 
 [[nodiscard]] Refusal answersEnded();
 [[nodiscard]] Refusal surveyGivenUp();
-/// Each with the reason, if one is known.
+/// `reason` can be empty.
 [[nodiscard]] Refusal ratesNotFetched(const QString &reason);
 [[nodiscard]] Refusal releasesNotFetched(const QString &reason);
 [[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal noTransferFrom(const QString &account);
 [[nodiscard]] Refusal noTransferTo(const QString &account);
 
-/// Neither the file's name nor its first bytes tell what it is.
+/// The name of the file and its first bytes do not show its format.
 [[nodiscard]] UsageError unknownFormat(const QString &file);
-/// A statement does not say which of the budget's accounts it is about.
+/// A statement needs the account that it belongs to.
 [[nodiscard]] UsageError noAccountInto();
-/// No rule or category tells where the entry's money went or came from.
+/// No rule or category gives the counter-account of the entry.
 [[nodiscard]] Refusal noOtherAccount(const QString &entry);
 
 // ---- files -----------------------------------------------------------------
 
-/// What is said of a damaged file, and what to do with its backups.
+/// The sentence on a damaged file, with how to restore a backup.
 [[nodiscard]] QString withBackups(const QString &sentence, const QString &backup);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
-/// It was read, and does not say what it should.
+/// The input was read, but its content is wrong.
 [[nodiscard]] Refusal unreadableInput(const QString &name, const QString &reason);
 
 } // namespace kiv::app

@@ -3,11 +3,11 @@
 
 namespace kiv::app {
 
-/// What the command tells the program that called it.
+/// The exit statuses.
 struct ExitStatus {
     static constexpr int success = 0;
-    static constexpr int refused = 1; ///< the call was understood
-    static constexpr int misused = 2; ///< the call was not understood
+    static constexpr int refused = 1; ///< the command refused
+    static constexpr int misused = 2; ///< the call was wrong
 };
 
 } // namespace kiv::app

@@ -8,9 +8,8 @@
 
 namespace kiv::app {
 
-/// Takes over the program's log while it lives: warnings about the budget reach
-/// the user once each, on standard error; progress only when it was asked for.
-/// There is one at a time.
+/// Writes the log messages of Qt to standard error: each warning once, other messages
+/// only if verbose. There is at most one object of this class.
 class MessageLog {
 public:
     MessageLog();
@@ -18,11 +17,11 @@ public:
     MessageLog(const MessageLog &) = delete;
     MessageLog &operator=(const MessageLog &) = delete;
 
-    /// Everything is written, as it comes.
+    /// Writes all messages.
     void setVerbose(bool isVerbose) noexcept { m_isVerbose = isVerbose; }
 
-    /// While `isBusy` says so, warnings are not written, since the answer to the
-    /// request says the same to the user.
+    /// Warnings are muted while `isBusy` returns true: the answer to the request reports
+    /// the same.
     void setMutedWhile(std::function<bool()> isBusy) { m_isBusy = std::move(isBusy); }
 
 private:
@@ -35,8 +34,8 @@ private:
     QtMessageHandler m_previous = nullptr;
 };
 
-/// Writes "kiv: " and the text as one line to standard error, with nothing in it
-/// that a terminal would obey.
+/// Writes "kiv: " and the text as one line to standard error, with control characters
+/// escaped.
 void complain(const QString &text);
 
 } // namespace kiv::app

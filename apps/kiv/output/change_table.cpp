@@ -86,7 +86,7 @@ QLatin1String howOf(const Change &change)
     return QLatin1String(change.after ? "changed" : "removed");
 }
 
-/// For wordText: what changed and how, and the fields.
+/// For wordText: kinds of things, kinds of changes, and fields.
 [[maybe_unused]] constexpr std::array words{
     QT_TRANSLATE_NOOP("QObject", "item"),         QT_TRANSLATE_NOOP("QObject", "account"),
     QT_TRANSLATE_NOOP("QObject", "transaction"),  QT_TRANSLATE_NOOP("QObject", "bank"),
@@ -130,7 +130,7 @@ QString textOf(const QString &field, const QJsonValue &value)
     return value.toVariant().toString();
 }
 
-/// What is different, or for something new or gone what matters of it.
+/// The changed values; for something added or removed, its main values.
 QString detailOf(const QJsonObject &change)
 {
     const QJsonObject before = change[QLatin1String("before")].toObject();
@@ -156,7 +156,7 @@ QString detailOf(const QJsonObject &change)
     return details.join(QStringLiteral(", "));
 }
 
-/// An item's name has its kind before it, which has a word in each language.
+/// The name to show. An item's name begins with its kind, which is translated.
 QString nameOf(const QJsonObject &change)
 {
     const QString name = change[QLatin1String("name")].toString();
@@ -198,7 +198,8 @@ void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone
                   {QObject::tr("Detail"), QStringLiteral("detail")}},
                  rows, whenNone);
     if (const auto left = static_cast<int>(changes.size() - rows.size()); left > 0)
-        report.line(QObject::tr("%n more changes are not shown; --json tells all.", nullptr, left));
+        report.line(
+            QObject::tr("%n more changes are not shown; see all with --json.", nullptr, left));
 }
 
 } // namespace kiv::app

@@ -9,11 +9,12 @@
 
 namespace kiv::app {
 
-/// One object {what, name, change, before, after} for each change, with the whole
-/// of the thing as JSON before and after (null where it was not there).
+/// One object {what, name, change, before, after} for each change. `before` and `after`
+/// are the whole item, account and so on, or null.
 [[nodiscard]] QJsonArray toJson(const std::vector<workbench::Change> &changes);
 
-/// Those changes as a table of at most that many rows, and how many are left.
+/// Adds the changes as a table of at most `rowsMax` rows, and says how many are not
+/// shown.
 void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone,
               qsizetype rowsMax = std::numeric_limits<qsizetype>::max());
 

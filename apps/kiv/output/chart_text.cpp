@@ -14,10 +14,10 @@ using interchange::ChartSeries;
 
 namespace {
 
-/// Two kinds of filling, so that bars differ without colours.
+/// Bars have different fillings, so that they differ without colours.
 constexpr char16_t fillings[]{u'█', u'▒', u'░'};
 
-/// Where values lie in a row of so many columns.
+/// Places values in a row of `columns` columns.
 class Scale {
 public:
     Scale(const Chart &chart, int columns) : m_columns(columns)
@@ -37,7 +37,7 @@ public:
         QString row(m_columns, u' ');
         for (int cell = std::min(zero, at); cell < std::max(zero, at); ++cell)
             row[cell] = filling;
-        // What is something is seen, however small it is.
+        // Every value but zero is visible, however small.
         if (at == zero && value != 0)
             row[value > 0 || zero == 0 ? std::min(zero, m_columns - 1) : zero - 1] = u'▏';
         return row;

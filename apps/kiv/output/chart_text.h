@@ -7,8 +7,8 @@
 
 namespace kiv::app {
 
-/// The chart as lines of a terminal of so many columns: a bar for every value,
-/// with the amount behind it. Bars of negative amounts go to the left of zero.
+/// Draws the chart as lines of at most `columns` columns: a bar and the amount for every
+/// value. Bars of negative amounts go to the left of zero.
 [[nodiscard]] QStringList chartText(const interchange::Chart &chart, int columns,
                                     navigation::CurrencyDisplayOptions displayAs);
 

@@ -9,14 +9,14 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
 
-/// The shapes in which the command tells programs about a budget. Amounts are
-/// plain decimals in text next to their currency's code, dates are ISO 8601,
-/// accounts and transactions are named by their numbers.
+/// The JSON forms of a budget's values. Amounts are plain decimals in text next to their
+/// currency's code, dates are ISO 8601. Accounts and transactions are referred to by
+/// number.
 namespace kiv::app {
 
 /// {"amount": "2500.00", "currency": "USD"}
 [[nodiscard]] QJsonObject toJson(const numira::Money &money);
-/// "2026-03-31"; null when there is none.
+/// "2026-03-31"; null if the date is invalid.
 [[nodiscard]] QJsonValue toJson(const QDate &date);
 [[nodiscard]] QJsonValue toJson(accounting::AccountNumber number);
 [[nodiscard]] QJsonValue toJson(const std::optional<accounting::AccountNumber> &number);
@@ -27,15 +27,14 @@ namespace kiv::app {
                                       const numira::Money &balance, const QString &path);
 [[nodiscard]] QJsonObject toJson(const accounting::Account &account,
                                  const workbench::AccountIndex &index);
-/// {number, date, debit, credit, amount, description, debitStatus,
-/// creditStatus}, with debitAmount and creditAmount where the sides are kept in
-/// another currency than the amount's, and refundOf for a refund.
+/// {number, date, debit, credit, amount, description, debitStatus, creditStatus}. With
+/// debitAmount and creditAmount if a side is in another currency, and refundOf for a
+/// refund.
 [[nodiscard]] QJsonObject toJson(const accounting::Transaction &transaction);
-/// {kind, name, amount, every, next}, with borrowed for a debt and target for a
-/// goal.
+/// {kind, name, amount, every, next}; with borrowed for a debt and target for a goal.
 [[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item);
-/// The same with the item's tags, and bankAccount (a number) and bank where it is
-/// tied to one.
+/// The same with the item's tags, and with bank and bankAccount (a number) if it is
+/// linked to one.
 [[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item,
                                  const workbench::BudgetView &view);
 /// {kind, name, amount, due}

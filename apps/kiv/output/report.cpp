@@ -50,7 +50,7 @@ QByteArray safeJson(const QByteArray &json)
     QString safe;
     safe.reserve(text.size());
     for (const QChar unit : text) {
-        // Qt writes the characters below U+0020 so already.
+        // Qt escapes the characters below U+0020 itself.
         const bool isPlain =
             unit.unicode() < 0x7F || unit.isSurrogate() || foundation::escaped(unit) == unit;
         safe += isPlain ? QString(unit)
@@ -68,7 +68,7 @@ QString amountText(const QJsonValue &value, navigation::CurrencyDisplayOptions d
             numira::toMoney(numira::toCurrency(code.toStdString()), amount.toStdString()),
             displayAs);
     } catch (const numira::Error &) {
-        // What is no amount of a known currency is shown as it stands.
+        // An amount in an unknown currency is shown as it is.
         return amount + u' ' + code;
     }
 }
@@ -90,7 +90,7 @@ QString dayText(const QJsonValue &isoDate)
 QString wordText(const QJsonValue &word)
 {
     const QString text = word.toString();
-    // The one kind of items whose word is no English.
+    // The only kind whose coded word is not an English word.
     constexpr auto nontrack = budgeting::BudgetItemTypes::Nontrack;
     if (text == workbench::kindWord(nontrack))
         return workbench::kindText(nontrack);

@@ -15,37 +15,38 @@
 
 namespace kiv::app {
 
-/// One column of a table, or one line of a list: its title, and which value of
-/// the row's JSON object it shows. Amounts and numbers stand to the right.
+/// A column of a table or a line of a list: a title and a key of the row's JSON object.
+/// Amounts and numbers are right-aligned.
 struct Column {
     QString title;
     QString key;
-    /// How the value is worded; as it stands without one.
+    /// Makes text of the value; without it, the value is shown as it is.
     std::function<QString(const QJsonValue &)> words = {};
 };
 
-/// An amount's JSON object as the user wants currencies to be shown:
-/// "$1,234.50", "1234.50 USD" or "$1,234.50 USD" in English; with a locale for
-/// numbers, as that one writes them.
+/// Formats an amount's JSON object with the chosen currency display: "$1,234.50",
+/// "1234.50 USD" or "$1,234.50 USD". Numbers follow the locale.
 [[nodiscard]] QString amountText(const QJsonValue &amount,
                                  navigation::CurrencyDisplayOptions displayAs);
-/// The texts of several, with commas between them; "0" for none.
+/// Several amounts, separated by commas; "0" for none.
 [[nodiscard]] QString amountsText(const QJsonArray &amounts,
                                   navigation::CurrencyDisplayOptions displayAs);
 
-/// A day as people read it. For columns, like the next two.
+/// An ISO date in the form of the locale. This function and the next two are for
+/// columns.
 [[nodiscard]] QString dayText(const QJsonValue &isoDate);
-/// A word of the command's own, such as "monthly", in the user's language.
+/// A coded word such as "monthly", in the user's language.
 [[nodiscard]] QString wordText(const QJsonValue &word);
-/// "cleared", "reconciled" or "none" of a transaction, likewise.
+/// The status of a transaction ("cleared", "reconciled" or "none"), in the user's
+/// language.
 [[nodiscard]] QString statusText(const QJsonValue &status);
 
-/// The same JSON with everything that a terminal would obey as \uXXXX.
+/// Escapes control and other unsafe characters in JSON as \uXXXX.
 [[nodiscard]] QByteArray safeJson(const QByteArray &json);
 
-/// What a command has to tell: values for programs, and the same for people as
-/// lines, tables and lists. Both are made from the same JSON, so that they
-/// cannot disagree. Everything is escaped when it is written, but for raw().
+/// The result of a command: JSON for programs, and lines, tables and lists for people.
+/// Both are made from the same values, so they always agree. All texts are escaped when
+/// written, except raw().
 class Report {
 public:
     Report() = default;
@@ -53,21 +54,21 @@ public:
 
     Report &line(const QString &text);
     Report &heading(const QString &text);
-    /// `whenEmpty` is said in place of a table without rows.
+    /// `whenEmpty` replaces a table without rows.
     Report &table(std::vector<Column> columns, const QJsonArray &rows, const QString &whenEmpty);
     Report &list(std::vector<Column> columns, const QJsonObject &values);
-    /// A document for another program, byte for byte, whatever the format.
+    /// A document that is written byte for byte, in place of everything else.
     Report &raw(const QByteArray &document);
 
-    /// The exit status, where a command has more to say than that it went well.
+    /// The exit status, if it is not success.
     void setStatus(int status) noexcept { m_status = status; }
     [[nodiscard]] int status() const noexcept { return m_status; }
 
-    /// The command, one that changes the budget, has found nothing to change.
+    /// Says that a changing command found nothing to change, so nothing is saved.
     void setUnchanged() noexcept { m_isUnchanged = true; }
     [[nodiscard]] bool isUnchanged() const noexcept { return m_isUnchanged; }
 
-    /// What is left to be done once the budget is saved; not called when it could not be.
+    /// Called after the budget was saved; not called if saving failed.
     void setFinish(std::function<void()> finish) { m_finish = std::move(finish); }
     void finish() const
     {
@@ -78,9 +79,9 @@ public:
     [[nodiscard]] const QJsonValue &data() const noexcept { return m_data; }
     void setData(QJsonValue data) { m_data = std::move(data); }
 
-    /// As one JSON document.
+    /// The result as one JSON document.
     [[nodiscard]] QByteArray toJson() const;
-    /// For people.
+    /// The result as text for people.
     [[nodiscard]] QByteArray toText(const Terminal &terminal,
                                     navigation::CurrencyDisplayOptions displayAs) const;
 

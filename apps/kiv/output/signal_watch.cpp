@@ -14,7 +14,7 @@ QJsonValue valueOf(QMetaType type, const void *argument)
         return *static_cast<const QString *>(argument);
     if (type == QMetaType::fromType<bool>())
         return *static_cast<const bool *>(argument);
-    // One that holds nothing equals a new one.
+    // An empty optional equals a new one.
     if (QByteArrayView(type.name()).startsWith("std::optional<") &&
         type.equals(argument, QVariant(type).constData()))
         return QJsonValue::Null;

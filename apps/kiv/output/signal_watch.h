@@ -8,16 +8,15 @@
 
 namespace kiv::app {
 
-/// Tells of every signal of an object that its class declares, as it is
-/// emitted: {"signal": …, "arguments": {name: value, …}}. Texts, numbers and
-/// booleans are JSON values, everything else is its debug text.
+/// Reports every signal of an object as {"signal": …, "arguments": {name: value, …}}.
+/// Texts, numbers and booleans are JSON values, all others their debug text.
 class SignalWatch final : public QObject {
 public:
     using Teller = std::function<void(const QJsonObject &)>;
 
     SignalWatch(QObject &watched, Teller teller);
-    /// Receives all signals: the object has one method more than its class
-    /// declares for each of them.
+    /// Receives all signals, each as a method number beyond those that the class
+    /// declares.
     int qt_metacall(QMetaObject::Call call, int id, void **arguments) override;
 
 private:

@@ -41,7 +41,7 @@ QJsonObject codeJson(const accounting::AccountCode &code)
             {QStringLiteral("name"), code.name()}};
 }
 
-/// One row for each change, with what it did to the balance.
+/// One row for each change, with its effect on the balance.
 template <typename Changes, typename KeyJson>
 QJsonArray changesJson(const Changes &changes, AccountNumber surveyed, KeyJson keyJson)
 {

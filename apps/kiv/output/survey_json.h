@@ -9,10 +9,10 @@ namespace kiv::app {
 
 using workbench::SurveyForm;
 
-/// The whole form: the proposal and what was made of it.
+/// The form: the proposal, and what the user entered.
 [[nodiscard]] QJsonObject toJson(const SurveyForm &form, workbench::Requests &requests);
-/// A new proposal, filled in as an edited document says: its balance, reconciled,
-/// items, accounts and distribution count.
+/// A new proposal, filled in from an edited document. Only balance, reconciled, items,
+/// accounts and distribution are read.
 [[nodiscard]] SurveyForm surveyFromJson(workbench::Requests &requests, const QJsonObject &json);
 
 } // namespace kiv::app

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int gap = 2;
 constexpr int narrowest = 4;
-/// What is wider pushes the rest of its own line aside, and no other line's.
+/// A longer text shifts the rest of its own line only.
 constexpr int widestPadded = 200;
 
 struct Layout {

@@ -9,16 +9,15 @@
 
 namespace kiv::app {
 
-/// A text of a table that is safe to print.
+/// A cell of a table; its text is escaped already.
 struct Cell {
     QString text;
-    bool isNumber = false;   ///< stands to the right, and is never cut
-    bool isNegative = false; ///< red where there are colours
+    bool isNumber = false;   ///< right-aligned, never cut
+    bool isNegative = false; ///< red if colours are on
 };
 
-/// The rows, of which there is at least one, in columns two blanks apart, under
-/// their titles if there are any.
-/// Where that is wider than the terminal, the widest columns of text are cut.
+/// Lays out rows in columns, under their titles if there are any. There must be at least
+/// one row. If the table is wider than the terminal, the widest text columns are cut.
 [[nodiscard]] QString tableText(const QStringList &titles,
                                 const std::vector<std::vector<Cell>> &rows,
                                 const Terminal &terminal);

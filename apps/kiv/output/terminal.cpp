@@ -70,7 +70,7 @@ QString elided(const QString &text, int width)
         return text;
     const std::u32string codes = text.toStdU32String();
     int used = 1; // the ellipsis
-    // That it is wider than `width` is known, so the loop ends before the text.
+    // The text is wider than `width`, so the loop ends before the text does.
     std::size_t kept = 0;
     while ((used += columnsOf(codes[kept])) <= width)
         ++kept;

@@ -5,21 +5,20 @@
 
 namespace kiv::app {
 
-/// Standard output: how wide it is, whether it shows colours, and the one place
-/// that writes to it.
+/// Standard output: its width, its colours, and the only place that writes to it.
 class Terminal {
 public:
-    /// Looks at standard output and at the variables COLUMNS, NO_COLOR and TERM.
+    /// Checks standard output and the variables COLUMNS, NO_COLOR and TERM.
     Terminal();
 
-    /// In columns; nothing when it is not a terminal, so that no text is cut.
+    /// In columns. Nothing if standard output is not a terminal: then no text is cut.
     [[nodiscard]] std::optional<int> width() const noexcept { return m_width; }
 
     [[nodiscard]] QString bold(const QString &text) const { return styled(text, "1"); }
     [[nodiscard]] QString faint(const QString &text) const { return styled(text, "2"); }
     [[nodiscard]] QString red(const QString &text) const { return styled(text, "31"); }
 
-    /// Throws a Refusal when not all of it could be written.
+    /// Throws a Refusal if not all bytes can be written.
     void write(const QByteArray &bytes) const;
 
 private:
@@ -29,11 +28,9 @@ private:
     bool m_hasColours = false;
 };
 
-/// How many columns the text takes: none for combining characters, two for wide
-/// ones.
+/// The number of columns of the text. Combining characters take none, wide ones two.
 [[nodiscard]] int displayWidth(const QString &text);
-/// The text cut to at most so many columns, with an ellipsis at its end when
-/// something is missing.
+/// Cuts the text to at most `width` columns, with an ellipsis at the end if it was cut.
 [[nodiscard]] QString elided(const QString &text, int width);
 
 } // namespace kiv::app

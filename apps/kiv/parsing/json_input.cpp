@@ -61,7 +61,7 @@ Transaction readTransaction(const QJsonObject &object, const AccountIndex &index
     const accounting::AccountCode credit = readAccount(object, "credit", index);
     const numira::Currency currency = index.find(debit.number())->balance().code();
     const QString description = object.value(QLatin1String("description")).toString();
-    // Named in turn, so that of two faults the same one is told by every compiler.
+    // In this order, so that every compiler reports the same error first.
     const auto date = readDate(object, "date");
     const numira::Money amount = readMoney(object.value(QLatin1String("amount")), currency);
     const Transaction transaction(date, debit, credit, amount,

@@ -5,20 +5,18 @@
 
 #include <QtCore/QJsonObject>
 
-/// JSON that a person or a program hands in. What is wrong with it is a
-/// UsageError that names the document and the place.
+/// Reads JSON input. Errors name the document and the place.
 namespace kiv::app {
 
-/// The bytes of a file, or of standard input for "-". Throws a Refusal when it
-/// cannot be read or has more than 64 MiB.
+/// Reads a file, or standard input for "-". Throws a Refusal if it cannot be read or is
+/// larger than 64 MiB.
 [[nodiscard]] QByteArray readInput(const QString &path);
 
-/// The document in a file or on standard input.
+/// Reads a JSON document from a file, or from standard input for "-".
 [[nodiscard]] QJsonDocument readJson(const QString &path);
 
-/// The transactions of an array in the shape in which they are exported. The
-/// accounts may also be named, and the amount may be written as "12.50 USD";
-/// description and statuses may be missing.
+/// Reads an array of transactions in the form of the export. Accounts can also be names,
+/// and an amount can be "12.50 USD". Description and statuses can be missing.
 [[nodiscard]] std::vector<accounting::Transaction>
 readTransactions(const QString &path, const workbench::AccountIndex &index);
 

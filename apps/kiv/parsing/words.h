@@ -7,13 +7,12 @@
 
 namespace kiv::app {
 
-/// A line split into words as a shell does: at blanks, but not within quotes;
-/// within double quotes and outside of any a backslash takes the next character
-/// as it is. Throws a UsageError when a quote is not closed. A word that begins
-/// with "#" begins a comment.
+/// Splits a line into words at blanks, as a shell does. Quotes keep blanks; a backslash
+/// keeps the next character, except in single quotes. A word that begins with "#" begins
+/// a comment. Throws a UsageError if a quote is not closed.
 [[nodiscard]] std::vector<std::string> splitWords(std::string_view line);
 
-/// The word in such quotes that splitWords gives it back.
+/// Quotes the word, so that splitWords() returns it unchanged.
 [[nodiscard]] std::string quotedWord(const std::string &word);
 
 } // namespace kiv::app

@@ -5,9 +5,8 @@
 
 namespace kiv::app {
 
-/// The application object. An exception that leaves a slot which the event loop
-/// called would end the program; here it is told to the user, and the budget in
-/// memory stays.
+/// The application object. It reports exceptions from slots that the event loop calls;
+/// they would end the program otherwise. The budget in memory stays.
 class Application final : public QCoreApplication {
 public:
     Application(int &argc, char **argv);

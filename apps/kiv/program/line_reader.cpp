@@ -31,7 +31,7 @@ void noteInterrupt(int)
     isInterrupted = 1;
 }
 
-/// While a line is typed, Ctrl-C gives up the line and not the requests.
+/// While a line is typed, Ctrl-C drops the line instead of ending the program.
 class InterruptsGiveUpLine {
 public:
     InterruptsGiveUpLine()
@@ -60,7 +60,7 @@ int afterSignal()
     return 0;
 }
 
-// readline asks plain functions, so what they need stands here.
+// readline calls plain functions, so their data is global.
 LineReader::Completer completerNow;
 std::vector<std::string> candidates;
 
@@ -76,7 +76,7 @@ char **complete(const char *prefix, int start, int)
 {
     rl_attempted_completion_over = 1; // no file names
     try {
-        // A quote that is open already stands before the prefix, and is closed by readline.
+        // An open quote is before the prefix; readline closes it.
         const bool isQuoted = rl_completion_quote_character != 0;
         const std::string line(rl_line_buffer, static_cast<std::size_t>(start - int{isQuoted}));
         candidates.clear();
@@ -85,7 +85,7 @@ char **complete(const char *prefix, int start, int)
                 candidates.push_back(isQuoted ? word : quotedWord(word));
         }
     } catch (const std::exception &) {
-        // Half a line may be wrong; there is nothing to be completed then.
+        // An incomplete line may be invalid; then there are no candidates.
         candidates.clear();
     }
     return rl_completion_matches(prefix, nextCandidate);
@@ -114,7 +114,7 @@ LineReader::~LineReader()
     completerNow = nullptr;
     if (!m_isInteractive)
         return;
-    // What cannot be kept is only lost to the next requests.
+    // If the history cannot be saved, only the history is lost.
     QDir().mkpath(QFileInfo(m_historyFile).path());
     ::write_history(QFile::encodeName(m_historyFile).constData());
 }

@@ -10,21 +10,20 @@
 
 namespace kiv::app {
 
-/// Lines that a person types, with history and completion, or lines of a file
-/// or pipe on standard input.
+/// Reads lines from a terminal, with history and completion, or from a file or pipe.
 class LineReader {
 public:
-    /// Gives all words that could stand behind those already written.
+    /// Returns all words that can follow the given ones.
     using Completer =
         std::function<std::vector<std::string>(const std::vector<std::string> &before)>;
 
-    /// The history is kept in a file between two sessions.
+    /// The history is kept in a file between sessions.
     LineReader(Completer completer, QString historyFile);
     ~LineReader();
     LineReader(const LineReader &) = delete;
     LineReader &operator=(const LineReader &) = delete;
 
-    /// The next line; nothing at the end.
+    /// The next line, or nothing at the end.
     [[nodiscard]] std::optional<std::string> next();
 
 private:

@@ -26,7 +26,7 @@ QString oneLine(const char *text)
     return QString::fromUtf8(text).simplified();
 }
 
-/// "help bill add" is another way to say "bill add --help".
+/// "help bill add" means "bill add --help".
 std::vector<std::string> plainWords(std::vector<std::string> words)
 {
     if (!words.empty() && words.front() == "help") {
@@ -52,15 +52,14 @@ Program::Program(DeclareCommands declare)
 
 int Program::run(const std::vector<std::string> &words)
 {
-    int status = ExitStatus::success;
     try {
-        return parse(plainWords(words), status) ? execute() : status;
+        return parse(plainWords(words)) ? execute() : ExitStatus::success;
     } catch (const EntryError &error) {
         complain(error.message());
         return ExitStatus::misused;
     } catch (const storage::StorageError &error) {
         QString sentence = told(error);
-        // A file that is not there may have no folder either, and then no backup has a name.
+        // A missing file may have no folder either, and then its backups have no names.
         if (error.failure() == storage::StorageFailure::Damaged) {
             const QString backup = storage::backupOf(error.filePathName(), 1);
             if (QFile::exists(backup))
@@ -80,21 +79,18 @@ std::unique_ptr<CLI::App> Program::commandTree(const std::vector<std::string> &w
     return app::commandTree(m_terminal.width(), {m_options, m_selection, words}, m_declare);
 }
 
-bool Program::parse(const std::vector<std::string> &words, int &status)
+bool Program::parse(const std::vector<std::string> &words)
 {
     m_options = Options{};
     m_selection = Selection{};
     const std::unique_ptr<CLI::App> app = commandTree(words);
     refuseUnknown(*app, words);
     try {
-        // CLI11 takes the words from the back.
+        // CLI11 expects the words in reverse order.
         app->parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::ParseError &error) {
-        if (error.get_exit_code() != 0) {
-            complain(misuse(error));
-            status = ExitStatus::misused;
-            return false;
-        }
+        if (error.get_exit_code() != 0)
+            throw misuse(*app, error);
         std::ostringstream help;
         app->exit(error, help, help);
         if (m_isSilent)
@@ -109,7 +105,7 @@ bool Program::parse(const std::vector<std::string> &words, int &status)
 int Program::execute()
 {
     m_log.setVerbose(m_options.isVerbose);
-    // A command may run others through this program, which replace both.
+    // A command may run others with this object, which replace both.
     const Options options = m_options;
     const auto [kind, command] = m_selection;
 
@@ -129,7 +125,7 @@ int Program::execute()
     report.finish();
     if (kind == CommandKind::Change && options.isDryRun) {
         takeBack();
-        report.line(QObject::tr("This was a dry run: nothing is saved."));
+        report.line(QObject::tr("Dry run: nothing is saved."));
     }
     m_options = options;
     print(report);

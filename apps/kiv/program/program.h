@@ -9,38 +9,36 @@
 
 namespace kiv::app {
 
-/// The command `kiv`: understands a command line, runs the command on the
-/// document's budget, saves, prints, and gives the exit status.
+/// The command `kiv`: parses a command line, runs the command on the document's budget,
+/// saves, prints, and returns the exit status.
 class Program {
 public:
-    /// `declare` adds the commands that there are.
+    /// `declare` adds all commands.
     explicit Program(DeclareCommands declare);
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    /// Runs one command line, without the program's own name. Its refusal is
-    /// told on standard error in one sentence.
+    /// Runs one command line, without the program's name. An error is reported on
+    /// standard error in one sentence.
     int run(const std::vector<std::string> &words);
-    /// From now on the budget is kept from one call to the next, so a call
-    /// that failed or tried something dry is taken back in memory, too.
+    /// Keeps the budget in memory from one call to the next. Failed calls and dry runs
+    /// are then taken back in memory.
     void keepBudget() noexcept { m_keepsBudget = true; }
 
-    /// From now on no report is printed.
+    /// Prints no more reports.
     void setSilent() noexcept { m_isSilent = true; }
 
-    /// All commands. With `words`, only those that stand among them have their
-    /// arguments, since a call reaches no other; without any, all have. The
-    /// arguments' values are this program's, so it must outlive the tree.
+    /// Creates the tree of all commands. With `words`, only commands named there get
+    /// their arguments. Parsing writes to this object, so it must outlive the tree.
     [[nodiscard]] std::unique_ptr<CLI::App> commandTree(const std::vector<std::string> &words = {});
     [[nodiscard]] workbench::Document &document() noexcept { return m_document; }
     [[nodiscard]] const Terminal &terminal() const noexcept { return m_terminal; }
 
 private:
-    /// Tells whether there is a command to be executed; otherwise `status` is
-    /// the exit status.
-    bool parse(const std::vector<std::string> &words, int &status);
+    /// Returns whether there is a command to execute; help and version are printed here.
+    bool parse(const std::vector<std::string> &words);
     int execute();
-    /// What a call has changed, when the next one shall not find it.
+    /// Takes back the changes of a call that must not stay in memory.
     void takeBack();
     void openFile();
     void print(const Report &report);

@@ -23,7 +23,7 @@ AccountError accountNumberInvalid(const AccountCode &code)
 
 AccountError accountNumberTaken(const AccountCode &code, const AccountCode &holder)
 {
-    return {code, QObject::tr("The account '%1' cannot have a number that the account '%2' has.")
+    return {code, QObject::tr("The account '%1' cannot have the number of the account '%2'.")
                       .arg(presentationText(code), presentationText(holder))};
 }
 
@@ -51,8 +51,8 @@ AccountError parentOfOtherType(const AccountCode &code, AccountTypes type,
 
 AccountError parentBelowItself(const AccountCode &code, const AccountCode &parent)
 {
-    return {code, QObject::tr("The account '%1' cannot stand under the account '%2', which is "
-                              "itself or stands below it.")
+    return {code, QObject::tr("The account '%1' cannot stand under the account '%2', which is the "
+                              "same account or stands under it.")
                       .arg(presentationText(code), presentationText(parent))};
 }
 
@@ -94,9 +94,11 @@ AccountError accountHasTransactions(const AccountCode &code)
 
 AccountError openingIsReconciled(const AccountCode &code, TransactionNumber opening)
 {
-    return {code, QObject::tr("The account '%1' cannot be removed while the transaction %2, which "
-                              "opened it, is reconciled.")
-                      .arg(presentationText(code), presentationText(opening))};
+    return {
+        code,
+        QObject::tr(
+            "The account '%1' cannot be removed while its opening transaction %2 is reconciled.")
+            .arg(presentationText(code), presentationText(opening))};
 }
 
 AccountError balanceOutOfRange(const AccountCode &code, const std::exception &cause)
@@ -120,8 +122,8 @@ AccountError notRestated(const AccountCode &code, const numira::Currency &curren
 AccountError restatedToNothing(const AccountCode &code, const numira::Currency &currency,
                                TransactionNumber number, const numira::Money &amount)
 {
-    return {code, QObject::tr("The account '%1' cannot be kept in %2, in which the %3 of its "
-                              "transaction %4 come to nothing.")
+    return {code, QObject::tr("The account '%1' cannot be kept in %2: the %3 of its transaction %4 "
+                              "would round to zero.")
                       .arg(presentationText(code), presentationText(currency),
                            presentationText(amount), presentationText(number))};
 }
@@ -191,7 +193,7 @@ TransactionError notConverted(TransactionNumber number, const numira::Money &amo
 TransactionError comesToNothing(TransactionNumber number, const numira::Money &amount,
                                 const numira::Currency &currency)
 {
-    return {number, QObject::tr("The amount %1 comes to nothing in %2.")
+    return {number, QObject::tr("The amount %1 rounds to zero in %2.")
                         .arg(presentationText(amount), presentationText(currency))};
 }
 
@@ -203,20 +205,21 @@ TransactionError ledgerIsFull()
 
 TransactionError sideIsReconciled(TransactionNumber number)
 {
-    return {number, QObject::tr("The transaction %1 is reconciled and cannot be changed before it "
-                                "is unreconciled.")
-                        .arg(presentationText(number))};
+    return {number,
+            QObject::tr(
+                "The transaction %1 is reconciled; undo its reconciliation before you change it.")
+                .arg(presentationText(number))};
 }
 
 TransactionError accountNotInvolved(TransactionNumber number, AccountNumber account)
 {
-    return {number, QObject::tr("The account %1 has no part in the transaction %2.")
+    return {number, QObject::tr("The account %1 is not part of the transaction %2.")
                         .arg(presentationText(account), presentationText(number))};
 }
 
 TransactionError openingKeepsAccount(TransactionNumber number, const AccountCode &account)
 {
-    return {number, QObject::tr("The transaction %1 opened the account '%2' and cannot leave it.")
+    return {number, QObject::tr("The transaction %1 opened the account '%2' and must stay in it.")
                         .arg(presentationText(number), presentationText(account))};
 }
 
@@ -272,8 +275,8 @@ TransactionError numberMissing()
 
 TransactionError numberTaken(TransactionNumber number)
 {
-    return {number, QObject::tr("The transaction number %1 stands for two transactions.")
-                        .arg(presentationText(number))};
+    return {number,
+            QObject::tr("Two transactions have the number %1.").arg(presentationText(number))};
 }
 
 TransactionError sideAmountWrong(TransactionNumber number, const numira::Money &amount,

@@ -16,7 +16,7 @@ BudgetItemError itemWithoutDate(const BudgetSource &source)
 
 BudgetItemError itemWithNegativeAmount(const BudgetSource &source, const numira::Money &amount)
 {
-    return {source, QObject::tr("The amount of the budget item '%1' cannot be negative, as %2 is.")
+    return {source, QObject::tr("The amount of the budget item '%1' cannot be negative, but is %2.")
                         .arg(presentationText(source), foundation::presentationText(amount))};
 }
 
@@ -61,13 +61,14 @@ BudgetItemError cannotRenameOnto(const BudgetSource &source, const BudgetSource 
 
 foundation::Error neverRecurs()
 {
-    return foundation::Error(QObject::tr("What is not scheduled has no next date to move on to."));
+    return foundation::Error(QObject::tr("A budget item without a frequency has no next date."));
 }
 
 foundation::Error noNextDate(const QString &frequency, QDate date)
 {
-    return foundation::Error(QObject::tr("There is no date after %1 for what recurs %2.")
-                                 .arg(foundation::presentationText(date), frequency));
+    return foundation::Error(
+        QObject::tr("A budget item with the frequency '%2' has no date after %1.")
+            .arg(foundation::presentationText(date), frequency));
 }
 
 } // namespace kiv::budgeting::internal

@@ -24,12 +24,12 @@ ConversionError baseRateNotOne(const numira::Currency &base)
 
 ConversionError tableWithoutBase()
 {
-    return ConversionError(QObject::tr("Exchange rates must be given for a base currency."));
+    return ConversionError(QObject::tr("Exchange rates need a base currency."));
 }
 
 ConversionError tableWithoutTime()
 {
-    return ConversionError(QObject::tr("Exchange rates must have the time they were fetched at."));
+    return ConversionError(QObject::tr("Exchange rates need the time when they were fetched."));
 }
 
 ConversionError rateMissing(const numira::Currency &from, const numira::Currency &to)
@@ -43,12 +43,12 @@ ConversionError rateMissing(const numira::Currency &from, const numira::Currency
 ConversionError replyMalformed(const QString &member)
 {
     return ConversionError(
-        QObject::tr("The reply's member '%1' is missing or makes no sense.").arg(member));
+        QObject::tr("The member '%1' of the reply is missing or invalid.").arg(member));
 }
 
 ConversionError replyUnknownCurrency(const QString &code)
 {
-    return ConversionError(QObject::tr("The reply names an unknown currency '%1'.").arg(code));
+    return ConversionError(QObject::tr("The reply contains the unknown currency '%1'.").arg(code));
 }
 
 QString fetchTimedOut()
@@ -58,12 +58,12 @@ QString fetchTimedOut()
 
 QString sourceGone()
 {
-    return QObject::tr("The source of the rates was destroyed before it answered.");
+    return QObject::tr("The source of the rates was closed before it answered.");
 }
 
 QString senderGone()
 {
-    return QObject::tr("There is nothing left to send requests with.");
+    return QObject::tr("Requests can no longer be sent.");
 }
 
 ConversionError noWantedRates()
@@ -74,7 +74,7 @@ ConversionError noWantedRates()
 ConversionError ratesOutdated(const QDateTime &given, const QDateTime &known)
 {
     return ConversionError(
-        QObject::tr("The reply's rates are of %1, older than the known ones of %2.")
+        QObject::tr("The rates of the reply are from %1, older than the known ones from %2.")
             .arg(given.toString(Qt::ISODate), known.toString(Qt::ISODate)));
 }
 

@@ -38,7 +38,7 @@ QString statusNotOk(int status)
 
 QString contentEncoded()
 {
-    return QObject::tr("The reply is compressed although that was not asked for.");
+    return QObject::tr("The reply is compressed, which was not requested.");
 }
 
 QString transferFailed(const QString &error)

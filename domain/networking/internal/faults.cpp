@@ -7,17 +7,17 @@ namespace kiv::networking::internal {
 
 QString managerDestroyed()
 {
-    return QObject::tr("The request manager was destroyed before the answer came.");
+    return QObject::tr("The connection was closed before the answer came.");
 }
 
 QString noSender()
 {
-    return QObject::tr("There is nothing to send requests with.");
+    return QObject::tr("Requests cannot be sent.");
 }
 
 QString httpMissing(const QString &cause)
 {
-    return QObject::tr("Nothing can be fetched: %1.").arg(cause);
+    return QObject::tr("Cannot load the HTTP library: %1.").arg(cause);
 }
 
 ReplyError requestFailed(const QString &reason)
@@ -27,7 +27,7 @@ ReplyError requestFailed(const QString &reason)
 
 ReplyError notJsonType(const QString &contentType)
 {
-    return ReplyError(QObject::tr("The reply's type is '%1' and not JSON.").arg(contentType));
+    return ReplyError(QObject::tr("The reply is not JSON; its type is '%1'.").arg(contentType));
 }
 
 ReplyError notJson(const QString &reason, int offset)
@@ -38,7 +38,7 @@ ReplyError notJson(const QString &reason, int offset)
 
 ReplyError duplicateMembers()
 {
-    return ReplyError(QObject::tr("The reply names a member twice."));
+    return ReplyError(QObject::tr("The reply contains a member twice."));
 }
 
 } // namespace kiv::networking::internal

@@ -17,7 +17,7 @@ StorageError noFileChosen()
 
 StorageError noFileName(const QString &path)
 {
-    return {StorageFailure::NoName, path, QObject::tr("No file can have the name '%1'.").arg(path)};
+    return {StorageFailure::NoName, path, QObject::tr("'%1' is not a valid file name.").arg(path)};
 }
 
 StorageError fileNotFound(const QString &path)
@@ -44,8 +44,7 @@ StorageError cannotRead(const QString &path, int error)
 
 StorageError tooLarge(const QString &path)
 {
-    return {StorageFailure::TooLarge, path,
-            QObject::tr("The file '%1' is larger than such a file can be.").arg(path)};
+    return {StorageFailure::TooLarge, path, QObject::tr("The file '%1' is too large.").arg(path)};
 }
 
 StorageError emptyFile(const QString &path)
@@ -56,7 +55,7 @@ StorageError emptyFile(const QString &path)
 StorageError notOurs(const QString &path)
 {
     return {StorageFailure::NotOurs, path,
-            QObject::tr("The file '%1' is not of the kind that is used here.").arg(path)};
+            QObject::tr("The file '%1' was not written by this program.").arg(path)};
 }
 
 StorageError newerVersion(const QString &path)
@@ -109,15 +108,16 @@ StorageError inTheWay(const QString &path, const QString &other)
 
 StorageError notAsWritten(const QString &path)
 {
-    return {StorageFailure::CannotWrite, path,
-            QObject::tr("The file '%1' could not be saved: what was written reads back otherwise.")
-                .arg(path)};
+    return {
+        StorageFailure::CannotWrite, path,
+        QObject::tr("The file '%1' could not be saved: it cannot be read back as it was written.")
+            .arg(path)};
 }
 
 StorageError cannotHold(const QString &path, const std::exception &cause)
 {
     return {StorageFailure::CannotHold, path,
-            QObject::tr("The file '%1' was not saved: it cannot hold what it should.").arg(path),
+            QObject::tr("The file '%1' was not saved: it cannot hold this budget.").arg(path),
             cause};
 }
 
@@ -128,12 +128,12 @@ ContentFault checksumWrong()
 
 ContentFault headerNotWhole()
 {
-    return ContentFault(QObject::tr("Its header is not whole."));
+    return ContentFault(QObject::tr("Its header is damaged."));
 }
 
 ContentFault moreThanAFileMayHold()
 {
-    return ContentFault(QObject::tr("There is more than a file may hold."));
+    return ContentFault(QObject::tr("The content is larger than a file may be."));
 }
 
 ContentFault tooManyRows()
@@ -153,7 +153,7 @@ ContentFault textTooLong()
 
 ContentFault surveysDoNotFit()
 {
-    return ContentFault(QObject::tr("The surveys do not fit together."));
+    return ContentFault(QObject::tr("The surveys contradict each other."));
 }
 
 ContentFault tableNotAsItShould(const std::string &table)

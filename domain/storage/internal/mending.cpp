@@ -228,9 +228,9 @@ private:
                 continue;
             if (!other || day(survey) > day(*other))
                 carried.upsert(movedTo(present, survey));
-            m_mended << QObject::tr("The last survey of the account %1 at the bank '%2' was made "
-                                    "when it was another kind of account; it counts for the "
-                                    "present kind, unless a later one does.")
+            m_mended << QObject::tr("The last survey of the account %1 at the bank '%2' is from "
+                                    "when the account had another type; it now counts for the "
+                                    "present type, unless there is a later one.")
                             .arg(presentationText(account.account.number),
                                  account.bank.institution());
         }

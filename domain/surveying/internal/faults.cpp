@@ -9,7 +9,7 @@ namespace kiv::surveying::internal {
 
 foundation::Error negativeChange(const numira::Money &amount)
 {
-    return foundation::Error(QObject::tr("An increase or a decrease cannot be negative, as %1 is.")
+    return foundation::Error(QObject::tr("An increase or a decrease cannot be negative, but is %1.")
                                  .arg(foundation::presentationText(amount)));
 }
 

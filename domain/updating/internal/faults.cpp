@@ -13,7 +13,7 @@ UpdateError notAVersion(const QString &text)
 UpdateError releaseMemberMalformed(const QString &member)
 {
     return UpdateError(
-        QObject::tr("The release's member '%1' is missing or makes no sense.").arg(member));
+        QObject::tr("The member '%1' of the release is missing or invalid.").arg(member));
 }
 
 UpdateError notAListOfReleases()
