@@ -11,8 +11,6 @@
 #include <fuzzer/FuzzedDataProvider.h>
 #include <sqlite3.h>
 
-#include <random>
-
 using namespace kiv;
 
 namespace {
@@ -24,11 +22,8 @@ const QByteArray &wholeFile(unsigned seed)
     static std::map<unsigned, QByteArray> files;
     QByteArray &file = files[seed];
     if (file.isEmpty()) {
-        const test::ScratchFolder folder(QStringLiteral("/dev/shm"));
-        std::mt19937 random(seed);
-        test::store(folder.path(name), test::RandomBudget([&](int count) {
-                                           return int(random() % unsigned(count));
-                                       }).make(60));
+        const test::ScratchFolder folder;
+        test::store(folder.path(name), test::someBudget(seed, 60));
         file = folder.read(name);
     }
     return file;
@@ -133,7 +128,7 @@ QByteArray fileOf(FuzzedDataProvider &bytes)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    static const test::ScratchFolder folder(QStringLiteral("/dev/shm"));
+    static const test::ScratchFolder folder;
     FuzzedDataProvider bytes(data, size);
     folder.write(name, fileOf(bytes));
     storage::BudgetStorage::Data read;

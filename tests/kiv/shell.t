@@ -145,3 +145,16 @@ stand among them:
   $ printf 'exit\nfrobnicate\n' | kiv watch >signals
   $ jq -r .signal signals | head -1
   loadedBudgetFile
+
+At a terminal, lines are typed with history and completion:
+
+  $ begin
+  $ kiv bill add 'Car tax' 360 --next 2026-01-31
+  Added the bill 'Car tax'.
+  $ "$TESTDIR/type" 'kiv> ' 'bil\t rem\tRe' Re '\x03' 'kiv> ' 'bill update Ca\t--amount 400\r' \
+  >   'kiv> ' 'bill rename "Ca\tToll\r' 'kiv> ' '\x1b[A\r' 'kiv> ' '\r' 'kiv> ' '\x04'
+  [1]
+  $ kiv bill list
+  Name     Amount  Every    Next        Tags
+  Rent  $1,250.00  monthly  2026-01-31
+  Toll    $400.00  monthly  2026-01-31

@@ -12,14 +12,14 @@ namespace kiv::test {
 
 struct FailingCalls {
     bool isOn = false;
-    std::map<std::string, int> counts; ///< how often each call was made
+    std::map<std::string, int> counts = {}; ///< how often each call was made
 
-    std::string name;                ///< the call that fails
-    int from = 0;                    ///< from its time of this number on, counted from 1
-    int times = 0;                   ///< and how many times
-    int error = 0;                   ///< with this error; with 0 it lies instead
-    std::function<void()> meanwhile; ///< what another program does just before it,
-                                     ///< or what else is to fail from then on
+    std::string name = {};                ///< the call that fails
+    int from = 0;                         ///< from its time of this number on, counted from 1
+    int times = 0;                        ///< and how many times
+    int error = 0;                        ///< with this error; with 0 it lies instead
+    std::function<void()> meanwhile = {}; ///< what another program does just before it,
+                                          ///< or what else is to fail from then on
 
     [[nodiscard]] bool isChosen(const std::string &call, int count) const
     {
@@ -28,6 +28,18 @@ struct FailingCalls {
 };
 
 inline FailingCalls failingCalls;
+
+/// Lets the call fail that is made the `from`th time from now on.
+inline void fail(const std::string &call, int from, int error, std::function<void()> meanwhile = {},
+                 int times = 1)
+{
+    failingCalls = {.isOn = true,
+                    .name = call,
+                    .from = from,
+                    .times = times,
+                    .error = error,
+                    .meanwhile = std::move(meanwhile)};
+}
 
 /// Whether the call that comes next is to lie.
 inline bool lies(const char *call)

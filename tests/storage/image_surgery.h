@@ -4,21 +4,19 @@
 #include "storage/internal/schema.h"
 
 #include <QtCore/QCryptographicHash>
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <SQLiteCpp/SQLiteCpp.h>
-
-#include <span>
 
 namespace kiv::test {
 
 /// Runs SQL on a budget file as an enemy would, each text on a connection of
 /// its own, so that a changed schema is read again.
-inline void operate(const QString &path, std::span<const char *const> sql)
+inline void operate(const QString &path, const QStringList &sql)
 {
-    for (const char *text : sql) {
+    for (const QString &text : sql) {
         SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
-        database.exec(text);
+        database.exec(text.toStdString());
     }
 }
 

@@ -28,7 +28,7 @@ protected:
         m_file.emplace();
         m_folder.emplace();
         m_path = m_folder->path(QStringLiteral("home.budget"));
-        QCOMPARE(storing(m_path, u"First"_qs), std::nullopt);
+        QCOMPARE(storing(m_path, QStringLiteral("First")), std::nullopt);
     }
     std::optional<storage::StorageFailure> loading(const QString &path)
     {

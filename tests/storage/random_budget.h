@@ -9,6 +9,7 @@
 #include "accounting/number_handout.h"
 
 #include <functional>
+#include <random>
 
 namespace kiv::test {
 
@@ -221,6 +222,33 @@ private:
     Data m_data;
     accounting::SequentialAccountNumberGenerator m_generator;
 };
+
+/// Two accounts with that many transactions.
+inline RandomBudget::Data budgetWith(int transactions)
+{
+    const numira::Currency usd = numira::toCurrency("USD");
+    RandomBudget::Data data;
+    accounting::SequentialAccountNumberGenerator generator;
+    for (const std::uint32_t number : {1U, 2U})
+        data.generalLedger.add({accounting::AccountTypes::Asset,
+                                {accounting::AccountNumber(number), QStringLiteral("a"), {}},
+                                numira::Money(usd),
+                                false},
+                               generator);
+    for (int i = 0; i < transactions; ++i)
+        data.generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), accounting::AccountNumber(1),
+                                 accounting::AccountNumber(2),
+                                 numira::Money(usd, std::int64_t(i + 5), 0),
+                                 QStringLiteral("shopping")});
+    return data;
+}
+
+/// The budget of that many random steps from a seed.
+inline RandomBudget::Data someBudget(unsigned seed, int steps)
+{
+    std::mt19937 random(seed);
+    return RandomBudget([&](int count) { return int(random() % unsigned(count)); }).make(steps);
+}
 
 /// The first part of the data in which the two differ; empty when none does.
 inline QString difference(const RandomBudget::Data &a, const RandomBudget::Data &b)

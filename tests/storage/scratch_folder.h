@@ -12,11 +12,10 @@
 
 namespace kiv::test {
 
-/// A folder of the test's own that goes with it.
+/// A folder of the test's own that goes with it. It lies in memory where there is such a
+/// place: a save then waits for no disk, so that a kill hits every step of it.
 class ScratchFolder {
 public:
-    ScratchFolder() = default;
-    explicit ScratchFolder(const QString &parent) : m_folder(parent + QStringLiteral("/kiv")) {}
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     void write(const QString &name, const QByteArray &bytes) const
     {
@@ -37,7 +36,14 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder;
+    static QString place()
+    {
+        const QString memory = QStringLiteral("/dev/shm");
+        return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) +
+               QStringLiteral("/kiv");
+    }
+
+    QTemporaryDir m_folder{place()};
 };
 
 /// The failure with which `call` ends, if it ends with one.
@@ -64,6 +70,16 @@ inline storage::BudgetStorage::Data load(const QString &path)
     storage::BudgetFile file;
     file.setFilePathName(path);
     return file.load();
+}
+
+/// Saves as a careless program does: each rig must find out what that leaves.
+inline bool saveCarelessly(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    bool isSaved = file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered);
+    for (qsizetype done = 0; done < bytes.size(); done += 4096)
+        isSaved = file.write(bytes.mid(done, 4096)) > 0 && isSaved;
+    return isSaved;
 }
 
 } // namespace kiv::test

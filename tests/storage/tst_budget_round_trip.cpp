@@ -4,6 +4,7 @@
 #include "random_budget.h"
 #include "scratch_folder.h"
 
+#include "support/comparison.h"
 #include "support/message_log.h"
 
 #include "accounting/number_handout.h"
@@ -15,6 +16,10 @@
 using namespace kiv;
 using accounting::AccountNumber;
 using accounting::AccountTypes;
+using budgeting::Bill;
+using budgeting::Debt;
+using budgeting::Nontrack;
+using budgeting::Wage;
 using Data = storage::BudgetStorage::Data;
 
 namespace {
@@ -41,9 +46,9 @@ Data tiedBudget()
     };
     const QDate date(2026, 1, 31);
     const auto monthly = budgeting::EventFrequency::Monthly;
-    add(u"Rent", budgeting::Bill({}, amount, monthly, date));
-    add(u"Car", budgeting::Debt({}, amount, monthly, date, numira::Money(amount.code())));
-    add(u"Rent", budgeting::Nontrack({}, amount, monthly, date));
+    add(u"Rent", Bill({}, amount, monthly, date));
+    add(u"Car", Debt({}, amount, monthly, date, numira::Money(amount.code())));
+    add(u"Rent", Nontrack({}, amount, monthly, date));
     for (const auto *bank : {u"First", u"Second"})
         data.banks.add(banking::Bank(banking::BankName(QString::fromUtf16(bank)),
                                      {{AccountNumber(2), banking::BankAccountTypes::Loan}}, false));
@@ -54,11 +59,67 @@ const budgeting::BudgetSource rent(QStringLiteral("Rent"));
 const budgeting::BudgetSource car(QStringLiteral("Car"));
 const budgeting::BudgetSource unnamed;
 
-void recode(Data &data, std::uint32_t from, std::uint32_t to)
+const auto unnamedBill = budgeting::BudgetSource(QStringLiteral("Unnamed bill"));
+
+void recode(Data &data, std::uint32_t from, std::uint32_t to, const QString &name = {})
 {
     const auto code = data.generalLedger.accountCode(AccountNumber(from));
-    data.generalLedger.recode(code, {AccountNumber(to), code.name(), code.parent()});
+    data.generalLedger.recode(
+        code, {AccountNumber(to), name.isEmpty() ? code.name() : name, code.parent()});
 }
+
+/// Gives the item the name, and the account if there is a number.
+template <typename Item>
+void rename(Data &data, const budgeting::BudgetSource &from, const budgeting::BudgetSource &to,
+            std::uint32_t account = 0)
+{
+    data.budget.items<Item>().rename(from, to);
+    data.budgetAccountCodes.remove<Item>(from);
+    if (account > 0)
+        data.budgetAccountCodes.insertOrAssign<Item>(to, AccountNumber(account));
+}
+
+/// All that ties parts to one another: "bill Rent 1" is an item with its account, "First 2"
+/// a bank with its account, "First 2 (loan) 6" a survey with its kind and day.
+QString tiesIn(const Data &data)
+{
+    QStringList ties;
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        for (const auto &[source, item] : data.budget.items<Item>()) {
+            const AccountNumber number = data.budgetAccountCodes.value<Item>(source);
+            const auto account = data.generalLedger.ledger(number);
+            const bool isStrange = account.type() != budgeting::ItemTraits<Item>::accountType ||
+                                   account.balance().code() != item.amount().code();
+            ties += QStringList{QString::fromLatin1(budgeting::ItemTraits<Item>::word),
+                                source.name(), presentationText(number)}
+                        .join(u' ');
+            if (account.code().name() != budgeting::itemAccountName(source))
+                ties.back() += u" as "_qs + account.code().name();
+            if (account.isClosed() || isStrange)
+                ties.back() += isStrange ? u" strange"_qs : u" closed"_qs;
+        }
+    });
+    for (const auto &[name, bank] : data.banks) {
+        for (const auto &[number, kind] : bank.accounts())
+            ties += name.institution() + u' ' + presentationText(number);
+    }
+    for (const auto &[account, survey] : data.surveys) {
+        ties += test::dump(account) + u' ' +
+                QString::number(survey.reconciled().reconciledOn().value_or(QDate()).day());
+        for (const auto &[item, amount] : survey.distribution())
+            ties.back() += u" for "_qs + item.source.name();
+    }
+    for (const auto &[item, tags] : data.itemTags)
+        ties += u"tags of "_qs + item.source.name();
+    qsizetype count = 0;
+    for (const auto &[type, codes] : data.budgetAccountCodes.maps())
+        count += qsizetype(codes.size());
+    return ties.join(u", ") + QStringLiteral("; %1 of %2 accounts")
+                                  .arg(count)
+                                  .arg(data.generalLedger.accountCodes().size());
+}
+
+using Change = std::function<void(Data &)>;
 
 } // namespace
 
@@ -67,8 +128,6 @@ class BudgetRoundTripTest final : public QObject {
 
 private slots:
     void whateverTheDomainMakesLoadsEqualAndSavesTheSameBytes();
-    void aFullLedgerLoadsEqual();
-    void theLongestTextIsKept();
     void looseTiesAreMended_data();
     void looseTiesAreMended();
     void aClosedAccountWithABalanceIsOpened();
@@ -91,112 +150,60 @@ void BudgetRoundTripTest::whateverTheDomainMakesLoadsEqualAndSavesTheSameBytes()
     QCOMPARE(log.warnings(), QStringList());
 }
 
-void BudgetRoundTripTest::aFullLedgerLoadsEqual()
-{
-    Data data = tiedBudget();
-    for (int i = 0; i < 65'535; ++i) {
-        data.generalLedger.post({QDate(2020, 1, 1).addDays(i / 20), AccountNumber(1),
-                                 AccountNumber(2),
-                                 numira::Money(numira::toCurrency("USD"), 1 + i % 997, 25)});
-    }
-    const test::ScratchFolder folder;
-    test::store(folder.path(u"a.budget"_qs), data);
-    QVERIFY(data == test::load(folder.path(u"a.budget"_qs)));
-}
-
-void BudgetRoundTripTest::theLongestTextIsKept()
-{
-    const test::ScratchFolder folder;
-    for (const int more : {0, 1}) {
-        Data data;
-        data.banks.add(banking::Bank(
-            banking::BankName(QString(4 * 1024 * 1024 + more, QChar(u'n'))), {}, false));
-        std::string refusal;
-        try {
-            test::store(folder.path(u"a"_qs), data);
-            QCOMPARE(test::difference(data, test::load(folder.path(u"a"_qs))), QString());
-        } catch (const storage::StorageError &error) {
-            refusal = error.what();
-        }
-        QCOMPARE(refusal.ends_with("A text is too long."), more > 0);
-    }
-}
-
 void BudgetRoundTripTest::looseTiesAreMended_data()
 {
-    using Change = std::function<void(Data &)>;
-    using Check = std::function<bool(const Data &)>;
     QTest::addColumn<Change>("loosen");
-    QTest::addColumn<Check>("isMended");
     QTest::addColumn<int>("warnings");
-
-    const auto accountOf = []<typename Item>(std::type_identity<Item>, const Data &data,
-                                             const budgeting::BudgetSource &source) {
-        return data.budgetAccountCodes.value<Item>(source).integer();
+    QTest::addColumn<QString>("mended");
+    const auto row = [](const char *title, const Change &loosen, int warnings, const char *mended) {
+        QTest::newRow(title) << loosen << warnings << QString::fromLatin1(mended);
     };
-    const std::type_identity<budgeting::Bill> bill;
-    const std::type_identity<budgeting::Debt> debt;
-    const std::type_identity<budgeting::Nontrack> nontrack;
+    using budgeting::BudgetSource;
 
-    QTest::newRow("account removed") << Change([](Data &data) {
+    row(
+        "account removed", [](Data &data) { data.generalLedger.remove(AccountNumber(1)); }, 1,
+        "bill Rent 4, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    const Change untie = [](Data &data) {
+        data.budgetAccountCodes.remove<Bill>(rent);
+        data.budgetAccountCodes.remove<Nontrack>(rent);
+    };
+    row("two items of one name find an account each", untie, 2,
+        "bill Rent 1, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    const auto recoding = [](std::uint32_t from, std::uint32_t to) {
+        return [=](Data &data) { recode(data, from, to); };
+    };
+    row("account renumbered; one of the same name belongs to another item", recoding(1, 9), 1,
+        "bill Rent 9, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    row("account in two banks renumbered", recoding(2, 9), 3,
+        "bill Rent 1, debt Car 9, nontrack Rent 3; 3 of 3 accounts");
+    const Change removeTwo = [](Data &data) {
+        data.generalLedger.remove(AccountNumber(3));
+        data.generalLedger.remove(AccountNumber(2));
+    };
+    row("account in two banks removed; no new account gets in its place there", removeTwo, 4,
+        "bill Rent 1, debt Car 2, nontrack Rent 3; 3 of 3 accounts");
+    const Change removeBank = [](Data &data) { data.banks.remove(banking::BankName(u"First"_qs)); };
+    row("bank that held the account removed", removeBank, 0,
+        "bill Rent 1, debt Car 2, nontrack Rent 3, Second 2; 3 of 3 accounts");
+    const Change renameLost = [](Data &data) {
         data.generalLedger.remove(AccountNumber(1));
-    }) << Check([=](const Data &data) {
-        const auto account = data.generalLedger.ledger(AccountNumber(accountOf(bill, data, rent)));
-        return account.code() == accounting::AccountCode(
-                                     AccountNumber(4), QStringLiteral("Rent [Budget Item]"), {}) &&
-               account.type() == AccountTypes::Expense && !account.isClosed();
-    }) << 1;
-    QTest::newRow("two items of one name find an account each") << Change([](Data &data) {
-        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-        data.budgetAccountCodes.remove<budgeting::Nontrack>(rent);
-    }) << Check([=](const Data &data) {
-        return accountOf(bill, data, rent) == 1 && accountOf(nontrack, data, rent) == 3;
-    }) << 2;
-    QTest::newRow("account renumbered; one of the same name belongs to another item")
-        << Change([](Data &data) { recode(data, 1, 9); }) << Check([=](const Data &data) {
-               return accountOf(bill, data, rent) == 9 && accountOf(nontrack, data, rent) == 3;
-           })
-        << 1;
-    QTest::newRow("account in two banks renumbered")
-        << Change([](Data &data) { recode(data, 2, 9); }) << Check([=](const Data &data) {
-               return accountOf(debt, data, car) == 9 && !data.banks.find(AccountNumber(2));
-           })
-        << 3;
-    QTest::newRow("account in two banks removed; no new account gets in its place there")
-        << Change([](Data &data) {
-               data.generalLedger.remove(AccountNumber(3));
-               data.generalLedger.remove(AccountNumber(2));
-           })
-        << Check([=](const Data &data) {
-               return accountOf(debt, data, car) == 2 && accountOf(nontrack, data, rent) == 3 &&
-                      !data.banks.find(AccountNumber(2));
-           })
-        << 4;
-    QTest::newRow("bank that held the account removed")
-        << Change([](Data &data) { data.banks.remove(banking::BankName(QStringLiteral("First"))); })
-        << Check([=](const Data &data) { return accountOf(debt, data, car) == 2; }) << 0;
-    QTest::newRow("item renamed after its account went") << Change([](Data &data) {
-        data.generalLedger.remove(AccountNumber(1));
-        data.budget.bills.rename(rent, car);
-        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-        data.budgetAccountCodes.insertOrAssign<budgeting::Bill>(car, AccountNumber(1));
-    }) << Check([=](const Data &data) { return accountOf(bill, data, car) == 4; })
-                                                         << 1;
-    QTest::newRow("item that the ledger refused") << Change([](Data &data) {
-        data.budget.wages.add(budgeting::Wage(car, numira::Money(numira::toCurrency("EUR"), 5, 0),
-                                              budgeting::EventFrequency::Weekly,
-                                              QDate(2026, 1, 1)));
-    }) << Check([=](const Data &data) {
-        const auto number = data.budgetAccountCodes.value<budgeting::Wage>(car);
-        return data.generalLedger.ledger(number).type() == AccountTypes::Income &&
-               data.generalLedger.ledger(number).balance().code() == numira::toCurrency("EUR");
-    }) << 1;
-    QTest::newRow("number of an account that a bank lost goes to a bill") << Change([](Data &data) {
+        rename<Bill>(data, rent, car, 1);
+    };
+    row("item renamed after its account went", renameLost, 1,
+        "bill Car 4, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    const Change addWage = [](Data &data) {
+        data.budget.wages.add(Wage(car, numira::Money(numira::toCurrency("EUR"), 5, 0),
+                                   budgeting::EventFrequency::Weekly, QDate(2026, 1, 1)));
+    };
+    row("item that the ledger refused", addWage, 1,
+        "bill Rent 1, debt Car 2, nontrack Rent 3, wage Car 4, First 2, Second 2; 4 of 4 accounts");
+    const Change addLoan = [](Data &data) {
         data.banks.add(banking::BankName(u"Second"_qs), AccountNumber(1),
                        banking::BankAccountTypes::Loan);
-    }) << Check([](const Data &data) { return !data.banks.find(AccountNumber(1)); })
-                                                                          << 1;
-    QTest::newRow("surveys of another kind, one earlier and one later") << Change([](Data &data) {
+    };
+    row("number of an account that a bank lost goes to a bill", addLoan, 1,
+        "bill Rent 1, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    const Change addSurveys = [](Data &data) {
         for (const auto &[bank, kind, day] :
              {std::tuple(u"First"_qs, 3, 5), std::tuple(u"First"_qs, 4, 6),
               std::tuple(u"Second"_qs, 4, 5), std::tuple(u"Second"_qs, 6, 6)}) {
@@ -206,105 +213,69 @@ void BudgetRoundTripTest::looseTiesAreMended_data()
             survey.completed(QDate(2026, 1, day), {}, {}, {}, {});
             data.surveys.upsert(survey);
         }
-    }) << Check([](const Data &data) {
-        return std::ranges::all_of(data.surveys, [](const auto &entry) {
-            return entry.first.account.type == banking::BankAccountTypes::Loan &&
-                   entry.first == entry.second.bankAccount() &&
-                   entry.second.reconciled().reconciledOn() == QDate(2026, 1, 6);
-        });
-    }) << 2;
-    QTest::newRow("tie of an item that is gone") << Change([](Data &data) {
-        data.budget.bills.remove(rent);
-    }) << Check([](const Data &data) {
-        return !data.budgetAccountCodes.has<budgeting::Bill>(rent) &&
-               data.generalLedger.hasLedger(AccountNumber(1));
-    }) << 1;
-    QTest::newRow("empty name without an account; two choices are taken") << Change([](Data &data) {
-        data.budget.bills.rename(rent, unnamed);
-        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-        data.budget.nontracks.rename(rent, budgeting::BudgetSource(u"Unnamed bill"_qs));
-        data.budgetAccountCodes.remove<budgeting::Nontrack>(rent);
-        data.budgetAccountCodes.insertOrAssign<budgeting::Nontrack>(
-            budgeting::BudgetSource(u"Unnamed bill"_qs), AccountNumber(3));
-        data.budget.debts.rename(car, budgeting::BudgetSource(u"Unnamed bill 2 [Budget Item]"_qs));
-        data.budgetAccountCodes.remove<budgeting::Debt>(car);
-        data.budgetAccountCodes.insertOrAssign<budgeting::Debt>(
-            budgeting::BudgetSource(u"Unnamed bill 2 [Budget Item]"_qs), AccountNumber(2));
-    }) << Check([=](const Data &data) {
-        return accountOf(bill, data, budgeting::BudgetSource(u"Unnamed bill 3"_qs)) == 4;
-    }) << 2;
-    QTest::newRow("empty name; the account bears another, or is gone; a choice is an account's")
-        << Change([](Data &data) {
-               data.budget.bills.rename(rent, unnamed);
-               data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-               data.budgetAccountCodes.insertOrAssign<budgeting::Bill>(unnamed, AccountNumber(1));
-               data.generalLedger.recode(
-                   data.generalLedger.accountCode(AccountNumber(3)),
-                   {AccountNumber(3), QStringLiteral("Unnamed bill [Budget Item]"), {}});
-               data.budget.debts.rename(car, unnamed);
-               data.budgetAccountCodes.remove<budgeting::Debt>(car);
-               data.budgetAccountCodes.insertOrAssign<budgeting::Debt>(unnamed, AccountNumber(9));
-           })
-        << Check([=](const Data &data) {
-               const budgeting::BudgetSource named(u"Unnamed bill 2"_qs);
-               return accountOf(bill, data, named) == 1 &&
-                      data.generalLedger.accountCode(AccountNumber(1)).name() ==
-                          budgeting::itemAccountName(rent) &&
-                      accountOf(debt, data, budgeting::BudgetSource(u"Unnamed debt"_qs)) == 4;
-           })
-        << 3;
-    QTest::newRow("account found again: not the one of another kind, an open one first")
-        << Change([](Data &data) {
-               const QString name = budgeting::itemAccountName(rent);
-               accounting::SequentialAccountNumberGenerator generator;
-               data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-               data.generalLedger.remove(AccountNumber(1));
-               for (const auto &[number, type] :
-                    {std::pair(1U, AccountTypes::Asset), std::pair(7U, AccountTypes::Expense),
-                     std::pair(8U, AccountTypes::Expense), std::pair(9U, AccountTypes::Expense)})
-                   data.generalLedger.add({type,
-                                           {AccountNumber(number), name, {}},
-                                           numira::Money(numira::toCurrency("USD")),
-                                           false},
-                                          generator);
-               data.generalLedger.close(AccountNumber(7));
-               data.generalLedger.close(AccountNumber(8));
-           })
-        << Check([=](const Data &data) { return accountOf(bill, data, rent) == 9; }) << 1;
-    QTest::newRow("account found again: a closed one rather than none") << Change([](Data &data) {
-        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
+    };
+    row("surveys of another kind, one earlier and one later", addSurveys, 2,
+        "bill Rent 1, debt Car 2, nontrack Rent 3, First 2, Second 2, First 2 (loan) 6, Second 2 "
+        "(loan) 6; 3 of 3 accounts");
+    row(
+        "tie of an item that is gone", [](Data &data) { data.budget.bills.remove(rent); }, 1,
+        "debt Car 2, nontrack Rent 3, First 2, Second 2; 2 of 3 accounts");
+    const Change takeNames = [](Data &data) {
+        rename<Bill>(data, rent, unnamed);
+        rename<Nontrack>(data, rent, unnamedBill, 3);
+        rename<Debt>(data, car, BudgetSource(u"Unnamed bill 2 [Budget Item]"_qs), 2);
+    };
+    row("empty name without an account; two choices are taken", takeNames, 2,
+        "bill Unnamed bill 3 4, debt Unnamed bill 2 [Budget Item] 2 as Car [Budget Item], nontrack "
+        "Unnamed bill 3 as Rent [Budget Item], First 2, Second 2; 3 of 4 accounts");
+    const Change takeAccounts = [](Data &data) {
+        rename<Bill>(data, rent, unnamed, 1);
+        recode(data, 3, 3, u"Unnamed bill [Budget Item]"_qs);
+        rename<Debt>(data, car, unnamed, 9);
+    };
+    row("empty name; the account bears another, or is gone; a choice is an account's", takeAccounts,
+        3,
+        "bill Unnamed bill 2 1 as Rent [Budget Item], debt Unnamed debt 4, nontrack Rent 3 as "
+        "Unnamed bill [Budget Item], First 2, Second 2; 3 of 4 accounts");
+    const Change addAlike = [](Data &data) {
+        accounting::SequentialAccountNumberGenerator generator;
+        data.budgetAccountCodes.remove<Bill>(rent);
+        data.generalLedger.remove(AccountNumber(1));
+        for (const std::uint32_t number : {1U, 7U, 8U, 9U})
+            data.generalLedger.add({number == 1U ? AccountTypes::Asset : AccountTypes::Expense,
+                                    {AccountNumber(number), budgeting::itemAccountName(rent), {}},
+                                    numira::Money(numira::toCurrency("USD")),
+                                    false},
+                                   generator);
+        data.generalLedger.close(AccountNumber(7));
+        data.generalLedger.close(AccountNumber(8));
+    };
+    row("account found again: not the one of another kind, an open one first", addAlike, 1,
+        "bill Rent 9, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 6 accounts");
+    const Change closeLost = [](Data &data) {
+        data.budgetAccountCodes.remove<Bill>(rent);
         data.generalLedger.close(AccountNumber(1));
-    }) << Check([=](const Data &data) { return accountOf(bill, data, rent) == 1; })
-                                                                        << 1;
-    QTest::newRow("empty name; the account, tags and surveys follow it") << Change([](Data &data) {
-        data.budget.bills.rename(rent, unnamed);
-        data.budgetAccountCodes.remove<budgeting::Bill>(rent);
-        data.budgetAccountCodes.insertOrAssign<budgeting::Bill>(unnamed, AccountNumber(1));
-        data.generalLedger.recode(data.generalLedger.accountCode(AccountNumber(1)),
-                                  {AccountNumber(1), QStringLiteral(" [Budget Item]"), {}});
+    };
+    row("account found again: a closed one rather than none", closeLost, 1,
+        "bill Rent 1 closed, debt Car 2, nontrack Rent 3, First 2, Second 2; 3 of 3 accounts");
+    const Change unname = [](Data &data) {
+        rename<Bill>(data, rent, unnamed, 1);
+        recode(data, 1, 1, u" [Budget Item]"_qs);
         const budgeting::BudgetItemIdentifier id{budgeting::BudgetItemTypes::Bill, unnamed};
         data.itemTags.set(tagging::BudgetItemTags::ItemTags(id, {tagging::Tag(u"home"_qs)}));
         surveying::CompletedSurvey survey({}, numira::toCurrency("USD"));
         survey.completed(QDate(2026, 1, 1), {}, {{id, {}}}, {}, {});
         data.surveys.upsert(survey);
-        // The first choice of a name is taken.
-        recode(data, 3, 5);
-        data.generalLedger.recode(data.generalLedger.accountCode(AccountNumber(5)),
-                                  {AccountNumber(3), QStringLiteral("Unnamed bill"), {}});
-    }) << Check([=](const Data &data) {
-        const budgeting::BudgetSource named(QStringLiteral("Unnamed bill 2"));
-        const budgeting::BudgetItemIdentifier id{budgeting::BudgetItemTypes::Bill, named};
-        return accountOf(bill, data, named) == 1 && data.itemTags.contains(id) &&
-               data.generalLedger.accountCode(AccountNumber(1)).name() ==
-                   budgeting::itemAccountName(named) &&
-               data.surveys.begin()->second.distribution().contains(id);
-    }) << 1;
+        recode(data, 3, 3, unnamedBill.name()); // the first choice of a name is taken
+    };
+    row("empty name; the account, tags and surveys follow it", unname, 1,
+        "bill Unnamed bill 2 1, debt Car 2, nontrack Rent 3 as Unnamed bill, First 2, Second 2,  0 "
+        "(unknown) 1 for Unnamed bill 2, tags of Unnamed bill 2; 3 of 3 accounts");
 }
 
 void BudgetRoundTripTest::looseTiesAreMended()
 {
-    QFETCH(std::function<void(Data &)>, loosen);
-    QFETCH(std::function<bool(const Data &)>, isMended);
+    QFETCH(Change, loosen);
     QFETCH(int, warnings);
     const test::ScratchFolder folder;
     Data data = tiedBudget();
@@ -313,7 +284,7 @@ void BudgetRoundTripTest::looseTiesAreMended()
 
     const MessageLog log;
     const Data loaded = test::load(folder.path(u"a.budget"_qs));
-    QVERIFY(isMended(loaded));
+    QTEST(tiesIn(loaded), "mended");
     QCOMPARE(log.warnings().size(), warnings);
     QVERIFY2(!log.text().contains(u'%'), qPrintable(log.text()));
     test::store(folder.path(u"b.budget"_qs), loaded);

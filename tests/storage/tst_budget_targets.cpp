@@ -12,6 +12,7 @@ using namespace kiv;
 using storage::StorageFailure;
 using test::bankIn;
 using test::budget;
+using Making = std::function<void(const QByteArray &path)>;
 
 namespace {
 
@@ -44,8 +45,6 @@ private slots:
     void init() { begin(); }
     void refusedFilesStayAndTheOpenOneStaysOpen_data();
     void refusedFilesStayAndTheOpenOneStaysOpen();
-    void otherFilesAreNotOverwritten_data();
-    void otherFilesAreNotOverwritten();
     void whatMayNotBeWrittenStays_data();
     void whatMayNotBeWrittenStays();
     void whatIsInTheWayStays_data();
@@ -56,141 +55,95 @@ private slots:
 
 void BudgetTargetsTest::refusedFilesStayAndTheOpenOneStaysOpen_data()
 {
-    using Make = std::function<QString(const test::ScratchFolder &)>;
-    QTest::addColumn<Make>("make");
+    QTest::addColumn<QString>("name"); // "%" is the folder of the test
     QTest::addColumn<StorageFailure>("failure");
-    const auto row = [](const char *name, StorageFailure failure, const Make &make) {
-        QTest::newRow(name) << make << failure;
+    QTest::addColumn<Making>("make");
+    const auto row = [](const char *title, StorageFailure failure, const QString &name,
+                        const Making &make = {}) {
+        QTest::newRow(title) << name << failure << make;
     };
-    const auto withContent = [](auto content) {
-        return [content](const test::ScratchFolder &folder) {
-            folder.write(u"other.budget"_qs, content(folder.read(u"home.budget"_qs)));
-            return folder.path(u"other.budget"_qs);
+    using enum StorageFailure;
+    row("no name", NoName, {});
+    row("name with a zero", NoName, u"%/a"_qs + QChar(u'\0'));
+    row("name with half a character", NoName, u"%/"_qs + QChar(0xD800));
+    row("name too long", CannotRead, u"%/"_qs + QString(256, u'a'));
+    row("missing", NotFound, u"%/none.budget"_qs);
+    row("missing at the root", NotFound, u"/none.budget"_qs);
+    row("missing where we are", NotFound, u"none.budget"_qs);
+    row("missing folder", NotFound, u"%/none/a.budget"_qs);
+    row("file as a folder", NotFound, u"%/home.budget/a.budget"_qs);
+    row("folder", NotAFile, u"%/."_qs);
+    row("folder above", NotAFile, u"%/.."_qs);
+
+    const QString other = u"%/other.budget"_qs;
+    const auto link = [](const char *target) {
+        return [=](const QByteArray &path) { ::symlink(target, path); };
+    };
+    row("link to nothing", NotFound, other, link("nothing"));
+    row("link with a whole path", NotFound, other, link("/nothing"));
+    row("link to itself", CannotRead, other, link("other.budget"));
+    row("folder that leads to itself", CannotRead, u"%/loop/a.budget"_qs,
+        [](const QByteArray &path) { ::symlink("loop", path.first(path.lastIndexOf('/'))); });
+    row("folder with a name", NotAFile, other, [](const QByteArray &path) { ::mkdir(path, 0700); });
+    row("pipe", NotAFile, other, [](const QByteArray &path) { ::mkfifo(path, 0600); });
+    row("device", NotAFile, other, [](const QByteArray &path) {
+        // One of its own for root, who could lose the system's.
+        if (::mknod(path, S_IFCHR | 0600, makedev(1, 3)) != 0)
+            ::symlink("/dev/null", path);
+    });
+
+    const auto content = [](auto change) {
+        return [change](const QByteArray &path) {
+            QFile whole(QFileInfo(QFile::decodeName(path)).path() + u"/home.budget"_qs);
+            QFile file(QFile::decodeName(path));
+            QVERIFY(whole.open(QIODevice::ReadOnly) && file.open(QIODevice::WriteOnly));
+            file.write(change(whole.readAll()));
         };
     };
-    row("no name", StorageFailure::NoName, [](const auto &) { return QString(); });
-    row("name with a zero", StorageFailure::NoName,
-        [](const auto &folder) { return folder.path(u"a"_qs + QChar(u'\0')); });
-    row("name with half a character", StorageFailure::NoName,
-        [](const auto &folder) { return folder.path(QString(QChar(0xD800))); });
-    row("name too long", StorageFailure::CannotRead,
-        [](const auto &folder) { return folder.path(QString(256, u'a')); });
-    row("missing", StorageFailure::NotFound,
-        [](const auto &folder) { return folder.path(u"none.budget"_qs); });
-    row("missing at the root", StorageFailure::NotFound,
-        [](const auto &) { return u"/none.budget"_qs; });
-    row("missing where we are", StorageFailure::NotFound,
-        [](const auto &) { return u"none.budget"_qs; });
-    row("folder above", StorageFailure::NotAFile,
-        [](const auto &folder) { return folder.path(u".."_qs); });
-    row("link with a whole path", StorageFailure::NotFound, [](const auto &folder) {
-        const QString path = folder.path(u"whole.budget"_qs);
-        ::symlink(qPrintable(folder.path(u"nothing"_qs)), qPrintable(path));
-        return path;
-    });
-    row("missing folder", StorageFailure::NotFound,
-        [](const auto &folder) { return folder.path(u"none/a.budget"_qs); });
-    row("file as a folder", StorageFailure::NotFound,
-        [](const auto &folder) { return folder.path(u"home.budget/a.budget"_qs); });
-    row("folder that leads to itself", StorageFailure::CannotRead, [](const auto &folder) {
-        ::symlink("loop", qPrintable(folder.path(u"loop"_qs)));
-        return folder.path(u"loop/a.budget"_qs);
-    });
-    row("folder", StorageFailure::NotAFile,
-        [](const auto &folder) { return folder.path(u"."_qs); });
-    row("folder with a name", StorageFailure::NotAFile, [](const auto &folder) {
-        QDir().mkdir(folder.path(u"x.budget"_qs));
-        return folder.path(u"x.budget"_qs);
-    });
-    row("device", StorageFailure::NotAFile, [](const auto &folder) {
-        // One of its own for root, who could lose the system's.
-        const QString path = folder.path(u"device.budget"_qs);
-        return ::mknod(qPrintable(path), S_IFCHR | 0600, makedev(1, 3)) == 0 ? path
-                                                                             : u"/dev/null"_qs;
-    });
-    row("pipe", StorageFailure::NotAFile, [](const auto &folder) {
-        const QString path = folder.path(u"pipe.budget"_qs);
-        ::mkfifo(qPrintable(path), 0600);
-        return path;
-    });
-    row("link to itself", StorageFailure::CannotRead, [](const auto &folder) {
-        const QString path = folder.path(u"loop.budget"_qs);
-        ::symlink("loop.budget", qPrintable(path));
-        return path;
-    });
-    row("link to nothing", StorageFailure::NotFound, [](const auto &folder) {
-        const QString path = folder.path(u"link.budget"_qs);
-        ::symlink("nothing", qPrintable(path));
-        return path;
-    });
-    row("empty", StorageFailure::NotOurs, withContent([](auto) { return QByteArray(); }));
-    row("text", StorageFailure::NotOurs, withContent([](auto) { return QByteArray("Dear John"); }));
-    row("another database", StorageFailure::NotOurs,
-        withContent([](QByteArray bytes) { return bytes.replace(68, 4, "none"); }));
-    row("newer", StorageFailure::Newer,
-        withContent([](QByteArray bytes) { return bytes.replace(63, 1, "\2"); }));
-    row("cut short", StorageFailure::Damaged,
-        withContent([](const QByteArray &bytes) { return bytes.chopped(1); }));
-    row("too large", StorageFailure::TooLarge, [](const auto &folder) {
-        folder.write(u"other.budget"_qs, "x");
-        QFile::resize(folder.path(u"other.budget"_qs), 1LL << 40);
-        return folder.path(u"other.budget"_qs);
+    row("empty", NotOurs, other, content([](const QByteArray &) { return QByteArray(); }));
+    row("text", NotOurs, other, content([](const QByteArray &) { return "Dear John"; }));
+    row("another database", NotOurs, other,
+        content([](QByteArray bytes) { return bytes.replace(68, 4, "none"); }));
+    row("newer", Newer, other,
+        content([](QByteArray bytes) { return bytes.replace(63, 1, "\2"); }));
+    row("cut short", Damaged, other,
+        content([](const QByteArray &bytes) { return bytes.chopped(1); }));
+    row("too large", TooLarge, other, [](const QByteArray &path) {
+        QFile file(QFile::decodeName(path));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(1LL << 40));
     });
 }
 
 void BudgetTargetsTest::refusedFilesStayAndTheOpenOneStaysOpen()
 {
-    QFETCH(std::function<QString(const test::ScratchFolder &)>, make);
-    QFETCH(storage::StorageFailure, failure);
-    const QString other = make(*m_folder);
+    QFETCH(QString, name);
+    QFETCH(StorageFailure, failure);
+    QFETCH(Making, make);
+    const QString other = name.replace(u"%"_qs, m_folder->path({}));
+    if (make)
+        make(QFile::encodeName(other));
     const QStringList names = m_folder->names();
+    const bool isRead = failure != StorageFailure::TooLarge && QFileInfo(other).isFile();
+    const QByteArray before = isRead ? m_folder->read(u"other.budget"_qs) : QByteArray();
     QCOMPARE(loading(other), failure);
-    QCOMPARE(m_file->filePathName(), m_path);
-    // What is no file is not saved over either; others are another test's.
-    const bool isNoFile = failure == StorageFailure::NotAFile ||
-                          failure == StorageFailure::NoName ||
-                          failure == StorageFailure::CannotRead;
-    if (isNoFile)
-        QCOMPARE(storing(other, u"Second"_qs), failure);
-    QCOMPARE(m_folder->names(), names);
-    if (isNoFile)
+    // What is another's is not saved over; what was a budget becomes a backup of it.
+    const bool isSaved = isRead && (failure == StorageFailure::Damaged || before.isEmpty());
+    if (!isSaved && failure != StorageFailure::NotFound && failure != StorageFailure::TooLarge) {
+        QCOMPARE(storing(other, u"Third"_qs), failure);
         QCOMPARE(loading(other), failure);
-
+    }
+    QCOMPARE(m_file->filePathName(), m_path);
+    QCOMPARE(m_folder->names(), names);
     m_file->store(budget(u"Second"_qs));
+    if (isSaved) {
+        QCOMPARE(storing(other, u"Third"_qs), std::nullopt);
+        QCOMPARE(m_file->filePathName(), other);
+    }
+    if (isRead)
+        QCOMPARE(m_folder->read(isSaved ? u"other.budget.backup-1"_qs : u"other.budget"_qs),
+                 before);
     m_file.reset();
     QCOMPARE(bankIn(test::load(m_path)), u"Second"_qs);
-}
-
-void BudgetTargetsTest::otherFilesAreNotOverwritten_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<std::optional<StorageFailure>>("failure");
-    init();
-    const QByteArray whole = m_folder->read(u"home.budget"_qs);
-    const auto row = [](const char *name, const QByteArray &content,
-                        std::optional<StorageFailure> failure) {
-        QTest::newRow(name) << content << failure;
-    };
-    row("text", "Dear John", StorageFailure::NotOurs);
-    row("newer budget", QByteArray(whole).replace(63, 1, "\2"), StorageFailure::Newer);
-    row("empty", {}, std::nullopt);
-    row("damaged budget", whole.chopped(1), std::nullopt);
-    row("budget", whole, std::nullopt);
-}
-
-void BudgetTargetsTest::otherFilesAreNotOverwritten()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(std::optional<StorageFailure>, failure);
-    m_folder->write(u"other.budget"_qs, content);
-    const QString path = m_folder->path(u"other.budget"_qs);
-    QCOMPARE(storing(path, u"Second"_qs), failure);
-    if (failure) {
-        QCOMPARE(m_folder->read(u"other.budget"_qs), content);
-    } else {
-        QCOMPARE(m_folder->read(u"other.budget.backup-1"_qs), content);
-        QCOMPARE(m_file->filePathName(), path);
-    }
 }
 
 void BudgetTargetsTest::whatMayNotBeWrittenStays_data()
@@ -225,43 +178,36 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
         ::chmod(qPrintable(m_path), file);
         ::chmod(qPrintable(m_folder->path(u"."_qs)), folder);
     };
-    const auto said = [this](auto task) {
+    const auto said = [this](bool isSaving) {
         try {
             m_file->setFilePathName(m_path);
-            task();
+            isSaving ? m_file->store(budget(u"Second"_qs)) : void(m_file->load());
         } catch (const storage::StorageError &error) {
-            return error.what() == nullptr ? QString() : QString::fromUtf8(error.what());
+            return error.message();
         }
         return QString();
     };
-    QString saidOnReading;
-    QString saidOnSaving;
     setModes(folderMode, fileMode);
-    {
-        const Nobody nobody;
-        saidOnReading = said([this] { (void)m_file->load(); });
-        saidOnSaving = said([this] { m_file->store(budget(u"Second"_qs)); });
-    }
+    std::optional<Nobody> nobody(std::in_place);
+    const QString saidOnReading = said(false);
+    const QString saidOnSaving = said(true);
+    nobody.reset();
     setModes(0777, 0666);
-    const auto expected = [this](const QString &text) {
-        return text.contains(u'%') ? text.arg(m_path) : text;
-    };
-    QCOMPARE(saidOnReading, expected(reading));
-    QCOMPARE(saidOnSaving, expected(saving));
+    QCOMPARE(saidOnReading, reading.replace(u"%1"_qs, m_path));
+    QCOMPARE(saidOnSaving, saving.replace(u"%1"_qs, m_path));
     m_file.emplace();
     QCOMPARE(m_folder->names(), names);
     QCOMPARE(m_folder->read(u"home.budget"_qs), before);
-    const Nobody nobody;
+    nobody.emplace();
     QCOMPARE(loading(m_path), std::nullopt);
     QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
 }
 
 void BudgetTargetsTest::whatIsInTheWayStays_data()
 {
-    using Make = std::function<void(const QByteArray &)>;
     QTest::addColumn<QString>("name");
-    QTest::addColumn<Make>("make");
-    const auto row = [](const char *title, const QString &name, const Make &make) {
+    QTest::addColumn<Making>("make");
+    const auto row = [](const char *title, const QString &name, const Making &make) {
         QTest::newRow(title) << name << make;
     };
     const auto text = [](const QByteArray &content) {
@@ -286,7 +232,7 @@ void BudgetTargetsTest::whatIsInTheWayStays_data()
 void BudgetTargetsTest::whatIsInTheWayStays()
 {
     QFETCH(QString, name);
-    QFETCH(std::function<void(const QByteArray &)>, make);
+    QFETCH(Making, make);
     m_file.emplace(); // locks nothing any more
     make(QFile::encodeName(m_folder->path(name)));
     const QStringList names = m_folder->names();

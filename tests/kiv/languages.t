@@ -1,0 +1,206 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+The command in the languages and locales of its users, none of which need to be installed.
+
+  $ . "$TESTDIR/household.sh"
+  $ as() { locale=$1; shift; env -u LC_ALL -u LANG -u LANGUAGE $locale kiv "$@"; }
+  $ de() { as LC_ALL=de_DE.UTF-8 "$@"; }
+  $ es() { as LC_ALL=es_ES.UTF-8 "$@"; }
+  $ {
+  >   kiv configure set --preferred EUR --usable EUR --display symbol
+  >   kiv new
+  >   kiv bank add First
+  >   kiv bank-account add Checking --bank First --balance 1234.56 --date 2026-01-31
+  >   kiv bill add Rent 850.00 --next 2026-03-01
+  >   kiv wage add Salary 1500.10 --next 2026-03-02
+  >   kiv rates set EUR USD=1.25
+  > } >/dev/null
+  $ printf 'date,amount,text\n2026-02-01,0,x\n' >zero.csv
+  $ printf 'SQLite format 3' >short.budget
+
+Amounts, days and words are the user's:
+
+  $ de accounts
+  Nummer  Konto                                      Saldo
+       1  Assets:Checking                       1.234,56 €
+       2  Equity:Opening Balances EUR [Equity]  1.234,56 €
+       3  Expenses:Rent [Budget Item]               0,00 €
+       4  Income:Salary [Budget Item]               0,00 €
+  $ es ledger Checking
+  1 Checking
+  Número  Fecha       Descripción  Contrapartida                            Cambio      Saldo  Estado
+       1  31/01/2026               Equity:Opening Balances EUR [Equity]  1234,56 €  1234,56 €  pendiente
+  $ de bill list
+  Name    Betrag  Turnus     Nächster Termin  Schlagwörter
+  Rent  850,00 €  monatlich  01.03.2026
+  $ es bill list
+  Nombre   Importe  Frecuencia  Próxima fecha  Etiquetas
+  Rent    850,00 €  cada mes    01/03/2026
+  $ de check
+  Zusage                                           Ergebnis  Einzelheiten
+  Es ist eine Budgetdatei einer bekannten Version  gehalten
+  Ihre Tabellen sind die dieser Version            gehalten
+  Ihre Zeilen sind die, die geschrieben wurden     gehalten
+  Ihre Bücher folgen den Regeln des Hauptbuchs     gehalten
+  Posten, Konten und Banken passen zueinander      gehalten
+  Jeder Saldo ist die Summe seiner Buchungen       gehalten
+  In jeder Währung ist Soll gleich Haben           gehalten  1.234,56 EUR
+  Das Budget „household.budget“ ist unbeschädigt.
+  $ de check --json | jq -c '.promises[0]'
+  {"details":[],"promise":"identity","text":"Es ist eine Budgetdatei einer bekannten Version","verdict":"kept"}
+  $ de rates show | grep -o '1,25'
+  1,25
+  $ de history diff
+  Was     Name                    Änderung     Einzelheiten
+  Posten  Lohn Salary             hinzugefügt  1.500,10 EUR, monatlich, 02.03.2026
+  Konto   4 Salary [Budget Item]  hinzugefügt  0,00 EUR
+  $ de report | grep -o Einnahmen
+  Einnahmen
+  $ de due --date 2026-02-27
+  Fällig      Posten  Art           Betrag  Wann
+  01.03.2026  Rent    Rechnung    850,00 €  in 2 Tagen
+  02.03.2026  Salary  Lohn      1.500,10 €  in 3 Tagen
+  $ de due --date 2026-03-02
+  Fällig      Posten  Art           Betrag  Wann
+  01.03.2026  Rent    Rechnung    850,00 €  1 Tag überfällig
+  02.03.2026  Salary  Lohn      1.500,10 €  heute
+  $ es due --date 2026-02-26
+  Vence       Partida  Tipo       Importe  Cuándo
+  01/03/2026  Rent     factura   850,00 €  en 3 días
+  02/03/2026  Salary   salario  1500,10 €  en 4 días
+  $ kiv due --date 2026-03-02
+  Due         Item    Kind     Amount  When
+  2026-03-01  Rent    bill    €850.00  1 day late
+  2026-03-02  Salary  wage  €1,500.10  today
+
+So are refusals and help:
+
+  $ de ledger Nothing
+  kiv: Es gibt kein Konto „Nothing“; kiv accounts zählt auf, welche es gibt.
+  [1]
+  $ es ledger Nothing
+  kiv: No hay ninguna cuenta «Nothing»; kiv accounts enumera las que hay.
+  [1]
+  $ de bank close Nothing
+  kiv: Es gibt keine Bank „Nothing“; kiv banks zählt auf, welche es gibt.
+  [1]
+  $ de bil add
+  kiv: „bil“ ist kein Befehl; war „bill“ gemeint?
+  [2]
+  $ de bill add
+  kiv: NAME ist nötig.
+  [2]
+  $ de accounts --file short
+  kiv: Die Datei „short.budget“ ist beschädigt und wurde nicht geladen. Ursache: Ihr Kopf ist beschädigt.
+  [1]
+  $ de bill add --help | grep every
+    --every TEXT                Wie oft es wiederkehrt, etwa monthly
+  $ es bill add --help | head -1
+  Añade una partida
+
+A language that is not spoken, a second choice, and a locale for numbers or days alone:
+
+  $ as LC_ALL=fr_FR.UTF-8 ledger Checking
+  1 Checking
+  Number  Date        Description  Other account                             Change     Balance  Status
+       1  31/01/2026               Equity:Opening Balances EUR [Equity]  1 234,56 €  1 234,56 €  none
+  $ for locale in 'LANG=fr_FR.UTF-8 LANGUAGE=fr:es' 'LANG=en_GB.UTF-8 LANGUAGE=en_GB:de' \
+  >     LANG=de_AT.UTF-8 'LANG=C.UTF-8 LANGUAGE=de' LC_ALL=tlh_KX.UTF-8 \
+  >     'LC_ALL=../../etc LANGUAGE=../..'; do
+  >   as "$locale" ledger Nothing
+  > done
+  kiv: No hay ninguna cuenta «Nothing»; kiv accounts enumera las que hay.
+  kiv: There is no account 'Nothing'; kiv accounts lists those that there are.
+  kiv: Es gibt kein Konto „Nothing“; kiv accounts zählt auf, welche es gibt.
+  kiv: There is no account 'Nothing'; kiv accounts lists those that there are.
+  kiv: There is no account 'Nothing'; kiv accounts lists those that there are.
+  kiv: There is no account 'Nothing'; kiv accounts lists those that there are.
+  [1]
+  $ for locale in 'LANG=C.UTF-8 LANGUAGE=de' 'LANG=en_US.UTF-8 LANGUAGE=de' \
+  >     'LANG=de_DE.UTF-8 LC_NUMERIC=en_US.UTF-8'; do
+  >   as "$locale" accounts | grep Checking
+  > done
+       1  Assets:Checking                       €1,234.56
+       1  Assets:Checking                       €1,234.56
+       1  Assets:Checking                       €1,234.56
+  $ as 'LANG=de_DE.UTF-8 LC_TIME=C' ledger Checking | grep 2026
+       1  2026-01-31                Equity:Opening Balances EUR [Equity]  1.234,56 €  1.234,56 €  offen
+
+What other programs read is the same in every language, but for sentences:
+
+  $ for line in accounts 'ledger Checking' 'bill list' banks info 'due --date 2026-03-01' \
+  >     'templates list' dashboard 'survey show First Checking --date 2026-03-01' \
+  >     'configure show' 'rates show' check history 'history diff' \
+  >     'import zero.csv --into Checking --against 3 --dry-run'; do
+  >   for locale in C de_DE es_MX; do
+  >     as LC_ALL=$locale.UTF-8 $line --json | jq -c 'del(.. | .text?, .details?, .notices?)'
+  >   done | uniq -c | sed 's/^ *\([0-9]*\) .*/\1/'
+  > done | uniq -c
+       15 3
+  $ for format in journal csv json; do
+  >   for locale in C de_DE es_MX; do
+  >     as LC_ALL=$locale.UTF-8 export --format $format | sha256sum
+  >   done | uniq | wc -l
+  > done
+  1
+  1
+  1
+
+Numbers and days are taken as the user writes them:
+
+  $ added() { locale=$1; shift; as LC_ALL=$locale.UTF-8 bill add Test "$@" --dry-run --json; }
+  $ taken() { added "$@" | jq -c '[.amount.amount, .next]'; }
+  $ taken de_DE 1.234,50 --next 05.03.2026
+  ["1234.50","2026-03-05"]
+  $ taken de_DE '12,5 EUR' --next 2026-03-05
+  ["12.50","2026-03-05"]
+  $ taken de_DE 1234.50 --next 2026-03-05
+  ["1234.50","2026-03-05"]
+  $ taken es_MX 1,234.50 --next 05/03/2026
+  ["1234.50","2026-03-05"]
+  $ added de_DE 1.234
+  kiv: „1.234“ hat mehr Nachkommastellen als die 2 von EUR.
+  [2]
+  $ added de_DE 1,234.50
+  kiv: „1,234.50“ ist kein Betrag; richtig ist etwa 1234.50 oder '1234.50 USD'.
+  [2]
+  $ added de_DE 1 --next 03/05/2026
+  kiv: „03/05/2026“ ist kein Datum; richtig ist etwa 2026-03-31, mit einem Tag, den es gibt.
+  [2]
+  $ added C 12,50
+  kiv: '12,50' is not an amount; write one like 1234.50 or '1234.50 USD'.
+  [2]
+
+A file is read alike everywhere, so in it the locale's forms are refused:
+
+  $ load() {
+  >   printf '[{"date": "%s", "debit": 3, "credit": 1, "amount": "%s"}]' "$@" |
+  >     de transaction load - --dry-run
+  > }
+  $ load 2026-03-05 12.50
+  1 Buchung ausgeführt.
+  Dies war ein Probelauf: Nichts ist gespeichert.
+  $ load 2026-03-05 12,50
+  kiv: Buchung 1 von „-“ ist nicht zu verstehen: „12,50“ ist kein Betrag; richtig ist etwa 1234.50 oder '1234.50 USD'.
+  [1]
+  $ load 05.03.2026 12.50
+  kiv: Buchung 1 von „-“ ist nicht zu verstehen: „05.03.2026“ ist kein Datum; richtig ist etwa 2026-03-31, mit einem Tag, den es gibt.
+  [1]
+
+Questions are answered in the user's letters:
+
+  $ for answer in C:y de_DE:j es_ES:s; do
+  >   printf '%s\n1234.56\n\n\n\ny\n' "${answer#*:}" |
+  >     as LC_ALL=${answer%:*}.UTF-8 survey run First Checking --date 2026-02-01 --dry-run 2>&1 |
+  >     grep -o '\[./n\]' | head -1
+  > done
+  [y/n]
+  [j/n]
+  [s/n]
+
+A description is written once, in the language of who posts:
+
+  $ de post Rent --account Checking --date 2026-03-01 >/dev/null
+  $ es transactions --from 2026-03-01
+  Número  Fecha       Descripción                                          Debe                         Haber             Importe
+       2  01/03/2026  Budgetposten verarbeitet, fällig am Sun Mar 1 2026.  Expenses:Rent [Budget Item]  Assets:Checking  850,00 €
