@@ -297,20 +297,57 @@ QString FaultRig::brokenPromise(const Rows::value_type &row, Fault::Place place,
                                   broken.join(u"; "_qs);
 }
 
-Rows rigRequests()
+void addStates()
 {
+    QTest::addColumn<Request>("prepare");
+    for (const auto &[name, prepare] : allStates())
+        QTest::newRow(name.constData()) << prepare;
+}
+
+void checkRequests(Fault::Place place, int runs)
+{
+    QFETCH(const Request, prepare);
+    const bool isMemory = place == Fault::Place::Memory;
     Rows rows = allRequests();
+    // The first step of these is silent, so that nobody can tell where it ends.
     std::erase_if(rows, [](const auto &row) {
         return row.first.contains("when empty") || row.first.contains("without a file") ||
                row.first.startsWith("more ");
     });
-    rows.push_back({"network: fetch rates",
-                    [](Navigator &n) { n.onFetchExchangeRates({numira::toCurrency("EUR")}); }});
-    rows.push_back({"network: refresh rates", [](Navigator &n) {
-                        QMetaObject::invokeMethod(&n, "updateAllExpiredExchangeRates");
-                    }});
-    rows.push_back({"network: release notes", [](Navigator &n) { n.onFetchReleaseNotes(); }});
-    return rows;
+    // Qt's own connections between objects do not survive want of memory.
+    if (!isMemory) {
+        const auto fetch = [](Navigator &n) {
+            n.onFetchExchangeRates({numira::toCurrency("EUR")});
+        };
+        const auto refresh = [](Navigator &n) {
+            QMetaObject::invokeMethod(&n, "updateAllExpiredExchangeRates");
+        };
+        rows.push_back({"network: fetch rates", fetch});
+        rows.push_back({"network: refresh rates", refresh});
+        rows.push_back({"network: release notes", [](Navigator &n) { n.onFetchReleaseNotes(); }});
+    }
+    FaultRig rig(prepare);
+    QStringList broken;
+    long trials = 0;
+    for (const auto &row : rows) {
+        const long calls = rig.callsOf(row, place);
+        const long step = isMemory ? std::max(1L, calls / runs) : 1;
+        for (long due = 1 + trials % step; due <= calls; due += step) {
+            for (int i = 0; i < (isMemory ? 1 : runs); ++i) {
+                const auto kind = isMemory ? Fault::Kind::Memory : Fault::Kind(trials % 3);
+                ++trials;
+                const QString promise = rig.brokenPromise(row, place, kind, due);
+                if (!promise.isEmpty())
+                    broken.append(QStringLiteral("%1, call %2 of %3, kind %4: %5")
+                                      .arg(QString::fromUtf8(row.first), QString::number(due),
+                                           QString::number(calls), QString::number(int(kind)),
+                                           promise));
+            }
+        }
+    }
+    qInfo() << trials << "faults";
+    QVERIFY2(broken.isEmpty(), qPrintable(broken.join(u'\n')));
+    QVERIFY(trials > 200);
 }
 
 } // namespace kiv::test

@@ -39,8 +39,12 @@ private:
     std::optional<QString> m_thrown;
 };
 
-/// The requests, those to the network as well. Left out are the few whose first step is
-/// silent, so that nobody can tell where it ends, and the "more" that take the same ways.
-[[nodiscard]] Rows rigRequests();
+/// A row for each state of a budget.
+void addStates();
+
+/// Makes all requests in the state of the row, those to the network as well, and lets
+/// their calls fail: each call with so many of the three kinds of error, in turn, or
+/// memory at so many of the places that ask for some.
+void checkRequests(Fault::Place place, int runs);
 
 } // namespace kiv::test

@@ -29,13 +29,6 @@ qsizetype openFiles()
     return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
 }
 
-/// A single shot whose receiver is gone takes memory until its time has come, at most
-/// for the five seconds before the first look for a release.
-void letShotsPass()
-{
-    QTest::qWait(5'500);
-}
-
 /// Qt keeps the room of as many timers as ever waited at once.
 void makeRoomForTimers()
 {
@@ -73,7 +66,6 @@ private slots:
         qsizetype files = 0;
         for (int cycle = 0; cycle < cycles; ++cycle) {
             if (cycle == cycles / 10) {
-                letShotsPass();
                 memory = memoryInUse();
                 files = openFiles();
             }
@@ -92,7 +84,9 @@ private slots:
             navigator->onSaveBudgetFile();
             QCoreApplication::processEvents();
         }
-        letShotsPass();
+        // A single shot whose receiver is gone takes memory until its time has come, at
+        // most for the five seconds before the first look for a release.
+        QTest::qWait(5'500);
         qInstallMessageHandler(nullptr);
         qInfo() << "Grown by" << memoryInUse() - memory << "bytes.";
         // No object, however small, stays behind each time.

@@ -15,46 +15,10 @@ class MemoryFaults : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyFailureLeavesNoTrace_data();
-    void everyFailureLeavesNoTrace();
+    void everyFailureLeavesNoTrace_data() { addStates(); }
+    void everyFailureLeavesNoTrace() { checkRequests(Fault::Place::Memory, randomRuns(3)); }
     void aWorkerThatWantsMemoryEndsNothing();
 };
-
-void MemoryFaults::everyFailureLeavesNoTrace_data()
-{
-    QTest::addColumn<Request>("prepare");
-    for (const auto &[name, prepare] : allStates())
-        QTest::newRow(name.constData()) << prepare;
-}
-
-void MemoryFaults::everyFailureLeavesNoTrace()
-{
-    QFETCH(const Request, prepare);
-    FaultRig rig(prepare);
-    QStringList broken;
-    long trials = 0;
-    const int perRequest = randomRuns(3);
-    for (const auto &row : rigRequests()) {
-        // Qt's own connections between objects do not survive it.
-        if (row.first.startsWith("network"))
-            continue;
-        const long calls = rig.callsOf(row, Fault::Place::Memory);
-        const long step = std::max(1L, calls / perRequest);
-        for (long due = 1 + trials % step; due <= calls; due += step) {
-            ++trials;
-            const QString promise =
-                rig.brokenPromise(row, Fault::Place::Memory, Fault::Kind::Memory, due);
-            if (!promise.isEmpty())
-                broken.append(QStringLiteral("%1, place %2 of %3: %4")
-                                  .arg(QString::fromUtf8(row.first), QString::number(due),
-                                       QString::number(calls), promise));
-        }
-    }
-    qInfo() << trials << "faults";
-    if (!broken.isEmpty())
-        QTextStream(stderr) << broken.join(u'\n') << '\n';
-    QVERIFY(broken.isEmpty() && trials > 200);
-}
 
 void MemoryFaults::aWorkerThatWantsMemoryEndsNothing()
 {
