@@ -242,6 +242,10 @@ void SaveFaultsTest::whateverIsMetIsToldRight_data()
     row("writes cut short", {"write", 1, 0, CannotWrite, {}, 1000});
     row("another byte read back", {"pread", 1, 0, CannotWrite});
     row("nothing read back", {"pread", 1, 0, CannotWrite, {}, 1000});
+    // Where no file can be without a name, it has one.
+    row("no nameless files", {"openat", 1, EISDIR, {}});
+    row("nobody knows of nameless files", {"openat", 1, ENOENT, {}});
+    row("no new files", {"openat", 1, EACCES, CannotWrite});
     // While the new version is synchronised, before the old one is replaced.
     row("written to", {"fsync", 1, 0, ChangedOnDisk, write(name, 4), 1, 4});
     row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
