@@ -31,7 +31,7 @@ QStringList hostileNames()
             names.append(QString::fromUtf16(frame).replace(u'%', piece));
     }
     // Last, since the account of the first name stands in every transaction.
-    names.append(QString(500'000, u'n') + QString(500'000, QChar(0x202e)));
+    names.append(QString(100'000, u'n') + QString(100'000, QChar(0x202e)));
     return names;
 }
 

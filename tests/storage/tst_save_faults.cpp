@@ -246,6 +246,10 @@ void SaveFaultsTest::whateverIsMetIsToldRight_data()
     row("no nameless files", {"openat", 1, EISDIR, {}});
     row("nobody knows of nameless files", {"openat", 1, ENOENT, {}});
     row("no new files", {"openat", 1, EACCES, CannotWrite});
+    row("reading back interrupted", {"pread", 1, EINTR, {}});
+    row("no reading back", {"pread", 1, EIO, CannotWrite});
+    row("no link to the old version", {"linkat", 2, EIO, CannotWrite});
+    row("attributes that grow meanwhile", {"flistxattr", 2, ERANGE, {}});
     // While the new version is synchronised, before the old one is replaced.
     row("written to", {"fsync", 1, 0, ChangedOnDisk, write(name, 4), 1, 4});
     row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
