@@ -309,7 +309,8 @@ void checkRequests(Fault::Place place, int runs)
     QFETCH(const Request, prepare);
     const bool isMemory = place == Fault::Place::Memory;
     Rows rows = allRequests();
-    // The first step of these is silent, so that nobody can tell where it ends.
+    // Left out are those whose first step is silent, so that nobody can tell where it ends,
+    // and those that take the same ways as others.
     std::erase_if(rows, [](const auto &row) {
         return row.first.contains("when empty") || row.first.contains("without a file") ||
                row.first.startsWith("more ");
