@@ -9,30 +9,11 @@ What other programs are given.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv transaction reconcile 2
   Reconciled the transaction 2.
-  $ kiv export
-  ; kiv journal, version 1
-  commodity USD
-      format 1000.00 USD
-  
-  account Assets:Checking
-      ; number: 1, currency: USD
-  account Equity:Opening Balances USD [Equity]
-      ; number: 2, currency: USD
-  account Expenses:Rent [Budget Item]
-      ; number: 3, currency: USD
-  account Income:Salary [Budget Item]
-      ; number: 4, currency: USD
-  
-  2026-01-01 (1) 
-      Assets:Checking  2500.00 USD
-      Equity:Opening Balances USD [Equity]  -2500.00 USD
-  
+  $ kiv export | tail -3
   2026-01-31 (2) Processed the budget item due on Sat Jan 31 2026.
       * Expenses:Rent [Budget Item]  1250.00 USD
       * Assets:Checking  -1250.00 USD
-  $ kiv export --format csv | tr '\r' '~'
-  number,date,debit,debitAccount,credit,creditAccount,amount,currency,description,debitStatus,creditStatus~
-  "1","2026-01-01","1","Assets:Checking","2","Equity:Opening Balances USD [Equity]","2500.00","USD","","none","none"~
+  $ kiv export --format csv | tail -1 | tr '\r' '~'
   "2","2026-01-31","3","Expenses:Rent [Budget Item]","1","Assets:Checking","1250.00","USD","Processed the budget item due on Sat Jan 31 2026.","reconciled","reconciled"~
   $ kiv export --format json | jq -c '.format, .version, .banks[], .items[], .transactions[1]'
   "kiv-export"
@@ -64,22 +45,7 @@ and that are never told raw:
   > Zürich 食費
   > .
   $ printf '\033[31mred\n\342\200\256turned\n' >>names
-  $ sed 's/"/\\&/g; s/.*/account add "&" --type expense --currency USD/' names | kiv shell
-  Added the account 5 Food.
-  Added the account 6 Food.
-  Added the account 7 Food 7.
-  Added the account 8 A:B.
-  Added the account 9 two  blanks.
-  Added the account 10 ; no comment.
-  Added the account 11 =SUM(A1).
-  Added the account 12 +1.
-  Added the account 13 @home.
-  Added the account 14 (virtual).
-  Added the account 15 [Budget Item].
-  Added the account 16 * star.
-  Added the account 17 12.00 USD.
-  Added the account 18 "quoted".
-  Added the account 19 Zürich 食費.
+  $ sed 's/"/\\&/g; s/.*/account add "&" --type expense --currency USD/' names | kiv shell | tail -2
   Added the account 20 \u{001B}[31mred.
   Added the account 21 \u{202E}turned.
   $ kiv account add 'line
@@ -89,7 +55,7 @@ and that are never told raw:
 Accounts of the other kinds and in other currencies, and a thousand transactions from each
 account to each other one:
 
-  $ kiv shell <<.
+  $ kiv shell <<. >/dev/null
   > account add "=SUM(A1)" --type asset --under Checking --currency USD
   > account add Card --type liability --currency USD --balance 120.55
   > account add Euros --type asset --currency EUR --balance 99.01
@@ -97,16 +63,6 @@ account to each other one:
   > account add Dinar --type asset --currency KWD --balance 1.234
   > rates set USD EUR=0.92 JPY=150 KWD=0.31
   > .
-  Added the account 23 =SUM(A1).
-  Added the account 24 Card.
-  Added the account 25 Euros.
-  Added the account 27 Yen.
-  Added the account 29 Dinar.
-  For 1 USD, as of ????-??-??T??:??:??Z (glob)
-  Currency  Rate  Date        Source
-  JPY       150   ????-??-??  typed (glob)
-  KWD       0.31  ????-??-??  typed (glob)
-  EUR       0.92  ????-??-??  typed (glob)
   $ kiv accounts --json | jq --rawfile names names '
   >     ($names | split("\n") | .[-1] = "line\nbreak") as $names | . as $accounts | length as $n |
   >     [range(1000) | $accounts[. % $n] as $debit | {
@@ -127,37 +83,6 @@ Both tools find the same balances in the journal:
   $ kiv export >export.journal
   $ peer ledger export.journal | diff own -
   $ peer hledger export.journal | diff own -
-  $ cat own
-  Assets:Checking  -7720.68 USD
-  Assets:Checking:=SUM(A1)  4764.24 USD
-  Assets:Dinar  61309.959 KWD
-  Assets:Euros  -9476.48 EUR
-  Assets:Yen  -14530643 JPY
-  Equity:Opening Balances EUR [Equity]  -7962.31 EUR
-  Equity:Opening Balances JPY [Equity]  -15415676 JPY
-  Equity:Opening Balances KWD [Equity]  57325.711 KWD
-  Equity:Opening Balances USD [Equity]  -15086.12 USD
-  Expenses:"quoted"  -17153.8 USD
-  Expenses:(virtual)  -12498.91 USD
-  Expenses:* star  -4810.01 USD
-  Expenses:+1  -13772.57 USD
-  Expenses:, no comment  -14559.26 USD
-  Expenses:12.00 USD  -18204.73 USD
-  Expenses:=SUM(A1)  -10447.6 USD
-  Expenses:@home  -4293.99 USD
-  Expenses:A-B  -3866.05 USD
-  Expenses:Food 5  -2274.77 USD
-  Expenses:Food 6  -17250.19 USD
-  Expenses:Food 7  -5693.21 USD
-  Expenses:Rent [Budget Item]  463.29 USD
-  Expenses:Zürich 食費  12018.35 USD
-  Expenses:[Budget Item]  -2520.4 USD
-  Expenses:\u{001B}[31mred  -12058.12 USD
-  Expenses:\u{202E}turned  -10937.87 USD
-  Expenses:line break  5217.66 USD
-  Expenses:two blanks  6775.64 USD
-  Income:Salary [Budget Item]  -7765.03 USD
-  Liabilities:Card  -12424.3 USD
 
 They see one that is forged:
 

@@ -84,3 +84,13 @@ let_go() {
     exec 3>&-
     wait $!
 }
+
+# each STATUS: each line is a command of kiv, and all end with the status.
+each() {
+    wanted=$1
+    while read -r line; do
+        eval "kiv $line" </dev/null
+        set -- $?
+        [ "$1" = "$wanted" ] || echo "[$1] $line" >&2
+    done
+}

@@ -39,22 +39,17 @@ Reports come in three forms, and as JSON.
   $ kiv report --html --chart
   kiv: Use either --html or --chart, not both.
   [2]
-  $ kiv report --html --json
-  kiv: Use either --html or --json, not both.
-  [2]
 
 A chart is as wide as the terminal. What is hardly anything is seen, and what is owed lies to
 the left of what is owned:
 
-  $ kiv pay Rent 0.01 --account Checking --date 2026-02-20
-  Posted $0.01 for the bill 'Rent', which is still due on 2026-02-28.
-  $ kiv pay Rent 1250.01 --account Checking --date 2026-03-20
-  Posted $1,250.01 for the bill 'Rent', which is still due on 2026-02-28.
-  $ kiv pay Rent 1000.00 --account Checking --date 2026-04-20
-  Posted $1,000.00 for the bill 'Rent', which is still due on 2026-02-28.
-  $ kiv pay Salary 1000.03 --account Checking --date 2026-05-20
-  Posted $1,000.03 for the wage 'Salary', which is still due on 2026-01-25.
-  $ kiv report --chart --from 2026-01-01 --to 2026-05-31
+  $ each 0 <<'.' >/dev/null
+  > pay Rent 0.01 --account Checking --date 2026-02-20
+  > pay Rent 1250.01 --account Checking --date 2026-03-20
+  > pay Rent 1000.00 --account Checking --date 2026-04-20
+  > pay Salary 1000.03 --account Checking --date 2026-05-20
+  > .
+  $ kiv report --chart --from 2026-01-01 --to 2026-05-31 | head -20
   Net worth over time, USD
   2026-01                            █████████████████████████████████  $1,250.00
   2026-02                            █████████████████████████████████  $1,249.99
@@ -73,18 +68,5 @@ the left of what is owned:
   2026-04                                                                   $0.00
           ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒             $1,000.00
   2026-05 █████████████████████████████████████████████████             $1,000.03
-                                                                            $0.00
-  
-  Budget against actual, USD
-          ██ Planned   ▒▒ Actual
-  2026-01 █████████████████████████████████████████████████████████████ $1,250.00
-          ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒ $1,250.00
-  2026-02 █████████████████████████████████████████████████████████████ $1,250.00
-          ▏                                                                 $0.01
-  2026-03 █████████████████████████████████████████████████████████████ $1,250.00
-          ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒ $1,250.01
-  2026-04 █████████████████████████████████████████████████████████████ $1,250.00
-          ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒             $1,000.00
-  2026-05 █████████████████████████████████████████████████████████████ $1,250.00
                                                                             $0.00
   

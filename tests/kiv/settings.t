@@ -26,21 +26,9 @@ Help needs nothing and leaves nothing:
     --dry-run                   Show the result, save nothing
     --verbose                   Show the log on standard error
   
-  $ env LC_ALL=de_DE.UTF-8 kiv bank rename --help
+  $ env LC_ALL=de_DE.UTF-8 kiv bank rename --help | head -2
   Eine Bank umbenennen
   Aufruf: kiv bank rename [OPTIONEN] BANK NEUER-NAME
-  
-  Argumente:
-    BANK NÖTIG                  Name der Bank
-    NEUER-NAME NÖTIG            Neuer Name
-  
-  Optionen:
-    -h,--help                   Diese Hilfe zeigen
-    --file DATEI                Budgetdatei (Standard: die Variable KIV_FILE)
-    --json                      JSON ausgeben, für Programme
-    --dry-run                   Das Ergebnis zeigen, nichts speichern
-    --verbose                   Das Protokoll auf der Fehlerausgabe zeigen
-  
   $ kiv --version
   kiv 1.* (glob)
   $ ls -A
@@ -48,27 +36,8 @@ Help needs nothing and leaves nothing:
 The tour ends well and leaves nothing either:
 
   $ kiv tour >tour 2>errors
-  $ sed -n '/^\$/ { s/^\$ //; s/20..-..-../some day/; p }' tour
-  kiv configure set --preferred USD --usable USD --display code
-  kiv new
-  kiv bank add 'First Bank'
-  kiv bank-account add Checking --bank 'First Bank' --balance 2500.00
-  kiv wage add Salary 3100.00 --next some day
-  kiv bill add Rent 1250.00 --next some day
-  kiv bill add Electricity 84.35 --next some day
-  kiv bill add Gym 29.90 --tag sport --next some day
-  kiv bill add 'Car tax' 360.00 --every yearly --next some day
-  kiv bill rename Gym 'Fitness studio'
-  kiv due
-  kiv post --all --account Checking
-  kiv skip 'Fitness studio'
-  kiv pay Electricity 19.10 --account Checking
-  kiv account add Rent --type expense
-  kiv bill list
-  kiv ledger Checking
-  kiv accounts
-  kiv dashboard
-  kiv info
+  $ grep -c '^\$ kiv' tour
+  20
   $ grep 'equals the sum of all credits' tour
   The sum of all debits equals the sum of all credits.
   $ cat errors
@@ -152,9 +121,6 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   $ kiv configure set --notify-within 61
   kiv: The number of days to notify within must be between 0 and 60.
   [1]
-  $ kiv configure set
-  kiv: No change given; see --help.
-  [2]
   $ settings() { kiv configure "$@" --json | jq -c .; }
   $ settings show
   {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"EUR","surveyWindowPercent":2.75,"usableCurrencies":["USD","EUR"]}
@@ -162,25 +128,12 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.75,"usableCurrencies":["JPY","USD","EUR"]}
   $ settings set --usable JPY
   {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.75,"usableCurrencies":["JPY"]}
-  $ settings set --survey-window 2.5
-  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
-  $ settings set --hours 30
-  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
-  $ settings set --days 4
-  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
-  $ settings set --display both
+  $ settings set --survey-window 2.5 --hours 30 --days 4 --display both
   {"currenciesDisplayAs":"Symbol and Code","daysInWeek":4,"hoursInWeek":30,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.5,"usableCurrencies":["JPY"]}
-  $ kiv configure show --verbose
+  $ kiv configure show --verbose >/dev/null
   kiv: User system locale "C"
   kiv: The first update check will occur in 5000ms
   kiv: Starting update check with the interval of 3600000ms
-  Preferred currency              JPY
-  Usable currencies               JPY
-  Display of currencies           Symbol and Code
-  Due items shown ahead, in days  30
-  Survey window                   2.5 %
-  Work hours a week               30
-  Work days a week                4
   $ kiv bill list
   Name        Amount  Every    Next        Tags
   Miete  €700.00 EUR  monthly  2026-02-01

@@ -34,20 +34,9 @@ A statement is previewed, posted, and known again:
   Entries with amount zero are skipped.
   Transactions posted: 4; duplicates skipped: 0; accounts opened: 0.
   Dry run: nothing is saved.
-  $ first --json | jq -c 'del(.transactions), .transactions[]'
+  $ first --json | jq -c 'del(.transactions), .transactions[0]'
   {"accounts":[],"duplicates":0,"notices":["Entries with amount zero are skipped."],"posted":4}
   {"amount":{"amount":"1012.50","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-05","debit":5,"debitPath":"Expenses:Food","debitStatus":"none","description":"REWE","duplicate":false,"line":2}
-  {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":3}
-  {"amount":{"amount":"3.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-06","debit":6,"debitPath":"Expenses:Other","debitStatus":"none","description":"Coffee","duplicate":false,"line":4}
-  {"amount":{"amount":"20.00","currency":"USD"},"credit":6,"creditPath":"Expenses:Other","creditStatus":"none","date":"2026-01-08","debit":1,"debitPath":"Assets:Checking","debitStatus":"none","description":"Refund","duplicate":false,"line":6}
-  $ kiv ledger Checking
-  1 Checking
-  Number  Date        Description  Other account                             Change    Balance  Status
-       1  2026-01-01               Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
-       2  2026-01-05  REWE         Expenses:Food                         -$1,012.50  $1,487.50  none
-       3  2026-01-06  Coffee       Expenses:Other                            -$3.00  $1,484.50  none
-       4  2026-01-06  Coffee       Expenses:Other                            -$3.00  $1,481.50  none
-       5  2026-01-08  Refund       Expenses:Other                            $20.00  $1,501.50  none
 
 A third coffee is new; the other entries were there before:
 
@@ -65,14 +54,6 @@ What changes nothing is not saved, and keeps the former versions:
   $ cmp household.budget.backup-1 formerly
   $ again --keep-duplicates | tail -1
   Transactions posted: 5; duplicates skipped: 0; accounts opened: 0.
-  $ kiv accounts
-  Number  Account                                 Balance
-       1  Assets:Checking                         $497.00
-       2  Equity:Opening Balances USD [Equity]  $2,500.00
-       5  Expenses:Food                         $2,025.00
-       6  Expenses:Other                          -$22.00
-       3  Expenses:Rent [Budget Item]               $0.00
-       4  Income:Salary [Budget Item]               $0.00
 
 The bank's own identifiers tell what is there already:
 
@@ -181,12 +162,6 @@ What cannot be read is refused, with its line:
   $ sed '3s/STMTTRN>$/STMTRN>/' s.ofx | bank bad.ofx
   kiv: 'bad.ofx', line 3: </STMTRN> does not close <STMTTRN>, which opens on line 3.
   [1]
-  $ sed 's/USD/EUR/' s.ofx | bank bad.ofx
-  kiv: 'bad.ofx', line 2: The amount is in EUR, but the account is in USD.
-  [1]
-  $ printf 'Date,Amount,Text\n2026-01-05,1,caf\351\n' | bank bad.csv
-  kiv: 'bad.csv', line 2: The file is not valid UTF-8 here; name its encoding with --encoding.
-  [1]
   $ echo x | bank s.bin
   kiv: Cannot tell the format of 's.bin'; use --format: journal, csv, ofx or qif.
   [2]
@@ -213,33 +188,16 @@ So are options that do not fit:
   $ kiv import s.csv --into Checking --profile none
   kiv: There is no profile 'none'; save one with --save-profile.
   [1]
-  $ kiv import s.csv --into Checking --format pdf
-  kiv: 'pdf' is not one of: journal, csv, ofx, qif.
-  [2]
-  $ kiv import s.csv --into 1 --decimal x
+  $ each 2 <<'.'
+  > import s.csv --into 1 --decimal x
+  > import s.csv --into 1 --delimiter ab
+  > import s.csv --into 1 --skip 1001
+  > import s.ofx --into 1 --decimal ,
+  > .
   kiv: 'x' is not one of: '.', ','.
-  [2]
-  $ kiv import s.csv --into 1 --delimiter ab
   kiv: 'ab' is not one of: ',', ';', '\t', '|'.
-  [2]
-  $ kiv import s.csv --into 1 --delimiter '"'
-  kiv: '"' is not one of: ',', ';', '\t', '|'.
-  [2]
-  $ kiv import s.csv --into 1 --skip x
-  kiv: 'x' is not a whole number from 0 to 1000.
-  [2]
-  $ kiv import s.csv --into 1 --skip -1
-  kiv: '-1' is not a whole number from 0 to 1000.
-  [2]
-  $ kiv import s.csv --into 1 --skip 1001
   kiv: '1001' is not a whole number from 0 to 1000.
-  [2]
-  $ kiv import s.ofx --into 1 --decimal ,
   kiv: Use either --decimal or --format ofx, not both.
-  [2]
-  $ kiv import s.qif --into 1 --no-headings
-  kiv: Use either --no-headings or --format qif, not both.
-  [2]
   $ echo | kiv import - --format journal --save-profile mine
   kiv: Use either --save-profile or --format journal, not both.
   [2]
@@ -291,19 +249,3 @@ categories:
   > .
   ["2026-01-13","1.00","Expenses:Rent [Budget Item]","Assets:Checking",""]
   ["2026-02-01","2.00","Expenses:Food","Assets:Checking",""]
-  $ read_as --date-format DD/MM/YYYY <<.
-  > !Account
-  > NX
-  > ^
-  > !Type:Bank
-  > D13/01/2026
-  > T-1
-  > LRent [Budget Item]
-  > ^
-  > D01/03/2026
-  > T-5.25
-  > LNowhere
-  > ^
-  > .
-  ["2026-01-13","1.00","Expenses:Rent [Budget Item]","Assets:Checking",""]
-  ["2026-03-01","5.25","Income:Salary [Budget Item]","Assets:Checking",""]

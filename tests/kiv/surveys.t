@@ -4,16 +4,13 @@ Debts and goals at a bank, and comparing the books with a statement.
 
   $ . "$TESTDIR/household.sh"
   $ begin
-  $ kiv bill add Tax '360.00 USD' --every yearly --next 2026-07-01
-  Added the bill 'Tax'.
-  $ kiv goal add Trip '50.00 USD' --target 900 --bank-account Checking --next 2026-02-01
-  Added the goal 'Trip'.
-  $ kiv debt add Car '200.00 USD' --borrowed 5000.00 --bank First --next 2026-02-05
-  Added the debt 'Car'.
-  $ kiv post Rent --account Checking --date 2026-01-31
-  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
-  $ kiv post Salary --account Checking --date 2026-01-28
-  Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
+  $ each 0 <<'.' >/dev/null
+  > bill add Tax '360.00 USD' --every yearly --next 2026-07-01
+  > goal add Trip '50.00 USD' --target 900 --bank-account Checking --next 2026-02-01
+  > debt add Car '200.00 USD' --borrowed 5000.00 --bank First --next 2026-02-05
+  > post Rent --account Checking --date 2026-01-31
+  > post Salary --account Checking --date 2026-01-28
+  > .
   $ kiv pay Trip 75 --account Checking --date 2026-01-29
   Posted $75.00 for the goal 'Trip', which is still due on 2026-02-01.
   $ kiv save-as january
@@ -146,9 +143,6 @@ Its last survey follows an account to the kind that is right, and the next one s
   {"amount":"4330.00","currency":"USD"}
   $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
   Reconciled 1 Checking at First with a balance of $4,330.00.
-  $ kiv survey complete First Checking --date 2026-02-16 --balance 4330.00 --tick-all --tick 99
-  kiv: Use either --tick-all or --tick, not both.
-  [2]
   $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
   $ kiv survey complete --from nil.json
   kiv: There is no bill 'Nil'; see kiv bill list.
@@ -165,16 +159,7 @@ And so do answers, asked for until they can be understood:
   Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
   kiv: The input ended before the last question; nothing is saved.
   [1]
-  $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking
-  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
-  Is transaction 3 of 2026-01-31, 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00, on the statement? [y/n]:
-  Is transaction 4 of 2026-01-28, 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00, on the statement? [y/n]:
-  Is transaction 5 of 2026-01-29, 'Processed unexpected budget item 'Trip'.', -$75.00, on the statement? [y/n]:
-  Balance of the statement:
-  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
-  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
-  Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
-  Complete the survey? [y/n]:
+  $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking | tail -2
   kiv: The survey was not completed; nothing is saved.
   [1]
   $ printf '%s\n' yes y y y y 433O 4330.00 Nobody=1 Rent=-20 '' '' '' y | run Checking
@@ -216,22 +201,6 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
   Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
   Complete the survey? [y/n]:
   [0]
-  $ cat tables
-  Bank                  First
-  Account               Card
-  Day of the statement  2026-01-31
-  Last reconciled on
-  Reconciled balance    $0.00
-  Changes since         2025-12-31
-  Expected balance      $100.00
-  Still due this month
-  Changes by budget item
-  Item  Transaction  Date        Description                               Change
-  Rent            8  2026-01-15  Processed unexpected budget item 'Rent'.  $20.00
-  Other changes
-  Account                        Transaction  Date        Description  Change
-  Opening Balances USD [Equity]            7  2026-01-01               $80.00
-  Reconciled 8 Card at First with a balance of $100.00.
   $ kiv survey show First Card --date 2026-02-28 --json | jq -c .
   {"account":8,"accountChanges":[],"accountName":"Card","accounts":[],"amountDue":null,"balance":{"amount":"100.00","currency":"USD"},"bank":"First","date":"2026-02-28","distribution":[],"expectedBalance":{"amount":"100.00","currency":"USD"},"itemChanges":[],"items":[],"nonDistributed":{"amount":"100.00","currency":"USD"},"reconciled":[],"reconciledBalance":{"amount":"100.00","currency":"USD"},"reconciledOn":"2026-01-31","start":"2026-01-31"}
   $ kiv survey complete First Card --date 2026-02-28 --balance 100 --distribute Rent=5
@@ -250,30 +219,17 @@ Bad surveys change nothing:
   $ complete --tick 2
   kiv: The transaction 2 is not in the bank account ledger nor one of its children.
   [1]
-  $ complete --tick-all --distribute Rent=5
-  kiv: The budget item Rent (bill) cannot be distributed.
-  [1]
-  $ complete --tick-all --item Gym=5
-  kiv: There is no budget item 'Gym'; see kiv bill list (or debt, goal, nontrack, wage).
-  [1]
   $ complete --tick-all --item Rent
   kiv: 'Rent' is not of the form NAME=VALUE.
   [2]
-  $ kiv survey complete
+  $ each 2 <<'.'
+  > survey complete
+  > survey complete First Checking
+  > survey complete First --from x
+  > .
   kiv: BANK ACCOUNT is missing.
-  [2]
-  $ kiv survey complete First
-  kiv: ACCOUNT is missing.
-  [2]
-  $ kiv survey complete First Checking
   kiv: --balance is missing.
-  [2]
-  $ kiv survey complete First --from x
   kiv: Use either --from or BANK, not both.
-  [2]
-  $ kiv survey complete --from x --date 2026-01-31
-  kiv: Use either --from or --date, not both.
-  [2]
   $ complete --tick-all --tick 99
   kiv: Use either --tick-all or --tick, not both.
   [2]
@@ -283,9 +239,6 @@ Bad surveys change nothing:
   $ kiv survey show First 'Rent [Budget Item]'
   kiv: The account 'Rent [Budget Item]' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
-  $ kiv debt update Car --type loan
-  kiv: Use --type only together with --bank.
-  [2]
   $ kiv goal update Trip --no-bank --bank-account Checking
   kiv: Use either --no-bank or --bank-account, not both.
   [2]
@@ -334,9 +287,6 @@ The wizard makes a budget of a template's items:
   $ kiv wizard other --template teenager --bank A --account B --type credit-card
   kiv: The budget could not be created. Failure making the goal bank account association. Caused by: The account '22 Emergencies [Budget Item]' of type Asset cannot stand under the account '1 B' of type Liability.
   [1]
-  $ kiv wizard other --template child --bank A --account B
-  kiv: 'child' is not one of: none, teenager, adult-single, adult-married-single-income, adult-married-double-income.
-  [2]
   $ kiv wizard other --template teenager --bank A --account "$(jq -r '.[0].name' items)"
   kiv: The budget could not be created. The budget item has the same name as an existing ledger account.
   [1]

@@ -23,22 +23,12 @@ What is undone is back, byte for byte, and what is undone again is there again:
   Added the bill 'Gym'.
   $ undone bill update Rent --amount 1.00 --no-tags
   Changed the bill 'Rent'.
-  $ undone bill rename Rent Flat
-  The bill 'Rent' is now called 'Flat'.
   $ undone wage remove Salary
   Removed the wage 'Salary'.
-  $ undone bank remove First
-  Removed the bank 'First'.
   $ undone account recode Checking --number 77
   The account 1 Assets:Checking is now 77 Assets:Checking.
-  $ undone transaction remove 1
-  Removed the transaction 1.
   $ undone pay Rent 5 --account Checking
   Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
-  $ undone skip Rent
-  Skipped the bill 'Rent' due on 2026-01-31; it is next due on 2026-02-28.
-  $ undone transaction reconcile 1
-  Reconciled the transaction 1.
   $ undone survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02
   Reconciled 1 Checking at First with a balance of $2,500.00.
 
@@ -101,13 +91,6 @@ What is kept, from the file itself on:
         4  ????-??-?? ??:??:??  ?????      0         2             1 (glob)
         5  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
   $ kiv history --json >history
-  $ jq -c '.[] | [.version, .items, .accounts, .transactions, .whole, (.file | sub(".*/"; ""))]' history
-  [0,3,5,2,true,"household.budget"]
-  [1,3,5,1,true,"household.budget.backup-1"]
-  [2,2,4,1,true,"household.budget.backup-2"]
-  [3,1,3,1,true,"household.budget.backup-3"]
-  [4,0,2,1,true,"household.budget.backup-4"]
-  [5,0,0,0,true,"household.budget.backup-5"]
   $ jq 'map(.savedAt) == (map(.savedAt) | sort | reverse),
   >     (now - (.[0].savedAt | sub("\\.\\d+"; "") | fromdate) | fabs < 600)' history
   true
@@ -128,19 +111,6 @@ Differences are told field by field:
   $ kiv history diff 2 1
   What  Name       Change   Detail
   item  bill Rent  changed  amount 1250.00 USD → 1300.00 USD, tags  → home
-  $ kiv history diff 0 1
-  What         Name                  Change   Detail
-  account      1 Checking            changed  balance 2495.00 USD → 2500.00 USD
-  account      3 Rent [Budget Item]  changed  balance 5.00 USD → 0.00 USD
-  transaction  2                     removed  2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
-  $ kiv history diff 1 1
-  Both versions are the same.
-  $ kiv history diff 2 0
-  What         Name                  Change   Detail
-  item         bill Rent             changed  amount 1250.00 USD → 1300.00 USD, tags  → home
-  account      1 Checking            changed  balance 2500.00 USD → 2495.00 USD
-  account      3 Rent [Budget Item]  changed  balance 0.00 USD → 5.00 USD
-  transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
   $ kiv history diff --json | jq -c '.[0]'
   {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
   $ kiv bill update Rent --every every-two-weeks --next 2026-03-01
@@ -163,16 +133,13 @@ Differences are told field by field:
   bank    Second    added
   survey  First 1   removed  2495.00 USD
   survey  Second 1  added    2495.00 USD
-  $ kiv account add Food --type expense
-  Added the account 5 Food.
-  $ kiv account add Out --type expense
-  Added the account 6 Out.
-  $ kiv account recode Food --under Out
-  The account 5 Expenses:Food is now 5 Expenses:Out:Food.
-  $ kiv account remove Food
-  Removed the account 5 Food.
-  $ kiv account add Food --type income --number 5
-  Added the account 5 Food.
+  $ each 0 <<'.' >/dev/null
+  > account add Food --type expense
+  > account add Out --type expense
+  > account recode Food --under Out
+  > account remove Food
+  > account add Food --type income --number 5
+  > .
   $ kiv history diff 3 2
   What     Name    Change   Detail
   account  5 Food  changed  parent – → 6, path Expenses:Food → Expenses:Out:Food
@@ -231,9 +198,6 @@ Nothing is undone where that would lose something:
   $ kiv undo --to 6
   kiv: '6' is not a whole number from 0 to 5.
   [2]
-  $ kiv undo --to x
-  kiv: 'x' is not a whole number from 0 to 5.
-  [2]
   $ kiv history diff 1 3
   kiv: There is no version 3; see kiv history.
   [1]
@@ -286,14 +250,8 @@ Every promise of a file is judged, and none behind one that is broken:
   Every balance is the sum of its transactions  ok
   Debits equal credits in every currency        ok      2500.00 USD
   The budget 'household.budget' is intact.
-  $ kiv check --json | jq -c '.whole, .promises[]'
+  $ kiv check --json | jq -c '.whole, .promises[-1]'
   true
-  {"details":[],"promise":"identity","text":"The file is a budget file of a known version","verdict":"kept"}
-  {"details":[],"promise":"tables","text":"The tables belong to that version","verdict":"kept"}
-  {"details":[],"promise":"seal","text":"The rows are as they were saved","verdict":"kept"}
-  {"details":[],"promise":"rules","text":"The books follow the rules of the ledger","verdict":"kept"}
-  {"details":[],"promise":"ties","text":"Items, accounts and banks match","verdict":"kept"}
-  {"details":[],"promise":"balances","text":"Every balance is the sum of its transactions","verdict":"kept"}
   {"details":["2500.00 USD"],"promise":"sides","text":"Debits equal credits in every currency","verdict":"kept"}
   $ flipped() {
   >     perl -0777 -pe "substr(\$_, $1, 1) ^= qq(\1)" whole >household.budget
@@ -312,12 +270,6 @@ As another kind of file is, and a newer version:
   ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
   [1]
   The file is a budget file of a known version  FAILED       The file 'household.budget' was not written by this program.
-  The budget 'household.budget' is damaged; find an intact version with kiv history.
-  $ flipped 61
-  false
-  ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
-  [1]
-  The file is a budget file of a known version  FAILED       The file 'household.budget' was written by a newer version of this program.
   The budget 'household.budget' is damaged; find an intact version with kiv history.
 
 A word of its tables, and a letter of a name:
@@ -344,12 +296,6 @@ account is mended when it is opened:
   $ kiv check household | tail -2
   Debits equal credits in every currency        ok      2500.00 USD
   The budget 'household.budget' is intact.
-  $ kiv check nowhere
-  kiv: There is no file 'nowhere.budget'.
-  [1]
-  $ kiv check .
-  kiv: There is no file '..budget'.
-  [1]
   $ kiv account remove 3
   Removed the account 3 Rent [Budget Item].
   $ kiv check | tail -4
