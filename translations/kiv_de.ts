@@ -2466,10 +2466,6 @@
         <translation>Es gibt keine Buchung %1</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos;; save one with --save-profile.</source>
-        <translation>Es gibt kein Profil „%1“; gespeichert wird eines mit --save-profile.</translation>
-    </message>
-    <message>
         <source>There is no profile &apos;%1&apos;; saved profiles: %2.</source>
         <translation>Es gibt kein Profil „%1“; gespeichert sind: %2.</translation>
     </message>
@@ -4173,10 +4169,6 @@
         <translation>Es gibt kein Profil „%1“</translation>
     </message>
     <message>
-        <source>--save-profile saves one</source>
-        <translation>--save-profile speichert eines</translation>
-    </message>
-    <message>
         <source>The provided item type does not match the item&apos;s type.</source>
         <translation>Die angegebene Art passt nicht zur Art des Postens.</translation>
     </message>
@@ -4195,6 +4187,10 @@
     <message>
         <source>Failed to add the generate the %1 budget item &apos;%2&apos; for the first time wizard.</source>
         <translation>Der Budgetposten „%2“ (%1) konnte bei der Ersteinrichtung nicht erzeugt werden.</translation>
+    </message>
+    <message>
+        <source>save one with --save-profile</source>
+        <translation>eines mit --save-profile speichern</translation>
     </message>
 </context>
 </TS>

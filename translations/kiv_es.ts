@@ -2466,10 +2466,6 @@
         <translation>No hay ningún asiento %1</translation>
     </message>
     <message>
-        <source>There is no profile &apos;%1&apos;; save one with --save-profile.</source>
-        <translation>No hay ningún perfil «%1»; se guarda uno con --save-profile.</translation>
-    </message>
-    <message>
         <source>There is no profile &apos;%1&apos;; saved profiles: %2.</source>
         <translation>No hay ningún perfil «%1»; los guardados son: %2.</translation>
     </message>
@@ -4173,10 +4169,6 @@
         <translation>No hay ningún perfil «%1»</translation>
     </message>
     <message>
-        <source>--save-profile saves one</source>
-        <translation>--save-profile guarda uno</translation>
-    </message>
-    <message>
         <source>The provided item type does not match the item&apos;s type.</source>
         <translation>El tipo indicado no coincide con el tipo de la partida.</translation>
     </message>
@@ -4195,6 +4187,10 @@
     <message>
         <source>Failed to add the generate the %1 budget item &apos;%2&apos; for the first time wizard.</source>
         <translation>No se pudo generar la partida «%2» (%1) en la configuración inicial.</translation>
+    </message>
+    <message>
+        <source>save one with --save-profile</source>
+        <translation>guarda uno con --save-profile</translation>
     </message>
 </context>
 </TS>

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/errors.h"
 
-#include "interchange/internal/faults.h"
-
 #include <QtCore/QObject>
 
 namespace kiv::interchange {
@@ -25,10 +23,5 @@ ImportError::ImportError(Place place, const QString &reason, const std::exceptio
 
 ImportError::ImportError(const ImportError &) noexcept = default;
 ImportError::~ImportError() = default;
-
-ImportError faults::includeRefused(const Place &place, const QString &path, const QString &reason)
-{
-    return {place, QObject::tr("Cannot include '%1': %2.").arg(quoted(path), reason)};
-}
 
 } // namespace kiv::interchange

@@ -80,6 +80,14 @@ bool isGiven(const CLI::App *app, const std::string &name)
 
 } // namespace
 
+QString helpOf(const CLI::App &app)
+{
+    QString line = QStringLiteral("--help");
+    for (const CLI::App *at = &app; at; at = at->get_parent())
+        line.prepend(QString::fromStdString(at->get_name()) + u' ');
+    return line;
+}
+
 void ArgumentRules::check(const CLI::App &command) const
 {
     const auto shown = [](const std::string &name) {
@@ -94,7 +102,7 @@ void ArgumentRules::check(const CLI::App &command) const
             throw onlyWith(shown(name), shown(base));
     }
     if (!takesJson && isGiven(&command, "--json"))
-        throw noSuchOption(QStringLiteral("--json"), {});
+        throw noSuchOption(QStringLiteral("--json"), {}, helpOf(command));
 }
 
 QString placeholder(const char *word)

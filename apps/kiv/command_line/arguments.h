@@ -26,6 +26,9 @@ using workbench::readValue;
 /// A word of the command line. Throws a UsageError if it is not valid UTF-8.
 [[nodiscard]] QString decoded(const std::string &word);
 
+/// The words that show a command's help, such as "kiv bill add --help".
+[[nodiscard]] QString helpOf(const CLI::App &command);
+
 /// The word for an option's value in the help, by its type.
 constexpr const char *valueWord(const QDate *)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "command_line/misuse.h"
 
+#include "command_line/arguments.h"
+
 #include "messages/errors.h"
 
 #include "workbench/entry/similar.h"
@@ -31,15 +33,6 @@ QStringList optionsOf(const CLI::App &app)
             names += QStringLiteral("--") + QString::fromStdString(name);
     }
     return names;
-}
-
-/// "kiv bill add --help"
-QString helpOf(const CLI::App &app)
-{
-    QString line = QStringLiteral("--help");
-    for (const CLI::App *at = &app; at; at = at->get_parent())
-        line.prepend(QString::fromStdString(at->get_name()) + u' ');
-    return line;
 }
 
 /// The last command among the parsed words.

@@ -581,6 +581,11 @@ foundation::Error reportTooLong(int monthsMax)
     return foundation::Error(QObject::tr("A report covers at most %1 months.").arg(monthsMax));
 }
 
+ImportError includeRefused(const Place &place, const QString &path, const QString &reason)
+{
+    return {place, QObject::tr("Cannot include '%1': %2.").arg(quoted(path), reason)};
+}
+
 } // namespace faults
 
 } // namespace kiv::interchange

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "interchange/internal/journal_entry.h"
-#include "interchange/journal_reader.h"
+#include "interchange/draft.h"
+#include "interchange/journal_options.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>

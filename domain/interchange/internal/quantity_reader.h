@@ -2,7 +2,7 @@
 #pragma once
 
 #include "interchange/internal/journal_entry.h"
-#include "interchange/journal_reader.h"
+#include "interchange/journal_options.h"
 
 namespace kiv::interchange::internal {
 
