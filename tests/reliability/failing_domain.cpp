@@ -59,7 +59,7 @@ decltype(auto) pass(Method method, Self *self, Arguments &&...arguments)
 namespace kiv::accounting {
 
 using Ledger = GeneralLedger;
-using Number = TransactionNumber;
+using Posted = TransactionNumber;
 using Generator = SequentialAccountNumberGenerator;
 
 // The pointer to a virtual function does not tell where it is.
@@ -71,22 +71,22 @@ const AccountNumber &Generator::operator++()
     return step(this);
 }
 
-std::optional<Number> Ledger::add(const Account &a, AccountNumberGenerator &g, QDate d) { return pass(&Ledger::add, this, a, g, d); }
+std::optional<Posted> Ledger::add(const Account &a, AccountNumberGenerator &g, QDate d) { return pass(&Ledger::add, this, a, g, d); }
 void Ledger::remove(AccountNumber n) { return pass(qOverload<AccountNumber>(&Ledger::remove), this, n); }
 void Ledger::open(const AccountCode &c) { return pass(&Ledger::open, this, c); }
 void Ledger::close(AccountNumber n) { return pass(&Ledger::close, this, n); }
 void Ledger::recode(const AccountCode &a, const AccountCode &b) { return pass(&Ledger::recode, this, a, b); }
 void Ledger::convertTo(AccountNumber n, const numira::Currency &c, AccountNumberGenerator &g) { return pass(&Ledger::convertTo, this, n, c, g); }
-Number Ledger::post(const Transaction &t) { return pass(&Ledger::post, this, t); }
-void Ledger::repost(Number n, const Transaction &t) { return pass(&Ledger::repost, this, n, t); }
-void Ledger::remove(Number n) { return pass(qOverload<Number>(&Ledger::remove), this, n); }
-void Ledger::reconcile(Number n) { return pass(qOverload<Number>(&Ledger::reconcile), this, n); }
-void Ledger::reconcile(const std::set<Number> &n) { return pass(qOverload<const std::set<Number> &>(&Ledger::reconcile), this, n); }
-void Ledger::reconcile(Number n, AccountNumber a) { return pass(qOverload<Number, AccountNumber>(&Ledger::reconcile), this, n, a); }
-void Ledger::unreconcile(Number n) { return pass(&Ledger::unreconcile, this, n); }
-void Ledger::clear(Number n) { return pass(qOverload<Number>(&Ledger::clear), this, n); }
-void Ledger::clear(Number n, AccountNumber a) { return pass(qOverload<Number, AccountNumber>(&Ledger::clear), this, n, a); }
-Number Ledger::refund(Number n, const numira::Money &m, QDate d) { return pass(&Ledger::refund, this, n, m, d); }
+Posted Ledger::post(const Transaction &t) { return pass(&Ledger::post, this, t); }
+void Ledger::repost(Posted n, const Transaction &t) { return pass(&Ledger::repost, this, n, t); }
+void Ledger::remove(Posted n) { return pass(qOverload<Posted>(&Ledger::remove), this, n); }
+void Ledger::reconcile(Posted n) { return pass(qOverload<Posted>(&Ledger::reconcile), this, n); }
+void Ledger::reconcile(const std::set<Posted> &n) { return pass(qOverload<const std::set<Posted> &>(&Ledger::reconcile), this, n); }
+void Ledger::reconcile(Posted n, AccountNumber a) { return pass(qOverload<Posted, AccountNumber>(&Ledger::reconcile), this, n, a); }
+void Ledger::unreconcile(Posted n) { return pass(&Ledger::unreconcile, this, n); }
+void Ledger::clear(Posted n) { return pass(qOverload<Posted>(&Ledger::clear), this, n); }
+void Ledger::clear(Posted n, AccountNumber a) { return pass(qOverload<Posted, AccountNumber>(&Ledger::clear), this, n, a); }
+Posted Ledger::refund(Posted n, const numira::Money &m, QDate d) { return pass(&Ledger::refund, this, n, m, d); }
 
 std::set<AccountCode> Ledger::accountCodes() const { return pass(&Ledger::accountCodes, this); }
 std::set<Account> Ledger::accounts() const { return pass(&Ledger::accounts, this); }
@@ -95,9 +95,9 @@ LedgerAccount Ledger::ledger(const AccountCode &c) const { return pass(qOverload
 AccountCode Ledger::accountCode(AccountNumber n) const { return pass(&Ledger::accountCode, this, n); }
 std::optional<Transaction> Ledger::openingTransaction(AccountNumber n) const { return pass(&Ledger::openingTransaction, this, n); }
 std::set<AccountNumber> Ledger::lookUpChildren(AccountNumber n, OpenStates s) const { return pass(&Ledger::lookUpChildren, this, n, s); }
-std::optional<Transaction> Ledger::lookUpTransaction(Number n) const { return pass(&Ledger::lookUpTransaction, this, n); }
+std::optional<Transaction> Ledger::lookUpTransaction(Posted n) const { return pass(&Ledger::lookUpTransaction, this, n); }
 std::vector<Transaction> Ledger::transactions() const { return pass(&Ledger::transactions, this); }
-numira::Money Ledger::refundable(Number n) const { return pass(&Ledger::refundable, this, n); }
+numira::Money Ledger::refundable(Posted n) const { return pass(&Ledger::refundable, this, n); }
 
 } // namespace kiv::accounting
 
