@@ -90,7 +90,7 @@ never offered:
   --file = nowhere.budget post R >
   --file b >
   $ kiv --json completion bash
-  kiv: '--json' is no option of this command; --help lists those that there are.
+  kiv: There is no option '--json'; see kiv completion bash --help.
   [2]
   $ echo $(kiv completion words)
   new info save-as wizard templates undo history check accounts ledger account transactions transaction transfer refundable refund bill debt goal nontrack wage tags due post pay skip banks bank bank-account import survey reconciliation dashboard report export configure rates shell watch tour updates release-notes completion
@@ -98,7 +98,10 @@ never offered:
 A rates file that cannot be read gets another name, which is told:
 
   $ mkdir -p data/kiv/kiv && echo damaged >data/kiv/kiv/rates
-  $ kiv new other
+  $ kiv new other 2>&1 | sed "s|'/.*/data|'data|"
+  kiv: warning: Failed to initialise the currency conversions. The file 'data/kiv/kiv/rates' was not written by this program.
+  kiv: warning: The file 'data/kiv/kiv/rates' was not written by this program. It was renamed to 'rates.unreadable'.
+  Created the empty budget 'other.budget'.
 
 Settings are kept. What is preferred is usable, unless the usable ones are given:
 

@@ -63,7 +63,7 @@ void BudgetSavingTest::whatCouldNotBeLoadedIsNotSaved()
     large = {};
     for (char16_t bank = u'a'; bank < u'u'; ++bank)
         large.banks.add(banking::Bank(banking::BankName(bank + longest.chopped(1)), {}, false));
-    QVERIFY(saving(large).ends_with("There is more than a file may hold."));
+    QVERIFY(saving(large).ends_with("The content is larger than a file may be."));
     QCOMPARE(m_folder->read(u"home.budget"_qs), before);
 
     QCOMPARE(storing(m_path, longest), std::nullopt);
