@@ -132,9 +132,6 @@ What is due, by day:
   {"amount":{"amount":"3100.00","currency":"USD"},"due":"2026-01-25","inDays":-2,"kind":"wage","name":"Salary"}
   $ kiv due --date 2026-01-01 --within 0
   Nothing is due.
-  $ kiv due --date 2026-01-01 --within 0 --json
-  [
-  ]
   $ kiv post --all --kind bill --account Checking --date 2026-01-31 --dry-run
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   Dry run: nothing is saved.
@@ -143,9 +140,6 @@ What is due, by day:
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv due --date 2026-02-01 --within 5
   Nothing is due.
-  $ kiv post --all --account Checking --date 2020-01-01 --dry-run
-  Nothing is due.
-  Dry run: nothing is saved.
 
 Names that stand in several places:
 

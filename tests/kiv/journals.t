@@ -107,14 +107,6 @@ A journal is shown before it is posted:
   > .
   $ kiv import a.journal --commodity Fr=USD
   Transactions posted: 1; duplicates skipped: 0; accounts opened: 1.
-  $ kiv import a.journal --commodity Fr=USD --dry-run
-  Line  Date        Description  Debit        Credit      Amount
-     1  2026-01-01               Assets:Cash  Income:Job   $5.00  duplicate
-  Transactions posted: 0; duplicates skipped: 1; accounts opened: 0.
-  Dry run: nothing is saved.
-  $ echo 'include a.journal' | kiv import - --format journal
-  kiv: '-', line 1: Cannot include 'a.journal': the file does not exist.
-  [1]
 
 Includes are followed within the journal's folder:
 

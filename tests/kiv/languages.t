@@ -33,9 +33,6 @@ Amounts, days and words are the user's:
   $ de bill list
   Name    Betrag  Turnus     Nächster Termin  Schlagwörter
   Rent  850,00 €  monatlich  01.03.2026
-  $ es bill list
-  Nombre   Importe  Frecuencia  Próxima fecha  Etiquetas
-  Rent    850,00 €  cada mes    01/03/2026
   $ de check | grep -o '1.234,56.EUR'
   1.234,56 EUR
   $ de check --json | jq -r '.promises[0].text' | grep -o Budgetdatei
@@ -56,10 +53,6 @@ Amounts, days and words are the user's:
   Fällig      Posten  Art           Betrag  Wann
   01.03.2026  Rent    Rechnung    850,00 €  1 Tag überfällig
   02.03.2026  Salary  Lohn      1.500,10 €  heute
-  $ es due --date 2026-02-26
-  Vence       Partida  Tipo       Importe  Cuándo
-  01/03/2026  Rent     factura   850,00 €  en 3 días
-  02/03/2026  Salary   salario  1500,10 €  en 4 días
   $ kiv due --date 2026-03-02
   Due         Item    Kind     Amount  When
   2026-03-01  Rent    bill    €850.00  1 day late
@@ -72,8 +65,6 @@ So are refusals and help:
   kiv: Es gibt kein Konto „Nothing“
   $ begin_of es ledger Nothing
   kiv: No hay ninguna cuenta «Nothing»
-  $ begin_of de bank close Nothing
-  kiv: Es gibt keine Bank „Nothing“
   $ de bil add 2>&1 | grep -o 'war .*'
   war „bill“ gemeint?
   $ de bill add 2>&1 | grep -o NAME | head -1

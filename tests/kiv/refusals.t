@@ -89,7 +89,6 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   $ each 2 <<'.'
   > frobnicate
   > bil list
-  > -x bill list
   > bill add Gym 12 --colour red
   > bill add Gym 12 --evrey=daily
   > post Rent --acount Checking
@@ -101,7 +100,6 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   > .
   kiv: There is no command 'frobnicate'; see kiv --help.
   kiv: There is no command 'bil'; did you mean 'bill'?
-  kiv: Unexpected argument: -x; see kiv bill list --help.
   kiv: There is no option '--colour'; see kiv bill add --help.
   kiv: There is no option '--evrey'; did you mean '--every'?
   kiv: There is no option '--acount'; did you mean '--account', '--amount'?
@@ -142,46 +140,35 @@ Names that are not there:
 
 Names that are there already:
 
-  $ kiv bill add Rent 12
+  $ each 1 <<'.'
+  > bill add Rent 12
+  > account add Rent --type expense
+  > .
   kiv: The new budgeted money item source already exists.
-  [1]
-  $ kiv account add Rent --type expense
   kiv: The code name is the same name as an existing budget item.
-  [1]
 
 What the ledger does not take:
 
-  $ kiv account close Checking
-  kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
-  [1]
   $ kiv refund 1 9999.00
   kiv: A refund of $9,999.00 exceeds the $2,500.00 that are left of the transaction 1.
   [1]
 
 Transactions to be loaded:
 
-  $ load() { echo "$1" | kiv transaction load -; }
-  $ load '[{'
+  $ while read -r text; do echo "$text" | kiv transaction load -; done <<'.'
+  > [{
+  > {"transactions": 1}
+  > [{}]
+  > [{"debit": "Chekcing"}]
+  > {"transactions": [{"debit": 1, "credit": 3, "amount": "1"}]}
+  > [{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]
+  > .
   kiv: Cannot understand -: unterminated object at byte 3.
-  [1]
-  $ load '{"transactions": 1}'
   kiv: Cannot understand -: it has no list of transactions.
-  [1]
-  $ load '[{}]'
   kiv: Cannot understand transaction 1 of '-': "debit" is missing.
-  [1]
-  $ load '[{"debit": "Chekcing"}]'
   kiv: Cannot understand transaction 1 of '-': There is no account 'Chekcing'; did you mean 'Checking'?
-  [1]
-  $ load '{"transactions": [{"debit": 1, "credit": 3, "amount": "1"}]}'
   kiv: Cannot understand transaction 1 of '-': "date" is missing.
-  [1]
-  $ load '[{"debit": 1, "credit": 3, "date": "2026-01-01", "amount": "1", "debitStatus": "x"}]'
   kiv: Cannot understand transaction 1 of '-': 'x' is not one of: none, cleared, reconciled.
-  [1]
-  $ truncate -s 65M large.json
-  $ kiv transaction load large.json
-  kiv: Cannot read 'large.json': it is larger than 64 MiB (exceeded in line 1); split it into smaller files.
   [1]
   $ kiv transaction load nowhere.json
   kiv: Cannot read 'nowhere.json': No such file or directory.
@@ -249,46 +236,29 @@ Files that are no budgets of this program's, as empty, cut off, of another progr
 newer version (which SQLite keeps at byte 60) or with one bit changed, are left alone:
 
   $ export KIV_FILE=bad.budget
-  $ refused() { kiv accounts; kiv bank add New; }
+  $ refused() { printf 'accounts\nbank add New\n' | each 1 2>&1 | uniq; }
   $ : >bad.budget
   $ refused
   kiv: The file 'bad.budget' is empty.
-  kiv: The file 'bad.budget' is empty.
-  [1]
   $ head -c 20000 household.budget >bad.budget
   $ refused
   kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is damaged.
-  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is damaged.
-  [1]
   $ yes '%PDF-1.7 and so on' | head -400 >bad.budget
   $ refused
   kiv: The file 'bad.budget' was not written by this program.
-  kiv: The file 'bad.budget' was not written by this program.
-  [1]
   $ cp household.budget bad.budget
   $ printf '\143' | dd of=bad.budget bs=1 seek=63 conv=notrunc status=none
   $ refused
   kiv: The file 'bad.budget' was written by a newer version of this program.
-  kiv: The file 'bad.budget' was written by a newer version of this program.
-  [1]
   $ LC_ALL=C sed '0,/Checking/s//Bhecking/' household.budget >bad.budget
   $ refused
   kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: The checksum is wrong.
-  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: The checksum is wrong.
-  [1]
 
 Commands that need a file say that none is named:
 
   $ KIV_FILE=
-  $ kiv accounts
-  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
-  [2]
-  $ kiv new
-  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
-  [2]
-  $ kiv check
-  kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
-  [2]
+  $ printf 'accounts\nnew\ncheck\n' | each 2 2>&1 | uniq -c
+        3 kiv: No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.
   $ kiv completion words -- post G
   $ kiv rates show
   There are no exchange rates; use kiv rates fetch or kiv rates set.

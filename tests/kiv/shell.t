@@ -44,28 +44,9 @@ next line, and the exit status is that of the first line that failed:
   Name        Amount  Every    Next        Tags
   Car tax    $360.00  monthly  2026-02-01
   Rent     $1,250.00  monthly  2026-01-31
-  $ kiv bill list
-  Name        Amount  Every    Next        Tags
-  Car tax    $360.00  monthly  2026-02-01
-  Rent     $1,250.00  monthly  2026-01-31
   $ echo 'help bill add' | kiv shell >told
   $ kiv bill add --help | diff told -
   $ printf 'quit\nfrobnicate\n' | kiv shell household
-
-An item that has lost its account comes back mended, as from the file:
-
-  $ kiv shell <<.
-  > account remove 3
-  > bill add Rent 5
-  > bill list
-  > .
-  Removed the account 3 Rent [Budget Item].
-  kiv: warning: Repaired while loading: The budget item 'Rent' had lost its account, which was opened anew under the number 6.
-  kiv: The new budgeted money item source already exists.
-  Name        Amount  Every    Next        Tags
-  Car tax    $360.00  monthly  2026-02-01
-  Rent     $1,250.00  monthly  2026-01-31
-  [1]
 
 That rates could not be stored is a warning, since the budget was saved:
 
@@ -142,9 +123,6 @@ stand among them:
   {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
   {"arguments":{"associatedTags":"()","bills":"(Gym (bill) 30.00 USD monthly on 2026-02-01 day 1, Rent (bill) 1250.00 USD monthly on 2026-01-31 day 31)","displayAs":"Symbol","possibleTags":"()","preferred":"USD","usableCurrencies":"(USD)"},"signal":"showBills"}
   {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
-  $ printf 'exit\nfrobnicate\n' | kiv watch >signals
-  $ jq -r .signal signals | head -1
-  loadedBudgetFile
 
 At a terminal, lines are typed with history and completion:
 

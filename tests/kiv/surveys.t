@@ -216,9 +216,6 @@ Bad surveys change nothing:
   $ complete --tick-all --item Rent=-500
   kiv: The calculated budget item transaction total, '$3,850.00', must be within 2.75 % of the reconciled current balance, '$4,350.00'.
   [1]
-  $ complete --tick 2
-  kiv: The transaction 2 is not in the bank account ledger nor one of its children.
-  [1]
   $ complete --tick-all --item Rent
   kiv: 'Rent' is not of the form NAME=VALUE.
   [2]
@@ -239,34 +236,6 @@ Bad surveys change nothing:
   $ kiv survey show First 'Rent [Budget Item]'
   kiv: The account 'Rent [Budget Item]' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
-  $ kiv goal update Trip --no-bank --bank-account Checking
-  kiv: Use either --no-bank or --bank-account, not both.
-  [2]
-
-Rates convert once and for all:
-
-  $ kiv bill add Abo '9.99 EUR' --next 2026-02-01
-  Added the bill 'Abo'.
-  $ kiv post Abo --account Checking --date 2026-02-01
-  kiv: The amount €9.99 cannot be converted into USD. Caused by: There is no exchange rate from 'EUR' to 'USD'; fetch the rates, or set it by hand.
-  [1]
-  $ kiv rates set USD EUR=0.80 | sed '1s/as of .*/as of now/'
-  For 1 USD, as of now
-  Currency  Rate  Date        Source
-  EUR       0.8   ????-??-??  typed (glob)
-  $ kiv post Abo --account Checking --date 2026-02-01
-  Posted the bill 'Abo', due on 2026-02-01: €9.99.
-  $ kiv rates set USD EUR=0.50 | tail -1
-  EUR       0.5   ????-??-??  typed (glob)
-  $ kiv transactions --json | jq -c '.[-1]'
-  {"amount":{"amount":"9.99","currency":"EUR"},"credit":1,"creditAmount":{"amount":"12.49","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":8,"debitAmount":{"amount":"9.99","currency":"EUR"},"debitPath":"Expenses:Abo [Budget Item]","debitStatus":"none","description":"Processed the budget item due on Sun Feb 1 2026.","number":6}
-  $ kiv rates set USD EUR=0
-  kiv: The exchange rate of 'EUR' must be a positive number between 10^-12 and 10^12.
-  [1]
-  $ kiv rates show --json | jq -c 'del(.fetchedAt, .rates[].day)'
-  {"base":"USD","expired":false,"rates":[{"currency":"EUR","rate":"0.5","source":"typed"}]}
-  $ kiv rates set EUR USD=2 --json | jq -c 'del(.fetchedAt, .rates[].day)'
-  {"base":"EUR","expired":false,"rates":[{"currency":"USD","rate":"2","source":"typed"}]}
 
 The wizard makes a budget of a template's items:
 
@@ -276,8 +245,6 @@ The wizard makes a budget of a template's items:
   > }
   $ start --json >items
   $ jq -c '[length, .[0].name]' items
-  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
-  $ kiv templates show teenager --json | jq -c '[length, .[0].name]'
   [25,"Car Maintenance (oil change, repair, washing, etc.)"]
   $ kiv accounts --file start --json | jq -c '[length, .[0]]'
   [27,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]

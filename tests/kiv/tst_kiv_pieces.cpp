@@ -118,18 +118,8 @@ private slots:
         }
     }
 
-    void theManualHasEveryCommand()
+    void theManualEscapesWhatTheFormatterWouldTakeAsRequests()
     {
-        app::Program program(app::declareCommands);
-        const auto tree = program.commandTree();
-        const QByteArray manual = app::manualOfCommands(*tree);
-        QVERIFY(manual.contains(
-            ".SS kiv bill add\n\\fBkiv bill add\\fR \\fINAME\\fR \\fIAMOUNT\\fR\n"));
-        QVERIFY(manual.contains(".TP\n\\fB\\-\\-every\\fR \\fITEXT\\fR\n"));
-        QVERIFY(manual.contains(".TP\n\\fB\\-\\-top\\-level\\fR\n")); // a flag
-        QVERIFY(!manual.contains(".SS kiv bill\n") && !manual.contains("dry"));
-
-        // What a line begins with is no request to the formatter.
         CLI::App odd("'tis odd", "odd");
         odd.add_option("WORD", ".so it is")->expected(1, 9);
         odd.add_flag("-f,--flag")->description("A \\ flag")->required();

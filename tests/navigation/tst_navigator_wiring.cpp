@@ -28,7 +28,6 @@ private slots:
     }
 
     void theFirstNavigatorConvertsForTheProcess();
-    void metaObjectListsTheInterface();
     void everythingThatCrossesIsRegistered();
     void startsWithTheStoredRates();
     void unreadableRatesAreNoObstacle();
@@ -85,33 +84,6 @@ void NavigatorWiring::theFirstNavigatorConvertsForTheProcess()
     // For ever: another one does not step in.
     const Desk third;
     QVERIFY_THROWS_EXCEPTION(foundation::Error, oneDollarInEuros());
-}
-
-void NavigatorWiring::metaObjectListsTheInterface()
-{
-    const QMetaObject &meta = Navigator::staticMetaObject;
-    QCOMPARE(meta.className(), "kiv::navigation::Navigator");
-    QStringList found;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        const QMetaMethod method = meta.method(i);
-        QStringList parameters;
-        for (int p = 0; p < method.parameterCount(); ++p) {
-            parameters.append(QString::fromLatin1(method.parameterTypeName(p) + ' ' +
-                                                  method.parameterNames().at(p)));
-        }
-        found.append(
-            QStringLiteral("%1 %2 %3(%4)")
-                .arg(method.methodType() == QMetaMethod::Signal ? QStringLiteral("signal")
-                     : method.access() == QMetaMethod::Private  ? QStringLiteral("private slot")
-                                                                : QStringLiteral("slot"),
-                     QString::fromLatin1(method.typeName()), QString::fromLatin1(method.name()),
-                     parameters.join(QStringLiteral(", "))));
-    }
-    QFile listed(QFINDTESTDATA("navigator_interface.txt"));
-    QVERIFY(listed.open(QIODevice::ReadOnly | QIODevice::Text));
-    const QStringList expected =
-        QString::fromUtf8(listed.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(found, expected);
 }
 
 void NavigatorWiring::everythingThatCrossesIsRegistered()

@@ -188,7 +188,7 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
         return QString();
     };
     setModes(folderMode, fileMode);
-    std::optional<Nobody> nobody(std::in_place);
+    auto nobody = std::make_unique<Nobody>();
     const QString saidOnReading = said(false);
     const QString saidOnSaving = said(true);
     nobody.reset();
@@ -198,7 +198,7 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
     m_file.emplace();
     QCOMPARE(m_folder->names(), names);
     QCOMPARE(m_folder->read(u"home.budget"_qs), before);
-    nobody.emplace();
+    nobody = std::make_unique<Nobody>();
     QCOMPARE(loading(m_path), std::nullopt);
     QCOMPARE(storing(m_path, u"Second"_qs), std::nullopt);
 }
