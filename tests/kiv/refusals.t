@@ -95,7 +95,6 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   > bill add Gym
   > bill add Gym 12 --next
   > bill add Gym 12 --next 2026-01-01 --next 2026-01-02
-  > bill list --json=perhaps
   > transaction remove 65536
   > .
   kiv: There is no command 'frobnicate'; see kiv --help.
@@ -106,7 +105,6 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   kiv: AMOUNT is missing; see kiv bill add --help.
   kiv: --next needs a value (DATE); see kiv bill add --help.
   kiv: --next was given 2 times, at most 1 is allowed; see kiv bill add --help.
-  kiv: --json does not accept the value 'perhaps'; see kiv bill list --help.
   kiv: '65536' is not a whole number from 1 to 65535.
 
 Names that are not there:

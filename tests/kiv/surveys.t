@@ -246,6 +246,8 @@ The wizard makes a budget of a template's items:
   $ start --json >items
   $ jq -c '[length, .[0].name]' items
   [25,"Car Maintenance (oil change, repair, washing, etc.)"]
+  $ kiv templates show teenager --json | jq -c '[length, .[0].name]'
+  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
   $ kiv accounts --file start --json | jq -c '[length, .[0]]'
   [27,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]
   $ start
