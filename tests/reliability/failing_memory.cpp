@@ -38,7 +38,7 @@ void operator delete(void *memory, std::size_t) noexcept
 /// rest of it.
 extern "C" const char *__lsan_default_suppressions()
 {
-    return "leak:QObject::connect<";
+    return "leak:connect<";
 }
 
 #pragma GCC visibility pop
