@@ -25,8 +25,10 @@ AccountCode BudgetBankLedgers::add(T item, const std::optional<BankAccount> &ban
     verifyNewItemName(item.source());
     if (!bankAccount)
         return m_budgetLedgers.add(std::move(item), *m_generator);
-    Restore before(*this);
+    BudgetBankLedgers former(*this);
     AccountCode code = m_budgetLedgers.add(item, *m_generator);
+    // Only from here on: an item whose account the ledger refused stays in the budget.
+    Restore before(std::move(former), Assign(*this));
     try {
         const BankAccount association = addBudgetBankAssociation(item, code, *bankAccount);
         logDone("Added budget bank association:", association);

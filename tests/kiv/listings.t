@@ -199,9 +199,6 @@ What was closed is opened again, and what was added is removed:
        5  Card      line of credit      $0.00
   $ kiv bank-account remove Card
   Removed the bank account 5 Card.
-  $ kiv wage list
-  Name       Amount  Every    Next        Tags
-  Salary  $3,100.00  monthly  2026-01-25
   $ kiv bank close First
   kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
   [1]

@@ -23,8 +23,6 @@ What is undone is back, byte for byte, and what is undone again is there again:
   Added the bill 'Gym'.
   $ undone account recode Checking --number 77
   The account 1 Assets:Checking is now 77 Assets:Checking.
-  $ undone pay Rent 5 --account Checking
-  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
   $ undone survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02
   Reconciled 1 Checking at First with a balance of $2,500.00.
 

@@ -110,6 +110,12 @@ private slots:
         expected.budget.debts.add(item<Debt>("Car"));
         QVERIFY(answer([&] { books.add<Debt>("Car"); }).contains(u"ledger is full"));
         QCOMPARE(stateOf(books), expected);
+        // Nor is it taken back when a bank was to hold it.
+        BudgetBankLedgers all(books.ledger, {}, {}, {}, books.generator->clone());
+        QVERIFY(answer([&] {
+                    all.add(item<Debt>("Car"), at("First", 0, BankAccountTypes::Loan));
+                }).contains(u"ledger is full"));
+        QCOMPARE(all.budget().debts.size(), 1U);
 
         books.ledger.remove(txn(1));
         addAccount(books.ledger, *books.generator, AccountTypes::Expense, no(6), "By hand");
