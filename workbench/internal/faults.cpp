@@ -65,6 +65,11 @@ EntryError notAPercentage(const QString &text)
     return EntryError(QObject::tr("'%1' is not a percentage; write one like 2.75.").arg(text));
 }
 
+EntryError currencyGivenTwice(const QString &currency)
+{
+    return EntryError(QObject::tr("The currency '%1' is given twice.").arg(currency));
+}
+
 Refusal noSuchAccount(const QString &text, const QStringList &similar)
 {
     return missed(QObject::tr("There is no account '%1'").arg(text), similar, Remedy::ListAccounts);
@@ -117,6 +122,20 @@ Refusal noSuchTransaction(const QString &number)
 {
     return missed(QObject::tr("There is no transaction %1").arg(number), {},
                   Remedy::ListTransactions);
+}
+
+Refusal noTransferFrom(const QString &account)
+{
+    return Refusal(
+        QObject::tr("Cannot transfer from '%1'; choose an asset account of a bank.").arg(account));
+}
+
+Refusal noTransferTo(const QString &account)
+{
+    return Refusal(
+        QObject::tr(
+            "Cannot transfer to '%1'; choose an asset account of a bank without a parent account.")
+            .arg(account));
 }
 
 Refusal noSuchVersion(const QString &number, qsizetype count)

@@ -19,6 +19,7 @@ namespace kiv::workbench::internal {
                                        unsigned digitsMax);
 [[nodiscard]] EntryError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] EntryError notAPercentage(const QString &text);
+[[nodiscard]] EntryError currencyGivenTwice(const QString &currency);
 
 // ---- what is not in the budget -----------------------------------------------
 // `similar` are names to offer, see similarTo().
@@ -36,6 +37,8 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);
+[[nodiscard]] Refusal noTransferFrom(const QString &account);
+[[nodiscard]] Refusal noTransferTo(const QString &account);
 [[nodiscard]] Refusal noSuchVersion(const QString &number, qsizetype count);
 [[nodiscard]] Refusal versionDamaged(const QString &path, const QString &reason);
 

@@ -106,19 +106,6 @@ accounting::Transaction Requests::transaction(accounting::TransactionNumber numb
     throw internal::noSuchTransaction(accounting::presentationText(number));
 }
 
-Requests::Fetch<conversion::ConversionMap>
-Requests::fetchRates(const std::set<numira::Currency> &currencies)
-{
-    conversion::ConversionMap rates;
-    const std::optional<Failure> failure = failureOf([&] {
-        rates = std::get<conversion::ConversionMap>(
-            ask(&Navigator::fetchedExchangeRates, &Navigator::onFetchExchangeRates, currencies));
-    });
-    if (failure)
-        return {std::move(rates), userText(*failure)};
-    return {std::move(rates), std::nullopt};
-}
-
 Requests::Fetch<std::set<updating::ReleaseInformation>>
 Requests::fetchReleases(std::chrono::milliseconds patience)
 {

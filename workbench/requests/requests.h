@@ -142,9 +142,6 @@ public:
         Fetched fetched;                ///< after a failure empty, or the known values
         std::optional<QString> failure; ///< the reason, which can be empty
     };
-    /// The rates of these currencies; after a failure the known ones.
-    [[nodiscard]] Fetch<conversion::ConversionMap>
-    fetchRates(const std::set<numira::Currency> &currencies);
     /// Fetches the list of releases, in an event loop for at most `patience`.
     [[nodiscard]] Fetch<std::set<updating::ReleaseInformation>>
     fetchReleases(std::chrono::milliseconds patience);

@@ -6,27 +6,16 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
+#include "workbench/statements/posted_import.h"
 #include "workbench/statements/statement_books.h"
 
 #include "foundation/presentation.h"
-#include "interchange/duplicates.h"
-#include "interchange/statement_plan.h"
 
 namespace kiv::app {
 
-using accounting::Transaction;
-using interchange::Place;
-using navigation::Navigator;
+using workbench::PostedImport;
 
 namespace {
-
-/// A transaction of a file, with its place there.
-struct Found {
-    Transaction transaction;
-    Place place;
-    bool isKnown = false;     ///< whether the budget has it already
-    QStringList notices = {}; ///< shown if it is posted
-};
 
 struct Import {
     ImportOptions options;
@@ -54,20 +43,7 @@ private:
         Requests &requests = call.requests;
         const interchange::Draft draft = interchange::readJournal(
             bytes, options.file, options.journal(requests.preferredCurrency()));
-        const AccountIndex before = requests.accounts();
-        const interchange::AccountPlan plan = interchange::planAccounts(draft, before.accounts());
-        interchange::Duplicates duplicates(requests.transactions());
-        for (const accounting::Account &account : plan.missing)
-            requests.change(workbench::accountOutcome, &Navigator::onAddedAct, account);
-        std::vector<Found> found;
-        for (const interchange::DraftTransaction &drafted : draft.transactions) {
-            const Transaction transaction(
-                drafted.date, plan.codes[drafted.debit], plan.codes[drafted.credit], drafted.amount,
-                drafted.text.isEmpty() ? std::nullopt : std::optional(drafted.text));
-            found.push_back({transaction.withStatuses(drafted.debitStatus, drafted.creditStatus),
-                             drafted.place, duplicates.take(transaction)});
-        }
-        return post(call, found, plan.missing, draft.notices);
+        return report(call, workbench::postDraft(requests, draft, known()));
     }
 
     // ---- bank statements ---------------------------------------------------------
@@ -93,87 +69,61 @@ private:
             statement, workbench::statementBooks(requests, account),
             {profile.rules, options.against,
              [&index](const QString &name) { return index.find(name).code(); }});
-        std::vector<Found> found;
         for (const interchange::PlannedEntry &planned : plan.entries) {
             const interchange::StatementEntry &entry = planned.entry;
             if (planned.chosenBy == interchange::ChosenBy::Nobody)
                 throw noOtherAccount(
                     QStringLiteral("'%1', %2")
                         .arg(entry.text, foundation::presentationText(entry.date)));
-            found.push_back(
-                {planned.transaction, entry.place, planned.isDuplicate, textsOf(planned.notices)});
         }
-        Report report = post(call, found, {}, textsOf(plan.notices));
+        Report told = report(call, workbench::postStatement(requests, plan, known()));
         if (!call.options.isDryRun)
-            report.setFinish(options.storedProfile(profile));
-        return report;
-    }
-
-    [[nodiscard]] static QStringList
-    textsOf(const std::vector<interchange::StatementNotice> &notices)
-    {
-        QStringList texts;
-        for (const interchange::StatementNotice &notice : notices)
-            texts += notice.text;
-        return texts;
+            told.setFinish(options.storedProfile(profile));
+        return told;
     }
 
     // ---- both --------------------------------------------------------------------
 
-    [[nodiscard]] Report post(Call &call, const std::vector<Found> &found,
-                              const std::vector<accounting::Account> &opened,
-                              QStringList notices) const
+    [[nodiscard]] workbench::KnownTransactions known() const
     {
-        QJsonArray rows;
-        qint64 posted = 0;
+        using enum workbench::KnownTransactions;
+        return keepsDuplicates ? Post : Skip;
+    }
+
+    [[nodiscard]] static Report report(Call &call, const PostedImport &import)
+    {
         const AccountIndex index = call.requests.accounts();
-        for (const auto &[transaction, place, isKnown, told] : found) {
-            const bool isDuplicate = isKnown && !keepsDuplicates;
-            if (!isDuplicate) {
-                postOne(call.requests, transaction, place);
-                ++posted;
-                notices += told;
-            }
+        QJsonArray rows;
+        for (const auto &[transaction, place, isSkipped] : import.transactions) {
             QJsonObject row = toJson(transaction);
             row.remove(QStringLiteral("number"));
             row.insert(QStringLiteral("debitPath"), index.path(transaction.debiting().number()));
             row.insert(QStringLiteral("creditPath"), index.path(transaction.crediting().number()));
             row.insert(QStringLiteral("line"), qint64{place.line});
-            row.insert(QStringLiteral("duplicate"), isDuplicate);
+            row.insert(QStringLiteral("duplicate"), isSkipped);
             rows.append(row);
         }
-        notices.removeDuplicates();
         QJsonArray accounts;
-        for (const accounting::Account &account : opened)
+        for (const accounting::Account &account : import.opened)
             accounts.append(toJson(account, index));
-        const auto duplicated = qint64{rows.size()} - posted;
+        const qint64 posted = import.posted();
+        const qint64 skipped = import.skipped();
         Report report(
             QJsonObject{{QStringLiteral("accounts"), accounts},
                         {QStringLiteral("transactions"), rows},
                         {QStringLiteral("posted"), posted},
-                        {QStringLiteral("duplicates"), duplicated},
-                        {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
+                        {QStringLiteral("duplicates"), skipped},
+                        {QStringLiteral("notices"), QJsonArray::fromStringList(import.notices)}});
         if (call.options.isDryRun)
             preview(report, accounts, rows);
-        for (const QString &notice : notices)
+        for (const QString &notice : import.notices)
             report.line(notice);
-        // Saving an unchanged budget would only push out an older version.
-        if (posted == 0 && opened.empty())
+        if (!import.hasChanges())
             report.setUnchanged();
         return report.line(
             QObject::tr("Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.")
-                .arg(QString::number(posted), QString::number(duplicated),
-                     QString::number(opened.size())));
-    }
-
-    static void postOne(Requests &requests, const Transaction &transaction, const Place &place)
-    {
-        try {
-            requests.change(workbench::transactionOutcome, &Navigator::onAddedTransaction,
-                            transaction);
-        } catch (const Refusal &refusal) {
-            throw interchange::ImportError(place, refusal.message());
-        }
+                .arg(QString::number(posted), QString::number(skipped),
+                     QString::number(import.opened.size())));
     }
 
     static void preview(Report &report, const QJsonArray &accounts, const QJsonArray &rows)

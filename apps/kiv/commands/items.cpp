@@ -5,7 +5,7 @@
 
 #include "output/json.h"
 
-#include "workbench/requests/other_day.h"
+#include "workbench/requests/item_changes.h"
 
 namespace kiv::app {
 
@@ -15,6 +15,7 @@ using budgeting::BudgetSource;
 using budgeting::EventFrequency;
 using budgeting::ItemTraits;
 using navigation::Navigator;
+using workbench::ItemValues;
 
 namespace {
 
@@ -60,30 +61,16 @@ struct ItemArguments {
                !type;
     }
 
-    /// The item with this name; missing values are taken from `present`.
-    [[nodiscard]] Item item(const QString &name, const Item &present) const
+    /// The values as given, with the bank account that they name.
+    [[nodiscard]] ItemValues values(Requests &requests) const
     {
-        const numira::Currency code = present.amount().code();
-        const numira::Money money = amount ? amount->in(code) : present.amount();
-        const EventFrequency period = every.value_or(present.period());
-        const QDate date = next.value_or(present.nextOccurOn());
-        const auto built = [&] {
-            if constexpr (budgeting::BankTiedItem<Item>) {
-                numira::Money sum = extraOf(present);
-                if (extra)
-                    sum = extra->in(money.code());
-                return Item(BudgetSource(name), money, period, date, sum);
-            } else {
-                return Item(BudgetSource(name), money, period, date);
-            }
-        };
-        Item made = built();
-        // In a short month, an item keeps the day of the month that it was given.
-        if (!next)
-            made.setDayOfMonth(present.dayOfMonth());
-        return made;
+        ItemValues given{amount, every, next, extra, std::nullopt, named(requests)};
+        if (!tags.empty())
+            given.tags = asTags();
+        return given;
     }
 
+private:
     [[nodiscard]] tagging::Tags asTags() const
     {
         tagging::Tags made;
@@ -105,10 +92,6 @@ struct ItemArguments {
             requests.accounts().find(*bankAccount).code().number();
         return requests.bankAccount(number, *bankAccount);
     }
-
-private:
-    static const numira::Money &extraOf(const budgeting::Debt &debt) { return debt.borrowed(); }
-    static const numira::Money &extraOf(const budgeting::Goal &goal) { return goal.final(); }
 };
 
 Report itemReport(Requests &requests, const BudgetItemIdentifier &id, const QString &sentence)
@@ -133,30 +116,13 @@ struct AddItem {
     Report run(Call &call) const
     {
         Requests &requests = call.requests;
-        ItemArguments<Item> given = arguments;
+        ItemValues given = arguments.values(requests);
         given.amount = amount;
-        const numira::Money nothing(amount.currency.value_or(requests.preferredCurrency()));
-        const Item item = given.item(name.text, blank(nothing, given.next.value_or(call.date())));
-        const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
-        const auto add = [&] {
-            requests.change(workbench::itemOutcome, &Navigator::onAdded, caller, id.type, item,
-                            given.named(requests),
-                            tagging::BudgetItemTags::ItemTags(id, given.asTags()));
-        };
-        workbench::openNewOn(requests, call.options.date, add);
+        const BudgetItemIdentifier id = workbench::addItem<Item>(requests, caller, name.text, given,
+                                                                 call.date(), call.options.date);
         return itemReport(
             requests, id,
             QObject::tr("Added the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name.text));
-    }
-
-private:
-    static Item blank(const numira::Money &nothing, QDate date)
-    {
-        const auto monthly = EventFrequency::Monthly;
-        if constexpr (budgeting::BankTiedItem<Item>)
-            return Item(BudgetSource(), nothing, monthly, date, nothing);
-        else
-            return Item(BudgetSource(), nothing, monthly, date);
     }
 };
 
@@ -186,35 +152,14 @@ struct UpdateItem {
         Requests &requests = call.requests;
         const BudgetView view(requests);
         const auto &present = dynamic_cast<const Item &>(view.find(name, ItemTraits<Item>::type));
-        const BudgetItemIdentifier id{ItemTraits<Item>::type, present.source()};
-        const bool areTagsKept = arguments.tags.empty() && !isUntagged;
-        const tagging::Tags tags = areTagsKept ? view.tags(id) : arguments.asTags();
-        const auto update = [&](const std::optional<BankAccount> &tied) {
-            requests.change(workbench::itemOutcome, &Navigator::onUpdated, caller, id.type,
-                            arguments.item(name, present), tied,
-                            tagging::BudgetItemTags::ItemTags(id, tags));
-        };
-        const std::optional<BankAccount> wanted = bankAccount(requests, view, id);
-        // A debt can have accounts at two banks; with another bank it is moved there.
-        if constexpr (std::same_as<Item, budgeting::Debt>) {
-            const std::optional<BankAccount> former = view.bankAccount(id);
-            if (former && wanted && wanted->bank != former->bank)
-                update(std::nullopt);
-        }
-        update(wanted);
+        ItemValues given = arguments.values(requests);
+        given.isUntied = isUntied;
+        if (isUntagged)
+            given.tags = tagging::Tags();
+        workbench::updateItem(requests, caller, view, present, given);
         return itemReport(
-            requests, id,
+            requests, {ItemTraits<Item>::type, present.source()},
             QObject::tr("Changed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
-    }
-
-private:
-    /// The given bank account, or else the present one: an update without it would
-    /// remove the link.
-    [[nodiscard]] std::optional<BankAccount> bankAccount(Requests &requests, const BudgetView &view,
-                                                         const BudgetItemIdentifier &id) const
-    {
-        const std::optional<BankAccount> named = arguments.named(requests);
-        return named || isUntied ? named : view.bankAccount(id);
     }
 };
 

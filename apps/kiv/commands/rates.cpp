@@ -6,6 +6,7 @@
 #include "output/json.h"
 
 #include "workbench/entry/user_locale.h"
+#include "workbench/requests/exchange_rates.h"
 
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"
@@ -21,14 +22,12 @@ namespace kiv::app {
 using conversion::ConversionMap;
 using conversion::RateOrigin;
 using conversion::RateSource;
-using navigation::Navigator;
 
 namespace {
 
 /// A currency and its rate: "EUR=0.92".
 struct RateArgument {
-    numira::Currency currency;
-    numira::FloatingPoint rate;
+    workbench::TypedRate rate;
 };
 
 void readValue(const QString &text, RateArgument &value)
@@ -38,14 +37,8 @@ void readValue(const QString &text, RateArgument &value)
     const QRegularExpressionMatch match = form.match(text);
     if (!match.hasMatch())
         throw notARate(text);
-    workbench::readValue(match.captured(1), value.currency);
-    value.rate = numira::FloatingPoint(match.captured(2).toStdString());
-}
-
-ConversionMap present(Requests &requests)
-{
-    return std::get<ConversionMap>(
-        requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
+    workbench::readValue(match.captured(1), value.rate.currency);
+    value.rate.rate = numira::FloatingPoint(match.captured(2).toStdString());
 }
 
 /// The rate in the form of the locale.
@@ -111,7 +104,7 @@ Report ratesReport(const ConversionMap &map)
 
 struct ShowRates {
     void declare(Arguments &) {}
-    Report run(Call &call) const { return ratesReport(present(call.requests)); }
+    Report run(Call &call) const { return ratesReport(workbench::presentRates(call.requests)); }
 };
 
 struct FetchRates {
@@ -123,24 +116,17 @@ struct FetchRates {
     }
     Report run(Call &call) const
     {
-        Requests &requests = call.requests;
-        const auto shown =
-            requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates);
-        std::set<numira::Currency> currencies(wanted.begin(), wanted.end());
-        if (currencies.empty())
-            currencies = std::get<std::set<numira::Currency>>(shown);
         if (::isatty(STDERR_FILENO) != 0)
             complain(QObject::tr("fetching exchange rates …"));
-        const auto [map, failure] = requests.fetchRates(currencies);
-        // A failed fetch answers with the old rates.
-        if (map.isEmpty() || failure)
-            throw ratesNotFetched(failure.value_or(QString()));
-        if (const QString lacking = codesOf(map.notFetched(currencies)); !lacking.isEmpty()) {
-            complain(
-                QObject::tr("warning: %1")
-                    .arg(QObject::tr("The service has no exchange rates for: %1").arg(lacking)));
+        const auto [map, lacking, failure] =
+            workbench::fetchRates(call.requests, {wanted.begin(), wanted.end()});
+        if (failure)
+            throw ratesNotFetched(*failure);
+        if (!lacking.empty()) {
+            complain(QObject::tr("warning: %1")
+                         .arg(QObject::tr("The service has no exchange rates for: %1")
+                                  .arg(codesOf(lacking))));
         }
-        requests.navigator().onStoreExchangeRates(map);
         return ratesReport(map);
     }
 };
@@ -158,17 +144,10 @@ struct SetRates {
     }
     Report run(Call &call) const
     {
-        const ConversionMap known = present(call.requests);
-        ConversionMap::Rates typed;
-        for (const RateArgument &given : rates) {
-            if (!typed.emplace(given.currency, given.rate).second)
-                throw UsageError(QObject::tr("The currency '%1' is given twice.")
-                                     .arg(foundation::toQString(given.currency)));
-        }
-        const ConversionMap map = known.updatedWith(
-            {base, QDateTime::currentDateTimeUtc(), std::move(typed), RateSource::Typed});
-        call.requests.navigator().onStoreExchangeRates(map);
-        return ratesReport(map);
+        std::vector<workbench::TypedRate> typed;
+        for (const RateArgument &given : rates)
+            typed.push_back(given.rate);
+        return ratesReport(workbench::storeTypedRates(call.requests, base, typed));
     }
 };
 

@@ -7,13 +7,10 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
-#include "workbench/requests/other_day.h"
-
-#include "interchange/duplicates.h"
+#include "workbench/requests/transactions.h"
 
 namespace kiv::app {
 
-using accounting::AccountCode;
 using accounting::AccountNumber;
 using accounting::Transaction;
 using accounting::TransactionNumber;
@@ -49,13 +46,6 @@ std::vector<Column> transactionColumns()
 Report transactionReport(Requests &requests, TransactionNumber number, const QString &sentence)
 {
     return Report(toJson(requests.transaction(number))).line(sentence.arg(textOf(number)));
-}
-
-/// The number of the last posted transaction.
-template <typename Answers>
-TransactionNumber postedNumber(const Answers &answers)
-{
-    return std::get<1>(answers.back()).value_or(TransactionNumber());
 }
 
 struct ListTransactions {
@@ -103,9 +93,7 @@ struct AddTransaction {
         const accounting::Account &debited = index.find(debit);
         const Transaction transaction(call.date(), debited.code(), index.find(credit).code(),
                                       amount.in(debited.balance().code()), description);
-        const auto answers = call.requests.change(workbench::transactionOutcome,
-                                                  &Navigator::onAddedTransaction, transaction);
-        return transactionReport(call.requests, postedNumber(answers),
+        return transactionReport(call.requests, workbench::post(call.requests, transaction),
                                  QObject::tr("Posted transaction %1."));
     }
 };
@@ -121,11 +109,8 @@ struct LoadTransactions {
     Report run(Call &call) const
     {
         QJsonArray numbers;
-        for (const Transaction &transaction : readTransactions(file, call.requests.accounts())) {
-            const auto answers = call.requests.change(workbench::transactionOutcome,
-                                                      &Navigator::onAddedTransaction, transaction);
-            numbers.append(toJson(std::optional(postedNumber(answers))));
-        }
+        for (const Transaction &transaction : readTransactions(file, call.requests.accounts()))
+            numbers.append(toJson(std::optional(workbench::post(call.requests, transaction))));
         return Report(QJsonObject{{QStringLiteral("posted"), numbers}})
             .line(
                 QObject::tr("Posted %n transactions.", nullptr, static_cast<int>(numbers.size())));
@@ -152,29 +137,9 @@ struct UpdateTransaction {
     {
         if (!amount && !debit && !credit && !description && !call.options.date)
             throw nothingToChange();
-        Requests &requests = call.requests;
-        const AccountIndex index = requests.accounts();
-        const Transaction present = requests.transaction(number);
-        const AccountCode debited = debit ? index.find(*debit).code() : present.debiting();
-        const AccountCode credited = credit ? index.find(*credit).code() : present.crediting();
-        const numira::Money money = amount ? amount->in(present.amount().code()) : present.amount();
-        requests.change(workbench::transactionOutcome, &Navigator::onUpdatedTransaction, number,
-                        Transaction(call.options.date.value_or(present.occurredOn()), debited,
-                                    credited, money, describedAfter(present)));
-        return transactionReport(requests, number, QObject::tr("Changed transaction %1."));
-    }
-
-private:
-    /// The new description, with the bank's identifier of the old one. A later import of
-    /// the statement then recognises the transaction.
-    [[nodiscard]] std::optional<QString> describedAfter(const Transaction &present) const
-    {
-        if (!description || !present.description())
-            return description ? description : present.description();
-        const QString id = interchange::bankIdOf(*present.description());
-        return interchange::bankIdOf(*description).isEmpty()
-                   ? interchange::withBankId(*description, id)
-                   : *description;
+        workbench::changeTransaction(call.requests, number,
+                                     {call.options.date, amount, debit, credit, description});
+        return transactionReport(call.requests, number, QObject::tr("Changed transaction %1."));
     }
 };
 
@@ -230,31 +195,9 @@ struct Transfer {
     }
     Report run(Call &call) const
     {
-        Requests &requests = call.requests;
-        const AccountIndex index = requests.accounts();
-        const auto answer =
-            requests.ask(&Navigator::showMoneyTransfer, &Navigator::onPrepareShowMoneyTransfer);
-        const AccountCode source = index.find(from).code();
-        const accounting::Account &target = index.find(to);
-        if (!holds(std::get<0>(answer), source.number()))
-            throw noTransferFrom(from);
-        if (!holds(std::get<1>(answer), target.code().number()))
-            throw noTransferTo(to);
-        // The slot debits its first account, and a debit raises an asset.
-        const auto answers = requests.change(
-            workbench::transactionOutcome, &Navigator::onTransferRequested, target.code().number(),
-            source.number(), amount.in(target.balance().code()), reason);
-        const TransactionNumber number = postedNumber(answers);
-        workbench::moveTo(requests, number, call.options.date);
-        return transactionReport(requests, number, QObject::tr("Posted transaction %1."));
-    }
-
-private:
-    static bool holds(const std::set<navigation::BankAccountCode> &accounts, AccountNumber number)
-    {
-        return std::ranges::any_of(accounts, [number](const auto &account) {
-            return account.account().number() == number;
-        });
+        const TransactionNumber number =
+            workbench::transfer(call.requests, {from, to, amount, reason, call.options.date});
+        return transactionReport(call.requests, number, QObject::tr("Posted transaction %1."));
     }
 };
 
@@ -270,13 +213,9 @@ struct Refund {
     }
     Report run(Call &call) const
     {
-        Requests &requests = call.requests;
-        const numira::Currency currency = requests.transaction(number).amount().code();
-        const auto answers = requests.change(workbench::transactionOutcome,
-                                             &Navigator::onPostRefund, number, amount.in(currency));
-        const TransactionNumber refund = postedNumber(answers);
-        workbench::moveTo(requests, refund, call.options.date);
-        return transactionReport(requests, refund,
+        const TransactionNumber refund =
+            workbench::refund(call.requests, number, amount, call.options.date);
+        return transactionReport(call.requests, refund,
                                  QObject::tr("Posted the refund as transaction %1."));
     }
 };

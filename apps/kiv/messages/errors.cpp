@@ -160,20 +160,6 @@ Refusal noSuchTag(const QString &name, const QStringList &similar)
                              workbench::Remedy::ListTags);
 }
 
-Refusal noTransferFrom(const QString &account)
-{
-    return Refusal(
-        QObject::tr("Cannot transfer from '%1'; choose an asset account of a bank.").arg(account));
-}
-
-Refusal noTransferTo(const QString &account)
-{
-    return Refusal(
-        QObject::tr(
-            "Cannot transfer to '%1'; choose an asset account of a bank without a parent account.")
-            .arg(account));
-}
-
 UsageError unknownFormat(const QString &file)
 {
     return UsageError(

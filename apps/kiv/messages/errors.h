@@ -52,8 +52,6 @@ public:
 [[nodiscard]] Refusal ratesNotFetched(const QString &reason);
 [[nodiscard]] Refusal releasesNotFetched(const QString &reason);
 [[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
-[[nodiscard]] Refusal noTransferFrom(const QString &account);
-[[nodiscard]] Refusal noTransferTo(const QString &account);
 
 /// The name of the file and its first bytes do not show its format.
 [[nodiscard]] UsageError unknownFormat(const QString &file);

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/requests/requests.h"
+
+/// Exchange rates from the service or the user.
+namespace kiv::workbench {
+
+/// The outcome of a fetch.
+struct FetchedRates {
+    conversion::ConversionMap rates;    ///< the new table; after a failure the present one
+    std::set<numira::Currency> lacking; ///< wanted, but the service has no rates for them
+    std::optional<QString> failure;     ///< the reason, which can be empty; nothing is stored then
+};
+
+/// The present rates.
+[[nodiscard]] KIV_WORKBENCH_EXPORT conversion::ConversionMap presentRates(Requests &requests);
+
+/// Fetches and stores the rates of the wanted currencies, by default of the user's usable
+/// ones. Throws what storing throws.
+[[nodiscard]] KIV_WORKBENCH_EXPORT FetchedRates fetchRates(Requests &requests,
+                                                           std::set<numira::Currency> wanted = {});
+
+/// A rate as the user gives it: so much of the currency is worth one unit of the base.
+struct TypedRate {
+    numira::Currency currency;
+    numira::FloatingPoint rate;
+};
+
+/// Stores rates that the user typed, of this moment, and returns the table with them. Throws
+/// an EntryError for a currency that is given twice, a ConversionError as
+/// ConversionMap::updatedWith() does, and what storing throws; nothing is stored then.
+KIV_WORKBENCH_EXPORT conversion::ConversionMap storeTypedRates(Requests &requests,
+                                                               const numira::Currency &base,
+                                                               const std::vector<TypedRate> &rates);
+
+} // namespace kiv::workbench

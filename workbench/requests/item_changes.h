@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/entry/values.h"
+#include "workbench/requests/budget_view.h"
+
+#include "budgeting/item_traits.h"
+
+/// Adding and changing budget items by the values that a user gives.
+namespace kiv::workbench {
+
+/// The given values of an item besides its name.
+struct ItemValues {
+    std::optional<Amount> amount;
+    std::optional<budgeting::EventFrequency> every;
+    std::optional<QDate> next;                       ///< the next due date
+    std::optional<Amount> extra;                     ///< the borrowed amount, or the target
+    std::optional<tagging::Tags> tags;               ///< all tags, possibly none
+    std::optional<banking::BankAccount> bankAccount; ///< of a debt or goal
+    bool isUntied = false;                           ///< removes the link to the bank account
+};
+
+/// Adds an item, and returns its kind and name. What is missing is an amount of zero in the
+/// preferred currency, monthly, due on `day`. Moves the openings of its accounts to
+/// `openedOn`, if that is given. Throws a Refusal, and an EntryError for an amount with too
+/// many decimals. If moving an opening is refused, the item stays.
+template <budgeting::BudgetItem Item>
+KIV_WORKBENCH_EXPORT budgeting::BudgetItemIdentifier
+addItem(Requests &requests, navigation::GuiElementIdentifier caller, const QString &name,
+        const ItemValues &given, QDate day, const std::optional<QDate> &openedOn);
+
+/// Changes an item; what is missing stays as it is. A debt with another bank moves its
+/// account there. Throws a Refusal, and an EntryError for an amount with too many decimals. A
+/// debt that the other bank refuses has lost its link then, so revert the document.
+template <budgeting::BudgetItem Item>
+KIV_WORKBENCH_EXPORT void updateItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                     const BudgetView &view, const Item &present,
+                                     const ItemValues &given);
+
+} // namespace kiv::workbench
