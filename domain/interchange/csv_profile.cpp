@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/csv_profile.h"
 
-#include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

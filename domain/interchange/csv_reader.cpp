@@ -6,6 +6,7 @@
 #include "interchange/internal/csv_entries.h"
 #include "interchange/internal/description_count.h"
 #include "interchange/internal/running_balance.h"
+#include "interchange/internal/statement_faults.h"
 
 #include <algorithm>
 #include <ranges>

@@ -3,6 +3,7 @@
 
 #include "interchange/internal/faults.h"
 #include "interchange/internal/limits.h"
+#include "interchange/internal/statement_faults.h"
 
 #include "interchange/draft.h"
 

@@ -2,6 +2,8 @@
 #include "interchange/qif_reader.h"
 
 #include "interchange/internal/description_count.h"
+#include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 
 #include "interchange/draft.h"
 #include "interchange/text_decoding.h"

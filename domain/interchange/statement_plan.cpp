@@ -3,7 +3,7 @@
 
 #include "interchange/account_paths.h"
 #include "interchange/duplicates.h"
-#include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 
 #include "foundation/presentation.h"
 

@@ -2,6 +2,7 @@
 #include "interchange/written_values.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 
 #include "foundation/presentation.h"
 #include "numira/error.h"

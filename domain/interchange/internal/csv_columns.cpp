@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/csv_columns.h"
 
-#include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 #include "interchange/internal/statement_words.h"
 
 #include "foundation/presentation.h"

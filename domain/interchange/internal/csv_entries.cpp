@@ -2,6 +2,7 @@
 #include "interchange/internal/csv_entries.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 #include "interchange/internal/statement_words.h"
 
 #include "foundation/presentation.h"

@@ -3,6 +3,7 @@
 #include "interchange/internal/journal_books.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/journal_faults.h"
 #include "interchange/internal/limits.h"
 
 #include "interchange/account_paths.h"

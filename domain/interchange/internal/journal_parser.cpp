@@ -2,6 +2,7 @@
 #include "interchange/internal/journal_parser.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/journal_faults.h"
 #include "interchange/internal/limits.h"
 
 #include "numira/error.h"

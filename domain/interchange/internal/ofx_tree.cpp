@@ -4,6 +4,7 @@
 #include "interchange/draft.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 #include "interchange/text_decoding.h"
 
 #include <QtCore/QRegularExpression>

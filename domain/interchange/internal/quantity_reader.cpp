@@ -2,6 +2,7 @@
 #include "interchange/internal/quantity_reader.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/journal_faults.h"
 
 #include "foundation/presentation.h"
 

@@ -2,6 +2,7 @@
 #include "interchange/internal/running_balance.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/statement_faults.h"
 
 #include "foundation/presentation.h"
 #include "numira/error.h"
