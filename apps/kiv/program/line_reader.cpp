@@ -8,12 +8,14 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <memory>
+#include <poll.h>
 #include <unistd.h>
 
 #include <readline/history.h>
@@ -36,6 +38,7 @@ class InterruptsGiveUpLine {
 public:
     InterruptsGiveUpLine()
     {
+        isInterrupted = 0;
         struct sigaction noting = {};
         noting.sa_handler = noteInterrupt;
         ::sigaction(SIGINT, &noting, &m_before);
@@ -48,16 +51,46 @@ private:
     struct sigaction m_before = {};
 };
 
-/// readline calls this when a signal has interrupted it.
-int afterSignal()
+/// Waits until there is a key or a signal. A signal that arrived before the wait ends it,
+/// too: signals are held back from the check until the wait begins.
+bool waitForKey(int terminal)
 {
-    if (std::exchange(isInterrupted, 0) != 0) {
-        rl_replace_line("", 0);
-        ::rl_crlf();
-        ::rl_on_new_line();
-        ::rl_redisplay();
+    sigset_t all;
+    sigset_t before;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_BLOCK, &all, &before);
+    bool isReady = false;
+    if (::rl_pending_signal() == 0 && isInterrupted == 0) {
+        pollfd key{terminal, POLLIN, 0};
+        isReady = ::ppoll(&key, 1, nullptr, &before) > 0;
     }
-    return 0;
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    return isReady;
+}
+
+/// Reads a key for readline. Its own function drops a signal that arrives shortly before
+/// it waits.
+int nextKey(FILE *terminal)
+{
+    while (true) {
+        const bool isReady = waitForKey(::fileno(terminal));
+        // readline has handlers of its own. This calls ours for what they caught.
+        ::rl_check_signals();
+        if (std::exchange(isInterrupted, 0) != 0) {
+            rl_replace_line("", 0);
+            ::rl_crlf();
+            ::rl_on_new_line();
+            ::rl_redisplay();
+        }
+        if (!isReady)
+            continue;
+        unsigned char key = 0;
+        const ssize_t count = ::read(::fileno(terminal), &key, 1);
+        if (count > 0)
+            return key;
+        if (count == 0 || (errno != EINTR && errno != EAGAIN))
+            return EOF;
+    }
 }
 
 // readline calls plain functions, so their data is global.
@@ -102,7 +135,7 @@ LineReader::LineReader(Completer completer, QString historyFile)
         return;
     rl_readline_name = "kiv";
     rl_attempted_completion_function = complete;
-    rl_signal_event_hook = afterSignal;
+    rl_getc_function = nextKey;
     rl_completer_quote_characters = "\"'";
     rl_basic_word_break_characters = " \t";
     ::stifle_history(historyMax);
