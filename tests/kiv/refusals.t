@@ -91,6 +91,7 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   > bil list
   > bill add Gym 12 --colour red
   > bill add Gym 12 --evrey=daily
+  > accounts --json=3
   > post Rent --acount Checking
   > bill add Gym
   > bill add Gym 12 --next
@@ -101,6 +102,7 @@ Commands, options and arguments; for a slip, what may have been meant is offered
   kiv: There is no command 'bil'; did you mean 'bill'?
   kiv: There is no option '--colour'; see kiv bill add --help.
   kiv: There is no option '--evrey'; did you mean '--every'?
+  kiv: --json does not accept the value '3'; see kiv accounts --help.
   kiv: There is no option '--acount'; did you mean '--account', '--amount'?
   kiv: AMOUNT is missing; see kiv bill add --help.
   kiv: --next needs a value (DATE); see kiv bill add --help.

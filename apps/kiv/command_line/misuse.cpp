@@ -88,7 +88,8 @@ void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
     const CLI::App *reached = &app;
     bool isValue = false;
     for (const std::string &word : words) {
-        const QString name = QString::fromStdString(word.substr(0, word.find('=')));
+        const std::size_t equals = word.find('=');
+        const QString name = QString::fromStdString(word.substr(0, equals));
         if (std::exchange(isValue, false))
             continue;
         if (word == "--")
@@ -98,7 +99,12 @@ void refuseUnknown(const CLI::App &app, const std::vector<std::string> &words)
             if (!options.contains(name))
                 throw noSuchOption(name, workbench::similarTo(name, options), helpOf(*reached));
             const CLI::Option *option = reached->get_option(name.toStdString());
-            isValue = option->get_items_expected_max() > 0 && word.find('=') == std::string::npos;
+            const bool takesValue = option->get_items_expected_max() > 0;
+            if (!takesValue && equals != std::string::npos)
+                throw wrongCall(QObject::tr("%1 does not accept the value '%2'")
+                                    .arg(name, QString::fromStdString(word.substr(equals + 1))),
+                                helpOf(*reached));
+            isValue = takesValue && equals == std::string::npos;
         } else if (const QStringList commands = commandsOf(*reached);
                    !commands.isEmpty() && !word.starts_with('-')) {
             const QString command = QString::fromStdString(word);
