@@ -135,6 +135,15 @@ std::optional<Transaction> GeneralLedger::lookUpTransaction(TransactionNumber nu
     return m_state->transaction(number);
 }
 
+std::optional<TransactionOutline> GeneralLedger::lookUpOutline(TransactionNumber number) const
+{
+    const internal::TransactionRecord *record = m_state->table().find(number);
+    if (!record)
+        return std::nullopt;
+    return TransactionOutline{record->occurredOn, record->debit,       record->credit,
+                              record->amount,     record->debitStatus, record->creditStatus};
+}
+
 std::vector<Transaction> GeneralLedger::transactions() const
 {
     const internal::NumberSet &numbers = m_state->table().numbers();
@@ -161,6 +170,14 @@ numira::Money GeneralLedger::refundable(TransactionNumber number) const
 bool operator==(const GeneralLedger &a, const GeneralLedger &b)
 {
     return a.m_state == b.m_state || *a.m_state == *b.m_state;
+}
+
+std::vector<TransactionNumber> changedTransactions(const GeneralLedger &before,
+                                                   const GeneralLedger &after)
+{
+    if (before.m_state == after.m_state)
+        return {};
+    return differences(before.m_state->table(), after.m_state->table());
 }
 
 std::ostream &operator<<(std::ostream &out, const GeneralLedger &ledger)

@@ -4,6 +4,7 @@
 #include "accounting/account.h"
 #include "accounting/account_number_generator.h"
 #include "accounting/errors.h"
+#include "accounting/transaction_outline.h"
 
 #include "foundation/clock.h"
 #include "foundation/debug_stream.h"
@@ -80,6 +81,8 @@ public:
     [[nodiscard]] bool canRemove(const AccountCode &code) const noexcept;
     /// The transaction, seen from neither side; nothing when there is none.
     [[nodiscard]] std::optional<Transaction> lookUpTransaction(TransactionNumber number) const;
+    /// The transaction in outline; nothing when there is none.
+    [[nodiscard]] std::optional<TransactionOutline> lookUpOutline(TransactionNumber number) const;
     /// All transactions in the order of their numbers, seen from neither side.
     [[nodiscard]] std::vector<Transaction> transactions() const;
     /// How many transactions there are.
@@ -184,6 +187,10 @@ public:
     friend KIV_ACCOUNTING_EXPORT std::ostream &operator<<(std::ostream &out,
                                                           const GeneralLedger &ledger);
 
+    /// See the declaration outside.
+    friend KIV_ACCOUNTING_EXPORT std::vector<TransactionNumber>
+    changedTransactions(const GeneralLedger &before, const GeneralLedger &after);
+
     /// The currencies in which accounts are kept and amounts were entered; an
     /// account without one adds none.
     friend KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
@@ -203,6 +210,11 @@ private:
 /// The currencies in which accounts are kept and transactions were entered.
 [[nodiscard]] KIV_ACCOUNTING_EXPORT std::set<numira::Currency>
 containedCurrencies(const GeneralLedger &ledger);
+/// The numbers of the transactions that only one ledger has, or that differ in anything
+/// but the names of their accounts, in order. What the ledgers share is not looked at: a
+/// copy that was changed a little is compared at the cost of that change.
+[[nodiscard]] KIV_ACCOUNTING_EXPORT std::vector<TransactionNumber>
+changedTransactions(const GeneralLedger &before, const GeneralLedger &after);
 using foundation::operator<<;
 
 } // namespace kiv::accounting

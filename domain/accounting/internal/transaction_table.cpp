@@ -111,4 +111,21 @@ bool operator==(const TransactionTable &a, const TransactionTable &b) noexcept
     return true;
 }
 
+std::vector<TransactionNumber> differences(const TransactionTable &a, const TransactionTable &b)
+{
+    std::vector<TransactionNumber> numbers;
+    for (std::size_t chunk = 0; chunk < a.m_chunks.size(); ++chunk) {
+        if (a.m_chunks[chunk].constData() == b.m_chunks[chunk].constData())
+            continue;
+        for (std::size_t slot = 0; slot < slotsInChunk; ++slot) {
+            const TransactionNumber number(static_cast<std::uint16_t>(chunk * slotsInChunk + slot));
+            const TransactionRecord *left = a.find(number);
+            const TransactionRecord *right = b.find(number);
+            if (left && right ? *left != *right : left != right)
+                numbers.push_back(number);
+        }
+    }
+    return numbers;
+}
+
 } // namespace kiv::accounting::internal

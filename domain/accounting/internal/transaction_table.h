@@ -125,6 +125,10 @@ public:
     [[nodiscard]] TransactionRecord &change(TransactionNumber number);
 
     friend bool operator==(const TransactionTable &a, const TransactionTable &b) noexcept;
+    /// The numbers, in order, that only one table has or that have other records. Chunks
+    /// that both share are skipped.
+    friend std::vector<TransactionNumber> differences(const TransactionTable &a,
+                                                      const TransactionTable &b);
 
 private:
     struct Chunk : QSharedData {
