@@ -121,6 +121,39 @@ StorageError cannotHold(const QString &path, const std::exception &cause)
             cause};
 }
 
+StorageError noteKeyRefused(const QString &key, qsizetype sizeMax)
+{
+    return {StorageFailure::CannotHold,
+            {},
+            QObject::tr("The key '%1' of a note must have 1 to %2 characters.")
+                .arg(key, QString::number(sizeMax))};
+}
+
+StorageError noteTooLarge(const QString &key)
+{
+    return {StorageFailure::CannotHold, {}, QObject::tr("The note '%1' is too large.").arg(key)};
+}
+
+StorageError noteNotReadable(const QString &key, const std::exception &cause)
+{
+    return {StorageFailure::CannotHold,
+            {},
+            QObject::tr("The note '%1' cannot be stored.").arg(key),
+            cause};
+}
+
+StorageError tooManyNotes(std::size_t countMax)
+{
+    return {StorageFailure::CannotHold,
+            {},
+            QObject::tr("There cannot be more than %1 notes.").arg(countMax)};
+}
+
+ContentFault noteMalformed()
+{
+    return ContentFault(QObject::tr("A note is malformed or nested too deep."));
+}
+
 ContentFault checksumWrong()
 {
     return ContentFault(QObject::tr("The checksum is wrong."));

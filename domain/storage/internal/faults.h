@@ -51,6 +51,14 @@ public:
 [[nodiscard]] StorageError notAsWritten(const QString &path);
 [[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
 
+// ---- notes -----------------------------------------------------------------------
+
+[[nodiscard]] StorageError noteKeyRefused(const QString &key, qsizetype sizeMax);
+[[nodiscard]] StorageError noteTooLarge(const QString &key);
+[[nodiscard]] StorageError noteNotReadable(const QString &key, const std::exception &cause);
+[[nodiscard]] StorageError tooManyNotes(std::size_t countMax);
+[[nodiscard]] ContentFault noteMalformed();
+
 // ---- their content ---------------------------------------------------------------
 
 [[nodiscard]] ContentFault checksumWrong();
