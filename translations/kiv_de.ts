@@ -4192,5 +4192,37 @@
         <source>save one with --save-profile</source>
         <translation>eines mit --save-profile speichern</translation>
     </message>
+    <message>
+        <source>The key &apos;%1&apos; of a note must have 1 to %2 characters.</source>
+        <translation>Der Schlüssel „%1“ einer Notiz muss 1 bis %2 Zeichen haben.</translation>
+    </message>
+    <message>
+        <source>The note &apos;%1&apos; is too large.</source>
+        <translation>Die Notiz „%1“ ist zu groß.</translation>
+    </message>
+    <message>
+        <source>The note &apos;%1&apos; cannot be stored.</source>
+        <translation>Die Notiz „%1“ kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>There cannot be more than %1 notes.</source>
+        <translation>Es kann nicht mehr als %1 Notizen geben.</translation>
+    </message>
+    <message>
+        <source>A note is malformed or nested too deep.</source>
+        <translation>Eine Notiz ist fehlerhaft oder zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>#%1, %2, was removed after the survey of %3</source>
+        <translation>Nr. %1, %2, wurde nach dem Abgleich vom %3 entfernt</translation>
+    </message>
+    <message>
+        <source>#%1 was changed from %2 to %3 after the survey of %4</source>
+        <translation>Nr. %1 wurde nach dem Abgleich vom %4 von %2 zu %3 geändert</translation>
+    </message>
+    <message>
+        <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
+        <translation>Nr. %1, %2, ist seit dem Abgleich vom %3 nicht mehr als abgeglichen markiert</translation>
+    </message>
 </context>
 </TS>

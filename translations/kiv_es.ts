@@ -4192,5 +4192,37 @@
         <source>save one with --save-profile</source>
         <translation>guarda uno con --save-profile</translation>
     </message>
+    <message>
+        <source>The key &apos;%1&apos; of a note must have 1 to %2 characters.</source>
+        <translation>La clave «%1» de una nota debe tener de 1 a %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>The note &apos;%1&apos; is too large.</source>
+        <translation>La nota «%1» es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>The note &apos;%1&apos; cannot be stored.</source>
+        <translation>La nota «%1» no se puede guardar.</translation>
+    </message>
+    <message>
+        <source>There cannot be more than %1 notes.</source>
+        <translation>No puede haber más de %1 notas.</translation>
+    </message>
+    <message>
+        <source>A note is malformed or nested too deep.</source>
+        <translation>Una nota está mal formada o anidada con demasiada profundidad.</translation>
+    </message>
+    <message>
+        <source>#%1, %2, was removed after the survey of %3</source>
+        <translation>n.º %1, %2, se eliminó después de la conciliación del %3</translation>
+    </message>
+    <message>
+        <source>#%1 was changed from %2 to %3 after the survey of %4</source>
+        <translation>n.º %1 se cambió de %2 a %3 después de la conciliación del %4</translation>
+    </message>
+    <message>
+        <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
+        <translation>n.º %1, %2, ya no está marcado como conciliado desde la conciliación del %3</translation>
+    </message>
 </context>
 </TS>
