@@ -56,6 +56,12 @@ void LedgerReplay::post(Transaction transaction)
     m_ledger.change().exchange(number, std::move(record));
 }
 
+std::optional<QString> LedgerReplay::descriptionOf(TransactionNumber number) const
+{
+    const TransactionRecord *const record = m_ledger.m_state->table().find(number);
+    return record ? record->description : std::nullopt;
+}
+
 void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber original)
 {
     const LedgerState &state = *m_ledger.m_state;

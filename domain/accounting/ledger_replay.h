@@ -26,6 +26,8 @@ public:
     /// positive, not in its account's currency, or another than the entered amount
     /// or the other side's in the same currency.
     void post(Transaction transaction);
+    /// The description of a transaction that was posted; nothing without either.
+    [[nodiscard]] std::optional<QString> descriptionOf(TransactionNumber number) const;
     /// `number` gives back some of `original`: accounts swapped, not more than
     /// is left, neither a refund of another.
     void markRefund(TransactionNumber number, TransactionNumber original);

@@ -225,6 +225,27 @@ Decimal Decimal::fromText(std::string_view text)
     return decimal;
 }
 
+Decimal Decimal::fromUnits(std::int64_t units, unsigned digits)
+{
+    if (digits > scale)
+        throw internal::tooManyDigits();
+    Decimal decimal;
+    decimal.m_units = Units{units} * powersOfTen[scale - digits];
+    return decimal;
+}
+
+std::optional<std::int64_t> Decimal::unitsOf(unsigned digits) const noexcept
+{
+    if (digits > scale)
+        return std::nullopt;
+    const Units step = powersOfTen[scale - digits];
+    const Units units = m_units / step;
+    const auto narrow = static_cast<std::int64_t>(units);
+    if (narrow != units || units * step != m_units)
+        return std::nullopt;
+    return narrow;
+}
+
 Decimal Decimal::fromDouble(double value)
 {
     std::array<char, 32> buffer;

@@ -6,6 +6,7 @@
 #include <compare>
 #include <cstdint>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,13 @@ public:
     /// The shortest decimal that reads back as `value`, rounded half to even
     /// at the 12th digit. Throws InvalidAmount when it is not finite.
     [[nodiscard]] static Decimal fromDouble(double value);
+
+    /// `units` times 10 to the power of -`digits`; with more than 12 digits it
+    /// throws std::logic_error.
+    [[nodiscard]] static Decimal fromUnits(std::int64_t units, unsigned digits);
+    /// How many times 10 to the power of -`digits` it is; nothing when that is no
+    /// whole number of 64 bits.
+    [[nodiscard]] std::optional<std::int64_t> unitsOf(unsigned digits) const noexcept;
 
     /// The plain decimal text, without exponent or grouping, with at least
     /// `digitsMin` digits behind the point and no more than are needed.

@@ -6,6 +6,7 @@
 #include "storage/internal/faults.h"
 #include "storage/internal/file_lock.h"
 #include "storage/internal/mending.h"
+#include "storage/internal/schema.h"
 
 #include "foundation/streams.h"
 
@@ -47,12 +48,15 @@ void warnOf(const QStringList &mended)
 
 /// The file's content, loaded once as a test: a saved file must be one that can
 /// be opened.
-internal::Image encodedSafely(const BudgetStorage::Data &data)
+QByteArray encodedSafely(const BudgetStorage::Data &data, const VersionMark &mark)
 {
-    internal::Image image = internal::encodeBudget(data);
+    QByteArray file = internal::encodeBudget(data, mark);
+    const internal::BudgetImage image(file);
+    image.checkSeal();
+    (void)image.mark();
     QStringList mended;
-    (void)internal::decodeBudget(image.bytes(), mended);
-    return image;
+    (void)image.data(mended);
+    return file;
 }
 
 } // namespace
@@ -65,6 +69,8 @@ public:
     [[nodiscard]] const FileTarget &target() const noexcept { return m_target; }
     /// `target` is the same file under another name.
     void showAs(FileTarget target) { m_target = std::move(target); }
+    /// That of the version which was loaded or stored last.
+    [[nodiscard]] const VersionMark &mark() const noexcept { return m_mark; }
     [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
 
     [[nodiscard]] bool exists() const
@@ -98,17 +104,24 @@ public:
         if (!content)
             throw internal::fileNotFound(m_target.shownPath());
         internal::requireBudget(internal::kindOf(content->bytes), m_target.shownPath());
-        Data data = withContent([&] { return internal::decodeBudget(content->bytes, mended); },
-                                [this](const std::exception &cause) {
-                                    return internal::damaged(m_target.shownPath(), cause);
-                                });
+        const internal::BudgetImage image(content->bytes);
+        Data data = withContent(
+            [&] {
+                image.checkSeal();
+                m_mark = image.mark();
+                return image.data(mended);
+            },
+            [this](const std::exception &cause) {
+                return internal::damaged(m_target.shownPath(), cause);
+            });
         m_known = Fingerprint(content->bytes);
         m_attempted.reset();
         return data;
     }
 
     /// `known` is what was seen last under this name, if anything was.
-    void store(QByteArrayView image, const std::optional<Fingerprint> &known, unsigned backups)
+    void store(QByteArrayView image, const VersionMark &mark,
+               const std::optional<Fingerprint> &known, unsigned backups)
     {
         const std::optional<FileContent> replaced =
             internal::readFile(m_target, internal::fileSizeMax);
@@ -119,6 +132,7 @@ public:
                                    replaced ? std::optional(replaced->stamp) : std::nullopt)
             .write(image, backups);
         m_known = std::exchange(m_attempted, std::nullopt);
+        m_mark = mark;
     }
 
 private:
@@ -142,6 +156,7 @@ private:
 
     FileTarget m_target;
     std::unique_ptr<internal::FileLock> m_lock;
+    VersionMark m_mark;
     std::optional<Fingerprint> m_known;
     std::optional<Fingerprint> m_attempted;
 };
@@ -207,13 +222,17 @@ void BudgetFile::store(const Data &data)
 {
     auto backOnFailure = qScopeGuard([this] { goBack(); });
     Chosen chosen = choose();
-    const internal::Image image = withContent(
-        [&] { return encodedSafely(data); },
+    VersionMark mark = chosen.file->mark().next();
+    mark.nameChange(std::exchange(m_change, {}));
+    mark.savedAt = QDateTime::currentDateTimeUtc();
+    mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
+    const QByteArray file = withContent(
+        [&] { return encodedSafely(data, mark); },
         [this](const std::exception &cause) { return internal::cannotHold(m_chosenPath, cause); });
     chosen.file->lock();
     // The name may lead to another file than before, when it is a link.
     const bool isOpen = m_open && (!chosen.other || m_open->target().shownPath() == m_chosenPath);
-    chosen.file->store(image.bytes(), isOpen ? m_open->known() : std::nullopt, m_backups);
+    chosen.file->store(file, mark, isOpen ? m_open->known() : std::nullopt, m_backups);
     if (chosen.other)
         m_open = std::move(chosen.other);
     backOnFailure.dismiss();

@@ -31,6 +31,8 @@ public:
     /// Mended where it needs it.
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
+    /// Names the change that the next store saves, in a line such as "Paid Rent".
+    void setChange(const QString &change) { m_change = change; }
     /// The file that was chosen; empty before. A load or store that fails chooses the
     /// one that was loaded or saved last again, if there is one.
     [[nodiscard]] QString filePathName() const override;
@@ -48,6 +50,7 @@ private:
 
     unsigned m_backups;
     QString m_chosenPath;
+    QString m_change;
     std::unique_ptr<OpenFile> m_open;
 };
 

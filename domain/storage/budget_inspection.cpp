@@ -4,9 +4,11 @@
 #include "storage/internal/budget_image.h"
 #include "storage/internal/faults.h"
 #include "storage/internal/file_content.h"
+#include "storage/internal/schema.h"
 
 #include <QtCore/QFile>
 
+#include <algorithm>
 #include <new>
 
 namespace kiv::storage {
@@ -58,21 +60,32 @@ BudgetInspection inspectBudget(const QString &filePathName)
         internal::readFile(target, internal::fileSizeMax);
     if (!content)
         throw internal::fileNotFound(filePathName);
-    const QByteArrayView image = content->bytes;
+    const QByteArrayView bytes = content->bytes;
 
     BudgetInspection inspection;
     inspection.savedAt = QDateTime::fromSecsSinceEpoch(content->stamp.seconds, Qt::UTC)
                              .addMSecs(content->stamp.nanoseconds / 1'000'000);
-    inspection.size = image.size();
+    inspection.size = bytes.size();
     QStringList mended;
     Judge judge(inspection);
     judge.judge(FilePromise::Identity,
-                [&] { internal::requireBudget(internal::kindOf(image), filePathName); });
-    judge.judge(FilePromise::Tables, [&] { internal::checkTables(image); });
-    judge.judge(FilePromise::Seal, [&] { internal::checkSeal(image); });
-    judge.judge(FilePromise::Rules,
-                [&] { inspection.data = internal::decodeBudget(image, mended); });
+                [&] { internal::requireBudget(internal::kindOf(bytes), filePathName); });
+    const bool isBudget = internal::kindOf(bytes) == internal::FileKind::Budget;
+    const std::optional<internal::BudgetImage> image =
+        isBudget ? std::optional<internal::BudgetImage>(bytes) : std::nullopt;
+    const auto judgeSeal = [&] { judge.judge(FilePromise::Seal, [&] { image->checkSeal(); }); };
+    // SQLite sees no byte that the seal may call wrong.
+    if (image && image->hasByteSeal())
+        judgeSeal();
+    judge.judge(FilePromise::Tables, [&] { image->checkTables(); });
+    if (!image || !image->hasByteSeal())
+        judgeSeal();
+    judge.judge(FilePromise::Rules, [&] {
+        inspection.mark = image->mark();
+        inspection.data = image->data(mended);
+    });
     judge.judge(FilePromise::Ties, [] {});
+    std::ranges::sort(inspection.judgements, {}, &Judgement::promise);
     if (!mended.isEmpty()) {
         inspection.judgements.back().verdict = Verdict::Mended;
         inspection.judgements.back().reasons = mended;

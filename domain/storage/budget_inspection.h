@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/budget_storage.h"
+#include "storage/version_mark.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
@@ -46,6 +47,8 @@ struct KIV_STORAGE_EXPORT BudgetInspection {
     qint64 size = 0;
     /// One for each promise, in their order.
     std::vector<Judgement> judgements;
+    /// What the version tells about itself, when its seal and its tables are whole.
+    VersionMark mark;
     /// The budget, when no promise is broken.
     std::optional<BudgetStorage::Data> data;
 };

@@ -38,6 +38,11 @@ std::logic_error divisionByZero()
     return std::logic_error("A decimal number was to be divided by zero.");
 }
 
+std::logic_error tooManyDigits()
+{
+    return std::logic_error("A decimal has fewer digits after the point.");
+}
+
 std::logic_error unknownRounding()
 {
     return std::logic_error("An unknown rounding mode was supplied.");

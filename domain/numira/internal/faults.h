@@ -19,6 +19,7 @@ namespace numira::internal {
 [[nodiscard]] InvalidAmount noSuchMinorUnits(std::uint16_t minor, const std::string &currency);
 [[nodiscard]] InvalidAmount noSuchFraction(std::uint16_t fraction);
 [[nodiscard]] std::logic_error divisionByZero();
+[[nodiscard]] std::logic_error tooManyDigits();
 [[nodiscard]] std::logic_error unknownRounding();
 
 // ---- currencies, rates and locales -----------------------------------------------

@@ -3,8 +3,12 @@
 
 #include "storage/internal/budget_rows.h"
 #include "storage/internal/faults.h"
+#include "storage/internal/label.h"
 #include "storage/internal/ledger_rows.h"
 #include "storage/internal/mending.h"
+#include "storage/internal/row_digest.h"
+#include "storage/internal/seal.h"
+#include "storage/internal/sha256.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QtEndian>
@@ -15,6 +19,10 @@ namespace kiv::storage::internal {
 namespace {
 
 constexpr QByteArrayView magic("SQLite format 3", 16);
+/// The first bytes of a file that is locked with a passphrase, for which a newer program
+/// is needed.
+constexpr QByteArrayView lockedMagic("kivbudget locked", 16);
+constexpr std::uint32_t firstEdition = 1;
 constexpr qsizetype headerSize = 100;
 
 // The offsets in the header of an SQLite database.
@@ -31,79 +39,58 @@ Number numberAt(QByteArrayView image, qsizetype offset) noexcept
     return qFromBigEndian<Number>(image.data() + offset);
 }
 
+std::uint32_t versionOf(QByteArrayView file) noexcept
+{
+    return numberAt<quint32>(file, userVersionAt);
+}
+
 /// Whether the header is as in every file that was written here. Another one, with
 /// another journal mode for instance, would make SQLite look for further files.
 bool isHeaderWhole(QByteArrayView image) noexcept
 {
     return numberAt<quint16>(image, pageSizeAt) == pageSize &&
            numberAt<quint16>(image, formatsAt) == 0x0101 &&
-           numberAt<quint32>(image, encodingAt) == SQLITE_UTF8 &&
+           numberAt<quint32>(image, encodingAt) == SQLITE_UTF8;
+}
+
+/// Whether the image has as many bytes as its header tells.
+bool isSizeWhole(QByteArrayView image) noexcept
+{
+    return image.size() >= headerSize &&
            numberAt<quint32>(image, pageCountAt) * qint64(pageSize) == image.size();
 }
 
-void writeSeal(const ImageDatabase &database, Seal &seal)
-{
-    Statement insert(database, "INSERT INTO seal VALUES(1, ?)");
-    const QByteArray digest = seal.result();
-    sqlite3_bind_text(insert.get(), 1, digest.constData(), static_cast<int>(digest.size()),
-                      SQLITE_STATIC);
-    insert.step();
-}
-
-void checkSeal(const ImageDatabase &database, Seal &seal)
-{
-    Statement select(database, "SELECT id, sha256 FROM seal");
-    if (!select.step() || sqlite3_column_int64(select.get(), 0) != 1 ||
-        bytesOf(sqlite3_column_value(select.get(), 1)) != seal.result() || select.step())
-        throw checksumWrong();
-}
-
 /// Writes or reads all tables in their order, since one may need an earlier one.
-BudgetStorage::Data readTables(const ImageDatabase &database, Seal &seal, QStringList &mended)
+BudgetStorage::Data readTables(RowSource &source, QStringList &mended)
 {
     BudgetStorage::Data data;
-    data.generalLedger = readLedger(database, seal, mended);
-    data.budget = readItems(database, seal);
-    data.budgetAccountCodes = readItemAccounts(database, seal);
-    data.banks = readBanks(database, seal);
-    data.surveys = readSurveys(database, seal);
-    data.itemTags = readItemTags(database, seal);
+    data.generalLedger = readLedger(source, mended);
+    data.budget = readItems(source);
+    data.budgetAccountCodes = readItemAccounts(source);
+    data.banks = readBanks(source);
+    data.surveys = readSurveys(source);
+    data.itemTags = readItemTags(source);
     return data;
 }
 
-void writeTables(const ImageDatabase &database, Seal &seal, const BudgetStorage::Data &data)
+void writeTables(RowSink &sink, const BudgetStorage::Data &data)
 {
-    writeLedger(database, seal, data.generalLedger);
-    writeItems(database, seal, data.budget);
-    writeItemAccounts(database, seal, data.budgetAccountCodes);
-    writeBanks(database, seal, data.banks);
-    writeSurveys(database, seal, data.surveys);
-    writeItemTags(database, seal, data.itemTags);
+    writeLedger(sink, data.generalLedger);
+    writeItems(sink, data.budget);
+    writeItemAccounts(sink, data.budgetAccountCodes);
+    writeBanks(sink, data.banks);
+    writeSurveys(sink, data.surveys);
+    writeItemTags(sink, data.itemTags);
+    sink.finish();
 }
 
-std::uint32_t versionOf(QByteArrayView image) noexcept
+/// The first edition keeps its checksum, which is over its rows, in a table.
+void checkRowSeal(ImageDatabase &database)
 {
-    return numberAt<quint32>(image, userVersionAt);
-}
-
-/// The rows of a table, as they stand there.
-void sealRows(const ImageDatabase &database, const char *table, Seal &seal)
-{
-    seal.beginTable(table);
-    Statement rows(database, QByteArray("SELECT * FROM ") + table + " ORDER BY rowid");
-    while (rows.step()) {
-        for (int column = 0; column < sqlite3_column_count(rows.get()); ++column) {
-            sqlite3_value *const value = sqlite3_column_value(rows.get(), column);
-            const int type = sqlite3_value_type(value);
-            if (type == SQLITE_NULL)
-                seal.null();
-            else if (type == SQLITE_INTEGER)
-                seal.integer(sqlite3_value_int64(value));
-            else
-                seal.text(bytesOf(value));
-        }
-        seal.endRow();
-    }
+    Statement select(database, "SELECT id, sha256 FROM seal");
+    if (!select.step() || sqlite3_column_int64(select.get(), 0) != 1 ||
+        bytesOf(sqlite3_column_value(select.get(), 1)) != rowDigest(database) || select.step())
+        throw checksumWrong();
 }
 
 } // namespace
@@ -120,61 +107,87 @@ void requireBudget(FileKind kind, const QString &path)
         throw damaged(path, headerNotWhole());
 }
 
-FileKind kindOf(QByteArrayView image) noexcept
+FileKind kindOf(QByteArrayView file) noexcept
 {
-    if (image.isEmpty())
+    if (file.isEmpty())
         return FileKind::Empty;
-    if (image.size() < headerSize)
-        return magic.startsWith(image.first(std::min(image.size(), magic.size())))
+    if (file.startsWith(lockedMagic))
+        return FileKind::Newer;
+    if (file.size() < headerSize)
+        return magic.startsWith(file.first(std::min(file.size(), magic.size())))
                    ? FileKind::Malformed
                    : FileKind::Foreign;
-    if (!image.startsWith(magic) || numberAt<quint32>(image, applicationIdAt) != applicationId)
+    if (!file.startsWith(magic) || numberAt<quint32>(file, applicationIdAt) != applicationId)
         return FileKind::Foreign;
-    const std::uint32_t version = versionOf(image);
+    const std::uint32_t version = versionOf(file);
     if (version > currentVersion)
         return FileKind::Newer;
-    return tablesOf(version).empty() || !isHeaderWhole(image) ? FileKind::Malformed
-                                                              : FileKind::Budget;
+    const bool isWhole =
+        version > 0 && isHeaderWhole(file) && (version > firstEdition || isSizeWhole(file));
+    return isWhole ? FileKind::Budget : FileKind::Malformed;
 }
 
-Image encodeBudget(const BudgetStorage::Data &data)
+QByteArray encodeBudget(const BudgetStorage::Data &data, const VersionMark &mark)
 {
     ImageDatabase database;
-    Seal seal(currentVersion);
-    writeTables(database, seal, data);
-    writeSeal(database, seal);
-    Image image = database.serialised();
-    if (image.bytes().size() > fileSizeMax)
+    RowSink sink(database);
+    writeTables(sink, data);
+    const Image image = database.serialised();
+    const QByteArray label = toLabel(mark);
+    if (image.bytes().size() + label.size() + sealSize > fileSizeMax)
         throw moreThanAFileMayHold();
-    return image;
+    return sealed(image.bytes(), label);
 }
 
-BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended)
+BudgetImage::BudgetImage(QByteArrayView file) noexcept : m_file(file), m_version(versionOf(file)) {}
+
+void BudgetImage::checkSeal() const
 {
-    const std::uint32_t version = versionOf(image);
-    const ImageDatabase database(image, version);
-    Seal seal(version, image.size());
-    BudgetStorage::Data data = readTables(database, seal, mended);
-    // The rows are trusted only now.
-    checkSeal(database, seal);
+    if (hasByteSeal()) {
+        (void)unsealed(m_file);
+        return;
+    }
+    ImageDatabase database(m_file, m_version);
+    checkRowSeal(database);
+}
+
+void BudgetImage::checkTables() const
+{
+    const ImageDatabase database(image(), m_version);
+}
+
+BudgetStorage::Data BudgetImage::data(QStringList &mended) const
+{
+    ImageDatabase database(image(), m_version);
+    RowSource source(database, m_version);
+    BudgetStorage::Data data = readTables(source, mended);
     mend(data, mended);
     return data;
 }
 
-void checkTables(QByteArrayView image)
+VersionMark BudgetImage::mark() const
 {
-    const ImageDatabase database(image, versionOf(image));
+    if (!hasByteSeal()) {
+        Sha256 hash;
+        hash.add(m_file);
+        VersionMark mark;
+        mark.id = QString::fromLatin1(hash.result().toHex().first(16));
+        return mark;
+    }
+    const std::optional<SealedParts> parts = sealedParts(m_file);
+    if (!parts)
+        throw checksumWrong();
+    return fromLabel(parts->label);
 }
 
-void checkSeal(QByteArrayView image)
+QByteArrayView BudgetImage::image() const
 {
-    const std::uint32_t version = versionOf(image);
-    const ImageDatabase database(image, version);
-    Seal seal(version, image.size());
-    const auto tables = tablesOf(version);
-    for (const TableDefinition &table : tables.first(tables.size() - 1))
-        sealRows(database, table.name, seal);
-    checkSeal(database, seal);
+    if (!hasByteSeal())
+        return m_file;
+    const std::optional<SealedParts> parts = sealedParts(m_file);
+    if (!parts || !isSizeWhole(parts->image))
+        throw checksumWrong();
+    return parts->image;
 }
 
 } // namespace kiv::storage::internal

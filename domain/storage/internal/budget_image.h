@@ -2,7 +2,7 @@
 #pragma once
 
 #include "storage/budget_storage.h"
-#include "storage/internal/image_database.h"
+#include "storage/version_mark.h"
 
 #include <QtCore/QStringList>
 
@@ -20,19 +20,35 @@ enum class FileKind : std::uint8_t {
 /// Throws the StorageError for a file of another kind than FileKind::Budget.
 void requireBudget(FileKind kind, const QString &path);
 
-/// The budget file with the data; the same bytes for the same data. Throws
+/// The budget file with the data; the same bytes for the same data and mark. Throws
 /// ContentFault when a budget file cannot hold it.
-[[nodiscard]] Image encodeBudget(const BudgetStorage::Data &data);
+[[nodiscard]] QByteArray encodeBudget(const BudgetStorage::Data &data, const VersionMark &mark);
 
-/// The data in the image of a FileKind::Budget, mended where it needs it, with
-/// a sentence in `mended` for each thing that was. Throws ContentFault, or what
-/// the domain throws, for an image that is not as it was written.
-[[nodiscard]] BudgetStorage::Data decodeBudget(QByteArrayView image, QStringList &mended);
+/// A file of FileKind::Budget, of either edition: a view of its bytes.
+class BudgetImage {
+public:
+    explicit BudgetImage(QByteArrayView file) noexcept;
 
-/// Throws ContentFault when the image of a FileKind::Budget has other tables than
-/// its version has.
-void checkTables(QByteArrayView image);
-/// Throws ContentFault when its seal does not fit its rows, whatever they mean.
-void checkSeal(QByteArrayView image);
+    /// Whether its checksum is over its bytes, so that it can be checked first.
+    [[nodiscard]] bool hasByteSeal() const noexcept { return m_version > 1; }
+    /// Throws ContentFault when it is not as it was written, whatever it means. The
+    /// first edition's checksum is over its rows, so its tables must be right.
+    void checkSeal() const;
+    /// Throws ContentFault when it has other tables than its version has.
+    void checkTables() const;
+    /// The data, mended where it needs it, with a sentence in `mended` for each thing
+    /// that was. Its seal is not checked. Throws ContentFault, or what the domain
+    /// throws, for a file that was not written so.
+    [[nodiscard]] BudgetStorage::Data data(QStringList &mended) const;
+    /// What the version tells about itself; the first edition nothing but its id, which
+    /// follows from its bytes. Throws ContentFault when that is malformed.
+    [[nodiscard]] VersionMark mark() const;
+
+private:
+    [[nodiscard]] QByteArrayView image() const;
+
+    QByteArrayView m_file;
+    std::uint32_t m_version;
+};
 
 } // namespace kiv::storage::internal

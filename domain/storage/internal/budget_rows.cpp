@@ -95,8 +95,8 @@ Item readItem(RowReader &row, const BudgetSource &source)
     if constexpr (HasTotal<Item>) {
         item = make(row.money());
     } else {
-        if (row.optionalText() || row.optionalText())
-            row.refuse("has more than its kind has");
+        row.absent();
+        row.absent();
         item = make();
     }
     item.setDayOfMonth(day);
@@ -140,10 +140,10 @@ foundation::Percentage readPercentage(RowReader &row)
 /// The distributions of the surveys, by the keys of their rows.
 using Distributions = std::map<std::int64_t, surveying::Distribution>;
 
-Distributions readDistributions(const ImageDatabase &database, Seal &seal)
+Distributions readDistributions(RowSource &source)
 {
     Distributions distributions;
-    RowReader row(database, Table::Distributions, seal);
+    RowReader row(source, Table::Distributions);
     while (row.next()) {
         surveying::Distribution &distribution = distributions[row.integer(1, rowsMax)];
         const BudgetItemIdentifier item = readIdentifier(row);
@@ -159,19 +159,19 @@ Distributions readDistributions(const ImageDatabase &database, Seal &seal)
 
 } // namespace
 
-void writeItems(const ImageDatabase &database, Seal &seal, const budgeting::Budget &budget)
+void writeItems(RowSink &sink, const budgeting::Budget &budget)
 {
-    RowWriter row(database, Table::Items, seal);
+    RowWriter row(sink, Table::Items);
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
         for (const auto &[source, item] : budget.items<Item>())
             writeItem(row, item);
     });
 }
 
-budgeting::Budget readItems(const ImageDatabase &database, Seal &seal)
+budgeting::Budget readItems(RowSource &source)
 {
     budgeting::Budget budget;
-    RowReader row(database, Table::Items, seal);
+    RowReader row(source, Table::Items);
     while (row.next()) {
         const BudgetItemIdentifier id = readIdentifier(row);
         visitClassOf(id, row, [&]<typename Item>(std::type_identity<Item>) {
@@ -181,10 +181,9 @@ budgeting::Budget readItems(const ImageDatabase &database, Seal &seal)
     return budget;
 }
 
-void writeItemAccounts(const ImageDatabase &database, Seal &seal,
-                       const BudgetStorage::BudgetAccountCodes &codes)
+void writeItemAccounts(RowSink &sink, const BudgetStorage::BudgetAccountCodes &codes)
 {
-    RowWriter row(database, Table::ItemAccounts, seal);
+    RowWriter row(sink, Table::ItemAccounts);
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
         const auto ofClass = codes.maps().find(typeid(Item));
         if (ofClass == codes.maps().end())
@@ -197,10 +196,10 @@ void writeItemAccounts(const ImageDatabase &database, Seal &seal,
     });
 }
 
-BudgetStorage::BudgetAccountCodes readItemAccounts(const ImageDatabase &database, Seal &seal)
+BudgetStorage::BudgetAccountCodes readItemAccounts(RowSource &source)
 {
     BudgetStorage::BudgetAccountCodes codes;
-    RowReader row(database, Table::ItemAccounts, seal);
+    RowReader row(source, Table::ItemAccounts);
     while (row.next()) {
         const BudgetItemIdentifier id = readIdentifier(row);
         visitClassOf(id, row, [&]<typename Item>(std::type_identity<Item>) {
@@ -212,12 +211,12 @@ BudgetStorage::BudgetAccountCodes readItemAccounts(const ImageDatabase &database
     return codes;
 }
 
-void writeBanks(const ImageDatabase &database, Seal &seal, const banking::BankMap &banks)
+void writeBanks(RowSink &sink, const banking::BankMap &banks)
 {
-    RowWriter bankRow(database, Table::Banks, seal);
+    RowWriter bankRow(sink, Table::Banks);
     for (const auto &[name, bank] : banks)
         bankRow.newRow().text(name.institution()).integer(bank.isClosed()).endRow();
-    RowWriter row(database, Table::BankAccounts, seal);
+    RowWriter row(sink, Table::BankAccounts);
     std::int64_t bankKey = 0;
     for (const auto &[name, bank] : banks) {
         ++bankKey;
@@ -228,7 +227,7 @@ void writeBanks(const ImageDatabase &database, Seal &seal, const banking::BankMa
     }
 }
 
-banking::BankMap readBanks(const ImageDatabase &database, Seal &seal)
+banking::BankMap readBanks(RowSource &source)
 {
     struct BankRow {
         banking::BankName name;
@@ -236,12 +235,12 @@ banking::BankMap readBanks(const ImageDatabase &database, Seal &seal)
         banking::Bank::Accounts accounts;
     };
     std::map<std::int64_t, BankRow> rows;
-    RowReader bankRow(database, Table::Banks, seal);
+    RowReader bankRow(source, Table::Banks);
     while (bankRow.next()) {
         banking::BankName name(bankRow.text());
         rows.emplace(bankRow.key(), BankRow{std::move(name), bankRow.boolean(), {}});
     }
-    RowReader row(database, Table::BankAccounts, seal);
+    RowReader row(source, Table::BankAccounts);
     while (row.next()) {
         const auto bank = rows.find(row.integer(1, rowsMax));
         if (bank == rows.end())
@@ -259,10 +258,9 @@ banking::BankMap readBanks(const ImageDatabase &database, Seal &seal)
     return banks;
 }
 
-void writeSurveys(const ImageDatabase &database, Seal &seal,
-                  const surveying::CompletedSurveys &surveys)
+void writeSurveys(RowSink &sink, const surveying::CompletedSurveys &surveys)
 {
-    RowWriter surveyRow(database, Table::Surveys, seal);
+    RowWriter surveyRow(sink, Table::Surveys);
     for (const auto &[account, survey] : surveys) {
         surveyRow.newRow().text(account.bank.institution());
         surveyRow.integer(account.account.number.integer());
@@ -273,7 +271,7 @@ void writeSurveys(const ImageDatabase &database, Seal &seal,
         writePercentage(surveyRow, survey.window());
         surveyRow.endRow();
     }
-    RowWriter row(database, Table::Distributions, seal);
+    RowWriter row(sink, Table::Distributions);
     std::int64_t surveyKey = 0;
     for (const auto &[account, survey] : surveys) {
         ++surveyKey;
@@ -286,7 +284,7 @@ void writeSurveys(const ImageDatabase &database, Seal &seal,
     }
 }
 
-surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &seal)
+surveying::CompletedSurveys readSurveys(RowSource &source)
 {
     struct SurveyRow {
         banking::BankAccount account;
@@ -296,7 +294,7 @@ surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &sea
         foundation::Percentage window;
     };
     std::map<std::int64_t, SurveyRow> rows;
-    RowReader row(database, Table::Surveys, seal);
+    RowReader row(source, Table::Surveys);
     while (row.next()) {
         SurveyRow survey;
         survey.account.bank = banking::BankName(row.text());
@@ -308,7 +306,7 @@ surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &sea
         survey.window = readPercentage(row);
         rows.emplace(row.key(), std::move(survey));
     }
-    Distributions distributions = readDistributions(database, seal);
+    Distributions distributions = readDistributions(source);
     surveying::CompletedSurveys surveys;
     for (auto &[key, survey] : rows) {
         surveying::CompletedSurvey completed(survey.account, survey.balance.code());
@@ -325,9 +323,9 @@ surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &sea
     return surveys;
 }
 
-void writeItemTags(const ImageDatabase &database, Seal &seal, const tagging::BudgetItemTags &tags)
+void writeItemTags(RowSink &sink, const tagging::BudgetItemTags &tags)
 {
-    RowWriter row(database, Table::ItemTags, seal);
+    RowWriter row(sink, Table::ItemTags);
     for (const auto &[item, itemTags] : tags) {
         for (const tagging::Tag &tag : itemTags) {
             row.newRow();
@@ -337,10 +335,10 @@ void writeItemTags(const ImageDatabase &database, Seal &seal, const tagging::Bud
     }
 }
 
-tagging::BudgetItemTags readItemTags(const ImageDatabase &database, Seal &seal)
+tagging::BudgetItemTags readItemTags(RowSource &source)
 {
     std::map<BudgetItemIdentifier, tagging::Tags> rows;
-    RowReader row(database, Table::ItemTags, seal);
+    RowReader row(source, Table::ItemTags);
     while (row.next()) {
         tagging::Tags &tags = rows[readIdentifier(row)];
         tagging::Tag tag(row.text());

@@ -9,22 +9,19 @@
 /// own rules throw.
 namespace kiv::storage::internal {
 
-void writeItems(const ImageDatabase &database, Seal &seal, const budgeting::Budget &budget);
-[[nodiscard]] budgeting::Budget readItems(const ImageDatabase &database, Seal &seal);
+void writeItems(RowSink &sink, const budgeting::Budget &budget);
+[[nodiscard]] budgeting::Budget readItems(RowSource &source);
 
-void writeItemAccounts(const ImageDatabase &database, Seal &seal,
-                       const BudgetStorage::BudgetAccountCodes &codes);
-[[nodiscard]] BudgetStorage::BudgetAccountCodes readItemAccounts(const ImageDatabase &database,
-                                                                 Seal &seal);
+void writeItemAccounts(RowSink &sink, const BudgetStorage::BudgetAccountCodes &codes);
+[[nodiscard]] BudgetStorage::BudgetAccountCodes readItemAccounts(RowSource &source);
 
-void writeBanks(const ImageDatabase &database, Seal &seal, const banking::BankMap &banks);
-[[nodiscard]] banking::BankMap readBanks(const ImageDatabase &database, Seal &seal);
+void writeBanks(RowSink &sink, const banking::BankMap &banks);
+[[nodiscard]] banking::BankMap readBanks(RowSource &source);
 
-void writeSurveys(const ImageDatabase &database, Seal &seal,
-                  const surveying::CompletedSurveys &surveys);
-[[nodiscard]] surveying::CompletedSurveys readSurveys(const ImageDatabase &database, Seal &seal);
+void writeSurveys(RowSink &sink, const surveying::CompletedSurveys &surveys);
+[[nodiscard]] surveying::CompletedSurveys readSurveys(RowSource &source);
 
-void writeItemTags(const ImageDatabase &database, Seal &seal, const tagging::BudgetItemTags &tags);
-[[nodiscard]] tagging::BudgetItemTags readItemTags(const ImageDatabase &database, Seal &seal);
+void writeItemTags(RowSink &sink, const tagging::BudgetItemTags &tags);
+[[nodiscard]] tagging::BudgetItemTags readItemTags(RowSource &source);
 
 } // namespace kiv::storage::internal

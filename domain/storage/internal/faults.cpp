@@ -159,6 +159,11 @@ ContentFault checksumWrong()
     return ContentFault(QObject::tr("The checksum is wrong."));
 }
 
+ContentFault labelMalformed()
+{
+    return ContentFault(QObject::tr("What it tells about itself is malformed."));
+}
+
 ContentFault headerNotWhole()
 {
     return ContentFault(QObject::tr("Its header is damaged."));

@@ -62,6 +62,7 @@ public:
 // ---- their content ---------------------------------------------------------------
 
 [[nodiscard]] ContentFault checksumWrong();
+[[nodiscard]] ContentFault labelMalformed();
 [[nodiscard]] ContentFault headerNotWhole();
 [[nodiscard]] ContentFault moreThanAFileMayHold();
 [[nodiscard]] ContentFault tooManyRows();

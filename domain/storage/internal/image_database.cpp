@@ -86,6 +86,7 @@ ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
 {
     harden();
     limitSteps(image.size());
+    m_textsLeft = image.size();
     // SQLite does not change bytes that it gets as read-only.
     auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(image.data()));
     check(handle(), sqlite3_deserialize(handle(), "main", bytes, image.size(), image.size(),
@@ -101,6 +102,13 @@ Image ImageDatabase::serialised()
     if (!bytes)
         throw std::bad_alloc();
     return {bytes, size};
+}
+
+void ImageDatabase::countText(qsizetype size)
+{
+    m_textsLeft -= size;
+    if (m_textsLeft < 0)
+        throw tooManyTexts();
 }
 
 void ImageDatabase::harden()

@@ -43,6 +43,9 @@ public:
     [[nodiscard]] sqlite3 *handle() const noexcept { return m_database.getHandle(); }
     /// The finished image; nothing can be written after it.
     [[nodiscard]] Image serialised();
+    /// A text of so many bytes is read. Throws ContentFault when all texts together
+    /// have more bytes than the image, which only rows can have that share them.
+    void countText(qsizetype size);
 
 private:
     void harden();
@@ -51,6 +54,7 @@ private:
 
     SQLite::Database m_database;
     qint64 m_stepsLeft = 0;
+    qint64 m_textsLeft = 0;
 };
 
 /// A prepared statement, with its rows one after the other.

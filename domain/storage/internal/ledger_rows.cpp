@@ -3,11 +3,10 @@
 
 #include "accounting/errors.h"
 #include "accounting/ledger_replay.h"
-#include "storage/internal/pipeline.h"
-#include "storage/internal/text_codec.h"
 
 #include "budgeting/item_account.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QObject>
 
 #include <limits>
@@ -33,7 +32,7 @@ struct AccountRow {
     QString name;
     std::optional<AccountNumber> parent;
     AccountTypes type = AccountTypes::Unknown;
-    numira::Currency currency;
+    StoredCurrency currency;
     bool isClosed = false;
     bool holdsOpenings = false;
     std::optional<TransactionNumber> openedBy;
@@ -58,13 +57,34 @@ void writeSide(RowWriter &row, const numira::Money &side, const Transaction &tra
     if (side == transaction.amount())
         row.null();
     else
-        row.decimal(side.amount());
+        row.amount(side);
 }
 
-AccountRows readAccounts(const ImageDatabase &database, Seal &seal)
+/// The descriptions that were written, with the first transaction that has each.
+using Descriptions = QHash<QString, std::int64_t>;
+
+/// A text that stands there already is not written again.
+void writeDescription(RowWriter &row, const Transaction &transaction, Descriptions &written)
+{
+    const std::optional<QString> &description = transaction.description();
+    if (!description) {
+        row.null();
+        return;
+    }
+    const auto number = transaction.number()->integer();
+    const auto known = written.constFind(*description);
+    if (known != written.constEnd()) {
+        row.integer(*known);
+        return;
+    }
+    written.insert(*description, number);
+    row.text(*description);
+}
+
+AccountRows readAccounts(RowSource &source)
 {
     AccountRows accounts;
-    RowReader row(database, Table::Accounts, seal);
+    RowReader row(source, Table::Accounts);
     while (row.next()) {
         if (row.key() > accountNumberMax)
             row.refuse("has a number that no account has");
@@ -102,68 +122,9 @@ void replayAccounts(LedgerReplay &replay, AccountRows &accounts)
         for (; !waiting.empty(); waiting.pop_back()) {
             const auto &[number, account] = *waiting.back();
             replay.addAccount(account.type, AccountCode(number, account.name, account.parent),
-                              account.currency, account.holdsOpenings);
+                              account.currency.currency, account.holdsOpenings);
         }
     }
-}
-
-/// The row of a transaction.
-struct TransactionRow {
-    TransactionNumber number;
-    QDate date;
-    AccountNumber debit;
-    AccountNumber credit;
-    numira::Money amount;
-    std::optional<numira::Decimal> debitAmount;
-    std::optional<numira::Decimal> creditAmount;
-    TransactionStatuses debitStatus = TransactionStatuses::None;
-    TransactionStatuses creditStatus = TransactionStatuses::None;
-    /// Its description among the texts of its part, if it has one.
-    std::optional<std::pair<std::size_t, std::size_t>> description;
-};
-
-/// A part of the rows, in their order.
-struct TransactionRows {
-    std::vector<TransactionRow> rows;
-    std::vector<char> texts;
-};
-constexpr std::size_t rowsInPart = 256;
-
-using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
-
-TransactionRow readTransaction(RowReader &row, std::vector<char> &texts, Refunds &refunds)
-{
-    if (row.key() > transactionNumberMax)
-        row.refuse("has a number that no transaction has");
-    TransactionRow read;
-    read.number = toTransactionNumber(row.key());
-    read.date = row.date();
-    read.debit = toAccountNumber(row.integer(1, accountNumberMax));
-    read.credit = toAccountNumber(row.integer(1, accountNumberMax));
-    read.amount = row.money();
-    read.debitAmount = row.optionalDecimal();
-    read.creditAmount = row.optionalDecimal();
-    if (const auto text = row.optionalStoredText()) {
-        read.description.emplace(texts.size(), static_cast<std::size_t>(text->size()));
-        texts.insert(texts.end(), text->begin(), text->end());
-    }
-    read.debitStatus = row.enumerator(TransactionStatuses::Reconciled);
-    read.creditStatus = row.enumerator(TransactionStatuses::Reconciled);
-    if (const auto original = row.optionalInteger(1, transactionNumberMax))
-        refunds.emplace_back(read.number, toTransactionNumber(*original));
-    return read;
-}
-
-std::optional<QString> descriptionOf(const TransactionRow &row, const std::vector<char> &texts)
-{
-    if (!row.description)
-        return std::nullopt;
-    const auto [begin, size] = *row.description;
-    std::optional<QString> text =
-        fromStoredText({texts.data() + begin, static_cast<qsizetype>(size)});
-    if (!text)
-        throw rowRefused(nameOf(Table::Transactions), row.number.integer(), "has a malformed text");
-    return text;
 }
 
 bool isItemsAccount(const AccountRow &account)
@@ -176,7 +137,7 @@ bool isItemsAccount(const AccountRow &account)
 /// the entered currency, or the account of a side was exchanged. So amounts in one
 /// currency could differ, which the ledger refuses. The accounts whose sides are
 /// made equal to the other amount go into `settled`.
-void settleSides(numira::Money &debit, numira::Money &credit, const TransactionRow &row,
+void settleSides(numira::Money &debit, numira::Money &credit, const Transaction &row,
                  const AccountRows &accounts, std::set<AccountNumber> &settled)
 {
     const auto settle = [&](numira::Money &side, const numira::Money &other, AccountNumber number) {
@@ -189,77 +150,103 @@ void settleSides(numira::Money &debit, numira::Money &credit, const TransactionR
         const auto account = accounts.find(number);
         return account != accounts.end() && isItemsAccount(account->second);
     };
-    if (isItems(row.debit))
-        settle(debit, row.amount, row.debit);
-    if (isItems(row.credit))
-        settle(credit, row.amount, row.credit);
-    if (debit.code() == row.amount.code())
+    const AccountNumber debited = row.debiting().number();
+    const AccountNumber credited = row.crediting().number();
+    if (isItems(debited))
+        settle(debit, row.amount(), debited);
+    if (isItems(credited))
+        settle(credit, row.amount(), credited);
+    if (debit.code() == row.amount().code())
         return;
-    if (isItems(row.debit))
-        settle(debit, credit, row.debit);
+    if (isItems(debited))
+        settle(debit, credit, debited);
     else
-        settle(credit, debit, row.credit);
+        settle(credit, debit, credited);
 }
 
-/// The transaction with its sides as they were stored, or as they are mended.
-Transaction transactionOf(const TransactionRow &row, const std::vector<char> &texts,
-                          const AccountRows &accounts, std::set<AccountNumber> &settled)
-{
-    Transaction transaction(row.date, row.debit, row.credit, row.amount, descriptionOf(row, texts),
-                            row.number, row.debitStatus);
-    if (row.creditStatus != row.debitStatus)
-        transaction = transaction.withStatuses(row.debitStatus, row.creditStatus);
-    if (!row.debitAmount && !row.creditAmount)
-        return transaction;
-    const auto side = [&](AccountNumber number, const std::optional<numira::Decimal> &amount) {
-        const auto account = accounts.find(number);
-        return amount && account != accounts.end()
-                   ? numira::Money(account->second.currency, *amount)
-                   : row.amount;
-    };
-    numira::Money debit = side(row.debit, row.debitAmount);
-    numira::Money credit = side(row.credit, row.creditAmount);
-    settleSides(debit, credit, row, accounts, settled);
-    return transaction.withSideAmounts(debit, credit);
-}
+using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
 
-Refunds replayTransactions(LedgerReplay &replay, const AccountRows &accounts,
-                           const ImageDatabase &database, Seal &seal,
-                           std::set<AccountNumber> &settled)
-{
-    Refunds refunds;
-    // Reading the rows of a full ledger takes about as long as applying its rules.
-    Pipeline<TransactionRows> posting([&](TransactionRows &part) {
-        for (const TransactionRow &row : part.rows)
-            replay.post(transactionOf(row, part.texts, accounts, settled));
-        part.rows.clear();
-        part.texts.clear();
-    });
-    TransactionRows part;
-    try {
-        RowReader row(database, Table::Transactions, seal);
-        while (row.next()) {
-            if (part.rows.size() == rowsInPart)
-                posting.add(std::exchange(part, posting.spare()));
-            part.rows.push_back(readTransaction(row, part.texts, refunds));
-        }
-    } catch (...) {
-        // A fault of an earlier row is reported instead, so the first wrong row is named.
-        posting.finish(std::move(part));
-        throw;
+/// Posts the rows of the transactions.
+class TransactionReader {
+public:
+    TransactionReader(LedgerReplay &replay, const AccountRows &accounts, RowSource &source)
+        : m_replay(replay), m_accounts(accounts), m_row(source, Table::Transactions)
+    {
     }
-    posting.finish(std::move(part));
-    return refunds;
-}
+
+    void read()
+    {
+        while (m_row.next())
+            m_replay.post(transaction());
+    }
+    [[nodiscard]] const Refunds &refunds() const noexcept { return m_refunds; }
+    /// The accounts in which amounts were mended.
+    [[nodiscard]] const std::set<AccountNumber> &settled() const noexcept { return m_settled; }
+
+private:
+    /// With its sides as they were stored, or as they are mended.
+    [[nodiscard]] Transaction transaction()
+    {
+        if (m_row.key() > transactionNumberMax)
+            m_row.refuse("has a number that no transaction has");
+        const TransactionNumber number = toTransactionNumber(m_row.key());
+        const QDate date = m_row.date();
+        const AccountNumber debit = toAccountNumber(m_row.integer(1, accountNumberMax));
+        const AccountNumber credit = toAccountNumber(m_row.integer(1, accountNumberMax));
+        const numira::Money amount = m_row.money();
+        const auto debitAmount = m_row.optionalAmount([&] { return currencyOf(debit); });
+        const auto creditAmount = m_row.optionalAmount([&] { return currencyOf(credit); });
+        std::optional<QString> text = description();
+        const auto debitStatus = m_row.enumerator(TransactionStatuses::Reconciled);
+        const auto creditStatus = m_row.enumerator(TransactionStatuses::Reconciled);
+        if (const auto original = m_row.optionalInteger(1, transactionNumberMax))
+            m_refunds.emplace_back(number, toTransactionNumber(*original));
+
+        Transaction read(date, debit, credit, amount, std::move(text), number, debitStatus);
+        if (creditStatus != debitStatus)
+            read = read.withStatuses(debitStatus, creditStatus);
+        if (!debitAmount && !creditAmount)
+            return read;
+        numira::Money debited = debitAmount.value_or(amount);
+        numira::Money credited = creditAmount.value_or(amount);
+        settleSides(debited, credited, read, m_accounts, m_settled);
+        return read.withSideAmounts(debited, credited);
+    }
+
+    [[nodiscard]] StoredCurrency currencyOf(AccountNumber number) const
+    {
+        const auto account = m_accounts.find(number);
+        if (account == m_accounts.end())
+            m_row.refuse("is about no account");
+        return account->second.currency;
+    }
+
+    [[nodiscard]] std::optional<QString> description()
+    {
+        SharedText shared = m_row.sharedText();
+        if (!shared.sameAs)
+            return std::move(shared.text);
+        auto earlier = m_replay.descriptionOf(toTransactionNumber(*shared.sameAs));
+        if (!earlier)
+            m_row.refuse("has the description of a transaction without one");
+        return earlier;
+    }
+
+    LedgerReplay &m_replay;
+    const AccountRows &m_accounts;
+    RowReader m_row;
+    Refunds m_refunds;
+    std::set<AccountNumber> m_settled;
+};
 
 } // namespace
 
-void writeLedger(const ImageDatabase &database, Seal &seal, const accounting::GeneralLedger &ledger)
+void writeLedger(RowSink &sink, const accounting::GeneralLedger &ledger)
 {
     const auto integer = [](const auto &number) -> std::optional<std::int64_t> {
         return number ? std::optional<std::int64_t>(number->integer()) : std::nullopt;
     };
-    RowWriter accounts(database, Table::Accounts, seal);
+    RowWriter accounts(sink, Table::Accounts);
     for (const AccountCode &code : ledger.accountCodes()) {
         const accounting::LedgerAccount account = ledger.ledger(code);
         accounts.integer(code.number().integer()).text(code.name());
@@ -269,7 +256,8 @@ void writeLedger(const ImageDatabase &database, Seal &seal, const accounting::Ge
         accounts.integer(account.isClosed()).integer(account.holdsOpenings());
         accounts.optionalInteger(integer(account.openedBy())).endRow();
     }
-    RowWriter transactions(database, Table::Transactions, seal);
+    RowWriter transactions(sink, Table::Transactions);
+    Descriptions descriptions;
     for (const Transaction &transaction : ledger.transactions()) {
         transactions.optionalInteger(integer(transaction.number())).date(transaction.occurredOn());
         transactions.integer(transaction.debiting().number().integer());
@@ -277,23 +265,23 @@ void writeLedger(const ImageDatabase &database, Seal &seal, const accounting::Ge
         transactions.money(transaction.amount());
         writeSide(transactions, transaction.debitAmount(), transaction);
         writeSide(transactions, transaction.creditAmount(), transaction);
-        transactions.optionalText(transaction.description());
+        writeDescription(transactions, transaction, descriptions);
         transactions.integer(static_cast<int>(transaction.debitStatus()));
         transactions.integer(static_cast<int>(transaction.creditStatus()));
         transactions.optionalInteger(integer(transaction.refundOf())).endRow();
     }
 }
 
-accounting::GeneralLedger readLedger(const ImageDatabase &database, Seal &seal, QStringList &mended)
+accounting::GeneralLedger readLedger(RowSource &source, QStringList &mended)
 {
     LedgerReplay replay;
-    AccountRows accounts = readAccounts(database, seal);
+    AccountRows accounts = readAccounts(source);
     replayAccounts(replay, accounts);
-    std::set<AccountNumber> settled;
-    for (const auto &[refund, original] :
-         replayTransactions(replay, accounts, database, seal, settled))
+    TransactionReader transactions(replay, accounts, source);
+    transactions.read();
+    for (const auto &[refund, original] : transactions.refunds())
         replay.markRefund(refund, original);
-    for (const AccountNumber number : settled) {
+    for (const AccountNumber number : transactions.settled()) {
         mended << QObject::tr("Amounts in the account '%1' that differed from those of their "
                               "transactions in the same currency were corrected.")
                       .arg(accounts.at(number).name);

@@ -10,13 +10,11 @@
 namespace kiv::storage::internal {
 
 /// Writes the tables of accounts and transactions.
-void writeLedger(const ImageDatabase &database, Seal &seal,
-                 const accounting::GeneralLedger &ledger);
+void writeLedger(RowSink &sink, const accounting::GeneralLedger &ledger);
 
 /// Builds the ledger again under its own rules. Throws ContentFault, and what
 /// those rules throw. A closed account with a balance, as its conversion to
 /// another currency can leave it, is open again; `mended` tells.
-[[nodiscard]] accounting::GeneralLedger readLedger(const ImageDatabase &database, Seal &seal,
-                                                   QStringList &mended);
+[[nodiscard]] accounting::GeneralLedger readLedger(RowSource &source, QStringList &mended);
 
 } // namespace kiv::storage::internal

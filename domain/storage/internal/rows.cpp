@@ -28,18 +28,57 @@ QByteArray insertInto(const ImageDatabase &database, Table table)
 
 } // namespace
 
-RowWriter::RowWriter(const ImageDatabase &database, Table table, Seal &seal)
-    : m_seal(seal),
-      m_insert(database, insertInto(database, table)),
+std::pair<std::int64_t, unsigned> RowSink::keyOf(const numira::Currency &currency)
+{
+    const auto [known, isNew] = m_keys.try_emplace(currency);
+    if (isNew) {
+        const unsigned digits = numira::minorUnitDigits(currency);
+        m_currencies.push_back({currency, digits});
+        known->second = {static_cast<std::int64_t>(m_currencies.size()), digits};
+    }
+    return known->second;
+}
+
+void RowSink::finish()
+{
+    RowWriter row(*this, Table::Currencies);
+    for (const StoredCurrency &stored : m_currencies) {
+        const std::string_view code = stored.currency.code();
+        row.newRow().text(QString::fromLatin1(code.data(), static_cast<qsizetype>(code.size())));
+        row.integer(stored.digits).endRow();
+    }
+}
+
+RowSource::RowSource(ImageDatabase &database, std::uint32_t version) : m_database(database)
+{
+    if (version == 1)
+        return;
+    RowReader row(*this, Table::Currencies);
+    while (row.next()) {
+        if (row.key() != static_cast<std::int64_t>(m_currencies.size()) + 1)
+            row.refuse("is out of order");
+        const numira::Currency currency = numira::toCurrency(row.text().toStdString());
+        const auto digits = row.integer(0, numira::Decimal::scaleDigits);
+        m_currencies.push_back({currency, static_cast<unsigned>(digits)});
+    }
+}
+
+const StoredCurrency *RowSource::find(std::int64_t key) const noexcept
+{
+    const auto place = static_cast<std::size_t>(key) - 1;
+    return place < m_currencies.size() ? &m_currencies[place] : nullptr;
+}
+
+RowWriter::RowWriter(RowSink &sink, Table table)
+    : m_sink(sink),
+      m_insert(sink.database(), insertInto(sink.database(), table)),
       m_texts(static_cast<std::size_t>(sqlite3_bind_parameter_count(m_insert.get())))
 {
-    m_seal.beginTable(nameOf(table));
 }
 
 RowWriter &RowWriter::integer(std::int64_t value)
 {
     sqlite3_bind_int64(m_insert.get(), ++m_column, value);
-    m_seal.integer(value);
     return *this;
 }
 
@@ -60,30 +99,31 @@ RowWriter &RowWriter::optionalText(const std::optional<QString> &text)
 
 RowWriter &RowWriter::date(QDate date)
 {
-    return date.isValid() ? bytes(toStoredDate(date)) : null();
+    return date.isValid() ? integer(date.toJulianDay()) : null();
 }
 
-RowWriter &RowWriter::decimal(const numira::Decimal &decimal)
+RowWriter &RowWriter::amount(const numira::Money &money)
 {
-    return bytes(QByteArray::fromStdString(decimal.toText()));
+    const unsigned digits = m_sink.keyOf(money.code()).second;
+    if (const auto units = money.amount().unitsOf(digits))
+        return integer(*units);
+    return bytes(QByteArray::fromStdString(money.amount().toText()));
 }
 
 RowWriter &RowWriter::null()
 {
     sqlite3_bind_null(m_insert.get(), ++m_column);
-    m_seal.null();
     return *this;
 }
 
 RowWriter &RowWriter::money(const numira::Money &money)
 {
-    return decimal(money.amount()).currency(money.code());
+    return amount(money).currency(money.code());
 }
 
 RowWriter &RowWriter::currency(const numira::Currency &currency)
 {
-    const std::string_view code = currency.code();
-    return bytes(QByteArray(code.data(), static_cast<qsizetype>(code.size())));
+    return integer(m_sink.keyOf(currency).first);
 }
 
 void RowWriter::endRow()
@@ -94,14 +134,12 @@ void RowWriter::endRow()
         throw tooManyRows();
     m_insert.step();
     m_insert.reset();
-    m_seal.endRow();
 }
 
 RowWriter &RowWriter::bytes(QByteArray bytes)
 {
     if (bytes.size() > textSizeMax)
         throw textTooLong();
-    m_seal.text(bytes);
     QByteArray &kept = m_texts.at(static_cast<std::size_t>(m_column));
     kept = std::move(bytes);
     sqlite3_bind_text(m_insert.get(), ++m_column, kept.constData(), static_cast<int>(kept.size()),
@@ -109,22 +147,19 @@ RowWriter &RowWriter::bytes(QByteArray bytes)
     return *this;
 }
 
-RowReader::RowReader(const ImageDatabase &database, Table table, Seal &seal)
-    : m_seal(seal),
+RowReader::RowReader(RowSource &source, Table table)
+    : m_source(source),
       m_table(table),
-      m_select(database, QByteArray("SELECT * FROM ") + nameOf(table) + " ORDER BY rowid"),
+      m_select(source.database(), QByteArray("SELECT * FROM ") + nameOf(table) + " ORDER BY rowid"),
       m_columns(sqlite3_column_count(m_select.get())),
       m_column(m_columns)
 {
-    m_seal.beginTable(nameOf(table));
 }
 
 bool RowReader::next()
 {
     if (m_column != m_columns)
         throw rowNotReadWhole();
-    if (m_rows > 0)
-        m_seal.endRow();
     if (!m_select.step())
         return false;
     m_column = 0;
@@ -159,10 +194,14 @@ std::optional<QString> RowReader::optionalText()
     return stored ? std::optional(textFrom(stored)) : std::nullopt;
 }
 
-std::optional<QByteArrayView> RowReader::optionalStoredText()
+SharedText RowReader::sharedText()
 {
     sqlite3_value *stored = nextPresent();
-    return stored ? std::optional(bytesFrom(stored)) : std::nullopt;
+    if (!stored)
+        return {};
+    if (sqlite3_value_type(stored) == SQLITE_INTEGER)
+        return {std::nullopt, integerFrom(stored, 1, m_key - 1)};
+    return {textFrom(stored), std::nullopt};
 }
 
 QDate RowReader::date()
@@ -170,6 +209,12 @@ QDate RowReader::date()
     sqlite3_value *stored = nextPresent();
     if (!stored)
         return {};
+    if (sqlite3_value_type(stored) == SQLITE_INTEGER) {
+        const QDate date = QDate::fromJulianDay(sqlite3_value_int64(stored));
+        if (!date.isValid())
+            refuse("has a number that means nothing");
+        return date;
+    }
     // Many rows have the day of the row before, and most the currency.
     const QByteArrayView text = bytesFrom(stored);
     if (text != QByteArrayView(m_lastDateText)) {
@@ -181,30 +226,11 @@ QDate RowReader::date()
     return m_lastDate;
 }
 
-numira::Decimal RowReader::decimal()
-{
-    return decimalFrom(nextValue());
-}
-
-std::optional<numira::Decimal> RowReader::optionalDecimal()
-{
-    sqlite3_value *stored = nextPresent();
-    return stored ? std::optional(decimalFrom(stored)) : std::nullopt;
-}
-
-numira::Currency RowReader::currency()
-{
-    const QByteArrayView code = bytesFrom(nextValue());
-    const std::string_view text(code.data(), static_cast<std::size_t>(code.size()));
-    if (text != m_lastCurrency.code())
-        m_lastCurrency = numira::toCurrency(std::string(text));
-    return m_lastCurrency;
-}
-
 numira::Money RowReader::money()
 {
-    const numira::Decimal amount = decimal();
-    return {currency(), amount};
+    sqlite3_value *const amount = nextValue();
+    const StoredCurrency &stored = currencyFrom(nextValue());
+    return {stored.currency, decimalFrom(amount, stored.digits)};
 }
 
 sqlite3_value *RowReader::nextValue()
@@ -217,35 +243,31 @@ sqlite3_value *RowReader::nextValue()
 sqlite3_value *RowReader::nextPresent()
 {
     sqlite3_value *stored = nextValue();
-    if (sqlite3_value_type(stored) != SQLITE_NULL)
-        return stored;
-    m_seal.null();
-    return nullptr;
+    return sqlite3_value_type(stored) == SQLITE_NULL ? nullptr : stored;
 }
 
-std::int64_t RowReader::integerFrom(sqlite3_value *stored, std::int64_t min, std::int64_t max)
+std::int64_t RowReader::integerFrom(sqlite3_value *stored, std::int64_t min, std::int64_t max) const
 {
     if (sqlite3_value_type(stored) != SQLITE_INTEGER)
         refuse("has something else than a number");
     const std::int64_t value = sqlite3_value_int64(stored);
     if (value < min || value > max)
         refuse("has a number that means nothing");
-    m_seal.integer(value);
     return value;
 }
 
-QByteArrayView RowReader::bytesFrom(sqlite3_value *stored)
+QByteArrayView RowReader::bytesFrom(sqlite3_value *stored) const
 {
     if (sqlite3_value_type(stored) != SQLITE_TEXT)
         refuse("has something else than a text");
     const QByteArrayView bytes = bytesOf(stored);
     if (bytes.size() > textSizeMax)
         refuse("has a text that is too long");
-    m_seal.text(bytes);
+    m_source.database().countText(bytes.size());
     return bytes;
 }
 
-QString RowReader::textFrom(sqlite3_value *stored)
+QString RowReader::textFrom(sqlite3_value *stored) const
 {
     std::optional<QString> text = fromStoredText(bytesFrom(stored));
     if (!text)
@@ -253,10 +275,27 @@ QString RowReader::textFrom(sqlite3_value *stored)
     return *std::move(text);
 }
 
-numira::Decimal RowReader::decimalFrom(sqlite3_value *stored)
+numira::Decimal RowReader::decimalFrom(sqlite3_value *stored, unsigned digits) const
 {
+    if (sqlite3_value_type(stored) == SQLITE_INTEGER)
+        return numira::Decimal::fromUnits(sqlite3_value_int64(stored), digits);
     const QByteArrayView text = bytesFrom(stored);
     return numira::Decimal::fromText({text.data(), static_cast<std::size_t>(text.size())});
+}
+
+const StoredCurrency &RowReader::currencyFrom(sqlite3_value *stored)
+{
+    if (sqlite3_value_type(stored) == SQLITE_INTEGER) {
+        const StoredCurrency *const found = m_source.find(sqlite3_value_int64(stored));
+        if (!found)
+            refuse("has no currency");
+        return *found;
+    }
+    const QByteArrayView code = bytesFrom(stored);
+    const std::string_view text(code.data(), static_cast<std::size_t>(code.size()));
+    if (text != m_coded.currency.code())
+        m_coded.currency = numira::toCurrency(std::string(text));
+    return m_coded;
 }
 
 } // namespace kiv::storage::internal

@@ -3,13 +3,13 @@
 
 #include "storage/internal/faults.h"
 #include "storage/internal/image_database.h"
-#include "storage/internal/seal.h"
 
 #include "numira/money.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QString>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,19 +18,64 @@ struct sqlite3_value;
 
 namespace kiv::storage::internal {
 
-/// Writes the rows of one table, value by value in the order of the columns,
-/// and puts them under the seal.
+/// A currency as a file has it: with the digits that its whole amounts had when it
+/// was written, since a currency's may change.
+struct StoredCurrency {
+    numira::Currency currency;
+    unsigned digits = 0;
+};
+
+/// A new image, with the currencies that its rows use.
+class RowSink {
+public:
+    explicit RowSink(const ImageDatabase &database) : m_database(database) {}
+
+    [[nodiscard]] const ImageDatabase &database() const noexcept { return m_database; }
+    /// The key of the currency, and the digits of its whole amounts.
+    [[nodiscard]] std::pair<std::int64_t, unsigned> keyOf(const numira::Currency &currency);
+    /// Writes the currencies, after all other rows.
+    void finish();
+
+private:
+    const ImageDatabase &m_database;
+    std::map<numira::Currency, std::pair<std::int64_t, unsigned>> m_keys;
+    std::vector<StoredCurrency> m_currencies; ///< in the order of their keys
+};
+
+/// An image that is read, with its currencies.
+class RowSource {
+public:
+    /// Reads the currencies of any edition but the first, which has none.
+    RowSource(ImageDatabase &database, std::uint32_t version);
+
+    [[nodiscard]] ImageDatabase &database() const noexcept { return m_database; }
+    /// Null for a key that no currency has.
+    [[nodiscard]] const StoredCurrency *find(std::int64_t key) const noexcept;
+
+private:
+    ImageDatabase &m_database;
+    std::vector<StoredCurrency> m_currencies; ///< in the order of their keys, from 1
+};
+
+/// A text, or the key of the earlier row that has the same one; or neither.
+struct SharedText {
+    std::optional<QString> text;
+    std::optional<std::int64_t> sameAs;
+};
+
+/// Writes the rows of one table, value by value in the order of the columns.
 class RowWriter {
 public:
-    RowWriter(const ImageDatabase &database, Table table, Seal &seal);
+    RowWriter(RowSink &sink, Table table);
 
     RowWriter &integer(std::int64_t value);
     RowWriter &optionalInteger(std::optional<std::int64_t> value);
     RowWriter &text(const QString &text);
     RowWriter &optionalText(const std::optional<QString> &text);
-    /// ISO 8601; null for an invalid date.
+    /// Null for an invalid date.
     RowWriter &date(QDate date);
-    RowWriter &decimal(const numira::Decimal &decimal);
+    /// In a column of its own where another one tells the currency.
+    RowWriter &amount(const numira::Money &money);
     RowWriter &currency(const numira::Currency &currency);
     RowWriter &null();
     /// Amount and currency, in two columns.
@@ -44,18 +89,19 @@ public:
 private:
     RowWriter &bytes(QByteArray bytes);
 
-    Seal &m_seal;
+    RowSink &m_sink;
     Statement m_insert;
     std::vector<QByteArray> m_texts; ///< what is bound, until the row is written
     int m_column = 0;
     qint64 m_rows = 0;
 };
 
-/// Reads the rows of one table in the same way. Throws ContentFault for a value
-/// that the writer would not have written.
+/// Reads the rows of one table in the same way, of either edition: the types of the
+/// values tell which form they have. Throws ContentFault for a value that no writer
+/// would have written.
 class RowReader {
 public:
-    RowReader(const ImageDatabase &database, Table table, Seal &seal);
+    RowReader(RowSource &source, Table table);
 
     /// Goes on to the next row; false after the last one. Keys must rise from
     /// row to row.
@@ -73,14 +119,27 @@ public:
     }
     [[nodiscard]] QString text();
     [[nodiscard]] std::optional<QString> optionalText();
-    /// As it is stored and maybe malformed; valid until the next row.
-    [[nodiscard]] std::optional<QByteArrayView> optionalStoredText();
+    [[nodiscard]] SharedText sharedText();
+    /// Refuses anything but null.
+    void absent()
+    {
+        if (nextPresent())
+            refuse("has more than its kind has");
+    }
     /// Invalid for null.
     [[nodiscard]] QDate date();
-    [[nodiscard]] numira::Decimal decimal();
-    [[nodiscard]] std::optional<numira::Decimal> optionalDecimal();
-    [[nodiscard]] numira::Currency currency();
+    [[nodiscard]] StoredCurrency currency() { return currencyFrom(nextValue()); }
     [[nodiscard]] numira::Money money();
+    /// An amount whose currency another row tells: `currency` gives it when there is one.
+    template <typename Currency>
+    [[nodiscard]] std::optional<numira::Money> optionalAmount(Currency currency)
+    {
+        sqlite3_value *const stored = nextPresent();
+        if (!stored)
+            return std::nullopt;
+        const StoredCurrency known = currency();
+        return numira::Money(known.currency, decimalFrom(stored, known.digits));
+    }
 
     [[noreturn]] void refuse(const std::string &why) const
     {
@@ -93,12 +152,14 @@ private:
     /// Nothing when the value is null.
     [[nodiscard]] sqlite3_value *nextPresent();
     [[nodiscard]] std::int64_t integerFrom(sqlite3_value *stored, std::int64_t min,
-                                           std::int64_t max);
-    [[nodiscard]] QByteArrayView bytesFrom(sqlite3_value *stored);
-    [[nodiscard]] QString textFrom(sqlite3_value *stored);
-    [[nodiscard]] numira::Decimal decimalFrom(sqlite3_value *stored);
+                                           std::int64_t max) const;
+    [[nodiscard]] QByteArrayView bytesFrom(sqlite3_value *stored) const;
+    [[nodiscard]] QString textFrom(sqlite3_value *stored) const;
+    [[nodiscard]] numira::Decimal decimalFrom(sqlite3_value *stored, unsigned digits) const;
+    /// Valid until the next call.
+    [[nodiscard]] const StoredCurrency &currencyFrom(sqlite3_value *stored);
 
-    Seal &m_seal;
+    RowSource &m_source;
     Table m_table;
     Statement m_select;
     int m_columns;
@@ -107,7 +168,7 @@ private:
     qint64 m_rows = 0;
     QByteArray m_lastDateText;
     QDate m_lastDate;
-    numira::Currency m_lastCurrency;
+    StoredCurrency m_coded; ///< the last one that stood there by its code
 };
 
 } // namespace kiv::storage::internal

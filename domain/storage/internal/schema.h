@@ -6,13 +6,14 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 
 namespace kiv::storage::internal {
 
 /// "kivb" in the header of every budget file.
 inline constexpr std::uint32_t applicationId = 0x6B'69'76'62;
 /// The version of the tables that is written.
-inline constexpr std::uint32_t currentVersion = 1;
+inline constexpr std::uint32_t currentVersion = 2;
 inline constexpr int pageSize = 4096;
 
 /// The largest file that is read or written. 65,535 transactions with a
@@ -29,10 +30,11 @@ inline constexpr qint64 rowsMax = 65'535;
 /// A table, exactly as SQLite keeps it in its schema.
 struct TableDefinition {
     const char *name;
-    const char *sql;
+    std::string sql;
 };
 
-/// The place of each table in the current version.
+/// The tables that are read and written by row. The first edition has neither the
+/// last two nor the currencies.
 enum class Table : std::uint8_t {
     Accounts,
     Transactions,
@@ -43,12 +45,14 @@ enum class Table : std::uint8_t {
     Surveys,
     Distributions,
     ItemTags,
+    Reconciliations,
+    Notes,
+    Currencies,
 };
-inline constexpr std::size_t sealedTables = 9;
 
-/// The tables of a version, in the order in which they are made and sealed; the
-/// seal's own is the last one. Empty for a version that does not exist.
-[[nodiscard]] std::span<const TableDefinition> tablesOf(std::uint32_t version) noexcept;
+/// The tables of a version, in the order in which they are made; that of the first
+/// one's checksum is its last one. Empty for a version that does not exist.
+[[nodiscard]] std::span<const TableDefinition> tablesOf(std::uint32_t version);
 [[nodiscard]] const char *nameOf(Table table) noexcept;
 
 } // namespace kiv::storage::internal

@@ -2,86 +2,80 @@
 #include "storage/internal/seal.h"
 
 #include "storage/internal/faults.h"
+#include "storage/internal/sha256.h"
 
-#include <charconv>
-#include <utility>
+#include <QtCore/QtEndian>
 
 namespace kiv::storage::internal {
-
 namespace {
 
-/// Small enough that the allocator keeps it for the next one.
-constexpr qsizetype blockSize = qsizetype{64} * 1024;
+constexpr QByteArrayView magic("kivbseal", 8);
+constexpr qsizetype imageSizeAt = 8;
+constexpr qsizetype labelSizeAt = 16;
+constexpr qsizetype digestAt = 32;
+
+/// The sizes of image and label.
+std::optional<std::pair<qsizetype, qsizetype>> sizesIn(QByteArrayView end) noexcept
+{
+    if (end.size() < sealSize)
+        return std::nullopt;
+    const QByteArrayView seal = end.last(sealSize);
+    if (!seal.startsWith(magic))
+        return std::nullopt;
+    const auto image = qFromBigEndian<qint64>(seal.data() + imageSizeAt);
+    const auto label = qFromBigEndian<qint64>(seal.data() + labelSizeAt);
+    // Far above every size that a file may have, far below what overflows.
+    constexpr qint64 sizeMax = qint64{1} << 40;
+    if (image < 0 || label < 0 || image > sizeMax || label > sizeMax)
+        return std::nullopt;
+    return std::pair(qsizetype{image}, qsizetype{label});
+}
 
 } // namespace
 
-Seal::Seal(std::uint32_t version, qint64 textsMax)
-    : m_textsLeft(textsMax),
-      m_dump(blockSize),
-      m_at(m_dump.data()),
-      m_end(m_at + blockSize),
-      m_hashing([this](const std::vector<char> &bytes) { hash(bytes); })
+QByteArray sealed(QByteArrayView image, QByteArrayView label)
 {
-    sha256_init(&m_hash);
-    append("kiv-budget ");
-    append(QByteArray::number(version));
-    append("\n");
+    QByteArray file;
+    file.reserve(image.size() + label.size() + sealSize);
+    file.append(image).append(label).append(magic);
+    const auto appendNumber = [&file](qint64 number) {
+        std::array<char, sizeof number> bytes{};
+        qToBigEndian(number, bytes.data());
+        file.append(bytes.data(), bytes.size());
+    };
+    appendNumber(image.size());
+    appendNumber(label.size());
+    appendNumber(0);
+    Sha256 hash;
+    hash.add(file);
+    return file.append(hash.result());
 }
 
-void Seal::beginTable(const char *name)
+std::optional<SealedParts> sealedParts(QByteArrayView file) noexcept
 {
-    append("table ");
-    append(name);
-    append("\n");
+    const auto sizes = sizesIn(file);
+    if (!sizes || sizes->first + sizes->second + sealSize != file.size())
+        return std::nullopt;
+    return SealedParts{file.first(sizes->first), file.sliced(sizes->first, sizes->second)};
 }
 
-QByteArray Seal::result()
+SealedParts unsealed(QByteArrayView file)
 {
-    m_dump.resize(static_cast<std::size_t>(m_at - m_dump.data()));
-    m_hashing.finish(std::exchange(m_dump, {}));
-    std::array<std::uint8_t, SHA256_DIGEST_SIZE> digest;
-    sha256_digest(&m_hash, digest.size(), digest.data());
-    return QByteArray(reinterpret_cast<const char *>(digest.data()), digest.size()).toHex();
+    const std::optional<SealedParts> parts = sealedParts(file);
+    if (!parts)
+        throw checksumWrong();
+    const qsizetype hashed = file.size() - sealSize + digestAt;
+    Sha256 hash;
+    hash.add(file.first(hashed));
+    if (hash.result() != file.sliced(hashed))
+        throw checksumWrong();
+    return *parts;
 }
 
-void Seal::appendNumber(char kind, std::int64_t value, char end)
+std::optional<qsizetype> labelBegin(QByteArrayView end) noexcept
 {
-    constexpr qsizetype sizeMax = 24;
-    char *const begin = room(sizeMax);
-    *begin = kind;
-    // Most numbers have one or two digits.
-    if (value >= 0 && value < 100) {
-        char *at = begin + 1;
-        if (value >= 10)
-            *at++ = static_cast<char>('0' + value / 10);
-        *at++ = static_cast<char>('0' + value % 10);
-        *at++ = end;
-        m_at = at;
-        return;
-    }
-    char *const last = std::to_chars(begin + 1, begin + sizeMax - 1, value).ptr;
-    *last = end;
-    m_at = last + 1;
-}
-
-void Seal::makeRoom(qsizetype size)
-{
-    std::vector<char> next = m_hashing.spare();
-    next.resize(static_cast<std::size_t>(std::max(blockSize, size)));
-    m_dump.resize(static_cast<std::size_t>(m_at - m_dump.data()));
-    m_at = next.data();
-    m_end = m_at + next.size();
-    m_hashing.add(std::exchange(m_dump, std::move(next)));
-}
-
-void Seal::refuseText()
-{
-    throw tooManyTexts();
-}
-
-void Seal::hash(const std::vector<char> &bytes) noexcept
-{
-    sha256_update(&m_hash, bytes.size(), reinterpret_cast<const std::uint8_t *>(bytes.data()));
+    const auto sizes = sizesIn(end);
+    return sizes ? std::optional(sizes->second + sealSize) : std::nullopt;
 }
 
 } // namespace kiv::storage::internal

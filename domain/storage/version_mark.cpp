@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/version_mark.h"
+
+#include <QtCore/QRandomGenerator>
+
+namespace kiv::storage {
+
+VersionMark VersionMark::next() const
+{
+    VersionMark mark;
+    mark.id = QStringLiteral("%1").arg(QRandomGenerator::system()->generate64(), 16, 16,
+                                       QLatin1Char('0'));
+    mark.number = number + 1;
+    if (!id.isEmpty()) {
+        mark.ancestors = ancestors.first(std::min(ancestors.size(), ancestorsMax - 1));
+        mark.ancestors.prepend(id);
+    }
+    return mark;
+}
+
+void VersionMark::nameChange(const QString &line)
+{
+    change = line.simplified().left(changeMax);
+}
+
+} // namespace kiv::storage
