@@ -72,9 +72,8 @@ void changeCells(SQLite::Database &database, FuzzedDataProvider &bytes)
 {
     const auto tables = storage::internal::tablesOf(storage::internal::currentVersion);
     for (int edits = 0; edits < 12 && bytes.remaining_bytes() > 3; ++edits) {
-        const std::string table = tables[bytes.ConsumeIntegralInRange<std::size_t>(
-                                             0, storage::internal::sealedTables - 1)]
-                                      .name;
+        const std::string table =
+            tables[bytes.ConsumeIntegralInRange<std::size_t>(0, tables.size() - 1)].name;
         SQLite::Statement columns(database, "SELECT * FROM " + table);
         const std::string column =
             columns.getColumnName(bytes.ConsumeIntegralInRange(0, columns.getColumnCount() - 1));
@@ -113,11 +112,15 @@ QByteArray fileOf(FuzzedDataProvider &bytes)
         raw = wholeFile(kind / 2 % 4);
     }
     try {
-        open(database, raw);
+        test::FileParts parts(raw);
+        open(database, parts.image);
         if (kind % 2 != 0)
             changeCells(database, bytes);
-        test::sealAgain(database);
-        return imageOf(database);
+        if (!parts.hasSeal)
+            test::sealRowsAgain(database);
+        parts.image = imageOf(database);
+        parts.sealAgain();
+        return parts.file();
     } catch (const SQLite::Exception &) {
         return raw;
     }

@@ -3,7 +3,6 @@
 
 #include "fault_rig.h"
 
-#include "storage/internal/pipeline.h"
 #include "support/damage.h"
 
 using namespace kiv;
@@ -17,26 +16,7 @@ class MemoryFaults : public QObject {
 private slots:
     void everyFailureLeavesNoTrace_data() { addStates(); }
     void everyFailureLeavesNoTrace() { checkRequests(Fault::Place::Memory, randomRuns(3)); }
-    void aWorkerThatWantsMemoryEndsNothing();
 };
-
-void MemoryFaults::aWorkerThatWantsMemoryEndsNothing()
-{
-    long wants = 0;
-    for (long due = 1; wants == due - 1; ++due) {
-        fault = {.isOn = true, .place = Fault::Place::Memory, .due = due};
-        try {
-            storage::internal::Pipeline<int> pipeline([](int &) {});
-            for (int part = 0; part < 64; ++part)
-                pipeline.add(int(part));
-            pipeline.finish(0);
-        } catch (const std::bad_alloc &) {
-            ++wants;
-        }
-        fault = {};
-    }
-    QVERIFY(wants > 1);
-}
 
 static const kiv::test::Suite<MemoryFaults> suite;
 #include "tst_memory_faults.moc"

@@ -12,22 +12,26 @@
 
 namespace kiv::test {
 
+inline void overwrite(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("The test cannot write its own file.");
+}
+
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
 /// A folder of the test's own that goes with it. It lies in memory where there is such a
 /// place: a save then waits for no disk, so that a kill hits every step of it.
 class ScratchFolder {
 public:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
-    void write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("The test cannot write its own file.");
-    }
-    [[nodiscard]] QByteArray read(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
+    void write(const QString &name, const QByteArray &bytes) const { overwrite(path(name), bytes); }
+    [[nodiscard]] QByteArray read(const QString &name) const { return contentOf(path(name)); }
     /// All names in it, hidden ones too.
     [[nodiscard]] QStringList names() const
     {

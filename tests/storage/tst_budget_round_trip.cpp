@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "image_surgery.h"
 #include "random_budget.h"
 #include "scratch_folder.h"
 
@@ -127,13 +128,14 @@ class BudgetRoundTripTest final : public QObject {
     Q_OBJECT
 
 private slots:
-    void whateverTheDomainMakesLoadsEqualAndSavesTheSameBytes();
+    void whateverTheDomainMakesLoadsEqualAndSavesTheSameImage();
+    void filesOfTheFirstEditionLoadAsTheyWereSaved();
     void looseTiesAreMended_data();
     void looseTiesAreMended();
     void aClosedAccountWithABalanceIsOpened();
 };
 
-void BudgetRoundTripTest::whateverTheDomainMakesLoadsEqualAndSavesTheSameBytes()
+void BudgetRoundTripTest::whateverTheDomainMakesLoadsEqualAndSavesTheSameImage()
 {
     const MessageLog log;
     const test::ScratchFolder folder;
@@ -144,10 +146,30 @@ void BudgetRoundTripTest::whateverTheDomainMakesLoadsEqualAndSavesTheSameBytes()
         const Data loaded = test::load(folder.path(u"a.budget"_qs));
         RC_ASSERT(test::difference(data, loaded).toStdString() == std::string());
         test::store(folder.path(u"b.budget"_qs), loaded);
-        RC_ASSERT(folder.read(u"a.budget"_qs) == folder.read(u"b.budget"_qs));
+        RC_ASSERT(test::imageOf(folder.read(u"a.budget"_qs)) ==
+                  test::imageOf(folder.read(u"b.budget"_qs)));
     });
     QVERIFY(holds);
     QCOMPARE(log.warnings(), QStringList());
+}
+
+void BudgetRoundTripTest::filesOfTheFirstEditionLoadAsTheyWereSaved()
+{
+    const test::ScratchFolder folder;
+    const QString path = folder.path(u"a.budget"_qs);
+    for (const auto &[name, seed] :
+         {std::pair("data/odd.budget", 2U), {"data/strange.budget", 1U}}) {
+        const Data saved = test::someBudget(seed, 150);
+        test::overwrite(path, test::contentOf(QFINDTESTDATA(name)));
+        QCOMPARE(test::difference(test::load(path), saved), QString());
+        {
+            storage::BudgetFile file;
+            file.setFilePathName(path);
+            file.store(file.load());
+        }
+        QVERIFY(test::FileParts(folder.read(u"a.budget"_qs)).hasSeal);
+        QCOMPARE(test::difference(test::load(path), saved), QString());
+    }
 }
 
 void BudgetRoundTripTest::looseTiesAreMended_data()

@@ -105,7 +105,9 @@ void BudgetTargetsTest::refusedFilesStayAndTheOpenOneStaysOpen_data()
     row("another database", NotOurs, other,
         content([](QByteArray bytes) { return bytes.replace(68, 4, "none"); }));
     row("newer", Newer, other,
-        content([](QByteArray bytes) { return bytes.replace(63, 1, "\2"); }));
+        content([](QByteArray bytes) { return bytes.replace(63, 1, "\3"); }));
+    row("locked with a passphrase", Newer, other,
+        content([](QByteArray bytes) { return bytes.replace(0, 16, "kivbudget locked"); }));
     row("cut short", Damaged, other,
         content([](const QByteArray &bytes) { return bytes.chopped(1); }));
     row("too large", TooLarge, other, [](const QByteArray &path) {

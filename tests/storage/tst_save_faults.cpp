@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "failing_calls.h"
+#include "image_surgery.h"
 #include "open_budget.h"
 
 #include "support/message_log.h"
@@ -41,6 +42,11 @@ QByteArray bytesOf(int version)
     return bytes;
 }
 
+QByteArray imageOf(int version)
+{
+    return test::imageOf(bytesOf(version));
+}
+
 /// How a budget stands to its file when it is saved.
 enum class Standing { Open, NotOpen, New };
 
@@ -69,6 +75,10 @@ struct Desk {
         names.removeAll(lock);
         return names;
     }
+    [[nodiscard]] QByteArray image(const QString &which) const
+    {
+        return test::imageOf(folder.read(which));
+    }
     void save(int version) { file.store(budget(version)); }
     void saveCarelessly(int version)
     {
@@ -89,7 +99,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
                       Standing standing)
 {
     Desk desk(standing);
-    const QByteArray old = desk.folder.read(name);
+    const QByteArray old = desk.image(name);
     const QStringList before = desk.names();
     fail(call, from, error, {}, times);
     const auto failure = test::failureOf([&] { (desk.*save)(3); });
@@ -101,9 +111,9 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     const bool isEveryClose = call == "close" && from == 1 && times > 1;
     if (!failure && (isSyncFailure || isEveryClose))
         return QStringLiteral("what may not be on the disk counts as saved");
-    if (desk.folder.read(name) != (failure ? old : bytesOf(3)))
+    if (desk.image(name) != (failure ? old : imageOf(3)))
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
-    if (failure && desk.folder.read(backup) != bytesOf(1))
+    if (failure && desk.image(backup) != imageOf(1))
         return QStringLiteral("a failed save changed the backup");
     // The lock of a file that is not open went with the attempt.
     if (failure && standing != Standing::Open && times == 1 && desk.folder.names().contains(lock))
@@ -111,7 +121,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     const QStringList after = desk.names();
     if (failure && after != before && call != "unlinkat")
         return QStringLiteral("left behind: %1").arg(after.join(u' '));
-    if (test::failureOf([&] { desk.save(4); }) || desk.folder.read(name) != bytesOf(4))
+    if (test::failureOf([&] { desk.save(4); }) || desk.image(name) != imageOf(4))
         return QStringLiteral("the next save failed");
     for (const QString &left : desk.folder.names()) {
         if (!left.startsWith(name))
@@ -315,7 +325,7 @@ void SaveFaultsTest::whateverIsMetIsToldRight()
             QCOMPARE(test::bankIn(data), u"2"_qs);
         return;
     }
-    QCOMPARE(desk.folder.read(name), bytesOf(failure ? met.left : 3));
+    QCOMPARE(desk.image(name), imageOf(failure ? met.left : 3));
     // The reason is the system's own.
     if (failure == StorageFailure::CannotWrite && met.error != 0 && !met.meanwhile)
         QVERIFY2(told.contains(qt_error_string(met.error)), qPrintable(told));
@@ -324,7 +334,7 @@ void SaveFaultsTest::whateverIsMetIsToldRight()
         return;
     }
     desk.save(4);
-    QCOMPARE(desk.folder.read(name), bytesOf(4));
+    QCOMPARE(desk.image(name), imageOf(4));
 }
 
 void SaveFaultsTest::theLockFileGoesWithTheFile()

@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "failing_calls.h"
+#include "image_surgery.h"
 #include "random_budget.h"
 #include "scratch_folder.h"
 
@@ -95,14 +96,14 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
     }
     if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
         return QStringLiteral("the saver ended by itself");
-    const QByteArray left = folder.read(name);
-    if (left != versions.bytes[0] && left != versions.bytes[1])
+    const QByteArray left = test::imageOf(folder.read(name));
+    if (left != test::imageOf(versions.bytes[0]) && left != test::imageOf(versions.bytes[1]))
         return QStringLiteral("neither version is left");
     // The lock of a killed program is none.
     storage::BudgetFile next;
     next.setFilePathName(path);
     if (test::failureOf([&] { (void)next.load(), next.store(versions.data[1]); }) ||
-        folder.read(name) != versions.bytes[1])
+        test::imageOf(folder.read(name)) != test::imageOf(versions.bytes[1]))
         return QStringLiteral("the next save failed");
     for (const QString &file : folder.names()) {
         if (!file.startsWith(name))
