@@ -4221,8 +4221,12 @@
         <translation>Nr. %1 wurde nach dem Abgleich vom %4 von %2 zu %3 geändert</translation>
     </message>
     <message>
+        <source>What it says about its version is damaged.</source>
+        <translation>Was sie über ihre Version sagt, ist beschädigt.</translation>
+    </message>
+    <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
-        <translation>Nr. %1, %2, ist seit dem Abgleich vom %3 nicht mehr als abgeglichen markiert</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -4221,8 +4221,12 @@
         <translation>n.º %1 se cambió de %2 a %3 después de la conciliación del %4</translation>
     </message>
     <message>
+        <source>What it says about its version is damaged.</source>
+        <translation>Lo que dice sobre su versión está dañado.</translation>
+    </message>
+    <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
-        <translation>n.º %1, %2, ya no está marcado como conciliado desde la conciliación del %3</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -242,7 +242,7 @@ newer version (which SQLite keeps at byte 60) or with one bit changed, are left 
   kiv: The file 'bad.budget' is empty.
   $ head -c 20000 household.budget >bad.budget
   $ refused
-  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: Its header is damaged.
+  kiv: The file 'bad.budget' is damaged and was not loaded. Caused by: The checksum is wrong.
   $ yes '%PDF-1.7 and so on' | head -400 >bad.budget
   $ refused
   kiv: The file 'bad.budget' was not written by this program.

@@ -4,20 +4,24 @@ What was saved before can be looked at and comes back.
 
   $ . "$TESTDIR/household.sh"
 
-What is undone is back, byte for byte, and what is undone again is there again:
+What is undone is back, byte for byte but for what tells about the version, and what is
+undone again is there again:
 
+  $ image() {
+  >     perl -0777 -ne 'print substr($_, 0, 4096 * unpack("N", substr($_, 28, 4)))' "$1"
+  > }
   $ undone() {
   >     begin
-  >     cp household.budget before
+  >     image household.budget >before
   >     kiv "$@"
-  >     cp household.budget after
+  >     image household.budget >after
   >     ! cmp -s before after || echo "Nothing was changed."
   >     kiv undo --dry-run >dry
   >     tail -1 dry | grep -v 'nothing is saved'
   >     kiv undo >/dev/null
-  >     cmp before household.budget
+  >     image household.budget | cmp before -
   >     kiv undo >/dev/null
-  >     cmp after household.budget
+  >     image household.budget | cmp after -
   > }
   $ undone bill add Gym 30 --tag sport
   Added the bill 'Gym'.
@@ -170,7 +174,7 @@ The former version is no file, or damaged; the file is not the worse for it:
   $ rmdir household.budget.backup-1
   $ head -c -100 household.budget >household.budget.backup-1
   $ kiv undo
-  kiv: The version in '*/versions.t/household.budget.backup-1' is damaged. The file '*/versions.t/household.budget.backup-1' is damaged and was not loaded. Caused by: Its header is damaged. (glob)
+  kiv: The version in '*/versions.t/household.budget.backup-1' is damaged. The checksum is wrong. (glob)
   [1]
   $ kiv history
   Version  Saved at             Bytes  Items  Accounts  Transactions
@@ -182,7 +186,7 @@ So is the file itself; what to do then is said:
   $ cp household.budget whole
   $ head -c -100 whole >household.budget
   $ kiv undo
-  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: Its header is damaged. Find an intact version with kiv history, then copy its file (such as '*/versions.t/household.budget.backup-1') over the damaged one. (glob)
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: The checksum is wrong. Find an intact version with kiv history, then copy its file (such as '*/versions.t/household.budget.backup-1') over the damaged one. (glob)
   [1]
   $ kiv history
   Version  Saved at             Bytes  Items  Accounts  Transactions
@@ -229,13 +233,13 @@ A word of its tables, and a letter of a name:
 
   $ flipped 'index($_, "CREATE TABLE")'
   false
-  ["kept","broken","not judged","not judged","not judged","not judged","not judged"]
+  ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
   [1]
-  The tables belong to that version             FAILED       malformed database schema (seal)
+  The rows are as they were saved               FAILED       The checksum is wrong.
   The budget 'household.budget' is damaged; find an intact version with kiv history.
   $ flipped 'index($_, "Checking")'
   false
-  ["kept","kept","broken","not judged","not judged","not judged","not judged"]
+  ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
   [1]
   The rows are as they were saved               FAILED       The checksum is wrong.
   The budget 'household.budget' is damaged; find an intact version with kiv history.

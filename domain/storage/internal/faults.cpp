@@ -161,7 +161,7 @@ ContentFault checksumWrong()
 
 ContentFault labelMalformed()
 {
-    return ContentFault(QObject::tr("What it tells about itself is malformed."));
+    return ContentFault(QObject::tr("What it says about its version is damaged."));
 }
 
 ContentFault headerNotWhole()
