@@ -4226,7 +4226,7 @@
     </message>
     <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Nr. %1, %2, ist seit dem Abgleich vom %3 nicht mehr als abgeglichen markiert</translation>
     </message>
 </context>
 </TS>

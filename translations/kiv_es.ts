@@ -4226,7 +4226,7 @@
     </message>
     <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>n.º %1, %2, ya no está marcada como conciliada desde la conciliación del %3</translation>
     </message>
 </context>
 </TS>
