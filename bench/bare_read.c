@@ -4,18 +4,8 @@
    costs at least. It checks nothing. */
 #include <sqlite3.h>
 #include <stdio.h>
-#include <stdlib.h>
 
-enum { accounts_max = 1000 };
-
-static long long cents(const char *text)
-{
-    const long long major = strtoll(text, (char **)&text, 10);
-    if (*text != '.')
-        return major * 100;
-    const int tens = text[1] - '0';
-    return major * 100 + tens * 10 + (text[2] ? text[2] - '0' : 0);
-}
+enum { accounts_max = 1000, description = 8 };
 
 int main(int argc, char **argv)
 {
@@ -31,11 +21,14 @@ int main(int argc, char **argv)
         const int credit = sqlite3_column_int(rows, 3);
         if (debit >= accounts_max || credit >= accounts_max)
             return 1;
-        const long long amount = cents((const char *)sqlite3_column_text(rows, 4));
+        const long long amount = sqlite3_column_int64(rows, 4);
         balances[debit] += amount;
         balances[credit] -= amount;
         for (int column = 5; column < sqlite3_column_count(rows); ++column)
-            sqlite3_column_text(rows, column);
+            if (column == description)
+                sqlite3_column_text(rows, column);
+            else
+                sqlite3_column_int64(rows, column);
     }
     for (int account = 0; account < accounts_max; ++account)
         if (balances[account])

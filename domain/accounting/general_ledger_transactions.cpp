@@ -179,7 +179,7 @@ TransactionNumber GeneralLedger::refund(TransactionNumber number, const numira::
     if (original.refundOf)
         throw internal::refundOfRefund(number, *original.refundOf);
     const Transaction giveBack = enteredIn(
-        Transaction(postedOn, original.credit, original.debit, amount, original.description),
+        Transaction(postedOn, original.credit, original.debit, amount, original.description.text()),
         original.amount.code(), number);
     const numira::Money left = original.amount - original.refunded();
     if (giveBack.amount().isPositive() && giveBack.amount() > left)

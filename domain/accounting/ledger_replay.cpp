@@ -29,7 +29,7 @@ bool isOpening(const LedgerState &state, TransactionNumber number, const Transac
 
 } // namespace
 
-LedgerReplay::LedgerReplay() = default;
+LedgerReplay::LedgerReplay() : m_descriptions(std::make_unique<internal::DescriptionBlocks>()) {}
 LedgerReplay::~LedgerReplay() = default;
 
 void LedgerReplay::addAccount(AccountTypes type, const AccountCode &code,
@@ -41,25 +41,50 @@ void LedgerReplay::addAccount(AccountTypes type, const AccountCode &code,
     m_ledger.change().insertAccount(type, code, currency, holdsOpenings);
 }
 
-void LedgerReplay::post(Transaction transaction)
+void LedgerReplay::post(const StoredTransaction &transaction)
 {
     const LedgerState &state = *m_ledger.m_state;
-    const TransactionNumber number = transaction.number().value_or(TransactionNumber());
+    const TransactionNumber number = transaction.number;
     if (!number.isValid())
         throw internal::numberMissing();
-    if (state.table().find(number))
+    // Stores have them in the order of their numbers.
+    const bool isAboveAll = number > state.table().numbers().highest();
+    if (!isAboveAll && state.table().find(number))
         throw internal::numberTaken(number);
-    internal::checkTransaction(state, transaction, number);
-    TransactionRecord record = internal::plainRecord(std::move(transaction));
-    checkSide(state.account(record.debit), record.debitAmount(), record, number);
-    checkSide(state.account(record.credit), record.creditAmount(), record, number);
-    m_ledger.change().exchange(number, std::move(record));
+    TransactionRecord record{.occurredOn = transaction.day,
+                             .debit = transaction.debit,
+                             .credit = transaction.credit,
+                             .amount = transaction.amount,
+                             .description = descriptionOf(transaction),
+                             .debitStatus = transaction.debitStatus,
+                             .creditStatus = transaction.creditStatus,
+                             .refundOf = std::nullopt,
+                             .refundedAmount = {},
+                             .sides = {}};
+    if (transaction.debitAmount || transaction.creditAmount)
+        record.setSideAmounts(transaction.debitAmount.value_or(record.amount),
+                              transaction.creditAmount.value_or(record.amount));
+    const auto [debit, credit] = internal::checkTransaction(state, record, number);
+    checkSide(debit, record.debitAmount(), record, number);
+    checkSide(credit, record.creditAmount(), record, number);
+    if (isAboveAll)
+        m_ledger.change().append(number, std::move(record));
+    else
+        m_ledger.change().exchange(number, std::move(record));
 }
 
-std::optional<QString> LedgerReplay::descriptionOf(TransactionNumber number) const
+internal::Description LedgerReplay::descriptionOf(const StoredTransaction &transaction)
+{
+    if (transaction.describedAs)
+        return m_ledger.m_state->record(*transaction.describedAs).description;
+    return transaction.description ? m_descriptions->add(*transaction.description)
+                                   : internal::Description();
+}
+
+bool LedgerReplay::hasDescription(TransactionNumber number) const
 {
     const TransactionRecord *const record = m_ledger.m_state->table().find(number);
-    return record ? record->description : std::nullopt;
+    return record && record->description.isPresent();
 }
 
 void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber original)

@@ -73,11 +73,6 @@ public:
     {
         return m_parts.description;
     }
-    /// The description out of a transaction that is not needed any more.
-    [[nodiscard]] std::optional<QString> takeDescription() &&noexcept
-    {
-        return std::exchange(m_parts.description, std::nullopt);
-    }
     /// The ledger's number; nothing before it is posted.
     [[nodiscard]] const std::optional<TransactionNumber> &number() const noexcept
     {

@@ -325,6 +325,22 @@ inline QString difference(const GeneralLedger &before, const GeneralLedger &afte
 
 // ---- what holds of every ledger ---------------------------------------------------
 
+inline StoredTransaction stored(const Transaction &transaction)
+{
+    return {transaction.number().value_or(TransactionNumber()),
+            transaction.occurredOn(),
+            transaction.debiting().number(),
+            transaction.crediting().number(),
+            transaction.amount(),
+            transaction.debitAmount(),
+            transaction.creditAmount(),
+            transaction.description() ? std::optional<QStringView>(*transaction.description())
+                                      : std::nullopt,
+            {},
+            transaction.debitStatus(),
+            transaction.creditStatus()};
+}
+
 /// The ledger, built again from what it answers.
 inline GeneralLedger rebuilt(const GeneralLedger &ledger)
 {
@@ -343,7 +359,7 @@ inline GeneralLedger rebuilt(const GeneralLedger &ledger)
     }
     const std::vector<Transaction> transactions = ledger.transactions();
     for (const Transaction &transaction : transactions)
-        replay.post(transaction);
+        replay.post(stored(transaction));
     for (const Transaction &transaction : transactions) {
         if (transaction.refundOf())
             replay.markRefund(*transaction.number(), *transaction.refundOf());

@@ -66,7 +66,7 @@ void step(LedgerReplay &replay, const QString &text)
                 const numira::Money debit = words.amount();
                 entry = entry.withSideAmounts(debit, words.amount());
             }
-            replay.post(entry);
+            replay.post(stored(entry));
         }
     }
 }

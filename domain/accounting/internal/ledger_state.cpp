@@ -10,6 +10,14 @@
 namespace kiv::accounting::internal {
 namespace {
 
+/// The sum of one side of an account.
+numira::Money summed(const numira::Money &sum, const numira::Money &amount, const AccountCode &code)
+{
+    return foundation::withMoneyRefusals(
+        [&] { return sum + amount; },
+        [&](const std::exception &cause) { return balanceOutOfRange(code, cause); });
+}
+
 /// The sums that a change gives to the accounts that it touches: two that a
 /// transaction leaves and two that it enters at most.
 class ChangedSums {
@@ -51,11 +59,7 @@ private:
     }
     void add(Sums &sums, numira::Money Sums::*side, const numira::Money &amount) const
     {
-        foundation::withMoneyRefusals([&] { sums.*side += amount; },
-                                      [&](const std::exception &cause) {
-                                          return balanceOutOfRange(accountAt(sums.place).code,
-                                                                   cause);
-                                      });
+        sums.*side = summed(sums.*side, amount, accountAt(sums.place).code);
     }
 
     const LedgerState &m_state;
@@ -188,12 +192,30 @@ Transaction LedgerState::transaction(TransactionNumber number, AccountNumber acc
                         .amount = record.amount,
                         .debitAmount = record.debitAmount(),
                         .creditAmount = record.creditAmount(),
-                        .description = record.description,
+                        .description = record.description.text(),
                         .number = number,
                         .refundOf = record.refundOf,
                         .debitStatus = record.debitStatus,
                         .creditStatus = record.creditStatus,
                         .seenFrom = account});
+}
+
+void LedgerState::append(TransactionNumber number, TransactionRecord record)
+{
+    // First all that can fail, as in exchange().
+    AccountRecord &debit = changeAccount(record.debit);
+    AccountRecord &credit = changeAccount(record.credit);
+    const numira::Money debits = summed(debit.debits, record.debitAmount(), debit.code);
+    const numira::Money credits = summed(credit.credits, record.creditAmount(), credit.code);
+    m_table.detach(number);
+    debit.transactions.detach();
+    credit.transactions.detach();
+
+    debit.debits = debits;
+    credit.credits = credits;
+    debit.transactions.append(number);
+    credit.transactions.append(number);
+    m_table.append(number, std::move(record));
 }
 
 void LedgerState::exchange(TransactionNumber number, std::optional<TransactionRecord> after)

@@ -107,6 +107,17 @@ void NumberSet::insert(TransactionNumber number)
     m_highest = std::max(m_highest, number);
 }
 
+void NumberSet::append(TransactionNumber number)
+{
+    Content &content = *m_content;
+    if (hasBits())
+        content.bits[wordOf(number)] |= bitOf(number);
+    else
+        content.few.push_back(number);
+    ++m_count;
+    m_highest = number;
+}
+
 void NumberSet::remove(TransactionNumber number)
 {
     if (!contains(number))

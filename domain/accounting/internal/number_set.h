@@ -27,6 +27,8 @@ public:
     /// Takes the memory that the next change needs, so that it cannot fail.
     void detach();
     void insert(TransactionNumber number);
+    /// Inserts a number above all in the set. After detach() it cannot fail.
+    void append(TransactionNumber number);
     void remove(TransactionNumber number);
 
     friend bool operator==(const NumberSet &a, const NumberSet &b) noexcept;

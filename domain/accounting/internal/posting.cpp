@@ -83,24 +83,25 @@ void checkOpen(const AccountRecord &account)
         throw accountIsClosed(account.code);
 }
 
-void checkTransaction(const LedgerState &state, const Transaction &transaction,
-                      TransactionNumber number)
+std::pair<const AccountRecord &, const AccountRecord &>
+checkTransaction(const LedgerState &state, const TransactionRecord &record,
+                 TransactionNumber number)
 {
-    for (const TransactionStatuses status :
-         {transaction.debitStatus(), transaction.creditStatus()}) {
+    for (const TransactionStatuses status : {record.debitStatus, record.creditStatus}) {
         if (status > TransactionStatuses::Reconciled)
             throw statusNotPostable();
     }
-    if (!transaction.occurredOn().isValid())
+    if (!record.occurredOn.isValid())
         throw dayInvalid(number);
-    if (!transaction.amount().isPositive())
-        throw amountNotPositive(number, transaction.amount());
-    const AccountRecord &debit = state.account(transaction.debiting().number());
-    const AccountRecord &credit = state.account(transaction.crediting().number());
+    if (!record.amount.isPositive())
+        throw amountNotPositive(number, record.amount);
+    const AccountRecord &debit = state.account(record.debit);
+    const AccountRecord &credit = state.account(record.credit);
     if (&debit == &credit)
         throw accountsAreTheSame(number, debit.code);
     checkOpen(debit);
     checkOpen(credit);
+    return {debit, credit};
 }
 
 numira::Money convertedAmount(const numira::Money &amount, const numira::Currency &currency,
@@ -116,18 +117,18 @@ numira::Money convertedAmount(const numira::Money &amount, const numira::Currenc
     return result;
 }
 
-TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
+TransactionRecord newRecord(const LedgerState &state, Transaction transaction,
                             TransactionNumber number, const TransactionRecord *before)
 {
-    checkTransaction(state, transaction, number);
-    TransactionRecord record = plainRecord(transaction);
-    const auto side = [&](AccountNumber account) {
-        const numira::Currency &currency = state.account(account).currency();
+    TransactionRecord record = plainRecord(std::move(transaction));
+    const auto [debit, credit] = checkTransaction(state, record, number);
+    const auto side = [&](const AccountRecord &account) {
+        const numira::Currency &currency = account.currency();
         const bool isSameAmount = before && before->amount == record.amount;
         const numira::Money *known = isSameAmount ? before->knownIn(currency) : nullptr;
         return known ? *known : convertedAmount(record.amount, currency, number);
     };
-    record.setSideAmounts(side(record.debit), side(record.credit));
+    record.setSideAmounts(side(debit), side(credit));
     return record;
 }
 
@@ -144,7 +145,7 @@ TransactionRecord plainRecord(Transaction transaction)
                              .refundedAmount = {},
                              .sides = {}};
     record.setSideAmounts(transaction.debitAmount(), transaction.creditAmount());
-    record.description = std::move(transaction).takeDescription();
+    record.description = Description(transaction.description());
     return record;
 }
 

@@ -25,8 +25,10 @@ void checkOpen(const AccountRecord &account);
 /// The transaction has a valid day, a positive amount, known statuses and two
 /// different, open accounts. Throws TransactionError or AccountError, or
 /// std::logic_error for a status above the known ones.
-void checkTransaction(const LedgerState &state, const Transaction &transaction,
-                      TransactionNumber number);
+/// Gives the debited and the credited account.
+std::pair<const AccountRecord &, const AccountRecord &>
+checkTransaction(const LedgerState &state, const TransactionRecord &record,
+                 TransactionNumber number);
 
 /// The positive amount in another currency at the present rate, rounded half to
 /// even to its minor unit; the amount itself when it is in that currency. Throws
@@ -40,7 +42,7 @@ void checkTransaction(const LedgerState &state, const Transaction &transaction,
 /// with the same amount, what that had in a currency stays and is not converted
 /// again.
 /// Throws as the two above.
-[[nodiscard]] TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
+[[nodiscard]] TransactionRecord newRecord(const LedgerState &state, Transaction transaction,
                                           TransactionNumber number,
                                           const TransactionRecord *before = nullptr);
 /// The transaction as the ledger keeps it, without any check.

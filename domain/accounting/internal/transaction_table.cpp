@@ -66,6 +66,13 @@ void TransactionTable::put(TransactionNumber number, TransactionRecord record)
     m_numbers.insert(number);
 }
 
+void TransactionTable::append(TransactionNumber number, TransactionRecord record)
+{
+    count(record.amount.code());
+    m_chunks[chunkOf(number)]->records[slotOf(number)] = std::move(record);
+    m_numbers.append(number);
+}
+
 void TransactionTable::erase(TransactionNumber number)
 {
     detach(number);

@@ -3,6 +3,7 @@
 
 #include "accounting/account_number.h"
 #include "accounting/account_types.h"
+#include "accounting/internal/description.h"
 #include "accounting/internal/number_set.h"
 
 #include "numira/money.h"
@@ -35,7 +36,7 @@ struct TransactionRecord {
     AccountNumber debit;
     AccountNumber credit;
     numira::Money amount; ///< in the currency in which it was entered
-    std::optional<QString> description;
+    Description description;
     TransactionStatuses debitStatus = TransactionStatuses::None;
     TransactionStatuses creditStatus = TransactionStatuses::None;
     std::optional<TransactionNumber> refundOf;
@@ -121,6 +122,8 @@ public:
     void detach(TransactionNumber number);
     void put(TransactionNumber number, TransactionRecord record);
     void erase(TransactionNumber number);
+    /// Puts a record under a number above all in use. After detach() it cannot fail.
+    void append(TransactionNumber number, TransactionRecord record);
     /// The record for changing in place; it must be there.
     [[nodiscard]] TransactionRecord &change(TransactionNumber number);
 

@@ -21,6 +21,7 @@ using accounting::AccountCode;
 using accounting::AccountNumber;
 using accounting::AccountTypes;
 using accounting::LedgerReplay;
+using accounting::StoredTransaction;
 using accounting::Transaction;
 using accounting::TransactionNumber;
 using accounting::TransactionStatuses;
@@ -137,9 +138,11 @@ bool isItemsAccount(const AccountRow &account)
 /// the entered currency, or the account of a side was exchanged. So amounts in one
 /// currency could differ, which the ledger refuses. The accounts whose sides are
 /// made equal to the other amount go into `settled`.
-void settleSides(numira::Money &debit, numira::Money &credit, const Transaction &row,
-                 const AccountRows &accounts, std::set<AccountNumber> &settled)
+void settleSides(StoredTransaction &read, const AccountRows &accounts,
+                 std::set<AccountNumber> &settled)
 {
+    numira::Money debit = read.debitAmount.value_or(read.amount);
+    numira::Money credit = read.creditAmount.value_or(read.amount);
     const auto settle = [&](numira::Money &side, const numira::Money &other, AccountNumber number) {
         if (side.code() == other.code() && side != other) {
             side = other;
@@ -150,18 +153,18 @@ void settleSides(numira::Money &debit, numira::Money &credit, const Transaction 
         const auto account = accounts.find(number);
         return account != accounts.end() && isItemsAccount(account->second);
     };
-    const AccountNumber debited = row.debiting().number();
-    const AccountNumber credited = row.crediting().number();
-    if (isItems(debited))
-        settle(debit, row.amount(), debited);
-    if (isItems(credited))
-        settle(credit, row.amount(), credited);
-    if (debit.code() == row.amount().code())
-        return;
-    if (isItems(debited))
-        settle(debit, credit, debited);
-    else
-        settle(credit, debit, credited);
+    if (isItems(read.debit))
+        settle(debit, read.amount, read.debit);
+    if (isItems(read.credit))
+        settle(credit, read.amount, read.credit);
+    if (debit.code() != read.amount.code()) {
+        if (isItems(read.debit))
+            settle(debit, credit, read.debit);
+        else
+            settle(credit, debit, read.credit);
+    }
+    read.debitAmount = debit;
+    read.creditAmount = credit;
 }
 
 using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
@@ -185,32 +188,26 @@ public:
 
 private:
     /// With its sides as they were stored, or as they are mended.
-    [[nodiscard]] Transaction transaction()
+    [[nodiscard]] StoredTransaction transaction()
     {
         if (m_row.key() > transactionNumberMax)
             m_row.refuse("has a number that no transaction has");
-        const TransactionNumber number = toTransactionNumber(m_row.key());
-        const QDate date = m_row.date();
-        const AccountNumber debit = toAccountNumber(m_row.integer(1, accountNumberMax));
-        const AccountNumber credit = toAccountNumber(m_row.integer(1, accountNumberMax));
-        const numira::Money amount = m_row.money();
-        const auto debitAmount = m_row.optionalAmount([&] { return currencyOf(debit); });
-        const auto creditAmount = m_row.optionalAmount([&] { return currencyOf(credit); });
-        std::optional<QString> text = description();
-        const auto debitStatus = m_row.enumerator(TransactionStatuses::Reconciled);
-        const auto creditStatus = m_row.enumerator(TransactionStatuses::Reconciled);
+        StoredTransaction read;
+        read.number = toTransactionNumber(m_row.key());
+        read.day = m_row.date();
+        read.debit = toAccountNumber(m_row.integer(1, accountNumberMax));
+        read.credit = toAccountNumber(m_row.integer(1, accountNumberMax));
+        read.amount = m_row.money();
+        read.debitAmount = m_row.optionalAmount([&] { return currencyOf(read.debit); });
+        read.creditAmount = m_row.optionalAmount([&] { return currencyOf(read.credit); });
+        readDescription(read);
+        read.debitStatus = m_row.enumerator(TransactionStatuses::Reconciled);
+        read.creditStatus = m_row.enumerator(TransactionStatuses::Reconciled);
         if (const auto original = m_row.optionalInteger(1, transactionNumberMax))
-            m_refunds.emplace_back(number, toTransactionNumber(*original));
-
-        Transaction read(date, debit, credit, amount, std::move(text), number, debitStatus);
-        if (creditStatus != debitStatus)
-            read = read.withStatuses(debitStatus, creditStatus);
-        if (!debitAmount && !creditAmount)
-            return read;
-        numira::Money debited = debitAmount.value_or(amount);
-        numira::Money credited = creditAmount.value_or(amount);
-        settleSides(debited, credited, read, m_accounts, m_settled);
-        return read.withSideAmounts(debited, credited);
+            m_refunds.emplace_back(read.number, toTransactionNumber(*original));
+        if (read.debitAmount || read.creditAmount)
+            settleSides(read, m_accounts, m_settled);
+        return read;
     }
 
     [[nodiscard]] StoredCurrency currencyOf(AccountNumber number) const
@@ -221,15 +218,15 @@ private:
         return account->second.currency;
     }
 
-    [[nodiscard]] std::optional<QString> description()
+    void readDescription(StoredTransaction &read)
     {
-        SharedText shared = m_row.sharedText();
+        const SharedText shared = m_row.sharedText();
+        read.description = shared.text;
         if (!shared.sameAs)
-            return std::move(shared.text);
-        auto earlier = m_replay.descriptionOf(toTransactionNumber(*shared.sameAs));
-        if (!earlier)
+            return;
+        read.describedAs = toTransactionNumber(*shared.sameAs);
+        if (!m_replay.hasDescription(*read.describedAs))
             m_row.refuse("has the description of a transaction without one");
-        return earlier;
     }
 
     LedgerReplay &m_replay;

@@ -172,17 +172,6 @@ bool RowReader::next()
     return true;
 }
 
-std::int64_t RowReader::integer(std::int64_t min, std::int64_t max)
-{
-    return integerFrom(nextValue(), min, max);
-}
-
-std::optional<std::int64_t> RowReader::optionalInteger(std::int64_t min, std::int64_t max)
-{
-    sqlite3_value *stored = nextPresent();
-    return stored ? std::optional(integerFrom(stored, min, max)) : std::nullopt;
-}
-
 QString RowReader::text()
 {
     return textFrom(nextValue());
@@ -201,7 +190,11 @@ SharedText RowReader::sharedText()
         return {};
     if (sqlite3_value_type(stored) == SQLITE_INTEGER)
         return {std::nullopt, integerFrom(stored, 1, m_key - 1)};
-    return {textFrom(stored), std::nullopt};
+    const QByteArrayView bytes = bytesFrom(stored);
+    m_shared.resize(0);
+    if (!appendStoredText(m_shared, bytes))
+        refuse("has a malformed text");
+    return {QStringView(m_shared), std::nullopt};
 }
 
 QDate RowReader::date()
@@ -231,29 +224,6 @@ numira::Money RowReader::money()
     sqlite3_value *const amount = nextValue();
     const StoredCurrency &stored = currencyFrom(nextValue());
     return {stored.currency, decimalFrom(amount, stored.digits)};
-}
-
-sqlite3_value *RowReader::nextValue()
-{
-    // One call for a value instead of three. It is valid until the next step,
-    // because nothing else uses the connection.
-    return sqlite3_column_value(m_select.get(), m_column++);
-}
-
-sqlite3_value *RowReader::nextPresent()
-{
-    sqlite3_value *stored = nextValue();
-    return sqlite3_value_type(stored) == SQLITE_NULL ? nullptr : stored;
-}
-
-std::int64_t RowReader::integerFrom(sqlite3_value *stored, std::int64_t min, std::int64_t max) const
-{
-    if (sqlite3_value_type(stored) != SQLITE_INTEGER)
-        refuse("has something else than a number");
-    const std::int64_t value = sqlite3_value_int64(stored);
-    if (value < min || value > max)
-        refuse("has a number that means nothing");
-    return value;
 }
 
 QByteArrayView RowReader::bytesFrom(sqlite3_value *stored) const

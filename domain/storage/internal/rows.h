@@ -9,12 +9,12 @@
 #include <QtCore/QDate>
 #include <QtCore/QString>
 
+#include <sqlite3.h>
+
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
-
-struct sqlite3_value;
 
 namespace kiv::storage::internal {
 
@@ -59,7 +59,7 @@ private:
 
 /// A text, or the key of the earlier row that has the same one; or neither.
 struct SharedText {
-    std::optional<QString> text;
+    std::optional<QStringView> text; ///< valid until the next row
     std::optional<std::int64_t> sameAs;
 };
 
@@ -109,8 +109,15 @@ public:
     /// The key, which is the row's first value.
     [[nodiscard]] std::int64_t key() const noexcept { return m_key; }
 
-    [[nodiscard]] std::int64_t integer(std::int64_t min, std::int64_t max);
-    [[nodiscard]] std::optional<std::int64_t> optionalInteger(std::int64_t min, std::int64_t max);
+    [[nodiscard]] std::int64_t integer(std::int64_t min, std::int64_t max)
+    {
+        return integerFrom(nextValue(), min, max);
+    }
+    [[nodiscard]] std::optional<std::int64_t> optionalInteger(std::int64_t min, std::int64_t max)
+    {
+        sqlite3_value *const stored = nextPresent();
+        return stored ? std::optional(integerFrom(stored, min, max)) : std::nullopt;
+    }
     [[nodiscard]] bool boolean() { return integer(0, 1) != 0; }
     template <typename Enum>
     [[nodiscard]] Enum enumerator(Enum max)
@@ -141,18 +148,34 @@ public:
         return numira::Money(known.currency, decimalFrom(stored, known.digits));
     }
 
-    [[noreturn]] void refuse(const std::string &why) const
+    [[noreturn]] void refuse(const char *why) const
     {
         throw rowRefused(nameOf(m_table), m_key, why);
     }
 
 private:
-    // What these give is valid until the next step.
-    [[nodiscard]] sqlite3_value *nextValue();
+    // What these give is valid until the next step, because nothing else uses the
+    // connection. One call for a value instead of three.
+    [[nodiscard]] sqlite3_value *nextValue()
+    {
+        return sqlite3_column_value(m_select.get(), m_column++);
+    }
     /// Nothing when the value is null.
-    [[nodiscard]] sqlite3_value *nextPresent();
+    [[nodiscard]] sqlite3_value *nextPresent()
+    {
+        sqlite3_value *const stored = nextValue();
+        return sqlite3_value_type(stored) == SQLITE_NULL ? nullptr : stored;
+    }
     [[nodiscard]] std::int64_t integerFrom(sqlite3_value *stored, std::int64_t min,
-                                           std::int64_t max) const;
+                                           std::int64_t max) const
+    {
+        if (sqlite3_value_type(stored) != SQLITE_INTEGER)
+            refuse("has something else than a number");
+        const std::int64_t value = sqlite3_value_int64(stored);
+        if (value < min || value > max)
+            refuse("has a number that means nothing");
+        return value;
+    }
     [[nodiscard]] QByteArrayView bytesFrom(sqlite3_value *stored) const;
     [[nodiscard]] QString textFrom(sqlite3_value *stored) const;
     [[nodiscard]] numira::Decimal decimalFrom(sqlite3_value *stored, unsigned digits) const;
@@ -166,6 +189,7 @@ private:
     int m_column = 0;
     std::int64_t m_key = -1;
     qint64 m_rows = 0;
+    QString m_shared; ///< the last text of that kind
     QByteArray m_lastDateText;
     QDate m_lastDate;
     StoredCurrency m_coded; ///< the last one that stood there by its code

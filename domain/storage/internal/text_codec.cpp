@@ -64,13 +64,20 @@ QByteArray toStoredText(const QString &text)
 
 std::optional<QString> fromStoredText(QByteArrayView bytes)
 {
+    QString text;
+    return appendStoredText(text, bytes) ? std::optional(text) : std::nullopt;
+}
+
+bool appendStoredText(QString &text, QByteArrayView bytes)
+{
     const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-    if (std::ranges::all_of(bytes, isAscii))
-        return QString::fromLatin1(bytes);
-    QString text = decoded(bytes);
-    if (toStoredText(text) != bytes)
-        return std::nullopt;
-    return text;
+    if (std::ranges::all_of(bytes, isAscii)) {
+        text.append(QLatin1String(bytes));
+        return true;
+    }
+    const QString read = decoded(bytes);
+    text.append(read);
+    return toStoredText(read) == bytes;
 }
 
 } // namespace kiv::storage::internal

@@ -17,5 +17,8 @@ namespace kiv::storage::internal {
 /// QString's own conversion drops a leading byte-order mark and repairs malformed
 /// bytes.
 [[nodiscard]] std::optional<QString> fromStoredText(QByteArrayView bytes);
+/// Appends the text; false for bytes that no text is stored as, when anything may be
+/// appended.
+[[nodiscard]] bool appendStoredText(QString &text, QByteArrayView bytes);
 
 } // namespace kiv::storage::internal
