@@ -1,0 +1,115 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""read_budget.py FILE: prints what a budget file of either edition holds.
+
+Needs nothing but docs/file-format.md: it checks the checksum, then prints each table
+with amounts in decimal digits and days in ISO 8601.
+"""
+import hashlib
+import json
+import re
+import sqlite3
+import struct
+import sys
+from decimal import Decimal
+
+DAYS_BEFORE_CHRIST = 1721426  # the Julian day of 0001-01-01
+
+
+def opened(image):
+    database = sqlite3.connect(":memory:")
+    database.text_factory = lambda text: text.decode("utf-8", "surrogatepass")
+    database.deserialize(image)
+    return database
+
+
+def second_edition(data):
+    """The database and what the version tells about itself."""
+    magic, image, label, _ = struct.unpack(">8s3Q", data[-64:-32])
+    if (magic != b"kivbseal" or image + label + 64 != len(data)
+            or hashlib.sha256(data[:-32]).digest() != data[-32:]):
+        sys.exit("The checksum is wrong.")
+    return opened(data[:image]), json.loads(data[image:image + label])
+
+
+def first_edition(data):
+    database = opened(data)
+    dump = b"kiv-budget 1\n"
+    for table in names(database):
+        if table == "seal":
+            continue
+        dump += b"table " + table.encode() + b"\n"
+        for row in database.execute(f"SELECT * FROM {table} ORDER BY 1"):
+            for value in row:
+                text = str(value).encode("utf-8", "surrogatepass")
+                dump += (b"-" if value is None else b"i%b;" % text if isinstance(value, int)
+                         else b"t%d:%b" % (len(text), text))
+            dump += b"\n"
+    (digest,) = database.execute("SELECT sha256 FROM seal").fetchone()
+    if hashlib.sha256(dump).hexdigest() != digest:
+        sys.exit("The checksum is wrong.")
+    return database, None
+
+
+def names(database):
+    return [name for (name,) in database.execute("SELECT name FROM sqlite_schema ORDER BY rowid")]
+
+
+def day(number):
+    """ISO 8601, also before and after the years that datetime knows."""
+    # The algorithm of E. G. Richards for the Gregorian calendar; Qt's has no year 0.
+    shifted = number + 1401 + (4 * number + 274277) // 146097 * 3 // 4 - 38
+    cycle = 4 * shifted + 3
+    rest = 5 * (cycle % 1461 // 4) + 2
+    month = (rest // 153 + 2) % 12 + 1
+    year = cycle // 1461 - 4716 + (14 - month) // 12
+    year -= year <= 0
+    return f"{'-' if year < 0 else ''}{abs(year):04}-{month:02}-{rest % 153 // 5 + 1:02}"
+
+
+def rows(database, table):
+    """Each row as a dictionary of readable values."""
+    currencies = {}
+    if "currencies" in names(database):
+        currencies = {key: (code, digits) for key, code, digits
+                      in database.execute("SELECT * FROM currencies")}
+    accounts = dict(database.execute("SELECT number, currency FROM accounts"))
+    descriptions = {}
+    cursor = database.execute(f"SELECT * FROM {table} ORDER BY 1")
+    for values in cursor:
+        row = dict(zip((column[0] for column in cursor.description), values))
+        of = {"balance": "currency", "amount": "currency", "left_over": "left_over_currency",
+              "total": "total_currency", "expected": "expected_currency"}
+        key = {name: row.get(currency) for name, currency in of.items()}
+        key["debit_amount"] = accounts.get(row.get("debit"))
+        key["credit_amount"] = accounts.get(row.get("credit"))
+        for name, value in row.items():
+            if name in key and isinstance(value, int):
+                digits = currencies[key[name]][1]
+                row[name] = format((Decimal(value) / 10 ** digits).normalize(), "f")
+            elif name.endswith("currency") and isinstance(value, int):
+                row[name] = currencies[value][0]
+            elif re.fullmatch("(next_)?date|reconciled_on|day", name) and isinstance(value, int):
+                row[name] = day(value)
+        if table == "transactions":
+            if isinstance(row["description"], int):
+                row["description"] = descriptions[row["description"]]
+            descriptions[row["number"]] = row["description"]
+        yield row
+
+
+def main():
+    data = open(sys.argv[1], "rb").read()
+    if data[:16] != b"SQLite format 3\0" or data[68:72] != b"kivb":
+        sys.exit("This is no budget file.")
+    edition = struct.unpack(">I", data[60:64])[0]
+    database, label = {1: first_edition, 2: second_edition}[edition](data)
+    if label:
+        print("version", json.dumps(label), file=sys.stderr)
+    for table in names(database):
+        if table not in ("seal", "currencies"):
+            for row in rows(database, table):
+                print(table, json.dumps(row))
+
+
+main()
