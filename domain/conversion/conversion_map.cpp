@@ -31,9 +31,14 @@ bool isInRange(const numira::FloatingPoint &rate)
 
 } // namespace
 
+const char *wordOf(RateSource source) noexcept
+{
+    return source == RateSource::Typed ? "typed" : "fetched";
+}
+
 std::ostream &operator<<(std::ostream &out, RateSource source)
 {
-    return out << (source == RateSource::Typed ? "typed" : "fetched");
+    return out << wordOf(source);
 }
 
 ConversionMap::ConversionMap(const numira::Currency &base, const QDateTime &fetchedAt, Rates rates,

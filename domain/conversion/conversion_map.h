@@ -25,7 +25,8 @@ enum class RateSource : std::uint8_t {
     Typed = 2,   ///< the user
 };
 
-/// "fetched" or "typed".
+/// "fetched" or "typed", for files and programs.
+[[nodiscard]] KIV_CONVERSION_EXPORT const char *wordOf(RateSource source) noexcept;
 KIV_CONVERSION_EXPORT std::ostream &operator<<(std::ostream &out, RateSource source);
 
 /// Where a rate comes from, and its day in UTC.

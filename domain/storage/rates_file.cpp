@@ -68,9 +68,8 @@ QByteArray encode(const conversion::ConversionMap &rates)
     }
     for (const auto &[currency, rate] : rates.rates()) {
         const conversion::RateOrigin &origin = rates.origins().at(currency);
-        addLine(numira::toStdString(currency),
-                rate.str() + (origin.source == RateSource::Typed ? " typed " : " fetched ") +
-                    origin.day.toString(Qt::ISODate).toStdString());
+        addLine(numira::toStdString(currency), rate.str() + ' ' + wordOf(origin.source) + ' ' +
+                                                   origin.day.toString(Qt::ISODate).toStdString());
     }
     return text + digestWord.toByteArray() + digestOf(text) + '\n';
 }
@@ -116,7 +115,8 @@ conversion::ConversionMap decode(const QByteArray &text, const QString &path)
             origins.emplace(
                 numira::toCurrency(word),
                 conversion::RateOrigin{
-                    words.at(2) == "typed" ? RateSource::Typed : RateSource::Fetched,
+                    words.at(2) == wordOf(RateSource::Typed) ? RateSource::Typed
+                                                             : RateSource::Fetched,
                     QDate::fromString(QString::fromLatin1(words.value(3)), Qt::ISODate)});
         }
     }

@@ -54,8 +54,8 @@ QString rateText(const QJsonValue &rate)
 
 QString sourceText(const QJsonValue &source)
 {
-    return source.toString() == QStringLiteral("typed") ? QObject::tr("typed")
-                                                        : QObject::tr("fetched");
+    return source.toString() == QLatin1String(wordOf(RateSource::Typed)) ? QObject::tr("typed")
+                                                                         : QObject::tr("fetched");
 }
 
 QString codesOf(const std::set<numira::Currency> &currencies)
@@ -75,9 +75,7 @@ Report ratesReport(const ConversionMap &map)
             {QStringLiteral("currency"), foundation::toQString(currency)},
             {QStringLiteral("rate"), QString::fromStdString(rate.str(12, std::ios::fmtflags()))},
             {QStringLiteral("day"), origin.day.toString(Qt::ISODate)},
-            {QStringLiteral("source"), origin.source == RateSource::Typed
-                                           ? QStringLiteral("typed")
-                                           : QStringLiteral("fetched")}});
+            {QStringLiteral("source"), QLatin1String(wordOf(origin.source))}});
     }
     const QString base = map.isEmpty() ? QString() : foundation::toQString(map.base());
     const auto known = [&map](const QString &text) {
