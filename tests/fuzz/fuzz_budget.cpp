@@ -5,6 +5,7 @@
 // the checksum is made right again, so that what stands behind it is reached.
 // What is read must be written and read again as the same.
 #include "storage/image_surgery.h"
+#include "storage/internal/schema.h"
 #include "storage/random_budget.h"
 #include "storage/scratch_folder.h"
 
