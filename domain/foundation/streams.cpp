@@ -9,8 +9,8 @@ namespace kiv::foundation {
 namespace {
 
 struct CodePoints {
-    char32_t first;
-    char32_t last;
+    char16_t first;
+    char16_t last;
 };
 
 /// What a terminal or a line-wise reader obeys instead of showing it: control
@@ -27,10 +27,12 @@ constexpr std::array<CodePoints, 9> unsafe{{{0x0000, 0x001F},
                                             {0xD800, 0xDFFF},
                                             {0xFEFF, 0xFEFF}}};
 
-bool isUnsafe(char32_t code)
+bool isUnsafe(char16_t unit) noexcept
 {
-    return std::ranges::any_of(unsafe, [code](const CodePoints &range) {
-        return code >= range.first && code <= range.last;
+    if (unit >= u' ' && unit <= u'~') // nearly all
+        return false;
+    return std::ranges::any_of(unsafe, [unit](const CodePoints &range) {
+        return unit >= range.first && unit <= range.last;
     });
 }
 
@@ -38,6 +40,8 @@ bool isUnsafe(char32_t code)
 
 QString escaped(const QString &text)
 {
+    if (std::ranges::none_of(text, [](QChar unit) { return isUnsafe(unit.unicode()); }))
+        return text;
     QString result;
     result.reserve(text.size());
     for (qsizetype at = 0; at < text.size(); ++at) {

@@ -5,12 +5,15 @@
 #include "command_line/manual.h"
 #include "commands/commands.h"
 #include "messages/errors.h"
+#include "output/json_text.h"
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/words.h"
 #include "program/program.h"
 
 #include "workbench/entry/user_locale.h"
+
+#include <QtCore/QJsonDocument>
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
@@ -81,7 +84,7 @@ private slots:
     {
         const QString endless(1'000'000, u'x');
         const QString table =
-            app::tableText({}, {{{u"Rent"_s}, {u"1"_s}}, {{endless}, {u"2"_s}}}, app::Terminal());
+            tableText({}, {{u"Rent"_s}, {u"1"_s}, {endless}, {u"2"_s}}, 2, app::Terminal());
         QVERIFY(table.indexOf(u'\n') < 300);
         QVERIFY(table.endsWith(endless + u"  2\n"_s));
     }
@@ -102,6 +105,21 @@ private slots:
         QCOMPARE(terminal(40).red(u"x"_s), u"x"_s);
     }
 
+    void jsonIsLaidOutAsQtDoes()
+    {
+        const QJsonObject value{
+            {u"a \"\\\b\f\n\r\t\u0001 é 食 😀"_s, QJsonArray{}},
+            {u"b"_s, QJsonArray{0.1, 1e300, -5, qint64{9007199254740993}, true}},
+            {u"c"_s, QJsonObject{{u"d"_s, QJsonObject()}, {u"e"_s, QJsonValue()}}}};
+        QByteArray text;
+        app::JsonText json(app::JsonText::Layout::Indented,
+                           [&text](const QByteArray &block) { text += block; });
+        json.add(value, u"bb"_s, QJsonArray{value, value}).finish();
+        QJsonObject whole = value;
+        whole.insert(u"bb"_s, QJsonArray{value, value});
+        QCOMPARE(text, QJsonDocument(whole).toJson());
+    }
+
     /// The widest of what is no number is, and none to less than can be read.
     void tablesAreCutToTheTerminal()
     {
@@ -111,9 +129,9 @@ private slots:
              {std::pair(29, "Name      Longest        Much\nChecking  A description  1.00\n"),
               {26, "Name      Longest     Much\nChecking  A descrip…  1.00\n"},
               {10, "Name  Lon…  Much\nChe…  A d…  1.00\n"}}) {
-            QCOMPARE(app::tableText({u"Name"_s, u"Longest"_s, u"Much"_s},
-                                    {{{u"Checking"_s}, {u"A description"_s}, {u"1.00"_s, true}}},
-                                    terminal(columns)),
+            QCOMPARE(tableText({u"Name"_s, u"Longest"_s, u"Much"_s},
+                               {{u"Checking"_s}, {u"A description"_s}, {u"1.00"_s, true}}, 3,
+                               terminal(columns)),
                      QString::fromUtf8(cut));
         }
     }
@@ -184,6 +202,16 @@ private slots:
 
 private:
     /// What is found when standard output is a terminal of so many columns.
+    static QString tableText(const QStringList &titles, const std::vector<app::Cell> &cells,
+                             std::size_t columns, const app::Terminal &terminal)
+    {
+        app::Table table(titles, columns);
+        for (const app::Cell &cell : cells)
+            table.add(cell);
+        QString text;
+        table.write(terminal, [&text](const QByteArray &line) { text += QString::fromUtf8(line); });
+        return text;
+    }
     static app::Terminal terminal(int columns)
     {
         std::fflush(stdout);

@@ -12,6 +12,8 @@ namespace kiv::app {
 using accounting::Account;
 using accounting::AccountCode;
 using accounting::AccountNumber;
+using accounting::Transaction;
+using accounting::TransactionNumber;
 using navigation::Navigator;
 
 namespace {
@@ -46,11 +48,11 @@ struct ListAccounts {
         QJsonArray rows;
         for (const auto &[path, account] : byPath)
             rows.append(toJson(*account, index));
-        return Report(rows).table({{QObject::tr("Number"), QStringLiteral("number")},
-                                   {QObject::tr("Account"), QStringLiteral("path")},
-                                   {QObject::tr("Balance"), QStringLiteral("balance")},
-                                   {QString(), QStringLiteral("open"), openWord}},
-                                  rows, QObject::tr("There are no accounts."));
+        return Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
+                                {QObject::tr("Account"), QStringLiteral("path")},
+                                {QObject::tr("Balance"), QStringLiteral("balance")},
+                                {QString(), QStringLiteral("open"), openWord}},
+                               rows, QObject::tr("There are no accounts."));
     }
 };
 
@@ -68,14 +70,14 @@ struct ShowLedger {
 
     Report run(Call &call) const
     {
-        const AccountIndex index = call.requests.accounts();
-        const auto ledger = std::get<accounting::LedgerAccount>(call.requests.ask(
+        AccountIndex index = call.requests.accounts();
+        auto ledger = std::get<accounting::LedgerAccount>(call.requests.ask(
             &Navigator::showLedger, &Navigator::onSelectedLedger, index.find(account).code()));
-        const QJsonArray rows = lines(ledger, index);
-        const QJsonObject head = toJson(ledger, index);
-        return Report(QJsonObject{{QStringLiteral("account"), head},
-                                  {QStringLiteral("transactions"), rows}})
-            .heading(accounting::presentationText(ledger.code()))
+        const QString heading = accounting::presentationText(ledger.code());
+        QJsonObject data{{QStringLiteral("account"), toJson(ledger, index)}};
+        const Rows rows = rowsOf(std::move(ledger), std::move(index));
+        return Report(std::move(data), QStringLiteral("transactions"), rows)
+            .heading(heading)
             .table({{QObject::tr("Number"), QStringLiteral("number")},
                     {QObject::tr("Date"), QStringLiteral("date"), dayText},
                     {QObject::tr("Description"), QStringLiteral("description")},
@@ -87,37 +89,59 @@ struct ShowLedger {
     }
 
 private:
-    /// The account's transactions by day, with the balance after each.
-    [[nodiscard]] QJsonArray lines(const accounting::LedgerAccount &ledger,
-                                   const AccountIndex &index) const
-    {
-        std::vector<accounting::Transaction> transactions;
-        for (const accounting::Transaction &transaction : ledger.transactions())
-            transactions.push_back(transaction);
-        std::ranges::stable_sort(transactions, {}, [](const accounting::Transaction &transaction) {
-            return transaction.occurredOn().toJulianDay();
-        });
-        const AccountNumber number = ledger.code().number();
-        numira::Money balance(ledger.balance().code());
-        QJsonArray rows;
-        for (const accounting::Transaction &transaction : transactions) {
-            const bool isDebited = transaction.debiting().number() == number;
-            const numira::Money &amount = transaction.amountFor(number);
-            const numira::Money change =
-                isDebited == accounting::isDebitNormal(ledger.type()) ? amount : -amount;
-            balance += change;
-            if ((from && transaction.occurredOn() < *from) ||
-                (to && transaction.occurredOn() > *to))
-                continue;
-            const AccountCode &other = isDebited ? transaction.crediting() : transaction.debiting();
+    /// A transaction of the account, and the balance after it.
+    struct Entry {
+        TransactionNumber number;
+        numira::Money balance;
+    };
+    struct Lines {
+        accounting::LedgerAccount ledger;
+        AccountIndex index;
+        std::vector<Entry> entries;
+
+        [[nodiscard]] QJsonObject row(const Entry &entry) const
+        {
+            const Transaction transaction = ledger.transactions().find(entry.number).value();
+            const AccountNumber number = ledger.code().number();
+            const AccountCode &other = transaction.debiting().number() == number
+                                           ? transaction.crediting()
+                                           : transaction.debiting();
             QJsonObject row = toJson(transaction);
-            row.insert(QStringLiteral("change"), toJson(change));
-            row.insert(QStringLiteral("balance"), toJson(balance));
+            row.insert(QStringLiteral("change"), toJson(changeBy(transaction, ledger)));
+            row.insert(QStringLiteral("balance"), toJson(entry.balance));
             row.insert(QStringLiteral("status"), accounting::toQString(transaction.status()));
             row.insert(QStringLiteral("otherPath"), index.path(other.number()));
-            rows.append(row);
+            return row;
         }
-        return rows;
+    };
+
+    static numira::Money changeBy(const Transaction &transaction, const Account &account)
+    {
+        const AccountNumber number = account.code().number();
+        const bool isDebited = transaction.debiting().number() == number;
+        const numira::Money &amount = transaction.amountFor(number);
+        return isDebited == accounting::isDebitNormal(account.type()) ? amount : -amount;
+    }
+
+    /// The account's transactions by day, with the balance after each.
+    [[nodiscard]] Rows rowsOf(accounting::LedgerAccount ledger, AccountIndex index) const
+    {
+        std::vector<std::pair<QDate, TransactionNumber>> byDay;
+        for (const Transaction &transaction : ledger.transactions())
+            byDay.emplace_back(transaction.occurredOn(), transaction.number().value());
+        std::ranges::sort(byDay);
+        std::vector<Entry> entries;
+        numira::Money balance(ledger.balance().code());
+        for (const auto &[day, number] : byDay) {
+            balance += changeBy(ledger.transactions().find(number).value(), ledger);
+            if (!(from && day < *from) && !(to && day > *to))
+                entries.push_back({number, balance});
+        }
+        const auto lines =
+            std::make_shared<const Lines>(std::move(ledger), std::move(index), std::move(entries));
+        return {static_cast<qsizetype>(lines->entries.size()), [lines](qsizetype at) {
+                    return lines->row(lines->entries[static_cast<std::size_t>(at)]);
+                }};
     }
 };
 

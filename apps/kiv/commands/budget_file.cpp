@@ -54,21 +54,17 @@ struct SaveAs {
     }
 };
 
-/// Sums up one side of all transactions, account by account, for each currency.
-QJsonArray sideTotals(const AccountIndex &index, bool isDebit)
+QJsonArray totals(const std::vector<accounting::Transaction> &transactions,
+                  const numira::Money &(accounting::Transaction::*side)() const noexcept)
 {
-    std::map<numira::Currency, numira::Money> totals;
-    for (const accounting::Account &account : index.accounts()) {
-        const accounting::AccountNumber number = account.code().number();
-        for (const accounting::Transaction &transaction : account.transactions()) {
-            const auto &side = isDebit ? transaction.debiting() : transaction.crediting();
-            if (side.number() == number)
-                totals[account.balance().code()] += transaction.amountFor(number);
-        }
+    std::map<numira::Currency, numira::Money> sums;
+    for (const accounting::Transaction &transaction : transactions) {
+        const numira::Money &amount = std::invoke(side, transaction);
+        sums[amount.code()] += amount;
     }
     QJsonArray json;
-    for (const auto &[currency, total] : totals)
-        json.append(toJson(total));
+    for (const auto &[currency, sum] : sums)
+        json.append(toJson(sum));
     return json;
 }
 
@@ -77,6 +73,7 @@ struct Info {
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
+        const std::vector<accounting::Transaction> transactions = call.requests.transactions();
         const budgeting::Budget budget = BudgetView(call.requests).budget();
         QJsonObject items;
         budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
@@ -86,12 +83,13 @@ struct Info {
         QJsonObject json = fileJson(call.document);
         json.insert(QStringLiteral("bytes"), QFileInfo(call.document.file()).size());
         json.insert(QStringLiteral("accounts"), static_cast<qint64>(index.accounts().size()));
-        json.insert(QStringLiteral("transactions"),
-                    static_cast<qint64>(call.requests.transactions().size()));
+        json.insert(QStringLiteral("transactions"), static_cast<qint64>(transactions.size()));
         json.insert(QStringLiteral("banks"), static_cast<qint64>(call.requests.banks().size()));
         json.insert(QStringLiteral("items"), items);
-        json.insert(QStringLiteral("debits"), sideTotals(index, true));
-        json.insert(QStringLiteral("credits"), sideTotals(index, false));
+        json.insert(QStringLiteral("debits"),
+                    totals(transactions, &accounting::Transaction::debitAmount));
+        json.insert(QStringLiteral("credits"),
+                    totals(transactions, &accounting::Transaction::creditAmount));
 
         const auto amounts = [displayAs = call.document.displayAs()](const QJsonValue &value) {
             return amountsText(value.toArray(), displayAs);

@@ -74,13 +74,12 @@ struct ListDue {
                 return QObject::tr("in %n days", nullptr, static_cast<int>(days));
             return days == 0 ? QObject::tr("today") : QObject::tr("tomorrow");
         };
-        return Report(QJsonValue(rows))
-            .table({{QObject::tr("Due"), QStringLiteral("due"), dayText},
-                    {QObject::tr("Item"), QStringLiteral("name")},
-                    {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
-                    {QObject::tr("Amount"), QStringLiteral("amount")},
-                    {QObject::tr("When"), QStringLiteral("inDays"), when}},
-                   rows, QObject::tr("Nothing is due."));
+        return Report::listing({{QObject::tr("Due"), QStringLiteral("due"), dayText},
+                                {QObject::tr("Item"), QStringLiteral("name")},
+                                {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
+                                {QObject::tr("Amount"), QStringLiteral("amount")},
+                                {QObject::tr("When"), QStringLiteral("inDays"), when}},
+                               rows, QObject::tr("Nothing is due."));
     }
 };
 

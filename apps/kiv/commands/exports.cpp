@@ -27,8 +27,7 @@ void readValue(const QString &text, ExportFormat &value)
 
 /// The form that docs/import-export.md describes. Keys can be added under the same
 /// version, but their meanings do not change.
-QJsonObject everything(Requests &requests, const AccountIndex &index,
-                       const std::vector<accounting::Transaction> &transactions)
+Report everything(Requests &requests, const AccountIndex &index)
 {
     QJsonArray accounts;
     for (const accounting::Account &account : index.accounts())
@@ -40,15 +39,17 @@ QJsonObject everything(Requests &requests, const AccountIndex &index,
     const BudgetView view(requests);
     view.budget().forEach(
         [&](const budgeting::BudgetedMoney &item) { items.append(toJson(item, view)); });
-    QJsonArray posted;
-    for (const accounting::Transaction &transaction : transactions)
-        posted.append(toJson(transaction));
-    return {{QStringLiteral("format"), QStringLiteral("kiv-export")},
-            {QStringLiteral("version"), 1},
-            {QStringLiteral("accounts"), accounts},
-            {QStringLiteral("banks"), banks},
-            {QStringLiteral("items"), items},
-            {QStringLiteral("transactions"), posted}};
+    const auto posted =
+        std::make_shared<const std::vector<accounting::Transaction>>(requests.transactions());
+    return {QJsonObject{{QStringLiteral("format"), QStringLiteral("kiv-export")},
+                        {QStringLiteral("version"), 1},
+                        {QStringLiteral("accounts"), accounts},
+                        {QStringLiteral("banks"), banks},
+                        {QStringLiteral("items"), items}},
+            QStringLiteral("transactions"),
+            Rows(static_cast<qsizetype>(posted->size()), [posted](qsizetype at) {
+                return toJson((*posted)[static_cast<std::size_t>(at)]);
+            })};
 }
 
 struct Export {
@@ -63,13 +64,12 @@ struct Export {
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
+        if (format == ExportFormat::Json || call.options.isJson)
+            return everything(call.requests, index).setAlwaysJson();
         const std::vector<accounting::Transaction> transactions = call.requests.transactions();
         if (format == ExportFormat::Csv)
             return Report().raw(interchange::writeCsv(index.accounts(), transactions));
-        if (format == ExportFormat::Journal && !call.options.isJson)
-            return Report().raw(interchange::writeJournal(index.accounts(), transactions));
-        const Report report{QJsonValue(everything(call.requests, index, transactions))};
-        return Report().raw(report.toJson());
+        return Report().raw(interchange::writeJournal(index.accounts(), transactions));
     }
 };
 

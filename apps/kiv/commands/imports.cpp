@@ -90,35 +90,44 @@ private:
         return keepsDuplicates ? Post : Skip;
     }
 
-    [[nodiscard]] static Report report(Call &call, const PostedImport &import)
+    [[nodiscard]] static Rows rowsOf(std::vector<workbench::ImportedTransaction> transactions,
+                                     AccountIndex accounts)
+    {
+        const auto all = std::make_shared<const std::vector<workbench::ImportedTransaction>>(
+            std::move(transactions));
+        const auto index = std::make_shared<const AccountIndex>(std::move(accounts));
+        return {std::ssize(*all), [all, index](qsizetype at) {
+                    const auto &[transaction, place, isSkipped] =
+                        (*all)[static_cast<std::size_t>(at)];
+                    QJsonObject row = withPaths(toJson(transaction), *index);
+                    row.remove(QStringLiteral("number"));
+                    row.insert(QStringLiteral("line"), qint64{place.line});
+                    row.insert(QStringLiteral("duplicate"), isSkipped);
+                    return row;
+                }};
+    }
+
+    [[nodiscard]] static Report report(Call &call, PostedImport import)
     {
         const AccountIndex index = call.requests.accounts();
-        QJsonArray rows;
-        for (const auto &[transaction, place, isSkipped] : import.transactions) {
-            QJsonObject row = toJson(transaction);
-            row.remove(QStringLiteral("number"));
-            row.insert(QStringLiteral("debitPath"), index.path(transaction.debiting().number()));
-            row.insert(QStringLiteral("creditPath"), index.path(transaction.crediting().number()));
-            row.insert(QStringLiteral("line"), qint64{place.line});
-            row.insert(QStringLiteral("duplicate"), isSkipped);
-            rows.append(row);
-        }
         QJsonArray accounts;
         for (const accounting::Account &account : import.opened)
             accounts.append(toJson(account, index));
         const qint64 posted = import.posted();
         const qint64 skipped = import.skipped();
+        const bool hasChanges = import.hasChanges();
+        const Rows rows = rowsOf(std::move(import.transactions), call.requests.accounts());
         Report report(
             QJsonObject{{QStringLiteral("accounts"), accounts},
-                        {QStringLiteral("transactions"), rows},
                         {QStringLiteral("posted"), posted},
                         {QStringLiteral("duplicates"), skipped},
-                        {QStringLiteral("notices"), QJsonArray::fromStringList(import.notices)}});
+                        {QStringLiteral("notices"), QJsonArray::fromStringList(import.notices)}},
+            QStringLiteral("transactions"), rows);
         if (call.options.isDryRun)
             preview(report, accounts, rows);
         for (const QString &notice : import.notices)
             report.line(notice);
-        if (!import.hasChanges())
+        if (!hasChanges)
             report.setUnchanged();
         return report.line(
             QObject::tr("Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.")
@@ -126,7 +135,7 @@ private:
                      QString::number(import.opened.size())));
     }
 
-    static void preview(Report &report, const QJsonArray &accounts, const QJsonArray &rows)
+    static void preview(Report &report, const QJsonArray &accounts, const Rows &rows)
     {
         if (!accounts.isEmpty())
             report.table({{QObject::tr("Number"), QStringLiteral("number")},

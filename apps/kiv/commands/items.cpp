@@ -221,8 +221,7 @@ struct ListItems {
         if constexpr (budgeting::BankTiedItem<Item>)
             columns.push_back({QObject::tr("Bank"), QStringLiteral("bank")});
         columns.push_back({QObject::tr("Tags"), QStringLiteral("tags")});
-        return Report(QJsonValue(rows))
-            .table(columns, rows, QObject::tr("There are no budget items."));
+        return Report::listing(columns, rows, QObject::tr("There are no budget items."));
     }
 };
 

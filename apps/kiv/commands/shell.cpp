@@ -4,13 +4,13 @@
 
 #include "command_line/candidates.h"
 #include "messages/exit_status.h"
+#include "output/json_text.h"
 #include "output/signal_watch.h"
 #include "parsing/words.h"
 #include "program/line_reader.h"
 #include "program/program.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QJsonDocument>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QStandardPaths>
 
@@ -109,8 +109,10 @@ struct Watch {
         program.keepBudget();
         program.setSilent();
         const SignalWatch watch(call.requests.navigator(), [&program](const QJsonObject &signal) {
-            program.terminal().write(
-                safeJson(QJsonDocument(signal).toJson(QJsonDocument::Compact)) + '\n');
+            const auto write = [&program](const QByteArray &line) {
+                program.terminal().write(line);
+            };
+            JsonText(JsonText::Layout::OneLine, write).add(signal).finish();
         });
         openNamed(call);
 

@@ -171,7 +171,7 @@ struct RunSurvey {
     {
         SurveyForm form = which.propose(call);
         const Terminal &terminal = call.program.terminal();
-        terminal.write(formReport(call.requests, form).toText(terminal, call.document.displayAs()));
+        formReport(call.requests, form).writeText(terminal, call.document.displayAs());
         Dialogue dialogue;
 
         const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});

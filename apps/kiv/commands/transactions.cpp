@@ -11,7 +11,6 @@
 
 namespace kiv::app {
 
-using accounting::AccountNumber;
 using accounting::Transaction;
 using accounting::TransactionNumber;
 using navigation::Navigator;
@@ -23,16 +22,6 @@ QString textOf(TransactionNumber number)
     return accounting::presentationText(number);
 }
 
-/// Adds the paths of both accounts, for people.
-QJsonObject withPaths(QJsonObject json, const AccountIndex &index)
-{
-    for (const QString &side : {QStringLiteral("debit"), QStringLiteral("credit")}) {
-        const AccountNumber number(static_cast<std::uint32_t>(json.value(side).toInteger()));
-        json.insert(side + QStringLiteral("Path"), index.path(number));
-    }
-    return json;
-}
-
 std::vector<Column> transactionColumns()
 {
     return {{QObject::tr("Number"), QStringLiteral("number")},
@@ -41,6 +30,23 @@ std::vector<Column> transactionColumns()
             {QObject::tr("Debit"), QStringLiteral("debitPath")},
             {QObject::tr("Credit"), QStringLiteral("creditPath")},
             {QObject::tr("Amount"), QStringLiteral("amount")}};
+}
+
+/// A table of the transactions with the paths of their accounts.
+Report listing(std::vector<Transaction> transactions, AccountIndex index, const QString &whenNone)
+{
+    const auto size = static_cast<qsizetype>(transactions.size());
+    const auto shared =
+        std::make_shared<std::pair<const std::vector<Transaction>, const AccountIndex>>(
+            std::move(transactions), std::move(index));
+    return Report::listing(transactionColumns(),
+                           Rows(size,
+                                [shared](qsizetype at) {
+                                    const auto &[all, accounts] = *shared;
+                                    return withPaths(toJson(all[static_cast<std::size_t>(at)]),
+                                                     accounts);
+                                }),
+                           whenNone);
 }
 
 Report transactionReport(Requests &requests, TransactionNumber number, const QString &sentence)
@@ -59,15 +65,13 @@ struct ListTransactions {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.requests.accounts();
-        QJsonArray rows;
-        for (const Transaction &transaction : call.requests.transactions()) {
+        std::vector<Transaction> transactions = call.requests.transactions();
+        std::erase_if(transactions, [this](const Transaction &transaction) {
             const QDate date = transaction.occurredOn();
-            if (!(from && date < *from) && !(to && date > *to))
-                rows.append(withPaths(toJson(transaction), index));
-        }
-        return Report(QJsonValue(rows))
-            .table(transactionColumns(), rows, QObject::tr("There are no transactions."));
+            return (from && date < *from) || (to && date > *to);
+        });
+        return listing(std::move(transactions), call.requests.accounts(),
+                       QObject::tr("There are no transactions."));
     }
 };
 
@@ -234,17 +238,13 @@ struct ListRefundable {
     }
     Report run(Call &call) const
     {
-        const AccountIndex index = call.requests.accounts();
         const BudgetView view(call.requests);
         const auto answer = call.requests.ask(&Navigator::lookedUpRefundableTransactions,
                                               &Navigator::onLookUpRefundableTransactions,
                                               identify(view.find(name, kind)));
-        QJsonArray rows;
-        for (const Transaction &transaction : std::get<std::set<Transaction>>(answer))
-            rows.append(withPaths(toJson(transaction), index));
-        return Report(QJsonValue(rows))
-            .table(transactionColumns(), rows,
-                   QObject::tr("There are no refundable transactions."));
+        const auto &refundable = std::get<std::set<Transaction>>(answer);
+        return listing({refundable.begin(), refundable.end()}, call.requests.accounts(),
+                       QObject::tr("There are no refundable transactions."));
     }
 };
 

@@ -71,10 +71,10 @@ struct Undo {
         const QString file = call.document.file();
         const storage::BudgetStorage::Data present = workbench::versionOf(file, 0).data();
         const workbench::Version former = workbench::versionOf(file, to.value);
-        const QJsonArray changes = app::toJson(workbench::changesBetween(present, former.data()));
+        const Rows changes = rowsOf(workbench::changesBetween(present, former.data()));
         call.document.recall(former.data());
-        Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)},
-                                  {QStringLiteral("changes"), changes}});
+        Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)}},
+                      QStringLiteral("changes"), changes);
         report.line(
             QObject::tr("Restored the version saved at %1.").arg(localTime(former.found.savedAt)));
         tabulate(report, changes, QObject::tr("Both versions are the same."), shownMax);
@@ -129,9 +129,8 @@ struct Differences {
         const QString file = Document::withExtension(call.fileNamed());
         const workbench::Version before = workbench::versionOf(file, from.value);
         const workbench::Version after = workbench::versionOf(file, to.value);
-        const QJsonArray changes =
-            app::toJson(workbench::changesBetween(before.data(), after.data()));
-        Report report{QJsonValue(changes)};
+        const Rows changes = rowsOf(workbench::changesBetween(before.data(), after.data()));
+        Report report(changes);
         tabulate(report, changes, QObject::tr("Both versions are the same."));
         return report;
     }

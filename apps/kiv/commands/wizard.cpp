@@ -56,12 +56,11 @@ QJsonArray itemsJson(Requests &requests)
 
 Report itemsReport(const QJsonArray &rows)
 {
-    return Report(QJsonValue(rows))
-        .table({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
-                {QObject::tr("Name"), QStringLiteral("name")},
-                {QObject::tr("Every"), QStringLiteral("every"), wordText},
-                {QObject::tr("Next"), QStringLiteral("next"), dayText}},
-               rows, QObject::tr("There are no budget items."));
+    return Report::listing({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
+                            {QObject::tr("Name"), QStringLiteral("name")},
+                            {QObject::tr("Every"), QStringLiteral("every"), wordText},
+                            {QObject::tr("Next"), QStringLiteral("next"), dayText}},
+                           rows, QObject::tr("There are no budget items."));
 }
 
 struct Wizard {
@@ -114,10 +113,9 @@ struct ListTemplates {
                 QJsonObject{{QStringLiteral("template"), QLatin1String(known.word)},
                             {QStringLiteral("household"), QString::fromStdString(text.str())}});
         }
-        return Report(QJsonValue(rows))
-            .table({{QObject::tr("Template"), QStringLiteral("template")},
-                    {QObject::tr("Household"), QStringLiteral("household"), wordText}},
-                   rows, {});
+        return Report::listing({{QObject::tr("Template"), QStringLiteral("template")},
+                                {QObject::tr("Household"), QStringLiteral("household"), wordText}},
+                               rows, {});
     }
 };
 

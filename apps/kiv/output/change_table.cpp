@@ -168,30 +168,27 @@ QString nameOf(const QJsonObject &change)
 
 } // namespace
 
-QJsonArray toJson(const std::vector<Change> &changes)
+Rows rowsOf(std::vector<Change> changes)
 {
-    QJsonArray rows;
-    for (const Change &change : changes) {
-        rows.append(QJsonObject{{QStringLiteral("what"), whatOf(change)},
-                                {QStringLiteral("name"), change.name},
-                                {QStringLiteral("change"), howOf(change)},
-                                {QStringLiteral("before"), json(change.before)},
-                                {QStringLiteral("after"), json(change.after)}});
-    }
-    return rows;
+    const auto all = std::make_shared<const std::vector<Change>>(std::move(changes));
+    return {static_cast<qsizetype>(all->size()), [all](qsizetype at) {
+                const Change &change = (*all)[static_cast<std::size_t>(at)];
+                return QJsonObject{{QStringLiteral("what"), whatOf(change)},
+                                   {QStringLiteral("name"), change.name},
+                                   {QStringLiteral("change"), howOf(change)},
+                                   {QStringLiteral("before"), json(change.before)},
+                                   {QStringLiteral("after"), json(change.after)}};
+            }};
 }
 
-void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone, qsizetype rowsMax)
+void tabulate(Report &report, const Rows &changes, const QString &whenNone, qsizetype rowsMax)
 {
-    QJsonArray rows;
-    for (const QJsonValue change : changes) {
-        if (rows.size() == rowsMax)
-            break;
-        QJsonObject row = change.toObject();
+    const Rows rows(std::min(changes.size(), rowsMax), [changes](qsizetype at) {
+        QJsonObject row = changes[at].toObject();
         row.insert(QStringLiteral("detail"), detailOf(row));
         row.insert(QStringLiteral("name"), nameOf(row));
-        rows.append(row);
-    }
+        return row;
+    });
     report.table({{QObject::tr("What"), QStringLiteral("what"), wordText},
                   {QObject::tr("Name"), QStringLiteral("name")},
                   {QObject::tr("Change"), QStringLiteral("change"), wordText},

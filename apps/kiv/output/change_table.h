@@ -11,11 +11,11 @@ namespace kiv::app {
 
 /// One object {what, name, change, before, after} for each change. `before` and `after`
 /// are the whole item, account and so on, or null.
-[[nodiscard]] QJsonArray toJson(const std::vector<workbench::Change> &changes);
+[[nodiscard]] Rows rowsOf(std::vector<workbench::Change> changes);
 
 /// Adds the changes as a table of at most `rowsMax` rows, and says how many are not
 /// shown.
-void tabulate(Report &report, const QJsonArray &changes, const QString &whenNone,
+void tabulate(Report &report, const Rows &changes, const QString &whenNone,
               qsizetype rowsMax = std::numeric_limits<qsizetype>::max());
 
 } // namespace kiv::app

@@ -78,6 +78,15 @@ QJsonObject toJson(const accounting::Transaction &transaction)
     return json;
 }
 
+QJsonObject withPaths(QJsonObject transaction, const AccountIndex &index)
+{
+    for (const QString &side : {QStringLiteral("debit"), QStringLiteral("credit")}) {
+        const AccountNumber number(static_cast<std::uint32_t>(transaction.value(side).toInteger()));
+        transaction.insert(side + QStringLiteral("Path"), index.path(number));
+    }
+    return transaction;
+}
+
 QJsonObject toJson(const budgeting::BudgetedMoney &item)
 {
     QJsonObject json{{QStringLiteral("kind"), kindWord(budgeting::toBudgetItemTypes(item))},

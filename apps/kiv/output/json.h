@@ -31,6 +31,9 @@ namespace kiv::app {
 /// debitAmount and creditAmount if a side is in another currency, and refundOf for a
 /// refund.
 [[nodiscard]] QJsonObject toJson(const accounting::Transaction &transaction);
+/// The JSON form of a transaction with the paths of its accounts as debitPath and
+/// creditPath, for people.
+[[nodiscard]] QJsonObject withPaths(QJsonObject transaction, const workbench::AccountIndex &index);
 /// {kind, name, amount, every, next}; with borrowed for a debt and target for a goal.
 [[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item);
 /// The same with the item's tags, and with bank and bankAccount (a number) if it is

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/report.h"
 
+#include "output/json_text.h"
 #include "output/table.h"
 
 #include "workbench/entry/kind_words.h"
@@ -10,7 +11,6 @@
 #include "foundation/streams.h"
 #include "numira/error.h"
 
-#include <QtCore/QJsonDocument>
 #include <QtCore/QObject>
 
 namespace kiv::app {
@@ -42,22 +42,22 @@ Cell cellOf(const Column &column, const QJsonObject &row,
     return cell;
 }
 
-} // namespace
-
-QByteArray safeJson(const QByteArray &json)
+Table tableOf(const std::vector<Column> &columns, const Rows &rows,
+              navigation::CurrencyDisplayOptions displayAs)
 {
-    const QString text = QString::fromUtf8(json);
-    QString safe;
-    safe.reserve(text.size());
-    for (const QChar unit : text) {
-        // Qt escapes the characters below U+0020 itself.
-        const bool isPlain =
-            unit.unicode() < 0x7F || unit.isSurrogate() || foundation::escaped(unit) == unit;
-        safe += isPlain ? QString(unit)
-                        : QStringLiteral("\\u%1").arg(ushort{unit.unicode()}, 4, 16, QChar(u'0'));
+    QStringList titles;
+    for (const Column &column : columns)
+        titles += column.title;
+    Table table(titles, columns.size());
+    for (qsizetype at = 0; at < rows.size(); ++at) {
+        const QJsonObject row = rows[at].toObject();
+        for (const Column &column : columns)
+            table.add(cellOf(column, row, displayAs));
     }
-    return safe.toUtf8();
+    return table;
 }
+
+} // namespace
 
 QString amountText(const QJsonValue &value, navigation::CurrencyDisplayOptions displayAs)
 {
@@ -119,7 +119,14 @@ Report &Report::heading(const QString &text)
     return *this;
 }
 
-Report &Report::table(std::vector<Column> columns, const QJsonArray &rows, const QString &whenEmpty)
+Report Report::listing(std::vector<Column> columns, const Rows &rows, const QString &whenEmpty)
+{
+    Report report(rows);
+    report.table(std::move(columns), rows, whenEmpty);
+    return report;
+}
+
+Report &Report::table(std::vector<Column> columns, const Rows &rows, const QString &whenEmpty)
 {
     m_blocks.emplace_back(Table{std::move(columns), rows, whenEmpty});
     return *this;
@@ -127,7 +134,7 @@ Report &Report::table(std::vector<Column> columns, const QJsonArray &rows, const
 
 Report &Report::list(std::vector<Column> columns, const QJsonObject &values)
 {
-    m_blocks.emplace_back(List{std::move(columns), values});
+    m_blocks.emplace_back(ValueList{std::move(columns), values});
     return *this;
 }
 
@@ -137,51 +144,51 @@ Report &Report::raw(const QByteArray &document)
     return *this;
 }
 
-QByteArray Report::toJson() const
+void Report::writeJson(const Terminal &terminal) const
 {
-    if (!m_raw.isEmpty() || m_data.isUndefined())
-        return m_raw;
-    const QJsonDocument document =
-        m_data.isArray() ? QJsonDocument(m_data.toArray()) : QJsonDocument(m_data.toObject());
-    return safeJson(document.toJson(QJsonDocument::Indented));
+    if (!m_raw.isEmpty() || (m_data.isUndefined() && !m_list)) {
+        terminal.write(m_raw);
+        return;
+    }
+    JsonText text(JsonText::Layout::Indented,
+                  [&terminal](const QByteArray &block) { terminal.write(block); });
+    if (!m_list)
+        text.add(m_data);
+    else if (m_list->key.isEmpty())
+        text.add(m_list->rows);
+    else
+        text.add(m_data.toObject(), m_list->key, m_list->rows);
+    text.finish();
 }
 
-QByteArray Report::toText(const Terminal &terminal,
-                          navigation::CurrencyDisplayOptions displayAs) const
+void Report::writeText(const Terminal &terminal, navigation::CurrencyDisplayOptions displayAs) const
 {
-    QString text;
+    if (m_isAlwaysJson) {
+        writeJson(terminal);
+        return;
+    }
+    const Sink sink = [&terminal](const QByteArray &text) { terminal.writeLater(text); };
     for (const auto &block : m_blocks) {
         if (const auto *line = std::get_if<Line>(&block)) {
             const QString safe = foundation::escaped(line->text);
-            text += (line->isHeading ? terminal.bold(safe) : safe) + u'\n';
-        } else if (const auto *list = std::get_if<List>(&block)) {
-            std::vector<std::vector<Cell>> rows;
-            rows.reserve(list->columns.size());
-            for (const Column &column : list->columns)
-                rows.push_back({Cell{column.title}, cellOf(column, list->values, displayAs)});
-            for (auto &row : rows)
-                row.back().isNumber = false;
-            text += tableText({}, rows, terminal);
+            sink(((line->isHeading ? terminal.bold(safe) : safe) + u'\n').toUtf8());
+        } else if (const auto *list = std::get_if<ValueList>(&block)) {
+            app::Table table({}, 2);
+            for (const Column &column : list->columns) {
+                table.add({column.title});
+                Cell value = cellOf(column, list->values, displayAs);
+                value.isNumber = false;
+                table.add(value);
+            }
+            table.write(terminal, sink);
+        } else if (const auto &[columns, rows, whenEmpty] = std::get<Table>(block);
+                   rows.size() > 0) {
+            tableOf(columns, rows, displayAs).write(terminal, sink);
         } else {
-            const auto *table = &std::get<Table>(block);
-            if (table->rows.isEmpty()) {
-                text += foundation::escaped(table->whenEmpty) + u'\n';
-                continue;
-            }
-            QStringList titles;
-            for (const Column &column : table->columns)
-                titles += column.title;
-            std::vector<std::vector<Cell>> rows;
-            for (const QJsonValue row : table->rows) {
-                std::vector<Cell> &cells = rows.emplace_back();
-                cells.reserve(table->columns.size());
-                for (const Column &column : table->columns)
-                    cells.push_back(cellOf(column, row.toObject(), displayAs));
-            }
-            text += tableText(titles, rows, terminal);
+            sink((foundation::escaped(whenEmpty) + u'\n').toUtf8());
         }
     }
-    return text.toUtf8() + m_raw;
+    terminal.write(m_raw);
 }
 
 } // namespace kiv::app

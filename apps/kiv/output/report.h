@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "output/rows.h"
 #include "output/terminal.h"
 
 #include "navigation/currency_display.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
 #include <QtCore/QStringList>
 
-#include <functional>
 #include <variant>
 #include <vector>
 
@@ -41,9 +39,6 @@ struct Column {
 /// language.
 [[nodiscard]] QString statusText(const QJsonValue &status);
 
-/// Escapes control and other unsafe characters in JSON as \uXXXX.
-[[nodiscard]] QByteArray safeJson(const QByteArray &json);
-
 /// The result of a command: JSON for programs, and lines, tables and lists for people.
 /// Both are made from the same values, so they always agree. All texts are escaped when
 /// written, except raw().
@@ -51,14 +46,30 @@ class Report {
 public:
     Report() = default;
     explicit Report(QJsonValue data) : m_data(std::move(data)) {}
+    /// The data is a list of these rows.
+    explicit Report(Rows rows) : m_list(List{{}, std::move(rows)}) {}
+    /// The data is an object with a list of these rows as its member `key`.
+    Report(QJsonObject data, QString key, Rows rows)
+        : m_data(std::move(data)), m_list(List{std::move(key), std::move(rows)})
+    {
+    }
+    /// The data is a list of these rows, and its text the table of them.
+    [[nodiscard]] static Report listing(std::vector<Column> columns, const Rows &rows,
+                                        const QString &whenEmpty);
 
     Report &line(const QString &text);
     Report &heading(const QString &text);
     /// `whenEmpty` replaces a table without rows.
-    Report &table(std::vector<Column> columns, const QJsonArray &rows, const QString &whenEmpty);
+    Report &table(std::vector<Column> columns, const Rows &rows, const QString &whenEmpty);
     Report &list(std::vector<Column> columns, const QJsonObject &values);
     /// A document that is written byte for byte, in place of everything else.
     Report &raw(const QByteArray &document);
+    /// The JSON is written for people, too.
+    Report &setAlwaysJson()
+    {
+        m_isAlwaysJson = true;
+        return *this;
+    }
 
     /// The exit status, if it is not success.
     void setStatus(int status) noexcept { m_status = status; }
@@ -76,14 +87,12 @@ public:
             m_finish();
     }
 
-    [[nodiscard]] const QJsonValue &data() const noexcept { return m_data; }
     void setData(QJsonValue data) { m_data = std::move(data); }
 
-    /// The result as one JSON document.
-    [[nodiscard]] QByteArray toJson() const;
-    /// The result as text for people.
-    [[nodiscard]] QByteArray toText(const Terminal &terminal,
-                                    navigation::CurrencyDisplayOptions displayAs) const;
+    /// Writes the result as one JSON document.
+    void writeJson(const Terminal &terminal) const;
+    /// Writes the result as text for people.
+    void writeText(const Terminal &terminal, navigation::CurrencyDisplayOptions displayAs) const;
 
 private:
     struct Line {
@@ -92,17 +101,24 @@ private:
     };
     struct Table {
         std::vector<Column> columns;
-        QJsonArray rows;
+        Rows rows;
         QString whenEmpty;
     };
-    struct List {
+    struct ValueList {
         std::vector<Column> columns;
         QJsonObject values;
     };
+    /// A list in the data, under its key; without one, it is all the data.
+    struct List {
+        QString key;
+        Rows rows;
+    };
 
     QJsonValue m_data = QJsonValue::Undefined;
-    std::vector<std::variant<Line, Table, List>> m_blocks;
+    std::optional<List> m_list;
+    std::vector<std::variant<Line, Table, ValueList>> m_blocks;
     QByteArray m_raw;
+    bool m_isAlwaysJson = false;
     int m_status = 0;
     bool m_isUnchanged = false;
     std::function<void()> m_finish;

@@ -12,28 +12,39 @@ constexpr int narrowest = 4;
 /// A longer text shifts the rest of its own line only.
 constexpr int widestPadded = 200;
 
-struct Layout {
-    std::vector<int> widths;
-    std::vector<bool> areNumbers;
-};
+} // namespace
 
-Layout naturalLayout(const QStringList &titles, const std::vector<std::vector<Cell>> &rows)
+Table::Table(const QStringList &titles, std::size_t columns)
+    : m_titles(static_cast<std::size_t>(titles.size())),
+      m_natural{std::vector<int>(columns), std::vector<bool>(columns)}
 {
-    const std::size_t count = rows.front().size();
-    Layout layout{std::vector<int>(count), std::vector<bool>(count)};
-    for (std::size_t column = 0; column < count; ++column) {
-        int width = titles.isEmpty() ? 0 : displayWidth(titles[static_cast<qsizetype>(column)]);
-        for (const auto &row : rows) {
-            width = std::max(width, std::min(widestPadded, displayWidth(row[column].text)));
-            if (row[column].isNumber)
-                layout.areNumbers[column] = true;
-        }
-        layout.widths[column] = width;
-    }
-    return layout;
+    for (const QString &title : titles)
+        add({title});
 }
 
-void shrinkTo(int total, Layout &layout)
+void Table::add(const Cell &cell)
+{
+    const std::size_t column = m_cells.size() % m_natural.widths.size();
+    const int width = displayWidth(cell.text);
+    m_cells.push_back(
+        {static_cast<std::size_t>(m_texts.size()), width, cell.isNumber, cell.isNegative});
+    m_texts += cell.text.toUtf8();
+    int &widest = m_natural.widths[column];
+    widest = std::max(widest, m_cells.size() > m_titles ? std::min(widestPadded, width) : width);
+    if (cell.isNumber)
+        m_natural.areNumbers[column] = true;
+}
+
+QByteArrayView Table::textOf(std::size_t cell) const
+{
+    const auto begin = static_cast<qsizetype>(m_cells[cell].begin);
+    const qsizetype end = cell + 1 < m_cells.size()
+                              ? static_cast<qsizetype>(m_cells[cell + 1].begin)
+                              : m_texts.size();
+    return QByteArrayView(m_texts).sliced(begin, end - begin);
+}
+
+void Table::shrinkTo(int total, Layout &layout)
 {
     const auto used = [&layout] {
         return std::accumulate(layout.widths.begin(), layout.widths.end(), 0) +
@@ -52,45 +63,43 @@ void shrinkTo(int total, Layout &layout)
     }
 }
 
-} // namespace
-
-QString tableText(const QStringList &titles, const std::vector<std::vector<Cell>> &rows,
-                  const Terminal &terminal)
+void Table::write(const Terminal &terminal, const Sink &sink) const
 {
-    Layout layout = naturalLayout(titles, rows);
+    Layout layout = m_natural;
     const std::optional<int> total = terminal.width();
     if (total)
         shrinkTo(*total, layout);
 
-    QString text;
-    const auto addLine = [&](const auto &textOf, const auto &style) {
-        QString line;
-        for (std::size_t column = 0; column < layout.widths.size(); ++column) {
-            const int width = layout.widths[column];
-            const QString cell = total ? elided(textOf(column), width) : textOf(column);
-            const QString blanks(std::max(0, width - displayWidth(cell)), u' ');
-            if (column > 0)
-                line += QString(gap, u' ');
-            const QString shown = style(column, cell);
-            const bool isLast = column + 1 == layout.widths.size();
-            line += layout.areNumbers[column] ? blanks + shown : isLast ? shown : shown + blanks;
+    QByteArray line;
+    for (std::size_t at = 0; at < m_cells.size(); ++at) {
+        const std::size_t column = at % layout.widths.size();
+        const bool isLast = column + 1 == layout.widths.size();
+        QByteArrayView shown = textOf(at);
+        int width = m_cells[at].width;
+        QByteArray styled;
+        if (total) { // only a terminal cuts, and has colours
+            const QString cut = elided(QString::fromUtf8(shown), layout.widths[column]);
+            width = displayWidth(cut);
+            styled = (at < m_titles            ? terminal.bold(cut)
+                      : m_cells[at].isNegative ? terminal.red(cut)
+                                               : cut)
+                         .toUtf8();
+            shown = styled;
         }
-        while (line.endsWith(u' '))
+        const QByteArray blanks(std::max(0, layout.widths[column] - width), ' ');
+        if (layout.areNumbers[column])
+            line.append(blanks).append(shown);
+        else
+            line.append(shown).append(blanks);
+        if (!isLast) {
+            line.append(gap, ' ');
+            continue;
+        }
+        while (line.endsWith(' '))
             line.chop(1);
-        text += line + u'\n';
-    };
-
-    if (!titles.isEmpty()) {
-        addLine([&](std::size_t column) { return titles[static_cast<qsizetype>(column)]; },
-                [&](std::size_t, const QString &cell) { return terminal.bold(cell); });
+        sink(line += '\n');
+        line.resize(0); // keeps the memory
     }
-    for (const auto &row : rows) {
-        addLine([&](std::size_t column) { return row[column].text; },
-                [&](std::size_t column, const QString &cell) {
-                    return row[column].isNegative ? terminal.red(cell) : cell;
-                });
-    }
-    return text;
 }
 
 } // namespace kiv::app

@@ -16,10 +16,40 @@ struct Cell {
     bool isNegative = false; ///< red if colours are on
 };
 
-/// Lays out rows in columns, under their titles if there are any. There must be at least
-/// one row. If the table is wider than the terminal, the widest text columns are cut.
-[[nodiscard]] QString tableText(const QStringList &titles,
-                                const std::vector<std::vector<Cell>> &rows,
-                                const Terminal &terminal);
+/// Rows of cells that are laid out in columns. It keeps little more than the cells' text:
+/// a table may have many thousand rows.
+class Table {
+public:
+    /// A table with titles above its columns, unless they are empty.
+    Table(const QStringList &titles, std::size_t columns);
+
+    /// Adds the next cell of the row, or the first one of the next row.
+    void add(const Cell &cell);
+
+    /// Hands the lines to `sink`. If the table is wider than the terminal, the widest text
+    /// columns are cut.
+    void write(const Terminal &terminal, const Sink &sink) const;
+
+private:
+    /// A cell, whose text is in m_texts and ends where the next one begins.
+    struct Kept {
+        std::size_t begin;
+        int width;
+        bool isNumber;
+        bool isNegative;
+    };
+    struct Layout {
+        std::vector<int> widths;
+        std::vector<bool> areNumbers;
+    };
+
+    [[nodiscard]] QByteArrayView textOf(std::size_t cell) const;
+    static void shrinkTo(int total, Layout &layout);
+
+    std::size_t m_titles; ///< cells at the beginning
+    Layout m_natural;
+    std::vector<Kept> m_cells;
+    QByteArray m_texts; ///< of all cells, as UTF-8
+};
 
 } // namespace kiv::app

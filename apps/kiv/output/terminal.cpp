@@ -5,6 +5,7 @@
 
 #include <unicode/uchar.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -51,13 +52,23 @@ QString Terminal::styled(const QString &text, const char *code) const
 
 void Terminal::write(const QByteArray &bytes) const
 {
+    writeLater(bytes);
+    if (std::fflush(stdout) != 0)
+        throw cannotWriteOutput(QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+void Terminal::writeLater(const QByteArray &bytes) const
+{
     const auto size = static_cast<std::size_t>(bytes.size());
-    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size)
         throw cannotWriteOutput(QString::fromLocal8Bit(std::strerror(errno)));
 }
 
 int displayWidth(const QString &text)
 {
+    // Nearly every text, and much faster.
+    if (std::ranges::all_of(text, [](QChar unit) { return unit >= u' ' && unit <= u'~'; }))
+        return static_cast<int>(text.size());
     int width = 0;
     for (const char32_t code : text.toUcs4())
         width += columnsOf(code);

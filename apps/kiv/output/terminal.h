@@ -3,7 +3,12 @@
 
 #include <QtCore/QString>
 
+#include <functional>
+
 namespace kiv::app {
+
+/// Takes text, part by part.
+using Sink = std::function<void(const QByteArray &)>;
 
 /// Standard output: its width, its colours, and the only place that writes to it.
 class Terminal {
@@ -20,6 +25,8 @@ public:
 
     /// Throws a Refusal if not all bytes can be written.
     void write(const QByteArray &bytes) const;
+    /// The same, but may keep bytes back until write() is called.
+    void writeLater(const QByteArray &bytes) const;
 
 private:
     [[nodiscard]] QString styled(const QString &text, const char *code) const;

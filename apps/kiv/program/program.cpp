@@ -158,8 +158,10 @@ void Program::print(const Report &report)
 {
     if (m_isSilent)
         return;
-    m_terminal.write(m_options.isJson ? report.toJson()
-                                      : report.toText(m_terminal, m_document.displayAs()));
+    if (m_options.isJson)
+        report.writeJson(m_terminal);
+    else
+        report.writeText(m_terminal, m_document.displayAs());
 }
 
 } // namespace kiv::app
