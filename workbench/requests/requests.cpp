@@ -81,18 +81,24 @@ navigation::CurrencyDisplayOptions Requests::displayAs()
 
 std::vector<accounting::Transaction> Requests::transactions()
 {
-    // Every transaction debits one account, so it is found once.
-    std::vector<accounting::Transaction> all;
+    using accounting::TransactionNumber;
+    // Two accounts have each transaction; it is seen from the debited one.
     const AccountIndex index = accounts();
+    std::vector<std::pair<TransactionNumber, const accounting::Account *>> numbers;
     for (const accounting::Account &account : index.accounts()) {
-        for (const accounting::Transaction &transaction : account.transactions()) {
-            if (transaction.debiting().number() == account.code().number())
-                all.push_back(transaction);
+        const accounting::TransactionList &list = account.transactions();
+        for (auto each = list.begin(); each != list.end(); ++each)
+            numbers.emplace_back(each.number(), &account);
+    }
+    std::ranges::sort(numbers);
+    std::vector<accounting::Transaction> all;
+    all.reserve(numbers.size() / 2);
+    for (const auto &[number, account] : numbers) {
+        if (all.empty() || all.back().number() != number) {
+            const accounting::Transaction found = account->transactions().find(number).value();
+            all.push_back(found.seenFrom(found.debiting().number()));
         }
     }
-    std::ranges::sort(all, {}, [](const accounting::Transaction &transaction) {
-        return transaction.number().value_or(accounting::TransactionNumber());
-    });
     return all;
 }
 

@@ -87,12 +87,25 @@ auto accountsIn(const BudgetStorage::Data &data)
     return states;
 }
 
-auto transactionsIn(const BudgetStorage::Data &data)
+/// Looks only at transactions that the ledgers do not share.
+void compareTransactions(const accounting::GeneralLedger &before,
+                         const accounting::GeneralLedger &after, std::vector<Change> &changes)
 {
-    std::map<accounting::TransactionNumber, Transaction> transactions;
-    for (const Transaction &transaction : data.generalLedger.transactions())
-        transactions.emplace_hint(transactions.end(), transaction.number().value(), transaction);
-    return transactions;
+    std::vector<Change> added;
+    for (const accounting::TransactionNumber number :
+         accounting::changedTransactions(before, after)) {
+        std::optional<Transaction> was = before.lookUpTransaction(number);
+        std::optional<Transaction> is = after.lookUpTransaction(number);
+        // A refund changes what is left to refund, which is not shown.
+        if (was && is && isSame(*was, *is))
+            continue;
+        const QString name = accounting::presentationText(number);
+        if (was)
+            changes.push_back({name, std::move(*was), std::move(is)});
+        else
+            added.push_back({name, std::nullopt, std::move(is)});
+    }
+    std::ranges::move(added, std::back_inserter(changes));
 }
 
 auto banksIn(const BudgetStorage::Data &data)
@@ -132,10 +145,7 @@ std::vector<Change> changesBetween(const BudgetStorage::Data &before,
         accountsIn(before), accountsIn(after),
         [](const auto &key) { return accounting::presentationText(key.first) + u' ' + key.second; },
         changes);
-    compare(
-        transactionsIn(before), transactionsIn(after),
-        [](accounting::TransactionNumber number) { return accounting::presentationText(number); },
-        changes);
+    compareTransactions(before.generalLedger, after.generalLedger, changes);
     compare(
         banksIn(before), banksIn(after),
         [](const banking::BankName &name) { return name.institution(); }, changes);
