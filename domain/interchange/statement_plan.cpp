@@ -75,29 +75,37 @@ public:
     StatementPlan m_plan;
 
 private:
-    [[nodiscard]] AccountCode chooseOther(PlannedEntry &planned) const
+    [[nodiscard]] AccountCode chooseOther(PlannedEntry &planned)
     {
         const StatementEntry &entry = planned.entry;
         for (const AccountRule &rule : m_choices.rules) {
             if (entry.text.contains(rule.contains, Qt::CaseInsensitive)) {
                 planned.chosenBy = ChosenBy::Rule;
-                return m_choices.find(rule.account);
+                return find(rule.account);
             }
         }
         if (!entry.category.isEmpty() && m_names.contains(entry.category)) {
             planned.chosenBy = ChosenBy::Category;
-            return m_choices.find(entry.category);
+            return find(entry.category);
         }
         if (!m_choices.otherwise)
             return {};
         planned.chosenBy = ChosenBy::Default;
-        AccountCode other = m_choices.find(*m_choices.otherwise);
+        AccountCode other = find(*m_choices.otherwise);
         if (entry.isTransfer)
             planned.notices.push_back(
                 {Kinds::OtherAccount, entry.place,
                  QObject::tr("There is no account '%1'; its transfers are posted to '%2'.")
                      .arg(entry.category, pathOf(other))});
         return other;
+    }
+
+    /// Each account is looked for once; most entries need the same few.
+    [[nodiscard]] const AccountCode &find(const QString &name)
+    {
+        const auto found = m_found.find(name);
+        return found != m_found.end() ? found->second
+                                      : m_found.emplace(name, m_choices.find(name)).first->second;
     }
 
     [[nodiscard]] Transaction transactionOf(const StatementEntry &entry,
@@ -118,6 +126,7 @@ private:
     const StatementChoices &m_choices;
     std::map<accounting::AccountNumber, QString> m_paths;
     std::set<QString> m_names; ///< of accounts, and their paths
+    std::map<QString, AccountCode> m_found;
 };
 
 } // namespace

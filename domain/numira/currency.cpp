@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <memory>
 #include <ostream>
 #include <utility>
@@ -190,7 +191,17 @@ std::optional<std::string> currencySymbol(const Currency &currency)
 {
     if (currency.numericCode() == noCurrency)
         return std::nullopt;
-    std::string symbol = nameOf(currency.code(), libraryLocale(), UCURR_SYMBOL_NAME);
+    // Readers of statements ask for each amount, and ICU takes long for an answer.
+    thread_local std::string locale;
+    thread_local std::map<Currency, std::string> symbols;
+    if (locale != libraryLocale()) {
+        symbols.clear();
+        locale = libraryLocale();
+    }
+    auto found = symbols.find(currency);
+    if (found == symbols.end())
+        found = symbols.emplace(currency, nameOf(currency.code(), locale, UCURR_SYMBOL_NAME)).first;
+    const std::string &symbol = found->second;
     if (symbol == currency.code())
         return std::nullopt;
     return symbol;

@@ -136,7 +136,9 @@ std::optional<QDate> dayOf(const QStringList &cells, const CsvLayout &layout)
     QString date = cells.value(layout.columns.date).trimmed();
     // Some banks write the time of day after the date.
     if (!format.text().contains(u' '))
-        date = date.section(QRegularExpression(QStringLiteral("[ T]")), 0, 0);
+        date.truncate(
+            std::ranges::find_if(date, [](QChar unit) { return unit == u' ' || unit == u'T'; }) -
+            date.cbegin());
     return format.read(date);
 }
 
