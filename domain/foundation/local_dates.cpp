@@ -40,6 +40,24 @@ QString patternOf(const std::string &localeName)
     return U_SUCCESS(status) && hasAllFields ? found : QString();
 }
 
+/// What Qt writes by way of printf, which long lists would wait for.
+QString isoForm(QDate date)
+{
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
+    if (year < 1 || year > 9999) // ISO 8601 has no form for it
+        return date.toString(Qt::ISODate);
+    QString text = QStringLiteral("0000-00-00");
+    for (const auto &[value, last] : {std::pair(year, 3), {month, 6}, {day, 9}}) {
+        int rest = value;
+        for (qsizetype at = last; rest > 0; --at, rest /= 10)
+            text[at] = QChar(u'0' + rest % 10);
+    }
+    return text;
+}
+
 } // namespace
 
 void setDateLocale(const std::string &localeName)
@@ -54,12 +72,12 @@ bool hasDateLocale()
 
 QString isoText(QDate date)
 {
-    return date.isValid() ? date.toString(Qt::ISODate) : QStringLiteral("no date");
+    return date.isValid() ? isoForm(date) : QStringLiteral("no date");
 }
 
 QString localText(QDate date)
 {
-    return hasDateLocale() ? QLocale::c().toString(date, pattern()) : date.toString(Qt::ISODate);
+    return hasDateLocale() ? QLocale::c().toString(date, pattern()) : isoForm(date);
 }
 
 QDate dateFromLocalText(const QString &text)

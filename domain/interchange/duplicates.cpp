@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/duplicates.h"
 
+#include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
 
@@ -163,7 +164,7 @@ QString Duplicates::transferKey(const Transaction &transaction) const
     if (!m_account || !m_kept.contains(debit) || !m_kept.contains(credit))
         return {};
     return QStringLiteral("%1%2 %3<%4")
-        .arg(transaction.occurredOn().toString(Qt::ISODate), amountKey(transaction),
+        .arg(foundation::isoText(transaction.occurredOn()), amountKey(transaction),
              accounting::presentationText(debit), accounting::presentationText(credit));
 }
 
@@ -174,7 +175,7 @@ QString Duplicates::contentKey(const Transaction &transaction) const
         text.truncate(at);
     // A journal has neither semicolons nor control characters in descriptions.
     text = foundation::escaped(text.simplified()).replace(u';', u',').toCaseFolded();
-    return transaction.occurredOn().toString(Qt::ISODate) + amountKey(transaction) + u'\n' + text;
+    return foundation::isoText(transaction.occurredOn()) + amountKey(transaction) + u'\n' + text;
 }
 
 QString Duplicates::idKey(const Transaction &transaction) const

@@ -239,6 +239,7 @@ private slots:
             QCOMPARE(dateFromLocalText(shown), date);
             QVERIFY(!dateFromLocalText(shown.left(9)).isValid());
             QCOMPARE(isoText(date), u"2026-03-09"_qs);
+            QCOMPARE(isoText(QDate(987, 12, 30)), u"0987-12-30"_qs);
         }
     }
 

@@ -4,6 +4,7 @@
 #include "workbench/entry/kind_words.h"
 
 #include "budgeting/budget_items.h"
+#include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 
 namespace kiv::app {
@@ -21,7 +22,7 @@ QJsonObject toJson(const numira::Money &money)
 
 QJsonValue toJson(const QDate &date)
 {
-    return date.isValid() ? QJsonValue(date.toString(Qt::ISODate)) : QJsonValue();
+    return date.isValid() ? QJsonValue(foundation::isoText(date)) : QJsonValue();
 }
 
 QJsonValue toJson(AccountNumber number)
