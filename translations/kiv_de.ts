@@ -881,14 +881,6 @@
         <translation>Beim Laden repariert: %1</translation>
     </message>
     <message>
-        <source>Saving without a backup: %1</source>
-        <translation>Es wird ohne Sicherung gespeichert: %1</translation>
-    </message>
-    <message>
-        <source>A backup could not be kept: %1</source>
-        <translation>Eine Sicherung konnte nicht aufbewahrt werden: %1</translation>
-    </message>
-    <message>
         <source>No file was chosen.</source>
         <translation>Es wurde keine Datei gewählt.</translation>
     </message>
@@ -2362,10 +2354,6 @@
         <translation>Keine Änderung angegeben; siehe --help.</translation>
     </message>
     <message>
-        <source>Version 0 is the file itself; see kiv history for older ones.</source>
-        <translation>Version 0 ist die Datei selbst; ältere zeigt kiv history.</translation>
-    </message>
-    <message>
         <source>No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.</source>
         <translation>Keine Budgetdatei angegeben; sie wird mit --file oder der Variablen KIV_FILE genannt oder mit kiv new DATEI angelegt.</translation>
     </message>
@@ -2440,10 +2428,6 @@
     <message>
         <source>There is no version %1</source>
         <translation>Es gibt keine Version %1</translation>
-    </message>
-    <message>
-        <source>this budget has no older versions</source>
-        <translation>dieses Budget hat keine älteren Versionen</translation>
     </message>
     <message>
         <source>The version in &apos;%1&apos; is damaged.</source>
@@ -2862,8 +2846,8 @@
         <translation>nicht geprüft</translation>
     </message>
     <message>
-        <source>Budget file or one of its backups</source>
-        <translation>Budgetdatei oder eine ihrer Sicherungen</translation>
+        <source>Budget file or one of its former versions</source>
+        <translation>Budgetdatei oder eine ihrer früheren Versionen</translation>
     </message>
     <message>
         <source>Check</source>
@@ -2882,8 +2866,8 @@
         <translation>Das Budget „%1“ ist unbeschädigt.</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is damaged; find an intact version with kiv history.</source>
-        <translation>Das Budget „%1“ ist beschädigt; eine unbeschädigte Version suchen mit kiv history.</translation>
+        <source>The budget &apos;%1&apos; is damaged; bring a whole version back with kiv undo.</source>
+        <translation>Das Budget „%1“ ist beschädigt; eine unbeschädigte Version holt kiv undo zurück.</translation>
     </message>
     <message>
         <source>Check a budget file for damage</source>
@@ -3466,22 +3450,6 @@
         <translation>Eine Erstattung einer Buchung ausführen</translation>
     </message>
     <message>
-        <source>Number of the version, see kiv history (default: 1)</source>
-        <translation>Nummer der Version, siehe kiv history (Standard: 1)</translation>
-    </message>
-    <message>
-        <source>Number of the older version (default: 1)</source>
-        <translation>Nummer der älteren Version (Standard: 1)</translation>
-    </message>
-    <message>
-        <source>Number of the newer version (default: 0, the file itself)</source>
-        <translation>Nummer der neueren Version (Standard: 0, die Datei selbst)</translation>
-    </message>
-    <message>
-        <source>Restore the version before the last change</source>
-        <translation>Die Version vor der letzten Änderung wiederherstellen</translation>
-    </message>
-    <message>
         <source>List the kept versions of the budget</source>
         <translation>Die aufbewahrten Versionen des Budgets auflisten</translation>
     </message>
@@ -3785,10 +3753,6 @@
     <message>
         <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
         <translation>„%1“ ist kein Kurs; richtig ist etwa EUR=0.92.</translation>
-    </message>
-    <message>
-        <source>%1 Find an intact version with kiv history, then copy its file (such as &apos;%2&apos;) over the damaged one.</source>
-        <translation>%1 Mit kiv history eine unbeschädigte Version suchen, dann deren Datei (etwa „%2“) über die beschädigte kopieren.</translation>
     </message>
     <message>
         <source>it is larger than 64 MiB (exceeded in line %1); split it into smaller files</source>
@@ -4227,6 +4191,114 @@
     <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
         <translation>Nr. %1, %2, ist seit dem Abgleich vom %3 nicht mehr als abgeglichen markiert</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; for the former versions cannot be used: %2.</source>
+        <translation>Der Ordner „%1“ für die früheren Versionen ist nicht verwendbar: %2.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; for the former versions belongs to another user.</source>
+        <translation>Der Ordner „%1“ für die früheren Versionen gehört einem anderen Benutzer.</translation>
+    </message>
+    <message>
+        <source>Old versions could not be removed: %1</source>
+        <translation>Alte Versionen konnten nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>The file already is at version %1.</source>
+        <translation>Die Datei ist schon auf dem Stand der Version %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is gone, but its former versions are kept</source>
+        <translation>Die Datei „%1“ ist weg, aber ihre früheren Versionen sind aufbewahrt</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is gone.</source>
+        <translation>Die Datei „%1“ ist weg.</translation>
+    </message>
+    <message>
+        <source>bring the newest back with kiv undo</source>
+        <translation>die neueste holt kiv undo zurück</translation>
+    </message>
+    <message>
+        <source>%1 Former versions are kept; bring the newest back with kiv undo.</source>
+        <translation>%1 Frühere Versionen sind aufbewahrt; die neueste holt kiv undo zurück.</translation>
+    </message>
+    <message>
+        <source>Created the budget</source>
+        <translation>Budget angelegt</translation>
+    </message>
+    <message>
+        <source>Saved under a new name</source>
+        <translation>Unter neuem Namen gespeichert</translation>
+    </message>
+    <message>
+        <source>Survey of %1, %2</source>
+        <translation>Abgleich von %1, %2</translation>
+    </message>
+    <message>
+        <source>How many changes (default: 1)</source>
+        <translation>Anzahl der Änderungen (Vorgabe: 1)</translation>
+    </message>
+    <message>
+        <source>Name of the version, see kiv history</source>
+        <translation>Name der Version, siehe kiv history</translation>
+    </message>
+    <message>
+        <source>Name of the older version (default: the one that kiv undo goes to)</source>
+        <translation>Name der älteren Version (Vorgabe: die, zu der kiv undo führt)</translation>
+    </message>
+    <message>
+        <source>Name of the newer version (default: the file itself)</source>
+        <translation>Name der neueren Version (Vorgabe: die Datei selbst)</translation>
+    </message>
+    <message>
+        <source>Take back the last change</source>
+        <translation>Die letzte Änderung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Take back the last undo</source>
+        <translation>Das letzte Zurücknehmen aufheben</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>aktuell</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries</source>
+        <translation>
+            <numerusform>%n Eintrag importiert</numerusform>
+            <numerusform>%n Einträge importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be undone.</source>
+        <translation>
+            <numerusform>Nur %n Änderung lässt sich rückgängig machen.</numerusform>
+            <numerusform>Nur %n Änderungen lassen sich rückgängig machen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be redone.</source>
+        <translation>
+            <numerusform>Nur %n Änderung lässt sich wiederherstellen.</numerusform>
+            <numerusform>Nur %n Änderungen lassen sich wiederherstellen.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

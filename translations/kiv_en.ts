@@ -80,5 +80,33 @@
             <numerusform>%n transactions that move nothing are left out.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 and %n more</numerusform>
+            <numerusform>%1 and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries</source>
+        <translation>
+            <numerusform>Imported %n entry</numerusform>
+            <numerusform>Imported %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be undone.</source>
+        <translation>
+            <numerusform>Only %n change can be undone.</numerusform>
+            <numerusform>Only %n changes can be undone.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be redone.</source>
+        <translation>
+            <numerusform>Only %n change can be redone.</numerusform>
+            <numerusform>Only %n changes can be redone.</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -881,14 +881,6 @@
         <translation>Reparado al cargar: %1</translation>
     </message>
     <message>
-        <source>Saving without a backup: %1</source>
-        <translation>Se guarda sin copia de seguridad: %1</translation>
-    </message>
-    <message>
-        <source>A backup could not be kept: %1</source>
-        <translation>No se pudo conservar una copia de seguridad: %1</translation>
-    </message>
-    <message>
         <source>No file was chosen.</source>
         <translation>No se eligió ningún archivo.</translation>
     </message>
@@ -2362,10 +2354,6 @@
         <translation>No se indicó ningún cambio; véase --help.</translation>
     </message>
     <message>
-        <source>Version 0 is the file itself; see kiv history for older ones.</source>
-        <translation>La versión 0 es el propio archivo; las anteriores se ven con kiv history.</translation>
-    </message>
-    <message>
         <source>No budget file given; use --file or the variable KIV_FILE, or create one with kiv new FILE.</source>
         <translation>No se indicó ningún archivo de presupuesto; se indica con --file o la variable KIV_FILE, o se crea con kiv new ARCHIVO.</translation>
     </message>
@@ -2440,10 +2428,6 @@
     <message>
         <source>There is no version %1</source>
         <translation>No hay ninguna versión %1</translation>
-    </message>
-    <message>
-        <source>this budget has no older versions</source>
-        <translation>este presupuesto no tiene versiones anteriores</translation>
     </message>
     <message>
         <source>The version in &apos;%1&apos; is damaged.</source>
@@ -2862,8 +2846,8 @@
         <translation>sin comprobar</translation>
     </message>
     <message>
-        <source>Budget file or one of its backups</source>
-        <translation>Archivo de presupuesto o una de sus copias</translation>
+        <source>Budget file or one of its former versions</source>
+        <translation>Archivo de presupuesto o una de sus versiones anteriores</translation>
     </message>
     <message>
         <source>Check</source>
@@ -2882,8 +2866,8 @@
         <translation>El presupuesto «%1» está íntegro.</translation>
     </message>
     <message>
-        <source>The budget &apos;%1&apos; is damaged; find an intact version with kiv history.</source>
-        <translation>El presupuesto «%1» está dañado; se busca una versión íntegra con kiv history.</translation>
+        <source>The budget &apos;%1&apos; is damaged; bring a whole version back with kiv undo.</source>
+        <translation>El presupuesto «%1» está dañado; recupere una versión íntegra con kiv undo.</translation>
     </message>
     <message>
         <source>Check a budget file for damage</source>
@@ -3466,22 +3450,6 @@
         <translation>Registra un reembolso de un asiento</translation>
     </message>
     <message>
-        <source>Number of the version, see kiv history (default: 1)</source>
-        <translation>Número de la versión, véase kiv history (por defecto: 1)</translation>
-    </message>
-    <message>
-        <source>Number of the older version (default: 1)</source>
-        <translation>Número de la versión anterior (por defecto: 1)</translation>
-    </message>
-    <message>
-        <source>Number of the newer version (default: 0, the file itself)</source>
-        <translation>Número de la versión posterior (por defecto: 0, el propio archivo)</translation>
-    </message>
-    <message>
-        <source>Restore the version before the last change</source>
-        <translation>Restaura la versión anterior al último cambio</translation>
-    </message>
-    <message>
         <source>List the kept versions of the budget</source>
         <translation>Enumera las versiones conservadas del presupuesto</translation>
     </message>
@@ -3785,10 +3753,6 @@
     <message>
         <source>&apos;%1&apos; is not a rate; write one like EUR=0.92.</source>
         <translation>«%1» no es un tipo de cambio; debe ser como EUR=0.92.</translation>
-    </message>
-    <message>
-        <source>%1 Find an intact version with kiv history, then copy its file (such as &apos;%2&apos;) over the damaged one.</source>
-        <translation>%1 Con kiv history se busca una versión íntegra; después se copia su archivo (como «%2») sobre el dañado.</translation>
     </message>
     <message>
         <source>it is larger than 64 MiB (exceeded in line %1); split it into smaller files</source>
@@ -4227,6 +4191,114 @@
     <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
         <translation>n.º %1, %2, ya no está marcada como conciliada desde la conciliación del %3</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; for the former versions cannot be used: %2.</source>
+        <translation>La carpeta «%1» de las versiones anteriores no se puede usar: %2.</translation>
+    </message>
+    <message>
+        <source>The folder &apos;%1&apos; for the former versions belongs to another user.</source>
+        <translation>La carpeta «%1» de las versiones anteriores pertenece a otro usuario.</translation>
+    </message>
+    <message>
+        <source>Old versions could not be removed: %1</source>
+        <translation>No se pudieron quitar versiones antiguas: %1</translation>
+    </message>
+    <message>
+        <source>The file already is at version %1.</source>
+        <translation>El archivo ya está en la versión %1.</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation>No hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation>No hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is gone, but its former versions are kept</source>
+        <translation>El archivo «%1» ya no está, pero se conservan sus versiones anteriores</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is gone.</source>
+        <translation>El archivo «%1» ya no está.</translation>
+    </message>
+    <message>
+        <source>bring the newest back with kiv undo</source>
+        <translation>recupere la más reciente con kiv undo</translation>
+    </message>
+    <message>
+        <source>%1 Former versions are kept; bring the newest back with kiv undo.</source>
+        <translation>%1 Se conservan versiones anteriores; recupere la más reciente con kiv undo.</translation>
+    </message>
+    <message>
+        <source>Created the budget</source>
+        <translation>Presupuesto creado</translation>
+    </message>
+    <message>
+        <source>Saved under a new name</source>
+        <translation>Guardado con otro nombre</translation>
+    </message>
+    <message>
+        <source>Survey of %1, %2</source>
+        <translation>Conciliación de %1, %2</translation>
+    </message>
+    <message>
+        <source>How many changes (default: 1)</source>
+        <translation>Número de cambios (predeterminado: 1)</translation>
+    </message>
+    <message>
+        <source>Name of the version, see kiv history</source>
+        <translation>Nombre de la versión; vea kiv history</translation>
+    </message>
+    <message>
+        <source>Name of the older version (default: the one that kiv undo goes to)</source>
+        <translation>Nombre de la versión más antigua (predeterminado: a la que va kiv undo)</translation>
+    </message>
+    <message>
+        <source>Name of the newer version (default: the file itself)</source>
+        <translation>Nombre de la versión más reciente (predeterminado: el propio archivo)</translation>
+    </message>
+    <message>
+        <source>Take back the last change</source>
+        <translation>Deshacer el último cambio</translation>
+    </message>
+    <message>
+        <source>Take back the last undo</source>
+        <translation>Rehacer lo último que se deshizo</translation>
+    </message>
+    <message>
+        <source>present</source>
+        <translation>actual</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries</source>
+        <translation>
+            <numerusform>%n asiento importado</numerusform>
+            <numerusform>%n asientos importados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be undone.</source>
+        <translation>
+            <numerusform>Solo se puede deshacer %n cambio.</numerusform>
+            <numerusform>Solo se pueden deshacer %n cambios.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Only %n change(s) can be redone.</source>
+        <translation>
+            <numerusform>Solo se puede rehacer %n cambio.</numerusform>
+            <numerusform>Solo se pueden rehacer %n cambios.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

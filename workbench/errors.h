@@ -32,6 +32,7 @@ enum class Remedy : std::uint8_t {
     ChooseKind = 8,        ///< one of the kinds in Refusal::subject
     SaveElsewhere = 9,     ///< save under another name
     SaveProfile = 10,      ///< save the way of reading a file as a profile
+    BringBack = 11,        ///< bring the newest former version back by undo
 };
 
 /// A request that was understood and refused.

@@ -7,6 +7,7 @@
 #include "storage/internal/file_lock.h"
 #include "storage/internal/mending.h"
 #include "storage/internal/schema.h"
+#include "storage/internal/version_folder.h"
 
 #include "foundation/streams.h"
 
@@ -46,6 +47,37 @@ void warnOf(const QStringList &mended)
             QObject::tr("Repaired while loading: %1").arg(sentence));
 }
 
+/// So long what is stored makes one version.
+constexpr std::chrono::seconds burstLength(1);
+
+/// Tells that the former versions were not thinned, which is no reason not to save.
+void thin(internal::VersionFolder &folder)
+{
+    try {
+        folder.thin(QDateTime::currentDateTimeUtc());
+    } catch (const StorageError &error) {
+        qWarning().noquote() << foundation::escaped(
+            QObject::tr("Old versions could not be removed: %1").arg(error.message()));
+    }
+}
+
+/// Keeps the file's version in the folder of former ones.
+class Keeper final : public internal::VersionKeeper {
+public:
+    Keeper(internal::VersionFolder &folder, VersionMark mark, QByteArrayView bytes, bool isPassing)
+        : m_folder(folder), m_mark(std::move(mark)), m_bytes(bytes), m_isPassing(isPassing)
+    {
+    }
+    void keep() override { m_folder.keep(m_mark, m_bytes, m_isPassing); }
+    void putBack() noexcept override { (void)m_folder.putBack(); }
+
+private:
+    internal::VersionFolder &m_folder;
+    VersionMark m_mark;
+    QByteArrayView m_bytes;
+    bool m_isPassing;
+};
+
 /// The file's content, loaded once as a test: a saved file must be one that can
 /// be opened.
 QByteArray encodedSafely(const BudgetStorage::Data &data, const VersionMark &mark)
@@ -69,8 +101,6 @@ public:
     [[nodiscard]] const FileTarget &target() const noexcept { return m_target; }
     /// `target` is the same file under another name.
     void showAs(FileTarget target) { m_target = std::move(target); }
-    /// That of the version which was loaded or stored last.
-    [[nodiscard]] const VersionMark &mark() const noexcept { return m_mark; }
     [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
 
     [[nodiscard]] bool exists() const
@@ -79,18 +109,18 @@ public:
     }
 
     /// Takes the lock unless it is held already.
-    void lock()
+    void lock(std::chrono::milliseconds patience)
     {
         if (!m_lock)
-            m_lock = std::make_unique<internal::FileLock>(m_target);
+            m_lock = std::make_unique<internal::FileLock>(m_target, patience);
     }
 
     /// Where no lock can be made, nothing can be saved either, so no lock is
     /// needed. The next attempt to save says why.
-    void lockIfPossible()
+    void lockIfPossible(std::chrono::milliseconds patience)
     {
         try {
-            lock();
+            lock(patience);
         } catch (const StorageError &error) {
             if (error.failure() != StorageFailure::CannotWrite)
                 throw;
@@ -119,27 +149,76 @@ public:
         return data;
     }
 
-    /// `known` is what was seen last under this name, if anything was.
-    void store(QByteArrayView image, const VersionMark &mark,
-               const std::optional<Fingerprint> &known, unsigned backups)
+    /// `known` is what was seen last under this name, if anything was. A merged version
+    /// takes the place of the one until now, which is not kept.
+    void store(const Draft &draft, const std::optional<Fingerprint> &known, bool isMerged)
     {
         const std::optional<FileContent> replaced =
             internal::readFile(m_target, internal::fileSizeMax);
-        if (replaced)
-            checkReplaceable(replaced->bytes, known);
-        m_attempted = Fingerprint(image);
+        VersionMark present = m_mark;
+        if (replaced) {
+            const Fingerprint found(replaced->bytes);
+            checkReplaceable(replaced->bytes, found, known);
+            if (found != m_known)
+                present = markOf(replaced->bytes);
+        }
+        internal::VersionFolder folder(m_target);
+        const VersionMark kept = numbered(present, replaced, folder);
+        VersionMark mark = present.next();
+        if (isMerged)
+            mark.ancestors = present.ancestors;
+        mark.number = std::max(kept.number, folder.highest()) + 1;
+        auto [file, stored] = draft(std::move(mark), isMerged);
+        m_attempted = Fingerprint(file);
+        Keeper keeper(folder, kept, replaced ? replaced->bytes : QByteArray(), isMerged);
         internal::AtomicFileWriter(m_target,
                                    replaced ? std::optional(replaced->stamp) : std::nullopt)
-            .write(image, backups);
+            .write(file, replaced && !replaced->bytes.isEmpty() ? &keeper : nullptr);
         m_known = std::exchange(m_attempted, std::nullopt);
-        m_mark = mark;
+        m_mark = std::move(stored);
+        folder.settle();
+        thin(folder);
     }
 
 private:
-    void checkReplaceable(const QByteArray &bytes, const std::optional<Fingerprint> &known) const
+    /// That of a file which was not loaded before; without an id when it is not whole.
+    static VersionMark markOf(QByteArrayView bytes)
+    {
+        if (internal::kindOf(bytes) != FileKind::Budget)
+            return {};
+        try {
+            const internal::BudgetImage image(bytes);
+            if (image.hasByteSeal())
+                image.checkSeal();
+            return image.mark();
+        } catch (const internal::ContentFault &) {
+            return {};
+        }
+    }
+
+    /// The mark under which the present version is kept: with a time, and with a number
+    /// that no other version has.
+    static VersionMark numbered(VersionMark present, const std::optional<FileContent> &content,
+                                internal::VersionFolder &folder)
+    {
+        if (!content)
+            return present;
+        const auto isOther = [&present](const internal::FormerVersion &former) {
+            return former.mark.number == present.number && former.mark.id != present.id &&
+                   former.mark.savedAt != present.savedAt;
+        };
+        if (present.number == 0 || std::ranges::any_of(folder.versions(), isOther))
+            present.number = folder.highest() + 1;
+        if (!present.savedAt.isValid())
+            present.savedAt = QDateTime::fromSecsSinceEpoch(content->stamp.seconds, Qt::UTC)
+                                  .addMSecs(content->stamp.nanoseconds / 1'000'000);
+        return present;
+    }
+
+    void checkReplaceable(const QByteArray &bytes, const Fingerprint &found,
+                          const std::optional<Fingerprint> &known) const
     {
         // A save that failed at its very end may have left its own content.
-        const Fingerprint found(bytes);
         if (found == m_attempted)
             return;
         if (known) {
@@ -147,8 +226,8 @@ private:
                 throw internal::changedOnDisk(m_target.shownPath());
             return;
         }
-        // The user chose an existing file. A budget, whole or not, stays as the
-        // backup; another file is not overwritten.
+        // The user chose an existing file. A budget, whole or not, is kept as a former
+        // version; another file is not overwritten.
         const FileKind kind = internal::kindOf(bytes);
         if (kind == FileKind::Foreign || kind == FileKind::Newer)
             internal::requireBudget(kind, m_target.shownPath());
@@ -161,7 +240,8 @@ private:
     std::optional<Fingerprint> m_attempted;
 };
 
-BudgetFile::BudgetFile(unsigned backups) : m_backups(backups) {}
+BudgetFile::BudgetFile() : BudgetFile(Pace()) {}
+BudgetFile::BudgetFile(Pace pace) : m_pace(std::move(pace)) {}
 BudgetFile::~BudgetFile() = default;
 
 void BudgetFile::setFilePathName(const QString &filePathName)
@@ -208,10 +288,12 @@ BudgetStorage::Data BudgetFile::load()
     Chosen chosen = choose();
     if (!chosen.file->exists())
         throw internal::fileNotFound(m_chosenPath);
-    chosen.file->lockIfPossible();
+    if (!m_isReading)
+        chosen.file->lockIfPossible(m_pace.patience);
     QStringList mended;
     Data data = chosen.file->load(mended);
     warnOf(mended);
+    m_burst.reset();
     if (chosen.other)
         m_open = std::move(chosen.other);
     backOnFailure.dismiss();
@@ -220,21 +302,71 @@ BudgetStorage::Data BudgetFile::load()
 
 void BudgetFile::store(const Data &data)
 {
+    Burst burst;
+    const auto draft = [&](VersionMark mark, bool isMerged) {
+        if (isMerged)
+            burst = *m_burst;
+        if (burst.change.isEmpty())
+            burst.change = m_change;
+        const int others = burst.stores++;
+        mark.nameChange(others == 0
+                            ? burst.change
+                            : QObject::tr("%1 and %n more", nullptr, others).arg(burst.change));
+        mark.savedAt = QDateTime::currentDateTimeUtc();
+        mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
+        QByteArray file = withContent([&] { return encodedSafely(data, mark); },
+                                      [this](const std::exception &cause) {
+                                          return internal::cannotHold(m_chosenPath, cause);
+                                      });
+        return std::pair(std::move(file), std::move(mark));
+    };
+    store(draft, m_burst && m_pace.now() - m_burst->last < burstLength);
+    burst.last = m_pace.now();
+    m_burst = std::move(burst);
+}
+
+void BudgetFile::restore(const KeptVersion &version)
+{
+    auto backOnFailure = qScopeGuard([this] { goBack(); });
+    const std::optional<FileContent> content =
+        internal::readFile(FileTarget(version.path), internal::fileSizeMax);
+    if (!content)
+        throw internal::fileNotFound(version.path);
+    internal::requireBudget(internal::kindOf(content->bytes), version.path);
+    const internal::BudgetImage image(content->bytes);
+    const auto isDamaged = [&](const std::exception &cause) {
+        return internal::damaged(version.path, cause);
+    };
+    withContent([&] { image.checkSeal(); }, isDamaged);
+    const auto draft = [&](const VersionMark &next, bool) {
+        if (image.hasByteSeal())
+            return std::pair(content->bytes, image.mark());
+        // What the first edition wrote becomes a file of the present one.
+        QStringList mended;
+        const Data data = withContent([&] { return image.data(mended); }, isDamaged);
+        VersionMark mark = version.mark;
+        mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
+        if (mark.number == 0)
+            mark.number = next.number;
+        QByteArray file = withContent([&] { return encodedSafely(data, mark); }, isDamaged);
+        return std::pair(std::move(file), std::move(mark));
+    };
+    store(draft, false);
+    backOnFailure.dismiss();
+}
+
+void BudgetFile::store(const Draft &draft, bool mayMerge)
+{
     auto backOnFailure = qScopeGuard([this] { goBack(); });
     Chosen chosen = choose();
-    VersionMark mark = chosen.file->mark().next();
-    mark.nameChange(std::exchange(m_change, {}));
-    mark.savedAt = QDateTime::currentDateTimeUtc();
-    mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
-    const QByteArray file = withContent(
-        [&] { return encodedSafely(data, mark); },
-        [this](const std::exception &cause) { return internal::cannotHold(m_chosenPath, cause); });
-    chosen.file->lock();
+    chosen.file->lock(m_pace.patience);
     // The name may lead to another file than before, when it is a link.
     const bool isOpen = m_open && (!chosen.other || m_open->target().shownPath() == m_chosenPath);
-    chosen.file->store(file, mark, isOpen ? m_open->known() : std::nullopt, m_backups);
+    chosen.file->store(draft, isOpen ? m_open->known() : std::nullopt, mayMerge && !chosen.other);
     if (chosen.other)
         m_open = std::move(chosen.other);
+    m_burst.reset();
+    m_change.clear();
     backOnFailure.dismiss();
 }
 

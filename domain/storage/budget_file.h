@@ -2,7 +2,10 @@
 #pragma once
 
 #include "storage/budget_storage.h"
+#include "storage/kept_versions.h"
 
+#include <chrono>
+#include <functional>
 #include <memory>
 
 namespace kiv::storage {
@@ -13,14 +16,21 @@ namespace kiv::storage {
 /// A file that was loaded or stored stays locked against every other
 /// BudgetFile, here or in another process, until another file is loaded or
 /// stored or this object ends.
+///
+/// Each store keeps the version until then as a former one, see keptVersions(). What one
+/// BudgetFile stores within a second makes one version.
 class KIV_STORAGE_EXPORT BudgetFile final : public BudgetStorage {
 public:
-    /// How many previous versions are kept next to the file unless told
-    /// otherwise.
-    static constexpr unsigned backupsByDefault = 5;
+    /// How a BudgetFile tells and spends time.
+    struct Pace {
+        /// So long load and store wait for another who has the lock.
+        std::chrono::milliseconds patience{2000};
+        /// When it is, for what is stored within a second.
+        std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
+    };
 
-    /// Keeps as many previous versions next to the file.
-    explicit BudgetFile(unsigned backups = backupsByDefault);
+    BudgetFile();
+    explicit BudgetFile(Pace pace);
     ~BudgetFile() override;
 
     void setFilePathName(const QString &filePathName) override;
@@ -28,10 +38,18 @@ public:
     /// by allowed requests is mended, with a warning in the log for each mended thing.
     [[nodiscard]] static Data mended(Data data);
 
+    /// Whether the next load is for reading only, and so takes no lock. The first store
+    /// takes it.
+    void setReading(bool isReading) noexcept { m_isReading = isReading; }
     /// Mended where it needs it.
     [[nodiscard]] Data load() override;
     void store(const Data &data) override;
-    /// Names the change that the next store saves, in a line such as "Paid Rent".
+    /// Makes a former version the file again, with its own mark, and keeps the one until
+    /// now. Throws StorageError as store() does, NotFound when the version is gone, and
+    /// Damaged when it is not whole.
+    void restore(const KeptVersion &version);
+    /// Names the change that the next successful store saves, in a line such as "Paid
+    /// Rent".
     void setChange(const QString &change) { m_change = change; }
     /// The file that was chosen; empty before. A load or store that fails chooses the
     /// one that was loaded or saved last again, if there is one.
@@ -45,12 +63,24 @@ private:
         OpenFile *file;
     };
 
+    /// What was stored last, when more may become one version with it.
+    struct Burst {
+        std::chrono::steady_clock::time_point last;
+        QString change; ///< the first one that was named
+        int stores = 0;
+    };
+    /// The bytes to store and their mark, from the mark that a new version would have.
+    using Draft = std::function<std::pair<QByteArray, VersionMark>(VersionMark, bool isMerged)>;
+
     [[nodiscard]] Chosen choose();
     void goBack() noexcept;
+    void store(const Draft &draft, bool mayMerge);
 
-    unsigned m_backups;
+    Pace m_pace;
     QString m_chosenPath;
     QString m_change;
+    bool m_isReading = false;
+    std::optional<Burst> m_burst;
     std::unique_ptr<OpenFile> m_open;
 };
 

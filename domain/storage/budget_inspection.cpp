@@ -6,8 +6,6 @@
 #include "storage/internal/file_content.h"
 #include "storage/internal/schema.h"
 
-#include <QtCore/QFile>
-
 #include <algorithm>
 #include <new>
 
@@ -91,12 +89,6 @@ BudgetInspection inspectBudget(const QString &filePathName)
         inspection.judgements.back().reasons = mended;
     }
     return inspection;
-}
-
-QString backupOf(const QString &filePathName, unsigned number)
-{
-    const internal::FileTarget target(filePathName);
-    return QFile::decodeName(target.folder() + '/' + internal::backupName(target, number));
 }
 
 } // namespace kiv::storage

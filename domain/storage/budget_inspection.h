@@ -59,9 +59,4 @@ struct KIV_STORAGE_EXPORT BudgetInspection {
 /// look at, or none that can be read.
 [[nodiscard]] KIV_STORAGE_EXPORT BudgetInspection inspectBudget(const QString &filePathName);
 
-/// Where the backup of that number of a budget file lies, which need not exist;
-/// 1 is the version before the file's. Throws StorageError when the file's
-/// folder does not exist.
-[[nodiscard]] KIV_STORAGE_EXPORT QString backupOf(const QString &filePathName, unsigned number);
-
 } // namespace kiv::storage

@@ -12,11 +12,9 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QList>
 #include <QtCore/QObject>
-#include <QtCore/QThread>
 
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <new>
 
 namespace kiv::storage {
@@ -30,23 +28,8 @@ constexpr qsizetype fileSizeMax = qsizetype{1024} * 1024;
 constexpr QByteArrayView kindWord = "kiv-exchange-rates ";
 constexpr int currentVersion = 2;
 constexpr QByteArrayView digestWord = "sha256 ";
-/// How often, and after how many milliseconds, storing is tried again while
-/// another process stores its rates.
-constexpr int lockTriesMax = 50;
-constexpr unsigned long lockPause = 10;
-
-std::unique_ptr<internal::FileLock> lockInTurn(const FileTarget &target)
-{
-    for (int tries = 1;; ++tries) {
-        try {
-            return std::make_unique<internal::FileLock>(target);
-        } catch (const StorageError &error) {
-            if (error.failure() != StorageFailure::Locked || tries == lockTriesMax)
-                throw;
-        }
-        QThread::msleep(lockPause);
-    }
-}
+/// So long storing waits for another process that stores its rates.
+constexpr std::chrono::milliseconds patience(500);
 
 QByteArray digestOf(QByteArrayView text)
 {
@@ -182,7 +165,7 @@ void RatesFile::store(const conversion::ConversionMap &rates)
     if (error)
         throw internal::cannotWrite(m_filePathName, error.value());
     const FileTarget target(m_filePathName);
-    const auto lock = lockInTurn(target);
+    const internal::FileLock lock(target, patience);
     std::optional<internal::FileStamp> replaced;
     try {
         if (const auto content = internal::readFile(target, fileSizeMax)) {
@@ -196,7 +179,7 @@ void RatesFile::store(const conversion::ConversionMap &rates)
             throw;
         setAside(target, reason);
     }
-    internal::AtomicFileWriter(target, replaced).write(encode(rates), 0);
+    internal::AtomicFileWriter(target, replaced).write(encode(rates));
 }
 
 } // namespace kiv::storage

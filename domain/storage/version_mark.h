@@ -24,6 +24,8 @@ struct KIV_STORAGE_EXPORT VersionMark {
     /// How many transactions it has.
     qint64 transactions = 0;
 
+    /// The highest number.
+    static constexpr qint64 numberMax = 999'999'999'999'999;
     /// So many ancestors are kept, the nearest.
     static constexpr qsizetype ancestorsMax = 64;
     /// The longest line that names a change, in characters; a longer one is cut.

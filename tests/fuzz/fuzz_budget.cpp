@@ -143,7 +143,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const QString again = QStringLiteral("again.budget");
     QFile::remove(folder.path(again));
-    storage::BudgetFile file(0);
+    storage::BudgetFile file;
     file.setFilePathName(folder.path(again));
     file.store(read);
     if (const QString part = test::difference(file.load(), read); !part.isEmpty())

@@ -119,7 +119,7 @@ private:
 storage::BudgetStorage::Data throughFile(const QString &path,
                                          const storage::BudgetStorage::Data &data)
 {
-    storage::BudgetFile file(0);
+    storage::BudgetFile file;
     file.setFilePathName(path);
     file.store(data);
     return file.load();

@@ -55,9 +55,9 @@ begin() {
         kiv bill add Rent '1250.00 USD' --next 2026-01-31
         kiv wage add Salary '3100.00 USD' --next 2026-01-25
         mkdir "$CRAMTMP/begun"
-        cp -p household.budget* "$CRAMTMP/begun"
+        cp -pr household.budget* "$CRAMTMP/begun"
     fi >/dev/null
-    cp -p "$CRAMTMP/begun/"* .
+    cp -pr "$CRAMTMP/begun/"* .
 }
 
 # Keeps the file open in a shell that reads what `say` writes, until `let_go`.

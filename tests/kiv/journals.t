@@ -66,7 +66,7 @@ paid for another one:
   >     Assets:Cash          3.00 EUR
   >     owed:Ann
   > .
-  $ rm household.budget*
+  $ rm -r household.budget*
   $ kiv new
   Created the empty budget 'household.budget'.
   $ kiv import forms.journal
@@ -77,7 +77,7 @@ paid for another one:
 
 A journal is shown before it is posted:
 
-  $ rm household.budget*
+  $ rm -r household.budget*
   $ kiv new
   Created the empty budget 'household.budget'.
   $ cat >a.journal <<.

@@ -67,14 +67,14 @@ What is there is told:
   > pay Rent 100 --account Checking --date 2026-02-03
   > transaction clear 4
   > .
-  $ kiv history diff 1 0
+  $ kiv history diff
   What         Name  Change   Detail
   transaction  4     changed  creditStatus none → cleared, debitStatus none → cleared
   $ kiv account recode Food --under Old
   The account 7 Expenses:Food is now 7 Expenses:Old:Food.
   $ kiv transaction update 3 --date 2026-02-01
   Changed transaction 3.
-  $ kiv history diff 1 0
+  $ kiv history diff
   What         Name  Change   Detail
   transaction  3     changed  date 2026-02-02 → 2026-02-01
   $ kiv accounts

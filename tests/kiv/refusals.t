@@ -56,7 +56,7 @@ Nothing to change, and what excludes each other:
 
   $ each 2 <<'.'
   > bill update Rent
-  > undo --to 0
+  > undo --steps 0
   > account recode 1 --under 3 --top-level
   > bill update Rent --tag home --no-tags
   > post Rent --all --account Checking
@@ -69,7 +69,7 @@ Nothing to change, and what excludes each other:
   > export --format csv --json
   > .
   kiv: No change given; see --help.
-  kiv: Version 0 is the file itself; see kiv history for older ones.
+  kiv: '0' is not a whole number from 1 to 1000.
   kiv: Use either --under or --top-level, not both.
   kiv: Use either --no-tags or --tag, not both.
   kiv: Use either --all or ITEM, not both.

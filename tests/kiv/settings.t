@@ -93,7 +93,7 @@ never offered:
   kiv: There is no option '--json'; see kiv completion bash --help.
   [2]
   $ echo $(kiv completion words)
-  new info save-as wizard templates undo history check accounts ledger account transactions transaction transfer refundable refund bill debt goal nontrack wage tags due post pay skip banks bank bank-account import survey reconciliation dashboard report export configure rates shell watch tour updates release-notes completion
+  new info save-as wizard templates undo redo history check accounts ledger account transactions transaction transfer refundable refund bill debt goal nontrack wage tags due post pay skip banks bank bank-account import survey reconciliation dashboard report export configure rates shell watch tour updates release-notes completion
 
 A rates file that cannot be read gets another name, which is told:
 
@@ -105,7 +105,7 @@ A rates file that cannot be read gets another name, which is told:
 
 Settings are kept. What is preferred is usable, unless the usable ones are given:
 
-  $ rm household.budget*
+  $ rm -r household.budget*
   $ kiv new
   Created the empty budget 'household.budget'.
   $ kiv configure set --preferred EUR --usable EUR --usable USD --display code --notify-within 30

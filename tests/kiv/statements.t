@@ -48,10 +48,10 @@ A third coffee is new; the other entries were there before:
 
 What changes nothing is not saved, and keeps the former versions:
 
-  $ cp household.budget.backup-1 formerly
+  $ kiv history --json >formerly
   $ again | tail -1
   Transactions posted: 0; duplicates skipped: 5; accounts opened: 0.
-  $ cmp household.budget.backup-1 formerly
+  $ kiv history --json | cmp - formerly
   $ again --keep-duplicates | tail -1
   Transactions posted: 5; duplicates skipped: 0; accounts opened: 0.
 

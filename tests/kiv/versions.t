@@ -20,7 +20,7 @@ undone again is there again:
   >     tail -1 dry | grep -v 'nothing is saved'
   >     kiv undo >/dev/null
   >     image household.budget | cmp before -
-  >     kiv undo >/dev/null
+  >     kiv redo >/dev/null
   >     image household.budget | cmp after -
   > }
   $ undone bill add Gym 30 --tag sport
@@ -30,8 +30,8 @@ undone again is there again:
   $ undone survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02
   Reconciled 1 Checking at First with a balance of $2,500.00.
 
-Older versions come back by their number. The one that is replaced is then the newest of
-the former ones:
+Undo goes back by one change each time, or by several, or to any version; redo goes forth
+again:
 
   $ begin
   $ kiv export --format json >first
@@ -40,12 +40,12 @@ the former ones:
   $ kiv bill add Club 20 --next 2026-02-01
   Added the bill 'Club'.
   $ kiv export --format json >last
-  $ kiv undo --to 2 --dry-run --json | jq -c '.changes[] | [.change, .what, .name]'
+  $ kiv undo --steps 2 --dry-run --json | jq -c '.changes[] | [.change, .what, .name]'
   ["removed","item","bill Club"]
   ["removed","item","bill Gym"]
   ["removed","account","5 Gym [Budget Item]"]
   ["removed","account","6 Club [Budget Item]"]
-  $ kiv undo --to 2
+  $ kiv undo --to 5
   Restored the version saved at ????-??-?? ??:??:??. (glob)
   What     Name                  Change   Detail
   item     bill Club             removed  20.00 USD, monthly, 2026-02-01
@@ -53,8 +53,56 @@ the former ones:
   account  5 Gym [Budget Item]   removed  0.00 USD
   account  6 Club [Budget Item]  removed  0.00 USD
   $ kiv export --format json | cmp - first
-  $ kiv undo >/dev/null
+  $ kiv redo --steps 2 >/dev/null
   $ kiv export --format json | cmp - last
+  $ kiv redo
+  kiv: There is nothing to redo.
+  [1]
+  $ kiv undo >/dev/null
+  $ kiv undo >/dev/null
+  $ kiv export --format json | cmp - first
+  $ kiv redo --steps 3
+  kiv: Only 2 changes can be redone.
+  [1]
+  $ kiv undo --steps 9
+  kiv: Only 4 changes can be undone.
+  [1]
+
+What is kept; a new change ends redo, and what was undone stays in the list:
+
+  $ kiv pay Rent 5 --account Checking --date 2026-02-01
+  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv redo
+  kiv: There is nothing to redo.
+  [1]
+  $ kiv history
+  Version           Saved at             Transactions  Change
+  8        present  ????-??-?? ??:??:??             2  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31 (glob)
+  7                 ????-??-?? ??:??:??             1  Added the bill 'Club' (glob)
+  6                 ????-??-?? ??:??:??             1  Added the bill 'Gym' (glob)
+  5                 ????-??-?? ??:??:??             1  Added the wage 'Salary' (glob)
+  4                 ????-??-?? ??:??:??             1  Added the bill 'Rent' (glob)
+  3                 ????-??-?? ??:??:??             1  Added the account 1 Checking to the bank 'First' (glob)
+  2                 ????-??-?? ??:??:??             0  Added the bank 'First' (glob)
+  1                 ????-??-?? ??:??:??             0  Created the budget (glob)
+  $ kiv undo >/dev/null
+  $ kiv history --json | jq -c 'map([.version, .present])'
+  [["8",false],["7",false],["6",false],["5",true],["4",false],["3",false],["2",false],["1",false]]
+  $ kiv undo --to 5
+  kiv: The file already is at version 5.
+  [1]
+
+Surveys and imports have their own lines, and what one program does at once is one:
+
+  $ begin
+  $ kiv survey complete First Checking --balance 2500 --tick 1 --date 2026-01-02 >/dev/null
+  $ jq -n '[{date: "2026-01-02", debit: 1, credit: 4, amount: "1 USD"}]' |
+  >     kiv transaction load - >/dev/null
+  $ printf 'bill add Gym 30\nbill add Club 20\nbill add Car 9\n' | kiv shell >/dev/null
+  $ kiv history --json | jq -r '.[:3][].change'
+  Added the bill 'Gym' and 2 more
+  Posted 1 transaction
+  Survey of Checking, 2026-01-02
 
 A large import that is undone does not fill the terminal:
 
@@ -70,29 +118,8 @@ A large import that is undone does not fill the terminal:
   $ load 1000
   23
   982 more changes are not shown; see all with --json.
-  $ kiv undo --dry-run --json | jq '.changes | length'
+  $ kiv redo --dry-run --json | jq '.changes | length'
   1002
-
-What is kept, from the file itself on:
-
-  $ begin
-  $ kiv bill add Gym 30 --next 2026-02-01
-  Added the bill 'Gym'.
-  $ kiv pay Gym 5 --account Checking --date 2026-02-01
-  Posted $5.00 for the bill 'Gym', which is still due on 2026-02-01.
-  $ kiv history
-  Version  Saved at             Bytes  Items  Accounts  Transactions
-        0  ????-??-?? ??:??:??  ?????      3         5             2 (glob)
-        1  ????-??-?? ??:??:??  ?????      3         5             1 (glob)
-        2  ????-??-?? ??:??:??  ?????      2         4             1 (glob)
-        3  ????-??-?? ??:??:??  ?????      1         3             1 (glob)
-        4  ????-??-?? ??:??:??  ?????      0         2             1 (glob)
-        5  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
-  $ kiv history --json >history
-  $ jq 'map(.savedAt) == (map(.savedAt) | sort | reverse),
-  >     (now - (.[0].savedAt | sub("\\.\\d+"; "") | fromdate) | fabs < 600)' history
-  true
-  true
 
 Differences are told field by field:
 
@@ -103,25 +130,25 @@ Differences are told field by field:
   Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
   $ kiv history diff
   What         Name                  Change   Detail
-  account      1 Checking            changed  balance 2500.00 USD → 2495.00 USD
-  account      3 Rent [Budget Item]  changed  balance 0.00 USD → 5.00 USD
+  account      1 Checking            changed  balance 2500.00 USD \xe2\x86\x92 2495.00 USD (esc)
+  account      3 Rent [Budget Item]  changed  balance 0.00 USD \xe2\x86\x92 5.00 USD (esc)
   transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
-  $ kiv history diff 2 1
+  $ kiv history diff 5 6
   What  Name       Change   Detail
-  item  bill Rent  changed  amount 1250.00 USD → 1300.00 USD, tags  → home
+  item  bill Rent  changed  amount 1250.00 USD \xe2\x86\x92 1300.00 USD, tags  \xe2\x86\x92 home (esc)
   $ kiv history diff --json | jq -c '.[0]'
   {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
   $ kiv bill update Rent --every every-two-weeks --next 2026-03-01
   Changed the bill 'Rent'.
   $ kiv history diff
   What  Name       Change   Detail
-  item  bill Rent  changed  every monthly → every two weeks, next 2026-01-31 → 2026-03-01
+  item  bill Rent  changed  every monthly \xe2\x86\x92 every two weeks, next 2026-01-31 \xe2\x86\x92 2026-03-01 (esc)
   $ kiv survey complete First Checking --date 2026-02-28 --balance 2495 --tick-all
   Reconciled 1 Checking at First with a balance of $2,495.00.
   $ kiv history diff
   What         Name     Change   Detail
-  transaction  1        changed  creditStatus none → reconciled, debitStatus none → reconciled
-  transaction  2        changed  creditStatus none → reconciled, debitStatus none → reconciled
+  transaction  1        changed  creditStatus none \xe2\x86\x92 reconciled, debitStatus none \xe2\x86\x92 reconciled (esc)
+  transaction  2        changed  creditStatus none \xe2\x86\x92 reconciled, debitStatus none \xe2\x86\x92 reconciled (esc)
   survey       First 1  added    2495.00 USD
   $ kiv bank rename First Second
   The bank is now called 'Second'.
@@ -138,60 +165,92 @@ Differences are told field by field:
   > account remove Food
   > account add Food --type income --number 5
   > .
-  $ kiv history diff 3 2
+  $ kiv history diff 12 13
   What     Name    Change   Detail
-  account  5 Food  changed  parent – → 6, path Expenses:Food → Expenses:Out:Food
-  $ kiv history diff 3 0
+  account  5 Food  changed  parent \xe2\x80\x93 \xe2\x86\x92 6, path Expenses:Food \xe2\x86\x92 Expenses:Out:Food (esc)
+  $ kiv history diff 12 15
   What     Name    Change   Detail
-  account  5 Food  changed  path Expenses:Food → Income:Food, type expense → income
+  account  5 Food  changed  path Expenses:Food \xe2\x86\x92 Income:Food, type expense \xe2\x86\x92 income (esc)
 
 Nothing is undone where that would lose something:
 
-  $ rm household.budget*
+  $ rm -r household.budget*
   $ kiv new
   Created the empty budget 'household.budget'.
   $ kiv undo
-  kiv: There is no version 1; this budget has no older versions.
+  kiv: There is nothing to undo.
   [1]
   $ kiv bank add First
   Added the bank 'First'.
-  $ kiv undo --to 2
-  kiv: There is no version 2; see kiv history.
+  $ kiv undo --to 7
+  kiv: There is no version 7; see kiv history.
   [1]
   $ hold
   $ kiv undo
   kiv: The file 'household.budget' is in use by another program (process *, kiv on *). (glob)
   [1]
+  $ kiv banks
+  First
+  There are no accounts.
+  $ ls -A | grep lock
+  household.budget.lock
   $ let_go
 
-The former version is no file, or damaged; the file is not the worse for it:
+A former version is damaged; the file is not the worse for it:
 
-  $ mv household.budget.backup-1 kept
-  $ mkdir household.budget.backup-1
+  $ former=$(ls household.budget.versions/*)
+  $ cp "$former" kept
+  $ head -c -100 kept >"$former"
   $ kiv undo
-  kiv: '*/versions.t/household.budget.backup-1' is not a regular file. (glob)
-  [1]
-  $ rmdir household.budget.backup-1
-  $ head -c -100 household.budget >household.budget.backup-1
-  $ kiv undo
-  kiv: The version in '*/versions.t/household.budget.backup-1' is damaged. The checksum is wrong. (glob)
+  kiv: The version in '*/versions.t/household.budget.versions/*-1.budget' is damaged. The checksum is wrong. (glob)
   [1]
   $ kiv history
-  Version  Saved at             Bytes  Items  Accounts  Transactions
-        0  ????-??-?? ??:??:??  ?????      0         0             0 (glob)
-        1  ????-??-?? ??:??:??  ?????                                 damaged (glob)
+  Version           Saved at             Transactions  Change
+  2        present  ????-??-?? ??:??:??             0  Added the bank 'First' (glob)
+  1                 ????-??-?? ??:??:??                                        damaged (glob)
+  $ cp kept "$former"
 
-So is the file itself; what to do then is said:
+The file is gone or damaged. Each command says what to do, and undo does it:
 
   $ cp household.budget whole
-  $ head -c -100 whole >household.budget
-  $ kiv undo
-  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: The checksum is wrong. Find an intact version with kiv history, then copy its file (such as '*/versions.t/household.budget.backup-1') over the damaged one. (glob)
-  [1]
+  $ rm household.budget
+  $ each 1 <<'.'
+  > banks
+  > bank add Second
+  > check
+  > redo
+  > new
+  > history diff
+  > .
+  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
+  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
+  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
+  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
+  kiv: The file 'household.budget' is gone, but its former versions are kept; bring the newest back with kiv undo.
+  kiv: The file 'household.budget' is gone, but its former versions are kept; bring the newest back with kiv undo.
   $ kiv history
-  Version  Saved at             Bytes  Items  Accounts  Transactions
-        0  ????-??-?? ??:??:??  ?????                                 damaged (glob)
-        1  ????-??-?? ??:??:??  ?????                                 damaged (glob)
+  Version    Saved at             Transactions  Change
+  1          ????-??-?? ??:??:??             0  Created the budget (glob)
+  The file 'household.budget' is gone. Former versions are kept; bring the newest back with kiv undo.
+  $ kiv undo --dry-run
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
+  Dry run: nothing is saved.
+  $ test -e household.budget
+  [1]
+  $ kiv undo
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
+  $ cmp kept household.budget
+  $ head -c -100 whole >household.budget
+  $ kiv banks
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: The checksum is wrong. Former versions are kept; bring the newest back with kiv undo.
+  [1]
+  $ kiv undo
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
+  $ cmp kept household.budget
+  $ kiv history
+  Version           Saved at             Transactions  Change
+  2                 ????-??-?? ??:??:??                                    damaged (glob)
+  1        present  ????-??-?? ??:??:??             0  Created the budget (glob)
 
 Every promise of a file is judged, and none behind one that is broken:
 
@@ -227,7 +286,7 @@ As another kind of file is, and a newer version:
   ["broken","not judged","not judged","not judged","not judged","not judged","not judged"]
   [1]
   The file is a budget file of a known version  FAILED       The file 'household.budget' was not written by this program.
-  The budget 'household.budget' is damaged; find an intact version with kiv history.
+  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
 
 A word of its tables, and a letter of a name:
 
@@ -236,20 +295,20 @@ A word of its tables, and a letter of a name:
   ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
   [1]
   The rows are as they were saved               FAILED       The checksum is wrong.
-  The budget 'household.budget' is damaged; find an intact version with kiv history.
+  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
   $ flipped 'index($_, "Checking")'
   false
   ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
   [1]
   The rows are as they were saved               FAILED       The checksum is wrong.
-  The budget 'household.budget' is damaged; find an intact version with kiv history.
+  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
 
 Former versions are checked, too, and files that somebody has open. What has lost its
 account is mended when it is opened:
 
   $ begin
-  $ kiv check household.budget.backup-1 | tail -1
-  The budget 'household.budget.backup-1' is intact.
+  $ kiv check household.budget.versions/*-4.budget | tail -1
+  The budget 'household.budget.versions/*-4.budget' is intact. (glob)
   $ kiv check household | tail -2
   Debits equal credits in every currency        ok      2500.00 USD
   The budget 'household.budget' is intact.

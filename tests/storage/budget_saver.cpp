@@ -4,7 +4,8 @@
 //
 //     budget_saver save FILE      saves two budgets in turn
 //     budget_saver spoil FILE     does the same as a careless program does it
-//     budget_saver check FILE     status 0 when the file is one of the two
+//     budget_saver check FILE     status 0 when the file is one of the two and
+//                             the list of its versions is right
 //
 // It prints a line once the file is there and it goes on.
 #include "random_budget.h"
@@ -24,9 +25,11 @@ int main(int argc, char **argv)
     try {
         if (task == "check") {
             const auto data = test::load(path);
-            return std::ranges::count(budgets, data) == 1 ? 0 : 1;
+            const QString wrong = test::wrongInVersions(path);
+            std::cerr << qPrintable(wrong) << '\n';
+            return std::ranges::count(budgets, data) == 1 && wrong.isEmpty() ? 0 : 1;
         }
-        storage::BudgetFile file;
+        storage::BudgetFile file(test::atLeisure());
         file.setFilePathName(path);
         if (task == "save" && QFile::exists(path))
             (void)file.load();

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "failing_calls.h"
 
+#include <dirent.h>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -20,6 +23,13 @@ template <long Number, typename... Arguments>
 int ask(const char *call, Arguments... arguments)
 {
     return answer(call, [&] { return static_cast<int>(::syscall(Number, arguments...)); });
+}
+
+/// The system's library's own function of this name.
+template <typename Function>
+Function next(const char *name)
+{
+    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
 }
 
 /// The mode behind the flags of open, if there is one.
@@ -95,6 +105,25 @@ int linkat(int fromFolder, const char *from, int toFolder, const char *to, int f
 { return ask<SYS_linkat>("linkat", fromFolder, from, toFolder, to, flags); }
 int renameat(int fromFolder, const char *from, int toFolder, const char *to)
 { return ask<SYS_renameat2>("renameat", fromFolder, from, toFolder, to, 0); }
+int mkdir(const char *path, mode_t mode) { return ask<SYS_mkdir>("mkdir", path, mode); }
+int rmdir(const char *path) { return ask<SYS_rmdir>("rmdir", path); }
+int fstatvfs(int file, struct statvfs *status)
+{
+    static const auto real = next<int (*)(int, struct statvfs *)>("fstatvfs");
+    return answer("fstatvfs", [&] { return real(file, status); });
+}
+DIR *fdopendir(int folder)
+{
+    static const auto real = next<DIR *(*)(int)>("fdopendir");
+    DIR *list = nullptr;
+    return answer("fdopendir", [&] { return (list = real(folder)) ? 0 : -1; }) == 0 ? list : nullptr;
+}
+dirent *readdir(DIR *list)
+{
+    static const auto real = next<dirent *(*)(DIR *)>("readdir");
+    dirent *entry = nullptr;
+    return answer("readdir", [&] { entry = real(list); return 0; }) == 0 ? entry : nullptr;
+}
 int unlink(const char *path) { return ask<SYS_unlink>("unlink", path); }
 int unlinkat(int folder, const char *path, int flags) { return ask<SYS_unlinkat>("unlinkat", folder, path, flags); }
 

@@ -25,7 +25,7 @@ class OpenBudget : public QObject {
 protected:
     void begin()
     {
-        m_file.emplace();
+        m_file.emplace(atLeisure());
         m_folder.emplace();
         m_path = m_folder->path(QStringLiteral("home.budget"));
         QCOMPARE(storing(m_path, QStringLiteral("First")), std::nullopt);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/budget_file.h"
+#include "storage/budget_inspection.h"
 #include "storage/storage_error.h"
 
 #include <QtCore/QDir>
@@ -9,6 +10,7 @@
 #include <QtCore/QTemporaryDir>
 
 #include <optional>
+#include <ranges>
 
 namespace kiv::test {
 
@@ -62,16 +64,52 @@ std::optional<storage::StorageFailure> failureOf(Call call)
     return std::nullopt;
 }
 
+/// A pace at which each store makes a version, and nobody waits for a lock.
+inline storage::BudgetFile::Pace atLeisure()
+{
+    using namespace std::chrono_literals;
+    return {0ms, [time = std::chrono::steady_clock::time_point()]() mutable { return time += 2s; }};
+}
+
+/// The ids of the version in the file and of the former ones, each once.
+inline QStringList versionsOf(const QString &path)
+{
+    QStringList ids;
+    for (const storage::KeptVersion &version : storage::keptVersions(path))
+        ids.append(version.mark.id);
+    ids.removeDuplicates();
+    return ids;
+}
+
+/// What is wrong with the list of versions, or nothing: each is there once and whole, and
+/// the one before the file's is kept.
+inline QString wrongInVersions(const QString &path)
+{
+    const auto versions = storage::keptVersions(path);
+    const storage::VersionMark &mark = versions.front().mark;
+    qint64 number = mark.number;
+    for (const storage::KeptVersion &version : versions | std::views::drop(1)) {
+        const bool isFiles = version.mark.id == mark.id && version.mark.number == mark.number;
+        if (!isFiles && version.mark.number >= std::exchange(number, version.mark.number))
+            return QStringLiteral("version %1 is there twice").arg(version.name);
+        if (!storage::inspectBudget(version.path).data)
+            return QStringLiteral("version %1 is damaged").arg(version.name);
+    }
+    return mark.ancestors.isEmpty() || versionsOf(path).contains(mark.ancestors.first())
+               ? QString()
+               : QStringLiteral("the version before is not kept");
+}
+
 inline void store(const QString &path, const storage::BudgetStorage::Data &data)
 {
-    storage::BudgetFile file;
+    storage::BudgetFile file(atLeisure());
     file.setFilePathName(path);
     file.store(data);
 }
 
 inline storage::BudgetStorage::Data load(const QString &path)
 {
-    storage::BudgetFile file;
+    storage::BudgetFile file(atLeisure());
     file.setFilePathName(path);
     return file.load();
 }

@@ -49,6 +49,7 @@ private slots:
     void whatMayNotBeWrittenStays();
     void whatIsInTheWayStays_data();
     void whatIsInTheWayStays();
+    void versionsThatCannotBeKeptRefuseTheSave();
     void linksAreFollowed();
     void attributesAreKept();
 };
@@ -128,7 +129,7 @@ void BudgetTargetsTest::refusedFilesStayAndTheOpenOneStaysOpen()
     const bool isRead = failure != StorageFailure::TooLarge && QFileInfo(other).isFile();
     const QByteArray before = isRead ? m_folder->read(u"other.budget"_qs) : QByteArray();
     QCOMPARE(loading(other), failure);
-    // What is another's is not saved over; what was a budget becomes a backup of it.
+    // What is another's is not saved over; what was a budget is kept as a former version.
     const bool isSaved = isRead && (failure == StorageFailure::Damaged || before.isEmpty());
     if (!isSaved && failure != StorageFailure::NotFound && failure != StorageFailure::TooLarge) {
         QCOMPARE(storing(other, u"Third"_qs), failure);
@@ -141,8 +142,9 @@ void BudgetTargetsTest::refusedFilesStayAndTheOpenOneStaysOpen()
         QCOMPARE(storing(other, u"Third"_qs), std::nullopt);
         QCOMPARE(m_file->filePathName(), other);
     }
-    if (isRead)
-        QCOMPARE(m_folder->read(isSaved ? u"other.budget.backup-1"_qs : u"other.budget"_qs),
+    // An empty file is no version.
+    if (isRead && !before.isEmpty())
+        QCOMPARE(test::contentOf(isSaved ? storage::keptVersions(other).back().path : other),
                  before);
     m_file.reset();
     QCOMPARE(bankIn(test::load(m_path)), u"Second"_qs);
@@ -173,7 +175,7 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
     QFETCH(uint, fileMode);
     QFETCH(QString, reading);
     QFETCH(QString, saving);
-    m_file.emplace(); // locks nothing any more
+    m_file.emplace(test::atLeisure()); // locks nothing any more
     const QStringList names = m_folder->names();
     const QByteArray before = m_folder->read(u"home.budget"_qs);
     const auto setModes = [this](uint folder, uint file) {
@@ -197,7 +199,7 @@ void BudgetTargetsTest::whatMayNotBeWrittenStays()
     setModes(0777, 0666);
     QCOMPARE(saidOnReading, reading.replace(u"%1"_qs, m_path));
     QCOMPARE(saidOnSaving, saving.replace(u"%1"_qs, m_path));
-    m_file.emplace();
+    m_file.emplace(test::atLeisure());
     QCOMPARE(m_folder->names(), names);
     QCOMPARE(m_folder->read(u"home.budget"_qs), before);
     nobody = std::make_unique<Nobody>();
@@ -227,6 +229,9 @@ void BudgetTargetsTest::whatIsInTheWayStays_data()
         text("1\ninit\nelsewhere\n")(path);
         ::link(path, QByteArray(path + "2"));
     });
+    const QString versions = u"home.budget.versions"_qs;
+    row("text as versions", versions, text("Dear John\n"));
+    row("link as versions", versions, [](const QByteArray &path) { ::symlink(".", path); });
     row("folder as what is being saved", u".home.budget.saving"_qs,
         [](const QByteArray &path) { ::mkdir(path, 0700); });
 }
@@ -235,7 +240,7 @@ void BudgetTargetsTest::whatIsInTheWayStays()
 {
     QFETCH(QString, name);
     QFETCH(Making, make);
-    m_file.emplace(); // locks nothing any more
+    m_file.emplace(test::atLeisure()); // locks nothing any more
     make(QFile::encodeName(m_folder->path(name)));
     const QStringList names = m_folder->names();
     const QByteArray before = m_folder->read(name);
@@ -256,6 +261,38 @@ void BudgetTargetsTest::whatIsInTheWayStays()
     QCOMPARE(m_folder->read(name), before);
 }
 
+void BudgetTargetsTest::versionsThatCannotBeKeptRefuseTheSave()
+{
+    const QByteArray before = m_folder->read(u"home.budget"_qs);
+    const QString versions = m_path + u".versions"_qs;
+    m_file.emplace(test::atLeisure()); // locks nothing any more
+    ::chmod(qPrintable(m_path), 0666);
+    ::chmod(qPrintable(m_folder->path(u"."_qs)), 0777);
+    const bool isRoot = ::geteuid() == 0;
+    // Read-only, and a stranger's.
+    for (const auto &[owner, mode, cause] :
+         {std::tuple(65'534U, 0555U, u"cannot be used: Permission denied."_qs),
+          std::tuple(1234U, 0777U, u"belongs to another user."_qs)}) {
+        if (!isRoot && owner == 1234)
+            QSKIP("Only root gives folders away.");
+        ::mkdir(qPrintable(versions), mode);
+        ::chmod(qPrintable(versions), mode);
+        QVERIFY(!isRoot || ::chown(qPrintable(versions), owner, owner) == 0);
+        QString told;
+        const auto nobody = std::make_unique<Nobody>();
+        try {
+            test::store(m_path, budget(u"Second"_qs));
+        } catch (const storage::StorageError &error) {
+            told = error.message();
+        }
+        QCOMPARE(bankIn(test::load(m_path)), u"First"_qs);
+        QCOMPARE(told, u"The folder '%1' for the former versions "_qs.arg(versions) + cause);
+        QCOMPARE(m_folder->read(u"home.budget"_qs), before);
+        QCOMPARE(QDir(versions).entryList(QDir::Files).size(), 0);
+        ::rmdir(qPrintable(versions));
+    }
+}
+
 void BudgetTargetsTest::linksAreFollowed()
 {
     QDir().mkdir(m_folder->path(u"sub"_qs));
@@ -265,7 +302,7 @@ void BudgetTargetsTest::linksAreFollowed()
         ::symlink(target, qPrintable(link));
         QCOMPARE(storing(link, u"Linked"_qs), std::nullopt);
         QCOMPARE(QFileInfo(link).symLinkTarget(), m_folder->path(QString::fromLatin1(target)));
-        m_file.emplace();
+        m_file.emplace(test::atLeisure());
         QCOMPARE(bankIn(test::load(m_folder->path(QString::fromLatin1(target)))), u"Linked"_qs);
     }
 

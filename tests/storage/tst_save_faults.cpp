@@ -21,7 +21,7 @@ using test::failingCalls;
 namespace {
 
 const QString name = QStringLiteral("home.budget");
-const QString backup = name + QStringLiteral(".backup-1");
+const QString versions = name + QStringLiteral(".versions");
 const QString lock = name + QStringLiteral(".lock");
 
 storage::BudgetStorage::Data budget(int version)
@@ -47,18 +47,33 @@ QByteArray imageOf(int version)
     return test::imageOf(bytesOf(version));
 }
 
-/// How a budget stands to its file when it is saved.
-enum class Standing { Open, NotOpen, New };
+/// How a budget stands to its file when it is saved: with a former version, but for First.
+enum class Standing { Open, First, NotOpen, New };
 
-/// A budget of the second version with the first one as its backup, and with
-/// attributes that a new version has to take over.
+/// A folder with a budget of the second version, and with the first one as the former.
+const test::ScratchFolder &twoVersions()
+{
+    static const test::ScratchFolder folder;
+    if (folder.names().isEmpty()) {
+        test::store(folder.path(name), budget(1));
+        test::store(folder.path(name), budget(2));
+    }
+    return folder;
+}
+
+/// A copy of that folder, with attributes that a new version has to take over.
 struct Desk {
     explicit Desk(Standing standing = Standing::Open)
     {
-        folder.write(name, bytesOf(2));
-        folder.write(backup, bytesOf(1));
+        folder.write(name, twoVersions().read(name));
+        if (standing != Standing::First) {
+            const auto former = storage::keptVersions(twoVersions().path(name)).back();
+            QDir().mkdir(path + u".versions"_qs);
+            test::overwrite(path + u".versions/"_qs + QFileInfo(former.path).fileName(),
+                            test::contentOf(former.path));
+        }
         file.setFilePathName(path);
-        if (standing == Standing::Open)
+        if (standing == Standing::Open || standing == Standing::First)
             (void)file.load();
         // A new version goes without what only the system may give.
         for (const char *note : {"user.note", "trusted.note", "security.note"})
@@ -71,10 +86,12 @@ struct Desk {
     /// Of all files but the lock, which is there for as long as the file is open.
     [[nodiscard]] QStringList names() const
     {
-        QStringList names = folder.names();
+        QStringList names =
+            folder.names() + QDir(path + u".versions"_qs).entryList(QDir::Files | QDir::Hidden);
         names.removeAll(lock);
         return names;
     }
+    [[nodiscard]] QStringList kept() const { return test::versionsOf(path); }
     [[nodiscard]] QByteArray image(const QString &which) const
     {
         return test::imageOf(folder.read(which));
@@ -88,7 +105,7 @@ struct Desk {
 
     test::ScratchFolder folder;
     QString path = folder.path(name);
-    storage::BudgetFile file;
+    storage::BudgetFile file{test::atLeisure()};
 };
 
 using Saver = void (Desk::*)(int);
@@ -101,6 +118,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     Desk desk(standing);
     const QByteArray old = desk.image(name);
     const QStringList before = desk.names();
+    QStringList kept = desk.kept();
     fail(call, from, error, {}, times);
     const auto failure = test::failureOf([&] { (desk.*save)(3); });
     failingCalls.isOn = false;
@@ -113,18 +131,28 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
         return QStringLiteral("what may not be on the disk counts as saved");
     if (desk.image(name) != (failure ? old : imageOf(3)))
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
-    if (failure && desk.image(backup) != imageOf(1))
-        return QStringLiteral("a failed save changed the backup");
+    const QStringList keptThen = desk.kept();
+    if (!failure)
+        kept.prepend(keptThen.first());
+    if (keptThen != kept)
+        return QStringLiteral("the former versions are others");
+    if (!failure && kept.size() > 1 &&
+        storage::keptVersions(desk.path).front().mark.ancestors.value(0) != kept.at(1) &&
+        standing != Standing::New)
+        return QStringLiteral("it does not come from the version before");
     // The lock of a file that is not open went with the attempt.
-    if (failure && standing != Standing::Open && times == 1 && desk.folder.names().contains(lock))
+    if (failure && standing > Standing::First && times == 1 && desk.folder.names().contains(lock))
         return QStringLiteral("the lock file was left");
     const QStringList after = desk.names();
-    if (failure && after != before && call != "unlinkat")
+    if (failure && after != before && call != "unlinkat" && call != "rmdir")
         return QStringLiteral("left behind: %1").arg(after.join(u' '));
     if (test::failureOf([&] { desk.save(4); }) || desk.image(name) != imageOf(4))
         return QStringLiteral("the next save failed");
-    for (const QString &left : desk.folder.names()) {
-        if (!left.startsWith(name))
+    if (desk.kept().mid(1) != keptThen)
+        return QStringLiteral("the next save lost a former version");
+    for (const QString &left : desk.names()) {
+        if (!left.startsWith(name) && !left.endsWith(u"Z-1.budget"_qs) &&
+            !left.endsWith(u"Z-2.budget"_qs) && !left.endsWith(u"Z-3.budget"_qs))
             return QStringLiteral("left for good: %1").arg(left);
     }
     return {};
@@ -213,7 +241,8 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<Standing>("standing");
     for (const auto &[standing, words] :
-         {std::pair(Standing::Open, ""), std::pair(Standing::NotOpen, " of a file not opened"),
+         {std::pair(Standing::Open, ""), std::pair(Standing::First, " of the first version"),
+          std::pair(Standing::NotOpen, " of a file not opened"),
           std::pair(Standing::New, " of a new file")}) {
         for (const auto &[call, count] : callsOf(&Desk::save, standing))
             QTest::addRow("%s%s", call.c_str(), words) << call << count << standing;
@@ -225,7 +254,7 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile()
     QFETCH(std::string, call);
     QFETCH(int, count);
     QFETCH(Standing, standing);
-    const MessageLog log; // saving without a backup is a warning
+    const MessageLog log; // a version that is not removed is a warning
     QCOMPARE(firstBrokenPromise(&Desk::save, call, count, standing), QString());
 }
 
@@ -250,14 +279,14 @@ void SaveFaultsTest::whateverIsMetIsToldRight_data()
     // back otherwise is not saved.
     row("a write cut short", {"write", 1, 0, {}});
     row("writes cut short", {"write", 1, 0, CannotWrite, {}, 1000});
-    row("another byte read back", {"pread", 1, 0, CannotWrite});
+    row("another byte read back", {"pread", 2, 0, CannotWrite});
     row("nothing read back", {"pread", 1, 0, CannotWrite, {}, 1000});
-    // Where no file can be without a name, it has one.
-    row("no nameless files", {"openat", 1, EISDIR, {}});
-    row("nobody knows of nameless files", {"openat", 1, ENOENT, {}});
-    row("no new files", {"openat", 1, EACCES, CannotWrite});
-    row("reading back interrupted", {"pread", 1, EINTR, {}});
-    row("no reading back", {"pread", 1, EIO, CannotWrite});
+    // The former versions are read first. Where no file can be without a name, it has one.
+    row("no nameless files", {"openat", 3, EISDIR, {}});
+    row("nobody knows of nameless files", {"openat", 3, ENOENT, {}});
+    row("no new files", {"openat", 3, EACCES, CannotWrite});
+    row("reading back interrupted", {"pread", 2, EINTR, {}});
+    row("no reading back", {"pread", 2, EIO, CannotWrite});
     row("no link to the old version", {"linkat", 2, EIO, CannotWrite});
     row("attributes that grow meanwhile", {"flistxattr", 2, ERANGE, {}});
     // While the new version is synchronised, before the old one is replaced.
@@ -265,9 +294,12 @@ void SaveFaultsTest::whateverIsMetIsToldRight_data()
     row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
     row("replaced by the same", {"fsync", 1, 0, ChangedOnDisk, replace(2), 1, 2});
     // The new version is in its place when the folder cannot be synchronised, and
-    // there is no way back: no link to the old version, or none that can be moved.
-    row("no backup", {"linkat", 2, EPERM, CannotWrite, failThen("fsync", EIO), 1, 3});
-    row("no moving back", {"fsync", 2, EIO, CannotWrite, failThen("renameat", EIO), 1, 3});
+    // there is no way back, since the one that was kept cannot be moved.
+    row("no moving back", {"fsync", 3, EIO, CannotWrite, failThen("renameat", EIO), 1, 3});
+    // Where there are no links, a copy is kept, or nothing is saved.
+    row("a copy", {"linkat", 2, EPERM, {}});
+    row("no copy", {"linkat", 2, EXDEV, CannotWrite, failThen("fsync", EIO)});
+    row("no attributes of the copy", {"linkat", 2, EMLINK, CannotWrite, failThen("fchmod", EIO)});
     // Only where there are no locks it goes on without.
     for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL, EIO, EINTR}) {
         std::optional<StorageFailure> failure;
@@ -302,7 +334,7 @@ void SaveFaultsTest::whateverIsMetIsToldRight_data()
 void SaveFaultsTest::whateverIsMetIsToldRight()
 {
     QFETCH(Meeting, met);
-    const MessageLog log; // saving without a backup is a warning
+    const MessageLog log; // a version that is not removed is a warning
     Desk desk(met.standing);
     storage::BudgetStorage::Data data;
     QString told;
@@ -330,10 +362,12 @@ void SaveFaultsTest::whateverIsMetIsToldRight()
     if (failure == StorageFailure::CannotWrite && met.error != 0 && !met.meanwhile)
         QVERIFY2(told.contains(qt_error_string(met.error)), qPrintable(told));
     if (failure == StorageFailure::ChangedOnDisk) {
-        QCOMPARE(desk.folder.names(), (QStringList{name, backup, lock}));
+        QCOMPARE(desk.folder.names(), (QStringList{name, lock, versions}));
         return;
     }
     desk.save(4);
+    // The third only where it could be saved.
+    QCOMPARE(desk.kept().size(), failure && met.left != 3 ? 3 : 4);
     QCOMPARE(desk.image(name), imageOf(4));
 }
 
@@ -342,7 +376,7 @@ void SaveFaultsTest::theLockFileGoesWithTheFile()
     for (const char *call : {"lstat", "unlink"}) {
         const Desk desk(Standing::NotOpen);
         {
-            storage::BudgetFile file;
+            storage::BudgetFile file(test::atLeisure());
             file.setFilePathName(desk.path);
             (void)file.load();
             fail(call, 1, EIO);

@@ -56,7 +56,7 @@ using Saver = void (*)(const Versions &, const QString &path, int times);
 
 void save(const Versions &versions, const QString &path, int times)
 {
-    storage::BudgetFile file;
+    storage::BudgetFile file(test::atLeisure());
     file.setFilePathName(path);
     (void)file.load();
     failingCalls.isOn = true;
@@ -99,8 +99,11 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
     const QByteArray left = test::imageOf(folder.read(name));
     if (left != test::imageOf(versions.bytes[0]) && left != test::imageOf(versions.bytes[1]))
         return QStringLiteral("neither version is left");
+    const QString wrong = test::wrongInVersions(path);
+    if (!wrong.isEmpty())
+        return wrong;
     // The lock of a killed program is none.
-    storage::BudgetFile next;
+    storage::BudgetFile next(test::atLeisure());
     next.setFilePathName(path);
     if (test::failureOf([&] { (void)next.load(), next.store(versions.data[1]); }) ||
         test::imageOf(folder.read(name)) != test::imageOf(versions.bytes[1]))
@@ -109,7 +112,7 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
         if (!file.startsWith(name))
             return QStringLiteral("left for good: %1").arg(file);
     }
-    return {};
+    return test::wrongInVersions(path);
 }
 
 /// Which kill, at a random moment, left something broken, or nothing.

@@ -4,6 +4,7 @@
 #include "workbench/entry/user_locale.h"
 #include "workbench/internal/faults.h"
 #include "workbench/internal/recalling_storage.h"
+#include "workbench/versions/kept_versions.h"
 
 #include "storage/rates_file.h"
 #include "storage/storage_error.h"
@@ -54,12 +55,26 @@ QString Document::withExtension(const QString &path)
     return path.endsWith(extension) ? path : path + extension;
 }
 
-void Document::open(const QString &file)
+void Document::open(const QString &file, Access access)
 {
     refuseUnsaved();
     const QString path = withExtension(file);
+    (void)navigator();
+    m_storage->setReading(access == Access::Reading);
     navigator().onConfirmedLoadBudgetFile(path, false);
     m_file = path;
+}
+
+void Document::openLost(const QString &file)
+{
+    refuseUnsaved();
+    (void)navigator();
+    m_file = withExtension(file);
+}
+
+bool Document::isLost() const
+{
+    return m_storage->openFile() != m_file;
 }
 
 void Document::refuseExisting(const QString &file)
@@ -68,12 +83,14 @@ void Document::refuseExisting(const QString &file)
     const QFileInfo target(withExtension(file));
     if (target.exists() || target.isSymLink())
         throw internal::fileExists(target.filePath());
+    if (hasFormerVersions(target.filePath()))
+        throw internal::fileGone(target.filePath());
 }
 
-void Document::create(const QString &file)
+void Document::create(const QString &file, const QString &change)
 {
     refuseExisting(file);
-    saveAs(withExtension(file));
+    saveAs(withExtension(file), change);
 }
 
 template <typename Slot, typename... Values>
@@ -94,14 +111,17 @@ void Document::store(Slot slot, const Values &...values)
     }
 }
 
-void Document::save()
+void Document::save(const QString &change)
 {
+    (void)navigator();
+    m_storage->setChange(change);
     store(&Navigator::onSaveBudgetFile);
 }
 
-void Document::saveAs(const QString &file)
+void Document::saveAs(const QString &file, const QString &change)
 {
     (void)navigator();
+    m_storage->setChange(change);
     // Also if something fails after the budget was stored.
     const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
     store(&Navigator::onSaveAsBudgetFile, file);
@@ -115,14 +135,16 @@ void Document::refuseUnsaved() const
 
 void Document::saveUnsaved()
 {
+    // Under the name of the change that could not be saved.
     if (m_storage && m_storage->isUnsaved())
-        save();
+        store(&Navigator::onSaveBudgetFile);
 }
 
 void Document::revert()
 {
     if (!m_navigator)
         return;
+    m_file = m_storage->openFile(); // a lost one was only chosen
     // Not from the file, which may be missing or older than the budget in memory.
     if (const auto &present = m_storage->present()) {
         m_storage->recall(storage::BudgetFile::mended(*present));
@@ -132,11 +154,48 @@ void Document::revert()
     }
 }
 
-void Document::recall(BudgetStorage::Data version)
+Document::Recalled Document::recall(storage::KeptVersion version, BudgetStorage::Data data)
+{
+    const bool wasLost = isLost();
+    Recalled recalled{version, wasLost ? std::nullopt : m_storage->present(), data};
+    m_storage->restore(std::move(version), std::move(data));
+    if (wasLost)
+        navigator().onConfirmedLoadBudgetFile(m_file, false);
+    else
+        navigator().onReloadBudgetFile();
+    return recalled;
+}
+
+Document::Recalled Document::undo(qsizetype steps)
 {
     refuseUnsaved();
-    m_storage->recall(std::move(version));
-    navigator().onReloadBudgetFile();
+    const KeptVersions versions(m_file);
+    if (isLost()) {
+        auto found = versions.newestWhole();
+        if (!found)
+            throw internal::nothingToUndo(0);
+        return recall(std::move(found->first), std::move(found->second));
+    }
+    const storage::KeptVersion &version = versions.undone(steps);
+    return recall(version, dataOf(version));
+}
+
+Document::Recalled Document::undoTo(const QString &name)
+{
+    refuseUnsaved();
+    const KeptVersions versions(m_file);
+    const storage::KeptVersion &version = versions.named(name);
+    if (version.isFile)
+        throw internal::alreadyPresent(name);
+    return recall(version, dataOf(version));
+}
+
+Document::Recalled Document::redo(qsizetype steps)
+{
+    refuseUnsaved();
+    const KeptVersions versions(m_file);
+    const storage::KeptVersion &version = versions.redone(steps);
+    return recall(version, dataOf(version));
 }
 
 BudgetStorage::Data Document::present()

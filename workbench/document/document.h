@@ -6,6 +6,7 @@
 #include "foundation/qt_ptr.h"
 #include "networking/request_sender.h"
 #include "storage/budget_storage.h"
+#include "storage/kept_versions.h"
 
 #include <functional>
 #include <memory>
@@ -47,18 +48,29 @@ public:
     [[nodiscard]] static QString withExtension(const QString &path);
     /// The open file; empty if there is none.
     [[nodiscard]] const QString &file() const noexcept { return m_file; }
+    /// For what a file is opened.
+    enum class Access : std::uint8_t {
+        Change, ///< locked against others who change it
+        Reading ///< without a lock, until it is saved
+    };
     /// Opens a file. Throws what the storage throws, or a Refusal as refuseUnsaved()
     /// does; the open file then stays open.
-    void open(const QString &file);
-    /// Throws a Refusal if the file exists.
+    void open(const QString &file, Access access = Access::Change);
+    /// Chooses a file that is gone or damaged, which the next undo brings back; until then
+    /// there is no budget.
+    void openLost(const QString &file);
+    /// Throws a Refusal if the file exists, or if it is gone while its former versions are
+    /// kept.
     static void refuseExisting(const QString &file);
-    /// Saves the budget in memory as a new file. Throws a Refusal if the file exists.
-    void create(const QString &file);
+    /// Saves the budget in memory as a new file. Throws a Refusal as refuseExisting()
+    /// does. `change` names the change, see save().
+    void create(const QString &file, const QString &change);
     /// Saves the budget to its file, and the exchange rates with it. If only the rates
-    /// cannot be saved, that is a warning.
-    void save();
+    /// cannot be saved, that is a warning. `change` names in a line what was changed, such
+    /// as "Paid Rent"; the list of versions shows it.
+    void save(const QString &change);
     /// Saves the budget under another name, which is then the open file.
-    void saveAs(const QString &file);
+    void saveAs(const QString &file, const QString &change);
     /// Throws a Refusal if the last save of the open file failed: its changes are only
     /// in memory.
     void refuseUnsaved() const;
@@ -66,9 +78,21 @@ public:
     void saveUnsaved();
     /// Drops the changes since the last call of save(), even if that save failed.
     void revert();
-    /// Replaces the budget in memory with an older version. The file stays as it is
-    /// until the next save.
-    void recall(storage::BudgetStorage::Data version);
+    /// A former version that is the budget in memory now.
+    struct Recalled {
+        storage::KeptVersion version; ///< where it was kept
+        /// The budget until then; none if the file was gone or damaged.
+        std::optional<storage::BudgetStorage::Data> before;
+        storage::BudgetStorage::Data after; ///< the budget now
+    };
+    /// Goes back by so many changes, or to the newest whole version if the file is lost.
+    /// The next save makes that version the file again, and keeps the present one. Throws
+    /// a Refusal if there are not so many, or if the version is damaged.
+    [[nodiscard]] Recalled undo(qsizetype steps);
+    /// Goes to the version of this name, see storage::KeptVersion, as undo() does.
+    [[nodiscard]] Recalled undoTo(const QString &name);
+    /// Takes so many calls of undo() back, as undo() does. A change ends that.
+    [[nodiscard]] Recalled redo(qsizetype steps);
     /// The budget in memory, as save() would write it.
     [[nodiscard]] storage::BudgetStorage::Data present();
     /// Repairs the budget in memory now, as the next opening of its file would.
@@ -78,6 +102,9 @@ private:
     /// Calls a slot that stores the budget, and then the exchange rates.
     template <typename Slot, typename... Values>
     void store(Slot slot, const Values &...values);
+
+    [[nodiscard]] bool isLost() const;
+    [[nodiscard]] Recalled recall(storage::KeptVersion version, storage::BudgetStorage::Data data);
 
     Surroundings m_surroundings;
     std::unique_ptr<Navigator> m_navigator;

@@ -138,18 +138,44 @@ Refusal noTransferTo(const QString &account)
             .arg(account));
 }
 
-Refusal noSuchVersion(const QString &number, qsizetype count)
+Refusal noSuchVersion(const QString &name)
 {
-    const QString statement = QObject::tr("There is no version %1").arg(number);
-    if (count > 0)
-        return missed(statement, {}, Remedy::ListVersions);
-    return Refusal(
-        QObject::tr("%1; %2.").arg(statement, QObject::tr("this budget has no older versions")));
+    return missed(QObject::tr("There is no version %1").arg(name), {}, Remedy::ListVersions);
+}
+
+Refusal alreadyPresent(const QString &version)
+{
+    return Refusal(QObject::tr("The file already is at version %1.").arg(version));
+}
+
+Refusal nothingToUndo(qsizetype possible)
+{
+    return Refusal(possible == 0 ? QObject::tr("There is nothing to undo.")
+                                 : QObject::tr("Only %n change(s) can be undone.", nullptr,
+                                               static_cast<int>(possible)));
+}
+
+Refusal nothingToRedo(qsizetype possible)
+{
+    return Refusal(possible == 0 ? QObject::tr("There is nothing to redo.")
+                                 : QObject::tr("Only %n change(s) can be redone.", nullptr,
+                                               static_cast<int>(possible)));
 }
 
 Refusal versionDamaged(const QString &path, const QString &reason)
 {
     return Refusal(withReason(QObject::tr("The version in '%1' is damaged.").arg(path), reason));
+}
+
+Refusal noSuchFile(const QString &path)
+{
+    return Refusal(QObject::tr("There is no file '%1'.").arg(path));
+}
+
+Refusal fileGone(const QString &path)
+{
+    return Refusal(QObject::tr("The file '%1' is gone, but its former versions are kept").arg(path),
+                   Remedy::BringBack);
 }
 
 Refusal fileExists(const QString &path)

@@ -39,11 +39,18 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);
 [[nodiscard]] Refusal noTransferFrom(const QString &account);
 [[nodiscard]] Refusal noTransferTo(const QString &account);
-[[nodiscard]] Refusal noSuchVersion(const QString &number, qsizetype count);
+[[nodiscard]] Refusal noSuchVersion(const QString &name);
+[[nodiscard]] Refusal alreadyPresent(const QString &version);
+/// `possible` is how many steps there are.
+[[nodiscard]] Refusal nothingToUndo(qsizetype possible);
+[[nodiscard]] Refusal nothingToRedo(qsizetype possible);
 [[nodiscard]] Refusal versionDamaged(const QString &path, const QString &reason);
 
 // ---- files -------------------------------------------------------------------
 
+[[nodiscard]] Refusal noSuchFile(const QString &path);
+/// Former versions of the file are kept.
+[[nodiscard]] Refusal fileGone(const QString &path);
 [[nodiscard]] Refusal fileExists(const QString &path);
 [[nodiscard]] Refusal unsavedChanges(const QString &path);
 /// With the reason, if one is known.

@@ -10,6 +10,18 @@ void RecallingStorage::setFilePathName(const QString &filePathName)
     m_file.setFilePathName(filePathName);
 }
 
+void RecallingStorage::recall(Data version)
+{
+    m_recalled = std::move(version);
+    m_restored.reset();
+}
+
+void RecallingStorage::restore(storage::KeptVersion version, Data data)
+{
+    m_recalled = data;
+    m_restored.emplace(std::move(version), std::move(data));
+}
+
 storage::BudgetStorage::Data RecallingStorage::load()
 {
     if (std::optional<Data> recalled = std::exchange(m_recalled, std::nullopt))
@@ -28,7 +40,10 @@ void RecallingStorage::store(const Data &data)
         m_present = data;
         m_isUnsaved = true;
     }
-    m_file.store(data);
+    if (m_restored && m_restored->second == data)
+        m_file.restore(m_restored->first);
+    else
+        m_file.store(data);
     ++m_timesStored;
     settle(data);
 }
@@ -38,6 +53,7 @@ void RecallingStorage::settle(const Data &data)
     m_openFile = m_file.filePathName();
     m_present = data;
     m_isUnsaved = false;
+    m_restored.reset();
 }
 
 QString RecallingStorage::filePathName() const

@@ -12,14 +12,20 @@ namespace kiv::workbench {
 
 /// A budget file whose next load can return another version. The file stays open and
 /// locked meanwhile. So a save writes that version like any other change, and the
-/// replaced one becomes a backup.
+/// replaced one is kept.
 ///
 /// It also keeps the present version: the one loaded last, or the one to be saved to the
 /// open file, even if saving failed.
 class RecallingStorage final : public storage::BudgetStorage {
 public:
     /// The next load returns `version`.
-    void recall(Data version) { m_recalled = std::move(version); }
+    void recall(Data version);
+    /// The next load returns a former version. It is stored as that very version, unless
+    /// it was changed since.
+    void restore(storage::KeptVersion version, Data data);
+    /// See storage::BudgetFile.
+    void setReading(bool isReading) noexcept { m_file.setReading(isReading); }
+    void setChange(const QString &change) { m_file.setChange(change); }
     /// The file that was loaded or stored last; empty before.
     [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
     /// The present version; nothing before the first load or store.
@@ -66,6 +72,7 @@ private:
     int m_timesStored = 0;
     bool m_isCatching = false;
     std::optional<Data> m_recalled;
+    std::optional<std::pair<storage::KeptVersion, Data>> m_restored;
 };
 
 } // namespace kiv::workbench

@@ -3,50 +3,143 @@
 
 #include "workbench/internal/faults.h"
 
-#include "storage/budget_file.h"
+#include "storage/budget_inspection.h"
 #include "storage/storage_error.h"
 
-#include <QtCore/QFileInfo>
+#include <algorithm>
+#include <ranges>
 
 namespace kiv::workbench {
 
 using storage::BudgetStorage;
+using storage::KeptVersion;
 using storage::Verdict;
 
-const BudgetStorage::Data &Version::data() const
+KeptVersions::KeptVersions(const QString &file) : m_file(file), m_found(storage::keptVersions(file))
 {
+    for (const KeptVersion &found : m_found) {
+        const auto isSame = [&found](const KeptVersion &other) {
+            return !found.mark.id.isEmpty() && other.mark.id == found.mark.id;
+        };
+        if (std::ranges::none_of(m_all, isSame))
+            m_all.push_back(found);
+    }
+    const auto number = [](const KeptVersion &version) { return version.mark.number; };
+    std::ranges::stable_sort(m_all, std::ranges::greater(), number);
+}
+
+const KeptVersion &KeptVersions::present() const
+{
+    if (m_all.empty())
+        throw internal::noSuchFile(m_file);
+    const auto file = std::ranges::find_if(m_all, &KeptVersion::isFile);
+    if (file == m_all.end())
+        throw internal::fileGone(m_file);
+    return *file;
+}
+
+const KeptVersion &KeptVersions::named(const QString &name) const
+{
+    const auto found = std::ranges::find(m_all, name, &KeptVersion::name);
+    if (found == m_all.end())
+        throw internal::noSuchVersion(name);
+    return *found;
+}
+
+const KeptVersion *KeptVersions::before(const KeptVersion &version) const
+{
+    for (const QString &id : version.mark.ancestors) {
+        const auto found =
+            std::ranges::find(m_all, id, [](const KeptVersion &other) { return other.mark.id; });
+        if (found != m_all.end())
+            return &*found;
+    }
+    // All its ancestors were thinned, or nobody knows them.
+    const auto isOlder = [&version](const KeptVersion &other) {
+        return other.mark.number < version.mark.number;
+    };
+    const auto older = std::ranges::find_if(m_all, isOlder);
+    const bool isBackup = version.mark.number == 0 && !version.isFile;
+    return older == m_all.end() || isBackup ? nullptr : &*older;
+}
+
+const KeptVersion *KeptVersions::after(const KeptVersion &version) const
+{
+    const KeptVersion *nearest = nullptr;
+    qsizetype generations = storage::VersionMark::ancestorsMax;
+    // The newest come first. Of those that were made from it, a direct one goes before
+    // one whose parent was thinned.
+    for (const KeptVersion &other : m_all) {
+        const qsizetype generation = other.mark.ancestors.indexOf(version.mark.id);
+        if (!version.mark.id.isEmpty() && generation >= 0 && generation < generations) {
+            nearest = &other;
+            generations = generation;
+        }
+    }
+    return nearest;
+}
+
+const KeptVersion &KeptVersions::walked(Step step, qsizetype steps,
+                                        Refusal (*ended)(qsizetype done)) const
+{
+    const KeptVersion *version = &present();
+    for (qsizetype done = 0; done < steps; ++done) {
+        version = (this->*step)(*version);
+        if (!version)
+            throw ended(done);
+    }
+    return *version;
+}
+
+const KeptVersion &KeptVersions::undone(qsizetype steps) const
+{
+    return walked(&KeptVersions::before, steps, &internal::nothingToUndo);
+}
+
+const KeptVersion &KeptVersions::redone(qsizetype steps) const
+{
+    return walked(&KeptVersions::after, steps, &internal::nothingToRedo);
+}
+
+std::optional<std::pair<KeptVersion, BudgetStorage::Data>> KeptVersions::newestWhole() const
+{
+    for (const KeptVersion &version : m_found) {
+        if (version.isFile)
+            continue;
+        try {
+            return std::pair(version, dataOf(version));
+        } catch (const Refusal &) {
+            // An older one may be whole.
+        }
+    }
+    return std::nullopt;
+}
+
+BudgetStorage::Data dataOf(const KeptVersion &version)
+{
+    storage::BudgetInspection found;
+    try {
+        found = storage::inspectBudget(version.path);
+    } catch (const storage::StorageError &error) {
+        throw internal::versionDamaged(version.path, error.message());
+    }
     if (found.data)
-        return *found.data;
+        return *std::move(found.data);
     QString reason;
     for (const storage::Judgement &judgement : found.judgements) {
         if (judgement.verdict == Verdict::Broken)
             reason = judgement.reasons.join(u' ');
     }
-    throw internal::versionDamaged(path, reason);
+    throw internal::versionDamaged(version.path, reason);
 }
 
-Version versionOf(const QString &file, unsigned number)
+bool hasFormerVersions(const QString &file)
 {
-    const QString path = number == 0 ? file : storage::backupOf(file, number);
     try {
-        return {number, path, storage::inspectBudget(path)};
-    } catch (const storage::StorageError &error) {
-        if (number == 0 || error.failure() != storage::StorageFailure::NotFound)
-            throw;
-        throw internal::noSuchVersion(QString::number(number),
-                                      static_cast<qsizetype>(versionsOf(file).size()) - 1);
+        return std::ranges::any_of(storage::keptVersions(file), std::not_fn(&KeptVersion::isFile));
+    } catch (const storage::StorageError &) {
+        return false;
     }
-}
-
-std::vector<Version> versionsOf(const QString &file)
-{
-    std::vector<Version> versions{versionOf(file, 0)};
-    for (unsigned number = 1; number <= storage::BudgetFile::backupsByDefault; ++number) {
-        const QString path = storage::backupOf(file, number);
-        if (QFileInfo::exists(path))
-            versions.push_back({number, path, storage::inspectBudget(path)});
-    }
-    return versions;
 }
 
 } // namespace kiv::workbench

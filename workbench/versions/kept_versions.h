@@ -1,26 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/export.h"
+#include "workbench/errors.h"
 
-#include "storage/budget_inspection.h"
+#include "storage/budget_storage.h"
+#include "storage/kept_versions.h"
+
+#include <optional>
 
 namespace kiv::workbench {
 
-/// A version of a budget file: number 0 is the file itself, 1 the version before it, and
-/// so on.
-struct KIV_WORKBENCH_EXPORT Version {
-    unsigned number = 0;             ///< how many saves ago
-    QString path;                    ///< of its file
-    storage::BudgetInspection found; ///< the result of inspecting it
+/// A budget file and its former versions, and where undo and redo go among them.
+class KIV_WORKBENCH_EXPORT KeptVersions {
+public:
+    /// Looks at the files. Throws what storage::keptVersions throws.
+    explicit KeptVersions(const QString &file);
 
-    /// The budget. Throws a Refusal if the file is damaged.
-    [[nodiscard]] const storage::BudgetStorage::Data &data() const;
+    /// Each version once, the highest number first, then the backups of the first edition.
+    [[nodiscard]] const std::vector<storage::KeptVersion> &all() const noexcept { return m_all; }
+    /// The version in the file. Throws a Refusal if there is no file, with the remedy to
+    /// bring it back if former versions are kept.
+    [[nodiscard]] const storage::KeptVersion &present() const;
+    /// The version of this name. Throws a Refusal if there is none.
+    [[nodiscard]] const storage::KeptVersion &named(const QString &name) const;
+    /// The version so many changes before the present one: each time the nearest ancestor
+    /// that is kept, or without any the version before it. Throws a Refusal if there are
+    /// not so many.
+    [[nodiscard]] const storage::KeptVersion &undone(qsizetype steps) const;
+    /// The version so many changes after the present one: each time the newest that was
+    /// made from it. Throws a Refusal if there are not so many.
+    [[nodiscard]] const storage::KeptVersion &redone(qsizetype steps) const;
+    /// The newest former version that is whole, with its budget; nothing if none is.
+    [[nodiscard]] std::optional<std::pair<storage::KeptVersion, storage::BudgetStorage::Data>>
+    newestWhole() const;
+
+private:
+    using Step = const storage::KeptVersion *(KeptVersions::*)(const storage::KeptVersion &) const;
+
+    [[nodiscard]] const storage::KeptVersion &walked(Step step, qsizetype steps,
+                                                     Refusal (*ended)(qsizetype done)) const;
+    [[nodiscard]] const storage::KeptVersion *before(const storage::KeptVersion &version) const;
+    [[nodiscard]] const storage::KeptVersion *after(const storage::KeptVersion &version) const;
+
+    QString m_file;
+    std::vector<storage::KeptVersion> m_found; ///< that in the file may be among the others
+    std::vector<storage::KeptVersion> m_all;
 };
 
-/// The version with this number. Throws a Refusal if it does not exist.
-[[nodiscard]] KIV_WORKBENCH_EXPORT Version versionOf(const QString &file, unsigned number);
-/// All versions, newest first.
-[[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<Version> versionsOf(const QString &file);
+/// The budget of the version. Throws a Refusal if it is damaged or gone.
+[[nodiscard]] KIV_WORKBENCH_EXPORT storage::BudgetStorage::Data
+dataOf(const storage::KeptVersion &version);
+
+/// Whether former versions of the file are kept. False where that cannot be told.
+[[nodiscard]] KIV_WORKBENCH_EXPORT bool hasFormerVersions(const QString &file);
 
 } // namespace kiv::workbench

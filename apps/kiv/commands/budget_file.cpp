@@ -32,7 +32,7 @@ struct New {
         call.document.refuseUnsaved();
         Document::refuseExisting(path);
         call.requests.navigator().onConfirmedNewBudgetEmpty();
-        call.document.create(path);
+        call.document.create(path, QObject::tr("Created the budget"));
         return Report(fileJson(call.document))
             .line(QObject::tr("Created the empty budget '%1'.").arg(call.document.file()));
     }
@@ -48,7 +48,7 @@ struct SaveAs {
     }
     Report run(Call &call) const
     {
-        call.document.create(file);
+        call.document.create(file, QObject::tr("Saved under a new name"));
         return Report(fileJson(call.document))
             .line(QObject::tr("Saved the budget as '%1'.").arg(call.document.file()));
     }

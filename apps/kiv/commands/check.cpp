@@ -54,7 +54,7 @@ struct Check {
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FILE", file, QObject::tr("Budget file or one of its backups"))
+        arguments.optional("FILE", file, QObject::tr("Budget file or one of its former versions"))
             .file()
             .exclusive("FILE", "--file");
     }
@@ -80,8 +80,8 @@ struct Check {
                     {QObject::tr("Details"), QStringLiteral("details")}},
                    rows, {})
             .line(isWhole ? QObject::tr("The budget '%1' is intact.").arg(path)
-                          : QObject::tr("The budget '%1' is damaged; find an intact version with "
-                                        "kiv history.")
+                          : QObject::tr("The budget '%1' is damaged; bring a whole version back "
+                                        "with kiv undo.")
                                 .arg(path));
         report.setStatus(isWhole ? ExitStatus::success : ExitStatus::refused);
         return report;

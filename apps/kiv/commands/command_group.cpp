@@ -38,7 +38,7 @@ CommandGroup CommandGroup::addCommand(const char *name, const QString &help, Com
         arguments.file();
     if (arguments.rules().takesJson)
         arguments.flag("--json", options.isJson, QObject::tr("Print JSON, for programs"));
-    if (kind == CommandKind::Change)
+    if (isSaving(kind))
         arguments.flag("--dry-run", options.isDryRun, QObject::tr("Show the result, save nothing"));
     arguments.flag("--verbose", options.isVerbose, QObject::tr("Show the log on standard error"));
     // CLI11 also calls back for the commands above the called one.

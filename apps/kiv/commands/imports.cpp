@@ -129,6 +129,7 @@ private:
             report.line(notice);
         if (!hasChanges)
             report.setUnchanged();
+        report.setChange(QObject::tr("Imported %n entries", nullptr, static_cast<int>(posted)));
         return report.line(
             QObject::tr("Transactions posted: %1; duplicates skipped: %2; accounts opened: %3.")
                 .arg(QString::number(posted), QString::number(skipped),

@@ -81,10 +81,12 @@ Report complete(Requests &requests, const SurveyForm &form)
     form.complete(requests);
     const accounting::AccountCode code =
         requests.accounts().find(form.account.account.number)->code();
-    return Report(toJson(form, requests))
-        .line(QObject::tr("Reconciled %1 at %2 with a balance of %3.")
-                  .arg(accounting::presentationText(code), form.account.bank.institution(),
-                       amountText(toJson(form.balance), requests.displayAs())));
+    Report report(toJson(form, requests));
+    report.setChange(
+        QObject::tr("Survey of %1, %2").arg(code.name(), foundation::presentationText(form.date)));
+    return report.line(QObject::tr("Reconciled %1 at %2 with a balance of %3.")
+                           .arg(accounting::presentationText(code), form.account.bank.institution(),
+                                amountText(toJson(form.balance), requests.displayAs())));
 }
 
 struct ShowSurvey {

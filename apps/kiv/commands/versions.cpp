@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// undo, history [diff]
+// undo, redo, history [diff]
 #include "commands/commands.h"
 
 #include "output/change_table.h"
@@ -7,26 +7,28 @@
 #include "workbench/versions/kept_versions.h"
 
 #include "foundation/local_dates.h"
-#include "storage/budget_file.h"
 
 namespace kiv::app {
 
+using storage::KeptVersion;
+
 namespace {
 
-/// The number of a kept version; 0 is the file itself.
-struct VersionNumber {
-    unsigned value = 0;
+/// So many changes.
+struct Steps {
+    qsizetype value = 1;
 };
 
-void readValue(const QString &text, VersionNumber &version)
+void readValue(const QString &text, Steps &steps)
 {
+    constexpr int stepsMax = 1000;
     bool isNumber = false;
-    version.value = text.toUInt(&isNumber);
-    if (!isNumber || version.value > storage::BudgetFile::backupsByDefault)
-        throw workbench::notANumber(text, 0, storage::BudgetFile::backupsByDefault);
+    steps.value = text.toUInt(&isNumber);
+    if (!isNumber || steps.value < 1 || steps.value > stepsMax)
+        throw workbench::notANumber(text, 1, stepsMax);
 }
 
-constexpr const char *valueWord(const VersionNumber *)
+constexpr const char *valueWord(const Steps *)
 {
     return "NUMBER";
 }
@@ -37,53 +39,69 @@ QString localTime(const QDateTime &time)
     return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm:ss"));
 }
 
-QJsonObject toJson(const workbench::Version &version)
+bool isTelling(const KeptVersion &version)
 {
-    QJsonObject json{{QStringLiteral("version"), qint64{version.number}},
-                     {QStringLiteral("savedAt"), version.found.savedAt.toString(Qt::ISODateWithMs)},
-                     {QStringLiteral("bytes"), version.found.size},
-                     {QStringLiteral("file"), version.path},
-                     {QStringLiteral("whole"), version.found.data.has_value()}};
-    if (const auto &data = version.found.data) {
-        qint64 items = 0;
-        data->budget.forEach([&items](const budgeting::BudgetedMoney &) { ++items; });
-        json.insert(QStringLiteral("items"), items);
-        json.insert(QStringLiteral("accounts"),
-                    static_cast<qint64>(data->generalLedger.accounts().size()));
-        json.insert(QStringLiteral("transactions"),
-                    static_cast<qint64>(data->generalLedger.transactions().size()));
-    }
-    return json;
+    return version.telling == KeptVersion::Telling::Everything;
+}
+
+QJsonObject toJson(const KeptVersion &version)
+{
+    const bool isNumbered = version.mark.number > 0;
+    return {{QStringLiteral("version"), version.name},
+            {QStringLiteral("number"), isNumbered ? QJsonValue(version.mark.number) : QJsonValue()},
+            {QStringLiteral("present"), version.isFile},
+            {QStringLiteral("savedAt"), version.mark.savedAt.toString(Qt::ISODateWithMs)},
+            {QStringLiteral("change"),
+             isTelling(version) ? QJsonValue(version.mark.change) : QJsonValue()},
+            {QStringLiteral("transactions"),
+             isTelling(version) ? QJsonValue(version.mark.transactions) : QJsonValue()},
+            {QStringLiteral("bytes"), version.size},
+            {QStringLiteral("file"), version.path},
+            {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
+}
+
+/// The report on a version that was gone back or forth to.
+Report restored(const Document::Recalled &recalled)
+{
+    // Fits on a screen: an undone import may have posted thousands.
+    constexpr qsizetype shownMax = 20;
+    const Rows changes =
+        rowsOf(recalled.before ? workbench::changesBetween(*recalled.before, recalled.after)
+                               : std::vector<workbench::Change>());
+    Report report(QJsonObject{{QStringLiteral("restored"), toJson(recalled.version)}},
+                  QStringLiteral("changes"), changes);
+    report.line(QObject::tr("Restored the version saved at %1.")
+                    .arg(localTime(recalled.version.mark.savedAt)));
+    if (recalled.before)
+        tabulate(report, changes, QObject::tr("Both versions are the same."), shownMax);
+    return report;
 }
 
 struct Undo {
-    VersionNumber to{1};
+    std::optional<Steps> steps;
+    std::optional<QString> to;
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("--to", to,
-                           QObject::tr("Number of the version, see kiv history (default: 1)"));
+        arguments.optional("--steps", steps, QObject::tr("How many changes (default: 1)"))
+            .optional("--to", to, QObject::tr("Name of the version, see kiv history"))
+            .exclusive("--steps", "--to");
     }
     Report run(Call &call) const
     {
-        if (to.value == 0)
-            throw notAFormerVersion();
-        const QString file = call.document.file();
-        const storage::BudgetStorage::Data present = workbench::versionOf(file, 0).data();
-        const workbench::Version former = workbench::versionOf(file, to.value);
-        const Rows changes = rowsOf(workbench::changesBetween(present, former.data()));
-        call.document.recall(former.data());
-        Report report(QJsonObject{{QStringLiteral("restored"), toJson(former)}},
-                      QStringLiteral("changes"), changes);
-        report.line(
-            QObject::tr("Restored the version saved at %1.").arg(localTime(former.found.savedAt)));
-        tabulate(report, changes, QObject::tr("Both versions are the same."), shownMax);
-        return report;
+        return restored(to ? call.document.undoTo(*to)
+                           : call.document.undo(steps.value_or(Steps()).value));
     }
+};
 
-private:
-    /// Fits on a screen: an undone import may have posted thousands.
-    static constexpr qsizetype shownMax = 20;
+struct Redo {
+    Steps steps;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("--steps", steps, QObject::tr("How many changes (default: 1)"));
+    }
+    Report run(Call &call) const { return restored(call.document.redo(steps.value)); }
 };
 
 // history and history diff open no document, so they also work with damaged files.
@@ -91,45 +109,56 @@ struct History {
     void declare(Arguments &arguments) { arguments.file(); }
     Report run(Call &call) const
     {
+        const QString file = Document::withExtension(call.fileNamed());
+        const workbench::KeptVersions versions(file);
+        if (versions.all().empty())
+            (void)versions.present(); // which tells that there is none
         QJsonArray rows;
-        for (const workbench::Version &version :
-             workbench::versionsOf(Document::withExtension(call.fileNamed())))
+        for (const KeptVersion &version : versions.all())
             rows.append(toJson(version));
         const auto time = [](const QJsonValue &value) {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
         };
-        const auto state = [](const QJsonValue &isWhole) {
-            return isWhole.toBool() ? QString() : QObject::tr("damaged");
+        const auto state = [](const QJsonValue &isReadable) {
+            return isReadable.toBool() ? QString() : QObject::tr("damaged");
         };
-        return Report(QJsonValue(rows))
-            .table({{QObject::tr("Version"), QStringLiteral("version")},
-                    {QObject::tr("Saved at"), QStringLiteral("savedAt"), time},
-                    {QObject::tr("Bytes"), QStringLiteral("bytes")},
-                    {QObject::tr("Items"), QStringLiteral("items")},
-                    {QObject::tr("Accounts"), QStringLiteral("accounts")},
-                    {QObject::tr("Transactions"), QStringLiteral("transactions")},
-                    {QString(), QStringLiteral("whole"), state}},
-                   rows, {});
+        const auto mark = [](const QJsonValue &isPresent) {
+            return isPresent.toBool() ? QObject::tr("present") : QString();
+        };
+        Report report{QJsonValue(rows)};
+        report.table({{QObject::tr("Version"), QStringLiteral("version")},
+                      {QString(), QStringLiteral("present"), mark},
+                      {QObject::tr("Saved at"), QStringLiteral("savedAt"), time},
+                      {QObject::tr("Transactions"), QStringLiteral("transactions")},
+                      {QObject::tr("Change"), QStringLiteral("change")},
+                      {QString(), QStringLiteral("readable"), state}},
+                     rows, {});
+        if (std::ranges::none_of(versions.all(), &KeptVersion::isFile))
+            report.line(withFormerVersions(QObject::tr("The file '%1' is gone.").arg(file)));
+        return report;
     }
 };
 
 struct Differences {
-    VersionNumber from{1};
-    VersionNumber to{0};
+    std::optional<QString> from;
+    std::optional<QString> to;
 
     void declare(Arguments &arguments)
     {
-        arguments.optional("FROM", from, QObject::tr("Number of the older version (default: 1)"))
-            .optional("TO", to,
-                      QObject::tr("Number of the newer version (default: 0, the file itself)"))
+        arguments
+            .optional(
+                "FROM", from,
+                QObject::tr("Name of the older version (default: the one that kiv undo goes to)"))
+            .optional("TO", to, QObject::tr("Name of the newer version (default: the file itself)"))
             .file();
     }
     Report run(Call &call) const
     {
-        const QString file = Document::withExtension(call.fileNamed());
-        const workbench::Version before = workbench::versionOf(file, from.value);
-        const workbench::Version after = workbench::versionOf(file, to.value);
-        const Rows changes = rowsOf(workbench::changesBetween(before.data(), after.data()));
+        const workbench::KeptVersions versions(Document::withExtension(call.fileNamed()));
+        const KeptVersion &before = from ? versions.named(*from) : versions.undone(1);
+        const KeptVersion &after = to ? versions.named(*to) : versions.present();
+        const Rows changes =
+            rowsOf(workbench::changesBetween(workbench::dataOf(before), workbench::dataOf(after)));
         Report report(changes);
         tabulate(report, changes, QObject::tr("Both versions are the same."));
         return report;
@@ -141,7 +170,8 @@ struct Differences {
 void addVersionCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("undo", QObject::tr("Restore the version before the last change"), Change, Undo{});
+    root.add("undo", QObject::tr("Take back the last change"), Restore, Undo{});
+    root.add("redo", QObject::tr("Take back the last undo"), Change, Redo{});
     root.add("history", QObject::tr("List the kept versions of the budget"), Standalone, History{})
         .add("diff", QObject::tr("Show the changes between two versions"), Standalone,
              Differences{});

@@ -95,7 +95,7 @@ struct Wizard {
         const QString path = call.fileToMake(file);
         Document::refuseExisting(path);
         workbench::fillIn(call.requests, given);
-        call.document.create(path);
+        call.document.create(path, QObject::tr("Created the budget"));
         Report report = itemsReport(itemsJson(call.requests));
         return report.line(QObject::tr("Created the budget '%1'.").arg(call.document.file()));
     }

@@ -52,6 +52,8 @@ QString remedyText(const Refusal &refusal)
         return QObject::tr("save them elsewhere with save-as");
     case SaveProfile:
         return QObject::tr("save one with --save-profile");
+    case BringBack:
+        return QObject::tr("bring the newest back with kiv undo");
     case None:
         break;
     }
@@ -87,11 +89,6 @@ UsageError missing(const QString &what)
 UsageError nothingToChange()
 {
     return UsageError(QObject::tr("No change given; see --help."));
-}
-
-UsageError notAFormerVersion()
-{
-    return UsageError(QObject::tr("Version 0 is the file itself; see kiv history for older ones."));
 }
 
 UsageError noFileNamed()
@@ -177,11 +174,10 @@ Refusal noOtherAccount(const QString &entry)
     return Refusal(QObject::tr("Give the counter-account of %1 with --against.").arg(entry));
 }
 
-QString withBackups(const QString &sentence, const QString &backup)
+QString withFormerVersions(const QString &sentence)
 {
-    return QObject::tr("%1 Find an intact version with kiv history, then copy its file (such as "
-                       "'%2') over the damaged one.")
-        .arg(sentence, backup);
+    return QObject::tr("%1 Former versions are kept; bring the newest back with kiv undo.")
+        .arg(sentence);
 }
 
 Refusal cannotWriteOutput(const QString &reason)

@@ -30,7 +30,6 @@ public:
 [[nodiscard]] UsageError onlyWith(const QString &name, const QString &base);
 [[nodiscard]] UsageError missing(const QString &what);
 [[nodiscard]] UsageError nothingToChange();
-[[nodiscard]] UsageError notAFormerVersion();
 [[nodiscard]] UsageError noFileNamed();
 // `help` is the command that shows the help.
 [[nodiscard]] UsageError noSuchCommand(const QString &word, const QStringList &similar,
@@ -62,8 +61,8 @@ public:
 
 // ---- files -----------------------------------------------------------------
 
-/// The sentence on a damaged file, with how to restore a backup.
-[[nodiscard]] QString withBackups(const QString &sentence, const QString &backup);
+/// The sentence on a file that is gone or damaged, with how to bring it back.
+[[nodiscard]] QString withFormerVersions(const QString &sentence);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);
 /// The input was read, but its content is wrong.
 [[nodiscard]] Refusal unreadableInput(const QString &name, const QString &reason);

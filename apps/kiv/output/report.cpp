@@ -13,6 +13,8 @@
 
 #include <QtCore/QObject>
 
+#include <algorithm>
+
 namespace kiv::app {
 namespace {
 
@@ -111,6 +113,16 @@ Report &Report::line(const QString &text)
 {
     m_blocks.emplace_back(Line{text, false});
     return *this;
+}
+
+QString Report::change() const
+{
+    const auto first = std::ranges::find_if(
+        m_blocks, [](const auto &block) { return std::holds_alternative<Line>(block); });
+    if (!m_change.isEmpty() || first == m_blocks.end())
+        return m_change;
+    const QString &line = std::get<Line>(*first).text;
+    return line.endsWith(u'.') ? line.chopped(1) : line;
 }
 
 Report &Report::heading(const QString &text)

@@ -79,6 +79,11 @@ public:
     void setUnchanged() noexcept { m_isUnchanged = true; }
     [[nodiscard]] bool isUnchanged() const noexcept { return m_isUnchanged; }
 
+    /// Names the change that is saved, for the list of versions. Without it, the first
+    /// line does.
+    void setChange(const QString &change) { m_change = change; }
+    [[nodiscard]] QString change() const;
+
     /// Called after the budget was saved; not called if saving failed.
     void setFinish(std::function<void()> finish) { m_finish = std::move(finish); }
     void finish() const
@@ -121,6 +126,7 @@ private:
     bool m_isAlwaysJson = false;
     int m_status = 0;
     bool m_isUnchanged = false;
+    QString m_change;
     std::function<void()> m_finish;
 };
 

@@ -6,12 +6,12 @@
 #include "messages/errors.h"
 #include "messages/exit_status.h"
 
+#include "workbench/versions/kept_versions.h"
+
 #include "networking/http_request_sender.h"
-#include "storage/budget_inspection.h"
 #include "storage/storage_error.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
 #include <QtCore/QStandardPaths>
 
 #include <CLI/CLI.hpp>
@@ -24,6 +24,14 @@ namespace {
 QString oneLine(const char *text)
 {
     return QString::fromUtf8(text).simplified();
+}
+
+/// Whether the file is gone or damaged, and can be brought back.
+bool isLost(const storage::StorageError &error)
+{
+    using enum storage::StorageFailure;
+    return (error.failure() == NotFound || error.failure() == Damaged) &&
+           workbench::hasFormerVersions(error.filePathName());
 }
 
 /// "help bill add" means "bill add --help".
@@ -58,14 +66,7 @@ int Program::run(const std::vector<std::string> &words)
         complain(error.message());
         return ExitStatus::misused;
     } catch (const storage::StorageError &error) {
-        QString sentence = told(error);
-        // A missing file may have no folder either, and then its backups have no names.
-        if (error.failure() == storage::StorageFailure::Damaged) {
-            const QString backup = storage::backupOf(error.filePathName(), 1);
-            if (QFile::exists(backup))
-                sentence = withBackups(sentence, backup);
-        }
-        complain(sentence);
+        complain(isLost(error) ? withFormerVersions(told(error)) : told(error));
     } catch (const foundation::Error &error) {
         complain(told(error));
     } catch (const std::exception &error) {
@@ -110,8 +111,8 @@ int Program::execute()
     const auto [kind, command] = m_selection;
 
     if (kind != CommandKind::Standalone)
-        openFile();
-    const bool isSaved = kind == CommandKind::Change && !options.isDryRun;
+        openFile(kind);
+    const bool isSaved = isSaving(kind) && !options.isDryRun;
     Report report;
     try {
         report = command(*this, options);
@@ -121,9 +122,9 @@ int Program::execute()
         throw;
     }
     if (isSaved && !report.isUnchanged())
-        m_document.save();
+        m_document.save(report.change());
     report.finish();
-    if (kind == CommandKind::Change && options.isDryRun) {
+    if (isSaving(kind) && options.isDryRun) {
         takeBack();
         report.line(QObject::tr("Dry run: nothing is saved."));
     }
@@ -143,15 +144,30 @@ void Program::takeBack()
     }
 }
 
-void Program::openFile()
+void Program::openFile(CommandKind kind)
 {
     const QString named =
         m_options.file.isEmpty() ? qEnvironmentVariable("KIV_FILE") : m_options.file;
     if (named.isEmpty() && m_document.file().isEmpty())
         throw noFileNamed();
     if (m_document.file().isEmpty() ||
-        (!m_options.file.isEmpty() && Document::withExtension(named) != m_document.file()))
-        m_document.open(named);
+        (!m_options.file.isEmpty() &&
+         workbench::Document::withExtension(named) != m_document.file()))
+        openNamed(named, kind);
+}
+
+void Program::openNamed(const QString &file, CommandKind kind)
+{
+    try {
+        // A session may change it with a later command.
+        m_document.open(file, kind == CommandKind::Query && !m_keepsBudget
+                                  ? workbench::Document::Access::Reading
+                                  : workbench::Document::Access::Change);
+    } catch (const storage::StorageError &error) {
+        if (kind != CommandKind::Restore || !isLost(error))
+            throw;
+        m_document.openLost(file);
+    }
 }
 
 void Program::print(const Report &report)

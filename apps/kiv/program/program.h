@@ -40,7 +40,8 @@ private:
     int execute();
     /// Takes back the changes of a call that must not stay in memory.
     void takeBack();
-    void openFile();
+    void openFile(CommandKind kind);
+    void openNamed(const QString &file, CommandKind kind);
     void print(const Report &report);
 
     DeclareCommands m_declare;

@@ -25,19 +25,10 @@ QByteArray pathOf(const FileDescriptor &file)
     return "/proc/self/fd/" + QByteArray::number(file.get());
 }
 
-/// Whether the file system does not support the call.
-bool isUnsupported(int error) noexcept
-{
-    return error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
-}
-
 } // namespace
 
 AtomicFileWriter::AtomicFileWriter(const FileTarget &target, std::optional<FileStamp> replaced)
-    : m_target(target),
-      m_replaced(replaced),
-      m_temporaryName(target.hiddenSibling(".saving")),
-      m_previousName(target.hiddenSibling(".previous"))
+    : m_target(target), m_replaced(replaced), m_temporaryName(target.hiddenSibling(".saving"))
 {
 }
 
@@ -45,14 +36,13 @@ AtomicFileWriter::~AtomicFileWriter()
 {
     if (m_hasTemporaryName)
         ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
-    if (m_hasPreviousName)
-        ::unlinkat(m_folder.get(), m_previousName.constData(), 0);
 }
 
-void AtomicFileWriter::write(QByteArrayView bytes, unsigned backups)
+void AtomicFileWriter::write(QByteArrayView bytes, VersionKeeper *keeper)
 {
     openFolder();
-    clearLeftovers(backups);
+    // A stopped writer has left its new version, finished or not.
+    ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
     createTemporary();
     writeAll(bytes);
     if (m_replaced)
@@ -61,14 +51,16 @@ void AtomicFileWriter::write(QByteArrayView bytes, unsigned backups)
     verify(bytes);
     nameTemporary();
     check(m_temporary.close());
-    if (m_replaced)
-        keepPrevious();
+    // Before the name leads to the new version: whenever the process is stopped, the old
+    // one is the file or is kept.
+    if (m_replaced && keeper)
+        keeper->keep();
+    // After it, since what was kept is what the name led to.
     checkUnchanged();
     check(::renameat(m_folder.get(), m_temporaryName.constData(), m_folder.get(),
                      m_target.name().constData()) == 0);
     m_hasTemporaryName = false;
-    syncFolder();
-    turnPreviousIntoBackup(backups);
+    syncFolder(keeper);
 }
 
 void AtomicFileWriter::openFolder()
@@ -85,7 +77,7 @@ void AtomicFileWriter::openFolder()
 }
 
 /// In a folder with the sticky bit, only the owner of a file or of the folder can remove
-/// a name. Checked first, because a link to the old version could not be removed.
+/// a name. Checked first, before anything is written.
 void AtomicFileWriter::checkSticky() const
 {
     struct stat folder = {};
@@ -95,21 +87,6 @@ void AtomicFileWriter::checkSticky() const
     const uid_t user = ::geteuid();
     if ((folder.st_mode & S_ISVTX) && user != 0 && user != folder.st_uid && user != file.st_uid)
         throw cannotWrite(m_target.shownPath(), EPERM);
-}
-
-/// A stopped writer has left its new version, finished or not, or the old one, which
-/// may already be replaced.
-void AtomicFileWriter::clearLeftovers(unsigned backups)
-{
-    ::unlinkat(m_folder.get(), m_temporaryName.constData(), 0);
-    const std::optional<FileStamp> previous = stampOf(m_previousName);
-    if (!previous)
-        return;
-    m_hasPreviousName = true;
-    if (m_replaced && previous->inode == m_replaced->inode)
-        m_hasPreviousName = ::unlinkat(m_folder.get(), m_previousName.constData(), 0) != 0;
-    else
-        turnPreviousIntoBackup(backups);
 }
 
 void AtomicFileWriter::createTemporary()
@@ -187,61 +164,23 @@ void AtomicFileWriter::nameTemporary()
     m_hasTemporaryName = true;
 }
 
-void AtomicFileWriter::keepPrevious()
-{
-    m_hasPreviousName = ::linkat(m_folder.get(), m_target.name().constData(), m_folder.get(),
-                                 m_previousName.constData(), 0) == 0;
-    // Some file systems have no links; others forbid links to other people's
-    // files or to files with very many of them.
-    if (!m_hasPreviousName && (errno == EPERM || errno == EMLINK || isUnsupported(errno)))
-        qWarning().noquote() << foundation::escaped(
-            QObject::tr("Saving without a backup: %1").arg(qt_error_string(errno)));
-    else
-        check(m_hasPreviousName, m_previousName);
-}
-
 void AtomicFileWriter::checkUnchanged()
 {
     if (stampOf(m_target.name()) != m_replaced)
         throw changedOnDisk(m_target.shownPath());
 }
 
-void AtomicFileWriter::syncFolder()
+void AtomicFileWriter::syncFolder(VersionKeeper *keeper)
 {
     if (::fsync(m_folder.get()) == 0 || isUnsupported(errno))
         return;
     const int cause = errno;
-    // The new version could be lost in a power cut, so the old one is put back. If that
-    // fails, the next writer makes a backup of it.
-    if (std::exchange(m_hasPreviousName, false))
-        ::renameat(m_folder.get(), m_previousName.constData(), m_folder.get(),
-                   m_target.name().constData());
-    else if (!m_replaced)
+    // The new version could be lost in a power cut, so the old one is put back.
+    if (!m_replaced)
         ::unlinkat(m_folder.get(), m_target.name().constData(), 0);
+    else if (keeper)
+        keeper->putBack();
     throw cannotWrite(m_target.shownPath(), cause);
-}
-
-/// The new version is already in its place, so a failure here does not fail the
-/// save.
-void AtomicFileWriter::turnPreviousIntoBackup(unsigned backups)
-{
-    if (!m_hasPreviousName)
-        return;
-    const auto backup = [this](unsigned number) { return backupName(m_target, number); };
-    const auto rename = [this](const QByteArray &from, const QByteArray &to) {
-        if (::renameat(m_folder.get(), from.constData(), m_folder.get(), to.constData()) != 0 &&
-            errno != ENOENT)
-            qWarning().noquote() << foundation::escaped(
-                QObject::tr("A backup could not be kept: %1").arg(qt_error_string(errno)));
-    };
-    if (backups > 0) {
-        for (unsigned number = backups; number > 1; --number)
-            rename(backup(number - 1), backup(number));
-        rename(m_previousName, backup(1));
-    }
-    // Also after renaming, which does nothing between two names of the same file.
-    ::unlinkat(m_folder.get(), m_previousName.constData(), 0);
-    m_hasPreviousName = false;
 }
 
 void AtomicFileWriter::check(bool wentWell, const QByteArray &made) const

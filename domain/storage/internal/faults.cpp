@@ -114,6 +114,20 @@ StorageError notAsWritten(const QString &path)
             .arg(path)};
 }
 
+StorageError cannotUseVersions(const QString &folder, int error)
+{
+    return {StorageFailure::CannotWrite, folder,
+            QObject::tr("The folder '%1' for the former versions cannot be used: %2.")
+                .arg(folder, qt_error_string(error))};
+}
+
+StorageError strangeVersions(const QString &folder)
+{
+    return {StorageFailure::CannotWrite, folder,
+            QObject::tr("The folder '%1' for the former versions belongs to another user.")
+                .arg(folder)};
+}
+
 StorageError cannotHold(const QString &path, const std::exception &cause)
 {
     return {StorageFailure::CannotHold, path,

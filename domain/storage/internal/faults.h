@@ -49,6 +49,9 @@ public:
 /// `other` has the name of a file that saving makes.
 [[nodiscard]] StorageError inTheWay(const QString &path, const QString &other);
 [[nodiscard]] StorageError notAsWritten(const QString &path);
+/// `folder` is that of the former versions.
+[[nodiscard]] StorageError cannotUseVersions(const QString &folder, int error);
+[[nodiscard]] StorageError strangeVersions(const QString &folder);
 [[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
 
 // ---- notes -----------------------------------------------------------------------

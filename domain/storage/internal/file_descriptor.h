@@ -8,6 +8,12 @@
 
 namespace kiv::storage::internal {
 
+/// Whether the file system does not support the call.
+[[nodiscard]] inline bool isUnsupported(int error) noexcept
+{
+    return error == EOPNOTSUPP || error == EINVAL || error == ENOSYS;
+}
+
 /// Owns an open file descriptor, or none.
 class FileDescriptor {
 public:

@@ -9,6 +9,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QSysInfo>
+#include <QtCore/QThread>
 
 #include <algorithm>
 #include <array>
@@ -24,6 +25,8 @@ namespace {
 /// How often the lock file may vanish between opening and locking it, because
 /// its holder ends just then, before this gives up.
 constexpr int triesMax = 100;
+/// Milliseconds until a lock that another holds is tried again.
+constexpr unsigned long pause = 10;
 
 /// On a file system without locks, files are used without a lock.
 bool isWithoutLocks(int error) noexcept
@@ -75,8 +78,9 @@ bool isSameFile(const FileStamp &stamp, const struct stat &status) noexcept
 
 } // namespace
 
-FileLock::FileLock(const FileTarget &target)
-    : m_path(target.folder() + '/' + target.sibling(".lock"))
+FileLock::FileLock(const FileTarget &target, std::chrono::milliseconds patience)
+    : m_path(target.folder() + '/' + target.sibling(".lock")),
+      m_end(std::chrono::steady_clock::now() + patience)
 {
     auto nothingLeft = qScopeGuard([this] {
         if (m_isMade)
@@ -137,13 +141,16 @@ bool FileLock::open(const FileTarget &target)
 
 bool FileLock::lock(const FileTarget &target)
 {
-    if (::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
-        if (errno == EWOULDBLOCK) {
+    while (::flock(m_file.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (isWithoutLocks(errno))
+            break;
+        if (errno != EWOULDBLOCK)
+            throw cannotWrite(target.shownPath(), errno);
+        if (std::chrono::steady_clock::now() >= m_end) {
             m_isMade = false;
             throw locked(target.shownPath(), holder(m_file));
         }
-        if (!isWithoutLocks(errno))
-            throw cannotWrite(target.shownPath(), errno);
+        QThread::msleep(pause);
     }
     struct stat opened = {};
     struct stat found = {};

@@ -4,6 +4,8 @@
 #include "storage/internal/file_content.h"
 #include "storage/internal/file_descriptor.h"
 
+#include <chrono>
+
 namespace kiv::storage::internal {
 
 /// Locks a file against every other FileLock, in this and in other processes. The
@@ -17,7 +19,8 @@ class FileLock {
 public:
     /// Throws StorageError: Locked when another has the lock, NotOurs when what has
     /// the lock file's name is none, CannotWrite when the lock file cannot be made.
-    explicit FileLock(const FileTarget &target);
+    /// While another has it, this waits for that long.
+    explicit FileLock(const FileTarget &target, std::chrono::milliseconds patience = {});
     ~FileLock();
     FileLock(const FileLock &) = delete;
     FileLock &operator=(const FileLock &) = delete;
@@ -30,6 +33,7 @@ private:
     void remove() noexcept;
 
     QByteArray m_path;
+    std::chrono::steady_clock::time_point m_end; ///< of the patience
     FileDescriptor m_file;
     FileStamp m_stamp;
     bool m_isMade = false; ///< by this lock

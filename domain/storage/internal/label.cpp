@@ -55,7 +55,8 @@ VersionMark fromLabel(QByteArrayView label)
     mark.change = json.value(changeKey).toString();
     mark.savedAt = QDateTime::fromString(json.value(savedAtKey).toString(), Qt::ISODateWithMs);
     mark.transactions = json.value(transactionsKey).toInteger(-1);
-    if (!isId(mark.id) || mark.number < 1 || mark.ancestors.size() > VersionMark::ancestorsMax ||
+    if (!isId(mark.id) || mark.number < 1 || mark.number > VersionMark::numberMax ||
+        mark.ancestors.size() > VersionMark::ancestorsMax ||
         !std::ranges::all_of(mark.ancestors, isId) || mark.change.size() > VersionMark::changeMax ||
         !mark.savedAt.isValid() || mark.transactions < 0)
         throw labelMalformed();
