@@ -4300,5 +4300,45 @@
             <numerusform>Nur %n Änderungen lassen sich wiederherstellen.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 is as it was reconciled.</source>
+        <translation>%1 ist noch, wie es abgeglichen wurde.</translation>
+    </message>
+    <message>
+        <source>%1 is as it was reconciled, but %2.</source>
+        <translation>%1 ist noch, wie es abgeglichen wurde, aber: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was reconciled: %2.</source>
+        <translation>%1 ist nicht mehr, wie es abgeglichen wurde: %2.</translation>
+    </message>
+    <message>
+        <source>not as reconciled</source>
+        <translation>nicht wie abgeglichen</translation>
+    </message>
+    <message>
+        <source>holds</source>
+        <translation>gilt</translation>
+    </message>
+    <message>
+        <source>broken</source>
+        <translation>verletzt</translation>
+    </message>
+    <message>
+        <source>Only those of this account: number, name or path (default: all)</source>
+        <translation>Nur die dieses Kontos: Nummer, Name oder Pfad (Standard: alle)</translation>
+    </message>
+    <message>
+        <source>There are no reconciliations.</source>
+        <translation>Es gibt keine Abgleiche.</translation>
+    </message>
+    <message>
+        <source>Check whether the books still are as they were reconciled</source>
+        <translation>Prüfen, ob die Bücher noch sind, wie sie abgeglichen wurden</translation>
+    </message>
+    <message>
+        <source>%1 See kiv reconciliations.</source>
+        <translation>%1 Siehe kiv reconciliations.</translation>
+    </message>
 </context>
 </TS>

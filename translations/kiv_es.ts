@@ -4300,5 +4300,45 @@
             <numerusform>Solo se pueden rehacer %n cambios.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 is as it was reconciled.</source>
+        <translation>%1 está como se concilió.</translation>
+    </message>
+    <message>
+        <source>%1 is as it was reconciled, but %2.</source>
+        <translation>%1 está como se concilió, pero %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not as it was reconciled: %2.</source>
+        <translation>%1 ya no está como se concilió: %2.</translation>
+    </message>
+    <message>
+        <source>not as reconciled</source>
+        <translation>no como se concilió</translation>
+    </message>
+    <message>
+        <source>holds</source>
+        <translation>se mantiene</translation>
+    </message>
+    <message>
+        <source>broken</source>
+        <translation>rota</translation>
+    </message>
+    <message>
+        <source>Only those of this account: number, name or path (default: all)</source>
+        <translation>Solo las de esta cuenta: número, nombre o ruta (por defecto: todas)</translation>
+    </message>
+    <message>
+        <source>There are no reconciliations.</source>
+        <translation>No hay conciliaciones.</translation>
+    </message>
+    <message>
+        <source>Check whether the books still are as they were reconciled</source>
+        <translation>Comprobar si los libros siguen como se conciliaron</translation>
+    </message>
+    <message>
+        <source>%1 See kiv reconciliations.</source>
+        <translation>%1 Véase kiv reconciliations.</translation>
+    </message>
 </context>
 </TS>

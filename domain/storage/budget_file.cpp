@@ -10,6 +10,7 @@
 #include "storage/internal/version_folder.h"
 
 #include "foundation/streams.h"
+#include "surveying/reconciliation_derivation.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QScopeGuard>
@@ -80,14 +81,13 @@ private:
 
 /// The file's content, loaded once as a test: a saved file must be one that can
 /// be opened.
-QByteArray encodedSafely(const BudgetStorage::Data &data, const VersionMark &mark)
+QByteArray encodedSafely(const Version &version)
 {
-    QByteArray file = internal::encodeBudget(data, mark);
+    QByteArray file = internal::encodeBudget(version);
     const internal::BudgetImage image(file);
     image.checkSeal();
-    (void)image.mark();
     QStringList mended;
-    (void)image.data(mended);
+    (void)image.version(mended);
     return file;
 }
 
@@ -127,7 +127,7 @@ public:
         }
     }
 
-    Data load(QStringList &mended)
+    Version load(QStringList &mended)
     {
         const std::optional<FileContent> content =
             internal::readFile(m_target, internal::fileSizeMax);
@@ -135,18 +135,18 @@ public:
             throw internal::fileNotFound(m_target.shownPath());
         internal::requireBudget(internal::kindOf(content->bytes), m_target.shownPath());
         const internal::BudgetImage image(content->bytes);
-        Data data = withContent(
+        Version version = withContent(
             [&] {
                 image.checkSeal();
-                m_mark = image.mark();
-                return image.data(mended);
+                return image.version(mended);
             },
             [this](const std::exception &cause) {
                 return internal::damaged(m_target.shownPath(), cause);
             });
+        m_mark = version.mark;
         m_known = Fingerprint(content->bytes);
         m_attempted.reset();
-        return data;
+        return version;
     }
 
     /// `known` is what was seen last under this name, if anything was. A merged version
@@ -291,18 +291,39 @@ BudgetStorage::Data BudgetFile::load()
     if (!m_isReading)
         chosen.file->lockIfPossible(m_pace.patience);
     QStringList mended;
-    Data data = chosen.file->load(mended);
+    Version version = chosen.file->load(mended);
     warnOf(mended);
     m_burst.reset();
     if (chosen.other)
         m_open = std::move(chosen.other);
     backOnFailure.dismiss();
+    Data data = version.data;
+    settle(std::move(version));
     return data;
+}
+
+void BudgetFile::settle(Version version)
+{
+    m_present = {std::move(version.data.surveys), std::move(version.data.generalLedger),
+                 std::move(version.reconciliations), std::move(version.notes)};
+    m_notes.reset();
+    m_isNew = false;
+}
+
+Version BudgetFile::following(const Data &data, VersionMark mark) const
+{
+    static const Present nothing;
+    const Present &before = m_isNew ? nothing : m_present;
+    return {data,
+            surveying::reconciliationsAfter(before.reconciliations, {before.surveys, before.ledger},
+                                            {data.surveys, data.generalLedger}),
+            m_notes.value_or(before.notes), std::move(mark)};
 }
 
 void BudgetFile::store(const Data &data)
 {
     Burst burst;
+    Version version;
     const auto draft = [&](VersionMark mark, bool isMerged) {
         if (isMerged)
             burst = *m_burst;
@@ -313,16 +334,18 @@ void BudgetFile::store(const Data &data)
                             ? burst.change
                             : QObject::tr("%1 and %n more", nullptr, others).arg(burst.change));
         mark.savedAt = QDateTime::currentDateTimeUtc();
-        mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
-        QByteArray file = withContent([&] { return encodedSafely(data, mark); },
+        mark.transactions = static_cast<qint64>(data.generalLedger.transactionCount());
+        version = following(data, std::move(mark));
+        QByteArray file = withContent([&] { return encodedSafely(version); },
                                       [this](const std::exception &cause) {
                                           return internal::cannotHold(m_chosenPath, cause);
                                       });
-        return std::pair(std::move(file), std::move(mark));
+        return std::pair(std::move(file), version.mark);
     };
     store(draft, m_burst && m_pace.now() - m_burst->last < burstLength);
     burst.last = m_pace.now();
     m_burst = std::move(burst);
+    settle(std::move(version));
 }
 
 void BudgetFile::restore(const KeptVersion &version)
@@ -337,21 +360,27 @@ void BudgetFile::restore(const KeptVersion &version)
     const auto isDamaged = [&](const std::exception &cause) {
         return internal::damaged(version.path, cause);
     };
-    withContent([&] { image.checkSeal(); }, isDamaged);
+    QStringList mended;
+    Version restored = withContent(
+        [&] {
+            image.checkSeal();
+            return image.version(mended);
+        },
+        isDamaged);
     const auto draft = [&](const VersionMark &next, bool) {
         if (image.hasByteSeal())
-            return std::pair(content->bytes, image.mark());
+            return std::pair(content->bytes, restored.mark);
         // What the first edition wrote becomes a file of the present one.
-        QStringList mended;
-        const Data data = withContent([&] { return image.data(mended); }, isDamaged);
-        VersionMark mark = version.mark;
-        mark.transactions = static_cast<qint64>(data.generalLedger.transactions().size());
-        if (mark.number == 0)
-            mark.number = next.number;
-        QByteArray file = withContent([&] { return encodedSafely(data, mark); }, isDamaged);
-        return std::pair(std::move(file), std::move(mark));
+        restored.mark = version.mark;
+        restored.mark.transactions =
+            static_cast<qint64>(restored.data.generalLedger.transactionCount());
+        if (restored.mark.number == 0)
+            restored.mark.number = next.number;
+        QByteArray file = withContent([&] { return encodedSafely(restored); }, isDamaged);
+        return std::pair(std::move(file), restored.mark);
     };
     store(draft, false);
+    settle(std::move(restored));
     backOnFailure.dismiss();
 }
 

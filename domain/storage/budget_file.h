@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "storage/budget_storage.h"
 #include "storage/kept_versions.h"
+#include "storage/version.h"
 
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace kiv::storage {
 
@@ -43,7 +44,21 @@ public:
     void setReading(bool isReading) noexcept { m_isReading = isReading; }
     /// Mended where it needs it.
     [[nodiscard]] Data load() override;
+    /// Stores the notes too, and the reconciliations that follow from those of the
+    /// version which was loaded or stored last.
     void store(const Data &data) override;
+    /// Of the version which was loaded or stored last; see surveying::reconciliationsAfter.
+    [[nodiscard]] const surveying::Reconciliations &reconciliations() const noexcept
+    {
+        return m_present.reconciliations;
+    }
+    /// Of the version which was loaded or stored last.
+    [[nodiscard]] const Notes &notes() const noexcept { return m_present.notes; }
+    /// Replaces the notes with the next store.
+    void setNotes(Notes notes) { m_notes = std::move(notes); }
+    /// Whether the budget that is stored next is a new one, to which no reconciliations and
+    /// notes of the version before belong.
+    void setNew(bool isNew) noexcept { m_isNew = isNew; }
     /// Makes a former version the file again, with its own mark, and keeps the one until
     /// now. Throws StorageError as store() does, NotFound when the version is gone, and
     /// Damaged when it is not whole.
@@ -71,8 +86,19 @@ private:
     };
     /// The bytes to store and their mark, from the mark that a new version would have.
     using Draft = std::function<std::pair<QByteArray, VersionMark>(VersionMark, bool isMerged)>;
+    /// What of the present version the next one depends on.
+    struct Present {
+        surveying::CompletedSurveys surveys;
+        accounting::GeneralLedger ledger;
+        surveying::Reconciliations reconciliations;
+        Notes notes;
+    };
 
     [[nodiscard]] Chosen choose();
+    /// The version that follows from the present one.
+    [[nodiscard]] Version following(const Data &data, VersionMark mark) const;
+    /// This version was loaded or stored.
+    void settle(Version version);
     void goBack() noexcept;
     void store(const Draft &draft, bool mayMerge);
 
@@ -81,6 +107,9 @@ private:
     QString m_change;
     bool m_isReading = false;
     std::optional<Burst> m_burst;
+    Present m_present;
+    std::optional<Notes> m_notes; ///< for the next store
+    bool m_isNew = false;
     std::unique_ptr<OpenFile> m_open;
 };
 

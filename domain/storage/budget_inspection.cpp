@@ -79,8 +79,9 @@ BudgetInspection inspectBudget(const QString &filePathName)
     if (!image || !image->hasByteSeal())
         judgeSeal();
     judge.judge(FilePromise::Rules, [&] {
-        inspection.mark = image->mark();
-        inspection.data = image->data(mended);
+        Version version = image->version(mended);
+        inspection.mark = std::move(version.mark);
+        inspection.data = std::move(version.data);
     });
     judge.judge(FilePromise::Ties, [] {});
     std::ranges::sort(inspection.judgements, {}, &Judgement::promise);

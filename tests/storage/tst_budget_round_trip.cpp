@@ -148,6 +148,17 @@ void BudgetRoundTripTest::whateverTheDomainMakesLoadsEqualAndSavesTheSameImage()
         test::store(folder.path(u"b.budget"_qs), loaded);
         RC_ASSERT(test::imageOf(folder.read(u"a.budget"_qs)) ==
                   test::imageOf(folder.read(u"b.budget"_qs)));
+
+        storage::BudgetFile file;
+        file.setFilePathName(folder.path(u"c.budget"_qs));
+        storage::Notes notes;
+        notes.set(u"key"_qs, pick(100));
+        file.setNotes(notes);
+        file.store(data);
+        const auto reconciliations = file.reconciliations();
+        (void)file.load();
+        RC_ASSERT(file.reconciliations() == reconciliations);
+        RC_ASSERT(file.notes() == notes);
     });
     QVERIFY(holds);
     QCOMPARE(log.warnings(), QStringList());

@@ -40,6 +40,12 @@ Navigator &Document::navigator()
                              if (!m_file.isEmpty())
                                  revert();
                          });
+        // What was reconciled in another budget means nothing in a new one.
+        QObject::connect(m_navigator.get(), &Navigator::showNewBudget, m_navigator.get(),
+                         [this] {
+                             m_storage->beginAnew();
+                             m_isOther = true;
+                         });
     }
     return *m_navigator;
 }
@@ -63,6 +69,9 @@ void Document::open(const QString &file, Access access)
     m_storage->setReading(access == Access::Reading);
     navigator().onConfirmedLoadBudgetFile(path, false);
     m_file = path;
+    m_watch = {};
+    m_isOther = false;
+    watch(false);
 }
 
 void Document::openLost(const QString &file)
@@ -109,6 +118,31 @@ void Document::store(Slot slot, const Values &...values)
             throw;
         qWarning().noquote() << userText(error);
     }
+    watch(!std::exchange(m_isOther, false));
+}
+
+void Document::watch(bool isChange)
+{
+    const accounting::GeneralLedger &ledger = m_storage->present()->generalLedger;
+    const surveying::Reconciliations &all = m_storage->reconciliations();
+    m_broken = isChange ? m_watch.follow(all, ledger) : m_watch.check(all, ledger);
+}
+
+std::vector<JudgedReconciliation> Document::reconciliations() const
+{
+    if (!m_storage || !m_storage->present())
+        return {};
+    return judged(m_storage->reconciliations(), m_storage->present()->generalLedger);
+}
+
+QString Document::sentence(const JudgedReconciliation &reconciliation)
+{
+    return reconciliation.sentence(m_storage->present()->generalLedger, displayAs());
+}
+
+std::vector<JudgedReconciliation> Document::takeBroken()
+{
+    return std::exchange(m_broken, {});
 }
 
 void Document::save(const QString &change)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "workbench/requests/requests.h"
+#include "workbench/surveys/reconciliation_watch.h"
 
 #include "foundation/qt_ptr.h"
 #include "networking/request_sender.h"
@@ -98,10 +99,21 @@ public:
     /// Repairs the budget in memory now, as the next opening of its file would.
     void mend();
 
+    /// The reconciliations of the budget as it was opened or saved last.
+    [[nodiscard]] std::vector<JudgedReconciliation> reconciliations() const;
+    /// A sentence about one of them.
+    [[nodiscard]] QString sentence(const JudgedReconciliation &reconciliation);
+    /// The reconciliations that broke since the last call: after opening a file all that
+    /// do not hold, after saving those that the change broke. Of each account the first.
+    [[nodiscard]] std::vector<JudgedReconciliation> takeBroken();
+
 private:
     /// Calls a slot that stores the budget, and then the exchange rates.
     template <typename Slot, typename... Values>
     void store(Slot slot, const Values &...values);
+    /// Notes what is broken in the version that is open now. One that was not made by a
+    /// change of the one before is checked as a whole.
+    void watch(bool isChange);
 
     [[nodiscard]] bool isLost() const;
     [[nodiscard]] Recalled recall(storage::KeptVersion version, storage::BudgetStorage::Data data);
@@ -111,6 +123,9 @@ private:
     RecallingStorage *m_storage = nullptr; ///< the Navigator's
     QString m_file;
     Requests m_requests;
+    ReconciliationWatch m_watch;
+    std::vector<JudgedReconciliation> m_broken;
+    bool m_isOther = false; ///< whether a new or a former budget is to be saved next
 };
 
 } // namespace kiv::workbench

@@ -24,8 +24,10 @@ void RecallingStorage::restore(storage::KeptVersion version, Data data)
 
 storage::BudgetStorage::Data RecallingStorage::load()
 {
-    if (std::optional<Data> recalled = std::exchange(m_recalled, std::nullopt))
+    if (std::optional<Data> recalled = std::exchange(m_recalled, std::nullopt)) {
+        m_file.setNew(false);
         return *std::move(recalled);
+    }
     Data loaded = m_file.load();
     settle(loaded);
     return loaded;

@@ -30,6 +30,13 @@ public:
     [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
     /// The present version; nothing before the first load or store.
     [[nodiscard]] const std::optional<Data> &present() const noexcept { return m_present; }
+    /// The reconciliations of the version that was loaded or stored last.
+    [[nodiscard]] const surveying::Reconciliations &reconciliations() const noexcept
+    {
+        return m_file.reconciliations();
+    }
+    /// A new budget is in memory, unless another one is loaded.
+    void beginAnew() { m_file.setNew(true); }
     /// Whether saving the present version failed.
     [[nodiscard]] bool isUnsaved() const noexcept { return m_isUnsaved; }
     /// How often a budget was stored, in any file.

@@ -27,6 +27,12 @@ JudgedReconciliation judgedBy(const Reconciliations &all, std::size_t place,
     return {one.account, one.day, one.balance, one.transactions.size(), std::move(fault)};
 }
 
+QString nameOf(accounting::AccountNumber number, const GeneralLedger &ledger)
+{
+    return ledger.hasLedger(number) ? accounting::presentationText(ledger.accountCode(number))
+                                    : accounting::presentationText(number);
+}
+
 /// What differs, as it was and as it is.
 std::pair<QString, QString> differences(const ReconciledTransaction &then,
                                         const ReconciledTransaction &now,
@@ -41,10 +47,7 @@ std::pair<QString, QString> differences(const ReconciledTransaction &then,
             is += text(after);
         }
     };
-    const auto account = [&](accounting::AccountNumber number) {
-        return ledger.hasLedger(number) ? accounting::presentationText(ledger.accountCode(number))
-                                        : accounting::presentationText(number);
-    };
+    const auto account = [&](accounting::AccountNumber number) { return nameOf(number, ledger); };
     compare(then.day, now.day, [](QDate day) { return foundation::presentationText(day); });
     compare(then.amount, now.amount,
             [&](const numira::Money &amount) { return amountText(amount, displayAs); });
@@ -77,6 +80,18 @@ QString JudgedReconciliation::reason(const GeneralLedger &ledger,
     }
     return QObject::tr("#%1, %2, is no longer marked as reconciled since the survey of %3")
         .arg(number, amount, survey);
+}
+
+QString JudgedReconciliation::sentence(const GeneralLedger &ledger,
+                                       navigation::CurrencyDisplayOptions displayAs) const
+{
+    const QString name = nameOf(account.account.number, ledger);
+    if (!fault)
+        return QObject::tr("%1 is as it was reconciled.").arg(name);
+    if (holds())
+        return QObject::tr("%1 is as it was reconciled, but %2.")
+            .arg(name, reason(ledger, displayAs));
+    return QObject::tr("%1 is not as it was reconciled: %2.").arg(name, reason(ledger, displayAs));
 }
 
 std::vector<JudgedReconciliation> judged(const Reconciliations &all, const GeneralLedger &ledger)

@@ -30,6 +30,9 @@ struct KIV_WORKBENCH_EXPORT JudgedReconciliation {
     /// names of the accounts.
     [[nodiscard]] QString reason(const accounting::GeneralLedger &ledger,
                                  navigation::CurrencyDisplayOptions displayAs) const;
+    /// The whole sentence: "1 Checking is not as it was reconciled: …."
+    [[nodiscard]] QString sentence(const accounting::GeneralLedger &ledger,
+                                   navigation::CurrencyDisplayOptions displayAs) const;
 };
 
 /// All reconciliations, in their order.

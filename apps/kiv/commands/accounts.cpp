@@ -24,6 +24,12 @@ QString openWord(const QJsonValue &isOpen)
     return isOpen.toBool() ? QString() : QObject::tr("closed");
 }
 
+/// A remark about an account whose reconciliations do not all hold.
+QString reconciledText(const QJsonValue &isReconciled)
+{
+    return isReconciled.toBool(true) ? QString() : QObject::tr("not as reconciled");
+}
+
 struct ListAccounts {
     std::optional<accounting::AccountTypes> type;
     bool isOpenOnly = false;
@@ -45,13 +51,26 @@ struct ListAccounts {
             if ((!type || account.type() == *type) && !(isOpenOnly && account.isClosed()))
                 byPath.emplace(index.path(account.code().number()), &account);
         }
+        // Of the accounts that were reconciled, whether all that still holds.
+        std::map<AccountNumber, bool> reconciled;
+        for (const auto &one : call.document.reconciliations()) {
+            const AccountNumber number = one.account.account.number;
+            bool &holds = reconciled.try_emplace(number, true).first->second;
+            holds = holds && one.holds();
+        }
         QJsonArray rows;
-        for (const auto &[path, account] : byPath)
-            rows.append(toJson(*account, index));
+        for (const auto &[path, account] : byPath) {
+            QJsonObject row = toJson(*account, index);
+            const auto found = reconciled.find(account->code().number());
+            if (found != reconciled.end())
+                row.insert(QStringLiteral("asReconciled"), found->second);
+            rows.append(row);
+        }
         return Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
                                 {QObject::tr("Account"), QStringLiteral("path")},
                                 {QObject::tr("Balance"), QStringLiteral("balance")},
-                                {QString(), QStringLiteral("open"), openWord}},
+                                {QString(), QStringLiteral("open"), openWord},
+                                {QString(), QStringLiteral("asReconciled"), reconciledText}},
                                rows, QObject::tr("There are no accounts."));
     }
 };

@@ -22,6 +22,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addBankCommands(root);
     addImportCommands(root);
     addSurveyCommands(root);
+    addReconciliationCommands(root);
     root.setHeading(QObject::tr("Reports and export"));
     addDashboardCommands(root);
     addReportCommands(root);

@@ -18,6 +18,7 @@ void addDueCommands(CommandGroup &root);
 void addBankCommands(CommandGroup &root);
 void addImportCommands(CommandGroup &root);
 void addSurveyCommands(CommandGroup &root);
+void addReconciliationCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);
 void addReportCommands(CommandGroup &root);
 void addExportCommands(CommandGroup &root);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// survey show|complete|run, reconciliation last
+// survey show|complete|run
 #include "commands/commands.h"
 
 #include "output/json.h"
@@ -275,39 +275,6 @@ private:
     }
 };
 
-struct LastReconciliation {
-    QString account;
-
-    void declare(Arguments &arguments)
-    {
-        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"));
-    }
-    Report run(Call &call) const
-    {
-        const AccountIndex index = call.requests.accounts();
-        const accounting::AccountCode code = index.find(account).code();
-        const auto answer =
-            call.requests.ask(&Navigator::lookedUpLastReconciliation,
-                              &Navigator::onLookUpLastReconciliation, code.number());
-        const auto &last = std::get<1>(answer);
-        QJsonObject json{{QStringLiteral("account"), toJson(code.number())},
-                         {QStringLiteral("currency"), foundation::toQString(std::get<0>(answer))},
-                         {QStringLiteral("on"), QJsonValue()},
-                         {QStringLiteral("balance"), QJsonValue()}};
-        if (!last || !last->reconciledOn) {
-            return Report(json).line(
-                QObject::tr("%1 was never reconciled.").arg(accounting::presentationText(code)));
-        }
-        const QDate on = *last->reconciledOn;
-        json[QStringLiteral("on")] = toJson(on);
-        json[QStringLiteral("balance")] = toJson(last->amount);
-        return Report(json).line(
-            QObject::tr("%1 was reconciled on %2 with a balance of %3.")
-                .arg(accounting::presentationText(code), foundation::presentationText(on),
-                     amountText(toJson(last->amount), call.document.displayAs())));
-    }
-};
-
 } // namespace
 
 void addSurveyCommands(CommandGroup &root)
@@ -320,11 +287,6 @@ void addSurveyCommands(CommandGroup &root)
                CompleteSurvey{});
     survey.add("run", QObject::tr("Reconcile an account question by question"), Change,
                RunSurvey{});
-
-    CommandGroup reconciliation =
-        root.group("reconciliation", QObject::tr("Show the last reconciliation"));
-    reconciliation.add("last", QObject::tr("Show the last reconciliation of an account"), Query,
-                       LastReconciliation{});
 }
 
 } // namespace kiv::app

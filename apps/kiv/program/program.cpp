@@ -121,8 +121,10 @@ int Program::execute()
             takeBack();
         throw;
     }
-    if (isSaved && !report.isUnchanged())
+    if (isSaved && !report.isUnchanged()) {
         m_document.save(report.change());
+        warnOfBroken();
+    }
     report.finish();
     if (isSaving(kind) && options.isDryRun) {
         takeBack();
@@ -154,6 +156,7 @@ void Program::openFile(CommandKind kind)
         (!m_options.file.isEmpty() &&
          workbench::Document::withExtension(named) != m_document.file()))
         openNamed(named, kind);
+    warnOfBroken();
 }
 
 void Program::openNamed(const QString &file, CommandKind kind)
@@ -167,6 +170,14 @@ void Program::openNamed(const QString &file, CommandKind kind)
         if (kind != CommandKind::Restore || !isLost(error))
             throw;
         m_document.openLost(file);
+    }
+}
+
+void Program::warnOfBroken()
+{
+    for (const workbench::JudgedReconciliation &broken : m_document.takeBroken()) {
+        qWarning().noquote()
+            << QObject::tr("%1 See kiv reconciliations.").arg(m_document.sentence(broken));
     }
 }
 

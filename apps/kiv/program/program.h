@@ -42,6 +42,8 @@ private:
     void takeBack();
     void openFile(CommandKind kind);
     void openNamed(const QString &file, CommandKind kind);
+    /// Warns of the reconciliations that broke.
+    void warnOfBroken();
     void print(const Report &report);
 
     DeclareCommands m_declare;

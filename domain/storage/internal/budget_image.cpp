@@ -6,9 +6,12 @@
 #include "storage/internal/label.h"
 #include "storage/internal/ledger_rows.h"
 #include "storage/internal/mending.h"
+#include "storage/internal/reconciliation_rows.h"
 #include "storage/internal/row_digest.h"
 #include "storage/internal/seal.h"
 #include "storage/internal/sha256.h"
+
+#include "surveying/reconciliation_derivation.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QtEndian>
@@ -73,14 +76,17 @@ BudgetStorage::Data readTables(RowSource &source, QStringList &mended)
     return data;
 }
 
-void writeTables(RowSink &sink, const BudgetStorage::Data &data)
+void writeTables(RowSink &sink, const Version &version)
 {
+    const BudgetStorage::Data &data = version.data;
     writeLedger(sink, data.generalLedger);
     writeItems(sink, data.budget);
     writeItemAccounts(sink, data.budgetAccountCodes);
     writeBanks(sink, data.banks);
     writeSurveys(sink, data.surveys);
     writeItemTags(sink, data.itemTags);
+    writeReconciliations(sink, version.reconciliations);
+    writeNotes(sink, version.notes);
     sink.finish();
 }
 
@@ -127,13 +133,13 @@ FileKind kindOf(QByteArrayView file) noexcept
     return isWhole ? FileKind::Budget : FileKind::Malformed;
 }
 
-QByteArray encodeBudget(const BudgetStorage::Data &data, const VersionMark &mark)
+QByteArray encodeBudget(const Version &version)
 {
     ImageDatabase database;
     RowSink sink(database);
-    writeTables(sink, data);
+    writeTables(sink, version);
     const Image image = database.serialised();
-    const QByteArray label = toLabel(mark);
+    const QByteArray label = toLabel(version.mark);
     if (image.bytes().size() + label.size() + sealSize > fileSizeMax)
         throw moreThanAFileMayHold();
     return sealed(image.bytes(), label);
@@ -156,13 +162,21 @@ void BudgetImage::checkTables() const
     const ImageDatabase database(image(), m_version);
 }
 
-BudgetStorage::Data BudgetImage::data(QStringList &mended) const
+Version BudgetImage::version(QStringList &mended) const
 {
     ImageDatabase database(image(), m_version);
     RowSource source(database, m_version);
-    BudgetStorage::Data data = readTables(source, mended);
+    Version version{readTables(source, mended), {}, {}, mark()};
+    BudgetStorage::Data &data = version.data;
     mend(data, mended);
-    return data;
+    if (m_version > firstEdition) {
+        version.reconciliations = readReconciliations(source);
+        version.notes = readNotes(source);
+    }
+    if (version.reconciliations.empty())
+        version.reconciliations =
+            surveying::firstReconciliations({data.surveys, data.generalLedger});
+    return version;
 }
 
 VersionMark BudgetImage::mark() const

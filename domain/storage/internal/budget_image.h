@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "storage/budget_storage.h"
-#include "storage/version_mark.h"
+#include "storage/version.h"
 
 #include <QtCore/QStringList>
 
@@ -20,9 +19,9 @@ enum class FileKind : std::uint8_t {
 /// Throws the StorageError for a file of another kind than FileKind::Budget.
 void requireBudget(FileKind kind, const QString &path);
 
-/// The budget file with the data; the same bytes for the same data and mark. Throws
+/// The budget file with the version; the same bytes for the same version. Throws
 /// ContentFault when a budget file cannot hold it.
-[[nodiscard]] QByteArray encodeBudget(const BudgetStorage::Data &data, const VersionMark &mark);
+[[nodiscard]] QByteArray encodeBudget(const Version &version);
 
 /// A file of FileKind::Budget, of either edition: a view of its bytes.
 class BudgetImage {
@@ -36,10 +35,11 @@ public:
     void checkSeal() const;
     /// Throws ContentFault when it has other tables than its version has.
     void checkTables() const;
-    /// The data, mended where it needs it, with a sentence in `mended` for each thing
-    /// that was. Its seal is not checked. Throws ContentFault, or what the domain
+    /// The version with its mark, and the data mended where it needs it, with a sentence
+    /// in `mended` for each thing that was. One that kept no reconciliations gets those
+    /// of its surveys. Its seal is not checked. Throws ContentFault, or what the domain
     /// throws, for a file that was not written so.
-    [[nodiscard]] BudgetStorage::Data data(QStringList &mended) const;
+    [[nodiscard]] Version version(QStringList &mended) const;
     /// What the version tells about itself; the first edition nothing but its id, which
     /// follows from its bytes. Throws ContentFault when that is malformed.
     [[nodiscard]] VersionMark mark() const;

@@ -74,6 +74,8 @@ public:
     RowWriter &optionalText(const std::optional<QString> &text);
     /// Null for an invalid date.
     RowWriter &date(QDate date);
+    /// UTF-8 that is no text of a user.
+    RowWriter &storedText(QByteArray text) { return bytes(std::move(text)); }
     /// In a column of its own where another one tells the currency.
     RowWriter &amount(const numira::Money &money);
     RowWriter &currency(const numira::Currency &currency);
@@ -127,6 +129,8 @@ public:
     [[nodiscard]] QString text();
     [[nodiscard]] std::optional<QString> optionalText();
     [[nodiscard]] SharedText sharedText();
+    /// As it is stored and maybe malformed; valid until the next row.
+    [[nodiscard]] QByteArrayView storedText() { return bytesFrom(nextValue()); }
     /// Refuses anything but null.
     void absent()
     {
