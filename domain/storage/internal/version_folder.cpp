@@ -283,9 +283,9 @@ void VersionFolder::copy(const QByteArray &name, QByteArrayView bytes)
 bool VersionFolder::putBack() noexcept
 {
     m_isNew = false;
-    const bool isBack = !m_keptName.isEmpty() &&
-                        ::renameat(m_folder.get(), m_keptName.constData(), AT_FDCWD,
-                                   m_target.path().constData()) == 0;
+    const bool isBack =
+        !m_keptName.isEmpty() && ::renameat(m_folder.get(), m_keptName.constData(), AT_FDCWD,
+                                            m_target.path().constData()) == 0;
     m_isMade = m_isMade && isBack; // then it is empty again
     return isBack;
 }
