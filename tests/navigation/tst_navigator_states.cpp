@@ -39,7 +39,7 @@ const QString home = QStringLiteral("home.budget");
 /// What is read of a budget that was written by the real storage.
 Data throughFile(const QString &path, const Data &data)
 {
-    storage::BudgetFile file(0);
+    storage::BudgetFile file;
     file.setFilePathName(path);
     file.store(data);
     file.setFilePathName(path);
