@@ -41,11 +41,10 @@ Navigator &Document::navigator()
                                  revert();
                          });
         // What was reconciled in another budget means nothing in a new one.
-        QObject::connect(m_navigator.get(), &Navigator::showNewBudget, m_navigator.get(),
-                         [this] {
-                             m_storage->beginAnew();
-                             m_isOther = true;
-                         });
+        QObject::connect(m_navigator.get(), &Navigator::showNewBudget, m_navigator.get(), [this] {
+            m_storage->beginAnew();
+            m_isOther = true;
+        });
     }
     return *m_navigator;
 }
@@ -133,6 +132,19 @@ std::vector<JudgedReconciliation> Document::reconciliations() const
     if (!m_storage || !m_storage->present())
         return {};
     return judged(m_storage->reconciliations(), m_storage->present()->generalLedger);
+}
+
+std::map<accounting::AccountNumber, bool> Document::reconciledAccounts() const
+{
+    std::map<accounting::AccountNumber, bool> accounts;
+    if (!m_storage)
+        return accounts;
+    const surveying::Reconciliations &all = m_storage->reconciliations();
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        const auto account = accounts.try_emplace(all[place].account.account.number, true).first;
+        account->second = account->second && m_watch.holds(place);
+    }
+    return accounts;
 }
 
 QString Document::sentence(const JudgedReconciliation &reconciliation)

@@ -101,6 +101,8 @@ public:
 
     /// The reconciliations of the budget as it was opened or saved last.
     [[nodiscard]] std::vector<JudgedReconciliation> reconciliations() const;
+    /// For each account that was reconciled, whether all its reconciliations hold.
+    [[nodiscard]] std::map<accounting::AccountNumber, bool> reconciledAccounts() const;
     /// A sentence about one of them.
     [[nodiscard]] QString sentence(const JudgedReconciliation &reconciliation);
     /// The reconciliations that broke since the last call: after opening a file all that

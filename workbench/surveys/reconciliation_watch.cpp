@@ -132,6 +132,12 @@ std::vector<JudgedReconciliation> ReconciliationWatch::follow(const Reconciliati
     return news(all, m_index.faults(all, ledger, changed), std::move(broken));
 }
 
+bool ReconciliationWatch::holds(std::size_t place) const
+{
+    const auto broken = m_broken.lower_bound({place, 0});
+    return broken == m_broken.end() || broken->first != place;
+}
+
 std::vector<JudgedReconciliation>
 ReconciliationWatch::news(const Reconciliations &all,
                           const std::vector<ReconciliationFault> &faults, std::set<Place> broken)

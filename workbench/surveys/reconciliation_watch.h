@@ -53,6 +53,9 @@ public:
     [[nodiscard]] std::vector<JudgedReconciliation> follow(const surveying::Reconciliations &all,
                                                            const accounting::GeneralLedger &ledger);
 
+    /// Whether the reconciliation at this place of the list held when it was checked last.
+    [[nodiscard]] bool holds(std::size_t place) const;
+
 private:
     /// A transaction of a reconciliation, by their places.
     using Place = std::pair<std::size_t, std::size_t>;

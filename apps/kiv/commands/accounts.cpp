@@ -51,13 +51,7 @@ struct ListAccounts {
             if ((!type || account.type() == *type) && !(isOpenOnly && account.isClosed()))
                 byPath.emplace(index.path(account.code().number()), &account);
         }
-        // Of the accounts that were reconciled, whether all that still holds.
-        std::map<AccountNumber, bool> reconciled;
-        for (const auto &one : call.document.reconciliations()) {
-            const AccountNumber number = one.account.account.number;
-            bool &holds = reconciled.try_emplace(number, true).first->second;
-            holds = holds && one.holds();
-        }
+        const std::map<AccountNumber, bool> reconciled = call.document.reconciledAccounts();
         QJsonArray rows;
         for (const auto &[path, account] : byPath) {
             QJsonObject row = toJson(*account, index);
