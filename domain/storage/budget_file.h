@@ -31,6 +31,7 @@ public:
     };
 
     BudgetFile();
+    /// With another clock, or less patience.
     explicit BudgetFile(Pace pace);
     ~BudgetFile() override;
 

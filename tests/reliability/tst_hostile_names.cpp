@@ -126,7 +126,7 @@ void HostileNames::initTestCase()
                                 tagging::Tags{tagging::Tag(name)};
         QVERIFY2(isKept, name.left(100).toUtf8().toHex());
     }
-    storage::BudgetFile file(0);
+    storage::BudgetFile file;
     file.setFilePathName(m_path);
     file.store(data);
 }

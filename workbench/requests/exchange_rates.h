@@ -23,8 +23,8 @@ struct FetchedRates {
 
 /// A rate as the user gives it: so much of the currency is worth one unit of the base.
 struct TypedRate {
-    numira::Currency currency;
-    numira::FloatingPoint rate;
+    numira::Currency currency;  ///< not the base
+    numira::FloatingPoint rate; ///< for one unit of the base
 };
 
 /// Stores rates that the user typed, of this moment, and returns the table with them. Throws

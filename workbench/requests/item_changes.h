@@ -11,8 +11,8 @@ namespace kiv::workbench {
 
 /// The given values of an item besides its name.
 struct ItemValues {
-    std::optional<Amount> amount;
-    std::optional<budgeting::EventFrequency> every;
+    std::optional<Amount> amount;                    ///< each time
+    std::optional<budgeting::EventFrequency> every;  ///< how often
     std::optional<QDate> next;                       ///< the next due date
     std::optional<Amount> extra;                     ///< the borrowed amount, or the target
     std::optional<tagging::Tags> tags;               ///< all tags, possibly none

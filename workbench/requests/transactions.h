@@ -14,10 +14,10 @@ KIV_WORKBENCH_EXPORT accounting::TransactionNumber post(Requests &requests,
 
 /// A transfer between two accounts of banks, as typed.
 struct Transfer {
-    QString from; ///< the account that the money leaves: number, name or path
-    QString to;   ///< the account that it goes to
-    Amount amount;
-    QString description;
+    QString from;             ///< the account that the money leaves: number, name or path
+    QString to;               ///< the account that it goes to
+    Amount amount;            ///< that moves
+    QString description;      ///< what it is for
     std::optional<QDate> day; ///< without one, the real day
 };
 
@@ -38,11 +38,11 @@ KIV_WORKBENCH_EXPORT accounting::TransactionNumber refund(Requests &requests,
 
 /// The given values of a transaction; missing ones stay as they are.
 struct TransactionValues {
-    std::optional<QDate> day;
-    std::optional<Amount> amount;
-    std::optional<QString> debit;  ///< number, name or path of the account
-    std::optional<QString> credit; ///< number, name or path of the account
-    std::optional<QString> description;
+    std::optional<QDate> day;           ///< on which it occurred
+    std::optional<Amount> amount;       ///< in the currency in which it was entered
+    std::optional<QString> debit;       ///< number, name or path of the account
+    std::optional<QString> credit;      ///< number, name or path of the account
+    std::optional<QString> description; ///< what it was for
 };
 
 /// Changes the given values. A new description keeps the bank's identifier of the old one,

@@ -17,9 +17,9 @@ enum class KnownTransactions : std::uint8_t {
 
 /// A transaction of the file.
 struct ImportedTransaction {
-    accounting::Transaction transaction;
-    interchange::Place place; ///< where it begins in the file
-    bool isSkipped = false;   ///< as a duplicate
+    accounting::Transaction transaction; ///< as the file tells it
+    interchange::Place place;            ///< where it begins in the file
+    bool isSkipped = false;              ///< as a duplicate
 };
 
 /// What an import posted and skipped.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "interchange/internal/journal_entry.h"
 #include "interchange/draft.h"
+#include "interchange/internal/journal_entry.h"
 #include "interchange/journal_options.h"
 
 #include <QtCore/QRegularExpression>
