@@ -17,7 +17,7 @@ public:
     /// The longest key, in UTF-16 code units.
     static constexpr qsizetype keySizeMax = 200;
     /// The longest value, in bytes of its text.
-    static constexpr qsizetype valueSizeMax = 64 * 1024;
+    static constexpr qsizetype valueSizeMax = qsizetype{64} * 1024;
     /// The most notes.
     static constexpr std::size_t countMax = 1'000;
 

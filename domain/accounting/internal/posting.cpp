@@ -117,10 +117,10 @@ numira::Money convertedAmount(const numira::Money &amount, const numira::Currenc
     return result;
 }
 
-TransactionRecord newRecord(const LedgerState &state, Transaction transaction,
+TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
                             TransactionNumber number, const TransactionRecord *before)
 {
-    TransactionRecord record = plainRecord(std::move(transaction));
+    TransactionRecord record = plainRecord(transaction);
     const auto [debit, credit] = checkTransaction(state, record, number);
     const auto side = [&](const AccountRecord &account) {
         const numira::Currency &currency = account.currency();
@@ -132,7 +132,7 @@ TransactionRecord newRecord(const LedgerState &state, Transaction transaction,
     return record;
 }
 
-TransactionRecord plainRecord(Transaction transaction)
+TransactionRecord plainRecord(const Transaction &transaction)
 {
     TransactionRecord record{.occurredOn = transaction.occurredOn(),
                              .debit = transaction.debiting().number(),

@@ -42,10 +42,10 @@ checkTransaction(const LedgerState &state, const TransactionRecord &record,
 /// with the same amount, what that had in a currency stays and is not converted
 /// again.
 /// Throws as the two above.
-[[nodiscard]] TransactionRecord newRecord(const LedgerState &state, Transaction transaction,
+[[nodiscard]] TransactionRecord newRecord(const LedgerState &state, const Transaction &transaction,
                                           TransactionNumber number,
                                           const TransactionRecord *before = nullptr);
 /// The transaction as the ledger keeps it, without any check.
-[[nodiscard]] TransactionRecord plainRecord(Transaction transaction);
+[[nodiscard]] TransactionRecord plainRecord(const Transaction &transaction);
 
 } // namespace kiv::accounting::internal

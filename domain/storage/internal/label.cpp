@@ -50,7 +50,7 @@ VersionMark fromLabel(QByteArrayView label)
     VersionMark mark;
     mark.id = json.value(idKey).toString();
     mark.number = json.value(numberKey).toInteger(-1);
-    for (const QJsonValue &ancestor : json.value(ancestorsKey).toArray())
+    for (const auto &ancestor : json.value(ancestorsKey).toArray())
         mark.ancestors.append(ancestor.toString());
     mark.change = json.value(changeKey).toString();
     mark.savedAt = QDateTime::fromString(json.value(savedAtKey).toString(), Qt::ISODateWithMs);

@@ -6,7 +6,7 @@
 namespace kiv::storage::internal {
 
 /// The largest label.
-inline constexpr qsizetype labelSizeMax = 16 * 1024;
+inline constexpr qsizetype labelSizeMax = qsizetype{16} * 1024;
 
 /// The mark as the label of a budget file: one JSON object without line breaks.
 [[nodiscard]] QByteArray toLabel(const VersionMark &mark);

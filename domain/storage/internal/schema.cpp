@@ -90,6 +90,7 @@ TableDefinition defined(const TableColumns &table, const ColumnTypes &types)
 std::vector<TableDefinition> firstEdition()
 {
     std::vector<TableDefinition> tables;
+    tables.reserve(common.size() + 1);
     for (const TableColumns &table : common)
         tables.push_back(defined(table, firstTypes));
     tables.push_back(defined(seal, firstTypes));
