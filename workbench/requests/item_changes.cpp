@@ -73,7 +73,7 @@ BudgetItemIdentifier addItem(Requests &requests, GuiElementIdentifier caller, co
         currency = given.amount->currency;
     const numira::Money nothing(currency ? *currency : requests.preferredCurrency());
     const Item item = merged(blank<Item>(name, nothing, given.next.value_or(day)), given);
-    const BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
+    BudgetItemIdentifier id{ItemTraits<Item>::type, item.source()};
     openNewOn(requests, openedOn, [&] {
         requests.change(itemOutcome, &Navigator::onAdded, caller, id.type, item, given.bankAccount,
                         BudgetItemTags::ItemTags(id, given.tags.value_or(tagging::Tags())));

@@ -21,10 +21,10 @@ using surveying::Reconciliations;
 namespace {
 
 JudgedReconciliation judgedBy(const Reconciliations &all, std::size_t place,
-                              std::optional<ReconciliationFault> fault)
+                              const std::optional<ReconciliationFault> &fault)
 {
     const surveying::Reconciliation &one = all[place];
-    return {one.account, one.day, one.balance, one.transactions.size(), std::move(fault)};
+    return {one.account, one.day, one.balance, one.transactions.size(), fault};
 }
 
 QString nameOf(accounting::AccountNumber number, const GeneralLedger &ledger)

@@ -15,6 +15,7 @@ using accounting::TransactionNumber;
 using budgeting::BudgetItemIdentifier;
 using workbench::AccountIndex;
 using workbench::BudgetView;
+using workbench::identify;
 using workbench::kindWord;
 using workbench::readPlain;
 using workbench::readValue;
