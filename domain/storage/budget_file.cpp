@@ -342,8 +342,10 @@ void BudgetFile::store(const Data &data)
                                       });
         return std::pair(std::move(file), version.mark);
     };
-    store(draft, m_burst && m_pace.now() - m_burst->last < burstLength);
-    burst.last = m_pace.now();
+    store(draft, m_burst && m_pace.now() - m_burst->first < burstLength);
+    // From the first one: a long run of changes would make a single version otherwise.
+    if (burst.stores == 1)
+        burst.first = m_pace.now();
     m_burst = std::move(burst);
     settle(std::move(version));
 }

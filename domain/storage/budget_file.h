@@ -81,8 +81,8 @@ private:
 
     /// What was stored last, when more may become one version with it.
     struct Burst {
-        std::chrono::steady_clock::time_point last;
-        QString change; ///< the first one that was named
+        std::chrono::steady_clock::time_point first; ///< when the first one was stored
+        QString change;                              ///< the first one that was named
         int stores = 0;
     };
     /// The bytes to store and their mark, from the mark that a new version would have.

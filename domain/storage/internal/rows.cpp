@@ -92,11 +92,6 @@ RowWriter &RowWriter::text(const QString &text)
     return bytes(toStoredText(text));
 }
 
-RowWriter &RowWriter::optionalText(const std::optional<QString> &text)
-{
-    return text ? this->text(*text) : null();
-}
-
 RowWriter &RowWriter::date(QDate date)
 {
     return date.isValid() ? integer(date.toJulianDay()) : null();
@@ -175,12 +170,6 @@ bool RowReader::next()
 QString RowReader::text()
 {
     return textFrom(nextValue());
-}
-
-std::optional<QString> RowReader::optionalText()
-{
-    sqlite3_value *stored = nextPresent();
-    return stored ? std::optional(textFrom(stored)) : std::nullopt;
 }
 
 SharedText RowReader::sharedText()

@@ -71,7 +71,6 @@ public:
     RowWriter &integer(std::int64_t value);
     RowWriter &optionalInteger(std::optional<std::int64_t> value);
     RowWriter &text(const QString &text);
-    RowWriter &optionalText(const std::optional<QString> &text);
     /// Null for an invalid date.
     RowWriter &date(QDate date);
     /// UTF-8 that is no text of a user.
@@ -127,7 +126,6 @@ public:
         return static_cast<Enum>(integer(0, static_cast<std::int64_t>(max)));
     }
     [[nodiscard]] QString text();
-    [[nodiscard]] std::optional<QString> optionalText();
     [[nodiscard]] SharedText sharedText();
     /// As it is stored and maybe malformed; valid until the next row.
     [[nodiscard]] QByteArrayView storedText() { return bytesFrom(nextValue()); }
