@@ -33,6 +33,10 @@ enum class Remedy : std::uint8_t {
     SaveElsewhere = 9,     ///< save under another name
     SaveProfile = 10,      ///< save the way of reading a file as a profile
     BringBack = 11,        ///< bring the newest former version back by undo
+    TryAgain = 12,         ///< do the same once more
+    LookAtVersions = 13,   ///< look at the former versions of the file
+    Reload = 14,           ///< open the file as it is now; the budget in memory is given up
+    OpenForReading = 15,   ///< open the file without being able to change it
 };
 
 /// A request that was understood and refused.

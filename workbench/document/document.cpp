@@ -66,11 +66,44 @@ void Document::open(const QString &file, Access access)
     const QString path = withExtension(file);
     (void)navigator();
     m_storage->setReading(access == Access::Reading);
-    navigator().onConfirmedLoadBudgetFile(path, false);
+    std::optional<QString> whyReadOnly;
+    try {
+        navigator().onConfirmedLoadBudgetFile(path, false);
+    } catch (const storage::StorageError &error) {
+        if (access != Access::ChangeIfPossible ||
+            error.failure() != storage::StorageFailure::Locked)
+            throw;
+        whyReadOnly = userText(error);
+        m_storage->setReading(true);
+        navigator().onConfirmedLoadBudgetFile(path, false);
+    }
+    m_whyReadOnly = std::move(whyReadOnly);
     m_file = path;
     m_watch = {};
     m_isOther = false;
     watch(false);
+    begin();
+}
+
+void Document::reload()
+{
+    navigator().onConfirmedLoadBudgetFile(m_file, true);
+    m_watch = {};
+    m_isOther = false;
+    watch(false);
+    begin();
+}
+
+void Document::begin()
+{
+    m_goesTo.reset();
+    m_trouble.reset();
+    m_at = 0;
+    m_steps.clear();
+    if (m_keeping == Keeping::WithinASecond)
+        m_steps.push_back({{{}, QDateTime::currentDateTimeUtc()}, *m_storage->present()});
+    emit m_news.changed();
+    emit m_news.keepingChanged();
 }
 
 void Document::openLost(const QString &file)
@@ -157,20 +190,105 @@ std::vector<JudgedReconciliation> Document::takeBroken()
     return std::exchange(m_broken, {});
 }
 
-void Document::save(const QString &change)
+void Document::save(const Deed &deed)
 {
     (void)navigator();
-    m_storage->setChange(change);
-    store(&Navigator::onSaveBudgetFile);
+    m_storage->setChange(deed.line);
+    try {
+        store(&Navigator::onSaveBudgetFile);
+        m_trouble.reset();
+    } catch (const storage::StorageError &error) {
+        if (m_keeping == Keeping::AtOnce)
+            throw;
+        m_trouble = troubleOfSaving(error);
+    }
+    if (m_keeping == Keeping::WithinASecond) {
+        if (m_goesTo) {
+            m_at = *std::exchange(m_goesTo, std::nullopt);
+        } else {
+            m_steps.resize(m_steps.empty() ? 0 : m_at + 1);
+            m_steps.push_back({{deed, QDateTime::currentDateTimeUtc()}, *m_storage->present()});
+            m_at = m_steps.size() - 1;
+        }
+    }
+    emit m_news.changed();
+    emit m_news.keepingChanged();
 }
 
 void Document::saveAs(const QString &file, const QString &change)
 {
     (void)navigator();
     m_storage->setChange(change);
-    // Also if something fails after the budget was stored.
-    const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
-    store(&Navigator::onSaveAsBudgetFile, file);
+    {
+        // Also if something fails after the budget was stored.
+        const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
+        store(&Navigator::onSaveAsBudgetFile, file);
+    }
+    m_whyReadOnly.reset();
+    begin();
+}
+
+void Document::setKeeping(Keeping keeping)
+{
+    m_keeping = keeping;
+}
+
+Document::Kept Document::kept() const
+{
+    return m_storage && m_storage->isUnsaved() ? Kept::NotSaved : Kept::Saved;
+}
+
+std::optional<Trouble> Document::whyNotSaved() const
+{
+    return m_trouble;
+}
+
+void Document::writeNow()
+{
+    saveUnsaved();
+    m_trouble.reset();
+    emit m_news.keepingChanged();
+}
+
+void Document::saveCopy(const QString &file)
+{
+    refuseExisting(file);
+    storage::BudgetFile copy;
+    copy.setFilePathName(withExtension(file));
+    copy.store(present());
+}
+
+void Document::perform(const Deed &deed, const std::function<void()> &work)
+{
+    if (m_whyReadOnly)
+        throw Refusal(*m_whyReadOnly);
+    try {
+        work();
+    } catch (...) {
+        revert();
+        throw;
+    }
+    save(deed);
+}
+
+std::vector<Step> Document::steps() const
+{
+    std::vector<Step> steps;
+    for (std::size_t place = 0; place < m_steps.size(); ++place) {
+        steps.push_back(m_steps[place].first);
+        steps.back().isPresent = place == m_at;
+    }
+    return steps;
+}
+
+std::optional<Deed> Document::undoable() const
+{
+    return m_at > 0 ? std::optional(m_steps[m_at].first.deed) : std::nullopt;
+}
+
+std::optional<Deed> Document::redoable() const
+{
+    return m_at + 1 < m_steps.size() ? std::optional(m_steps[m_at + 1].first.deed) : std::nullopt;
 }
 
 void Document::refuseUnsaved() const
@@ -190,6 +308,7 @@ void Document::revert()
 {
     if (!m_navigator)
         return;
+    m_goesTo.reset();
     m_file = m_storage->openFile(); // a lost one was only chosen
     // Not from the file, which may be missing or older than the budget in memory.
     if (const auto &present = m_storage->present()) {
@@ -203,7 +322,7 @@ void Document::revert()
 Document::Recalled Document::recall(storage::KeptVersion version, BudgetStorage::Data data)
 {
     const bool wasLost = isLost();
-    Recalled recalled{version, wasLost ? std::nullopt : m_storage->present(), data};
+    Recalled recalled{{}, version, wasLost ? std::nullopt : m_storage->present(), data};
     m_storage->restore(std::move(version), std::move(data));
     if (wasLost)
         navigator().onConfirmedLoadBudgetFile(m_file, false);
@@ -212,36 +331,63 @@ Document::Recalled Document::recall(storage::KeptVersion version, BudgetStorage:
     return recalled;
 }
 
-Document::Recalled Document::undo(qsizetype steps)
+Document::Recalled Document::settled(Recalled recalled, Settle settle)
 {
+    if (settle == Settle::Now)
+        save(recalled.deed);
+    return recalled;
+}
+
+Document::Recalled Document::goTo(qsizetype step, Settle settle)
+{
+    const auto place = static_cast<std::size_t>(step);
+    const auto &[reached, data] = m_steps.at(place);
+    Recalled recalled{m_steps[std::min(m_steps.size() - 1, std::max(place, m_at))].first.deed,
+                      {},
+                      m_storage->present(),
+                      data};
+    recalled.version.mark.savedAt = reached.at;
+    recalled.version.mark.change = reached.deed.line;
+    m_storage->recall(data);
+    navigator().onConfirmedLoadBudgetFile(m_file, true);
+    m_goesTo = place;
+    return settled(std::move(recalled), settle);
+}
+
+Document::Recalled Document::undo(qsizetype steps, Settle settle)
+{
+    if (static_cast<std::size_t>(steps) <= m_at)
+        return goTo(static_cast<qsizetype>(m_at) - steps, settle);
     refuseUnsaved();
     const KeptVersions versions(m_file);
     if (isLost()) {
         auto found = versions.newestWhole();
         if (!found)
             throw internal::nothingToUndo(0);
-        return recall(std::move(found->first), std::move(found->second));
+        return settled(recall(std::move(found->first), std::move(found->second)), settle);
     }
     const storage::KeptVersion &version = versions.undone(steps);
-    return recall(version, dataOf(version));
+    return settled(recall(version, dataOf(version)), settle);
 }
 
-Document::Recalled Document::undoTo(const QString &name)
+Document::Recalled Document::undoTo(const QString &name, Settle settle)
 {
     refuseUnsaved();
     const KeptVersions versions(m_file);
     const storage::KeptVersion &version = versions.named(name);
     if (version.isFile)
         throw internal::alreadyPresent(name);
-    return recall(version, dataOf(version));
+    return settled(recall(version, dataOf(version)), settle);
 }
 
-Document::Recalled Document::redo(qsizetype steps)
+Document::Recalled Document::redo(qsizetype steps, Settle settle)
 {
+    if (m_at + static_cast<std::size_t>(steps) < m_steps.size())
+        return goTo(static_cast<qsizetype>(m_at) + steps, settle);
     refuseUnsaved();
     const KeptVersions versions(m_file);
     const storage::KeptVersion &version = versions.redone(steps);
-    return recall(version, dataOf(version));
+    return settled(recall(version, dataOf(version)), settle);
 }
 
 BudgetStorage::Data Document::present()

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/document/document_news.h"
+#include "workbench/document/trouble.h"
+#include "workbench/history/deed.h"
 #include "workbench/requests/requests.h"
 #include "workbench/surveys/reconciliation_watch.h"
 
@@ -51,25 +54,38 @@ public:
     [[nodiscard]] const QString &file() const noexcept { return m_file; }
     /// For what a file is opened.
     enum class Access : std::uint8_t {
-        Change, ///< locked against others who change it
-        Reading ///< without a lock, until it is saved
+        Change,  ///< locked against others who change it
+        Reading, ///< without a lock, until it is saved
+        /// As Change; where that is not possible, for reading only: see whyReadOnly().
+        ChangeIfPossible,
     };
     /// Opens a file. Throws what the storage throws, or a Refusal as refuseUnsaved()
     /// does; the open file then stays open.
     void open(const QString &file, Access access = Access::Change);
+    /// Opens the file again as it is on the disk now, and gives up the budget in memory.
+    /// Throws what the storage throws, and changes nothing then.
+    void reload();
     /// Chooses a file that is gone or damaged, which the next undo brings back; until then
     /// there is no budget.
     void openLost(const QString &file);
     /// Throws a Refusal if the file exists, or if it is gone while its former versions are
     /// kept.
     static void refuseExisting(const QString &file);
+    /// Why the budget can be looked at only: who has it, or that it cannot be written; no
+    /// deed is possible then. Nothing if it can be changed.
+    [[nodiscard]] const std::optional<QString> &whyReadOnly() const noexcept
+    {
+        return m_whyReadOnly;
+    }
+    [[nodiscard]] bool isReadOnly() const noexcept { return m_whyReadOnly.has_value(); }
     /// Saves the budget in memory as a new file. Throws a Refusal as refuseExisting()
     /// does. `change` names the change, see save().
     void create(const QString &file, const QString &change);
     /// Saves the budget to its file, and the exchange rates with it. If only the rates
     /// cannot be saved, that is a warning. `change` names in a line what was changed, such
     /// as "Paid Rent"; the list of versions shows it.
-    void save(const QString &change);
+    void save(const QString &change) { save(Deed{change, {}, {}}); }
+    void save(const Deed &deed);
     /// Saves the budget under another name, which is then the open file.
     void saveAs(const QString &file, const QString &change);
     /// Throws a Refusal if the last save of the open file failed: its changes are only
@@ -79,21 +95,70 @@ public:
     void saveUnsaved();
     /// Drops the changes since the last call of save(), even if that save failed.
     void revert();
+
+    // ---- how it is kept --------------------------------------------------------
+
+    /// How save() and all that keeps a change write the file.
+    enum class Keeping : std::uint8_t {
+        AtOnce,       ///< before they return; they throw what storing throws
+        WithinASecond ///< within a second, while the program goes on; see kept()
+    };
+    void setKeeping(Keeping keeping);
+    /// Whether the file holds the budget in memory.
+    enum class Kept : std::uint8_t {
+        Saved,
+        Saving,  ///< it will within a second
+        NotSaved ///< writing failed; the next change or writeNow() tries again
+    };
+    [[nodiscard]] Kept kept() const;
+    /// Why it is NotSaved, and what the user can choose.
+    [[nodiscard]] std::optional<Trouble> whyNotSaved() const;
+    /// Writes what is pending and waits for it. Throws what storing throws.
+    void writeNow();
+    /// Saves a copy of the budget as a new file; the open file stays open. Throws what
+    /// storing throws, or a Refusal as refuseExisting() does.
+    void saveCopy(const QString &file);
+    /// Tells when the budget or its keeping changed.
+    [[nodiscard]] DocumentNews &news() noexcept { return m_news; }
+
+    // ---- deeds, undo and redo --------------------------------------------------
+
+    /// Runs `work`, which makes requests, and keeps the budget then as one step. If work
+    /// throws, the budget is as before, and the exception passes on. Throws a Refusal
+    /// without running it if the budget isReadOnly().
+    void perform(const Deed &deed, const std::function<void()> &work);
+    /// The steps of this session. The first is the state at opening.
+    [[nodiscard]] std::vector<Step> steps() const;
+    /// What undo() would take back: a step of the session, or else the newest change in
+    /// the file.
+    [[nodiscard]] std::optional<Deed> undoable() const;
+    /// What redo() would do again.
+    [[nodiscard]] std::optional<Deed> redoable() const;
+
+    /// When a step that is gone to is kept.
+    enum class Settle : std::uint8_t {
+        Now,  ///< at once
+        Later ///< by the next call of save(); revert() takes it back instead
+    };
     /// A former version that is the budget in memory now.
     struct Recalled {
-        storage::KeptVersion version; ///< where it was kept
+        Deed deed;                    ///< what was taken back or done again
+        storage::KeptVersion version; ///< where it was kept; without a path if in memory
         /// The budget until then; none if the file was gone or damaged.
         std::optional<storage::BudgetStorage::Data> before;
         storage::BudgetStorage::Data after; ///< the budget now
     };
-    /// Goes back by so many changes, or to the newest whole version if the file is lost.
-    /// The next save makes that version the file again, and keeps the present one. Throws
-    /// a Refusal if there are not so many, or if the version is damaged.
-    [[nodiscard]] Recalled undo(qsizetype steps);
+    /// Goes back by so many changes, or to the newest whole version if the file is lost:
+    /// first along the steps of the session, then along the former versions of the file.
+    /// That version becomes the file again, and the present one is kept. Throws a Refusal
+    /// if there are not so many, or if the version is damaged.
+    Recalled undo(qsizetype steps = 1, Settle settle = Settle::Now);
     /// Goes to the version of this name, see storage::KeptVersion, as undo() does.
-    [[nodiscard]] Recalled undoTo(const QString &name);
+    Recalled undoTo(const QString &name, Settle settle = Settle::Now);
     /// Takes so many calls of undo() back, as undo() does. A change ends that.
-    [[nodiscard]] Recalled redo(qsizetype steps);
+    Recalled redo(qsizetype steps = 1, Settle settle = Settle::Now);
+    /// Goes to the step with this place in steps(), as undo() does.
+    Recalled goTo(qsizetype step, Settle settle = Settle::Now);
     /// The budget in memory, as save() would write it.
     [[nodiscard]] storage::BudgetStorage::Data present();
     /// Repairs the budget in memory now, as the next opening of its file would.
@@ -113,12 +178,15 @@ private:
     /// Calls a slot that stores the budget, and then the exchange rates.
     template <typename Slot, typename... Values>
     void store(Slot slot, const Values &...values);
+    /// Begins the steps of a session with the budget in memory.
+    void begin();
     /// Notes what is broken in the version that is open now. One that was not made by a
     /// change of the one before is checked as a whole.
     void watch(bool isChange);
 
     [[nodiscard]] bool isLost() const;
     [[nodiscard]] Recalled recall(storage::KeptVersion version, storage::BudgetStorage::Data data);
+    Recalled settled(Recalled recalled, Settle settle);
 
     Surroundings m_surroundings;
     std::unique_ptr<Navigator> m_navigator;
@@ -127,7 +195,14 @@ private:
     Requests m_requests;
     ReconciliationWatch m_watch;
     std::vector<JudgedReconciliation> m_broken;
-    bool m_isOther = false; ///< whether a new or a former budget is to be saved next
+    DocumentNews m_news;
+    std::optional<QString> m_whyReadOnly;
+    Keeping m_keeping = Keeping::AtOnce;
+    std::optional<Trouble> m_trouble;
+    std::vector<std::pair<Step, storage::BudgetStorage::Data>> m_steps;
+    std::size_t m_at = 0;                ///< the present one of m_steps
+    std::optional<std::size_t> m_goesTo; ///< the step that the next save() settles
+    bool m_isOther = false;              ///< whether a new or a former budget is to be saved next
 };
 
 } // namespace kiv::workbench

@@ -89,8 +89,9 @@ struct Undo {
     }
     Report run(Call &call) const
     {
-        return restored(to ? call.document.undoTo(*to)
-                           : call.document.undo(steps.value_or(Steps()).value));
+        using enum Document::Settle; // the program saves, unless it is a dry run
+        return restored(to ? call.document.undoTo(*to, Later)
+                           : call.document.undo(steps.value_or(Steps()).value, Later));
     }
 };
 
@@ -101,7 +102,10 @@ struct Redo {
     {
         arguments.optional("--steps", steps, QObject::tr("How many changes (default: 1)"));
     }
-    Report run(Call &call) const { return restored(call.document.redo(steps.value)); }
+    Report run(Call &call) const
+    {
+        return restored(call.document.redo(steps.value, Document::Settle::Later));
+    }
 };
 
 // history and history diff open no document, so they also work with damaged files.

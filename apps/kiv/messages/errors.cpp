@@ -54,6 +54,10 @@ QString remedyText(const Refusal &refusal)
         return QObject::tr("save one with --save-profile");
     case BringBack:
         return QObject::tr("bring the newest back with kiv undo");
+    case TryAgain:
+    case LookAtVersions:
+    case Reload:
+    case OpenForReading:
     case None:
         break;
     }
