@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "application/application.h"
+
+#include "workbench/document/program_identity.h"
+#include "workbench/entry/user_locale.h"
+#include "workbench/requests/requests.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+
+namespace kiv::desktop {
+namespace {
+
+/// Whether a field would keep the keys of undo or redo although it has nothing to take
+/// back. The window's own undo is meant then.
+bool isIdleUndo(QObject *receiver, QEvent *event)
+{
+    if (event->type() != QEvent::ShortcutOverride)
+        return false;
+    const auto *field = qobject_cast<const QLineEdit *>(receiver);
+    const auto *keys = static_cast<const QKeyEvent *>(event);
+    return field && ((keys->matches(QKeySequence::Undo) && !field->isUndoAvailable()) ||
+                     (keys->matches(QKeySequence::Redo) && !field->isRedoAvailable()));
+}
+
+} // namespace
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+{
+    workbench::identifyProgram();
+    workbench::speakAsUser(*this);
+    setDesktopFileName(QStringLiteral("kiv-desktop"));
+    setApplicationDisplayName(QStringLiteral("kiv"));
+    // The platforms' own styles ignore parts of a palette.
+    setStyle(QStringLiteral("Fusion"));
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        if (isIdleUndo(receiver, event)) {
+            event->ignore();
+            return true;
+        }
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception &error) {
+        const QString text = workbench::userText(error);
+        if (m_report)
+            m_report(text);
+        else
+            qCritical().noquote() << text;
+        return false;
+    }
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window.h"
+
+#include "pages/all_pages.h"
+#include "pages/welcome_page.h"
+
+#include <QtCore/QFileInfo>
+#include <QtGui/QActionGroup>
+#include <QtGui/QCloseEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QStatusBar>
+
+namespace kiv::desktop {
+
+using Group = ActionCollection::Group;
+
+namespace {
+
+const QString windowState = QStringLiteral("window");
+
+} // namespace
+
+MainWindow::MainWindow(const Surroundings &surroundings)
+    : m_given(surroundings),
+      m_actions(new ActionCollection(this)),
+      m_announcer(new Announcer(this)),
+      m_notices(new NoticeBar(this)),
+      m_desk(new Desk({surroundings.document, surroundings.settings, surroundings.questions,
+                       *m_actions, *m_announcer, *m_notices, surroundings.showsTerms})),
+      m_session(nullptr),
+      m_palette(nullptr),
+      m_list(new QListWidget(this)),
+      m_stack(new QStackedWidget(this)),
+      m_welcome(nullptr),
+      m_systemPalette(QApplication::palette()),
+      m_systemFont(QApplication::font())
+{
+    m_desk->setParent(this);
+    m_session = new FileSession(*m_desk, this);
+    build();
+    addActions();
+    addPages();
+    fillMenus();
+    m_palette = new CommandPalette(this);
+    addPaletteSources();
+    applyLooks();
+    connect(m_session, &FileSession::opened, this, &MainWindow::showOpened);
+    connect(m_session, &FileSession::keptChanged, this, &MainWindow::showTitle);
+    connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
+    if (!restoreGeometry(m_given.settings.state(windowState)))
+        resize(1000, 560);
+    showOpened();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::build()
+{
+    auto *central = new QWidget(this);
+    auto *sides = new QHBoxLayout(central);
+    m_list->setObjectName(QStringLiteral("pages"));
+    m_list->setAccessibleName(tr("Pages"));
+    m_list->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
+    sides->addWidget(m_list);
+    auto *right = new QVBoxLayout;
+    right->addWidget(m_notices);
+    right->addWidget(m_stack, 1);
+    sides->addLayout(right, 1);
+    setCentralWidget(central);
+    statusBar()->addWidget(m_announcer, 1);
+    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row >= 0 && static_cast<std::size_t>(row) < m_pages.size() &&
+            m_pages[static_cast<std::size_t>(row)] != page())
+            goTo({m_pages[static_cast<std::size_t>(row)]->id(), {}});
+    });
+}
+
+void MainWindow::addPages()
+{
+    m_welcome = new WelcomePage(*m_desk);
+    connect(m_welcome, &WelcomePage::fileWanted, this, &MainWindow::open);
+    m_stack->addWidget(m_welcome);
+    m_pages = makePages(*m_desk);
+    for (Page *page : m_pages) {
+        // A page that is larger than the window scrolls; its buttons stay reachable.
+        auto *scroll = new QScrollArea(m_stack);
+        scroll->setWidget(page);
+        scroll->setWidgetResizable(true);
+        scroll->setFrameShape(QFrame::NoFrame);
+        scroll->setFocusPolicy(Qt::NoFocus);
+        m_stack->addWidget(scroll);
+        m_list->addItem(page->title());
+    }
+    m_list->setMaximumWidth(m_list->sizeHintForColumn(0) + 3 * m_list->frameWidth() + 30);
+    addPageActions();
+}
+
+void MainWindow::addPageActions()
+{
+    int number = 0;
+    for (Page *page : m_pages) {
+        ++number;
+        const QKeySequence keys =
+            number <= 9 ? QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + number))
+                        : QKeySequence();
+        m_actions->add(QStringLiteral("page ") + page->id(), Group::Go, page->title(), keys,
+                       [this, page] { goTo({page->id(), {}}); });
+    }
+}
+
+void MainWindow::addActions()
+{
+    m_actions->add(QStringLiteral("quit"), Group::File, tr("&Quit"),
+                   QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+    m_actions->add(QStringLiteral("palette"), Group::Go, tr("&Find a command …"),
+                   QKeySequence(Qt::CTRL | Qt::Key_K), [this] { m_palette->open(); });
+    m_actions->add(QStringLiteral("back"), Group::Go, tr("&Back"),
+                   QKeySequence(Qt::ALT | Qt::Key_Left), [this] { goThrough(m_back, m_forward); });
+    m_actions->add(QStringLiteral("forward"), Group::Go, tr("F&orward"),
+                   QKeySequence(Qt::ALT | Qt::Key_Right), [this] { goThrough(m_forward, m_back); });
+    m_actions->add(QStringLiteral("nextPart"), Group::Go, tr("Next &part of the window"),
+                   QKeySequence(Qt::Key_F6), [this] { focusNextPart(); });
+    addViewActions();
+    m_actions->add(QStringLiteral("keys"), Group::Help, tr("List of &keys"),
+                   QKeySequence(Qt::CTRL | Qt::Key_Question), [this] {
+                       m_given.questions.show(this, tr("List of keys"), m_actions->listOfKeys());
+                   });
+}
+
+void MainWindow::addViewActions()
+{
+    auto *looks = new QActionGroup(this);
+    const auto addLook = [&](const char *id, const QString &text, Appearance appearance) {
+        QAction *action = m_actions->add(QString::fromLatin1(id), Group::View, text, {},
+                                         [this, appearance] {
+                                             m_given.settings.setAppearance(appearance);
+                                             applyLooks();
+                                         });
+        action->setCheckable(true);
+        action->setChecked(m_given.settings.appearance() == appearance);
+        looks->addAction(action);
+    };
+    addLook("lookSystem", tr("Colours of the &system"), Appearance::System);
+    addLook("lookLight", tr("&Light"), Appearance::Light);
+    addLook("lookDark", tr("&Dark"), Appearance::Dark);
+    const auto addSize = [this](const char *id, const QString &text, const QKeySequence &keys,
+                                std::function<int(int)> change) {
+        m_actions->add(QString::fromLatin1(id), Group::View, text, keys, [this, change] {
+            m_given.settings.setTextSize(change(m_given.settings.textSize()));
+            applyLooks();
+            m_desk->say(tr("Text size %1 %").arg(m_given.settings.textSize()));
+        });
+    };
+    addSize("larger", tr("L&arger text"), QKeySequence(Qt::CTRL | Qt::Key_Plus),
+            [](int size) { return size + 10; });
+    addSize("smaller", tr("S&maller text"), QKeySequence(Qt::CTRL | Qt::Key_Minus),
+            [](int size) { return size - 10; });
+    addSize("usualSize", tr("&Usual text size"), QKeySequence(Qt::CTRL | Qt::Key_0),
+            [](int) { return 100; });
+}
+
+void MainWindow::fillMenus()
+{
+    for (const Group group :
+         {Group::File, Group::Edit, Group::Transaction, Group::Go, Group::View, Group::Help}) {
+        QMenu *menu = menuBar()->addMenu(ActionCollection::groupName(group));
+        menu->setToolTipsVisible(true); // a disabled action says why
+        menu->addActions(m_actions->actions(group));
+    }
+}
+
+void MainWindow::addPaletteSources()
+{
+    m_palette->addSource([this](const QString &) {
+        std::vector<PaletteEntry> entries;
+        for (QAction *action : m_actions->all()) {
+            entries.push_back({action->iconText(),
+                               action->shortcut().toString(QKeySequence::NativeText),
+                               ActionCollection::reason(action), [action] { action->trigger(); }});
+        }
+        return entries;
+    });
+}
+
+void MainWindow::applyLooks()
+{
+    QApplication::setPalette(paletteFor(m_given.settings.appearance(), m_systemPalette));
+    QFont font = m_systemFont;
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * m_given.settings.textSize() / 100.0);
+    else
+        font.setPixelSize(font.pixelSize() * m_given.settings.textSize() / 100);
+    QApplication::setFont(font);
+    // Their colours are taken from the palette when they are shown.
+    emit m_desk->refreshWanted();
+}
+
+Page *MainWindow::page() const
+{
+    const int place = m_stack->currentIndex() - 1;
+    return place < 0 ? nullptr : m_pages.at(static_cast<std::size_t>(place));
+}
+
+void MainWindow::goTo(const Place &place)
+{
+    const auto found = std::ranges::find(m_pages, place.page, &Page::id);
+    if (found == m_pages.end() || m_given.document.file().isEmpty())
+        return;
+    if (const Page *before = page()) {
+        const Place left{before->id(), before->detail()};
+        if (m_back.empty() || m_back.back() != left)
+            m_back.push_back(left);
+        m_forward.clear();
+    }
+    Page *wanted = *found;
+    const int row = static_cast<int>(found - m_pages.begin());
+    const bool isOther = wanted != page();
+    m_stack->setCurrentIndex(row + 1);
+    m_list->setCurrentRow(row);
+    wanted->bringUpToDate();
+    if (!place.detail.isEmpty())
+        wanted->goTo(place.detail);
+    m_given.settings.setPage(wanted->id());
+    if (isOther || !place.detail.isEmpty()) {
+        if (!m_list->hasFocus())
+            wanted->firstFocus()->setFocus(Qt::OtherFocusReason);
+        m_desk->say(wanted->title());
+    }
+}
+
+void MainWindow::goThrough(std::vector<Place> &from, std::vector<Place> &to)
+{
+    if (from.empty() || !page())
+        return;
+    const Place wanted = from.back();
+    const Place left{page()->id(), page()->detail()};
+    std::vector<Place> back = m_back;
+    std::vector<Place> forward = m_forward;
+    goTo(wanted); // which notes a step of its own
+    m_back = std::move(back);
+    m_forward = std::move(forward);
+    from.pop_back();
+    to.push_back(left);
+}
+
+void MainWindow::focusNextPart()
+{
+    QWidget *const focus = QApplication::focusWidget();
+    if (focus == m_list || !m_list->isEnabled())
+        (page() ? page()->firstFocus() : m_welcome->firstFocus())->setFocus(Qt::TabFocusReason);
+    else
+        m_list->setFocus(Qt::TabFocusReason);
+}
+
+void MainWindow::showOpened()
+{
+    const bool isOpen = !m_given.document.file().isEmpty();
+    m_list->setEnabled(isOpen);
+    for (const Page *page : m_pages)
+        ActionCollection::allow(m_actions->action(QStringLiteral("page ") + page->id()), isOpen,
+                                tr("No budget is open."));
+    m_back.clear();
+    m_forward.clear();
+    if (isOpen && !m_pages.empty()) {
+        const QString last = m_given.settings.page();
+        const bool isKnown = std::ranges::find(m_pages, last, &Page::id) != m_pages.end();
+        goTo({isKnown ? last : m_pages.front()->id(), {}});
+        page()->firstFocus()->setFocus(Qt::OtherFocusReason);
+        m_back.clear();
+    } else {
+        m_welcome->refresh();
+        m_stack->setCurrentIndex(0);
+        m_welcome->firstFocus()->setFocus(Qt::OtherFocusReason);
+    }
+    showTitle();
+}
+
+void MainWindow::showTitle()
+{
+    const QString file = m_given.document.file();
+    setWindowTitle(file.isEmpty() ? QString()
+                                  : tr("%1 (%2)").arg(QFileInfo(file).completeBaseName(),
+                                                      m_session->keptText()));
+    setWindowFilePath(file);
+}
+
+void MainWindow::report(const QString &sentence)
+{
+    m_notices->add({QStringLiteral("error"), sentence, {}});
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_session->mayClose()) {
+        event->ignore();
+        return;
+    }
+    m_given.settings.setState(windowState, saveGeometry());
+    event->accept();
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pages/desk.h"
+
+namespace kiv::desktop {
+
+Desk::Desk(const Parts &parts) : m_parts(parts)
+{
+    connect(&m_parts.document.news(), &workbench::DocumentNews::changed, this,
+            &Desk::refreshWanted);
+}
+
+std::optional<QString> Desk::whyNoChange() const
+{
+    workbench::Document &document = m_parts.document;
+    if (document.file().isEmpty())
+        return tr("No budget is open.");
+    if (document.isReadOnly())
+        return document.whyReadOnly();
+    if (document.requests().isBusy())
+        return tr("Another request is not answered yet; try again in a moment.");
+    return std::nullopt;
+}
+
+bool Desk::perform(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
+                   const std::function<void()> &work)
+{
+    if (const std::optional<QString> reason = whyNoChange()) {
+        message.complain(asker, *reason);
+        return false;
+    }
+    try {
+        m_parts.document.perform(deed, work);
+    } catch (const foundation::Error &error) {
+        message.complain(asker, workbench::userText(error));
+        return false;
+    }
+    message.withdraw();
+    say(deed.line);
+    return true;
+}
+
+} // namespace kiv::desktop

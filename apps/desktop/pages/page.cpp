@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pages/page.h"
+
+namespace kiv::desktop {
+
+Page::Page(Desk &desk, const QString &id, const QString &title)
+    : m_desk(desk), m_id(id), m_title(title)
+{
+    setObjectName(id);
+    setAccessibleName(title);
+    connect(&desk, &Desk::refreshWanted, this, [this] {
+        m_isStale = true;
+        if (isVisible())
+            bringUpToDate();
+    });
+}
+
+Page::~Page() = default;
+
+void Page::goTo(const QString &) {}
+
+QString Page::detail() const
+{
+    return {};
+}
+
+void Page::bringUpToDate()
+{
+    if (!std::exchange(m_isStale, false) || m_desk.document().file().isEmpty())
+        return;
+    const QString notice = QStringLiteral("page ") + m_id;
+    m_desk.notices().remove(notice);
+    try {
+        refresh();
+    } catch (const foundation::Error &error) {
+        m_desk.notices().add({notice,
+                              tr("The page “%1” cannot be shown: %2")
+                                  .arg(m_title, workbench::userText(error)),
+                              {}});
+    }
+}
+
+void Page::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    bringUpToDate();
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "session/file_session.h"
+
+#include <QtCore/QFileInfo>
+
+namespace kiv::desktop {
+
+using workbench::Document;
+using workbench::Remedy;
+using workbench::Trouble;
+using Group = ActionCollection::Group;
+
+namespace {
+
+const QString openingNotice = QStringLiteral("opening");
+const QString savingNotice = QStringLiteral("saving");
+const QString readingNotice = QStringLiteral("reading");
+
+QString undoText(const QString &verb, const std::optional<workbench::Deed> &deed)
+{
+    if (!deed)
+        return verb;
+    return deed->undone.isEmpty() ? QObject::tr("%1: %2").arg(verb, deed->line)
+                                  : QObject::tr("%1 %2").arg(verb, deed->undone);
+}
+
+} // namespace
+
+FileSession::FileSession(Desk &desk, QWidget *window)
+    : QObject(window), m_desk(desk), m_window(window)
+{
+    desk.document().setKeeping(Document::Keeping::WithinASecond);
+    addActions();
+    connect(&desk.document().news(), &workbench::DocumentNews::keepingChanged, this,
+            &FileSession::followKeeping);
+    connect(&desk, &Desk::refreshWanted, this, &FileSession::followBudget);
+    followBudget();
+}
+
+void FileSession::addActions()
+{
+    ActionCollection &actions = m_desk.actions();
+    const auto add = [&](const char *id, Group group, const QString &text, const QKeySequence &keys,
+                         void (FileSession::*run)()) {
+        actions.add(QString::fromLatin1(id), group, text, keys, [this, run] { (this->*run)(); });
+    };
+    add("new", Group::File, tr("&New budget …"), QKeySequence::New, &FileSession::makeNew);
+    actions.add(QStringLiteral("open"), Group::File, tr("&Open a budget …"), QKeySequence::Open,
+                [this] {
+                    const QString file = m_desk.questions().fileToOpen(m_window);
+                    if (!file.isEmpty())
+                        open(file);
+                });
+    add("save", Group::File, tr("&Save now"), QKeySequence::Save, &FileSession::saveNow);
+    add("saveCopy", Group::File, tr("Save a &copy …"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileSession::saveCopy);
+    add("undo", Group::Edit, tr("&Undo"), QKeySequence::Undo, &FileSession::undo);
+    add("redo", Group::Edit, tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+        &FileSession::redo);
+}
+
+bool FileSession::attempt(const QString &id, const std::function<void()> &work)
+{
+    try {
+        work();
+        m_desk.notices().remove(id);
+        return true;
+    } catch (const foundation::Error &error) {
+        tell(id, workbench::troubleOfSaving(error), {});
+        return false;
+    }
+}
+
+bool FileSession::open(const QString &file)
+{
+    Document &document = m_desk.document();
+    // What was changed until now must not be lost for it.
+    if (!mayClose())
+        return false;
+    const QString path = Document::withExtension(QFileInfo(file).absoluteFilePath());
+    try {
+        document.open(path, Document::Access::ChangeIfPossible);
+    } catch (const foundation::Error &error) {
+        tell(openingNotice, workbench::troubleOfOpening(path, error), path);
+        return false;
+    }
+    settle();
+    return true;
+}
+
+void FileSession::settle()
+{
+    const Document &document = m_desk.document();
+    for (const QString &id : {openingNotice, savingNotice, readingNotice})
+        m_desk.notices().remove(id);
+    m_desk.settings().addRecentFile(document.file());
+    if (document.isReadOnly()) {
+        m_desk.notices().add({readingNotice,
+                              tr("This budget can only be read now. %1")
+                                  .arg(document.whyReadOnly().value_or(QString())),
+                              {{tr("Try again"), [this] { open(m_desk.document().file()); }}}});
+    }
+    followBudget();
+    emit opened();
+    emit m_desk.refreshWanted();
+    m_desk.say(tr("“%1” is open.").arg(QFileInfo(document.file()).completeBaseName()));
+}
+
+void FileSession::makeNew()
+{
+    if (!mayClose())
+        return;
+    const QString file = m_desk.questions().fileToMake(m_window, tr("New budget"));
+    if (file.isEmpty())
+        return;
+    const bool isMade = attempt(openingNotice, [&] {
+        Document &document = m_desk.document();
+        document.createEmpty(QFileInfo(file).absoluteFilePath(), tr("New budget"));
+    });
+    if (isMade)
+        settle();
+}
+
+void FileSession::saveNow()
+{
+    const bool isSaved = attempt(savingNotice, [this] { m_desk.document().writeNow(); });
+    if (isSaved)
+        m_desk.say(tr("Saved."));
+}
+
+void FileSession::saveCopy()
+{
+    const QString file = m_desk.questions().fileToMake(m_window, tr("Save a copy"));
+    if (file.isEmpty())
+        return;
+    const QString notice = QStringLiteral("copy");
+    if (attempt(notice, [&] { m_desk.document().saveCopy(QFileInfo(file).absoluteFilePath()); }))
+        m_desk.say(tr("The copy is saved as “%1”.").arg(file));
+}
+
+void FileSession::saveElsewhere()
+{
+    const QString file = m_desk.questions().fileToMake(m_window, tr("Save elsewhere"));
+    if (file.isEmpty())
+        return;
+    const bool isSaved = attempt(savingNotice, [&] {
+        Document::refuseExisting(file);
+        m_desk.document().saveAs(QFileInfo(file).absoluteFilePath(), tr("Saved elsewhere"));
+    });
+    if (isSaved)
+        settle();
+}
+
+void FileSession::undo()
+{
+    attempt(QStringLiteral("undo"), [this] {
+        const Document::Recalled recalled = m_desk.document().undo();
+        m_desk.say(undoText(tr("Undone:"), workbench::Deed{recalled.deed.line, {}, {}}));
+        if (!recalled.deed.place.isEmpty())
+            m_desk.goTo(Place::fromText(recalled.deed.place));
+    });
+}
+
+void FileSession::redo()
+{
+    attempt(QStringLiteral("undo"), [this] {
+        const Document::Recalled recalled = m_desk.document().redo();
+        m_desk.say(recalled.deed.line);
+        if (!recalled.deed.place.isEmpty())
+            m_desk.goTo(Place::fromText(recalled.deed.place));
+    });
+}
+
+void FileSession::reload()
+{
+    if (attempt(savingNotice, [this] { m_desk.document().reload(); }))
+        settle();
+}
+
+void FileSession::bringBack(const QString &file)
+{
+    const bool isBack = attempt(openingNotice, [&] {
+        m_desk.document().openLost(file);
+        m_desk.document().undo();
+    });
+    if (isBack)
+        settle();
+}
+
+bool FileSession::mayClose()
+{
+    Document &document = m_desk.document();
+    while (true) {
+        try {
+            document.writeNow();
+            return true;
+        } catch (const foundation::Error &error) {
+            const std::optional<qsizetype> answer = m_desk.questions().choose(
+                m_window,
+                tr("The last changes are not saved. %1").arg(workbench::userText(error)),
+                {tr("Try again"), tr("Save elsewhere …"), tr("Give the changes up")});
+            if (!answer)
+                return false;
+            if (*answer == 2)
+                return true;
+            if (*answer == 1)
+                saveElsewhere();
+        }
+    }
+}
+
+QString FileSession::keptText() const
+{
+    const Document &document = m_desk.document();
+    if (document.file().isEmpty())
+        return {};
+    if (document.isReadOnly())
+        return tr("read only");
+    switch (document.kept()) {
+    case Document::Kept::Saved:
+        return tr("saved");
+    case Document::Kept::Saving:
+        return tr("saving");
+    case Document::Kept::NotSaved:
+        return tr("not saved");
+    }
+    return {};
+}
+
+void FileSession::followKeeping()
+{
+    if (const std::optional<Trouble> trouble = m_desk.document().whyNotSaved())
+        tell(savingNotice, {tr("Not saved: %1").arg(trouble->sentence), trouble->choices}, {});
+    else
+        m_desk.notices().remove(savingNotice);
+    emit keptChanged();
+}
+
+void FileSession::followBudget()
+{
+    Document &document = m_desk.document();
+    const ActionCollection &actions = m_desk.actions();
+    const std::optional<QString> reason = m_desk.whyNoChange();
+    const auto follow = [&](const char *id, const QString &verb,
+                            const std::optional<workbench::Deed> &deed, const QString &without) {
+        QAction *action = actions.action(QString::fromLatin1(id));
+        action->setText(undoText(verb, deed).replace(u'&', QStringLiteral("&&")));
+        ActionCollection::allow(action, !reason && deed, reason.value_or(without));
+    };
+    const bool isOpen = !document.file().isEmpty();
+    follow("undo", tr("Undo"), isOpen ? document.undoable() : std::nullopt,
+           tr("There is nothing to undo."));
+    follow("redo", tr("Redo"), isOpen ? document.redoable() : std::nullopt,
+           tr("There is nothing to redo."));
+    for (const char *id : {"save", "saveCopy"})
+        ActionCollection::allow(actions.action(QString::fromLatin1(id)), isOpen,
+                                tr("No budget is open."));
+    emit keptChanged();
+}
+
+std::optional<Notice::Choice> FileSession::choiceFor(Remedy remedy, const QString &id,
+                                                     const QString &file)
+{
+    switch (remedy) {
+    case Remedy::TryAgain:
+        return Notice::Choice{tr("Try again"), [this, id, file] {
+                                  if (id == openingNotice)
+                                      open(file);
+                                  else
+                                      saveNow();
+                              }};
+    case Remedy::SaveElsewhere:
+        return Notice::Choice{tr("Save elsewhere …"), [this] { saveElsewhere(); }};
+    case Remedy::Reload:
+        return Notice::Choice{tr("Take the file as it is now"), [this] { reload(); }};
+    case Remedy::ListVersions:
+        return Notice::Choice{tr("Look at former versions"),
+                              [this] { m_desk.goTo({QStringLiteral("history"), {}}); }};
+    case Remedy::BringBack:
+        return Notice::Choice{tr("Bring the newest whole version back"),
+                              [this, file] { bringBack(file); }};
+    default: // what a command offers
+        return std::nullopt;
+    }
+}
+
+void FileSession::tell(const QString &id, const Trouble &trouble, const QString &file)
+{
+    Notice notice{id, trouble.sentence, {}};
+    for (const Remedy remedy : trouble.choices) {
+        if (auto choice = choiceFor(remedy, id, file))
+            notice.choices.push_back(*std::move(choice));
+    }
+    notice.isClosable = id != savingNotice;
+    m_desk.notices().add(notice);
+    m_desk.say(trouble.sentence);
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pages/desk.h"
+
+namespace kiv::desktop {
+
+/// The file that is open in the window: new, open, save, undo and redo, and what can be
+/// done when one of these fails.
+class FileSession final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Adds its actions to the desk's. `window` is the parent of questions.
+    FileSession(Desk &desk, QWidget *window);
+
+    /// Opens a file. If that fails, the open one stays, and a notice says why and what can
+    /// be done. Returns whether it is open.
+    bool open(const QString &file);
+    /// Makes sure that nothing is lost when the window closes: writes what is pending, and
+    /// asks only if that failed. Returns whether the window may close.
+    [[nodiscard]] bool mayClose();
+    /// "saved", "saving" or "not saved"; empty without a file.
+    [[nodiscard]] QString keptText() const;
+
+signals:
+    /// Another file is open.
+    void opened();
+    /// The file, or how it is kept, has changed.
+    void keptChanged();
+
+private:
+    void addActions();
+    void makeNew();
+    void saveNow();
+    void saveCopy();
+    void saveElsewhere();
+    void undo();
+    void redo();
+    void reload();
+    void bringBack(const QString &file);
+    /// The budget in memory is that of another file.
+    void settle();
+    void followKeeping();
+    void followBudget();
+    /// Shows what went wrong, with buttons for the choices.
+    void tell(const QString &id, const workbench::Trouble &trouble, const QString &file);
+    [[nodiscard]] std::optional<Notice::Choice> choiceFor(workbench::Remedy remedy,
+                                                          const QString &id, const QString &file);
+    /// Runs `work`; a failure becomes a notice. Returns whether it succeeded.
+    bool attempt(const QString &id, const std::function<void()> &work);
+
+    Desk &m_desk;
+    QWidget *m_window;
+};
+
+} // namespace kiv::desktop

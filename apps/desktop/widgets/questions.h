@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace kiv::desktop {
+
+/// All questions to the user that wait for an answer. No other place opens a dialog.
+class Questions {
+public:
+    Questions() = default;
+    virtual ~Questions();
+    Questions(const Questions &) = delete;
+    Questions &operator=(const Questions &) = delete;
+
+    /// A budget file to open; empty if the user gave up.
+    [[nodiscard]] virtual QString fileToOpen(QWidget *parent) = 0;
+    /// A new budget file, under this heading; empty if the user gave up.
+    [[nodiscard]] virtual QString fileToMake(QWidget *parent, const QString &heading) = 0;
+    /// One of the answers by its place, or nothing if the user gave up. The first answer
+    /// is the usual one.
+    [[nodiscard]] virtual std::optional<qsizetype> choose(QWidget *parent, const QString &question,
+                                                          const QStringList &answers) = 0;
+    /// Shows a longer text, such as the list of keys, until it is closed.
+    virtual void show(QWidget *parent, const QString &heading, const QString &text) = 0;
+};
+
+/// Asks with dialogs.
+class DialogQuestions final : public Questions {
+public:
+    [[nodiscard]] QString fileToOpen(QWidget *parent) override;
+    [[nodiscard]] QString fileToMake(QWidget *parent, const QString &heading) override;
+    [[nodiscard]] std::optional<qsizetype> choose(QWidget *parent, const QString &question,
+                                                  const QStringList &answers) override;
+    void show(QWidget *parent, const QString &heading, const QString &text) override;
+};
+
+} // namespace kiv::desktop
