@@ -134,18 +134,23 @@ function(kiv_link_as_one program app)
   set_target_properties(${program} PROPERTIES BUILD_RPATH ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 endfunction()
 
-# kiv_add_test(<name> SOURCES … [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])
+# kiv_add_test(<name> [WINDOW] SOURCES … [LIBRARIES …] [TIMEOUT <seconds>] [LABELS …])
 #
 # A program tst_<name> of those suites that its sources declare (support/suite.h; the
 # last line of such a source includes its .moc), and the test <name> that runs all of
 # them. One program a library: to link and start many costs more than what they test.
+# WINDOW is for tests of the window, which need its application object.
 function(kiv_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
+  set(main kiv-test-main)
+  if(arg_WINDOW)
+    set(main kiv-test-window-main)
+  endif()
   add_executable(tst_${name} ${arg_SOURCES})
   set_target_properties(tst_${name} PROPERTIES AUTOMOC ON)
-  target_link_libraries(tst_${name} PRIVATE kiv-test-main ${arg_LIBRARIES})
+  target_link_libraries(tst_${name} PRIVATE ${main} ${arg_LIBRARIES})
   kiv_compile_options(tst_${name})
-  target_precompile_headers(tst_${name} REUSE_FROM kiv-test-main)
+  target_precompile_headers(tst_${name} REUSE_FROM ${main})
   kiv_add_run(${name} ${name} TIMEOUT "${arg_TIMEOUT}" LABELS "${arg_LABELS}")
 endfunction()
 

@@ -8,7 +8,7 @@ set(KIV_LUPDATE_OPTIONS -silent -locations none -no-obsolete -extensions cpp,h
   -I ${PROJECT_SOURCE_DIR} -I ${PROJECT_SOURCE_DIR}/domain -source-language en)
 # In this order the messages stand in the catalogues.
 set(KIV_MESSAGE_FOLDERS ${PROJECT_SOURCE_DIR}/domain ${PROJECT_SOURCE_DIR}/navigation
-  ${PROJECT_SOURCE_DIR}/workbench ${PROJECT_SOURCE_DIR}/apps/kiv)
+  ${PROJECT_SOURCE_DIR}/workbench ${PROJECT_SOURCE_DIR}/apps/kiv ${PROJECT_SOURCE_DIR}/apps/desktop)
 
 # The target update-translations brings the catalogues up to date with the sources:
 # new messages come in unfinished, those that are gone leave.

@@ -21,7 +21,7 @@ using Group = ActionCollection::Group;
 
 namespace {
 
-const QString windowState = QStringLiteral("window");
+const QString windowKey = QStringLiteral("window");
 
 } // namespace
 
@@ -52,7 +52,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     connect(m_session, &FileSession::opened, this, &MainWindow::showOpened);
     connect(m_session, &FileSession::keptChanged, this, &MainWindow::showTitle);
     connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
-    if (!restoreGeometry(m_given.settings.state(windowState)))
+    if (!restoreGeometry(m_given.settings.state(windowKey)))
         resize(1000, 560);
     showOpened();
 }
@@ -109,7 +109,9 @@ void MainWindow::addPageActions()
             number <= 9 ? QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + number))
                         : QKeySequence();
         m_actions->add(QStringLiteral("page ") + page->id(), Group::Go, page->title(), keys,
-                       [this, page] { goTo({page->id(), {}}); });
+                       [this, page] {
+                           goTo({page->id(), {}});
+                       });
     }
 }
 
@@ -136,11 +138,11 @@ void MainWindow::addViewActions()
 {
     auto *looks = new QActionGroup(this);
     const auto addLook = [&](const char *id, const QString &text, Appearance appearance) {
-        QAction *action = m_actions->add(QString::fromLatin1(id), Group::View, text, {},
-                                         [this, appearance] {
-                                             m_given.settings.setAppearance(appearance);
-                                             applyLooks();
-                                         });
+        QAction *action =
+            m_actions->add(QString::fromLatin1(id), Group::View, text, {}, [this, appearance] {
+                m_given.settings.setAppearance(appearance);
+                applyLooks();
+            });
         action->setCheckable(true);
         action->setChecked(m_given.settings.appearance() == appearance);
         looks->addAction(action);
@@ -300,7 +302,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    m_given.settings.setState(windowState, saveGeometry());
+    m_given.settings.setState(windowKey, saveGeometry());
     event->accept();
 }
 

@@ -3,12 +3,22 @@
 // process of its own, so that none meets what another left: settings, a converter, a log.
 #include "support/suite.h"
 
+#ifdef KIV_TEST_WINDOW
+#include "application/application.h"
+#else
 #include <QtCore/QCoreApplication>
+#endif
 
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
+
+#ifdef KIV_TEST_WINDOW
+using Application = kiv::desktop::Application;
+#else
+using Application = QCoreApplication;
+#endif
 
 std::vector<const kiv::test::AnySuite *> &suites()
 {
@@ -27,7 +37,7 @@ int main(int argc, char **argv)
 {
     for (const auto *suite : suites()) {
         if (argc > 1 && suite->name() == argv[1]) {
-            QCoreApplication application(argc, argv);
+            Application application(argc, argv);
             return QTest::qExec(suite->tests().get(), argc - 1, argv + 1);
         }
     }
@@ -35,7 +45,7 @@ int main(int argc, char **argv)
     for (const auto *suite : suites()) {
         const pid_t child = fork();
         if (child == 0) {
-            QCoreApplication application(argc, argv);
+            Application application(argc, argv);
             return QTest::qExec(suite->tests().get(), argc, argv);
         }
         int status = 1;

@@ -134,6 +134,15 @@ void Document::create(const QString &file, const QString &change)
     saveAs(withExtension(file), change);
 }
 
+void Document::createEmpty(const QString &file, const QString &change)
+{
+    refuseExisting(file);
+    navigator().onConfirmedNewBudgetEmpty();
+    auto back = qScopeGuard([this] { revert(); });
+    saveAs(withExtension(file), change);
+    back.dismiss();
+}
+
 template <typename Slot, typename... Values>
 void Document::store(Slot slot, const Values &...values)
 {

@@ -81,6 +81,9 @@ public:
     /// Saves the budget in memory as a new file. Throws a Refusal as refuseExisting()
     /// does. `change` names the change, see save().
     void create(const QString &file, const QString &change);
+    /// Makes an empty budget in a new file, which is then the open one. Throws as create()
+    /// does; the open budget then stays.
+    void createEmpty(const QString &file, const QString &change);
     /// Saves the budget to its file, and the exchange rates with it. If only the rates
     /// cannot be saved, that is a warning. `change` names in a line what was changed, such
     /// as "Paid Rent"; the list of versions shows it.

@@ -16,8 +16,8 @@ namespace kiv::desktop {
 /// One line of the command palette.
 struct PaletteEntry {
     QString text;
-    QString detail;                ///< its kind, or its keys
-    QString reason = {};           ///< why it cannot be chosen; empty if it can
+    QString detail;                 ///< its kind, or its keys
+    QString reason = {};            ///< why it cannot be chosen; empty if it can
     std::function<void()> run = {}; ///< none for an answer, such as a sum
 };
 

@@ -33,10 +33,10 @@ void Page::bringUpToDate()
     try {
         refresh();
     } catch (const foundation::Error &error) {
-        m_desk.notices().add({notice,
-                              tr("The page “%1” cannot be shown: %2")
-                                  .arg(m_title, workbench::userText(error)),
-                              {}});
+        m_desk.notices().add(
+            {notice,
+             tr("The page “%1” cannot be shown: %2").arg(m_title, workbench::userText(error)),
+             {}});
     }
 }
 

@@ -51,13 +51,13 @@ void WelcomePage::refresh()
     if (!files.isEmpty())
         m_recent->addWidget(new QLabel(tr("Opened before:"), this));
     for (const QString &file : files) {
-        auto *button = new QPushButton(QFileInfo(file).completeBaseName().replace(
-                                           u'&', QStringLiteral("&&")),
-                                       this);
+        auto *button = new QPushButton(
+            QFileInfo(file).completeBaseName().replace(u'&', QStringLiteral("&&")), this);
         button->setToolTip(file);
         button->setAccessibleDescription(file);
-        connect(button, &QPushButton::clicked, this, [this, file] { emit fileWanted(file); },
-                Qt::QueuedConnection); // the list is made anew meanwhile
+        connect(
+            button, &QPushButton::clicked, this, [this, file] { emit fileWanted(file); },
+            Qt::QueuedConnection); // the list is made anew meanwhile
         m_recent->addWidget(button, 0, Qt::AlignLeft);
     }
 }

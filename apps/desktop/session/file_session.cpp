@@ -31,6 +31,9 @@ FileSession::FileSession(Desk &desk, QWidget *window)
 {
     desk.document().setKeeping(Document::Keeping::WithinASecond);
     addActions();
+    // As long as there are no preferences, each start empties the budget for the wizard.
+    connect(&desk.document().navigator(), &navigation::Navigator::showNewBudgetFirstTimeWizard,
+            this, &FileSession::storePreferences);
     connect(&desk.document().news(), &workbench::DocumentNews::keepingChanged, this,
             &FileSession::followKeeping);
     connect(&desk, &Desk::refreshWanted, this, &FileSession::followBudget);
@@ -57,6 +60,17 @@ void FileSession::addActions()
     add("undo", Group::Edit, tr("&Undo"), QKeySequence::Undo, &FileSession::undo);
     add("redo", Group::Edit, tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         &FileSession::redo);
+}
+
+void FileSession::storePreferences()
+{
+    attempt(QStringLiteral("preferences"), [this] {
+        workbench::Requests &requests = m_desk.requests();
+        const auto answer = requests.ask(&navigation::Navigator::showConfigure,
+                                         &navigation::Navigator::onPrepareShowConfigure);
+        requests.change(workbench::configureOutcome, &navigation::Navigator::onConfigureUpdated,
+                        std::get<navigation::ConfigurationData>(answer));
+    });
 }
 
 bool FileSession::attempt(const QString &id, const std::function<void()> &work)
@@ -196,8 +210,7 @@ bool FileSession::mayClose()
             return true;
         } catch (const foundation::Error &error) {
             const std::optional<qsizetype> answer = m_desk.questions().choose(
-                m_window,
-                tr("The last changes are not saved. %1").arg(workbench::userText(error)),
+                m_window, tr("The last changes are not saved. %1").arg(workbench::userText(error)),
                 {tr("Try again"), tr("Save elsewhere …"), tr("Give the changes up")});
             if (!answer)
                 return false;
@@ -274,8 +287,9 @@ std::optional<Notice::Choice> FileSession::choiceFor(Remedy remedy, const QStrin
     case Remedy::Reload:
         return Notice::Choice{tr("Take the file as it is now"), [this] { reload(); }};
     case Remedy::ListVersions:
-        return Notice::Choice{tr("Look at former versions"),
-                              [this] { m_desk.goTo({QStringLiteral("history"), {}}); }};
+        return Notice::Choice{tr("Look at former versions"), [this] {
+                                  m_desk.goTo({QStringLiteral("history"), {}});
+                              }};
     case Remedy::BringBack:
         return Notice::Choice{tr("Bring the newest whole version back"),
                               [this, file] { bringBack(file); }};

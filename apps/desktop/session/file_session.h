@@ -31,6 +31,8 @@ signals:
 
 private:
     void addActions();
+    /// Stores the present settings, so that preferences exist.
+    void storePreferences();
     void makeNew();
     void saveNow();
     void saveCopy();

@@ -70,7 +70,8 @@ QStringList NoticeBar::texts() const
 {
     QStringList texts;
     for (int place = 0; place < m_rows->count(); ++place)
-        texts += m_rows->itemAt(place)->widget()->findChild<QLabel *>(QStringLiteral("text"))->text();
+        texts +=
+            m_rows->itemAt(place)->widget()->findChild<QLabel *>(QStringLiteral("text"))->text();
     return texts;
 }
 

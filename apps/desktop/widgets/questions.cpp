@@ -39,8 +39,8 @@ QString DialogQuestions::fileToMake(QWidget *parent, const QString &heading)
 std::optional<qsizetype> DialogQuestions::choose(QWidget *parent, const QString &question,
                                                  const QStringList &answers)
 {
-    QMessageBox box(QMessageBox::Question, QObject::tr("Question"), question,
-                    QMessageBox::NoButton, parent);
+    QMessageBox box(QMessageBox::Question, QObject::tr("Question"), question, QMessageBox::NoButton,
+                    parent);
     box.setTextFormat(Qt::PlainText);
     std::vector<QAbstractButton *> buttons;
     for (const QString &answer : answers)

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "main_window.h"
+#include "support/preferences_store.h"
+#include "support/scripted_sender.h"
+
+#include <QtCore/QTemporaryDir>
+
+/// Answers questions as a test says, and keeps what was asked.
+class ScriptedQuestions final : public kiv::desktop::Questions {
+public:
+    QStringList files;                             ///< the next answers
+    std::vector<std::optional<qsizetype>> choices; ///< the next answers
+    QStringList asked;                             ///< what was asked or shown
+
+    QString fileToOpen(QWidget *) override { return next(QStringLiteral("open")); }
+    QString fileToMake(QWidget *, const QString &heading) override { return next(heading); }
+    std::optional<qsizetype> choose(QWidget *, const QString &question,
+                                    const QStringList &answers) override
+    {
+        asked += question + QStringLiteral(" | ") + answers.join(QStringLiteral(" | "));
+        if (choices.empty())
+            return std::nullopt;
+        const std::optional<qsizetype> answer = choices.front();
+        choices.erase(choices.begin());
+        return answer;
+    }
+    void show(QWidget *, const QString &heading, const QString &text) override
+    {
+        asked += heading + u'\n' + text;
+    }
+
+private:
+    QString next(const QString &heading)
+    {
+        asked += heading;
+        return files.isEmpty() ? QString() : files.takeFirst();
+    }
+};
+
+/// A window on a budget in a temporary folder, with a service that never answers unless a
+/// script says otherwise.
+class HouseholdWindow {
+public:
+    explicit HouseholdWindow(ScriptedSender::Script script = ScriptedSender::silence(),
+                             bool showsTerms = false)
+        : m_settings(m_folder.filePath(QStringLiteral("window.ini"))),
+          m_document({[script = std::move(script)] {
+                          return kiv::foundation::UniqueQtPtr<kiv::networking::RequestSender>(
+                              new ScriptedSender(script));
+                      },
+                      m_folder.filePath(QStringLiteral("rates"))}),
+          m_window({m_document, m_settings, m_questions, showsTerms})
+    {
+    }
+
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
+    [[nodiscard]] kiv::desktop::MainWindow &window() noexcept { return m_window; }
+    [[nodiscard]] kiv::workbench::Document &document() noexcept { return m_document; }
+    [[nodiscard]] kiv::workbench::Requests &requests() noexcept { return m_document.requests(); }
+    [[nodiscard]] kiv::desktop::WindowSettings &settings() noexcept { return m_settings; }
+    [[nodiscard]] ScriptedQuestions &questions() noexcept { return m_questions; }
+
+    /// Shows the window, as tests of keys need it.
+    void show()
+    {
+        m_window.show();
+        QApplication::setActiveWindow(&m_window);
+        QVERIFY(QTest::qWaitForWindowActive(&m_window));
+    }
+    /// Triggers an action as its keys do.
+    void trigger(const char *action)
+    {
+        m_window.desk().actions().action(QString::fromLatin1(action))->trigger();
+    }
+
+private:
+    PreferencesStore m_preferences;
+    QTemporaryDir m_folder;
+    kiv::desktop::WindowSettings m_settings;
+    ScriptedQuestions m_questions;
+    kiv::workbench::Document m_document;
+    kiv::desktop::MainWindow m_window;
+};

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/household_window.h"
+#include "support/accounting.h"
+
+#include <QtCore/QFile>
+
+using namespace kiv;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+void addAccount(workbench::Document &document, const QString &name)
+{
+    document.perform({u"Added %1."_s.arg(name), u"adding %1"_s.arg(name), {}}, [&] {
+        document.requests().change(
+            workbench::accountOutcome, &navigation::Navigator::onAddedAct,
+            accounting::Account(accounting::AccountTypes::Expense,
+                                {document.requests().accounts().nextNumber(), name, std::nullopt},
+                                kiv::test::usd("0"), false));
+    });
+}
+
+bool has(workbench::Document &document, const QString &name)
+{
+    const workbench::AccountIndex index = document.requests().accounts();
+    return std::ranges::any_of(index.accounts(), [&name](const accounting::Account &account) {
+        return account.code().name() == name;
+    });
+}
+
+} // namespace
+
+/// New, open, save, close, undo and redo in the window, and what is said when they fail.
+class TestFileSession : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aNewBudgetHasAFileFromTheStart()
+    {
+        HouseholdWindow desk;
+        desk.questions().files = {desk.path(u"home"_s)};
+        desk.trigger("new");
+        QVERIFY(QFile::exists(desk.path(u"home.budget"_s)));
+        QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
+        QCOMPARE(desk.settings().recentFiles(), QStringList{desk.path(u"home.budget"_s)});
+
+        // The same name again is refused, and the open budget stays.
+        addAccount(desk.document(), u"Food"_s);
+        QTRY_COMPARE(desk.window().windowTitle(), u"home (saved)"_s);
+        desk.questions().files = {desk.path(u"home"_s)};
+        desk.trigger("new");
+        QVERIFY(has(desk.document(), u"Food"_s));
+        QCOMPARE(notices(desk).size(), 1);
+        QVERIFY(notices(desk).first().contains(u"home.budget"_s));
+    }
+
+    void closingWritesWhatIsPending()
+    {
+        HouseholdWindow desk;
+        begin(desk);
+        addAccount(desk.document(), u"Food"_s);
+        QVERIFY(desk.window().close());
+        QVERIFY(desk.questions().asked.isEmpty());
+        HouseholdWindow other;
+        QVERIFY(!other.window().open(desk.path(u"home.budget"_s)) || other.document().isReadOnly());
+    }
+
+    void undoAndRedoNameTheirStep()
+    {
+        HouseholdWindow desk;
+        begin(desk);
+        addAccount(desk.document(), u"Food & drink"_s);
+        QCOMPARE(action(desk, "undo")->text(), u"Undo adding Food && drink"_s);
+        desk.trigger("undo");
+        QVERIFY(!has(desk.document(), u"Food & drink"_s));
+        QCOMPARE(action(desk, "redo")->text(), u"Redo adding Food && drink"_s);
+        desk.trigger("redo");
+        QVERIFY(has(desk.document(), u"Food & drink"_s));
+        QVERIFY(!action(desk, "redo")->isEnabled());
+        QVERIFY(!desktop::ActionCollection::reason(action(desk, "redo")).isEmpty());
+    }
+
+    void aDamagedFileLeavesTheOpenBudget()
+    {
+        HouseholdWindow desk;
+        begin(desk);
+        QFile damaged(desk.path(u"damaged.budget"_s));
+        QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("no budget") > 0);
+        damaged.close();
+        QVERIFY(!desk.window().open(damaged.fileName()));
+        QVERIFY(has(desk.document(), u"Rent"_s));
+        QVERIFY(notices(desk).join(u' ').contains(u"damaged.budget"_s));
+        QVERIFY(!desk.window().open(desk.path(u"none.budget"_s)));
+        QVERIFY(notices(desk).join(u' ').contains(u"none.budget"_s));
+    }
+
+    void aFileThatIsOpenElsewhereIsForReading()
+    {
+        HouseholdWindow first;
+        begin(first);
+        HouseholdWindow second;
+        QVERIFY(second.window().open(first.path(u"home.budget"_s)));
+        QVERIFY(second.document().isReadOnly());
+        QCOMPARE(second.window().windowTitle(), u"home (read only)"_s);
+        QVERIFY(second.window().desk().whyNoChange());
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, addAccount(second.document(), u"Food"_s));
+        QVERIFY(!has(second.document(), u"Food"_s));
+    }
+
+    void noTwoActionsHaveTheSameKeys()
+    {
+        HouseholdWindow desk;
+        QCOMPARE(desk.window().desk().actions().conflicts(), QStringList());
+        desk.window().desk().actions().add(u"planted"_s, desktop::ActionCollection::Group::Help,
+                                           u"Planted"_s, QKeySequence::Save, [] {});
+        QCOMPARE(desk.window().desk().actions().conflicts(), QStringList{u"Ctrl+S"_s});
+    }
+
+private:
+    static void begin(HouseholdWindow &desk)
+    {
+        desk.questions().files = {desk.path(u"home"_s)};
+        desk.trigger("new");
+        addAccount(desk.document(), u"Rent"_s);
+        desk.trigger("save");
+        desk.questions().asked.clear();
+    }
+    static QStringList notices(HouseholdWindow &desk)
+    {
+        return desk.window().desk().notices().texts();
+    }
+    static QAction *action(HouseholdWindow &desk, const char *id)
+    {
+        return desk.window().desk().actions().action(QString::fromLatin1(id));
+    }
+};
+
+static const kiv::test::Suite<TestFileSession> suite;
+
+#include "tst_file_session.moc"
