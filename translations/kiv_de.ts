@@ -2390,10 +2390,6 @@
         <translation>siehe %1</translation>
     </message>
     <message>
-        <source>Several accounts are named &apos;%1&apos;; use one of the numbers %2.</source>
-        <translation>Mehrere Konten heißen „%1“; stattdessen eine dieser Nummern angeben: %2.</translation>
-    </message>
-    <message>
         <source>There is no bank &apos;%1&apos;</source>
         <translation>Es gibt keine Bank „%1“</translation>
     </message>
@@ -2436,14 +2432,6 @@
     <message>
         <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
         <translation>„%3“ (%1) kann nicht verarbeitet werden, solange es einen gleichnamigen Posten der Art %2 gibt; einer von beiden ist umzubenennen.</translation>
-    </message>
-    <message>
-        <source>Cannot transfer from &apos;%1&apos;; choose an asset account of a bank.</source>
-        <translation>Von „%1“ kann nicht umgebucht werden; möglich ist ein Vermögenskonto einer Bank.</translation>
-    </message>
-    <message>
-        <source>Cannot transfer to &apos;%1&apos;; choose an asset account of a bank without a parent account.</source>
-        <translation>Auf „%1“ kann nicht umgebucht werden; möglich ist ein Vermögenskonto einer Bank ohne Oberkonto.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
@@ -4339,6 +4327,118 @@
     <message>
         <source>%1 See kiv reconciliations.</source>
         <translation>%1 Siehe kiv reconciliations.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no amounts; write them like &gt;50, &lt;20, =12.30 or 50..80.</source>
+        <translation>„%1“ nennt keine Beträge; schreiben wie &gt;50, &lt;20, =12.30 oder 50..80.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no days; write them like 2026-03-05, 2026-03 or 2026-03..2026-05.</source>
+        <translation>„%1“ nennt keine Tage; schreiben wie 2026-03-05, 2026-03 oder 2026-03..2026-05.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no mark; the marks are reconciled, cleared and open.</source>
+        <translation>„%1“ nennt keinen Vermerk; Vermerke sind reconciled, cleared und open.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends before it begins.</source>
+        <translation>„%1“ endet, bevor es beginnt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks a word behind the colon.</source>
+        <translation>„%1“ fehlt ein Wort hinter dem Doppelpunkt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a filter</source>
+        <translation>„%1“ ist kein Filter</translation>
+    </message>
+    <message>
+        <source>Several accounts are named &apos;%1&apos;; write one of: %2.</source>
+        <translation>Mehrere Konten heißen „%1“; eines davon schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>Money is not spent on &apos;%1&apos;; name a budget item or an expense account, or move it to &apos;%1&apos;.</source>
+        <translation>Für „%1“ wird kein Geld ausgegeben; einen Budgetposten oder ein Aufwandskonto nennen oder nach „%1“ umbuchen.</translation>
+    </message>
+    <message>
+        <source>Money is not earned from &apos;%1&apos;; name a wage or an income account, or move it from &apos;%1&apos;.</source>
+        <translation>Mit „%1“ wird kein Geld verdient; einen Lohn oder ein Ertragskonto nennen oder von „%1“ umbuchen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; keeps no money; name an account such as a bank account, a card or cash.</source>
+        <translation>„%1“ enthält kein Geld; ein Konto wie Bankkonto, Karte oder Bargeld nennen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was never paid before, and no bank has a checking account; name the account.</source>
+        <translation>„%1“ wurde noch nie bezahlt, und keine Bank hat ein Girokonto; das Konto nennen.</translation>
+    </message>
+    <message>
+        <source>January</source>
+        <translation>Januar</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>Februar</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>März</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>April</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>Juni</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>Juli</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>August</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>September</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>Oktober</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>November</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>Dezember</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>gestern</translation>
+    </message>
+    <message>
+        <source>this month</source>
+        <translation>dieser Monat</translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <translation>letzter Monat</translation>
+    </message>
+    <message>
+        <source>this year</source>
+        <translation>dieses Jahr</translation>
+    </message>
+    <message>
+        <source>last year</source>
+        <translation>letztes Jahr</translation>
     </message>
 </context>
 </TS>

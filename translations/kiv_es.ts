@@ -2390,10 +2390,6 @@
         <translation>véase %1</translation>
     </message>
     <message>
-        <source>Several accounts are named &apos;%1&apos;; use one of the numbers %2.</source>
-        <translation>Varias cuentas se llaman «%1»; se indica uno de estos números: %2.</translation>
-    </message>
-    <message>
         <source>There is no bank &apos;%1&apos;</source>
         <translation>No hay ningún banco «%1»</translation>
     </message>
@@ -2436,14 +2432,6 @@
     <message>
         <source>The %1 &apos;%3&apos; cannot be processed while there is a %2 of the same name; rename one of them.</source>
         <translation>«%3» (%1) no se puede procesar mientras haya otra partida (%2) con el mismo nombre; hay que cambiar el nombre de una.</translation>
-    </message>
-    <message>
-        <source>Cannot transfer from &apos;%1&apos;; choose an asset account of a bank.</source>
-        <translation>No se puede traspasar desde «%1»; debe ser una cuenta de activo de un banco.</translation>
-    </message>
-    <message>
-        <source>Cannot transfer to &apos;%1&apos;; choose an asset account of a bank without a parent account.</source>
-        <translation>No se puede traspasar a «%1»; debe ser una cuenta de activo de un banco sin cuenta superior.</translation>
     </message>
     <message>
         <source>There is no transaction %1</source>
@@ -4339,6 +4327,118 @@
     <message>
         <source>%1 See kiv reconciliations.</source>
         <translation>%1 Véase kiv reconciliations.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no amounts; write them like &gt;50, &lt;20, =12.30 or 50..80.</source>
+        <translation>«%1» no indica importes; escribirlos como &gt;50, &lt;20, =12.30 o 50..80.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no days; write them like 2026-03-05, 2026-03 or 2026-03..2026-05.</source>
+        <translation>«%1» no indica días; escribirlos como 2026-03-05, 2026-03 o 2026-03..2026-05.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; names no mark; the marks are reconciled, cleared and open.</source>
+        <translation>«%1» no indica ninguna marca; las marcas son reconciled, cleared y open.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; ends before it begins.</source>
+        <translation>«%1» termina antes de empezar.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lacks a word behind the colon.</source>
+        <translation>A «%1» le falta una palabra tras los dos puntos.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a filter</source>
+        <translation>«%1» no es un filtro</translation>
+    </message>
+    <message>
+        <source>Several accounts are named &apos;%1&apos;; write one of: %2.</source>
+        <translation>Varias cuentas se llaman «%1»; escribir una de: %2.</translation>
+    </message>
+    <message>
+        <source>Money is not spent on &apos;%1&apos;; name a budget item or an expense account, or move it to &apos;%1&apos;.</source>
+        <translation>En «%1» no se gasta dinero; indicar una partida o una cuenta de gasto, o traspasarlo a «%1».</translation>
+    </message>
+    <message>
+        <source>Money is not earned from &apos;%1&apos;; name a wage or an income account, or move it from &apos;%1&apos;.</source>
+        <translation>De «%1» no se gana dinero; indicar un salario o una cuenta de ingreso, o traspasarlo desde «%1».</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; keeps no money; name an account such as a bank account, a card or cash.</source>
+        <translation>«%1» no guarda dinero; indicar una cuenta como una cuenta bancaria, una tarjeta o efectivo.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; was never paid before, and no bank has a checking account; name the account.</source>
+        <translation>«%1» no se ha pagado nunca, y ningún banco tiene una cuenta corriente; indicar la cuenta.</translation>
+    </message>
+    <message>
+        <source>January</source>
+        <translation>enero</translation>
+    </message>
+    <message>
+        <source>February</source>
+        <translation>febrero</translation>
+    </message>
+    <message>
+        <source>March</source>
+        <translation>marzo</translation>
+    </message>
+    <message>
+        <source>April</source>
+        <translation>abril</translation>
+    </message>
+    <message>
+        <source>May</source>
+        <translation>mayo</translation>
+    </message>
+    <message>
+        <source>June</source>
+        <translation>junio</translation>
+    </message>
+    <message>
+        <source>July</source>
+        <translation>julio</translation>
+    </message>
+    <message>
+        <source>August</source>
+        <translation>agosto</translation>
+    </message>
+    <message>
+        <source>September</source>
+        <translation>septiembre</translation>
+    </message>
+    <message>
+        <source>October</source>
+        <translation>octubre</translation>
+    </message>
+    <message>
+        <source>November</source>
+        <translation>noviembre</translation>
+    </message>
+    <message>
+        <source>December</source>
+        <translation>diciembre</translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <translation>ayer</translation>
+    </message>
+    <message>
+        <source>this month</source>
+        <translation>este mes</translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <translation>mes pasado</translation>
+    </message>
+    <message>
+        <source>this year</source>
+        <translation>este año</translation>
+    </message>
+    <message>
+        <source>last year</source>
+        <translation>año pasado</translation>
     </message>
 </context>
 </TS>

@@ -15,11 +15,14 @@ namespace {
 
 using Accounts = std::map<AccountNumber, const Account *>;
 
-QString safeName(const Account &account)
+using NameOf = std::function<QString(const Account &)>;
+
+QString safeName(const Account &account, const NameOf &nameOf)
 {
     // Two blanks end an account's name in a journal, and a semicolon begins a
     // comment.
-    QString name = foundation::escaped(account.code().name().simplified());
+    const QString called = nameOf ? nameOf(account) : account.code().name();
+    QString name = foundation::escaped(called.simplified());
     name.replace(u':', u'-').replace(u';', u',');
     return name.isEmpty() ? accounting::presentationText(account.code().number()) : name;
 }
@@ -53,11 +56,12 @@ std::map<AccountNumber, AccountNumber> parentsInPaths(const Accounts &accounts)
 }
 
 std::map<AccountNumber, QString> uniqueNames(const Accounts &accounts,
-                                             const std::map<AccountNumber, AccountNumber> &parents)
+                                             const std::map<AccountNumber, AccountNumber> &parents,
+                                             const NameOf &nameOf)
 {
     std::map<AccountNumber, QString> names;
     for (const auto &[number, account] : accounts)
-        names.emplace(number, safeName(*account));
+        names.emplace(number, safeName(*account, nameOf));
 
     // Siblings with equal names get their numbers behind them, again if the new name is
     // taken. Numbers differ, so this ends.
@@ -105,13 +109,14 @@ AccountTypes typeOfRoot(const QString &root)
     return found == roots.end() ? Unknown : found->second;
 }
 
-std::map<AccountNumber, QString> accountPaths(const std::set<Account> &accounts)
+std::map<AccountNumber, QString> accountPaths(const std::set<Account> &accounts,
+                                              const NameOf &nameOf)
 {
     Accounts byNumber;
     for (const Account &account : accounts)
         byNumber.emplace(account.code().number(), &account);
     const std::map<AccountNumber, AccountNumber> parents = parentsInPaths(byNumber);
-    const std::map<AccountNumber, QString> names = uniqueNames(byNumber, parents);
+    const std::map<AccountNumber, QString> names = uniqueNames(byNumber, parents, nameOf);
 
     std::map<AccountNumber, QString> paths;
     for (const auto &[number, account] : byNumber) {

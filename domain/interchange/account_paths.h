@@ -5,6 +5,7 @@
 
 #include "accounting/account.h"
 
+#include <functional>
 #include <map>
 #include <set>
 
@@ -24,8 +25,10 @@ namespace kiv::interchange {
 /// single blanks. Accounts that would share a path get their numbers behind their names, so
 /// every path names one account. Accounts nested deeper than accounting::accountDepthMax
 /// stand beside their nearest ancestor that is not, so no path has more than 100 names.
-/// `accounts` must be a whole ledger's: each account's parent must be among them.
+/// `accounts` must be a whole ledger's: each account's parent must be among them. Accounts are
+/// called by their names, or as `nameOf` says.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::map<accounting::AccountNumber, QString>
-accountPaths(const std::set<accounting::Account> &accounts);
+accountPaths(const std::set<accounting::Account> &accounts,
+             const std::function<QString(const accounting::Account &)> &nameOf = {});
 
 } // namespace kiv::interchange

@@ -57,6 +57,12 @@ QString bankIdOf(const QString &description)
                : description.mid(at + opening.size(), description.size() - at - opening.size() - 1);
 }
 
+QString withoutBankId(const QString &description)
+{
+    const qsizetype at = idBegin(description);
+    return at < 0 ? description : description.first(at).trimmed();
+}
+
 void forgetSharedIds(std::vector<StatementEntry> &entries)
 {
     static const QStringList none{QStringLiteral("NOTPROVIDED"), QStringLiteral("NONREF"),

@@ -149,7 +149,7 @@ Names that stand in several places:
   > account add Twin --type income
   > .
   $ kiv ledger Twin
-  kiv: Several accounts are named 'Twin'; use one of the numbers 6, 7.
+  kiv: Several accounts are named 'Twin'; write one of: 6, 7.
   [1]
   $ kiv post Rent --account Checking
   kiv: Several budget items are named 'Rent'; choose one with --kind: bill, wage.

@@ -51,7 +51,7 @@ Items are tied to their bank. What is not given stays, the bank too:
 The reason stands behind what failed:
 
   $ kiv goal update Trip --bank-account 'Car [Budget Item]'
-  kiv: Failed to update the goal bank account association. Caused by: The account '6 Trip [Budget Item]' of type Asset cannot stand under the account '7 Car [Budget Item]' of type Liability.
+  kiv: Failed to update the goal bank account association. Caused by: The account '6 Trip' of type Asset cannot stand under the account '7 Car' of type Liability.
   [1]
 
 An edited document completes a survey. What went to the goal stays in the family:
@@ -254,7 +254,7 @@ The wizard makes a budget of a template's items:
   kiv: The file 'start.budget' exists already; choose another name.
   [1]
   $ kiv wizard other --template teenager --bank A --account B --type credit-card
-  kiv: The budget could not be created. Failure making the goal bank account association. Caused by: The account '22 Emergencies [Budget Item]' of type Asset cannot stand under the account '1 B' of type Liability.
+  kiv: The budget could not be created. Failure making the goal bank account association. Caused by: The account '22 Emergencies' of type Asset cannot stand under the account '1 B' of type Liability.
   [1]
   $ kiv wizard other --template teenager --bank A --account "$(jq -r '.[0].name' items)"
   kiv: The budget could not be created. The budget item has the same name as an existing ledger account.

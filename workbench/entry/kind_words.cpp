@@ -36,4 +36,15 @@ QString kindText(budgeting::BudgetItemTypes kind)
     return QObject::tr(words.at(static_cast<std::size_t>(kind) - 1));
 }
 
+std::pair<std::optional<budgeting::BudgetItemTypes>, QString> withKind(const QString &text)
+{
+    const qsizetype at = text.indexOf(u':');
+    std::optional<budgeting::BudgetItemTypes> kind;
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        if (at > 0 && text.first(at) == QLatin1String(budgeting::ItemTraits<Item>::word))
+            kind = budgeting::ItemTraits<Item>::type;
+    });
+    return {kind, kind ? text.sliced(at + 1) : text};
+}
+
 } // namespace kiv::workbench

@@ -70,15 +70,50 @@ EntryError currencyGivenTwice(const QString &currency)
     return EntryError(QObject::tr("The currency '%1' is given twice.").arg(currency));
 }
 
+EntryError notAnAmountFilter(const QString &part)
+{
+    return EntryError(
+        QObject::tr("'%1' names no amounts; write them like >50, <20, =12.30 or 50..80.")
+            .arg(part));
+}
+
+EntryError notADayFilter(const QString &part)
+{
+    return EntryError(
+        QObject::tr("'%1' names no days; write them like 2026-03-05, 2026-03 or 2026-03..2026-05.")
+            .arg(part));
+}
+
+EntryError notAMarkFilter(const QString &part)
+{
+    return EntryError(
+        QObject::tr("'%1' names no mark; the marks are reconciled, cleared and open.").arg(part));
+}
+
+EntryError filterEndsFirst(const QString &part)
+{
+    return EntryError(QObject::tr("'%1' ends before it begins.").arg(part));
+}
+
+EntryError filterLacksValue(const QString &part)
+{
+    return EntryError(QObject::tr("'%1' lacks a word behind the colon.").arg(part));
+}
+
+EntryError notAFilter(const QString &part, const QStringList &similar)
+{
+    return EntryError(didYouMean(QObject::tr("'%1' is not a filter").arg(part), similar));
+}
+
 Refusal noSuchAccount(const QString &text, const QStringList &similar)
 {
     return missed(QObject::tr("There is no account '%1'").arg(text), similar, Remedy::ListAccounts);
 }
 
-Refusal ambiguousAccount(const QString &name, const QStringList &numbers)
+Refusal ambiguousAccount(const QString &name, const QStringList &ways)
 {
-    return Refusal(QObject::tr("Several accounts are named '%1'; use one of the numbers %2.")
-                       .arg(name, numbers.join(QStringLiteral(", "))));
+    return Refusal(QObject::tr("Several accounts are named '%1'; write one of: %2.")
+                       .arg(name, ways.join(QStringLiteral(", "))));
 }
 
 Refusal noSuchBank(const QString &name, const QStringList &similar)
@@ -124,18 +159,32 @@ Refusal noSuchTransaction(const QString &number)
                   Remedy::ListTransactions);
 }
 
-Refusal noTransferFrom(const QString &account)
+Refusal notSpentOn(const QString &account)
 {
-    return Refusal(
-        QObject::tr("Cannot transfer from '%1'; choose an asset account of a bank.").arg(account));
+    return Refusal(QObject::tr("Money is not spent on '%1'; name a budget item or an expense "
+                               "account, or move it to '%1'.")
+                       .arg(account));
 }
 
-Refusal noTransferTo(const QString &account)
+Refusal notEarnedFrom(const QString &account)
+{
+    return Refusal(QObject::tr("Money is not earned from '%1'; name a wage or an income account, "
+                               "or move it from '%1'.")
+                       .arg(account));
+}
+
+Refusal keepsNoMoney(const QString &account)
 {
     return Refusal(
-        QObject::tr(
-            "Cannot transfer to '%1'; choose an asset account of a bank without a parent account.")
+        QObject::tr("'%1' keeps no money; name an account such as a bank account, a card or cash.")
             .arg(account));
+}
+
+Refusal noUsualAccount(const QString &item)
+{
+    return Refusal(QObject::tr("'%1' was never paid before, and no bank has a checking account; "
+                               "name the account.")
+                       .arg(item));
 }
 
 Refusal noSuchVersion(const QString &name)

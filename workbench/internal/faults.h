@@ -21,11 +21,23 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notAPercentage(const QString &text);
 [[nodiscard]] EntryError currencyGivenTwice(const QString &currency);
 
+// ---- searches: `part` is the part as typed -----------------------------------
+
+[[nodiscard]] EntryError notAnAmountFilter(const QString &part);
+[[nodiscard]] EntryError notADayFilter(const QString &part);
+[[nodiscard]] EntryError notAMarkFilter(const QString &part);
+/// The last day or amount is below the first.
+[[nodiscard]] EntryError filterEndsFirst(const QString &part);
+[[nodiscard]] EntryError filterLacksValue(const QString &part);
+/// With similar keys.
+[[nodiscard]] EntryError notAFilter(const QString &part, const QStringList &similar);
+
 // ---- what is not in the budget -----------------------------------------------
 // `similar` are names to offer, see similarTo().
 
 [[nodiscard]] Refusal noSuchAccount(const QString &text, const QStringList &similar);
-[[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &numbers);
+/// `ways` are what to write for each of them.
+[[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &ways);
 [[nodiscard]] Refusal noSuchBank(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal notABankAccount(const QString &account);
 [[nodiscard]] Refusal noSuchItem(budgeting::BudgetItemTypes kind, const QString &name,
@@ -37,8 +49,12 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);
-[[nodiscard]] Refusal noTransferFrom(const QString &account);
-[[nodiscard]] Refusal noTransferTo(const QString &account);
+[[nodiscard]] Refusal notSpentOn(const QString &account);
+[[nodiscard]] Refusal notEarnedFrom(const QString &account);
+/// Money is spent from an account and earned to it only if it keeps money.
+[[nodiscard]] Refusal keepsNoMoney(const QString &account);
+/// The user must name the account with which the item is paid.
+[[nodiscard]] Refusal noUsualAccount(const QString &item);
 [[nodiscard]] Refusal noSuchVersion(const QString &name);
 [[nodiscard]] Refusal alreadyPresent(const QString &version);
 /// `possible` is how many steps there are.

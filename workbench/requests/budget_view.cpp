@@ -97,13 +97,8 @@ const budgeting::BudgetedMoney &BudgetView::find(const QString &name,
 
 BudgetItemIdentifier BudgetView::findTyped(const QString &text) const
 {
-    const qsizetype at = text.indexOf(u':');
-    std::optional<BudgetItemTypes> kind;
-    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        if (at > 0 && text.first(at) == QLatin1String(budgeting::ItemTraits<Item>::word))
-            kind = budgeting::ItemTraits<Item>::type;
-    });
-    return identify(find(kind ? text.sliced(at + 1) : text, kind));
+    const auto [kind, name] = withKind(text);
+    return identify(find(name, kind));
 }
 
 BudgetItemIdentifier identify(const budgeting::BudgetedMoney &item)

@@ -20,7 +20,7 @@ QString userText(const Failure &failure)
     QString text = failure.message;
     for (const QString &cause : failure.causes)
         text += QObject::tr(" Caused by: ") + cause;
-    return text;
+    return inPlainWords(text);
 }
 
 QString userText(const std::exception &error)
@@ -34,8 +34,20 @@ Requests::~Requests() = default;
 
 AccountIndex Requests::accounts()
 {
-    return AccountIndex(std::get<std::set<accounting::Account>>(
-        ask(&Navigator::showAccounts, &Navigator::onPrepareShowAccounts)));
+    return AccountIndex(
+        std::get<std::set<accounting::Account>>(
+            ask(&Navigator::showAccounts, &Navigator::onPrepareShowAccounts)),
+        [this](const budgeting::BudgetItemIdentifier &item) { return accountOf(item); });
+}
+
+std::optional<accounting::AccountNumber>
+Requests::accountOf(const budgeting::BudgetItemIdentifier &item)
+{
+    const auto answer = ask(&Navigator::lookedUpRefundableTransactions,
+                            &Navigator::onLookUpRefundableTransactions, item);
+    // An item without an account has an empty code.
+    const accounting::AccountNumber number = std::get<accounting::AccountCode>(answer).number();
+    return number == accounting::AccountNumber() ? std::nullopt : std::optional(number);
 }
 
 banking::BankMap Requests::banks()

@@ -30,7 +30,7 @@ struct Outcome {
 template <typename Succeeded, typename Failed>
 Outcome(Succeeded, Failed) -> Outcome<Succeeded, Failed>;
 
-/// The failure in the user's language: its message and all causes.
+/// The failure in the user's language and plain words: its message and all causes.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString userText(const navigation::Failure &failure);
 /// The same for an error that a request threw.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString userText(const std::exception &error);
@@ -115,8 +115,13 @@ public:
 
     // ---- what most front ends need -------------------------------------------
 
-    /// All accounts with their transactions.
+    /// All accounts with their transactions. The index looks items up here, so it must not
+    /// find names after these requests are gone.
     [[nodiscard]] AccountIndex accounts();
+    /// The account of the item; none if there is no such item. Reads the transactions of the
+    /// account.
+    [[nodiscard]] std::optional<accounting::AccountNumber>
+    accountOf(const budgeting::BudgetItemIdentifier &item);
     /// All banks.
     [[nodiscard]] banking::BankMap banks();
     /// The bank with this name. Throws a Refusal if there is none.

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/transactions.h"
 
+#include "workbench/entry/description.h"
 #include "workbench/internal/faults.h"
 #include "workbench/requests/other_day.h"
 
-#include "interchange/duplicates.h"
+#include "foundation/clock.h"
 
 namespace kiv::workbench {
 
+using accounting::Account;
 using accounting::AccountCode;
+using accounting::AccountNumber;
+using accounting::AccountTypes;
 using accounting::Transaction;
 using accounting::TransactionNumber;
 using navigation::Navigator;
@@ -22,21 +26,34 @@ TransactionNumber postedNumber(const Answers &answers)
     return std::get<1>(answers.back()).value_or(TransactionNumber());
 }
 
-bool holds(const std::set<navigation::BankAccountCode> &accounts, accounting::AccountNumber number)
+bool holds(const std::set<navigation::BankAccountCode> &accounts, AccountNumber number)
 {
     return std::ranges::any_of(
         accounts, [number](const auto &account) { return account.account().number() == number; });
 }
 
-/// The new description, with the bank's identifier of the old one.
+/// The new description, with the banks' identifiers of the old one.
 std::optional<QString> describedAfter(const Transaction &present,
                                       const std::optional<QString> &description)
 {
-    if (!description || !present.description())
-        return description ? description : present.description();
-    const QString id = interchange::bankIdOf(*present.description());
-    return interchange::bankIdOf(*description).isEmpty() ? interchange::withBankId(*description, id)
-                                                         : *description;
+    if (!description)
+        return present.description();
+    Description changed = Description::of(*description);
+    if (changed.bankIds.isEmpty())
+        changed.bankIds = Description::of(present.description()).bankIds;
+    return changed.text();
+}
+
+/// The account that is typed, or without one where the item is paid from.
+const Account &payingAccount(Requests &requests, const AccountIndex &index, const QString &text,
+                             const Account &item)
+{
+    if (!text.isEmpty())
+        return index.find(text);
+    const std::optional<AccountNumber> usual = paidFrom(requests, item);
+    if (!usual)
+        throw internal::noUsualAccount(index.plainName(item.code().number()));
+    return *index.find(*usual);
 }
 
 } // namespace
@@ -50,20 +67,82 @@ TransactionNumber post(Requests &requests, const Transaction &transaction)
 TransactionNumber transfer(Requests &requests, const Transfer &transfer)
 {
     const AccountIndex index = requests.accounts();
-    const auto answer =
+    const AccountCode giver = index.find(transfer.from).code();
+    const Account &receiver = index.find(transfer.to);
+    const numira::Money amount = transfer.amount.in(receiver.balance().code());
+    const QDate today = foundation::today();
+    const auto offered =
         requests.ask(&Navigator::showMoneyTransfer, &Navigator::onPrepareShowMoneyTransfer);
-    const AccountCode source = index.find(transfer.from).code();
-    const accounting::Account &target = index.find(transfer.to);
-    if (!holds(std::get<0>(answer), source.number()))
-        throw internal::noTransferFrom(transfer.from);
-    if (!holds(std::get<1>(answer), target.code().number()))
-        throw internal::noTransferTo(transfer.to);
-    // The slot debits its first account, and a debit raises an asset.
-    const TransactionNumber number = postedNumber(requests.change(
-        transactionOutcome, &Navigator::onTransferRequested, target.code().number(),
-        source.number(), transfer.amount.in(target.balance().code()), transfer.description));
-    moveTo(requests, number, transfer.day);
-    return number;
+    if (transfer.day.value_or(today) == today && holds(std::get<0>(offered), giver.number()) &&
+        holds(std::get<1>(offered), receiver.code().number())) {
+        // The slot debits its first account.
+        return postedNumber(requests.change(transactionOutcome, &Navigator::onTransferRequested,
+                                            receiver.code().number(), giver.number(), amount,
+                                            transfer.description));
+    }
+    return post(requests, Transaction(transfer.day.value_or(today), receiver.code(), giver, amount,
+                                      Description::of(transfer.description).text()));
+}
+
+TransactionNumber spend(Requests &requests, const Spent &spent)
+{
+    const AccountIndex index = requests.accounts();
+    const Account &on = index.find(spent.on);
+    if (on.type() != AccountTypes::Expense && !(isItemAccount(on) && keepsMoney(on)))
+        throw internal::notSpentOn(index.plainName(on.code().number()));
+    const Account &from = payingAccount(requests, index, spent.from, on);
+    if (!keepsMoney(from))
+        throw internal::keepsNoMoney(index.plainName(from.code().number()));
+    return post(requests, Transaction(spent.day.value_or(foundation::today()), on.code(),
+                                      from.code(), spent.amount.in(from.balance().code()),
+                                      Description{spent.payee, spent.reason, {}}.text()));
+}
+
+TransactionNumber earn(Requests &requests, const Earned &earned)
+{
+    const AccountIndex index = requests.accounts();
+    const Account &from = index.find(earned.from);
+    if (from.type() != AccountTypes::Income)
+        throw internal::notEarnedFrom(index.plainName(from.code().number()));
+    const Account &to = payingAccount(requests, index, earned.to, from);
+    if (!keepsMoney(to))
+        throw internal::keepsNoMoney(index.plainName(to.code().number()));
+    return post(requests, Transaction(earned.day.value_or(foundation::today()), to.code(),
+                                      from.code(), earned.amount.in(to.balance().code()),
+                                      Description{earned.payee, earned.reason, {}}.text()));
+}
+
+std::optional<AccountNumber> paidFrom(Requests &requests, const Account &item)
+{
+    const AccountIndex index = requests.accounts();
+    const auto usable = [&index](AccountNumber number) {
+        const Account *account = index.find(number);
+        return account && !account->isClosed() && keepsMoney(*account);
+    };
+    std::pair<QDate, TransactionNumber> newest;
+    std::optional<AccountNumber> paying;
+    const AccountNumber own = item.code().number();
+    for (const Transaction &transaction : item.transactions()) {
+        const std::pair place(transaction.occurredOn(), transaction.number().value());
+        const AccountNumber other = transaction.debiting().number() == own
+                                        ? transaction.crediting().number()
+                                        : transaction.debiting().number();
+        if ((!paying || newest < place) && usable(other)) {
+            newest = place;
+            paying = other;
+        }
+    }
+    if (paying)
+        return paying;
+    std::set<AccountNumber> checking;
+    const banking::BankMap banks = requests.banks();
+    for (const banking::BankName &name : banks.names()) {
+        for (const auto &[number, type] : banks.bank(name).accounts()) {
+            if (type == banking::BankAccountTypes::Checking && usable(number))
+                checking.insert(number);
+        }
+    }
+    return checking.empty() ? std::nullopt : std::optional(*checking.begin());
 }
 
 TransactionNumber refund(Requests &requests, TransactionNumber number, const Amount &amount,

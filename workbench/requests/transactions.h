@@ -12,21 +12,53 @@ namespace kiv::workbench {
 KIV_WORKBENCH_EXPORT accounting::TransactionNumber post(Requests &requests,
                                                         const accounting::Transaction &transaction);
 
-/// A transfer between two accounts of banks, as typed.
+/// Money that moves from one account to another, as typed. The receiver is debited and the
+/// giver credited, whatever their kinds: a card, a loan, a goal, a cash box.
 struct Transfer {
-    QString from;             ///< the account that the money leaves: number, name or path
-    QString to;               ///< the account that it goes to
-    Amount amount;            ///< that moves
+    QString from;             ///< the account that gives: number, name, path or item
+    QString to;               ///< the account that receives
+    Amount amount;            ///< that moves, in the currency of the receiver
     QString description;      ///< what it is for
     std::optional<QDate> day; ///< without one, the real day
 };
 
-/// Posts the transfer in the currency of the account that the money goes to, and returns
-/// its number. Throws a Refusal for an account that does not exist or has no transfers, and
-/// an EntryError for an amount with too many decimals. If moving it to the day is refused,
-/// the transfer stays.
+/// Posts the transfer, and returns its number. Throws a Refusal, also for an account that
+/// does not exist, and an EntryError for an amount with too many decimals.
 KIV_WORKBENCH_EXPORT accounting::TransactionNumber transfer(Requests &requests,
                                                             const Transfer &transfer);
+
+/// Money that was spent, as typed.
+struct Spent {
+    Amount amount;            ///< in the currency of the account that it left
+    QString from;             ///< that account: an asset or a liability; empty for paidFrom()
+    QString on;               ///< a budget item, except a wage, or an expense account
+    QString payee = {};       ///< who got it
+    QString reason = {};      ///< what it was for
+    std::optional<QDate> day; ///< without one, the real day
+};
+
+/// Posts what was spent, and returns its number. Throws a Refusal, also for an account that
+/// does not exist or does not fit, and an EntryError for an amount with too many decimals.
+KIV_WORKBENCH_EXPORT accounting::TransactionNumber spend(Requests &requests, const Spent &spent);
+
+/// Money that was earned, as typed.
+struct Earned {
+    Amount amount;            ///< in the currency of the account that it came to
+    QString to;               ///< that account: an asset or a liability; empty for paidFrom()
+    QString from;             ///< a wage or an income account
+    QString payee = {};       ///< who gave it
+    QString reason = {};      ///< what it was for
+    std::optional<QDate> day; ///< without one, the real day
+};
+
+/// Posts what was earned, and returns its number. Throws as spend() does.
+KIV_WORKBENCH_EXPORT accounting::TransactionNumber earn(Requests &requests, const Earned &earned);
+
+/// The account from which something is paid, or to which a wage comes: the asset or liability
+/// that was on the other side of its newest transaction; else the first open checking account
+/// of a bank. None if there is none.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<accounting::AccountNumber>
+paidFrom(Requests &requests, const accounting::Account &item);
 
 /// Posts a refund of the transaction in its currency, and returns the refund's number.
 /// Throws a Refusal, also when there is no such transaction, and an EntryError for an amount
@@ -40,13 +72,13 @@ KIV_WORKBENCH_EXPORT accounting::TransactionNumber refund(Requests &requests,
 struct TransactionValues {
     std::optional<QDate> day;           ///< on which it occurred
     std::optional<Amount> amount;       ///< in the currency in which it was entered
-    std::optional<QString> debit;       ///< number, name or path of the account
-    std::optional<QString> credit;      ///< number, name or path of the account
+    std::optional<QString> debit;       ///< the account: number, name, path or item
+    std::optional<QString> credit;      ///< the account: number, name, path or item
     std::optional<QString> description; ///< what it was for
 };
 
-/// Changes the given values. A new description keeps the bank's identifier of the old one,
-/// so that a later import of the statement recognises the transaction. Throws a Refusal,
+/// Changes the given values. A new description keeps the banks' identifiers of the old one,
+/// so that a later import of a statement recognises the transaction. Throws a Refusal,
 /// also when there is no such transaction or account, and an EntryError for an amount with
 /// too many decimals.
 KIV_WORKBENCH_EXPORT void changeTransaction(Requests &requests,

@@ -108,10 +108,8 @@ void SurveyForm::settleGoals(Requests &requests)
     for (auto &[id, amount] : distribution) {
         if (id.type != BudgetItemTypes::Goal)
             continue;
-        const auto answer = requests.ask(&Navigator::lookedUpRefundableTransactions,
-                                         &Navigator::onLookUpRefundableTransactions, id);
-        const AccountNumber number = std::get<accounting::AccountCode>(answer).number();
-        if (const accounting::Account *own = index.find(number))
+        const std::optional<AccountNumber> number = requests.accountOf(id);
+        if (const accounting::Account *own = number ? index.find(*number) : nullptr)
             amount = own->balance();
     }
 }

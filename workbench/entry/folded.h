@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/export.h"
+
+#include <QtCore/QString>
+
+namespace kiv::workbench {
+
+/// The text without case and accents, for comparing: "Café" and "CAFE" become "cafe".
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString folded(const QString &text);
+
+} // namespace kiv::workbench
