@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "desktop/kiv_command.h"
 #include "main_window.h"
 #include "support/preferences_store.h"
 #include "support/scripted_sender.h"
@@ -39,11 +40,12 @@ private:
     }
 };
 
-/// A window on a budget in a temporary folder, with a service that never answers unless a
-/// script says otherwise.
+/// A window on a budget in a temporary folder, with a service that has no rates unless a
+/// script says otherwise. One that never answers keeps a test waiting as it keeps the window's
+/// event loop.
 class HouseholdWindow {
 public:
-    explicit HouseholdWindow(ScriptedSender::Script script = ScriptedSender::silence(),
+    explicit HouseholdWindow(ScriptedSender::Script script = ScriptedSender::json("{}"),
                              bool showsTerms = false)
         : m_settings(m_folder.filePath(QStringLiteral("window.ini"))),
           m_document({[script = std::move(script)] {
@@ -62,6 +64,13 @@ public:
     [[nodiscard]] kiv::desktop::WindowSettings &settings() noexcept { return m_settings; }
     [[nodiscard]] ScriptedQuestions &questions() noexcept { return m_questions; }
 
+    /// Opens the household at the end of February; see KivCommand::makeHousehold().
+    void openHousehold()
+    {
+        const QString file = path(QStringLiteral("household.budget"));
+        KivCommand(file).makeHousehold();
+        QVERIFY(m_window.open(file));
+    }
     /// Shows the window, as tests of keys need it.
     void show()
     {

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/accessibility.h"
+
+#include "widgets/colours.h"
+
+#include <QtGui/QAccessible>
+#include <QtGui/QKeySequence>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+
+namespace kiv::test {
+namespace {
+
+QString described(const QWidget &widget)
+{
+    return QString::fromLatin1(widget.metaObject()->className()) + u' ' + widget.objectName();
+}
+
+/// Whether Tab stops here.
+bool isStop(const QWidget &widget)
+{
+    return widget.isVisible() && widget.isEnabled() &&
+           (widget.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget.focusProxy();
+}
+
+QList<QWidget *> within(QWidget &root)
+{
+    QList<QWidget *> widgets = root.findChildren<QWidget *>();
+    widgets.prepend(&root);
+    return widgets;
+}
+
+void judgeCells(const QAbstractItemView &view, QStringList &faults)
+{
+    const QAbstractItemModel *model = view.model();
+    if (!model)
+        return;
+    const auto says = [](const QVariant &text, const QVariant &spoken) {
+        return !spoken.toString().trimmed().isEmpty() || !text.toString().trimmed().isEmpty();
+    };
+    const auto *table = qobject_cast<const QTableView *>(&view);
+    const auto *tree = qobject_cast<const QTreeView *>(&view);
+    const auto isHidden = [&](int column) {
+        return (table && table->isColumnHidden(column)) || (tree && tree->isColumnHidden(column));
+    };
+    for (int column = 0; column < model->columnCount(); ++column) {
+        if (isHidden(column))
+            continue;
+        const bool hasHeader =
+            (table && !table->horizontalHeader()->isHidden()) || (tree && !tree->isHeaderHidden());
+        if (hasHeader && !says(model->headerData(column, Qt::Horizontal),
+                               model->headerData(column, Qt::Horizontal, Qt::AccessibleTextRole)))
+            faults += described(view) + QStringLiteral(": header %1 is empty").arg(column);
+        for (int row = 0; row < std::min(model->rowCount(), 30); ++row) {
+            const QModelIndex cell = model->index(row, column);
+            if (!says(cell.data(Qt::DisplayRole), cell.data(Qt::AccessibleTextRole)))
+                faults +=
+                    described(view) + QStringLiteral(": cell %1,%2 is empty").arg(row).arg(column);
+        }
+    }
+}
+
+} // namespace
+
+QStringList nameless(QWidget &root)
+{
+    QStringList faults;
+    for (QWidget *widget : within(root)) {
+        if (isStop(*widget)) {
+            QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(widget);
+            const QString name = spoken ? spoken->text(QAccessible::Name) : QString();
+            if (name.trimmed().isEmpty() ||
+                name == QString::fromLatin1(widget->metaObject()->className()))
+                faults += described(*widget) + QStringLiteral(": no name");
+        }
+        if (const auto *view = qobject_cast<QAbstractItemView *>(widget); view && view->isVisible())
+            judgeCells(*view, faults);
+    }
+    return faults;
+}
+
+QStringList mnemonicsTwice(QWidget &root)
+{
+    std::map<QString, QStringList> claims;
+    for (const QWidget *widget : within(root)) {
+        if (!widget->isVisible())
+            continue;
+        QString text;
+        if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
+            text = label->text();
+        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            text = button->text();
+        else if (const auto *group = qobject_cast<const QGroupBox *>(widget))
+            text = group->title();
+        const QKeySequence letter = QKeySequence::mnemonic(text);
+        if (!letter.isEmpty())
+            claims[letter.toString()] += text;
+        if (const auto *bar = qobject_cast<const QMenuBar *>(widget)) {
+            for (const QAction *menu : bar->actions())
+                claims[QKeySequence::mnemonic(menu->text()).toString()] += menu->text();
+        }
+    }
+    QStringList faults;
+    for (const auto &[letter, texts] : claims) {
+        if (texts.size() > 1)
+            faults += letter + QStringLiteral(": ") + texts.join(QStringLiteral(" and "));
+    }
+    return faults;
+}
+
+QStringList unreached(QWidget &root, QWidget &first)
+{
+    QSet<QWidget *> wanted;
+    for (QWidget *widget : within(root)) {
+        if (isStop(*widget))
+            wanted.insert(widget);
+    }
+    QStringList faults;
+    first.setFocus(Qt::TabFocusReason);
+    QSet<QWidget *> reached;
+    for (QWidget *at = QApplication::focusWidget(); at && !wanted.isEmpty();
+         at = QApplication::focusWidget()) {
+        if (reached.contains(at))
+            break;
+        reached.insert(at);
+        wanted.remove(at);
+        QTest::keyClick(at, Qt::Key_Tab, Qt::ControlModifier); // tables keep a plain Tab
+        if (QApplication::focusWidget() == at)
+            QTest::keyClick(at, Qt::Key_Tab);
+    }
+    for (const QWidget *widget : wanted)
+        faults += described(*widget) + QStringLiteral(": Tab does not reach it");
+    return faults;
+}
+
+QStringList pale(const QPalette &palette)
+{
+    using desktop::Colour;
+    constexpr double wanted = 4.5;
+    QStringList faults;
+    const auto judge = [&](const QString &what, const QColor &front, const QColor &back) {
+        if (desktop::contrast(front, back) < wanted)
+            faults += QStringLiteral("%1: %2 on %3").arg(what, front.name(), back.name());
+    };
+    for (const auto &[front, back] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                      {QPalette::Text, QPalette::Base},
+                                      {QPalette::Text, QPalette::AlternateBase},
+                                      {QPalette::ButtonText, QPalette::Button},
+                                      {QPalette::HighlightedText, QPalette::Highlight},
+                                      {QPalette::PlaceholderText, QPalette::Base},
+                                      {QPalette::Link, QPalette::Window},
+                                      {QPalette::ToolTipText, QPalette::ToolTipBase}})
+        judge(QStringLiteral("palette %1").arg(front), palette.color(front), palette.color(back));
+    for (const Colour meaning : {Colour::Faint, Colour::Negative, Colour::Good, Colour::Warning,
+                                 Colour::Wrong, Colour::Heading}) {
+        for (const QPalette::ColorRole back :
+             {QPalette::Base, QPalette::Window, QPalette::AlternateBase})
+            judge(QStringLiteral("colour %1").arg(static_cast<int>(meaning)),
+                  desktop::colour(meaning, palette), palette.color(back));
+    }
+    judge(QStringLiteral("notice"), palette.color(QPalette::WindowText),
+          desktop::colour(Colour::NoticeBack, palette));
+    return faults;
+}
+
+} // namespace kiv::test

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtTest/QtTest>
+
+/// Runs `kiv` on a budget file, with settings of its own in the file's folder.
+class KivCommand {
+public:
+    explicit KivCommand(QString file) : m_file(std::move(file))
+    {
+        const QString folder = QFileInfo(m_file).absolutePath();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("KIV_FILE"), m_file);
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        environment.remove(QStringLiteral("LANGUAGE"));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder + QStringLiteral("/config"));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder + QStringLiteral("/data"));
+        m_process.setProcessEnvironment(environment);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    }
+
+    /// What the command with these words prints. Anything but success ends the test program.
+    QByteArray run(const QStringList &words, const QByteArray &input = {})
+    {
+        m_process.start(QStringLiteral(KIV_COMMAND), words);
+        m_process.write(input);
+        m_process.closeWriteChannel();
+        m_process.waitForFinished(60'000);
+        if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
+            qFatal("kiv %s failed", qPrintable(words.join(u' ')));
+        return m_process.readAllStandardOutput();
+    }
+    /// Runs the lines in one session.
+    QByteArray runLines(const QByteArray &lines) { return run({QStringLiteral("shell")}, lines); }
+    /// Makes the file, with the household that docs/domain.md works out, as it is at the end
+    /// of February.
+    void makeHousehold()
+    {
+        run({QStringLiteral("new")});
+        QFile lines(QStringLiteral(KIV_HOUSEHOLD));
+        if (!lines.open(QIODevice::ReadOnly))
+            qFatal("The household is missing.");
+        runLines(lines.readAll());
+    }
+
+private:
+    QString m_file;
+    QProcess m_process;
+};

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/accessibility.h"
+#include "desktop/household_window.h"
+
+#include "workbench/entry/user_locale.h"
+
+#include <QtCore/QTranslator>
+#include <QtWidgets/QtWidgets>
+
+using namespace kiv;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A language whose texts are half as long again, with the letters of others.
+class LongLanguage final : public QTranslator {
+public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        const QString source = QString::fromUtf8(text);
+        return u'Å' + source + QString(source.size() / 2, u'ö');
+    }
+};
+
+} // namespace
+
+/// What people need who use keys alone, or who cannot see.
+class TestAccessibility : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theJudgesSeeWhatIsWrong()
+    {
+        QWidget form;
+        auto *layout = new QVBoxLayout(&form);
+        auto *unnamed = new QLineEdit(&form);
+        layout->addWidget(unnamed);
+        for (const QString &text : {u"&Pay"_s, u"&Post"_s})
+            layout->addWidget(new QPushButton(text, &form));
+        auto *table = new QTableWidget(1, 1, &form);
+        layout->addWidget(table);
+        auto *unreachable = new QLineEdit(&form);
+        unreachable->setAccessibleName(u"Last"_s);
+        layout->addWidget(unreachable);
+        // A field that sends its Tab back to itself hides what follows.
+        QWidget::setTabOrder(unreachable, unnamed);
+        form.show();
+        QApplication::setActiveWindow(&form);
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QCOMPARE(mnemonicsTwice(form), QStringList{u"Alt+P: &Pay and &Post"_s});
+        const QStringList names = nameless(form);
+        QVERIFY2(names.contains(u"QLineEdit : no name"_s), qPrintable(names.join(u'\n')));
+        QVERIFY2(names.contains(u"QTableWidget : cell 0,0 is empty"_s),
+                 qPrintable(names.join(u'\n')));
+        QPalette grey;
+        grey.setColor(QPalette::WindowText, QColor(0x80, 0x80, 0x80));
+        grey.setColor(QPalette::Window, QColor(0xa0, 0xa0, 0xa0));
+        QVERIFY(!pale(grey).isEmpty());
+        QVERIFY(unreached(form, *unnamed).isEmpty());
+        unnamed->installEventFilter(this);
+        QVERIFY(!unreached(form, *unnamed).isEmpty());
+    }
+
+    void bothPalettesCanBeRead()
+    {
+        using desktop::Appearance;
+        for (const Appearance appearance : {Appearance::Light, Appearance::Dark})
+            QCOMPARE(pale(desktop::paletteFor(appearance, {})), QStringList());
+    }
+
+    void everyPageHasNamesAndKeys_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char *locale : {"C.UTF-8", "de_DE.UTF-8", "es_ES.UTF-8", "long"})
+            QTest::newRow(locale) << QString::fromLatin1(locale);
+    }
+    void everyPageHasNamesAndKeys()
+    {
+        QFETCH(QString, locale);
+        LongLanguage longLanguage;
+        if (locale == u"long") {
+            QCoreApplication::installTranslator(&longLanguage);
+        } else {
+            qputenv("LC_MESSAGES", locale.toLatin1());
+            qunsetenv("LC_ALL");
+            workbench::speakAsUser(*qApp);
+        }
+        HouseholdWindow desk;
+        desk.openHousehold();
+        desk.show();
+        QStringList faults;
+        const auto note = [&faults](const QString &page, const QStringList &found) {
+            for (const QString &fault : found)
+                faults += page + QStringLiteral(": ") + fault;
+        };
+        for (desktop::Page *page : desk.window().pages()) {
+            desk.window().goTo({page->id(), {}});
+            note(page->id(), nameless(desk.window()));
+            note(page->id(), mnemonicsTwice(desk.window()));
+            note(page->id(), unreached(*page, *page->firstFocus()));
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+protected:
+    /// Keeps all keys.
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        return event->type() == QEvent::KeyPress;
+    }
+};
+
+static const kiv::test::Suite<TestAccessibility> suite;
+
+#include "tst_accessibility.moc"

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/geometry.h"
+#include "desktop/household_window.h"
+
+#include <QtWidgets/QtWidgets>
+
+using namespace kiv;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+
+/// Nothing is cut off or lies over another. With KIV_PICTURES, the name of a folder, it also
+/// writes pictures of all pages for people to look at.
+class TestLooks : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theJudgeSeesWhatIsWrong()
+    {
+        QWidget form;
+        auto *layout = new QGridLayout(&form);
+        auto *narrow = new QPushButton(u"A long text on a button"_s, &form);
+        narrow->setFixedWidth(20);
+        layout->addWidget(narrow, 0, 0);
+        layout->addWidget(new QPushButton(u"Over"_s, &form), 1, 0);
+        layout->addWidget(new QPushButton(u"Under"_s, &form), 1, 0);
+        auto *lost = new QPushButton(u"Lost"_s, &form);
+        form.show();
+        lost->move(form.width(), 0);
+        lost->show();
+        QCOMPARE(misfits(form).size(), 3);
+    }
+
+    void allPagesFit_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<bool>("isDark");
+        QTest::addColumn<bool>("isFromRight");
+        const QSize small(1024, 600);
+        const QSize large(1366, 768);
+        QTest::newRow("light") << small << 100 << false << false;
+        QTest::newRow("dark") << small << 100 << true << false;
+        QTest::newRow("light, double text") << large << 200 << false << false;
+        QTest::newRow("dark, double text") << large << 200 << true << false;
+        QTest::newRow("from right to left") << small << 100 << false << true;
+        QTest::newRow("from right to left, double text") << large << 200 << false << true;
+    }
+    void allPagesFit()
+    {
+        QFETCH(QSize, size);
+        QFETCH(int, percent);
+        QFETCH(bool, isDark);
+        QFETCH(bool, isFromRight);
+        QApplication::setLayoutDirection(isFromRight ? Qt::RightToLeft : Qt::LeftToRight);
+        const QFont usual = QApplication::font();
+        const auto back = qScopeGuard([&usual] { QApplication::setFont(usual); });
+        HouseholdWindow desk;
+        desk.openHousehold();
+        for (int step = 100; step < percent; step += 10)
+            desk.trigger("larger");
+        desk.trigger(isDark ? "lookDark" : "lookLight");
+        desk.window().resize(size);
+        desk.show();
+        QStringList faults;
+        for (desktop::Page *page : desk.window().pages()) {
+            desk.window().goTo({page->id(), {}});
+            QCoreApplication::processEvents();
+            for (const QString &fault : misfits(desk.window()))
+                faults += page->id() + QStringLiteral(": ") + fault;
+            picture(desk.window(), page->id());
+        }
+        QVERIFY2(desk.window().size() == size, "The window grows beyond the screen.");
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+private:
+    static void picture(QWidget &window, const QString &page)
+    {
+        const QString folder = qEnvironmentVariable("KIV_PICTURES");
+        if (!folder.isEmpty())
+            QVERIFY(window.grab().save(
+                u"%1/%2, %3.png"_s.arg(folder, page, QString::fromUtf8(QTest::currentDataTag()))));
+    }
+};
+
+static const kiv::test::Suite<TestLooks> suite;
+
+#include "tst_looks.moc"
