@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/all_pages.h"
 
+#include "pages/accounts_page.h"
+#include "pages/due_page.h"
+
 namespace kiv::desktop {
 
-std::vector<Page *> makePages(Desk &)
+std::vector<Page *> makePages(Desk &desk)
 {
-    return {};
+    return {
+        new AccountsPage(desk),
+        new DuePage(desk),
+    };
 }
 
 } // namespace kiv::desktop

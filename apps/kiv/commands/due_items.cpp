@@ -15,7 +15,6 @@ using budgeting::BudgetedMoney;
 using budgeting::BudgetItemAmountDue;
 using budgeting::BudgetItemDueIdentifier;
 using budgeting::BudgetItemTypes;
-using navigation::Navigator;
 
 namespace {
 
@@ -66,13 +65,8 @@ struct ListDue {
             row.insert(QStringLiteral("inDays"), due.id.dueOn.toJulianDay() - today);
             rows.append(row);
         }
-        const auto when = [](const QJsonValue &inDays) {
-            const qint64 days = inDays.toInteger();
-            if (days < 0)
-                return QObject::tr("%n days late", nullptr, static_cast<int>(-days));
-            if (days > 1)
-                return QObject::tr("in %n days", nullptr, static_cast<int>(days));
-            return days == 0 ? QObject::tr("today") : QObject::tr("tomorrow");
+        const auto when = [day = call.date()](const QJsonValue &inDays) {
+            return workbench::whenText(day.addDays(inDays.toInteger()), day);
         };
         return Report::listing({{QObject::tr("Due"), QStringLiteral("due"), dayText},
                                 {QObject::tr("Item"), QStringLiteral("name")},
@@ -114,16 +108,13 @@ struct PostDue {
         Report report;
         const BudgetView view(requests);
         for (const BudgetItemAmountDue &due : chosen(call, view)) {
-            workbench::refuseShadowed(view.budget(), due.id);
-            for (const auto &[id, number] :
-                 requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemPosted, due,
-                                 code, call.date())) {
-                rows.append(postedJson(requests, number.value(), id));
-                report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
-                                .arg(kindText(id.type), id.source.name(),
-                                     foundation::presentationText(due.id.dueOn),
-                                     amountText(toJson(due.amount), requests.displayAs())));
-            }
+            const auto &[id, number] =
+                workbench::payDue(requests, view.budget(), due, code, call.date());
+            rows.append(postedJson(requests, number, id));
+            report.line(QObject::tr("Posted the %1 '%2', due on %3: %4.")
+                            .arg(kindText(id.type), id.source.name(),
+                                 foundation::presentationText(due.id.dueOn),
+                                 amountText(toJson(due.amount), requests.displayAs())));
         }
         if (rows.isEmpty())
             report.line(QObject::tr("Nothing is due."));
@@ -166,11 +157,8 @@ struct PayUnexpected {
         const BudgetItemAmountDue due = item.due(BudgetView(requests));
         const numira::Money money = amount.in(due.amount.code());
         const accounting::AccountCode code = requests.accounts().find(account).code();
-        const auto answers =
-            requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemPostedUnexpected,
-                            due.id, money, code, call.date());
-        const auto &[id, number] = answers.front();
-        return Report(postedJson(requests, number.value(), id))
+        const auto [id, number] = workbench::payExtra(requests, due.id, money, code, call.date());
+        return Report(postedJson(requests, number, id))
             .line(QObject::tr("Posted %1 for the %2 '%3', which is still due on %4.")
                       .arg(amountText(toJson(money), requests.displayAs()), kindText(id.type),
                            id.source.name(), foundation::presentationText(due.id.dueOn)));
@@ -185,8 +173,7 @@ struct SkipDue {
     {
         const BudgetView before(call.requests);
         const BudgetItemAmountDue due = item.due(before);
-        workbench::refuseShadowed(before.budget(), due.id);
-        call.requests.change(workbench::dueOutcome, &Navigator::onPostBudgetItemSkipped, due.id);
+        workbench::skipDue(call.requests, before.budget(), due.id);
         const BudgetView view(call.requests);
         const BudgetedMoney &skipped = view.find(item.name, due.id.type);
         return Report(toJson(skipped, view))

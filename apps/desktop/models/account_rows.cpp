@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/account_rows.h"
+
+#include "workbench/requests/account_groups.h"
+
+#include "foundation/presentation.h"
+
+#include <array>
+
+namespace kiv::desktop {
+
+using accounting::AccountNumber;
+using workbench::AccountGroup;
+using workbench::GroupedAccount;
+
+namespace {
+
+QString groupText(AccountGroup group)
+{
+    static constexpr std::array texts{
+        QT_TRANSLATE_NOOP("QObject", "At banks and in cash"),
+        QT_TRANSLATE_NOOP("QObject", "Cards and loans"),
+        QT_TRANSLATE_NOOP("QObject", "Set aside for goals"),
+        QT_TRANSLATE_NOOP("QObject", "Items of the budget"),
+        QT_TRANSLATE_NOOP("QObject", "Everything else"),
+    };
+    return QObject::tr(texts.at(static_cast<std::size_t>(group) - 1));
+}
+
+/// What a row tells beside its account.
+struct Known {
+    std::map<AccountNumber, QDate> reconciledOn;
+    std::map<AccountNumber, bool> holds;
+    workbench::AccountIndex index;
+    navigation::CurrencyDisplayOptions displayAs{};
+};
+
+Cell reconciledCell(AccountNumber number, const Known &known)
+{
+    const auto day = known.reconciledOn.find(number);
+    if (day == known.reconciledOn.end())
+        return {};
+    const auto holds = known.holds.find(number);
+    if (holds == known.holds.end() || holds->second)
+        return dayCell(day->second);
+    return {QObject::tr("%1, changed since").arg(dayCell(day->second).text),
+            {},
+            false,
+            Colour::Warning};
+}
+
+Row rowOf(const GroupedAccount &one, const Known &known, bool showsTerms)
+{
+    const AccountNumber number = one.account.code().number();
+    const QString name =
+        one.account.isClosed() ? QObject::tr("%1 (closed)").arg(one.name) : one.name;
+    const bool isShared = one.whole != one.account.balance();
+    Row row{keyOf(number),
+            {{name},
+             {one.bank ? one.bank->institution() : QString()},
+             amountCell(one.account.balance(), known.displayAs),
+             isShared ? amountCell(one.whole, known.displayAs) : Cell{{}, {}, true},
+             reconciledCell(number, known)}};
+    if (showsTerms) {
+        row.cells.push_back({keyOf(number)});
+        row.cells.push_back({known.index.path(number)});
+        row.cells.push_back({accounting::presentationText(one.account.type())});
+    }
+    return row;
+}
+
+} // namespace
+
+QString keyOf(AccountNumber number)
+{
+    return QString::number(number.integer());
+}
+
+QStringList accountColumns(bool showsTerms)
+{
+    QStringList columns{QObject::tr("Account"), QObject::tr("Bank"), QObject::tr("Balance"),
+                        QObject::tr("With goals under it"), QObject::tr("Last reconciled")};
+    if (showsTerms)
+        columns << QObject::tr("Number") << QObject::tr("Path") << QObject::tr("Kind");
+    return columns;
+}
+
+std::vector<Row> accountRows(workbench::Document &document, bool showsTerms)
+{
+    const storage::BudgetStorage::Data data = document.present();
+    Known known{{},
+                document.reconciledAccounts(),
+                document.requests().accounts(),
+                document.requests().displayAs()};
+    for (const auto &[account, survey] : data.surveys) {
+        if (const std::optional<QDate> day = survey.reconciled().reconciledOn())
+            known.reconciledOn.emplace(account.account.number, *day);
+    }
+    std::vector<Row> rows;
+    std::optional<AccountGroup> group;
+    for (const GroupedAccount &one : workbench::groupedAccounts(data)) {
+        // What accounts were opened with is of no use to a household.
+        const AccountNumber number = one.account.code().number();
+        if (!showsTerms && data.generalLedger.ledger(number).holdsOpenings())
+            continue;
+        if (group != one.group) {
+            group = one.group;
+            const QString text = groupText(*group);
+            rows.push_back({QStringLiteral("group ") + QString::number(static_cast<int>(*group)),
+                            {{text}},
+                            true});
+        }
+        rows.push_back(rowOf(one, known, showsTerms));
+    }
+    return rows;
+}
+
+} // namespace kiv::desktop

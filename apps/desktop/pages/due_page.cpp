@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pages/due_page.h"
+
+#include "widgets/allow.h"
+#include "widgets/table.h"
+
+#include "workbench/entry/values.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace kiv::desktop {
+
+using workbench::DueLine;
+
+DuePage::DuePage(Desk &desk)
+    : Page(desk, QStringLiteral("due"), tr("Due")),
+      m_model(new TableModel(dueColumns(), this)),
+      m_table(new Table(*m_model, tr("What is due"), this)),
+      m_summary(new QLabel(this)),
+      m_form(new QWidget(this)),
+      m_account(new QComboBox(m_form)),
+      m_day(new QLineEdit(m_form)),
+      m_amount(new QLineEdit(m_form)),
+      m_isExtra(new QCheckBox(tr("&In addition: it stays due"), m_form)),
+      m_pay(new QPushButton(tr("&Pay"), m_form)),
+      m_skip(new QPushButton(tr("S&kip"), m_form)),
+      m_payAmount(new QPushButton(tr("Pay t&his amount"), m_form)),
+      m_message(new FieldMessage(this)),
+      m_deeds(desk)
+{
+    build();
+    connect(m_table, &Table::chosenChanged, this, &DuePage::follow);
+    connect(m_table, &Table::opened, this, [this] { m_pay->setFocus(Qt::OtherFocusReason); });
+    connect(m_account, &QComboBox::activated, this, &DuePage::sayAccount);
+    connect(m_pay, &QPushButton::clicked, this, &DuePage::pay);
+    connect(m_skip, &QPushButton::clicked, this, &DuePage::skip);
+    connect(m_payAmount, &QPushButton::clicked, this, &DuePage::payAmount);
+    connect(m_amount, &QLineEdit::returnPressed, this, &DuePage::payAmount);
+    connect(m_day, &QLineEdit::returnPressed, this, &DuePage::pay);
+}
+
+void DuePage::build()
+{
+    m_summary->setTextFormat(Qt::PlainText);
+    m_summary->setWordWrap(true);
+    m_table->chooseSeveral();
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_summary);
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_message);
+    layout->addWidget(m_form);
+    auto *form = new QGridLayout(m_form);
+    form->setContentsMargins(0, 0, 0, 0);
+    addForm(*form);
+}
+
+void DuePage::addForm(QGridLayout &form)
+{
+    const auto addField = [&](int row, int column, const QString &text, QWidget *field) {
+        auto *label = new QLabel(text, m_form);
+        label->setBuddy(field);
+        form.addWidget(label, row, column);
+        form.addWidget(field, row, column + 1);
+    };
+    m_account->setObjectName(QStringLiteral("account"));
+    m_day->setObjectName(QStringLiteral("day"));
+    m_amount->setObjectName(QStringLiteral("amount"));
+    m_pay->setObjectName(QStringLiteral("pay"));
+    m_skip->setObjectName(QStringLiteral("skip"));
+    m_payAmount->setObjectName(QStringLiteral("payAmount"));
+    addField(0, 0, tr("&Account:"), m_account);
+    addField(0, 2, tr("On the da&y:"), m_day);
+    form.addWidget(m_pay, 0, 4);
+    form.addWidget(m_skip, 0, 5);
+    addField(1, 0, tr("Another a&mount:"), m_amount);
+    form.addWidget(m_isExtra, 1, 2, 1, 2);
+    form.addWidget(m_payAmount, 1, 4, 1, 2);
+    form.setColumnStretch(1, 1);
+    form.setColumnStretch(3, 1);
+}
+
+void DuePage::goTo(const QString &detail)
+{
+    m_table->choose(detail);
+}
+
+QString DuePage::detail() const
+{
+    const QStringList keys = m_table->chosen();
+    return keys.size() == 1 ? keys.first() : QString();
+}
+
+QWidget *DuePage::firstFocus()
+{
+    return m_table;
+}
+
+void DuePage::refresh()
+{
+    m_due = shownDue(desk().document(), m_said);
+    m_summary->setText(dueSummary(m_due));
+    m_model->setRows(dueRows(m_due));
+    const bool isEmpty = m_due.list.lines.empty();
+    m_table->setVisible(!isEmpty);
+    m_form->setVisible(!isEmpty);
+    m_message->withdraw();
+    if (!m_day->isModified())
+        m_day->setText(foundation::presentationText(m_due.today));
+    m_account->clear();
+    for (const auto &[number, name] : m_due.payers)
+        m_account->addItem(name, number.integer());
+    m_table->settle();
+    follow();
+}
+
+std::vector<DueLine> DuePage::chosen() const
+{
+    const QStringList keys = m_table->chosen();
+    std::vector<DueLine> lines;
+    for (const DueLine &line : m_due.list.lines) {
+        if (keys.contains(keyOf(line.due.id.item())))
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+void DuePage::follow()
+{
+    const std::vector<DueLine> lines = chosen();
+    std::optional<QString> whyNot = desk().whyNoChange();
+    if (!whyNot && lines.empty())
+        whyNot = tr("No line is chosen.");
+    std::optional<QString> whyNoAmount = whyNot;
+    if (!whyNoAmount && lines.size() > 1)
+        whyNoAmount = tr("Another amount is for one line.");
+    for (QWidget *widget : {static_cast<QWidget *>(m_account), static_cast<QWidget *>(m_day),
+                            static_cast<QWidget *>(m_pay), static_cast<QWidget *>(m_skip)})
+        allow(*widget, whyNot);
+    for (QWidget *widget : {static_cast<QWidget *>(m_amount), static_cast<QWidget *>(m_isExtra),
+                            static_cast<QWidget *>(m_payAmount)})
+        allow(*widget, whyNoAmount);
+    // Several lines show the account that all of them have.
+    int place = -1;
+    if (!lines.empty() && lines.front().account) {
+        const auto account = lines.front().account;
+        const bool isSame = std::ranges::all_of(
+            lines, [&account](const DueLine &line) { return line.account == account; });
+        place = isSame ? m_account->findData(account->integer()) : -1;
+    }
+    m_account->setCurrentIndex(place);
+}
+
+void DuePage::sayAccount()
+{
+    const accounting::AccountNumber number(m_account->currentData().toUInt());
+    for (const DueLine &line : chosen())
+        m_said[line.due.id.item()] = number;
+    refresh();
+}
+
+template <typename Value>
+bool DuePage::read(QLineEdit &field, Value &value)
+{
+    try {
+        workbench::readValue(field.text().trimmed(), value);
+        return true;
+    } catch (const foundation::Error &error) {
+        m_message->complain(&field, workbench::userText(error));
+        return false;
+    }
+}
+
+std::optional<QDate> DuePage::day()
+{
+    QDate day;
+    return read(*m_day, day) ? std::optional(day) : std::nullopt;
+}
+
+void DuePage::pay()
+{
+    if (const auto on = day())
+        m_deeds.pay({*m_message, m_pay}, chosen(), *on);
+}
+
+void DuePage::skip()
+{
+    m_deeds.skip({*m_message, m_skip}, chosen());
+}
+
+void DuePage::payAmount()
+{
+    std::vector<DueLine> lines = chosen();
+    workbench::Amount amount;
+    const std::optional<QDate> on = day();
+    if (!on || lines.size() != 1 || !read(*m_amount, amount))
+        return;
+    try {
+        lines.front().due.amount = amount.in(lines.front().due.amount.code());
+    } catch (const foundation::Error &error) {
+        m_message->complain(m_amount, workbench::userText(error));
+        return;
+    }
+    const bool isDone = m_isExtra->isChecked()
+                            ? m_deeds.payExtra({*m_message, m_amount}, lines.front(), *on)
+                            : m_deeds.pay({*m_message, m_amount}, lines, *on);
+    if (isDone) {
+        m_amount->clear();
+        m_isExtra->setChecked(false);
+    }
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pages/due_deeds.h"
+#include "pages/page.h"
+
+QT_BEGIN_NAMESPACE
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+class QPushButton;
+QT_END_NAMESPACE
+
+namespace kiv::desktop {
+
+class Table;
+class TableModel;
+
+/// What is due by day, overdue items first, and what can be done about it.
+class DuePage final : public Page {
+    Q_OBJECT
+
+public:
+    explicit DuePage(Desk &desk);
+
+    /// The item that is chosen, such as "bill:Rent".
+    void goTo(const QString &detail) override;
+    [[nodiscard]] QString detail() const override;
+    [[nodiscard]] QWidget *firstFocus() override;
+
+protected:
+    void refresh() override;
+
+private:
+    void build();
+    void addForm(QGridLayout &form);
+    /// Brings the form in line with the lines that are chosen.
+    void follow();
+    void sayAccount();
+    void pay();
+    void payAmount();
+    void skip();
+    /// Reads a field; a refusal is shown there. Returns whether it could be read.
+    template <typename Value>
+    bool read(QLineEdit &field, Value &value);
+    [[nodiscard]] std::vector<workbench::DueLine> chosen() const;
+    [[nodiscard]] std::optional<QDate> day();
+
+    TableModel *m_model;
+    Table *m_table;
+    QLabel *m_summary;
+    QWidget *m_form;
+    QComboBox *m_account;
+    QLineEdit *m_day;
+    QLineEdit *m_amount;
+    QCheckBox *m_isExtra;
+    QPushButton *m_pay;
+    QPushButton *m_skip;
+    QPushButton *m_payAmount;
+    FieldMessage *m_message;
+    DueDeeds m_deeds;
+    workbench::SaidAccounts m_said;
+    ShownDue m_due;
+};
+
+} // namespace kiv::desktop

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include <optional>
+
+namespace kiv::desktop {
+
+/// Allows a button or a field, or says why it cannot be used now.
+inline void allow(QWidget &widget, const std::optional<QString> &whyNot)
+{
+    widget.setEnabled(!whyNot);
+    widget.setToolTip(whyNot.value_or(QString()));
+    widget.setAccessibleDescription(whyNot.value_or(QString()));
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "widgets/table.h"
+
+#include "models/table_model.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+
+namespace kiv::desktop {
+namespace {
+
+/// So many rows decide how wide a column is: to ask all would take seconds in a long table.
+constexpr int measuredRows = 200;
+
+} // namespace
+
+Table::Table(TableModel &model, const QString &name, QWidget *parent)
+    : QTableView(parent), m_rows(model)
+{
+    setModel(&model);
+    setAccessibleName(name);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setCornerButtonEnabled(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setResizeContentsPrecision(measuredRows);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    setHeights();
+    connect(this, &QTableView::activated, this,
+            [this](const QModelIndex &index) { emit opened(m_rows.key(index)); });
+}
+
+void Table::setHeights()
+{
+    const int height = fontMetrics().height() + fontMetrics().height() / 2;
+    verticalHeader()->setMinimumSectionSize(height);
+    verticalHeader()->setDefaultSectionSize(height);
+    horizontalHeader()->setMaximumSectionSize(fontMetrics().averageCharWidth() * 60);
+}
+
+void Table::chooseSeveral()
+{
+    setSelectionMode(ExtendedSelection);
+}
+
+void Table::fit(int rowsMax)
+{
+    m_fits = rowsMax;
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    updateGeometry();
+}
+
+QStringList Table::chosen() const
+{
+    QModelIndexList rows = selectionModel()->selectedRows();
+    std::ranges::sort(rows, {}, &QModelIndex::row);
+    QStringList keys;
+    for (const QModelIndex &row : rows)
+        keys += m_rows.key(row);
+    return keys;
+}
+
+void Table::choose(const QString &key)
+{
+    if (const int row = m_rows.place(key); row >= 0)
+        setCurrentIndex(m_rows.index(row, 0)); // which chooses it
+}
+
+void Table::settle()
+{
+    updateGeometry();
+    if (selectionModel()->hasSelection())
+        return;
+    // Rows that went leave the current row near their place.
+    int row = std::max(0, currentIndex().row());
+    while (row < m_rows.rowCount() && m_rows.rows()[static_cast<std::size_t>(row)].isHeading)
+        ++row;
+    if (row < m_rows.rowCount())
+        setCurrentIndex(m_rows.index(row, 0));
+}
+
+int Table::heightOf(int rows) const
+{
+    const int header = horizontalHeader()->isVisible() || !isVisible()
+                           ? horizontalHeader()->sizeHint().height()
+                           : 0;
+    return header + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth() +
+           horizontalScrollBar()->sizeHint().height();
+}
+
+QSize Table::sizeHint() const
+{
+    const QSize usual = QTableView::sizeHint();
+    return m_fits ? QSize(usual.width(), heightOf(std::clamp(m_rows.rowCount(), 1, m_fits)))
+                  : usual;
+}
+
+QSize Table::minimumSizeHint() const
+{
+    return {QTableView::minimumSizeHint().width(), m_fits ? sizeHint().height() : heightOf(4)};
+}
+
+void Table::changeEvent(QEvent *event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        setHeights();
+}
+
+void Table::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    emit chosenChanged();
+}
+
+} // namespace kiv::desktop
