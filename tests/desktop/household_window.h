@@ -79,7 +79,7 @@ public:
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
     }
     /// Triggers an action as its keys do.
-    void trigger(const char *action)
+    void trigger(const QByteArray &action)
     {
         m_window.desk().actions().action(QString::fromLatin1(action))->trigger();
     }

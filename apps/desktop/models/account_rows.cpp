@@ -19,7 +19,7 @@ QString groupText(AccountGroup group)
 {
     static constexpr std::array texts{
         QT_TRANSLATE_NOOP("QObject", "At banks and in cash"),
-        QT_TRANSLATE_NOOP("QObject", "Cards and loans"),
+        QT_TRANSLATE_NOOP("QObject", "Owed: cards and loans"),
         QT_TRANSLATE_NOOP("QObject", "Set aside for goals"),
         QT_TRANSLATE_NOOP("QObject", "Items of the budget"),
         QT_TRANSLATE_NOOP("QObject", "Everything else"),

@@ -154,7 +154,9 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return cell.text;
     case Qt::AccessibleTextRole:
-        return column == 0 ? spokenRow(row) : spokenText(cell);
+        if (column == 0 || row.isHeading)
+            return spokenRow(row);
+        return spokenText(cell).isEmpty() ? tr("nothing") : spokenText(cell);
     case Qt::TextAlignmentRole:
         return static_cast<int>((cell.isAmount ? Qt::AlignRight : Qt::AlignLeft) |
                                 Qt::AlignVCenter);
@@ -192,7 +194,9 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
 
 Qt::ItemFlags TableModel::flags(const QModelIndex &index) const
 {
-    if (!index.isValid() || m_rows.at(static_cast<std::size_t>(index.row())).isHeading)
+    if (!index.isValid())
+        return {};
+    if (m_rows.at(static_cast<std::size_t>(index.row())).isHeading)
         return Qt::ItemNeverHasChildren; // not enabled: the keys go on to the next row
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
 }

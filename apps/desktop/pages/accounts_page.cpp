@@ -13,7 +13,7 @@ AccountsPage::AccountsPage(Desk &desk)
     : Page(desk, QStringLiteral("accounts"), tr("Accounts")),
       m_model(new TableModel(accountColumns(desk.showsTerms()), this)),
       m_table(new Table(*m_model, title(), this)),
-      m_open(new QPushButton(tr("Show &transactions"), this)),
+      m_open(new QPushButton(tr("&Show transactions"), this)),
       m_none(new QLabel(tr("There are no accounts yet. They come with banks and with the items "
                            "of the budget."),
                         this))

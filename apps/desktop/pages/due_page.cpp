@@ -32,7 +32,7 @@ DuePage::DuePage(Desk &desk)
       m_isExtra(new QCheckBox(tr("&In addition: it stays due"), m_form)),
       m_pay(new QPushButton(tr("&Pay"), m_form)),
       m_skip(new QPushButton(tr("S&kip"), m_form)),
-      m_payAmount(new QPushButton(tr("Pay t&his amount"), m_form)),
+      m_payAmount(new QPushButton(tr("Pay this am&ount"), m_form)),
       m_message(new FieldMessage(this)),
       m_deeds(desk)
 {

@@ -5,6 +5,7 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QScrollBar>
 
 namespace kiv::desktop {
@@ -13,11 +14,27 @@ namespace {
 /// So many rows decide how wide a column is: to ask all would take seconds in a long table.
 constexpr int measuredRows = 200;
 
+/// Keeps the texts of neighbouring cells apart.
+class CellStyle final : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        if (metric != PM_FocusFrameHMargin || !widget)
+            return usual;
+        return usual + widget->fontMetrics().averageCharWidth() / 2;
+    }
+};
+
 } // namespace
 
 Table::Table(TableModel &model, const QString &name, QWidget *parent)
     : QTableView(parent), m_rows(model)
 {
+    auto *style = new CellStyle;
+    style->setParent(this);
+    setStyle(style);
     setModel(&model);
     setAccessibleName(name);
     setSelectionBehavior(SelectRows);
@@ -34,7 +51,6 @@ Table::Table(TableModel &model, const QString &name, QWidget *parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setResizeContentsPrecision(measuredRows);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     setHeights();
     connect(this, &QTableView::activated, this,
             [this](const QModelIndex &index) { emit opened(m_rows.key(index)); });
@@ -78,6 +94,7 @@ void Table::choose(const QString &key)
 
 void Table::settle()
 {
+    resizeColumnsToContents();
     updateGeometry();
     if (selectionModel()->hasSelection())
         return;
@@ -113,8 +130,10 @@ QSize Table::minimumSizeHint() const
 void Table::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
         setHeights();
+        resizeColumnsToContents();
+    }
 }
 
 void Table::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
