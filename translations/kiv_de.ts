@@ -4440,5 +4440,210 @@
         <source>last year</source>
         <translation>letztes Jahr</translation>
     </message>
+    <message numerus="yes">
+        <source>Entered %n due items: %1.</source>
+        <translation>
+            <numerusform>%n fälligen Posten gebucht: %1.</numerusform>
+            <numerusform>%n fällige Posten gebucht: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>entering %n due items</source>
+        <translation>
+            <numerusform>%n fälligen Posten buchen</numerusform>
+            <numerusform>%n fällige Posten buchen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Received %1.</source>
+        <translation>%1 erhalten.</translation>
+    </message>
+    <message>
+        <source>receiving “%1”</source>
+        <translation>„%1“ erhalten</translation>
+    </message>
+    <message>
+        <source>Saved for %1.</source>
+        <translation>Für %1 gespart.</translation>
+    </message>
+    <message>
+        <source>saving for “%1”</source>
+        <translation>für „%1“ sparen</translation>
+    </message>
+    <message>
+        <source>Paid %1.</source>
+        <translation>%1 bezahlt.</translation>
+    </message>
+    <message>
+        <source>paying “%1”</source>
+        <translation>„%1“ bezahlen</translation>
+    </message>
+    <message>
+        <source>Skipped %1.</source>
+        <translation>%1 übersprungen.</translation>
+    </message>
+    <message>
+        <source>skipping “%1”</source>
+        <translation>„%1“ überspringen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped %n due items: %1.</source>
+        <translation>
+            <numerusform>%n fälligen Posten übersprungen: %1.</numerusform>
+            <numerusform>%n fällige Posten übersprungen: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>skipping %n due items</source>
+        <translation>
+            <numerusform>%n fälligen Posten überspringen</numerusform>
+            <numerusform>%n fällige Posten überspringen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At banks and in cash</source>
+        <translation>Bei Banken und in bar</translation>
+    </message>
+    <message>
+        <source>Owed: cards and loans</source>
+        <translation>Geschuldet: Karten und Kredite</translation>
+    </message>
+    <message>
+        <source>Set aside for goals</source>
+        <translation>Für Ziele zurückgelegt</translation>
+    </message>
+    <message>
+        <source>Items of the budget</source>
+        <translation>Posten des Budgets</translation>
+    </message>
+    <message>
+        <source>Everything else</source>
+        <translation>Alles andere</translation>
+    </message>
+    <message>
+        <source>%1, changed since</source>
+        <translation>%1, seitdem geändert</translation>
+    </message>
+    <message>
+        <source>With goals under it</source>
+        <translation>Mit Zielen darunter</translation>
+    </message>
+    <message>
+        <source>Last reconciled</source>
+        <translation>Zuletzt abgeglichen</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>no longer</source>
+        <translation>nicht mehr</translation>
+    </message>
+    <message>
+        <source>Its balance then</source>
+        <translation>Saldo danach</translation>
+    </message>
+    <message>
+        <source>Next due</source>
+        <translation>Danach fällig</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate for %1; sums leave it out.</source>
+        <translation>Für %1 gibt es keinen Wechselkurs; Summen lassen es aus.</translation>
+    </message>
+    <message>
+        <source>Nothing is due until %1.</source>
+        <translation>Bis %1 ist nichts fällig.</translation>
+    </message>
+    <message>
+        <source>To pay until %1: %2.</source>
+        <translation>Zu zahlen bis %1: %2.</translation>
+    </message>
+    <message>
+        <source>To come in until %1: %2.</source>
+        <translation>Zu erwarten bis %1: %2.</translation>
+    </message>
+    <message>
+        <source>minus %1</source>
+        <translation>minus %1</translation>
+    </message>
+    <message>
+        <source>No account is chosen for “%1”.</source>
+        <translation>Für „%1“ ist kein Konto gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::AccountsPage</name>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>&amp;Show transactions</source>
+        <translation>Buchungen an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
+        <translation>Es gibt noch keine Konten. Sie kommen mit Banken und mit den Posten des Budgets.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::DuePage</name>
+    <message>
+        <source>Due</source>
+        <translation>Fällig</translation>
+    </message>
+    <message>
+        <source>What is due</source>
+        <translation>Was fällig ist</translation>
+    </message>
+    <message>
+        <source>&amp;In addition: it stays due</source>
+        <translation>Zusätzl&amp;ich: bleibt fällig</translation>
+    </message>
+    <message>
+        <source>&amp;Pay</source>
+        <translation>&amp;Zahlen</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>Überspri&amp;ngen</translation>
+    </message>
+    <message>
+        <source>Pay this am&amp;ount</source>
+        <translation>Diesen Betrag zah&amp;len</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Konto:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>Am &amp;Tag:</translation>
+    </message>
+    <message>
+        <source>Another a&amp;mount:</source>
+        <translation>Anderer Bet&amp;rag:</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>Es ist keine Zeile gewählt.</translation>
+    </message>
+    <message>
+        <source>Another amount is for one line.</source>
+        <translation>Ein anderer Betrag gilt für eine Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::TableModel</name>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
 </context>
 </TS>

@@ -108,5 +108,33 @@
             <numerusform>Only %n changes can be redone.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Entered %n due items: %1.</source>
+        <translation>
+            <numerusform>Entered %n due item: %1.</numerusform>
+            <numerusform>Entered %n due items: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>entering %n due items</source>
+        <translation>
+            <numerusform>entering %n due item</numerusform>
+            <numerusform>entering %n due items</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped %n due items: %1.</source>
+        <translation>
+            <numerusform>Skipped %n due item: %1.</numerusform>
+            <numerusform>Skipped %n due items: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>skipping %n due items</source>
+        <translation>
+            <numerusform>skipping %n due item</numerusform>
+            <numerusform>skipping %n due items</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -4440,5 +4440,210 @@
         <source>last year</source>
         <translation>año pasado</translation>
     </message>
+    <message numerus="yes">
+        <source>Entered %n due items: %1.</source>
+        <translation>
+            <numerusform>%n partida vencida registrada: %1.</numerusform>
+            <numerusform>%n partidas vencidas registradas: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>entering %n due items</source>
+        <translation>
+            <numerusform>registrar %n partida vencida</numerusform>
+            <numerusform>registrar %n partidas vencidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Received %1.</source>
+        <translation>%1: recibido.</translation>
+    </message>
+    <message>
+        <source>receiving “%1”</source>
+        <translation>recibir «%1»</translation>
+    </message>
+    <message>
+        <source>Saved for %1.</source>
+        <translation>Ahorro para %1 registrado.</translation>
+    </message>
+    <message>
+        <source>saving for “%1”</source>
+        <translation>ahorrar para «%1»</translation>
+    </message>
+    <message>
+        <source>Paid %1.</source>
+        <translation>%1: pagado.</translation>
+    </message>
+    <message>
+        <source>paying “%1”</source>
+        <translation>pagar «%1»</translation>
+    </message>
+    <message>
+        <source>Skipped %1.</source>
+        <translation>%1: omitido.</translation>
+    </message>
+    <message>
+        <source>skipping “%1”</source>
+        <translation>omitir «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>Skipped %n due items: %1.</source>
+        <translation>
+            <numerusform>%n partida vencida omitida: %1.</numerusform>
+            <numerusform>%n partidas vencidas omitidas: %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>skipping %n due items</source>
+        <translation>
+            <numerusform>omitir %n partida vencida</numerusform>
+            <numerusform>omitir %n partidas vencidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At banks and in cash</source>
+        <translation>En bancos y en efectivo</translation>
+    </message>
+    <message>
+        <source>Owed: cards and loans</source>
+        <translation>Adeudado: tarjetas y préstamos</translation>
+    </message>
+    <message>
+        <source>Set aside for goals</source>
+        <translation>Apartado para metas</translation>
+    </message>
+    <message>
+        <source>Items of the budget</source>
+        <translation>Partidas del presupuesto</translation>
+    </message>
+    <message>
+        <source>Everything else</source>
+        <translation>Todo lo demás</translation>
+    </message>
+    <message>
+        <source>%1, changed since</source>
+        <translation>%1, modificado desde entonces</translation>
+    </message>
+    <message>
+        <source>With goals under it</source>
+        <translation>Con las metas que contiene</translation>
+    </message>
+    <message>
+        <source>Last reconciled</source>
+        <translation>Última conciliación</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>no longer</source>
+        <translation>ya no</translation>
+    </message>
+    <message>
+        <source>Its balance then</source>
+        <translation>Saldo después</translation>
+    </message>
+    <message>
+        <source>Next due</source>
+        <translation>Próximo vencimiento</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate for %1; sums leave it out.</source>
+        <translation>No hay tipo de cambio para %1; las sumas lo omiten.</translation>
+    </message>
+    <message>
+        <source>Nothing is due until %1.</source>
+        <translation>Nada vence hasta el %1.</translation>
+    </message>
+    <message>
+        <source>To pay until %1: %2.</source>
+        <translation>Por pagar hasta el %1: %2.</translation>
+    </message>
+    <message>
+        <source>To come in until %1: %2.</source>
+        <translation>Por recibir hasta el %1: %2.</translation>
+    </message>
+    <message>
+        <source>minus %1</source>
+        <translation>menos %1</translation>
+    </message>
+    <message>
+        <source>No account is chosen for “%1”.</source>
+        <translation>No se ha elegido ninguna cuenta para «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::AccountsPage</name>
+    <message>
+        <source>Accounts</source>
+        <translation>Cuentas</translation>
+    </message>
+    <message>
+        <source>&amp;Show transactions</source>
+        <translation>Mostrar &amp;movimientos</translation>
+    </message>
+    <message>
+        <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
+        <translation>Todavía no hay cuentas. Llegan con los bancos y con las partidas del presupuesto.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::DuePage</name>
+    <message>
+        <source>Due</source>
+        <translation>Vencimientos</translation>
+    </message>
+    <message>
+        <source>What is due</source>
+        <translation>Lo que vence</translation>
+    </message>
+    <message>
+        <source>&amp;In addition: it stays due</source>
+        <translation>Además: sigue pe&amp;ndiente</translation>
+    </message>
+    <message>
+        <source>&amp;Pay</source>
+        <translation>&amp;Pagar</translation>
+    </message>
+    <message>
+        <source>S&amp;kip</source>
+        <translation>O&amp;mitir</translation>
+    </message>
+    <message>
+        <source>Pay this am&amp;ount</source>
+        <translation>Pagar este impor&amp;te</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Cuenta:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>El &amp;día:</translation>
+    </message>
+    <message>
+        <source>Another a&amp;mount:</source>
+        <translation>&amp;Otro importe:</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>No se ha elegido ninguna línea.</translation>
+    </message>
+    <message>
+        <source>Another amount is for one line.</source>
+        <translation>Otro importe vale para una sola línea.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::TableModel</name>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
 </context>
 </TS>
