@@ -3374,14 +3374,6 @@
         <translation>Nummern der Buchungen</translation>
     </message>
     <message>
-        <source>Bank account that the money leaves</source>
-        <translation>Bankkonto, von dem das Geld abgeht</translation>
-    </message>
-    <message>
-        <source>Bank account that the money goes to</source>
-        <translation>Bankkonto, auf das das Geld geht</translation>
-    </message>
-    <message>
         <source>Amount, in the currency of the account it goes to</source>
         <translation>Betrag, in der Währung des Kontos, auf das er geht</translation>
     </message>
@@ -3424,10 +3416,6 @@
     <message>
         <source>Undo the reconciliation of transactions</source>
         <translation>Den Abgleich von Buchungen aufheben</translation>
-    </message>
-    <message>
-        <source>Move money between bank accounts</source>
-        <translation>Geld zwischen Bankkonten umbuchen</translation>
     </message>
     <message>
         <source>List refundable transactions of a budget item</source>
@@ -4575,6 +4563,94 @@
     <message>
         <source>No account is chosen for “%1”.</source>
         <translation>Für „%1“ ist kein Konto gewählt.</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>WOFÜR</translation>
+    </message>
+    <message>
+        <source>WORDS</source>
+        <translation>WÖRTER</translation>
+    </message>
+    <message>
+        <source>Words of the payee, the reason or an account; amounts like &apos;&gt;50&apos; or 50..80; days like march, 2026-03 or today; is:reconciled, not:cleared; account:NAME, item:NAME, payee:NAME. After --, -WORD excludes</source>
+        <translation>Wörter aus Empfänger, Zweck oder Konto; Beträge wie &apos;&gt;50&apos; oder 50..80; Tage wie März, 2026-03 oder heute; is:reconciled, not:cleared; account:NAME, item:NAME, payee:NAME. Nach -- schließt -WORT aus</translation>
+    </message>
+    <message>
+        <source>Day that counts as today</source>
+        <translation>Tag, der als heute gilt</translation>
+    </message>
+    <message>
+        <source>No transaction fits.</source>
+        <translation>Keine Buchung passt.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, together %3.</source>
+        <translation>%1 von %2, zusammen %3.</translation>
+    </message>
+    <message>
+        <source>Search the transactions</source>
+        <translation>Buchungen suchen</translation>
+    </message>
+    <message>
+        <source>What it was for</source>
+        <translation>Zweck</translation>
+    </message>
+    <message>
+        <source>Amount, in the currency of the account</source>
+        <translation>Betrag, in der Währung des Kontos</translation>
+    </message>
+    <message>
+        <source>Budget item or expense account</source>
+        <translation>Budgetposten oder Aufwandskonto</translation>
+    </message>
+    <message>
+        <source>Account that paid (default: that of the last time, or else the first checking account)</source>
+        <translation>Konto, von dem bezahlt wurde (Standard: das vom letzten Mal, sonst das erste Girokonto)</translation>
+    </message>
+    <message>
+        <source>Who got the money</source>
+        <translation>Wer das Geld bekam</translation>
+    </message>
+    <message>
+        <source>Spent %1 from %2 on %3 (transaction %4).</source>
+        <translation>%1 von %2 für %3 ausgegeben (Buchung %4).</translation>
+    </message>
+    <message>
+        <source>Wage or income account</source>
+        <translation>Lohn oder Ertragskonto</translation>
+    </message>
+    <message>
+        <source>Account that got the money (default: that of the last time, or else the first checking account)</source>
+        <translation>Konto, auf das das Geld kam (Standard: das vom letzten Mal, sonst das erste Girokonto)</translation>
+    </message>
+    <message>
+        <source>Who gave the money</source>
+        <translation>Von wem das Geld kam</translation>
+    </message>
+    <message>
+        <source>Earned %1 from %2 to %3 (transaction %4).</source>
+        <translation>%1 aus %2 auf %3 eingenommen (Buchung %4).</translation>
+    </message>
+    <message>
+        <source>Account that the money leaves</source>
+        <translation>Konto, von dem das Geld abgeht</translation>
+    </message>
+    <message>
+        <source>Account that the money goes to: a bank account, a card, a loan, a goal …</source>
+        <translation>Konto, auf das das Geld geht: Bankkonto, Karte, Darlehen, Ziel …</translation>
+    </message>
+    <message>
+        <source>Enter money that was spent</source>
+        <translation>Ausgegebenes Geld eintragen</translation>
+    </message>
+    <message>
+        <source>Enter money that was earned</source>
+        <translation>Eingenommenes Geld eintragen</translation>
+    </message>
+    <message>
+        <source>Move money between accounts</source>
+        <translation>Geld zwischen Konten umbuchen</translation>
     </message>
 </context>
 <context>

@@ -3374,14 +3374,6 @@
         <translation>Números de los asientos</translation>
     </message>
     <message>
-        <source>Bank account that the money leaves</source>
-        <translation>Cuenta bancaria de la que sale el dinero</translation>
-    </message>
-    <message>
-        <source>Bank account that the money goes to</source>
-        <translation>Cuenta bancaria a la que va el dinero</translation>
-    </message>
-    <message>
         <source>Amount, in the currency of the account it goes to</source>
         <translation>Importe, en la moneda de la cuenta a la que va</translation>
     </message>
@@ -3424,10 +3416,6 @@
     <message>
         <source>Undo the reconciliation of transactions</source>
         <translation>Anula la conciliación de asientos</translation>
-    </message>
-    <message>
-        <source>Move money between bank accounts</source>
-        <translation>Mueve dinero entre cuentas bancarias</translation>
     </message>
     <message>
         <source>List refundable transactions of a budget item</source>
@@ -4575,6 +4563,94 @@
     <message>
         <source>No account is chosen for “%1”.</source>
         <translation>No se ha elegido ninguna cuenta para «%1».</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>EN</translation>
+    </message>
+    <message>
+        <source>WORDS</source>
+        <translation>PALABRAS</translation>
+    </message>
+    <message>
+        <source>Words of the payee, the reason or an account; amounts like &apos;&gt;50&apos; or 50..80; days like march, 2026-03 or today; is:reconciled, not:cleared; account:NAME, item:NAME, payee:NAME. After --, -WORD excludes</source>
+        <translation>Palabras del beneficiario, el motivo o una cuenta; importes como &apos;&gt;50&apos; o 50..80; días como marzo, 2026-03 u hoy; is:reconciled, not:cleared; account:NOMBRE, item:NOMBRE, payee:NOMBRE. Tras --, -PALABRA excluye</translation>
+    </message>
+    <message>
+        <source>Day that counts as today</source>
+        <translation>Día que cuenta como hoy</translation>
+    </message>
+    <message>
+        <source>No transaction fits.</source>
+        <translation>No coincide ningún asiento.</translation>
+    </message>
+    <message>
+        <source>%1 of %2, together %3.</source>
+        <translation>%1 de %2, en total %3.</translation>
+    </message>
+    <message>
+        <source>Search the transactions</source>
+        <translation>Buscar asientos</translation>
+    </message>
+    <message>
+        <source>What it was for</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Amount, in the currency of the account</source>
+        <translation>Importe, en la moneda de la cuenta</translation>
+    </message>
+    <message>
+        <source>Budget item or expense account</source>
+        <translation>Partida o cuenta de gasto</translation>
+    </message>
+    <message>
+        <source>Account that paid (default: that of the last time, or else the first checking account)</source>
+        <translation>Cuenta que pagó (por defecto: la de la última vez o, si no, la primera cuenta corriente)</translation>
+    </message>
+    <message>
+        <source>Who got the money</source>
+        <translation>Quién recibió el dinero</translation>
+    </message>
+    <message>
+        <source>Spent %1 from %2 on %3 (transaction %4).</source>
+        <translation>Gastado %1 de %2 en %3 (asiento %4).</translation>
+    </message>
+    <message>
+        <source>Wage or income account</source>
+        <translation>Salario o cuenta de ingreso</translation>
+    </message>
+    <message>
+        <source>Account that got the money (default: that of the last time, or else the first checking account)</source>
+        <translation>Cuenta que recibió el dinero (por defecto: la de la última vez o, si no, la primera cuenta corriente)</translation>
+    </message>
+    <message>
+        <source>Who gave the money</source>
+        <translation>Quién dio el dinero</translation>
+    </message>
+    <message>
+        <source>Earned %1 from %2 to %3 (transaction %4).</source>
+        <translation>Ganado %1 de %2 en %3 (asiento %4).</translation>
+    </message>
+    <message>
+        <source>Account that the money leaves</source>
+        <translation>Cuenta de la que sale el dinero</translation>
+    </message>
+    <message>
+        <source>Account that the money goes to: a bank account, a card, a loan, a goal …</source>
+        <translation>Cuenta a la que va el dinero: una cuenta bancaria, una tarjeta, un préstamo, una meta …</translation>
+    </message>
+    <message>
+        <source>Enter money that was spent</source>
+        <translation>Anotar dinero gastado</translation>
+    </message>
+    <message>
+        <source>Enter money that was earned</source>
+        <translation>Anotar dinero ganado</translation>
+    </message>
+    <message>
+        <source>Move money between accounts</source>
+        <translation>Traspasar dinero entre cuentas</translation>
     </message>
 </context>
 <context>

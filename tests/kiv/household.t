@@ -47,22 +47,22 @@ A month, from nothing to what is on file:
   Number  Account                                 Balance
        1  Assets:Checking                       $4,330.90
        2  Equity:Opening Balances USD [Equity]  $2,500.00
-       5  Expenses:Light [Budget Item]             $19.10
-       3  Expenses:Rent [Budget Item]           $1,250.00
-       4  Income:Salary [Budget Item]           $3,100.00
+       5  Expenses:Light                           $19.10
+       3  Expenses:Rent                         $1,250.00
+       4  Income:Salary                         $3,100.00
   $ kiv transactions
-  Number  Date        Description                                        Debit                         Credit                                   Amount
-       1  2026-01-01                                                     Assets:Checking               Equity:Opening Balances USD [Equity]  $2,500.00
-       2  2026-02-01  A month's rent                                     Expenses:Rent [Budget Item]   Assets:Checking                       $1,250.00
-       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Assets:Checking               Income:Salary [Budget Item]           $3,100.00
-       4  2026-02-11  Processed unexpected budget item 'Light'.          Expenses:Light [Budget Item]  Assets:Checking                          $19.10
+  Number  Date        Description                                        Debit     Credit                            Amount
+       1  2026-01-01                                                     Checking  Opening Balances USD [Equity]  $2,500.00
+       2  2026-02-01  A month's rent                                     Rent      Checking                       $1,250.00
+       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Checking  Salary                         $3,100.00
+       4  2026-02-11  Processed unexpected budget item 'Light'.          Light     Checking                          $19.10
   $ kiv ledger Checking
   1 Checking
-  Number  Date        Description                                        Other account                             Change    Balance  Status
-       1  2026-01-01                                                     Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
-       2  2026-02-01  A month's rent                                     Expenses:Rent [Budget Item]           -$1,250.00  $1,250.00  cleared
-       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Income:Salary [Budget Item]            $3,100.00  $4,350.00  cleared
-       4  2026-02-11  Processed unexpected budget item 'Light'.          Expenses:Light [Budget Item]             -$19.10  $4,330.90  none
+  Number  Date        Description                                        Other account                      Change    Balance  Status
+       1  2026-01-01                                                     Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
+       2  2026-02-01  A month's rent                                     Rent                           -$1,250.00  $1,250.00  cleared
+       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Salary                          $3,100.00  $4,350.00  cleared
+       4  2026-02-11  Processed unexpected budget item 'Light'.          Light                             -$19.10  $4,330.90  none
   $ kiv info
   File            household.budget
   Bytes           * (glob)
@@ -91,7 +91,7 @@ Programs read JSON:
   $ kiv transactions --json | jq -c '.[1]'
   {"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"cleared","date":"2026-02-01","debit":3,"debitPath":"Expenses:Rent [Budget Item]","debitStatus":"cleared","description":"A month's rent","number":2}
   $ kiv ledger Checking --json | jq -c '.transactions[1]'
-  {"amount":{"amount":"1250.00","currency":"USD"},"balance":{"amount":"1250.00","currency":"USD"},"change":{"amount":"-1250.00","currency":"USD"},"credit":1,"creditStatus":"cleared","date":"2026-02-01","debit":3,"debitStatus":"cleared","description":"A month's rent","number":2,"otherPath":"Expenses:Rent [Budget Item]","status":"cleared"}
+  {"amount":{"amount":"1250.00","currency":"USD"},"balance":{"amount":"1250.00","currency":"USD"},"change":{"amount":"-1250.00","currency":"USD"},"credit":1,"creditStatus":"cleared","date":"2026-02-01","debit":3,"debitStatus":"cleared","description":"A month's rent","number":2,"other":3,"otherPath":"Expenses:Rent [Budget Item]","status":"cleared"}
   $ kiv info --json | jq -c 'del(.bytes)'
   {"accounts":5,"banks":1,"credits":[{"amount":"6869.10","currency":"USD"}],"debits":[{"amount":"6869.10","currency":"USD"}],"file":"household.budget","items":{"bill":2,"debt":0,"goal":0,"nontrack":0,"wage":1},"transactions":4}
 

@@ -24,12 +24,14 @@ Amounts, days and words are the user's:
   Nummer  Konto                                      Saldo
        1  Assets:Checking                       1.234,56 €
        2  Equity:Opening Balances EUR [Equity]  1.234,56 €
-       3  Expenses:Rent [Budget Item]               0,00 €
-       4  Income:Salary [Budget Item]               0,00 €
+       3  Expenses:Rent                             0,00 €
+       4  Income:Salary                             0,00 €
   $ es ledger Checking
   1 Checking
-  Número  Fecha       Descripción  Contrapartida                            Cambio      Saldo  Estado
-       1  31/01/2026               Equity:Opening Balances EUR [Equity]  1234,56 €  1234,56 €  pendiente
+  Número  Fecha       Descripción  Contrapartida                     Cambio      Saldo  Estado
+       1  31/01/2026               Opening Balances EUR [Equity]  1234,56 €  1234,56 €  pendiente
+  $ de find --date 2026-03-01 'januar >1.234,55' | tail -1
+  1 von 1, zusammen 1.234,56 €.
   $ de bill list
   Name    Betrag  Turnus     Nächster Termin  Schlagwörter
   Rent  850,00 €  monatlich  01.03.2026
@@ -40,9 +42,9 @@ Amounts, days and words are the user's:
   $ de rates show | grep -o '1,25'
   1,25
   $ de history diff
-  Was     Name                    Änderung     Einzelheiten
-  Posten  Lohn Salary             hinzugefügt  1.500,10 EUR, monatlich, 02.03.2026
-  Konto   4 Salary [Budget Item]  hinzugefügt  0,00 EUR
+  Was     Name         Änderung     Einzelheiten
+  Posten  Lohn Salary  hinzugefügt  1.500,10 EUR, monatlich, 02.03.2026
+  Konto   4 Salary     hinzugefügt  0,00 EUR
   $ de report | grep -o Einnahmen
   Einnahmen
   $ de due --date 2026-02-27
@@ -81,8 +83,8 @@ A language that is not spoken, a second choice, and a locale for numbers or days
 
   $ as LC_ALL=fr_FR.UTF-8 ledger Checking
   1 Checking
-  Number  Date        Description  Other account                             Change     Balance  Status
-       1  31/01/2026               Equity:Opening Balances EUR [Equity]  1 234,56 €  1 234,56 €  none
+  Number  Date        Description  Other account                      Change     Balance  Status
+       1  31/01/2026               Opening Balances EUR [Equity]  1 234,56 €  1 234,56 €  none
   $ for locale in 'LANG=fr_FR.UTF-8 LANGUAGE=fr:es' 'LANG=en_GB.UTF-8 LANGUAGE=en_GB:de' \
   >     LANG=de_AT.UTF-8 'LANG=C.UTF-8 LANGUAGE=de' LC_ALL=tlh_KX.UTF-8 \
   >     'LC_ALL=../../etc LANGUAGE=../..'; do
@@ -102,7 +104,7 @@ A language that is not spoken, a second choice, and a locale for numbers or days
        1  Assets:Checking                       €1,234.56
        1  Assets:Checking                       €1,234.56
   $ as 'LANG=de_DE.UTF-8 LC_TIME=C' ledger Checking | grep 2026
-       1  2026-01-31                Equity:Opening Balances EUR [Equity]  1.234,56 €  1.234,56 €  offen
+       1  2026-01-31                Opening Balances EUR [Equity]  1.234,56 €  1.234,56 €  offen
 
 What other programs read is the same in every language, but for sentences:
 
@@ -172,5 +174,5 @@ A description is written once, in the language of who posts:
 
   $ de post Rent --account Checking --date 2026-03-01 >/dev/null
   $ es transactions --from 2026-03-01
-  Número  Fecha       Descripción                                          Debe                         Haber             Importe
-       2  01/03/2026  Budgetposten verarbeitet, fällig am Sun Mar 1 2026.  Expenses:Rent [Budget Item]  Assets:Checking  850,00 €
+  Número  Fecha       Descripción                                          Debe  Haber      Importe
+       2  01/03/2026  Budgetposten verarbeitet, fällig am Sun Mar 1 2026.  Rent  Checking  850,00 €

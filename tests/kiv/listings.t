@@ -42,6 +42,9 @@ Money goes out of a sub-account and back, but not in a circle:
   [1]
   $ kiv transfer Checking 'Rainy days' 5
   Posted transaction 4.
+  $ kiv transfer 'Rainy days' Checking 5 --json | grep -E 'credit"|debit"'
+      "credit": 5,
+      "debit": 1,
 
 What is there is told:
 
@@ -79,20 +82,20 @@ What is there is told:
   $ kiv accounts
   Number  Account                                 Balance
        1  Assets:Checking                       $2,392.00
-       6  Assets:Checking:Trip [Budget Item]        $0.00
+       6  Assets:Checking:Trip                      $0.00
        9  Assets:Euros                              €7.40
       10  Equity:Opening Balances EUR [Equity]      €1.00
        2  Equity:Opening Balances USD [Equity]  $2,500.00
-       5  Expenses:Gym [Budget Item]                $0.00
+       5  Expenses:Gym                              $0.00
        8  Expenses:Old                              $0.00  closed
        7  Expenses:Old:Food                         $0.00
-       3  Expenses:Rent [Budget Item]             $100.00
-       4  Income:Salary [Budget Item]               $0.00
+       3  Expenses:Rent                           $100.00
+       4  Income:Salary                             $0.00
   $ kiv banks
   First
-  Number  Account             Type                Balance
-       1  Checking            checking          $2,392.00
-       6  Trip [Budget Item]  goal sub-account      $0.00
+  Number  Account   Type                Balance
+       1  Checking  checking          $2,392.00
+       6  Trip      goal sub-account      $0.00
   Second (closed)
   There are no accounts.
   $ kiv banks --json | jq -c '.[]'
@@ -101,15 +104,15 @@ What is there is told:
   $ kiv ledger Checking --from 2026-02-01 --to 2026-02-02
   1 Checking
   Number  Date        Description  Other account  Change    Balance  Status
-       3  2026-02-01               Assets:Euros   -$8.00  $2,492.00  none
+       3  2026-02-01               Euros          -$8.00  $2,492.00  none
   $ kiv transactions --from 2026-02-01 --to 2026-02-02
-  Number  Date        Description  Debit         Credit           Amount
-       3  2026-02-01               Assets:Euros  Assets:Checking   $8.00
+  Number  Date        Description  Debit  Credit    Amount
+       3  2026-02-01               Euros  Checking   $8.00
   $ kiv transactions --json --from 2026-02-01 | jq -c '.[0]'
   {"amount":{"amount":"8.00","currency":"USD"},"credit":1,"creditAmount":{"amount":"8.00","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":9,"debitAmount":{"amount":"6.40","currency":"EUR"},"debitPath":"Assets:Euros","debitStatus":"none","description":"","number":3}
   $ kiv refundable Rent
-  Number  Date        Description                               Debit                        Credit            Amount
-       4  2026-02-03  Processed unexpected budget item 'Rent'.  Expenses:Rent [Budget Item]  Assets:Checking  $100.00
+  Number  Date        Description                               Debit  Credit     Amount
+       4  2026-02-03  Processed unexpected budget item 'Rent'.  Rent   Checking  $100.00
   $ kiv due --date 2026-02-02 --within 3
   Due         Item    Kind     Amount  When
   2026-01-25  Salary  wage  $3,100.00  8 days late
@@ -154,11 +157,11 @@ Each field of something is changed alone:
   $ kiv bank-account detach Checking
   Separated the account 1 Checking from the bank 'First'.
   $ kiv transactions
-  Number  Date        Description                                       Debit                                 Credit                                   Amount
-       1  2026-01-01                                                    Assets:Checking                       Equity:Opening Balances USD [Equity]  $2,500.00
-       2  2026-02-09  Processed unexpected budget item 'Rent'.          Expenses:Food                         Expenses:Rent [Budget Item]              $90.00
-       3  2026-01-02                                                    Equity:Opening Balances USD [Equity]  Liabilities:Car [Budget Item]           $500.00
-       4  2026-03-01  Processed the budget item due on Sun Mar 1 2026.  Expenses:Rent [Budget Item]           Assets:Checking                           $7.00
+  Number  Date        Description                                       Debit                          Credit                            Amount
+       1  2026-01-01                                                    Checking                       Opening Balances USD [Equity]  $2,500.00
+       2  2026-02-09  Processed unexpected budget item 'Rent'.          Food                           Rent                              $90.00
+       3  2026-01-02                                                    Opening Balances USD [Equity]  Car                              $500.00
+       4  2026-03-01  Processed the budget item due on Sun Mar 1 2026.  Rent                           Checking                           $7.00
   $ kiv bill list
   Name     Amount  Every   Next        Tags
   Rent  $1,250.00  weekly  2026-03-08
@@ -171,8 +174,8 @@ Each field of something is changed alone:
   First
   There are no accounts.
   Second
-  Number  Account            Type  Balance
-       7  Car [Budget Item]  loan  $500.00
+  Number  Account  Type  Balance
+       7  Car      loan  $500.00
 
 What was closed is opened again, and what was added is removed:
 

@@ -26,11 +26,11 @@ A statement is previewed, posted, and known again:
   >         --date-format DD.MM.YYYY --decimal , --save-profile mine "$@"
   > }
   $ first --dry-run
-  Line  Date        Description  Debit            Credit              Amount
-     2  2026-01-05  REWE         Expenses:Food    Assets:Checking  $1,012.50
-     3  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
-     4  2026-01-06  Coffee       Expenses:Other   Assets:Checking      $3.00
-     6  2026-01-08  Refund       Assets:Checking  Expenses:Other      $20.00
+  Line  Date        Description  Debit     Credit       Amount
+     2  2026-01-05  REWE         Food      Checking  $1,012.50
+     3  2026-01-06  Coffee       Other     Checking      $3.00
+     4  2026-01-06  Coffee       Other     Checking      $3.00
+     6  2026-01-08  Refund       Checking  Other        $20.00
   Entries with amount zero are skipped.
   Transactions posted: 4; duplicates skipped: 0; accounts opened: 0.
   Dry run: nothing is saved.
@@ -74,8 +74,8 @@ The bank's own identifiers tell what is there already:
   $ kiv transaction update 12 --description 'Bread [id mine]'
   Changed transaction 12.
   $ kiv import s.ofx --into Checking --against Other --dry-run | grep Bakery
-     2  2026-01-10  Bakery [id x1]  Expenses:Other  Assets:Checking   $5.25
-     3  2026-01-10  Bakery [id x2]  Expenses:Other  Assets:Checking   $5.25  duplicate
+     2  2026-01-10  Bakery       Other  Checking   $5.25
+     3  2026-01-10  Bakery       Other  Checking   $5.25  duplicate
 
 A transfer that both banks tell is told as one that may be there:
 

@@ -23,12 +23,12 @@ Items are tied to their bank. What is not given stays, the bank too:
   $ kiv accounts
   Number  Account                                  Balance
        1  Assets:Checking                        $4,275.00
-       6  Assets:Checking:Trip [Budget Item]        $75.00
+       6  Assets:Checking:Trip                      $75.00
        2  Equity:Opening Balances USD [Equity]  -$2,500.00
-       3  Expenses:Rent [Budget Item]            $1,250.00
-       5  Expenses:Tax [Budget Item]                 $0.00
-       4  Income:Salary [Budget Item]            $3,100.00
-       7  Liabilities:Car [Budget Item]          $5,000.00
+       3  Expenses:Rent                          $1,250.00
+       5  Expenses:Tax                               $0.00
+       4  Income:Salary                          $3,100.00
+       7  Liabilities:Car                        $5,000.00
   $ kiv goal update Trip --target 950
   Changed the goal 'Trip'.
   $ kiv debt update Car --amount 210
@@ -44,9 +44,9 @@ Items are tied to their bank. What is not given stays, the bank too:
   $ kiv goal list --json | jq -c .[]
   {"amount":{"amount":"50.00","currency":"USD"},"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"950.00","currency":"USD"}}
   $ kiv accounts --type asset
-  Number  Account                      Balance
-       1  Assets:Checking            $4,275.00
-       6  Assets:Trip [Budget Item]     $75.00
+  Number  Account            Balance
+       1  Assets:Checking  $4,275.00
+       6  Assets:Trip         $75.00
 
 The reason stands behind what failed:
 
@@ -104,21 +104,21 @@ An edited document completes a survey. What went to the goal stays in the family
   $ kiv accounts
   Number  Account                                  Balance
        1  Assets:Checking                        $4,255.50
-       6  Assets:Checking:Trip [Budget Item]        $75.00
+       6  Assets:Checking:Trip                      $75.00
        2  Equity:Opening Balances USD [Equity]  -$2,499.50
-       3  Expenses:Rent [Budget Item]            $1,270.00
-       5  Expenses:Tax [Budget Item]                 $0.00
-       4  Income:Salary [Budget Item]            $3,100.00
-       7  Liabilities:Car [Budget Item]          $5,000.00
+       3  Expenses:Rent                          $1,270.00
+       5  Expenses:Tax                               $0.00
+       4  Income:Salary                          $3,100.00
+       7  Liabilities:Car                        $5,000.00
   $ kiv ledger Checking
   1 Checking
-  Number  Date        Description                                        Other account                             Change    Balance  Status
-       1  2026-01-01                                                     Equity:Opening Balances USD [Equity]   $2,500.00  $2,500.00  reconciled
-       4  2026-01-28  Processed the budget item due on Sun Jan 25 2026.  Income:Salary [Budget Item]            $3,100.00  $5,600.00  reconciled
-       5  2026-01-29  Processed unexpected budget item 'Trip'.           Assets:Checking:Trip [Budget Item]       -$75.00  $5,525.00  reconciled
-       3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  Expenses:Rent [Budget Item]           -$1,250.00  $4,275.00  reconciled
-       6  2026-01-31  Additional surveyed expense.                       Expenses:Rent [Budget Item]              -$20.00  $4,255.00  reconciled
-       7  2026-01-31  Extra-budget surveyed income.                      Equity:Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
+  Number  Date        Description                                        Other account                      Change    Balance  Status
+       1  2026-01-01                                                     Opening Balances USD [Equity]   $2,500.00  $2,500.00  reconciled
+       4  2026-01-28  Processed the budget item due on Sun Jan 25 2026.  Salary                          $3,100.00  $5,600.00  reconciled
+       5  2026-01-29  Processed unexpected budget item 'Trip'.           Trip                              -$75.00  $5,525.00  reconciled
+       3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  Rent                           -$1,250.00  $4,275.00  reconciled
+       6  2026-01-31  Additional surveyed expense.                       Rent                              -$20.00  $4,255.00  reconciled
+       7  2026-01-31  Extra-budget surveyed income.                      Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
   $ kiv transaction remove 3
   kiv: The transaction 3 is reconciled; undo its reconciliation before you change it.
   [1]

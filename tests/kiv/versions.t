@@ -47,11 +47,11 @@ again:
   ["removed","account","6 Club [Budget Item]"]
   $ kiv undo --to 5
   Restored the version saved at ????-??-?? ??:??:??. (glob)
-  What     Name                  Change   Detail
-  item     bill Club             removed  20.00 USD, monthly, 2026-02-01
-  item     bill Gym              removed  30.00 USD, monthly, 2026-02-01
-  account  5 Gym [Budget Item]   removed  0.00 USD
-  account  6 Club [Budget Item]  removed  0.00 USD
+  What     Name       Change   Detail
+  item     bill Club  removed  20.00 USD, monthly, 2026-02-01
+  item     bill Gym   removed  30.00 USD, monthly, 2026-02-01
+  account  5 Gym      removed  0.00 USD
+  account  6 Club     removed  0.00 USD
   $ kiv export --format json | cmp - first
   $ kiv redo --steps 2 >/dev/null
   $ kiv export --format json | cmp - last
@@ -111,7 +111,7 @@ A large import that is undone does not fill the terminal:
   >     kiv transaction load - >/dev/null && kiv undo >lines && wc -l <lines && tail -1 lines; }
   $ load 18
   22
-  transaction  19                      removed  2026-01-02, 1.00 USD
+  transaction  19          removed  2026-01-02, 1.00 USD
   $ load 19
   23
   1 more change is not shown; see all with --json.
@@ -129,10 +129,10 @@ Differences are told field by field:
   $ kiv pay Rent 5 --account Checking --date 2026-02-03
   Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
   $ kiv history diff
-  What         Name                  Change   Detail
-  account      1 Checking            changed  balance 2500.00 USD \xe2\x86\x92 2495.00 USD (esc)
-  account      3 Rent [Budget Item]  changed  balance 0.00 USD \xe2\x86\x92 5.00 USD (esc)
-  transaction  2                     added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
+  What         Name        Change   Detail
+  account      1 Checking  changed  balance 2500.00 USD \xe2\x86\x92 2495.00 USD (esc)
+  account      3 Rent      changed  balance 0.00 USD \xe2\x86\x92 5.00 USD (esc)
+  transaction  2           added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
   $ kiv history diff 5 6
   What  Name       Change   Detail
   item  bill Rent  changed  amount 1250.00 USD \xe2\x86\x92 1300.00 USD, tags  \xe2\x86\x92 home (esc)
@@ -313,7 +313,7 @@ account is mended when it is opened:
   Debits equal credits in every currency        ok      2500.00 USD
   The budget 'household.budget' is intact.
   $ kiv account remove 3
-  Removed the account 3 Rent [Budget Item].
+  Removed the account 3 Rent.
   $ kiv check | tail -4
   Items, accounts and banks match               repaired when opened  The budget item 'Rent' had lost its account, which was opened anew under the number 5.
   Every balance is the sum of its transactions  ok

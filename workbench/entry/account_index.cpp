@@ -178,9 +178,13 @@ const std::map<AccountNumber, AccountIndex::Name> &AccountIndex::names() const
             const QString name = plainNameOf(*account);
             bool isNumber = false;
             (void)name.toUInt(&isNumber);
-            const bool isClear = uses[name] == 1 && !isNumber && !name.trimmed().isEmpty();
-            const QString &plainPath = plainPaths.at(number);
-            m_names.emplace(number, Name{paths.at(number), plainPath, isClear ? name : plainPath});
+            QString plain = name;
+            if (uses[name] > 1 || isNumber || name.trimmed().isEmpty()) {
+                const BudgetItemTypes kind = ownerOf(*account);
+                plain = kind == BudgetItemTypes::None ? plainPaths.at(number)
+                                                      : kindWord(kind) + u':' + name;
+            }
+            m_names.emplace(number, Name{paths.at(number), plainPaths.at(number), plain});
         }
     }
     return m_names;

@@ -54,8 +54,8 @@ public:
     // ---- for people --------------------------------------------------------------
     // All of these texts are found by find().
 
-    /// The item's name for an item's account, else the account's name; the plain path if
-    /// several accounts have that. Empty if there is no account.
+    /// The item's name for an item's account, else the account's name. If several accounts
+    /// have that, "bill:Rent" for an item, else the plain path. Empty if there is no account.
     [[nodiscard]] QString plainName(accounting::AccountNumber number) const;
     /// The path with the names of items: "Expenses:Rent". Empty if there is no account.
     [[nodiscard]] QString plainPath(accounting::AccountNumber number) const;

@@ -18,7 +18,7 @@ public:
 
     /// Adds the change by a transaction, in the currencies of the accounts.
     void add(const accounting::Transaction &transaction);
-    /// The sum in each currency that occurred, in the order of their codes.
+    /// The sum in each currency that occurred, ordered as currencies are.
     [[nodiscard]] std::vector<numira::Money> sums() const;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/surveys/reconciliation_watch.h"
 
+#include "workbench/entry/account_index.h"
 #include "workbench/entry/money_text.h"
 
 #include "foundation/presentation.h"
@@ -29,8 +30,9 @@ JudgedReconciliation judgedBy(const Reconciliations &all, std::size_t place,
 
 QString nameOf(accounting::AccountNumber number, const GeneralLedger &ledger)
 {
-    return ledger.hasLedger(number) ? accounting::presentationText(ledger.accountCode(number))
-                                    : accounting::presentationText(number);
+    return ledger.hasLedger(number)
+               ? inPlainWords(accounting::presentationText(ledger.accountCode(number)))
+               : accounting::presentationText(number);
 }
 
 /// What differs, as it was and as it is.

@@ -23,9 +23,10 @@ constexpr std::array placeholders{
     QT_TRANSLATE_NOOP("QObject", "HOURS"),        QT_TRANSLATE_NOOP("QObject", "ITEM"),
     QT_TRANSLATE_NOOP("QObject", "ITEM=AMOUNT"),  QT_TRANSLATE_NOOP("QObject", "NAME"),
     QT_TRANSLATE_NOOP("QObject", "NEW-NAME"),     QT_TRANSLATE_NOOP("QObject", "NUMBER"),
-    QT_TRANSLATE_NOOP("QObject", "PERCENT"),      QT_TRANSLATE_NOOP("QObject", "TAG"),
-    QT_TRANSLATE_NOOP("QObject", "TEMPLATE"),     QT_TRANSLATE_NOOP("QObject", "TEXT"),
-    QT_TRANSLATE_NOOP("QObject", "TO"),
+    QT_TRANSLATE_NOOP("QObject", "ON"),           QT_TRANSLATE_NOOP("QObject", "PERCENT"),
+    QT_TRANSLATE_NOOP("QObject", "TAG"),          QT_TRANSLATE_NOOP("QObject", "TEMPLATE"),
+    QT_TRANSLATE_NOOP("QObject", "TEXT"),         QT_TRANSLATE_NOOP("QObject", "TO"),
+    QT_TRANSLATE_NOOP("QObject", "WORDS"),
 };
 
 /// The placeholders of options whose values are texts.

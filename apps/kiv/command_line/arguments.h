@@ -29,6 +29,15 @@ using workbench::readValue;
 /// The words that show a command's help, such as "kiv bill add --help".
 [[nodiscard]] QString helpOf(const CLI::App &command);
 
+/// An account as typed, for options whose names do not tell that they take one.
+struct AccountText {
+    QString text;
+};
+inline void readValue(const QString &text, AccountText &value)
+{
+    value.text = text;
+}
+
 /// The word for an option's value in the help, by its type.
 constexpr const char *valueWord(const QDate *)
 {
@@ -61,6 +70,10 @@ constexpr const char *valueWord(const accounting::AccountNumber *)
 constexpr const char *valueWord(const accounting::TransactionNumber *)
 {
     return "NUMBER";
+}
+constexpr const char *valueWord(const AccountText *)
+{
+    return "ACCOUNT";
 }
 constexpr const char *valueWord(const void *)
 {

@@ -100,9 +100,8 @@ private:
 Words accountNames(Requests &requests)
 {
     Words names;
-    const AccountIndex index = requests.accounts();
-    for (const accounting::Account &account : index.accounts())
-        names.push_back(account.code().name().toStdString());
+    for (const QString &name : requests.accounts().plainNames())
+        names.push_back(name.toStdString());
     return names;
 }
 
@@ -170,10 +169,14 @@ Words choicesOf(const std::string &name, const Words &path)
 
 Words namesOf(const std::string &name, const Words &path, Requests &requests)
 {
-    constexpr std::array accounts{"ACCOUNT", "FROM",     "TO",      "--account", "--bank-account",
-                                  "--debit", "--credit", "--under", "--into",    "--against"};
+    constexpr std::array accounts{"ACCOUNT",   "FROM",           "TO",       "ON",
+                                  "--account", "--bank-account", "--debit",  "--credit",
+                                  "--under",   "--into",         "--against"};
+    // Elsewhere these two are days or files.
+    const bool isOwn =
+        (name == "--from" && path.front() == "spend") || (name == "--to" && path.front() == "earn");
     constexpr std::array kinds{"bill", "debt", "goal", "nontrack", "wage"};
-    if (std::ranges::count(accounts, name) != 0)
+    if (isOwn || std::ranges::count(accounts, name) != 0)
         return accountNames(requests);
     if (name == "BANK" || name == "--bank")
         return bankNames(requests);

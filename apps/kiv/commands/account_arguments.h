@@ -44,7 +44,7 @@ struct Recode {
         call.requests.change(outcome, slot, from, to);
         // With their paths, since only the parent may have changed.
         const auto told = [](const AccountIndex &accounts, accounting::AccountNumber number) {
-            return accounting::presentationText(number) + u' ' + accounts.path(number);
+            return accounting::presentationText(number) + u' ' + accounts.plainPath(number);
         };
         return accountReport(
             call.requests, to.number(),
@@ -71,10 +71,11 @@ struct AccountVerb {
     }
     Report run(Call &call) const
     {
-        const accounting::AccountCode code = call.requests.accounts().find(account).code();
+        const AccountIndex index = call.requests.accounts();
+        const accounting::AccountCode code = index.find(account).code();
         call.requests.change(outcome, slot, code);
         return accountReport(call.requests, code.number(),
-                             sentence.arg(accounting::presentationText(code)));
+                             sentence.arg(index.label(code.number())));
     }
 };
 template <typename Answers, typename Slot>

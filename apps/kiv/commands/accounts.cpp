@@ -61,7 +61,7 @@ struct ListAccounts {
             rows.append(row);
         }
         return Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
-                                {QObject::tr("Account"), QStringLiteral("path")},
+                                {QObject::tr("Account"), QStringLiteral("path"), plainText},
                                 {QObject::tr("Balance"), QStringLiteral("balance")},
                                 {QString(), QStringLiteral("open"), openWord},
                                 {QString(), QStringLiteral("asReconciled"), reconciledText}},
@@ -83,18 +83,18 @@ struct ShowLedger {
 
     Report run(Call &call) const
     {
-        AccountIndex index = call.requests.accounts();
+        const auto index = std::make_shared<const AccountIndex>(call.requests.accounts());
         auto ledger = std::get<accounting::LedgerAccount>(call.requests.ask(
-            &Navigator::showLedger, &Navigator::onSelectedLedger, index.find(account).code()));
-        const QString heading = accounting::presentationText(ledger.code());
-        QJsonObject data{{QStringLiteral("account"), toJson(ledger, index)}};
-        const Rows rows = rowsOf(std::move(ledger), std::move(index));
+            &Navigator::showLedger, &Navigator::onSelectedLedger, index->find(account).code()));
+        const QString heading = index->label(ledger.code().number());
+        QJsonObject data{{QStringLiteral("account"), toJson(ledger, *index)}};
+        const Rows rows = rowsOf(std::move(ledger), index);
         return Report(std::move(data), QStringLiteral("transactions"), rows)
             .heading(heading)
             .table({{QObject::tr("Number"), QStringLiteral("number")},
                     {QObject::tr("Date"), QStringLiteral("date"), dayText},
-                    {QObject::tr("Description"), QStringLiteral("description")},
-                    {QObject::tr("Other account"), QStringLiteral("otherPath")},
+                    {QObject::tr("Description"), QStringLiteral("description"), descriptionText},
+                    {QObject::tr("Other account"), QStringLiteral("other"), accountText(index)},
                     {QObject::tr("Change"), QStringLiteral("change")},
                     {QObject::tr("Balance"), QStringLiteral("balance")},
                     {QObject::tr("Status"), QStringLiteral("status"), statusText}},
@@ -109,7 +109,7 @@ private:
     };
     struct Lines {
         accounting::LedgerAccount ledger;
-        AccountIndex index;
+        std::shared_ptr<const AccountIndex> index;
         std::vector<Entry> entries;
 
         [[nodiscard]] QJsonObject row(const Entry &entry) const
@@ -123,7 +123,8 @@ private:
             row.insert(QStringLiteral("change"), toJson(changeBy(transaction, ledger)));
             row.insert(QStringLiteral("balance"), toJson(entry.balance));
             row.insert(QStringLiteral("status"), accounting::toQString(transaction.status()));
-            row.insert(QStringLiteral("otherPath"), index.path(other.number()));
+            row.insert(QStringLiteral("other"), toJson(other.number()));
+            row.insert(QStringLiteral("otherPath"), index->path(other.number()));
             return row;
         }
     };
@@ -137,7 +138,8 @@ private:
     }
 
     /// The account's transactions by day, with the balance after each.
-    [[nodiscard]] Rows rowsOf(accounting::LedgerAccount ledger, AccountIndex index) const
+    [[nodiscard]] Rows rowsOf(accounting::LedgerAccount ledger,
+                              std::shared_ptr<const AccountIndex> index) const
     {
         std::vector<std::pair<QDate, TransactionNumber>> byDay;
         for (const Transaction &transaction : ledger.transactions())

@@ -45,7 +45,7 @@ struct ListBanks {
                              ? name
                              : QObject::tr("%1 (closed)").arg(name))
                 .table({{QObject::tr("Number"), QStringLiteral("number")},
-                        {QObject::tr("Account"), QStringLiteral("name")},
+                        {QObject::tr("Account"), QStringLiteral("name"), plainText},
                         {QObject::tr("Type"), QStringLiteral("type"), wordText},
                         {QObject::tr("Balance"), QStringLiteral("balance")}},
                        bank[QLatin1String("accounts")].toArray(),
@@ -164,12 +164,13 @@ struct AttachBankAccount {
     }
     Report run(Call &call) const
     {
-        const AccountCode code = call.requests.accounts().find(account).code();
+        const AccountIndex index = call.requests.accounts();
+        const AccountCode code = index.find(account).code();
         const Bank keeper = call.requests.bank(bank);
         workbench::attachBankAccount(call.document, keeper.name(), code.number(), type);
         return bankReport(call.requests, keeper.name(),
                           QObject::tr("Assigned the account %2 to the bank '%1'.")
-                              .arg(bank, accounting::presentationText(code)));
+                              .arg(bank, index.label(code.number())));
     }
 };
 
@@ -182,12 +183,13 @@ struct DetachBankAccount {
     }
     Report run(Call &call) const
     {
-        const AccountCode code = call.requests.accounts().find(account).code();
+        const AccountIndex index = call.requests.accounts();
+        const AccountCode code = index.find(account).code();
         const banking::BankAccount kept = call.requests.bankAccount(code.number(), account);
         workbench::detachBankAccount(call.requests, kept);
         return bankReport(call.requests, kept.bank,
                           QObject::tr("Separated the account %2 from the bank '%1'.")
-                              .arg(kept.bank.institution(), accounting::presentationText(code)));
+                              .arg(kept.bank.institution(), index.label(code.number())));
     }
 };
 

@@ -49,6 +49,14 @@ QString verdictText(const QJsonValue &word)
                                : QObject::tr("not checked");
 }
 
+QString detailsText(const QJsonValue &details)
+{
+    QStringList texts;
+    for (const QJsonValue detail : details.toArray())
+        texts += plainText(detail);
+    return texts.join(QStringLiteral(", "));
+}
+
 struct Check {
     QString file;
 
@@ -77,7 +85,7 @@ struct Check {
         report
             .table({{QObject::tr("Check"), QStringLiteral("text")},
                     {QObject::tr("Result"), QStringLiteral("verdict"), verdictText},
-                    {QObject::tr("Details"), QStringLiteral("details")}},
+                    {QObject::tr("Details"), QStringLiteral("details"), detailsText}},
                    rows, {})
             .line(isWhole ? QObject::tr("The budget '%1' is intact.").arg(path)
                           : QObject::tr("The budget '%1' is damaged; bring a whole version back "

@@ -13,7 +13,9 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addCheckCommand(root);
     root.setHeading(QObject::tr("Accounts and transactions"));
     addAccountCommands(root);
+    addMoneyCommands(root);
     addTransactionCommands(root);
+    addFindCommand(root);
     root.setHeading(QObject::tr("Budget items"));
     addItemCommands(root);
     addTagCommands(root);

@@ -91,11 +91,10 @@ private:
     }
 
     [[nodiscard]] static Rows rowsOf(std::vector<workbench::ImportedTransaction> transactions,
-                                     AccountIndex accounts)
+                                     const std::shared_ptr<const AccountIndex> &index)
     {
         const auto all = std::make_shared<const std::vector<workbench::ImportedTransaction>>(
             std::move(transactions));
-        const auto index = std::make_shared<const AccountIndex>(std::move(accounts));
         return {std::ssize(*all), [all, index](qsizetype at) {
                     const auto &[transaction, place, isSkipped] =
                         (*all)[static_cast<std::size_t>(at)];
@@ -109,14 +108,14 @@ private:
 
     [[nodiscard]] static Report report(Call &call, PostedImport import)
     {
-        const AccountIndex index = call.requests.accounts();
+        const auto index = std::make_shared<const AccountIndex>(call.requests.accounts());
         QJsonArray accounts;
         for (const accounting::Account &account : import.opened)
-            accounts.append(toJson(account, index));
+            accounts.append(toJson(account, *index));
         const qint64 posted = import.posted();
         const qint64 skipped = import.skipped();
         const bool hasChanges = import.hasChanges();
-        const Rows rows = rowsOf(std::move(import.transactions), call.requests.accounts());
+        const Rows rows = rowsOf(std::move(import.transactions), index);
         Report report(
             QJsonObject{{QStringLiteral("accounts"), accounts},
                         {QStringLiteral("posted"), posted},
@@ -124,7 +123,7 @@ private:
                         {QStringLiteral("notices"), QJsonArray::fromStringList(import.notices)}},
             QStringLiteral("transactions"), rows);
         if (call.options.isDryRun)
-            preview(report, accounts, rows);
+            preview(report, accounts, rows, index);
         for (const QString &notice : import.notices)
             report.line(notice);
         if (!hasChanges)
@@ -136,17 +135,18 @@ private:
                      QString::number(import.opened.size())));
     }
 
-    static void preview(Report &report, const QJsonArray &accounts, const Rows &rows)
+    static void preview(Report &report, const QJsonArray &accounts, const Rows &rows,
+                        const std::shared_ptr<const AccountIndex> &index)
     {
         if (!accounts.isEmpty())
             report.table({{QObject::tr("Number"), QStringLiteral("number")},
-                          {QObject::tr("New account"), QStringLiteral("path")}},
+                          {QObject::tr("New account"), QStringLiteral("path"), plainText}},
                          accounts, QString());
         report.table({{QObject::tr("Line"), QStringLiteral("line")},
                       {QObject::tr("Date"), QStringLiteral("date"), dayText},
-                      {QObject::tr("Description"), QStringLiteral("description")},
-                      {QObject::tr("Debit"), QStringLiteral("debitPath")},
-                      {QObject::tr("Credit"), QStringLiteral("creditPath")},
+                      {QObject::tr("Description"), QStringLiteral("description"), descriptionText},
+                      {QObject::tr("Debit"), QStringLiteral("debit"), accountText(index)},
+                      {QObject::tr("Credit"), QStringLiteral("credit"), accountText(index)},
                       {QObject::tr("Amount"), QStringLiteral("amount")},
                       {QString(), QStringLiteral("duplicate"),
                        [](const QJsonValue &isDuplicate) {

@@ -68,7 +68,7 @@ struct ListReconciliations {
         }
         Report report{QJsonValue(rows)};
         report.table({{QObject::tr("Bank"), QStringLiteral("bank")},
-                      {QObject::tr("Account"), QStringLiteral("path")},
+                      {QObject::tr("Account"), QStringLiteral("path"), plainText},
                       {QObject::tr("Day of the statement"), QStringLiteral("on"), dayText},
                       {QObject::tr("Balance"), QStringLiteral("balance")},
                       {QObject::tr("Transactions"), QStringLiteral("transactions")},
@@ -125,14 +125,14 @@ struct LastReconciliation {
                          {QStringLiteral("balance"), QJsonValue()}};
         if (!last || !last->reconciledOn) {
             return Report(json).line(
-                QObject::tr("%1 was never reconciled.").arg(accounting::presentationText(code)));
+                QObject::tr("%1 was never reconciled.").arg(index.label(code.number())));
         }
         const QDate on = *last->reconciledOn;
         json[QStringLiteral("on")] = toJson(on);
         json[QStringLiteral("balance")] = toJson(last->amount);
         return Report(json).line(
             QObject::tr("%1 was reconciled on %2 with a balance of %3.")
-                .arg(accounting::presentationText(code), foundation::presentationText(on),
+                .arg(index.label(code.number()), foundation::presentationText(on),
                      amountText(toJson(last->amount), call.document.displayAs())));
     }
 };

@@ -93,12 +93,15 @@ struct ShowReport {
         const QDate last = to.value_or(call.date());
         const interchange::Period period(from.value_or(last.addMonths(-11)), last);
         const AccountIndex index = call.requests.accounts();
-        const Figures figures =
+        Figures figures =
             interchange::figuresOf(period, index.accounts(), call.requests.transactions(),
                                    BudgetView(call.requests).budget());
         Report report(data(figures));
-        if (isHtml)
+        if (isHtml) {
+            for (interchange::BalanceFigure &figure : figures.balances)
+                figure.path = workbench::inPlainWords(figure.path);
             return Report().raw(interchange::toHtml(figures, title));
+        }
         if (hasCharts)
             addCharts(report, figures, call);
         else

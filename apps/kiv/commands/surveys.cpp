@@ -7,6 +7,8 @@
 #include "parsing/json_input.h"
 #include "program/program.h"
 
+#include "workbench/entry/description.h"
+
 #include "foundation/presentation.h"
 #include "foundation/streams.h"
 
@@ -41,9 +43,10 @@ struct SurveyArguments {
 Report formReport(Requests &requests, const SurveyForm &form)
 {
     const QJsonObject json = toJson(form, requests);
+    const auto account = accountText(std::make_shared<const AccountIndex>(requests.accounts()));
     Report report{QJsonValue(json)};
     report.list({{QObject::tr("Bank"), QStringLiteral("bank")},
-                 {QObject::tr("Account"), QStringLiteral("accountName")},
+                 {QObject::tr("Account"), QStringLiteral("account"), account},
                  {QObject::tr("Day of the statement"), QStringLiteral("date"), dayText},
                  {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn"), dayText},
                  {QObject::tr("Reconciled balance"), QStringLiteral("reconciledBalance")},
@@ -51,17 +54,19 @@ Report formReport(Requests &requests, const SurveyForm &form)
                  {QObject::tr("Expected balance"), QStringLiteral("expectedBalance")},
                  {QObject::tr("Still due this month"), QStringLiteral("amountDue")}},
                 json);
-    const auto changes = [&](const QString &title, const char *key, const QString &what) {
-        report.heading(title).table({{what, QStringLiteral("name")},
-                                     {QObject::tr("Transaction"), QStringLiteral("transaction")},
-                                     {QObject::tr("Date"), QStringLiteral("date"), dayText},
-                                     {QObject::tr("Description"), QStringLiteral("description")},
-                                     {QObject::tr("Change"), QStringLiteral("change")}},
-                                    json.value(QLatin1String(key)).toArray(),
-                                    QObject::tr("There are none."));
+    const auto changes = [&](const QString &title, const char *key, const Column &what) {
+        report.heading(title).table(
+            {what,
+             {QObject::tr("Transaction"), QStringLiteral("transaction")},
+             {QObject::tr("Date"), QStringLiteral("date"), dayText},
+             {QObject::tr("Description"), QStringLiteral("description"), descriptionText},
+             {QObject::tr("Change"), QStringLiteral("change")}},
+            json.value(QLatin1String(key)).toArray(), QObject::tr("There are none."));
     };
-    changes(QObject::tr("Changes by budget item"), "itemChanges", QObject::tr("Item"));
-    changes(QObject::tr("Other changes"), "accountChanges", QObject::tr("Account"));
+    changes(QObject::tr("Changes by budget item"), "itemChanges",
+            {QObject::tr("Item"), QStringLiteral("name")});
+    changes(QObject::tr("Other changes"), "accountChanges",
+            {QObject::tr("Account"), QStringLiteral("account"), account});
     if (form.isOwed())
         return report;
     report.heading(QObject::tr("Proposed distribution"))
@@ -79,13 +84,13 @@ Report formReport(Requests &requests, const SurveyForm &form)
 Report complete(Requests &requests, const SurveyForm &form)
 {
     form.complete(requests);
-    const accounting::AccountCode code =
-        requests.accounts().find(form.account.account.number)->code();
+    const accounting::AccountNumber number = form.account.account.number;
+    const AccountIndex index = requests.accounts();
     Report report(toJson(form, requests));
-    report.setChange(
-        QObject::tr("Survey of %1, %2").arg(code.name(), foundation::presentationText(form.date)));
+    report.setChange(QObject::tr("Survey of %1, %2")
+                         .arg(index.plainName(number), foundation::presentationText(form.date)));
     return report.line(QObject::tr("Reconciled %1 at %2 with a balance of %3.")
-                           .arg(accounting::presentationText(code), form.account.bank.institution(),
+                           .arg(index.label(number), form.account.bank.institution(),
                                 amountText(toJson(form.balance), requests.displayAs())));
 }
 
@@ -179,12 +184,13 @@ struct RunSurvey {
         const std::set<accounting::TransactionNumber> all = std::exchange(form.reconciled, {});
         for (const accounting::TransactionNumber number : all) {
             const accounting::Transaction transaction = call.requests.transaction(number);
-            if (dialogue.agrees(QObject::tr("Is transaction %1 of %2, '%3', %4, on the statement?")
-                                    .arg(accounting::presentationText(number),
-                                         foundation::presentationText(transaction.occurredOn()),
-                                         transaction.description().value_or(QString()),
-                                         amountText(toJson(changeBy(transaction, form)),
-                                                    call.document.displayAs()))))
+            if (dialogue.agrees(
+                    QObject::tr("Is transaction %1 of %2, '%3', %4, on the statement?")
+                        .arg(accounting::presentationText(number),
+                             foundation::presentationText(transaction.occurredOn()),
+                             workbench::Description::of(transaction.description()).shown(),
+                             amountText(toJson(changeBy(transaction, form)),
+                                        call.document.displayAs()))))
                 form.reconciled.insert(number);
         }
         dialogue.until(QObject::tr("Balance of the statement"), [&](const QString &answer) {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// transactions, transaction add|load|update|remove|clear|reconcile|unreconcile,
-// transfer, refund, refundable
-#include "commands/account_arguments.h"
+// transactions, transaction add|load|update|remove|clear|reconcile|unreconcile, refund,
+// refundable
 #include "commands/commands.h"
+#include "commands/transaction_listing.h"
 
 #include "output/json.h"
 #include "parsing/json_input.h"
@@ -22,38 +22,6 @@ QString textOf(TransactionNumber number)
     return accounting::presentationText(number);
 }
 
-std::vector<Column> transactionColumns()
-{
-    return {{QObject::tr("Number"), QStringLiteral("number")},
-            {QObject::tr("Date"), QStringLiteral("date"), dayText},
-            {QObject::tr("Description"), QStringLiteral("description")},
-            {QObject::tr("Debit"), QStringLiteral("debitPath")},
-            {QObject::tr("Credit"), QStringLiteral("creditPath")},
-            {QObject::tr("Amount"), QStringLiteral("amount")}};
-}
-
-/// A table of the transactions with the paths of their accounts.
-Report listing(std::vector<Transaction> transactions, AccountIndex index, const QString &whenNone)
-{
-    const auto size = static_cast<qsizetype>(transactions.size());
-    const auto shared =
-        std::make_shared<std::pair<const std::vector<Transaction>, const AccountIndex>>(
-            std::move(transactions), std::move(index));
-    return Report::listing(transactionColumns(),
-                           Rows(size,
-                                [shared](qsizetype at) {
-                                    const auto &[all, accounts] = *shared;
-                                    return withPaths(toJson(all[static_cast<std::size_t>(at)]),
-                                                     accounts);
-                                }),
-                           whenNone);
-}
-
-Report transactionReport(Requests &requests, TransactionNumber number, const QString &sentence)
-{
-    return Report(toJson(requests.transaction(number))).line(sentence.arg(textOf(number)));
-}
-
 struct ListTransactions {
     std::optional<QDate> from;
     std::optional<QDate> to;
@@ -70,8 +38,8 @@ struct ListTransactions {
             const QDate date = transaction.occurredOn();
             return (from && date < *from) || (to && date > *to);
         });
-        return listing(std::move(transactions), call.requests.accounts(),
-                       QObject::tr("There are no transactions."));
+        return TransactionListing(std::move(transactions), call.requests.accounts())
+            .report(QObject::tr("There are no transactions."));
     }
 };
 
@@ -182,29 +150,6 @@ struct TransactionVerb {
     }
 };
 
-struct Transfer {
-    QString from;
-    QString to;
-    Amount amount;
-    QString reason = QObject::tr("Transfer");
-
-    void declare(Arguments &arguments)
-    {
-        arguments.required("FROM", from, QObject::tr("Bank account that the money leaves"))
-            .required("TO", to, QObject::tr("Bank account that the money goes to"))
-            .required("AMOUNT", amount,
-                      QObject::tr("Amount, in the currency of the account it goes to"))
-            .optional("--description", reason, QObject::tr("Description"))
-            .dated(QObject::tr("Day (default: today)"));
-    }
-    Report run(Call &call) const
-    {
-        const TransactionNumber number =
-            workbench::transfer(call.requests, {from, to, amount, reason, call.options.date});
-        return transactionReport(call.requests, number, QObject::tr("Posted transaction %1."));
-    }
-};
-
 struct Refund {
     TransactionNumber number;
     Amount amount;
@@ -243,8 +188,8 @@ struct ListRefundable {
                                               &Navigator::onLookUpRefundableTransactions,
                                               identify(view.find(name, kind)));
         const auto &refundable = std::get<std::set<Transaction>>(answer);
-        return listing({refundable.begin(), refundable.end()}, call.requests.accounts(),
-                       QObject::tr("There are no refundable transactions."));
+        return TransactionListing({refundable.begin(), refundable.end()}, call.requests.accounts())
+            .report(QObject::tr("There are no refundable transactions."));
     }
 };
 
@@ -280,7 +225,6 @@ void addTransactionCommands(CommandGroup &root)
             &Navigator::onMarkUnreconciled,
             QT_TRANSLATE_N_NOOP("QObject", "Undid the reconciliation of the transactions %1.")});
 
-    root.add("transfer", QObject::tr("Move money between bank accounts"), Change, Transfer{});
     root.add("refundable", QObject::tr("List refundable transactions of a budget item"), Query,
              ListRefundable{});
     root.add("refund", QObject::tr("Post a refund of a transaction"), Change, Refund{});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messages/message_log.h"
 
+#include "workbench/entry/account_index.h"
+
 #include "foundation/streams.h"
 
 #include <QtCore/QObject>
@@ -38,7 +40,8 @@ void MessageLog::take(QtMsgType type, const QString &message)
     if (!m_isVerbose && !isNews)
         return;
     m_written += message;
-    complain(isWarning ? QObject::tr("warning: %1").arg(message) : message);
+    complain(isWarning ? QObject::tr("warning: %1").arg(workbench::inPlainWords(message))
+                       : message);
 }
 
 void complain(const QString &text)

@@ -118,7 +118,8 @@ QString textOf(const QString &field, const QJsonValue &value)
         return wordText(value);
     if (field == u"debitStatus" || field == u"creditStatus")
         return statusText(value);
-
+    if (field == u"description")
+        return descriptionText(value);
     if (value.isObject())
         return amountText(value, navigation::CurrencyDisplayOptions::IsoCode);
     if (value.isArray()) {
@@ -185,8 +186,8 @@ void tabulate(Report &report, const Rows &changes, const QString &whenNone, qsiz
 {
     const Rows rows(std::min(changes.size(), rowsMax), [changes](qsizetype at) {
         QJsonObject row = changes[at].toObject();
-        row.insert(QStringLiteral("detail"), detailOf(row));
-        row.insert(QStringLiteral("name"), nameOf(row));
+        row.insert(QStringLiteral("detail"), plainText(detailOf(row)));
+        row.insert(QStringLiteral("name"), plainText(nameOf(row)));
         return row;
     });
     report.table({{QObject::tr("What"), QStringLiteral("what"), wordText},

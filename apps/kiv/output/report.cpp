@@ -4,6 +4,7 @@
 #include "output/json_text.h"
 #include "output/table.h"
 
+#include "workbench/entry/description.h"
 #include "workbench/entry/kind_words.h"
 #include "workbench/entry/money_text.h"
 
@@ -107,6 +108,25 @@ QString statusText(const QJsonValue &status)
     if (word == u"reconciled")
         return QObject::tr("reconciled");
     return QObject::tr("none", "the status of a transaction");
+}
+
+QString plainText(const QJsonValue &text)
+{
+    return workbench::inPlainWords(text.toString());
+}
+
+QString descriptionText(const QJsonValue &description)
+{
+    return workbench::Description::of(description.toString()).shown();
+}
+
+std::function<QString(const QJsonValue &)>
+accountText(std::shared_ptr<const workbench::AccountIndex> index)
+{
+    return [index = std::move(index)](const QJsonValue &number) {
+        return index->plainName(
+            accounting::AccountNumber(static_cast<std::uint32_t>(number.toInteger())));
+    };
 }
 
 Report &Report::line(const QString &text)

@@ -4,6 +4,8 @@
 #include "output/rows.h"
 #include "output/terminal.h"
 
+#include "workbench/entry/account_index.h"
+
 #include "navigation/currency_display.h"
 
 #include <QtCore/QStringList>
@@ -38,6 +40,14 @@ struct Column {
 /// The status of a transaction ("cleared", "reconciled" or "none"), in the user's
 /// language.
 [[nodiscard]] QString statusText(const QJsonValue &status);
+
+/// A text without the marks of the accounts of budget items.
+[[nodiscard]] QString plainText(const QJsonValue &text);
+/// Payee and reason of a description.
+[[nodiscard]] QString descriptionText(const QJsonValue &description);
+/// For a column with numbers of accounts: their plain names.
+[[nodiscard]] std::function<QString(const QJsonValue &)>
+accountText(std::shared_ptr<const workbench::AccountIndex> index);
 
 /// The result of a command: JSON for programs, and lines, tables and lists for people.
 /// Both are made from the same values, so they always agree. All texts are escaped when

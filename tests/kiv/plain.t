@@ -1,0 +1,116 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Money is entered, moved and found by the names that a household uses.
+
+  $ . "$TESTDIR/household.sh"
+  $ begin
+  $ each 0 <<'.' >/dev/null
+  > bill add Groceries 400 --next 2026-03-01
+  > nontrack add Rent 20 --next 2026-03-01
+  > goal add Trip 50 --target 900 --next 2026-02-05
+  > debt add Car 100 --borrowed 5000 --next 2026-02-05 --date 2026-01-01
+  > bank-account add Visa --bank First --type credit-card --date 2026-01-01
+  > account add Euros --type asset --currency EUR
+  > .
+
+An item's name stands for its account; a kind tells two items apart:
+
+  $ kiv transaction add 3 --debit Groceries --credit Visa --date 2026-02-01
+  Posted transaction 3.
+  $ kiv ledger Groceries
+  5 Groceries
+  Number  Date        Description  Other account  Change  Balance  Status
+       3  2026-02-01               Visa            $3.00    $3.00  none
+  $ kiv ledger Rent
+  kiv: Several accounts are named 'Rent'; write one of: bill:Rent, nontrack:Rent.
+  [1]
+  $ kiv ledger nontrack:Rent --json | grep name
+          "name": "Rent [Budget Item]",
+  $ kiv ledger 'Salary [Budget Item]' | head -1
+  4 Salary
+  $ kiv ledger wage:Rent
+  kiv: There is no account 'wage:Rent'; see kiv accounts.
+  [1]
+  $ kiv ledger Grocereis
+  kiv: There is no account 'Grocereis'; did you mean 'Groceries'?
+  [1]
+  $ kiv account recode Trip --name Journey
+  The account 7 Assets:Trip is now 7 Assets:Journey.
+  $ kiv ledger Trip | head -1
+  7 Journey
+
+Without an account the last one pays, and at first the first checking account:
+
+  $ kiv spend 42.10 Groceries --payee Market --reason weekly --date 2026-02-03
+  Spent $42.10 from Visa on Groceries (transaction 4).
+  $ kiv spend 7 bill:Rent --date 2026-02-03
+  Spent $7.00 from Checking on bill:Rent (transaction 5).
+  $ kiv spend 100 Car --from Checking --date 2026-02-04
+  Spent $100.00 from Checking on Car (transaction 6).
+  $ kiv spend 5 Groceries --from bill:Rent
+  kiv: 'bill:Rent' keeps no money; name an account such as a bank account, a card or cash.
+  [1]
+  $ kiv spend 5 Checking
+  kiv: Money is not spent on 'Checking'; name a budget item or an expense account, or move it to 'Checking'.
+  [1]
+  $ kiv earn 3100 Salary --payee Works --date 2026-02-25
+  Earned $3,100.00 from Salary to Checking (transaction 7).
+  $ kiv earn 5 Trip
+  kiv: Money is not earned from 'Journey'; name a wage or an income account, or move it from 'Journey'.
+  [1]
+
+  $ printf 'date,amount,text\n2026-02-10,-9.50,Baker\n' >bank.csv
+  $ kiv import bank.csv --into Checking --against Groceries --dry-run
+  Line  Date        Description  Debit      Credit    Amount
+     2  2026-02-10  Baker        Groceries  Checking   $9.50
+  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  Dry run: nothing is saved.
+
+Money moves between any accounts, and the receiver is debited:
+
+  $ kiv transfer Checking Visa 420.15 --date 2026-02-26
+  Posted transaction 8.
+  $ kiv transfer Checking Car 50 --description 'Bank | extra' --date 2026-02-27
+  Posted transaction 9.
+  $ kiv transfer Visa Trip 12 --dry-run --json | grep -E 'credit"|debit"|description'
+      "credit": 9,
+      "debit": 7,
+      "description": "Transfer",
+  $ kiv transactions
+  Number  Date        Description      Debit                          Credit                            Amount
+       1  2026-01-01                   Checking                       Opening Balances USD [Equity]  $2,500.00
+       2  2026-01-01                   Opening Balances USD [Equity]  Car                            $5,000.00
+       3  2026-02-01                   Groceries                      Visa                               $3.00
+       4  2026-02-03  Market | weekly  Groceries                      Visa                              $42.10
+       5  2026-02-03                   bill:Rent                      Checking                           $7.00
+       6  2026-02-04                   Car                            Checking                         $100.00
+       7  2026-02-25  Works            Checking                       Salary                         $3,100.00
+       8  2026-02-26  Transfer         Visa                           Checking                         $420.15
+       9  2026-02-27  Bank | extra     Car                            Checking                          $50.00
+
+A search looks at all of it, and sums up what was spent and earned:
+
+  $ kiv find groceries --date 2026-03-15
+  Number  Date        Description      Debit      Credit  Amount
+       3  2026-02-01                   Groceries  Visa     $3.00
+       4  2026-02-03  Market | weekly  Groceries  Visa    $42.10
+  2 of 9, together -$45.10.
+  $ kiv find --date 2026-03-15 -- february '>50' not:cleared -works -visa
+  Number  Date        Description  Debit  Credit     Amount
+       6  2026-02-04               Car    Checking  $100.00
+  1 of 9, together $0.00.
+  $ kiv find 'item:car <=100' --json | grep -E 'count|of"|filter|amount"'
+      "count": 2,
+      "filter": "item:car <=100",
+      "of": 9,
+              "amount": "0.00",
+              "amount": {
+                  "amount": "100.00",
+              "amount": {
+                  "amount": "50.00",
+  $ kiv find '>abc'
+  kiv: '>abc' names no amounts; write them like >50, <20, =12.30 or 50..80.
+  [2]
+  $ kiv find nothing
+  No transaction fits.
+  0 of 9, together 0.

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "workbench/entry/description.h"
+#include "workbench/entry/former_entries.h"
+#include "workbench/errors.h"
+#include "workbench/search/own_change.h"
+#include "workbench/search/transaction_filter.h"
+
+#include "support/accounting.h"
+
+using namespace kiv;
+using namespace kiv::test;
+using accounting::Transaction;
+using workbench::AccountIndex;
+using workbench::Description;
+using namespace Qt::Literals::StringLiterals;
+
+/// What people type to enter and find transactions, and what they are shown.
+class TestEntry : public QObject {
+    Q_OBJECT
+
+private slots:
+    void searchesFindWhatTheTableSays_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QFile table(QFINDTESTDATA("filters.txt"));
+        QVERIFY(table.open(QFile::ReadOnly));
+        const QStringList rows =
+            QString::fromUtf8(table.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        for (const QString &row : rows) {
+            if (!row.startsWith(u'#'))
+                QTest::newRow(row.section(u'|', 0, 0).trimmed().toUtf8())
+                    << row.section(u'|', 1).trimmed();
+        }
+    }
+    void searchesFindWhatTheTableSays()
+    {
+        QFETCH(const QString, answer);
+        const AccountIndex index = accounts();
+        const QString search = QString::fromUtf8(QTest::currentDataTag());
+        QStringList found;
+        try {
+            const workbench::TransactionFilter filter(search, index, day("2026-03-20"));
+            for (const Transaction &transaction : transactions()) {
+                if (filter.matches(transaction))
+                    found += QString::number(transaction.number()->integer());
+            }
+            const QString again = workbench::filterText(filter.parts());
+            QCOMPARE(workbench::filterParts(again), filter.parts());
+        } catch (const foundation::Error &error) {
+            QVERIFY2(answer.startsWith(u"! "_s) && error.message().startsWith(answer.sliced(2)),
+                     qPrintable(error.message()));
+            return;
+        }
+        QCOMPARE(found.join(u' '), answer);
+    }
+
+    void spendingIsNegativeAndMovingIsNothing()
+    {
+        workbench::OwnChange change(accounts());
+        QStringList sums;
+        for (const Transaction &transaction : transactions())
+            change.add(transaction);
+        for (const numira::Money &sum : change.sums())
+            sums += QString::fromStdString(numira::toText(sum)); // 5 and 7 only move money
+        QCOMPARE(sums.join(u' '), u"1795.60 -50.01"_s);
+    }
+
+    void descriptionsAreTakenApartAndPutTogether_data()
+    {
+        QTest::addColumn<QString>("parts");
+        for (const auto &[text, parts] : {std::pair("Market | weekly [id 7]", "Market/weekly/7"),
+                                          {"weekly", "/weekly/"},
+                                          {"Market |", "Market//"},
+                                          {"| a | b [id 1] [id 2]", "/a | b/1,2"},
+                                          {"[id 7]", "//7"},
+                                          {"Lunch [x]", "/Lunch [x]/"}})
+            QTest::newRow(text) << QString::fromLatin1(parts);
+    }
+    void descriptionsAreTakenApartAndPutTogether()
+    {
+        QFETCH(QString, parts);
+        const QString text = QString::fromLatin1(QTest::currentDataTag());
+        const Description read = Description::of(text);
+        QCOMPARE(read.payee + u'/' + read.reason + u'/' + read.bankIds.join(u','), parts);
+        QCOMPARE(read.text(), text);
+    }
+
+    void payeesAreCompletedAndTheirNewestEntryIsKnown()
+    {
+        std::vector<Transaction> all = transactions();
+        const auto add = [&all](const char *on, const char *amount, const QString &text) {
+            all.emplace_back(day(on), no(3), no(1), usd(amount), text,
+                             txn(static_cast<std::uint16_t>(all.size() + 1)));
+        };
+        add("2024-01-01", "1", u"Mill | x"_s);
+        add("2024-01-02", "1", u"Mill | x"_s);
+        add("2024-01-03", "1", u"Mill | x"_s);
+        add("2026-03-04", "9", u"market | earlier"_s);
+        add("2026-03-05", "8", u"MARKET |"_s);
+        const workbench::FormerEntries former(all);
+        QCOMPARE(former.payees(u"M"_s), (QStringList{u"MARKET"_s, u"Mill"_s}));
+        QCOMPARE(former.payees(u"zoe"_s), QStringList{u"Chez Zoé"_s});
+        QCOMPARE(former.payees({}, 1), QStringList{u"MARKET"_s});
+        const auto *newest = former.newest(u"market"_s);
+        QVERIFY(newest);
+        QCOMPARE(newest->amount, usd("8"));
+        QCOMPARE(newest->credited, no(1));
+        QVERIFY(!former.newest(u"mark"_s));
+    }
+
+private:
+    static AccountIndex accounts()
+    {
+        using enum accounting::AccountTypes;
+        std::set<accounting::Account> all;
+        std::uint32_t number = 0;
+        for (const auto &[type, name] : {std::pair(Asset, u"Checking"_s),
+                                         {Asset, u"Savings"_s},
+                                         {Expense, u"Groceries [Budget Item]"_s},
+                                         {Expense, u"Café & Bar"_s},
+                                         {Income, u"Job [Budget Item]"_s},
+                                         {Liability, u"Visa"_s}}) {
+            all.emplace(type, accounting::AccountCode(no(++number), name, std::nullopt), usd("0"),
+                        false);
+        }
+        return AccountIndex(std::move(all));
+    }
+    static std::vector<Transaction> transactions()
+    {
+        using enum accounting::TransactionStatuses;
+        std::vector<Transaction> all;
+        const auto add = [&all](const char *on, std::uint32_t debit, std::uint32_t credit,
+                                const numira::Money &amount, const char *text, auto debitStatus,
+                                auto creditStatus) {
+            all.push_back(Transaction(day(on), no(debit), no(credit), amount,
+                                      QString::fromUtf8(text),
+                                      txn(static_cast<std::uint16_t>(all.size() + 1)))
+                              .withStatuses(debitStatus, creditStatus));
+        };
+        add("2025-12-31", 3, 1, usd("50"), "Market | weekly shopping [id 4711]", None, Reconciled);
+        add("2026-03-05", 3, 1, usd("42.10"), "Market | bread", None, Cleared);
+        add("2026-03-20", 4, 1, usd("12.30"), "Chez Zoé | crème brûlée", None, None);
+        add("2026-02-28", 1, 5, usd("1900"), "work", Cleared, None);
+        add("2026-03-01", 2, 1, usd("80"), "to market day", Reconciled, None);
+        add("2025-05-10", 4, 6, money("EUR", "50.01"), "Shop 50 | march past", None, None);
+        add("2026-03-19", 6, 1, usd("420.15"), "", None, None);
+        return all;
+    }
+};
+
+static const kiv::test::Suite<TestEntry> suite;
+#include "tst_entry.moc"
