@@ -19,11 +19,12 @@ constexpr qint64 daysApart = 15;
 
 /// Where the identifier's bracket begins, at the front or behind a blank; -1 when there
 /// is none.
-qsizetype idBegin(const QString &description)
+qsizetype idBegin(QStringView description)
 {
+    static const QString inside = u' ' + opening;
     if (!description.endsWith(u']'))
         return -1;
-    const qsizetype blank = description.lastIndexOf(u' ' + opening);
+    const qsizetype blank = description.lastIndexOf(inside);
     return blank < 0 && !description.startsWith(opening) ? -1 : blank + 1;
 }
 
@@ -57,7 +58,7 @@ QString bankIdOf(const QString &description)
                : description.mid(at + opening.size(), description.size() - at - opening.size() - 1);
 }
 
-QString withoutBankId(const QString &description)
+QStringView withoutBankId(QStringView description)
 {
     const qsizetype at = idBegin(description);
     return at < 0 ? description : description.first(at).trimmed();

@@ -18,7 +18,7 @@ namespace kiv::interchange {
 /// The identifier that a description ends with; empty when there is none.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString bankIdOf(const QString &description);
 /// The description without the identifier that it ends with.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QString withoutBankId(const QString &description);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QStringView withoutBankId(QStringView description);
 
 /// Clears identifiers that do not identify: placeholders such as "0" or "NOTPROVIDED", and
 /// ones shared by entries that differ in day, amount or text.

@@ -8,17 +8,23 @@ namespace kiv::workbench {
 Description Description::of(const QString &text)
 {
     Description parts;
-    QString rest = text;
-    for (QString id = interchange::bankIdOf(rest); !id.isEmpty();
-         id = interchange::bankIdOf(rest)) {
-        parts.bankIds.prepend(id);
-        rest = interchange::withoutBankId(rest);
-    }
-    const qsizetype bar = rest.indexOf(u'|');
+    const QStringView told = withoutIds(text);
+    for (QString rest = text; rest.size() > told.size();
+         rest = interchange::withoutBankId(rest).toString())
+        parts.bankIds.prepend(interchange::bankIdOf(rest));
+    const qsizetype bar = told.indexOf(u'|');
     if (bar >= 0)
-        parts.payee = rest.first(bar).trimmed();
-    parts.reason = rest.sliced(bar + 1).trimmed();
+        parts.payee = told.first(bar).trimmed().toString();
+    parts.reason = told.sliced(bar + 1).trimmed().toString();
     return parts;
+}
+
+QStringView Description::withoutIds(QStringView text)
+{
+    for (QStringView rest = interchange::withoutBankId(text); rest.size() < text.size();
+         rest = interchange::withoutBankId(text))
+        text = rest;
+    return text;
 }
 
 Description Description::of(const std::optional<QString> &text)

@@ -5,6 +5,7 @@
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QStringView>
 
 #include <optional>
 
@@ -22,6 +23,8 @@ struct KIV_WORKBENCH_EXPORT Description {
     [[nodiscard]] static Description of(const QString &text);
     /// The same for a transaction's description.
     [[nodiscard]] static Description of(const std::optional<QString> &text);
+    /// The part of a description in front of the identifiers.
+    [[nodiscard]] static QStringView withoutIds(QStringView text);
     /// The whole description; nothing if all parts are empty. Bars in the payee become
     /// slashes, and blanks at the ends are lost.
     [[nodiscard]] std::optional<QString> text() const;

@@ -90,26 +90,26 @@ std::set<AccountNumber> accountsNamed(const FilterPart &part, const AccountIndex
 /// The texts of a transaction, folded when first asked for.
 class Texts {
 public:
-    explicit Texts(const Transaction &transaction) : m_description(transaction.description()) {}
+    explicit Texts(const Transaction &transaction)
+    {
+        if (const auto &description = transaction.description())
+            m_told = Description::withoutIds(*description);
+    }
 
     [[nodiscard]] bool hold(const QString &word)
     {
-        if (!m_all && m_description) {
-            // Identifiers of banks are not searched.
-            m_all = folded(m_description->endsWith(u']') ? Description::of(*m_description).shown()
-                                                         : *m_description);
-        }
-        return m_all && m_all->contains(word);
+        if (!m_folded)
+            m_folded = folded(m_told);
+        return m_folded->contains(word);
     }
     [[nodiscard]] bool payeeHolds(const QString &word) const
     {
-        return m_description && m_description->contains(u'|') &&
-               folded(Description::of(*m_description).payee).contains(word);
+        return folded(m_told.first(std::max<qsizetype>(m_told.indexOf(u'|'), 0))).contains(word);
     }
 
 private:
-    const std::optional<QString> &m_description;
-    std::optional<QString> m_all;
+    QStringView m_told; ///< payee and reason
+    std::optional<QString> m_folded;
 };
 
 } // namespace
