@@ -94,9 +94,8 @@ private slots:
             all.emplace_back(day(on), no(3), no(1), usd(amount), text,
                              txn(static_cast<std::uint16_t>(all.size() + 1)));
         };
-        add("2024-01-01", "1", u"Mill | x"_s);
-        add("2024-01-02", "1", u"Mill | x"_s);
-        add("2024-01-03", "1", u"Mill | x"_s);
+        for (int times = 0; times < 6; ++times)
+            add("2024-01-01", "1", u"Mill | x"_s); // often, but long ago
         add("2026-03-04", "9", u"market | earlier"_s);
         add("2026-03-05", "8", u"MARKET |"_s);
         const workbench::FormerEntries former(all);
