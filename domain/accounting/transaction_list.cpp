@@ -91,4 +91,19 @@ bool operator==(const TransactionList &a, const TransactionList &b)
            (a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), b.end()));
 }
 
+std::vector<TransactionNumber> changedTransactions(const TransactionList &before,
+                                                   const TransactionList &after)
+{
+    if (before.m_state == after.m_state && before.m_account == after.m_account)
+        return {};
+    static const internal::TransactionTable none;
+    std::vector<TransactionNumber> changed =
+        differences(before.m_state ? before.m_state->table() : none,
+                    after.m_state ? after.m_state->table() : none);
+    std::erase_if(changed, [&](TransactionNumber number) {
+        return !before.contains(number) && !after.contains(number);
+    });
+    return changed;
+}
+
 } // namespace kiv::accounting

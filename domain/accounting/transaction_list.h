@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <vector>
 
 namespace kiv::accounting {
 
@@ -91,5 +92,10 @@ private:
     std::shared_ptr<const internal::LedgerState> m_state;
     const internal::AccountRecord *m_account = nullptr; ///< in m_state, if any
 };
+
+/// The numbers of the transactions that only one list has, or that differ in anything but
+/// the names of their accounts, in order. What the ledgers of both share is not looked at.
+[[nodiscard]] KIV_ACCOUNTING_EXPORT std::vector<TransactionNumber>
+changedTransactions(const TransactionList &before, const TransactionList &after);
 
 } // namespace kiv::accounting

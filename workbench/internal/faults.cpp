@@ -105,6 +105,25 @@ EntryError notAFilter(const QString &part, const QStringList &similar)
     return EntryError(didYouMean(QObject::tr("'%1' is not a filter").arg(part), similar));
 }
 
+EntryError twoCurrencies(const QString &sum)
+{
+    return EntryError(
+        QObject::tr("'%1' has two currencies; enter amounts of one currency.").arg(sum));
+}
+
+EntryError notAnEvenDivision(const QString &sum)
+{
+    return EntryError(
+        QObject::tr("'%1' does not come out even; enter the amount itself.").arg(sum));
+}
+
+EntryError notADay(const QString &text)
+{
+    return EntryError(
+        QObject::tr("'%1' is not a day; write one like 2026-03-31, 3, 5-2, +7 or today.")
+            .arg(text));
+}
+
 Refusal noSuchAccount(const QString &text, const QStringList &similar)
 {
     return missed(QObject::tr("There is no account '%1'").arg(text), similar, Remedy::ListAccounts);

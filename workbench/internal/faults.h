@@ -20,6 +20,11 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] EntryError notAPercentage(const QString &text);
 [[nodiscard]] EntryError currencyGivenTwice(const QString &currency);
+/// A sum of amounts in two currencies.
+[[nodiscard]] EntryError twoCurrencies(const QString &sum);
+[[nodiscard]] EntryError notAnEvenDivision(const QString &sum);
+/// As notADate(), where short forms are read, too.
+[[nodiscard]] EntryError notADay(const QString &text);
 
 // ---- searches: `part` is the part as typed -----------------------------------
 
