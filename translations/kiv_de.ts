@@ -4652,6 +4652,162 @@
         <source>Move money between accounts</source>
         <translation>Geld zwischen Konten umbuchen</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; has two currencies; enter amounts of one currency.</source>
+        <translation>„%1“ hat zwei Währungen; Beträge in einer Währung eingeben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not come out even; enter the amount itself.</source>
+        <translation>„%1“ geht nicht auf; den Betrag selbst eingeben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a day; write one like 2026-03-31, 3, 5-2, +7 or today.</source>
+        <translation>„%1“ ist kein Tag; richtig ist etwa 2026-03-31, 3, 5-2, +7 oder heute.</translation>
+    </message>
+    <message>
+        <source>“%1” has no category: it was neither spent nor earned.</source>
+        <translation>„%1“ hat keine Kategorie: es wurde weder ausgegeben noch eingenommen.</translation>
+    </message>
+    <message>
+        <source>“%1” is reconciled; take the reconciliation back first.</source>
+        <translation>„%1“ ist abgeglichen; zuerst den Abgleich zurücknehmen.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Spent %1 on %2.</source>
+        <translation>%1 für %2 ausgegeben.</translation>
+    </message>
+    <message>
+        <source>spending %1 on %2</source>
+        <translation>%1 für %2 ausgeben</translation>
+    </message>
+    <message>
+        <source>Earned %1 from %2.</source>
+        <translation>%1 aus %2 eingenommen.</translation>
+    </message>
+    <message>
+        <source>earning %1 from %2</source>
+        <translation>%1 aus %2 einnehmen</translation>
+    </message>
+    <message>
+        <source>Moved %1 from %2 to %3.</source>
+        <translation>%1 von %2 nach %3 umgebucht.</translation>
+    </message>
+    <message>
+        <source>moving %1 from %2 to %3</source>
+        <translation>%1 von %2 nach %3 umbuchen</translation>
+    </message>
+    <message>
+        <source>Changed “%1”.</source>
+        <translation>„%1“ geändert.</translation>
+    </message>
+    <message>
+        <source>changing “%1”</source>
+        <translation>„%1“ ändern</translation>
+    </message>
+    <message>
+        <source>Refunded %1 of “%2”.</source>
+        <translation>%1 von „%2“ erstattet.</translation>
+    </message>
+    <message>
+        <source>refunding %1 of “%2”</source>
+        <translation>%1 von „%2“ erstatten</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>„%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>„%1“ entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n transaction(s).</source>
+        <translation>
+            <numerusform>%n Buchung entfernt.</numerusform>
+            <numerusform>%n Buchungen entfernt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>removing %n transaction(s)</source>
+        <translation>
+            <numerusform>%n Buchung entfernen</numerusform>
+            <numerusform>%n Buchungen entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as cleared.</source>
+        <translation>
+            <numerusform>%n Buchung als bestätigt markiert.</numerusform>
+            <numerusform>%n Buchungen als bestätigt markiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as cleared</source>
+        <translation>
+            <numerusform>%n Buchung als bestätigt markieren</numerusform>
+            <numerusform>%n Buchungen als bestätigt markieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not cleared.</source>
+        <translation>
+            <numerusform>%n Buchung als nicht bestätigt markiert.</numerusform>
+            <numerusform>%n Buchungen als nicht bestätigt markiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not cleared</source>
+        <translation>
+            <numerusform>%n Buchung als nicht bestätigt markieren</numerusform>
+            <numerusform>%n Buchungen als nicht bestätigt markieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as reconciled.</source>
+        <translation>
+            <numerusform>%n Buchung als abgeglichen markiert.</numerusform>
+            <numerusform>%n Buchungen als abgeglichen markiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as reconciled</source>
+        <translation>
+            <numerusform>%n Buchung als abgeglichen markieren</numerusform>
+            <numerusform>%n Buchungen als abgeglichen markieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not reconciled.</source>
+        <translation>
+            <numerusform>%n Buchung als nicht abgeglichen markiert.</numerusform>
+            <numerusform>%n Buchungen als nicht abgeglichen markiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not reconciled</source>
+        <translation>
+            <numerusform>%n Buchung als nicht abgeglichen markieren</numerusform>
+            <numerusform>%n Buchungen als nicht abgeglichen markieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under %1.</source>
+        <translation>
+            <numerusform>%n Buchung unter %1 eingeordnet.</numerusform>
+            <numerusform>%n Buchungen unter %1 eingeordnet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>putting %n transaction(s) under %1</source>
+        <translation>
+            <numerusform>%n Buchung unter %1 einordnen</numerusform>
+            <numerusform>%n Buchungen unter %1 einordnen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4666,6 +4822,24 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Es gibt noch keine Konten. Sie kommen mit Banken und mit den Posten des Budgets.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::CategoryRow</name>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under</source>
+        <translation>
+            <numerusform>%n Buchung einordnen unter</numerusform>
+            <numerusform>%n Buchungen einordnen unter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose an item or a category.</source>
+        <translation>Einen Posten oder eine Kategorie wählen.</translation>
     </message>
 </context>
 <context>
@@ -4713,6 +4887,356 @@
     <message>
         <source>Another amount is for one line.</source>
         <translation>Ein anderer Betrag gilt für eine Zeile.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::EntryRow</name>
+    <message>
+        <source>Kind of transaction</source>
+        <translation>Art der Buchung</translation>
+    </message>
+    <message>
+        <source>&amp;Spent</source>
+        <translation>Au&amp;sgegeben</translation>
+    </message>
+    <message>
+        <source>Earne&amp;d</source>
+        <translation>E&amp;ingenommen</translation>
+    </message>
+    <message>
+        <source>&amp;Moved</source>
+        <translation>Umgebu&amp;cht</translation>
+    </message>
+    <message>
+        <source>&amp;Amount</source>
+        <translation>Bet&amp;rag</translation>
+    </message>
+    <message>
+        <source>Reaso&amp;n</source>
+        <translation>&amp;Zweck</translation>
+    </message>
+    <message>
+        <source>Da&amp;y</source>
+        <translation>Datu&amp;m</translation>
+    </message>
+    <message>
+        <source>T&amp;o</source>
+        <translation>&amp;Nach</translation>
+    </message>
+    <message>
+        <source>F&amp;rom</source>
+        <translation>V&amp;on</translation>
+    </message>
+    <message>
+        <source>&amp;On</source>
+        <translation>&amp;Wofür</translation>
+    </message>
+    <message>
+        <source>&amp;Payer</source>
+        <translation>Zah&amp;ler</translation>
+    </message>
+    <message>
+        <source>&amp;Payee</source>
+        <translation>Em&amp;pfänger</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Eintragen</translation>
+    </message>
+    <message>
+        <source>Change:</source>
+        <translation>Ändern:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Refund: the amount that was given back, and the day.</source>
+        <translation>Erstattung: der Betrag, der zurückkam, und das Datum.</translation>
+    </message>
+    <message>
+        <source>Refund</source>
+        <translation>Erstattung</translation>
+    </message>
+    <message>
+        <source>Choose what the money was spent on.</source>
+        <translation>Wählen, wofür das Geld ausgegeben wurde.</translation>
+    </message>
+    <message>
+        <source>Choose where the money came from.</source>
+        <translation>Wählen, woher das Geld kam.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money went to.</source>
+        <translation>Das Konto wählen, auf das das Geld ging.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money came to.</source>
+        <translation>Das Konto wählen, auf das das Geld kam.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money left.</source>
+        <translation>Das Konto wählen, von dem das Geld abging.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::FilterBar</name>
+    <message>
+        <source>groceries &gt;50 march not:reconciled</source>
+        <translation>lebensmittel &gt;50 märz not:reconciled</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Vermerk</translation>
+    </message>
+    <message>
+        <source>Any mark</source>
+        <translation>Jeder Vermerk</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>Bestätigt</translation>
+    </message>
+    <message>
+        <source>Reconciled</source>
+        <translation>Abgeglichen</translation>
+    </message>
+    <message>
+        <source>Not reconciled</source>
+        <translation>Nicht abgeglichen</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>Any day</source>
+        <translation>Jeder Tag</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Dieser Monat</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>Letzter Monat</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Dieses Jahr</translation>
+    </message>
+    <message>
+        <source>Last year</source>
+        <translation>Letztes Jahr</translation>
+    </message>
+    <message>
+        <source>Account or item</source>
+        <translation>Konto oder Posten</translation>
+    </message>
+    <message>
+        <source>Any account or item</source>
+        <translation>Jedes Konto, jeder Posten</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterFilter</name>
+    <message numerus="yes">
+        <source>%n transaction(s)</source>
+        <translation>
+            <numerusform>%n Buchung</numerusform>
+            <numerusform>%n Buchungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, together %2</source>
+        <translation>%1, zusammen %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterModel</name>
+    <message>
+        <source>cleared</source>
+        <translation>bestätigt</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>abgeglichen</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>Refund</source>
+        <translation>Erstattung</translation>
+    </message>
+    <message>
+        <source>Refund: %1</source>
+        <translation>Erstattung: %1</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>minus %1</source>
+        <translation>minus %1</translation>
+    </message>
+    <message>
+        <source>no payee or reason</source>
+        <translation>ohne Empfänger und Zweck</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>von %1 nach %2</translation>
+    </message>
+    <message>
+        <source>no balance</source>
+        <translation>kein Saldo</translation>
+    </message>
+    <message>
+        <source>balance %1</source>
+        <translation>Saldo %1</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Payee and reason</source>
+        <translation>Empfänger und Zweck</translation>
+    </message>
+    <message>
+        <source>Account or item</source>
+        <translation>Konto oder Posten</translation>
+    </message>
+    <message>
+        <source>From and to</source>
+        <translation>Von und nach</translation>
+    </message>
+    <message>
+        <source>Debit</source>
+        <translation>Soll</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Haben</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Vermerk</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Saldo</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterPage</name>
+    <message>
+        <source>Register</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount</source>
+        <translation>&amp;Konto</translation>
+    </message>
+    <message>
+        <source>Transactions</source>
+        <translation>Buchungen</translation>
+    </message>
+    <message>
+        <source>&amp;New transaction</source>
+        <translation>&amp;Neue Buchung</translation>
+    </message>
+    <message>
+        <source>New, e&amp;arned</source>
+        <translation>Neu, &amp;eingenommen</translation>
+    </message>
+    <message>
+        <source>New &amp;transfer</source>
+        <translation>Neue &amp;Umbuchung</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Ände&amp;rn</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>&amp;Enter again</source>
+        <translation>Erneut ein&amp;geben</translation>
+    </message>
+    <message>
+        <source>Re&amp;fund</source>
+        <translation>Er&amp;statten</translation>
+    </message>
+    <message>
+        <source>&amp;Item or category</source>
+        <translation>&amp;Posten oder Kategorie</translation>
+    </message>
+    <message>
+        <source>&amp;Find transactions</source>
+        <translation>Buchungen &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Entry row</source>
+        <translation>&amp;Eingabezeile</translation>
+    </message>
+    <message>
+        <source>Mark as c&amp;leared</source>
+        <translation>Als &amp;bestätigt markieren</translation>
+    </message>
+    <message>
+        <source>Mark as n&amp;ot cleared</source>
+        <translation>Als n&amp;icht bestätigt markieren</translation>
+    </message>
+    <message>
+        <source>Mark as reconcile&amp;d</source>
+        <translation>Als &amp;abgeglichen markieren</translation>
+    </message>
+    <message>
+        <source>&amp;Mark as not reconciled</source>
+        <translation>Als nicht abgegli&amp;chen markieren</translation>
+    </message>
+    <message>
+        <source>The register is not shown.</source>
+        <translation>Das Register wird nicht gezeigt.</translation>
+    </message>
+    <message>
+        <source>No transaction is selected.</source>
+        <translation>Keine Buchung ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>abgeglichen</translation>
+    </message>
+    <message>
+        <source>All accounts</source>
+        <translation>Alle Konten</translation>
     </message>
 </context>
 <context>

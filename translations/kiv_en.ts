@@ -136,5 +136,109 @@
             <numerusform>skipping %n due items</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Removed %n transaction(s).</source>
+        <translation>
+            <numerusform>Removed %n transaction.</numerusform>
+            <numerusform>Removed %n transactions.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>removing %n transaction(s)</source>
+        <translation>
+            <numerusform>removing %n transaction</numerusform>
+            <numerusform>removing %n transactions</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as cleared.</source>
+        <translation>
+            <numerusform>Marked %n transaction as cleared.</numerusform>
+            <numerusform>Marked %n transactions as cleared.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as cleared</source>
+        <translation>
+            <numerusform>marking %n transaction as cleared</numerusform>
+            <numerusform>marking %n transactions as cleared</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not cleared.</source>
+        <translation>
+            <numerusform>Marked %n transaction as not cleared.</numerusform>
+            <numerusform>Marked %n transactions as not cleared.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not cleared</source>
+        <translation>
+            <numerusform>marking %n transaction as not cleared</numerusform>
+            <numerusform>marking %n transactions as not cleared</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as reconciled.</source>
+        <translation>
+            <numerusform>Marked %n transaction as reconciled.</numerusform>
+            <numerusform>Marked %n transactions as reconciled.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as reconciled</source>
+        <translation>
+            <numerusform>marking %n transaction as reconciled</numerusform>
+            <numerusform>marking %n transactions as reconciled</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not reconciled.</source>
+        <translation>
+            <numerusform>Marked %n transaction as not reconciled.</numerusform>
+            <numerusform>Marked %n transactions as not reconciled.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not reconciled</source>
+        <translation>
+            <numerusform>marking %n transaction as not reconciled</numerusform>
+            <numerusform>marking %n transactions as not reconciled</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under %1.</source>
+        <translation>
+            <numerusform>Put %n transaction under %1.</numerusform>
+            <numerusform>Put %n transactions under %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>putting %n transaction(s) under %1</source>
+        <translation>
+            <numerusform>putting %n transaction under %1</numerusform>
+            <numerusform>putting %n transactions under %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::CategoryRow</name>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under</source>
+        <translation>
+            <numerusform>Put %n transaction under</numerusform>
+            <numerusform>Put %n transactions under</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterFilter</name>
+    <message numerus="yes">
+        <source>%n transaction(s)</source>
+        <translation>
+            <numerusform>%n transaction</numerusform>
+            <numerusform>%n transactions</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

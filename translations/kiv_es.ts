@@ -4652,6 +4652,162 @@
         <source>Move money between accounts</source>
         <translation>Traspasar dinero entre cuentas</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; has two currencies; enter amounts of one currency.</source>
+        <translation>«%1» tiene dos monedas; introducir importes de una sola moneda.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not come out even; enter the amount itself.</source>
+        <translation>«%1» no da un importe exacto; introducir el importe mismo.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a day; write one like 2026-03-31, 3, 5-2, +7 or today.</source>
+        <translation>«%1» no es un día; debe ser como 2026-03-31, 3, 5-2, +7 u hoy.</translation>
+    </message>
+    <message>
+        <source>“%1” has no category: it was neither spent nor earned.</source>
+        <translation>«%1» no tiene categoría: no se gastó ni se ingresó.</translation>
+    </message>
+    <message>
+        <source>“%1” is reconciled; take the reconciliation back first.</source>
+        <translation>«%1» está conciliado; primero se debe deshacer la conciliación.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Spent %1 on %2.</source>
+        <translation>%1 gastado en %2.</translation>
+    </message>
+    <message>
+        <source>spending %1 on %2</source>
+        <translation>gastar %1 en %2</translation>
+    </message>
+    <message>
+        <source>Earned %1 from %2.</source>
+        <translation>%1 ingresado de %2.</translation>
+    </message>
+    <message>
+        <source>earning %1 from %2</source>
+        <translation>ingresar %1 de %2</translation>
+    </message>
+    <message>
+        <source>Moved %1 from %2 to %3.</source>
+        <translation>%1 traspasado de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>moving %1 from %2 to %3</source>
+        <translation>traspasar %1 de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Changed “%1”.</source>
+        <translation>«%1»: modificado.</translation>
+    </message>
+    <message>
+        <source>changing “%1”</source>
+        <translation>modificar «%1»</translation>
+    </message>
+    <message>
+        <source>Refunded %1 of “%2”.</source>
+        <translation>%1 de «%2» reembolsado.</translation>
+    </message>
+    <message>
+        <source>refunding %1 of “%2”</source>
+        <translation>reembolsar %1 de «%2»</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>«%1»: eliminado.</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>eliminar «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n transaction(s).</source>
+        <translation>
+            <numerusform>%n asiento eliminado.</numerusform>
+            <numerusform>%n asientos eliminados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>removing %n transaction(s)</source>
+        <translation>
+            <numerusform>eliminar %n asiento</numerusform>
+            <numerusform>eliminar %n asientos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as cleared.</source>
+        <translation>
+            <numerusform>%n asiento marcado como confirmado.</numerusform>
+            <numerusform>%n asientos marcados como confirmados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as cleared</source>
+        <translation>
+            <numerusform>marcar %n asiento como confirmado</numerusform>
+            <numerusform>marcar %n asientos como confirmados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not cleared.</source>
+        <translation>
+            <numerusform>%n asiento marcado como no confirmado.</numerusform>
+            <numerusform>%n asientos marcados como no confirmados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not cleared</source>
+        <translation>
+            <numerusform>marcar %n asiento como no confirmado</numerusform>
+            <numerusform>marcar %n asientos como no confirmados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as reconciled.</source>
+        <translation>
+            <numerusform>%n asiento marcado como conciliado.</numerusform>
+            <numerusform>%n asientos marcados como conciliados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as reconciled</source>
+        <translation>
+            <numerusform>marcar %n asiento como conciliado</numerusform>
+            <numerusform>marcar %n asientos como conciliados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Marked %n transaction(s) as not reconciled.</source>
+        <translation>
+            <numerusform>%n asiento marcado como no conciliado.</numerusform>
+            <numerusform>%n asientos marcados como no conciliados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>marking %n transaction(s) as not reconciled</source>
+        <translation>
+            <numerusform>marcar %n asiento como no conciliado</numerusform>
+            <numerusform>marcar %n asientos como no conciliados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under %1.</source>
+        <translation>
+            <numerusform>%n asiento clasificado en %1.</numerusform>
+            <numerusform>%n asientos clasificados en %1.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>putting %n transaction(s) under %1</source>
+        <translation>
+            <numerusform>clasificar %n asiento en %1</numerusform>
+            <numerusform>clasificar %n asientos en %1</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4666,6 +4822,24 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Todavía no hay cuentas. Llegan con los bancos y con las partidas del presupuesto.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::CategoryRow</name>
+    <message>
+        <source>Change</source>
+        <translation>Modificar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Put %n transaction(s) under</source>
+        <translation>
+            <numerusform>Clasificar %n asiento en</numerusform>
+            <numerusform>Clasificar %n asientos en</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Choose an item or a category.</source>
+        <translation>Elegir una partida o una categoría.</translation>
     </message>
 </context>
 <context>
@@ -4713,6 +4887,356 @@
     <message>
         <source>Another amount is for one line.</source>
         <translation>Otro importe vale para una sola línea.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::EntryRow</name>
+    <message>
+        <source>Kind of transaction</source>
+        <translation>Tipo de asiento</translation>
+    </message>
+    <message>
+        <source>&amp;Spent</source>
+        <translation>Ga&amp;stado</translation>
+    </message>
+    <message>
+        <source>Earne&amp;d</source>
+        <translation>I&amp;ngresado</translation>
+    </message>
+    <message>
+        <source>&amp;Moved</source>
+        <translation>T&amp;raspasado</translation>
+    </message>
+    <message>
+        <source>&amp;Amount</source>
+        <translation>I&amp;mporte</translation>
+    </message>
+    <message>
+        <source>Reaso&amp;n</source>
+        <translation>As&amp;unto</translation>
+    </message>
+    <message>
+        <source>Da&amp;y</source>
+        <translation>&amp;Día</translation>
+    </message>
+    <message>
+        <source>T&amp;o</source>
+        <translation>Dest&amp;ino</translation>
+    </message>
+    <message>
+        <source>F&amp;rom</source>
+        <translation>&amp;Origen</translation>
+    </message>
+    <message>
+        <source>&amp;On</source>
+        <translation>&amp;Partida</translation>
+    </message>
+    <message>
+        <source>&amp;Payer</source>
+        <translation>De &amp;quién</translation>
+    </message>
+    <message>
+        <source>&amp;Payee</source>
+        <translation>A &amp;quién</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Change:</source>
+        <translation>Modificar:</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Refund: the amount that was given back, and the day.</source>
+        <translation>Reembolso: el importe devuelto y el día.</translation>
+    </message>
+    <message>
+        <source>Refund</source>
+        <translation>Reembolso</translation>
+    </message>
+    <message>
+        <source>Choose what the money was spent on.</source>
+        <translation>Elegir en qué se gastó el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose where the money came from.</source>
+        <translation>Elegir de dónde vino el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money went to.</source>
+        <translation>Elegir la cuenta a la que fue el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money came to.</source>
+        <translation>Elegir la cuenta a la que llegó el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money left.</source>
+        <translation>Elegir la cuenta de la que salió el dinero.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::FilterBar</name>
+    <message>
+        <source>groceries &gt;50 march not:reconciled</source>
+        <translation>comida &gt;50 marzo not:reconciled</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>&amp;Buscar</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Any mark</source>
+        <translation>Cualquier marca</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abierto</translation>
+    </message>
+    <message>
+        <source>Cleared</source>
+        <translation>Confirmado</translation>
+    </message>
+    <message>
+        <source>Reconciled</source>
+        <translation>Conciliado</translation>
+    </message>
+    <message>
+        <source>Not reconciled</source>
+        <translation>No conciliado</translation>
+    </message>
+    <message>
+        <source>Period</source>
+        <translation>Periodo</translation>
+    </message>
+    <message>
+        <source>Any day</source>
+        <translation>Cualquier día</translation>
+    </message>
+    <message>
+        <source>This month</source>
+        <translation>Este mes</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>El mes pasado</translation>
+    </message>
+    <message>
+        <source>This year</source>
+        <translation>Este año</translation>
+    </message>
+    <message>
+        <source>Last year</source>
+        <translation>El año pasado</translation>
+    </message>
+    <message>
+        <source>Account or item</source>
+        <translation>Cuenta o partida</translation>
+    </message>
+    <message>
+        <source>Any account or item</source>
+        <translation>Cualquier cuenta o partida</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterFilter</name>
+    <message numerus="yes">
+        <source>%n transaction(s)</source>
+        <translation>
+            <numerusform>%n asiento</numerusform>
+            <numerusform>%n asientos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1, together %2</source>
+        <translation>%1, en total %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterModel</name>
+    <message>
+        <source>cleared</source>
+        <translation>confirmado</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>conciliado</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>abierto</translation>
+    </message>
+    <message>
+        <source>Refund</source>
+        <translation>Reembolso</translation>
+    </message>
+    <message>
+        <source>Refund: %1</source>
+        <translation>Reembolso: %1</translation>
+    </message>
+    <message>
+        <source>%1 → %2</source>
+        <translation>%1 → %2</translation>
+    </message>
+    <message>
+        <source>minus %1</source>
+        <translation>menos %1</translation>
+    </message>
+    <message>
+        <source>no payee or reason</source>
+        <translation>sin beneficiario ni asunto</translation>
+    </message>
+    <message>
+        <source>from %1 to %2</source>
+        <translation>de %1 a %2</translation>
+    </message>
+    <message>
+        <source>no balance</source>
+        <translation>sin saldo</translation>
+    </message>
+    <message>
+        <source>balance %1</source>
+        <translation>saldo %1</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Payee and reason</source>
+        <translation>Beneficiario y asunto</translation>
+    </message>
+    <message>
+        <source>Account or item</source>
+        <translation>Cuenta o partida</translation>
+    </message>
+    <message>
+        <source>From and to</source>
+        <translation>De y a</translation>
+    </message>
+    <message>
+        <source>Debit</source>
+        <translation>Debe</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Haber</translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation>Marca</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Saldo</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterPage</name>
+    <message>
+        <source>Register</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>A&amp;ccount</source>
+        <translation>&amp;Cuenta</translation>
+    </message>
+    <message>
+        <source>Transactions</source>
+        <translation>Asientos</translation>
+    </message>
+    <message>
+        <source>&amp;New transaction</source>
+        <translation>&amp;Nuevo asiento</translation>
+    </message>
+    <message>
+        <source>New, e&amp;arned</source>
+        <translation>Nuevo, &amp;ingresado</translation>
+    </message>
+    <message>
+        <source>New &amp;transfer</source>
+        <translation>Nuevo &amp;traspaso</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Modificar</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>&amp;Enter again</source>
+        <translation>&amp;Repetir</translation>
+    </message>
+    <message>
+        <source>Re&amp;fund</source>
+        <translation>Reem&amp;bolsar</translation>
+    </message>
+    <message>
+        <source>&amp;Item or category</source>
+        <translation>&amp;Partida o categoría</translation>
+    </message>
+    <message>
+        <source>&amp;Find transactions</source>
+        <translation>&amp;Buscar asientos</translation>
+    </message>
+    <message>
+        <source>&amp;Entry row</source>
+        <translation>Línea de &amp;entrada</translation>
+    </message>
+    <message>
+        <source>Mark as c&amp;leared</source>
+        <translation>Marcar como &amp;confirmado</translation>
+    </message>
+    <message>
+        <source>Mark as n&amp;ot cleared</source>
+        <translation>Marcar como n&amp;o confirmado</translation>
+    </message>
+    <message>
+        <source>Mark as reconcile&amp;d</source>
+        <translation>Marcar como conci&amp;liado</translation>
+    </message>
+    <message>
+        <source>&amp;Mark as not reconciled</source>
+        <translation>Marcar como no concili&amp;ado</translation>
+    </message>
+    <message>
+        <source>The register is not shown.</source>
+        <translation>El registro no se muestra.</translation>
+    </message>
+    <message>
+        <source>No transaction is selected.</source>
+        <translation>No hay ningún asiento seleccionado.</translation>
+    </message>
+    <message>
+        <source>reconciled</source>
+        <translation>conciliado</translation>
+    </message>
+    <message>
+        <source>All accounts</source>
+        <translation>Todas las cuentas</translation>
     </message>
 </context>
 <context>

@@ -87,6 +87,9 @@ public:
     /// The same transactions, element by element.
     friend KIV_ACCOUNTING_EXPORT bool operator==(const TransactionList &a,
                                                  const TransactionList &b);
+    /// See the declaration outside.
+    friend KIV_ACCOUNTING_EXPORT std::vector<TransactionNumber>
+    changedTransactions(const TransactionList &before, const TransactionList &after);
 
 private:
     std::shared_ptr<const internal::LedgerState> m_state;

@@ -42,7 +42,7 @@ private slots:
         row("1 EUR + 2 USD", "'1 EUR + 2 USD' has two currencies; enter amounts of one currency.");
         row("2+*3", "'*3' is not an amount; write one like 1234.50 or '1234.50 USD'.");
         row("2+", "'' is not an amount; write one like 1234.50 or '1234.50 USD'.");
-        row("0.5*0.05", "The amount '0.5*0.05' has 3 decimals; USD has at most 2.");
+        row("0.5*0.05", "'0.5*0.05' has too many decimals; USD allows 2.");
         row("99999999999999999999999999*9",
             "The amount '99999999999999999999999999*9' is too large.");
     }

@@ -30,8 +30,7 @@ std::optional<QDate> namedDay(const QString &word, QDate today)
 std::optional<QDate> newest(std::optional<int> month, int day, QDate today)
 {
     for (QDate first(today.year(), today.month(), 1);
-         first.isValid() && first.year() >= today.year() - yearsMost;
-         first = first.addMonths(-1)) {
+         first.isValid() && first.year() >= today.year() - yearsMost; first = first.addMonths(-1)) {
         const QDate found(first.year(), first.month(), day);
         if ((!month || *month == first.month()) && found.isValid() && found <= today)
             return found;

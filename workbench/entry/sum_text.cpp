@@ -143,8 +143,7 @@ QString typedText(const numira::Money &amount, const numira::Currency &usual)
     QString text = QString::fromStdString(numira::toText(amount));
     if (hasNumberLocale()) {
         // The mark between two digits, as the locale writes it.
-        const QString mark =
-            QString::fromStdString(numira::toLocalText(Decimal::fromUnits(11, 1)));
+        const QString mark = QString::fromStdString(numira::toLocalText(Decimal::fromUnits(11, 1)));
         text.replace(u'.', mark.mid(1).chopped(1));
     }
     return amount.code() == usual ? text : text + u' ' + foundation::toQString(amount.code());

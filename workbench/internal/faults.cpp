@@ -206,6 +206,18 @@ Refusal noUsualAccount(const QString &item)
                        .arg(item));
 }
 
+Refusal noCategory(const QString &entry)
+{
+    return Refusal(
+        QObject::tr("“%1” has no category: it was neither spent nor earned.").arg(entry));
+}
+
+Refusal stillReconciled(const QString &entry)
+{
+    return Refusal(
+        QObject::tr("“%1” is reconciled; take the reconciliation back first.").arg(entry));
+}
+
 Refusal noSuchVersion(const QString &name)
 {
     return missed(QObject::tr("There is no version %1").arg(name), {}, Remedy::ListVersions);

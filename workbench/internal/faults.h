@@ -60,6 +60,10 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal keepsNoMoney(const QString &account);
 /// The user must name the account with which the item is paid.
 [[nodiscard]] Refusal noUsualAccount(const QString &item);
+/// `entry` names the transaction: both of its accounts, or none, are the household's own.
+[[nodiscard]] Refusal noCategory(const QString &entry);
+/// Its reconciliation must be taken back first.
+[[nodiscard]] Refusal stillReconciled(const QString &entry);
 [[nodiscard]] Refusal noSuchVersion(const QString &name);
 [[nodiscard]] Refusal alreadyPresent(const QString &version);
 /// `possible` is how many steps there are.

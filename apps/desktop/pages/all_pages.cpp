@@ -3,6 +3,7 @@
 
 #include "pages/accounts_page.h"
 #include "pages/due_page.h"
+#include "pages/register_page.h"
 
 namespace kiv::desktop {
 
@@ -10,6 +11,7 @@ std::vector<Page *> makePages(Desk &desk)
 {
     return {
         new AccountsPage(desk),
+        new RegisterPage(desk),
         new DuePage(desk),
     };
 }

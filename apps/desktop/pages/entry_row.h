@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pages/desk.h"
+#include "widgets/account_box.h"
+#include "widgets/day_edit.h"
+#include "widgets/money_edit.h"
+
+#include "workbench/entry/former_entries.h"
+#include "workbench/requests/entry_forms.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QFrame>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QPushButton;
+class QStringListModel;
+class QTabBar;
+QT_END_NAMESPACE
+
+namespace kiv::desktop {
+
+/// The row of fields below the register: what was spent, earned or moved. It enters a new
+/// transaction, changes one, or refunds one. Enter in any field does it, Esc gives up.
+class EntryRow final : public QFrame {
+    Q_OBJECT
+
+public:
+    EntryRow(Desk &desk, QWidget *parent);
+
+    /// The budget has changed. What is typed stays.
+    void refresh(std::shared_ptr<const workbench::AccountIndex> accounts,
+                 std::optional<accounting::AccountNumber> shownAccount);
+    /// Says why nothing can be entered, or lets it be.
+    void allow(const std::optional<QString> &whyNot);
+
+    /// Begins a new transaction, and gets the focus.
+    void begin(workbench::EntryForm form);
+    /// Loads the transaction, to change it.
+    void beginChange(const accounting::Transaction &transaction);
+    /// Loads its values for a new transaction today.
+    void beginAgain(const accounting::Transaction &transaction);
+    /// Asks for the amount that is given back, at most what is left of the transaction.
+    void beginRefund(const accounting::Transaction &transaction);
+
+signals:
+    /// The transaction was posted or changed.
+    void entered(kiv::accounting::TransactionNumber number);
+    /// The user is done with the row.
+    void leaving();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// What Enter does.
+    enum class Task : std::uint8_t { Enter, Change, Refund };
+
+    void build();
+    void addField(int row, int column, QLabel *&label, const QString &text, QWidget *field);
+    void setForm(workbench::EntryForm form);
+    void followForm();
+    void setTask(Task task, std::optional<accounting::TransactionNumber> number);
+    void showTask();
+    void load(const workbench::Entry &entry);
+    void clearFields();
+    void giveUp();
+    void submit();
+    void enter();
+    void refund();
+    void settle(accounting::TransactionNumber number);
+    [[nodiscard]] workbench::EntryForm form() const;
+    /// Reads the fields; a refusal stands at its field, and nothing is returned.
+    [[nodiscard]] std::optional<workbench::Entry> read();
+    template <typename Read>
+    [[nodiscard]] bool readField(QWidget *field, Read read);
+    [[nodiscard]] QWidget *fieldOf(workbench::EntryPart part) const;
+    [[nodiscard]] QString place(accounting::TransactionNumber number) const;
+    void offerAccounts();
+    void followCurrency();
+    void followOther();
+    void followPayee();
+    [[nodiscard]] const workbench::FormerEntries &former();
+    void readFormer();
+
+    Desk &m_desk;
+    std::shared_ptr<const workbench::AccountIndex> m_accounts;
+    std::optional<accounting::AccountNumber> m_shownAccount;
+    workbench::FormerEntries m_former;
+    bool m_isFormerStale = true;
+    QTimer m_idle;
+    Task m_task = Task::Enter;
+    std::optional<accounting::TransactionNumber> m_number; ///< that is changed or refunded
+    QTabBar *m_forms;
+    QLabel *m_taskLabel;
+    MoneyEdit *m_amount;
+    AccountBox *m_own;
+    AccountBox *m_other;
+    QLineEdit *m_payee;
+    QLineEdit *m_reason;
+    DayEdit *m_day;
+    QLabel *m_amountLabel = nullptr;
+    QLabel *m_ownLabel = nullptr;
+    QLabel *m_otherLabel = nullptr;
+    QLabel *m_payeeLabel = nullptr;
+    QLabel *m_reasonLabel = nullptr;
+    QLabel *m_dayLabel = nullptr;
+    QPushButton *m_submit;
+    FieldMessage *m_message;
+    QLabel *m_whyNot;
+    QWidget *m_fields;
+    QStringListModel *m_payees;
+};
+
+} // namespace kiv::desktop

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace kiv::desktop {
+
+/// Paints the cells of the register as usual, negative amounts in their colour, and a line
+/// above the first row after today.
+class RegisterDelegate final : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    explicit RegisterDelegate(QObject *parent);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+};
+
+} // namespace kiv::desktop

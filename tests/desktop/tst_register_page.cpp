@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/household_window.h"
+
+#include "workbench/entry/money_text.h"
+
+#include <QtWidgets/QtWidgets>
+
+using namespace kiv;
+using namespace Qt::Literals::StringLiterals;
+
+/// The register's work by real keys.
+class TestRegisterPage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_desk.emplace();
+        m_desk->openHousehold();
+        m_desk->show();
+        m_desk->window().goTo({u"register"_s, number(u"Checking"_s)});
+        m_before = m_last = all();
+    }
+    void cleanup() { m_desk.reset(); }
+
+    void whatIsSpentEarnedAndMovedIsEntered()
+    {
+        press(Qt::Key_T, Qt::ControlModifier);
+        // The account that is looked at is there already.
+        enter({u"12.30+3.5"_s, {}, u"groceries"_s, u"Bakery"_s, u"bread"_s, u"2026-02-20"_s});
+        QCOMPARE(news(), u"2026-02-20 Checking > Groceries 15.80 USD Bakery | bread"_s);
+        QCOMPARE(undoName(), u"Undo spending $15.80 on Groceries"_s);
+        // The next one begins at once, on the same day; its payee is known.
+        QCOMPARE(focus(), u"amount"_s);
+        enter({u"2"_s, {}, {}, u"bakery"_s, {}, {}});
+        QCOMPARE(news(), u"2026-02-20 Checking > Groceries 2.00 USD Bakery | bread"_s);
+
+        m_desk->trigger("newEarned");
+        enter({u"7"_s, {}, u"Salary"_s, u"Mill"_s, u"extra"_s, u"2026-02-21"_s});
+        QCOMPARE(news(), u"2026-02-21 Salary > Checking 7.00 USD Mill | extra"_s);
+        press(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
+        enter({u"420.15"_s, {}, u"Card"_s, {}, {}, u"2026-02-22"_s});
+        QCOMPARE(news(), u"2026-02-22 Checking > Card 420.15 USD "_s);
+        QCOMPARE(undoName(), u"Undo moving $420.15 from Checking to Card"_s);
+
+        for (int step = 0; step < 4; ++step)
+            m_desk->trigger("undo");
+        QCOMPARE(all(), m_before);
+        for (int step = 0; step < 4; ++step)
+            m_desk->trigger("redo");
+        QCOMPARE(all().size(), m_before.size() + 4);
+    }
+
+    void aRefusalStandsAtItsField_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("sentence");
+        const auto row = [](const char *field, const char *typed, const QString &sentence) {
+            QTest::addRow("%s %s", field, typed)
+                << QString::fromLatin1(field) << QString::fromLatin1(typed) << sentence;
+        };
+        row("amount", "much",
+            u"'much' is not an amount; write one like 1234.50 or '1234.50 USD'."_s);
+        row("amount", "1.234", u"'1.234' has too many decimals; USD allows 2."_s);
+        row("amount", "-5", u"amount"_s);
+        row("own", "Cheking", u"There is no account 'Cheking'; did you mean 'Checking'?"_s);
+        row("other", "Grocerys", u"did you mean 'Groceries'?"_s);
+        row("other", "", u"Choose what the money was spent on."_s);
+        row("other", "Salary", u"Salary"_s);
+        row("day", "32", u"'32' is not a day; write one like 2026-03-31, 3, 5-2, +7 or today."_s);
+    }
+    void aRefusalStandsAtItsField()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, typed);
+        QFETCH(QString, sentence);
+        press(Qt::Key_T, Qt::ControlModifier);
+        std::vector<std::optional<QString>> values{u"5"_s,    u"Checking"_s, u"Groceries"_s,
+                                                   u"Shop"_s, u"food"_s,     u"2026-02-20"_s};
+        const QStringList fields{u"amount"_s, u"own"_s,    u"other"_s,
+                                 u"payee"_s,  u"reason"_s, u"day"_s};
+        values[static_cast<std::size_t>(fields.indexOf(field))] = typed;
+        enter(values);
+        const auto *message = page()->findChild<QLabel *>(u"message"_s);
+        QVERIFY2(message->isVisible() && message->text().contains(sentence),
+                 qPrintable(message->text()));
+        QCOMPARE(focus(), field);
+        QCOMPARE(text(field), typed);
+        QCOMPARE(text(u"reason"_s), u"food"_s);
+        QCOMPARE(all(), m_before);
+    }
+
+    void aRowIsChangedRemovedEnteredAgainAndRefunded()
+    {
+        selectRow(u"Landlord: rent"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(text(u"amount"_s), u"900.00"_s);
+        enter({u"910"_s, {}, {}, {}, u"rent and water"_s, {}});
+        QCOMPARE(news(), u"2026-01-28 Checking > Rent 910.00 USD Landlord | rent and water"_s);
+        QCOMPARE(rowText(), u"Landlord: rent and water"_s);
+
+        press(Qt::Key_D, Qt::ControlModifier);
+        enter({u"911"_s, {}, {}, {}, {}, u"2026-02-27"_s});
+        QCOMPARE(news(), u"2026-02-27 Checking > Rent 911.00 USD Landlord | rent and water"_s);
+
+        m_desk->trigger("refundEntry");
+        QCOMPARE(text(u"amount"_s), u"911.00"_s);
+        type(u"912"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(focus(), u"amount"_s); // more than was paid
+        press(Qt::Key_A, Qt::ControlModifier);
+        type(u"11"_s);
+        press(Qt::Key_Return);
+        QVERIFY(news().contains(u"Rent > Checking 11.00 USD"_s));
+        QCOMPARE(undoName(), u"Undo refunding $11.00 of “Landlord: rent and water”"_s);
+
+        const QStringList before = all();
+        press(Qt::Key_Delete);
+        QCOMPARE(all().size(), before.size() - 1);
+        m_desk->window().goTo({u"register"_s, u"all"_s});
+        m_desk->trigger("undo");
+        QCOMPARE(all(), before);
+        QCOMPARE(rowText(), u"Refund: Landlord: rent and water"_s);
+    }
+
+    void severalRowsAreMarkedAndCategorisedAtOnce()
+    {
+        selectRow(u"Landlord: rent"_s);
+        m_desk->trigger("clearEntries");
+        QVERIFY(news().endsWith(u"cleared"_s));
+        m_desk->trigger("unclearEntries");
+        QCOMPARE(all(), m_before);
+        m_desk->trigger("reconcileEntries");
+        m_desk->trigger("unclearEntries");
+        QVERIFY(pageMessage().contains(u"is reconciled"_s));
+        m_desk->trigger("unreconcileEntries");
+        QCOMPARE(all(), m_before);
+
+        // The next one was set aside and has no category: neither changes.
+        press(Qt::Key_Up);
+        press(Qt::Key_Down, Qt::ShiftModifier);
+        m_desk->trigger("categoryOfEntries");
+        type(u"Fees"_s);
+        press(Qt::Key_Return);
+        QVERIFY(pageMessage().contains(u"has no category"_s));
+        QCOMPARE(all(), m_before);
+        press(Qt::Key_Escape);
+
+        m_desk->window().goTo({u"register"_s, number(u"Rent"_s)});
+        page()->findChild<QTableView *>()->selectAll();
+        m_desk->trigger("categoryOfEntries");
+        type(u"Fees"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(news().count(u"Checking > Fees 900.00 USD"_s), 2);
+        m_desk->trigger("undo");
+        QCOMPARE(all(), m_before);
+    }
+
+    void aSearchTellsItsResult()
+    {
+        press(Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(focus(), u"search"_s);
+        type(u"landlord"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(page()->findChild<QLabel *>(u"result"_s)->text(),
+                 u"2 of 7, together -$1,800.00"_s);
+        type(u" is:nothing"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(focus(), u"search"_s);
+        QCOMPARE(text(u"search"_s), u"landlord is:nothing"_s);
+        press(Qt::Key_Escape);
+        QCOMPARE(text(u"search"_s), QString());
+    }
+
+    void aBudgetForReadingSaysWhyNothingCanBeEntered()
+    {
+        HouseholdWindow other;
+        QVERIFY(other.window().open(m_desk->path(u"household.budget"_s)));
+        other.window().goTo({u"register"_s, {}});
+        const QAction *action = other.window().desk().actions().action(u"newEntry"_s);
+        QVERIFY(!action->isEnabled());
+        QCOMPARE(desktop::ActionCollection::reason(action), *other.document().whyReadOnly());
+    }
+
+private:
+    [[nodiscard]] desktop::Page *page() { return m_desk->window().page(); }
+    [[nodiscard]] QString number(const QString &account)
+    {
+        return accounting::presentationText(
+            m_desk->requests().accounts().find(account).code().number());
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(keyTarget(), key, modifiers);
+        QCoreApplication::processEvents();
+    }
+    void type(const QString &text)
+    {
+        for (const QChar letter : text) {
+            QTest::keyClick(keyTarget(), letter.toLatin1());
+            QCoreApplication::processEvents();
+        }
+    }
+    QWidget *keyTarget()
+    {
+        // A list of names that is open takes all keys. When it has closed, a desktop makes
+        // the window active again; here nobody else does.
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return popup;
+        QApplication::setActiveWindow(&m_desk->window());
+        return QApplication::focusWidget();
+    }
+    /// Types into the fields one after the other; nothing leaves what stands there.
+    void enter(const std::vector<std::optional<QString>> &values)
+    {
+        for (std::size_t at = 0; at < values.size(); ++at) {
+            if (at > 0)
+                press(Qt::Key_Tab);
+            if (!values[at])
+                continue;
+            press(Qt::Key_A, Qt::ControlModifier);
+            press(Qt::Key_Delete);
+            type(*values[at]);
+        }
+        press(Qt::Key_Return);
+    }
+    [[nodiscard]] QString focus()
+    {
+        (void)keyTarget();
+        return QApplication::focusWidget()->objectName();
+    }
+    [[nodiscard]] QString text(const QString &field)
+    {
+        const auto *box = page()->findChild<QComboBox *>(field);
+        return box ? box->currentText() : page()->findChild<QLineEdit *>(field)->text();
+    }
+    [[nodiscard]] QString pageMessage()
+    {
+        QStringList texts;
+        for (const auto *message : page()->findChildren<desktop::FieldMessage *>())
+            texts += message->text();
+        return texts.join(u' ');
+    }
+    void selectRow(const QString &text)
+    {
+        auto *table = page()->findChild<QTableView *>();
+        table->setFocus();
+        const QModelIndexList found =
+            table->model()->match(table->model()->index(0, 1), Qt::DisplayRole, text);
+        QVERIFY(!found.isEmpty());
+        table->setCurrentIndex(found.front());
+    }
+    [[nodiscard]] QString rowText()
+    {
+        return page()
+            ->findChild<QTableView *>()
+            ->currentIndex()
+            .siblingAtColumn(1)
+            .data()
+            .toString();
+    }
+    [[nodiscard]] QString undoName()
+    {
+        return m_desk->window().desk().actions().action(u"undo"_s)->text();
+    }
+    /// All transactions as lines.
+    [[nodiscard]] QStringList all()
+    {
+        QStringList lines;
+        const workbench::AccountIndex index = m_desk->requests().accounts();
+        for (const accounting::Transaction &transaction : m_desk->requests().transactions()) {
+            const auto mark = std::max(transaction.debitStatus(), transaction.creditStatus());
+            lines += u"%1 %2 > %3 %4 %5%6"_s.arg(
+                transaction.occurredOn().toString(Qt::ISODate),
+                index.plainName(transaction.crediting().number()),
+                index.plainName(transaction.debiting().number()),
+                workbench::amountText(transaction.amount(),
+                                      navigation::CurrencyDisplayOptions::IsoCode),
+                transaction.description().value_or(QString()),
+                mark == accounting::TransactionStatuses::None ? QString()
+                                                              : u' ' + accounting::toQString(mark));
+        }
+        return lines;
+    }
+    /// The line that all() has now and did not have at the last call.
+    [[nodiscard]] QString news()
+    {
+        QStringList now = all();
+        const QStringList present = now;
+        for (const QString &line : std::as_const(m_last))
+            now.removeOne(line);
+        m_last = present;
+        return now.join(u'\n');
+    }
+
+    std::optional<HouseholdWindow> m_desk;
+    QStringList m_before;
+    QStringList m_last;
+};
+
+static const kiv::test::Suite<TestRegisterPage> suite;
+
+#include "tst_register_page.moc"
