@@ -4,7 +4,12 @@
 #include "desktop/household_window.h"
 #include "support/accounting.h"
 
+#include "storage/budget_file.h"
+
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QTimer>
+#include <QtWidgets/QListWidget>
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -109,6 +114,95 @@ private slots:
         QVERIFY(!has(second.document(), u"Food"_s));
     }
 
+    void aFailedWriteIsToldAndMended()
+    {
+        HouseholdWindow desk;
+        QVERIFY(QDir().mkpath(desk.path(u"disk"_s)));
+        begin(desk, u"disk/home"_s);
+        // The folder is gone for a while, like a disk that was taken out.
+        QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
+        addAccount(desk.document(), u"Food"_s);
+        QTRY_COMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
+        QCOMPARE(notices(desk).size(), 1);
+        addAccount(desk.document(), u"Books"_s); // work goes on
+        QVERIFY(has(desk.document(), u"Food"_s) && has(desk.document(), u"Books"_s));
+
+        // Closing asks, and giving up the question goes on.
+        desk.questions().choices = {std::nullopt};
+        QVERIFY(!desk.window().close());
+        QCOMPARE(desk.questions().asked.size(), 1);
+
+        QVERIFY(QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
+        desk.trigger("save");
+        QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
+        QCOMPARE(notices(desk), QStringList());
+        QCOMPARE(savedAccounts(desk.path(u"disk/home.budget"_s)),
+                 (QStringList{u"Rent"_s, u"Food"_s, u"Books"_s}));
+    }
+
+    void aFileThatAnotherChangedIsNotOverwritten()
+    {
+        HouseholdWindow desk;
+        begin(desk);
+        const QString file = desk.path(u"home.budget"_s);
+        desk.questions().files = {desk.path(u"copy"_s)};
+        desk.trigger("saveCopy");
+        addAccount(desk.document(), u"Food"_s);
+        desk.trigger("save");
+        // A synchroniser brings an older state back.
+        QVERIFY(QFile::remove(file) && QFile::copy(desk.path(u"copy.budget"_s), file));
+        addAccount(desk.document(), u"Books"_s);
+        desk.trigger("save");
+        QCOMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
+        QCOMPARE(savedAccounts(file), QStringList{u"Rent"_s});
+
+        auto *choice = buttonOfNotice(desk, u"Take the file as it is now"_s);
+        QVERIFY(choice);
+        choice->click();
+        QVERIFY(!has(desk.document(), u"Books"_s) && has(desk.document(), u"Rent"_s));
+        QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
+    }
+
+    void aServiceThatNeverAnswersDisturbsNobody()
+    {
+        HouseholdWindow desk(ScriptedSender::silence());
+        begin(desk);
+        bool isWaiting = false;
+        // This runs in the event loop of the request for rates, which comes after 100 ms.
+        QTimer::singleShot(400, &desk.window(), [&] {
+            isWaiting = true;
+            addAccount(desk.document(), u"Food"_s);
+            desk.trigger("undo");
+            desk.trigger("redo");
+            QVERIFY(has(desk.document(), u"Food"_s));
+            QVERIFY(desk.window().close());
+        });
+        desk.show();
+        QVERIFY(isWaiting);
+        QCOMPARE(savedAccounts(desk.path(u"home.budget"_s)), (QStringList{u"Rent"_s, u"Food"_s}));
+    }
+
+    void everyCommandIsFoundByItsName()
+    {
+        HouseholdWindow desk;
+        begin(desk);
+        desk.show();
+        desk.trigger("palette");
+        auto *field = QApplication::focusWidget();
+        QVERIFY(qobject_cast<QLineEdit *>(field));
+        QTest::keyClicks(field, u"dark"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(desk.settings().appearance(), desktop::Appearance::Dark);
+        // One that cannot be chosen says why.
+        desk.trigger("palette");
+        QTest::keyClicks(QApplication::focusWidget(), u"redo"_s);
+        const auto *list = desk.window().findChild<QListWidget *>(u"found"_s);
+        QVERIFY(list && list->count() > 0);
+        QVERIFY(list->item(0)->text().contains(u"nothing to redo"_s));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!list->isVisible());
+    }
+
     void noTwoActionsHaveTheSameKeys()
     {
         HouseholdWindow desk;
@@ -119,9 +213,9 @@ private slots:
     }
 
 private:
-    static void begin(HouseholdWindow &desk)
+    static void begin(HouseholdWindow &desk, const QString &name = u"home"_s)
     {
-        desk.questions().files = {desk.path(u"home"_s)};
+        desk.questions().files = {desk.path(name)};
         desk.trigger("new");
         addAccount(desk.document(), u"Rent"_s);
         desk.trigger("save");
@@ -130,6 +224,27 @@ private:
     static QStringList notices(HouseholdWindow &desk)
     {
         return desk.window().desk().notices().texts();
+    }
+    /// The names of the expense accounts in the file.
+    static QStringList savedAccounts(const QString &file)
+    {
+        storage::BudgetFile saved;
+        saved.setFilePathName(file);
+        saved.setReading(true);
+        QStringList names;
+        for (const accounting::Account &account : saved.load().generalLedger.accounts()) {
+            if (account.type() == accounting::AccountTypes::Expense)
+                names += account.code().name();
+        }
+        return names;
+    }
+    static QPushButton *buttonOfNotice(HouseholdWindow &desk, const QString &text)
+    {
+        for (auto *button : desk.window().desk().notices().findChildren<QPushButton *>()) {
+            if (button->text() == text)
+                return button;
+        }
+        return nullptr;
     }
     static QAction *action(HouseholdWindow &desk, const char *id)
     {

@@ -35,6 +35,7 @@ CommandPalette::CommandPalette(QWidget *window)
     layout->addWidget(m_list);
     m_field->setPlaceholderText(tr("Type what you want to do or to see"));
     m_field->setAccessibleName(tr("Command"));
+    m_list->setObjectName(QStringLiteral("found"));
     m_list->setAccessibleName(tr("Found commands"));
     m_list->setFocusPolicy(Qt::NoFocus);
     connect(m_field, &QLineEdit::textChanged, this, &CommandPalette::list);
