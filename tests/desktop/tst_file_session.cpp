@@ -9,7 +9,9 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTimer>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
