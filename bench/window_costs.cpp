@@ -136,7 +136,7 @@ int main(int argc, char **argv)
         undos.push_back(watch.until([&document] { (void)document.undo(); }));
 
     // Keys while the file is written: each change starts a write.
-    auto *field = window.page()->findChild<QLineEdit *>(u"filter"_s);
+    auto *field = window.page()->findChild<QLineEdit *>(u"search"_s);
     std::vector<double> keys;
     std::vector<double> searches;
     if (field) {
