@@ -4808,6 +4808,22 @@
             <numerusform>%n Buchungen unter %1 einordnen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Budgets (*.budget)</source>
+        <translation>Budgets (*.budget)</translation>
+    </message>
+    <message>
+        <source>Open a budget</source>
+        <translation>Budget öffnen</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4822,6 +4838,33 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Es gibt noch keine Konten. Sie kommen mit Banken und mit den Posten des Budgets.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ActionCollection</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Gehe zu</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>B&amp;uchung</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>A&amp;nsicht</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>
@@ -4840,6 +4883,32 @@
     <message>
         <source>Choose an item or a category.</source>
         <translation>Einen Posten oder eine Kategorie wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::CommandPalette</name>
+    <message>
+        <source>Type what you want to do or to see</source>
+        <translation>Schreiben Sie, was Sie tun oder sehen möchten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Found commands</source>
+        <translation>Gefundene Befehle</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::Desk</name>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>Another request is not answered yet; try again in a moment.</source>
+        <translation>Eine andere Anfrage ist noch nicht beantwortet; versuchen Sie es gleich noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -4981,6 +5050,137 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::FileSession</name>
+    <message>
+        <source>&amp;New budget …</source>
+        <translation>&amp;Neues Budget …</translation>
+    </message>
+    <message>
+        <source>&amp;Open a budget …</source>
+        <translation>Budget &amp;öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save now</source>
+        <translation>Jetzt &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save a &amp;copy …</source>
+        <translation>&amp;Kopie speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>This budget can only be read now. %1</source>
+        <translation>Dieses Budget kann jetzt nur gelesen werden. %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>“%1” is open.</source>
+        <translation>„%1“ ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>New budget</source>
+        <translation>Neues Budget</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Kopie speichern</translation>
+    </message>
+    <message>
+        <source>The copy is saved as “%1”.</source>
+        <translation>Die Kopie ist als „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Woanders speichern</translation>
+    </message>
+    <message>
+        <source>Saved elsewhere</source>
+        <translation>Woanders gespeichert</translation>
+    </message>
+    <message>
+        <source>Undone:</source>
+        <translation>Rückgängig gemacht:</translation>
+    </message>
+    <message>
+        <source>The last changes are not saved. %1</source>
+        <translation>Die letzten Änderungen sind nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>Save elsewhere …</source>
+        <translation>Woanders speichern …</translation>
+    </message>
+    <message>
+        <source>Give the changes up</source>
+        <translation>Änderungen aufgeben</translation>
+    </message>
+    <message>
+        <source>read only</source>
+        <translation>nur lesen</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>gespeichert</translation>
+    </message>
+    <message>
+        <source>saving</source>
+        <translation>wird gespeichert</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation type="unfinished">Es gibt nichts rückgängig zu machen.</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation type="unfinished">Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>Take the file as it is now</source>
+        <translation>Die Datei nehmen, wie sie jetzt ist</translation>
+    </message>
+    <message>
+        <source>Look at former versions</source>
+        <translation>Frühere Versionen ansehen</translation>
+    </message>
+    <message>
+        <source>Bring the newest whole version back</source>
+        <translation>Die neueste heile Version zurückholen</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FilterBar</name>
     <message>
         <source>groceries &gt;50 march not:reconciled</source>
@@ -5045,6 +5245,91 @@
     <message>
         <source>Any account or item</source>
         <translation>Jedes Konto, jeder Posten</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::MainWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Find a command …</source>
+        <translation>Befehl &amp;finden …</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>F&amp;orward</source>
+        <translation>&amp;Vorwärts</translation>
+    </message>
+    <message>
+        <source>Next &amp;part of the window</source>
+        <translation>Nächster &amp;Teil des Fensters</translation>
+    </message>
+    <message>
+        <source>List of &amp;keys</source>
+        <translation>Liste der &amp;Tasten</translation>
+    </message>
+    <message>
+        <source>List of keys</source>
+        <translation>Liste der Tasten</translation>
+    </message>
+    <message>
+        <source>Colours of the &amp;system</source>
+        <translation>Farben des &amp;Systems</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Text size %1 %</source>
+        <translation>Textgröße %1 %</translation>
+    </message>
+    <message>
+        <source>L&amp;arger text</source>
+        <translation>&amp;Größerer Text</translation>
+    </message>
+    <message>
+        <source>S&amp;maller text</source>
+        <translation>&amp;Kleinerer Text</translation>
+    </message>
+    <message>
+        <source>&amp;Usual text size</source>
+        <translation>&amp;Übliche Textgröße</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::Page</name>
+    <message>
+        <source>The page “%1” cannot be shown: %2</source>
+        <translation>Die Seite „%1“ kann nicht gezeigt werden: %2</translation>
     </message>
 </context>
 <context>
@@ -5244,6 +5529,17 @@
     <message>
         <source>nothing</source>
         <translation>nichts</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::WelcomePage</name>
+    <message>
+        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing is sent anywhere.</source>
+        <translation>kiv führt Buch über das Geld Ihres Haushalts: was Sie haben, was fällig ist und was zum Ausgeben bleibt. Ein Budget ist eine Datei auf Ihrem Rechner; nichts davon wird verschickt.</translation>
+    </message>
+    <message>
+        <source>Opened before:</source>
+        <translation>Zuletzt geöffnet:</translation>
     </message>
 </context>
 </TS>

@@ -4808,6 +4808,22 @@
             <numerusform>clasificar %n asientos en %1</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Budgets (*.budget)</source>
+        <translation>Presupuestos (*.budget)</translation>
+    </message>
+    <message>
+        <source>Open a budget</source>
+        <translation>Abrir un presupuesto</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Pregunta</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4822,6 +4838,33 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Todavía no hay cuentas. Llegan con los bancos y con las partidas del presupuesto.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ActionCollection</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Go</source>
+        <translation>&amp;Ir</translation>
+    </message>
+    <message>
+        <source>&amp;Transaction</source>
+        <translation>&amp;Transacción</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
     </message>
 </context>
 <context>
@@ -4840,6 +4883,32 @@
     <message>
         <source>Choose an item or a category.</source>
         <translation>Elegir una partida o una categoría.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::CommandPalette</name>
+    <message>
+        <source>Type what you want to do or to see</source>
+        <translation>Escriba lo que quiere hacer o ver</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Found commands</source>
+        <translation>Órdenes encontradas</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::Desk</name>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>Another request is not answered yet; try again in a moment.</source>
+        <translation>Otra petición aún no tiene respuesta; inténtelo de nuevo en un momento.</translation>
     </message>
 </context>
 <context>
@@ -4981,6 +5050,137 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::FileSession</name>
+    <message>
+        <source>&amp;New budget …</source>
+        <translation>&amp;Nuevo presupuesto …</translation>
+    </message>
+    <message>
+        <source>&amp;Open a budget …</source>
+        <translation>&amp;Abrir un presupuesto …</translation>
+    </message>
+    <message>
+        <source>&amp;Save now</source>
+        <translation>&amp;Guardar ahora</translation>
+    </message>
+    <message>
+        <source>Save a &amp;copy …</source>
+        <translation>Guardar una &amp;copia …</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>This budget can only be read now. %1</source>
+        <translation>Este presupuesto ahora solo se puede leer. %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Intentar de nuevo</translation>
+    </message>
+    <message>
+        <source>“%1” is open.</source>
+        <translation>«%1» está abierto.</translation>
+    </message>
+    <message>
+        <source>New budget</source>
+        <translation>Nuevo presupuesto</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Guardado.</translation>
+    </message>
+    <message>
+        <source>Save a copy</source>
+        <translation>Guardar una copia</translation>
+    </message>
+    <message>
+        <source>The copy is saved as “%1”.</source>
+        <translation>La copia está guardada como «%1».</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Guardar en otro lugar</translation>
+    </message>
+    <message>
+        <source>Saved elsewhere</source>
+        <translation>Guardado en otro lugar</translation>
+    </message>
+    <message>
+        <source>Undone:</source>
+        <translation>Deshecho:</translation>
+    </message>
+    <message>
+        <source>The last changes are not saved. %1</source>
+        <translation>Los últimos cambios no están guardados. %1</translation>
+    </message>
+    <message>
+        <source>Save elsewhere …</source>
+        <translation>Guardar en otro lugar …</translation>
+    </message>
+    <message>
+        <source>Give the changes up</source>
+        <translation>Renunciar a los cambios</translation>
+    </message>
+    <message>
+        <source>read only</source>
+        <translation>solo lectura</translation>
+    </message>
+    <message>
+        <source>saved</source>
+        <translation>guardado</translation>
+    </message>
+    <message>
+        <source>saving</source>
+        <translation>guardando</translation>
+    </message>
+    <message>
+        <source>not saved</source>
+        <translation>sin guardar</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Sin guardar: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>There is nothing to undo.</source>
+        <translation type="unfinished">No hay nada que deshacer.</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>There is nothing to redo.</source>
+        <translation type="unfinished">No hay nada que rehacer.</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>Take the file as it is now</source>
+        <translation>Tomar el archivo como está ahora</translation>
+    </message>
+    <message>
+        <source>Look at former versions</source>
+        <translation>Ver las versiones anteriores</translation>
+    </message>
+    <message>
+        <source>Bring the newest whole version back</source>
+        <translation>Recuperar la versión íntegra más nueva</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FilterBar</name>
     <message>
         <source>groceries &gt;50 march not:reconciled</source>
@@ -5045,6 +5245,91 @@
     <message>
         <source>Any account or item</source>
         <translation>Cualquier cuenta o partida</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::MainWindow</name>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Find a command …</source>
+        <translation>&amp;Buscar una orden …</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Atrás</translation>
+    </message>
+    <message>
+        <source>F&amp;orward</source>
+        <translation>A&amp;delante</translation>
+    </message>
+    <message>
+        <source>Next &amp;part of the window</source>
+        <translation>Siguiente &amp;parte de la ventana</translation>
+    </message>
+    <message>
+        <source>List of &amp;keys</source>
+        <translation>Lista de &amp;teclas</translation>
+    </message>
+    <message>
+        <source>List of keys</source>
+        <translation>Lista de teclas</translation>
+    </message>
+    <message>
+        <source>Colours of the &amp;system</source>
+        <translation>Colores del &amp;sistema</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>Text size %1 %</source>
+        <translation>Tamaño del texto %1 %</translation>
+    </message>
+    <message>
+        <source>L&amp;arger text</source>
+        <translation>Texto más &amp;grande</translation>
+    </message>
+    <message>
+        <source>S&amp;maller text</source>
+        <translation>Texto más &amp;pequeño</translation>
+    </message>
+    <message>
+        <source>&amp;Usual text size</source>
+        <translation>Tamaño de texto &amp;usual</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::NoticeBar</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::Page</name>
+    <message>
+        <source>The page “%1” cannot be shown: %2</source>
+        <translation>No se puede mostrar la página «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -5244,6 +5529,17 @@
     <message>
         <source>nothing</source>
         <translation>nada</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::WelcomePage</name>
+    <message>
+        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing is sent anywhere.</source>
+        <translation>kiv lleva el dinero de su hogar: lo que tiene, lo que vence y lo que queda para gastar. Un presupuesto es un archivo en su ordenador; no se envía a ninguna parte.</translation>
+    </message>
+    <message>
+        <source>Opened before:</source>
+        <translation>Abiertos antes:</translation>
     </message>
 </context>
 </TS>
