@@ -5153,7 +5153,7 @@
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished">Es gibt nichts rückgängig zu machen.</translation>
+        <translation>Es gibt nichts rückgängig zu machen.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -5161,7 +5161,7 @@
     </message>
     <message>
         <source>There is nothing to redo.</source>
-        <translation type="unfinished">Es gibt nichts wiederherzustellen.</translation>
+        <translation>Es gibt nichts zu wiederholen.</translation>
     </message>
     <message>
         <source>No budget is open.</source>

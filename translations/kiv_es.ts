@@ -5153,7 +5153,7 @@
     </message>
     <message>
         <source>There is nothing to undo.</source>
-        <translation type="unfinished">No hay nada que deshacer.</translation>
+        <translation>No hay nada que deshacer.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -5161,7 +5161,7 @@
     </message>
     <message>
         <source>There is nothing to redo.</source>
-        <translation type="unfinished">No hay nada que rehacer.</translation>
+        <translation>No hay nada que rehacer.</translation>
     </message>
     <message>
         <source>No budget is open.</source>
