@@ -119,7 +119,7 @@ private:
     void show(RegisterModel &model)
     {
         model.show(std::make_shared<const workbench::AccountIndex>(m_requests->accounts()), m_shown,
-                   navigation::CurrencyDisplayOptions::IsoCode, QDate(2026, 6, 1));
+                   navigation::CurrencyDisplayOptions::IsoCode, {QDate(2026, 6, 1)});
     }
     Transaction randomTransaction(QRandomGenerator &random)
     {

@@ -117,7 +117,13 @@ private slots:
         QVERIFY(news().contains(u"Rent > Checking 11.00 USD"_s));
         QCOMPARE(undoName(), u"Undo refunding $11.00 of “Landlord: rent and water”"_s);
 
+        selectRow(u"Landlord: rent and water"_s, 1);
+        m_desk->trigger("refundEntry");
+        QCOMPARE(text(u"amount"_s), u"900.00"_s); // what is left
+        press(Qt::Key_Escape);
+
         const QStringList before = all();
+        selectRow(u"Refund: Landlord: rent and water"_s);
         press(Qt::Key_Delete);
         QCOMPARE(all().size(), before.size() - 1);
         m_desk->window().goTo({u"register"_s, u"all"_s});
@@ -244,14 +250,15 @@ private:
             texts += message->text();
         return texts.join(u' ');
     }
-    void selectRow(const QString &text)
+    /// The row with this text, or one of those behind it with the same text.
+    void selectRow(const QString &text, qsizetype which = 0)
     {
         auto *table = page()->findChild<QTableView *>();
         table->setFocus();
-        const QModelIndexList found =
-            table->model()->match(table->model()->index(0, 1), Qt::DisplayRole, text);
-        QVERIFY(!found.isEmpty());
-        table->setCurrentIndex(found.front());
+        const QModelIndexList found = table->model()->match(
+            table->model()->index(0, 1), Qt::DisplayRole, text, static_cast<int>(which) + 1);
+        QVERIFY(found.size() > which);
+        table->setCurrentIndex(found.at(which));
     }
     [[nodiscard]] QString rowText()
     {

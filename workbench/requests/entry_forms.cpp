@@ -134,6 +134,20 @@ void changeInto(Requests &requests, TransactionNumber number, const Entry &entry
                        typed(isEarned ? entry.other : entry.own), descriptionOf(entry).shown()});
 }
 
+numira::Money leftToRefund(const Transaction &transaction, const AccountIndex &index)
+{
+    numira::Money left = transaction.amount();
+    const Account *account = index.find(transaction.debiting().number());
+    if (!account)
+        return left;
+    // A refund has the same accounts, and is in the same currency.
+    for (const Transaction &other : account->transactions()) {
+        if (other.refundOf() && other.refundOf() == transaction.number())
+            left -= other.amount();
+    }
+    return left;
+}
+
 void recategorize(Requests &requests, const std::vector<TransactionNumber> &numbers,
                   AccountNumber category)
 {

@@ -50,6 +50,9 @@ KIV_WORKBENCH_EXPORT accounting::TransactionNumber enter(Requests &requests, con
 /// Changes the transaction into what the form says. Throws as changeTransaction() does.
 KIV_WORKBENCH_EXPORT void changeInto(Requests &requests, accounting::TransactionNumber number,
                                      const Entry &entry);
+/// What of the transaction was not refunded yet.
+[[nodiscard]] KIV_WORKBENCH_EXPORT numira::Money
+leftToRefund(const accounting::Transaction &transaction, const AccountIndex &index);
 /// Gives each transaction another category: the account that is not the household's own
 /// becomes `category`. Throws a Refusal that names the first for which that is not possible;
 /// those before it are changed then.

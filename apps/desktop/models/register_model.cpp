@@ -94,10 +94,10 @@ RegisterModel::~RegisterModel() = default;
 
 void RegisterModel::show(std::shared_ptr<const AccountIndex> accounts,
                          std::optional<AccountNumber> account,
-                         navigation::CurrencyDisplayOptions displayAs, QDate today)
+                         navigation::CurrencyDisplayOptions displayAs, const Days &days)
 {
-    m_today = today.toJulianDay();
     bool isShownOtherwise = std::exchange(m_displayAs, displayAs) != displayAs;
+    isShownOtherwise = std::exchange(m_days, days) != days || isShownOtherwise;
     if (isOther(*accounts, account)) {
         replace(std::move(accounts), account);
         return;
@@ -323,6 +323,15 @@ Money RegisterModel::balance(int row) const
 {
     return {m_accounts->find(*m_account)->balance().code(),
             m_rows.at(static_cast<std::size_t>(row)).balance};
+}
+
+RegisterModel::Section RegisterModel::section(int row) const
+{
+    const QDate day = QDate::fromJulianDay(m_rows.at(static_cast<std::size_t>(row)).day);
+    if (day > m_days.today)
+        return Section::Ahead;
+    return m_days.reconciled.isValid() && day <= m_days.reconciled ? Section::Reconciled
+                                                                   : Section::Present;
 }
 
 Money RegisterModel::amount(int row) const

@@ -37,18 +37,31 @@ public:
     enum Role : int {
         SortRole = Qt::UserRole, ///< a value that sorts as people expect
         NegativeRole,            ///< whether the value is below zero
-        AheadRole                ///< whether the day is after today
+        SectionRole              ///< a Section, as an integer
+    };
+
+    /// The parts of an account's life.
+    enum class Section : std::uint8_t {
+        Reconciled, ///< up to the day of the last reconciliation
+        Present,
+        Ahead ///< after today
+    };
+    /// The days that part them.
+    struct Days {
+        QDate today;
+        QDate reconciled = {}; ///< of the account's last reconciliation; may be missing
+
+        friend bool operator==(const Days &, const Days &) = default;
     };
 
     /// `showsTerms` adds numbers, and both accounts as debit and credit.
     explicit RegisterModel(bool showsTerms, QObject *parent = nullptr);
     ~RegisterModel() override;
 
-    /// Shows the transactions of this account, which must be there, or of all. `today`
-    /// parts what has happened from what is ahead.
+    /// Shows the transactions of this account, which must be there, or of all.
     void show(std::shared_ptr<const workbench::AccountIndex> accounts,
               std::optional<accounting::AccountNumber> account,
-              navigation::CurrencyDisplayOptions displayAs, QDate today);
+              navigation::CurrencyDisplayOptions displayAs, const Days &days);
     /// The account that is shown; none for all.
     [[nodiscard]] const std::optional<accounting::AccountNumber> &account() const noexcept
     {
@@ -122,6 +135,7 @@ private:
     [[nodiscard]] QString otherText(const accounting::Transaction &transaction) const;
     [[nodiscard]] numira::Money signedAmount(const accounting::Transaction &transaction) const;
     [[nodiscard]] numira::Money balance(int row) const;
+    [[nodiscard]] Section section(int row) const;
     [[nodiscard]] QVariant sortValue(const accounting::Transaction &transaction, int row,
                                      Column column) const;
 
@@ -130,7 +144,7 @@ private:
     std::shared_ptr<const workbench::AccountIndex> m_accounts;
     std::optional<accounting::AccountNumber> m_account;
     navigation::CurrencyDisplayOptions m_displayAs = navigation::CurrencyDisplayOptions::IsoCode;
-    qint64 m_today = 0;
+    Days m_days;
 };
 
 } // namespace kiv::desktop

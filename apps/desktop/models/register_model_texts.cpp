@@ -77,8 +77,8 @@ QVariant RegisterModel::data(const QModelIndex &index, int role) const
     case NegativeRole:
         return (column == Column::Balance && m_account && balance(row).isNegative()) ||
                (column == Column::Amount && signedAmount(transaction(row)).isNegative());
-    case AheadRole:
-        return m_rows[static_cast<std::size_t>(row)].day > m_today;
+    case SectionRole:
+        return static_cast<int>(section(row));
     default:
         return {};
     }

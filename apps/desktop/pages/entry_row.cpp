@@ -250,6 +250,8 @@ void EntryRow::beginRefund(const Transaction &transaction)
     Entry entry = workbench::entryOf(transaction, *m_accounts);
     entry.day = foundation::today();
     load(entry);
+    m_amount->setMoney(workbench::leftToRefund(transaction, *m_accounts));
+    m_amount->selectAll();
     setTask(Task::Refund, transaction.number());
 }
 

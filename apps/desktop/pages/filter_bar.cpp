@@ -101,7 +101,7 @@ QWidget *FilterBar::field() const
     return m_field;
 }
 
-void FilterBar::offer(const workbench::AccountIndex &accounts)
+bool FilterBar::offer(const workbench::AccountIndex &accounts)
 {
     QStringList names = accounts.plainNames();
     std::ranges::sort(names, [](const QString &a, const QString &b) {
@@ -111,17 +111,17 @@ void FilterBar::offer(const workbench::AccountIndex &accounts)
     for (int row = 1; row < m_accounts->count(); ++row)
         present += m_accounts->itemText(row);
     if (present == names)
-        return;
+        return false;
     while (m_accounts->count() > 1)
         m_accounts->removeItem(m_accounts->count() - 1);
     for (const QString &name : names)
         m_accounts->addItem(name, FilterPart{FilterKind::Account, name, false}.text());
     followText();
+    return true;
 }
 
 void FilterBar::showResult(const QString &result)
 {
-    m_message->withdraw();
     m_result->setText(result);
 }
 
@@ -163,6 +163,7 @@ void FilterBar::search()
 {
     m_delay.stop();
     followText();
+    m_message->withdraw();
     emit searched(m_field->text());
 }
 

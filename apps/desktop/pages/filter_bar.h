@@ -26,8 +26,8 @@ public:
 
     [[nodiscard]] QString text() const;
     void setText(const QString &text);
-    /// The accounts and items that can be chosen.
-    void offer(const workbench::AccountIndex &accounts);
+    /// The accounts and items that can be chosen. Returns whether they are others now.
+    bool offer(const workbench::AccountIndex &accounts);
     /// What the search found.
     void showResult(const QString &result);
     /// Why the search cannot be understood. What is typed stays.

@@ -7,6 +7,14 @@
 #include <QtGui/QPainter>
 
 namespace kiv::desktop {
+namespace {
+
+int sectionOf(const QModelIndex &index)
+{
+    return index.data(RegisterModel::SectionRole).toInt();
+}
+
+} // namespace
 
 RegisterDelegate::RegisterDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
 
@@ -15,7 +23,7 @@ void RegisterDelegate::initStyleOption(QStyleOptionViewItem *option, const QMode
     QStyledItemDelegate::initStyleOption(option, index);
     if (index.data(RegisterModel::NegativeRole).toBool())
         option->palette.setColor(QPalette::Text, colour(Colour::Negative, option->palette));
-    else if (index.data(RegisterModel::AheadRole).toBool())
+    else if (sectionOf(index) == static_cast<int>(RegisterModel::Section::Ahead))
         option->palette.setColor(QPalette::Text, colour(Colour::Faint, option->palette));
 }
 
@@ -23,10 +31,7 @@ void RegisterDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
                              const QModelIndex &index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    const auto isAhead = [](const QModelIndex &row) {
-        return row.data(RegisterModel::AheadRole).toBool();
-    };
-    if (!isAhead(index) || (index.row() > 0 && isAhead(index.siblingAtRow(index.row() - 1))))
+    if (index.row() == 0 || sectionOf(index) == sectionOf(index.siblingAtRow(index.row() - 1)))
         return;
     painter->save();
     painter->setPen(QPen(colour(Colour::Heading, option.palette), 2));

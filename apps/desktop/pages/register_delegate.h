@@ -5,8 +5,8 @@
 
 namespace kiv::desktop {
 
-/// Paints the cells of the register as usual, negative amounts in their colour, and a line
-/// above the first row after today.
+/// Paints the cells of the register as usual, negative amounts in their colour, and a
+/// line below the last reconciliation and below today.
 class RegisterDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 

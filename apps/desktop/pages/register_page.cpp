@@ -77,8 +77,13 @@ void RegisterPage::build()
     m_account->setObjectName(QStringLiteral("account"));
     m_account->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_account->setMinimumContentsLength(16);
-    head->addWidget(label, 0, Qt::AlignTop);
-    head->addWidget(m_account, 0, Qt::AlignTop);
+    auto *chooser = new QHBoxLayout;
+    chooser->addWidget(label);
+    chooser->addWidget(m_account);
+    auto *left = new QVBoxLayout;
+    left->addLayout(chooser);
+    left->addStretch();
+    head->addLayout(left);
     head->addWidget(m_filter, 1);
     layout->addLayout(head);
     layout->addWidget(m_table, 1);
@@ -192,7 +197,9 @@ void RegisterPage::refresh()
     if (account && !m_accounts->find(*account))
         account.reset();
     showAccount(account);
-    m_filter->offer(*m_accounts);
+    // A search may name an account that has another name now.
+    if (m_filter->offer(*m_accounts) && m_shown->isSearching())
+        searchFor(m_filter->text());
     if (std::exchange(m_isFirst, false)) {
         sizeRows();
         scrollToEnd();
@@ -208,10 +215,11 @@ void RegisterPage::sizeRows()
     const QString day = foundation::localText(QDate(2028, 12, 28));
     const QString amount = workbench::amountText(
         -numira::Money(requests().preferredCurrency(), numira::Decimal(88'888)), m_displayAs);
-    const QString name = QStringLiteral("A usual name of an account");
+    const QString name = QStringLiteral("A usual account");
+    const QString both = name + QStringLiteral(" and one");
     for (const auto &[column, text] : {std::pair(Number, QStringLiteral("65535")),
                                        {Day, day},
-                                       {Other, name},
+                                       {Other, both},
                                        {Debit, name},
                                        {Credit, name},
                                        {Mark, tr("reconciled") + QStringLiteral("\u25cf ")},
@@ -227,12 +235,20 @@ void RegisterPage::sizeRows()
                        3 * metrics.averageCharWidth());
     }
     header->setSectionResizeMode(m_rows->place(Text), QHeaderView::Stretch);
+    header->restoreState(desk().settings().state(columnsKey()));
+}
+
+QString RegisterPage::columnsKey() const
+{
+    // Widths fit one size of text.
+    return QStringLiteral("register columns %1").arg(desk().settings().textSize());
 }
 
 void RegisterPage::showAccount(std::optional<AccountNumber> account)
 {
     const bool isOther = m_rows->account() != account;
-    m_rows->show(m_accounts, account, m_displayAs, foundation::today());
+    m_rows->show(m_accounts, account, m_displayAs,
+                 {foundation::today(), account ? reconciledOn(*account) : QDate()});
     m_table->setColumnHidden(m_rows->place(RegisterModel::Column::Balance), !account);
     fillAccounts();
     m_entry->refresh(m_accounts, account);
@@ -243,6 +259,17 @@ void RegisterPage::showAccount(std::optional<AccountNumber> account)
     }
     showResult();
     allowActions();
+}
+
+QDate RegisterPage::reconciledOn(AccountNumber account) const
+{
+    // Only an account of a bank is reconciled; others are refused.
+    if (!requests().banks().find(account))
+        return {};
+    using navigation::Navigator;
+    const auto last = std::get<1>(requests().ask(&Navigator::lookedUpLastReconciliation,
+                                                 &Navigator::onLookUpLastReconciliation, account));
+    return last && last->reconciledOn ? *last->reconciledOn : QDate();
 }
 
 void RegisterPage::fillAccounts()
@@ -360,6 +387,8 @@ std::optional<Transaction> RegisterPage::current() const
 void RegisterPage::hideEvent(QHideEvent *event)
 {
     Page::hideEvent(event);
+    if (!m_isFirst)
+        desk().settings().setState(columnsKey(), m_table->horizontalHeader()->saveState());
     allowActions();
 }
 

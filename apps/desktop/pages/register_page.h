@@ -49,7 +49,10 @@ private:
                       const std::function<void()> &run);
     void allowActions();
     void fillAccounts();
+    /// The day of the account's last reconciliation; invalid without one.
+    [[nodiscard]] QDate reconciledOn(accounting::AccountNumber account) const;
     void sizeRows();
+    [[nodiscard]] QString columnsKey() const;
     void showAccount(std::optional<accounting::AccountNumber> account);
     void searchFor(const QString &text);
     void showResult();
