@@ -4974,7 +4974,7 @@
     </message>
     <message>
         <source>&amp;Moved</source>
-        <translation>Umgebu&amp;cht</translation>
+        <translation>Umg&amp;ebucht</translation>
     </message>
     <message>
         <source>&amp;Amount</source>
@@ -4990,7 +4990,7 @@
     </message>
     <message>
         <source>T&amp;o</source>
-        <translation>&amp;Nach</translation>
+        <translation>N&amp;ach</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
@@ -5188,7 +5188,7 @@
     </message>
     <message>
         <source>F&amp;ind</source>
-        <translation>S&amp;uchen</translation>
+        <translation>Su&amp;chen</translation>
     </message>
     <message>
         <source>Mark</source>

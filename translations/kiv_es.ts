@@ -4966,7 +4966,7 @@
     </message>
     <message>
         <source>&amp;Spent</source>
-        <translation>Ga&amp;stado</translation>
+        <translation>Gas&amp;tado</translation>
     </message>
     <message>
         <source>Earne&amp;d</source>
@@ -4982,7 +4982,7 @@
     </message>
     <message>
         <source>Reaso&amp;n</source>
-        <translation>As&amp;unto</translation>
+        <translation>M&amp;otivo</translation>
     </message>
     <message>
         <source>Da&amp;y</source>
@@ -4990,11 +4990,11 @@
     </message>
     <message>
         <source>T&amp;o</source>
-        <translation>Dest&amp;ino</translation>
+        <translation>De&amp;stino</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation>&amp;Origen</translation>
+        <translation>Ori&amp;gen</translation>
     </message>
     <message>
         <source>&amp;On</source>
@@ -5382,7 +5382,7 @@
     </message>
     <message>
         <source>no payee or reason</source>
-        <translation>sin beneficiario ni asunto</translation>
+        <translation>sin beneficiario ni motivo</translation>
     </message>
     <message>
         <source>from %1 to %2</source>
@@ -5406,7 +5406,7 @@
     </message>
     <message>
         <source>Payee and reason</source>
-        <translation>Beneficiario y asunto</translation>
+        <translation>Beneficiario y motivo</translation>
     </message>
     <message>
         <source>Account or item</source>

@@ -272,8 +272,9 @@ void EntryRow::load(const Entry &entry)
 
 void EntryRow::clearFields()
 {
+    // Unlike clear() this also forgets what was typed, so that undo is that of the budget.
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_amount), m_payee, m_reason})
-        field->clear();
+        field->setText({});
     m_other->setAccount(std::nullopt);
     // The account that is looked at, or the one of the entry before.
     const workbench::AccountIndex *accounts = m_accounts.get();
@@ -501,6 +502,7 @@ void EntryRow::settle(TransactionNumber number)
     const bool wasNew = m_task == Task::Enter;
     setTask(Task::Enter, std::nullopt);
     clearFields();
+    m_day->setText(m_day->text()); // see clearFields()
     emit entered(number);
     // The next one is often of the same day. One that was changed is looked at again.
     if (wasNew)
