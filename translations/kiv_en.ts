@@ -218,6 +218,10 @@
         <translation>
             <numerusform>putting %n transaction under %1</numerusform>
             <numerusform>putting %n transactions under %1</numerusform>
+        <source>%n days old</source>
+        <translation>
+            <numerusform>%n day old</numerusform>
+            <numerusform>%n days old</numerusform>
         </translation>
     </message>
 </context>
@@ -228,6 +232,12 @@
         <translation>
             <numerusform>Put %n transaction under</numerusform>
             <numerusform>Put %n transactions under</numerusform>
+    <name>kiv::desktop::HistoryPage</name>
+    <message numerus="yes">
+        <source>What changed since then. %n more changes are not shown.</source>
+        <translation>
+            <numerusform>What changed since then. %n more change is not shown.</numerusform>
+            <numerusform>What changed since then. %n more changes are not shown.</numerusform>
         </translation>
     </message>
 </context>
@@ -238,6 +248,12 @@
         <translation>
             <numerusform>%n transaction</numerusform>
             <numerusform>%n transactions</numerusform>
+    <name>kiv::desktop::HomePage</name>
+    <message numerus="yes">
+        <source>Show %n more</source>
+        <translation>
+            <numerusform>Show %n more</numerusform>
+            <numerusform>Show %n more</numerusform>
         </translation>
     </message>
 </context>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window.h"
 
+#include "actions/palette_sources.h"
 #include "pages/all_pages.h"
 #include "pages/welcome_page.h"
 
@@ -187,6 +188,8 @@ void MainWindow::addPaletteSources()
         }
         return entries;
     });
+    m_palette->addSource(accountSource(*m_desk));
+    m_palette->addSource(itemSource(*m_desk));
 }
 
 void MainWindow::applyLooks()

@@ -5,11 +5,14 @@
 #include "models/table_model.h"
 #include "widgets/table.h"
 
+#include "workbench/versions/kept_versions.h"
+
 #include "foundation/presentation.h"
 
 #include <QtTest/QAbstractItemModelTester>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
 using namespace kiv;
@@ -184,6 +187,132 @@ private slots:
                                    purse);
         });
         QCOMPARE(texts(home, 4).join(u' '), u"Checking Checking Checking"_s);
+    }
+
+    // ---- home --------------------------------------------------------------------
+
+    void homePaysAndSkipsLineByLine()
+    {
+        SmallHousehold home;
+        show(home, "home");
+        const auto focus = [] { return QApplication::focusWidget()->accessibleName(); };
+        QCOMPARE(focus(), u"Pay: Rent, $900.00, 3 days late"_s);
+        press(home, Qt::Key_Space);
+        QCOMPARE(home.requests().transactions().back().amount(), test::usd("900"));
+        QCOMPARE(focus(), u"Pay: Phone, $20.00, today"_s);
+        QCOMPARE(texts(home, 2).at(1), dollars("2100")); // Checking, below its heading
+        press(home, Qt::Key_Tab);
+        press(home, Qt::Key_Space);
+        QCOMPARE(focus(), u"Skip: Salary, $2,500.00, in 2 days"_s);
+        QCOMPARE(home.document().undoable()->undone, u"skipping “Phone”"_s);
+        press(home, Qt::Key_Tab);
+        press(home, Qt::Key_Space);
+        QCOMPARE(home.window().page()->id(), u"due"_s);
+        QCOMPARE(table(home).chosen(), QStringList{u"wage:Salary"_s});
+    }
+
+    void aMissingRateBlanksNoPage()
+    {
+        SmallHousehold home;
+        show(home, "home");
+        home.document().perform({u"More"_s, {}, {}}, [&] {
+            home.addItem<budgeting::Bill>("Server", "500 JPY", foundation::today());
+            home.addItem<budgeting::Wage>("Royalties", "300 JPY", foundation::today().addDays(1));
+        });
+        for (desktop::Page *page : home.window().pages()) {
+            home.trigger("page " + page->id().toUtf8());
+            QCOMPARE(home.window().desk().notices().texts(), QStringList());
+        }
+        home.trigger("page home");
+        const auto labels = home.window().page()->findChildren<QLabel *>();
+        const auto says = [&labels](const QString &text) {
+            return std::ranges::any_of(
+                labels, [&text](const QLabel *label) { return label->text().contains(text); });
+        };
+        QVERIFY(says(u"There is no exchange rate for JPY; balances leave it out."_s));
+        QVERIFY(says(u"There is no exchange rate between JPY and USD."_s));
+        QVERIFY(says(u": ¥500, $920.00. "_s));
+        home.trigger("page due");
+        QCOMPARE(texts(home, 5),
+                 QStringList({dollars("2100"), dollars("2080"), u"–"_s, u"–"_s, dollars("4580")}));
+    }
+
+    // ---- history -----------------------------------------------------------------
+
+    void goesBackToAStepAndToAFormerVersion()
+    {
+        SmallHousehold home;
+        show(home, "due");
+        press(home, Qt::Key_P, Qt::AltModifier);
+        home.document().writeNow();
+        press(home, Qt::Key_P, Qt::AltModifier);
+        home.trigger("page history");
+        QCOMPARE(texts(home, 0, "steps").mid(0, 4),
+                 QStringList({u"Since the file was opened"_s, u"Paid Phone."_s, u"Paid Rent."_s,
+                              u"As it was opened"_s}));
+        table(home, "steps").choose(u"step 1"_s);
+        press(home, Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(home.requests().transactions().size(), std::size_t{2});
+        QCOMPARE(texts(home, 2, "steps").mid(1, 3), QStringList({{}, u"present"_s, {}}));
+        // The oldest version of the file is the budget as it began.
+        table(home, "steps").choose(u"version 1"_s);
+        QTRY_VERIFY(table(home, "changes").isVisible());
+        QVERIFY(texts(home, 1, "changes").contains(u"3 Rent"_s));
+        QVERIFY(texts(home, 3, "changes").contains(u"balance 0.00 USD → 900.00 USD"_s));
+        press(home, Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(home.requests().transactions().size(), std::size_t{1});
+        home.trigger("undo");
+        QCOMPARE(home.requests().transactions().size(), std::size_t{2});
+    }
+
+    void aDamagedVersionIsShownAndRefused()
+    {
+        SmallHousehold home;
+        show(home, "due");
+        press(home, Qt::Key_P, Qt::AltModifier);
+        home.document().writeNow();
+        const workbench::KeptVersions versions(home.document().file());
+        QFile damaged(versions.named(u"1"_s).path);
+        QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("no budget") > 0);
+        damaged.close();
+        home.trigger("page history");
+        QCOMPARE(texts(home, 2, "steps").last(), u"damaged"_s);
+        table(home, "steps").choose(u"version 1"_s);
+        press(home, Qt::Key_B, Qt::AltModifier);
+        QVERIFY(!message(home).isEmpty());
+        QCOMPARE(home.requests().transactions().size(), std::size_t{2});
+    }
+
+    // ---- everything else ---------------------------------------------------------
+
+    void everythingIsListed()
+    {
+        SmallHousehold home;
+        show(home, "overview");
+        auto *chooser = home.window().page()->findChild<QComboBox *>();
+        QStringList all;
+        for (int section = 0; section < chooser->count(); ++section) {
+            chooser->setCurrentIndex(section);
+            all += chooser->currentText() + u": "_s + texts(home, 0).join(u' ');
+        }
+        QCOMPARE(all, QStringList({u"Bills: Phone Rent"_s, u"Debts: "_s, u"Goals: Trip"_s,
+                                   u"Free spending: "_s, u"Wages: Salary"_s, u"Banks: First"_s,
+                                   u"Reconciliations: "_s, u"Exchange rates: "_s,
+                                   u"Settings: Preferred currency Usable currencies Display of "
+                                   "currencies Due items shown ahead, in days Survey window Work "
+                                   "hours a week Work days a week Tags"_s}));
+    }
+
+    void theCommandPaletteFindsAccountsAndItems()
+    {
+        SmallHousehold home;
+        show(home, "home");
+        home.trigger("palette");
+        type(home, u"trip goal"_s);
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.window().page()->id(), u"overview"_s);
+        QCOMPARE(home.window().page()->detail(), u"goal"_s);
+        QCOMPARE(table(home).chosen(), QStringList{u"Trip"_s});
     }
 
 private:

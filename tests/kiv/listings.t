@@ -71,7 +71,7 @@ What is there is told:
   > .
   $ kiv history diff
   What         Name  Change   Detail
-  transaction  4     changed  creditStatus none → cleared, debitStatus none → cleared
+  transaction  4     changed  mark of the giver none → cleared, mark of the receiver none → cleared
   $ kiv account recode Food --under Old
   The account 7 Expenses:Food is now 7 Expenses:Old:Food.
   $ kiv transaction update 3 --date 2026-02-01

@@ -147,8 +147,8 @@ Differences are told field by field:
   Reconciled 1 Checking at First with a balance of $2,495.00.
   $ kiv history diff
   What         Name     Change   Detail
-  transaction  1        changed  creditStatus none \xe2\x86\x92 reconciled, debitStatus none \xe2\x86\x92 reconciled (esc)
-  transaction  2        changed  creditStatus none \xe2\x86\x92 reconciled, debitStatus none \xe2\x86\x92 reconciled (esc)
+  transaction  1        changed  mark of the giver none \xe2\x86\x92 reconciled, mark of the receiver none \xe2\x86\x92 reconciled (esc)
+  transaction  2        changed  mark of the giver none \xe2\x86\x92 reconciled, mark of the receiver none \xe2\x86\x92 reconciled (esc)
   survey       First 1  added    2495.00 USD
   $ kiv bank rename First Second
   The bank is now called 'Second'.

@@ -100,7 +100,7 @@ QString lackingRatesText(const std::set<numira::Currency> &currencies)
     QStringList codes;
     for (const numira::Currency &currency : currencies)
         codes += foundation::toQString(currency);
-    return QObject::tr("There is no exchange rate for %1; sums leave it out.")
+    return QObject::tr("There is no exchange rate for %1; balances leave it out.")
         .arg(QLocale().createSeparatedList(codes));
 }
 

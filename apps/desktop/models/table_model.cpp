@@ -6,7 +6,7 @@
 #include "foundation/presentation.h"
 
 #include <QtCore/QHash>
-#include <QtCore/QSet>
+#include <QtCore/QSize>
 #include <QtGui/QFont>
 #include <QtGui/QGuiApplication>
 
@@ -46,6 +46,14 @@ Cell dayCell(QDate day)
 TableModel::TableModel(QStringList columns, QObject *parent)
     : QAbstractTableModel(parent), m_columns(std::move(columns))
 {
+}
+
+void TableModel::setColumns(const QStringList &columns)
+{
+    beginResetModel();
+    m_columns = columns;
+    m_rows.clear();
+    endResetModel();
 }
 
 void TableModel::setRows(std::vector<Row> rows)
@@ -151,6 +159,10 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
     const Cell cell = column < row.cells.size() ? row.cells[column] : Cell{};
     switch (role) {
     case Qt::DisplayRole:
+        // Among words from right to left, the minus stays in front of its number.
+        if (cell.isAmount && QGuiApplication::isRightToLeft() && !cell.text.isEmpty())
+            return QChar(0x200e) + cell.text;
+        return cell.text;
     case Qt::ToolTipRole:
         return cell.text;
     case Qt::AccessibleTextRole:
@@ -167,6 +179,9 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
             return font;
         }
         return {};
+    case Qt::SizeHintRole:
+        // Its text runs on over the columns, so that it makes none of them wider.
+        return row.isHeading ? QVariant(QSize(1, 1)) : QVariant();
     case Qt::ForegroundRole:
         if (row.isHeading || cell.colour)
             return colour(cell.colour.value_or(Colour::Heading), QGuiApplication::palette());

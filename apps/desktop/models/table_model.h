@@ -47,6 +47,8 @@ class TableModel final : public QAbstractTableModel {
 public:
     explicit TableModel(QStringList columns, QObject *parent = nullptr);
 
+    /// Forgets all rows and has these columns.
+    void setColumns(const QStringList &columns);
     /// Shows these rows.
     void setRows(std::vector<Row> rows);
     [[nodiscard]] const std::vector<Row> &rows() const noexcept { return m_rows; }

@@ -3,6 +3,9 @@
 
 #include "pages/accounts_page.h"
 #include "pages/due_page.h"
+#include "pages/history_page.h"
+#include "pages/home_page.h"
+#include "pages/overview_page.h"
 #include "pages/register_page.h"
 
 namespace kiv::desktop {
@@ -10,9 +13,8 @@ namespace kiv::desktop {
 std::vector<Page *> makePages(Desk &desk)
 {
     return {
-        new AccountsPage(desk),
-        new RegisterPage(desk),
-        new DuePage(desk),
+        new HomePage(desk), new AccountsPage(desk), new RegisterPage(desk),
+        new DuePage(desk),  new OverviewPage(desk), new HistoryPage(desk),
     };
 }
 

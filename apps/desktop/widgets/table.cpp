@@ -64,6 +64,24 @@ void Table::setHeights()
     horizontalHeader()->setMaximumSectionSize(fontMetrics().averageCharWidth() * 60);
 }
 
+void Table::setWidths()
+{
+    clearSpans();
+    resizeColumnsToContents();
+    int heading = 0; // the widest
+    for (int row = 0; row < m_rows.rowCount(); ++row) {
+        const QModelIndex first = m_rows.index(row, 0);
+        if (!m_rows.rows()[static_cast<std::size_t>(row)].isHeading)
+            continue;
+        const QFontMetrics metrics(first.data(Qt::FontRole).value<QFont>());
+        heading = std::max(heading, metrics.horizontalAdvance(first.data().toString() + u"mm"));
+        if (m_rows.columnCount() > 1)
+            setSpan(row, 0, 1, m_rows.columnCount());
+    }
+    if (const int missing = heading - horizontalHeader()->length(); missing > 0)
+        setColumnWidth(0, columnWidth(0) + missing);
+}
+
 void Table::chooseSeveral()
 {
     setSelectionMode(ExtendedSelection);
@@ -94,7 +112,7 @@ void Table::choose(const QString &key)
 
 void Table::settle()
 {
-    resizeColumnsToContents();
+    setWidths();
     updateGeometry();
     if (selectionModel()->hasSelection())
         return;
@@ -132,7 +150,7 @@ void Table::changeEvent(QEvent *event)
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
         setHeights();
-        resizeColumnsToContents();
+        setWidths();
     }
 }
 

@@ -43,6 +43,7 @@ protected:
 
 private:
     void setHeights();
+    void setWidths();
     [[nodiscard]] int heightOf(int rows) const;
 
     TableModel &m_rows;

@@ -60,16 +60,23 @@ QJsonObject toJson(const KeptVersion &version)
             {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
 }
 
+SharedChanges changesBetween(const storage::BudgetStorage::Data &before,
+                             const storage::BudgetStorage::Data &after)
+{
+    return std::make_shared<const std::vector<workbench::Change>>(
+        workbench::changesBetween(before, after));
+}
+
 /// The report on a version that was gone back or forth to.
 Report restored(const Document::Recalled &recalled)
 {
     // Fits on a screen: an undone import may have posted thousands.
     constexpr qsizetype shownMax = 20;
-    const Rows changes =
-        rowsOf(recalled.before ? workbench::changesBetween(*recalled.before, recalled.after)
-                               : std::vector<workbench::Change>());
+    const SharedChanges changes = recalled.before
+                                      ? changesBetween(*recalled.before, recalled.after)
+                                      : std::make_shared<const std::vector<workbench::Change>>();
     Report report(QJsonObject{{QStringLiteral("restored"), toJson(recalled.version)}},
-                  QStringLiteral("changes"), changes);
+                  QStringLiteral("changes"), rowsOf(changes));
     report.line(QObject::tr("Restored the version saved at %1.")
                     .arg(localTime(recalled.version.mark.savedAt)));
     if (recalled.before)
@@ -161,9 +168,9 @@ struct Differences {
         const workbench::KeptVersions versions(Document::withExtension(call.fileNamed()));
         const KeptVersion &before = from ? versions.named(*from) : versions.undone(1);
         const KeptVersion &after = to ? versions.named(*to) : versions.present();
-        const Rows changes =
-            rowsOf(workbench::changesBetween(workbench::dataOf(before), workbench::dataOf(after)));
-        Report report(changes);
+        const SharedChanges changes =
+            changesBetween(workbench::dataOf(before), workbench::dataOf(after));
+        Report report(rowsOf(changes));
         tabulate(report, changes, QObject::tr("Both versions are the same."));
         return report;
     }

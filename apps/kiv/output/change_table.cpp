@@ -4,6 +4,7 @@
 #include "output/json.h"
 
 #include "workbench/entry/kind_words.h"
+#include "workbench/versions/change_text.h"
 
 #include <QtCore/QObject>
 
@@ -86,94 +87,12 @@ QLatin1String howOf(const Change &change)
     return QLatin1String(change.after ? "changed" : "removed");
 }
 
-/// For wordText: kinds of things, kinds of changes, and fields.
-[[maybe_unused]] constexpr std::array words{
-    QT_TRANSLATE_NOOP("QObject", "item"),         QT_TRANSLATE_NOOP("QObject", "account"),
-    QT_TRANSLATE_NOOP("QObject", "transaction"),  QT_TRANSLATE_NOOP("QObject", "bank"),
-    QT_TRANSLATE_NOOP("QObject", "survey"),       QT_TRANSLATE_NOOP("QObject", "added"),
-    QT_TRANSLATE_NOOP("QObject", "changed"),      QT_TRANSLATE_NOOP("QObject", "removed"),
-    QT_TRANSLATE_NOOP("QObject", "accounts"),     QT_TRANSLATE_NOOP("QObject", "amount"),
-    QT_TRANSLATE_NOOP("QObject", "balance"),      QT_TRANSLATE_NOOP("QObject", "borrowed"),
-    QT_TRANSLATE_NOOP("QObject", "credit"),       QT_TRANSLATE_NOOP("QObject", "creditAmount"),
-    QT_TRANSLATE_NOOP("QObject", "creditStatus"), QT_TRANSLATE_NOOP("QObject", "date"),
-    QT_TRANSLATE_NOOP("QObject", "debit"),        QT_TRANSLATE_NOOP("QObject", "debitAmount"),
-    QT_TRANSLATE_NOOP("QObject", "debitStatus"),  QT_TRANSLATE_NOOP("QObject", "description"),
-    QT_TRANSLATE_NOOP("QObject", "every"),        QT_TRANSLATE_NOOP("QObject", "name"),
-    QT_TRANSLATE_NOOP("QObject", "next"),         QT_TRANSLATE_NOOP("QObject", "notDistributed"),
-    QT_TRANSLATE_NOOP("QObject", "number"),       QT_TRANSLATE_NOOP("QObject", "open"),
-    QT_TRANSLATE_NOOP("QObject", "parent"),       QT_TRANSLATE_NOOP("QObject", "path"),
-    QT_TRANSLATE_NOOP("QObject", "reconciledOn"), QT_TRANSLATE_NOOP("QObject", "refundOf"),
-    QT_TRANSLATE_NOOP("QObject", "tags"),         QT_TRANSLATE_NOOP("QObject", "target"),
-    QT_TRANSLATE_NOOP("QObject", "type"),
-};
-
-QString textOf(const QString &field, const QJsonValue &value)
-{
-    if (value.isNull() || value.isUndefined())
-        return QStringLiteral("–");
-    if (QStringList{QStringLiteral("date"), QStringLiteral("next"), QStringLiteral("reconciledOn")}
-            .contains(field))
-        return dayText(value);
-    if (field == u"every" || field == u"type")
-        return wordText(value);
-    if (field == u"debitStatus" || field == u"creditStatus")
-        return statusText(value);
-    if (field == u"description")
-        return descriptionText(value);
-    if (value.isObject())
-        return amountText(value, navigation::CurrencyDisplayOptions::IsoCode);
-    if (value.isArray()) {
-        QStringList texts;
-        for (const QJsonValue element : value.toArray())
-            texts += textOf({}, element);
-        return texts.join(QStringLiteral(", "));
-    }
-    return value.toVariant().toString();
-}
-
-/// The changed values; for something added or removed, its main values.
-QString detailOf(const QJsonObject &change)
-{
-    const QJsonObject before = change[QLatin1String("before")].toObject();
-    const QJsonObject after = change[QLatin1String("after")].toObject();
-    QStringList details;
-    if (!before.isEmpty() && !after.isEmpty()) {
-        for (auto field = after.begin(); field != after.end(); ++field) {
-            if (const QJsonValue was = before.value(field.key()); was != field.value()) {
-                details += QStringLiteral("%1 %2 → %3")
-                               .arg(wordText(field.key()), textOf(field.key(), was),
-                                    textOf(field.key(), field.value()));
-            }
-        }
-        return details.join(QStringLiteral(", "));
-    }
-    const QJsonObject &whole = after.isEmpty() ? before : after;
-    for (const char *key : {"date", "amount", "balance", "description", "every", "next"}) {
-        const QJsonValue value = whole.value(QLatin1String(key));
-        if (const QString text = textOf(QLatin1String(key), value);
-            !value.isUndefined() && !text.isEmpty())
-            details += text;
-    }
-    return details.join(QStringLiteral(", "));
-}
-
-/// The name to show. An item's name begins with its kind, which is translated.
-QString nameOf(const QJsonObject &change)
-{
-    const QString name = change[QLatin1String("name")].toString();
-    const bool isGone = change[QLatin1String("after")].isNull();
-    const QString kind =
-        change[QLatin1String(isGone ? "before" : "after")][QLatin1String("kind")].toString();
-    return kind.isEmpty() ? name : wordText(kind) + name.mid(kind.size());
-}
-
 } // namespace
 
-Rows rowsOf(std::vector<Change> changes)
+Rows rowsOf(const SharedChanges &changes)
 {
-    const auto all = std::make_shared<const std::vector<Change>>(std::move(changes));
-    return {static_cast<qsizetype>(all->size()), [all](qsizetype at) {
-                const Change &change = (*all)[static_cast<std::size_t>(at)];
+    return {static_cast<qsizetype>(changes->size()), [changes](qsizetype at) {
+                const Change &change = (*changes)[static_cast<std::size_t>(at)];
                 return QJsonObject{{QStringLiteral("what"), whatOf(change)},
                                    {QStringLiteral("name"), change.name},
                                    {QStringLiteral("change"), howOf(change)},
@@ -182,20 +101,24 @@ Rows rowsOf(std::vector<Change> changes)
             }};
 }
 
-void tabulate(Report &report, const Rows &changes, const QString &whenNone, qsizetype rowsMax)
+void tabulate(Report &report, const SharedChanges &changes, const QString &whenNone,
+              qsizetype rowsMax)
 {
-    const Rows rows(std::min(changes.size(), rowsMax), [changes](qsizetype at) {
-        QJsonObject row = changes[at].toObject();
-        row.insert(QStringLiteral("detail"), plainText(detailOf(row)));
-        row.insert(QStringLiteral("name"), plainText(nameOf(row)));
-        return row;
+    const auto count = static_cast<qsizetype>(changes->size());
+    const Rows rows(std::min(count, rowsMax), [changes](qsizetype at) {
+        const workbench::ChangeText text =
+            workbench::changeText((*changes)[static_cast<std::size_t>(at)]);
+        return QJsonObject{{QStringLiteral("what"), text.what},
+                           {QStringLiteral("name"), text.name},
+                           {QStringLiteral("change"), text.how},
+                           {QStringLiteral("detail"), text.detail}};
     });
-    report.table({{QObject::tr("What"), QStringLiteral("what"), wordText},
+    report.table({{QObject::tr("What"), QStringLiteral("what")},
                   {QObject::tr("Name"), QStringLiteral("name")},
-                  {QObject::tr("Change"), QStringLiteral("change"), wordText},
+                  {QObject::tr("Change"), QStringLiteral("change")},
                   {QObject::tr("Detail"), QStringLiteral("detail")}},
                  rows, whenNone);
-    if (const auto left = static_cast<int>(changes.size() - rows.size()); left > 0)
+    if (const auto left = static_cast<int>(count - rows.size()); left > 0)
         report.line(
             QObject::tr("%n more changes are not shown; see all with --json.", nullptr, left));
 }

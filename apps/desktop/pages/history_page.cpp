@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pages/history_page.h"
+
+#include "models/history_rows.h"
+#include "widgets/allow.h"
+#include "widgets/table.h"
+
+#include "workbench/versions/kept_versions.h"
+
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace kiv::desktop {
+
+using storage::BudgetStorage;
+
+namespace {
+
+/// An import may have posted thousands.
+constexpr std::size_t shownMax = 200;
+constexpr std::chrono::milliseconds pause{150};
+
+} // namespace
+
+HistoryPage::HistoryPage(Desk &desk)
+    : Page(desk, QStringLiteral("history"), tr("History")),
+      m_model(new TableModel(historyColumns(), this)),
+      m_table(new Table(*m_model, tr("Steps and versions"), this)),
+      m_changes(new TableModel(changeColumns(), this)),
+      m_changeTable(new Table(*m_changes, tr("What changed since"), this)),
+      m_difference(new QLabel(this)),
+      m_goBack(new QPushButton(tr("Go &back to this"), this)),
+      m_message(new FieldMessage(this))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_table, 3);
+    layout->addWidget(m_goBack, 0, Qt::AlignLeft);
+    layout->addWidget(m_message);
+    layout->addWidget(m_difference);
+    layout->addWidget(m_changeTable, 2);
+    m_table->setObjectName(QStringLiteral("steps"));
+    m_changeTable->setObjectName(QStringLiteral("changes"));
+    m_goBack->setObjectName(QStringLiteral("goBack"));
+    m_difference->setTextFormat(Qt::PlainText);
+    m_difference->setWordWrap(true);
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pause);
+    connect(&m_pause, &QTimer::timeout, this, &HistoryPage::compare);
+    connect(m_table, &Table::chosenChanged, this, &HistoryPage::follow);
+    connect(m_table, &Table::opened, this, &HistoryPage::goBack);
+    connect(m_goBack, &QPushButton::clicked, this, &HistoryPage::goBack);
+}
+
+QWidget *HistoryPage::firstFocus()
+{
+    return m_table;
+}
+
+void HistoryPage::refresh()
+{
+    m_message->withdraw();
+    const QString file = desk().document().file();
+    m_model->setRows(historyRows(desk().document().steps(), workbench::KeptVersions(file).all()));
+    m_table->settle();
+    follow();
+}
+
+void HistoryPage::follow()
+{
+    const HistoryTarget target = historyTarget(m_table->chosen().value(0));
+    std::optional<QString> whyNot = desk().whyNoChange();
+    if (!whyNot && !target.step && target.version.isEmpty())
+        whyNot = tr("No line is chosen.");
+    const std::vector<workbench::Step> steps = desk().document().steps();
+    if (!whyNot && target.step && steps.at(static_cast<std::size_t>(*target.step)).isPresent)
+        whyNot = tr("This is the present state.");
+    allow(*m_goBack, whyNot);
+    m_difference->hide();
+    m_changeTable->hide();
+    m_pause.start();
+}
+
+void HistoryPage::compare()
+{
+    const HistoryTarget target = historyTarget(m_table->chosen().value(0));
+    if (target.version.isEmpty())
+        return;
+    try {
+        const workbench::KeptVersions versions(desk().document().file());
+        showChanges(workbench::dataOf(versions.named(target.version)));
+    } catch (const foundation::Error &error) {
+        m_difference->setText(workbench::userText(error));
+        m_difference->show();
+    }
+}
+
+void HistoryPage::showChanges(const BudgetStorage::Data &then)
+{
+    const std::vector<workbench::Change> changes =
+        workbench::changesBetween(then, desk().document().present());
+    const auto left = static_cast<int>(changes.size()) - static_cast<int>(shownMax);
+    if (changes.empty())
+        m_difference->setText(tr("Nothing changed since then."));
+    else if (left > 0)
+        m_difference->setText(
+            tr("What changed since then. %n more changes are not shown.", nullptr, left));
+    else
+        m_difference->setText(tr("What changed since then:"));
+    m_changes->setRows(changeRows(changes, shownMax));
+    m_difference->show();
+    m_changeTable->setVisible(!changes.empty());
+    m_changeTable->settle();
+}
+
+void HistoryPage::goBack()
+{
+    if (!m_goBack->isEnabled())
+        return;
+    const HistoryTarget target = historyTarget(m_table->chosen().value(0));
+    try {
+        workbench::Document &document = desk().document();
+        if (target.step)
+            document.goTo(*target.step);
+        else
+            document.undoTo(target.version);
+    } catch (const foundation::Error &error) {
+        m_message->complain(m_table, workbench::userText(error));
+        return;
+    }
+    desk().say(tr("The budget is as it was then. Undo takes that back."));
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pages/page.h"
+
+#include <QtCore/QTimer>
+
+QT_BEGIN_NAMESPACE
+class QPushButton;
+QT_END_NAMESPACE
+
+namespace kiv::desktop {
+
+class Table;
+class TableModel;
+
+/// The steps of this session and the former versions of the file: what changed since, and
+/// going back to one of them.
+class HistoryPage final : public Page {
+    Q_OBJECT
+
+public:
+    explicit HistoryPage(Desk &desk);
+
+    [[nodiscard]] QWidget *firstFocus() override;
+
+protected:
+    void refresh() override;
+
+private:
+    void follow();
+    void compare();
+    void goBack();
+    void showChanges(const storage::BudgetStorage::Data &then);
+
+    TableModel *m_model;
+    Table *m_table;
+    TableModel *m_changes;
+    Table *m_changeTable;
+    QLabel *m_difference;
+    QPushButton *m_goBack;
+    FieldMessage *m_message;
+    QTimer m_pause; ///< before a version is read, while the keys go on to another
+};
+
+} // namespace kiv::desktop

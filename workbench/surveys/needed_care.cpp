@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/surveys/needed_care.h"
+
+#include "workbench/entry/account_index.h"
+
+#include "foundation/presentation.h"
+#include "numira/error.h"
+
+#include <QtCore/QLocale>
+
+namespace kiv::workbench {
+
+using accounting::AccountNumber;
+using navigation::Navigator;
+using storage::BudgetStorage;
+
+namespace {
+
+using About = Care::About;
+
+void addBroken(Document &document, std::vector<Care> &all)
+{
+    // Of each account the first, so that one cause does not give a flood.
+    std::set<AccountNumber> told;
+    for (const JudgedReconciliation &one : document.reconciliations()) {
+        if (!one.holds() && told.insert(one.account.account.number).second)
+            all.push_back({About::Reconciliation, inPlainWords(document.sentence(one)),
+                           one.account.account.number});
+    }
+}
+
+/// The day of the first transaction; invalid without one.
+QDate firstDay(const accounting::Account &account)
+{
+    QDate first;
+    for (const accounting::Transaction &transaction : account.transactions()) {
+        if (!first.isValid() || transaction.occurredOn() < first)
+            first = transaction.occurredOn();
+    }
+    return first;
+}
+
+/// The sentence if the account was not reconciled for long; empty if it was.
+QString longNotReconciled(const BudgetStorage::Data &data, const banking::BankName &bank,
+                          AccountNumber number, QDate today)
+{
+    const accounting::LedgerAccount account = data.generalLedger.ledger(number);
+    if (account.isClosed())
+        return {};
+    const auto survey = data.surveys.lookUpSurvey(bank, number);
+    const std::optional<QDate> last = survey ? survey->reconciled().reconciledOn() : std::nullopt;
+    const QDate since = last ? *last : firstDay(account);
+    if (!since.isValid() || since.daysTo(today) <= reconciledDaysMax)
+        return {};
+    const QString name = plainNameOf(account);
+    return last ? QObject::tr("%1 was last reconciled on %2.")
+                      .arg(name, foundation::presentationText(*last))
+                : QObject::tr("%1 was never reconciled.").arg(name);
+}
+
+void addLongNotReconciled(const BudgetStorage::Data &data, QDate today, std::vector<Care> &all)
+{
+    for (const auto &[name, bank] : data.banks) {
+        for (const auto &[number, type] : bank.accounts()) {
+            // An account under another has no statement of its own.
+            if (type == banking::BankAccountTypes::GoalSubAccount ||
+                !data.generalLedger.hasLedger(number))
+                continue;
+            const QString sentence = longNotReconciled(data, name, number, today);
+            if (!sentence.isEmpty())
+                all.push_back({About::LongNotReconciled, sentence, number});
+        }
+    }
+}
+
+bool hasRate(const numira::Currency &from, const numira::Currency &to)
+{
+    try {
+        (void)numira::Money(from, 1, 0).convertedTo(to);
+        return true;
+    } catch (const numira::Error &) {
+        return false;
+    } catch (const foundation::Error &) {
+        return false;
+    }
+}
+
+void addMissingRates(Requests &requests, const BudgetStorage::Data &data, std::vector<Care> &all)
+{
+    const numira::Currency preferred = requests.preferredCurrency();
+    std::set<numira::Currency> used = budgeting::containedCurrencies(data.budget);
+    used.merge(accounting::containedCurrencies(data.generalLedger));
+    QStringList missing;
+    for (const numira::Currency &currency : used) {
+        if (!hasRate(currency, preferred))
+            missing += foundation::toQString(currency);
+    }
+    if (!missing.isEmpty())
+        all.push_back(
+            {About::Rates,
+             QObject::tr("There is no exchange rate between %1 and %2.")
+                 .arg(QLocale().createSeparatedList(missing), foundation::toQString(preferred)),
+             std::nullopt});
+}
+
+void addHealth(Requests &requests, std::vector<Care> &all)
+{
+    const std::optional<adviser::BudgetHealth> health = healthOf(requests);
+    if (!health || health->grade() == adviser::HealthGrade::Unknown)
+        return;
+    for (const adviser::HealthReason &reason : health->reasons()) {
+        if (!reason.isSound)
+            all.push_back({About::Health, reason.text, std::nullopt});
+    }
+}
+
+} // namespace
+
+std::optional<adviser::BudgetHealth> healthOf(Requests &requests)
+{
+    try {
+        return std::get<adviser::BudgetHealth>(
+            requests.ask(&Navigator::showDashboard, &Navigator::onPrepareShowDashboard));
+    } catch (const foundation::Error &) {
+        return std::nullopt;
+    }
+}
+
+std::vector<Care> neededCare(Document &document, QDate today)
+{
+    std::vector<Care> all;
+    if (const std::optional<Trouble> trouble = document.whyNotSaved())
+        all.push_back({About::File,
+                       QObject::tr("The last changes are not saved. %1").arg(trouble->sentence),
+                       std::nullopt});
+    const BudgetStorage::Data data = document.present();
+    addBroken(document, all);
+    addMissingRates(document.requests(), data, all);
+    addLongNotReconciled(data, today, all);
+    addHealth(document.requests(), all);
+    return all;
+}
+
+} // namespace kiv::workbench
