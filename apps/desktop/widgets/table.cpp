@@ -74,7 +74,8 @@ void Table::setWidths()
         if (!m_rows.rows()[static_cast<std::size_t>(row)].isHeading)
             continue;
         const QFontMetrics metrics(first.data(Qt::FontRole).value<QFont>());
-        heading = std::max(heading, metrics.horizontalAdvance(first.data().toString() + u"mm"));
+        heading = std::max(
+            heading, metrics.horizontalAdvance(first.data().toString() + QStringLiteral("mm")));
         if (m_rows.columnCount() > 1)
             setSpan(row, 0, 1, m_rows.columnCount());
     }
