@@ -218,6 +218,9 @@
         <translation>
             <numerusform>putting %n transaction under %1</numerusform>
             <numerusform>putting %n transactions under %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>%n days old</source>
         <translation>
             <numerusform>%n day old</numerusform>
@@ -232,6 +235,10 @@
         <translation>
             <numerusform>Put %n transaction under</numerusform>
             <numerusform>Put %n transactions under</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::HistoryPage</name>
     <message numerus="yes">
         <source>What changed since then. %n more changes are not shown.</source>
@@ -242,18 +249,22 @@
     </message>
 </context>
 <context>
-    <name>kiv::desktop::RegisterFilter</name>
-    <message numerus="yes">
-        <source>%n transaction(s)</source>
-        <translation>
-            <numerusform>%n transaction</numerusform>
-            <numerusform>%n transactions</numerusform>
     <name>kiv::desktop::HomePage</name>
     <message numerus="yes">
         <source>Show %n more</source>
         <translation>
             <numerusform>Show %n more</numerusform>
             <numerusform>Show %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RegisterFilter</name>
+    <message numerus="yes">
+        <source>%n transaction(s)</source>
+        <translation>
+            <numerusform>%n transaction</numerusform>
+            <numerusform>%n transactions</numerusform>
         </translation>
     </message>
 </context>

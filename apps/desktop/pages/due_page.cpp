@@ -2,17 +2,14 @@
 #include "pages/due_page.h"
 
 #include "widgets/allow.h"
+#include "widgets/day_edit.h"
+#include "widgets/money_edit.h"
 #include "widgets/table.h"
-
-#include "workbench/entry/values.h"
-
-#include "foundation/presentation.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -27,8 +24,8 @@ DuePage::DuePage(Desk &desk)
       m_summary(new QLabel(this)),
       m_form(new QWidget(this)),
       m_account(new QComboBox(m_form)),
-      m_day(new QLineEdit(m_form)),
-      m_amount(new QLineEdit(m_form)),
+      m_day(new DayEdit(m_form)),
+      m_amount(new MoneyEdit(m_form)),
       m_isExtra(new QCheckBox(tr("&In addition: it stays due"), m_form)),
       m_pay(new QPushButton(tr("&Pay"), m_form)),
       m_skip(new QPushButton(tr("S&kip"), m_form)),
@@ -112,8 +109,11 @@ void DuePage::refresh()
     m_table->setVisible(!isEmpty);
     m_form->setVisible(!isEmpty);
     m_message->withdraw();
-    if (!m_day->isModified())
-        m_day->setText(foundation::presentationText(m_due.today));
+    // Another day stays until it is changed.
+    if (m_day->text() == m_today) {
+        m_day->setDay(m_due.today);
+        m_today = m_day->text();
+    }
     m_account->clear();
     for (const auto &[number, name] : m_due.payers)
         m_account->addItem(name, number.integer());
@@ -156,6 +156,8 @@ void DuePage::follow()
         place = isSame ? m_account->findData(account->integer()) : -1;
     }
     m_account->setCurrentIndex(place);
+    if (!lines.empty())
+        m_amount->setCurrency(lines.front().due.amount.code());
 }
 
 void DuePage::sayAccount()
@@ -166,11 +168,10 @@ void DuePage::sayAccount()
     refresh();
 }
 
-template <typename Value>
-bool DuePage::read(QLineEdit &field, Value &value)
+bool DuePage::read(QWidget &field, const std::function<void()> &work)
 {
     try {
-        workbench::readValue(field.text().trimmed(), value);
+        work();
         return true;
     } catch (const foundation::Error &error) {
         m_message->complain(&field, workbench::userText(error));
@@ -181,7 +182,7 @@ bool DuePage::read(QLineEdit &field, Value &value)
 std::optional<QDate> DuePage::day()
 {
     QDate day;
-    return read(*m_day, day) ? std::optional(day) : std::nullopt;
+    return read(*m_day, [&] { day = m_day->day(); }) ? std::optional(day) : std::nullopt;
 }
 
 void DuePage::pay()
@@ -198,16 +199,12 @@ void DuePage::skip()
 void DuePage::payAmount()
 {
     std::vector<DueLine> lines = chosen();
-    workbench::Amount amount;
     const std::optional<QDate> on = day();
-    if (!on || lines.size() != 1 || !read(*m_amount, amount))
+    if (!on || lines.size() != 1)
         return;
-    try {
-        lines.front().due.amount = amount.in(lines.front().due.amount.code());
-    } catch (const foundation::Error &error) {
-        m_message->complain(m_amount, workbench::userText(error));
+    numira::Money &due = lines.front().due.amount;
+    if (!read(*m_amount, [&] { due = m_amount->amount().in(due.code()); }))
         return;
-    }
     const bool isDone = m_isExtra->isChecked()
                             ? m_deeds.payExtra({*m_message, m_amount}, lines.front(), *on)
                             : m_deeds.pay({*m_message, m_amount}, lines, *on);

@@ -8,12 +8,13 @@ QT_BEGIN_NAMESPACE
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
-class QLineEdit;
 class QPushButton;
 QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+class DayEdit;
+class MoneyEdit;
 class Table;
 class TableModel;
 
@@ -42,8 +43,7 @@ private:
     void payAmount();
     void skip();
     /// Reads a field; a refusal is shown there. Returns whether it could be read.
-    template <typename Value>
-    bool read(QLineEdit &field, Value &value);
+    bool read(QWidget &field, const std::function<void()> &work);
     [[nodiscard]] std::vector<workbench::DueLine> chosen() const;
     [[nodiscard]] std::optional<QDate> day();
 
@@ -52,8 +52,8 @@ private:
     QLabel *m_summary;
     QWidget *m_form;
     QComboBox *m_account;
-    QLineEdit *m_day;
-    QLineEdit *m_amount;
+    DayEdit *m_day;
+    MoneyEdit *m_amount;
     QCheckBox *m_isExtra;
     QPushButton *m_pay;
     QPushButton *m_skip;
@@ -62,6 +62,7 @@ private:
     DueDeeds m_deeds;
     workbench::SaidAccounts m_said;
     ShownDue m_due;
+    QString m_today; ///< as the field for the day showed it
 };
 
 } // namespace kiv::desktop
