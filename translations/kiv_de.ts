@@ -3583,30 +3583,6 @@
         <translation>geliehen</translation>
     </message>
     <message>
-        <source>credit</source>
-        <translation>Haben</translation>
-    </message>
-    <message>
-        <source>creditAmount</source>
-        <translation>Betrag im Haben</translation>
-    </message>
-    <message>
-        <source>creditStatus</source>
-        <translation>Status im Haben</translation>
-    </message>
-    <message>
-        <source>debit</source>
-        <translation>Soll</translation>
-    </message>
-    <message>
-        <source>debitAmount</source>
-        <translation>Betrag im Soll</translation>
-    </message>
-    <message>
-        <source>debitStatus</source>
-        <translation>Status im Soll</translation>
-    </message>
-    <message>
         <source>description</source>
         <translation>Beschreibung</translation>
     </message>
@@ -3615,24 +3591,8 @@
         <translation>Turnus</translation>
     </message>
     <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
         <source>next</source>
         <translation>nächster Termin</translation>
-    </message>
-    <message>
-        <source>notDistributed</source>
-        <translation>nicht verteilt</translation>
-    </message>
-    <message>
-        <source>number</source>
-        <translation>Nummer</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>offen</translation>
     </message>
     <message>
         <source>parent</source>
@@ -3641,14 +3601,6 @@
     <message>
         <source>path</source>
         <translation>Pfad</translation>
-    </message>
-    <message>
-        <source>reconciledOn</source>
-        <translation>abgeglichen am</translation>
-    </message>
-    <message>
-        <source>refundOf</source>
-        <translation>Erstattung von</translation>
     </message>
     <message>
         <source>tags</source>
@@ -4541,10 +4493,6 @@
         <translation>Danach fällig</translation>
     </message>
     <message>
-        <source>There is no exchange rate for %1; sums leave it out.</source>
-        <translation>Für %1 gibt es keinen Wechselkurs; Summen lassen es aus.</translation>
-    </message>
-    <message>
         <source>Nothing is due until %1.</source>
         <translation>Bis %1 ist nichts fällig.</translation>
     </message>
@@ -4824,6 +4772,244 @@
         <source>Question</source>
         <translation>Frage</translation>
     </message>
+    <message>
+        <source>%1 was last reconciled on %2.</source>
+        <translation>%1 wurde zuletzt am %2 abgeglichen.</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate between %1 and %2.</source>
+        <translation>Zwischen %1 und %2 gibt es keinen Wechselkurs.</translation>
+    </message>
+    <message>
+        <source>The last changes are not saved. %1</source>
+        <translation>Die letzten Änderungen sind nicht gespeichert. %1</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <comment>the state of an account</comment>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <comment>an account</comment>
+        <translation>von</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>an account</comment>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>amount given</source>
+        <translation>abgegebener Betrag</translation>
+    </message>
+    <message>
+        <source>amount received</source>
+        <translation>erhaltener Betrag</translation>
+    </message>
+    <message>
+        <source>mark of the giver</source>
+        <translation>Merkmal beim Geber</translation>
+    </message>
+    <message>
+        <source>mark of the receiver</source>
+        <translation>Merkmal beim Empfänger</translation>
+    </message>
+    <message>
+        <source>refund of</source>
+        <translation>Erstattung von</translation>
+    </message>
+    <message>
+        <source>reconciled on</source>
+        <translation>abgeglichen am</translation>
+    </message>
+    <message>
+        <source>left over</source>
+        <translation>übrig</translation>
+    </message>
+    <message>
+        <source>of it set aside</source>
+        <translation>davon zurückgelegt</translation>
+    </message>
+    <message>
+        <source>set aside</source>
+        <translation>zurückgelegt</translation>
+    </message>
+    <message>
+        <source>owed to %1</source>
+        <translation>geschuldet an %1</translation>
+    </message>
+    <message>
+        <source>owed</source>
+        <translation>geschuldet</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>As the banks show it, with what is set aside there</source>
+        <translation>Wie die Banken es zeigen, mit dem dort Zurückgelegten</translation>
+    </message>
+    <message>
+        <source>Apart</source>
+        <translation>Daneben</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate for %1; balances leave it out.</source>
+        <translation>Für %1 gibt es keinen Wechselkurs; Salden lassen es aus.</translation>
+    </message>
+    <message>
+        <source>As it was opened</source>
+        <translation>Wie es geöffnet wurde</translation>
+    </message>
+    <message>
+        <source>in the file now</source>
+        <translation>jetzt in der Datei</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Since the file was opened</source>
+        <translation>Seit dem Öffnen der Datei</translation>
+    </message>
+    <message>
+        <source>Versions of the file</source>
+        <translation>Versionen der Datei</translation>
+    </message>
+    <message>
+        <source>There are no bills; kiv bill add makes one.</source>
+        <translation>Es gibt keine Rechnungen; kiv bill add legt eine an.</translation>
+    </message>
+    <message>
+        <source>There are no debts; kiv debt add makes one.</source>
+        <translation>Es gibt keine Schulden; kiv debt add legt eine an.</translation>
+    </message>
+    <message>
+        <source>There are no goals; kiv goal add makes one.</source>
+        <translation>Es gibt keine Ziele; kiv goal add legt eines an.</translation>
+    </message>
+    <message>
+        <source>Free spending</source>
+        <translation>Freie Ausgaben</translation>
+    </message>
+    <message>
+        <source>There is no free spending; kiv nontrack add makes it.</source>
+        <translation>Es gibt keine freien Ausgaben; kiv nontrack add legt sie an.</translation>
+    </message>
+    <message>
+        <source>There are no wages; kiv wage add makes one.</source>
+        <translation>Es gibt keine Löhne; kiv wage add legt einen an.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 still owed of %2</source>
+        <translation>%1 von %2 noch geschuldet</translation>
+    </message>
+    <message>
+        <source>A month&apos;s share</source>
+        <translation>Anteil je Monat</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>no accounts</source>
+        <translation>keine Konten</translation>
+    </message>
+    <message>
+        <source>unchanged since</source>
+        <translation>seitdem unverändert</translation>
+    </message>
+    <message>
+        <source>changed since</source>
+        <translation>seitdem geändert</translation>
+    </message>
+    <message>
+        <source>1 %1 = %2 %3</source>
+        <translation>1 %1 = %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days old</source>
+        <translation>
+            <numerusform>%n Tag alt</numerusform>
+            <numerusform>%n Tage alt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>of today</source>
+        <translation>von heute</translation>
+    </message>
+    <message>
+        <source>There are no banks; kiv bank add makes one.</source>
+        <translation>Es gibt keine Banken; kiv bank add legt eine an.</translation>
+    </message>
+    <message>
+        <source>Reconciliations</source>
+        <translation>Abgleiche</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet; kiv survey does that.</source>
+        <translation>Noch kein Konto wurde abgeglichen; kiv survey erledigt das.</translation>
+    </message>
+    <message>
+        <source>Reconciled on</source>
+        <translation>Abgeglichen am</translation>
+    </message>
+    <message>
+        <source>Not set aside</source>
+        <translation>Nicht zurückgelegt</translation>
+    </message>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Wechselkurse</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Receive</source>
+        <translation>Erhalten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sparen</translation>
+    </message>
+    <message>
+        <source>Pay</source>
+        <translation>Zahlen</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4909,6 +5095,21 @@
     <message>
         <source>Another request is not answered yet; try again in a moment.</source>
         <translation>Eine andere Anfrage ist noch nicht beantwortet; versuchen Sie es gleich noch einmal.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::DueLines</name>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Other amount …</source>
+        <translation>Anderer Betrag …</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1: %2, %3, %4</translation>
     </message>
 </context>
 <context>
@@ -5248,6 +5449,94 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::HistoryPage</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Steps and versions</source>
+        <translation>Schritte und Versionen</translation>
+    </message>
+    <message>
+        <source>What changed since</source>
+        <translation>Was sich seitdem geändert hat</translation>
+    </message>
+    <message>
+        <source>Go &amp;back to this</source>
+        <translation>&amp;Zurück zu diesem Stand</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>Es ist keine Zeile gewählt.</translation>
+    </message>
+    <message>
+        <source>This is the present state.</source>
+        <translation>Dies ist der jetzige Stand.</translation>
+    </message>
+    <message>
+        <source>Nothing changed since then.</source>
+        <translation>Seitdem hat sich nichts geändert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What changed since then. %n more changes are not shown.</source>
+        <translation>
+            <numerusform>Was sich seitdem geändert hat. %n weitere Änderung wird nicht gezeigt.</numerusform>
+            <numerusform>Was sich seitdem geändert hat. %n weitere Änderungen werden nicht gezeigt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What changed since then:</source>
+        <translation>Was sich seitdem geändert hat:</translation>
+    </message>
+    <message>
+        <source>The budget is as it was then. Undo takes that back.</source>
+        <translation>Das Budget ist wieder wie damals. Rückgängig nimmt das zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Balances</source>
+        <translation>Salden</translation>
+    </message>
+    <message>
+        <source>There are no accounts yet.</source>
+        <translation>Es gibt noch keine Konten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show %n more</source>
+        <translation>
+            <numerusform>%n weiteren zeigen</numerusform>
+            <numerusform>%n weitere zeigen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing needs care</source>
+        <translation>Nichts braucht Aufmerksamkeit</translation>
+    </message>
+    <message>
+        <source>What needs care</source>
+        <translation>Was Aufmerksamkeit braucht</translation>
+    </message>
+    <message>
+        <source>%1 (the budget&apos;s health: %2)</source>
+        <translation>%1 (Gesundheit des Budgets: %2)</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Show: %1</source>
+        <translation>Zeigen: %1</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::MainWindow</name>
     <message>
         <source>Pages</source>
@@ -5323,6 +5612,17 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::OverviewPage</name>
+    <message>
+        <source>Everything else</source>
+        <translation>Alles andere</translation>
+    </message>
+    <message>
+        <source>&amp;List:</source>
+        <translation>&amp;Liste:</translation>
     </message>
 </context>
 <context>

@@ -3583,30 +3583,6 @@
         <translation>prestado</translation>
     </message>
     <message>
-        <source>credit</source>
-        <translation>haber</translation>
-    </message>
-    <message>
-        <source>creditAmount</source>
-        <translation>importe del haber</translation>
-    </message>
-    <message>
-        <source>creditStatus</source>
-        <translation>estado del haber</translation>
-    </message>
-    <message>
-        <source>debit</source>
-        <translation>debe</translation>
-    </message>
-    <message>
-        <source>debitAmount</source>
-        <translation>importe del debe</translation>
-    </message>
-    <message>
-        <source>debitStatus</source>
-        <translation>estado del debe</translation>
-    </message>
-    <message>
         <source>description</source>
         <translation>descripción</translation>
     </message>
@@ -3615,24 +3591,8 @@
         <translation>frecuencia</translation>
     </message>
     <message>
-        <source>name</source>
-        <translation>nombre</translation>
-    </message>
-    <message>
         <source>next</source>
         <translation>próxima fecha</translation>
-    </message>
-    <message>
-        <source>notDistributed</source>
-        <translation>sin repartir</translation>
-    </message>
-    <message>
-        <source>number</source>
-        <translation>número</translation>
-    </message>
-    <message>
-        <source>open</source>
-        <translation>abierta</translation>
     </message>
     <message>
         <source>parent</source>
@@ -3641,14 +3601,6 @@
     <message>
         <source>path</source>
         <translation>ruta</translation>
-    </message>
-    <message>
-        <source>reconciledOn</source>
-        <translation>conciliado el</translation>
-    </message>
-    <message>
-        <source>refundOf</source>
-        <translation>reembolso de</translation>
     </message>
     <message>
         <source>tags</source>
@@ -4541,10 +4493,6 @@
         <translation>Próximo vencimiento</translation>
     </message>
     <message>
-        <source>There is no exchange rate for %1; sums leave it out.</source>
-        <translation>No hay tipo de cambio para %1; las sumas lo omiten.</translation>
-    </message>
-    <message>
         <source>Nothing is due until %1.</source>
         <translation>Nada vence hasta el %1.</translation>
     </message>
@@ -4824,6 +4772,244 @@
         <source>Question</source>
         <translation>Pregunta</translation>
     </message>
+    <message>
+        <source>%1 was last reconciled on %2.</source>
+        <translation>%1 se concilió por última vez el %2.</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate between %1 and %2.</source>
+        <translation>No hay tipo de cambio entre %1 y %2.</translation>
+    </message>
+    <message>
+        <source>The last changes are not saved. %1</source>
+        <translation>Los últimos cambios no están guardados. %1</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <comment>the state of an account</comment>
+        <translation>abierto</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>estado</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <comment>an account</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <comment>an account</comment>
+        <translation>a</translation>
+    </message>
+    <message>
+        <source>amount given</source>
+        <translation>importe entregado</translation>
+    </message>
+    <message>
+        <source>amount received</source>
+        <translation>importe recibido</translation>
+    </message>
+    <message>
+        <source>mark of the giver</source>
+        <translation>marca de quien da</translation>
+    </message>
+    <message>
+        <source>mark of the receiver</source>
+        <translation>marca de quien recibe</translation>
+    </message>
+    <message>
+        <source>refund of</source>
+        <translation>reembolso de</translation>
+    </message>
+    <message>
+        <source>reconciled on</source>
+        <translation>conciliado el</translation>
+    </message>
+    <message>
+        <source>left over</source>
+        <translation>sobrante</translation>
+    </message>
+    <message>
+        <source>of it set aside</source>
+        <translation>de ello apartado</translation>
+    </message>
+    <message>
+        <source>set aside</source>
+        <translation>apartado</translation>
+    </message>
+    <message>
+        <source>owed to %1</source>
+        <translation>adeudado a %1</translation>
+    </message>
+    <message>
+        <source>owed</source>
+        <translation>adeudado</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Dónde</translation>
+    </message>
+    <message>
+        <source>As the banks show it, with what is set aside there</source>
+        <translation>Como lo muestran los bancos, con lo apartado allí</translation>
+    </message>
+    <message>
+        <source>Apart</source>
+        <translation>Aparte</translation>
+    </message>
+    <message>
+        <source>There is no exchange rate for %1; balances leave it out.</source>
+        <translation>No hay tipo de cambio para %1; los saldos lo omiten.</translation>
+    </message>
+    <message>
+        <source>As it was opened</source>
+        <translation>Como se abrió</translation>
+    </message>
+    <message>
+        <source>in the file now</source>
+        <translation>ahora en el archivo</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Paso</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Since the file was opened</source>
+        <translation>Desde que se abrió el archivo</translation>
+    </message>
+    <message>
+        <source>Versions of the file</source>
+        <translation>Versiones del archivo</translation>
+    </message>
+    <message>
+        <source>There are no bills; kiv bill add makes one.</source>
+        <translation>No hay facturas; kiv bill add crea una.</translation>
+    </message>
+    <message>
+        <source>There are no debts; kiv debt add makes one.</source>
+        <translation>No hay deudas; kiv debt add crea una.</translation>
+    </message>
+    <message>
+        <source>There are no goals; kiv goal add makes one.</source>
+        <translation>No hay metas; kiv goal add crea una.</translation>
+    </message>
+    <message>
+        <source>Free spending</source>
+        <translation>Gasto libre</translation>
+    </message>
+    <message>
+        <source>There is no free spending; kiv nontrack add makes it.</source>
+        <translation>No hay gasto libre; kiv nontrack add lo crea.</translation>
+    </message>
+    <message>
+        <source>There are no wages; kiv wage add makes one.</source>
+        <translation>No hay salarios; kiv wage add crea uno.</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 still owed of %2</source>
+        <translation>%1 de %2 aún por pagar</translation>
+    </message>
+    <message>
+        <source>A month&apos;s share</source>
+        <translation>Parte mensual</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>no accounts</source>
+        <translation>sin cuentas</translation>
+    </message>
+    <message>
+        <source>unchanged since</source>
+        <translation>sin cambios desde entonces</translation>
+    </message>
+    <message>
+        <source>changed since</source>
+        <translation>modificado desde entonces</translation>
+    </message>
+    <message>
+        <source>1 %1 = %2 %3</source>
+        <translation>1 %1 = %2 %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days old</source>
+        <translation>
+            <numerusform>de hace %n día</numerusform>
+            <numerusform>de hace %n días</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>of today</source>
+        <translation>de hoy</translation>
+    </message>
+    <message>
+        <source>There are no banks; kiv bank add makes one.</source>
+        <translation>No hay bancos; kiv bank add crea uno.</translation>
+    </message>
+    <message>
+        <source>Reconciliations</source>
+        <translation>Conciliaciones</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet; kiv survey does that.</source>
+        <translation>Todavía no se ha conciliado ninguna cuenta; kiv survey lo hace.</translation>
+    </message>
+    <message>
+        <source>Reconciled on</source>
+        <translation>Conciliado el</translation>
+    </message>
+    <message>
+        <source>Not set aside</source>
+        <translation>No apartado</translation>
+    </message>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Tipos de cambio</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Antigüedad</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Receive</source>
+        <translation>Recibir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Ahorrar</translation>
+    </message>
+    <message>
+        <source>Pay</source>
+        <translation>Pagar</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -4909,6 +5095,21 @@
     <message>
         <source>Another request is not answered yet; try again in a moment.</source>
         <translation>Otra petición aún no tiene respuesta; inténtelo de nuevo en un momento.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::DueLines</name>
+    <message>
+        <source>Skip</source>
+        <translation>Omitir</translation>
+    </message>
+    <message>
+        <source>Other amount …</source>
+        <translation>Otro importe …</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3, %4</source>
+        <translation>%1: %2, %3, %4</translation>
     </message>
 </context>
 <context>
@@ -5248,6 +5449,94 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::HistoryPage</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Steps and versions</source>
+        <translation>Pasos y versiones</translation>
+    </message>
+    <message>
+        <source>What changed since</source>
+        <translation>Lo que cambió desde entonces</translation>
+    </message>
+    <message>
+        <source>Go &amp;back to this</source>
+        <translation>Volve&amp;r a este estado</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>No se ha elegido ninguna línea.</translation>
+    </message>
+    <message>
+        <source>This is the present state.</source>
+        <translation>Este es el estado actual.</translation>
+    </message>
+    <message>
+        <source>Nothing changed since then.</source>
+        <translation>Nada cambió desde entonces.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What changed since then. %n more changes are not shown.</source>
+        <translation>
+            <numerusform>Lo que cambió desde entonces. %n cambio más no se muestra.</numerusform>
+            <numerusform>Lo que cambió desde entonces. %n cambios más no se muestran.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What changed since then:</source>
+        <translation>Lo que cambió desde entonces:</translation>
+    </message>
+    <message>
+        <source>The budget is as it was then. Undo takes that back.</source>
+        <translation>El presupuesto está como entonces. Deshacer lo revierte.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HomePage</name>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Balances</source>
+        <translation>Saldos</translation>
+    </message>
+    <message>
+        <source>There are no accounts yet.</source>
+        <translation>Todavía no hay cuentas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Show %n more</source>
+        <translation>
+            <numerusform>Mostrar %n más</numerusform>
+            <numerusform>Mostrar %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing needs care</source>
+        <translation>Nada requiere atención</translation>
+    </message>
+    <message>
+        <source>What needs care</source>
+        <translation>Lo que requiere atención</translation>
+    </message>
+    <message>
+        <source>%1 (the budget&apos;s health: %2)</source>
+        <translation>%1 (salud del presupuesto: %2)</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Show: %1</source>
+        <translation>Mostrar: %1</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::MainWindow</name>
     <message>
         <source>Pages</source>
@@ -5323,6 +5612,17 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::OverviewPage</name>
+    <message>
+        <source>Everything else</source>
+        <translation>Todo lo demás</translation>
+    </message>
+    <message>
+        <source>&amp;List:</source>
+        <translation>&amp;Lista:</translation>
     </message>
 </context>
 <context>
