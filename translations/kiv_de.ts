@@ -5132,7 +5132,7 @@
     </message>
     <message>
         <source>S&amp;kip</source>
-        <translation>Überspri&amp;ngen</translation>
+        <translation>Über&amp;springen</translation>
     </message>
     <message>
         <source>Pay this am&amp;ount</source>

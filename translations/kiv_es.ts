@@ -5136,7 +5136,7 @@
     </message>
     <message>
         <source>Pay this am&amp;ount</source>
-        <translation>Pagar este impor&amp;te</translation>
+        <translation>Paga&amp;r este importe</translation>
     </message>
     <message>
         <source>&amp;Account:</source>
