@@ -187,8 +187,16 @@ std::optional<QDate> DuePage::day()
 
 void DuePage::pay()
 {
-    if (const auto on = day())
-        m_deeds.pay({*m_message, m_pay}, chosen(), *on);
+    if (const auto on = day(); on && m_deeds.pay({*m_message, m_pay}, chosen(), *on))
+        forgetTyping();
+}
+
+void DuePage::forgetTyping()
+{
+    // What was typed is done, so that undo is that of the budget.
+    m_day->setText(m_day->text());
+    m_amount->setText({});
+    m_isExtra->setChecked(false);
 }
 
 void DuePage::skip()
@@ -208,10 +216,8 @@ void DuePage::payAmount()
     const bool isDone = m_isExtra->isChecked()
                             ? m_deeds.payExtra({*m_message, m_amount}, lines.front(), *on)
                             : m_deeds.pay({*m_message, m_amount}, lines, *on);
-    if (isDone) {
-        m_amount->clear();
-        m_isExtra->setChecked(false);
-    }
+    if (isDone)
+        forgetTyping();
 }
 
 } // namespace kiv::desktop

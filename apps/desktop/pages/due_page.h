@@ -41,6 +41,8 @@ private:
     void sayAccount();
     void pay();
     void payAmount();
+    /// After a deed: the fields have nothing unsent.
+    void forgetTyping();
     void skip();
     /// Reads a field; a refusal is shown there. Returns whether it could be read.
     bool read(QWidget &field, const std::function<void()> &work);
