@@ -179,8 +179,8 @@ private slots:
             QVERIFY(has(desk.document(), u"Food"_s));
             QVERIFY(desk.window().close());
         });
-        desk.show();
-        QVERIFY(isWaiting);
+        desk.window().show();
+        QTRY_VERIFY(isWaiting);
         QCOMPARE(savedAccounts(desk.path(u"home.budget"_s)), (QStringList{u"Rent"_s, u"Food"_s}));
     }
 
