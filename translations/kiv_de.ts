@@ -933,6 +933,10 @@
         <translation>Die Datei „%1“ wird von einem anderen Programm benutzt (%2).</translation>
     </message>
     <message>
+        <source>The file &apos;%1&apos; cannot be changed: %2.</source>
+        <translation>Die Datei „%1“ kann nicht geändert werden: %2.</translation>
+    </message>
+    <message>
         <source>The file &apos;%1&apos; was changed by another program and was not overwritten.</source>
         <translation>Die Datei „%1“ wurde von einem anderen Programm geändert und nicht überschrieben.</translation>
     </message>
@@ -1789,6 +1793,14 @@
         <translation>Leeres Budget „%1“ angelegt.</translation>
     </message>
     <message>
+        <source>Every change is saved at once; nothing is pending.</source>
+        <translation>Jede Änderung wird sofort gespeichert; nichts steht aus.</translation>
+    </message>
+    <message>
+        <source>All changes are saved in &apos;%1&apos;.</source>
+        <translation>Alle Änderungen sind in „%1“ gespeichert.</translation>
+    </message>
+    <message>
         <source>Saved the budget as &apos;%1&apos;.</source>
         <translation>Budget als „%1“ gespeichert.</translation>
     </message>
@@ -2256,6 +2268,10 @@
             <numerusform>Abgleich der Buchung %1 aufgehoben.</numerusform>
             <numerusform>Abgleich der Buchungen %1 aufgehoben.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Restored the state of %1.</source>
+        <translation>Stand vom %1 wiederhergestellt.</translation>
     </message>
     <message>
         <source>Restored the version saved at %1.</source>
@@ -2784,6 +2800,10 @@
     <message>
         <source>Show what the budget contains</source>
         <translation>Zeigen, was das Budget enthält</translation>
+    </message>
+    <message>
+        <source>In a shell, write the changes now</source>
+        <translation>In einer Shell die Änderungen jetzt schreiben</translation>
     </message>
     <message>
         <source>Save the budget under another name</source>
@@ -3867,6 +3887,14 @@
     <message>
         <source>Several budget items are named &apos;%1&apos;</source>
         <translation>Mehrere Budgetposten heißen „%1“</translation>
+    </message>
+    <message>
+        <source>The budget was opened for reading only.</source>
+        <translation>Das Budget wurde nur zum Lesen geöffnet.</translation>
+    </message>
+    <message>
+        <source>Saved a copy</source>
+        <translation>Kopie gespeichert</translation>
     </message>
     <message>
         <source>The changes of &apos;%1&apos; could not be saved</source>

@@ -933,6 +933,10 @@
         <translation>El archivo «%1» lo está usando otro programa (%2).</translation>
     </message>
     <message>
+        <source>The file &apos;%1&apos; cannot be changed: %2.</source>
+        <translation>El archivo «%1» no se puede cambiar: %2.</translation>
+    </message>
+    <message>
         <source>The file &apos;%1&apos; was changed by another program and was not overwritten.</source>
         <translation>Otro programa cambió el archivo «%1», por lo que no se sobrescribió.</translation>
     </message>
@@ -1789,6 +1793,14 @@
         <translation>Se creó el presupuesto vacío «%1».</translation>
     </message>
     <message>
+        <source>Every change is saved at once; nothing is pending.</source>
+        <translation>Cada cambio se guarda al momento; no hay nada pendiente.</translation>
+    </message>
+    <message>
+        <source>All changes are saved in &apos;%1&apos;.</source>
+        <translation>Todos los cambios están guardados en «%1».</translation>
+    </message>
+    <message>
         <source>Saved the budget as &apos;%1&apos;.</source>
         <translation>Se guardó el presupuesto como «%1».</translation>
     </message>
@@ -2256,6 +2268,10 @@
             <numerusform>Se anuló la conciliación del asiento %1.</numerusform>
             <numerusform>Se anuló la conciliación de los asientos %1.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Restored the state of %1.</source>
+        <translation>Se restauró el estado de %1.</translation>
     </message>
     <message>
         <source>Restored the version saved at %1.</source>
@@ -2784,6 +2800,10 @@
     <message>
         <source>Show what the budget contains</source>
         <translation>Muestra lo que contiene el presupuesto</translation>
+    </message>
+    <message>
+        <source>In a shell, write the changes now</source>
+        <translation>En una shell, escribir los cambios ahora</translation>
     </message>
     <message>
         <source>Save the budget under another name</source>
@@ -3867,6 +3887,14 @@
     <message>
         <source>Several budget items are named &apos;%1&apos;</source>
         <translation>Varias partidas se llaman «%1»</translation>
+    </message>
+    <message>
+        <source>The budget was opened for reading only.</source>
+        <translation>El presupuesto se abrió solo para lectura.</translation>
+    </message>
+    <message>
+        <source>Saved a copy</source>
+        <translation>Copia guardada</translation>
     </message>
     <message>
         <source>The changes of &apos;%1&apos; could not be saved</source>

@@ -6,6 +6,8 @@
 
 #include "foundation/streams.h"
 
+#include <atomic>
+
 namespace kiv::accounting {
 namespace {
 
@@ -53,6 +55,8 @@ internal::LedgerState &GeneralLedger::change()
 {
     if (m_state.use_count() > 1)
         m_state = std::make_shared<LedgerState>(*m_state);
+    // The last other copy may have ended in another thread, which has read before.
+    std::atomic_thread_fence(std::memory_order_acquire);
     return *m_state;
 }
 

@@ -17,6 +17,7 @@
 
 #include <new>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace kiv::storage {
@@ -41,25 +42,30 @@ auto withContent(Work work, ToError toError)
     }
 }
 
-void warnOf(const QStringList &mended)
-{
-    for (const QString &sentence : mended)
-        qWarning().noquote() << foundation::escaped(
-            QObject::tr("Repaired while loading: %1").arg(sentence));
-}
-
 /// So long what is stored makes one version.
 constexpr std::chrono::seconds burstLength(1);
 
+using Warn = std::function<void(const QString &)>;
+
+void warnInLog(const QString &sentence)
+{
+    qWarning().noquote() << foundation::escaped(sentence);
+}
+
 /// Tells that the former versions were not thinned, which is no reason not to save.
-void thin(internal::VersionFolder &folder)
+void thin(internal::VersionFolder &folder, const Warn &warn)
 {
     try {
         folder.thin(QDateTime::currentDateTimeUtc());
     } catch (const StorageError &error) {
-        qWarning().noquote() << foundation::escaped(
-            QObject::tr("Old versions could not be removed: %1").arg(error.message()));
+        warn(QObject::tr("Old versions could not be removed: %1").arg(error.message()));
     }
+}
+
+void warnOf(const QStringList &mended)
+{
+    for (const QString &sentence : mended)
+        warnInLog(QObject::tr("Repaired while loading: %1").arg(sentence));
 }
 
 /// Keeps the file's version in the folder of former ones.
@@ -102,6 +108,16 @@ public:
     /// `target` is the same file under another name.
     void showAs(FileTarget target) { m_target = std::move(target); }
     [[nodiscard]] const std::optional<Fingerprint> &known() const noexcept { return m_known; }
+    [[nodiscard]] const VersionMark &mark() const noexcept { return m_mark; }
+
+    /// Whether the file is the version of that id, as it was loaded or stored here.
+    [[nodiscard]] bool holds(const QString &id) const
+    {
+        if (id.isEmpty() || m_mark.id != id || !m_known)
+            return false;
+        const auto content = internal::readFile(m_target, internal::fileSizeMax);
+        return content && Fingerprint(content->bytes) == *m_known;
+    }
 
     [[nodiscard]] bool exists() const
     {
@@ -116,15 +132,22 @@ public:
     }
 
     /// Where no lock can be made, nothing can be saved either, so no lock is
-    /// needed. The next attempt to save says why.
-    void lockIfPossible(std::chrono::milliseconds patience)
+    /// needed. The next attempt to save says why; so does the answer here.
+    std::optional<StorageError> lockIfPossible(std::chrono::milliseconds patience)
     {
+        std::optional<StorageError> obstacle;
         try {
             lock(patience);
         } catch (const StorageError &error) {
             if (error.failure() != StorageFailure::CannotWrite)
                 throw;
+            obstacle = error;
         }
+        for (const QByteArray &needed : {m_target.folder() + '/', m_target.path()}) {
+            if (::faccessat(AT_FDCWD, needed.constData(), W_OK, AT_EACCESS) != 0)
+                return internal::cannotChange(m_target.shownPath(), errno);
+        }
+        return obstacle;
     }
 
     Version load(QStringList &mended)
@@ -151,7 +174,8 @@ public:
 
     /// `known` is what was seen last under this name, if anything was. A merged version
     /// takes the place of the one until now, which is not kept.
-    void store(const Draft &draft, const std::optional<Fingerprint> &known, bool isMerged)
+    void store(const Draft &draft, const std::optional<Fingerprint> &known, bool isMerged,
+               const Warn &warn)
     {
         const std::optional<FileContent> replaced =
             internal::readFile(m_target, internal::fileSizeMax);
@@ -168,7 +192,7 @@ public:
         if (isMerged)
             mark.ancestors = present.ancestors;
         mark.number = std::max(kept.number, folder.highest()) + 1;
-        auto [file, stored] = draft(std::move(mark), isMerged);
+        auto [file, stored] = draft(std::move(mark), isMerged, folder);
         m_attempted = Fingerprint(file);
         Keeper keeper(folder, kept, replaced ? replaced->bytes : QByteArray(), isMerged);
         internal::AtomicFileWriter(m_target,
@@ -177,7 +201,7 @@ public:
         m_known = std::exchange(m_attempted, std::nullopt);
         m_mark = std::move(stored);
         folder.settle();
-        thin(folder);
+        thin(folder, warn);
     }
 
 private:
@@ -288,14 +312,16 @@ BudgetStorage::Data BudgetFile::load()
     Chosen chosen = choose();
     if (!chosen.file->exists())
         throw internal::fileNotFound(m_chosenPath);
+    std::optional<StorageError> obstacle;
     if (!m_isReading)
-        chosen.file->lockIfPossible(m_pace.patience);
+        obstacle = chosen.file->lockIfPossible(m_pace.patience);
     QStringList mended;
     Version version = chosen.file->load(mended);
     warnOf(mended);
     m_burst.reset();
     if (chosen.other)
         m_open = std::move(chosen.other);
+    m_obstacle = std::move(obstacle);
     backOnFailure.dismiss();
     Data data = version.data;
     settle(std::move(version));
@@ -324,15 +350,12 @@ void BudgetFile::store(const Data &data)
 {
     Burst burst;
     Version version;
-    const auto draft = [&](VersionMark mark, bool isMerged) {
+    const auto draft = [&](VersionMark mark, bool isMerged, internal::VersionFolder &) {
         if (isMerged)
             burst = *m_burst;
         if (burst.change.isEmpty())
             burst.change = m_change;
-        const int others = burst.stores++;
-        mark.nameChange(others == 0
-                            ? burst.change
-                            : QObject::tr("%1 and %n more", nullptr, others).arg(burst.change));
+        mark.nameChanges(burst.change, burst.stores++);
         mark.savedAt = QDateTime::currentDateTimeUtc();
         mark.transactions = static_cast<qint64>(data.generalLedger.transactionCount());
         version = following(data, std::move(mark));
@@ -369,7 +392,7 @@ void BudgetFile::restore(const KeptVersion &version)
             return image.version(mended);
         },
         isDamaged);
-    const auto draft = [&](const VersionMark &next, bool) {
+    const auto draft = [&](const VersionMark &next, bool, internal::VersionFolder &) {
         if (image.hasByteSeal())
             return std::pair(content->bytes, restored.mark);
         // What the first edition wrote becomes a file of the present one.
@@ -386,14 +409,55 @@ void BudgetFile::restore(const KeptVersion &version)
     backOnFailure.dismiss();
 }
 
+VersionMark BudgetFile::storeVersion(const Version &version)
+{
+    {
+        auto backOnFailure = qScopeGuard([this] { goBack(); });
+        const Chosen chosen = choose();
+        if (isOpen(chosen) && m_open->holds(version.mark.id))
+            return m_open->mark();
+        backOnFailure.dismiss();
+    }
+    Version stored = version;
+    const auto draft = [&](const VersionMark &next, bool, internal::VersionFolder &folder) {
+        if (stored.mark.number == 0) {
+            const auto isSame = [&](const internal::FormerVersion &former) {
+                return former.hasLabel && former.mark.id == stored.mark.id;
+            };
+            const auto known = std::ranges::find_if(folder.versions(), isSame);
+            stored.mark.number =
+                known == folder.versions().end() ? next.number : known->mark.number;
+        }
+        QByteArray file = withContent([&] { return encodedSafely(stored); },
+                                      [this](const std::exception &cause) {
+                                          return internal::cannotHold(m_chosenPath, cause);
+                                      });
+        return std::pair(std::move(file), stored.mark);
+    };
+    store(draft, false);
+    VersionMark mark = stored.mark;
+    settle(std::move(stored));
+    return mark;
+}
+
+VersionMark BudgetFile::mark() const
+{
+    return m_open ? m_open->mark() : VersionMark();
+}
+
+bool BudgetFile::isOpen(const Chosen &chosen) const
+{
+    // The name may lead to another file than before, when it is a link.
+    return m_open && (!chosen.other || m_open->target().shownPath() == m_chosenPath);
+}
+
 void BudgetFile::store(const Draft &draft, bool mayMerge)
 {
     auto backOnFailure = qScopeGuard([this] { goBack(); });
     Chosen chosen = choose();
     chosen.file->lock(m_pace.patience);
-    // The name may lead to another file than before, when it is a link.
-    const bool isOpen = m_open && (!chosen.other || m_open->target().shownPath() == m_chosenPath);
-    chosen.file->store(draft, isOpen ? m_open->known() : std::nullopt, mayMerge && !chosen.other);
+    chosen.file->store(draft, isOpen(chosen) ? m_open->known() : std::nullopt,
+                       mayMerge && !chosen.other, m_warn ? m_warn : warnInLog);
     if (chosen.other)
         m_open = std::move(chosen.other);
     m_burst.reset();

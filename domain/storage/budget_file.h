@@ -2,6 +2,7 @@
 #pragma once
 
 #include "storage/kept_versions.h"
+#include "storage/storage_error.h"
 #include "storage/version.h"
 
 #include <chrono>
@@ -10,6 +11,10 @@
 #include <optional>
 
 namespace kiv::storage {
+
+namespace internal {
+class VersionFolder;
+}
 
 /// A budget in a file. docs/file-format.md describes the file, how it is
 /// saved, and what is mended when it is loaded.
@@ -64,6 +69,22 @@ public:
     /// now. Throws StorageError as store() does, NotFound when the version is gone, and
     /// Damaged when it is not whole.
     void restore(const KeptVersion &version);
+    /// Stores a whole version, which never makes one with the version before, and answers
+    /// its mark. The caller gives the mark, with an id and ancestors, and each id to one
+    /// version only. Without a number it gets the next one, unless it was stored before:
+    /// then it has the number from then. A version that the file holds already is not
+    /// stored again. Throws StorageError as store() does.
+    VersionMark storeVersion(const Version &version);
+    /// Of the version which was loaded or stored last; without an id before.
+    [[nodiscard]] VersionMark mark() const;
+    /// Why the file that was loaded cannot be stored again, when that is known: it or its
+    /// folder must not be written.
+    [[nodiscard]] const std::optional<StorageError> &obstacle() const noexcept
+    {
+        return m_obstacle;
+    }
+    /// Where warnings go; the log otherwise.
+    void setWarn(std::function<void(const QString &sentence)> warn) { m_warn = std::move(warn); }
     /// Names the change that the next successful store saves, in a line such as "Paid
     /// Rent".
     void setChange(const QString &change) { m_change = change; }
@@ -86,7 +107,8 @@ private:
         int stores = 0;
     };
     /// The bytes to store and their mark, from the mark that a new version would have.
-    using Draft = std::function<std::pair<QByteArray, VersionMark>(VersionMark, bool isMerged)>;
+    using Draft = std::function<std::pair<QByteArray, VersionMark>(
+        VersionMark next, bool isMerged, internal::VersionFolder &former)>;
     /// What of the present version the next one depends on.
     struct Present {
         surveying::CompletedSurveys surveys;
@@ -96,6 +118,8 @@ private:
     };
 
     [[nodiscard]] Chosen choose();
+    /// Whether the chosen file is open.
+    [[nodiscard]] bool isOpen(const Chosen &chosen) const;
     /// The version that follows from the present one.
     [[nodiscard]] Version following(const Data &data, VersionMark mark) const;
     /// This version was loaded or stored.
@@ -107,6 +131,8 @@ private:
     QString m_chosenPath;
     QString m_change;
     bool m_isReading = false;
+    std::optional<StorageError> m_obstacle;
+    std::function<void(const QString &)> m_warn;
     std::optional<Burst> m_burst;
     Present m_present;
     std::optional<Notes> m_notes; ///< for the next store

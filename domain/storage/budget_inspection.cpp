@@ -82,6 +82,8 @@ BudgetInspection inspectBudget(const QString &filePathName)
         Version version = image->version(mended);
         inspection.mark = std::move(version.mark);
         inspection.data = std::move(version.data);
+        inspection.reconciliations = std::move(version.reconciliations);
+        inspection.notes = std::move(version.notes);
     });
     judge.judge(FilePromise::Ties, [] {});
     std::ranges::sort(inspection.judgements, {}, &Judgement::promise);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "storage/budget_storage.h"
-#include "storage/version_mark.h"
+#include "storage/version.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
@@ -51,6 +50,9 @@ struct KIV_STORAGE_EXPORT BudgetInspection {
     VersionMark mark;
     /// The budget, when no promise is broken.
     std::optional<BudgetStorage::Data> data;
+    /// What is kept beside the budget, when no promise is broken.
+    surveying::Reconciliations reconciliations;
+    Notes notes; ///< see reconciliations
 };
 
 /// Looks at a budget file or one of its backups, without a lock, which reading

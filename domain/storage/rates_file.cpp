@@ -154,11 +154,16 @@ conversion::ConversionMap RatesFile::load() const
     const auto content = internal::readFile(FileTarget(m_filePathName), fileSizeMax);
     if (!content)
         throw internal::fileNotFound(m_filePathName);
-    return ratesIn(content->bytes, m_filePathName);
+    conversion::ConversionMap rates = ratesIn(content->bytes, m_filePathName);
+    m_known = rates;
+    return rates;
 }
 
 void RatesFile::store(const conversion::ConversionMap &rates)
 {
+    if (m_known == rates && exists())
+        return;
+    m_known.reset();
     std::error_code error;
     std::filesystem::create_directories(QFileInfo(m_filePathName).absolutePath().toStdString(),
                                         error);
@@ -180,6 +185,7 @@ void RatesFile::store(const conversion::ConversionMap &rates)
         setAside(target, reason);
     }
     internal::AtomicFileWriter(target, replaced).write(encode(rates));
+    m_known = rates;
 }
 
 } // namespace kiv::storage

@@ -5,6 +5,8 @@
 
 #include <QtCore/QString>
 
+#include <optional>
+
 namespace kiv::storage {
 
 /// Exchange rates in a small text file with a checksum.
@@ -12,7 +14,8 @@ namespace kiv::storage {
 /// A file that cannot be read is never overwritten: when rates are stored, it is
 /// set aside under a name of its own ("rates.unreadable"), and a warning tells of
 /// that. An empty table does not take the place of one that is not: storing it
-/// does nothing then.
+/// does nothing then. Rates that are as they were loaded or stored last are not stored
+/// again while the file is there.
 class KIV_STORAGE_EXPORT RatesFile final : public ExchangeRatesStorage {
 public:
     /// The file need not exist; its folder is made when rates are first stored.
@@ -25,6 +28,7 @@ public:
 
 private:
     QString m_filePathName;
+    mutable std::optional<conversion::ConversionMap> m_known; ///< as loaded or stored last
 };
 
 } // namespace kiv::storage

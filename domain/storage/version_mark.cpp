@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/version_mark.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QRandomGenerator>
 
 namespace kiv::storage {
@@ -21,6 +22,11 @@ VersionMark VersionMark::next() const
 void VersionMark::nameChange(const QString &line)
 {
     change = line.simplified().left(changeMax);
+}
+
+void VersionMark::nameChanges(const QString &first, int others)
+{
+    nameChange(others == 0 ? first : QObject::tr("%1 and %n more", nullptr, others).arg(first));
 }
 
 } // namespace kiv::storage

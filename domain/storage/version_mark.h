@@ -36,6 +36,8 @@ struct KIV_STORAGE_EXPORT VersionMark {
     [[nodiscard]] VersionMark next() const;
     /// Sets the line; its line breaks become blanks.
     void nameChange(const QString &line);
+    /// Sets a line for several changes: that of the first and how many others there are.
+    void nameChanges(const QString &first, int others);
 
     friend bool operator==(const VersionMark &, const VersionMark &) = default;
 };

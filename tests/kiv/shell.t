@@ -48,6 +48,30 @@ next line, and the exit status is that of the first line that failed:
   $ kiv bill add --help | diff told -
   $ printf 'quit\nfrobnicate\n' | kiv shell household
 
+What was done is undone change by change, also what was written together, and then version
+by version; a new change ends redo:
+
+  $ begin
+  $ kiv shell <<. | sed 's/of ....-..-.. ..:..:../of TIME/'
+  > bill add Gym 30 --next 2026-02-01
+  > bill add Club 20 --next 2026-02-01
+  > undo
+  > undo --dry-run
+  > redo
+  > undo --steps 3
+  > redo --steps 2
+  > save
+  > bill add Toll 10 --next 2026-02-01
+  > redo
+  > bill list
+  > undo --to step-1
+  > history --json
+  > .
+  kiv: There is nothing to redo.
+  $ kiv history --json | jq -c 'map([.present, .change])[:4]'
+  $ kiv bill list
+  $ kiv save
+
 That rates could not be stored is a warning, since the budget was saved:
 
   $ begin
@@ -75,8 +99,9 @@ That rates could not be stored is a warning, since the budget was saved:
   Club  $20.00  monthly  2026-02-01
   Gym   $30.00  monthly  2026-02-01
 
-What could not be saved stays in memory. Neither another refusal nor a dry run gives it up,
-and no other file does; it is saved at the end at the latest:
+What could not be saved stays in memory, and the next prompt tells why. Neither another
+refusal nor a dry run gives it up, and no other file does; it is saved at the end at the
+latest:
 
   $ begin
   $ kiv save-as other
@@ -85,7 +110,8 @@ and no other file does; it is saved at the end at the latest:
   $ hold
   $ mv household.budget away
   $ mkdir household.budget
-  $ say 'bill add Gym 30 --next 2026-02-01' 'not a regular file'
+  $ say 'bill add Gym 30 --next 2026-02-01' 'Added the bill'
+  $ say save 'not a regular file'
   $ say 'bill remove Rent --dry-run' 'Removed the bill'
   $ say 'bill add Gym 31' 'already exists'
   $ say 'bill list --file other' 'elsewhere with save-as'

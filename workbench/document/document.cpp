@@ -23,7 +23,7 @@ Document::Document(Surroundings surroundings)
 {
 }
 
-Document::~Document() = default;
+Document::~Document() = default; // writes what is pending
 
 Navigator &Document::navigator()
 {
@@ -45,6 +45,8 @@ Navigator &Document::navigator()
             m_storage->beginAnew();
             m_isOther = true;
         });
+        if (m_keeping == Keeping::WithinASecond)
+            keepLater();
     }
     return *m_navigator;
 }
@@ -64,11 +66,23 @@ void Document::open(const QString &file, Access access)
 {
     refuseUnsaved();
     const QString path = withExtension(file);
+    load(path, access);
+    m_file = path;
+    begin();
+}
+
+void Document::load(const QString &path, Access access)
+{
     (void)navigator();
     m_storage->setReading(access == Access::Reading);
     std::optional<QString> whyReadOnly;
     try {
         navigator().onConfirmedLoadBudgetFile(path, false);
+        if (access == Access::Reading)
+            whyReadOnly = internal::openedForReading().message();
+        else if (const auto &obstacle = m_storage->obstacle();
+                 obstacle && access == Access::ChangeIfPossible)
+            whyReadOnly = userText(*obstacle);
     } catch (const storage::StorageError &error) {
         if (access != Access::ChangeIfPossible ||
             error.failure() != storage::StorageFailure::Locked)
@@ -77,31 +91,20 @@ void Document::open(const QString &file, Access access)
         m_storage->setReading(true);
         navigator().onConfirmedLoadBudgetFile(path, false);
     }
+    m_access = access;
     m_whyReadOnly = std::move(whyReadOnly);
-    m_file = path;
     m_watch = {};
     m_isOther = false;
-    watch(false);
-    begin();
-}
-
-void Document::reload()
-{
-    navigator().onConfirmedLoadBudgetFile(m_file, true);
-    m_watch = {};
-    m_isOther = false;
-    watch(false);
-    begin();
 }
 
 void Document::begin()
 {
     m_goesTo.reset();
-    m_trouble.reset();
-    m_at = 0;
-    m_steps.clear();
+    m_goesOff.reset();
+    m_history = {};
     if (m_keeping == Keeping::WithinASecond)
-        m_steps.push_back({{{}, QDateTime::currentDateTimeUtc()}, *m_storage->present()});
+        m_history.begin(m_storage->version());
+    watch(false);
     emit m_news.changed();
     emit m_news.keepingChanged();
 }
@@ -111,11 +114,6 @@ void Document::openLost(const QString &file)
     refuseUnsaved();
     (void)navigator();
     m_file = withExtension(file);
-}
-
-bool Document::isLost() const
-{
-    return m_storage->openFile() != m_file;
 }
 
 void Document::refuseExisting(const QString &file)
@@ -136,6 +134,7 @@ void Document::create(const QString &file, const QString &change)
 
 void Document::createEmpty(const QString &file, const QString &change)
 {
+    refuseUnsaved();
     refuseExisting(file);
     navigator().onConfirmedNewBudgetEmpty();
     auto back = qScopeGuard([this] { revert(); });
@@ -165,15 +164,21 @@ void Document::store(Slot slot, const Values &...values)
 void Document::watch(bool isChange)
 {
     const accounting::GeneralLedger &ledger = m_storage->present()->generalLedger;
-    const surveying::Reconciliations &all = m_storage->reconciliations();
+    const surveying::Reconciliations &all = keptReconciliations();
     m_broken = isChange ? m_watch.follow(all, ledger) : m_watch.check(all, ledger);
+}
+
+const surveying::Reconciliations &Document::keptReconciliations() const
+{
+    return m_history.isEmpty() ? m_storage->reconciliations()
+                               : m_history.present().content.value().reconciliations();
 }
 
 std::vector<JudgedReconciliation> Document::reconciliations() const
 {
     if (!m_storage || !m_storage->present())
         return {};
-    return judged(m_storage->reconciliations(), m_storage->present()->generalLedger);
+    return judged(keptReconciliations(), m_storage->present()->generalLedger);
 }
 
 std::map<accounting::AccountNumber, bool> Document::reconciledAccounts() const
@@ -181,7 +186,7 @@ std::map<accounting::AccountNumber, bool> Document::reconciledAccounts() const
     std::map<accounting::AccountNumber, bool> accounts;
     if (!m_storage)
         return accounts;
-    const surveying::Reconciliations &all = m_storage->reconciliations();
+    const surveying::Reconciliations &all = keptReconciliations();
     for (std::size_t place = 0; place < all.size(); ++place) {
         const auto account = accounts.try_emplace(all[place].account.account.number, true).first;
         account->second = account->second && m_watch.holds(place);
@@ -201,27 +206,19 @@ std::vector<JudgedReconciliation> Document::takeBroken()
 
 void Document::save(const Deed &deed)
 {
+    refuseReadOnly();
     (void)navigator();
     m_storage->setChange(deed.line);
-    try {
-        store(&Navigator::onSaveBudgetFile);
-        m_trouble.reset();
-    } catch (const storage::StorageError &error) {
-        if (m_keeping == Keeping::AtOnce)
-            throw;
-        m_trouble = troubleOfSaving(error);
-    }
-    if (m_keeping == Keeping::WithinASecond) {
-        if (m_goesTo) {
-            m_at = *std::exchange(m_goesTo, std::nullopt);
-        } else {
-            m_steps.resize(m_steps.empty() ? 0 : m_at + 1);
-            m_steps.push_back({{deed, QDateTime::currentDateTimeUtc()}, *m_storage->present()});
-            m_at = m_steps.size() - 1;
-        }
-    }
-    emit m_news.changed();
-    emit m_news.keepingChanged();
+    m_deed = deed;
+    m_isKept = false;
+    store(&Navigator::onSaveBudgetFile);
+    m_deed = {};
+    // What was written at once begins anew: the file was lost.
+    if (m_keeping == Keeping::WithinASecond && !m_isKept)
+        begin();
+    else
+        emit m_news.changed();
+    listen();
 }
 
 void Document::saveAs(const QString &file, const QString &change)
@@ -233,83 +230,24 @@ void Document::saveAs(const QString &file, const QString &change)
         const auto follow = qScopeGuard([this] { m_file = m_storage->openFile(); });
         store(&Navigator::onSaveAsBudgetFile, file);
     }
+    m_access = Access::Change;
     m_whyReadOnly.reset();
     begin();
 }
 
-void Document::setKeeping(Keeping keeping)
-{
-    m_keeping = keeping;
-}
-
-Document::Kept Document::kept() const
-{
-    return m_storage && m_storage->isUnsaved() ? Kept::NotSaved : Kept::Saved;
-}
-
-std::optional<Trouble> Document::whyNotSaved() const
-{
-    return m_trouble;
-}
-
-void Document::writeNow()
-{
-    saveUnsaved();
-    m_trouble.reset();
-    emit m_news.keepingChanged();
-}
-
-void Document::saveCopy(const QString &file)
-{
-    refuseExisting(file);
-    storage::BudgetFile copy;
-    copy.setFilePathName(withExtension(file));
-    copy.store(present());
-}
-
-void Document::perform(const Deed &deed, const std::function<void()> &work)
-{
-    if (m_whyReadOnly)
-        throw Refusal(*m_whyReadOnly);
-    try {
-        work();
-    } catch (...) {
-        revert();
-        throw;
-    }
-    save(deed);
-}
-
-std::vector<Step> Document::steps() const
-{
-    std::vector<Step> steps;
-    for (std::size_t place = 0; place < m_steps.size(); ++place) {
-        steps.push_back(m_steps[place].first);
-        steps.back().isPresent = place == m_at;
-    }
-    return steps;
-}
-
-std::optional<Deed> Document::undoable() const
-{
-    return m_at > 0 ? std::optional(m_steps[m_at].first.deed) : std::nullopt;
-}
-
-std::optional<Deed> Document::redoable() const
-{
-    return m_at + 1 < m_steps.size() ? std::optional(m_steps[m_at + 1].first.deed) : std::nullopt;
-}
-
 void Document::refuseUnsaved() const
 {
-    if (m_storage && m_storage->isUnsaved())
+    writePending();
+    if (kept() == Kept::NotSaved)
         throw internal::unsavedChanges(m_file);
 }
 
 void Document::saveUnsaved()
 {
     // Under the name of the change that could not be saved.
-    if (m_storage && m_storage->isUnsaved())
+    if (writer())
+        writeNow();
+    else if (m_storage && m_storage->isUnsaved())
         store(&Navigator::onSaveBudgetFile);
 }
 
@@ -318,6 +256,7 @@ void Document::revert()
     if (!m_navigator)
         return;
     m_goesTo.reset();
+    m_goesOff.reset();
     m_file = m_storage->openFile(); // a lost one was only chosen
     // Not from the file, which may be missing or older than the budget in memory.
     if (const auto &present = m_storage->present()) {
@@ -326,77 +265,6 @@ void Document::revert()
     } else {
         navigator().onConfirmedNewBudgetEmpty();
     }
-}
-
-Document::Recalled Document::recall(storage::KeptVersion version, BudgetStorage::Data data)
-{
-    const bool wasLost = isLost();
-    Recalled recalled{{}, version, wasLost ? std::nullopt : m_storage->present(), data};
-    m_storage->restore(std::move(version), std::move(data));
-    if (wasLost)
-        navigator().onConfirmedLoadBudgetFile(m_file, false);
-    else
-        navigator().onReloadBudgetFile();
-    return recalled;
-}
-
-Document::Recalled Document::settled(Recalled recalled, Settle settle)
-{
-    if (settle == Settle::Now)
-        save(recalled.deed);
-    return recalled;
-}
-
-Document::Recalled Document::goTo(qsizetype step, Settle settle)
-{
-    const auto place = static_cast<std::size_t>(step);
-    const auto &[reached, data] = m_steps.at(place);
-    Recalled recalled{m_steps[std::min(m_steps.size() - 1, std::max(place, m_at))].first.deed,
-                      {},
-                      m_storage->present(),
-                      data};
-    recalled.version.mark.savedAt = reached.at;
-    recalled.version.mark.change = reached.deed.line;
-    m_storage->recall(data);
-    navigator().onConfirmedLoadBudgetFile(m_file, true);
-    m_goesTo = place;
-    return settled(std::move(recalled), settle);
-}
-
-Document::Recalled Document::undo(qsizetype steps, Settle settle)
-{
-    if (static_cast<std::size_t>(steps) <= m_at)
-        return goTo(static_cast<qsizetype>(m_at) - steps, settle);
-    refuseUnsaved();
-    const KeptVersions versions(m_file);
-    if (isLost()) {
-        auto found = versions.newestWhole();
-        if (!found)
-            throw internal::nothingToUndo(0);
-        return settled(recall(std::move(found->first), std::move(found->second)), settle);
-    }
-    const storage::KeptVersion &version = versions.undone(steps);
-    return settled(recall(version, dataOf(version)), settle);
-}
-
-Document::Recalled Document::undoTo(const QString &name, Settle settle)
-{
-    refuseUnsaved();
-    const KeptVersions versions(m_file);
-    const storage::KeptVersion &version = versions.named(name);
-    if (version.isFile)
-        throw internal::alreadyPresent(name);
-    return settled(recall(version, dataOf(version)), settle);
-}
-
-Document::Recalled Document::redo(qsizetype steps, Settle settle)
-{
-    if (m_at + static_cast<std::size_t>(steps) < m_steps.size())
-        return goTo(static_cast<qsizetype>(m_at) + steps, settle);
-    refuseUnsaved();
-    const KeptVersions versions(m_file);
-    const storage::KeptVersion &version = versions.redone(steps);
-    return settled(recall(version, dataOf(version)), settle);
 }
 
 BudgetStorage::Data Document::present()

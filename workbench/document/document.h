@@ -3,7 +3,7 @@
 
 #include "workbench/document/document_news.h"
 #include "workbench/document/trouble.h"
-#include "workbench/history/deed.h"
+#include "workbench/history/history.h"
 #include "workbench/requests/requests.h"
 #include "workbench/surveys/reconciliation_watch.h"
 
@@ -17,7 +17,9 @@
 
 namespace kiv::workbench {
 
+class KeptVersions;
 class RecallingStorage;
+class Writer;
 
 /// What a front end provides for its Navigator.
 struct Surroundings {
@@ -29,6 +31,10 @@ struct Surroundings {
 
 /// A Navigator with its budget file. It knows the open file and whether its changes are
 /// saved.
+///
+/// document.cpp       the Navigator, opening and saving
+/// document_keeping.cpp  deeds and how they are kept
+/// document_undo.cpp  undo, redo and going to a step
 class KIV_WORKBENCH_EXPORT Document {
 public:
     /// The Navigator of this document.
@@ -55,7 +61,7 @@ public:
     /// For what a file is opened.
     enum class Access : std::uint8_t {
         Change,  ///< locked against others who change it
-        Reading, ///< without a lock, until it is saved
+        Reading, ///< without a lock; no change of it is kept
         /// As Change; where that is not possible, for reading only: see whyReadOnly().
         ChangeIfPossible,
     };
@@ -71,8 +77,8 @@ public:
     /// Throws a Refusal if the file exists, or if it is gone while its former versions are
     /// kept.
     static void refuseExisting(const QString &file);
-    /// Why the budget can be looked at only: who has it, or that it cannot be written; no
-    /// deed is possible then. Nothing if it can be changed.
+    /// Why the budget can be looked at only: it was opened so, another program has it, or
+    /// it cannot be written. No deed is possible then. Nothing if it can be changed.
     [[nodiscard]] const std::optional<QString> &whyReadOnly() const noexcept
     {
         return m_whyReadOnly;
@@ -107,6 +113,7 @@ public:
         WithinASecond ///< within a second, while the program goes on; see kept()
     };
     void setKeeping(Keeping keeping);
+    [[nodiscard]] Keeping keeping() const noexcept { return m_keeping; }
     /// Whether the file holds the budget in memory.
     enum class Kept : std::uint8_t {
         Saved,
@@ -116,8 +123,14 @@ public:
     [[nodiscard]] Kept kept() const;
     /// Why it is NotSaved, and what the user can choose.
     [[nodiscard]] std::optional<Trouble> whyNotSaved() const;
-    /// Writes what is pending and waits for it. Throws what storing throws.
+    /// Writes what is pending or could not be written, and waits for it. Throws what
+    /// storing throws.
     void writeNow();
+    /// Writes what is pending and waits for it; any thread may call it.
+    void writePending() const noexcept;
+    /// Takes in what happened while the file was written, and logs warnings. With an event
+    /// loop, this comes by itself.
+    void listen();
     /// Saves a copy of the budget as a new file; the open file stays open. Throws what
     /// storing throws, or a Refusal as refuseExisting() does.
     void saveCopy(const QString &file);
@@ -126,11 +139,13 @@ public:
 
     // ---- deeds, undo and redo --------------------------------------------------
 
-    /// Runs `work`, which makes requests, and keeps the budget then as one step. If work
-    /// throws, the budget is as before, and the exception passes on. Throws a Refusal
-    /// without running it if the budget isReadOnly().
+    /// Runs `work`, which makes requests, and keeps the budget then as one step; none if
+    /// it is as before. If work throws, the budget is as before, and the exception passes
+    /// on. Throws a Refusal without running it if the budget isReadOnly(), and with
+    /// Keeping::AtOnce what storing throws.
     void perform(const Deed &deed, const std::function<void()> &work);
-    /// The steps of this session. The first is the state at opening.
+    /// The steps of this session, with Keeping::WithinASecond. The first is the state at
+    /// opening, unless undo or redo went on to former versions of the file.
     [[nodiscard]] std::vector<Step> steps() const;
     /// What undo() would take back: a step of the session, or else the newest change in
     /// the file.
@@ -156,12 +171,15 @@ public:
     /// That version becomes the file again, and the present one is kept. Throws a Refusal
     /// if there are not so many, or if the version is damaged.
     Recalled undo(qsizetype steps = 1, Settle settle = Settle::Now);
-    /// Goes to the version of this name, see storage::KeptVersion, as undo() does.
+    /// Goes to the version of this name, see storage::KeptVersion and History::Entry, as
+    /// undo() does.
     Recalled undoTo(const QString &name, Settle settle = Settle::Now);
     /// Takes so many calls of undo() back, as undo() does. A change ends that.
     Recalled redo(qsizetype steps = 1, Settle settle = Settle::Now);
     /// Goes to the step with this place in steps(), as undo() does.
     Recalled goTo(qsizetype step, Settle settle = Settle::Now);
+    /// The steps behind steps().
+    [[nodiscard]] const History &history() const noexcept { return m_history; }
     /// The budget in memory, as save() would write it.
     [[nodiscard]] storage::BudgetStorage::Data present();
     /// Repairs the budget in memory now, as the next opening of its file would.
@@ -183,29 +201,51 @@ private:
     void store(Slot slot, const Values &...values);
     /// Begins the steps of a session with the budget in memory.
     void begin();
+    /// Keeps the budget as a step, and has it written.
+    void keep(const storage::BudgetStorage::Data &data);
+    void keepLater();
+    void load(const QString &path, Access access);
+    void refuseReadOnly() const;
+    [[nodiscard]] Writer *writer() const;
+    [[nodiscard]] const surveying::Reconciliations &keptReconciliations() const;
     /// Notes what is broken in the version that is open now. One that was not made by a
     /// change of the one before is checked as a whole.
     void watch(bool isChange);
 
     [[nodiscard]] bool isLost() const;
+    /// Whether undo and redo go along the steps.
+    [[nodiscard]] bool hasSteps() const;
     [[nodiscard]] Recalled recall(storage::KeptVersion version, storage::BudgetStorage::Data data);
     Recalled settled(Recalled recalled, Settle settle);
+    /// Recalls a step of the session, whose content is read if needed.
+    [[nodiscard]] Recalled recallStep(std::size_t place);
+    [[nodiscard]] Recalled recallContent(const History::Entry &entry, const Deed &deed);
+    /// Adds so many former versions of the file before the first step, or behind the last.
+    /// Throws a Refusal if there are not so many.
+    void stepsFromFile(bool isBefore, std::size_t missing, std::size_t possible);
+    /// Adds the former versions up to this one, and returns its place; nothing if it does
+    /// not belong to the steps.
+    [[nodiscard]] std::optional<std::size_t> stepOf(const KeptVersions &versions,
+                                                    const storage::KeptVersion &version);
 
     Surroundings m_surroundings;
+    DocumentNews m_news; // outlives the thread that writes
     std::unique_ptr<Navigator> m_navigator;
     RecallingStorage *m_storage = nullptr; ///< the Navigator's
     QString m_file;
     Requests m_requests;
     ReconciliationWatch m_watch;
     std::vector<JudgedReconciliation> m_broken;
-    DocumentNews m_news;
+    Access m_access = Access::Change;
     std::optional<QString> m_whyReadOnly;
     Keeping m_keeping = Keeping::AtOnce;
-    std::optional<Trouble> m_trouble;
-    std::vector<std::pair<Step, storage::BudgetStorage::Data>> m_steps;
-    std::size_t m_at = 0;                ///< the present one of m_steps
-    std::optional<std::size_t> m_goesTo; ///< the step that the next save() settles
-    bool m_isOther = false;              ///< whether a new or a former budget is to be saved next
+    History m_history;
+    Deed m_deed;                             ///< that save() keeps
+    bool m_isKept = false;                   ///< whether it is a step
+    std::optional<std::size_t> m_goesTo;     ///< the step that the next save() settles
+    std::optional<History::Entry> m_goesOff; ///< the same, for one that is no step
+    Kept m_toldKept = Kept::Saved;           ///< as the front end heard it last
+    bool m_isOther = false; ///< whether a new or a former budget is to be saved next
 };
 
 } // namespace kiv::workbench

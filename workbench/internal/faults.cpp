@@ -269,6 +269,11 @@ Refusal unsavedChanges(const QString &path)
                    Remedy::SaveElsewhere);
 }
 
+Refusal openedForReading()
+{
+    return Refusal(QObject::tr("The budget was opened for reading only."));
+}
+
 Refusal starterFailed(const QString &reason)
 {
     return Refusal(withReason(QObject::tr("The budget could not be created."), reason));

@@ -78,6 +78,7 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal fileGone(const QString &path);
 [[nodiscard]] Refusal fileExists(const QString &path);
 [[nodiscard]] Refusal unsavedChanges(const QString &path);
+[[nodiscard]] Refusal openedForReading();
 /// With the reason, if one is known.
 [[nodiscard]] Refusal starterFailed(const QString &reason);
 

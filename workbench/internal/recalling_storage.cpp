@@ -5,9 +5,15 @@
 
 namespace kiv::workbench {
 
+void RecallingStorage::keepLater(std::function<void(const Data &)> keep, std::function<void()> tell)
+{
+    m_keep = std::move(keep);
+    m_writer = std::make_unique<Writer>(m_file, std::move(tell));
+}
+
 void RecallingStorage::setFilePathName(const QString &filePathName)
 {
-    m_file.setFilePathName(filePathName);
+    m_chosenFile = filePathName;
 }
 
 void RecallingStorage::recall(Data version)
@@ -22,13 +28,28 @@ void RecallingStorage::restore(storage::KeptVersion version, Data data)
     m_restored.emplace(std::move(version), std::move(data));
 }
 
+template <typename Work>
+auto RecallingStorage::withFile(Work work)
+{
+    if (m_writer)
+        m_writer->finish();
+    m_file.setFilePathName(m_chosenFile);
+    m_file.setReading(m_isReading);
+    m_file.setNew(m_isNew);
+    m_file.setChange(m_change);
+    // The file that is open then, also after a failure.
+    const auto follow = qScopeGuard([this] { m_chosenFile = m_file.filePathName(); });
+    return work();
+}
+
 storage::BudgetStorage::Data RecallingStorage::load()
 {
     if (std::optional<Data> recalled = std::exchange(m_recalled, std::nullopt)) {
-        m_file.setNew(false);
+        m_isNew = false;
         return *std::move(recalled);
     }
-    Data loaded = m_file.load();
+    Data loaded = withFile([this] { return m_file.load(); });
+    m_obstacle = m_file.obstacle();
     settle(loaded);
     return loaded;
 }
@@ -38,14 +59,26 @@ void RecallingStorage::store(const Data &data)
     if (m_isCatching)
         throw Caught{data};
     // If saving another file fails, the open one is unchanged.
-    if (m_file.filePathName() == m_openFile) {
+    const bool isOpen = m_chosenFile == m_openFile;
+    if (isOpen && m_keep) {
+        m_keep(data);
+        m_present = data;
+        m_isNew = false;
+        ++m_timesStored;
+        return;
+    }
+    if (isOpen) {
         m_present = data;
         m_isUnsaved = true;
     }
-    if (m_restored && m_restored->second == data)
-        m_file.restore(m_restored->first);
-    else
-        m_file.store(data);
+    withFile([&] {
+        if (m_restored && m_restored->second == data)
+            m_file.restore(m_restored->first);
+        else
+            m_file.store(data);
+    });
+    if (m_writer)
+        m_writer->forget(); // it is in the new file
     ++m_timesStored;
     settle(data);
 }
@@ -55,12 +88,14 @@ void RecallingStorage::settle(const Data &data)
     m_openFile = m_file.filePathName();
     m_present = data;
     m_isUnsaved = false;
+    m_isNew = false;
+    m_change.clear();
     m_restored.reset();
 }
 
 QString RecallingStorage::filePathName() const
 {
-    return m_file.filePathName();
+    return m_chosenFile;
 }
 
 } // namespace kiv::workbench

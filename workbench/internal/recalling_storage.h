@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/history/writer.h"
+
 #include "storage/budget_file.h"
 
 #include <QtCore/QScopeGuard>
@@ -16,6 +18,8 @@ namespace kiv::workbench {
 ///
 /// It also keeps the present version: the one loaded last, or the one to be saved to the
 /// open file, even if saving failed.
+///
+/// Budgets for the open file can be handed to somebody else, who has them written later.
 class RecallingStorage final : public storage::BudgetStorage {
 public:
     /// The next load returns `version`.
@@ -23,20 +27,36 @@ public:
     /// The next load returns a former version. It is stored as that very version, unless
     /// it was changed since.
     void restore(storage::KeptVersion version, Data data);
+    /// From now on, `keep` gets each budget for the open file, and has the writer write
+    /// it. `tell` is called as Writer says.
+    void keepLater(std::function<void(const Data &)> keep, std::function<void()> tell);
+    /// The one that writes later; null before keepLater().
+    [[nodiscard]] Writer *writer() const noexcept { return m_writer.get(); }
     /// See storage::BudgetFile.
-    void setReading(bool isReading) noexcept { m_file.setReading(isReading); }
-    void setChange(const QString &change) { m_file.setChange(change); }
+    void setReading(bool isReading) noexcept { m_isReading = isReading; }
+    void setChange(const QString &change) { m_change = change; }
+    [[nodiscard]] const std::optional<storage::StorageError> &obstacle() const noexcept
+    {
+        return m_obstacle;
+    }
+    /// The version that was loaded or stored last by this object itself.
+    [[nodiscard]] storage::Version version() const
+    {
+        return {m_present.value(), m_file.reconciliations(), m_file.notes(), m_file.mark()};
+    }
     /// The file that was loaded or stored last; empty before.
     [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
     /// The present version; nothing before the first load or store.
     [[nodiscard]] const std::optional<Data> &present() const noexcept { return m_present; }
-    /// The reconciliations of the version that was loaded or stored last.
+    /// The reconciliations of the version that was loaded or stored last, unless they are
+    /// kept later.
     [[nodiscard]] const surveying::Reconciliations &reconciliations() const noexcept
     {
         return m_file.reconciliations();
     }
     /// A new budget is in memory, unless another one is loaded.
-    void beginAnew() { m_file.setNew(true); }
+    void beginAnew() noexcept { m_isNew = true; }
+    [[nodiscard]] bool isNew() const noexcept { return m_isNew; }
     /// Whether saving the present version failed.
     [[nodiscard]] bool isUnsaved() const noexcept { return m_isUnsaved; }
     /// How often a budget was stored, in any file.
@@ -72,8 +92,20 @@ private:
     /// Notes that the open file now holds `data`.
     void settle(const Data &data);
 
+    /// Calls `work`, which loads or stores, on the chosen file, once nobody else uses the
+    /// open one.
+    template <typename Work>
+    auto withFile(Work work);
+
     storage::BudgetFile m_file;
+    std::function<void(const Data &)> m_keep;
+    std::unique_ptr<Writer> m_writer; ///< uses the file
+    QString m_chosenFile;
     QString m_openFile;
+    QString m_change;
+    bool m_isReading = false;
+    bool m_isNew = false;
+    std::optional<storage::StorageError> m_obstacle;
     std::optional<Data> m_present;
     bool m_isUnsaved = false;
     int m_timesStored = 0;

@@ -46,6 +46,15 @@ const KeptVersion &KeptVersions::named(const QString &name) const
     return *found;
 }
 
+KeptVersion KeptVersions::known(const KeptVersion &version) const
+{
+    const auto isSame = [&version](const KeptVersion &other) {
+        return !version.mark.id.isEmpty() && other.mark.id == version.mark.id;
+    };
+    const auto found = std::ranges::find_if(m_all, isSame);
+    return found == m_all.end() ? version : *found;
+}
+
 const KeptVersion *KeptVersions::before(const KeptVersion &version) const
 {
     for (const QString &id : version.mark.ancestors) {
@@ -117,6 +126,11 @@ std::optional<std::pair<KeptVersion, BudgetStorage::Data>> KeptVersions::newestW
 
 BudgetStorage::Data dataOf(const KeptVersion &version)
 {
+    return versionOf(version).data;
+}
+
+storage::Version versionOf(const KeptVersion &version)
+{
     storage::BudgetInspection found;
     try {
         found = storage::inspectBudget(version.path);
@@ -124,7 +138,8 @@ BudgetStorage::Data dataOf(const KeptVersion &version)
         throw internal::versionDamaged(version.path, error.message());
     }
     if (found.data)
-        return *std::move(found.data);
+        return {*std::move(found.data), std::move(found.reconciliations), std::move(found.notes),
+                version.mark};
     QString reason;
     for (const storage::Judgement &judgement : found.judgements) {
         if (judgement.verdict == Verdict::Broken)

@@ -3,8 +3,8 @@
 
 #include "workbench/errors.h"
 
-#include "storage/budget_storage.h"
 #include "storage/kept_versions.h"
+#include "storage/version.h"
 
 #include <optional>
 
@@ -30,6 +30,12 @@ public:
     /// The version so many changes after the present one: each time the newest that was
     /// made from it. Throws a Refusal if there are not so many.
     [[nodiscard]] const storage::KeptVersion &redone(qsizetype steps) const;
+    /// The version with the same id, which may tell more about itself; else this one.
+    [[nodiscard]] storage::KeptVersion known(const storage::KeptVersion &version) const;
+    /// The version from which this one came, as undone() finds it; null if there is none.
+    [[nodiscard]] const storage::KeptVersion *before(const storage::KeptVersion &version) const;
+    /// The newest that was made from this one, as redone() finds it; null if there is none.
+    [[nodiscard]] const storage::KeptVersion *after(const storage::KeptVersion &version) const;
     /// The newest former version that is whole, with its budget; nothing if none is.
     [[nodiscard]] std::optional<std::pair<storage::KeptVersion, storage::BudgetStorage::Data>>
     newestWhole() const;
@@ -39,8 +45,6 @@ private:
 
     [[nodiscard]] const storage::KeptVersion &walked(Step step, qsizetype steps,
                                                      Refusal (*ended)(qsizetype done)) const;
-    [[nodiscard]] const storage::KeptVersion *before(const storage::KeptVersion &version) const;
-    [[nodiscard]] const storage::KeptVersion *after(const storage::KeptVersion &version) const;
 
     QString m_file;
     std::vector<storage::KeptVersion> m_found; ///< that in the file may be among the others
@@ -50,6 +54,8 @@ private:
 /// The budget of the version. Throws a Refusal if it is damaged or gone.
 [[nodiscard]] KIV_WORKBENCH_EXPORT storage::BudgetStorage::Data
 dataOf(const storage::KeptVersion &version);
+/// The whole version, with the mark that it is kept under. Throws as dataOf().
+[[nodiscard]] KIV_WORKBENCH_EXPORT storage::Version versionOf(const storage::KeptVersion &version);
 
 /// Whether former versions of the file are kept. False where that cannot be told.
 [[nodiscard]] KIV_WORKBENCH_EXPORT bool hasFormerVersions(const QString &file);

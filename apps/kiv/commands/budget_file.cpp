@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// new, info, save-as
+// new, info, save, save-as
 #include "commands/commands.h"
 
 #include "output/json.h"
@@ -51,6 +51,20 @@ struct SaveAs {
         call.document.create(file, QObject::tr("Saved under a new name"));
         return Report(fileJson(call.document))
             .line(QObject::tr("Saved the budget as '%1'.").arg(call.document.file()));
+    }
+};
+
+struct Save {
+    void declare(Arguments &) {}
+    Report run(Call &call) const
+    {
+        if (call.document.keeping() == Document::Keeping::AtOnce)
+            return Report().line(QObject::tr("Every change is saved at once; nothing is pending."));
+        if (call.document.file().isEmpty())
+            throw noFileNamed();
+        call.document.writeNow();
+        return Report(fileJson(call.document))
+            .line(QObject::tr("All changes are saved in '%1'.").arg(call.document.file()));
     }
 };
 
@@ -120,6 +134,8 @@ void addBudgetFileCommands(CommandGroup &root)
 {
     root.add("new", QObject::tr("Create an empty budget file"), CommandKind::Standalone, New{});
     root.add("info", QObject::tr("Show what the budget contains"), CommandKind::Query, Info{});
+    root.add("save", QObject::tr("In a shell, write the changes now"), CommandKind::Standalone,
+             Save{});
     root.add("save-as", QObject::tr("Save the budget under another name"), CommandKind::Query,
              SaveAs{});
 }

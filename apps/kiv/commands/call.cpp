@@ -16,8 +16,11 @@ Call::Call(Program &running, const Options &given)
 QString Call::fileNamed() const
 {
     for (const QString &path : {options.file, document.file(), qEnvironmentVariable("KIV_FILE")}) {
-        if (!path.isEmpty())
-            return path;
+        if (path.isEmpty())
+            continue;
+        document.writePending(); // the file itself is looked at
+        document.listen();
+        return path;
     }
     throw noFileNamed();
 }

@@ -7,6 +7,7 @@
 #include "output/json_text.h"
 #include "output/signal_watch.h"
 #include "parsing/words.h"
+#include "program/last_write.h"
 #include "program/line_reader.h"
 #include "program/program.h"
 
@@ -52,6 +53,39 @@ bool runLine(Program &program, const std::string &line, int &status)
     return true;
 }
 
+/// Tells once why the changes could not be written, and counts it as a failure.
+class WriteFailures {
+public:
+    WriteFailures(Call &call, int &status)
+        : m_document(call.document), m_program(call.program), m_status(status)
+    {
+    }
+    void tell()
+    {
+        m_document.listen();
+        const auto trouble = m_document.whyNotSaved();
+        const QString sentence = trouble ? trouble->sentence : QString();
+        if (std::exchange(m_told, sentence) == sentence || sentence.isEmpty() ||
+            sentence == m_program.complaint())
+            return;
+        complain(sentence);
+        if (m_status == ExitStatus::success)
+            m_status = ExitStatus::refused;
+    }
+
+private:
+    Document &m_document;
+    const Program &m_program;
+    int &m_status;
+    QString m_told;
+};
+
+/// Nobody reads what is printed any more.
+bool isOutputClosed()
+{
+    return std::ferror(stdout) != 0;
+}
+
 /// Ends a session: saves unsaved changes.
 Report ended(Call &call, int status)
 {
@@ -93,9 +127,13 @@ struct Shell {
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                 QStringLiteral("/history"));
         int status = ExitStatus::success;
+        WriteFailures failures(call, status);
+        const LastWrite lastWrite(call.document);
         while (const std::optional<std::string> line = reader.next()) {
-            if (!runLine(program, *line, status))
+            failures.tell();
+            if (!runLine(program, *line, status) || isOutputClosed())
                 break;
+            failures.tell();
         }
         return ended(call, status);
     }
@@ -119,8 +157,12 @@ struct Watch {
         // Lines are read while the event loop runs, so that signals of timers and of the
         // network are printed, too.
         int status = ExitStatus::success;
+        WriteFailures failures(call, status);
+        const LastWrite lastWrite(call.document);
         QByteArray pending;
         QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+        QObject::connect(&call.document.news(), &workbench::DocumentNews::keepingChanged, &input,
+                         [&failures] { failures.tell(); });
         QObject::connect(&input, &QSocketNotifier::activated, &input, [&] {
             char buffer[4096];
             const ssize_t count = ::read(STDIN_FILENO, buffer, sizeof buffer);
@@ -135,7 +177,7 @@ struct Watch {
             for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
                 const std::string line = pending.first(end).toStdString();
                 pending.remove(0, end + 1);
-                if (!runLine(program, line, status)) {
+                if (!runLine(program, line, status) || isOutputClosed()) {
                     isWanted = false;
                     break;
                 }

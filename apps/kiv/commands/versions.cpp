@@ -47,17 +47,18 @@ bool isTelling(const KeptVersion &version)
 QJsonObject toJson(const KeptVersion &version)
 {
     const bool isNumbered = version.mark.number > 0;
-    return {{QStringLiteral("version"), version.name},
-            {QStringLiteral("number"), isNumbered ? QJsonValue(version.mark.number) : QJsonValue()},
-            {QStringLiteral("present"), version.isFile},
-            {QStringLiteral("savedAt"), version.mark.savedAt.toString(Qt::ISODateWithMs)},
-            {QStringLiteral("change"),
-             isTelling(version) ? QJsonValue(version.mark.change) : QJsonValue()},
-            {QStringLiteral("transactions"),
-             isTelling(version) ? QJsonValue(version.mark.transactions) : QJsonValue()},
-            {QStringLiteral("bytes"), version.size},
-            {QStringLiteral("file"), version.path},
-            {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
+    return {
+        {QStringLiteral("version"), version.name},
+        {QStringLiteral("number"), isNumbered ? QJsonValue(version.mark.number) : QJsonValue()},
+        {QStringLiteral("present"), version.isFile},
+        {QStringLiteral("savedAt"), version.mark.savedAt.toString(Qt::ISODateWithMs)},
+        {QStringLiteral("change"),
+         isTelling(version) ? QJsonValue(version.mark.change) : QJsonValue()},
+        {QStringLiteral("transactions"),
+         isTelling(version) ? QJsonValue(version.mark.transactions) : QJsonValue()},
+        {QStringLiteral("bytes"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.size)},
+        {QStringLiteral("file"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.path)},
+        {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
 }
 
 SharedChanges changesBetween(const storage::BudgetStorage::Data &before,
@@ -77,8 +78,10 @@ Report restored(const Document::Recalled &recalled)
                                       : std::make_shared<const std::vector<workbench::Change>>();
     Report report(QJsonObject{{QStringLiteral("restored"), toJson(recalled.version)}},
                   QStringLiteral("changes"), rowsOf(changes));
-    report.line(QObject::tr("Restored the version saved at %1.")
-                    .arg(localTime(recalled.version.mark.savedAt)));
+    const QString sentence = recalled.version.path.isEmpty()
+                                 ? QObject::tr("Restored the state of %1.")
+                                 : QObject::tr("Restored the version saved at %1.");
+    report.line(sentence.arg(localTime(recalled.version.mark.savedAt)));
     if (recalled.before)
         tabulate(report, changes, QObject::tr("Both versions are the same."), shownMax);
     return report;
@@ -115,6 +118,26 @@ struct Redo {
     }
 };
 
+/// The versions of the file, and before them the steps of a session with it, the newest
+/// first.
+std::vector<KeptVersion> stepsAndVersions(const Document &document,
+                                          const workbench::KeptVersions &versions)
+{
+    const workbench::History &history = document.history();
+    std::vector<KeptVersion> all;
+    for (std::size_t place = history.size(); place-- > 0;) {
+        all.push_back(versions.known(history.at(place).kept()));
+        all.back().isFile = place == history.place();
+    }
+    const auto isStep = [steps = all](const KeptVersion &version) {
+        return std::ranges::any_of(steps, [&version](const KeptVersion &step) {
+            return !version.mark.id.isEmpty() && step.mark.id == version.mark.id;
+        });
+    };
+    std::ranges::copy_if(versions.all(), std::back_inserter(all), std::not_fn(isStep));
+    return all;
+}
+
 // history and history diff open no document, so they also work with damaged files.
 struct History {
     void declare(Arguments &arguments) { arguments.file(); }
@@ -124,8 +147,11 @@ struct History {
         const workbench::KeptVersions versions(file);
         if (versions.all().empty())
             (void)versions.present(); // which tells that there is none
+        const std::vector<KeptVersion> all = file == call.document.file()
+                                                 ? stepsAndVersions(call.document, versions)
+                                                 : versions.all();
         QJsonArray rows;
-        for (const KeptVersion &version : versions.all())
+        for (const KeptVersion &version : all)
             rows.append(toJson(version));
         const auto time = [](const QJsonValue &value) {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));

@@ -34,6 +34,7 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext &, const QStrin
 
 void MessageLog::take(QtMsgType type, const QString &message)
 {
+    const std::lock_guard lock(m_mutex);
     const bool isWarning = type != QtDebugMsg && type != QtInfoMsg;
     const bool isMuted = m_isBusy && m_isBusy();
     const bool isNews = isWarning && !isMuted && !m_written.contains(message);

@@ -5,11 +5,12 @@
 #include <QtCore/QStringList>
 
 #include <functional>
+#include <mutex>
 
 namespace kiv::app {
 
 /// Writes the log messages of Qt to standard error: each warning once, other messages
-/// only if verbose. There is at most one object of this class.
+/// only if verbose. Any thread may log. There is at most one object of this class.
 class MessageLog {
 public:
     MessageLog();
@@ -28,6 +29,7 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);
     void take(QtMsgType type, const QString &message);
 
+    std::mutex m_mutex;
     bool m_isVerbose = false;
     std::function<bool()> m_isBusy;
     QStringList m_written;

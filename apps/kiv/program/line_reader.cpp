@@ -42,13 +42,23 @@ public:
         struct sigaction noting = {};
         noting.sa_handler = noteInterrupt;
         ::sigaction(SIGINT, &noting, &m_before);
+        // Otherwise another thread waits for it.
+        sigset_t interrupt;
+        ::sigemptyset(&interrupt);
+        ::sigaddset(&interrupt, SIGINT);
+        ::pthread_sigmask(SIG_UNBLOCK, &interrupt, &m_blockedBefore);
     }
-    ~InterruptsGiveUpLine() { ::sigaction(SIGINT, &m_before, nullptr); }
+    ~InterruptsGiveUpLine()
+    {
+        ::pthread_sigmask(SIG_SETMASK, &m_blockedBefore, nullptr);
+        ::sigaction(SIGINT, &m_before, nullptr);
+    }
     InterruptsGiveUpLine(const InterruptsGiveUpLine &) = delete;
     InterruptsGiveUpLine &operator=(const InterruptsGiveUpLine &) = delete;
 
 private:
     struct sigaction m_before = {};
+    sigset_t m_blockedBefore = {};
 };
 
 /// Waits until there is a key or a signal. A signal that arrived before the wait ends it,
@@ -150,6 +160,12 @@ LineReader::~LineReader()
     // If the history cannot be saved, only the history is lost.
     QDir().mkpath(QFileInfo(m_historyFile).path());
     ::write_history(QFile::encodeName(m_historyFile).constData());
+}
+
+void LineReader::leaveTerminal()
+{
+    if (::isatty(STDIN_FILENO) != 0 && rl_deprep_term_function)
+        rl_deprep_term_function();
 }
 
 std::optional<std::string> LineReader::next()

@@ -25,6 +25,9 @@ public:
 
     /// The next line, or nothing at the end.
     [[nodiscard]] std::optional<std::string> next();
+    /// Makes the terminal as it was before a line was typed. Any thread may call it before
+    /// the program ends.
+    static void leaveTerminal();
 
 private:
     bool m_isInteractive;

@@ -58,8 +58,23 @@ Program::Program(DeclareCommands declare)
     m_log.setMutedWhile([this] { return m_document.requests().isBusy(); });
 }
 
+void Program::keepBudget()
+{
+    m_keepsBudget = true;
+    m_document.setKeeping(workbench::Document::Keeping::WithinASecond);
+    // Before another thread waits for signals, and may need it.
+    (void)m_document.navigator();
+}
+
+void Program::complain(const QString &sentence)
+{
+    m_complaint = sentence;
+    app::complain(sentence);
+}
+
 int Program::run(const std::vector<std::string> &words)
 {
+    m_complaint.clear();
     try {
         return parse(plainWords(words)) ? execute() : ExitStatus::success;
     } catch (const EntryError &error) {
@@ -142,7 +157,7 @@ void Program::takeBack()
     try {
         m_document.revert();
     } catch (const std::exception &error) {
-        complain(told(error));
+        app::complain(told(error));
     }
 }
 

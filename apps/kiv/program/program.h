@@ -21,9 +21,12 @@ public:
     /// Runs one command line, without the program's name. An error is reported on
     /// standard error in one sentence.
     int run(const std::vector<std::string> &words);
-    /// Keeps the budget in memory from one call to the next. Failed calls and dry runs
-    /// are then taken back in memory.
-    void keepBudget() noexcept { m_keepsBudget = true; }
+    /// The sentence of the last call's error; empty without one.
+    [[nodiscard]] const QString &complaint() const noexcept { return m_complaint; }
+    /// Keeps the budget in memory from one call to the next, and writes it within a
+    /// second. Failed calls and dry runs are then taken back in memory. Call it before a
+    /// file is opened.
+    void keepBudget();
 
     /// Prints no more reports.
     void setSilent() noexcept { m_isSilent = true; }
@@ -38,6 +41,7 @@ private:
     /// Returns whether there is a command to execute; help and version are printed here.
     bool parse(const std::vector<std::string> &words);
     int execute();
+    void complain(const QString &sentence);
     /// Takes back the changes of a call that must not stay in memory.
     void takeBack();
     void openFile(CommandKind kind);
@@ -52,6 +56,7 @@ private:
     Terminal m_terminal;
     Options m_options;
     Selection m_selection;
+    QString m_complaint;
     bool m_keepsBudget = false;
     bool m_isSilent = false;
 };

@@ -67,7 +67,7 @@ private:
     std::size_t m_count = 0;
 };
 
-AccountNumber numberOf(const QSharedDataPointer<AccountRecord> &account) noexcept
+AccountNumber numberOf(const SharedContent<AccountRecord> &account) noexcept
 {
     return account.constData()->code.number();
 }
@@ -129,7 +129,7 @@ AccountRecord &LedgerState::changeAccount(AccountNumber number)
 void LedgerState::insertAccount(AccountTypes type, const AccountCode &code,
                                 const numira::Currency &currency, bool holdsOpenings)
 {
-    QSharedDataPointer<AccountRecord> account(new AccountRecord);
+    SharedContent<AccountRecord> account(new AccountRecord);
     account->code = code;
     account->type = type;
     account->debits = account->credits = numira::Money(currency);
@@ -145,7 +145,7 @@ void LedgerState::eraseAccount(AccountNumber number)
 void LedgerState::recode(AccountNumber from, const AccountCode &to)
 {
     const auto found = position(from);
-    QSharedDataPointer<AccountRecord> account = *found;
+    SharedContent<AccountRecord> account = *found;
     m_accounts.erase(found);
     account->code = to;
     if (to.number() != from) {
@@ -154,7 +154,7 @@ void LedgerState::recode(AccountNumber from, const AccountCode &to)
             TransactionRecord &record = m_table.change(number);
             (record.debit == from ? record.debit : record.credit) = to.number();
         }
-        for (QSharedDataPointer<AccountRecord> &child : m_accounts) {
+        for (SharedContent<AccountRecord> &child : m_accounts) {
             if (child.constData()->code.parent() == from)
                 child->code.setParent(to.number());
         }

@@ -37,7 +37,7 @@ struct AccountRecord : QSharedData {
 /// It keeps balances, transaction sets and refund sums in step with the
 /// transactions. What may be changed is for the ledger to decide.
 struct LedgerState {
-    using Accounts = std::vector<QSharedDataPointer<AccountRecord>>;
+    using Accounts = std::vector<SharedContent<AccountRecord>>;
     using RestatedSides = std::vector<std::pair<TransactionNumber, numira::Money>>;
 
     /// In the order of their numbers.

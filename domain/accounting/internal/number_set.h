@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "accounting/internal/shared_content.h"
 #include "accounting/transaction_number.h"
-
-#include <QtCore/QSharedDataPointer>
 
 #include <cstddef>
 #include <vector>
@@ -44,7 +43,7 @@ private:
     [[nodiscard]] bool hasBits() const noexcept { return !content().bits.empty(); }
     [[nodiscard]] TransactionNumber highestOf(const Content &content) const noexcept;
 
-    QSharedDataPointer<Content> m_content; ///< null while it is empty
+    SharedContent<Content> m_content; ///< null while it is empty
     std::uint32_t m_count = 0;
     TransactionNumber m_highest;
 };

@@ -48,7 +48,7 @@ std::set<numira::Currency> TransactionTable::currencies() const
 
 void TransactionTable::detach(TransactionNumber number)
 {
-    QSharedDataPointer<Chunk> &chunk = m_chunks[chunkOf(number)];
+    SharedContent<Chunk> &chunk = m_chunks[chunkOf(number)];
     if (chunk.constData())
         chunk.detach();
     else

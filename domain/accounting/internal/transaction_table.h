@@ -44,7 +44,7 @@ struct TransactionRecord {
     /// in that currency, so that the sum never depends on a rate.
     numira::Decimal refundedAmount;
     /// Null where both sides are `amount`.
-    QSharedDataPointer<SideAmounts> sides;
+    SharedContent<SideAmounts> sides;
 
     [[nodiscard]] const numira::Money &debitAmount() const noexcept
     {
@@ -145,7 +145,7 @@ private:
     void count(const numira::Currency &currency);
     void discount(TransactionNumber number) noexcept;
 
-    std::array<QSharedDataPointer<Chunk>, 65'536 / slotsInChunk> m_chunks;
+    std::array<SharedContent<Chunk>, 65'536 / slotsInChunk> m_chunks;
     NumberSet m_numbers;
     std::vector<Entered> m_entered;
 };

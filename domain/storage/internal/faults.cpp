@@ -100,6 +100,12 @@ StorageError cannotWrite(const QString &path, int error)
             QObject::tr("The file '%1' could not be saved: %2.").arg(path, qt_error_string(error))};
 }
 
+StorageError cannotChange(const QString &path, int error)
+{
+    return {StorageFailure::CannotWrite, path,
+            QObject::tr("The file '%1' cannot be changed: %2.").arg(path, qt_error_string(error))};
+}
+
 StorageError inTheWay(const QString &path, const QString &other)
 {
     return {StorageFailure::CannotWrite, path,

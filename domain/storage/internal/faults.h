@@ -46,6 +46,8 @@ public:
 [[nodiscard]] StorageError notALock(const QString &path, const QString &lockPath);
 [[nodiscard]] StorageError changedOnDisk(const QString &path);
 [[nodiscard]] StorageError cannotWrite(const QString &path, int error);
+/// Before anything was to be saved.
+[[nodiscard]] StorageError cannotChange(const QString &path, int error);
 /// `other` has the name of a file that saving makes.
 [[nodiscard]] StorageError inTheWay(const QString &path, const QString &other);
 [[nodiscard]] StorageError notAsWritten(const QString &path);
