@@ -9,6 +9,7 @@
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDebug>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QList>
 #include <QtCore/QObject>
@@ -16,6 +17,8 @@
 #include <cstdio>
 #include <filesystem>
 #include <new>
+
+#include <sys/stat.h>
 
 namespace kiv::storage {
 namespace {
@@ -139,7 +142,21 @@ void setAside(const FileTarget &target, const StorageError &reason)
             .arg(reason.message(), QString::fromLocal8Bit(name)));
 }
 
+std::optional<internal::FileStamp> stampOf(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0
+               ? std::optional<internal::FileStamp>(status)
+               : std::nullopt;
+}
+
 } // namespace
+
+/// The rates in the file, and how the file was then.
+struct RatesFile::Known {
+    conversion::ConversionMap rates;
+    internal::FileStamp stamp;
+};
 
 RatesFile::RatesFile(QString filePathName) : m_filePathName(std::move(filePathName)) {}
 RatesFile::~RatesFile() = default;
@@ -155,13 +172,13 @@ conversion::ConversionMap RatesFile::load() const
     if (!content)
         throw internal::fileNotFound(m_filePathName);
     conversion::ConversionMap rates = ratesIn(content->bytes, m_filePathName);
-    m_known = rates;
+    m_known = std::make_unique<Known>(Known{rates, content->stamp});
     return rates;
 }
 
 void RatesFile::store(const conversion::ConversionMap &rates)
 {
-    if (m_known == rates && exists())
+    if (m_known && m_known->rates == rates && m_known->stamp == stampOf(m_filePathName))
         return;
     m_known.reset();
     std::error_code error;
@@ -185,7 +202,8 @@ void RatesFile::store(const conversion::ConversionMap &rates)
         setAside(target, reason);
     }
     internal::AtomicFileWriter(target, replaced).write(encode(rates));
-    m_known = rates;
+    if (const auto stamp = stampOf(m_filePathName))
+        m_known = std::make_unique<Known>(Known{rates, *stamp});
 }
 
 } // namespace kiv::storage

@@ -5,7 +5,7 @@
 
 #include <QtCore/QString>
 
-#include <optional>
+#include <memory>
 
 namespace kiv::storage {
 
@@ -15,7 +15,7 @@ namespace kiv::storage {
 /// set aside under a name of its own ("rates.unreadable"), and a warning tells of
 /// that. An empty table does not take the place of one that is not: storing it
 /// does nothing then. Rates that are as they were loaded or stored last are not stored
-/// again while the file is there.
+/// again as long as the file is as it was then.
 class KIV_STORAGE_EXPORT RatesFile final : public ExchangeRatesStorage {
 public:
     /// The file need not exist; its folder is made when rates are first stored.
@@ -28,7 +28,8 @@ public:
 
 private:
     QString m_filePathName;
-    mutable std::optional<conversion::ConversionMap> m_known; ///< as loaded or stored last
+    struct Known;
+    mutable std::unique_ptr<Known> m_known; ///< as loaded or stored last
 };
 
 } // namespace kiv::storage

@@ -52,7 +52,7 @@ What was done is undone change by change, also what was written together, and th
 by version; a new change ends redo:
 
   $ begin
-  $ kiv shell <<. | sed 's/of ....-..-.. ..:..:../of TIME/'
+  $ kiv shell <<. | sed 's/of ....-..-.. ..:..:../of TIME/; s/at ....-..-.. ..:..:../at TIME/' | grep -v '^account'
   > bill add Gym 30 --next 2026-02-01
   > bill add Club 20 --next 2026-02-01
   > undo
@@ -63,14 +63,43 @@ by version; a new change ends redo:
   > save
   > bill add Toll 10 --next 2026-02-01
   > redo
-  > bill list
   > undo --to step-1
-  > history --json
+  > bill list
   > .
   kiv: There is nothing to redo.
-  $ kiv history --json | jq -c 'map([.present, .change])[:4]'
-  $ kiv bill list
+  Added the bill 'Gym'.
+  Added the bill 'Club'.
+  Restored the state of TIME.
+  What     Name       Change   Detail
+  item     bill Club  removed  20.00 USD, monthly, 2026-02-01
+  Restored the state of TIME.
+  What     Name      Change   Detail
+  item     bill Gym  removed  30.00 USD, monthly, 2026-02-01
+  Dry run: nothing is saved.
+  Restored the state of TIME.
+  What     Name       Change  Detail
+  item     bill Club  added   20.00 USD, monthly, 2026-02-01
+  Restored the version saved at TIME.
+  What     Name         Change   Detail
+  item     bill Club    removed  20.00 USD, monthly, 2026-02-01
+  item     bill Gym     removed  30.00 USD, monthly, 2026-02-01
+  item     wage Salary  removed  3100.00 USD, monthly, 2026-01-25
+  Restored the state of TIME.
+  What     Name         Change  Detail
+  item     bill Gym     added   30.00 USD, monthly, 2026-02-01
+  item     wage Salary  added   3100.00 USD, monthly, 2026-01-25
+  All changes are saved in 'household.budget'.
+  Added the bill 'Toll'.
+  Restored the state of TIME.
+  What     Name       Change   Detail
+  item     bill Toll  removed  10.00 USD, monthly, 2026-02-01
+  Name     Amount  Every    Next        Tags
+  Gym      $30.00  monthly  2026-02-01
+  Rent  $1,250.00  monthly  2026-01-31
+  $ kiv history --json | jq -r '.[] | select(.present).change'
+  Added the bill 'Gym'
   $ kiv save
+  Every change is saved at once; nothing is pending.
 
 That rates could not be stored is a warning, since the budget was saved:
 

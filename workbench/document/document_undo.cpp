@@ -219,7 +219,7 @@ Document::Recalled Document::undoTo(const QString &name, Settle settle)
     listen();
     if (hasSteps()) {
         for (std::size_t place = 0; place < m_history.size(); ++place) {
-            if (m_history.at(place).name() != name)
+            if (!m_history.at(place).isCalled(name))
                 continue;
             if (place == m_history.place())
                 throw internal::alreadyPresent(name);

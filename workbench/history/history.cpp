@@ -11,10 +11,21 @@ using storage::BudgetStorage;
 using storage::KeptVersion;
 using storage::VersionMark;
 
+namespace {
+QString stepName(std::size_t serial)
+{
+    return QStringLiteral("step-") + QString::number(serial);
+}
+} // namespace
+
 QString History::Entry::name() const
 {
-    return mark.number > 0 ? QString::number(mark.number)
-                           : QStringLiteral("step-") + QString::number(serial);
+    return mark.number > 0 ? QString::number(mark.number) : stepName(serial);
+}
+
+bool History::Entry::isCalled(const QString &word) const
+{
+    return word == name() || (serial > 0 && word == stepName(serial));
 }
 
 KeptVersion History::Entry::kept() const

@@ -33,6 +33,8 @@ public:
 
         /// How the user calls it: by its number, or "step-7".
         [[nodiscard]] QString name() const;
+        /// Whether the user means it: its name, or the one before it had a number.
+        [[nodiscard]] bool isCalled(const QString &word) const;
         /// As one that is kept in a file.
         [[nodiscard]] storage::KeptVersion kept() const;
     };
