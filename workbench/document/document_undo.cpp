@@ -40,7 +40,7 @@ std::optional<Deed> Document::undoable() const
     if (m_file.isEmpty())
         return std::nullopt;
     if (m_history.place() > 0)
-        return m_history.present().deed;
+        return m_history.present().leadingDeed();
     try {
         const KeptVersions versions(m_file);
         const KeptVersion present =
@@ -58,7 +58,7 @@ std::optional<Deed> Document::redoable() const
     if (m_file.isEmpty())
         return std::nullopt;
     if (m_history.place() + 1 < m_history.size())
-        return m_history.at(m_history.place() + 1).deed;
+        return m_history.at(m_history.place() + 1).leadingDeed();
     try {
         const KeptVersions versions(m_file);
         const KeptVersion *next =
@@ -108,7 +108,7 @@ Document::Recalled Document::recallStep(std::size_t place)
     if (!entry.content)
         m_history.setContent(place, versionOf(entry.kept()));
     const std::size_t last = place < m_history.place() ? place + 1 : place;
-    Recalled recalled = recallContent(entry, m_history.at(last).deed);
+    Recalled recalled = recallContent(entry, m_history.at(last).leadingDeed());
     m_goesTo = place;
     m_goesOff.reset();
     return recalled;

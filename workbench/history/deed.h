@@ -17,7 +17,7 @@ struct Deed {
 
 /// A state of the budget in this session.
 struct Step {
-    Deed deed;              ///< that led to it; the first has none, or only its line
+    Deed deed;              ///< that led to it; none for the state at opening
     QDateTime at;           ///< when, in UTC
     bool isPresent = false; ///< whether it is the budget in memory
 };

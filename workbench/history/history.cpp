@@ -23,6 +23,11 @@ QString History::Entry::name() const
     return mark.number > 0 ? QString::number(mark.number) : stepName(serial);
 }
 
+Deed History::Entry::leadingDeed() const
+{
+    return deed == Deed() ? Deed{mark.change, {}, {}} : deed;
+}
+
 bool History::Entry::isCalled(const QString &word) const
 {
     return word == name() || (serial > 0 && word == stepName(serial));
@@ -35,7 +40,7 @@ KeptVersion History::Entry::kept() const
 
 void History::begin(storage::Version version)
 {
-    Entry entry{Deed{version.mark.change, {}, {}}, version.mark, std::nullopt};
+    Entry entry{{}, version.mark, std::nullopt};
     entry.content.emplace(std::move(version));
     begin(std::move(entry));
 }

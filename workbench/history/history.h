@@ -19,7 +19,7 @@ class KIV_WORKBENCH_EXPORT History {
 public:
     /// A version of the budget.
     struct Entry {
-        Deed deed;                            ///< that led to it
+        Deed deed;                            ///< that led to it; none for the first
         storage::VersionMark mark;            ///< has a number once it was in the file
         std::optional<SharedVersion> content; ///< nothing: it is in the file at `path`
         QString path = {};                    ///< of a former version
@@ -33,6 +33,8 @@ public:
 
         /// How the user calls it: by its number, or "step-7".
         [[nodiscard]] QString name() const;
+        /// What led to it: the deed, or the line of the version.
+        [[nodiscard]] Deed leadingDeed() const;
         /// Whether the user means it: its name, or the one before it had a number.
         [[nodiscard]] bool isCalled(const QString &word) const;
         /// As one that is kept in a file.
