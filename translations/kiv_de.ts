@@ -5518,8 +5518,8 @@
         <translation>Was sich seitdem geändert hat:</translation>
     </message>
     <message>
-        <source>The budget is as it was then. Undo takes that back.</source>
-        <translation>Das Budget ist wieder wie damals. Rückgängig nimmt das zurück.</translation>
+        <source>The budget is as it was then. Undo and redo go on from there.</source>
+        <translation>Das Budget ist, wie es damals war. Rückgängig und Wiederholen gehen von dort weiter.</translation>
     </message>
 </context>
 <context>

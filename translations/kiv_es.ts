@@ -5518,8 +5518,8 @@
         <translation>Lo que cambió desde entonces:</translation>
     </message>
     <message>
-        <source>The budget is as it was then. Undo takes that back.</source>
-        <translation>El presupuesto está como entonces. Deshacer lo revierte.</translation>
+        <source>The budget is as it was then. Undo and redo go on from there.</source>
+        <translation>El presupuesto está como estaba entonces. Deshacer y rehacer continúan desde ahí.</translation>
     </message>
 </context>
 <context>
@@ -5726,7 +5726,7 @@
     </message>
     <message>
         <source>No.</source>
-        <translation>N.º</translation>
+        <translation>Núm.</translation>
     </message>
     <message>
         <source>Day</source>

@@ -83,6 +83,7 @@ public:
     {
         return m_whyReadOnly;
     }
+    /// Whether whyReadOnly() says why.
     [[nodiscard]] bool isReadOnly() const noexcept { return m_whyReadOnly.has_value(); }
     /// Saves the budget in memory as a new file. Throws a Refusal as refuseExisting()
     /// does. `change` names the change, see save().
@@ -94,6 +95,7 @@ public:
     /// cannot be saved, that is a warning. `change` names in a line what was changed, such
     /// as "Paid Rent"; the list of versions shows it.
     void save(const QString &change) { save(Deed{change, {}, {}}); }
+    /// The same, with what undo says and where it goes.
     void save(const Deed &deed);
     /// Saves the budget under another name, which is then the open file.
     void saveAs(const QString &file, const QString &change);
@@ -112,7 +114,9 @@ public:
         AtOnce,       ///< before they return; they throw what storing throws
         WithinASecond ///< within a second, while the program goes on; see kept()
     };
+    /// Chooses it. What is pending under the former one is still written.
     void setKeeping(Keeping keeping);
+    /// How it is kept now.
     [[nodiscard]] Keeping keeping() const noexcept { return m_keeping; }
     /// Whether the file holds the budget in memory.
     enum class Kept : std::uint8_t {
@@ -120,6 +124,7 @@ public:
         Saving,  ///< it will within a second
         NotSaved ///< writing failed; the next change or writeNow() tries again
     };
+    /// Saved while there is no file.
     [[nodiscard]] Kept kept() const;
     /// Why it is NotSaved, and what the user can choose.
     [[nodiscard]] std::optional<Trouble> whyNotSaved() const;

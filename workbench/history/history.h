@@ -48,11 +48,15 @@ public:
     void begin(storage::Version version);
     /// Forgets all, and begins with this one.
     void begin(Entry entry);
+    /// Whether no session has begun.
     [[nodiscard]] bool isEmpty() const noexcept { return m_entries.empty(); }
+    /// How many steps are kept.
     [[nodiscard]] std::size_t size() const noexcept { return m_entries.size(); }
     /// Which one is present.
     [[nodiscard]] std::size_t place() const noexcept { return m_place; }
+    /// The step that is the budget in memory.
     [[nodiscard]] const Entry &present() const { return m_entries.at(m_place); }
+    /// The step at this place, counted from 0. Throws std::out_of_range.
     [[nodiscard]] const Entry &at(std::size_t place) const { return m_entries.at(place); }
 
     /// Adds the budget as a step from the present one and makes it present; those behind

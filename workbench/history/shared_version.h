@@ -24,12 +24,16 @@ public:
     /// Whether the budget is this one.
     [[nodiscard]] bool has(const storage::BudgetStorage::Data &data) const;
 
+    /// The accounts and transactions.
     [[nodiscard]] const accounting::GeneralLedger &ledger() const noexcept { return m_ledger; }
+    /// The completed surveys.
     [[nodiscard]] const surveying::CompletedSurveys &surveys() const noexcept { return *m_surveys; }
+    /// What the surveys left behind.
     [[nodiscard]] const surveying::Reconciliations &reconciliations() const noexcept
     {
         return *m_reconciliations;
     }
+    /// What front ends remember.
     [[nodiscard]] const storage::Notes &notes() const noexcept { return *m_notes; }
 
 private:

@@ -26,7 +26,9 @@ class KIV_WORKBENCH_EXPORT Writer {
 public:
     /// A version to write.
     struct Job {
+        /// What is written.
         SharedVersion content;
+        /// What it tells about itself; a number of 0 is replaced.
         storage::VersionMark mark;
     };
     /// What happened meanwhile.

@@ -21,7 +21,9 @@ enum class AccountGroup : std::uint8_t {
 
 /// An account as a household sees it.
 struct KIV_WORKBENCH_EXPORT GroupedAccount {
+    /// The account.
     accounting::Account account;
+    /// Where it stands.
     AccountGroup group{};
     QString name; ///< the item's for an item's account, else its own
     std::optional<budgeting::BudgetItemIdentifier> item; ///< whose account it is

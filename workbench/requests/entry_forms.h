@@ -16,12 +16,17 @@ enum class EntryForm : std::uint8_t {
 
 /// A filled form.
 struct Entry {
+    /// Which form it is.
     EntryForm form = EntryForm::Spent;
+    /// As typed.
     Amount amount;
     accounting::AccountNumber own;   ///< where the money was, or for earned came to
     accounting::AccountNumber other; ///< what it was for, where it came from or went
+    /// Who was paid, or who paid; may be empty.
     QString payee;
+    /// What it was for; may be empty.
     QString reason;
+    /// On which it occurred.
     QDate day;
 };
 

@@ -23,6 +23,7 @@ enum class FilterKind : std::uint8_t {
 
 /// A part of a search, as a choice that can be shown and toggled.
 struct KIV_WORKBENCH_EXPORT FilterPart {
+    /// What it asks for.
     FilterKind kind = FilterKind::Words;
     QString value;           ///< without key, quotes and sign: "reconciled", ">50", "My Bank"
     bool isExcluded = false; ///< finds what the part does not fit

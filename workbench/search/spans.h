@@ -13,9 +13,12 @@ namespace kiv::workbench {
 
 /// Days from a first to a last; a missing end is open.
 struct DaySpan {
+    /// The first day; none for any before.
     std::optional<QDate> first;
+    /// The last day; none for any after.
     std::optional<QDate> last;
 
+    /// Whether the day lies within.
     [[nodiscard]] bool holds(QDate day) const;
 };
 
@@ -27,11 +30,15 @@ struct DaySpan {
 
 /// Amounts from a lowest to a highest; a missing end is open.
 struct AmountSpan {
+    /// The lowest amount; none for any below.
     std::optional<numira::Decimal> lowest;
+    /// The highest amount; none for any above.
     std::optional<numira::Decimal> highest;
     bool isStrict = false; ///< the ends themselves do not count
+    /// The only currency; none for every one.
     std::optional<numira::Currency> currency;
 
+    /// Whether the amount lies within.
     [[nodiscard]] bool holds(const numira::Money &amount) const;
 };
 

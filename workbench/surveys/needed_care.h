@@ -17,6 +17,7 @@ struct Care {
         Rates,             ///< missing ones
         Health             ///< of the budget
     };
+    /// What it is about.
     About about{};
     QString sentence;                                 ///< in the user's language
     std::optional<accounting::AccountNumber> account; ///< that it is about

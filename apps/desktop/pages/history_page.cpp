@@ -127,7 +127,7 @@ void HistoryPage::goBack()
         m_message->complain(m_table, workbench::userText(error));
         return;
     }
-    desk().say(tr("The budget is as it was then. Undo takes that back."));
+    desk().say(tr("The budget is as it was then. Undo and redo go on from there."));
 }
 
 } // namespace kiv::desktop

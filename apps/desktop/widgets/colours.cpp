@@ -92,7 +92,8 @@ QPalette paletteFor(Appearance appearance, const QPalette &system)
 
 double contrast(const QColor &one, const QColor &other)
 {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    // By value: the references of two temporaries would outlive them.
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
