@@ -97,7 +97,6 @@ void MainWindow::addPages()
         m_stack->addWidget(scroll);
         m_list->addItem(page->title());
     }
-    m_list->setMaximumWidth(m_list->sizeHintForColumn(0) + 3 * m_list->frameWidth() + 30);
     addPageActions();
 }
 
@@ -201,6 +200,12 @@ void MainWindow::applyLooks()
     else
         font.setPixelSize(font.pixelSize() * m_given.settings.textSize() / 100);
     QApplication::setFont(font);
+    // The list of pages is as wide as its longest name. It hears of the size only later.
+    const QFontMetrics letters(font);
+    int width = 0;
+    for (const Page *page : m_pages)
+        width = std::max(width, letters.horizontalAdvance(page->title()));
+    m_list->setFixedWidth(width + 3 * letters.averageCharWidth() + 2 * m_list->frameWidth());
     // Their colours are taken from the palette when they are shown.
     emit m_desk->refreshWanted();
 }

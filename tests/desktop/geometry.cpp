@@ -49,6 +49,9 @@ QStringList misfits(QWidget &root)
             if (left < 0 || left + widget->width() > side)
                 faults += described(*widget) + QStringLiteral(": beyond the side");
         }
+        if (const auto *list = qobject_cast<const QListWidget *>(widget);
+            list && list->horizontalScrollBar()->isVisible())
+            faults += described(*widget) + QStringLiteral(": its lines are cut off");
         // Only what a layout has put there; parts of a table or a combo box overlap rightly.
         const QWidget *parent = widget->parentWidget();
         if (!parent->layout() || parent->layout()->indexOf(widget) < 0)

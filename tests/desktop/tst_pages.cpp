@@ -251,6 +251,9 @@ private slots:
                  QStringList({u"Since the file was opened"_s, u"Paid Phone."_s, u"Paid Rent."_s,
                               u"As it was opened"_s}));
         table(home, "steps").choose(u"step 1"_s);
+        QTRY_VERIFY(table(home, "changes").isVisible());
+        QVERIFY(texts(home, 1, "changes").join(u' ').contains(u"Phone"_s));
+        QVERIFY(!texts(home, 1, "changes").join(u' ').contains(u"Rent"_s));
         press(home, Qt::Key_B, Qt::AltModifier);
         QCOMPARE(home.requests().transactions().size(), std::size_t{2});
         QCOMPARE(texts(home, 2, "steps").mid(1, 3), QStringList({{}, u"present"_s, {}}));

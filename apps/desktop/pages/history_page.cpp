@@ -83,15 +83,24 @@ void HistoryPage::follow()
 void HistoryPage::compare()
 {
     const HistoryTarget target = historyTarget(m_table->chosen().value(0));
-    if (target.version.isEmpty())
+    if (target.version.isEmpty() && !target.step)
         return;
     try {
-        const workbench::KeptVersions versions(desk().document().file());
-        showChanges(workbench::dataOf(versions.named(target.version)));
+        showChanges(thenOf(target));
     } catch (const foundation::Error &error) {
         m_difference->setText(workbench::userText(error));
         m_difference->show();
     }
+}
+
+BudgetStorage::Data HistoryPage::thenOf(const HistoryTarget &target) const
+{
+    const workbench::Document &document = desk().document();
+    if (!target.step)
+        return workbench::dataOf(workbench::KeptVersions(document.file()).named(target.version));
+    const workbench::History::Entry &step =
+        document.history().at(static_cast<std::size_t>(*target.step));
+    return step.content ? step.content->data() : workbench::dataOf(step.kept());
 }
 
 void HistoryPage::showChanges(const BudgetStorage::Data &then)

@@ -11,6 +11,7 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+struct HistoryTarget;
 class Table;
 class TableModel;
 
@@ -31,6 +32,8 @@ private:
     void follow();
     void compare();
     void goBack();
+    /// The budget as it was at the step or in the version.
+    [[nodiscard]] storage::BudgetStorage::Data thenOf(const HistoryTarget &target) const;
     void showChanges(const storage::BudgetStorage::Data &then);
 
     TableModel *m_model;
