@@ -11,8 +11,10 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTableView>
 
 #include <chrono>
@@ -30,10 +32,14 @@ double millisecondsSince(Clock::time_point begin)
     return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
 }
 
-/// A service that never answers.
-class SilentSender final : public networking::RequestSender {
+/// A service without rates, which answers at once: one that is waited for would keep the
+/// event loop in which the times are taken.
+class EmptySender final : public networking::RequestSender {
 public:
-    void send(networking::RequestNumber, const QUrl &) override {}
+    void send(networking::RequestNumber request, const QUrl &) override
+    {
+        emit answered(request, networking::Response::succeeded("{}", u"application/json"_s));
+    }
     void cancel(networking::RequestNumber) override {}
 };
 
@@ -89,7 +95,8 @@ accounting::Transaction entry(workbench::Requests &requests, int number)
     const accounting::Account &bank = *index.find(accounting::AccountNumber(1));
     const accounting::Account &other = *std::next(index.accounts().begin(), 5);
     return {QDate(2026, 3, 1), other.code(), bank.code(),
-            numira::Money(bank.balance().code(), number + 1), u"Market | entry %1"_s.arg(number)};
+            numira::Money(bank.balance().code(), number + 1, 0),
+            u"Market | entry %1"_s.arg(number)};
 }
 
 } // namespace
@@ -111,7 +118,7 @@ int main(int argc, char **argv)
     settings.setPage(u"register"_s);
     desktop::DialogQuestions questions;
     workbench::Document document(
-        {[] { return foundation::UniqueQtPtr<networking::RequestSender>(new SilentSender()); },
+        {[] { return foundation::UniqueQtPtr<networking::RequestSender>(new EmptySender()); },
          folder.filePath(u"rates"_s)});
     desktop::MainWindow window({document, settings, questions});
     if (!window.open(file))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QFrame>
 
 #include <functional>

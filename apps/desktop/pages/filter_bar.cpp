@@ -63,7 +63,7 @@ FilterBar::FilterBar(QWidget *parent)
     choices->addWidget(m_result, 1);
 
     m_delay.setSingleShot(true);
-    m_delay.setInterval(120ms);
+    m_delay.setInterval(50ms);
     connect(&m_delay, &QTimer::timeout, this, &FilterBar::search);
     connect(m_field, &QLineEdit::textChanged, this, [this] { m_delay.start(); });
     const auto follow = [this](QComboBox *choice, FilterKind kind) {
