@@ -5341,8 +5341,8 @@
         <translation>Woanders gespeichert</translation>
     </message>
     <message>
-        <source>Undone:</source>
-        <translation>Rückgängig gemacht:</translation>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
     </message>
     <message>
         <source>The last changes are not saved. %1</source>

@@ -5341,8 +5341,8 @@
         <translation>Guardado en otro lugar</translation>
     </message>
     <message>
-        <source>Undone:</source>
-        <translation>Deshecho:</translation>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
     </message>
     <message>
         <source>The last changes are not saved. %1</source>

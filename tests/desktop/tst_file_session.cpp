@@ -8,6 +8,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
@@ -103,6 +104,41 @@ private slots:
         QVERIFY(notices(desk).join(u' ').contains(u"none.budget"_s));
     }
 
+    void changesCanBeGivenUpForAnotherFile()
+    {
+        HouseholdWindow desk;
+        QVERIFY(QDir().mkpath(desk.path(u"disk"_s)));
+        begin(desk, u"disk/other"_s);
+        begin(desk, u"disk/home"_s);
+        desk.questions().files = {desk.path(u"spare"_s)};
+        desk.trigger("saveCopy");
+        addAccount(desk.document(), u"Food"_s);
+        desk.trigger("save");
+        QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
+        addAccount(desk.document(), u"Books"_s);
+        desk.questions().choices = {2};
+        QVERIFY(desk.window().open(desk.path(u"spare"_s)));
+        QVERIFY(!has(desk.document(), u"Food"_s));
+        QCOMPARE(desk.window().windowTitle(), u"spare (saved)"_s);
+    }
+
+    void aDamagedFileIsBroughtBack()
+    {
+        HouseholdWindow desk;
+        begin(desk, u"lost"_s); // which keeps a former version
+        begin(desk, u"home"_s);
+        const QString file = desk.path(u"lost.budget"_s);
+        QVERIFY(QFile::resize(file, QFileInfo(file).size() - 1));
+        QVERIFY(!desk.window().open(file));
+        QVERIFY(has(desk.document(), u"Rent"_s));
+        auto *choice = buttonOfNotice(desk, u"Bring the newest whole version back"_s);
+        QVERIFY(choice);
+        choice->click();
+        QCOMPARE(desk.window().windowTitle(), u"lost (saved)"_s);
+        QCOMPARE(notices(desk), QStringList());
+        QVERIFY(!has(desk.document(), u"Rent"_s)); // the version before it
+    }
+
     void aFileThatIsOpenElsewhereIsForReading()
     {
         HouseholdWindow first;
@@ -133,11 +169,17 @@ private slots:
         desk.questions().choices = {std::nullopt};
         QVERIFY(!desk.window().close());
         QCOMPARE(desk.questions().asked.size(), 1);
+        // Whoever gives the changes up still has them until the other file is open.
+        desk.questions().choices = {2};
+        QVERIFY(!desk.window().open(desk.path(u"none"_s)));
+        QVERIFY(has(desk.document(), u"Books"_s));
+        QTRY_COMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
 
         QVERIFY(QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
         desk.trigger("save");
         QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
-        QCOMPARE(notices(desk), QStringList());
+        QCOMPARE(notices(desk).size(), 1); // of the file that was not there
+        QVERIFY(notices(desk).first().contains(u"none.budget"_s));
         QCOMPARE(savedAccounts(desk.path(u"disk/home.budget"_s)),
                  (QStringList{u"Rent"_s, u"Food"_s, u"Books"_s}));
     }

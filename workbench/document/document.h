@@ -68,6 +68,9 @@ public:
     /// Opens a file. Throws what the storage throws, or a Refusal as refuseUnsaved()
     /// does; the open file then stays open.
     void open(const QString &file, Access access = Access::Change);
+    /// As open(), but gives the changes up that could not be saved. If opening fails, they
+    /// are as before.
+    void openGivingUp(const QString &file, Access access);
     /// Opens the file again as it is on the disk now, and gives up the budget in memory.
     /// Throws what the storage throws, and changes nothing then.
     void reload();

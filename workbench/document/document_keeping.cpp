@@ -149,6 +149,12 @@ void Document::saveCopy(const QString &file)
 
 void Document::reload()
 {
+    openGivingUp(m_file, m_access);
+}
+
+void Document::openGivingUp(const QString &file, Access access)
+{
+    const QString path = withExtension(file);
     std::optional<Writer::Job> unwritten;
     if (writer())
         unwritten = writer()->withdraw();
@@ -156,8 +162,9 @@ void Document::reload()
         if (unwritten)
             writer()->submit(*unwritten);
     });
-    load(m_file, m_access);
+    load(path, access);
     again.dismiss();
+    m_file = path;
     if (writer())
         writer()->forget();
     begin();

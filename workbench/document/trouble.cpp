@@ -51,7 +51,7 @@ Trouble troubleOfSaving(const std::exception &error)
     using enum storage::StorageFailure;
     const auto *stored = dynamic_cast<const storage::StorageError *>(&error);
     if (!stored)
-        return {userText(error), {Remedy::TryAgain, Remedy::SaveElsewhere}};
+        return {userText(error), remedyOf(error)};
     switch (stored->failure()) {
     case ChangedOnDisk:
         return {userText(error), {Remedy::SaveElsewhere, Remedy::Reload}};

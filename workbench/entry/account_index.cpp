@@ -52,6 +52,12 @@ bool keepsMoney(const Account &account)
     return account.type() == Asset || account.type() == Liability;
 }
 
+bool canBeSpentOn(const Account &account)
+{
+    return account.type() == accounting::AccountTypes::Expense ||
+           (isItemAccount(account) && keepsMoney(account));
+}
+
 QString plainNameOf(const Account &account)
 {
     const QString &name = account.code().name();

@@ -95,6 +95,8 @@ private:
 /// Whether the account is the household's own: an asset, or a liability. Money is spent from
 /// such accounts, and earned to them.
 [[nodiscard]] KIV_WORKBENCH_EXPORT bool keepsMoney(const accounting::Account &account);
+/// Whether money is spent on it: an expense, or the account of a debt or a goal.
+[[nodiscard]] KIV_WORKBENCH_EXPORT bool canBeSpentOn(const accounting::Account &account);
 /// The name as a household knows it: without the mark of an item's account.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString plainNameOf(const accounting::Account &account);
 /// The text with the names of items in place of those of their accounts.

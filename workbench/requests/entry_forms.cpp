@@ -22,12 +22,6 @@ bool isOwn(const AccountIndex &index, AccountNumber number)
     return account && keepsMoney(*account);
 }
 
-bool canBeSpentOn(const Account &account)
-{
-    return account.type() == AccountTypes::Expense ||
-           (isItemAccount(account) && keepsMoney(account));
-}
-
 bool fits(EntryForm form, const Account &account)
 {
     switch (form) {

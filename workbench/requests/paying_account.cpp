@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/paying_account.h"
 
+#include "workbench/entry/account_index.h"
+
 #include "budgeting/item_traits.h"
 
 #include <stdexcept>
@@ -14,26 +16,18 @@ using storage::BudgetStorage;
 
 namespace {
 
-/// Whether money can be paid from the account.
-bool canPay(const accounting::GeneralLedger &ledger, AccountNumber number)
-{
-    if (!ledger.hasLedger(number))
-        return false;
-    using enum accounting::AccountTypes;
-    const accounting::LedgerAccount account = ledger.ledger(number);
-    return !account.isClosed() && (account.type() == Asset || account.type() == Liability);
-}
-
-std::optional<AccountNumber> lastUsed(const accounting::GeneralLedger &ledger, AccountNumber item)
+std::optional<AccountNumber> lastUsed(const accounting::Account &item,
+                                      const std::function<bool(AccountNumber)> &canPay)
 {
     std::optional<AccountNumber> last;
     QDate day;
-    for (const Transaction &transaction : ledger.ledger(item).transactions()) {
-        const AccountNumber other = transaction.debiting().number() == item
+    const AccountNumber own = item.code().number();
+    for (const Transaction &transaction : item.transactions()) {
+        const AccountNumber other = transaction.debiting().number() == own
                                         ? transaction.crediting().number()
                                         : transaction.debiting().number();
         // Of one day the transaction with the highest number counts, which comes last.
-        if ((!day.isValid() || transaction.occurredOn() >= day) && canPay(ledger, other)) {
+        if ((!day.isValid() || transaction.occurredOn() >= day) && canPay(other)) {
             last = other;
             day = transaction.occurredOn();
         }
@@ -41,13 +35,14 @@ std::optional<AccountNumber> lastUsed(const accounting::GeneralLedger &ledger, A
     return last;
 }
 
-std::optional<AccountNumber> firstChecking(const BudgetStorage::Data &data)
+std::optional<AccountNumber> firstChecking(const banking::BankMap &banks,
+                                           const std::function<bool(AccountNumber)> &canPay)
 {
     std::optional<AccountNumber> first;
-    for (const auto &[name, bank] : data.banks) {
+    for (const auto &[name, bank] : banks) {
         for (const auto &[number, type] : bank.accounts()) {
             if (type == banking::BankAccountTypes::Checking && (!first || number < *first) &&
-                canPay(data.generalLedger, number))
+                canPay(number))
                 first = number;
         }
     }
@@ -55,6 +50,17 @@ std::optional<AccountNumber> firstChecking(const BudgetStorage::Data &data)
 }
 
 } // namespace
+
+std::optional<AccountNumber> usualPayer(const accounting::Account *item,
+                                        const banking::BankMap &banks,
+                                        const std::function<bool(AccountNumber)> &canPay)
+{
+    if (item) {
+        if (const auto last = lastUsed(*item, canPay))
+            return last;
+    }
+    return firstChecking(banks, canPay);
+}
 
 std::optional<AccountNumber> accountOf(const BudgetStorage::Data &data,
                                        const BudgetItemIdentifier &item)
@@ -73,14 +79,20 @@ std::optional<AccountNumber> payingAccount(const BudgetStorage::Data &data,
                                            const BudgetItemIdentifier &item,
                                            std::optional<AccountNumber> said)
 {
-    if (said && canPay(data.generalLedger, *said))
+    const accounting::GeneralLedger &ledger = data.generalLedger;
+    const auto canPay = [&ledger](AccountNumber number) {
+        if (!ledger.hasLedger(number))
+            return false;
+        const accounting::LedgerAccount account = ledger.ledger(number);
+        return !account.isClosed() && keepsMoney(account);
+    };
+    if (said && canPay(*said))
         return said;
     const std::optional<AccountNumber> own = accountOf(data, item);
-    if (own && data.generalLedger.hasLedger(*own)) {
-        if (const auto last = lastUsed(data.generalLedger, *own))
-            return last;
-    }
-    return firstChecking(data);
+    std::optional<accounting::LedgerAccount> account;
+    if (own && ledger.hasLedger(*own))
+        account = ledger.ledger(*own);
+    return usualPayer(account ? &*account : nullptr, data.banks, canPay);
 }
 
 } // namespace kiv::workbench

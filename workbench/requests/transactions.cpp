@@ -4,6 +4,7 @@
 #include "workbench/entry/description.h"
 #include "workbench/internal/faults.h"
 #include "workbench/requests/other_day.h"
+#include "workbench/requests/paying_account.h"
 
 #include "foundation/clock.h"
 
@@ -88,7 +89,7 @@ TransactionNumber spend(Requests &requests, const Spent &spent)
 {
     const AccountIndex index = requests.accounts();
     const Account &on = index.find(spent.on);
-    if (on.type() != AccountTypes::Expense && !(isItemAccount(on) && keepsMoney(on)))
+    if (!canBeSpentOn(on))
         throw internal::notSpentOn(index.plainName(on.code().number()));
     const Account &from = payingAccount(requests, index, spent.from, on);
     if (!keepsMoney(from))
@@ -115,34 +116,10 @@ TransactionNumber earn(Requests &requests, const Earned &earned)
 std::optional<AccountNumber> paidFrom(Requests &requests, const Account &item)
 {
     const AccountIndex index = requests.accounts();
-    const auto usable = [&index](AccountNumber number) {
+    return usualPayer(&item, requests.banks(), [&index](AccountNumber number) {
         const Account *account = index.find(number);
         return account && !account->isClosed() && keepsMoney(*account);
-    };
-    std::pair<QDate, TransactionNumber> newest;
-    std::optional<AccountNumber> paying;
-    const AccountNumber own = item.code().number();
-    for (const Transaction &transaction : item.transactions()) {
-        const std::pair place(transaction.occurredOn(), transaction.number().value());
-        const AccountNumber other = transaction.debiting().number() == own
-                                        ? transaction.crediting().number()
-                                        : transaction.debiting().number();
-        if ((!paying || newest < place) && usable(other)) {
-            newest = place;
-            paying = other;
-        }
-    }
-    if (paying)
-        return paying;
-    std::set<AccountNumber> checking;
-    const banking::BankMap banks = requests.banks();
-    for (const banking::BankName &name : banks.names()) {
-        for (const auto &[number, type] : banks.bank(name).accounts()) {
-            if (type == banking::BankAccountTypes::Checking && usable(number))
-                checking.insert(number);
-        }
-    }
-    return checking.empty() ? std::nullopt : std::optional(*checking.begin());
+    });
 }
 
 TransactionNumber refund(Requests &requests, TransactionNumber number, const Amount &amount,

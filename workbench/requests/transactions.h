@@ -55,8 +55,7 @@ struct Earned {
 KIV_WORKBENCH_EXPORT accounting::TransactionNumber earn(Requests &requests, const Earned &earned);
 
 /// The account from which something is paid, or to which a wage comes: the asset or liability
-/// that was on the other side of its newest transaction; else the first open checking account
-/// of a bank. None if there is none.
+/// that usualPayer() finds. None if there is none.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<accounting::AccountNumber>
 paidFrom(Requests &requests, const accounting::Account &item);
 

@@ -89,11 +89,15 @@ bool FileSession::open(const QString &file)
 {
     Document &document = m_desk.document();
     // What was changed until now must not be lost for it.
-    if (!mayClose())
+    const Leaving leaving = leave();
+    if (leaving == Leaving::Not)
         return false;
     const QString path = Document::withExtension(QFileInfo(file).absoluteFilePath());
     try {
-        document.open(path, Document::Access::ChangeIfPossible);
+        if (leaving == Leaving::GivingUp)
+            document.openGivingUp(path, Document::Access::ChangeIfPossible);
+        else
+            document.open(path, Document::Access::ChangeIfPossible);
     } catch (const foundation::Error &error) {
         tell(openingNotice, workbench::troubleOfOpening(path, error), path);
         return false;
@@ -122,7 +126,8 @@ void FileSession::settle()
 
 void FileSession::makeNew()
 {
-    if (!mayClose())
+    // A new budget has no place to come back from, so nothing is given up for it.
+    if (leave() != Leaving::Saved)
         return;
     const QString file = m_desk.questions().fileToMake(m_window, tr("New budget"));
     if (file.isEmpty())
@@ -169,7 +174,7 @@ void FileSession::undo()
 {
     attempt(QStringLiteral("undo"), [this] {
         const Document::Recalled recalled = m_desk.document().undo();
-        m_desk.say(undoText(tr("Undone:"), workbench::Deed{recalled.deed.line, {}, {}}));
+        m_desk.say(tr("Undone: %1").arg(recalled.deed.line));
         if (!recalled.deed.place.isEmpty())
             m_desk.goTo(Place::fromText(recalled.deed.place));
     });
@@ -194,8 +199,11 @@ void FileSession::reload()
 void FileSession::bringBack(const QString &file)
 {
     const bool isBack = attempt(openingNotice, [&] {
-        m_desk.document().openLost(file);
-        m_desk.document().undo();
+        Document &document = m_desk.document();
+        document.openLost(file);
+        auto back = qScopeGuard([&document] { document.revert(); }); // to the one that was open
+        document.undo();
+        back.dismiss();
     });
     if (isBack)
         settle();
@@ -203,19 +211,24 @@ void FileSession::bringBack(const QString &file)
 
 bool FileSession::mayClose()
 {
+    return leave() != Leaving::Not;
+}
+
+FileSession::Leaving FileSession::leave()
+{
     Document &document = m_desk.document();
     while (true) {
         try {
             document.writeNow();
-            return true;
+            return Leaving::Saved;
         } catch (const foundation::Error &error) {
             const std::optional<qsizetype> answer = m_desk.questions().choose(
                 m_window, tr("The last changes are not saved. %1").arg(workbench::userText(error)),
                 {tr("Try again"), tr("Save elsewhere …"), tr("Give the changes up")});
             if (!answer)
-                return false;
+                return Leaving::Not;
             if (*answer == 2)
-                return true;
+                return Leaving::GivingUp;
             if (*answer == 1)
                 saveElsewhere();
         }

@@ -30,6 +30,10 @@ signals:
     void keptChanged();
 
 private:
+    /// How the budget in memory is left.
+    enum class Leaving : std::uint8_t { Not, Saved, GivingUp };
+    /// Writes what is pending, and asks only if that failed.
+    [[nodiscard]] Leaving leave();
     void addActions();
     /// Stores the present settings, so that preferences exist.
     void storePreferences();
