@@ -78,6 +78,19 @@ public:
         QApplication::setActiveWindow(&m_window);
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
     }
+    /// Shows each page, and each part of it.
+    template <typename Look>
+    void lookAtAll(Look &&look)
+    {
+        for (kiv::desktop::Page *page : m_window.pages()) {
+            for (const QString &part : QStringList{QString()} + page->parts()) {
+                const kiv::desktop::Place place{page->id(), part};
+                m_window.goTo(place);
+                QCoreApplication::processEvents();
+                look(*page, place.text().replace(u'/', u' '));
+            }
+        }
+    }
     /// Triggers an action as its keys do.
     void trigger(const QByteArray &action)
     {

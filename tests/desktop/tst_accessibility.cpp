@@ -98,12 +98,11 @@ private slots:
             for (const QString &fault : found)
                 faults += page + QStringLiteral(": ") + fault;
         };
-        for (desktop::Page *page : desk.window().pages()) {
-            desk.window().goTo({page->id(), {}});
-            note(page->id(), nameless(desk.window()));
-            note(page->id(), mnemonicsTwice(desk.window()));
-            note(page->id(), unreached(*page, *page->firstFocus()));
-        }
+        desk.lookAtAll([&](desktop::Page &page, const QString &place) {
+            note(place, nameless(desk.window()));
+            note(place, mnemonicsTwice(desk.window()));
+            note(place, unreached(page, *page.firstFocus()));
+        });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 

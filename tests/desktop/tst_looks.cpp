@@ -64,13 +64,11 @@ private slots:
         desk.window().resize(size);
         desk.show();
         QStringList faults;
-        for (desktop::Page *page : desk.window().pages()) {
-            desk.window().goTo({page->id(), {}});
-            QCoreApplication::processEvents();
+        desk.lookAtAll([&](desktop::Page &, const QString &place) {
             for (const QString &fault : misfits(desk.window()))
-                faults += page->id() + QStringLiteral(": ") + fault;
-            picture(desk.window(), page->id());
-        }
+                faults += place + QStringLiteral(": ") + fault;
+            picture(desk.window(), place);
+        });
         QVERIFY2(desk.window().size() == size, "The window grows beyond the screen.");
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }

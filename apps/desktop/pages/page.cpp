@@ -24,6 +24,11 @@ QString Page::detail() const
     return {};
 }
 
+QStringList Page::parts() const
+{
+    return {};
+}
+
 void Page::bringUpToDate()
 {
     if (!std::exchange(m_isStale, false) || m_desk.document().file().isEmpty())

@@ -24,6 +24,8 @@ public:
     virtual void goTo(const QString &detail);
     /// What is shown, so that goTo() brings it back.
     [[nodiscard]] virtual QString detail() const;
+    /// The parts of the page that look different from how it opens, in the words of goTo().
+    [[nodiscard]] virtual QStringList parts() const;
     /// The widget that gets the focus when the page is shown.
     [[nodiscard]] virtual QWidget *firstFocus() = 0;
 

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pages/form.h"
+
+#include "widgets/allow.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+namespace kiv::desktop {
+
+Form::Form(Desk &desk, QWidget *parent)
+    : QWidget(parent),
+      m_desk(desk),
+      m_heading(new QLabel(this)),
+      m_fields(new QFormLayout),
+      m_message(new FieldMessage(this)),
+      m_row(new QHBoxLayout)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_heading->setTextFormat(Qt::PlainText);
+    m_heading->setWordWrap(true);
+    m_heading->hide();
+    m_message->setObjectName(QStringLiteral("message"));
+    layout->addWidget(m_heading);
+    layout->addLayout(m_fields);
+    layout->addWidget(m_message);
+    layout->addLayout(m_row);
+    m_row->addStretch();
+    // A label stands above a field that would otherwise be cut off.
+    m_fields->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    m_fields->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+}
+
+void Form::setHeading(const QString &heading)
+{
+    m_heading->setText(heading);
+    m_heading->show();
+    setAccessibleName(heading);
+}
+
+void Form::addField(const QString &id, const QString &label, QWidget *field)
+{
+    field->setObjectName(id);
+    field->setParent(this);
+    // The widest field makes room for all.
+    field->setSizePolicy(QSizePolicy::Expanding, field->sizePolicy().verticalPolicy());
+    m_fields->addRow(label, field);
+}
+
+void Form::setShown(QWidget &field, bool isShown)
+{
+    m_fields->setRowVisible(&field, isShown);
+}
+
+void Form::setLabel(QWidget &field, const QString &label)
+{
+    if (auto *shown = qobject_cast<QLabel *>(m_fields->labelForField(&field)))
+        shown->setText(label);
+}
+
+QPushButton *Form::addButton(const QString &id, const QString &text,
+                             const std::function<void()> &run)
+{
+    auto *button = new QPushButton(text, this);
+    button->setObjectName(id);
+    connect(button, &QPushButton::clicked, this, run);
+    m_row->insertWidget(static_cast<int>(m_buttons.size()), button);
+    m_buttons += button;
+    return button;
+}
+
+void Form::allow(const std::optional<QString> &whyNot)
+{
+    for (int row = 0; row < m_fields->rowCount(); ++row) {
+        if (QLayoutItem *item = m_fields->itemAt(row, QFormLayout::FieldRole))
+            desktop::allow(*item->widget(), whyNot);
+    }
+    for (QPushButton *button : m_buttons)
+        desktop::allow(*button, whyNot);
+}
+
+bool Form::perform(QWidget &field, const workbench::Deed &deed, const std::function<void()> &work)
+{
+    return m_desk.perform(*m_message, &field, deed, work);
+}
+
+void Form::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+        auto *button = qobject_cast<QPushButton *>(focusWidget());
+        if (!button)
+            button = m_buttons.value(0);
+        if (button)
+            button->click();
+        return;
+    }
+    case Qt::Key_Escape:
+        m_message->withdraw();
+        emit givenUp();
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace kiv::desktop
