@@ -237,25 +237,55 @@ Bad surveys change nothing:
   kiv: The account 'Rent [Budget Item]' is not assigned to a bank; assign it with kiv bank-account attach.
   [1]
 
-The wizard makes a budget of a template's items:
+The wizard makes a budget of those of a template's items that get amounts, all of them due in
+days to come:
 
   $ start() {
   >     kiv --file start wizard --template teenager --bank First --account Savings \
   >         --type savings --balance 12.50 --currency EUR "$@"
   > }
-  $ start --json >items
-  $ jq -c '[length, .[0].name]' items
-  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
-  $ kiv templates show teenager --json | jq -c '[length, .[0].name]'
-  [25,"Car Maintenance (oil change, repair, washing, etc.)"]
+  $ coming() { jq -c 'map(.next > (now | strftime("%F"))) | [length, all]'; }
+  $ kiv templates show teenager --json >items
+  $ coming <items
+  [25,true]
+  $ start --item 'Mobile carrier=5'
+  kiv: The template has several items 'Mobile carrier'; write one of: bill:Mobile carrier, goal:Mobile carrier.
+  [2]
+  $ start --item 'Petrl=5'
+  kiv: The template has no item 'Petrl'; did you mean 'Petrol'?
+  [2]
+  $ start --item 'Petrol=5' --item 'bill:Petrol=6'
+  kiv: 'bill:Petrol' is given twice.
+  [2]
+  $ start --item 'Petrol=5 of 7'
+  kiv: 'Petrol' is no goal, and has no target.
+  [2]
+  $ start --item '=5'
+  kiv: '=5' is not of the form NAME=VALUE.
+  [2]
+  $ start --item 'goal:Mobile carrier=5 of 300 2024-02-29' --item Petrol=20.50 --json >made
+  $ coming <made
+  [2,true]
+  $ jq -c '.[] | [.name, .amount.amount, .target.amount, .bank]' made
+  ["Petrol","20.50",null,null]
+  ["Mobile carrier","5.00","300.00","First"]
+  $ kiv history --file start --json | jq length
+  1
   $ kiv accounts --file start --json | jq -c '[length, .[0]]'
-  [27,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]
+  [4,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]
   $ start
   kiv: The file 'start.budget' exists already; choose another name.
   [1]
-  $ kiv wizard other --template teenager --bank A --account B --type credit-card
-  kiv: The budget could not be created. Failure making the goal bank account association. Caused by: The account '22 Emergencies' of type Asset cannot stand under the account '1 B' of type Liability.
+  $ kiv wizard none --template teenager --bank A --account B
+  There are no budget items.
+  Created the budget 'none.budget'.
+  Give its items amounts, such as --item 'Allowance=100'; those without one are left out.
+  $ kiv wizard other --template teenager --bank A --account B --type credit-card --item Car=5
+  kiv: The goal 'Car' could not be added. Failure making the goal bank account association. Caused by: The account '2 Car' of type Asset cannot stand under the account '1 B' of type Liability.
   [1]
-  $ kiv wizard other --template teenager --bank A --account "$(jq -r '.[0].name' items)"
-  kiv: The budget could not be created. The budget item has the same name as an existing ledger account.
+  $ kiv wizard other --template teenager --bank A --account Petrol --item Petrol=1 --currency JPY
+  kiv: The bill 'Petrol' could not be added. The budget item has the same name as an existing ledger account.
   [1]
+  $ kiv configure show | grep JPY
+  Preferred currency              JPY
+  Usable currencies               JPY, USD, EUR

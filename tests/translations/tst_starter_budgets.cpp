@@ -2,7 +2,7 @@
 #include "support/suite.h"
 
 #include "navigation/currency_display.h"
-#include "navigation/internal/budget_item_generator.h"
+#include "navigation/starter_items.h"
 
 #include <QtCore/QTranslator>
 #include <set>
@@ -34,16 +34,12 @@ private slots:
              {BudgetWizardTemplates::Teenager, BudgetWizardTemplates::AdultSingle,
               BudgetWizardTemplates::AdultMarriedSingleIncome,
               BudgetWizardTemplates::AdultMarriedDoubleIncome}) {
-            std::set<std::pair<kiv::budgeting::BudgetItemTypes, QString>> names;
-            std::size_t count = 0;
-            const auto generator = kiv::navigation::internal::makeBudgetItemGenerator(
-                household, numira::toCurrency("EUR"));
-            for (const auto &[item, isTied] : generator->generate()) {
-                names.emplace(kiv::budgeting::toBudgetItemTypes(*item), item->source().name());
-                ++count;
-            }
-            QVERIFY(count > 20);
-            QCOMPARE(names.size(), count);
+            std::set<kiv::budgeting::BudgetItemIdentifier> names;
+            const auto items = starterItems(household, numira::toCurrency("EUR"));
+            for (const kiv::navigation::StarterItem &item : items)
+                names.insert(item.id);
+            QVERIFY(items.size() > 20);
+            QCOMPARE(names.size(), items.size());
         }
         for (const auto option : {kiv::navigation::CurrencyDisplayOptions::IsoCode,
                                   kiv::navigation::CurrencyDisplayOptions::Symbol,

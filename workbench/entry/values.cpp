@@ -209,4 +209,12 @@ void readValue(const QString &text, foundation::Percentage &value)
     value = foundation::Percentage(rate, 6);
 }
 
+std::pair<QString, QString> assignment(const QString &text)
+{
+    const qsizetype at = text.lastIndexOf(u'=');
+    if (at <= 0 || at + 1 == text.size())
+        throw notAnAssignment(text);
+    return {text.first(at), text.sliced(at + 1)};
+}
+
 } // namespace kiv::workbench

@@ -17,6 +17,7 @@
 
 #include <chrono>
 #include <optional>
+#include <utility>
 
 /// Reads typed values. Each readValue throws an EntryError that says what was expected,
 /// and then leaves the value unchanged.
@@ -72,6 +73,10 @@ KIV_WORKBENCH_EXPORT void readValue(const QString &text, std::chrono::days &valu
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, std::chrono::hours &value);
 /// "2.75" or "2.75%", with the user's decimal mark or a point.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, foundation::Percentage &value);
+
+/// The two sides of a text such as "NAME=VALUE", parted at its last sign. Throws an EntryError
+/// if one of them is empty.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::pair<QString, QString> assignment(const QString &text);
 
 /// As the value itself.
 template <typename T>

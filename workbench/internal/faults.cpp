@@ -279,6 +279,13 @@ Refusal starterFailed(const QString &reason)
     return Refusal(withReason(QObject::tr("The budget could not be created."), reason));
 }
 
+Refusal starterItemFailed(budgeting::BudgetItemTypes kind, const QString &name,
+                          const QString &reason)
+{
+    return Refusal(withReason(
+        QObject::tr("The %1 '%2' could not be added.").arg(kindText(kind), name), reason));
+}
+
 Refusal cannotRead(const QString &path, const QString &reason)
 {
     return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));

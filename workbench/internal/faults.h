@@ -81,6 +81,8 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal openedForReading();
 /// With the reason, if one is known.
 [[nodiscard]] Refusal starterFailed(const QString &reason);
+[[nodiscard]] Refusal starterItemFailed(budgeting::BudgetItemTypes kind, const QString &name,
+                                        const QString &reason);
 
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);

@@ -58,6 +58,8 @@ Item merged(const Item &present, const ItemValues &given)
     // In a short month, an item keeps the day of the month that it was given.
     if (!given.next)
         made.setDayOfMonth(present.dayOfMonth());
+    if (given.dayOfMonth)
+        made.setDayOfMonth(*given.dayOfMonth);
     return made;
 }
 

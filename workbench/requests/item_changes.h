@@ -11,13 +11,15 @@ namespace kiv::workbench {
 
 /// The given values of an item besides its name.
 struct ItemValues {
-    std::optional<Amount> amount;                    ///< each time
-    std::optional<budgeting::EventFrequency> every;  ///< how often
-    std::optional<QDate> next;                       ///< the next due date
+    std::optional<Amount> amount;                   ///< each time
+    std::optional<budgeting::EventFrequency> every; ///< how often
+    std::optional<QDate> next;                      ///< the next due date
     std::optional<Amount> extra;                     ///< the borrowed amount, or the target
     std::optional<tagging::Tags> tags;               ///< all tags, possibly none
     std::optional<banking::BankAccount> bankAccount; ///< of a debt or goal
     bool isUntied = false;                           ///< removes the link to the bank account
+    /// The day of the month on which it is due, where the month of `next` is too short for it.
+    std::optional<int> dayOfMonth = {};
 };
 
 /// Adds an item, and returns its kind and name. What is missing is an amount of zero in the

@@ -22,11 +22,9 @@ struct Assignment {
 
 Assignment readAssignment(const QString &text)
 {
-    const qsizetype at = text.lastIndexOf(u'=');
-    if (at < 1)
-        throw notAnAssignment(text);
-    Assignment read{text.first(at), {}};
-    readValue(text.sliced(at + 1), read.amount);
+    const auto [name, value] = assignment(text);
+    Assignment read{name, {}};
+    readValue(value, read.amount);
     return read;
 }
 

@@ -11,18 +11,6 @@ namespace kiv::app {
 using interchange::CsvProfile;
 using interchange::DecimalMark;
 
-namespace {
-
-std::pair<QString, QString> assignment(const QString &text)
-{
-    const qsizetype at = text.lastIndexOf(u'=');
-    if (at <= 0 || at + 1 == text.size())
-        throw workbench::notAnAssignment(text);
-    return {text.left(at), text.mid(at + 1)};
-}
-
-} // namespace
-
 void ImportOptions::declare(Arguments &arguments)
 {
     arguments.required("FILE", file, QObject::tr("File; - for standard input"))
@@ -197,11 +185,11 @@ interchange::JournalOptions ImportOptions::journal(const numira::Currency &prefe
     options.preferred = preferred;
     options.encoding = m_encoding;
     for (const QString &text : m_commodities) {
-        const auto [name, code] = assignment(text);
+        const auto [name, code] = workbench::assignment(text);
         readValue(code, options.commodities[name]);
     }
     for (const QString &text : m_roots) {
-        const auto [root, type] = assignment(text);
+        const auto [root, type] = workbench::assignment(text);
         readValue(type, options.roots[root.toLower()]);
     }
     options.include = workbench::JournalFiles(file == u"-" ? QString() : file);

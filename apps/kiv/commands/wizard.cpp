@@ -11,6 +11,7 @@
 namespace kiv::app {
 
 using navigation::BudgetWizardTemplates;
+using workbench::StarterChoice;
 
 namespace {
 
@@ -45,6 +46,79 @@ void readValue(const QString &text, TemplateArgument &argument)
     throw notAChoice(text, choices);
 }
 
+/// An amount for an item of the template: "Rent=1250", "goal:Car=50 of 900 2026-12-01".
+struct ItemArgument {
+    QString item; ///< as typed
+    Amount amount;
+    std::optional<Amount> target;
+    std::optional<QDate> day;
+};
+
+constexpr const char *valueWord(const ItemArgument *)
+{
+    return "ITEM=AMOUNT";
+}
+
+/// Takes the day at the end, if there is one.
+std::optional<QDate> takeDay(QStringList &words)
+{
+    std::optional<QDate> day;
+    if (words.size() < 2)
+        return day;
+    try {
+        workbench::readValue(words.back(), day);
+        words.removeLast();
+    } catch (const EntryError &) {
+        // It belongs to the amount.
+    }
+    return day;
+}
+
+void readValue(const QString &text, ItemArgument &argument)
+{
+    const auto [item, value] = workbench::assignment(text);
+    QStringList words = value.split(u' ', Qt::SkipEmptyParts);
+    argument.item = item;
+    argument.day = takeDay(words);
+    const qsizetype of = words.indexOf(QStringLiteral("of"));
+    if (of >= 0)
+        workbench::readValue(words.sliced(of + 1).join(u' '), argument.target);
+    workbench::readValue(words.first(of < 0 ? words.size() : of).join(u' '), argument.amount);
+}
+
+/// The item that is named, possibly with its kind: "goal:Car".
+StarterChoice &chosen(std::vector<StarterChoice> &choices, const QString &text)
+{
+    const auto [kind, name] = workbench::withKind(text);
+    std::vector<StarterChoice *> found;
+    QStringList ways;
+    QStringList known;
+    for (StarterChoice &choice : choices) {
+        known += choice.name;
+        if (choice.name != name || choice.kind != kind.value_or(choice.kind))
+            continue;
+        found.push_back(&choice);
+        ways += workbench::kindWord(choice.kind) + u':' + name;
+    }
+    if (found.empty())
+        throw noSuchStarterItem(text, similarTo(name, known));
+    if (found.size() > 1)
+        throw ambiguousStarterItem(name, ways);
+    return *found.front();
+}
+
+void apply(const ItemArgument &argument, std::vector<StarterChoice> &choices)
+{
+    StarterChoice &choice = chosen(choices, argument.item);
+    if (choice.amount)
+        throw givenTwice(argument.item);
+    if (argument.target && choice.kind != budgeting::BudgetItemTypes::Goal)
+        throw notAGoal(argument.item);
+    choice.amount = argument.amount;
+    choice.target = argument.target;
+    choice.day = argument.day.value_or(choice.day);
+}
+
 QJsonArray itemsJson(Requests &requests)
 {
     QJsonArray rows;
@@ -54,13 +128,16 @@ QJsonArray itemsJson(Requests &requests)
     return rows;
 }
 
-Report itemsReport(const QJsonArray &rows)
+/// With the columns that all items have, or those of a template without amounts.
+Report itemsReport(const QJsonArray &rows, bool hasAmounts)
 {
-    return Report::listing({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
-                            {QObject::tr("Name"), QStringLiteral("name")},
-                            {QObject::tr("Every"), QStringLiteral("every"), wordText},
-                            {QObject::tr("Next"), QStringLiteral("next"), dayText}},
-                           rows, QObject::tr("There are no budget items."));
+    std::vector<Column> columns{{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
+                                {QObject::tr("Name"), QStringLiteral("name")},
+                                {QObject::tr("Every"), QStringLiteral("every"), wordText},
+                                {QObject::tr("Next"), QStringLiteral("next"), dayText}};
+    if (hasAmounts)
+        columns.insert(columns.begin() + 2, {QObject::tr("Amount"), QStringLiteral("amount")});
+    return Report::listing(columns, rows, QObject::tr("There are no budget items."));
 }
 
 struct Wizard {
@@ -68,6 +145,7 @@ struct Wizard {
     NewName bank;
     NewName account;
     TemplateArgument household;
+    std::vector<ItemArgument> items = {};
     workbench::StarterAnswers answers = {};
 
     void declare(Arguments &arguments)
@@ -77,6 +155,10 @@ struct Wizard {
             .exclusive("FILE", "--file")
             .optional("--template", household,
                       QObject::tr("Template, see kiv templates list (default: none)"))
+            .several("--item", items,
+                     QObject::tr("Amount of an item of the template, such as 'Rent=900', 'Rent=900 "
+                                 "2026-03-31' or 'goal:Car=50 of 900' (repeatable); items without "
+                                 "one are left out"))
             .optional("--currency", answers.preferred,
                       QObject::tr("Currency, which becomes the preferred one"))
             .required("--bank", bank, QObject::tr("Name of the bank"))
@@ -90,14 +172,23 @@ struct Wizard {
         workbench::StarterAnswers given = answers;
         given.bank = bank.text;
         given.account = account.text;
-        given.household = household.value;
+        given.items = workbench::starterChoices(household.value);
+        for (const ItemArgument &item : items)
+            apply(item, given.items);
         call.document.refuseUnsaved();
         const QString path = call.fileToMake(file);
         Document::refuseExisting(path);
         workbench::fillIn(call.requests, given);
         call.document.create(path, QObject::tr("Created the budget"));
-        Report report = itemsReport(itemsJson(call.requests));
-        return report.line(QObject::tr("Created the budget '%1'.").arg(call.document.file()));
+        Report report = itemsReport(itemsJson(call.requests), true);
+        report.line(QObject::tr("Created the budget '%1'.").arg(call.document.file()));
+        if (items.empty() && !given.items.empty()) {
+            report.line(
+                QObject::tr("Give its items amounts, such as --item '%1=100'; those without "
+                            "one are left out.")
+                    .arg(given.items.front().name));
+        }
+        return report;
     }
 };
 
@@ -128,14 +219,15 @@ struct ShowTemplate {
     }
     Report run(Call &call) const
     {
-        // This fills a budget in memory that is never saved; revert() restores that of a
-        // shell.
-        workbench::fillIn(call.requests,
-                          {std::nullopt, QObject::tr("Bank"), banking::BankAccountTypes::Checking,
-                           QObject::tr("Account"), std::nullopt, household.value});
-        const QJsonArray rows = itemsJson(call.requests);
-        call.document.revert();
-        return itemsReport(rows);
+        QJsonArray rows;
+        for (const StarterChoice &choice : workbench::starterChoices(household.value)) {
+            const QDate day = workbench::comingDay(choice, call.date()).value_or(choice.day);
+            rows.append(QJsonObject{{QStringLiteral("kind"), workbench::kindWord(choice.kind)},
+                                    {QStringLiteral("name"), choice.name},
+                                    {QStringLiteral("every"), budgeting::toQString(choice.every)},
+                                    {QStringLiteral("next"), toJson(day)}});
+        }
+        return itemsReport(rows, false);
     }
 };
 

@@ -106,6 +106,28 @@ UsageError notARate(const QString &text)
     return UsageError(QObject::tr("'%1' is not a rate; write one like EUR=0.92.").arg(text));
 }
 
+UsageError givenTwice(const QString &what)
+{
+    return UsageError(QObject::tr("'%1' is given twice.").arg(what));
+}
+
+UsageError notAGoal(const QString &item)
+{
+    return UsageError(QObject::tr("'%1' is no goal, and has no target.").arg(item));
+}
+
+UsageError noSuchStarterItem(const QString &name, const QStringList &similar)
+{
+    return UsageError(missed(QObject::tr("The template has no item '%1'").arg(name), similar,
+                             QStringLiteral("kiv templates show")));
+}
+
+UsageError ambiguousStarterItem(const QString &name, const QStringList &ways)
+{
+    return UsageError(QObject::tr("The template has several items '%1'; write one of: %2.")
+                          .arg(name, ways.join(QStringLiteral(", "))));
+}
+
 UsageError noSuchCommand(const QString &word, const QStringList &similar, const QString &help)
 {
     return UsageError(missed(QObject::tr("There is no command '%1'").arg(word), similar, help));

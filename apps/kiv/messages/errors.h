@@ -41,6 +41,15 @@ public:
 [[nodiscard]] UsageError openQuote();
 [[nodiscard]] UsageError notUtf8();
 [[nodiscard]] UsageError notARate(const QString &text);
+[[nodiscard]] UsageError givenTwice(const QString &what);
+[[nodiscard]] UsageError notAGoal(const QString &item);
+
+// ---- templates ---------------------------------------------------------------
+
+/// `similar` are names to offer, see similarTo().
+[[nodiscard]] UsageError noSuchStarterItem(const QString &name, const QStringList &similar);
+/// `ways` are what to write for each of them.
+[[nodiscard]] UsageError ambiguousStarterItem(const QString &name, const QStringList &ways);
 
 // ---- what is not in the budget ---------------------------------------------
 // `similar` are names to offer, see similarTo().
