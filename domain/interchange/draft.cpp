@@ -89,6 +89,13 @@ private:
 
 } // namespace
 
+DraftAccount conversionAccount(const numira::Currency &currency)
+{
+    return {accounting::AccountTypes::Equity,
+            {QStringLiteral("Conversion"), foundation::toQString(currency)},
+            currency};
+}
+
 AccountPlan planAccounts(const Draft &draft, const std::set<Account> &existing)
 {
     Planner planner(existing);

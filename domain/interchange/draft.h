@@ -49,6 +49,11 @@ struct Draft {
     QStringList notices;
 };
 
+/// The account under Equity:Conversion through which one side of an exchange between
+/// currencies goes, so that both sides stay as they were booked.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT DraftAccount
+conversionAccount(const numira::Currency &currency);
+
 /// How a draft's accounts map to those of a ledger.
 struct AccountPlan {
     /// Accounts to open, empty, each after its parent.

@@ -114,3 +114,64 @@ A search looks at all of it, and sums up what was spent and earned:
   $ kiv find nothing
   No transaction fits.
   0 of 9, together 0.
+
+What was paid in one go is split, all or none, and is one step of undo:
+
+  $ kiv transaction add --split Groceries=40 --split nontrack:Rent=12.30 --payee Market --date 2026-03-01
+  Number  Date        Description  Debit          Credit  Amount
+      10  2026-03-01  Market       Groceries      Visa    $40.00
+      11  2026-03-01  Market       nontrack:Rent  Visa    $12.30
+  Spent $52.30 on Groceries, nontrack:Rent.
+  $ kiv transaction add --split Salary=3000 --split Salary=9.50 --to Checking --dry-run | tail -2
+  Earned $3,009.50 from Salary.
+  Dry run: nothing is saved.
+  $ kiv transaction add --split Groceries=40 --split Visa=1
+  kiv: Money is not spent on 'Visa'; name a budget item or an expense account, or move it to 'Visa'.
+  [1]
+  $ kiv transaction add --split Groceries=40
+  kiv: A split has at least two parts.
+  [2]
+  $ kiv transaction add --split Groceries=99999999999999999999999999 --split Car=99999999999999999999999999
+  kiv: The amount '99999999999999999999999999' is too large.
+  [2]
+  $ each 2 <<'.'
+  > transaction add 5 --split Groceries=40
+  > transaction add 5 --debit Groceries --from Visa
+  > transaction add 5 --debit Groceries
+  > .
+  kiv: Use either --split or AMOUNT, not both.
+  kiv: Use --from only together with --split.
+  kiv: --credit is missing.
+  $ kiv undo >/dev/null
+  $ kiv info | grep Transactions
+  Transactions    9
+  $ printf '%s\n' 'transaction add --split Groceries=40 --split Visa=1' 'info' | kiv shell | grep Transactions
+  kiv: Money is not spent on 'Visa'; name a budget item or an expense account, or move it to 'Visa'.
+  Transactions    9
+
+An exchange keeps both amounts as the bank booked them, without a rate:
+
+  $ kiv transfer Checking Euros 200 --received '183.40 EUR' --date 2026-03-02
+  Number  Date        Description  Debit  Credit     Amount
+      10  2026-03-02  Transfer     USD    Checking  $200.00
+      11  2026-03-02  Transfer     Euros  EUR       \xe2\x82\xac183.40 (esc)
+  Exchanged $200.00 for \xe2\x82\xac183.40. (esc)
+  $ kiv accounts | grep -E 'Checking|Euros|Conversion'
+       1  Assets:Checking                        $4,822.85
+      10  Assets:Euros                             \xe2\x82\xac183.40 (esc)
+      11  Equity:Conversion                          $0.00
+      13  Equity:Conversion:EUR                    \xe2\x82\xac183.40 (esc)
+      12  Equity:Conversion:USD                   -$200.00
+  $ kiv transfer Checking Euros '200 EUR' --received 183.40
+  kiv: 'Checking' is kept in USD; give its amount in USD instead of EUR.
+  [1]
+  $ kiv transfer Checking Visa 5 --received 5
+  kiv: 'Checking' and 'Visa' are both kept in USD, so nothing is exchanged; move one amount.
+  [1]
+  $ kiv transfer Euros Checking 10 --received 11 --json | jq -c '.[] | [.number, .amount.currency]'
+  [12,"EUR"]
+  [13,"USD"]
+  $ kiv undo --steps 2 >/dev/null
+  $ kiv accounts | grep -c Conversion
+  0
+  [1]

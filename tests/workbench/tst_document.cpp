@@ -410,6 +410,7 @@ private slots:
     void nothingIsLostButTheLastSecond();
     void aFileThatAnotherHasIsOpenedForReading();
     void aCopyHasEverything();
+    void whatIsRefusedHalfWayLeavesNothing();
 };
 
 void DocumentTest::everyWalkOfDeedsUndoAndRedoAgreesWithAList()
@@ -476,6 +477,20 @@ void DocumentTest::aCopyHasEverything()
     QVERIFY(test::load(folder.path(u"copy.budget"_s)) == document.present());
     QCOMPARE(document.file(), folder.path(u"home.budget"_s));
     QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.saveCopy(folder.path(u"copy.budget"_s)));
+}
+
+void DocumentTest::whatIsRefusedHalfWayLeavesNothing()
+{
+    const test::ScratchFolder folder;
+    Document document(surroundings(folder.path(u"rates"_s))); // keeps at once
+    addBank(document, u"First"_s);
+    document.create(folder.path(u"home.budget"_s), u"Created"_s);
+    const auto before = document.present();
+    QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.perform({}, [&] {
+        addBank(document, u"Half"_s);
+        addBank(document, u"Half"_s);
+    }));
+    QVERIFY(document.present() == before);
 }
 
 static const kiv::test::Suite<DocumentTest> suite;

@@ -42,6 +42,11 @@ EntryError amountTooLarge(const QString &text)
     return EntryError(QObject::tr("The amount '%1' is too large.").arg(text));
 }
 
+EntryError splitTooShort()
+{
+    return EntryError(QObject::tr("A split has at least two parts."));
+}
+
 EntryError tooManyDigits(const QString &text, const QString &currency, unsigned digitsMax)
 {
     return EntryError(
@@ -204,6 +209,19 @@ Refusal noUsualAccount(const QString &item)
     return Refusal(QObject::tr("'%1' was never paid before, and no bank has a checking account; "
                                "name the account.")
                        .arg(item));
+}
+
+Refusal otherCurrency(const QString &account, const QString &own, const QString &typed)
+{
+    return Refusal(QObject::tr("'%1' is kept in %2; give its amount in %2 instead of %3.")
+                       .arg(account, own, typed));
+}
+
+Refusal noExchange(const QString &giver, const QString &receiver, const QString &currency)
+{
+    return Refusal(QObject::tr("'%1' and '%2' are both kept in %3, so nothing is exchanged; "
+                               "move one amount.")
+                       .arg(giver, receiver, currency));
 }
 
 Refusal noCategory(const QString &entry)

@@ -20,6 +20,7 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] EntryError notAPercentage(const QString &text);
 [[nodiscard]] EntryError currencyGivenTwice(const QString &currency);
+[[nodiscard]] EntryError splitTooShort();
 /// A sum of amounts in two currencies.
 [[nodiscard]] EntryError twoCurrencies(const QString &sum);
 [[nodiscard]] EntryError notAnEvenDivision(const QString &sum);
@@ -60,6 +61,12 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal keepsNoMoney(const QString &account);
 /// The user must name the account with which the item is paid.
 [[nodiscard]] Refusal noUsualAccount(const QString &item);
+/// The amount is in `typed`, and the account is kept in `own`.
+[[nodiscard]] Refusal otherCurrency(const QString &account, const QString &own,
+                                    const QString &typed);
+/// Both accounts are kept in the same currency.
+[[nodiscard]] Refusal noExchange(const QString &giver, const QString &receiver,
+                                 const QString &currency);
 /// `entry` names the transaction: both of its accounts, or none, are the household's own.
 [[nodiscard]] Refusal noCategory(const QString &entry);
 /// Its reconciliation must be taken back first.

@@ -22,6 +22,23 @@ QString nameOf(const Transaction &transaction, navigation::CurrencyDisplayOption
     return text.isEmpty() ? amountText(transaction.amount(), displayAs) : text;
 }
 
+namespace {
+
+/// What was spent on, or earned from, `others`.
+Deed flowDeed(EntryForm form, const QString &amount, const QString &others)
+{
+    if (form == EntryForm::Earned) {
+        return {QObject::tr("Earned %1 from %2.").arg(amount, others),
+                QObject::tr("earning %1 from %2").arg(amount, others),
+                {}};
+    }
+    return {QObject::tr("Spent %1 on %2.").arg(amount, others),
+            QObject::tr("spending %1 on %2").arg(amount, others),
+            {}};
+}
+
+} // namespace
+
 Deed enterDeed(Requests &requests, const Entry &entry)
 {
     const AccountIndex index = requests.accounts();
@@ -34,21 +51,22 @@ Deed enterDeed(Requests &requests, const Entry &entry)
     const QString amount = amountText(entry.amount.in(currency), requests.displayAs());
     const QString ownName = index.plainName(entry.own);
     const QString otherName = index.plainName(entry.other);
-    switch (entry.form) {
-    case EntryForm::Spent:
-        return {QObject::tr("Spent %1 on %2.").arg(amount, otherName),
-                QObject::tr("spending %1 on %2").arg(amount, otherName),
-                {}};
-    case EntryForm::Earned:
-        return {QObject::tr("Earned %1 from %2.").arg(amount, otherName),
-                QObject::tr("earning %1 from %2").arg(amount, otherName),
-                {}};
-    case EntryForm::Moved:
-        break;
-    }
+    if (!isMoved)
+        return flowDeed(entry.form, amount, otherName);
     return {QObject::tr("Moved %1 from %2 to %3.").arg(amount, ownName, otherName),
             QObject::tr("moving %1 from %2 to %3").arg(amount, ownName, otherName),
             {}};
+}
+
+Deed splitDeed(Requests &requests, const SplitEntry &entry)
+{
+    const AccountIndex index = requests.accounts();
+    QStringList others;
+    for (const SplitLine &line : entry.lines)
+        others += index.plainName(line.other);
+    others.removeDuplicates();
+    return flowDeed(entry.form, amountText(splitTotal(entry, index), requests.displayAs()),
+                    others.join(QStringLiteral(", ")));
 }
 
 Deed changeDeed(Requests &requests, const Transaction &transaction)

@@ -4,6 +4,8 @@
 #include "workbench/entry/description.h"
 #include "workbench/internal/faults.h"
 
+#include "numira/error.h"
+
 namespace kiv::workbench {
 
 using accounting::Account;
@@ -43,6 +45,12 @@ QString typed(AccountNumber number)
 Description descriptionOf(const Entry &entry)
 {
     return {entry.payee, entry.reason, {}};
+}
+
+/// A line of a split as a form of its own.
+Entry lineOf(const SplitEntry &entry, const SplitLine &line)
+{
+    return {entry.form, line.amount, entry.own, line.other, entry.payee, entry.reason, entry.day};
 }
 
 } // namespace
@@ -105,6 +113,31 @@ EntryPart doubtfulPart(const Entry &entry, const AccountIndex &index)
                                                                            : EntryPart::Amount;
 }
 
+std::pair<EntryPart, std::size_t> doubtfulPart(const SplitEntry &entry, const AccountIndex &index)
+{
+    for (std::size_t place = 0; place < entry.lines.size(); ++place) {
+        const SplitLine &line = entry.lines[place];
+        const EntryPart part = doubtfulPart(lineOf(entry, line), index);
+        if (part != EntryPart::Amount || line.amount.number.sign() <= 0)
+            return {part, place};
+    }
+    return {EntryPart::Amount, 0};
+}
+
+numira::Money splitTotal(const SplitEntry &entry, const AccountIndex &index)
+{
+    const Account *own = index.find(entry.own);
+    numira::Money total(own ? own->balance().code() : numira::Currency());
+    for (const SplitLine &line : entry.lines) {
+        try {
+            total += line.amount.in(total.code());
+        } catch (const numira::OverflowError &) {
+            throw internal::amountTooLarge(line.amount.text);
+        }
+    }
+    return total;
+}
+
 TransactionNumber enter(Requests &requests, const Entry &entry)
 {
     const QString own = typed(entry.own);
@@ -118,6 +151,19 @@ TransactionNumber enter(Requests &requests, const Entry &entry)
         break;
     }
     return transfer(requests, {own, other, entry.amount, descriptionOf(entry).shown(), entry.day});
+}
+
+std::vector<TransactionNumber> enterSplit(Requests &requests, const SplitEntry &entry)
+{
+    if (entry.form == EntryForm::Moved)
+        throw std::logic_error("Money that only moves is not split.");
+    if (entry.lines.size() < 2)
+        throw internal::splitTooShort();
+    (void)splitTotal(entry, requests.accounts());
+    std::vector<TransactionNumber> numbers;
+    for (const SplitLine &line : entry.lines)
+        numbers.push_back(enter(requests, lineOf(entry, line)));
+    return numbers;
 }
 
 void changeInto(Requests &requests, TransactionNumber number, const Entry &entry)

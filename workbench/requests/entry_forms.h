@@ -30,6 +30,28 @@ struct Entry {
     QDate day;
 };
 
+/// A line of a split.
+struct SplitLine {
+    accounting::AccountNumber other; ///< what this part was for, or where it came from
+    /// As typed.
+    Amount amount;
+};
+
+/// A filled form for money that was spent on several things, or earned from several, in one
+/// go. Each line becomes a transaction of its own; they share what stands here and no more.
+struct SplitEntry {
+    /// Spent or Earned.
+    EntryForm form = EntryForm::Spent;
+    accounting::AccountNumber own; ///< where the money was, or came to
+    std::vector<SplitLine> lines;  ///< at least two
+    /// Who was paid, or who paid; may be empty.
+    QString payee;
+    /// What it was for; may be empty.
+    QString reason;
+    /// On which it occurred.
+    QDate day;
+};
+
 /// The form in which the transaction reads best. What fits no form reads as moved.
 [[nodiscard]] KIV_WORKBENCH_EXPORT EntryForm formOf(const accounting::Transaction &transaction,
                                                     const AccountIndex &index);
@@ -49,9 +71,24 @@ enum class EntryPart : std::uint8_t { Amount, Own, Other, Day };
 [[nodiscard]] KIV_WORKBENCH_EXPORT EntryPart doubtfulPart(const Entry &entry,
                                                           const AccountIndex &index);
 
+/// The same for a split: the part, and the place of its line among the lines.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::pair<EntryPart, std::size_t>
+doubtfulPart(const SplitEntry &entry, const AccountIndex &index);
+
+/// What the lines come to, in the currency of the own account. Throws an EntryError for an
+/// amount with too many decimals and for a sum that is too large, and a ConversionError for a
+/// currency without an exchange rate.
+[[nodiscard]] KIV_WORKBENCH_EXPORT numira::Money splitTotal(const SplitEntry &entry,
+                                                            const AccountIndex &index);
+
 /// Posts what the form says, and returns its number. Throws as spend(), earn() and
 /// transfer() do.
 KIV_WORKBENCH_EXPORT accounting::TransactionNumber enter(Requests &requests, const Entry &entry);
+/// Posts the lines of a split, and returns their numbers in the same order. Throws as
+/// splitTotal(), spend() and earn() do, and an EntryError for a single line. The lines before
+/// a refused one stay posted, so revert the document, as Document::perform() does.
+KIV_WORKBENCH_EXPORT std::vector<accounting::TransactionNumber> enterSplit(Requests &requests,
+                                                                           const SplitEntry &entry);
 /// Changes the transaction into what the form says. Throws as changeTransaction() does.
 KIV_WORKBENCH_EXPORT void changeInto(Requests &requests, accounting::TransactionNumber number,
                                      const Entry &entry);
@@ -78,6 +115,8 @@ KIV_WORKBENCH_EXPORT void mark(Requests &requests,
 
 /// "Spent 42.10 USD on Groceries."
 [[nodiscard]] KIV_WORKBENCH_EXPORT Deed enterDeed(Requests &requests, const Entry &entry);
+/// "Spent 52.30 USD on Groceries, Household."
+[[nodiscard]] KIV_WORKBENCH_EXPORT Deed splitDeed(Requests &requests, const SplitEntry &entry);
 /// "Changed “Market: weekly shopping”."
 [[nodiscard]] KIV_WORKBENCH_EXPORT Deed changeDeed(Requests &requests,
                                                    const accounting::Transaction &transaction);

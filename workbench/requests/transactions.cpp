@@ -45,18 +45,6 @@ std::optional<QString> describedAfter(const Transaction &present,
     return changed.text();
 }
 
-/// The account that is typed, or without one where the item is paid from.
-const Account &payingAccount(Requests &requests, const AccountIndex &index, const QString &text,
-                             const Account &item)
-{
-    if (!text.isEmpty())
-        return index.find(text);
-    const std::optional<AccountNumber> usual = paidFrom(requests, item);
-    if (!usual)
-        throw internal::noUsualAccount(index.plainName(item.code().number()));
-    return *index.find(*usual);
-}
-
 } // namespace
 
 TransactionNumber post(Requests &requests, const Transaction &transaction)
@@ -91,7 +79,7 @@ TransactionNumber spend(Requests &requests, const Spent &spent)
     const Account &on = index.find(spent.on);
     if (!canBeSpentOn(on))
         throw internal::notSpentOn(index.plainName(on.code().number()));
-    const Account &from = payingAccount(requests, index, spent.from, on);
+    const Account &from = *index.find(typedPayer(requests, spent.from, on));
     if (!keepsMoney(from))
         throw internal::keepsNoMoney(index.plainName(from.code().number()));
     return post(requests, Transaction(spent.day.value_or(foundation::today()), on.code(),
@@ -105,7 +93,7 @@ TransactionNumber earn(Requests &requests, const Earned &earned)
     const Account &from = index.find(earned.from);
     if (from.type() != AccountTypes::Income)
         throw internal::notEarnedFrom(index.plainName(from.code().number()));
-    const Account &to = payingAccount(requests, index, earned.to, from);
+    const Account &to = *index.find(typedPayer(requests, earned.to, from));
     if (!keepsMoney(to))
         throw internal::keepsNoMoney(index.plainName(to.code().number()));
     return post(requests, Transaction(earned.day.value_or(foundation::today()), to.code(),
@@ -120,6 +108,17 @@ std::optional<AccountNumber> paidFrom(Requests &requests, const Account &item)
         const Account *account = index.find(number);
         return account && !account->isClosed() && keepsMoney(*account);
     });
+}
+
+AccountNumber typedPayer(Requests &requests, const QString &text, const Account &item)
+{
+    const AccountIndex index = requests.accounts();
+    if (!text.isEmpty())
+        return index.find(text).code().number();
+    const std::optional<AccountNumber> usual = paidFrom(requests, item);
+    if (!usual)
+        throw internal::noUsualAccount(index.plainName(item.code().number()));
+    return *usual;
 }
 
 TransactionNumber refund(Requests &requests, TransactionNumber number, const Amount &amount,

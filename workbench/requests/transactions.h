@@ -59,6 +59,11 @@ KIV_WORKBENCH_EXPORT accounting::TransactionNumber earn(Requests &requests, cons
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<accounting::AccountNumber>
 paidFrom(Requests &requests, const accounting::Account &item);
 
+/// The account that is typed, or without one that of paidFrom(). Throws a Refusal if there is
+/// no such account.
+[[nodiscard]] KIV_WORKBENCH_EXPORT accounting::AccountNumber
+typedPayer(Requests &requests, const QString &text, const accounting::Account &item);
+
 /// Posts a refund of the transaction in its currency, and returns the refund's number.
 /// Throws a Refusal, also when there is no such transaction, and an EntryError for an amount
 /// with too many decimals. If moving it to the day is refused, the refund stays.

@@ -173,8 +173,9 @@ Words namesOf(const std::string &name, const Words &path, Requests &requests)
                                   "--account", "--bank-account", "--debit",  "--credit",
                                   "--under",   "--into",         "--against"};
     // Elsewhere these two are days or files.
-    const bool isOwn =
-        (name == "--from" && path.front() == "spend") || (name == "--to" && path.front() == "earn");
+    const bool isOwn = (name == "--from" && path.front() == "spend") ||
+                       (name == "--to" && path.front() == "earn") ||
+                       ((name == "--from" || name == "--to") && path.front() == "transaction");
     constexpr std::array kinds{"bill", "debt", "goal", "nontrack", "wage"};
     if (isOwn || std::ranges::count(accounts, name) != 0)
         return accountNames(requests);

@@ -5,6 +5,7 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/exchanges.h"
 #include "workbench/requests/transactions.h"
 
 namespace kiv::app {
@@ -86,10 +87,22 @@ struct Earn {
     }
 };
 
+Report exchanged(Call &call, const workbench::Exchange &exchange)
+{
+    const QString sentence = workbench::exchangeDeed(call.requests, exchange).line;
+    const auto [given, received] = workbench::exchange(call.requests, exchange);
+    return TransactionListing(
+               {call.requests.transaction(given), call.requests.transaction(received)},
+               call.requests.accounts())
+        .report({})
+        .line(sentence);
+}
+
 struct Transfer {
     QString from;
     QString to;
     Amount amount;
+    std::optional<Amount> received;
     QString reason = QObject::tr("Transfer");
 
     void declare(Arguments &arguments)
@@ -99,12 +112,18 @@ struct Transfer {
                       QObject::tr("Account that the money goes to: a bank account, a card, a loan, "
                                   "a goal …"))
             .required("AMOUNT", amount,
-                      QObject::tr("Amount, in the currency of the account it goes to"))
+                      QObject::tr("Amount, in the currency of the account it goes to; with "
+                                  "--received, in that of the account it leaves"))
+            .optional("--received", received,
+                      QObject::tr("Amount that arrived, in another currency: both amounts as the "
+                                  "bank booked them"))
             .optional("--description", reason, QObject::tr("Description"))
             .dated(QObject::tr("Day (default: today)"));
     }
     Report run(Call &call) const
     {
+        if (received)
+            return exchanged(call, {from, to, amount, *received, reason, call.options.date});
         return transactionReport(
             call.requests,
             workbench::transfer(call.requests, {from, to, amount, reason, call.options.date}),

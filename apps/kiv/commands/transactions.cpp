@@ -7,6 +7,7 @@
 #include "output/json.h"
 #include "parsing/json_input.h"
 
+#include "workbench/requests/entry_forms.h"
 #include "workbench/requests/transactions.h"
 
 namespace kiv::app {
@@ -43,28 +44,102 @@ struct ListTransactions {
     }
 };
 
-struct AddTransaction {
+/// A part of a split: "Groceries=40".
+struct SplitArgument {
+    QString account;
     Amount amount;
-    QString debit;
-    QString credit;
-    std::optional<QString> description;
+};
+
+constexpr const char *valueWord(const SplitArgument *)
+{
+    return "ACCOUNT=AMOUNT";
+}
+
+void readValue(const QString &text, SplitArgument &argument)
+{
+    const auto [account, amount] = workbench::assignment(text);
+    workbench::readValue(amount, argument.amount);
+    argument.account = account;
+}
+
+/// Several transactions that were paid, or received, in one go.
+struct Split {
+    std::vector<SplitArgument> lines = {};
+    AccountText from = {};
+    AccountText to = {};
+    QString payee = {};
+    QString reason = {};
 
     void declare(Arguments &arguments)
     {
         arguments
-            .required("AMOUNT", amount,
-                      QObject::tr("Amount, in the currency of the debited account"))
-            .required("--debit", debit, QObject::tr("Account to debit"))
-            .required("--credit", credit, QObject::tr("Account to credit"))
-            .optional("--description", description, QObject::tr("Description"))
-            .dated(QObject::tr("Day (default: today)"));
+            .several("--split", lines,
+                     QObject::tr("Part of what was spent, or with --to earned, such as Food=40 "
+                                 "(repeatable)"))
+            .optional("--from", from,
+                      QObject::tr("With --split, account that paid (default: that of the last time "
+                                  "for the first part, or else the first checking account)"))
+            .optional("--to", to, QObject::tr("With --split, account that got the money"))
+            .optional("--payee", payee, QObject::tr("With --split, who got or gave the money"))
+            .optional("--reason", reason, QObject::tr("With --split, what it was for"))
+            .exclusive("--from", "--to");
+        for (const char *other : {"AMOUNT", "--debit", "--credit", "--description"})
+            arguments.exclusive("--split", other);
+        for (const char *own : {"--from", "--to", "--payee", "--reason"})
+            arguments.only(own, "--split");
     }
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
-        const accounting::Account &debited = index.find(debit);
-        const Transaction transaction(call.date(), debited.code(), index.find(credit).code(),
-                                      amount.in(debited.balance().code()), description);
+        workbench::SplitEntry entry;
+        for (const SplitArgument &line : lines)
+            entry.lines.push_back({index.find(line.account).code().number(), line.amount});
+        if (!to.text.isEmpty())
+            entry.form = workbench::EntryForm::Earned;
+        entry.own = workbench::typedPayer(call.requests, from.text + to.text,
+                                          *index.find(entry.lines.front().other));
+        entry.payee = payee;
+        entry.reason = reason;
+        entry.day = call.date();
+        std::vector<Transaction> posted;
+        for (const TransactionNumber number : workbench::enterSplit(call.requests, entry))
+            posted.push_back(call.requests.transaction(number));
+        return TransactionListing(std::move(posted), call.requests.accounts())
+            .report({})
+            .line(workbench::splitDeed(call.requests, entry).line);
+    }
+};
+
+struct AddTransaction {
+    std::optional<Amount> amount;
+    std::optional<QString> debit;
+    std::optional<QString> credit;
+    std::optional<QString> description;
+    Split split;
+
+    void declare(Arguments &arguments)
+    {
+        arguments
+            .optional("AMOUNT", amount,
+                      QObject::tr("Amount, in the currency of the debited account"))
+            .optional("--debit", debit, QObject::tr("Account to debit"))
+            .optional("--credit", credit, QObject::tr("Account to credit"))
+            .optional("--description", description, QObject::tr("Description"));
+        split.declare(arguments);
+        arguments.dated(QObject::tr("Day (default: today)"));
+    }
+    Report run(Call &call) const
+    {
+        if (!split.lines.empty())
+            return split.run(call);
+        if (!amount)
+            throw missing(placeholder("AMOUNT"));
+        if (!debit || !credit)
+            throw missing(debit ? QStringLiteral("--credit") : QStringLiteral("--debit"));
+        const AccountIndex index = call.requests.accounts();
+        const accounting::Account &debited = index.find(*debit);
+        const Transaction transaction(call.date(), debited.code(), index.find(*credit).code(),
+                                      amount->in(debited.balance().code()), description);
         return transactionReport(call.requests, workbench::post(call.requests, transaction),
                                  QObject::tr("Posted transaction %1."));
     }

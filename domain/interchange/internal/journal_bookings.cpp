@@ -152,10 +152,9 @@ void JournalBooks::addConversions(std::vector<Booking> &bookings)
     for (const auto &[currency, sum] : sums) {
         if (sum.isZero())
             continue;
-        const QString code = foundation::toQString(currency);
         bookings.push_back(
-            {indexOf({AccountTypes::Equity, {QStringLiteral("Conversion"), code}, currency},
-                     QStringLiteral("Equity:Conversion:") + code),
+            {indexOf(conversionAccount(currency),
+                     QStringLiteral("Equity:Conversion:") + foundation::toQString(currency)),
              -sum});
     }
 }
