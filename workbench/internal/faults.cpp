@@ -304,6 +304,12 @@ Refusal starterItemFailed(budgeting::BudgetItemTypes kind, const QString &name,
         QObject::tr("The %1 '%2' could not be added.").arg(kindText(kind), name), reason));
 }
 
+Refusal demonstrationInFuture(const QString &day)
+{
+    return Refusal(
+        QObject::tr("The demonstration ends today or on a day before, not on %1.").arg(day));
+}
+
 Refusal cannotRead(const QString &path, const QString &reason)
 {
     return Refusal(QObject::tr("Cannot read '%1': %2.").arg(path, reason));

@@ -91,6 +91,8 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal starterItemFailed(budgeting::BudgetItemTypes kind, const QString &name,
                                         const QString &reason);
 
+[[nodiscard]] Refusal demonstrationInFuture(const QString &day);
+
 [[nodiscard]] Refusal cannotRead(const QString &path, const QString &reason);
 [[nodiscard]] Refusal cannotWrite(const QString &path, const QString &reason);
 /// `line` is the one that exceeds the limit.

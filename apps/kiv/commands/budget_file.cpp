@@ -4,6 +4,10 @@
 
 #include "output/json.h"
 
+#include "workbench/document/demonstration.h"
+
+#include "foundation/presentation.h"
+
 #include <QtCore/QFileInfo>
 
 namespace kiv::app {
@@ -35,6 +39,29 @@ struct New {
         call.document.create(path, QObject::tr("Created the budget"));
         return Report(fileJson(call.document))
             .line(QObject::tr("Created the empty budget '%1'.").arg(call.document.file()));
+    }
+};
+
+struct Demonstrate {
+    QString file;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.optional("FILE", file, QObject::tr("New file; .budget is added if it is missing"))
+            .file()
+            .exclusive("FILE", "--file")
+            .dated(QObject::tr("Last day of its year (default: today)"));
+    }
+    Report run(Call &call) const
+    {
+        const QString path = call.fileToMake(file);
+        call.document.refuseUnsaved();
+        Document::refuseExisting(path);
+        workbench::makeDemonstration(call.requests, call.date());
+        call.document.create(path, QObject::tr("Created the demonstration"));
+        return Report(fileJson(call.document))
+            .line(QObject::tr("Created the demonstration '%1': a year of a household until %2.")
+                      .arg(call.document.file(), foundation::presentationText(call.date())));
     }
 };
 
@@ -133,6 +160,8 @@ struct Info {
 void addBudgetFileCommands(CommandGroup &root)
 {
     root.add("new", QObject::tr("Create an empty budget file"), CommandKind::Standalone, New{});
+    root.add("demo", QObject::tr("Create the budget of a made-up household, to try things out"),
+             CommandKind::Standalone, Demonstrate{});
     root.add("info", QObject::tr("Show what the budget contains"), CommandKind::Query, Info{});
     root.add("save", QObject::tr("In a shell, write the changes now"), CommandKind::Standalone,
              Save{});

@@ -1,0 +1,52 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+A made-up household shows what a budget can be. One day always gives the same year, with books
+that hold.
+
+  $ . "$TESTDIR/household.sh"
+  $ kiv demo --date 2025-03-31
+  Created the demonstration 'household.budget': a year of a household until 2025-03-31.
+  $ kiv demo other --date 2025-03-31 >/dev/null
+  $ kiv export --format json >own
+  $ kiv export --format json --file other | diff own -
+  $ kiv check | tail -1
+  The budget 'household.budget' is intact.
+  $ kiv reconciliations | cut -c1-59,76-
+  Bank       Account                  Day of the statement   actions
+  Lake Bank  Liabilities:Car loan     2025-03-11                  13  holds
+  Town Bank  Assets:Checking          2025-03-11                 228  holds
+  Town Bank  Liabilities:Credit card  2025-03-11                 107  holds
+  Town Bank  Assets:Savings           2025-03-11            $     36  holds
+  $ for account in Checking Cash; do
+  >     kiv ledger $account --json | jq '[.transactions[].balance.amount | tonumber] | min > 0'
+  > done
+  true
+  true
+  $ kiv transactions --json | jq -c '[map(.refundOf != null) | any, length]'
+  [true,488]
+  $ kiv accounts | grep -E 'closed|Travel cash|Conversion:|Bicycle|loan'
+       5  Assets:Old savings                         $0.00  closed
+      26  Assets:Savings:Bicycle                   $660.00
+       7  Assets:Travel cash                        \xe2\x82\xac78.19 (esc)
+      31  Equity:Conversion:EUR                    \xe2\x82\xac348.38 (esc)
+      30  Equity:Conversion:USD                   -$381.00
+      27  Liabilities:Car loan                   $3,780.00
+      28  Liabilities:Family loan                  $300.00
+  $ kiv due --date 2025-03-31 --within 3
+  Due         Item          Kind              Amount  When
+  2025-03-29  Telephone     bill              $24.90  2 days late
+  2025-03-31  Internet      bill              $34.90  today
+  2025-04-02  Bus pass      bill              $55.00  in 2 days
+  2025-04-03  Pocket money  non-tracked item  $20.00  in 3 days
+  $ kiv find is:cleared | tail -1
+  9 of 488, together -$125.45.
+  $ kiv find is:open 2025-03-12.. | tail -1
+  12 of 488, together -$77.83.
+  $ kiv demo
+  kiv: The file 'household.budget' exists already; choose another name.
+  [1]
+  $ kiv demo late --date 2199-01-01
+  kiv: The demonstration ends today or on a day before, not on 2199-01-01.
+  [1]
+  $ LC_ALL=de_DE.UTF-8 kiv demo heute | cut -d : -f 1
+  Beispiel \xe2\x80\x9eheute.budget\xe2\x80\x9c angelegt (esc)
