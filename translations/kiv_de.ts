@@ -3394,10 +3394,6 @@
         <translation>Nummern der Buchungen</translation>
     </message>
     <message>
-        <source>Amount, in the currency of the account it goes to</source>
-        <translation>Betrag, in der Währung des Kontos, auf das er geht</translation>
-    </message>
-    <message>
         <source>Number of the transaction to refund</source>
         <translation>Nummer der zu erstattenden Buchung</translation>
     </message>
@@ -5037,6 +5033,282 @@
     <message>
         <source>Pay</source>
         <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Weekly shopping</source>
+        <translation>Wocheneinkauf</translation>
+    </message>
+    <message>
+        <source>Bakery</source>
+        <translation>Bäckerei</translation>
+    </message>
+    <message>
+        <source>Noodle house</source>
+        <translation>Nudelhaus</translation>
+    </message>
+    <message>
+        <source>Castle pharmacy</source>
+        <translation>Schlossapotheke</translation>
+    </message>
+    <message>
+        <source>Furniture store</source>
+        <translation>Möbelhaus</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Village shop</source>
+        <translation>Dorfladen</translation>
+    </message>
+    <message>
+        <source>Corner market</source>
+        <translation>Eckmarkt</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Sparen</translation>
+    </message>
+    <message>
+        <source>Cash machine</source>
+        <translation>Geldautomat</translation>
+    </message>
+    <message>
+        <source>Card bill</source>
+        <translation>Kartenabrechnung</translation>
+    </message>
+    <message>
+        <source>Interest</source>
+        <translation>Zinsen</translation>
+    </message>
+    <message>
+        <source>Account given up</source>
+        <translation>Konto aufgegeben</translation>
+    </message>
+    <message>
+        <source>Harbour hotel</source>
+        <translation>Hafenhotel</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Urlaub</translation>
+    </message>
+    <message>
+        <source>Travel money</source>
+        <translation>Reisegeld</translation>
+    </message>
+    <message>
+        <source>A split has at least two parts.</source>
+        <translation>Eine Aufteilung hat mindestens zwei Teile.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is kept in %2; give its amount in %2 instead of %3.</source>
+        <translation>„%1“ wird in %2 geführt; den Betrag in %2 statt in %3 angeben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; are both kept in %3, so nothing is exchanged; move one amount.</source>
+        <translation>„%1“ und „%2“ werden beide in %3 geführt, also wird nichts gewechselt; einen einzigen Betrag umbuchen.</translation>
+    </message>
+    <message>
+        <source>The %1 &apos;%2&apos; could not be added.</source>
+        <translation>„%2“ (%1) konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>The demonstration ends today or on a day before, not on %1.</source>
+        <translation>Das Beispiel endet heute oder an einem früheren Tag, nicht am %1.</translation>
+    </message>
+    <message>
+        <source>Salary</source>
+        <translation>Gehalt</translation>
+    </message>
+    <message>
+        <source>Evening classes</source>
+        <translation>Abendkurse</translation>
+    </message>
+    <message>
+        <source>Rent</source>
+        <translation>Miete</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>Wohnung</translation>
+    </message>
+    <message>
+        <source>Telephone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>Bus pass</source>
+        <translation>Busfahrkarte</translation>
+    </message>
+    <message>
+        <source>travel</source>
+        <translation>Verkehr</translation>
+    </message>
+    <message>
+        <source>Fitness studio</source>
+        <translation>Fitnessstudio</translation>
+    </message>
+    <message>
+        <source>leisure</source>
+        <translation>Freizeit</translation>
+    </message>
+    <message>
+        <source>Home insurance</source>
+        <translation>Hausratversicherung</translation>
+    </message>
+    <message>
+        <source>Car tax</source>
+        <translation>Kfz-Steuer</translation>
+    </message>
+    <message>
+        <source>Pocket money</source>
+        <translation>Taschengeld</translation>
+    </message>
+    <message>
+        <source>Bicycle</source>
+        <translation>Fahrrad</translation>
+    </message>
+    <message>
+        <source>Car loan</source>
+        <translation>Autokredit</translation>
+    </message>
+    <message>
+        <source>Family loan</source>
+        <translation>Kredit der Familie</translation>
+    </message>
+    <message>
+        <source>Town Bank</source>
+        <translation>Stadtbank</translation>
+    </message>
+    <message>
+        <source>Lake Bank</source>
+        <translation>Seebank</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Girokonto</translation>
+    </message>
+    <message>
+        <source>Credit card</source>
+        <translation>Kreditkarte</translation>
+    </message>
+    <message>
+        <source>Savings</source>
+        <translation>Sparkonto</translation>
+    </message>
+    <message>
+        <source>Old savings</source>
+        <translation>Altes Sparkonto</translation>
+    </message>
+    <message>
+        <source>Travel cash</source>
+        <translation>Reisekasse</translation>
+    </message>
+    <message>
+        <source>Cash</source>
+        <translation>Bargeld</translation>
+    </message>
+    <message>
+        <source>Groceries</source>
+        <translation>Lebensmittel</translation>
+    </message>
+    <message>
+        <source>Furniture</source>
+        <translation>Einrichtung</translation>
+    </message>
+    <message>
+        <source>Eating out</source>
+        <translation>Essen gehen</translation>
+    </message>
+    <message>
+        <source>Pharmacy</source>
+        <translation>Apotheke</translation>
+    </message>
+    <message>
+        <source>Travelling</source>
+        <translation>Reisen</translation>
+    </message>
+    <message>
+        <source>Exchanged %1 for %2.</source>
+        <translation>%1 in %2 gewechselt.</translation>
+    </message>
+    <message>
+        <source>exchanging %1 for %2</source>
+        <translation>%1 in %2 wechseln</translation>
+    </message>
+    <message>
+        <source>Last day of its year (default: today)</source>
+        <translation>Letzter Tag des Jahres (Standard: heute)</translation>
+    </message>
+    <message>
+        <source>Created the demonstration</source>
+        <translation>Beispiel angelegt</translation>
+    </message>
+    <message>
+        <source>Created the demonstration &apos;%1&apos;: a year of a household until %2.</source>
+        <translation>Beispiel „%1“ angelegt: ein Jahr eines Haushalts bis zum %2.</translation>
+    </message>
+    <message>
+        <source>Create the budget of a made-up household, to try things out</source>
+        <translation>Das Budget eines erfundenen Haushalts zum Ausprobieren anlegen</translation>
+    </message>
+    <message>
+        <source>Amount, in the currency of the account it goes to; with --received, in that of the account it leaves</source>
+        <translation>Betrag, in der Währung des Kontos, auf das er geht; mit --received in der des Kontos, von dem er kommt</translation>
+    </message>
+    <message>
+        <source>Amount that arrived, in another currency: both amounts as the bank booked them</source>
+        <translation>Betrag, der in einer anderen Währung ankam: beide Beträge, wie die Bank sie gebucht hat</translation>
+    </message>
+    <message>
+        <source>Part of what was spent, or with --to earned, such as Food=40 (repeatable)</source>
+        <translation>Teil dessen, was ausgegeben oder mit --to eingenommen wurde, etwa Essen=40 (wiederholbar)</translation>
+    </message>
+    <message>
+        <source>With --split, account that paid (default: that of the last time for the first part, or else the first checking account)</source>
+        <translation>Mit --split: Konto, von dem bezahlt wurde (Standard: das vom letzten Mal für den ersten Teil, sonst das erste Girokonto)</translation>
+    </message>
+    <message>
+        <source>With --split, account that got the money</source>
+        <translation>Mit --split: Konto, auf das das Geld kam</translation>
+    </message>
+    <message>
+        <source>With --split, who got or gave the money</source>
+        <translation>Mit --split: wer das Geld bekam oder gab</translation>
+    </message>
+    <message>
+        <source>With --split, what it was for</source>
+        <translation>Mit --split: wofür es war</translation>
+    </message>
+    <message>
+        <source>Amount of an item of the template, such as &apos;Rent=900&apos;, &apos;Rent=900 2026-03-31&apos; or &apos;goal:Car=50 of 900&apos; (repeatable); items without one are left out</source>
+        <translation>Betrag eines Postens der Vorlage, etwa „Miete=900“, „Miete=900 2026-03-31“ oder „goal:Auto=50 of 900“ (wiederholbar); Posten ohne Betrag entfallen</translation>
+    </message>
+    <message>
+        <source>Give its items amounts, such as --item &apos;%1=100&apos;; those without one are left out.</source>
+        <translation>Den Posten Beträge geben, etwa --item „%1=100“; solche ohne Betrag entfallen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is given twice.</source>
+        <translation>„%1“ ist doppelt angegeben.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no goal, and has no target.</source>
+        <translation>„%1“ ist kein Ziel und hat keinen Zielbetrag.</translation>
+    </message>
+    <message>
+        <source>The template has no item &apos;%1&apos;</source>
+        <translation>Die Vorlage hat keinen Posten „%1“</translation>
+    </message>
+    <message>
+        <source>The template has several items &apos;%1&apos;; write one of: %2.</source>
+        <translation>Die Vorlage hat mehrere Posten „%1“; einen davon schreiben: %2.</translation>
     </message>
 </context>
 <context>

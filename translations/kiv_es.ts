@@ -3394,10 +3394,6 @@
         <translation>Números de los asientos</translation>
     </message>
     <message>
-        <source>Amount, in the currency of the account it goes to</source>
-        <translation>Importe, en la moneda de la cuenta a la que va</translation>
-    </message>
-    <message>
         <source>Number of the transaction to refund</source>
         <translation>Número del asiento que se reembolsa</translation>
     </message>
@@ -5037,6 +5033,282 @@
     <message>
         <source>Pay</source>
         <translation>Pagar</translation>
+    </message>
+    <message>
+        <source>Weekly shopping</source>
+        <translation>Compra semanal</translation>
+    </message>
+    <message>
+        <source>Bakery</source>
+        <translation>Panadería</translation>
+    </message>
+    <message>
+        <source>Noodle house</source>
+        <translation>Casa de los fideos</translation>
+    </message>
+    <message>
+        <source>Castle pharmacy</source>
+        <translation>Farmacia del castillo</translation>
+    </message>
+    <message>
+        <source>Furniture store</source>
+        <translation>Tienda de muebles</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lámpara</translation>
+    </message>
+    <message>
+        <source>Village shop</source>
+        <translation>Tienda del pueblo</translation>
+    </message>
+    <message>
+        <source>Corner market</source>
+        <translation>Mercado de la esquina</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Ahorro mensual</translation>
+    </message>
+    <message>
+        <source>Cash machine</source>
+        <translation>Cajero</translation>
+    </message>
+    <message>
+        <source>Card bill</source>
+        <translation>Liquidación de la tarjeta</translation>
+    </message>
+    <message>
+        <source>Interest</source>
+        <translation>Intereses</translation>
+    </message>
+    <message>
+        <source>Account given up</source>
+        <translation>Cuenta abandonada</translation>
+    </message>
+    <message>
+        <source>Harbour hotel</source>
+        <translation>Hotel del puerto</translation>
+    </message>
+    <message>
+        <source>Holiday</source>
+        <translation>Vacaciones</translation>
+    </message>
+    <message>
+        <source>Travel money</source>
+        <translation>Dinero para el viaje</translation>
+    </message>
+    <message>
+        <source>A split has at least two parts.</source>
+        <translation>Un reparto tiene al menos dos partes.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is kept in %2; give its amount in %2 instead of %3.</source>
+        <translation>«%1» se lleva en %2; indicar su importe en %2 en lugar de %3.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; are both kept in %3, so nothing is exchanged; move one amount.</source>
+        <translation>«%1» y «%2» se llevan en %3, así que no se cambia nada; traspasar un solo importe.</translation>
+    </message>
+    <message>
+        <source>The %1 &apos;%2&apos; could not be added.</source>
+        <translation>No se pudo añadir «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>The demonstration ends today or on a day before, not on %1.</source>
+        <translation>La demostración termina hoy o un día anterior, no el %1.</translation>
+    </message>
+    <message>
+        <source>Salary</source>
+        <translation>Nómina</translation>
+    </message>
+    <message>
+        <source>Evening classes</source>
+        <translation>Clases nocturnas</translation>
+    </message>
+    <message>
+        <source>Rent</source>
+        <translation>Alquiler</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <translation>vivienda</translation>
+    </message>
+    <message>
+        <source>Telephone</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Internet</source>
+        <translation>Internet</translation>
+    </message>
+    <message>
+        <source>Bus pass</source>
+        <translation>Abono de autobús</translation>
+    </message>
+    <message>
+        <source>travel</source>
+        <translation>transporte</translation>
+    </message>
+    <message>
+        <source>Fitness studio</source>
+        <translation>Gimnasio</translation>
+    </message>
+    <message>
+        <source>leisure</source>
+        <translation>ocio</translation>
+    </message>
+    <message>
+        <source>Home insurance</source>
+        <translation>Seguro del hogar</translation>
+    </message>
+    <message>
+        <source>Car tax</source>
+        <translation>Impuesto del coche</translation>
+    </message>
+    <message>
+        <source>Pocket money</source>
+        <translation>Dinero de bolsillo</translation>
+    </message>
+    <message>
+        <source>Bicycle</source>
+        <translation>Bicicleta</translation>
+    </message>
+    <message>
+        <source>Car loan</source>
+        <translation>Préstamo del coche</translation>
+    </message>
+    <message>
+        <source>Family loan</source>
+        <translation>Préstamo familiar</translation>
+    </message>
+    <message>
+        <source>Town Bank</source>
+        <translation>Banco de la ciudad</translation>
+    </message>
+    <message>
+        <source>Lake Bank</source>
+        <translation>Banco del lago</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Cuenta corriente</translation>
+    </message>
+    <message>
+        <source>Credit card</source>
+        <translation>Tarjeta de crédito</translation>
+    </message>
+    <message>
+        <source>Savings</source>
+        <translation>Cuenta de ahorro</translation>
+    </message>
+    <message>
+        <source>Old savings</source>
+        <translation>Cuenta de ahorro antigua</translation>
+    </message>
+    <message>
+        <source>Travel cash</source>
+        <translation>Efectivo de viaje</translation>
+    </message>
+    <message>
+        <source>Cash</source>
+        <translation>Efectivo</translation>
+    </message>
+    <message>
+        <source>Groceries</source>
+        <translation>Comida</translation>
+    </message>
+    <message>
+        <source>Furniture</source>
+        <translation>Muebles</translation>
+    </message>
+    <message>
+        <source>Eating out</source>
+        <translation>Restaurantes</translation>
+    </message>
+    <message>
+        <source>Pharmacy</source>
+        <translation>Farmacia</translation>
+    </message>
+    <message>
+        <source>Travelling</source>
+        <translation>Viajes</translation>
+    </message>
+    <message>
+        <source>Exchanged %1 for %2.</source>
+        <translation>Se cambiaron %1 por %2.</translation>
+    </message>
+    <message>
+        <source>exchanging %1 for %2</source>
+        <translation>cambiar %1 por %2</translation>
+    </message>
+    <message>
+        <source>Last day of its year (default: today)</source>
+        <translation>Último día del año (por defecto: hoy)</translation>
+    </message>
+    <message>
+        <source>Created the demonstration</source>
+        <translation>Se creó la demostración</translation>
+    </message>
+    <message>
+        <source>Created the demonstration &apos;%1&apos;: a year of a household until %2.</source>
+        <translation>Se creó la demostración «%1»: un año de un hogar hasta el %2.</translation>
+    </message>
+    <message>
+        <source>Create the budget of a made-up household, to try things out</source>
+        <translation>Crear el presupuesto de un hogar inventado, para probar</translation>
+    </message>
+    <message>
+        <source>Amount, in the currency of the account it goes to; with --received, in that of the account it leaves</source>
+        <translation>Importe, en la moneda de la cuenta a la que va; con --received, en la de la cuenta de la que sale</translation>
+    </message>
+    <message>
+        <source>Amount that arrived, in another currency: both amounts as the bank booked them</source>
+        <translation>Importe que llegó, en otra moneda: ambos importes como los registró el banco</translation>
+    </message>
+    <message>
+        <source>Part of what was spent, or with --to earned, such as Food=40 (repeatable)</source>
+        <translation>Parte de lo gastado o, con --to, de lo ingresado, como Comida=40 (repetible)</translation>
+    </message>
+    <message>
+        <source>With --split, account that paid (default: that of the last time for the first part, or else the first checking account)</source>
+        <translation>Con --split, cuenta que pagó (por defecto: la de la última vez para la primera parte o, si no, la primera cuenta corriente)</translation>
+    </message>
+    <message>
+        <source>With --split, account that got the money</source>
+        <translation>Con --split, cuenta que recibió el dinero</translation>
+    </message>
+    <message>
+        <source>With --split, who got or gave the money</source>
+        <translation>Con --split, quién recibió o dio el dinero</translation>
+    </message>
+    <message>
+        <source>With --split, what it was for</source>
+        <translation>Con --split, para qué fue</translation>
+    </message>
+    <message>
+        <source>Amount of an item of the template, such as &apos;Rent=900&apos;, &apos;Rent=900 2026-03-31&apos; or &apos;goal:Car=50 of 900&apos; (repeatable); items without one are left out</source>
+        <translation>Importe de una partida de la plantilla, como «Alquiler=900», «Alquiler=900 2026-03-31» o «goal:Coche=50 of 900» (repetible); las partidas sin importe se omiten</translation>
+    </message>
+    <message>
+        <source>Give its items amounts, such as --item &apos;%1=100&apos;; those without one are left out.</source>
+        <translation>Dar importes a sus partidas, como --item «%1=100»; las que no tienen importe se omiten.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is given twice.</source>
+        <translation>«%1» se indica dos veces.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is no goal, and has no target.</source>
+        <translation>«%1» no es una meta y no tiene importe de la meta.</translation>
+    </message>
+    <message>
+        <source>The template has no item &apos;%1&apos;</source>
+        <translation>La plantilla no tiene ninguna partida «%1»</translation>
+    </message>
+    <message>
+        <source>The template has several items &apos;%1&apos;; write one of: %2.</source>
+        <translation>La plantilla tiene varias partidas «%1»; escribir una de: %2.</translation>
     </message>
 </context>
 <context>
