@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/document/bank_steps.h"
 
+#include "workbench/requests/other_day.h"
+
 namespace kiv::workbench {
 
 using accounting::AccountCode;
@@ -28,6 +30,21 @@ void keep(Requests &requests, const BankName &name, Bank::Accounts accounts)
 }
 
 } // namespace
+
+void addBank(Requests &requests, const BankName &name)
+{
+    requests.change(bankOutcome, &Navigator::onBankAdded, Bank(name, {}, false));
+}
+
+void renameBank(Requests &requests, const BankName &name, const BankName &to)
+{
+    requests.change(bankOutcome, &Navigator::onBankRenamed, name, to);
+}
+
+void removeBank(Requests &requests, const BankName &name)
+{
+    requests.change(bankOutcome, &Navigator::onBankRemoved, name);
+}
 
 void closeBank(Requests &requests, const BankName &name)
 {
@@ -65,6 +82,17 @@ void openBank(Requests &requests, const BankName &name)
         for (const AccountCode &code : closedAccounts(requests, bank))
             requests.change(accountOutcome, &Navigator::onOpened, code);
     }
+}
+
+accounting::AccountNumber addBankAccount(Document &document, const NewBankAccount &account)
+{
+    Requests &requests = document.requests();
+    const auto answers = requests.change(bankAccountOutcome, &Navigator::onAddedBankAccount,
+                                         account.name, account.kind, account.opening);
+    const accounting::AccountNumber added = std::get<AccountCode>(answers.front()).number();
+    attachBankAccount(document, account.bank, added, account.kind);
+    openOn(requests, added, account.openedOn);
+    return added;
 }
 
 void attachBankAccount(Document &document, const BankName &bank, accounting::AccountNumber account,

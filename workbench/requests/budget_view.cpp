@@ -4,6 +4,7 @@
 #include "workbench/entry/kind_words.h"
 #include "workbench/entry/similar.h"
 #include "workbench/internal/faults.h"
+#include "workbench/requests/paying_account.h"
 
 namespace kiv::workbench {
 
@@ -42,7 +43,42 @@ struct ItemView<budgeting::Wage> {
     static constexpr auto slot = &navigation::Navigator::onPrepareShowWages;
 };
 
+/// The bank account that the item is linked to: a debt's own account, and of a goal the one
+/// under which its own lies.
+std::optional<banking::BankAccount> linkOf(const storage::BudgetStorage::Data &data,
+                                           const BudgetItemIdentifier &id)
+{
+    const auto keptBy =
+        [&data](accounting::AccountNumber number) -> std::optional<banking::BankAccount> {
+        const auto bank = data.banks.find(number);
+        if (!bank)
+            return std::nullopt;
+        return banking::BankAccount{*bank, {number, data.banks.bank(*bank).accounts().at(number)}};
+    };
+    const auto number = accountOf(data, id);
+    if (!number || !data.generalLedger.hasLedger(*number))
+        return std::nullopt;
+    const auto own = keptBy(*number);
+    const auto parent = data.generalLedger.ledger(*number).code().parent();
+    const auto above = parent ? keptBy(*parent) : std::nullopt;
+    return id.type == BudgetItemTypes::Goal ? (above ? above : own) : (own ? own : above);
+}
+
 } // namespace
+
+BudgetView::BudgetView(const storage::BudgetStorage::Data &data) : m_budget(data.budget)
+{
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        constexpr BudgetItemTypes kind = budgeting::ItemTraits<Item>::type;
+        m_tags.emplace(kind, data.itemTags.ofType(kind));
+        if constexpr (budgeting::BankTiedItem<Item>) {
+            for (const auto &[source, item] : data.budget.items<Item>()) {
+                if (const auto link = linkOf(data, {kind, source}))
+                    m_bankAccounts.insert({kind, source, *link});
+            }
+        }
+    });
+}
 
 BudgetView::BudgetView(Requests &requests)
 {

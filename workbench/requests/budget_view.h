@@ -4,6 +4,7 @@
 #include "workbench/requests/requests.h"
 
 #include "budgeting/budget.h"
+#include "storage/budget_storage.h"
 
 namespace kiv::workbench {
 
@@ -13,6 +14,8 @@ public:
     /// Asks for all five kinds. Throws what the slots throw, such as a missing exchange
     /// rate.
     explicit BudgetView(Requests &requests);
+    /// Reads them from a budget in memory, which takes no exchange rate.
+    explicit BudgetView(const storage::BudgetStorage::Data &data);
 
     /// All items.
     [[nodiscard]] const budgeting::Budget &budget() const noexcept { return m_budget; }

@@ -3,6 +3,8 @@
 
 #include "workbench/requests/other_day.h"
 
+#include <stdexcept>
+
 namespace kiv::workbench {
 
 using banking::BankAccount;
@@ -61,6 +63,11 @@ Item merged(const Item &present, const ItemValues &given)
     if (given.dayOfMonth)
         made.setDayOfMonth(*given.dayOfMonth);
     return made;
+}
+
+std::logic_error unknownKind()
+{
+    return std::logic_error("An item of an unknown kind cannot be changed.");
 }
 
 } // namespace
@@ -128,5 +135,33 @@ template void updateItem(Requests &, GuiElementIdentifier, const BudgetView &, c
                          const ItemValues &);
 template void updateItem(Requests &, GuiElementIdentifier, const BudgetView &, const Wage &,
                          const ItemValues &);
+
+void addItem(Requests &requests, GuiElementIdentifier caller, const BudgetItemIdentifier &id,
+             const ItemValues &given, QDate day, const std::optional<QDate> &openedOn)
+{
+    budgeting::visitItemClass(id.type, unknownKind, [&]<typename Item>(std::type_identity<Item>) {
+        addItem<Item>(requests, caller, id.source.name(), given, day, openedOn);
+    });
+}
+
+void updateItem(Requests &requests, GuiElementIdentifier caller, const BudgetView &view,
+                const BudgetItemIdentifier &id, const ItemValues &given)
+{
+    budgeting::visitItemClass(id.type, unknownKind, [&]<typename Item>(std::type_identity<Item>) {
+        const auto &present = dynamic_cast<const Item &>(view.find(id.source.name(), id.type));
+        updateItem(requests, caller, view, present, given);
+    });
+}
+
+void renameItem(Requests &requests, GuiElementIdentifier caller, const BudgetItemIdentifier &id,
+                const BudgetSource &name)
+{
+    requests.change(itemOutcome, &Navigator::onRenamed, caller, id.type, id.source, name);
+}
+
+void removeItem(Requests &requests, GuiElementIdentifier caller, const BudgetItemIdentifier &id)
+{
+    requests.change(itemOutcome, &Navigator::onRemoved, caller, id.type, id.source);
+}
 
 } // namespace kiv::workbench

@@ -39,4 +39,22 @@ KIV_WORKBENCH_EXPORT void updateItem(Requests &requests, navigation::GuiElementI
                                      const BudgetView &view, const Item &present,
                                      const ItemValues &given);
 
+/// addItem() for an item of this kind.
+KIV_WORKBENCH_EXPORT void addItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                  const budgeting::BudgetItemIdentifier &id,
+                                  const ItemValues &given, QDate day,
+                                  const std::optional<QDate> &openedOn);
+/// updateItem() for the item of this kind and name. Throws a Refusal also if there is none.
+KIV_WORKBENCH_EXPORT void updateItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                     const BudgetView &view,
+                                     const budgeting::BudgetItemIdentifier &id,
+                                     const ItemValues &given);
+/// Gives an item another name. Throws a Refusal.
+KIV_WORKBENCH_EXPORT void renameItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                     const budgeting::BudgetItemIdentifier &id,
+                                     const budgeting::BudgetSource &name);
+/// Removes an item. Throws a Refusal.
+KIV_WORKBENCH_EXPORT void removeItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                     const budgeting::BudgetItemIdentifier &id);
+
 } // namespace kiv::workbench

@@ -5,7 +5,7 @@
 
 #include "output/json.h"
 
-#include "workbench/requests/other_day.h"
+#include "workbench/requests/account_changes.h"
 
 namespace kiv::app {
 
@@ -182,16 +182,13 @@ struct AddAccount {
     Report run(Call &call) const
     {
         Requests &requests = call.requests;
-        const AccountIndex index = requests.accounts();
         const numira::Currency code = currency.value_or(requests.preferredCurrency());
-        const AccountNumber chosen = number.value_or(index.nextNumber());
         std::optional<AccountNumber> under;
         if (parent)
-            under = index.find(*parent).code().number();
+            under = requests.accounts().find(*parent).code().number();
         const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
-        requests.change(workbench::accountOutcome, &Navigator::onAddedAct,
-                        Account(type, AccountCode(chosen, name.text, under), opening, false));
-        workbench::openOn(requests, chosen, call.options.date);
+        const AccountNumber chosen = workbench::addAccount(
+            requests, {name.text, type, opening, number, under, call.options.date});
         return accountReport(requests, chosen,
                              QObject::tr("Added the account %1 %2.")
                                  .arg(accounting::presentationText(chosen), name.text));

@@ -6,7 +6,6 @@
 #include "output/json.h"
 
 #include "workbench/document/bank_steps.h"
-#include "workbench/requests/other_day.h"
 
 namespace kiv::app {
 
@@ -64,10 +63,9 @@ struct AddBank {
     }
     Report run(Call &call) const
     {
-        const Bank bank(BankName(name.text), {}, false);
-        call.requests.change(workbench::bankOutcome, &Navigator::onBankAdded, bank);
-        return bankReport(call.requests, bank.name(),
-                          QObject::tr("Added the bank '%1'.").arg(name.text));
+        const BankName bank(name.text);
+        workbench::addBank(call.requests, bank);
+        return bankReport(call.requests, bank, QObject::tr("Added the bank '%1'.").arg(name.text));
     }
 };
 
@@ -84,7 +82,7 @@ struct RenameBank {
     {
         const BankName to(name.text);
         const BankName present = call.requests.bank(bank).name();
-        call.requests.change(workbench::bankOutcome, &Navigator::onBankRenamed, present, to);
+        workbench::renameBank(call.requests, present, to);
         return bankReport(call.requests, to,
                           QObject::tr("The bank is now called '%1'.").arg(name.text));
     }
@@ -107,11 +105,6 @@ struct BankVerb {
         return bankReport(call.requests, name, sentence.arg(bank));
     }
 };
-
-void removeBank(Requests &requests, const BankName &name)
-{
-    requests.change(workbench::bankOutcome, &Navigator::onBankRemoved, name);
-}
 
 struct AddBankAccount {
     NewName name;
@@ -137,15 +130,12 @@ struct AddBankAccount {
         const Bank keeper = requests.bank(bank);
         const numira::Currency code = currency.value_or(requests.preferredCurrency());
         const numira::Money opening = balance ? balance->in(code) : numira::Money(code);
-        const auto answers =
-            requests.change(workbench::bankAccountOutcome, &Navigator::onAddedBankAccount,
-                            name.text, type, opening);
-        const AccountCode added = std::get<AccountCode>(answers.front());
-        workbench::attachBankAccount(call.document, keeper.name(), added.number(), type);
-        workbench::openOn(requests, added.number(), call.options.date);
-        return accountReport(requests, added.number(),
-                             QObject::tr("Added the account %1 to the bank '%2'.")
-                                 .arg(accounting::presentationText(added), bank));
+        const AccountNumber added = workbench::addBankAccount(
+            call.document, {name.text, keeper.name(), type, opening, call.options.date});
+        return accountReport(
+            requests, added,
+            QObject::tr("Added the account %1 to the bank '%2'.")
+                .arg(accounting::presentationText(AccountCode(added, name.text, {})), bank));
     }
 };
 
@@ -208,7 +198,7 @@ void addBankCommands(CommandGroup &root)
     bank.add("open", QObject::tr("Reopen a bank and its accounts"), Change,
              BankVerb{workbench::openBank, QObject::tr("Opened the bank '%1' again.")});
     bank.add("remove", QObject::tr("Remove a bank and its accounts"), Change,
-             BankVerb{removeBank, QObject::tr("Removed the bank '%1'.")});
+             BankVerb{workbench::removeBank, QObject::tr("Removed the bank '%1'.")});
 
     CommandGroup account =
         root.group("bank-account", QObject::tr("Add, change or remove an account of a bank"));

@@ -14,7 +14,6 @@ using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetSource;
 using budgeting::EventFrequency;
 using budgeting::ItemTraits;
-using navigation::Navigator;
 using workbench::ItemValues;
 
 namespace {
@@ -177,8 +176,7 @@ struct RenameItem {
     {
         const BudgetItemIdentifier id{ItemTraits<Item>::type, BudgetSource(changed.text)};
         const BudgetSource present = BudgetView(call.requests).find(name, id.type).source();
-        call.requests.change(workbench::itemOutcome, &Navigator::onRenamed, caller, id.type,
-                             present, id.source);
+        workbench::renameItem(call.requests, caller, {id.type, present}, id.source);
         return itemReport(call.requests, id,
                           QObject::tr("The %1 '%2' is now called '%3'.")
                               .arg(kindText(ItemTraits<Item>::type), name, changed.text));
@@ -194,8 +192,7 @@ struct RemoveItem {
     {
         const BudgetView view(call.requests);
         const QJsonObject json = toJson(view.find(name, ItemTraits<Item>::type), view);
-        call.requests.change(workbench::itemOutcome, &Navigator::onRemoved, caller,
-                             ItemTraits<Item>::type, BudgetSource(name));
+        workbench::removeItem(call.requests, caller, {ItemTraits<Item>::type, BudgetSource(name)});
         return Report(json).line(
             QObject::tr("Removed the %1 '%2'.").arg(kindText(ItemTraits<Item>::type), name));
     }

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/export.h"
+
+#include "storage/budget_storage.h"
+
+#include <map>
+#include <optional>
+
+/// What can be told of budget items in figures.
+namespace kiv::workbench {
+
+/// How far a debt or a goal has come.
+struct ItemProgress {
+    numira::Money part;  ///< what is saved, or still owed: the balance of its account
+    numira::Money whole; ///< the target, or what was borrowed
+    /// How much of the whole is saved or paid off, from 0 to 100 and rounded down. Nothing if
+    /// the whole is not positive, or in another currency than the part.
+    std::optional<int> percent;
+
+    /// Whether the goal is reached or the debt paid off.
+    [[nodiscard]] bool isReached() const { return percent == 100; }
+};
+
+/// The progress of a debt or a goal; nothing for other items, and without an account.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<ItemProgress>
+progressOf(const storage::BudgetStorage::Data &data, const budgeting::BudgetedMoney &item);
+
+/// What the items of one kind come to a month, as the dashboard has it: in `preferred`, or by
+/// currencies where an exchange rate is missing.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::map<numira::Currency, numira::Money>
+monthlyTotals(const budgeting::Budget &budget, budgeting::BudgetItemTypes kind,
+              const numira::Currency &preferred);
+
+} // namespace kiv::workbench
