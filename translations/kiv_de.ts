@@ -4920,28 +4920,8 @@
         <translation>Versionen der Datei</translation>
     </message>
     <message>
-        <source>There are no bills; kiv bill add makes one.</source>
-        <translation>Es gibt keine Rechnungen; kiv bill add legt eine an.</translation>
-    </message>
-    <message>
-        <source>There are no debts; kiv debt add makes one.</source>
-        <translation>Es gibt keine Schulden; kiv debt add legt eine an.</translation>
-    </message>
-    <message>
-        <source>There are no goals; kiv goal add makes one.</source>
-        <translation>Es gibt keine Ziele; kiv goal add legt eines an.</translation>
-    </message>
-    <message>
         <source>Free spending</source>
         <translation>Freie Ausgaben</translation>
-    </message>
-    <message>
-        <source>There is no free spending; kiv nontrack add makes it.</source>
-        <translation>Es gibt keine freien Ausgaben; kiv nontrack add legt sie an.</translation>
-    </message>
-    <message>
-        <source>There are no wages; kiv wage add makes one.</source>
-        <translation>Es gibt keine Löhne; kiv wage add legt einen an.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -4958,10 +4938,6 @@
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>no accounts</source>
-        <translation>keine Konten</translation>
     </message>
     <message>
         <source>unchanged since</source>
@@ -4985,10 +4961,6 @@
     <message>
         <source>of today</source>
         <translation>von heute</translation>
-    </message>
-    <message>
-        <source>There are no banks; kiv bank add makes one.</source>
-        <translation>Es gibt keine Banken; kiv bank add legt eine an.</translation>
     </message>
     <message>
         <source>Reconciliations</source>
@@ -5310,6 +5282,129 @@
         <source>The template has several items &apos;%1&apos;; write one of: %2.</source>
         <translation>Die Vorlage hat mehrere Posten „%1“; einen davon schreiben: %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message>
+        <source>Bank or account</source>
+        <translation>Bank oder Konto</translation>
+    </message>
+    <message>
+        <source>There are no bills yet: what must be paid, such as rent.</source>
+        <translation>Noch keine Rechnungen: was bezahlt werden muss, wie die Miete.</translation>
+    </message>
+    <message>
+        <source>There are no debts yet: money that you pay back.</source>
+        <translation>Noch keine Schulden: Geld, das zurückgezahlt wird.</translation>
+    </message>
+    <message>
+        <source>There are no goals yet: what you save for.</source>
+        <translation>Noch keine Ziele: wofür gespart wird.</translation>
+    </message>
+    <message>
+        <source>There is no free spending yet: money that you spend without noting each purchase.</source>
+        <translation>Noch keine freien Ausgaben: Geld, das ausgegeben wird, ohne jeden Kauf zu notieren.</translation>
+    </message>
+    <message>
+        <source>There are no wages yet: money that comes in.</source>
+        <translation>Noch keine Löhne: Geld, das hereinkommt.</translation>
+    </message>
+    <message>
+        <source>paid off</source>
+        <translation>abbezahlt</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>erreicht: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 % paid off)</source>
+        <translation>%1 (%2 % abbezahlt)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %)</source>
+        <translation>%1 (%2 %)</translation>
+    </message>
+    <message>
+        <source>Together a month: %1</source>
+        <translation>Zusammen im Monat: %1</translation>
+    </message>
+    <message>
+        <source>New %1</source>
+        <translation>Neu: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::AccountForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>N&amp;ame:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>N&amp;umber (may be empty):</source>
+        <translation>Nu&amp;mmer (kann leer sein):</translation>
+    </message>
+    <message>
+        <source>&amp;Part of (may be empty):</source>
+        <translation>Teil &amp;von (kann leer sein):</translation>
+    </message>
+    <message>
+        <source>Ba&amp;lance at first:</source>
+        <translation>Anfangssa&amp;ldo:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>Am &amp;Tag:</translation>
+    </message>
+    <message>
+        <source>money is spent on it</source>
+        <translation>dafür wird Geld ausgegeben</translation>
+    </message>
+    <message>
+        <source>money comes from it</source>
+        <translation>von dort kommt Geld</translation>
+    </message>
+    <message>
+        <source>you own it</source>
+        <translation>es gehört dem Haushalt</translation>
+    </message>
+    <message>
+        <source>you owe it</source>
+        <translation>es wird geschuldet</translation>
+    </message>
+    <message>
+        <source>New account</source>
+        <translation>Neues Konto</translation>
+    </message>
+    <message>
+        <source>Change the account “%1”</source>
+        <translation>Konto „%1“ ändern</translation>
+    </message>
+    <message>
+        <source>Added the account “%1”.</source>
+        <translation>Konto „%1“ angelegt.</translation>
+    </message>
+    <message>
+        <source>adding the account “%1”</source>
+        <translation>das Konto „%1“ anlegen</translation>
+    </message>
+    <message>
+        <source>Changed the account “%1”.</source>
+        <translation>Konto „%1“ geändert.</translation>
+    </message>
+    <message>
+        <source>changing the account “%1”</source>
+        <translation>das Konto „%1“ ändern</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -5324,6 +5419,58 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Es gibt noch keine Konten. Sie kommen mit Banken und mit den Posten des Budgets.</translation>
+    </message>
+    <message>
+        <source>&amp;New account</source>
+        <translation>N&amp;eues Konto</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Ände&amp;rn</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>It belongs to the item “%1” and is changed with it, on the page of items.</source>
+        <translation>Es gehört zum Posten „%1“ und wird mit ihm auf der Seite der Posten geändert.</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>Es ist keine Zeile gewählt.</translation>
+    </message>
+    <message>
+        <source>&amp;Open again</source>
+        <translation>&amp;Wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Opened “%1” again.</source>
+        <translation>„%1“ wieder geöffnet.</translation>
+    </message>
+    <message>
+        <source>opening “%1”</source>
+        <translation>„%1“ wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Closed “%1”.</source>
+        <translation>„%1“ geschlossen.</translation>
+    </message>
+    <message>
+        <source>closing “%1”</source>
+        <translation>„%1“ schließen</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>„%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>„%1“ entfernen</translation>
     </message>
 </context>
 <context>
@@ -5351,6 +5498,180 @@
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::BankForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>N&amp;ame:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>K&amp;onto:</translation>
+    </message>
+    <message>
+        <source>&amp;Bank:</source>
+        <translation>Ban&amp;k:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>A&amp;rt:</translation>
+    </message>
+    <message>
+        <source>Ba&amp;lance at first:</source>
+        <translation>Anfangssa&amp;ldo:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>Am &amp;Tag:</translation>
+    </message>
+    <message>
+        <source>New bank</source>
+        <translation>Neue Bank</translation>
+    </message>
+    <message>
+        <source>Another name for the bank</source>
+        <translation>Ein anderer Name für die Bank</translation>
+    </message>
+    <message>
+        <source>New account at a bank</source>
+        <translation>Neues Konto bei einer Bank</translation>
+    </message>
+    <message>
+        <source>An account that is already here belongs to a bank</source>
+        <translation>Ein vorhandenes Konto gehört zu einer Bank</translation>
+    </message>
+    <message>
+        <source>Name and kind of the account</source>
+        <translation>Name und Art des Kontos</translation>
+    </message>
+    <message>
+        <source>This account has the name of its item.</source>
+        <translation>Dieses Konto hat den Namen seines Postens.</translation>
+    </message>
+    <message>
+        <source>Added the bank “%1”.</source>
+        <translation>Bank „%1“ angelegt.</translation>
+    </message>
+    <message>
+        <source>adding the bank “%1”</source>
+        <translation>die Bank „%1“ anlegen</translation>
+    </message>
+    <message>
+        <source>The bank “%1” is now called “%2”.</source>
+        <translation>Die Bank „%1“ heißt jetzt „%2“.</translation>
+    </message>
+    <message>
+        <source>renaming “%1” to “%2”</source>
+        <translation>„%1“ in „%2“ umbenennen</translation>
+    </message>
+    <message>
+        <source>Added the account “%1” at “%2”.</source>
+        <translation>Konto „%1“ bei „%2“ angelegt.</translation>
+    </message>
+    <message>
+        <source>adding the account “%1”</source>
+        <translation>das Konto „%1“ anlegen</translation>
+    </message>
+    <message>
+        <source>Choose an account.</source>
+        <translation>Ein Konto wählen.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to the bank “%2”.</source>
+        <translation>„%1“ gehört zur Bank „%2“.</translation>
+    </message>
+    <message>
+        <source>assigning “%1” to “%2”</source>
+        <translation>„%1“ der Bank „%2“ zuordnen</translation>
+    </message>
+    <message>
+        <source>Changed the account “%1”.</source>
+        <translation>Konto „%1“ geändert.</translation>
+    </message>
+    <message>
+        <source>changing the account “%1”</source>
+        <translation>das Konto „%1“ ändern</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::BanksPage</name>
+    <message>
+        <source>Banks</source>
+        <translation>Banken</translation>
+    </message>
+    <message>
+        <source>&amp;New bank</source>
+        <translation>N&amp;eue Bank</translation>
+    </message>
+    <message>
+        <source>&amp;Add an account</source>
+        <translation>Konto h&amp;inzufügen</translation>
+    </message>
+    <message>
+        <source>Ass&amp;ign an account</source>
+        <translation>Konto &amp;zuordnen</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Ände&amp;rn</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Separate from &amp;bank</source>
+        <translation>Von der Bank &amp;lösen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>There are no banks yet. A bank keeps your accounts, as its statements show them.</source>
+        <translation>Noch keine Banken. Eine Bank führt Konten, wie ihre Kontoauszüge sie zeigen.</translation>
+    </message>
+    <message>
+        <source>This is for an account.</source>
+        <translation>Das ist für ein Konto.</translation>
+    </message>
+    <message>
+        <source>&amp;Open again</source>
+        <translation>&amp;Wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Opened “%1” again.</source>
+        <translation>„%1“ wieder geöffnet.</translation>
+    </message>
+    <message>
+        <source>opening “%1”</source>
+        <translation>„%1“ wieder öffnen</translation>
+    </message>
+    <message>
+        <source>Closed “%1”.</source>
+        <translation>„%1“ geschlossen.</translation>
+    </message>
+    <message>
+        <source>closing “%1”</source>
+        <translation>„%1“ schließen</translation>
+    </message>
+    <message>
+        <source>Separated “%1” from its bank.</source>
+        <translation>„%1“ von seiner Bank gelöst.</translation>
+    </message>
+    <message>
+        <source>separating “%1” from its bank</source>
+        <translation>„%1“ von seiner Bank lösen</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>„%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>„%1“ entfernen</translation>
     </message>
 </context>
 <context>
@@ -5834,6 +6155,143 @@
     <message>
         <source>Show: %1</source>
         <translation>Zeigen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ItemForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>N&amp;ame:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount each time:</source>
+        <translation>Be&amp;trag jedes Mal:</translation>
+    </message>
+    <message>
+        <source>Ho&amp;w often:</source>
+        <translation>&amp;Wie oft:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt on:</source>
+        <translation>Nä&amp;chstes Mal am:</translation>
+    </message>
+    <message>
+        <source>Am&amp;ount borrowed:</source>
+        <translation>Ge&amp;liehener Betrag:</translation>
+    </message>
+    <message>
+        <source>Owe&amp;d since:</source>
+        <translation>G&amp;eschuldet seit:</translation>
+    </message>
+    <message>
+        <source>&amp;Bank:</source>
+        <translation>Ban&amp;k:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of debt:</source>
+        <translation>A&amp;rt der Schuld:</translation>
+    </message>
+    <message>
+        <source>Tags, with co&amp;mmas:</source>
+        <translation>Schlagwörter, mit Ko&amp;mmas:</translation>
+    </message>
+    <message>
+        <source>T&amp;o be reached:</source>
+        <translation>Z&amp;ielbetrag:</translation>
+    </message>
+    <message>
+        <source>Owed to the &amp;bank:</source>
+        <translation>Geschuldet der Ban&amp;k:</translation>
+    </message>
+    <message>
+        <source>Kept in the &amp;bank account:</source>
+        <translation>Auf dem Ban&amp;kkonto:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The debt is at no bank.</source>
+        <translation>Die Schuld ist bei keiner Bank.</translation>
+    </message>
+    <message>
+        <source>The page of banks corrects the kind of an account.</source>
+        <translation>Die Art eines Kontos wird auf der Seite der Banken berichtigt.</translation>
+    </message>
+    <message>
+        <source>Added the %1 “%2”.</source>
+        <translation>Angelegt: „%2“ (%1).</translation>
+    </message>
+    <message>
+        <source>adding the %1 “%2”</source>
+        <translation>„%2“ (%1) anlegen</translation>
+    </message>
+    <message>
+        <source>Changed the %1 “%2”.</source>
+        <translation>Geändert: „%2“ (%1).</translation>
+    </message>
+    <message>
+        <source>changing the %1 “%2”</source>
+        <translation>„%2“ (%1) ändern</translation>
+    </message>
+    <message>
+        <source>The %1 “%2” is now called “%3”.</source>
+        <translation>„%2“ (%1) heißt jetzt „%3“.</translation>
+    </message>
+    <message>
+        <source>renaming “%1” to “%2”</source>
+        <translation>„%1“ in „%2“ umbenennen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ItemsPage</name>
+    <message>
+        <source>Items</source>
+        <translation>Posten</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>N&amp;eu</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Ände&amp;rn</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Kinds of items</source>
+        <translation>Arten von Posten</translation>
+    </message>
+    <message>
+        <source>Removed the %1 “%2”.</source>
+        <translation>Entfernt: „%2“ (%1).</translation>
+    </message>
+    <message>
+        <source>removing the %1 “%2”</source>
+        <translation>„%2“ (%1) entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ListPage</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>Es ist keine Zeile gewählt.</translation>
     </message>
 </context>
 <context>

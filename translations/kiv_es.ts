@@ -4920,28 +4920,8 @@
         <translation>Versiones del archivo</translation>
     </message>
     <message>
-        <source>There are no bills; kiv bill add makes one.</source>
-        <translation>No hay facturas; kiv bill add crea una.</translation>
-    </message>
-    <message>
-        <source>There are no debts; kiv debt add makes one.</source>
-        <translation>No hay deudas; kiv debt add crea una.</translation>
-    </message>
-    <message>
-        <source>There are no goals; kiv goal add makes one.</source>
-        <translation>No hay metas; kiv goal add crea una.</translation>
-    </message>
-    <message>
         <source>Free spending</source>
         <translation>Gasto libre</translation>
-    </message>
-    <message>
-        <source>There is no free spending; kiv nontrack add makes it.</source>
-        <translation>No hay gasto libre; kiv nontrack add lo crea.</translation>
-    </message>
-    <message>
-        <source>There are no wages; kiv wage add makes one.</source>
-        <translation>No hay salarios; kiv wage add crea uno.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -4958,10 +4938,6 @@
     <message>
         <source>Progress</source>
         <translation>Progreso</translation>
-    </message>
-    <message>
-        <source>no accounts</source>
-        <translation>sin cuentas</translation>
     </message>
     <message>
         <source>unchanged since</source>
@@ -4985,10 +4961,6 @@
     <message>
         <source>of today</source>
         <translation>de hoy</translation>
-    </message>
-    <message>
-        <source>There are no banks; kiv bank add makes one.</source>
-        <translation>No hay bancos; kiv bank add crea uno.</translation>
     </message>
     <message>
         <source>Reconciliations</source>
@@ -5310,6 +5282,129 @@
         <source>The template has several items &apos;%1&apos;; write one of: %2.</source>
         <translation>La plantilla tiene varias partidas «%1»; escribir una de: %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Bank or account</source>
+        <translation>Banco o cuenta</translation>
+    </message>
+    <message>
+        <source>There are no bills yet: what must be paid, such as rent.</source>
+        <translation>Aún no hay facturas: lo que hay que pagar, como el alquiler.</translation>
+    </message>
+    <message>
+        <source>There are no debts yet: money that you pay back.</source>
+        <translation>Aún no hay deudas: dinero que se devuelve.</translation>
+    </message>
+    <message>
+        <source>There are no goals yet: what you save for.</source>
+        <translation>Aún no hay metas: para lo que se ahorra.</translation>
+    </message>
+    <message>
+        <source>There is no free spending yet: money that you spend without noting each purchase.</source>
+        <translation>Aún no hay gastos libres: dinero que se gasta sin anotar cada compra.</translation>
+    </message>
+    <message>
+        <source>There are no wages yet: money that comes in.</source>
+        <translation>Aún no hay salarios: dinero que entra.</translation>
+    </message>
+    <message>
+        <source>paid off</source>
+        <translation>pagada</translation>
+    </message>
+    <message>
+        <source>reached: %1</source>
+        <translation>alcanzada: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2 % paid off)</source>
+        <translation>%1 (%2 % pagado)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 %)</source>
+        <translation>%1 (%2 %)</translation>
+    </message>
+    <message>
+        <source>Together a month: %1</source>
+        <translation>En total al mes: %1</translation>
+    </message>
+    <message>
+        <source>New %1</source>
+        <translation>Añadir: %1</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::AccountForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>Cla&amp;se:</translation>
+    </message>
+    <message>
+        <source>N&amp;umber (may be empty):</source>
+        <translation>Nú&amp;mero (puede faltar):</translation>
+    </message>
+    <message>
+        <source>&amp;Part of (may be empty):</source>
+        <translation>&amp;Parte de (puede faltar):</translation>
+    </message>
+    <message>
+        <source>Ba&amp;lance at first:</source>
+        <translation>Saldo inicia&amp;l:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>El &amp;día:</translation>
+    </message>
+    <message>
+        <source>money is spent on it</source>
+        <translation>en ella se gasta dinero</translation>
+    </message>
+    <message>
+        <source>money comes from it</source>
+        <translation>de ella viene dinero</translation>
+    </message>
+    <message>
+        <source>you own it</source>
+        <translation>es del hogar</translation>
+    </message>
+    <message>
+        <source>you owe it</source>
+        <translation>se debe</translation>
+    </message>
+    <message>
+        <source>New account</source>
+        <translation>Nueva cuenta</translation>
+    </message>
+    <message>
+        <source>Change the account “%1”</source>
+        <translation>Modificar la cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>Added the account “%1”.</source>
+        <translation>Se añadió la cuenta «%1».</translation>
+    </message>
+    <message>
+        <source>adding the account “%1”</source>
+        <translation>añadir la cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>Changed the account “%1”.</source>
+        <translation>Se cambió la cuenta «%1».</translation>
+    </message>
+    <message>
+        <source>changing the account “%1”</source>
+        <translation>cambiar la cuenta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountsPage</name>
@@ -5324,6 +5419,58 @@
     <message>
         <source>There are no accounts yet. They come with banks and with the items of the budget.</source>
         <translation>Todavía no hay cuentas. Llegan con los bancos y con las partidas del presupuesto.</translation>
+    </message>
+    <message>
+        <source>&amp;New account</source>
+        <translation>&amp;Nueva cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Modi&amp;ficar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Ce&amp;rrar</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>It belongs to the item “%1” and is changed with it, on the page of items.</source>
+        <translation>Pertenece a la partida «%1» y se cambia con ella, en la página de partidas.</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>No se ha elegido ninguna línea.</translation>
+    </message>
+    <message>
+        <source>&amp;Open again</source>
+        <translation>A&amp;brir de nuevo</translation>
+    </message>
+    <message>
+        <source>Opened “%1” again.</source>
+        <translation>Se volvió a abrir «%1».</translation>
+    </message>
+    <message>
+        <source>opening “%1”</source>
+        <translation>abrir «%1»</translation>
+    </message>
+    <message>
+        <source>Closed “%1”.</source>
+        <translation>Se cerró «%1».</translation>
+    </message>
+    <message>
+        <source>closing “%1”</source>
+        <translation>cerrar «%1»</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>Se eliminó «%1».</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>eliminar «%1»</translation>
     </message>
 </context>
 <context>
@@ -5351,6 +5498,180 @@
     <message>
         <source>&amp;Help</source>
         <translation>Ay&amp;uda</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::BankForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Cuenta:</translation>
+    </message>
+    <message>
+        <source>&amp;Bank:</source>
+        <translation>&amp;Banco:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>Cla&amp;se:</translation>
+    </message>
+    <message>
+        <source>Ba&amp;lance at first:</source>
+        <translation>Saldo inicia&amp;l:</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>El &amp;día:</translation>
+    </message>
+    <message>
+        <source>New bank</source>
+        <translation>Nuevo banco</translation>
+    </message>
+    <message>
+        <source>Another name for the bank</source>
+        <translation>Otro nombre para el banco</translation>
+    </message>
+    <message>
+        <source>New account at a bank</source>
+        <translation>Nueva cuenta en un banco</translation>
+    </message>
+    <message>
+        <source>An account that is already here belongs to a bank</source>
+        <translation>Una cuenta que ya existe es de un banco</translation>
+    </message>
+    <message>
+        <source>Name and kind of the account</source>
+        <translation>Nombre y clase de la cuenta</translation>
+    </message>
+    <message>
+        <source>This account has the name of its item.</source>
+        <translation>Esta cuenta tiene el nombre de su partida.</translation>
+    </message>
+    <message>
+        <source>Added the bank “%1”.</source>
+        <translation>Se añadió el banco «%1».</translation>
+    </message>
+    <message>
+        <source>adding the bank “%1”</source>
+        <translation>añadir el banco «%1»</translation>
+    </message>
+    <message>
+        <source>The bank “%1” is now called “%2”.</source>
+        <translation>El banco «%1» se llama ahora «%2».</translation>
+    </message>
+    <message>
+        <source>renaming “%1” to “%2”</source>
+        <translation>cambiar el nombre de «%1» a «%2»</translation>
+    </message>
+    <message>
+        <source>Added the account “%1” at “%2”.</source>
+        <translation>Se añadió la cuenta «%1» en «%2».</translation>
+    </message>
+    <message>
+        <source>adding the account “%1”</source>
+        <translation>añadir la cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>Choose an account.</source>
+        <translation>Elegir una cuenta.</translation>
+    </message>
+    <message>
+        <source>“%1” belongs to the bank “%2”.</source>
+        <translation>«%1» es del banco «%2».</translation>
+    </message>
+    <message>
+        <source>assigning “%1” to “%2”</source>
+        <translation>asignar «%1» a «%2»</translation>
+    </message>
+    <message>
+        <source>Changed the account “%1”.</source>
+        <translation>Se cambió la cuenta «%1».</translation>
+    </message>
+    <message>
+        <source>changing the account “%1”</source>
+        <translation>cambiar la cuenta «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::BanksPage</name>
+    <message>
+        <source>Banks</source>
+        <translation>Bancos</translation>
+    </message>
+    <message>
+        <source>&amp;New bank</source>
+        <translation>&amp;Nuevo banco</translation>
+    </message>
+    <message>
+        <source>&amp;Add an account</source>
+        <translation>Añadir una &amp;cuenta</translation>
+    </message>
+    <message>
+        <source>Ass&amp;ign an account</source>
+        <translation>A&amp;signar una cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Modificar</translation>
+    </message>
+    <message>
+        <source>C&amp;lose</source>
+        <translation>Ce&amp;rrar</translation>
+    </message>
+    <message>
+        <source>Separate from &amp;bank</source>
+        <translation>Separar del banc&amp;o</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>There are no banks yet. A bank keeps your accounts, as its statements show them.</source>
+        <translation>Aún no hay bancos. Un banco lleva cuentas, como las muestran sus extractos.</translation>
+    </message>
+    <message>
+        <source>This is for an account.</source>
+        <translation>Esto es para una cuenta.</translation>
+    </message>
+    <message>
+        <source>&amp;Open again</source>
+        <translation>A&amp;brir de nuevo</translation>
+    </message>
+    <message>
+        <source>Opened “%1” again.</source>
+        <translation>Se volvió a abrir «%1».</translation>
+    </message>
+    <message>
+        <source>opening “%1”</source>
+        <translation>abrir «%1»</translation>
+    </message>
+    <message>
+        <source>Closed “%1”.</source>
+        <translation>Se cerró «%1».</translation>
+    </message>
+    <message>
+        <source>closing “%1”</source>
+        <translation>cerrar «%1»</translation>
+    </message>
+    <message>
+        <source>Separated “%1” from its bank.</source>
+        <translation>Se separó «%1» de su banco.</translation>
+    </message>
+    <message>
+        <source>separating “%1” from its bank</source>
+        <translation>separar «%1» de su banco</translation>
+    </message>
+    <message>
+        <source>Removed “%1”.</source>
+        <translation>Se eliminó «%1».</translation>
+    </message>
+    <message>
+        <source>removing “%1”</source>
+        <translation>eliminar «%1»</translation>
     </message>
 </context>
 <context>
@@ -5834,6 +6155,143 @@
     <message>
         <source>Show: %1</source>
         <translation>Mostrar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ItemForm</name>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount each time:</source>
+        <translation>I&amp;mporte cada vez:</translation>
+    </message>
+    <message>
+        <source>Ho&amp;w often:</source>
+        <translation>&amp;Frecuencia:</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt on:</source>
+        <translation>&amp;Próxima vez el:</translation>
+    </message>
+    <message>
+        <source>Am&amp;ount borrowed:</source>
+        <translation>Importe presta&amp;do:</translation>
+    </message>
+    <message>
+        <source>Owe&amp;d since:</source>
+        <translation>Se de&amp;be desde:</translation>
+    </message>
+    <message>
+        <source>&amp;Bank:</source>
+        <translation>&amp;Banco:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of debt:</source>
+        <translation>Cla&amp;se de deuda:</translation>
+    </message>
+    <message>
+        <source>Tags, with co&amp;mmas:</source>
+        <translation>Etiquetas, con c&amp;omas:</translation>
+    </message>
+    <message>
+        <source>T&amp;o be reached:</source>
+        <translation>Importe de &amp;la meta:</translation>
+    </message>
+    <message>
+        <source>Owed to the &amp;bank:</source>
+        <translation>Se debe al ban&amp;co:</translation>
+    </message>
+    <message>
+        <source>Kept in the &amp;bank account:</source>
+        <translation>En la &amp;cuenta bancaria:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The debt is at no bank.</source>
+        <translation>La deuda no está en ningún banco.</translation>
+    </message>
+    <message>
+        <source>The page of banks corrects the kind of an account.</source>
+        <translation>La clase de una cuenta se corrige en la página de bancos.</translation>
+    </message>
+    <message>
+        <source>Added the %1 “%2”.</source>
+        <translation>Se añadió «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>adding the %1 “%2”</source>
+        <translation>añadir «%2» (%1)</translation>
+    </message>
+    <message>
+        <source>Changed the %1 “%2”.</source>
+        <translation>Se cambió «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>changing the %1 “%2”</source>
+        <translation>cambiar «%2» (%1)</translation>
+    </message>
+    <message>
+        <source>The %1 “%2” is now called “%3”.</source>
+        <translation>«%2» (%1) se llama ahora «%3».</translation>
+    </message>
+    <message>
+        <source>renaming “%1” to “%2”</source>
+        <translation>cambiar el nombre de «%1» a «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ItemsPage</name>
+    <message>
+        <source>Items</source>
+        <translation>Partidas</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Modificar</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Kinds of items</source>
+        <translation>Clases de partidas</translation>
+    </message>
+    <message>
+        <source>Removed the %1 “%2”.</source>
+        <translation>Se eliminó «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>removing the %1 “%2”</source>
+        <translation>eliminar «%2» (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ListPage</name>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>No line is chosen.</source>
+        <translation>No se ha elegido ninguna línea.</translation>
     </message>
 </context>
 <context>

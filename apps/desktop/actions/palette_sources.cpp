@@ -43,7 +43,7 @@ CommandPalette::Source itemSource(Desk &desk)
             const budgeting::BudgetItemIdentifier id = workbench::identify(item);
             const QString place = workbench::kindWord(id.type) + u'/' + id.source.name();
             entries.push_back({id.source.name(), workbench::kindText(id.type), {}, [&desk, place] {
-                                   desk.goTo({QStringLiteral("overview"), place});
+                                   desk.goTo({QStringLiteral("items"), place});
                                }});
         });
         return entries;

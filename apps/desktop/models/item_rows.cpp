@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/item_rows.h"
 
-#include "workbench/entry/kind_words.h"
+#include "models/due_rows.h"
+
 #include "workbench/entry/money_text.h"
+#include "workbench/entry/tags_text.h"
 #include "workbench/requests/budget_view.h"
-#include "workbench/requests/paying_account.h"
+#include "workbench/requests/item_figures.h"
+
+#include <QtCore/QLocale>
 
 #include <array>
 
@@ -26,15 +30,16 @@ struct KindTexts {
 /// In the order of the kinds.
 constexpr std::array<KindTexts, 5> texts{{
     {QT_TRANSLATE_NOOP("QObject", "Bills"),
-     QT_TRANSLATE_NOOP("QObject", "There are no bills; kiv bill add makes one.")},
+     QT_TRANSLATE_NOOP("QObject", "There are no bills yet: what must be paid, such as rent.")},
     {QT_TRANSLATE_NOOP("QObject", "Debts"),
-     QT_TRANSLATE_NOOP("QObject", "There are no debts; kiv debt add makes one.")},
+     QT_TRANSLATE_NOOP("QObject", "There are no debts yet: money that you pay back.")},
     {QT_TRANSLATE_NOOP("QObject", "Goals"),
-     QT_TRANSLATE_NOOP("QObject", "There are no goals; kiv goal add makes one.")},
+     QT_TRANSLATE_NOOP("QObject", "There are no goals yet: what you save for.")},
     {QT_TRANSLATE_NOOP("QObject", "Free spending"),
-     QT_TRANSLATE_NOOP("QObject", "There is no free spending; kiv nontrack add makes it.")},
+     QT_TRANSLATE_NOOP("QObject", "There is no free spending yet: money that you spend without "
+                                  "noting each purchase.")},
     {QT_TRANSLATE_NOOP("QObject", "Wages"),
-     QT_TRANSLATE_NOOP("QObject", "There are no wages; kiv wage add makes one.")},
+     QT_TRANSLATE_NOOP("QObject", "There are no wages yet: money that comes in.")},
 }};
 
 const KindTexts &textsOf(BudgetItemTypes kind)
@@ -67,18 +72,21 @@ QString setAsideText(const BudgetStorage::Data &data, const BudgetItemIdentifier
 QString progressText(const BudgetStorage::Data &data, const BudgetedMoney &item,
                      CurrencyDisplayOptions displayAs)
 {
-    const auto account = workbench::accountOf(data, workbench::identify(item));
-    if (!account || !data.generalLedger.hasLedger(*account))
+    const auto progress = workbench::progressOf(data, item);
+    if (!progress)
         return {};
-    const numira::Money balance = data.generalLedger.ledger(*account).balance();
-    if (const auto *goal = dynamic_cast<const budgeting::Goal *>(&item))
-        return partText(balance, goal->final(), displayAs);
-    const auto *debt = dynamic_cast<const budgeting::Debt *>(&item);
-    if (!debt)
-        return {};
-    return QObject::tr("%1 still owed of %2")
-        .arg(workbench::amountText(balance, displayAs),
-             workbench::amountText(debt->borrowed(), displayAs));
+    const bool isDebt = budgeting::toBudgetItemTypes(item) == BudgetItemTypes::Debt;
+    const QString parts = isDebt ? QObject::tr("%1 still owed of %2")
+                                       .arg(workbench::amountText(progress->part, displayAs),
+                                            workbench::amountText(progress->whole, displayAs))
+                                 : partText(progress->part, progress->whole, displayAs);
+    if (!progress->percent)
+        return parts;
+    if (progress->isReached())
+        return isDebt ? QObject::tr("paid off") : QObject::tr("reached: %1").arg(parts);
+    const QString percent = QLocale().toString(*progress->percent);
+    return isDebt ? QObject::tr("%1 (%2 % paid off)").arg(parts, percent)
+                  : QObject::tr("%1 (%2 %)").arg(parts, percent);
 }
 
 bool hasProgress(BudgetItemTypes kind)
@@ -90,9 +98,6 @@ Row rowOf(const BudgetedMoney &item, const BudgetStorage::Data &data,
           CurrencyDisplayOptions displayAs)
 {
     const BudgetItemIdentifier id = workbench::identify(item);
-    QStringList tags;
-    for (const tagging::Tag &tag : data.itemTags.tags(id))
-        tags += tag.name();
     const numira::Money monthly =
         budgeting::accumulateOver(budgeting::EventFrequency::Monthly, item.amount(), item.period())
             .rounded();
@@ -106,13 +111,23 @@ Row rowOf(const BudgetedMoney &item, const BudgetStorage::Data &data,
         row.cells.push_back({progressText(data, item, displayAs)});
     if (id.type != BudgetItemTypes::Wage)
         row.cells.push_back({setAsideText(data, id, displayAs)});
-    row.cells.push_back({tags.join(QStringLiteral(", "))});
+    row.cells.push_back({workbench::tagsText(data.itemTags.tags(id))});
     return row;
 }
 
 } // namespace
 
-OverviewSection itemSection(BudgetItemTypes kind)
+QString itemsTitle(BudgetItemTypes kind)
+{
+    return QObject::tr(textsOf(kind).title);
+}
+
+QString noItems(BudgetItemTypes kind)
+{
+    return QObject::tr(textsOf(kind).none);
+}
+
+QStringList itemColumns(BudgetItemTypes kind)
 {
     QStringList columns{QObject::tr("Name"), QObject::tr("Amount"), QObject::tr("Every"),
                         QObject::tr("Next"), QObject::tr("A month's share")};
@@ -121,19 +136,27 @@ OverviewSection itemSection(BudgetItemTypes kind)
     if (kind != BudgetItemTypes::Wage)
         columns += QObject::tr("Set aside");
     columns += QObject::tr("Tags");
-    const auto rows = [kind](workbench::Document &document) {
-        const BudgetStorage::Data data = document.present();
-        const CurrencyDisplayOptions displayAs = document.requests().displayAs();
-        std::vector<Row> made;
-        data.budget.forEach([&](const BudgetedMoney &item) {
-            if (budgeting::toBudgetItemTypes(item) == kind)
-                made.push_back(rowOf(item, data, displayAs));
-        });
-        return made;
-    };
-    const KindTexts &text = textsOf(kind);
-    return {workbench::kindWord(kind), QObject::tr(text.title), QObject::tr(text.none), columns,
-            rows};
+    return columns;
+}
+
+std::vector<Row> itemRows(workbench::Document &document, BudgetItemTypes kind)
+{
+    const BudgetStorage::Data data = document.present();
+    const CurrencyDisplayOptions displayAs = document.requests().displayAs();
+    std::vector<Row> rows;
+    data.budget.forEach([&](const BudgetedMoney &item) {
+        if (budgeting::toBudgetItemTypes(item) == kind)
+            rows.push_back(rowOf(item, data, displayAs));
+    });
+    return rows;
+}
+
+QString itemsTotal(workbench::Document &document, BudgetItemTypes kind)
+{
+    workbench::Requests &requests = document.requests();
+    const auto totals =
+        workbench::monthlyTotals(document.present().budget, kind, requests.preferredCurrency());
+    return QObject::tr("Together a month: %1").arg(sumsText(totals, requests.displayAs()));
 }
 
 } // namespace kiv::desktop

@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/overview_rows.h"
+#include "models/table_model.h"
+
+#include "workbench/document/document.h"
 
 namespace kiv::desktop {
 
-/// The section of the items of one kind.
-[[nodiscard]] OverviewSection itemSection(budgeting::BudgetItemTypes kind);
+/// What the items of one kind are called: "Bills".
+[[nodiscard]] QString itemsTitle(budgeting::BudgetItemTypes kind);
+/// Says that there are none of the kind.
+[[nodiscard]] QString noItems(budgeting::BudgetItemTypes kind);
+/// The columns of a kind; what it lacks is left out.
+[[nodiscard]] QStringList itemColumns(budgeting::BudgetItemTypes kind);
+/// The items of a kind. An item's key is its name.
+[[nodiscard]] std::vector<Row> itemRows(workbench::Document &document,
+                                        budgeting::BudgetItemTypes kind);
+/// What the items of a kind come to a month.
+[[nodiscard]] QString itemsTotal(workbench::Document &document, budgeting::BudgetItemTypes kind);
 
 } // namespace kiv::desktop

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/overview_rows.h"
 
-#include "models/item_rows.h"
-
 #include "workbench/entry/account_index.h"
 #include "workbench/requests/exchange_rates.h"
 
-#include "budgeting/item_traits.h"
 #include "foundation/presentation.h"
 #include "navigation/configuration.h"
 #include "numira/error.h"
@@ -16,45 +13,11 @@
 
 namespace kiv::desktop {
 
-using accounting::Account;
 using navigation::Navigator;
 using storage::BudgetStorage;
 using workbench::Document;
 
 namespace {
-
-QString openText(bool isClosed)
-{
-    return isClosed ? QObject::tr("closed") : QObject::tr("open", "the state of an account");
-}
-
-std::vector<Row> bankRows(Document &document)
-{
-    const workbench::AccountIndex index = document.requests().accounts();
-    const auto displayAs = document.requests().displayAs();
-    std::vector<Row> rows;
-    for (const auto &[name, bank] : document.requests().banks()) {
-        const QString bankName = name.institution();
-        if (bank.accounts().empty())
-            rows.push_back({bankName,
-                            {{bankName},
-                             {QObject::tr("no accounts")},
-                             {},
-                             Cell{{}, {}, true},
-                             {openText(bank.isClosed())}}});
-        for (const auto &[number, type] : bank.accounts()) {
-            const Account *account = index.find(number);
-            rows.push_back(
-                {bankName + u'/' + accounting::presentationText(number),
-                 {{bankName},
-                  {index.plainName(number)},
-                  {banking::presentationText(type)},
-                  account ? amountCell(account->balance(), displayAs) : Cell{{}, {}, true},
-                  {openText(bank.isClosed() || (account && account->isClosed()))}}});
-        }
-    }
-    return rows;
-}
 
 std::vector<Row> surveyRows(Document &document)
 {
@@ -145,15 +108,6 @@ std::vector<Row> settingRows(Document &document)
 std::vector<OverviewSection> overviewSections()
 {
     std::vector<OverviewSection> sections;
-    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        sections.push_back(itemSection(budgeting::ItemTraits<Item>::type));
-    });
-    sections.push_back({QStringLiteral("banks"),
-                        QObject::tr("Banks"),
-                        QObject::tr("There are no banks; kiv bank add makes one."),
-                        {QObject::tr("Bank"), QObject::tr("Account"), QObject::tr("Kind"),
-                         QObject::tr("Balance"), QObject::tr("State")},
-                        bankRows});
     sections.push_back(
         {QStringLiteral("surveys"),
          QObject::tr("Reconciliations"),

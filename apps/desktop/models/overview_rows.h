@@ -16,7 +16,7 @@ struct OverviewSection {
     std::function<std::vector<Row>(workbench::Document &)> rows;
 };
 
-/// Items of five kinds, banks, surveys, exchange rates, settings.
+/// Surveys, exchange rates, settings.
 [[nodiscard]] std::vector<OverviewSection> overviewSections();
 
 } // namespace kiv::desktop

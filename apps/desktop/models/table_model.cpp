@@ -173,7 +173,7 @@ QVariant TableModel::data(const QModelIndex &index, int role) const
         return static_cast<int>((cell.isAmount ? Qt::AlignRight : Qt::AlignLeft) |
                                 Qt::AlignVCenter);
     case Qt::FontRole:
-        if (row.isHeading) {
+        if (row.isHeading || row.isBold) {
             QFont font = QGuiApplication::font();
             font.setBold(true);
             return font;

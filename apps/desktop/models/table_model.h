@@ -29,6 +29,7 @@ struct Row {
     QString key; ///< that no other row has; the row keeps it when its cells change
     std::vector<Cell> cells;
     bool isHeading = false; ///< names the rows below it, and cannot be chosen
+    bool isBold = false;    ///< stands out, and can be chosen
 
     friend bool operator==(const Row &, const Row &) = default;
 };

@@ -2,61 +2,140 @@
 #include "pages/accounts_page.h"
 
 #include "models/account_rows.h"
-#include "widgets/table.h"
+#include "widgets/allow.h"
 
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 namespace kiv::desktop {
 
-AccountsPage::AccountsPage(Desk &desk)
-    : Page(desk, QStringLiteral("accounts"), tr("Accounts")),
-      m_model(new TableModel(accountColumns(desk.showsTerms()), this)),
-      m_table(new Table(*m_model, title(), this)),
-      m_open(new QPushButton(tr("&Show transactions"), this)),
-      m_none(new QLabel(tr("There are no accounts yet. They come with banks and with the items "
-                           "of the budget."),
-                        this))
-{
-    auto *layout = new QVBoxLayout(this);
-    m_none->setWordWrap(true);
-    layout->addWidget(m_none);
-    layout->addWidget(m_table, 1);
-    layout->addWidget(m_open, 0, Qt::AlignLeft);
-    connect(m_table, &Table::opened, this, &AccountsPage::openRegister);
-    connect(m_open, &QPushButton::clicked, this,
-            [this] { openRegister(m_table->chosen().value(0)); });
-}
+using accounting::AccountNumber;
+using navigation::Navigator;
 
-void AccountsPage::openRegister(const QString &number)
+namespace {
+
+const QString newAccount = QStringLiteral("new");
+
+} // namespace
+
+AccountsPage::AccountsPage(Desk &desk)
+    : ListPage(desk, QStringLiteral("accounts"), tr("Accounts"), accountColumns(desk.showsTerms())),
+      m_open(addButton(QStringLiteral("show"), tr("&Show transactions"), [this] { enter(); })),
+      m_new(addButton(QStringLiteral("new"), tr("&New account"), [this] { begin({}); })),
+      m_change(addButton(QStringLiteral("change"), tr("&Change"), [this] { change(); })),
+      m_close(addButton(QStringLiteral("close"), tr("C&lose"), [this] { closeOrOpen(); })),
+      m_remove(addButton(QStringLiteral("remove"), tr("&Remove"), [this] { remove(); })),
+      m_form(addForm(QStringLiteral("accountForm"))),
+      m_fields(new AccountForm(desk, *m_form))
 {
-    if (!number.isEmpty())
-        desk().goTo({QStringLiteral("register"), number});
+    addFormButtons(*m_form, [this] { save(); });
 }
 
 void AccountsPage::goTo(const QString &detail)
 {
-    m_table->choose(detail);
+    closeForm();
+    if (detail == newAccount)
+        begin({});
+    else
+        choose(detail);
 }
 
 QString AccountsPage::detail() const
 {
-    return m_table->chosen().value(0);
+    return chosen();
 }
 
-QWidget *AccountsPage::firstFocus()
+QStringList AccountsPage::parts() const
 {
-    return m_table;
+    return {newAccount};
 }
 
 void AccountsPage::refresh()
 {
-    m_model->setRows(accountRows(desk().document(), desk().showsTerms()));
-    const bool isEmpty = m_model->rows().empty();
-    m_none->setVisible(isEmpty);
-    m_table->setVisible(!isEmpty);
-    m_open->setVisible(!isEmpty);
-    m_table->settle();
+    m_index = std::make_unique<workbench::AccountIndex>(requests().accounts());
+    showRows(accountRows(desk().document(), desk().showsTerms()),
+             tr("There are no accounts yet. They come with banks and with the items of the "
+                "budget."));
+    // The account that was being changed may be gone.
+    const std::optional<AccountNumber> changed = m_fields->changed();
+    if (openForm() && changed && !m_index->find(*changed))
+        closeForm();
+}
+
+const accounting::Account *AccountsPage::account() const
+{
+    return m_index && !chosen().isEmpty() ? m_index->find(AccountNumber(chosen().toUInt()))
+                                          : nullptr;
+}
+
+std::optional<QString> AccountsPage::whyNot() const
+{
+    const accounting::Account *one = account();
+    if (!one || desk().showsTerms() || !workbench::isItemAccount(*one))
+        return std::nullopt;
+    return tr("It belongs to the item “%1” and is changed with it, on the page of items.")
+        .arg(workbench::plainNameOf(*one));
+}
+
+void AccountsPage::follow()
+{
+    allow(*m_new, desk().whyNoChange());
+    allow(*m_open, account() ? std::nullopt : std::optional(tr("No line is chosen.")));
+    allowForRow({m_change, m_close, m_remove}, whyNot());
+    const accounting::Account *one = account();
+    m_close->setText(one && one->isClosed() ? tr("&Open again") : tr("C&lose"));
+}
+
+void AccountsPage::enter()
+{
+    if (!chosen().isEmpty())
+        desk().goTo({QStringLiteral("register"), chosen()});
+}
+
+void AccountsPage::begin(std::optional<AccountNumber> changed)
+{
+    m_fields->begin(changed);
+    open(*m_form, m_fields->firstField());
+}
+
+void AccountsPage::change()
+{
+    if (const accounting::Account *one = account(); one && m_change->isEnabled())
+        begin(one->code().number());
+}
+
+void AccountsPage::save()
+{
+    const std::optional<AccountNumber> saved = m_fields->save();
+    if (!saved)
+        return;
+    closeForm();
+    choose(keyOf(*saved));
+}
+
+void AccountsPage::performOn(const QString &line, const QString &undone,
+                             void (Navigator::*slot)(const accounting::AccountCode &))
+{
+    const accounting::Account *one = account();
+    if (!one || !m_remove->isEnabled())
+        return;
+    const accounting::AccountCode code = one->code();
+    const QString name = m_index->plainName(code.number());
+    perform({line.arg(name), undone.arg(name), QStringLiteral("accounts/") + chosen()},
+            [&] { requests().change(workbench::accountOutcome, slot, code); });
+}
+
+void AccountsPage::closeOrOpen()
+{
+    const accounting::Account *one = account();
+    if (one && one->isClosed())
+        performOn(tr("Opened “%1” again."), tr("opening “%1”"), &Navigator::onOpened);
+    else
+        performOn(tr("Closed “%1”."), tr("closing “%1”"), &Navigator::onClosed);
+}
+
+void AccountsPage::remove()
+{
+    performOn(tr("Removed “%1”."), tr("removing “%1”"), &Navigator::onRemovedAct);
 }
 
 } // namespace kiv::desktop

@@ -1,39 +1,51 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "pages/page.h"
-
-QT_BEGIN_NAMESPACE
-class QPushButton;
-QT_END_NAMESPACE
+#include "pages/account_form.h"
+#include "pages/list_page.h"
 
 namespace kiv::desktop {
 
-class Table;
-class TableModel;
-
-/// All accounts in groups that a household knows. Enter opens an account's register.
-class AccountsPage final : public Page {
+/// All accounts in groups that a household knows. Enter opens an account's register, F2
+/// changes the account.
+class AccountsPage final : public ListPage {
     Q_OBJECT
 
 public:
     explicit AccountsPage(Desk &desk);
 
-    /// The number of the account that is chosen.
+    /// The number of the account that is chosen; "new" begins one.
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
-    [[nodiscard]] QWidget *firstFocus() override;
+    [[nodiscard]] QStringList parts() const override;
 
 protected:
     void refresh() override;
+    void follow() override;
+    void enter() override;
+    void change() override;
+    void remove() override;
 
 private:
-    void openRegister(const QString &number);
+    void begin(std::optional<accounting::AccountNumber> changed);
+    void save();
+    /// Closes the account that is chosen, or opens a closed one again.
+    void closeOrOpen();
+    [[nodiscard]] const accounting::Account *account() const;
+    /// Why the account is not changed here; nothing if it can be.
+    [[nodiscard]] std::optional<QString> whyNot() const;
+    /// Changes the account that is chosen. The two texts have a place for its name.
+    void performOn(const QString &line, const QString &undone,
+                   void (navigation::Navigator::*slot)(const accounting::AccountCode &));
 
-    TableModel *m_model;
-    Table *m_table;
+    std::unique_ptr<workbench::AccountIndex> m_index;
     QPushButton *m_open;
-    QLabel *m_none;
+    QPushButton *m_new;
+    QPushButton *m_change;
+    QPushButton *m_close;
+    QPushButton *m_remove;
+    Form *m_form;
+    AccountForm *m_fields;
 };
 
 } // namespace kiv::desktop

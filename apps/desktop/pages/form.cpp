@@ -86,7 +86,12 @@ void Form::allow(const std::optional<QString> &whyNot)
 
 bool Form::perform(QWidget &field, const workbench::Deed &deed, const std::function<void()> &work)
 {
-    return m_desk.perform(*m_message, &field, deed, work);
+    m_blamed = &field;
+    if (m_desk.perform(*m_message, &field, deed, work))
+        return true;
+    if (m_blamed != &field)
+        m_message->complain(m_blamed, QString(m_message->sentence()));
+    return false;
 }
 
 void Form::keyPressEvent(QKeyEvent *event)

@@ -58,6 +58,8 @@ public:
     /// Makes a change as Desk::perform() does. A refusal is shown at the field that is most
     /// likely at fault.
     bool perform(QWidget &field, const workbench::Deed &deed, const std::function<void()> &work);
+    /// Within the work of perform(): a refusal from now on is shown at this field.
+    void blame(QWidget &field) { m_blamed = &field; }
     /// The line that tells a refusal.
     [[nodiscard]] FieldMessage &message() noexcept { return *m_message; }
 
@@ -77,6 +79,7 @@ private:
     FieldMessage *m_message;
     QHBoxLayout *m_row;
     QList<QPushButton *> m_buttons;
+    QWidget *m_blamed = nullptr;
 };
 
 } // namespace kiv::desktop

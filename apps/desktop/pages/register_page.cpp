@@ -64,6 +64,9 @@ RegisterPage::RegisterPage(Desk &desk)
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RegisterPage::allowActions);
+    // Until it is shown, its keys belong to the other pages.
+    connect(&desk, &Desk::refreshWanted, this, &RegisterPage::allowActions);
+    allowActions();
 }
 
 RegisterPage::~RegisterPage() = default;

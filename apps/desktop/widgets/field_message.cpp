@@ -18,6 +18,7 @@ void FieldMessage::complain(QWidget *field, const QString &sentence)
 {
     withdraw();
     m_field = field;
+    m_sentence = sentence;
     QPalette marked = field->palette();
     marked.setColor(QPalette::Text, colour(Colour::Wrong, marked));
     field->setPalette(marked);
@@ -40,6 +41,7 @@ void FieldMessage::withdraw()
         m_field->setAccessibleDescription({});
     }
     m_field = nullptr;
+    m_sentence.clear();
     clear();
     hide();
 }

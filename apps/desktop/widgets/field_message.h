@@ -16,11 +16,14 @@ public:
 
     /// Says why; `field` is at fault.
     void complain(QWidget *field, const QString &sentence);
+    /// The sentence; empty without one.
+    [[nodiscard]] const QString &sentence() const noexcept { return m_sentence; }
     /// Takes the sentence and the mark away.
     void withdraw();
 
 private:
     QPointer<QWidget> m_field;
+    QString m_sentence;
 };
 
 } // namespace kiv::desktop

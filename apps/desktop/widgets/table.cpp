@@ -3,7 +3,7 @@
 
 #include "models/table_model.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QScrollBar>
@@ -153,6 +153,17 @@ void Table::changeEvent(QEvent *event)
         setHeights();
         setWidths();
     }
+}
+
+void Table::keyPressEvent(QKeyEvent *event)
+{
+    const QString key = chosen().value(0);
+    if (event->key() == Qt::Key_F2 && !key.isEmpty())
+        emit changeWanted(key);
+    else if (event->key() == Qt::Key_Delete && !key.isEmpty())
+        emit removalWanted(key);
+    else
+        QTableView::keyPressEvent(event);
 }
 
 void Table::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)

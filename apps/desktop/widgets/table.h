@@ -33,11 +33,16 @@ public:
 signals:
     /// The row was asked for by Enter or a double click.
     void opened(const QString &key);
+    /// F2 was pressed on the row.
+    void changeWanted(const QString &key);
+    /// Del was pressed on the row.
+    void removalWanted(const QString &key);
     /// Other rows are chosen.
     void chosenChanged();
 
 protected:
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected,
                           const QItemSelection &deselected) override;
 

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "desktop/small_household.h"
+#include "models/table_model.h"
+#include "widgets/table.h"
+
+#include "foundation/presentation.h"
+
+#include <QtTest/QAbstractItemModelTester>
+#include <QtWidgets/QAbstractButton>
+
+/// How tests use a page: its keys, and what it shows.
+namespace kiv::test {
+
+/// Begins the household and shows a page.
+inline void show(SmallHousehold &home, const char *page)
+{
+    home.begin();
+    home.show();
+    home.trigger(QByteArray("page ") + page);
+    for (auto *model : home.window().findChildren<desktop::TableModel *>())
+        new QAbstractItemModelTester(model, model);
+}
+inline desktop::Table &table(HouseholdWindow &home, const char *name = "")
+{
+    return *home.window().page()->findChild<desktop::Table *>(QLatin1String(name));
+}
+/// The texts of a column.
+inline QStringList texts(HouseholdWindow &home, int column, const char *name = "")
+{
+    const QAbstractItemModel &model = *table(home, name).model();
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row)
+        texts += model.index(row, column).data().toString();
+    return texts;
+}
+/// A field or button of the page.
+template <typename Widget>
+Widget &part(HouseholdWindow &home, const char *name)
+{
+    return *home.window().page()->findChild<Widget *>(QLatin1String(name));
+}
+/// What is refused on the page; empty if nothing is.
+inline QString message(HouseholdWindow &home)
+{
+    for (const auto *message : home.window().page()->findChildren<desktop::FieldMessage *>()) {
+        if (!message->text().isEmpty())
+            return message->text();
+    }
+    return {};
+}
+inline QString dollars(const char *text)
+{
+    return foundation::presentationText(usd(text));
+}
+inline void press(HouseholdWindow &home, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    // A button that was pressed by its letter is released a moment later.
+    const auto buttons = home.window().page()->findChildren<QAbstractButton *>();
+    QTRY_VERIFY(std::ranges::none_of(buttons, &QAbstractButton::isDown));
+}
+inline void type(HouseholdWindow &, const QString &text)
+{
+    QTest::keyClicks(QApplication::focusWidget(), text);
+}
+
+} // namespace kiv::test
