@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian packages that `cpack` makes in the build folder, one for each component.
 set(CPACK_GENERATOR DEB)
-set(CPACK_COMPONENTS_ALL libnumira libkiv kiv dev)
+set(CPACK_COMPONENTS_ALL libnumira libkiv kiv desktop dev)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
@@ -56,6 +56,12 @@ due, and compares bank statements with the books. Every command can be
 scripted.")
 # Sentences of Qt's own, such as why a file cannot be opened.
 set(CPACK_DEBIAN_KIV_PACKAGE_RECOMMENDS qt6-translations-l10n)
+kiv_debian_package(desktop kiv-desktop utils "libkiv-navigation1.1 (= ${version})"
+  "household budget in a window
+Shows what is there, what is due and what is left to spend, without the terms of
+accounting, and takes what was spent, earned and moved. Every step can be undone.
+Works on the same files as the command kiv.")
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, kiv")
 kiv_debian_package(dev libkiv-navigation-dev libdevel
   "libkiv-navigation1.1 (= ${version}), libnumira0.10 (= ${version}), qt6-base-dev, libboost-dev"
   "personal-budgeting engine (development files)

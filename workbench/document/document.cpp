@@ -142,6 +142,24 @@ void Document::createEmpty(const QString &file, const QString &change)
     back.dismiss();
 }
 
+void Document::createFilled(const QString &file, const Deed &deed,
+                            const std::function<void()> &fill)
+{
+    refuseUnsaved();
+    refuseExisting(file);
+    // Before there is a file, so that a refusal leaves none.
+    const auto filled = [&] {
+        const auto back = qScopeGuard([this] { revert(); });
+        fill();
+        return present();
+    };
+    BudgetStorage::Data data = filled();
+    createEmpty(file, QObject::tr("New budget"));
+    m_storage->recall(std::move(data));
+    navigator().onConfirmedLoadBudgetFile(m_file, true);
+    save(deed);
+}
+
 template <typename Slot, typename... Values>
 void Document::store(Slot slot, const Values &...values)
 {

@@ -94,6 +94,10 @@ public:
     /// Makes an empty budget in a new file, which is then the open one. Throws as create()
     /// does; the open budget then stays.
     void createEmpty(const QString &file, const QString &change);
+    /// Makes a new file whose budget `fill` makes in memory, as one step after an empty
+    /// budget. Throws what `fill` throws, or as create(); the open budget then stays, and
+    /// there is no file.
+    void createFilled(const QString &file, const Deed &deed, const std::function<void()> &fill);
     /// Saves the budget to its file, and the exchange rates with it. If only the rates
     /// cannot be saved, that is a warning. `change` names in a line what was changed, such
     /// as "Paid Rent"; the list of versions shows it.

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/file_session.h"
 
+#include "workbench/entry/user_locale.h"
+#include "workbench/versions/kept_versions.h"
+
 #include <QtCore/QFileInfo>
+
+#include <ranges>
 
 namespace kiv::desktop {
 
@@ -15,6 +20,9 @@ namespace {
 const QString openingNotice = QStringLiteral("opening");
 const QString savingNotice = QStringLiteral("saving");
 const QString readingNotice = QStringLiteral("reading");
+
+/// Of the versions of a file that is damaged or gone, so many are offered.
+constexpr std::size_t versionsOffered = 12;
 
 QString undoText(const QString &verb, const std::optional<workbench::Deed> &deed)
 {
@@ -85,7 +93,7 @@ bool FileSession::attempt(const QString &id, const std::function<void()> &work)
     }
 }
 
-bool FileSession::open(const QString &file)
+bool FileSession::open(const QString &file, Document::Access access)
 {
     Document &document = m_desk.document();
     // What was changed until now must not be lost for it.
@@ -95,9 +103,9 @@ bool FileSession::open(const QString &file)
     const QString path = Document::withExtension(QFileInfo(file).absoluteFilePath());
     try {
         if (leaving == Leaving::GivingUp)
-            document.openGivingUp(path, Document::Access::ChangeIfPossible);
+            document.openGivingUp(path, access);
         else
-            document.open(path, Document::Access::ChangeIfPossible);
+            document.open(path, access);
     } catch (const foundation::Error &error) {
         tell(openingNotice, workbench::troubleOfOpening(path, error), path);
         return false;
@@ -196,17 +204,44 @@ void FileSession::reload()
         settle();
 }
 
-void FileSession::bringBack(const QString &file)
+void FileSession::bringBack(const QString &file, const std::optional<QString> &version)
 {
     const bool isBack = attempt(openingNotice, [&] {
         Document &document = m_desk.document();
         document.openLost(file);
         auto back = qScopeGuard([&document] { document.revert(); }); // to the one that was open
-        document.undo();
+        if (version)
+            document.undoTo(*version);
+        else
+            document.undo();
         back.dismiss();
     });
     if (isBack)
         settle();
+}
+
+void FileSession::offerVersions(const QString &file)
+{
+    QStringList names;
+    QStringList texts;
+    const bool isRead = attempt(openingNotice, [&] {
+        const workbench::KeptVersions versions(file);
+        const auto isWhole = [](const storage::KeptVersion &version) {
+            return !version.isFile && version.telling != storage::KeptVersion::Telling::Nothing;
+        };
+        for (const storage::KeptVersion &version : versions.all() | std::views::filter(isWhole) |
+                                                       std::views::take(versionsOffered)) {
+            names += version.name;
+            texts += tr("%1, %2").arg(workbench::momentText(version.mark.savedAt),
+                                      version.mark.change);
+        }
+    });
+    if (!isRead || names.isEmpty())
+        return;
+    const std::optional<qsizetype> answer = m_desk.questions().choose(
+        m_window, tr("Which version of “%1” is to be brought back?").arg(file), texts);
+    if (answer)
+        bringBack(file, names.at(*answer));
 }
 
 bool FileSession::mayClose()
@@ -305,7 +340,12 @@ std::optional<Notice::Choice> FileSession::choiceFor(Remedy remedy, const QStrin
                               }};
     case Remedy::BringBack:
         return Notice::Choice{tr("Bring the newest whole version back"),
-                              [this, file] { bringBack(file); }};
+                              [this, file] { bringBack(file, std::nullopt); }};
+    case Remedy::LookAtVersions:
+        return Notice::Choice{tr("Look at former versions"), [this, file] { offerVersions(file); }};
+    case Remedy::OpenForReading:
+        return Notice::Choice{tr("Open it for reading"),
+                              [this, file] { open(file, Document::Access::Reading); }};
     default: // what a command offers
         return std::nullopt;
     }

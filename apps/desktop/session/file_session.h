@@ -16,7 +16,8 @@ public:
 
     /// Opens a file. If that fails, the open one stays, and a notice says why and what can
     /// be done. Returns whether it is open.
-    bool open(const QString &file);
+    bool open(const QString &file,
+              workbench::Document::Access access = workbench::Document::Access::ChangeIfPossible);
     /// Makes sure that nothing is lost when the window closes: writes what is pending, and
     /// asks only if that failed. Returns whether the window may close.
     [[nodiscard]] bool mayClose();
@@ -44,7 +45,11 @@ private:
     void undo();
     void redo();
     void reload();
-    void bringBack(const QString &file);
+    /// Brings a version of a file that is damaged or gone back; the newest whole one if
+    /// none is named.
+    void bringBack(const QString &file, const std::optional<QString> &version);
+    /// Lets the user choose one of its versions.
+    void offerVersions(const QString &file);
     /// The budget in memory is that of another file.
     void settle();
     void followKeeping();
