@@ -5338,6 +5338,59 @@
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>New budget</source>
+        <translation>Neues Budget</translation>
+    </message>
+    <message>
+        <source>I add my own items later</source>
+        <translation>Eigene Posten später anlegen</translation>
+    </message>
+    <message>
+        <source>A teenager</source>
+        <translation>Ein Jugendlicher</translation>
+    </message>
+    <message>
+        <source>One adult</source>
+        <translation>Ein Erwachsener</translation>
+    </message>
+    <message>
+        <source>Two adults, one income</source>
+        <translation>Zwei Erwachsene, ein Einkommen</translation>
+    </message>
+    <message>
+        <source>Two adults, two incomes</source>
+        <translation>Zwei Erwachsene, zwei Einkommen</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>Gewünscht</translation>
+    </message>
+    <message>
+        <source>✓ yes</source>
+        <translation>✓ ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>wanted</source>
+        <translation>gewünscht</translation>
+    </message>
+    <message>
+        <source>not wanted</source>
+        <translation>nicht gewünscht</translation>
+    </message>
+    <message>
+        <source>no amount yet</source>
+        <translation>noch ohne Betrag</translation>
+    </message>
+    <message>
+        <source>household</source>
+        <comment>the name of a file</comment>
+        <translation>haushalt</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -5708,6 +5761,13 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::CurrencyBox</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::Desk</name>
     <message>
         <source>No budget is open.</source>
@@ -5781,26 +5841,14 @@
     </message>
 </context>
 <context>
-    <name>kiv::desktop::EntryRow</name>
-    <message>
-        <source>Kind of transaction</source>
-        <translation>Art der Buchung</translation>
-    </message>
-    <message>
-        <source>&amp;Spent</source>
-        <translation>Au&amp;sgegeben</translation>
-    </message>
-    <message>
-        <source>Earne&amp;d</source>
-        <translation>E&amp;ingenommen</translation>
-    </message>
-    <message>
-        <source>&amp;Moved</source>
-        <translation>Umg&amp;ebucht</translation>
-    </message>
+    <name>kiv::desktop::EntryFields</name>
     <message>
         <source>&amp;Amount</source>
         <translation>Bet&amp;rag</translation>
+    </message>
+    <message>
+        <source>Arr&amp;ived</source>
+        <translation>Angek&amp;ommen</translation>
     </message>
     <message>
         <source>Reaso&amp;n</source>
@@ -5831,6 +5879,45 @@
         <translation>Em&amp;pfänger</translation>
     </message>
     <message>
+        <source>Choose the account that the money came to.</source>
+        <translation>Das Konto wählen, auf das das Geld kam.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money left.</source>
+        <translation>Das Konto wählen, von dem das Geld abging.</translation>
+    </message>
+    <message>
+        <source>Choose what the money was spent on.</source>
+        <translation>Wählen, wofür das Geld ausgegeben wurde.</translation>
+    </message>
+    <message>
+        <source>Choose where the money came from.</source>
+        <translation>Wählen, woher das Geld kam.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money went to.</source>
+        <translation>Das Konto wählen, auf das das Geld ging.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::EntryRow</name>
+    <message>
+        <source>Kind of transaction</source>
+        <translation>Art der Buchung</translation>
+    </message>
+    <message>
+        <source>&amp;Spent</source>
+        <translation>Au&amp;sgegeben</translation>
+    </message>
+    <message>
+        <source>Earne&amp;d</source>
+        <translation>E&amp;ingenommen</translation>
+    </message>
+    <message>
+        <source>&amp;Moved</source>
+        <translation>Umg&amp;ebucht</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>Eintragen</translation>
     </message>
@@ -5851,24 +5938,16 @@
         <translation>Erstattung</translation>
     </message>
     <message>
-        <source>Choose what the money was spent on.</source>
-        <translation>Wählen, wofür das Geld ausgegeben wurde.</translation>
+        <source>Another &amp;line</source>
+        <translation>Wei&amp;tere Zeile</translation>
     </message>
     <message>
-        <source>Choose where the money came from.</source>
-        <translation>Wählen, woher das Geld kam.</translation>
+        <source>For one payment on several things: each line becomes a transaction</source>
+        <translation>Für eine Zahlung für mehrere Dinge: jede Zeile wird eine Buchung</translation>
     </message>
     <message>
-        <source>Choose the account that the money went to.</source>
-        <translation>Das Konto wählen, auf das das Geld ging.</translation>
-    </message>
-    <message>
-        <source>Choose the account that the money came to.</source>
-        <translation>Das Konto wählen, auf das das Geld kam.</translation>
-    </message>
-    <message>
-        <source>Choose the account that the money left.</source>
-        <translation>Das Konto wählen, von dem das Geld abging.</translation>
+        <source>Add all</source>
+        <translation>Alle buchen</translation>
     </message>
 </context>
 <context>
@@ -6001,6 +6080,34 @@
         <source>Bring the newest whole version back</source>
         <translation>Die neueste heile Version zurückholen</translation>
     </message>
+    <message>
+        <source>&amp;Demonstration …</source>
+        <translation>&amp;Vorführung …</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Vorführung</translation>
+    </message>
+    <message>
+        <source>Made the demonstration</source>
+        <translation>Vorführung angelegt</translation>
+    </message>
+    <message>
+        <source>making the demonstration</source>
+        <translation>Anlegen der Vorführung</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Which version of “%1” is to be brought back?</source>
+        <translation>Welche Fassung von „%1“ soll zurückgeholt werden?</translation>
+    </message>
+    <message>
+        <source>Open it for reading</source>
+        <translation>Zum Lesen öffnen</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::FilterBar</name>
@@ -6067,6 +6174,104 @@
     <message>
         <source>Any account or item</source>
         <translation>Jedes Konto, jeder Posten</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::FirstTimeWizard</name>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Schritt %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>where the budget lies. It is one file on your computer.</source>
+        <translation>wo das Budget liegt. Es ist eine Datei auf diesem Rechner.</translation>
+    </message>
+    <message>
+        <source>&amp;Budget file:</source>
+        <translation>Budgetdat&amp;ei:</translation>
+    </message>
+    <message>
+        <source>C&amp;urrency:</source>
+        <translation>&amp;Währung:</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Weite&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Choose the file …</source>
+        <translation>Datei wäh&amp;len …</translation>
+    </message>
+    <message>
+        <source>New budget</source>
+        <translation>Neues Budget</translation>
+    </message>
+    <message>
+        <source>the bank account from which you pay most things. More can be added later.</source>
+        <translation>das Bankkonto, von dem das meiste bezahlt wird. Weitere können später dazukommen.</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;bank:</source>
+        <translation>Name der B&amp;ank:</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;account:</source>
+        <translation>Name des &amp;Kontos:</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Girokonto</translation>
+    </message>
+    <message>
+        <source>K&amp;ind of account:</source>
+        <translation>Kont&amp;oart:</translation>
+    </message>
+    <message>
+        <source>&amp;What is on it today:</source>
+        <translation>&amp;Stand heute:</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>what comes in and what must be paid. Only items with an amount are made; all of it can be changed later.</source>
+        <translation>was hereinkommt und was zu bezahlen ist. Nur Posten mit einem Betrag werden angelegt; alles lässt sich später ändern.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Zurüc&amp;k</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Make the budget with %n item(s)</source>
+        <translation>
+            <numerusform>Budget &amp;mit %n Posten anlegen</numerusform>
+            <numerusform>Budget &amp;mit %n Posten anlegen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Or begin in another way:</source>
+        <translation>Oder anders beginnen:</translation>
+    </message>
+    <message>
+        <source>Not n&amp;ow</source>
+        <translation>&amp;Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Es gibt keinen Ordner „%1“.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to the folder “%1”.</source>
+        <translation>In den Ordner „%1“ lässt sich nichts schreiben.</translation>
+    </message>
+    <message>
+        <source>Made the budget</source>
+        <translation>Budget angelegt</translation>
+    </message>
+    <message>
+        <source>making the budget</source>
+        <translation>Anlegen des Budgets</translation>
     </message>
 </context>
 <context>
@@ -6155,6 +6360,45 @@
     <message>
         <source>Show: %1</source>
         <translation>Zeigen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HouseholdStep</name>
+    <message>
+        <source>Items of the household</source>
+        <translation>Posten des Haushalts</translation>
+    </message>
+    <message>
+        <source>&amp;Amount each time:</source>
+        <translation>Be&amp;trag jedes Mal:</translation>
+    </message>
+    <message>
+        <source>Next da&amp;y:</source>
+        <translation>Nä&amp;chstes Datum:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;rget:</source>
+        <translation>&amp;Zielbetrag:</translation>
+    </message>
+    <message>
+        <source>Ho&amp;usehold:</source>
+        <translation>Hausha&amp;lt:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this line</source>
+        <translation>Zeile übe&amp;rnehmen</translation>
+    </message>
+    <message>
+        <source>The next day must lie in the future.</source>
+        <translation>Das nächste Datum muss in der Zukunft liegen.</translation>
+    </message>
+    <message>
+        <source>“%1” is wanted.</source>
+        <translation>„%1“ ist gewünscht.</translation>
+    </message>
+    <message>
+        <source>“%1” is not wanted.</source>
+        <translation>„%1“ ist nicht gewünscht.</translation>
     </message>
 </context>
 <context>
@@ -6363,6 +6607,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Begin s&amp;tep by step …</source>
+        <translation>Schritt &amp;für Schritt beginnen …</translation>
     </message>
 </context>
 <context>
@@ -6580,6 +6828,21 @@
     <message>
         <source>All accounts</source>
         <translation>Alle Konten</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SplitLines</name>
+    <message>
+        <source>Take the last line &amp;back</source>
+        <translation>Letzte Zeile zurüc&amp;kholen</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Together with this line: %1</source>
+        <translation>Zusammen mit dieser Zeile: %1</translation>
     </message>
 </context>
 <context>

@@ -239,6 +239,16 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::FirstTimeWizard</name>
+    <message numerus="yes">
+        <source>&amp;Make the budget with %n item(s)</source>
+        <translation>
+            <numerusform>&amp;Make the budget with %n item</numerusform>
+            <numerusform>&amp;Make the budget with %n items</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::HistoryPage</name>
     <message numerus="yes">
         <source>What changed since then. %n more changes are not shown.</source>

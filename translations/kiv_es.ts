@@ -5338,6 +5338,59 @@
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
+    <message>
+        <source>New budget</source>
+        <translation>Presupuesto nuevo</translation>
+    </message>
+    <message>
+        <source>I add my own items later</source>
+        <translation>Añadir las partidas más tarde</translation>
+    </message>
+    <message>
+        <source>A teenager</source>
+        <translation>Un adolescente</translation>
+    </message>
+    <message>
+        <source>One adult</source>
+        <translation>Un adulto</translation>
+    </message>
+    <message>
+        <source>Two adults, one income</source>
+        <translation>Dos adultos, un ingreso</translation>
+    </message>
+    <message>
+        <source>Two adults, two incomes</source>
+        <translation>Dos adultos, dos ingresos</translation>
+    </message>
+    <message>
+        <source>Wanted</source>
+        <translation>Deseada</translation>
+    </message>
+    <message>
+        <source>✓ yes</source>
+        <translation>✓ sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>wanted</source>
+        <translation>deseada</translation>
+    </message>
+    <message>
+        <source>not wanted</source>
+        <translation>no deseada</translation>
+    </message>
+    <message>
+        <source>no amount yet</source>
+        <translation>aún sin importe</translation>
+    </message>
+    <message>
+        <source>household</source>
+        <comment>the name of a file</comment>
+        <translation>hogar</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -5708,6 +5761,13 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::CurrencyBox</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::Desk</name>
     <message>
         <source>No budget is open.</source>
@@ -5781,26 +5841,14 @@
     </message>
 </context>
 <context>
-    <name>kiv::desktop::EntryRow</name>
-    <message>
-        <source>Kind of transaction</source>
-        <translation>Tipo de asiento</translation>
-    </message>
-    <message>
-        <source>&amp;Spent</source>
-        <translation>Gas&amp;tado</translation>
-    </message>
-    <message>
-        <source>Earne&amp;d</source>
-        <translation>I&amp;ngresado</translation>
-    </message>
-    <message>
-        <source>&amp;Moved</source>
-        <translation>T&amp;raspasado</translation>
-    </message>
+    <name>kiv::desktop::EntryFields</name>
     <message>
         <source>&amp;Amount</source>
         <translation>I&amp;mporte</translation>
+    </message>
+    <message>
+        <source>Arr&amp;ived</source>
+        <translation>Reci&amp;bido</translation>
     </message>
     <message>
         <source>Reaso&amp;n</source>
@@ -5831,6 +5879,45 @@
         <translation>A &amp;quién</translation>
     </message>
     <message>
+        <source>Choose the account that the money came to.</source>
+        <translation>Elegir la cuenta a la que llegó el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money left.</source>
+        <translation>Elegir la cuenta de la que salió el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose what the money was spent on.</source>
+        <translation>Elegir en qué se gastó el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose where the money came from.</source>
+        <translation>Elegir de dónde vino el dinero.</translation>
+    </message>
+    <message>
+        <source>Choose the account that the money went to.</source>
+        <translation>Elegir la cuenta a la que fue el dinero.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::EntryRow</name>
+    <message>
+        <source>Kind of transaction</source>
+        <translation>Tipo de asiento</translation>
+    </message>
+    <message>
+        <source>&amp;Spent</source>
+        <translation>Gas&amp;tado</translation>
+    </message>
+    <message>
+        <source>Earne&amp;d</source>
+        <translation>I&amp;ngresado</translation>
+    </message>
+    <message>
+        <source>&amp;Moved</source>
+        <translation>T&amp;raspasado</translation>
+    </message>
+    <message>
         <source>Add</source>
         <translation>Añadir</translation>
     </message>
@@ -5851,24 +5938,16 @@
         <translation>Reembolso</translation>
     </message>
     <message>
-        <source>Choose what the money was spent on.</source>
-        <translation>Elegir en qué se gastó el dinero.</translation>
+        <source>Another &amp;line</source>
+        <translation>Otra &amp;línea</translation>
     </message>
     <message>
-        <source>Choose where the money came from.</source>
-        <translation>Elegir de dónde vino el dinero.</translation>
+        <source>For one payment on several things: each line becomes a transaction</source>
+        <translation>Para un pago de varias cosas: cada línea será una transacción</translation>
     </message>
     <message>
-        <source>Choose the account that the money went to.</source>
-        <translation>Elegir la cuenta a la que fue el dinero.</translation>
-    </message>
-    <message>
-        <source>Choose the account that the money came to.</source>
-        <translation>Elegir la cuenta a la que llegó el dinero.</translation>
-    </message>
-    <message>
-        <source>Choose the account that the money left.</source>
-        <translation>Elegir la cuenta de la que salió el dinero.</translation>
+        <source>Add all</source>
+        <translation>Añadir todas</translation>
     </message>
 </context>
 <context>
@@ -6001,6 +6080,34 @@
         <source>Bring the newest whole version back</source>
         <translation>Recuperar la versión íntegra más nueva</translation>
     </message>
+    <message>
+        <source>&amp;Demonstration …</source>
+        <translation>&amp;Demostración …</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demostración</translation>
+    </message>
+    <message>
+        <source>Made the demonstration</source>
+        <translation>Demostración creada</translation>
+    </message>
+    <message>
+        <source>making the demonstration</source>
+        <translation>crear la demostración</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Which version of “%1” is to be brought back?</source>
+        <translation>¿Qué versión de «%1» se recupera?</translation>
+    </message>
+    <message>
+        <source>Open it for reading</source>
+        <translation>Abrir para leer</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::FilterBar</name>
@@ -6067,6 +6174,104 @@
     <message>
         <source>Any account or item</source>
         <translation>Cualquier cuenta o partida</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::FirstTimeWizard</name>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Paso %1 de %2: %3</translation>
+    </message>
+    <message>
+        <source>where the budget lies. It is one file on your computer.</source>
+        <translation>dónde está el presupuesto. Es un archivo en este equipo.</translation>
+    </message>
+    <message>
+        <source>&amp;Budget file:</source>
+        <translation>Archivo del &amp;presupuesto:</translation>
+    </message>
+    <message>
+        <source>C&amp;urrency:</source>
+        <translation>&amp;Moneda:</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Choose the file …</source>
+        <translation>Elegir el ar&amp;chivo …</translation>
+    </message>
+    <message>
+        <source>New budget</source>
+        <translation>Presupuesto nuevo</translation>
+    </message>
+    <message>
+        <source>the bank account from which you pay most things. More can be added later.</source>
+        <translation>la cuenta bancaria de la que se paga casi todo. Después se pueden añadir más.</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;bank:</source>
+        <translation>Nombre del &amp;banco:</translation>
+    </message>
+    <message>
+        <source>Name of the &amp;account:</source>
+        <translation>Nombre de la &amp;cuenta:</translation>
+    </message>
+    <message>
+        <source>Checking</source>
+        <translation>Cuenta corriente</translation>
+    </message>
+    <message>
+        <source>K&amp;ind of account:</source>
+        <translation>C&amp;lase de cuenta:</translation>
+    </message>
+    <message>
+        <source>&amp;What is on it today:</source>
+        <translation>Sal&amp;do de hoy:</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>At&amp;rás</translation>
+    </message>
+    <message>
+        <source>what comes in and what must be paid. Only items with an amount are made; all of it can be changed later.</source>
+        <translation>lo que entra y lo que hay que pagar. Solo se crean las partidas con importe; todo se puede cambiar después.</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>At&amp;rás</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Make the budget with %n item(s)</source>
+        <translation>
+            <numerusform>&amp;Crear el presupuesto con %n partida</numerusform>
+            <numerusform>&amp;Crear el presupuesto con %n partidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Or begin in another way:</source>
+        <translation>O empezar de otra manera:</translation>
+    </message>
+    <message>
+        <source>Not n&amp;ow</source>
+        <translation>Ahora &amp;no</translation>
+    </message>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>No hay ninguna carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>Nothing can be written to the folder “%1”.</source>
+        <translation>No se puede escribir en la carpeta «%1».</translation>
+    </message>
+    <message>
+        <source>Made the budget</source>
+        <translation>Presupuesto creado</translation>
+    </message>
+    <message>
+        <source>making the budget</source>
+        <translation>crear el presupuesto</translation>
     </message>
 </context>
 <context>
@@ -6155,6 +6360,45 @@
     <message>
         <source>Show: %1</source>
         <translation>Mostrar: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HouseholdStep</name>
+    <message>
+        <source>Items of the household</source>
+        <translation>Partidas del hogar</translation>
+    </message>
+    <message>
+        <source>&amp;Amount each time:</source>
+        <translation>I&amp;mporte cada vez:</translation>
+    </message>
+    <message>
+        <source>Next da&amp;y:</source>
+        <translation>Pró&amp;xima fecha:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;rget:</source>
+        <translation>Im&amp;porte de la meta:</translation>
+    </message>
+    <message>
+        <source>Ho&amp;usehold:</source>
+        <translation>&amp;Hogar:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this line</source>
+        <translation>Guardar la &amp;línea</translation>
+    </message>
+    <message>
+        <source>The next day must lie in the future.</source>
+        <translation>La próxima fecha debe estar en el futuro.</translation>
+    </message>
+    <message>
+        <source>“%1” is wanted.</source>
+        <translation>«%1» se desea.</translation>
+    </message>
+    <message>
+        <source>“%1” is not wanted.</source>
+        <translation>«%1» no se desea.</translation>
     </message>
 </context>
 <context>
@@ -6363,6 +6607,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Begin s&amp;tep by step …</source>
+        <translation>Empezar &amp;paso a paso …</translation>
     </message>
 </context>
 <context>
@@ -6580,6 +6828,21 @@
     <message>
         <source>All accounts</source>
         <translation>Todas las cuentas</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SplitLines</name>
+    <message>
+        <source>Take the last line &amp;back</source>
+        <translation>Re&amp;cuperar la última línea</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Together with this line: %1</source>
+        <translation>Junto con esta línea: %1</translation>
     </message>
 </context>
 <context>

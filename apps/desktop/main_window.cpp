@@ -4,6 +4,7 @@
 #include "actions/palette_sources.h"
 #include "pages/all_pages.h"
 #include "pages/welcome_page.h"
+#include "wizards/first_time_wizard.h"
 
 #include <QtCore/QFileInfo>
 #include <QtGui/QActionGroup>
@@ -38,6 +39,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
       m_list(new QListWidget(this)),
       m_stack(new QStackedWidget(this)),
       m_welcome(nullptr),
+      m_wizard(nullptr),
       m_systemPalette(QApplication::palette()),
       m_systemFont(QApplication::font())
 {
@@ -51,6 +53,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     addPaletteSources();
     applyLooks();
     connect(m_session, &FileSession::opened, this, &MainWindow::showOpened);
+    connect(m_session, &FileSession::beginnerCame, this, &MainWindow::showWizard);
     connect(m_session, &FileSession::keptChanged, this, &MainWindow::showTitle);
     connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
     if (!restoreGeometry(m_given.settings.state(windowKey)))
@@ -87,16 +90,22 @@ void MainWindow::addPages()
     connect(m_welcome, &WelcomePage::fileWanted, this, &MainWindow::open);
     m_stack->addWidget(m_welcome);
     m_pages = makePages(*m_desk);
-    for (Page *page : m_pages) {
-        // A page that is larger than the window scrolls; its buttons stay reachable.
+    // A page that is larger than the window scrolls; its buttons stay reachable.
+    const auto addScrolled = [this](QWidget *page) {
         auto *scroll = new QScrollArea(m_stack);
         scroll->setWidget(page);
         scroll->setWidgetResizable(true);
         scroll->setFrameShape(QFrame::NoFrame);
         scroll->setFocusPolicy(Qt::NoFocus);
         m_stack->addWidget(scroll);
+    };
+    for (Page *page : m_pages) {
+        addScrolled(page);
         m_list->addItem(page->title());
     }
+    m_wizard = new FirstTimeWizard(*m_desk, *m_session);
+    connect(m_wizard, &FirstTimeWizard::left, this, &MainWindow::showOpened);
+    addScrolled(m_wizard);
     addPageActions();
 }
 
@@ -119,6 +128,8 @@ void MainWindow::addActions()
 {
     m_actions->add(QStringLiteral("quit"), Group::File, tr("&Quit"),
                    QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
+    m_actions->add(QStringLiteral("wizard"), Group::File, tr("Begin s&tep by step …"), {},
+                   [this] { showWizard(); });
     m_actions->add(QStringLiteral("palette"), Group::Go, tr("&Find a command …"),
                    QKeySequence(Qt::CTRL | Qt::Key_K), [this] { m_palette->open(); });
     m_actions->add(QStringLiteral("back"), Group::Go, tr("&Back"),
@@ -212,8 +223,8 @@ void MainWindow::applyLooks()
 
 Page *MainWindow::page() const
 {
-    const int place = m_stack->currentIndex() - 1;
-    return place < 0 ? nullptr : m_pages.at(static_cast<std::size_t>(place));
+    const auto place = static_cast<std::size_t>(m_stack->currentIndex() - 1);
+    return m_stack->currentIndex() > 0 && place < m_pages.size() ? m_pages[place] : nullptr;
 }
 
 void MainWindow::goTo(const Place &place)
@@ -261,8 +272,11 @@ void MainWindow::goThrough(std::vector<Place> &from, std::vector<Place> &to)
 void MainWindow::focusNextPart()
 {
     QWidget *const focus = QApplication::focusWidget();
+    QWidget *const first = page()                        ? page()->firstFocus()
+                           : m_stack->currentIndex() > 0 ? m_wizard->firstFocus()
+                                                         : m_welcome->firstFocus();
     if (focus == m_list || !m_list->isEnabled())
-        (page() ? page()->firstFocus() : m_welcome->firstFocus())->setFocus(Qt::TabFocusReason);
+        first->setFocus(Qt::TabFocusReason);
     else
         m_list->setFocus(Qt::TabFocusReason);
 }
@@ -288,6 +302,13 @@ void MainWindow::showOpened()
         m_welcome->firstFocus()->setFocus(Qt::OtherFocusReason);
     }
     showTitle();
+}
+
+void MainWindow::showWizard()
+{
+    m_stack->setCurrentIndex(m_stack->count() - 1);
+    m_list->setCurrentRow(-1);
+    m_wizard->firstFocus()->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::showTitle()

@@ -14,6 +14,7 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+class FirstTimeWizard;
 class WelcomePage;
 
 /// The window: the list of pages at the left, the page, the notices above it and the
@@ -42,7 +43,7 @@ public:
     [[nodiscard]] Desk &desk() noexcept { return *m_desk; }
     /// All pages, in the order of the list.
     [[nodiscard]] const std::vector<Page *> &pages() const noexcept { return m_pages; }
-    /// The page that is shown; null while no budget is open.
+    /// The page that is shown; null while no budget is open, or one is begun.
     [[nodiscard]] Page *page() const;
 
 protected:
@@ -58,6 +59,7 @@ private:
     void addPaletteSources();
     void applyLooks();
     void showOpened();
+    void showWizard();
     void showTitle();
     void goThrough(std::vector<Place> &from, std::vector<Place> &to);
     void focusNextPart();
@@ -72,6 +74,7 @@ private:
     QListWidget *m_list;
     QStackedWidget *m_stack;
     WelcomePage *m_welcome;
+    FirstTimeWizard *m_wizard;
     std::vector<Page *> m_pages;
     std::vector<Place> m_back;
     std::vector<Place> m_forward;

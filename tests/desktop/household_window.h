@@ -5,8 +5,10 @@
 #include "main_window.h"
 #include "support/preferences_store.h"
 #include "support/scripted_sender.h"
+#include "wizards/first_time_wizard.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtWidgets/QComboBox>
 
 /// Answers questions as a test says, and keeps what was asked.
 class ScriptedQuestions final : public kiv::desktop::Questions {
@@ -78,7 +80,8 @@ public:
         QApplication::setActiveWindow(&m_window);
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
     }
-    /// Shows each page, and each part of it.
+    /// Shows each page and each part of it, and the steps of the first start. `look` gets
+    /// what is shown, its first field, and its name.
     template <typename Look>
     void lookAtAll(Look &&look)
     {
@@ -87,8 +90,17 @@ public:
                 const kiv::desktop::Place place{page->id(), part};
                 m_window.goTo(place);
                 QCoreApplication::processEvents();
-                look(*page, place.text().replace(u'/', u' '));
+                look(*page, *page->firstFocus(), place.text().replace(u'/', u' '));
             }
+        }
+        trigger("wizard");
+        auto *wizard = m_window.findChild<kiv::desktop::FirstTimeWizard *>();
+        wizard->findChild<QComboBox *>(QStringLiteral("household"))->setCurrentIndex(2);
+        for (const auto step : kiv::desktop::FirstTimeWizard::steps) {
+            wizard->goTo(step);
+            QCoreApplication::processEvents();
+            look(*wizard, *wizard->firstFocus(),
+                 QStringLiteral("wizard %1").arg(static_cast<int>(step) + 1));
         }
     }
     /// Triggers an action as its keys do.

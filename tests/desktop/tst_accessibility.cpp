@@ -98,10 +98,10 @@ private slots:
             for (const QString &fault : found)
                 faults += page + QStringLiteral(": ") + fault;
         };
-        desk.lookAtAll([&](desktop::Page &page, const QString &place) {
+        desk.lookAtAll([&](QWidget &shown, QWidget &first, const QString &place) {
             note(place, nameless(desk.window()));
             note(place, mnemonicsTwice(desk.window()));
-            note(place, unreached(page, *page.firstFocus()));
+            note(place, unreached(shown, first));
         });
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }

@@ -64,7 +64,7 @@ private slots:
         desk.window().resize(size);
         desk.show();
         QStringList faults;
-        desk.lookAtAll([&](desktop::Page &, const QString &place) {
+        desk.lookAtAll([&](QWidget &, QWidget &, const QString &place) {
             for (const QString &fault : misfits(desk.window()))
                 faults += place + QStringLiteral(": ") + fault;
             picture(desk.window(), place);

@@ -54,6 +54,62 @@ private slots:
         QCOMPARE(all().size(), m_before.size() + 4);
     }
 
+    void onePaymentOnSeveralThingsIsOneStep()
+    {
+        press(Qt::Key_T, Qt::ControlModifier);
+        const auto line = [this](const QString &amount, const QString &other) {
+            fill(u"amount"_s, amount);
+            fill(u"other"_s, other);
+            press(Qt::Key_Tab); // which closes the list of names
+        };
+        fill(u"payee"_s, u"Market"_s);
+        line(u"40"_s, u"Groceries"_s);
+        press(Qt::Key_L, Qt::AltModifier);
+        QTRY_COMPARE(text(u"amount"_s), QString());
+        line(u"12.345"_s, u"Rent"_s); // too many digits
+        press(Qt::Key_L, Qt::AltModifier);
+        QTRY_VERIFY(!pageMessage().isEmpty());
+        QCOMPARE(text(u"amount"_s), u"12.345"_s);
+        line(u"12.30"_s, u"Rent"_s);
+        press(Qt::Key_L, Qt::AltModifier);
+        QTRY_COMPARE(text(u"amount"_s), QString());
+        line(u"1"_s, u"Salary"_s); // nothing is spent on it, so no line is
+        press(Qt::Key_Return);
+        QVERIFY(!pageMessage().isEmpty());
+        QCOMPARE(all(), m_before);
+        fill(u"other"_s, {});
+        fill(u"amount"_s, {});
+        fill(u"day"_s, u"2026-02-20"_s);
+        press(Qt::Key_Return);
+        QCOMPARE(news(), u"2026-02-20 Checking > Groceries 40.00 USD Market |\n"
+                         "2026-02-20 Checking > Rent 12.30 USD Market |"_s);
+        m_desk->trigger("undo");
+        QCOMPARE(all(), m_before);
+    }
+
+    void anExchangeTakesBothAmounts()
+    {
+        m_desk->trigger("save");
+        m_desk->requests().change(
+            workbench::accountOutcome, &navigation::Navigator::onAddedAct,
+            accounting::Account(accounting::AccountTypes::Asset,
+                                {m_desk->requests().accounts().nextNumber(), u"Euros"_s, {}},
+                                numira::Money(numira::toCurrency("EUR")), false));
+        emit m_desk->window().desk().refreshWanted();
+        press(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
+        fill(u"amount"_s, u"200"_s);
+        fill(u"other"_s, u"Euros"_s);
+        press(Qt::Key_Tab);
+        fill(u"received"_s, u"183.50 USD"_s); // of the wrong account
+        press(Qt::Key_Return);
+        QVERIFY(pageMessage().contains(u"EUR"_s));
+        fill(u"received"_s, u"183.50"_s);
+        press(Qt::Key_Return);
+        const QString made = all().join(u'\n');
+        QVERIFY2(made.contains(u"Checking > "_s) && made.contains(u" > Euros 183.50 EUR"_s),
+                 qPrintable(made));
+    }
+
     void aRefusalStandsAtItsField_data()
     {
         QTest::addColumn<QString>("field");
@@ -233,6 +289,14 @@ private:
             type(*values[at]);
         }
         press(Qt::Key_Return);
+    }
+    /// Replaces what is in a field.
+    void fill(const QString &field, const QString &text)
+    {
+        page()->findChild<QWidget *>(field)->setFocus();
+        press(Qt::Key_A, Qt::ControlModifier);
+        press(Qt::Key_Delete);
+        type(text);
     }
     [[nodiscard]] QString focus()
     {

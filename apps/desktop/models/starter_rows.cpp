@@ -38,9 +38,8 @@ std::vector<StarterLine> starterLines(BudgetWizardTemplates household,
 {
     std::vector<StarterLine> lines;
     for (StarterChoice &choice : workbench::starterChoices(household)) {
-        const auto same = std::ranges::find(before, keyOf(choice), [](const StarterLine &line) {
-            return keyOf(line.choice);
-        });
+        const auto same = std::ranges::find(
+            before, keyOf(choice), [](const StarterLine &line) { return keyOf(line.choice); });
         if (same != before.end()) {
             lines.push_back(*same);
             continue;

@@ -9,7 +9,6 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCompleter>
-#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
@@ -26,7 +25,6 @@ using accounting::TransactionNumber;
 using workbench::AccountIndex;
 using workbench::Entry;
 using workbench::EntryForm;
-using workbench::EntryPart;
 
 using namespace std::chrono_literals;
 
@@ -42,22 +40,18 @@ EntryRow::EntryRow(Desk &desk, QWidget *parent)
       m_desk(desk),
       m_forms(new QTabBar(this)),
       m_taskLabel(new QLabel(this)),
-      m_amount(new MoneyEdit(this)),
-      m_own(new AccountBox(this)),
-      m_other(new AccountBox(this)),
-      m_payee(new QLineEdit(this)),
-      m_reason(new QLineEdit(this)),
-      m_day(new DayEdit(this)),
       m_submit(new QPushButton(this)),
       m_message(new FieldMessage(this)),
       m_whyNot(new QLabel(this)),
-      m_fields(new QWidget(this)),
+      m_fields(new EntryFields(*m_message, this)),
+      m_split(new SplitLines(desk, this)),
+      m_addLine(new QPushButton(tr("Another &line"), this)),
       m_payees(new QStringListModel(this))
 {
     setObjectName(QStringLiteral("entry"));
     setFrameShape(QFrame::StyledPanel);
     build();
-    m_day->setDay(foundation::today());
+    addPayees();
     followForm();
     setTask(Task::Enter, std::nullopt);
 }
@@ -74,38 +68,34 @@ void EntryRow::build()
     head->addWidget(m_forms);
     head->addWidget(m_taskLabel);
     head->addStretch();
+    head->addWidget(m_addLine);
     m_whyNot->setTextFormat(Qt::PlainText);
     m_whyNot->setWordWrap(true);
     layout->addLayout(head);
     layout->addWidget(m_whyNot);
+    layout->addWidget(m_split);
     layout->addWidget(m_fields);
     layout->addWidget(m_message);
-
-    m_amount->setObjectName(QStringLiteral("amount"));
-    m_own->setObjectName(QStringLiteral("own"));
-    m_other->setObjectName(QStringLiteral("other"));
-    m_payee->setObjectName(QStringLiteral("payee"));
-    m_reason->setObjectName(QStringLiteral("reason"));
-    m_day->setObjectName(QStringLiteral("day"));
     m_message->setObjectName(QStringLiteral("message"));
-    new QGridLayout(m_fields);
-    m_fields->layout()->setContentsMargins(0, 0, 0, 0);
-    addField(0, 0, m_amountLabel, tr("&Amount"), m_amount);
-    addField(0, 1, m_ownLabel, {}, m_own);
-    addField(0, 2, m_otherLabel, {}, m_other);
-    addField(1, 0, m_payeeLabel, {}, m_payee);
-    addField(1, 1, m_reasonLabel, tr("Reaso&n"), m_reason);
-    addField(1, 2, m_dayLabel, tr("Da&y"), m_day);
-    auto *grid = static_cast<QGridLayout *>(m_fields->layout());
-    grid->addWidget(m_submit, 1, 6);
-    setTabOrder(m_day, m_submit);
+    m_addLine->setObjectName(QStringLiteral("addLine"));
+    m_addLine->setToolTip(tr("For one payment on several things: each line becomes a transaction"));
+    m_fields->addButton(m_submit);
+    connect(&m_fields->other(), &AccountBox::chosen, this, &EntryRow::followOther);
+    connect(&m_fields->own(), &AccountBox::chosen, m_fields, &EntryFields::followCurrency);
+    connect(m_forms, &QTabBar::currentChanged, this, &EntryRow::followForm);
+    connect(m_submit, &QPushButton::clicked, this, &EntryRow::submit);
+    connect(m_addLine, &QPushButton::clicked, this, &EntryRow::addLine);
+    connect(m_split, &SplitLines::takenBack, this, &EntryRow::takeLine);
+}
 
-    m_payee->setCompleter(new QCompleter(m_payees, this));
-    m_payee->completer()->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    auto *keys =
-        new CompletionKeys(*m_payee->completer(), *m_payee, CompletionKeys::OnlyMatch::Stays);
-    connect(keys, &CompletionKeys::taken, m_payee, &QLineEdit::setText);
-    connect(m_payee, &QLineEdit::textEdited, this, [this](const QString &typed) {
+void EntryRow::addPayees()
+{
+    QLineEdit &payee = m_fields->payee();
+    payee.setCompleter(new QCompleter(m_payees, this));
+    payee.completer()->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+    auto *keys = new CompletionKeys(*payee.completer(), payee, CompletionKeys::OnlyMatch::Stays);
+    connect(keys, &CompletionKeys::taken, &payee, &QLineEdit::setText);
+    connect(&payee, &QLineEdit::textEdited, this, [this](const QString &typed) {
         m_payees->setStringList(typed.isEmpty() ? QStringList() : former().payees(typed));
     });
     m_idle.setSingleShot(true);
@@ -114,26 +104,9 @@ void EntryRow::build()
         if (m_isFormerStale && isVisible())
             readFormer();
     });
-    connect(m_payee, &QLineEdit::editingFinished, this, &EntryRow::followPayee);
-    connect(m_payee->completer(), qOverload<const QString &>(&QCompleter::activated), this,
+    connect(&payee, &QLineEdit::editingFinished, this, &EntryRow::followPayee);
+    connect(payee.completer(), qOverload<const QString &>(&QCompleter::activated), this,
             &EntryRow::followPayee, Qt::QueuedConnection);
-    connect(m_other, &AccountBox::chosen, this, &EntryRow::followOther);
-    connect(m_own, &AccountBox::chosen, this, &EntryRow::followCurrency);
-    connect(m_forms, &QTabBar::currentChanged, this, &EntryRow::followForm);
-    connect(m_submit, &QPushButton::clicked, this, &EntryRow::submit);
-}
-
-void EntryRow::addField(int row, int column, QLabel *&label, const QString &text, QWidget *field)
-{
-    auto *grid = static_cast<QGridLayout *>(m_fields->layout());
-    label = new QLabel(text, m_fields);
-    label->setBuddy(field);
-    field->setParent(m_fields);
-    grid->addWidget(label, row, 2 * column);
-    grid->addWidget(field, row, 2 * column + 1);
-    grid->setColumnStretch(2 * column + 1, column == 0 ? 2 : 3);
-    if (column + row > 0)
-        setTabOrder(grid->itemAt(grid->count() - 3)->widget(), field);
 }
 
 // ---- what it is for ----------------------------------------------------------------
@@ -150,21 +123,8 @@ void EntryRow::setForm(EntryForm form)
 
 void EntryRow::followForm()
 {
-    const EntryForm form = this->form();
-    m_ownLabel->setText(form == EntryForm::Earned ? tr("T&o") : tr("F&rom"));
-    switch (form) {
-    case EntryForm::Spent:
-        m_otherLabel->setText(tr("&On"));
-        break;
-    case EntryForm::Earned:
-        m_otherLabel->setText(tr("F&rom"));
-        break;
-    case EntryForm::Moved:
-        m_otherLabel->setText(tr("T&o"));
-        break;
-    }
-    m_payeeLabel->setText(form == EntryForm::Earned ? tr("&Payer") : tr("&Payee"));
     offerAccounts();
+    followLines();
 }
 
 void EntryRow::setTask(Task task, std::optional<TransactionNumber> number)
@@ -173,9 +133,11 @@ void EntryRow::setTask(Task task, std::optional<TransactionNumber> number)
     m_number = number;
     const bool isRefund = task == Task::Refund;
     m_forms->setVisible(!isRefund);
-    for (QWidget *field : {static_cast<QWidget *>(m_own), static_cast<QWidget *>(m_other),
-                           static_cast<QWidget *>(m_payee), static_cast<QWidget *>(m_reason)})
-        field->setEnabled(!isRefund);
+    m_fields->lockAllButAmount(isRefund);
+    m_fields->allowExchange(task == Task::Enter);
+    if (task != Task::Enter)
+        m_split->clear();
+    followLines();
     switch (task) {
     case Task::Enter:
         m_taskLabel->clear();
@@ -201,17 +163,13 @@ void EntryRow::refresh(std::shared_ptr<const AccountIndex> accounts,
     m_idle.start();
     const bool isOther = std::exchange(m_shownAccount, shownAccount) != shownAccount;
     offerAccounts();
-    if (isOther && m_task == Task::Enter && m_amount->text().isEmpty() && m_other->isEmpty())
+    if (isOther && m_task == Task::Enter && m_fields->isLineEmpty() && m_split->lines().empty())
         clearFields();
 }
 
 void EntryRow::offerAccounts()
 {
-    if (!m_accounts)
-        return;
-    m_own->offer(m_accounts, workbench::ownAccounts(*m_accounts));
-    m_other->offer(m_accounts, workbench::otherAccounts(form(), *m_accounts));
-    followCurrency();
+    m_fields->offer(m_accounts, form());
 }
 
 void EntryRow::allow(const std::optional<QString> &whyNot)
@@ -219,7 +177,8 @@ void EntryRow::allow(const std::optional<QString> &whyNot)
     m_whyNot->setText(whyNot.value_or(QString()));
     m_whyNot->setVisible(whyNot.has_value());
     m_fields->setEnabled(!whyNot);
-    m_forms->setEnabled(!whyNot);
+    m_split->setEnabled(!whyNot);
+    followLines();
 }
 
 void EntryRow::begin(EntryForm form)
@@ -228,7 +187,7 @@ void EntryRow::begin(EntryForm form)
     m_message->withdraw();
     setForm(form);
     clearFields();
-    m_amount->setFocus(Qt::OtherFocusReason);
+    m_fields->amount().setFocus(Qt::OtherFocusReason);
 }
 
 void EntryRow::beginChange(const Transaction &transaction)
@@ -250,8 +209,8 @@ void EntryRow::beginRefund(const Transaction &transaction)
     Entry entry = workbench::entryOf(transaction, *m_accounts);
     entry.day = foundation::today();
     load(entry);
-    m_amount->setMoney(workbench::leftToRefund(transaction, *m_accounts));
-    m_amount->selectAll();
+    m_fields->amount().setMoney(workbench::leftToRefund(transaction, *m_accounts));
+    m_fields->amount().selectAll();
     setTask(Task::Refund, transaction.number());
 }
 
@@ -259,32 +218,14 @@ void EntryRow::load(const Entry &entry)
 {
     m_message->withdraw();
     setForm(entry.form);
-    m_own->setAccount(entry.own);
-    m_other->setAccount(entry.other);
-    followCurrency();
-    m_amount->setMoney(entry.amount.in(numira::Currency()));
-    m_payee->setText(entry.payee);
-    m_reason->setText(entry.reason);
-    m_day->setDay(entry.day);
-    m_amount->setFocus(Qt::OtherFocusReason);
-    m_amount->selectAll();
+    m_fields->load(entry);
 }
 
 void EntryRow::clearFields()
 {
-    // Unlike clear() this also forgets what was typed, so that undo is that of the budget.
-    for (QLineEdit *field : {static_cast<QLineEdit *>(m_amount), m_payee, m_reason})
-        field->setText({});
-    m_other->setAccount(std::nullopt);
-    // The account that is looked at, or the one of the entry before.
-    const workbench::AccountIndex *accounts = m_accounts.get();
-    const accounting::Account *shown =
-        accounts && m_shownAccount ? accounts->find(*m_shownAccount) : nullptr;
-    if (shown && workbench::keepsMoney(*shown) && !shown->isClosed())
-        m_own->setAccount(m_shownAccount);
-    else if (shown)
-        m_other->setAccount(m_shownAccount);
-    followCurrency();
+    m_split->clear();
+    followLines();
+    m_fields->clear(m_accounts && m_shownAccount ? m_accounts->find(*m_shownAccount) : nullptr);
 }
 
 void EntryRow::giveUp()
@@ -292,35 +233,23 @@ void EntryRow::giveUp()
     setTask(Task::Enter, std::nullopt);
     m_message->withdraw();
     clearFields();
-    m_day->setDay(foundation::today());
+    m_fields->day().setDay(foundation::today());
     emit leaving();
 }
 
 // ---- what follows from what is typed -----------------------------------------------
 
-void EntryRow::followCurrency()
-{
-    if (!m_accounts)
-        return;
-    // What moves is an amount of the account that receives it.
-    const AccountBox *box = form() == EntryForm::Moved ? m_other : m_own;
-    const auto number = box->accountIfAny();
-    const accounting::Account *account = number ? m_accounts->find(*number) : nullptr;
-    if (account)
-        m_amount->setCurrency(account->balance().code());
-}
-
 void EntryRow::followOther()
 {
-    followCurrency();
-    const auto other = m_other->accountIfAny();
-    if (!other || !m_own->isEmpty() || form() == EntryForm::Moved)
+    m_fields->followCurrency();
+    const auto other = m_fields->other().accountIfAny();
+    if (!other || !m_fields->own().isEmpty() || form() == EntryForm::Moved)
         return;
     const accounting::Account *account = m_accounts->find(*other);
     if (!account)
         return;
-    m_own->setAccount(workbench::paidFrom(m_desk.requests(), *account));
-    followCurrency();
+    m_fields->own().setAccount(workbench::paidFrom(m_desk.requests(), *account));
+    m_fields->followCurrency();
 }
 
 const workbench::FormerEntries &EntryRow::former()
@@ -341,29 +270,68 @@ void EntryRow::readFormer()
 
 void EntryRow::followPayee()
 {
-    if (!m_accounts || m_task != Task::Enter || m_payee->text().trimmed().isEmpty())
+    QLineEdit &payee = m_fields->payee();
+    if (!m_accounts || m_task != Task::Enter || payee.text().trimmed().isEmpty() ||
+        !m_split->lines().empty())
         return;
-    const workbench::FormerEntries::Entry *entry = former().newest(m_payee->text());
+    const workbench::FormerEntries::Entry *entry = former().newest(payee.text());
     if (!entry)
         return;
     const bool isEarned = form() == EntryForm::Earned;
     const AccountNumber own = isEarned ? entry->debited : entry->credited;
     const AccountNumber other = isEarned ? entry->credited : entry->debited;
-    const auto offers = [](const AccountBox *box, AccountNumber number) {
-        return box->findData(number.integer()) >= 0;
+    const auto offers = [](const AccountBox &box, AccountNumber number) {
+        return box.findData(number.integer()) >= 0;
     };
-    if (!offers(m_own, own) || !offers(m_other, other))
+    if (!offers(m_fields->own(), own) || !offers(m_fields->other(), other))
         return; // it was another form
-    m_payee->setText(entry->payee);
-    if (m_other->isEmpty())
-        m_other->setAccount(other);
-    if (m_own->isEmpty())
-        m_own->setAccount(own);
-    followCurrency();
-    if (m_reason->text().isEmpty())
-        m_reason->setText(entry->reason);
-    if (m_amount->text().isEmpty())
-        m_amount->setMoney(entry->amount);
+    payee.setText(entry->payee);
+    if (m_fields->other().isEmpty())
+        m_fields->other().setAccount(other);
+    if (m_fields->own().isEmpty())
+        m_fields->own().setAccount(own);
+    m_fields->followCurrency();
+    if (m_fields->reason().text().isEmpty())
+        m_fields->reason().setText(entry->reason);
+    if (m_fields->amount().text().isEmpty())
+        m_fields->amount().setMoney(entry->amount);
+}
+
+// ---- the lines of a split ------------------------------------------------------------
+
+void EntryRow::followLines()
+{
+    const bool isSplit = !m_split->lines().empty();
+    // The lines are all of one form.
+    m_forms->setEnabled(m_fields->isEnabled() && !isSplit);
+    m_addLine->setEnabled(m_task == Task::Enter && form() != EntryForm::Moved);
+    if (m_task == Task::Enter)
+        m_submit->setText(isSplit ? tr("Add all") : tr("Add"));
+}
+
+void EntryRow::addLine()
+{
+    const std::optional<workbench::SplitLine> line = m_fields->line();
+    const std::optional<workbench::SplitEntry> head = line ? m_fields->splitHead() : std::nullopt;
+    if (!head)
+        return;
+    const accounting::Account *own = m_accounts->find(head->own);
+    if (!own || !m_fields->read(&m_fields->amount(),
+                                [&] { m_split->add(*line, *m_accounts, own->balance().code()); }))
+        return;
+    m_message->withdraw();
+    m_fields->clearLine();
+    followLines();
+    m_fields->amount().setFocus(Qt::OtherFocusReason);
+}
+
+void EntryRow::takeLine(const workbench::SplitLine &line)
+{
+    m_fields->amount().setText(line.amount.text);
+    m_fields->other().setAccount(line.other);
+    m_fields->followCurrency();
+    followLines();
+    m_fields->amount().setFocus(Qt::OtherFocusReason);
 }
 
 // ---- doing it ----------------------------------------------------------------------
@@ -392,53 +360,6 @@ void EntryRow::submit()
         enter();
 }
 
-template <typename Read>
-bool EntryRow::readField(QWidget *field, Read read)
-{
-    try {
-        read();
-        return true;
-    } catch (const foundation::Error &error) {
-        m_message->complain(field, workbench::userText(error));
-        return false;
-    }
-}
-
-std::optional<Entry> EntryRow::read()
-{
-    Entry entry;
-    entry.form = form();
-    entry.payee = m_payee->text();
-    entry.reason = m_reason->text();
-    const QString noOther =
-        entry.form == EntryForm::Spent    ? tr("Choose what the money was spent on.")
-        : entry.form == EntryForm::Earned ? tr("Choose where the money came from.")
-                                          : tr("Choose the account that the money went to.");
-    const QString noOwn = entry.form == EntryForm::Earned
-                              ? tr("Choose the account that the money came to.")
-                              : tr("Choose the account that the money left.");
-    const bool isRead = readField(m_amount, [&] { entry.amount = m_amount->amount(); }) &&
-                        readField(m_other, [&] { entry.other = m_other->account(noOther); }) &&
-                        readField(m_own, [&] { entry.own = m_own->account(noOwn); }) &&
-                        readField(m_day, [&] { entry.day = m_day->day(); });
-    return isRead ? std::optional(entry) : std::nullopt;
-}
-
-QWidget *EntryRow::fieldOf(EntryPart part) const
-{
-    switch (part) {
-    case EntryPart::Own:
-        return m_own;
-    case EntryPart::Other:
-        return m_other;
-    case EntryPart::Day:
-        return m_day;
-    case EntryPart::Amount:
-        break;
-    }
-    return m_amount;
-}
-
 QString EntryRow::place(TransactionNumber number) const
 {
     const QString account =
@@ -446,32 +367,88 @@ QString EntryRow::place(TransactionNumber number) const
     return QStringLiteral("register/%1/%2").arg(account, accounting::presentationText(number));
 }
 
-void EntryRow::enter()
+void EntryRow::perform(QWidget *asker, workbench::Deed deed,
+                       const std::function<TransactionNumber()> &work)
 {
-    const std::optional<Entry> entry = read();
-    if (!entry)
-        return;
-    workbench::Requests &requests = m_desk.requests();
-    workbench::Deed deed;
-    const bool isChange = m_task == Task::Change;
-    if (!readField(m_amount, [&] {
-            deed = workbench::enterDeed(requests, *entry);
-            if (isChange)
-                deed = workbench::changeDeed(requests, requests.transaction(*m_number));
-        }))
-        return;
-    TransactionNumber number = m_number.value_or(TransactionNumber());
-    QWidget *asker = fieldOf(workbench::doubtfulPart(*entry, *m_accounts));
+    TransactionNumber number;
     const bool isDone = m_desk.perform(*m_message, asker, deed, [&] {
-        if (isChange)
-            workbench::changeInto(requests, number, *entry);
-        else
-            number = workbench::enter(requests, *entry);
+        number = work();
         // The deed is kept when this has returned; only now its place is known.
         deed.place = place(number);
     });
     if (isDone)
         settle(number);
+}
+
+void EntryRow::enter()
+{
+    if (m_task == Task::Change)
+        change(m_number.value());
+    else if (!m_split->lines().empty())
+        enterSplit();
+    else if (m_fields->isExchange())
+        exchange();
+    else
+        enterOne();
+}
+
+void EntryRow::change(TransactionNumber number)
+{
+    const std::optional<Entry> entry = m_fields->entry();
+    workbench::Requests &requests = m_desk.requests();
+    workbench::Deed deed;
+    if (!entry || !m_fields->read(&m_fields->amount(), [&] {
+            deed = workbench::changeDeed(requests, requests.transaction(number));
+        }))
+        return;
+    perform(m_fields->fieldOf(workbench::doubtfulPart(*entry, *m_accounts)), deed, [&] {
+        workbench::changeInto(requests, number, *entry);
+        return number;
+    });
+}
+
+void EntryRow::enterOne()
+{
+    const std::optional<Entry> entry = m_fields->entry();
+    workbench::Requests &requests = m_desk.requests();
+    workbench::Deed deed;
+    if (!entry || !m_fields->read(&m_fields->amount(),
+                                  [&] { deed = workbench::enterDeed(requests, *entry); }))
+        return;
+    perform(m_fields->fieldOf(workbench::doubtfulPart(*entry, *m_accounts)), deed,
+            [&] { return workbench::enter(requests, *entry); });
+}
+
+void EntryRow::enterSplit()
+{
+    std::optional<workbench::SplitEntry> entry = m_fields->splitHead();
+    if (!entry)
+        return;
+    entry->lines = m_split->lines();
+    if (!m_fields->isLineEmpty()) {
+        const std::optional<workbench::SplitLine> last = m_fields->line();
+        if (!last)
+            return;
+        entry->lines.push_back(*last);
+    }
+    workbench::Requests &requests = m_desk.requests();
+    workbench::Deed deed;
+    if (!m_fields->read(&m_fields->amount(),
+                        [&] { deed = workbench::splitDeed(requests, *entry); }))
+        return;
+    perform(m_fields->fieldOf(workbench::doubtfulPart(*entry, *m_accounts).first), deed,
+            [&] { return workbench::enterSplit(requests, *entry).back(); });
+}
+
+void EntryRow::exchange()
+{
+    const std::optional<workbench::Exchange> given = m_fields->exchange();
+    workbench::Requests &requests = m_desk.requests();
+    workbench::Deed deed;
+    if (!given || !m_fields->read(&m_fields->amount(),
+                                  [&] { deed = workbench::exchangeDeed(requests, *given); }))
+        return;
+    perform(&m_fields->amount(), deed, [&] { return workbench::exchange(requests, *given).given; });
 }
 
 void EntryRow::refund()
@@ -480,21 +457,15 @@ void EntryRow::refund()
     workbench::Amount amount;
     QDate day;
     workbench::Deed deed;
-    if (!readField(m_amount,
-                   [&] {
-                       amount = m_amount->amount();
-                       deed =
-                           workbench::refundDeed(requests, amount, requests.transaction(*m_number));
-                   }) ||
-        !readField(m_day, [&] { day = m_day->day(); }))
+    const auto readAmount = [&] {
+        amount = m_fields->amount().amount();
+        deed = workbench::refundDeed(requests, amount, requests.transaction(*m_number));
+    };
+    if (!m_fields->read(&m_fields->amount(), readAmount) ||
+        !m_fields->read(&m_fields->day(), [&] { day = m_fields->day().day(); }))
         return;
-    TransactionNumber number;
-    const bool isDone = m_desk.perform(*m_message, m_amount, deed, [&] {
-        number = workbench::refund(requests, *m_number, amount, day);
-        deed.place = place(number);
-    });
-    if (isDone)
-        settle(number);
+    perform(&m_fields->amount(), deed,
+            [&] { return workbench::refund(requests, *m_number, amount, day); });
 }
 
 void EntryRow::settle(TransactionNumber number)
@@ -502,11 +473,10 @@ void EntryRow::settle(TransactionNumber number)
     const bool wasNew = m_task == Task::Enter;
     setTask(Task::Enter, std::nullopt);
     clearFields();
-    m_day->setText(m_day->text()); // see clearFields()
     emit entered(number);
     // The next one is often of the same day. One that was changed is looked at again.
     if (wasNew)
-        m_amount->setFocus(Qt::OtherFocusReason);
+        m_fields->amount().setFocus(Qt::OtherFocusReason);
     else
         emit leaving();
 }

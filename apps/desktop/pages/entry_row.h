@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "pages/desk.h"
-#include "widgets/account_box.h"
-#include "widgets/day_edit.h"
-#include "widgets/money_edit.h"
+#include "pages/entry_fields.h"
+#include "pages/split_lines.h"
 
 #include "workbench/entry/former_entries.h"
-#include "workbench/requests/entry_forms.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QFrame>
@@ -22,7 +19,8 @@ QT_END_NAMESPACE
 namespace kiv::desktop {
 
 /// The row of fields below the register: what was spent, earned or moved. It enters a new
-/// transaction, changes one, or refunds one. Enter in any field does it, Esc gives up.
+/// transaction, or several as the lines of a split, changes one, or refunds one. Enter in any
+/// field does it, Esc gives up.
 class EntryRow final : public QFrame {
     Q_OBJECT
 
@@ -58,27 +56,30 @@ private:
     enum class Task : std::uint8_t { Enter, Change, Refund };
 
     void build();
-    void addField(int row, int column, QLabel *&label, const QString &text, QWidget *field);
+    void addPayees();
     void setForm(workbench::EntryForm form);
     void followForm();
     void setTask(Task task, std::optional<accounting::TransactionNumber> number);
-    void showTask();
     void load(const workbench::Entry &entry);
     void clearFields();
     void giveUp();
     void submit();
     void enter();
+    void change(accounting::TransactionNumber number);
+    void enterOne();
+    void enterSplit();
+    void exchange();
     void refund();
+    void addLine();
+    void takeLine(const workbench::SplitLine &line);
+    void followLines();
+    /// Makes the change, whose number `work` returns.
+    void perform(QWidget *asker, workbench::Deed deed,
+                 const std::function<accounting::TransactionNumber()> &work);
     void settle(accounting::TransactionNumber number);
     [[nodiscard]] workbench::EntryForm form() const;
-    /// Reads the fields; a refusal stands at its field, and nothing is returned.
-    [[nodiscard]] std::optional<workbench::Entry> read();
-    template <typename Read>
-    [[nodiscard]] bool readField(QWidget *field, Read read);
-    [[nodiscard]] QWidget *fieldOf(workbench::EntryPart part) const;
     [[nodiscard]] QString place(accounting::TransactionNumber number) const;
     void offerAccounts();
-    void followCurrency();
     void followOther();
     void followPayee();
     [[nodiscard]] const workbench::FormerEntries &former();
@@ -94,22 +95,12 @@ private:
     std::optional<accounting::TransactionNumber> m_number; ///< that is changed or refunded
     QTabBar *m_forms;
     QLabel *m_taskLabel;
-    MoneyEdit *m_amount;
-    AccountBox *m_own;
-    AccountBox *m_other;
-    QLineEdit *m_payee;
-    QLineEdit *m_reason;
-    DayEdit *m_day;
-    QLabel *m_amountLabel = nullptr;
-    QLabel *m_ownLabel = nullptr;
-    QLabel *m_otherLabel = nullptr;
-    QLabel *m_payeeLabel = nullptr;
-    QLabel *m_reasonLabel = nullptr;
-    QLabel *m_dayLabel = nullptr;
     QPushButton *m_submit;
     FieldMessage *m_message;
     QLabel *m_whyNot;
-    QWidget *m_fields;
+    EntryFields *m_fields;
+    SplitLines *m_split;
+    QPushButton *m_addLine;
     QStringListModel *m_payees;
 };
 

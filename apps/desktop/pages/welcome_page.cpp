@@ -22,6 +22,7 @@ QPushButton *buttonFor(QAction *action, QWidget *parent)
 
 WelcomePage::WelcomePage(Desk &desk)
     : m_desk(desk),
+      m_wizard(buttonFor(desk.actions().action(QStringLiteral("wizard")), this)),
       m_new(buttonFor(desk.actions().action(QStringLiteral("new")), this)),
       m_open(buttonFor(desk.actions().action(QStringLiteral("open")), this)),
       m_recent(new QVBoxLayout)
@@ -35,8 +36,9 @@ WelcomePage::WelcomePage(Desk &desk)
     text->setWordWrap(true);
     layout->addStretch();
     layout->addWidget(text);
-    layout->addWidget(m_new, 0, Qt::AlignLeft);
-    layout->addWidget(m_open, 0, Qt::AlignLeft);
+    auto *demonstration = buttonFor(desk.actions().action(QStringLiteral("demonstration")), this);
+    for (QPushButton *button : {m_wizard, m_new, m_open, demonstration})
+        layout->addWidget(button, 0, Qt::AlignLeft);
     layout->addLayout(m_recent);
     layout->addStretch(2);
 }
@@ -64,7 +66,7 @@ void WelcomePage::refresh()
 
 QWidget *WelcomePage::firstFocus() const
 {
-    return m_recent->count() > 1 ? m_recent->itemAt(1)->widget() : m_new;
+    return m_recent->count() > 1 ? m_recent->itemAt(1)->widget() : m_wizard;
 }
 
 } // namespace kiv::desktop

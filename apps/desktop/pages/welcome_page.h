@@ -30,6 +30,7 @@ signals:
 
 private:
     Desk &m_desk;
+    QPushButton *m_wizard;
     QPushButton *m_new;
     QPushButton *m_open;
     QVBoxLayout *m_recent;

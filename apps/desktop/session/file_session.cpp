@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/file_session.h"
 
+#include "workbench/document/demonstration.h"
 #include "workbench/entry/user_locale.h"
 #include "workbench/versions/kept_versions.h"
+
+#include "foundation/clock.h"
 
 #include <QtCore/QFileInfo>
 
@@ -41,7 +44,11 @@ FileSession::FileSession(Desk &desk, QWidget *window)
     addActions();
     // As long as there are no preferences, each start empties the budget for the wizard.
     connect(&desk.document().navigator(), &navigation::Navigator::showNewBudgetFirstTimeWizard,
-            this, &FileSession::storePreferences);
+            this, [this] {
+                storePreferences();
+                if (m_desk.document().file().isEmpty())
+                    emit beginnerCame();
+            });
     connect(&desk.document().news(), &workbench::DocumentNews::keepingChanged, this,
             &FileSession::followKeeping);
     connect(&desk, &Desk::refreshWanted, this, &FileSession::followBudget);
@@ -62,6 +69,7 @@ void FileSession::addActions()
                     if (!file.isEmpty())
                         open(file);
                 });
+    add("demonstration", Group::File, tr("&Demonstration …"), {}, &FileSession::makeDemonstration);
     add("save", Group::File, tr("&Save now"), QKeySequence::Save, &FileSession::saveNow);
     add("saveCopy", Group::File, tr("Save a &copy …"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileSession::saveCopy);
@@ -148,6 +156,28 @@ void FileSession::makeNew()
         settle();
 }
 
+void FileSession::makeFilled(const QString &file, const workbench::Deed &deed,
+                             const std::function<void()> &fill)
+{
+    if (leave() != Leaving::Saved)
+        return;
+    m_desk.document().createFilled(file, deed, fill);
+    settle();
+}
+
+void FileSession::makeDemonstration()
+{
+    const QString file = m_desk.questions().fileToMake(m_window, tr("Demonstration"));
+    if (file.isEmpty())
+        return;
+    attempt(openingNotice, [&] {
+        makeFilled(QFileInfo(file).absoluteFilePath(),
+                   {tr("Made the demonstration"), tr("making the demonstration"), {}}, [this] {
+                       workbench::makeDemonstration(m_desk.requests(), foundation::today());
+                   });
+    });
+}
+
 void FileSession::saveNow()
 {
     const bool isSaved = attempt(savingNotice, [this] { m_desk.document().writeNow(); });
@@ -229,11 +259,11 @@ void FileSession::offerVersions(const QString &file)
         const auto isWhole = [](const storage::KeptVersion &version) {
             return !version.isFile && version.telling != storage::KeptVersion::Telling::Nothing;
         };
-        for (const storage::KeptVersion &version : versions.all() | std::views::filter(isWhole) |
-                                                       std::views::take(versionsOffered)) {
+        for (const storage::KeptVersion &version :
+             versions.all() | std::views::filter(isWhole) | std::views::take(versionsOffered)) {
             names += version.name;
-            texts += tr("%1, %2").arg(workbench::momentText(version.mark.savedAt),
-                                      version.mark.change);
+            texts +=
+                tr("%1, %2").arg(workbench::momentText(version.mark.savedAt), version.mark.change);
         }
     });
     if (!isRead || names.isEmpty())

@@ -18,6 +18,10 @@ public:
     /// be done. Returns whether it is open.
     bool open(const QString &file,
               workbench::Document::Access access = workbench::Document::Access::ChangeIfPossible);
+    /// Makes a new budget as Document::createFilled() does, after what is open was written.
+    /// Nothing happens if the user then would rather keep it. Throws what that throws.
+    void makeFilled(const QString &file, const workbench::Deed &deed,
+                    const std::function<void()> &fill);
     /// Makes sure that nothing is lost when the window closes: writes what is pending, and
     /// asks only if that failed. Returns whether the window may close.
     [[nodiscard]] bool mayClose();
@@ -27,6 +31,8 @@ public:
 signals:
     /// Another file is open.
     void opened();
+    /// There are no preferences yet, so somebody begins who knows nothing of all this.
+    void beginnerCame();
     /// The file, or how it is kept, has changed.
     void keptChanged();
 
@@ -39,6 +45,7 @@ private:
     /// Stores the present settings, so that preferences exist.
     void storePreferences();
     void makeNew();
+    void makeDemonstration();
     void saveNow();
     void saveCopy();
     void saveElsewhere();

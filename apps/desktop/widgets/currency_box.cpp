@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/currency_box.h"
 
+#include "numira/currency.h"
+
 namespace kiv::desktop {
 
 CurrencyBox::CurrencyBox(QWidget *parent) : QComboBox(parent)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "numira/currency.h"
-
 #include <QtWidgets/QComboBox>
+
+namespace numira {
+class Currency;
+}
 
 namespace kiv::desktop {
 

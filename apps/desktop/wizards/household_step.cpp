@@ -136,8 +136,8 @@ void HouseholdStep::follow()
 
 bool HouseholdStep::takeTyped()
 {
-    const auto line = std::ranges::find(
-        m_lines, m_shownKey, [](const StarterLine &one) { return keyOf(one.choice); });
+    const auto line = std::ranges::find(m_lines, m_shownKey,
+                                        [](const StarterLine &one) { return keyOf(one.choice); });
     if (line == m_lines.end() || typed(*m_amount, *m_day, *m_target) == m_shownText)
         return true;
     StarterChoice choice = line->choice;
