@@ -27,11 +27,13 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
       m_list(new QVBoxLayout),
       m_buttons(new QWidget(this)),
       m_grid(new QGridLayout(m_buttons)),
-      m_side(new QVBoxLayout)
+      m_side(new QWidget(this))
 {
     auto *sides = new QHBoxLayout(this);
     sides->addLayout(m_list, 3);
-    sides->addLayout(m_side, 2);
+    sides->addWidget(m_side, 2);
+    (new QVBoxLayout(m_side))->setContentsMargins(0, 0, 0, 0);
+    m_side->hide();
     m_none->setWordWrap(true);
     m_list->addWidget(m_none);
     m_list->addWidget(m_table, 1);
@@ -70,11 +72,11 @@ QPushButton *ListPage::addButton(const QString &id, const QString &text,
 
 Form *ListPage::addForm(const QString &id)
 {
-    auto *form = new Form(desk(), this);
+    auto *form = new Form(desk(), m_side);
     form->setObjectName(id);
     form->hide();
     connect(form, &Form::givenUp, this, &ListPage::closeForm);
-    m_side->addWidget(form, 0, Qt::AlignTop);
+    static_cast<QVBoxLayout *>(m_side->layout())->addWidget(form, 0, Qt::AlignTop);
     return form;
 }
 
@@ -94,6 +96,7 @@ void ListPage::open(Form &form, QWidget &first)
     form.message().withdraw();
     allowForm();
     form.show();
+    m_side->show();
     m_buttons->hide(); // the form has its own
     first.setFocus(Qt::OtherFocusReason);
 }
@@ -106,6 +109,7 @@ void ListPage::closeForm()
     m_buttons->show();
     listFocus()->setFocus(Qt::OtherFocusReason);
     form->hide();
+    m_side->hide();
 }
 
 void ListPage::allowForm()

@@ -81,7 +81,7 @@ private:
     QVBoxLayout *m_list;
     QWidget *m_buttons;
     QGridLayout *m_grid;
-    QVBoxLayout *m_side;
+    QWidget *m_side; ///< hidden while no form is open, so that the table is as wide as the page
     Form *m_open = nullptr;
     QWidget *m_first = nullptr; ///< of the open form
 };

@@ -84,8 +84,11 @@ void FileSession::storePreferences()
         workbench::Requests &requests = m_desk.requests();
         const auto answer = requests.ask(&navigation::Navigator::showConfigure,
                                          &navigation::Navigator::onPrepareShowConfigure);
+        auto settings = std::get<navigation::ConfigurationData>(answer);
+        // A budget that is open already can have others than those of the settings.
+        settings.usableCurrencies.merge(std::set(std::get<std::set<numira::Currency>>(answer)));
         requests.change(workbench::configureOutcome, &navigation::Navigator::onConfigureUpdated,
-                        std::get<navigation::ConfigurationData>(answer));
+                        settings);
     });
 }
 
