@@ -5,7 +5,7 @@
 #include "command_line/manual.h"
 #include "commands/commands.h"
 #include "messages/errors.h"
-#include "output/json_text.h"
+#include "output/json.h"
 #include "output/table.h"
 #include "output/terminal.h"
 #include "parsing/words.h"

@@ -92,6 +92,21 @@ QString PromiseVerdict::sentence() const
     return QObject::tr("Debits equal credits in every currency");
 }
 
+QString PromiseVerdict::result() const
+{
+    switch (verdict) {
+    case storage::Verdict::Kept:
+        return QObject::tr("ok");
+    case storage::Verdict::Mended:
+        return QObject::tr("repaired when opened");
+    case storage::Verdict::Broken:
+        return QObject::tr("FAILED");
+    case storage::Verdict::NotJudged:
+        break;
+    }
+    return QObject::tr("not checked");
+}
+
 bool Verification::isWhole() const
 {
     return std::ranges::none_of(

@@ -26,6 +26,8 @@ struct KIV_WORKBENCH_EXPORT PromiseVerdict {
 
     /// The check as a sentence without its end, in the user's language.
     [[nodiscard]] QString sentence() const;
+    /// The result in words, such as "ok", in the user's language.
+    [[nodiscard]] QString result() const;
 };
 
 /// A checked budget file.

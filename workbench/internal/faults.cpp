@@ -70,6 +70,16 @@ EntryError notAPercentage(const QString &text)
     return EntryError(QObject::tr("'%1' is not a percentage; write one like 2.75.").arg(text));
 }
 
+EntryError notARate(const QString &text)
+{
+    return EntryError(QObject::tr("'%1' is not a rate; write one like 0.92.").arg(text));
+}
+
+EntryError noCurrencies()
+{
+    return EntryError(QObject::tr("No currency is given; write codes such as USD, EUR."));
+}
+
 EntryError currencyGivenTwice(const QString &currency)
 {
     return EntryError(QObject::tr("The currency '%1' is given twice.").arg(currency));
@@ -143,6 +153,17 @@ Refusal ambiguousAccount(const QString &name, const QStringList &ways)
 Refusal noSuchBank(const QString &name, const QStringList &similar)
 {
     return missed(QObject::tr("There is no bank '%1'").arg(name), similar, Remedy::ListBanks);
+}
+
+Refusal releasesNotFetched(const QString &reason)
+{
+    return Refusal(
+        withReason(QObject::tr("The releases could not be fetched; try again later."), reason));
+}
+
+Refusal noSuchTag(const QString &name, const QStringList &similar)
+{
+    return missed(QObject::tr("There is no tag '%1'").arg(name), similar, Remedy::ListTags);
 }
 
 Refusal notABankAccount(const QString &account)

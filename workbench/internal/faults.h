@@ -19,6 +19,9 @@ namespace kiv::workbench::internal {
                                        unsigned digitsMax);
 [[nodiscard]] EntryError notACurrency(const QString &text, const QStringList &similar);
 [[nodiscard]] EntryError notAPercentage(const QString &text);
+[[nodiscard]] EntryError notARate(const QString &text);
+/// A list of currencies that is empty.
+[[nodiscard]] EntryError noCurrencies();
 [[nodiscard]] EntryError currencyGivenTwice(const QString &currency);
 [[nodiscard]] EntryError splitTooShort();
 /// A sum of amounts in two currencies.
@@ -44,6 +47,9 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal noSuchAccount(const QString &text, const QStringList &similar);
 /// `ways` are what to write for each of them.
 [[nodiscard]] Refusal ambiguousAccount(const QString &name, const QStringList &ways);
+/// `reason` can be empty.
+[[nodiscard]] Refusal releasesNotFetched(const QString &reason);
+[[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal noSuchBank(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal notABankAccount(const QString &account);
 [[nodiscard]] Refusal noSuchItem(budgeting::BudgetItemTypes kind, const QString &name,

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/exchange_rates.h"
 
+#include "workbench/entry/user_locale.h"
 #include "workbench/internal/faults.h"
 
 #include "foundation/presentation.h"
+#include "numira/error.h"
+#include "numira/local_text.h"
+
+#include <QtCore/QRegularExpression>
 
 namespace kiv::workbench {
 
@@ -14,6 +19,48 @@ ConversionMap presentRates(Requests &requests)
 {
     return std::get<ConversionMap>(
         requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates));
+}
+
+ListedRates listedRates(Requests &requests)
+{
+    const auto shown =
+        requests.ask(&Navigator::showExchangeRates, &Navigator::onPrepareShowExchangeRates);
+    ListedRates listed{{}, std::get<ConversionMap>(shown), {}};
+    listed.base = listed.rates.isEmpty() ? requests.preferredCurrency() : listed.rates.base();
+    for (const numira::Currency &currency : std::get<std::set<numira::Currency>>(shown)) {
+        if (currency != listed.base && !listed.rates.rates().contains(currency))
+            listed.lacking.insert(currency);
+    }
+    return listed;
+}
+
+QString rateText(const numira::FloatingPoint &rate)
+{
+    constexpr int digits = 12;
+    const std::string plain = rate.str(digits, std::ios::fmtflags());
+    try {
+        return QString::fromStdString(numira::toLocalText(numira::Decimal::fromText(plain)));
+    } catch (const numira::Error &) {
+        return QString::fromStdString(plain); // such as one with an exponent
+    }
+}
+
+numira::FloatingPoint rateOf(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral(R"(\A\d{1,20}(?:\.\d{1,20})?\z)"));
+    const QString plain = plainNumber(text.trimmed());
+    if (!form.match(plain).hasMatch())
+        throw internal::notARate(text);
+    return numira::FloatingPoint(plain.toStdString());
+}
+
+QString lackingText(const std::set<numira::Currency> &currencies)
+{
+    QStringList codes;
+    for (const numira::Currency &currency : currencies)
+        codes += foundation::toQString(currency);
+    return QObject::tr("The service has no exchange rates for: %1")
+        .arg(codes.join(QStringLiteral(", ")));
 }
 
 FetchedRates fetchRates(Requests &requests, std::set<numira::Currency> wanted)

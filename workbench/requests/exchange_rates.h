@@ -16,6 +16,25 @@ struct FetchedRates {
 /// The present rates.
 [[nodiscard]] KIV_WORKBENCH_EXPORT conversion::ConversionMap presentRates(Requests &requests);
 
+/// The present rates as people look at them.
+struct ListedRates {
+    numira::Currency
+        base; ///< each rate is for one unit of it; the preferred currency without rates
+    conversion::ConversionMap rates;    ///< the table
+    std::set<numira::Currency> lacking; ///< usable, but without a rate
+};
+/// Lists them.
+[[nodiscard]] KIV_WORKBENCH_EXPORT ListedRates listedRates(Requests &requests);
+
+/// A rate in the form of the locale, with up to twelve digits.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString rateText(const numira::FloatingPoint &rate);
+/// Reads a rate such as "0.92", with a point or the user's decimal mark. Throws an EntryError
+/// for anything else.
+[[nodiscard]] KIV_WORKBENCH_EXPORT numira::FloatingPoint rateOf(const QString &text);
+/// "The service has no exchange rates for: JPY, CHF"
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString
+lackingText(const std::set<numira::Currency> &currencies);
+
 /// Fetches and stores the rates of the wanted currencies, by default of the user's usable
 /// ones. Throws what storing throws.
 [[nodiscard]] KIV_WORKBENCH_EXPORT FetchedRates fetchRates(Requests &requests,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/surveys/survey_form.h"
 
+#include "workbench/entry/money_text.h"
 #include "workbench/entry/values.h"
 #include "workbench/internal/faults.h"
 #include "workbench/requests/budget_view.h"
@@ -63,6 +64,12 @@ SurveyForm SurveyForm::propose(Requests &requests, const QString &bank, const QS
 
     SurveyForm form;
     form.account = {name, *found};
+    form.accounts.insert(number);
+    const AccountIndex index = requests.accounts();
+    for (const accounting::Account &other : index.accounts()) {
+        if (other.code().parent() == number)
+            form.accounts.insert(other.code().number());
+    }
     form.date = date;
     form.proposal = std::get<surveying::MappingSurvey>(
         requests.ask(&Navigator::generatedMappingSurvey, &Navigator::onGenerateMappingSurvey, name,
@@ -121,6 +128,66 @@ void SurveyForm::complete(Requests &requests) const
 bool SurveyForm::isOwed() const
 {
     return banking::isLiabilityAccount(account.account.type);
+}
+
+std::vector<accounting::Transaction> SurveyForm::transactions() const
+{
+    // A transaction within the surveyed accounts may be there once for each side.
+    std::map<std::pair<QDate, TransactionNumber>, accounting::Transaction> ordered;
+    const auto collect = [&ordered](const auto &changes) {
+        for (const auto &[key, set] : changes) {
+            for (const surveying::BalanceChange &change : set) {
+                const accounting::Transaction &one = change.transaction();
+                ordered.emplace(std::pair(one.occurredOn(), one.number().value()), one);
+            }
+        }
+    };
+    collect(proposal.budgetItemChanges());
+    collect(proposal.accountChanges());
+    std::vector<accounting::Transaction> all;
+    for (auto &[place, transaction] : ordered)
+        all.push_back(std::move(transaction));
+    return all;
+}
+
+numira::Money SurveyForm::changeBy(const accounting::Transaction &transaction) const
+{
+    const AccountNumber debit = transaction.debiting().number();
+    const AccountNumber credit = transaction.crediting().number();
+    const AccountNumber number = account.account.number;
+    const bool isDebited = debit == number || (credit != number && accounts.contains(debit));
+    const numira::Money &amount = transaction.amountFor(isDebited ? debit : credit);
+    return isDebited == isOwed() ? -amount : amount;
+}
+
+bool SurveyForm::isWithin(const accounting::Transaction &transaction) const
+{
+    return accounts.contains(transaction.debiting().number()) &&
+           accounts.contains(transaction.crediting().number());
+}
+
+numira::Money SurveyForm::missing() const
+{
+    numira::Money rest = balance;
+    rest -= proposal.reconciled().balance();
+    for (const accounting::Transaction &transaction : transactions()) {
+        if (reconciled.contains(transaction.number().value()) && !isWithin(transaction))
+            rest -= changeBy(transaction);
+    }
+    for (const auto &[id, money] : items)
+        rest -= money;
+    for (const auto &[number, money] : extras)
+        rest -= money;
+    return rest;
+}
+
+Deed SurveyForm::deed(Requests &requests) const
+{
+    const QString name = requests.accounts().plainName(account.account.number);
+    return {QObject::tr("Reconciled %1 at %2 with a balance of %3.")
+                .arg(name, account.bank.institution(), amountText(balance, requests.displayAs())),
+            QObject::tr("reconciling “%1”").arg(name),
+            {}};
 }
 
 numira::Money SurveyForm::left() const

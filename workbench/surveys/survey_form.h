@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/history/deed.h"
 #include "workbench/requests/requests.h"
 
 #include "surveying/indexed_increase_decreases.h"
@@ -10,7 +11,9 @@ namespace kiv::workbench {
 
 /// The survey of a bank account: the Navigator's proposal, and what the user enters.
 struct KIV_WORKBENCH_EXPORT SurveyForm {
-    banking::BankAccount account;      ///< the surveyed account
+    banking::BankAccount account; ///< the surveyed account
+    /// The surveyed account and those directly under it.
+    std::set<accounting::AccountNumber> accounts;
     QDate date;                        ///< of the statement
     surveying::MappingSurvey proposal; ///< the Navigator's
 
@@ -45,6 +48,19 @@ struct KIV_WORKBENCH_EXPORT SurveyForm {
     /// Whether the balance is a debt, as of a credit card. Nothing can be set aside of
     /// it.
     [[nodiscard]] bool isOwed() const;
+    /// The transactions of the proposal, by day and number.
+    [[nodiscard]] std::vector<accounting::Transaction> transactions() const;
+    /// What the transaction does to the balance of the surveyed account; if it only touches
+    /// accounts under that one, to theirs.
+    [[nodiscard]] numira::Money changeBy(const accounting::Transaction &transaction) const;
+    /// Whether it moves money among the surveyed accounts: the statement's balance stays.
+    [[nodiscard]] bool isWithin(const accounting::Transaction &transaction) const;
+    /// What the balance of the statement has beyond the last one, the ticked transactions of
+    /// the proposal and what is not booked yet: zero if they agree. Throws what a missing
+    /// exchange rate throws.
+    [[nodiscard]] numira::Money missing() const;
+    /// The name of completing it, without a place.
+    [[nodiscard]] Deed deed(Requests &requests) const;
     /// The balance minus the distribution.
     [[nodiscard]] numira::Money left() const;
     /// `items` by their effect on the balance.

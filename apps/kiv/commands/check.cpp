@@ -40,15 +40,6 @@ const char *wordOf(Verdict verdict)
     return "not judged";
 }
 
-QString verdictText(const QJsonValue &word)
-{
-    const QString text = word.toString();
-    return text == u"kept"     ? QObject::tr("ok")
-           : text == u"mended" ? QObject::tr("repaired when opened")
-           : text == u"broken" ? QObject::tr("FAILED")
-                               : QObject::tr("not checked");
-}
-
 QString detailsText(const QJsonValue &details)
 {
     QStringList texts;
@@ -72,7 +63,9 @@ struct Check {
         const workbench::Verification found = workbench::verify(path);
         const bool isWhole = found.isWhole();
         QJsonArray rows;
+        QHash<QString, QString> results; // in the user's words
         for (const workbench::PromiseVerdict &promise : found.promises) {
+            results.insert(QLatin1String(wordOf(promise.verdict)), promise.result());
             rows.append(QJsonObject{
                 {QStringLiteral("promise"), QLatin1String(wordOf(promise.promise))},
                 {QStringLiteral("text"), promise.sentence()},
@@ -84,7 +77,8 @@ struct Check {
                                   {QStringLiteral("promises"), rows}});
         report
             .table({{QObject::tr("Check"), QStringLiteral("text")},
-                    {QObject::tr("Result"), QStringLiteral("verdict"), verdictText},
+                    {QObject::tr("Result"), QStringLiteral("verdict"),
+                     [results](const QJsonValue &word) { return results.value(word.toString()); }},
                     {QObject::tr("Details"), QStringLiteral("details"), detailsText}},
                    rows, {})
             .line(isWhole ? QObject::tr("The budget '%1' is intact.").arg(path)

@@ -2,8 +2,9 @@
 // configure show|set, tags list|remove
 #include "commands/commands.h"
 
+#include "workbench/requests/settings.h"
+
 #include "foundation/presentation.h"
-#include "navigation/configuration.h"
 
 namespace kiv::app {
 
@@ -34,12 +35,6 @@ void readValue(const QString &text, DisplayOption &option)
     throw notAChoice(text, choices);
 }
 
-ConfigurationData present(Requests &requests)
-{
-    return std::get<ConfigurationData>(
-        requests.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
-}
-
 QJsonArray tagNames(const tagging::Tags &tags)
 {
     QJsonArray names;
@@ -50,7 +45,7 @@ QJsonArray tagNames(const tagging::Tags &tags)
 
 Report configurationReport(Requests &requests)
 {
-    const ConfigurationData data = present(requests);
+    const ConfigurationData data = workbench::presentSettings(requests);
     QJsonArray usable;
     for (const numira::Currency &currency : data.usableCurrencies)
         usable.append(foundation::toQString(currency));
@@ -116,10 +111,9 @@ struct SetConfiguration {
     {
         if (!preferred && usable.empty() && !display && !notify && !window && !hours && !days)
             throw nothingToChange();
-        ConfigurationData data = present(call.requests);
+        ConfigurationData data = workbench::presentSettings(call.requests);
         if (preferred)
-            data.usableCurrencies.insert(*preferred);
-        data.preferredCurrency = preferred.value_or(data.preferredCurrency);
+            workbench::prefer(data, *preferred);
         if (!usable.empty())
             data.usableCurrencies = {usable.begin(), usable.end()};
         if (display)
@@ -128,7 +122,7 @@ struct SetConfiguration {
         data.surveyWindow = window.value_or(data.surveyWindow);
         data.hoursInWeek = hours.value_or(data.hoursInWeek);
         data.daysInWeek = days.value_or(data.daysInWeek);
-        call.requests.change(workbench::configureOutcome, &Navigator::onConfigureUpdated, data);
+        workbench::storeSettings(call.requests, data);
         return configurationReport(call.requests);
     }
 };
@@ -137,7 +131,7 @@ struct ListTags {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const QJsonArray names = tagNames(present(call.requests).tags);
+        const QJsonArray names = tagNames(workbench::presentSettings(call.requests).tags);
         Report report{QJsonValue(names)};
         for (const QJsonValue name : names)
             report.line(name.toString());
@@ -154,22 +148,10 @@ struct RemoveTags {
     }
     Report run(Call &call) const
     {
-        ConfigurationData data = present(call.requests);
-        tagging::Tags removed;
-        QStringList known;
-        for (const tagging::Tag &candidate : data.tags)
-            known += candidate.name();
-        QStringList named;
-        for (const QString &tag : tags) {
-            if (!data.tags.contains(tagging::Tag(tag)))
-                throw noSuchTag(tag, similarTo(tag, known));
-            removed.insert(tagging::Tag(tag));
-            named += tag;
-        }
+        const tagging::Tags left = workbench::removeTags(call.requests, {tags.begin(), tags.end()});
+        QStringList named(tags.begin(), tags.end());
         named.removeDuplicates();
-        data.tags = data.tags.without(removed);
-        call.requests.change(workbench::configureOutcome, &Navigator::onConfigureUpdated, data);
-        return Report(QJsonValue(tagNames(data.tags)))
+        return Report(QJsonValue(tagNames(left)))
             .line(QObject::tr("Removed the tags %1.", nullptr, static_cast<int>(named.size()))
                       .arg(named.join(QStringLiteral(", "))));
     }

@@ -10,11 +10,6 @@
 
 #include "conversion/conversion_map.h"
 #include "foundation/presentation.h"
-#include "numira/error.h"
-#include "numira/local_text.h"
-
-#include <QtCore/QRegularExpression>
-
 #include <unistd.h>
 
 namespace kiv::app {
@@ -32,38 +27,23 @@ struct RateArgument {
 
 void readValue(const QString &text, RateArgument &value)
 {
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A([A-Za-z]{3})=(\d{1,20}(?:\.\d{1,20})?)\z)"));
-    const QRegularExpressionMatch match = form.match(text);
-    if (!match.hasMatch())
+    const qsizetype at = text.indexOf(u'=');
+    if (at < 1)
         throw notARate(text);
-    workbench::readValue(match.captured(1), value.rate.currency);
-    value.rate.rate = numira::FloatingPoint(match.captured(2).toStdString());
+    workbench::readValue(text.first(at), value.rate.currency);
+    value.rate.rate = workbench::rateOf(text.sliced(at + 1));
 }
 
 /// The rate in the form of the locale.
 QString rateText(const QJsonValue &rate)
 {
-    try {
-        const auto number = numira::Decimal::fromText(rate.toString().toStdString());
-        return QString::fromStdString(numira::toLocalText(number));
-    } catch (const numira::Error &) {
-        return rate.toString(); // such as one with an exponent
-    }
+    return workbench::rateText(numira::FloatingPoint(rate.toString().toStdString()));
 }
 
 QString sourceText(const QJsonValue &source)
 {
     return source.toString() == QLatin1String(wordOf(RateSource::Typed)) ? QObject::tr("typed")
                                                                          : QObject::tr("fetched");
-}
-
-QString codesOf(const std::set<numira::Currency> &currencies)
-{
-    QStringList codes;
-    for (const numira::Currency &currency : currencies)
-        codes += foundation::toQString(currency);
-    return codes.join(QStringLiteral(", "));
 }
 
 Report ratesReport(const ConversionMap &map)
@@ -121,9 +101,7 @@ struct FetchRates {
         if (failure)
             throw ratesNotFetched(*failure);
         if (!lacking.empty()) {
-            complain(QObject::tr("warning: %1")
-                         .arg(QObject::tr("The service has no exchange rates for: %1")
-                                  .arg(codesOf(lacking))));
+            complain(QObject::tr("warning: %1").arg(workbench::lackingText(lacking)));
         }
         return ratesReport(map);
     }

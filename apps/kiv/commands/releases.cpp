@@ -4,31 +4,18 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/releases.h"
+
 #include "foundation/presentation.h"
 #include "updating/release_information.h"
 
 #include <QtCore/QCoreApplication>
 
-#include <chrono>
-
 namespace kiv::app {
 
-using navigation::Navigator;
 using updating::ReleaseInformation;
 
 namespace {
-
-/// Slightly longer than the time limit of a request.
-constexpr std::chrono::seconds patience{40};
-
-/// Fetches the releases, newest first. Throws a Refusal if there is no answer.
-std::vector<ReleaseInformation> fetchReleases(Requests &requests)
-{
-    const auto [releases, failure] = requests.fetchReleases(patience);
-    if (releases.empty() && failure)
-        throw releasesNotFetched(*failure);
-    return {releases.rbegin(), releases.rend()};
-}
 
 QJsonObject toJson(const ReleaseInformation &release)
 {
@@ -43,7 +30,7 @@ struct CheckUpdates {
     {
         const auto own =
             updating::SemanticVersion::fromText(QCoreApplication::applicationVersion());
-        const std::vector<ReleaseInformation> releases = fetchReleases(call.requests);
+        const std::vector<ReleaseInformation> releases = workbench::fetchedReleases(call.requests);
         const bool isNews = !releases.empty() && releases.front().version.isNewerThan(own);
         QJsonObject json{{QStringLiteral("version"), updating::toQString(own)},
                          {QStringLiteral("latest"), QJsonValue()}};
@@ -61,7 +48,7 @@ struct ReleaseNotes {
     {
         QJsonArray rows;
         Report report;
-        for (const ReleaseInformation &release : fetchReleases(call.requests)) {
+        for (const ReleaseInformation &release : workbench::fetchedReleases(call.requests)) {
             rows.append(toJson(release));
             report.heading(updating::presentationText(release.version) + u' ' +
                            foundation::presentationText(release.releasedOn));

@@ -4,7 +4,7 @@
 
 #include "command_line/candidates.h"
 #include "messages/exit_status.h"
-#include "output/json_text.h"
+#include "output/json.h"
 #include "output/signal_watch.h"
 #include "parsing/words.h"
 #include "program/last_write.h"

@@ -189,7 +189,7 @@ struct RunSurvey {
                         .arg(accounting::presentationText(number),
                              foundation::presentationText(transaction.occurredOn()),
                              workbench::Description::of(transaction.description()).shown(),
-                             amountText(toJson(changeBy(transaction, form)),
+                             amountText(toJson(form.changeBy(transaction)),
                                         call.document.displayAs()))))
                 form.reconciled.insert(number);
         }
@@ -266,19 +266,6 @@ private:
             return QString::fromStdString(line).trimmed();
         }
     };
-
-    /// The amount as the statement shows it. For a transaction of a sub-account it is
-    /// the transaction's own amount.
-    [[nodiscard]] static numira::Money changeBy(const accounting::Transaction &transaction,
-                                                const SurveyForm &form)
-    {
-        const accounting::AccountNumber account = form.account.account.number;
-        if (!transaction.involves(account))
-            return transaction.amount();
-        const numira::Money amount = transaction.amountFor(account);
-        const bool isDebited = transaction.debiting().number() == account;
-        return isDebited == form.isOwed() ? -amount : amount;
-    }
 };
 
 } // namespace

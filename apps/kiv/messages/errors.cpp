@@ -171,18 +171,6 @@ Refusal ratesNotFetched(const QString &reason)
                    reason));
 }
 
-Refusal releasesNotFetched(const QString &reason)
-{
-    return Refusal(
-        withReason(QObject::tr("The releases could not be fetched; try again later."), reason));
-}
-
-Refusal noSuchTag(const QString &name, const QStringList &similar)
-{
-    return workbench::missed(QObject::tr("There is no tag '%1'").arg(name), similar,
-                             workbench::Remedy::ListTags);
-}
-
 UsageError unknownFormat(const QString &file)
 {
     return UsageError(

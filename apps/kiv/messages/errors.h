@@ -58,8 +58,6 @@ public:
 [[nodiscard]] Refusal surveyGivenUp();
 /// `reason` can be empty.
 [[nodiscard]] Refusal ratesNotFetched(const QString &reason);
-[[nodiscard]] Refusal releasesNotFetched(const QString &reason);
-[[nodiscard]] Refusal noSuchTag(const QString &name, const QStringList &similar);
 
 /// The name of the file and its first bytes do not show its format.
 [[nodiscard]] UsageError unknownFormat(const QString &file);

@@ -1,48 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/requests/budget_view.h"
+#include "workbench/json/json.h"
+#include "workbench/json/json_text.h"
 
-#include "banking/bank_map.h"
-#include "budgeting/due.h"
-
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
-
-/// The JSON forms of a budget's values. Amounts are plain decimals in text next to their
-/// currency's code, dates are ISO 8601. Accounts and transactions are referred to by
-/// number.
+/// The JSON of the workbench, beside that of commands.
 namespace kiv::app {
 
-/// {"amount": "2500.00", "currency": "USD"}
-[[nodiscard]] QJsonObject toJson(const numira::Money &money);
-/// "2026-03-31"; null if the date is invalid.
-[[nodiscard]] QJsonValue toJson(const QDate &date);
-[[nodiscard]] QJsonValue toJson(accounting::AccountNumber number);
-[[nodiscard]] QJsonValue toJson(const std::optional<accounting::AccountNumber> &number);
-[[nodiscard]] QJsonValue toJson(const std::optional<accounting::TransactionNumber> &number);
-/// {number, name, type, parent, open, balance, path}
-[[nodiscard]] QJsonObject accountJson(const accounting::AccountCode &code,
-                                      accounting::AccountTypes type, bool isOpen,
-                                      const numira::Money &balance, const QString &path);
-[[nodiscard]] QJsonObject toJson(const accounting::Account &account,
-                                 const workbench::AccountIndex &index);
-/// {number, date, debit, credit, amount, description, debitStatus, creditStatus}. With
-/// debitAmount and creditAmount if a side is in another currency, and refundOf for a
-/// refund.
-[[nodiscard]] QJsonObject toJson(const accounting::Transaction &transaction);
-/// The JSON form of a transaction with the paths of its accounts as debitPath and
-/// creditPath, for people.
-[[nodiscard]] QJsonObject withPaths(QJsonObject transaction, const workbench::AccountIndex &index);
-/// {kind, name, amount, every, next}; with borrowed for a debt and target for a goal.
-[[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item);
-/// The same with the item's tags, and with bank and bankAccount (a number) if it is
-/// linked to one.
-[[nodiscard]] QJsonObject toJson(const budgeting::BudgetedMoney &item,
-                                 const workbench::BudgetView &view);
-/// {kind, name, amount, due}
-[[nodiscard]] QJsonObject toJson(const budgeting::BudgetItemAmountDue &due);
-/// {name, open, accounts: [{number, name, type, balance}]}
-[[nodiscard]] QJsonObject toJson(const banking::Bank &bank, const workbench::AccountIndex &index);
+using workbench::accountJson;
+using workbench::JsonText;
+using workbench::Rows;
+using workbench::toJson;
+using workbench::withPaths;
 
 } // namespace kiv::app

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "output/report.h"
 
-#include "output/json_text.h"
+#include "output/json.h"
 #include "output/table.h"
 
 #include "workbench/entry/description.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "output/rows.h"
+#include "output/json.h"
 #include "output/terminal.h"
 
 #include "workbench/entry/account_index.h"

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtCore/QString>
+#include "workbench/json/json_text.h"
 
-#include <functional>
+#include <QtCore/QString>
 
 namespace kiv::app {
 
-/// Takes text, part by part.
-using Sink = std::function<void(const QByteArray &)>;
+using workbench::Sink;
 
 /// Standard output: its width, its colours, and the only place that writes to it.
 class Terminal {

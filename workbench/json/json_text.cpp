@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "output/json_text.h"
+#include "workbench/json/json_text.h"
 
 #include "foundation/streams.h"
 
 #include <QtCore/QLocale>
 
-namespace kiv::app {
+namespace kiv::workbench {
 namespace {
 
 constexpr qsizetype blockSize = qsizetype{64} << 10;
@@ -161,4 +161,4 @@ void JsonText::breakLine()
     m_text.append(qsizetype{4} * m_depth, ' ');
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,23 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "output/rows.h"
-#include "output/terminal.h"
+#include "workbench/export.h"
+#include "workbench/json/rows.h"
 
-namespace kiv::app {
+namespace kiv::workbench {
+
+/// Takes text, part by part.
+using Sink = std::function<void(const QByteArray &)>;
 
 /// JSON as text: indented, or on one line. Control and other unsafe characters are
 /// written as \uXXXX.
-class JsonText {
+class KIV_WORKBENCH_EXPORT JsonText {
 public:
+    /// How it is laid out.
     enum class Layout { Indented, OneLine };
 
     /// The text goes to `sink` in blocks.
     JsonText(Layout layout, Sink sink);
 
+    /// Adds a value.
     JsonText &add(const QJsonValue &value);
+    /// Adds a list.
     JsonText &add(const Rows &list);
-    /// The object with the list as its member `key`.
+    /// Adds the object with the list as its member `key`.
     JsonText &add(const QJsonObject &object, const QString &key, const Rows &list);
 
     /// Ends the text with a line feed, and hands over the last block.
@@ -38,4 +44,4 @@ private:
     int m_depth = 0;
 };
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "output/json.h"
+#include "workbench/json/json.h"
 
 #include "workbench/entry/kind_words.h"
 
@@ -7,12 +7,10 @@
 #include "foundation/local_dates.h"
 #include "foundation/presentation.h"
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 using accounting::AccountNumber;
 using accounting::TransactionNumber;
-using workbench::AccountIndex;
-using workbench::kindWord;
 
 QJsonObject toJson(const numira::Money &money)
 {
@@ -102,11 +100,11 @@ QJsonObject toJson(const budgeting::BudgetedMoney &item)
     return json;
 }
 
-QJsonObject toJson(const budgeting::BudgetedMoney &item, const workbench::BudgetView &view)
+QJsonObject toJson(const budgeting::BudgetedMoney &item, const BudgetView &view)
 {
     QJsonObject json = toJson(item);
     QJsonArray tagNames;
-    const budgeting::BudgetItemIdentifier id = workbench::identify(item);
+    const budgeting::BudgetItemIdentifier id = identify(item);
     for (const tagging::Tag &tag : view.tags(id))
         tagNames.append(tag.name());
     json.insert(QStringLiteral("tags"), tagNames);
@@ -142,4 +140,4 @@ QJsonObject toJson(const banking::Bank &bank, const AccountIndex &index)
             {QStringLiteral("accounts"), accounts}};
 }
 
-} // namespace kiv::app
+} // namespace kiv::workbench

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace kiv::app {
+namespace kiv::workbench {
 
 /// The rows of a table, or the elements of a list in JSON. Each is made when it is
 /// written, so a long list is never whole in memory.
@@ -23,7 +23,9 @@ public:
     {
     }
 
+    /// How many there are.
     [[nodiscard]] qsizetype size() const noexcept { return m_size; }
+    /// Makes the one at an index.
     [[nodiscard]] QJsonValue operator[](qsizetype at) const { return m_row(at); }
 
 private:
@@ -31,4 +33,4 @@ private:
     std::function<QJsonValue(qsizetype)> m_row;
 };
 
-} // namespace kiv::app
+} // namespace kiv::workbench
