@@ -24,7 +24,9 @@ int main(int argc, char **argv)
              QStringLiteral("/rates")});
     MainWindow window({document, settings, questions, options.showsTerms()});
     application.setReporter([&window](const QString &sentence) { window.report(sentence); });
-    const QString file = options.file.isEmpty() ? settings.recentFiles().value(0) : options.file;
+    QString file = options.file;
+    if (file.isEmpty() && settings.opensLastFile())
+        file = settings.recentFiles().value(0);
     if (!file.isEmpty())
         window.open(file);
     window.show();

@@ -4,6 +4,8 @@
 #include "actions/palette_sources.h"
 #include "pages/all_pages.h"
 #include "pages/welcome_page.h"
+#include "session/file_outputs.h"
+#include "session/help_session.h"
 #include "wizards/first_time_wizard.h"
 
 #include <QtCore/QFileInfo>
@@ -35,6 +37,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
       m_desk(new Desk({surroundings.document, surroundings.settings, surroundings.questions,
                        *m_actions, *m_announcer, *m_notices, surroundings.showsTerms})),
       m_session(nullptr),
+      m_help(nullptr),
       m_palette(nullptr),
       m_list(new QListWidget(this)),
       m_stack(new QStackedWidget(this)),
@@ -45,8 +48,10 @@ MainWindow::MainWindow(const Surroundings &surroundings)
 {
     m_desk->setParent(this);
     m_session = new FileSession(*m_desk, this);
+    new FileOutputs(*m_desk, this);
     build();
     addActions();
+    m_help = new HelpSession(*m_desk, this);
     addPages();
     fillMenus();
     m_palette = new CommandPalette(this);
@@ -56,6 +61,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     connect(m_session, &FileSession::beginnerCame, this, &MainWindow::showWizard);
     connect(m_session, &FileSession::keptChanged, this, &MainWindow::showTitle);
     connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
+    connect(m_desk, &Desk::looksChanged, this, &MainWindow::applyLooks);
     if (!restoreGeometry(m_given.settings.state(windowKey)))
         resize(1000, 560);
     showOpened();
@@ -139,10 +145,6 @@ void MainWindow::addActions()
     m_actions->add(QStringLiteral("nextPart"), Group::Go, tr("Next &part of the window"),
                    QKeySequence(Qt::Key_F6), [this] { focusNextPart(); });
     addViewActions();
-    m_actions->add(QStringLiteral("keys"), Group::Help, tr("List of &keys"),
-                   QKeySequence(Qt::CTRL | Qt::Key_Question), [this] {
-                       m_given.questions.show(this, tr("List of keys"), m_actions->listOfKeys());
-                   });
 }
 
 void MainWindow::addViewActions()
@@ -247,6 +249,7 @@ void MainWindow::goTo(const Place &place)
     if (!place.detail.isEmpty())
         wanted->goTo(place.detail);
     m_given.settings.setPage(wanted->id());
+    m_help->setPage(wanted->id());
     if (isOther || !place.detail.isEmpty()) {
         if (!m_list->hasFocus())
             wanted->firstFocus()->setFocus(Qt::OtherFocusReason);
@@ -298,6 +301,7 @@ void MainWindow::showOpened()
         m_back.clear();
     } else {
         m_welcome->refresh();
+        m_help->setPage({});
         m_stack->setCurrentIndex(0);
         m_welcome->firstFocus()->setFocus(Qt::OtherFocusReason);
     }
@@ -306,6 +310,7 @@ void MainWindow::showOpened()
 
 void MainWindow::showWizard()
 {
+    m_help->setPage({});
     m_stack->setCurrentIndex(m_stack->count() - 1);
     m_list->setCurrentRow(-1);
     m_wizard->firstFocus()->setFocus(Qt::OtherFocusReason);

@@ -15,6 +15,7 @@ QT_END_NAMESPACE
 namespace kiv::desktop {
 
 class FirstTimeWizard;
+class HelpSession;
 class WelcomePage;
 
 /// The window: the list of pages at the left, the page, the notices above it and the
@@ -70,6 +71,7 @@ private:
     NoticeBar *m_notices;
     Desk *m_desk;
     FileSession *m_session;
+    HelpSession *m_help;
     CommandPalette *m_palette;
     QListWidget *m_list;
     QStackedWidget *m_stack;

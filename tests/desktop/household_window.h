@@ -19,6 +19,7 @@ public:
 
     QString fileToOpen(QWidget *) override { return next(QStringLiteral("open")); }
     QString fileToMake(QWidget *, const QString &heading) override { return next(heading); }
+    QString fileToExport(QWidget *, const QString &suffix) override { return next(suffix); }
     std::optional<qsizetype> choose(QWidget *, const QString &question,
                                     const QStringList &answers) override
     {

@@ -282,23 +282,7 @@ private slots:
         QCOMPARE(home.requests().transactions().size(), std::size_t{2});
     }
 
-    // ---- everything else ---------------------------------------------------------
-
-    void everythingIsListed()
-    {
-        SmallHousehold home;
-        show(home, "overview");
-        auto *chooser = home.window().page()->findChild<QComboBox *>();
-        QStringList all;
-        for (int section = 0; section < chooser->count(); ++section) {
-            chooser->setCurrentIndex(section);
-            all += chooser->currentText() + u": "_s + texts(home, 0).join(u' ');
-        }
-        QCOMPARE(all, QStringList({u"Reconciliations: "_s, u"Exchange rates: "_s,
-                                   u"Settings: Preferred currency Usable currencies Display of "
-                                   "currencies Due items shown ahead, in days Survey window Work "
-                                   "hours a week Work days a week Tags"_s}));
-    }
+    // ---- the command palette --------------------------------------------------------
 
     void theCommandPaletteFindsAccountsAndItems()
     {

@@ -11,6 +11,7 @@ namespace {
 const QString pageKey = QStringLiteral("page");
 const QString recentKey = QStringLiteral("recentFiles");
 const QString entryKey = QStringLiteral("entryShown");
+const QString lastFileKey = QStringLiteral("opensLastFile");
 const QString appearanceKey = QStringLiteral("appearance");
 const QString textSizeKey = QStringLiteral("textSize");
 
@@ -77,6 +78,16 @@ bool WindowSettings::isEntryShown() const
 void WindowSettings::setEntryShown(bool isShown)
 {
     m_file.setValue(entryKey, isShown);
+}
+
+bool WindowSettings::opensLastFile() const
+{
+    return m_file.value(lastFileKey, true).toBool();
+}
+
+void WindowSettings::setOpensLastFile(bool opens)
+{
+    m_file.setValue(lastFileKey, opens);
 }
 
 Appearance WindowSettings::appearance() const

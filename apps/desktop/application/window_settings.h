@@ -48,6 +48,11 @@ public:
     /// Remembers it.
     void setEntryShown(bool isShown);
 
+    /// Whether the file that was open last is opened at the start.
+    [[nodiscard]] bool opensLastFile() const;
+    /// Remembers it.
+    void setOpensLastFile(bool opens);
+
     /// Light, dark or as the system.
     [[nodiscard]] Appearance appearance() const;
     /// Remembers it.

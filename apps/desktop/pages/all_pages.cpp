@@ -7,16 +7,19 @@
 #include "pages/history_page.h"
 #include "pages/home_page.h"
 #include "pages/items_page.h"
-#include "pages/overview_page.h"
+#include "pages/rates_page.h"
 #include "pages/register_page.h"
+#include "pages/settings_page.h"
+#include "pages/survey_page.h"
 
 namespace kiv::desktop {
 
 std::vector<Page *> makePages(Desk &desk)
 {
     return {
-        new HomePage(desk),  new AccountsPage(desk), new RegisterPage(desk), new DuePage(desk),
-        new ItemsPage(desk), new BanksPage(desk),    new OverviewPage(desk), new HistoryPage(desk),
+        new HomePage(desk),    new AccountsPage(desk), new RegisterPage(desk), new DuePage(desk),
+        new ItemsPage(desk),   new BanksPage(desk),    new SurveyPage(desk),   new RatesPage(desk),
+        new HistoryPage(desk), new SettingsPage(desk),
     };
 }
 

@@ -24,19 +24,44 @@ std::optional<QString> Desk::whyNoChange() const
 bool Desk::perform(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
                    const std::function<void()> &work)
 {
+    return attempt(message, asker, deed.line, [&] { m_parts.document.perform(deed, work); });
+}
+
+bool Desk::apply(FieldMessage &message, QWidget *asker, const QString &line,
+                 const std::function<void()> &work)
+{
+    if (!attempt(message, asker, line, work))
+        return false;
+    emit refreshWanted();
+    return true;
+}
+
+bool Desk::attempt(FieldMessage &message, QWidget *asker, const QString &line,
+                   const std::function<void()> &work)
+{
     if (const std::optional<QString> reason = whyNoChange()) {
         message.complain(asker, *reason);
         return false;
     }
     try {
-        m_parts.document.perform(deed, work);
+        work();
     } catch (const foundation::Error &error) {
         message.complain(asker, workbench::userText(error));
         return false;
     }
     message.withdraw();
-    say(deed.line);
+    say(line);
     return true;
+}
+
+void Desk::wait(const QString &line, const std::function<void()> &work)
+{
+    say(line);
+    const auto after = qScopeGuard([this] { emit refreshWanted(); });
+    requests().within([&] {
+        emit refreshWanted();
+        work();
+    });
 }
 
 } // namespace kiv::desktop

@@ -48,12 +48,21 @@ public:
     /// as before. Returns whether the change was made.
     bool perform(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
                  const std::function<void()> &work);
+    /// Changes what is not part of the budget, such as settings, and cannot be undone. Says
+    /// the line. A refusal is shown as perform() does.
+    bool apply(FieldMessage &message, QWidget *asker, const QString &line,
+               const std::function<void()> &work);
+    /// Runs requests that wait for the network in an event loop. Meanwhile pages say why
+    /// nothing can be changed.
+    void wait(const QString &line, const std::function<void()> &work);
     /// Says a sentence in the status line, and to screen readers.
     void say(const QString &sentence) { m_parts.announcer.say(sentence); }
     /// Shows another page, or another part of it.
     void goTo(const Place &place) { emit placeWanted(place); }
 
 signals:
+    /// The window's appearance or the size of its texts was set.
+    void looksChanged();
     /// Somebody wants to see this place.
     void placeWanted(const Place &place);
     /// Pages are to show the budget anew: it has changed, or it can be changed now or no
@@ -61,6 +70,9 @@ signals:
     void refreshWanted();
 
 private:
+    bool attempt(FieldMessage &message, QWidget *asker, const QString &line,
+                 const std::function<void()> &work);
+
     Parts m_parts;
 };
 

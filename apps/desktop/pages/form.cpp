@@ -94,6 +94,11 @@ bool Form::perform(QWidget &field, const workbench::Deed &deed, const std::funct
     return false;
 }
 
+bool Form::apply(QWidget &field, const QString &line, const std::function<void()> &work)
+{
+    return m_desk.apply(*m_message, &field, line, work);
+}
+
 void Form::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {

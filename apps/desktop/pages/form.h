@@ -60,6 +60,8 @@ public:
     bool perform(QWidget &field, const workbench::Deed &deed, const std::function<void()> &work);
     /// Within the work of perform(): a refusal from now on is shown at this field.
     void blame(QWidget &field) { m_blamed = &field; }
+    /// Changes what is not part of the budget, as Desk::apply() does.
+    bool apply(QWidget &field, const QString &line, const std::function<void()> &work);
     /// The line that tells a refusal.
     [[nodiscard]] FieldMessage &message() noexcept { return *m_message; }
 

@@ -42,10 +42,11 @@ Place placeOf(const Care &care)
 {
     switch (care.about) {
     case Care::About::Reconciliation:
-    case Care::About::LongNotReconciled:
         return {QStringLiteral("register"), care.account ? keyOf(*care.account) : QString()};
+    case Care::About::LongNotReconciled:
+        return {QStringLiteral("survey"), care.account ? keyOf(*care.account) : QString()};
     case Care::About::Rates:
-        return {QStringLiteral("overview"), QStringLiteral("rates")};
+        return {QStringLiteral("rates"), {}};
     case Care::About::File:
     case Care::About::Health:
         break;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/register_page.h"
 
+#include "models/account_rows.h"
 #include "pages/category_row.h"
 #include "pages/entry_row.h"
 #include "pages/filter_bar.h"
@@ -144,6 +145,11 @@ void RegisterPage::addActions()
     addRowAction("refundEntry", tr("Re&fund"), {}, [this] { refund(); });
     addRowAction("categoryOfEntries", tr("&Item or category"), {},
                  [this] { m_category->ask(selected().size(), m_accounts); });
+    actions.add(QStringLiteral("reconcileAccount"), Group::Transaction,
+                tr("Reconcile this acco&unt"), QKeySequence(Qt::CTRL | Qt::Key_R), [this] {
+                    const auto account = isVisible() ? m_rows->account() : std::nullopt;
+                    desk().goTo({QStringLiteral("survey"), account ? keyOf(*account) : QString()});
+                });
     actions.add(QStringLiteral("findEntries"), Group::Edit, tr("&Find transactions"),
                 QKeySequence(Qt::CTRL | Qt::Key_F), [this] {
                     desk().goTo({id(), {}});
@@ -187,6 +193,8 @@ void RegisterPage::allowActions()
         reason = tr("No transaction is selected.");
     for (QAction *action : m_rowActions)
         ActionCollection::allow(action, reason.isEmpty(), reason);
+    ActionCollection::allow(desk().actions().action(QStringLiteral("reconcileAccount")),
+                            !desk().document().file().isEmpty(), tr("No budget is open."));
     m_entry->allow(whyNot);
 }
 

@@ -3,6 +3,7 @@
 
 #include "workbench/document/demonstration.h"
 #include "workbench/entry/user_locale.h"
+#include "workbench/requests/settings.h"
 #include "workbench/versions/kept_versions.h"
 
 #include "foundation/clock.h"
@@ -71,8 +72,9 @@ void FileSession::addActions()
                 });
     add("demonstration", Group::File, tr("&Demonstration …"), {}, &FileSession::makeDemonstration);
     add("save", Group::File, tr("&Save now"), QKeySequence::Save, &FileSession::saveNow);
-    add("saveCopy", Group::File, tr("Save a &copy …"),
-        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &FileSession::saveCopy);
+    add("saveAs", Group::File, tr("Save &as …"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+        &FileSession::saveAs);
+    add("saveCopy", Group::File, tr("Save a &copy …"), {}, &FileSession::saveCopy);
     add("undo", Group::Edit, tr("&Undo"), QKeySequence::Undo, &FileSession::undo);
     add("redo", Group::Edit, tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         &FileSession::redo);
@@ -87,8 +89,7 @@ void FileSession::storePreferences()
         auto settings = std::get<navigation::ConfigurationData>(answer);
         // A budget that is open already can have others than those of the settings.
         settings.usableCurrencies.merge(std::set(std::get<std::set<numira::Currency>>(answer)));
-        requests.change(workbench::configureOutcome, &navigation::Navigator::onConfigureUpdated,
-                        settings);
+        workbench::storeSettings(requests, settings);
     });
 }
 
@@ -200,10 +201,20 @@ void FileSession::saveCopy()
 
 void FileSession::saveElsewhere()
 {
-    const QString file = m_desk.questions().fileToMake(m_window, tr("Save elsewhere"));
+    saveUnder(tr("Save elsewhere"), savingNotice);
+}
+
+void FileSession::saveAs()
+{
+    saveUnder(tr("Save as"), QStringLiteral("saveAs"));
+}
+
+void FileSession::saveUnder(const QString &heading, const QString &notice)
+{
+    const QString file = m_desk.questions().fileToMake(m_window, heading);
     if (file.isEmpty())
         return;
-    const bool isSaved = attempt(savingNotice, [&] {
+    const bool isSaved = attempt(notice, [&] {
         Document::refuseExisting(file);
         m_desk.document().saveAs(QFileInfo(file).absoluteFilePath(), tr("Saved elsewhere"));
     });
@@ -346,7 +357,7 @@ void FileSession::followBudget()
            tr("There is nothing to undo."));
     follow("redo", tr("Redo"), isOpen ? document.redoable() : std::nullopt,
            tr("There is nothing to redo."));
-    for (const char *id : {"save", "saveCopy"})
+    for (const char *id : {"save", "saveAs", "saveCopy"})
         ActionCollection::allow(actions.action(QString::fromLatin1(id)), isOpen,
                                 tr("No budget is open."));
     emit keptChanged();

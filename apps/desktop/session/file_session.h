@@ -49,6 +49,10 @@ private:
     void saveNow();
     void saveCopy();
     void saveElsewhere();
+    void saveAs();
+    /// Saves under another name, which is asked for under this heading. The file is then
+    /// the open one.
+    void saveUnder(const QString &heading, const QString &notice);
     void undo();
     void redo();
     void reload();

@@ -36,6 +36,15 @@ QString DialogQuestions::fileToMake(QWidget *parent, const QString &heading)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString DialogQuestions::fileToExport(QWidget *parent, const QString &suffix)
+{
+    QFileDialog dialog(parent, QObject::tr("Export"), {},
+                       QObject::tr("%1 files (*.%2)").arg(suffix.toUpper(), suffix));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 std::optional<qsizetype> DialogQuestions::choose(QWidget *parent, const QString &question,
                                                  const QStringList &answers)
 {

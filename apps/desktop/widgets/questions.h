@@ -24,6 +24,9 @@ public:
     [[nodiscard]] virtual QString fileToOpen(QWidget *parent) = 0;
     /// A new budget file, under this heading; empty if the user gave up.
     [[nodiscard]] virtual QString fileToMake(QWidget *parent, const QString &heading) = 0;
+    /// A file of another program to write, whose name ends so; empty if the user gave up.
+    /// Asks before one is written over.
+    [[nodiscard]] virtual QString fileToExport(QWidget *parent, const QString &suffix) = 0;
     /// One of the answers by its place, or nothing if the user gave up. The first answer
     /// is the usual one.
     [[nodiscard]] virtual std::optional<qsizetype> choose(QWidget *parent, const QString &question,
@@ -37,6 +40,7 @@ class DialogQuestions final : public Questions {
 public:
     [[nodiscard]] QString fileToOpen(QWidget *parent) override;
     [[nodiscard]] QString fileToMake(QWidget *parent, const QString &heading) override;
+    [[nodiscard]] QString fileToExport(QWidget *parent, const QString &suffix) override;
     [[nodiscard]] std::optional<qsizetype> choose(QWidget *parent, const QString &question,
                                                   const QStringList &answers) override;
     void show(QWidget *parent, const QString &heading, const QString &text) override;

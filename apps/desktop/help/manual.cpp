@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "help/manual.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+
+namespace kiv::desktop {
+namespace {
+
+QString everywhere()
+{
+    return QObject::tr(
+        "A budget is one file. Each change is kept at once and written within a second; the title "
+        "says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back "
+        "further.\n\n"
+        "The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and "
+        "the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? "
+        "lists all keys.\n\n"
+        "In a form, Enter does what its first button does, and Esc gives up. What is refused is "
+        "told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days "
+        "can be short: 3, 5-2, +7, or T for today.");
+}
+
+QMap<QString, QString> texts()
+{
+    return {
+        {QStringLiteral("home"),
+         QObject::tr("Home answers three questions: what is due, what lies in the accounts, and "
+                     "what needs care.\n\n"
+                     "Each line of what is due has its own buttons: pay it, skip it, or go to the "
+                     "page “Due” for another amount. A balance is that of the bank, with the "
+                     "goals that lie in the account.")},
+        {QStringLiteral("accounts"),
+         QObject::tr("All accounts with their balances: money, what is owed, what is set aside, "
+                     "and what money is spent on or comes from. Enter opens the register of an "
+                     "account.")},
+        {QStringLiteral("register"),
+         QObject::tr("The transactions of one account or of all, and below them the row for new "
+                     "ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When "
+                     "a payee is known, its last entry fills the other fields.\n\n"
+                     "F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. "
+                     "“Refund” in the menu “Transaction” takes money back: the whole amount is "
+                     "proposed, and a smaller one can be typed.\n\n"
+                     "Ctrl+F searches: words and conditions such as >50, march or "
+                     "not:reconciled.")},
+        {QStringLiteral("due"),
+         QObject::tr("What is due soon and what is late. The form pays the chosen line from an "
+                     "account, pays another amount, or skips it. Several lines can be chosen with "
+                     "Shift and the arrow keys; they are one step of undo.")},
+        {QStringLiteral("items"),
+         QObject::tr("The budget's items of five kinds. Bills, debts and free spending are paid, "
+                     "goals are saved for, wages come in. Each has an amount, how often it recurs "
+                     "and its next day. Enter changes an item, Del removes it.")},
+        {QStringLiteral("banks"),
+         QObject::tr("The banks and their accounts. The kind of an account says whether its "
+                     "balance is money or a debt, and what can be tied to it.")},
+        {QStringLiteral("survey"),
+         QObject::tr(
+             "A survey compares the books with a statement of the bank.\n\n"
+             "1. Choose the account, type the day and the balance of the statement, and press "
+             "Enter.\n"
+             "2. Tick each transaction that stands on the statement: Space ticks and goes down. "
+             "The line below says how much is missing. What the bank shows and the books lack can "
+             "be added to the list.\n"
+             "3. Look at what is set aside for the items, and change it if needed.\n"
+             "4. Complete: the ticked transactions are reconciled, and the balance is kept.\n\n"
+             "The second tab lists the past reconciliations, and says whether their transactions "
+             "are still as they were.")},
+        {QStringLiteral("rates"),
+         QObject::tr("One line for each currency: its rate, the day of the rate, and whether it "
+                     "was fetched or typed. “Not converted” stands where a usable currency has no "
+                     "rate; totals leave it out.\n\n"
+                     "A rate can be typed over, and all can be fetched from the service. Rates "
+                     "are the same for all budgets and cannot be undone.")},
+        {QStringLiteral("history"),
+         QObject::tr("The steps of this session, and below them the former versions of the file. "
+                     "The lower table says what changed since the chosen one. “Go back to this” "
+                     "makes it the present state; undo and redo go on from there.")},
+        {QStringLiteral("settings"),
+         QObject::tr("Each setting is applied as soon as its field is left. Settings are the same "
+                     "for all budgets and cannot be undone. A currency that the budget uses must "
+                     "stay usable.\n\n"
+                     "The survey window says by how much the ticked transactions may miss the "
+                     "balance of a statement. The hours and days of work are for wages.\n\n"
+                     "Removing a tag takes it from all items.")},
+    };
+}
+
+} // namespace
+
+QString manualText(const QString &page)
+{
+    const QString own = texts().value(page);
+    return own.isEmpty() ? everywhere() : own + QStringLiteral("\n\n") + everywhere();
+}
+
+} // namespace kiv::desktop

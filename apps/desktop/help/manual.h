@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QString>
+
+namespace kiv::desktop {
+
+/// What the manual says about a page: what it shows and how it is used. Of a page without a
+/// text of its own, and where no page is shown, what holds everywhere.
+[[nodiscard]] QString manualText(const QString &page);
+
+} // namespace kiv::desktop

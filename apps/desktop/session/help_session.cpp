@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "session/help_session.h"
+
+#include "help/manual.h"
+
+#include "workbench/requests/releases.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace kiv::desktop {
+
+using Group = ActionCollection::Group;
+
+namespace {
+
+const QString releaseNotice = QStringLiteral("release");
+
+} // namespace
+
+HelpSession::HelpSession(Desk &desk, QWidget *window)
+    : QObject(window), m_desk(desk), m_window(window)
+{
+    ActionCollection &actions = desk.actions();
+    actions.add(QStringLiteral("manual"), Group::Help, tr("&Manual of this page"),
+                QKeySequence(Qt::Key_F1),
+                [this] { m_desk.questions().show(m_window, tr("Manual"), manualText(m_page)); });
+    actions.add(QStringLiteral("keys"), Group::Help, tr("List of &keys"),
+                QKeySequence(Qt::CTRL | Qt::Key_Question), [this] {
+                    m_desk.questions().show(m_window, tr("List of keys"),
+                                            m_desk.actions().listOfKeys());
+                });
+    actions.add(QStringLiteral("releaseNotes"), Group::Help, tr("&Release notes"), {},
+                [this] { showReleaseNotes(); });
+    actions.add(QStringLiteral("about"), Group::Help, tr("&About kiv"), {},
+                [this] { showAbout(); });
+    // Not acknowledged, so that it is told once in a session.
+    connect(&desk.document().navigator(), &navigation::Navigator::updateReleased, this,
+            [this](const updating::SemanticVersion &latest) {
+                const QString told =
+                    tr("There is a newer release: %1.").arg(updating::presentationText(latest));
+                m_desk.notices().add(
+                    {releaseNotice, told, {{tr("Release notes"), [this] { showReleaseNotes(); }}}});
+                m_desk.say(told);
+            });
+}
+
+void HelpSession::showAbout()
+{
+    m_desk.questions().show(
+        m_window, tr("About kiv"),
+        tr("kiv %1 keeps a household's money: what there is, what is due, and what is left to "
+           "spend.\n\n"
+           "It is free software under the GNU General Public License, version 3 or later: anybody "
+           "may use, study, share and change it. It comes without any warranty.")
+            .arg(QCoreApplication::applicationVersion()));
+}
+
+void HelpSession::showReleaseNotes()
+{
+    const QString heading = tr("Release notes");
+    const QString notice = QStringLiteral("releaseNotes");
+    m_desk.notices().remove(notice);
+    try {
+        std::vector<updating::ReleaseInformation> releases;
+        m_desk.wait(tr("Fetching the release notes …"),
+                    [&] { releases = workbench::fetchedReleases(m_desk.requests()); });
+        QStringList texts;
+        for (const updating::ReleaseInformation &release : releases)
+            texts += tr("%1, %2\n%3")
+                         .arg(updating::presentationText(release.version),
+                              foundation::presentationText(release.releasedOn), release.notes);
+        m_desk.questions().show(m_window, heading,
+                                texts.isEmpty() ? tr("There are no releases.")
+                                                : texts.join(QStringLiteral("\n\n")));
+    } catch (const foundation::Error &error) {
+        m_desk.notices().add({notice, workbench::userText(error), {}});
+        m_desk.say(workbench::userText(error));
+    }
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/page_keys.h"
+
+#include "workbench/requests/exchange_rates.h"
+#include "workbench/requests/settings.h"
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+using namespace kiv;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+using networking::Response;
+
+/// The pages of what belongs to the user and not to a budget: exchange rates and settings.
+class TestSettingsPages : public QObject {
+    Q_OBJECT
+
+private slots:
+    // ---- rates -------------------------------------------------------------------
+
+    void aRateIsTypedOverAndRefusedAtItsField()
+    {
+        SmallHousehold home;
+        showRates(home);
+        QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
+        press(home, Qt::Key_Return);
+        type(home, u"0.8"_s);
+        press(home, Qt::Key_Return);
+        QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.8 CHF"_s});
+        QCOMPARE(texts(home, 4), QStringList{u"typed"_s});
+        QVERIFY(table(home).hasFocus());
+        for (const auto &[field, wrong, right] : {std::tuple("rate", u"-1"_s, u"0.8"_s),
+                                                  {"rate", u"0"_s, u"0.8"_s},
+                                                  {"rate", u"1.2.3"_s, u"0.8"_s},
+                                                  {"currency", u"Franks"_s, u"CHF"_s}}) {
+            auto &edit = part<QLineEdit>(home, field);
+            edit.setFocus();
+            edit.selectAll();
+            type(home, wrong);
+            press(home, Qt::Key_Return);
+            QVERIFY2(!message(home).isEmpty(), qPrintable(wrong));
+            QVERIFY(edit.hasFocus());
+            QCOMPARE(edit.text(), wrong);
+            edit.setText(right);
+        }
+        QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.8 CHF"_s});
+    }
+
+    void whileRatesAreFetchedNothingElseIsChanged()
+    {
+        Response answer = Response::failed(u"The server is silent."_s);
+        QStringList reasons;
+        SmallHousehold *asking = nullptr;
+        SmallHousehold home([&](const QUrl &) -> std::optional<Response> {
+            if (asking) {
+                reasons += part<QPushButton>(*asking, "keep").toolTip();
+                reasons += desktop::ActionCollection::reason(
+                    asking->window().desk().actions().action(u"undo"_s));
+            }
+            return answer;
+        });
+        showRates(home);
+        asking = &home;
+        press(home, Qt::Key_A, Qt::AltModifier);
+        const QString wait = u"Another request is not answered yet; try again in a moment."_s;
+        QCOMPARE(QSet(reasons.begin(), reasons.end()), QSet{wait});
+        QVERIFY(home.window().desk().notices().texts().join(u' ').contains(u"server is silent"_s));
+        QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
+        QVERIFY(part<QPushButton>(home, "fetch").hasFocus());
+        QVERIFY(part<QPushButton>(home, "keep").isEnabled());
+        answer = Response::succeeded(
+            R"({"timestamp": 1772366400, "base": "USD", "rates": {"CHF": 0.5}})",
+            u"application/json"_s);
+        press(home, Qt::Key_A, Qt::AltModifier);
+        QCOMPARE(home.window().desk().notices().texts(), QStringList());
+        QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.5 CHF"_s});
+        QCOMPARE(texts(home, 4), QStringList{u"fetched"_s});
+    }
+
+    // ---- settings ----------------------------------------------------------------
+
+    void settingsAreAppliedAtOnceAndRefusedAtTheirField()
+    {
+        SmallHousehold home;
+        show(home, "settings");
+        for (const auto &[field, wrong, right] :
+             {std::tuple("usable", u"CHF"_s, u"USD, CHF"_s), // the budget has dollars
+              {"usable", u"Franks"_s, u"USD, CHF"_s},
+              {"notify", u"61"_s, u"7"_s},
+              {"window", u"101"_s, u"5"_s},
+              {"hours", u"168"_s, u"30"_s},
+              {"days", u"8"_s, u"4"_s}}) {
+            auto &edit = part<QLineEdit>(home, field);
+            edit.setFocus();
+            for (const QString &text : {wrong, right}) {
+                edit.selectAll();
+                type(home, text);
+                press(home, Qt::Key_Return);
+                QCOMPARE(message(home).isEmpty(), text == right);
+                QVERIFY(text == right || edit.text() == wrong);
+                QVERIFY(edit.hasFocus());
+            }
+        }
+        const navigation::ConfigurationData data = workbench::presentSettings(home.requests());
+        QCOMPARE(data.usableCurrencies, std::set({currency("USD"), currency("CHF")}));
+        QCOMPARE(data.notifyDueWithin, std::chrono::days(7));
+        QCOMPARE(data.surveyWindow, 5.0);
+        QCOMPARE(data.hoursInWeek, std::chrono::hours(30));
+        QCOMPARE(data.daysInWeek, std::chrono::days(4));
+        part<QComboBox>(home, "display").setFocus();
+        press(home, Qt::Key_Home); // the codes
+        QCOMPARE(home.requests().displayAs(), navigation::CurrencyDisplayOptions::IsoCode);
+        part<QComboBox>(home, "appearance").setFocus();
+        press(home, Qt::Key_End);
+        QVERIFY(desktop::isDark(QApplication::palette()));
+        press(home, Qt::Key_Home);
+        QVERIFY(!home.document().undoable() || home.document().undoable()->line == u"Began"_s);
+    }
+
+    void removingATagTakesItFromItsItems()
+    {
+        SmallHousehold home;
+        show(home, "settings");
+        home.document().perform({u"Tagged"_s, {}, {}}, [&] {
+            const workbench::BudgetView view(home.requests());
+            workbench::ItemValues values;
+            values.tags = tagging::Tags{tagging::Tag(u"home"_s)};
+            workbench::updateItem(home.requests(), navigation::GuiElementIdentifier(1), view,
+                                  view.budget().bills.at(budgeting::BudgetSource(u"Rent"_s)),
+                                  values);
+        });
+        const auto tagsOfRent = [&home] {
+            return workbench::BudgetView(home.requests())
+                .tags({budgeting::BudgetItemTypes::Bill, budgeting::BudgetSource(u"Rent"_s)})
+                .size();
+        };
+        QCOMPARE(texts(home, 0, "tags"), QStringList{u"home"_s});
+        press(home, Qt::Key_R, Qt::AltModifier);
+        QCOMPARE(texts(home, 0, "tags"), QStringList());
+        QCOMPARE(tagsOfRent(), std::size_t{0});
+        home.trigger("undo");
+        QCOMPARE(tagsOfRent(), std::size_t{1});
+    }
+
+private:
+    static numira::Currency currency(const char *code) { return numira::toCurrency(code); }
+    /// The page with francs, which have no rate.
+    static void showRates(SmallHousehold &home)
+    {
+        show(home, "home");
+        navigation::ConfigurationData settings = workbench::presentSettings(home.requests());
+        settings.usableCurrencies = {currency("USD"), currency("CHF")};
+        workbench::storeSettings(home.requests(), settings);
+        home.requests().navigator().onStoreExchangeRates({}); // those of former tests
+        home.trigger("page rates");
+    }
+};
+
+static const kiv::test::Suite<TestSettingsPages> suite;
+
+#include "tst_settings_pages.moc"
