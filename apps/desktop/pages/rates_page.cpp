@@ -41,6 +41,7 @@ RatesPage::RatesPage(Desk &desk)
     layout->addWidget(m_none);
     layout->addWidget(m_table, 1);
     layout->addWidget(m_form);
+    layout->addStretch();
     connect(m_table, &Table::chosenChanged, this, &RatesPage::follow);
     connect(m_table, &Table::opened, this, [this] {
         m_rate->setFocus(Qt::OtherFocusReason);

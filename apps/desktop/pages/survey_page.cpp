@@ -48,8 +48,16 @@ SurveyPage::SurveyPage(Desk &desk)
     auto *statement = new QWidget(m_parts);
     auto *sides = new QHBoxLayout(statement);
     sides->setContentsMargins(0, 0, 0, 0);
-    sides->addWidget(makeStatement());
+    auto *left = new QVBoxLayout;
+    left->addWidget(makeStatement());
+    left->addStretch();
+    sides->addLayout(left);
     sides->addWidget(makeTicks(), 1);
+    // The last in the order of keys, and always on the screen.
+    m_complete = new QPushButton(tr("C&omplete"), statement);
+    m_complete->setObjectName(QStringLiteral("complete"));
+    connect(m_complete, &QPushButton::clicked, this, &SurveyPage::complete);
+    left->addWidget(m_complete, 0, Qt::AlignLeft);
     m_parts->addWidget(statement);
     m_parts->addWidget(makePast());
     m_tabs->setAccessibleName(tr("Parts of the survey"));
@@ -86,7 +94,6 @@ QWidget *SurveyPage::makeStatement()
     layout->addWidget(m_sign);
     layout->addSpacing(fontMetrics().lineSpacing() / 2);
     layout->addWidget(m_unbooked);
-    layout->addStretch();
     connect(m_account, &QComboBox::activated, this, [this] {
         forgetTyping();
         refresh();
@@ -119,8 +126,6 @@ QWidget *SurveyPage::makeTicks()
     m_figures->setWordWrap(true);
     m_tickAll = new QPushButton(tr("Tick a&ll"), side);
     m_tickAll->setObjectName(QStringLiteral("tickAll"));
-    m_complete = new QPushButton(tr("C&omplete"), side);
-    m_complete->setObjectName(QStringLiteral("complete"));
     auto *foot = new QHBoxLayout;
     foot->addWidget(m_figures, 1);
     foot->addWidget(m_tickAll);
@@ -129,19 +134,18 @@ QWidget *SurveyPage::makeTicks()
     m_notSetAside->setWordWrap(true);
     m_shareTable = new Table(*m_shares, tr("What is set aside"), side);
     m_shareTable->setObjectName(QStringLiteral("shares"));
+    m_shareTable->fit(4);
     m_shareForm = new Form(desk(), side);
     m_share = m_shareForm->add(QStringLiteral("share"), tr("&Set aside for it:"), new MoneyEdit);
     m_shareForm->addButton(QStringLiteral("setAside"), tr("&Keep this amount"),
                            [this] { setAside(); });
-    layout->addWidget(m_tickTable, 2);
+    layout->addWidget(m_tickTable, 1);
     layout->addLayout(foot);
     layout->addWidget(m_notSetAside);
-    layout->addWidget(m_shareTable, 1);
+    layout->addWidget(m_shareTable);
     layout->addWidget(m_shareForm);
-    layout->addWidget(m_complete, 0, Qt::AlignRight);
     connect(m_tickTable, &Table::opened, this, [this](const QString &key) { tick(key, false); });
     connect(m_tickAll, &QPushButton::clicked, this, &SurveyPage::tickAll);
-    connect(m_complete, &QPushButton::clicked, this, &SurveyPage::complete);
     connect(m_shareTable, &Table::chosenChanged, this, &SurveyPage::followShare);
     connect(m_shareTable, &Table::opened, this, [this] {
         m_share->setFocus(Qt::OtherFocusReason);
@@ -206,18 +210,14 @@ QWidget *SurveyPage::firstFocus()
     return m_account;
 }
 
-void SurveyPage::changeEvent(QEvent *event)
-{
-    Page::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
-        QFont large = font();
-        large.setPointSizeF(large.pointSizeF() * 1.5);
-        m_figures->setFont(large);
-    }
-}
-
 void SurveyPage::refresh()
 {
+    QFont large = font();
+    if (large.pointSizeF() > 0)
+        large.setPointSizeF(large.pointSizeF() * 1.5);
+    else
+        large.setPixelSize(large.pixelSize() * 3 / 2);
+    m_figures->setFont(large);
     offerAccounts();
     if (m_day->text().isEmpty())
         m_day->setDay(foundation::today());

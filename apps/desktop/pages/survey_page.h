@@ -38,7 +38,6 @@ public:
 
 protected:
     void refresh() override;
-    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
