@@ -4963,14 +4963,6 @@
         <translation>von heute</translation>
     </message>
     <message>
-        <source>Reconciliations</source>
-        <translation>Abgleiche</translation>
-    </message>
-    <message>
-        <source>No account was reconciled yet; kiv survey does that.</source>
-        <translation>Noch kein Konto wurde abgeglichen; kiv survey erledigt das.</translation>
-    </message>
-    <message>
         <source>Reconciled on</source>
         <translation>Abgeglichen am</translation>
     </message>
@@ -4979,20 +4971,8 @@
         <translation>Nicht zurückgelegt</translation>
     </message>
     <message>
-        <source>Exchange rates</source>
-        <translation>Wechselkurse</translation>
-    </message>
-    <message>
         <source>Age</source>
         <translation>Alter</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
     </message>
     <message>
         <source>Receive</source>
@@ -5390,6 +5370,167 @@
         <source>household</source>
         <comment>the name of a file</comment>
         <translation>haushalt</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rate; write one like 0.92.</source>
+        <translation>„%1“ ist kein Kurs; die Form ist 0.92.</translation>
+    </message>
+    <message>
+        <source>No currency is given; write codes such as USD, EUR.</source>
+        <translation>Es ist keine Währung angegeben; die Form ist USD, EUR.</translation>
+    </message>
+    <message>
+        <source>reconciling “%1”</source>
+        <translation>Abgleichen von „%1“</translation>
+    </message>
+    <message>
+        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
+
+The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys.
+
+In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
+        <translation>Ein Budget ist eine Datei. Jede Änderung wird sofort übernommen und binnen einer Sekunde geschrieben; der Titel sagt, ob sie gespeichert ist. Strg+Z nimmt eine Änderung zurück, die Seite „Verlauf“ geht weiter zurück.
+
+Die Seiten stehen links. Strg+1 bis Strg+9 öffnen sie, F6 wechselt zwischen der Liste und der Seite. Strg+K findet jeden Befehl, jedes Konto und jeden Posten nach einem Teil des Namens. Strg+? nennt alle Tasten.
+
+In einem Formular tut Enter, was die erste Schaltfläche tut, und Esc gibt auf. Was abgelehnt wird, steht bei seinem Feld, und das Getippte bleibt. Beträge können Summen sein, wie 12+3.5. Tage können kurz sein: 3, 5-2, +7 oder T für heute.</translation>
+    </message>
+    <message>
+        <source>Home answers three questions: what is due, what lies in the accounts, and what needs care.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account.</source>
+        <translation>Die Startseite beantwortet drei Fragen: was fällig ist, was auf den Konten liegt und was Aufmerksamkeit braucht.
+
+Jede fällige Zeile hat eigene Schaltflächen: bezahlen, überspringen oder für einen anderen Betrag zur Seite „Fällig“ gehen. Ein Saldo ist der der Bank, mit den Zielen, die auf dem Konto liegen.</translation>
+    </message>
+    <message>
+        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
+        <translation>Alle Konten mit ihren Salden: Geld, was geschuldet wird, was zurückgelegt ist und wofür Geld ausgegeben wird oder woher es kommt. Enter öffnet das Register eines Kontos.</translation>
+    </message>
+    <message>
+        <source>The transactions of one account or of all, and below them the row for new ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When a payee is known, its last entry fills the other fields.
+
+F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. “Refund” in the menu “Transaction” takes money back: the whole amount is proposed, and a smaller one can be typed.
+
+Ctrl+F searches: words and conditions such as &gt;50, march or not:reconciled.</source>
+        <translation>Die Buchungen eines Kontos oder aller Konten und darunter die Zeile für neue: Ausgegeben, Eingenommen oder Umgebucht. Enter bucht aus jedem Feld; der Tag bleibt. Ist ein Empfänger bekannt, füllt sein letzter Eintrag die anderen Felder.
+
+F2 ändert die gewählte Buchung, Entf entfernt sie, Strg+D bucht sie noch einmal. „Erstatten“ im Menü „Buchung“ nimmt Geld zurück: Der ganze Betrag wird vorgeschlagen, ein kleinerer kann getippt werden.
+
+Strg+F sucht: Wörter und Bedingungen wie &gt;50, march oder not:reconciled.</translation>
+    </message>
+    <message>
+        <source>What is due soon and what is late. The form pays the chosen line from an account, pays another amount, or skips it. Several lines can be chosen with Shift and the arrow keys; they are one step of undo.</source>
+        <translation>Was bald fällig und was überfällig ist. Das Formular bezahlt die gewählte Zeile von einem Konto, zahlt einen anderen Betrag oder überspringt sie. Mit Umschalt und den Pfeiltasten werden mehrere Zeilen gewählt; sie sind ein Schritt beim Rückgängigmachen.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.</source>
+        <translation>Die Posten des Budgets in fünf Arten. Rechnungen, Schulden und freie Ausgaben werden bezahlt, für Ziele wird gespart, Löhne kommen herein. Jeder hat einen Betrag, wie oft er wiederkehrt und seinen nächsten Tag. Enter ändert einen Posten, Entf entfernt ihn.</translation>
+    </message>
+    <message>
+        <source>The banks and their accounts. The kind of an account says whether its balance is money or a debt, and what can be tied to it.</source>
+        <translation>Die Banken und ihre Konten. Die Art eines Kontos sagt, ob sein Saldo Geld oder eine Schuld ist und was mit ihm verknüpft werden kann.</translation>
+    </message>
+    <message>
+        <source>A survey compares the books with a statement of the bank.
+
+1. Choose the account, type the day and the balance of the statement, and press Enter.
+2. Tick each transaction that stands on the statement: Space ticks and goes down. The line below says how much is missing. What the bank shows and the books lack can be added to the list.
+3. Look at what is set aside for the items, and change it if needed.
+4. Complete: the ticked transactions are reconciled, and the balance is kept.
+
+The second tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
+        <translation>Ein Abgleich vergleicht die Bücher mit einem Kontoauszug.
+
+1. Das Konto wählen, Tag und Saldo des Auszugs tippen und Enter drücken.
+2. Jede Buchung abhaken, die auf dem Auszug steht: Die Leertaste hakt ab und geht nach unten. Die Zeile darunter sagt, wie viel fehlt. Was die Bank zeigt und in den Büchern fehlt, kann in die Liste aufgenommen werden.
+3. Ansehen, was für die Posten zurückgelegt wird, und es bei Bedarf ändern.
+4. Abschließen: Die abgehakten Buchungen sind abgeglichen, der Saldo ist festgehalten.
+
+Der zweite Reiter nennt die früheren Abgleiche und sagt, ob ihre Buchungen noch wie damals sind.</translation>
+    </message>
+    <message>
+        <source>One line for each currency: its rate, the day of the rate, and whether it was fetched or typed. “Not converted” stands where a usable currency has no rate; totals leave it out.
+
+A rate can be typed over, and all can be fetched from the service. Rates are the same for all budgets and cannot be undone.</source>
+        <translation>Eine Zeile je Währung: ihr Kurs, der Tag des Kurses und ob er abgerufen oder eingegeben wurde. „Nicht umgerechnet“ steht, wo eine nutzbare Währung keinen Kurs hat; Summen lassen sie aus.
+
+Ein Kurs kann überschrieben, alle können vom Dienst abgerufen werden. Kurse gelten für alle Budgets und können nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there.</source>
+        <translation>Die Schritte dieser Sitzung und darunter die früheren Versionen der Datei. Die untere Tabelle sagt, was sich seit der gewählten geändert hat. „Zurück zu diesem Stand“ macht sie zum jetzigen Stand; Rückgängigmachen und Wiederholen gehen von dort weiter.</translation>
+    </message>
+    <message>
+        <source>Each setting is applied as soon as its field is left. Settings are the same for all budgets and cannot be undone. A currency that the budget uses must stay usable.
+
+The survey window says by how much the ticked transactions may miss the balance of a statement. The hours and days of work are for wages.
+
+Removing a tag takes it from all items.</source>
+        <translation>Jede Einstellung gilt, sobald ihr Feld verlassen wird. Einstellungen gelten für alle Budgets und können nicht rückgängig gemacht werden. Eine Währung, die das Budget verwendet, muss nutzbar bleiben.
+
+Die Toleranz des Abgleichs sagt, um wie viel die abgehakten Buchungen den Saldo eines Auszugs verfehlen dürfen. Die Stunden und Tage der Arbeit dienen den Löhnen.
+
+Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
+    </message>
+    <message>
+        <source>not converted</source>
+        <translation>nicht umgerechnet</translation>
+    </message>
+    <message>
+        <source>not booked yet</source>
+        <translation>noch nicht gebucht</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Item or account</source>
+        <translation>Posten oder Konto</translation>
+    </message>
+    <message>
+        <source>On the statement</source>
+        <translation>Auf dem Auszug</translation>
+    </message>
+    <message>
+        <source>stays in the account</source>
+        <translation>bleibt auf dem Konto</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>nicht abgehakt</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>abgehakt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n abgehakt</numerusform>
+            <numerusform>%n abgehakt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, nothing missing</source>
+        <translation>%1, nichts fehlt</translation>
+    </message>
+    <message>
+        <source>%1, %2 missing</source>
+        <translation>%1, es fehlen %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>%1-Dateien (*.%2)</translation>
     </message>
 </context>
 <context>
@@ -5951,6 +6092,57 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::FileOutputs</name>
+    <message>
+        <source>&amp;Export …</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>Check the &amp;file</source>
+        <translation>Datei &amp;prüfen</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>In which form are the transactions exported?</source>
+        <translation>In welcher Form werden die Buchungen exportiert?</translation>
+    </message>
+    <message>
+        <source>Journal, for ledger and hledger</source>
+        <translation>Journal, für ledger und hledger</translation>
+    </message>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>Tabelle (CSV)</translation>
+    </message>
+    <message>
+        <source>Everything (JSON)</source>
+        <translation>Alles (JSON)</translation>
+    </message>
+    <message>
+        <source>Exported to “%1”.</source>
+        <translation>Nach „%1“ exportiert.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is intact.</source>
+        <translation>Das Budget „%1“ ist unbeschädigt.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is damaged. A former version can be brought back on the page “History”.</source>
+        <translation>Das Budget „%1“ ist beschädigt. Eine frühere Version kann auf der Seite „Verlauf“ zurückgeholt werden.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Check of the file</source>
+        <translation>Prüfung der Datei</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FileSession</name>
     <message>
         <source>&amp;New budget …</source>
@@ -6107,6 +6299,14 @@
     <message>
         <source>Open it for reading</source>
         <translation>Zum Lesen öffnen</translation>
+    </message>
+    <message>
+        <source>Save &amp;as …</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
     </message>
 </context>
 <context>
@@ -6272,6 +6472,67 @@
     <message>
         <source>making the budget</source>
         <translation>Anlegen des Budgets</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HelpSession</name>
+    <message>
+        <source>&amp;Manual of this page</source>
+        <translation>Ha&amp;ndbuch dieser Seite</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>List of &amp;keys</source>
+        <translation>Liste der &amp;Tasten</translation>
+    </message>
+    <message>
+        <source>List of keys</source>
+        <translation>Liste der Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Release notes</source>
+        <translation>&amp;Versionshinweise</translation>
+    </message>
+    <message>
+        <source>&amp;About kiv</source>
+        <translation>Ü&amp;ber kiv</translation>
+    </message>
+    <message>
+        <source>There is a newer release: %1.</source>
+        <translation>Es gibt eine neuere Version: %1.</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Versionshinweise</translation>
+    </message>
+    <message>
+        <source>About kiv</source>
+        <translation>Über kiv</translation>
+    </message>
+    <message>
+        <source>kiv %1 keeps a household&apos;s money: what there is, what is due, and what is left to spend.
+
+It is free software under the GNU General Public License, version 3 or later: anybody may use, study, share and change it. It comes without any warranty.</source>
+        <translation>kiv %1 verwaltet das Geld eines Haushalts: was da ist, was fällig ist und was zum Ausgeben bleibt.
+
+Es ist freie Software unter der GNU General Public License, Version 3 oder später: Alle dürfen sie benutzen, untersuchen, weitergeben und ändern. Es gibt keine Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>Fetching the release notes …</source>
+        <translation>Versionshinweise werden abgerufen …</translation>
+    </message>
+    <message>
+        <source>%1, %2
+%3</source>
+        <translation>%1, %2
+%3</translation>
+    </message>
+    <message>
+        <source>There are no releases.</source>
+        <translation>Es gibt keine Versionen.</translation>
     </message>
 </context>
 <context>
@@ -6565,14 +6826,6 @@
         <translation>Nächster &amp;Teil des Fensters</translation>
     </message>
     <message>
-        <source>List of &amp;keys</source>
-        <translation>Liste der &amp;Tasten</translation>
-    </message>
-    <message>
-        <source>List of keys</source>
-        <translation>Liste der Tasten</translation>
-    </message>
-    <message>
         <source>Colours of the &amp;system</source>
         <translation>Farben des &amp;Systems</translation>
     </message>
@@ -6621,21 +6874,61 @@
     </message>
 </context>
 <context>
-    <name>kiv::desktop::OverviewPage</name>
-    <message>
-        <source>Everything else</source>
-        <translation>Alles andere</translation>
-    </message>
-    <message>
-        <source>&amp;List:</source>
-        <translation>&amp;Liste:</translation>
-    </message>
-</context>
-<context>
     <name>kiv::desktop::Page</name>
     <message>
         <source>The page “%1” cannot be shown: %2</source>
         <translation>Die Seite „%1“ kann nicht gezeigt werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RatesPage</name>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Wechselkurse</translation>
+    </message>
+    <message>
+        <source>There are no exchange rates. Fetch them, or type one.</source>
+        <translation>Es gibt keine Wechselkurse. Sie können abgerufen oder eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Währung:</translation>
+    </message>
+    <message>
+        <source>&amp;Rate:</source>
+        <translation>&amp;Kurs:</translation>
+    </message>
+    <message>
+        <source>Rates are the same for all budgets. They cannot be undone.</source>
+        <translation>Kurse gelten für alle Budgets. Sie können nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this rate</source>
+        <translation>Kurs &amp;eintragen</translation>
+    </message>
+    <message>
+        <source>Fetch &amp;all rates now</source>
+        <translation>A&amp;lle Kurse jetzt abrufen</translation>
+    </message>
+    <message>
+        <source>&amp;Rate, for 1 %1:</source>
+        <translation>&amp;Kurs für 1 %1:</translation>
+    </message>
+    <message>
+        <source>1 %1 = %2 %3</source>
+        <translation>1 %1 = %2 %3</translation>
+    </message>
+    <message>
+        <source>Fetching exchange rates …</source>
+        <translation>Wechselkurse werden abgerufen …</translation>
+    </message>
+    <message>
+        <source>The exchange rates are fetched.</source>
+        <translation>Die Wechselkurse sind abgerufen.</translation>
+    </message>
+    <message>
+        <source>The exchange rates could not be fetched; try again later, or type them. %1</source>
+        <translation>Die Wechselkurse konnten nicht abgerufen werden; später noch einmal versuchen oder eingeben. %1</translation>
     </message>
 </context>
 <context>
@@ -6829,6 +7122,117 @@
         <source>All accounts</source>
         <translation>Alle Konten</translation>
     </message>
+    <message>
+        <source>Reconcile this acco&amp;unt</source>
+        <translation>Dieses Konto abglei&amp;chen</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Schlagwort</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Schlagwörter</translation>
+    </message>
+    <message>
+        <source>Settings are the same for all budgets. They cannot be undone.</source>
+        <translation>Einstellungen gelten für alle Budgets. Sie können nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Preferred currency:</source>
+        <translation>Be&amp;vorzugte Währung:</translation>
+    </message>
+    <message>
+        <source>&amp;Usable currencies:</source>
+        <translation>Nut&amp;zbare Währungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Display of currencies:</source>
+        <translation>&amp;Anzeige von Währungen:</translation>
+    </message>
+    <message>
+        <source>Due items shown &amp;ahead, in days:</source>
+        <translation>Fällige &amp;Posten im Voraus, in Tagen:</translation>
+    </message>
+    <message>
+        <source>Survey wi&amp;ndow:</source>
+        <translation>&amp;Toleranz des Abgleichs:</translation>
+    </message>
+    <message>
+        <source>&amp;Work hours a week:</source>
+        <translation>A&amp;rbeitsstunden je Woche:</translation>
+    </message>
+    <message>
+        <source>Work da&amp;ys a week:</source>
+        <translation>Arb&amp;eitstage je Woche:</translation>
+    </message>
+    <message>
+        <source>&amp;Colours:</source>
+        <translation>&amp;Farben:</translation>
+    </message>
+    <message>
+        <source>as the system</source>
+        <translation>wie das System</translation>
+    </message>
+    <message>
+        <source>light</source>
+        <translation>hell</translation>
+    </message>
+    <message>
+        <source>dark</source>
+        <translation>dunkel</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt size:</source>
+        <translation>Te&amp;xtgröße:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>At the start:</source>
+        <translation>Beim Start:</translation>
+    </message>
+    <message>
+        <source>&amp;Open the last budget</source>
+        <translation>&amp;Letztes Budget öffnen</translation>
+    </message>
+    <message>
+        <source>There are no tags. An item&apos;s tags are set with the item.</source>
+        <translation>Es gibt keine Schlagwörter. Die eines Postens werden beim Posten angegeben.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove this tag</source>
+        <translation>Schlag&amp;wort entfernen</translation>
+    </message>
+    <message>
+        <source>The settings are kept.</source>
+        <translation>Die Einstellungen sind übernommen.</translation>
+    </message>
+    <message>
+        <source>No tag is chosen.</source>
+        <translation>Es ist kein Schlagwort gewählt.</translation>
+    </message>
+    <message>
+        <source>Removed the tag “%1”.</source>
+        <translation>Schlagwort „%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>removing the tag “%1”</source>
+        <translation>Entfernen des Schlagworts „%1“</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::SplitLines</name>
@@ -6843,6 +7247,136 @@
     <message>
         <source>Together with this line: %1</source>
         <translation>Zusammen mit dieser Zeile: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyPage</name>
+    <message>
+        <source>Survey</source>
+        <translation>Abgleich</translation>
+    </message>
+    <message>
+        <source>C&amp;omplete</source>
+        <translation>Abs&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Parts of the survey</source>
+        <translation>Teile des Abgleichs</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Kontoauszug</translation>
+    </message>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Frühere Abgleiche</translation>
+    </message>
+    <message>
+        <source>What the bank&apos;s statement says:</source>
+        <translation>Was auf dem Kontoauszug steht:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Konto:</translation>
+    </message>
+    <message>
+        <source>&amp;Day:</source>
+        <translation>&amp;Tag:</translation>
+    </message>
+    <message>
+        <source>&amp;Balance:</source>
+        <translation>&amp;Saldo:</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>On the statement, but not booked yet:</source>
+        <translation>Auf dem Auszug, aber noch nicht gebucht:</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>&amp;Posten oder Konto:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>Bet&amp;rag:</translation>
+    </message>
+    <message>
+        <source>&amp;Put on the list</source>
+        <translation>&amp;In die Liste</translation>
+    </message>
+    <message>
+        <source>Transactions to tick</source>
+        <translation>Buchungen zum Abhaken</translation>
+    </message>
+    <message>
+        <source>Tick a&amp;ll</source>
+        <translation>A&amp;lle abhaken</translation>
+    </message>
+    <message>
+        <source>What is set aside</source>
+        <translation>Was zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>&amp;Set aside for it:</source>
+        <translation>Dafür &amp;zurücklegen:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this amount</source>
+        <translation>Betrag &amp;eintragen</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>What you owe stands without a minus; money that the bank owes you has one.</source>
+        <translation>Was geschuldet wird, steht ohne Minus; ein Guthaben hat eines.</translation>
+    </message>
+    <message>
+        <source>Money in the account stands without a minus; an overdrawn account has one.</source>
+        <translation>Geld auf dem Konto steht ohne Minus; ein überzogenes Konto hat eines.</translation>
+    </message>
+    <message>
+        <source>There is no account at a bank to reconcile.</source>
+        <translation>Es gibt kein Bankkonto zum Abgleichen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n abgehakt</numerusform>
+            <numerusform>%n abgehakt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>Von einer Schuld wird nichts zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>Set aside from it for items; %1 is left:</source>
+        <translation>Davon für Posten zurückgelegt; %1 bleiben:</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet.</source>
+        <translation>Es wurde noch kein Konto abgeglichen.</translation>
+    </message>
+    <message>
+        <source>Its transactions are as they were then.</source>
+        <translation>Seine Buchungen sind wie damals.</translation>
+    </message>
+    <message>
+        <source>For which item or account?</source>
+        <translation>Für welchen Posten oder welches Konto?</translation>
+    </message>
+    <message>
+        <source>No item is chosen.</source>
+        <translation>Es ist kein Posten gewählt.</translation>
+    </message>
+    <message>
+        <source>For a goal, what was moved to its account is set aside.</source>
+        <translation>Für ein Ziel ist zurückgelegt, was auf sein Konto umgebucht wurde.</translation>
     </message>
 </context>
 <context>

@@ -227,6 +227,13 @@
             <numerusform>%n days old</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n ticked</numerusform>
+            <numerusform>%n ticked</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>
@@ -275,6 +282,16 @@
         <translation>
             <numerusform>%n transaction</numerusform>
             <numerusform>%n transactions</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyPage</name>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n ticked</numerusform>
+            <numerusform>%n ticked</numerusform>
         </translation>
     </message>
 </context>

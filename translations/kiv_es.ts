@@ -4963,14 +4963,6 @@
         <translation>de hoy</translation>
     </message>
     <message>
-        <source>Reconciliations</source>
-        <translation>Conciliaciones</translation>
-    </message>
-    <message>
-        <source>No account was reconciled yet; kiv survey does that.</source>
-        <translation>Todavía no se ha conciliado ninguna cuenta; kiv survey lo hace.</translation>
-    </message>
-    <message>
         <source>Reconciled on</source>
         <translation>Conciliado el</translation>
     </message>
@@ -4979,20 +4971,8 @@
         <translation>No apartado</translation>
     </message>
     <message>
-        <source>Exchange rates</source>
-        <translation>Tipos de cambio</translation>
-    </message>
-    <message>
         <source>Age</source>
         <translation>Antigüedad</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Ajuste</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valor</translation>
     </message>
     <message>
         <source>Receive</source>
@@ -5390,6 +5370,167 @@
         <source>household</source>
         <comment>the name of a file</comment>
         <translation>hogar</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a rate; write one like 0.92.</source>
+        <translation>«%1» no es un tipo de cambio; se escribe como 0.92.</translation>
+    </message>
+    <message>
+        <source>No currency is given; write codes such as USD, EUR.</source>
+        <translation>No se indica ninguna moneda; se escriben como USD, EUR.</translation>
+    </message>
+    <message>
+        <source>reconciling “%1”</source>
+        <translation>conciliar «%1»</translation>
+    </message>
+    <message>
+        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
+
+The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys.
+
+In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
+        <translation>Un presupuesto es un archivo. Cada cambio se toma enseguida y se escribe en menos de un segundo; el título dice si está guardado. Ctrl+Z deshace un cambio, y la página «Historial» retrocede más.
+
+Las páginas están a un lado. Ctrl+1 a Ctrl+9 las abren, F6 pasa de la lista a la página y vuelve. Ctrl+K encuentra cada orden, cuenta y partida por una parte de su nombre. Ctrl+? muestra todas las teclas.
+
+En un formulario, Intro hace lo que hace su primer botón, y Esc lo deja. Lo que se rechaza se dice en su campo, y lo escrito se queda. Los importes pueden ser sumas, como 12+3.5. Los días pueden ser cortos: 3, 5-2, +7 o T para hoy.</translation>
+    </message>
+    <message>
+        <source>Home answers three questions: what is due, what lies in the accounts, and what needs care.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account.</source>
+        <translation>El inicio responde a tres preguntas: qué vence, qué hay en las cuentas y qué requiere atención.
+
+Cada línea de lo que vence tiene sus botones: pagarla, omitirla o ir a la página de vencimientos para otro importe. Un saldo es el del banco, con las metas que están en la cuenta.</translation>
+    </message>
+    <message>
+        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
+        <translation>Todas las cuentas con sus saldos: el dinero, lo que se debe, lo que está apartado y en qué se gasta o de dónde viene. Intro abre el registro de una cuenta.</translation>
+    </message>
+    <message>
+        <source>The transactions of one account or of all, and below them the row for new ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When a payee is known, its last entry fills the other fields.
+
+F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. “Refund” in the menu “Transaction” takes money back: the whole amount is proposed, and a smaller one can be typed.
+
+Ctrl+F searches: words and conditions such as &gt;50, march or not:reconciled.</source>
+        <translation>Los asientos de una cuenta o de todas, y debajo la fila para los nuevos: gastado, ingresado o traspasado. Intro registra desde cualquier campo; el día se queda. Si se conoce el beneficiario, su último asiento llena los demás campos.
+
+F2 cambia el asiento elegido, Supr lo elimina, Ctrl+D lo registra otra vez. «Reembolsar», en el menú «Transacción», recupera dinero: se propone todo el importe, y se puede escribir uno menor.
+
+Ctrl+F busca: palabras y condiciones como &gt;50, march o not:reconciled.</translation>
+    </message>
+    <message>
+        <source>What is due soon and what is late. The form pays the chosen line from an account, pays another amount, or skips it. Several lines can be chosen with Shift and the arrow keys; they are one step of undo.</source>
+        <translation>Lo que vence pronto y lo atrasado. El formulario paga la línea elegida desde una cuenta, paga otro importe o la omite. Con Mayús y las flechas se eligen varias líneas; se deshacen en un solo paso.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.</source>
+        <translation>Las partidas del presupuesto, de cinco clases. Las facturas, las deudas y el gasto libre se pagan, para las metas se ahorra, los salarios entran. Cada una tiene un importe, cada cuánto se repite y su próximo día. Intro cambia una partida, Supr la elimina.</translation>
+    </message>
+    <message>
+        <source>The banks and their accounts. The kind of an account says whether its balance is money or a debt, and what can be tied to it.</source>
+        <translation>Los bancos y sus cuentas. La clase de una cuenta dice si su saldo es dinero o una deuda, y qué se puede vincular con ella.</translation>
+    </message>
+    <message>
+        <source>A survey compares the books with a statement of the bank.
+
+1. Choose the account, type the day and the balance of the statement, and press Enter.
+2. Tick each transaction that stands on the statement: Space ticks and goes down. The line below says how much is missing. What the bank shows and the books lack can be added to the list.
+3. Look at what is set aside for the items, and change it if needed.
+4. Complete: the ticked transactions are reconciled, and the balance is kept.
+
+The second tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
+        <translation>Una conciliación compara los libros con un extracto del banco.
+
+1. Elegir la cuenta, escribir el día y el saldo del extracto y pulsar Intro.
+2. Marcar cada asiento que está en el extracto: la barra espaciadora marca y baja. La línea de debajo dice cuánto falta. Lo que muestra el banco y falta en los libros se puede añadir a la lista.
+3. Mirar lo que se aparta para las partidas y cambiarlo si hace falta.
+4. Finalizar: los asientos marcados quedan conciliados, y el saldo, anotado.
+
+La segunda pestaña muestra las conciliaciones anteriores y dice si sus asientos siguen como entonces.</translation>
+    </message>
+    <message>
+        <source>One line for each currency: its rate, the day of the rate, and whether it was fetched or typed. “Not converted” stands where a usable currency has no rate; totals leave it out.
+
+A rate can be typed over, and all can be fetched from the service. Rates are the same for all budgets and cannot be undone.</source>
+        <translation>Una línea por moneda: su tipo de cambio, el día del tipo y si se obtuvo o se escribió. «Sin convertir» figura donde una moneda utilizable no tiene tipo; los totales la dejan fuera.
+
+Un tipo se puede sobrescribir, y todos se pueden obtener del servicio. Los tipos valen para todos los presupuestos y no se pueden deshacer.</translation>
+    </message>
+    <message>
+        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there.</source>
+        <translation>Los pasos de esta sesión y, debajo, las versiones anteriores del archivo. La tabla inferior dice qué cambió desde la elegida. «Volver a este estado» la convierte en el estado actual; deshacer y rehacer siguen desde ahí.</translation>
+    </message>
+    <message>
+        <source>Each setting is applied as soon as its field is left. Settings are the same for all budgets and cannot be undone. A currency that the budget uses must stay usable.
+
+The survey window says by how much the ticked transactions may miss the balance of a statement. The hours and days of work are for wages.
+
+Removing a tag takes it from all items.</source>
+        <translation>Cada ajuste vale en cuanto se deja su campo. Los ajustes valen para todos los presupuestos y no se pueden deshacer. Una moneda que el presupuesto usa debe seguir siendo utilizable.
+
+El margen de la conciliación dice cuánto pueden apartarse los asientos marcados del saldo de un extracto. Las horas y los días de trabajo sirven para los salarios.
+
+Al eliminar una etiqueta, la pierden todas las partidas.</translation>
+    </message>
+    <message>
+        <source>not converted</source>
+        <translation>sin convertir</translation>
+    </message>
+    <message>
+        <source>not booked yet</source>
+        <translation>sin registrar</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Item or account</source>
+        <translation>Partida o cuenta</translation>
+    </message>
+    <message>
+        <source>On the statement</source>
+        <translation>En el extracto</translation>
+    </message>
+    <message>
+        <source>stays in the account</source>
+        <translation>se queda en la cuenta</translation>
+    </message>
+    <message>
+        <source>not ticked</source>
+        <translation>sin marcar</translation>
+    </message>
+    <message>
+        <source>ticked</source>
+        <translation>marcado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n marcado</numerusform>
+            <numerusform>%n marcados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, nothing missing</source>
+        <translation>%1, no falta nada</translation>
+    </message>
+    <message>
+        <source>%1, %2 missing</source>
+        <translation>%1, faltan %2</translation>
+    </message>
+    <message>
+        <source>%1. %2</source>
+        <translation>%1. %2</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportar</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2)</source>
+        <translation>Archivos %1 (*.%2)</translation>
     </message>
 </context>
 <context>
@@ -5951,6 +6092,57 @@
     </message>
 </context>
 <context>
+    <name>kiv::desktop::FileOutputs</name>
+    <message>
+        <source>&amp;Export …</source>
+        <translation>E&amp;xportar …</translation>
+    </message>
+    <message>
+        <source>Check the &amp;file</source>
+        <translation>Comprobar el archi&amp;vo</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>In which form are the transactions exported?</source>
+        <translation>¿En qué forma se exportan los asientos?</translation>
+    </message>
+    <message>
+        <source>Journal, for ledger and hledger</source>
+        <translation>Diario, para ledger y hledger</translation>
+    </message>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>Tabla (CSV)</translation>
+    </message>
+    <message>
+        <source>Everything (JSON)</source>
+        <translation>Todo (JSON)</translation>
+    </message>
+    <message>
+        <source>Exported to “%1”.</source>
+        <translation>Exportado a «%1».</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is intact.</source>
+        <translation>El presupuesto «%1» está íntegro.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is damaged. A former version can be brought back on the page “History”.</source>
+        <translation>El presupuesto «%1» está dañado. Se puede recuperar una versión anterior en la página «Historial».</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Check of the file</source>
+        <translation>Comprobación del archivo</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FileSession</name>
     <message>
         <source>&amp;New budget …</source>
@@ -6107,6 +6299,14 @@
     <message>
         <source>Open it for reading</source>
         <translation>Abrir para leer</translation>
+    </message>
+    <message>
+        <source>Save &amp;as …</source>
+        <translation>Guardar c&amp;omo …</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
     </message>
 </context>
 <context>
@@ -6272,6 +6472,67 @@
     <message>
         <source>making the budget</source>
         <translation>crear el presupuesto</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::HelpSession</name>
+    <message>
+        <source>&amp;Manual of this page</source>
+        <translation>&amp;Manual de esta página</translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>List of &amp;keys</source>
+        <translation>Lista de &amp;teclas</translation>
+    </message>
+    <message>
+        <source>List of keys</source>
+        <translation>Lista de teclas</translation>
+    </message>
+    <message>
+        <source>&amp;Release notes</source>
+        <translation>&amp;Notas de las versiones</translation>
+    </message>
+    <message>
+        <source>&amp;About kiv</source>
+        <translation>&amp;Acerca de kiv</translation>
+    </message>
+    <message>
+        <source>There is a newer release: %1.</source>
+        <translation>Hay una versión más reciente: %1.</translation>
+    </message>
+    <message>
+        <source>Release notes</source>
+        <translation>Notas de las versiones</translation>
+    </message>
+    <message>
+        <source>About kiv</source>
+        <translation>Acerca de kiv</translation>
+    </message>
+    <message>
+        <source>kiv %1 keeps a household&apos;s money: what there is, what is due, and what is left to spend.
+
+It is free software under the GNU General Public License, version 3 or later: anybody may use, study, share and change it. It comes without any warranty.</source>
+        <translation>kiv %1 lleva el dinero de un hogar: lo que hay, lo que vence y lo que queda para gastar.
+
+Es software libre bajo la Licencia Pública General de GNU, versión 3 o posterior: cualquiera puede usarlo, estudiarlo, compartirlo y cambiarlo. No tiene ninguna garantía.</translation>
+    </message>
+    <message>
+        <source>Fetching the release notes …</source>
+        <translation>Obteniendo las notas de las versiones …</translation>
+    </message>
+    <message>
+        <source>%1, %2
+%3</source>
+        <translation>%1, %2
+%3</translation>
+    </message>
+    <message>
+        <source>There are no releases.</source>
+        <translation>No hay versiones.</translation>
     </message>
 </context>
 <context>
@@ -6565,14 +6826,6 @@
         <translation>Siguiente &amp;parte de la ventana</translation>
     </message>
     <message>
-        <source>List of &amp;keys</source>
-        <translation>Lista de &amp;teclas</translation>
-    </message>
-    <message>
-        <source>List of keys</source>
-        <translation>Lista de teclas</translation>
-    </message>
-    <message>
         <source>Colours of the &amp;system</source>
         <translation>Colores del &amp;sistema</translation>
     </message>
@@ -6621,21 +6874,61 @@
     </message>
 </context>
 <context>
-    <name>kiv::desktop::OverviewPage</name>
-    <message>
-        <source>Everything else</source>
-        <translation>Todo lo demás</translation>
-    </message>
-    <message>
-        <source>&amp;List:</source>
-        <translation>&amp;Lista:</translation>
-    </message>
-</context>
-<context>
     <name>kiv::desktop::Page</name>
     <message>
         <source>The page “%1” cannot be shown: %2</source>
         <translation>No se puede mostrar la página «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RatesPage</name>
+    <message>
+        <source>Exchange rates</source>
+        <translation>Tipos de cambio</translation>
+    </message>
+    <message>
+        <source>There are no exchange rates. Fetch them, or type one.</source>
+        <translation>No hay tipos de cambio. Se pueden obtener o escribir.</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Moneda:</translation>
+    </message>
+    <message>
+        <source>&amp;Rate:</source>
+        <translation>Tipo de &amp;cambio:</translation>
+    </message>
+    <message>
+        <source>Rates are the same for all budgets. They cannot be undone.</source>
+        <translation>Los tipos valen para todos los presupuestos. No se pueden deshacer.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this rate</source>
+        <translation>&amp;Guardar este tipo</translation>
+    </message>
+    <message>
+        <source>Fetch &amp;all rates now</source>
+        <translation>&amp;Obtener todos ahora</translation>
+    </message>
+    <message>
+        <source>&amp;Rate, for 1 %1:</source>
+        <translation>Tipo de &amp;cambio de 1 %1:</translation>
+    </message>
+    <message>
+        <source>1 %1 = %2 %3</source>
+        <translation>1 %1 = %2 %3</translation>
+    </message>
+    <message>
+        <source>Fetching exchange rates …</source>
+        <translation>Obteniendo los tipos de cambio …</translation>
+    </message>
+    <message>
+        <source>The exchange rates are fetched.</source>
+        <translation>Los tipos de cambio se han obtenido.</translation>
+    </message>
+    <message>
+        <source>The exchange rates could not be fetched; try again later, or type them. %1</source>
+        <translation>Los tipos de cambio no se pudieron obtener; intentarlo más tarde o escribirlos. %1</translation>
     </message>
 </context>
 <context>
@@ -6829,6 +7122,117 @@
         <source>All accounts</source>
         <translation>Todas las cuentas</translation>
     </message>
+    <message>
+        <source>Reconcile this acco&amp;unt</source>
+        <translation>Conciliar esta c&amp;uenta</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SettingsPage</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Settings are the same for all budgets. They cannot be undone.</source>
+        <translation>Los ajustes valen para todos los presupuestos. No se pueden deshacer.</translation>
+    </message>
+    <message>
+        <source>&amp;Preferred currency:</source>
+        <translation>Moneda &amp;preferida:</translation>
+    </message>
+    <message>
+        <source>&amp;Usable currencies:</source>
+        <translation>&amp;Monedas utilizables:</translation>
+    </message>
+    <message>
+        <source>&amp;Display of currencies:</source>
+        <translation>P&amp;resentación de las monedas:</translation>
+    </message>
+    <message>
+        <source>Due items shown &amp;ahead, in days:</source>
+        <translation>Vencimientos con antela&amp;ción, en días:</translation>
+    </message>
+    <message>
+        <source>Survey wi&amp;ndow:</source>
+        <translation>Mar&amp;gen de la conciliación:</translation>
+    </message>
+    <message>
+        <source>&amp;Work hours a week:</source>
+        <translation>&amp;Horas de trabajo por semana:</translation>
+    </message>
+    <message>
+        <source>Work da&amp;ys a week:</source>
+        <translation>&amp;Días de trabajo por semana:</translation>
+    </message>
+    <message>
+        <source>&amp;Colours:</source>
+        <translation>C&amp;olores:</translation>
+    </message>
+    <message>
+        <source>as the system</source>
+        <translation>como el sistema</translation>
+    </message>
+    <message>
+        <source>light</source>
+        <translation>claro</translation>
+    </message>
+    <message>
+        <source>dark</source>
+        <translation>oscuro</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt size:</source>
+        <translation>Tamaño del te&amp;xto:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>At the start:</source>
+        <translation>Al empezar:</translation>
+    </message>
+    <message>
+        <source>&amp;Open the last budget</source>
+        <translation>Abrir e&amp;l último presupuesto</translation>
+    </message>
+    <message>
+        <source>There are no tags. An item&apos;s tags are set with the item.</source>
+        <translation>No hay etiquetas. Las de una partida se indican con la partida.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove this tag</source>
+        <translation>Eliminar e&amp;sta etiqueta</translation>
+    </message>
+    <message>
+        <source>The settings are kept.</source>
+        <translation>Los ajustes se han guardado.</translation>
+    </message>
+    <message>
+        <source>No tag is chosen.</source>
+        <translation>No se ha elegido ninguna etiqueta.</translation>
+    </message>
+    <message>
+        <source>Removed the tag “%1”.</source>
+        <translation>Eliminada la etiqueta «%1».</translation>
+    </message>
+    <message>
+        <source>removing the tag “%1”</source>
+        <translation>eliminar la etiqueta «%1»</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::SplitLines</name>
@@ -6843,6 +7247,136 @@
     <message>
         <source>Together with this line: %1</source>
         <translation>Junto con esta línea: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyPage</name>
+    <message>
+        <source>Survey</source>
+        <translation>Conciliación</translation>
+    </message>
+    <message>
+        <source>C&amp;omplete</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message>
+        <source>Parts of the survey</source>
+        <translation>Partes de la conciliación</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Extracto</translation>
+    </message>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Conciliaciones anteriores</translation>
+    </message>
+    <message>
+        <source>What the bank&apos;s statement says:</source>
+        <translation>Lo que dice el extracto del banco:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Cuenta:</translation>
+    </message>
+    <message>
+        <source>&amp;Day:</source>
+        <translation>&amp;Día:</translation>
+    </message>
+    <message>
+        <source>&amp;Balance:</source>
+        <translation>&amp;Saldo:</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>Com&amp;parar</translation>
+    </message>
+    <message>
+        <source>On the statement, but not booked yet:</source>
+        <translation>En el extracto, pero sin registrar:</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>Pa&amp;rtida o cuenta:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>I&amp;mporte:</translation>
+    </message>
+    <message>
+        <source>&amp;Put on the list</source>
+        <translation>Añadir a &amp;la lista</translation>
+    </message>
+    <message>
+        <source>Transactions to tick</source>
+        <translation>Asientos para marcar</translation>
+    </message>
+    <message>
+        <source>Tick a&amp;ll</source>
+        <translation>Marcar t&amp;odo</translation>
+    </message>
+    <message>
+        <source>What is set aside</source>
+        <translation>Lo que se aparta</translation>
+    </message>
+    <message>
+        <source>&amp;Set aside for it:</source>
+        <translation>Importe &amp;que se aparta:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this amount</source>
+        <translation>Ma&amp;ntener este importe</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>What you owe stands without a minus; money that the bank owes you has one.</source>
+        <translation>Lo que se debe va sin menos; un saldo a favor lo lleva.</translation>
+    </message>
+    <message>
+        <source>Money in the account stands without a minus; an overdrawn account has one.</source>
+        <translation>El dinero de la cuenta va sin menos; una cuenta en descubierto lo lleva.</translation>
+    </message>
+    <message>
+        <source>There is no account at a bank to reconcile.</source>
+        <translation>No hay ninguna cuenta bancaria que conciliar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ticked</source>
+        <translation>
+            <numerusform>%n marcado</numerusform>
+            <numerusform>%n marcados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>De lo que se debe no se aparta nada.</translation>
+    </message>
+    <message>
+        <source>Set aside from it for items; %1 is left:</source>
+        <translation>Apartado de ello para partidas; quedan %1:</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet.</source>
+        <translation>Todavía no se ha conciliado ninguna cuenta.</translation>
+    </message>
+    <message>
+        <source>Its transactions are as they were then.</source>
+        <translation>Sus asientos están como entonces.</translation>
+    </message>
+    <message>
+        <source>For which item or account?</source>
+        <translation>¿Para qué partida o cuenta?</translation>
+    </message>
+    <message>
+        <source>No item is chosen.</source>
+        <translation>No se ha elegido ninguna partida.</translation>
+    </message>
+    <message>
+        <source>For a goal, what was moved to its account is set aside.</source>
+        <translation>Para una meta está apartado lo que se ha traspasado a su cuenta.</translation>
     </message>
 </context>
 <context>
