@@ -5988,7 +5988,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <translation>Bet&amp;rag</translation>
     </message>
     <message>
-        <source>Arr&amp;ived</source>
+        <source>In e&amp;xchange</source>
         <translation>Angek&amp;ommen</translation>
     </message>
     <message>
@@ -7238,7 +7238,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <name>kiv::desktop::SplitLines</name>
     <message>
         <source>Take the last line &amp;back</source>
-        <translation>Letzte Zeile zurüc&amp;kholen</translation>
+        <translation>Letzte Zeile zurückh&amp;olen</translation>
     </message>
     <message>
         <source>%1 %2</source>

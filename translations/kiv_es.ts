@@ -5988,8 +5988,8 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <translation>I&amp;mporte</translation>
     </message>
     <message>
-        <source>Arr&amp;ived</source>
-        <translation>Reci&amp;bido</translation>
+        <source>In e&amp;xchange</source>
+        <translation>Recibido</translation>
     </message>
     <message>
         <source>Reaso&amp;n</source>
@@ -7238,7 +7238,7 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <name>kiv::desktop::SplitLines</name>
     <message>
         <source>Take the last line &amp;back</source>
-        <translation>Re&amp;cuperar la última línea</translation>
+        <translation>Recuperar la última línea</translation>
     </message>
     <message>
         <source>%1 %2</source>

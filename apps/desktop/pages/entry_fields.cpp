@@ -39,7 +39,7 @@ EntryFields::EntryFields(FieldMessage &message, QWidget *parent)
     addField(0, 1, m_ownLabel, {}, m_own);
     addField(0, 2, m_otherLabel, {}, m_other);
     addField(1, 0, m_payeeLabel, {}, m_payee);
-    addField(1, 0, m_receivedLabel, tr("Arr&ived"), m_received);
+    addField(1, 0, m_receivedLabel, tr("In e&xchange"), m_received);
     addField(1, 1, m_reasonLabel, tr("Reaso&n"), m_reason);
     addField(1, 2, m_dayLabel, tr("Da&y"), m_day);
     m_day->setDay(foundation::today());
