@@ -56,7 +56,8 @@ private slots:
         QStringList reasons;
         SmallHousehold *asking = nullptr;
         SmallHousehold home([&](const QUrl &) -> std::optional<Response> {
-            if (asking) {
+            // Not when the window refreshes old rates by itself.
+            if (asking && asking->requests().isBusy()) {
                 reasons += part<QPushButton>(*asking, "keep").toolTip();
                 reasons += desktop::ActionCollection::reason(
                     asking->window().desk().actions().action(u"undo"_s));
