@@ -4,6 +4,8 @@
 #include "desktop/geometry.h"
 #include "desktop/household_window.h"
 
+#include "workbench/entry/user_locale.h"
+
 #include <QtWidgets/QtWidgets>
 
 using namespace kiv;
@@ -46,6 +48,9 @@ private slots:
         QTest::newRow("dark, double text") << large << 200 << true << false;
         QTest::newRow("from right to left") << small << 100 << false << true;
         QTest::newRow("from right to left, double text") << large << 200 << false << true;
+        // Their texts are longer. The name of the row is that of the language.
+        QTest::newRow("de") << small << 100 << false << false;
+        QTest::newRow("es") << small << 100 << false << false;
     }
     void allPagesFit()
     {
@@ -54,6 +59,16 @@ private slots:
         QFETCH(bool, isDark);
         QFETCH(bool, isFromRight);
         QApplication::setLayoutDirection(isFromRight ? Qt::RightToLeft : Qt::LeftToRight);
+        const QByteArray language = QTest::currentDataTag();
+        if (language.size() == 2) {
+            qputenv("LC_MESSAGES", language);
+            qunsetenv("LC_ALL");
+            workbench::speakAsUser(*qApp);
+        }
+        const auto english = qScopeGuard([] {
+            for (auto *translator : qApp->findChildren<QTranslator *>())
+                QCoreApplication::removeTranslator(translator);
+        });
         const QFont usual = QApplication::font();
         const auto back = qScopeGuard([&usual] { QApplication::setFont(usual); });
         HouseholdWindow desk;
