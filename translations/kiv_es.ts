@@ -5989,7 +5989,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>In e&amp;xchange</source>
-        <translation>Recibido</translation>
+        <translation>Lo &amp;que llegó</translation>
     </message>
     <message>
         <source>Reaso&amp;n</source>
@@ -7238,7 +7238,7 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <name>kiv::desktop::SplitLines</name>
     <message>
         <source>Take the last line &amp;back</source>
-        <translation>Recuperar la última línea</translation>
+        <translation>De&amp;shacer la última línea</translation>
     </message>
     <message>
         <source>%1 %2</source>

@@ -10,7 +10,7 @@ namespace kiv::workbench {
 using Sink = std::function<void(const QByteArray &)>;
 
 /// JSON as text: indented, or on one line. Control and other unsafe characters are
-/// written as \uXXXX.
+/// written by their numbers, as in "\\u001b".
 class KIV_WORKBENCH_EXPORT JsonText {
 public:
     /// How it is laid out.
