@@ -9,7 +9,6 @@
 
 #include "networking/request_manager.h"
 
-#include "support/damage.h"
 #include "support/json_text.h"
 #include "support/message_log.h"
 #include "support/scripted_sender.h"
@@ -160,32 +159,6 @@ private slots:
                     kiv::foundation::Error,
                     (void)readTable(QByteArray(sample).replace(good, instead)));
         }
-    }
-
-    void randomRepliesAreReadOrRefused()
-    {
-        const QByteArrayList own{"0.92", "EUR", "1772366400", "USD", "150.123456"};
-        const QByteArrayList odd{"-1",  "0",   "1e300", "1e-300", "1e999", "null", "true", "'x'",
-                                 "[1]", "BTC", "XXX",   "eur",    "EUR",   "",     "NaN",  "9e0"};
-        QRandomGenerator random(20260331);
-        int read = 0;
-        int refused = 0;
-        const int runs = randomRuns(20'000);
-        for (int run = 0; run < runs; ++run) {
-            const QByteArray text = damaged(sample, own, odd, random);
-            try {
-                const ConversionMap map = readTable(text);
-                ++read;
-                // Whatever is read keeps the table's promises.
-                QVERIFY2(map.fetchedAt().isValid() && map.base() != Currency(), text);
-                for (const auto &[currency, rate] : map.rates())
-                    QVERIFY2(rate > 0 && rate <= 1'000'000'000'000, text);
-            } catch (const kiv::foundation::Error &) {
-                ++refused;
-            }
-        }
-        // Both ways are taken, or the replies are no test.
-        QVERIFY(read > refused / 50 && refused > read / 50);
     }
 
     void looksUpInTheCacheOfTheProcess()

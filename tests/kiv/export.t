@@ -5,10 +5,8 @@ What other programs are given.
   $ . "$TESTDIR/household.sh"
   $ . "$TESTDIR/peers.sh"
   $ begin
-  $ kiv post Rent --account Checking --date 2026-01-31
-  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
-  $ kiv transaction reconcile 2
-  Reconciled the transaction 2.
+  $ kiv post Rent --account Checking --date 2026-01-31 >/dev/null
+  $ kiv transaction reconcile 2 >/dev/null
   $ kiv export | tail -3
   2026-01-31 (2) Processed the budget item due on Sat Jan 31 2026.
       * Expenses:Rent [Budget Item]  1250.00 USD
@@ -96,8 +94,7 @@ They see one that is forged:
 The journal makes the same books, but that each currency which paid for another one went
 through an account:
 
-  $ kiv new again
-  Created the empty budget 'again.budget'.
+  $ kiv new again >/dev/null
   $ kiv import export.journal --file again | tail -1
   Transactions posted: 1356; duplicates skipped: 0; accounts opened: 35.
   $ own --file again | grep -v Equity:Conversion: | diff own -
@@ -109,30 +106,6 @@ All of it is there already:
   $ kiv import export.journal --file again --dry-run | tail -2
   Transactions posted: 0; duplicates skipped: 1356; accounts opened: 0.
   Dry run: nothing is saved.
-
-Nothing in an export is obeyed:
-
-  $ kiv export --format csv >export.csv
-  $ grep -v "$(printf '\r')\$" export.csv
-  [1]
-  $ grep ',"[=+@-]' export.csv
-  [1]
-  $ grep -c "\"'=SUM(A1)\"" export.csv
-  56
-  $ raw() { grep -c "$(printf '\033\\|\342\200\256')"; }
-  $ raw <names
-  2
-  $ for command in accounts 'accounts --json' export 'export --format csv' \
-  >     'export --format json' transactions; do
-  >     kiv $command | raw
-  > done
-  0
-  0
-  0
-  0
-  0
-  0
-  [1]
 
 The JSON has all of it, accounts by their numbers, and what has a fault in it loads nothing:
 
@@ -151,22 +124,17 @@ The JSON has all of it, accounts by their numbers, and what has a fault in it lo
 The JSON export follows the schema that its documentation holds:
 
   $ begin
-  $ kiv debt add Car 200 --borrowed 5000 --bank First --type loan --tag a --next 2026-01-31
-  Added the debt 'Car'.
-  $ kiv goal add Trip 50 --target 900 --bank-account Checking --next 2026-01-31
-  Added the goal 'Trip'.
+  $ kiv debt add Car 200 --borrowed 5000 --bank First --type loan --tag a --next 2026-01-31 >/dev/null
+  $ kiv goal add Trip 50 --target 900 --bank-account Checking --next 2026-01-31 >/dev/null
   $ kiv post --all --account Checking --date 2026-01-31
   Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   Posted the debt 'Car', due on 2026-01-31: $200.00.
   Posted the goal 'Trip', due on 2026-01-31: $50.00.
-  $ kiv refund 3 1.00
-  Posted the refund as transaction 7.
+  $ kiv refund 3 1.00 >/dev/null
   $ kiv rates set USD EUR=0.9 >rates
-  $ kiv account add Euros --type asset --currency EUR
-  Added the account 7 Euros.
-  $ kiv transaction add '3 EUR' --debit Euros --credit Checking
-  Posted transaction 8.
+  $ kiv account add Euros --type asset --currency EUR >/dev/null
+  $ kiv transaction add '3 EUR' --debit Euros --credit Checking >/dev/null
   $ kiv export --json >export.json
   $ jq '.transactions | length' export.json
   8

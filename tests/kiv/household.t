@@ -16,8 +16,7 @@ What a household does from day to day.
 
 A month, from nothing to what is on file:
 
-  $ kiv bill add Power '84.35 USD' --next 2026-02-10 --tag home
-  Added the bill 'Power'.
+  $ kiv bill add Power '84.35 USD' --next 2026-02-10 --tag home >/dev/null
   $ kiv bill rename Power Light
   The bill 'Power' is now called 'Light'.
   $ kiv post Rent --account Checking --date 2026-02-01
@@ -43,24 +42,13 @@ A month, from nothing to what is on file:
   Cleared the transaction 2.
   $ kiv transaction update 2 --description "A month's rent"
   Changed transaction 2.
-  $ kiv accounts
-  Number  Account                                 Balance
-       1  Assets:Checking                       $4,330.90
-       2  Equity:Opening Balances USD [Equity]  $2,500.00
-       5  Expenses:Light                           $19.10
-       3  Expenses:Rent                         $1,250.00
-       4  Income:Salary                         $3,100.00
   $ kiv transactions
   Number  Date        Description                                        Debit     Credit                            Amount
        1  2026-01-01                                                     Checking  Opening Balances USD [Equity]  $2,500.00
        2  2026-02-01  A month's rent                                     Rent      Checking                       $1,250.00
        3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Checking  Salary                         $3,100.00
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light     Checking                          $19.10
-  $ kiv ledger Checking
-  1 Checking
-  Number  Date        Description                                        Other account                      Change    Balance  Status
-       1  2026-01-01                                                     Opening Balances USD [Equity]   $2,500.00  $2,500.00  none
-       2  2026-02-01  A month's rent                                     Rent                           -$1,250.00  $1,250.00  cleared
+  $ kiv ledger Checking | tail -2
        3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Salary                          $3,100.00  $4,350.00  cleared
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light                             -$19.10  $4,330.90  none
   $ kiv info
@@ -79,8 +67,7 @@ The day of the month that an item was given outlives a short month:
   Name      Amount  Every      Next        Tags
   Light     $90.00  quarterly  2026-03-10  home
   Rent   $1,250.00  monthly    2026-02-28
-  $ kiv skip Rent
-  Skipped the bill 'Rent' due on 2026-02-28; it is next due on 2026-03-31.
+  $ kiv skip Rent >/dev/null
 
 Programs read JSON:
 
@@ -166,8 +153,7 @@ Posting goes by name, and would take the bill for the wage:
 A refund gives back what was paid, and no more:
 
   $ begin
-  $ kiv pay Rent 100 --account Checking --date 2026-02-03
-  Posted $100.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv pay Rent 100 --account Checking --date 2026-02-03 >/dev/null
   $ kiv refund 2 30.50
   Posted the refund as transaction 3.
   $ kiv transactions --json | jq -c '.[-1] | .date == (now | todate[:10]), del(.date)'
@@ -176,5 +162,4 @@ A refund gives back what was paid, and no more:
   $ kiv refund 2 69.51
   kiv: A refund of $69.51 exceeds the $69.50 that are left of the transaction 2.
   [1]
-  $ kiv refund 2 69.50
-  Posted the refund as transaction 4.
+  $ kiv refund 2 69.50 >/dev/null

@@ -10,8 +10,7 @@ of a virtual posting has no place in double entry; hledger does not know "apply 
 automated transactions only in another notation:
 
   $ cp "$TESTDIR/data/ledger_manual.journal" manual.journal
-  $ kiv new
-  Created the empty budget 'household.budget'.
+  $ kiv new >/dev/null
   $ kiv import manual.journal
   Dates in comments are skipped; each posting has the date of its transaction.
   Second dates of transactions are skipped.
@@ -67,8 +66,7 @@ paid for another one:
   >     owed:Ann
   > .
   $ rm -r household.budget*
-  $ kiv new
-  Created the empty budget 'household.budget'.
+  $ kiv new >/dev/null
   $ kiv import forms.journal
   Transactions posted: 12; duplicates skipped: 0; accounts opened: 14.
   $ own | grep -v Equity:Conversion: >own
@@ -78,8 +76,7 @@ paid for another one:
 A journal is shown before it is posted:
 
   $ rm -r household.budget*
-  $ kiv new
-  Created the empty budget 'household.budget'.
+  $ kiv new >/dev/null
   $ cat >a.journal <<.
   > 2026-01-01 x
   >  Assets:Cash  \$0
@@ -145,10 +142,8 @@ A journal of a gigabyte is refused at once:
 What cannot be understood is refused, with its line, and so are options that do not fit:
 
   $ begin
-  $ kiv account add Gone --type expense
-  Added the account 5 Gone.
-  $ kiv account close Gone
-  Closed the account 5 Gone.
+  $ kiv account add Gone --type expense >/dev/null
+  $ kiv account close Gone >/dev/null
   $ journal() {
   >     cat >s.journal
   >     kiv import s.journal

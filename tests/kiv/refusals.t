@@ -195,12 +195,6 @@ Files:
   kiv: A value on the command line is not valid UTF-8.
   [2]
 
-A dry run tells what would be:
-
-  $ kiv bill add Gym 30 --dry-run
-  Added the bill 'Gym'.
-  Dry run: nothing is saved.
-
 A file that is open elsewhere is refused until it is let go:
 
   $ hold

@@ -4,8 +4,7 @@ Reports come in three forms, and as JSON.
 
   $ . "$TESTDIR/household.sh"
   $ begin
-  $ kiv post Rent --account Checking --date 2026-01-31
-  Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
+  $ kiv post Rent --account Checking --date 2026-01-31 >/dev/null
   $ kiv report --from 2026-01-01 --to 2026-02-28
   USD
   Month    Income   Expenses     Budget     Actual  Net worth

@@ -106,8 +106,7 @@ A rates file that cannot be read gets another name, which is told:
 Settings are kept. What is preferred is usable, unless the usable ones are given:
 
   $ rm -r household.budget*
-  $ kiv new
-  Created the empty budget 'household.budget'.
+  $ kiv new >/dev/null
   $ kiv configure set --preferred EUR --usable EUR --usable USD --display code --notify-within 30
   Preferred currency              EUR
   Usable currencies               USD, EUR
@@ -116,8 +115,7 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   Survey window                   2.75 %
   Work hours a week               40
   Work days a week                5
-  $ kiv bill add Miete 700 --next 2026-02-01
-  Added the bill 'Miete'.
+  $ kiv bill add Miete 700 --next 2026-02-01 >/dev/null
   $ kiv bill list
   Name       Amount  Every    Next        Tags
   Miete  700.00 EUR  monthly  2026-02-01

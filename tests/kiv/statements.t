@@ -7,10 +7,8 @@ Statements of banks come in whole, or nothing of them does.
 A statement is previewed, posted, and known again:
 
   $ begin
-  $ kiv account add Food --type expense
-  Added the account 5 Food.
-  $ kiv account add Other --type expense
-  Added the account 6 Other.
+  $ kiv account add Food --type expense >/dev/null
+  $ kiv account add Other --type expense >/dev/null
   $ cat >s.csv <<.
   > Date;Amount;Text
   > 05.01.2026;-1.012,50;REWE
@@ -69,18 +67,15 @@ The bank's own identifiers tell what is there already:
   Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
   $ kiv export | grep 'x2'
   2026-01-10 (13) Bakery [id x2]
-  $ kiv transaction update 13 --description 'Cake for Ann'
-  Changed transaction 13.
-  $ kiv transaction update 12 --description 'Bread [id mine]'
-  Changed transaction 12.
+  $ kiv transaction update 13 --description 'Cake for Ann' >/dev/null
+  $ kiv transaction update 12 --description 'Bread [id mine]' >/dev/null
   $ kiv import s.ofx --into Checking --against Other --dry-run | grep Bakery
      2  2026-01-10  Bakery       Other  Checking   $5.25
      3  2026-01-10  Bakery       Other  Checking   $5.25  duplicate
 
 A transfer that both banks tell is told as one that may be there:
 
-  $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01
-  Added the account 7 Savings to the bank 'First'.
+  $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01 >/dev/null
   $ moved() { echo "<OFX><STMTRS><CURDEF>USD<BANKTRANLIST><STMTTRN><DTPOSTED>20260112<TRNAMT>$1
   >     <FITID>$2<NAME>$3</STMTTRN></BANKTRANLIST></STMTRS></OFX>" >moved.ofx; }
   $ moved -300 c7 'TO SAVINGS'
@@ -185,8 +180,7 @@ Every way to read a statement. What it is shows in its beginning, and the other 
 categories:
 
   $ begin
-  $ kiv account add Food --type expense
-  Added the account 5 Food.
+  $ kiv account add Food --type expense >/dev/null
   $ read_as() {
   >     cat >s.bin
   >     kiv import s.bin --into 1 --against 4 --dry-run --json "$@" | jq -c '.transactions[] |

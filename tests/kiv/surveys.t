@@ -20,27 +20,20 @@ Items are tied to their bank. What is not given stays, the bank too:
 
   $ kiv goal list --json | jq -c .[]
   {"amount":{"amount":"50.00","currency":"USD"},"bank":"First","bankAccount":1,"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"900.00","currency":"USD"}}
-  $ kiv accounts
-  Number  Account                                  Balance
-       1  Assets:Checking                        $4,275.00
+  $ kiv accounts | grep -e Trip -e Opening -e Car
        6  Assets:Checking:Trip                      $75.00
        2  Equity:Opening Balances USD [Equity]  -$2,500.00
-       3  Expenses:Rent                          $1,250.00
-       5  Expenses:Tax                               $0.00
-       4  Income:Salary                          $3,100.00
        7  Liabilities:Car                        $5,000.00
   $ kiv goal update Trip --target 950
   Changed the goal 'Trip'.
-  $ kiv debt update Car --amount 210
-  Changed the debt 'Car'.
+  $ kiv debt update Car --amount 210 >/dev/null
   $ kiv goal list
   Name  Amount  Every    Next         Target  Bank   Tags
   Trip  $50.00  monthly  2026-02-01  $950.00  First
   $ kiv debt list
   Name   Amount  Every    Next         Borrowed  Bank   Tags
   Car   $210.00  monthly  2026-02-05  $5,000.00  First
-  $ kiv goal update Trip --no-bank
-  Changed the goal 'Trip'.
+  $ kiv goal update Trip --no-bank >/dev/null
   $ kiv goal list --json | jq -c .[]
   {"amount":{"amount":"50.00","currency":"USD"},"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"950.00","currency":"USD"}}
   $ kiv accounts --type asset
@@ -101,15 +94,8 @@ An edited document completes a survey. What went to the goal stays in the family
   1 Checking was reconciled on 2026-01-31 with a balance of $4,330.50.
   $ kiv reconciliation last Checking --json | jq -c .
   {"account":1,"balance":{"amount":"4330.50","currency":"USD"},"currency":"USD","on":"2026-01-31"}
-  $ kiv accounts
-  Number  Account                                  Balance
-       1  Assets:Checking                        $4,255.50
+  $ kiv accounts | grep Trip
        6  Assets:Checking:Trip                      $75.00
-       2  Equity:Opening Balances USD [Equity]  -$2,499.50
-       3  Expenses:Rent                          $1,270.00
-       5  Expenses:Tax                               $0.00
-       4  Income:Salary                          $3,100.00
-       7  Liabilities:Car                        $5,000.00
   $ kiv ledger Checking
   1 Checking
   Number  Date        Description                                        Other account                      Change    Balance  Status
@@ -134,13 +120,14 @@ Flags do the same:
 
 Its last survey follows an account to the kind that is right, and the next one starts there:
 
-  $ kiv bank-account attach Checking --bank First --type savings
-  Assigned the account 1 Checking to the bank 'First'.
+  $ kiv bank-account attach Checking --bank First --type savings >/dev/null
   $ kiv reconciliation last Checking
   1 Checking was reconciled on 2026-01-31 with a balance of $4,330.00.
-  $ kiv survey show First Checking --date 2026-02-15 --json | jq -c '.reconciledOn, .expectedBalance'
+  $ kiv survey show First Checking --date 2026-02-15 --json | jq -c '.reconciledOn, .expectedBalance,
+  >     (.distribution | map([.name, .distributed.amount]))'
   "2026-01-31"
   {"amount":"4330.00","currency":"USD"}
+  [["Tax","45.00"],["Trip","75.00"]]
   $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
   Reconciled 1 Checking at First with a balance of $4,330.00.
   $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
@@ -189,8 +176,7 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
   $ kiv bank-account add Card --bank First --type credit-card --balance '80.00 USD' \
   >     --date 2026-01-01
   Added the account 8 Card to the bank 'First'.
-  $ kiv pay Rent 20.00 --account Card --date 2026-01-15
-  Posted $20.00 for the bill 'Rent', which is still due on 2026-02-28.
+  $ kiv pay Rent 20.00 --account Card --date 2026-01-15 >/dev/null
   $ kiv reconciliation last Card
   8 Card was never reconciled.
   $ printf '%s\n' y y 100 '' '' y | run Card
@@ -213,9 +199,6 @@ Bad surveys change nothing:
   $ complete() {
   >     kiv survey complete First Checking --date 2026-01-31 --balance 4350.00 "$@"
   > }
-  $ complete --tick-all --item Rent=-500
-  kiv: The calculated budget item transaction total, '$3,850.00', must be within 2.75 % of the reconciled current balance, '$4,350.00'.
-  [1]
   $ complete --tick-all --item Rent
   kiv: 'Rent' is not of the form NAME=VALUE.
   [2]
@@ -259,9 +242,6 @@ days to come:
   [2]
   $ start --item 'Petrol=5 of 7'
   kiv: 'Petrol' is no goal, and has no target.
-  [2]
-  $ start --item '=5'
-  kiv: '=5' is not of the form NAME=VALUE.
   [2]
   $ start --item 'goal:Mobile carrier=5 of 300 2024-02-29' --item Petrol=20.50 --json >made
   $ coming <made

@@ -35,10 +35,8 @@ again:
 
   $ begin
   $ kiv export --format json >first
-  $ kiv bill add Gym 30 --next 2026-02-01
-  Added the bill 'Gym'.
-  $ kiv bill add Club 20 --next 2026-02-01
-  Added the bill 'Club'.
+  $ kiv bill add Gym 30 --next 2026-02-01 >/dev/null
+  $ kiv bill add Club 20 --next 2026-02-01 >/dev/null
   $ kiv export --format json >last
   $ kiv undo --steps 2 --dry-run --json | jq -c '.changes[] | [.change, .what, .name]'
   ["removed","item","bill Club"]
@@ -70,8 +68,7 @@ again:
 
 What is kept; a new change ends redo, and what was undone stays in the list:
 
-  $ kiv pay Rent 5 --account Checking --date 2026-02-01
-  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv pay Rent 5 --account Checking --date 2026-02-01 >/dev/null
   $ kiv redo
   kiv: There is nothing to redo.
   [1]
@@ -124,10 +121,8 @@ A large import that is undone does not fill the terminal:
 Differences are told field by field:
 
   $ begin
-  $ kiv bill update Rent --amount 1300.00 --tag home
-  Changed the bill 'Rent'.
-  $ kiv pay Rent 5 --account Checking --date 2026-02-03
-  Posted $5.00 for the bill 'Rent', which is still due on 2026-01-31.
+  $ kiv bill update Rent --amount 1300.00 --tag home >/dev/null
+  $ kiv pay Rent 5 --account Checking --date 2026-02-03 >/dev/null
   $ kiv history diff
   What         Name        Change   Detail
   account      1 Checking  changed  balance 2500.00 USD \xe2\x86\x92 2495.00 USD (esc)
@@ -138,8 +133,7 @@ Differences are told field by field:
   item  bill Rent  changed  amount 1250.00 USD \xe2\x86\x92 1300.00 USD, tags  \xe2\x86\x92 home (esc)
   $ kiv history diff --json | jq -c '.[0]'
   {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
-  $ kiv bill update Rent --every every-two-weeks --next 2026-03-01
-  Changed the bill 'Rent'.
+  $ kiv bill update Rent --every every-two-weeks --next 2026-03-01 >/dev/null
   $ kiv history diff
   What  Name       Change   Detail
   item  bill Rent  changed  every monthly \xe2\x86\x92 every two weeks, next 2026-01-31 \xe2\x86\x92 2026-03-01 (esc)
@@ -175,13 +169,11 @@ Differences are told field by field:
 Nothing is undone where that would lose something:
 
   $ rm -r household.budget*
-  $ kiv new
-  Created the empty budget 'household.budget'.
+  $ kiv new >/dev/null
   $ kiv undo
   kiv: There is nothing to undo.
   [1]
-  $ kiv bank add First
-  Added the bank 'First'.
+  $ kiv bank add First >/dev/null
   $ kiv undo --to 7
   kiv: There is no version 7; see kiv history.
   [1]
@@ -214,7 +206,7 @@ The file is gone or damaged. Each command says what to do, and undo does it:
 
   $ cp household.budget whole
   $ rm household.budget
-  $ each 1 <<'.'
+  $ each 1 2>&1 <<'.' | uniq -c
   > banks
   > bank add Second
   > check
@@ -222,12 +214,8 @@ The file is gone or damaged. Each command says what to do, and undo does it:
   > new
   > history diff
   > .
-  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
-  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
-  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
-  kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
-  kiv: The file 'household.budget' is gone, but its former versions are kept; bring the newest back with kiv undo.
-  kiv: The file 'household.budget' is gone, but its former versions are kept; bring the newest back with kiv undo.
+        4 kiv: There is no file 'household.budget'. Former versions are kept; bring the newest back with kiv undo.
+        2 kiv: The file 'household.budget' is gone, but its former versions are kept; bring the newest back with kiv undo.
   $ kiv history
   Version    Saved at             Transactions  Change
   1          ????-??-?? ??:??:??             0  Created the budget (glob)
@@ -288,15 +276,9 @@ As another kind of file is, and a newer version:
   The file is a budget file of a known version  FAILED       The file 'household.budget' was not written by this program.
   The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
 
-A word of its tables, and a letter of a name:
+A word of its tables:
 
   $ flipped 'index($_, "CREATE TABLE")'
-  false
-  ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
-  [1]
-  The rows are as they were saved               FAILED       The checksum is wrong.
-  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
-  $ flipped 'index($_, "Checking")'
   false
   ["kept","not judged","broken","not judged","not judged","not judged","not judged"]
   [1]
@@ -312,8 +294,7 @@ account is mended when it is opened:
   $ kiv check household | tail -2
   Debits equal credits in every currency        ok      2500.00 USD
   The budget 'household.budget' is intact.
-  $ kiv account remove 3
-  Removed the account 3 Rent.
+  $ kiv account remove 3 >/dev/null
   $ kiv check | tail -4
   Items, accounts and banks match               repaired when opened  The budget item 'Rent' had lost its account, which was opened anew under the number 5.
   Every balance is the sum of its transactions  ok

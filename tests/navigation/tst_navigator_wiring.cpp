@@ -193,19 +193,6 @@ void NavigatorWiring::itMayGoWhileItWaitsForRates()
                      !said.contains(QStringLiteral("fetchedExchangeRates")),
                  qPrintable(said));
     }
-    // What it waits with may go as well.
-    const Act loseSource = [](Navigator &n) {
-        delete n.findChild<conversion::OpenExchangeRatesSource *>();
-    };
-    const Act loseManager = [](Navigator &n) {
-        delete n.findChild<networking::RequestManager *>();
-    };
-    for (const Act &lose : {loseSource, loseManager}) {
-        Desk desk;
-        QTimer::singleShot(0, this, [&] { lose(*desk.navigator); });
-        desk.navigator->onFetchExchangeRates({eur});
-        QCOMPARE(desk.take().last(), QStringLiteral("fetchedExchangeRates((EUR), no rates)"));
-    }
 }
 
 void NavigatorWiring::partsMayBeDestroyedFirst()

@@ -134,9 +134,10 @@ void HostileNames::initTestCase()
 void HostileNames::neverReachTheTerminal_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    for (const char *command : {"accounts", "banks", "transactions", "bill list", "due", "info",
-                                "dashboard", "check", "tags list", "ledger 100001",
-                                "export --format journal", "report --chart", "report --html"})
+    for (const char *command :
+         {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
+          "tags list", "ledger 100001", "export --format journal", "export --format json",
+          "report --chart", "report --html"})
         QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
 }
 
