@@ -127,7 +127,7 @@ Its last survey follows an account to the kind that is right, and the next one s
   >     (.distribution | map([.name, .distributed.amount]))'
   "2026-01-31"
   {"amount":"4330.00","currency":"USD"}
-  [["Tax","45.00"],["Trip","75.00"]]
+  [["Tax","60.00"],["Trip","75.00"]]
   $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
   Reconciled 1 Checking at First with a balance of $4,330.00.
   $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
