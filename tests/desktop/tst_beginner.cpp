@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "desktop/household_window.h"
-
-#include <QtWidgets/QtWidgets>
+#include "desktop/by_keys.h"
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 
 /// From the first start to a change of bank, by keys alone: the same books as with the command.
-class TestBeginner : public QObject {
+class TestBeginner : public QObject, private ByKeys {
     Q_OBJECT
 
 private slots:
@@ -138,52 +136,6 @@ private:
         if (!fields.empty())
             press(Qt::Key_Return);
     }
-    /// What gets the keys. A list of names that is open takes all of them; when it has
-    /// closed, a desktop makes the window active again, and here nobody else does.
-    QWidget *target()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            return popup;
-        QApplication::setActiveWindow(&m_desk.window());
-        return QApplication::focusWidget();
-    }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(target(), key, modifiers);
-        QCoreApplication::processEvents();
-    }
-    void type(const QString &text)
-    {
-        for (const QChar letter : text) {
-            QTest::keyClick(target(), letter.toLatin1());
-            QCoreApplication::processEvents();
-        }
-    }
-    /// The button or field with this letter. A button goes up a moment later.
-    void letter(Qt::Key key)
-    {
-        press(key, Qt::AltModifier);
-        QTRY_VERIFY(std::ranges::none_of(
-            m_desk.window().findChildren<QAbstractButton *>(),
-            [](const QAbstractButton *button) { return button->isVisible() && button->isDown(); }));
-    }
-    void fill(const std::vector<std::pair<Qt::Key, QString>> &fields)
-    {
-        for (const auto &[key, text] : fields) {
-            letter(key);
-            const auto *box = qobject_cast<QComboBox *>(QApplication::focusWidget());
-            if (box && !box->isEditable()) {
-                press(Qt::Key_Home);
-                for (int left = box->count(); left > 0 && !box->currentText().startsWith(text);
-                     --left)
-                    press(Qt::Key_Down);
-                continue;
-            }
-            press(Qt::Key_A, Qt::ControlModifier);
-            press(Qt::Key_Delete);
-            type(text);
-        }
-    }
     void entry(const QString &amount, const QString &own, const QString &other)
     {
         type(amount);
@@ -194,14 +146,6 @@ private:
             type(account);
         }
         press(Qt::Key_Tab);
-    }
-    /// A page by its number.
-    void open(const QString &id)
-    {
-        const auto &pages = m_desk.window().pages();
-        const auto found = std::ranges::find(pages, id, &desktop::Page::id);
-        press(static_cast<Qt::Key>(Qt::Key_1 + (found - pages.begin())), Qt::ControlModifier);
-        QCOMPARE(m_desk.window().page()->id(), id);
     }
     /// A tab of the page.
     void choose(const QString &tab)
@@ -232,18 +176,6 @@ private:
                 texts += model.index(row, column).data().toString();
         return texts.join(u'\n');
     }
-    /// All that is in the books, as the command tells it.
-    static QByteArray figures(const QString &file)
-    {
-        KivCommand kiv(file);
-        QByteArray all;
-        for (const QString &list : {u"accounts"_s, u"transactions"_s, u"banks"_s, u"due"_s,
-                                    u"bill list"_s, u"debt list"_s, u"goal list"_s, u"wage list"_s})
-            all += kiv.run(list.split(u' ') + QStringList{u"--json"_s}) + '\n';
-        return all;
-    }
-
-    HouseholdWindow m_desk;
 };
 
 static const kiv::test::Suite<TestBeginner> suite;

@@ -20,18 +20,23 @@ private slots:
         desk.show();
         QStringList faults;
         QStringList named;
+        const QStringList kinds{u"bill"_s, u"debt"_s, u"goal"_s, u"nontrack"_s, u"wage"_s};
         QFile table(QStringLiteral(KIV_PLACES));
         QVERIFY(table.open(QIODevice::ReadOnly));
         const QStringList lines = QString::fromUtf8(table.readAll()).split(u'\n');
         for (const QString &line : lines) {
             if (line.isEmpty() || line.startsWith(u'#'))
                 continue;
-            named += line.section(u": "_s, 0, 0);
-            if (!isThere(desk, line.section(u": "_s, 1)))
-                faults += line;
+            for (const QString &kind : line.contains(u"KIND"_s) ? kinds : QStringList{{}}) {
+                const QString place = QString(line).replace(u"KIND"_s, kind);
+                named += place.section(u": "_s, 0, 0);
+                if (!isThere(desk, place.section(u": "_s, 1)))
+                    faults += place;
+            }
         }
         QVERIFY(!isThere(desk, u"action nothing"_s) && !isThere(desk, u"page due#nothing"_s));
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+        named.sort();
         QCOMPARE(named, commands(desk.path(u"household.budget"_s)));
     }
 
@@ -58,7 +63,7 @@ private:
         const auto *part = shown->findChild<QWidget *>(where.section(u'#', 1));
         return part && part->isVisible();
     }
-    /// All commands, as the manual lists them.
+    /// All commands that the manual has, sorted.
     static QStringList commands(const QString &file)
     {
         static const QRegularExpression heading(u"^\\.SS kiv (.*)$"_s,
@@ -68,6 +73,7 @@ private:
         QStringList names;
         for (const auto &match : heading.globalMatch(manual))
             names += match.captured(1);
+        names.sort();
         return names;
     }
 };
