@@ -5560,22 +5560,6 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <translation>Am &amp;Tag:</translation>
     </message>
     <message>
-        <source>money is spent on it</source>
-        <translation>dafür wird Geld ausgegeben</translation>
-    </message>
-    <message>
-        <source>money comes from it</source>
-        <translation>von dort kommt Geld</translation>
-    </message>
-    <message>
-        <source>you own it</source>
-        <translation>es gehört dem Haushalt</translation>
-    </message>
-    <message>
-        <source>you owe it</source>
-        <translation>es wird geschuldet</translation>
-    </message>
-    <message>
         <source>New account</source>
         <translation>Neues Konto</translation>
     </message>
@@ -5598,6 +5582,22 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message>
         <source>changing the account “%1”</source>
         <translation>das Konto „%1“ ändern</translation>
+    </message>
+    <message>
+        <source>spending</source>
+        <translation>Ausgaben</translation>
+    </message>
+    <message>
+        <source>earning</source>
+        <translation>Einnahmen</translation>
+    </message>
+    <message>
+        <source>owned</source>
+        <translation>Besitz</translation>
+    </message>
+    <message>
+        <source>owed</source>
+        <translation>Schuld</translation>
     </message>
 </context>
 <context>

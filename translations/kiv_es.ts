@@ -5560,22 +5560,6 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <translation>El &amp;día:</translation>
     </message>
     <message>
-        <source>money is spent on it</source>
-        <translation>en ella se gasta dinero</translation>
-    </message>
-    <message>
-        <source>money comes from it</source>
-        <translation>de ella viene dinero</translation>
-    </message>
-    <message>
-        <source>you own it</source>
-        <translation>es del hogar</translation>
-    </message>
-    <message>
-        <source>you owe it</source>
-        <translation>se debe</translation>
-    </message>
-    <message>
         <source>New account</source>
         <translation>Nueva cuenta</translation>
     </message>
@@ -5598,6 +5582,22 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message>
         <source>changing the account “%1”</source>
         <translation>cambiar la cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>spending</source>
+        <translation>gastos</translation>
+    </message>
+    <message>
+        <source>earning</source>
+        <translation>ingresos</translation>
+    </message>
+    <message>
+        <source>owned</source>
+        <translation>bienes</translation>
+    </message>
+    <message>
+        <source>owed</source>
+        <translation>deuda</translation>
     </message>
 </context>
 <context>

@@ -245,7 +245,7 @@ private slots:
         const auto before = home.document().present();
         press(home, Qt::Key_N, Qt::AltModifier);
         fill(home, {{Qt::Key_N, u"Purse"_s},
-                    {Qt::Key_K, u"you own it"_s},
+                    {Qt::Key_K, u"owned"_s},
                     {Qt::Key_L, u"40"_s},
                     {Qt::Key_Y, u"2026-01-05"_s}});
         press(home, Qt::Key_Return);

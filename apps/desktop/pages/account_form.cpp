@@ -43,8 +43,6 @@ void AccountForm::addFields()
     m_form.add(QStringLiteral("parent"), tr("&Part of (may be empty):"), m_parent);
     m_form.add(QStringLiteral("opening"), tr("Ba&lance at first:"), m_opening);
     m_form.add(QStringLiteral("day"), tr("On the da&y:"), m_day);
-    m_kind->setMinimumContentsLength(12); // a long text makes the form no wider
-    m_kind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
 void AccountForm::offerKinds()
@@ -52,10 +50,10 @@ void AccountForm::offerKinds()
     const auto add = [this](const QString &text, AccountTypes type) {
         m_kind->addItem(text, static_cast<int>(type));
     };
-    add(tr("money is spent on it"), AccountTypes::Expense);
-    add(tr("money comes from it"), AccountTypes::Income);
-    add(tr("you own it"), AccountTypes::Asset);
-    add(tr("you owe it"), AccountTypes::Liability);
+    add(tr("spending"), AccountTypes::Expense);
+    add(tr("earning"), AccountTypes::Income);
+    add(tr("owned"), AccountTypes::Asset);
+    add(tr("owed"), AccountTypes::Liability);
     if (m_desk.showsTerms())
         add(accounting::presentationText(AccountTypes::Equity), AccountTypes::Equity);
 }

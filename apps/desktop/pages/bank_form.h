@@ -33,9 +33,6 @@ public:
     };
     /// Asks for it. The target is the row that is chosen, if there is one.
     void begin(Task task, const std::optional<BankTarget> &target);
-    [[nodiscard]] Task task() const noexcept { return m_task; }
-    /// What is being changed.
-    [[nodiscard]] const std::optional<BankTarget> &target() const noexcept { return m_target; }
     /// Brings the fields in line with what can be changed.
     void follow();
     /// Where what is typed first stands.

@@ -77,8 +77,7 @@ void BanksPage::refresh()
         bankRows(desk().document()),
         tr("There are no banks yet. A bank keeps your accounts, as its statements show them."));
     // What was being changed may be gone.
-    const bool isGone = m_fields->target() && model().place(chosen()) < 0;
-    if (openForm() && isGone)
+    if (openForm() && !m_formRow.isEmpty() && model().place(m_formRow) < 0)
         closeForm();
 }
 
@@ -102,13 +101,14 @@ void BanksPage::followForm()
 void BanksPage::begin(Task task)
 {
     const bool isNew = task == Task::AddBank;
+    m_formRow = isNew ? QString() : chosen();
     m_fields->begin(task, isNew ? std::nullopt : target());
     open(*m_form, m_fields->firstField());
 }
 
 void BanksPage::change()
 {
-    if (const auto row = target())
+    if (const auto row = target(); row && m_change->isEnabled())
         begin(row->account ? Task::ChangeAccount : Task::RenameBank);
 }
 

@@ -48,6 +48,7 @@ private:
     QPushButton *m_remove;
     Form *m_form;
     BankForm *m_fields;
+    QString m_formRow; ///< the key of the row that the open form is about; may be empty
 };
 
 } // namespace kiv::desktop

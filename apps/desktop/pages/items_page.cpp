@@ -136,7 +136,7 @@ void ItemsPage::beginNew()
 
 void ItemsPage::change()
 {
-    if (chosen().isEmpty())
+    if (!m_change->isEnabled())
         return;
     m_item->beginChange(chosenItem());
     open(*m_form, m_item->firstField());

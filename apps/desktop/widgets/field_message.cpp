@@ -4,6 +4,7 @@
 #include "widgets/colours.h"
 
 #include <QtGui/QAccessible>
+#include <QtWidgets/QAbstractItemView>
 
 namespace kiv::desktop {
 
@@ -19,9 +20,11 @@ void FieldMessage::complain(QWidget *field, const QString &sentence)
     withdraw();
     m_field = field;
     m_sentence = sentence;
-    QPalette marked = field->palette();
-    marked.setColor(QPalette::Text, colour(Colour::Wrong, marked));
-    field->setPalette(marked);
+    if (!qobject_cast<QAbstractItemView *>(field)) { // all of its rows would look wrong
+        QPalette marked = field->palette();
+        marked.setColor(QPalette::Text, colour(Colour::Wrong, marked));
+        field->setPalette(marked);
+    }
     field->setAccessibleDescription(sentence);
     field->setFocus(Qt::OtherFocusReason);
     QPalette own = palette();
