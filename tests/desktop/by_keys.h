@@ -47,6 +47,7 @@ protected:
                 for (int left = box->count(); left > 0 && !box->currentText().startsWith(text);
                      --left)
                     press(Qt::Key_Down);
+                QVERIFY2(box->currentText().startsWith(text), qPrintable(text));
                 continue;
             }
             press(Qt::Key_A, Qt::ControlModifier);

@@ -89,7 +89,7 @@ private slots:
         done(u"spending $52.30 on Groceries, Rent or mortgage payment"_s);
         open(u"accounts"_s);
         letter(Qt::Key_N);
-        fill({{Qt::Key_N, u"Euros"_s}, {Qt::Key_K, u"you own it"_s}, {Qt::Key_L, u"10 EUR"_s}});
+        fill({{Qt::Key_N, u"Euros"_s}, {Qt::Key_K, u"owned"_s}, {Qt::Key_L, u"10 EUR"_s}});
         done(u"adding the account “Euros”"_s);
         press(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
         entry(u"200"_s, u"Checking"_s, u"Euros"_s);
