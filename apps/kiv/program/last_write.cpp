@@ -39,7 +39,9 @@ void LastWrite::wait()
     do {
         if (::sigwait(&m_signals, &signal) != 0 || m_isEnding)
             return;
-    } while (signal == SIGUSR2);
+        // The thread that reads a line holds signals back for a moment, and then an interrupt
+        // that is its own comes here.
+    } while (signal == SIGUSR2 || (signal == SIGINT && LineReader::giveUpLine()));
     m_document.writePending();
     LineReader::leaveTerminal();
     struct sigaction usual = {};

@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -28,6 +29,10 @@ constexpr int historyMax = 1000;
 
 volatile std::sig_atomic_t isInterrupted = 0;
 
+/// The thread that reads a line, while it does.
+std::atomic<bool> isTyped = false;
+pthread_t typist;
+
 void noteInterrupt(int)
 {
     isInterrupted = 1;
@@ -47,9 +52,12 @@ public:
         ::sigemptyset(&interrupt);
         ::sigaddset(&interrupt, SIGINT);
         ::pthread_sigmask(SIG_UNBLOCK, &interrupt, &m_blockedBefore);
+        typist = ::pthread_self();
+        isTyped = true;
     }
     ~InterruptsGiveUpLine()
     {
+        isTyped = false;
         ::pthread_sigmask(SIG_SETMASK, &m_blockedBefore, nullptr);
         ::sigaction(SIGINT, &m_before, nullptr);
     }
@@ -166,6 +174,11 @@ void LineReader::leaveTerminal()
 {
     if (::isatty(STDIN_FILENO) != 0 && rl_deprep_term_function)
         rl_deprep_term_function();
+}
+
+bool LineReader::giveUpLine()
+{
+    return isTyped && ::pthread_kill(typist, SIGINT) == 0;
 }
 
 std::optional<std::string> LineReader::next()

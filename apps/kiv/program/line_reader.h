@@ -28,6 +28,9 @@ public:
     /// Makes the terminal as it was before a line was typed. Any thread may call it before
     /// the program ends.
     static void leaveTerminal();
+    /// Drops the line that is typed, as Ctrl-C does. Any thread may call it. Returns false
+    /// when none is typed.
+    static bool giveUpLine();
 
 private:
     bool m_isInteractive;
