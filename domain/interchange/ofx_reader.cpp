@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/ofx_reader.h"
 
+#include "interchange/internal/declared_encoding.h"
 #include "interchange/internal/description_count.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
@@ -13,54 +14,37 @@
 #include "foundation/presentation.h"
 
 #include <QtCore/QObject>
-#include <QtCore/QRegularExpression>
 
 namespace kiv::interchange {
 
 namespace {
 
-using internal::OfxElement;
+using internal::Element;
 
-/// The encoding that the header names. OFX 1 has CHARSET:1252 and
-/// ENCODING:UTF-8, OFX 2 an XML declaration.
+/// OFX 1 has CHARSET:1252 and ENCODING:UTF-8 in its header, OFX 2 an XML declaration.
 QString encodingOf(const QByteArray &bytes)
 {
-    const QByteArray start = bytes.left(2000);
-    const QString header =
-        QString::fromLatin1(start.left(std::max<qsizetype>(start.indexOf("<OFX>"), 0)));
-    static const QRegularExpression unicode(QStringLiteral("ENCODING:\\s*(?:UTF-8|UNICODE)"));
-    static const QRegularExpression pattern(
-        QStringLiteral("encoding=[\"']([A-Za-z0-9_.:-]+)|CHARSET:\\s*(?!NONE)([A-Za-z0-9-]+)"));
-    const auto match = pattern.match(header);
-    if (unicode.match(header).hasMatch() || !match.hasMatch())
-        return utf8Name;
-    const QString name = match.captured(1) + match.captured(2);
-    // Headers are often wrong copies. Text that is valid UTF-8 beyond ASCII makes no sense
-    // in an encoding with one byte per letter.
-    static const QRegularExpression oneByte(QStringLiteral("^(1252|windows-125.|iso-8859-.+)$"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    if (oneByte.match(name).hasMatch() && QUtf8StringView(bytes).isValidUtf8())
-        return utf8Name;
-    return name == u"1252" ? QStringLiteral("windows-1252") : name;
+    const qsizetype end = bytes.left(2000).indexOf("<OFX>");
+    return internal::declaredEncoding(bytes, std::max<qsizetype>(end, 0));
 }
 
-bool isStatement(const OfxElement &element)
+bool isStatement(const Element &element)
 {
     return element.tag == u"STMTRS" || element.tag == u"CCSTMTRS" || element.tag == u"INVSTMTRS";
 }
 
-void findStatements(const OfxElement &element, std::vector<const OfxElement *> &statements)
+void findStatements(const Element &element, std::vector<const Element *> &statements)
 {
     if (isStatement(element))
         statements.push_back(&element);
-    for (const OfxElement &child : element.children)
+    for (const Element &child : element.children)
         findStatements(child, statements);
 }
 
 /// Refuses entries outside the lists of statements: they would be lost.
-void requireEntriesInLists(const OfxElement &element, bool isWithin = false, bool isList = false)
+void requireEntriesInLists(const Element &element, bool isWithin = false, bool isList = false)
 {
-    for (const OfxElement &child : element.children) {
+    for (const Element &child : element.children) {
         const bool isStray = child.tag == u"STMTTRN" ? !isList
                                                      : isWithin && child.tag == u"TRNAMT" &&
                                                            !element.tag.startsWith(u"STMTTRN");
@@ -72,27 +56,27 @@ void requireEntriesInLists(const OfxElement &element, bool isWithin = false, boo
     }
 }
 
-const OfxElement *accountElement(const OfxElement &statement)
+const Element *accountElement(const Element &statement)
 {
     for (const char *tag : {"BANKACCTFROM", "CCACCTFROM", "INVACCTFROM"}) {
-        if (const OfxElement *found = statement.child(tag))
+        if (const Element *found = statement.child(tag))
             return found;
     }
     return nullptr;
 }
 
-QString accountOf(const OfxElement &statement)
+QString accountOf(const Element &statement)
 {
-    const OfxElement *from = accountElement(statement);
+    const Element *from = accountElement(statement);
     return from ? from->text("ACCTID") : QString();
 }
 
 /// Accounts of several kinds, or at several banks, may have the same number.
-bool isSameAccount(const OfxElement &one, const OfxElement &other)
+bool isSameAccount(const Element &one, const Element &other)
 {
-    const auto identity = [](const OfxElement &statement) {
+    const auto identity = [](const Element &statement) {
         QStringList parts{statement.tag, statement.text("CURDEF")};
-        if (const OfxElement *from = accountElement(statement)) {
+        if (const Element *from = accountElement(statement)) {
             for (const char *tag : {"BANKID", "BRANCHID", "ACCTID", "ACCTTYPE"})
                 parts += from->text(tag);
         }
@@ -102,15 +86,15 @@ bool isSameAccount(const OfxElement &one, const OfxElement &other)
 }
 
 /// All statements of the account that is named, or of the only one.
-std::vector<const OfxElement *> chosenStatements(const OfxElement &document, const QString &account,
-                                                 const QString &file)
+std::vector<const Element *> chosenStatements(const Element &document, const QString &account,
+                                              const QString &file)
 {
-    std::vector<const OfxElement *> statements;
+    std::vector<const Element *> statements;
     findStatements(document, statements);
     if (statements.empty())
         throw faults::noStatement({file, 0});
     QStringList accounts;
-    for (const OfxElement *statement : statements) {
+    for (const Element *statement : statements) {
         accounts += accountOf(*statement);
         if (!account.isEmpty() && accounts.back().isEmpty()) // it may be the same account
             throw faults::severalAccounts(statement->place);
@@ -120,10 +104,10 @@ std::vector<const OfxElement *> chosenStatements(const OfxElement &document, con
         throw faults::severalStatements(statements[1]->place, accounts);
     if (!account.isEmpty() && !accounts.contains(account))
         throw faults::noSuchStatement({file, 0}, account, accounts);
-    std::erase_if(statements, [&account](const OfxElement *statement) {
+    std::erase_if(statements, [&account](const Element *statement) {
         return !account.isEmpty() && accountOf(*statement) != account;
     });
-    for (const OfxElement *statement : statements) {
+    for (const Element *statement : statements) {
         if (statement->tag == u"INVSTMTRS")
             throw faults::unsupported(statement->place, statement->tag);
         if (!isSameAccount(*statements.front(), *statement))
@@ -140,7 +124,7 @@ numira::Currency currencyOf(const QString &code, const Place &place)
     return *currency;
 }
 
-QDate dayOf(const OfxElement &transaction)
+QDate dayOf(const Element &transaction)
 {
     // YYYYMMDD with a time and a zone behind it.
     static const DateFormat format(QStringLiteral("YYYYMMDD"), {});
@@ -154,10 +138,10 @@ QDate dayOf(const OfxElement &transaction)
 }
 
 /// The payee's name, memo and check number.
-QString textOf(const OfxElement &transaction)
+QString textOf(const Element &transaction)
 {
     QStringList texts{transaction.text("NAME")};
-    if (const OfxElement *payee = transaction.child("PAYEE"))
+    if (const Element *payee = transaction.child("PAYEE"))
         texts += payee->text("NAME");
     texts += transaction.text("MEMO");
     if (const QString check = transaction.text("CHECKNUM"); !check.isEmpty())
@@ -167,15 +151,15 @@ QString textOf(const OfxElement &transaction)
     return texts.join(u' ');
 }
 
-StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &currency)
+StatementEntry entryOf(const Element &transaction, const numira::Currency &currency)
 {
-    if (const OfxElement *correction = transaction.child("CORRECTACTION"))
+    if (const Element *correction = transaction.child("CORRECTACTION"))
         throw faults::unsupported(correction->place, QStringLiteral("CORRECTACTION"));
     StatementEntry entry{transaction.place, dayOf(transaction)};
-    const OfxElement *amount = transaction.child("TRNAMT");
+    const Element *amount = transaction.child("TRNAMT");
     if (!amount || amount->value.isEmpty())
         throw faults::missingValue(transaction.place, QStringLiteral("TRNAMT"));
-    if (const OfxElement *other = transaction.child("CURRENCY")) {
+    if (const Element *other = transaction.child("CURRENCY")) {
         const numira::Currency found = currencyOf(other->text("CURSYM"), other->place);
         if (found != currency)
             throw faults::otherCurrency(other->place, foundation::toQString(found),
@@ -200,16 +184,16 @@ StatementEntry entryOf(const OfxElement &transaction, const numira::Currency &cu
 Statement readOfx(const QByteArray &bytes, const QString &file, const OfxOptions &options)
 {
     const QString encoding = options.encoding ? *options.encoding : encodingOf(bytes);
-    const OfxElement document = internal::readOfxTree(decoded(bytes, file, encoding), file);
+    const Element document = internal::readOfxTree(decoded(bytes, file, encoding), file);
     requireEntriesInLists(document);
-    const std::vector<const OfxElement *> statements =
+    const std::vector<const Element *> statements =
         chosenStatements(document, options.account, file);
-    const OfxElement &first = *statements.front();
+    const Element &first = *statements.front();
     internal::DescriptionCount descriptions;
     Statement statement{accountOf(first), currencyOf(first.text("CURDEF"), first.place), {}};
-    for (const OfxElement *found : statements) {
-        for (const OfxElement &list : found->children) {
-            for (const OfxElement &transaction : list.children) {
+    for (const Element *found : statements) {
+        for (const Element &list : found->children) {
+            for (const Element &transaction : list.children) {
                 statement.pending += transaction.tag == u"STMTTRNP" ? 1 : 0;
                 if (transaction.tag != u"STMTTRN")
                     continue;

@@ -13,6 +13,13 @@
 
 namespace kiv::interchange {
 
+/// What a bank's file may leave open.
+struct BankFileOptions {
+    /// Any name that ICU knows; found in the file otherwise.
+    std::optional<QString> encoding = std::nullopt;
+    numira::Currency currency = {}; ///< of the account, where the file does not tell it
+};
+
 /// One entry of a bank statement.
 struct StatementEntry {
     Place place;               ///< where it begins

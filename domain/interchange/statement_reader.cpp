@@ -1,45 +1,95 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/statement_reader.h"
 
+#include "interchange/camt_reader.h"
 #include "interchange/csv_reader.h"
 #include "interchange/internal/statement_faults.h"
+#include "interchange/mt940_reader.h"
 #include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
+#include "interchange/text_decoding.h"
 
 #include <QtCore/QFileInfo>
 
+#include <cstring>
+#include <map>
+
 namespace kiv::interchange {
+
+namespace {
+
+using enum StatementFormat;
+
+/// The form that the first bytes prove. Tables and most comments prove none.
+std::optional<StatementFormat> provenFormat(const QByteArray &bytes)
+{
+    QByteArray head = bytes.left(4096);
+    head.replace('\0', ""); // of UTF-16
+    for (const char *mark : {"\xef\xbb\xbf", "\xff\xfe", "\xfe\xff"}) {
+        if (head.startsWith(mark))
+            head = head.mid(static_cast<qsizetype>(std::strlen(mark)));
+    }
+    head = head.trimmed();
+    if (head.contains("<OFX>"))
+        return Ofx;
+    if (head.startsWith('<') && (head.contains("BkToCstmr") || head.contains(":camt.05")))
+        return Camt;
+    for (const char *header : {"!Type:", "!Account", "!Option:", "!Clear:"}) {
+        if (head.startsWith(header))
+            return Qif;
+    }
+    head.prepend('\n');
+    const qsizetype begin = head.indexOf("\n:20:");
+    if (head.startsWith("\n{1:F") || (begin >= 0 && head.indexOf("\n:25:", begin) > 0))
+        return Mt940;
+    return std::nullopt;
+}
+
+std::optional<StatementFormat> formatOfExtension(const QString &extension)
+{
+    static const std::map<QString, StatementFormat> formats{
+        {QStringLiteral("csv"), Csv},   {QStringLiteral("tsv"), Csv},
+        {QStringLiteral("ofx"), Ofx},   {QStringLiteral("qfx"), Ofx},
+        {QStringLiteral("qif"), Qif},   {QStringLiteral("sta"), Mt940},
+        {QStringLiteral("940"), Mt940}, {QStringLiteral("mt940"), Mt940},
+        {QStringLiteral("942"), Mt940}, {QStringLiteral("mt942"), Mt940},
+        {QStringLiteral("swi"), Mt940}, {QStringLiteral("camt"), Camt},
+        {QStringLiteral("xml"), Camt},  {QStringLiteral("052"), Camt},
+        {QStringLiteral("053"), Camt},  {QStringLiteral("054"), Camt},
+        {QStringLiteral("c52"), Camt},  {QStringLiteral("c53"), Camt}};
+    const auto found = formats.find(extension);
+    return found == formats.end() ? std::nullopt : std::optional(found->second);
+}
+
+} // namespace
 
 std::optional<StatementFormat> guessStatementFormat(const QString &file, const QByteArray &bytes)
 {
-    using enum StatementFormat;
-    const QString extension = QFileInfo(file).suffix().toLower();
-    for (const auto &[name, format] :
-         {std::pair("csv", Csv), {"tsv", Csv}, {"ofx", Ofx}, {"qfx", Ofx}, {"qif", Qif}}) {
-        if (extension == QLatin1String(name))
-            return format;
-    }
-    const QByteArray head = bytes.left(4096);
-    if (head.contains("<OFX>"))
-        return Ofx;
-    if (head.trimmed().startsWith("!Type:") || head.trimmed().startsWith("!Account"))
-        return Qif;
-    return std::nullopt;
+    const auto proven = provenFormat(bytes);
+    return proven ? proven : formatOfExtension(QFileInfo(file).suffix().toLower());
 }
 
 std::vector<Statement> readStatements(StatementFormat format, const QByteArray &bytes,
                                       const QString &file, const StatementOptions &options)
 {
     const CsvProfile &profile = options.profile;
+    // "UTF-8" is also what a profile has that names none.
+    const bool isNamed = !profile.encoding.isEmpty() && profile.encoding != utf8Name;
+    const BankFileOptions bank{isNamed ? std::optional(profile.encoding) : std::nullopt,
+                               options.currency};
     switch (format) {
     case StatementFormat::Csv:
         return {readCsv(bytes, file, {profile, options.currency})};
     case StatementFormat::Ofx:
-        return {readOfx(bytes, file, {})};
+        return {readOfx(bytes, file, {bank.encoding, {}})};
     case StatementFormat::Qif:
         return {
             readQif(bytes, file,
                     {profile.encoding, profile.decimalMark, profile.dateFormat, options.currency})};
+    case StatementFormat::Mt940:
+        return readMt940(bytes, file, bank);
+    case StatementFormat::Camt:
+        return readCamt(bytes, file, bank);
     }
     return {};
 }

@@ -11,6 +11,8 @@ enum class StatementFormat : std::uint8_t {
     Csv = 1, ///< a table
     Ofx,     ///< also as QFX
     Qif,
+    Mt940, ///< of SWIFT, also as STA
+    Camt,  ///< of ISO 20022, in XML
 };
 
 /// What a file leaves open. What is not given is found in the file.
@@ -21,7 +23,7 @@ struct StatementOptions {
     numira::Currency currency = {}; ///< of the account, where the file does not tell it
 };
 
-/// The form of a statement that the file's extension shows, or else its first bytes; nothing
+/// The form of a statement that the file's first bytes show, or else its extension; nothing
 /// when neither does.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::optional<StatementFormat>
 guessStatementFormat(const QString &file, const QByteArray &bytes);

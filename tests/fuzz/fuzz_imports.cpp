@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 //
-// Bytes as what other programs write; the first one says what: a journal, an OFX
-// or QIF file, a saved profile, or a CSV table, which stands behind a profile on
+// Bytes as what other programs write; the first one says what: a journal, an OFX,
+// QIF, MT940 or CAMT file, a saved profile, or a CSV table, which stands behind a profile on
 // a line. What is read is refused, or can be used: a journal goes into a ledger,
 // and is the same when it is written and read again.
+#include "interchange/camt_reader.h"
 #include "interchange/csv_reader.h"
 #include "interchange/csv_table.h"
 #include "interchange/journal_reader.h"
 #include "interchange/ledger_writer.h"
+#include "interchange/mt940_reader.h"
 #include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
 
@@ -88,6 +90,12 @@ void require(const Statement &statement)
         require(entry.date.isValid() && entry.place.line > 0, "each entry has a day and a line");
 }
 
+void require(const std::vector<Statement> &statements)
+{
+    for (const Statement &statement : statements)
+        require(statement);
+}
+
 void read(char kind, const QByteArray &bytes)
 {
     QifOptions options;
@@ -100,6 +108,10 @@ void read(char kind, const QByteArray &bytes)
         return require(readOfx(bytes, name, {}));
     case 'q':
         return require(readQif(bytes, name, options));
+    case 'm':
+        return require(readMt940(bytes, name, {}));
+    case 'x':
+        return require(readCamt(bytes, name, {}));
     case 'p':
         return readAsProfile(bytes);
     default:
@@ -113,7 +125,7 @@ void read(char kind, const QByteArray &bytes)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    if (size == 0 || !std::strchr("joqpc", data[0]) || data[0] == 0)
+    if (size == 0 || !std::strchr("joqmxpc", data[0]) || data[0] == 0)
         return -1;
     try {
         read(char(data[0]),

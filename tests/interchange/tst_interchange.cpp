@@ -4,12 +4,14 @@
 #include "cases.h"
 
 #include "interchange/account_paths.h"
+#include "interchange/camt_reader.h"
 #include "interchange/csv_reader.h"
 #include "interchange/csv_table.h"
 #include "interchange/duplicates.h"
 #include "interchange/html_report.h"
 #include "interchange/journal_reader.h"
 #include "interchange/ledger_writer.h"
+#include "interchange/mt940_reader.h"
 #include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
 
@@ -147,8 +149,12 @@ QString linesOf(Statement statement)
     const auto part = [](const char *before, const QString &text) {
         return text.isEmpty() ? QString() : QLatin1String(before) + text;
     };
+    const auto balance = [](const auto &money) { return money ? toQString(*money) : QString(); };
     const QString head = toQString(statement.currency) + part(" ", statement.account) +
-                         (statement.pending > 0 ? u", without what is pending"_s : QString());
+                         (statement.pending > 0 ? u", without what is pending"_s : QString()) +
+                         part(", from ", balance(statement.opening)) +
+                         part(", to ", balance(statement.closing)) +
+                         part(" on ", statement.closingOn.toString(Qt::ISODate));
     QStringList lines;
     if (head != u"EUR" || statement.entries.empty())
         lines += head;
@@ -157,9 +163,13 @@ QString linesOf(Statement statement)
                  u' ' +
                  (entry.amount.code() == statement.currency ? toQString(entry.amount)
                                                             : withCode(entry.amount)) +
-                 part(" ", escaped(entry.text)) + part(" #", entry.bankId) +
+                 (entry.valueDate == entry.date
+                      ? QString()
+                      : part(" from ", entry.valueDate.toString(Qt::ISODate))) +
+                 part(" ", escaped(entry.text)) + part(" @", escaped(entry.payee)) +
+                 part(" #", entry.bankId) +
                  part(" >", entry.isTransfer ? u'[' + entry.category + u']' : entry.category);
-    return lines.join(u'\n');
+    return (lines + statement.notices).join(u'\n');
 }
 
 /// How many entries the text has by its looks alone: by tags, by lines with a day, or by
@@ -174,7 +184,11 @@ qsizetype entriesIn(const QString &form, QString text)
     static const QRegularExpression share(u"\n[ \\t]*S"_s);
     if (form == u"ofx")
         return text.count(QRegularExpression(u"(?i)<STMTTRNP?>"_s));
+    if (form == u"camt")
+        return text.count(QRegularExpression(u"<(\\w+:)?Ntry>"_s));
     text.replace(u'\r', u'\n');
+    if (form == u"mt940")
+        return text.count(QRegularExpression(u"(?m)^:61:[0-9 ]"_s));
     if (form.startsWith(u"csv"))
         return text.contains(u'\n') ? text.count(lineWithDay) : 0;
     qsizetype entries = 0;
@@ -184,19 +198,23 @@ qsizetype entriesIn(const QString &form, QString text)
 }
 
 /// What a file like the case's comes to.
-Statement statementOf(const Case &given, const QByteArray &bytes)
+std::vector<Statement> statementsOf(const Case &given, const QByteArray &bytes)
 {
     if (given.file == u"ofx")
-        return readOfx(bytes, u"f"_s, {encodingOf(given), given.options.value(u"statement"_s)});
+        return {readOfx(bytes, u"f"_s, {encodingOf(given), given.options.value(u"statement"_s)})};
+    if (given.file == u"mt940")
+        return readMt940(bytes, u"f"_s, {encodingOf(given), {}});
+    if (given.file == u"camt")
+        return readCamt(bytes, u"f"_s, {encodingOf(given), {}});
     const numira::Currency own = currency(given.options.value(u"currency"_s, u"EUR"_s));
     if (given.file.startsWith(u"csv"))
-        return readCsv(
+        return {readCsv(
             bytes, u"f"_s,
-            {readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s), own});
+            {readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s), own})};
     QifOptions options{encodingOf(given), given.mark(), {}, own};
     if (const QString format = given.options.value(u"date-format"_s); !format.isEmpty())
         options.dateFormat = DateFormat(format, {});
-    return readQif(bytes, u"f"_s, options);
+    return {readQif(bytes, u"f"_s, options)};
 }
 
 /// Each entry of the text is read or told to be left out; what is pending may have no day.
@@ -204,10 +222,14 @@ void requireWhole(const Case &given, const QByteArray &bytes)
 {
     if (given.file == u"profile")
         return void(readProfile(bytes, u"p"_s));
-    const Statement statement = statementOf(given, bytes);
-    const qsizetype read = std::ssize(statement.entries);
+    qsizetype read = 0;
+    qsizetype pending = 0;
+    for (const Statement &statement : statementsOf(given, bytes)) {
+        read += std::ssize(statement.entries);
+        pending += statement.pending;
+    }
     const qsizetype shown = entriesIn(given.file, QString::fromLatin1(bytes));
-    if ((read > shown && shown > 0) || read + statement.pending < shown)
+    if ((read > shown && shown > 0) || read + pending < shown)
         throw std::runtime_error(std::to_string(read) + " of " + std::to_string(shown) +
                                  " entries were read of:\n" + bytes.toStdString());
 }
@@ -285,8 +307,12 @@ QString foundOf(const Case &given)
     if (given.file == u"profile") // also what was saved is read
         return QString::fromUtf8(
             toJson(readProfile(toJson(readProfile(given.text, u"p"_s)), u"s"_s)).simplified());
-    if (given.folder == u"statements")
-        return linesOf(statementOf(given, given.text));
+    if (given.folder == u"statements") {
+        QStringList statements;
+        for (Statement &statement : statementsOf(given, given.text))
+            statements += linesOf(std::move(statement));
+        return statements.join(u'\n');
+    }
     if (given.file == u"plans") {
         GeneralLedger ledger;
         take(given.text, ledger);

@@ -78,7 +78,7 @@ class TreeReader {
 public:
     TreeReader(const QString &text, const QString &file) : m_text(text), m_place{file, 1} {}
 
-    OfxElement read()
+    Element read()
     {
         advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
         if (m_at < 0)
@@ -193,7 +193,7 @@ private:
         const qsizetype end = next < 0 ? m_text.size() : next;
         const QStringView value = QStringView(m_text).sliced(m_at, end - m_at).trimmed();
         if (!value.isEmpty() && !m_open.empty()) {
-            OfxElement &element = m_open.back();
+            Element &element = m_open.back();
             if (element.holdsElements)
                 throw faults::brokenTag(m_place);
             requireRoom(value.size());
@@ -235,19 +235,19 @@ private:
 
     void finish()
     {
-        OfxElement element = std::move(m_open.back());
+        Element element = std::move(m_open.back());
         m_open.pop_back();
         if (m_open.empty()) {
             m_root = std::move(element);
             return;
         }
-        OfxElement &parent = m_open.back();
+        Element &parent = m_open.back();
         parent.holdsElements = true;
         const bool isValue = !element.holdsElements && !element.value.isEmpty();
         if (isValue && !isRead(element.tag))
             return;
-        if (isValue && std::ranges::find(parent.children, element.tag, &OfxElement::tag) !=
-                           parent.children.end())
+        if (isValue &&
+            std::ranges::find(parent.children, element.tag, &Element::tag) != parent.children.end())
             throw faults::repeatedTag(element.place, element.tag);
         parent.children.push_back(std::move(element));
     }
@@ -257,25 +257,13 @@ private:
     qsizetype m_at = 0;
     qsizetype m_count = 0;
     bool m_isXml = false;
-    std::vector<OfxElement> m_open;
-    std::optional<OfxElement> m_root;
+    std::vector<Element> m_open;
+    std::optional<Element> m_root;
 };
 
 } // namespace
 
-const OfxElement *OfxElement::child(const char *name) const
-{
-    const auto found = std::ranges::find(children, QLatin1String(name), &OfxElement::tag);
-    return found == children.end() ? nullptr : &*found;
-}
-
-QString OfxElement::text(const char *name) const
-{
-    const OfxElement *found = child(name);
-    return found ? found->value : QString();
-}
-
-OfxElement readOfxTree(const QString &text, const QString &file)
+Element readOfxTree(const QString &text, const QString &file)
 {
     return TreeReader(text, file).read();
 }

@@ -313,4 +313,40 @@ ImportError splitsDiffer(const Place &place, const QString &splits, const QStrin
     return {place, QObject::tr("The parts add up to %1, but the whole is %2.").arg(splits, whole)};
 }
 
+// ---- CAMT and MT940 ----------------------------------------------------------
+
+ImportError notCamt(const Place &place)
+{
+    return {place, QObject::tr("The file contains no CAMT message about an account.")};
+}
+
+ImportError documentType(const Place &place)
+{
+    return {place, QObject::tr("The file has a document type (<!DOCTYPE>), which may refer to "
+                               "other files; banks write none.")};
+}
+
+ImportError brokenXml(const Place &place, const QString &reason)
+{
+    return {place, QObject::tr("The XML is broken here: %1").arg(quoted(reason))};
+}
+
+ImportError notMt940(const Place &place)
+{
+    return {place, QObject::tr("The file contains no MT940 statement; one begins with :20:.")};
+}
+
+ImportError brokenField(const Place &place, const QString &text, const QString &form)
+{
+    return {place,
+            QObject::tr("'%1' cannot be read; it should be like %2.").arg(quoted(text), form)};
+}
+
+ImportError statementCutOff(const Place &place, qsizetype openedAt)
+{
+    return {place, QObject::tr("The statement that begins on line %1 has no closing balance; it "
+                               "may be cut off. Download the file again.")
+                       .arg(openedAt)};
+}
+
 } // namespace kiv::interchange::faults

@@ -80,4 +80,16 @@ namespace kiv::interchange::faults {
 [[nodiscard]] ImportError splitsDiffer(const Place &place, const QString &splits,
                                        const QString &whole);
 
+// ---- CAMT and MT940 ----------------------------------------------------------
+
+[[nodiscard]] ImportError notCamt(const Place &place);
+/// A document type can name entities, and so other files.
+[[nodiscard]] ImportError documentType(const Place &place);
+[[nodiscard]] ImportError brokenXml(const Place &place, const QString &reason);
+[[nodiscard]] ImportError notMt940(const Place &place);
+/// `form` is how the field is written.
+[[nodiscard]] ImportError brokenField(const Place &place, const QString &text, const QString &form);
+/// The statement begins on line `openedAt` and has no closing balance.
+[[nodiscard]] ImportError statementCutOff(const Place &place, qsizetype openedAt);
+
 } // namespace kiv::interchange::faults
