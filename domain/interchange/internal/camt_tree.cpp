@@ -104,7 +104,8 @@ std::optional<Element> CamtTree::nextElement()
 Element CamtTree::takeElement(int depth)
 {
     Element element{m_xml.name().toString(), place()};
-    element.currency = m_xml.attributes().value(QLatin1String("Ccy")).toString();
+    if (element.tag == u"Amt")
+        element.currency = m_xml.attributes().value(QLatin1String("Ccy")).toString();
     if (depth > depthMax)
         throw faults::nestedTooDeeply(element.place);
     if (++m_elements > elementsMax)
