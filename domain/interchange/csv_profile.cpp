@@ -14,10 +14,12 @@ namespace kiv::interchange {
 namespace {
 
 /// The keys of the JSON object, each with the member that it stands for.
-using Member = std::variant<QString CsvProfile::*, QStringList CsvProfile::*, bool CsvProfile::*,
-                            int CsvProfile::*, std::optional<QChar> CsvProfile::*,
-                            std::optional<DecimalMark> CsvProfile::*, DateFormat CsvProfile::*,
-                            std::vector<AccountRule> CsvProfile::*>;
+using Member =
+    std::variant<QString CsvProfile::*, QStringList CsvProfile::*, bool CsvProfile::*,
+                 std::optional<bool> CsvProfile::*, int CsvProfile::*,
+                 std::optional<int> CsvProfile::*, std::optional<QChar> CsvProfile::*,
+                 std::optional<DecimalMark> CsvProfile::*, std::optional<DateFormat> CsvProfile::*,
+                 std::vector<AccountRule> CsvProfile::*>;
 
 const std::map<QString, Member> &members()
 {
@@ -28,16 +30,20 @@ const std::map<QString, Member> &members()
         {QStringLiteral("skipLast"), &CsvProfile::skippedLast},
         {QStringLiteral("headings"), &CsvProfile::hasHeadings},
         {QStringLiteral("date"), &CsvProfile::dateColumn},
+        {QStringLiteral("valueDate"), &CsvProfile::valueDateColumn},
         {QStringLiteral("amount"), &CsvProfile::amountColumn},
         {QStringLiteral("in"), &CsvProfile::inColumn},
         {QStringLiteral("out"), &CsvProfile::outColumn},
         {QStringLiteral("sign"), &CsvProfile::signColumn},
         {QStringLiteral("negative"), &CsvProfile::negativeSigns},
+        {QStringLiteral("fee"), &CsvProfile::feeColumn},
+        {QStringLiteral("payee"), &CsvProfile::payeeColumn},
         {QStringLiteral("text"), &CsvProfile::textColumns},
         {QStringLiteral("id"), &CsvProfile::idColumn},
         {QStringLiteral("currency"), &CsvProfile::currencyColumn},
         {QStringLiteral("status"), &CsvProfile::statusColumn},
         {QStringLiteral("balance"), &CsvProfile::balanceColumn},
+        {QStringLiteral("account"), &CsvProfile::accountColumn},
         {QStringLiteral("dateFormat"), &CsvProfile::dateFormat},
         {QStringLiteral("decimal"), &CsvProfile::decimalMark},
         {QStringLiteral("negate"), &CsvProfile::isNegated},
@@ -61,16 +67,10 @@ public:
         for (const QJsonValue element : m_value.toArray())
             (m_profile.*member) += text(element);
     }
-    void operator()(bool CsvProfile::*member) const
-    {
-        demand(m_value.isBool());
-        m_profile.*member = m_value.toBool();
-    }
-    void operator()(int CsvProfile::*member) const
-    {
-        demand(m_value.toInt(-1) >= 0 && m_value.toInt() <= CsvProfile::skippedMax);
-        m_profile.*member = m_value.toInt();
-    }
+    void operator()(bool CsvProfile::*member) const { m_profile.*member = yes(); }
+    void operator()(std::optional<bool> CsvProfile::*member) const { m_profile.*member = yes(); }
+    void operator()(int CsvProfile::*member) const { m_profile.*member = count(); }
+    void operator()(std::optional<int> CsvProfile::*member) const { m_profile.*member = count(); }
     void operator()(std::optional<QChar> CsvProfile::*member) const
     {
         demand(text(m_value).size() == 1);
@@ -81,7 +81,7 @@ public:
         demand(text(m_value) == u"." || text(m_value) == u",");
         m_profile.*member = static_cast<DecimalMark>(m_value.toString().front().unicode());
     }
-    void operator()(DateFormat CsvProfile::*member) const
+    void operator()(std::optional<DateFormat> CsvProfile::*member) const
     {
         m_profile.*member = DateFormat(text(m_value), m_place);
     }
@@ -102,6 +102,16 @@ private:
         if (!isGood)
             throw faults::wrongProfileValue(m_place, m_key);
     }
+    [[nodiscard]] bool yes() const
+    {
+        demand(m_value.isBool());
+        return m_value.toBool();
+    }
+    [[nodiscard]] int count() const
+    {
+        demand(m_value.toInt(-1) >= 0 && m_value.toInt() <= CsvProfile::skippedMax);
+        return m_value.toInt();
+    }
     [[nodiscard]] QString text(const QJsonValue &value) const
     {
         demand(value.isString());
@@ -114,26 +124,45 @@ private:
     const Place &m_place;
 };
 
-template <typename T>
-QJsonValue jsonOf(const T &value)
+QJsonValue jsonOf(const QStringList &texts)
 {
-    if constexpr (std::is_same_v<T, QStringList>) {
-        return QJsonArray::fromStringList(value);
-    } else if constexpr (std::is_same_v<T, std::optional<QChar>>) {
-        return value ? QJsonValue(QString(*value)) : QJsonValue();
-    } else if constexpr (std::is_same_v<T, std::optional<DecimalMark>>) {
-        return value ? QJsonValue(QString(QChar(static_cast<char16_t>(*value)))) : QJsonValue();
-    } else if constexpr (std::is_same_v<T, DateFormat>) {
-        return value.text();
-    } else if constexpr (std::is_same_v<T, std::vector<AccountRule>>) {
-        QJsonArray rules;
-        for (const AccountRule &rule : value)
-            rules.append(QJsonObject{{QStringLiteral("contains"), rule.contains},
-                                     {QStringLiteral("account"), rule.account}});
-        return rules;
-    } else {
-        return value;
-    }
+    return QJsonArray::fromStringList(texts);
+}
+
+QJsonValue jsonOf(QChar character)
+{
+    return QString(character);
+}
+
+QJsonValue jsonOf(DecimalMark mark)
+{
+    return QString(QChar(static_cast<char16_t>(mark)));
+}
+
+QJsonValue jsonOf(const DateFormat &format)
+{
+    return format.text();
+}
+
+QJsonValue jsonOf(const std::vector<AccountRule> &rules)
+{
+    QJsonArray array;
+    for (const AccountRule &rule : rules)
+        array.append(QJsonObject{{QStringLiteral("contains"), rule.contains},
+                                 {QStringLiteral("account"), rule.account}});
+    return array;
+}
+
+template <typename T>
+requires std::constructible_from<QJsonValue, T> QJsonValue jsonOf(const T &value)
+{
+    return QJsonValue(value);
+}
+
+template <typename T>
+QJsonValue jsonOf(const std::optional<T> &value)
+{
+    return value ? jsonOf(*value) : QJsonValue();
 }
 
 } // namespace

@@ -12,13 +12,16 @@ struct CsvOptions {
     numira::Currency currency = {}; ///< of the account, where the table does not tell it
 };
 
-/// Reads a bank statement in CSV. Columns that the profile does not name are found by
-/// common headings in English, German and Spanish.
+/// Reads a bank statement in CSV. What the profile leaves open is found in the file, as
+/// guessCsv() tells it.
 ///
 /// Where the table has balances, each must be the one before plus the amount, from the
-/// first entry to the last or from the last to the first.
+/// first entry to the last or from the last to the first. Fees in a column of their own are
+/// subtracted from the amounts, unless the balances show that these include them. Entries
+/// that were declined or reverted are left out with a notice.
 ///
-/// Throws ImportError with the line of what it cannot read.
+/// Throws ImportError with the line of what it cannot read, and for days that can be read in
+/// two ways.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Statement readCsv(const QByteArray &bytes, const QString &file,
                                                        const CsvOptions &options);
 

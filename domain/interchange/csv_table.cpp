@@ -25,8 +25,16 @@ public:
 
     std::vector<CsvRecord> read()
     {
+        std::vector<CsvRecord> records = readHead(m_recordsMax + 1);
+        if (static_cast<qsizetype>(records.size()) > m_recordsMax)
+            throw faults::tooManyTransactions(records.back().place, transactionsMax);
+        return records;
+    }
+
+    std::vector<CsvRecord> readHead(qsizetype count)
+    {
         std::vector<CsvRecord> records;
-        while (m_at < m_text.size()) {
+        while (m_at < m_text.size() && static_cast<qsizetype>(records.size()) < count) {
             CsvRecord record{{m_file, m_line}, {}};
             do {
                 if (record.cells.size() >= cellsMax)
@@ -40,8 +48,6 @@ public:
             takeLineEnd();
             if (record.cells != QStringList{QString()})
                 records.push_back(std::move(record));
-            if (static_cast<qsizetype>(records.size()) > m_recordsMax)
-                throw faults::tooManyTransactions(records.back().place, transactionsMax);
         }
         return records;
     }
@@ -123,6 +129,12 @@ std::vector<CsvRecord> readCsvTable(const QString &text, const QString &file, QC
                                     qsizetype recordsMax)
 {
     return CsvReader(text, file, delimiter, recordsMax).read();
+}
+
+std::vector<CsvRecord> readCsvHead(const QString &text, const QString &file, QChar delimiter,
+                                   qsizetype rowsMax)
+{
+    return CsvReader(text, file, delimiter, rowsMax).readHead(rowsMax);
 }
 
 QChar guessDelimiter(QStringView line)

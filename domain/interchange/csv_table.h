@@ -24,6 +24,11 @@ struct CsvRecord {
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<CsvRecord>
 readCsvTable(const QString &text, const QString &file, QChar delimiter, qsizetype recordsMax);
 
+/// The first rows of such a table, at most `rowsMax`. Throws ImportError as readCsvTable()
+/// does for what it reads.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<CsvRecord>
+readCsvHead(const QString &text, const QString &file, QChar delimiter, qsizetype rowsMax);
+
 /// The most frequent delimiter of the line outside quotes: a comma, semicolon, tab or bar.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QChar guessDelimiter(QStringView line);
 

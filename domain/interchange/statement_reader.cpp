@@ -73,9 +73,8 @@ std::vector<Statement> readStatements(StatementFormat format, const QByteArray &
                                       const QString &file, const StatementOptions &options)
 {
     const CsvProfile &profile = options.profile;
-    // "UTF-8" is also what a profile has that names none.
-    const bool isNamed = !profile.encoding.isEmpty() && profile.encoding != utf8Name;
-    const BankFileOptions bank{isNamed ? std::optional(profile.encoding) : std::nullopt,
+    const BankFileOptions bank{profile.encoding.isEmpty() ? std::nullopt
+                                                          : std::optional(profile.encoding),
                                options.currency};
     switch (format) {
     case StatementFormat::Csv:
@@ -85,7 +84,7 @@ std::vector<Statement> readStatements(StatementFormat format, const QByteArray &
     case StatementFormat::Qif:
         return {
             readQif(bytes, file,
-                    {profile.encoding, profile.decimalMark, profile.dateFormat, options.currency})};
+                    {bank.encoding, profile.decimalMark, profile.dateFormat, options.currency})};
     case StatementFormat::Mt940:
         return readMt940(bytes, file, bank);
     case StatementFormat::Camt:

@@ -4,6 +4,9 @@
 #include "interchange/internal/faults.h"
 
 #include <unicode/ucnv.h>
+#include <unicode/ucsdet.h>
+
+#include <memory>
 
 namespace kiv::interchange {
 
@@ -32,7 +35,109 @@ qsizetype lineOf(const QByteArray &bytes, qsizetype at)
     return bytes.left(at).count('\n') + 1;
 }
 
+/// How many letters of several bytes there are, and how many bytes that make none.
+struct Utf8Count {
+    qsizetype letters = 0;
+    qsizetype invalid = 0;
+};
+
+Utf8Count utf8In(const QByteArray &bytes)
+{
+    Utf8Count count;
+    for (qsizetype at = 0; at < bytes.size();) {
+        const auto lead = static_cast<unsigned char>(bytes[at++]);
+        if (lead < 0x80)
+            continue;
+        const qsizetype more = lead >= 0xf0 && lead < 0xf5   ? 3
+                               : lead >= 0xe0 && lead < 0xf0 ? 2
+                               : lead >= 0xc2 && lead < 0xe0 ? 1
+                                                             : 0;
+        const auto isContinued = [&](qsizetype offset) {
+            return at + offset < bytes.size() && (bytes[at + offset] & 0xc0) == 0x80;
+        };
+        qsizetype found = 0;
+        while (found < more && isContinued(found))
+            ++found;
+        ++(more > 0 && found == more ? count.letters : count.invalid);
+        at += found;
+    }
+    return count;
+}
+
+/// UTF-16 without a mark, which texts in Latin letters show by zeros.
+std::optional<QString> wideEncodingOf(const QByteArray &head)
+{
+    std::array<qsizetype, 2> zeros{};
+    for (qsizetype at = 0; at < head.size(); ++at)
+        zeros[static_cast<std::size_t>(at % 2)] += head[at] == 0 ? 1 : 0;
+    const qsizetype most = head.size() * 2 / 5;
+    if (zeros[1] > most && zeros[0] == 0)
+        return QStringLiteral("UTF-16LE");
+    if (zeros[0] > most && zeros[1] == 0)
+        return QStringLiteral("UTF-16BE");
+    return std::nullopt;
+}
+
+/// The lines that are not in ASCII: the others say nothing about the encoding.
+QByteArray tellingLines(const QByteArray &bytes)
+{
+    constexpr qsizetype sampleMax = qsizetype{32} * 1024;
+    const auto isTelling = [](char byte) { return (byte & 0x80) != 0; };
+    QByteArray lines;
+    for (qsizetype begin = 0; begin < bytes.size() && lines.size() < sampleMax;) {
+        const qsizetype found = bytes.indexOf('\n', begin);
+        const qsizetype end = found < 0 ? bytes.size() : found + 1;
+        const QByteArray line = bytes.mid(begin, std::min(end - begin, sampleMax));
+        if (std::ranges::any_of(line, isTelling))
+            lines += line;
+        begin = end;
+    }
+    return lines;
+}
+
+/// One of the encodings with a byte for each letter.
+QString narrowEncodingOf(const QByteArray &bytes)
+{
+    const QString western = QStringLiteral("windows-1252");
+    // A text of western Europe that is short looks like others as well.
+    constexpr int confidenceMin = 30;
+    const QByteArray sample = tellingLines(bytes);
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)> detector(ucsdet_open(&status),
+                                                                              &ucsdet_close);
+    ucsdet_setText(detector.get(), sample.constData(), int32_t(sample.size()), &status);
+    int32_t count = 0;
+    const UCharsetMatch **matches = ucsdet_detectAll(detector.get(), &count, &status);
+    for (int32_t at = 0; U_SUCCESS(status) && at < count; ++at) {
+        const QString name = QLatin1String(ucsdet_getName(matches[at], &status));
+        if (name == u"ISO-8859-1" || name == western ||
+            ucsdet_getConfidence(matches[at], &status) < confidenceMin)
+            break;
+        for (const char *known : {"ISO-8859-2", "ISO-8859-5", "ISO-8859-7", "ISO-8859-9",
+                                  "windows-1250", "windows-1251", "windows-1253", "windows-1254"}) {
+            if (name == QLatin1String(known))
+                return name;
+        }
+    }
+    // Nobody writes the currency sign; in the later standard, the euro has its place.
+    const bool hasEuro = bytes.contains('\xa4') && !std::ranges::any_of(bytes, [](char byte) {
+                             return (byte & 0xe0) == 0x80;
+                         });
+    return hasEuro ? QStringLiteral("ISO-8859-15") : western;
+}
+
 } // namespace
+
+QString guessedEncoding(const QByteArray &bytes)
+{
+    // Its mark tells UTF-16 and its order.
+    if (bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff"))
+        return QStringLiteral("UTF-16");
+    if (const auto wide = wideEncodingOf(bytes.left(4096)))
+        return *wide;
+    const Utf8Count count = utf8In(bytes);
+    return count.letters >= count.invalid ? utf8Name : narrowEncodingOf(bytes);
+}
 
 QString decoded(const QByteArray &bytes, const QString &file, const QString &encoding)
 {

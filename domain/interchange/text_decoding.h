@@ -19,6 +19,12 @@ inline const QString utf8Name = QStringLiteral("UTF-8");
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QString decoded(const QByteArray &bytes, const QString &file,
                                                      const QString &encoding = utf8Name);
 
+/// The encoding that the bytes show: by their byte order mark; UTF-8 where they are valid;
+/// UTF-16 where every other byte is zero; else the one of western or central Europe, or of
+/// Greek, Turkish or Cyrillic letters, that fits the text best. Bytes that are mostly valid
+/// UTF-8 count as damaged UTF-8.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString guessedEncoding(const QByteArray &bytes);
+
 /// The longest line of a file and the longest text of an entry, in characters.
 inline constexpr qsizetype lineMax = qsizetype{64} * 1024;
 

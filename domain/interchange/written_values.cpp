@@ -2,6 +2,7 @@
 #include "interchange/written_values.h"
 
 #include "interchange/internal/faults.h"
+#include "interchange/internal/month_names.h"
 #include "interchange/internal/statement_faults.h"
 
 #include "foundation/presentation.h"
@@ -124,6 +125,7 @@ DateFormat::DateFormat(QString text, const Place &place) : m_text(std::move(text
     QString sample = m_text;
     for (const auto &[letters, digits] : {std::pair("YYYY", "2026"),
                                           {"YY", "26"},
+                                          {"MMM", "Nov"},
                                           {"MM", "11"},
                                           {"M", "11"},
                                           {"DD", "23"},
@@ -154,6 +156,14 @@ std::optional<QDate> DateFormat::read(QStringView text) const
         value = read;
         return true;
     };
+    const auto name = [&] {
+        const qsizetype begin = at;
+        while (at < text.size() && (text[at].isLetter() || text[at].isMark()))
+            ++at;
+        const bool isFirst =
+            std::exchange(month, internal::monthNamed(text.sliced(begin, at - begin))) < 0;
+        return isFirst && month > 0;
+    };
     for (qsizetype letter = 0; letter < m_text.size();) {
         const QChar kind = m_text[letter];
         qsizetype count = 1;
@@ -165,6 +175,12 @@ std::optional<QDate> DateFormat::read(QStringView text) const
             fits = number(count, count, year);
             if (count == 2)
                 year += year < 70 ? 2000 : 1900;
+        } else if (kind == u'M' && count == 3) {
+            fits = name();
+            // A name that is cut often has a dot.
+            const bool isDotNext = letter + count < m_text.size() && m_text[letter + count] == u'.';
+            if (fits && !isDotNext && at < text.size() && text[at] == u'.')
+                ++at;
         } else if (kind == u'M') {
             fits = number(count, 2, month);
         } else if (kind == u'D') {

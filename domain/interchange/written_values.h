@@ -27,7 +27,8 @@ enum class DecimalMark : char16_t {
 readNumber(const QString &text, std::optional<DecimalMark> mark, const Place &place);
 
 /// A form of dates, such as "DD.MM.YYYY": YYYY or YY, MM and DD, with any text between
-/// them. M and D allow a missing leading zero.
+/// them. M and D allow a missing leading zero. MMM is the name of a month in a common
+/// language, also shortened to three letters or more.
 class KIV_INTERCHANGE_EXPORT DateFormat {
 public:
     /// "YYYY-MM-DD".
@@ -40,6 +41,8 @@ public:
     /// The date; nothing when the text has another form or no such date exists. Two-digit
     /// years mean 1970 to 2069.
     [[nodiscard]] std::optional<QDate> read(QStringView text) const;
+
+    friend bool operator==(const DateFormat &, const DateFormat &) = default;
 
 private:
     QString m_text;

@@ -5,7 +5,7 @@
 
 #include "interchange/account_paths.h"
 #include "interchange/camt_reader.h"
-#include "interchange/csv_reader.h"
+#include "interchange/csv_guess.h"
 #include "interchange/csv_table.h"
 #include "interchange/duplicates.h"
 #include "interchange/html_report.h"
@@ -197,6 +197,26 @@ qsizetype entriesIn(const QString &form, QString text)
     return entries;
 }
 
+CsvProfile profileOf(const Case &given)
+{
+    return readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s);
+}
+
+QString guessOf(const Case &given)
+{
+    static const QRegularExpression place(u"^'f', line (\\d+): "_s);
+    CsvGuess guess = guessCsv(given.text, u"f"_s, {profileOf(given), currency(u"EUR"_s)});
+    QStringList lines{guess.summary};
+    if (!guess.missing.isEmpty())
+        lines += guess.missing.replace(place, u"\\1: "_s);
+    for (const DayReading &one : guess.dayReadings) {
+        if (guess.dayReadings.size() > 1)
+            lines += one.written + u" as "_s + one.format.text() + u": "_s +
+                     one.day.toString(Qt::ISODate);
+    }
+    return lines.join(u'\n');
+}
+
 /// What a file like the case's comes to.
 std::vector<Statement> statementsOf(const Case &given, const QByteArray &bytes)
 {
@@ -207,10 +227,14 @@ std::vector<Statement> statementsOf(const Case &given, const QByteArray &bytes)
     if (given.file == u"camt")
         return readCamt(bytes, u"f"_s, {encodingOf(given), {}});
     const numira::Currency own = currency(given.options.value(u"currency"_s, u"EUR"_s));
-    if (given.file.startsWith(u"csv"))
-        return {readCsv(
-            bytes, u"f"_s,
-            {readProfile(given.options.value(u"profile"_s, u"{}"_s).toUtf8(), u"p"_s), own})};
+    if (given.file.startsWith(u"csv")) {
+        const CsvOptions options{profileOf(given), own};
+        Statement read = readCsv(bytes, u"f"_s, options);
+        const QByteArray guessed = toJson(guessCsv(bytes, u"f"_s, options).profile);
+        if (readCsv(bytes, u"f"_s, {readProfile(guessed, u"p"_s), own}).entries != read.entries)
+            throw std::runtime_error("Read otherwise with " + guessed.toStdString());
+        return {std::move(read)};
+    }
     QifOptions options{encodingOf(given), given.mark(), {}, own};
     if (const QString format = given.options.value(u"date-format"_s); !format.isEmpty())
         options.dateFormat = DateFormat(format, {});
@@ -223,7 +247,7 @@ void requireWhole(const Case &given, const QByteArray &bytes)
     if (given.file == u"profile")
         return void(readProfile(bytes, u"p"_s));
     qsizetype read = 0;
-    qsizetype pending = 0;
+    qsizetype pending = bytes.count("REVERTED"); // a notice counts them
     for (const Statement &statement : statementsOf(given, bytes)) {
         read += std::ssize(statement.entries);
         pending += statement.pending;
@@ -307,6 +331,8 @@ QString foundOf(const Case &given)
     if (given.file == u"profile") // also what was saved is read
         return QString::fromUtf8(
             toJson(readProfile(toJson(readProfile(given.text, u"p"_s)), u"s"_s)).simplified());
+    if (given.file == u"csv_guess")
+        return guessOf(given);
     if (given.folder == u"statements") {
         QStringList statements;
         for (Statement &statement : statementsOf(given, given.text))

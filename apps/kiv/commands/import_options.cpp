@@ -157,17 +157,19 @@ CsvProfile ImportOptions::readProfile() const
                                     QStringLiteral("|")});
         read.delimiter = text.front();
     }
-    const auto readCount = [](const std::optional<QString> &text, int &count) {
+    const auto readCount = [](const std::optional<QString> &text, auto &count) {
         if (!text)
             return;
         bool isNumber = false;
-        count = text->toInt(&isNumber);
-        if (!isNumber || count < 0 || count > CsvProfile::skippedMax)
+        const int number = text->toInt(&isNumber);
+        if (!isNumber || number < 0 || number > CsvProfile::skippedMax)
             throw workbench::notANumber(*text, 0, CsvProfile::skippedMax);
+        count = number;
     };
     readCount(m_skip, read.skippedLines);
     readCount(m_skipLast, read.skippedLast);
-    read.hasHeadings = read.hasHeadings && !m_hasNoHeadings;
+    if (m_hasNoHeadings)
+        read.hasHeadings = false;
     read.isNegated = read.isNegated || m_isNegated;
     return read;
 }
@@ -200,10 +202,10 @@ interchange::QifOptions ImportOptions::qif(const CsvProfile &profileRead,
                                            const numira::Currency &currency) const
 {
     interchange::QifOptions options;
-    if (m_dateFormat || profile)
-        options.dateFormat = profileRead.dateFormat;
+    options.dateFormat = profileRead.dateFormat;
     options.decimalMark = profileRead.decimalMark;
-    options.encoding = profileRead.encoding;
+    if (!profileRead.encoding.isEmpty())
+        options.encoding = profileRead.encoding;
     options.currency = currency;
     return options;
 }

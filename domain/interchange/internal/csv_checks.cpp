@@ -2,52 +2,34 @@
 #include "interchange/internal/csv_checks.h"
 
 #include "interchange/internal/csv_entries.h"
+#include "interchange/internal/day_forms.h"
 #include "interchange/internal/statement_faults.h"
-#include "interchange/internal/statement_words.h"
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
+
 namespace kiv::interchange::internal {
 
-namespace {
-
-/// The first row whose cell says that money went out, in a column that tells the sign of
-/// each amount; null where the column tells something else.
-const CsvRecord *signOut(const std::vector<CsvRecord> &rows, qsizetype column)
+void requireHeadings(const CsvSheet &sheet, const CsvLayout &layout)
 {
-    const auto sign = [column](const CsvRecord &row) { return row.cells.value(column).trimmed(); };
-    const auto isOut = [](const QString &text) {
-        return words::wentOut.contains(text, Qt::CaseInsensitive);
-    };
-    const auto isIn = [](const QString &text) {
-        return words::cameIn.contains(text, Qt::CaseInsensitive);
-    };
-    const auto isSign = [&](const QString &text) {
-        return isOut(text) || isIn(text) || text.isEmpty();
-    };
-    const auto found = std::ranges::find_if(rows, isOut, sign);
-    // Other kinds of entries, such as checks, may stand among both; "-" alone often
-    // stands for nothing.
-    const bool isColumnOfSigns =
-        found != rows.end() && (std::ranges::any_of(rows, isIn, sign) ||
-                                (sign(*found) != u"-" && std::ranges::all_of(rows, isSign, sign)));
-    return isColumnOfSigns ? &*found : nullptr;
-}
-
-} // namespace
-
-void requireHeadings(const CsvRecord &first, const CsvLayout &layout)
-{
-    if (!layout.profile.hasHeadings)
+    const bool hasHeadings = layout.profile.hasHeadings.value_or(true);
+    for (const CsvRecord &row : sheet.above) {
+        // Tables without headings have no lines above: it is an entry that cannot be read.
+        const bool isEntry = row.cells.size() > 1 && (!hasHeadings || dayOf(row.cells, layout));
+        if (isEntry)
+            throw faults::entryAbove(row.place);
+    }
+    if (!hasHeadings)
         return;
     // The entry may stand behind the headings, where their line break is lost.
     static const QRegularExpression delimiters(QStringLiteral("[,;|\t\"]"));
-    const QStringList parts = first.cells.join(u'\t').split(delimiters);
+    const QStringList parts = sheet.headings.cells.join(u'\t').split(delimiters);
     const auto isDay = [&layout](const QString &part) {
-        return layout.profile.dateFormat.read(part.trimmed()).has_value();
+        return DayForms::isDay(part) || layout.dayForms.front().read(part.trimmed());
     };
     if (std::ranges::any_of(parts, isDay))
-        throw faults::headingsAreEntry(first.place);
+        throw faults::headingsAreEntry(sheet.headings.place);
 }
 
 void requireNoEntry(const CsvRecord &skipped, const CsvLayout &layout)
@@ -56,23 +38,16 @@ void requireNoEntry(const CsvRecord &skipped, const CsvLayout &layout)
         throw faults::entryLeftOut(skipped.place);
 }
 
-void requireWholeLastRow(const std::vector<CsvRecord> &rows)
-{
-    if (rows.size() < 2)
-        return;
-    const CsvRecord &last = rows.back();
-    if (last.cells.size() < rows[rows.size() - 2].cells.size())
-        throw faults::rowCutOff(last.place);
-}
-
 void requireOneEntry(const CsvRecord &row, const CsvLayout &layout)
 {
     Place place = row.place;
     for (const QString &cell : row.cells) {
+        if (!cell.contains(u'\n'))
+            continue;
         const QStringList lines = cell.split(u'\n');
         for (const QString &line : lines.mid(1)) {
             ++place.line;
-            const QStringList cells = line.split(layout.delimiter);
+            const QStringList cells = line.split(*layout.profile.delimiter);
             if (cells.size() > layout.columns.date + 1 && dayOf(cells, layout))
                 throw faults::entryWithinQuotes(place);
         }
@@ -105,23 +80,14 @@ void requireWholeAmounts(const CsvRecord &row, const CsvLayout &layout)
     if (row.cells.size() < columns.needed)
         throw faults::tooFewCells(row.place, row.cells.size(), columns.needed);
     for (const auto &column : {columns.amount, columns.in, columns.out}) {
-        if (!column || layout.delimiter != u',' || column.value() + 1 == columns.balance)
+        if (!column || layout.profile.delimiter != u',' || column.value() + 1 == columns.balance)
+            continue;
+        if (row.cells[*column].contains(u',')) // it stands in quotes
             continue;
         const QString both = row.cells[*column] + u',' + row.cells.value(*column + 1);
         if (both.contains(grouped) ||
             (row.cells.size() > columns.headings.size() && both.contains(parted)))
             throw faults::amountDivided(row.place, both);
-    }
-}
-
-void requireSignsNamed(const std::vector<CsvRecord> &rows, const CsvLayout &layout)
-{
-    const CsvColumns &columns = layout.columns;
-    if (!columns.amount || columns.sign || layout.profile.isNegated)
-        return;
-    for (qsizetype column = 0; column < columns.headings.size(); ++column) {
-        if (const CsvRecord *row = signOut(rows, column))
-            throw faults::signsNotNamed(row->place, column + 1, row->cells.value(column).trimmed());
     }
 }
 

@@ -1,53 +1,55 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/csv_entries.h"
 
+#include "interchange/internal/day_forms.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
-#include "interchange/internal/statement_words.h"
 
 #include "foundation/presentation.h"
 
-#include <QtCore/QRegularExpression>
+#include <algorithm>
 
 namespace kiv::interchange::internal {
 
 namespace {
 
-/// "$" where Australian dollars are used, whose full sign is "A$".
-bool isSignOf(const numira::Currency &currency, const QString &text)
-{
-    const auto symbol = numira::currencySymbol(currency);
-    return text == u"$" && symbol && symbol->ends_with('$');
-}
-
 /// The number alone, where its own currency stands beside it.
-QString withoutCurrency(QString text, const numira::Currency &currency)
+QString withoutCurrency(QString text, const QStringList &names)
 {
-    const QString code = foundation::toQString(currency);
-    QStringList names{code};
-    if (const auto symbol = numira::currencySymbol(currency)) {
-        // "A$" is "AU$" and "$" as well, where Australian dollars are used.
-        const QString sign = QString::fromStdString(*symbol);
-        if (sign.endsWith(u'$'))
-            names += {code.left(2) + u'$', sign, QStringLiteral("$")};
-        else
-            names += sign;
-    }
-    static const QRegularExpression digit(QStringLiteral("[0-9]"));
+    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
     for (const QString &name : names) {
         const qsizetype at = text.indexOf(name);
-        if (at >= 0 &&
-            (!text.left(at).contains(digit) || !text.mid(at + name.size()).contains(digit)))
+        if (at >= 0 && (std::none_of(text.cbegin(), text.cbegin() + at, isDigit) ||
+                        std::none_of(text.cbegin() + at + name.size(), text.cend(), isDigit)))
             text.remove(at, name.size());
     }
     return text.trimmed();
 }
 
+/// "CR" or "DR" behind an amount, in either case; nothing where there is none.
+std::optional<bool> takeMark(QString &text)
+{
+    for (const auto &[mark, isIn] : {std::pair("CR", true), {"DR", false}}) {
+        if (text.endsWith(QLatin1String(mark), Qt::CaseInsensitive)) {
+            text.chop(2);
+            text = text.trimmed();
+            return isIn;
+        }
+    }
+    return std::nullopt;
+}
+
 numira::Money moneyOf(const QString &text, const numira::Currency &currency, const Place &place,
                       const CsvLayout &layout)
 {
-    return statementAmount(withoutCurrency(text, currency), currency, layout.profile.decimalMark,
-                           place);
+    QString number = withoutCurrency(text, currency == layout.currency ? layout.currencyNames
+                                                                       : namesOf(currency));
+    const auto isIn = takeMark(number);
+    const numira::Money money =
+        statementAmount(number, currency, layout.profile.decimalMark, place);
+    if (isIn && money.isNegative())
+        throw faults::notANumber(place, text);
+    return isIn.value_or(true) ? money : -money;
 }
 
 numira::Currency currencyOf(const CsvRecord &row, const CsvLayout &layout)
@@ -55,7 +57,7 @@ numira::Currency currencyOf(const CsvRecord &row, const CsvLayout &layout)
     if (!layout.columns.currency)
         return layout.currency;
     const QString code = row.cells[*layout.columns.currency].trimmed();
-    if (code.isEmpty() || isSignOf(layout.currency, code))
+    if (code.isEmpty() || layout.currencyNames.contains(code))
         return layout.currency;
     const auto read = readCurrency(code.toUpper(), layout.currency);
     if (!read)
@@ -68,10 +70,10 @@ bool isOut(const QString &sign, const CsvProfile &profile, const Place &place)
 {
     if (!profile.negativeSigns.isEmpty())
         return profile.negativeSigns.contains(sign, Qt::CaseInsensitive);
-    const bool isOut = words::wentOut.contains(sign, Qt::CaseInsensitive);
+    const QString word = words::plainWord(sign);
+    const bool isOut = words::saysOut(word);
     // A deposit is a D as well as a debit.
-    if ((!isOut && !words::cameIn.contains(sign, Qt::CaseInsensitive) && !sign.isEmpty()) ||
-        sign.compare(u"D", Qt::CaseInsensitive) == 0)
+    if ((!isOut && !words::saysIn(word) && !sign.isEmpty()) || word == u"d")
         throw faults::signUnknown(place, sign);
     return isOut;
 }
@@ -105,19 +107,25 @@ Amount amountOf(const CsvRecord &row, const CsvLayout &layout)
 {
     const CsvColumns &columns = layout.columns;
     const auto cell = [&row](const std::optional<qsizetype> &column) {
-        return column ? row.cells[*column].trimmed() : QString();
+        return column ? row.cells.value(*column).trimmed() : QString();
     };
     const numira::Currency currency = currencyOf(row, layout);
     Amount amount =
         columns.amount
             ? Amount{moneyOf(cell(columns.amount), currency, row.place, layout)}
             : amountInOrOut(cell(columns.in), cell(columns.out), currency, row.place, layout);
+    const bool isBare = layout.isMarkedIn &&
+                        !cell(columns.amount).endsWith(QLatin1String("CR"), Qt::CaseInsensitive);
+    if (isBare)
+        amount.money = -amount.money;
     if (columns.sign && isOut(cell(columns.sign), layout.profile, row.place))
         amount.money = -amount.money.abs();
     if (layout.profile.isNegated)
         amount.money = -amount.money;
     return amount;
 }
+
+} // namespace
 
 QString textOf(const CsvRecord &row, const CsvLayout &layout)
 {
@@ -128,28 +136,23 @@ QString textOf(const CsvRecord &row, const CsvLayout &layout)
     return texts.join(u' ');
 }
 
-} // namespace
-
 std::optional<QDate> dayOf(const QStringList &cells, const CsvLayout &layout)
 {
-    const DateFormat &format = layout.profile.dateFormat;
-    QString date = cells.value(layout.columns.date).trimmed();
-    // Some banks write the time of day after the date.
-    if (!format.text().contains(u' '))
-        date.truncate(
-            std::ranges::find_if(date, [](QChar unit) { return unit == u' ' || unit == u'T'; }) -
-            date.cbegin());
-    return format.read(date);
+    return readDay(cells.value(layout.columns.date), layout.dayForms.front());
 }
 
-bool isPending(const CsvRecord &row, const CsvLayout &layout)
+EntryState stateOf(const CsvRecord &row, const CsvLayout &layout)
 {
     const auto &column = layout.columns.status;
-    const QStringList said =
-        column ? row.cells.value(*column).simplified().split(u' ') : QStringList();
-    return std::ranges::any_of(said, [](const QString &word) {
-        return words::pending.contains(word, Qt::CaseInsensitive);
-    });
+    const QString state = column ? row.cells.value(*column).trimmed() : QString();
+    if (words::saysPending(state))
+        return EntryState::Pending;
+    if (words::saysUndone(state))
+        return EntryState::Undone;
+    // Some banks write so in place of the day.
+    const QString day = row.cells.value(layout.columns.date).trimmed();
+    return !day.isEmpty() && !day[0].isDigit() && words::saysPending(day) ? EntryState::Pending
+                                                                          : EntryState::Booked;
 }
 
 std::optional<numira::Money> balanceOf(const CsvRecord &row, const CsvLayout &layout)
@@ -161,9 +164,7 @@ std::optional<numira::Money> balanceOf(const CsvRecord &row, const CsvLayout &la
     try {
         return moneyOf(text, layout.currency, row.place, layout);
     } catch (const ImportError &) {
-        if (!layout.profile.balanceColumn.isEmpty())
-            throw;
-        return std::nullopt;
+        return std::nullopt; // "n/a", or empty in other ways
     }
 }
 
@@ -171,14 +172,25 @@ CsvEntry entryOf(const CsvRecord &row, const CsvLayout &layout)
 {
     const CsvColumns &columns = layout.columns;
     const auto day = dayOf(row.cells, layout);
+    if (row.cells.value(columns.date).trimmed().isEmpty())
+        throw faults::missingDate(row.place);
     if (!day)
         throw faults::notInDateFormat(row.place, row.cells[columns.date].trimmed(),
-                                      layout.profile.dateFormat.text());
+                                      layout.dayForms.front().text());
     const auto [money, hasMinusOut] = amountOf(row, layout);
     StatementEntry entry{row.place, *day, money, textOf(row, layout)};
-    if (columns.id)
-        entry.bankId = row.cells.value(*columns.id).simplified();
-    return {std::move(entry), hasMinusOut};
+    const auto cell = [&row](const std::optional<qsizetype> &column) {
+        return column ? row.cells.value(*column).simplified() : QString();
+    };
+    entry.bankId = cell(columns.id);
+    entry.payee = cell(columns.payee);
+    if (columns.valueDate)
+        entry.valueDate =
+            readDay(row.cells.value(*columns.valueDate), layout.dayForms.front()).value_or(QDate());
+    const QString fee = cell(columns.fee);
+    return {std::move(entry), hasMinusOut,
+            fee.isEmpty() ? numira::Money(money.code())
+                          : moneyOf(fee, money.code(), row.place, layout)};
 }
 
 } // namespace kiv::interchange::internal

@@ -89,6 +89,12 @@ ImportError headingsAreEntry(const Place &place)
             "The heading line contains an entry; use --no-headings if the file has no headings.")};
 }
 
+ImportError entryAbove(const Place &place)
+{
+    return {place, QObject::tr("This line looks like an entry but is above the headings; say with "
+                               "--skip how many lines are above them.")};
+}
+
 ImportError entryWithinQuotes(const Place &place)
 {
     return {
@@ -138,6 +144,11 @@ ImportError mixedSigns(const Place &place)
 {
     return {place, QObject::tr("The column of what went out has both signs; move refunds to the "
                                "column of what came in.")};
+}
+
+ImportError mixedFees(const Place &place)
+{
+    return {place, QObject::tr("The column of fees has both signs.")};
 }
 
 ImportError negativeIn(const Place &place)

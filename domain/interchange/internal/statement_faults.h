@@ -26,6 +26,8 @@ namespace kiv::interchange::faults {
 [[nodiscard]] ImportError columnsAlike(const Place &place, const QStringList &columns,
                                        const QString &heading, const QString &option);
 [[nodiscard]] ImportError headingsAreEntry(const Place &place);
+/// It would be lost with the lines above the headings.
+[[nodiscard]] ImportError entryAbove(const Place &place);
 [[nodiscard]] ImportError entryWithinQuotes(const Place &place);
 [[nodiscard]] ImportError balanceDiffers(const Place &place, const QString &expected,
                                          const QString &found);
@@ -35,6 +37,7 @@ namespace kiv::interchange::faults {
 [[nodiscard]] ImportError signsNotNamed(const Place &place, qsizetype column, const QString &sign);
 [[nodiscard]] ImportError bothWays(const Place &place);
 [[nodiscard]] ImportError mixedSigns(const Place &place);
+[[nodiscard]] ImportError mixedFees(const Place &place);
 [[nodiscard]] ImportError negativeIn(const Place &place);
 [[nodiscard]] ImportError signUnknown(const Place &place, const QString &sign);
 [[nodiscard]] ImportError entryLeftOut(const Place &place);

@@ -3,51 +3,48 @@
 
 #include <QtCore/QStringList>
 
-/// English, German and Spanish words in banks' tables. Headings are written as
-/// `plainHeading` returns them: in lower case, without marks. Words in cells are compared
-/// ignoring case.
+/// Words in banks' tables, in the languages whose tables are common. All are written as
+/// plainWord() returns them.
 namespace kiv::interchange::internal::words {
 
-inline QStringList listed(const QString &words)
-{
-    return words.split(u'|');
-}
+/// "datum der wertstellung" of "Datum_der Wertstellung:": in lower case, without marks, and
+/// with one blank for what parts words.
+[[nodiscard]] QString plainWord(QStringView text);
 
-inline const QStringList date =
-    listed(QStringLiteral("date|booking date|transaction date|posting date|buchungstag|"
-                          "buchungsdatum|datum|fecha|fecha operacion|fecha de operacion"));
-inline const QStringList amount = listed(QStringLiteral("amount|betrag|umsatz|importe|cantidad"));
-/// Some tables have two columns. A bank's debit is money that leaves the account.
-inline const QStringList out =
-    listed(QStringLiteral("debit|debit amount|withdrawal|withdrawals|money out|paid out|soll|"
-                          "belastung|lastschrift|cargo|cargos|debe"));
-inline const QStringList in =
-    listed(QStringLiteral("credit|credit amount|deposit|deposits|money in|paid in|haben|"
-                          "gutschrift|abono|abonos|haber"));
-inline const QStringList text =
-    listed(QStringLiteral("description|memo|payee|details|verwendungszweck|buchungstext|text|"
-                          "concepto|descripcion"));
-/// "Reference" is missing on purpose: it is often the payer's own and the same each month.
-inline const QStringList id = listed(QStringLiteral("fitid|transaction id"));
-inline const QStringList currency =
-    listed(QStringLiteral("currency|wahrung|waehrung|moneda|divisa"));
+/// What a column can hold.
+enum class Column {
+    Date,      ///< when it was booked
+    ValueDate, ///< from when it bears interest, or when a card paid
+    Amount,
+    In,
+    Out, ///< a bank's debit is money that leaves the account
+    Fee,
+    Payee,
+    Text,
+    Id, ///< a reference is none: it is often the payer's own and the same each month
+    Currency,
+    Status,
+    Balance,
+    Account, ///< the number of the account that the statement is about
+};
 
-/// In a column that tells the direction of an amount without a sign.
-inline const QStringList wentOut =
-    listed(QStringLiteral("S|SOLL|D|DR|DEB|DEBIT|DBIT|WITHDRAWAL|OUT|BELASTUNG|LASTSCHRIFT|"
-                          "AUSGANG|DEBE|CARGO|-"));
-inline const QStringList cameIn =
-    listed(QStringLiteral("H|HABEN|C|CR|CRE|CREDIT|CRDT|DEPOSIT|IN|GUTSCHRIFT|EINGANG|HABER|"
-                          "ABONO|+"));
-/// The column that tells whether the bank has booked an entry.
-inline const QStringList status =
-    listed(QStringLiteral("status|state|booking status|posting status|transaction status|"
-                          "buchungsstatus|umsatzstatus|info|estado"));
-/// The account's balance after an entry.
-inline const QStringList balance =
-    listed(QStringLiteral("balance|running balance|account balance|saldo|kontostand|"
-                          "saldo nach buchung"));
-/// Status of an entry that the bank has not booked and may still change.
-inline const QStringList pending = listed(QStringLiteral("PENDING|VORGEMERKT|PENDIENTE"));
+/// The common headings of a column; those that tell more come first.
+[[nodiscard]] const QStringList &headingsOf(Column column);
+/// Whether it is a common heading of any of the columns.
+[[nodiscard]] bool isHeading(const QString &plain, std::initializer_list<Column> columns);
+/// Whether it is a common heading of some column.
+[[nodiscard]] bool isHeading(const QString &plain);
+
+// In a column that tells the direction of an amount without a sign:
+
+[[nodiscard]] bool saysOut(const QString &plain);
+[[nodiscard]] bool saysIn(const QString &plain);
+
+// In a column that tells whether the bank has booked an entry:
+
+/// The bank has not booked it and may still change it.
+[[nodiscard]] bool saysPending(QStringView cell);
+/// It never took place, or was taken back before it was booked.
+[[nodiscard]] bool saysUndone(QStringView cell);
 
 } // namespace kiv::interchange::internal::words
