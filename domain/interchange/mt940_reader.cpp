@@ -255,9 +255,7 @@ private:
 std::vector<Statement> readMt940(const QByteArray &bytes, const QString &file,
                                  const BankFileOptions &options)
 {
-    const bool isUtf8 = QUtf8StringView(bytes).isValidUtf8() || bytes.startsWith("\xff\xfe");
-    const QString encoding =
-        options.encoding.value_or(isUtf8 ? utf8Name : QStringLiteral("windows-1252"));
+    const QString encoding = options.encoding ? *options.encoding : guessedEncoding(bytes);
     const QString text = decoded(bytes, file, encoding);
     return internal::joinedStatements(Mt940Reader(text, file, options).read());
 }

@@ -12,7 +12,7 @@ namespace kiv::interchange {
 /// hyphen.
 ///
 /// A day is the booking day where the bank tells it; a value day that does not exist is left
-/// out. Text is UTF-8, or else windows-1252. Throws ImportError with the line of what it cannot
+/// out. Throws ImportError with the line of what it cannot
 /// read, and for a statement without its closing balance: the file may be cut off.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<Statement>
 readMt940(const QByteArray &bytes, const QString &file, const BankFileOptions &options);

@@ -4,6 +4,7 @@
 #include "interchange/internal/description_count.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
+#include "interchange/internal/statement_notices.h"
 
 #include "interchange/draft.h"
 #include "interchange/text_decoding.h"
@@ -27,7 +28,9 @@ struct Part {
 /// The fields of one record, as they are written.
 struct Record {
     Place place;
-    QString date = {};
+    std::size_t account = 0;  ///< which of the file
+    QString date = {};        ///< with four digits for the year at its end
+    QString writtenDate = {}; ///< as it stands
     QString amount = {};
     QString sameAmount = {}; ///< some programs write the amount twice
     QString payee = {};
@@ -38,11 +41,27 @@ struct Record {
     QString fields = {}; ///< letters of the fields read so far, of the last part if there are parts
 };
 
-/// "1/31'26" is how some write 1/31/2026.
+/// All that a file has.
+struct QifFile {
+    QStringList accounts; ///< their names, at least one
+    std::vector<Record> records = {};
+    QStringList notices = {};
+};
+
+/// The day with a year of four digits at its end. Old programs write blanks for zeros, and
+/// years after 1999 behind an apostrophe: "9/15' 6", "1/ 1/94".
 QString plainDate(QString text)
 {
-    text.remove(u' ');
-    return text.replace(u'\'', u'/');
+    const bool isRecent = text.contains(u'\'');
+    text.remove(u' ').replace(u'\'', u'/');
+    const qsizetype at =
+        std::max({text.lastIndexOf(u'/'), text.lastIndexOf(u'.'), text.lastIndexOf(u'-')}) + 1;
+    bool isNumber = false;
+    const int year = text.mid(at).toInt(&isNumber);
+    const bool isShort = text.size() - at == 2 || (text.size() - at == 1 && isRecent);
+    if (isNumber && isShort && at <= 6)
+        text = text.left(at) + QString::number(year + (isRecent || year < 70 ? 2000 : 1900));
+    return text;
 }
 
 class QifReader {
@@ -52,12 +71,14 @@ public:
     {
     }
 
-    std::vector<Record> read()
+    QifFile read()
     {
         while (m_lines.next()) {
             const QString line = m_lines.line().trimmed().toString();
             if (line.startsWith(u'!'))
                 enter(line);
+            else if (line.startsWith(u'#') && m_section == Section::None)
+                notice(notices::commentsLeftOut());
             else if (!line.isEmpty() && m_section == Section::None)
                 throw faults::notQif(m_lines.place());
             else if (line == u"^")
@@ -66,7 +87,7 @@ public:
                 m_named = line.mid(1).trimmed();
             else if (!line.isEmpty() && m_section == Section::Transactions)
                 takeField(line.front(), line.mid(1).trimmed());
-            else if (isOfEntry(line))
+            else if (m_section == Section::Skipped && isOfEntry(line))
                 throw faults::entryOutside(m_lines.place());
         }
         // The last ^ may be missing, but a file that ends inside a line was cut off.
@@ -75,13 +96,19 @@ public:
         finish();
         if (m_section == Section::None)
             throw faults::notQif({m_lines.place().file, 0});
+        if (!m_hasStatement && m_investments)
+            throw faults::unsupported(*m_investments, QStringLiteral("!Type:Invst"));
         if (!m_hasStatement)
             throw faults::noStatement({m_lines.place().file, 0});
-        return std::move(m_records);
+        if (m_investments)
+            notice(notices::investmentsLeftOut());
+        if (m_file.accounts.isEmpty())
+            m_file.accounts += m_account;
+        return std::move(m_file);
     }
 
 private:
-    enum class Section { None, Transactions, Skipped };
+    enum class Section { None, Transactions, Skipped, Investments };
 
     /// Whether the line can only belong to an entry. Lists of accounts and categories have
     /// no payees, no parts, and no number after T.
@@ -98,26 +125,49 @@ private:
         if (kind.startsWith(u"option:") || kind.startsWith(u"clear:"))
             return;
         finish();
-        if (QStringList{QStringLiteral("type:bank"), QStringLiteral("type:ccard"),
-                        QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
-                        QStringLiteral("type:oth l")}
-                .contains(kind))
-            enterAccount(kind);
-        else if (kind == u"account" || kind == u"type:cat" || kind == u"type:class")
+        static const QStringList kinds{QStringLiteral("type:bank"), QStringLiteral("type:ccard"),
+                                       QStringLiteral("type:cash"), QStringLiteral("type:oth a"),
+                                       QStringLiteral("type:oth l")};
+        static const QStringList lists{QStringLiteral("account"), QStringLiteral("type:cat"),
+                                       QStringLiteral("type:class"), QStringLiteral("type:tag")};
+        static const QStringList others{QStringLiteral("type:invst"),
+                                        QStringLiteral("type:security"),
+                                        QStringLiteral("type:prices")};
+        if (kinds.contains(kind)) {
+            m_account = m_named;
+            m_kind = kind;
+            m_section = Section::Transactions;
+        } else if (lists.contains(kind)) {
             m_section = Section::Skipped;
-        else
+        } else if (others.contains(kind)) {
+            m_section = Section::Investments;
+            m_investments = m_investments ? m_investments : std::optional(m_lines.place());
+        } else {
             throw faults::unsupported(m_lines.place(), header);
+        }
         m_isInAccount = kind == u"account";
         m_hasStatement = m_hasStatement || m_section == Section::Transactions;
     }
 
-    void enterAccount(const QString &kind)
+    /// The account of the entries that follow. Accounts of two kinds may have one name, and a
+    /// list without a name may be of any account.
+    std::size_t accountOf(const Place &place)
     {
-        const QString account = kind + u'\n' + m_named;
-        if (!m_records.empty() && account != m_account)
-            throw faults::severalAccounts(m_lines.place());
-        m_account = account;
-        m_section = Section::Transactions;
+        const qsizetype found = m_file.accounts.indexOf(m_account);
+        const qsizetype at = found < 0 ? m_file.accounts.size() : found;
+        if (found < 0) {
+            m_file.accounts += m_account;
+            m_kinds += m_kind;
+        }
+        if (m_kinds[at] != m_kind || (at > 0 && m_file.accounts.contains(QString())))
+            throw faults::severalAccounts(place);
+        return static_cast<std::size_t>(at);
+    }
+
+    void notice(const QString &text)
+    {
+        if (!m_file.notices.contains(text))
+            m_file.notices += text;
     }
 
     void takeField(QChar field, const QString &value)
@@ -125,6 +175,8 @@ private:
         Record &record = m_record;
         if (record.fields.isEmpty())
             record.place = m_lines.place();
+        if (field == u'D' && !record.parts.empty())
+            return; // some programs repeat the day with each part
         // A repeated field means two entries without a ^ between them.
         if (!record.fields.contains(field))
             record.fields += field;
@@ -137,7 +189,8 @@ private:
         };
         switch (field.unicode()) {
         case u'D':
-            record.date = value;
+            record.date = plainDate(value);
+            record.writtenDate = value;
             break;
         case u'T':
             record.amount = value;
@@ -184,7 +237,8 @@ private:
         if (m_record.fields.isEmpty())
             return;
         countEntry();
-        m_records.push_back(std::exchange(m_record, {}));
+        m_record.account = accountOf(m_record.place);
+        m_file.records.push_back(std::exchange(m_record, {}));
     }
 
     void countEntry()
@@ -198,29 +252,32 @@ private:
     Section m_section = Section::None;
     bool m_hasStatement = false;
     bool m_isInAccount = false;
-    QString m_named;   ///< name in the last !Account record
-    QString m_account; ///< whose entries are read, by kind and name
+    std::optional<Place> m_investments; ///< where the first ones begin
+    QString m_named;                    ///< name in the last !Account record
+    QString m_account;                  ///< whose entries are read
+    QString m_kind;                     ///< of that account
+    QStringList m_kinds;                ///< of all accounts
     Record m_record;
-    qsizetype m_entries = 0; ///< of the statement: records, and parts of them
-    std::vector<Record> m_records;
+    qsizetype m_entries = 0; ///< of the file: records, and parts of them
+    QifFile m_file;
 };
 
 /// The only format that fits all dates.
 DateFormat formatOf(const std::vector<Record> &records, const Place &place)
 {
     std::vector<DateFormat> fitting;
-    for (const char *order : {"M/D/YYYY", "M/D/YY", "D/M/YYYY", "D/M/YY", "D.M.YYYY", "D.M.YY",
-                              "YYYY-MM-DD", "D-M-YYYY", "YYYY/M/D"}) {
+    for (const char *order :
+         {"M/D/YYYY", "D/M/YYYY", "D.M.YYYY", "YYYY-MM-DD", "D-M-YYYY", "M-D-YYYY", "YYYY/M/D"}) {
         const DateFormat format(QLatin1String(order), place);
         if (std::ranges::all_of(records, [&format](const Record &record) {
-                return format.read(plainDate(record.date)).has_value();
+                return format.read(record.date).has_value();
             }))
             fitting.push_back(format);
     }
     // Two formats that read every date alike count as one.
     const auto agree = [&](const DateFormat &one, const DateFormat &other) {
         return std::ranges::all_of(records, [&](const Record &record) {
-            return one.read(plainDate(record.date)) == other.read(plainDate(record.date));
+            return one.read(record.date) == other.read(record.date);
         });
     };
     if (fitting.empty())
@@ -230,24 +287,35 @@ DateFormat formatOf(const std::vector<Record> &records, const Place &place)
     return fitting.front();
 }
 
+/// The format with four digits for the year, as `plainDate` writes it.
+DateFormat withLongYear(const DateFormat &format, const Place &place)
+{
+    QString text = format.text();
+    if (!text.contains(u"YYYY"))
+        text.replace(QStringLiteral("YY"), QStringLiteral("YYYY"));
+    return {text, place};
+}
+
 class EntryMaker {
 public:
     EntryMaker(const QifOptions &options, DateFormat format)
-        : m_options(options), m_format(std::move(format))
+        : m_options(options), m_format(std::move(format)), m_longFormat(withLongYear(m_format, {}))
     {
     }
 
     void add(const Record &record, std::vector<StatementEntry> &entries)
     {
         StatementEntry entry{record.place};
-        const auto day = m_format.read(plainDate(record.date));
         if (record.date.isEmpty())
             throw faults::missingDate(record.place);
+        const auto named = m_format.read(record.writtenDate);
+        const auto day = named ? named : m_longFormat.read(record.date);
         if (!day)
-            throw faults::notInDateFormat(record.place, record.date, m_format.text());
+            throw faults::notInDateFormat(record.place, record.writtenDate, m_format.text());
         entry.date = *day;
         entry.amount = amountOf(record);
-        entry.text = joined({record.number, record.payee, record.memo}, record.place);
+        entry.payee = joined({record.payee}, record.place);
+        entry.text = joined({record.number, record.memo}, record.place);
         setCategory(entry, record.category);
         if (record.parts.empty()) {
             entries.push_back(std::move(entry));
@@ -258,8 +326,9 @@ public:
             StatementEntry piece = entry;
             piece.place = part.place;
             piece.amount = amountOf(part.amount, part.place);
+            m_descriptions.add(piece.payee, part.place);
             if (!part.memo.isEmpty())
-                piece.text = joined({record.number, record.payee, part.memo}, part.place);
+                piece.text = joined({record.number, part.memo}, part.place);
             setCategory(piece, part.category);
             sum += piece.amount;
             entries.push_back(std::move(piece));
@@ -305,26 +374,32 @@ private:
 
     const QifOptions &m_options;
     DateFormat m_format;
+    DateFormat m_longFormat;
     internal::DescriptionCount m_descriptions;
 };
 
 } // namespace
 
-Statement readQif(const QByteArray &bytes, const QString &file, const QifOptions &options)
+std::vector<Statement> readQif(const QByteArray &bytes, const QString &file,
+                               const QifOptions &options)
 {
-    const QString text = decoded(bytes, file, options.encoding.value_or(utf8Name));
-    const std::vector<Record> records = QifReader(text, file).read();
+    const QString encoding = options.encoding ? *options.encoding : guessedEncoding(bytes);
+    const QString text = decoded(bytes, file, encoding);
+    const QifFile read = QifReader(text, file).read();
     EntryMaker maker(options,
-                     options.dateFormat ? *options.dateFormat : formatOf(records, {file, 0}));
-    Statement statement{{}, options.currency, {}};
-    for (const Record &record : records) {
+                     options.dateFormat ? *options.dateFormat : formatOf(read.records, {file, 0}));
+    std::vector<Statement> statements;
+    for (const QString &account : read.accounts)
+        statements.push_back({account, options.currency, {}});
+    for (const Record &record : read.records) {
         try {
-            maker.add(record, statement.entries);
+            maker.add(record, statements[record.account].entries);
         } catch (const numira::Error &cause) {
             throw faults::tooLarge(record.place, cause);
         }
     }
-    return statement;
+    statements.front().notices = read.notices;
+    return statements;
 }
 
 } // namespace kiv::interchange

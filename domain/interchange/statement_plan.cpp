@@ -17,6 +17,16 @@ using Kinds = StatementNotice::Kinds;
 
 namespace {
 
+/// "payee | text", as transactions have it. A bar in the payee becomes a slash; a text with one
+/// gets a bar before it, so that none of it is read as a payee.
+QString described(const StatementEntry &entry)
+{
+    const QString payee = QString(entry.payee).replace(u'|', u'/').trimmed();
+    if (payee.isEmpty() && !entry.text.contains(u'|'))
+        return entry.text;
+    return QStringLiteral("%1 | %2").arg(payee, entry.text).trimmed();
+}
+
 class Planner {
 public:
     Planner(const StatementBooks &books, const StatementChoices &choices)
@@ -79,7 +89,8 @@ private:
     {
         const StatementEntry &entry = planned.entry;
         for (const AccountRule &rule : m_choices.rules) {
-            if (entry.text.contains(rule.contains, Qt::CaseInsensitive)) {
+            if (entry.payee.contains(rule.contains, Qt::CaseInsensitive) ||
+                entry.text.contains(rule.contains, Qt::CaseInsensitive)) {
                 planned.chosenBy = ChosenBy::Rule;
                 return find(rule.account);
             }
@@ -112,7 +123,7 @@ private:
                                             const AccountCode &other) const
     {
         const bool isIn = entry.amount.isPositive();
-        const QString text = withBankId(entry.text, entry.bankId);
+        const QString text = withBankId(described(entry), entry.bankId);
         return {entry.date, isIn ? m_books.account : other, isIn ? other : m_books.account,
                 entry.amount.abs(), text.isEmpty() ? std::nullopt : std::optional(text)};
     }

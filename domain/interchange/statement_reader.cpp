@@ -9,6 +9,8 @@
 #include "interchange/qif_reader.h"
 #include "interchange/text_decoding.h"
 
+#include "foundation/presentation.h"
+
 #include <QtCore/QFileInfo>
 
 #include <cstring>
@@ -80,11 +82,10 @@ std::vector<Statement> readStatements(StatementFormat format, const QByteArray &
     case StatementFormat::Csv:
         return {readCsv(bytes, file, {profile, options.currency})};
     case StatementFormat::Ofx:
-        return {readOfx(bytes, file, {bank.encoding, {}})};
+        return readOfx(bytes, file, bank);
     case StatementFormat::Qif:
-        return {
-            readQif(bytes, file,
-                    {bank.encoding, profile.decimalMark, profile.dateFormat, options.currency})};
+        return readQif(bytes, file,
+                       {bank.encoding, profile.decimalMark, profile.dateFormat, options.currency});
     case StatementFormat::Mt940:
         return readMt940(bytes, file, bank);
     case StatementFormat::Camt:
@@ -96,18 +97,24 @@ std::vector<Statement> readStatements(StatementFormat format, const QByteArray &
 Statement chosenStatement(std::vector<Statement> statements, const QString &account,
                           const QString &file)
 {
+    if (statements.empty())
+        throw faults::noStatement({file, 0});
     if (account.isEmpty() && statements.size() == 1)
         return std::move(statements.front());
-    QStringList accounts;
+    // An account in several currencies is named with them.
+    std::map<QString, int> timesNamed;
+    for (const Statement &statement : statements)
+        ++timesNamed[statement.account];
+    QStringList names;
     for (Statement &statement : statements) {
-        if (!account.isEmpty() && statement.account == account)
+        names += timesNamed[statement.account] == 1
+                     ? statement.account
+                     : statement.account + u' ' + foundation::toQString(statement.currency);
+        if (!account.isEmpty() && names.back() == account)
             return std::move(statement);
-        accounts += statement.account;
     }
-    if (accounts.isEmpty())
-        throw faults::noStatement({file, 0});
-    throw account.isEmpty() ? faults::severalStatements({file, 0}, accounts)
-                            : faults::noSuchStatement({file, 0}, account, accounts);
+    throw account.isEmpty() ? faults::severalStatements({file, 0}, names)
+                            : faults::noSuchStatement({file, 0}, account, names);
 }
 
 } // namespace kiv::interchange

@@ -14,6 +14,7 @@
 #include "interchange/mt940_reader.h"
 #include "interchange/ofx_reader.h"
 #include "interchange/qif_reader.h"
+#include "interchange/statement_reader.h"
 
 #include "foundation/streams.h"
 
@@ -192,6 +193,7 @@ qsizetype entriesIn(const QString &form, QString text)
     if (form.startsWith(u"csv"))
         return text.contains(u'\n') ? text.count(lineWithDay) : 0;
     qsizetype entries = 0;
+    text.remove(QRegularExpression(u"!Type:Invst[^!]*|(?<=\n)S.*\n *D.*\n(?=[$E])"_s));
     for (const QString &record : text.split(end).filter(amount))
         entries += std::max(record.count(date), record.count(share));
     return entries;
@@ -220,8 +222,13 @@ QString guessOf(const Case &given)
 /// What a file like the case's comes to.
 std::vector<Statement> statementsOf(const Case &given, const QByteArray &bytes)
 {
-    if (given.file == u"ofx")
-        return {readOfx(bytes, u"f"_s, {encodingOf(given), given.options.value(u"statement"_s)})};
+    if (given.file == u"ofx") {
+        const auto all = readOfx(bytes, u"f"_s, {encodingOf(given), {}});
+        const auto account = given.options.constFind(u"statement"_s);
+        return account == given.options.constEnd()
+                   ? all
+                   : std::vector{chosenStatement(all, *account, u"f"_s)};
+    }
     if (given.file == u"mt940")
         return readMt940(bytes, u"f"_s, {encodingOf(given), {}});
     if (given.file == u"camt")
@@ -238,7 +245,7 @@ std::vector<Statement> statementsOf(const Case &given, const QByteArray &bytes)
     QifOptions options{encodingOf(given), given.mark(), {}, own};
     if (const QString format = given.options.value(u"date-format"_s); !format.isEmpty())
         options.dateFormat = DateFormat(format, {});
-    return {readQif(bytes, u"f"_s, options)};
+    return readQif(bytes, u"f"_s, options);
 }
 
 /// Each entry of the text is read or told to be left out; what is pending may have no day.
@@ -247,13 +254,14 @@ void requireWhole(const Case &given, const QByteArray &bytes)
     if (given.file == u"profile")
         return void(readProfile(bytes, u"p"_s));
     qsizetype read = 0;
-    qsizetype pending = bytes.count("REVERTED"); // a notice counts them
+    // Told by notices: what was reverted, and corrections with what they correct.
+    qsizetype leftOut = bytes.count("REVERTED") + 2 * bytes.count("<CORRECTFITID>");
     for (const Statement &statement : statementsOf(given, bytes)) {
         read += std::ssize(statement.entries);
-        pending += statement.pending;
+        leftOut += statement.pending;
     }
     const qsizetype shown = entriesIn(given.file, QString::fromLatin1(bytes));
-    if ((read > shown && shown > 0) || read + pending < shown)
+    if ((read > shown && shown > 0) || read + leftOut < shown)
         throw std::runtime_error(std::to_string(read) + " of " + std::to_string(shown) +
                                  " entries were read of:\n" + bytes.toStdString());
 }

@@ -27,7 +27,7 @@ void ImportOptions::declare(Arguments &arguments)
         .several("--commodity", m_commodities,
                  QObject::tr("Currency behind a name, such as Fr=CHF (journal, repeatable)"))
         .optional("--statement", m_statement,
-                  QObject::tr("Account number, to choose one of several statements (ofx)"))
+                  QObject::tr("Account number, to choose one of several statements (ofx, qif)"))
         .optional("--into", into, QObject::tr("Account of the bank statement"))
         .optional("--against", against,
                   QObject::tr("Counter-account of entries that match no rule"))
@@ -87,7 +87,7 @@ void ImportOptions::refuseUnused(ImportFormat form) const
           Use{"--currency", m_currency.has_value(), {Journal}},
           Use{"--root", !m_roots.empty(), {Journal}},
           Use{"--commodity", !m_commodities.empty(), {Journal}},
-          Use{"--statement", !m_statement.isEmpty(), {Ofx}},
+          Use{"--statement", !m_statement.isEmpty(), {Ofx, Qif}},
           Use{"--into", into.has_value(), statements},
           Use{"--against", against.has_value(), statements},
           Use{"--profile", profile.has_value(), statements},

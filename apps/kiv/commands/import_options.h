@@ -36,7 +36,9 @@ struct ImportOptions {
     [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
     [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
                                               const numira::Currency &currency) const;
-    [[nodiscard]] interchange::OfxOptions ofx() const { return {m_encoding, m_statement}; }
+    [[nodiscard]] interchange::BankFileOptions bank() const { return {m_encoding, {}}; }
+    /// The one that is chosen; empty without a choice.
+    [[nodiscard]] const QString &statement() const { return m_statement; }
 
 private:
     void refuseUnused(ImportFormat form) const;

@@ -10,6 +10,7 @@
 #include "workbench/statements/statement_books.h"
 
 #include "foundation/presentation.h"
+#include "interchange/statement_reader.h"
 
 namespace kiv::app {
 
@@ -58,13 +59,16 @@ private:
         const accounting::Account &account = index.find(*options.into);
         const numira::Currency currency = account.balance().code();
         const interchange::CsvProfile profile = options.readProfile();
-        const interchange::Statement statement = [&] {
-            if (format == ImportFormat::Ofx)
-                return interchange::readOfx(bytes, options.file, options.ofx());
-            if (format == ImportFormat::Qif)
-                return interchange::readQif(bytes, options.file, options.qif(profile, currency));
-            return interchange::readCsv(bytes, options.file, {profile, currency});
-        }();
+        const interchange::Statement statement = interchange::chosenStatement(
+            [&] {
+                if (format == ImportFormat::Ofx)
+                    return interchange::readOfx(bytes, options.file, options.bank());
+                if (format == ImportFormat::Qif)
+                    return interchange::readQif(bytes, options.file,
+                                                options.qif(profile, currency));
+                return std::vector{interchange::readCsv(bytes, options.file, {profile, currency})};
+            }(),
+            options.statement(), options.file);
         const interchange::StatementPlan plan = interchange::planStatement(
             statement, workbench::statementBooks(requests, account),
             {profile.rules, options.against,

@@ -5,6 +5,7 @@
 
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
+#include "interchange/internal/statement_notices.h"
 #include "interchange/text_decoding.h"
 
 #include <QtCore/QRegularExpression>
@@ -62,11 +63,18 @@ bool isValueTag(const QString &tag)
     return tags.contains(tag);
 }
 
+/// Tags that hold entries, or an entry.
+bool isListTag(QStringView tag)
+{
+    return tag.startsWith(u"BANKTRANLIST") || tag == u"STMTTRN" || tag == u"STMTTRNP";
+}
+
 /// The values that are read; all others of a large file would fill the memory.
 bool isRead(const QString &tag)
 {
     static const std::set<QString> tags{
         QStringLiteral("ACCTID"),   QStringLiteral("ACCTTYPE"), QStringLiteral("BANKID"),
+        QStringLiteral("BALAMT"),   QStringLiteral("DTASOF"),   QStringLiteral("CORRECTFITID"),
         QStringLiteral("BRANCHID"), QStringLiteral("CHECKNUM"), QStringLiteral("CORRECTACTION"),
         QStringLiteral("CURDEF"),   QStringLiteral("CURSYM"),   QStringLiteral("DTPOSTED"),
         QStringLiteral("FITID"),    QStringLiteral("MEMO"),     QStringLiteral("NAME"),
@@ -78,7 +86,7 @@ class TreeReader {
 public:
     TreeReader(const QString &text, const QString &file) : m_text(text), m_place{file, 1} {}
 
-    Element read()
+    OfxDocument read()
     {
         advanceTo(m_text.indexOf(QStringLiteral("<OFX>")));
         if (m_at < 0)
@@ -96,9 +104,11 @@ public:
                 takeValue();
         }
         if (!m_root)
-            throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
+            endDocument();
         refuseRest();
-        return std::move(*m_root);
+        if (m_unclosedAmount && m_hasClosedAmount) // it may have lost digits with its end
+            throw faults::tagNotClosed(*m_unclosedAmount, QStringLiteral("TRNAMT"));
+        return {std::move(*m_root), std::move(m_notices)};
     }
 
 private:
@@ -106,6 +116,25 @@ private:
     {
         m_place.line += QStringView(m_text).mid(m_at, at - m_at).count(u'\n');
         m_at = at;
+    }
+
+    /// A file may lack its last end tags, but not the end of a list: it would be cut off.
+    void endDocument()
+    {
+        for (const Element &element : m_open) {
+            if (isListTag(element.tag))
+                throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
+        }
+        m_notices += notices::documentNotEnded();
+        while (!m_open.empty())
+            finish();
+    }
+
+    /// Tells of the first end tag that is missing.
+    void mend(const Element &element)
+    {
+        if (m_notices.isEmpty())
+            m_notices += notices::tagMended(element.place, element.tag);
     }
 
     /// Only comments may stand behind the document.
@@ -202,7 +231,7 @@ private:
             const QString closing = QStringLiteral("</%1>").arg(element.tag);
             if (QStringView(m_text).sliced(m_at).startsWith(closing, Qt::CaseInsensitive)) {
                 advanceTo(m_at + closing.size());
-                finish();
+                close(element.tag);
             } else {
                 finishUnclosed();
             }
@@ -215,21 +244,39 @@ private:
     /// The <OFX> at least is open.
     void close(const QString &tag)
     {
-        // A tag before it without content is an empty value.
-        while (!m_isXml && m_open.back().tag != tag && !m_open.back().holdsElements &&
-               m_open.size() > 1)
+        while (m_open.back().tag != tag && m_open.size() > 1 && canMend(tag)) {
+            // In SGML, a tag without content is an empty value.
+            if (m_isXml || m_open.back().holdsElements)
+                mend(m_open.back());
             finish();
+        }
         if (m_open.back().tag != tag)
             throw faults::wrongClosingTag(m_place, tag, m_open.back().tag,
                                           m_open.back().place.line);
+        m_hasClosedAmount = m_hasClosedAmount || tag == u"TRNAMT";
         finish();
+    }
+
+    /// Whether the innermost tag may end where another one is closed: an empty value may, and
+    /// so may lists, but neither an entry nor what is in it.
+    [[nodiscard]] bool canMend(const QString &closed) const
+    {
+        const auto within = std::ranges::find(m_open, closed, &Element::tag);
+        if (!m_open.back().holdsElements && !isListTag(m_open.back().tag))
+            return true;
+        return within != m_open.end() &&
+               std::none_of(within, m_open.end(), [](const Element &element) {
+                   return element.tag.startsWith(u"STMTTRN") && !element.tag.endsWith(u"RS");
+               });
     }
 
     /// In SGML, values need no closing tag; in XML they do.
     void finishUnclosed()
     {
         if (m_isXml)
-            throw faults::tagNotClosed(m_open.back().place, m_open.back().tag);
+            mend(m_open.back());
+        if (m_isXml && m_open.back().tag == u"TRNAMT" && !m_unclosedAmount)
+            m_unclosedAmount = m_open.back().place;
         finish();
     }
 
@@ -257,13 +304,16 @@ private:
     qsizetype m_at = 0;
     qsizetype m_count = 0;
     bool m_isXml = false;
+    bool m_hasClosedAmount = false;
+    std::optional<Place> m_unclosedAmount; ///< under a header of XML
+    QStringList m_notices;
     std::vector<Element> m_open;
     std::optional<Element> m_root;
 };
 
 } // namespace
 
-Element readOfxTree(const QString &text, const QString &file)
+OfxDocument readOfxTree(const QString &text, const QString &file)
 {
     return TreeReader(text, file).read();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/statement_notices.h"
 
+#include "interchange/internal/faults.h"
+
 #include <QtCore/QObject>
 
 namespace kiv::interchange::notices {
@@ -22,6 +24,39 @@ QString furtherPages(const Place &place)
 {
     return QObject::tr("Line %1: the statement goes on in another file; import that, too.")
         .arg(place.line);
+}
+
+QString tagMended(const Place &place, const QString &tag)
+{
+    return QObject::tr("Line %1: <%2> is never closed; the file is read as if it were.")
+        .arg(QString::number(place.line), faults::quoted(tag));
+}
+
+QString documentNotEnded()
+{
+    return QObject::tr("The end of the file is missing; it may be cut off.");
+}
+
+QString balanceLeftOut(const Place &place)
+{
+    return QObject::tr("Line %1: the balance cannot be read.").arg(place.line);
+}
+
+QString correctionLeftOut(const Place &place, const QString &amount)
+{
+    return QObject::tr("Line %1: the correction over %2 is skipped, because the entry that it "
+                       "corrects is not in the file; correct it by hand.")
+        .arg(QString::number(place.line), amount);
+}
+
+QString commentsLeftOut()
+{
+    return QObject::tr("Comments above the first entry are skipped.");
+}
+
+QString investmentsLeftOut()
+{
+    return QObject::tr("Investments are skipped.");
 }
 
 } // namespace kiv::interchange::notices
