@@ -152,6 +152,8 @@ StatementPlan planStatement(Statement statement, const StatementBooks &books,
             {Kinds::Pending,
              {},
              QObject::tr("Entries that the bank has not booked yet are skipped.")});
+    for (const QString &notice : statement.notices)
+        planner.m_plan.notices.push_back({Kinds::OfTheFile, {}, notice});
     for (StatementEntry &entry : statement.entries)
         planner.add(std::move(entry));
     planner.findDuplicates();

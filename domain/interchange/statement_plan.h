@@ -23,6 +23,7 @@ struct StatementNotice {
         OtherAccount,  ///< the ledger has no such other account, so another one is used
         BeforeOpening, ///< older than the opening balance, which may already include it
         MaybeTransfer, ///< the other account's statement may already have posted it
+        OfTheFile,     ///< what the reader mended or left out, and balances that do not fit
     };
     Kinds kind;   ///< for front ends with their own wording
     Place place;  ///< of the entry; line 0 for the whole statement

@@ -184,7 +184,8 @@ qsizetype entriesIn(const QString &form, QString text)
     static const QRegularExpression date(u"\n[ \\t]*D *\\d+ *[-./] *\\d"_s);
     static const QRegularExpression share(u"\n[ \\t]*S"_s);
     if (form == u"ofx")
-        return text.count(QRegularExpression(u"(?i)<STMTTRNP?>"_s));
+        return text.remove(QRegularExpression(u"(?s)<!--.*?-->"_s))
+            .count(QRegularExpression(u"(?i)<STMTTRNP?>"_s));
     if (form == u"camt")
         return text.count(QRegularExpression(u"<(\\w+:)?Ntry>"_s));
     text.replace(u'\r', u'\n');

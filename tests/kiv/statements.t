@@ -66,7 +66,7 @@ The bank's own identifiers tell what is there already:
   $ kiv import s.ofx --into Checking --against Other
   Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
   $ kiv export | grep 'x2'
-  2026-01-10 (13) Bakery [id x2]
+  2026-01-10 (13) Bakery | [id x2]
   $ kiv transaction update 13 --description 'Cake for Ann' >/dev/null
   $ kiv transaction update 12 --description 'Bread [id mine]' >/dev/null
   $ kiv import s.ofx --into Checking --against Other --dry-run | grep Bakery
@@ -112,7 +112,7 @@ What is left out, or goes elsewhere than the file says, is told:
 
 A profile is saved with the budget, or not at all:
 
-  $ (trap '' XFSZ; ulimit -f 1; LLVM_PROFILE_FILE=/dev/null command kiv import s.csv \
+  $ (trap '' XFSZ; ulimit -f 2; LLVM_PROFILE_FILE=/dev/null command kiv import s.csv \
   >     --into Checking --against Other --profile rules --date-format DD.MM.YYYY --decimal , \
   >     --keep-duplicates --save-profile unsaved)
   kiv: The file 'household.budget' could not be saved: File too large.
@@ -207,8 +207,8 @@ categories:
   > .
   ["2026-01-05","5.25","Income:Salary [Budget Item]","Assets:Checking",""]
   $ read_as <s.ofx
-  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery [id x1]"]
-  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery [id x2]"]
+  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery | [id x1]"]
+  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery | [id x2]"]
   $ read_as <<.
   > !Type:Bank
   > D13/01/2026

@@ -76,9 +76,9 @@ private:
         for (const interchange::PlannedEntry &planned : plan.entries) {
             const interchange::StatementEntry &entry = planned.entry;
             if (planned.chosenBy == interchange::ChosenBy::Nobody)
-                throw noOtherAccount(
-                    QStringLiteral("'%1', %2")
-                        .arg(entry.text, foundation::presentationText(entry.date)));
+                throw noOtherAccount(QStringLiteral("'%1', %2")
+                                         .arg(entry.payee.isEmpty() ? entry.text : entry.payee,
+                                              foundation::presentationText(entry.date)));
         }
         Report told = report(call, workbench::postStatement(requests, plan, known()));
         if (!call.options.isDryRun)
