@@ -89,7 +89,7 @@ QString linesOf(const Draft &draft, bool withAccounts)
 /// or told of.
 void take(const QByteArray &journal, GeneralLedger &ledger)
 {
-    static const QRegularExpression aside(u"(?ms)^(comment|test)\\s*\\n.*?^end \\1\\s*$"_s);
+    static const QRegularExpression aside(u"(?ms)^(comment|test)\\s*\\n.*?(^end \\1\\s*$|\\z)"_s);
     static const QRegularExpression head(u"(?m)^[0-9]"_s);
     static const QRegularExpression told(u"(?m)^([0-9]+) transaction"_s);
     kiv::accounting::SequentialAccountNumberGenerator generator;

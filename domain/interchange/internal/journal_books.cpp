@@ -5,6 +5,7 @@
 #include "interchange/internal/journal_faults.h"
 #include "interchange/internal/limits.h"
 #include "interchange/internal/quantity_reader.h"
+#include "interchange/internal/scoped_balances.h"
 
 #include "interchange/account_paths.h"
 
@@ -186,6 +187,11 @@ void JournalBooks::fill(std::vector<Posting> &postings, const Place &place)
             if (posting.amount)
                 group.push_back(&posting);
         }
+        // Without a price, the rest would be in shares.
+        for (const Posting *posting : group) {
+            if (open && posting->isLotCost)
+                throw faults::ambiguousLot(posting->place, posting->known().commodity);
+        }
         if (!open) {
             checkBalance(group, place);
             continue;
@@ -286,8 +292,8 @@ void JournalBooks::applyRules(const Entry &entry)
 
 JournalBooks::Movement JournalBooks::movementOf(const Entry &entry, const Posting &posting)
 {
-    return {entry.date,        posting.account,    posting.kind, posting.known(),
-            posting.assertion, posting.isAssigned, posting.place};
+    return {entry.date,        posting.account, posting.kind,       posting.known(),
+            posting.assertion, posting.scope,   posting.isAssigned, posting.place};
 }
 
 void JournalBooks::add(Balances &balances, const Movement &movement)
@@ -321,7 +327,8 @@ void JournalBooks::move(const Entry &entry)
         // All movements of an account share one text.
         movement.account =
             m_balances.find({movement.account, movement.amount.commodity})->first.first;
-        if (m_failedAssertion || holds(m_balances, movement))
+        // Others hold by days alone.
+        if (m_failedAssertion || !movement.scope.isPlain() || holds(m_balances, movement))
             continue;
         const QString &commodity = movement.assertion->commodity;
         m_failedAssertion = faults::assertionFailed(
@@ -332,12 +339,25 @@ void JournalBooks::move(const Entry &entry)
 
 void JournalBooks::checkByDay()
 {
-    if (!m_failedAssertion && std::ranges::none_of(m_movements, &Movement::isAssigned))
+    std::set<QString> parents;
+    bool needsOrder = m_failedAssertion.has_value();
+    for (const Movement &movement : m_movements) {
+        needsOrder = needsOrder || movement.isAssigned || !movement.scope.isPlain();
+        if (movement.assertion && movement.scope.withChildren)
+            parents.insert(movement.account);
+    }
+    if (!needsOrder)
         return;
     std::ranges::stable_sort(m_movements, {}, &Movement::date);
     Balances balances;
+    ScopedBalances scoped(std::move(parents));
     for (const Movement &movement : m_movements) {
         add(balances, movement);
+        scoped.add(movement.account, movement.amount);
+        if (!movement.scope.isPlain()) {
+            scoped.require(movement.account, *movement.assertion, movement.scope, movement.place);
+            continue;
+        }
         if (holds(balances, movement))
             continue;
         if (m_failedAssertion)

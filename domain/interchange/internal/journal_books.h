@@ -60,6 +60,7 @@ private:
         PostingKind kind;
         Quantity amount;
         std::optional<Quantity> assertion;
+        AssertionScope scope;
         bool isAssigned; ///< whether the amount comes from the assertion
         Place place;
     };

@@ -17,6 +17,15 @@ struct Quantity {
 
 enum class PostingKind { Real, BalancedVirtual, Virtual };
 
+/// What a balance assertion includes.
+struct AssertionScope {
+    bool isSole = false;       ///< "==": the account has no other commodity
+    bool withChildren = false; ///< "=*": the accounts below count, too
+
+    /// Whether it is a plain "=", which is all that ledger knows.
+    [[nodiscard]] bool isPlain() const noexcept { return !isSole && !withChildren; }
+};
+
 struct Posting {
     Place place;
     QString account = {};
@@ -25,8 +34,10 @@ struct Posting {
     std::optional<Quantity> amount = {};
     /// The cost of the whole amount, with the amount's sign.
     std::optional<Quantity> cost = {};
+    bool isLotCost = false; ///< whether the cost is that of its lot, because it has no price
     std::optional<Quantity> assertion = {};
-    bool isAssigned = false; ///< whether the amount was computed from the assertion
+    AssertionScope scope = {}; ///< of that assertion
+    bool isAssigned = false;   ///< whether the amount was computed from the assertion
     QStringList comments = {};
 
     /// The amount. A posting without one must have been filled before.

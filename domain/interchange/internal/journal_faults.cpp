@@ -69,6 +69,19 @@ ImportError assertionFailed(const Place &place, const QString &account, const QS
                        .arg(quoted(account), asserted, found)};
 }
 
+ImportError otherCommodities(const Place &place, const QString &account, const QString &commodity)
+{
+    return {place, QObject::tr("'%1' should have nothing but %2 here, but has more.")
+                       .arg(quoted(account), quoted(commodity))};
+}
+
+ImportError ambiguousLot(const Place &place, const QString &commodity)
+{
+    return {place, QObject::tr("Programs differ on what '%1' costs here; write the price of its "
+                               "lot after @, too.")
+                       .arg(quoted(commodity))};
+}
+
 ImportError badPattern(const Place &place, const QString &pattern)
 {
     return {place,

@@ -18,6 +18,11 @@ namespace kiv::interchange::faults {
 [[nodiscard]] ImportError notBalanced(const Place &place, const QString &rest);
 [[nodiscard]] ImportError assertionFailed(const Place &place, const QString &account,
                                           const QString &asserted, const QString &found);
+/// The account should have no other commodity than this one.
+[[nodiscard]] ImportError otherCommodities(const Place &place, const QString &account,
+                                           const QString &commodity);
+/// Its lot has another price than the posting, or the posting has none.
+[[nodiscard]] ImportError ambiguousLot(const Place &place, const QString &commodity);
 [[nodiscard]] ImportError badPattern(const Place &place, const QString &pattern);
 [[nodiscard]] ImportError tooManyAccounts(const Place &place, qsizetype most);
 [[nodiscard]] ImportError pathsTooLong(const Place &place, qsizetype charactersMax);

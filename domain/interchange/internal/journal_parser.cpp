@@ -108,7 +108,9 @@ void JournalParser::parse(const QByteArray &bytes, const QString &file)
     }
     finish();
     if (skipping)
-        throw faults::notClosed(skipping->place, QStringLiteral("comment"));
+        m_books.notice(QObject::tr("Line %1: the comment has no end; the rest of the file belongs "
+                                   "to it.")
+                           .arg(skipping->place.line));
 }
 
 void JournalParser::Block::add(const Place &at, QStringView line)
@@ -284,21 +286,74 @@ void JournalParser::readAmounts(QStringView rest, Posting &posting)
         if (!isMultiplier && posting.amount->commodity.isEmpty() &&
             !m_settings.amounts.usesDefault && !m_settings.amounts.commodity.isEmpty())
             throw faults::ambiguousMultiplier(posting.place, whole.toString());
-        skipBlanks(rest);
+        std::optional<Quantity> lot;
+        readLot(rest, posting, lot);
         readCost(rest, posting);
+        readLot(rest, posting, lot);
+        checkLot(posting, lot);
     }
     skipBlanks(rest);
     if (rest.startsWith(u'=')) {
+        const QStringView whole = rest;
         rest = rest.sliced(1);
-        if (rest.startsWith(u'=') || rest.startsWith(u'*'))
-            throw faults::unsupported(posting.place, u'=' + rest.toString());
+        for (bool *isPart : {&posting.scope.isSole, &posting.scope.withChildren}) {
+            *isPart = rest.startsWith(isPart == &posting.scope.isSole ? u'=' : u'*');
+            rest = rest.sliced(*isPart ? 1 : 0);
+        }
+        // ledger knows none of these. Amounts that follow from them would be one program's.
+        if (!posting.scope.isPlain() && !posting.amount)
+            throw faults::unsupported(posting.place, whole.toString());
         posting.assertion = m_quantities.read(rest, posting.place);
         skipBlanks(rest);
     }
     if (rest.startsWith(u';'))
         posting.comments += rest.sliced(1).trimmed().toString();
-    else if (!rest.isEmpty()) // lots, among others
+    else if (!rest.isEmpty())
         throw faults::unsupported(posting.place, rest.toString());
+}
+
+void JournalParser::readLot(QStringView &rest, const Posting &posting,
+                            std::optional<Quantity> &cost)
+{
+    for (skipBlanks(rest); rest.startsWith(u'{') || rest.startsWith(u'['); skipBlanks(rest)) {
+        const QString whole = rest.toString();
+        const bool isDay = rest.startsWith(u'[');
+        const bool isTotal = rest.startsWith(u"{{");
+        rest = rest.sliced(isTotal ? 2 : 1);
+        if (isDay) {
+            (void)takeDate(rest, m_settings.year, posting.place);
+        } else {
+            skipBlanks(rest);
+            rest = rest.sliced(rest.startsWith(u'=') ? 1 : 0); // a fixed price
+            Quantity price = m_quantities.read(rest, posting.place);
+            if (price.number.sign() < 0 || std::exchange(cost, price))
+                throw faults::unsupported(posting.place, whole);
+            const numira::Decimal &amount = posting.known().number;
+            if (!isTotal)
+                cost->number = amount * price.number;
+            else if (amount.sign() < 0)
+                cost->number = -price.number;
+            skipBlanks(rest);
+        }
+        const QStringView end = isDay ? u"]" : isTotal ? u"}}" : u"}";
+        if (!rest.startsWith(end))
+            throw faults::unsupported(posting.place, whole);
+        rest = rest.sliced(end.size());
+        m_books.notice(QObject::tr("Lots are not kept apart; shares are kept at their cost."));
+    }
+}
+
+/// ledger balances a transaction by the price of the lot, hledger by that behind @.
+void JournalParser::checkLot(Posting &posting, const std::optional<Quantity> &cost)
+{
+    if (!cost)
+        return;
+    if (!posting.cost) {
+        posting.cost = cost;
+        posting.isLotCost = true;
+    } else if (posting.cost->number != cost->number || posting.cost->commodity != cost->commodity) {
+        throw faults::ambiguousLot(posting.place, posting.known().commodity);
+    }
 }
 
 void JournalParser::readCost(QStringView &rest, Posting &posting)

@@ -86,6 +86,10 @@ private:
     [[nodiscard]] Posting readPosting(const Place &place, QStringView line);
     void readAmounts(QStringView rest, Posting &posting);
     void readCost(QStringView &rest, Posting &posting);
+    /// Reads "{$5}", "{{$50}}", "{=$5}" and "[2026-01-31]" in any order, and the cost of the
+    /// lot, if it has one.
+    void readLot(QStringView &rest, const Posting &posting, std::optional<Quantity> &cost);
+    void checkLot(Posting &posting, const std::optional<Quantity> &cost);
 
     const JournalOptions &m_options;
     JournalBooks &m_books;
