@@ -3063,10 +3063,6 @@
         <translation>Währung hinter einem Namen, etwa Fr=CHF (journal, wiederholbar)</translation>
     </message>
     <message>
-        <source>Account number, to choose one of several statements (ofx)</source>
-        <translation>Kontonummer, um einen von mehreren Auszügen zu wählen (ofx)</translation>
-    </message>
-    <message>
         <source>Saved profile to read the file with</source>
         <translation>Gespeichertes Profil, mit dem die Datei gelesen wird</translation>
     </message>
@@ -5531,6 +5527,204 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message>
         <source>%1 files (*.%2)</source>
         <translation>%1-Dateien (*.%2)</translation>
+    </message>
+    <message>
+        <source>commas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 proves it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>money in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>money out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fee</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>payee</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>headings in line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no headings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimal comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read as: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is read as %1, since its letters are not %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dates are read as %1: only so are they in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The headings appear again on line %1; the file may contain entries twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No amount is negative: amounts marked CR came in, all others went out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No amount is negative, so all of them are read as money that came in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries that did not take place are skipped (%1).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The fees in column &apos;%1&apos; are subtracted from the amounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balances show that the amounts include the fees in column &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balances in column &apos;%1&apos; do not follow from the amounts, and are not used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no headings; column %1 is read as the date, column %2 as the amount.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; should have nothing but %2 here, but has more.</source>
+        <translation>„%1“ müsste hier nur %2 haben, hat aber noch anderes.</translation>
+    </message>
+    <message>
+        <source>Programs differ on what &apos;%1&apos; costs here; write the price of its lot after @, too.</source>
+        <translation>Programme sind sich nicht einig, was „%1“ hier kostet; es hilft, den Preis des Postens auch hinter @ zu schreiben.</translation>
+    </message>
+    <message>
+        <source>Line %1: the comment has no end; the rest of the file belongs to it.</source>
+        <translation>Zeile %1: Der Kommentar hat kein Ende; der Rest der Datei gehört dazu.</translation>
+    </message>
+    <message>
+        <source>Lots are not kept apart; shares are kept at their cost.</source>
+        <translation>Wertpapierposten werden nicht unterschieden; Anteile stehen mit ihren Kosten zu Buch.</translation>
+    </message>
+    <message>
+        <source>This line looks like an entry but is above the headings; say with --skip how many lines are above them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column of fees has both signs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file contains no CAMT message about an account.</source>
+        <translation>Die Datei enthält keine CAMT-Nachricht über ein Konto.</translation>
+    </message>
+    <message>
+        <source>The file has a document type (&lt;!DOCTYPE&gt;), which may refer to other files; banks write none.</source>
+        <translation>Die Datei hat einen Dokumenttyp (&lt;!DOCTYPE&gt;), der auf andere Dateien verweisen kann; Banken schreiben keinen.</translation>
+    </message>
+    <message>
+        <source>The XML is broken here: %1</source>
+        <translation>Das XML ist hier fehlerhaft: %1</translation>
+    </message>
+    <message>
+        <source>The file contains no MT940 statement; one begins with :20:.</source>
+        <translation>Die Datei enthält keinen MT940-Kontoauszug; einer beginnt mit :20:.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read; it should be like %2.</source>
+        <translation>„%1“ kann nicht gelesen werden; es müsste wie %2 aussehen.</translation>
+    </message>
+    <message>
+        <source>The statement that begins on line %1 has no closing balance; it may be cut off. Download the file again.</source>
+        <translation>Der Kontoauszug ab Zeile %1 hat keinen Schlusssaldo; er ist vielleicht abgeschnitten. Die Datei ist neu herunterzuladen.</translation>
+    </message>
+    <message>
+        <source>Line %1: the entries add up to a balance of %2, but the file says %3; entries may be missing.</source>
+        <translation>Zeile %1: Die Einträge ergeben den Saldo %2, die Datei nennt aber %3; vielleicht fehlen Einträge.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further balance(s) differ from the entries, too.</source>
+        <translation>
+            <numerusform>%n weiterer Saldo weicht ebenfalls von den Einträgen ab.</numerusform>
+            <numerusform>%n weitere Salden weichen ebenfalls von den Einträgen ab.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line %1: the statement goes on in another file; import that, too.</source>
+        <translation>Zeile %1: Der Kontoauszug geht in einer anderen Datei weiter; auch sie ist zu importieren.</translation>
+    </message>
+    <message>
+        <source>Line %1: &lt;%2&gt; is never closed; the file is read as if it were.</source>
+        <translation>Zeile %1: &lt;%2&gt; wird nie geschlossen; die Datei wird gelesen, als wäre es geschlossen.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing; it may be cut off.</source>
+        <translation>Das Ende der Datei fehlt; sie ist vielleicht abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Line %1: the balance cannot be read.</source>
+        <translation>Zeile %1: Der Saldo kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Line %1: the correction over %2 is skipped, because the entry that it corrects is not in the file; correct it by hand.</source>
+        <translation>Zeile %1: Die Korrektur über %2 wird übersprungen, weil der korrigierte Eintrag nicht in der Datei steht; er ist von Hand zu korrigieren.</translation>
+    </message>
+    <message>
+        <source>Comments above the first entry are skipped.</source>
+        <translation>Kommentare über dem ersten Eintrag werden übersprungen.</translation>
+    </message>
+    <message>
+        <source>Investments are skipped.</source>
+        <translation>Wertpapiergeschäfte werden übersprungen.</translation>
+    </message>
+    <message>
+        <source>Account number, to choose one of several statements (ofx, qif)</source>
+        <translation>Kontonummer, um einen von mehreren Kontoauszügen zu wählen (ofx, qif)</translation>
     </message>
 </context>
 <context>

@@ -234,6 +234,20 @@
             <numerusform>%n ticked</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n entries that did not take place are skipped (%1).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further balance(s) differ from the entries, too.</source>
+        <translation>
+            <numerusform>%n further balance differs from the entries, too.</numerusform>
+            <numerusform>%n further balances differ from the entries, too.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

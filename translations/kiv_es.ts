@@ -3063,10 +3063,6 @@
         <translation>Moneda a la que se refiere un nombre, como Fr=CHF (journal, repetible)</translation>
     </message>
     <message>
-        <source>Account number, to choose one of several statements (ofx)</source>
-        <translation>Número de cuenta, para elegir uno de varios extractos (ofx)</translation>
-    </message>
-    <message>
         <source>Saved profile to read the file with</source>
         <translation>Perfil guardado con el que se lee el archivo</translation>
     </message>
@@ -5531,6 +5527,204 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message>
         <source>%1 files (*.%2)</source>
         <translation>Archivos %1 (*.%2)</translation>
+    </message>
+    <message>
+        <source>commas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 proves it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>money in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>money out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fee</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>payee</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>headings in line %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no headings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 as %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimal comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read as: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is read as %1, since its letters are not %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The dates are read as %1: only so are they in order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The headings appear again on line %1; the file may contain entries twice.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No amount is negative: amounts marked CR came in, all others went out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No amount is negative, so all of them are read as money that came in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries that did not take place are skipped (%1).</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The fees in column &apos;%1&apos; are subtracted from the amounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balances show that the amounts include the fees in column &apos;%1&apos;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The balances in column &apos;%1&apos; do not follow from the amounts, and are not used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file has no headings; column %1 is read as the date, column %2 as the amount.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; should have nothing but %2 here, but has more.</source>
+        <translation>«%1» debería tener aquí solo %2, pero tiene algo más.</translation>
+    </message>
+    <message>
+        <source>Programs differ on what &apos;%1&apos; costs here; write the price of its lot after @, too.</source>
+        <translation>Los programas no coinciden en cuánto cuesta aquí «%1»; conviene escribir el precio del lote también después de @.</translation>
+    </message>
+    <message>
+        <source>Line %1: the comment has no end; the rest of the file belongs to it.</source>
+        <translation>Línea %1: el comentario no tiene fin; el resto del archivo forma parte de él.</translation>
+    </message>
+    <message>
+        <source>Lots are not kept apart; shares are kept at their cost.</source>
+        <translation>Los lotes no se distinguen; las acciones se llevan a su coste.</translation>
+    </message>
+    <message>
+        <source>This line looks like an entry but is above the headings; say with --skip how many lines are above them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The column of fees has both signs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file contains no CAMT message about an account.</source>
+        <translation>El archivo no contiene ningún mensaje CAMT sobre una cuenta.</translation>
+    </message>
+    <message>
+        <source>The file has a document type (&lt;!DOCTYPE&gt;), which may refer to other files; banks write none.</source>
+        <translation>El archivo tiene un tipo de documento (&lt;!DOCTYPE&gt;), que puede remitir a otros archivos; los bancos no lo escriben.</translation>
+    </message>
+    <message>
+        <source>The XML is broken here: %1</source>
+        <translation>El XML está dañado aquí: %1</translation>
+    </message>
+    <message>
+        <source>The file contains no MT940 statement; one begins with :20:.</source>
+        <translation>El archivo no contiene ningún extracto MT940; empiezan con :20:.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot be read; it should be like %2.</source>
+        <translation>«%1» no se puede leer; debería ser como %2.</translation>
+    </message>
+    <message>
+        <source>The statement that begins on line %1 has no closing balance; it may be cut off. Download the file again.</source>
+        <translation>El extracto que empieza en la línea %1 no tiene saldo final; quizá esté cortado. Conviene volver a descargar el archivo.</translation>
+    </message>
+    <message>
+        <source>Line %1: the entries add up to a balance of %2, but the file says %3; entries may be missing.</source>
+        <translation>Línea %1: las entradas dan un saldo de %2, pero el archivo dice %3; quizá falten entradas.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further balance(s) differ from the entries, too.</source>
+        <translation>
+            <numerusform>%n saldo más tampoco concuerda con las entradas.</numerusform>
+            <numerusform>%n saldos más tampoco concuerdan con las entradas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line %1: the statement goes on in another file; import that, too.</source>
+        <translation>Línea %1: el extracto continúa en otro archivo, que también hay que importar.</translation>
+    </message>
+    <message>
+        <source>Line %1: &lt;%2&gt; is never closed; the file is read as if it were.</source>
+        <translation>Línea %1: &lt;%2&gt; nunca se cierra; el archivo se lee como si se cerrara.</translation>
+    </message>
+    <message>
+        <source>The end of the file is missing; it may be cut off.</source>
+        <translation>Falta el final del archivo; quizá esté cortado.</translation>
+    </message>
+    <message>
+        <source>Line %1: the balance cannot be read.</source>
+        <translation>Línea %1: el saldo no se puede leer.</translation>
+    </message>
+    <message>
+        <source>Line %1: the correction over %2 is skipped, because the entry that it corrects is not in the file; correct it by hand.</source>
+        <translation>Línea %1: la corrección de %2 se omite, porque la entrada que corrige no está en el archivo; hay que corregirla a mano.</translation>
+    </message>
+    <message>
+        <source>Comments above the first entry are skipped.</source>
+        <translation>Los comentarios anteriores a la primera entrada se omiten.</translation>
+    </message>
+    <message>
+        <source>Investments are skipped.</source>
+        <translation>Las inversiones se omiten.</translation>
+    </message>
+    <message>
+        <source>Account number, to choose one of several statements (ofx, qif)</source>
+        <translation>Número de cuenta, para elegir uno de varios extractos (ofx, qif)</translation>
     </message>
 </context>
 <context>
