@@ -223,7 +223,7 @@ private:
         const QStringView value = QStringView(m_text).sliced(m_at, end - m_at).trimmed();
         if (!value.isEmpty() && !m_open.empty()) {
             Element &element = m_open.back();
-            if (element.holdsElements)
+            if (element.holdsElements || isListTag(element.tag)) // it may have cut an amount
                 throw faults::brokenTag(m_place);
             requireRoom(value.size());
             element.value += withoutEntities(value.toString());
