@@ -32,49 +32,52 @@ QString delimiterName(QChar delimiter)
     }
 }
 
-/// The day of the file that only one order of day and month allows.
+/// The day of the file that only one order of day and month allows; empty where there is
+/// none, or no other order.
 QString proofOf(const CsvSheet &sheet, const CsvLayout &layout)
 {
     const QString form = layout.dayForms.front().text();
-    const qsizetype day = form.indexOf(u'D');
-    const qsizetype month = form.indexOf(u'M');
     if (form.contains(u"MMM") || form.startsWith(u'Y'))
         return {};
     QString swapped = form;
     swapped.replace(u'D', u'\1').replace(u'M', u'D').replace(u'\1', u'M');
-    if (day < 0 || month < 0)
-        return {};
     const DateFormat other(swapped, {});
     for (const CsvRecord &row : sheet.rows) {
         const QString cell = row.cells.value(layout.columns.date).trimmed();
         if (dayOf(row.cells, layout) && !internal::readDay(cell, other))
-            return QObject::tr("%1 proves it").arg(faults::quoted(cell));
+            return faults::quoted(cell);
     }
     return {};
 }
 
-QString columnPart(const QString &what, const QString &column)
+QString datePart(const CsvSheet &sheet, const CsvLayout &layout)
 {
-    return what + QStringLiteral(" '") + faults::quoted(column) + u'\'';
+    const QString column = faults::quoted(layout.profile.dateColumn);
+    if (!layout.profile.dateFormat)
+        return QObject::tr("date '%1'").arg(column);
+    const QString form = layout.profile.dateFormat->text();
+    const QString proof = proofOf(sheet, layout);
+    return proof.isEmpty() ? QObject::tr("date '%1' as %2").arg(column, form)
+                           : QObject::tr("date '%1' as %2 (%3 proves it)").arg(column, form, proof);
 }
 
 QStringList columnParts(const CsvProfile &profile)
 {
     QStringList parts;
-    const auto add = [&parts](const QString &what, const QString &column) {
+    const auto add = [&parts](const QString &form, const QString &column) {
         if (!column.isEmpty() && column != u"-")
-            parts += columnPart(what, column);
+            parts += form.arg(faults::quoted(column));
     };
-    add(QObject::tr("amount"), profile.amountColumn);
-    add(QObject::tr("money in"), profile.inColumn);
-    add(QObject::tr("money out"), profile.outColumn);
-    add(QObject::tr("sign"), profile.signColumn);
-    add(QObject::tr("fee"), profile.feeColumn);
-    add(QObject::tr("payee"), profile.payeeColumn);
+    add(QObject::tr("amount '%1'"), profile.amountColumn);
+    add(QObject::tr("money in '%1'"), profile.inColumn);
+    add(QObject::tr("money out '%1'"), profile.outColumn);
+    add(QObject::tr("sign '%1'"), profile.signColumn);
+    add(QObject::tr("fee '%1'"), profile.feeColumn);
+    add(QObject::tr("payee '%1'"), profile.payeeColumn);
     for (const QString &column : profile.textColumns)
-        add(QObject::tr("text"), column);
-    add(QObject::tr("balance"), profile.balanceColumn);
-    add(QObject::tr("account"), profile.accountColumn);
+        add(QObject::tr("text '%1'"), column);
+    add(QObject::tr("balance '%1'"), profile.balanceColumn);
+    add(QObject::tr("account '%1'"), profile.accountColumn);
     return parts;
 }
 
@@ -83,15 +86,10 @@ QString summaryOf(const CsvSheet &sheet, const CsvLayout *layout)
     const CsvProfile &profile = layout ? layout->profile : sheet.profile;
     QStringList parts{profile.encoding, delimiterName(*profile.delimiter)};
     parts += *profile.hasHeadings
-                 ? QObject::tr("headings in line %1").arg(sheet.headings.place.line)
+                 ? QObject::tr("headings on line %1").arg(sheet.headings.place.line)
                  : QObject::tr("no headings");
     if (layout) {
-        const QString day = columnPart(QObject::tr("day"), profile.dateColumn);
-        const QString proof = profile.dateFormat ? proofOf(sheet, *layout) : QString();
-        parts += !profile.dateFormat
-                     ? day
-                     : QObject::tr("%1 as %2").arg(day, profile.dateFormat->text()) +
-                           (proof.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(proof));
+        parts += datePart(sheet, *layout);
         parts += columnParts(profile);
         if (profile.decimalMark == DecimalMark::Comma)
             parts += QObject::tr("decimal comma");

@@ -17,7 +17,7 @@ struct DayReading {
 struct CsvGuess {
     /// The given profile, completed. Reading with it gives the same entries as without.
     CsvProfile profile;
-    /// All of it in a line, such as "Read as: UTF-8, semicolons, headings in line 5, day …".
+    /// All of it in a line, such as "Read as: UTF-8, semicolons, headings on line 5, date …".
     QString summary;
     /// What readCsv() would refuse: a column that must be named, or an order of days that
     /// must be chosen. Empty when nothing is missing; entries can still be wrong.

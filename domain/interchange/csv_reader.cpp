@@ -39,7 +39,9 @@ public:
         if (!m_statement.entries.empty() && isContinued(row, m_layout.columns))
             return goOn(row);
         internal::requireWidth(row, m_layout, m_shortest);
-        switch (stateOf(row, m_layout)) {
+        const EntryState state = stateOf(row, m_layout);
+        m_isBooked = state == EntryState::Booked;
+        switch (state) {
         case EntryState::Pending:
             ++m_statement.pending;
             m_steps.push_back({row.place, {}, balanceOf(row, m_layout)});
@@ -51,7 +53,6 @@ public:
         case EntryState::Booked:
             add(row);
         }
-        m_isBooked = stateOf(row, m_layout) == EntryState::Booked;
     }
 
     Statement finish()

@@ -6,6 +6,9 @@
 #include <unicode/ucnv.h>
 #include <unicode/ucsdet.h>
 
+#include <algorithm>
+#include <array>
+#include <cstring>
 #include <memory>
 
 namespace kiv::interchange {
@@ -95,35 +98,75 @@ QByteArray tellingLines(const QByteArray &bytes)
     return lines;
 }
 
-/// One of the encodings with a byte for each letter.
-QString narrowEncodingOf(const QByteArray &bytes)
+/// How often a sign stands within a word, as "³" in "P³atnosc": the text is read wrongly. Of
+/// letters, "õ" stands only before an "e" in western Europe.
+qsizetype oddSignsIn(const QByteArray &sample, const QString &encoding)
 {
-    const QString western = QStringLiteral("windows-1252");
-    // A text of western Europe that is short looks like others as well.
+    const QString text = decoded(sample, {}, encoding);
+    qsizetype odd = 0;
+    for (qsizetype at = 1; at + 1 < text.size(); ++at) {
+        const QChar unit = text[at];
+        if (unit.unicode() < 0x80 || !text[at - 1].isLetter() || !text[at + 1].isLetter())
+            continue;
+        const bool isApostrophe = QStringLiteral("´’‘·\u00AD").contains(unit);
+        odd +=
+            (!unit.isLetter() && !isApostrophe) || (unit == u'õ' && text[at + 1] != u'e') ? 1 : 0;
+    }
+    return odd;
+}
+
+/// The encoding of letters other than Latin ones, or of Turkish; nothing for others.
+std::optional<QString> detectedEncoding(const QByteArray &sample)
+{
     constexpr int confidenceMin = 30;
-    const QByteArray sample = tellingLines(bytes);
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<UCharsetDetector, decltype(&ucsdet_close)> detector(ucsdet_open(&status),
                                                                               &ucsdet_close);
-    ucsdet_setText(detector.get(), sample.constData(), int32_t(sample.size()), &status);
-    int32_t count = 0;
-    const UCharsetMatch **matches = ucsdet_detectAll(detector.get(), &count, &status);
-    for (int32_t at = 0; U_SUCCESS(status) && at < count; ++at) {
-        const QString name = QLatin1String(ucsdet_getName(matches[at], &status));
-        if (name == u"ISO-8859-1" || name == western ||
-            ucsdet_getConfidence(matches[at], &status) < confidenceMin)
-            break;
-        for (const char *known : {"ISO-8859-2", "ISO-8859-5", "ISO-8859-7", "ISO-8859-9",
-                                  "windows-1250", "windows-1251", "windows-1253", "windows-1254"}) {
-            if (name == QLatin1String(known))
-                return name;
+    ucsdet_setText(detector.get(), sample.constData(), static_cast<int32_t>(sample.size()),
+                   &status);
+    const UCharsetMatch *const match = ucsdet_detect(detector.get(), &status);
+    if (U_FAILURE(status) || !match || ucsdet_getConfidence(match, &status) < confidenceMin)
+        return std::nullopt;
+    const QString name = QLatin1String(ucsdet_getName(match, &status));
+    const auto isTurkish = [](char byte) {
+        return std::strchr("\xd0\xdd\xde\xf0\xfd\xfe", byte) && byte != 0;
+    };
+    if (name == u"ISO-8859-9" || name == u"windows-1254")
+        return std::ranges::any_of(sample, isTurkish) ? std::optional(name) : std::nullopt;
+    // Words of other letters have them one after the other.
+    qsizetype following = 0;
+    qsizetype all = 0;
+    for (qsizetype at = 1; at < sample.size(); ++at) {
+        all += (sample[at] & 0x80) != 0 ? 1 : 0;
+        following += (sample[at] & 0x80) != 0 && (sample[at - 1] & 0x80) != 0 ? 1 : 0;
+    }
+    for (const char *known : {"ISO-8859-5", "ISO-8859-7", "windows-1251", "windows-1253"}) {
+        if (name == QLatin1String(known) && following * 2 > all)
+            return name;
+    }
+    return std::nullopt;
+}
+
+/// One of the encodings with a byte for each letter.
+QString narrowEncodingOf(const QByteArray &bytes)
+{
+    const QByteArray sample = tellingLines(bytes);
+    if (const auto detected = detectedEncoding(sample))
+        return *detected;
+    QString best = QStringLiteral("windows-1252");
+    qsizetype least = oddSignsIn(sample, best);
+    for (const char *central : {"windows-1250", "ISO-8859-2"}) {
+        const qsizetype odd = least > 0 ? oddSignsIn(sample, QLatin1String(central)) : 0;
+        if (odd < least) {
+            best = QLatin1String(central);
+            least = odd;
         }
     }
     // Nobody writes the currency sign; in the later standard, the euro has its place.
     const bool hasEuro = bytes.contains('\xa4') && !std::ranges::any_of(bytes, [](char byte) {
                              return (byte & 0xe0) == 0x80;
                          });
-    return hasEuro ? QStringLiteral("ISO-8859-15") : western;
+    return hasEuro ? QStringLiteral("ISO-8859-15") : best;
 }
 
 } // namespace

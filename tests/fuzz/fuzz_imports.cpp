@@ -5,7 +5,7 @@
 // a line. What is read is refused, or can be used: a journal goes into a ledger,
 // and is the same when it is written and read again.
 #include "interchange/camt_reader.h"
-#include "interchange/csv_reader.h"
+#include "interchange/csv_guess.h"
 #include "interchange/csv_table.h"
 #include "interchange/journal_reader.h"
 #include "interchange/ledger_writer.h"
@@ -96,6 +96,15 @@ void require(const std::vector<Statement> &statements)
         require(statement);
 }
 
+void readAsTable(const QByteArray &bytes, CsvOptions options)
+{
+    const Statement statement = readCsv(bytes, name, options);
+    require(statement);
+    options.profile = guessCsv(bytes, name, options).profile;
+    require(readCsv(bytes, name, options).entries == statement.entries,
+            "what is guessed reads the same");
+}
+
 void read(char kind, const QByteArray &bytes)
 {
     QifOptions options;
@@ -115,9 +124,9 @@ void read(char kind, const QByteArray &bytes)
     case 'p':
         return readAsProfile(bytes);
     default:
-        return require(readCsv(
-            bytes.mid(end + 1), name,
-            {end > 0 ? readProfile(bytes.left(end), name) : CsvProfile(), options.currency}));
+        return readAsTable(
+            bytes.mid(end + 1),
+            {end > 0 ? readProfile(bytes.left(end), name) : CsvProfile(), options.currency});
     }
 }
 

@@ -173,12 +173,13 @@ QString linesOf(Statement statement)
     return (lines + statement.notices).join(u'\n');
 }
 
-/// How many entries the text has by its looks alone: by tags, by lines with a day, or by
-/// what marks parts and days between the ends of entries with an amount.
+/// How many entries the text has by its looks alone: by tags, by lines with a day
+/// among three cells, or by what marks parts and days between the ends of entries with an
+/// amount.
 qsizetype entriesIn(const QString &form, QString text)
 {
     static const QRegularExpression lineWithDay(
-        uR"((?m)^(.*[,;|\t"])?[ \t]*(\d{4}-\d\d-\d\d(?![-\d])|\d\d?/\d\d?/\d\d|\d\d([. ])\d\d\3\d{4}).*$)"_s);
+        uR"((?m)^(?=.*[,;|\t].*[,;|\t])(.*[,;|\t"])?[ \t]*(\d{4}-\d\d-\d\d(?![-\d])|\d\d?/\d\d?/\d\d|\d\d([. ])\d\d\3\d{4}).*$)"_s);
     static const QRegularExpression end(u"\n[ \\t]*(\\^|!(?![OoCc]))"_s);
     static const QRegularExpression amount(u"\n[ \\t]*[TU]\\s*[-+.,\\d]"_s);
     static const QRegularExpression date(u"\n[ \\t]*D *\\d+ *[-./] *\\d"_s);

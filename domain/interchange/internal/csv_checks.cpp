@@ -11,12 +11,34 @@
 
 namespace kiv::interchange::internal {
 
+namespace {
+
+/// Whether the row has an amount, or a day in any column, among other cells.
+bool isLikeEntry(const CsvRecord &row, const CsvLayout &layout)
+{
+    constexpr qsizetype cellsMin = 3; // a day, an amount and a text
+    const auto isFilled = [](const QString &cell) { return !cell.trimmed().isEmpty(); };
+    const qsizetype filled = std::ranges::count_if(row.cells, isFilled);
+    if (filled < cellsMin)
+        return false;
+    const CsvColumns &columns = layout.columns;
+    const auto hasDigit = [&row](const std::optional<qsizetype> &column) {
+        const QString cell = column ? row.cells.value(*column) : QString();
+        return std::ranges::any_of(cell, [](QChar unit) { return unit.isDigit(); });
+    };
+    return hasDigit(columns.amount) || hasDigit(columns.in) || hasDigit(columns.out) ||
+           std::ranges::any_of(row.cells, &DayForms::isDay);
+}
+
+} // namespace
+
 void requireHeadings(const CsvSheet &sheet, const CsvLayout &layout)
 {
     const bool hasHeadings = layout.profile.hasHeadings.value_or(true);
     for (const CsvRecord &row : sheet.above) {
         // Tables without headings have no lines above: it is an entry that cannot be read.
-        const bool isEntry = row.cells.size() > 1 && (!hasHeadings || dayOf(row.cells, layout));
+        const bool isEntry = row.cells.size() > 1 &&
+                             (!hasHeadings || dayOf(row.cells, layout) || isLikeEntry(row, layout));
         if (isEntry)
             throw faults::entryAbove(row.place);
     }
@@ -26,7 +48,7 @@ void requireHeadings(const CsvSheet &sheet, const CsvLayout &layout)
     static const QRegularExpression delimiters(QStringLiteral("[,;|\t\"]"));
     const QStringList parts = sheet.headings.cells.join(u'\t').split(delimiters);
     const auto isDay = [&layout](const QString &part) {
-        return DayForms::isDay(part) || layout.dayForms.front().read(part.trimmed());
+        return DayForms::isDayLike(part) || layout.dayForms.front().read(part.trimmed());
     };
     if (std::ranges::any_of(parts, isDay))
         throw faults::headingsAreEntry(sheet.headings.place);
@@ -82,9 +104,11 @@ void requireWholeAmounts(const CsvRecord &row, const CsvLayout &layout)
     for (const auto &column : {columns.amount, columns.in, columns.out}) {
         if (!column || layout.profile.delimiter != u',' || column.value() + 1 == columns.balance)
             continue;
-        if (row.cells[*column].contains(u',')) // it stands in quotes
+        const QString next = row.cells.value(*column + 1);
+        // A comma within the cell stands in quotes.
+        if (next.isEmpty() || !next[0].isDigit() || row.cells[*column].contains(u','))
             continue;
-        const QString both = row.cells[*column] + u',' + row.cells.value(*column + 1);
+        const QString both = row.cells[*column] + u',' + next;
         if (both.contains(grouped) ||
             (row.cells.size() > columns.headings.size() && both.contains(parted)))
             throw faults::amountDivided(row.place, both);

@@ -209,7 +209,8 @@ private:
     {
         for (const QString &column : m_profile.textColumns)
             m_columns.texts.push_back(*named(column, "--text-column"));
-        m_columns.payee = optional(m_profile.payeeColumn, Column::Payee, nullptr);
+        m_columns.payee =
+            m_profile.payeeColumn.isEmpty() ? foundPayee() : named(m_profile.payeeColumn, nullptr);
         for (const bool mayBeEmpty : {false, true}) {
             for (const QString &heading : words::headingsOf(Column::Text)) {
                 if (m_columns.texts.empty())
@@ -234,6 +235,17 @@ private:
         };
         if (m_columns.payee && isText(*m_columns.payee))
             m_columns.payee.reset();
+    }
+
+    /// Beside another payee, a mere name is that of the account's holder.
+    [[nodiscard]] std::optional<qsizetype> foundPayee() const
+    {
+        const auto hasCells = [](const QString &) { return true; };
+        const auto filled = foundBy(Column::Payee, nullptr, hasCells);
+        const bool isName = filled && QStringList{QStringLiteral("name"), QStringLiteral("naam"),
+                                                  QStringLiteral("navn"), QStringLiteral("namn")}
+                                          .contains(m_headings[index(*filled)].plain);
+        return filled && !isName ? filled : foundBy(Column::Payee, nullptr, {});
     }
 
     void findTextsByContents()

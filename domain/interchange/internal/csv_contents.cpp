@@ -155,8 +155,11 @@ DayForms dayFormsOf(const std::vector<CsvRecord> &rows, const CsvColumns &column
             if (!column || !forms.isOpen())
                 break;
             const QString cell = row.cells.value(*column).trimmed();
-            if (!cell.isEmpty() && !words::saysPending(cell))
-                isRead = forms.narrow(cell) || isRead;
+            if (cell.isEmpty() || words::saysPending(cell))
+                continue;
+            if (!forms.narrow(cell)) // reading the entry will refuse it
+                break;
+            isRead = true;
         }
     }
     std::vector<std::pair<DateFormat, std::vector<QDate>>> different;

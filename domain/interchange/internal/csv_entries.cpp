@@ -17,6 +17,11 @@ namespace {
 QString withoutCurrency(QString text, const QStringList &names)
 {
     const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
+    const auto isPlain = [&isDigit](QChar unit) {
+        return isDigit(unit) || unit == u'.' || unit == u',' || unit == u'-';
+    };
+    if (std::ranges::all_of(text, isPlain)) // as most are
+        return text;
     for (const QString &name : names) {
         const qsizetype at = text.indexOf(name);
         if (at >= 0 && (std::none_of(text.cbegin(), text.cbegin() + at, isDigit) ||

@@ -25,6 +25,11 @@ QString headingsAgain(qsizetype line)
         .arg(line);
 }
 
+QString belowSkipped(qsizetype line)
+{
+    return QObject::tr("What is below the entries from line %1 on is skipped.").arg(line);
+}
+
 QString markedIn()
 {
     return QObject::tr("No amount is negative: amounts marked CR came in, all others went out.");
@@ -59,14 +64,6 @@ QString balancesUnchecked(const QString &column)
     return QObject::tr("The balances in column '%1' do not follow from the amounts, and are not "
                        "used.")
         .arg(quoted(column));
-}
-
-QString withoutHeadings(qsizetype date, qsizetype amount)
-{
-    return QObject::tr("The file has no headings; column %1 is read as the date, column %2 as the "
-                       "amount.")
-        .arg(date)
-        .arg(amount);
 }
 
 } // namespace kiv::interchange::notices

@@ -9,6 +9,7 @@ namespace kiv::interchange::notices {
 [[nodiscard]] QString otherEncoding(const QString &named, const QString &found);
 [[nodiscard]] QString orderOfDays(const QString &format);
 [[nodiscard]] QString headingsAgain(qsizetype line);
+[[nodiscard]] QString belowSkipped(qsizetype line);
 /// Entries with another sign are not marked.
 [[nodiscard]] QString markedIn();
 /// No amount has a sign.
@@ -18,6 +19,5 @@ namespace kiv::interchange::notices {
 [[nodiscard]] QString feesSubtracted(const QString &column);
 [[nodiscard]] QString feesIncluded(const QString &column);
 [[nodiscard]] QString balancesUnchecked(const QString &column);
-[[nodiscard]] QString withoutHeadings(qsizetype date, qsizetype amount);
 
 } // namespace kiv::interchange::notices

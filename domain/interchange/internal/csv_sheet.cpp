@@ -229,6 +229,27 @@ void requireWholeLastRow(const std::vector<CsvRecord> &rows)
         throw faults::rowCutOff(rows.back().place);
 }
 
+/// Takes rows from the end that stand below an empty line and have no day: they are sums, or
+/// the balance.
+void leaveTotals(CsvSheet &sheet)
+{
+    std::vector<CsvRecord> &rows = sheet.rows;
+    for (std::size_t at = rows.size(); at > 1; --at) {
+        const CsvRecord &row = rows[at - 1];
+        if (row.cells.size() < 2 || std::ranges::any_of(row.cells, &DayForms::isDayLike))
+            return;
+        qsizetype end = rows[at - 2].place.line; // of the row above
+        for (const QString &cell : rows[at - 2].cells)
+            end += cell.count(u'\n');
+        const bool isCell = std::ranges::any_of(row.cells, &isNumber);
+        if (row.place.line > end + 1 && isCell && !row.cells.front().trimmed().isEmpty()) {
+            sheet.notices += notices::belowSkipped(row.place.line);
+            rows.resize(at - 1);
+            return;
+        }
+    }
+}
+
 /// Takes what is no entry from the rows: the headings, what the profile skips at the end,
 /// rows of delimiters alone, and headings that stand there again.
 void leaveEntries(CsvSheet &sheet, bool hasHeadings, bool endsWithinLine)
@@ -254,6 +275,7 @@ void leaveEntries(CsvSheet &sheet, bool hasHeadings, bool endsWithinLine)
         }
         return std::ranges::all_of(row.cells, isBlank);
     });
+    leaveTotals(sheet);
 }
 
 } // namespace

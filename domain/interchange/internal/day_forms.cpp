@@ -127,6 +127,16 @@ bool DayForms::isDay(QStringView written)
                                [&day](const DateFormat &form) { return day.fits(form); });
 }
 
+bool DayForms::isDayLike(QStringView written)
+{
+    qsizetype marks = 0; // between two digits
+    for (qsizetype at = 1; at + 1 < written.size(); ++at) {
+        const bool isMark = QStringLiteral(".-/").contains(written[at]);
+        marks += isMark && isDigit(written[at - 1]) && isDigit(written[at + 1]) ? 1 : 0;
+    }
+    return marks > 1 || isDay(written);
+}
+
 bool DayForms::narrow(QStringView written)
 {
     const WrittenDay day(written);

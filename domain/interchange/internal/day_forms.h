@@ -15,6 +15,8 @@ class DayForms {
 public:
     /// Whether the text is a day in any common form.
     [[nodiscard]] static bool isDay(QStringView written);
+    /// Whether it is one, or has numbers like one: it may be damaged.
+    [[nodiscard]] static bool isDayLike(QStringView written);
 
     DayForms();
     explicit DayForms(const DateFormat &only) : m_fitting{only} {}

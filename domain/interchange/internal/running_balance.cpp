@@ -68,9 +68,11 @@ Run runOf(std::ranges::input_range auto &&steps, bool isOwed)
 /// In the order of time that fits for longer; of two that fit, in the one that the days show.
 Run bestRunOf(const std::vector<BalanceStep> &steps, bool isOwed)
 {
-    Run down = runOf(steps, isOwed);
-    Run up = runOf(steps | std::views::reverse, isOwed);
     const bool isNewestFirst = !steps.empty() && steps.front().day > steps.back().day;
+    Run down = runOf(steps, isOwed);
+    if (!down.mismatch && !isNewestFirst)
+        return down;
+    Run up = runOf(steps | std::views::reverse, isOwed);
     const bool isUp = up.mismatch && down.mismatch   ? up.before > down.before
                       : up.mismatch || down.mismatch ? down.mismatch.has_value()
                                                      : isNewestFirst;

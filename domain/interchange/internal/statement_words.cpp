@@ -34,7 +34,8 @@ const char *const headingTexts[columnCount] = {
     "date|datum|fecha|data|dato|dag|pvm|paivamaara|created|created at|date time|timestamp|"
     "started date|effective date",
     // ValueDate
-    "value date|date value|valuta date|valutadatum|wertstellung|wertstellungsdatum|wert|"
+    "value date|date value|valuta date|valutadatum|wertstellung|wertstellung "
+    "(valuta)|wertstellungsdatum|wert|"
     "fecha valor|f valor|date valeur|date de valeur|rentedatum|data valuta|data valor|"
     "data waluty|erteknap|ertekdatum|valutadato|valutadag|rentedato|arvopaiva|valuta|value|"
     "belegdatum|datum verrichting",
@@ -136,7 +137,7 @@ QString plainWord(QStringView text)
 {
     QString plain = plainText(text);
     for (QChar &letter : plain) {
-        if (QStringLiteral("/_-.:'’*,;\"").contains(letter) && plain.size() > 1)
+        if (QStringLiteral("/_-.:'’*#,;\"").contains(letter) && plain.size() > 1)
             letter = u' ';
     }
     return plain.simplified();
