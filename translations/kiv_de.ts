@@ -5530,110 +5530,66 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>commas</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommas</translation>
     </message>
     <message>
         <source>semicolons</source>
-        <translation type="unfinished"></translation>
+        <translation>Semikolons</translation>
     </message>
     <message>
         <source>tabs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 proves it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>money in</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>money out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>sign</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>fee</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>payee</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>headings in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulatoren</translation>
     </message>
     <message>
         <source>no headings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>day</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Überschriften</translation>
     </message>
     <message>
         <source>decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezimalkomma</translation>
     </message>
     <message>
         <source>Read as: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelesen als: %1</translation>
     </message>
     <message>
         <source>The file is read as %1, since its letters are not %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wird als %1 gelesen, denn ihre Buchstaben sind nicht %2.</translation>
     </message>
     <message>
         <source>The dates are read as %1: only so are they in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Daten werden als %1 gelesen: Nur so sind sie in der richtigen Reihenfolge.</translation>
     </message>
     <message>
         <source>The headings appear again on line %1; the file may contain entries twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Überschriften stehen in Zeile %1 noch einmal; die Datei enthält vielleicht Einträge doppelt.</translation>
     </message>
     <message>
         <source>No amount is negative: amounts marked CR came in, all others went out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Betrag ist negativ: Mit CR gekennzeichnete Beträge sind eingegangen, alle anderen ausgegangen.</translation>
     </message>
     <message>
         <source>No amount is negative, so all of them are read as money that came in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Betrag ist negativ; daher werden alle als Eingänge gelesen.</translation>
     </message>
     <message numerus="yes">
         <source>%n entries that did not take place are skipped (%1).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag, der nicht ausgeführt wurde, wird übersprungen (%1).</numerusform>
+            <numerusform>%n Einträge, die nicht ausgeführt wurden, werden übersprungen (%1).</numerusform>
         </translation>
     </message>
     <message>
         <source>The fees in column &apos;%1&apos; are subtracted from the amounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gebühren in der Spalte „%1“ werden von den Beträgen abgezogen.</translation>
     </message>
     <message>
         <source>The balances show that the amounts include the fees in column &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Salden zeigen, dass die Beträge die Gebühren in der Spalte „%1“ enthalten.</translation>
     </message>
     <message>
         <source>The balances in column &apos;%1&apos; do not follow from the amounts, and are not used.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file has no headings; column %1 is read as the date, column %2 as the amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Salden in der Spalte „%1“ ergeben sich nicht aus den Beträgen und werden nicht verwendet.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; should have nothing but %2 here, but has more.</source>
@@ -5653,11 +5609,11 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>This line looks like an entry but is above the headings; say with --skip how many lines are above them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeile sieht wie ein Eintrag aus, steht aber über den Überschriften; mit --skip angeben, wie viele Zeilen darüber stehen.</translation>
     </message>
     <message>
         <source>The column of fees has both signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spalte der Gebühren hat beide Vorzeichen.</translation>
     </message>
     <message>
         <source>The file contains no CAMT message about an account.</source>
@@ -5725,6 +5681,62 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message>
         <source>Account number, to choose one of several statements (ofx, qif)</source>
         <translation>Kontonummer, um einen von mehreren Kontoauszügen zu wählen (ofx, qif)</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos;</source>
+        <translation>Datum „%1“</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos; as %2</source>
+        <translation>Datum „%1“ als %2</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos; as %2 (%3 proves it)</source>
+        <translation>Datum „%1“ als %2 (%3 beweist es)</translation>
+    </message>
+    <message>
+        <source>amount &apos;%1&apos;</source>
+        <translation>Betrag „%1“</translation>
+    </message>
+    <message>
+        <source>money in &apos;%1&apos;</source>
+        <translation>Eingänge „%1“</translation>
+    </message>
+    <message>
+        <source>money out &apos;%1&apos;</source>
+        <translation>Ausgänge „%1“</translation>
+    </message>
+    <message>
+        <source>sign &apos;%1&apos;</source>
+        <translation>Vorzeichen „%1“</translation>
+    </message>
+    <message>
+        <source>fee &apos;%1&apos;</source>
+        <translation>Gebühr „%1“</translation>
+    </message>
+    <message>
+        <source>payee &apos;%1&apos;</source>
+        <translation>Empfänger „%1“</translation>
+    </message>
+    <message>
+        <source>text &apos;%1&apos;</source>
+        <translation>Text „%1“</translation>
+    </message>
+    <message>
+        <source>balance &apos;%1&apos;</source>
+        <translation>Saldo „%1“</translation>
+    </message>
+    <message>
+        <source>account &apos;%1&apos;</source>
+        <translation>Konto „%1“</translation>
+    </message>
+    <message>
+        <source>headings on line %1</source>
+        <translation>Überschriften in Zeile %1</translation>
+    </message>
+    <message>
+        <source>What is below the entries from line %1 on is skipped.</source>
+        <translation>Was ab Zeile %1 unter den Einträgen steht, wird übersprungen.</translation>
     </message>
 </context>
 <context>

@@ -236,9 +236,9 @@
     </message>
     <message numerus="yes">
         <source>%n entries that did not take place are skipped (%1).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n entry that did not take place is skipped (%1).</numerusform>
+            <numerusform>%n entries that did not take place are skipped (%1).</numerusform>
         </translation>
     </message>
     <message numerus="yes">

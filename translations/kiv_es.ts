@@ -5530,110 +5530,66 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>commas</source>
-        <translation type="unfinished"></translation>
+        <translation>comas</translation>
     </message>
     <message>
         <source>semicolons</source>
-        <translation type="unfinished"></translation>
+        <translation>puntos y comas</translation>
     </message>
     <message>
         <source>tabs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 proves it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>money in</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>money out</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>sign</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>fee</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>payee</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>text</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>headings in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tabuladores</translation>
     </message>
     <message>
         <source>no headings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>day</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>sin encabezados</translation>
     </message>
     <message>
         <source>decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>coma decimal</translation>
     </message>
     <message>
         <source>Read as: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Leído como: %1</translation>
     </message>
     <message>
         <source>The file is read as %1, since its letters are not %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo se lee como %1, pues sus letras no son %2.</translation>
     </message>
     <message>
         <source>The dates are read as %1: only so are they in order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las fechas se leen como %1: solo así están en orden.</translation>
     </message>
     <message>
         <source>The headings appear again on line %1; the file may contain entries twice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los encabezados aparecen de nuevo en la línea %1; es posible que el archivo contenga movimientos dos veces.</translation>
     </message>
     <message>
         <source>No amount is negative: amounts marked CR came in, all others went out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún importe es negativo: los marcados con CR entraron y todos los demás salieron.</translation>
     </message>
     <message>
         <source>No amount is negative, so all of them are read as money that came in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún importe es negativo; por eso todos se leen como entradas.</translation>
     </message>
     <message numerus="yes">
         <source>%n entries that did not take place are skipped (%1).</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se omite %n movimiento que no se realizó (%1).</numerusform>
+            <numerusform>Se omiten %n movimientos que no se realizaron (%1).</numerusform>
         </translation>
     </message>
     <message>
         <source>The fees in column &apos;%1&apos; are subtracted from the amounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las comisiones de la columna «%1» se restan de los importes.</translation>
     </message>
     <message>
         <source>The balances show that the amounts include the fees in column &apos;%1&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los saldos muestran que los importes incluyen las comisiones de la columna «%1».</translation>
     </message>
     <message>
         <source>The balances in column &apos;%1&apos; do not follow from the amounts, and are not used.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file has no headings; column %1 is read as the date, column %2 as the amount.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los saldos de la columna «%1» no resultan de los importes y no se usan.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; should have nothing but %2 here, but has more.</source>
@@ -5653,11 +5609,11 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>This line looks like an entry but is above the headings; say with --skip how many lines are above them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta línea parece un movimiento, pero está encima de los encabezados; indicar con --skip cuántas líneas hay encima de ellos.</translation>
     </message>
     <message>
         <source>The column of fees has both signs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La columna de comisiones tiene ambos signos.</translation>
     </message>
     <message>
         <source>The file contains no CAMT message about an account.</source>
@@ -5725,6 +5681,62 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message>
         <source>Account number, to choose one of several statements (ofx, qif)</source>
         <translation>Número de cuenta, para elegir uno de varios extractos (ofx, qif)</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos;</source>
+        <translation>fecha «%1»</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos; as %2</source>
+        <translation>fecha «%1» como %2</translation>
+    </message>
+    <message>
+        <source>date &apos;%1&apos; as %2 (%3 proves it)</source>
+        <translation>fecha «%1» como %2 (lo prueba %3)</translation>
+    </message>
+    <message>
+        <source>amount &apos;%1&apos;</source>
+        <translation>importe «%1»</translation>
+    </message>
+    <message>
+        <source>money in &apos;%1&apos;</source>
+        <translation>entradas «%1»</translation>
+    </message>
+    <message>
+        <source>money out &apos;%1&apos;</source>
+        <translation>salidas «%1»</translation>
+    </message>
+    <message>
+        <source>sign &apos;%1&apos;</source>
+        <translation>signo «%1»</translation>
+    </message>
+    <message>
+        <source>fee &apos;%1&apos;</source>
+        <translation>comisión «%1»</translation>
+    </message>
+    <message>
+        <source>payee &apos;%1&apos;</source>
+        <translation>beneficiario «%1»</translation>
+    </message>
+    <message>
+        <source>text &apos;%1&apos;</source>
+        <translation>texto «%1»</translation>
+    </message>
+    <message>
+        <source>balance &apos;%1&apos;</source>
+        <translation>saldo «%1»</translation>
+    </message>
+    <message>
+        <source>account &apos;%1&apos;</source>
+        <translation>cuenta «%1»</translation>
+    </message>
+    <message>
+        <source>headings on line %1</source>
+        <translation>encabezados en la línea %1</translation>
+    </message>
+    <message>
+        <source>What is below the entries from line %1 on is skipped.</source>
+        <translation>Se omite lo que hay debajo de los movimientos a partir de la línea %1.</translation>
     </message>
 </context>
 <context>

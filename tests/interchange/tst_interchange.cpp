@@ -179,7 +179,7 @@ QString linesOf(Statement statement)
 qsizetype entriesIn(const QString &form, QString text)
 {
     static const QRegularExpression lineWithDay(
-        uR"((?m)^(?=.*[,;|\t].*[,;|\t])(.*[,;|\t"])?[ \t]*(\d{4}-\d\d-\d\d(?![-\d])|\d\d?/\d\d?/\d\d|\d\d([. ])\d\d\3\d{4}).*$)"_s);
+        uR"((?m)^(?=.*[,;|\t"].*[,;|\t"])(.*[,;|\t"])?[ \t]*(\d{4}-\d\d-\d\d(?![-\d])|\d\d?/\d\d?/\d\d|\d\d([. ])\d\d\3\d{4}).*$)"_s);
     static const QRegularExpression end(u"\n[ \\t]*(\\^|!(?![OoCc]))"_s);
     static const QRegularExpression amount(u"\n[ \\t]*[TU]\\s*[-+.,\\d]"_s);
     static const QRegularExpression date(u"\n[ \\t]*D *\\d+ *[-./] *\\d"_s);
@@ -197,7 +197,7 @@ qsizetype entriesIn(const QString &form, QString text)
     qsizetype entries = 0;
     text.remove(QRegularExpression(u"!Type:Invst[^!]*|(?<=\n)S.*\n *D.*\n(?=[$E])"_s));
     for (const QString &record : text.split(end).filter(amount))
-        entries += std::max(record.count(date), record.count(share));
+        entries += std::max(record.section(share, 0, 0).count(date), record.count(share));
     return entries;
 }
 
