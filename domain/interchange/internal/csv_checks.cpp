@@ -56,7 +56,10 @@ void requireHeadings(const CsvSheet &sheet, const CsvLayout &layout)
 
 void requireNoEntry(const CsvRecord &skipped, const CsvLayout &layout)
 {
-    if (dayOf(skipped.cells, layout))
+    const QString day = skipped.cells.value(layout.columns.date).trimmed();
+    // Of a day that is damaged, the rest is still there; "Balance of 05.01." is no day.
+    if (dayOf(skipped.cells, layout) ||
+        (!day.isEmpty() && day[0].isDigit() && DayForms::isDayLike(day)))
         throw faults::entryLeftOut(skipped.place);
 }
 
