@@ -35,6 +35,12 @@ QStringList namedHeadings(const CsvProfile &profile)
     return named;
 }
 
+/// What stands from there on, as long as the text lives: a copy could need much memory.
+QString restOf(const QString &text, qsizetype offset)
+{
+    return QString::fromRawData(text.constData() + offset, text.size() - offset);
+}
+
 bool isNumber(const QString &cell)
 {
     const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
@@ -97,7 +103,7 @@ public:
             delimiters = {*m_profile.delimiter};
         Start best{delimiters.size() > 1 ? guessDelimiter(line) : delimiters[0], m_first,
                    m_profile.hasHeadings.value_or(true)};
-        const QString text = m_text.mid(offset);
+        const QString text = restOf(m_text, offset);
         for (const QChar delimiter : delimiters) {
             const Start found = startIn(headOf(text, delimiter), delimiter);
             if (found.score > best.score)
@@ -293,7 +299,7 @@ CsvSheet sheetOf(const QByteArray &bytes, const QString &file, const CsvProfile 
     LineCursor lines(text, file);
     while (lines.place().line + 1 < start.line && lines.next()) {
     }
-    sheet.rows = readCsvTable(text.mid(lines.offset()), file, start.delimiter,
+    sheet.rows = readCsvTable(restOf(text, lines.offset()), file, start.delimiter,
                               transactionsMax + (start.hasHeadings ? 1 : 0));
     for (CsvRecord &row : sheet.rows)
         row.place.line += start.line - 1;
