@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/camt_reader.h"
 
+#include "interchange/draft.h"
 #include "interchange/internal/camt_entry.h"
 #include "interchange/internal/camt_tree.h"
 #include "interchange/internal/declared_encoding.h"
@@ -32,7 +33,7 @@ public:
         if (element.tag == u"Acct")
             takeAccount(element);
         else if (element.tag == u"Bal")
-            m_balances.push_back(std::move(element));
+            addBalance(std::move(element));
         else if (element.tag == u"Ntry")
             takeEntry(element);
         else if (element.tag.endsWith(u"Pgntn"))
@@ -61,6 +62,13 @@ private:
         m_part.account = number.isEmpty() ? account.text({"Id", "Othr", "Id"}) : number;
         if (const QString code = account.text("Ccy"); !code.isEmpty())
             m_part.currency = internal::currencyOf(code, account.place);
+    }
+
+    void addBalance(Element balance)
+    {
+        if (static_cast<qsizetype>(m_balances.size()) >= transactionsMax)
+            throw faults::tooManyTransactions(balance.place, transactionsMax);
+        m_balances.push_back(std::move(balance));
     }
 
     void takeEntry(const Element &entry)
@@ -109,6 +117,7 @@ std::vector<Statement> readCamt(const QByteArray &bytes, const QString &file,
     internal::EntryCount count;
     std::vector<StatementPart> parts;
     while (tree.nextStatement()) {
+        count.addPart(tree.place());
         StatementTaker taker(options, count);
         while (auto element = tree.nextElement())
             taker.take(std::move(*element));

@@ -144,8 +144,10 @@ private:
     {
         if (m_part.opening || m_part.closing || !m_part.entries.empty())
             finish();
-        if (!m_isOpen)
+        if (!m_isOpen) {
             m_begin = m_lines.place();
+            m_count.addPart(m_begin);
+        }
         m_isOpen = true;
     }
 

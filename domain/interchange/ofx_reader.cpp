@@ -183,6 +183,7 @@ void takeBalance(const Element &balance, StatementPart &part)
 StatementPart partOf(const Element &statement, std::size_t number, internal::EntryCount &count,
                      internal::OfxCorrections &corrections)
 {
+    count.addPart(statement.place);
     StatementPart part{accountOf(statement), currencyOf(statement.text("CURDEF"), statement.place)};
     for (const Element &list : statement.children) {
         if (list.tag == u"LEDGERBAL")

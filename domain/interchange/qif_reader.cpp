@@ -14,6 +14,8 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <map>
+
 namespace kiv::interchange {
 
 namespace {
@@ -108,6 +110,10 @@ public:
     }
 
 private:
+    struct KnownAccount {
+        std::size_t number;
+        QString kind;
+    };
     enum class Section { None, Transactions, Skipped, Investments };
 
     /// Whether the line can only belong to an entry. Lists of accounts and categories have
@@ -153,15 +159,14 @@ private:
     /// list without a name may be of any account.
     std::size_t accountOf(const Place &place)
     {
-        const qsizetype found = m_file.accounts.indexOf(m_account);
-        const qsizetype at = found < 0 ? m_file.accounts.size() : found;
-        if (found < 0) {
+        const auto [found, isNew] =
+            m_known.try_emplace(m_account, KnownAccount{m_known.size(), m_kind});
+        if (isNew)
             m_file.accounts += m_account;
-            m_kinds += m_kind;
-        }
-        if (m_kinds[at] != m_kind || (at > 0 && m_file.accounts.contains(QString())))
+        if (found->second.kind != m_kind ||
+            (m_known.size() > 1 && m_known.begin()->first.isEmpty()))
             throw faults::severalAccounts(place);
-        return static_cast<std::size_t>(at);
+        return found->second.number;
     }
 
     void notice(const QString &text)
@@ -256,7 +261,7 @@ private:
     QString m_named;                    ///< name in the last !Account record
     QString m_account;                  ///< whose entries are read
     QString m_kind;                     ///< of that account
-    QStringList m_kinds;                ///< of all accounts
+    std::map<QString, KnownAccount> m_known;
     Record m_record;
     qsizetype m_entries = 0; ///< of the file: records, and parts of them
     QifFile m_file;

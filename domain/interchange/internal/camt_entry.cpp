@@ -111,7 +111,7 @@ numira::Currency currencyOf(const QString &code, const Place &place)
 
 numira::Currency currencyOf(const Element &amount)
 {
-    return currencyOf(amount.currency, amount.place);
+    return currencyOf(amount.text("Ccy"), amount.place);
 }
 
 bool isBooked(const Element &entry)

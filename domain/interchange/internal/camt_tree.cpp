@@ -47,6 +47,15 @@ CamtTree::CamtTree(const QString &text, QString file) : m_xml(text), m_file(std:
 {
     if (const qsizetype at = text.indexOf(QStringLiteral("<!DOCTYPE")); at >= 0)
         throw faults::documentType({m_file, QStringView(text).left(at).count(u'\n') + 1});
+    // The reader of XML keeps a text whole.
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype next = text.indexOf(u'<', at);
+        const qsizetype end = next < 0 ? text.size() : next;
+        if (end - at > lineMax)
+            throw faults::textTooLong({m_file, QStringView(text).left(at).count(u'\n') + 1},
+                                      lineMax);
+        at = end + 1;
+    }
 }
 
 Place CamtTree::place() const
@@ -104,8 +113,10 @@ std::optional<Element> CamtTree::nextElement()
 Element CamtTree::takeElement(int depth)
 {
     Element element{m_xml.name().toString(), place()};
+    // An amount's currency is an attribute, and becomes an element in it.
     if (element.tag == u"Amt")
-        element.currency = m_xml.attributes().value(QLatin1String("Ccy")).toString();
+        element.children.push_back({QStringLiteral("Ccy"), element.place,
+                                    m_xml.attributes().value(QLatin1String("Ccy")).toString()});
     if (depth > depthMax)
         throw faults::nestedTooDeeply(element.place);
     if (++m_elements > elementsMax)

@@ -22,6 +22,8 @@ public:
     /// The next element of the statement; nothing at its end.
     std::optional<Element> nextElement();
 
+    /// Where it is read at present.
+    [[nodiscard]] Place place() const;
     /// Whether it was a message about accounts at all.
     [[nodiscard]] bool isCamt() const noexcept { return m_isCamt; }
     /// Where the message says that another one continues it.
@@ -29,7 +31,6 @@ public:
 
 private:
     QXmlStreamReader::TokenType next();
-    [[nodiscard]] Place place() const;
     Element takeElement(int depth);
     void skipElement();
 

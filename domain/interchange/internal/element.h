@@ -17,7 +17,6 @@ struct Element {
     QString value = {};
     std::vector<Element> children = {};
     bool holdsElements = false; ///< also elements that were left out
-    QString currency = {};      ///< of an amount of CAMT
 
     /// The first child with this tag; null when there is none.
     [[nodiscard]] const Element *child(const char *name) const;

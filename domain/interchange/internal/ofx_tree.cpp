@@ -22,6 +22,8 @@ namespace {
 constexpr std::size_t depthMax = 32;
 /// A transaction has about ten.
 constexpr qsizetype elementsMax = 16 * transactionsMax;
+/// Transactions, with the statements and lists that hold them.
+constexpr qsizetype entriesMax = transactionsMax + 4096;
 
 /// Replaces entities, by name or number ("&#252;", "&#xFC;"). Other texts after an
 /// ampersand stay, since banks write names that way; so do entities of control characters.
@@ -202,11 +204,12 @@ private:
     {
         if (!m_open.empty() && isValueTag(m_open.back().tag))
             finishUnclosed();
-        if (++m_count > elementsMax)
+        m_entries += isListTag(tag) || tag.endsWith(u"STMTRS");
+        if (++m_count > elementsMax || m_entries > entriesMax)
             throw faults::tooManyTransactions(m_place, transactionsMax);
         if (m_open.size() >= depthMax)
             throw faults::nestedTooDeeply(m_place);
-        m_open.push_back({tag, m_place});
+        m_open.push_back({*m_tags.insert(tag).first, m_place});
     }
 
     void requireRoom(qsizetype characters) const
@@ -303,6 +306,8 @@ private:
     Place m_place;
     qsizetype m_at = 0;
     qsizetype m_count = 0;
+    qsizetype m_entries = 0;  ///< see entriesMax
+    std::set<QString> m_tags; ///< so that equal ones share their memory
     bool m_isXml = false;
     bool m_hasClosedAmount = false;
     std::optional<Place> m_unclosedAmount; ///< under a header of XML

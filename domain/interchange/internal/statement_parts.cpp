@@ -98,6 +98,12 @@ void EntryCount::add(const StatementEntry &entry)
     m_descriptions.add(entry.text, entry.place);
 }
 
+void EntryCount::addPart(const Place &place)
+{
+    if (++m_parts > transactionsMax)
+        throw faults::tooManyTransactions(place, transactionsMax);
+}
+
 std::vector<Statement> joinedStatements(std::vector<StatementPart> parts)
 {
     std::map<std::pair<QString, numira::Currency>, std::size_t> places;

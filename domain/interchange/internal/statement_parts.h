@@ -33,9 +33,12 @@ public:
     /// Throws ImportError when a text is too long, and when there are more entries or longer
     /// texts than a budget holds.
     void add(const StatementEntry &entry);
+    /// Throws ImportError for more parts than entries may be: empty ones need memory, too.
+    void addPart(const Place &place);
 
 private:
     qsizetype m_entries = 0;
+    qsizetype m_parts = 0;
     DescriptionCount m_descriptions;
 };
 
