@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/reconciliation_derivation.h"
 
+#include "accounting/recoded_accounts.h"
+
 #include <algorithm>
 
 namespace kiv::surveying {
@@ -39,25 +41,8 @@ bool isReconciledOn(const TransactionOutline &outline, AccountNumber account)
 /// The new numbers of recoded accounts.
 class Recodes {
 public:
-    Recodes(const GeneralLedger &before, const GeneralLedger &after,
-            const std::vector<TransactionNumber> &changed)
+    explicit Recodes(std::map<AccountNumber, AccountNumber> numbers) : m_numbers(std::move(numbers))
     {
-        const auto follow = [&](AccountNumber from, AccountNumber to) {
-            if (from == to || after.hasLedger(from) || before.hasLedger(to))
-                return;
-            // One whose transactions went to several accounts was not recoded.
-            const auto [found, isNew] = m_numbers.try_emplace(from, to);
-            if (!isNew && found->second != to)
-                found->second = from;
-        };
-        for (const TransactionNumber number : changed) {
-            const auto was = before.lookUpOutline(number);
-            const auto is = after.lookUpOutline(number);
-            if (was && is) {
-                follow(was->debit, is->debit);
-                follow(was->credit, is->credit);
-            }
-        }
     }
 
     [[nodiscard]] AccountNumber operator()(AccountNumber number) const
@@ -212,7 +197,7 @@ Reconciliations reconciliationsAfter(Reconciliations kept, const SurveyedBooks &
 {
     const std::vector<TransactionNumber> changed =
         accounting::changedTransactions(before.ledger, after.ledger);
-    const Recodes recoded(before.ledger, after.ledger, changed);
+    const Recodes recoded(accounting::recodedAccounts(before.ledger, after.ledger, changed));
     const Statements statements = statementsOf(after.surveys);
     Statements former = statementsOf(before.surveys);
     follow(kept, movesBetween(former, statements, recoded), former);

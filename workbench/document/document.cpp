@@ -227,10 +227,12 @@ void Document::save(const Deed &deed)
     refuseReadOnly();
     (void)navigator();
     m_storage->setChange(deed.line);
+    m_storage->setNotes(m_notes);
     m_deed = deed;
     m_isKept = false;
     store(&Navigator::onSaveBudgetFile);
     m_deed = {};
+    m_notes.reset();
     // What was written at once begins anew: the file was lost.
     if (m_keeping == Keeping::WithinASecond && !m_isKept)
         begin();
@@ -275,6 +277,7 @@ void Document::revert()
         return;
     m_goesTo.reset();
     m_goesOff.reset();
+    m_notes.reset();
     m_file = m_storage->openFile(); // a lost one was only chosen
     // Not from the file, which may be missing or older than the budget in memory.
     if (const auto &present = m_storage->present()) {

@@ -197,6 +197,12 @@ public:
     /// Repairs the budget in memory now, as the next opening of its file would.
     void mend();
 
+    /// What is remembered beside the budget: rules of imports, and the like.
+    [[nodiscard]] storage::Notes notes() const;
+    /// Remembers these instead, with the next save() or perform(); revert() forgets them. Undo
+    /// takes them back as any change.
+    void setNotes(storage::Notes notes);
+
     /// The reconciliations of the budget as it was opened or saved last.
     [[nodiscard]] std::vector<JudgedReconciliation> reconciliations() const;
     /// For each account that was reconciled, whether all its reconciliations hold.
@@ -253,6 +259,7 @@ private:
     Keeping m_keeping = Keeping::AtOnce;
     History m_history;
     Deed m_deed;                             ///< that save() keeps
+    std::optional<storage::Notes> m_notes;   ///< that it keeps, if they are others
     bool m_isKept = false;                   ///< whether it is a step
     std::optional<std::size_t> m_goesTo;     ///< the step that the next save() settles
     std::optional<History::Entry> m_goesOff; ///< the same, for one that is no step

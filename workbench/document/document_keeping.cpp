@@ -57,10 +57,10 @@ void Document::keep(const BudgetStorage::Data &data)
         m_history.goTo(place);
         if (!m_history.present().content->has(data)) // it was repaired
             m_history.replacePresent(data);
-    } else if (m_history.present().content->has(data)) {
+    } else if (m_history.present().content->has(data) && !m_notes) {
         return;
     } else {
-        (void)m_history.add(data, m_deed, !m_storage->isNew());
+        (void)m_history.add(data, m_deed, !m_storage->isNew(), m_notes);
     }
     const History::Entry &present = m_history.present();
     again.dismiss();
@@ -145,6 +145,20 @@ void Document::saveCopy(const QString &file)
     storage::BudgetFile copy;
     copy.setFilePathName(withExtension(file));
     (void)copy.storeVersion(version);
+}
+
+storage::Notes Document::notes() const
+{
+    if (m_notes || !m_storage)
+        return m_notes.value_or(storage::Notes());
+    return m_history.isEmpty() ? m_storage->notes() : m_history.present().content->notes();
+}
+
+void Document::setNotes(storage::Notes notes)
+{
+    if (notes == this->notes())
+        return;
+    m_notes = std::move(notes);
 }
 
 void Document::reload()

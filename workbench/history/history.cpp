@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/history/history.h"
 
+#include "workbench/notes/account_notes.h"
+
 #include "surveying/reconciliation_derivation.h"
 
 #include <algorithm>
@@ -53,30 +55,30 @@ void History::begin(Entry entry)
 }
 
 SharedVersion History::following(const Entry &before, const BudgetStorage::Data &data,
-                                 bool isFollowing) const
+                                 bool isFollowing, const std::optional<storage::Notes> &notes) const
 {
     const SharedVersion &old = before.content.value();
     if (!isFollowing) {
         return SharedVersion(
             {data,
              surveying::reconciliationsAfter({}, {{}, {}}, {data.surveys, data.generalLedger}),
-             {},
+             notes.value_or(storage::Notes()),
              {}});
     }
     return SharedVersion(
         {data,
          surveying::reconciliationsAfter(old.reconciliations(), {old.surveys(), old.ledger()},
                                          {data.surveys, data.generalLedger}),
-         old.notes(),
+         notesAfter(notes.value_or(old.notes()), old.ledger(), data.generalLedger),
          {}},
         &old);
 }
 
 const History::Entry &History::add(const BudgetStorage::Data &data, const Deed &deed,
-                                   bool isFollowing)
+                                   bool isFollowing, const std::optional<storage::Notes> &notes)
 {
     const Entry &before = present();
-    Entry entry{deed, before.mark.next(), following(before, data, isFollowing)};
+    Entry entry{deed, before.mark.next(), following(before, data, isFollowing, notes)};
     entry.mark.number = 0;
     entry.first = deed.line.endsWith(u'.') ? deed.line.chopped(1) : deed.line;
     if (!before.wasHandedOver) {
@@ -104,7 +106,7 @@ const History::Entry &History::add(const BudgetStorage::Data &data, const Deed &
 void History::replacePresent(const BudgetStorage::Data &data)
 {
     Entry &entry = m_entries.at(m_place);
-    entry.content = following(entry, data, true);
+    entry.content = following(entry, data, true, std::nullopt);
     VersionMark mark = entry.mark.next();
     mark.number = 0;
     mark.change = entry.mark.change;

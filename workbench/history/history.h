@@ -62,8 +62,9 @@ public:
     /// Adds the budget as a step from the present one and makes it present; those behind
     /// are forgotten. If the present one was not handed over to be written, both are one
     /// version in the file. Nothing that is kept beside the budget follows from a budget
-    /// that is not `isFollowing`.
-    const Entry &add(const storage::BudgetStorage::Data &data, const Deed &deed, bool isFollowing);
+    /// that is not `isFollowing`. `notes` take the place of those before, if they are given.
+    const Entry &add(const storage::BudgetStorage::Data &data, const Deed &deed, bool isFollowing,
+                     const std::optional<storage::Notes> &notes = std::nullopt);
     /// Makes this one present.
     void goTo(std::size_t place) { m_place = place; }
     /// The present one has other content, after it was repaired.
@@ -83,7 +84,8 @@ private:
     [[nodiscard]] static Entry entryOf(const storage::KeptVersion &version);
     [[nodiscard]] SharedVersion following(const Entry &before,
                                           const storage::BudgetStorage::Data &data,
-                                          bool isFollowing) const;
+                                          bool isFollowing,
+                                          const std::optional<storage::Notes> &notes) const;
 
     std::deque<Entry> m_entries;
     std::size_t m_place = 0;

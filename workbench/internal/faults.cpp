@@ -3,6 +3,8 @@
 
 #include "workbench/entry/kind_words.h"
 
+#include "foundation/presentation.h"
+
 #include <QtCore/QObject>
 
 namespace kiv::workbench::internal {
@@ -45,6 +47,40 @@ EntryError amountTooLarge(const QString &text)
 EntryError splitTooShort()
 {
     return EntryError(QObject::tr("A split has at least two parts."));
+}
+
+Refusal noOtherSide(const QString &text, QDate day)
+{
+    return Refusal(QObject::tr("It is not known what '%1' of %2 was for.")
+                       .arg(text, foundation::presentationText(day)));
+}
+
+ImportError otherCurrency(const Place &place, const numira::Currency &found,
+                          const numira::Currency &wanted)
+{
+    return {place,
+            QObject::tr("The amount is in %1, but the account is in %2.")
+                .arg(foundation::presentationText(found), foundation::presentationText(wanted))};
+}
+
+EntryError emptyRule()
+{
+    return EntryError(QObject::tr("A rule needs a text that entries contain."));
+}
+
+EntryError brokenPattern(const QString &pattern, const QString &reason)
+{
+    return EntryError(QObject::tr("'%1' is not a regular expression: %2.").arg(pattern, reason));
+}
+
+EntryError emptyRuleSpan()
+{
+    return EntryError(QObject::tr("No amount lies between those of the rule."));
+}
+
+Refusal tooManyRules()
+{
+    return Refusal(QObject::tr("There are too many rules; remove some first."));
 }
 
 EntryError tooManyDigits(const QString &text, const QString &currency, unsigned digitsMax)

@@ -5,6 +5,7 @@
 
 #include "budgeting/identifiers.h"
 #include "interchange/errors.h"
+#include "numira/currency.h"
 
 /// The errors of the workbench, one function for each.
 namespace kiv::workbench::internal {
@@ -40,6 +41,23 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError filterLacksValue(const QString &part);
 /// With similar keys.
 [[nodiscard]] EntryError notAFilter(const QString &part, const QStringList &similar);
+
+// ---- statements of banks -------------------------------------------------------
+
+/// `text` is what the bank says of the entry.
+[[nodiscard]] Refusal noOtherSide(const QString &text, QDate day);
+[[nodiscard]] interchange::ImportError otherCurrency(const interchange::Place &place,
+                                                     const numira::Currency &found,
+                                                     const numira::Currency &wanted);
+
+// ---- rules of imports ---------------------------------------------------------
+
+[[nodiscard]] EntryError emptyRule();
+/// `reason` says what is wrong with the regular expression.
+[[nodiscard]] EntryError brokenPattern(const QString &pattern, const QString &reason);
+/// No amount lies within those of the rule.
+[[nodiscard]] EntryError emptyRuleSpan();
+[[nodiscard]] Refusal tooManyRules();
 
 // ---- what is not in the budget -----------------------------------------------
 // `similar` are names to offer, see similarTo().

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/internal/recalling_storage.h"
 
+#include "workbench/notes/account_notes.h"
+
 #include <utility>
 
 namespace kiv::workbench {
@@ -67,15 +69,19 @@ void RecallingStorage::store(const Data &data)
         ++m_timesStored;
         return;
     }
-    if (isOpen) {
-        m_present = data;
-        m_isUnsaved = true;
-    }
+    const auto before = isOpen ? std::exchange(m_present, data) : m_present;
+    m_isUnsaved = m_isUnsaved || isOpen;
     withFile([&] {
-        if (m_restored && m_restored->second == data)
+        if (m_restored && m_restored->second == data) {
             m_file.restore(m_restored->first);
-        else
-            m_file.store(data);
+            return;
+        }
+        if (before && !m_isNew)
+            m_file.setNotes(notesAfter(m_notes.value_or(m_file.notes()), before->generalLedger,
+                                       data.generalLedger));
+        else if (m_notes)
+            m_file.setNotes(*m_notes);
+        m_file.store(data);
     });
     if (m_writer)
         m_writer->forget(); // it is in the new file
@@ -90,6 +96,7 @@ void RecallingStorage::settle(const Data &data)
     m_isUnsaved = false;
     m_isNew = false;
     m_change.clear();
+    m_notes.reset();
     m_restored.reset();
 }
 

@@ -35,6 +35,10 @@ public:
     /// See storage::BudgetFile.
     void setReading(bool isReading) noexcept { m_isReading = isReading; }
     void setChange(const QString &change) { m_change = change; }
+    /// The notes with the next save that is not kept later; without them, those before.
+    void setNotes(std::optional<storage::Notes> notes) { m_notes = std::move(notes); }
+    /// The notes of the version that was loaded or stored last, unless they are kept later.
+    [[nodiscard]] const storage::Notes &notes() const noexcept { return m_file.notes(); }
     [[nodiscard]] const std::optional<storage::StorageError> &obstacle() const noexcept
     {
         return m_obstacle;
@@ -103,6 +107,7 @@ private:
     QString m_chosenFile;
     QString m_openFile;
     QString m_change;
+    std::optional<storage::Notes> m_notes;
     bool m_isReading = false;
     bool m_isNew = false;
     std::optional<storage::StorageError> m_obstacle;

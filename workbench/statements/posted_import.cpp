@@ -12,14 +12,6 @@ using navigation::Navigator;
 
 namespace {
 
-QStringList textsOf(const std::vector<interchange::StatementNotice> &notices)
-{
-    QStringList texts;
-    for (const interchange::StatementNotice &notice : notices)
-        texts += notice.text;
-    return texts;
-}
-
 void postAll(Requests &requests, const std::vector<ImportedTransaction> &transactions)
 {
     for (const auto &[transaction, place, isSkipped] : transactions) {
@@ -58,21 +50,6 @@ PostedImport postDraft(Requests &requests, const interchange::Draft &draft, Know
             {transaction.withStatuses(drafted.debitStatus, drafted.creditStatus), drafted.place,
              isKnown && known == KnownTransactions::Skip});
     }
-    postAll(requests, import.transactions);
-    return import;
-}
-
-PostedImport postStatement(Requests &requests, const interchange::StatementPlan &plan,
-                           KnownTransactions known)
-{
-    PostedImport import{{}, {}, textsOf(plan.notices)};
-    for (const interchange::PlannedEntry &planned : plan.entries) {
-        const bool isSkipped = planned.isDuplicate && known == KnownTransactions::Skip;
-        import.transactions.push_back({planned.transaction, planned.entry.place, isSkipped});
-        if (!isSkipped)
-            import.notices += textsOf(planned.notices);
-    }
-    import.notices.removeDuplicates();
     postAll(requests, import.transactions);
     return import;
 }

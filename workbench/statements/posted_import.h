@@ -4,7 +4,6 @@
 #include "workbench/requests/requests.h"
 
 #include "interchange/draft.h"
-#include "interchange/statement_plan.h"
 
 /// Posts what another program's file contains.
 namespace kiv::workbench {
@@ -42,10 +41,5 @@ struct PostedImport {
 [[nodiscard]] KIV_WORKBENCH_EXPORT PostedImport postDraft(Requests &requests,
                                                           const interchange::Draft &draft,
                                                           KnownTransactions known);
-
-/// Posts the entries of a bank statement, whose counter-accounts must all be chosen. Throws
-/// as postDraft() does.
-[[nodiscard]] KIV_WORKBENCH_EXPORT PostedImport
-postStatement(Requests &requests, const interchange::StatementPlan &plan, KnownTransactions known);
 
 } // namespace kiv::workbench

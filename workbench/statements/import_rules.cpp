@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/statements/import_rules.h"
+
+#include "workbench/entry/folded.h"
+#include "workbench/internal/faults.h"
+
+namespace kiv::workbench {
+
+namespace {
+
+QRegularExpression patternOf(const ImportRule &rule)
+{
+    return QRegularExpression(rule.text, QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::UseUnicodePropertiesOption);
+}
+
+bool isWithin(const ImportRule &rule, const numira::Decimal &amount)
+{
+    return !(rule.least && amount < *rule.least) && !(rule.most && *rule.most < amount);
+}
+
+} // namespace
+
+void requireSound(const ImportRule &rule)
+{
+    if (rule.text.trimmed().isEmpty())
+        throw internal::emptyRule();
+    if (const QRegularExpression pattern = patternOf(rule); rule.isPattern && !pattern.isValid())
+        throw internal::brokenPattern(rule.text, pattern.errorString());
+    const numira::Decimal none;
+    if ((rule.least && *rule.least < none) || (rule.most && *rule.most < none) ||
+        (rule.least && rule.most && *rule.most < *rule.least))
+        throw internal::emptyRuleSpan();
+}
+
+QString ruleText(const interchange::StatementEntry &entry)
+{
+    return entry.payee.isEmpty() || entry.text.isEmpty() ? entry.payee + entry.text
+                                                         : entry.payee + u' ' + entry.text;
+}
+
+RuleBook::RuleBook(std::vector<ImportRule> rules) : m_rules(std::move(rules))
+{
+    for (const ImportRule &rule : m_rules) {
+        m_parts.push_back(rule.isPattern ? QString() : folded(rule.text.simplified()));
+        m_patterns.push_back(rule.isPattern ? patternOf(rule) : QRegularExpression());
+    }
+}
+
+std::optional<std::size_t> RuleBook::first(const interchange::StatementEntry &entry,
+                                           accounting::AccountNumber account) const
+{
+    if (m_rules.empty())
+        return std::nullopt;
+    const QString text = ruleText(entry);
+    const QString plain = folded(text.simplified());
+    const numira::Decimal amount = entry.amount.abs().amount();
+    for (std::size_t at = 0; at < m_rules.size(); ++at) {
+        const ImportRule &rule = m_rules[at];
+        if (rule.of.value_or(account) != account || !isWithin(rule, amount))
+            continue;
+        if (rule.isPattern ? m_patterns[at].match(text).hasMatch() : plain.contains(m_parts[at]))
+            return at;
+    }
+    return std::nullopt;
+}
+
+} // namespace kiv::workbench

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/statements/internal/ledger_lines.h"
+
+#include "workbench/entry/description.h"
+#include "workbench/entry/folded.h"
+
+#include <algorithm>
+
+namespace kiv::workbench::internal {
+
+using accounting::AccountNumber;
+using accounting::Transaction;
+using accounting::TransactionStatuses;
+using numira::Decimal;
+
+namespace {
+
+/// The identifier of the account's own side. A transfer that two statements told has two, the
+/// debited side's first; one that only the other statement told has one.
+QString ownIdOf(const QStringList &ids, bool isDebit, bool isToldByOther)
+{
+    if (ids.size() >= 2)
+        return isDebit ? ids.front() : ids.back();
+    return ids.isEmpty() || isToldByOther ? QString() : ids.front();
+}
+
+} // namespace
+
+LedgerLines::LedgerLines(const StatementBooks &books)
+    : m_account(books.account.number()), m_books(books)
+{
+    for (const accounting::Account &account : books.accounts) {
+        if (account.isClosed())
+            m_closed.insert(account.code().number());
+    }
+    for (const Transaction &transaction : books.posted) {
+        if (!transaction.involves(m_account) || transaction.number() == books.opening)
+            continue;
+        const bool isDebit = transaction.debiting().number() == m_account;
+        LedgerLine line{&transaction, transaction.occurredOn(),
+                        transaction.amountFor(m_account).amount(), transaction.debitStatus(),
+                        transaction.creditStatus()};
+        if (!isDebit) {
+            line.amount = -line.amount;
+            std::swap(line.own, line.other);
+        }
+        const auto &text = transaction.description();
+        if (text && text->endsWith(u']')) // most have no identifier
+            line.toldAs = ownIdOf(Description::of(*text).bankIds, isDebit, isToldByOther(line));
+        const std::size_t place = m_lines.size();
+        if (!line.toldAs.isEmpty())
+            m_byId.emplace(line.toldAs, place);
+        m_amounts.insert(line.amount);
+        m_byDay[{line.day.toJulianDay(), line.amount}].push_back(place);
+        m_lines.push_back(std::move(line));
+    }
+    addGroups();
+}
+
+void LedgerLines::addGroups()
+{
+    std::map<std::pair<qint64, QString>, std::vector<std::size_t>> alike;
+    for (std::size_t place = 0; place < m_lines.size(); ++place) {
+        const LedgerLine &line = m_lines[place];
+        const auto &text = line.transaction->description();
+        alike[{line.day.toJulianDay(),
+               (line.amount.sign() < 0 ? u'-' : u'+') +
+                   (text ? Description::withoutIds(*text).toString() : QString())}]
+            .push_back(place);
+    }
+    for (auto &[key, lines] : alike) {
+        if (lines.size() < 2)
+            continue;
+        LineGroup group{std::move(lines), QDate::fromJulianDay(key.first), {}};
+        for (const std::size_t place : group.lines)
+            group.sum += m_lines[place].amount;
+        m_amounts.insert(group.sum);
+        m_groupsByDay[{key.first, group.sum}].push_back(m_groups.size());
+        m_groups.push_back(std::move(group));
+    }
+}
+
+std::vector<std::size_t> LedgerLines::toldAs(const QString &bankId) const
+{
+    std::vector<std::size_t> places;
+    const auto [first, last] = m_byId.equal_range(bankId);
+    for (auto found = first; found != last; ++found)
+        places.push_back(found->second);
+    std::ranges::sort(places);
+    return places;
+}
+
+const std::vector<std::size_t> &LedgerLines::on(QDate day, const Decimal &amount) const
+{
+    static const std::vector<std::size_t> none;
+    const auto found = m_byDay.find({day.toJulianDay(), amount});
+    return found == m_byDay.end() ? none : found->second;
+}
+
+const LineGroup *LedgerLines::split(QDate day, const Decimal &sum) const
+{
+    const auto found = m_groupsByDay.find({day.toJulianDay(), sum});
+    if (found == m_groupsByDay.end())
+        return nullptr;
+    const auto isOpen = [this](std::size_t place) {
+        return m_lines[place].isFree && m_lines[place].toldAs.isEmpty();
+    };
+    for (const std::size_t group : found->second) {
+        if (std::ranges::all_of(m_groups[group].lines, isOpen))
+            return &m_groups[group];
+    }
+    return nullptr;
+}
+
+const QStringList &LedgerLines::words(std::size_t place)
+{
+    const auto found = m_words.find(place);
+    if (found != m_words.end())
+        return found->second;
+    const auto &text = m_lines.at(place).transaction->description();
+    return m_words
+        .emplace(place, tellingWords(text ? Description::withoutIds(*text).toString() : QString()))
+        .first->second;
+}
+
+bool LedgerLines::canBeNamed(const LedgerLine &line) const
+{
+    return line.own != TransactionStatuses::Reconciled &&
+           line.other != TransactionStatuses::Reconciled &&
+           !m_closed.contains(line.transaction->debiting().number()) &&
+           !m_closed.contains(line.transaction->crediting().number());
+}
+
+bool LedgerLines::isToldByOther(const LedgerLine &line) const
+{
+    const AccountNumber debit = line.transaction->debiting().number();
+    const AccountNumber other = debit == m_account ? line.transaction->crediting().number() : debit;
+    return line.own == TransactionStatuses::None && line.other != TransactionStatuses::None &&
+           m_books.kept.contains(other);
+}
+
+QStringList tellingWords(const QString &text)
+{
+    QStringList words;
+    QString word;
+    const QString said = folded(text) + u' ';
+    for (const QChar letter : said) {
+        if (letter.isLetter() || letter.isSurrogate()) {
+            word += letter;
+            continue;
+        }
+        if (word.size() >= 3)
+            words += word;
+        word.clear();
+    }
+    return words;
+}
+
+} // namespace kiv::workbench::internal

@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/statements/internal/statement_matcher.h"
+
+#include "workbench/entry/description.h"
+#include "workbench/entry/folded.h"
+#include "workbench/statements/import_rules.h"
+
+#include <algorithm>
+
+namespace kiv::workbench::internal {
+
+using accounting::TransactionStatuses;
+using interchange::StatementEntry;
+
+namespace {
+
+/// Banks give identifiers again, but not within so many days.
+constexpr qint64 sameIdDays = 15;
+/// How many bank days later than it was entered a payment may be booked, or earlier.
+constexpr int laterMax = 5;
+constexpr int earlierMax = 3;
+/// As calendar days: a weekend lies between, or two.
+constexpr int laterDays = 9;
+constexpr int earlierDays = 5;
+/// So many steps are tried to find another line; many equal amounts would take for ever.
+constexpr std::size_t stepsMax = 2'000;
+
+/// Days from the one of a line to the one of an entry, the nearest first.
+std::vector<int> distances()
+{
+    std::vector<int> all;
+    for (int days = 0; days <= laterDays; ++days) {
+        all.push_back(days);
+        if (days > 0 && days <= earlierDays)
+            all.push_back(-days);
+    }
+    return all;
+}
+
+bool isNear(QDate line, QDate entry)
+{
+    return bankDaysBetween(line, entry) <= (line <= entry ? laterMax : earlierMax);
+}
+
+QString contentOf(const StatementEntry &entry)
+{
+    return folded((entry.payee + u' ' + entry.text).simplified());
+}
+
+QString contentOf(const LedgerLine &line)
+{
+    const Description said = Description::of(line.transaction->description());
+    return folded((said.payee + u' ' + said.reason).simplified());
+}
+
+} // namespace
+
+StatementMatcher::StatementMatcher(const StatementBooks &books,
+                                   const std::vector<StatementEntry> &entries)
+    : m_entries(entries), m_lines(books), m_matches(entries.size()), m_places(entries.size())
+{
+    for (std::size_t place = 0; place < m_lines.size(); ++place)
+        m_byNumber.emplace(m_lines.at(place).number(), place);
+}
+
+std::vector<std::optional<ImportMatch>> StatementMatcher::match()
+{
+    matchIdentifiers();
+    matchContent();
+    matchTold();
+    matchNear(true);
+    matchNear(false);
+    matchRest();
+    tellSeveral();
+    return m_matches;
+}
+
+void StatementMatcher::settle(std::size_t entry, Places places, MatchGrounds grounds)
+{
+    ImportMatch match{{}, grounds, m_lines.at(places.front()).day};
+    for (const std::size_t place : places) {
+        match.numbers.push_back(m_lines.at(place).number());
+        m_lines.take(place);
+        m_takenBy[place] = entry;
+    }
+    m_matches[entry] = std::move(match);
+    m_places[entry] = std::move(places);
+}
+
+void StatementMatcher::matchIdentifiers()
+{
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        const StatementEntry &told = m_entries[entry];
+        Places found;
+        numira::Decimal sum;
+        bool isOne = false;
+        for (const std::size_t place : m_lines.toldAs(told.bankId)) {
+            const LedgerLine &line = m_lines.at(place);
+            if (!line.isFree || std::abs(line.day.daysTo(told.date)) > sameIdDays)
+                continue;
+            if (line.amount == told.amount.amount()) {
+                found = {place};
+                isOne = true;
+                break;
+            }
+            found.push_back(place);
+            sum += line.amount;
+        }
+        if (isOne || (found.size() > 1 && sum == told.amount.amount()))
+            settle(entry, std::move(found), MatchGrounds::Identifier);
+    }
+}
+
+void StatementMatcher::matchContent()
+{
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        if (m_matches[entry])
+            continue;
+        const StatementEntry &told = m_entries[entry];
+        const Places &sameDay = m_lines.on(told.date, told.amount.amount());
+        if (sameDay.empty())
+            continue;
+        const QString content = contentOf(told);
+        const auto isSame = [&](std::size_t place) {
+            return fits(entry, place) && contentOf(m_lines.at(place)) == content;
+        };
+        if (const auto found = std::ranges::find_if(sameDay, isSame); found != sameDay.end())
+            settle(entry, {*found}, MatchGrounds::Content);
+    }
+}
+
+/// One of two forms of file has no identifiers of the bank: the day is the bank's in both.
+void StatementMatcher::matchTold()
+{
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        if (m_matches[entry])
+            continue;
+        const StatementEntry &told = m_entries[entry];
+        const auto isSame = [&](std::size_t place) {
+            const LedgerLine &line = m_lines.at(place);
+            return line.isFree && !line.toldAs.isEmpty() &&
+                   isMadeUp(line.toldAs) != isMadeUp(told.bankId);
+        };
+        const Places &sameDay = m_lines.on(told.date, told.amount.amount());
+        if (const auto found = std::ranges::find_if(sameDay, isSame); found != sameDay.end())
+            settle(entry, {*found}, MatchGrounds::Told);
+    }
+}
+
+bool StatementMatcher::fits(std::size_t entry, std::size_t place) const
+{
+    const LedgerLine &line = m_lines.at(place);
+    return line.isFree && line.toldAs.isEmpty() && isNear(line.day, m_entries[entry].date);
+}
+
+bool StatementMatcher::sharesWord(std::size_t entry, std::size_t place)
+{
+    const QStringList words = tellingWords(ruleText(m_entries[entry]));
+    return std::ranges::any_of(m_lines.words(place),
+                               [&words](const QString &word) { return words.contains(word); });
+}
+
+std::vector<std::size_t> StatementMatcher::unmatched() const
+{
+    std::vector<std::size_t> left;
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        if (!m_matches[entry] && m_lines.hasAmount(m_entries[entry].amount.amount()))
+            left.push_back(entry);
+    }
+    return left;
+}
+
+void StatementMatcher::matchNear(bool mustShare)
+{
+    const std::vector<std::size_t> left = unmatched();
+    for (const int days : distances()) {
+        for (const std::size_t entry : left) {
+            if (m_matches[entry])
+                continue;
+            const QDate day = m_entries[entry].date.addDays(-days);
+            const numira::Decimal &amount = m_entries[entry].amount.amount();
+            // Typed entries come before what another account's statement told.
+            std::optional<std::size_t> found;
+            for (const std::size_t place : m_lines.on(day, amount)) {
+                if (!fits(entry, place) || (mustShare && !sharesWord(entry, place)))
+                    continue;
+                if (!found || (m_lines.isToldByOther(m_lines.at(*found)) &&
+                               !m_lines.isToldByOther(m_lines.at(place))))
+                    found = place;
+            }
+            if (found) {
+                settle(entry, {*found}, mustShare ? MatchGrounds::Text : MatchGrounds::Amount);
+            } else if (const LineGroup *group = m_lines.split(day, amount);
+                       group && isNear(day, m_entries[entry].date) &&
+                       (!mustShare || sharesWord(entry, group->lines.front()))) {
+                settle(entry, group->lines, mustShare ? MatchGrounds::Text : MatchGrounds::Amount);
+            }
+        }
+    }
+}
+
+std::vector<std::size_t> StatementMatcher::near(std::size_t entry) const
+{
+    Places all;
+    for (const int days : distances()) {
+        const QDate day = m_entries[entry].date.addDays(-days);
+        if (!isNear(day, m_entries[entry].date))
+            continue;
+        for (const std::size_t place : m_lines.on(day, m_entries[entry].amount.amount())) {
+            if (m_lines.at(place).toldAs.isEmpty())
+                all.push_back(place);
+        }
+    }
+    return all;
+}
+
+void StatementMatcher::matchRest()
+{
+    for (const std::size_t entry : unmatched()) {
+        std::set<std::size_t> seen;
+        (void)augment(entry, seen);
+    }
+}
+
+bool StatementMatcher::augment(std::size_t entry, std::set<std::size_t> &seen)
+{
+    for (const std::size_t place : near(entry)) {
+        if (seen.size() >= stepsMax || !seen.insert(place).second)
+            continue;
+        if (!m_lines.at(place).isFree) {
+            const auto taken = m_takenBy.find(place);
+            if (taken == m_takenBy.end() || m_places[taken->second].size() > 1 ||
+                m_matches[taken->second]->grounds == MatchGrounds::Identifier ||
+                !augment(taken->second, seen))
+                continue;
+        }
+        settle(entry, {place}, MatchGrounds::Amount);
+        return true;
+    }
+    return false;
+}
+
+/// Where only the amount speaks for a line, another free one would do as well.
+void StatementMatcher::tellSeveral()
+{
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        if (!m_matches[entry] || m_matches[entry]->grounds != MatchGrounds::Amount)
+            continue;
+        m_matches[entry]->isOneOfSeveral = std::ranges::any_of(
+            near(entry), [this](std::size_t place) { return m_lines.at(place).isFree; });
+    }
+}
+
+std::vector<std::size_t> StatementMatcher::placesOf(const ImportMatch &match) const
+{
+    Places places;
+    for (const accounting::TransactionNumber number : match.numbers)
+        places.push_back(m_byNumber.at(number));
+    return places;
+}
+
+std::vector<ImportMatch> StatementMatcher::candidates(std::size_t entry) const
+{
+    constexpr int daysMax = 31;
+    const StatementEntry &told = m_entries[entry];
+    std::vector<ImportMatch> all;
+    for (int days = 0; days <= daysMax; ++days) {
+        for (const int distance : {days, -days}) {
+            const QDate day = told.date.addDays(-distance);
+            for (const std::size_t place : m_lines.on(day, told.amount.amount())) {
+                if (m_lines.at(place).isFree)
+                    all.push_back({{m_lines.at(place).number()}, MatchGrounds::ByHand, day});
+            }
+            if (const LineGroup *group = m_lines.split(day, told.amount.amount())) {
+                ImportMatch match{{}, MatchGrounds::ByHand, day};
+                for (const std::size_t place : group->lines)
+                    match.numbers.push_back(m_lines.at(place).number());
+                all.push_back(std::move(match));
+            }
+            if (days == 0)
+                break;
+        }
+    }
+    return all;
+}
+
+} // namespace kiv::workbench::internal
