@@ -9,6 +9,8 @@
 
 namespace kiv::workbench {
 
+using interchange::StatementFormat;
+
 namespace {
 
 using enum ImportFormat;
@@ -16,10 +18,15 @@ using enum ImportFormat;
 constexpr std::pair<ImportFormat, const char *> words[] = {
     {Journal, "journal"}, {Csv, "csv"}, {Ofx, "ofx"}, {Qif, "qif"}};
 
-/// Extensions besides these words.
-constexpr std::pair<ImportFormat, const char *> extensions[] = {
-    {Journal, "j"},   {Journal, "hledger"}, {Journal, "ledger"},
-    {Journal, "dat"}, {Csv, "tsv"},         {Ofx, "qfx"}};
+constexpr std::pair<ImportFormat, StatementFormat> statements[] = {
+    {Csv, StatementFormat::Csv}, {Ofx, StatementFormat::Ofx}, {Qif, StatementFormat::Qif}};
+
+/// The extensions of journals.
+constexpr std::pair<ImportFormat, const char *> journals[] = {{Journal, "journal"},
+                                                              {Journal, "j"},
+                                                              {Journal, "hledger"},
+                                                              {Journal, "ledger"},
+                                                              {Journal, "dat"}};
 
 std::optional<ImportFormat> named(const auto &table, const QString &word)
 {
@@ -49,18 +56,24 @@ ImportFormat importFormatOf(const QString &word)
     throw notAChoice(word, choices);
 }
 
+std::optional<StatementFormat> statementFormat(ImportFormat format)
+{
+    for (const auto &[one, statement] : statements) {
+        if (one == format)
+            return statement;
+    }
+    return std::nullopt;
+}
+
 std::optional<ImportFormat> guessImportFormat(const QString &file, const QByteArray &bytes)
 {
-    const QString extension = QFileInfo(file).suffix().toLower();
-    if (const auto format = named(words, extension))
+    if (const auto format = named(journals, QFileInfo(file).suffix().toLower()))
         return format;
-    if (const auto format = named(extensions, extension))
-        return format;
-    const QByteArray head = bytes.left(4096);
-    if (head.contains("<OFX>"))
-        return Ofx;
-    if (head.trimmed().startsWith("!Type:") || head.trimmed().startsWith("!Account"))
-        return Qif;
+    const auto form = interchange::guessStatementFormat(file, bytes);
+    for (const auto &[format, statement] : statements) {
+        if (statement == form)
+            return format;
+    }
     return std::nullopt;
 }
 

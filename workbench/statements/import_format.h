@@ -3,6 +3,8 @@
 
 #include "workbench/export.h"
 
+#include "interchange/statement_reader.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
@@ -23,6 +25,10 @@ enum class ImportFormat {
 
 /// Reads such a word. Throws an EntryError for another one.
 [[nodiscard]] KIV_WORKBENCH_EXPORT ImportFormat importFormatOf(const QString &word);
+
+/// The form of a bank's file; nothing for a journal.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<interchange::StatementFormat>
+statementFormat(ImportFormat format);
 
 /// The format that the file's extension shows, or else its first bytes. Nothing when
 /// neither does.

@@ -23,6 +23,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     root.setHeading(QObject::tr("Banks and statements"));
     addBankCommands(root);
     addImportCommands(root);
+    addRuleCommands(root);
     addSurveyCommands(root);
     addReconciliationCommands(root);
     root.setHeading(QObject::tr("Reports and export"));

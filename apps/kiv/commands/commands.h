@@ -19,6 +19,7 @@ void addTagCommands(CommandGroup &root);
 void addDueCommands(CommandGroup &root);
 void addBankCommands(CommandGroup &root);
 void addImportCommands(CommandGroup &root);
+void addRuleCommands(CommandGroup &root);
 void addSurveyCommands(CommandGroup &root);
 void addReconciliationCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);

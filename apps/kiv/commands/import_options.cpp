@@ -26,8 +26,8 @@ void ImportOptions::declare(Arguments &arguments)
                  QObject::tr("Type of a top account, such as Aktiva=asset (journal, repeatable)"))
         .several("--commodity", m_commodities,
                  QObject::tr("Currency behind a name, such as Fr=CHF (journal, repeatable)"))
-        .optional("--statement", m_statement,
-                  QObject::tr("Account number, to choose one of several statements (ofx, qif)"))
+        .optional("--statement", statement,
+                  QObject::tr("Account number, to choose one of several statements"))
         .optional("--into", into, QObject::tr("Account of the bank statement"))
         .optional("--against", against,
                   QObject::tr("Counter-account of entries that match no rule"))
@@ -87,7 +87,7 @@ void ImportOptions::refuseUnused(ImportFormat form) const
           Use{"--currency", m_currency.has_value(), {Journal}},
           Use{"--root", !m_roots.empty(), {Journal}},
           Use{"--commodity", !m_commodities.empty(), {Journal}},
-          Use{"--statement", !m_statement.isEmpty(), {Ofx, Qif}},
+          Use{"--statement", !statement.isEmpty(), statements},
           Use{"--into", into.has_value(), statements},
           Use{"--against", against.has_value(), statements},
           Use{"--profile", profile.has_value(), statements},
@@ -198,16 +198,12 @@ interchange::JournalOptions ImportOptions::journal(const numira::Currency &prefe
     return options;
 }
 
-interchange::QifOptions ImportOptions::qif(const CsvProfile &profileRead,
-                                           const numira::Currency &currency) const
+bool ImportOptions::hasReading() const
 {
-    interchange::QifOptions options;
-    options.dateFormat = profileRead.dateFormat;
-    options.decimalMark = profileRead.decimalMark;
-    if (!profileRead.encoding.isEmpty())
-        options.encoding = profileRead.encoding;
-    options.currency = currency;
-    return options;
+    return profile || m_encoding || m_decimal || m_dateFormat || m_delimiter || m_skip ||
+           m_skipLast || m_hasNoHeadings || m_isNegated || m_date || m_amount || m_in || m_out ||
+           m_sign || !m_negative.empty() || !m_texts.empty() || m_id || m_currencyColumn ||
+           m_status || m_balance;
 }
 
 } // namespace kiv::app

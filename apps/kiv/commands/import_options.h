@@ -5,10 +5,7 @@
 
 #include "workbench/statements/import_format.h"
 
-#include "interchange/csv_reader.h"
 #include "interchange/journal_reader.h"
-#include "interchange/ofx_reader.h"
-#include "interchange/qif_reader.h"
 
 namespace kiv::app {
 
@@ -22,6 +19,7 @@ struct ImportOptions {
     std::optional<QString> against;
     std::optional<QString> profile;
     std::optional<QString> savedAs;
+    QString statement; ///< the bank's number, of several
 
     void declare(Arguments &arguments);
 
@@ -34,17 +32,13 @@ struct ImportOptions {
     /// function puts the file in place; call it after saving the budget.
     [[nodiscard]] std::function<void()> storedProfile(const interchange::CsvProfile &profile) const;
     [[nodiscard]] interchange::JournalOptions journal(const numira::Currency &preferred) const;
-    [[nodiscard]] interchange::QifOptions qif(const interchange::CsvProfile &profile,
-                                              const numira::Currency &currency) const;
-    [[nodiscard]] interchange::BankFileOptions bank() const { return {m_encoding, {}}; }
-    /// The one that is chosen; empty without a choice.
-    [[nodiscard]] const QString &statement() const { return m_statement; }
+    /// Whether the user said how the file is read.
+    [[nodiscard]] bool hasReading() const;
 
 private:
     void refuseUnused(ImportFormat form) const;
     [[nodiscard]] std::optional<interchange::DecimalMark> decimal() const;
 
-    QString m_statement;
     std::vector<QString> m_roots;
     std::vector<QString> m_commodities;
     std::optional<numira::Currency> m_currency;

@@ -2,6 +2,7 @@
 // survey show|complete|run
 #include "commands/commands.h"
 
+#include "output/dialogue.h"
 #include "output/json.h"
 #include "output/survey_json.h"
 #include "parsing/json_input.h"
@@ -10,12 +11,8 @@
 #include "workbench/entry/description.h"
 
 #include "foundation/presentation.h"
-#include "foundation/streams.h"
 
 #include <QtCore/QJsonDocument>
-
-#include <cstdio>
-#include <iostream>
 
 namespace kiv::app {
 
@@ -212,60 +209,6 @@ struct RunSurvey {
             throw surveyGivenUp();
         return complete(call.requests, form);
     }
-
-private:
-    /// Asks on standard error and reads answers from standard input, so that standard
-    /// output holds only the results.
-    class Dialogue {
-    public:
-        bool agrees(const QString &question)
-        {
-            const QString yes = QObject::tr("y", "the answer yes, a letter");
-            const QString no = QObject::tr("n", "the answer no, a letter");
-            bool answer = false;
-            until(question + QStringLiteral(" [%1/%2]").arg(yes, no), [&](const QString &text) {
-                answer = text == yes || text == u"y";
-                if (!answer && text != no && text != u"n")
-                    throw notAChoice(text, {yes, no});
-            });
-            return answer;
-        }
-        /// Asks until `take` accepts the answer.
-        void until(const QString &question, const std::function<void(const QString &)> &take)
-        {
-            while (true) {
-                const QString answer = asked(question);
-                try {
-                    return take(answer);
-                } catch (const foundation::Error &error) {
-                    complain(told(error));
-                }
-            }
-        }
-        /// Accepts answers until an empty one.
-        void each(const QString &question, const std::function<void(const QString &)> &take)
-        {
-            const QString shown = question + u' ' + QObject::tr("(empty to continue)");
-            for (bool isDone = false; !isDone;) {
-                until(shown, [&](const QString &text) {
-                    isDone = text.isEmpty();
-                    if (!isDone)
-                        take(text);
-                });
-            }
-        }
-
-    private:
-        QString asked(const QString &question)
-        {
-            const QByteArray prompt = foundation::escaped(question).toUtf8() + ": ";
-            std::fwrite(prompt.constData(), 1, static_cast<std::size_t>(prompt.size()), stderr);
-            std::string line;
-            if (!std::getline(std::cin, line))
-                throw answersEnded();
-            return QString::fromStdString(line).trimmed();
-        }
-    };
 };
 
 } // namespace

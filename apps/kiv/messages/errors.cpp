@@ -3,6 +3,8 @@
 
 #include "workbench/requests/requests.h"
 
+#include "foundation/presentation.h"
+
 #include <QtCore/QObject>
 
 namespace kiv::app {
@@ -178,9 +180,29 @@ UsageError unknownFormat(const QString &file)
             .arg(file));
 }
 
-UsageError noAccountInto()
+UsageError noAccountInto(const QStringList &accounts)
 {
-    return UsageError(QObject::tr("Give the account of the bank statement with --into."));
+    const QString sentence = QObject::tr("Give the account of the bank statement with --into.");
+    return UsageError(
+        accounts.isEmpty()
+            ? sentence
+            : QObject::tr("%1 It may be: %2.").arg(sentence, accounts.join(QStringLiteral(", "))));
+}
+
+Refusal ofOtherAccount(const QString &said)
+{
+    return Refusal(QObject::tr("%1 Use --yes to import it all the same.").arg(said));
+}
+
+Refusal importGivenUp()
+{
+    return Refusal(QObject::tr("Nothing was imported."));
+}
+
+Refusal notTheSame(const numira::Money &amount, const QString &number)
+{
+    return Refusal(QObject::tr("Transaction %1 cannot be the same as an entry of %2.")
+                       .arg(number, foundation::presentationText(amount)));
 }
 
 Refusal noOtherAccount(const QString &entry)

@@ -61,8 +61,13 @@ public:
 
 /// The name of the file and its first bytes do not show its format.
 [[nodiscard]] UsageError unknownFormat(const QString &file);
-/// A statement needs the account that it belongs to.
-[[nodiscard]] UsageError noAccountInto();
+/// A statement needs the account that it belongs to: one of these.
+[[nodiscard]] UsageError noAccountInto(const QStringList &accounts);
+/// `said` tells of which account the file is.
+[[nodiscard]] Refusal ofOtherAccount(const QString &said);
+[[nodiscard]] Refusal importGivenUp();
+/// No free transaction of this amount has the number.
+[[nodiscard]] Refusal notTheSame(const numira::Money &amount, const QString &number);
 /// No rule or category gives the counter-account of the entry.
 [[nodiscard]] Refusal noOtherAccount(const QString &entry);
 
