@@ -7,7 +7,6 @@
 
 namespace kiv::interchange {
 
-using accounting::AccountNumber;
 using accounting::Transaction;
 
 namespace {
@@ -36,6 +35,32 @@ bool takeOne(std::map<QString, int> &counts, const QString &key)
     if (--found->second == 0)
         counts.erase(found);
     return true;
+}
+
+/// The amount and both accounts.
+QString amountKey(const Transaction &transaction)
+{
+    return QStringLiteral("%1<%2 %3 %4")
+        .arg(accounting::presentationText(transaction.debiting().number()),
+             accounting::presentationText(transaction.crediting().number()),
+             foundation::toQString(transaction.amount()),
+             foundation::toQString(transaction.amount().code()));
+}
+
+QString contentKey(const Transaction &transaction)
+{
+    QString text = transaction.description().value_or(QString());
+    if (const qsizetype at = idBegin(text); at >= 0)
+        text.truncate(at);
+    // A journal has neither semicolons nor control characters in descriptions.
+    text = foundation::escaped(text.simplified()).replace(u';', u',').toCaseFolded();
+    return foundation::isoText(transaction.occurredOn()) + amountKey(transaction) + u'\n' + text;
+}
+
+QString idKey(const Transaction &transaction)
+{
+    const QString id = bankIdOf(transaction.description().value_or(QString()));
+    return id.isEmpty() ? id : amountKey(transaction) + u'\n' + id;
 }
 
 } // namespace
@@ -86,20 +111,13 @@ void forgetSharedIds(std::vector<StatementEntry> &entries)
     }
 }
 
-Duplicates::Duplicates(const std::vector<Transaction> &present,
-                       std::optional<AccountNumber> account, std::set<AccountNumber> kept)
-    : m_account(account), m_kept(std::move(kept))
+Duplicates::Duplicates(const std::vector<Transaction> &present)
 {
     for (const Transaction &transaction : present) {
-        if (!isLookedAt(transaction))
-            continue;
         const QString id = idKey(transaction);
         if (!id.isEmpty())
             m_ids.emplace(id, transaction.occurredOn());
-        const QString content = contentKey(transaction);
-        ++(id.isEmpty() ? m_withoutId : m_withId)[content];
-        if (const QString transfer = transferKey(transaction); !transfer.isEmpty())
-            m_transfers.emplace(transfer, Transfer{id, content});
+        ++(id.isEmpty() ? m_withoutId : m_withId)[contentKey(transaction)];
     }
 }
 
@@ -107,12 +125,8 @@ bool Duplicates::take(const Transaction &transaction)
 {
     const QString id = idKey(transaction);
     const QString content = contentKey(transaction);
-    const bool isKnown =
-        id.isEmpty() ? takeOne(m_withoutId, content) || takeOne(m_withId, content)
-                     : takeId(id, transaction.occurredOn()) || takeOne(m_withoutId, content);
-    if (isKnown)
-        claim(transferKey(transaction), id, content);
-    return isKnown;
+    return id.isEmpty() ? takeOne(m_withoutId, content) || takeOne(m_withId, content)
+                        : takeId(id, transaction.occurredOn()) || takeOne(m_withoutId, content);
 }
 
 bool Duplicates::takeId(const QString &id, const QDate &day)
@@ -124,71 +138,6 @@ bool Duplicates::takeId(const QString &id, const QDate &day)
     if (!isThere)
         m_ids.emplace(id, day);
     return isThere;
-}
-
-bool Duplicates::takeTransfer(const Transaction &transaction)
-{
-    const auto found = m_transfers.find(transferKey(transaction));
-    if (found == m_transfers.end())
-        return false;
-    m_transfers.erase(found);
-    return true;
-}
-
-void Duplicates::claim(const QString &transfer, const QString &id, const QString &content)
-{
-    const auto [first, last] = m_transfers.equal_range(transfer);
-    const auto isSame = [&](const auto &entry) {
-        return (!id.isEmpty() && entry.second.id == id) || entry.second.content == content;
-    };
-    if (const auto found = std::find_if(first, last, isSame); found != last)
-        m_transfers.erase(found);
-}
-
-bool Duplicates::isLookedAt(const Transaction &transaction) const
-{
-    return !m_account || transaction.involves(*m_account);
-}
-
-QString Duplicates::amountKey(const Transaction &transaction) const
-{
-    const numira::Money &amount =
-        m_account ? transaction.amountFor(*m_account) : transaction.amount();
-    const QString text =
-        foundation::toQString(amount) + u' ' + foundation::toQString(amount.code());
-    return m_account ? (transaction.debiting().number() == *m_account ? u'+' : u'-') + text
-                     : QStringLiteral("%1<%2 ").arg(
-                           accounting::presentationText(transaction.debiting().number()),
-                           accounting::presentationText(transaction.crediting().number())) +
-                           text;
-}
-
-/// Empty where not both accounts are kept by a bank.
-QString Duplicates::transferKey(const Transaction &transaction) const
-{
-    const AccountNumber debit = transaction.debiting().number();
-    const AccountNumber credit = transaction.crediting().number();
-    if (!m_account || !m_kept.contains(debit) || !m_kept.contains(credit))
-        return {};
-    return QStringLiteral("%1%2 %3<%4")
-        .arg(foundation::isoText(transaction.occurredOn()), amountKey(transaction),
-             accounting::presentationText(debit), accounting::presentationText(credit));
-}
-
-QString Duplicates::contentKey(const Transaction &transaction) const
-{
-    QString text = transaction.description().value_or(QString());
-    if (const qsizetype at = idBegin(text); at >= 0)
-        text.truncate(at);
-    // A journal has neither semicolons nor control characters in descriptions.
-    text = foundation::escaped(text.simplified()).replace(u';', u',').toCaseFolded();
-    return foundation::isoText(transaction.occurredOn()) + amountKey(transaction) + u'\n' + text;
-}
-
-QString Duplicates::idKey(const Transaction &transaction) const
-{
-    const QString id = bankIdOf(transaction.description().value_or(QString()));
-    return id.isEmpty() ? id : amountKey(transaction) + u'\n' + id;
 }
 
 } // namespace kiv::interchange

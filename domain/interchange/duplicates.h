@@ -7,7 +7,6 @@
 #include "accounting/transaction.h"
 
 #include <map>
-#include <set>
 #include <vector>
 
 namespace kiv::interchange {
@@ -29,43 +28,18 @@ KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries
 /// Where both have the bank's identifier, they are the same if the amounts are equal and
 /// the days at most fifteen days apart: some banks reuse identifiers. Otherwise day, amount
 /// and text decide. Each known transaction matches once, so two coffees on one day stay
-/// two. When only one account is compared, the other sides do not count: the household may
-/// have moved them.
+/// two.
 class KIV_INTERCHANGE_EXPORT Duplicates {
 public:
-    /// Compares with these transactions, or only with those of `account`. `kept` are the
-    /// accounts for which banks send statements.
-    explicit Duplicates(const std::vector<accounting::Transaction> &present,
-                        std::optional<accounting::AccountNumber> account = std::nullopt,
-                        std::set<accounting::AccountNumber> kept = {});
+    /// Compares with these transactions.
+    explicit Duplicates(const std::vector<accounting::Transaction> &present);
 
     /// Whether the transaction is a duplicate. It counts as known afterwards.
     [[nodiscard]] bool take(const accounting::Transaction &transaction);
-    /// Whether it may be a transfer that the other account's statement already posted, with
-    /// another text and identifier: day, amount and both accounts are the same. A second
-    /// transfer looks the same, so this is only a guess. Ask it for new transactions, after
-    /// take() was called for all.
-    [[nodiscard]] bool takeTransfer(const accounting::Transaction &transaction);
 
 private:
-    [[nodiscard]] bool isLookedAt(const accounting::Transaction &transaction) const;
-    [[nodiscard]] QString amountKey(const accounting::Transaction &transaction) const;
-    [[nodiscard]] QString contentKey(const accounting::Transaction &transaction) const;
-    [[nodiscard]] QString idKey(const accounting::Transaction &transaction) const;
-
-    [[nodiscard]] QString transferKey(const accounting::Transaction &transaction) const;
     [[nodiscard]] bool takeId(const QString &id, const QDate &day);
-    void claim(const QString &transfer, const QString &id, const QString &content);
 
-    /// A transfer that was there before, by what it would be known otherwise.
-    struct Transfer {
-        QString id;
-        QString content;
-    };
-
-    std::optional<accounting::AccountNumber> m_account;
-    std::set<accounting::AccountNumber> m_kept;
-    std::multimap<QString, Transfer> m_transfers; ///< that no entry was found to be
     std::multimap<QString, QDate> m_ids;
     std::map<QString, int> m_withId;
     std::map<QString, int> m_withoutId;

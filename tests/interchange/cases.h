@@ -89,10 +89,9 @@ inline Case completed(Case made, QString text)
     return made;
 }
 
-inline std::vector<Case> casesIn(const QString &folder)
+inline std::vector<Case> casesIn(const QString &folder, const QDir &found)
 {
     std::vector<Case> cases;
-    const QDir found(QFINDTESTDATA(folder));
     for (const QString &name : found.entryList({u"*.txt"_s})) {
         QFile file(found.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
@@ -119,6 +118,12 @@ inline std::vector<Case> casesIn(const QString &folder)
         }
     }
     return cases;
+}
+
+/// Of a folder beside this file.
+inline std::vector<Case> casesIn(const QString &folder)
+{
+    return casesIn(folder, QDir(QFINDTESTDATA(folder)));
 }
 
 /// "5.00 USD".

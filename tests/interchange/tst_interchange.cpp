@@ -124,23 +124,13 @@ void requireSameAgain(const std::set<Account> &accounts, const std::vector<Trans
 /// Each line that is expected, with what its transaction is found to be.
 QString duplicatesOf(const Case &given)
 {
-    const uint number = given.options.value(u"account"_s).toUInt();
-    std::set<kiv::accounting::AccountNumber> kept;
-    for (const QString &text : given.options.value(u"kept"_s).split(u',', Qt::SkipEmptyParts))
-        kept.insert(no(text.toUInt()));
-    Duplicates known(Books(given.text).transactions,
-                     number ? std::optional(no(number)) : std::nullopt, kept);
+    Duplicates known(Books(given.text).transactions);
     QStringList lines = given.expected.split(u'\n');
     for (QString &line : lines)
         line = line.section(u" = "_s, 0, -2);
     const auto imported = Books(QString::fromUtf8(unescaped(lines.join(u'\n')))).transactions;
-    std::vector<bool> isKnown;
-    for (const Transaction &transaction : imported)
-        isKnown.push_back(known.take(transaction));
     for (std::size_t at = 0; at < imported.size(); ++at)
-        lines[qsizetype(at)] += isKnown[at]                        ? u" = known"_s
-                                : known.takeTransfer(imported[at]) ? u" = transfer"_s
-                                                                   : u" = new"_s;
+        lines[qsizetype(at)] += known.take(imported[at]) ? u" = known"_s : u" = new"_s;
     return lines.join(u'\n');
 }
 

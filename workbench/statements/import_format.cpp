@@ -15,11 +15,15 @@ namespace {
 
 using enum ImportFormat;
 
-constexpr std::pair<ImportFormat, const char *> words[] = {
-    {Journal, "journal"}, {Csv, "csv"}, {Ofx, "ofx"}, {Qif, "qif"}};
+constexpr std::pair<ImportFormat, const char *> words[] = {{Journal, "journal"}, {Csv, "csv"},
+                                                           {Ofx, "ofx"},         {Qif, "qif"},
+                                                           {Mt940, "mt940"},     {Camt, "camt"}};
 
-constexpr std::pair<ImportFormat, StatementFormat> statements[] = {
-    {Csv, StatementFormat::Csv}, {Ofx, StatementFormat::Ofx}, {Qif, StatementFormat::Qif}};
+constexpr std::pair<ImportFormat, StatementFormat> statements[] = {{Csv, StatementFormat::Csv},
+                                                                   {Ofx, StatementFormat::Ofx},
+                                                                   {Qif, StatementFormat::Qif},
+                                                                   {Mt940, StatementFormat::Mt940},
+                                                                   {Camt, StatementFormat::Camt}};
 
 /// The extensions of journals.
 constexpr std::pair<ImportFormat, const char *> journals[] = {{Journal, "journal"},

@@ -18,9 +18,11 @@ enum class ImportFormat {
     Csv,     ///< a bank's table
     Ofx,     ///< a bank's statement, also as QFX
     Qif,     ///< a bank's statement
+    Mt940,   ///< a bank's statement, by the rules of SWIFT
+    Camt,    ///< a bank's statement, in the XML of ISO 20022
 };
 
-/// "journal", "csv", "ofx" or "qif".
+/// "journal", "csv", "ofx", "qif", "mt940" or "camt".
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString importFormatWord(ImportFormat format);
 
 /// Reads such a word. Throws an EntryError for another one.

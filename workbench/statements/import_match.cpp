@@ -6,6 +6,7 @@
 #include "interchange/duplicates.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace kiv::workbench {
 
@@ -15,8 +16,8 @@ namespace {
 
 const QChar madeUp = u'~';
 
-/// FNV-1a, a hash that is the same on every machine. It need not be safe: day and amount are
-/// compared too.
+/// FNV-1a, a hash that is the same on every machine. It need not be safe: the day stands beside
+/// it, and the amount is compared too.
 quint32 hashOf(const QString &text)
 {
     quint32 hash = 2166136261U;
@@ -27,17 +28,18 @@ quint32 hashOf(const QString &text)
 
 } // namespace
 
-void identify(std::vector<StatementEntry> &entries)
+void giveIdentifiers(std::vector<StatementEntry> &entries)
 {
     interchange::forgetSharedIds(entries);
-    std::map<std::pair<QString, numira::Decimal>, int> counts;
+    std::unordered_map<QString, int> counts;
     for (StatementEntry &entry : entries) {
         if (!entry.bankId.isEmpty())
             continue;
-        const QString said = folded((entry.payee + u' ' + entry.text).simplified());
+        const QString said = folded((entry.payee + u' ' + entry.text).simplified()) + u'\n' +
+                             QString::fromStdString(entry.amount.amount().toText());
         const QString id = madeUp + entry.date.toString(QStringLiteral("yyyyMMdd")) + u'-' +
                            QStringLiteral("%1").arg(hashOf(said), 6, 16, QChar(u'0'));
-        const int count = ++counts[{id, entry.amount.amount()}];
+        const int count = ++counts[id];
         entry.bankId = count == 1 ? id : id + u'-' + QString::number(count);
     }
 }

@@ -29,11 +29,10 @@ struct ImportMatch {
 };
 
 /// The entries as they are recognised again: each with the bank's identifier, or else with one
-/// made from day and text, "~20260105-3f2a1c"; amounts are compared beside it. Equal entries
-/// of a day are counted.
-KIV_WORKBENCH_EXPORT void identify(std::vector<interchange::StatementEntry> &entries);
+/// made from day, amount and text, "~20260105-3f2a1c". Equal entries of a day are counted.
+KIV_WORKBENCH_EXPORT void giveIdentifiers(std::vector<interchange::StatementEntry> &entries);
 
-/// Whether the identifier was made by identify().
+/// Whether the identifier was made by giveIdentifiers().
 [[nodiscard]] KIV_WORKBENCH_EXPORT bool isMadeUp(const QString &bankId);
 
 /// Bank days between two days, weekends apart; never negative.

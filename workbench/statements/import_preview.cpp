@@ -29,7 +29,7 @@ interchange::Statement identified(interchange::Statement statement, const Statem
         if (entry.amount.code() != books.currency)
             throw internal::otherCurrency(entry.place, entry.amount.code(), books.currency);
     }
-    identify(statement.entries);
+    giveIdentifiers(statement.entries);
     return statement;
 }
 

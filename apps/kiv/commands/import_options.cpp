@@ -15,7 +15,7 @@ void ImportOptions::declare(Arguments &arguments)
 {
     arguments.required("FILE", file, QObject::tr("File; - for standard input"))
         .optional("--format", format,
-                  QObject::tr("Format: journal, csv, ofx or qif (default: guessed)"))
+                  QObject::tr("Format: journal, csv, ofx, qif, mt940 or camt (default: guessed)"))
         .optional("--encoding", m_encoding,
                   QObject::tr("Encoding (default: the one named in the file, or UTF-8)"))
         .optional("--decimal", m_decimal, QObject::tr("Decimal mark: . or ,"))
@@ -80,7 +80,7 @@ void ImportOptions::refuseUnused(ImportFormat form) const
         bool isGiven;
         std::set<ImportFormat> by;
     };
-    const std::set<ImportFormat> statements{Csv, Ofx, Qif};
+    const std::set<ImportFormat> statements{Csv, Ofx, Qif, Mt940, Camt};
     for (const auto &[option, isGiven, by] :
          {Use{"--decimal", m_decimal.has_value(), {Journal, Csv, Qif}},
           Use{"--date-format", m_dateFormat.has_value(), {Csv, Qif}},

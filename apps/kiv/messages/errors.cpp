@@ -176,7 +176,8 @@ Refusal ratesNotFetched(const QString &reason)
 UsageError unknownFormat(const QString &file)
 {
     return UsageError(
-        QObject::tr("Cannot tell the format of '%1'; use --format: journal, csv, ofx or qif.")
+        QObject::tr(
+            "Cannot tell the format of '%1'; use --format: journal, csv, ofx, qif, mt940 or camt.")
             .arg(file));
 }
 

@@ -68,15 +68,24 @@ void LedgerLines::addGroups()
                    (text ? Description::withoutIds(*text).toString() : QString())}]
             .push_back(place);
     }
-    for (auto &[key, lines] : alike) {
-        if (lines.size() < 2)
-            continue;
-        LineGroup group{std::move(lines), QDate::fromJulianDay(key.first), {}};
-        for (const std::size_t place : group.lines)
-            group.sum += m_lines[place].amount;
-        m_amounts.insert(group.sum);
-        m_groupsByDay[{key.first, group.sum}].push_back(m_groups.size());
-        m_groups.push_back(std::move(group));
+    // The lines of a split were entered one after the other; two splits may look alike.
+    constexpr std::size_t partsMax = 16;
+    constexpr std::size_t linesMax = 64;
+    for (const auto &[key, lines] : alike) {
+        if (lines.size() > linesMax)
+            continue; // no person enters so many
+        for (std::size_t first = 0; first + 1 < lines.size(); ++first) {
+            LineGroup group{{}, QDate::fromJulianDay(key.first), {}};
+            for (std::size_t at = first; at < std::min(first + partsMax, lines.size()); ++at) {
+                group.lines.push_back(lines[at]);
+                group.sum += m_lines[lines[at]].amount;
+                if (group.lines.size() < 2)
+                    continue;
+                m_amounts.insert(group.sum);
+                m_groupsByDay[{key.first, group.sum}].push_back(m_groups.size());
+                m_groups.push_back(group);
+            }
+        }
     }
 }
 
@@ -117,9 +126,13 @@ const QStringList &LedgerLines::words(std::size_t place)
     const auto found = m_words.find(place);
     if (found != m_words.end())
         return found->second;
-    const auto &text = m_lines.at(place).transaction->description();
-    return m_words
-        .emplace(place, tellingWords(text ? Description::withoutIds(*text).toString() : QString()))
+    const Transaction &transaction = *m_lines.at(place).transaction;
+    const auto &text = transaction.description();
+    const accounting::AccountCode &other = transaction.debiting().number() == m_account
+                                               ? transaction.crediting()
+                                               : transaction.debiting();
+    const QString said = text ? Description::withoutIds(*text).toString() : QString();
+    return m_words.emplace(place, tellingWords(said + u' ' + inPlainWords(other.name())))
         .first->second;
 }
 

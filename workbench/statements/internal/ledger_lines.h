@@ -51,7 +51,7 @@ public:
     }
     /// The split of this sum on this day whose lines are all free and not told yet.
     [[nodiscard]] const LineGroup *split(QDate day, const numira::Decimal &sum) const;
-    /// The words of the line's text, without case and accents; those of three letters at least.
+    /// The words of the line's text and of its other account, see tellingWords().
     [[nodiscard]] const QStringList &words(std::size_t place);
 
     /// Whether a description can be changed: no side is reconciled, and both accounts are open.
@@ -75,7 +75,8 @@ private:
     std::unordered_map<std::size_t, QStringList> m_words;
 };
 
-/// The words of a text that can show that two texts mean the same.
+/// The words of a text that can show that two texts mean the same: without case and accents,
+/// of three letters at least.
 [[nodiscard]] QStringList tellingWords(const QString &text);
 
 } // namespace kiv::workbench::internal

@@ -103,7 +103,7 @@ std::optional<OtherSides::Choice> OtherSides::byFormer(const StatementEntry &ent
         return Choice{OtherSideBy::Learned, said->second, QObject::tr("As you said before.")};
     learnFromBooks();
     // A bank adds the town or a card's name to what a person writes.
-    constexpr qsizetype wordMin = 4;
+    constexpr qsizetype wordMin = 3;
     for (; key.size() >= wordMin; key.truncate(std::max<qsizetype>(key.lastIndexOf(u' '), 0))) {
         const auto found = m_payees.find(key);
         if (found == m_payees.end())

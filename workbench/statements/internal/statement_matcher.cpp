@@ -16,30 +16,23 @@ namespace {
 
 /// Banks give identifiers again, but not within so many days.
 constexpr qint64 sameIdDays = 15;
-/// How many bank days later than it was entered a payment may be booked, or earlier.
-constexpr int laterMax = 5;
+/// How many bank days later than it was entered a payment may be booked, or earlier. What
+/// recurs weekly is five apart, and must not be taken for the one before. Between two banks
+/// money takes three at most.
+constexpr int laterMax = 4;
 constexpr int earlierMax = 3;
-/// As calendar days: a weekend lies between, or two.
-constexpr int laterDays = 9;
-constexpr int earlierDays = 5;
+constexpr int betweenBanksMax = 3;
 /// So many steps are tried to find another line; many equal amounts would take for ever.
 constexpr std::size_t stepsMax = 2'000;
 
-/// Days from the one of a line to the one of an entry, the nearest first.
-std::vector<int> distances()
-{
-    std::vector<int> all;
-    for (int days = 0; days <= laterDays; ++days) {
-        all.push_back(days);
-        if (days > 0 && days <= earlierDays)
-            all.push_back(-days);
-    }
-    return all;
-}
+/// Calendar days from the day of a line to that of an entry, the likeliest first: banks book
+/// later rather than earlier. A weekend may lie between.
+constexpr int distances[] = {0, 1, 2, -1, 3, 4, -2, 5, 6, -3, 7, 8, -4, -5};
 
-bool isNear(QDate line, QDate entry)
+bool isNear(QDate line, QDate entry, bool isToldByOther = false)
 {
-    return bankDaysBetween(line, entry) <= (line <= entry ? laterMax : earlierMax);
+    const int most = isToldByOther ? betweenBanksMax : laterMax;
+    return bankDaysBetween(line, entry) <= (line <= entry ? most : earlierMax);
 }
 
 QString contentOf(const StatementEntry &entry)
@@ -87,27 +80,36 @@ void StatementMatcher::settle(std::size_t entry, Places places, MatchGrounds gro
     m_places[entry] = std::move(places);
 }
 
+std::vector<std::size_t> StatementMatcher::toldAs(const StatementEntry &entry) const
+{
+    Places places = m_lines.toldAs(entry.bankId);
+    std::erase_if(places, [&](std::size_t place) {
+        const LedgerLine &line = m_lines.at(place);
+        return !line.isFree || std::abs(line.day.daysTo(entry.date)) > sameIdDays;
+    });
+    return places;
+}
+
+/// Single lines first: a bank may give one identifier to several amounts.
 void StatementMatcher::matchIdentifiers()
 {
     for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
-        const StatementEntry &told = m_entries[entry];
-        Places found;
-        numira::Decimal sum;
-        bool isOne = false;
-        for (const std::size_t place : m_lines.toldAs(told.bankId)) {
-            const LedgerLine &line = m_lines.at(place);
-            if (!line.isFree || std::abs(line.day.daysTo(told.date)) > sameIdDays)
+        for (const std::size_t place : toldAs(m_entries[entry])) {
+            if (m_lines.at(place).amount != m_entries[entry].amount.amount())
                 continue;
-            if (line.amount == told.amount.amount()) {
-                found = {place};
-                isOne = true;
-                break;
-            }
-            found.push_back(place);
-            sum += line.amount;
+            settle(entry, {place}, MatchGrounds::Identifier);
+            break;
         }
-        if (isOne || (found.size() > 1 && sum == told.amount.amount()))
-            settle(entry, std::move(found), MatchGrounds::Identifier);
+    }
+    for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
+        if (m_matches[entry])
+            continue;
+        Places parts = toldAs(m_entries[entry]);
+        numira::Decimal sum;
+        for (const std::size_t place : parts)
+            sum += m_lines.at(place).amount;
+        if (parts.size() > 1 && sum == m_entries[entry].amount.amount())
+            settle(entry, std::move(parts), MatchGrounds::Identifier);
     }
 }
 
@@ -150,7 +152,8 @@ void StatementMatcher::matchTold()
 bool StatementMatcher::fits(std::size_t entry, std::size_t place) const
 {
     const LedgerLine &line = m_lines.at(place);
-    return line.isFree && line.toldAs.isEmpty() && isNear(line.day, m_entries[entry].date);
+    return line.isFree && line.toldAs.isEmpty() &&
+           isNear(line.day, m_entries[entry].date, m_lines.isToldByOther(line));
 }
 
 bool StatementMatcher::sharesWord(std::size_t entry, std::size_t place)
@@ -173,7 +176,7 @@ std::vector<std::size_t> StatementMatcher::unmatched() const
 void StatementMatcher::matchNear(bool mustShare)
 {
     const std::vector<std::size_t> left = unmatched();
-    for (const int days : distances()) {
+    for (const int days : distances) {
         for (const std::size_t entry : left) {
             if (m_matches[entry])
                 continue;
@@ -202,12 +205,12 @@ void StatementMatcher::matchNear(bool mustShare)
 std::vector<std::size_t> StatementMatcher::near(std::size_t entry) const
 {
     Places all;
-    for (const int days : distances()) {
+    for (const int days : distances) {
         const QDate day = m_entries[entry].date.addDays(-days);
-        if (!isNear(day, m_entries[entry].date))
-            continue;
         for (const std::size_t place : m_lines.on(day, m_entries[entry].amount.amount())) {
-            if (m_lines.at(place).toldAs.isEmpty())
+            const LedgerLine &line = m_lines.at(place);
+            if (line.toldAs.isEmpty() &&
+                isNear(day, m_entries[entry].date, m_lines.isToldByOther(line)))
                 all.push_back(place);
         }
     }

@@ -9,7 +9,7 @@ namespace kiv::workbench::internal {
 /// stands for one entry at most.
 class StatementMatcher {
 public:
-    /// Both must outlive it. The entries have identifiers, see identify().
+    /// Both must outlive it. The entries have identifiers, see giveIdentifiers().
     StatementMatcher(const StatementBooks &books,
                      const std::vector<interchange::StatementEntry> &entries);
 
@@ -27,6 +27,8 @@ public:
 private:
     using Places = std::vector<std::size_t>;
 
+    /// The free lines with the entry's identifier that are not too far away.
+    [[nodiscard]] Places toldAs(const interchange::StatementEntry &entry) const;
     void matchIdentifiers();
     void matchContent();
     void matchTold();
