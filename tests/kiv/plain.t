@@ -60,9 +60,10 @@ Without an account the last one pays, and at first the first checking account:
 
   $ printf 'date,amount,text\n2026-02-10,-9.50,Baker\n' >bank.csv
   $ kiv import bank.csv --into Checking --against Groceries --dry-run
-  Line  Date        Description  Debit      Credit    Amount
-     2  2026-02-10  Baker        Groceries  Checking   $9.50
-  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  Entry  Date        Description  Amount    What  For        Why
+      1  2026-02-10  Baker        -$9.50    new   Groceries
+  Read as: UTF-8, commas, headings in line 1, day 'date' as YYYY-MM-DD, amount 'amount', text 'text'
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   Dry run: nothing is saved.
 
 Money moves between any accounts, and the receiver is debited:

@@ -24,17 +24,19 @@ A statement is previewed, posted, and known again:
   >         --date-format DD.MM.YYYY --decimal , --save-profile mine "$@"
   > }
   $ first --dry-run
-  Line  Date        Description  Debit     Credit       Amount
-     2  2026-01-05  REWE         Food      Checking  $1,012.50
-     3  2026-01-06  Coffee       Other     Checking      $3.00
-     4  2026-01-06  Coffee       Other     Checking      $3.00
-     6  2026-01-08  Refund       Checking  Other        $20.00
+  Entry  Date        Description      Amount    What      For    Why
+      1  2026-01-05  REWE         -$1,012.50    new       Food   By the rule \xe2\x80\x9crewe\xe2\x80\x9d. (esc)
+      2  2026-01-06  Coffee           -$3.00    new       Other
+      3  2026-01-06  Coffee           -$3.00    new       Other
+      4  2026-01-07  Nothing           $0.00    left out         Entries with amount zero are skipped.
+      5  2026-01-08  Refund           $20.00    new       Other
+  Read as: UTF-8, semicolons, headings in line 1, day 'Date' as DD.MM.YYYY, amount 'Amount', text 'Text', decimal comma
   Entries with amount zero are skipped.
-  Transactions posted: 4; duplicates skipped: 0; accounts opened: 0.
+  New: 4; matched: 0; already imported: 0; left out: 1; accounts opened: 0.
   Dry run: nothing is saved.
-  $ first --json | jq -c 'del(.transactions), .transactions[0]'
-  {"accounts":[],"duplicates":0,"notices":["Entries with amount zero are skipped."],"posted":4}
-  {"amount":{"amount":"1012.50","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-01-05","debit":5,"debitPath":"Expenses:Food","debitStatus":"none","description":"REWE","duplicate":false,"line":2}
+  $ first --json | jq -c 'del(.entries), .entries[0]'
+  {"account":1,"accounts":[],"doubtful":0,"known":0,"leftOut":1,"matched":0,"new":4,"notices":["Entries with amount zero are skipped."]}
+  {"account":5,"amount":{"amount":"-1012.50","currency":"USD"},"date":"2026-01-05","description":"REWE","doubtful":false,"entry":1,"for":"Food","identifier":"~20260105-67d1be","line":2,"path":"Expenses:Food","reason":"By the rule \xe2\x80\x9crewe\xe2\x80\x9d.","state":"new"} (esc)
 
 A third coffee is new; the other entries were there before:
 
@@ -42,16 +44,16 @@ A third coffee is new; the other entries were there before:
   $ again() { kiv import s.csv --into Checking --against Other --profile mine "$@"; }
   $ again
   Entries with amount zero are skipped.
-  Transactions posted: 1; duplicates skipped: 4; accounts opened: 0.
+  New: 1; matched: 0; already imported: 4; left out: 1; accounts opened: 0.
 
 What changes nothing is not saved, and keeps the former versions:
 
   $ kiv history --json >formerly
   $ again | tail -1
-  Transactions posted: 0; duplicates skipped: 5; accounts opened: 0.
+  New: 0; matched: 0; already imported: 5; left out: 1; accounts opened: 0.
   $ kiv history --json | cmp - formerly
   $ again --keep-duplicates | tail -1
-  Transactions posted: 5; duplicates skipped: 0; accounts opened: 0.
+  New: 5; matched: 0; already imported: 0; left out: 1; accounts opened: 0.
 
 The bank's own identifiers tell what is there already:
 
@@ -62,53 +64,55 @@ The bank's own identifiers tell what is there already:
   > </BANKTRANLIST></STMTRS></OFX>
   > .
   $ kiv import s.ofx --into Checking --against Other
-  Transactions posted: 2; duplicates skipped: 0; accounts opened: 0.
+  New: 2; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ kiv import s.ofx --into Checking --against Other
-  Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
+  New: 0; matched: 0; already imported: 2; left out: 0; accounts opened: 0.
   $ kiv export | grep 'x2'
   2026-01-10 (13) Bakery | [id x2]
   $ kiv transaction update 13 --description 'Cake for Ann' >/dev/null
   $ kiv transaction update 12 --description 'Bread [id mine]' >/dev/null
   $ kiv import s.ofx --into Checking --against Other --dry-run | grep Bakery
-     2  2026-01-10  Bakery       Other  Checking   $5.25
-     3  2026-01-10  Bakery       Other  Checking   $5.25  duplicate
+      1  2026-01-10  Bakery       -$5.25    new    Other
+      2  2026-01-10  Bakery       -$5.25    known  (13)   It was imported before.
 
-A transfer that both banks tell is told as one that may be there:
+A transfer that both banks tell is posted once, whatever it was for:
 
   $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01 >/dev/null
   $ moved() { echo "<OFX><STMTRS><CURDEF>USD<BANKTRANLIST><STMTTRN><DTPOSTED>20260112<TRNAMT>$1
   >     <FITID>$2<NAME>$3</STMTTRN></BANKTRANLIST></STMTRS></OFX>" >moved.ofx; }
   $ moved -300 c7 'TO SAVINGS'
   $ kiv import moved.ofx --into Checking --against Savings
-  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ moved 300 s9 'FROM CHECKING'
   $ kiv import moved.ofx --into Savings --against Checking --dry-run | tail -3
-  Line 1 may be a transfer that the other account's statement already posted.
-  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+      1  2026-01-12  FROM CHECKING  $300.00    matched  (15)  The statement of Checking told it on 2026-01-12.
+  New: 0; matched: 1; already imported: 0; left out: 0; accounts opened: 0.
   Dry run: nothing is saved.
   $ kiv import moved.ofx --into Savings --against Other --dry-run | tail -2
-  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+  New: 0; matched: 1; already imported: 0; left out: 0; accounts opened: 0.
   Dry run: nothing is saved.
 
 What is left out, or goes elsewhere than the file says, is told:
 
   $ printf '!Type:Bank\nD1/15/2026\nT-9\nPShop\nL[Visa]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep account
-  There is no account 'Visa'; its transfers are posted to 'Expenses:Other'.
-  Transactions posted: 1; duplicates skipped: 0; accounts opened: 0.
+      1  2026-01-15  Shop         -$9.00  ?  new   Other  There is no account 'Visa'; its transfers are posted to 'Expenses:Other'.
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ printf '!Type:Bank\nD1/15/2026\nT9\nPOpening Balance\nL[Checking]\n^\n' >s.qif
   $ kiv import s.qif --into Checking --against Other --dry-run | grep itself
+      1  2026-01-15  Opening Balance   $9.00    left out       Entries from 'Assets:Checking' to itself are skipped, such as an opening balance.
   Entries from 'Assets:Checking' to itself are skipped, such as an opening balance.
   $ printf 'Date,Text,Amount,State\n2026-02-01,Shop,-9,Pending\n' >pending.csv
   $ kiv import pending.csv --into Checking --against Other --save-profile mine
   Entries that the bank has not booked yet are skipped.
-  Transactions posted: 0; duplicates skipped: 0; accounts opened: 0.
+  New: 0; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ printf 'Date,Text,Amount\n2025-12-31,Old,-9\n2026-01-01,New,-9\n' >old.csv
   $ kiv import old.csv --into Checking --against Other
   Some entries are older than the opening balance of 2026-01-01, which may already include them.
-  Transactions posted: 2; duplicates skipped: 0; accounts opened: 0.
+  New: 2; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
+  1 entries should be looked at; see the marks with --dry-run.
   $ kiv import old.csv --into Checking --against Other --profile mine
-  Transactions posted: 0; duplicates skipped: 2; accounts opened: 0.
+  New: 0; matched: 0; already imported: 2; left out: 0; accounts opened: 0.
 
 A profile is saved with the budget, or not at all:
 
@@ -140,10 +144,10 @@ What cannot be read is refused, with its line:
   >     kiv import "$1" --into Checking --against Salary
   > }
   $ echo x | bank s.bin
-  kiv: Cannot tell the format of 's.bin'; use --format: journal, csv, ofx or qif.
+  kiv: Cannot tell the format of 's.bin'; use --format: journal, csv, ofx, qif, mt940 or camt.
   [2]
   $ kiv import s.ofx --into Checking
-  kiv: Give the counter-account of 'Bakery', 2026-01-10 with --against.
+  kiv: Give the counter-account of 2026-01-10, -$5.25, Bakery with --against.
   [1]
   $ mkdir folder
   $ kiv import folder --format journal
@@ -154,8 +158,8 @@ What cannot be read is refused, with its line:
   [1]
   $ printf '!Type:Bank\nD1/25/2026\nT1\n^\n' >s.qif
   $ kiv import s.qif
-  kiv: Give the account of the bank statement with --into.
-  [2]
+  kiv: Give the counter-account of 2026-01-25, $1.00,  with --against.
+  [1]
 
 So are options that do not fit:
 
@@ -183,8 +187,8 @@ categories:
   $ kiv account add Food --type expense >/dev/null
   $ read_as() {
   >     cat >s.bin
-  >     kiv import s.bin --into 1 --against 4 --dry-run --json "$@" | jq -c '.transactions[] |
-  >         [.date, .amount.amount, .debitPath, .creditPath, .description]'
+  >     kiv import s.bin --into 1 --against 4 --dry-run --json "$@" | jq -c '.entries[] |
+  >         [.date, .amount.amount, .path, .description, .identifier]'
   > }
   $ read_as --format csv --delimiter '\t' --skip 1 --date-column day --amount-column sum \
   >     --text-column of --text-column at --id-column id --currency-column code \
@@ -193,22 +197,22 @@ categories:
   > day	sum	of	at	id	code	go
   > 05/01/2026	5,25	REWE	Köln	7	USD	S
   > .
-  ["2026-01-05","5.25","Income:Salary [Budget Item]","Assets:Checking","REWE Köln [id 7]"]
+  ["2026-01-05","-5.25","Income:Salary [Budget Item]","REWE K\xc3\xb6ln","7"] (esc)
   $ read_as --format csv --delimiter '|' --no-headings --date-column 1 --in-column 2 \
   >     --out-column 3 --text-column 4 <<.
   > 2026-01-05|5.25||x
   > 2026-01-06||1.00|y
   > .
-  ["2026-01-05","5.25","Assets:Checking","Income:Salary [Budget Item]","x"]
-  ["2026-01-06","1.00","Income:Salary [Budget Item]","Assets:Checking","y"]
+  ["2026-01-05","5.25","Income:Salary [Budget Item]","x","~20260105-ae14f4"]
+  ["2026-01-06","-1.00","Income:Salary [Budget Item]","y","~20260106-52b3a0"]
   $ read_as --format csv --negate --decimal . <<.
   > Date,Amount,Text
   > 2026-01-05,5.25,
   > .
-  ["2026-01-05","5.25","Income:Salary [Budget Item]","Assets:Checking",""]
+  ["2026-01-05","-5.25","Income:Salary [Budget Item]","","~20260105-dc6a84"]
   $ read_as <s.ofx
-  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery | [id x1]"]
-  ["2026-01-10","5.25","Income:Salary [Budget Item]","Assets:Checking","Bakery | [id x2]"]
+  ["2026-01-10","-5.25","Income:Salary [Budget Item]","Bakery |","x1"]
+  ["2026-01-10","-5.25","Income:Salary [Budget Item]","Bakery |","x2"]
   $ read_as <<.
   > !Type:Bank
   > D13/01/2026
@@ -220,5 +224,5 @@ categories:
   > LExpenses:Food
   > ^
   > .
-  ["2026-01-13","1.00","Expenses:Rent [Budget Item]","Assets:Checking",""]
-  ["2026-02-01","2.00","Expenses:Food","Assets:Checking",""]
+  ["2026-01-13","-1.00","Expenses:Rent [Budget Item]","","~20260113-e32991"]
+  ["2026-02-01","-2.00","Expenses:Food","","~20260201-e32a65"]

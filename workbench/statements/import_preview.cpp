@@ -65,8 +65,7 @@ internal::PreviewParts::PreviewParts(interchange::Statement statement, Statement
         if (m_rows[row].state == State::New)
             chooseOther(row);
     }
-    if (!m_choices.postsKnown)
-        findPayments();
+    findPayments();
     doubtOld();
     m_notices.removeDuplicates();
 }

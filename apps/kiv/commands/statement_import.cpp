@@ -2,7 +2,6 @@
 #include "commands/statement_import.h"
 
 #include "commands/import_report.h"
-#include "output/dialogue.h"
 #include "output/json.h"
 #include "program/program.h"
 
@@ -10,6 +9,7 @@
 #include "workbench/statements/import_reading.h"
 
 #include "foundation/presentation.h"
+#include "interchange/csv_guess.h"
 
 namespace kiv::app {
 
@@ -148,6 +148,23 @@ void EntryCorrections::declare(Arguments &arguments)
         .several("--leave-out", leftOut, QObject::tr("Entry that is not taken (repeatable)"));
 }
 
+/// Asks for the order of day and month where the table leaves it open.
+void StatementImport::askDays(const QByteArray &bytes, interchange::CsvProfile &profile,
+                              Dialogue &dialogue) const
+{
+    const interchange::CsvGuess guess =
+        interchange::guessCsv(bytes, options.file, {profile, numira::Currency()});
+    if (guess.dayReadings.size() < 2)
+        return;
+    for (const interchange::DayReading &reading : guess.dayReadings) {
+        if (dialogue.agrees(QObject::tr("Is %1 the day %2?")
+                                .arg(reading.written, foundation::presentationText(reading.day)))) {
+            profile.dateFormat = reading.format;
+            return;
+        }
+    }
+}
+
 Report StatementImport::run(Call &call, interchange::StatementFormat format,
                             const QByteArray &bytes) const
 {
@@ -155,13 +172,15 @@ Report StatementImport::run(Call &call, interchange::StatementFormat format,
         !isAgreed && !call.options.isDryRun && !call.options.isJson && Dialogue::isPossible();
     const AccountIndex index = call.requests.accounts();
     ImportMemory memory = ImportMemory::of(call.document.notes());
-    const interchange::CsvProfile profile = options.readProfile();
+    interchange::CsvProfile profile = options.readProfile();
+    Dialogue dialogue;
+    if (format == interchange::StatementFormat::Csv && isAsking && !profile.dateFormat)
+        askDays(bytes, profile, dialogue);
     ImportSource source{options.file,     bytes, format, {profile, {}}, options.hasReading(),
                         options.statement};
     if (options.into)
         source.into = index.find(*options.into).code().number();
     ImportReading reading = workbench::readForImport(call.requests, memory, source);
-    Dialogue dialogue;
     if (!reading.account) {
         QStringList names;
         for (const accounting::AccountNumber number : reading.possible)
@@ -198,11 +217,18 @@ Report StatementImport::run(Call &call, interchange::StatementFormat format,
                 true))
             throw importGivenUp();
     }
-    return finished(call, preview, profile);
+    if (format == interchange::StatementFormat::Csv) {
+        const interchange::CsvGuess guess = interchange::guessCsv(
+            bytes, options.file,
+            {profile, index.find(preview.account().number())->balance().code()});
+        return finished(call, preview, guess.profile, guess.summary);
+    }
+    return finished(call, preview, profile, QString());
 }
 
 Report StatementImport::finished(Call &call, const ImportPreview &preview,
-                                 const interchange::CsvProfile &profile) const
+                                 const interchange::CsvProfile &profile,
+                                 const QString &readAs) const
 {
     // In a dry run, what is still open is shown.
     const bool isOpen = preview.counts().open > 0;
@@ -210,9 +236,7 @@ Report StatementImport::finished(Call &call, const ImportPreview &preview,
         for (const ImportRow &row : preview.rows()) {
             if (row.isTicked && row.state == ImportRow::State::New && !row.other &&
                 row.opens.isEmpty())
-                throw noOtherAccount(QStringLiteral("'%1', %2")
-                                         .arg(workbench::ruleText(row.entry),
-                                              foundation::presentationText(row.entry.date)));
+                throw noOtherAccount(told(row, call));
         }
     }
     ImportPreview::Done done;
@@ -222,6 +246,8 @@ Report StatementImport::finished(Call &call, const ImportPreview &preview,
     Report report = importReport(call, preview, done);
     if (call.options.isDryRun)
         addRows(report, preview, call.requests.accounts());
+    if (call.options.isDryRun && !readAs.isEmpty())
+        report.line(readAs);
     for (const QString &notice : preview.notices())
         report.line(notice);
     ImportMemory memory = preview.memory();
@@ -232,7 +258,7 @@ Report StatementImport::finished(Call &call, const ImportPreview &preview,
     else
         report.setUnchanged();
     if (!call.options.isDryRun)
-        report.setFinish(options.storedProfile(profile));
+        report.setFinish(options.storedProfile(options.readProfile()));
     const workbench::ImportCounts &counts = done.counts;
     report.line(QObject::tr("New: %1; matched: %2; already imported: %3; left out: %4; accounts "
                             "opened: %5.")

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "commands/import_options.h"
+#include "output/dialogue.h"
 
 #include "workbench/statements/import_preview.h"
 
@@ -30,8 +31,12 @@ struct StatementImport {
                              const QByteArray &bytes) const;
 
 private:
+    void askDays(const QByteArray &bytes, interchange::CsvProfile &profile,
+                 Dialogue &dialogue) const;
+    /// `readAs` tells how a table was read.
     [[nodiscard]] Report finished(Call &call, const workbench::ImportPreview &preview,
-                                  const interchange::CsvProfile &profile) const;
+                                  const interchange::CsvProfile &profile,
+                                  const QString &readAs) const;
 };
 
 } // namespace kiv::app

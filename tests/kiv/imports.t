@@ -1,0 +1,163 @@
+SPDX-License-Identifier: GPL-3.0-or-later
+
+Bank files are laid beside what is there.
+
+  $ . "$TESTDIR/household.sh"
+
+Entries are matched with what was typed, and items that are due are paid. What somebody should look
+at has a mark, and can be corrected by the numbers of its entries:
+
+  $ begin
+  $ kiv account add Food --type expense >/dev/null
+  $ kiv spend 12.50 Food --payee 'Corner shop' --date 2026-01-03 >/dev/null
+  $ kiv spend 30 Food --payee 'Fair' --date 2026-01-20 >/dev/null
+  $ kiv spend 7.20 Food --payee 'Kiosk' --date 2026-01-22 >/dev/null
+  $ kiv transaction reconcile 4 >/dev/null
+  $ cat >s.ofx <<.
+  > <OFX><STMTRS><CURDEF>USD<BANKACCTFROM><ACCTID>DE77</BANKACCTFROM><BANKTRANLIST>
+  > <STMTTRN><DTPOSTED>20260105<TRNAMT>-12.50<FITID>a1<NAME>CORNER SHOP 12</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260130<TRNAMT>-1250<FITID>a2<NAME>RENT JANUARY</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260123<TRNAMT>3150<FITID>a3<NAME>ACME SALARY</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260129<TRNAMT>-30<FITID>a4<NAME>ACME</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260122<TRNAMT>-7.20<FITID>a5<NAME>NEWS</STMTTRN>
+  > <STMTTRN><DTPOSTED>20260108<TRNAMT>-9.99<FITID>a6<NAME>CORNER SHOP 12</STMTTRN>
+  > </BANKTRANLIST></STMTRS></OFX>
+  > .
+  $ kiv import s.ofx --dry-run
+  Entry  Date        Description         Amount     What     For     Why
+      1  2026-01-05  CORNER SHOP 12     -$12.50     matched  (2)     Entered on 2026-01-03 for the same amount.
+      2  2026-01-30  RENT JANUARY    -$1,250.00     due      Rent    Rent is due on 2026-01-31 for $1,250.00.
+      3  2026-01-23  ACME SALARY      $3,150.00  ?  due      Salary  Salary is due on 2026-01-25, but for $3,100.00.
+      4  2026-01-29  ACME               -$30.00  ?  new              It is not known what it was for.
+      5  2026-01-22  NEWS                -$7.20     known    (4)     Entered on 2026-01-22 for the same amount.
+      6  2026-01-08  CORNER SHOP 12      -$9.99     new      Food    As the last time.
+  New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
+  2 entries should be looked at; see the marks with --dry-run.
+  Dry run: nothing is saved.
+  $ kiv import s.ofx
+  kiv: Give the counter-account of 2026-01-29, -$30.00, ACME with --against.
+  [1]
+  $ kiv import s.ofx --new 1 --same 4=3 --for 3=Food --leave-out 2 --dry-run --json |
+  >     jq -c '.entries[] | [.state, .for]'
+  ["new","Food"]
+  ["left out","Rent"]
+  ["new","Food"]
+  ["matched","(3)"]
+  ["known","(4)"]
+  ["new","Food"]
+  $ each 1 <<'.'
+  > import s.ofx --same 4=1
+  > import s.ofx --for 4=Nowhere
+  > .
+  kiv: Transaction 1 cannot be the same as an entry of -$30.00.
+  kiv: There is no account 'Nowhere'; see kiv accounts.
+  $ kiv import s.ofx --leave-out 7
+  kiv: '7' is not a whole number from 1 to 6.
+  [2]
+  $ kiv rules add acme Food --from 25 --to 100
+  Added the rule \xe2\x80\x9cacme\xe2\x80\x9d for Food. (esc)
+  $ kiv import s.ofx
+  New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
+  1 entries should be looked at; see the marks with --dry-run.
+  $ kiv export --format csv | cut -d, -f2-11
+  date,debit,debitAccount,credit,creditAccount,amount,currency,description,debitStatus
+  "2026-01-01","1","Assets:Checking","2","Equity:Opening Balances USD [Equity]","2500.00","USD","","none"
+  "2026-01-03","5","Expenses:Food","1","Assets:Checking","12.50","USD","Corner shop | [id a1]","none"
+  "2026-01-20","5","Expenses:Food","1","Assets:Checking","30.00","USD","Fair |","none"
+  "2026-01-22","5","Expenses:Food","1","Assets:Checking","7.20","USD","Kiosk |","reconciled"
+  "2026-01-23","1","Assets:Checking","4","Income:Salary [Budget Item]","3150.00","USD","ACME SALARY | Processed the budget item due on Sun Jan 25 2026. [id a3]","cleared"
+  "2026-01-30","3","Expenses:Rent [Budget Item]","1","Assets:Checking","1250.00","USD","RENT JANUARY | Processed the budget item due on Sat Jan 31 2026. [id a2]","none"
+  "2026-01-29","5","Expenses:Food","1","Assets:Checking","30.00","USD","ACME | [id a4]","none"
+  "2026-01-08","5","Expenses:Food","1","Assets:Checking","9.99","USD","CORNER SHOP 12 | [id a6]","none"
+  $ kiv due --date 2026-01-30
+  Nothing is due.
+  $ kiv import s.ofx
+  New: 0; matched: 0; already imported: 6; left out: 0; accounts opened: 0.
+  $ kiv undo | sed 1d | cut -c1-60
+  What         Name         Change   Detail
+  item         bill Rent    changed  next 2026-02-28 \xe2\x86\x92 2026- (esc)
+  item         wage Salary  changed  next 2026-02-25 \xe2\x86\x92 2026- (esc)
+  account      1 Checking   changed  balance 4310.31 USD \xe2\x86\x92 2 (esc)
+  account      3 Rent       changed  balance 1250.00 USD \xe2\x86\x92 0 (esc)
+  account      4 Salary     changed  balance 3150.00 USD \xe2\x86\x92 0 (esc)
+  account      5 Food       changed  balance 89.69 USD \xe2\x86\x92 49. (esc)
+  transaction  2            changed  mark of the giver cleared
+  transaction  5            removed  2026-01-23, 3150.00 USD, 
+  transaction  6            removed  2026-01-30, 1250.00 USD, 
+  transaction  7            removed  2026-01-29, 30.00 USD, AC
+  transaction  8            removed  2026-01-08, 9.99 USD, COR
+  $ kiv import s.ofx --keep-duplicates | tail -1
+  kiv: Give the counter-account of 2026-01-22, -$7.20, NEWS with --against.
+
+A rule follows the account, undo takes it back:
+
+  $ kiv account recode Food --number 77 >/dev/null
+  $ kiv rules list
+  Rule  Text  Pattern  From  To   Statements of  For
+     1  acme           25    100                 Food
+  $ kiv rules test 'The Acme Inc' --amount 30
+  Rule 1, \xe2\x80\x9cacme\xe2\x80\x9d, says that it is for Food. (esc)
+  $ kiv rules test acme --amount 101
+  No rule fits.
+  $ kiv rules remove 1
+  Removed 1 rules.
+  $ kiv undo >/dev/null
+  $ kiv rules list --json | jq -c '.[]'
+  {"account":77,"from":"25","of":null,"path":"Expenses:Food","pattern":false,"rule":1,"text":"acme","to":"100"}
+  $ each 2 <<'.'
+  > rules add '(' Food --pattern
+  > rules add ' ' Food
+  > rules add x Food --from 9 --to 3
+  > rules remove 2
+  > .
+  kiv: '(' is not a regular expression: missing closing parenthesis.
+  kiv: A rule needs a text that entries contain.
+  kiv: No amount lies between those of the rule.
+  kiv: '2' is not a whole number from 1 to 1.
+
+A file of another account is noticed, and one whose account is known needs no name:
+
+  $ kiv bank-account add Savings --bank First --balance '100 USD' --date 2026-01-01 >/dev/null
+  $ sed 's/DE77/DE88/; s/FITID>a/FITID>b/' s.ofx >other.ofx
+  $ kiv import other.ofx
+  kiv: Give the account of the bank statement with --into. It may be: Checking, Savings.
+  [2]
+  $ kiv import other.ofx --into Checking --against Food
+  New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
+  1 entries should be looked at; see the marks with --dry-run.
+  $ kiv import other.ofx --into Savings --against Food | tail -2
+  kiv: The file is of Checking, whose files have the number DE88. Use --yes to import it all the same.
+  $ kiv import other.ofx | tail -1
+  New: 0; matched: 0; already imported: 6; left out: 0; accounts opened: 0.
+
+Columns that are found can be kept, as long as they fit:
+
+  $ printf 'Day;Booked;Sum;What\n3/4/2026;9/4/2026;-1,50;x\n' >a.csv
+  $ kiv import a.csv --into Checking --against Food
+  kiv: 'a.csv', line 1: A column is not known; name it with --date-column. The columns are: Day, Booked, Sum, What.
+  [1]
+  $ kiv import a.csv --into Checking --against Food --date-column Day --amount-column Sum \
+  >     --text-column What --date-format D/M/YYYY --keep-columns
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
+  $ sed 's/-1,50/-1,60/' a.csv >b.csv
+  $ kiv import b.csv --into Checking --against Food
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
+  $ printf 'Date,Payee,Amount\n2026-04-13,Shop,-3.00\n' >c.csv
+  $ kiv import c.csv --into Checking --against Food
+  The columns that were kept no longer fit, and were found anew: 'c.csv', line 1: There is no column 'Day'; the columns are: Date,Payee,Amount.
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
+
+On a terminal it asks, and remembers what the user agrees to:
+
+  $ cat >asked.csv <<.
+  > Date,Payee,Amount
+  > 2026-05-12,Unknown Ltd 77,-3.00
+  > 2026-05-13,Unknown Ltd 78,-4.00
+  > .
+  $ "$TESTDIR/type" 'kiv> ' 'import asked.csv --into Checking\n' 'What was it for' 'Food\n' 'Always' '\n' \
+  >     'Import 2' '\n' 'New: 2' '\x04'
+  $ sed 's/-05-1/-05-2/' asked.csv >again.csv
+  $ kiv import again.csv --into Checking --dry-run | head -3
+  Entry  Date        Description     Amount    What  For   Why
+      1  2026-05-22  Unknown Ltd 77  -$3.00    new   Food  As you said before.
+      2  2026-05-23  Unknown Ltd 78  -$4.00    new   Food  As you said before.
