@@ -100,6 +100,7 @@ void forgetSharedIds(std::vector<StatementEntry> &entries)
         const QString &id = entry.bankId;
         const StatementEntry &other = *first.emplace(id, &entry).first->second;
         const bool isSame = other.date == entry.date && other.text == entry.text &&
+                            other.payee == entry.payee &&
                             numira::compareExactly(other.amount, entry.amount) == 0;
         if (!isSame || none.contains(id, Qt::CaseInsensitive) ||
             std::ranges::all_of(id, [](QChar letter) { return letter == u'0'; }))

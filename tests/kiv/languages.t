@@ -106,7 +106,7 @@ What other programs read is the same in every language, but for sentences:
   >     'configure show' 'rates show' check history 'history diff' \
   >     'import zero.csv --into Checking --against 3 --dry-run'; do
   >   for locale in C de_DE es_MX; do
-  >     as LC_ALL=$locale.UTF-8 $line --json | jq -c 'del(.. | .text?, .details?, .notices?)'
+  >     as LC_ALL=$locale.UTF-8 $line --json | jq -c 'del(.. | .text?, .details?, .notices?, .reason?)'
   >   done | uniq -c | sed 's/^ *\([0-9]*\) .*/\1/'
   > done | uniq -c
        15 3

@@ -62,7 +62,7 @@ Without an account the last one pays, and at first the first checking account:
   $ kiv import bank.csv --into Checking --against Groceries --dry-run
   Entry  Date        Description  Amount    What  For        Why
       1  2026-02-10  Baker        -$9.50    new   Groceries
-  Read as: UTF-8, commas, headings in line 1, day 'date' as YYYY-MM-DD, amount 'amount', text 'text'
+  Read as: UTF-8, commas, headings on line 1, date 'date' as YYYY-MM-DD, amount 'amount', text 'text'
   New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   Dry run: nothing is saved.
 

@@ -30,7 +30,7 @@ A statement is previewed, posted, and known again:
       3  2026-01-06  Coffee           -$3.00    new       Other
       4  2026-01-07  Nothing           $0.00    left out         Entries with amount zero are skipped.
       5  2026-01-08  Refund           $20.00    new       Other
-  Read as: UTF-8, semicolons, headings in line 1, day 'Date' as DD.MM.YYYY, amount 'Amount', text 'Text', decimal comma
+  Read as: UTF-8, semicolons, headings on line 1, date 'Date' as DD.MM.YYYY, amount 'Amount', text 'Text', decimal comma
   Entries with amount zero are skipped.
   New: 4; matched: 0; already imported: 0; left out: 1; accounts opened: 0.
   Dry run: nothing is saved.
