@@ -60,15 +60,15 @@ at has a mark, and can be corrected by the numbers of its entries:
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
   1 entries should be looked at; see the marks with --dry-run.
   $ kiv export --format csv | cut -d, -f2,4,6,7,9-11 | tr -d '\r'
-  date,debit,debitAccount,credit,creditAccount,amount,currency,description,debitStatus
-  "2026-01-01","1","Assets:Checking","2","Equity:Opening Balances USD [Equity]","2500.00","USD","","none"
-  "2026-01-03","5","Expenses:Food","1","Assets:Checking","12.50","USD","Corner shop | [id a1]","none"
-  "2026-01-20","5","Expenses:Food","1","Assets:Checking","30.00","USD","Fair |","none"
-  "2026-01-22","5","Expenses:Food","1","Assets:Checking","7.20","USD","Kiosk |","reconciled"
-  "2026-01-23","1","Assets:Checking","4","Income:Salary [Budget Item]","3150.00","USD","ACME SALARY | Processed the budget item due on Sun Jan 25 2026. [id a3]","cleared"
-  "2026-01-30","3","Expenses:Rent [Budget Item]","1","Assets:Checking","1250.00","USD","RENT JANUARY | Processed the budget item due on Sat Jan 31 2026. [id a2]","none"
-  "2026-01-29","5","Expenses:Food","1","Assets:Checking","30.00","USD","ACME | [id a4]","none"
-  "2026-01-08","5","Expenses:Food","1","Assets:Checking","9.99","USD","CORNER SHOP 12 | [id a6]","none"
+  date,debitAccount,creditAccount,amount,description,debitStatus,creditStatus
+  "2026-01-01","Assets:Checking","Equity:Opening Balances USD [Equity]","2500.00","","none","none"
+  "2026-01-03","Expenses:Food","Assets:Checking","12.50","Corner shop | [id a1]","none","cleared"
+  "2026-01-20","Expenses:Food","Assets:Checking","30.00","Fair |","none","none"
+  "2026-01-22","Expenses:Food","Assets:Checking","7.20","Kiosk |","reconciled","reconciled"
+  "2026-01-23","Assets:Checking","Income:Salary [Budget Item]","3150.00","ACME SALARY | Processed the budget item due on Sun Jan 25 2026. [id a3]","cleared","none"
+  "2026-01-30","Expenses:Rent [Budget Item]","Assets:Checking","1250.00","RENT JANUARY | Processed the budget item due on Sat Jan 31 2026. [id a2]","none","cleared"
+  "2026-01-29","Expenses:Food","Assets:Checking","30.00","ACME | [id a4]","none","cleared"
+  "2026-01-08","Expenses:Food","Assets:Checking","9.99","CORNER SHOP 12 | [id a6]","none","cleared"
   $ kiv due --date 2026-01-30
   Nothing is due.
   $ kiv import s.ofx
