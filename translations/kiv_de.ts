@@ -2458,10 +2458,6 @@
         <translation>Es gibt kein Profil „%1“; gespeichert sind: %2.</translation>
     </message>
     <message>
-        <source>Give the counter-account of %1 with --against.</source>
-        <translation>Das Gegenkonto von %1 mit --against angeben.</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
         <translation>Die Datei „%1“ gibt es bereits; ein anderer Name ist nötig.</translation>
     </message>
@@ -3037,10 +3033,6 @@
     <message>
         <source>File; - for standard input</source>
         <translation>Datei; - für die Standardeingabe</translation>
-    </message>
-    <message>
-        <source>Format: journal, csv, ofx or qif (default: guessed)</source>
-        <translation>Format: journal, csv, ofx oder qif (Standard: erraten)</translation>
     </message>
     <message>
         <source>Decimal mark: . or ,</source>
@@ -3647,10 +3639,6 @@
         <translation>Buchungen: %1; übersprungene Dubletten: %2; eröffnete Konten: %3.</translation>
     </message>
     <message>
-        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx or qif.</source>
-        <translation>Das Format von „%1“ ist nicht erkennbar; mit --format angeben: journal, csv, ofx oder qif.</translation>
-    </message>
-    <message>
         <source>Give the account of the bank statement with --into.</source>
         <translation>Das Konto des Kontoauszugs mit --into angeben.</translation>
     </message>
@@ -3800,10 +3788,6 @@
     <message>
         <source>Number of lines below the entries, such as totals (csv)</source>
         <translation>Zahl der Zeilen unter den Einträgen, etwa Summen (csv)</translation>
-    </message>
-    <message>
-        <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
-        <translation>Zeile %1 ist vielleicht eine Umbuchung, die durch den Auszug des anderen Kontos schon gebucht ist.</translation>
     </message>
     <message>
         <source>An amount in the column of what came in is negative; move it to what went out, or remove its sign.</source>
@@ -5679,10 +5663,6 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <translation>Wertpapiergeschäfte werden übersprungen.</translation>
     </message>
     <message>
-        <source>Account number, to choose one of several statements (ofx, qif)</source>
-        <translation>Kontonummer, um einen von mehreren Kontoauszügen zu wählen (ofx, qif)</translation>
-    </message>
-    <message>
         <source>date &apos;%1&apos;</source>
         <translation>Datum „%1“</translation>
     </message>
@@ -5737,6 +5717,357 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message>
         <source>What is below the entries from line %1 on is skipped.</source>
         <translation>Was ab Zeile %1 unter den Einträgen steht, wird übersprungen.</translation>
+    </message>
+    <message>
+        <source>It is not known what &apos;%1&apos; of %2 was for.</source>
+        <translation>Es ist nicht bekannt, wofür „%1“ vom %2 war.</translation>
+    </message>
+    <message>
+        <source>A rule needs a text that entries contain.</source>
+        <translation>Eine Regel braucht einen Text, den Einträge enthalten.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a regular expression: %2.</source>
+        <translation>„%1“ ist kein regulärer Ausdruck: %2.</translation>
+    </message>
+    <message>
+        <source>No amount lies between those of the rule.</source>
+        <translation>Zwischen den Beträgen der Regel liegt keiner.</translation>
+    </message>
+    <message>
+        <source>There are too many rules; remove some first.</source>
+        <translation>Es gibt zu viele Regeln; entfernen Sie erst einige.</translation>
+    </message>
+    <message>
+        <source>The file tells it twice.</source>
+        <translation>Die Datei nennt ihn zweimal.</translation>
+    </message>
+    <message>
+        <source>%1 is due on %2 for %3.</source>
+        <translation>%1 ist am %2 mit %3 fällig.</translation>
+    </message>
+    <message>
+        <source>%1 is due on %2, but for %3.</source>
+        <translation>%1 ist am %2 fällig, aber mit %3.</translation>
+    </message>
+    <message>
+        <source>It was imported before.</source>
+        <translation>Er wurde schon eingelesen.</translation>
+    </message>
+    <message>
+        <source>Another file told it already.</source>
+        <translation>Eine andere Datei nannte ihn schon.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entered on %1 in %n parts, which add up to it.</source>
+        <translation>
+            <numerusform>Zum %1 in %n Teil eingegeben, der ihn ergibt.</numerusform>
+            <numerusform>Zum %1 in %n Teilen eingegeben, die ihn ergeben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statement of %1 told it on %2.</source>
+        <translation>Der Auszug von %1 nannte ihn zum %2.</translation>
+    </message>
+    <message>
+        <source>Entered on %1 for the same amount; another entry fits as well.</source>
+        <translation>Zum %1 mit demselben Betrag eingegeben; eine andere Buchung passt auch.</translation>
+    </message>
+    <message>
+        <source>Entered on %1 for the same amount.</source>
+        <translation>Zum %1 mit demselben Betrag eingegeben.</translation>
+    </message>
+    <message>
+        <source>As you said before.</source>
+        <translation>Wie Sie es früher sagten.</translation>
+    </message>
+    <message>
+        <source>The columns that were kept no longer fit, and were found anew: %1</source>
+        <translation>Die gemerkten Spalten passen nicht mehr und wurden neu gefunden: %1</translation>
+    </message>
+    <message>
+        <source>The file is of %1, whose files have the number %2.</source>
+        <translation>Die Datei ist von %1, dessen Dateien die Nummer %2 haben.</translation>
+    </message>
+    <message>
+        <source>The file is of the account %1; former files of %2 were of %3.</source>
+        <translation>Die Datei ist vom Konto %1; frühere Dateien von %2 waren von %3.</translation>
+    </message>
+    <message>
+        <source>It is not known what it was for.</source>
+        <translation>Es ist nicht bekannt, wofür es war.</translation>
+    </message>
+    <message>
+        <source>By the rule “%1”.</source>
+        <translation>Nach der Regel „%1“.</translation>
+    </message>
+    <message>
+        <source>As the last time.</source>
+        <translation>Wie beim letzten Mal.</translation>
+    </message>
+    <message>
+        <source>As %1 of %2 times.</source>
+        <translation>Wie %1 von %2 Malen.</translation>
+    </message>
+    <message>
+        <source>By the file&apos;s category.</source>
+        <translation>Nach der Kategorie der Datei.</translation>
+    </message>
+    <message>
+        <source>By the file&apos;s category; “%1” is opened for it.</source>
+        <translation>Nach der Kategorie der Datei; „%1“ wird dafür eröffnet.</translation>
+    </message>
+    <message>
+        <source>Format: journal, csv, ofx, qif, mt940 or camt (default: guessed)</source>
+        <translation>Format: journal, csv, ofx, qif, mt940 oder camt (sonst: erraten)</translation>
+    </message>
+    <message>
+        <source>Account number, to choose one of several statements</source>
+        <translation>Kontonummer, um einen von mehreren Auszügen zu wählen</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>due</source>
+        <translation>fällig</translation>
+    </message>
+    <message>
+        <source>matched</source>
+        <translation>zugeordnet</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>bekannt</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eintrag</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Wofür</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Warum</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries of %1</source>
+        <translation>
+            <numerusform>%n Eintrag von %1 eingelesen</numerusform>
+            <numerusform>%n Einträge von %1 eingelesen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read the account&apos;s tables like this from now on (csv)</source>
+        <translation>Die Tabellen des Kontos von nun an so lesen (csv)</translation>
+    </message>
+    <message>
+        <source>Take the preview as it is, and ask nothing</source>
+        <translation>Die Vorschau nehmen, wie sie ist, und nichts fragen</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Statements of</source>
+        <translation>Auszüge von</translation>
+    </message>
+    <message>
+        <source>There are no rules.</source>
+        <translation>Es gibt keine Regeln.</translation>
+    </message>
+    <message>
+        <source>The least amount, without its sign</source>
+        <translation>Kleinster Betrag, ohne Vorzeichen</translation>
+    </message>
+    <message>
+        <source>The highest amount, without its sign</source>
+        <translation>Größter Betrag, ohne Vorzeichen</translation>
+    </message>
+    <message>
+        <source>Only statements of this account</source>
+        <translation>Nur Auszüge dieses Kontos</translation>
+    </message>
+    <message>
+        <source>Text that the payee or the text contains</source>
+        <translation>Text, den Empfänger oder Text enthalten</translation>
+    </message>
+    <message>
+        <source>Account or item that such entries are for</source>
+        <translation>Konto oder Posten, für den solche Einträge sind</translation>
+    </message>
+    <message>
+        <source>The text is a regular expression</source>
+        <translation>Der Text ist ein regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Added the rule “%1” for %2.</source>
+        <translation>Regel „%1“ für %2 angelegt.</translation>
+    </message>
+    <message>
+        <source>What a bank says of an entry</source>
+        <translation>Was eine Bank zu einem Eintrag sagt</translation>
+    </message>
+    <message>
+        <source>Amount of the entry</source>
+        <translation>Betrag des Eintrags</translation>
+    </message>
+    <message>
+        <source>Account of the statement</source>
+        <translation>Konto des Auszugs</translation>
+    </message>
+    <message>
+        <source>No rule fits.</source>
+        <translation>Keine Regel passt.</translation>
+    </message>
+    <message>
+        <source>Rule %1, “%2”, says that it is for %3.</source>
+        <translation>Nach Regel %1, „%2“, ist es für %3.</translation>
+    </message>
+    <message>
+        <source>Numbers of rules, see rules list</source>
+        <translation>Nummern von Regeln, siehe rules list</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n rules.</source>
+        <translation>
+            <numerusform>%n Regel entfernt.</numerusform>
+            <numerusform>%n Regeln entfernt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Say what entries of statements are for</source>
+        <translation>Sagen, wofür Einträge von Auszügen sind</translation>
+    </message>
+    <message>
+        <source>List all rules</source>
+        <translation>Alle Regeln auflisten</translation>
+    </message>
+    <message>
+        <source>Add a rule</source>
+        <translation>Eine Regel anlegen</translation>
+    </message>
+    <message>
+        <source>Tell which rule fits a text</source>
+        <translation>Sagen, welche Regel zu einem Text passt</translation>
+    </message>
+    <message>
+        <source>Remove rules</source>
+        <translation>Regeln entfernen</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. %3 Pay it with this?</source>
+        <translation>Eintrag %1: %2. %3 Damit bezahlen?</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. %3 Is it the same?</source>
+        <translation>Eintrag %1: %2. %3 Ist es derselbe?</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. What was it for? (account or item; empty leaves it out)</source>
+        <translation>Eintrag %1: %2. Wofür war das? (Konto oder Posten; leer lässt ihn aus)</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. What was it for? (empty: %3)</source>
+        <translation>Eintrag %1: %2. Wofür war das? (leer: %3)</translation>
+    </message>
+    <message>
+        <source>Always %1 for this payee?</source>
+        <translation>Immer %1 für diesen Empfänger?</translation>
+    </message>
+    <message>
+        <source>Entry that is new, whatever is there (repeatable)</source>
+        <translation>Eintrag, der neu ist, was auch da ist (mehrfach möglich)</translation>
+    </message>
+    <message>
+        <source>ENTRY=TRANSACTION, which is the same (repeatable)</source>
+        <translation>EINTRAG=BUCHUNG, die dasselbe ist (mehrfach möglich)</translation>
+    </message>
+    <message>
+        <source>ENTRY=ACCOUNT, which it is for (repeatable)</source>
+        <translation>EINTRAG=KONTO, für das er ist (mehrfach möglich)</translation>
+    </message>
+    <message>
+        <source>Entry that is not taken (repeatable)</source>
+        <translation>Eintrag, der nicht übernommen wird (mehrfach möglich)</translation>
+    </message>
+    <message>
+        <source>Is %1 the day %2?</source>
+        <translation>Ist %1 der Tag %2?</translation>
+    </message>
+    <message>
+        <source>Which account is it of? (%1)</source>
+        <translation>Von welchem Konto ist die Datei? (%1)</translation>
+    </message>
+    <message>
+        <source>Import it all the same?</source>
+        <translation>Trotzdem einlesen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %n entries?</source>
+        <translation>
+            <numerusform>%n Eintrag einlesen?</numerusform>
+            <numerusform>%n Einträge einlesen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New: %1; matched: %2; already imported: %3; left out: %4; accounts opened: %5.</source>
+        <translation>Neu: %1; zugeordnet: %2; schon eingelesen: %3; ausgelassen: %4; Konten eröffnet: %5.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries should be looked at; see the marks with --dry-run.</source>
+        <translation>
+            <numerusform>%n Eintrag sollte angesehen werden; siehe die Zeichen mit --dry-run.</numerusform>
+            <numerusform>%n Einträge sollten angesehen werden; siehe die Zeichen mit --dry-run.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx, qif, mt940 or camt.</source>
+        <translation>Das Format von „%1“ ist nicht zu erkennen; geben Sie --format an: journal, csv, ofx, qif, mt940 oder camt.</translation>
+    </message>
+    <message>
+        <source>%1 It may be: %2.</source>
+        <translation>%1 Möglich sind: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Use --yes to import it all the same.</source>
+        <translation>%1 Mit --yes wird sie trotzdem eingelesen.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nichts wurde eingelesen.</translation>
+    </message>
+    <message>
+        <source>Transaction %1 cannot be the same as an entry of %2.</source>
+        <translation>Buchung %1 kann nicht dasselbe sein wie ein Eintrag über %2.</translation>
+    </message>
+    <message>
+        <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
+        <translation>Es ist nicht bekannt, wofür das war: %1. Sagen Sie es mit --for, --against oder einer Regel.</translation>
     </message>
 </context>
 <context>

@@ -248,6 +248,41 @@
             <numerusform>%n further balances differ from the entries, too.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Entered on %1 in %n parts, which add up to it.</source>
+        <translation>
+            <numerusform>Entered on %1 in %n part, which adds up to it.</numerusform>
+            <numerusform>Entered on %1 in %n parts, which add up to it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries of %1</source>
+        <translation>
+            <numerusform>Imported %n entry of %1</numerusform>
+            <numerusform>Imported %n entries of %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n rules.</source>
+        <translation>
+            <numerusform>Removed %n rule.</numerusform>
+            <numerusform>Removed %n rules.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %n entries?</source>
+        <translation>
+            <numerusform>Import %n entry?</numerusform>
+            <numerusform>Import %n entries?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries should be looked at; see the marks with --dry-run.</source>
+        <translation>
+            <numerusform>%n entry should be looked at; see the marks with --dry-run.</numerusform>
+            <numerusform>%n entries should be looked at; see the marks with --dry-run.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

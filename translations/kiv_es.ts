@@ -2458,10 +2458,6 @@
         <translation>No hay ningún perfil «%1»; los guardados son: %2.</translation>
     </message>
     <message>
-        <source>Give the counter-account of %1 with --against.</source>
-        <translation>La contrapartida de %1 se indica con --against.</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; exists already; choose another name.</source>
         <translation>El archivo «%1» ya existe; hace falta otro nombre.</translation>
     </message>
@@ -3037,10 +3033,6 @@
     <message>
         <source>File; - for standard input</source>
         <translation>Archivo; - para la entrada estándar</translation>
-    </message>
-    <message>
-        <source>Format: journal, csv, ofx or qif (default: guessed)</source>
-        <translation>Formato: journal, csv, ofx o qif (por defecto: se deduce)</translation>
     </message>
     <message>
         <source>Decimal mark: . or ,</source>
@@ -3647,10 +3639,6 @@
         <translation>Asientos registrados: %1; duplicados omitidos: %2; cuentas abiertas: %3.</translation>
     </message>
     <message>
-        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx or qif.</source>
-        <translation>No se reconoce el formato de «%1»; se indica con --format: journal, csv, ofx o qif.</translation>
-    </message>
-    <message>
         <source>Give the account of the bank statement with --into.</source>
         <translation>La cuenta del extracto se indica con --into.</translation>
     </message>
@@ -3800,10 +3788,6 @@
     <message>
         <source>Number of lines below the entries, such as totals (csv)</source>
         <translation>Número de líneas bajo las entradas, como totales (csv)</translation>
-    </message>
-    <message>
-        <source>Line %1 may be a transfer that the other account&apos;s statement already posted.</source>
-        <translation>La línea %1 quizá sea un traspaso ya registrado con el extracto de la otra cuenta.</translation>
     </message>
     <message>
         <source>An amount in the column of what came in is negative; move it to what went out, or remove its sign.</source>
@@ -5679,10 +5663,6 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <translation>Las inversiones se omiten.</translation>
     </message>
     <message>
-        <source>Account number, to choose one of several statements (ofx, qif)</source>
-        <translation>Número de cuenta, para elegir uno de varios extractos (ofx, qif)</translation>
-    </message>
-    <message>
         <source>date &apos;%1&apos;</source>
         <translation>fecha «%1»</translation>
     </message>
@@ -5737,6 +5717,357 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message>
         <source>What is below the entries from line %1 on is skipped.</source>
         <translation>Se omite lo que hay debajo de los movimientos a partir de la línea %1.</translation>
+    </message>
+    <message>
+        <source>It is not known what &apos;%1&apos; of %2 was for.</source>
+        <translation>No se sabe para qué era «%1» del %2.</translation>
+    </message>
+    <message>
+        <source>A rule needs a text that entries contain.</source>
+        <translation>Una regla necesita un texto que contengan los apuntes.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a regular expression: %2.</source>
+        <translation>«%1» no es una expresión regular: %2.</translation>
+    </message>
+    <message>
+        <source>No amount lies between those of the rule.</source>
+        <translation>Ningún importe está entre los de la regla.</translation>
+    </message>
+    <message>
+        <source>There are too many rules; remove some first.</source>
+        <translation>Hay demasiadas reglas; quite antes algunas.</translation>
+    </message>
+    <message>
+        <source>The file tells it twice.</source>
+        <translation>El archivo lo da dos veces.</translation>
+    </message>
+    <message>
+        <source>%1 is due on %2 for %3.</source>
+        <translation>%1 vence el %2 por %3.</translation>
+    </message>
+    <message>
+        <source>%1 is due on %2, but for %3.</source>
+        <translation>%1 vence el %2, pero por %3.</translation>
+    </message>
+    <message>
+        <source>It was imported before.</source>
+        <translation>Ya se importó.</translation>
+    </message>
+    <message>
+        <source>Another file told it already.</source>
+        <translation>Otro archivo ya lo daba.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entered on %1 in %n parts, which add up to it.</source>
+        <translation>
+            <numerusform>Apuntado el %1 en %n parte, que lo suma.</numerusform>
+            <numerusform>Apuntado el %1 en %n partes, que lo suman.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The statement of %1 told it on %2.</source>
+        <translation>El extracto de %1 lo daba el %2.</translation>
+    </message>
+    <message>
+        <source>Entered on %1 for the same amount; another entry fits as well.</source>
+        <translation>Apuntado el %1 con el mismo importe; otro apunte también encaja.</translation>
+    </message>
+    <message>
+        <source>Entered on %1 for the same amount.</source>
+        <translation>Apuntado el %1 con el mismo importe.</translation>
+    </message>
+    <message>
+        <source>As you said before.</source>
+        <translation>Como usted dijo antes.</translation>
+    </message>
+    <message>
+        <source>The columns that were kept no longer fit, and were found anew: %1</source>
+        <translation>Las columnas guardadas ya no encajan y se han buscado de nuevo: %1</translation>
+    </message>
+    <message>
+        <source>The file is of %1, whose files have the number %2.</source>
+        <translation>El archivo es de %1, cuyos archivos llevan el número %2.</translation>
+    </message>
+    <message>
+        <source>The file is of the account %1; former files of %2 were of %3.</source>
+        <translation>El archivo es de la cuenta %1; los anteriores de %2 eran de %3.</translation>
+    </message>
+    <message>
+        <source>It is not known what it was for.</source>
+        <translation>No se sabe para qué era.</translation>
+    </message>
+    <message>
+        <source>By the rule “%1”.</source>
+        <translation>Por la regla «%1».</translation>
+    </message>
+    <message>
+        <source>As the last time.</source>
+        <translation>Como la última vez.</translation>
+    </message>
+    <message>
+        <source>As %1 of %2 times.</source>
+        <translation>Como %1 de %2 veces.</translation>
+    </message>
+    <message>
+        <source>By the file&apos;s category.</source>
+        <translation>Por la categoría del archivo.</translation>
+    </message>
+    <message>
+        <source>By the file&apos;s category; “%1” is opened for it.</source>
+        <translation>Por la categoría del archivo; se abre «%1» para ello.</translation>
+    </message>
+    <message>
+        <source>Format: journal, csv, ofx, qif, mt940 or camt (default: guessed)</source>
+        <translation>Formato: journal, csv, ofx, qif, mt940 o camt (si falta: se adivina)</translation>
+    </message>
+    <message>
+        <source>Account number, to choose one of several statements</source>
+        <translation>Número de cuenta, para elegir uno de varios extractos</translation>
+    </message>
+    <message>
+        <source>new</source>
+        <translation>nuevo</translation>
+    </message>
+    <message>
+        <source>due</source>
+        <translation>vence</translation>
+    </message>
+    <message>
+        <source>matched</source>
+        <translation>encontrado</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>conocido</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitido</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Apunte</translation>
+    </message>
+    <message>
+        <source>For</source>
+        <translation>Para</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Por qué</translation>
+    </message>
+    <message numerus="yes">
+        <source>Imported %n entries of %1</source>
+        <translation>
+            <numerusform>%n apunte de %1 importado</numerusform>
+            <numerusform>%n apuntes de %1 importados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read the account&apos;s tables like this from now on (csv)</source>
+        <translation>Leer así las tablas de la cuenta desde ahora (csv)</translation>
+    </message>
+    <message>
+        <source>Take the preview as it is, and ask nothing</source>
+        <translation>Tomar la vista previa como está y no preguntar nada</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Patrón</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Statements of</source>
+        <translation>Extractos de</translation>
+    </message>
+    <message>
+        <source>There are no rules.</source>
+        <translation>No hay reglas.</translation>
+    </message>
+    <message>
+        <source>The least amount, without its sign</source>
+        <translation>Importe mínimo, sin signo</translation>
+    </message>
+    <message>
+        <source>The highest amount, without its sign</source>
+        <translation>Importe máximo, sin signo</translation>
+    </message>
+    <message>
+        <source>Only statements of this account</source>
+        <translation>Solo extractos de esta cuenta</translation>
+    </message>
+    <message>
+        <source>Text that the payee or the text contains</source>
+        <translation>Texto que contiene el beneficiario o el texto</translation>
+    </message>
+    <message>
+        <source>Account or item that such entries are for</source>
+        <translation>Cuenta o partida para la que son esos apuntes</translation>
+    </message>
+    <message>
+        <source>The text is a regular expression</source>
+        <translation>El texto es una expresión regular</translation>
+    </message>
+    <message>
+        <source>Added the rule “%1” for %2.</source>
+        <translation>Se ha añadido la regla «%1» para %2.</translation>
+    </message>
+    <message>
+        <source>What a bank says of an entry</source>
+        <translation>Lo que dice un banco de un apunte</translation>
+    </message>
+    <message>
+        <source>Amount of the entry</source>
+        <translation>Importe del apunte</translation>
+    </message>
+    <message>
+        <source>Account of the statement</source>
+        <translation>Cuenta del extracto</translation>
+    </message>
+    <message>
+        <source>No rule fits.</source>
+        <translation>Ninguna regla encaja.</translation>
+    </message>
+    <message>
+        <source>Rule %1, “%2”, says that it is for %3.</source>
+        <translation>Según la regla %1, «%2», es para %3.</translation>
+    </message>
+    <message>
+        <source>Numbers of rules, see rules list</source>
+        <translation>Números de reglas, véase rules list</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed %n rules.</source>
+        <translation>
+            <numerusform>Se ha quitado %n regla.</numerusform>
+            <numerusform>Se han quitado %n reglas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Say what entries of statements are for</source>
+        <translation>Decir para qué son los apuntes de extractos</translation>
+    </message>
+    <message>
+        <source>List all rules</source>
+        <translation>Listar todas las reglas</translation>
+    </message>
+    <message>
+        <source>Add a rule</source>
+        <translation>Añadir una regla</translation>
+    </message>
+    <message>
+        <source>Tell which rule fits a text</source>
+        <translation>Decir qué regla encaja con un texto</translation>
+    </message>
+    <message>
+        <source>Remove rules</source>
+        <translation>Quitar reglas</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. %3 Pay it with this?</source>
+        <translation>Apunte %1: %2. %3 ¿Pagarlo con esto?</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. %3 Is it the same?</source>
+        <translation>Apunte %1: %2. %3 ¿Es el mismo?</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. What was it for? (account or item; empty leaves it out)</source>
+        <translation>Apunte %1: %2. ¿Para qué era? (cuenta o partida; vacío lo omite)</translation>
+    </message>
+    <message>
+        <source>Entry %1: %2. What was it for? (empty: %3)</source>
+        <translation>Apunte %1: %2. ¿Para qué era? (vacío: %3)</translation>
+    </message>
+    <message>
+        <source>Always %1 for this payee?</source>
+        <translation>¿Siempre %1 para este beneficiario?</translation>
+    </message>
+    <message>
+        <source>Entry that is new, whatever is there (repeatable)</source>
+        <translation>Apunte que es nuevo, haya lo que haya (repetible)</translation>
+    </message>
+    <message>
+        <source>ENTRY=TRANSACTION, which is the same (repeatable)</source>
+        <translation>APUNTE=TRANSACCIÓN, que es lo mismo (repetible)</translation>
+    </message>
+    <message>
+        <source>ENTRY=ACCOUNT, which it is for (repeatable)</source>
+        <translation>APUNTE=CUENTA, para la que es (repetible)</translation>
+    </message>
+    <message>
+        <source>Entry that is not taken (repeatable)</source>
+        <translation>Apunte que no se toma (repetible)</translation>
+    </message>
+    <message>
+        <source>Is %1 the day %2?</source>
+        <translation>¿Es %1 el día %2?</translation>
+    </message>
+    <message>
+        <source>Which account is it of? (%1)</source>
+        <translation>¿De qué cuenta es? (%1)</translation>
+    </message>
+    <message>
+        <source>Import it all the same?</source>
+        <translation>¿Importarlo de todos modos?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %n entries?</source>
+        <translation>
+            <numerusform>¿Importar %n apunte?</numerusform>
+            <numerusform>¿Importar %n apuntes?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New: %1; matched: %2; already imported: %3; left out: %4; accounts opened: %5.</source>
+        <translation>Nuevos: %1; encontrados: %2; ya importados: %3; omitidos: %4; cuentas abiertas: %5.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries should be looked at; see the marks with --dry-run.</source>
+        <translation>
+            <numerusform>Conviene mirar %n apunte; vea las marcas con --dry-run.</numerusform>
+            <numerusform>Conviene mirar %n apuntes; vea las marcas con --dry-run.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx, qif, mt940 or camt.</source>
+        <translation>No se reconoce el formato de «%1»; use --format: journal, csv, ofx, qif, mt940 o camt.</translation>
+    </message>
+    <message>
+        <source>%1 It may be: %2.</source>
+        <translation>%1 Puede ser: %2.</translation>
+    </message>
+    <message>
+        <source>%1 Use --yes to import it all the same.</source>
+        <translation>%1 Use --yes para importarlo de todos modos.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>Transaction %1 cannot be the same as an entry of %2.</source>
+        <translation>La transacción %1 no puede ser lo mismo que un apunte de %2.</translation>
+    </message>
+    <message>
+        <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
+        <translation>No se sabe para qué era esto: %1. Dígalo con --for, --against o una regla.</translation>
     </message>
 </context>
 <context>

@@ -35,7 +35,7 @@ at has a mark, and can be corrected by the numbers of its entries:
   2 entries should be looked at; see the marks with --dry-run.
   Dry run: nothing is saved.
   $ kiv import s.ofx
-  kiv: Give the counter-account of 2026-01-29, -$30.00, ACME with --against.
+  kiv: It is not known what this was for: 2026-01-29, -$30.00, ACME. Say it with --for, --against or a rule.
   [1]
   $ kiv import s.ofx --new 1 --same 4=3 --for 3=Food --leave-out 2 --dry-run --json |
   >     jq -c '.entries[] | [.state, .for]'
@@ -58,7 +58,7 @@ at has a mark, and can be corrected by the numbers of its entries:
   Added the rule \xe2\x80\x9cacme\xe2\x80\x9d for Food. (esc)
   $ kiv import s.ofx
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
-  1 entries should be looked at; see the marks with --dry-run.
+  1 entry should be looked at; see the marks with --dry-run.
   $ kiv export --format csv | cut -d, -f2,4,6,7,9-11 | tr -d '\r'
   date,debitAccount,creditAccount,amount,description,debitStatus,creditStatus
   "2026-01-01","Assets:Checking","Equity:Opening Balances USD [Equity]","2500.00","","none","none"
@@ -87,7 +87,7 @@ at has a mark, and can be corrected by the numbers of its entries:
   transaction  7            removed  2026-01-29, 30.00 USD, AC
   transaction  8            removed  2026-01-08, 9.99 USD, COR
   $ kiv import s.ofx --keep-duplicates | tail -1
-  kiv: Give the counter-account of 2026-01-22, -$7.20, NEWS with --against.
+  kiv: It is not known what this was for: 2026-01-22, -$7.20, NEWS. Say it with --for, --against or a rule.
 
 A rule follows the account, undo takes it back:
 
@@ -100,7 +100,7 @@ A rule follows the account, undo takes it back:
   $ kiv rules test acme --amount 101
   No rule fits.
   $ kiv rules remove 1
-  Removed 1 rules.
+  Removed 1 rule.
   $ kiv undo >/dev/null
   $ kiv rules list --json | jq -c '.[]'
   {"account":77,"from":"25","of":null,"path":"Expenses:Food","pattern":false,"rule":1,"text":"acme","to":"100"}
@@ -124,7 +124,7 @@ A file of another account is noticed, and one whose account is known needs no na
   [2]
   $ kiv import other.ofx --into Checking --against Food
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
-  1 entries should be looked at; see the marks with --dry-run.
+  1 entry should be looked at; see the marks with --dry-run.
   $ kiv import other.ofx --into Savings --against Food | tail -2
   kiv: The file is of Checking, whose files have the number DE88. Use --yes to import it all the same.
   $ kiv import other.ofx | tail -1

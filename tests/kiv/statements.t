@@ -110,7 +110,7 @@ What is left out, or goes elsewhere than the file says, is told:
   $ kiv import old.csv --into Checking --against Other
   Some entries are older than the opening balance of 2026-01-01, which may already include them.
   New: 2; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
-  1 entries should be looked at; see the marks with --dry-run.
+  1 entry should be looked at; see the marks with --dry-run.
   $ kiv import old.csv --into Checking --against Other --profile mine
   New: 0; matched: 0; already imported: 2; left out: 0; accounts opened: 0.
 
@@ -147,7 +147,7 @@ What cannot be read is refused, with its line:
   kiv: Cannot tell the format of 's.bin'; use --format: journal, csv, ofx, qif, mt940 or camt.
   [2]
   $ kiv import s.ofx --into Checking
-  kiv: Give the counter-account of 2026-01-10, -$5.25, Bakery with --against.
+  kiv: It is not known what this was for: 2026-01-10, -$5.25, Bakery. Say it with --for, --against or a rule.
   [1]
   $ mkdir folder
   $ kiv import folder --format journal
@@ -158,7 +158,7 @@ What cannot be read is refused, with its line:
   [1]
   $ printf '!Type:Bank\nD1/25/2026\nT1\n^\n' >s.qif
   $ kiv import s.qif
-  kiv: Give the counter-account of 2026-01-25, $1.00,  with --against.
+  kiv: It is not known what this was for: 2026-01-25, $1.00, . Say it with --for, --against or a rule.
   [1]
 
 So are options that do not fit:

@@ -208,7 +208,10 @@ Refusal notTheSame(const numira::Money &amount, const QString &number)
 
 Refusal noOtherAccount(const QString &entry)
 {
-    return Refusal(QObject::tr("Give the counter-account of %1 with --against.").arg(entry));
+    return Refusal(
+        QObject::tr(
+            "It is not known what this was for: %1. Say it with --for, --against or a rule.")
+            .arg(entry));
 }
 
 QString withFormerVersions(const QString &sentence)
