@@ -5,9 +5,11 @@
 #include "workbench/requests/budget_view.h"
 #include "workbench/requests/due_items.h"
 #include "workbench/requests/transactions.h"
+#include "workbench/statements/import_preview.h"
 #include "workbench/statements/internal/preview_parts.h"
 
 #include "foundation/presentation.h"
+#include "interchange/draft.h"
 
 #include <algorithm>
 #include <numeric>

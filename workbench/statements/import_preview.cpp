@@ -45,7 +45,7 @@ std::vector<ImportRow> rowsOf(const interchange::Statement &statement)
 } // namespace
 
 internal::PreviewParts::PreviewParts(interchange::Statement statement, StatementBooks books,
-                                     ImportPreview::Choices choices)
+                                     ImportChoices choices)
     : m_statement(identified(std::move(statement), books)),
       m_books(std::move(books)),
       m_choices(std::move(choices)),

@@ -10,12 +10,12 @@ namespace kiv::workbench {
 
 /// A bank's file that is to be imported, and what the user said about it.
 struct ImportSource {
-    QString file;                           ///< its name, for messages
-    QByteArray bytes;                       ///< all that it holds
-    interchange::StatementFormat format{};  ///< its form
-    interchange::StatementOptions options;  ///< how to read it; the currency is found
-    bool hasProfile = false;                ///< whether the user said how its table is written
-    QString statement = {};                 ///< the bank's number of the account, among several
+    QString file;                          ///< its name, for messages
+    QByteArray bytes;                      ///< all that it holds
+    interchange::StatementFormat format{}; ///< its form
+    interchange::StatementOptions options; ///< how to read it; the currency is found
+    bool hasProfile = false;               ///< whether the user said how its table is written
+    QString statement = {};                ///< the bank's number of the account, among several
     std::optional<accounting::AccountNumber> into = {}; ///< the budget's account, if it is said
 };
 

@@ -23,7 +23,7 @@ constexpr int sureShare = 60;
 
 } // namespace
 
-OtherSides::OtherSides(const StatementBooks &books, const ImportPreview::Choices &choices)
+OtherSides::OtherSides(const StatementBooks &books, const ImportChoices &choices)
     : m_books(books), m_choices(choices), m_index(books.accounts), m_rules(choices.memory.rules)
 {
     for (const accounting::Account &account : m_index.accounts()) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/statements/import_preview.h"
+#include "workbench/statements/import_rows.h"
 
 #include <unordered_map>
 
@@ -12,7 +12,7 @@ namespace kiv::workbench::internal {
 class OtherSides {
 public:
     /// Both must outlive it. Throws a Refusal for a profile's rule whose account does not exist.
-    OtherSides(const StatementBooks &books, const ImportPreview::Choices &choices);
+    OtherSides(const StatementBooks &books, const ImportChoices &choices);
 
     struct Choice {
         OtherSideBy by = OtherSideBy::Nobody;
@@ -57,7 +57,7 @@ private:
     [[nodiscard]] std::optional<Choice> usual(const Payee &payee, bool isOut) const;
 
     const StatementBooks &m_books;
-    const ImportPreview::Choices &m_choices;
+    const ImportChoices &m_choices;
     AccountIndex m_index;
     RuleBook m_rules;
     std::vector<std::pair<QString, accounting::AccountNumber>> m_profileRules; ///< folded text

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/statements/import_preview.h"
+#include "workbench/statements/import_rows.h"
 
 namespace kiv::workbench::internal {
 

@@ -10,8 +10,7 @@ namespace kiv::workbench::internal {
 /// What a preview consists of. Its parts refer to each other, so it does not move.
 class PreviewParts {
 public:
-    PreviewParts(interchange::Statement statement, StatementBooks books,
-                 ImportPreview::Choices choices);
+    PreviewParts(interchange::Statement statement, StatementBooks books, ImportChoices choices);
     PreviewParts(const PreviewParts &) = delete;
     PreviewParts &operator=(const PreviewParts &) = delete;
 
@@ -31,7 +30,7 @@ public:
 
     interchange::Statement m_statement; ///< its entries are those of the rows
     StatementBooks m_books;
-    ImportPreview::Choices m_choices;
+    ImportChoices m_choices;
     std::vector<ImportRow> m_rows;
     StatementMatcher m_matcher;
     OtherSides m_others;
