@@ -109,11 +109,15 @@ A rule follows the account, undo takes it back:
   > rules add ' ' Food
   > rules add x Food --from 9 --to 3
   > rules remove 2
+  > import s.ofx --keep-columns
+  > import s.ofx --format journal --yes
   > .
   kiv: '(' is not a regular expression: missing closing parenthesis.
   kiv: A rule needs a text that entries contain.
   kiv: No amount lies between those of the rule.
   kiv: '2' is not a whole number from 1 to 1.
+  kiv: Use either --keep-columns or --format ofx, not both.
+  kiv: Use either --yes or --format journal, not both.
 
 A file of another account is noticed, and one whose account is known needs no name:
 
@@ -138,6 +142,7 @@ Columns that are found can be kept, as long as they fit:
   [1]
   $ kiv import a.csv --into Checking --against Food --date-column Day --amount-column Sum \
   >     --text-column What --date-format D/M/YYYY --keep-columns
+  Read as: UTF-8, semicolons, headings on line 1, date 'Day' as D/M/YYYY, amount 'Sum', text 'What', decimal comma
   New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ sed 's/-1,50/-1,60/' a.csv >b.csv
   $ kiv import b.csv --into Checking --against Food

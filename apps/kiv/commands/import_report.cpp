@@ -122,12 +122,13 @@ QJsonObject jsonOf(const ImportRow &row, qsizetype place, const AccountIndex &in
     return json;
 }
 
-Rows rowsOf(const ImportPreview &preview, const AccountIndex &index)
+/// Made one by one: there may be many, and often nobody reads them.
+Rows rowsOf(const std::shared_ptr<const ImportPreview> &preview,
+            const std::shared_ptr<const AccountIndex> &index)
 {
-    const auto all = std::make_shared<QJsonArray>();
-    for (const ImportRow &row : preview.rows())
-        all->append(jsonOf(row, all->size(), index));
-    return *all;
+    return {std::ssize(preview->rows()), [preview, index](qsizetype at) {
+                return jsonOf(preview->rows()[static_cast<std::size_t>(at)], at, *index);
+            }};
 }
 
 } // namespace
@@ -161,7 +162,8 @@ Report importReport(Call &call, PostedImport import)
                  QString::number(import.opened.size())));
 }
 
-void addRows(Report &report, const ImportPreview &preview, const AccountIndex &index)
+void addRows(Report &report, const std::shared_ptr<const ImportPreview> &preview,
+             const std::shared_ptr<const AccountIndex> &index)
 {
     const auto word = [](const QJsonValue &state) {
         return QObject::tr(state.toString().toUtf8().constData());
@@ -180,26 +182,27 @@ void addRows(Report &report, const ImportPreview &preview, const AccountIndex &i
                  rowsOf(preview, index), QObject::tr("There are no transactions in the file."));
 }
 
-Report importReport(Call &call, const ImportPreview &preview, const ImportPreview::Done &done)
+Report importReport(Call &call, const std::shared_ptr<const ImportPreview> &preview,
+                    const ImportPreview::Done &done)
 {
-    const AccountIndex index = call.requests.accounts();
+    const auto index = std::make_shared<const AccountIndex>(call.requests.accounts());
     const ImportCounts &counts = done.counts;
     QJsonArray accounts;
     for (const accounting::Account &account : done.opened)
-        accounts.append(toJson(account, index));
+        accounts.append(toJson(account, *index));
     Report report(
-        QJsonObject{{QStringLiteral("account"), toJson(preview.account().number())},
+        QJsonObject{{QStringLiteral("account"), toJson(preview->account().number())},
                     {QStringLiteral("accounts"), accounts},
                     {QStringLiteral("new"), counts.added},
                     {QStringLiteral("matched"), counts.matched},
                     {QStringLiteral("known"), counts.known},
                     {QStringLiteral("leftOut"), counts.leftOut},
                     {QStringLiteral("doubtful"), counts.doubtful},
-                    {QStringLiteral("notices"), QJsonArray::fromStringList(preview.notices())}},
+                    {QStringLiteral("notices"), QJsonArray::fromStringList(preview->notices())}},
         QStringLiteral("entries"), rowsOf(preview, index));
     report.setChange(QObject::tr("Imported %n entries of %1", nullptr,
                                  static_cast<int>(counts.added + counts.matched))
-                         .arg(index.plainName(preview.account().number())));
+                         .arg(index->plainName(preview->account().number())));
     return report;
 }
 

@@ -13,10 +13,12 @@ namespace kiv::app {
 [[nodiscard]] Report importReport(Call &call, workbench::PostedImport import);
 
 /// The rows of a statement's preview as a table, in their order: "New", "Already there" …
-void addRows(Report &report, const workbench::ImportPreview &preview, const AccountIndex &index);
+void addRows(Report &report, const std::shared_ptr<const workbench::ImportPreview> &preview,
+             const std::shared_ptr<const AccountIndex> &index);
 
 /// What a statement came to. `done` is missing as long as nothing is posted.
-[[nodiscard]] Report importReport(Call &call, const workbench::ImportPreview &preview,
+[[nodiscard]] Report importReport(Call &call,
+                                  const std::shared_ptr<const workbench::ImportPreview> &preview,
                                   const workbench::ImportPreview::Done &done);
 
 } // namespace kiv::app

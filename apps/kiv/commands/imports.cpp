@@ -31,6 +31,7 @@ struct Import {
     {
         const QByteArray bytes = readInput(options.file);
         const ImportFormat format = options.formatOf(bytes);
+        refuseUnused(format);
         if (const auto statement = workbench::statementFormat(format))
             return StatementImport{options, corrections, isAgreed, keepsDuplicates, keepsColumns}
                 .run(call, *statement, bytes);
@@ -38,6 +39,24 @@ struct Import {
     }
 
 private:
+    /// Options without effect, as those of reading.
+    void refuseUnused(ImportFormat format) const
+    {
+        const QString form = QStringLiteral("--format %1").arg(workbench::importFormatWord(format));
+        if (keepsColumns && format != ImportFormat::Csv)
+            throw contradiction(QStringLiteral("--keep-columns"), form);
+        if (format != ImportFormat::Journal)
+            return;
+        for (const auto &[option, isGiven] : {std::pair("--new", !corrections.fresh.empty()),
+                                              {"--same", !corrections.same.empty()},
+                                              {"--for", !corrections.purpose.empty()},
+                                              {"--leave-out", !corrections.leftOut.empty()},
+                                              {"--yes", isAgreed}}) {
+            if (isGiven)
+                throw contradiction(QLatin1String(option), form);
+        }
+    }
+
     [[nodiscard]] Report importJournal(Call &call, const QByteArray &bytes) const
     {
         using enum workbench::KnownTransactions;

@@ -203,56 +203,55 @@ Report StatementImport::run(Call &call, interchange::StatementFormat format,
     if (options.against)
         choices.otherwise = index.find(*options.against).code().number();
     choices.postsKnown = postsKnown;
-    ImportPreview preview =
-        workbench::previewOf(call.requests, std::move(reading), std::move(choices));
-    correct(preview, corrections, index);
-    Report shown;
-    addRows(shown, preview, index);
-    if (isAsking && preview.counts().added + preview.counts().matched > 0) {
+    const auto preview = std::make_shared<ImportPreview>(
+        workbench::previewOf(call.requests, std::move(reading), std::move(choices)));
+    correct(*preview, corrections, index);
+    if (isAsking && preview->counts().added + preview->counts().matched > 0) {
+        Report shown;
+        addRows(shown, preview, std::make_shared<const AccountIndex>(call.requests.accounts()));
         shown.writeText(call.program.terminal(), call.document.displayAs());
-        Questions(call, preview).ask();
+        Questions(call, *preview).ask();
         if (!dialogue.agrees(
                 QObject::tr("Import %n entries?", nullptr,
-                            static_cast<int>(preview.counts().added + preview.counts().matched)),
+                            static_cast<int>(preview->counts().added + preview->counts().matched)),
                 true))
             throw importGivenUp();
     }
-    if (format == interchange::StatementFormat::Csv) {
-        const interchange::CsvGuess guess = interchange::guessCsv(
-            bytes, options.file,
-            {profile, index.find(preview.account().number())->balance().code()});
-        return finished(call, preview, guess.profile, guess.summary);
-    }
-    return finished(call, preview, profile, QString());
+    return finished(call, preview, profile, format, bytes);
 }
 
-Report StatementImport::finished(Call &call, const ImportPreview &preview,
+Report StatementImport::finished(Call &call, const std::shared_ptr<const ImportPreview> &preview,
                                  const interchange::CsvProfile &profile,
-                                 const QString &readAs) const
+                                 interchange::StatementFormat format, const QByteArray &bytes) const
 {
     // In a dry run, what is still open is shown.
-    const bool isOpen = preview.counts().open > 0;
+    const bool isOpen = preview->counts().open > 0;
     if (isOpen && !call.options.isDryRun) {
-        for (const ImportRow &row : preview.rows()) {
+        for (const ImportRow &row : preview->rows()) {
             if (row.isTicked && row.state == ImportRow::State::New && !row.other &&
                 row.opens.isEmpty())
                 throw noOtherAccount(told(row, call));
         }
     }
     ImportPreview::Done done;
-    done.counts = preview.counts();
+    done.counts = preview->counts();
     if (!isOpen)
-        done = preview.post(call.requests);
+        done = preview->post(call.requests);
     Report report = importReport(call, preview, done);
+    const auto index = std::make_shared<const AccountIndex>(call.requests.accounts());
+    const accounting::AccountNumber account = preview->account().number();
+    ImportMemory memory = preview->memory();
     if (call.options.isDryRun)
-        addRows(report, preview, call.requests.accounts());
-    if (call.options.isDryRun && !readAs.isEmpty())
-        report.line(readAs);
-    for (const QString &notice : preview.notices())
+        addRows(report, preview, index);
+    if (format == interchange::StatementFormat::Csv && (call.options.isDryRun || keepsColumns)) {
+        const interchange::CsvGuess guess = interchange::guessCsv(
+            bytes, options.file, {profile, index->find(account)->balance().code()});
+        report.line(guess.summary);
+        if (keepsColumns)
+            memory.accounts[account].profile = guess.profile;
+    }
+    for (const QString &notice : preview->notices())
         report.line(notice);
-    ImportMemory memory = preview.memory();
-    if (keepsColumns)
-        memory.accounts[preview.account().number()].profile = profile;
     if (done.hasChanges() || keepsColumns)
         call.document.setNotes(memory.keptIn(call.document.notes()));
     else

@@ -33,10 +33,11 @@ struct StatementImport {
 private:
     void askDays(const QByteArray &bytes, interchange::CsvProfile &profile,
                  Dialogue &dialogue) const;
-    /// `readAs` tells how a table was read.
-    [[nodiscard]] Report finished(Call &call, const workbench::ImportPreview &preview,
+    [[nodiscard]] Report finished(Call &call,
+                                  const std::shared_ptr<const workbench::ImportPreview> &preview,
                                   const interchange::CsvProfile &profile,
-                                  const QString &readAs) const;
+                                  interchange::StatementFormat format,
+                                  const QByteArray &bytes) const;
 };
 
 } // namespace kiv::app
