@@ -64,6 +64,8 @@ internal::PreviewParts::PreviewParts(interchange::Statement statement, Statement
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
         if (m_rows[row].state == State::New)
             chooseOther(row);
+        if (m_rows[row].state == State::New && !m_choices.postsKnown)
+            doubtChanged(row);
     }
     findPayments();
     doubtOld();
@@ -136,6 +138,16 @@ void internal::PreviewParts::findPayments()
         row.meaning = found->payment;
         row.isDoubtful = found->isDoubtful;
         row.reason = reasonOf(row, found->payment);
+    }
+}
+
+/// What was imported before may have another amount now.
+void internal::PreviewParts::doubtChanged(std::size_t at)
+{
+    if (const auto number = m_matcher.changedLine(at)) {
+        m_rows[at].isDoubtful = true;
+        m_rows[at].reason = QObject::tr("Transaction %1 has its identifier, but another amount.")
+                                .arg(presentationText(*number));
     }
 }
 

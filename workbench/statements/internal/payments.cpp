@@ -39,8 +39,10 @@ bool holdsAll(const QStringList &words, const QStringList &wanted)
 PaymentFinder::PaymentFinder(const StatementBooks &books)
 {
     for (const PayableItem &item : books.items) {
-        // What does not recur is due once and cannot be moved on.
-        if (item.period != budgeting::EventFrequency::None && item.amount.code() == books.currency)
+        // What does not recur is due once and cannot be moved on; a debt is not paid from its
+        // own account.
+        if (item.account != books.account.number() &&
+            item.period != budgeting::EventFrequency::None && item.amount.code() == books.currency)
             m_items.push_back({&item, item.next, tellingWords(item.id.source.name())});
     }
 }

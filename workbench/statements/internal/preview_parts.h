@@ -41,6 +41,7 @@ private:
     void leaveOut();
     void findMatches();
     void findPayments();
+    void doubtChanged(std::size_t at);
     void doubtOld();
 
     std::vector<bool> m_isFixed; ///< rows that nobody can change

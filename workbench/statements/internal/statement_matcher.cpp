@@ -113,6 +113,12 @@ void StatementMatcher::matchIdentifiers()
     }
 }
 
+std::optional<accounting::TransactionNumber> StatementMatcher::changedLine(std::size_t entry) const
+{
+    const Places places = isMadeUp(m_entries[entry].bankId) ? Places() : toldAs(m_entries[entry]);
+    return places.empty() ? std::nullopt : std::optional(m_lines.at(places.front()).number());
+}
+
 void StatementMatcher::matchContent()
 {
     for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {

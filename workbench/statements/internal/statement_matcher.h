@@ -19,6 +19,10 @@ public:
     /// amount, and those that are taken for it.
     [[nodiscard]] std::vector<ImportMatch> candidates(std::size_t entry) const;
 
+    /// A free line that has the bank's identifier of the entry, but not its amount: somebody
+    /// may have changed it.
+    [[nodiscard]] std::optional<accounting::TransactionNumber> changedLine(std::size_t entry) const;
+
     [[nodiscard]] LedgerLines &lines() noexcept { return m_lines; }
     [[nodiscard]] const LedgerLines &lines() const noexcept { return m_lines; }
     /// The places of the lines of a match.
