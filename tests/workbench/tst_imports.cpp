@@ -6,7 +6,9 @@
 #include "support/message_log.h"
 #include "support/scripted_sender.h"
 
+#include "workbench/document/demonstration.h"
 #include "workbench/document/document.h"
+#include "workbench/entry/description.h"
 #include "workbench/requests/budget_view.h"
 #include "workbench/statements/import_reading.h"
 
@@ -139,15 +141,99 @@ private slots:
             walk(random);
     }
 
+    /// A quarter of the demonstration: every third entry is typed, the rest imported from the
+    /// files of all accounts. The books are as if all had been typed.
+    void typedAndImportedMakeTheSameBooks()
+    {
+        const MessageLog log;
+        ScratchFolder folder;
+        workbench::Document document(surroundings(folder));
+        document.createFilled(folder.path(u"home"_s), {}, [&] {
+            workbench::makeDemonstration(document.requests(), day("2026-06-30"));
+        });
+        workbench::Requests &requests = document.requests();
+        const auto balances = [&requests] {
+            std::map<QString, QString> all;
+            const workbench::AccountIndex index = requests.accounts();
+            for (const accounting::Account &account : index.accounts())
+                all[account.code().name()] = withCode(account.balance());
+            return all;
+        };
+        const auto typed = balances();
+        const std::vector<accounting::Transaction> wanted = requests.transactions();
+        std::map<accounting::AccountNumber, std::vector<StatementEntry>> told;
+        std::map<QString, accounting::Transaction> truth; ///< by identifier
+        for (const auto &[number, bank] : workbench::accountsWithStatements(requests))
+            told[number] = {};
+        std::set<accounting::TransactionNumber> refunded;
+        for (const accounting::Transaction &one : wanted)
+            refunded.insert(one.refundOf().value_or(accounting::TransactionNumber()));
+        std::set<accounting::TransactionNumber> forgotten;
+        for (const accounting::Transaction &one : wanted) {
+            for (auto &[number, entries] : told) {
+                if (!one.involves(number) || one.occurredOn() < day("2026-04-01"))
+                    continue;
+                const bool isIn = one.debiting().number() == number;
+                StatementEntry entry{
+                    {u"f"_s, 1},
+                    one.occurredOn(),
+                    one.amountFor(number),
+                    workbench::Description::of(one.description()).shown().toUpper(),
+                    u"%1-%2"_s.arg(number.integer()).arg(one.number()->integer())};
+                entry.amount = isIn ? entry.amount : -entry.amount;
+                truth.emplace(entry.bankId, one);
+                entries.push_back(std::move(entry));
+                if (one.number()->integer() % 3 != 0 && !refunded.contains(*one.number()))
+                    forgotten.insert(*one.number());
+            }
+        }
+        for (const accounting::TransactionNumber number : forgotten) {
+            requests.change(workbench::transactionOutcome, &Navigator::onMarkUnreconciled,
+                            std::set{number});
+            requests.change(workbench::transactionOutcome, &Navigator::onRemovedTransaction,
+                            number);
+        }
+        QVERIFY(forgotten.size() > 40);
+        QVERIFY(balances() != typed);
+        for (const auto &[number, entries] : told) {
+            ImportPreview preview = previewOf(document, number, entries);
+            for (std::size_t row = 0; row < preview.rows().size(); ++row) {
+                const accounting::Transaction &one = truth.at(preview.rows()[row].entry.bankId);
+                if (preview.rows()[row].state == State::New)
+                    preview.setOther(row, one.debiting().number() == number
+                                              ? one.crediting().number()
+                                              : one.debiting().number());
+            }
+            (void)preview.post(requests);
+        }
+        QCOMPARE(balances(), typed);
+        QCOMPARE(requests.transactions().size(), wanted.size());
+    }
+
 private:
+    static workbench::Surroundings surroundings(const ScratchFolder &folder)
+    {
+        return {[] {
+                    return foundation::UniqueQtPtr<networking::RequestSender>(
+                        new ScriptedSender(ScriptedSender::silence()));
+                },
+                folder.path(u"rates"_s)};
+    }
+
+    static ImportPreview previewOf(workbench::Document &document, accounting::AccountNumber account,
+                                   std::vector<StatementEntry> entries)
+    {
+        const workbench::AccountIndex index = document.requests().accounts();
+        const numira::Currency currency = index.find(account)->balance().code();
+        return workbench::previewOf(document.requests(),
+                                    {{{}, currency, std::move(entries)}, account},
+                                    {ImportMemory::of(document.notes())});
+    }
+
     void walk(QRandomGenerator &random)
     {
         ScratchFolder folder;
-        workbench::Document document({[] {
-                                          return foundation::UniqueQtPtr<networking::RequestSender>(
-                                              new ScriptedSender(ScriptedSender::silence()));
-                                      },
-                                      folder.path(u"rates"_s)});
+        workbench::Document document(surroundings(folder));
         document.createEmpty(folder.path(u"home"_s), u"Made"_s);
         workbench::Requests &requests = document.requests();
         const auto pick = [&random](int count) { return int(random.bounded(count)); };
@@ -234,13 +320,12 @@ private:
     /// Imports the entries of these days; answers whether anything changed.
     static bool take(workbench::Document &document, const Told &told, QDate from, QDate to)
     {
-        interchange::Statement statement{{}, numira::toCurrency("USD"), {}};
+        std::vector<StatementEntry> entries;
         for (const StatementEntry &entry : told.entries) {
             if (from <= entry.date && entry.date <= to)
-                statement.entries.push_back(entry);
+                entries.push_back(entry);
         }
-        ImportPreview preview = workbench::previewOf(document.requests(), {statement, told.account},
-                                                     {ImportMemory::of(document.notes())});
+        ImportPreview preview = previewOf(document, told.account, std::move(entries));
         for (std::size_t row = 0; row < preview.rows().size(); ++row) {
             const ImportRow &open = preview.rows()[row];
             if (open.state != State::New)
