@@ -6069,6 +6069,143 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
         <translation>Es ist nicht bekannt, wofür das war: %1. Sagen Sie es mit --for, --against oder einer Regel.</translation>
     </message>
+    <message>
+        <source>Transaction %1 has its identifier, but another amount.</source>
+        <translation>Buchung %1 hat seine Kennung, aber einen anderen Betrag.</translation>
+    </message>
+    <message>
+        <source>A file of your bank, or a journal of another program, is laid beside the books.
+
+1. Choose the file. Its account is found if that is possible, and asked otherwise.
+2. A table (CSV) shows how it is read. What was found can be changed, and is kept for the account.
+3. Each entry says what becomes of it: it is new, it is there already, or an item that is due is paid with it. Space takes it or leaves it out. Below the table it can be said what it is and what it is for, and that this is remembered for the payee. Entries with the sign ⚠ should be looked at.
+
+The import does what is shown, and is one step of undo.</source>
+        <translation>Eine Datei der Bank oder das Journal eines anderen Programms wird neben die Bücher gelegt.
+
+1. Die Datei wählen. Ihr Konto wird gefunden, wenn das möglich ist, und sonst erfragt.
+2. Eine Tabelle (CSV) zeigt, wie sie gelesen wird. Was gefunden wurde, lässt sich ändern und wird für das Konto gemerkt.
+3. Jeder Eintrag sagt, was aus ihm wird: Er ist neu, er ist schon da, oder ein fälliger Posten wird mit ihm bezahlt. Die Leertaste nimmt ihn oder lässt ihn weg. Unter der Tabelle lässt sich sagen, was er ist und wofür er ist, und dass dies für den Empfänger gemerkt wird. Einträge mit dem Zeichen ⚠ sollten angesehen werden.
+
+Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigmachen.</translation>
+    </message>
+    <message>
+        <source>A rule says what entries of banks’ files are for, by a part of payee or text, and by amount and account if wanted. The first rule that fits counts. “Try the rules” tells which one fits a text.</source>
+        <translation>Eine Regel sagt, wofür Einträge aus Dateien der Bank sind: nach einem Teil von Empfänger oder Text und, wenn gewünscht, nach Betrag und Konto. Die erste passende Regel gilt. „Regeln ausprobieren“ zeigt, welche zu einem Text passt.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>weggelassen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>neu</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>schon da</translation>
+    </message>
+    <message>
+        <source>%1, to look at</source>
+        <translation>%1, anzusehen</translation>
+    </message>
+    <message>
+        <source>%1 (is opened)</source>
+        <translation>%1 (wird eröffnet)</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch nicht bekannt</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>genommen</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>Was daraus wird</translation>
+    </message>
+    <message>
+        <source>Payee and text</source>
+        <translation>Empfänger und Text</translation>
+    </message>
+    <message>
+        <source>taken</source>
+        <translation>genommen</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>nicht genommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n neu</numerusform>
+            <numerusform>%n neu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already there</source>
+        <translation>
+            <numerusform>%n schon da</numerusform>
+            <numerusform>%n schon da</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n weggelassen</numerusform>
+            <numerusform>%n weggelassen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n anzusehen</numerusform>
+            <numerusform>%n anzusehen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. Accounts to be opened: %2.</source>
+        <translation>%1. Zu eröffnende Konten: %2.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>ab %1</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>any account</source>
+        <translation>alle Konten</translation>
+    </message>
+    <message>
+        <source>Import a bank file</source>
+        <translation>Datei der Bank importieren</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -6202,6 +6339,10 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message>
         <source>removing “%1”</source>
         <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Import a bank file</source>
+        <translation>Date&amp;i der Bank importieren</translation>
     </message>
 </context>
 <context>
@@ -7200,6 +7341,365 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ImportColumnsStep</name>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Erste Zeilen der Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Letters as:</source>
+        <translation>&amp;Zeichensatz:</translation>
+    </message>
+    <message>
+        <source>&amp;Between cells:</source>
+        <translation>&amp;Trennzeichen:</translation>
+    </message>
+    <message>
+        <source>Headings in l&amp;ine:</source>
+        <translation>Überschriften in Ze&amp;ile:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>commas</source>
+        <translation>Kommas</translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation>Semikolons</translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation>Tabulatoren</translation>
+    </message>
+    <message>
+        <source>bars</source>
+        <translation>senkrechte Striche</translation>
+    </message>
+    <message>
+        <source>&amp;Day:</source>
+        <translation>T&amp;ag:</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>wählen</translation>
+    </message>
+    <message>
+        <source>Days a&amp;re:</source>
+        <translation>&amp;Lesart der Tage:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount:</source>
+        <translation>Bet&amp;rag:</translation>
+    </message>
+    <message>
+        <source>&amp;Money in:</source>
+        <translation>&amp;Eingang:</translation>
+    </message>
+    <message>
+        <source>Money o&amp;ut:</source>
+        <translation>Au&amp;sgang:</translation>
+    </message>
+    <message>
+        <source>&amp;Payee:</source>
+        <translation>Em&amp;pfänger:</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt:</source>
+        <translation>Te&amp;xt:</translation>
+    </message>
+    <message>
+        <source>Balan&amp;ce:</source>
+        <translation>Sald&amp;o:</translation>
+    </message>
+    <message>
+        <source>From now on:</source>
+        <translation>Von nun an:</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>Zurüc&amp;k</translation>
+    </message>
+    <message>
+        <source>Read files of this account so</source>
+        <translation>Dateien dieses Kontos so lesen</translation>
+    </message>
+    <message>
+        <source>Read files of “%1” so</source>
+        <translation>Dateien von „%1“ so lesen</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <comment>how a day is read</comment>
+        <translation>%1 ist %2</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>Day and month can be read in two ways. Choose how.</source>
+        <translation>Tag und Monat lassen sich auf zwei Arten lesen. Eine davon wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportFileStep</name>
+    <message>
+        <source>&amp;Bank file:</source>
+        <translation>Da&amp;tei der Bank:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>&amp;Art der Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Statement of:</source>
+        <translation>Aus&amp;zug von:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Konto:</translation>
+    </message>
+    <message>
+        <source>Another number:</source>
+        <translation>Andere Nummer:</translation>
+    </message>
+    <message>
+        <source>I&amp;mport it into this account all the same</source>
+        <translation>T&amp;rotzdem in dieses Konto importieren</translation>
+    </message>
+    <message>
+        <source>A file of your bank, or a journal of another program. Nothing is changed before the last step.</source>
+        <translation>Eine Datei der Bank oder das Journal eines anderen Programms. Vor dem letzten Schritt wird nichts geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Choose the file …</source>
+        <translation>Datei wäh&amp;len …</translation>
+    </message>
+    <message>
+        <source>Table of a bank (CSV)</source>
+        <translation>Tabelle einer Bank (CSV)</translation>
+    </message>
+    <message>
+        <source>Statement as OFX or QFX</source>
+        <translation>Kontoauszug als OFX oder QFX</translation>
+    </message>
+    <message>
+        <source>Statement as QIF</source>
+        <translation>Kontoauszug als QIF</translation>
+    </message>
+    <message>
+        <source>Statement as MT940</source>
+        <translation>Kontoauszug als MT940</translation>
+    </message>
+    <message>
+        <source>Statement as CAMT (XML)</source>
+        <translation>Kontoauszug als CAMT (XML)</translation>
+    </message>
+    <message>
+        <source>Journal of ledger or hledger</source>
+        <translation>Journal von ledger oder hledger</translation>
+    </message>
+    <message>
+        <source>as the file says</source>
+        <translation>wie die Datei sagt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The file does not show what it is. Choose it.</source>
+        <translation>Der Datei ist nicht anzusehen, was sie ist. Bitte wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the file that is to be imported.</source>
+        <translation>Die Datei wählen, die importiert werden soll.</translation>
+    </message>
+    <message>
+        <source>The file has statements of several accounts. Choose one; the others can be imported afterwards.</source>
+        <translation>Die Datei enthält Kontoauszüge mehrerer Konten. Einen wählen; die anderen lassen sich danach importieren.</translation>
+    </message>
+    <message>
+        <source>There is no account at a bank yet. It is added on the page “Banks”.</source>
+        <translation>Es gibt noch kein Konto bei einer Bank. Es wird auf der Seite „Banken“ hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Choose the account whose statement it is.</source>
+        <translation>Das Konto wählen, dessen Auszug es ist.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportJournalStep</name>
+    <message>
+        <source>Transactions of the journal</source>
+        <translation>Buchungen des Journals</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Zurüc&amp;k</translation>
+    </message>
+    <message numerus="yes">
+        <source>Im&amp;port %n transactions</source>
+        <translation>
+            <numerusform>%n Buchung im&amp;portieren</numerusform>
+            <numerusform>%n Buchungen im&amp;portieren</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Com&amp;plete</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportRowsStep</name>
+    <message>
+        <source>Entries of the file</source>
+        <translation>Einträge der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;What it is:</source>
+        <translation>&amp;Was es ist:</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>&amp;Posten oder Konto:</translation>
+    </message>
+    <message>
+        <source>From now on:</source>
+        <translation>Von nun an:</translation>
+    </message>
+    <message>
+        <source>Re&amp;member this for the payee</source>
+        <translation>Für den Empfänger &amp;merken</translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation>&amp;Zeigen:</translation>
+    </message>
+    <message>
+        <source>all entries</source>
+        <translation>alle Einträge</translation>
+    </message>
+    <message>
+        <source>new ones</source>
+        <translation>neue</translation>
+    </message>
+    <message>
+        <source>those that are there already</source>
+        <translation>die schon da sind</translation>
+    </message>
+    <message>
+        <source>those to look at</source>
+        <translation>die anzusehen sind</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this line</source>
+        <translation>Zeile übe&amp;rnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>Zurüc&amp;k</translation>
+    </message>
+    <message numerus="yes">
+        <source>Im&amp;port %n entries</source>
+        <translation>
+            <numerusform>%n Eintrag imp&amp;ortieren</numerusform>
+            <numerusform>%n Einträge imp&amp;ortieren</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Mark %n entries as seen at the bank</source>
+        <translation>
+            <numerusform>%n Eintrag als von der Bank bestätigt kennzeichnen</numerusform>
+            <numerusform>%n Einträge als von der Bank bestätigt kennzeichnen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Com&amp;plete</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries still need an item or account.</source>
+        <translation>
+            <numerusform>%n Eintrag braucht noch einen Posten oder ein Konto.</numerusform>
+            <numerusform>%n Einträge brauchen noch einen Posten oder ein Konto.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New: nothing that is there is the same</source>
+        <translation>Neu: nichts, was schon da ist, ist dasselbe</translation>
+    </message>
+    <message>
+        <source>Only a new entry has an item or account to choose.</source>
+        <translation>Nur ein neuer Eintrag hat einen Posten oder ein Konto zu wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the item or account of this entry.</source>
+        <translation>Posten oder Konto dieses Eintrags wählen.</translation>
+    </message>
+    <message>
+        <source>“%1” is closed, or is the account of the file itself.</source>
+        <translation>„%1“ ist geschlossen oder das Konto der Datei selbst.</translation>
+    </message>
+    <message>
+        <source>Taken: %1</source>
+        <translation>Genommen: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Weggelassen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportWizard</name>
+    <message>
+        <source>Import</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>The account of the file is no longer there.</source>
+        <translation>Das Konto der Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>Imported into “%1”: %2.</source>
+        <translation>In „%1“ importiert: %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n entries are there already.</source>
+        <translation>
+            <numerusform>Der %n Eintrag ist schon da.</numerusform>
+            <numerusform>Alle %n Einträge sind schon da.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>importing into “%1”</source>
+        <translation>Import in „%1“</translation>
+    </message>
+    <message>
+        <source>Imported the journal: %1.</source>
+        <translation>Journal importiert: %1.</translation>
+    </message>
+    <message>
+        <source>importing the journal</source>
+        <translation>Import des Journals</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemForm</name>
     <message>
         <source>&amp;Name:</source>
@@ -7401,6 +7901,10 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Begin s&amp;tep by step …</source>
         <translation>Schritt &amp;für Schritt beginnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Import a bank file …</source>
+        <translation>Datei der Bank &amp;importieren …</translation>
     </message>
 </context>
 <context>
@@ -7666,6 +8170,161 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>No budget is open.</source>
         <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>Import a bank file</source>
+        <translation>Datei der Bank importieren</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RulesPage</name>
+    <message>
+        <source>Import rules</source>
+        <translation>Importregeln</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Files of</source>
+        <translation>Dateien von</translation>
+    </message>
+    <message>
+        <source>Item or account</source>
+        <translation>Posten oder Konto</translation>
+    </message>
+    <message>
+        <source>&amp;New rule</source>
+        <translation>Neue Rege&amp;l</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>Ände&amp;rn</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the rules</source>
+        <translation>Regeln aus&amp;probieren</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Entries of banks’ files whose payee or text fits are for this item or account. The first rule that fits counts.</source>
+        <translation>Einträge aus Dateien der Bank, deren Empfänger oder Text passt, sind für diesen Posten oder dieses Konto. Die erste passende Regel gilt.</translation>
+    </message>
+    <message>
+        <source>&amp;Payee or text contains:</source>
+        <translation>Empfänger oder Te&amp;xt enthält:</translation>
+    </message>
+    <message>
+        <source>Kind of text:</source>
+        <translation>Art des Textes:</translation>
+    </message>
+    <message>
+        <source>It is a regula&amp;r expression</source>
+        <translation>Es ist ein &amp;regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>&amp;Posten oder Konto:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount at least:</source>
+        <translation>Betrag m&amp;indestens:</translation>
+    </message>
+    <message>
+        <source>Amount at &amp;most:</source>
+        <translation>Betrag hö&amp;chstens:</translation>
+    </message>
+    <message>
+        <source>&amp;Only in files of:</source>
+        <translation>Nur in Da&amp;teien von:</translation>
+    </message>
+    <message>
+        <source>&amp;What the bank says:</source>
+        <translation>&amp;Was die Bank sagt:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>Bet&amp;rag:</translation>
+    </message>
+    <message>
+        <source>In a file &amp;of:</source>
+        <translation>In einer Datei v&amp;on:</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y</source>
+        <translation>Aus&amp;probieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>There are no rules. Without them, an import learns from former entries of the same payee.</source>
+        <translation>Es gibt keine Regeln. Ohne sie lernt ein Import aus früheren Einträgen desselben Empfängers.</translation>
+    </message>
+    <message>
+        <source>There are no rules.</source>
+        <translation>Es gibt keine Regeln.</translation>
+    </message>
+    <message>
+        <source>It is the first rule.</source>
+        <translation>Es ist die erste Regel.</translation>
+    </message>
+    <message>
+        <source>Choose the item or account of such entries.</source>
+        <translation>Posten oder Konto solcher Einträge wählen.</translation>
+    </message>
+    <message>
+        <source>Changed the rule “%1”.</source>
+        <translation>Regel „%1“ geändert.</translation>
+    </message>
+    <message>
+        <source>changing the rule “%1”</source>
+        <translation>Änderung der Regel „%1“</translation>
+    </message>
+    <message>
+        <source>Added the rule “%1”.</source>
+        <translation>Regel „%1“ hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>adding the rule “%1”</source>
+        <translation>Hinzufügen der Regel „%1“</translation>
+    </message>
+    <message>
+        <source>Removed the rule “%1”.</source>
+        <translation>Regel „%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>removing the rule “%1”</source>
+        <translation>Entfernen der Regel „%1“</translation>
+    </message>
+    <message>
+        <source>Moved the rule “%1” up.</source>
+        <translation>Regel „%1“ nach oben verschoben.</translation>
+    </message>
+    <message>
+        <source>moving the rule “%1”</source>
+        <translation>Verschieben der Regel „%1“</translation>
+    </message>
+    <message>
+        <source>Which rule fits what a bank says of an entry?</source>
+        <translation>Welche Regel passt zu dem, was eine Bank von einem Eintrag sagt?</translation>
     </message>
 </context>
 <context>

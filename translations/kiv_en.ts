@@ -283,6 +283,34 @@
             <numerusform>%n entries should be looked at; see the marks with --dry-run.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n new</numerusform>
+            <numerusform>%n new</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already there</source>
+        <translation>
+            <numerusform>%n already there</numerusform>
+            <numerusform>%n already there</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n left out</numerusform>
+            <numerusform>%n left out</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n to look at</numerusform>
+            <numerusform>%n to look at</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>
@@ -321,6 +349,50 @@
         <translation>
             <numerusform>Show %n more</numerusform>
             <numerusform>Show %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportJournalStep</name>
+    <message numerus="yes">
+        <source>Im&amp;port %n transactions</source>
+        <translation>
+            <numerusform>Im&amp;port %n transaction</numerusform>
+            <numerusform>Im&amp;port %n transactions</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportRowsStep</name>
+    <message numerus="yes">
+        <source>Im&amp;port %n entries</source>
+        <translation>
+            <numerusform>Im&amp;port %n entry</numerusform>
+            <numerusform>Im&amp;port %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Mark %n entries as seen at the bank</source>
+        <translation>
+            <numerusform>Mark %n entry as seen at the bank</numerusform>
+            <numerusform>Mark %n entries as seen at the bank</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries still need an item or account.</source>
+        <translation>
+            <numerusform>%n entry still needs an item or account.</numerusform>
+            <numerusform>%n entries still need an item or account.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportWizard</name>
+    <message numerus="yes">
+        <source>All %n entries are there already.</source>
+        <translation>
+            <numerusform>The %n entry is there already.</numerusform>
+            <numerusform>All %n entries are there already.</numerusform>
         </translation>
     </message>
 </context>

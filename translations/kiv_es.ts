@@ -6069,6 +6069,143 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
         <translation>No se sabe para qué era esto: %1. Dígalo con --for, --against o una regla.</translation>
     </message>
+    <message>
+        <source>Transaction %1 has its identifier, but another amount.</source>
+        <translation>El asiento %1 tiene su identificador, pero otro importe.</translation>
+    </message>
+    <message>
+        <source>A file of your bank, or a journal of another program, is laid beside the books.
+
+1. Choose the file. Its account is found if that is possible, and asked otherwise.
+2. A table (CSV) shows how it is read. What was found can be changed, and is kept for the account.
+3. Each entry says what becomes of it: it is new, it is there already, or an item that is due is paid with it. Space takes it or leaves it out. Below the table it can be said what it is and what it is for, and that this is remembered for the payee. Entries with the sign ⚠ should be looked at.
+
+The import does what is shown, and is one step of undo.</source>
+        <translation>Un archivo del banco, o el diario de otro programa, se pone al lado de los libros.
+
+1. Elegir el archivo. Su cuenta se encuentra si es posible, y si no se pregunta.
+2. Una tabla (CSV) muestra cómo se lee. Lo que se encontró se puede cambiar, y se guarda para la cuenta.
+3. Cada entrada dice qué pasa con ella: es nueva, ya está, o con ella se paga una partida que vence. La barra espaciadora la toma o la deja fuera. Debajo de la tabla se puede decir qué es y para qué es, y que esto se recuerde para el beneficiario. Conviene mirar las entradas con el signo ⚠.
+
+La importación hace lo que se muestra, y es un solo paso que se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>A rule says what entries of banks’ files are for, by a part of payee or text, and by amount and account if wanted. The first rule that fits counts. “Try the rules” tells which one fits a text.</source>
+        <translation>Una regla dice para qué son las entradas de los archivos del banco, según una parte del beneficiario o del texto y, si se quiere, según el importe y la cuenta. Vale la primera regla que encaja. «Probar las reglas» dice cuál encaja con un texto.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>fuera</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>nueva</translation>
+    </message>
+    <message>
+        <source>Already there</source>
+        <translation>ya está</translation>
+    </message>
+    <message>
+        <source>%1, to look at</source>
+        <translation>%1, por mirar</translation>
+    </message>
+    <message>
+        <source>%1 (is opened)</source>
+        <translation>%1 (se abre)</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>aún no se sabe</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between parts of a list</comment>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Taken</source>
+        <translation>tomada</translation>
+    </message>
+    <message>
+        <source>What becomes of it</source>
+        <translation>Qué pasa con ella</translation>
+    </message>
+    <message>
+        <source>Payee and text</source>
+        <translation>Beneficiario y texto</translation>
+    </message>
+    <message>
+        <source>taken</source>
+        <translation>tomada</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>no tomada</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n nueva</numerusform>
+            <numerusform>%n nuevas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n already there</source>
+        <translation>
+            <numerusform>%n ya está</numerusform>
+            <numerusform>%n ya están</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left out</source>
+        <translation>
+            <numerusform>%n fuera</numerusform>
+            <numerusform>%n fuera</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n to look at</source>
+        <translation>
+            <numerusform>%n por mirar</numerusform>
+            <numerusform>%n por mirar</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1. Accounts to be opened: %2.</source>
+        <translation>%1. Cuentas que se abren: %2.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>desde %1</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>hasta %1</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>cualquiera</translation>
+    </message>
+    <message>
+        <source>pattern</source>
+        <translation>patrón</translation>
+    </message>
+    <message>
+        <source>words</source>
+        <translation>palabras</translation>
+    </message>
+    <message>
+        <source>any account</source>
+        <translation>todas las cuentas</translation>
+    </message>
+    <message>
+        <source>Import a bank file</source>
+        <translation>Importar un archivo del banco</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -6202,6 +6339,10 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message>
         <source>removing “%1”</source>
         <translation>eliminar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Import a bank file</source>
+        <translation>Im&amp;portar un archivo del banco</translation>
     </message>
 </context>
 <context>
@@ -7200,6 +7341,365 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ImportColumnsStep</name>
+    <message>
+        <source>First rows of the table</source>
+        <translation>Primeras filas de la tabla</translation>
+    </message>
+    <message>
+        <source>&amp;Letters as:</source>
+        <translation>&amp;Codificación:</translation>
+    </message>
+    <message>
+        <source>&amp;Between cells:</source>
+        <translation>Se&amp;parador:</translation>
+    </message>
+    <message>
+        <source>Headings in l&amp;ine:</source>
+        <translation>Enca&amp;bezados en la línea:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>commas</source>
+        <translation>comas</translation>
+    </message>
+    <message>
+        <source>semicolons</source>
+        <translation>puntos y comas</translation>
+    </message>
+    <message>
+        <source>tabs</source>
+        <translation>tabuladores</translation>
+    </message>
+    <message>
+        <source>bars</source>
+        <translation>barras</translation>
+    </message>
+    <message>
+        <source>&amp;Day:</source>
+        <translation>&amp;Día:</translation>
+    </message>
+    <message>
+        <source>choose</source>
+        <translation>elegir</translation>
+    </message>
+    <message>
+        <source>Days a&amp;re:</source>
+        <translation>Los días s&amp;on:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount:</source>
+        <translation>I&amp;mporte:</translation>
+    </message>
+    <message>
+        <source>&amp;Money in:</source>
+        <translation>E&amp;ntrada:</translation>
+    </message>
+    <message>
+        <source>Money o&amp;ut:</source>
+        <translation>&amp;Salida:</translation>
+    </message>
+    <message>
+        <source>&amp;Payee:</source>
+        <translation>Bene&amp;ficiario:</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt:</source>
+        <translation>Te&amp;xto:</translation>
+    </message>
+    <message>
+        <source>Balan&amp;ce:</source>
+        <translation>Sa&amp;ldo:</translation>
+    </message>
+    <message>
+        <source>From now on:</source>
+        <translation>De ahora en adelante:</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>Si&amp;guiente</translation>
+    </message>
+    <message>
+        <source>Bac&amp;k</source>
+        <translation>At&amp;rás</translation>
+    </message>
+    <message>
+        <source>Read files of this account so</source>
+        <translation>Leer así los archivos de esta cuenta</translation>
+    </message>
+    <message>
+        <source>Read files of “%1” so</source>
+        <translation>Leer así los archivos de «%1»</translation>
+    </message>
+    <message>
+        <source>%1 is %2</source>
+        <comment>how a day is read</comment>
+        <translation>%1 es %2</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>columna %1</translation>
+    </message>
+    <message>
+        <source>Day and month can be read in two ways. Choose how.</source>
+        <translation>El día y el mes se pueden leer de dos maneras. Elegir una.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportFileStep</name>
+    <message>
+        <source>&amp;Bank file:</source>
+        <translation>Archivo del &amp;banco:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind of file:</source>
+        <translation>Ti&amp;po de archivo:</translation>
+    </message>
+    <message>
+        <source>&amp;Statement of:</source>
+        <translation>E&amp;xtracto de:</translation>
+    </message>
+    <message>
+        <source>&amp;Account:</source>
+        <translation>&amp;Cuenta:</translation>
+    </message>
+    <message>
+        <source>Another number:</source>
+        <translation>Otro número:</translation>
+    </message>
+    <message>
+        <source>I&amp;mport it into this account all the same</source>
+        <translation>I&amp;mportarlo en esta cuenta de todos modos</translation>
+    </message>
+    <message>
+        <source>A file of your bank, or a journal of another program. Nothing is changed before the last step.</source>
+        <translation>Un archivo del banco, o el diario de otro programa. Nada cambia antes del último paso.</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Choose the file …</source>
+        <translation>Elegir e&amp;l archivo …</translation>
+    </message>
+    <message>
+        <source>Table of a bank (CSV)</source>
+        <translation>Tabla de un banco (CSV)</translation>
+    </message>
+    <message>
+        <source>Statement as OFX or QFX</source>
+        <translation>Extracto en OFX o QFX</translation>
+    </message>
+    <message>
+        <source>Statement as QIF</source>
+        <translation>Extracto en QIF</translation>
+    </message>
+    <message>
+        <source>Statement as MT940</source>
+        <translation>Extracto en MT940</translation>
+    </message>
+    <message>
+        <source>Statement as CAMT (XML)</source>
+        <translation>Extracto en CAMT (XML)</translation>
+    </message>
+    <message>
+        <source>Journal of ledger or hledger</source>
+        <translation>Diario de ledger o hledger</translation>
+    </message>
+    <message>
+        <source>as the file says</source>
+        <translation>lo que diga el archivo</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>The file does not show what it is. Choose it.</source>
+        <translation>El archivo no muestra qué es. Elegirlo.</translation>
+    </message>
+    <message>
+        <source>Choose the file that is to be imported.</source>
+        <translation>Elegir el archivo que se quiere importar.</translation>
+    </message>
+    <message>
+        <source>The file has statements of several accounts. Choose one; the others can be imported afterwards.</source>
+        <translation>El archivo tiene extractos de varias cuentas. Elegir uno; los otros se pueden importar después.</translation>
+    </message>
+    <message>
+        <source>There is no account at a bank yet. It is added on the page “Banks”.</source>
+        <translation>Aún no hay ninguna cuenta en un banco. Se añade en la página «Bancos».</translation>
+    </message>
+    <message>
+        <source>Choose the account whose statement it is.</source>
+        <translation>Elegir la cuenta cuyo extracto es.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportJournalStep</name>
+    <message>
+        <source>Transactions of the journal</source>
+        <translation>Asientos del diario</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>At&amp;rás</translation>
+    </message>
+    <message numerus="yes">
+        <source>Im&amp;port %n transactions</source>
+        <translation>
+            <numerusform>Im&amp;portar %n asiento</numerusform>
+            <numerusform>Im&amp;portar %n asientos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Com&amp;plete</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportRowsStep</name>
+    <message>
+        <source>Entries of the file</source>
+        <translation>Entradas del archivo</translation>
+    </message>
+    <message>
+        <source>&amp;What it is:</source>
+        <translation>&amp;Qué es:</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>&amp;Partida o cuenta:</translation>
+    </message>
+    <message>
+        <source>From now on:</source>
+        <translation>De ahora en adelante:</translation>
+    </message>
+    <message>
+        <source>Re&amp;member this for the payee</source>
+        <translation>Rec&amp;ordarlo para el beneficiario</translation>
+    </message>
+    <message>
+        <source>&amp;Show:</source>
+        <translation>Mo&amp;strar:</translation>
+    </message>
+    <message>
+        <source>all entries</source>
+        <translation>todas las entradas</translation>
+    </message>
+    <message>
+        <source>new ones</source>
+        <translation>las nuevas</translation>
+    </message>
+    <message>
+        <source>those that are there already</source>
+        <translation>las que ya están</translation>
+    </message>
+    <message>
+        <source>those to look at</source>
+        <translation>las que hay que mirar</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this line</source>
+        <translation>Guardar la &amp;línea</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>At&amp;rás</translation>
+    </message>
+    <message numerus="yes">
+        <source>Im&amp;port %n entries</source>
+        <translation>
+            <numerusform>I&amp;mportar %n entrada</numerusform>
+            <numerusform>I&amp;mportar %n entradas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Mark %n entries as seen at the bank</source>
+        <translation>
+            <numerusform>Marcar %n entrada como vista en el banco</numerusform>
+            <numerusform>Marcar %n entradas como vistas en el banco</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Com&amp;plete</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries still need an item or account.</source>
+        <translation>
+            <numerusform>%n entrada necesita aún una partida o cuenta.</numerusform>
+            <numerusform>%n entradas necesitan aún una partida o cuenta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New: nothing that is there is the same</source>
+        <translation>Nueva: nada de lo que ya está es lo mismo</translation>
+    </message>
+    <message>
+        <source>Only a new entry has an item or account to choose.</source>
+        <translation>Solo una entrada nueva tiene una partida o cuenta que elegir.</translation>
+    </message>
+    <message>
+        <source>Choose the item or account of this entry.</source>
+        <translation>Elegir la partida o cuenta de esta entrada.</translation>
+    </message>
+    <message>
+        <source>“%1” is closed, or is the account of the file itself.</source>
+        <translation>«%1» está cerrada, o es la cuenta del propio archivo.</translation>
+    </message>
+    <message>
+        <source>Taken: %1</source>
+        <translation>Tomada: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Fuera: %1</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ImportWizard</name>
+    <message>
+        <source>Import</source>
+        <translation>Importación</translation>
+    </message>
+    <message>
+        <source>The account of the file is no longer there.</source>
+        <translation>La cuenta del archivo ya no está.</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se importó nada.</translation>
+    </message>
+    <message>
+        <source>Imported into “%1”: %2.</source>
+        <translation>Importado en «%1»: %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n entries are there already.</source>
+        <translation>
+            <numerusform>La %n entrada ya está.</numerusform>
+            <numerusform>Las %n entradas ya están.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>importing into “%1”</source>
+        <translation>importar en «%1»</translation>
+    </message>
+    <message>
+        <source>Imported the journal: %1.</source>
+        <translation>Diario importado: %1.</translation>
+    </message>
+    <message>
+        <source>importing the journal</source>
+        <translation>importar el diario</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemForm</name>
     <message>
         <source>&amp;Name:</source>
@@ -7401,6 +7901,10 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>Begin s&amp;tep by step …</source>
         <translation>Empezar &amp;paso a paso …</translation>
+    </message>
+    <message>
+        <source>&amp;Import a bank file …</source>
+        <translation>&amp;Importar un archivo del banco …</translation>
     </message>
 </context>
 <context>
@@ -7666,6 +8170,161 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>No budget is open.</source>
         <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>Import a bank file</source>
+        <translation>Importar un archivo del banco</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::RulesPage</name>
+    <message>
+        <source>Import rules</source>
+        <translation>Reglas de importación</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>Files of</source>
+        <translation>Archivos de</translation>
+    </message>
+    <message>
+        <source>Item or account</source>
+        <translation>Partida o cuenta</translation>
+    </message>
+    <message>
+        <source>&amp;New rule</source>
+        <translation>&amp;Nueva regla</translation>
+    </message>
+    <message>
+        <source>&amp;Change</source>
+        <translation>&amp;Modificar</translation>
+    </message>
+    <message>
+        <source>Move &amp;up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y the rules</source>
+        <translation>&amp;Probar las reglas</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Entries of banks’ files whose payee or text fits are for this item or account. The first rule that fits counts.</source>
+        <translation>Las entradas de los archivos del banco cuyo beneficiario o texto encaja son para esta partida o cuenta. Vale la primera regla que encaja.</translation>
+    </message>
+    <message>
+        <source>&amp;Payee or text contains:</source>
+        <translation>&amp;Beneficiario o texto contiene:</translation>
+    </message>
+    <message>
+        <source>Kind of text:</source>
+        <translation>Tipo de texto:</translation>
+    </message>
+    <message>
+        <source>It is a regula&amp;r expression</source>
+        <translation>Es una e&amp;xpresión regular</translation>
+    </message>
+    <message>
+        <source>&amp;Item or account:</source>
+        <translation>&amp;Partida o cuenta:</translation>
+    </message>
+    <message>
+        <source>&amp;Amount at least:</source>
+        <translation>Importe mí&amp;nimo:</translation>
+    </message>
+    <message>
+        <source>Amount at &amp;most:</source>
+        <translation>I&amp;mporte máximo:</translation>
+    </message>
+    <message>
+        <source>&amp;Only in files of:</source>
+        <translation>&amp;Solo en archivos de:</translation>
+    </message>
+    <message>
+        <source>&amp;What the bank says:</source>
+        <translation>Lo &amp;que dice el banco:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>I&amp;mporte:</translation>
+    </message>
+    <message>
+        <source>In a file &amp;of:</source>
+        <translation>En un archivo &amp;de:</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y</source>
+        <translation>&amp;Probar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>There are no rules. Without them, an import learns from former entries of the same payee.</source>
+        <translation>No hay reglas. Sin ellas, una importación aprende de las entradas anteriores del mismo beneficiario.</translation>
+    </message>
+    <message>
+        <source>There are no rules.</source>
+        <translation>No hay reglas.</translation>
+    </message>
+    <message>
+        <source>It is the first rule.</source>
+        <translation>Es la primera regla.</translation>
+    </message>
+    <message>
+        <source>Choose the item or account of such entries.</source>
+        <translation>Elegir la partida o cuenta de esas entradas.</translation>
+    </message>
+    <message>
+        <source>Changed the rule “%1”.</source>
+        <translation>Modificada la regla «%1».</translation>
+    </message>
+    <message>
+        <source>changing the rule “%1”</source>
+        <translation>modificar la regla «%1»</translation>
+    </message>
+    <message>
+        <source>Added the rule “%1”.</source>
+        <translation>Añadida la regla «%1».</translation>
+    </message>
+    <message>
+        <source>adding the rule “%1”</source>
+        <translation>añadir la regla «%1»</translation>
+    </message>
+    <message>
+        <source>Removed the rule “%1”.</source>
+        <translation>Eliminada la regla «%1».</translation>
+    </message>
+    <message>
+        <source>removing the rule “%1”</source>
+        <translation>eliminar la regla «%1»</translation>
+    </message>
+    <message>
+        <source>Moved the rule “%1” up.</source>
+        <translation>Subida la regla «%1».</translation>
+    </message>
+    <message>
+        <source>moving the rule “%1”</source>
+        <translation>mover la regla «%1»</translation>
+    </message>
+    <message>
+        <source>Which rule fits what a bank says of an entry?</source>
+        <translation>¿Qué regla encaja con lo que un banco dice de una entrada?</translation>
     </message>
 </context>
 <context>

@@ -132,6 +132,15 @@ void MainWindow::addPageActions()
 
 void MainWindow::addActions()
 {
+    QAction *const importing =
+        m_actions->add(QStringLiteral("import"), Group::File, tr("&Import a bank file …"),
+                       QKeySequence(Qt::CTRL | Qt::Key_I), [this] { m_desk->importFile({}); });
+    const auto follow = [this, importing] {
+        const std::optional<QString> whyNot = m_desk->whyNoChange();
+        ActionCollection::allow(importing, !whyNot, whyNot.value_or(QString()));
+    };
+    connect(m_desk, &Desk::refreshWanted, importing, follow);
+    follow();
     m_actions->add(QStringLiteral("quit"), Group::File, tr("&Quit"),
                    QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { close(); });
     m_actions->add(QStringLiteral("wizard"), Group::File, tr("Begin s&tep by step …"), {},

@@ -9,6 +9,7 @@
 
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QPushButton>
 
 /// Answers questions as a test says, and keeps what was asked.
 class ScriptedQuestions final : public kiv::desktop::Questions {
@@ -20,6 +21,7 @@ public:
     QString fileToOpen(QWidget *) override { return next(QStringLiteral("open")); }
     QString fileToMake(QWidget *, const QString &heading) override { return next(heading); }
     QString fileToExport(QWidget *, const QString &suffix) override { return next(suffix); }
+    QString fileToImport(QWidget *) override { return next(QStringLiteral("import")); }
     std::optional<qsizetype> choose(QWidget *, const QString &question,
                                     const QStringList &answers) override
     {
@@ -81,11 +83,34 @@ public:
         QApplication::setActiveWindow(&m_window);
         QVERIFY(QTest::qWaitForWindowActive(&m_window));
     }
-    /// Shows each page and each part of it, and the steps of the first start. `look` gets
-    /// what is shown, its first field, and its name.
+    /// Writes a file with these bytes.
+    [[nodiscard]] QString write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("The file cannot be written.");
+        return file.fileName();
+    }
+    /// Begins to import a file with these bytes; into an account, if one is named.
+    void beginImport(const QString &name, const QByteArray &bytes, const char *account = "Checking")
+    {
+        m_questions.files = {write(name, bytes)};
+        if (*account)
+            m_window.desk().importFile(
+                requests().accounts().find(QLatin1String(account)).code().number());
+        else
+            trigger("import");
+    }
+    /// Shows each page and each part of it, and the steps of an import and of the first start.
+    /// `look` gets what is shown, its first field, and its name.
     template <typename Look>
     void lookAtAll(Look &&look)
     {
+        beginImport(QStringLiteral("march.csv"), "Date,Payee,Description,Amount\n"
+                                                 "2026-02-28,Landlord,rent,-900.00\n"
+                                                 "2026-03-02,Mill,salary,2500.00\n"
+                                                 "2026-03-06,Corner kiosk,,-7.50\n");
+        m_window.page()->findChild<QPushButton *>(QStringLiteral("useColumns"))->click();
         for (kiv::desktop::Page *page : m_window.pages()) {
             for (const QString &part : QStringList{QString()} + page->parts()) {
                 const kiv::desktop::Place place{page->id(), part};
@@ -94,6 +119,10 @@ public:
                 look(*page, *page->firstFocus(), place.text().replace(u'/', u' '));
             }
         }
+        beginImport(QStringLiteral("old.journal"), "2026-03-01 Baker\n  Expenses:Bread  4 USD\n"
+                                                   "  Assets:Checking\n");
+        QCoreApplication::processEvents();
+        look(*m_window.page(), *m_window.page()->firstFocus(), QStringLiteral("import journal"));
         trigger("wizard");
         auto *wizard = m_window.findChild<kiv::desktop::FirstTimeWizard *>();
         wizard->findChild<QComboBox *>(QStringLiteral("household"))->setCurrentIndex(2);

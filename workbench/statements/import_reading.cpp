@@ -153,6 +153,17 @@ ImportReading readForImport(Requests &requests, const ImportMemory &memory,
     return Reader(requests, memory, source).read();
 }
 
+QStringList statementNumbers(Requests &requests, const ImportSource &source)
+{
+    interchange::StatementOptions options = source.options;
+    options.currency = requests.preferredCurrency();
+    QStringList numbers;
+    for (const Statement &statement :
+         interchange::readStatements(source.format, source.bytes, source.file, options))
+        numbers += statement.account;
+    return numbers;
+}
+
 ImportPreview previewOf(Requests &requests, ImportReading reading, ImportPreview::Choices choices)
 {
     const AccountIndex index = requests.accounts();

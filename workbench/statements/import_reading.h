@@ -38,6 +38,11 @@ struct ImportReading {
                                                                const ImportMemory &memory,
                                                                const ImportSource &source);
 
+/// The accounts whose statements are in the file, as the bank numbers them. Throws an
+/// ImportError for what cannot be read.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList statementNumbers(Requests &requests,
+                                                                const ImportSource &source);
+
 /// What the statement would do to its account, which must be chosen. Throws as the preview
 /// does.
 [[nodiscard]] KIV_WORKBENCH_EXPORT ImportPreview previewOf(Requests &requests,

@@ -4,6 +4,8 @@
 #include "workbench/entry/folded.h"
 #include "workbench/internal/faults.h"
 
+#include <QtCore/QObject>
+
 namespace kiv::workbench {
 
 namespace {
@@ -31,6 +33,20 @@ void requireSound(const ImportRule &rule)
     if ((rule.least && *rule.least < none) || (rule.most && *rule.most < none) ||
         (rule.least && rule.most && *rule.most < *rule.least))
         throw internal::emptyRuleSpan();
+}
+
+ImportRule ruleOf(const TypedRule &typed, const AccountIndex &accounts)
+{
+    ImportRule rule{typed.text.trimmed(), typed.isPattern, {}, {}, typed.of, typed.target};
+    const accounting::Account *counted = accounts.find(typed.of.value_or(typed.target));
+    const auto bound = [counted](const std::optional<Amount> &amount) {
+        return amount && counted ? std::optional(amount->in(counted->balance().code()).amount())
+                                 : std::nullopt;
+    };
+    rule.least = bound(typed.least);
+    rule.most = bound(typed.most);
+    requireSound(rule);
+    return rule;
 }
 
 QString ruleText(const interchange::StatementEntry &entry)
@@ -63,6 +79,16 @@ std::optional<std::size_t> RuleBook::first(const interchange::StatementEntry &en
             return at;
     }
     return std::nullopt;
+}
+
+QString trialText(const RuleBook &rules, std::optional<std::size_t> place,
+                  const AccountIndex &accounts)
+{
+    if (!place)
+        return QObject::tr("No rule fits.");
+    const ImportRule &rule = rules.rules()[*place];
+    return QObject::tr("Rule %1, “%2”, says that it is for %3.")
+        .arg(QString::number(*place + 1), rule.text, accounts.plainName(rule.target));
 }
 
 } // namespace kiv::workbench

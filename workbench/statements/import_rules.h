@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/export.h"
+#include "workbench/entry/account_index.h"
+#include "workbench/entry/values.h"
 
-#include "accounting/account_number.h"
 #include "interchange/statement.h"
 
 #include <QtCore/QRegularExpression>
@@ -30,6 +30,21 @@ struct ImportRule {
 /// entry can have.
 KIV_WORKBENCH_EXPORT void requireSound(const ImportRule &rule);
 
+/// A rule as it is typed.
+struct TypedRule {
+    QString text;                                  ///< see ImportRule
+    bool isPattern = false;                        ///< see ImportRule
+    std::optional<Amount> least = {};              ///< the least amount
+    std::optional<Amount> most = {};               ///< the highest amount
+    std::optional<accounting::AccountNumber> of{}; ///< see ImportRule
+    accounting::AccountNumber target;              ///< see ImportRule
+};
+
+/// The rule; its amounts are in the currency of the account that it is limited to, else in that
+/// of its target. Throws an EntryError as requireSound() does, and for too many decimals.
+[[nodiscard]] KIV_WORKBENCH_EXPORT ImportRule ruleOf(const TypedRule &typed,
+                                                     const AccountIndex &accounts);
+
 /// Payee and text of an entry, as rules see them.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString ruleText(const interchange::StatementEntry &entry);
 
@@ -50,5 +65,10 @@ private:
     std::vector<QString> m_parts;               ///< folded; of patterns empty
     std::vector<QRegularExpression> m_patterns; ///< of the others empty
 };
+
+/// What a trial of the rules tells: that the one at this place fits, or none.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString trialText(const RuleBook &rules,
+                                                     std::optional<std::size_t> place,
+                                                     const AccountIndex &accounts);
 
 } // namespace kiv::workbench

@@ -32,15 +32,14 @@ std::ptrdiff_t PostedImport::skipped() const
     return std::ranges::count_if(transactions, &ImportedTransaction::isSkipped);
 }
 
-PostedImport postDraft(Requests &requests, const interchange::Draft &draft, KnownTransactions known)
+PostedImport plannedImport(Requests &requests, const interchange::Draft &draft,
+                           KnownTransactions known)
 {
     const AccountIndex before = requests.accounts();
     interchange::AccountPlan plan = interchange::planAccounts(draft, before.accounts());
     interchange::Duplicates duplicates(requests.transactions());
     PostedImport import{std::move(plan.missing), {}, draft.notices};
     import.notices.removeDuplicates();
-    for (const accounting::Account &account : import.opened)
-        requests.change(accountOutcome, &Navigator::onAddedAct, account);
     for (const interchange::DraftTransaction &drafted : draft.transactions) {
         const Transaction transaction(
             drafted.date, plan.codes[drafted.debit], plan.codes[drafted.credit], drafted.amount,
@@ -50,6 +49,14 @@ PostedImport postDraft(Requests &requests, const interchange::Draft &draft, Know
             {transaction.withStatuses(drafted.debitStatus, drafted.creditStatus), drafted.place,
              isKnown && known == KnownTransactions::Skip});
     }
+    return import;
+}
+
+PostedImport postDraft(Requests &requests, const interchange::Draft &draft, KnownTransactions known)
+{
+    PostedImport import = plannedImport(requests, draft, known);
+    for (const accounting::Account &account : import.opened)
+        requests.change(accountOutcome, &Navigator::onAddedAct, account);
     postAll(requests, import.transactions);
     return import;
 }

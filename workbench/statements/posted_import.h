@@ -35,6 +35,11 @@ struct PostedImport {
     [[nodiscard]] bool hasChanges() const { return posted() > 0 || !opened.empty(); }
 };
 
+/// What postDraft() would do, without doing it.
+[[nodiscard]] KIV_WORKBENCH_EXPORT PostedImport plannedImport(Requests &requests,
+                                                              const interchange::Draft &draft,
+                                                              KnownTransactions known);
+
 /// Opens the missing accounts of a journal, and posts its transactions. Throws a Refusal for
 /// an account and an ImportError with the place of a transaction that is refused; what came
 /// before it stays then, so revert the document.

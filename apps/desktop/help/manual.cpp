@@ -77,6 +77,22 @@ QMap<QString, QString> texts()
          QObject::tr("The steps of this session, and below them the former versions of the file. "
                      "The lower table says what changed since the chosen one. “Go back to this” "
                      "makes it the present state; undo and redo go on from there.")},
+        {QStringLiteral("import"),
+         QObject::tr(
+             "A file of your bank, or a journal of another program, is laid beside the books.\n\n"
+             "1. Choose the file. Its account is found if that is possible, and asked otherwise.\n"
+             "2. A table (CSV) shows how it is read. What was found can be changed, and is kept "
+             "for the account.\n"
+             "3. Each entry says what becomes of it: it is new, it is there already, or an item "
+             "that is due is paid with it. Space takes it or leaves it out. Below the table it "
+             "can be said what it is and what it is for, and that this is remembered for the "
+             "payee. Entries with the sign ⚠ should be looked at.\n\n"
+             "The import does what is shown, and is one step of undo.")},
+        {QStringLiteral("rules"),
+         QObject::tr(
+             "A rule says what entries of banks’ files are for, by a part of payee or text, "
+             "and by amount and account if wanted. The first rule that fits counts. “Try "
+             "the rules” tells which one fits a text.")},
         {QStringLiteral("settings"),
          QObject::tr("Each setting is applied as soon as its field is left. Settings are the same "
                      "for all budgets and cannot be undone. A currency that the budget uses must "

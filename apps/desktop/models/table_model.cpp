@@ -70,6 +70,13 @@ void TableModel::setRows(std::vector<Row> rows)
     }
 }
 
+void TableModel::setRow(Row row)
+{
+    const int at = place(row.key);
+    m_rows.at(static_cast<std::size_t>(at)) = std::move(row);
+    emit dataChanged(index(at, 0), index(at, columnCount() - 1));
+}
+
 void TableModel::removeOthers(const std::vector<Row> &rows)
 {
     const QHash<QString, int> kept = places(rows);

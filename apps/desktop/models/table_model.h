@@ -52,6 +52,8 @@ public:
     void setColumns(const QStringList &columns);
     /// Shows these rows.
     void setRows(std::vector<Row> rows);
+    /// Shows this row in place of the one with the same key, which must be there.
+    void setRow(Row row);
     [[nodiscard]] const std::vector<Row> &rows() const noexcept { return m_rows; }
     /// The place of the row with this key, or -1.
     [[nodiscard]] int place(const QString &key) const;

@@ -24,6 +24,8 @@ AccountsPage::AccountsPage(Desk &desk)
       m_change(addButton(QStringLiteral("change"), tr("&Change"), [this] { change(); })),
       m_close(addButton(QStringLiteral("close"), tr("C&lose"), [this] { closeOrOpen(); })),
       m_remove(addButton(QStringLiteral("remove"), tr("&Remove"), [this] { remove(); })),
+      m_import(
+          addButton(QStringLiteral("import"), tr("&Import a bank file"), [this] { importFile(); })),
       m_form(addForm(QStringLiteral("accountForm"))),
       m_fields(new AccountForm(desk, *m_form))
 {
@@ -78,7 +80,8 @@ std::optional<QString> AccountsPage::whyNot() const
 
 void AccountsPage::follow()
 {
-    allow(*m_new, desk().whyNoChange());
+    for (QPushButton *button : {m_new, m_import})
+        allow(*button, desk().whyNoChange());
     allow(*m_open, account() ? std::nullopt : std::optional(tr("No line is chosen.")));
     allowForRow({m_change, m_close, m_remove}, whyNot());
     const accounting::Account *one = account();
@@ -131,6 +134,12 @@ void AccountsPage::closeOrOpen()
         performOn(tr("Opened “%1” again."), tr("opening “%1”"), &Navigator::onOpened);
     else
         performOn(tr("Closed “%1”."), tr("closing “%1”"), &Navigator::onClosed);
+}
+
+void AccountsPage::importFile()
+{
+    const accounting::Account *one = account();
+    desk().importFile(one ? std::optional(one->code().number()) : std::nullopt);
 }
 
 void AccountsPage::remove()

@@ -31,6 +31,8 @@ private:
     void save();
     /// Closes the account that is chosen, or opens a closed one again.
     void closeOrOpen();
+    /// Imports a bank's file into the account that is chosen.
+    void importFile();
     [[nodiscard]] const accounting::Account *account() const;
     /// Why the account is not changed here; nothing if it can be.
     [[nodiscard]] std::optional<QString> whyNot() const;
@@ -44,6 +46,7 @@ private:
     QPushButton *m_change;
     QPushButton *m_close;
     QPushButton *m_remove;
+    QPushButton *m_import;
     Form *m_form;
     AccountForm *m_fields;
 };

@@ -9,17 +9,20 @@
 #include "pages/items_page.h"
 #include "pages/rates_page.h"
 #include "pages/register_page.h"
+#include "pages/rules_page.h"
 #include "pages/settings_page.h"
 #include "pages/survey_page.h"
+#include "wizards/import_wizard.h"
 
 namespace kiv::desktop {
 
 std::vector<Page *> makePages(Desk &desk)
 {
     return {
-        new HomePage(desk),    new AccountsPage(desk), new RegisterPage(desk), new DuePage(desk),
-        new ItemsPage(desk),   new BanksPage(desk),    new SurveyPage(desk),   new RatesPage(desk),
-        new HistoryPage(desk), new SettingsPage(desk),
+        new HomePage(desk),     new AccountsPage(desk), new RegisterPage(desk),
+        new DuePage(desk),      new ItemsPage(desk),    new BanksPage(desk),
+        new SurveyPage(desk),   new RatesPage(desk),    new HistoryPage(desk),
+        new ImportWizard(desk), new RulesPage(desk),    new SettingsPage(desk),
     };
 }
 

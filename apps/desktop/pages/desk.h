@@ -59,12 +59,16 @@ public:
     void say(const QString &sentence) { m_parts.announcer.say(sentence); }
     /// Shows another page, or another part of it.
     void goTo(const Place &place) { emit placeWanted(place); }
+    /// Asks for a bank's file and imports it; into this account, if one is given.
+    void importFile(std::optional<accounting::AccountNumber> into) { emit importWanted(into); }
 
 signals:
     /// The window's appearance or the size of its texts was set.
     void looksChanged();
     /// Somebody wants to see this place.
     void placeWanted(const Place &place);
+    /// See importFile().
+    void importWanted(std::optional<accounting::AccountNumber> into);
     /// Pages are to show the budget anew: it has changed, or it can be changed now or no
     /// longer.
     void refreshWanted();

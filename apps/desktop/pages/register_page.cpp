@@ -6,6 +6,7 @@
 #include "pages/entry_row.h"
 #include "pages/filter_bar.h"
 #include "pages/register_delegate.h"
+#include "widgets/allow.h"
 
 #include "workbench/entry/money_text.h"
 
@@ -38,6 +39,7 @@ RegisterPage::RegisterPage(Desk &desk)
       m_rows(new RegisterModel(desk.showsTerms(), this)),
       m_shown(new RegisterFilter(*m_rows, this)),
       m_account(new QComboBox(this)),
+      m_import(new QPushButton(tr("Import a bank file"), this)),
       m_filter(new FilterBar(this)),
       m_table(new QTableView(this)),
       m_message(new FieldMessage(this)),
@@ -86,6 +88,10 @@ void RegisterPage::build()
     chooser->addWidget(m_account);
     auto *left = new QVBoxLayout;
     left->addLayout(chooser);
+    m_import->setObjectName(QStringLiteral("import"));
+    connect(m_import, &QPushButton::clicked, this,
+            [this] { desk().importFile(m_rows->account()); });
+    left->addWidget(m_import, 0, Qt::AlignLeft);
     left->addStretch();
     head->addLayout(left);
     head->addWidget(m_filter, 1);
@@ -196,6 +202,7 @@ void RegisterPage::allowActions()
     ActionCollection::allow(desk().actions().action(QStringLiteral("reconcileAccount")),
                             !desk().document().file().isEmpty(), tr("No budget is open."));
     m_entry->allow(whyNot);
+    allow(*m_import, whyNot);
 }
 
 // ---- what is shown -----------------------------------------------------------------

@@ -73,6 +73,7 @@ private:
     RegisterModel *m_rows;
     RegisterFilter *m_shown;
     QComboBox *m_account;
+    QPushButton *m_import;
     FilterBar *m_filter;
     QTableView *m_table;
     FieldMessage *m_message;

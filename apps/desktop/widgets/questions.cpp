@@ -45,6 +45,11 @@ QString DialogQuestions::fileToExport(QWidget *parent, const QString &suffix)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString DialogQuestions::fileToImport(QWidget *parent)
+{
+    return QFileDialog::getOpenFileName(parent, QObject::tr("Import a bank file"));
+}
+
 std::optional<qsizetype> DialogQuestions::choose(QWidget *parent, const QString &question,
                                                  const QStringList &answers)
 {

@@ -27,6 +27,8 @@ public:
     /// A file of another program to write, whose name ends so; empty if the user gave up.
     /// Asks before one is written over.
     [[nodiscard]] virtual QString fileToExport(QWidget *parent, const QString &suffix) = 0;
+    /// A file of a bank or of another program to read; empty if the user gave up.
+    [[nodiscard]] virtual QString fileToImport(QWidget *parent) = 0;
     /// One of the answers by its place, or nothing if the user gave up. The first answer
     /// is the usual one.
     [[nodiscard]] virtual std::optional<qsizetype> choose(QWidget *parent, const QString &question,
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] QString fileToOpen(QWidget *parent) override;
     [[nodiscard]] QString fileToMake(QWidget *parent, const QString &heading) override;
     [[nodiscard]] QString fileToExport(QWidget *parent, const QString &suffix) override;
+    [[nodiscard]] QString fileToImport(QWidget *parent) override;
     [[nodiscard]] std::optional<qsizetype> choose(QWidget *parent, const QString &question,
                                                   const QStringList &answers) override;
     void show(QWidget *parent, const QString &heading, const QString &text) override;

@@ -83,17 +83,11 @@ struct AddRule {
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
-        ImportRule rule{text, isPattern, {}, {}, {}, index.find(target.text).code().number()};
+        workbench::TypedRule typed{text,        isPattern, limits.least,
+                                   limits.most, {},        index.find(target.text).code().number()};
         if (limits.of)
-            rule.of = index.find(limits.of->text).code().number();
-        const auto bound = [&](const std::optional<Amount> &amount) {
-            const accounting::Account &counted = *index.find(rule.of.value_or(rule.target));
-            return amount ? std::optional(amount->in(counted.balance().code()).amount())
-                          : std::nullopt;
-        };
-        rule.least = bound(limits.least);
-        rule.most = bound(limits.most);
-        workbench::requireSound(rule);
+            typed.of = index.find(limits.of->text).code().number();
+        const ImportRule rule = ruleOf(typed, index);
         ImportMemory memory = ImportMemory::of(call.document.notes());
         memory.rules.push_back(rule);
         call.document.setNotes(memory.keptIn(call.document.notes()));
@@ -126,12 +120,11 @@ struct TestRules {
             of ? index.find(of->text).code().number() : accounting::AccountNumber();
         const workbench::RuleBook book(memory.rules);
         const auto place = book.first(entry, account);
-        if (!place)
-            return Report(QJsonValue()).line(QObject::tr("No rule fits."));
-        const ImportRule &rule = book.rules()[*place];
-        return Report(jsonOf(rule, static_cast<qsizetype>(*place), index))
-            .line(QObject::tr("Rule %1, “%2”, says that it is for %3.")
-                      .arg(QString::number(*place + 1), rule.text, index.plainName(rule.target)));
+        const QString told = trialText(book, place, index);
+        return Report(place ? QJsonValue(jsonOf(book.rules()[*place],
+                                                static_cast<qsizetype>(*place), index))
+                            : QJsonValue())
+            .line(told);
     }
 };
 
