@@ -51,7 +51,8 @@ LedgerLines::LedgerLines(const StatementBooks &books)
         if (!line.toldAs.isEmpty())
             m_byId.emplace(line.toldAs, place);
         m_amounts.insert(line.amount);
-        m_byDay[{line.day.toJulianDay(), line.amount}].push_back(place);
+        Buckets &buckets = line.toldAs.isEmpty() ? m_untold : m_told;
+        buckets[{line.day.toJulianDay(), line.amount}].places.push_back(place);
         m_lines.push_back(std::move(line));
     }
     addGroups();
@@ -82,7 +83,7 @@ void LedgerLines::addGroups()
                 if (group.lines.size() < 2)
                     continue;
                 m_amounts.insert(group.sum);
-                m_groupsByDay[{key.first, group.sum}].push_back(m_groups.size());
+                m_groupsByDay[{key.first, group.sum}].places.push_back(m_groups.size());
                 m_groups.push_back(group);
             }
         }
@@ -99,26 +100,81 @@ std::vector<std::size_t> LedgerLines::toldAs(const QString &bankId) const
     return places;
 }
 
-const std::vector<std::size_t> &LedgerLines::on(QDate day, const Decimal &amount) const
+void LedgerLines::giveBack(std::size_t place)
 {
-    static const std::vector<std::size_t> none;
-    const auto found = m_byDay.find({day.toJulianDay(), amount});
-    return found == m_byDay.end() ? none : found->second;
+    LedgerLine &line = m_lines.at(place);
+    line.isFree = true;
+    // It may stand before the first free one.
+    for (Buckets *buckets : {&m_untold, &m_told}) {
+        if (const auto found = buckets->find({line.day.toJulianDay(), line.amount});
+            found != buckets->end())
+            found->second.first = 0;
+    }
+    for (auto &[key, bucket] : m_groupsByDay)
+        bucket.first = 0;
 }
 
-const LineGroup *LedgerLines::split(QDate day, const Decimal &sum) const
+const std::vector<std::size_t> &LedgerLines::untold(QDate day, const Decimal &amount) const
+{
+    static const std::vector<std::size_t> none;
+    const auto found = m_untold.find({day.toJulianDay(), amount});
+    return found == m_untold.end() ? none : found->second.places;
+}
+
+const std::vector<std::size_t> &LedgerLines::told(QDate day, const Decimal &amount) const
+{
+    static const std::vector<std::size_t> none;
+    const auto found = m_told.find({day.toJulianDay(), amount});
+    return found == m_told.end() ? none : found->second.places;
+}
+
+std::vector<std::size_t> LedgerLines::freeUntold(QDate day, const Decimal &amount)
+{
+    return freeIn(m_untold, day, amount);
+}
+
+std::vector<std::size_t> LedgerLines::freeTold(QDate day, const Decimal &amount)
+{
+    return freeIn(m_told, day, amount);
+}
+
+std::vector<std::size_t> LedgerLines::freeIn(Buckets &buckets, QDate day,
+                                             const Decimal &amount) const
+{
+    // Thousands of equal lines a day are compared one by one only as far as this.
+    constexpr std::size_t freeMax = 64;
+    constexpr std::size_t seenMax = 4 * freeMax;
+    std::vector<std::size_t> free;
+    const auto found = buckets.find({day.toJulianDay(), amount});
+    if (found == buckets.end())
+        return free;
+    auto &[places, first] = found->second;
+    while (first < places.size() && !m_lines[places[first]].isFree)
+        ++first;
+    const std::size_t end = std::min(places.size(), first + seenMax);
+    for (std::size_t at = first; at < end && free.size() < freeMax; ++at) {
+        if (m_lines[places[at]].isFree)
+            free.push_back(places[at]);
+    }
+    return free;
+}
+
+bool LedgerLines::isOpen(const LineGroup &group) const
+{
+    return std::ranges::all_of(group.lines, [this](std::size_t place) {
+        return m_lines[place].isFree && m_lines[place].toldAs.isEmpty();
+    });
+}
+
+const LineGroup *LedgerLines::split(QDate day, const Decimal &sum)
 {
     const auto found = m_groupsByDay.find({day.toJulianDay(), sum});
     if (found == m_groupsByDay.end())
         return nullptr;
-    const auto isOpen = [this](std::size_t place) {
-        return m_lines[place].isFree && m_lines[place].toldAs.isEmpty();
-    };
-    for (const std::size_t group : found->second) {
-        if (std::ranges::all_of(m_groups[group].lines, isOpen))
-            return &m_groups[group];
-    }
-    return nullptr;
+    auto &[groups, first] = found->second;
+    while (first < groups.size() && !isOpen(m_groups[groups[first]]))
+        ++first;
+    return first < groups.size() ? &m_groups[groups[first]] : nullptr;
 }
 
 const QStringList &LedgerLines::words(std::size_t place)

@@ -37,20 +37,26 @@ public:
     [[nodiscard]] const LedgerLine &at(std::size_t place) const { return m_lines.at(place); }
     [[nodiscard]] std::size_t size() const noexcept { return m_lines.size(); }
     void take(std::size_t place) { m_lines.at(place).isFree = false; }
-    void giveBack(std::size_t place) { m_lines.at(place).isFree = true; }
+    void giveBack(std::size_t place);
 
     /// The places of lines with this identifier.
     [[nodiscard]] std::vector<std::size_t> toldAs(const QString &bankId) const;
-    /// The places of lines of this amount on this day, in their order.
-    [[nodiscard]] const std::vector<std::size_t> &on(QDate day,
-                                                     const numira::Decimal &amount) const;
+    /// The places of lines of this amount on this day, in their order: those that no statement
+    /// of the account told, and those that one did.
+    [[nodiscard]] const std::vector<std::size_t> &untold(QDate day,
+                                                         const numira::Decimal &amount) const;
+    [[nodiscard]] const std::vector<std::size_t> &told(QDate day,
+                                                       const numira::Decimal &amount) const;
+    /// The first free ones of these. There are not more than a person could tell apart.
+    [[nodiscard]] std::vector<std::size_t> freeUntold(QDate day, const numira::Decimal &amount);
+    [[nodiscard]] std::vector<std::size_t> freeTold(QDate day, const numira::Decimal &amount);
     /// Whether any line or split is of this amount.
     [[nodiscard]] bool hasAmount(const numira::Decimal &amount) const
     {
         return m_amounts.contains(amount);
     }
     /// The split of this sum on this day whose lines are all free and not told yet.
-    [[nodiscard]] const LineGroup *split(QDate day, const numira::Decimal &sum) const;
+    [[nodiscard]] const LineGroup *split(QDate day, const numira::Decimal &sum);
     /// The words of the line's text and of its other account, see tellingWords().
     [[nodiscard]] const QStringList &words(std::size_t place);
 
@@ -60,18 +66,28 @@ public:
     [[nodiscard]] bool isToldByOther(const LedgerLine &line) const;
 
 private:
+    /// Places on one day and of one amount. What stands before `first` is taken.
+    struct Bucket {
+        std::vector<std::size_t> places = {};
+        std::size_t first = 0;
+    };
+    using Buckets = std::map<std::pair<qint64, numira::Decimal>, Bucket>;
+
     void addGroups();
+    [[nodiscard]] bool isOpen(const LineGroup &group) const;
+    [[nodiscard]] std::vector<std::size_t> freeIn(Buckets &buckets, QDate day,
+                                                  const numira::Decimal &amount) const;
 
     std::set<accounting::AccountNumber> m_closed;
     accounting::AccountNumber m_account;
     const StatementBooks &m_books;
     std::vector<LedgerLine> m_lines;
     std::unordered_multimap<QString, std::size_t> m_byId;
-    /// By day and amount.
-    std::map<std::pair<qint64, numira::Decimal>, std::vector<std::size_t>> m_byDay;
+    Buckets m_untold;
+    Buckets m_told;
     std::set<numira::Decimal> m_amounts;
     std::vector<LineGroup> m_groups;
-    std::map<std::pair<qint64, numira::Decimal>, std::vector<std::size_t>> m_groupsByDay;
+    Buckets m_groupsByDay; ///< places of groups
     std::unordered_map<std::size_t, QStringList> m_words;
 };
 

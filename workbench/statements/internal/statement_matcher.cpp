@@ -6,6 +6,7 @@
 #include "workbench/statements/import_rules.h"
 
 #include <algorithm>
+#include <deque>
 
 namespace kiv::workbench::internal {
 
@@ -121,19 +122,28 @@ std::optional<accounting::TransactionNumber> StatementMatcher::changedLine(std::
 
 void StatementMatcher::matchContent()
 {
+    const auto keyOf = [](QDate day, const numira::Decimal &amount, const QString &content) {
+        return QString::number(day.toJulianDay()) + u' ' + QString::fromStdString(amount.toText()) +
+               u' ' + content;
+    };
+    // Only lines that have the day and amount of an entry are looked at, each once.
+    std::set<std::size_t> buckets;
+    std::unordered_map<QString, std::deque<std::size_t>> lines;
     for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
-        if (m_matches[entry])
-            continue;
         const StatementEntry &told = m_entries[entry];
-        const Places &sameDay = m_lines.on(told.date, told.amount.amount());
-        if (sameDay.empty())
+        const Places &sameDay = m_lines.untold(told.date, told.amount.amount());
+        if (m_matches[entry] || sameDay.empty())
             continue;
-        const QString content = contentOf(told);
-        const auto isSame = [&](std::size_t place) {
-            return fits(entry, place) && contentOf(m_lines.at(place)) == content;
-        };
-        if (const auto found = std::ranges::find_if(sameDay, isSame); found != sameDay.end())
-            settle(entry, {*found}, MatchGrounds::Content);
+        if (buckets.insert(sameDay.front()).second) {
+            for (const std::size_t place : sameDay)
+                lines[keyOf(told.date, told.amount.amount(), contentOf(m_lines.at(place)))]
+                    .push_back(place);
+        }
+        const auto found = lines.find(keyOf(told.date, told.amount.amount(), contentOf(told)));
+        if (found == lines.end() || found->second.empty())
+            continue;
+        settle(entry, {found->second.front()}, MatchGrounds::Content);
+        found->second.pop_front();
     }
 }
 
@@ -144,13 +154,11 @@ void StatementMatcher::matchTold()
         if (m_matches[entry])
             continue;
         const StatementEntry &told = m_entries[entry];
-        const auto isSame = [&](std::size_t place) {
-            const LedgerLine &line = m_lines.at(place);
-            return line.isFree && !line.toldAs.isEmpty() &&
-                   isMadeUp(line.toldAs) != isMadeUp(told.bankId);
+        const auto isOther = [&](std::size_t place) {
+            return isMadeUp(m_lines.at(place).toldAs) != isMadeUp(told.bankId);
         };
-        const Places &sameDay = m_lines.on(told.date, told.amount.amount());
-        if (const auto found = std::ranges::find_if(sameDay, isSame); found != sameDay.end())
+        const Places sameDay = m_lines.freeTold(told.date, told.amount.amount());
+        if (const auto found = std::ranges::find_if(sameDay, isOther); found != sameDay.end())
             settle(entry, {*found}, MatchGrounds::Told);
     }
 }
@@ -190,7 +198,7 @@ void StatementMatcher::matchNear(bool mustShare)
             const numira::Decimal &amount = m_entries[entry].amount.amount();
             // Typed entries come before what another account's statement told.
             std::optional<std::size_t> found;
-            for (const std::size_t place : m_lines.on(day, amount)) {
+            for (const std::size_t place : m_lines.freeUntold(day, amount)) {
                 if (!fits(entry, place) || (mustShare && !sharesWord(entry, place)))
                     continue;
                 if (!found || (m_lines.isToldByOther(m_lines.at(*found)) &&
@@ -208,16 +216,17 @@ void StatementMatcher::matchNear(bool mustShare)
     }
 }
 
+/// At most so many of a day: where more are alike, another one does as well.
 std::vector<std::size_t> StatementMatcher::near(std::size_t entry) const
 {
+    constexpr std::size_t alikeMax = 16;
     Places all;
     for (const int days : distances) {
         const QDate day = m_entries[entry].date.addDays(-days);
-        for (const std::size_t place : m_lines.on(day, m_entries[entry].amount.amount())) {
-            const LedgerLine &line = m_lines.at(place);
-            if (line.toldAs.isEmpty() &&
-                isNear(day, m_entries[entry].date, m_lines.isToldByOther(line)))
-                all.push_back(place);
+        const Places &places = m_lines.untold(day, m_entries[entry].amount.amount());
+        for (std::size_t at = 0; at < std::min(alikeMax, places.size()); ++at) {
+            if (isNear(day, m_entries[entry].date, m_lines.isToldByOther(m_lines.at(places[at]))))
+                all.push_back(places[at]);
         }
     }
     return all;
@@ -268,7 +277,7 @@ std::vector<std::size_t> StatementMatcher::placesOf(const ImportMatch &match) co
     return places;
 }
 
-std::vector<ImportMatch> StatementMatcher::candidates(std::size_t entry) const
+std::vector<ImportMatch> StatementMatcher::candidates(std::size_t entry)
 {
     constexpr int daysMax = 31;
     const StatementEntry &told = m_entries[entry];
@@ -276,8 +285,9 @@ std::vector<ImportMatch> StatementMatcher::candidates(std::size_t entry) const
     for (int days = 0; days <= daysMax; ++days) {
         for (const int distance : {days, -days}) {
             const QDate day = told.date.addDays(-distance);
-            for (const std::size_t place : m_lines.on(day, told.amount.amount())) {
-                if (m_lines.at(place).isFree)
+            for (const Places &places : {m_lines.freeUntold(day, told.amount.amount()),
+                                         m_lines.freeTold(day, told.amount.amount())}) {
+                for (const std::size_t place : places)
                     all.push_back({{m_lines.at(place).number()}, MatchGrounds::ByHand, day});
             }
             if (const LineGroup *group = m_lines.split(day, told.amount.amount())) {

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] std::vector<std::optional<ImportMatch>> match();
     /// What the entry could be matched with by hand, the nearest first: free lines of its
     /// amount, and those that are taken for it.
-    [[nodiscard]] std::vector<ImportMatch> candidates(std::size_t entry) const;
+    [[nodiscard]] std::vector<ImportMatch> candidates(std::size_t entry);
 
     /// A free line that has the bank's identifier of the entry, but not its amount: somebody
     /// may have changed it.
