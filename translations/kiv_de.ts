@@ -6095,15 +6095,15 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Left out</source>
-        <translation>weggelassen</translation>
+        <translation>Weggelassen</translation>
     </message>
     <message>
         <source>New</source>
-        <translation>neu</translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>Already there</source>
-        <translation>schon da</translation>
+        <translation>Schon da</translation>
     </message>
     <message>
         <source>%1, to look at</source>
@@ -6124,7 +6124,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Taken</source>
-        <translation>genommen</translation>
+        <translation>Genommen</translation>
     </message>
     <message>
         <source>What becomes of it</source>

@@ -6095,15 +6095,15 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>Left out</source>
-        <translation>fuera</translation>
+        <translation>Fuera</translation>
     </message>
     <message>
         <source>New</source>
-        <translation>nueva</translation>
+        <translation>Nueva</translation>
     </message>
     <message>
         <source>Already there</source>
-        <translation>ya está</translation>
+        <translation>Ya está</translation>
     </message>
     <message>
         <source>%1, to look at</source>
@@ -6124,7 +6124,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>Taken</source>
-        <translation>tomada</translation>
+        <translation>Tomada</translation>
     </message>
     <message>
         <source>What becomes of it</source>

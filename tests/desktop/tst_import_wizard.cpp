@@ -111,7 +111,7 @@ private slots:
         for (const auto &[letter, choice] : {std::pair(Qt::Key_D, u"When"_s),
                                              {Qt::Key_A, u"Paid"_s},
                                              {Qt::Key_X, u"What"_s},
-                                             {Qt::Key_R, u"03/04/2026 is Friday"_s}}) {
+                                             {Qt::Key_R, u"03/04/2026 is 3 April"_s}}) {
             press(home, letter, Qt::AltModifier);
             choose(choice);
         }

@@ -5,6 +5,7 @@
 #include "widgets/table.h"
 
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 
@@ -21,6 +22,13 @@ constexpr std::size_t dayField = 0;
 constexpr std::size_t amountField = 1;
 /// So many lines can be that of the headings, beside one that was found.
 constexpr int linesOffered = 40;
+
+/// The day with the name of its month, and short enough for a box.
+QString dayText(QDate day)
+{
+    static const QRegularExpression weekday(QStringLiteral("^dddd[,.]? *"));
+    return QLocale().toString(day, QLocale().dateFormat(QLocale::LongFormat).remove(weekday));
+}
 
 /// A column that may be missing.
 template <auto Member>
@@ -232,8 +240,7 @@ void ImportColumnsStep::showDays()
         m_days->addItem(tr("choose"));
     for (std::size_t at = 0; at < m_readings.size(); ++at) {
         const interchange::DayReading &one = m_readings[at];
-        m_days->addItem(tr("%1 is %2", "how a day is read")
-                            .arg(one.written, QLocale().toString(one.day, QLocale::LongFormat)),
+        m_days->addItem(tr("%1 is %2", "how a day is read").arg(one.written, dayText(one.day)),
                         static_cast<int>(at));
         m_days->setItemData(m_days->count() - 1, m_days->itemText(m_days->count() - 1),
                             Qt::ToolTipRole);
