@@ -2,11 +2,11 @@
 // What a preview shows is done.
 #include "workbench/entry/description.h"
 #include "workbench/internal/faults.h"
+#include "workbench/internal/preview_parts.h"
 #include "workbench/requests/budget_view.h"
 #include "workbench/requests/due_items.h"
 #include "workbench/requests/transactions.h"
 #include "workbench/statements/import_preview.h"
-#include "workbench/statements/internal/preview_parts.h"
 
 #include "foundation/presentation.h"
 #include "interchange/draft.h"

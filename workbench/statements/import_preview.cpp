@@ -2,7 +2,7 @@
 #include "workbench/statements/import_preview.h"
 
 #include "workbench/internal/faults.h"
-#include "workbench/statements/internal/preview_parts.h"
+#include "workbench/internal/preview_parts.h"
 
 #include "foundation/presentation.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/statements/internal/other_sides.h"
-#include "workbench/statements/internal/payments.h"
-#include "workbench/statements/internal/statement_matcher.h"
+#include "workbench/internal/other_sides.h"
+#include "workbench/internal/payments.h"
+#include "workbench/internal/statement_matcher.h"
 
 namespace kiv::workbench::internal {
 

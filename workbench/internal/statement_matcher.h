@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/statements/internal/ledger_lines.h"
+#include "workbench/internal/ledger_lines.h"
 
 namespace kiv::workbench::internal {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "workbench/statements/internal/ledger_lines.h"
+#include "workbench/internal/ledger_lines.h"
 
 #include "workbench/entry/description.h"
 #include "workbench/entry/folded.h"

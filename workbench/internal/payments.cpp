@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "workbench/statements/internal/payments.h"
+#include "workbench/internal/payments.h"
 
-#include "workbench/statements/internal/ledger_lines.h"
+#include "workbench/internal/ledger_lines.h"
 
 #include <algorithm>
 

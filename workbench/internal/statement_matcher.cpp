@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "workbench/statements/internal/statement_matcher.h"
+#include "workbench/internal/statement_matcher.h"
 
 #include "workbench/entry/description.h"
 #include "workbench/entry/folded.h"
