@@ -70,7 +70,8 @@ private:
         while (!isAtEnd() && m_text[m_at] != m_delimiter)
             ++m_at;
         requireShort(m_at - begin, {m_file, m_line});
-        return m_text.mid(begin, m_at - begin);
+        // Always a copy: the text may be gone before the cell, even where it is all of it.
+        return QStringView(m_text).sliced(begin, m_at - begin).toString();
     }
 
     QString quoted()
