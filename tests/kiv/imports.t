@@ -134,6 +134,18 @@ A file of another account is noticed, and one whose account is known needs no na
   $ kiv import other.ofx | tail -1
   New: 0; matched: 0; already imported: 6; left out: 0; accounts opened: 0.
 
+A table that names no currency may be of any account, and one that does only of one:
+
+  $ kiv bank-account add Trip --bank First --currency EUR >/dev/null
+  $ kiv account add Abroad --type expense --currency EUR >/dev/null
+  $ printf 'Date,Amount,Text\n2026-01-09,-3.00,x\n' >trip.csv
+  $ kiv import trip.csv --against Abroad
+  kiv: Give the account of the bank statement with --into. It may be: Checking, Savings, Trip.
+  [2]
+  $ sed -i 's/Amount/Amount (EUR)/' trip.csv
+  $ kiv import trip.csv --against Abroad
+  New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
+
 Columns that are found can be kept, as long as they fit:
 
   $ printf 'Day;Booked;Sum;What\n3/4/2026;9/4/2026;-1,50;x\n' >a.csv

@@ -32,19 +32,12 @@ public:
 
     ImportReading read()
     {
-        ImportReading reading{statementFor(m_source.into)};
-        reading.account = m_source.into;
-        if (!reading.account) {
-            reading.possible = possibleFor(reading.statement);
-            reading.account = accountOf(reading.statement);
-            if (!reading.account && reading.possible.size() == 1)
-                reading.account = reading.possible.front();
+        ImportReading reading = m_source.into ? ImportReading{{}, m_source.into} : withPossible();
+        if (reading.account) {
             // Its currency and the form of its tables count from now on.
-            if (reading.account)
-                reading.statement = statementFor(reading.account);
-        }
-        if (reading.account)
+            reading.statement = statementFor(*reading.account);
             compareNumbers(reading);
+        }
         return reading;
     }
 
@@ -54,12 +47,48 @@ private:
         return interchange::readStatements(m_source.format, m_source.bytes, m_source.file, options);
     }
 
-    [[nodiscard]] Statement statementFor(std::optional<AccountNumber> account)
+    /// What the file says of its account. A table may leave out its currency, so it is read
+    /// in that of each account.
+    [[nodiscard]] ImportReading withPossible()
+    {
+        std::vector<numira::Currency> currencies;
+        for (const AccountNumber number : m_kept) {
+            const numira::Currency currency = m_index.find(number)->balance().code();
+            if (std::ranges::find(currencies, currency) == currencies.end())
+                currencies.push_back(currency);
+        }
+        if (currencies.empty())
+            currencies.push_back(m_preferred);
+        std::optional<ImportReading> reading;
+        std::exception_ptr refusal;
+        for (const numira::Currency &currency : currencies) {
+            interchange::StatementOptions options = m_source.options;
+            options.currency = currency;
+            try {
+                Statement statement = chosen(statements(options), std::nullopt);
+                if (!reading)
+                    reading.emplace(statement);
+                addPossible(*reading, statement.currency);
+            } catch (const interchange::ImportError &) {
+                refusal = refusal ? refusal : std::current_exception();
+            }
+        }
+        if (!reading)
+            std::rethrow_exception(refusal);
+        if (reading->possible.empty())
+            reading->possible = m_kept;
+        reading->account = accountOf(reading->statement);
+        if (!reading->account && reading->possible.size() == 1)
+            reading->account = reading->possible.front();
+        return *std::move(reading);
+    }
+
+    [[nodiscard]] Statement statementFor(AccountNumber account)
     {
         interchange::StatementOptions options = m_source.options;
-        const Account *into = account ? m_index.find(*account) : nullptr;
+        const Account *into = m_index.find(account);
         options.currency = into ? into->balance().code() : m_preferred;
-        const auto known = account ? m_memory.accounts.find(*account) : m_memory.accounts.end();
+        const auto known = m_memory.accounts.find(account);
         const bool isKnown = known != m_memory.accounts.end();
         if (!isKnown || !known->second.profile || m_source.hasProfile ||
             m_source.format != interchange::StatementFormat::Csv)
@@ -107,14 +136,13 @@ private:
         return std::nullopt;
     }
 
-    [[nodiscard]] std::vector<AccountNumber> possibleFor(const Statement &statement) const
+    void addPossible(ImportReading &reading, const numira::Currency &currency) const
     {
-        std::vector<AccountNumber> possible;
         for (const AccountNumber number : m_kept) {
-            if (m_index.find(number)->balance().code() == statement.currency)
-                possible.push_back(number);
+            if (m_index.find(number)->balance().code() == currency &&
+                std::ranges::find(reading.possible, number) == reading.possible.end())
+                reading.possible.push_back(number);
         }
-        return possible.empty() ? m_kept : possible;
     }
 
     void compareNumbers(ImportReading &reading) const
