@@ -87,6 +87,12 @@ private slots:
         QCOMPARE(read.text(), text);
     }
 
+    void textsOfOthersAreNoIdentifiers()
+    {
+        const Description told{u"Ann"_s, u"x [id 1] [id 2]"_s, {u"3"_s}};
+        QCOMPARE(told.text(), u"Ann | x [id 1] (id 2) [id 3]"_s);
+    }
+
     void payeesAreCompletedAndTheirNewestEntryIsKnown()
     {
         std::vector<Transaction> all = transactions();

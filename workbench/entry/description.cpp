@@ -45,6 +45,10 @@ std::optional<QString> Description::text() const
     // Without a bar it would be read as a reason, and with another one as a payee.
     if (!who.isEmpty() || all.contains(u'|'))
         all = QStringLiteral("%1 | %2").arg(who, all).trimmed();
+    if (interchange::withoutBankId(all).size() < all.size()) {
+        all[all.lastIndexOf(u'[')] = u'(';
+        all.back() = u')';
+    }
     for (const QString &id : bankIds)
         all = interchange::withBankId(all, id);
     return all.isEmpty() ? std::nullopt : std::optional(all);

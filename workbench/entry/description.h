@@ -26,7 +26,8 @@ struct KIV_WORKBENCH_EXPORT Description {
     /// The part of a description in front of the identifiers.
     [[nodiscard]] static QStringView withoutIds(QStringView text);
     /// The whole description; nothing if all parts are empty. Bars in the payee become
-    /// slashes, and blanks at the ends are lost.
+    /// slashes, brackets at the end that would be read as an identifier become round, and blanks at
+    /// the ends are lost.
     [[nodiscard]] std::optional<QString> text() const;
     /// Payee and reason for people, with a bar between them.
     [[nodiscard]] QString shown() const;

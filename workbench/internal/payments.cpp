@@ -58,6 +58,13 @@ bool PaymentFinder::canPay(const Item &item, const StatementEntry &entry)
     return late >= -std::min(earlyMax, half) && late <= lateMax;
 }
 
+/// Whether the entry is so late that it may be for the date after.
+bool PaymentFinder::isNearerToNext(const Item &item, const StatementEntry &entry)
+{
+    const std::optional<QDate> after = dateAfter(*item.item, item.next);
+    return after && entry.date.daysTo(*after) < item.next.daysTo(entry.date);
+}
+
 void PaymentFinder::moveOn(Item &item)
 {
     item.next = dateAfter(*item.item, item.next).value_or(QDate());
@@ -81,8 +88,9 @@ PaymentFinder::find(const StatementEntry &entry, std::optional<accounting::Accou
             if (isSameAmount || other == item.item->account) {
                 const ImportPayment payment{{item.item->id.type, item.item->id.source, item.next},
                                             item.item->amount};
+                const bool isDoubtful = isNearerToNext(item, entry);
                 moveOn(item);
-                return Found{payment, false};
+                return Found{payment, isDoubtful};
             }
             byName.push_back(&item);
         }

@@ -13,7 +13,8 @@ public:
 
     struct Found {
         ImportPayment payment;
-        bool isDoubtful = false; ///< whether the amount or the name alone speaks for it
+        /// Whether the amount or the name alone speaks for it, or it is nearer to the next date.
+        bool isDoubtful = false;
     };
     /// The item that the entry pays, if one fits. `other` is the account that a rule or former
     /// entries chose for it; `isSaid` means that nothing else may be chosen.
@@ -33,6 +34,8 @@ private:
     };
 
     [[nodiscard]] static bool canPay(const Item &item, const interchange::StatementEntry &entry);
+    [[nodiscard]] static bool isNearerToNext(const Item &item,
+                                             const interchange::StatementEntry &entry);
     void moveOn(Item &item);
 
     std::vector<Item> m_items;

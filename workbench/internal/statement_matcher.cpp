@@ -116,7 +116,7 @@ void StatementMatcher::matchIdentifiers()
 
 std::optional<accounting::TransactionNumber> StatementMatcher::changedLine(std::size_t entry) const
 {
-    const Places places = isMadeUp(m_entries[entry].bankId) ? Places() : toldAs(m_entries[entry]);
+    const Places places = toldAs(m_entries[entry]);
     return places.empty() ? std::nullopt : std::optional(m_lines.at(places.front()).number());
 }
 

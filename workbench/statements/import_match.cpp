@@ -30,6 +30,9 @@ quint32 hashOf(const QString &text)
 
 void giveIdentifiers(std::vector<StatementEntry> &entries)
 {
+    // As descriptions keep them, which have brackets around them.
+    for (StatementEntry &entry : entries)
+        entry.bankId = interchange::bankIdOf(interchange::withBankId({}, entry.bankId));
     interchange::forgetSharedIds(entries);
     std::unordered_map<QString, int> counts;
     for (StatementEntry &entry : entries) {

@@ -16,6 +16,14 @@ QRegularExpression patternOf(const ImportRule &rule)
                                              QRegularExpression::UseUnicodePropertiesOption);
 }
 
+/// The same, but it gives up after so many steps: (a+)+$ would take minutes for a file.
+QRegularExpression boundedPatternOf(const ImportRule &rule)
+{
+    QRegularExpression pattern = patternOf(rule);
+    pattern.setPattern(QStringLiteral("(*LIMIT_MATCH=20000)") + rule.text);
+    return pattern;
+}
+
 bool isWithin(const ImportRule &rule, const numira::Decimal &amount)
 {
     return !(rule.least && amount < *rule.least) && !(rule.most && *rule.most < amount);
@@ -59,7 +67,7 @@ RuleBook::RuleBook(std::vector<ImportRule> rules) : m_rules(std::move(rules))
 {
     for (const ImportRule &rule : m_rules) {
         m_parts.push_back(rule.isPattern ? QString() : folded(rule.text.simplified()));
-        m_patterns.push_back(rule.isPattern ? patternOf(rule) : QRegularExpression());
+        m_patterns.push_back(rule.isPattern ? boundedPatternOf(rule) : QRegularExpression());
     }
 }
 

@@ -15,8 +15,9 @@ namespace kiv::workbench {
 
 /// Says what the entries of bank statements are for that it fits.
 struct ImportRule {
-    QString text;                         ///< a part of payee and text, or a pattern; not empty
-    bool isPattern = false;               ///< whether the text is a regular expression
+    QString text; ///< a part of payee and text, or a pattern; not empty
+    /// Whether the text is a regular expression. One that takes too many steps fits nothing.
+    bool isPattern = false;
     std::optional<numira::Decimal> least; ///< the least amount, without its sign
     std::optional<numira::Decimal> most;  ///< the highest amount, without its sign
     /// Only in statements of this account.
