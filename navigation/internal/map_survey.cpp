@@ -4,14 +4,14 @@
 #include "navigation/internal/faults.h"
 #include "navigation/internal/surveyed_changes.h"
 
-#include "budgeting/due.h"
 #include "foundation/dates.h"
 #include "foundation/presentation.h"
 #include "surveying/distributable.h"
+#include "surveying/survey_rules.h"
 
 #include <QtCore/QLoggingCategory>
 
-#include <cmath>
+#include <functional>
 
 namespace kiv::navigation::internal {
 namespace {
@@ -20,58 +20,8 @@ using accounting::AccountNumber;
 using banking::BankAccount;
 using budgeting::BudgetedMoney;
 using budgeting::BudgetItemIdentifier;
-using budgeting::BudgetItemTypes;
 using budgeting::EventFrequency;
 using numira::Money;
-
-/// The day from which changes are counted.
-QDate startOf(const banking::ReconciledBankAccount &reconciled, const QDate &date,
-              const accounting::GeneralLedger &ledger)
-{
-    if (const std::optional<QDate> &reconciledOn = reconciled.reconciledOn())
-        return *reconciledOn;
-    if (const auto opening = ledger.openingTransaction(reconciled.bankAccount().account.number))
-        return opening->occurredOn().addDays(-1);
-    return foundation::firstOfMonth(date).addMonths(-1);
-}
-
-/// The number of times that an item occurs until then, at least 1.
-double occurrencesUntil(const QDate &date, const BudgetedMoney &item)
-{
-    return std::max(1.0,
-                    std::abs(budgeting::occurrencesIn(item.period(), date, item.nextOccurOn())));
-}
-
-/// Whether such an item is paid from a bank account.
-bool isExpense(BudgetItemTypes type)
-{
-    switch (type) {
-    case BudgetItemTypes::Bill:
-    case BudgetItemTypes::Debt:
-    case BudgetItemTypes::Goal:
-    case BudgetItemTypes::Nontrack:
-        return true;
-    case BudgetItemTypes::None:
-    case BudgetItemTypes::Wage:
-        return false;
-    }
-    qCritical("Unknown budget item type present in `isExpense` function.");
-    return false;
-}
-
-/// The monthly payments that are still due until the end of the date's month.
-Money dueUntilMonthEnd(const QDate &date, const budgeting::Budget &budget,
-                       const numira::Currency &currency, const QDate &today)
-{
-    const std::chrono::days days(foundation::daysBetween(date, foundation::lastOfMonth(date)));
-    return numira::math::sum(
-        currency, budgeting::budgetItemsDue(days, budget, today), [&](const auto &due) {
-            const BudgetedMoney *item = budgeting::findBudgetItem(due.id.item(), budget);
-            const bool counts = isExpense(due.id.type) && item != nullptr &&
-                                item->period() == EventFrequency::Monthly;
-            return counts ? due.amount : Money(currency);
-        });
-}
 
 /// Builds one proposal.
 class Generation {
@@ -87,7 +37,7 @@ public:
                               : banking::ReconciledBankAccount(
                                     m_accounts.bankAccount,
                                     ledger().ledger(m_accounts.number()).balance().code())),
-          m_start(startOf(m_reconciled, date, ledger())),
+          m_start(surveying::countsFrom(m_reconciled, date, ledger())),
           m_changes(m_accounts, ledgers, m_reconciled.balance())
     {
     }
@@ -149,10 +99,9 @@ void Generation::propose(const BudgetedMoney &item, int months)
         if (entry != m_last->distribution().end())
             before = entry->second.distributed();
     }
-    const auto *goal = dynamic_cast<const budgeting::Goal *>(&item);
-    const Money expected = (goal ? goal->final() : item.amount()) * occurrencesUntil(m_date, item);
     surveying::DistributedAmount &proposed = m_changes.distribution[id];
-    proposed = surveying::DistributedAmount(before, item.nextOccurOn(), expected);
+    proposed = surveying::DistributedAmount(before, item.nextOccurOn(),
+                                            surveying::expectedBy(m_date, item));
     if (months <= 0)
         return;
     const Money monthly =
@@ -168,12 +117,11 @@ void Generation::markElsewhere(const BudgetItemIdentifier &id)
         qInfo() << "Will remove distributable budget item" << id << "it's a child account" << *code;
         m_elsewhere.insert(id);
     }
-    for (const auto &[account, survey] : m_surveys) {
-        if (account != m_accounts.bankAccount && survey.distribution().contains(id)) {
-            qInfo() << "Will remove distributable budget item" << id
-                    << "as it's already distributed in another bank account.";
-            m_elsewhere.insert(id);
-        }
+    for ([[maybe_unused]] const BankAccount &holder :
+         surveying::otherHolders(id, m_accounts.bankAccount, m_surveys)) {
+        qInfo() << "Will remove distributable budget item" << id
+                << "as it's already distributed in another bank account.";
+        m_elsewhere.insert(id);
     }
 }
 
@@ -197,7 +145,9 @@ surveying::MappingSurvey Generation::result(const QDate &today) const
     std::optional<Money> due;
     if (m_accounts.isAsset()) {
         distribution = m_changes.distribution;
-        due = dueUntilMonthEnd(m_date, m_ledgers.budget(), m_reconciled.balance().code(), today);
+        due = numira::math::sum(m_reconciled.balance().code(),
+                                surveying::monthlyPaymentsDue(m_date, m_ledgers.budget(), today),
+                                std::mem_fn(&budgeting::BudgetItemAmountDue::amount));
     }
     return {m_reconciled,
             m_changes.expectedBalance(),

@@ -205,6 +205,9 @@ public:
 
     /// The reconciliations of the budget as it was opened or saved last.
     [[nodiscard]] std::vector<JudgedReconciliation> reconciliations() const;
+    /// The same as they are kept beside the budget, with their transactions. There must be
+    /// a budget.
+    [[nodiscard]] const surveying::Reconciliations &keptReconciliations() const;
     /// For each account that was reconciled, whether all its reconciliations hold.
     [[nodiscard]] std::map<accounting::AccountNumber, bool> reconciledAccounts() const;
     /// A sentence about one of them.
@@ -225,7 +228,6 @@ private:
     void load(const QString &path, Access access);
     void refuseReadOnly() const;
     [[nodiscard]] Writer *writer() const;
-    [[nodiscard]] const surveying::Reconciliations &keptReconciliations() const;
     /// Notes what is broken in the version that is open now. One that was not made by a
     /// change of the one before is checked as a whole.
     void watch(bool isChange);

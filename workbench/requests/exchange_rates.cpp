@@ -34,6 +34,18 @@ ListedRates listedRates(Requests &requests)
     return listed;
 }
 
+std::optional<numira::Money> convertedIfKnown(const numira::Money &money,
+                                              const numira::Currency &currency)
+{
+    try {
+        return money.convertedTo(currency);
+    } catch (const numira::Error &) {
+        return std::nullopt;
+    } catch (const foundation::Error &) {
+        return std::nullopt;
+    }
+}
+
 QString rateText(const numira::FloatingPoint &rate)
 {
     constexpr int digits = 12;

@@ -26,6 +26,11 @@ struct ListedRates {
 /// Lists them.
 [[nodiscard]] KIV_WORKBENCH_EXPORT ListedRates listedRates(Requests &requests);
 
+/// The amount in this currency, not rounded; nothing if there is no exchange rate, or if it
+/// cannot be kept.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<numira::Money>
+convertedIfKnown(const numira::Money &money, const numira::Currency &currency);
+
 /// A rate in the form of the locale, with up to twelve digits.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString rateText(const numira::FloatingPoint &rate);
 /// Reads a rate such as "0.92", with a point or the user's decimal mark. Throws an EntryError

@@ -2,9 +2,9 @@
 #include "workbench/surveys/needed_care.h"
 
 #include "workbench/entry/account_index.h"
+#include "workbench/requests/exchange_rates.h"
 
 #include "foundation/presentation.h"
-#include "numira/error.h"
 
 #include <QtCore/QLocale>
 
@@ -73,18 +73,6 @@ void addLongNotReconciled(const BudgetStorage::Data &data, QDate today, std::vec
     }
 }
 
-bool hasRate(const numira::Currency &from, const numira::Currency &to)
-{
-    try {
-        (void)numira::Money(from, 1, 0).convertedTo(to);
-        return true;
-    } catch (const numira::Error &) {
-        return false;
-    } catch (const foundation::Error &) {
-        return false;
-    }
-}
-
 void addMissingRates(Requests &requests, const BudgetStorage::Data &data, std::vector<Care> &all)
 {
     const numira::Currency preferred = requests.preferredCurrency();
@@ -92,7 +80,7 @@ void addMissingRates(Requests &requests, const BudgetStorage::Data &data, std::v
     used.merge(accounting::containedCurrencies(data.generalLedger));
     QStringList missing;
     for (const numira::Currency &currency : used) {
-        if (!hasRate(currency, preferred))
+        if (!convertedIfKnown(numira::Money(currency, 1, 0), preferred))
             missing += foundation::toQString(currency);
     }
     if (!missing.isEmpty())

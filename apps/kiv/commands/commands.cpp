@@ -26,6 +26,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addRuleCommands(root);
     addSurveyCommands(root);
     addReconciliationCommands(root);
+    addEnvelopeCommands(root);
     root.setHeading(QObject::tr("Reports and export"));
     addDashboardCommands(root);
     addReportCommands(root);

@@ -22,6 +22,7 @@ void addImportCommands(CommandGroup &root);
 void addRuleCommands(CommandGroup &root);
 void addSurveyCommands(CommandGroup &root);
 void addReconciliationCommands(CommandGroup &root);
+void addEnvelopeCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);
 void addReportCommands(CommandGroup &root);
 void addExportCommands(CommandGroup &root);

@@ -1,0 +1,351 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// envelopes
+#include "commands/commands.h"
+
+#include "output/json.h"
+
+#include "workbench/requests/item_figures.h"
+#include "workbench/surveys/set_aside_text.h"
+
+#include "foundation/presentation.h"
+
+namespace kiv::app {
+
+using budgeting::BudgetItemIdentifier;
+using foundation::presentationText;
+using storage::BudgetStorage;
+using workbench::Envelopes;
+using workbench::SetAside;
+using workbench::SetAsideLine;
+
+namespace {
+
+QJsonObject itemJson(const BudgetItemIdentifier &id)
+{
+    return {{QStringLiteral("kind"), kindWord(id.type)},
+            {QStringLiteral("name"), id.source.name()}};
+}
+
+QJsonValue moneyJson(const std::optional<numira::Money> &money)
+{
+    return money ? QJsonValue(toJson(*money)) : QJsonValue();
+}
+
+QJsonObject lineJson(const SetAsideLine &line, const SetAside &account,
+                     navigation::CurrencyDisplayOptions displayAs)
+{
+    QJsonArray parts;
+    if (line.parts) {
+        const workbench::PartReasons reasons = reasonsOf(line, account, displayAs);
+        const auto add = [&parts](const char *name, const numira::Money &money,
+                                  const QString &text) {
+            parts.append(QJsonObject{{QStringLiteral("part"), QLatin1String(name)},
+                                     {QStringLiteral("amount"), toJson(money)},
+                                     {QStringLiteral("text"), text}});
+        };
+        add("before", line.parts->before, reasons.before);
+        add("added", line.parts->added, reasons.added);
+        add("paid", -line.parts->paid, reasons.paid);
+        add("adjusted", line.parts->adjusted, reasons.adjusted);
+    }
+    QJsonArray postings;
+    for (const accounting::TransactionNumber number : line.postings)
+        postings.append(qint64{number.integer()});
+    QJsonObject json = itemJson(line.item);
+    json.insert(QStringLiteral("parts"), parts);
+    json.insert(QStringLiteral("now"),
+                line.parts ? QJsonValue(toJson(line.parts->now())) : QJsonValue());
+    json.insert(QStringLiteral("counted"), moneyJson(line.counted));
+    json.insert(QStringLiteral("handedOver"), line.isHandedOver());
+    json.insert(QStringLiteral("next"), toJson(line.next));
+    json.insert(QStringLiteral("expected"), toJson(line.expected.rounded()));
+    json.insert(QStringLiteral("transactions"), postings);
+    return json;
+}
+
+QJsonObject accountJson(const SetAside &account, const accounting::GeneralLedger &ledger,
+                        navigation::CurrencyDisplayOptions displayAs)
+{
+    QJsonArray lines;
+    for (const SetAsideLine &line : account.lines)
+        lines.append(lineJson(line, account, displayAs));
+    const banking::BankAccount &own = account.account;
+    return {{QStringLiteral("bank"), own.bank.institution()},
+            {QStringLiteral("account"), toJson(own.account.number)},
+            {QStringLiteral("reconciledOn"), toJson(account.reconciledOn.value_or(QDate()))},
+            {QStringLiteral("start"), toJson(account.start)},
+            {QStringLiteral("months"), account.months},
+            {QStringLiteral("balance"), toJson(account.balance)},
+            {QStringLiteral("setAside"), toJson(account.total)},
+            {QStringLiteral("free"), toJson(account.free())},
+            {QStringLiteral("paid"), toJson(account.paid)},
+            {QStringLiteral("lines"), lines},
+            {QStringLiteral("notices"),
+             QJsonArray::fromStringList(noticesOf(account, ledger, displayAs))}};
+}
+
+/// Why a line is as it is: "Tax: set aside on 2026-03-25; $600.00 yearly = …".
+QString whyText(const QJsonValue &line)
+{
+    QStringList reasons;
+    for (const QJsonValue part : line[QLatin1String("parts")].toArray()) {
+        const QString text = part[QLatin1String("text")].toString();
+        if (!text.isEmpty())
+            reasons += text;
+    }
+    return QStringLiteral("%1: %2").arg(line[QLatin1String("name")].toString(),
+                                        reasons.join(QStringLiteral("; ")));
+}
+
+/// The amount of a part of a line; nothing without parts.
+QJsonObject withParts(QJsonObject line)
+{
+    for (const QJsonValue part : line[QLatin1String("parts")].toArray())
+        line.insert(part[QLatin1String("part")].toString(), part[QLatin1String("amount")]);
+    return line;
+}
+
+void addLines(Report &report, const QJsonObject &account, const QString &title)
+{
+    report.heading(title).list(
+        {{QObject::tr("Balance"), QStringLiteral("balance")},
+         {QObject::tr("Set aside"), QStringLiteral("setAside")},
+         {QObject::tr("Free"), QStringLiteral("free")},
+         {QObject::tr("Last reconciled on"), QStringLiteral("reconciledOn"), dayText}},
+        account);
+    QJsonArray rows;
+    const QJsonArray lines = account[QLatin1String("lines")].toArray();
+    for (const QJsonValue line : lines)
+        rows.append(withParts(line.toObject()));
+    report.table({{QObject::tr("Item"), QStringLiteral("name")},
+                  {QObject::tr("Before"), QStringLiteral("before")},
+                  {QObject::tr("Added"), QStringLiteral("added")},
+                  {QObject::tr("Paid"), QStringLiteral("paid")},
+                  {QObject::tr("Now"), QStringLiteral("now")},
+                  {QObject::tr("Expected"), QStringLiteral("expected")},
+                  {QObject::tr("Next"), QStringLiteral("next"), dayText}},
+                 rows, QObject::tr("There are no items to set money aside for."));
+    for (const QJsonValue line : lines) {
+        if (!line[QLatin1String("parts")].toArray().isEmpty())
+            report.line(whyText(line));
+    }
+}
+
+// ---- goals and debts -----------------------------------------------------------
+
+QJsonObject progressJson(const budgeting::BudgetedMoney &item,
+                         const workbench::ItemProgress &progress)
+{
+    QJsonObject json = itemJson(identify(item));
+    json.insert(QStringLiteral("amount"), toJson(progress.part));
+    json.insert(QStringLiteral("of"), toJson(progress.whole));
+    json.insert(QStringLiteral("percent"),
+                progress.percent ? QJsonValue(*progress.percent) : QJsonValue());
+    return json;
+}
+
+/// The sentence about a goal or a debt that has come to its end.
+QString endedText(const budgeting::BudgetedMoney &item, const QString &sentence)
+{
+    if (item.period() == budgeting::EventFrequency::None)
+        return sentence;
+    return sentence + u' ' +
+           QObject::tr("To end it, use kiv %1 update with --every none.")
+               .arg(kindWord(budgeting::toBudgetItemTypes(item)));
+}
+
+QString goalText(const budgeting::Goal &goal, const workbench::ItemProgress &progress,
+                 navigation::CurrencyDisplayOptions displayAs)
+{
+    const QString name = goal.source().name();
+    const QString part = amountText(toJson(progress.part), displayAs);
+    if (progress.isReached())
+        return endedText(goal, QObject::tr("The goal '%1' is reached: %2.").arg(name, part));
+    const QString whole = amountText(toJson(progress.whole), displayAs);
+    return progress.percent ? QObject::tr("The goal '%1' has %2 of %3, %4 %.")
+                                  .arg(name, part, whole, QString::number(*progress.percent))
+                            : QObject::tr("The goal '%1' has %2 of %3.").arg(name, part, whole);
+}
+
+QString debtText(const budgeting::Debt &debt, const workbench::ItemProgress &progress,
+                 const std::optional<workbench::PayOff> &payOff,
+                 navigation::CurrencyDisplayOptions displayAs)
+{
+    const QString name = debt.source().name();
+    if (!progress.part.isPositive())
+        return endedText(debt, QObject::tr("The debt '%1' is paid off.").arg(name));
+    const QString part = amountText(toJson(progress.part), displayAs);
+    if (!payOff) {
+        return QObject::tr("Of the debt '%1' are %2 left; as it is paid now, it has no end.")
+            .arg(name, part);
+    }
+    return QObject::tr("Of the debt '%1' are %2 left: paid off on %3, after %n payments, without "
+                       "interest.",
+                       nullptr, payOff->payments)
+        .arg(name, part, presentationText(payOff->on));
+}
+
+struct Outlook {
+    QJsonArray goals;
+    QJsonArray debts;
+    QStringList sentences;
+};
+
+Outlook outlookOf(const BudgetStorage::Data &data, navigation::CurrencyDisplayOptions displayAs)
+{
+    Outlook outlook;
+    for (const auto &[source, goal] : data.budget.goals) {
+        if (const auto progress = workbench::progressOf(data, goal)) {
+            QJsonObject json = progressJson(goal, *progress);
+            json.insert(QStringLiteral("reached"), progress->isReached());
+            outlook.goals.append(json);
+            outlook.sentences += goalText(goal, *progress, displayAs);
+        }
+    }
+    for (const auto &[source, debt] : data.budget.debts) {
+        if (const auto progress = workbench::progressOf(data, debt)) {
+            const auto payOff = workbench::payOffOf(data, debt);
+            QJsonObject json = progressJson(debt, *progress);
+            json.insert(QStringLiteral("reached"), !progress->part.isPositive());
+            json.insert(QStringLiteral("payments"),
+                        payOff ? QJsonValue(payOff->payments) : QJsonValue());
+            json.insert(QStringLiteral("paidOffOn"), payOff ? toJson(payOff->on) : QJsonValue());
+            outlook.debts.append(json);
+            outlook.sentences += debtText(debt, *progress, payOff, displayAs);
+        }
+    }
+    return outlook;
+}
+
+// ---- the command ---------------------------------------------------------------
+
+struct ShowEnvelopes {
+    std::optional<QString> account;
+    std::optional<QDate> day;
+    bool isOpened = false;
+
+    void declare(Arguments &arguments)
+    {
+        arguments
+            .optional("ACCOUNT", account,
+                      QObject::tr("Only this bank account: number, name or path (default: all)"))
+            .optional("--on,--date", day, QObject::tr("Day of the balances (default: today)"))
+            .flag("--items", isOpened, QObject::tr("Tell each item, and why it has so much"));
+    }
+    Report run(Call &call) const
+    {
+        const BudgetStorage::Data data = call.document.present();
+        const auto displayAs = call.document.displayAs();
+        const auto index = std::make_shared<const AccountIndex>(call.requests.accounts());
+        Envelopes all = workbench::envelopes(data, call.document.keptReconciliations(),
+                                             day.value_or(call.date()));
+        QStringList notices = sharedNoticesOf(all, data.generalLedger, displayAs);
+        if (account)
+            notices = keepOne(call.requests, *index, all, data, displayAs);
+        const Outlook outlook = account ? Outlook() : outlookOf(data, displayAs);
+
+        QJsonArray rows;
+        QStringList told;
+        for (const SetAside &one : all.accounts) {
+            rows.append(accountJson(one, data.generalLedger, displayAs));
+            told += noticesOf(one, data.generalLedger, displayAs);
+        }
+        QJsonArray due;
+        for (const budgeting::BudgetItemAmountDue &one : all.dueYet)
+            due.append(toJson(one));
+        Report report(
+            QJsonObject{{QStringLiteral("on"), toJson(all.day)},
+                        {QStringLiteral("accounts"), rows},
+                        {QStringLiteral("dueUntil"), toJson(all.dueUntil)},
+                        {QStringLiteral("due"), due},
+                        {QStringLiteral("goals"), outlook.goals},
+                        {QStringLiteral("debts"), outlook.debts},
+                        {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
+        addAccounts(report, rows, index);
+        if (!rows.isEmpty())
+            report
+                .heading(QObject::tr("Still due until %1, of what is paid monthly")
+                             .arg(presentationText(all.dueUntil)))
+                .table({{QObject::tr("Due"), QStringLiteral("due"), dayText},
+                        {QObject::tr("Item"), QStringLiteral("name")},
+                        {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
+                        {QObject::tr("Amount"), QStringLiteral("amount")}},
+                       due, QObject::tr("Nothing is due."));
+        for (const QString &sentence : outlook.sentences + told + notices)
+            report.line(sentence);
+        return report;
+    }
+
+private:
+    void addAccounts(Report &report, const QJsonArray &rows,
+                     const std::shared_ptr<const AccountIndex> &index) const
+    {
+        if (isOpened) {
+            for (const QJsonValue row : rows) {
+                const accounting::AccountNumber number(
+                    static_cast<std::uint32_t>(row[QLatin1String("account")].toInteger()));
+                addLines(report, row.toObject(),
+                         QStringLiteral("%1, %2").arg(index->plainName(number),
+                                                      row[QLatin1String("bank")].toString()));
+            }
+        } else if (!rows.isEmpty()) {
+            report.table(
+                {{QObject::tr("Account"), QStringLiteral("account"), accountText(index)},
+                 {QObject::tr("Balance"), QStringLiteral("balance")},
+                 {QObject::tr("Set aside"), QStringLiteral("setAside")},
+                 {QObject::tr("Free"), QStringLiteral("free")},
+                 {QObject::tr("Paid since"), QStringLiteral("paid")},
+                 {QObject::tr("Last reconciled"), QStringLiteral("reconciledOn"), dayText}},
+                rows, QString());
+        }
+        if (rows.isEmpty() && !account)
+            report.line(QObject::tr("No bank has an open account for which money is set aside."));
+    }
+
+    /// Drops all but the account that was asked for, and returns what is to be said of it.
+    [[nodiscard]] QStringList keepOne(Requests &requests, const AccountIndex &index, Envelopes &all,
+                                      const BudgetStorage::Data &data,
+                                      navigation::CurrencyDisplayOptions displayAs) const
+    {
+        const accounting::Account &found = index.find(*account);
+        const accounting::AccountNumber number = found.code().number();
+        const auto isOther = [number](const auto &one) {
+            return one.account.account.number != number;
+        };
+        std::erase_if(all.accounts, isOther);
+        std::erase_if(all.stranded, isOther);
+        std::erase_if(all.shared, [&all](const BudgetItemIdentifier &item) {
+            return all.accounts.empty() ||
+                   std::ranges::find(all.accounts.front().lines, item, &SetAsideLine::item) ==
+                       all.accounts.front().lines.end();
+        });
+        QStringList notices = sharedNoticesOf(all, data.generalLedger, displayAs);
+        if (all.accounts.empty())
+            notices.prepend(whyNone(requests, found, *account));
+        return notices;
+    }
+
+    [[nodiscard]] static QString whyNone(Requests &requests, const accounting::Account &found,
+                                         const QString &typed)
+    {
+        const banking::BankAccount kept = requests.bankAccount(found.code().number(), typed);
+        const QString name = workbench::plainNameOf(found);
+        if (found.isClosed())
+            return QObject::tr("%1 is closed.").arg(name);
+        if (banking::isLiabilityAccount(kept.account.type))
+            return QObject::tr("%1 is owed; nothing is set aside of it.").arg(name);
+        return QObject::tr("%1 has no envelopes of its own; the account above it counts its money.")
+            .arg(name);
+    }
+};
+
+} // namespace
+
+void addEnvelopeCommands(CommandGroup &root)
+{
+    root.add("envelopes",
+             QObject::tr("Show what is set aside at the bank accounts, what is free, and why"),
+             CommandKind::Query, ShowEnvelopes{});
+}
+
+} // namespace kiv::app

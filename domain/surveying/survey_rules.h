@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "surveying/completed_surveys.h"
+
+#include "accounting/general_ledger.h"
+#include "budgeting/budget.h"
+#include "budgeting/due.h"
+
+/// The rules by which a survey proposes what to set aside.
+namespace kiv::surveying {
+
+/// The day from which a survey on `date` counts: that of the last reconciliation; else the
+/// day before the account was opened with a balance; else the first of the month before.
+[[nodiscard]] KIV_SURVEYING_EXPORT QDate
+countsFrom(const banking::ReconciledBankAccount &reconciled, QDate date,
+           const accounting::GeneralLedger &ledger);
+
+/// What the item will want by then: the target of a goal, the amount of all others, for each
+/// time that it occurs until then, at least once.
+[[nodiscard]] KIV_SURVEYING_EXPORT numira::Money expectedBy(QDate date,
+                                                            const budgeting::BudgetedMoney &item);
+
+/// The other bank accounts whose last survey sets money aside for the item, also of zero.
+[[nodiscard]] KIV_SURVEYING_EXPORT std::vector<banking::BankAccount>
+otherHolders(const budgeting::BudgetItemIdentifier &item, const banking::BankAccount &account,
+             const CompletedSurveys &surveys);
+
+/// The monthly payments that are due within so many days after `today` as the month of
+/// `date` still has after it, in the order of budgetItemsDue().
+[[nodiscard]] KIV_SURVEYING_EXPORT std::vector<budgeting::BudgetItemAmountDue>
+monthlyPaymentsDue(QDate date, const budgeting::Budget &budget, QDate today);
+
+} // namespace kiv::surveying

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "workbench/document/demonstration.h"
+#include "workbench/document/document.h"
+#include "workbench/internal/chance.h"
+#include "workbench/requests/paying_account.h"
+#include "workbench/surveys/set_aside.h"
+#include "workbench/surveys/survey_form.h"
+
+#include "storage/scratch_folder.h"
+#include "support/accounting.h"
+#include "support/message_log.h"
+#include "support/scripted_sender.h"
+
+using namespace kiv;
+using namespace Qt::Literals::StringLiterals;
+using navigation::Navigator;
+using workbench::SetAside;
+using workbench::SetAsideLine;
+using workbench::SurveyForm;
+using Data = storage::BudgetStorage::Data;
+
+namespace {
+
+/// The made-up household, which goes on by chance after its year.
+class GoingOn {
+public:
+    GoingOn()
+    {
+        m_document.createFilled(m_folder.path(u"household.budget"_s), {u"Made"_s, {}, {}},
+                                [this] { makeDemonstration(m_document.requests(), m_day); });
+    }
+
+    void step()
+    {
+        m_day = m_day.addDays(m_chance.between(0, 12));
+        m_document.perform({u"Step"_s, {}, {}}, [this] {
+            if (m_chance.between(0, 3) == 0)
+                survey(any(shown()));
+            else
+                post();
+        });
+    }
+    [[nodiscard]] std::vector<SetAside> shown() { return shown(m_document.present()); }
+    [[nodiscard]] std::vector<SetAside> shown(const Data &data) const
+    {
+        return workbench::envelopes(data, m_document.keptReconciliations(), m_day).accounts;
+    }
+    [[nodiscard]] SurveyForm proposed(const SetAside &account)
+    {
+        return SurveyForm::propose(m_document.requests(), account.account.bank.institution(),
+                                   accounting::presentationText(account.account.account.number),
+                                   m_day);
+    }
+    /// The budget after a payment of today from this account for an item.
+    [[nodiscard]] Data paid(const SetAside &from, const SetAsideLine &line,
+                            const numira::Money &amount)
+    {
+        Data data = m_document.present();
+        (void)data.generalLedger.post({m_day, workbench::accountOf(data, line.item).value(),
+                                       from.account.account.number, amount});
+        return data;
+    }
+    /// The balance of the account with those under it.
+    [[nodiscard]] numira::Money inBooks(accounting::AccountNumber number)
+    {
+        const accounting::GeneralLedger ledger = m_document.present().generalLedger;
+        numira::Money balance = ledger.ledger(number).balance();
+        for (const auto child : ledger.lookUpChildren(number, accounting::OpenStates::Either))
+            balance += ledger.ledger(child).balance();
+        return balance;
+    }
+
+private:
+    template <typename T>
+    T any(const std::vector<T> &all)
+    {
+        return all[static_cast<std::size_t>(m_chance.between(0, static_cast<int>(all.size()) - 1))];
+    }
+    /// Reconciles what is there, and sets aside what is shown.
+    void survey(const SetAside &account)
+    {
+        SurveyForm form = proposed(account);
+        form.distribution.clear();
+        for (const SetAsideLine &line : account.lines) {
+            if (line.isHandedOver())
+                form.distribution.emplace(
+                    line.item,
+                    surveying::DistributedAmount(line.parts->now(), line.next, line.expected));
+        }
+        form.nonDistributed = form.left();
+        form.complete(m_document.requests());
+    }
+    /// Posts for an item, or back from it, on one of the last days.
+    void post()
+    {
+        const SetAside account = any(shown());
+        const SetAsideLine line = any(account.lines);
+        accounting::AccountNumber debit =
+            workbench::accountOf(m_document.present(), line.item).value();
+        accounting::AccountNumber credit = any(shown()).account.account.number;
+        if (m_chance.between(0, 4) == 0)
+            std::swap(debit, credit);
+        const numira::Money amount(account.balance.code(), m_chance.between(1, 400), 50);
+        m_document.requests().change(
+            workbench::transactionOutcome, &Navigator::onAddedTransaction,
+            accounting::Transaction(m_day.addDays(-m_chance.between(0, 6)), debit, credit, amount));
+    }
+
+    test::ScratchFolder m_folder;
+    workbench::internal::Chance m_chance;
+    QDate m_day = test::day("2024-06-30");
+    workbench::Document m_document{{[] {
+                                        return foundation::UniqueQtPtr<networking::RequestSender>(
+                                            new ScriptedSender(ScriptedSender::silence()));
+                                    },
+                                    m_folder.path(u"rates"_s)}};
+};
+
+template <typename Lines, typename Member>
+std::set<budgeting::BudgetItemIdentifier> itemsOf(const Lines &lines, Member member)
+{
+    std::set<budgeting::BudgetItemIdentifier> items;
+    for (const auto &line : lines)
+        items.insert(std::invoke(member, line));
+    return items;
+}
+
+} // namespace
+
+class SetAsideTest final : public QObject {
+    Q_OBJECT
+
+private slots:
+    void linesAndFreeMoneyAreWhatTheBankHas()
+    {
+        const MessageLog quiet;
+        GoingOn household;
+        int cut = 0;
+        for (int step = 0; step < 60; ++step) {
+            household.step();
+            for (const SetAside &account : household.shown()) {
+                const SurveyForm proposed = household.proposed(account);
+                numira::Money rest = household.inBooks(account.account.account.number);
+                const surveying::Distribution &wanted = proposed.proposal.distributions();
+                QCOMPARE(itemsOf(account.lines, &SetAsideLine::item),
+                         itemsOf(wanted, &surveying::Distribution::value_type::first));
+                for (const SetAsideLine &line : account.lines) {
+                    check(household, account, line, wanted.at(line.item).distributed());
+                    rest -= *line.counted;
+                    cut += !line.isByAccount && !line.parts->adjusted.isZero();
+                }
+                QCOMPARE(account.free(), rest);
+            }
+        }
+        QVERIFY(cut > 0); // else no line was ever paid beyond its end
+    }
+
+private:
+    static void check(GoingOn &household, const SetAside &account, const SetAsideLine &line,
+                      const numira::Money &proposed)
+    {
+        const numira::Money now = line.parts->now();
+        if (line.isByAccount) {
+            QCOMPARE(now, proposed);
+            return;
+        }
+        QVERIFY(!now.isNegative());
+        if (line.postings.empty())
+            QCOMPARE(now, proposed.rounded());
+        const numira::Money payment(now.code(), 30, 0);
+        const numira::Money left = now < payment ? numira::Money(now.code()) : now - payment;
+        for (const SetAside &later : household.shown(household.paid(account, line, payment))) {
+            const auto same = std::ranges::find(later.lines, line.item, &SetAsideLine::item);
+            if (later.account == account.account)
+                QVERIFY(same->parts->now() <= left);
+        }
+    }
+};
+
+static const kiv::test::Suite<SetAsideTest> suite;
+#include "tst_set_aside.moc"
