@@ -6206,6 +6206,176 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <source>Import a bank file</source>
         <translation>Datei der Bank importieren</translation>
     </message>
+    <message>
+        <source>set aside on %1</source>
+        <translation>zurückgelegt am %1</translation>
+    </message>
+    <message>
+        <source>not set aside on %1</source>
+        <translation>am %1 nicht zurückgelegt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2 = %3 a month, %n months</source>
+        <translation>
+            <numerusform>%1 %2 = %3 im Monat, %n Monat</numerusform>
+            <numerusform>%1 %2 = %3 im Monat, %n Monate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3, which is closed.</source>
+        <translation>%1 ist für „%2“ bei %3 zurückgelegt, das geschlossen ist.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3, where nothing can be set aside any more.</source>
+        <translation>%1 ist für „%2“ bei %3 zurückgelegt, wo nichts mehr zurückgelegt werden kann.</translation>
+    </message>
+    <message>
+        <source>%1 was set aside for &apos;%2&apos; at %3, but nothing is set aside for it any more.</source>
+        <translation>%1 war für „%2“ bei %3 zurückgelegt, doch dafür wird nichts mehr zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3 until that is reconciled again, but its account lies elsewhere.</source>
+        <translation>%1 ist für „%2“ bei %3 zurückgelegt, bis dieses wieder abgeglichen wird, doch das Konto des Postens liegt anderswo.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3 and also at another account, so no line shows it.</source>
+        <translation>%1 ist für „%2“ bei %3 und auch bei einem anderen Konto zurückgelegt, daher zeigt es keine Zeile.</translation>
+    </message>
+    <message>
+        <source>paid: %1</source>
+        <translation>gezahlt: %1</translation>
+    </message>
+    <message>
+        <source>%1 more was paid than was set aside</source>
+        <translation>%1 mehr gezahlt als zurückgelegt</translation>
+    </message>
+    <message>
+        <source>put into its account: %1</source>
+        <translation>in sein Konto eingezahlt: %1</translation>
+    </message>
+    <message>
+        <source>taken out of its account: %1</source>
+        <translation>aus seinem Konto entnommen: %1</translation>
+    </message>
+    <message>
+        <source>%1 to the balance of its account</source>
+        <translation>%1 bis zum Saldo seines Kontos</translation>
+    </message>
+    <message>
+        <source>%1 was never reconciled; its lines count from %2.</source>
+        <translation>%1 wurde noch nie abgeglichen; die Zeilen zählen ab %2.</translation>
+    </message>
+    <message>
+        <source>At %1, %2 more is set aside than there is.</source>
+        <translation>Bei %1 ist %2 mehr zurückgelegt, als da ist.</translation>
+    </message>
+    <message>
+        <source>The sum at %1 leaves &apos;%2&apos; out.</source>
+        <translation>Die Summe bei %1 lässt „%2“ aus.</translation>
+    </message>
+    <message>
+        <source>The money of &apos;%1&apos; is in an account of its own that is not under %2, so the balance does not count it.</source>
+        <translation>Das Geld von „%1“ liegt in einem eigenen Konto, das nicht unter %2 steht; der Saldo zählt es nicht.</translation>
+    </message>
+    <message>
+        <source>The balance of %1 leaves &apos;%2&apos; out.</source>
+        <translation>Der Saldo von %1 lässt „%2“ aus.</translation>
+    </message>
+    <message>
+        <source>Several accounts have a line for the same item, until a survey of one of them sets it aside: %1</source>
+        <translation>Mehrere Konten haben eine Zeile für denselben Posten, bis der Abgleich eines davon ihn zurücklegt: %1</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Dazu</translation>
+    </message>
+    <message>
+        <source>Paid</source>
+        <translation>Gezahlt</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>To end it, use kiv %1 update with --every none.</source>
+        <translation>Zum Beenden: kiv %1 update mit --every none.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is reached: %2.</source>
+        <translation>Das Ziel „%1“ ist erreicht: %2.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 of %3, %4 %.</source>
+        <translation>Das Ziel „%1“ hat %2 von %3, %4 %.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 of %3.</source>
+        <translation>Das Ziel „%1“ hat %2 von %3.</translation>
+    </message>
+    <message>
+        <source>The debt &apos;%1&apos; is paid off.</source>
+        <translation>Die Schuld „%1“ ist abbezahlt.</translation>
+    </message>
+    <message>
+        <source>Of the debt &apos;%1&apos; are %2 left; as it is paid now, it has no end.</source>
+        <translation>Von der Schuld „%1“ bleiben %2; so, wie sie gezahlt wird, endet sie nicht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, without interest.</source>
+        <translation>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlung, ohne Zinsen.</numerusform>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlungen, ohne Zinsen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only this bank account: number, name or path (default: all)</source>
+        <translation>Nur dieses Bankkonto: Nummer, Name oder Pfad (Standard: alle)</translation>
+    </message>
+    <message>
+        <source>Day of the balances (default: today)</source>
+        <translation>Tag der Salden (Standard: heute)</translation>
+    </message>
+    <message>
+        <source>Tell each item, and why it has so much</source>
+        <translation>Jeden Posten zeigen, und warum er so viel hat</translation>
+    </message>
+    <message>
+        <source>Still due until %1, of what is paid monthly</source>
+        <translation>Bis %1 noch fällig, von dem, was monatlich gezahlt wird</translation>
+    </message>
+    <message>
+        <source>Paid since</source>
+        <translation>Seither gezahlt</translation>
+    </message>
+    <message>
+        <source>No bank has an open account for which money is set aside.</source>
+        <translation>Keine Bank hat ein offenes Konto, bei dem Geld zurückgelegt wird.</translation>
+    </message>
+    <message>
+        <source>%1 is closed.</source>
+        <translation>%1 ist geschlossen.</translation>
+    </message>
+    <message>
+        <source>%1 is owed; nothing is set aside of it.</source>
+        <translation>%1 ist eine Verbindlichkeit; davon wird nichts zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>%1 has no envelopes of its own; the account above it counts its money.</source>
+        <translation>Bei %1 selbst wird nichts zurückgelegt; das Konto darüber zählt sein Geld.</translation>
+    </message>
+    <message>
+        <source>Show what is set aside at the bank accounts, what is free, and why</source>
+        <translation>Zeigen, was bei den Bankkonten zurückgelegt ist, was frei ist, und warum</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -311,6 +311,20 @@
             <numerusform>%n to look at</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 %2 = %3 a month, %n months</source>
+        <translation>
+            <numerusform>%1 %2 = %3 a month, %n month</numerusform>
+            <numerusform>%1 %2 = %3 a month, %n months</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, without interest.</source>
+        <translation>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payment, without interest.</numerusform>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, without interest.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

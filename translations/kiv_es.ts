@@ -6206,6 +6206,176 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <source>Import a bank file</source>
         <translation>Importar un archivo del banco</translation>
     </message>
+    <message>
+        <source>set aside on %1</source>
+        <translation>apartado el %1</translation>
+    </message>
+    <message>
+        <source>not set aside on %1</source>
+        <translation>no apartado el %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 %2 = %3 a month, %n months</source>
+        <translation>
+            <numerusform>%1 %2 = %3 al mes, %n mes</numerusform>
+            <numerusform>%1 %2 = %3 al mes, %n meses</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3, which is closed.</source>
+        <translation>Hay %1 apartado para «%2» en %3, que está cerrada.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3, where nothing can be set aside any more.</source>
+        <translation>Hay %1 apartado para «%2» en %3, donde ya no se puede apartar nada.</translation>
+    </message>
+    <message>
+        <source>%1 was set aside for &apos;%2&apos; at %3, but nothing is set aside for it any more.</source>
+        <translation>Había %1 apartado para «%2» en %3, pero ya no se aparta nada para eso.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3 until that is reconciled again, but its account lies elsewhere.</source>
+        <translation>Hay %1 apartado para «%2» en %3 hasta que esta se concilie de nuevo, pero la cuenta de la partida está en otro lugar.</translation>
+    </message>
+    <message>
+        <source>%1 is set aside for &apos;%2&apos; at %3 and also at another account, so no line shows it.</source>
+        <translation>Hay %1 apartado para «%2» en %3 y también en otra cuenta, por eso ninguna línea lo muestra.</translation>
+    </message>
+    <message>
+        <source>paid: %1</source>
+        <translation>pagado: %1</translation>
+    </message>
+    <message>
+        <source>%1 more was paid than was set aside</source>
+        <translation>se pagó %1 más de lo apartado</translation>
+    </message>
+    <message>
+        <source>put into its account: %1</source>
+        <translation>ingresado en su cuenta: %1</translation>
+    </message>
+    <message>
+        <source>taken out of its account: %1</source>
+        <translation>retirado de su cuenta: %1</translation>
+    </message>
+    <message>
+        <source>%1 to the balance of its account</source>
+        <translation>%1 hasta el saldo de su cuenta</translation>
+    </message>
+    <message>
+        <source>%1 was never reconciled; its lines count from %2.</source>
+        <translation>%1 no se ha conciliado nunca; sus líneas cuentan desde el %2.</translation>
+    </message>
+    <message>
+        <source>At %1, %2 more is set aside than there is.</source>
+        <translation>En %1 hay %2 más apartado de lo que hay.</translation>
+    </message>
+    <message>
+        <source>The sum at %1 leaves &apos;%2&apos; out.</source>
+        <translation>La suma de %1 deja fuera «%2».</translation>
+    </message>
+    <message>
+        <source>The money of &apos;%1&apos; is in an account of its own that is not under %2, so the balance does not count it.</source>
+        <translation>El dinero de «%1» está en una cuenta propia que no está bajo %2, por eso el saldo no lo cuenta.</translation>
+    </message>
+    <message>
+        <source>The balance of %1 leaves &apos;%2&apos; out.</source>
+        <translation>El saldo de %1 deja fuera «%2».</translation>
+    </message>
+    <message>
+        <source>Several accounts have a line for the same item, until a survey of one of them sets it aside: %1</source>
+        <translation>Varias cuentas tienen una línea para la misma partida, hasta que la conciliación de una de ellas la aparte: %1</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Añadido</translation>
+    </message>
+    <message>
+        <source>Paid</source>
+        <translation>Pagado</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>To end it, use kiv %1 update with --every none.</source>
+        <translation>Para terminar: kiv %1 update con --every none.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is reached: %2.</source>
+        <translation>La meta «%1» está alcanzada: %2.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 of %3, %4 %.</source>
+        <translation>La meta «%1» tiene %2 de %3, %4 %.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 of %3.</source>
+        <translation>La meta «%1» tiene %2 de %3.</translation>
+    </message>
+    <message>
+        <source>The debt &apos;%1&apos; is paid off.</source>
+        <translation>La deuda «%1» está pagada.</translation>
+    </message>
+    <message>
+        <source>Of the debt &apos;%1&apos; are %2 left; as it is paid now, it has no end.</source>
+        <translation>De la deuda «%1» quedan %2; tal como se paga, no tiene fin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, without interest.</source>
+        <translation>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pago, sin intereses.</numerusform>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pagos, sin intereses.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only this bank account: number, name or path (default: all)</source>
+        <translation>Solo esta cuenta bancaria: número, nombre o ruta (por defecto: todas)</translation>
+    </message>
+    <message>
+        <source>Day of the balances (default: today)</source>
+        <translation>Día de los saldos (por defecto: hoy)</translation>
+    </message>
+    <message>
+        <source>Tell each item, and why it has so much</source>
+        <translation>Mostrar cada partida y por qué tiene tanto</translation>
+    </message>
+    <message>
+        <source>Still due until %1, of what is paid monthly</source>
+        <translation>Aún vence hasta el %1, de lo que se paga cada mes</translation>
+    </message>
+    <message>
+        <source>Paid since</source>
+        <translation>Pagado desde</translation>
+    </message>
+    <message>
+        <source>No bank has an open account for which money is set aside.</source>
+        <translation>Ningún banco tiene una cuenta abierta en la que se aparte dinero.</translation>
+    </message>
+    <message>
+        <source>%1 is closed.</source>
+        <translation>%1 está cerrada.</translation>
+    </message>
+    <message>
+        <source>%1 is owed; nothing is set aside of it.</source>
+        <translation>%1 es un pasivo; no se aparta nada de ella.</translation>
+    </message>
+    <message>
+        <source>%1 has no envelopes of its own; the account above it counts its money.</source>
+        <translation>En %1 no se aparta nada; la cuenta superior cuenta su dinero.</translation>
+    </message>
+    <message>
+        <source>Show what is set aside at the bank accounts, what is free, and why</source>
+        <translation>Mostrar lo apartado en las cuentas bancarias, lo que queda libre y por qué</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
