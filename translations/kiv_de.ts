@@ -5739,7 +5739,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <translation>Es gibt zu viele Regeln; entfernen Sie erst einige.</translation>
     </message>
     <message>
-        <source>The file tells it twice.</source>
+        <source>The file has it twice.</source>
         <translation>Die Datei nennt ihn zweimal.</translation>
     </message>
     <message>
@@ -5755,8 +5755,8 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         <translation>Er wurde schon eingelesen.</translation>
     </message>
     <message>
-        <source>Another file told it already.</source>
-        <translation>Eine andere Datei nannte ihn schon.</translation>
+        <source>Another file of the account had it already.</source>
+        <translation>Eine andere Datei des Kontos enthielt ihn schon.</translation>
     </message>
     <message numerus="yes">
         <source>Entered on %1 in %n parts, which add up to it.</source>
@@ -5766,7 +5766,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
         </translation>
     </message>
     <message>
-        <source>The statement of %1 told it on %2.</source>
+        <source>The statement of %1 has it on %2.</source>
         <translation>Der Auszug von %1 nannte ihn zum %2.</translation>
     </message>
     <message>

@@ -5739,7 +5739,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <translation>Hay demasiadas reglas; quite antes algunas.</translation>
     </message>
     <message>
-        <source>The file tells it twice.</source>
+        <source>The file has it twice.</source>
         <translation>El archivo lo da dos veces.</translation>
     </message>
     <message>
@@ -5755,8 +5755,8 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         <translation>Ya se importó.</translation>
     </message>
     <message>
-        <source>Another file told it already.</source>
-        <translation>Otro archivo ya lo daba.</translation>
+        <source>Another file of the account had it already.</source>
+        <translation>Otro archivo de la cuenta ya lo daba.</translation>
     </message>
     <message numerus="yes">
         <source>Entered on %1 in %n parts, which add up to it.</source>
@@ -5766,7 +5766,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
         </translation>
     </message>
     <message>
-        <source>The statement of %1 told it on %2.</source>
+        <source>The statement of %1 has it on %2.</source>
         <translation>El extracto de %1 lo daba el %2.</translation>
     </message>
     <message>

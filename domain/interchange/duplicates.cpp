@@ -13,9 +13,6 @@ namespace {
 
 const QString opening = QStringLiteral("[id ");
 
-/// The most days between a transaction and the same one in a later statement.
-constexpr qint64 daysApart = 15;
-
 /// Where the identifier's bracket begins, at the front or behind a blank; -1 when there
 /// is none.
 qsizetype idBegin(QStringView description)
@@ -134,7 +131,7 @@ bool Duplicates::takeId(const QString &id, const QDate &day)
 {
     const auto [first, last] = m_ids.equal_range(id);
     const bool isThere = std::any_of(first, last, [&day](const auto &entry) {
-        return std::abs(entry.second.daysTo(day)) <= daysApart;
+        return std::abs(entry.second.daysTo(day)) <= sameIdDaysMax;
     });
     if (!isThere)
         m_ids.emplace(id, day);

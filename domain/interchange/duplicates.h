@@ -19,6 +19,10 @@ namespace kiv::interchange {
 /// The description without the identifier that it ends with.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT QStringView withoutBankId(QStringView description);
 
+/// The most days between a transaction and the same one in a later statement: some banks give
+/// an identifier again after longer.
+inline constexpr qint64 sameIdDaysMax = 15;
+
 /// Clears identifiers that do not identify: placeholders such as "0" or "NOTPROVIDED", and
 /// ones shared by entries that differ in day, amount or text.
 KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries);
@@ -26,9 +30,8 @@ KIV_INTERCHANGE_EXPORT void forgetSharedIds(std::vector<StatementEntry> &entries
 /// Finds out whether the ledger already has a transaction that is being imported.
 ///
 /// Where both have the bank's identifier, they are the same if the amounts are equal and
-/// the days at most fifteen days apart: some banks reuse identifiers. Otherwise day, amount
-/// and text decide. Each known transaction matches once, so two coffees on one day stay
-/// two.
+/// the days at most sameIdDaysMax apart. Otherwise day, amount and text decide. Each known
+/// transaction matches once, so two coffees on one day stay two.
 class KIV_INTERCHANGE_EXPORT Duplicates {
 public:
     /// Compares with these transactions.

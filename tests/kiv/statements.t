@@ -18,7 +18,7 @@ A statement is previewed, posted, and known again:
   > 08.01.2026;20,00;Refund
   > .
   $ mkdir -p config/kiv/import
-  $ echo '{"rules": [{"contains": "rewe", "account": "Food"}]}' >config/kiv/import/rules.json
+  $ echo '{"rules": [{"contains": "rewe", "account": "Food"}, {"contains": "none", "account": "Gone"}]}' >config/kiv/import/rules.json
   $ first() {
   >     kiv import s.csv --into Checking --against Other --profile rules \
   >         --date-format DD.MM.YYYY --decimal , --save-profile mine "$@"
@@ -85,7 +85,7 @@ A transfer that both banks tell is posted once, whatever it was for:
   New: 1; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
   $ moved 300 s9 'FROM CHECKING'
   $ kiv import moved.ofx --into Savings --against Checking --dry-run | tail -3
-      1  2026-01-12  FROM CHECKING  $300.00    matched  (15)  The statement of Checking told it on 2026-01-12.
+      1  2026-01-12  FROM CHECKING  $300.00    matched  (15)  The statement of Checking has it on 2026-01-12.
   New: 0; matched: 1; already imported: 0; left out: 0; accounts opened: 0.
   Dry run: nothing is saved.
   $ kiv import moved.ofx --into Savings --against Other --dry-run | tail -2

@@ -35,8 +35,7 @@ OtherSides::OtherSides(const StatementBooks &books, const ImportChoices &choices
             m_byPath[name].push_back(number);
     }
     for (const interchange::AccountRule &rule : choices.rules)
-        m_profileRules.emplace_back(folded(rule.contains),
-                                    m_index.find(rule.account).code().number());
+        m_profileTexts.push_back(folded(rule.contains));
     for (const auto &[key, account] : choices.memory.learned)
         m_said.insert_or_assign(key, account);
 }
@@ -75,7 +74,7 @@ OtherSides::Choice OtherSides::choose(const StatementEntry &entry)
     return given;
 }
 
-std::optional<OtherSides::Choice> OtherSides::byRule(const StatementEntry &entry) const
+std::optional<OtherSides::Choice> OtherSides::byRule(const StatementEntry &entry)
 {
     if (const auto place = m_rules.first(entry, m_books.account.number())) {
         const ImportRule &rule = m_rules.rules()[*place];
@@ -83,12 +82,18 @@ std::optional<OtherSides::Choice> OtherSides::byRule(const StatementEntry &entry
             return Choice{OtherSideBy::Rule, rule.target,
                           QObject::tr("By the rule “%1”.").arg(rule.text)};
     }
-    if (m_profileRules.empty())
-        return std::nullopt;
-    const QString text = folded(ruleText(entry));
-    for (const auto &[part, account] : m_profileRules) {
-        if (text.contains(part) && m_possible.contains(account))
-            return Choice{OtherSideBy::Rule, account, QObject::tr("By the rule “%1”.").arg(part)};
+    const QString text = m_profileTexts.empty() ? QString() : folded(ruleText(entry));
+    for (std::size_t at = 0; at < m_profileTexts.size(); ++at) {
+        if (!text.contains(m_profileTexts[at]))
+            continue;
+        // A profile serves several budgets, which need not have all of its accounts.
+        const interchange::AccountRule &rule = m_choices.rules[at];
+        auto found = m_found.find(rule.account);
+        if (found == m_found.end())
+            found = m_found.emplace(rule.account, m_index.find(rule.account).code().number()).first;
+        if (m_possible.contains(found->second))
+            return Choice{OtherSideBy::Rule, found->second,
+                          QObject::tr("By the rule “%1”.").arg(rule.contains)};
     }
     return std::nullopt;
 }

@@ -11,7 +11,7 @@ namespace kiv::workbench::internal {
 /// payee had, by the category of the file, or by the account for all others.
 class OtherSides {
 public:
-    /// Both must outlive it. Throws a Refusal for a profile's rule whose account does not exist.
+    /// Both must outlive it.
     OtherSides(const StatementBooks &books, const ImportChoices &choices);
 
     struct Choice {
@@ -21,6 +21,7 @@ public:
         bool isDoubtful = false;
         QStringList opens = {}; ///< see ImportRow
     };
+    /// Throws a Refusal if a profile's rule fits whose account does not exist.
     [[nodiscard]] Choice choose(const interchange::StatementEntry &entry);
 
     /// Whether the file says that the entry moves money from the account to itself, as other
@@ -46,7 +47,7 @@ private:
         std::vector<Former> in;
     };
 
-    [[nodiscard]] std::optional<Choice> byRule(const interchange::StatementEntry &entry) const;
+    [[nodiscard]] std::optional<Choice> byRule(const interchange::StatementEntry &entry);
     [[nodiscard]] std::optional<Choice> byFormer(const interchange::StatementEntry &entry);
     [[nodiscard]] std::optional<Choice> byCategory(const interchange::StatementEntry &entry) const;
     /// All that the account is called, folded.
@@ -60,7 +61,8 @@ private:
     const ImportChoices &m_choices;
     AccountIndex m_index;
     RuleBook m_rules;
-    std::vector<std::pair<QString, accounting::AccountNumber>> m_profileRules; ///< folded text
+    std::vector<QString> m_profileTexts;                  ///< of the profile's rules, folded
+    std::map<QString, accounting::AccountNumber> m_found; ///< of those rules that were needed
     std::set<accounting::AccountNumber> m_possible;
     std::map<QString, std::vector<accounting::AccountNumber>> m_byPath; ///< folded
     std::unordered_map<QString, accounting::AccountNumber> m_said;      ///< by payeeKey()

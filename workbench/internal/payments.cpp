@@ -65,9 +65,11 @@ bool PaymentFinder::isNearerToNext(const Item &item, const StatementEntry &entry
     return after && entry.date.daysTo(*after) < item.next.daysTo(entry.date);
 }
 
-void PaymentFinder::moveOn(Item &item)
+ImportPayment PaymentFinder::paid(Item &item)
 {
+    ImportPayment payment{{item.item->id.type, item.item->id.source, item.next}, item.item->amount};
     item.next = dateAfter(*item.item, item.next).value_or(QDate());
+    return payment;
 }
 
 std::optional<PaymentFinder::Found>
@@ -86,11 +88,8 @@ PaymentFinder::find(const StatementEntry &entry, std::optional<accounting::Accou
             words = tellingWords(ruleText(entry));
         if (other == item.item->account || holdsAll(*words, item.words)) {
             if (isSameAmount || other == item.item->account) {
-                const ImportPayment payment{{item.item->id.type, item.item->id.source, item.next},
-                                            item.item->amount};
                 const bool isDoubtful = isNearerToNext(item, entry);
-                moveOn(item);
-                return Found{payment, isDoubtful};
+                return Found{paid(item), isDoubtful};
             }
             byName.push_back(&item);
         }
@@ -99,13 +98,8 @@ PaymentFinder::find(const StatementEntry &entry, std::optional<accounting::Accou
             byAmount.push_back(&item);
     }
     for (const auto &alone : {byAmount, byName}) {
-        if (alone.size() != 1)
-            continue;
-        Item &item = *alone.front();
-        const ImportPayment payment{{item.item->id.type, item.item->id.source, item.next},
-                                    item.item->amount};
-        moveOn(item);
-        return Found{payment, true};
+        if (alone.size() == 1)
+            return Found{paid(*alone.front()), true};
     }
     return std::nullopt;
 }

@@ -36,7 +36,8 @@ private:
     [[nodiscard]] static bool canPay(const Item &item, const interchange::StatementEntry &entry);
     [[nodiscard]] static bool isNearerToNext(const Item &item,
                                              const interchange::StatementEntry &entry);
-    void moveOn(Item &item);
+    /// The payment of what is due; the item moves on to its next date.
+    [[nodiscard]] static ImportPayment paid(Item &item);
 
     std::vector<Item> m_items;
 };

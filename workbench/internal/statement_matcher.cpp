@@ -5,6 +5,8 @@
 #include "workbench/entry/folded.h"
 #include "workbench/statements/import_rules.h"
 
+#include "interchange/duplicates.h"
+
 #include <algorithm>
 #include <deque>
 
@@ -15,8 +17,6 @@ using interchange::StatementEntry;
 
 namespace {
 
-/// Banks give identifiers again, but not within so many days.
-constexpr qint64 sameIdDays = 15;
 /// How many bank days later than it was entered a payment may be booked, or earlier. What
 /// recurs weekly is five apart, and must not be taken for the one before. Between two banks
 /// money takes three at most.
@@ -51,7 +51,11 @@ QString contentOf(const LedgerLine &line)
 
 StatementMatcher::StatementMatcher(const StatementBooks &books,
                                    const std::vector<StatementEntry> &entries)
-    : m_entries(entries), m_lines(books), m_matches(entries.size()), m_places(entries.size())
+    : m_entries(entries),
+      m_lines(books),
+      m_matches(entries.size()),
+      m_places(entries.size()),
+      m_words(entries.size())
 {
     for (std::size_t place = 0; place < m_lines.size(); ++place)
         m_byNumber.emplace(m_lines.at(place).number(), place);
@@ -86,7 +90,7 @@ std::vector<std::size_t> StatementMatcher::toldAs(const StatementEntry &entry) c
     Places places = m_lines.toldAs(entry.bankId);
     std::erase_if(places, [&](std::size_t place) {
         const LedgerLine &line = m_lines.at(place);
-        return !line.isFree || std::abs(line.day.daysTo(entry.date)) > sameIdDays;
+        return !line.isFree || std::abs(line.day.daysTo(entry.date)) > interchange::sameIdDaysMax;
     });
     return places;
 }
@@ -172,9 +176,11 @@ bool StatementMatcher::fits(std::size_t entry, std::size_t place) const
 
 bool StatementMatcher::sharesWord(std::size_t entry, std::size_t place)
 {
-    const QStringList words = tellingWords(ruleText(m_entries[entry]));
+    std::optional<QStringList> &words = m_words[entry];
+    if (!words)
+        words = tellingWords(ruleText(m_entries[entry]));
     return std::ranges::any_of(m_lines.words(place),
-                               [&words](const QString &word) { return words.contains(word); });
+                               [&words](const QString &word) { return words->contains(word); });
 }
 
 std::vector<std::size_t> StatementMatcher::unmatched() const

@@ -54,7 +54,8 @@ private:
     const std::vector<interchange::StatementEntry> &m_entries;
     LedgerLines m_lines;
     std::vector<std::optional<ImportMatch>> m_matches;
-    std::vector<Places> m_places; ///< of the lines of each match
+    std::vector<Places> m_places;                    ///< of the lines of each match
+    std::vector<std::optional<QStringList>> m_words; ///< telling ones of each entry, once asked for
     std::map<accounting::TransactionNumber, std::size_t> m_byNumber;
     std::unordered_map<std::size_t, std::size_t> m_takenBy; ///< entries, by place of a line
 };

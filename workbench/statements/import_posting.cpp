@@ -201,7 +201,7 @@ std::optional<QString> internal::PreviewParts::named(const ImportRow &row,
         const bool isDebit = line.transaction->debiting().number() == m_books.account.number();
         said.bankIds.insert(isDebit ? 0 : said.bankIds.size(), row.entry.bankId);
     } else if (isMadeUp(line.toldAs) && !isMadeUp(row.entry.bankId)) {
-        said.bankIds.replaceInStrings(line.toldAs, row.entry.bankId);
+        std::ranges::replace(said.bankIds, line.toldAs, row.entry.bankId);
     } else {
         return std::nullopt;
     }

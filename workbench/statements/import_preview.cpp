@@ -5,6 +5,7 @@
 #include "workbench/internal/preview_parts.h"
 
 #include "foundation/presentation.h"
+#include "interchange/duplicates.h"
 
 #include <QtCore/QObject>
 
@@ -19,9 +20,6 @@ using foundation::presentationText;
 using State = ImportRow::State;
 
 namespace {
-
-/// Banks give identifiers again, but not within so many days.
-constexpr qint64 sameIdDays = 15;
 
 interchange::Statement identified(interchange::Statement statement, const StatementBooks &books)
 {
@@ -82,7 +80,7 @@ void internal::PreviewParts::leaveOut()
         const auto [first, last] = told.equal_range(entry.bankId);
         const bool isTwice = std::any_of(first, last, [&entry](const auto &one) {
             return one.second->amount == entry.amount &&
-                   std::abs(one.second->date.daysTo(entry.date)) <= sameIdDays;
+                   std::abs(one.second->date.daysTo(entry.date)) <= interchange::sameIdDaysMax;
         });
         if (entry.amount.isZero())
             row.reason = QObject::tr("Entries with amount zero are skipped.");
@@ -91,7 +89,7 @@ void internal::PreviewParts::leaveOut()
                 QObject::tr("Entries from '%1' to itself are skipped, such as an opening balance.")
                     .arg(m_others.index().plainPath(m_books.account.number()));
         else if (isTwice)
-            row.reason = QObject::tr("The file tells it twice.");
+            row.reason = QObject::tr("The file has it twice.");
         told.emplace(entry.bankId, &m_statement.entries[at]);
         if (row.reason.isEmpty())
             continue;
@@ -212,7 +210,7 @@ QString internal::PreviewParts::reasonOf(const ImportRow &row, const ImportMeani
     case MatchGrounds::Identifier:
         return QObject::tr("It was imported before.");
     case MatchGrounds::Told:
-        return QObject::tr("Another file told it already.");
+        return QObject::tr("Another file of the account had it already.");
     default:
         break;
     }
@@ -224,7 +222,7 @@ QString internal::PreviewParts::reasonOf(const ImportRow &row, const ImportMeani
         const AccountNumber debit = line.transaction->debiting().number();
         const AccountNumber other =
             debit == m_books.account.number() ? line.transaction->crediting().number() : debit;
-        return QObject::tr("The statement of %1 told it on %2.")
+        return QObject::tr("The statement of %1 has it on %2.")
             .arg(m_others.index().plainName(other), day);
     }
     return match.isOneOfSeveral

@@ -19,7 +19,7 @@ public:
     using Choices = ImportChoices;
 
     /// Throws ImportError for an entry in another currency than the account's, and a Refusal
-    /// for a profile's rule whose account does not exist.
+    /// for a profile's rule that fits and whose account does not exist.
     ImportPreview(interchange::Statement statement, StatementBooks books, Choices choices);
     ~ImportPreview();
     ImportPreview(ImportPreview &&) noexcept;
