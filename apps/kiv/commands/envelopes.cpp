@@ -4,7 +4,7 @@
 
 #include "output/json.h"
 
-#include "workbench/requests/item_figures.h"
+#include "workbench/requests/item_outlook.h"
 #include "workbench/surveys/set_aside_text.h"
 
 #include "foundation/presentation.h"
@@ -15,6 +15,7 @@ using budgeting::BudgetItemIdentifier;
 using foundation::presentationText;
 using storage::BudgetStorage;
 using workbench::Envelopes;
+using workbench::ItemOutlook;
 using workbench::SetAside;
 using workbench::SetAsideLine;
 
@@ -133,88 +134,47 @@ void addLines(Report &report, const QJsonObject &account, const QString &title)
 
 // ---- goals and debts -----------------------------------------------------------
 
-QJsonObject progressJson(const budgeting::BudgetedMoney &item,
-                         const workbench::ItemProgress &progress)
+QJsonObject outlookJson(const ItemOutlook &outlook)
 {
-    QJsonObject json = itemJson(identify(item));
+    QJsonObject json = itemJson(outlook.item);
+    const workbench::ItemProgress &progress = outlook.progress;
     json.insert(QStringLiteral("amount"), toJson(progress.part));
     json.insert(QStringLiteral("of"), toJson(progress.whole));
     json.insert(QStringLiteral("percent"),
                 progress.percent ? QJsonValue(*progress.percent) : QJsonValue());
+    json.insert(QStringLiteral("reached"), outlook.isEnded);
+    if (outlook.item.type == budgeting::BudgetItemTypes::Goal)
+        return json;
+    const std::optional<workbench::PayOff> &payOff = outlook.payOff;
+    json.insert(QStringLiteral("payments"), payOff ? QJsonValue(payOff->payments) : QJsonValue());
+    json.insert(QStringLiteral("paidOffOn"), payOff ? toJson(payOff->on) : QJsonValue());
     return json;
 }
 
-/// The sentence about a goal or a debt that has come to its end.
-QString endedText(const budgeting::BudgetedMoney &item, const QString &sentence)
+QString outlookText(const ItemOutlook &outlook)
 {
-    if (item.period() == budgeting::EventFrequency::None)
-        return sentence;
-    return sentence + u' ' +
+    if (!outlook.shouldEnd())
+        return outlook.sentence;
+    return outlook.sentence + u' ' +
            QObject::tr("To end it, use kiv %1 update with --every none.")
-               .arg(kindWord(budgeting::toBudgetItemTypes(item)));
+               .arg(kindWord(outlook.item.type));
 }
 
-QString goalText(const budgeting::Goal &goal, const workbench::ItemProgress &progress,
-                 navigation::CurrencyDisplayOptions displayAs)
-{
-    const QString name = goal.source().name();
-    const QString part = amountText(toJson(progress.part), displayAs);
-    if (progress.isReached())
-        return endedText(goal, QObject::tr("The goal '%1' is reached: %2.").arg(name, part));
-    const QString whole = amountText(toJson(progress.whole), displayAs);
-    return progress.percent ? QObject::tr("The goal '%1' has %2 of %3, %4 %.")
-                                  .arg(name, part, whole, QString::number(*progress.percent))
-                            : QObject::tr("The goal '%1' has %2 of %3.").arg(name, part, whole);
-}
-
-QString debtText(const budgeting::Debt &debt, const workbench::ItemProgress &progress,
-                 const std::optional<workbench::PayOff> &payOff,
-                 navigation::CurrencyDisplayOptions displayAs)
-{
-    const QString name = debt.source().name();
-    if (!progress.part.isPositive())
-        return endedText(debt, QObject::tr("The debt '%1' is paid off.").arg(name));
-    const QString part = amountText(toJson(progress.part), displayAs);
-    if (!payOff) {
-        return QObject::tr("Of the debt '%1' are %2 left; as it is paid now, it has no end.")
-            .arg(name, part);
-    }
-    return QObject::tr("Of the debt '%1' are %2 left: paid off on %3, after %n payments, without "
-                       "interest.",
-                       nullptr, payOff->payments)
-        .arg(name, part, presentationText(payOff->on));
-}
-
-struct Outlook {
+struct Outlooks {
     QJsonArray goals;
     QJsonArray debts;
     QStringList sentences;
 };
 
-Outlook outlookOf(const BudgetStorage::Data &data, navigation::CurrencyDisplayOptions displayAs)
+Outlooks outlooksOf(const BudgetStorage::Data &data, navigation::CurrencyDisplayOptions displayAs)
 {
-    Outlook outlook;
-    for (const auto &[source, goal] : data.budget.goals) {
-        if (const auto progress = workbench::progressOf(data, goal)) {
-            QJsonObject json = progressJson(goal, *progress);
-            json.insert(QStringLiteral("reached"), progress->isReached());
-            outlook.goals.append(json);
-            outlook.sentences += goalText(goal, *progress, displayAs);
-        }
+    Outlooks all;
+    for (const ItemOutlook &outlook : workbench::outlooksOf(data, displayAs)) {
+        const bool isGoal = outlook.item.type == budgeting::BudgetItemTypes::Goal;
+        (isGoal ? all.goals : all.debts).append(outlookJson(outlook));
+        all.sentences += outlookText(outlook);
     }
-    for (const auto &[source, debt] : data.budget.debts) {
-        if (const auto progress = workbench::progressOf(data, debt)) {
-            const auto payOff = workbench::payOffOf(data, debt);
-            QJsonObject json = progressJson(debt, *progress);
-            json.insert(QStringLiteral("reached"), !progress->part.isPositive());
-            json.insert(QStringLiteral("payments"),
-                        payOff ? QJsonValue(payOff->payments) : QJsonValue());
-            json.insert(QStringLiteral("paidOffOn"), payOff ? toJson(payOff->on) : QJsonValue());
-            outlook.debts.append(json);
-            outlook.sentences += debtText(debt, *progress, payOff, displayAs);
-        }
-    }
-    return outlook;
+    return all;
 }
 
 // ---- the command ---------------------------------------------------------------
@@ -242,7 +202,7 @@ struct ShowEnvelopes {
         QStringList notices = sharedNoticesOf(all, data.generalLedger, displayAs);
         if (account)
             notices = keepOne(call.requests, *index, all, data, displayAs);
-        const Outlook outlook = account ? Outlook() : outlookOf(data, displayAs);
+        const Outlooks outlook = account ? Outlooks() : outlooksOf(data, displayAs);
 
         QJsonArray rows;
         QStringList told;
