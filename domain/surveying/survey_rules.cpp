@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surveying/survey_rules.h"
 
+#include "accounting/balances.h"
 #include "foundation/dates.h"
 
 #include <QtCore/QDebug>
@@ -76,6 +77,16 @@ std::vector<BudgetItemAmountDue> monthlyPaymentsDue(QDate date, const budgeting:
                item->period() != budgeting::EventFrequency::Monthly;
     });
     return due;
+}
+
+bool agrees(const numira::Money &calculated, const foundation::Percentage &window,
+            const numira::Money &statement)
+{
+    // A part of zero is zero, so there the window is one major unit.
+    const numira::Money unit(calculated.code(), 1, 0);
+    return statement == 0 ? -unit < calculated && calculated < unit
+                          : accounting::isWithinWindow(calculated, window, statement,
+                                                       accounting::ByMajorUnit(true));
 }
 
 } // namespace kiv::surveying

@@ -6,6 +6,7 @@
 #include "accounting/general_ledger.h"
 #include "budgeting/budget.h"
 #include "budgeting/due.h"
+#include "foundation/percentage.h"
 
 /// The rules by which a survey proposes what to set aside.
 namespace kiv::surveying {
@@ -30,5 +31,12 @@ otherHolders(const budgeting::BudgetItemIdentifier &item, const banking::BankAcc
 /// `date` still has after it, in the order of budgetItemsDue().
 [[nodiscard]] KIV_SURVEYING_EXPORT std::vector<budgeting::BudgetItemAmountDue>
 monthlyPaymentsDue(QDate date, const budgeting::Budget &budget, QDate today);
+
+/// Whether a survey accepts the balance of a statement: what the books come to differs from it
+/// by at most the window, or from a balance of zero by less than one major unit. Throws what a
+/// missing exchange rate throws.
+[[nodiscard]] KIV_SURVEYING_EXPORT bool agrees(const numira::Money &calculated,
+                                               const foundation::Percentage &window,
+                                               const numira::Money &statement);
 
 } // namespace kiv::surveying

@@ -8,6 +8,7 @@
 #include "accounting/balances.h"
 #include "foundation/presentation.h"
 #include "surveying/distributable.h"
+#include "surveying/survey_rules.h"
 
 namespace kiv::navigation::internal {
 namespace {
@@ -95,12 +96,7 @@ void apply(const surveying::IndexedIncreaseDecreases<Key> &changes, Money &balan
 void checkBalance(const BankAccount &account, const Money &calculated, const Money &balance,
                   const foundation::Percentage &window)
 {
-    // A part of zero is zero, so there the window is one major unit.
-    const Money unit(calculated.code(), 1, 0);
-    const bool fits = balance == 0 ? -unit < calculated && calculated < unit
-                                   : accounting::isWithinWindow(calculated, window, balance,
-                                                                accounting::ByMajorUnit(true));
-    if (!fits)
+    if (!surveying::agrees(calculated, window, balance))
         throw faults::balanceOutsideWindow(account, calculated, window, balance);
 }
 

@@ -63,6 +63,47 @@ ImportError otherCurrency(const Place &place, const numira::Currency &found,
                 .arg(foundation::presentationText(found), foundation::presentationText(wanted))};
 }
 
+Refusal neverReconciled(const QString &account)
+{
+    return Refusal(QObject::tr("%1 was never reconciled.").arg(account));
+}
+
+Refusal statementOlder(const QString &account, QDate day, QDate last)
+{
+    return Refusal(
+        QObject::tr("%1 was reconciled on %2 already; the statement of %3 is older.")
+            .arg(account, foundation::presentationText(last), foundation::presentationText(day)));
+}
+
+Refusal differenceNotAccepted()
+{
+    return Refusal(QObject::tr("The books differ from the statement; find what differs, or say "
+                               "that the difference may stay."));
+}
+
+EntryError notOnSheet(const QString &numbers)
+{
+    return EntryError(QObject::tr("There is no transaction %1 on the sheet.").arg(numbers));
+}
+
+EntryError notTicks(const QString &text)
+{
+    return EntryError(QObject::tr("'%1' is not a list of transactions; write one like 1-5,9, "
+                                  "'all', 'all but 3' or 'none'.")
+                          .arg(text));
+}
+
+Refusal fileOfOtherAccount(const QString &file, const QString &account)
+{
+    return Refusal(
+        QObject::tr("'%1' is a statement of another account than %2.").arg(file, account));
+}
+
+Refusal sheetTooLarge()
+{
+    return Refusal(QObject::tr("The survey has too many ticks to be put off."));
+}
+
 EntryError emptyRule()
 {
     return EntryError(QObject::tr("A rule needs a text that entries contain."));

@@ -50,6 +50,18 @@ namespace kiv::workbench::internal {
                                                      const numira::Currency &found,
                                                      const numira::Currency &wanted);
 
+// ---- surveys ---------------------------------------------------------------------
+
+[[nodiscard]] Refusal neverReconciled(const QString &account);
+/// `last` is the day of the last statement.
+[[nodiscard]] Refusal statementOlder(const QString &account, QDate day, QDate last);
+[[nodiscard]] Refusal differenceNotAccepted();
+/// Numbers that are not on the sheet: "9".
+[[nodiscard]] EntryError notOnSheet(const QString &numbers);
+[[nodiscard]] EntryError notTicks(const QString &text);
+[[nodiscard]] Refusal sheetTooLarge();
+[[nodiscard]] Refusal fileOfOtherAccount(const QString &file, const QString &account);
+
 // ---- rules of imports ---------------------------------------------------------
 
 [[nodiscard]] EntryError emptyRule();

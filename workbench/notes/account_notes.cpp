@@ -2,6 +2,7 @@
 #include "workbench/notes/account_notes.h"
 
 #include "workbench/statements/import_memory.h"
+#include "workbench/surveys/survey_notes.h"
 
 #include "accounting/recoded_accounts.h"
 
@@ -26,7 +27,9 @@ storage::Notes notesAfter(const storage::Notes &notes, const accounting::General
     };
     ImportMemory memory = ImportMemory::of(notes);
     memory.renumber(numberNow);
-    return memory.keptIn(notes);
+    SurveyNotes surveys = SurveyNotes::of(notes);
+    surveys.renumber(numberNow);
+    return surveys.keptIn(memory.keptIn(notes));
 }
 
 } // namespace kiv::workbench

@@ -3,6 +3,7 @@
 
 #include "workbench/entry/account_index.h"
 #include "workbench/requests/exchange_rates.h"
+#include "workbench/surveys/survey_notes.h"
 
 #include "foundation/presentation.h"
 
@@ -123,6 +124,11 @@ std::vector<Care> neededCare(Document &document, QDate today)
                        std::nullopt});
     const BudgetStorage::Data data = document.present();
     addBroken(document, all);
+    for (const BooksDifference &one : booksDifferences(data, document.keptReconciliations(),
+                                                       SurveyNotes::of(document.notes()).counted))
+        all.push_back({About::Difference,
+                       one.sentence(data.generalLedger, document.requests().displayAs()),
+                       one.account.account.number});
     addMissingRates(document.requests(), data, all);
     addLongNotReconciled(data, today, all);
     addHealth(document.requests(), all);

@@ -13,6 +13,7 @@ struct Care {
     enum class About : std::uint8_t {
         File = 1,          ///< it is not saved
         Reconciliation,    ///< it no longer holds; of the account
+        Difference,        ///< between the books of the account and its bank
         LongNotReconciled, ///< the account
         Rates,             ///< missing ones
         Health             ///< of the budget

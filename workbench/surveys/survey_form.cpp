@@ -6,6 +6,8 @@
 #include "workbench/internal/faults.h"
 #include "workbench/requests/budget_view.h"
 
+#include "foundation/clock.h"
+
 namespace kiv::workbench {
 
 using accounting::AccountNumber;
@@ -87,6 +89,19 @@ SurveyForm SurveyForm::propose(Requests &requests, const QString &bank, const QS
     return form;
 }
 
+SurveyForm SurveyForm::drop(Requests &requests, const QString &bank, const QString &account)
+{
+    SurveyForm form = propose(requests, bank, account, foundation::today());
+    const banking::ReconciledBankAccount &last = form.proposal.reconciled();
+    if (!last.reconciledOn())
+        throw internal::neverReconciled(requests.accounts().plainName(form.account.account.number));
+    form.date = *last.reconciledOn();
+    form.balance = form.nonDistributed = last.balance();
+    form.reconciled.clear();
+    form.distribution.clear();
+    return form;
+}
+
 void SurveyForm::addItem(Requests &requests, const QString &text)
 {
     const Assignment read = readAssignment(text);
@@ -144,6 +159,8 @@ std::vector<accounting::Transaction> SurveyForm::transactions() const
     };
     collect(proposal.budgetItemChanges());
     collect(proposal.accountChanges());
+    for (const accounting::Transaction &one : elsewhere)
+        ordered.emplace(std::pair(one.occurredOn(), one.number().value()), one);
     std::vector<accounting::Transaction> all;
     for (auto &[place, transaction] : ordered)
         all.push_back(std::move(transaction));
@@ -158,6 +175,15 @@ numira::Money SurveyForm::changeBy(const accounting::Transaction &transaction) c
     const bool isDebited = debit == number || (credit != number && accounts.contains(debit));
     const numira::Money &amount = transaction.amountFor(isDebited ? debit : credit);
     return isDebited == isOwed() ? -amount : amount;
+}
+
+AccountNumber SurveyForm::otherOf(const accounting::Transaction &transaction) const
+{
+    const AccountNumber debit = transaction.debiting().number();
+    const AccountNumber credit = transaction.crediting().number();
+    if (credit == account.account.number)
+        return debit;
+    return accounts.contains(debit) ? credit : debit;
 }
 
 bool SurveyForm::isWithin(const accounting::Transaction &transaction) const

@@ -16,6 +16,9 @@ struct KIV_WORKBENCH_EXPORT SurveyForm {
     std::set<accounting::AccountNumber> accounts;
     QDate date;                        ///< of the statement
     surveying::MappingSurvey proposal; ///< the Navigator's
+    /// What the proposal lacks since a survey of another account reconciled it, see
+    /// reconciledElsewhere().
+    std::vector<accounting::Transaction> elsewhere;
 
     numira::Money balance; ///< of the statement
     /// The transactions on the statement.
@@ -32,6 +35,11 @@ struct KIV_WORKBENCH_EXPORT SurveyForm {
     /// the bank or its account does not exist, and what the slot throws.
     [[nodiscard]] static SurveyForm propose(Requests &requests, const QString &bank,
                                             const QString &account, QDate date);
+    /// Sets nothing aside at the account any more: its last statement once more, without
+    /// ticks and with an empty distribution. The account may be closed. Throws a Refusal if it
+    /// was never reconciled.
+    [[nodiscard]] static SurveyForm drop(Requests &requests, const QString &bank,
+                                         const QString &account);
     /// Adds unbooked money of an item: "Rent=-20.00", or "bill:Rent=-20.00" if several
     /// items have the name.
     void addItem(Requests &requests, const QString &text);
@@ -48,11 +56,14 @@ struct KIV_WORKBENCH_EXPORT SurveyForm {
     /// Whether the balance is a debt, as of a credit card. Nothing can be set aside of
     /// it.
     [[nodiscard]] bool isOwed() const;
-    /// The transactions of the proposal, by day and number.
+    /// The transactions of the proposal, and those it lacks, by day and number.
     [[nodiscard]] std::vector<accounting::Transaction> transactions() const;
     /// What the transaction does to the balance of the surveyed account; if it only touches
     /// accounts under that one, to theirs.
     [[nodiscard]] numira::Money changeBy(const accounting::Transaction &transaction) const;
+    /// The account at the other side of the surveyed ones.
+    [[nodiscard]] accounting::AccountNumber
+    otherOf(const accounting::Transaction &transaction) const;
     /// Whether it moves money among the surveyed accounts: the statement's balance stays.
     [[nodiscard]] bool isWithin(const accounting::Transaction &transaction) const;
     /// What the balance of the statement has beyond the last one, the ticked transactions of

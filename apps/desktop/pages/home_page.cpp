@@ -43,6 +43,7 @@ Place placeOf(const Care &care)
     switch (care.about) {
     case Care::About::Reconciliation:
         return {QStringLiteral("register"), care.account ? keyOf(*care.account) : QString()};
+    case Care::About::Difference:
     case Care::About::LongNotReconciled:
         return {QStringLiteral("survey"), care.account ? keyOf(*care.account) : QString()};
     case Care::About::Rates:

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/statements/import_reading.h"
+#include "workbench/surveys/survey_sheet.h"
+
+namespace kiv::workbench {
+
+/// What a bank's file says for a sheet.
+struct KIV_WORKBENCH_EXPORT SheetStatement {
+    QDate day; ///< of the balance, or of the last entry; invalid if the file has neither
+    std::optional<numira::Money> balance;         ///< in the account's terms, if the file has it
+    std::set<accounting::TransactionNumber> seen; ///< transactions that are in the file
+    /// Entries that the books lack: import them first, or they are missing.
+    std::vector<interchange::StatementEntry> unknown;
+    QStringList notices; ///< sentences about the file
+
+    /// Fills in the balance, and ticks exactly what is in the file.
+    void layOn(SurveySheet &sheet) const;
+    /// "3 entries of the file are not in the books: …"; empty if all are.
+    [[nodiscard]] QString unknownText(navigation::CurrencyDisplayOptions displayAs) const;
+};
+
+/// Reads the file for the account. Throws an ImportError for what cannot be read, and a Refusal
+/// if the file is of another account.
+[[nodiscard]] KIV_WORKBENCH_EXPORT SheetStatement readForSheet(Document &document,
+                                                               const banking::BankAccount &account,
+                                                               ImportSource source);
+
+} // namespace kiv::workbench
