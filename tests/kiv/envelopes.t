@@ -117,7 +117,7 @@ More than there is, and what no line shows:
 
   $ kiv bill add Insurance '120 USD' --every yearly --next 2026-12-01 >/dev/null
   $ kiv survey complete First Savings --date 2026-05-03 --balance 50 --tick-all \
-  >     --distribute Tax=0 --distribute Car=0 --distribute Insurance=70
+  >     --distribute Tax=5 --distribute Car=0 --distribute Insurance=70
   Reconciled 10 Savings at First with a balance of $50.00.
   $ kiv envelopes Savings --on 2026-05-03
   Account  Balance  Set aside     Free  Paid since  Last reconciled
@@ -127,14 +127,14 @@ More than there is, and what no line shows:
   2026-03-28  Rent  bill  $900.00
   2026-04-10  Trip  goal  $100.00
   At Savings, $20.00 more is set aside than there is.
-  $0.00 is set aside for 'Tax' at Savings and also at another account, so no line shows it.
+  $5.00 is set aside for 'Tax' at Savings and also at another account, so no line shows it.
+  Several accounts have a line for the same item, until a survey of one of them sets it aside: Car
   $ kiv transfer Savings Checking 50 --date 2026-05-03 >/dev/null
   $ kiv account close Savings >/dev/null
   $ kiv envelopes Savings
   Savings is closed.
   $70.00 is set aside for 'Insurance' at Savings, which is closed.
-  $0.00 is set aside for 'Tax' at Savings, which is closed.
-  $0.00 is set aside for 'Car' at Savings, which is closed.
+  $5.00 is set aside for 'Tax' at Savings, which is closed.
   $ each 0 <<'.'
   > envelopes Card
   > envelopes Trip
@@ -150,7 +150,7 @@ What has no exchange rate is named and left out; all else adds up:
   $ kiv bill add Hotel '500 EUR' --every yearly --next 2026-08-01 >/dev/null
   $ kiv envelopes Checking --on 2026-05-02
   Account     Balance  Set aside       Free  Paid since  Last reconciled
-  Checking  $6,982.50    $300.00  $6,682.50       $0.00  2026-04-30
+  Checking  $6,982.50    $300.00  $6,682.50   $1,025.00  2026-04-30
   Still due until 2026-05-31, of what is paid monthly
   Due         Item  Kind   Amount
   2026-03-28  Rent  bill  $900.00
@@ -161,4 +161,4 @@ What has no exchange rate is named and left out; all else adds up:
   >     .accounts[] | [.account, (.balance | cents) - (.free | cents) - ([.lines[].counted |
   >     select(.) | cents] | add // 0), (.lines[] | ([.parts[].amount | cents] | add) -
   >     (.now | cents), .handedOver)]'
-  [1,0,0,true,0,true]
+  [1,0,0,true,0,false,0,true]

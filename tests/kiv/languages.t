@@ -153,13 +153,13 @@ A file is read alike everywhere, so in it the locale's forms are refused:
 Questions are answered in the user's letters:
 
   $ for answer in C:y de_DE:j es_ES:s; do
-  >   printf '%s\n1234.56\n\n\n\ny\n' "${answer#*:}" |
+  >   printf '1234.56\n\n\n%s\n' "${answer#*:}" |
   >     as LC_ALL=${answer%:*}.UTF-8 survey run First Checking --date 2026-02-01 --dry-run 2>&1 |
   >     grep -o '\[./n\]' | head -1
   > done
-  [y/n]
-  [j/n]
-  [s/n]
+  [Y/n]
+  [J/n]
+  [S/n]
 
 A description is written once, in the language of who posts:
 

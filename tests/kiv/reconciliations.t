@@ -34,6 +34,7 @@ A change that breaks one is told, once; then each command tells it.
   kiv: warning: 1 Checking is not as it was reconciled: #2, $1,250.00, was removed after the survey of 2026-01-31. See kiv reconciliations.
   Number  Account            Balance
        1  Assets:Checking  $5,600.00    not as reconciled
+  The books of Checking are $1,250.00 above the bank since 2026-02-28.
   $ kiv reconciliations
   kiv: warning: 1 Checking is not as it was reconciled: #2, $1,250.00, was removed after the survey of 2026-01-31. See kiv reconciliations.
   Bank   Account          Day of the statement    Balance  Transactions

@@ -68,11 +68,15 @@ An edited document completes a survey. What went to the goal stays in the family
   Other changes
   Account                        Transaction  Date        Description     Change
   Opening Balances USD [Equity]            1  2026-01-01               $2,500.00
-  Proposed distribution
-  Item  Kind  Set aside  Expected  Next
-  Tax   bill     $30.00   $360.00  2026-07-01
-  Trip  goal     $75.00   $900.00  2026-02-01
-  Not distributed  $4,245.00
+  Set aside
+  Item  Before   Added   Paid     Now  Proposed  Expected  Next
+  Tax    $0.00  $30.00  $0.00  $30.00    $30.00   $360.00  2026-07-01
+  Trip   $0.00  $75.00  $0.00  $75.00    $75.00   $900.00  2026-02-01
+  Tax: $360.00 yearly = $30.00 a month, 1 month
+  Trip: put into its account: #5
+  Free  $4,245.00
+  Still due in January 2026, of what is paid monthly
+  Nothing is due.
   $ kiv survey show First Checking --date 2026-01-31 --json >shown.json
   $ jq -c '.reconciledOn, .itemChanges[0], .accountChanges[0], .distribution[0]' shown.json
   null
@@ -86,7 +90,26 @@ An edited document completes a survey. What went to the goal stays in the family
   kiv: The budget item Rent (bill) cannot be distributed.
   [1]
   $ kiv survey complete --from - --tick 1 --dry-run <survey.json
-  kiv: The calculated budget item transaction total, '$2,480.50', must be within 2.75 % of the reconciled current balance, '$4,330.50'.
+  Calculated  $2,480.50
+  Statement   $4,330.50
+  Difference  $1,850.00
+  The books are $1,850.00 below the bank (42.72 %), outside the window of 2.75 %: the survey is refused.
+  #4 of 2026-01-28, Processed the budget item due on Sun Jan 25 2026. (Salary), $3,100.00, and #3 of 2026-01-31, Processed the budget item due on Sat Jan 31 2026. (Rent), -$1,250.00, are not ticked and add up to it.
+  To be posted, of 2026-01-31
+  Item or account                 Change
+  Rent                           -$20.00
+  Opening Balances USD [Equity]    $0.50
+  Set aside
+  Item  Before   Added   Paid     Now  Proposed  Expected  Next
+  Tax    $0.00  $30.00  $0.00  $30.00    $30.00   $360.00  2026-07-01
+  Trip   $0.00  $75.00  $0.00  $75.00    $75.00   $900.00  2026-02-01
+  Tax: $360.00 yearly = $30.00 a month, 1 month
+  Trip: put into its account: #5
+  Free  $4,225.50
+  Still due in January 2026, of what is paid monthly
+  Nothing is due.
+  Dry run: nothing is saved.
+  This stood on standard output.
   [1]
   $ kiv survey complete --from survey.json
   Reconciled 1 Checking at First with a balance of $4,330.50.
@@ -130,7 +153,11 @@ Its last survey follows an account to the kind that is right, and the next one s
   [["Tax","60.00"],["Trip","75.00"]]
   $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
   Reconciled 1 Checking at First with a balance of $4,330.00.
-  $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}]' survey.json >nil.json
+  $ kiv survey complete --from survey.json
+  kiv: Checking was reconciled on 2026-02-15 already; the statement of 2026-01-31 is older.
+  [1]
+  $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}] | .date = "2026-02-15"' \
+  >     survey.json >nil.json
   $ kiv survey complete --from nil.json
   kiv: There is no bill 'Nil'; see kiv bill list.
   [1]
@@ -140,32 +167,33 @@ And so do answers, asked for until they can be understood:
   $ january
   $ run() {
   >     (kiv survey run First "$1" --date 2026-01-31 2>&1 >tables; echo "[$?]") |
-  >         sed 's/\(n]\|continue)\|statement\): /\1:\n/g'
+  >         sed 's/\(n]\|)\): /\1:\n/g'
   > }
   $ run Checking </dev/null
-  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
+  Balance of the statement (empty: $4,350.00):
   kiv: The input ended before the last question; nothing is saved.
   [1]
-  $ printf '%s\n' n y y y 4350 '' '' '' n | run Checking | tail -2
+  $ printf '%s\n' '' '' '' n n | run Checking | tail -2
   kiv: The survey was not completed; nothing is saved.
   [1]
-  $ printf '%s\n' yes y y y y 433O 4330.00 Nobody=1 Rent=-20 '' '' '' y | run Checking
-  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
-  kiv: 'yes' is not one of: y, n.
-  Is transaction 1 of 2026-01-01, '', $2,500.00, on the statement? [y/n]:
-  Is transaction 3 of 2026-01-31, 'Processed the budget item due on Sat Jan 31 2026.', -$1,250.00, on the statement? [y/n]:
-  Is transaction 4 of 2026-01-28, 'Processed the budget item due on Sun Jan 25 2026.', $3,100.00, on the statement? [y/n]:
-  Is transaction 5 of 2026-01-29, 'Processed unexpected budget item 'Trip'.', -$75.00, on the statement? [y/n]:
-  Balance of the statement:
+  $ printf '%s\n' 433O 4330.00 yes 'all but 9' ask '' '' '' '' Nobody=1 Rent '' y | run Checking
+  Balance of the statement (empty: $4,350.00):
   kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
-  Balance of the statement:
-  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
-  kiv: There is no budget item 'Nobody'; see kiv bill list (or debt, goal, nontrack, wage).
-  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
-  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
-  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
+  Balance of the statement (empty: $4,350.00):
+  Which are on the statement? 1-5,9, 'all but 3', 'none', 'ask' (empty: all):
+  kiv: 'yes' is not a list of transactions; write one like 1-5,9, 'all', 'all but 3' or 'none'.
+  Which are on the statement? 1-5,9, 'all but 3', 'none', 'ask' (empty: all):
+  kiv: There is no transaction 9 on the sheet.
+  Which are on the statement? 1-5,9, 'all but 3', 'none', 'ask' (empty: all):
+  #1 of 2026-01-01, Opening Balances USD [Equity], $2,500.00: is it on the statement? [Y/n]:
+  #4 of 2026-01-28, Processed the budget item due on Sun Jan 25 2026. (Salary), $3,100.00: is it on the statement? [Y/n]:
+  #5 of 2026-01-29, Processed unexpected budget item 'Trip'. (Trip), -$75.00: is it on the statement? [Y/n]:
+  #3 of 2026-01-31, Processed the budget item due on Sat Jan 31 2026. (Rent), -$1,250.00: is it on the statement? [Y/n]:
+  What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
+  kiv: There is no account 'Nobody'; see kiv accounts.
+  What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
   Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
-  Complete the survey? [y/n]:
+  Complete the survey? [Y/n]:
   [0]
   $ tail -1 tables
   Reconciled 1 Checking at First with a balance of $4,330.00.
@@ -179,16 +207,13 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
   $ kiv pay Rent 20.00 --account Card --date 2026-01-15 >/dev/null
   $ kiv reconciliation last Card
   8 Card was never reconciled.
-  $ printf '%s\n' y y 100 '' '' y | run Card
-  Is transaction 7 of 2026-01-01, '', $80.00, on the statement? [y/n]:
-  Is transaction 8 of 2026-01-15, 'Processed unexpected budget item 'Rent'.', $20.00, on the statement? [y/n]:
-  Balance of the statement:
-  Unbooked money of an item, as ITEM=AMOUNT (empty to continue):
-  Unbooked money of another account, as ACCOUNT=AMOUNT (empty to continue):
-  Complete the survey? [y/n]:
+  $ printf '%s\n' 100 '' y | run Card
+  Balance of the statement (empty: $100.00):
+  Which are on the statement? 1-5,9, 'all but 3', 'none', 'ask' (empty: all):
+  Complete the survey? [Y/n]:
   [0]
-  $ kiv survey show First Card --date 2026-02-28 --json | jq -c .
-  {"account":8,"accountChanges":[],"accountName":"Card","accounts":[],"amountDue":null,"balance":{"amount":"100.00","currency":"USD"},"bank":"First","date":"2026-02-28","distribution":[],"expectedBalance":{"amount":"100.00","currency":"USD"},"itemChanges":[],"items":[],"nonDistributed":{"amount":"100.00","currency":"USD"},"reconciled":[],"reconciledBalance":{"amount":"100.00","currency":"USD"},"reconciledOn":"2026-01-31","start":"2026-01-31"}
+  $ kiv survey show First Card --date 2026-02-28 --json | jq -c 'del(.figures, .lines)'
+  {"account":8,"accountChanges":[],"accountName":"Card","accounts":[],"amountDue":null,"balance":{"amount":"100.00","currency":"USD"},"bank":"First","date":"2026-02-28","distribution":[],"elsewhere":[],"expectedBalance":{"amount":"100.00","currency":"USD"},"itemChanges":[],"items":[],"nonDistributed":{"amount":"100.00","currency":"USD"},"reconciled":[],"reconciledBalance":{"amount":"100.00","currency":"USD"},"reconciledOn":"2026-01-31","start":"2026-01-31"}
   $ kiv survey complete First Card --date 2026-02-28 --balance 100 --distribute Rent=5
   kiv: The budget item Rent (bill) cannot be distributed.
   [1]

@@ -149,7 +149,7 @@ private slots:
         ScratchFolder folder;
         workbench::Document document(surroundings(folder));
         document.createFilled(folder.path(u"home"_s), {}, [&] {
-            workbench::makeDemonstration(document.requests(), day("2026-06-30"));
+            workbench::makeDemonstration(document, day("2026-06-30"));
         });
         workbench::Requests &requests = document.requests();
         const auto balances = [&requests] {

@@ -29,7 +29,7 @@ public:
     GoingOn()
     {
         m_document.createFilled(m_folder.path(u"household.budget"_s), {u"Made"_s, {}, {}},
-                                [this] { makeDemonstration(m_document.requests(), m_day); });
+                                [this] { makeDemonstration(m_document, m_day); });
     }
 
     void step()

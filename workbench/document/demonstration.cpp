@@ -8,10 +8,11 @@
 #include "workbench/requests/entry_forms.h"
 #include "workbench/requests/exchanges.h"
 #include "workbench/requests/item_changes.h"
-#include "workbench/surveys/survey_form.h"
+#include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/clock.h"
 #include "foundation/presentation.h"
+#include "surveying/reconciliation_derivation.h"
 
 namespace kiv::workbench {
 
@@ -31,12 +32,13 @@ constexpr int clearedDays = 8;
 
 class Year {
 public:
-    Year(Requests &requests, const internal::DemonstrationFrame &frame)
-        : m_requests(requests),
+    Year(Document &document, const internal::DemonstrationFrame &frame)
+        : m_document(document),
+          m_requests(document.requests()),
           m_frame(frame),
-          m_household(internal::openHousehold(requests, frame)),
+          m_household(internal::openHousehold(m_requests, frame)),
           m_accounts(m_household.accounts),
-          m_budget(BudgetView(requests).budget())
+          m_budget(BudgetView(m_requests).budget())
     {
     }
 
@@ -213,9 +215,15 @@ private:
     }
     void compare(const QString &bank, AccountNumber account)
     {
-        SurveyForm form = SurveyForm::propose(m_requests, bank, typed(account), m_day);
-        form.settleGoals(m_requests);
-        form.complete(m_requests);
+        const SheetBooks books{m_document.present(), m_reconciliations, {}};
+        SurveySheet sheet = SurveySheet::begin(m_requests, books, bank, typed(account), m_day);
+        sheet.form.reconciled = sheet.readTicks(QStringLiteral("all"));
+        sheet.finished(false).complete(m_requests);
+        // The next sheet knows by them what this one counted.
+        const storage::BudgetStorage::Data after = m_document.present();
+        m_reconciliations = surveying::reconciliationsAfter(
+            std::move(m_reconciliations), {books.data.surveys, books.data.generalLedger},
+            {after.surveys, after.generalLedger});
     }
 
     void markCleared()
@@ -233,6 +241,7 @@ private:
         mark(m_requests, {cleared.begin(), cleared.end()}, Marking::Clear);
     }
 
+    Document &m_document;
     Requests &m_requests;
     const internal::DemonstrationFrame &m_frame;
     internal::Household m_household;
@@ -241,12 +250,14 @@ private:
     internal::Chance m_chance;
     QDate m_day;
     TransactionNumber m_bought;
+    surveying::Reconciliations m_reconciliations;
 };
 
 } // namespace
 
-void makeDemonstration(Requests &requests, QDate end)
+void makeDemonstration(Document &document, QDate end)
 {
+    Requests &requests = document.requests();
     if (end > foundation::today())
         throw internal::demonstrationInFuture(foundation::presentationText(end));
     const numira::Currency dollar = numira::toCurrency("USD");
@@ -256,7 +267,7 @@ void makeDemonstration(Requests &requests, QDate end)
     requests.within([&] { requests.navigator().onConfirmedNewBudgetEmpty(); });
     const internal::DemonstrationFrame frame{end.addYears(-1), end, main,
                                              main == euro ? dollar : euro};
-    Year(requests, frame).live();
+    Year(document, frame).live();
 }
 
 } // namespace kiv::workbench

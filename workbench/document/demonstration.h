@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/requests/requests.h"
+#include "workbench/document/document.h"
 
 namespace kiv::workbench {
 
@@ -14,6 +14,6 @@ namespace kiv::workbench {
 ///
 /// Throws a Refusal for a day after today, for which no statement can be compared, and for
 /// what the Navigator refuses. The budget in memory is in between then, so revert the document.
-KIV_WORKBENCH_EXPORT void makeDemonstration(Requests &requests, QDate end);
+KIV_WORKBENCH_EXPORT void makeDemonstration(Document &document, QDate end);
 
 } // namespace kiv::workbench

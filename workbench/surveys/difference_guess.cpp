@@ -6,6 +6,7 @@
 
 #include "foundation/presentation.h"
 
+#include <numeric>
 #include <unordered_map>
 
 namespace kiv::workbench {
@@ -71,6 +72,10 @@ public:
                 add(Why::OpenEntry, {one});
         }
         addTwoOpen();
+        const auto weight = [](std::int64_t sum, const Weighed &one) { return sum + one.units; };
+        if (m_open.size() > 2 &&
+            std::accumulate(m_open.begin(), m_open.end(), std::int64_t{0}, weight) == m_missing)
+            add(Why::AllOpenEntries, m_open);
         for (const Weighed &one : m_ticked) {
             if (one.units == -m_missing)
                 addTooMuch(one);
@@ -157,6 +162,8 @@ QString guessText(const DifferenceGuess &guess, const SurveyForm &form, const Ac
         return QObject::tr("%1, is not ticked and has that amount.").arg(entry(0));
     case Why::TwoOpenEntries:
         return QObject::tr("%1, and %2, are not ticked and add up to it.").arg(entry(0), entry(1));
+    case Why::AllOpenEntries:
+        return QObject::tr("All that is not ticked adds up to it.");
     case Why::EnteredTwice:
         return QObject::tr("%1, and %2, are perhaps the same, entered twice.")
             .arg(entry(0), entry(1));

@@ -11,13 +11,14 @@ struct KIV_WORKBENCH_EXPORT DifferenceGuess {
     enum class Why : std::uint8_t {
         OpenEntry = 1,  ///< an entry that is not ticked
         TwoOpenEntries, ///< two of them, which add up
+        AllOpenEntries, ///< all that are not ticked; more than two
         EnteredTwice,   ///< of two equal ones that are ticked, one is too much
         NotOnStatement, ///< an entry is ticked, and the bank does not have it
         WrongWay,       ///< money went in instead of out: the difference is twice the amount
         DigitsSwapped,  ///< two digits of an amount that stand side by side
     };
     Why why{};                                      ///< the reason
-    std::vector<accounting::Transaction> entries{}; ///< one, or two
+    std::vector<accounting::Transaction> entries{}; ///< one or two, or all
 };
 
 /// The reasons that would explain `missing`, what the statement has beyond the books; the

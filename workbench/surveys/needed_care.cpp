@@ -3,7 +3,7 @@
 
 #include "workbench/entry/account_index.h"
 #include "workbench/requests/exchange_rates.h"
-#include "workbench/surveys/survey_notes.h"
+#include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/presentation.h"
 
@@ -124,8 +124,7 @@ std::vector<Care> neededCare(Document &document, QDate today)
                        std::nullopt});
     const BudgetStorage::Data data = document.present();
     addBroken(document, all);
-    for (const BooksDifference &one : booksDifferences(data, document.keptReconciliations(),
-                                                       SurveyNotes::of(document.notes()).counted))
+    for (const BooksDifference &one : booksDifferences(document))
         all.push_back({About::Difference,
                        one.sentence(data.generalLedger, document.requests().displayAs()),
                        one.account.account.number});

@@ -109,6 +109,12 @@ void forgetPutOff(Document &document, AccountNumber account)
     document.setNotes(notes.keptIn(document.notes()));
 }
 
+std::vector<BooksDifference> booksDifferences(Document &document)
+{
+    return booksDifferences(document.present(), document.keptReconciliations(),
+                            SurveyNotes::of(document.notes()).counted);
+}
+
 Deed putOffDeed(Requests &requests, const SurveySheet &sheet)
 {
     const QString name = requests.accounts().plainName(sheet.form.account.account.number);

@@ -34,19 +34,16 @@ bool isCleared(const Transaction &transaction, const std::set<AccountNumber> &ac
             transaction.creditStatus() == TransactionStatuses::Cleared);
 }
 
-/// "0.99 %" of the statement; empty if that is zero.
-QString percentText(const Money &difference, const Money &statement)
+/// Nothing if the statement is zero.
+std::optional<numira::Decimal> percentOf(const Money &difference, const Money &statement)
 {
-    const unsigned digits = numira::minorUnitDigits(statement.code());
-    const auto units = statement.abs().amount().unitsOf(digits);
-    if (!units || *units == 0 || difference.code() != statement.code())
-        return {};
     // In minor units, so that both factors are whole numbers.
-    const auto parts = difference.abs().amount().unitsOf(digits);
-    if (!parts)
-        return {};
-    const numira::Decimal percent = numira::Decimal(*parts).scaled(100, *units);
-    return QObject::tr("%1 %").arg(QLocale().toString(percent.toDouble(), 'f', 2));
+    const unsigned digits = numira::minorUnitDigits(statement.code());
+    const auto whole = statement.abs().amount().unitsOf(digits);
+    const auto part = difference.abs().amount().unitsOf(digits);
+    if (!whole || *whole == 0 || !part || difference.code() != statement.code())
+        return std::nullopt;
+    return numira::Decimal(*part).scaled(100, *whole).roundedHalfEven(2);
 }
 
 /// The line with unbooked money of its item counted as paid.
@@ -86,8 +83,10 @@ SurveySheet SurveySheet::begin(Requests &requests, const SheetBooks &books, cons
     form.elsewhere =
         reconciledElsewhere(form.account, day, books.data, books.reconciliations, counted);
     form.reconciled.clear();
-    for (const Transaction &one : form.elsewhere)
+    for (const Transaction &one : form.elsewhere) {
         form.reconciled.insert(one.number().value());
+        form.balance += form.changeBy(one).rounded();
+    }
     for (const Transaction &one : form.transactions()) {
         if (isCleared(one, form.accounts))
             form.reconciled.insert(one.number().value());
@@ -97,7 +96,7 @@ SurveySheet SurveySheet::begin(Requests &requests, const SheetBooks &books, cons
     form.settleGoals(requests);
     if (!form.isOwed()) {
         sheet.envelopes = setAsideAt(form.account, books.data, books.reconciliations, day);
-        sheet.dueYet = surveying::monthlyPaymentsDue(day, books.data.budget, foundation::today());
+        sheet.dueYet = surveying::monthlyPaymentsDue(day, books.data.budget, day);
     }
     if (const auto survey =
             books.data.surveys.lookUpSurvey(form.account.bank, form.account.account.number))
@@ -204,6 +203,15 @@ void SurveySheet::setAside(Requests &requests, const QString &text)
     typed[BudgetView(requests).findTyped(name)] = amount.in(form.balance.code());
 }
 
+QString SheetFigures::percentText() const
+{
+    if (!percent)
+        return {};
+    if (percent->sign() == 0 && !difference.isZero())
+        return QObject::tr("under %1 %").arg(QLocale().toString(0.01, 'f', 2));
+    return QObject::tr("%1 %").arg(QLocale().toString(percent->toDouble(), 'f', 2));
+}
+
 // ---- what it comes to --------------------------------------------------------------
 
 SheetFigures SurveySheet::figures() const
@@ -213,7 +221,7 @@ SheetFigures SurveySheet::figures() const
     figures.difference = form.missing().rounded();
     figures.calculated = form.balance - figures.difference;
     figures.before = before ? before->amount : Money(form.balance.code());
-    figures.percent = percentText(figures.difference, figures.statement);
+    figures.percent = percentOf(figures.difference, figures.statement);
     figures.isAccepted =
         form.isOwed() || surveying::agrees(figures.calculated, window, figures.statement);
     return figures;
@@ -260,12 +268,18 @@ std::vector<SheetLine> SurveySheet::lines() const
 
 surveying::Distribution SurveySheet::distribution() const
 {
-    if (exact)
-        return *exact;
+    if (exact) {
+        surveying::Distribution given = *exact;
+        for (const auto &[item, money] : typed)
+            given[item] = money;
+        return given;
+    }
     surveying::Distribution given;
-    // What has no line is refused with its name.
-    for (const auto &[item, money] : typed)
-        given[item] = money;
+    // What has no line is refused with its name, or held by another account.
+    for (const auto &[item, money] : typed) {
+        if (!money.isZero())
+            given[item] = money;
+    }
     for (const SheetLine &one : lines()) {
         if (one.isHandedOver)
             given[one.line.item] =
@@ -313,7 +327,7 @@ SurveyForm SurveySheet::finished(bool hasConsent) const
     }
     SurveyForm whole = form;
     whole.distribution = distribution();
-    whole.nonDistributed = rest();
+    whole.nonDistributed = nonDistributed.value_or(rest());
     return whole;
 }
 

@@ -26,13 +26,16 @@ struct KIV_WORKBENCH_EXPORT SheetFigures {
     numira::Money difference; ///< statement − calculated: positive if the books are below
     /// By how much the books were below the bank before; zero if they were not.
     numira::Money before;
-    /// The difference in percent of the statement, such as "0.99 %"; empty if that is zero.
-    QString percent;
+    /// The difference in percent of the statement, to two digits and without a sign; nothing if
+    /// that is zero.
+    std::optional<numira::Decimal> percent;
     /// Whether a survey accepts it. Of what is owed it accepts any.
     bool isAccepted = true;
 
     /// By how much the books are below the bank once this statement is reconciled.
     [[nodiscard]] numira::Money after() const { return before + difference; }
+    /// "0.99 %", as the user writes it; empty without a percentage.
+    [[nodiscard]] QString percentText() const;
     /// Whether the user must say that the difference may stay: it is new, and not only what
     /// an earlier one needs to go.
     [[nodiscard]] bool wantsConsent() const { return !difference.isZero() && !after().isZero(); }
@@ -61,6 +64,8 @@ struct KIV_WORKBENCH_EXPORT SurveySheet {
     bool isAsProposed = false; ///< whether the Navigator's proposals are taken
     /// Exactly this is handed over, instead of any line.
     std::optional<surveying::Distribution> exact;
+    /// What is recorded as set aside for nothing, instead of rest().
+    std::optional<numira::Money> nonDistributed;
     /// Monthly payments that are due yet in the month of the statement.
     std::vector<budgeting::BudgetItemAmountDue> dueYet;
     SetAside envelopes; ///< as the books are, without what is not booked yet
@@ -126,6 +131,11 @@ KIV_WORKBENCH_EXPORT void complete(Document &document, const SurveySheet &sheet,
 KIV_WORKBENCH_EXPORT void putOff(Document &document, const SurveySheet &sheet, bool hasBalance);
 /// Forgets the account's sheet that was put off.
 KIV_WORKBENCH_EXPORT void forgetPutOff(Document &document, accounting::AccountNumber account);
+
+/// How far the books of the open budget's bank accounts are from what their banks last said, by
+/// bank and number.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<BooksDifference>
+booksDifferences(Document &document);
 
 /// The name of putting it off, without a place.
 [[nodiscard]] KIV_WORKBENCH_EXPORT Deed putOffDeed(Requests &requests, const SurveySheet &sheet);

@@ -177,7 +177,7 @@ void FileSession::makeDemonstration()
     attempt(openingNotice, [&] {
         makeFilled(QFileInfo(file).absoluteFilePath(),
                    {tr("Made the demonstration"), tr("making the demonstration"), {}}, [this] {
-                       workbench::makeDemonstration(m_desk.requests(), foundation::today());
+                       workbench::makeDemonstration(m_desk.document(), foundation::today());
                    });
     });
 }

@@ -4,6 +4,7 @@
 #include "commands/commands.h"
 
 #include "output/json.h"
+#include "output/survey_report.h"
 
 #include "workbench/requests/account_changes.h"
 
@@ -52,20 +53,29 @@ struct ListAccounts {
                 byPath.emplace(index.path(account.code().number()), &account);
         }
         const std::map<AccountNumber, bool> reconciled = call.document.reconciledAccounts();
+        std::map<AccountNumber, workbench::BooksDifference> differences;
+        for (const workbench::BooksDifference &one : booksDifferences(call.document))
+            differences.emplace(one.account.account.number, one);
         QJsonArray rows;
         for (const auto &[path, account] : byPath) {
             QJsonObject row = toJson(*account, index);
             const auto found = reconciled.find(account->code().number());
             if (found != reconciled.end())
                 row.insert(QStringLiteral("asReconciled"), found->second);
+            if (const auto one = differences.find(account->code().number());
+                one != differences.end())
+                row.insert(QStringLiteral("bankDifference"), toJson(one->second.amount));
             rows.append(row);
         }
-        return Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
-                                {QObject::tr("Account"), QStringLiteral("path"), plainText},
-                                {QObject::tr("Balance"), QStringLiteral("balance")},
-                                {QString(), QStringLiteral("open"), openWord},
-                                {QString(), QStringLiteral("asReconciled"), reconciledText}},
-                               rows, QObject::tr("There are no accounts."));
+        Report report =
+            Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
+                             {QObject::tr("Account"), QStringLiteral("path"), plainText},
+                             {QObject::tr("Balance"), QStringLiteral("balance")},
+                             {QString(), QStringLiteral("open"), openWord},
+                             {QString(), QStringLiteral("asReconciled"), reconciledText}},
+                            rows, QObject::tr("There are no accounts."));
+        tellDifferences(report, call.document);
+        return report;
     }
 };
 

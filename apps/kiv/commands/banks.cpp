@@ -4,6 +4,7 @@
 #include "commands/commands.h"
 
 #include "output/json.h"
+#include "output/survey_report.h"
 
 #include "workbench/document/bank_steps.h"
 
@@ -50,6 +51,7 @@ struct ListBanks {
                        bank[QLatin1String("accounts")].toArray(),
                        QObject::tr("There are no accounts."));
         }
+        tellDifferences(report, call.document);
         return report;
     }
 };

@@ -57,7 +57,7 @@ struct Demonstrate {
         const QString path = call.fileToMake(file);
         call.document.refuseUnsaved();
         Document::refuseExisting(path);
-        workbench::makeDemonstration(call.requests, call.date());
+        workbench::makeDemonstration(call.document, call.date());
         call.document.create(path, QObject::tr("Created the demonstration"));
         return Report(fileJson(call.document))
             .line(QObject::tr("Created the demonstration '%1': a year of a household until %2.")

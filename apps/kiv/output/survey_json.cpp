@@ -2,6 +2,7 @@
 #include "output/survey_json.h"
 
 #include "output/json.h"
+#include "output/set_aside_json.h"
 #include "parsing/json_input.h"
 
 #include "workbench/entry/kind_words.h"
@@ -16,7 +17,6 @@ using budgeting::BudgetItemIdentifier;
 using workbench::AccountIndex;
 using workbench::BudgetView;
 using workbench::identify;
-using workbench::kindWord;
 using workbench::readPlain;
 using workbench::readValue;
 using workbench::Requests;
@@ -28,12 +28,6 @@ BudgetItemIdentifier readItem(const BudgetView &view, const QJsonValue &json)
     budgeting::BudgetItemTypes kind{};
     readValue(json[QLatin1String("kind")].toString(), kind);
     return identify(view.find(json[QLatin1String("name")].toString(), kind));
-}
-
-QJsonObject itemJson(const BudgetItemIdentifier &id)
-{
-    return {{QStringLiteral("kind"), kindWord(id.type)},
-            {QStringLiteral("name"), id.source.name()}};
 }
 
 QJsonObject codeJson(const accounting::AccountCode &code)
@@ -63,16 +57,50 @@ QJsonArray changesJson(const Changes &changes, AccountNumber surveyed, KeyJson k
     return rows;
 }
 
+/// Null where an exchange rate is missing.
+QJsonValue figuresJson(const SurveySheet &sheet)
+{
+    try {
+        const workbench::SheetFigures figures = sheet.figures();
+        return QJsonObject{{QStringLiteral("calculated"), toJson(figures.calculated)},
+                           {QStringLiteral("difference"), toJson(figures.difference)},
+                           {QStringLiteral("percent"),
+                            figures.percent
+                                ? QJsonValue(QString::fromStdString(figures.percent->toText(2)))
+                                : QJsonValue()},
+                           {QStringLiteral("accepted"), figures.isAccepted},
+                           {QStringLiteral("before"), toJson(figures.before)}};
+    } catch (const foundation::Error &) {
+        return {};
+    }
+}
+
+QJsonArray linesJson(const SurveySheet &sheet, navigation::CurrencyDisplayOptions displayAs)
+{
+    QJsonArray lines;
+    for (const workbench::SheetLine &one : sheet.lines()) {
+        QJsonObject line = lineJson(one.line, sheet.envelopes, displayAs);
+        line.insert(QStringLiteral("proposed"), moneyJson(one.proposed));
+        line.insert(QStringLiteral("now"), toJson(one.now));
+        line.insert(QStringLiteral("handedOver"), one.isHandedOver);
+        lines.append(line);
+    }
+    return lines;
+}
+
 } // namespace
 
-SurveyForm surveyFromJson(Requests &requests, const QJsonObject &json)
+SurveySheet surveyFromJson(Document &document, const QJsonObject &json)
 {
     const auto text = [&json](const char *key) {
         return json.value(QLatin1String(key)).toVariant().toString();
     };
+    Requests &requests = document.requests();
     QDate date;
     readPlain(text("date"), date);
-    SurveyForm form = SurveyForm::propose(requests, text("bank"), text("account"), date);
+    SurveySheet sheet =
+        SurveySheet::begin(requests, SheetBooks::of(document), text("bank"), text("account"), date);
+    SurveyForm &form = sheet.form;
     const numira::Currency currency = form.balance.code();
     form.balance = readMoney(json.value(QLatin1String("balance")), currency);
     form.reconciled.clear();
@@ -91,7 +119,7 @@ SurveyForm surveyFromJson(Requests &requests, const QJsonObject &json)
         form.extras.insert_or_assign(index.find(account).code().number(),
                                      readMoney(extra[QLatin1String("change")], currency));
     }
-    form.distribution.clear();
+    surveying::Distribution given;
     for (const QJsonValue share : json.value(QLatin1String("distribution")).toArray()) {
         const BudgetItemIdentifier id = readItem(view, share);
         const auto proposed = form.proposal.distributions().find(id);
@@ -99,13 +127,18 @@ SurveyForm surveyFromJson(Requests &requests, const QJsonObject &json)
         if (proposed != form.proposal.distributions().end())
             amount = proposed->second;
         amount = readMoney(share[QLatin1String("distributed")], currency);
-        form.distribution.insert_or_assign(id, amount);
+        given.insert_or_assign(id, amount);
     }
-    return form;
+    SurveyForm settled = form;
+    settled.distribution = std::move(given);
+    settled.settleGoals(requests);
+    sheet.exact = std::move(settled.distribution);
+    return sheet;
 }
 
-QJsonObject toJson(const SurveyForm &form, Requests &requests)
+QJsonObject toJson(const SurveySheet &sheet, Requests &requests)
 {
+    const SurveyForm &form = sheet.form;
     const AccountIndex index = requests.accounts();
     const banking::ReconciledBankAccount &last = form.proposal.reconciled();
     const AccountNumber number = form.account.account.number;
@@ -126,13 +159,16 @@ QJsonObject toJson(const SurveyForm &form, Requests &requests)
         extra.append(row);
     }
     QJsonArray shares;
-    for (const auto &[id, amount] : form.distribution) {
+    for (const auto &[id, amount] : sheet.distribution()) {
         QJsonObject row = itemJson(id);
         row.insert(QStringLiteral("distributed"), toJson(amount.distributed()));
         row.insert(QStringLiteral("expected"), toJson(amount.expected().rounded()));
         row.insert(QStringLiteral("next"), toJson(amount.nextOccurOn()));
         shares.append(row);
     }
+    QJsonArray elsewhere;
+    for (const accounting::Transaction &one : form.elsewhere)
+        elsewhere.append(toJson(one));
     return {{QStringLiteral("bank"), form.account.bank.institution()},
             {QStringLiteral("account"), toJson(number)},
             {QStringLiteral("accountName"), index.find(number)->code().name()},
@@ -146,12 +182,15 @@ QJsonObject toJson(const SurveyForm &form, Requests &requests)
              changesJson(form.proposal.budgetItemChanges(), number, itemJson)},
             {QStringLiteral("accountChanges"),
              changesJson(form.proposal.accountChanges(), number, codeJson)},
+            {QStringLiteral("elsewhere"), elsewhere},
             {QStringLiteral("balance"), toJson(form.balance)},
             {QStringLiteral("reconciled"), ticked},
             {QStringLiteral("items"), added},
             {QStringLiteral("accounts"), extra},
+            {QStringLiteral("figures"), figuresJson(sheet)},
+            {QStringLiteral("lines"), linesJson(sheet, requests.displayAs())},
             {QStringLiteral("distribution"), shares},
-            {QStringLiteral("nonDistributed"), toJson(form.nonDistributed)}};
+            {QStringLiteral("nonDistributed"), toJson(sheet.rest())}};
 }
 
 } // namespace kiv::app

@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/surveys/survey_form.h"
+#include "workbench/surveys/survey_sheet.h"
 
 #include <QtCore/QJsonObject>
 
 namespace kiv::app {
 
+using workbench::Document;
+using workbench::SheetBooks;
 using workbench::SurveyForm;
+using workbench::SurveySheet;
 
-/// The form: the proposal, and what the user entered.
-[[nodiscard]] QJsonObject toJson(const SurveyForm &form, workbench::Requests &requests);
-/// A new proposal, filled in from an edited document. Only balance, reconciled, items,
-/// accounts and distribution are read.
-[[nodiscard]] SurveyForm surveyFromJson(workbench::Requests &requests, const QJsonObject &json);
+/// Reads an edited JSON form. Throws an EntryError for values that cannot be read, and
+/// what SurveySheet::begin() throws.
+[[nodiscard]] SurveySheet surveyFromJson(Document &document, const QJsonObject &json);
+
+/// The JSON form of a survey. Changes carry their effect on the balance.
+[[nodiscard]] QJsonObject toJson(const SurveySheet &sheet, workbench::Requests &requests);
 
 } // namespace kiv::app
