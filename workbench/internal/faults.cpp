@@ -99,6 +99,12 @@ Refusal fileOfOtherAccount(const QString &file, const QString &account)
         QObject::tr("'%1' is a statement of another account than %2.").arg(file, account));
 }
 
+EntryError staysInAccount()
+{
+    return EntryError(QObject::tr("What moves within the account is on no statement; move it "
+                                  "without the survey."));
+}
+
 Refusal sheetTooLarge()
 {
     return Refusal(QObject::tr("The survey has too many ticks to be put off."));

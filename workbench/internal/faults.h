@@ -60,6 +60,7 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notOnSheet(const QString &numbers);
 [[nodiscard]] EntryError notTicks(const QString &text);
 [[nodiscard]] Refusal sheetTooLarge();
+[[nodiscard]] EntryError staysInAccount();
 [[nodiscard]] Refusal fileOfOtherAccount(const QString &file, const QString &account);
 
 // ---- rules of imports ---------------------------------------------------------

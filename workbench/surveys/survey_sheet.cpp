@@ -189,6 +189,8 @@ void SurveySheet::addUnbooked(Requests &requests, const QString &text)
 
 void SurveySheet::addUnbooked(AccountNumber number, const Money &change)
 {
+    if (form.accounts.contains(number))
+        throw internal::staysInAccount();
     if (const auto item = m_itemOf.find(number); item != m_itemOf.end())
         form.items.insert_or_assign(item->second, change);
     else
@@ -320,6 +322,10 @@ QStringList SurveySheet::notices(const accounting::GeneralLedger &ledger,
 
 SurveyForm SurveySheet::finished(bool hasConsent) const
 {
+    for (const auto &[number, item] : m_itemOf) {
+        if (form.items.contains(item) && form.accounts.contains(number))
+            throw internal::staysInAccount();
+    }
     if (!hasConsent) {
         const SheetFigures now = figures();
         if (now.wantsConsent() && now.isAccepted)

@@ -83,7 +83,8 @@ struct KIV_WORKBENCH_EXPORT SurveySheet {
     /// Reads "1-5,9", "all", "all but 3" or "none". Throws an EntryError for anything else and
     /// for numbers that are not on the sheet; a span takes what it finds there, at least one.
     [[nodiscard]] std::set<accounting::TransactionNumber> readTicks(const QString &text) const;
-    /// Adds unbooked money by the name of an item or account: "Rent=-20.00".
+    /// Adds unbooked money by the name of an item or account: "Rent=-20.00". Throws an
+    /// EntryError for an account that counts to the statement's balance, as that of a goal.
     void addUnbooked(Requests &requests, const QString &text);
     /// The same by the number of the account, which may be an item's.
     void addUnbooked(accounting::AccountNumber number, const numira::Money &change);
