@@ -209,3 +209,44 @@ Wrong statements change nothing:
   > .
   kiv: There is no transaction 99 on the sheet.
   kiv: '5-3' is not a list of transactions; write one like 1-5,9, 'all', 'all but 3' or 'none'.
+
+The end of a month from the banks' files: few answers, and each file is known again. Money between two
+accounts stands in both files, after the first account was surveyed, too:
+
+  $ export KIV_FILE=year.budget
+  $ kiv demo --date 2026-06-30 >/dev/null
+  $ told() {
+  >   kiv ledger "$1" --from 2026-06-11 --json | jq -r --argjson sign "$2" --argjson under "$3" '
+  >     def cents: tonumber * 100 | round * $sign;
+  >     def money: "\(. / 100 | trunc).\(. % 100 | fabs | tostring | "0\(.)"[-2:])";
+  >     ["Date","Text","Amount","Balance"],
+  >     (.transactions[] | [.date, .description, (.change.amount | cents | money),
+  >       (.balance.amount | cents + $under | money)]) | @csv' >"$1.csv"
+  > }
+  $ told Checking 1 0; told 'Credit card' -1 0; told Savings 1 246000
+  $ for account in Checking 'Credit card' Savings; do
+  >   kiv import "$account.csv" --into "$account" </dev/null | head -1
+  >   printf '\n\n\n\n' | kiv survey run 'Town Bank' "$account" --bank-file "$account.csv" 2>asked | tail -1
+  >   sed 's/\(n]\|)\): /\1:\n/g' asked
+  > done
+  New: 0; matched: 10; already imported: 0; left out: 0; accounts opened: 0.
+  Reconciled 1 Checking at Town Bank with a balance of $7,258.29.
+  Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
+  Complete the survey? [Y/n]:
+  New: 0; matched: 5; already imported: 0; left out: 0; accounts opened: 0.
+  Reconciled 3 Credit card at Town Bank with a balance of $242.05.
+  Complete the survey? [Y/n]:
+  New: 0; matched: 1; already imported: 0; left out: 0; accounts opened: 0.
+  Reconciled 4 Savings at Town Bank with a balance of $13,641.55.
+  Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
+  Complete the survey? [Y/n]:
+  $ for account in Checking 'Credit card' Savings; do
+  >   kiv import "$account.csv" --into "$account" </dev/null | head -1
+  > done
+  New: 0; matched: 0; already imported: 10; left out: 0; accounts opened: 0.
+  New: 0; matched: 0; already imported: 5; left out: 0; accounts opened: 0.
+  New: 0; matched: 0; already imported: 1; left out: 0; accounts opened: 0.
+  $ kiv envelopes --on 2026-06-30 | head -3
+  Account      Balance  Set aside        Free  Paid since  Last reconciled
+  Checking   $7,258.29    $224.00   $7,034.29       $0.00  2026-06-30
+  Savings   $13,641.55  $2,460.00  $11,181.55       $0.00  2026-06-30

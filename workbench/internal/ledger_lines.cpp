@@ -47,6 +47,8 @@ LedgerLines::LedgerLines(const StatementBooks &books)
         const auto &text = transaction.description();
         if (text && text->endsWith(u']')) // most have no identifier
             line.toldAs = ownIdOf(Description::of(*text).bankIds, isDebit, isToldByOther(line));
+        if (const auto told = books.told.find(line.number()); told != books.told.end())
+            line.toldAs = told->second;
         const std::size_t place = m_lines.size();
         if (!line.toldAs.isEmpty())
             m_byId.emplace(line.toldAs, place);

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] bool changes(const ImportRow &row, const ImportMatch &match) const;
     /// The description of a matched line with the entry's identifier; nothing if it stays.
     [[nodiscard]] std::optional<QString> named(const ImportRow &row, const LedgerLine &line) const;
+    /// Matched transactions that no statement of the account told, and whose descriptions
+    /// cannot take an identifier, with those of their entries.
+    [[nodiscard]] std::map<accounting::TransactionNumber, QString> unnamed() const;
     /// Whether the row was told before in the same file.
     [[nodiscard]] bool isOfFile(std::size_t row) const { return m_isFixed.at(row); }
 

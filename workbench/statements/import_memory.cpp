@@ -12,6 +12,7 @@
 #include <QtCore/QJsonObject>
 
 #include <algorithm>
+#include <ranges>
 
 namespace kiv::workbench {
 
@@ -27,6 +28,8 @@ const QString accountKey = QStringLiteral("import.account.");
 /// So many payees are remembered; a note has room for them with names of usual length.
 constexpr std::size_t learnedMax = 1'000;
 constexpr qsizetype payeeKeyMax = 48;
+/// So many identifiers of an account's transactions; the newest ones.
+constexpr std::size_t toldMax = 500;
 
 std::optional<AccountNumber> numberOf(const QJsonValue &value)
 {
@@ -92,6 +95,18 @@ std::optional<interchange::CsvProfile> profileOf(const QJsonValue &value)
     }
 }
 
+std::map<accounting::TransactionNumber, QString> toldOf(const QJsonValue &value)
+{
+    std::map<accounting::TransactionNumber, QString> told;
+    for (const QJsonValue one : value.toArray()) {
+        const qint64 number = one[0].toInteger(0);
+        if (number > 0 && number <= std::numeric_limits<std::uint16_t>::max())
+            told.emplace(accounting::TransactionNumber(static_cast<std::uint16_t>(number)),
+                         one[1].toString());
+    }
+    return told;
+}
+
 QJsonObject jsonOf(const ImportMemory::Account &account)
 {
     QJsonObject object;
@@ -100,6 +115,12 @@ QJsonObject jsonOf(const ImportMemory::Account &account)
     if (account.profile)
         object.insert(QStringLiteral("profile"),
                       QJsonDocument::fromJson(interchange::toJson(*account.profile)).object());
+    QJsonArray told;
+    const std::size_t former = account.told.size() > toldMax ? account.told.size() - toldMax : 0;
+    for (const auto &[number, id] : account.told | std::views::drop(former))
+        told.append(QJsonArray{int{number.integer()}, id});
+    if (!told.isEmpty())
+        object.insert(QStringLiteral("told"), told);
     return object;
 }
 
@@ -141,7 +162,8 @@ ImportMemory ImportMemory::of(const Notes &notes)
                                 : std::nullopt;
         if (number)
             memory.accounts[*number] = {value[QLatin1String("number")].toString(),
-                                        profileOf(value[QLatin1String("profile")])};
+                                        profileOf(value[QLatin1String("profile")]),
+                                        toldOf(value[QLatin1String("told")])};
     }
     return memory;
 }

@@ -19,6 +19,8 @@ struct KIV_WORKBENCH_EXPORT ImportMemory {
         QString bankNumber; ///< as the bank's files write the account; empty if they do not
         /// How the bank writes its tables; nothing if it is found in each.
         std::optional<interchange::CsvProfile> profile;
+        /// Identifiers of transactions, see StatementBooks::told.
+        std::map<accounting::TransactionNumber, QString> told = {};
     };
 
     std::vector<ImportRule> rules; ///< the first that fits counts

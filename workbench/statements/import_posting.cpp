@@ -208,6 +208,22 @@ std::optional<QString> internal::PreviewParts::named(const ImportRow &row,
     return said.text();
 }
 
+std::map<TransactionNumber, QString> internal::PreviewParts::unnamed() const
+{
+    std::map<TransactionNumber, QString> all;
+    for (const ImportRow &row : m_rows) {
+        const auto *match = row.meaning ? std::get_if<ImportMatch>(&*row.meaning) : nullptr;
+        if (!match || !row.isTicked)
+            continue;
+        for (const std::size_t place : m_matcher.placesOf(*match)) {
+            const LedgerLine &line = m_matcher.lines().at(place);
+            if (line.toldAs.isEmpty() && !m_matcher.lines().canBeNamed(line))
+                all.emplace(line.number(), row.entry.bankId);
+        }
+    }
+    return all;
+}
+
 ImportPreview::Done ImportPreview::post(Requests &requests) const
 {
     Done done = Poster(*m_parts, requests).run();

@@ -409,6 +409,8 @@ ImportMemory ImportPreview::memory() const
         if (!key.isEmpty())
             memory.learn(key, *row.other);
     }
+    for (const auto &[number, bankId] : m_parts->unnamed())
+        memory.accounts[account().number()].told[number] = bankId;
     if (const QString &number = m_parts->m_statement.account; !number.isEmpty())
         memory.accounts[account().number()].bankNumber = number;
     return memory;

@@ -198,8 +198,11 @@ ImportPreview previewOf(Requests &requests, ImportReading reading, ImportPreview
     const Account *account = index.find(reading.account.value());
     if (!account)
         throw std::logic_error("A statement is read for an account of the budget.");
-    return ImportPreview(std::move(reading.statement), statementBooks(requests, *account),
-                         std::move(choices));
+    StatementBooks books = statementBooks(requests, *account);
+    const auto &known = choices.memory.accounts;
+    if (const auto found = known.find(*reading.account); found != known.end())
+        books.told = found->second.told;
+    return ImportPreview(std::move(reading.statement), std::move(books), std::move(choices));
 }
 
 } // namespace kiv::workbench

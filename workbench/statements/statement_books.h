@@ -33,6 +33,9 @@ struct StatementBooks {
     std::vector<accounting::Transaction> posted = {}; ///< all that there are
     std::set<accounting::AccountNumber> kept = {};    ///< of which banks send statements
     std::vector<PayableItem> items = {};              ///< that recur or are due once
+    /// The identifiers with which a statement told transactions whose descriptions could not
+    /// take them, since the other side was reconciled.
+    std::map<accounting::TransactionNumber, QString> told = {};
 };
 
 /// The open budget for a statement of this account. Throws what the Navigator's slots throw.
