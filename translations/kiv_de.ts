@@ -2128,10 +2128,6 @@
         <translation>Andere Änderungen</translation>
     </message>
     <message>
-        <source>Proposed distribution</source>
-        <translation>Vorgeschlagene Verteilung</translation>
-    </message>
-    <message>
         <source>Set aside</source>
         <translation>Zurückgelegt</translation>
     </message>
@@ -2144,28 +2140,12 @@
         <translation>Es gibt keine Posten, für die zurückgelegt wird.</translation>
     </message>
     <message>
-        <source>Not distributed</source>
-        <translation>Nicht verteilt</translation>
-    </message>
-    <message>
         <source>Reconciled %1 at %2 with a balance of %3.</source>
         <translation>%1 bei %2 mit einem Saldo von %3 abgeglichen.</translation>
     </message>
     <message>
-        <source>Is transaction %1 of %2, &apos;%3&apos;, %4, on the statement?</source>
-        <translation>Steht Buchung %1 vom %2, „%3“, %4, im Kontoauszug?</translation>
-    </message>
-    <message>
         <source>Balance of the statement</source>
         <translation>Saldo des Kontoauszugs</translation>
-    </message>
-    <message>
-        <source>Unbooked money of an item, as ITEM=AMOUNT</source>
-        <translation>Nicht gebuchtes Geld eines Postens, als POSTEN=BETRAG</translation>
-    </message>
-    <message>
-        <source>Unbooked money of another account, as ACCOUNT=AMOUNT</source>
-        <translation>Nicht gebuchtes Geld eines anderen Kontos, als KONTO=BETRAG</translation>
     </message>
     <message>
         <source>Amount to set aside for an item, as ITEM=AMOUNT</source>
@@ -3287,16 +3267,8 @@
         <translation>Wie shell, aber alle Signale als JSON ausgeben</translation>
     </message>
     <message>
-        <source>Day of the statement (default: today)</source>
-        <translation>Tag des Kontoauszugs (Standard: heute)</translation>
-    </message>
-    <message>
         <source>Edited output of survey show --json; - for standard input</source>
         <translation>Bearbeitete Ausgabe von survey show --json; - für die Standardeingabe</translation>
-    </message>
-    <message>
-        <source>Number of a transaction on the statement (repeatable)</source>
-        <translation>Nummer einer Buchung im Kontoauszug (wiederholbar)</translation>
     </message>
     <message>
         <source>All transactions are on the statement</source>
@@ -6375,6 +6347,305 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     <message>
         <source>Show what is set aside at the bank accounts, what is free, and why</source>
         <translation>Zeigen, was bei den Bankkonten zurückgelegt ist, was frei ist, und warum</translation>
+    </message>
+    <message>
+        <source>%1 was reconciled on %2 already; the statement of %3 is older.</source>
+        <translation>%1 wurde schon zum %2 abgeglichen; der Auszug vom %3 ist älter.</translation>
+    </message>
+    <message>
+        <source>The books differ from the statement; find what differs, or say that the difference may stay.</source>
+        <translation>Die Bücher weichen vom Auszug ab; zu finden ist, was abweicht, oder zu sagen, dass die Abweichung bleiben darf.</translation>
+    </message>
+    <message>
+        <source>There is no transaction %1 on the sheet.</source>
+        <translation>Auf dem Blatt steht keine Buchung %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a list of transactions; write one like 1-5,9, &apos;all&apos;, &apos;all but 3&apos; or &apos;none&apos;.</source>
+        <translation>„%1“ ist keine Liste von Buchungen; eine sieht aus wie 1-5,9, „alle“, „alle außer 3“ oder „keine“.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a statement of another account than %2.</source>
+        <translation>„%1“ ist ein Auszug eines anderen Kontos als %2.</translation>
+    </message>
+    <message>
+        <source>What moves within the account is on no statement; move it without the survey.</source>
+        <translation>Was innerhalb des Kontos umgebucht wird, steht auf keinem Auszug; es wird ohne den Abgleich umgebucht.</translation>
+    </message>
+    <message>
+        <source>The survey has too many ticks to be put off.</source>
+        <translation>Der Abgleich hat zu viele Haken, um verschoben zu werden.</translation>
+    </message>
+    <message>
+        <source>%1 above the bank</source>
+        <translation>%1 über der Bank</translation>
+    </message>
+    <message>
+        <source>%1 below the bank</source>
+        <translation>%1 unter der Bank</translation>
+    </message>
+    <message>
+        <source>The books of %1 are %2 since %3.</source>
+        <translation>Die Bücher von %1 liegen seit dem %3 %2.</translation>
+    </message>
+    <message>
+        <source>#%1 of %2, %3, %4</source>
+        <translation>Nr. %1 vom %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, is not ticked and has that amount.</source>
+        <translation>%1, ist nicht abgehakt und hat diesen Betrag.</translation>
+    </message>
+    <message>
+        <source>%1, and %2, are not ticked and add up to it.</source>
+        <translation>%1, und %2, sind nicht abgehakt und ergeben ihn zusammen.</translation>
+    </message>
+    <message>
+        <source>All that is not ticked adds up to it.</source>
+        <translation>Alles, was nicht abgehakt ist, ergibt ihn zusammen.</translation>
+    </message>
+    <message>
+        <source>%1, and %2, are perhaps the same, entered twice.</source>
+        <translation>%1, und %2, sind vielleicht dasselbe, zweimal eingegeben.</translation>
+    </message>
+    <message>
+        <source>%1, is ticked and has that amount; is it on the statement?</source>
+        <translation>%1, ist abgehakt und hat diesen Betrag; steht es auf dem Auszug?</translation>
+    </message>
+    <message>
+        <source>%1, has half of that amount; did the money go the other way?</source>
+        <translation>%1, hat die Hälfte dieses Betrags; ging das Geld in die andere Richtung?</translation>
+    </message>
+    <message>
+        <source>%1, differs by two digits that may have changed places.</source>
+        <translation>%1, weicht um zwei Ziffern ab, die vielleicht vertauscht sind.</translation>
+    </message>
+    <message>
+        <source>Changed or reconciled since the survey was put off, and not ticked any more: %1</source>
+        <translation>Geändert oder abgeglichen, seit der Abgleich verschoben wurde, und nicht mehr abgehakt: %1</translation>
+    </message>
+    <message>
+        <source>Gone since the survey was put off, and left out: %1</source>
+        <translation>Fort, seit der Abgleich verschoben wurde, und weggelassen: %1</translation>
+    </message>
+    <message>
+        <source>Put off the survey of %1 of %2.</source>
+        <translation>Den Abgleich von %1 zum %2 verschoben.</translation>
+    </message>
+    <message>
+        <source>putting off the survey of “%1”</source>
+        <translation>Abgleich von „%1“ verschieben</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3</source>
+        <translation>%1 vom %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries of the file are not in the books: %1</source>
+        <translation>
+            <numerusform>%n Eintrag der Datei steht nicht in den Büchern: %1</numerusform>
+            <numerusform>%n Einträge der Datei stehen nicht in den Büchern: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>all transactions</comment>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>no transactions</comment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>all but</source>
+        <translation>alle außer</translation>
+    </message>
+    <message>
+        <source>under %1 %</source>
+        <translation>unter %1 %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 more is set aside than there is; set less aside for some of it.</source>
+        <translation>Es ist %1 mehr zurückgelegt, als da ist; für etwas davon ist weniger zurückzulegen.</translation>
+    </message>
+    <message>
+        <source>The rest does not count what is set aside for &apos;%1&apos;: there is no exchange rate.</source>
+        <translation>Der Rest zählt nicht, was für „%1“ zurückgelegt ist: Es gibt keinen Wechselkurs.</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s file: its day, balance and entries are taken</source>
+        <translation>Datei der Bank: Ihr Tag, ihr Saldo und ihre Einträge gelten</translation>
+    </message>
+    <message>
+        <source>Set aside what the survey proposes, as if nothing had been paid</source>
+        <translation>Zurücklegen, was der Abgleich vorschlägt, als wäre nichts bezahlt</translation>
+    </message>
+    <message>
+        <source>Day of the statement (default: that of the bank&apos;s file, or today)</source>
+        <translation>Tag des Kontoauszugs (Vorgabe: der aus der Datei der Bank, oder heute)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; tells no day; give that of the statement.</source>
+        <translation>„%1“ nennt keinen Tag; der des Auszugs ist anzugeben.</translation>
+    </message>
+    <message>
+        <source>Balance of the statement (empty: %1)</source>
+        <translation>Saldo des Kontoauszugs (leer: %1)</translation>
+    </message>
+    <message>
+        <source>Which are on the statement? 1-5,9, &apos;all but 3&apos;, &apos;none&apos;, &apos;ask&apos; (empty: all)</source>
+        <translation>Welche stehen auf dem Auszug? 1-5,9, „alle außer 3“, „keine“, „fragen“ (leer: alle)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the %n ticked)</source>
+        <translation>
+            <numerusform>Welche stehen auf dem Auszug? 1-5,9, „alle“, „alle außer 3“, „fragen“ (leer: die %n abgehakte)</numerusform>
+            <numerusform>Welche stehen auf dem Auszug? 1-5,9, „alle“, „alle außer 3“, „fragen“ (leer: die %n abgehakten)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>fragen</translation>
+    </message>
+    <message>
+        <source>What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue)</source>
+        <translation>Was steht auf dem Auszug, aber nicht in den Büchern, als NAME=BETRAG, oder NAME für alles, was fehlt? (leer zum Fortfahren)</translation>
+    </message>
+    <message>
+        <source>May the difference of %1 stay? It is told until it is gone.</source>
+        <translation>Darf die Abweichung von %1 bleiben? Sie wird genannt, bis sie fort ist.</translation>
+    </message>
+    <message>
+        <source>%1: is it on the statement?</source>
+        <translation>%1: Steht es auf dem Auszug?</translation>
+    </message>
+    <message>
+        <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos; (empty: leave it so)</source>
+        <translation>Welche stehen auf dem Auszug? 1-5,9, „alle“, „alle außer 3“ (leer: so lassen)</translation>
+    </message>
+    <message>
+        <source>Take the tick of %1 away?</source>
+        <translation>Den Haken von %1 wegnehmen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Tick all %n that are not ticked yet?</source>
+        <translation>
+            <numerusform>Den %n abhaken, der noch fehlt?</numerusform>
+            <numerusform>Alle %n abhaken, die es noch nicht sind?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tick %1?</source>
+        <translation>%1 abhaken?</translation>
+    </message>
+    <message>
+        <source>Tick %1, and %2?</source>
+        <translation>%1, und %2 abhaken?</translation>
+    </message>
+    <message>
+        <source>The survey of %1 goes on, as it was put off.</source>
+        <translation>Der Abgleich vom %1 geht weiter, wie er verschoben wurde.</translation>
+    </message>
+    <message>
+        <source>To enter them, leave the survey and use kiv import.</source>
+        <translation>Zum Eintragen den Abgleich verlassen und kiv import verwenden.</translation>
+    </message>
+    <message>
+        <source>To go on with it, use kiv survey run for this account.</source>
+        <translation>Weiter geht es mit kiv survey run für dieses Konto.</translation>
+    </message>
+    <message>
+        <source>Begin anew, instead of with what was put off</source>
+        <translation>Neu beginnen, statt mit dem Verschobenen</translation>
+    </message>
+    <message>
+        <source>Put the survey off, to go on with it later?</source>
+        <translation>Den Abgleich verschieben, um später weiterzumachen?</translation>
+    </message>
+    <message>
+        <source>The books stay %1.</source>
+        <translation>Die Bücher bleiben %1.</translation>
+    </message>
+    <message>
+        <source>What is on the statement: 3, 1-5,9, &apos;all but 4&apos; or &apos;none&apos; (repeatable; default: what is marked as seen at the bank)</source>
+        <translation>Was auf dem Auszug steht: 3, 1-5,9, „alle außer 4“ oder „keine“ (wiederholbar; Vorgabe: was als bei der Bank gesehen markiert ist)</translation>
+    </message>
+    <message>
+        <source>Item or account to which the difference is posted, such as the interest of a loan</source>
+        <translation>Posten oder Konto, auf das die Abweichung gebucht wird, etwa die Zinsen eines Kredits</translation>
+    </message>
+    <message>
+        <source>A difference may stay; it is told until it is gone</source>
+        <translation>Eine Abweichung darf bleiben; sie wird genannt, bis sie fort ist</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside at %1 any more.</source>
+        <translation>Bei %1 ist nichts mehr zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>Set nothing aside at an account any more</source>
+        <translation>Bei einem Konto nichts mehr zurücklegen</translation>
+    </message>
+    <message>
+        <source>which is never refused for what is owed</source>
+        <translation>was bei einer Schuld nie abgelehnt wird</translation>
+    </message>
+    <message>
+        <source>inside the window of %1</source>
+        <translation>innerhalb der Toleranz von %1</translation>
+    </message>
+    <message>
+        <source>outside the window of %1: the survey is refused</source>
+        <translation>außerhalb der Toleranz von %1: Der Abgleich wird abgelehnt</translation>
+    </message>
+    <message>
+        <source>Nothing is open up to this day.</source>
+        <translation>Bis zu diesem Tag ist nichts offen.</translation>
+    </message>
+    <message>
+        <source>%1, was reconciled with %2 and is not yet seen here.</source>
+        <translation>%1, wurde mit %2 abgeglichen und hier noch nicht gesehen.</translation>
+    </message>
+    <message>
+        <source>Calculated</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Kontoauszug</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>The books agree with the statement.</source>
+        <translation>Die Bücher stimmen mit dem Auszug überein.</translation>
+    </message>
+    <message>
+        <source>The books are %1</source>
+        <translation>Die Bücher liegen %1</translation>
+    </message>
+    <message>
+        <source>With it, the books are as the bank has them again.</source>
+        <translation>Damit sind die Bücher wieder wie bei der Bank.</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>Still due in %1, of what is paid monthly</source>
+        <translation>Im %1 noch fällig, von dem, was monatlich bezahlt wird</translation>
+    </message>
+    <message>
+        <source>To be posted, of %1</source>
+        <translation>Zu buchen, zum %1</translation>
     </message>
 </context>
 <context>

@@ -325,6 +325,27 @@
             <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, without interest.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n entries of the file are not in the books: %1</source>
+        <translation>
+            <numerusform>%n entry of the file is not in the books: %1</numerusform>
+            <numerusform>%n entries of the file are not in the books: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the %n ticked)</source>
+        <translation>
+            <numerusform>Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the one ticked)</numerusform>
+            <numerusform>Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the %n ticked)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Tick all %n that are not ticked yet?</source>
+        <translation>
+            <numerusform>Tick the one that is not ticked yet?</numerusform>
+            <numerusform>Tick all %n that are not ticked yet?</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

@@ -2128,10 +2128,6 @@
         <translation>Otros cambios</translation>
     </message>
     <message>
-        <source>Proposed distribution</source>
-        <translation>Reparto propuesto</translation>
-    </message>
-    <message>
         <source>Set aside</source>
         <translation>Apartado</translation>
     </message>
@@ -2144,28 +2140,12 @@
         <translation>No hay partidas para las que apartar dinero.</translation>
     </message>
     <message>
-        <source>Not distributed</source>
-        <translation>Sin repartir</translation>
-    </message>
-    <message>
         <source>Reconciled %1 at %2 with a balance of %3.</source>
         <translation>Se concilió %1 en %2 con un saldo de %3.</translation>
     </message>
     <message>
-        <source>Is transaction %1 of %2, &apos;%3&apos;, %4, on the statement?</source>
-        <translation>¿Está en el extracto el asiento %1 del %2, «%3», %4?</translation>
-    </message>
-    <message>
         <source>Balance of the statement</source>
         <translation>Saldo del extracto</translation>
-    </message>
-    <message>
-        <source>Unbooked money of an item, as ITEM=AMOUNT</source>
-        <translation>Dinero sin registrar de una partida, como PARTIDA=IMPORTE</translation>
-    </message>
-    <message>
-        <source>Unbooked money of another account, as ACCOUNT=AMOUNT</source>
-        <translation>Dinero sin registrar de otra cuenta, como CUENTA=IMPORTE</translation>
     </message>
     <message>
         <source>Amount to set aside for an item, as ITEM=AMOUNT</source>
@@ -3287,16 +3267,8 @@
         <translation>Como shell, pero escribe todas las señales como JSON</translation>
     </message>
     <message>
-        <source>Day of the statement (default: today)</source>
-        <translation>Día del extracto (por defecto: hoy)</translation>
-    </message>
-    <message>
         <source>Edited output of survey show --json; - for standard input</source>
         <translation>Salida editada de survey show --json; - para la entrada estándar</translation>
-    </message>
-    <message>
-        <source>Number of a transaction on the statement (repeatable)</source>
-        <translation>Número de un asiento del extracto (repetible)</translation>
     </message>
     <message>
         <source>All transactions are on the statement</source>
@@ -6375,6 +6347,305 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     <message>
         <source>Show what is set aside at the bank accounts, what is free, and why</source>
         <translation>Mostrar lo apartado en las cuentas bancarias, lo que queda libre y por qué</translation>
+    </message>
+    <message>
+        <source>%1 was reconciled on %2 already; the statement of %3 is older.</source>
+        <translation>%1 ya se concilió el %2; el extracto del %3 es anterior.</translation>
+    </message>
+    <message>
+        <source>The books differ from the statement; find what differs, or say that the difference may stay.</source>
+        <translation>Los libros difieren del extracto; hay que encontrar qué difiere o decir que la diferencia puede quedar.</translation>
+    </message>
+    <message>
+        <source>There is no transaction %1 on the sheet.</source>
+        <translation>En la hoja no hay ningún asiento %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a list of transactions; write one like 1-5,9, &apos;all&apos;, &apos;all but 3&apos; or &apos;none&apos;.</source>
+        <translation>«%1» no es una lista de asientos; se escribe como 1-5,9, «todos», «todos menos 3» o «ninguno».</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is a statement of another account than %2.</source>
+        <translation>«%1» es un extracto de otra cuenta que %2.</translation>
+    </message>
+    <message>
+        <source>What moves within the account is on no statement; move it without the survey.</source>
+        <translation>Lo que se traspasa dentro de la cuenta no está en ningún extracto; se traspasa sin la conciliación.</translation>
+    </message>
+    <message>
+        <source>The survey has too many ticks to be put off.</source>
+        <translation>La conciliación tiene demasiadas marcas para aplazarla.</translation>
+    </message>
+    <message>
+        <source>%1 above the bank</source>
+        <translation>%1 por encima del banco</translation>
+    </message>
+    <message>
+        <source>%1 below the bank</source>
+        <translation>%1 por debajo del banco</translation>
+    </message>
+    <message>
+        <source>The books of %1 are %2 since %3.</source>
+        <translation>Los libros de %1 están %2 desde el %3.</translation>
+    </message>
+    <message>
+        <source>#%1 of %2, %3, %4</source>
+        <translation>n.º %1 del %2, %3, %4</translation>
+    </message>
+    <message>
+        <source>%1, is not ticked and has that amount.</source>
+        <translation>%1, no está marcado y tiene ese importe.</translation>
+    </message>
+    <message>
+        <source>%1, and %2, are not ticked and add up to it.</source>
+        <translation>%1, y %2, no están marcados y suman eso.</translation>
+    </message>
+    <message>
+        <source>All that is not ticked adds up to it.</source>
+        <translation>Todo lo que no está marcado suma eso.</translation>
+    </message>
+    <message>
+        <source>%1, and %2, are perhaps the same, entered twice.</source>
+        <translation>%1, y %2, quizá sean lo mismo, introducido dos veces.</translation>
+    </message>
+    <message>
+        <source>%1, is ticked and has that amount; is it on the statement?</source>
+        <translation>%1, está marcado y tiene ese importe; ¿está en el extracto?</translation>
+    </message>
+    <message>
+        <source>%1, has half of that amount; did the money go the other way?</source>
+        <translation>%1, tiene la mitad de ese importe; ¿fue el dinero en el otro sentido?</translation>
+    </message>
+    <message>
+        <source>%1, differs by two digits that may have changed places.</source>
+        <translation>%1, difiere en dos cifras que quizá se cambiaron de lugar.</translation>
+    </message>
+    <message>
+        <source>Changed or reconciled since the survey was put off, and not ticked any more: %1</source>
+        <translation>Cambiados o conciliados desde que se aplazó la conciliación, y ya sin marcar: %1</translation>
+    </message>
+    <message>
+        <source>Gone since the survey was put off, and left out: %1</source>
+        <translation>Desaparecidos desde que se aplazó la conciliación, y omitidos: %1</translation>
+    </message>
+    <message>
+        <source>Put off the survey of %1 of %2.</source>
+        <translation>Se aplazó la conciliación de %1 del %2.</translation>
+    </message>
+    <message>
+        <source>putting off the survey of “%1”</source>
+        <translation>aplazar la conciliación de «%1»</translation>
+    </message>
+    <message>
+        <source>%1 of %2, %3</source>
+        <translation>%1 del %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries of the file are not in the books: %1</source>
+        <translation>
+            <numerusform>%n apunte del archivo no está en los libros: %1</numerusform>
+            <numerusform>%n apuntes del archivo no están en los libros: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>all</source>
+        <comment>all transactions</comment>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <comment>no transactions</comment>
+        <translation>ninguno</translation>
+    </message>
+    <message>
+        <source>all but</source>
+        <translation>todos menos</translation>
+    </message>
+    <message>
+        <source>under %1 %</source>
+        <translation>menos del %1 %</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 more is set aside than there is; set less aside for some of it.</source>
+        <translation>Hay %1 más apartado de lo que hay; conviene apartar menos para algo.</translation>
+    </message>
+    <message>
+        <source>The rest does not count what is set aside for &apos;%1&apos;: there is no exchange rate.</source>
+        <translation>El resto no cuenta lo apartado para «%1»: no hay tipo de cambio.</translation>
+    </message>
+    <message>
+        <source>The bank&apos;s file: its day, balance and entries are taken</source>
+        <translation>Archivo del banco: se toman su día, su saldo y sus apuntes</translation>
+    </message>
+    <message>
+        <source>Set aside what the survey proposes, as if nothing had been paid</source>
+        <translation>Apartar lo que propone la conciliación, como si no se hubiera pagado nada</translation>
+    </message>
+    <message>
+        <source>Day of the statement (default: that of the bank&apos;s file, or today)</source>
+        <translation>Día del extracto (por omisión, el del archivo del banco, o hoy)</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; tells no day; give that of the statement.</source>
+        <translation>«%1» no dice ningún día; hay que dar el del extracto.</translation>
+    </message>
+    <message>
+        <source>Balance of the statement (empty: %1)</source>
+        <translation>Saldo del extracto (vacío: %1)</translation>
+    </message>
+    <message>
+        <source>Which are on the statement? 1-5,9, &apos;all but 3&apos;, &apos;none&apos;, &apos;ask&apos; (empty: all)</source>
+        <translation>¿Cuáles están en el extracto? 1-5,9, «todos menos 3», «ninguno», «preguntar» (vacío: todos)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the %n ticked)</source>
+        <translation>
+            <numerusform>¿Cuáles están en el extracto? 1-5,9, «todos», «todos menos 3», «preguntar» (vacío: el %n marcado)</numerusform>
+            <numerusform>¿Cuáles están en el extracto? 1-5,9, «todos», «todos menos 3», «preguntar» (vacío: los %n marcados)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>ask</source>
+        <translation>preguntar</translation>
+    </message>
+    <message>
+        <source>What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue)</source>
+        <translation>¿Qué está en el extracto pero no en los libros, como NOMBRE=IMPORTE, o NOMBRE para todo lo que falta? (vacío para seguir)</translation>
+    </message>
+    <message>
+        <source>May the difference of %1 stay? It is told until it is gone.</source>
+        <translation>¿Puede quedar la diferencia de %1? Se dirá hasta que desaparezca.</translation>
+    </message>
+    <message>
+        <source>%1: is it on the statement?</source>
+        <translation>%1: ¿está en el extracto?</translation>
+    </message>
+    <message>
+        <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos; (empty: leave it so)</source>
+        <translation>¿Cuáles están en el extracto? 1-5,9, «todos», «todos menos 3» (vacío: dejarlo así)</translation>
+    </message>
+    <message>
+        <source>Take the tick of %1 away?</source>
+        <translation>¿Quitar la marca de %1?</translation>
+    </message>
+    <message numerus="yes">
+        <source>Tick all %n that are not ticked yet?</source>
+        <translation>
+            <numerusform>¿Marcar el %n que falta?</numerusform>
+            <numerusform>¿Marcar los %n que faltan?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tick %1?</source>
+        <translation>¿Marcar %1?</translation>
+    </message>
+    <message>
+        <source>Tick %1, and %2?</source>
+        <translation>¿Marcar %1, y %2?</translation>
+    </message>
+    <message>
+        <source>The survey of %1 goes on, as it was put off.</source>
+        <translation>La conciliación del %1 sigue, como se aplazó.</translation>
+    </message>
+    <message>
+        <source>To enter them, leave the survey and use kiv import.</source>
+        <translation>Para registrarlos, salir de la conciliación y usar kiv import.</translation>
+    </message>
+    <message>
+        <source>To go on with it, use kiv survey run for this account.</source>
+        <translation>Para seguir, usar kiv survey run con esta cuenta.</translation>
+    </message>
+    <message>
+        <source>Begin anew, instead of with what was put off</source>
+        <translation>Empezar de nuevo, en lugar de con lo aplazado</translation>
+    </message>
+    <message>
+        <source>Put the survey off, to go on with it later?</source>
+        <translation>¿Aplazar la conciliación para seguir después?</translation>
+    </message>
+    <message>
+        <source>The books stay %1.</source>
+        <translation>Los libros quedan %1.</translation>
+    </message>
+    <message>
+        <source>What is on the statement: 3, 1-5,9, &apos;all but 4&apos; or &apos;none&apos; (repeatable; default: what is marked as seen at the bank)</source>
+        <translation>Lo que está en el extracto: 3, 1-5,9, «todos menos 4» o «ninguno» (repetible; por omisión, lo marcado como visto en el banco)</translation>
+    </message>
+    <message>
+        <source>Item or account to which the difference is posted, such as the interest of a loan</source>
+        <translation>Partida o cuenta en la que se registra la diferencia, como el interés de un préstamo</translation>
+    </message>
+    <message>
+        <source>A difference may stay; it is told until it is gone</source>
+        <translation>Una diferencia puede quedar; se dice hasta que desaparece</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside at %1 any more.</source>
+        <translation>En %1 ya no hay nada apartado.</translation>
+    </message>
+    <message>
+        <source>Set nothing aside at an account any more</source>
+        <translation>No apartar ya nada en una cuenta</translation>
+    </message>
+    <message>
+        <source>which is never refused for what is owed</source>
+        <translation>lo que nunca se rechaza en lo que se debe</translation>
+    </message>
+    <message>
+        <source>inside the window of %1</source>
+        <translation>dentro del margen del %1</translation>
+    </message>
+    <message>
+        <source>outside the window of %1: the survey is refused</source>
+        <translation>fuera del margen del %1: la conciliación se rechaza</translation>
+    </message>
+    <message>
+        <source>Nothing is open up to this day.</source>
+        <translation>Hasta ese día no hay nada pendiente.</translation>
+    </message>
+    <message>
+        <source>%1, was reconciled with %2 and is not yet seen here.</source>
+        <translation>%1, se concilió con %2 y aquí aún no se ha visto.</translation>
+    </message>
+    <message>
+        <source>Calculated</source>
+        <translation>Calculado</translation>
+    </message>
+    <message>
+        <source>Statement</source>
+        <translation>Extracto</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>The books agree with the statement.</source>
+        <translation>Los libros coinciden con el extracto.</translation>
+    </message>
+    <message>
+        <source>The books are %1</source>
+        <translation>Los libros están %1</translation>
+    </message>
+    <message>
+        <source>With it, the books are as the bank has them again.</source>
+        <translation>Con ello, los libros vuelven a estar como en el banco.</translation>
+    </message>
+    <message>
+        <source>Proposed</source>
+        <translation>Propuesto</translation>
+    </message>
+    <message>
+        <source>Still due in %1, of what is paid monthly</source>
+        <translation>Aún pendiente en %1, de lo que se paga cada mes</translation>
+    </message>
+    <message>
+        <source>To be posted, of %1</source>
+        <translation>Por registrar, con fecha %1</translation>
     </message>
 </context>
 <context>

@@ -173,7 +173,7 @@ A bank's file says day, balance and what is on the statement; the interest of a 
   [1]
       11  2026-01-10  Market       Food             $30.00  ticked
       12  2026-01-20  Kiosk        Food             $12.00  ticked
-  1 entries of the file are not in the books: -$1.44 of 2026-01-31, Interest
+  1 entry of the file is not in the books: -$1.44 of 2026-01-31, Interest
   To enter them, leave the survey and use kiv import.
   Calculated  $42.00
   Statement   $43.44
