@@ -103,7 +103,7 @@ A survey is put off with all that was entered; what changed meanwhile is said:
   Put off the survey of Checking of 2026-02-05.
   $ kiv transaction update 8 --amount 13.50 >/dev/null
   $ printf '\n\nn\nn\n' | run Checking; sed -n 1,3p tables; grep -e Tax -e books tables
-  Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the 1 ticked):
+  Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the one ticked):
   What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
   May the difference of -$12.50 stay? It is told until it is gone. [y/N]: Put the survey off, to go on with it later? [Y/n]:
   kiv: The survey was not completed; nothing is saved.
