@@ -5,7 +5,7 @@ find_program(KIV_DOXYGEN doxygen)
 if(KIV_DOXYGEN)
   set(exports NUMIRA_EXPORT=)
   foreach(library foundation accounting banking budgeting surveying tagging networking http
-                  conversion interchange updating adviser storage navigation workbench)
+                  conversion interchange updating adviser outlook storage navigation workbench)
     string(TOUPPER KIV_${library}_EXPORT= macro)
     string(APPEND exports " ${macro}")
   endforeach()
