@@ -6647,6 +6647,114 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <source>To be posted, of %1</source>
         <translation>Zu buchen, zum %1</translation>
     </message>
+    <message>
+        <source>what was asked about</source>
+        <translation>wonach gefragt wurde</translation>
+    </message>
+    <message>
+        <source>#%1, to %2</source>
+        <translation>Nr. %1, an %2</translation>
+    </message>
+    <message>
+        <source>Lowest on %1: %2, because of %3.</source>
+        <translation>Tiefststand am %1: %2, wegen %3.</translation>
+    </message>
+    <message>
+        <source>Lowest on %1: %2.</source>
+        <translation>Tiefststand am %1: %2.</translation>
+    </message>
+    <message>
+        <source>Below %1 for the first time on %2.</source>
+        <translation>Zum ersten Mal unter %1 am %2.</translation>
+    </message>
+    <message>
+        <source>Never below %1.</source>
+        <translation>Nie unter %1.</translation>
+    </message>
+    <message>
+        <source>Free until the next wage on %1: %2.</source>
+        <translation>Frei bis zum nächsten Lohn am %1: %2.</translation>
+    </message>
+    <message>
+        <source>Free until the end, without a wage: %1.</source>
+        <translation>Frei bis zum Ende, ohne einen Lohn: %1.</translation>
+    </message>
+    <message>
+        <source>there is no exchange rate between %1 and %2</source>
+        <translation>es gibt keinen Wechselkurs zwischen %1 und %2</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: %2.</source>
+        <translation>Die Vorschau lässt „%1“ weg: %2.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves an entry out: %1.</source>
+        <translation>Die Vorschau lässt einen Eintrag weg: %1.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: no open account can pay it.</source>
+        <translation>Die Vorschau lässt „%1“ weg: Kein offenes Konto kann ihn bezahlen.</translation>
+    </message>
+    <message>
+        <source>Not all accounts can be added up: an exchange rate is missing.</source>
+        <translation>Nicht alle Konten lassen sich zusammenzählen: Ein Wechselkurs fehlt.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
+        <translation>„%1“ hat nicht die Form „BETRAG on TAG“, etwa „900 on 2026-12-05“.</translation>
+    </message>
+    <message>
+        <source>How many days to look ahead (default: 92; at most 3,660)</source>
+        <translation>Wie viele Tage vorausgeschaut wird (Vorgabe: 92; höchstens 3.660)</translation>
+    </message>
+    <message>
+        <source>Tell the first day on which less than this is there</source>
+        <translation>Den ersten Tag nennen, an dem weniger als das da ist</translation>
+    </message>
+    <message>
+        <source>As if there were no such budget item (repeatable)</source>
+        <translation>Als gäbe es diesen Budgetposten nicht (wiederholbar)</translation>
+    </message>
+    <message>
+        <source>Something more, as in &apos;900 on 2026-12-05&apos;; negative if it comes in (repeatable)</source>
+        <translation>Etwas dazu, wie in „900 on 2026-12-05“; negativ, wenn es hereinkommt (wiederholbar)</translation>
+    </message>
+    <message>
+        <source>List what is paid and received</source>
+        <translation>Auflisten, was bezahlt und empfangen wird</translation>
+    </message>
+    <message>
+        <source>First day (default: today)</source>
+        <translation>Erster Tag (Vorgabe: heute)</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>Tiefststand</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Am</translation>
+    </message>
+    <message>
+        <source>Because of</source>
+        <translation>Wegen</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>Am Ende</translation>
+    </message>
+    <message>
+        <source>No bank has an open account.</source>
+        <translation>Keine Bank hat ein offenes Konto.</translation>
+    </message>
+    <message>
+        <source>Nothing is expected.</source>
+        <translation>Nichts wird erwartet.</translation>
+    </message>
+    <message>
+        <source>Look ahead: the lowest day, and what can be spent until then</source>
+        <translation>Vorausschauen: der tiefste Tag, und was bis dahin ausgegeben werden kann</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -335,8 +335,8 @@
     <message numerus="yes">
         <source>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the %n ticked)</source>
         <translation>
-            <numerusform>Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the one ticked)</numerusform>
-            <numerusform>Which are on the statement? 1-5,9, 'all', 'all but 3', 'ask' (empty: the %n ticked)</numerusform>
+            <numerusform>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the one ticked)</numerusform>
+            <numerusform>Which are on the statement? 1-5,9, &apos;all&apos;, &apos;all but 3&apos;, &apos;ask&apos; (empty: the %n ticked)</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -6647,6 +6647,114 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <source>To be posted, of %1</source>
         <translation>Por registrar, con fecha %1</translation>
     </message>
+    <message>
+        <source>what was asked about</source>
+        <translation>lo que se preguntó</translation>
+    </message>
+    <message>
+        <source>#%1, to %2</source>
+        <translation>n.º %1, a %2</translation>
+    </message>
+    <message>
+        <source>Lowest on %1: %2, because of %3.</source>
+        <translation>Mínimo el %1: %2, por %3.</translation>
+    </message>
+    <message>
+        <source>Lowest on %1: %2.</source>
+        <translation>Mínimo el %1: %2.</translation>
+    </message>
+    <message>
+        <source>Below %1 for the first time on %2.</source>
+        <translation>Por debajo de %1 por primera vez el %2.</translation>
+    </message>
+    <message>
+        <source>Never below %1.</source>
+        <translation>Nunca por debajo de %1.</translation>
+    </message>
+    <message>
+        <source>Free until the next wage on %1: %2.</source>
+        <translation>Libre hasta el próximo sueldo el %1: %2.</translation>
+    </message>
+    <message>
+        <source>Free until the end, without a wage: %1.</source>
+        <translation>Libre hasta el final, sin sueldo: %1.</translation>
+    </message>
+    <message>
+        <source>there is no exchange rate between %1 and %2</source>
+        <translation>no hay tipo de cambio entre %1 y %2</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: %2.</source>
+        <translation>La previsión omite «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves an entry out: %1.</source>
+        <translation>La previsión omite un apunte: %1.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: no open account can pay it.</source>
+        <translation>La previsión omite «%1»: ninguna cuenta abierta puede pagarlo.</translation>
+    </message>
+    <message>
+        <source>Not all accounts can be added up: an exchange rate is missing.</source>
+        <translation>No se pueden sumar todas las cuentas: falta un tipo de cambio.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
+        <translation>«%1» no tiene la forma «IMPORTE on DÍA», como «900 on 2026-12-05».</translation>
+    </message>
+    <message>
+        <source>How many days to look ahead (default: 92; at most 3,660)</source>
+        <translation>Cuántos días se mira hacia adelante (por omisión, 92; como mucho 3660)</translation>
+    </message>
+    <message>
+        <source>Tell the first day on which less than this is there</source>
+        <translation>Decir el primer día en que hay menos que esto</translation>
+    </message>
+    <message>
+        <source>As if there were no such budget item (repeatable)</source>
+        <translation>Como si no existiera esa partida (repetible)</translation>
+    </message>
+    <message>
+        <source>Something more, as in &apos;900 on 2026-12-05&apos;; negative if it comes in (repeatable)</source>
+        <translation>Algo más, como «900 on 2026-12-05»; negativo si entra (repetible)</translation>
+    </message>
+    <message>
+        <source>List what is paid and received</source>
+        <translation>Enumerar lo que se paga y se recibe</translation>
+    </message>
+    <message>
+        <source>First day (default: today)</source>
+        <translation>Primer día (por omisión, hoy)</translation>
+    </message>
+    <message>
+        <source>Lowest</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>El</translation>
+    </message>
+    <message>
+        <source>Because of</source>
+        <translation>Por</translation>
+    </message>
+    <message>
+        <source>At the end</source>
+        <translation>Al final</translation>
+    </message>
+    <message>
+        <source>No bank has an open account.</source>
+        <translation>Ningún banco tiene una cuenta abierta.</translation>
+    </message>
+    <message>
+        <source>Nothing is expected.</source>
+        <translation>No se espera nada.</translation>
+    </message>
+    <message>
+        <source>Look ahead: the lowest day, and what can be spent until then</source>
+        <translation>Mirar adelante: el día más bajo y lo que se puede gastar hasta entonces</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

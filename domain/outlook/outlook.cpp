@@ -109,7 +109,11 @@ private:
 
     [[nodiscard]] bool hasEnded(const Expected &one) const
     {
-        return one.until && m_holdings.at(one.until->account) >= one.until->atLeast;
+        if (!one.until)
+            return false;
+        const Money &holding = m_holdings.at(one.until->account);
+        const auto enough = inCurrency(one.until->atLeast, holding.code());
+        return enough && holding >= *enough;
     }
 
     void post(Payment payment)

@@ -32,11 +32,11 @@ struct Expected {
     budgeting::BudgetItemIdentifier item;                              ///< what it is for
     numira::Money amount;                                              ///< of each date
     budgeting::EventFrequency every = budgeting::EventFrequency::None; ///< None: never
-    QDate next;                     ///< its next date; one that has passed is late
-    int dayOfMonth = 1;             ///< the day of the month that the item was given
-    accounting::AccountNumber from; ///< that pays
-    accounting::AccountNumber to;   ///< that is paid
-    std::optional<Ending> until = {};
+    QDate next;                       ///< its next date; one that has passed is late
+    int dayOfMonth = 1;               ///< the day of the month that the item was given
+    accounting::AccountNumber from;   ///< that pays
+    accounting::AccountNumber to;     ///< that is paid
+    std::optional<Ending> until = {}; ///< nothing if it has no end
 };
 
 /// Something that comes once: a transaction of a day to come, or what is asked about.
@@ -52,7 +52,8 @@ struct Once {
 struct Beginning {
     QDate first;  ///< the first day
     int days = 0; ///< how many days; at least 1
-    /// What each account holds before the first day. Of other accounts nothing is told.
+    /// What each account holds before what is expected on the first day. Of other accounts nothing
+    /// is told.
     std::map<accounting::AccountNumber, numira::Money> balances;
     std::set<accounting::AccountNumber> watched; ///< of these the days are told
     std::vector<Expected> expected;              ///< in the order in which one day has them

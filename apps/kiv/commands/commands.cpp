@@ -27,6 +27,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addSurveyCommands(root);
     addReconciliationCommands(root);
     addEnvelopeCommands(root);
+    addOutlookCommands(root);
     root.setHeading(QObject::tr("Reports and export"));
     addDashboardCommands(root);
     addReportCommands(root);

@@ -23,6 +23,7 @@ void addRuleCommands(CommandGroup &root);
 void addSurveyCommands(CommandGroup &root);
 void addReconciliationCommands(CommandGroup &root);
 void addEnvelopeCommands(CommandGroup &root);
+void addOutlookCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);
 void addReportCommands(CommandGroup &root);
 void addExportCommands(CommandGroup &root);

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/outlook/looking_ahead.h"
+
+#include "workbench/requests/paying_account.h"
+
+#include "accounting/account_types.h"
+
+namespace kiv::workbench {
+
+using accounting::AccountNumber;
+using accounting::AccountTypes;
+using accounting::LedgerAccount;
+using budgeting::BudgetedMoney;
+using budgeting::BudgetItemIdentifier;
+using budgeting::BudgetItemTypes;
+using numira::Money;
+using storage::BudgetStorage;
+
+namespace {
+
+/// What the outlook starts from, gathered from a budget.
+class Gathering {
+public:
+    Gathering(const BudgetStorage::Data &data, const OutlookQuestion &question)
+        : m_data(data), m_question(question)
+    {
+        m_beginning.first = question.first;
+        m_beginning.days = question.days;
+    }
+
+    outlook::Beginning made(std::vector<BudgetItemIdentifier> &unpaid)
+    {
+        gatherBalances();
+        m_data.budget.forEach([&](const BudgetedMoney &item) { add(item, unpaid); });
+        gatherEntries();
+        for (const OutlookQuestion::Once &one : m_question.with)
+            addAsked(one);
+        return std::move(m_beginning);
+    }
+
+private:
+    [[nodiscard]] QDate last() const { return m_question.first.addDays(m_question.days - 1); }
+
+    /// What the account is worth with all that was entered up to the first day.
+    [[nodiscard]] Money before(const LedgerAccount &account) const
+    {
+        const AccountNumber number = account.code().number();
+        const bool isOwed = account.type() == AccountTypes::Liability;
+        Money worth = isOwed ? -account.balance() : account.balance();
+        for (const accounting::Transaction &one : account.transactions()) {
+            if (one.occurredOn() <= m_question.first)
+                continue;
+            const Money &amount = one.amountFor(number);
+            worth += one.debiting().number() == number ? -amount : amount;
+        }
+        return worth;
+    }
+
+    void gatherBalances()
+    {
+        for (const accounting::AccountCode &code : m_data.generalLedger.accountCodes()) {
+            const LedgerAccount account = m_data.generalLedger.ledger(code);
+            const AccountNumber number = code.number();
+            if (account.type() != AccountTypes::Asset && account.type() != AccountTypes::Liability)
+                continue;
+            m_beginning.balances.emplace(number, before(account));
+            const auto bank = m_data.banks.find(number);
+            if (!account.isClosed() && bank &&
+                m_data.banks.bank(*bank).accounts().at(number) !=
+                    banking::BankAccountTypes::GoalSubAccount)
+                m_beginning.watched.insert(number);
+        }
+    }
+
+    void add(const BudgetedMoney &item, std::vector<BudgetItemIdentifier> &unpaid)
+    {
+        const BudgetItemIdentifier id{budgeting::toBudgetItemTypes(item), item.source()};
+        const auto own = accountOf(m_data, id);
+        if (m_question.without.contains(id) || !own ||
+            item.period() == budgeting::EventFrequency::None)
+            return;
+        const auto payer = payingAccount(m_data, id);
+        if (!payer) {
+            unpaid.push_back(id);
+            return;
+        }
+        outlook::Expected expected{
+            id, item.amount(), item.period(), item.nextOccurOn(), item.dayOfMonth(), *payer, *own};
+        if (id.type == BudgetItemTypes::Wage)
+            std::swap(expected.from, expected.to);
+        if (const auto holding = m_beginning.balances.find(*own);
+            holding != m_beginning.balances.end()) {
+            if (const auto *goal = dynamic_cast<const budgeting::Goal *>(&item))
+                expected.until = outlook::Ending{*own, goal->final()};
+            else if (id.type == BudgetItemTypes::Debt)
+                expected.until = outlook::Ending{*own, Money(holding->second.code())};
+        }
+        m_beginning.expected.push_back(std::move(expected));
+    }
+
+    /// Transactions of the days to come, each once.
+    void gatherEntries()
+    {
+        std::map<accounting::TransactionNumber, outlook::Once> entries;
+        for (const auto &[number, balance] : m_beginning.balances) {
+            for (const accounting::Transaction &one :
+                 m_data.generalLedger.ledger(number).transactions()) {
+                if (one.occurredOn() <= m_question.first || one.occurredOn() > last())
+                    continue;
+                entries.emplace(one.number().value(),
+                                outlook::Once{one.occurredOn(), one.amountFor(number),
+                                              one.crediting().number(), one.debiting().number(),
+                                              one.number()});
+            }
+        }
+        for (auto &[number, once] : entries)
+            m_beginning.once.push_back(std::move(once));
+    }
+
+    void addAsked(const OutlookQuestion::Once &one)
+    {
+        const auto payer = usualPayer(nullptr, m_data.banks, [this](AccountNumber number) {
+            return m_beginning.watched.contains(number);
+        });
+        if (!payer)
+            return;
+        // Of no account that is watched.
+        outlook::Once once{one.day, one.amount.abs(), *payer, AccountNumber()};
+        if (one.amount.isNegative())
+            std::swap(once.from, once.to);
+        m_beginning.once.push_back(std::move(once));
+    }
+
+    const BudgetStorage::Data &m_data;
+    const OutlookQuestion &m_question;
+    outlook::Beginning m_beginning;
+};
+
+} // namespace
+
+LookingAhead lookAhead(const BudgetStorage::Data &data, const OutlookQuestion &question,
+                       const numira::Currency &preferred)
+{
+    LookingAhead ahead;
+    ahead.outlook = outlook::look(Gathering(data, question).made(ahead.unpaid));
+    outlook::Outlook money = ahead.outlook;
+    std::erase_if(money.accounts, [&data](const auto &one) {
+        return data.generalLedger.ledger(one.first).type() == AccountTypes::Liability;
+    });
+    if (!money.accounts.empty())
+        ahead.together = money.together(preferred);
+    for (const outlook::Payment &one : ahead.outlook.payments) {
+        if (one.item && one.item->type == BudgetItemTypes::Wage && one.day > question.first) {
+            ahead.nextWage = one.day;
+            break;
+        }
+    }
+    if (ahead.together) {
+        std::optional<std::size_t> days;
+        if (ahead.nextWage)
+            days = static_cast<std::size_t>(question.first.daysTo(*ahead.nextWage));
+        ahead.free = ahead.together->least(days);
+    }
+    return ahead;
+}
+
+} // namespace kiv::workbench

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/export.h"
+
+#include "outlook/outlook.h"
+#include "storage/budget_storage.h"
+
+/// What is to come of a household's money.
+namespace kiv::workbench {
+
+/// What is asked, beside what the budget holds.
+struct OutlookQuestion {
+    /// Something that is not in the budget.
+    struct Once {
+        QDate day;            ///< of it
+        numira::Money amount; ///< negative when money comes in
+    };
+    QDate first;                                       ///< the first day
+    int days = 92;                                     ///< how many; at least 1
+    std::set<budgeting::BudgetItemIdentifier> without; ///< as if these were none
+    std::vector<Once> with = {}; ///< from or to the first account that can pay
+};
+
+/// The most days that are looked ahead.
+inline constexpr int outlookDaysMax = 3'660;
+
+/// What is to come.
+struct KIV_WORKBENCH_EXPORT LookingAhead {
+    /// The open accounts of banks that are watched: all but those of goals, whose money is set
+    /// aside. What is owed is below zero.
+    outlook::Outlook outlook;
+    /// The watched accounts that hold money and owe none, together in the preferred currency.
+    /// Nothing for want of an exchange rate, and without such an account.
+    std::optional<outlook::Curve> together;
+    /// The first day on which a wage comes, after the first day of all.
+    std::optional<QDate> nextWage;
+    /// What can be spent until then without ending a day below zero: the least of all days
+    /// before it. Without a wage of all days.
+    std::optional<numira::Money> free;
+    std::vector<budgeting::BudgetItemIdentifier> unpaid; ///< items for which no account can pay
+};
+
+/// Looks ahead from the budget's balances: with its transactions of days to come and every
+/// date of its items, each paid from payingAccount(). A goal that is reached and a debt that is
+/// paid off are paid no more. Throws what the overflow of an amount throws.
+[[nodiscard]] KIV_WORKBENCH_EXPORT LookingAhead lookAhead(const storage::BudgetStorage::Data &data,
+                                                          const OutlookQuestion &question,
+                                                          const numira::Currency &preferred);
+
+} // namespace kiv::workbench

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/outlook/outlook_text.h"
+
+#include "workbench/entry/money_text.h"
+
+#include "foundation/presentation.h"
+
+namespace kiv::workbench {
+
+using foundation::presentationText;
+
+QString nameOf(const outlook::Payment &payment, const AccountIndex &index)
+{
+    if (payment.item)
+        return payment.item->source.name();
+    if (!payment.entry)
+        return QObject::tr("what was asked about");
+    return QObject::tr("#%1, to %2")
+        .arg(accounting::presentationText(*payment.entry), index.plainName(payment.to));
+}
+
+QStringList sentencesOf(const LookingAhead &ahead, const std::optional<numira::Money> &floor,
+                        const AccountIndex &index, navigation::CurrencyDisplayOptions displayAs)
+{
+    if (!ahead.together)
+        return {};
+    const outlook::Curve &all = *ahead.together;
+    const std::size_t lowest = all.lowest();
+    const QString day = presentationText(ahead.outlook.day(lowest));
+    const QString amount = amountText(all.ends[lowest], displayAs);
+    QStringList told;
+    if (const auto cause = ahead.outlook.cause(all, lowest))
+        told +=
+            QObject::tr("Lowest on %1: %2, because of %3.").arg(day, amount, nameOf(*cause, index));
+    else
+        told += QObject::tr("Lowest on %1: %2.").arg(day, amount);
+    if (floor) {
+        const QString least = amountText(*floor, displayAs);
+        const auto below = all.firstBelow(*floor);
+        told += below ? QObject::tr("Below %1 for the first time on %2.")
+                            .arg(least, presentationText(ahead.outlook.day(*below)))
+                      : QObject::tr("Never below %1.").arg(least);
+    }
+    const QString free = amountText(*ahead.free, displayAs);
+    if (ahead.nextWage)
+        told += QObject::tr("Free until the next wage on %1: %2.")
+                    .arg(presentationText(*ahead.nextWage), free);
+    else
+        told += QObject::tr("Free until the end, without a wage: %1.").arg(free);
+    return told;
+}
+
+QStringList noticesOf(const LookingAhead &ahead)
+{
+    QStringList notices;
+    for (const outlook::LeftOut &one : ahead.outlook.leftOut) {
+        const QString rate =
+            QObject::tr("there is no exchange rate between %1 and %2")
+                .arg(foundation::toQString(one.rate.first), foundation::toQString(one.rate.second));
+        notices +=
+            one.item
+                ? QObject::tr("The outlook leaves '%1' out: %2.").arg(one.item->source.name(), rate)
+                : QObject::tr("The outlook leaves an entry out: %1.").arg(rate);
+    }
+    for (const budgeting::BudgetItemIdentifier &item : ahead.unpaid)
+        notices += QObject::tr("The outlook leaves '%1' out: no open account can pay it.")
+                       .arg(item.source.name());
+    if (!ahead.together && !ahead.outlook.accounts.empty())
+        notices += QObject::tr("Not all accounts can be added up: an exchange rate is missing.");
+    return notices;
+}
+
+} // namespace kiv::workbench

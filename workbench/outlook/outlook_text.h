@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/entry/account_index.h"
+#include "workbench/outlook/looking_ahead.h"
+
+#include "navigation/currency_display.h"
+
+#include <QtCore/QStringList>
+
+namespace kiv::workbench {
+
+/// The name of a payment: its item, or else the accounts that it moves.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString nameOf(const outlook::Payment &payment,
+                                                  const AccountIndex &index);
+
+/// The answers in words, the lowest day first: "Lowest on 2026-03-03: $12.00, because of
+/// Rent.", the first day below `floor`, what is free until the next wage.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList
+sentencesOf(const LookingAhead &ahead, const std::optional<numira::Money> &floor,
+            const AccountIndex &index, navigation::CurrencyDisplayOptions displayAs);
+
+/// What is left out, and why, each a sentence.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList noticesOf(const LookingAhead &ahead);
+
+} // namespace kiv::workbench
