@@ -4808,10 +4808,6 @@
         <translation>übrig</translation>
     </message>
     <message>
-        <source>of it set aside</source>
-        <translation>davon zurückgelegt</translation>
-    </message>
-    <message>
         <source>set aside</source>
         <translation>zurückgelegt</translation>
     </message>
@@ -4826,10 +4822,6 @@
     <message>
         <source>Where</source>
         <translation>Wo</translation>
-    </message>
-    <message>
-        <source>As the banks show it, with what is set aside there</source>
-        <translation>Wie die Banken es zeigen, mit dem dort Zurückgelegten</translation>
     </message>
     <message>
         <source>Apart</source>
@@ -5348,14 +5340,6 @@ Die Seiten stehen links. Strg+1 bis Strg+9 öffnen sie, F6 wechselt zwischen der
 In einem Formular tut Enter, was die erste Schaltfläche tut, und Esc gibt auf. Was abgelehnt wird, steht bei seinem Feld, und das Getippte bleibt. Beträge können Summen sein, wie 12+3.5. Tage können kurz sein: 3, 5-2, +7 oder T für heute.</translation>
     </message>
     <message>
-        <source>Home answers three questions: what is due, what lies in the accounts, and what needs care.
-
-Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account.</source>
-        <translation>Die Startseite beantwortet drei Fragen: was fällig ist, was auf den Konten liegt und was Aufmerksamkeit braucht.
-
-Jede fällige Zeile hat eigene Schaltflächen: bezahlen, überspringen oder für einen anderen Betrag zur Seite „Fällig“ gehen. Ein Saldo ist der der Bank, mit den Zielen, die auf dem Konto liegen.</translation>
-    </message>
-    <message>
         <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
         <translation>Alle Konten mit ihren Salden: Geld, was geschuldet wird, was zurückgelegt ist und wofür Geld ausgegeben wird oder woher es kommt. Enter öffnet das Register eines Kontos.</translation>
     </message>
@@ -5374,10 +5358,6 @@ Strg+F sucht: Wörter und Bedingungen wie &gt;50, march oder not:reconciled.</tr
     <message>
         <source>What is due soon and what is late. The form pays the chosen line from an account, pays another amount, or skips it. Several lines can be chosen with Shift and the arrow keys; they are one step of undo.</source>
         <translation>Was bald fällig und was überfällig ist. Das Formular bezahlt die gewählte Zeile von einem Konto, zahlt einen anderen Betrag oder überspringt sie. Mit Umschalt und den Pfeiltasten werden mehrere Zeilen gewählt; sie sind ein Schritt beim Rückgängigmachen.</translation>
-    </message>
-    <message>
-        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.</source>
-        <translation>Die Posten des Budgets in fünf Arten. Rechnungen, Schulden und freie Ausgaben werden bezahlt, für Ziele wird gespart, Löhne kommen herein. Jeder hat einen Betrag, wie oft er wiederkehrt und seinen nächsten Tag. Enter ändert einen Posten, Entf entfernt ihn.</translation>
     </message>
     <message>
         <source>The banks and their accounts. The kind of an account says whether its balance is money or a debt, and what can be tied to it.</source>
@@ -6755,6 +6735,70 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <source>Look ahead: the lowest day, and what can be spent until then</source>
         <translation>Vorausschauen: der tiefste Tag, und was bis dahin ausgegeben werden kann</translation>
     </message>
+    <message>
+        <source>There is no exchange rate between %1 and %2; it is needed for: %3.</source>
+        <translation>Zwischen %1 und %2 gibt es keinen Wechselkurs; er wird gebraucht für: %3.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s health is not judged, since an exchange rate is missing.</source>
+        <translation>Die Gesundheit des Budgets wird nicht beurteilt, weil ein Wechselkurs fehlt.</translation>
+    </message>
+    <message>
+        <source>Nothing is free to spend: %1 more is set aside than there is.</source>
+        <translation>Nichts ist frei verfügbar: Es ist %1 mehr zurückgelegt, als da ist.</translation>
+    </message>
+    <message>
+        <source>%1 is free to spend: %2 at the bank, of which %3 is set aside.</source>
+        <translation>%1 sind frei verfügbar: %2 bei der Bank, davon %3 zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>Still due until %1, of what is paid monthly: %2.</source>
+        <translation>Von dem, was monatlich bezahlt wird, ist bis zum %1 noch fällig: %2.</translation>
+    </message>
+    <message>
+        <source>Home answers four questions: what is free to spend, what is due, what else there is, and what needs care.
+
+Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
+        <translation>Die Startseite beantwortet vier Fragen: was frei verfügbar ist, was fällig ist, was sonst noch da ist und was Aufmerksamkeit braucht.
+
+Vom Saldo jedes Bankkontos ist ein Teil zurückgelegt, für Ziele und für das, was seltener als monatlich bezahlt wird; der Rest ist frei. Was in diesem Monat noch fällig ist, steht dabei. Enter auf einem Konto zeigt seine Zeilen.
+
+Jede fällige Zeile hat eigene Schaltflächen: bezahlen, überspringen oder für einen anderen Betrag zur Seite „Fällig“ gehen. Ein Saldo ist der der Bank, mit den Zielen, die auf dem Konto liegen. Ohne Wechselkurs stehen Beträge in ihrer eigenen Währung, und was Summen auslassen, wird genannt.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.
+
+Below the table stands how what is set aside for the chosen item comes about: what the last survey had, what was added since and why, and what was paid. A goal that is reached and a debt that is paid off can be ended there: they are due no longer. The last tab has all that is set aside, account by account; Enter shows the item.</source>
+        <translation>Die Posten des Budgets in fünf Arten. Rechnungen, Schulden und freie Ausgaben werden bezahlt, für Ziele wird gespart, Löhne kommen herein. Jeder hat einen Betrag, wie oft er wiederkehrt und seinen nächsten Tag. Enter ändert einen Posten, Entf entfernt ihn.
+
+Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zurückgelegt ist: was beim letzten Abgleich da war, was seitdem hinzukam und warum, und was bezahlt wurde. Ein erreichtes Ziel und eine abbezahlte Schuld können dort beendet werden: Sie sind dann nicht mehr fällig. Der letzte Reiter hat alles, was zurückgelegt ist, Konto für Konto; Enter zeigt den Posten.</translation>
+    </message>
+    <message>
+        <source>In goals at the banks</source>
+        <translation>In Zielen bei den Banken</translation>
+    </message>
+    <message>
+        <source>%1: %2 = %3 set aside + %4 free</source>
+        <translation>%1: %2 = %3 zurückgelegt + %4 frei</translation>
+    </message>
+    <message>
+        <source>%1: %2 = %3 set aside + %4 free; paid since %5: %6</source>
+        <translation>%1: %2 = %3 zurückgelegt + %4 frei; seit dem %5 bezahlt: %6</translation>
+    </message>
+    <message>
+        <source>Set aside at %1</source>
+        <translation>Zurückgelegt bei %1</translation>
+    </message>
+    <message>
+        <source>Adjusted</source>
+        <translation>Berichtigt</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Teil</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7849,6 +7893,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>Show: %1</source>
         <translation>Zeigen: %1</translation>
     </message>
+    <message>
+        <source>Free to spend</source>
+        <translation>Frei verfügbar</translation>
+    </message>
+    <message>
+        <source>Other balances</source>
+        <translation>Andere Salden</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HouseholdStep</name>
@@ -8249,6 +8301,17 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ItemExplained</name>
+    <message>
+        <source>End &amp;it</source>
+        <translation>Bee&amp;nden</translation>
+    </message>
+    <message>
+        <source>How it comes about</source>
+        <translation>Wie es zustande kommt</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemForm</name>
     <message>
         <source>&amp;Name:</source>
@@ -8368,6 +8431,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>removing the %1 “%2”</source>
         <translation>„%2“ (%1) entfernen</translation>
+    </message>
+    <message>
+        <source>Ended the %1 “%2”.</source>
+        <translation>Beendet: „%2“ (%1).</translation>
+    </message>
+    <message>
+        <source>ending the %1 “%2”</source>
+        <translation>„%2“ (%1) beenden</translation>
     </message>
 </context>
 <context>

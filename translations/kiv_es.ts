@@ -4808,10 +4808,6 @@
         <translation>sobrante</translation>
     </message>
     <message>
-        <source>of it set aside</source>
-        <translation>de ello apartado</translation>
-    </message>
-    <message>
         <source>set aside</source>
         <translation>apartado</translation>
     </message>
@@ -4826,10 +4822,6 @@
     <message>
         <source>Where</source>
         <translation>Dónde</translation>
-    </message>
-    <message>
-        <source>As the banks show it, with what is set aside there</source>
-        <translation>Como lo muestran los bancos, con lo apartado allí</translation>
     </message>
     <message>
         <source>Apart</source>
@@ -5348,14 +5340,6 @@ Las páginas están a un lado. Ctrl+1 a Ctrl+9 las abren, F6 pasa de la lista a 
 En un formulario, Intro hace lo que hace su primer botón, y Esc lo deja. Lo que se rechaza se dice en su campo, y lo escrito se queda. Los importes pueden ser sumas, como 12+3.5. Los días pueden ser cortos: 3, 5-2, +7 o T para hoy.</translation>
     </message>
     <message>
-        <source>Home answers three questions: what is due, what lies in the accounts, and what needs care.
-
-Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account.</source>
-        <translation>El inicio responde a tres preguntas: qué vence, qué hay en las cuentas y qué requiere atención.
-
-Cada línea de lo que vence tiene sus botones: pagarla, omitirla o ir a la página de vencimientos para otro importe. Un saldo es el del banco, con las metas que están en la cuenta.</translation>
-    </message>
-    <message>
         <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
         <translation>Todas las cuentas con sus saldos: el dinero, lo que se debe, lo que está apartado y en qué se gasta o de dónde viene. Intro abre el registro de una cuenta.</translation>
     </message>
@@ -5374,10 +5358,6 @@ Ctrl+F busca: palabras y condiciones como &gt;50, march o not:reconciled.</trans
     <message>
         <source>What is due soon and what is late. The form pays the chosen line from an account, pays another amount, or skips it. Several lines can be chosen with Shift and the arrow keys; they are one step of undo.</source>
         <translation>Lo que vence pronto y lo atrasado. El formulario paga la línea elegida desde una cuenta, paga otro importe o la omite. Con Mayús y las flechas se eligen varias líneas; se deshacen en un solo paso.</translation>
-    </message>
-    <message>
-        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.</source>
-        <translation>Las partidas del presupuesto, de cinco clases. Las facturas, las deudas y el gasto libre se pagan, para las metas se ahorra, los salarios entran. Cada una tiene un importe, cada cuánto se repite y su próximo día. Intro cambia una partida, Supr la elimina.</translation>
     </message>
     <message>
         <source>The banks and their accounts. The kind of an account says whether its balance is money or a debt, and what can be tied to it.</source>
@@ -6755,6 +6735,70 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <source>Look ahead: the lowest day, and what can be spent until then</source>
         <translation>Mirar adelante: el día más bajo y lo que se puede gastar hasta entonces</translation>
     </message>
+    <message>
+        <source>There is no exchange rate between %1 and %2; it is needed for: %3.</source>
+        <translation>No hay tipo de cambio entre %1 y %2; se necesita para: %3.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s health is not judged, since an exchange rate is missing.</source>
+        <translation>No se evalúa la salud del presupuesto, porque falta un tipo de cambio.</translation>
+    </message>
+    <message>
+        <source>Nothing is free to spend: %1 more is set aside than there is.</source>
+        <translation>No hay nada libre para gastar: se ha apartado %1 más de lo que hay.</translation>
+    </message>
+    <message>
+        <source>%1 is free to spend: %2 at the bank, of which %3 is set aside.</source>
+        <translation>Hay %1 libres para gastar: %2 en el banco, de los que %3 están apartados.</translation>
+    </message>
+    <message>
+        <source>Still due until %1, of what is paid monthly: %2.</source>
+        <translation>De lo que se paga cada mes, aún vence hasta el %1: %2.</translation>
+    </message>
+    <message>
+        <source>Home answers four questions: what is free to spend, what is due, what else there is, and what needs care.
+
+Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
+        <translation>El inicio responde a cuatro preguntas: qué queda libre para gastar, qué vence, qué más hay y qué requiere atención.
+
+Del saldo de cada cuenta bancaria, una parte está apartada para las metas y para lo que se paga con menos frecuencia que cada mes; el resto está libre. Al lado se dice lo que aún vence este mes. Intro en una cuenta muestra sus líneas.
+
+Cada línea de lo que vence tiene sus botones: pagarla, omitirla o ir a la página de vencimientos para otro importe. Un saldo es el del banco, con las metas que están en la cuenta. Sin tipo de cambio, los importes se muestran en su propia moneda, y se nombra lo que las sumas dejan fuera.</translation>
+    </message>
+    <message>
+        <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.
+
+Below the table stands how what is set aside for the chosen item comes about: what the last survey had, what was added since and why, and what was paid. A goal that is reached and a debt that is paid off can be ended there: they are due no longer. The last tab has all that is set aside, account by account; Enter shows the item.</source>
+        <translation>Las partidas del presupuesto, de cinco clases. Las facturas, las deudas y el gasto libre se pagan, para las metas se ahorra, los salarios entran. Cada una tiene un importe, cada cuánto se repite y su próximo día. Intro cambia una partida, Supr la elimina.
+
+Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegida: lo que tenía la última conciliación, lo que se añadió desde entonces y por qué, y lo que se pagó. Una meta alcanzada y una deuda pagada se pueden terminar ahí: ya no vencen. La última pestaña tiene todo lo apartado, cuenta por cuenta; Intro muestra la partida.</translation>
+    </message>
+    <message>
+        <source>In goals at the banks</source>
+        <translation>En metas en los bancos</translation>
+    </message>
+    <message>
+        <source>%1: %2 = %3 set aside + %4 free</source>
+        <translation>%1: %2 = %3 apartado + %4 libre</translation>
+    </message>
+    <message>
+        <source>%1: %2 = %3 set aside + %4 free; paid since %5: %6</source>
+        <translation>%1: %2 = %3 apartado + %4 libre; pagado desde el %5: %6</translation>
+    </message>
+    <message>
+        <source>Set aside at %1</source>
+        <translation>Apartado en %1</translation>
+    </message>
+    <message>
+        <source>Adjusted</source>
+        <translation>Ajustado</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Parte</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7849,6 +7893,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>Show: %1</source>
         <translation>Mostrar: %1</translation>
     </message>
+    <message>
+        <source>Free to spend</source>
+        <translation>Libre para gastar</translation>
+    </message>
+    <message>
+        <source>Other balances</source>
+        <translation>Otros saldos</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HouseholdStep</name>
@@ -8249,6 +8301,17 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ItemExplained</name>
+    <message>
+        <source>End &amp;it</source>
+        <translation>&amp;Terminar</translation>
+    </message>
+    <message>
+        <source>How it comes about</source>
+        <translation>Cómo se llega a ello</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemForm</name>
     <message>
         <source>&amp;Name:</source>
@@ -8368,6 +8431,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>removing the %1 “%2”</source>
         <translation>eliminar «%2» (%1)</translation>
+    </message>
+    <message>
+        <source>Ended the %1 “%2”.</source>
+        <translation>Se terminó «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>ending the %1 “%2”</source>
+        <translation>terminar «%2» (%1)</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 
 #include "desktop/page_keys.h"
 
+#include "workbench/surveys/survey_form.h"
+
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -30,13 +32,8 @@ private slots:
                     {Qt::Key_X, u"2027-01-31"_s},
                     {Qt::Key_M, u"fun, \"a, \"\"b\"\"\""_s}});
         press(home, Qt::Key_Return);
-        QCOMPARE(row(home), (QStringList{u"Gym"_s,
-                                         dollars("30"),
-                                         u"quarterly"_s,
-                                         day(2027, 1, 31),
-                                         dollars("10"),
-                                         {},
-                                         u"\"a, \"\"b\"\"\", fun"_s}));
+        QCOMPARE(row(home), (QStringList{u"Gym"_s, dollars("30"), u"quarterly"_s, day(2027, 1, 31),
+                                         dollars("10"), dollars("0"), u"\"a, \"\"b\"\"\", fun"_s}));
         QVERIFY(table(home).hasFocus());
         QCOMPARE(home.document().undoable()->undone, u"adding the bill “Gym”"_s);
         const budgeting::BudgetItemIdentifier gym{budgeting::BudgetItemTypes::Bill,
@@ -71,6 +68,13 @@ private slots:
         QCOMPARE(row(home)[5], u"%1 of %2 (25 %)"_s.arg(dollars("103.99"), dollars("400")));
         move(home, "Car", "Checking", "296.01");
         QCOMPARE(row(home)[5], u"reached: %1 of %1"_s.arg(dollars("400")));
+        press(home, Qt::Key_I, Qt::AltModifier);
+        QCOMPARE(row(home)[2], u"none"_s);
+        QVERIFY(table(home).hasFocus());
+        QVERIFY(!part<QWidget>(home, "end").isVisible());
+        home.trigger("undo");
+        QCOMPARE(row(home)[2], u"monthly"_s);
+        QVERIFY(part<QWidget>(home, "end").isVisible());
         QCOMPARE(home.requests().accounts().find(u"Car"_s).code().parent(),
                  home.requests().accounts().find(u"Checking"_s).code().number());
         goTo(home, "items/debt/new");
@@ -94,6 +98,45 @@ private slots:
         fill(home, {{Qt::Key_B, u"none"_s}});
         press(home, Qt::Key_Return);
         QCOMPARE(home.requests().bank(u"First"_s).accounts().size(), kept.size() - 1);
+    }
+
+    void whatIsSetAsideIsExplainedLineByLine()
+    {
+        SmallHousehold home;
+        show(home, "items");
+        const QDate today = foundation::today();
+        home.document().perform({u"Surveyed"_s, {}, {}}, [&] {
+            workbench::ItemValues yearly;
+            workbench::readValue(u"600"_s, yearly.amount.emplace());
+            yearly.every = budgeting::EventFrequency::Yearly;
+            workbench::addItem<budgeting::Bill>(home.requests(),
+                                                navigation::GuiElementIdentifier(1), u"Tax"_s,
+                                                yearly, today.addMonths(8), {});
+            auto survey =
+                workbench::SurveyForm::propose(home.requests(), u"First"_s, u"Checking"_s, today);
+            survey.distribution.clear();
+            survey.distribute(home.requests(), u"Tax=150"_s);
+            survey.complete(home.requests());
+        });
+        move(home, "Tax", "Checking", "60");
+        goTo(home, "items/bill/Tax");
+        QCOMPARE(row(home)[5], dollars("90"));
+        QCOMPARE(texts(home, 0, "parts"), QStringList({u"Set aside at Checking"_s, u"Before"_s,
+                                                       u"Added"_s, u"Paid"_s, u"Now"_s}));
+        QCOMPARE(texts(home, 1, "parts").mid(1),
+                 QStringList({dollars("150"), dollars("0"), dollars("-60"), dollars("90")}));
+        QCOMPARE(texts(home, 2, "parts")[3], u"paid: "_s + foundation::presentationText(today));
+        goTo(home, "items/bill/Rent"); // paid monthly
+        QVERIFY(!table(home, "parts").isVisible());
+        goTo(home, "items/aside/" + number(home, u"Checking"_s));
+        QCOMPARE(texts(home, 0).first(),
+                 u"Checking: %1 = %2 set aside + %3 free; paid since %4: %5"_s.arg(
+                     dollars("2940"), dollars("90"), dollars("2850"),
+                     foundation::presentationText(today), dollars("60")));
+        QCOMPARE(row(home).mid(0, 6), QStringList({u"Tax"_s, dollars("150"), dollars("0"),
+                                                   dollars("-60"), dollars("0"), dollars("90")}));
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.window().page()->detail(), u"bill/Tax"_s);
     }
 
     void aMissingRateHindersNoChange()

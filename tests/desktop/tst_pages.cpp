@@ -3,6 +3,7 @@
 
 #include "desktop/page_keys.h"
 
+#include "workbench/document/bank_steps.h"
 #include "workbench/versions/kept_versions.h"
 
 #include <QtWidgets/QComboBox>
@@ -195,7 +196,7 @@ private slots:
         press(home, Qt::Key_Space);
         QCOMPARE(home.requests().transactions().back().amount(), test::usd("900"));
         QCOMPARE(focus(), u"Pay: Phone, $20.00, today"_s);
-        QCOMPARE(texts(home, 2).at(1), dollars("2100")); // Checking, below its heading
+        QCOMPARE(texts(home, 2, "free"), QStringList{dollars("2100")});
         press(home, Qt::Key_Tab);
         press(home, Qt::Key_Space);
         QCOMPARE(focus(), u"Skip: Salary, $2,500.00, in 2 days"_s);
@@ -213,6 +214,18 @@ private slots:
         home.document().perform({u"More"_s, {}, {}}, [&] {
             home.addItem<budgeting::Bill>("Server", "500 JPY", foundation::today());
             home.addItem<budgeting::Wage>("Royalties", "300 JPY", foundation::today().addDays(1));
+            workbench::ItemValues hotel;
+            workbench::readValue(u"120 EUR"_s, hotel.amount.emplace());
+            hotel.every = budgeting::EventFrequency::Yearly;
+            workbench::addItem<budgeting::Bill>(home.requests(),
+                                                navigation::GuiElementIdentifier(1), u"Hotel"_s,
+                                                hotel, foundation::today().addMonths(5), {});
+            workbench::addBankAccount(home.document(),
+                                      {u"Tokyo"_s,
+                                       banking::BankName(u"First"_s),
+                                       banking::BankAccountTypes::Savings,
+                                       numira::Money(numira::toCurrency("JPY"), 700, 0),
+                                       {}});
         });
         for (desktop::Page *page : home.window().pages()) {
             home.trigger("page " + page->id().toUtf8());
@@ -225,7 +238,12 @@ private slots:
                 labels, [&text](const QLabel *label) { return label->text().contains(text); });
         };
         QVERIFY(says(u"There is no exchange rate for JPY; balances leave it out."_s));
-        QVERIFY(says(u"There is no exchange rate between JPY and USD."_s));
+        QVERIFY(says(u"There is no exchange rate between JPY, EUR and USD; it is needed for: "_s
+                     u"Hotel, Server, Royalties, Tokyo."_s));
+        QVERIFY(says(u"The sum at Checking leaves 'Hotel' out. "_s
+                     u"There is no exchange rate between EUR and USD."_s));
+        QCOMPARE(texts(home, 4, "free"), QStringList({dollars("3000"), u"¥700"_s}));
+        QVERIFY(says(u"¥700 is free to spend"_s));
         QVERIFY(says(u": ¥500, $920.00. "_s));
         home.trigger("page due");
         QCOMPARE(texts(home, 5),

@@ -37,6 +37,7 @@ What is set aside at a bank, and why. The household is the one that docs/domain.
   Still due until 2026-03-31, of what is paid monthly
   Due         Item  Kind   Amount
   2026-03-28  Rent  bill  $900.00
+  $7,995.00 is free to spend: $8,495.00 at the bank, of which $500.00 is set aside.
   The goal 'Trip' has $300.00 of $1,200.00, 25 %.
   Checking was never reconciled; its lines count from 2025-12-31.
   Savings was never reconciled; its lines count from 2026-02-28.

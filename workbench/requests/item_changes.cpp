@@ -153,6 +153,14 @@ void updateItem(Requests &requests, GuiElementIdentifier caller, const BudgetVie
     });
 }
 
+void endItem(Requests &requests, GuiElementIdentifier caller, const BudgetView &view,
+             const BudgetItemIdentifier &id)
+{
+    ItemValues values;
+    values.every = EventFrequency::None;
+    updateItem(requests, caller, view, id, values);
+}
+
 void renameItem(Requests &requests, GuiElementIdentifier caller, const BudgetItemIdentifier &id,
                 const BudgetSource &name)
 {

@@ -11,9 +11,9 @@ namespace kiv::workbench {
 
 /// The given values of an item besides its name.
 struct ItemValues {
-    std::optional<Amount> amount;                   ///< each time
-    std::optional<budgeting::EventFrequency> every; ///< how often
-    std::optional<QDate> next;                      ///< the next due date
+    std::optional<Amount> amount;                    ///< each time
+    std::optional<budgeting::EventFrequency> every;  ///< how often
+    std::optional<QDate> next;                       ///< the next due date
     std::optional<Amount> extra;                     ///< the borrowed amount, or the target
     std::optional<tagging::Tags> tags;               ///< all tags, possibly none
     std::optional<banking::BankAccount> bankAccount; ///< of a debt or goal
@@ -49,6 +49,11 @@ KIV_WORKBENCH_EXPORT void updateItem(Requests &requests, navigation::GuiElementI
                                      const BudgetView &view,
                                      const budgeting::BudgetItemIdentifier &id,
                                      const ItemValues &given);
+/// Lets a goal that is reached or a debt that is paid off recur no longer, so that it is not
+/// due again. Throws as updateItem() does.
+KIV_WORKBENCH_EXPORT void endItem(Requests &requests, navigation::GuiElementIdentifier caller,
+                                  const BudgetView &view,
+                                  const budgeting::BudgetItemIdentifier &id);
 /// Gives an item another name. Throws a Refusal.
 KIV_WORKBENCH_EXPORT void renameItem(Requests &requests, navigation::GuiElementIdentifier caller,
                                      const budgeting::BudgetItemIdentifier &id,

@@ -2,7 +2,9 @@
 #include "workbench/surveys/needed_care.h"
 
 #include "workbench/entry/account_index.h"
+#include "workbench/requests/account_groups.h"
 #include "workbench/requests/exchange_rates.h"
+#include "workbench/surveys/set_aside_text.h"
 #include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/presentation.h"
@@ -74,27 +76,53 @@ void addLongNotReconciled(const BudgetStorage::Data &data, QDate today, std::vec
     }
 }
 
+/// The items and the other accounts of these currencies.
+QStringList namesIn(const BudgetStorage::Data &data, const std::set<numira::Currency> &currencies)
+{
+    QStringList names;
+    data.budget.forEach([&](const budgeting::BudgetedMoney &item) {
+        if (currencies.contains(item.amount().code()))
+            names += item.source().name();
+    });
+    for (const GroupedAccount &one : groupedAccounts(data)) {
+        // The user made no account of equity.
+        if (one.account.type() != accounting::AccountTypes::Equity &&
+            currencies.contains(one.account.balance().code()) && !names.contains(one.name))
+            names += one.name;
+    }
+    return names;
+}
+
 void addMissingRates(Requests &requests, const BudgetStorage::Data &data, std::vector<Care> &all)
 {
     const numira::Currency preferred = requests.preferredCurrency();
     std::set<numira::Currency> used = budgeting::containedCurrencies(data.budget);
     used.merge(accounting::containedCurrencies(data.generalLedger));
     QStringList missing;
+    std::set<numira::Currency> lacking;
     for (const numira::Currency &currency : used) {
-        if (!convertedIfKnown(numira::Money(currency, 1, 0), preferred))
-            missing += foundation::toQString(currency);
+        if (convertedIfKnown(numira::Money(currency, 1, 0), preferred))
+            continue;
+        missing += foundation::toQString(currency);
+        lacking.insert(currency);
     }
     if (!missing.isEmpty())
         all.push_back(
             {About::Rates,
-             QObject::tr("There is no exchange rate between %1 and %2.")
-                 .arg(QLocale().createSeparatedList(missing), foundation::toQString(preferred)),
+             QObject::tr("There is no exchange rate between %1 and %2; it is needed for: %3.")
+                 .arg(QLocale().createSeparatedList(missing), foundation::toQString(preferred),
+                      QLocale().createSeparatedList(namesIn(data, lacking))),
              std::nullopt});
 }
 
 void addHealth(Requests &requests, std::vector<Care> &all)
 {
     const std::optional<adviser::BudgetHealth> health = healthOf(requests);
+    if (!health)
+        all.push_back(
+            {About::Rates,
+             QObject::tr("The budget's health is not judged, since an exchange rate is missing."),
+             std::nullopt});
     if (!health || health->grade() == adviser::HealthGrade::Unknown)
         return;
     for (const adviser::HealthReason &reason : health->reasons()) {
@@ -132,6 +160,19 @@ std::vector<Care> neededCare(Document &document, QDate today)
     addLongNotReconciled(data, today, all);
     addHealth(document.requests(), all);
     return all;
+}
+
+std::vector<Care> setAsideCare(const Envelopes &all, const accounting::GeneralLedger &ledger,
+                               navigation::CurrencyDisplayOptions displayAs)
+{
+    std::vector<Care> cares;
+    for (const SetAside &one : all.accounts) {
+        for (const QString &sentence : warningsOf(one, ledger, displayAs))
+            cares.push_back({About::SetAside, sentence, one.account.account.number});
+    }
+    for (const QString &sentence : sharedNoticesOf(all, ledger, displayAs))
+        cares.push_back({About::SetAside, sentence, std::nullopt});
+    return cares;
 }
 
 } // namespace kiv::workbench

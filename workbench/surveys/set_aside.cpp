@@ -301,4 +301,28 @@ Envelopes envelopes(const BudgetStorage::Data &data,
     return all;
 }
 
+std::map<Currency, SetAsideSum> sumsOf(const Envelopes &all)
+{
+    std::map<Currency, SetAsideSum> sums;
+    for (const SetAside &one : all.accounts) {
+        const Currency currency = one.balance.code();
+        const Money none(currency);
+        SetAsideSum &sum = sums.try_emplace(currency, SetAsideSum{none, none}).first->second;
+        sum.balance += one.balance;
+        sum.setAside += one.total;
+    }
+    return sums;
+}
+
+std::vector<SetAsideHere> linesOf(const Envelopes &all, const BudgetItemIdentifier &item)
+{
+    std::vector<SetAsideHere> found;
+    for (const SetAside &one : all.accounts) {
+        const auto line = std::ranges::find(one.lines, item, &SetAsideLine::item);
+        if (line != one.lines.end())
+            found.push_back({&one, &*line});
+    }
+    return found;
+}
+
 } // namespace kiv::workbench

@@ -7,6 +7,7 @@
 #include "storage/budget_storage.h"
 #include "surveying/reconciliation.h"
 
+#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -101,6 +102,29 @@ struct Envelopes {
     QDate dueUntil;                                     ///< the last day of that month
     std::vector<budgeting::BudgetItemAmountDue> dueYet; ///< monthly payments until then
 };
+
+/// What several accounts come to together, in one currency.
+struct KIV_WORKBENCH_EXPORT SetAsideSum {
+    numira::Money balance;  ///< of the accounts
+    numira::Money setAside; ///< of that
+
+    /// What is set aside for nothing; negative if more is set aside than there is.
+    [[nodiscard]] numira::Money free() const { return balance - setAside; }
+};
+
+/// The sums of all accounts, currencies apart.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::map<numira::Currency, SetAsideSum>
+sumsOf(const Envelopes &all);
+
+/// A line and the account at which it is; both belong to the envelopes that were asked.
+struct SetAsideHere {
+    const SetAside *account = nullptr;  ///< where it is
+    const SetAsideLine *line = nullptr; ///< of the item
+};
+
+/// The lines of an item: several while no survey has it.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<SetAsideHere>
+linesOf(const Envelopes &all, const budgeting::BudgetItemIdentifier &item);
 
 /// What is set aside at a bank account on a day. The account must be there. Never throws for
 /// want of an exchange rate: what cannot be converted is named and not added.

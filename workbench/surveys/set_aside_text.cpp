@@ -31,7 +31,8 @@ QString beforeText(const SetAsideLine &line, const SetAside &account)
 }
 
 /// "#16, #17", the first few of them.
-QString numbersText(const std::vector<accounting::TransactionNumber> &postings)
+QString postingsText(const std::vector<accounting::TransactionNumber> &postings,
+                     const PostingName &nameOf)
 {
     constexpr std::size_t shownMax = 4;
     QStringList numbers;
@@ -40,7 +41,7 @@ QString numbersText(const std::vector<accounting::TransactionNumber> &postings)
             numbers += QStringLiteral("…");
             break;
         }
-        numbers += QLatin1Char('#') + accounting::presentationText(number);
+        numbers += nameOf(number);
     }
     return numbers.join(QStringLiteral(", "));
 }
@@ -51,12 +52,6 @@ QString shareText(const SetAsideLine &line, const SetAside &account,
     return QObject::tr("%1 %2 = %3 a month, %n months", nullptr, account.months)
         .arg(amountText(line.amount, displayAs), budgeting::presentationText(line.every),
              amountText(line.monthly.rounded(), displayAs));
-}
-
-QString lackingText(const LackingRate &lacking)
-{
-    return QObject::tr("There is no exchange rate between %1 and %2.")
-        .arg(foundation::toQString(lacking.first), foundation::toQString(lacking.second));
 }
 
 QString strandedText(const StrandedAmount &one, const accounting::GeneralLedger &ledger,
@@ -86,44 +81,85 @@ QString strandedText(const StrandedAmount &one, const accounting::GeneralLedger 
                             "line shows it."));
 }
 
+QString freeText(const SetAsideSum &sum, navigation::CurrencyDisplayOptions displayAs)
+{
+    const numira::Money free = sum.free();
+    if (free.isNegative())
+        return QObject::tr("Nothing is free to spend: %1 more is set aside than there is.")
+            .arg(amountText(-free, displayAs));
+    return QObject::tr("%1 is free to spend: %2 at the bank, of which %3 is set aside.")
+        .arg(amountText(free, displayAs), amountText(sum.balance, displayAs),
+             amountText(sum.setAside, displayAs));
+}
+
 } // namespace
 
+QString postingNumber(accounting::TransactionNumber number)
+{
+    return QLatin1Char('#') + accounting::presentationText(number);
+}
+
+QString lackingRateText(const LackingRate &lacking)
+{
+    return QObject::tr("There is no exchange rate between %1 and %2.")
+        .arg(foundation::toQString(lacking.first), foundation::toQString(lacking.second));
+}
+
+QString freeText(const Envelopes &all, navigation::CurrencyDisplayOptions displayAs)
+{
+    QStringList sentences;
+    for (const auto &[currency, sum] : sumsOf(all))
+        sentences += freeText(sum, displayAs);
+    return sentences.join(QLatin1Char(' '));
+}
+
+QString stillDueText(const Envelopes &all, navigation::CurrencyDisplayOptions displayAs)
+{
+    std::map<numira::Currency, Money> due;
+    for (const budgeting::BudgetItemAmountDue &one : all.dueYet)
+        due.try_emplace(one.amount.code(), one.amount.code()).first->second += one.amount;
+    QStringList amounts;
+    for (const auto &[currency, amount] : due)
+        amounts += amountText(amount, displayAs);
+    if (amounts.isEmpty())
+        return {};
+    return QObject::tr("Still due until %1, of what is paid monthly: %2.")
+        .arg(presentationText(all.dueUntil), QLocale().createSeparatedList(amounts));
+}
+
 PartReasons reasonsOf(const SetAsideLine &line, const SetAside &account,
-                      navigation::CurrencyDisplayOptions displayAs)
+                      navigation::CurrencyDisplayOptions displayAs, const PostingName &nameOf)
 {
     if (!line.parts)
         return {};
     const SetAsideParts &parts = *line.parts;
-    const QString numbers = numbersText(line.postings);
+    const QString postings = postingsText(line.postings, nameOf);
     PartReasons reasons;
     reasons.before = beforeText(line, account);
     if (!line.isByAccount) {
         reasons.added = shareText(line, account, displayAs);
         if (!line.postings.empty())
-            reasons.paid = QObject::tr("paid: %1").arg(numbers);
+            reasons.paid = QObject::tr("paid: %1").arg(postings);
         if (!parts.adjusted.isZero())
             reasons.adjusted = QObject::tr("%1 more was paid than was set aside")
                                    .arg(amountText(parts.adjusted, displayAs));
         return reasons;
     }
     if (!parts.added.isZero())
-        reasons.added = QObject::tr("put into its account: %1").arg(numbers);
+        reasons.added = QObject::tr("put into its account: %1").arg(postings);
     if (!parts.paid.isZero())
-        reasons.paid = QObject::tr("taken out of its account: %1").arg(numbers);
+        reasons.paid = QObject::tr("taken out of its account: %1").arg(postings);
     if (!parts.adjusted.isZero())
         reasons.adjusted = QObject::tr("%1 to the balance of its account")
                                .arg(amountText(parts.adjusted, displayAs));
     return reasons;
 }
 
-QStringList noticesOf(const SetAside &account, const accounting::GeneralLedger &ledger,
-                      navigation::CurrencyDisplayOptions displayAs)
+QStringList warningsOf(const SetAside &account, const accounting::GeneralLedger &ledger,
+                       navigation::CurrencyDisplayOptions displayAs)
 {
     const QString name = nameOf(account.account.account.number, ledger);
     QStringList notices;
-    if (!account.reconciledOn)
-        notices += QObject::tr("%1 was never reconciled; its lines count from %2.")
-                       .arg(name, presentationText(account.start));
     if (account.free().isNegative())
         notices += QObject::tr("At %1, %2 more is set aside than there is.")
                        .arg(name, amountText(-account.free(), displayAs));
@@ -131,7 +167,7 @@ QStringList noticesOf(const SetAside &account, const accounting::GeneralLedger &
         if (line.lackingRate)
             notices +=
                 QObject::tr("The sum at %1 leaves '%2' out.").arg(name, line.item.source.name()) +
-                QLatin1Char(' ') + lackingText(*line.lackingRate);
+                QLatin1Char(' ') + lackingRateText(*line.lackingRate);
         if (line.isOutside)
             notices += QObject::tr("The money of '%1' is in an account of its own that is not "
                                    "under %2, so the balance does not count it.")
@@ -140,8 +176,19 @@ QStringList noticesOf(const SetAside &account, const accounting::GeneralLedger &
     for (const auto &[child, lacking] : account.leftOut)
         notices +=
             QObject::tr("The balance of %1 leaves '%2' out.").arg(name, nameOf(child, ledger)) +
-            QLatin1Char(' ') + lackingText(lacking);
+            QLatin1Char(' ') + lackingRateText(lacking);
     return notices;
+}
+
+QStringList noticesOf(const SetAside &account, const accounting::GeneralLedger &ledger,
+                      navigation::CurrencyDisplayOptions displayAs)
+{
+    QStringList notices;
+    if (!account.reconciledOn)
+        notices += QObject::tr("%1 was never reconciled; its lines count from %2.")
+                       .arg(nameOf(account.account.account.number, ledger),
+                            presentationText(account.start));
+    return notices + warningsOf(account, ledger, displayAs);
 }
 
 QStringList sharedNoticesOf(const Envelopes &all, const accounting::GeneralLedger &ledger,

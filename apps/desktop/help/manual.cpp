@@ -26,11 +26,15 @@ QMap<QString, QString> texts()
 {
     return {
         {QStringLiteral("home"),
-         QObject::tr("Home answers three questions: what is due, what lies in the accounts, and "
-                     "what needs care.\n\n"
+         QObject::tr("Home answers four questions: what is free to spend, what is due, what else "
+                     "there is, and what needs care.\n\n"
+                     "Of the balance of each bank account, a part is set aside for what is paid "
+                     "less often than monthly and for goals; the rest is free. What is still due "
+                     "this month is told beside it. Enter on an account shows its lines.\n\n"
                      "Each line of what is due has its own buttons: pay it, skip it, or go to the "
                      "page “Due” for another amount. A balance is that of the bank, with the "
-                     "goals that lie in the account.")},
+                     "goals that lie in the account. Without an exchange rate, amounts are shown "
+                     "in their own currency, and what sums leave out is named.")},
         {QStringLiteral("accounts"),
          QObject::tr("All accounts with their balances: money, what is owed, what is set aside, "
                      "and what money is spent on or comes from. Enter opens the register of an "
@@ -51,7 +55,12 @@ QMap<QString, QString> texts()
         {QStringLiteral("items"),
          QObject::tr("The budget's items of five kinds. Bills, debts and free spending are paid, "
                      "goals are saved for, wages come in. Each has an amount, how often it recurs "
-                     "and its next day. Enter changes an item, Del removes it.")},
+                     "and its next day. Enter changes an item, Del removes it.\n\n"
+                     "Below the table stands how what is set aside for the chosen item comes "
+                     "about: what the last survey had, what was added since and why, and what was "
+                     "paid. A goal that is reached and a debt that is paid off can be ended "
+                     "there: they are due no longer. The last tab has all that is set aside, "
+                     "account by account; Enter shows the item.")},
         {QStringLiteral("banks"),
          QObject::tr("The banks and their accounts. The kind of an account says whether its "
                      "balance is money or a debt, and what can be tied to it.")},

@@ -19,10 +19,10 @@ bool isShown(const GroupedAccount &one)
             one.group == AccountGroup::SetAside);
 }
 
-/// What is set aside at a bank is part of what the bank shows.
+/// What goals hold at a bank is part of what the bank shows.
 bool isAtBank(const GroupedAccount &one)
 {
-    return one.group != AccountGroup::Owed && one.bank;
+    return one.group == AccountGroup::SetAside && one.bank;
 }
 
 QString whereText(const GroupedAccount &one)
@@ -30,7 +30,7 @@ QString whereText(const GroupedAccount &one)
     const QString bank = one.bank ? one.bank->institution() : QString();
     switch (one.group) {
     case AccountGroup::SetAside:
-        return one.bank ? QObject::tr("of it set aside") : QObject::tr("set aside");
+        return one.bank ? bank : QObject::tr("set aside");
     case AccountGroup::Owed:
         return one.bank ? QObject::tr("owed to %1").arg(bank) : QObject::tr("owed");
     default:
@@ -56,23 +56,25 @@ QStringList balanceColumns()
     return {QObject::tr("Account"), QObject::tr("Where"), QObject::tr("Balance")};
 }
 
-std::vector<Row> balanceRows(workbench::Document &document)
+std::vector<Row> balanceRows(workbench::Document &document, const ShownEnvelopes &envelopes)
 {
+    std::set<accounting::AccountNumber> free;
+    for (const workbench::SetAside &one : envelopes.all.accounts)
+        free.insert(one.account.account.number);
     const std::vector<GroupedAccount> accounts = workbench::groupedAccounts(document.present());
-    const auto displayAs = document.requests().displayAs();
     std::vector<Row> rows;
     const auto add = [&](const QString &key, const QString &heading, bool areAtBanks) {
         const std::size_t first = rows.size();
         for (const GroupedAccount &one : accounts) {
-            if (isShown(one) && isAtBank(one) == areAtBanks)
-                rows.push_back(rowOf(one, displayAs));
+            if (isShown(one) && isAtBank(one) == areAtBanks &&
+                !free.contains(one.account.code().number()))
+                rows.push_back(rowOf(one, envelopes.displayAs));
         }
         if (rows.size() > first)
             rows.insert(rows.begin() + static_cast<std::ptrdiff_t>(first),
                         Row{key, {{heading}}, true});
     };
-    add(QStringLiteral("banks"), QObject::tr("As the banks show it, with what is set aside there"),
-        true);
+    add(QStringLiteral("banks"), QObject::tr("In goals at the banks"), true);
     add(QStringLiteral("apart"), QObject::tr("Apart"), false);
     return rows;
 }

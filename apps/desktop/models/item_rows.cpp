@@ -55,19 +55,6 @@ QString partText(const numira::Money &part, const numira::Money &whole,
         .arg(workbench::amountText(part, displayAs), workbench::amountText(whole, displayAs));
 }
 
-/// What was set aside for the item in the last surveys.
-QString setAsideText(const BudgetStorage::Data &data, const BudgetItemIdentifier &id,
-                     CurrencyDisplayOptions displayAs)
-{
-    QStringList parts;
-    for (const auto &[account, survey] : data.surveys) {
-        const auto found = survey.distribution().find(id);
-        if (found != survey.distribution().end())
-            parts += partText(found->second.distributed(), found->second.expected(), displayAs);
-    }
-    return parts.join(QStringLiteral("; "));
-}
-
 /// How far a debt or a goal has come.
 QString progressText(const BudgetStorage::Data &data, const BudgetedMoney &item,
                      CurrencyDisplayOptions displayAs)
@@ -95,8 +82,9 @@ bool hasProgress(BudgetItemTypes kind)
 }
 
 Row rowOf(const BudgetedMoney &item, const BudgetStorage::Data &data,
-          CurrencyDisplayOptions displayAs)
+          const ShownEnvelopes &envelopes)
 {
+    const CurrencyDisplayOptions displayAs = envelopes.displayAs;
     const BudgetItemIdentifier id = workbench::identify(item);
     const numira::Money monthly =
         budgeting::accumulateOver(budgeting::EventFrequency::Monthly, item.amount(), item.period())
@@ -110,7 +98,7 @@ Row rowOf(const BudgetedMoney &item, const BudgetStorage::Data &data,
     if (hasProgress(id.type))
         row.cells.push_back({progressText(data, item, displayAs)});
     if (id.type != BudgetItemTypes::Wage)
-        row.cells.push_back({setAsideText(data, id, displayAs)});
+        row.cells.push_back({nowText(envelopes, id)});
     row.cells.push_back({workbench::tagsText(data.itemTags.tags(id))});
     return row;
 }
@@ -139,14 +127,14 @@ QStringList itemColumns(BudgetItemTypes kind)
     return columns;
 }
 
-std::vector<Row> itemRows(workbench::Document &document, BudgetItemTypes kind)
+std::vector<Row> itemRows(workbench::Document &document, const ShownEnvelopes &envelopes,
+                          BudgetItemTypes kind)
 {
     const BudgetStorage::Data data = document.present();
-    const CurrencyDisplayOptions displayAs = document.requests().displayAs();
     std::vector<Row> rows;
     data.budget.forEach([&](const BudgetedMoney &item) {
         if (budgeting::toBudgetItemTypes(item) == kind)
-            rows.push_back(rowOf(item, data, displayAs));
+            rows.push_back(rowOf(item, data, envelopes));
     });
     return rows;
 }

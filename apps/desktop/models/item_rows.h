@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/table_model.h"
-
-#include "workbench/document/document.h"
+#include "models/envelope_rows.h"
 
 namespace kiv::desktop {
 
@@ -15,6 +13,7 @@ namespace kiv::desktop {
 [[nodiscard]] QStringList itemColumns(budgeting::BudgetItemTypes kind);
 /// The items of a kind. An item's key is its name.
 [[nodiscard]] std::vector<Row> itemRows(workbench::Document &document,
+                                        const ShownEnvelopes &envelopes,
                                         budgeting::BudgetItemTypes kind);
 /// What the items of a kind come to a month.
 [[nodiscard]] QString itemsTotal(workbench::Document &document, budgeting::BudgetItemTypes kind);

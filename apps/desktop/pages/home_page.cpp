@@ -8,6 +8,7 @@
 
 #include "workbench/entry/money_text.h"
 #include "workbench/requests/due_items.h"
+#include "workbench/surveys/set_aside_text.h"
 
 #include "foundation/presentation.h"
 
@@ -23,6 +24,7 @@ namespace {
 
 /// More are on the page of what is due.
 constexpr std::size_t linesMax = 6;
+constexpr int freeMax = 5;
 constexpr int balancesMax = 12;
 
 QString payText(budgeting::BudgetItemTypes kind)
@@ -37,6 +39,13 @@ QString payText(budgeting::BudgetItemTypes kind)
     }
 }
 
+/// What is set aside, in the words of the page of items.
+QString asidePart(const std::optional<accounting::AccountNumber> &account)
+{
+    const QString aside = QStringLiteral("aside");
+    return account ? aside + u'/' + keyOf(*account) : aside;
+}
+
 /// Where the user can do something about it; without a page if nowhere.
 Place placeOf(const Care &care)
 {
@@ -46,6 +55,8 @@ Place placeOf(const Care &care)
     case Care::About::Difference:
     case Care::About::LongNotReconciled:
         return {QStringLiteral("survey"), care.account ? keyOf(*care.account) : QString()};
+    case Care::About::SetAside:
+        return {QStringLiteral("items"), asidePart(care.account)};
     case Care::About::Rates:
         return {QStringLiteral("rates"), {}};
     case Care::About::File:
@@ -59,24 +70,38 @@ Place placeOf(const Care &care)
 
 HomePage::HomePage(Desk &desk)
     : Page(desk, QStringLiteral("home"), tr("Home")),
+      m_free(nullptr),
+      m_stillDue(new QLabel(this)),
+      m_freeRows(new TableModel(freeColumns(), this)),
+      m_freeTable(new Table(*m_freeRows, tr("Free to spend"), this)),
       m_summary(nullptr),
       m_lines(new DueLines(this)),
       m_allDue(new QPushButton(this)),
       m_message(new FieldMessage(this)),
       m_balances(new TableModel(balanceColumns(), this)),
       m_balanceTable(new Table(*m_balances, tr("Balances"), this)),
+      m_balancesHeading(nullptr),
       m_noBalances(new QLabel(tr("There are no accounts yet."), this)),
       m_careHeading(nullptr),
       m_cares(new QWidget(this)),
       m_deeds(desk)
 {
     auto *layout = new QVBoxLayout(this);
+    m_free = addHeading(*layout, {});
+    m_free->setWordWrap(true);
+    m_stillDue->setTextFormat(Qt::PlainText);
+    m_stillDue->setWordWrap(true);
+    layout->addWidget(m_stillDue);
+    layout->addWidget(m_freeTable);
+    m_freeTable->setObjectName(QStringLiteral("free"));
+    m_freeTable->fit(freeMax);
     m_summary = addHeading(*layout, {});
     m_summary->setWordWrap(true);
     layout->addWidget(m_lines);
     layout->addWidget(m_message);
     layout->addWidget(m_allDue, 0, Qt::AlignLeft);
-    addHeading(*layout, tr("Balances"));
+    m_balancesHeading = addHeading(*layout, {});
+    m_balanceTable->setObjectName(QStringLiteral("balances"));
     layout->addWidget(m_noBalances);
     layout->addWidget(m_balanceTable);
     m_balanceTable->fit(balancesMax);
@@ -99,6 +124,9 @@ HomePage::HomePage(Desk &desk)
         if (const DueLine *line = lineOf(key))
             m_deeds.skip({*m_message, by}, {*line});
     });
+    connect(m_freeTable, &Table::opened, this, [this](const QString &key) {
+        this->desk().goTo({QStringLiteral("items"), QStringLiteral("aside/") + key});
+    });
     connect(m_balanceTable, &Table::opened, this, [this](const QString &key) {
         this->desk().goTo({QStringLiteral("register"), key});
     });
@@ -120,7 +148,7 @@ QWidget *HomePage::firstFocus()
 {
     if (!m_lines->buttons().empty())
         return m_lines->buttons().front();
-    return m_balanceTable;
+    return m_freeTable->isHidden() ? m_balanceTable : m_freeTable;
 }
 
 const DueLine *HomePage::lineOf(const QString &key) const
@@ -133,6 +161,7 @@ const DueLine *HomePage::lineOf(const QString &key) const
 void HomePage::refresh()
 {
     m_message->withdraw();
+    showFree();
     showDue();
     showBalances();
     showCare();
@@ -142,11 +171,26 @@ void HomePage::refresh()
 void HomePage::putKeysInOrder()
 {
     // Buttons that were made anew would come last.
-    std::vector<QWidget *> order(m_lines->buttons().begin(), m_lines->buttons().end());
+    std::vector<QWidget *> order{m_freeTable};
+    std::ranges::copy(m_lines->buttons(), std::back_inserter(order));
     order.insert(order.end(), {m_allDue, m_balanceTable});
     std::ranges::copy(m_cares->findChildren<QPushButton *>(), std::back_inserter(order));
     for (std::size_t place = 1; place < order.size(); ++place)
         setTabOrder(order[place - 1], order[place]);
+}
+
+void HomePage::showFree()
+{
+    m_envelopes = shownEnvelopes(desk().document());
+    const workbench::Envelopes &all = m_envelopes.all;
+    const bool isEmpty = all.accounts.empty();
+    m_free->setVisible(!isEmpty);
+    m_freeTable->setVisible(!isEmpty);
+    m_free->setText(workbench::freeText(all, m_envelopes.displayAs));
+    m_stillDue->setText(workbench::stillDueText(all, m_envelopes.displayAs));
+    m_stillDue->setVisible(!isEmpty && !all.dueYet.empty());
+    m_freeRows->setRows(freeRows(m_envelopes));
+    m_freeTable->settle();
 }
 
 void HomePage::showDue()
@@ -173,16 +217,21 @@ void HomePage::showDue()
 
 void HomePage::showBalances()
 {
-    m_balances->setRows(balanceRows(desk().document()));
+    m_balances->setRows(balanceRows(desk().document(), m_envelopes));
     const bool isEmpty = m_balances->rows().empty();
-    m_noBalances->setVisible(isEmpty);
+    const bool isFree = !m_freeRows->rows().empty();
+    m_balancesHeading->setText(isFree ? tr("Other balances") : tr("Balances"));
+    m_balancesHeading->setVisible(!isEmpty || !isFree);
+    m_noBalances->setVisible(isEmpty && !isFree);
     m_balanceTable->setVisible(!isEmpty);
     m_balanceTable->settle();
 }
 
 void HomePage::showCare()
 {
-    const std::vector<Care> all = workbench::neededCare(desk().document(), m_due.today);
+    std::vector<Care> all = workbench::neededCare(desk().document(), m_due.today);
+    std::ranges::move(setAsideCare(m_envelopes.all, m_envelopes.ledger, m_envelopes.displayAs),
+                      std::back_inserter(all));
     QString heading = all.empty() ? tr("Nothing needs care") : tr("What needs care");
     if (const auto health = workbench::healthOf(requests());
         health && health->grade() != adviser::HealthGrade::Unknown)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "models/envelope_rows.h"
 #include "pages/due_deeds.h"
 #include "pages/page.h"
 
@@ -17,8 +18,8 @@ class DueLines;
 class Table;
 class TableModel;
 
-/// What a household wants to know at a glance: what is due, what there is, and what needs
-/// care.
+/// What a household wants to know at a glance: what is free to spend, what is due, what else
+/// there is, and what needs care.
 class HomePage final : public Page {
     Q_OBJECT
 
@@ -31,6 +32,7 @@ protected:
     void refresh() override;
 
 private:
+    void showFree();
     void showDue();
     void showBalances();
     void showCare();
@@ -39,16 +41,22 @@ private:
     QLabel *addHeading(QVBoxLayout &layout, const QString &text);
     [[nodiscard]] const workbench::DueLine *lineOf(const QString &key) const;
 
+    QLabel *m_free;
+    QLabel *m_stillDue;
+    TableModel *m_freeRows;
+    Table *m_freeTable;
     QLabel *m_summary;
     DueLines *m_lines;
     QPushButton *m_allDue;
     FieldMessage *m_message;
     TableModel *m_balances;
     Table *m_balanceTable;
+    QLabel *m_balancesHeading;
     QLabel *m_noBalances;
     QLabel *m_careHeading;
     QWidget *m_cares;
     DueDeeds m_deeds;
+    ShownEnvelopes m_envelopes;
     ShownDue m_due;
     std::vector<workbench::Care> m_shownCare;
 };

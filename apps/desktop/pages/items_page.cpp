@@ -30,6 +30,9 @@ QStringList kindWords()
     return words;
 }
 
+/// In a place: what is set aside.
+const QString aside = QStringLiteral("aside");
+
 BudgetItemTypes kindAt(int tab)
 {
     return static_cast<BudgetItemTypes>(tab + 1);
@@ -40,6 +43,7 @@ BudgetItemTypes kindAt(int tab)
 ItemsPage::ItemsPage(Desk &desk)
     : ListPage(desk, QStringLiteral("items"), tr("Items"), itemColumns(BudgetItemTypes::Bill)),
       m_kinds(new QTabBar(this)),
+      m_explained(new ItemExplained(this)),
       m_total(new QLabel(this)),
       m_new(addButton(QStringLiteral("new"), tr("&New"), [this] { beginNew(); })),
       m_change(addButton(QStringLiteral("change"), tr("&Change"), [this] { change(); })),
@@ -49,19 +53,32 @@ ItemsPage::ItemsPage(Desk &desk)
 {
     for (int tab = 0; tab < kindWords().size(); ++tab)
         m_kinds->addTab(itemsTitle(kindAt(tab)));
+    m_kinds->addTab(QObject::tr("Set aside"));
     m_kinds->setObjectName(QStringLiteral("kinds"));
     m_kinds->setAccessibleName(tr("Kinds of items"));
     m_kinds->setExpanding(false);
     addAbove(m_kinds);
+    addBelow(m_explained);
+    connect(m_explained, &ItemExplained::endWanted, this, &ItemsPage::end);
     m_total->setTextFormat(Qt::PlainText);
     m_total->setWordWrap(true);
     addBelow(m_total);
     addFormButtons(*m_form, [this] { save(); });
-    connect(m_kinds, &QTabBar::currentChanged, this, [this] {
-        closeForm();
-        model().setColumns(itemColumns(kind()));
-        refresh();
-    });
+    connect(m_kinds, &QTabBar::currentChanged, this, &ItemsPage::showTab);
+}
+
+bool ItemsPage::isAside() const
+{
+    return m_kinds->currentIndex() == kindWords().size();
+}
+
+void ItemsPage::showTab()
+{
+    closeForm();
+    model().setColumns(isAside() ? setAsideColumns() : itemColumns(kind()));
+    for (QPushButton *button : {m_new, m_change, m_remove})
+        button->setVisible(!isAside());
+    refresh();
 }
 
 BudgetItemTypes ItemsPage::kind() const
@@ -71,12 +88,22 @@ BudgetItemTypes ItemsPage::kind() const
 
 BudgetItemIdentifier ItemsPage::chosenItem() const
 {
-    return {kind(), BudgetSource(chosen())};
+    if (!isAside())
+        return {kind(), BudgetSource(chosen())};
+    const QString item = itemPart(chosen());
+    return {kindAt(static_cast<int>(kindWords().indexOf(item.section(u'/', 0, 0)))),
+            BudgetSource(item.section(u'/', 1))};
 }
 
 void ItemsPage::goTo(const QString &detail)
 {
-    const auto tab = static_cast<int>(kindWords().indexOf(detail.section(u'/', 0, 0)));
+    const QString word = detail.section(u'/', 0, 0);
+    if (word == aside) {
+        m_kinds->setCurrentIndex(static_cast<int>(kindWords().size()));
+        chooseAside(detail.section(u'/', 1));
+        return;
+    }
+    const auto tab = static_cast<int>(kindWords().indexOf(word));
     if (tab < 0)
         return;
     m_kinds->setCurrentIndex(tab);
@@ -88,10 +115,19 @@ void ItemsPage::goTo(const QString &detail)
         choose(name);
 }
 
+void ItemsPage::chooseAside(const QString &key)
+{
+    const auto &rows = model().rows();
+    const auto found = std::ranges::find_if(
+        rows, [&key](const Row &row) { return row.key == key || row.key.startsWith(key + u'/'); });
+    if (!key.isEmpty() && found != rows.end())
+        choose(found->isHeading && found + 1 != rows.end() ? (found + 1)->key : found->key);
+}
+
 QString ItemsPage::detail() const
 {
     const QString name = chosen();
-    const QString word = workbench::kindWord(kind());
+    const QString word = isAside() ? aside : workbench::kindWord(kind());
     return name.isEmpty() ? word : word + u'/' + name;
 }
 
@@ -100,12 +136,22 @@ QStringList ItemsPage::parts() const
     QStringList parts;
     for (const QString &word : kindWords())
         parts << word << word + u'/' + newItem;
-    return parts;
+    return parts << aside;
+}
+
+QWidget *ItemsPage::firstFocus()
+{
+    return isAside() && table().isHidden() ? m_kinds : ListPage::firstFocus();
 }
 
 void ItemsPage::refresh()
 {
-    showRows(itemRows(desk().document(), kind()), noItems(kind()));
+    m_envelopes = shownEnvelopes(desk().document());
+    if (isAside()) {
+        showAside();
+        return;
+    }
+    showRows(itemRows(desk().document(), m_envelopes, kind()), noItems(kind()));
     table().setAccessibleName(itemsTitle(kind()));
     const bool isEmpty = model().rows().empty();
     m_total->setVisible(!isEmpty);
@@ -117,8 +163,23 @@ void ItemsPage::refresh()
         closeForm();
 }
 
+void ItemsPage::showAside()
+{
+    showRows(setAsideRows(m_envelopes),
+             QObject::tr("No bank has an open account for which money is set aside."));
+    table().setAccessibleName(QObject::tr("Set aside"));
+    const QStringList sentences = setAsideSentences(m_envelopes);
+    m_total->setVisible(!sentences.isEmpty());
+    m_total->setText(sentences.join(u'\n'));
+}
+
 void ItemsPage::follow()
 {
+    if (chosen().isEmpty())
+        m_explained->hide();
+    else
+        m_explained->explain(desk().document(), m_envelopes, chosenItem());
+    m_explained->allowChanges(desk().whyNoChange());
     allow(*m_new, desk().whyNoChange());
     allowForRow({m_change, m_remove});
 }
@@ -134,9 +195,17 @@ void ItemsPage::beginNew()
     open(*m_form, m_item->firstField());
 }
 
+void ItemsPage::enter()
+{
+    if (isAside())
+        desk().goTo({id(), itemPart(chosen())});
+    else
+        change();
+}
+
 void ItemsPage::change()
 {
-    if (!m_change->isEnabled())
+    if (isAside() || !m_change->isEnabled())
         return;
     m_item->beginChange(chosenItem());
     open(*m_form, m_item->firstField());
@@ -154,7 +223,7 @@ void ItemsPage::save()
 void ItemsPage::remove()
 {
     const BudgetItemIdentifier id = chosenItem();
-    if (id.source.isEmpty())
+    if (isAside() || id.source.isEmpty())
         return;
     const QString word = workbench::kindText(id.type);
     const QString name = id.source.name();
@@ -163,6 +232,20 @@ void ItemsPage::remove()
         QStringLiteral("items/%1/%2").arg(workbench::kindWord(id.type), name)};
     perform(deed,
             [&] { workbench::removeItem(requests(), navigation::GuiElementIdentifier(1), id); });
+}
+
+void ItemsPage::end()
+{
+    const BudgetItemIdentifier id = chosenItem();
+    const QString word = workbench::kindText(id.type);
+    const QString name = id.source.name();
+    const workbench::Deed deed{
+        tr("Ended the %1 “%2”.").arg(word, name), tr("ending the %1 “%2”").arg(word, name),
+        QStringLiteral("items/%1/%2").arg(workbench::kindWord(id.type), name)};
+    perform(deed, [&] {
+        workbench::endItem(requests(), navigation::GuiElementIdentifier(1),
+                           workbench::BudgetView(desk().document().present()), id);
+    });
 }
 
 } // namespace kiv::desktop

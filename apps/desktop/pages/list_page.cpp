@@ -29,7 +29,9 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
       m_grid(new QGridLayout(m_buttons)),
       m_side(new QWidget(this))
 {
-    auto *sides = new QHBoxLayout(this);
+    auto *whole = new QVBoxLayout(this);
+    auto *sides = new QHBoxLayout;
+    whole->addLayout(sides, 1);
     sides->addLayout(m_list, 3);
     sides->addWidget(m_side, 2);
     (new QVBoxLayout(m_side))->setContentsMargins(0, 0, 0, 0);
@@ -50,7 +52,7 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
 
 void ListPage::addAbove(QWidget *widget)
 {
-    m_list->insertWidget(0, widget);
+    static_cast<QVBoxLayout *>(layout())->insertWidget(0, widget);
     setTabOrder(widget, m_table);
 }
 

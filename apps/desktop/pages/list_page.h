@@ -26,7 +26,7 @@ public:
 protected:
     ListPage(Desk &desk, const QString &id, const QString &title, const QStringList &columns);
 
-    /// Puts a widget above the table.
+    /// Puts a widget above the table and the form.
     void addAbove(QWidget *widget);
     /// Puts a widget between the table and the buttons.
     void addBelow(QWidget *widget);

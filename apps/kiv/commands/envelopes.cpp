@@ -153,6 +153,8 @@ struct ShowEnvelopes {
                         {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                         {QObject::tr("Amount"), QStringLiteral("amount")}},
                        due, QObject::tr("Nothing is due."));
+        if (const QString free = freeText(all, displayAs); !account && !free.isEmpty())
+            report.line(free);
         for (const QString &sentence : outlook.sentences + told + notices)
             report.line(sentence);
         return report;
