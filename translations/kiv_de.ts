@@ -6258,10 +6258,6 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <translation>Jetzt</translation>
     </message>
     <message>
-        <source>To end it, use kiv %1 update with --every none.</source>
-        <translation>Zum Beenden: kiv %1 update mit --every none.</translation>
-    </message>
-    <message>
         <source>The goal &apos;%1&apos; is reached: %2.</source>
         <translation>Das Ziel „%1“ ist erreicht: %2.</translation>
     </message>
@@ -6799,6 +6795,276 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>Part</source>
         <translation>Teil</translation>
     </message>
+    <message>
+        <source>%1 is of the type %2 now.</source>
+        <translation>%1 ist jetzt von der Art %2.</translation>
+    </message>
+    <message>
+        <source>correcting the type of “%1”</source>
+        <translation>Berichtigung der Art von „%1“</translation>
+    </message>
+    <message>
+        <source>The balance of %1 is %2 now; its transactions are as they were.</source>
+        <translation>Der Saldo von %1 ist jetzt %2; seine Buchungen sind, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>%1 lies under no other account any more.</source>
+        <translation>%1 liegt unter keinem anderen Konto mehr.</translation>
+    </message>
+    <message>
+        <source>Separated %1 from the bank &apos;%2&apos;, which cannot keep it.</source>
+        <translation>%1 von der Bank „%2“ gelöst, die es nicht führen kann.</translation>
+    </message>
+    <message>
+        <source>What was set aside at %1 is free now.</source>
+        <translation>Was auf %1 zurückgelegt war, ist jetzt frei.</translation>
+    </message>
+    <message>
+        <source>%1 replaced by %2</source>
+        <translation>%1 durch %2 ersetzt</translation>
+    </message>
+    <message>
+        <source>%1 is at the bank %2 now.</source>
+        <translation>%1 ist jetzt bei der Bank %2.</translation>
+    </message>
+    <message>
+        <source>moving “%1” to “%2”</source>
+        <translation>Wechsel von „%1“ zu „%2“</translation>
+    </message>
+    <message>
+        <source>Replaced %1 by %2.</source>
+        <translation>%1 durch %2 ersetzt.</translation>
+    </message>
+    <message>
+        <source>replacing “%1” by “%2”</source>
+        <translation>Ersetzen von „%1“ durch „%2“</translation>
+    </message>
+    <message>
+        <source>Moved %1 from %2 to %3 (transaction %4).</source>
+        <translation>%1 von %2 auf %3 umgebucht (Buchung %4).</translation>
+    </message>
+    <message>
+        <source>Under %1 are now: %2</source>
+        <translation>Unter %1 sind jetzt: %2</translation>
+    </message>
+    <message>
+        <source>Set aside at %1 are now: %2</source>
+        <translation>Auf %1 ist jetzt zurückgelegt für: %2</translation>
+    </message>
+    <message>
+        <source>%1 stays open; close it after its last statement.</source>
+        <translation>%1 bleibt offen; nach dem letzten Kontoauszug schließen.</translation>
+    </message>
+    <message>
+        <source>Closed %1.</source>
+        <translation>%1 geschlossen.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is finished</source>
+        <translation>Das Ziel „%1“ ist beendet</translation>
+    </message>
+    <message>
+        <source>Finished the debt %1.</source>
+        <translation>Die Schuld %1 beendet.</translation>
+    </message>
+    <message>
+        <source>finishing the debt “%1”</source>
+        <translation>Beenden der Schuld „%1“</translation>
+    </message>
+    <message>
+        <source>Finished the goal %1.</source>
+        <translation>Das Ziel %1 beendet.</translation>
+    </message>
+    <message>
+        <source>finishing the goal “%1”</source>
+        <translation>Beenden des Ziels „%1“</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; recurs no longer.</source>
+        <translation>„%1“ kehrt nicht mehr wieder.</translation>
+    </message>
+    <message>
+        <source>Closed the account of &apos;%1&apos;.</source>
+        <translation>Das Konto von „%1“ geschlossen.</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; stays open: %2</source>
+        <translation>Das Konto von „%1“ bleibt offen: %2</translation>
+    </message>
+    <message>
+        <source>Correct the type of &apos;%1&apos; first: it is %2, and no bank keeps that as %3</source>
+        <translation>Zuerst die Art von „%1“ berichtigen: es ist %2, und keine Bank führt das als %3</translation>
+    </message>
+    <message>
+        <source>A bank cannot keep an account of the type %2 as %1.</source>
+        <translation>Eine Bank kann ein Konto der Art %2 nicht als %1 führen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is at the bank &apos;%2&apos; already.</source>
+        <translation>„%1“ ist bereits bei der Bank „%2“.</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; is closed; open it again first.</source>
+        <translation>Die Bank „%1“ ist geschlossen; zuerst wieder öffnen.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; is closed; open it again first.</source>
+        <translation>Das Konto „%1“ ist geschlossen; zuerst wieder öffnen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lies under &apos;%2&apos; and goes along with it; name &apos;%2&apos;.</source>
+        <translation>„%1“ liegt unter „%2“ und geht mit ihm; „%2“ nennen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot replace itself; add an account first.</source>
+        <translation>„%1“ kann sich nicht selbst ersetzen; zuerst ein Konto anlegen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; cannot replace each other: one is owned, and the other is owed. Pay it off by a transfer, then close it.</source>
+        <translation>„%1“ und „%2“ können einander nicht ersetzen: das eine ist Guthaben, das andere Schuld. Durch eine Umbuchung begleichen, dann schließen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; are kept in different currencies. Transfer the money with both amounts, tie its goals to &apos;%2&apos;, then close &apos;%1&apos;.</source>
+        <translation>„%1“ und „%2“ haben verschiedene Währungen. Das Geld mit beiden Beträgen umbuchen, die Ziele mit „%2“ verknüpfen, dann „%1“ schließen.</translation>
+    </message>
+    <message>
+        <source>%1 is still to come; name a day until today.</source>
+        <translation>%1 liegt noch in der Zukunft; einen Tag bis heute nennen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is of the type %2 already.</source>
+        <translation>„%1“ ist bereits von der Art %2.</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; has the type that its item needs. Add an item of the right kind, put the transactions under it, then remove this one.</source>
+        <translation>Das Konto von „%1“ hat die Art, die sein Posten braucht. Einen Posten der richtigen Art anlegen, die Buchungen ihm zuordnen, dann diesen entfernen.</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; lies under it. Tie &apos;%1&apos; to another bank account first, or to none.</source>
+        <translation>Das Konto von „%1“ liegt darunter. Zuerst „%1“ mit einem anderen Bankkonto verknüpfen, oder mit keinem.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; holds the opening balances; its type cannot change.</source>
+        <translation>„%1“ hält die Anfangssalden; seine Art kann sich nicht ändern.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no account; save and open the budget once.</source>
+        <translation>„%1“ hat kein Konto; das Budget einmal speichern und öffnen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is finished already.</source>
+        <translation>„%1“ ist bereits beendet.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; lies under no bank account; say to which account its money goes, or move it there first.</source>
+        <translation>Das Ziel „%1“ liegt unter keinem Bankkonto; angeben, auf welches Konto sein Geld geht, oder es zuerst dorthin umbuchen.</translation>
+    </message>
+    <message>
+        <source>Of the debt &apos;%1&apos;, %2 is still owed; pay it first.</source>
+        <translation>Von der Schuld „%1“ sind noch %2 offen; zuerst bezahlen.</translation>
+    </message>
+    <message>
+        <source>For the debt &apos;%1&apos;, %2 more was paid than was owed; move it back first.</source>
+        <translation>Für die Schuld „%1“ wurden %2 mehr bezahlt, als offen waren; zuerst zurückbuchen.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has an amount of zero and was skipped.</source>
+        <translation>„%1“ hat den Betrag null und wurde übersprungen.</translation>
+    </message>
+    <message>
+        <source>This money came from %1, which is an expense account and keeps none.</source>
+        <translation>Dieses Geld kam von %1, einem Aufwandskonto, das keines hat.</translation>
+    </message>
+    <message>
+        <source>The money of %1 went straight to %2, which is an expense account and keeps none.</source>
+        <translation>Das Geld von %1 ging gleich an %2, ein Aufwandskonto, das keines behält.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The day %1 is %n years ago.</source>
+        <translation>
+            <numerusform>Der Tag %1 liegt %n Jahr zurück.</numerusform>
+            <numerusform>Der Tag %1 liegt %n Jahre zurück.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The day %1 is in %n years.</source>
+        <translation>
+            <numerusform>Der Tag %1 ist in %n Jahr.</numerusform>
+            <numerusform>Der Tag %1 ist in %n Jahren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is below zero: %2.</source>
+        <translation>%1 ist unter null: %2.</translation>
+    </message>
+    <message>
+        <source>The goals at %1 hold %2 more than there is.</source>
+        <translation>Die Ziele auf %1 halten %2 mehr, als da ist.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 now, more than its target of %3.</source>
+        <translation>Das Ziel „%1“ hat jetzt %2, mehr als seinen Zielbetrag von %3.</translation>
+    </message>
+    <message>
+        <source>For the debt &apos;%1&apos;, %2 more was paid than was owed.</source>
+        <translation>Für die Schuld „%1“ wurden %2 mehr bezahlt, als offen waren.</translation>
+    </message>
+    <message>
+        <source>The totals leave &apos;%1&apos; out: there is no exchange rate between %2 and %3.</source>
+        <translation>Die Summen lassen „%1“ aus: es gibt keinen Wechselkurs zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <source>What it is to its bank then: checking, savings, credit-card, loan … (default: checking or credit-card)</source>
+        <translation>Was es dann für seine Bank ist: checking, savings, credit-card, loan … (Standard: checking oder credit-card)</translation>
+    </message>
+    <message>
+        <source>Correct the type of an account; its transactions stay</source>
+        <translation>Die Art eines Kontos berichtigen; seine Buchungen bleiben</translation>
+    </message>
+    <message>
+        <source>Name of the bank that keeps it from now on</source>
+        <translation>Name der Bank, die es von nun an führt</translation>
+    </message>
+    <message>
+        <source>Account of a bank that takes its place</source>
+        <translation>Konto einer Bank, das an seine Stelle tritt</translation>
+    </message>
+    <message>
+        <source>Do not close it: a statement is still to come</source>
+        <translation>Nicht schließen: ein Kontoauszug steht noch aus</translation>
+    </message>
+    <message>
+        <source>Day on which the money goes over (default: today)</source>
+        <translation>Tag, an dem das Geld übergeht (Standard: heute)</translation>
+    </message>
+    <message>
+        <source>Give an account to another bank, with all that is set aside</source>
+        <translation>Ein Konto einer anderen Bank geben, mit allem, was zurückgelegt ist</translation>
+    </message>
+    <message>
+        <source>Change banks: another account takes the money, goals and what is set aside</source>
+        <translation>Die Bank wechseln: ein anderes Konto übernimmt Geld, Ziele und was zurückgelegt ist</translation>
+    </message>
+    <message>
+        <source>To end it, use kiv %1 finish.</source>
+        <translation>Zum Beenden: kiv %1 finish.</translation>
+    </message>
+    <message>
+        <source>Account that gets the money, or on which it is spent (default: the bank account that holds it)</source>
+        <translation>Konto, das das Geld bekommt oder für das es ausgegeben wird (Standard: das Bankkonto, auf dem es liegt)</translation>
+    </message>
+    <message>
+        <source>End a goal: its money goes back or is spent</source>
+        <translation>Ein Ziel beenden: sein Geld geht zurück oder wird ausgegeben</translation>
+    </message>
+    <message>
+        <source>End a debt that is paid off</source>
+        <translation>Eine abbezahlte Schuld beenden</translation>
+    </message>
+    <message>
+        <source>use kiv account convert</source>
+        <translation>siehe kiv account convert</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7059,6 +7325,18 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>changing the account “%1”</source>
         <translation>das Konto „%1“ ändern</translation>
     </message>
+    <message>
+        <source>It stays &amp;open:</source>
+        <translation>Es bleibt o&amp;ffen:</translation>
+    </message>
+    <message>
+        <source>Another bank keeps “%1” from now on</source>
+        <translation>Eine andere Bank führt „%1“ von nun an</translation>
+    </message>
+    <message>
+        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
+        <translation>Ein anderes Konto übernimmt das Geld von „%1“, seine Ziele und was dort zurückgelegt ist</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7137,6 +7415,14 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     <message>
         <source>removing “%1”</source>
         <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Move to another bank</source>
+        <translation>Zu &amp;anderer Bank</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Erse&amp;tzen</translation>
     </message>
 </context>
 <context>
@@ -8431,14 +8717,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>removing the %1 “%2”</source>
         <translation>„%2“ (%1) entfernen</translation>
-    </message>
-    <message>
-        <source>Ended the %1 “%2”.</source>
-        <translation>Beendet: „%2“ (%1).</translation>
-    </message>
-    <message>
-        <source>ending the %1 “%2”</source>
-        <translation>„%2“ (%1) beenden</translation>
     </message>
 </context>
 <context>

@@ -346,6 +346,20 @@
             <numerusform>Tick all %n that are not ticked yet?</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The day %1 is %n years ago.</source>
+        <translation>
+            <numerusform>The day %1 is %n year ago.</numerusform>
+            <numerusform>The day %1 is %n years ago.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The day %1 is in %n years.</source>
+        <translation>
+            <numerusform>The day %1 is in %n year.</numerusform>
+            <numerusform>The day %1 is in %n years.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

@@ -6258,10 +6258,6 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <translation>Ahora</translation>
     </message>
     <message>
-        <source>To end it, use kiv %1 update with --every none.</source>
-        <translation>Para terminar: kiv %1 update con --every none.</translation>
-    </message>
-    <message>
         <source>The goal &apos;%1&apos; is reached: %2.</source>
         <translation>La meta «%1» está alcanzada: %2.</translation>
     </message>
@@ -6799,6 +6795,276 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>Part</source>
         <translation>Parte</translation>
     </message>
+    <message>
+        <source>%1 is of the type %2 now.</source>
+        <translation>%1 es ahora del tipo %2.</translation>
+    </message>
+    <message>
+        <source>correcting the type of “%1”</source>
+        <translation>corrección del tipo de «%1»</translation>
+    </message>
+    <message>
+        <source>The balance of %1 is %2 now; its transactions are as they were.</source>
+        <translation>El saldo de %1 es ahora %2; sus asientos están como antes.</translation>
+    </message>
+    <message>
+        <source>%1 lies under no other account any more.</source>
+        <translation>%1 ya no está bajo otra cuenta.</translation>
+    </message>
+    <message>
+        <source>Separated %1 from the bank &apos;%2&apos;, which cannot keep it.</source>
+        <translation>Se separó %1 del banco «%2», que no puede llevarla.</translation>
+    </message>
+    <message>
+        <source>What was set aside at %1 is free now.</source>
+        <translation>Lo que estaba apartado en %1 está libre ahora.</translation>
+    </message>
+    <message>
+        <source>%1 replaced by %2</source>
+        <translation>%1 reemplazada por %2</translation>
+    </message>
+    <message>
+        <source>%1 is at the bank %2 now.</source>
+        <translation>%1 está ahora en el banco %2.</translation>
+    </message>
+    <message>
+        <source>moving “%1” to “%2”</source>
+        <translation>paso de «%1» a «%2»</translation>
+    </message>
+    <message>
+        <source>Replaced %1 by %2.</source>
+        <translation>Se reemplazó %1 por %2.</translation>
+    </message>
+    <message>
+        <source>replacing “%1” by “%2”</source>
+        <translation>reemplazo de «%1» por «%2»</translation>
+    </message>
+    <message>
+        <source>Moved %1 from %2 to %3 (transaction %4).</source>
+        <translation>Se traspasaron %1 de %2 a %3 (asiento %4).</translation>
+    </message>
+    <message>
+        <source>Under %1 are now: %2</source>
+        <translation>Bajo %1 están ahora: %2</translation>
+    </message>
+    <message>
+        <source>Set aside at %1 are now: %2</source>
+        <translation>En %1 está apartado ahora para: %2</translation>
+    </message>
+    <message>
+        <source>%1 stays open; close it after its last statement.</source>
+        <translation>%1 queda abierta; cerrarla después de su último extracto.</translation>
+    </message>
+    <message>
+        <source>Closed %1.</source>
+        <translation>Se cerró %1.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is finished</source>
+        <translation>La meta «%1» ha terminado</translation>
+    </message>
+    <message>
+        <source>Finished the debt %1.</source>
+        <translation>Se terminó la deuda %1.</translation>
+    </message>
+    <message>
+        <source>finishing the debt “%1”</source>
+        <translation>fin de la deuda «%1»</translation>
+    </message>
+    <message>
+        <source>Finished the goal %1.</source>
+        <translation>Se terminó la meta %1.</translation>
+    </message>
+    <message>
+        <source>finishing the goal “%1”</source>
+        <translation>fin de la meta «%1»</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; recurs no longer.</source>
+        <translation>«%1» ya no se repite.</translation>
+    </message>
+    <message>
+        <source>Closed the account of &apos;%1&apos;.</source>
+        <translation>Se cerró la cuenta de «%1».</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; stays open: %2</source>
+        <translation>La cuenta de «%1» queda abierta: %2</translation>
+    </message>
+    <message>
+        <source>Correct the type of &apos;%1&apos; first: it is %2, and no bank keeps that as %3</source>
+        <translation>Corregir antes el tipo de «%1»: es %2, y ningún banco lleva eso como %3</translation>
+    </message>
+    <message>
+        <source>A bank cannot keep an account of the type %2 as %1.</source>
+        <translation>Un banco no puede llevar una cuenta del tipo %2 como %1.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is at the bank &apos;%2&apos; already.</source>
+        <translation>«%1» ya está en el banco «%2».</translation>
+    </message>
+    <message>
+        <source>The bank &apos;%1&apos; is closed; open it again first.</source>
+        <translation>El banco «%1» está cerrado; abrirlo antes de nuevo.</translation>
+    </message>
+    <message>
+        <source>The account &apos;%1&apos; is closed; open it again first.</source>
+        <translation>La cuenta «%1» está cerrada; abrirla antes de nuevo.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; lies under &apos;%2&apos; and goes along with it; name &apos;%2&apos;.</source>
+        <translation>«%1» está bajo «%2» y va con ella; indicar «%2».</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot replace itself; add an account first.</source>
+        <translation>«%1» no puede reemplazarse a sí misma; añadir antes una cuenta.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; cannot replace each other: one is owned, and the other is owed. Pay it off by a transfer, then close it.</source>
+        <translation>«%1» y «%2» no pueden reemplazarse: una es lo que se tiene, la otra lo que se debe. Saldarla con un traspaso y luego cerrarla.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; and &apos;%2&apos; are kept in different currencies. Transfer the money with both amounts, tie its goals to &apos;%2&apos;, then close &apos;%1&apos;.</source>
+        <translation>«%1» y «%2» tienen monedas distintas. Traspasar el dinero con ambos importes, vincular sus metas a «%2» y luego cerrar «%1».</translation>
+    </message>
+    <message>
+        <source>%1 is still to come; name a day until today.</source>
+        <translation>%1 aún no ha llegado; indicar un día hasta hoy.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is of the type %2 already.</source>
+        <translation>«%1» ya es del tipo %2.</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; has the type that its item needs. Add an item of the right kind, put the transactions under it, then remove this one.</source>
+        <translation>La cuenta de «%1» tiene el tipo que necesita su partida. Añadir una partida de la clase correcta, ponerle los asientos y luego eliminar esta.</translation>
+    </message>
+    <message>
+        <source>The account of &apos;%1&apos; lies under it. Tie &apos;%1&apos; to another bank account first, or to none.</source>
+        <translation>La cuenta de «%1» está debajo. Vincular antes «%1» a otra cuenta bancaria, o a ninguna.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; holds the opening balances; its type cannot change.</source>
+        <translation>«%1» guarda los saldos iniciales; su tipo no puede cambiar.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no account; save and open the budget once.</source>
+        <translation>«%1» no tiene cuenta; guardar y abrir el presupuesto una vez.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is finished already.</source>
+        <translation>«%1» ya ha terminado.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; lies under no bank account; say to which account its money goes, or move it there first.</source>
+        <translation>La meta «%1» no está bajo ninguna cuenta bancaria; indicar a qué cuenta va su dinero, o traspasarlo antes.</translation>
+    </message>
+    <message>
+        <source>Of the debt &apos;%1&apos;, %2 is still owed; pay it first.</source>
+        <translation>De la deuda «%1» aún se deben %2; pagarla antes.</translation>
+    </message>
+    <message>
+        <source>For the debt &apos;%1&apos;, %2 more was paid than was owed; move it back first.</source>
+        <translation>Por la deuda «%1» se pagaron %2 más de lo que se debía; devolverlo antes.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has an amount of zero and was skipped.</source>
+        <translation>«%1» tiene un importe de cero y se omitió.</translation>
+    </message>
+    <message>
+        <source>This money came from %1, which is an expense account and keeps none.</source>
+        <translation>Este dinero vino de %1, que es una cuenta de gasto y no guarda dinero.</translation>
+    </message>
+    <message>
+        <source>The money of %1 went straight to %2, which is an expense account and keeps none.</source>
+        <translation>El dinero de %1 fue directamente a %2, que es una cuenta de gasto y no guarda dinero.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The day %1 is %n years ago.</source>
+        <translation>
+            <numerusform>El día %1 fue hace %n año.</numerusform>
+            <numerusform>El día %1 fue hace %n años.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The day %1 is in %n years.</source>
+        <translation>
+            <numerusform>El día %1 es dentro de %n año.</numerusform>
+            <numerusform>El día %1 es dentro de %n años.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is below zero: %2.</source>
+        <translation>%1 está por debajo de cero: %2.</translation>
+    </message>
+    <message>
+        <source>The goals at %1 hold %2 more than there is.</source>
+        <translation>Las metas de %1 guardan %2 más de lo que hay.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; has %2 now, more than its target of %3.</source>
+        <translation>La meta «%1» tiene ahora %2, más que su importe de %3.</translation>
+    </message>
+    <message>
+        <source>For the debt &apos;%1&apos;, %2 more was paid than was owed.</source>
+        <translation>Por la deuda «%1» se pagaron %2 más de lo que se debía.</translation>
+    </message>
+    <message>
+        <source>The totals leave &apos;%1&apos; out: there is no exchange rate between %2 and %3.</source>
+        <translation>Los totales dejan fuera «%1»: no hay tipo de cambio entre %2 y %3.</translation>
+    </message>
+    <message>
+        <source>What it is to its bank then: checking, savings, credit-card, loan … (default: checking or credit-card)</source>
+        <translation>Qué es entonces para su banco: checking, savings, credit-card, loan … (por defecto: checking o credit-card)</translation>
+    </message>
+    <message>
+        <source>Correct the type of an account; its transactions stay</source>
+        <translation>Corregir el tipo de una cuenta; sus asientos quedan</translation>
+    </message>
+    <message>
+        <source>Name of the bank that keeps it from now on</source>
+        <translation>Nombre del banco que la lleva a partir de ahora</translation>
+    </message>
+    <message>
+        <source>Account of a bank that takes its place</source>
+        <translation>Cuenta de un banco que ocupa su lugar</translation>
+    </message>
+    <message>
+        <source>Do not close it: a statement is still to come</source>
+        <translation>No cerrarla: aún falta un extracto</translation>
+    </message>
+    <message>
+        <source>Day on which the money goes over (default: today)</source>
+        <translation>Día en que pasa el dinero (por defecto: hoy)</translation>
+    </message>
+    <message>
+        <source>Give an account to another bank, with all that is set aside</source>
+        <translation>Dar una cuenta a otro banco, con todo lo apartado</translation>
+    </message>
+    <message>
+        <source>Change banks: another account takes the money, goals and what is set aside</source>
+        <translation>Cambiar de banco: otra cuenta toma el dinero, las metas y lo apartado</translation>
+    </message>
+    <message>
+        <source>To end it, use kiv %1 finish.</source>
+        <translation>Para terminarla: kiv %1 finish.</translation>
+    </message>
+    <message>
+        <source>Account that gets the money, or on which it is spent (default: the bank account that holds it)</source>
+        <translation>Cuenta que recibe el dinero o en la que se gasta (por defecto: la cuenta bancaria que lo guarda)</translation>
+    </message>
+    <message>
+        <source>End a goal: its money goes back or is spent</source>
+        <translation>Terminar una meta: su dinero vuelve o se gasta</translation>
+    </message>
+    <message>
+        <source>End a debt that is paid off</source>
+        <translation>Terminar una deuda pagada</translation>
+    </message>
+    <message>
+        <source>use kiv account convert</source>
+        <translation>véase kiv account convert</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7059,6 +7325,18 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>changing the account “%1”</source>
         <translation>cambiar la cuenta «%1»</translation>
     </message>
+    <message>
+        <source>It stays &amp;open:</source>
+        <translation>Queda abier&amp;ta:</translation>
+    </message>
+    <message>
+        <source>Another bank keeps “%1” from now on</source>
+        <translation>Otro banco lleva «%1» a partir de ahora</translation>
+    </message>
+    <message>
+        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
+        <translation>Otra cuenta toma el dinero de «%1», sus metas y lo que está apartado allí</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7137,6 +7415,14 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     <message>
         <source>removing “%1”</source>
         <translation>eliminar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Move to another bank</source>
+        <translation>A o&amp;tro banco</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Reem&amp;plazar</translation>
     </message>
 </context>
 <context>
@@ -8431,14 +8717,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>removing the %1 “%2”</source>
         <translation>eliminar «%2» (%1)</translation>
-    </message>
-    <message>
-        <source>Ended the %1 “%2”.</source>
-        <translation>Se terminó «%2» (%1).</translation>
-    </message>
-    <message>
-        <source>ending the %1 “%2”</source>
-        <translation>terminar «%2» (%1)</translation>
     </message>
 </context>
 <context>

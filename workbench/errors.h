@@ -37,6 +37,7 @@ enum class Remedy : std::uint8_t {
     LookAtVersions = 13,   ///< look at the former versions of the file
     Reload = 14,           ///< open the file as it is now; the budget in memory is given up
     OpenForReading = 15,   ///< open the file without being able to change it
+    ConvertAccount = 16,   ///< give the account another type
 };
 
 /// A request that was understood and refused.

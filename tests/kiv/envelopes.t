@@ -111,8 +111,8 @@ A debt grows by interest and what was borrowed; its line does not:
   $ kiv spend 975 Car --from Checking --date 2026-05-02 >/dev/null
   $ kiv envelopes --on 2026-05-02 | grep -e debt -e goal
   2026-04-10  Trip  goal  $100.00
-  The goal 'Trip' is reached: $300.00. To end it, use kiv goal update with --every none.
-  The debt 'Car' is paid off. To end it, use kiv debt update with --every none.
+  The goal 'Trip' is reached: $300.00. To end it, use kiv goal finish.
+  The debt 'Car' is paid off. To end it, use kiv debt finish.
 
 More than there is, and what no line shows:
 

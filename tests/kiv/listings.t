@@ -133,6 +133,7 @@ Each field of something is changed alone:
   > bill update Rent --next 2026-03-01
   > bill update Rent --tag home
   > .
+  kiv: warning: This money came from Rent, which is an expense account and keeps none.
   $ kiv debt add Car 20 --borrowed 500 --bank First --next 2026-02-01 --date 2026-01-02
   Added the debt 'Car'.
   $ kiv bank add Second >/dev/null

@@ -48,6 +48,8 @@ the left of what is owned:
   > pay Rent 1000.00 --account Checking --date 2026-04-20
   > pay Salary 1000.03 --account Checking --date 2026-05-20
   > .
+  kiv: warning: Checking is below zero: -$0.02.
+  kiv: warning: Checking is below zero: -$1,000.02.
   $ kiv report --chart --from 2026-01-01 --to 2026-05-31 | head -20
   Net worth over time, USD
   2026-01                            █████████████████████████████████  $1,250.00

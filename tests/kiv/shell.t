@@ -166,10 +166,9 @@ stand among them:
   Add, change or list bills
   $ jq -r .signal signals | head -1
   loadedBudgetFile
-  $ jq -c 'select(.signal | test("^save|SaveFailed|showBills"))' signals
+  $ jq -c 'select(.signal | test("^save|SaveFailed"))' signals
   {"arguments":{"displayed":"5 Rent","errorMessage":"The code name is the same name as an existing budget item.","original":null},"signal":"accountSaveFailed"}
   {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
-  {"arguments":{"associatedTags":"()","bills":"(Gym (bill) 30.00 USD monthly on 2026-02-01 day 1, Rent (bill) 1250.00 USD monthly on 2026-01-31 day 31)","displayAs":"Symbol","possibleTags":"()","preferred":"USD","usableCurrencies":"(USD)"},"signal":"showBills"}
   {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
 
 At a terminal, lines are typed with history and completion:

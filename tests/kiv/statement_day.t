@@ -81,6 +81,7 @@ A difference is always told, with what may be behind it, and stays only where th
 The difference goes with what explains it, and needs no consent then:
 
   $ kiv transfer Food Checking 43.22 --date 2026-02-01 >/dev/null
+  kiv: warning: This money came from Food, which is an expense account and keeps none.
   $ complete --date 2026-02-02 --balance 5509.90 --tick all --dry-run | sed -n 3,5p
   Difference  -$43.22
   The books are $43.22 above the bank (0.78 %), inside the window of 2.75 %.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "workbench/document/bank_moves.h"
+#include "workbench/document/bank_steps.h"
 #include "workbench/document/demonstration.h"
 #include "workbench/document/document.h"
 #include "workbench/internal/chance.h"
@@ -32,6 +34,7 @@ public:
     {
         while (which-- > 0)
             (void)m_chance.between(0, 1);
+        m_document.setKeeping(workbench::Document::Keeping::WithinASecond);
         m_document.createFilled(m_folder.path(u"household.budget"_s), {u"Made"_s, {}, {}},
                                 [this] { makeDemonstration(m_document, m_day); });
     }
@@ -87,6 +90,53 @@ public:
             balance += ledger.ledger(child).balance();
         return balance;
     }
+
+    /// Gives the account to a new bank, or replaces it by a new account there; its number then.
+    accounting::AccountNumber changeBank(const SetAside &account, bool isReplaced)
+    {
+        accounting::AccountNumber number = account.account.account.number;
+        const banking::BankName bank(u"Bank %1"_s.arg(++m_banks));
+        m_document.perform({bank.institution(), {}, {}}, [&] {
+            workbench::addBank(m_document.requests(), bank);
+            if (!isReplaced)
+                return workbench::moveBankAccount(m_document, number, bank);
+            const auto by = workbench::addBankAccount(
+                m_document, {bank.institution() + u" giro"_s, bank, account.account.account.type,
+                             numira::Money(account.balance.code()), m_day});
+            workbench::replaceBankAccount(m_document, {number, by, m_day});
+            number = by;
+        });
+        return number;
+    }
+    /// What is set aside for each item, and the balance of all banks. Items that several
+    /// accounts show have no place yet.
+    [[nodiscard]] std::map<QString, numira::Money> sums()
+    {
+        const workbench::Envelopes all =
+            workbench::envelopes(m_document.present(), m_document.keptReconciliations(), m_day);
+        std::map<QString, numira::Money> sums;
+        for (const SetAside &account : all.accounts) {
+            const auto add = [&](const QString &what, const numira::Money &money) {
+                sums.try_emplace(what, money.code()).first->second += money;
+            };
+            add(u"balance"_s, account.balance);
+            for (const SetAsideLine &line : account.lines) {
+                if (!line.counted->isZero() && std::ranges::count(all.shared, line.item) == 0)
+                    add(line.item.source.name(), *line.counted);
+            }
+        }
+        return sums;
+    }
+    /// By how much the books differ from the banks.
+    [[nodiscard]] std::vector<numira::Money> differences()
+    {
+        std::vector<numira::Money> amounts;
+        for (const workbench::BooksDifference &one : booksDifferences(m_document))
+            amounts.push_back(one.amount);
+        std::ranges::sort(amounts, {}, [](const numira::Money &one) { return one.amount(); });
+        return amounts;
+    }
+    [[nodiscard]] workbench::Document &document() { return m_document; }
 
 private:
     [[nodiscard]] std::vector<SetAside> withLines()
@@ -152,6 +202,7 @@ private:
     banking::BankAccount m_surveyed;
     test::ScratchFolder m_folder;
     workbench::internal::Chance m_chance;
+    int m_banks = 0;
     QDate m_day = test::day("2024-06-30");
     workbench::Document m_document{{[] {
                                         return foundation::UniqueQtPtr<networking::RequestSender>(
@@ -182,6 +233,40 @@ private slots:
         for (int run = randomRuns(1); run > 0; --run)
             live(run, cut);
         QVERIFY(cut > 0); // else no line was ever paid beyond its end
+    }
+
+    void anotherBankTakesOverAllThatIsSetAside()
+    {
+        const MessageLog quiet;
+        GoingOn household(1);
+        for (int round = 0; round < 12; ++round) {
+            for (int step = 0; step < 4; ++step)
+                household.step();
+            const auto sums = household.sums();
+            const auto differences = household.differences();
+            const Data before = household.document().present();
+            const std::vector<SetAside> all = household.shown();
+            const SetAside &account = all[static_cast<std::size_t>(round) % all.size()];
+            numira::Money expected = household.proposed(account).proposal.expectedBalance();
+            const bool isReplaced = round % 3 != 0;
+            for (const auto &one : booksDifferences(household.document())) {
+                // Only what is in the books can go over.
+                if (isReplaced && one.account == account.account)
+                    expected -= one.amount;
+            }
+            const auto number = household.changeBank(account, isReplaced);
+            QCOMPARE(household.sums(), sums);
+            QCOMPARE(household.differences(), differences);
+            // The next statement continues where the last one ended.
+            for (const SetAside &now : household.shown()) {
+                if (now.account.account.number == number)
+                    QCOMPARE(household.proposed(now).proposal.expectedBalance(), expected);
+            }
+            if (round % 4 == 0) {
+                (void)household.document().undo();
+                QCOMPARE(household.document().present(), before);
+            }
+        }
     }
 
 private:

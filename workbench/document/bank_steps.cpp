@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/document/bank_steps.h"
 
+#include "workbench/internal/faults.h"
 #include "workbench/requests/other_day.h"
 
 namespace kiv::workbench {
@@ -27,6 +28,21 @@ std::vector<AccountCode> closedAccounts(Requests &requests, const Bank &bank)
 void keep(Requests &requests, const BankName &name, Bank::Accounts accounts)
 {
     requests.change(bankOutcome, &Navigator::onBankUpdated, Bank(name, std::move(accounts), false));
+}
+
+void refuseOtherNature(Requests &requests, accounting::AccountNumber number,
+                       banking::BankAccountTypes kind)
+{
+    const AccountIndex index = requests.accounts();
+    const accounting::Account *account = index.find(number);
+    const bool isAsset = banking::isAssetAccount(kind);
+    if (!account || kind == banking::BankAccountTypes::Unknown ||
+        account->type() ==
+            (isAsset ? accounting::AccountTypes::Asset : accounting::AccountTypes::Liability))
+        return;
+    throw internal::typeDoesNotFit(index.plainName(number),
+                                   accounting::presentationText(account->type()),
+                                   banking::presentationText(kind));
 }
 
 } // namespace
@@ -99,6 +115,7 @@ void attachBankAccount(Document &document, const BankName &bank, accounting::Acc
                        banking::BankAccountTypes kind)
 {
     Requests &requests = document.requests();
+    refuseOtherNature(requests, account, kind);
     const Bank::Accounts before = requests.bank(bank.institution()).accounts();
     Bank::Accounts after = before;
     // The type of a bank account cannot be changed, so the account leaves its bank

@@ -19,7 +19,7 @@ using storage::BudgetStorage;
 
 Document::Document(Surroundings surroundings)
     : m_surroundings(std::move(surroundings)),
-      m_requests([this]() -> Navigator & { return navigator(); })
+      m_requests([this]() -> Navigator & { return navigator(); }, [this] { return present(); })
 {
 }
 
@@ -290,20 +290,23 @@ void Document::revert()
 
 BudgetStorage::Data Document::present()
 {
+    (void)navigator();
     return m_storage->caught([this] { navigator().onSaveAsBudgetFile(m_file); });
+}
+
+void Document::put(BudgetStorage::Data data)
+{
+    // No warnings here: the user asked for the change that is repaired.
+    m_storage->recall(m_requests.within([&data] { return storage::BudgetFile::mended(data); }));
+    (void)m_requests.ask(&Navigator::loadedBudgetFile, &Navigator::onConfirmedLoadBudgetFile,
+                         m_file, true);
 }
 
 void Document::mend()
 {
-    const BudgetStorage::Data data = present();
-    // No warnings here: the user asked for the change that is repaired.
-    BudgetStorage::Data mended =
-        m_requests.within([&data] { return storage::BudgetFile::mended(data); });
-    if (mended == data)
-        return;
-    m_storage->recall(std::move(mended));
-    (void)m_requests.ask(&Navigator::loadedBudgetFile, &Navigator::onConfirmedLoadBudgetFile,
-                         m_file, true);
+    BudgetStorage::Data data = present();
+    if (m_requests.within([&data] { return storage::BudgetFile::mended(data); }) != data)
+        put(std::move(data));
 }
 
 } // namespace kiv::workbench

@@ -194,6 +194,9 @@ public:
     [[nodiscard]] const History &history() const noexcept { return m_history; }
     /// The budget in memory, as save() would write it.
     [[nodiscard]] storage::BudgetStorage::Data present();
+    /// Takes this budget in place of the one in memory, for what no request does, as a part of
+    /// perform(). It is repaired as when it is opened. Throws what loading throws.
+    void put(storage::BudgetStorage::Data data);
     /// Repairs the budget in memory now, as the next opening of its file would.
     void mend();
 

@@ -115,6 +115,32 @@ namespace kiv::workbench::internal {
 [[nodiscard]] Refusal nothingToRedo(qsizetype possible);
 [[nodiscard]] Refusal versionDamaged(const QString &path, const QString &reason);
 
+// ---- accounts that change their bank, their type or come to an end ---------------
+
+/// A bank cannot keep an account of this type as that kind.
+[[nodiscard]] Refusal typeDoesNotFit(const QString &account, const QString &type,
+                                     const QString &kind);
+[[nodiscard]] EntryError kindDoesNotFit(const QString &kind, const QString &type);
+[[nodiscard]] Refusal atThatBank(const QString &account, const QString &bank);
+[[nodiscard]] Refusal bankIsClosed(const QString &bank);
+[[nodiscard]] Refusal accountIsClosed(const QString &account);
+/// `above` is the account to name instead.
+[[nodiscard]] Refusal liesUnder(const QString &account, const QString &above);
+[[nodiscard]] Refusal replacedByItself(const QString &account);
+/// One is owned, the other owed.
+[[nodiscard]] Refusal differentNature(const QString &old, const QString &by);
+[[nodiscard]] Refusal differentCurrency(const QString &old, const QString &by);
+[[nodiscard]] Refusal dayToCome(QDate day);
+[[nodiscard]] Refusal isOfThatType(const QString &account, const QString &type);
+[[nodiscard]] Refusal typeOfItem(const QString &item);
+[[nodiscard]] Refusal itemBelow(const QString &item);
+[[nodiscard]] Refusal typeOfOpenings(const QString &account);
+[[nodiscard]] Refusal itemLacksAccount(const QString &item);
+[[nodiscard]] Refusal isFinished(const QString &item);
+[[nodiscard]] Refusal noPlaceFor(const QString &goal);
+[[nodiscard]] Refusal stillOwed(const QString &debt, const QString &amount);
+[[nodiscard]] Refusal paidTooMuch(const QString &debt, const QString &amount);
+
 // ---- files -------------------------------------------------------------------
 
 [[nodiscard]] Refusal noSuchFile(const QString &path);

@@ -14,35 +14,6 @@ using budgeting::BudgetSource;
 
 namespace {
 
-/// The signal and slot of the Navigator for the items of one kind.
-template <typename Item>
-struct ItemView;
-template <>
-struct ItemView<budgeting::Bill> {
-    static constexpr auto signal = &navigation::Navigator::showBills;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowBills;
-};
-template <>
-struct ItemView<budgeting::Debt> {
-    static constexpr auto signal = &navigation::Navigator::showDebts;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowDebts;
-};
-template <>
-struct ItemView<budgeting::Goal> {
-    static constexpr auto signal = &navigation::Navigator::showGoals;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowGoals;
-};
-template <>
-struct ItemView<budgeting::Nontrack> {
-    static constexpr auto signal = &navigation::Navigator::showNontracks;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowNontracks;
-};
-template <>
-struct ItemView<budgeting::Wage> {
-    static constexpr auto signal = &navigation::Navigator::showWages;
-    static constexpr auto slot = &navigation::Navigator::onPrepareShowWages;
-};
-
 /// The bank account that the item is linked to: a debt's own account, and of a goal the one
 /// under which its own lies.
 std::optional<banking::BankAccount> linkOf(const storage::BudgetStorage::Data &data,
@@ -80,19 +51,7 @@ BudgetView::BudgetView(const storage::BudgetStorage::Data &data) : m_budget(data
     });
 }
 
-BudgetView::BudgetView(Requests &requests)
-{
-    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        const auto answer = requests.ask(ItemView<Item>::signal, ItemView<Item>::slot);
-        auto &items = m_budget.items<Item>();
-        items = std::get<std::remove_cvref_t<decltype(items)>>(answer);
-        m_tags.emplace(budgeting::ItemTraits<Item>::type,
-                       std::get<tagging::BudgetItemTags>(answer));
-        if constexpr (budgeting::BankTiedItem<Item>)
-            m_bankAccounts.merge(
-                std::set(std::get<std::set<navigation::BudgetBankAccount>>(answer)));
-    });
-}
+BudgetView::BudgetView(Requests &requests) : BudgetView(requests.present()) {}
 
 tagging::Tags BudgetView::tags(const BudgetItemIdentifier &id) const
 {

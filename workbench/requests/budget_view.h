@@ -11,10 +11,9 @@ namespace kiv::workbench {
 /// The items of the budget with their tags and bank accounts.
 class KIV_WORKBENCH_EXPORT BudgetView {
 public:
-    /// Asks for all five kinds. Throws what the slots throw, such as a missing exchange
-    /// rate.
+    /// Those of the budget in memory. It takes no exchange rate.
     explicit BudgetView(Requests &requests);
-    /// Reads them from a budget in memory, which takes no exchange rate.
+    /// Those of this budget.
     explicit BudgetView(const storage::BudgetStorage::Data &data);
 
     /// All items.

@@ -90,6 +90,16 @@ PostedItem payDue(Requests &requests, const budgeting::Budget &budget,
         requests.change(dueOutcome, &Navigator::onPostBudgetItemPosted, due, account, day));
 }
 
+bool comesToNothing(const BudgetItemAmountDue &due)
+{
+    return due.amount.rounded().isZero();
+}
+
+QString skippedAsNothing(const BudgetItemAmountDue &due)
+{
+    return QObject::tr("'%1' has an amount of zero and was skipped.").arg(due.id.source.name());
+}
+
 PostedItem payExtra(Requests &requests, const BudgetItemDueIdentifier &id,
                     const numira::Money &amount, const accounting::AccountCode &account, QDate day)
 {

@@ -40,6 +40,12 @@ struct PostedItem {
 KIV_WORKBENCH_EXPORT PostedItem payDue(Requests &requests, const budgeting::Budget &budget,
                                        const budgeting::BudgetItemAmountDue &due,
                                        const accounting::AccountCode &account, QDate day);
+/// Whether the amount is zero when it is rounded. Such an item cannot be posted; among several
+/// it is skipped, so that it does not stop the others.
+[[nodiscard]] KIV_WORKBENCH_EXPORT bool comesToNothing(const budgeting::BudgetItemAmountDue &due);
+/// "'Power' has an amount of zero and was skipped."
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString
+skippedAsNothing(const budgeting::BudgetItemAmountDue &due);
 /// Posts an amount that was not expected; the item keeps its date. Throws a Refusal when
 /// the Navigator refuses it.
 KIV_WORKBENCH_EXPORT PostedItem payExtra(Requests &requests,

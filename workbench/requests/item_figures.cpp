@@ -6,6 +6,7 @@
 #include "workbench/requests/paying_account.h"
 
 #include "budgeting/item_traits.h"
+#include "foundation/presentation.h"
 #include "numira/error.h"
 
 namespace kiv::workbench {
@@ -101,6 +102,36 @@ std::map<numira::Currency, Money> monthlyTotals(const budgeting::Budget &budget,
     for (auto &[currency, money] : totals)
         money = money.rounded();
     return totals;
+}
+
+ConvertibleBudget convertibleBudget(budgeting::Budget budget, const numira::Currency &currency)
+{
+    ConvertibleBudget made{std::move(budget), {}};
+    made.budget.forEach([&](const BudgetedMoney &item) {
+        if (!convertedIfKnown(item.amount(), currency))
+            made.leftOut.push_back(identify(item));
+    });
+    for (const budgeting::BudgetItemIdentifier &id : made.leftOut) {
+        budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+            if (budgeting::ItemTraits<Item>::type == id.type)
+                made.budget.items<Item>().remove(id.source);
+        });
+    }
+    return made;
+}
+
+QStringList leftOutTexts(const ConvertibleBudget &convertible, const budgeting::Budget &budget,
+                         const numira::Currency &currency)
+{
+    QStringList texts;
+    for (const budgeting::BudgetItemIdentifier &id : convertible.leftOut) {
+        const BudgetedMoney *item = budgeting::findBudgetItem(id, budget);
+        texts += QObject::tr("The totals leave '%1' out: there is no exchange rate between %2 and "
+                             "%3.")
+                     .arg(id.source.name(), foundation::toQString(item->amount().code()),
+                          foundation::toQString(currency));
+    }
+    return texts;
 }
 
 } // namespace kiv::workbench

@@ -5,6 +5,8 @@
 
 #include "storage/budget_storage.h"
 
+#include <QtCore/QStringList>
+
 #include <map>
 #include <optional>
 
@@ -44,5 +46,18 @@ payOffOf(const storage::BudgetStorage::Data &data, const budgeting::Debt &debt);
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::map<numira::Currency, numira::Money>
 monthlyTotals(const budgeting::Budget &budget, budgeting::BudgetItemTypes kind,
               const numira::Currency &preferred);
+
+/// The part of a budget that can be added up in one currency.
+struct ConvertibleBudget {
+    budgeting::Budget budget; ///< the items whose amounts can be told in the currency
+    std::vector<budgeting::BudgetItemIdentifier> leftOut; ///< those that lack an exchange rate
+};
+/// Leaves the items out whose amounts have no exchange rate for the currency.
+[[nodiscard]] KIV_WORKBENCH_EXPORT ConvertibleBudget
+convertibleBudget(budgeting::Budget budget, const numira::Currency &currency);
+/// "The totals leave 'Rent' out: there is no exchange rate between CHF and USD.", for each.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList leftOutTexts(const ConvertibleBudget &convertible,
+                                                            const budgeting::Budget &budget,
+                                                            const numira::Currency &currency);
 
 } // namespace kiv::workbench

@@ -28,7 +28,10 @@ QString userText(const std::exception &error)
     return userText(navigation::failureOf({}, error));
 }
 
-Requests::Requests(std::function<Navigator &()> reach) : m_reach(std::move(reach)) {}
+Requests::Requests(std::function<Navigator &()> reach, std::function<Data()> present)
+    : m_reach(std::move(reach)), m_present(std::move(present))
+{
+}
 
 Requests::~Requests() = default;
 

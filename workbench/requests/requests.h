@@ -7,6 +7,7 @@
 #include "conversion/conversion_map.h"
 #include "navigation/failure.h"
 #include "navigation/navigator.h"
+#include "storage/budget_storage.h"
 #include "updating/release_information.h"
 
 #include <chrono>
@@ -42,14 +43,20 @@ public:
     /// The class that answers the requests.
     using Navigator = navigation::Navigator;
 
-    /// `reach` returns the Navigator, and may create it first.
-    explicit Requests(std::function<Navigator &()> reach);
+    /// The budget as a whole.
+    using Data = storage::BudgetStorage::Data;
+
+    /// `reach` returns the Navigator, and may create it first; `present` the budget that it
+    /// has.
+    Requests(std::function<Navigator &()> reach, std::function<Data()> present);
     ~Requests();
     Requests(const Requests &) = delete;
     Requests &operator=(const Requests &) = delete;
 
     /// The Navigator, created if needed.
     [[nodiscard]] Navigator &navigator() const { return m_reach(); }
+    /// The budget in memory. It takes no exchange rate, as the answers to many requests do.
+    [[nodiscard]] Data present() const { return m_present(); }
     /// Whether a request is running. Log messages are then for developers: the answer
     /// says the same to the user.
     [[nodiscard]] bool isBusy() const noexcept { return m_running > 0; }
@@ -180,6 +187,7 @@ private:
     void forgetFailure() const;
 
     std::function<Navigator &()> m_reach;
+    std::function<Data()> m_present;
     int m_running = 0;
 };
 

@@ -15,13 +15,15 @@ enum class CommandKind {
     Standalone, ///< opens no file itself, or does it in its own way
     Query,      ///< reads it
     Change,     ///< reads it; it is saved afterwards
+    Entry,      ///< as Change, and tells what the user may not have meant
     Restore,    ///< as Change, also where the file is gone or damaged
 };
 
 /// Whether the budget is saved after commands of this kind.
 [[nodiscard]] inline bool isSaving(CommandKind kind) noexcept
 {
-    return kind == CommandKind::Change || kind == CommandKind::Restore;
+    return kind == CommandKind::Change || kind == CommandKind::Entry ||
+           kind == CommandKind::Restore;
 }
 
 /// The command that was chosen by parsing a command line.

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// accounts, ledger, account add|recode|close|open|remove
+// accounts, ledger, account add|recode|convert|close|open|remove
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
 
 #include "output/json.h"
 #include "output/survey_report.h"
 
+#include "workbench/document/account_conversion.h"
 #include "workbench/requests/account_changes.h"
 
 namespace kiv::app {
@@ -205,6 +206,33 @@ struct AddAccount {
     }
 };
 
+struct ConvertAccount {
+    QString account;
+    accounting::AccountTypes type = accounting::AccountTypes::Unknown;
+    std::optional<banking::BankAccountTypes> kind;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .required("--type", type,
+                      QObject::tr("Type: asset, equity, expense, liability or income"))
+            .optional("--bank-type", kind,
+                      QObject::tr("What it is to its bank then: checking, savings, credit-card, "
+                                  "loan … (default: checking or credit-card)"));
+    }
+    Report run(Call &call) const
+    {
+        const workbench::Conversion said{call.requests.accounts().find(account).code().number(),
+                                         type, kind};
+        const workbench::Converted done = workbench::convertAccount(call.document, said);
+        Report report = accountReport(call.requests, said.account,
+                                      workbench::convertDeed(call.requests, said).line);
+        for (const QString &sentence : workbench::toldOf(call.requests, done, said))
+            report.line(sentence);
+        return report;
+    }
+};
+
 } // namespace
 
 void addAccountCommands(CommandGroup &root)
@@ -220,6 +248,8 @@ void addAccountCommands(CommandGroup &root)
     account.add("recode", QObject::tr("Change an account's number, name or parent"), Change,
                 Recode{workbench::accountOutcome, &Navigator::onRecoded,
                        QObject::tr("The account %1 is now %2.")});
+    account.add("convert", QObject::tr("Correct the type of an account; its transactions stay"),
+                Change, ConvertAccount{});
     account.add("close", QObject::tr("Close an account"), Change,
                 AccountVerb{workbench::accountOutcome, &Navigator::onClosed,
                             QObject::tr("Closed the account %1.")});

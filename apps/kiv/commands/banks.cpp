@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// banks, bank add|rename|close|open|remove, bank-account add|attach|detach|rename|remove
+// banks, bank add|rename|close|open|remove, bank-account
+// add|attach|detach|move|replace|rename|remove
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
 
 #include "output/json.h"
 #include "output/survey_report.h"
 
+#include "workbench/document/bank_moves.h"
 #include "workbench/document/bank_steps.h"
 
 namespace kiv::app {
@@ -185,6 +187,51 @@ struct DetachBankAccount {
     }
 };
 
+struct MoveBankAccount {
+    QString account;
+    QString bank;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .required("--to", bank, QObject::tr("Name of the bank that keeps it from now on"));
+    }
+    Report run(Call &call) const
+    {
+        const AccountNumber number = call.requests.accounts().find(account).code().number();
+        const BankName to = call.requests.bank(bank).name();
+        workbench::moveBankAccount(call.document, number, to);
+        return bankReport(call.requests, to, workbench::moveDeed(call.requests, number, to).line);
+    }
+};
+
+struct ReplaceBankAccount {
+    QString account;
+    QString by;
+    bool isKeptOpen = false;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.required("ACCOUNT", account, QObject::tr("Account: number, name or path"))
+            .required("--by", by, QObject::tr("Account of a bank that takes its place"))
+            .flag("--keep-open", isKeptOpen,
+                  QObject::tr("Do not close it: a statement is still to come"))
+            .dated(QObject::tr("Day on which the money goes over (default: today)"));
+    }
+    Report run(Call &call) const
+    {
+        const AccountIndex index = call.requests.accounts();
+        const workbench::Replacement said{index.find(account).code().number(),
+                                          index.find(by).code().number(), call.date(), isKeptOpen};
+        const workbench::Replaced done = workbench::replaceBankAccount(call.document, said);
+        Report report =
+            accountReport(call.requests, said.by, workbench::replaceDeed(call.requests, said).line);
+        for (const QString &sentence : workbench::toldOf(call.requests, done, said))
+            report.line(sentence);
+        return report;
+    }
+};
+
 } // namespace
 
 void addBankCommands(CommandGroup &root)
@@ -209,6 +256,12 @@ void addBankCommands(CommandGroup &root)
                 AttachBankAccount{});
     account.add("detach", QObject::tr("Separate an account from its bank; it stays in the ledger"),
                 Change, DetachBankAccount{});
+    account.add("move", QObject::tr("Give an account to another bank, with all that is set aside"),
+                Change, MoveBankAccount{});
+    account.add("replace",
+                QObject::tr("Change banks: another account takes the money, goals and what is set "
+                            "aside"),
+                Change, ReplaceBankAccount{});
     account.add("rename", QObject::tr("Change a bank account's number, name or parent"), Change,
                 Recode{workbench::bankAccountOutcome, &Navigator::onRenamedBankAccount,
                        QObject::tr("The bank account %1 is now %2.")});

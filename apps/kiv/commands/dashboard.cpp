@@ -4,6 +4,8 @@
 
 #include "output/json.h"
 
+#include "workbench/requests/item_figures.h"
+
 #include "adviser/budget_health.h"
 #include "budgeting/budget_totals.h"
 
@@ -39,19 +41,28 @@ struct Dashboard {
     void declare(Arguments &) {}
     Report run(Call &call) const
     {
-        const auto answer =
-            call.requests.ask(&Navigator::showDashboard, &Navigator::onPrepareShowDashboard);
-        const QJsonObject totals = totalsJson(std::get<budgeting::BudgetTotals>(answer));
-        const auto &health = std::get<adviser::BudgetHealth>(answer);
+        // Not the Navigator's totals, which fail as a whole when one exchange rate is missing.
+        const budgeting::Budget budget = call.requests.present().budget;
+        const numira::Currency currency = call.requests.preferredCurrency();
+        const auto convertible = workbench::convertibleBudget(budget, currency);
+        const budgeting::BudgetTotals monthly(convertible.budget, currency,
+                                              budgeting::EventFrequency::Monthly);
+        const QJsonObject totals = totalsJson(monthly);
+        const adviser::BudgetHealth health(monthly);
+        const QStringList notices = workbench::leftOutTexts(convertible, budget, currency);
+        const auto answer = call.requests.ask(&Navigator::showProcessBudgetItems,
+                                              &Navigator::onPrepareShowProcessBudgetItems);
         QJsonArray due;
         for (const auto &item : std::get<std::vector<budgeting::BudgetItemAmountDue>>(answer))
             due.append(toJson(item));
         const auto within = qint64{std::get<std::chrono::days>(answer).count()};
 
-        Report report(QJsonObject{{QStringLiteral("totals"), totals},
-                                  {QStringLiteral("health"), healthJson(health)},
-                                  {QStringLiteral("dueWithinDays"), within},
-                                  {QStringLiteral("due"), due}});
+        Report report(
+            QJsonObject{{QStringLiteral("totals"), totals},
+                        {QStringLiteral("health"), healthJson(health)},
+                        {QStringLiteral("dueWithinDays"), within},
+                        {QStringLiteral("due"), due},
+                        {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
         report.heading(QObject::tr("Every month"))
             .list({{QObject::tr("Wages"), QStringLiteral("wages")},
                    {QObject::tr("Bills"), QStringLiteral("bills")},
@@ -70,6 +81,8 @@ struct Dashboard {
                 QObject::tr("Budget health: %1").arg(adviser::presentationText(health.grade())));
         for (const adviser::HealthReason &reason : health.reasons())
             report.line(reason.text);
+        for (const QString &notice : notices)
+            report.line(notice);
         return report;
     }
 };

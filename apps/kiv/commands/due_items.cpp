@@ -2,6 +2,7 @@
 // due, post, pay, skip
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
+#include "messages/message_log.h"
 
 #include "output/json.h"
 
@@ -107,7 +108,13 @@ struct PostDue {
         QJsonArray rows;
         Report report;
         const BudgetView view(requests);
-        for (const BudgetItemAmountDue &due : chosen(call, view)) {
+        const std::vector<BudgetItemAmountDue> items = chosen(call, view);
+        for (const BudgetItemAmountDue &due : items) {
+            if (isAll && workbench::comesToNothing(due)) {
+                workbench::skipDue(requests, view.budget(), due.id);
+                warn(workbench::skippedAsNothing(due));
+                continue;
+            }
             const auto &[id, number] =
                 workbench::payDue(requests, view.budget(), due, code, call.date());
             rows.append(postedJson(requests, number, id));
@@ -116,7 +123,7 @@ struct PostDue {
                                  foundation::presentationText(due.id.dueOn),
                                  amountText(toJson(due.amount), requests.displayAs())));
         }
-        if (rows.isEmpty())
+        if (items.empty())
             report.line(QObject::tr("Nothing is due."));
         report.setData(isAll ? QJsonValue(rows) : rows.first());
         return report;
@@ -190,8 +197,8 @@ void addDueCommands(CommandGroup &root)
 {
     using enum CommandKind;
     root.add("due", QObject::tr("List due items"), Query, ListDue{});
-    root.add("post", QObject::tr("Post a due budget item"), Change, PostDue{});
-    root.add("pay", QObject::tr("Post an unexpected amount for a budget item"), Change,
+    root.add("post", QObject::tr("Post a due budget item"), Entry, PostDue{});
+    root.add("pay", QObject::tr("Post an unexpected amount for a budget item"), Entry,
              PayUnexpected{});
     root.add("skip", QObject::tr("Skip a budget item once, without posting"), Change, SkipDue{});
 }

@@ -78,7 +78,7 @@ QString outlookText(const ItemOutlook &outlook)
     if (!outlook.shouldEnd())
         return outlook.sentence;
     return outlook.sentence + u' ' +
-           QObject::tr("To end it, use kiv %1 update with --every none.")
+           QObject::tr("To end it, use kiv %1 finish.")
                .arg(kindWord(outlook.item.type));
 }
 

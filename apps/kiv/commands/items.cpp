@@ -5,6 +5,7 @@
 
 #include "output/json.h"
 
+#include "workbench/document/finished_items.h"
 #include "workbench/requests/item_changes.h"
 
 namespace kiv::app {
@@ -198,6 +199,43 @@ struct RemoveItem {
     }
 };
 
+/// finish, for goals and debts.
+template <budgeting::BankTiedItem Item>
+struct FinishItem {
+    static constexpr bool isGoal = std::same_as<Item, budgeting::Goal>;
+
+    QString name;
+    std::optional<AccountText> to;
+
+    void declare(Arguments &line)
+    {
+        line.required("NAME", name, QObject::tr("Name"));
+        if constexpr (isGoal)
+            line.optional("--to", to,
+                          QObject::tr("Account that gets the money, or on which it is spent "
+                                      "(default: the bank account that holds it)"))
+                .dated(QObject::tr("Day (default: today)"));
+    }
+    Report run(Call &call) const
+    {
+        Requests &requests = call.requests;
+        const BudgetItemIdentifier id{ItemTraits<Item>::type, BudgetSource(name)};
+        workbench::Finished done;
+        if constexpr (isGoal) {
+            std::optional<accounting::AccountNumber> place;
+            if (to)
+                place = requests.accounts().find(to->text).code().number();
+            done = workbench::finishGoal(call.document, name, place, call.date());
+        } else {
+            done = workbench::finishDebt(call.document, name);
+        }
+        Report report = itemReport(requests, id, workbench::finishDeed(id).line);
+        for (const QString &sentence : workbench::toldOf(requests, done, id))
+            report.line(sentence);
+        return report;
+    }
+};
+
 template <budgeting::BudgetItem Item>
 struct ListItems {
     void declare(Arguments &) {}
@@ -234,6 +272,12 @@ void addItemCommands(CommandGroup &root)
                   UpdateItem<Item>{});
         group.add("rename", QObject::tr("Rename an item"), Change, RenameItem<Item>{});
         group.add("remove", QObject::tr("Remove an item"), Change, RemoveItem<Item>{});
+        if constexpr (std::same_as<Item, budgeting::Goal>)
+            group.add("finish", QObject::tr("End a goal: its money goes back or is spent"), Entry,
+                      FinishItem<Item>{});
+        if constexpr (std::same_as<Item, budgeting::Debt>)
+            group.add("finish", QObject::tr("End a debt that is paid off"), Change,
+                      FinishItem<Item>{});
         group.add("list", QObject::tr("List all items"), Query, ListItems<Item>{});
     };
     addKind(std::type_identity<budgeting::Bill>{}, QObject::tr("Add, change or list bills"));

@@ -136,9 +136,9 @@ struct Transfer {
 void addMoneyCommands(CommandGroup &root)
 {
     using enum CommandKind;
-    root.add("spend", QObject::tr("Enter money that was spent"), Change, Spend{});
-    root.add("earn", QObject::tr("Enter money that was earned"), Change, Earn{});
-    root.add("transfer", QObject::tr("Move money between accounts"), Change, Transfer{});
+    root.add("spend", QObject::tr("Enter money that was spent"), Entry, Spend{});
+    root.add("earn", QObject::tr("Enter money that was earned"), Entry, Earn{});
+    root.add("transfer", QObject::tr("Move money between accounts"), Entry, Transfer{});
 }
 
 } // namespace kiv::app

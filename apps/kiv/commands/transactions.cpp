@@ -277,10 +277,10 @@ void addTransactionCommands(CommandGroup &root)
 
     CommandGroup transaction =
         root.group("transaction", QObject::tr("Add, change, mark or remove transactions"));
-    transaction.add("add", QObject::tr("Post a transaction"), Change, AddTransaction{});
+    transaction.add("add", QObject::tr("Post a transaction"), Entry, AddTransaction{});
     transaction.add("load", QObject::tr("Post all transactions of a JSON file"), Change,
                     LoadTransactions{});
-    transaction.add("update", QObject::tr("Change the given values of a transaction"), Change,
+    transaction.add("update", QObject::tr("Change the given values of a transaction"), Entry,
                     UpdateTransaction{});
     transaction.add(
         "remove", QObject::tr("Remove transactions"), Change,
@@ -302,7 +302,7 @@ void addTransactionCommands(CommandGroup &root)
 
     root.add("refundable", QObject::tr("List refundable transactions of a budget item"), Query,
              ListRefundable{});
-    root.add("refund", QObject::tr("Post a refund of a transaction"), Change, Refund{});
+    root.add("refund", QObject::tr("Post a refund of a transaction"), Entry, Refund{});
 }
 
 } // namespace kiv::app

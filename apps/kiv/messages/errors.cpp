@@ -46,6 +46,8 @@ QString remedyText(const Refusal &refusal)
         return seeCommand(QStringLiteral("kiv transactions"));
     case ListVersions:
         return seeCommand(QStringLiteral("kiv history"));
+    case ConvertAccount:
+        return QObject::tr("use kiv account convert");
     case AttachBankAccount:
         return QObject::tr("assign it with kiv bank-account attach");
     case ChooseKind:

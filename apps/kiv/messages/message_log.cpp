@@ -41,14 +41,18 @@ void MessageLog::take(QtMsgType type, const QString &message)
     if (!m_isVerbose && !isNews)
         return;
     m_written += message;
-    complain(isWarning ? QObject::tr("warning: %1").arg(workbench::inPlainWords(message))
-                       : message);
+    isWarning ? warn(message) : complain(message);
 }
 
 void complain(const QString &text)
 {
     const std::string line = "kiv: " + foundation::escapedUtf8(text) + '\n';
     std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void warn(const QString &text)
+{
+    complain(QObject::tr("warning: %1").arg(workbench::inPlainWords(text)));
 }
 
 } // namespace kiv::app

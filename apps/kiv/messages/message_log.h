@@ -39,5 +39,7 @@ private:
 /// Writes "kiv: " and the text as one line to standard error, with control characters
 /// escaped.
 void complain(const QString &text);
+/// The same for a warning, with the names of items in place of those of their accounts.
+void warn(const QString &text);
 
 } // namespace kiv::app

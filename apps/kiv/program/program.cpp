@@ -6,6 +6,7 @@
 #include "messages/errors.h"
 #include "messages/exit_status.h"
 
+#include "workbench/requests/entry_notices.h"
 #include "workbench/versions/kept_versions.h"
 
 #include "networking/http_request_sender.h"
@@ -128,6 +129,9 @@ int Program::execute()
     if (kind != CommandKind::Standalone)
         openFile(kind);
     const bool isSaved = isSaving(kind) && !options.isDryRun;
+    std::optional<storage::BudgetStorage::Data> before;
+    if (kind == CommandKind::Entry)
+        before = m_document.present();
     Report report;
     try {
         report = command(*this, options);
@@ -136,6 +140,8 @@ int Program::execute()
             takeBack();
         throw;
     }
+    if (before)
+        tellOfEntries(*before);
     if (isSaved && !report.isUnchanged()) {
         m_document.save(report.change());
         warnOfBroken();
@@ -148,6 +154,13 @@ int Program::execute()
     m_options = options;
     print(report);
     return report.status();
+}
+
+void Program::tellOfEntries(const storage::BudgetStorage::Data &before)
+{
+    for (const QString &notice : workbench::entryNotices(
+             before, m_document.present(), foundation::today(), m_document.displayAs()))
+        warn(notice);
 }
 
 void Program::takeBack()

@@ -48,6 +48,8 @@ private:
     void openNamed(const QString &file, CommandKind kind);
     /// Warns of the reconciliations that broke.
     void warnOfBroken();
+    /// Warns of what the user may not have meant, see workbench::entryNotices().
+    void tellOfEntries(const storage::BudgetStorage::Data &before);
     void print(const Report &report);
 
     DeclareCommands m_declare;
