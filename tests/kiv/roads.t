@@ -135,6 +135,12 @@ Another account takes its place. The statements of both show the whole transfer:
 
 A goal and a debt that came to their end:
 
+  $ kiv goal finish Trip --to Rent --date 2026-04-02 >/dev/null
+  $ kiv bank-account add Next --bank First --date 2026-04-01 >/dev/null
+  $ kiv bank-account replace Giro --by Next --date 2026-04-02 --dry-run | tail -2
+  Closed Giro.
+  Dry run: nothing is saved.
+  $ kiv undo --steps 2 >/dev/null
   $ kiv goal finish Trip --date 2026-04-02
   Finished the goal Trip.
   Moved $300.00 from Trip to Giro (transaction 6).

@@ -263,10 +263,16 @@ void Replacing::moveAll()
     // the rest: it returns to the account, where no statement shows it, and leaves that of the
     // new one likewise. What the old bank has not shown yet is left to the new one.
     std::map<AccountNumber, Money> held;
+    Family finished;
     for (const AccountNumber child : under) {
         const Money counted = countedOf(child, members);
         if (counted.isZero())
             continue;
+        // A finished goal's money may have left it without the old bank having shown that yet.
+        if (ledger.ledger(child).isClosed()) {
+            finished.insert(child);
+            ledger.open(ledger.accountCode(child));
+        }
         held.emplace(child, counted);
         const TransactionNumber back = post(child, m_said.old, counted);
         m_within.insert(back);
@@ -281,6 +287,8 @@ void Replacing::moveAll()
         m_done.number = post(m_said.old, m_said.by, m_done.moved);
     for (const auto &[child, counted] : held)
         ledger.reconcile(post(m_said.by, child, counted));
+    for (const AccountNumber child : finished)
+        ledger.close(child);
 }
 
 void Replacing::moveUnder()
