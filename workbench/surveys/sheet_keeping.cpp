@@ -14,6 +14,42 @@ using accounting::AccountNumber;
 using accounting::TransactionNumber;
 using budgeting::BudgetItemIdentifier;
 
+namespace {
+
+/// Whether the books have it still.
+bool has(const SheetBooks &books, const BudgetItemIdentifier &id)
+{
+    return budgeting::findBudgetItem(id, books.data.budget) != nullptr;
+}
+bool has(const SheetBooks &books, AccountNumber number)
+{
+    return books.data.generalLedger.hasLedger(number);
+}
+QString nameOf(const BudgetItemIdentifier &id)
+{
+    return id.source.name();
+}
+QString nameOf(AccountNumber number)
+{
+    return accounting::presentationText(number);
+}
+
+/// Takes over the amounts of what the books have still. Returns the names of the others.
+template <typename Amounts>
+QStringList keep(const Amounts &amounts, Amounts &kept, const SheetBooks &books)
+{
+    QStringList gone;
+    for (const auto &[key, money] : amounts) {
+        if (has(books, key))
+            kept.insert_or_assign(key, money);
+        else
+            gone += nameOf(key);
+    }
+    return gone;
+}
+
+} // namespace
+
 PutOffSheet SurveySheet::put(bool hasBalance) const
 {
     PutOffSheet sheet;
@@ -47,26 +83,9 @@ QStringList SurveySheet::take(const PutOffSheet &sheet, const SheetBooks &books)
             changed += QLatin1Char('#') + accounting::presentationText(one.number);
     }
     form.reconciled = std::move(same);
-    QStringList gone;
-    const auto keep = [&gone](const auto &amounts, auto &kept, const auto &isThere,
-                              const auto &nameOf) {
-        for (const auto &[key, money] : amounts) {
-            if (isThere(key))
-                kept.insert_or_assign(key, money);
-            else
-                gone += nameOf(key);
-        }
-    };
-    const auto hasItem = [&books](const BudgetItemIdentifier &id) {
-        return budgeting::findBudgetItem(id, books.data.budget) != nullptr;
-    };
-    const auto itemName = [](const BudgetItemIdentifier &id) { return id.source.name(); };
-    keep(sheet.items, form.items, hasItem, itemName);
-    keep(sheet.typed, typed, hasItem, itemName);
-    keep(
-        sheet.extras, form.extras,
-        [&books](AccountNumber number) { return books.data.generalLedger.hasLedger(number); },
-        [](AccountNumber number) { return accounting::presentationText(number); });
+    const QStringList gone = keep(sheet.items, form.items, books) +
+                             keep(sheet.typed, typed, books) +
+                             keep(sheet.extras, form.extras, books);
     if (!changed.isEmpty())
         notices += QObject::tr("Changed or reconciled since the survey was put off, and not "
                                "ticked any more: %1")
@@ -75,6 +94,23 @@ QStringList SurveySheet::take(const PutOffSheet &sheet, const SheetBooks &books)
         notices += QObject::tr("Gone since the survey was put off, and left out: %1")
                        .arg(QLocale().createSeparatedList(gone));
     return notices;
+}
+
+void SurveySheet::goOnFrom(const SurveySheet &former, const SheetBooks &books)
+{
+    const std::set<TransactionNumber> known = former.numbers();
+    for (const TransactionNumber number : numbers()) {
+        if (!known.contains(number))
+            continue;
+        if (former.form.reconciled.contains(number))
+            form.reconciled.insert(number);
+        else
+            form.reconciled.erase(number);
+    }
+    keep(former.form.items, form.items, books);
+    keep(former.form.extras, form.extras, books);
+    keep(former.typed, typed, books);
+    isAsProposed = former.isAsProposed;
 }
 
 void complete(Document &document, const SurveySheet &sheet, bool hasConsent)

@@ -115,6 +115,10 @@ struct KIV_WORKBENCH_EXPORT SurveySheet {
     /// about what is no longer as it was: transactions that were removed or changed are not
     /// ticked, and items and accounts that are gone are left out.
     QStringList take(const PutOffSheet &sheet, const SheetBooks &books);
+    /// Lays over the sheet what was entered on a former one of the account, since the books or
+    /// the day are others now. Entries that were not on that one stay as begin() ticked them,
+    /// and so does the balance. Items and accounts that are gone are left out.
+    void goOnFrom(const SurveySheet &former, const SheetBooks &books);
 
 private:
     [[nodiscard]] std::set<accounting::TransactionNumber> numbers() const;

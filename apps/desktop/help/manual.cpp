@@ -68,14 +68,16 @@ QMap<QString, QString> texts()
          QObject::tr(
              "A survey compares the books with a statement of the bank.\n\n"
              "1. Choose the account, type the day and the balance of the statement, and press "
-             "Enter.\n"
+             "Enter; or lay the bank’s file beside, which fills them in.\n"
              "2. Tick each transaction that stands on the statement: Space ticks and goes down. "
-             "The line below says how much is missing. What the bank shows and the books lack can "
-             "be added to the list.\n"
-             "3. Look at what is set aside for the items, and change it if needed.\n"
-             "4. Complete: the ticked transactions are reconciled, and the balance is kept.\n\n"
-             "The second tab lists the past reconciliations, and says whether their transactions "
-             "are still as they were.")},
+             "What the bank shows and the books lack can be added to the list, and the amount "
+             "that is missing is offered.\n"
+             "3. The second tab has what is set aside for the items, and why. An amount can be "
+             "typed over; an empty field takes it back.\n"
+             "4. Complete: the ticked transactions are reconciled, and the balance is kept. A "
+             "difference may only stay if you say so, and is shown until it is gone.\n\n"
+             "“Put off” keeps the survey, to go on with it later. The third tab lists the past "
+             "reconciliations, and says whether their transactions are still as they were.")},
         {QStringLiteral("rates"),
          QObject::tr("One line for each currency: its rate, the day of the rate, and whether it "
                      "was fetched or typed. “Not converted” stands where a usable currency has no "

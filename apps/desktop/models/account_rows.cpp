@@ -2,6 +2,7 @@
 #include "models/account_rows.h"
 
 #include "workbench/requests/account_groups.h"
+#include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/presentation.h"
 
@@ -31,6 +32,7 @@ QString groupText(AccountGroup group)
 struct Known {
     std::map<AccountNumber, QDate> reconciledOn;
     std::map<AccountNumber, bool> holds;
+    std::map<AccountNumber, QString> differences;
     workbench::AccountIndex index;
     navigation::CurrencyDisplayOptions displayAs{};
 };
@@ -40,13 +42,15 @@ Cell reconciledCell(AccountNumber number, const Known &known)
     const auto day = known.reconciledOn.find(number);
     if (day == known.reconciledOn.end())
         return {};
+    Cell cell = dayCell(day->second);
     const auto holds = known.holds.find(number);
-    if (holds == known.holds.end() || holds->second)
-        return dayCell(day->second);
-    return {QObject::tr("%1, changed since").arg(dayCell(day->second).text),
-            {},
-            false,
-            Colour::Warning};
+    if (holds != known.holds.end() && !holds->second)
+        cell = {QObject::tr("%1, changed since").arg(cell.text), {}, false, Colour::Warning};
+    const auto difference = known.differences.find(number);
+    if (difference == known.differences.end())
+        return cell;
+    return {
+        QStringLiteral("%1, %2").arg(cell.text, difference->second), {}, false, Colour::Warning};
 }
 
 Row rowOf(const GroupedAccount &one, const Known &known, bool showsTerms)
@@ -76,6 +80,15 @@ QString keyOf(AccountNumber number)
     return QString::number(number.integer());
 }
 
+std::map<AccountNumber, QString> differenceTexts(workbench::Document &document)
+{
+    std::map<AccountNumber, QString> texts;
+    for (const workbench::BooksDifference &one : workbench::booksDifferences(document))
+        texts.emplace(one.account.account.number,
+                      workbench::belowBankText(one.amount, document.requests().displayAs()));
+    return texts;
+}
+
 QStringList accountColumns(bool showsTerms)
 {
     QStringList columns{QObject::tr("Account"), QObject::tr("Bank"), QObject::tr("Balance"),
@@ -90,6 +103,7 @@ std::vector<Row> accountRows(workbench::Document &document, bool showsTerms)
     const storage::BudgetStorage::Data data = document.present();
     Known known{{},
                 document.reconciledAccounts(),
+                differenceTexts(document),
                 document.requests().accounts(),
                 document.requests().displayAs()};
     for (const auto &[account, survey] : data.surveys) {

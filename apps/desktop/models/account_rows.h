@@ -12,6 +12,11 @@ namespace kiv::desktop {
 /// Its rows: the accounts under the headings of their groups. An account's key is its number.
 [[nodiscard]] std::vector<Row> accountRows(workbench::Document &document, bool showsTerms);
 
+/// How far the books of accounts are from what their banks said, as "$43.22 below the bank".
+/// Accounts whose books agree are not there.
+[[nodiscard]] std::map<accounting::AccountNumber, QString>
+differenceTexts(workbench::Document &document);
+
 /// The key of an account's row.
 [[nodiscard]] QString keyOf(accounting::AccountNumber number);
 

@@ -34,7 +34,7 @@ std::vector<std::pair<QString, BankTarget>> targets(const banking::BankMap &bank
 }
 
 Row rowOf(const QString &key, const BankTarget &target, const workbench::AccountIndex &index,
-          navigation::CurrencyDisplayOptions displayAs)
+          const QString &difference, navigation::CurrencyDisplayOptions displayAs)
 {
     const QString bank = target.bank.institution();
     if (!target.account)
@@ -48,7 +48,12 @@ Row rowOf(const QString &key, const BankTarget &target, const workbench::Account
             {{QStringLiteral("    ") + name, QObject::tr("%1 at %2").arg(name, bank)},
              {banking::presentationText(target.kind)},
              account ? amountCell(account->balance(), displayAs) : Cell{{}, {}, true},
-             {openText(target.isClosed)}}};
+             difference.isEmpty()
+                 ? Cell{openText(target.isClosed)}
+                 : Cell{QStringLiteral("%1, %2").arg(openText(target.isClosed), difference),
+                        {},
+                        false,
+                        Colour::Warning}}};
 }
 
 } // namespace
@@ -73,9 +78,13 @@ std::vector<Row> bankRows(workbench::Document &document)
 {
     const workbench::AccountIndex index = document.requests().accounts();
     const auto displayAs = document.requests().displayAs();
+    const std::map<AccountNumber, QString> differences = differenceTexts(document);
     std::vector<Row> rows;
-    for (const auto &[key, target] : targets(document.requests().banks(), index))
-        rows.push_back(rowOf(key, target, index, displayAs));
+    for (const auto &[key, target] : targets(document.requests().banks(), index)) {
+        const auto found = target.account ? differences.find(*target.account) : differences.end();
+        rows.push_back(rowOf(key, target, index,
+                             found == differences.end() ? QString() : found->second, displayAs));
+    }
     return rows;
 }
 

@@ -59,8 +59,12 @@ public:
     void say(const QString &sentence) { m_parts.announcer.say(sentence); }
     /// Shows another page, or another part of it.
     void goTo(const Place &place) { emit placeWanted(place); }
-    /// Asks for a bank's file and imports it; into this account, if one is given.
-    void importFile(std::optional<accounting::AccountNumber> into) { emit importWanted(into); }
+    /// Imports a bank's file, and asks for it unless it is given; into this account, if one is
+    /// given.
+    void importFile(std::optional<accounting::AccountNumber> into, const QString &file = {})
+    {
+        emit importWanted(into, file);
+    }
 
 signals:
     /// The window's appearance or the size of its texts was set.
@@ -68,7 +72,7 @@ signals:
     /// Somebody wants to see this place.
     void placeWanted(const Place &place);
     /// See importFile().
-    void importWanted(std::optional<accounting::AccountNumber> into);
+    void importWanted(std::optional<accounting::AccountNumber> into, const QString &file);
     /// Pages are to show the budget anew: it has changed, or it can be changed now or no
     /// longer.
     void refreshWanted();

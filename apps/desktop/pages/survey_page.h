@@ -2,35 +2,32 @@
 #pragma once
 
 #include "pages/page.h"
-
-#include "workbench/surveys/survey_form.h"
+#include "pages/survey_drafts.h"
 
 QT_BEGIN_NAMESPACE
-class QComboBox;
-class QPushButton;
 class QStackedWidget;
 class QTabBar;
 QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
-class AccountBox;
-class DayEdit;
-class Form;
-class MoneyEdit;
-class Table;
-class TableModel;
+class PastSurveys;
+class SurveyDrops;
+class SurveyFoot;
+class SurveyShares;
+class SurveyStatement;
+class SurveyTicks;
 
-/// Compares the books with a bank's statement: the statement, the transactions that are
-/// ticked on it, and what is set aside. A second tab lists the past reconciliations.
+/// Compares the books with a bank's statement: the statement and the transactions that are
+/// ticked on it, and what is set aside. A third tab lists the past reconciliations.
 class SurveyPage final : public Page {
     Q_OBJECT
 
 public:
     explicit SurveyPage(Desk &desk);
 
-    /// The account by its number; or "past", with the place of a reconciliation, such as
-    /// "past/3".
+    /// The account by its number; "aside" for what is set aside; or "past", with the place of a
+    /// reconciliation, such as "past/3".
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
     [[nodiscard]] QStringList parts() const override;
@@ -38,59 +35,52 @@ public:
 
 protected:
     void refresh() override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    [[nodiscard]] QWidget *makeStatement();
-    [[nodiscard]] QWidget *makeTicks();
-    [[nodiscard]] QWidget *makePast();
-    void offerAccounts();
+    void connectParts();
+    /// The draft of the chosen account; null without one.
+    [[nodiscard]] SurveyDraft *draft();
+    /// Brings the draft of the chosen account in line with the books and with the day that is
+    /// typed, or makes one. Throws what cannot be read, and what is refused; the draft stays.
+    void renew();
+    /// Fills the fields from the draft.
+    void bringFields(accounting::AccountNumber account);
+
+    /// Shows all parts; what renew() throws is told in place of the figures.
+    void showAll();
+    void showParts();
+    void showFigures();
+    /// Something was entered: shows it, and says the figures.
+    void follow();
     void allowAll();
+    /// Whether the statement's balance is entered. It is then the sheet's.
+    bool takeBalance(SurveyDraft &draft) const;
 
-    /// Asks for the proposal of the chosen account and day, and lays what was ticked and
-    /// typed over it. Throws what cannot be read, and what is refused; the former one stays
-    /// then.
-    void propose();
-    void followDay();
     void compare();
-    void showForm();
-    void sayFigures();
-    void tick(const QString &key, bool goesDown);
-    void tickAll();
-    void addUnbooked();
-    void followShare();
-    void setAside();
+    void layFile();
     void complete();
-    void forgetTyping();
-    void followPast();
+    /// As renew(), but shows at the day what is refused. Returns whether nothing was.
+    bool isRenewed();
+    /// The same, and at the balance what cannot be read there.
+    bool readStatement();
+    void complain(QWidget &field, const foundation::Error &error);
+    void putOff();
+    void beginAnew();
+    [[nodiscard]] workbench::Deed placed(workbench::Deed deed) const;
 
-    std::optional<workbench::SurveyForm> m_survey;
-    /// The amounts that were typed over those of the proposal.
-    std::map<budgeting::BudgetItemIdentifier, numira::Money> m_typedShares;
+    SurveyDrafts m_drafts;
+    std::optional<accounting::AccountNumber> m_shown; ///< the account whose texts the fields have
+    QString m_budget;                                 ///< the file that the drafts are about
+    QString m_trouble;                                ///< why there is no sheet
 
+    SurveyDrops *m_drops;
     QTabBar *m_tabs;
     QStackedWidget *m_parts;
-    Form *m_statement = nullptr;
-    QComboBox *m_account = nullptr;
-    DayEdit *m_day = nullptr;
-    MoneyEdit *m_balance = nullptr;
-    QLabel *m_sign = nullptr;
-    Form *m_unbooked = nullptr;
-    AccountBox *m_unbookedAccount = nullptr;
-    MoneyEdit *m_unbookedAmount = nullptr;
-    TableModel *m_ticks;
-    Table *m_tickTable = nullptr;
-    QLabel *m_figures = nullptr;
-    QPushButton *m_tickAll = nullptr;
-    QPushButton *m_complete = nullptr;
-    QLabel *m_notSetAside = nullptr;
-    TableModel *m_shares;
-    Table *m_shareTable = nullptr;
-    Form *m_shareForm = nullptr;
-    MoneyEdit *m_share = nullptr;
-    TableModel *m_past;
-    Table *m_pastTable = nullptr;
-    QLabel *m_pastState = nullptr;
+    SurveyStatement *m_statement;
+    SurveyTicks *m_ticks;
+    SurveyShares *m_shares;
+    SurveyFoot *m_foot;
+    PastSurveys *m_past;
 };
 
 } // namespace kiv::desktop

@@ -93,10 +93,10 @@ std::optional<AccountNumber> ImportFileStep::account() const
     return number.isValid() ? std::optional(AccountNumber(number.toUInt())) : std::nullopt;
 }
 
-void ImportFileStep::choose(std::optional<AccountNumber> into)
+void ImportFileStep::choose(std::optional<AccountNumber> into, const QString &given)
 {
     m_account->setCurrentIndex(into ? std::max(0, m_account->findData(into->integer())) : 0);
-    const QString file = m_desk.questions().fileToImport(this);
+    const QString file = given.isEmpty() ? m_desk.questions().fileToImport(this) : given;
     if (file.isEmpty())
         return;
     forgetAnswers(); // also for the same file: the bank may have written it anew

@@ -24,8 +24,8 @@ public:
 
     /// Offers the accounts that banks keep. What is chosen stays.
     void refresh();
-    /// Asks for a file, and begins with it.
-    void choose(std::optional<accounting::AccountNumber> into);
+    /// Asks for a file unless it is given, and begins with it.
+    void choose(std::optional<accounting::AccountNumber> into, const QString &given = {});
     /// Reads the file, unless something is refused or must be chosen first.
     void goOn();
     /// Reads the table so, and goes on.

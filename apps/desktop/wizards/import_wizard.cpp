@@ -133,10 +133,10 @@ void ImportWizard::compareAnew()
     }
 }
 
-void ImportWizard::choose(std::optional<AccountNumber> into)
+void ImportWizard::choose(std::optional<AccountNumber> into, const QString &file)
 {
     desk().goTo({id(), m_file->objectName()});
-    m_file->choose(into);
+    m_file->choose(into, file);
 }
 
 void ImportWizard::showColumns(std::optional<AccountNumber> account)

@@ -36,7 +36,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void choose(std::optional<accounting::AccountNumber> into);
+    void choose(std::optional<accounting::AccountNumber> into, const QString &file);
     void showStep(QWidget *step);
     void showColumns(std::optional<accounting::AccountNumber> account);
     void fillColumns(std::optional<accounting::AccountNumber> account);
