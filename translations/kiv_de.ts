@@ -5364,24 +5364,6 @@ Strg+F sucht: Wörter und Bedingungen wie &gt;50, march oder not:reconciled.</tr
         <translation>Die Banken und ihre Konten. Die Art eines Kontos sagt, ob sein Saldo Geld oder eine Schuld ist und was mit ihm verknüpft werden kann.</translation>
     </message>
     <message>
-        <source>A survey compares the books with a statement of the bank.
-
-1. Choose the account, type the day and the balance of the statement, and press Enter.
-2. Tick each transaction that stands on the statement: Space ticks and goes down. The line below says how much is missing. What the bank shows and the books lack can be added to the list.
-3. Look at what is set aside for the items, and change it if needed.
-4. Complete: the ticked transactions are reconciled, and the balance is kept.
-
-The second tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
-        <translation>Ein Abgleich vergleicht die Bücher mit einem Kontoauszug.
-
-1. Das Konto wählen, Tag und Saldo des Auszugs tippen und Enter drücken.
-2. Jede Buchung abhaken, die auf dem Auszug steht: Die Leertaste hakt ab und geht nach unten. Die Zeile darunter sagt, wie viel fehlt. Was die Bank zeigt und in den Büchern fehlt, kann in die Liste aufgenommen werden.
-3. Ansehen, was für die Posten zurückgelegt wird, und es bei Bedarf ändern.
-4. Abschließen: Die abgehakten Buchungen sind abgeglichen, der Saldo ist festgehalten.
-
-Der zweite Reiter nennt die früheren Abgleiche und sagt, ob ihre Buchungen noch wie damals sind.</translation>
-    </message>
-    <message>
         <source>One line for each currency: its rate, the day of the rate, and whether it was fetched or typed. “Not converted” stands where a usable currency has no rate; totals leave it out.
 
 A rate can be typed over, and all can be fetched from the service. Rates are the same for all budgets and cannot be undone.</source>
@@ -5443,18 +5425,6 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
             <numerusform>%n abgehakt</numerusform>
             <numerusform>%n abgehakt</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>%1, nothing missing</source>
-        <translation>%1, nichts fehlt</translation>
-    </message>
-    <message>
-        <source>%1, %2 missing</source>
-        <translation>%1, es fehlen %2</translation>
-    </message>
-    <message>
-        <source>%1. %2</source>
-        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Export</source>
@@ -7065,6 +7035,108 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>use kiv account convert</source>
         <translation>siehe kiv account convert</translation>
     </message>
+    <message>
+        <source>A survey compares the books with a statement of the bank.
+
+1. Choose the account, type the day and the balance of the statement, and press Enter; or lay the bank’s file beside, which fills them in.
+2. Tick each transaction that stands on the statement: Space ticks and goes down. What the bank shows and the books lack can be added to the list, and the amount that is missing is offered.
+3. The second tab has what is set aside for the items, and why. An amount can be typed over; an empty field takes it back.
+4. Complete: the ticked transactions are reconciled, and the balance is kept. A difference may only stay if you say so, and is shown until it is gone.
+
+“Put off” keeps the survey, to go on with it later. The third tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
+        <translation>Ein Abgleich vergleicht die Bücher mit einem Kontoauszug.
+
+1. Das Konto wählen, Tag und Saldo des Auszugs tippen und Enter drücken; oder die Datei der Bank danebenlegen, die beides einträgt.
+2. Jede Buchung abhaken, die auf dem Auszug steht: Die Leertaste hakt ab und geht nach unten. Was die Bank zeigt und in den Büchern fehlt, kann in die Liste aufgenommen werden; der fehlende Betrag wird angeboten.
+3. Der zweite Reiter zeigt, was für die Posten zurückgelegt wird und warum. Ein Betrag kann überschrieben werden; ein leeres Feld nimmt ihn zurück.
+4. Abschließen: Die abgehakten Buchungen sind abgeglichen, der Saldo ist festgehalten. Ein Unterschied darf nur bleiben, wenn Sie es sagen, und wird gezeigt, bis er weg ist.
+
+„Aufschieben“ behält den Abgleich, um später weiterzumachen. Der dritte Reiter nennt die früheren Abgleiche und sagt, ob ihre Buchungen noch wie damals sind.</translation>
+    </message>
+    <message>
+        <source>balance of its account</source>
+        <translation>Saldo seines Kontos</translation>
+    </message>
+    <message>
+        <source>as proposed</source>
+        <translation>wie vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>nothing to set aside</source>
+        <translation>nichts zurückzulegen</translation>
+    </message>
+    <message>
+        <source>Still due in %1, of what is paid monthly: %2.</source>
+        <translation>Noch fällig im %1 von dem, was monatlich bezahlt wird: %2.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Anmerkung</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>Von einer Schuld wird nichts zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>Set aside for items: %1; free: %2.</source>
+        <translation>Für Posten zurückgelegt: %1; frei: %2.</translation>
+    </message>
+    <message>
+        <source>reconciled with %1, not yet seen here</source>
+        <translation>mit %1 abgeglichen, hier noch nicht gesehen</translation>
+    </message>
+    <message>
+        <source>Of what is owed, any difference is accepted.</source>
+        <translation>Bei einer Schuld wird jeder Unterschied angenommen.</translation>
+    </message>
+    <message>
+        <source>That is inside the survey window of %1.</source>
+        <translation>Das liegt innerhalb der Toleranz des Abgleichs von %1.</translation>
+    </message>
+    <message>
+        <source>That is beyond the survey window of %1: the survey cannot be completed.</source>
+        <translation>Das liegt außerhalb der Toleranz des Abgleichs von %1: Der Abgleich kann nicht abgeschlossen werden.</translation>
+    </message>
+    <message>
+        <source>%1, the books are %2</source>
+        <translation>%1, die Bücher liegen %2</translation>
+    </message>
+    <message>
+        <source>%1, the books are %2 (%3)</source>
+        <translation>%1, die Bücher liegen %2 (%3)</translation>
+    </message>
+    <message>
+        <source>It makes up for the earlier difference.</source>
+        <translation>Er gleicht den früheren Unterschied aus.</translation>
+    </message>
+    <message>
+        <source>Calculated %1, statement %2.</source>
+        <translation>Errechnet %1, Auszug %2.</translation>
+    </message>
+    <message>
+        <source>Calculated %1. Type the balance of the statement to compare.</source>
+        <translation>Errechnet %1. Zum Vergleichen den Saldo des Auszugs eingeben.</translation>
+    </message>
+    <message>
+        <source>%1, no difference</source>
+        <translation>%1, kein Unterschied</translation>
+    </message>
+    <message>
+        <source>“%1” does not look like a statement of a bank.</source>
+        <translation>„%1“ sieht nicht wie ein Kontoauszug aus.</translation>
+    </message>
+    <message>
+        <source>“%1” does not tell the day of a statement; nothing is taken from it.</source>
+        <translation>„%1“ nennt keinen Tag eines Auszugs; es wird nichts daraus übernommen.</translation>
+    </message>
+    <message>
+        <source>Taken up where it was put off.</source>
+        <translation>Der aufgeschobene Abgleich geht weiter.</translation>
+    </message>
+    <message>
+        <source>The survey that was put off is taken up with the day of today. %1</source>
+        <translation>Der aufgeschobene Abgleich geht mit dem heutigen Tag weiter. %1</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7325,18 +7397,6 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>changing the account “%1”</source>
         <translation>das Konto „%1“ ändern</translation>
     </message>
-    <message>
-        <source>It stays &amp;open:</source>
-        <translation>Es bleibt o&amp;ffen:</translation>
-    </message>
-    <message>
-        <source>Another bank keeps “%1” from now on</source>
-        <translation>Eine andere Bank führt „%1“ von nun an</translation>
-    </message>
-    <message>
-        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
-        <translation>Ein anderes Konto übernimmt das Geld von „%1“, seine Ziele und was dort zurückgelegt ist</translation>
-    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7415,14 +7475,6 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     <message>
         <source>removing “%1”</source>
         <translation>„%1“ entfernen</translation>
-    </message>
-    <message>
-        <source>&amp;Move to another bank</source>
-        <translation>Zu &amp;anderer Bank</translation>
-    </message>
-    <message>
-        <source>Re&amp;place</source>
-        <translation>Erse&amp;tzen</translation>
     </message>
 </context>
 <context>
@@ -8718,6 +8770,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>removing the %1 “%2”</source>
         <translation>„%2“ (%1) entfernen</translation>
     </message>
+    <message>
+        <source>Ended the %1 “%2”.</source>
+        <translation>Beendet: „%2“ (%1).</translation>
+    </message>
+    <message>
+        <source>ending the %1 “%2”</source>
+        <translation>„%2“ (%1) beenden</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ListPage</name>
@@ -8817,6 +8877,21 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>The page “%1” cannot be shown: %2</source>
         <translation>Die Seite „%1“ kann nicht gezeigt werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::PastSurveys</name>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Frühere Abgleiche</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet.</source>
+        <translation>Es wurde noch kein Konto abgeglichen.</translation>
+    </message>
+    <message>
+        <source>Its transactions are as they were then.</source>
+        <translation>Seine Buchungen sind wie damals.</translation>
     </message>
 </context>
 <context>
@@ -9344,31 +9419,115 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>kiv::desktop::SurveyDrops</name>
+    <message>
+        <source>Set nothing aside there any more</source>
+        <translation>Dort nichts mehr zurücklegen</translation>
+    </message>
+    <message>
+        <source>%1 No bank keeps that account: assign it to “%2” again, and this can be ended here.</source>
+        <translation>%1 Keine Bank führt dieses Konto: Wird es „%2“ wieder zugeordnet, kann das hier beendet werden.</translation>
+    </message>
+    <message>
+        <source>Assign it</source>
+        <translation>Zuordnen</translation>
+    </message>
+    <message>
+        <source>setting nothing aside at “%1”</source>
+        <translation>auf „%1“ nichts mehr zurückzulegen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyFoot</name>
+    <message>
+        <source>C&amp;omplete</source>
+        <translation>Abs&amp;chließen</translation>
+    </message>
+    <message>
+        <source>P&amp;ut off</source>
+        <translation>Au&amp;fschieben</translation>
+    </message>
+    <message>
+        <source>Begi&amp;n anew</source>
+        <translation>V&amp;on vorn beginnen</translation>
+    </message>
+    <message>
+        <source>The difference of %1 ma&amp;y stay; it is shown until it is gone</source>
+        <translation>Der Unterschied von %1 darf bleiben; er wird gezeigt, bis er &amp;weg ist</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::SurveyPage</name>
     <message>
         <source>Survey</source>
         <translation>Abgleich</translation>
     </message>
     <message>
-        <source>C&amp;omplete</source>
-        <translation>Abs&amp;chließen</translation>
-    </message>
-    <message>
         <source>Parts of the survey</source>
         <translation>Teile des Abgleichs</translation>
     </message>
     <message>
-        <source>Statement</source>
-        <translation>Kontoauszug</translation>
+        <source>There is no account at a bank to reconcile.</source>
+        <translation>Es gibt kein Bankkonto zum Abgleichen.</translation>
     </message>
     <message>
-        <source>Past reconciliations</source>
-        <translation>Frühere Abgleiche</translation>
+        <source>&amp;1 Statement</source>
+        <translation>&amp;1 Kontoauszug</translation>
     </message>
     <message>
-        <source>What the bank&apos;s statement says:</source>
-        <translation>Was auf dem Kontoauszug steht:</translation>
+        <source>&amp;2 Set aside</source>
+        <translation>&amp;2 Zurückgelegt</translation>
     </message>
+    <message>
+        <source>&amp;3 Past reconciliations</source>
+        <translation>&amp;3 Frühere Abgleiche</translation>
+    </message>
+    <message>
+        <source>Forgot the survey of “%1” that was put off.</source>
+        <translation>Den aufgeschobenen Abgleich von „%1“ vergessen.</translation>
+    </message>
+    <message>
+        <source>forgetting the survey of “%1”</source>
+        <translation>den aufgeschobenen Abgleich von „%1“ zu vergessen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyShares</name>
+    <message>
+        <source>What is set aside</source>
+        <translation>Was zurückgelegt wird</translation>
+    </message>
+    <message>
+        <source>As p&amp;roposed, where nothing is typed</source>
+        <translation>Wie &amp;vorgeschlagen, wo nichts eingegeben ist</translation>
+    </message>
+    <message>
+        <source>&amp;Set aside for it:</source>
+        <translation>Dafür &amp;zurücklegen:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this amount</source>
+        <translation>Betrag &amp;eintragen</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>Von einer Schuld wird nichts zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>There are no items to set money aside for.</source>
+        <translation>Es gibt keine Posten, für die zurückgelegt wird.</translation>
+    </message>
+    <message>
+        <source>No item is chosen.</source>
+        <translation>Es ist kein Posten gewählt.</translation>
+    </message>
+    <message>
+        <source>For a goal, what was moved to its account is set aside.</source>
+        <translation>Für ein Ziel ist zurückgelegt, was auf sein Konto umgebucht wurde.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyStatement</name>
     <message>
         <source>&amp;Account:</source>
         <translation>&amp;Konto:</translation>
@@ -9382,12 +9541,20 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;Saldo:</translation>
     </message>
     <message>
+        <source>Import &amp;what is missing</source>
+        <translation>Fehlendes i&amp;mportieren</translation>
+    </message>
+    <message>
+        <source>What the bank&apos;s statement says:</source>
+        <translation>Was auf dem Kontoauszug steht:</translation>
+    </message>
+    <message>
         <source>&amp;Compare</source>
         <translation>&amp;Vergleichen</translation>
     </message>
     <message>
-        <source>On the statement, but not booked yet:</source>
-        <translation>Auf dem Auszug, aber noch nicht gebucht:</translation>
+        <source>Lay a ban&amp;k&apos;s file beside …</source>
+        <translation>D&amp;atei danebenlegen …</translation>
     </message>
     <message>
         <source>&amp;Item or account:</source>
@@ -9402,26 +9569,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <translation>&amp;In die Liste</translation>
     </message>
     <message>
-        <source>Transactions to tick</source>
-        <translation>Buchungen zum Abhaken</translation>
-    </message>
-    <message>
-        <source>Tick a&amp;ll</source>
-        <translation>A&amp;lle abhaken</translation>
-    </message>
-    <message>
-        <source>What is set aside</source>
-        <translation>Was zurückgelegt wird</translation>
-    </message>
-    <message>
-        <source>&amp;Set aside for it:</source>
-        <translation>Dafür &amp;zurücklegen:</translation>
-    </message>
-    <message>
-        <source>&amp;Keep this amount</source>
-        <translation>Betrag &amp;eintragen</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -9434,43 +9581,27 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <translation>Geld auf dem Konto steht ohne Minus; ein überzogenes Konto hat eines.</translation>
     </message>
     <message>
-        <source>There is no account at a bank to reconcile.</source>
-        <translation>Es gibt kein Bankkonto zum Abgleichen.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ticked</source>
-        <translation>
-            <numerusform>%n abgehakt</numerusform>
-            <numerusform>%n abgehakt</numerusform>
-        </translation>
+        <source>On the statement, but not booked yet (interest, for example):</source>
+        <translation>Auf dem Auszug, aber noch nicht gebucht (zum Beispiel Zinsen):</translation>
     </message>
     <message>
-        <source>Nothing is set aside of what is owed.</source>
-        <translation>Von einer Schuld wird nichts zurückgelegt.</translation>
-    </message>
-    <message>
-        <source>Set aside from it for items; %1 is left:</source>
-        <translation>Davon für Posten zurückgelegt; %1 bleiben:</translation>
-    </message>
-    <message>
-        <source>No account was reconciled yet.</source>
-        <translation>Es wurde noch kein Konto abgeglichen.</translation>
-    </message>
-    <message>
-        <source>Its transactions are as they were then.</source>
-        <translation>Seine Buchungen sind wie damals.</translation>
+        <source>On the statement, but not booked yet:</source>
+        <translation>Auf dem Auszug, aber noch nicht gebucht:</translation>
     </message>
     <message>
         <source>For which item or account?</source>
         <translation>Für welchen Posten oder welches Konto?</translation>
     </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyTicks</name>
     <message>
-        <source>No item is chosen.</source>
-        <translation>Es ist kein Posten gewählt.</translation>
+        <source>Transactions to tick</source>
+        <translation>Buchungen zum Abhaken</translation>
     </message>
     <message>
-        <source>For a goal, what was moved to its account is set aside.</source>
-        <translation>Für ein Ziel ist zurückgelegt, was auf sein Konto umgebucht wurde.</translation>
+        <source>Tick a&amp;ll</source>
+        <translation>A&amp;lle abhaken</translation>
     </message>
 </context>
 <context>

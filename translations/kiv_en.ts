@@ -455,14 +455,4 @@
         </translation>
     </message>
 </context>
-<context>
-    <name>kiv::desktop::SurveyPage</name>
-    <message numerus="yes">
-        <source>%n ticked</source>
-        <translation>
-            <numerusform>%n ticked</numerusform>
-            <numerusform>%n ticked</numerusform>
-        </translation>
-    </message>
-</context>
 </TS>

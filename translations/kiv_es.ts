@@ -5364,24 +5364,6 @@ Ctrl+F busca: palabras y condiciones como &gt;50, march o not:reconciled.</trans
         <translation>Los bancos y sus cuentas. La clase de una cuenta dice si su saldo es dinero o una deuda, y qué se puede vincular con ella.</translation>
     </message>
     <message>
-        <source>A survey compares the books with a statement of the bank.
-
-1. Choose the account, type the day and the balance of the statement, and press Enter.
-2. Tick each transaction that stands on the statement: Space ticks and goes down. The line below says how much is missing. What the bank shows and the books lack can be added to the list.
-3. Look at what is set aside for the items, and change it if needed.
-4. Complete: the ticked transactions are reconciled, and the balance is kept.
-
-The second tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
-        <translation>Una conciliación compara los libros con un extracto del banco.
-
-1. Elegir la cuenta, escribir el día y el saldo del extracto y pulsar Intro.
-2. Marcar cada asiento que está en el extracto: la barra espaciadora marca y baja. La línea de debajo dice cuánto falta. Lo que muestra el banco y falta en los libros se puede añadir a la lista.
-3. Mirar lo que se aparta para las partidas y cambiarlo si hace falta.
-4. Finalizar: los asientos marcados quedan conciliados, y el saldo, anotado.
-
-La segunda pestaña muestra las conciliaciones anteriores y dice si sus asientos siguen como entonces.</translation>
-    </message>
-    <message>
         <source>One line for each currency: its rate, the day of the rate, and whether it was fetched or typed. “Not converted” stands where a usable currency has no rate; totals leave it out.
 
 A rate can be typed over, and all can be fetched from the service. Rates are the same for all budgets and cannot be undone.</source>
@@ -5443,18 +5425,6 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
             <numerusform>%n marcado</numerusform>
             <numerusform>%n marcados</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>%1, nothing missing</source>
-        <translation>%1, no falta nada</translation>
-    </message>
-    <message>
-        <source>%1, %2 missing</source>
-        <translation>%1, faltan %2</translation>
-    </message>
-    <message>
-        <source>%1. %2</source>
-        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Export</source>
@@ -7065,6 +7035,108 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>use kiv account convert</source>
         <translation>véase kiv account convert</translation>
     </message>
+    <message>
+        <source>A survey compares the books with a statement of the bank.
+
+1. Choose the account, type the day and the balance of the statement, and press Enter; or lay the bank’s file beside, which fills them in.
+2. Tick each transaction that stands on the statement: Space ticks and goes down. What the bank shows and the books lack can be added to the list, and the amount that is missing is offered.
+3. The second tab has what is set aside for the items, and why. An amount can be typed over; an empty field takes it back.
+4. Complete: the ticked transactions are reconciled, and the balance is kept. A difference may only stay if you say so, and is shown until it is gone.
+
+“Put off” keeps the survey, to go on with it later. The third tab lists the past reconciliations, and says whether their transactions are still as they were.</source>
+        <translation>Una conciliación compara los libros con un extracto del banco.
+
+1. Elegir la cuenta, escribir el día y el saldo del extracto y pulsar Intro; o poner al lado el archivo del banco, que los rellena.
+2. Marcar cada asiento que está en el extracto: la barra espaciadora marca y baja. Lo que muestra el banco y falta en los libros se puede añadir a la lista, y se ofrece el importe que falta.
+3. La segunda pestaña muestra lo que se aparta para las partidas, y por qué. Un importe se puede sobrescribir; un campo vacío lo retira.
+4. Finalizar: los asientos marcados quedan conciliados, y el saldo, anotado. Una diferencia solo puede quedar si usted lo dice, y se muestra hasta que desaparezca.
+
+«Aplazar» guarda la conciliación para seguir más tarde. La tercera pestaña muestra las conciliaciones anteriores y dice si sus asientos siguen como entonces.</translation>
+    </message>
+    <message>
+        <source>balance of its account</source>
+        <translation>saldo de su cuenta</translation>
+    </message>
+    <message>
+        <source>as proposed</source>
+        <translation>según la propuesta</translation>
+    </message>
+    <message>
+        <source>nothing to set aside</source>
+        <translation>nada que apartar</translation>
+    </message>
+    <message>
+        <source>Still due in %1, of what is paid monthly: %2.</source>
+        <translation>Aún vence en %1, de lo que se paga cada mes: %2.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>De lo que se debe no se aparta nada.</translation>
+    </message>
+    <message>
+        <source>Set aside for items: %1; free: %2.</source>
+        <translation>Apartado para partidas: %1; libre: %2.</translation>
+    </message>
+    <message>
+        <source>reconciled with %1, not yet seen here</source>
+        <translation>conciliado con %1, aquí aún no visto</translation>
+    </message>
+    <message>
+        <source>Of what is owed, any difference is accepted.</source>
+        <translation>En lo que se debe se acepta cualquier diferencia.</translation>
+    </message>
+    <message>
+        <source>That is inside the survey window of %1.</source>
+        <translation>Está dentro del margen de la conciliación de %1.</translation>
+    </message>
+    <message>
+        <source>That is beyond the survey window of %1: the survey cannot be completed.</source>
+        <translation>Está fuera del margen de la conciliación de %1: la conciliación no se puede finalizar.</translation>
+    </message>
+    <message>
+        <source>%1, the books are %2</source>
+        <translation>%1, los libros están %2</translation>
+    </message>
+    <message>
+        <source>%1, the books are %2 (%3)</source>
+        <translation>%1, los libros están %2 (%3)</translation>
+    </message>
+    <message>
+        <source>It makes up for the earlier difference.</source>
+        <translation>Compensa la diferencia anterior.</translation>
+    </message>
+    <message>
+        <source>Calculated %1, statement %2.</source>
+        <translation>Calculado %1, extracto %2.</translation>
+    </message>
+    <message>
+        <source>Calculated %1. Type the balance of the statement to compare.</source>
+        <translation>Calculado %1. Escriba el saldo del extracto para comparar.</translation>
+    </message>
+    <message>
+        <source>%1, no difference</source>
+        <translation>%1, sin diferencia</translation>
+    </message>
+    <message>
+        <source>“%1” does not look like a statement of a bank.</source>
+        <translation>«%1» no parece un extracto de un banco.</translation>
+    </message>
+    <message>
+        <source>“%1” does not tell the day of a statement; nothing is taken from it.</source>
+        <translation>«%1» no dice el día de un extracto; no se toma nada de él.</translation>
+    </message>
+    <message>
+        <source>Taken up where it was put off.</source>
+        <translation>Sigue la conciliación aplazada.</translation>
+    </message>
+    <message>
+        <source>The survey that was put off is taken up with the day of today. %1</source>
+        <translation>La conciliación aplazada sigue con la fecha de hoy. %1</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7325,18 +7397,6 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>changing the account “%1”</source>
         <translation>cambiar la cuenta «%1»</translation>
     </message>
-    <message>
-        <source>It stays &amp;open:</source>
-        <translation>Queda abier&amp;ta:</translation>
-    </message>
-    <message>
-        <source>Another bank keeps “%1” from now on</source>
-        <translation>Otro banco lleva «%1» a partir de ahora</translation>
-    </message>
-    <message>
-        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
-        <translation>Otra cuenta toma el dinero de «%1», sus metas y lo que está apartado allí</translation>
-    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7415,14 +7475,6 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     <message>
         <source>removing “%1”</source>
         <translation>eliminar «%1»</translation>
-    </message>
-    <message>
-        <source>&amp;Move to another bank</source>
-        <translation>A o&amp;tro banco</translation>
-    </message>
-    <message>
-        <source>Re&amp;place</source>
-        <translation>Reem&amp;plazar</translation>
     </message>
 </context>
 <context>
@@ -8718,6 +8770,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>removing the %1 “%2”</source>
         <translation>eliminar «%2» (%1)</translation>
     </message>
+    <message>
+        <source>Ended the %1 “%2”.</source>
+        <translation>Se terminó «%2» (%1).</translation>
+    </message>
+    <message>
+        <source>ending the %1 “%2”</source>
+        <translation>terminar «%2» (%1)</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ListPage</name>
@@ -8817,6 +8877,21 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>The page “%1” cannot be shown: %2</source>
         <translation>No se puede mostrar la página «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::PastSurveys</name>
+    <message>
+        <source>Past reconciliations</source>
+        <translation>Conciliaciones anteriores</translation>
+    </message>
+    <message>
+        <source>No account was reconciled yet.</source>
+        <translation>Todavía no se ha conciliado ninguna cuenta.</translation>
+    </message>
+    <message>
+        <source>Its transactions are as they were then.</source>
+        <translation>Sus asientos están como entonces.</translation>
     </message>
 </context>
 <context>
@@ -9344,31 +9419,115 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
 </context>
 <context>
+    <name>kiv::desktop::SurveyDrops</name>
+    <message>
+        <source>Set nothing aside there any more</source>
+        <translation>No apartar allí nada más</translation>
+    </message>
+    <message>
+        <source>%1 No bank keeps that account: assign it to “%2” again, and this can be ended here.</source>
+        <translation>%1 Ningún banco lleva esa cuenta: si se asigna de nuevo a «%2», esto se puede terminar aquí.</translation>
+    </message>
+    <message>
+        <source>Assign it</source>
+        <translation>Asignarla</translation>
+    </message>
+    <message>
+        <source>setting nothing aside at “%1”</source>
+        <translation>no apartar nada en «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyFoot</name>
+    <message>
+        <source>C&amp;omplete</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message>
+        <source>P&amp;ut off</source>
+        <translation>Apla&amp;zar</translation>
+    </message>
+    <message>
+        <source>Begi&amp;n anew</source>
+        <translation>Olvidar &amp;y empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>The difference of %1 ma&amp;y stay; it is shown until it is gone</source>
+        <translation>La diferencia de %1 puede quedar; se muestra &amp;hasta que desaparezca</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::SurveyPage</name>
     <message>
         <source>Survey</source>
         <translation>Conciliación</translation>
     </message>
     <message>
-        <source>C&amp;omplete</source>
-        <translation>&amp;Finalizar</translation>
-    </message>
-    <message>
         <source>Parts of the survey</source>
         <translation>Partes de la conciliación</translation>
     </message>
     <message>
-        <source>Statement</source>
-        <translation>Extracto</translation>
+        <source>There is no account at a bank to reconcile.</source>
+        <translation>No hay ninguna cuenta bancaria que conciliar.</translation>
     </message>
     <message>
-        <source>Past reconciliations</source>
-        <translation>Conciliaciones anteriores</translation>
+        <source>&amp;1 Statement</source>
+        <translation>&amp;1 Extracto</translation>
     </message>
     <message>
-        <source>What the bank&apos;s statement says:</source>
-        <translation>Lo que dice el extracto del banco:</translation>
+        <source>&amp;2 Set aside</source>
+        <translation>&amp;2 Apartado</translation>
     </message>
+    <message>
+        <source>&amp;3 Past reconciliations</source>
+        <translation>&amp;3 Conciliaciones anteriores</translation>
+    </message>
+    <message>
+        <source>Forgot the survey of “%1” that was put off.</source>
+        <translation>Se ha olvidado la conciliación aplazada de «%1».</translation>
+    </message>
+    <message>
+        <source>forgetting the survey of “%1”</source>
+        <translation>olvidar la conciliación aplazada de «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyShares</name>
+    <message>
+        <source>What is set aside</source>
+        <translation>Lo que se aparta</translation>
+    </message>
+    <message>
+        <source>As p&amp;roposed, where nothing is typed</source>
+        <translation>Se&amp;gún la propuesta, donde no se ha escrito nada</translation>
+    </message>
+    <message>
+        <source>&amp;Set aside for it:</source>
+        <translation>Importe &amp;que se aparta:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep this amount</source>
+        <translation>Ma&amp;ntener este importe</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside of what is owed.</source>
+        <translation>De lo que se debe no se aparta nada.</translation>
+    </message>
+    <message>
+        <source>There are no items to set money aside for.</source>
+        <translation>No hay partidas para las que apartar dinero.</translation>
+    </message>
+    <message>
+        <source>No item is chosen.</source>
+        <translation>No se ha elegido ninguna partida.</translation>
+    </message>
+    <message>
+        <source>For a goal, what was moved to its account is set aside.</source>
+        <translation>Para una meta está apartado lo que se ha traspasado a su cuenta.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyStatement</name>
     <message>
         <source>&amp;Account:</source>
         <translation>&amp;Cuenta:</translation>
@@ -9382,12 +9541,20 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <translation>&amp;Saldo:</translation>
     </message>
     <message>
+        <source>Import &amp;what is missing</source>
+        <translation>Importar lo &amp;que falta</translation>
+    </message>
+    <message>
+        <source>What the bank&apos;s statement says:</source>
+        <translation>Lo que dice el extracto del banco:</translation>
+    </message>
+    <message>
         <source>&amp;Compare</source>
         <translation>Com&amp;parar</translation>
     </message>
     <message>
-        <source>On the statement, but not booked yet:</source>
-        <translation>En el extracto, pero sin registrar:</translation>
+        <source>Lay a ban&amp;k&apos;s file beside …</source>
+        <translation>Archivo del &amp;banco al lado …</translation>
     </message>
     <message>
         <source>&amp;Item or account:</source>
@@ -9402,26 +9569,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <translation>Añadir a &amp;la lista</translation>
     </message>
     <message>
-        <source>Transactions to tick</source>
-        <translation>Asientos para marcar</translation>
-    </message>
-    <message>
-        <source>Tick a&amp;ll</source>
-        <translation>Marcar t&amp;odo</translation>
-    </message>
-    <message>
-        <source>What is set aside</source>
-        <translation>Lo que se aparta</translation>
-    </message>
-    <message>
-        <source>&amp;Set aside for it:</source>
-        <translation>Importe &amp;que se aparta:</translation>
-    </message>
-    <message>
-        <source>&amp;Keep this amount</source>
-        <translation>Ma&amp;ntener este importe</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -9434,43 +9581,27 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <translation>El dinero de la cuenta va sin menos; una cuenta en descubierto lo lleva.</translation>
     </message>
     <message>
-        <source>There is no account at a bank to reconcile.</source>
-        <translation>No hay ninguna cuenta bancaria que conciliar.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n ticked</source>
-        <translation>
-            <numerusform>%n marcado</numerusform>
-            <numerusform>%n marcados</numerusform>
-        </translation>
+        <source>On the statement, but not booked yet (interest, for example):</source>
+        <translation>En el extracto, pero sin registrar (por ejemplo, intereses):</translation>
     </message>
     <message>
-        <source>Nothing is set aside of what is owed.</source>
-        <translation>De lo que se debe no se aparta nada.</translation>
-    </message>
-    <message>
-        <source>Set aside from it for items; %1 is left:</source>
-        <translation>Apartado de ello para partidas; quedan %1:</translation>
-    </message>
-    <message>
-        <source>No account was reconciled yet.</source>
-        <translation>Todavía no se ha conciliado ninguna cuenta.</translation>
-    </message>
-    <message>
-        <source>Its transactions are as they were then.</source>
-        <translation>Sus asientos están como entonces.</translation>
+        <source>On the statement, but not booked yet:</source>
+        <translation>En el extracto, pero sin registrar:</translation>
     </message>
     <message>
         <source>For which item or account?</source>
         <translation>¿Para qué partida o cuenta?</translation>
     </message>
+</context>
+<context>
+    <name>kiv::desktop::SurveyTicks</name>
     <message>
-        <source>No item is chosen.</source>
-        <translation>No se ha elegido ninguna partida.</translation>
+        <source>Transactions to tick</source>
+        <translation>Asientos para marcar</translation>
     </message>
     <message>
-        <source>For a goal, what was moved to its account is set aside.</source>
-        <translation>Para una meta está apartado lo que se ha traspasado a su cuenta.</translation>
+        <source>Tick a&amp;ll</source>
+        <translation>Marcar t&amp;odo</translation>
     </message>
 </context>
 <context>
