@@ -157,6 +157,10 @@ struct ShowEnvelopes {
             report.line(free);
         for (const QString &sentence : outlook.sentences + told + notices)
             report.line(sentence);
+        const auto isTooMuch = [](const SetAside &one) { return one.free().isNegative(); };
+        if (!all.stranded.empty() || std::ranges::any_of(all.accounts, isTooMuch))
+            report.line(
+                QObject::tr("To set nothing aside at an account any more, use kiv survey drop."));
         return report;
     }
 
