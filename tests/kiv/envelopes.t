@@ -130,12 +130,14 @@ More than there is, and what no line shows:
   At Savings, $20.00 more is set aside than there is.
   $5.00 is set aside for 'Tax' at Savings and also at another account, so no line shows it.
   Several accounts have a line for the same item, until a survey of one of them sets it aside: Car
+  To set nothing aside at an account any more, use kiv survey drop.
   $ kiv transfer Savings Checking 50 --date 2026-05-03 >/dev/null
   $ kiv account close Savings >/dev/null
   $ kiv envelopes Savings
   Savings is closed.
   $70.00 is set aside for 'Insurance' at Savings, which is closed.
   $5.00 is set aside for 'Tax' at Savings, which is closed.
+  To set nothing aside at an account any more, use kiv survey drop.
   $ each 0 <<'.'
   > envelopes Card
   > envelopes Trip
@@ -158,6 +160,7 @@ What has no exchange rate is named and left out; all else adds up:
   2026-04-10  Trip  goal  $100.00
   The sum at Checking leaves 'Hotel' out. There is no exchange rate between EUR and USD.
   $120.00 is set aside for 'Tax' at Checking and also at another account, so no line shows it.
+  To set nothing aside at an account any more, use kiv survey drop.
   $ kiv envelopes --on 2026-05-02 --json | jq -c 'def cents: (.amount | tonumber) * 100 | round;
   >     .accounts[] | [.account, (.balance | cents) - (.free | cents) - ([.lines[].counted |
   >     select(.) | cents] | add // 0), (.lines[] | ([.parts[].amount | cents] | add) -

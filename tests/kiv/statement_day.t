@@ -251,3 +251,21 @@ accounts stands in both files, after the first account was surveyed, too:
   Account      Balance  Set aside        Free  Paid since  Last reconciled
   Checking   $7,258.29    $224.00   $7,034.29       $0.00  2026-06-30
   Savings   $13,641.55  $2,460.00  $11,181.55       $0.00  2026-06-30
+
+What an account held that no bank keeps any more goes, too; else its items could be set aside nowhere:
+
+  $ export KIV_FILE=household.budget
+  $ each 0 <<'.' >/dev/null
+  > survey complete First Checking --date 2026-02-07 --balance 5430.10 --distribute Tax=10
+  > bank-account detach Checking
+  > .
+  $ kiv envelopes | grep Tax
+  $10.00 is set aside for 'Tax' at Checking, where nothing can be set aside any more.
+  $ kiv survey drop First Checking
+  Nothing is set aside at Checking any more.
+  $ kiv envelopes --items | grep Tax
+  Tax    $0.00  $270.00  $0.00  $270.00    $360.00  2026-07-01
+  Tax: not set aside on 2026-02-06; $360.00 yearly = $30.00 a month, 9 months
+  $ kiv survey drop First Checking
+  kiv: The account 'Checking' is not assigned to a bank; assign it with kiv bank-account attach.
+  [1]

@@ -127,6 +127,27 @@ void complete(Document &document, const SurveySheet &sheet, bool hasConsent)
     document.setNotes(notes.keptIn(document.notes()));
 }
 
+void dropSetAside(Document &document, const banking::BankAccount &account)
+{
+    storage::BudgetStorage::Data data = document.present();
+    const AccountNumber number = account.account.number;
+    if (data.banks.find(number) == account.bank) {
+        SurveyForm::drop(document.requests(), account.bank.institution(),
+                         accounting::presentationText(number))
+            .complete(document.requests());
+        return;
+    }
+    if (!data.surveys.lookUpSurvey(account.bank, number))
+        throw internal::neverReconciled(accounting::presentationText(number));
+    surveying::CompletedSurveys others;
+    for (const auto &[other, survey] : data.surveys) {
+        if (other.bank != account.bank || other.account.number != number)
+            others.upsert(survey);
+    }
+    data.surveys = std::move(others);
+    document.put(std::move(data));
+}
+
 void putOff(Document &document, const SurveySheet &sheet, bool hasBalance)
 {
     SurveyNotes notes = SurveyNotes::of(document.notes());

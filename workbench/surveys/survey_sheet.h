@@ -131,6 +131,11 @@ private:
 /// Throws as SurveySheet::finished(), and a Refusal with the Navigator's reason.
 KIV_WORKBENCH_EXPORT void complete(Document &document, const SurveySheet &sheet, bool hasConsent);
 
+/// Sets nothing aside any more for which the account's last survey recorded it, as part of a
+/// deed: by SurveyForm::drop(). Of an account that its bank keeps no more, which no survey can
+/// name, the record itself goes. Throws a Refusal if there is no record.
+KIV_WORKBENCH_EXPORT void dropSetAside(Document &document, const banking::BankAccount &account);
+
 /// Puts the sheet off, as part of a deed, in place of a former one of the account. Throws a
 /// Refusal if it has too many ticks to be kept.
 KIV_WORKBENCH_EXPORT void putOff(Document &document, const SurveySheet &sheet, bool hasBalance);

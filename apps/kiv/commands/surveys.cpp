@@ -140,12 +140,26 @@ struct DropSetAside {
     }
     Report run(Call &call) const
     {
-        const SurveyForm form = SurveyForm::drop(call.requests, bank, account);
-        form.complete(call.requests);
-        const accounting::AccountNumber number = form.account.account.number;
+        const accounting::AccountNumber number =
+            call.requests.accounts().find(account).code().number();
+        const banking::BankAccount dropped = recordedAt(call, number);
+        dropSetAside(call.document, dropped);
         Report report(toJson(number));
         return report.line(QObject::tr("Nothing is set aside at %1 any more.")
                                .arg(call.requests.accounts().plainName(number)));
+    }
+
+private:
+    /// The account at that bank, also when the bank keeps it no more but has a record of it.
+    [[nodiscard]] banking::BankAccount recordedAt(Call &call,
+                                                  accounting::AccountNumber number) const
+    {
+        for (const auto &[one, survey] : call.document.present().surveys) {
+            if (one.account.number == number && one.bank.institution() == bank)
+                return one;
+        }
+        (void)call.requests.bank(bank);
+        return call.requests.bankAccount(number, account);
     }
 };
 
