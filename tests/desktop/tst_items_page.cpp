@@ -3,6 +3,7 @@
 
 #include "desktop/page_keys.h"
 
+#include "workbench/document/bank_steps.h"
 #include "workbench/surveys/survey_form.h"
 
 #include <QtWidgets/QComboBox>
@@ -72,6 +73,7 @@ private slots:
         QCOMPARE(row(home)[2], u"none"_s);
         QVERIFY(table(home).hasFocus());
         QVERIFY(!part<QWidget>(home, "end").isVisible());
+        QVERIFY(home.requests().accounts().find(u"Car"_s).isClosed());
         home.trigger("undo");
         QCOMPARE(row(home)[2], u"monthly"_s);
         QVERIFY(part<QWidget>(home, "end").isVisible());
@@ -94,6 +96,10 @@ private slots:
                  u"%1 still owed of %2 (25 % paid off)"_s.arg(dollars("750"), dollars("1000")));
         move(home, "Loan", "Checking", "750");
         QCOMPARE(row(home)[5], u"paid off"_s);
+        press(home, Qt::Key_I, Qt::AltModifier);
+        QCOMPARE(home.document().undoable()->undone, u"finishing the debt “Loan”"_s);
+        QVERIFY(home.requests().accounts().find(u"Loan"_s).isClosed());
+        home.trigger("undo");
         press(home, Qt::Key_F2);
         fill(home, {{Qt::Key_B, u"none"_s}});
         press(home, Qt::Key_Return);
@@ -279,6 +285,40 @@ private slots:
         QCOMPARE(home.document().present(), before);
     }
 
+    void anotherBankTakesOver()
+    {
+        SmallHousehold home;
+        show(home, "banks");
+        home.document().perform({u"More"_s, {}, {}}, [&home] {
+            const banking::BankName second(u"Second"_s);
+            workbench::addBank(home.requests(), second);
+            workbench::addBankAccount(
+                home.document(),
+                {u"Giro"_s, second, banking::BankAccountTypes::Checking, usd("0")});
+        });
+        const auto before = home.document().present();
+        const QByteArray checking = "banks/account/" + number(home, u"Checking"_s);
+        goTo(home, checking);
+        press(home, Qt::Key_M, Qt::AltModifier);
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.document().undoable()->undone, u"moving “Checking” to “Second”"_s);
+        QCOMPARE(home.requests().bank(u"Second"_s).accounts().size(), std::size_t{2});
+        home.trigger("undo");
+        goTo(home, checking);
+        press(home, Qt::Key_P, Qt::AltModifier);
+        fill(home, {{Qt::Key_A, u"Giro"_s}, {Qt::Key_Y, u"9999-01-01"_s}});
+        press(home, Qt::Key_Return);
+        QVERIFY(message(home).contains(u"still to come"_s));
+        fill(home, {{Qt::Key_Y, u"2026-01-05"_s}});
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.document().undoable()->undone, u"replacing “Checking” by “Giro”"_s);
+        QCOMPARE(row(home),
+                 (QStringList{u"    Giro"_s, u"checking"_s, dollars("3000"), u"open"_s}));
+        QVERIFY(home.requests().accounts().find(u"Checking"_s).isClosed());
+        home.trigger("undo");
+        QCOMPARE(home.document().present(), before);
+    }
+
     // ---- accounts ----------------------------------------------------------------
 
     void accountsAreAddedRecodedClosedAndRemoved()
@@ -307,11 +347,16 @@ private slots:
         press(home, Qt::Key_N, Qt::AltModifier);
         fill(home, {{Qt::Key_N, u"Fun"_s}});
         press(home, Qt::Key_Return);
+        press(home, Qt::Key_F2);
+        fill(home, {{Qt::Key_K, u"owed"_s}});
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.requests().accounts().find(u"Fun"_s).type(),
+                 accounting::AccountTypes::Liability);
         press(home, Qt::Key_L, Qt::AltModifier);
         QCOMPARE(row(home).first(), u"Fun (closed)"_s);
         press(home, Qt::Key_O, Qt::AltModifier);
         QCOMPARE(row(home).first(), u"Fun"_s);
-        for (int step = 0; step < 6; ++step)
+        for (int step = 0; step < 7; ++step)
             home.trigger("undo");
         QCOMPARE(home.document().present(), before);
         goTo(home, "accounts/" + number(home, u"Rent"_s));

@@ -117,6 +117,24 @@ private slots:
         QCOMPARE(table(home).chosen().size(), 5);
     }
 
+    void whatMayNotBeMeantIsANoticeUntilTheNextChange()
+    {
+        SmallHousehold home;
+        home.document().perform({u"More"_s, {}, {}}, [&] {
+            home.addItem<budgeting::Bill>("Zero", "0", foundation::today().addDays(-9));
+            home.addItem<budgeting::Bill>("House", "3001", foundation::today().addDays(-8));
+        });
+        show(home, "due");
+        press(home, Qt::Key_Down, Qt::ShiftModifier);
+        press(home, Qt::Key_P, Qt::AltModifier);
+        QCOMPARE(home.document().undoable()->undone, u"paying “House”"_s);
+        const QStringList told = home.window().desk().notices().texts();
+        QCOMPARE(told, QStringList{u"'Zero' has an amount of zero and was skipped.\n"
+                                   "Checking is below zero: -$1.00."_s});
+        home.trigger("undo");
+        QVERIFY(home.window().desk().notices().texts().isEmpty());
+    }
+
     void refusalsStandAtTheirFieldAndKeepWhatWasTyped()
     {
         SmallHousehold home;

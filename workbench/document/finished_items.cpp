@@ -39,9 +39,7 @@ LedgerAccount accountToEnd(Requests &requests, const BudgetView &view,
 void end(Requests &requests, const BudgetView &view, const BudgetItemIdentifier &id,
          const LedgerAccount &account, Finished &done)
 {
-    ItemValues values;
-    values.every = EventFrequency::None;
-    updateItem(requests, navigation::GuiElementIdentifier(1), view, id, values);
+    endItem(requests, navigation::GuiElementIdentifier(1), view, id);
     done.isClosed = account.isClosed();
     if (done.isClosed)
         return;

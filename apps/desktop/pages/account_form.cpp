@@ -6,6 +6,7 @@
 #include "widgets/day_edit.h"
 #include "widgets/money_edit.h"
 
+#include "workbench/document/account_conversion.h"
 #include "workbench/requests/account_changes.h"
 
 #include "foundation/clock.h"
@@ -82,9 +83,9 @@ void AccountForm::begin(std::optional<AccountNumber> changed)
     m_opening->setCurrency(m_desk.requests().preferredCurrency());
     m_day->setDay(foundation::today());
     m_form.setHeading(tr("New account"));
+    m_form.setShown(*m_kind, true);
     if (const Account *account = changed ? index->find(*changed) : nullptr)
         show(*account);
-    m_form.setShown(*m_kind, !changed);
     m_form.setShown(*m_number, m_desk.showsTerms());
     m_form.setShown(*m_opening, !changed);
     m_form.setShown(*m_day, !changed);
@@ -97,6 +98,9 @@ void AccountForm::show(const Account &account)
     m_name->setText(m_before.name());
     m_number->setText(keyOf(m_before.number()));
     m_parent->setAccount(m_before.parent());
+    const int kind = m_kind->findData(static_cast<int>(account.type()));
+    m_kind->setCurrentIndex(kind);
+    m_form.setShown(*m_kind, kind >= 0);
 }
 
 std::optional<AccountNumber> AccountForm::number() const
@@ -170,11 +174,23 @@ std::optional<AccountNumber> AccountForm::change(const AccountCode &code)
     const Deed deed{tr("Changed the account “%1”.").arg(code.name()),
                     tr("changing the account “%1”").arg(code.name()),
                     QStringLiteral("accounts/") + keyOf(code.number())};
+    const auto type = static_cast<AccountTypes>(m_kind->currentData().toInt());
+    const auto index = m_desk.requests().accounts();
+    const bool isConverted = !m_kind->isHidden() && type != index.find(m_before.number())->type();
+    QStringList told;
     const bool isDone = m_form.perform(suspect(code), deed, [&] {
         if (code != m_before)
             m_desk.requests().change(workbench::accountOutcome, &navigation::Navigator::onRecoded,
                                      m_before, code);
+        m_form.blame(*m_kind);
+        if (isConverted) {
+            const workbench::Conversion said{code.number(), type};
+            told = workbench::toldOf(m_desk.requests(),
+                                     workbench::convertAccount(m_desk.document(), said), said);
+        }
     });
+    if (isDone && isConverted)
+        m_desk.say(deed.line + u' ' + told.join(u' '));
     return isDone ? std::optional(code.number()) : std::nullopt;
 }
 

@@ -6,10 +6,12 @@
 #include "widgets/day_edit.h"
 #include "widgets/money_edit.h"
 
+#include "workbench/document/bank_moves.h"
 #include "workbench/document/bank_steps.h"
 
 #include "foundation/clock.h"
 
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 
 namespace kiv::desktop {
@@ -30,7 +32,8 @@ BankForm::BankForm(Desk &desk, Form &form)
       m_bank(new QComboBox),
       m_kind(new QComboBox),
       m_opening(new MoneyEdit),
-      m_day(new DayEdit)
+      m_day(new DayEdit),
+      m_keepOpen(new QCheckBox)
 {
     addFields();
 }
@@ -43,6 +46,7 @@ void BankForm::addFields()
     m_form.add(QStringLiteral("kind"), tr("&Kind:"), m_kind);
     m_form.add(QStringLiteral("opening"), tr("Ba&lance at first:"), m_opening);
     m_form.add(QStringLiteral("day"), tr("On the da&y:"), m_day);
+    m_form.add(QStringLiteral("keepOpen"), tr("It stays &open:"), m_keepOpen);
     for (QComboBox *box : {m_bank, m_kind}) {
         box->setMinimumContentsLength(8); // a long name makes the form no wider
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -51,8 +55,10 @@ void BankForm::addFields()
 
 QWidget &BankForm::firstField() const
 {
-    if (m_task == Task::AssignAccount)
+    if (m_task == Task::AssignAccount || m_task == Task::ReplaceAccount)
         return *m_account;
+    if (m_task == Task::MoveAccount)
+        return *m_bank;
     if (m_task == Task::ChangeAccount && isOfItem())
         return *m_kind;
     return *m_name;
@@ -71,6 +77,7 @@ void BankForm::begin(Task task, const std::optional<BankTarget> &target)
     m_opening->clear();
     m_opening->setCurrency(m_desk.requests().preferredCurrency());
     m_day->setDay(foundation::today());
+    m_keepOpen->setChecked(false);
     offerBanks();
     offerKinds();
     offerAccounts();
@@ -82,12 +89,13 @@ void BankForm::showTask()
     const auto is = [this](std::initializer_list<Task> tasks) {
         return std::ranges::find(tasks, m_task) != tasks.end();
     };
-    m_form.setShown(*m_name, !is({Task::AssignAccount}));
-    m_form.setShown(*m_account, is({Task::AssignAccount}));
-    m_form.setShown(*m_bank, is({Task::AddAccount, Task::AssignAccount}));
-    m_form.setShown(*m_kind, !is({Task::AddBank, Task::RenameBank}));
+    m_form.setShown(*m_name, !is({Task::AssignAccount, Task::MoveAccount, Task::ReplaceAccount}));
+    m_form.setShown(*m_account, is({Task::AssignAccount, Task::ReplaceAccount}));
+    m_form.setShown(*m_bank, is({Task::AddAccount, Task::AssignAccount, Task::MoveAccount}));
+    m_form.setShown(*m_kind, is({Task::AddAccount, Task::AssignAccount, Task::ChangeAccount}));
     m_form.setShown(*m_opening, is({Task::AddAccount}));
-    m_form.setShown(*m_day, is({Task::AddAccount}));
+    m_form.setShown(*m_day, is({Task::AddAccount, Task::ReplaceAccount}));
+    m_form.setShown(*m_keepOpen, is({Task::ReplaceAccount}));
     switch (m_task) {
     case Task::AddBank:
         return m_form.setHeading(tr("New bank"));
@@ -99,7 +107,20 @@ void BankForm::showTask()
         return m_form.setHeading(tr("An account that is already here belongs to a bank"));
     case Task::ChangeAccount:
         return m_form.setHeading(tr("Name and kind of the account"));
+    case Task::MoveAccount:
+        return m_form.setHeading(tr("Another bank keeps “%1” from now on").arg(nameOfTarget()));
+    case Task::ReplaceAccount:
+        return m_form.setHeading(
+            tr("Another account takes the money of “%1”, its goals, and what is set aside there")
+                .arg(nameOfTarget()));
     }
+}
+
+QString BankForm::nameOfTarget() const
+{
+    return m_target && m_target->account
+               ? m_desk.requests().accounts().plainName(*m_target->account)
+               : QString();
 }
 
 void BankForm::follow()
@@ -123,7 +144,8 @@ void BankForm::offerBanks()
 {
     m_bank->clear();
     for (const auto &[name, bank] : m_desk.requests().banks()) {
-        if (!bank.isClosed())
+        const bool isOwn = m_target && name == m_target->bank;
+        if (!bank.isClosed() && !(m_task == Task::MoveAccount && isOwn))
             m_bank->addItem(name.institution());
     }
     if (m_target)
@@ -152,7 +174,12 @@ void BankForm::offerAccounts()
     std::vector<AccountNumber> offered;
     for (const accounting::Account &account : index->accounts()) {
         const AccountNumber number = account.code().number();
-        if (workbench::keepsMoney(account) && !banks.find(number))
+        const bool isWanted = m_task == Task::ReplaceAccount
+                                  ? banks.find(number) && !account.isClosed() &&
+                                        !workbench::isItemAccount(account) &&
+                                        number != m_target->account
+                                  : !banks.find(number);
+        if (workbench::keepsMoney(account) && isWanted)
             offered.push_back(number);
     }
     m_account->offer(index, offered);
@@ -191,6 +218,10 @@ std::optional<QString> BankForm::save()
         return assignAccount();
     case Task::ChangeAccount:
         return changeAccount();
+    case Task::MoveAccount:
+        return moveAccount();
+    case Task::ReplaceAccount:
+        return replaceAccount();
     }
     return std::nullopt;
 }
@@ -284,6 +315,38 @@ std::optional<QString> BankForm::changeAccount()
                                          kind());
     });
     return isDone ? std::optional(key) : std::nullopt;
+}
+
+std::optional<QString> BankForm::moveAccount()
+{
+    const std::optional<BankName> to = bank();
+    if (!to || !m_target || !m_target->account)
+        return std::nullopt;
+    const AccountNumber account = *m_target->account;
+    Deed deed = workbench::moveDeed(m_desk.requests(), account, *to);
+    deed.place = QStringLiteral("banks/") + bankKeyOf(account);
+    const bool isDone = m_form.perform(
+        *m_bank, deed, [&] { workbench::moveBankAccount(m_desk.document(), account, *to); });
+    return isDone ? std::optional(bankKeyOf(account)) : std::nullopt;
+}
+
+std::optional<QString> BankForm::replaceAccount()
+{
+    const auto by =
+        m_form.read(*m_account, [this] { return m_account->account(tr("Choose an account.")); });
+    const auto day = m_form.read(*m_day, [this] { return m_day->day(); });
+    if (!by || !day || !m_target || !m_target->account)
+        return std::nullopt;
+    workbench::Requests &requests = m_desk.requests();
+    const workbench::Replacement said{*m_target->account, *by, *day, m_keepOpen->isChecked()};
+    Deed deed = workbench::replaceDeed(requests, said);
+    deed.place = QStringLiteral("banks/") + bankKeyOf(*by);
+    workbench::Replaced done;
+    if (!m_form.perform(*m_account, deed,
+                        [&] { done = workbench::replaceBankAccount(m_desk.document(), said); }))
+        return std::nullopt;
+    m_desk.say(deed.line + u' ' + workbench::toldOf(requests, done, said).join(u' '));
+    return bankKeyOf(*by);
 }
 
 } // namespace kiv::desktop

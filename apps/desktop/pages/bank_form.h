@@ -5,6 +5,7 @@
 #include "pages/form.h"
 
 QT_BEGIN_NAMESPACE
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 QT_END_NAMESPACE
@@ -27,9 +28,11 @@ public:
     enum class Task : std::uint8_t {
         AddBank,
         RenameBank,
-        AddAccount,    ///< a new one to a bank
-        AssignAccount, ///< one that is in the ledger to a bank
-        ChangeAccount, ///< its name, or its kind
+        AddAccount,     ///< a new one to a bank
+        AssignAccount,  ///< one that is in the ledger to a bank
+        ChangeAccount,  ///< its name, or its kind
+        MoveAccount,    ///< to another bank
+        ReplaceAccount, ///< by an account of another bank
     };
     /// Asks for it. The target is the row that is chosen, if there is one.
     void begin(Task task, const std::optional<BankTarget> &target);
@@ -48,6 +51,7 @@ private:
     void offerAccounts();
     /// Whether the account that is being changed belongs to a budget item.
     [[nodiscard]] bool isOfItem() const;
+    [[nodiscard]] QString nameOfTarget() const;
     [[nodiscard]] std::optional<banking::BankName> bank();
     [[nodiscard]] banking::BankAccountTypes kind() const;
     [[nodiscard]] std::optional<QString> name();
@@ -55,6 +59,8 @@ private:
     std::optional<QString> addAccount();
     std::optional<QString> assignAccount();
     std::optional<QString> changeAccount();
+    std::optional<QString> moveAccount();
+    std::optional<QString> replaceAccount();
 
     Desk &m_desk;
     Form &m_form;
@@ -64,6 +70,7 @@ private:
     QComboBox *m_kind;
     MoneyEdit *m_opening;
     DayEdit *m_day;
+    QCheckBox *m_keepOpen;
     Task m_task = Task::AddBank;
     std::optional<BankTarget> m_target;
 };

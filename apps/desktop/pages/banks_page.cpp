@@ -34,6 +34,10 @@ BanksPage::BanksPage(Desk &desk)
       m_close(addButton(QStringLiteral("close"), tr("C&lose"), [this] { closeOrOpen(); })),
       m_separate(
           addButton(QStringLiteral("separate"), tr("Separate from &bank"), [this] { separate(); })),
+      m_move(addButton(QStringLiteral("move"), tr("&Move to another bank"),
+                       [this] { begin(Task::MoveAccount); })),
+      m_replace(addButton(QStringLiteral("replace"), tr("Re&place"),
+                          [this] { begin(Task::ReplaceAccount); })),
       m_remove(addButton(QStringLiteral("remove"), tr("&Remove"), [this] { remove(); })),
       m_form(addForm(QStringLiteral("bankForm"))),
       m_fields(new BankForm(desk, *m_form))
@@ -89,7 +93,7 @@ void BanksPage::follow()
     std::optional<QString> whyNot;
     if (row && !row->account)
         whyNot = tr("This is for an account.");
-    allowForRow({m_separate}, whyNot);
+    allowForRow({m_separate, m_move, m_replace}, whyNot);
     m_close->setText(row && row->isClosed ? tr("&Open again") : tr("C&lose"));
 }
 

@@ -45,6 +45,8 @@ private:
     QPushButton *m_change;
     QPushButton *m_close;
     QPushButton *m_separate;
+    QPushButton *m_move;
+    QPushButton *m_replace;
     QPushButton *m_remove;
     Form *m_form;
     BankForm *m_fields;

@@ -1,12 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/desk.h"
 
+#include "workbench/requests/entry_notices.h"
+
+#include "foundation/clock.h"
+
 namespace kiv::desktop {
+
+namespace {
+const QString entryNotice = QStringLiteral("entry");
+}
 
 Desk::Desk(const Parts &parts) : m_parts(parts)
 {
     connect(&m_parts.document.news(), &workbench::DocumentNews::changed, this,
             &Desk::refreshWanted);
+    connect(&m_parts.document.news(), &workbench::DocumentNews::changed, this,
+            [this] { notices().remove(entryNotice); });
 }
 
 std::optional<QString> Desk::whyNoChange() const
@@ -25,6 +35,20 @@ bool Desk::perform(FieldMessage &message, QWidget *asker, const workbench::Deed 
                    const std::function<void()> &work)
 {
     return attempt(message, asker, deed.line, [&] { m_parts.document.perform(deed, work); });
+}
+
+bool Desk::enter(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
+                 const std::function<void()> &work, QStringList sentences)
+{
+    const bool isDone = perform(message, asker, deed, [&] {
+        const auto before = document().present();
+        work();
+        sentences += workbench::entryNotices(before, document().present(), foundation::today(),
+                                             requests().displayAs());
+    });
+    if (isDone && !sentences.isEmpty())
+        notices().add({entryNotice, sentences.join(u'\n'), {}});
+    return isDone;
 }
 
 bool Desk::apply(FieldMessage &message, QWidget *asker, const QString &line,

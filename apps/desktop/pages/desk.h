@@ -48,6 +48,10 @@ public:
     /// as before. Returns whether the change was made.
     bool perform(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
                  const std::function<void()> &work);
+    /// perform() for transactions that are entered. What the user may not have meant is a
+    /// notice above the page until the next change, together with `sentences`.
+    bool enter(FieldMessage &message, QWidget *asker, const workbench::Deed &deed,
+               const std::function<void()> &work, QStringList sentences = {});
     /// Changes what is not part of the budget, such as settings, and cannot be undone. Says
     /// the line. A refusal is shown as perform() does.
     bool apply(FieldMessage &message, QWidget *asker, const QString &line,

@@ -39,18 +39,34 @@ AccountCode DueDeeds::payerOf(const DueLine &line) const
 
 bool DueDeeds::pay(const Asked &asked, const std::vector<DueLine> &lines, QDate day)
 {
-    const workbench::Deed deed = placed(workbench::paidDeed(itemsOf(lines)), lines);
-    return m_desk.perform(asked.message, asked.by, deed, [&] {
+    // One that comes to nothing must not stop the others.
+    QStringList skipped;
+    std::vector<DueLine> paid;
+    for (const DueLine &line : lines) {
+        if (lines.size() > 1 && workbench::comesToNothing(line.due))
+            skipped += workbench::skippedAsNothing(line.due);
+        else
+            paid.push_back(line);
+    }
+    const workbench::Deed deed = placed(paid.empty() ? workbench::skippedDeed(itemsOf(lines))
+                                                     : workbench::paidDeed(itemsOf(paid)),
+                                        paid);
+    const auto work = [&] {
         const budgeting::Budget budget = m_desk.document().present().budget;
-        for (const DueLine &line : lines)
-            workbench::payDue(m_desk.requests(), budget, line.due, payerOf(line), day);
-    });
+        for (const DueLine &line : lines) {
+            if (lines.size() > 1 && workbench::comesToNothing(line.due))
+                workbench::skipDue(m_desk.requests(), budget, line.due.id);
+            else
+                workbench::payDue(m_desk.requests(), budget, line.due, payerOf(line), day);
+        }
+    };
+    return m_desk.enter(asked.message, asked.by, deed, work, skipped);
 }
 
 bool DueDeeds::payExtra(const Asked &asked, const DueLine &line, QDate day)
 {
     const workbench::Deed deed = placed(workbench::paidDeed({line.due.id.item()}), {line});
-    return m_desk.perform(asked.message, asked.by, deed, [&] {
+    return m_desk.enter(asked.message, asked.by, deed, [&] {
         workbench::payExtra(m_desk.requests(), line.due.id, line.due.amount, payerOf(line), day);
     });
 }

@@ -371,7 +371,7 @@ void EntryRow::perform(QWidget *asker, workbench::Deed deed,
                        const std::function<TransactionNumber()> &work)
 {
     TransactionNumber number;
-    const bool isDone = m_desk.perform(*m_message, asker, deed, [&] {
+    const bool isDone = m_desk.enter(*m_message, asker, deed, [&] {
         number = work();
         // The deed is kept when this has returned; only now its place is known.
         deed.place = place(number);

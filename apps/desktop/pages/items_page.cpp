@@ -5,7 +5,10 @@
 #include "widgets/allow.h"
 #include "widgets/table.h"
 
+#include "workbench/document/finished_items.h"
 #include "workbench/entry/kind_words.h"
+
+#include "foundation/clock.h"
 
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabBar>
@@ -237,15 +240,17 @@ void ItemsPage::remove()
 void ItemsPage::end()
 {
     const BudgetItemIdentifier id = chosenItem();
-    const QString word = workbench::kindText(id.type);
-    const QString name = id.source.name();
-    const workbench::Deed deed{
-        tr("Ended the %1 “%2”.").arg(word, name), tr("ending the %1 “%2”").arg(word, name),
-        QStringLiteral("items/%1/%2").arg(workbench::kindWord(id.type), name)};
-    perform(deed, [&] {
-        workbench::endItem(requests(), navigation::GuiElementIdentifier(1),
-                           workbench::BudgetView(desk().document().present()), id);
+    workbench::Deed deed = workbench::finishDeed(id);
+    deed.place = QStringLiteral("items/%1/%2").arg(workbench::kindWord(id.type), id.source.name());
+    workbench::Finished done;
+    const bool isDone = perform(deed, [&] {
+        done = id.type == BudgetItemTypes::Goal
+                   ? workbench::finishGoal(desk().document(), id.source.name(), std::nullopt,
+                                           foundation::today())
+                   : workbench::finishDebt(desk().document(), id.source.name());
     });
+    if (isDone)
+        desk().say(deed.line + u' ' + workbench::toldOf(requests(), done, id).join(u' '));
 }
 
 } // namespace kiv::desktop
