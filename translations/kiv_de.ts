@@ -7137,6 +7137,10 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>The survey that was put off is taken up with the day of today. %1</source>
         <translation>Der aufgeschobene Abgleich geht mit dem heutigen Tag weiter. %1</translation>
     </message>
+    <message>
+        <source>To set nothing aside at an account any more, use kiv survey drop.</source>
+        <translation>Um bei einem Konto nichts mehr zurückzulegen: kiv survey drop.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7397,6 +7401,18 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>changing the account “%1”</source>
         <translation>das Konto „%1“ ändern</translation>
     </message>
+    <message>
+        <source>It stays &amp;open:</source>
+        <translation>Es bleibt &amp;offen:</translation>
+    </message>
+    <message>
+        <source>Another bank keeps “%1” from now on</source>
+        <translation>Ab jetzt führt eine andere Bank „%1“</translation>
+    </message>
+    <message>
+        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
+        <translation>Ein anderes Konto übernimmt das Geld von „%1“, seine Ziele und was dort zurückgelegt ist</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7475,6 +7491,14 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     <message>
         <source>removing “%1”</source>
         <translation>„%1“ entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Move to another bank</source>
+        <translation>Zu &amp;anderer Bank</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Dur&amp;ch anderes ersetzen</translation>
     </message>
 </context>
 <context>
@@ -8769,14 +8793,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>removing the %1 “%2”</source>
         <translation>„%2“ (%1) entfernen</translation>
-    </message>
-    <message>
-        <source>Ended the %1 “%2”.</source>
-        <translation>Beendet: „%2“ (%1).</translation>
-    </message>
-    <message>
-        <source>ending the %1 “%2”</source>
-        <translation>„%2“ (%1) beenden</translation>
     </message>
 </context>
 <context>

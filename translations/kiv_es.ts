@@ -7137,6 +7137,10 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>The survey that was put off is taken up with the day of today. %1</source>
         <translation>La conciliación aplazada sigue con la fecha de hoy. %1</translation>
     </message>
+    <message>
+        <source>To set nothing aside at an account any more, use kiv survey drop.</source>
+        <translation>Para no apartar ya nada en una cuenta: kiv survey drop.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7397,6 +7401,18 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>changing the account “%1”</source>
         <translation>cambiar la cuenta «%1»</translation>
     </message>
+    <message>
+        <source>It stays &amp;open:</source>
+        <translation>Sigue &amp;abierta:</translation>
+    </message>
+    <message>
+        <source>Another bank keeps “%1” from now on</source>
+        <translation>Desde ahora, otro banco lleva «%1»</translation>
+    </message>
+    <message>
+        <source>Another account takes the money of “%1”, its goals, and what is set aside there</source>
+        <translation>Otra cuenta recibe el dinero de «%1», sus metas y lo apartado allí</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::BanksPage</name>
@@ -7475,6 +7491,14 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     <message>
         <source>removing “%1”</source>
         <translation>eliminar «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Move to another bank</source>
+        <translation>&amp;Pasar a otro banco</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Reempla&amp;zar</translation>
     </message>
 </context>
 <context>
@@ -8769,14 +8793,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>removing the %1 “%2”</source>
         <translation>eliminar «%2» (%1)</translation>
-    </message>
-    <message>
-        <source>Ended the %1 “%2”.</source>
-        <translation>Se terminó «%2» (%1).</translation>
-    </message>
-    <message>
-        <source>ending the %1 “%2”</source>
-        <translation>terminar «%2» (%1)</translation>
     </message>
 </context>
 <context>
