@@ -4,6 +4,8 @@
 #include "desktop/geometry.h"
 #include "desktop/household_window.h"
 
+#include "help/manual.h"
+
 #include "workbench/entry/user_locale.h"
 
 #include <QtWidgets/QtWidgets>
@@ -86,6 +88,7 @@ private slots:
         });
         QVERIFY2(desk.window().size() == size, "The window grows beyond the screen.");
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+        QCOMPARE(missing(desk.window(), desktop::householdGuide()), QStringList());
     }
 
     /// The window that docs/pictures shows.
@@ -111,6 +114,28 @@ private slots:
     }
 
 private:
+    /// What the text names in quotation marks and the window does not have.
+    static QStringList missing(const QWidget &window, const QString &text)
+    {
+        QStringList names;
+        for (const auto *one : window.findChildren<desktop::Page *>())
+            names += one->title();
+        for (const auto *one : window.findChildren<QAbstractButton *>())
+            names += one->text();
+        for (const auto *one : window.findChildren<QAction *>())
+            names += one->text();
+        names.replaceInStrings(u"&"_s, {}).replaceInStrings(u" …"_s, {});
+        QStringList lacking;
+        static const QRegularExpression quoted(u"[“„«]([^“”»]+)[“”»]"_s);
+        for (auto found = quoted.globalMatch(text); found.hasNext();) {
+            const QString name = found.next().captured(1);
+            if (!names.contains(name))
+                lacking += name;
+        }
+        return names.isEmpty() || !text.contains(quoted) ? QStringList{u"nothing is named"_s}
+                                                         : lacking;
+    }
+
     static void picture(QWidget &window, const QString &page,
                         const QString &looks = u", "_s + QString::fromUtf8(QTest::currentDataTag()))
     {

@@ -122,4 +122,69 @@ QString manualText(const QString &page)
     return own.isEmpty() ? everywhere() : own + QStringLiteral("\n\n") + everywhere();
 }
 
+QString householdGuide()
+{
+    const QStringList parts{
+        QObject::tr(
+            "Which kind for what\n"
+            "Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a "
+            "friend: a debt. A holiday, money for emergencies: a goal. Pocket money and "
+            "groceries with a planned amount: free spending. What you only want to look back "
+            "at: an account for spending. A credit card: an account at a bank, of the kind "
+            "credit card. A purse: an account that is owned."),
+        QObject::tr(
+            "A first week\n"
+            "Enter the bank account with its balance, what comes in, and the largest bills: "
+            "“Begin step by step” in the menu “File” asks for them. Then enter what is spent "
+            "(Ctrl+N), and pay on the page “Due” what is due. All else can wait until it "
+            "happens."),
+        QObject::tr(
+            "The end of the month\n"
+            "1. Import the file of the bank (Ctrl+I).\n"
+            "2. On the page “Survey”, choose the account, and compare the day and the balance "
+            "with the statement. What differs is told.\n"
+            "3. Look at what is set aside for bills that do not come each month, and complete.\n"
+            "4. “Home” tells what is free."),
+        QObject::tr(
+            "A card\n"
+            "What is bought with it is spent on that day: “Spent”, from the card. Paying its "
+            "bill is no second expense: “Moved”, from the bank account to the card."),
+        QObject::tr(
+            "A loan\n"
+            "The page “Due” pays it, and the debt gets smaller. The interest stands on the "
+            "lender’s statement: add it in the survey of the loan. A loan from a friend needs "
+            "no bank."),
+        QObject::tr("A second currency\n"
+                    "Each account has one. “Moved” asks for both amounts, as they were booked; no "
+                    "exchange rate is needed for that. Totals need one: see “Exchange rates”."),
+        QObject::tr("A refund\n"
+                    "Choose the payment in the register, then “Refund” in the menu “Transaction”."),
+        QObject::tr(
+            "A goal that is reached\n"
+            "“Finish” on the page “Items” gives its money back to the account that holds it. "
+            "Then enter what was bought. To go on saving, raise what is to be reached."),
+        QObject::tr(
+            "An account of the wrong kind\n"
+            "“Change” on the page “Accounts” corrects it, and on the page “Banks” what it is "
+            "to the bank. Its transactions stay."),
+        QObject::tr(
+            "Changing banks\n"
+            "Add the new bank and its account on the page “Banks”. “Replace” then moves the "
+            "money of the old one, its goals and what is set aside. “Move to another bank” is "
+            "for an account that stays as it is."),
+        QObject::tr(
+            "A difference with the bank\n"
+            "The survey tells what may be behind it. What is only on the statement is entered, "
+            "what is only in the books is not ticked, and what was entered twice or with a "
+            "wrong amount is corrected. A small rest may stay, and is told until it is gone."),
+        QObject::tr(
+            "Coming from another program\n"
+            "Ctrl+I takes journals of ledger and hledger as they are. Other programs export "
+            "each account as QIF, OFX or CSV. Add the account with the balance that it had "
+            "before the first entry of the file, then import. At the end, compare the "
+            "balances."),
+    };
+    return parts.join(QStringLiteral("\n\n"));
+}
+
 } // namespace kiv::desktop

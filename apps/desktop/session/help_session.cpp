@@ -26,6 +26,9 @@ HelpSession::HelpSession(Desk &desk, QWidget *window)
     actions.add(QStringLiteral("manual"), Group::Help, tr("&Manual of this page"),
                 QKeySequence(Qt::Key_F1),
                 [this] { m_desk.questions().show(m_window, tr("Manual"), manualText(m_page)); });
+    actions.add(QStringLiteral("guide"), Group::Help, tr("The household's &guide"), {}, [this] {
+        m_desk.questions().show(m_window, tr("The household's guide"), householdGuide());
+    });
     actions.add(QStringLiteral("keys"), Group::Help, tr("List of &keys"),
                 QKeySequence(Qt::CTRL | Qt::Key_Question), [this] {
                     m_desk.questions().show(m_window, tr("List of keys"),
