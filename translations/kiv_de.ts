@@ -7141,6 +7141,84 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
         <source>To set nothing aside at an account any more, use kiv survey drop.</source>
         <translation>Um bei einem Konto nichts mehr zurückzulegen: kiv survey drop.</translation>
     </message>
+    <message>
+        <source>Which kind for what
+Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a friend: a debt. A holiday, money for emergencies: a goal. Pocket money and groceries with a planned amount: free spending. What you only want to look back at: an account for spending. A credit card: an account at a bank, of the kind credit card. A purse: an account that is owned.</source>
+        <translation>Welche Art wofür
+Miete, Versicherung, Steuern: eine Rechnung. Gehalt, Rente: ein Lohn. Ein Kredit von einer Bank oder von Freunden: eine Schuld. Eine Reise, Geld für Notfälle: ein Ziel. Taschengeld und Lebensmittel mit einem geplanten Betrag: freie Ausgaben. Was nur im Rückblick zählt: ein Konto für Ausgaben. Eine Kreditkarte: ein Konto bei einer Bank, von der Art Kreditkarte. Eine Geldbörse: ein Konto, das Besitz ist.</translation>
+    </message>
+    <message>
+        <source>A first week
+Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+N), and pay on the page “Due” what is due. All else can wait until it happens.</source>
+        <translation>Eine erste Woche
+Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rechnungen: „Schritt für Schritt beginnen“ im Menü „Datei“ fragt danach. Dann eintragen, was ausgegeben wird (Strg+N), und auf der Seite „Fällig“ bezahlen, was fällig ist. Alles andere kann warten, bis es vorkommt.</translation>
+    </message>
+    <message>
+        <source>The end of the month
+1. Import the file of the bank (Ctrl+I).
+2. On the page “Survey”, choose the account, and compare the day and the balance with the statement. What differs is told.
+3. Look at what is set aside for bills that do not come each month, and complete.
+4. “Home” tells what is free.</source>
+        <translation>Das Ende des Monats
+1. Die Datei der Bank importieren (Strg+I).
+2. Auf der Seite „Abgleich“ das Konto wählen und Tag und Saldo mit dem Auszug vergleichen. Was abweicht, wird genannt.
+3. Ansehen, was für Rechnungen zurückgelegt ist, die nicht jeden Monat kommen, und abschließen.
+4. „Start“ sagt, was frei ist.</translation>
+    </message>
+    <message>
+        <source>A card
+What is bought with it is spent on that day: “Spent”, from the card. Paying its bill is no second expense: “Moved”, from the bank account to the card.</source>
+        <translation>Eine Karte
+Was mit ihr gekauft wird, ist an dem Tag ausgegeben: „Ausgegeben“, von der Karte. Ihre Abrechnung zu bezahlen ist keine zweite Ausgabe: „Umgebucht“, vom Bankkonto zur Karte.</translation>
+    </message>
+    <message>
+        <source>A loan
+The page “Due” pays it, and the debt gets smaller. The interest stands on the lender’s statement: add it in the survey of the loan. A loan from a friend needs no bank.</source>
+        <translation>Ein Kredit
+Die Seite „Fällig“ bezahlt ihn, und die Schuld wird kleiner. Die Zinsen stehen auf dem Auszug des Kredits: Sie werden in dessen Abgleich eingetragen. Ein Kredit von Freunden braucht keine Bank.</translation>
+    </message>
+    <message>
+        <source>A second currency
+Each account has one. “Moved” asks for both amounts, as they were booked; no exchange rate is needed for that. Totals need one: see “Exchange rates”.</source>
+        <translation>Eine zweite Währung
+Jedes Konto hat eine. „Umgebucht“ fragt nach beiden Beträgen, wie sie gebucht wurden; ein Wechselkurs ist dafür nicht nötig. Summen brauchen einen: siehe „Wechselkurse“.</translation>
+    </message>
+    <message>
+        <source>A refund
+Choose the payment in the register, then “Refund” in the menu “Transaction”.</source>
+        <translation>Eine Erstattung
+Die Zahlung im Register wählen, dann „Erstatten“ im Menü „Buchung“.</translation>
+    </message>
+    <message>
+        <source>A goal that is reached
+“End it” on the page “Items” gives its money back to the account that holds it. Then enter what was bought. To go on saving, raise what is to be reached.</source>
+        <translation>Ein Ziel, das erreicht ist
+„Beenden“ auf der Seite „Posten“ gibt sein Geld an das Konto zurück, bei dem es liegt. Dann eintragen, was gekauft wurde. Wer weiter sparen will, erhöht, was erreicht werden soll.</translation>
+    </message>
+    <message>
+        <source>An account of the wrong kind
+“Change” on the page “Accounts” corrects it, and on the page “Banks” what it is to the bank. Its transactions stay.</source>
+        <translation>Ein Konto der falschen Art
+„Ändern“ auf der Seite „Konten“ berichtigt es, und auf der Seite „Banken“, was es für die Bank ist. Seine Buchungen bleiben.</translation>
+    </message>
+    <message>
+        <source>Changing banks
+Add the new bank and its account on the page “Banks”. “Replace” then moves the money of the old one, its goals and what is set aside. “Move to another bank” is for an account that stays as it is.</source>
+        <translation>Die Bank wechseln
+Die neue Bank und ihr Konto auf der Seite „Banken“ anlegen. „Durch anderes ersetzen“ bucht dann das Geld des alten um, mit seinen Zielen und dem, was zurückgelegt ist. „Zu anderer Bank“ ist für ein Konto, das bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>A difference with the bank
+The survey tells what may be behind it. What is only on the statement is entered, what is only in the books is not ticked, and what was entered twice or with a wrong amount is corrected. A small rest may stay, and is told until it is gone.</source>
+        <translation>Eine Abweichung von der Bank
+Der Abgleich sagt, was dahinter stecken kann. Was nur auf dem Auszug steht, wird eingetragen, was nur in den Büchern steht, nicht abgehakt, und was zweimal oder mit falschem Betrag eingetragen wurde, berichtigt. Ein kleiner Rest darf bleiben und wird genannt, bis er fort ist.</translation>
+    </message>
+    <message>
+        <source>Coming from another program
+Ctrl+I takes journals of ledger and hledger as they are. Other programs export each account as QIF, OFX or CSV. Add the account with the balance that it had before the first entry of the file, then import. At the end, compare the balances.</source>
+        <translation>Von einem anderen Programm
+Strg+I liest Journale von ledger und hledger, wie sie sind. Andere Programme exportieren jedes Konto als QIF, OFX oder CSV. Das Konto mit dem Saldo anlegen, den es vor dem ersten Eintrag der Datei hatte, dann importieren. Am Ende die Salden vergleichen.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -8166,6 +8244,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>There are no releases.</source>
         <translation>Es gibt keine Versionen.</translation>
+    </message>
+    <message>
+        <source>The household&apos;s &amp;guide</source>
+        <translation>&amp;Leitfaden für den Haushalt</translation>
+    </message>
+    <message>
+        <source>The household&apos;s guide</source>
+        <translation>Leitfaden für den Haushalt</translation>
     </message>
 </context>
 <context>

@@ -7141,6 +7141,84 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>To set nothing aside at an account any more, use kiv survey drop.</source>
         <translation>Para no apartar ya nada en una cuenta: kiv survey drop.</translation>
     </message>
+    <message>
+        <source>Which kind for what
+Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a friend: a debt. A holiday, money for emergencies: a goal. Pocket money and groceries with a planned amount: free spending. What you only want to look back at: an account for spending. A credit card: an account at a bank, of the kind credit card. A purse: an account that is owned.</source>
+        <translation>Qué clase para qué
+Alquiler, seguro, impuestos: una factura. Salario, pensión: un sueldo. Un préstamo de un banco o de un amigo: una deuda. Unas vacaciones, dinero para emergencias: una meta. Dinero de bolsillo y comida con un importe previsto: gasto libre. Lo que solo se mira después: una cuenta de gastos. Una tarjeta de crédito: una cuenta en un banco, de la clase tarjeta de crédito. Un monedero: una cuenta que se posee.</translation>
+    </message>
+    <message>
+        <source>A first week
+Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+N), and pay on the page “Due” what is due. All else can wait until it happens.</source>
+        <translation>Una primera semana
+Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores: «Empezar paso a paso» en el menú «Archivo» pregunta por ello. Después, introducir lo que se gasta (Ctrl+N) y pagar en la página «Vencimientos» lo que vence. Todo lo demás puede esperar a que ocurra.</translation>
+    </message>
+    <message>
+        <source>The end of the month
+1. Import the file of the bank (Ctrl+I).
+2. On the page “Survey”, choose the account, and compare the day and the balance with the statement. What differs is told.
+3. Look at what is set aside for bills that do not come each month, and complete.
+4. “Home” tells what is free.</source>
+        <translation>El fin de mes
+1. Importar el archivo del banco (Ctrl+I).
+2. En la página «Conciliación», elegir la cuenta y comparar el día y el saldo con el extracto. Se dice lo que difiere.
+3. Mirar lo que se aparta para facturas que no llegan cada mes, y completar.
+4. «Inicio» dice lo que queda libre.</translation>
+    </message>
+    <message>
+        <source>A card
+What is bought with it is spent on that day: “Spent”, from the card. Paying its bill is no second expense: “Moved”, from the bank account to the card.</source>
+        <translation>Una tarjeta
+Lo que se compra con ella se gasta ese día: «Gastado», de la tarjeta. Pagar su cuenta no es un segundo gasto: «Traspasado», de la cuenta bancaria a la tarjeta.</translation>
+    </message>
+    <message>
+        <source>A loan
+The page “Due” pays it, and the debt gets smaller. The interest stands on the lender’s statement: add it in the survey of the loan. A loan from a friend needs no bank.</source>
+        <translation>Un préstamo
+La página «Vencimientos» lo paga y la deuda se reduce. El interés está en el extracto del préstamo: se añade en su conciliación. Un préstamo de un amigo no necesita banco.</translation>
+    </message>
+    <message>
+        <source>A second currency
+Each account has one. “Moved” asks for both amounts, as they were booked; no exchange rate is needed for that. Totals need one: see “Exchange rates”.</source>
+        <translation>Una segunda moneda
+Cada cuenta tiene una. «Traspasado» pregunta por los dos importes, como se registraron; no hace falta tipo de cambio. Los totales sí lo necesitan: véase «Tipos de cambio».</translation>
+    </message>
+    <message>
+        <source>A refund
+Choose the payment in the register, then “Refund” in the menu “Transaction”.</source>
+        <translation>Un reembolso
+Elegir el pago en el registro y después «Reembolsar» en el menú «Transacción».</translation>
+    </message>
+    <message>
+        <source>A goal that is reached
+“End it” on the page “Items” gives its money back to the account that holds it. Then enter what was bought. To go on saving, raise what is to be reached.</source>
+        <translation>Una meta alcanzada
+«Terminar» en la página «Partidas» devuelve su dinero a la cuenta que lo guarda. Después, introducir lo que se compró. Para seguir ahorrando, aumentar lo que se quiere alcanzar.</translation>
+    </message>
+    <message>
+        <source>An account of the wrong kind
+“Change” on the page “Accounts” corrects it, and on the page “Banks” what it is to the bank. Its transactions stay.</source>
+        <translation>Una cuenta de la clase equivocada
+«Modificar» en la página «Cuentas» la corrige, y en la página «Bancos» lo que es para el banco. Sus asientos quedan.</translation>
+    </message>
+    <message>
+        <source>Changing banks
+Add the new bank and its account on the page “Banks”. “Replace” then moves the money of the old one, its goals and what is set aside. “Move to another bank” is for an account that stays as it is.</source>
+        <translation>Cambiar de banco
+Añadir el banco nuevo y su cuenta en la página «Bancos». «Reemplazar» traspasa entonces el dinero de la antigua, sus metas y lo apartado. «Pasar a otro banco» es para una cuenta que sigue como está.</translation>
+    </message>
+    <message>
+        <source>A difference with the bank
+The survey tells what may be behind it. What is only on the statement is entered, what is only in the books is not ticked, and what was entered twice or with a wrong amount is corrected. A small rest may stay, and is told until it is gone.</source>
+        <translation>Una diferencia con el banco
+La conciliación dice qué puede haber detrás. Lo que solo está en el extracto se introduce, lo que solo está en los libros no se marca, y lo introducido dos veces o con un importe equivocado se corrige. Un resto pequeño puede quedar, y se dice hasta que desaparece.</translation>
+    </message>
+    <message>
+        <source>Coming from another program
+Ctrl+I takes journals of ledger and hledger as they are. Other programs export each account as QIF, OFX or CSV. Add the account with the balance that it had before the first entry of the file, then import. At the end, compare the balances.</source>
+        <translation>Desde otro programa
+Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan cada cuenta como QIF, OFX o CSV. Añadir la cuenta con el saldo que tenía antes del primer apunte del archivo, e importar. Al final, comparar los saldos.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -8166,6 +8244,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>There are no releases.</source>
         <translation>No hay versiones.</translation>
+    </message>
+    <message>
+        <source>The household&apos;s &amp;guide</source>
+        <translation>&amp;Guía del hogar</translation>
+    </message>
+    <message>
+        <source>The household&apos;s guide</source>
+        <translation>Guía del hogar</translation>
     </message>
 </context>
 <context>

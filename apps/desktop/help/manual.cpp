@@ -161,7 +161,7 @@ QString householdGuide()
                     "Choose the payment in the register, then “Refund” in the menu “Transaction”."),
         QObject::tr(
             "A goal that is reached\n"
-            "“Finish” on the page “Items” gives its money back to the account that holds it. "
+            "“End it” on the page “Items” gives its money back to the account that holds it. "
             "Then enter what was bought. To go on saving, raise what is to be reached."),
         QObject::tr(
             "An account of the wrong kind\n"
