@@ -68,15 +68,6 @@ Row lineRow(const SetAside &account, const SetAsideLine &line, const ShownEnvelo
     return row;
 }
 
-/// How a household knows a transaction: by its day.
-workbench::PostingName daysIn(const accounting::GeneralLedger &ledger)
-{
-    return [&ledger](accounting::TransactionNumber number) {
-        const auto posted = ledger.lookUpTransaction(number);
-        return posted ? presentationText(posted->occurredOn()) : QString();
-    };
-}
-
 void addParts(std::vector<Row> &rows, const SetAsideHere &here, const ShownEnvelopes &shown)
 {
     const SetAside &account = *here.account;
@@ -108,6 +99,14 @@ void addParts(std::vector<Row> &rows, const SetAsideHere &here, const ShownEnvel
 }
 
 } // namespace
+
+workbench::PostingName daysIn(const accounting::GeneralLedger &ledger)
+{
+    return [&ledger](accounting::TransactionNumber number) {
+        const auto posted = ledger.lookUpTransaction(number);
+        return posted ? presentationText(posted->occurredOn()) : QString();
+    };
+}
 
 ShownEnvelopes shownEnvelopes(workbench::Document &document)
 {

@@ -4,7 +4,7 @@
 #include "models/table_model.h"
 
 #include "workbench/document/document.h"
-#include "workbench/surveys/set_aside.h"
+#include "workbench/surveys/set_aside_text.h"
 
 namespace kiv::desktop {
 
@@ -16,6 +16,9 @@ struct ShownEnvelopes {
 };
 /// Asks for it. The transactions of all items are looked through, so ask once.
 [[nodiscard]] ShownEnvelopes shownEnvelopes(workbench::Document &document);
+
+/// How a household knows a transaction: by its day. The ledger must outlive it.
+[[nodiscard]] workbench::PostingName daysIn(const accounting::GeneralLedger &ledger);
 
 /// What is free at each bank account: the columns, and the rows with the account's key.
 [[nodiscard]] QStringList freeColumns();

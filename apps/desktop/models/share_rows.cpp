@@ -2,9 +2,9 @@
 #include "models/share_rows.h"
 
 #include "models/due_rows.h"
+#include "models/envelope_rows.h"
 
 #include "workbench/entry/money_text.h"
-#include "workbench/surveys/set_aside_text.h"
 
 #include <QtCore/QLocale>
 
@@ -41,6 +41,7 @@ Row rowOf(const SheetLine &line, const SurveySheet &sheet,
              part([](const auto &all) { return all.before; }),
              part([](const auto &all) { return all.added; }),
              part([](const auto &all) { return -all.paid; }),
+             part([](const auto &all) { return all.adjusted; }),
              amountCell(line.now, displayAs),
              cell(line.proposed),
              {sourceText(line, sheet)}}};
@@ -64,8 +65,9 @@ QString dueText(const SurveySheet &sheet, navigation::CurrencyDisplayOptions dis
 
 QStringList shareColumns()
 {
-    return {QObject::tr("Item"), QObject::tr("Before"),   QObject::tr("Added"), QObject::tr("Paid"),
-            QObject::tr("Now"),  QObject::tr("Proposed"), QObject::tr("Note")};
+    return {QObject::tr("Item"),     QObject::tr("Before"),   QObject::tr("Added"),
+            QObject::tr("Paid"),     QObject::tr("Adjusted"), QObject::tr("Now"),
+            QObject::tr("Proposed"), QObject::tr("Note")};
 }
 
 std::vector<Row> shareRows(const SurveySheet &sheet, navigation::CurrencyDisplayOptions displayAs)
@@ -85,10 +87,11 @@ std::optional<SheetLine> shareOf(const SurveySheet &sheet, const QString &key)
     return std::nullopt;
 }
 
-QString shareReason(const SheetLine &line, const SurveySheet &sheet,
-                    navigation::CurrencyDisplayOptions displayAs)
+QString shareReason(const SheetLine &line, const SurveySheet &sheet, workbench::Document &document)
 {
-    const workbench::PartReasons parts = reasonsOf(line.line, sheet.envelopes, displayAs);
+    const accounting::GeneralLedger ledger = document.present().generalLedger;
+    const workbench::PartReasons parts =
+        reasonsOf(line.line, sheet.envelopes, document.requests().displayAs(), daysIn(ledger));
     QStringList reasons{parts.before, parts.added, parts.paid, parts.adjusted};
     reasons.removeAll(QString());
     return reasons.isEmpty() ? QString()

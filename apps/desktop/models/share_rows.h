@@ -19,7 +19,7 @@ namespace kiv::desktop {
 /// Why the line is what it is: "Tax: set aside on 2026-03-25; …".
 [[nodiscard]] QString shareReason(const workbench::SheetLine &line,
                                   const workbench::SurveySheet &sheet,
-                                  navigation::CurrencyDisplayOptions displayAs);
+                                  workbench::Document &document);
 /// "$50.00 is set aside, $1,980.00 is free."
 [[nodiscard]] QString shareSummary(const workbench::SurveySheet &sheet,
                                    navigation::CurrencyDisplayOptions displayAs);

@@ -92,7 +92,7 @@ void SurveyShares::followLine()
         whyNot.reset();
         m_amount->setCurrency(line->now.code());
         m_amount->setMoney(line->now);
-        m_reason->setText(shareReason(*line, *m_sheet, m_desk.requests().displayAs()));
+        m_reason->setText(shareReason(*line, *m_sheet, m_desk.document()));
         if (line->line.item.type == budgeting::BudgetItemTypes::Goal)
             whyNot = tr("For a goal, what was moved to its account is set aside.");
     }
