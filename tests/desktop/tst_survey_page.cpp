@@ -80,7 +80,6 @@ private slots:
         press(home, Qt::Key_O, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());
         auto &consent = part<QCheckBox>(home, "consent");
-        home.window().resize(1024, 600); QCoreApplication::processEvents(); home.window().grab().save(u"/tmp/w2pic/consent.png"_s); // TEMP
         QVERIFY(consent.hasFocus() && consent.text().contains(u"$10.00"_s));
         press(home, Qt::Key_Space);
         // Consent is given to this difference, and to no other one.
@@ -136,7 +135,6 @@ private slots:
         QCOMPARE(figures(home), u"2 ticked, the books are $7.50 above the bank (0.36 %)"_s);
         home.window().resize(1024, 600);
         QCoreApplication::processEvents();
-        home.window().grab().save(u"/tmp/w2pic/file.png"_s); // TEMP
         QCOMPARE(misfits(home.window()), QStringList()); // with all that can be there
         home.questions().asked.clear();
         press(home, Qt::Key_W, Qt::AltModifier);
@@ -195,7 +193,6 @@ private slots:
             return home.document().present().surveys.begin()->second.distribution().size();
         };
         QCOMPARE(recorded(), 1U);
-        home.window().resize(1024, 600); QCoreApplication::processEvents(); home.window().grab().save(u"/tmp/w2pic/drop.png"_s); // TEMP
         part<QWidget>(home, drop.constData()).setFocus();
         press(home, Qt::Key_Space);
         QCOMPARE(message(home), QString());
