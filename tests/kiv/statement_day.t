@@ -211,6 +211,26 @@ Wrong statements change nothing:
   kiv: There is no transaction 99 on the sheet.
   kiv: '5-3' is not a list of transactions; write one like 1-5,9, 'all', 'all but 3' or 'none'.
 
+Files of single weeks: what an earlier one told stays ticked:
+
+  $ each 0 <<'.' >/dev/null
+  > bank-account add Visa --bank First --type credit-card --date 2026-01-01
+  > spend 10.00 Food --from Visa --payee Market --date 2026-01-10
+  > spend 5.00 Food --from Visa --payee Market --date 2026-01-17
+  > spend 3.00 Food --from Visa --payee Kiosk --date 2026-01-18
+  > .
+  $ week() { printf 'Date,Text,Amount,Balance\n2026-01-%s,Market,-%s,-%s\n' "$@" >week.csv; }
+  $ week 10 10.00 10.00; kiv import week.csv --into Visa | head -1
+  New: 0; matched: 1; already imported: 0; left out: 0; accounts opened: 0.
+  $ week 17 5.00 15.00; kiv survey run First Visa --bank-file week.csv --dry-run </dev/null 2>/dev/null |
+  >     sed -n '/^Number/,/^Difference/p'
+  Number  Date        Description  Item or account  Change
+      14  2026-01-10  Market       Food             $10.00  ticked
+      15  2026-01-17  Market       Food              $5.00  ticked
+  Calculated  $15.00
+  Statement   $15.00
+  Difference  $0.00
+
 The end of a month from the banks' files: few answers, and each file is known again. Money between two
 accounts stands in both files, after the first account was surveyed, too:
 

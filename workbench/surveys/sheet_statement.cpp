@@ -15,10 +15,12 @@ void SheetStatement::layOn(SurveySheet &sheet) const
 {
     if (balance && balance->code() == sheet.form.balance.code())
         sheet.form.balance = *balance;
-    sheet.form.reconciled.clear();
     for (const accounting::Transaction &one : sheet.form.transactions()) {
-        if (seen.contains(one.number().value()))
-            sheet.form.reconciled.insert(one.number().value());
+        const accounting::TransactionNumber number = one.number().value();
+        if (seen.contains(number))
+            sheet.form.reconciled.insert(number);
+        else if (first.isValid() && one.occurredOn() >= first)
+            sheet.form.reconciled.erase(number);
     }
 }
 
@@ -54,6 +56,8 @@ SheetStatement readForSheet(Document &document, const banking::BankAccount &acco
     SheetStatement statement;
     statement.day = reading.statement.closingOn;
     for (const interchange::StatementEntry &entry : reading.statement.entries) {
+        if (!statement.first.isValid() || entry.date < statement.first)
+            statement.first = entry.date;
         if (!reading.statement.closingOn.isValid() &&
             (!statement.day.isValid() || statement.day < entry.date))
             statement.day = entry.date;

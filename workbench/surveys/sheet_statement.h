@@ -8,14 +8,16 @@ namespace kiv::workbench {
 
 /// What a bank's file says for a sheet.
 struct KIV_WORKBENCH_EXPORT SheetStatement {
-    QDate day; ///< of the balance, or of the last entry; invalid if the file has neither
+    QDate first; ///< of the earliest entry; invalid without entries
+    QDate day;   ///< of the balance, or of the last entry; invalid if the file has neither
     std::optional<numira::Money> balance;         ///< in the account's terms, if the file has it
     std::set<accounting::TransactionNumber> seen; ///< transactions that are in the file
     /// Entries that the books lack: import them first, or they are missing.
     std::vector<interchange::StatementEntry> unknown;
     QStringList notices; ///< sentences about the file
 
-    /// Fills in the balance, and ticks exactly what is in the file.
+    /// Fills in the balance, and ticks what is in the file. Of what is before its first entry,
+    /// which a former file may have told, the ticks stay.
     void layOn(SurveySheet &sheet) const;
     /// "3 entries of the file are not in the books: …"; empty if all are.
     [[nodiscard]] QString unknownText(navigation::CurrencyDisplayOptions displayAs) const;
