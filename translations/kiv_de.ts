@@ -6771,7 +6771,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>correcting the type of “%1”</source>
-        <translation>Berichtigung der Art von „%1“</translation>
+        <translation>die Art von „%1“ berichtigen</translation>
     </message>
     <message>
         <source>The balance of %1 is %2 now; its transactions are as they were.</source>
@@ -6799,7 +6799,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>moving “%1” to “%2”</source>
-        <translation>Wechsel von „%1“ zu „%2“</translation>
+        <translation>„%1“ zu „%2“ umziehen</translation>
     </message>
     <message>
         <source>Replaced %1 by %2.</source>
@@ -6807,7 +6807,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>replacing “%1” by “%2”</source>
-        <translation>Ersetzen von „%1“ durch „%2“</translation>
+        <translation>„%1“ durch „%2“ ersetzen</translation>
     </message>
     <message>
         <source>Moved %1 from %2 to %3 (transaction %4).</source>
@@ -6839,7 +6839,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>finishing the debt “%1”</source>
-        <translation>Beenden der Schuld „%1“</translation>
+        <translation>die Schuld „%1“ beenden</translation>
     </message>
     <message>
         <source>Finished the goal %1.</source>
@@ -6847,7 +6847,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>finishing the goal “%1”</source>
-        <translation>Beenden des Ziels „%1“</translation>
+        <translation>das Ziel „%1“ beenden</translation>
     </message>
     <message>
         <source>&apos;%1&apos; recurs no longer.</source>
@@ -7124,10 +7124,6 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     <message>
         <source>“%1” does not look like a statement of a bank.</source>
         <translation>„%1“ sieht nicht wie ein Kontoauszug aus.</translation>
-    </message>
-    <message>
-        <source>“%1” does not tell the day of a statement; nothing is taken from it.</source>
-        <translation>„%1“ nennt keinen Tag eines Auszugs; es wird nichts daraus übernommen.</translation>
     </message>
     <message>
         <source>Taken up where it was put off.</source>
@@ -9525,14 +9521,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Set nothing aside there any more</source>
         <translation>Dort nichts mehr zurücklegen</translation>
-    </message>
-    <message>
-        <source>%1 No bank keeps that account: assign it to “%2” again, and this can be ended here.</source>
-        <translation>%1 Keine Bank führt dieses Konto: Wird es „%2“ wieder zugeordnet, kann das hier beendet werden.</translation>
-    </message>
-    <message>
-        <source>Assign it</source>
-        <translation>Zuordnen</translation>
     </message>
     <message>
         <source>setting nothing aside at “%1”</source>

@@ -6771,7 +6771,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>correcting the type of “%1”</source>
-        <translation>corrección del tipo de «%1»</translation>
+        <translation>corregir el tipo de «%1»</translation>
     </message>
     <message>
         <source>The balance of %1 is %2 now; its transactions are as they were.</source>
@@ -6799,7 +6799,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>moving “%1” to “%2”</source>
-        <translation>paso de «%1» a «%2»</translation>
+        <translation>pasar «%1» a «%2»</translation>
     </message>
     <message>
         <source>Replaced %1 by %2.</source>
@@ -6807,7 +6807,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>replacing “%1” by “%2”</source>
-        <translation>reemplazo de «%1» por «%2»</translation>
+        <translation>reemplazar «%1» por «%2»</translation>
     </message>
     <message>
         <source>Moved %1 from %2 to %3 (transaction %4).</source>
@@ -6839,7 +6839,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>finishing the debt “%1”</source>
-        <translation>fin de la deuda «%1»</translation>
+        <translation>terminar la deuda «%1»</translation>
     </message>
     <message>
         <source>Finished the goal %1.</source>
@@ -6847,7 +6847,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>finishing the goal “%1”</source>
-        <translation>fin de la meta «%1»</translation>
+        <translation>terminar la meta «%1»</translation>
     </message>
     <message>
         <source>&apos;%1&apos; recurs no longer.</source>
@@ -7124,10 +7124,6 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     <message>
         <source>“%1” does not look like a statement of a bank.</source>
         <translation>«%1» no parece un extracto de un banco.</translation>
-    </message>
-    <message>
-        <source>“%1” does not tell the day of a statement; nothing is taken from it.</source>
-        <translation>«%1» no dice el día de un extracto; no se toma nada de él.</translation>
     </message>
     <message>
         <source>Taken up where it was put off.</source>
@@ -9525,14 +9521,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>Set nothing aside there any more</source>
         <translation>No apartar allí nada más</translation>
-    </message>
-    <message>
-        <source>%1 No bank keeps that account: assign it to “%2” again, and this can be ended here.</source>
-        <translation>%1 Ningún banco lleva esa cuenta: si se asigna de nuevo a «%2», esto se puede terminar aquí.</translation>
-    </message>
-    <message>
-        <source>Assign it</source>
-        <translation>Asignarla</translation>
     </message>
     <message>
         <source>setting nothing aside at “%1”</source>

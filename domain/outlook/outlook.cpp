@@ -185,7 +185,8 @@ std::optional<Payment> Outlook::cause(const Curve &curve, std::size_t place) con
     return most ? std::optional(payments[most->payment]) : std::nullopt;
 }
 
-std::optional<Curve> Outlook::together(const Currency &currency) const
+std::optional<Curve> Outlook::together(const std::set<AccountNumber> &among,
+                                       const Currency &currency) const
 {
     Curve all{Money(currency), {}, {}};
     const auto add = [&currency](Money &sum, const Money &part) {
@@ -194,7 +195,8 @@ std::optional<Curve> Outlook::together(const Currency &currency) const
             sum += *converted;
         return converted.has_value();
     };
-    for (const auto &[account, curve] : accounts) {
+    for (const AccountNumber account : among) {
+        const Curve &curve = accounts.at(account);
         all.ends.resize(curve.ends.size(), Money(currency));
         if (!add(all.start, curve.start))
             return std::nullopt;
@@ -205,7 +207,7 @@ std::optional<Curve> Outlook::together(const Currency &currency) const
         // What moves between two of the accounts takes nothing out of all together.
         for (const Change &change : curve.changes) {
             const Payment &payment = payments[change.payment];
-            if (accounts.contains(payment.from) && accounts.contains(payment.to))
+            if (among.contains(payment.from) && among.contains(payment.to))
                 continue;
             all.changes.push_back({change.payment, inCurrency(change.amount, currency).value()});
         }

@@ -114,8 +114,10 @@ struct KIV_OUTLOOK_EXPORT Outlook {
     /// The payment that took the most out of these curves on the day at this place; nothing if
     /// none took any.
     [[nodiscard]] std::optional<Payment> cause(const Curve &curve, std::size_t place) const;
-    /// All curves together, in one currency. Nothing without an exchange rate for one of them.
-    [[nodiscard]] std::optional<Curve> together(const numira::Currency &currency) const;
+    /// The curves of these accounts together, in one currency. Nothing without an exchange rate
+    /// for one of them.
+    [[nodiscard]] std::optional<Curve> together(const std::set<accounting::AccountNumber> &among,
+                                                const numira::Currency &currency) const;
 };
 
 /// Looks ahead. Each date of an item posts its amount once, each late one on the first day; on

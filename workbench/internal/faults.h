@@ -61,6 +61,8 @@ namespace kiv::workbench::internal {
 [[nodiscard]] EntryError notTicks(const QString &text);
 [[nodiscard]] Refusal sheetTooLarge();
 [[nodiscard]] EntryError staysInAccount();
+[[nodiscard]] Refusal noStatement(const QString &file);
+[[nodiscard]] Refusal fileTellsNoDay(const QString &file);
 [[nodiscard]] Refusal fileOfOtherAccount(const QString &file, const QString &account);
 
 // ---- rules of imports ---------------------------------------------------------

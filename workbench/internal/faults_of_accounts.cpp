@@ -40,6 +40,16 @@ EntryError notTicks(const QString &text)
                           .arg(text));
 }
 
+Refusal noStatement(const QString &file)
+{
+    return Refusal(QObject::tr("“%1” does not look like a statement of a bank.").arg(file));
+}
+
+Refusal fileTellsNoDay(const QString &file)
+{
+    return Refusal(QObject::tr("'%1' tells no day; give that of the statement.").arg(file));
+}
+
 Refusal fileOfOtherAccount(const QString &file, const QString &account)
 {
     return Refusal(

@@ -143,12 +143,13 @@ LookingAhead lookAhead(const BudgetStorage::Data &data, const OutlookQuestion &q
 {
     LookingAhead ahead;
     ahead.outlook = outlook::look(Gathering(data, question).made(ahead.unpaid));
-    outlook::Outlook money = ahead.outlook;
-    std::erase_if(money.accounts, [&data](const auto &one) {
-        return data.generalLedger.ledger(one.first).type() == AccountTypes::Liability;
-    });
-    if (!money.accounts.empty())
-        ahead.together = money.together(preferred);
+    std::set<AccountNumber> money;
+    for (const auto &[number, curve] : ahead.outlook.accounts) {
+        if (data.generalLedger.ledger(number).type() != AccountTypes::Liability)
+            money.insert(number);
+    }
+    if (!money.empty())
+        ahead.together = ahead.outlook.together(money, preferred);
     for (const outlook::Payment &one : ahead.outlook.payments) {
         if (one.item && one.item->type == BudgetItemTypes::Wage && one.day > question.first) {
             ahead.nextWage = one.day;

@@ -64,6 +64,7 @@ PutOffSheet SurveySheet::put(bool hasBalance) const
     sheet.items = form.items;
     sheet.extras = form.extras;
     sheet.typed = typed;
+    sheet.isAsProposed = isAsProposed;
     return sheet;
 }
 
@@ -83,6 +84,7 @@ QStringList SurveySheet::take(const PutOffSheet &sheet, const SheetBooks &books)
             changed += QLatin1Char('#') + accounting::presentationText(one.number);
     }
     form.reconciled = std::move(same);
+    isAsProposed = isAsProposed || sheet.isAsProposed;
     const QStringList gone = keep(sheet.items, form.items, books) +
                              keep(sheet.typed, typed, books) +
                              keep(sheet.extras, form.extras, books);

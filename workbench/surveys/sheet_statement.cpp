@@ -4,12 +4,20 @@
 #include "workbench/entry/description.h"
 #include "workbench/entry/money_text.h"
 #include "workbench/internal/faults.h"
+#include "workbench/statements/import_format.h"
+#include "workbench/statements/input_file.h"
 
 #include "foundation/presentation.h"
 
 namespace kiv::workbench {
 
 using numira::Money;
+
+void SheetStatement::requireDay(const QString &file) const
+{
+    if (!day.isValid())
+        throw internal::fileTellsNoDay(file);
+}
 
 void SheetStatement::layOn(SurveySheet &sheet) const
 {
@@ -42,6 +50,19 @@ QString SheetStatement::unknownText(navigation::CurrencyDisplayOptions displayAs
                           : QObject::tr("%n entries of the file are not in the books: %1", nullptr,
                                         static_cast<int>(unknown.size()))
                                 .arg(told.join(QStringLiteral("; ")));
+}
+
+ImportSource sheetSource(const QString &path)
+{
+    ImportSource source;
+    source.file = path;
+    source.bytes = readFile(path);
+    const auto kind = guessImportFormat(path, source.bytes);
+    const auto format = kind ? statementFormat(*kind) : std::nullopt;
+    if (!format)
+        throw internal::noStatement(path);
+    source.format = *format;
+    return source;
 }
 
 SheetStatement readForSheet(Document &document, const banking::BankAccount &account,

@@ -16,12 +16,18 @@ struct KIV_WORKBENCH_EXPORT SheetStatement {
     std::vector<interchange::StatementEntry> unknown;
     QStringList notices; ///< sentences about the file
 
+    /// Throws a Refusal that names the file if it tells no day.
+    void requireDay(const QString &file) const;
     /// Fills in the balance, and ticks what is in the file. Of what is before its first entry,
     /// which a former file may have told, the ticks stay.
     void layOn(SurveySheet &sheet) const;
     /// "3 entries of the file are not in the books: …"; empty if all are.
     [[nodiscard]] QString unknownText(navigation::CurrencyDisplayOptions displayAs) const;
 };
+
+/// A bank's file to be laid beside a sheet. Throws a Refusal if it cannot be read or is no
+/// statement.
+[[nodiscard]] KIV_WORKBENCH_EXPORT ImportSource sheetSource(const QString &path);
 
 /// Reads the file for the account. Throws an ImportError for what cannot be read, and a Refusal
 /// if the file is of another account.

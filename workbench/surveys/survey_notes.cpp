@@ -139,7 +139,8 @@ QJsonObject jsonOf(const PutOffSheet &sheet)
             {QStringLiteral("ticked"), ticked},
             {QStringLiteral("items"), jsonOf(sheet.items)},
             {QStringLiteral("accounts"), jsonOf(sheet.extras)},
-            {QStringLiteral("setAside"), jsonOf(sheet.typed)}};
+            {QStringLiteral("setAside"), jsonOf(sheet.typed)},
+            {QStringLiteral("asProposed"), sheet.isAsProposed}};
 }
 
 std::optional<PutOffSheet> sheetOf(const QJsonValue &json)
@@ -157,6 +158,7 @@ std::optional<PutOffSheet> sheetOf(const QJsonValue &json)
     readAmounts(json[QLatin1String("items")], sheet.items);
     readAmounts(json[QLatin1String("accounts")], sheet.extras);
     readAmounts(json[QLatin1String("setAside")], sheet.typed);
+    sheet.isAsProposed = json[QLatin1String("asProposed")].toBool();
     return sheet;
 }
 

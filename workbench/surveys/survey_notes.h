@@ -20,6 +20,7 @@ struct KIV_WORKBENCH_EXPORT PutOffSheet {
     std::map<accounting::AccountNumber, numira::Money> extras; ///< the same
     /// What was set aside by hand.
     std::map<budgeting::BudgetItemIdentifier, numira::Money> typed;
+    bool isAsProposed = false; ///< whether the Navigator's proposals were taken
 
     friend bool operator==(const PutOffSheet &, const PutOffSheet &) = default;
 };

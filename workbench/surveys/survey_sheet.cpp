@@ -202,7 +202,12 @@ void SurveySheet::setAside(Requests &requests, const QString &text)
     const auto [name, value] = assignment(text);
     Amount amount;
     readValue(value, amount);
-    typed[BudgetView(requests).findTyped(name)] = amount.in(form.balance.code());
+    const BudgetItemIdentifier item = BudgetView(requests).findTyped(name);
+    const Money money = amount.in(form.balance.code());
+    if (exact)
+        (*exact)[item] = money;
+    else
+        typed[item] = money;
 }
 
 QString SheetFigures::percentText() const
@@ -270,12 +275,8 @@ std::vector<SheetLine> SurveySheet::lines() const
 
 surveying::Distribution SurveySheet::distribution() const
 {
-    if (exact) {
-        surveying::Distribution given = *exact;
-        for (const auto &[item, money] : typed)
-            given[item] = money;
-        return given;
-    }
+    if (exact)
+        return *exact;
     surveying::Distribution given;
     // What has no line is refused with its name, or held by another account.
     for (const auto &[item, money] : typed) {

@@ -2,9 +2,6 @@
 #include "pages/survey_drafts.h"
 
 #include "workbench/entry/sum_text.h"
-#include "workbench/errors.h"
-#include "workbench/statements/import_format.h"
-#include "workbench/statements/input_file.h"
 #include "workbench/surveys/sheet_statement.h"
 
 #include "foundation/clock.h"
@@ -46,22 +43,11 @@ bool SurveyDrafts::renew(AccountNumber account, const std::function<QDate()> &da
 
 void SurveyDrafts::layFile(AccountNumber account, const QString &path)
 {
-    workbench::ImportSource source;
-    source.file = path;
-    source.bytes = workbench::readFile(path);
-    const auto kind = workbench::guessImportFormat(path, source.bytes);
-    const auto format = kind ? workbench::statementFormat(*kind) : std::nullopt;
-    if (!format)
-        throw workbench::Refusal(
-            QObject::tr("“%1” does not look like a statement of a bank.").arg(path));
-    source.format = *format;
+    const workbench::ImportSource source = workbench::sheetSource(path);
     workbench::Requests &requests = m_document.requests();
     const workbench::SheetStatement statement =
         readForSheet(m_document, requests.bankAccount(account, path), source);
-    if (!statement.day.isValid())
-        throw workbench::Refusal(
-            QObject::tr("“%1” does not tell the day of a statement; nothing is taken from it.")
-                .arg(path));
+    statement.requireDay(path);
     const SheetBooks books = SheetBooks::of(m_document);
     SurveyDraft anew = fresh(account, books, statement.day);
     if (const SurveyDraft *known = of(account)) {

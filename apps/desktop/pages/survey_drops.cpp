@@ -5,7 +5,7 @@
 #include "widgets/allow.h"
 
 #include "workbench/surveys/set_aside_text.h"
-#include "workbench/surveys/survey_form.h"
+#include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/clock.h"
 
@@ -55,22 +55,20 @@ void SurveyDrops::refresh()
         if (isAtNoUse(one))
             atNoUse[one.account].stranded.push_back(one);
     }
-    for (const auto &[account, stranded] : atNoUse) {
-        const bool isKept = books.banks.find(account.account.number) == account.bank;
-        add(sharedNoticesOf(stranded, books.generalLedger, displayAs).join(u' '), account, isKept);
-    }
+    for (const auto &[account, stranded] : atNoUse)
+        add(sharedNoticesOf(stranded, books.generalLedger, displayAs).join(u' '), account);
     for (SetAside one : all.accounts) {
         if (!one.free().isNegative() || !one.reconciledOn)
             continue;
         // What else is to be known of it is told beside its lines.
         one.lines.clear();
         one.leftOut.clear();
-        add(noticesOf(one, books.generalLedger, displayAs).join(u' '), one.account, true);
+        add(noticesOf(one, books.generalLedger, displayAs).join(u' '), one.account);
     }
     setVisible(m_rows->count() > 0);
 }
 
-void SurveyDrops::add(const QString &sentences, const banking::BankAccount &account, bool isKept)
+void SurveyDrops::add(const QString &sentences, const banking::BankAccount &account)
 {
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
@@ -81,20 +79,10 @@ void SurveyDrops::add(const QString &sentences, const banking::BankAccount &acco
     auto *button = new QPushButton(row);
     layout->addWidget(text, 1);
     layout->addWidget(button);
-    if (isKept) {
-        button->setText(tr("Set nothing aside there any more"));
-        allow(*button, m_desk.whyNoChange());
-        connect(button, &QPushButton::clicked, this,
-                [this, button, account] { drop(*button, account); });
-    } else {
-        text->setText(tr("%1 No bank keeps that account: assign it to “%2” again, and this can be "
-                         "ended here.")
-                          .arg(sentences, account.bank.institution()));
-        button->setText(tr("Assign it"));
-        connect(button, &QPushButton::clicked, this, [this] {
-            m_desk.goTo({QStringLiteral("banks"), QStringLiteral("assign")});
-        });
-    }
+    button->setText(tr("Set nothing aside there any more"));
+    allow(*button, m_desk.whyNoChange());
+    connect(button, &QPushButton::clicked, this,
+            [this, button, account] { drop(*button, account); });
     button->setObjectName(QStringLiteral("drop ") + keyOf(account.account.number));
     button->setAccessibleDescription(text->text());
     m_rows->addWidget(row);
@@ -103,15 +91,11 @@ void SurveyDrops::add(const QString &sentences, const banking::BankAccount &acco
 void SurveyDrops::drop(QWidget &asker, const banking::BankAccount &account)
 {
     workbench::Requests &requests = m_desk.requests();
-    const QString number = keyOf(account.account.number);
     const QString name = requests.accounts().plainName(account.account.number);
     const workbench::Deed deed{QObject::tr("Nothing is set aside at %1 any more.").arg(name),
                                tr("setting nothing aside at “%1”").arg(name),
                                QStringLiteral("survey/aside")};
-    m_desk.perform(*m_message, &asker, deed, [&] {
-        workbench::SurveyForm::drop(requests, account.bank.institution(), number)
-            .complete(requests);
-    });
+    m_desk.perform(*m_message, &asker, deed, [&] { dropSetAside(m_desk.document(), account); });
 }
 
 } // namespace kiv::desktop

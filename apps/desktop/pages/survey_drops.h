@@ -25,7 +25,7 @@ public:
     void refresh();
 
 private:
-    void add(const QString &sentences, const banking::BankAccount &account, bool isKept);
+    void add(const QString &sentences, const banking::BankAccount &account);
     void drop(QWidget &asker, const banking::BankAccount &account);
 
     Desk &m_desk;

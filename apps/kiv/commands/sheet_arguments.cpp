@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/sheet_arguments.h"
 
-#include "workbench/statements/input_file.h"
-
-#include "interchange/statement_reader.h"
-
 namespace kiv::app {
 
 void SheetArguments::declare(Arguments &arguments)
@@ -35,15 +31,10 @@ SheetArguments::Begun SheetArguments::begin(Call &call, std::optional<QDate> day
     Begun begun{{}, SheetBooks::of(call.document), {}};
     QDate used = day.value_or(otherwise);
     if (bankFile) {
-        workbench::ImportSource source;
-        source.file = *bankFile;
-        source.bytes = workbench::readFile(*bankFile);
-        source.format = interchange::guessStatementFormat(*bankFile, source.bytes)
-                            .value_or(interchange::StatementFormat::Csv);
-        begun.statement = workbench::readForSheet(call.document, kept, std::move(source));
-        if (!day && !begun.statement->day.isValid())
-            throw workbench::Refusal(
-                QObject::tr("'%1' tells no day; give that of the statement.").arg(*bankFile));
+        begun.statement =
+            workbench::readForSheet(call.document, kept, workbench::sheetSource(*bankFile));
+        if (!day)
+            begun.statement->requireDay(*bankFile);
         used = day.value_or(begun.statement->day);
     }
     begun.sheet = SurveySheet::begin(call.requests, begun.books, *bank, *account, used);
