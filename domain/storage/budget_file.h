@@ -12,9 +12,14 @@
 
 namespace kiv::storage {
 
+class KeyRing;
+class Passphrase;
+
 namespace internal {
+class OpenFile;
 class VersionFolder;
-}
+struct Encryption;
+} // namespace internal
 
 /// A budget in a file. docs/file-format.md describes the file, how it is
 /// saved, and what is mended when it is loaded.
@@ -25,7 +30,7 @@ class VersionFolder;
 ///
 /// Each store keeps the version until then as a former one, see keptVersions(). What one
 /// BudgetFile stores within a second makes one version.
-class KIV_STORAGE_EXPORT BudgetFile final : public BudgetStorage {
+class KIV_STORAGE_EXPORT BudgetFile : public BudgetStorage {
 public:
     /// How a BudgetFile tells and spends time.
     struct Pace {
@@ -88,12 +93,38 @@ public:
     /// Names the change that the next successful store saves, in a line such as "Paid
     /// Rent".
     void setChange(const QString &change) { m_change = change; }
+
+    // ---- encryption ------------------------------------------------------------
+
+    /// The keys with which encrypted files are opened; without any, load() and the others
+    /// throw PassphraseNeeded. Chosen before the first file.
+    ///
+    /// A file stays as it is, encrypted or not, and so do its former versions: what an
+    /// encrypted one keeps in the clear, or under its passphrase from before, because a
+    /// program ended meanwhile, is encrypted when it is loaded. Under another name a budget
+    /// is encrypted as it was, but not a new one.
+    void setKeys(std::shared_ptr<KeyRing> keys) { m_keys = std::move(keys); }
+    /// Whether the file that was loaded or stored last is encrypted.
+    [[nodiscard]] bool isEncrypted() const;
+    /// Encrypts the file that was loaded or stored last and its former versions, or gives
+    /// them another passphrase. The version stays the same. Answers with the paths of
+    /// those versions that no key opens, and that stay as they are. Throws StorageError as
+    /// store() does; what fails before the file is written changes nothing, and what fails
+    /// after it is made up for when the file is loaded again.
+    QStringList encrypt(const Passphrase &passphrase);
+    /// The reverse, the versions first: what fails leaves the file encrypted.
+    QStringList decrypt();
+    /// The next file that is stored under another name is encrypted with this passphrase, or
+    /// as the open file of `other` is.
+    void encryptNext(const Passphrase &passphrase);
+    void encryptNextAs(const BudgetFile &other); ///< see encryptNext()
+
     /// The file that was chosen; empty before. A load or store that fails chooses the
     /// one that was loaded or saved last again, if there is one.
     [[nodiscard]] QString filePathName() const override;
 
 private:
-    class OpenFile;
+    using OpenFile = internal::OpenFile;
     /// The file that was chosen: the open one, or another one.
     struct Chosen {
         std::unique_ptr<OpenFile> other;
@@ -106,9 +137,6 @@ private:
         QString change;                              ///< the first one that was named
         int stores = 0;
     };
-    /// The bytes to store and their mark, from the mark that a new version would have.
-    using Draft = std::function<std::pair<QByteArray, VersionMark>(
-        VersionMark next, bool isMerged, internal::VersionFolder &former)>;
     /// What of the present version the next one depends on.
     struct Present {
         surveying::CompletedSurveys surveys;
@@ -125,9 +153,17 @@ private:
     /// This version was loaded or stored.
     void settle(Version version);
     void goBack() noexcept;
-    void store(const Draft &draft, bool mayMerge);
+    /// A file that was not open gets this encryption, unless another one was chosen for it.
+    template <typename Draft>
+    void storeDraft(const Draft &draft, bool mayMerge,
+                    const std::optional<internal::Encryption> &encryption);
+    [[nodiscard]] std::optional<internal::Encryption> presentEncryption() const;
+    /// The open file, locked. Throws NoName without one.
+    [[nodiscard]] OpenFile &openToRewrite();
 
     Pace m_pace;
+    std::shared_ptr<KeyRing> m_keys; // outlives the open file
+    std::unique_ptr<internal::Encryption> m_nextEncryption;
     QString m_chosenPath;
     QString m_change;
     bool m_isReading = false;

@@ -4,6 +4,7 @@
 #include "storage/internal/budget_image.h"
 #include "storage/internal/faults.h"
 #include "storage/internal/file_content.h"
+#include "storage/internal/opened_content.h"
 #include "storage/internal/schema.h"
 
 #include <algorithm>
@@ -49,23 +50,42 @@ private:
     bool m_isBroken = false;
 };
 
+/// Of an encrypted file that is not as it was written: what is in it cannot be judged.
+BudgetInspection unreadable(BudgetInspection inspection, const QString &fault)
+{
+    inspection.judgements = {{FilePromise::Identity, Verdict::Kept, {}},
+                             {FilePromise::Tables, Verdict::NotJudged, {}},
+                             {FilePromise::Seal, Verdict::Broken, {fault}},
+                             {FilePromise::Rules, Verdict::NotJudged, {}},
+                             {FilePromise::Ties, Verdict::NotJudged, {}}};
+    return inspection;
+}
+
 } // namespace
 
-BudgetInspection inspectBudget(const QString &filePathName)
+BudgetInspection inspectBudget(const QString &filePathName, const KeyRing *keys)
 {
     const internal::FileTarget target(filePathName);
     const std::optional<internal::FileContent> content =
         internal::readFile(target, internal::fileSizeMax);
     if (!content)
         throw internal::fileNotFound(filePathName);
-    const QByteArrayView bytes = content->bytes;
+    QByteArray bytes = content->bytes;
 
     BudgetInspection inspection;
     inspection.savedAt = QDateTime::fromSecsSinceEpoch(content->stamp.seconds, Qt::UTC)
                              .addMSecs(content->stamp.nanoseconds / 1'000'000);
     inspection.size = bytes.size();
+    inspection.isEncrypted = internal::kindOf(bytes) == internal::FileKind::Encrypted;
     QStringList mended;
     Judge judge(inspection);
+    if (inspection.isEncrypted) {
+        try {
+            bytes = internal::decrypted(bytes, keys, filePathName).bytes;
+        } catch (const internal::ContentFault &fault) {
+            return unreadable(std::move(inspection), QString::fromUtf8(fault.what()));
+        }
+    }
     judge.judge(FilePromise::Identity,
                 [&] { internal::requireBudget(internal::kindOf(bytes), filePathName); });
     const bool isBudget = internal::kindOf(bytes) == internal::FileKind::Budget;

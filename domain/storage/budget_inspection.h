@@ -11,6 +11,8 @@
 
 namespace kiv::storage {
 
+class KeyRing;
+
 /// What every budget file promises, in the order in which it is looked at. None
 /// is judged when one before it is broken.
 enum class FilePromise : std::uint8_t {
@@ -44,6 +46,8 @@ struct KIV_STORAGE_EXPORT BudgetInspection {
     QDateTime savedAt;
     /// In bytes.
     qint64 size = 0;
+    /// Whether it is encrypted.
+    bool isEncrypted = false;
     /// One for each promise, in their order.
     std::vector<Judgement> judgements;
     /// What the version tells about itself, when its seal and its tables are whole.
@@ -57,8 +61,10 @@ struct KIV_STORAGE_EXPORT BudgetInspection {
 
 /// Looks at a budget file or one of its backups, without a lock, which reading
 /// alone does not need: a save replaces the file by another one and never
-/// changes it. Nothing is written. Throws StorageError when there is no file to
-/// look at, or none that can be read.
-[[nodiscard]] KIV_STORAGE_EXPORT BudgetInspection inspectBudget(const QString &filePathName);
+/// changes it. Nothing is written. An encrypted file whose key is in `keys` is looked at as
+/// if it were in the clear. Throws StorageError when there is no file to look at, or none
+/// that can be read, and PassphraseNeeded.
+[[nodiscard]] KIV_STORAGE_EXPORT BudgetInspection inspectBudget(const QString &filePathName,
+                                                                const KeyRing *keys = nullptr);
 
 } // namespace kiv::storage

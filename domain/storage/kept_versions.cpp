@@ -2,6 +2,8 @@
 #include "storage/kept_versions.h"
 
 #include "storage/internal/budget_image.h"
+#include "storage/internal/label_in_file.h"
+#include "storage/internal/opened_content.h"
 #include "storage/internal/schema.h"
 #include "storage/internal/version_folder.h"
 
@@ -25,14 +27,15 @@ using Telling = KeptVersion::Telling;
 constexpr unsigned backupsMax = 5;
 
 /// What a file that has no label tells: its id, when it is one of the first edition.
-void readWithoutLabel(KeptVersion &version)
+void readWithoutLabel(KeptVersion &version, const KeyRing *keys)
 {
     try {
         const auto content =
             internal::readFile(internal::FileTarget(version.path), internal::fileSizeMax);
-        if (!content || internal::kindOf(content->bytes) != internal::FileKind::Budget)
+        if (!content)
             return;
-        const internal::BudgetImage image(content->bytes);
+        const QByteArray bytes = internal::opened(content->bytes, keys, version.path).bytes;
+        const internal::BudgetImage image(bytes);
         if (image.hasByteSeal())
             return;
         version.mark.id = image.mark().id;
@@ -43,7 +46,7 @@ void readWithoutLabel(KeptVersion &version)
 }
 
 /// A file outside the folder of versions; nothing when there is none.
-std::optional<KeptVersion> fileAt(const QByteArray &path)
+std::optional<KeptVersion> fileAt(const QByteArray &path, const KeyRing *keys)
 {
     struct stat status = {};
     if (::lstat(path.constData(), &status) != 0 || !S_ISREG(status.st_mode))
@@ -55,11 +58,14 @@ std::optional<KeptVersion> fileAt(const QByteArray &path)
                                .addMSecs(status.st_mtim.tv_nsec / 1'000'000);
     const internal::FileDescriptor file(
         ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (const auto label = file ? internal::labelIn(file) : std::nullopt) {
-        version.mark = *label;
+    const auto label = file ? internal::labelIn(file, keys) : internal::LabelInFile();
+    if (label.mark) {
+        version.mark = *label.mark;
         version.telling = Telling::Everything;
+    } else if (label.isLocked) {
+        version.telling = Telling::Locked;
     } else {
-        readWithoutLabel(version);
+        readWithoutLabel(version, keys);
     }
     version.name = QString::number(version.mark.number);
     return version;
@@ -83,28 +89,30 @@ void addBackups(std::vector<KeptVersion> &versions, std::vector<KeptVersion> bac
 
 } // namespace
 
-std::vector<KeptVersion> keptVersions(const QString &filePathName)
+std::vector<KeptVersion> keptVersions(const QString &filePathName, const KeyRing *keys)
 {
     const internal::FileTarget target(filePathName);
     std::vector<KeptVersion> versions;
-    if (std::optional<KeptVersion> file = fileAt(target.path())) {
+    if (std::optional<KeptVersion> file = fileAt(target.path(), keys)) {
         file->isFile = true;
         versions.push_back(*std::move(file));
     }
-    internal::VersionFolder folder(target);
+    internal::VersionFolder folder(target, keys);
     for (const internal::FormerVersion &former : std::views::reverse(folder.versions())) {
         KeptVersion version{QString::number(former.mark.number),
                             QFile::decodeName(folder.path() + '/' + former.name), former.mark,
-                            former.hasLabel ? Telling::Everything : Telling::Nothing,
+                            former.hasLabel   ? Telling::Everything
+                            : former.isLocked ? Telling::Locked
+                                              : Telling::Nothing,
                             former.stamp.size};
-        if (!former.hasLabel)
-            readWithoutLabel(version);
+        if (version.telling == Telling::Nothing)
+            readWithoutLabel(version, keys);
         versions.push_back(std::move(version));
     }
     std::vector<KeptVersion> backups;
     for (unsigned number = 1; number <= backupsMax; ++number) {
         const QByteArray name = internal::backupName(target, number);
-        if (std::optional<KeptVersion> backup = fileAt(target.folder() + '/' + name)) {
+        if (std::optional<KeptVersion> backup = fileAt(target.folder() + '/' + name, keys)) {
             backup->name = QStringLiteral("backup-%1").arg(number);
             backups.push_back(*std::move(backup));
         }

@@ -10,7 +10,7 @@ namespace kiv::storage {
 namespace {
 
 /// By the values of StorageFailure, which begin with 1.
-constexpr std::array<const char *, 13> words{"unknown failure",
+constexpr std::array<const char *, 17> words{"unknown failure",
                                              "no name",
                                              "not found",
                                              "not a file",
@@ -22,7 +22,11 @@ constexpr std::array<const char *, 13> words{"unknown failure",
                                              "locked",
                                              "changed on disk",
                                              "cannot write",
-                                             "cannot hold"};
+                                             "cannot hold",
+                                             "passphrase needed",
+                                             "wrong passphrase",
+                                             "passphrase refused",
+                                             "too little memory"};
 
 } // namespace
 

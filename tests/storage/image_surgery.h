@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "decryption.h"
 #include "scratch_folder.h"
 
 #include <QtCore/QCryptographicHash>
@@ -50,10 +51,10 @@ private:
     }
 };
 
-/// The part of a sealed file that is the same for the same budget.
+/// The part of a sealed file that is the same for the same budget, encrypted or not.
 inline QByteArray imageOf(const QByteArray &file)
 {
-    const FileParts parts(file);
+    const FileParts parts(decrypted(file));
     return parts.hasSeal ? parts.image : QByteArray("not sealed");
 }
 

@@ -3,6 +3,7 @@
 
 #include "storage/budget_file.h"
 #include "storage/budget_inspection.h"
+#include "storage/key_ring.h"
 #include "storage/storage_error.h"
 
 #include <QtCore/QDir>
@@ -71,11 +72,37 @@ inline storage::BudgetFile::Pace atLeisure()
     return {0ms, [time = std::chrono::steady_clock::time_point()]() mutable { return time += 2s; }};
 }
 
+/// Whether new budget files of the tests are encrypted.
+inline bool isEncrypting = false;
+
+inline const storage::Passphrase &passphrase()
+{
+    static const storage::Passphrase words(QStringLiteral("four words of my own"));
+    return words;
+}
+
+inline const std::shared_ptr<storage::KeyRing> &keys()
+{
+    static const auto ring = std::make_shared<storage::KeyRing>(storage::KeyRing::Cost::Small);
+    return ring;
+}
+
+/// A budget file that finds the keys above, and encrypts new files if the tests do.
+class TestFile : public storage::BudgetFile {
+public:
+    explicit TestFile(Pace pace = atLeisure()) : BudgetFile(std::move(pace))
+    {
+        setKeys(keys());
+        if (isEncrypting)
+            encryptNext(passphrase());
+    }
+};
+
 /// The ids of the version in the file and of the former ones, each once.
 inline QStringList versionsOf(const QString &path)
 {
     QStringList ids;
-    for (const storage::KeptVersion &version : storage::keptVersions(path))
+    for (const storage::KeptVersion &version : storage::keptVersions(path, keys().get()))
         ids.append(version.mark.id);
     ids.removeDuplicates();
     return ids;
@@ -85,14 +112,14 @@ inline QStringList versionsOf(const QString &path)
 /// the one before the file's is kept.
 inline QString wrongInVersions(const QString &path)
 {
-    const auto versions = storage::keptVersions(path);
+    const auto versions = storage::keptVersions(path, keys().get());
     const storage::VersionMark &mark = versions.front().mark;
     qint64 number = mark.number;
     for (const storage::KeptVersion &version : versions | std::views::drop(1)) {
         const bool isFiles = version.mark.id == mark.id && version.mark.number == mark.number;
         if (!isFiles && version.mark.number >= std::exchange(number, version.mark.number))
             return QStringLiteral("version %1 is there twice").arg(version.name);
-        if (!storage::inspectBudget(version.path).data)
+        if (!storage::inspectBudget(version.path, keys().get()).data)
             return QStringLiteral("version %1 is damaged").arg(version.name);
     }
     return mark.ancestors.isEmpty() || versionsOf(path).contains(mark.ancestors.first())
@@ -102,16 +129,28 @@ inline QString wrongInVersions(const QString &path)
 
 inline void store(const QString &path, const storage::BudgetStorage::Data &data)
 {
-    storage::BudgetFile file(atLeisure());
+    TestFile file;
     file.setFilePathName(path);
     file.store(data);
 }
 
 inline storage::BudgetStorage::Data load(const QString &path)
 {
-    storage::BudgetFile file(atLeisure());
+    TestFile file;
     file.setFilePathName(path);
     return file.load();
+}
+
+/// The names of the files in the folder in which anybody can read of a budget.
+inline QString inTheClear(const QString &folder)
+{
+    QStringList found;
+    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+        const QByteArray bytes = contentOf(folder + u'/' + name);
+        if (bytes.contains("SQLite") || bytes.contains("transactions"))
+            found.append(name);
+    }
+    return found.join(u' ');
 }
 
 /// Saves as a careless program does: each rig must find out what that leaves.

@@ -32,8 +32,8 @@ storage::BudgetStorage::Data budget(int version)
 /// The bytes of a version.
 QByteArray bytesOf(int version)
 {
-    static std::map<int, QByteArray> known;
-    QByteArray &bytes = known[version];
+    static std::map<std::pair<int, bool>, QByteArray> known;
+    QByteArray &bytes = known[{version, test::isEncrypting}];
     if (bytes.isEmpty()) {
         const test::ScratchFolder folder;
         test::store(folder.path(name), budget(version));
@@ -53,7 +53,8 @@ enum class Standing { Open, First, NotOpen, New };
 /// A folder with a budget of the second version, and with the first one as the former.
 const test::ScratchFolder &twoVersions()
 {
-    static const test::ScratchFolder folder;
+    static const std::array<test::ScratchFolder, 2> folders;
+    const test::ScratchFolder &folder = folders[test::isEncrypting ? 1 : 0];
     if (folder.names().isEmpty()) {
         test::store(folder.path(name), budget(1));
         test::store(folder.path(name), budget(2));
@@ -67,7 +68,8 @@ struct Desk {
     {
         folder.write(name, twoVersions().read(name));
         if (standing != Standing::First) {
-            const auto former = storage::keptVersions(twoVersions().path(name)).back();
+            const auto former =
+                storage::keptVersions(twoVersions().path(name), test::keys().get()).back();
             QDir().mkdir(path + u".versions"_qs);
             test::overwrite(path + u".versions/"_qs + QFileInfo(former.path).fileName(),
                             test::contentOf(former.path));
@@ -91,6 +93,12 @@ struct Desk {
         names.removeAll(lock);
         return names;
     }
+    /// The files whose content anybody can read.
+    [[nodiscard]] QString readable() const
+    {
+        QString found = test::inTheClear(folder.path({}));
+        return found + test::inTheClear(path + u".versions/"_qs);
+    }
     [[nodiscard]] QStringList kept() const { return test::versionsOf(path); }
     [[nodiscard]] QByteArray image(const QString &which) const
     {
@@ -105,7 +113,7 @@ struct Desk {
 
     test::ScratchFolder folder;
     QString path = folder.path(name);
-    storage::BudgetFile file{test::atLeisure()};
+    test::TestFile file;
 };
 
 using Saver = void (Desk::*)(int);
@@ -137,7 +145,8 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     if (keptThen != kept)
         return QStringLiteral("the former versions are others");
     if (!failure && kept.size() > 1 &&
-        storage::keptVersions(desk.path).front().mark.ancestors.value(0) != kept.at(1) &&
+        storage::keptVersions(desk.path, test::keys().get()).front().mark.ancestors.value(0) !=
+            kept.at(1) &&
         standing != Standing::New)
         return QStringLiteral("it does not come from the version before");
     // The lock of a file that is not open went with the attempt.
@@ -150,6 +159,8 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
         return QStringLiteral("the next save failed");
     if (desk.kept().mid(1) != keptThen)
         return QStringLiteral("the next save lost a former version");
+    if (test::isEncrypting && !desk.readable().isEmpty())
+        return QStringLiteral("left in the clear: %1").arg(desk.readable());
     for (const QString &left : desk.names()) {
         if (!left.startsWith(name) && !left.endsWith(u"Z-1.budget"_qs) &&
             !left.endsWith(u"Z-2.budget"_qs) && !left.endsWith(u"Z-3.budget"_qs))
@@ -213,6 +224,7 @@ class SaveFaultsTest final : public QObject {
 
 private slots:
     void initTestCase();
+    void cleanup() { test::isEncrypting = false; }
     void aCarelessSaverIsCaught();
     void everyFailureLeavesAWholeFile_data();
     void everyFailureLeavesAWholeFile();
@@ -240,13 +252,19 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
     QTest::addColumn<std::string>("call");
     QTest::addColumn<int>("count");
     QTest::addColumn<Standing>("standing");
-    for (const auto &[standing, words] :
-         {std::pair(Standing::Open, ""), std::pair(Standing::First, " of the first version"),
-          std::pair(Standing::NotOpen, " of a file not opened"),
-          std::pair(Standing::New, " of a new file")}) {
-        for (const auto &[call, count] : callsOf(&Desk::save, standing))
-            QTest::addRow("%s%s", call.c_str(), words) << call << count << standing;
+    QTest::addColumn<bool>("isEncrypted");
+    for (const bool isEncrypted : {false, true}) {
+        test::isEncrypting = isEncrypted;
+        for (const auto &[standing, words] :
+             {std::pair(Standing::Open, ""), std::pair(Standing::First, " of the first version"),
+              std::pair(Standing::NotOpen, " of a file not opened"),
+              std::pair(Standing::New, " of a new file")}) {
+            for (const auto &[call, count] : callsOf(&Desk::save, standing))
+                QTest::addRow("%s%s%s", call.c_str(), words, isEncrypted ? ", encrypted" : "")
+                    << call << count << standing << isEncrypted;
+        }
     }
+    test::isEncrypting = false;
 }
 
 void SaveFaultsTest::everyFailureLeavesAWholeFile()
@@ -254,7 +272,9 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile()
     QFETCH(std::string, call);
     QFETCH(int, count);
     QFETCH(Standing, standing);
+    QFETCH(bool, isEncrypted);
     const MessageLog log; // a version that is not removed is a warning
+    test::isEncrypting = isEncrypted;
     QCOMPARE(firstBrokenPromise(&Desk::save, call, count, standing), QString());
 }
 
@@ -376,7 +396,7 @@ void SaveFaultsTest::theLockFileGoesWithTheFile()
     for (const char *call : {"lstat", "unlink"}) {
         const Desk desk(Standing::NotOpen);
         {
-            storage::BudgetFile file(test::atLeisure());
+            test::TestFile file;
             file.setFilePathName(desk.path);
             (void)file.load();
             fail(call, 1, EIO);

@@ -47,8 +47,8 @@ struct Versions {
 
 const Versions &versionsOf(int transactions)
 {
-    static std::map<int, Versions> known;
-    return known.try_emplace(transactions, transactions).first->second;
+    static std::map<std::pair<int, bool>, Versions> known;
+    return known.try_emplace({transactions, test::isEncrypting}, transactions).first->second;
 }
 
 /// Saves the versions in turn, that many times.
@@ -56,7 +56,7 @@ using Saver = void (*)(const Versions &, const QString &path, int times);
 
 void save(const Versions &versions, const QString &path, int times)
 {
-    storage::BudgetFile file(test::atLeisure());
+    test::TestFile file;
     file.setFilePathName(path);
     (void)file.load();
     failingCalls.isOn = true;
@@ -103,7 +103,7 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
     if (!wrong.isEmpty())
         return wrong;
     // The lock of a killed program is none.
-    storage::BudgetFile next(test::atLeisure());
+    test::TestFile next;
     next.setFilePathName(path);
     if (test::failureOf([&] { (void)next.load(), next.store(versions.data[1]); }) ||
         test::imageOf(folder.read(name)) != test::imageOf(versions.bytes[1]))
@@ -112,6 +112,10 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
         if (!file.startsWith(name))
             return QStringLiteral("left for good: %1").arg(file);
     }
+    const QString readable =
+        test::inTheClear(folder.path({})) + test::inTheClear(path + QStringLiteral(".versions"));
+    if (test::isEncrypting && !readable.isEmpty())
+        return QStringLiteral("left in the clear: %1").arg(readable);
     return test::wrongInVersions(path);
 }
 
@@ -136,9 +140,13 @@ QString brokenAtSomeMoment(Saver saver, int transactions, int kills,
 void addSizes()
 {
     QTest::addColumn<int>("transactions");
-    QTest::newRow("small") << few;
-    if (randomRuns(0) > 0)
-        QTest::newRow("full") << full;
+    QTest::addColumn<bool>("isEncrypted");
+    QTest::newRow("small") << few << false;
+    QTest::newRow("small, encrypted") << few << true;
+    if (randomRuns(0) > 0) {
+        QTest::newRow("full") << full << false;
+        QTest::newRow("full, encrypted") << full << true;
+    }
 }
 
 } // namespace
@@ -148,6 +156,7 @@ class SaveKillsTest final : public QObject {
     Q_OBJECT
 
 private slots:
+    void cleanup() { test::isEncrypting = false; }
     void aCarelessSaverIsCaught();
     void aKillAtAnyCallLeavesAWholeFile_data() { addSizes(); }
     void aKillAtAnyCallLeavesAWholeFile();
@@ -169,6 +178,8 @@ void SaveKillsTest::aCarelessSaverIsCaught()
 void SaveKillsTest::aKillAtAnyCallLeavesAWholeFile()
 {
     QFETCH(int, transactions);
+    QFETCH(bool, isEncrypted);
+    test::isEncrypting = isEncrypted;
     // How often each call is made during two saves.
     const test::ScratchFolder folder;
     folder.write(name, versionsOf(transactions).bytes[0]);
@@ -190,6 +201,8 @@ void SaveKillsTest::aKillAtAnyCallLeavesAWholeFile()
 void SaveKillsTest::aKillAtAnyMomentLeavesAWholeFile()
 {
     QFETCH(int, transactions);
+    QFETCH(bool, isEncrypted);
+    test::isEncrypting = isEncrypted;
     const bool isFull = transactions == full;
     const QString broken = brokenAtSomeMoment(
         save, transactions, randomRuns(60) / (isFull ? 33 : 1), isFull ? 600ms : 12ms);

@@ -2,6 +2,7 @@
 #include "storage/internal/budget_image.h"
 
 #include "storage/internal/budget_rows.h"
+#include "storage/internal/encrypted_file.h"
 #include "storage/internal/faults.h"
 #include "storage/internal/label.h"
 #include "storage/internal/ledger_rows.h"
@@ -22,9 +23,6 @@ namespace kiv::storage::internal {
 namespace {
 
 constexpr QByteArrayView magic("SQLite format 3", 16);
-/// The first bytes of a file that is locked with a passphrase, for which a newer program
-/// is needed.
-constexpr QByteArrayView lockedMagic("kivbudget locked", 16);
 constexpr std::uint32_t firstEdition = 1;
 constexpr qsizetype headerSize = 100;
 
@@ -117,8 +115,8 @@ FileKind kindOf(QByteArrayView file) noexcept
 {
     if (file.isEmpty())
         return FileKind::Empty;
-    if (file.startsWith(lockedMagic))
-        return FileKind::Newer;
+    if (file.startsWith(encryptedMagic))
+        return EncryptedFile::isNewer(file) ? FileKind::Newer : FileKind::Encrypted;
     if (file.size() < headerSize)
         return magic.startsWith(file.first(std::min(file.size(), magic.size())))
                    ? FileKind::Malformed

@@ -14,9 +14,10 @@ enum class FileKind : std::uint8_t {
     Malformed, ///< a budget file whose header is not whole
     Newer,     ///< a budget file of a newer version
     Budget,
+    Encrypted, ///< a budget file behind a passphrase
 };
 [[nodiscard]] FileKind kindOf(QByteArrayView image) noexcept;
-/// Throws the StorageError for a file of another kind than FileKind::Budget.
+/// Throws the StorageError for a file of another kind than a budget, open or encrypted.
 void requireBudget(FileKind kind, const QString &path);
 
 /// The budget file with the version; the same bytes for the same version. Throws

@@ -3,6 +3,8 @@
 
 #include <QtCore/QObject>
 
+#include <algorithm>
+
 namespace kiv::storage::internal {
 
 ContentFault::ContentFault(const QString &what) : ContentFault(what.toStdString()) {}
@@ -139,6 +141,47 @@ StorageError cannotHold(const QString &path, const std::exception &cause)
     return {StorageFailure::CannotHold, path,
             QObject::tr("The file '%1' was not saved: it cannot hold this budget.").arg(path),
             cause};
+}
+
+StorageError passphraseNeeded(const QString &path)
+{
+    return {StorageFailure::PassphraseNeeded, path,
+            QObject::tr("The file '%1' is encrypted: it needs its passphrase.").arg(path)};
+}
+
+StorageError passphraseWrong(const QString &path)
+{
+    return {StorageFailure::PassphraseWrong, path,
+            QObject::tr("This is not the passphrase of the file '%1'.").arg(path)};
+}
+
+StorageError passphraseEmpty()
+{
+    return {StorageFailure::PassphraseRefused,
+            {},
+            QObject::tr("A passphrase has at least one character.")};
+}
+
+StorageError passphraseTooLong(qsizetype sizeMax)
+{
+    return {StorageFailure::PassphraseRefused,
+            {},
+            QObject::tr("A passphrase has at most %1 bytes.").arg(sizeMax)};
+}
+
+StorageError tooLittleMemory(const QString &path, std::uint64_t memory)
+{
+    return {StorageFailure::TooLittleMemory, path,
+            QObject::tr("There is too little memory for the passphrase of the file '%1': %2 MiB "
+                        "are needed.")
+                .arg(path, QString::number(std::max<std::uint64_t>(1, memory >> 20)))};
+}
+
+ContentFault keyTooCostly(std::uint64_t mebibytes, std::uint32_t passes)
+{
+    return ContentFault(QObject::tr("Its passphrase would take %1 MiB of memory and %2 passes, "
+                                    "more than any such file needs.")
+                            .arg(QString::number(mebibytes), QString::number(passes)));
 }
 
 StorageError noteKeyRefused(const QString &key, qsizetype sizeMax)

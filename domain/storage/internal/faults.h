@@ -56,6 +56,16 @@ public:
 [[nodiscard]] StorageError strangeVersions(const QString &folder);
 [[nodiscard]] StorageError cannotHold(const QString &path, const std::exception &cause);
 
+// ---- passphrases -----------------------------------------------------------------
+
+[[nodiscard]] StorageError passphraseNeeded(const QString &path);
+[[nodiscard]] StorageError passphraseWrong(const QString &path);
+[[nodiscard]] StorageError passphraseEmpty();
+[[nodiscard]] StorageError passphraseTooLong(qsizetype sizeMax);
+/// `memory` is what is needed, in bytes.
+[[nodiscard]] StorageError tooLittleMemory(const QString &path, std::uint64_t memory);
+[[nodiscard]] ContentFault keyTooCostly(std::uint64_t mebibytes, std::uint32_t passes);
+
 // ---- notes -----------------------------------------------------------------------
 
 [[nodiscard]] StorageError noteKeyRefused(const QString &key, qsizetype sizeMax);

@@ -4,8 +4,7 @@
 #include "storage/internal/atomic_file_writer.h"
 #include "storage/internal/faults.h"
 #include "storage/internal/file_attributes.h"
-#include "storage/internal/label.h"
-#include "storage/internal/seal.h"
+#include "storage/internal/label_in_file.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QObject>
@@ -26,8 +25,6 @@ namespace {
 /// How a version is called while it takes the place of a kept one.
 constexpr const char *passingName = ".keeping";
 constexpr QByteArrayView extension = ".budget";
-/// No label is longer in practice, so that one read is enough.
-constexpr qsizetype endSize = 4096;
 /// The part of a file system that the former versions may fill.
 constexpr qint64 partOfFileSystem = 50;
 
@@ -59,18 +56,6 @@ std::optional<VersionMark> markInName(const QByteArray &name)
     return mark;
 }
 
-/// The last bytes of a file, `size` at most.
-QByteArray endOf(const FileDescriptor &file, qint64 fileSize, qsizetype size)
-{
-    QByteArray end(std::min<qint64>(size, fileSize), Qt::Uninitialized);
-    ssize_t got = -1;
-    do
-        got =
-            ::pread(file.get(), end.data(), static_cast<size_t>(end.size()), fileSize - end.size());
-    while (got < 0 && errno == EINTR);
-    return got == end.size() ? end : QByteArray();
-}
-
 /// Whether there can be no second name: the file system has none or is another one, or
 /// the file is somebody else's or has very many.
 bool isWithoutLinks(int error) noexcept
@@ -80,26 +65,10 @@ bool isWithoutLinks(int error) noexcept
 
 } // namespace
 
-std::optional<VersionMark> labelIn(const FileDescriptor &file)
-{
-    struct stat status = {};
-    if (::fstat(file.get(), &status) != 0)
-        return std::nullopt;
-    QByteArray end = endOf(file, status.st_size, endSize);
-    const std::optional<qsizetype> begin = labelBegin(end);
-    if (!begin || *begin > std::min<qint64>(status.st_size, labelSizeMax + sealSize))
-        return std::nullopt;
-    if (*begin > end.size())
-        end = endOf(file, status.st_size, *begin);
-    try {
-        return fromLabel(QByteArrayView(end).last(std::min(*begin, end.size())).chopped(sealSize));
-    } catch (const ContentFault &) {
-        return std::nullopt;
-    }
-}
-
-VersionFolder::VersionFolder(const FileTarget &target)
-    : m_target(target), m_path(target.folder() + '/' + target.sibling(".versions"))
+VersionFolder::VersionFolder(const FileTarget &target, const KeyRing *keys)
+    : m_target(target),
+      m_keys(keys),
+      m_path(target.folder() + '/' + target.sibling(".versions"))
 {
     openFolder();
 }
@@ -181,9 +150,11 @@ std::optional<FormerVersion> VersionFolder::read(const QByteArray &name) const
     const FileDescriptor file = open(version);
     if (!file && errno == ENOENT)
         return std::nullopt;
-    if (std::optional<VersionMark> label = file ? labelIn(file) : std::nullopt) {
+    LabelInFile label = file ? labelIn(file, m_keys) : LabelInFile();
+    version.isLocked = label.isLocked;
+    if (label.mark) {
         version.hasLabel = true;
-        version.mark = *std::move(label);
+        version.mark = *std::move(label.mark);
         version.mark.number = mark->number;
     }
     return version;

@@ -8,19 +8,21 @@
 
 #include <vector>
 
+namespace kiv::storage {
+class KeyRing;
+}
+
 namespace kiv::storage::internal {
 
-/// A file in the folder of former versions, known from its name and its last bytes.
+/// A file in the folder of former versions, known from its name and its label.
 struct FormerVersion {
     QByteArray name;
     FileStamp stamp;
     /// Its number is that of the name. Without a label it has no id, and the name's time.
     VersionMark mark;
     bool hasLabel = false;
+    bool isLocked = false; ///< whether it is encrypted, and no key opens it
 };
-
-/// What the last bytes of a budget file tell about it; nothing where there is no label.
-[[nodiscard]] std::optional<VersionMark> labelIn(const FileDescriptor &file);
 
 /// The folder of a budget file's former versions, which need not exist. It holds whole
 /// budget files, named by the time of the save and the number of the version, such as
@@ -34,8 +36,8 @@ public:
     /// Opens it, if there is one. Throws when something else has its name, when it
     /// belongs to a stranger, and when it cannot be opened. A stranger is neither the
     /// user nor root nor the owner of the budget file or of the folder around it; root
-    /// knows no strangers.
-    explicit VersionFolder(const FileTarget &target);
+    /// knows no strangers. With `keys` the labels of encrypted versions are read.
+    VersionFolder(const FileTarget &target, const KeyRing *keys);
     /// Takes back what was kept and not settled.
     ~VersionFolder();
     VersionFolder(const VersionFolder &) = delete;
@@ -72,6 +74,7 @@ private:
     void check(bool wentWell) const;
 
     const FileTarget &m_target;
+    const KeyRing *m_keys;
     QByteArray m_path;
     FileDescriptor m_folder;
     std::optional<std::vector<FormerVersion>> m_versions;
