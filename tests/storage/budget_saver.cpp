@@ -3,6 +3,7 @@
 // A program that saves a budget for as long as it is let:
 //
 //     budget_saver save FILE      saves two budgets in turn
+//     budget_saver encrypt FILE   does the same with encrypted ones
 //     budget_saver spoil FILE     does the same as a careless program does it
 //     budget_saver check FILE     status 0 when the file is one of the two and
 //                             the list of its versions is right
@@ -23,15 +24,18 @@ int main(int argc, char **argv)
     const QString path = argc == 3 ? QFile::decodeName(argv[2]) : QString();
     const std::array budgets{test::someBudget(1, 150), test::someBudget(2, 150)};
     try {
+        test::isEncrypting = task == "encrypt";
+        if (QFile::exists(path))
+            test::keys()->unlock(path, test::passphrase());
         if (task == "check") {
             const auto data = test::load(path);
             const QString wrong = test::wrongInVersions(path);
             std::cerr << qPrintable(wrong) << '\n';
             return std::ranges::count(budgets, data) == 1 && wrong.isEmpty() ? 0 : 1;
         }
-        storage::BudgetFile file(test::atLeisure());
+        test::TestFile file;
         file.setFilePathName(path);
-        if (task == "save" && QFile::exists(path))
+        if (task != "spoil" && QFile::exists(path))
             (void)file.load();
         std::array<QByteArray, 2> drafts;
         for (const std::size_t which : {0U, 1U}) {
@@ -40,7 +44,7 @@ int main(int argc, char **argv)
             drafts[which] = folder.read(QStringLiteral("a"));
         }
         for (std::size_t turn = 0;; ++turn) {
-            if (task == "save")
+            if (task != "spoil")
                 file.store(budgets[turn % 2]);
             else if (!test::saveCarelessly(path, drafts[turn % 2]))
                 return 2;

@@ -87,6 +87,20 @@ inline const std::shared_ptr<storage::KeyRing> &keys()
     return ring;
 }
 
+/// A file with the passphrase: to make its key takes a while.
+inline const storage::BudgetFile &encryptedFile()
+{
+    static const ScratchFolder folder;
+    static storage::BudgetFile file(atLeisure());
+    if (file.filePathName().isEmpty()) {
+        file.setKeys(keys());
+        file.encryptNext(passphrase());
+        file.setFilePathName(folder.path(QStringLiteral("pattern")));
+        file.store({});
+    }
+    return file;
+}
+
 /// A budget file that finds the keys above, and encrypts new files if the tests do.
 class TestFile : public storage::BudgetFile {
 public:
@@ -94,7 +108,7 @@ public:
     {
         setKeys(keys());
         if (isEncrypting)
-            encryptNext(passphrase());
+            encryptNextAs(encryptedFile());
     }
 };
 

@@ -82,6 +82,7 @@ class BudgetDamageTest final : public QObject {
 private slots:
     void cleanup()
     {
+        test::isEncrypting = false;
         for (const QString &name : m_folder.names())
             QFile::remove(m_folder.path(name));
     }
@@ -129,17 +130,22 @@ void BudgetDamageTest::whatIsDamagedIsNotRead_data()
 {
     QTest::addColumn<Data>("data");
     QTest::addColumn<int>("flips"); // at least; of the header each bit is one
-    QTest::newRow("empty") << Data() << 3000;
-    QTest::newRow("dense") << test::someBudget(7, 60) << 1000;
+    QTest::addColumn<bool>("isEncrypted");
+    QTest::newRow("empty") << Data() << 3000 << false;
+    QTest::newRow("empty, encrypted") << Data() << 3000 << true;
+    QTest::newRow("dense") << test::someBudget(7, 60) << 1000 << false;
     // Inner pages as well.
-    QTest::newRow("large") << test::someBudget(7, 1000) << 100;
-    QTest::newRow("full") << test::budgetWith(65'535) << 3;
+    QTest::newRow("large") << test::someBudget(7, 1000) << 100 << false;
+    QTest::newRow("full") << test::budgetWith(65'535) << 3 << false;
+    QTest::newRow("full, encrypted") << test::budgetWith(65'535) << 3 << true;
 }
 
 void BudgetDamageTest::whatIsDamagedIsNotRead()
 {
     QFETCH(Data, data);
     QFETCH(int, flips);
+    QFETCH(bool, isEncrypted);
+    test::isEncrypting = isEncrypted;
     test::store(m_path, data);
     const QByteArray whole = m_folder.read(u"a.budget"_s);
     QCOMPARE(test::difference(test::load(m_path), data), QString());

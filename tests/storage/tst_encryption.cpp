@@ -445,13 +445,14 @@ void EncryptionTest::wantOfMemoryIsTold()
 #endif
     const pid_t child = ::fork();
     if (child == 0) {
-        rlimit none{};
-        ::getrlimit(RLIMIT_AS, &none);
-        none.rlim_cur = 32 << 20;
-        ::setrlimit(RLIMIT_AS, &none);
         const auto ring = std::make_shared<KeyRing>(KeyRing::Cost::Full);
         storage::BudgetFile file(test::atLeisure());
         file.setKeys(ring);
+        const QByteArray pages = test::contentOf(u"/proc/self/statm"_s).split(' ').first();
+        rlimit little{};
+        ::getrlimit(RLIMIT_AS, &little);
+        little.rlim_cur = pages.toULong() * 4096 + (32 << 20);
+        ::setrlimit(RLIMIT_AS, &little);
         ::_exit(test::failureOf([&] { file.encryptNext(test::passphrase()); }) == TooLittleMemory
                     ? 0
                     : 1);

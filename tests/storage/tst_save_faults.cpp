@@ -5,6 +5,7 @@
 #include "image_surgery.h"
 #include "open_budget.h"
 
+#include "support/damage.h"
 #include "support/message_log.h"
 
 #include <array>
@@ -259,6 +260,8 @@ void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
              {std::pair(Standing::Open, ""), std::pair(Standing::First, " of the first version"),
               std::pair(Standing::NotOpen, " of a file not opened"),
               std::pair(Standing::New, " of a new file")}) {
+            if (isEncrypted && standing != Standing::Open && randomRuns(0) == 0)
+                continue;
             for (const auto &[call, count] : callsOf(&Desk::save, standing))
                 QTest::addRow("%s%s%s", call.c_str(), words, isEncrypted ? ", encrypted" : "")
                     << call << count << standing << isEncrypted;

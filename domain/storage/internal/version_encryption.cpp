@@ -11,8 +11,17 @@
 
 #include <QtCore/QFile>
 
+#include <unistd.h>
+
 namespace kiv::storage::internal {
 namespace {
+
+/// Removes what a program that ended meanwhile was writing in the file's place, which may be
+/// in the clear. The lock says that nobody writes it now.
+void removeLeftover(const FileTarget &target)
+{
+    ::unlink((target.folder() + '/' + target.hiddenSibling(".saving")).constData());
+}
 
 /// What a version is to become; nothing when it is that already. `isLeft` tells whether it
 /// cannot become anything.
@@ -67,10 +76,14 @@ QStringList encryptAlike(const FileTarget &target, const std::optional<Encryptio
     QStringList left;
     if (!keys)
         return left;
+    removeLeftover(target);
     for (const KeptVersion &version : keptVersions(target.shownPath(), keys)) {
-        if (version.isFile || hasAlready(version.path, encryption))
+        if (version.isFile)
             continue;
         const FileTarget kept(version.path);
+        removeLeftover(kept);
+        if (hasAlready(version.path, encryption))
+            continue;
         const std::optional<FileContent> content = readFile(kept, fileSizeMax);
         if (!content)
             continue;
