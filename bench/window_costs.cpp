@@ -120,7 +120,8 @@ int main(int argc, char **argv)
     workbench::Document document(
         {[] { return foundation::UniqueQtPtr<networking::RequestSender>(new EmptySender()); },
          folder.filePath(u"rates"_s)});
-    desktop::MainWindow window({document, settings, questions});
+    desktop::DesktopKeyring keyring;
+    desktop::MainWindow window({document, settings, questions, keyring});
     if (!window.open(file))
         return 1;
     window.goTo({u"register"_s, u"1"_s});

@@ -15,6 +15,7 @@ int main(int argc, char **argv)
     const StartOptions options = readStartOptions(Application::arguments());
     WindowSettings settings(WindowSettings::usualFile());
     DialogQuestions questions;
+    DesktopKeyring keyring;
     kiv::workbench::Document document(
         {[] {
              return kiv::foundation::UniqueQtPtr<kiv::networking::RequestSender>(
@@ -22,7 +23,7 @@ int main(int argc, char **argv)
          },
          QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
              QStringLiteral("/rates")});
-    MainWindow window({document, settings, questions, options.showsTerms()});
+    MainWindow window({document, settings, questions, keyring, options.showsTerms()});
     application.setReporter([&window](const QString &sentence) { window.report(sentence); });
     QString file = options.file;
     if (file.isEmpty() && settings.opensLastFile())

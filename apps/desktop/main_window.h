@@ -29,6 +29,7 @@ public:
         workbench::Document &document;
         WindowSettings &settings;
         Questions &questions;
+        PassphraseStore &passphrases;
         bool showsTerms = false; ///< see StartOptions
     };
     explicit MainWindow(const Surroundings &surroundings);

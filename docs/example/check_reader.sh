@@ -1,7 +1,8 @@
 #!/bin/sh
 # SPDX-License-Identifier: GPL-3.0-or-later
 # check_reader.sh KIV FOLDER: reads the first-edition files of the folder and what kiv makes
-# of them, the second edition, by read_budget.py: both must hold the same.
+# of them, the second edition, in the clear and encrypted, by read_budget.py: all must hold
+# the same.
 set -eu
 reader=$(dirname "$(realpath "$0")")/read_budget.py
 folder=$(mktemp -d)
@@ -17,10 +18,20 @@ for name in household odd strange; do
     python3 "$reader" "$file" 2>"$folder/label" | grep -v '^\(reconciliations\|notes\) ' >"$folder/second"
     diff -u "$folder/first" "$folder/second"
     grep -q '"number": ' "$folder/label"
+    # The same encrypted, with a passphrase that the key is not made from as it is written.
+    printf 'cafe\314\201 au\302\240lait\n' >"$folder/words"
+    printf 'caf\303\251 au lait' >"$folder/other"
+    cp "$file" "$folder/plain"
+    "$1" --file "$file" encrypt --passphrase-file "$folder/words" >/dev/null 2>&1
+    python3 "$reader" "$file" "$folder/other" 2>/dev/null |
+        grep -v '^\(reconciliations\|notes\) ' | diff -u "$folder/first" -
+    printf 'cafe au lait' >"$folder/other"
+    ! python3 "$reader" "$file" "$folder/other" >"$folder/told" 2>&1
+    grep -q 'passphrase is wrong' "$folder/told"
     # A byte that changed is noticed in both.
-    for whole in "$2/$name.budget" "$file"; do
+    for whole in "$2/$name.budget" "$folder/plain" "$file"; do
         head -c 5000 "$whole" >"$folder/cut"
         tail -c +5002 "$whole" | cat "$folder/cut" - >"$folder/short"
-        ! python3 "$reader" "$folder/short" >"$folder/told" 2>&1
+        ! python3 "$reader" "$folder/short" "$folder/words" >"$folder/told" 2>&1
     done
 done

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""read_budget.py FILE: prints what a budget file of either edition holds.
+"""read_budget.py FILE [PASSPHRASE-FILE]: prints what a budget file of either edition holds.
 
-Needs nothing but docs/file-format.md: it checks the checksum, then prints each table
-with amounts in decimal digits and days in ISO 8601.
+Needs nothing but docs/file-format.md, and PyNaCl for an encrypted file: it checks the
+checksum, then prints each table with amounts in decimal digits and days in ISO 8601.
 """
 import hashlib
 import json
@@ -11,6 +11,7 @@ import re
 import sqlite3
 import struct
 import sys
+import unicodedata
 from decimal import Decimal
 
 DAYS_BEFORE_CHRIST = 1721426  # the Julian day of 0001-01-01
@@ -21,6 +22,54 @@ def opened(image):
     database.text_factory = lambda text: text.decode("utf-8", "surrogatepass")
     database.deserialize(image)
     return database
+
+
+def passphrase_bytes(content):
+    """As the key is made from them: a line break at the end does not count, and texts that
+    look alike are one."""
+    content = content.removesuffix(b"\n").removesuffix(b"\r")
+    try:
+        text = unicodedata.normalize("NFC", content.decode())
+    except UnicodeDecodeError:
+        return content
+    return "".join(" " if unicodedata.category(c) == "Zs" else c for c in text).encode()
+
+
+def decrypted(data, passphrase):
+    """The budget file in an encrypted one."""
+    from nacl import bindings as nacl, exceptions
+
+    form, passes, memory = struct.unpack(">IIQ", data[16:32])
+    if form != 1 or hashlib.sha256(data[:152]).digest() != data[152:184]:
+        sys.exit("The header is damaged.")
+    if passes > 16 or memory > 256 << 20:
+        sys.exit("The passphrase would take too much time or memory.")
+    wrapping = nacl.crypto_pwhash_alg(32, passphrase, data[32:48], passes, memory,
+                                      nacl.crypto_pwhash_ALG_ARGON2ID13)
+    open_box = nacl.crypto_aead_xchacha20poly1305_ietf_decrypt
+    try:
+        key = open_box(data[72:120], data[20:48], data[48:72], wrapping)
+    except exceptions.CryptoError:
+        sys.exit("The passphrase is wrong.")
+
+    def use(name):
+        return hashlib.blake2b(b"kivbudget " + name, key=key, digest_size=32).digest()
+
+    stream = 184 + struct.unpack(">I", data[144:148])[0]
+    label = open_box(data[208:stream], data[120:144], data[184:208], use(b"label"))
+    label = label.rstrip(b"\0").removesuffix(b"\x80")
+    state = nacl.crypto_secretstream_xchacha20poly1305_state()
+    nacl.crypto_secretstream_xchacha20poly1305_init_pull(state, data[120:144], use(b"stream"))
+    content, tag = b"", None
+    for begin in range(stream, len(data), 65536 + 17):
+        part, tag = nacl.crypto_secretstream_xchacha20poly1305_pull(
+            state, data[begin:begin + 65536 + 17])
+        content += part
+    if tag != nacl.crypto_secretstream_xchacha20poly1305_TAG_FINAL:
+        sys.exit("The end is missing.")
+    if label and label not in content:
+        sys.exit("The label is another version's.")
+    return content
 
 
 def second_edition(data):
@@ -100,6 +149,8 @@ def rows(database, table):
 
 def main():
     data = open(sys.argv[1], "rb").read()
+    if data[:16] == b"kivbudget locked":
+        data = decrypted(data, passphrase_bytes(open(sys.argv[2], "rb").read()))
     if data[:16] != b"SQLite format 3\0" or data[68:72] != b"kivb":
         sys.exit("This is no budget file.")
     edition = struct.unpack(">I", data[60:64])[0]

@@ -74,6 +74,12 @@ bool KeyRing::isLocked(const QString &path) const
     }
 }
 
+void KeyRing::require(const QString &path) const
+{
+    if (isLocked(path))
+        throw internal::passphraseNeeded(path);
+}
+
 void KeyRing::unlock(const QString &path, const Passphrase &passphrase)
 {
     const auto content = internal::readFile(internal::FileTarget(path), internal::fileSizeMax);

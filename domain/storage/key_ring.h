@@ -32,6 +32,8 @@ public:
     /// Whether this is an encrypted budget file that no key here opens. False for what is no
     /// such file, or cannot be read.
     [[nodiscard]] bool isLocked(const QString &path) const;
+    /// Throws StorageError PassphraseNeeded if it isLocked().
+    void require(const QString &path) const;
     /// Takes the key of this file. Throws StorageError PassphraseWrong, Damaged,
     /// TooLittleMemory, and what reading throws; nothing for a file that is not encrypted.
     void unlock(const QString &path, const Passphrase &passphrase);

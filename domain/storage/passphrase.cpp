@@ -2,9 +2,11 @@
 #include "storage/passphrase.h"
 
 #include "storage/internal/faults.h"
-#include "storage/internal/file_content.h"
 #include "storage/internal/secret.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QStringDecoder>
 
 #include <algorithm>
@@ -47,11 +49,21 @@ Passphrase Passphrase::ofBytes(QByteArrayView bytes)
 
 Passphrase Passphrase::inFile(const QString &path)
 {
-    const auto content =
-        internal::readFile(internal::FileTarget(path), sizeMax + qsizetype(sizeof "\r\n"));
-    if (!content)
+    // A pipe as well: programs that keep passphrases give them so.
+    QFile file(path);
+    if (!QFileInfo::exists(path))
         throw internal::fileNotFound(path);
-    QByteArrayView bytes = content->bytes;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        throw internal::cannotRead(path, errno);
+    QByteArray content;
+    for (QByteArray part; content.size() <= sizeMax + 2; content += part) {
+        part = file.read(sizeMax);
+        if (part.isEmpty())
+            break;
+    }
+    const auto forget = qScopeGuard(
+        [&content] { sodium_memzero(content.data(), static_cast<std::size_t>(content.size())); });
+    QByteArrayView bytes = content;
     if (bytes.endsWith('\n'))
         bytes.chop(bytes.endsWith("\r\n") ? 2 : 1);
     return ofBytes(bytes);

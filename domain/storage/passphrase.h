@@ -24,8 +24,8 @@ public:
     explicit Passphrase(const QString &typed);
     /// The same as bytes.
     [[nodiscard]] static Passphrase ofBytes(QByteArrayView bytes);
-    /// The content of a file, without a line break at its end. Throws StorageError when it
-    /// cannot be read, and as the others do.
+    /// The content of a file or a pipe, without a line break at its end. Throws StorageError
+    /// when it cannot be read, and as the others do.
     [[nodiscard]] static Passphrase inFile(const QString &path);
 
     /// As they go into the key. They lie in memory that is not swapped out where the system

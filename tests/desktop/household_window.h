@@ -32,10 +32,19 @@ public:
         choices.erase(choices.begin());
         return answer;
     }
+    std::optional<Typed> passphrase(QWidget *, const QString &question) override
+    {
+        asked += question;
+        if (passphrases.isEmpty())
+            return std::nullopt;
+        return Typed{passphrases.takeFirst(), isToKeep};
+    }
     void show(QWidget *, const QString &heading, const QString &text) override
     {
         asked += heading + u'\n' + text;
     }
+    QStringList passphrases; ///< the next answers
+    bool isToKeep = false;   ///< whether the keyring is to keep them
 
 private:
     QString next(const QString &heading)
@@ -43,6 +52,25 @@ private:
         asked += heading;
         return files.isEmpty() ? QString() : files.takeFirst();
     }
+};
+
+/// A keyring that a test can look into.
+class TestKeyring final : public kiv::desktop::PassphraseStore {
+public:
+    std::optional<QString> kept(const QString &file) override
+    {
+        return all.contains(file) ? std::optional(all.value(file)) : std::nullopt;
+    }
+    void keep(const QString &file, const QString &passphrase) override
+    {
+        if (isClosed)
+            throw kiv::workbench::Refusal(QStringLiteral("The keyring is closed."));
+        all.insert(file, passphrase);
+    }
+    void forget(const QString &file) override { all.remove(file); }
+
+    QMap<QString, QString> all;
+    bool isClosed = false;
 };
 
 /// A window on a budget in a temporary folder, with a service that has no rates unless a
@@ -58,7 +86,7 @@ public:
                               new ScriptedSender(script));
                       },
                       m_folder.filePath(QStringLiteral("rates"))}),
-          m_window({m_document, m_settings, m_questions, showsTerms})
+          m_window({m_document, m_settings, m_questions, m_keyring, showsTerms})
     {
     }
 
@@ -68,6 +96,7 @@ public:
     [[nodiscard]] kiv::workbench::Requests &requests() noexcept { return m_document.requests(); }
     [[nodiscard]] kiv::desktop::WindowSettings &settings() noexcept { return m_settings; }
     [[nodiscard]] ScriptedQuestions &questions() noexcept { return m_questions; }
+    [[nodiscard]] TestKeyring &keyring() noexcept { return m_keyring; }
 
     /// Opens the household at the end of February; see KivCommand::makeHousehold().
     void openHousehold()
@@ -144,6 +173,7 @@ private:
     QTemporaryDir m_folder;
     kiv::desktop::WindowSettings m_settings;
     ScriptedQuestions m_questions;
+    TestKeyring m_keyring;
     kiv::workbench::Document m_document;
     kiv::desktop::MainWindow m_window;
 };

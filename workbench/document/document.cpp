@@ -19,6 +19,7 @@ using storage::BudgetStorage;
 
 Document::Document(Surroundings surroundings)
     : m_surroundings(std::move(surroundings)),
+      m_keys(m_surroundings.keys),
       m_requests([this]() -> Navigator & { return navigator(); }, [this] { return present(); })
 {
 }
@@ -28,7 +29,7 @@ Document::~Document() = default; // writes what is pending
 Navigator &Document::navigator()
 {
     if (!m_navigator) {
-        auto budgetFile = std::make_unique<RecallingStorage>();
+        auto budgetFile = std::make_unique<RecallingStorage>(m_keys);
         m_storage = budgetFile.get();
         m_navigator = std::make_unique<Navigator>(
             m_surroundings.makeSender(), std::move(budgetFile),

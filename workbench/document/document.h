@@ -11,9 +11,14 @@
 #include "networking/request_sender.h"
 #include "storage/budget_storage.h"
 #include "storage/kept_versions.h"
+#include "storage/key_ring.h"
 
 #include <functional>
 #include <memory>
+
+namespace kiv::storage {
+class BudgetFile;
+}
 
 namespace kiv::workbench {
 
@@ -27,6 +32,8 @@ struct Surroundings {
     std::function<foundation::UniqueQtPtr<networking::RequestSender>()> makeSender;
     /// The file with the exchange rates.
     QString ratesFile;
+    /// The keys of encrypted budgets.
+    std::shared_ptr<storage::KeyRing> keys = std::make_shared<storage::KeyRing>();
 };
 
 /// A Navigator with its budget file. It knows the open file and whether its changes are
@@ -35,6 +42,7 @@ struct Surroundings {
 /// document.cpp       the Navigator, opening and saving
 /// document_keeping.cpp  deeds and how they are kept
 /// document_undo.cpp  undo, redo and going to a step
+/// document_encryption.cpp  encrypting its file
 class KIV_WORKBENCH_EXPORT Document {
 public:
     /// The Navigator of this document.
@@ -146,6 +154,25 @@ public:
     /// Saves a copy of the budget as a new file; the open file stays open. Throws what
     /// storing throws, or a Refusal as refuseExisting() does.
     void saveCopy(const QString &file);
+
+    // ---- encryption ------------------------------------------------------------
+
+    /// The keys of encrypted budgets. Opening one whose key is not there throws StorageError
+    /// PassphraseNeeded, with its path; so does what reads a former version under another
+    /// passphrase. The front end unlocks that path and tries again.
+    [[nodiscard]] storage::KeyRing &keys() const noexcept { return *m_keys; }
+    /// Whether the open file is encrypted.
+    [[nodiscard]] bool isEncrypted() const;
+    /// The next new file is encrypted with this passphrase.
+    void encryptNext(const storage::Passphrase &passphrase);
+    /// Encrypts the open file and its former versions, or gives them another passphrase.
+    /// Answers with the paths of the versions that stay as they are, since no key opens them.
+    /// Throws a Refusal if the budget isReadOnly(), and as refuseUnsaved() does, and what
+    /// storing throws.
+    QStringList encrypt(const storage::Passphrase &passphrase);
+    /// The reverse; throws the same, and a Refusal if the file is not encrypted.
+    QStringList decrypt();
+
     /// Tells when the budget or its keeping changed.
     [[nodiscard]] DocumentNews &news() noexcept { return m_news; }
 
@@ -231,6 +258,8 @@ private:
     void load(const QString &path, Access access);
     void refuseReadOnly() const;
     [[nodiscard]] Writer *writer() const;
+    /// The open file, with all changes in it. Throws as encrypt().
+    [[nodiscard]] storage::BudgetFile &fileToRewrite();
     /// Notes what is broken in the version that is open now. One that was not made by a
     /// change of the one before is checked as a whole.
     void watch(bool isChange);
@@ -252,6 +281,7 @@ private:
                                                     const storage::KeptVersion &version);
 
     Surroundings m_surroundings;
+    std::shared_ptr<storage::KeyRing> m_keys;
     DocumentNews m_news; // outlives the thread that writes
     std::unique_ptr<Navigator> m_navigator;
     RecallingStorage *m_storage = nullptr; ///< the Navigator's

@@ -143,6 +143,7 @@ void Document::saveCopy(const QString &file)
         version.notes = m_history.present().content->notes();
     }
     storage::BudgetFile copy;
+    copy.encryptNextAs(m_storage->fileItself());
     copy.setFilePathName(withExtension(file));
     (void)copy.storeVersion(version);
 }

@@ -42,7 +42,7 @@ std::optional<Deed> Document::undoable() const
     if (m_history.place() > 0)
         return m_history.present().leadingDeed();
     try {
-        const KeptVersions versions(m_file);
+        const KeptVersions versions(m_file, m_keys.get());
         const KeptVersion present =
             m_history.isEmpty() ? versions.present() : versions.known(m_history.present().kept());
         if (versions.before(present))
@@ -60,7 +60,7 @@ std::optional<Deed> Document::redoable() const
     if (m_history.place() + 1 < m_history.size())
         return m_history.at(m_history.place() + 1).leadingDeed();
     try {
-        const KeptVersions versions(m_file);
+        const KeptVersions versions(m_file, m_keys.get());
         const KeptVersion *next =
             versions.after(m_history.isEmpty() ? versions.present() : m_history.present().kept());
         if (next)
@@ -106,7 +106,7 @@ Document::Recalled Document::recallStep(std::size_t place)
 {
     const History::Entry &entry = m_history.at(place);
     if (!entry.content)
-        m_history.setContent(place, versionOf(entry.kept()));
+        m_history.setContent(place, versionOf(entry.kept(), m_keys.get()));
     const std::size_t last = place < m_history.place() ? place + 1 : place;
     Recalled recalled = recallContent(entry, m_history.at(last).leadingDeed());
     m_goesTo = place;
@@ -118,7 +118,7 @@ void Document::stepsFromFile(bool isBefore, std::size_t missing, std::size_t pos
 {
     refuseUnsaved();
     listen();
-    const KeptVersions versions(m_file);
+    const KeptVersions versions(m_file, m_keys.get());
     std::vector<KeptVersion> found;
     KeptVersion last = versions.known(m_history.at(isBefore ? 0 : m_history.size() - 1).kept());
     while (found.size() < missing) {
@@ -147,7 +147,7 @@ Document::Recalled Document::undo(qsizetype steps, Settle settle)
         return settled(recallStep(m_history.place() - count), settle);
     }
     refuseUnsaved();
-    const KeptVersions versions(m_file);
+    const KeptVersions versions(m_file, m_keys.get());
     if (isLost()) {
         auto found = versions.newestWhole();
         if (!found)
@@ -155,7 +155,7 @@ Document::Recalled Document::undo(qsizetype steps, Settle settle)
         return settled(recall(std::move(found->first), std::move(found->second)), settle);
     }
     const KeptVersion &version = versions.undone(steps);
-    return settled(recall(version, dataOf(version)), settle);
+    return settled(recall(version, dataOf(version, m_keys.get())), settle);
 }
 
 Document::Recalled Document::redo(qsizetype steps, Settle settle)
@@ -170,9 +170,9 @@ Document::Recalled Document::redo(qsizetype steps, Settle settle)
         return settled(recallStep(m_history.place() + count), settle);
     }
     refuseUnsaved();
-    const KeptVersions versions(m_file);
+    const KeptVersions versions(m_file, m_keys.get());
     const KeptVersion &version = versions.redone(steps);
-    return settled(recall(version, dataOf(version)), settle);
+    return settled(recall(version, dataOf(version, m_keys.get())), settle);
 }
 
 Document::Recalled Document::goTo(qsizetype step, Settle settle)
@@ -226,17 +226,17 @@ Document::Recalled Document::undoTo(const QString &name, Settle settle)
             return settled(recallStep(place), settle);
         }
     }
-    const KeptVersions versions(m_file);
+    const KeptVersions versions(m_file, m_keys.get());
     const KeptVersion &version = versions.named(name);
     if (version.isFile)
         throw internal::alreadyPresent(name);
     if (!hasSteps())
-        return settled(recall(version, dataOf(version)), settle);
+        return settled(recall(version, dataOf(version, m_keys.get())), settle);
     if (const std::optional<std::size_t> place = stepOf(versions, version))
         return settled(recallStep(*place), settle);
     History::Entry entry{Deed{version.mark.change, {}, {}}, version.mark, std::nullopt,
                          version.path};
-    entry.content.emplace(versionOf(version));
+    entry.content.emplace(versionOf(version, m_keys.get()));
     Recalled recalled = recallContent(entry, entry.deed);
     m_goesOff = std::move(entry);
     m_goesTo.reset();

@@ -113,9 +113,9 @@ bool Verification::isWhole() const
         promises, [](const PromiseVerdict &promise) { return promise.verdict == Verdict::Broken; });
 }
 
-Verification verify(const QString &path)
+Verification verify(const QString &path, const storage::KeyRing *keys)
 {
-    storage::BudgetInspection found = storage::inspectBudget(path);
+    storage::BudgetInspection found = storage::inspectBudget(path, keys);
     Verification verification{path, {}};
     for (storage::Judgement &judgement : found.judgements) {
         verification.promises.push_back(

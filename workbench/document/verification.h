@@ -39,8 +39,9 @@ struct KIV_WORKBENCH_EXPORT Verification {
     [[nodiscard]] bool isWhole() const;
 };
 
-/// Checks a budget file or a backup. Writes nothing. Throws what storage::inspectBudget
-/// throws.
-[[nodiscard]] KIV_WORKBENCH_EXPORT Verification verify(const QString &path);
+/// Checks a budget file or a backup; `keys` open encrypted ones. Writes nothing. Throws what
+/// storage::inspectBudget throws.
+[[nodiscard]] KIV_WORKBENCH_EXPORT Verification verify(const QString &path,
+                                                       const storage::KeyRing *keys = nullptr);
 
 } // namespace kiv::workbench

@@ -333,6 +333,11 @@ Refusal fileGone(const QString &path)
                    Remedy::BringBack);
 }
 
+Refusal notEncrypted(const QString &path)
+{
+    return Refusal(QObject::tr("The budget '%1' is not encrypted.").arg(path));
+}
+
 Refusal fileExists(const QString &path)
 {
     return Refusal(QObject::tr("The file '%1' exists already; choose another name.").arg(path));

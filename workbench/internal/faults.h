@@ -149,6 +149,7 @@ namespace kiv::workbench::internal {
 /// Former versions of the file are kept.
 [[nodiscard]] Refusal fileGone(const QString &path);
 [[nodiscard]] Refusal fileExists(const QString &path);
+[[nodiscard]] Refusal notEncrypted(const QString &path);
 [[nodiscard]] Refusal unsavedChanges(const QString &path);
 [[nodiscard]] Refusal openedForReading();
 /// With the reason, if one is known.

@@ -7,6 +7,18 @@
 
 namespace kiv::workbench {
 
+RecallingStorage::RecallingStorage(std::shared_ptr<storage::KeyRing> keys)
+{
+    m_file.setKeys(std::move(keys));
+}
+
+storage::BudgetFile &RecallingStorage::fileItself()
+{
+    if (m_writer)
+        m_writer->finish();
+    return m_file;
+}
+
 void RecallingStorage::keepLater(std::function<void(const Data &)> keep, std::function<void()> tell)
 {
     m_keep = std::move(keep);

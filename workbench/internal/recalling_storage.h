@@ -22,6 +22,9 @@ namespace kiv::workbench {
 /// Budgets for the open file can be handed to somebody else, who has them written later.
 class RecallingStorage final : public storage::BudgetStorage {
 public:
+    /// With the keys of encrypted files.
+    explicit RecallingStorage(std::shared_ptr<storage::KeyRing> keys);
+
     /// The next load returns `version`.
     void recall(Data version);
     /// The next load returns a former version. It is stored as that very version, unless
@@ -48,6 +51,9 @@ public:
     {
         return {m_present.value(), m_file.reconciliations(), m_file.notes(), m_file.mark()};
     }
+    /// The file, once nobody else uses it: for what is done to a file and not to a budget.
+    [[nodiscard]] storage::BudgetFile &fileItself();
+    [[nodiscard]] bool isEncrypted() const { return m_file.isEncrypted(); }
     /// The file that was loaded or stored last; empty before.
     [[nodiscard]] const QString &openFile() const noexcept { return m_openFile; }
     /// The present version; nothing before the first load or store.

@@ -15,7 +15,8 @@ using storage::BudgetStorage;
 using storage::KeptVersion;
 using storage::Verdict;
 
-KeptVersions::KeptVersions(const QString &file) : m_file(file), m_found(storage::keptVersions(file))
+KeptVersions::KeptVersions(const QString &file, const storage::KeyRing *keys)
+    : m_file(file), m_keys(keys), m_found(storage::keptVersions(file, keys))
 {
     for (const KeptVersion &found : m_found) {
         const auto isSame = [&found](const KeptVersion &other) {
@@ -116,7 +117,7 @@ std::optional<std::pair<KeptVersion, BudgetStorage::Data>> KeptVersions::newestW
         if (version.isFile)
             continue;
         try {
-            return std::pair(version, dataOf(version));
+            return std::pair(version, dataOf(version, m_keys));
         } catch (const Refusal &) {
             // An older one may be whole.
         }
@@ -124,17 +125,19 @@ std::optional<std::pair<KeptVersion, BudgetStorage::Data>> KeptVersions::newestW
     return std::nullopt;
 }
 
-BudgetStorage::Data dataOf(const KeptVersion &version)
+BudgetStorage::Data dataOf(const KeptVersion &version, const storage::KeyRing *keys)
 {
-    return versionOf(version).data;
+    return versionOf(version, keys).data;
 }
 
-storage::Version versionOf(const KeptVersion &version)
+storage::Version versionOf(const KeptVersion &version, const storage::KeyRing *keys)
 {
     storage::BudgetInspection found;
     try {
-        found = storage::inspectBudget(version.path);
+        found = storage::inspectBudget(version.path, keys);
     } catch (const storage::StorageError &error) {
+        if (error.failure() == storage::StorageFailure::PassphraseNeeded)
+            throw;
         throw internal::versionDamaged(version.path, error.message());
     }
     if (found.data)

@@ -10,6 +10,7 @@ namespace {
 
 const QString pageKey = QStringLiteral("page");
 const QString recentKey = QStringLiteral("recentFiles");
+const QString keptKey = QStringLiteral("passphrasesInKeyring");
 const QString entryKey = QStringLiteral("entryShown");
 const QString lastFileKey = QStringLiteral("opensLastFile");
 const QString appearanceKey = QStringLiteral("appearance");
@@ -68,6 +69,20 @@ void WindowSettings::removeRecentFile(const QString &file)
     QStringList files = recentFiles();
     files.removeAll(file);
     m_file.setValue(recentKey, files);
+}
+
+bool WindowSettings::isPassphraseKept(const QString &file) const
+{
+    return m_file.value(keptKey).toStringList().contains(file);
+}
+
+void WindowSettings::setPassphraseKept(const QString &file, bool isKept)
+{
+    QStringList files = m_file.value(keptKey).toStringList();
+    files.removeAll(file);
+    if (isKept)
+        files.append(file);
+    m_file.setValue(keptKey, files);
 }
 
 bool WindowSettings::isEntryShown() const

@@ -43,6 +43,12 @@ public:
     /// Forgets a file, for example one that is gone.
     void removeRecentFile(const QString &file);
 
+    /// Whether the desktop's keyring keeps the passphrase of this file; it is not asked for
+    /// others, since it might ask the user to open it.
+    [[nodiscard]] bool isPassphraseKept(const QString &file) const;
+    /// Remembers it.
+    void setPassphraseKept(const QString &file, bool isKept);
+
     /// Whether the row of fields below a register is shown.
     [[nodiscard]] bool isEntryShown() const;
     /// Remembers it.

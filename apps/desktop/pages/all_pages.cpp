@@ -4,6 +4,7 @@
 #include "pages/accounts_page.h"
 #include "pages/banks_page.h"
 #include "pages/due_page.h"
+#include "pages/encryption_page.h"
 #include "pages/history_page.h"
 #include "pages/home_page.h"
 #include "pages/items_page.h"
@@ -22,7 +23,8 @@ std::vector<Page *> makePages(Desk &desk)
         new HomePage(desk),     new AccountsPage(desk), new RegisterPage(desk),
         new DuePage(desk),      new ItemsPage(desk),    new BanksPage(desk),
         new SurveyPage(desk),   new RatesPage(desk),    new HistoryPage(desk),
-        new ImportWizard(desk), new RulesPage(desk),    new SettingsPage(desk),
+        new ImportWizard(desk), new RulesPage(desk),    new EncryptionPage(desk),
+        new SettingsPage(desk),
     };
 }
 

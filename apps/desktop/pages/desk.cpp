@@ -88,4 +88,29 @@ void Desk::wait(const QString &line, const std::function<void()> &work)
     });
 }
 
+std::optional<QString> Desk::keptPassphrase(const QString &file)
+{
+    return settings().isPassphraseKept(file) ? m_parts.passphrases.kept(file) : std::nullopt;
+}
+
+void Desk::forgetPassphrase(const QString &file)
+{
+    if (!settings().isPassphraseKept(file))
+        return;
+    m_parts.passphrases.forget(file);
+    settings().setPassphraseKept(file, false);
+}
+
+void Desk::keepPassphrase(const QString &file, const QString &passphrase)
+{
+    const QString notice = QStringLiteral("keyring");
+    notices().remove(notice);
+    try {
+        m_parts.passphrases.keep(file, passphrase);
+        settings().setPassphraseKept(file, true);
+    } catch (const foundation::Error &error) {
+        notices().add({notice, workbench::userText(error), {}});
+    }
+}
+
 } // namespace kiv::desktop

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "actions/action_collection.h"
+#include "application/passphrase_store.h"
 #include "application/window_settings.h"
 #include "pages/place.h"
 #include "widgets/announcer.h"
@@ -24,6 +25,7 @@ public:
         workbench::Document &document;
         WindowSettings &settings;
         Questions &questions;
+        PassphraseStore &passphrases;
         ActionCollection &actions;
         Announcer &announcer;
         NoticeBar &notices;
@@ -59,6 +61,12 @@ public:
     /// Runs requests that wait for the network in an event loop. Meanwhile pages say why
     /// nothing can be changed.
     void wait(const QString &line, const std::function<void()> &work);
+    /// The passphrase of a file that the store was asked to keep; nothing for others.
+    [[nodiscard]] std::optional<QString> keptPassphrase(const QString &file);
+    /// Has the store keep it; where it cannot, a notice says why.
+    void keepPassphrase(const QString &file, const QString &passphrase);
+    /// Has the store forget it, if it was asked to keep one.
+    void forgetPassphrase(const QString &file);
     /// Says a sentence in the status line, and to screen readers.
     void say(const QString &sentence) { m_parts.announcer.say(sentence); }
     /// Shows another page, or another part of it.

@@ -60,7 +60,8 @@ void HistoryPage::refresh()
 {
     m_message->withdraw();
     const QString file = desk().document().file();
-    m_model->setRows(historyRows(desk().document().steps(), workbench::KeptVersions(file).all()));
+    m_model->setRows(historyRows(desk().document().steps(),
+                                 workbench::KeptVersions(file, &desk().document().keys()).all()));
     m_table->settle();
     follow();
 }
@@ -97,10 +98,12 @@ BudgetStorage::Data HistoryPage::thenOf(const HistoryTarget &target) const
 {
     const workbench::Document &document = desk().document();
     if (!target.step)
-        return workbench::dataOf(workbench::KeptVersions(document.file()).named(target.version));
+        return workbench::dataOf(
+            workbench::KeptVersions(document.file(), &document.keys()).named(target.version),
+            &document.keys());
     const workbench::History::Entry &step =
         document.history().at(static_cast<std::size_t>(*target.step));
-    return step.content ? step.content->data() : workbench::dataOf(step.kept());
+    return step.content ? step.content->data() : workbench::dataOf(step.kept(), &document.keys());
 }
 
 void HistoryPage::showChanges(const BudgetStorage::Data &then)

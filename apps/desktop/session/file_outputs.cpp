@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/file_outputs.h"
 
+#include "workbench/document/encryption_text.h"
 #include "workbench/document/verification.h"
 #include "workbench/exports/export.h"
 
@@ -43,14 +44,17 @@ void FileOutputs::exportBudget()
     const bool isDone = attempt(QStringLiteral("export"),
                                 [&] { workbench::exportTo(m_desk.requests(), format, file); });
     if (isDone)
-        m_desk.say(tr("Exported to “%1”.").arg(file));
+        m_desk.say(m_desk.document().isEncrypted()
+                       ? tr("Exported to “%1”. %2").arg(file, workbench::outputIsReadable())
+                       : tr("Exported to “%1”.").arg(file));
 }
 
 void FileOutputs::checkFile()
 {
     (void)attempt(QStringLiteral("check"), [this] {
         m_desk.document().writeNow(); // the file itself is looked at
-        const workbench::Verification found = workbench::verify(m_desk.document().file());
+        const workbench::Verification found =
+            workbench::verify(m_desk.document().file(), &m_desk.document().keys());
         QStringList lines{
             found.isWhole()
                 ? tr("The budget '%1' is intact.").arg(found.path)

@@ -39,7 +39,7 @@ QString undoText(const QString &verb, const std::optional<workbench::Deed> &deed
 } // namespace
 
 FileSession::FileSession(Desk &desk, QWidget *window)
-    : QObject(window), m_desk(desk), m_window(window)
+    : QObject(window), m_desk(desk), m_window(window), m_unlocking(desk, window)
 {
     desk.document().setKeeping(Document::Keeping::WithinASecond);
     addActions();
@@ -75,6 +75,9 @@ void FileSession::addActions()
     add("saveAs", Group::File, tr("Save &as …"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
         &FileSession::saveAs);
     add("saveCopy", Group::File, tr("Save a &copy …"), {}, &FileSession::saveCopy);
+    actions.add(QStringLiteral("encryption"), Group::File, tr("Encr&yption …"), {}, [this] {
+        m_desk.goTo({QStringLiteral("encryption"), {}});
+    });
     add("undo", Group::Edit, tr("&Undo"), QKeySequence::Undo, &FileSession::undo);
     add("redo", Group::Edit, tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         &FileSession::redo);
@@ -96,9 +99,9 @@ void FileSession::storePreferences()
 bool FileSession::attempt(const QString &id, const std::function<void()> &work)
 {
     try {
-        work();
+        const bool isDone = m_unlocking.withPassphrases(work);
         m_desk.notices().remove(id);
-        return true;
+        return isDone;
     } catch (const foundation::Error &error) {
         tell(id, workbench::troubleOfSaving(error), {});
         return false;
@@ -114,10 +117,14 @@ bool FileSession::open(const QString &file, Document::Access access)
         return false;
     const QString path = Document::withExtension(QFileInfo(file).absoluteFilePath());
     try {
-        if (leaving == Leaving::GivingUp)
-            document.openGivingUp(path, access);
-        else
-            document.open(path, access);
+        const bool isOpen = m_unlocking.withPassphrases([&] {
+            if (leaving == Leaving::GivingUp)
+                document.openGivingUp(path, access);
+            else
+                document.open(path, access);
+        });
+        if (!isOpen)
+            return false;
     } catch (const foundation::Error &error) {
         tell(openingNotice, workbench::troubleOfOpening(path, error), path);
         return false;
@@ -269,10 +276,16 @@ void FileSession::offerVersions(const QString &file)
     QStringList names;
     QStringList texts;
     const bool isRead = attempt(openingNotice, [&] {
-        const workbench::KeptVersions versions(file);
+        names.clear();
+        texts.clear();
+        const storage::KeyRing &keys = m_desk.document().keys();
+        const workbench::KeptVersions versions(file, &keys);
         const auto isWhole = [](const storage::KeptVersion &version) {
             return !version.isFile && version.telling != storage::KeptVersion::Telling::Nothing;
         };
+        const auto whole = versions.all() | std::views::filter(isWhole);
+        if (!whole.empty())
+            keys.require(whole.front().path); // its change has a name
         for (const storage::KeptVersion &version :
              versions.all() | std::views::filter(isWhole) | std::views::take(versionsOffered)) {
             names += version.name;
@@ -323,7 +336,7 @@ QString FileSession::keptText() const
         return tr("read only");
     switch (document.kept()) {
     case Document::Kept::Saved:
-        return tr("saved");
+        return document.isEncrypted() ? tr("saved, encrypted") : tr("saved");
     case Document::Kept::Saving:
         return tr("saving");
     case Document::Kept::NotSaved:
@@ -357,7 +370,7 @@ void FileSession::followBudget()
            tr("There is nothing to undo."));
     follow("redo", tr("Redo"), isOpen ? document.redoable() : std::nullopt,
            tr("There is nothing to redo."));
-    for (const char *id : {"save", "saveAs", "saveCopy"})
+    for (const char *id : {"save", "saveAs", "saveCopy", "encryption"})
         ActionCollection::allow(actions.action(QString::fromLatin1(id)), isOpen,
                                 tr("No budget is open."));
     emit keptChanged();

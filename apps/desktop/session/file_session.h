@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "pages/desk.h"
+#include "session/unlocking.h"
 
 namespace kiv::desktop {
 
@@ -69,11 +69,13 @@ private:
     void tell(const QString &id, const workbench::Trouble &trouble, const QString &file);
     [[nodiscard]] std::optional<Notice::Choice> choiceFor(workbench::Remedy remedy,
                                                           const QString &id, const QString &file);
-    /// Runs `work`; a failure becomes a notice. Returns whether it succeeded.
+    /// Runs `work`, and asks for the passphrases that it needs; a failure becomes a notice.
+    /// Returns whether it succeeded.
     bool attempt(const QString &id, const std::function<void()> &work);
 
     Desk &m_desk;
     QWidget *m_window;
+    Unlocking m_unlocking;
 };
 
 } // namespace kiv::desktop

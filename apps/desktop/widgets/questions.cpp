@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/questions.h"
 
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
@@ -64,6 +67,33 @@ std::optional<qsizetype> DialogQuestions::choose(QWidget *parent, const QString 
     box.exec();
     const auto found = std::ranges::find(buttons, box.clickedButton());
     return found == buttons.end() ? std::nullopt : std::optional(found - buttons.begin());
+}
+
+std::optional<Questions::Typed> DialogQuestions::passphrase(QWidget *parent,
+                                                            const QString &question)
+{
+    QDialog dialog(parent);
+    dialog.setWindowTitle(QObject::tr("Passphrase"));
+    auto *layout = new QVBoxLayout(&dialog);
+    auto *asked = new QLabel(question, &dialog);
+    asked->setTextFormat(Qt::PlainText);
+    asked->setWordWrap(true);
+    layout->addWidget(asked);
+    auto *field = new QLineEdit(&dialog);
+    field->setEchoMode(QLineEdit::Password);
+    field->setAccessibleName(QObject::tr("Passphrase"));
+    field->setAccessibleDescription(question);
+    layout->addWidget(field);
+    auto *keep = new QCheckBox(QObject::tr("&Keep it in the desktop’s keyring"), &dialog);
+    layout->addWidget(keep);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout->addWidget(buttons);
+    field->setFocus();
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return Typed{field->text(), keep->isChecked()};
 }
 
 void DialogQuestions::show(QWidget *parent, const QString &heading, const QString &text)

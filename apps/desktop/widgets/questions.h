@@ -33,6 +33,14 @@ public:
     /// is the usual one.
     [[nodiscard]] virtual std::optional<qsizetype> choose(QWidget *parent, const QString &question,
                                                           const QStringList &answers) = 0;
+    /// A passphrase that was typed.
+    struct Typed {
+        QString text;
+        bool isToKeep = false; ///< whether the desktop's keyring is to keep it
+    };
+    /// A passphrase, which nobody sees while it is typed; nothing if the user gave up.
+    [[nodiscard]] virtual std::optional<Typed> passphrase(QWidget *parent,
+                                                          const QString &question) = 0;
     /// Shows a longer text, such as the list of keys, until it is closed.
     virtual void show(QWidget *parent, const QString &heading, const QString &text) = 0;
 };
@@ -46,6 +54,8 @@ public:
     [[nodiscard]] QString fileToImport(QWidget *parent) override;
     [[nodiscard]] std::optional<qsizetype> choose(QWidget *parent, const QString &question,
                                                   const QStringList &answers) override;
+    [[nodiscard]] std::optional<Typed> passphrase(QWidget *parent,
+                                                  const QString &question) override;
     void show(QWidget *parent, const QString &heading, const QString &text) override;
 };
 

@@ -149,7 +149,10 @@ Arguments &Arguments::withoutJson()
 Arguments &Arguments::file()
 {
     return optional("--file", m_options.file,
-                    QObject::tr("Budget file (default: the variable KIV_FILE)"));
+                    QObject::tr("Budget file (default: the variable KIV_FILE)"))
+        .optional("--passphrase-file", m_options.passphraseFile,
+                  QObject::tr("File with the passphrase of an encrypted budget (default: the "
+                              "variable KIV_PASSPHRASE_FILE)"));
 }
 
 Arguments &Arguments::dated(const QString &help)

@@ -88,6 +88,7 @@ constexpr const char *valueWord(const std::optional<T> *)
 /// Options that every command has.
 struct Options {
     QString file;
+    QString passphraseFile;
     bool isJson = false;
     bool isDryRun = false;
     bool isVerbose = false;
@@ -140,7 +141,7 @@ public:
     Arguments &exclusive(const char *one, const char *other);
     /// Refuses calls with `name` but without `base`.
     Arguments &only(const char *name, const char *base);
-    /// Adds --file.
+    /// Adds --file and --passphrase-file.
     Arguments &file();
     /// Adds --date, the day that replaces today.
     Arguments &dated(const QString &help);

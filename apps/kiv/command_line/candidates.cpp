@@ -208,7 +208,9 @@ Candidates candidatesAfter(const CLI::App &commands, const std::vector<std::stri
         candidates.values = choicesOf(name, reading.path());
         const QString file =
             reading.file().isEmpty() ? qEnvironmentVariable("KIV_FILE") : reading.file();
-        if (document.file().isEmpty() && !file.isEmpty())
+        // It never asks for a passphrase.
+        if (document.file().isEmpty() && !file.isEmpty() &&
+            !document.keys().isLocked(Document::withExtension(file)))
             document.open(file);
         if (candidates.values.empty() && !document.file().isEmpty())
             candidates.values = namesOf(name, reading.path(), document.requests());

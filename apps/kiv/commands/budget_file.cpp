@@ -3,6 +3,7 @@
 #include "commands/commands.h"
 
 #include "output/json.h"
+#include "program/passphrases.h"
 
 #include "workbench/document/demonstration.h"
 
@@ -21,20 +22,38 @@ QJsonObject fileJson(const Document &document)
     return {{QStringLiteral("file"), document.file()}};
 }
 
+/// Whether a new file is encrypted.
+struct WhetherEncrypted {
+    bool isEncrypted = false;
+
+    void declare(Arguments &arguments)
+    {
+        arguments.flag("--encrypt", isEncrypted, QObject::tr("Encrypt it with a passphrase"));
+    }
+    void choose(const Call &call) const
+    {
+        if (isEncrypted)
+            call.document.encryptNext(Passphrases(call.options).chosen({}, false));
+    }
+};
+
 struct New {
     QString file;
+    WhetherEncrypted encryption;
 
     void declare(Arguments &arguments)
     {
         arguments.optional("FILE", file, QObject::tr("New file; .budget is added if it is missing"))
             .file()
             .exclusive("FILE", "--file");
+        encryption.declare(arguments);
     }
     Report run(Call &call) const
     {
         const QString path = call.fileToMake(file);
         call.document.refuseUnsaved();
         Document::refuseExisting(path);
+        encryption.choose(call);
         call.requests.navigator().onConfirmedNewBudgetEmpty();
         call.document.create(path, QObject::tr("Created the budget"));
         return Report(fileJson(call.document))
@@ -44,6 +63,7 @@ struct New {
 
 struct Demonstrate {
     QString file;
+    WhetherEncrypted encryption;
 
     void declare(Arguments &arguments)
     {
@@ -51,12 +71,14 @@ struct Demonstrate {
             .file()
             .exclusive("FILE", "--file")
             .dated(QObject::tr("Last day of its year (default: today)"));
+        encryption.declare(arguments);
     }
     Report run(Call &call) const
     {
         const QString path = call.fileToMake(file);
         call.document.refuseUnsaved();
         Document::refuseExisting(path);
+        encryption.choose(call);
         workbench::makeDemonstration(call.document, call.date());
         call.document.create(path, QObject::tr("Created the demonstration"));
         return Report(fileJson(call.document))
@@ -122,6 +144,7 @@ struct Info {
                          static_cast<qint64>(budget.items<Item>().size()));
         });
         QJsonObject json = fileJson(call.document);
+        json.insert(QStringLiteral("encrypted"), call.document.isEncrypted());
         json.insert(QStringLiteral("bytes"), QFileInfo(call.document.file()).size());
         json.insert(QStringLiteral("accounts"), static_cast<qint64>(index.accounts().size()));
         json.insert(QStringLiteral("transactions"), static_cast<qint64>(transactions.size()));
@@ -144,6 +167,7 @@ struct Info {
         };
         return Report(json).list(
             {{QObject::tr("File"), QStringLiteral("file")},
+             {QObject::tr("Encrypted"), QStringLiteral("encrypted")},
              {QObject::tr("Bytes"), QStringLiteral("bytes")},
              {QObject::tr("Accounts"), QStringLiteral("accounts")},
              {QObject::tr("Transactions"), QStringLiteral("transactions")},

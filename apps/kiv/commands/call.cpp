@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commands/call.h"
 
+#include "messages/message_log.h"
 #include "program/program.h"
+
+#include "workbench/document/encryption_text.h"
 
 namespace kiv::app {
 
@@ -23,6 +26,12 @@ QString Call::fileNamed() const
         return path;
     }
     throw noFileNamed();
+}
+
+void Call::tellReadable() const
+{
+    if (document.isEncrypted())
+        warn(workbench::outputIsReadable());
 }
 
 QString Call::fileToMake(const QString &given) const

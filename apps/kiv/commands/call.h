@@ -36,6 +36,8 @@ struct Call {
     /// The budget file for commands that do not open one: from --file, the open document
     /// or KIV_FILE, in this order. Throws a UsageError if there is none.
     [[nodiscard]] QString fileNamed() const;
+    /// Warns that the output of an encrypted budget is not encrypted.
+    void tellReadable() const;
     /// The file to create: `given`, or from --file or KIV_FILE. Throws a UsageError if
     /// there is none.
     [[nodiscard]] QString fileToMake(const QString &given) const;

@@ -60,7 +60,7 @@ struct Check {
     Report run(Call &call) const
     {
         const QString path = named(call);
-        const workbench::Verification found = workbench::verify(path);
+        const workbench::Verification found = workbench::verify(path, &call.document.keys());
         const bool isWhole = found.isWhole();
         QJsonArray rows;
         QHash<QString, QString> results; // in the user's words

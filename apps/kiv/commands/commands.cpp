@@ -11,6 +11,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addWizardCommands(root);
     addVersionCommands(root);
     addCheckCommand(root);
+    addEncryptionCommands(root);
     root.setHeading(QObject::tr("Accounts and transactions"));
     addAccountCommands(root);
     addMoneyCommands(root);

@@ -10,6 +10,7 @@ void addBudgetFileCommands(CommandGroup &root);
 void addWizardCommands(CommandGroup &root);
 void addVersionCommands(CommandGroup &root);
 void addCheckCommand(CommandGroup &root);
+void addEncryptionCommands(CommandGroup &root);
 void addAccountCommands(CommandGroup &root);
 void addMoneyCommands(CommandGroup &root);
 void addTransactionCommands(CommandGroup &root);

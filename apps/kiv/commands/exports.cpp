@@ -23,6 +23,7 @@ struct Export {
     }
     Report run(Call &call) const
     {
+        call.tellReadable();
         if (format == ExportFormat::Json || call.options.isJson) {
             auto [rest, transactions] = workbench::exportedBudget(call.requests);
             return Report(std::move(rest), QStringLiteral("transactions"), std::move(transactions))

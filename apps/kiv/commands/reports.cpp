@@ -100,6 +100,7 @@ struct ShowReport {
         if (isHtml) {
             for (interchange::BalanceFigure &figure : figures.balances)
                 figure.path = workbench::inPlainWords(figure.path);
+            call.tellReadable();
             return Report().raw(interchange::toHtml(figures, title));
         }
         if (hasCharts)

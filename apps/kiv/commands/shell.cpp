@@ -125,7 +125,8 @@ struct Shell {
                 return words;
             },
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                QStringLiteral("/history"));
+                QStringLiteral("/history"),
+            [&call] { return call.document.isEncrypted(); });
         int status = ExitStatus::success;
         WriteFailures failures(call, status);
         const LastWrite lastWrite(call.document);

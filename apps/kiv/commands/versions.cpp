@@ -58,6 +58,7 @@ QJsonObject toJson(const KeptVersion &version)
          isTelling(version) ? QJsonValue(version.mark.transactions) : QJsonValue()},
         {QStringLiteral("bytes"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.size)},
         {QStringLiteral("file"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.path)},
+        {QStringLiteral("encrypted"), version.telling == KeptVersion::Telling::Locked},
         {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
 }
 
@@ -144,7 +145,8 @@ struct History {
     Report run(Call &call) const
     {
         const QString file = Document::withExtension(call.fileNamed());
-        const workbench::KeptVersions versions(file);
+        call.document.keys().require(file); // its changes have names
+        const workbench::KeptVersions versions(file, &call.document.keys());
         if (versions.all().empty())
             (void)versions.present(); // which tells that there is none
         const std::vector<KeptVersion> all = file == call.document.file()
@@ -162,13 +164,17 @@ struct History {
         const auto mark = [](const QJsonValue &isPresent) {
             return isPresent.toBool() ? QObject::tr("present") : QString();
         };
+        const auto lock = [](const QJsonValue &isLocked) {
+            return isLocked.toBool() ? QObject::tr("another passphrase") : QString();
+        };
         Report report{QJsonValue(rows)};
         report.table({{QObject::tr("Version"), QStringLiteral("version")},
                       {QString(), QStringLiteral("present"), mark},
                       {QObject::tr("Saved at"), QStringLiteral("savedAt"), time},
                       {QObject::tr("Transactions"), QStringLiteral("transactions")},
                       {QObject::tr("Change"), QStringLiteral("change")},
-                      {QString(), QStringLiteral("readable"), state}},
+                      {QString(), QStringLiteral("readable"), state},
+                      {QString(), QStringLiteral("encrypted"), lock}},
                      rows, {});
         if (std::ranges::none_of(versions.all(), &KeptVersion::isFile))
             report.line(withFormerVersions(QObject::tr("The file '%1' is gone.").arg(file)));
@@ -191,11 +197,13 @@ struct Differences {
     }
     Report run(Call &call) const
     {
-        const workbench::KeptVersions versions(Document::withExtension(call.fileNamed()));
+        const workbench::KeptVersions versions(Document::withExtension(call.fileNamed()),
+                                               &call.document.keys());
         const KeptVersion &before = from ? versions.named(*from) : versions.undone(1);
         const KeptVersion &after = to ? versions.named(*to) : versions.present();
         const SharedChanges changes =
-            changesBetween(workbench::dataOf(before), workbench::dataOf(after));
+            changesBetween(workbench::dataOf(before, &call.document.keys()),
+                           workbench::dataOf(after, &call.document.keys()));
         Report report(rowsOf(changes));
         tabulate(report, changes, QObject::tr("Both versions are the same."));
         return report;

@@ -216,6 +216,18 @@ Refusal noOtherAccount(const QString &entry)
             .arg(entry));
 }
 
+UsageError noPassphrase(const QString &file, const QString &option)
+{
+    return UsageError(QObject::tr("The file '%1' is encrypted: give its passphrase with %2, or at "
+                                  "a terminal.")
+                          .arg(file, option));
+}
+
+UsageError otherPassphrase()
+{
+    return UsageError(QObject::tr("This is not the same passphrase."));
+}
+
 QString withFormerVersions(const QString &sentence)
 {
     return QObject::tr("%1 Former versions are kept; bring the newest back with kiv undo.")

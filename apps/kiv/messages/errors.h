@@ -73,6 +73,10 @@ public:
 
 // ---- files -----------------------------------------------------------------
 
+/// Nobody gave the passphrase of the file; `option` names where it can stand.
+[[nodiscard]] UsageError noPassphrase(const QString &file, const QString &option);
+/// The passphrase that was typed twice is not the same.
+[[nodiscard]] UsageError otherPassphrase();
 /// The sentence on a file that is gone or damaged, with how to bring it back.
 [[nodiscard]] QString withFormerVersions(const QString &sentence);
 [[nodiscard]] Refusal cannotWriteOutput(const QString &reason);

@@ -11,9 +11,58 @@
 #include <cstdio>
 #include <iostream>
 
+#include <termios.h>
 #include <unistd.h>
 
 namespace kiv::app {
+
+namespace {
+
+void prompt(const QString &question)
+{
+    const QByteArray shown = foundation::escaped(question).toUtf8() + ": ";
+    std::fwrite(shown.constData(), 1, static_cast<std::size_t>(shown.size()), stderr);
+}
+
+/// While it lives, the terminal does not show what is typed, and Ctrl-C only ends the line: the
+/// terminal would stay so otherwise.
+class UnseenTyping {
+public:
+    UnseenTyping()
+    {
+        ::tcgetattr(STDIN_FILENO, &m_before);
+        termios unseen = m_before;
+        unseen.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG);
+        unseen.c_cc[VEOL] = interrupt;
+        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &unseen);
+    }
+    ~UnseenTyping() { ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
+    UnseenTyping(const UnseenTyping &) = delete;
+    UnseenTyping &operator=(const UnseenTyping &) = delete;
+
+    static constexpr char interrupt = 3; ///< Ctrl-C
+
+private:
+    termios m_before = {};
+};
+
+/// A line that nobody sees, at a terminal. Throws answersEnded() when it is given up.
+QByteArray readUnseen()
+{
+    QByteArray line;
+    int sign = EOF;
+    {
+        const UnseenTyping whileTyped;
+        while ((sign = std::getc(stdin)) != EOF && sign != '\n' && sign != UnseenTyping::interrupt)
+            line.append(static_cast<char>(sign));
+    }
+    std::fputc('\n', stderr);
+    if (sign != '\n')
+        throw answersEnded();
+    return line;
+}
+
+} // namespace
 
 bool Dialogue::isPossible()
 {
@@ -37,16 +86,33 @@ bool Dialogue::agrees(const QString &question, std::optional<bool> whenEmpty)
     return answer;
 }
 
-void Dialogue::until(const QString &question, const std::function<void(const QString &)> &take)
+template <typename Ask, typename Take>
+void Dialogue::repeat(Ask ask, Take take)
 {
     while (true) {
-        const QString answer = asked(question);
+        const auto answer = ask();
         try {
             return take(answer);
         } catch (const foundation::Error &error) {
             complain(told(error));
         }
     }
+}
+
+void Dialogue::until(const QString &question, const std::function<void(const QString &)> &take)
+{
+    repeat([&] { return asked(question); }, take);
+}
+
+void Dialogue::untilSecret(const QString &question,
+                           const std::function<void(const QByteArray &)> &take)
+{
+    repeat(
+        [&] {
+            prompt(question);
+            return readUnseen();
+        },
+        take);
 }
 
 void Dialogue::each(const QString &question, const std::function<void(const QString &)> &take)
@@ -63,8 +129,7 @@ void Dialogue::each(const QString &question, const std::function<void(const QStr
 
 QString Dialogue::asked(const QString &question)
 {
-    const QByteArray prompt = foundation::escaped(question).toUtf8() + ": ";
-    std::fwrite(prompt.constData(), 1, static_cast<std::size_t>(prompt.size()), stderr);
+    prompt(question);
     std::string line;
     if (!std::getline(std::cin, line))
         throw answersEnded();

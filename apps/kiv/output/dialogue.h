@@ -19,10 +19,14 @@ public:
     bool agrees(const QString &question, std::optional<bool> whenEmpty = std::nullopt);
     /// Asks until `take` accepts the answer.
     void until(const QString &question, const std::function<void(const QString &)> &take);
+    /// Asks until `take` accepts the answer, which nobody sees. Its bytes are as typed.
+    void untilSecret(const QString &question, const std::function<void(const QByteArray &)> &take);
     /// Accepts answers until an empty one.
     void each(const QString &question, const std::function<void(const QString &)> &take);
 
 private:
+    template <typename Ask, typename Take>
+    void repeat(Ask ask, Take take);
     [[nodiscard]] static QString asked(const QString &question);
 };
 

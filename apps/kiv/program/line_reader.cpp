@@ -144,9 +144,10 @@ char **complete(const char *prefix, int start, int)
 
 } // namespace
 
-LineReader::LineReader(Completer completer, QString historyFile)
+LineReader::LineReader(Completer completer, QString historyFile, std::function<bool()> isSecret)
     : m_isInteractive(::isatty(STDIN_FILENO) != 0 && ::isatty(STDOUT_FILENO) != 0),
-      m_historyFile(std::move(historyFile))
+      m_historyFile(std::move(historyFile)),
+      m_isSecret(std::move(isSecret))
 {
     completerNow = std::move(completer);
     if (!m_isInteractive)
@@ -163,7 +164,13 @@ LineReader::LineReader(Completer completer, QString historyFile)
 LineReader::~LineReader()
 {
     completerNow = nullptr;
-    if (!m_isInteractive)
+    if (m_isInteractive)
+        writeHistory();
+}
+
+void LineReader::writeHistory() const
+{
+    if (m_historyFile.isEmpty())
         return;
     // If the history cannot be saved, only the history is lost.
     QDir().mkpath(QFileInfo(m_historyFile).path());
@@ -193,6 +200,10 @@ std::optional<std::string> LineReader::next()
         return std::nullopt;
     }
     line = typed.get();
+    if (m_isSecret() && !m_historyFile.isEmpty()) {
+        writeHistory(); // the lines until now
+        m_historyFile.clear();
+    }
     if (!line.empty())
         ::add_history(line.c_str());
     return line;

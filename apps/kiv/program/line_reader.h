@@ -17,8 +17,9 @@ public:
     using Completer =
         std::function<std::vector<std::string>(const std::vector<std::string> &before)>;
 
-    /// The history is kept in a file between sessions.
-    LineReader(Completer completer, QString historyFile);
+    /// The history is kept in a file between sessions, but for the lines that are typed once
+    /// `isSecret` says so.
+    LineReader(Completer completer, QString historyFile, std::function<bool()> isSecret);
     ~LineReader();
     LineReader(const LineReader &) = delete;
     LineReader &operator=(const LineReader &) = delete;
@@ -33,8 +34,11 @@ public:
     static bool giveUpLine();
 
 private:
+    void writeHistory() const;
+
     bool m_isInteractive;
-    QString m_historyFile;
+    QString m_historyFile; ///< empty once it is secret
+    std::function<bool()> m_isSecret;
 };
 
 } // namespace kiv::app

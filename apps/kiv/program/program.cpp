@@ -5,6 +5,7 @@
 #include "command_line/misuse.h"
 #include "messages/errors.h"
 #include "messages/exit_status.h"
+#include "program/passphrases.h"
 
 #include "workbench/requests/entry_notices.h"
 #include "workbench/versions/kept_versions.h"
@@ -120,6 +121,25 @@ bool Program::parse(const std::vector<std::string> &words)
 }
 
 int Program::execute()
+{
+    const Options options = m_options;
+    const Selection selection = m_selection;
+    while (true) {
+        try {
+            return attempt();
+        } catch (const storage::StorageError &error) {
+            const QString path = error.filePathName();
+            if (error.failure() != storage::StorageFailure::PassphraseNeeded ||
+                !m_document.keys().isLocked(path))
+                throw;
+            Passphrases(options).unlock(m_document.keys(), path);
+        }
+        m_options = options;
+        m_selection = selection;
+    }
+}
+
+int Program::attempt()
 {
     m_log.setVerbose(m_options.isVerbose);
     // A command may run others with this object, which replace both.

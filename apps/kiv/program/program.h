@@ -40,7 +40,10 @@ public:
 private:
     /// Returns whether there is a command to execute; help and version are printed here.
     bool parse(const std::vector<std::string> &words);
+    /// Executes the command that was parsed. Where an encrypted file lacks its passphrase, the
+    /// command is repeated with it.
     int execute();
+    int attempt();
     void complain(const QString &sentence);
     /// Takes back the changes of a call that must not stay in memory.
     void takeBack();
