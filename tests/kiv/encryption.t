@@ -10,72 +10,130 @@ A budget is encrypted with its former versions, and then used as before.
   $ echo 'other words of my own' >others
   $ kiv bill add Landlord 30 >/dev/null
   $ kiv encrypt --passphrase-file words
+  The budget 'household.budget' and its former versions are encrypted.
+  Without the passphrase nobody can read the budget, you neither: keep it where you find it again.
+  What was saved before can still be found on the disk, and in copies elsewhere.
   $ readable
   $ kiv accounts
+  kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.
+  [2]
   $ kiv accounts --passphrase-file others
+  kiv: This is not the passphrase of the file 'household.budget'.
+  [1]
   $ chmod 644 words
   $ kiv info --passphrase-file words | head -2
+  kiv: warning: Others can read the passphrase in 'words'.
+  File            household.budget
+  Encrypted       yes
   $ chmod 600 words
   $ export KIV_PASSPHRASE_FILE=words
   $ kiv bill remove Landlord
+  Removed the bill 'Landlord'.
   $ kiv undo
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
+  What     Name           Change  Detail
+  item     bill Landlord  added   30.00 USD, monthly, ????-??-?? (glob)
+  account  5 Landlord     added   0.00 USD
   $ kiv history --json | jq -c '.[:2][] | [.change, .encrypted]'
+  ["Removed the bill 'Landlord'",false]
+  ["Added the bill 'Landlord'",false]
   $ kiv check | tail -1
+  The budget 'household.budget' is intact.
   $ kiv save-as copy.budget >/dev/null
   $ readable
 
 What leaves the file can be read, and is said to be so:
 
   $ kiv export 2>&1 >/dev/null
+  kiv: warning: The budget is encrypted, but what is written here is not: everybody who has it can read it.
   $ kiv report --html 2>&1 >/dev/null
+  kiv: warning: The budget is encrypted, but what is written here is not: everybody who has it can read it.
 
 A passphrase is changed, also for the former versions; one that is wrong changes nothing:
 
   $ kiv encrypt
+  kiv: --new-passphrase-file is missing.
+  [2]
   $ : >empty
   $ kiv encrypt --new-passphrase-file empty
+  kiv: A passphrase has at least one character.
+  [1]
   $ kiv encrypt --new-passphrase-file nowhere
+  kiv: There is no file 'nowhere'.
+  [1]
   $ kiv encrypt --new-passphrase-file others --dry-run | tail -1
+  Dry run: nothing is saved.
   $ cat others | kiv encrypt --new-passphrase-file - | head -1
+  The budget 'household.budget' and its former versions have the new passphrase.
   $ kiv due
+  kiv: This is not the passphrase of the file 'household.budget'.
+  [1]
   $ export KIV_PASSPHRASE_FILE=others
   $ kiv history --json | jq -c '[.[] | .encrypted] | unique'
-  $ kiv history diff | tail -1
+  [false]
+  $ kiv history diff 1 | tail -1
+  bank         First                            added
 
 A version that another passphrase encrypted is told apart, and comes back with it:
 
-  $ cp copy.budget household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget
+  $ kiv new second.budget --encrypt --passphrase-file others >/dev/null
+  $ kiv --file second.budget encrypt --passphrase-file others --new-passphrase-file words | head -1
+  The budget 'second.budget' and its former versions have the new passphrase.
+  $ stranger=household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget
+  $ cp second.budget $stranger
   $ kiv history | grep 9000
+  9000              2026-01-01 12:00:00                                                                    another passphrase
   $ kiv undo --to 9000
-  $ rm household.budget.versions/*-9000.budget
+  kiv: This is not the passphrase of the file '*/encryption.t/household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget'. (glob)
+  [1]
+  $ kiv encrypt --new-passphrase-file others | head -1
+  kiv: warning: These former versions are damaged or have another passphrase, and stay as they are: */encryption.t/household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget. (glob)
+  The budget 'household.budget' and its former versions have the new passphrase.
+  $ rm $stranger
 
 Damage is told apart from a wrong passphrase, and a whole version brought back:
 
   $ cp household.budget whole
   $ printf x | dd of=household.budget bs=1 seek=9000 conv=notrunc 2>/dev/null
   $ kiv accounts >/dev/null
+  kiv: The file 'household.budget' is damaged and was not loaded. Caused by: The checksum is wrong. Former versions are kept; bring the newest back with kiv undo.
+  [1]
   $ kiv check | tail -1
+  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
   $ kiv undo
+  Restored the version saved at ????-??-?? ??:??:??. (glob)
   $ readable
 
 Nothing asks where nobody can answer, and completion knows no names then:
 
   $ unset KIV_PASSPHRASE_FILE
   $ kiv completion words -- post "" </dev/null
-  $ kiv new second --encrypt
-  $ kiv new second.budget --encrypt --passphrase-file others >/dev/null
-  $ kiv --file second.budget accounts --passphrase-file others
+  $ kiv new third --encrypt
+  kiv: --passphrase-file is missing.
+  [2]
+  $ kiv --file second.budget accounts --passphrase-file words
+  There are no accounts.
   $ readable
 
 At a terminal it is asked unseen, once a shell, and what is typed there is not kept:
 
-  $ "$TESTDIR/type" "Passphrase of 'household.budget':" 'wrong\n' "not the passphrase" \
+  $ "$TESTDIR/type" "Passphrase of 'household.budget':" 'wrong\n' \
+  >     "not the passphrase of the file 'household.budget'.\r\nPassphrase" \
   >     'other words of my own\n' 'kiv> ' 'bill add Secret 5 --next 2026-02-01\n' 'Added' '' \
-  >     'kiv> ' 'encrypt\n' 'New passphrase' 'short\n' 'again' 'shorter\n' 'not the same' \
+  >     'kiv> ' 'encrypt\n' 'New passphrase' 'short\n' 'again' 'shorter\n' \
+  >     'not the same passphrase.\r\nThe new' \
   >     'short\n' 'can be guessed' '' 'kiv> ' 'exit\n'
-  $ grep -c Secret "$XDG_DATA_HOME"/kiv/history
+  Not shown: b'kiv> ' in b''
+  [1]
+  $ ! grep -rs Secret data
   $ echo short >words
   $ kiv decrypt --passphrase-file words
+  kiv: This is not the passphrase of the file 'household.budget'.
+  [1]
   $ kiv bill remove Secret
+  kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.
+  [2]
   $ kiv decrypt
+  kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.
+  [2]
   $ readable | head -1

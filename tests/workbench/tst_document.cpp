@@ -409,6 +409,7 @@ private slots:
     void everyWalkOfDeedsUndoAndRedoAgreesWithAList();
     void nothingIsLostButTheLastSecond();
     void aFileThatAnotherHasIsOpenedForReading();
+    void anEncryptedBudgetStaysSo();
     void aCopyHasEverything();
     void whatIsRefusedHalfWayLeavesNothing();
 };
@@ -462,6 +463,59 @@ void DocumentTest::aFileThatAnotherHasIsOpenedForReading()
     other.perform({u"Added"_s, {}, {}}, [&] { addBank(other, u"Second"_s); });
     other.writeNow();
     QVERIFY(*storage::inspectBudget(folder.path(u"other.budget"_s)).data == other.present());
+}
+
+void DocumentTest::anEncryptedBudgetStaysSo()
+{
+    const MessageLog log;
+    const test::ScratchFolder folder;
+    const QString path = folder.path(u"home.budget"_s);
+    const auto readable = [&] {
+        return test::inTheClear(folder.path({})) + test::inTheClear(path + u".versions"_s);
+    };
+    {
+        Document document(surroundings(folder.path(u"rates"_s)));
+        document.setKeeping(Document::Keeping::WithinASecond);
+        addBank(document, u"First"_s);
+        document.create(path, u"Created"_s);
+        document.perform({u"Added Second"_s, {}, {}}, [&] { addBank(document, u"Second"_s); });
+        // What is pending is in the file that is encrypted, and undo goes on across it.
+        QCOMPARE(document.encrypt(test::passphrase()), QStringList());
+        QCOMPARE(readable(), QString());
+        document.perform({u"Added Third"_s, {}, {}}, [&] { addBank(document, u"Third"_s); });
+        document.undo(2);
+        document.redo();
+        document.saveCopy(folder.path(u"copy.budget"_s));
+        document.writeNow();
+        QCOMPARE(readable(), QString());
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.saveCopy(path));
+    }
+    Document document(surroundings(folder.path(u"rates"_s)));
+    document.setKeeping(Document::Keeping::WithinASecond);
+    const auto open = [&] { document.open(path, Document::Access::ChangeIfPossible); };
+    QCOMPARE(test::failureOf(open), storage::StorageFailure::PassphraseNeeded);
+    QVERIFY(document.file().isEmpty());
+    document.keys().unlock(path, test::passphrase());
+    open();
+    QVERIFY(document.isEncrypted());
+    QCOMPARE(document.undo().deed.line, u"Added Second"_s);
+    document.writeNow();
+    // A file that is lost comes back encrypted, once a version of it is unlocked.
+    const QString lost = folder.path(u"lost.budget"_s);
+    QDir().rename(path + u".versions"_s, lost + u".versions"_s);
+    Document finder(surroundings(folder.path(u"rates"_s)));
+    finder.openLost(lost);
+    QString needed;
+    try {
+        (void)finder.undo();
+    } catch (const storage::StorageError &error) {
+        needed = error.filePathName();
+    }
+    QVERIFY(finder.keys().isLocked(needed));
+    finder.keys().unlock(needed, test::passphrase());
+    (void)finder.undo();
+    QVERIFY(finder.isEncrypted());
+    QCOMPARE(readable(), QString());
 }
 
 void DocumentTest::aCopyHasEverything()

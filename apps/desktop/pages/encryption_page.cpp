@@ -76,7 +76,8 @@ void EncryptionPage::refresh()
     const std::optional<QString> whyNot = desk().whyNoChange();
     m_form->allow(whyNot);
     if (!whyNot)
-        allow(*m_decrypt, isEncrypted, tr("This budget is not encrypted."));
+        allow(*m_decrypt,
+              isEncrypted ? std::nullopt : std::optional(tr("This budget is not encrypted.")));
 }
 
 std::optional<storage::Passphrase> EncryptionPage::typed()

@@ -283,7 +283,7 @@ void FileSession::offerVersions(const QString &file)
         const auto isWhole = [](const storage::KeptVersion &version) {
             return !version.isFile && version.telling != storage::KeptVersion::Telling::Nothing;
         };
-        const auto whole = versions.all() | std::views::filter(isWhole);
+        auto whole = versions.all() | std::views::filter(isWhole);
         if (!whole.empty())
             keys.require(whole.front().path); // its change has a name
         for (const storage::KeptVersion &version :

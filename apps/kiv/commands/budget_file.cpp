@@ -158,6 +158,9 @@ struct Info {
         const auto amounts = [displayAs = call.document.displayAs()](const QJsonValue &value) {
             return amountsText(value.toArray(), displayAs);
         };
+        const auto yesOrNo = [](const QJsonValue &isEncrypted) {
+            return isEncrypted.toBool() ? QObject::tr("yes") : QObject::tr("no");
+        };
         const auto counts = [](const QJsonValue &value) {
             QStringList texts;
             const QJsonObject object = value.toObject();
@@ -167,7 +170,7 @@ struct Info {
         };
         return Report(json).list(
             {{QObject::tr("File"), QStringLiteral("file")},
-             {QObject::tr("Encrypted"), QStringLiteral("encrypted")},
+             {QObject::tr("Encrypted"), QStringLiteral("encrypted"), yesOrNo},
              {QObject::tr("Bytes"), QStringLiteral("bytes")},
              {QObject::tr("Accounts"), QStringLiteral("accounts")},
              {QObject::tr("Transactions"), QStringLiteral("transactions")},

@@ -47,12 +47,13 @@ private:
 };
 
 /// A line that nobody sees, at a terminal. Throws answersEnded() when it is given up.
-QByteArray readUnseen()
+QByteArray askedUnseen(const QString &question)
 {
     QByteArray line;
     int sign = EOF;
     {
-        const UnseenTyping whileTyped;
+        const UnseenTyping whileTyped; // before anybody sees that it is asked
+        prompt(question);
         while ((sign = std::getc(stdin)) != EOF && sign != '\n' && sign != UnseenTyping::interrupt)
             line.append(static_cast<char>(sign));
     }
@@ -107,12 +108,7 @@ void Dialogue::until(const QString &question, const std::function<void(const QSt
 void Dialogue::untilSecret(const QString &question,
                            const std::function<void(const QByteArray &)> &take)
 {
-    repeat(
-        [&] {
-            prompt(question);
-            return readUnseen();
-        },
-        take);
+    repeat([&] { return askedUnseen(question); }, take);
 }
 
 void Dialogue::each(const QString &question, const std::function<void(const QString &)> &take)

@@ -7,6 +7,8 @@
 
 #include "workbench/document/encryption_text.h"
 
+#include "storage/storage_error.h"
+
 #include <QtCore/QFile>
 
 #include <sys/stat.h>
@@ -39,8 +41,15 @@ Passphrases::Passphrases(const Options &options)
 void Passphrases::unlock(storage::KeyRing &keys, const QString &path) const
 {
     if (!m_file.isEmpty()) {
-        keys.unlock(path, inFile(m_file));
-        return;
+        try {
+            return keys.unlock(path, inFile(m_file));
+        } catch (const storage::StorageError &error) {
+            // A former version may have another one, which the user knows.
+            if (error.failure() != storage::StorageFailure::PassphraseWrong ||
+                !Dialogue::isPossible())
+                throw;
+            complain(told(error));
+        }
     }
     if (!Dialogue::isPossible())
         throw noPassphrase(path, QStringLiteral("--passphrase-file"));

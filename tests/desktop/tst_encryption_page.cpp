@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/page_keys.h"
+
+using namespace kiv;
+using namespace Qt::StringLiterals;
+using test::message;
+using test::part;
+using test::press;
+
+namespace {
+
+const QString words = u"four words of my own"_s;
+
+void fill(HouseholdWindow &home, const QString &first, const QString &second)
+{
+    part<QLineEdit>(home, "passphrase").setText(first);
+    part<QLineEdit>(home, "again").setText(second);
+    part<QLineEdit>(home, "passphrase").setFocus();
+    press(home, Qt::Key_Return);
+}
+
+bool isEncrypted(const QString &file)
+{
+    QFile content(file);
+    return content.open(QIODevice::ReadOnly) && content.read(16) == "kivbudget locked";
+}
+
+} // namespace
+
+/// Encrypting the budget, and opening it again.
+class TestEncryptionPage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aPassphraseIsTypedTwice()
+    {
+        SmallHousehold home;
+        test::show(home, "encryption");
+        const QString file = home.document().file();
+        fill(home, words, u"other words"_s);
+        QVERIFY(message(home).contains(u"not the same"_s));
+        QCOMPARE(part<QLineEdit>(home, "passphrase").text(), words);
+        fill(home, {}, {});
+        QVERIFY(message(home).contains(u"at least one"_s));
+        QVERIFY(!isEncrypted(file));
+        QVERIFY(!part<QPushButton>(home, "decrypt").isEnabled());
+
+        fill(home, words, words);
+        QVERIFY(isEncrypted(file));
+        QCOMPARE(home.window().windowTitle(), u"home (saved, encrypted)"_s);
+        QVERIFY(part<QLineEdit>(home, "passphrase").text().isEmpty());
+        // It goes on: a step, undone, and what is written stays encrypted.
+        home.document().perform({u"Added"_s, {}, {}}, [&] {
+            home.requests().change(workbench::bankOutcome, &navigation::Navigator::onAddedBank,
+                                   banking::BankName(u"Second"_s));
+        });
+        home.trigger("undo");
+        home.document().writeNow();
+        QVERIFY(isEncrypted(file));
+        part<QPushButton>(home, "decrypt").click();
+        QVERIFY(!isEncrypted(file));
+    }
+
+    void anEncryptedBudgetAsksUntilItIsRight()
+    {
+        SmallHousehold home;
+        test::show(home, "encryption");
+        fill(home, words, words);
+        const QString copy = home.path(u"copy.budget"_s);
+        home.document().saveCopy(copy);
+        QVERIFY(isEncrypted(copy));
+
+        HouseholdWindow other;
+        other.keyring().all = {{copy, words}}; // it was never asked to keep this one
+        QVERIFY(!other.window().open(copy));
+        QCOMPARE(other.questions().asked.size(), 1);
+        QVERIFY(other.document().file().isEmpty());
+        other.keyring().all.clear();
+        other.questions().passphrases = {u"wrong"_s, {}, words};
+        other.questions().isToKeep = true;
+        QVERIFY(other.window().open(copy));
+        QCOMPARE(other.questions().asked.size(), 4);
+        QVERIFY(other.questions().asked.at(2).contains(u"not the passphrase"_s));
+        QCOMPARE(other.keyring().all.value(copy), words);
+
+        // A new passphrase that is not kept is not the keyring's any more.
+        other.show();
+        other.trigger("page encryption");
+        fill(other, u"other words of mine"_s, u"other words of mine"_s);
+        QVERIFY(other.keyring().all.isEmpty());
+        other.keyring().isClosed = true;
+        part<QCheckBox>(other, "keep").setChecked(true);
+        fill(other, words, words);
+        QVERIFY(other.keyring().all.isEmpty());
+        QVERIFY(isEncrypted(copy));
+    }
+
+    void theKeyringAnswersForTheUser()
+    {
+        SmallHousehold home;
+        test::show(home, "encryption");
+        part<QCheckBox>(home, "keep").setChecked(true);
+        fill(home, words, words);
+        const QString file = home.document().file();
+        QCOMPARE(home.keyring().all.value(file), words);
+        QVERIFY(home.settings().isPassphraseKept(file));
+        home.questions().asked.clear();
+        // Another key would be needed: the one on the ring is for the file as it was.
+        KivCommand kiv(file);
+        QVERIFY(home.window().open(file));
+        QVERIFY(home.questions().asked.isEmpty());
+    }
+};
+
+static const kiv::test::Suite<TestEncryptionPage> suite;
+#include "tst_encryption_page.moc"
