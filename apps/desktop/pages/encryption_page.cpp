@@ -40,7 +40,7 @@ EncryptionPage::EncryptionPage(Desk &desk)
     m_isToKeep = m_form->add(QStringLiteral("keep"), tr("Afterwards:"),
                              new QCheckBox(tr("&Keep it in the desktop’s keyring")));
     m_encrypt = m_form->addButton(QStringLiteral("encrypt"), tr("Encr&ypt"), [this] { encrypt(); });
-    m_decrypt = m_form->addButton(QStringLiteral("decrypt"), tr("&Take the encryption away"),
+    m_decrypt = m_form->addButton(QStringLiteral("decrypt"), tr("Take the encryption a&way"),
                                   [this] { decrypt(); });
     layout->addWidget(m_form);
     layout->addStretch();
