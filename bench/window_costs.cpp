@@ -3,6 +3,7 @@
 // a user waits for as JSON, in milliseconds. KIV_STARTED is the time by the monotonic clock, in
 // nanoseconds, at which the process was asked for.
 #include "application/application.h"
+#include "application/desktop_keyring.h"
 #include "main_window.h"
 
 #include "networking/request_sender.h"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "application/application.h"
+#include "application/desktop_keyring.h"
 #include "application/start_options.h"
 #include "main_window.h"
 

@@ -24,6 +24,7 @@ public:
         Small = 2 ///< next to nothing, for budgets that hide nothing
     };
 
+    /// An empty ring.
     explicit KeyRing(Cost cost = Cost::Full);
     ~KeyRing();
     KeyRing(const KeyRing &) = delete;

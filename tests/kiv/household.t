@@ -53,6 +53,7 @@ A month, from nothing to what is on file:
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light                             -$19.10  $4,330.90  none
   $ kiv info
   File            household.budget
+  Encrypted       no
   Bytes           * (glob)
   Accounts        5
   Transactions    4
@@ -80,7 +81,7 @@ Programs read JSON:
   $ kiv ledger Checking --json | jq -c '.transactions[1]'
   {"amount":{"amount":"1250.00","currency":"USD"},"balance":{"amount":"1250.00","currency":"USD"},"change":{"amount":"-1250.00","currency":"USD"},"credit":1,"creditStatus":"cleared","date":"2026-02-01","debit":3,"debitStatus":"cleared","description":"A month's rent","number":2,"other":3,"otherPath":"Expenses:Rent [Budget Item]","status":"cleared"}
   $ kiv info --json | jq -c 'del(.bytes)'
-  {"accounts":5,"banks":1,"credits":[{"amount":"6869.10","currency":"USD"}],"debits":[{"amount":"6869.10","currency":"USD"}],"file":"household.budget","items":{"bill":2,"debt":0,"goal":0,"nontrack":0,"wage":1},"transactions":4}
+  {"accounts":5,"banks":1,"credits":[{"amount":"6869.10","currency":"USD"}],"debits":[{"amount":"6869.10","currency":"USD"}],"encrypted":false,"file":"household.budget","items":{"bill":2,"debt":0,"goal":0,"nontrack":0,"wage":1},"transactions":4}
 
 A month at a glance:
 

@@ -22,6 +22,8 @@ Help needs nothing and leaves nothing:
     --date DATE                 Day of the opening; next due date if --next is
                                 missing
     --file FILE                 Budget file (default: the variable KIV_FILE)
+    --passphrase-file TEXT      File with the passphrase of an encrypted budget
+                                (default: the variable KIV_PASSPHRASE_FILE)
     --json                      Print JSON, for programs
     --dry-run                   Show the result, save nothing
     --verbose                   Show the log on standard error
@@ -93,7 +95,7 @@ never offered:
   kiv: There is no option '--json'; see kiv completion bash --help.
   [2]
   $ echo $(kiv completion words)
-  new demo info save save-as wizard templates undo redo history check accounts ledger account spend earn transfer transactions transaction refundable refund find bill debt goal nontrack wage tags due post pay skip banks bank bank-account import rules survey reconciliations reconciliation envelopes outlook dashboard report export configure rates shell watch tour updates release-notes completion
+  new demo info save save-as wizard templates undo redo history check encrypt decrypt accounts ledger account spend earn transfer transactions transaction refundable refund find bill debt goal nontrack wage tags due post pay skip banks bank bank-account import rules survey reconciliations reconciliation envelopes outlook dashboard report export configure rates shell watch tour updates release-notes completion
 
 A rates file that cannot be read gets another name, which is told:
 

@@ -23,12 +23,4 @@ public:
     virtual void forget(const QString &file) = 0;
 };
 
-/// The keyring of the user's desktop.
-class DesktopKeyring final : public PassphraseStore {
-public:
-    [[nodiscard]] std::optional<QString> kept(const QString &file) override;
-    void keep(const QString &file, const QString &passphrase) override;
-    void forget(const QString &file) override;
-};
-
 } // namespace kiv::desktop

@@ -104,6 +104,14 @@ QMap<QString, QString> texts()
              "A rule says what entries of banks’ files are for, by a part of payee or text, "
              "and by amount and account if wanted. The first rule that fits counts. “Try "
              "the rules” tells which one fits a text.")},
+        {QStringLiteral("encryption"),
+         QObject::tr(
+             "A passphrase encrypts the budget and its former versions: in a shared folder or on a "
+             "lost computer nobody can read them. It is needed each time the budget is opened, "
+             "unless the desktop’s keyring keeps it. Without it nobody can read the budget, you "
+             "neither.\n\n"
+             "What was saved before, exports, and what a running program has in memory are not "
+             "protected.")},
         {QStringLiteral("settings"),
          QObject::tr("Each setting is applied as soon as its field is left. Settings are the same "
                      "for all budgets and cannot be undone. A currency that the budget uses must "
