@@ -5,6 +5,7 @@
 
 #include "foundation/presentation.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kiv::interchange {
@@ -20,63 +21,29 @@ constexpr double right = 12;
 constexpr double top = 34;
 constexpr double bottom = 30;
 
-/// Where values and labels lie in the drawing.
-class Plane {
-public:
-    explicit Plane(const Chart &chart)
-        : m_chart(chart),
-          m_ticks(axisTicks(chart)),
-          m_low(m_ticks.front().toDouble()),
-          m_span(m_ticks.back().toDouble() - m_low)
-    {
-    }
-
-    [[nodiscard]] const std::vector<numira::Decimal> &ticks() const { return m_ticks; }
-    [[nodiscard]] double y(double value) const
-    {
-        return height - bottom - (value - m_low) / m_span * (height - top - bottom);
-    }
-    /// How much room one label has.
-    [[nodiscard]] double slot() const
-    {
-        return (width - left - right) / static_cast<double>(m_chart.labels.size());
-    }
-    /// The middle of a label.
-    [[nodiscard]] double x(std::size_t label) const
-    {
-        return left + slot() * (static_cast<double>(label) + 0.5);
-    }
-
-private:
-    const Chart &m_chart;
-    std::vector<numira::Decimal> m_ticks;
-    double m_low;
-    double m_span;
-};
-
 QString coordinate(double value)
 {
     return QString::number(value, 'f', 1);
 }
 
-QString axes(const Chart &chart, const Plane &plane)
+QString axes(const Chart &chart, const ChartPlane &plane)
 {
     QString svg;
     const numira::Currency currency = chart.series.front().values.front().code();
     for (const numira::Decimal &tick : plane.ticks()) {
-        const QString y = coordinate(plane.y(tick.toDouble()));
+        const QString y = coordinate(plane.y(tick));
         svg += QStringLiteral("<line class=\"%1\" x1=\"%2\" y1=\"%3\" x2=\"%4\" y2=\"%3\"/>"
                               "<text class=\"tick\" x=\"%5\" y=\"%6\">%7</text>\n")
                    .arg(tick.sign() == 0 ? QStringLiteral("zero") : QStringLiteral("grid"),
                         coordinate(left), y, coordinate(width - right), coordinate(left - 8),
-                        coordinate(plane.y(tick.toDouble()) + 4),
+                        coordinate(plane.y(tick) + 4),
                         htmlText(foundation::presentationText(numira::Money(currency, tick))));
     }
     // As many labels as can stand side by side.
     const auto each = static_cast<std::size_t>(std::ceil(56 / plane.slot()));
     for (std::size_t at = 0; at < static_cast<std::size_t>(chart.labels.size()); at += each)
         svg += QStringLiteral("<text class=\"label\" x=\"%1\" y=\"%2\">%3</text>\n")
-                   .arg(coordinate(plane.x(at)), coordinate(height - 10),
+                   .arg(coordinate(plane.x(static_cast<double>(at))), coordinate(height - 10),
                         htmlText(chart.labels[static_cast<qsizetype>(at)]));
     return svg;
 }
@@ -102,66 +69,146 @@ QString valueTitle(const Chart &chart, const ChartSeries &series, std::size_t at
              htmlText(foundation::presentationText(series.values[at])));
 }
 
-QString bars(const Chart &chart, const Plane &plane)
+QString bars(const Chart &chart, const ChartPlane &plane)
 {
     QString svg;
-    const double barWidth =
-        std::min(36.0, plane.slot() * 0.76 / static_cast<double>(chart.series.size()));
+    const double zero = plane.y(numira::Decimal());
     for (std::size_t row = 0; row < chart.series.size(); ++row) {
         const ChartSeries &series = chart.series[row];
-        const double shift =
-            (static_cast<double>(row) - static_cast<double>(chart.series.size()) / 2) * barWidth;
+        const auto [barWidth, shift] = plane.bar(row, 36);
         for (std::size_t at = 0; at < series.values.size(); ++at) {
-            const double value = plane.y(series.values[at].amount().toDouble());
-            const double zero = plane.y(0);
-            svg += QStringLiteral("<rect class=\"series%1\" x=\"%2\" y=\"%3\" width=\"%4\" "
-                                  "height=\"%5\">%6</rect>\n")
-                       .arg(QString::number(row), coordinate(plane.x(at) + shift),
-                            coordinate(std::min(value, zero)), coordinate(barWidth - 1),
-                            coordinate(std::abs(value - zero)), valueTitle(chart, series, at));
+            const double value = plane.y(series.values[at].amount());
+            svg +=
+                QStringLiteral("<rect class=\"series%1\" x=\"%2\" y=\"%3\" width=\"%4\" "
+                               "height=\"%5\">%6</rect>\n")
+                    .arg(QString::number(row), coordinate(plane.x(static_cast<double>(at)) + shift),
+                         coordinate(std::min(value, zero)), coordinate(barWidth - 1),
+                         coordinate(std::abs(value - zero)), valueTitle(chart, series, at));
         }
     }
     return svg;
 }
 
-QString line(const Chart &chart, const Plane &plane)
+QString line(const Chart &chart, const ChartPlane &plane)
 {
     QString svg;
     for (std::size_t row = 0; row < chart.series.size(); ++row) {
         const ChartSeries &series = chart.series[row];
         QStringList points;
+        for (const auto &[x, y] : plane.line(series))
+            points += coordinate(x) + u',' + coordinate(y);
         QString dots;
         for (std::size_t at = 0; at < series.values.size(); ++at) {
-            const QString x = coordinate(plane.x(at));
-            const QString y = coordinate(plane.y(series.values[at].amount().toDouble()));
-            points += x + u',' + y;
+            const QString x = coordinate(plane.x(static_cast<double>(at)));
+            const QString y = coordinate(plane.y(series.values[at].amount()));
             dots += QStringLiteral("<circle class=\"series%1\" cx=\"%2\" cy=\"%3\" r=\"%4\">%5"
                                    "</circle>\n")
                         .arg(QString::number(row), x, y, plane.slot() < 12 ? u"1.5" : u"3.5",
                              valueTitle(chart, series, at));
         }
-        const double zero = plane.y(0);
         svg += QStringLiteral("<polygon class=\"area%1\" points=\"%2,%4 %3 %5,%4\"/>\n"
                               "<polyline class=\"line%1\" points=\"%3\"/>\n")
-                   .arg(QString::number(row), coordinate(plane.x(0)), points.join(u' '),
-                        coordinate(zero), coordinate(plane.x(series.values.size() - 1))) +
+                   .arg(QString::number(row), points.front().section(u',', 0, 0), points.join(u' '),
+                        coordinate(plane.y(numira::Decimal())), points.back().section(u',', 0, 0)) +
                dots;
+    }
+    return svg;
+}
+
+QString levelAndMark(const Chart &chart, const ChartPlane &plane)
+{
+    QString svg;
+    if (chart.level) {
+        const double y = plane.y(chart.level->value.amount());
+        svg += QStringLiteral("<line class=\"level\" x1=\"%1\" y1=\"%2\" x2=\"%3\" y2=\"%2\"/>"
+                              "<text class=\"name\" x=\"%4\" y=\"%5\">%6</text>\n")
+                   .arg(coordinate(left), coordinate(y), coordinate(width - right),
+                        coordinate(left + 4), coordinate(y - 4), htmlText(chart.level->text));
+    }
+    if (chart.mark) {
+        const double x = plane.x(static_cast<double>(chart.mark->label));
+        const double y =
+            plane.y(chart.series[chart.mark->series].values[chart.mark->label].amount());
+        // At its side with more room.
+        const bool isLate = x > width / 2;
+        svg += QStringLiteral("<circle class=\"mark\" cx=\"%1\" cy=\"%2\" r=\"5\"/><text "
+                              "class=\"name\" x=\"%3\" y=\"%4\" text-anchor=\"%5\">%6</text>\n")
+                   .arg(coordinate(x), coordinate(y), coordinate(x + (isLate ? -9 : 9)),
+                        coordinate(y + 4), isLate ? QStringLiteral("end") : QStringLiteral("start"),
+                        htmlText(chart.mark->text));
     }
     return svg;
 }
 
 } // namespace
 
+ChartPlane::ChartPlane(const Chart &chart, const Box &box, bool isMirrored)
+    : m_chart(chart),
+      m_box(box),
+      m_isMirrored(isMirrored),
+      m_ticks(axisTicks(chart)),
+      m_low(m_ticks.front().toDouble()),
+      m_span(m_ticks.back().toDouble() - m_low)
+{
+}
+
+double ChartPlane::y(const numira::Decimal &value) const
+{
+    return m_box.top + m_box.height - (value.toDouble() - m_low) / m_span * m_box.height;
+}
+
+double ChartPlane::slot() const
+{
+    return m_box.width / static_cast<double>(m_chart.labels.size());
+}
+
+double ChartPlane::x(double label) const
+{
+    const double way = slot() * (label + 0.5);
+    return m_box.left + (m_isMirrored ? m_box.width - way : way);
+}
+
+std::size_t ChartPlane::labelAt(double x) const
+{
+    const double way = m_isMirrored ? m_box.left + m_box.width - x : x - m_box.left;
+    const auto last = static_cast<double>(m_chart.labels.size() - 1);
+    return static_cast<std::size_t>(std::clamp(std::floor(way / slot()), 0.0, last));
+}
+
+std::pair<double, double> ChartPlane::bar(std::size_t series, double widest) const
+{
+    const auto count = static_cast<double>(m_chart.series.size());
+    const double width = std::min(widest, slot() * 0.76 / count);
+    const double place =
+        m_isMirrored ? count - 1 - static_cast<double>(series) : static_cast<double>(series);
+    return {width, (place - count / 2) * width};
+}
+
+std::vector<std::pair<double, double>> ChartPlane::line(const ChartSeries &series) const
+{
+    const double half = m_chart.kind == ChartKind::Steps ? 0.5 : 0;
+    std::vector<std::pair<double, double>> points;
+    for (std::size_t at = 0; at < series.values.size(); ++at) {
+        const double height = y(series.values[at].amount());
+        points.emplace_back(x(static_cast<double>(at) - half), height);
+        if (half > 0)
+            points.emplace_back(x(static_cast<double>(at) + half), height);
+    }
+    return points;
+}
+
 std::vector<numira::Decimal> axisTicks(const Chart &chart)
 {
     double low = 0;
     double high = 0;
-    for (const ChartSeries &series : chart.series) {
-        for (const numira::Money &value : series.values) {
-            low = std::min(low, value.amount().toDouble());
-            high = std::max(high, value.amount().toDouble());
-        }
-    }
+    const auto enclose = [&low, &high](const numira::Money &value) {
+        low = std::min(low, value.amount().toDouble());
+        high = std::max(high, value.amount().toDouble());
+    };
+    for (const ChartSeries &series : chart.series)
+        std::ranges::for_each(series.values, enclose);
+    if (chart.level)
+        enclose(chart.level->value);
     // A step of 1, 2 or 5 times a power of ten, about five of them.
     const double rough = std::max(high - low, 0.05) / 5;
     const double power = std::pow(10, std::floor(std::log10(rough)));
@@ -182,14 +229,14 @@ QString toSvg(const Chart &chart, const QString &id)
 {
     if (chart.labels.isEmpty() || chart.series.empty())
         return {};
-    const Plane plane(chart);
+    const ChartPlane plane(chart, {left, top, width - left - right, height - top - bottom});
     return QStringLiteral("<svg viewBox=\"0 0 %1 %2\" role=\"img\" aria-labelledby=\"%3-t %3-d\">\n"
                           "<title id=\"%3-t\">%4</title>\n<desc id=\"%3-d\">%5</desc>\n")
                .arg(QString::number(width), QString::number(height), id, htmlText(chart.title),
                     htmlText(chart.description)) +
            axes(chart, plane) +
            (chart.kind == ChartKind::Bars ? bars(chart, plane) : line(chart, plane)) +
-           legend(chart) + QStringLiteral("</svg>\n");
+           levelAndMark(chart, plane) + legend(chart) + QStringLiteral("</svg>\n");
 }
 
 } // namespace kiv::interchange

@@ -47,7 +47,8 @@ svg .label { text-anchor: middle; } .grid { stroke: var(--rule); } .zero { strok
 .series0 { fill: var(--one); } .series1 { fill: var(--two); } .series2 { fill: var(--three); }
 .line0 { stroke: var(--one); } .line1 { stroke: var(--two); } .line2 { stroke: var(--three); }
 .line0, .line1, .line2 { fill: none; stroke-width: 2.5; stroke-linejoin: round; }
-.area0 { fill: var(--one); opacity: .1; } .area1, .area2 { fill: none; }
+.level { stroke: var(--bad); stroke-dasharray: 6 4; } .mark { fill: none; stroke: var(--bad);
+  stroke-width: 2.5; } .area0 { fill: var(--one); opacity: .1; } .area1, .area2 { fill: none; }
 details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
 @media (prefers-color-scheme: dark) { :root { --ink: #e6ebf0; --soft: #9fb0bf; --rule: #33414d;
   --paper: #14191e; --band: #1a2127; --one: #63b3e4; --two: #f0ad4e; --three: #7fc8a4;
