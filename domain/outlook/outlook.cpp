@@ -154,16 +154,17 @@ private:
 
 } // namespace
 
-std::size_t Curve::lowest() const
+std::size_t Curve::lowest(std::optional<std::size_t> days) const
 {
-    return static_cast<std::size_t>(std::ranges::min_element(ends) - ends.begin());
+    const auto count =
+        static_cast<std::ptrdiff_t>(std::min(days.value_or(ends.size()), ends.size()));
+    return static_cast<std::size_t>(std::min_element(ends.begin(), ends.begin() + count) -
+                                    ends.begin());
 }
 
 const Money &Curve::least(std::optional<std::size_t> days) const
 {
-    const auto count =
-        static_cast<std::ptrdiff_t>(std::min(days.value_or(ends.size()), ends.size()));
-    return count == 0 ? start : *std::min_element(ends.begin(), ends.begin() + count);
+    return days == 0U ? start : ends[lowest(days)];
 }
 
 std::optional<std::size_t> Curve::firstBelow(const Money &floor) const

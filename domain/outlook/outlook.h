@@ -83,8 +83,9 @@ struct KIV_OUTLOOK_EXPORT Curve {
     std::vector<numira::Money> ends; ///< at the end of each day
     std::vector<Change> changes;     ///< in their order
 
-    /// The place of the first day on which the least is there at its end.
-    [[nodiscard]] std::size_t lowest() const;
+    /// The place of the first day on which the least is there at its end, among the first
+    /// `days` days; of all without a number.
+    [[nodiscard]] std::size_t lowest(std::optional<std::size_t> days = {}) const;
     /// The least at the end of one of the first `days` days; of all without a number.
     [[nodiscard]] const numira::Money &least(std::optional<std::size_t> days = {}) const;
     /// The place of the first day that ends below `floor`, which is in the curve's currency.

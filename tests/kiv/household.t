@@ -98,6 +98,8 @@ A month at a glance:
   Due         Item    Kind     Amount
   2026-01-25  Salary  wage  $3,100.00
   2026-01-31  Rent    bill  $1,250.00
+  What is to come
+  Lowest on *, because of *. The next wage comes on *. (glob)
   Budget health: good
   40.3 % of the income is planned; at most 100 % is possible.
   Bills and debts take 40.3 % of the income; up to 50 % is sound.

@@ -41,6 +41,12 @@ What is to come, if everything regular goes on.
   $ kiv bill add Hotel '9 EUR' --next 2026-02-02 >/dev/null
   $ kiv outlook --date 2026-01-31 --days 9 | tail -1
   The outlook leaves 'Hotel' out: there is no exchange rate between EUR and USD.
+  $ each 1 <<'.'
+  > outlook --date 2026-01-31 --days 9 --with '5 on 2026-02-09'
+  > outlook --floor '5 EUR'
+  > .
+  kiv: 2026-02-09 is behind 2026-02-08, the last day that is looked at.
+  kiv: There is no exchange rate between EUR and USD.
   $ each 2 <<'.'
   > outlook --days 0
   > outlook --days 5000

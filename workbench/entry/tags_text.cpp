@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/entry/tags_text.h"
 
-#include <QtCore/QStringList>
-
 namespace kiv::workbench {
 namespace {
 
@@ -15,16 +13,16 @@ bool needsMarks(const QString &name)
 
 } // namespace
 
-tagging::Tags tagsOf(const QString &text)
+QStringList namesOf(const QString &text)
 {
-    tagging::Tags tags;
+    QStringList names;
     QString name;
     bool isMarked = false; // between marks now
     bool hadMarks = false;
     const auto take = [&] {
         name = hadMarks ? name : name.trimmed();
         if (hadMarks || !name.isEmpty())
-            tags.insert(tagging::Tag(name));
+            names += name;
         name.clear();
         hadMarks = false;
     };
@@ -45,19 +43,34 @@ tagging::Tags tagsOf(const QString &text)
         }
     }
     take();
-    return tags;
+    return names;
 }
 
-QString tagsText(const tagging::Tags &tags)
+QString namesText(const QStringList &names)
 {
     QStringList texts;
-    for (const tagging::Tag &tag : tags) {
-        QString text = tag.name();
+    for (QString text : names) {
         if (needsMarks(text))
             text = mark + text.replace(mark, QStringLiteral("\"\"")) + mark;
         texts += text;
     }
     return texts.join(QStringLiteral(", "));
+}
+
+tagging::Tags tagsOf(const QString &text)
+{
+    tagging::Tags tags;
+    for (const QString &name : namesOf(text))
+        tags.insert(tagging::Tag(name));
+    return tags;
+}
+
+QString tagsText(const tagging::Tags &tags)
+{
+    QStringList names;
+    for (const tagging::Tag &tag : tags)
+        names += tag.name();
+    return namesText(names);
 }
 
 } // namespace kiv::workbench

@@ -5,12 +5,19 @@
 
 #include "tagging/tags.h"
 
+#include <QtCore/QStringList>
+
 namespace kiv::workbench {
 
-/// The tags of a text with commas between them: "car, home". A tag that has a comma or a
+/// The names in a text with commas between them: "car, home". A name that has a comma or a
 /// double quotation mark stands between such marks, and its own marks are doubled.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList namesOf(const QString &text);
+/// The text of which namesOf() makes these names.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString namesText(const QStringList &names);
+
+/// namesOf() for tags.
 [[nodiscard]] KIV_WORKBENCH_EXPORT tagging::Tags tagsOf(const QString &text);
-/// The text of which tagsOf() makes these tags.
+/// namesText() for tags.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString tagsText(const tagging::Tags &tags);
 
 } // namespace kiv::workbench

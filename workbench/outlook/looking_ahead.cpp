@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/outlook/looking_ahead.h"
 
+#include "workbench/internal/faults_of_outlook.h"
+#include "workbench/requests/exchange_rates.h"
 #include "workbench/requests/paying_account.h"
+#include "workbench/surveys/set_aside_text.h"
 
 #include "accounting/account_types.h"
+#include "numira/error.h"
 
 namespace kiv::workbench {
 
@@ -138,9 +142,30 @@ private:
 
 } // namespace
 
+int outlookDays(std::chrono::days days)
+{
+    if (days.count() < 1 || days.count() > outlookDaysMax)
+        throw notANumber(QString::number(days.count()), 1, outlookDaysMax);
+    return static_cast<int>(days.count());
+}
+
+Money outlookFloor(const Amount &typed, const numira::Currency &preferred)
+{
+    const Money floor = typed.in(preferred);
+    const auto converted = convertedIfKnown(floor, preferred);
+    if (!converted)
+        throw Refusal(lackingRateText({floor.code(), preferred}));
+    return converted->rounded();
+}
+
 LookingAhead lookAhead(const BudgetStorage::Data &data, const OutlookQuestion &question,
                        const numira::Currency &preferred)
-{
+try {
+    const QDate last = question.first.addDays(question.days - 1);
+    for (const OutlookQuestion::Once &one : question.with) {
+        if (one.day > last)
+            throw internal::behindOutlook(one.day, last);
+    }
     LookingAhead ahead;
     ahead.outlook = outlook::look(Gathering(data, question).made(ahead.unpaid));
     std::set<AccountNumber> money;
@@ -163,6 +188,8 @@ LookingAhead lookAhead(const BudgetStorage::Data &data, const OutlookQuestion &q
         ahead.free = ahead.together->least(days);
     }
     return ahead;
+} catch (const numira::OverflowError &) {
+    throw internal::outlookTooLarge();
 }
 
 } // namespace kiv::workbench

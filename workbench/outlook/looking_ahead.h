@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/export.h"
+#include "workbench/entry/values.h"
 
 #include "outlook/outlook.h"
 #include "storage/budget_storage.h"
+
+#include <chrono>
 
 /// What is to come of a household's money.
 namespace kiv::workbench {
@@ -16,14 +18,22 @@ struct OutlookQuestion {
         QDate day;            ///< of it
         numira::Money amount; ///< negative when money comes in
     };
-    QDate first;                                       ///< the first day
-    int days = 92;                                     ///< how many; at least 1
-    std::set<budgeting::BudgetItemIdentifier> without; ///< as if these were none
+    QDate first;                                            ///< the first day
+    int days = 92;                                          ///< how many; at least 1
+    std::set<budgeting::BudgetItemIdentifier> without = {}; ///< as if these were none
     std::vector<Once> with = {}; ///< from or to the first account that can pay
 };
 
 /// The most days that are looked ahead.
 inline constexpr int outlookDaysMax = 3'660;
+/// As many days, for a question. Throws an EntryError if that is none, or more than can be
+/// looked ahead.
+[[nodiscard]] KIV_WORKBENCH_EXPORT int outlookDays(std::chrono::days days);
+
+/// The least that shall be there, in `preferred`. Throws an EntryError for too many decimals, and
+/// a Refusal without an exchange rate.
+[[nodiscard]] KIV_WORKBENCH_EXPORT numira::Money outlookFloor(const Amount &typed,
+                                                              const numira::Currency &preferred);
 
 /// What is to come.
 struct KIV_WORKBENCH_EXPORT LookingAhead {
@@ -43,7 +53,8 @@ struct KIV_WORKBENCH_EXPORT LookingAhead {
 
 /// Looks ahead from the budget's balances: with its transactions of days to come and every
 /// date of its items, each paid from payingAccount(). A goal that is reached and a debt that is
-/// paid off are paid no more. Throws what the overflow of an amount throws.
+/// paid off are paid no more. Throws a Refusal if something is asked about a day behind the last
+/// one, and if amounts become too large.
 [[nodiscard]] KIV_WORKBENCH_EXPORT LookingAhead lookAhead(const storage::BudgetStorage::Data &data,
                                                           const OutlookQuestion &question,
                                                           const numira::Currency &preferred);

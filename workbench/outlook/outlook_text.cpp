@@ -19,21 +19,44 @@ QString nameOf(const outlook::Payment &payment, const AccountIndex &index)
         .arg(accounting::presentationText(*payment.entry), index.plainName(payment.to));
 }
 
+QString lowestText(const LookingAhead &ahead, const outlook::Curve &curve,
+                   const AccountIndex &index, navigation::CurrencyDisplayOptions displayAs,
+                   std::optional<std::size_t> days)
+{
+    const std::size_t lowest = curve.lowest(days);
+    const QString day = presentationText(ahead.outlook.day(lowest));
+    const QString amount = amountText(curve.ends[lowest], displayAs);
+    if (const auto cause = ahead.outlook.cause(curve, lowest))
+        return QObject::tr("Lowest on %1: %2, because of %3.")
+            .arg(day, amount, nameOf(*cause, index));
+    return QObject::tr("Lowest on %1: %2.").arg(day, amount);
+}
+
+QString lowestAheadText(Requests &requests, QDate first)
+try {
+    const LookingAhead ahead = lookAhead(requests.present(), {first}, requests.preferredCurrency());
+    if (!ahead.together)
+        return {};
+    const outlook::Curve &all = *ahead.together;
+    std::optional<std::size_t> days;
+    QString wage =
+        QObject::tr("No wage comes within %n days.", nullptr, static_cast<int>(all.ends.size()));
+    if (ahead.nextWage) {
+        days = static_cast<std::size_t>(first.daysTo(*ahead.nextWage));
+        wage = QObject::tr("The next wage comes on %1.").arg(presentationText(*ahead.nextWage));
+    }
+    return lowestText(ahead, all, requests.accounts(), requests.displayAs(), days) + u' ' + wage;
+} catch (const Refusal &refusal) {
+    return refusal.message();
+}
+
 QStringList sentencesOf(const LookingAhead &ahead, const std::optional<numira::Money> &floor,
                         const AccountIndex &index, navigation::CurrencyDisplayOptions displayAs)
 {
     if (!ahead.together)
         return {};
     const outlook::Curve &all = *ahead.together;
-    const std::size_t lowest = all.lowest();
-    const QString day = presentationText(ahead.outlook.day(lowest));
-    const QString amount = amountText(all.ends[lowest], displayAs);
-    QStringList told;
-    if (const auto cause = ahead.outlook.cause(all, lowest))
-        told +=
-            QObject::tr("Lowest on %1: %2, because of %3.").arg(day, amount, nameOf(*cause, index));
-    else
-        told += QObject::tr("Lowest on %1: %2.").arg(day, amount);
+    QStringList told{lowestText(ahead, all, index, displayAs)};
     if (floor) {
         const QString least = amountText(*floor, displayAs);
         const auto below = all.firstBelow(*floor);

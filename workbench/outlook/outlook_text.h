@@ -3,6 +3,7 @@
 
 #include "workbench/entry/account_index.h"
 #include "workbench/outlook/looking_ahead.h"
+#include "workbench/requests/requests.h"
 
 #include "navigation/currency_display.h"
 
@@ -13,6 +14,18 @@ namespace kiv::workbench {
 /// The name of a payment: its item, or else the accounts that it moves.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString nameOf(const outlook::Payment &payment,
                                                   const AccountIndex &index);
+
+/// The lowest day of a curve, among the first `days` days if that is given: "Lowest on
+/// 2026-03-03: $12.00, because of Rent."
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString lowestText(const LookingAhead &ahead,
+                                                      const outlook::Curve &curve,
+                                                      const AccountIndex &index,
+                                                      navigation::CurrencyDisplayOptions displayAs,
+                                                      std::optional<std::size_t> days = {});
+
+/// The lowest day before the next wage, or of all days without a wage, and that wage. Why not, if
+/// it cannot be told; empty if there is nothing to tell.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString lowestAheadText(Requests &requests, QDate first);
 
 /// The answers in words, the lowest day first: "Lowest on 2026-03-03: $12.00, because of
 /// Rent.", the first day below `floor`, what is free until the next wage.

@@ -26,8 +26,8 @@ QMap<QString, QString> texts()
 {
     return {
         {QStringLiteral("home"),
-         QObject::tr("Home answers four questions: what is free to spend, what is due, what else "
-                     "there is, and what needs care.\n\n"
+         QObject::tr("Home answers five questions: what is free to spend, what is due, which day "
+                     "ahead is the lowest, what else there is, and what needs care.\n\n"
                      "Of the balance of each bank account, a part is set aside for what is paid "
                      "less often than monthly and for goals; the rest is free. What is still due "
                      "this month is told beside it. Enter on an account shows its lines.\n\n"
@@ -61,6 +61,19 @@ QMap<QString, QString> texts()
                      "paid. A goal that is reached and a debt that is paid off can be ended "
                      "there: they are due no longer. The last tab has all that is set aside, "
                      "account by account; Enter shows the item.")},
+        {QStringLiteral("outlook"),
+         QObject::tr(
+             "What is to come, if everything regular goes on: each item on each of its days, what "
+             "is "
+             "late today, and what was entered for later days. A goal ends when it is reached, a "
+             "debt when it is paid off. Money that is set aside for goals is not counted.\n\n"
+             "The arrow keys go through the days of the chart. Each row of the upper table has its "
+             "own chart and payments; the lower table has the same numbers as the chart.\n\n"
+             "The fields ask what if: more or fewer days, an amount that should always be there, "
+             "items that are left out (also by Del on a payment), and an amount that is paid on a "
+             "day, or received if it has a minus. Enter asks, Esc starts again. The budget stays "
+             "as "
+             "it is.")},
         {QStringLiteral("banks"),
          QObject::tr("The banks and their accounts. The kind of an account says whether its "
                      "balance is money or a debt, and what can be tied to it.")},

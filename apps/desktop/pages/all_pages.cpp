@@ -8,6 +8,7 @@
 #include "pages/history_page.h"
 #include "pages/home_page.h"
 #include "pages/items_page.h"
+#include "pages/outlook_page.h"
 #include "pages/rates_page.h"
 #include "pages/register_page.h"
 #include "pages/rules_page.h"
@@ -20,11 +21,11 @@ namespace kiv::desktop {
 std::vector<Page *> makePages(Desk &desk)
 {
     return {
-        new HomePage(desk),     new AccountsPage(desk), new RegisterPage(desk),
-        new DuePage(desk),      new ItemsPage(desk),    new BanksPage(desk),
-        new SurveyPage(desk),   new RatesPage(desk),    new HistoryPage(desk),
-        new ImportWizard(desk), new RulesPage(desk),    new EncryptionPage(desk),
-        new SettingsPage(desk),
+        new HomePage(desk),       new AccountsPage(desk), new RegisterPage(desk),
+        new DuePage(desk),        new ItemsPage(desk),    new OutlookPage(desk),
+        new BanksPage(desk),      new SurveyPage(desk),   new RatesPage(desk),
+        new HistoryPage(desk),    new ImportWizard(desk), new RulesPage(desk),
+        new EncryptionPage(desk), new SettingsPage(desk),
     };
 }
 

@@ -7,6 +7,7 @@
 #include "widgets/table.h"
 
 #include "workbench/entry/money_text.h"
+#include "workbench/outlook/outlook_text.h"
 #include "workbench/requests/due_items.h"
 #include "workbench/surveys/set_aside_text.h"
 
@@ -78,6 +79,8 @@ HomePage::HomePage(Desk &desk)
       m_lines(new DueLines(this)),
       m_allDue(new QPushButton(this)),
       m_message(new FieldMessage(this)),
+      m_ahead(nullptr),
+      m_lookAhead(new QPushButton(tr("Look ahead"), this)),
       m_balances(new TableModel(balanceColumns(), this)),
       m_balanceTable(new Table(*m_balances, tr("Balances"), this)),
       m_balancesHeading(nullptr),
@@ -100,6 +103,10 @@ HomePage::HomePage(Desk &desk)
     layout->addWidget(m_lines);
     layout->addWidget(m_message);
     layout->addWidget(m_allDue, 0, Qt::AlignLeft);
+    m_ahead = addHeading(*layout, {});
+    m_ahead->setWordWrap(true);
+    m_ahead->setObjectName(QStringLiteral("ahead"));
+    layout->addWidget(m_lookAhead, 0, Qt::AlignLeft);
     m_balancesHeading = addHeading(*layout, {});
     m_balanceTable->setObjectName(QStringLiteral("balances"));
     layout->addWidget(m_noBalances);
@@ -112,6 +119,9 @@ HomePage::HomePage(Desk &desk)
     cares->setContentsMargins(0, 0, 0, 0);
     connect(m_allDue, &QPushButton::clicked, this, [this] {
         this->desk().goTo({QStringLiteral("due"), {}});
+    });
+    connect(m_lookAhead, &QPushButton::clicked, this, [this] {
+        this->desk().goTo({QStringLiteral("outlook"), {}});
     });
     connect(m_lines, &DueLines::otherWanted, this, [this](const QString &key) {
         this->desk().goTo({QStringLiteral("due"), key});
@@ -163,6 +173,7 @@ void HomePage::refresh()
     m_message->withdraw();
     showFree();
     showDue();
+    showAhead();
     showBalances();
     showCare();
     putKeysInOrder();
@@ -173,7 +184,7 @@ void HomePage::putKeysInOrder()
     // Buttons that were made anew would come last.
     std::vector<QWidget *> order{m_freeTable};
     std::ranges::copy(m_lines->buttons(), std::back_inserter(order));
-    order.insert(order.end(), {m_allDue, m_balanceTable});
+    order.insert(order.end(), {m_allDue, m_lookAhead, m_balanceTable});
     std::ranges::copy(m_cares->findChildren<QPushButton *>(), std::back_inserter(order));
     for (std::size_t place = 1; place < order.size(); ++place)
         setTabOrder(order[place - 1], order[place]);
@@ -213,6 +224,14 @@ void HomePage::showDue()
     const auto left = static_cast<int>(m_due.list.lines.size() - lines.size());
     m_allDue->setVisible(left > 0);
     m_allDue->setText(tr("Show %n more", nullptr, left));
+}
+
+void HomePage::showAhead()
+{
+    const QString told = workbench::lowestAheadText(requests(), m_due.today);
+    m_ahead->setText(told);
+    m_ahead->setVisible(!told.isEmpty());
+    m_lookAhead->setVisible(!told.isEmpty());
 }
 
 void HomePage::showBalances()

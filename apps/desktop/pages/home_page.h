@@ -18,8 +18,8 @@ class DueLines;
 class Table;
 class TableModel;
 
-/// What a household wants to know at a glance: what is free to spend, what is due, what else
-/// there is, and what needs care.
+/// What a household wants to know at a glance: what is free to spend, what is due, what is
+/// the lowest day to come, what else there is, and what needs care.
 class HomePage final : public Page {
     Q_OBJECT
 
@@ -34,6 +34,7 @@ protected:
 private:
     void showFree();
     void showDue();
+    void showAhead();
     void showBalances();
     void showCare();
     void putKeysInOrder();
@@ -49,6 +50,8 @@ private:
     DueLines *m_lines;
     QPushButton *m_allDue;
     FieldMessage *m_message;
+    QLabel *m_ahead;
+    QPushButton *m_lookAhead;
     TableModel *m_balances;
     Table *m_balanceTable;
     QLabel *m_balancesHeading;

@@ -5,9 +5,10 @@
 #include "widgets/day_edit.h"
 #include "widgets/frequency_box.h"
 #include "widgets/money_edit.h"
-#include "widgets/tags_edit.h"
+#include "widgets/names_edit.h"
 
 #include "workbench/entry/kind_words.h"
+#include "workbench/entry/tags_text.h"
 
 #include "foundation/clock.h"
 #include "navigation/configuration.h"
@@ -49,7 +50,7 @@ ItemForm::ItemForm(Desk &desk, Form &form)
       m_since(new DayEdit),
       m_bank(new QComboBox),
       m_kind(new QComboBox),
-      m_tags(new TagsEdit)
+      m_tags(new NamesEdit)
 {
     addFields();
     connect(m_bank, &QComboBox::currentIndexChanged, this, &ItemForm::follow);
@@ -87,7 +88,10 @@ void ItemForm::begin(const BudgetItemIdentifier &id)
     const auto settings = std::get<navigation::ConfigurationData>(
         m_desk.requests().ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
     m_currency = settings.preferredCurrency;
-    m_tags->offer(settings.tags);
+    QStringList tags;
+    for (const tagging::Tag &tag : settings.tags)
+        tags += tag.name();
+    m_tags->offer(tags);
     m_shown = {};
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_name), static_cast<QLineEdit *>(m_amount),
                              static_cast<QLineEdit *>(m_extra), static_cast<QLineEdit *>(m_tags)})
@@ -142,7 +146,7 @@ void ItemForm::show(const budgeting::BudgetedMoney &item, const BudgetView &view
         m_extra->setMoney(goal->final());
     m_every->setFrequency(item.period());
     m_next->setDay(item.nextOccurOn());
-    m_tags->setTags(view.tags(m_id));
+    m_tags->setText(workbench::tagsText(view.tags(m_id)));
     m_shown.amount = m_amount->text();
     m_shown.extra = m_extra->text();
     m_shown.next = item.nextOccurOn();
@@ -215,7 +219,7 @@ std::optional<ItemValues> ItemForm::values()
         return std::nullopt;
     if (*next != m_shown.next)
         values.next = next;
-    values.tags = m_tags->tags();
+    values.tags = workbench::tagsOf(m_tags->text());
     addLink(values);
     return values;
 }

@@ -15,7 +15,7 @@ namespace kiv::desktop {
 class DayEdit;
 class FrequencyBox;
 class MoneyEdit;
-class TagsEdit;
+class NamesEdit;
 
 /// The fields in which a budget item is added or changed. A kind has only those that it needs.
 class ItemForm final : public QObject {
@@ -65,7 +65,7 @@ private:
     DayEdit *m_since;
     QComboBox *m_bank;
     QComboBox *m_kind;
-    TagsEdit *m_tags;
+    NamesEdit *m_tags;
     budgeting::BudgetItemIdentifier m_id;
     numira::Currency m_currency; ///< of what is typed without one
     /// What the fields showed at first: what stayed so is not given.

@@ -4,10 +4,12 @@
 
 #include "output/json.h"
 
+#include "workbench/outlook/outlook_text.h"
 #include "workbench/requests/item_figures.h"
 
 #include "adviser/budget_health.h"
 #include "budgeting/budget_totals.h"
+#include "foundation/clock.h"
 
 namespace kiv::app {
 
@@ -55,6 +57,7 @@ struct Dashboard {
         QJsonArray due;
         for (const auto &item : std::get<std::vector<budgeting::BudgetItemAmountDue>>(answer))
             due.append(toJson(item));
+        const QString ahead = workbench::lowestAheadText(call.requests, foundation::today());
         const auto within = qint64{std::get<std::chrono::days>(answer).count()};
 
         Report report(
@@ -62,6 +65,7 @@ struct Dashboard {
                         {QStringLiteral("health"), healthJson(health)},
                         {QStringLiteral("dueWithinDays"), within},
                         {QStringLiteral("due"), due},
+                        {QStringLiteral("ahead"), QJsonObject{{QStringLiteral("text"), ahead}}},
                         {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
         report.heading(QObject::tr("Every month"))
             .list({{QObject::tr("Wages"), QStringLiteral("wages")},
@@ -76,9 +80,11 @@ struct Dashboard {
                     {QObject::tr("Item"), QStringLiteral("name")},
                     {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Amount"), QStringLiteral("amount")}},
-                   due, QObject::tr("Nothing is due."))
-            .heading(
-                QObject::tr("Budget health: %1").arg(adviser::presentationText(health.grade())));
+                   due, QObject::tr("Nothing is due."));
+        if (!ahead.isEmpty())
+            report.heading(QObject::tr("What is to come")).line(ahead);
+        report.heading(
+            QObject::tr("Budget health: %1").arg(adviser::presentationText(health.grade())));
         for (const adviser::HealthReason &reason : health.reasons())
             report.line(reason.text);
         for (const QString &notice : notices)

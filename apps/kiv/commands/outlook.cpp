@@ -87,17 +87,16 @@ struct ShowOutlook {
         const numira::Currency preferred = call.requests.preferredCurrency();
         OutlookQuestion question;
         question.first = call.date();
-        if (days.count() < 1 || days.count() > workbench::outlookDaysMax)
-            throw workbench::notANumber(QString::number(days.count()), 1,
-                                        workbench::outlookDaysMax);
-        question.days = static_cast<int>(days.count());
+        question.days = workbench::outlookDays(days);
         const BudgetView view(call.requests);
         for (const QString &name : without)
             question.without.insert(view.findTyped(name));
         for (const QString &text : with)
             question.with.push_back(readOnce(text, preferred));
         const LookingAhead ahead = lookAhead(call.document.present(), question, preferred);
-        return told(call, ahead, floor ? std::optional(floor->in(preferred)) : std::nullopt);
+        return told(call, ahead,
+                    floor ? std::optional(workbench::outlookFloor(*floor, preferred))
+                          : std::nullopt);
     }
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "widgets/tags_edit.h"
+#include "widgets/names_edit.h"
 
 #include "widgets/completion_keys.h"
 
@@ -10,7 +10,7 @@
 
 namespace kiv::desktop {
 
-TagsEdit::TagsEdit(QWidget *parent)
+NamesEdit::NamesEdit(QWidget *parent)
     : QLineEdit(parent),
       m_possible(new QStringListModel(this)),
       m_offers(new QCompleter(m_possible, this))
@@ -19,30 +19,30 @@ TagsEdit::TagsEdit(QWidget *parent)
     m_offers->setFilterMode(Qt::MatchContains);
     m_offers->setCaseSensitivity(Qt::CaseInsensitive);
     auto *keys = new CompletionKeys(*m_offers, *this, CompletionKeys::OnlyMatch::Stays);
-    connect(keys, &CompletionKeys::taken, this, &TagsEdit::take);
-    connect(m_offers, qOverload<const QString &>(&QCompleter::activated), this, &TagsEdit::take);
-    connect(this, &QLineEdit::textEdited, this, &TagsEdit::showOffers);
+    connect(keys, &CompletionKeys::taken, this, &NamesEdit::take);
+    connect(m_offers, qOverload<const QString &>(&QCompleter::activated), this, &NamesEdit::take);
+    connect(this, &QLineEdit::textEdited, this, &NamesEdit::showOffers);
 }
 
-void TagsEdit::offer(const tagging::Tags &possible)
+void NamesEdit::offer(const QStringList &possible)
 {
-    QStringList names;
-    for (const tagging::Tag &tag : possible)
-        names += workbench::tagsText({tag});
-    m_possible->setStringList(names);
+    QStringList texts;
+    for (const QString &name : possible)
+        texts += workbench::namesText({name});
+    m_possible->setStringList(texts);
 }
 
-void TagsEdit::setTags(const tagging::Tags &tags)
+void NamesEdit::setNames(const QStringList &names)
 {
-    setText(workbench::tagsText(tags));
+    setText(workbench::namesText(names));
 }
 
-tagging::Tags TagsEdit::tags() const
+QStringList NamesEdit::names() const
 {
-    return workbench::tagsOf(text());
+    return workbench::namesOf(text());
 }
 
-qsizetype TagsEdit::wordStart() const
+qsizetype NamesEdit::wordStart() const
 {
     qsizetype start = text().first(cursorPosition()).lastIndexOf(u',') + 1;
     while (start < cursorPosition() && text().at(start).isSpace())
@@ -50,7 +50,7 @@ qsizetype TagsEdit::wordStart() const
     return start;
 }
 
-void TagsEdit::showOffers()
+void NamesEdit::showOffers()
 {
     const QString word = text().first(cursorPosition()).sliced(wordStart());
     m_offers->setCompletionPrefix(word);
@@ -60,14 +60,14 @@ void TagsEdit::showOffers()
         m_offers->complete();
 }
 
-void TagsEdit::take(const QString &tag)
+void NamesEdit::take(const QString &name)
 {
     const qsizetype start = wordStart();
     qsizetype end = text().indexOf(u',', start);
     if (end < 0)
         end = text().size();
-    setText(text().first(start) + tag + text().sliced(end));
-    setCursorPosition(static_cast<int>(start + tag.size()));
+    setText(text().first(start) + name + text().sliced(end));
+    setCursorPosition(static_cast<int>(start + name.size()));
 }
 
 } // namespace kiv::desktop

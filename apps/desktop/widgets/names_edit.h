@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tagging/tags.h"
-
 #include <QtWidgets/QLineEdit>
 
 QT_BEGIN_NAMESPACE
@@ -12,25 +10,25 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
-/// A field for tags, with commas between them. The possible ones that contain the word that
-/// is being typed are offered.
-class TagsEdit final : public QLineEdit {
+/// A field for names, such as tags, with commas between them. The possible ones that contain the
+/// word that is being typed are offered.
+class NamesEdit final : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit TagsEdit(QWidget *parent = nullptr);
+    explicit NamesEdit(QWidget *parent = nullptr);
 
-    /// Offers these tags.
-    void offer(const tagging::Tags &possible);
-    void setTags(const tagging::Tags &tags);
+    /// Offers these names.
+    void offer(const QStringList &possible);
+    void setNames(const QStringList &names);
     /// What is typed.
-    [[nodiscard]] tagging::Tags tags() const;
+    [[nodiscard]] QStringList names() const;
 
 private:
     /// Where the word at the cursor begins.
     [[nodiscard]] qsizetype wordStart() const;
     void showOffers();
-    void take(const QString &tag);
+    void take(const QString &name);
 
     QStringListModel *m_possible;
     QCompleter *m_offers;

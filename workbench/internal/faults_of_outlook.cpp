@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbench/internal/faults_of_outlook.h"
+
+#include "foundation/presentation.h"
+
+#include <QtCore/QObject>
+
+namespace kiv::workbench::internal {
+
+Refusal behindOutlook(QDate day, QDate last)
+{
+    return Refusal(QObject::tr("%1 is behind %2, the last day that is looked at.")
+                       .arg(foundation::presentationText(day), foundation::presentationText(last)));
+}
+
+Refusal outlookTooLarge()
+{
+    return Refusal(QObject::tr("What is to come cannot be told: its amounts become too large."));
+}
+
+Refusal notPaidRegularly(const QString &item)
+{
+    return Refusal(
+        QObject::tr(
+            "'%1' has no schedule: it is not due regularly, or its amount is not above zero.")
+            .arg(item));
+}
+
+Refusal moreNotPositive()
+{
+    return Refusal(QObject::tr("What is paid more a month must be above zero."));
+}
+
+} // namespace kiv::workbench::internal
