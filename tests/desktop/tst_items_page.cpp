@@ -164,6 +164,26 @@ private slots:
         QVERIFY(says(home, u"Together a month: "_s + dollars("120")));
     }
 
+    void whatMoreAMonthSparesIsOnlyAsked()
+    {
+        SmallHousehold home;
+        show(home, "items");
+        goTo(home, "items/goal/Trip");
+        QCOMPARE(texts(home, 3, "schedule").size(), 12);
+        QCOMPARE(texts(home, 3, "schedule").last(), dollars("0"));
+        auto &more = part<QLineEdit>(home, "more");
+        more.setFocus();
+        type(home, u"300"_s);
+        press(home, Qt::Key_Return);
+        QCOMPARE(texts(home, 1, "schedule"), QStringList(3, dollars("400")));
+        QVERIFY(says(home, u"With %1 more a month it ends on "_s.arg(dollars("300"))));
+        type(home, u"x"_s);
+        press(home, Qt::Key_Return);
+        QVERIFY(!message(home).isEmpty() && more.hasFocus() && more.text() == u"300x");
+        QCOMPARE(texts(home, 1, "schedule").size(), 12);
+        QVERIFY(!home.document().undoable());
+    }
+
     void refusalsOfItemsStandAtTheirField_data()
     {
         QTest::addColumn<QString>("place");

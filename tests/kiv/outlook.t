@@ -60,3 +60,45 @@ What is to come, if everything regular goes on.
   $ kiv outlook --without Nothing
   kiv: There is no budget item 'Nothing'; see kiv bill list (or debt, goal, nontrack, wage).
   [1]
+
+Until nothing is left, with the interest that the account shows, for each day of what was owed:
+
+  $ begin
+  $ each 0 <<'.' >/dev/null
+  > debt add Loan '400 USD' --borrowed 1200 --next 2026-02-05 --date 2026-01-05
+  > account add Interest --type expense
+  > goal add Trip '300 USD' --target 700 --bank-account Checking --next 2026-02-03
+  > .
+  $ kiv debt schedule Loan --date 2026-02-04 | head -2
+  Of the debt 'Loan' are $1,200.00 left: paid off on 2026-04-05, after 3 payments.
+  Interest is left out: the account of the debt shows none.
+  $ kiv transfer Loan Interest 12 --date 2026-02-04 >/dev/null
+  $ kiv debt schedule Loan --date 2026-02-04 --more 200
+  Of the debt 'Loan' are $1,212.00 left: paid off on 2026-05-05, after 4 payments.
+  With interest of about 12.17 % a year: from 2026-01-05 to 2026-02-04 the account of the debt was charged with $12.00.
+  Interest to come: $12.56.
+  With $200.00 more a month it ends on 2026-04-05, 30 days earlier. That spares $6.25 of interest.
+  Date         Amount  Interest     Left
+  2026-02-05  $600.00     $0.40  $612.40
+  2026-03-05  $600.00     $5.72   $18.12
+  2026-04-05   $18.31     $0.19    $0.00
+  $ kiv goal schedule Trip --date 2026-02-04 --more 50
+  The goal 'Trip' lacks $700.00: reached on 2026-04-03, after 3 payments.
+  With $50.00 more a month it ends on 2026-03-03, 31 days earlier.
+  Date         Amount     Left
+  2026-02-04  $350.00  $350.00
+  2026-03-03  $350.00    $0.00
+  $ each 0 <<'.' >/dev/null
+  > debt update Loan --amount 5
+  > goal update Trip --every none
+  > .
+  $ kiv debt schedule Loan --date 2026-02-04 --json | jq -c '.end, .interestPercent, .payments'
+  null
+  12.17
+  []
+  $ each 1 <<'.'
+  > debt schedule Loan --more 0
+  > goal schedule Trip
+  > .
+  kiv: What is paid more a month must be above zero.
+  kiv: 'Trip' has no schedule: it is not due regularly, or its amount is not above zero.

@@ -3,6 +3,8 @@
 
 #include "workbench/document/bank_steps.h"
 #include "workbench/outlook/looking_ahead.h"
+#include "workbench/outlook/payoff.h"
+#include "workbench/requests/budget_view.h"
 #include "workbench/requests/due_items.h"
 #include "workbench/requests/item_changes.h"
 #include "workbench/requests/item_figures.h"
@@ -164,6 +166,36 @@ private slots:
             ended += ahead.outlook.payments.empty();
         }
         QVERIFY(ended < randomRuns(50) / 2); // else little was foretold
+    }
+
+    /// Without interest, the payments are what is left and no more, and more a month is faster.
+    void paysOffWhatIsLeft()
+    {
+        const MessageLog quiet;
+        int shorter = 0;
+        for (int run = randomRuns(50); run > 0; --run) {
+            RandomHousehold household(static_cast<quint32>(run));
+            const Data data = household.data();
+            data.budget.forEach([&](const budgeting::BudgetedMoney &item) {
+                const auto kind = workbench::identify(item).type;
+                if ((kind != BudgetItemTypes::Goal && kind != BudgetItemTypes::Debt) ||
+                    item.period() == EventFrequency::None)
+                    return;
+                const auto payoff = workbench::payoffOf(data, item, RandomHousehold::start());
+                const auto faster =
+                    workbench::payoffOf(data, item, RandomHousehold::start(), test::usd("40"));
+                numira::Money left = payoff.left;
+                for (const workbench::ScheduledPayment &one : payoff.payments) {
+                    QVERIFY(one.amount <= item.amount() && one.day >= RandomHousehold::start());
+                    left -= one.amount;
+                    QCOMPARE(one.left, left);
+                }
+                QCOMPARE(left.isZero(), payoff.left.isPositive() || payoff.left.isZero());
+                QVERIFY(faster.payments.size() <= payoff.payments.size());
+                shorter += faster.payments.size() < payoff.payments.size();
+            });
+        }
+        QVERIFY(shorter > randomRuns(50) / 4);
     }
 };
 

@@ -61,27 +61,6 @@ std::optional<ItemProgress> progressOf(const BudgetStorage::Data &data, const Bu
     return ItemProgress{balance, whole, percentOf(whole - balance, whole)};
 }
 
-std::optional<PayOff> payOffOf(const BudgetStorage::Data &data, const budgeting::Debt &debt)
-{
-    const auto progress = progressOf(data, debt);
-    if (!progress || debt.period() == EventFrequency::None || !debt.amount().isPositive())
-        return std::nullopt;
-    const auto each = convertedIfKnown(debt.amount(), progress->part.code());
-    constexpr int yearsMax = 100;
-    const QDate end = debt.nextOccurOn().addYears(yearsMax);
-    if (!each || !progress->part.isPositive() || !each->isPositive() || end.year() > 9999)
-        return std::nullopt;
-    budgeting::Debt paying = debt;
-    PayOff payOff{1, paying.nextOccurOn()};
-    for (Money owed = progress->part - *each; owed.isPositive(); owed -= *each) {
-        paying.updateNextOccurOn();
-        payOff = {payOff.payments + 1, paying.nextOccurOn()};
-        if (payOff.on > end)
-            return std::nullopt;
-    }
-    return payOff;
-}
-
 std::map<numira::Currency, Money> monthlyTotals(const budgeting::Budget &budget,
                                                 budgeting::BudgetItemTypes kind,
                                                 const numira::Currency &preferred)

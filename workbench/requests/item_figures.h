@@ -29,18 +29,6 @@ struct ItemProgress {
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<ItemProgress>
 progressOf(const storage::BudgetStorage::Data &data, const budgeting::BudgetedMoney &item);
 
-/// When a debt is paid off if it is paid as its item has it.
-struct PayOff {
-    int payments = 0; ///< that are still to come
-    QDate on;         ///< the day of the last one
-};
-
-/// When the debt is paid off without interest, beginning on its next date. Nothing if it is
-/// paid off or not paid regularly, if it would take more than a century, without an account,
-/// and without an exchange rate between what is owed and what is paid.
-[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<PayOff>
-payOffOf(const storage::BudgetStorage::Data &data, const budgeting::Debt &debt);
-
 /// What the items of one kind come to a month, as the dashboard has it: in `preferred`, or by
 /// currencies where an exchange rate is missing.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::map<numira::Currency, numira::Money>

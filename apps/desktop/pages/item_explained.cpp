@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/item_explained.h"
 
+#include "pages/item_schedule.h"
 #include "widgets/allow.h"
 #include "widgets/table.h"
 
-#include "workbench/requests/item_outlook.h"
+#include "workbench/outlook/item_outlook.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -24,7 +25,8 @@ ItemExplained::ItemExplained(QWidget *parent)
       m_outlook(new QLabel(this)),
       m_end(new QPushButton(tr("End &it"), this)),
       m_model(new TableModel(partColumns(), this)),
-      m_table(new Table(*m_model, tr("How it comes about"), this))
+      m_table(new Table(*m_model, tr("How it comes about"), this)),
+      m_schedule(new ItemSchedule(this))
 {
     m_outlook->setTextFormat(Qt::PlainText);
     m_outlook->setWordWrap(true);
@@ -38,6 +40,7 @@ ItemExplained::ItemExplained(QWidget *parent)
     line->addWidget(m_end);
     layout->addLayout(line);
     layout->addWidget(m_table);
+    layout->addWidget(m_schedule);
     connect(m_end, &QPushButton::clicked, this, &ItemExplained::endWanted);
 }
 
@@ -53,6 +56,7 @@ void ItemExplained::explain(workbench::Document &document, const ShownEnvelopes 
     m_end->setVisible(outlook && outlook->shouldEnd());
     std::vector<Row> rows = found ? partRows(envelopes, item) : std::vector<Row>();
     m_table->setVisible(!rows.empty());
+    m_schedule->showItem(document, item);
     setVisible(outlook || !rows.empty());
     m_model->setRows(std::move(rows));
     m_table->settle();

@@ -12,10 +12,12 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+class ItemSchedule;
 class Table;
 
-/// What lies behind the figures of an item: how far it has come, and how what is set aside
-/// comes about. A goal that is reached and a debt that is paid off can be ended here.
+/// What lies behind the figures of an item: how far it has come, how what is set aside
+/// comes about, and the payments to come. A goal that is reached and a debt that is paid off can be
+/// ended here.
 class ItemExplained final : public QWidget {
     Q_OBJECT
 
@@ -37,6 +39,7 @@ private:
     QPushButton *m_end;
     TableModel *m_model;
     Table *m_table;
+    ItemSchedule *m_schedule;
 };
 
 } // namespace kiv::desktop

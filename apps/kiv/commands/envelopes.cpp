@@ -5,7 +5,7 @@
 #include "output/json.h"
 #include "output/set_aside_json.h"
 
-#include "workbench/requests/item_outlook.h"
+#include "workbench/outlook/item_outlook.h"
 #include "workbench/surveys/set_aside_text.h"
 
 #include "foundation/presentation.h"
@@ -67,9 +67,10 @@ QJsonObject outlookJson(const ItemOutlook &outlook)
     json.insert(QStringLiteral("reached"), outlook.isEnded);
     if (outlook.item.type == budgeting::BudgetItemTypes::Goal)
         return json;
-    const std::optional<workbench::PayOff> &payOff = outlook.payOff;
-    json.insert(QStringLiteral("payments"), payOff ? QJsonValue(payOff->payments) : QJsonValue());
-    json.insert(QStringLiteral("paidOffOn"), payOff ? toJson(payOff->on) : QJsonValue());
+    const std::optional<workbench::Payoff> &payoff = outlook.payoff;
+    json.insert(QStringLiteral("payments"),
+                payoff ? QJsonValue(static_cast<qint64>(payoff->payments.size())) : QJsonValue());
+    json.insert(QStringLiteral("paidOffOn"), payoff ? toJson(payoff->end()) : QJsonValue());
     return json;
 }
 

@@ -2,6 +2,7 @@
 // bill|debt|goal|nontrack|wage add|update|rename|remove|list
 #include "commands/account_arguments.h"
 #include "commands/commands.h"
+#include "commands/schedules.h"
 
 #include "output/json.h"
 
@@ -278,6 +279,8 @@ void addItemCommands(CommandGroup &root)
         if constexpr (std::same_as<Item, budgeting::Debt>)
             group.add("finish", QObject::tr("End a debt that is paid off"), Change,
                       FinishItem<Item>{});
+        if constexpr (budgeting::BankTiedItem<Item>)
+            addScheduleCommand(group, ItemTraits<Item>::type);
         group.add("list", QObject::tr("List all items"), Query, ListItems<Item>{});
     };
     addKind(std::type_identity<budgeting::Bill>{}, QObject::tr("Add, change or list bills"));

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "workbench/requests/item_outlook.h"
+#include "workbench/outlook/item_outlook.h"
 
 #include "workbench/entry/money_text.h"
 #include "workbench/requests/budget_view.h"
 
 #include "budgeting/item_traits.h"
+#include "foundation/error.h"
 #include "foundation/presentation.h"
 
 #include <QtCore/QObject>
@@ -36,13 +37,32 @@ QString debtText(const ItemOutlook &debt, CurrencyDisplayOptions displayAs)
     if (debt.isEnded)
         return QObject::tr("The debt '%1' is paid off.").arg(name);
     const QString part = amountText(debt.progress.part, displayAs);
-    if (!debt.payOff)
+    if (!debt.payoff)
         return QObject::tr("Of the debt '%1' are %2 left; as it is paid now, it has no end.")
             .arg(name, part);
+    const Payoff &payoff = *debt.payoff;
+    const QString end = foundation::presentationText(payoff.end());
+    const auto payments = static_cast<int>(payoff.payments.size());
+    if (payoff.interest)
+        return QObject::tr("Of the debt '%1' are %2 left: paid off on %3, after %n payments, with "
+                           "interest of about %4 a year.",
+                           nullptr, payments)
+            .arg(name, part, end, rateText(*payoff.interest));
     return QObject::tr("Of the debt '%1' are %2 left: paid off on %3, after %n payments, without "
                        "interest.",
-                       nullptr, debt.payOff->payments)
-        .arg(name, part, foundation::presentationText(debt.payOff->on));
+                       nullptr, payments)
+        .arg(name, part, end);
+}
+
+/// Nothing if it is not paid regularly or has no end.
+std::optional<Payoff> endingPayoff(const BudgetStorage::Data &data, const budgeting::Debt &debt)
+{
+    try {
+        Payoff payoff = payoffOf(data, debt, {});
+        return payoff.payments.empty() ? std::nullopt : std::optional(std::move(payoff));
+    } catch (const foundation::Error &) {
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -59,7 +79,7 @@ std::optional<ItemOutlook> outlookOf(const BudgetStorage::Data &data, const Budg
     outlook.recurs = item.period() != budgeting::EventFrequency::None;
     if (const auto *debt = dynamic_cast<const budgeting::Debt *>(&item)) {
         outlook.isEnded = !progress->part.isPositive();
-        outlook.payOff = payOffOf(data, *debt);
+        outlook.payoff = endingPayoff(data, *debt);
         outlook.sentence = debtText(outlook, displayAs);
     } else {
         outlook.isEnded = progress->isReached();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/outlook/payoff.h"
 #include "workbench/requests/item_figures.h"
 
 #include "navigation/currency_display.h"
@@ -11,7 +12,7 @@ namespace kiv::workbench {
 struct KIV_WORKBENCH_EXPORT ItemOutlook {
     budgeting::BudgetItemIdentifier item; ///< the goal or debt
     ItemProgress progress;                ///< what is saved, or still owed
-    std::optional<PayOff> payOff;         ///< of a debt that is paid regularly
+    std::optional<Payoff> payoff;         ///< of a debt that is paid regularly and has an end
     bool isEnded = false;                 ///< the goal is reached, or the debt paid off
     bool recurs = false;                  ///< whether it becomes due again
     QString sentence;                     ///< all of it, in the user's language
