@@ -6722,18 +6722,6 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <translation>Von dem, was monatlich bezahlt wird, ist bis zum %1 noch fällig: %2.</translation>
     </message>
     <message>
-        <source>Home answers four questions: what is free to spend, what is due, what else there is, and what needs care.
-
-Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
-
-Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
-        <translation>Die Startseite beantwortet vier Fragen: was frei verfügbar ist, was fällig ist, was sonst noch da ist und was Aufmerksamkeit braucht.
-
-Vom Saldo jedes Bankkontos ist ein Teil zurückgelegt, für Ziele und für das, was seltener als monatlich bezahlt wird; der Rest ist frei. Was in diesem Monat noch fällig ist, steht dabei. Enter auf einem Konto zeigt seine Zeilen.
-
-Jede fällige Zeile hat eigene Schaltflächen: bezahlen, überspringen oder für einen anderen Betrag zur Seite „Fällig“ gehen. Ein Saldo ist der der Bank, mit den Zielen, die auf dem Konto liegen. Ohne Wechselkurs stehen Beträge in ihrer eigenen Währung, und was Summen auslassen, wird genannt.</translation>
-    </message>
-    <message>
         <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.
 
 Below the table stands how what is set aside for the chosen item comes about: what the last survey had, what was added since and why, and what was paid. A goal that is reached and a debt that is paid off can be ended there: they are due no longer. The last tab has all that is set aside, account by account; Enter shows the item.</source>
@@ -7215,6 +7203,153 @@ Ctrl+I takes journals of ledger and hledger as they are. Other programs export e
         <translation>Von einem anderen Programm
 Strg+I liest Journale von ledger und hledger, wie sie sind. Andere Programme exportieren jedes Konto als QIF, OFX oder CSV. Das Konto mit dem Saldo anlegen, den es vor dem ersten Eintrag der Datei hatte, dann importieren. Am Ende die Salden vergleichen.</translation>
     </message>
+    <message>
+        <source>%1 is behind %2, the last day that is looked at.</source>
+        <translation>%1 liegt hinter dem %2, dem letzten Tag der Vorschau.</translation>
+    </message>
+    <message>
+        <source>What is to come cannot be told: its amounts become too large.</source>
+        <translation>Was kommt, lässt sich nicht sagen: Die Beträge werden zu groß.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no schedule: it is not due regularly, or its amount is not above zero.</source>
+        <translation>„%1“ hat keinen Zahlungsplan: nicht regelmäßig fällig, oder der Betrag liegt nicht über null.</translation>
+    </message>
+    <message>
+        <source>What is paid more a month must be above zero.</source>
+        <translation>Was im Monat mehr gezahlt wird, muss über null liegen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</source>
+        <translation>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlung, mit etwa %4 Zinsen im Jahr.</numerusform>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlungen, mit etwa %4 Zinsen im Jahr.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Mindestens %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>No wage comes within %n days.</source>
+        <translation>
+            <numerusform>Innerhalb von %n Tag kommt kein Lohn.</numerusform>
+            <numerusform>Innerhalb von %n Tagen kommt kein Lohn.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next wage comes on %1.</source>
+        <translation>Der nächste Lohn kommt am %1.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is reached.</source>
+        <translation>Das Ziel „%1“ ist erreicht.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; lacks %2; as it is saved for now, it has no end.</source>
+        <translation>Dem Ziel „%1“ fehlen %2; so, wie gespart wird, wird es nie erreicht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payments.</source>
+        <translation>
+            <numerusform>Dem Ziel „%1“ fehlen %2: erreicht am %3, nach %n Zahlung.</numerusform>
+            <numerusform>Dem Ziel „%1“ fehlen %2: erreicht am %3, nach %n Zahlungen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments.</source>
+        <translation>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlung.</numerusform>
+            <numerusform>Von der Schuld „%1“ bleiben %2: abbezahlt am %3, nach %n Zahlungen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interest is left out: the account of the debt shows none.</source>
+        <translation>Zinsen sind nicht gerechnet: Das Konto der Schuld zeigt keine.</translation>
+    </message>
+    <message>
+        <source>With interest of about %1 a year: from %2 to %3 the account of the debt was charged with %4.</source>
+        <translation>Mit etwa %1 Zinsen im Jahr: Vom %2 bis zum %3 wurde das Konto der Schuld mit %4 belastet.</translation>
+    </message>
+    <message>
+        <source>Interest to come: %1.</source>
+        <translation>Zinsen, die noch kommen: %1.</translation>
+    </message>
+    <message>
+        <source>With %1 more a month it still has no end.</source>
+        <translation>Auch mit %1 mehr im Monat endet es nicht.</translation>
+    </message>
+    <message>
+        <source>With %1 more a month it ends on %2.</source>
+        <translation>Mit %1 mehr im Monat endet es am %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>With %1 more a month it ends on %2, %n days earlier.</source>
+        <translation>
+            <numerusform>Mit %1 mehr im Monat endet es am %2, %n Tag früher.</numerusform>
+            <numerusform>Mit %1 mehr im Monat endet es am %2, %n Tage früher.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>That spares %1 of interest.</source>
+        <translation>Das spart %1 Zinsen.</translation>
+    </message>
+    <message>
+        <source>What is to come</source>
+        <translation>Was kommt</translation>
+    </message>
+    <message>
+        <source>So much more a month</source>
+        <translation>So viel mehr im Monat</translation>
+    </message>
+    <message>
+        <source>Day on which late payments count (default: today)</source>
+        <translation>Tag, an dem verspätete Zahlungen zählen (Standard: heute)</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>List the payments to come until nothing is left</source>
+        <translation>Die kommenden Zahlungen auflisten, bis nichts mehr bleibt</translation>
+    </message>
+    <message>
+        <source>Home answers five questions: what is free to spend, what is due, which day ahead is the lowest, what else there is, and what needs care.
+
+Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
+        <translation>Die Startseite beantwortet fünf Fragen: was frei verfügbar ist, was fällig ist, welcher kommende Tag der tiefste ist, was sonst noch da ist und was Aufmerksamkeit braucht.
+
+Vom Saldo jedes Bankkontos ist ein Teil zurückgelegt, für Ziele und für das, was seltener als monatlich bezahlt wird; der Rest ist frei. Was in diesem Monat noch fällig ist, steht dabei. Enter auf einem Konto zeigt seine Zeilen.
+
+Jede fällige Zeile hat eigene Schaltflächen: bezahlen, überspringen oder für einen anderen Betrag zur Seite „Fällig“ gehen. Ein Saldo ist der der Bank, mit den Zielen, die auf dem Konto liegen. Ohne Wechselkurs stehen Beträge in ihrer eigenen Währung, und was Summen auslassen, wird genannt.</translation>
+    </message>
+    <message>
+        <source>What is to come, if everything regular goes on: each item on each of its days, what is late today, and what was entered for later days. A goal ends when it is reached, a debt when it is paid off. Money that is set aside for goals is not counted.
+
+The arrow keys go through the days of the chart. Each row of the upper table has its own chart and payments; the lower table has the same numbers as the chart.
+
+The fields ask what if: more or fewer days, an amount that should always be there, items that are left out (also by Del on a payment), and an amount that is paid on a day, or received if it has a minus. Enter asks, Esc starts again. The budget stays as it is.</source>
+        <translation>Was kommt, wenn alles Regelmäßige weitergeht: jeder Posten an jedem seiner Tage, Verspätetes heute, und was für spätere Tage eingetragen ist. Ein Ziel endet, wenn es erreicht ist, eine Schuld, wenn sie abbezahlt ist. Geld, das in Zielen liegt, zählt nicht.
+
+Die Pfeiltasten gehen durch die Tage des Diagramms. Jede Zeile der oberen Tabelle hat ihr eigenes Diagramm und ihre Zahlungen; die untere Tabelle hat dieselben Zahlen wie das Diagramm.
+
+Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der immer da sein soll, Posten, die weggelassen werden (auch mit Entf auf einer Zahlung), und ein Betrag, der an einem Tag gezahlt wird, oder mit einem Minus eingeht. Enter fragt, Esc fängt neu an. Das Budget bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>All together</source>
+        <translation>Alle zusammen</translation>
+    </message>
+    <message>
+        <source>%1, due on %2</source>
+        <translation>%1, fällig am %2</translation>
+    </message>
+    <message>
+        <source>Balance then</source>
+        <translation>Saldo danach</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7591,6 +7726,21 @@ Strg+I liest Journale von ledger und hledger, wie sie sind. Andere Programme exp
     <message>
         <source>Choose an item or a category.</source>
         <translation>Einen Posten oder eine Kategorie wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ChartView</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -8345,6 +8495,10 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>Other balances</source>
         <translation>Andere Salden</translation>
     </message>
+    <message>
+        <source>Look ahead</source>
+        <translation>Vorausschauen</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HouseholdStep</name>
@@ -8847,6 +9001,17 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ItemSchedule</name>
+    <message>
+        <source>Payments to come</source>
+        <translation>Kommende Zahlungen</translation>
+    </message>
+    <message>
+        <source>If so much more were paid a month:</source>
+        <translation>Wenn im Monat so viel mehr gezahlt würde:</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemsPage</name>
     <message>
         <source>Items</source>
@@ -8968,6 +9133,57 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::OutlookPage</name>
+    <message>
+        <source>Outlook</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Days ahead:</source>
+        <translation>&amp;Tage voraus:</translation>
+    </message>
+    <message>
+        <source>&amp;Not below:</source>
+        <translation>N&amp;icht unter:</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out:</source>
+        <translation>&amp;Weglassen:</translation>
+    </message>
+    <message>
+        <source>What if I &amp;pay:</source>
+        <translation>Wenn ich &amp;zahle:</translation>
+    </message>
+    <message>
+        <source>&amp;On:</source>
+        <translation>&amp;Am:</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>What is paid and received</source>
+        <translation>Was gezahlt wird und eingeht</translation>
+    </message>
+    <message>
+        <source>What if? Nothing of this is kept. An amount with a minus comes in.</source>
+        <translation>Was wäre, wenn? Nichts davon wird behalten. Ein Betrag mit Minus geht ein.</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k ahead</source>
+        <translation>&amp;Vorausschauen</translation>
+    </message>
+    <message>
+        <source>Start &amp;again</source>
+        <translation>Neu an&amp;fangen</translation>
+    </message>
+    <message>
+        <source>Only items of the budget can be left out.</source>
+        <translation>Nur Posten des Budgets können weggelassen werden.</translation>
     </message>
 </context>
 <context>

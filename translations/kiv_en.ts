@@ -360,6 +360,41 @@
             <numerusform>The day %1 is in %n years.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</source>
+        <translation>
+            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payment, with interest of about %4 a year.</numerusform>
+            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>No wage comes within %n days.</source>
+        <translation>
+            <numerusform>No wage comes within %n day.</numerusform>
+            <numerusform>No wage comes within %n days.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payments.</source>
+        <translation>
+            <numerusform>The goal '%1' lacks %2: reached on %3, after %n payment.</numerusform>
+            <numerusform>The goal '%1' lacks %2: reached on %3, after %n payments.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments.</source>
+        <translation>
+            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payment.</numerusform>
+            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payments.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>With %1 more a month it ends on %2, %n days earlier.</source>
+        <translation>
+            <numerusform>With %1 more a month it ends on %2, %n day earlier.</numerusform>
+            <numerusform>With %1 more a month it ends on %2, %n days earlier.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

@@ -6722,18 +6722,6 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <translation>De lo que se paga cada mes, aún vence hasta el %1: %2.</translation>
     </message>
     <message>
-        <source>Home answers four questions: what is free to spend, what is due, what else there is, and what needs care.
-
-Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
-
-Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
-        <translation>El inicio responde a cuatro preguntas: qué queda libre para gastar, qué vence, qué más hay y qué requiere atención.
-
-Del saldo de cada cuenta bancaria, una parte está apartada para las metas y para lo que se paga con menos frecuencia que cada mes; el resto está libre. Al lado se dice lo que aún vence este mes. Intro en una cuenta muestra sus líneas.
-
-Cada línea de lo que vence tiene sus botones: pagarla, omitirla o ir a la página de vencimientos para otro importe. Un saldo es el del banco, con las metas que están en la cuenta. Sin tipo de cambio, los importes se muestran en su propia moneda, y se nombra lo que las sumas dejan fuera.</translation>
-    </message>
-    <message>
         <source>The budget&apos;s items of five kinds. Bills, debts and free spending are paid, goals are saved for, wages come in. Each has an amount, how often it recurs and its next day. Enter changes an item, Del removes it.
 
 Below the table stands how what is set aside for the chosen item comes about: what the last survey had, what was added since and why, and what was paid. A goal that is reached and a debt that is paid off can be ended there: they are due no longer. The last tab has all that is set aside, account by account; Enter shows the item.</source>
@@ -7215,6 +7203,153 @@ Ctrl+I takes journals of ledger and hledger as they are. Other programs export e
         <translation>Desde otro programa
 Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan cada cuenta como QIF, OFX o CSV. Añadir la cuenta con el saldo que tenía antes del primer apunte del archivo, e importar. Al final, comparar los saldos.</translation>
     </message>
+    <message>
+        <source>%1 is behind %2, the last day that is looked at.</source>
+        <translation>El %1 es posterior al %2, el último día de la previsión.</translation>
+    </message>
+    <message>
+        <source>What is to come cannot be told: its amounts become too large.</source>
+        <translation>No se puede decir lo que vendrá: los importes son demasiado grandes.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; has no schedule: it is not due regularly, or its amount is not above zero.</source>
+        <translation>«%1» no tiene plan de pagos: no vence con regularidad o su importe no es mayor que cero.</translation>
+    </message>
+    <message>
+        <source>What is paid more a month must be above zero.</source>
+        <translation>Lo que se paga de más al mes debe ser mayor que cero.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</source>
+        <translation>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pago, con intereses de alrededor del %4 al año.</numerusform>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pagos, con intereses de alrededor del %4 al año.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>At least %1</source>
+        <translation>Al menos %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>No wage comes within %n days.</source>
+        <translation>
+            <numerusform>En %n día no llega ningún sueldo.</numerusform>
+            <numerusform>En %n días no llega ningún sueldo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next wage comes on %1.</source>
+        <translation>El próximo sueldo llega el %1.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; is reached.</source>
+        <translation>La meta «%1» está alcanzada.</translation>
+    </message>
+    <message>
+        <source>The goal &apos;%1&apos; lacks %2; as it is saved for now, it has no end.</source>
+        <translation>A la meta «%1» le faltan %2; tal como se ahorra, no tiene fin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payments.</source>
+        <translation>
+            <numerusform>A la meta «%1» le faltan %2: alcanzada el %3, tras %n pago.</numerusform>
+            <numerusform>A la meta «%1» le faltan %2: alcanzada el %3, tras %n pagos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments.</source>
+        <translation>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pago.</numerusform>
+            <numerusform>De la deuda «%1» quedan %2: pagada el %3, tras %n pagos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Interest is left out: the account of the debt shows none.</source>
+        <translation>Los intereses no se cuentan: la cuenta de la deuda no muestra ninguno.</translation>
+    </message>
+    <message>
+        <source>With interest of about %1 a year: from %2 to %3 the account of the debt was charged with %4.</source>
+        <translation>Con intereses de alrededor del %1 al año: del %2 al %3 se cargaron %4 en la cuenta de la deuda.</translation>
+    </message>
+    <message>
+        <source>Interest to come: %1.</source>
+        <translation>Intereses por venir: %1.</translation>
+    </message>
+    <message>
+        <source>With %1 more a month it still has no end.</source>
+        <translation>Aun con %1 más al mes no tiene fin.</translation>
+    </message>
+    <message>
+        <source>With %1 more a month it ends on %2.</source>
+        <translation>Con %1 más al mes termina el %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>With %1 more a month it ends on %2, %n days earlier.</source>
+        <translation>
+            <numerusform>Con %1 más al mes termina el %2, %n día antes.</numerusform>
+            <numerusform>Con %1 más al mes termina el %2, %n días antes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>That spares %1 of interest.</source>
+        <translation>Así se ahorran %1 de intereses.</translation>
+    </message>
+    <message>
+        <source>What is to come</source>
+        <translation>Lo que vendrá</translation>
+    </message>
+    <message>
+        <source>So much more a month</source>
+        <translation>Tanto más al mes</translation>
+    </message>
+    <message>
+        <source>Day on which late payments count (default: today)</source>
+        <translation>Día en que cuentan los pagos atrasados (por defecto: hoy)</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Resto</translation>
+    </message>
+    <message>
+        <source>List the payments to come until nothing is left</source>
+        <translation>Listar los pagos por venir hasta que no quede nada</translation>
+    </message>
+    <message>
+        <source>Home answers five questions: what is free to spend, what is due, which day ahead is the lowest, what else there is, and what needs care.
+
+Of the balance of each bank account, a part is set aside for what is paid less often than monthly and for goals; the rest is free. What is still due this month is told beside it. Enter on an account shows its lines.
+
+Each line of what is due has its own buttons: pay it, skip it, or go to the page “Due” for another amount. A balance is that of the bank, with the goals that lie in the account. Without an exchange rate, amounts are shown in their own currency, and what sums leave out is named.</source>
+        <translation>El inicio responde a cinco preguntas: qué queda libre para gastar, qué vence, qué día próximo es el más bajo, qué más hay y qué requiere atención.
+
+Del saldo de cada cuenta bancaria, una parte está apartada para las metas y para lo que se paga con menos frecuencia que cada mes; el resto está libre. Al lado se dice lo que aún vence este mes. Intro en una cuenta muestra sus líneas.
+
+Cada línea de lo que vence tiene sus botones: pagarla, omitirla o ir a la página de vencimientos para otro importe. Un saldo es el del banco, con las metas que están en la cuenta. Sin tipo de cambio, los importes se muestran en su propia moneda, y se nombra lo que las sumas dejan fuera.</translation>
+    </message>
+    <message>
+        <source>What is to come, if everything regular goes on: each item on each of its days, what is late today, and what was entered for later days. A goal ends when it is reached, a debt when it is paid off. Money that is set aside for goals is not counted.
+
+The arrow keys go through the days of the chart. Each row of the upper table has its own chart and payments; the lower table has the same numbers as the chart.
+
+The fields ask what if: more or fewer days, an amount that should always be there, items that are left out (also by Del on a payment), and an amount that is paid on a day, or received if it has a minus. Enter asks, Esc starts again. The budget stays as it is.</source>
+        <translation>Lo que vendrá si todo lo regular sigue: cada partida en cada uno de sus días, lo atrasado hoy, y lo registrado para días posteriores. Una meta termina cuando se alcanza, una deuda cuando se ha pagado. El dinero de las metas no cuenta.
+
+Las flechas recorren los días del gráfico. Cada fila de la tabla superior tiene su propio gráfico y sus pagos; la tabla inferior tiene los mismos números que el gráfico.
+
+Los campos preguntan qué pasaría: más o menos días, un importe que siempre debe quedar, partidas que se omiten (también con Supr en un pago), y un importe que se paga en un día, o se recibe si lleva un menos. Intro pregunta, Esc vuelve a empezar. El presupuesto queda como está.</translation>
+    </message>
+    <message>
+        <source>All together</source>
+        <translation>Todas juntas</translation>
+    </message>
+    <message>
+        <source>%1, due on %2</source>
+        <translation>%1, vencía el %2</translation>
+    </message>
+    <message>
+        <source>Balance then</source>
+        <translation>Saldo después</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7591,6 +7726,21 @@ Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan
     <message>
         <source>Choose an item or a category.</source>
         <translation>Elegir una partida o una categoría.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ChartView</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -8345,6 +8495,10 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>Other balances</source>
         <translation>Otros saldos</translation>
     </message>
+    <message>
+        <source>Look ahead</source>
+        <translation>Mirar adelante</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HouseholdStep</name>
@@ -8847,6 +9001,17 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ItemSchedule</name>
+    <message>
+        <source>Payments to come</source>
+        <translation>Pagos por venir</translation>
+    </message>
+    <message>
+        <source>If so much more were paid a month:</source>
+        <translation>Si se pagara tanto más al mes:</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::ItemsPage</name>
     <message>
         <source>Items</source>
@@ -8968,6 +9133,57 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::OutlookPage</name>
+    <message>
+        <source>Outlook</source>
+        <translation>Previsión</translation>
+    </message>
+    <message>
+        <source>&amp;Days ahead:</source>
+        <translation>&amp;Días por delante:</translation>
+    </message>
+    <message>
+        <source>&amp;Not below:</source>
+        <translation>&amp;No bajar de:</translation>
+    </message>
+    <message>
+        <source>&amp;Leave out:</source>
+        <translation>&amp;Omitir:</translation>
+    </message>
+    <message>
+        <source>What if I &amp;pay:</source>
+        <translation>Si &amp;pago:</translation>
+    </message>
+    <message>
+        <source>&amp;On:</source>
+        <translation>En la &amp;fecha:</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Cuentas</translation>
+    </message>
+    <message>
+        <source>What is paid and received</source>
+        <translation>Lo que se paga y se recibe</translation>
+    </message>
+    <message>
+        <source>What if? Nothing of this is kept. An amount with a minus comes in.</source>
+        <translation>¿Qué pasaría? Nada de esto se guarda. Un importe con un menos se recibe.</translation>
+    </message>
+    <message>
+        <source>Loo&amp;k ahead</source>
+        <translation>&amp;Mirar adelante</translation>
+    </message>
+    <message>
+        <source>Start &amp;again</source>
+        <translation>Empe&amp;zar de nuevo</translation>
+    </message>
+    <message>
+        <source>Only items of the budget can be left out.</source>
+        <translation>Solo se pueden omitir partidas del presupuesto.</translation>
     </message>
 </context>
 <context>
