@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "adviser/budget_health.h"
 
+#include "adviser/income_shares.h"
+
 #include "foundation/enum_table.h"
 #include "foundation/streams.h"
-#include "numira/local_text.h"
 
 #include <QtCore/QObject>
-
-#include <boost/multiprecision/cpp_int.hpp>
 
 #include <algorithm>
 #include <array>
 #include <stdexcept>
-#include <string>
 
 namespace kiv::adviser {
 
@@ -29,69 +27,6 @@ const char *nameOf(HealthGrade grade)
     return gradeNames.at(static_cast<std::size_t>(grade));
 }
 
-constexpr int needsMax = 50;
-constexpr int freeSpendingMax = 30;
-constexpr int savingsMin = 20;
-constexpr int debtsMax = 36;
-
-using boost::multiprecision::cpp_int;
-
-/// The amount in units of its last digit, an integer of any size.
-cpp_int unitsOf(const numira::Money &money)
-{
-    std::string digits = money.amount().toText(numira::Decimal::scaleDigits);
-    std::erase(digits, '.');
-    // Leading zeros would make it an octal number.
-    digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
-    return cpp_int(digits);
-}
-
-enum class Rounding : std::uint8_t { Up, Down };
-
-/// The share of the income in percent, computed exactly, with one digit behind the
-/// point. It is rounded so that a missed limit never reads as if it were met.
-std::string shareOf(const cpp_int &part, const cpp_int &income, Rounding rounding)
-{
-    cpp_int tenths;
-    cpp_int rest;
-    divide_qr(cpp_int(part * 1000), income, tenths, rest);
-    if (rounding == Rounding::Up && rest != 0)
-        ++tenths;
-    const cpp_int whole = tenths / 10;
-    const cpp_int tenth = tenths % 10;
-    return tenth == 0 ? whole.str() : whole.str() + '.' + tenth.str();
-}
-
-/// `sentence` has the places %1 for the share and %2 for the limit.
-HealthReason reason(bool isSound, const char *sentence, const std::string &share, int percent)
-{
-    constexpr std::size_t lengthMax = 20; // of a share that people could read
-    const QString limit = QString::number(percent);
-    const std::string local =
-        share.size() > lengthMax ? share : numira::toLocalText(numira::Decimal::fromText(share));
-    return {isSound, QObject::tr(sentence).arg(QString::fromStdString(local), limit),
-            QString::fromLatin1(sentence).arg(QString::fromStdString(share), limit)};
-}
-
-HealthReason atMost(int percent, const char *sentence, const numira::Money &part,
-                    const numira::Money &income)
-{
-    const cpp_int share = unitsOf(part);
-    const cpp_int all = unitsOf(income);
-    const bool isSound = share * 100 <= all * percent;
-    return reason(isSound, sentence, shareOf(share, all, isSound ? Rounding::Down : Rounding::Up),
-                  percent);
-}
-
-HealthReason atLeast(int percent, const char *sentence, const numira::Money &part,
-                     const numira::Money &income)
-{
-    const cpp_int share = unitsOf(part);
-    const cpp_int all = unitsOf(income);
-    return reason(share * 100 >= all * percent, sentence, shareOf(share, all, Rounding::Down),
-                  percent);
-}
-
 HealthReason withoutShare(bool isSound, const char *sentence)
 {
     return {isSound, QObject::tr(sentence), QString::fromLatin1(sentence)};
@@ -99,28 +34,10 @@ HealthReason withoutShare(bool isSound, const char *sentence)
 
 std::vector<HealthReason> judgeShares(const budgeting::BudgetTotals &totals)
 {
-    const numira::Money &income = totals.wages();
-    return {
-        atMost(100,
-               QT_TRANSLATE_NOOP("QObject",
-                                 "%1 % of the income is planned; at most %2 % is possible."),
-               totals.outgoing(), income),
-        atMost(needsMax,
-               QT_TRANSLATE_NOOP("QObject",
-                                 "Bills and debts take %1 % of the income; up to %2 % is sound."),
-               totals.bills() + totals.debts(), income),
-        atMost(debtsMax,
-               QT_TRANSLATE_NOOP("QObject", "Debts take %1 % of the income; up to %2 % is sound."),
-               totals.debts(), income),
-        atMost(freeSpendingMax,
-               QT_TRANSLATE_NOOP("QObject",
-                                 "Free spending takes %1 % of the income; up to %2 % is sound."),
-               totals.nontracks(), income),
-        atLeast(
-            savingsMin,
-            QT_TRANSLATE_NOOP("QObject", "Goals get %1 % of the income; from %2 % on is sound."),
-            totals.goals(), income),
-    };
+    std::vector<HealthReason> reasons;
+    for (const IncomeShare &share : incomeShares(totals))
+        reasons.push_back({share.isSound, presentationText(share), toQString(share)});
+    return reasons;
 }
 
 /// The first reason is whether the income covers everything.

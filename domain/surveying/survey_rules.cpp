@@ -79,11 +79,18 @@ std::vector<BudgetItemAmountDue> monthlyPaymentsDue(QDate date, const budgeting:
     return due;
 }
 
+numira::Money toleranceOf(const numira::Money &statement, const foundation::Percentage &window)
+{
+    if (statement == 0)
+        return {statement.code(), 1, 0};
+    return {statement.code(), statement.amount().abs() * window.fraction()};
+}
+
 bool agrees(const numira::Money &calculated, const foundation::Percentage &window,
             const numira::Money &statement)
 {
     // A part of zero is zero, so there the window is one major unit.
-    const numira::Money unit(calculated.code(), 1, 0);
+    const numira::Money unit = toleranceOf(numira::Money(calculated.code()), window);
     return statement == 0 ? -unit < calculated && calculated < unit
                           : accounting::isWithinWindow(calculated, window, statement,
                                                        accounting::ByMajorUnit(true));

@@ -32,6 +32,12 @@ otherHolders(const budgeting::BudgetItemIdentifier &item, const banking::BankAcc
 [[nodiscard]] KIV_SURVEYING_EXPORT std::vector<budgeting::BudgetItemAmountDue>
 monthlyPaymentsDue(QDate date, const budgeting::Budget &budget, QDate today);
 
+/// By how much the books may differ from the balance of a statement: the window's part of it, to
+/// the last digit of an amount. Of a balance of zero it is one major unit, which itself is too
+/// much.
+[[nodiscard]] KIV_SURVEYING_EXPORT numira::Money toleranceOf(const numira::Money &statement,
+                                                             const foundation::Percentage &window);
+
 /// Whether a survey accepts the balance of a statement: what the books come to differs from it
 /// by at most the window, or from a balance of zero by less than one major unit. Throws what a
 /// missing exchange rate throws.

@@ -95,7 +95,7 @@ never offered:
   kiv: There is no option '--json'; see kiv completion bash --help.
   [2]
   $ echo $(kiv completion words)
-  new demo info save save-as wizard templates undo redo history check encrypt decrypt accounts ledger account spend earn transfer transactions transaction refundable refund find bill debt goal nontrack wage tags due post pay skip banks bank bank-account import rules survey reconciliations reconciliation envelopes outlook dashboard report export configure rates shell watch tour updates release-notes completion
+  new demo info save save-as wizard templates undo redo history check encrypt decrypt accounts ledger account spend earn transfer transactions transaction refundable refund find bill debt goal nontrack wage tags due post pay skip banks bank bank-account import rules survey reconciliations reconciliation envelopes outlook explain dashboard report export configure rates shell watch tour updates release-notes completion
 
 A rates file that cannot be read gets another name, which is told:
 

@@ -4,6 +4,7 @@
 #include "workbench/entry/description.h"
 #include "workbench/entry/money_text.h"
 #include "workbench/internal/faults.h"
+#include "workbench/requests/balances.h"
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/surveys/set_aside.h"
 #include "workbench/surveys/survey_notes.h"
@@ -231,11 +232,7 @@ Money Replacing::countedOf(AccountNumber child, const Family &members)
         m_notes.counted[m_said.by].insert(number);
         if (isWithin)
             m_within.insert(number);
-        const bool isDebited = one.debiting().number() == child;
-        if (isDebited == accounting::isDebitNormal(account.type()))
-            counted += one.amountFor(child);
-        else
-            counted -= one.amountFor(child);
+        counted += changeOf(one, account);
     }
     return counted;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/surveys/set_aside.h"
 
+#include "workbench/requests/balances.h"
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/requests/paying_account.h"
 
@@ -39,21 +40,6 @@ OwnAccount ownAccount(const BudgetStorage::Data &data, const BudgetItemIdentifie
 bool liesUnderAnother(const OwnAccount &own, AccountNumber account)
 {
     return own && own->code().parent() && *own->code().parent() != account;
-}
-
-Money balanceOn(QDate day, const LedgerAccount &account)
-{
-    Money balance(account.balance().code());
-    const AccountNumber number = account.code().number();
-    for (const Transaction &transaction : account.transactions()) {
-        if (transaction.occurredOn() > day)
-            continue;
-        if (transaction.debiting().number() == number)
-            balance += transaction.amountFor(number);
-        else
-            balance -= transaction.amountFor(number);
-    }
-    return balance;
 }
 
 /// What went to the account of an item, and what came back from it.
@@ -117,10 +103,10 @@ private:
 void SettingAside::addBalances()
 {
     const accounting::GeneralLedger &ledger = m_data.generalLedger;
-    m_made.balance = balanceOn(m_made.day, ledger.ledger(m_number));
+    m_made.balance = balanceOn(ledger.ledger(m_number), m_made.day);
     for (const AccountNumber child :
          ledger.lookUpChildren(m_number, accounting::OpenStates::Either)) {
-        const Money balance = balanceOn(m_made.day, ledger.ledger(child));
+        const Money balance = balanceOn(ledger.ledger(child), m_made.day);
         if (const auto converted = convertedIfKnown(balance, m_currency))
             m_made.balance += converted->rounded();
         else

@@ -8,6 +8,7 @@
 
 #include "workbench/document/account_conversion.h"
 #include "workbench/requests/account_changes.h"
+#include "workbench/requests/balances.h"
 
 namespace kiv::app {
 
@@ -131,7 +132,7 @@ private:
                                            ? transaction.crediting()
                                            : transaction.debiting();
             QJsonObject row = toJson(transaction);
-            row.insert(QStringLiteral("change"), toJson(changeBy(transaction, ledger)));
+            row.insert(QStringLiteral("change"), toJson(workbench::changeOf(transaction, ledger)));
             row.insert(QStringLiteral("balance"), toJson(entry.balance));
             row.insert(QStringLiteral("status"), accounting::toQString(transaction.status()));
             row.insert(QStringLiteral("other"), toJson(other.number()));
@@ -139,14 +140,6 @@ private:
             return row;
         }
     };
-
-    static numira::Money changeBy(const Transaction &transaction, const Account &account)
-    {
-        const AccountNumber number = account.code().number();
-        const bool isDebited = transaction.debiting().number() == number;
-        const numira::Money &amount = transaction.amountFor(number);
-        return isDebited == accounting::isDebitNormal(account.type()) ? amount : -amount;
-    }
 
     /// The account's transactions by day, with the balance after each.
     [[nodiscard]] Rows rowsOf(accounting::LedgerAccount ledger,
@@ -159,7 +152,7 @@ private:
         std::vector<Entry> entries;
         numira::Money balance(ledger.balance().code());
         for (const auto &[day, number] : byDay) {
-            balance += changeBy(ledger.transactions().find(number).value(), ledger);
+            balance += workbench::changeOf(ledger.transactions().find(number).value(), ledger);
             if (!(from && day < *from) && !(to && day > *to))
                 entries.push_back({number, balance});
         }

@@ -29,6 +29,7 @@ void declareCommands(CLI::App &app, const Declaring &declaring)
     addReconciliationCommands(root);
     addEnvelopeCommands(root);
     addOutlookCommands(root);
+    addExplainCommands(root);
     root.setHeading(QObject::tr("Reports and export"));
     addDashboardCommands(root);
     addReportCommands(root);

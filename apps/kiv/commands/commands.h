@@ -25,6 +25,7 @@ void addSurveyCommands(CommandGroup &root);
 void addReconciliationCommands(CommandGroup &root);
 void addEnvelopeCommands(CommandGroup &root);
 void addOutlookCommands(CommandGroup &root);
+void addExplainCommands(CommandGroup &root);
 void addDashboardCommands(CommandGroup &root);
 void addReportCommands(CommandGroup &root);
 void addExportCommands(CommandGroup &root);
