@@ -3,6 +3,7 @@
 
 #include "actions/palette_sources.h"
 #include "pages/all_pages.h"
+#include "pages/explanation_panel.h"
 #include "pages/welcome_page.h"
 #include "session/file_outputs.h"
 #include "session/help_session.h"
@@ -42,6 +43,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
       m_palette(nullptr),
       m_list(new QListWidget(this)),
       m_stack(new QStackedWidget(this)),
+      m_panel(new ExplanationPanel(*m_desk, this)),
       m_welcome(nullptr),
       m_wizard(nullptr),
       m_systemPalette(QApplication::palette()),
@@ -63,6 +65,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     connect(m_session, &FileSession::keptChanged, this, &MainWindow::showTitle);
     connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
     connect(m_desk, &Desk::looksChanged, this, &MainWindow::applyLooks);
+    connect(m_desk, &Desk::refreshWanted, this, &MainWindow::followFigure);
     if (!restoreGeometry(m_given.settings.state(windowKey)))
         resize(1000, 560);
     showOpened();
@@ -81,6 +84,7 @@ void MainWindow::build()
     auto *right = new QVBoxLayout;
     right->addWidget(m_notices);
     right->addWidget(m_stack, 1);
+    right->addWidget(m_panel);
     sides->addLayout(right, 1);
     setCentralWidget(central);
     statusBar()->addWidget(m_announcer, 1);
@@ -109,6 +113,10 @@ void MainWindow::addPages()
     for (Page *page : m_pages) {
         addScrolled(page);
         m_list->addItem(page->title());
+        connect(page, &Page::figureChosen, this, [this, page] {
+            if (page == this->page())
+                followFigure();
+        });
     }
     m_wizard = new FirstTimeWizard(*m_desk, *m_session);
     connect(m_wizard, &FirstTimeWizard::left, this, &MainWindow::showOpened);
@@ -181,6 +189,8 @@ void MainWindow::addViewActions()
             m_desk->say(tr("Text size %1 %").arg(m_given.settings.textSize()));
         });
     };
+    m_actions->add(QStringLiteral("explain"), Group::View, tr("&Explain this number"),
+                   QKeySequence(Qt::Key_F9), [this] { explain(); });
     addSize("larger", tr("L&arger text"), QKeySequence(Qt::CTRL | Qt::Key_Plus),
             [](int size) { return size + 10; });
     addSize("smaller", tr("S&maller text"), QKeySequence(Qt::CTRL | Qt::Key_Minus),
@@ -253,6 +263,8 @@ void MainWindow::goTo(const Place &place)
     Page *wanted = *found;
     const int row = static_cast<int>(found - m_pages.begin());
     const bool isOther = wanted != page();
+    if (isOther)
+        m_panel->close();
     m_stack->setCurrentIndex(row + 1);
     m_list->setCurrentRow(row);
     wanted->bringUpToDate();
@@ -265,6 +277,27 @@ void MainWindow::goTo(const Place &place)
             wanted->firstFocus()->setFocus(Qt::OtherFocusReason);
         m_desk->say(wanted->title());
     }
+    followFigure();
+}
+
+void MainWindow::explain()
+{
+    if (m_panel->isAncestorOf(QApplication::focusWidget()))
+        m_panel->close();
+    else if (page())
+        m_panel->open(page()->explanation());
+}
+
+void MainWindow::followFigure()
+{
+    const Explain explanation = page() ? page()->explanation() : Explain();
+    ActionCollection::allow(m_actions->action(QStringLiteral("explain")), bool(explanation),
+                            page() ? tr("No number is chosen that can be explained.")
+                                   : tr("No budget is open."));
+    if (!explanation)
+        m_panel->close();
+    else if (m_panel->isVisible())
+        m_panel->explain(explanation);
 }
 
 void MainWindow::goThrough(std::vector<Place> &from, std::vector<Place> &to)
@@ -315,6 +348,7 @@ void MainWindow::showOpened()
         m_stack->setCurrentIndex(0);
         m_welcome->firstFocus()->setFocus(Qt::OtherFocusReason);
     }
+    followFigure();
     showTitle();
 }
 
@@ -324,6 +358,7 @@ void MainWindow::showWizard()
     m_stack->setCurrentIndex(m_stack->count() - 1);
     m_list->setCurrentRow(-1);
     m_wizard->firstFocus()->setFocus(Qt::OtherFocusReason);
+    followFigure();
 }
 
 void MainWindow::showTitle()

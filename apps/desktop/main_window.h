@@ -14,6 +14,7 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+class ExplanationPanel;
 class FirstTimeWizard;
 class HelpSession;
 class WelcomePage;
@@ -65,6 +66,10 @@ private:
     void showTitle();
     void goThrough(std::vector<Place> &from, std::vector<Place> &to);
     void focusNextPart();
+    /// Explains the figure that is chosen; closes the panel if the focus is there already.
+    void explain();
+    /// Brings the panel, and whether it can be opened, in line with what is chosen.
+    void followFigure();
 
     Surroundings m_given;
     ActionCollection *m_actions;
@@ -76,6 +81,7 @@ private:
     CommandPalette *m_palette;
     QListWidget *m_list;
     QStackedWidget *m_stack;
+    ExplanationPanel *m_panel;
     WelcomePage *m_welcome;
     FirstTimeWizard *m_wizard;
     std::vector<Page *> m_pages;

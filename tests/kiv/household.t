@@ -49,8 +49,8 @@ A month, from nothing to what is on file:
        3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Checking  Salary                         $3,100.00
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light     Checking                          $19.10
   $ kiv ledger Checking | tail -2
-       3  2026-02-01  Processed the budget item due on Sun Jan 25 2026.  Salary                          $3,100.00  $4,350.00  cleared
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light                             -$19.10  $4,330.90  none
+  4 transactions, together $4,330.90.
   $ kiv info
   File            household.budget
   Encrypted       no
@@ -68,6 +68,7 @@ The day of the month that an item was given outlives a short month:
   Name      Amount  Every      Next        Tags
   Light     $90.00  quarterly  2026-03-10  home
   Rent   $1,250.00  monthly    2026-02-28
+  Together a month: $1,280.00
   $ kiv skip Rent >/dev/null
 
 Programs read JSON:
@@ -118,6 +119,8 @@ What is due, by day:
   Due         Item    Kind     Amount  When
   2026-01-25  Salary  wage  $3,100.00  2 days late
   2026-01-31  Rent    bill  $1,250.00  in 4 days
+  To pay until 2026-02-10: $1,250.00.
+  To come in until 2026-02-10: $3,100.00.
   $ kiv due --date 2026-01-27 --within 3 --json | jq -c .[]
   {"amount":{"amount":"3100.00","currency":"USD"},"due":"2026-01-25","inDays":-2,"kind":"wage","name":"Salary"}
   $ kiv due --date 2026-01-01 --within 0

@@ -48,10 +48,12 @@ Amounts, days and words are the user's:
   Fällig      Posten  Art           Betrag  Wann
   01.03.2026  Rent    Rechnung    850,00 €  in 2 Tagen
   02.03.2026  Salary  Lohn      1.500,10 €  in 3 Tagen
+  Zu zahlen bis 13.03.2026: 850,00 €.
+  Zu erwarten bis 13.03.2026: 1.500,10 €.
   $ de due --date 2026-03-02 | tail -2
-  01.03.2026  Rent    Rechnung    850,00 €  1 Tag überfällig
-  02.03.2026  Salary  Lohn      1.500,10 €  heute
-  $ kiv due --date 2026-03-02 | tail -2
+  Zu zahlen bis 16.03.2026: 850,00 €.
+  Zu erwarten bis 16.03.2026: 1.500,10 €.
+  $ kiv due --date 2026-03-02 | sed -n 2,3p
   2026-03-01  Rent    bill    €850.00  1 day late
   2026-03-02  Salary  wage  €1,500.10  today
 

@@ -85,6 +85,8 @@ What is there is told:
        7  Expenses:Old:Food                         $0.00
        3  Expenses:Rent                           $100.00
        4  Income:Salary                             $0.00
+  At banks and in cash: $2,392.00, €7.40.
+  Together: $2,392.00, €7.40.
   $ kiv banks
   First
   Number  Account   Type                Balance
@@ -113,6 +115,8 @@ What is there is told:
   2026-01-31  Rent    bill  $1,250.00  2 days late
   2026-02-03  Gym     bill     $30.00  tomorrow
   2026-02-05  Trip    goal     $50.00  in 3 days
+  To pay until 2026-02-05: $1,330.00.
+  To come in until 2026-02-05: $3,100.00.
   $ kiv tags list
   home
   sport
@@ -200,9 +204,10 @@ What was closed is opened again, and what was added is removed:
   > account open Jar
   > bank open Second
   > .
-  $ kiv accounts --type asset --open | tail -2
+  $ kiv accounts --type asset --open | tail -3
        5  Assets:Jar           $0.00
        6  Assets:Pot           $0.00
+  At banks and in cash: $2,500.00.
   $ for account in Jar Pot; do kiv bank-account remove $account; done >/dev/null
   $ kiv bank remove First
   Removed the bank 'First'.

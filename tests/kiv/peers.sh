@@ -9,15 +9,17 @@ own() {
         .balance.amount + " " + .balance.currency' | sed 's/  --/  /' | plain
 }
 
-# peer ledger|hledger JOURNAL
+# peer ledger|hledger JOURNAL [ARGUMENTS]
 peer() {
+    tool=$1 journal=$2
+    shift 2
     # Either format is that tool's own.
-    case $1 in
+    case $tool in
     ledger) set -- "$@" --balance-format '%(account)  %(quantity(scrub(amount))) %(commodity(scrub(amount)))
 ' ;;
     hledger) set -- "$@" --format '%(account)  %(total)' ;;
     esac
-    "$1" -f "$2" balance --flat --no-total "$3" "$4" | plain
+    "$tool" -f "$journal" balance --flat --no-total "$@" | plain
 }
 
 # "$-5,200.00" and "-5200 $" are the same amount. No path holds two blanks.

@@ -44,6 +44,7 @@ What comes to nothing does not stop what else is due:
   Name     Amount  Every    Next        Tags
   Rent  $1,250.00  monthly  2026-02-28
   Zero      $0.00  monthly  2026-02-28
+  Together a month: $1,250.00
 
 Without an exchange rate, the rest is shown:
 
@@ -59,6 +60,7 @@ Without an exchange rate, the rest is shown:
   Name        Amount  Every    Next        Tags
   Lessons  CHF\xc2\xa010.00  monthly  2026-04-01 (esc)
   Salary   $3,100.00  monthly  2026-01-25
+  Together a month: CHF 10.00, $3,100.00
 
 An account goes to another bank with its goals, its survey and what is set aside:
 

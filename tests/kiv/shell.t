@@ -44,6 +44,7 @@ next line, and the exit status is that of the first line that failed:
   Name        Amount  Every    Next        Tags
   Car tax    $360.00  monthly  2026-02-01
   Rent     $1,250.00  monthly  2026-01-31
+  Together a month: $1,610.00
   $ echo 'help bill add' | kiv shell >told
   $ kiv bill add --help | diff told -
   $ printf 'quit\nfrobnicate\n' | kiv shell household
@@ -96,6 +97,7 @@ by version; a new change ends redo:
   Name     Amount  Every    Next        Tags
   Gym      $30.00  monthly  2026-02-01
   Rent  $1,250.00  monthly  2026-01-31
+  Together a month: $1,280.00
   $ kiv history --json | jq -r '.[] | select(.present).change'
   Added the bill 'Gym'
   $ kiv save
@@ -182,3 +184,4 @@ At a terminal, lines are typed with history and completion:
   Name     Amount  Every    Next        Tags
   Rent  $1,250.00  monthly  2026-01-31
   Toll    $400.00  monthly  2026-01-31
+  Together a month: $1,650.00

@@ -40,6 +40,7 @@ Items are tied to their bank. What is not given stays, the bank too:
   Number  Account            Balance
        1  Assets:Checking  $4,275.00
        6  Assets:Trip         $75.00
+  Together: $4,350.00.
 
 The reason stands behind what failed:
 
@@ -128,6 +129,7 @@ An edited document completes a survey. What went to the goal stays in the family
        3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  Rent                           -$1,250.00  $4,275.00  reconciled
        6  2026-01-31  Additional surveyed expense.                       Rent                              -$20.00  $4,255.00  reconciled
        7  2026-01-31  Extra-budget surveyed income.                      Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
+  6 transactions, together $4,255.50.
   $ kiv transaction remove 3
   kiv: The transaction 3 is reconciled; undo its reconciliation before you change it.
   [1]

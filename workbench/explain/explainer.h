@@ -4,6 +4,7 @@
 #include "workbench/document/document.h"
 #include "workbench/explain/explanation.h"
 #include "workbench/outlook/looking_ahead.h"
+#include "workbench/requests/due_list.h"
 
 namespace kiv::workbench {
 
@@ -51,6 +52,10 @@ public:
     /// watched and for all together without an exchange rate.
     [[nodiscard]] Explanation outlook(QDate day,
                                       std::optional<accounting::AccountNumber> account = {}) const;
+
+    /// What is left in the account when the line of the list at this place is paid, and those above
+    /// it. The line must tell that.
+    [[nodiscard]] Explanation leftAfter(const DueList &list, std::size_t place) const;
 
 private:
     [[nodiscard]] QString entryText(const accounting::Transaction &transaction,

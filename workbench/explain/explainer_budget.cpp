@@ -140,4 +140,24 @@ Explanation Explainer::outlook(QDate day, std::optional<AccountNumber> account) 
     return made;
 }
 
+Explanation Explainer::leftAfter(const DueList &list, std::size_t place) const
+{
+    const DueLine &asked = list.lines.at(place);
+    const AccountNumber account = asked.account.value();
+    const QString name = m_index.plainName(account);
+    Money left = m_data.generalLedger.ledger(account).balance();
+    Explanation made{QObject::tr("%1 when %2 is paid").arg(name, asked.due.id.source.name()),
+                     asked.after.value(),
+                     {{LineRole::Adds, QObject::tr("Balance of %1").arg(name), left, {}, m_today}}};
+    for (std::size_t at = 0; at <= place; ++at) {
+        const DueLine &line = list.lines[at];
+        if (line.account != account || !line.after)
+            continue;
+        made.lines.push_back(
+            {LineRole::Adds, line.due.id.source.name(), *line.after - left, {}, line.due.id.dueOn});
+        left = *line.after;
+    }
+    return made;
+}
+
 } // namespace kiv::workbench

@@ -3,7 +3,10 @@
 
 #include "budgeting/item_traits.h"
 
+#include <QtCore/QObject>
+
 #include <algorithm>
+#include <array>
 #include <tuple>
 
 namespace kiv::workbench {
@@ -61,19 +64,66 @@ void addUp(std::vector<GroupedAccount> &all)
 
 } // namespace
 
-std::vector<GroupedAccount> groupedAccounts(const BudgetStorage::Data &data)
+QString presentationText(AccountGroup group)
+{
+    static constexpr std::array texts{
+        QT_TRANSLATE_NOOP("QObject", "At banks and in cash"),
+        QT_TRANSLATE_NOOP("QObject", "Owed: cards and loans"),
+        QT_TRANSLATE_NOOP("QObject", "Set aside for goals"),
+        QT_TRANSLATE_NOOP("QObject", "Items of the budget"),
+        QT_TRANSLATE_NOOP("QObject", "Everything else"),
+    };
+    return QObject::tr(texts.at(static_cast<std::size_t>(group) - 1));
+}
+
+HouseholdTotals totalsOf(const std::vector<GroupedAccount> &accounts)
+{
+    HouseholdTotals totals;
+    for (const GroupedAccount &one : accounts) {
+        if (one.group == AccountGroup::Item || one.group == AccountGroup::Other)
+            continue;
+        const numira::Money &balance = one.account.balance();
+        HouseholdTotals::Total &total = totals.groups[one.group];
+        add(total.sums, balance);
+        ++total.accounts;
+        add(totals.together, one.group == AccountGroup::Owed ? -balance : balance);
+    }
+    return totals;
+}
+
+QStringList totalTexts(const HouseholdTotals &totals, navigation::CurrencyDisplayOptions displayAs)
+{
+    const auto text = [displayAs](const QString &name, const Sums &sums) {
+        return QObject::tr("%1: %2.", "a total").arg(name, sumsText(sums, displayAs));
+    };
+    QStringList texts;
+    for (const auto &[group, total] : totals.groups) {
+        const QString name =
+            group == AccountGroup::Owed ? QObject::tr("Owed") : presentationText(group);
+        if (total.accounts > 1)
+            texts += text(name, total.sums);
+    }
+    if (totals.groups.size() > 1)
+        texts += text(QObject::tr("Together"), totals.together);
+    return texts;
+}
+
+std::vector<GroupedAccount> groupedAccounts(const BudgetStorage::Data &data,
+                                            std::optional<QDate> day)
 {
     const auto items = itemsByAccount(data);
     std::vector<GroupedAccount> all;
     for (const Account &account : data.generalLedger.accounts()) {
         GroupedAccount one;
-        one.account = account;
+        one.account = day ? Account(account.type(), account.code(), balanceOn(account, *day),
+                                    account.isClosed())
+                          : account;
         if (const auto found = items.find(account.code().number()); found != items.end())
             one.item = found->second;
         one.group = groupOf(account, one.item);
         one.name = one.item ? one.item->source.name() : account.code().name();
         one.bank = data.banks.find(account.code().number());
-        one.whole = account.balance();
+        one.whole = one.account.balance();
         all.push_back(std::move(one));
     }
     addUp(all);

@@ -2,9 +2,14 @@
 #pragma once
 
 #include "workbench/export.h"
+#include "workbench/requests/balances.h"
 
+#include "navigation/currency_display.h"
 #include "storage/budget_storage.h"
 
+#include <QtCore/QStringList>
+
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -21,7 +26,7 @@ enum class AccountGroup : std::uint8_t {
 
 /// An account as a household sees it.
 struct KIV_WORKBENCH_EXPORT GroupedAccount {
-    /// The account.
+    /// The account, with its balance at the end of the day that was asked.
     accounting::Account account;
     /// Where it stands.
     AccountGroup group{};
@@ -33,8 +38,31 @@ struct KIV_WORKBENCH_EXPORT GroupedAccount {
     numira::Money whole;
 };
 
-/// The open and closed accounts by group; in it open ones first, then by name.
+/// The group's name for the user.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString presentationText(AccountGroup group);
+
+/// The open and closed accounts by group; in it open ones first, then by name. Without a day,
+/// their balances count all transactions; with one, those until its end, and the accounts have
+/// no transactions.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<GroupedAccount>
-groupedAccounts(const storage::BudgetStorage::Data &data);
+groupedAccounts(const storage::BudgetStorage::Data &data, std::optional<QDate> day = {});
+
+/// What a household has, in the groups of what it keeps and owes.
+struct HouseholdTotals {
+    /// What several accounts hold.
+    struct Total {
+        Sums sums;        ///< of them
+        int accounts = 0; ///< how many they are
+    };
+    std::map<AccountGroup, Total> groups; ///< Money, Owed and SetAside, as far as there are any
+    Sums together;                        ///< what is owed counts against the others
+};
+/// Adds up the balances.
+[[nodiscard]] KIV_WORKBENCH_EXPORT HouseholdTotals
+totalsOf(const std::vector<GroupedAccount> &accounts);
+/// "At banks and in cash: $500.00, €20.00.", a sentence for each group of several accounts, and
+/// one for all groups together if there are several.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList
+totalTexts(const HouseholdTotals &totals, navigation::CurrencyDisplayOptions displayAs);
 
 } // namespace kiv::workbench

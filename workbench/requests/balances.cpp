@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/balances.h"
 
+#include "workbench/entry/money_text.h"
+
+#include <QtCore/QLocale>
+
 namespace kiv::workbench {
 
 using accounting::Account;
@@ -24,6 +28,19 @@ Money balanceOn(const Account &account, QDate day)
             balance += changeOf(transaction, account);
     }
     return balance;
+}
+
+void add(Sums &sums, const Money &amount)
+{
+    sums.try_emplace(amount.code(), amount.code()).first->second += amount;
+}
+
+QString sumsText(const Sums &sums, navigation::CurrencyDisplayOptions displayAs)
+{
+    QStringList texts;
+    for (const auto &[currency, sum] : sums)
+        texts += amountText(sum, displayAs);
+    return QLocale().createSeparatedList(texts);
 }
 
 } // namespace kiv::workbench

@@ -3,11 +3,12 @@
 
 #include "workbench/export.h"
 
-#include "accounting/general_ledger.h"
+#include "accounting/account.h"
+#include "navigation/currency_display.h"
+
+#include <QtCore/QString>
 
 #include <map>
-#include <optional>
-#include <vector>
 
 /// What accounts hold, on any day, alone and together.
 namespace kiv::workbench {
@@ -19,5 +20,13 @@ changeOf(const accounting::Transaction &transaction, const accounting::Account &
 /// The balance of the account at the end of the day.
 [[nodiscard]] KIV_WORKBENCH_EXPORT numira::Money balanceOn(const accounting::Account &account,
                                                            QDate day);
+
+/// Sums of amounts, each currency by itself.
+using Sums = std::map<numira::Currency, numira::Money>;
+/// Adds the amount to the sum of its currency.
+KIV_WORKBENCH_EXPORT void add(Sums &sums, const numira::Money &amount);
+/// "$5.00 and €3.00"
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString sumsText(const Sums &sums,
+                                                    navigation::CurrencyDisplayOptions displayAs);
 
 } // namespace kiv::workbench

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/due_list.h"
 
+#include "workbench/requests/balances.h"
 #include "workbench/requests/due_items.h"
 #include "workbench/requests/paying_account.h"
 
+#include "foundation/presentation.h"
 #include "numira/error.h"
+
+#include <QtCore/QObject>
 
 namespace kiv::workbench {
 
@@ -66,6 +70,19 @@ DueList dueList(const BudgetStorage::Data &data, const std::vector<BudgetItemAmo
         list.lines.push_back(std::move(line));
     }
     return list;
+}
+
+QStringList dueTotalTexts(const DueList &list, QDate until,
+                          navigation::CurrencyDisplayOptions displayAs)
+{
+    const QString day = foundation::presentationText(until);
+    QStringList texts;
+    if (!list.toPay.empty())
+        texts += QObject::tr("To pay until %1: %2.").arg(day, sumsText(list.toPay, displayAs));
+    if (!list.toReceive.empty())
+        texts +=
+            QObject::tr("To come in until %1: %2.").arg(day, sumsText(list.toReceive, displayAs));
+    return texts;
 }
 
 } // namespace kiv::workbench

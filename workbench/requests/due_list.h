@@ -3,9 +3,11 @@
 
 #include "workbench/export.h"
 
+#include "budgeting/due.h"
+#include "navigation/currency_display.h"
 #include "storage/budget_storage.h"
 
-#include "budgeting/due.h"
+#include <QtCore/QStringList>
 
 #include <map>
 #include <optional>
@@ -40,5 +42,9 @@ using SaidAccounts = std::map<budgeting::BudgetItemIdentifier, accounting::Accou
 [[nodiscard]] KIV_WORKBENCH_EXPORT DueList
 dueList(const storage::BudgetStorage::Data &data,
         const std::vector<budgeting::BudgetItemAmountDue> &due, const SaidAccounts &said);
+
+/// "To pay until 3 December: $1,234.50.", and what comes in likewise, as far as there is any.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QStringList
+dueTotalTexts(const DueList &list, QDate until, navigation::CurrencyDisplayOptions displayAs);
 
 } // namespace kiv::workbench

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/requests/item_figures.h"
 
+#include "workbench/requests/balances.h"
 #include "workbench/requests/budget_view.h"
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/requests/paying_account.h"
@@ -81,6 +82,13 @@ std::map<numira::Currency, Money> monthlyTotals(const budgeting::Budget &budget,
     for (auto &[currency, money] : totals)
         money = money.rounded();
     return totals;
+}
+
+QString monthlyTotalText(Requests &requests, budgeting::BudgetItemTypes kind)
+{
+    const Sums totals =
+        monthlyTotals(requests.present().budget, kind, requests.preferredCurrency());
+    return QObject::tr("Together a month: %1").arg(sumsText(totals, requests.displayAs()));
 }
 
 ConvertibleBudget convertibleBudget(budgeting::Budget budget, const numira::Currency &currency)

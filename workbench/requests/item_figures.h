@@ -2,6 +2,7 @@
 #pragma once
 
 #include "workbench/export.h"
+#include "workbench/requests/requests.h"
 
 #include "storage/budget_storage.h"
 
@@ -34,6 +35,10 @@ progressOf(const storage::BudgetStorage::Data &data, const budgeting::BudgetedMo
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::map<numira::Currency, numira::Money>
 monthlyTotals(const budgeting::Budget &budget, budgeting::BudgetItemTypes kind,
               const numira::Currency &preferred);
+
+/// The same in words: "Together a month: $1,234.50".
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString monthlyTotalText(Requests &requests,
+                                                            budgeting::BudgetItemTypes kind);
 
 /// The part of a budget that can be added up in one currency.
 struct ConvertibleBudget {

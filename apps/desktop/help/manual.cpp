@@ -16,7 +16,7 @@ QString everywhere()
         "further.\n\n"
         "The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and "
         "the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? "
-        "lists all keys.\n\n"
+        "lists all keys. F9 tells why the number that is chosen is what it is.\n\n"
         "In a form, Enter does what its first button does, and Esc gives up. What is refused is "
         "told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days "
         "can be short: 3, 5-2, +7, or T for today.");
@@ -38,7 +38,7 @@ QMap<QString, QString> texts()
         {QStringLiteral("accounts"),
          QObject::tr("All accounts with their balances: money, what is owed, what is set aside, "
                      "and what money is spent on or comes from. Enter opens the register of an "
-                     "account.")},
+                     "account. With a day, the balances are those at its end.")},
         {QStringLiteral("register"),
          QObject::tr("The transactions of one account or of all, and below them the row for new "
                      "ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When "

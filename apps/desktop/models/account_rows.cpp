@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/account_rows.h"
 
-#include "workbench/requests/account_groups.h"
 #include "workbench/surveys/survey_sheet.h"
 
 #include "foundation/presentation.h"
-
-#include <array>
 
 namespace kiv::desktop {
 
@@ -15,18 +12,6 @@ using workbench::AccountGroup;
 using workbench::GroupedAccount;
 
 namespace {
-
-QString groupText(AccountGroup group)
-{
-    static constexpr std::array texts{
-        QT_TRANSLATE_NOOP("QObject", "At banks and in cash"),
-        QT_TRANSLATE_NOOP("QObject", "Owed: cards and loans"),
-        QT_TRANSLATE_NOOP("QObject", "Set aside for goals"),
-        QT_TRANSLATE_NOOP("QObject", "Items of the budget"),
-        QT_TRANSLATE_NOOP("QObject", "Everything else"),
-    };
-    return QObject::tr(texts.at(static_cast<std::size_t>(group) - 1));
-}
 
 /// What a row tells beside its account.
 struct Known {
@@ -98,7 +83,8 @@ QStringList accountColumns(bool showsTerms)
     return columns;
 }
 
-std::vector<Row> accountRows(workbench::Document &document, bool showsTerms)
+std::vector<Row> accountRows(workbench::Document &document,
+                             const std::vector<GroupedAccount> &accounts, bool showsTerms)
 {
     const storage::BudgetStorage::Data data = document.present();
     Known known{{},
@@ -112,14 +98,14 @@ std::vector<Row> accountRows(workbench::Document &document, bool showsTerms)
     }
     std::vector<Row> rows;
     std::optional<AccountGroup> group;
-    for (const GroupedAccount &one : workbench::groupedAccounts(data)) {
+    for (const GroupedAccount &one : accounts) {
         // What accounts were opened with is of no use to a household.
         const AccountNumber number = one.account.code().number();
         if (!showsTerms && data.generalLedger.ledger(number).holdsOpenings())
             continue;
         if (group != one.group) {
             group = one.group;
-            const QString text = groupText(*group);
+            const QString text = presentationText(*group);
             rows.push_back({QStringLiteral("group ") + QString::number(static_cast<int>(*group)),
                             {{text}},
                             true});

@@ -84,15 +84,6 @@ QString keyOf(const budgeting::BudgetItemIdentifier &item)
     return workbench::kindWord(item.type) + u':' + item.source.name();
 }
 
-QString sumsText(const std::map<numira::Currency, numira::Money> &sums,
-                 navigation::CurrencyDisplayOptions displayAs)
-{
-    QStringList texts;
-    for (const auto &[currency, sum] : sums)
-        texts += workbench::amountText(sum, displayAs);
-    return QLocale().createSeparatedList(texts);
-}
-
 QString lackingRatesText(const std::set<numira::Currency> &currencies)
 {
     if (currencies.empty())
@@ -109,13 +100,8 @@ QString dueSummary(const ShownDue &due)
     const QString until = foundation::presentationText(due.today.addDays(due.within.count()));
     if (due.list.lines.empty())
         return QObject::tr("Nothing is due until %1.").arg(until);
-    QStringList sentences;
-    if (!due.list.toPay.empty())
-        sentences +=
-            QObject::tr("To pay until %1: %2.").arg(until, sumsText(due.list.toPay, due.displayAs));
-    if (!due.list.toReceive.empty())
-        sentences += QObject::tr("To come in until %1: %2.")
-                         .arg(until, sumsText(due.list.toReceive, due.displayAs));
+    QStringList sentences =
+        workbench::dueTotalTexts(due.list, due.today.addDays(due.within.count()), due.displayAs);
     sentences += lackingRatesText(due.list.lackingRates);
     return sentences.join(u' ').trimmed();
 }

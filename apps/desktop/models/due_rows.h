@@ -32,8 +32,5 @@ struct ShownDue {
 [[nodiscard]] QString dueSummary(const ShownDue &due);
 /// Names the currencies without a rate; empty if there are none.
 [[nodiscard]] QString lackingRatesText(const std::set<numira::Currency> &currencies);
-/// "$5.00 and €3.00"
-[[nodiscard]] QString sumsText(const std::map<numira::Currency, numira::Money> &sums,
-                               navigation::CurrencyDisplayOptions displayAs);
 
 } // namespace kiv::desktop

@@ -139,12 +139,4 @@ std::vector<Row> itemRows(workbench::Document &document, const ShownEnvelopes &e
     return rows;
 }
 
-QString itemsTotal(workbench::Document &document, BudgetItemTypes kind)
-{
-    workbench::Requests &requests = document.requests();
-    const auto totals =
-        workbench::monthlyTotals(document.present().budget, kind, requests.preferredCurrency());
-    return QObject::tr("Together a month: %1").arg(sumsText(totals, requests.displayAs()));
-}
-
 } // namespace kiv::desktop

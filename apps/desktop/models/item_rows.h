@@ -15,7 +15,5 @@ namespace kiv::desktop {
 [[nodiscard]] std::vector<Row> itemRows(workbench::Document &document,
                                         const ShownEnvelopes &envelopes,
                                         budgeting::BudgetItemTypes kind);
-/// What the items of a kind come to a month.
-[[nodiscard]] QString itemsTotal(workbench::Document &document, budgeting::BudgetItemTypes kind);
 
 } // namespace kiv::desktop

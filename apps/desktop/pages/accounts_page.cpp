@@ -3,7 +3,12 @@
 
 #include "models/account_rows.h"
 #include "widgets/allow.h"
+#include "widgets/day_edit.h"
+#include "widgets/table.h"
 
+#include "workbench/requests/account_groups.h"
+
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 
 namespace kiv::desktop {
@@ -19,6 +24,9 @@ const QString newAccount = QStringLiteral("new");
 
 AccountsPage::AccountsPage(Desk &desk)
     : ListPage(desk, QStringLiteral("accounts"), tr("Accounts"), accountColumns(desk.showsTerms())),
+      m_day(new DayEdit(this)),
+      m_dayMessage(new FieldMessage(this)),
+      m_totals(new QLabel(this)),
       m_open(addButton(QStringLiteral("show"), tr("&Show transactions"), [this] { enter(); })),
       m_new(addButton(QStringLiteral("new"), tr("&New account"), [this] { begin({}); })),
       m_change(addButton(QStringLiteral("change"), tr("&Change"), [this] { change(); })),
@@ -29,7 +37,58 @@ AccountsPage::AccountsPage(Desk &desk)
       m_form(addForm(QStringLiteral("accountForm"))),
       m_fields(new AccountForm(desk, *m_form))
 {
+    addAbove(dayRow());
+    setTabOrder(m_day, &table());
+    m_totals->setTextFormat(Qt::PlainText);
+    m_totals->setWordWrap(true);
+    m_totals->setObjectName(QStringLiteral("totals"));
+    addBelow(m_totals);
     addFormButtons(*m_form, [this] { save(); });
+}
+
+QWidget *AccountsPage::dayRow()
+{
+    auto *row = new QWidget(this);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *label = new QLabel(tr("Balances on the &day (may be empty):"), row);
+    label->setBuddy(m_day);
+    m_day->setObjectName(QStringLiteral("on"));
+    layout->addWidget(label);
+    layout->addWidget(m_day);
+    layout->addWidget(m_dayMessage, 1);
+    connect(m_day, &QLineEdit::editingFinished, this, &AccountsPage::readDay);
+    return row;
+}
+
+void AccountsPage::readDay()
+{
+    std::optional<QDate> on;
+    try {
+        if (!m_day->text().isEmpty())
+            on = m_day->day();
+    } catch (const foundation::Error &error) {
+        // Who leaves the field is not held there.
+        if (m_day->hasFocus())
+            m_dayMessage->complain(m_day, workbench::userText(error));
+        return;
+    }
+    m_dayMessage->withdraw();
+    if (std::exchange(m_on, on) == on)
+        return;
+    refresh();
+    desk().say(m_totals->text());
+    emit figureChosen();
+}
+
+Explain AccountsPage::explanation()
+{
+    const accounting::Account *one = account();
+    if (!one)
+        return {};
+    return [number = one->code().number(), on = m_on](const workbench::Explainer &explainer) {
+        return std::vector{explainer.balance(number, on)};
+    };
 }
 
 void AccountsPage::goTo(const QString &detail)
@@ -54,7 +113,11 @@ QStringList AccountsPage::parts() const
 void AccountsPage::refresh()
 {
     m_index = std::make_unique<workbench::AccountIndex>(requests().accounts());
-    showRows(accountRows(desk().document(), desk().showsTerms()),
+    const auto shown = workbench::groupedAccounts(desk().document().present(), m_on);
+    m_totals->setText(
+        workbench::totalTexts(workbench::totalsOf(shown), requests().displayAs()).join(u'\n'));
+    m_totals->setVisible(!m_totals->text().isEmpty());
+    showRows(accountRows(desk().document(), shown, desk().showsTerms()),
              tr("There are no accounts yet. They come with banks and with the items of the "
                 "budget."));
     // The account that was being changed may be gone.

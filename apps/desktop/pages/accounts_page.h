@@ -6,6 +6,8 @@
 
 namespace kiv::desktop {
 
+class DayEdit;
+
 /// All accounts in groups that a household knows. Enter opens an account's register, F2
 /// changes the account.
 class AccountsPage final : public ListPage {
@@ -18,6 +20,8 @@ public:
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
     [[nodiscard]] QStringList parts() const override;
+    /// The balance of the account that is chosen.
+    [[nodiscard]] Explain explanation() override;
 
 protected:
     void refresh() override;
@@ -27,6 +31,10 @@ protected:
     void remove() override;
 
 private:
+    /// The field for the day of the balances.
+    [[nodiscard]] QWidget *dayRow();
+    /// Takes over the day that is typed. What is no day is told, and the balances stay.
+    void readDay();
     void begin(std::optional<accounting::AccountNumber> changed);
     void save();
     /// Closes the account that is chosen, or opens a closed one again.
@@ -41,6 +49,10 @@ private:
                    void (navigation::Navigator::*slot)(const accounting::AccountCode &));
 
     std::unique_ptr<workbench::AccountIndex> m_index;
+    std::optional<QDate> m_on; ///< the day of the balances; all transactions without one
+    DayEdit *m_day;
+    FieldMessage *m_dayMessage;
+    QLabel *m_totals;
     QPushButton *m_open;
     QPushButton *m_new;
     QPushButton *m_change;

@@ -35,6 +35,7 @@ DuePage::DuePage(Desk &desk)
 {
     build();
     connect(m_table, &Table::chosenChanged, this, &DuePage::follow);
+    connect(m_table, &Table::chosenChanged, this, &DuePage::figureChosen);
     connect(m_table, &Table::opened, this, [this] { m_pay->setFocus(Qt::OtherFocusReason); });
     connect(m_account, &QComboBox::activated, this, &DuePage::sayAccount);
     connect(m_pay, &QPushButton::clicked, this, &DuePage::pay);
@@ -93,6 +94,20 @@ QString DuePage::detail() const
 {
     const QStringList keys = m_table->chosen();
     return keys.size() == 1 ? keys.first() : QString();
+}
+
+Explain DuePage::explanation()
+{
+    const QString key = detail();
+    const auto &lines = m_due.list.lines;
+    const auto found = std::ranges::find_if(
+        lines, [&key](const DueLine &line) { return keyOf(line.due.id.item()) == key; });
+    if (found == lines.end() || !found->after)
+        return {};
+    return [list = m_due.list, at = static_cast<std::size_t>(found - lines.begin())](
+               const workbench::Explainer &explainer) {
+        return std::vector{explainer.leftAfter(list, at)};
+    };
 }
 
 QWidget *DuePage::firstFocus()

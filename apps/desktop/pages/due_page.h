@@ -28,6 +28,8 @@ public:
     /// The item that is chosen, such as "bill:Rent".
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
+    /// What is left in the account when the line that is chosen is paid.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
 protected:

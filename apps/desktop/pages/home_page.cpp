@@ -161,6 +161,29 @@ QWidget *HomePage::firstFocus()
     return m_freeTable->isHidden() ? m_balanceTable : m_freeTable;
 }
 
+Explain HomePage::explanation()
+{
+    const QString key = m_balanceTable->chosen().value(0);
+    if (focusWidget() == m_balanceTable && !key.isEmpty())
+        return [number = accounting::AccountNumber(key.toUInt())](
+                   const workbench::Explainer &explainer) {
+            return std::vector{explainer.balance(number)};
+        };
+    return [isFree = !m_envelopes.all.accounts.empty()](const workbench::Explainer &explainer) {
+        std::vector<workbench::Explanation> all;
+        if (isFree)
+            all = explainer.freeMoney();
+        try {
+            std::ranges::move(explainer.health(), std::back_inserter(all));
+        } catch (const workbench::Refusal &) {
+            // Without an income there is still what is free.
+            if (all.empty())
+                throw;
+        }
+        return all;
+    };
+}
+
 const DueLine *HomePage::lineOf(const QString &key) const
 {
     const auto found = std::ranges::find(

@@ -27,6 +27,8 @@ public:
     explicit HomePage(Desk &desk);
 
     [[nodiscard]] QWidget *firstFocus() override;
+    /// The balance in which the focus is; else what is free, and the budget's health.
+    [[nodiscard]] Explain explanation() override;
 
 protected:
     void refresh() override;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/items_page.h"
 
+#include "models/account_rows.h"
 #include "models/item_rows.h"
 #include "widgets/allow.h"
 #include "widgets/table.h"
 
 #include "workbench/document/finished_items.h"
 #include "workbench/entry/kind_words.h"
+#include "workbench/requests/item_figures.h"
 
 #include "foundation/clock.h"
 
@@ -159,11 +161,38 @@ void ItemsPage::refresh()
     const bool isEmpty = model().rows().empty();
     m_total->setVisible(!isEmpty);
     if (!isEmpty)
-        m_total->setText(itemsTotal(desk().document(), kind()));
+        m_total->setText(workbench::monthlyTotalText(requests(), kind()));
     // The item that was being changed may be gone.
     const QString changed = m_item->item().source.name();
     if (openForm() && !changed.isEmpty() && model().place(changed) < 0)
         closeForm();
+}
+
+Explain ItemsPage::explanation()
+{
+    const BudgetItemIdentifier id = chosen().isEmpty() ? BudgetItemIdentifier() : chosenItem();
+    const budgeting::Budget budget = desk().document().present().budget;
+    const budgeting::BudgetedMoney *item =
+        chosen().isEmpty() ? nullptr : budgeting::findBudgetItem(id, budget);
+    if (!item)
+        return {};
+    const bool recurs = item->period() != budgeting::EventFrequency::None;
+    std::vector<accounting::AccountNumber> accounts;
+    for (const workbench::SetAsideHere &one : workbench::linesOf(m_envelopes.all, id)) {
+        const accounting::AccountNumber number = one.account->account.account.number;
+        if (!isAside() || chosen().startsWith(keyOf(number) + u'/'))
+            accounts.push_back(number);
+    }
+    if (!recurs && accounts.empty())
+        return {};
+    return [=](const workbench::Explainer &explainer) {
+        std::vector<workbench::Explanation> all;
+        for (const accounting::AccountNumber account : accounts)
+            all.push_back(explainer.setAside(account, id));
+        if (recurs)
+            all.push_back(explainer.share(id));
+        return all;
+    };
 }
 
 void ItemsPage::showAside()

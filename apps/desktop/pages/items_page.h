@@ -24,6 +24,8 @@ public:
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
     [[nodiscard]] QStringList parts() const override;
+    /// The share of a month of the item that is chosen, and what is set aside for it.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
 protected:

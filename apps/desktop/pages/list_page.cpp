@@ -44,7 +44,10 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
     m_list->addStretch();
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_grid->setColumnStretch(buttonsInRow, 1);
-    connect(m_table, &Table::chosenChanged, this, [this] { follow(); });
+    connect(m_table, &Table::chosenChanged, this, [this] {
+        follow();
+        emit figureChosen();
+    });
     connect(m_table, &Table::opened, this, [this] { enter(); });
     connect(m_table, &Table::changeWanted, this, [this] { change(); });
     connect(m_table, &Table::removalWanted, this, [this] { remove(); });

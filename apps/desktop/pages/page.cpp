@@ -29,6 +29,11 @@ QStringList Page::parts() const
     return {};
 }
 
+Explain Page::explanation()
+{
+    return {};
+}
+
 void Page::bringUpToDate()
 {
     if (!std::exchange(m_isStale, false) || m_desk.document().file().isEmpty())

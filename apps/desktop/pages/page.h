@@ -3,9 +3,14 @@
 
 #include "pages/desk.h"
 
+#include "workbench/explain/explainer.h"
+
 #include <QtWidgets/QWidget>
 
 namespace kiv::desktop {
+
+/// Makes the explanations of a figure.
+using Explain = std::function<std::vector<workbench::Explanation>(const workbench::Explainer &)>;
 
 /// One page of the window. It asks for its data when it is shown and when the budget
 /// changes while it is visible; a hidden page is stale and asks when it is shown next.
@@ -26,11 +31,17 @@ public:
     [[nodiscard]] virtual QString detail() const;
     /// The parts of the page that look different from how it opens, in the words of goTo().
     [[nodiscard]] virtual QStringList parts() const;
+    /// Explains the figure that is chosen; empty without one.
+    [[nodiscard]] virtual Explain explanation();
     /// The widget that gets the focus when the page is shown.
     [[nodiscard]] virtual QWidget *firstFocus() = 0;
 
     /// Asks for the page's data if it is stale; the window calls this too.
     void bringUpToDate();
+
+signals:
+    /// What explanation() is about may be another figure now.
+    void figureChosen();
 
 protected:
     /// Asks for the data and shows them. What it throws is shown instead of them.

@@ -43,6 +43,7 @@ RatesPage::RatesPage(Desk &desk)
     layout->addWidget(m_form);
     layout->addStretch();
     connect(m_table, &Table::chosenChanged, this, &RatesPage::follow);
+    connect(m_table, &Table::chosenChanged, this, &RatesPage::figureChosen);
     connect(m_table, &Table::opened, this, [this] {
         m_rate->setFocus(Qt::OtherFocusReason);
         m_rate->selectAll();
@@ -78,6 +79,19 @@ void RatesPage::refresh()
     m_form->setLabel(*m_rate, tr("&Rate, for 1 %1:").arg(foundation::toQString(m_listed.base)));
     m_form->allow(desk().whyNoChange());
     m_table->settle();
+}
+
+Explain RatesPage::explanation()
+{
+    const QString code = detail();
+    for (const auto &[currency, rate] : m_listed.rates.rates()) {
+        if (foundation::toQString(currency) == code)
+            return [one = numira::Money(m_listed.base, 1, 0),
+                    to = currency](const workbench::Explainer &explainer) {
+                return std::vector{explainer.conversion(one, to)};
+            };
+    }
+    return {};
 }
 
 void RatesPage::follow()

@@ -27,6 +27,8 @@ public:
     /// The currency that is chosen, such as "EUR".
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
+    /// What one unit of the base is in the currency that is chosen.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
 protected:

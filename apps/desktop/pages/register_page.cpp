@@ -67,6 +67,8 @@ RegisterPage::RegisterPage(Desk &desk)
     });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RegisterPage::allowActions);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RegisterPage::figureChosen);
     // Until it is shown, its keys belong to the other pages.
     connect(&desk, &Desk::refreshWanted, this, &RegisterPage::allowActions);
     allowActions();
@@ -400,6 +402,16 @@ std::optional<Transaction> RegisterPage::current() const
     const QModelIndex row = m_table->currentIndex();
     return row.isValid() ? std::optional(m_rows->transaction(m_shown->sourceRow(row.row())))
                          : std::nullopt;
+}
+
+Explain RegisterPage::explanation()
+{
+    const std::optional<accounting::Transaction> one = current();
+    if (!one || one->debitAmount().code() == one->creditAmount().code())
+        return {};
+    return [number = one->number().value()](const workbench::Explainer &explainer) {
+        return explainer.conversions(number);
+    };
 }
 
 void RegisterPage::hideEvent(QHideEvent *event)

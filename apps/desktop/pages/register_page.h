@@ -28,6 +28,8 @@ public:
     /// "12" is an account, "12/345" a transaction in it, "all/345" one of all accounts.
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
+    /// The sides of the current transaction that were converted.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
     /// The transactions that are selected, in the order of the rows.

@@ -233,6 +233,18 @@ void SurveyPage::showFigures()
         m_foot->tell(m_trouble);
 }
 
+Explain SurveyPage::explanation()
+{
+    const std::optional<accounting::AccountNumber> account = m_statement->account();
+    const SurveyDraft *const known = account ? draft() : nullptr;
+    if (!known)
+        return {};
+    return [number = *account,
+            balance = known->sheet.form.balance](const workbench::Explainer &explainer) {
+        return std::vector{explainer.tolerance(number, balance)};
+    };
+}
+
 void SurveyPage::follow()
 {
     draft()->isTouched = true;

@@ -31,6 +31,8 @@ public:
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
     [[nodiscard]] QStringList parts() const override;
+    /// How far the books may be from the statement.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
 protected:

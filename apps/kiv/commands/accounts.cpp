@@ -7,7 +7,9 @@
 #include "output/survey_report.h"
 
 #include "workbench/document/account_conversion.h"
+#include "workbench/entry/money_text.h"
 #include "workbench/requests/account_changes.h"
+#include "workbench/requests/account_groups.h"
 #include "workbench/requests/balances.h"
 
 namespace kiv::app {
@@ -18,6 +20,7 @@ using accounting::AccountNumber;
 using accounting::Transaction;
 using accounting::TransactionNumber;
 using navigation::Navigator;
+using workbench::GroupedAccount;
 
 namespace {
 
@@ -35,6 +38,7 @@ QString reconciledText(const QJsonValue &isReconciled)
 
 struct ListAccounts {
     std::optional<accounting::AccountTypes> type;
+    std::optional<QDate> day;
     bool isOpenOnly = false;
 
     void declare(Arguments &arguments)
@@ -44,40 +48,75 @@ struct ListAccounts {
                 "--type", type,
                 QObject::tr(
                     "Only accounts of this type: asset, equity, expense, liability or income"))
+            .optional("--on", day, QObject::tr("Balances at the end of this day (default: now)"))
             .flag("--open", isOpenOnly, QObject::tr("Only open accounts"));
     }
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
-        std::map<QString, const Account *> byPath;
-        for (const Account &account : index.accounts()) {
-            if ((!type || account.type() == *type) && !(isOpenOnly && account.isClosed()))
-                byPath.emplace(index.path(account.code().number()), &account);
+        std::vector<GroupedAccount> shown =
+            workbench::groupedAccounts(call.document.present(), day);
+        std::erase_if(shown, [this](const GroupedAccount &one) {
+            return (type && one.account.type() != *type) || (isOpenOnly && one.account.isClosed());
+        });
+        std::map<QString, QJsonObject> byPath;
+        for (const GroupedAccount &one : shown) {
+            QJsonObject row = toJson(one.account, index);
+            if (hasGoals(one))
+                row.insert(whole, toJson(one.whole));
+            byPath.emplace(index.path(one.account.code().number()), row);
         }
-        const std::map<AccountNumber, bool> reconciled = call.document.reconciledAccounts();
-        std::map<AccountNumber, workbench::BooksDifference> differences;
-        for (const workbench::BooksDifference &one : booksDifferences(call.document))
-            differences.emplace(one.account.account.number, one);
         QJsonArray rows;
-        for (const auto &[path, account] : byPath) {
-            QJsonObject row = toJson(*account, index);
-            const auto found = reconciled.find(account->code().number());
-            if (found != reconciled.end())
-                row.insert(QStringLiteral("asReconciled"), found->second);
-            if (const auto one = differences.find(account->code().number());
-                one != differences.end())
-                row.insert(QStringLiteral("bankDifference"), toJson(one->second.amount));
+        for (auto &[path, row] : byPath)
             rows.append(row);
-        }
+        // Of another day nobody knows what was reconciled.
+        if (!day)
+            tellReconciled(call.document, rows);
         Report report =
-            Report::listing({{QObject::tr("Number"), QStringLiteral("number")},
-                             {QObject::tr("Account"), QStringLiteral("path"), plainText},
-                             {QObject::tr("Balance"), QStringLiteral("balance")},
-                             {QString(), QStringLiteral("open"), openWord},
-                             {QString(), QStringLiteral("asReconciled"), reconciledText}},
-                            rows, QObject::tr("There are no accounts."));
-        tellDifferences(report, call.document);
+            Report::listing(columns(shown), rows, QObject::tr("There are no accounts."));
+        for (const QString &text :
+             workbench::totalTexts(workbench::totalsOf(shown), call.document.displayAs()))
+            report.line(text);
+        if (!day)
+            tellDifferences(report, call.document);
         return report;
+    }
+
+private:
+    inline static const QString whole = QStringLiteral("withGoals");
+
+    /// Whether the bank shows more than the account has, since goals lie under it.
+    static bool hasGoals(const GroupedAccount &one)
+    {
+        return one.bank && one.whole != one.account.balance();
+    }
+    static std::vector<Column> columns(const std::vector<GroupedAccount> &shown)
+    {
+        std::vector<Column> columns{{QObject::tr("Number"), QStringLiteral("number")},
+                                    {QObject::tr("Account"), QStringLiteral("path"), plainText},
+                                    {QObject::tr("Balance"), QStringLiteral("balance")},
+                                    {QString(), QStringLiteral("open"), openWord},
+                                    {QString(), QStringLiteral("asReconciled"), reconciledText}};
+        if (std::ranges::any_of(shown, hasGoals))
+            columns.insert(columns.begin() + 3, {QObject::tr("With goals under it"), whole});
+        return columns;
+    }
+    static void tellReconciled(Document &document, QJsonArray &rows)
+    {
+        std::map<AccountNumber, numira::Money> differences;
+        for (const workbench::BooksDifference &one : booksDifferences(document))
+            differences.emplace(one.account.account.number, one.amount);
+        const std::map<AccountNumber, bool> reconciled = document.reconciledAccounts();
+        for (QJsonValueRef value : rows) {
+            QJsonObject row = value.toObject();
+            const AccountNumber number(
+                static_cast<std::uint32_t>(row[QLatin1String("number")].toInteger()));
+            if (const auto found = reconciled.find(number); found != reconciled.end())
+                row.insert(QStringLiteral("asReconciled"), found->second);
+            if (const auto found = differences.find(number); found != differences.end())
+                row.insert(QStringLiteral("bankDifference"), toJson(found->second));
+            value = row;
+        }
     }
 };
 
@@ -100,17 +139,25 @@ struct ShowLedger {
             &Navigator::showLedger, &Navigator::onSelectedLedger, index->find(account).code()));
         const QString heading = index->label(ledger.code().number());
         QJsonObject data{{QStringLiteral("account"), toJson(ledger, *index)}};
-        const Rows rows = rowsOf(std::move(ledger), index);
-        return Report(std::move(data), QStringLiteral("transactions"), rows)
-            .heading(heading)
-            .table({{QObject::tr("Number"), QStringLiteral("number")},
-                    {QObject::tr("Date"), QStringLiteral("date"), dayText},
-                    {QObject::tr("Description"), QStringLiteral("description"), descriptionText},
-                    {QObject::tr("Other account"), QStringLiteral("other"), accountText(index)},
-                    {QObject::tr("Change"), QStringLiteral("change")},
-                    {QObject::tr("Balance"), QStringLiteral("balance")},
-                    {QObject::tr("Status"), QStringLiteral("status"), statusText}},
-                   rows, QObject::tr("There are no transactions."));
+        numira::Money together(ledger.balance().code());
+        const Rows rows = rowsOf(std::move(ledger), index, together);
+        Report report =
+            Report(std::move(data), QStringLiteral("transactions"), rows)
+                .heading(heading)
+                .table(
+                    {{QObject::tr("Number"), QStringLiteral("number")},
+                     {QObject::tr("Date"), QStringLiteral("date"), dayText},
+                     {QObject::tr("Description"), QStringLiteral("description"), descriptionText},
+                     {QObject::tr("Other account"), QStringLiteral("other"), accountText(index)},
+                     {QObject::tr("Change"), QStringLiteral("change")},
+                     {QObject::tr("Balance"), QStringLiteral("balance")},
+                     {QObject::tr("Status"), QStringLiteral("status"), statusText}},
+                    rows, QObject::tr("There are no transactions."));
+        if (rows.size() > 1)
+            report.line(
+                QObject::tr("%n transactions, together %1.", nullptr, static_cast<int>(rows.size()))
+                    .arg(workbench::amountText(together, call.document.displayAs())));
+        return report;
     }
 
 private:
@@ -141,9 +188,11 @@ private:
         }
     };
 
-    /// The account's transactions by day, with the balance after each.
+    /// The account's transactions by day, with the balance after each. Adds the changes of those
+    /// that are shown to `together`.
     [[nodiscard]] Rows rowsOf(accounting::LedgerAccount ledger,
-                              std::shared_ptr<const AccountIndex> index) const
+                              std::shared_ptr<const AccountIndex> index,
+                              numira::Money &together) const
     {
         std::vector<std::pair<QDate, TransactionNumber>> byDay;
         for (const Transaction &transaction : ledger.transactions())
@@ -152,9 +201,13 @@ private:
         std::vector<Entry> entries;
         numira::Money balance(ledger.balance().code());
         for (const auto &[day, number] : byDay) {
-            balance += workbench::changeOf(ledger.transactions().find(number).value(), ledger);
-            if (!(from && day < *from) && !(to && day > *to))
-                entries.push_back({number, balance});
+            const numira::Money change =
+                workbench::changeOf(ledger.transactions().find(number).value(), ledger);
+            balance += change;
+            if ((from && day < *from) || (to && day > *to))
+                continue;
+            together += change;
+            entries.push_back({number, balance});
         }
         const auto lines =
             std::make_shared<const Lines>(std::move(ledger), std::move(index), std::move(entries));

@@ -7,6 +7,8 @@
 #include "output/json.h"
 
 #include "workbench/requests/due_items.h"
+#include "workbench/requests/due_list.h"
+#include "workbench/requests/settings.h"
 
 #include "foundation/presentation.h"
 
@@ -60,8 +62,9 @@ struct ListDue {
     {
         QJsonArray rows;
         const qint64 today = call.date().toJulianDay();
-        for (const BudgetItemAmountDue &due :
-             workbench::dueItems(call.requests, within, call.options.date)) {
+        const std::vector<BudgetItemAmountDue> items =
+            workbench::dueItems(call.requests, within, call.options.date);
+        for (const BudgetItemAmountDue &due : items) {
             QJsonObject row = toJson(due);
             row.insert(QStringLiteral("inDays"), due.id.dueOn.toJulianDay() - today);
             rows.append(row);
@@ -69,12 +72,20 @@ struct ListDue {
         const auto when = [day = call.date()](const QJsonValue &inDays) {
             return workbench::whenText(day.addDays(inDays.toInteger()), day);
         };
-        return Report::listing({{QObject::tr("Due"), QStringLiteral("due"), dayText},
-                                {QObject::tr("Item"), QStringLiteral("name")},
-                                {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
-                                {QObject::tr("Amount"), QStringLiteral("amount")},
-                                {QObject::tr("When"), QStringLiteral("inDays"), when}},
-                               rows, QObject::tr("Nothing is due."));
+        Report report = Report::listing({{QObject::tr("Due"), QStringLiteral("due"), dayText},
+                                         {QObject::tr("Item"), QStringLiteral("name")},
+                                         {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
+                                         {QObject::tr("Amount"), QStringLiteral("amount")},
+                                         {QObject::tr("When"), QStringLiteral("inDays"), when}},
+                                        rows, QObject::tr("Nothing is due."));
+        const QDate until = call.date().addDays(
+            within.value_or(workbench::presentSettings(call.requests).notifyDueWithin).count());
+        if (items.size() > 1)
+            for (const QString &text :
+                 dueTotalTexts(workbench::dueList(call.document.present(), items, {}), until,
+                               call.document.displayAs()))
+                report.line(text);
+        return report;
     }
 };
 

@@ -8,6 +8,7 @@
 
 #include "workbench/document/finished_items.h"
 #include "workbench/requests/item_changes.h"
+#include "workbench/requests/item_figures.h"
 
 namespace kiv::app {
 
@@ -257,7 +258,11 @@ struct ListItems {
         if constexpr (budgeting::BankTiedItem<Item>)
             columns.push_back({QObject::tr("Bank"), QStringLiteral("bank")});
         columns.push_back({QObject::tr("Tags"), QStringLiteral("tags")});
-        return Report::listing(columns, rows, QObject::tr("There are no budget items."));
+        Report report = Report::listing(columns, rows, QObject::tr("There are no budget items."));
+        if (rows.size() > 1)
+            report.line(
+                workbench::monthlyTotalText(call.requests, budgeting::ItemTraits<Item>::type));
+        return report;
     }
 };
 
