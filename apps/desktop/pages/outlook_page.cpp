@@ -108,6 +108,21 @@ QString OutlookPage::detail() const
     return m_curveTable->chosen().value(0);
 }
 
+Explain OutlookPage::explanation()
+{
+    const QString key = m_curveTable->chosen().value(0);
+    const outlook::Curve *curve = curveOf(m_shown, key);
+    if (!curve || !m_asked.question.without.empty() || !m_asked.question.with.empty())
+        return {};
+    std::optional<accounting::AccountNumber> account;
+    if (key != allTogether)
+        account = accounting::AccountNumber(key.toUInt());
+    return [account, day = m_shown.ahead.outlook.day(curve->lowest())](
+               const workbench::Explainer &explainer) {
+        return std::vector{explainer.outlook(day, account)};
+    };
+}
+
 QWidget *OutlookPage::firstFocus()
 {
     return m_chart->isHidden() ? static_cast<QWidget *>(m_days) : m_chart;
@@ -178,6 +193,7 @@ void OutlookPage::ask()
     if (!isShown)
         return;
     m_asked = *asked;
+    emit figureChosen();
     desk().say(m_told->text());
 }
 
@@ -239,6 +255,7 @@ void OutlookPage::follow()
     m_chart->setChart(chartOf(m_shown, curve), m_shown.displayAs);
     m_payments->setRows(paymentRows(m_shown, curve));
     m_paymentTable->settle();
+    emit figureChosen();
 }
 
 } // namespace kiv::desktop

@@ -28,6 +28,8 @@ public:
     /// The curve that is shown, in the words of ShownOutlook.
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;
+    /// Of the lowest day of the curve that is chosen, unless it is supposed.
+    [[nodiscard]] Explain explanation() override;
     [[nodiscard]] QWidget *firstFocus() override;
 
 protected:
