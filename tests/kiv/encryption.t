@@ -34,7 +34,7 @@ A budget is encrypted with its former versions, and then used as before.
   What     Name           Change  Detail
   item     bill Landlord  added   30.00 USD, monthly, ????-??-?? (glob)
   account  5 Landlord     added   0.00 USD
-  $ kiv history --json | jq -c '.[:2][] | [.change, .encrypted]'
+  $ kiv history --json | jq -c '.[:2][] | [.change, .otherPassphrase]'
   ["Removed the bill 'Landlord'",false]
   ["Added the bill 'Landlord'",false]
   $ kiv check | tail -1
@@ -69,7 +69,7 @@ A passphrase is changed, also for the former versions; one that is wrong changes
   kiv: This is not the passphrase of the file 'household.budget'.
   [1]
   $ export KIV_PASSPHRASE_FILE=others
-  $ kiv history --json | jq -c '[.[] | .encrypted] | unique'
+  $ kiv history --json | jq -c '[.[] | .otherPassphrase] | unique'
   [false]
   $ kiv history diff 1 | tail -1
   bank         First                            added

@@ -58,7 +58,7 @@ QJsonObject toJson(const KeptVersion &version)
          isTelling(version) ? QJsonValue(version.mark.transactions) : QJsonValue()},
         {QStringLiteral("bytes"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.size)},
         {QStringLiteral("file"), version.path.isEmpty() ? QJsonValue() : QJsonValue(version.path)},
-        {QStringLiteral("encrypted"), version.telling == KeptVersion::Telling::Locked},
+        {QStringLiteral("otherPassphrase"), version.telling == KeptVersion::Telling::Locked},
         {QStringLiteral("readable"), version.telling != KeptVersion::Telling::Nothing}};
 }
 
@@ -174,7 +174,7 @@ struct History {
                       {QObject::tr("Transactions"), QStringLiteral("transactions")},
                       {QObject::tr("Change"), QStringLiteral("change")},
                       {QString(), QStringLiteral("readable"), state},
-                      {QString(), QStringLiteral("encrypted"), lock}},
+                      {QString(), QStringLiteral("otherPassphrase"), lock}},
                      rows, {});
         if (std::ranges::none_of(versions.all(), &KeptVersion::isFile))
             report.line(withFormerVersions(QObject::tr("The file '%1' is gone.").arg(file)));
