@@ -5328,22 +5328,6 @@
         <translation>Abgleichen von „%1“</translation>
     </message>
     <message>
-        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
-
-The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys.
-
-In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
-        <translation>Ein Budget ist eine Datei. Jede Änderung wird sofort übernommen und binnen einer Sekunde geschrieben; der Titel sagt, ob sie gespeichert ist. Strg+Z nimmt eine Änderung zurück, die Seite „Verlauf“ geht weiter zurück.
-
-Die Seiten stehen links. Strg+1 bis Strg+9 öffnen sie, F6 wechselt zwischen der Liste und der Seite. Strg+K findet jeden Befehl, jedes Konto und jeden Posten nach einem Teil des Namens. Strg+? nennt alle Tasten.
-
-In einem Formular tut Enter, was die erste Schaltfläche tut, und Esc gibt auf. Was abgelehnt wird, steht bei seinem Feld, und das Getippte bleibt. Beträge können Summen sein, wie 12+3.5. Tage können kurz sein: 3, 5-2, +7 oder T für heute.</translation>
-    </message>
-    <message>
-        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
-        <translation>Alle Konten mit ihren Salden: Geld, was geschuldet wird, was zurückgelegt ist und wofür Geld ausgegeben wird oder woher es kommt. Enter öffnet das Register eines Kontos.</translation>
-    </message>
-    <message>
         <source>The transactions of one account or of all, and below them the row for new ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When a payee is known, its last entry fills the other fields.
 
 F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. “Refund” in the menu “Transaction” takes money back: the whole amount is proposed, and a smaller one can be typed.
@@ -7350,6 +7334,417 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
         <source>Balance then</source>
         <translation>Saldo danach</translation>
     </message>
+    <message>
+        <source>Not all former versions could be encrypted: %1</source>
+        <translation>Nicht alle früheren Versionen konnten verschlüsselt werden: %1</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is encrypted: it needs its passphrase.</source>
+        <translation>Die Datei „%1“ ist verschlüsselt: Sie braucht ihre Passphrase.</translation>
+    </message>
+    <message>
+        <source>This is not the passphrase of the file &apos;%1&apos;.</source>
+        <translation>Das ist nicht die Passphrase der Datei „%1“.</translation>
+    </message>
+    <message>
+        <source>A passphrase has at least one character.</source>
+        <translation>Eine Passphrase hat mindestens ein Zeichen.</translation>
+    </message>
+    <message>
+        <source>A passphrase has at most %1 bytes.</source>
+        <translation>Eine Passphrase hat höchstens %1 Bytes.</translation>
+    </message>
+    <message>
+        <source>There is too little memory for the passphrase of the file &apos;%1&apos;: %2 MiB are needed.</source>
+        <translation>Für die Passphrase der Datei „%1“ ist zu wenig Arbeitsspeicher da: %2 MiB werden gebraucht.</translation>
+    </message>
+    <message>
+        <source>Its passphrase would take %1 MiB of memory and %2 passes, more than any such file needs.</source>
+        <translation>Ihre Passphrase bräuchte %1 MiB Arbeitsspeicher und %2 Durchgänge, mehr als jede solche Datei.</translation>
+    </message>
+    <message>
+        <source>A short passphrase can be guessed: four or five words that do not belong together are better.</source>
+        <translation>Eine kurze Passphrase lässt sich erraten: Besser sind vier oder fünf Wörter, die nicht zusammengehören.</translation>
+    </message>
+    <message>
+        <source>Without the passphrase nobody can read the budget, you neither: keep it where you find it again.</source>
+        <translation>Ohne die Passphrase kann niemand das Budget lesen, auch wer es verschlüsselt hat nicht: so aufbewahren, dass sie wiederzufinden ist.</translation>
+    </message>
+    <message>
+        <source>What was saved before can still be found on the disk, and in copies elsewhere.</source>
+        <translation>Was vorher gespeichert wurde, ist auf der Festplatte und in Kopien anderswo noch zu finden.</translation>
+    </message>
+    <message>
+        <source>These former versions are damaged or have another passphrase, and stay as they are: %1.</source>
+        <translation>Diese früheren Versionen sind beschädigt oder haben eine andere Passphrase und bleiben, wie sie sind: %1.</translation>
+    </message>
+    <message>
+        <source>The budget is encrypted, but what is written here is not: everybody who has it can read it.</source>
+        <translation>Das Budget ist verschlüsselt, aber was hier geschrieben wird, nicht: Jeder, der es hat, kann es lesen.</translation>
+    </message>
+    <message>
+        <source>Balance of %1 at the end of %2</source>
+        <translation>Saldo von %1 am Ende des %2</translation>
+    </message>
+    <message>
+        <source>Balance of %1</source>
+        <translation>Saldo von %1</translation>
+    </message>
+    <message>
+        <source>Opening balance</source>
+        <translation>Anfangssaldo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earlier entries</source>
+        <translation>
+            <numerusform>%n früherer Eintrag</numerusform>
+            <numerusform>%n frühere Einträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The share of a month of %1</source>
+        <translation>Monatsanteil von %1</translation>
+    </message>
+    <message>
+        <source>times a year</source>
+        <translation>mal im Jahr</translation>
+    </message>
+    <message>
+        <source>years from one to the next</source>
+        <translation>Jahre von einem zum nächsten</translation>
+    </message>
+    <message>
+        <source>months of a year</source>
+        <translation>Monate eines Jahres</translation>
+    </message>
+    <message>
+        <source>1 %1 is %2 %3, typed by hand</source>
+        <translation>1 %1 sind %2 %3, eingegeben</translation>
+    </message>
+    <message>
+        <source>1 %1 is %2 %3, fetched from the service</source>
+        <translation>1 %1 sind %2 %3, vom Dienst abgerufen</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>Amount in %1</source>
+        <translation>Betrag in %1</translation>
+    </message>
+    <message>
+        <source>what 1 %1 is in %2</source>
+        <translation>was 1 %1 in %2 ist</translation>
+    </message>
+    <message>
+        <source>Transaction %1 in %2</source>
+        <translation>Buchung %1 in %2</translation>
+    </message>
+    <message>
+        <source>what 1 %1 was in %2 when it was posted, by its two sides</source>
+        <translation>was 1 %1 beim Buchen in %2 war, nach beiden Seiten</translation>
+    </message>
+    <message>
+        <source>of the income: %1</source>
+        <translation>vom Einkommen: %1</translation>
+    </message>
+    <message>
+        <source>%1 at the end of %2, as it is expected</source>
+        <translation>%1 am Ende des %2, wie erwartet</translation>
+    </message>
+    <message>
+        <source>All money at the end of %1, as it is expected</source>
+        <translation>Alles Geld am Ende des %1, wie erwartet</translation>
+    </message>
+    <message>
+        <source>With all that was entered until today</source>
+        <translation>Mit allem, was bis heute eingetragen ist</translation>
+    </message>
+    <message>
+        <source>At the end of the day before</source>
+        <translation>Am Ende des Tages davor</translation>
+    </message>
+    <message>
+        <source>Rounding of converted amounts</source>
+        <translation>Rundung umgerechneter Beträge</translation>
+    </message>
+    <message>
+        <source>%1 when %2 is paid</source>
+        <translation>%1, wenn %2 bezahlt ist</translation>
+    </message>
+    <message>
+        <source>Set aside for %1</source>
+        <translation>Zurückgelegt für %1</translation>
+    </message>
+    <message>
+        <source>Set aside for %1 at %2</source>
+        <translation>Zurückgelegt für %1 bei %2</translation>
+    </message>
+    <message>
+        <source>Free to spend in %1</source>
+        <translation>Frei verfügbar in %1</translation>
+    </message>
+    <message>
+        <source>How far the books of %1 may be from the statement</source>
+        <translation>Wie weit die Bücher von %1 vom Kontoauszug abweichen dürfen</translation>
+    </message>
+    <message>
+        <source>less than one unit, since a part of zero is zero</source>
+        <translation>weniger als eine Einheit, da ein Teil von null null ist</translation>
+    </message>
+    <message>
+        <source>the window of %1</source>
+        <translation>die Toleranz von %1</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is not encrypted.</source>
+        <translation>Das Budget „%1“ ist nicht verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>Nothing of transaction %1 was converted; it is all in one currency.</source>
+        <translation>Von der Buchung %1 wurde nichts umgerechnet; sie ist ganz in einer Währung.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not recur, so no month has a share of it.</source>
+        <translation>„%1“ wiederholt sich nicht, also hat kein Monat einen Anteil daran.</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside for &apos;%1&apos; at %2.</source>
+        <translation>Für „%1“ ist bei %2 nichts zurückgelegt.</translation>
+    </message>
+    <message>
+        <source>%1 is owed; a survey refuses no difference there.</source>
+        <translation>%1 ist geschuldet; dort lehnt ein Abgleich keinen Unterschied ab.</translation>
+    </message>
+    <message>
+        <source>There is no income of which anything could take a part.</source>
+        <translation>Es gibt kein Einkommen, von dem etwas einen Teil nehmen könnte.</translation>
+    </message>
+    <message>
+        <source>%1 is not a day to look ahead to; name one from %2 to %3.</source>
+        <translation>Auf den %1 kann nicht vorausgeschaut werden; geben Sie einen Tag vom %2 bis zum %3 an.</translation>
+    </message>
+    <message>
+        <source>The outlook does not tell of %1: it is no open account of a bank, or holds the money of a goal.</source>
+        <translation>Die Vorschau nennt %1 nicht: Es ist kein offenes Konto einer Bank oder hält das Geld eines Ziels.</translation>
+    </message>
+    <message>
+        <source>Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.</source>
+        <translation>Ohne offenes Bankkonto oder ohne Wechselkurs lässt sich das Geld nicht zusammenzählen; nennen Sie ein Konto.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <comment>a total</comment>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>Owed</source>
+        <translation>Geschuldet</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>Zusammen</translation>
+    </message>
+    <message>
+        <source>File with the passphrase of an encrypted budget (default: the variable KIV_PASSPHRASE_FILE)</source>
+        <translation>Datei mit der Passphrase eines verschlüsselten Budgets (sonst: die Variable KIV_PASSPHRASE_FILE)</translation>
+    </message>
+    <message>
+        <source>Balances at the end of this day (default: now)</source>
+        <translation>Salden am Ende dieses Tages (Standard: jetzt)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transactions, together %1.</source>
+        <translation>
+            <numerusform>%n Buchung, zusammen %1.</numerusform>
+            <numerusform>%n Buchungen, zusammen %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Encrypt it with a passphrase</source>
+        <translation>Mit einer Passphrase verschlüsseln</translation>
+    </message>
+    <message>
+        <source>Encrypted</source>
+        <translation>Verschlüsselt</translation>
+    </message>
+    <message>
+        <source>File with the new passphrase (default: asked at the terminal)</source>
+        <translation>Datei mit der neuen Passphrase (sonst: wird am Terminal gefragt)</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions have the new passphrase.</source>
+        <translation>Das Budget „%1“ und seine früheren Versionen haben die neue Passphrase.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions are encrypted.</source>
+        <translation>Das Budget „%1“ und seine früheren Versionen sind verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions are not encrypted any more: everybody who has the files can read them.</source>
+        <translation>Das Budget „%1“ und seine früheren Versionen sind nicht mehr verschlüsselt: Jeder, der die Dateien hat, kann sie lesen.</translation>
+    </message>
+    <message>
+        <source>Encrypt the budget and its former versions, or change the passphrase</source>
+        <translation>Das Budget und seine früheren Versionen verschlüsseln oder die Passphrase ändern</translation>
+    </message>
+    <message>
+        <source>Take the encryption away again</source>
+        <translation>Die Verschlüsselung wieder aufheben</translation>
+    </message>
+    <message>
+        <source>Day of the balance (default: all transactions)</source>
+        <translation>Tag des Saldos (Standard: alle Buchungen)</translation>
+    </message>
+    <message>
+        <source>Budget item</source>
+        <translation>Budgetposten</translation>
+    </message>
+    <message>
+        <source>Amount, such as &apos;100 EUR&apos;</source>
+        <translation>Betrag, etwa „100 EUR“</translation>
+    </message>
+    <message>
+        <source>Currency of the result (default: the preferred one)</source>
+        <translation>Währung des Ergebnisses (Standard: die bevorzugte)</translation>
+    </message>
+    <message>
+        <source>Transaction whose sides were converted when it was posted</source>
+        <translation>Buchung, deren Seiten beim Buchen umgerechnet wurden</translation>
+    </message>
+    <message>
+        <source>Give an amount, or a transaction with --entry.</source>
+        <translation>Geben Sie einen Betrag oder mit --entry eine Buchung an.</translation>
+    </message>
+    <message>
+        <source>Balance of the statement (default: the expected one)</source>
+        <translation>Saldo des Kontoauszugs (Standard: der erwartete)</translation>
+    </message>
+    <message>
+        <source>Day of the statement (default: today)</source>
+        <translation>Tag des Kontoauszugs (Standard: heute)</translation>
+    </message>
+    <message>
+        <source>Only one: planned, needs, debts, spending or goals (default: all)</source>
+        <translation>Nur einer: planned, needs, debts, spending oder goals (Standard: alle)</translation>
+    </message>
+    <message>
+        <source>Day that is to come</source>
+        <translation>Tag, der noch kommt</translation>
+    </message>
+    <message>
+        <source>Account: number, name or path (default: all money together)</source>
+        <translation>Konto: Nummer, Name oder Pfad (Standard: alles Geld zusammen)</translation>
+    </message>
+    <message>
+        <source>Tell why a figure is what it is</source>
+        <translation>Sagen, warum eine Zahl ist, wie sie ist</translation>
+    </message>
+    <message>
+        <source>Explain the balance of an account</source>
+        <translation>Den Saldo eines Kontos erklären</translation>
+    </message>
+    <message>
+        <source>Explain an item&apos;s share of a month</source>
+        <translation>Den Monatsanteil eines Postens erklären</translation>
+    </message>
+    <message>
+        <source>Explain a conversion into another currency</source>
+        <translation>Eine Umrechnung in eine andere Währung erklären</translation>
+    </message>
+    <message>
+        <source>Explain what is set aside for an item</source>
+        <translation>Erklären, was für einen Posten zurückgelegt ist</translation>
+    </message>
+    <message>
+        <source>Explain what is free to spend</source>
+        <translation>Erklären, was frei verfügbar ist</translation>
+    </message>
+    <message>
+        <source>Explain how far the books may be from a statement</source>
+        <translation>Erklären, wie weit die Bücher von einem Kontoauszug abweichen dürfen</translation>
+    </message>
+    <message>
+        <source>Explain the percentages of the budget&apos;s health</source>
+        <translation>Die Prozentsätze der Budgetgesundheit erklären</translation>
+    </message>
+    <message>
+        <source>Explain what is expected at the end of a day</source>
+        <translation>Erklären, was am Ende eines Tages erwartet wird</translation>
+    </message>
+    <message>
+        <source>another passphrase</source>
+        <translation>andere Passphrase</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is encrypted: give its passphrase with %2, or at a terminal.</source>
+        <translation>Die Datei „%1“ ist verschlüsselt: ihre Passphrase mit %2 oder an einem Terminal angeben.</translation>
+    </message>
+    <message>
+        <source>This is not the same passphrase.</source>
+        <translation>Das ist nicht dieselbe Passphrase.</translation>
+    </message>
+    <message>
+        <source>Others can read the passphrase in &apos;%1&apos;.</source>
+        <translation>Andere können die Passphrase in „%1“ lesen.</translation>
+    </message>
+    <message>
+        <source>Passphrase of &apos;%1&apos;</source>
+        <translation>Passphrase von „%1“</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Neue Passphrase</translation>
+    </message>
+    <message>
+        <source>The new passphrase again</source>
+        <translation>Die neue Passphrase noch einmal</translation>
+    </message>
+    <message>
+        <source>The desktop’s keyring does not keep the passphrase: %1</source>
+        <translation>Der Schlüsselbund des Desktops bewahrt die Passphrase nicht auf: %1</translation>
+    </message>
+    <message>
+        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
+
+The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys. F9 tells why the number that is chosen is what it is.
+
+In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
+        <translation>Ein Budget ist eine Datei. Jede Änderung wird sofort übernommen und binnen einer Sekunde geschrieben; der Titel sagt, ob sie gespeichert ist. Strg+Z nimmt eine Änderung zurück, die Seite „Verlauf“ geht weiter zurück.
+
+Die Seiten stehen links. Strg+1 bis Strg+9 öffnen sie, F6 wechselt zwischen der Liste und der Seite. Strg+K findet jeden Befehl, jedes Konto und jeden Posten nach einem Teil des Namens. Strg+? nennt alle Tasten. F9 sagt, warum die gewählte Zahl ist, wie sie ist.
+
+In einem Formular tut Enter, was die erste Schaltfläche tut, und Esc gibt auf. Was abgelehnt wird, steht bei seinem Feld, und das Getippte bleibt. Beträge können Summen sein, wie 12+3.5. Tage können kurz sein: 3, 5-2, +7 oder T für heute.</translation>
+    </message>
+    <message>
+        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account. With a day, the balances are those at its end.</source>
+        <translation>Alle Konten mit ihren Salden: Geld, was geschuldet wird, was zurückgelegt ist und wofür Geld ausgegeben wird oder woher es kommt. Enter öffnet das Register eines Kontos. Mit einem Tag sind es die Salden an dessen Ende.</translation>
+    </message>
+    <message>
+        <source>A passphrase encrypts the budget and its former versions: in a shared folder or on a lost computer nobody can read them. It is needed each time the budget is opened, unless the desktop’s keyring keeps it. Without it nobody can read the budget, you neither.
+
+What was saved before, exports, and what a running program has in memory are not protected.</source>
+        <translation>Eine Passphrase verschlüsselt das Budget und seine früheren Versionen: In einem geteilten Ordner oder auf einem verlorenen Rechner kann sie niemand lesen. Sie wird bei jedem Öffnen gebraucht, außer der Schlüsselbund des Desktops bewahrt sie auf. Ohne sie kann niemand das Budget lesen, auch wer es verschlüsselt hat nicht.
+
+Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher hat, ist nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>The passphrase of “%1”:</source>
+        <translation>Die Passphrase von „%1“:</translation>
+    </message>
+    <message>
+        <source>This is not the passphrase of “%1”. The passphrase:</source>
+        <translation>Das ist nicht die Passphrase von „%1“. Die Passphrase:</translation>
+    </message>
+    <message>
+        <source>Passphrase</source>
+        <translation>Passphrase</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it in the desktop’s keyring</source>
+        <translation>Im &amp;Schlüsselbund des Desktops aufbewahren</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7487,6 +7882,10 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     <message>
         <source>&amp;Import a bank file</source>
         <translation>Date&amp;i der Bank importieren</translation>
+    </message>
+    <message>
+        <source>Balances on the &amp;day (may be empty):</source>
+        <translation>Salden v&amp;om Tag (kann leer sein):</translation>
     </message>
 </context>
 <context>
@@ -7839,6 +8238,77 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
 </context>
 <context>
+    <name>kiv::desktop::EncryptionPage</name>
+    <message>
+        <source>Encryption</source>
+        <translation>Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>Neue &amp;Passphrase:</translation>
+    </message>
+    <message>
+        <source>The same &amp;again:</source>
+        <translation>Noch ein&amp;mal dieselbe:</translation>
+    </message>
+    <message>
+        <source>Typing:</source>
+        <translation>Eingabe:</translation>
+    </message>
+    <message>
+        <source>&amp;Show what is typed</source>
+        <translation>Ein&amp;gabe zeigen</translation>
+    </message>
+    <message>
+        <source>Afterwards:</source>
+        <translation>Danach:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it in the desktop’s keyring</source>
+        <translation>Im &amp;Schlüsselbund des Desktops aufbewahren</translation>
+    </message>
+    <message>
+        <source>Encr&amp;ypt</source>
+        <translation>&amp;Verschlüsseln</translation>
+    </message>
+    <message>
+        <source>Take the encryption a&amp;way</source>
+        <translation>Verschlüsselung &amp;aufheben</translation>
+    </message>
+    <message>
+        <source>This budget and its former versions are encrypted. Whoever finds the files reads nothing without the passphrase.</source>
+        <translation>Dieses Budget und seine früheren Versionen sind verschlüsselt. Wer die Dateien findet, liest ohne die Passphrase nichts.</translation>
+    </message>
+    <message>
+        <source>This budget is not encrypted: whoever gets the file can read it. A passphrase protects it and its former versions, in a shared folder or on a lost computer.</source>
+        <translation>Dieses Budget ist nicht verschlüsselt: Wer die Datei bekommt, kann sie lesen. Eine Passphrase schützt es und seine früheren Versionen, in einem geteilten Ordner oder auf einem verlorenen Rechner.</translation>
+    </message>
+    <message>
+        <source>Exports, and what a running program has in memory, are not protected.</source>
+        <translation>Exporte und was ein laufendes Programm im Speicher hat, sind nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>Change the passphrase</source>
+        <translation>Die Passphrase ändern</translation>
+    </message>
+    <message>
+        <source>This budget is not encrypted.</source>
+        <translation>Dieses Budget ist nicht verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>This is not the same passphrase.</source>
+        <translation>Das ist nicht dieselbe Passphrase.</translation>
+    </message>
+    <message>
+        <source>The budget is encrypted.</source>
+        <translation>Das Budget ist verschlüsselt.</translation>
+    </message>
+    <message>
+        <source>The budget is not encrypted any more.</source>
+        <translation>Das Budget ist nicht mehr verschlüsselt.</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::EntryFields</name>
     <message>
         <source>&amp;Amount</source>
@@ -7949,6 +8419,29 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ExplanationPanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Erklärung</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FileOutputs</name>
     <message>
         <source>&amp;Export …</source>
@@ -7997,6 +8490,10 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     <message>
         <source>Check of the file</source>
         <translation>Prüfung der Datei</translation>
+    </message>
+    <message>
+        <source>Exported to “%1”. %2</source>
+        <translation>Nach „%1“ exportiert. %2</translation>
     </message>
 </context>
 <context>
@@ -8164,6 +8661,14 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     <message>
         <source>Save as</source>
         <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>Encr&amp;yption …</source>
+        <translation>&amp;Verschlüsselung …</translation>
+    </message>
+    <message>
+        <source>saved, encrypted</source>
+        <translation>gespeichert, verschlüsselt</translation>
     </message>
 </context>
 <context>
@@ -9126,6 +9631,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>&amp;Import a bank file …</source>
         <translation>Datei der Bank &amp;importieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Explain this number</source>
+        <translation>&amp;Zahl erklären</translation>
+    </message>
+    <message>
+        <source>No number is chosen that can be explained.</source>
+        <translation>Es ist keine Zahl gewählt, die erklärt werden kann.</translation>
     </message>
 </context>
 <context>

@@ -363,8 +363,8 @@
     <message numerus="yes">
         <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</source>
         <translation>
-            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payment, with interest of about %4 a year.</numerusform>
-            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</numerusform>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payment, with interest of about %4 a year.</numerusform>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments, with interest of about %4 a year.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -377,15 +377,15 @@
     <message numerus="yes">
         <source>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payments.</source>
         <translation>
-            <numerusform>The goal '%1' lacks %2: reached on %3, after %n payment.</numerusform>
-            <numerusform>The goal '%1' lacks %2: reached on %3, after %n payments.</numerusform>
+            <numerusform>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payment.</numerusform>
+            <numerusform>The goal &apos;%1&apos; lacks %2: reached on %3, after %n payments.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments.</source>
         <translation>
-            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payment.</numerusform>
-            <numerusform>Of the debt '%1' are %2 left: paid off on %3, after %n payments.</numerusform>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payment.</numerusform>
+            <numerusform>Of the debt &apos;%1&apos; are %2 left: paid off on %3, after %n payments.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -393,6 +393,20 @@
         <translation>
             <numerusform>With %1 more a month it ends on %2, %n day earlier.</numerusform>
             <numerusform>With %1 more a month it ends on %2, %n days earlier.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earlier entries</source>
+        <translation>
+            <numerusform>%n earlier entry</numerusform>
+            <numerusform>%n earlier entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transactions, together %1.</source>
+        <translation>
+            <numerusform>%n transaction, together %1.</numerusform>
+            <numerusform>%n transactions, together %1.</numerusform>
         </translation>
     </message>
 </context>

@@ -5328,22 +5328,6 @@
         <translation>conciliar «%1»</translation>
     </message>
     <message>
-        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
-
-The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys.
-
-In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
-        <translation>Un presupuesto es un archivo. Cada cambio se toma enseguida y se escribe en menos de un segundo; el título dice si está guardado. Ctrl+Z deshace un cambio, y la página «Historial» retrocede más.
-
-Las páginas están a un lado. Ctrl+1 a Ctrl+9 las abren, F6 pasa de la lista a la página y vuelve. Ctrl+K encuentra cada orden, cuenta y partida por una parte de su nombre. Ctrl+? muestra todas las teclas.
-
-En un formulario, Intro hace lo que hace su primer botón, y Esc lo deja. Lo que se rechaza se dice en su campo, y lo escrito se queda. Los importes pueden ser sumas, como 12+3.5. Los días pueden ser cortos: 3, 5-2, +7 o T para hoy.</translation>
-    </message>
-    <message>
-        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account.</source>
-        <translation>Todas las cuentas con sus saldos: el dinero, lo que se debe, lo que está apartado y en qué se gasta o de dónde viene. Intro abre el registro de una cuenta.</translation>
-    </message>
-    <message>
         <source>The transactions of one account or of all, and below them the row for new ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When a payee is known, its last entry fills the other fields.
 
 F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. “Refund” in the menu “Transaction” takes money back: the whole amount is proposed, and a smaller one can be typed.
@@ -7350,6 +7334,417 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
         <source>Balance then</source>
         <translation>Saldo después</translation>
     </message>
+    <message>
+        <source>Not all former versions could be encrypted: %1</source>
+        <translation>No se pudieron cifrar todas las versiones anteriores: %1</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is encrypted: it needs its passphrase.</source>
+        <translation>El archivo «%1» está cifrado: necesita su frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>This is not the passphrase of the file &apos;%1&apos;.</source>
+        <translation>Esta no es la frase de contraseña del archivo «%1».</translation>
+    </message>
+    <message>
+        <source>A passphrase has at least one character.</source>
+        <translation>Una frase de contraseña tiene al menos un carácter.</translation>
+    </message>
+    <message>
+        <source>A passphrase has at most %1 bytes.</source>
+        <translation>Una frase de contraseña tiene como máximo %1 bytes.</translation>
+    </message>
+    <message>
+        <source>There is too little memory for the passphrase of the file &apos;%1&apos;: %2 MiB are needed.</source>
+        <translation>No hay memoria suficiente para la frase de contraseña del archivo «%1»: se necesitan %2 MiB.</translation>
+    </message>
+    <message>
+        <source>Its passphrase would take %1 MiB of memory and %2 passes, more than any such file needs.</source>
+        <translation>Su frase de contraseña tomaría %1 MiB de memoria y %2 pasadas, más de lo que necesita cualquier archivo así.</translation>
+    </message>
+    <message>
+        <source>A short passphrase can be guessed: four or five words that do not belong together are better.</source>
+        <translation>Una frase de contraseña corta se puede adivinar: mejor cuatro o cinco palabras que no tengan que ver entre sí.</translation>
+    </message>
+    <message>
+        <source>Without the passphrase nobody can read the budget, you neither: keep it where you find it again.</source>
+        <translation>Sin la frase de contraseña nadie puede leer el presupuesto, tampoco quien lo cifró: conviene guardarla donde se vuelva a encontrar.</translation>
+    </message>
+    <message>
+        <source>What was saved before can still be found on the disk, and in copies elsewhere.</source>
+        <translation>Lo que se guardó antes aún puede encontrarse en el disco y en copias de otros lugares.</translation>
+    </message>
+    <message>
+        <source>These former versions are damaged or have another passphrase, and stay as they are: %1.</source>
+        <translation>Estas versiones anteriores están dañadas o tienen otra frase de contraseña, y quedan como están: %1.</translation>
+    </message>
+    <message>
+        <source>The budget is encrypted, but what is written here is not: everybody who has it can read it.</source>
+        <translation>El presupuesto está cifrado, pero lo que se escribe aquí no: quien lo tenga puede leerlo.</translation>
+    </message>
+    <message>
+        <source>Balance of %1 at the end of %2</source>
+        <translation>Saldo de %1 al final del %2</translation>
+    </message>
+    <message>
+        <source>Balance of %1</source>
+        <translation>Saldo de %1</translation>
+    </message>
+    <message>
+        <source>Opening balance</source>
+        <translation>Saldo inicial</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n earlier entries</source>
+        <translation>
+            <numerusform>%n movimiento anterior</numerusform>
+            <numerusform>%n movimientos anteriores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The share of a month of %1</source>
+        <translation>La parte de un mes de %1</translation>
+    </message>
+    <message>
+        <source>times a year</source>
+        <translation>veces al año</translation>
+    </message>
+    <message>
+        <source>years from one to the next</source>
+        <translation>años de uno al siguiente</translation>
+    </message>
+    <message>
+        <source>months of a year</source>
+        <translation>meses de un año</translation>
+    </message>
+    <message>
+        <source>1 %1 is %2 %3, typed by hand</source>
+        <translation>1 %1 son %2 %3, introducido a mano</translation>
+    </message>
+    <message>
+        <source>1 %1 is %2 %3, fetched from the service</source>
+        <translation>1 %1 son %2 %3, obtenido del servicio</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Amount in %1</source>
+        <translation>Importe en %1</translation>
+    </message>
+    <message>
+        <source>what 1 %1 is in %2</source>
+        <translation>lo que es 1 %1 en %2</translation>
+    </message>
+    <message>
+        <source>Transaction %1 in %2</source>
+        <translation>Asiento %1 en %2</translation>
+    </message>
+    <message>
+        <source>what 1 %1 was in %2 when it was posted, by its two sides</source>
+        <translation>lo que era 1 %1 en %2 al registrarlo, según sus dos lados</translation>
+    </message>
+    <message>
+        <source>of the income: %1</source>
+        <translation>de los ingresos: %1</translation>
+    </message>
+    <message>
+        <source>%1 at the end of %2, as it is expected</source>
+        <translation>%1 al final del %2, según lo previsto</translation>
+    </message>
+    <message>
+        <source>All money at the end of %1, as it is expected</source>
+        <translation>Todo el dinero al final del %1, según lo previsto</translation>
+    </message>
+    <message>
+        <source>With all that was entered until today</source>
+        <translation>Con todo lo registrado hasta hoy</translation>
+    </message>
+    <message>
+        <source>At the end of the day before</source>
+        <translation>Al final del día anterior</translation>
+    </message>
+    <message>
+        <source>Rounding of converted amounts</source>
+        <translation>Redondeo de importes convertidos</translation>
+    </message>
+    <message>
+        <source>%1 when %2 is paid</source>
+        <translation>%1 cuando se haya pagado %2</translation>
+    </message>
+    <message>
+        <source>Set aside for %1</source>
+        <translation>Apartado para %1</translation>
+    </message>
+    <message>
+        <source>Set aside for %1 at %2</source>
+        <translation>Apartado para %1 en %2</translation>
+    </message>
+    <message>
+        <source>Free to spend in %1</source>
+        <translation>Libre para gastar en %1</translation>
+    </message>
+    <message>
+        <source>How far the books of %1 may be from the statement</source>
+        <translation>Cuánto pueden diferir los libros de %1 del extracto</translation>
+    </message>
+    <message>
+        <source>less than one unit, since a part of zero is zero</source>
+        <translation>menos de una unidad, porque una parte de cero es cero</translation>
+    </message>
+    <message>
+        <source>the window of %1</source>
+        <translation>el margen de %1</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; is not encrypted.</source>
+        <translation>El presupuesto «%1» no está cifrado.</translation>
+    </message>
+    <message>
+        <source>Nothing of transaction %1 was converted; it is all in one currency.</source>
+        <translation>No se convirtió nada del asiento %1; está todo en una sola moneda.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; does not recur, so no month has a share of it.</source>
+        <translation>«%1» no se repite, así que ningún mes tiene una parte.</translation>
+    </message>
+    <message>
+        <source>Nothing is set aside for &apos;%1&apos; at %2.</source>
+        <translation>No hay nada apartado para «%1» en %2.</translation>
+    </message>
+    <message>
+        <source>%1 is owed; a survey refuses no difference there.</source>
+        <translation>%1 se debe; allí una conciliación no rechaza ninguna diferencia.</translation>
+    </message>
+    <message>
+        <source>There is no income of which anything could take a part.</source>
+        <translation>No hay ingresos de los que algo pueda tomar una parte.</translation>
+    </message>
+    <message>
+        <source>%1 is not a day to look ahead to; name one from %2 to %3.</source>
+        <translation>%1 no es un día al que mirar; indique uno del %2 al %3.</translation>
+    </message>
+    <message>
+        <source>The outlook does not tell of %1: it is no open account of a bank, or holds the money of a goal.</source>
+        <translation>La previsión no muestra %1: no es una cuenta abierta de un banco, o guarda el dinero de una meta.</translation>
+    </message>
+    <message>
+        <source>Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.</source>
+        <translation>Sin una cuenta bancaria abierta, o sin un tipo de cambio, el dinero no se puede sumar; indique una cuenta.</translation>
+    </message>
+    <message>
+        <source>%1: %2.</source>
+        <comment>a total</comment>
+        <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>Owed</source>
+        <translation>Adeudado</translation>
+    </message>
+    <message>
+        <source>Together</source>
+        <translation>En total</translation>
+    </message>
+    <message>
+        <source>File with the passphrase of an encrypted budget (default: the variable KIV_PASSPHRASE_FILE)</source>
+        <translation>Archivo con la frase de contraseña de un presupuesto cifrado (por defecto: la variable KIV_PASSPHRASE_FILE)</translation>
+    </message>
+    <message>
+        <source>Balances at the end of this day (default: now)</source>
+        <translation>Saldos al final de este día (por defecto: ahora)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n transactions, together %1.</source>
+        <translation>
+            <numerusform>%n asiento, en total %1.</numerusform>
+            <numerusform>%n asientos, en total %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Encrypt it with a passphrase</source>
+        <translation>Cifrarlo con una frase de contraseña</translation>
+    </message>
+    <message>
+        <source>Encrypted</source>
+        <translation>Cifrado</translation>
+    </message>
+    <message>
+        <source>File with the new passphrase (default: asked at the terminal)</source>
+        <translation>Archivo con la nueva frase de contraseña (por defecto: se pregunta en el terminal)</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions have the new passphrase.</source>
+        <translation>El presupuesto «%1» y sus versiones anteriores tienen la nueva frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions are encrypted.</source>
+        <translation>El presupuesto «%1» y sus versiones anteriores están cifrados.</translation>
+    </message>
+    <message>
+        <source>The budget &apos;%1&apos; and its former versions are not encrypted any more: everybody who has the files can read them.</source>
+        <translation>El presupuesto «%1» y sus versiones anteriores ya no están cifrados: quien tenga los archivos puede leerlos.</translation>
+    </message>
+    <message>
+        <source>Encrypt the budget and its former versions, or change the passphrase</source>
+        <translation>Cifrar el presupuesto y sus versiones anteriores, o cambiar la frase de contraseña</translation>
+    </message>
+    <message>
+        <source>Take the encryption away again</source>
+        <translation>Quitar el cifrado</translation>
+    </message>
+    <message>
+        <source>Day of the balance (default: all transactions)</source>
+        <translation>Día del saldo (por defecto: todos los asientos)</translation>
+    </message>
+    <message>
+        <source>Budget item</source>
+        <translation>Partida del presupuesto</translation>
+    </message>
+    <message>
+        <source>Amount, such as &apos;100 EUR&apos;</source>
+        <translation>Importe, como «100 EUR»</translation>
+    </message>
+    <message>
+        <source>Currency of the result (default: the preferred one)</source>
+        <translation>Moneda del resultado (por defecto: la preferida)</translation>
+    </message>
+    <message>
+        <source>Transaction whose sides were converted when it was posted</source>
+        <translation>Asiento cuyos lados se convirtieron al registrarlo</translation>
+    </message>
+    <message>
+        <source>Give an amount, or a transaction with --entry.</source>
+        <translation>Indique un importe, o un asiento con --entry.</translation>
+    </message>
+    <message>
+        <source>Balance of the statement (default: the expected one)</source>
+        <translation>Saldo del extracto (por defecto: el esperado)</translation>
+    </message>
+    <message>
+        <source>Day of the statement (default: today)</source>
+        <translation>Día del extracto (por defecto: hoy)</translation>
+    </message>
+    <message>
+        <source>Only one: planned, needs, debts, spending or goals (default: all)</source>
+        <translation>Solo uno: planned, needs, debts, spending o goals (por defecto: todos)</translation>
+    </message>
+    <message>
+        <source>Day that is to come</source>
+        <translation>Día que está por venir</translation>
+    </message>
+    <message>
+        <source>Account: number, name or path (default: all money together)</source>
+        <translation>Cuenta: número, nombre o ruta (por defecto: todo el dinero junto)</translation>
+    </message>
+    <message>
+        <source>Tell why a figure is what it is</source>
+        <translation>Decir por qué una cifra es la que es</translation>
+    </message>
+    <message>
+        <source>Explain the balance of an account</source>
+        <translation>Explicar el saldo de una cuenta</translation>
+    </message>
+    <message>
+        <source>Explain an item&apos;s share of a month</source>
+        <translation>Explicar la parte de un mes de una partida</translation>
+    </message>
+    <message>
+        <source>Explain a conversion into another currency</source>
+        <translation>Explicar una conversión a otra moneda</translation>
+    </message>
+    <message>
+        <source>Explain what is set aside for an item</source>
+        <translation>Explicar lo apartado para una partida</translation>
+    </message>
+    <message>
+        <source>Explain what is free to spend</source>
+        <translation>Explicar lo que está libre para gastar</translation>
+    </message>
+    <message>
+        <source>Explain how far the books may be from a statement</source>
+        <translation>Explicar cuánto pueden diferir los libros de un extracto</translation>
+    </message>
+    <message>
+        <source>Explain the percentages of the budget&apos;s health</source>
+        <translation>Explicar los porcentajes de la salud del presupuesto</translation>
+    </message>
+    <message>
+        <source>Explain what is expected at the end of a day</source>
+        <translation>Explicar lo que se espera al final de un día</translation>
+    </message>
+    <message>
+        <source>another passphrase</source>
+        <translation>otra frase de contraseña</translation>
+    </message>
+    <message>
+        <source>The file &apos;%1&apos; is encrypted: give its passphrase with %2, or at a terminal.</source>
+        <translation>El archivo «%1» está cifrado: hay que indicar su frase de contraseña con %2 o en un terminal.</translation>
+    </message>
+    <message>
+        <source>This is not the same passphrase.</source>
+        <translation>No es la misma frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>Others can read the passphrase in &apos;%1&apos;.</source>
+        <translation>Otros pueden leer la frase de contraseña en «%1».</translation>
+    </message>
+    <message>
+        <source>Passphrase of &apos;%1&apos;</source>
+        <translation>Frase de contraseña de «%1»</translation>
+    </message>
+    <message>
+        <source>New passphrase</source>
+        <translation>Nueva frase de contraseña</translation>
+    </message>
+    <message>
+        <source>The new passphrase again</source>
+        <translation>La nueva frase de contraseña otra vez</translation>
+    </message>
+    <message>
+        <source>The desktop’s keyring does not keep the passphrase: %1</source>
+        <translation>El llavero del escritorio no guarda la frase de contraseña: %1</translation>
+    </message>
+    <message>
+        <source>A budget is one file. Each change is kept at once and written within a second; the title says whether it is saved. Ctrl+Z takes a change back, and the page “History” goes back further.
+
+The pages stand at the left. Ctrl+1 to Ctrl+9 open them, F6 goes between the list and the page. Ctrl+K finds every command, account and item by a part of its name. Ctrl+? lists all keys. F9 tells why the number that is chosen is what it is.
+
+In a form, Enter does what its first button does, and Esc gives up. What is refused is told at its field, and what was typed stays. Amounts can be sums, such as 12+3.5. Days can be short: 3, 5-2, +7, or T for today.</source>
+        <translation>Un presupuesto es un archivo. Cada cambio se toma enseguida y se escribe en menos de un segundo; el título dice si está guardado. Ctrl+Z deshace un cambio, y la página «Historial» retrocede más.
+
+Las páginas están a un lado. Ctrl+1 a Ctrl+9 las abren, F6 pasa de la lista a la página y vuelve. Ctrl+K encuentra cada orden, cuenta y partida por una parte de su nombre. Ctrl+? muestra todas las teclas. F9 dice por qué la cifra elegida es la que es.
+
+En un formulario, Intro hace lo que hace su primer botón, y Esc lo deja. Lo que se rechaza se dice en su campo, y lo escrito se queda. Los importes pueden ser sumas, como 12+3.5. Los días pueden ser cortos: 3, 5-2, +7 o T para hoy.</translation>
+    </message>
+    <message>
+        <source>All accounts with their balances: money, what is owed, what is set aside, and what money is spent on or comes from. Enter opens the register of an account. With a day, the balances are those at its end.</source>
+        <translation>Todas las cuentas con sus saldos: el dinero, lo que se debe, lo que está apartado y en qué se gasta o de dónde viene. Intro abre el registro de una cuenta. Con un día, son los saldos a su final.</translation>
+    </message>
+    <message>
+        <source>A passphrase encrypts the budget and its former versions: in a shared folder or on a lost computer nobody can read them. It is needed each time the budget is opened, unless the desktop’s keyring keeps it. Without it nobody can read the budget, you neither.
+
+What was saved before, exports, and what a running program has in memory are not protected.</source>
+        <translation>Una frase de contraseña cifra el presupuesto y sus versiones anteriores: en una carpeta compartida o en un ordenador perdido nadie puede leerlos. Hace falta cada vez que se abre el presupuesto, salvo que la guarde el llavero del escritorio. Sin ella nadie puede leer el presupuesto, tampoco quien lo cifró.
+
+Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no está protegido.</translation>
+    </message>
+    <message>
+        <source>The passphrase of “%1”:</source>
+        <translation>La frase de contraseña de «%1»:</translation>
+    </message>
+    <message>
+        <source>This is not the passphrase of “%1”. The passphrase:</source>
+        <translation>Esta no es la frase de contraseña de «%1». La frase:</translation>
+    </message>
+    <message>
+        <source>Passphrase</source>
+        <translation>Frase de contraseña</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it in the desktop’s keyring</source>
+        <translation>Guar&amp;darla en el llavero del escritorio</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -7487,6 +7882,10 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     <message>
         <source>&amp;Import a bank file</source>
         <translation>Im&amp;portar un archivo del banco</translation>
+    </message>
+    <message>
+        <source>Balances on the &amp;day (may be empty):</source>
+        <translation>Sald&amp;os del día (puede faltar):</translation>
     </message>
 </context>
 <context>
@@ -7839,6 +8238,77 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
 </context>
 <context>
+    <name>kiv::desktop::EncryptionPage</name>
+    <message>
+        <source>Encryption</source>
+        <translation>Cifrado</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nueva frase de contraseña:</translation>
+    </message>
+    <message>
+        <source>The same &amp;again:</source>
+        <translation>&amp;La misma otra vez:</translation>
+    </message>
+    <message>
+        <source>Typing:</source>
+        <translation>Escritura:</translation>
+    </message>
+    <message>
+        <source>&amp;Show what is typed</source>
+        <translation>&amp;Mostrar lo que se escribe</translation>
+    </message>
+    <message>
+        <source>Afterwards:</source>
+        <translation>Después:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep it in the desktop’s keyring</source>
+        <translation>Guar&amp;darla en el llavero del escritorio</translation>
+    </message>
+    <message>
+        <source>Encr&amp;ypt</source>
+        <translation>&amp;Cifrar</translation>
+    </message>
+    <message>
+        <source>Take the encryption a&amp;way</source>
+        <translation>&amp;Quitar el cifrado</translation>
+    </message>
+    <message>
+        <source>This budget and its former versions are encrypted. Whoever finds the files reads nothing without the passphrase.</source>
+        <translation>Este presupuesto y sus versiones anteriores están cifrados. Quien encuentre los archivos no lee nada sin la frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>This budget is not encrypted: whoever gets the file can read it. A passphrase protects it and its former versions, in a shared folder or on a lost computer.</source>
+        <translation>Este presupuesto no está cifrado: quien obtenga el archivo puede leerlo. Una frase de contraseña lo protege, con sus versiones anteriores, en una carpeta compartida o en un ordenador perdido.</translation>
+    </message>
+    <message>
+        <source>Exports, and what a running program has in memory, are not protected.</source>
+        <translation>Lo exportado, y lo que un programa en marcha tiene en memoria, no está protegido.</translation>
+    </message>
+    <message>
+        <source>Change the passphrase</source>
+        <translation>Cambiar la frase de contraseña</translation>
+    </message>
+    <message>
+        <source>This budget is not encrypted.</source>
+        <translation>Este presupuesto no está cifrado.</translation>
+    </message>
+    <message>
+        <source>This is not the same passphrase.</source>
+        <translation>No es la misma frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>The budget is encrypted.</source>
+        <translation>El presupuesto está cifrado.</translation>
+    </message>
+    <message>
+        <source>The budget is not encrypted any more.</source>
+        <translation>El presupuesto ya no está cifrado.</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::EntryFields</name>
     <message>
         <source>&amp;Amount</source>
@@ -7949,6 +8419,29 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
 </context>
 <context>
+    <name>kiv::desktop::ExplanationPanel</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>Explanation</source>
+        <translation>Explicación</translation>
+    </message>
+</context>
+<context>
     <name>kiv::desktop::FileOutputs</name>
     <message>
         <source>&amp;Export …</source>
@@ -7997,6 +8490,10 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     <message>
         <source>Check of the file</source>
         <translation>Comprobación del archivo</translation>
+    </message>
+    <message>
+        <source>Exported to “%1”. %2</source>
+        <translation>Exportado a «%1». %2</translation>
     </message>
 </context>
 <context>
@@ -8164,6 +8661,14 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     <message>
         <source>Save as</source>
         <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Encr&amp;yption …</source>
+        <translation>Cif&amp;rado …</translation>
+    </message>
+    <message>
+        <source>saved, encrypted</source>
+        <translation>guardado, cifrado</translation>
     </message>
 </context>
 <context>
@@ -9126,6 +9631,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>&amp;Import a bank file …</source>
         <translation>&amp;Importar un archivo del banco …</translation>
+    </message>
+    <message>
+        <source>&amp;Explain this number</source>
+        <translation>E&amp;xplicar esta cifra</translation>
+    </message>
+    <message>
+        <source>No number is chosen that can be explained.</source>
+        <translation>No hay elegida ninguna cifra que se pueda explicar.</translation>
     </message>
 </context>
 <context>
