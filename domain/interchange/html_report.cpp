@@ -132,7 +132,9 @@ QString figureWithTable(const Chart &chart, const QString &id)
                                   "</summary>\n%4")
                        .arg(htmlText(chart.title), toSvg(chart, id),
                             htmlText(QObject::tr("The figures as a table")),
-                            tableHead(QObject::tr("Month"), names));
+                            tableHead(chart.kind == ChartKind::Steps ? QObject::tr("Date")
+                                                                     : QObject::tr("Month"),
+                                      names));
     for (qsizetype month = 0; month < chart.labels.size(); ++month) {
         html += QStringLiteral("<tr>") + headCell(chart.labels[month]);
         for (const ChartSeries &series : chart.series)
@@ -249,7 +251,7 @@ std::vector<Chart> chartsOf(const Figures &figures)
     return charts;
 }
 
-QByteArray toHtml(const Figures &figures, const QString &title)
+QByteArray toHtml(const Figures &figures, const QString &title, const std::optional<Chart> &ahead)
 {
     const auto date = [](QDate day) { return htmlText(foundation::presentationText(day)); };
     QString html =
@@ -265,6 +267,10 @@ QByteArray toHtml(const Figures &figures, const QString &title)
                      .arg(date(figures.period.from()), date(figures.period.to()))) +
         summary(figures);
     int id = 0;
+    if (ahead)
+        html += heading(QObject::tr("What is to come")) +
+                QStringLiteral("<p>%1</p>\n").arg(htmlText(ahead->description)) +
+                figureWithTable(*ahead, QStringLiteral("chart%1").arg(++id));
     for (const Chart &chart : chartsOf(figures))
         html += figureWithTable(chart, QStringLiteral("chart%1").arg(++id));
     if (!figures.items.empty())

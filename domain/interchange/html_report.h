@@ -13,8 +13,9 @@ namespace kiv::interchange {
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<Chart> chartsOf(const Figures &figures);
 
 /// The figures as one HTML page to read, print or send. It loads nothing and runs no
-/// script. Charts are SVG; each has its figures in a table.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toHtml(const Figures &figures,
-                                                       const QString &title);
+/// script. Charts are SVG; each has its figures in a table. `ahead` is what is to come, day by
+/// day, and stands first.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toHtml(const Figures &figures, const QString &title,
+                                                       const std::optional<Chart> &ahead = {});
 
 } // namespace kiv::interchange

@@ -30,6 +30,11 @@ What is to come, if everything regular goes on.
   2026-03-05  Car          Checking  Car         $300.00
   2026-03-25  Salary       Salary    Checking  $3,100.00
   2026-03-31  Rent         Checking  Rent      $1,250.00
+  $ kiv outlook --date 2026-01-31 --days 60 --chart | sed -n '3,4p;22,23p'
+  2026-01-31       ███████████████████████████████                      $2,250.00
+  2026-02-03       █████████████████████                                $1,550.00
+  2026-03-29       ███████████████████████████████████                  $2,550.00
+  
   $ kiv outlook --date 2026-01-31 --days 60 --without Rent --without Trip --with '900 on 2026-02-24' \
   >     --with '-50 on 2026-02-01' | head -2
   Lowest on 2026-02-24: $350.00, because of what was asked about.

@@ -32,6 +32,10 @@ Reports come in three forms, and as JSON.
   <h3>Asset</h3>
   <h3>Equity</h3>
   <h3>Expense</h3>
+  $ kiv report --html --to 2100-01-01 | grep -o -e '<h2>What.*</h2>' -e '<p>Lowest on' -e 'class="mark"'
+  <h2>What is to come</h2>
+  <p>Lowest on
+  class="mark"
   $ kiv report --from 2026-02-01 --to 2026-01-01
   kiv: A report cannot end before it begins.
   [1]

@@ -31,4 +31,21 @@ interchange::Chart outlookChart(const LookingAhead &ahead, const outlook::Curve 
     return chart;
 }
 
+interchange::Chart outlookBars(const interchange::Chart &chart, qsizetype barsMax)
+{
+    interchange::Chart bars{
+        interchange::ChartKind::Bars, chart.title, chart.description, {}, chart.series};
+    const std::vector<numira::Money> &days = chart.series.front().values;
+    std::vector<numira::Money> &least = bars.series.front().values;
+    least.clear();
+    const qsizetype count = chart.labels.size();
+    const qsizetype each = (count + barsMax - 1) / barsMax;
+    for (qsizetype day = 0; day < count; day += each) {
+        bars.labels += chart.labels[day];
+        least.push_back(
+            *std::min_element(days.begin() + day, days.begin() + std::min(day + each, count)));
+    }
+    return bars;
+}
+
 } // namespace kiv::workbench

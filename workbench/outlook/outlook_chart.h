@@ -16,4 +16,9 @@ outlookChart(const LookingAhead &ahead, const outlook::Curve &curve, const QStri
              const std::optional<numira::Money> &floor, const AccountIndex &index,
              navigation::CurrencyDisplayOptions displayAs);
 
+/// The same as bars, at most `barsMax`: each is the least of as many days, and named by the first
+/// of them.
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Chart outlookBars(const interchange::Chart &chart,
+                                                                  qsizetype barsMax);
+
 } // namespace kiv::workbench

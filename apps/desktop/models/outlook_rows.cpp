@@ -82,8 +82,9 @@ std::vector<Row> curveRows(const ShownOutlook &shown)
 
 QStringList paymentColumns()
 {
-    return {QObject::tr("What"), QObject::tr("Date"),   QObject::tr("From"),
-            QObject::tr("To"),   QObject::tr("Amount"), QObject::tr("Balance then")};
+    return {QObject::tr("What"),   QObject::tr("Date"),
+            QObject::tr("From"),   QObject::tr("To", "an account"),
+            QObject::tr("Amount"), QObject::tr("Balance then")};
 }
 
 std::vector<Row> paymentRows(const ShownOutlook &shown, const QString &key)

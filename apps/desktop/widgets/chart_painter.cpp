@@ -94,7 +94,7 @@ void ChartPainter::labels()
     m_painter.setPen(m_palette.color(QPalette::Text));
     const QRectF all = m_painter.viewport();
     for (qsizetype at = 0; at < m_chart.labels.size(); at += each) {
-        QRectF box(0, m_area.bottom() + m_line / 4, widest + 1, m_line);
+        QRectF box(0, m_area.bottom() + m_line / 2, widest + 1, m_line);
         box.moveLeft(m_plane.x(static_cast<double>(at)) - box.width() / 2);
         if (all.contains(box))
             m_painter.drawText(box, Qt::AlignCenter, m_chart.labels[at]);

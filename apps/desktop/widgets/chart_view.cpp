@@ -94,7 +94,7 @@ interchange::ChartPlane ChartView::plane() const
     const double top = (m_chart.series.size() > 1 ? 2.25 : 1) * line;
     const interchange::ChartPlane::Box box{isRightToLeft() ? line : side, top,
                                            std::max(1.0, width() - side - line),
-                                           std::max(1.0, height() - top - 1.75 * line)};
+                                           std::max(1.0, height() - top - 2 * line)};
     return {m_chart, box, isRightToLeft()};
 }
 

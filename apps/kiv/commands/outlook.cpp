@@ -2,10 +2,13 @@
 // outlook
 #include "commands/commands.h"
 
+#include "output/chart_text.h"
 #include "output/json.h"
 #include "output/set_aside_json.h"
+#include "program/program.h"
 
 #include "workbench/outlook/looking_ahead.h"
+#include "workbench/outlook/outlook_chart.h"
 #include "workbench/outlook/outlook_text.h"
 
 #include "foundation/presentation.h"
@@ -65,6 +68,7 @@ struct ShowOutlook {
     std::vector<QString> without;
     std::vector<QString> with;
     bool isListed = false;
+    bool hasChart = false;
 
     void declare(Arguments &arguments)
     {
@@ -79,6 +83,8 @@ struct ShowOutlook {
                      QObject::tr("Something more, as in '900 on 2026-12-05'; negative if it comes "
                                  "in (repeatable)"))
             .flag("--payments", isListed, QObject::tr("List what is paid and received"))
+            .flag("--chart", hasChart, QObject::tr("Draw a chart on the terminal"))
+            .exclusive("--chart", "--json")
             .dated(QObject::tr("First day (default: today)"));
     }
 
@@ -100,6 +106,16 @@ struct ShowOutlook {
     }
 
 private:
+    static void addChart(Report &report, const interchange::Chart &chart, Call &call)
+    {
+        constexpr qsizetype barsMax = 20;
+        const int columns = call.program.terminal().width().value_or(80);
+        for (const QString &line :
+             chartText(workbench::outlookBars(chart, barsMax), columns, call.document.displayAs()))
+            report.line(line);
+        report.line(QString());
+    }
+
     [[nodiscard]] Report told(Call &call, const LookingAhead &ahead,
                               const std::optional<numira::Money> &least) const
     {
@@ -132,6 +148,9 @@ private:
             {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
         for (const QString &sentence : sentencesOf(ahead, least, *index, displayAs))
             report.line(sentence);
+        if (hasChart && ahead.together)
+            addChart(report, outlookChart(ahead, *ahead.together, {}, least, *index, displayAs),
+                     call);
         report.table({{QObject::tr("Account"), QStringLiteral("account"), accountText(index)},
                       {QObject::tr("Now"), QStringLiteral("start")},
                       {QObject::tr("Lowest"), QStringLiteral("lowest")},
@@ -140,12 +159,13 @@ private:
                       {QObject::tr("At the end"), QStringLiteral("end")}},
                      accounts, QObject::tr("No bank has an open account."));
         if (isListed)
-            report.table({{QObject::tr("Date"), QStringLiteral("date"), dayText},
-                          {QObject::tr("What"), QStringLiteral("name")},
-                          {QObject::tr("From"), QStringLiteral("from"), accountText(index)},
-                          {QObject::tr("To"), QStringLiteral("to"), accountText(index)},
-                          {QObject::tr("Amount"), QStringLiteral("amount")}},
-                         payments, QObject::tr("Nothing is expected."));
+            report.table(
+                {{QObject::tr("Date"), QStringLiteral("date"), dayText},
+                 {QObject::tr("What"), QStringLiteral("name")},
+                 {QObject::tr("From"), QStringLiteral("from"), accountText(index)},
+                 {QObject::tr("To", "an account"), QStringLiteral("to"), accountText(index)},
+                 {QObject::tr("Amount"), QStringLiteral("amount")}},
+                payments, QObject::tr("Nothing is expected."));
         for (const QString &notice : notices)
             report.line(notice);
         return report;

@@ -6,6 +6,9 @@
 #include "output/json.h"
 #include "program/program.h"
 
+#include "workbench/outlook/outlook_chart.h"
+
+#include "foundation/clock.h"
 #include "foundation/presentation.h"
 #include "interchange/html_report.h"
 
@@ -101,7 +104,7 @@ struct ShowReport {
             for (interchange::BalanceFigure &figure : figures.balances)
                 figure.path = workbench::inPlainWords(figure.path);
             call.tellReadable();
-            return Report().raw(interchange::toHtml(figures, title));
+            return Report().raw(interchange::toHtml(figures, title, aheadOf(call, last)));
         }
         if (hasCharts)
             addCharts(report, figures, call);
@@ -111,6 +114,21 @@ struct ShowReport {
     }
 
 private:
+    /// What is to come, unless the report ends before today.
+    static std::optional<interchange::Chart> aheadOf(Call &call, QDate last)
+    {
+        workbench::OutlookQuestion question;
+        question.first = foundation::today();
+        if (last < question.first)
+            return std::nullopt;
+        const auto ahead = workbench::lookAhead(call.document.present(), question,
+                                                call.requests.preferredCurrency());
+        if (!ahead.together)
+            return std::nullopt;
+        return workbench::outlookChart(ahead, *ahead.together, QObject::tr("All together"), {},
+                                       call.requests.accounts(), call.document.displayAs());
+    }
+
     static QJsonObject data(const Figures &figures)
     {
         return {{QStringLiteral("from"), toJson(figures.period.from())},
