@@ -7745,6 +7745,15 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <source>&amp;Keep it in the desktop’s keyring</source>
         <translation>Im &amp;Schlüsselbund des Desktops aufbewahren</translation>
     </message>
+    <message>
+        <source>Draw a chart on the terminal</source>
+        <translation>Ein Diagramm im Terminal zeichnen</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <comment>an account</comment>
+        <translation>An</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -8257,7 +8266,7 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     </message>
     <message>
         <source>&amp;Show what is typed</source>
-        <translation>Ein&amp;gabe zeigen</translation>
+        <translation>Eingabe Ei&amp;ngabe zeigenamp;zeigen</translation>
     </message>
     <message>
         <source>Afterwards:</source>

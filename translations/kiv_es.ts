@@ -7745,6 +7745,15 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <source>&amp;Keep it in the desktop’s keyring</source>
         <translation>Guar&amp;darla en el llavero del escritorio</translation>
     </message>
+    <message>
+        <source>Draw a chart on the terminal</source>
+        <translation>Dibujar un gráfico en la terminal</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <comment>an account</comment>
+        <translation>A</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -32,7 +32,7 @@ enum class LineRole : std::uint8_t {
 
 /// A line of an explanation.
 struct KIV_WORKBENCH_EXPORT ExplainedLine {
-    LineRole role = LineRole::Adds;
+    LineRole role = LineRole::Adds;           ///< how it takes part in the figure
     QString text;                             ///< what it is, in the user's language
     std::optional<numira::Money> amount = {}; ///< of lines that add and of parts of the whole
     std::optional<numira::FloatingPoint> factor = {}; ///< of lines that multiply or divide
