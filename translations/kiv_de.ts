@@ -8266,7 +8266,7 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     </message>
     <message>
         <source>&amp;Show what is typed</source>
-        <translation>Eingabe Ei&amp;ngabe zeigenamp;zeigen</translation>
+        <translation>Eingabe &amp;zeigen</translation>
     </message>
     <message>
         <source>Afterwards:</source>
