@@ -17,26 +17,50 @@ using numira::Money;
 
 namespace {
 
-int monthsBetween(QDate from, QDate to)
+/// The plan of an item, restated per span of a report.
+Money plannedPer(const Period &period, const budgeting::BudgetedMoney &item)
 {
-    return (to.year() - from.year()) * 12 + to.month() - from.month();
+    using budgeting::EventFrequency;
+    const auto per = [&item](EventFrequency frequency) {
+        return budgeting::accumulateOver(frequency, item.amount(), item.period()).rounded();
+    };
+    switch (period.length()) {
+    case SpanLength::Week:
+        return per(EventFrequency::Weekly);
+    case SpanLength::TwoWeeks:
+        return per(EventFrequency::EveryTwoWeeks);
+    case SpanLength::Month:
+        return per(EventFrequency::Monthly);
+    case SpanLength::Quarter:
+        return per(EventFrequency::Quarterly);
+    case SpanLength::Year:
+        return per(EventFrequency::Yearly);
+    case SpanLength::Payday:
+    case SpanLength::Whole:
+        break;
+    }
+    // Such spans have any number of days: those of an average one.
+    const qint64 days = period.from().daysTo(period.to()) + 1;
+    return budgeting::accumulateOver(EventFrequency::Yearly, item.amount(), item.period())
+        .scaled(days, 365 * static_cast<std::int64_t>(period.size()))
+        .rounded();
 }
 
-/// What moved on one account, month by month.
+/// What moved on one account, span by span.
 struct Flow {
-    explicit Flow(const Account &opened, std::size_t months)
+    explicit Flow(const Account &opened, std::size_t spans)
         : account(opened),
           before(opened.balance().code()),
-          debits(months, before),
-          credits(months, before)
+          debits(spans, before),
+          credits(spans, before)
     {
     }
 
-    /// How the balance changed in a month, positive on the account's own side.
-    [[nodiscard]] Money change(std::size_t month) const
+    /// How the balance changed in a span, positive on the account's own side.
+    [[nodiscard]] Money change(std::size_t span) const
     {
-        return accounting::isDebitNormal(account.type()) ? debits[month] - credits[month]
-                                                         : credits[month] - debits[month];
+        return accounting::isDebitNormal(account.type()) ? debits[span] - credits[span]
+                                                         : credits[span] - debits[span];
     }
 
     const Account &account;
@@ -52,15 +76,15 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
 {
     Flows flows;
     for (const Account &account : accounts)
-        flows.try_emplace(account.code().number(), account, period.months());
+        flows.try_emplace(account.code().number(), account, period.size());
     for (const Transaction &transaction : transactions) {
-        const std::optional<int> month = period.monthOf(transaction.occurredOn());
-        if (!month)
+        const std::optional<int> span = period.spanOf(transaction.occurredOn());
+        if (!span)
             continue;
         const auto add = [&](AccountNumber number, const Money &amount, bool isDebit) {
             Flow &flow = flows.at(number);
-            if (*month >= 0) {
-                (isDebit ? flow.debits : flow.credits)[static_cast<std::size_t>(*month)] += amount;
+            if (*span >= 0) {
+                (isDebit ? flow.debits : flow.credits)[static_cast<std::size_t>(*span)] += amount;
             } else if (isDebit == accounting::isDebitNormal(flow.account.type())) {
                 flow.before += amount;
             } else {
@@ -73,31 +97,32 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
     return flows;
 }
 
-void addAccount(const Flow &flow, const QString &path, Figures &figures)
+void addAccount(const Flow &flow, const QString &path, const QString &plainPath, Figures &figures)
 {
-    const std::size_t months = figures.period.months();
+    const std::size_t spans = figures.period.size();
     const AccountTypes type = flow.account.type();
     const numira::Currency currency = flow.account.balance().code();
     const auto [found, isNew] = figures.currencies.try_emplace(currency);
     CurrencyFigures &sums = found->second;
     if (isNew) {
-        const std::vector<Money> zeros(months, Money(currency));
+        const std::vector<Money> zeros(spans, Money(currency));
         sums = {zeros, zeros, zeros, Money(currency), zeros, false};
     }
     Money balance = flow.before;
-    for (std::size_t month = 0; month < months; ++month) {
-        balance += flow.change(month);
+    for (std::size_t span = 0; span < spans; ++span) {
+        balance += flow.change(span);
         if (type == AccountTypes::Asset)
-            sums.netWorth[month] += balance;
+            sums.netWorth[span] += balance;
         else if (type == AccountTypes::Liability)
-            sums.netWorth[month] -= balance;
+            sums.netWorth[span] -= balance;
         else if (type == AccountTypes::Income)
-            sums.income[month] += flow.change(month);
+            sums.income[span] += flow.change(span);
         else if (type == AccountTypes::Expense)
-            sums.expenses[month] += flow.change(month);
+            sums.expenses[span] += flow.change(span);
     }
-    if (!balance.isZero())
-        figures.balances.push_back({path, type, balance});
+    const Money change = balance - flow.before;
+    if (!balance.isZero() || !change.isZero())
+        figures.balances.push_back({path, plainPath, type, balance, change});
 }
 
 /// The flow of the account that the item owns; null when it has none.
@@ -116,12 +141,11 @@ template <typename Item>
 void addItem(const Item &item, const Flows &flows, Figures &figures)
 {
     constexpr BudgetItemTypes kind = budgeting::ItemTraits<Item>::type;
-    const Money planned =
-        budgeting::accumulateOver(budgeting::EventFrequency::Monthly, item.amount(), item.period())
-            .rounded();
+    const Money planned = plannedPer(figures.period, item);
     const numira::Currency currency = item.amount().code();
-    const std::size_t months = figures.period.months();
-    ItemFigure figure{kind, item.source().name(), planned, std::vector(months, Money(currency))};
+    const std::size_t spans = figures.period.size();
+    ItemFigure figure{kind, item.source().name(), planned, std::vector(spans, Money(currency)),
+                      Money(currency)};
     const Flow *flow = flowOf(item, flows);
     const auto found = figures.currencies.find(currency);
     CurrencyFigures *sums = found == figures.currencies.end() ? nullptr : &found->second;
@@ -130,43 +154,48 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
         sums->planned += planned;
         sums->hasItems = true;
     }
-    for (std::size_t month = 0; flow && month < months; ++month) {
+    for (std::size_t span = 0; flow && span < spans; ++span) {
         // Growth of a debt is no payment.
-        figure.actual[month] =
-            kind == BudgetItemTypes::Debt ? flow->debits[month] : flow->change(month);
+        figure.actual[span] =
+            kind == BudgetItemTypes::Debt ? flow->debits[span] : flow->change(span);
         if (!isOutgoing)
             continue;
-        const Money &actual = figure.actual[month];
+        const Money &actual = figure.actual[span];
         CurrencyFigures &own = figures.currencies.at(actual.code()); // the account brought them
-        own.outgoing[month] += actual;
+        own.outgoing[span] += actual;
         own.hasItems = own.hasItems || !actual.isZero();
     }
+    const auto itself = [](const Money &money) { return money; };
+    figure.average = numira::math::sum(figure.actual.front().code(), figure.actual, itself)
+                         .scaled(1, static_cast<std::int64_t>(spans))
+                         .rounded();
     figures.items.push_back(std::move(figure));
 }
 
 } // namespace
 
-Period::Period(QDate from, QDate to) : m_from(from.year(), from.month(), 1), m_to(to), m_months(0)
+std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
+                             const std::vector<Transaction> &transactions,
+                             const budgeting::Budget &budget)
 {
-    if (!from.isValid() || !to.isValid() || from > to)
-        throw faults::reportEndsFirst();
-    const int months = monthsBetween(m_from, m_to) + 1;
-    if (months > monthsMax)
-        throw faults::reportTooLong(monthsMax);
-    m_months = static_cast<std::size_t>(months);
-}
-
-std::optional<int> Period::monthOf(QDate day) const noexcept
-{
-    return day > m_to ? std::nullopt : std::optional(monthsBetween(m_from, day));
-}
-
-QStringList Period::labels() const
-{
-    QStringList labels;
-    for (std::size_t month = 0; month < m_months; ++month)
-        labels += m_from.addMonths(static_cast<int>(month)).toString(QStringLiteral("yyyy-MM"));
-    return labels;
+    std::set<QString> names;
+    for (const auto &[source, wage] : budget.wages)
+        names.insert(budgeting::itemAccountName(source));
+    std::map<AccountNumber, std::set<QDate>> paydays;
+    for (const Account &account : accounts) {
+        if (account.type() == AccountTypes::Income && names.contains(account.code().name()))
+            paydays.try_emplace(account.code().number());
+    }
+    for (const Transaction &transaction : transactions) {
+        const auto found = paydays.find(transaction.crediting().number());
+        if (found != paydays.end())
+            found->second.insert(transaction.occurredOn());
+    }
+    const auto most =
+        std::ranges::max_element(paydays, {}, [](const auto &wage) { return wage.second.size(); });
+    if (most == paydays.end())
+        return {};
+    return {most->second.begin(), most->second.end()};
 }
 
 Figures figuresOf(const Period &period, const std::set<Account> &accounts,
@@ -174,9 +203,15 @@ Figures figuresOf(const Period &period, const std::set<Account> &accounts,
 {
     Figures figures{period, {}, {}, {}};
     const std::map<AccountNumber, QString> paths = accountPaths(accounts);
+    const std::map<AccountNumber, QString> plainPaths =
+        accountPaths(accounts, [](const Account &account) {
+            const QString mark = u' ' + budgeting::itemAccountSuffix();
+            const QString &name = account.code().name();
+            return name.endsWith(mark) ? name.chopped(mark.size()) : name;
+        });
     const Flows flows = flowsOf(period, accounts, transactions);
     for (const auto &[number, flow] : flows)
-        addAccount(flow, paths.at(number), figures);
+        addAccount(flow, paths.at(number), plainPaths.at(number), figures);
     std::ranges::sort(figures.balances, {}, &BalanceFigure::path);
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
         for (const auto &[source, item] : budget.items<Item>())

@@ -49,7 +49,11 @@ svg .label { text-anchor: middle; } .grid { stroke: var(--rule); } .zero { strok
 .line0, .line1, .line2 { fill: none; stroke-width: 2.5; stroke-linejoin: round; }
 .level { stroke: var(--bad); stroke-dasharray: 6 4; } .mark { fill: none; stroke: var(--bad);
   stroke-width: 2.5; } .area0 { fill: var(--one); opacity: .1; } .area1, .area2 { fill: none; }
+.share { width: 22%; } .share svg { height: .8rem; min-width: 3rem; }
 details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
+@media (max-width: 640px) { body { padding: 1.2rem .9rem; } h1 { font-size: 1.5rem; }
+  th, td { padding: .3rem .35rem; } tbody th { min-width: 6.5rem; }
+  .drawing { overflow-x: auto; } .drawing svg { min-width: 44rem; } }
 @media (prefers-color-scheme: dark) { :root { --ink: #e6ebf0; --soft: #9fb0bf; --rule: #33414d;
   --paper: #14191e; --band: #1a2127; --one: #63b3e4; --two: #f0ad4e; --three: #7fc8a4;
   --bad: #ff8a80; } }
@@ -57,7 +61,8 @@ details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
   --one: #0b5a8f; --two: #d98410; --three: #3b8f6a; --bad: #900; }
   @page { margin: 16mm; } body { max-width: none; padding: 0; font-size: 10pt; }
   h2 { break-after: avoid; } figure, .card, tr { break-inside: avoid; }
-  thead { display: table-header-group; } .scroll { overflow: visible; }
+  thead { display: table-header-group; } .scroll, .drawing { overflow: visible; }
+  .drawing svg { min-width: 0; }
   * { -webkit-print-color-adjust: exact; print-color-adjust: exact; } }
 )";
 
@@ -90,15 +95,15 @@ QString headCell(const QString &text)
     return QStringLiteral("<th scope=\"row\">%1</th>").arg(htmlText(text));
 }
 
-QString card(const QString &label, const Money &money)
+QString card(const QString &label, const QString &text)
 {
     return QStringLiteral("<div class=\"card\"><span>%1</span><strong>%2</strong></div>\n")
-        .arg(htmlText(label), amount(money));
+        .arg(htmlText(label), text);
 }
 
-bool hasMoved(const std::vector<Money> &months)
+bool hasMoved(const std::vector<Money> &spans)
 {
-    return !std::ranges::all_of(months, &Money::isZero);
+    return !std::ranges::all_of(spans, &Money::isZero);
 }
 
 bool hasFlow(const CurrencyFigures &sums)
@@ -106,35 +111,44 @@ bool hasFlow(const CurrencyFigures &sums)
     return hasMoved(sums.income) || hasMoved(sums.expenses);
 }
 
-QString summary(const Figures &figures)
+QString summary(const Figures *figures, const Groups &groups)
 {
     QString html = QStringLiteral("<div class=\"cards\">\n");
-    for (const auto &[currency, sums] : figures.currencies) {
+    if (figures) {
+        for (const auto &[currency, sums] : figures->currencies) {
+            if (hasMoved(sums.netWorth))
+                html +=
+                    card(QObject::tr("Net worth, %1").arg(foundation::presentationText(currency)),
+                         amount(sums.netWorth.back()));
+        }
+    }
+    for (const auto &[currency, flow] : groups.currencies) {
         const QString code = foundation::presentationText(currency);
-        const auto total = [currency = currency](const std::vector<Money> &months) {
-            return numira::math::sum(currency, months, [](const Money &money) { return money; });
-        };
-        if (hasMoved(sums.netWorth))
-            html += card(QObject::tr("Net worth, %1").arg(code), sums.netWorth.back());
-        if (hasFlow(sums))
-            html += card(QObject::tr("Income, %1").arg(code), total(sums.income)) +
-                    card(QObject::tr("Expenses, %1").arg(code), total(sums.expenses));
+        html += card(QObject::tr("Income, %1").arg(code), amount(flow.totalIncome)) +
+                card(QObject::tr("Expenses, %1").arg(code), amount(flow.totalExpenses));
+        if (const auto rate = FlowFigures::savingsRate(flow.totalIncome, flow.totalExpenses))
+            html += card(QObject::tr("Savings rate, %1").arg(code),
+                         htmlText(foundation::presentationText(*rate)));
     }
     return html + QStringLiteral("</div>\n");
 }
 
-QString figureWithTable(const Chart &chart, const QString &id)
+/// The heading of a column of spans.
+QString spanTitle(const Period &period)
+{
+    return period.length() == SpanLength::Month ? QObject::tr("Month") : QObject::tr("Span");
+}
+
+QString figureWithTable(const Chart &chart, const QString &first, const QString &id)
 {
     QStringList names;
     for (const ChartSeries &series : chart.series)
         names += series.name;
-    QString html = QStringLiteral("<figure><figcaption>%1</figcaption>\n%2<details><summary>%3"
-                                  "</summary>\n%4")
-                       .arg(htmlText(chart.title), toSvg(chart, id),
-                            htmlText(QObject::tr("The figures as a table")),
-                            tableHead(chart.kind == ChartKind::Steps ? QObject::tr("Date")
-                                                                     : QObject::tr("Month"),
-                                      names));
+    QString html =
+        QStringLiteral("<figure><figcaption>%1</figcaption>\n<div class=\"drawing\">\n%2"
+                       "</div><details open><summary>%3</summary>\n%4")
+            .arg(htmlText(chart.title), toSvg(chart, id),
+                 htmlText(QObject::tr("The figures as a table")), tableHead(first, names));
     for (qsizetype month = 0; month < chart.labels.size(); ++month) {
         html += QStringLiteral("<tr>") + headCell(chart.labels[month]);
         for (const ChartSeries &series : chart.series)
@@ -144,34 +158,122 @@ QString figureWithTable(const Chart &chart, const QString &id)
     return html + tableEnd + QStringLiteral("</details></figure>\n");
 }
 
-QString balances(const Figures &figures)
+/// The accounts of one kind with an amount of each, and the sum in each currency.
+QString accountTable(const Figures &figures, AccountTypes type, const QString &title,
+                     Money BalanceFigure::*column)
+{
+    std::map<numira::Currency, Money> sums;
+    QString rows;
+    for (const BalanceFigure &figure : figures.balances) {
+        const Money &money = figure.*column;
+        if (figure.type != type || money.isZero())
+            continue;
+        sums.try_emplace(money.code(), money.code()).first->second += money;
+        // The root says the same as the heading.
+        rows += QStringLiteral("<tr>") + headCell(figure.plainPath.section(u':', 1)) +
+                numberCell(money) + QStringLiteral("</tr>\n");
+    }
+    if (rows.isEmpty())
+        return {};
+    for (const auto &[currency, sum] : sums)
+        rows += QStringLiteral("<tr class=\"sum\">") +
+                headCell(QObject::tr("Total, %1").arg(foundation::presentationText(currency))) +
+                numberCell(sum) + QStringLiteral("</tr>\n");
+    return QStringLiteral("<h3>%1</h3>\n").arg(htmlText(accounting::presentationText(type))) +
+           tableHead(QObject::tr("Account"), {title}) + rows + tableEnd;
+}
+
+QString heading(const QString &text)
+{
+    return QStringLiteral("<h2>%1</h2>\n").arg(htmlText(text));
+}
+
+QString dayText(QDate day)
+{
+    return foundation::presentationText(day);
+}
+
+QString accountTables(const Figures &figures)
+{
+    QString html = heading(QObject::tr("By account, from %1 to %2")
+                               .arg(dayText(figures.period.from()), dayText(figures.period.to())));
+    for (const AccountTypes type : {AccountTypes::Expense, AccountTypes::Income})
+        html += accountTable(figures, type, QObject::tr("Amount"), &BalanceFigure::change);
+    html += heading(QObject::tr("Balances on %1").arg(dayText(figures.period.to())));
+    QString balances;
+    for (const AccountTypes type : {AccountTypes::Asset, AccountTypes::Liability})
+        balances += accountTable(figures, type, QObject::tr("Balance"), &BalanceFigure::balance);
+    return html + (balances.isEmpty() ? QStringLiteral("<p class=\"note\">%1</p>\n")
+                                            .arg(htmlText(QObject::tr("All accounts are empty.")))
+                                      : balances);
+}
+
+/// A bar as long as the part of the largest amount; the figure stands beside it.
+QString shareCell(const Money &money, const Money &largest, bool isIncome)
+{
+    const double part = largest.isPositive() && money.isPositive()
+                            ? money.amount().toDouble() / largest.amount().toDouble()
+                            : 0;
+    return QStringLiteral("<td class=\"share\"><svg viewBox=\"0 0 100 8\" aria-hidden=\"true\" "
+                          "preserveAspectRatio=\"none\"><rect class=\"series%1\" width=\"%2\" "
+                          "height=\"8\"/></svg></td>")
+        .arg(QString::number(isIncome ? 0 : 1), QString::number(part * 100, 'f', 1));
+}
+
+/// The tables show only the spans that fit a page; charts show all.
+constexpr std::size_t shownMax = 6;
+
+std::size_t firstShown(const Period &period)
+{
+    return period.size() > shownMax ? period.size() - shownMax : 0;
+}
+
+/// The groups of one kind and currency, from `at` on.
+QString groupTable(const Groups &groups, std::size_t at, std::size_t end)
+{
+    const GroupFigure &largest = groups.figures[at];
+    const bool hasSpans = groups.period.size() > 1;
+    const std::size_t first = firstShown(groups.period);
+    QStringList titles;
+    if (hasSpans)
+        titles = groups.period.labels().mid(static_cast<qsizetype>(first));
+    titles += QObject::tr("Total");
+    if (hasSpans)
+        titles += QObject::tr("Average");
+    QString html =
+        QStringLiteral("<h3>%1</h3>\n<div class=\"dense\">")
+            .arg(htmlText(QObject::tr("%1, %2", "such as: Expense, USD")
+                              .arg(accounting::presentationText(largest.type),
+                                   foundation::presentationText(largest.total.code())))) +
+        tableHead(QObject::tr("Name"), QStringList{QString()} + titles);
+    for (; at < end; ++at) {
+        const GroupFigure &figure = groups.figures[at];
+        html += QStringLiteral("<tr>") + headCell(nameOf(figure)) +
+                shareCell(figure.total, largest.total, figure.type == AccountTypes::Income);
+        for (std::size_t span = first; hasSpans && span < groups.period.size(); ++span)
+            html += numberCell(figure.amounts[span]);
+        html += numberCell(figure.total);
+        if (hasSpans)
+            html += numberCell(figure.average);
+        html += QStringLiteral("</tr>\n");
+    }
+    return html + tableEnd + QStringLiteral("</div>\n");
+}
+
+QString groupTables(const Groups &groups)
 {
     QString html;
-    for (const AccountTypes type :
-         {AccountTypes::Asset, AccountTypes::Liability, AccountTypes::Equity, AccountTypes::Income,
-          AccountTypes::Expense}) {
-        std::map<numira::Currency, Money> sums;
-        QString rows;
-        for (const BalanceFigure &figure : figures.balances) {
-            if (figure.type != type)
-                continue;
-            const numira::Currency currency = figure.balance.code();
-            sums.try_emplace(currency, currency).first->second += figure.balance;
-            // The root says the same as the heading.
-            rows += QStringLiteral("<tr>") + headCell(figure.path.section(u':', 1)) +
-                    numberCell(figure.balance) + QStringLiteral("</tr>\n");
-        }
-        if (rows.isEmpty())
-            continue;
-        for (const auto &[currency, sum] : sums)
-            rows += QStringLiteral("<tr class=\"sum\">") +
-                    headCell(QObject::tr("Total, %1").arg(foundation::presentationText(currency))) +
-                    numberCell(sum) + QStringLiteral("</tr>\n");
-        html += QStringLiteral("<h3>%1</h3>\n").arg(htmlText(accounting::presentationText(type))) +
-                tableHead(QObject::tr("Account"), {QObject::tr("Balance")}) + rows + tableEnd;
+    for (std::size_t at = 0; at < groups.figures.size();) {
+        const GroupFigure &one = groups.figures[at];
+        std::size_t end = at;
+        while (end < groups.figures.size() && groups.figures[end].type == one.type &&
+               groups.figures[end].total.code() == one.total.code())
+            ++end;
+        html += groupTable(groups, at, end);
+        at = end;
     }
     return html.isEmpty() ? QStringLiteral("<p class=\"note\">%1</p>\n")
-                                .arg(htmlText(QObject::tr("All accounts are empty.")))
+                                .arg(htmlText(QObject::tr("Nothing was spent or earned.")))
                           : html;
 }
 
@@ -188,31 +290,30 @@ QString budgetCell(const ItemFigure &item, const Money &actual)
 
 QString budgetTable(const Figures &figures)
 {
-    // The table shows only the months that fit a page; the chart shows all.
-    constexpr std::size_t shownMax = 6;
-    const std::size_t months = figures.period.months();
-    const std::size_t first = months > shownMax ? months - shownMax : 0;
-    QStringList titles{QObject::tr("Planned per month")};
+    const bool isMonthly = figures.period.length() == SpanLength::Month;
+    const std::size_t first = firstShown(figures.period);
+    QStringList titles{isMonthly ? QObject::tr("Planned per month")
+                                 : QObject::tr("Planned per span")};
     titles += figures.period.labels().mid(static_cast<qsizetype>(first));
+    titles += QObject::tr("Average");
     QString html = QStringLiteral("<div class=\"dense\">") + tableHead(QObject::tr("Item"), titles);
     for (const ItemFigure &item : figures.items) {
         html += QStringLiteral("<tr>") +
                 headCell(QStringLiteral("%1 (%2)").arg(item.name,
                                                        budgeting::presentationText(item.kind))) +
                 numberCell(item.planned);
-        for (std::size_t month = first; month < months; ++month)
-            html += budgetCell(item, item.actual[month]);
-        html += QStringLiteral("</tr>\n");
+        for (std::size_t span = first; span < figures.period.size(); ++span)
+            html += budgetCell(item, item.actual[span]);
+        html += numberCell(item.average) + QStringLiteral("</tr>\n");
     }
     return html + tableEnd +
            QStringLiteral("</div><p class=\"note\">%1</p>\n")
-               .arg(htmlText(QObject::tr("The plan is today's, restated per month. ▲ marks months "
-                                         "with higher spending.")));
-}
-
-QString heading(const QString &text)
-{
-    return QStringLiteral("<h2>%1</h2>\n").arg(htmlText(text));
+               .arg(htmlText(
+                   isMonthly
+                       ? QObject::tr("The plan is today's, restated per month. ▲ marks months "
+                                     "with higher spending.")
+                       : QObject::tr("The plan is today's, restated per span. ▲ marks spans "
+                                     "with higher spending.")));
 }
 
 } // namespace
@@ -221,20 +322,27 @@ std::vector<Chart> chartsOf(const Figures &figures)
 {
     std::vector<Chart> charts;
     const QStringList labels = figures.period.labels();
+    const bool isMonthly = figures.period.length() == SpanLength::Month;
     for (const auto &[currency, sums] : figures.currencies) {
         const QString code = foundation::presentationText(currency);
         if (hasMoved(sums.netWorth))
             charts.push_back(
                 {ChartKind::Line,
                  QObject::tr("Net worth over time, %1").arg(code),
-                 QObject::tr("All assets less all debts at the end of each month; the last is %1.")
+                 (isMonthly
+                      ? QObject::tr(
+                            "All assets less all debts at the end of each month; the last is %1.")
+                      : QObject::tr(
+                            "All assets less all debts at the end of each span; the last is %1."))
                      .arg(foundation::presentationText(sums.netWorth.back())),
                  labels,
                  {{QObject::tr("Net worth"), sums.netWorth}}});
         if (hasFlow(sums))
             charts.push_back({ChartKind::Bars,
                               QObject::tr("Income and expenses, %1").arg(code),
-                              QObject::tr("Money that came in and money spent in each month."),
+                              isMonthly
+                                  ? QObject::tr("Money that came in and money spent in each month.")
+                                  : QObject::tr("Money that came in and money spent in each span."),
                               labels,
                               {{QObject::tr("Income", "what came in"), sums.income},
                                {QObject::tr("Expenses"), sums.expenses}}});
@@ -242,8 +350,11 @@ std::vector<Chart> chartsOf(const Figures &figures)
             charts.push_back(
                 {ChartKind::Bars,
                  QObject::tr("Budget against actual, %1").arg(code),
-                 QObject::tr("Planned and actual spending per month on bills, debts, goals and "
-                             "non-tracked items."),
+                 isMonthly
+                     ? QObject::tr("Planned and actual spending per month on bills, debts, goals "
+                                   "and non-tracked items.")
+                     : QObject::tr("Planned and actual spending per span on bills, debts, goals "
+                                   "and non-tracked items."),
                  labels,
                  {{QObject::tr("Planned"), std::vector(sums.outgoing.size(), sums.planned)},
                   {QObject::tr("Actual"), sums.outgoing}}});
@@ -251,34 +362,43 @@ std::vector<Chart> chartsOf(const Figures &figures)
     return charts;
 }
 
-QByteArray toHtml(const Figures &figures, const QString &title, const std::optional<Chart> &ahead)
+QByteArray toHtml(const Figures *figures, const Groups &groups, const PageTexts &texts,
+                  const std::optional<Chart> &ahead)
 {
-    const auto date = [](QDate day) { return htmlText(foundation::presentationText(day)); };
+    const Period &period = groups.period;
     QString html =
         QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\"><head><meta charset=\"utf-8\">\n"
                        "<meta http-equiv=\"Content-Security-Policy\" "
                        "content=\"default-src 'none'; style-src 'unsafe-inline'\">\n"
                        "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
                        "<title>%2</title><style>%3</style></head><body>\n"
-                       "<header><h1>%2</h1><p>%4</p></header><main>\n")
-            .arg(QObject::tr("en", "the language of the reports, as HTML names it"),
-                 htmlText(title), QString::fromUtf8(style),
-                 QObject::tr("From %1 to %2")
-                     .arg(date(figures.period.from()), date(figures.period.to()))) +
-        summary(figures);
+                       "<header><h1>%2</h1><p>%4</p>%5</header><main>\n")
+            .arg(
+                QObject::tr("en", "the language of the reports, as HTML names it"),
+                htmlText(texts.title), QString::fromUtf8(style),
+                htmlText(
+                    QObject::tr("From %1 to %2").arg(dayText(period.from()), dayText(period.to()))),
+                texts.filter.isEmpty()
+                    ? QString()
+                    : QStringLiteral("<p>%1</p>")
+                          .arg(htmlText(QObject::tr("Only what fits: %1").arg(texts.filter)))) +
+        summary(figures, groups);
     int id = 0;
     if (ahead)
         html += heading(QObject::tr("What is to come")) +
                 QStringLiteral("<p>%1</p>\n").arg(htmlText(ahead->description)) +
-                figureWithTable(*ahead, QStringLiteral("chart%1").arg(++id));
-    for (const Chart &chart : chartsOf(figures))
-        html += figureWithTable(chart, QStringLiteral("chart%1").arg(++id));
-    if (!figures.items.empty())
-        html += heading(QObject::tr("Budget against actual by month")) + budgetTable(figures);
-    html +=
-        heading(
-            QObject::tr("Balances on %1").arg(foundation::presentationText(figures.period.to()))) +
-        balances(figures) + QStringLiteral("</main></body></html>\n");
+                figureWithTable(*ahead, QObject::tr("Date"), QStringLiteral("chart%1").arg(++id));
+    if (figures) {
+        for (const Chart &chart : chartsOf(*figures))
+            html += figureWithTable(chart, spanTitle(period), QStringLiteral("chart%1").arg(++id));
+    }
+    html += heading(texts.grouping) + groupTables(groups);
+    if (figures) {
+        if (!figures->items.empty())
+            html += heading(QObject::tr("Budget against actual")) + budgetTable(*figures);
+        html += accountTables(*figures);
+    }
+    html += QStringLiteral("</main></body></html>\n");
     return html.toUtf8();
 }
 

@@ -3,6 +3,7 @@
 
 #include "interchange/chart.h"
 #include "interchange/figures.h"
+#include "interchange/groups.h"
 
 #include <QtCore/QByteArray>
 
@@ -12,10 +13,19 @@ namespace kiv::interchange {
 /// and actual spending. Empty charts are left out.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<Chart> chartsOf(const Figures &figures);
 
-/// The figures as one HTML page to read, print or send. It loads nothing and runs no
-/// script. Charts are SVG; each has its figures in a table. `ahead` is what is to come, day by
+/// What a page is called, and what its groups are.
+struct PageTexts {
+    QString title;    ///< of the page
+    QString grouping; ///< in a few words, as a heading: "By category"
+    QString filter;   ///< which transactions it is about, as typed; empty for all
+};
+
+/// The groups as one HTML page to read, print or send, with the figures above and below them
+/// if there are any. It loads nothing and runs no script. Charts are SVG, with their figures
+/// in tables. Items and their accounts have the items' names. `ahead` is what is to come, day by
 /// day, and stands first.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toHtml(const Figures &figures, const QString &title,
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toHtml(const Figures *figures, const Groups &groups,
+                                                       const PageTexts &texts,
                                                        const std::optional<Chart> &ahead = {});
 
 } // namespace kiv::interchange

@@ -259,15 +259,32 @@ void requireWhole(const Case &given, const QByteArray &bytes)
 }
 
 /// The page's lines that hold a part, without their tags unless those are asked for; "; "
-/// stands between the cells of a table.
+/// stands between the cells of a table. With "csv" the table of the groups instead.
 QString pageOf(const Case &given)
 {
     const Books books(given.text);
+    const auto length =
+        static_cast<SpanLength>(QStringList{u"week"_s, u"two-weeks"_s, u"payday"_s, u"month"_s,
+                                            u"quarter"_s, u"year"_s, u"whole"_s}
+                                    .indexOf(given.options.value(u"span"_s, u"month"_s)));
     const Period period(day(given.options.value(u"from"_s).toLatin1()),
-                        day(given.options.value(u"to"_s).toLatin1()));
+                        day(given.options.value(u"to"_s).toLatin1()), length,
+                        paydaysOf(books.accounts, books.transactions, books.budget));
+    std::map<kiv::accounting::AccountNumber, QStringList> names;
+    for (const kiv::accounting::Account &account : books.accounts)
+        names[account.code().number()] = {
+            QString(account.code().name()).remove(u" [Budget Item]"_s)};
+    const GroupsOf nameOf = [&names](const auto &, const auto &account) -> const QStringList & {
+        return names.at(account.code().number());
+    };
+    const Groups groups =
+        groupsOf(period, books.accounts, books.transactions, nameOf,
+                 given.options.contains(u"all"_s) ? Grouped::Accounts : Grouped::Flows);
+    if (given.options.contains(u"csv"_s))
+        return QString::fromUtf8(toCsv(groups)).remove(u'\r').trimmed();
+    const Figures figures = figuresOf(period, books.accounts, books.transactions, books.budget);
     QString page = QString::fromUtf8(
-        toHtml(figuresOf(period, books.accounts, books.transactions, books.budget),
-               given.options.value(u"title"_s, u"t"_s)));
+        toHtml(&figures, groups, {given.options.value(u"title"_s, u"t"_s), u"By category"_s, {}}));
     static const QRegularExpression loaded(u"https?:|src=|@import|url\\("_s);
     static const QRegularExpression style(u"(?s)(?<=<style>).*(?=</style>)"_s);
     static const QRegularExpression cell(u"</t[hd]><t[hd][^>]*\"n( over)?( minus)?\">"_s);

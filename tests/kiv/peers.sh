@@ -31,3 +31,27 @@ plain() {
         if (amount[1] + 0 != 0) print $1 "  " amount[1], isDollars ? "USD" : amount[2]
     }' | sort
 }
+
+# What moved, of each account and span: "path currency amount …", sorted, debits positive.
+
+# ownFlows [ARGUMENTS OF kiv report]
+ownFlows() {
+    kiv report --csv "$@" | tr -d '\r"' | awk -F, 'NR > 1 {
+        sign = $1 == "expense" || $1 == "asset" ? 1 : -1
+        root = $2 ~ /:/ ? "" : $1 == "income" ? "Income:" : "Expenses:"
+        flows = root $2 " " $3
+        for (at = 4; at < NF - 1; at++) flows = flows sprintf(" %.2f", sign * $at)
+        print flows }' | moved
+}
+
+# peerFlows JOURNAL [ARGUMENTS OF hledger balance]
+peerFlows() {
+    hledger balance --layout bare -O csv -f "$@" | tr -d '"' | awk -F, 'NR > 1 && $1 != "total" {
+        flows = $1 " " $2
+        for (at = 3; at <= NF; at++) flows = flows sprintf(" %.2f", $at)
+        print flows }' | moved
+}
+
+moved() {
+    sed 's/ \[Budget Item\]//; s/-0\.00/0.00/g; / [A-Z]* \(0\.00 *\)*$/d' | sort
+}

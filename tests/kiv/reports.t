@@ -11,13 +11,13 @@ Reports come in three forms, and as JSON.
   2026-01   $0.00  $1,250.00  $1,250.00  $1,250.00  $1,250.00
   2026-02   $0.00      $0.00  $1,250.00      $0.00  $1,250.00
   Budget against actual
-  Kind  Item    Planned per month  In 2026-02
-  bill  Rent            $1,250.00       $0.00
-  wage  Salary          $3,100.00       $0.00
+  Kind  Item    Planned per month  In 2026-02  Average
+  bill  Rent            $1,250.00       $0.00  $625.00
+  wage  Salary          $3,100.00       $0.00    $0.00
   $ kiv report --from 2026-01-01 --to 2026-02-28 --json | jq -c '.currencies[], .items[]'
   {"currency":"USD","expenses":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"income":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"netWorth":[{"amount":"1250.00","currency":"USD"},{"amount":"1250.00","currency":"USD"}],"outgoing":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"planned":{"amount":"1250.00","currency":"USD"}}
-  {"actual":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"kind":"bill","last":{"amount":"0.00","currency":"USD"},"name":"Rent","planned":{"amount":"1250.00","currency":"USD"}}
-  {"actual":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"kind":"wage","last":{"amount":"0.00","currency":"USD"},"name":"Salary","planned":{"amount":"3100.00","currency":"USD"}}
+  {"actual":[{"amount":"1250.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"average":{"amount":"625.00","currency":"USD"},"kind":"bill","last":{"amount":"0.00","currency":"USD"},"name":"Rent","planned":{"amount":"1250.00","currency":"USD"}}
+  {"actual":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"average":{"amount":"0.00","currency":"USD"},"kind":"wage","last":{"amount":"0.00","currency":"USD"},"name":"Salary","planned":{"amount":"3100.00","currency":"USD"}}
   $ kiv report --json --to 2026-02-28 | jq -c 'keys, .from, .to'
   ["balances","currencies","from","items","months","to"]
   "2025-03-01"
@@ -27,11 +27,13 @@ Reports come in three forms, and as JSON.
   <!DOCTYPE html>
   $ grep -o '<h[1-9]>.*</h[1-9]>' page
   <h1>&lt;i&gt;</h1>
-  <h2>Budget against actual by month</h2>
+  <h2>By category</h2>
+  <h3>Expense, USD</h3>
+  <h2>Budget against actual</h2>
+  <h2>By account, from 2025-03-01 to 2026-02-28</h2>
+  <h3>Expense</h3>
   <h2>Balances on 2026-02-28</h2>
   <h3>Asset</h3>
-  <h3>Equity</h3>
-  <h3>Expense</h3>
   $ kiv report --html --to 2100-01-01 | grep -o -e '<h2>What.*</h2>' -e '<p>Lowest on' -e 'class="mark"'
   <h2>What is to come</h2>
   <p>Lowest on
@@ -75,3 +77,86 @@ the left of what is owned:
   2026-05 █████████████████████████████████████████████████             $1,000.03
                                                                             $0.00
   
+
+Where the money went: by category, payee, tag and account, for any span, and for what a search
+finds.
+
+  $ kiv demo year.budget --date 2025-03-31 >/dev/null
+  $ export KIV_FILE=year.budget
+  $ kiv report --by category --period quarter --from 2024-10-01 --to 2025-03-31
+  Expense, USD
+  Name              2024-Q4    2025-Q1      Total    Average
+  Rent            $2,940.00  $2,940.00  $5,880.00  $2,940.00
+  Groceries       $1,113.85  $1,149.47  $2,263.32  $1,131.66
+  Eating out        $289.27    $304.37    $593.64    $296.82
+  Pocket money      $260.00    $260.00    $520.00    $260.00
+  Bus pass          $165.00    $165.00    $330.00    $165.00
+  Electricity       $175.70     $83.16    $258.86    $129.43
+  Furniture         $135.20    $104.26    $239.46    $119.73
+  Fitness studio     $89.70     $89.70    $179.40     $89.70
+  Internet          $104.70     $69.80    $174.50     $87.25
+  Telephone          $74.70     $49.80    $124.50     $62.25
+  Pharmacy           $45.93     $19.22     $65.15     $32.58
+  Income, USD
+  Name               2024-Q4    2025-Q1       Total    Average
+  Salary           $8,550.00  $8,550.00  $17,100.00  $8,550.00
+  Evening classes    $840.00    $980.00   $1,820.00    $910.00
+  Interest            $10.46      $9.38      $19.84      $9.92
+  USD
+  Span         Income    Expenses      Saved  Savings rate
+  2024-Q4   $9,400.46   $5,394.05  $4,006.41  42.6 %
+  2025-Q1   $9,539.38   $5,234.78  $4,304.60  45.1 %
+  Total    $18,939.84  $10,628.83  $8,311.01  43.9 %
+  $ kiv report --by payee --from 2025-03-01 --to 2025-03-31 groceries
+  Expense, USD
+  Name             Total
+  Corner market  $293.17
+  Village shop    $62.15
+  Bakery          $33.69
+  USD
+  Span                    Income  Expenses     Saved  Savings rate
+  2025-03-01..2025-03-31   $0.00   $389.01  -$389.01
+  $ kiv report --by tag --period payday --from 2025-02-01 --to 2025-03-31 --json |
+  >     jq -c 'keys, .spans, .groups[0], .currencies[0].total'
+  ["by","currencies","from","groups","spans","to"]
+  ["2025-01-29","2025-02-12","2025-02-26","2025-03-12","2025-03-26"]
+  {"amounts":[{"amount":"1122.96","currency":"USD"},{"amount":"0.00","currency":"USD"},{"amount":"1039.80","currency":"USD"},{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"average":{"amount":"432.55","currency":"USD"},"kind":"expense","name":"home","total":{"amount":"2162.76","currency":"USD"}}
+  {"expenses":{"amount":"3681.51","currency":"USD"},"income":{"amount":"6409.38","currency":"USD"},"saved":{"amount":"2727.87","currency":"USD"},"savingsRate":42.6}
+  $ kiv report --period year --from 2024-01-01 --to 2025-03-31 | head -4
+  USD
+  Span      Income    Expenses      Budget      Actual   Net worth
+  2024  $28,339.79  $16,694.83  $20,374.40  $16,154.61  $12,547.91
+  2025   $9,539.38   $5,234.78  $20,374.40   $4,887.46  $16,852.51
+  $ kiv report --html --to 2025-03-31 >page; grep -c 'Budget Item' page
+  0
+  [1]
+  $ kiv report --html --to 2025-03-31 --by payee 'payee:<b>' | grep -o '</h1>.*</header>\|<h2>.*</h2>'
+  </h1><p>From 2024-04-01 to 2025-03-31</p><p>Only what fits: payee:&lt;b&gt;</p></header>
+  <h2>By payee</h2>
+  $ kiv report --csv --period week --from 1900-01-01 --to 2025-03-31
+  kiv: A report has at most 1200 spans; choose a later first day or longer spans.
+  [1]
+  $ kiv report --csv --json
+  kiv: Use either --csv or --json, not both.
+  [2]
+  $ kiv report --period decade
+  kiv: 'decade' is not one of: week, two-weeks, payday, month, quarter, year.
+  [2]
+
+The figures are those of hledger, by account, period and depth.
+
+  $ . "$TESTDIR/peers.sh"
+  $ kiv account add Bakery --type expense --under Groceries >/dev/null
+  $ kiv spend 3.20 Bakery --from Cash --date 2025-01-02 >/dev/null
+  $ kiv export >year.journal
+  $ span='--from 2024-04-01 --to 2025-03-31'
+  $ same() { wc -l <ours; diff ours theirs; }
+  $ ownFlows --by account --period month $span >ours
+  $ peerFlows year.journal -M -b 2024-04-01 -e 2025-04-01 >theirs; same
+  30
+  $ ownFlows --by account --period two-weeks $span >ours
+  $ peerFlows year.journal -p 'every 2 weeks from 2024-04-01 to 2025-04-01' >theirs; same
+  30
+  $ ownFlows --by category --period quarter $span >ours
+  $ peerFlows year.journal -Q --depth 2 Expenses Income -b 2024-04-01 -e 2025-04-01 >theirs; same
+  17

@@ -11,12 +11,19 @@
 #include "foundation/clock.h"
 #include "foundation/presentation.h"
 #include "interchange/html_report.h"
+#include "workbench/reports/grouping.h"
+#include "workbench/search/transaction_filter.h"
 
 namespace kiv::app {
 
 namespace {
 
 using interchange::Figures;
+using interchange::FlowFigures;
+using interchange::GroupFigure;
+using interchange::Groups;
+using interchange::Period;
+using interchange::SpanLength;
 using numira::Money;
 
 QJsonArray listOf(const std::vector<Money> &amounts)
@@ -35,6 +42,7 @@ QJsonArray itemsJson(const Figures &figures)
                                  {QStringLiteral("name"), item.name},
                                  {QStringLiteral("planned"), toJson(item.planned)},
                                  {QStringLiteral("last"), toJson(item.actual.back())},
+                                 {QStringLiteral("average"), toJson(item.average)},
                                  {QStringLiteral("actual"), listOf(item.actual)}});
     }
     return items;
@@ -46,7 +54,8 @@ QJsonArray balancesJson(const Figures &figures)
     for (const interchange::BalanceFigure &figure : figures.balances) {
         balances.append(QJsonObject{{QStringLiteral("path"), figure.path},
                                     {QStringLiteral("type"), accounting::toQString(figure.type)},
-                                    {QStringLiteral("balance"), toJson(figure.balance)}});
+                                    {QStringLiteral("balance"), toJson(figure.balance)},
+                                    {QStringLiteral("change"), toJson(figure.change)}});
     }
     return balances;
 }
@@ -66,46 +75,246 @@ QJsonArray currenciesJson(const Figures &figures)
     return list;
 }
 
+QString spanKey(const Period &period)
+{
+    return period.length() == SpanLength::Month ? QStringLiteral("months")
+                                                : QStringLiteral("spans");
+}
+
+QString spanTitle(const Period &period)
+{
+    return period.length() == SpanLength::Month ? QObject::tr("Month") : QObject::tr("Span");
+}
+
+QJsonObject periodJson(const Period &period)
+{
+    return {{QStringLiteral("from"), toJson(period.from())},
+            {QStringLiteral("to"), toJson(period.to())},
+            {spanKey(period), QJsonArray::fromStringList(period.labels())}};
+}
+
+QJsonObject groupJson(const GroupFigure &figure)
+{
+    return {{QStringLiteral("kind"), accounting::toQString(figure.type)},
+            {QStringLiteral("name"), figure.name},
+            {QStringLiteral("amounts"), listOf(figure.amounts)},
+            {QStringLiteral("total"), toJson(figure.total)},
+            {QStringLiteral("average"), toJson(figure.average)}};
+}
+
+/// Income and expenses of a span, what is left of them and which part that is.
+QJsonObject flowJson(const Money &income, const Money &expenses)
+{
+    const auto rate = FlowFigures::savingsRate(income, expenses);
+    return {{QStringLiteral("income"), toJson(income)},
+            {QStringLiteral("expenses"), toJson(expenses)},
+            {QStringLiteral("saved"), toJson(income - expenses)},
+            {QStringLiteral("savingsRate"), rate ? QJsonValue(rate->rate()) : QJsonValue()}};
+}
+
+QJsonObject groupsJson(const Groups &groups)
+{
+    QJsonArray figures;
+    for (const GroupFigure &figure : groups.figures)
+        figures.append(groupJson(figure));
+    QJsonArray currencies;
+    for (const auto &[currency, flow] : groups.currencies) {
+        QJsonArray spans;
+        for (std::size_t span = 0; span < flow.income.size(); ++span)
+            spans.append(flowJson(flow.income[span], flow.expenses[span]));
+        currencies.append(
+            QJsonObject{{QStringLiteral("currency"), foundation::toQString(currency)},
+                        {QStringLiteral("spans"), spans},
+                        {QStringLiteral("total"), flowJson(flow.totalIncome, flow.totalExpenses)}});
+    }
+    QJsonObject json = periodJson(groups.period);
+    json[QLatin1String("groups")] = figures;
+    json[QLatin1String("currencies")] = currencies;
+    return json;
+}
+
+QString rateText(const QJsonValue &rate)
+{
+    return rate.isNull() ? QString()
+                         : foundation::presentationText(foundation::Percentage(rate.toDouble(), 1));
+}
+
+/// One table for each kind and currency, with as many of the last spans as fit the width.
+void addGroupTables(Report &report, const Groups &groups, int width)
+{
+    constexpr int nameWidth = 24;
+    constexpr int amountWidth = 12;
+    const std::size_t spans = groups.period.size();
+    const auto room = static_cast<std::size_t>(std::max(1, (width - nameWidth) / amountWidth - 2));
+    const std::size_t first = spans > room ? spans - room : 0;
+    const QStringList labels = groups.period.labels();
+    std::vector<Column> columns{{QObject::tr("Name"), QStringLiteral("name")}};
+    for (std::size_t span = first; spans > 1 && span < spans; ++span)
+        columns.push_back({labels[static_cast<qsizetype>(span)], QString::number(span)});
+    columns.push_back({QObject::tr("Total"), QStringLiteral("total")});
+    if (spans > 1)
+        columns.push_back({QObject::tr("Average"), QStringLiteral("average")});
+    QJsonArray rows;
+    for (std::size_t at = 0; at < groups.figures.size(); ++at) {
+        const GroupFigure &figure = groups.figures[at];
+        QJsonObject row = groupJson(figure);
+        row[QLatin1String("name")] = interchange::nameOf(figure);
+        for (std::size_t span = first; span < spans; ++span)
+            row[QString::number(span)] = toJson(figure.amounts[span]);
+        rows.append(row);
+        const bool isLast = at + 1 == groups.figures.size() ||
+                            groups.figures[at + 1].type != figure.type ||
+                            groups.figures[at + 1].total.code() != figure.total.code();
+        if (!isLast)
+            continue;
+        report
+            .heading(QObject::tr("%1, %2", "such as: Expense, USD")
+                         .arg(accounting::presentationText(figure.type),
+                              foundation::presentationText(figure.total.code())))
+            .table(columns, rows, QString());
+        rows = {};
+    }
+    if (groups.figures.empty())
+        report.line(QObject::tr("Nothing was spent or earned."));
+    else if (first > 0)
+        report.line(QObject::tr("The last %1 of %2 spans are shown; --csv and --json have all.")
+                        .arg(QString::number(room), QString::number(spans)));
+}
+
+void addFlowTables(Report &report, const Groups &groups)
+{
+    const QStringList labels = groups.period.labels();
+    for (const auto &[currency, flow] : groups.currencies) {
+        QJsonArray rows;
+        const auto add = [&rows](const QString &label, const Money &income, const Money &expenses) {
+            QJsonObject row = flowJson(income, expenses);
+            row[QLatin1String("span")] = label;
+            rows.append(row);
+        };
+        for (std::size_t span = 0; span < flow.income.size(); ++span)
+            add(labels[static_cast<qsizetype>(span)], flow.income[span], flow.expenses[span]);
+        if (flow.income.size() > 1)
+            add(QObject::tr("Total"), flow.totalIncome, flow.totalExpenses);
+        report.heading(foundation::presentationText(currency))
+            .table({{spanTitle(groups.period), QStringLiteral("span")},
+                    {QObject::tr("Income", "what came in"), QStringLiteral("income")},
+                    {QObject::tr("Expenses"), QStringLiteral("expenses")},
+                    {QObject::tr("Saved"), QStringLiteral("saved")},
+                    {QObject::tr("Savings rate"), QStringLiteral("savingsRate"), rateText}},
+                   rows, QString());
+    }
+}
+
 struct ShowReport {
+    std::vector<QString> words;
+    std::optional<workbench::SpanChoice> span;
+    std::optional<workbench::Grouping> by;
     std::optional<QDate> from;
     std::optional<QDate> to;
     QString title = QObject::tr("Household report");
     bool isHtml = false;
+    bool isCsv = false;
     bool hasCharts = false;
 
     void declare(Arguments &arguments)
     {
         arguments
+            .several("WORDS", words,
+                     QObject::tr("Count only the transactions that 'kiv find WORDS' finds"))
             .optional(
-                "--from", from,
-                QObject::tr("Day in the first month (default: eleven months before the last day)"))
+                "--by", by,
+                QObject::tr("Add up by category, payee, tag or account (with WORDS, --csv and "
+                            "--html by category)"))
+            .optional("--period", span,
+                      QObject::tr("Spans: week, two-weeks, payday, month, quarter or year "
+                                  "(default: month, with --by a single span)"))
+            .optional("--from", from,
+                      QObject::tr("First day, or a day in the first span (default: twelve spans)"))
             .optional("--to", to, QObject::tr("Last day (default: today)"))
             .flag("--html", isHtml, QObject::tr("Print an HTML page with charts"))
+            .flag("--csv", isCsv, QObject::tr("Print a table as CSV"))
             .flag("--chart", hasCharts, QObject::tr("Draw charts on the terminal"))
             .optional("--title", title, QObject::tr("Title of the HTML page"))
             .dated(QObject::tr("Last day, like --to"))
             .exclusive("--html", "--chart")
             .exclusive("--html", "--json")
             .exclusive("--chart", "--json")
+            .exclusive("--csv", "--html")
+            .exclusive("--csv", "--chart")
+            .exclusive("--csv", "--json")
+            .exclusive("--chart", "--by")
+            .exclusive("--chart", "WORDS")
             .exclusive("--to", "--date")
             .only("--title", "--html");
     }
 
     Report run(Call &call) const
     {
-        const QDate last = to.value_or(call.date());
-        const interchange::Period period(from.value_or(last.addMonths(-11)), last);
         const AccountIndex index = call.requests.accounts();
-        Figures figures =
-            interchange::figuresOf(period, index.accounts(), call.requests.transactions(),
-                                   BudgetView(call.requests).budget());
-        Report report(data(figures));
-        if (isHtml) {
-            for (interchange::BalanceFigure &figure : figures.balances)
-                figure.path = workbench::inPlainWords(figure.path);
+        std::vector<accounting::Transaction> transactions = call.requests.transactions();
+        const BudgetView view(call.requests);
+        const bool isGrouped = by || isCsv || !words.empty();
+        const Period period = periodOf(call, index, transactions, view, isGrouped);
+        const auto figures = [&] {
+            return interchange::figuresOf(period, index.accounts(), transactions, view.budget());
+        };
+        if (!isGrouped && !isHtml)
+            return overview(figures(), call);
+        // What the budget planned and the household owns is of all transactions.
+        std::optional<Figures> all;
+        if (isHtml && words.empty())
+            all = figures();
+        const QString filter = select(transactions, index, call.date());
+        const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
+        const Groups groups =
+            workbench::groupsBy(grouping, period, call.requests, index, transactions);
+        if (isHtml || isCsv)
             call.tellReadable();
-            return Report().raw(interchange::toHtml(figures, title, aheadOf(call, last)));
-        }
+        if (isHtml)
+            return Report().raw(interchange::toHtml(
+                all ? &*all : nullptr, groups, {title, presentationText(grouping), filter},
+                words.empty() ? aheadOf(call, period.to()) : std::nullopt));
+        if (isCsv)
+            return Report().raw(interchange::toCsv(groups));
+        QJsonObject json = groupsJson(groups);
+        json[QLatin1String("by")] = wordOf(grouping);
+        if (!filter.isEmpty())
+            json[QLatin1String("filter")] = filter;
+        Report report(json);
+        addGroupTables(report, groups, call.program.terminal().width().value_or(80));
+        addFlowTables(report, groups);
+        return report;
+    }
+
+private:
+    [[nodiscard]] Period periodOf(const Call &call, const AccountIndex &index,
+                                  const std::vector<accounting::Transaction> &transactions,
+                                  const BudgetView &view, bool isGrouped) const
+    {
+        // The page compares spans; a table of groups is wide enough without.
+        const SpanLength otherwise = isGrouped && !isHtml ? SpanLength::Whole : SpanLength::Month;
+        const SpanLength length = span ? span->length : otherwise;
+        std::vector<QDate> paydays;
+        if (length == SpanLength::Payday)
+            paydays = interchange::paydaysOf(index.accounts(), transactions, view.budget());
+        return workbench::reportPeriod(length, from, to.value_or(call.date()), paydays);
+    }
+
+    /// Leaves the transactions that fit the words, and returns the filter as typed.
+    QString select(std::vector<accounting::Transaction> &transactions, const AccountIndex &index,
+                   QDate today) const
+    {
+        if (words.empty())
+            return {};
+        const workbench::TransactionFilter filter(
+            QStringList(words.begin(), words.end()).join(u' '), index, today);
+        std::erase_if(transactions, [&filter](const auto &each) { return !filter.matches(each); });
+        return workbench::filterText(filter.parts());
+    }
+
+    Report overview(const Figures &figures, Call &call) const
+    {
+        Report report(data(figures));
         if (hasCharts)
             addCharts(report, figures, call);
         else
@@ -113,7 +322,6 @@ struct ShowReport {
         return report;
     }
 
-private:
     /// What is to come, unless the report ends before today.
     static std::optional<interchange::Chart> aheadOf(Call &call, QDate last)
     {
@@ -131,12 +339,11 @@ private:
 
     static QJsonObject data(const Figures &figures)
     {
-        return {{QStringLiteral("from"), toJson(figures.period.from())},
-                {QStringLiteral("to"), toJson(figures.period.to())},
-                {QStringLiteral("months"), QJsonArray::fromStringList(figures.period.labels())},
-                {QStringLiteral("currencies"), currenciesJson(figures)},
-                {QStringLiteral("items"), itemsJson(figures)},
-                {QStringLiteral("balances"), balancesJson(figures)}};
+        QJsonObject json = periodJson(figures.period);
+        json[QLatin1String("currencies")] = currenciesJson(figures);
+        json[QLatin1String("items")] = itemsJson(figures);
+        json[QLatin1String("balances")] = balancesJson(figures);
+        return json;
     }
 
     static void addCharts(Report &report, const Figures &figures, Call &call)
@@ -155,17 +362,17 @@ private:
         const QStringList labels = figures.period.labels();
         for (const auto &[currency, sums] : figures.currencies) {
             QJsonArray rows;
-            for (std::size_t month = 0; month < figures.period.months(); ++month) {
+            for (std::size_t span = 0; span < figures.period.size(); ++span) {
                 rows.append(
-                    QJsonObject{{QStringLiteral("month"), labels[static_cast<qsizetype>(month)]},
-                                {QStringLiteral("income"), toJson(sums.income[month])},
-                                {QStringLiteral("expenses"), toJson(sums.expenses[month])},
+                    QJsonObject{{QStringLiteral("span"), labels[static_cast<qsizetype>(span)]},
+                                {QStringLiteral("income"), toJson(sums.income[span])},
+                                {QStringLiteral("expenses"), toJson(sums.expenses[span])},
                                 {QStringLiteral("planned"), toJson(sums.planned)},
-                                {QStringLiteral("outgoing"), toJson(sums.outgoing[month])},
-                                {QStringLiteral("netWorth"), toJson(sums.netWorth[month])}});
+                                {QStringLiteral("outgoing"), toJson(sums.outgoing[span])},
+                                {QStringLiteral("netWorth"), toJson(sums.netWorth[span])}});
             }
             report.heading(foundation::presentationText(currency))
-                .table({{QObject::tr("Month"), QStringLiteral("month")},
+                .table({{spanTitle(figures.period), QStringLiteral("span")},
                         {QObject::tr("Income", "what came in"), QStringLiteral("income")},
                         {QObject::tr("Expenses"), QStringLiteral("expenses")},
                         {QObject::tr("Budget"), QStringLiteral("planned")},
@@ -176,8 +383,11 @@ private:
         report.heading(QObject::tr("Budget against actual"))
             .table({{QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Item"), QStringLiteral("name")},
-                    {QObject::tr("Planned per month"), QStringLiteral("planned")},
-                    {QObject::tr("In %1").arg(labels.back()), QStringLiteral("last")}},
+                    {figures.period.length() == SpanLength::Month ? QObject::tr("Planned per month")
+                                                                  : QObject::tr("Planned per span"),
+                     QStringLiteral("planned")},
+                    {QObject::tr("In %1").arg(labels.back()), QStringLiteral("last")},
+                    {QObject::tr("Average"), QStringLiteral("average")}},
                    itemsJson(figures), QObject::tr("There are no budget items."));
     }
 };
@@ -186,7 +396,7 @@ private:
 
 void addReportCommands(CommandGroup &root)
 {
-    root.add("report", QObject::tr("Show income, expenses and net worth by month"),
+    root.add("report", QObject::tr("Show income, expenses and net worth, or where the money went"),
              CommandKind::Query, ShowReport{});
 }
 

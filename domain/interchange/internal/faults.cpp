@@ -124,9 +124,17 @@ foundation::Error reportEndsFirst()
     return foundation::Error(QObject::tr("A report cannot end before it begins."));
 }
 
-foundation::Error reportTooLong(int monthsMax)
+foundation::Error reportTooLong(std::size_t spansMax)
 {
-    return foundation::Error(QObject::tr("A report covers at most %1 months.").arg(monthsMax));
+    return foundation::Error(
+        QObject::tr("A report has at most %1 spans; choose a later first day or longer spans.")
+            .arg(spansMax));
+}
+
+foundation::Error reportWithoutPaydays()
+{
+    return foundation::Error(
+        QObject::tr("No wage has come in by the last day; choose other spans than paydays."));
 }
 
 } // namespace faults

@@ -40,7 +40,8 @@ namespace faults {
 // ---- reports -----------------------------------------------------------------
 
 [[nodiscard]] foundation::Error reportEndsFirst();
-[[nodiscard]] foundation::Error reportTooLong(int monthsMax);
+[[nodiscard]] foundation::Error reportTooLong(std::size_t spansMax);
+[[nodiscard]] foundation::Error reportWithoutPaydays();
 
 } // namespace faults
 

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "interchange/period.h"
+
+#include "accounting/account.h"
+#include "foundation/percentage.h"
+
+#include <functional>
+#include <map>
+#include <set>
+
+namespace kiv::interchange {
+
+/// The names under which an amount counts: the payee, say, or all tags of an item. Without
+/// any, it counts under none, but in the totals.
+using GroupsOf = std::function<const QStringList &(const accounting::Transaction &,
+                                                   const accounting::Account &)>;
+
+/// Which accounts are grouped.
+enum class Grouped : std::uint8_t {
+    Flows,   ///< of expenses and income
+    Accounts ///< all
+};
+
+/// What moved under one name, on accounts of one kind and currency.
+struct GroupFigure {
+    accounting::AccountTypes type;      ///< the kind of the accounts
+    QString name;                       ///< empty for what has none
+    std::vector<numira::Money> amounts; ///< span by span, positive on the kind's own side
+    numira::Money total;                ///< of all spans
+    numira::Money average;              ///< of a span, rounded to the minor unit
+};
+
+/// The group's name for people.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString nameOf(const GroupFigure &figure);
+
+/// Income and expenses of one currency, span by span.
+struct KIV_INTERCHANGE_EXPORT FlowFigures {
+    std::vector<numira::Money> income;   ///< of income accounts
+    std::vector<numira::Money> expenses; ///< of expense accounts
+    numira::Money totalIncome;           ///< of all spans
+    numira::Money totalExpenses;         ///< of all spans
+
+    /// The part of the income that was not spent, with one decimal; negative when more was
+    /// spent. Nothing without income.
+    [[nodiscard]] static std::optional<foundation::Percentage>
+    savingsRate(const numira::Money &income, const numira::Money &expenses);
+};
+
+/// Where the money went and came from.
+struct Groups {
+    Period period; ///< what they are about
+    /// Expenses, then income, then the other kinds; currencies in their order, and within one
+    /// the largest total first.
+    std::vector<GroupFigure> figures;
+    std::map<numira::Currency, FlowFigures> currencies; ///< those in which something moved
+};
+
+/// Adds up what moved, each account in its own currency: refunds count against what they
+/// refund, and what moves between the household's own accounts is neither income nor expense.
+/// All transactions must be between `accounts`. Throws what adding the amounts throws.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Groups
+groupsOf(const Period &period, const std::set<accounting::Account> &accounts,
+         const std::vector<accounting::Transaction> &transactions, const GroupsOf &groups,
+         Grouped grouped = Grouped::Flows);
+
+/// The groups as a CSV table with headings (RFC 4180): kind, name and currency, the spans,
+/// total and average. No cell can be taken for a formula by a spreadsheet.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QByteArray toCsv(const Groups &groups);
+
+} // namespace kiv::interchange

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "workbench/requests/budget_view.h"
+
+#include "interchange/groups.h"
+
+/// What reports are about, in the words of a household.
+namespace kiv::workbench {
+
+/// By what a report adds up.
+enum class Grouping : std::uint8_t {
+    Category = 1, ///< the accounts of expenses and income, with their sub-accounts
+    Payee = 2,    ///< who got the money, or gave it
+    Tag = 3,      ///< the tags of the budget items; an item with two counts under both
+    Account = 4   ///< each account by itself, the household's own as well
+};
+/// "category", "payee", "tag" or "account".
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString wordOf(Grouping grouping);
+/// A heading, such as "By category".
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString presentationText(Grouping grouping);
+/// One of the words.
+KIV_WORKBENCH_EXPORT void readValue(const QString &text, Grouping &value);
+
+/// How long the spans of a report are, as typed.
+struct SpanChoice {
+    interchange::SpanLength length = interchange::SpanLength::Month; ///< but not Whole
+};
+/// "week", "two-weeks", "payday", "month", "quarter" or "year".
+KIV_WORKBENCH_EXPORT void readValue(const QString &text, SpanChoice &value);
+
+/// Up to twelve spans that end on the day `to`, from `from` if that is given. A single span
+/// begins on the first of the month, eleven months before.
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Period
+reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to,
+             const std::vector<QDate> &paydays);
+
+/// The transactions added up by `grouping`.
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Groups
+groupsBy(Grouping grouping, const interchange::Period &period, Requests &requests,
+         const AccountIndex &index, const std::vector<accounting::Transaction> &transactions);
+
+} // namespace kiv::workbench
