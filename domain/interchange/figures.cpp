@@ -72,15 +72,15 @@ struct Flow {
 using Flows = std::map<AccountNumber, Flow>;
 
 Flows flowsOf(const Period &period, const std::set<Account> &accounts,
-              const std::vector<Transaction> &transactions)
+              const TransactionSource &transactions)
 {
     Flows flows;
     for (const Account &account : accounts)
         flows.try_emplace(account.code().number(), account, period.size());
-    for (const Transaction &transaction : transactions) {
+    transactions([&](const Transaction &transaction) {
         const std::optional<int> span = period.spanOf(transaction.occurredOn());
         if (!span)
-            continue;
+            return;
         const auto add = [&](AccountNumber number, const Money &amount, bool isDebit) {
             Flow &flow = flows.at(number);
             if (*span >= 0) {
@@ -93,7 +93,7 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
         };
         add(transaction.debiting().number(), transaction.debitAmount(), true);
         add(transaction.crediting().number(), transaction.creditAmount(), false);
-    }
+    });
     return flows;
 }
 
@@ -175,8 +175,7 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
 } // namespace
 
 std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
-                             const std::vector<Transaction> &transactions,
-                             const budgeting::Budget &budget)
+                             const TransactionSource &transactions, const budgeting::Budget &budget)
 {
     std::set<QString> names;
     for (const auto &[source, wage] : budget.wages)
@@ -186,11 +185,11 @@ std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
         if (account.type() == AccountTypes::Income && names.contains(account.code().name()))
             paydays.try_emplace(account.code().number());
     }
-    for (const Transaction &transaction : transactions) {
+    transactions([&paydays](const Transaction &transaction) {
         const auto found = paydays.find(transaction.crediting().number());
         if (found != paydays.end())
             found->second.insert(transaction.occurredOn());
-    }
+    });
     const auto most =
         std::ranges::max_element(paydays, {}, [](const auto &wage) { return wage.second.size(); });
     if (most == paydays.end())
@@ -199,7 +198,7 @@ std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
 }
 
 Figures figuresOf(const Period &period, const std::set<Account> &accounts,
-                  const std::vector<Transaction> &transactions, const budgeting::Budget &budget)
+                  const TransactionSource &transactions, const budgeting::Budget &budget)
 {
     Figures figures{period, {}, {}, {}};
     const std::map<AccountNumber, QString> paths = accountPaths(accounts);

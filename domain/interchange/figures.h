@@ -2,8 +2,8 @@
 #pragma once
 
 #include "interchange/period.h"
+#include "interchange/transaction_source.h"
 
-#include "accounting/account.h"
 #include "budgeting/budget.h"
 
 #include <map>
@@ -55,14 +55,13 @@ struct Figures {
 
 /// The days on which a wage came in, in rising order: of the wage that did so on most days.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<QDate>
-paydaysOf(const std::set<accounting::Account> &accounts,
-          const std::vector<accounting::Transaction> &transactions,
+paydaysOf(const std::set<accounting::Account> &accounts, const TransactionSource &transactions,
           const budgeting::Budget &budget);
 
 /// Computes the figures in one pass over the transactions. All transactions must be between
 /// `accounts`. Throws what adding the amounts throws.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT Figures figuresOf(
-    const Period &period, const std::set<accounting::Account> &accounts,
-    const std::vector<accounting::Transaction> &transactions, const budgeting::Budget &budget);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Figures
+figuresOf(const Period &period, const std::set<accounting::Account> &accounts,
+          const TransactionSource &transactions, const budgeting::Budget &budget);
 
 } // namespace kiv::interchange

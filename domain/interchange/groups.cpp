@@ -141,12 +141,10 @@ std::optional<foundation::Percentage> FlowFigures::savingsRate(const Money &inco
 }
 
 Groups groupsOf(const Period &period, const std::set<Account> &accounts,
-                const std::vector<Transaction> &transactions, const GroupsOf &groups,
-                Grouped grouped)
+                const TransactionSource &transactions, const GroupsOf &groups, Grouped grouped)
 {
     Sums sums(period, accounts, grouped);
-    for (const Transaction &transaction : transactions)
-        sums.add(transaction, groups);
+    transactions([&](const Transaction &transaction) { sums.add(transaction, groups); });
     return sums.groups();
 }
 

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "interchange/period.h"
+#include "interchange/transaction_source.h"
 
-#include "accounting/account.h"
 #include "foundation/percentage.h"
 
-#include <functional>
 #include <map>
-#include <set>
 
 namespace kiv::interchange {
 
@@ -60,10 +58,11 @@ struct Groups {
 /// Adds up what moved, each account in its own currency: refunds count against what they
 /// refund, and what moves between the household's own accounts is neither income nor expense.
 /// All transactions must be between `accounts`. Throws what adding the amounts throws.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT Groups
-groupsOf(const Period &period, const std::set<accounting::Account> &accounts,
-         const std::vector<accounting::Transaction> &transactions, const GroupsOf &groups,
-         Grouped grouped = Grouped::Flows);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Groups groupsOf(const Period &period,
+                                                     const std::set<accounting::Account> &accounts,
+                                                     const TransactionSource &transactions,
+                                                     const GroupsOf &groups,
+                                                     Grouped grouped = Grouped::Flows);
 
 /// The groups as a CSV table with headings (RFC 4180): kind, name and currency, the spans,
 /// total and average. No cell can be taken for a formula by a spreadsheet.

@@ -168,7 +168,7 @@ interchange::Period reportPeriod(SpanLength length, std::optional<QDate> from, Q
 
 interchange::Groups groupsBy(Grouping grouping, const interchange::Period &period,
                              Requests &requests, const AccountIndex &index,
-                             const std::vector<Transaction> &transactions)
+                             const interchange::TransactionSource &transactions)
 {
     return interchange::groupsOf(period, index.accounts(), transactions,
                                  groupsOf(grouping, requests, index),

@@ -38,6 +38,6 @@ reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to
 /// The transactions added up by `grouping`.
 [[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Groups
 groupsBy(Grouping grouping, const interchange::Period &period, Requests &requests,
-         const AccountIndex &index, const std::vector<accounting::Transaction> &transactions);
+         const AccountIndex &index, const interchange::TransactionSource &transactions);
 
 } // namespace kiv::workbench

@@ -24,6 +24,7 @@ using interchange::GroupFigure;
 using interchange::Groups;
 using interchange::Period;
 using interchange::SpanLength;
+using interchange::TransactionSource;
 using numira::Money;
 
 QJsonArray listOf(const std::vector<Money> &amounts)
@@ -251,7 +252,7 @@ struct ShowReport {
     Report run(Call &call) const
     {
         const AccountIndex index = call.requests.accounts();
-        std::vector<accounting::Transaction> transactions = call.requests.transactions();
+        const TransactionSource transactions = interchange::transactionsOf(index.accounts());
         const BudgetView view(call.requests);
         const bool isGrouped = by || isCsv || !words.empty();
         const Period period = periodOf(call, index, transactions, view, isGrouped);
@@ -264,22 +265,28 @@ struct ShowReport {
         std::optional<Figures> all;
         if (isHtml && words.empty())
             all = figures();
-        const QString filter = select(transactions, index, call.date());
+        const std::optional<workbench::TransactionFilter> filter = filterOf(index, call.date());
+        const TransactionSource selected = [&](const auto &visit) {
+            transactions([&](const accounting::Transaction &each) {
+                if (!filter || filter->matches(each))
+                    visit(each);
+            });
+        };
+        const QString filtered = filter ? workbench::filterText(filter->parts()) : QString();
         const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
-        const Groups groups =
-            workbench::groupsBy(grouping, period, call.requests, index, transactions);
+        const Groups groups = workbench::groupsBy(grouping, period, call.requests, index, selected);
         if (isHtml || isCsv)
             call.tellReadable();
         if (isHtml)
             return Report().raw(interchange::toHtml(
-                all ? &*all : nullptr, groups, {title, presentationText(grouping), filter},
+                all ? &*all : nullptr, groups, {title, presentationText(grouping), filtered},
                 words.empty() ? aheadOf(call, period.to()) : std::nullopt));
         if (isCsv)
             return Report().raw(interchange::toCsv(groups));
         QJsonObject json = groupsJson(groups);
         json[QLatin1String("by")] = wordOf(grouping);
-        if (!filter.isEmpty())
-            json[QLatin1String("filter")] = filter;
+        if (filter)
+            json[QLatin1String("filter")] = filtered;
         Report report(json);
         addGroupTables(report, groups, call.program.terminal().width().value_or(80));
         addFlowTables(report, groups);
@@ -288,8 +295,8 @@ struct ShowReport {
 
 private:
     [[nodiscard]] Period periodOf(const Call &call, const AccountIndex &index,
-                                  const std::vector<accounting::Transaction> &transactions,
-                                  const BudgetView &view, bool isGrouped) const
+                                  const TransactionSource &transactions, const BudgetView &view,
+                                  bool isGrouped) const
     {
         // The page compares spans; a table of groups is wide enough without.
         const SpanLength otherwise = isGrouped && !isHtml ? SpanLength::Whole : SpanLength::Month;
@@ -300,16 +307,13 @@ private:
         return workbench::reportPeriod(length, from, to.value_or(call.date()), paydays);
     }
 
-    /// Leaves the transactions that fit the words, and returns the filter as typed.
-    QString select(std::vector<accounting::Transaction> &transactions, const AccountIndex &index,
-                   QDate today) const
+    [[nodiscard]] std::optional<workbench::TransactionFilter> filterOf(const AccountIndex &index,
+                                                                       QDate today) const
     {
         if (words.empty())
-            return {};
-        const workbench::TransactionFilter filter(
-            QStringList(words.begin(), words.end()).join(u' '), index, today);
-        std::erase_if(transactions, [&filter](const auto &each) { return !filter.matches(each); });
-        return workbench::filterText(filter.parts());
+            return std::nullopt;
+        return workbench::TransactionFilter(QStringList(words.begin(), words.end()).join(u' '),
+                                            index, today);
     }
 
     Report overview(const Figures &figures, Call &call) const
