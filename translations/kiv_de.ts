@@ -680,10 +680,6 @@
         <translation>Ein Bericht kann nicht enden, bevor er beginnt.</translation>
     </message>
     <message>
-        <source>A report covers at most %1 months.</source>
-        <translation>Ein Bericht umfasst höchstens %1 Monate.</translation>
-    </message>
-    <message>
         <source>Net worth, %1</source>
         <translation>Reinvermögen, %1</translation>
     </message>
@@ -779,10 +775,6 @@
     <message>
         <source>From %1 to %2</source>
         <translation>Vom %1 bis %2</translation>
-    </message>
-    <message>
-        <source>Budget against actual by month</source>
-        <translation>Plan-Ist-Vergleich nach Monaten</translation>
     </message>
     <message>
         <source>Balances on %1</source>
@@ -3227,10 +3219,6 @@
         <translation>Die Neuerungen der Versionen zeigen</translation>
     </message>
     <message>
-        <source>Day in the first month (default: eleven months before the last day)</source>
-        <translation>Tag im ersten Monat (Standard: elf Monate vor dem letzten Tag)</translation>
-    </message>
-    <message>
         <source>Last day (default: today)</source>
         <translation>Letzter Tag (Standard: heute)</translation>
     </message>
@@ -3249,10 +3237,6 @@
     <message>
         <source>Last day, like --to</source>
         <translation>Letzter Tag, wie --to</translation>
-    </message>
-    <message>
-        <source>Show income, expenses and net worth by month</source>
-        <translation>Einnahmen, Ausgaben und Reinvermögen nach Monaten zeigen</translation>
     </message>
     <message>
         <source>Budget file, like --file</source>
@@ -7753,6 +7737,123 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <source>To</source>
         <comment>an account</comment>
         <translation>An</translation>
+    </message>
+    <message>
+        <source>(without)</source>
+        <translation>(ohne)</translation>
+    </message>
+    <message>
+        <source>Savings rate, %1</source>
+        <translation>Sparquote, %1</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>Zeitraum</translation>
+    </message>
+    <message>
+        <source>By account, from %1 to %2</source>
+        <translation>Nach Konten, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Durchschnitt</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>such as: Expense, USD</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Nothing was spent or earned.</source>
+        <translation>Nichts wurde ausgegeben oder eingenommen.</translation>
+    </message>
+    <message>
+        <source>Planned per span</source>
+        <translation>Im Zeitraum geplant</translation>
+    </message>
+    <message>
+        <source>The plan is today&apos;s, restated per span. ▲ marks spans with higher spending.</source>
+        <translation>Der Plan ist der heutige, umgerechnet auf einen Zeitraum. ▲ kennzeichnet Zeiträume mit höheren Ausgaben.</translation>
+    </message>
+    <message>
+        <source>All assets less all debts at the end of each span; the last is %1.</source>
+        <translation>Alles Vermögen abzüglich aller Schulden am Ende jedes Zeitraums; zuletzt %1.</translation>
+    </message>
+    <message>
+        <source>Money that came in and money spent in each span.</source>
+        <translation>Einnahmen und Ausgaben jedes Zeitraums.</translation>
+    </message>
+    <message>
+        <source>Planned and actual spending per span on bills, debts, goals and non-tracked items.</source>
+        <translation>Geplante und tatsächliche Ausgaben im Zeitraum für Rechnungen, Schulden, Ziele und nicht verfolgte Posten.</translation>
+    </message>
+    <message>
+        <source>Only what fits: %1</source>
+        <translation>Nur was passt: %1</translation>
+    </message>
+    <message>
+        <source>A report has at most %1 spans; choose a later first day or longer spans.</source>
+        <translation>Ein Bericht hat höchstens %1 Zeiträume; wählen Sie einen späteren ersten Tag oder längere Zeiträume.</translation>
+    </message>
+    <message>
+        <source>No wage has come in by the last day; choose other spans than paydays.</source>
+        <translation>Bis zum letzten Tag ist kein Lohn eingegangen; wählen Sie andere Zeiträume als die zwischen Zahltagen.</translation>
+    </message>
+    <message>
+        <source>By payee</source>
+        <translation>Nach Empfängern</translation>
+    </message>
+    <message>
+        <source>By tag</source>
+        <translation>Nach Schlagwörtern</translation>
+    </message>
+    <message>
+        <source>By account</source>
+        <translation>Nach Konten</translation>
+    </message>
+    <message>
+        <source>By category</source>
+        <translation>Nach Kategorien</translation>
+    </message>
+    <message>
+        <source>The last %1 of %2 spans are shown; --csv and --json have all.</source>
+        <translation>Gezeigt werden die letzten %1 von %2 Zeiträumen; --csv und --json haben alle.</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespart</translation>
+    </message>
+    <message>
+        <source>Savings rate</source>
+        <translation>Sparquote</translation>
+    </message>
+    <message>
+        <source>Count only the transactions that &apos;kiv find WORDS&apos; finds</source>
+        <translation>Nur die Buchungen zählen, die 'kiv find WÖRTER' findet</translation>
+    </message>
+    <message>
+        <source>Add up by category, payee, tag or account (with WORDS, --csv and --html by category)</source>
+        <translation>Summen nach category (Kategorie), payee (Empfänger), tag (Schlagwort) oder account (Konto); mit WÖRTERN, --csv und --html nach Kategorie</translation>
+    </message>
+    <message>
+        <source>Spans: week, two-weeks, payday, month, quarter or year (default: month, with --by a single span)</source>
+        <translation>Zeiträume: week, two-weeks, payday, month, quarter oder year (Vorgabe: month, mit --by ein einziger)</translation>
+    </message>
+    <message>
+        <source>First day, or a day in the first span (default: twelve spans)</source>
+        <translation>Erster Tag oder ein Tag im ersten Zeitraum (Vorgabe: zwölf Zeiträume)</translation>
+    </message>
+    <message>
+        <source>Print a table as CSV</source>
+        <translation>Eine Tabelle als CSV ausgeben</translation>
+    </message>
+    <message>
+        <source>Show income, expenses and net worth, or where the money went</source>
+        <translation>Einnahmen, Ausgaben und Reinvermögen zeigen, oder wohin das Geld ging</translation>
     </message>
 </context>
 <context>

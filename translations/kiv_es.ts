@@ -680,10 +680,6 @@
         <translation>Un informe no puede terminar antes de empezar.</translation>
     </message>
     <message>
-        <source>A report covers at most %1 months.</source>
-        <translation>Un informe abarca como máximo %1 meses.</translation>
-    </message>
-    <message>
         <source>Net worth, %1</source>
         <translation>Patrimonio neto, %1</translation>
     </message>
@@ -779,10 +775,6 @@
     <message>
         <source>From %1 to %2</source>
         <translation>Del %1 al %2</translation>
-    </message>
-    <message>
-        <source>Budget against actual by month</source>
-        <translation>Presupuesto y gasto real por meses</translation>
     </message>
     <message>
         <source>Balances on %1</source>
@@ -3227,10 +3219,6 @@
         <translation>Muestra las novedades de las versiones</translation>
     </message>
     <message>
-        <source>Day in the first month (default: eleven months before the last day)</source>
-        <translation>Día del primer mes (por defecto: once meses antes del último día)</translation>
-    </message>
-    <message>
         <source>Last day (default: today)</source>
         <translation>Último día (por defecto: hoy)</translation>
     </message>
@@ -3249,10 +3237,6 @@
     <message>
         <source>Last day, like --to</source>
         <translation>Último día, como --to</translation>
-    </message>
-    <message>
-        <source>Show income, expenses and net worth by month</source>
-        <translation>Muestra ingresos, gastos y patrimonio neto por meses</translation>
     </message>
     <message>
         <source>Budget file, like --file</source>
@@ -7753,6 +7737,123 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <source>To</source>
         <comment>an account</comment>
         <translation>A</translation>
+    </message>
+    <message>
+        <source>(without)</source>
+        <translation>(sin nombre)</translation>
+    </message>
+    <message>
+        <source>Savings rate, %1</source>
+        <translation>Tasa de ahorro, %1</translation>
+    </message>
+    <message>
+        <source>Span</source>
+        <translation>Periodo</translation>
+    </message>
+    <message>
+        <source>By account, from %1 to %2</source>
+        <translation>Por cuenta, del %1 al %2</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Promedio</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>such as: Expense, USD</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Nothing was spent or earned.</source>
+        <translation>No se gastó ni se ingresó nada.</translation>
+    </message>
+    <message>
+        <source>Planned per span</source>
+        <translation>Previsto por periodo</translation>
+    </message>
+    <message>
+        <source>The plan is today&apos;s, restated per span. ▲ marks spans with higher spending.</source>
+        <translation>El plan es el de hoy, expresado por periodo. ▲ señala los periodos con un gasto mayor.</translation>
+    </message>
+    <message>
+        <source>All assets less all debts at the end of each span; the last is %1.</source>
+        <translation>Todos los activos menos todas las deudas al final de cada periodo; el último valor es %1.</translation>
+    </message>
+    <message>
+        <source>Money that came in and money spent in each span.</source>
+        <translation>Dinero ingresado y gastado en cada periodo.</translation>
+    </message>
+    <message>
+        <source>Planned and actual spending per span on bills, debts, goals and non-tracked items.</source>
+        <translation>Gasto previsto y real por periodo en facturas, deudas, metas y partidas sin seguimiento.</translation>
+    </message>
+    <message>
+        <source>Only what fits: %1</source>
+        <translation>Solo lo que coincide: %1</translation>
+    </message>
+    <message>
+        <source>A report has at most %1 spans; choose a later first day or longer spans.</source>
+        <translation>Un informe tiene como máximo %1 periodos; elija un primer día posterior o periodos más largos.</translation>
+    </message>
+    <message>
+        <source>No wage has come in by the last day; choose other spans than paydays.</source>
+        <translation>Hasta el último día no se ha recibido ningún salario; elija otros periodos que los de cobro.</translation>
+    </message>
+    <message>
+        <source>By payee</source>
+        <translation>Por beneficiario</translation>
+    </message>
+    <message>
+        <source>By tag</source>
+        <translation>Por etiqueta</translation>
+    </message>
+    <message>
+        <source>By account</source>
+        <translation>Por cuenta</translation>
+    </message>
+    <message>
+        <source>By category</source>
+        <translation>Por categoría</translation>
+    </message>
+    <message>
+        <source>The last %1 of %2 spans are shown; --csv and --json have all.</source>
+        <translation>Se muestran los últimos %1 de %2 periodos; --csv y --json los tienen todos.</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Ahorrado</translation>
+    </message>
+    <message>
+        <source>Savings rate</source>
+        <translation>Tasa de ahorro</translation>
+    </message>
+    <message>
+        <source>Count only the transactions that &apos;kiv find WORDS&apos; finds</source>
+        <translation>Contar solo las transacciones que encuentra 'kiv find PALABRAS'</translation>
+    </message>
+    <message>
+        <source>Add up by category, payee, tag or account (with WORDS, --csv and --html by category)</source>
+        <translation>Sumar por category (categoría), payee (beneficiario), tag (etiqueta) o account (cuenta); con PALABRAS, --csv y --html, por categoría</translation>
+    </message>
+    <message>
+        <source>Spans: week, two-weeks, payday, month, quarter or year (default: month, with --by a single span)</source>
+        <translation>Periodos: week, two-weeks, payday, month, quarter o year (por omisión: month; con --by, uno solo)</translation>
+    </message>
+    <message>
+        <source>First day, or a day in the first span (default: twelve spans)</source>
+        <translation>Primer día, o un día del primer periodo (por omisión: doce periodos)</translation>
+    </message>
+    <message>
+        <source>Print a table as CSV</source>
+        <translation>Mostrar una tabla como CSV</translation>
+    </message>
+    <message>
+        <source>Show income, expenses and net worth, or where the money went</source>
+        <translation>Mostrar ingresos, gastos y patrimonio neto, o adónde fue el dinero</translation>
     </message>
 </context>
 <context>
