@@ -39,8 +39,10 @@ QString axes(const Chart &chart, const ChartPlane &plane)
                         coordinate(plane.y(tick) + 4),
                         htmlText(foundation::presentationText(numira::Money(currency, tick))));
     }
-    // As many labels as can stand side by side.
-    const auto each = static_cast<std::size_t>(std::ceil(56 / plane.slot()));
+    // As many labels as can stand side by side, also in the large letters of a narrow page.
+    const auto longest = std::ranges::max(chart.labels, {}, &QString::size).size();
+    const auto each =
+        static_cast<std::size_t>(std::ceil(11 * static_cast<double>(longest) / plane.slot()));
     for (std::size_t at = 0; at < static_cast<std::size_t>(chart.labels.size()); at += each)
         svg += QStringLiteral("<text class=\"label\" x=\"%1\" y=\"%2\">%3</text>\n")
                    .arg(coordinate(plane.x(static_cast<double>(at))), coordinate(height - 10),

@@ -53,7 +53,9 @@ svg .label { text-anchor: middle; } .grid { stroke: var(--rule); } .zero { strok
 details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
 @media (max-width: 640px) { body { padding: 1.2rem .9rem; } h1 { font-size: 1.5rem; }
   th, td { padding: .3rem .35rem; } tbody th { min-width: 6.5rem; }
-  .drawing { overflow-x: auto; } .drawing svg { min-width: 44rem; } }
+  .drawing svg { overflow: visible; } .drawing svg text { font-size: 19px; }
+  .drawing svg text.name { font-size: 17px; }
+  thead th { white-space: normal; } }
 @media (prefers-color-scheme: dark) { :root { --ink: #e6ebf0; --soft: #9fb0bf; --rule: #33414d;
   --paper: #14191e; --band: #1a2127; --one: #63b3e4; --two: #f0ad4e; --three: #7fc8a4;
   --bad: #ff8a80; } }
@@ -61,8 +63,7 @@ details summary { cursor: pointer; color: var(--soft); font-size: .85rem; }
   --one: #0b5a8f; --two: #d98410; --three: #3b8f6a; --bad: #900; }
   @page { margin: 16mm; } body { max-width: none; padding: 0; font-size: 10pt; }
   h2 { break-after: avoid; } figure, .card, tr { break-inside: avoid; }
-  thead { display: table-header-group; } .scroll, .drawing { overflow: visible; }
-  .drawing svg { min-width: 0; }
+  thead { display: table-header-group; } .scroll { overflow: visible; }
   * { -webkit-print-color-adjust: exact; print-color-adjust: exact; } }
 )";
 
@@ -234,12 +235,11 @@ QString groupTable(const Groups &groups, std::size_t at, std::size_t end)
     const GroupFigure &largest = groups.figures[at];
     const bool hasSpans = groups.period.size() > 1;
     const std::size_t first = firstShown(groups.period);
-    QStringList titles;
+    // What sums up comes first: a narrow screen shows no more at a time.
+    QStringList titles{QObject::tr("Total")};
     if (hasSpans)
-        titles = groups.period.labels().mid(static_cast<qsizetype>(first));
-    titles += QObject::tr("Total");
-    if (hasSpans)
-        titles += QObject::tr("Average");
+        titles += QStringList{QObject::tr("Average")} +
+                  groups.period.labels().mid(static_cast<qsizetype>(first));
     QString html =
         QStringLiteral("<h3>%1</h3>\n<div class=\"dense\">")
             .arg(htmlText(QObject::tr("%1, %2", "such as: Expense, USD")
@@ -250,11 +250,11 @@ QString groupTable(const Groups &groups, std::size_t at, std::size_t end)
         const GroupFigure &figure = groups.figures[at];
         html += QStringLiteral("<tr>") + headCell(nameOf(figure)) +
                 shareCell(figure.total, largest.total, figure.type == AccountTypes::Income);
-        for (std::size_t span = first; hasSpans && span < groups.period.size(); ++span)
-            html += numberCell(figure.amounts[span]);
         html += numberCell(figure.total);
         if (hasSpans)
             html += numberCell(figure.average);
+        for (std::size_t span = first; hasSpans && span < groups.period.size(); ++span)
+            html += numberCell(figure.amounts[span]);
         html += QStringLiteral("</tr>\n");
     }
     return html + tableEnd + QStringLiteral("</div>\n");
@@ -294,17 +294,17 @@ QString budgetTable(const Figures &figures)
     const std::size_t first = firstShown(figures.period);
     QStringList titles{isMonthly ? QObject::tr("Planned per month")
                                  : QObject::tr("Planned per span")};
-    titles += figures.period.labels().mid(static_cast<qsizetype>(first));
     titles += QObject::tr("Average");
+    titles += figures.period.labels().mid(static_cast<qsizetype>(first));
     QString html = QStringLiteral("<div class=\"dense\">") + tableHead(QObject::tr("Item"), titles);
     for (const ItemFigure &item : figures.items) {
         html += QStringLiteral("<tr>") +
                 headCell(QStringLiteral("%1 (%2)").arg(item.name,
                                                        budgeting::presentationText(item.kind))) +
-                numberCell(item.planned);
+                numberCell(item.planned) + numberCell(item.average);
         for (std::size_t span = first; span < figures.period.size(); ++span)
             html += budgetCell(item, item.actual[span]);
-        html += numberCell(item.average) + QStringLiteral("</tr>\n");
+        html += QStringLiteral("</tr>\n");
     }
     return html + tableEnd +
            QStringLiteral("</div><p class=\"note\">%1</p>\n")
