@@ -145,10 +145,13 @@ QString figureWithTable(const Chart &chart, const QString &first, const QString 
     QStringList names;
     for (const ChartSeries &series : chart.series)
         names += series.name;
+    // A row for each day would hide what follows.
+    const QString opening = chart.kind == ChartKind::Steps ? QStringLiteral("<details>")
+                                                           : QStringLiteral("<details open>");
     QString html =
         QStringLiteral("<figure><figcaption>%1</figcaption>\n<div class=\"drawing\">\n%2"
-                       "</div><details open><summary>%3</summary>\n%4")
-            .arg(htmlText(chart.title), toSvg(chart, id),
+                       "</div>%3<summary>%4</summary>\n%5")
+            .arg(htmlText(chart.title), toSvg(chart, id), opening,
                  htmlText(QObject::tr("The figures as a table")), tableHead(first, names));
     for (qsizetype month = 0; month < chart.labels.size(); ++month) {
         html += QStringLiteral("<tr>") + headCell(chart.labels[month]);
