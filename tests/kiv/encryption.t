@@ -111,6 +111,8 @@ Nothing asks where nobody can answer, and completion knows no names then:
   $ kiv new third --encrypt
   kiv: --passphrase-file is missing.
   [2]
+  $ kiv wizard --encrypt --passphrase-file others --bank A --account B third.budget | tail -1
+  Created the budget 'third.budget'.
   $ kiv --file second.budget accounts --passphrase-file words
   There are no accounts.
   $ readable

@@ -2,8 +2,8 @@
 // new, info, save, save-as
 #include "commands/commands.h"
 
+#include "commands/whether_encrypted.h"
 #include "output/json.h"
-#include "program/passphrases.h"
 
 #include "workbench/document/demonstration.h"
 
@@ -21,21 +21,6 @@ QJsonObject fileJson(const Document &document)
 {
     return {{QStringLiteral("file"), document.file()}};
 }
-
-/// Whether a new file is encrypted.
-struct WhetherEncrypted {
-    bool isEncrypted = false;
-
-    void declare(Arguments &arguments)
-    {
-        arguments.flag("--encrypt", isEncrypted, QObject::tr("Encrypt it with a passphrase"));
-    }
-    void choose(const Call &call) const
-    {
-        if (isEncrypted)
-            call.document.encryptNext(Passphrases(call.options).chosen({}, false));
-    }
-};
 
 struct New {
     QString file;

@@ -2,6 +2,7 @@
 // wizard, templates list|show
 #include "commands/commands.h"
 
+#include "commands/whether_encrypted.h"
 #include "output/json.h"
 
 #include "workbench/document/starter_budget.h"
@@ -147,6 +148,7 @@ struct Wizard {
     TemplateArgument household;
     std::vector<ItemArgument> items = {};
     workbench::StarterAnswers answers = {};
+    WhetherEncrypted encryption;
 
     void declare(Arguments &arguments)
     {
@@ -166,6 +168,7 @@ struct Wizard {
             .optional("--type", answers.type,
                       QObject::tr("Type of the bank account, such as checking (default)"))
             .optional("--balance", answers.balance, QObject::tr("Opening balance (default: 0)"));
+        encryption.declare(arguments);
     }
     Report run(Call &call) const
     {
@@ -178,6 +181,7 @@ struct Wizard {
         call.document.refuseUnsaved();
         const QString path = call.fileToMake(file);
         Document::refuseExisting(path);
+        encryption.choose(call);
         workbench::fillIn(call.requests, given);
         call.document.create(path, QObject::tr("Created the budget"));
         Report report = itemsReport(itemsJson(call.requests), true);
