@@ -99,7 +99,8 @@ private:
         const std::size_t regular = m_beginning.expected.size();
         if (date.place >= regular) {
             const Once &once = m_beginning.once[date.place - regular];
-            post({date.day, date.due, {}, once.from, once.to, once.amount, once.entry});
+            post({date.day, date.due, {}, once.from, once.to, once.amount, once.entry},
+                 once.arriving);
             return;
         }
         const Expected &one = m_beginning.expected[date.place];
@@ -116,7 +117,7 @@ private:
         return enough && holding >= *enough;
     }
 
-    void post(Payment payment)
+    void post(Payment payment, const std::optional<Money> &arriving = {})
     {
         std::vector<std::pair<AccountNumber, Money>> sides;
         for (const auto &[account, isOut] :
@@ -125,7 +126,8 @@ private:
             if (holding == m_holdings.end())
                 continue;
             const Currency currency = holding->second.code();
-            const auto amount = inCurrency(payment.amount, currency);
+            const auto amount =
+                inCurrency(isOut ? payment.amount : arriving.value_or(payment.amount), currency);
             if (!amount) {
                 leaveOut({payment.item, {payment.amount.code(), currency}});
                 return;
@@ -178,6 +180,8 @@ std::optional<std::size_t> Curve::firstBelow(const Money &floor) const
 std::optional<Payment> Outlook::cause(const Curve &curve, std::size_t place) const
 {
     const Change *most = nullptr;
+    if (curve.ends[place] >= (place == 0 ? curve.start : curve.ends[place - 1]))
+        return std::nullopt;
     for (const Change &change : curve.changes) {
         if (payments[change.payment].day == day(place) && change.amount.isNegative() &&
             (!most || change.amount < most->amount))

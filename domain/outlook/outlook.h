@@ -42,10 +42,11 @@ struct Expected {
 /// Something that comes once: a transaction of a day to come, or what is asked about.
 struct Once {
     QDate day;                      ///< a day before the first one counts on that
-    numira::Money amount;           ///< positive
+    numira::Money amount;           ///< positive; what goes out
     accounting::AccountNumber from; ///< that pays
     accounting::AccountNumber to;   ///< that is paid; the accounts may be any others
     std::optional<accounting::TransactionNumber> entry = {}; ///< nothing if it is asked about
+    std::optional<numira::Money> arriving = {}; ///< what comes in, if that is another amount
 };
 
 /// What the outlook starts from.
@@ -113,7 +114,7 @@ struct KIV_OUTLOOK_EXPORT Outlook {
         return first.addDays(static_cast<qint64>(place));
     }
     /// The payment that took the most out of these curves on the day at this place; nothing if
-    /// none took any.
+    /// none took any, and on a day that ends no lower than it began.
     [[nodiscard]] std::optional<Payment> cause(const Curve &curve, std::size_t place) const;
     /// The curves of these accounts together, in one currency. Nothing without an exchange rate
     /// for one of them.

@@ -7,6 +7,7 @@
 #include "storage/internal/open_file.h"
 #include "storage/internal/opened_content.h"
 #include "storage/internal/schema.h"
+#include "storage/internal/version_encryption.h"
 #include "storage/internal/version_folder.h"
 #include "storage/key_ring.h"
 
@@ -44,10 +45,9 @@ void finishEncryption(const internal::OpenFile &file, const internal::Warn &warn
 {
     if (!file.encryption())
         return;
-    try {
-        (void)file.encryptVersions(file.encryption());
-    } catch (const StorageError &error) {
-        warn(QObject::tr("Not all former versions could be encrypted: %1").arg(error.message()));
+    for (const QString &path : file.encryptVersions(file.encryption())) {
+        if (!internal::isEncrypted(path))
+            warn(QObject::tr("The former version '%1' could not be encrypted.").arg(path));
     }
 }
 
@@ -66,7 +66,7 @@ QByteArray encodedSafely(const Version &version)
 } // namespace
 
 BudgetFile::BudgetFile() : BudgetFile(Pace()) {}
-BudgetFile::BudgetFile(Pace pace) : m_pace(std::move(pace)) {}
+BudgetFile::BudgetFile(Pace pace) : m_pace(std::move(pace)), m_keys(std::make_shared<KeyRing>()) {}
 BudgetFile::~BudgetFile() = default;
 
 void BudgetFile::setFilePathName(const QString &filePathName)
@@ -209,7 +209,7 @@ void BudgetFile::restore(const KeptVersion &version)
         QByteArray file = withContent([&] { return encodedSafely(restored); }, isDamaged);
         return std::pair(std::move(file), restored.mark);
     };
-    storeDraft(draft, false, m_open ? presentEncryption() : opened.encryption);
+    storeDraft(draft, false, opened.encryption);
     settle(std::move(restored));
     backOnFailure.dismiss();
 }
@@ -263,14 +263,13 @@ void BudgetFile::storeDraft(const Draft &draft, bool mayMerge,
     auto backOnFailure = qScopeGuard([this] { goBack(); });
     Chosen chosen = choose();
     chosen.file->lock(m_pace.patience);
+    const auto next = std::exchange(m_nextEncryption, nullptr);
     if (chosen.other)
-        chosen.other->setEncryption(m_nextEncryption ? *m_nextEncryption : encryption);
+        chosen.other->setEncryption(next ? *next : encryption);
     chosen.file->store(draft, isOpen(chosen) ? m_open->known() : std::nullopt,
                        mayMerge && !chosen.other, m_warn ? m_warn : warnInLog);
-    if (chosen.other) {
+    if (chosen.other)
         m_open = std::move(chosen.other);
-        m_nextEncryption.reset();
-    }
     m_burst.reset();
     m_change.clear();
     backOnFailure.dismiss();
@@ -301,8 +300,8 @@ internal::OpenFile &BudgetFile::openToRewrite()
 QStringList BudgetFile::encrypt(const Passphrase &passphrase)
 {
     OpenFile &file = openToRewrite();
-    if (!m_keys)
-        m_keys = std::make_shared<KeyRing>();
+    // What cannot be listed cannot be encrypted either; better before anything is changed.
+    (void)keptVersions(m_chosenPath, m_keys.get());
     const Encryption encryption = m_keys->encryptionWith(
         passphrase, file.encryption() ? &*file.encryption() : nullptr, m_chosenPath);
     file.rewrite(encryption);
@@ -319,14 +318,14 @@ QStringList BudgetFile::decrypt()
 
 void BudgetFile::encryptNext(const Passphrase &passphrase)
 {
-    if (!m_keys)
-        m_keys = std::make_shared<KeyRing>();
     m_nextEncryption =
         std::make_unique<Encryption>(m_keys->encryptionWith(passphrase, nullptr, m_chosenPath));
 }
 
 void BudgetFile::encryptNextAs(const BudgetFile &other)
 {
+    if (m_open)
+        throw std::logic_error("The keys of an open file are used.");
     const std::optional<Encryption> encryption = other.presentEncryption();
     m_nextEncryption = encryption ? std::make_unique<Encryption>(*encryption) : nullptr;
     m_keys = other.m_keys;

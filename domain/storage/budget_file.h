@@ -96,8 +96,8 @@ public:
 
     // ---- encryption ------------------------------------------------------------
 
-    /// The keys with which encrypted files are opened; without any, load() and the others
-    /// throw PassphraseNeeded. Chosen before the first file.
+    /// The keys with which encrypted files are opened, in place of an empty ring; where one is
+    /// missing, load() and the others throw PassphraseNeeded. Chosen before the first file.
     ///
     /// A file stays as it is, encrypted or not, and so do its former versions: what an
     /// encrypted one keeps in the clear, or under its passphrase from before, because a
@@ -108,16 +108,16 @@ public:
     [[nodiscard]] bool isEncrypted() const;
     /// Encrypts the file that was loaded or stored last and its former versions, or gives
     /// them another passphrase. The version stays the same. Answers with the paths of
-    /// those versions that no key opens, and that stay as they are. Throws StorageError as
-    /// store() does; what fails before the file is written changes nothing, and what fails
-    /// after it is made up for when the file is loaded again.
+    /// those versions that stay as they are: no key opens them, or they cannot be written.
+    /// Throws StorageError as store() does, and changes nothing then. What is broken off is made
+    /// up for when the file is loaded again.
     QStringList encrypt(const Passphrase &passphrase);
-    /// The reverse, the versions first: what fails leaves the file encrypted.
+    /// The reverse, the versions first: what is broken off leaves the file encrypted.
     QStringList decrypt();
     /// The next file that is stored under another name is encrypted with this passphrase, or
     /// as the open file of `other` is.
     void encryptNext(const Passphrase &passphrase);
-    void encryptNextAs(const BudgetFile &other); ///< see encryptNext()
+    void encryptNextAs(const BudgetFile &other); ///< the same, with its keys; before the first file
 
     /// The file that was chosen; empty before. A load or store that fails chooses the
     /// one that was loaded or saved last again, if there is one.

@@ -23,9 +23,6 @@ namespace {
 
 using Telling = KeptVersion::Telling;
 
-/// The backups that the first edition kept.
-constexpr unsigned backupsMax = 5;
-
 /// What a file that has no label tells: its id, when it is one of the first edition.
 void readWithoutLabel(KeptVersion &version, const KeyRing *keys)
 {
@@ -110,7 +107,7 @@ std::vector<KeptVersion> keptVersions(const QString &filePathName, const KeyRing
         versions.push_back(std::move(version));
     }
     std::vector<KeptVersion> backups;
-    for (unsigned number = 1; number <= backupsMax; ++number) {
+    for (unsigned number = 1; number <= internal::backupsMax; ++number) {
         const QByteArray name = internal::backupName(target, number);
         if (std::optional<KeptVersion> backup = fileAt(target.folder() + '/' + name, keys)) {
             backup->name = QStringLiteral("backup-%1").arg(number);

@@ -87,7 +87,7 @@ A version that another passphrase encrypted is told apart, and comes back with i
   kiv: This is not the passphrase of the file '*/encryption.t/household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget'. (glob)
   [1]
   $ kiv encrypt --new-passphrase-file others | head -1
-  kiv: warning: These former versions are damaged or have another passphrase, and stay as they are: */encryption.t/household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget. (glob)
+  kiv: warning: These former versions stay as they are, since they are damaged, have another passphrase, or cannot be written: */encryption.t/household.budget.versions/2026-01-01T12-00-00.000Z-9000.budget. (glob)
   The budget 'household.budget' and its former versions have the new passphrase.
   $ rm $stranger
 
@@ -132,7 +132,7 @@ At a terminal it is asked unseen, once a shell, and what is typed there is not k
   $ kiv bill remove Secret --passphrase-file words
   Removed the bill 'Secret'.
   $ kiv decrypt --passphrase-file words
-  kiv: warning: These former versions are damaged or have another passphrase, and stay as they are: */encryption.t/household.budget.versions/*Z-8.budget. (glob)
+  kiv: warning: These former versions stay as they are, since they are damaged, have another passphrase, or cannot be written: */encryption.t/household.budget.versions/*Z-8.budget. (glob)
   The budget 'household.budget' and its former versions are not encrypted any more: everybody who has the files can read them.
   $ kiv decrypt
   kiv: The budget 'household.budget' is not encrypted.

@@ -28,6 +28,10 @@ QStringList afterEncrypting(bool wasReadable)
     if (wasReadable)
         sentences += QObject::tr("What was saved before can still be found on the disk, and in "
                                  "copies elsewhere.");
+    else
+        sentences += QObject::tr("Whoever has an old copy and the old passphrase can read what is "
+                                 "saved later, too; taking the encryption away and encrypting "
+                                 "again makes a new key.");
     return sentences;
 }
 
@@ -35,8 +39,8 @@ QString leftVersions(const QStringList &paths)
 {
     if (paths.isEmpty())
         return {};
-    return QObject::tr("These former versions are damaged or have another passphrase, and stay "
-                       "as they are: %1.")
+    return QObject::tr("These former versions stay as they are, since they are damaged, have "
+                       "another passphrase, or cannot be written: %1.")
         .arg(paths.join(QStringLiteral(", ")));
 }
 

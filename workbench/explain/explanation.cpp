@@ -27,7 +27,8 @@ QString ExplainedLine::valueText(navigation::CurrencyDisplayOptions displayAs) c
 QString Explanation::heading(navigation::CurrencyDisplayOptions displayAs) const
 {
     const auto *amount = std::get_if<numira::Money>(&figure);
-    return amount ? QStringLiteral("%1: %2").arg(title, amountText(*amount, displayAs)) : title;
+    return amount ? QStringLiteral("%1: %2").arg(title, amountText(amount->rounded(), displayAs))
+                  : title;
 }
 
 } // namespace kiv::workbench

@@ -18,6 +18,16 @@ Refusal outlookTooLarge()
     return Refusal(QObject::tr("What is to come cannot be told: its amounts become too large."));
 }
 
+Refusal nothingAsked()
+{
+    return Refusal(QObject::tr("An amount of zero changes nothing that is to come."));
+}
+
+Refusal nobodyToPay()
+{
+    return Refusal(QObject::tr("No bank has an open account that could pay or get this amount."));
+}
+
 Refusal notPaidRegularly(const QString &item)
 {
     return Refusal(

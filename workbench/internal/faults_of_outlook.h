@@ -11,6 +11,10 @@ namespace kiv::workbench::internal {
 /// Something is asked about a day that is not looked at.
 [[nodiscard]] Refusal behindOutlook(QDate day, QDate last);
 [[nodiscard]] Refusal outlookTooLarge();
+/// An amount of zero is asked about.
+[[nodiscard]] Refusal nothingAsked();
+/// No watched account holds money.
+[[nodiscard]] Refusal nobodyToPay();
 /// The item recurs never, has no amount, or is neither a debt nor a goal.
 [[nodiscard]] Refusal notPaidRegularly(const QString &item);
 [[nodiscard]] Refusal moreNotPositive();

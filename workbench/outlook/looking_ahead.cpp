@@ -32,10 +32,10 @@ public:
         m_beginning.days = question.days;
     }
 
-    outlook::Beginning made(std::vector<BudgetItemIdentifier> &unpaid)
+    outlook::Beginning made(LookingAhead &ahead)
     {
         gatherBalances();
-        m_data.budget.forEach([&](const BudgetedMoney &item) { add(item, unpaid); });
+        m_data.budget.forEach([&](const BudgetedMoney &item) { add(item, ahead); });
         gatherEntries();
         for (const OutlookQuestion::Once &one : m_question.with)
             addAsked(one);
@@ -76,16 +76,20 @@ private:
         }
     }
 
-    void add(const BudgetedMoney &item, std::vector<BudgetItemIdentifier> &unpaid)
+    void add(const BudgetedMoney &item, LookingAhead &ahead)
     {
         const BudgetItemIdentifier id{budgeting::toBudgetItemTypes(item), item.source()};
         const auto own = accountOf(m_data, id);
         if (m_question.without.contains(id) || !own ||
             item.period() == budgeting::EventFrequency::None)
             return;
+        if (m_data.generalLedger.hasLedger(*own) && m_data.generalLedger.ledger(*own).isClosed()) {
+            ahead.closed.push_back(id);
+            return;
+        }
         const auto payer = payingAccount(m_data, id);
         if (!payer) {
-            unpaid.push_back(id);
+            ahead.unpaid.push_back(id);
             return;
         }
         outlook::Expected expected{
@@ -111,10 +115,11 @@ private:
                  m_data.generalLedger.ledger(number).transactions()) {
                 if (one.occurredOn() <= m_question.first || one.occurredOn() > last())
                     continue;
+                const AccountNumber from = one.crediting().number();
+                const AccountNumber to = one.debiting().number();
                 entries.emplace(one.number().value(),
-                                outlook::Once{one.occurredOn(), one.amountFor(number),
-                                              one.crediting().number(), one.debiting().number(),
-                                              one.number()});
+                                outlook::Once{one.occurredOn(), one.amountFor(from), from, to,
+                                              one.number(), one.amountFor(to)});
             }
         }
         for (auto &[number, once] : entries)
@@ -123,11 +128,17 @@ private:
 
     void addAsked(const OutlookQuestion::Once &one)
     {
-        const auto payer = usualPayer(nullptr, m_data.banks, [this](AccountNumber number) {
+        if (one.amount.isZero())
+            throw internal::nothingAsked();
+        auto payer = usualPayer(nullptr, m_data.banks, [this](AccountNumber number) {
             return m_beginning.watched.contains(number);
         });
+        for (const AccountNumber number : m_beginning.watched) {
+            if (!payer && m_data.generalLedger.ledger(number).type() == AccountTypes::Asset)
+                payer = number;
+        }
         if (!payer)
-            return;
+            throw internal::nobodyToPay();
         // Of no account that is watched.
         outlook::Once once{one.day, one.amount.abs(), *payer, AccountNumber()};
         if (one.amount.isNegative())
@@ -167,16 +178,26 @@ try {
             throw internal::behindOutlook(one.day, last);
     }
     LookingAhead ahead;
-    ahead.outlook = outlook::look(Gathering(data, question).made(ahead.unpaid));
+    ahead.outlook = outlook::look(Gathering(data, question).made(ahead));
     std::set<AccountNumber> money;
     for (const auto &[number, curve] : ahead.outlook.accounts) {
-        if (data.generalLedger.ledger(number).type() != AccountTypes::Liability)
+        if (data.generalLedger.ledger(number).type() == AccountTypes::Liability)
+            continue;
+        const auto currency = curve.start.code();
+        if (convertedIfKnown(curve.start, preferred))
             money.insert(number);
+        else
+            ahead.lacking.emplace(currency, preferred);
     }
     if (!money.empty())
         ahead.together = ahead.outlook.together(money, preferred);
+    std::set<AccountNumber> wages;
+    for (const auto &[source, wage] : data.budget.wages) {
+        if (const auto account = accountOf(data, {BudgetItemTypes::Wage, source}))
+            wages.insert(*account);
+    }
     for (const outlook::Payment &one : ahead.outlook.payments) {
-        if (one.item && one.item->type == BudgetItemTypes::Wage && one.day > question.first) {
+        if (wages.contains(one.from) && one.amount.isPositive() && one.day > question.first) {
             ahead.nextWage = one.day;
             break;
         }

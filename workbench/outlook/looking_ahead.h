@@ -40,8 +40,8 @@ struct KIV_WORKBENCH_EXPORT LookingAhead {
     /// The open accounts of banks that are watched: all but those of goals, whose money is set
     /// aside. What is owed is below zero.
     outlook::Outlook outlook;
-    /// The watched accounts that hold money and owe none, together in the preferred currency.
-    /// Nothing for want of an exchange rate, and without such an account.
+    /// The watched accounts that hold money and owe none, together in the preferred currency;
+    /// those without an exchange rate are left out. Nothing without such an account.
     std::optional<outlook::Curve> together;
     /// The first day on which a wage comes, after the first day of all.
     std::optional<QDate> nextWage;
@@ -49,6 +49,9 @@ struct KIV_WORKBENCH_EXPORT LookingAhead {
     /// before it. Without a wage of all days.
     std::optional<numira::Money> free;
     std::vector<budgeting::BudgetItemIdentifier> unpaid; ///< items for which no account can pay
+    std::vector<budgeting::BudgetItemIdentifier> closed; ///< items whose own account is closed
+    /// The rates without which accounts are not among those together.
+    std::set<std::pair<numira::Currency, numira::Currency>> lacking;
 };
 
 /// Looks ahead from the budget's balances: with its transactions of days to come and every

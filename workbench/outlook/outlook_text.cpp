@@ -36,7 +36,7 @@ QString lowestAheadText(Requests &requests, QDate first)
 try {
     const LookingAhead ahead = lookAhead(requests.present(), {first}, requests.preferredCurrency());
     if (!ahead.together)
-        return {};
+        return noticesOf(ahead).join(u' ');
     const outlook::Curve &all = *ahead.together;
     std::optional<std::size_t> days;
     QString wage =
@@ -88,8 +88,13 @@ QStringList noticesOf(const LookingAhead &ahead)
     for (const budgeting::BudgetItemIdentifier &item : ahead.unpaid)
         notices += QObject::tr("The outlook leaves '%1' out: no open account can pay it.")
                        .arg(item.source.name());
-    if (!ahead.together && !ahead.outlook.accounts.empty())
-        notices += QObject::tr("Not all accounts can be added up: an exchange rate is missing.");
+    for (const budgeting::BudgetItemIdentifier &item : ahead.closed)
+        notices += QObject::tr("The outlook leaves '%1' out: its account is closed.")
+                       .arg(item.source.name());
+    for (const auto &[from, to] : ahead.lacking)
+        notices += QObject::tr("All together is without the accounts in %1: there is no exchange "
+                               "rate between %1 and %2.")
+                       .arg(foundation::toQString(from), foundation::toQString(to));
     return notices;
 }
 

@@ -31,6 +31,8 @@ namespace {
 
 constexpr int daysAYear = 365;
 constexpr int whole = 10'000; ///< hundredths of a percent
+/// No lender takes more a year than was lent.
+constexpr double rateMax = 1;
 
 std::optional<banking::BankAccountTypes> kindAtBank(const BudgetStorage::Data &data,
                                                     AccountNumber account)
@@ -157,14 +159,17 @@ std::optional<SeenInterest> seenInterest(const BudgetStorage::Data &data,
     const DebtBooks books = booksOf(data, account);
     if (books.charged.empty() || debt.period() == EventFrequency::None)
         return std::nullopt;
-    // The first charge that counts is for one period of the debt.
+    // A charge is for the time since the one before, which itself does not count then. A single
+    // one is taken to be for one period of the debt.
     const QDate until = *books.charged.rbegin();
-    const QDate first = *books.charged.lower_bound(until.addDays(-daysAYear));
-    const auto before = [&debt](QDate day, QDate like) {
-        return day.addDays(
-            -like.daysTo(budgeting::nextOccurrence(debt.period(), like, debt.dayOfMonth())));
-    };
-    const QDate from = std::max(books.days.begin()->first, before(first, before(first, first)));
+    QDate from = *books.charged.lower_bound(until.addDays(-daysAYear));
+    if (from == until) {
+        const auto before = [&debt](QDate day, QDate like) {
+            return day.addDays(
+                -like.daysTo(budgeting::nextOccurrence(debt.period(), like, debt.dayOfMonth())));
+        };
+        from = std::max(books.days.begin()->first, before(until, before(until, until)));
+    }
     double owed = 0;   // at the moment
     double weight = 0; // what was owed on each day, together
     QDate reached = from;
@@ -183,7 +188,9 @@ std::optional<SeenInterest> seenInterest(const BudgetStorage::Data &data,
     if (!seen.sum.isPositive() || weight <= 0)
         return std::nullopt;
     const double rate = seen.sum.amount().toDouble() / weight * daysAYear * whole;
-    seen.hundredths = static_cast<int>(std::lround(std::min(rate, 100.0 * whole)));
+    if (rate > rateMax * whole) // what was bought on it is among the charges
+        return std::nullopt;
+    seen.hundredths = static_cast<int>(std::lround(rate));
     return seen.hundredths > 0 ? std::optional(seen) : std::nullopt;
 }
 

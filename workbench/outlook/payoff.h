@@ -24,9 +24,10 @@ struct SeenInterest {
 
 /// The interest that the books of a debt tell: what surveys and others charged its account with
 /// against accounts for spending, within the year that ends with the last such day, beside what
-/// was owed on each day. The first of these charges is taken to be for one period of the debt.
-/// Nothing if there is none, if the debt is not paid regularly, and for the account of a card,
-/// where interest is not to be told from what was bought.
+/// was owed on each day. The first of these charges only begins the time; a single one is taken
+/// to be for one period of the debt. Nothing if there is none, if the debt is not paid regularly,
+/// if it came to more than all that is owed in a year, and for the account of a card: interest is
+/// not to be told from what was bought there.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<SeenInterest>
 seenInterest(const storage::BudgetStorage::Data &data, const budgeting::Debt &debt);
 

@@ -57,7 +57,10 @@ struct ListAccounts {
         std::vector<GroupedAccount> shown =
             workbench::groupedAccounts(call.document.present(), day);
         std::erase_if(shown, [this](const GroupedAccount &one) {
-            return (type && one.account.type() != *type) || (isOpenOnly && one.account.isClosed());
+            // On another day a closed account may have been in use.
+            const bool isUnused =
+                one.account.isClosed() && (!day || one.account.balance().isZero());
+            return (type && one.account.type() != *type) || (isOpenOnly && isUnused);
         });
         std::map<QString, QJsonObject> byPath;
         for (const GroupedAccount &one : shown) {

@@ -139,14 +139,30 @@ std::vector<KeptVersion> stepsAndVersions(const Document &document,
     return all;
 }
 
+/// The versions of the file. Throws StorageError PassphraseNeeded where it, or without a whole
+/// file the newest of them, is encrypted and its key is missing: their changes have names.
+workbench::KeptVersions versionsOf(Call &call, const QString &file)
+{
+    const storage::KeyRing &keys = call.document.keys();
+    keys.require(file);
+    workbench::KeptVersions versions(file, &keys);
+    const auto isWholeFile = [](const KeptVersion &version) {
+        return version.isFile && version.telling != KeptVersion::Telling::Nothing;
+    };
+    const auto &all = versions.all();
+    const auto former = std::ranges::find_if(all, std::not_fn(&KeptVersion::isFile));
+    if (std::ranges::none_of(all, isWholeFile) && former != all.end())
+        keys.require(former->path);
+    return versions;
+}
+
 // history and history diff open no document, so they also work with damaged files.
 struct History {
     void declare(Arguments &arguments) { arguments.file(); }
     Report run(Call &call) const
     {
         const QString file = Document::withExtension(call.fileNamed());
-        call.document.keys().require(file); // its changes have names
-        const workbench::KeptVersions versions(file, &call.document.keys());
+        const workbench::KeptVersions versions = versionsOf(call, file);
         if (versions.all().empty())
             (void)versions.present(); // which tells that there is none
         const std::vector<KeptVersion> all = file == call.document.file()
@@ -197,8 +213,8 @@ struct Differences {
     }
     Report run(Call &call) const
     {
-        const workbench::KeptVersions versions(Document::withExtension(call.fileNamed()),
-                                               &call.document.keys());
+        const workbench::KeptVersions versions =
+            versionsOf(call, Document::withExtension(call.fileNamed()));
         const KeptVersion &before = from ? versions.named(*from) : versions.undone(1);
         const KeptVersion &after = to ? versions.named(*to) : versions.present();
         const SharedChanges changes =

@@ -223,6 +223,14 @@ UsageError noPassphrase(const QString &file, const QString &option)
                           .arg(file, option));
 }
 
+UsageError typedTooLong(qsizetype bytes)
+{
+    return UsageError(
+        QObject::tr("At a terminal a passphrase has fewer than %1 bytes; a longer one "
+                    "can be given in a file.")
+            .arg(bytes));
+}
+
 UsageError otherPassphrase()
 {
     return UsageError(QObject::tr("This is not the same passphrase."));

@@ -75,6 +75,8 @@ public:
 
 /// Nobody gave the passphrase of the file; `option` names where it can stand.
 [[nodiscard]] UsageError noPassphrase(const QString &file, const QString &option);
+/// Terminals give no more of a line than so many bytes.
+[[nodiscard]] UsageError typedTooLong(qsizetype bytes);
 /// The passphrase that was typed twice is not the same.
 [[nodiscard]] UsageError otherPassphrase();
 /// The sentence on a file that is gone or damaged, with how to bring it back.

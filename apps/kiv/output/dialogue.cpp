@@ -24,6 +24,9 @@ void prompt(const QString &question)
     std::fwrite(shown.constData(), 1, static_cast<std::size_t>(shown.size()), stderr);
 }
 
+/// A terminal cuts a longer line without a word.
+constexpr qsizetype typedMax = 4095;
+
 /// While it lives, the terminal does not show what is typed, and Ctrl-C only ends the line: the
 /// terminal would stay so otherwise.
 class UnseenTyping {
@@ -60,6 +63,8 @@ QByteArray askedUnseen(const QString &question)
     std::fputc('\n', stderr);
     if (sign != '\n')
         throw answersEnded();
+    if (line.size() >= typedMax)
+        throw typedTooLong(typedMax);
     return line;
 }
 

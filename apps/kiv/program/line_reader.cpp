@@ -164,8 +164,21 @@ LineReader::LineReader(Completer completer, QString historyFile, std::function<b
 LineReader::~LineReader()
 {
     completerNow = nullptr;
-    if (m_isInteractive)
-        writeHistory();
+    if (!m_isInteractive)
+        return;
+    settleHistory();
+    writeHistory();
+}
+
+void LineReader::settleHistory()
+{
+    if (m_isSecret() && !m_historyFile.isEmpty()) {
+        writeHistory(); // the lines before it
+        m_historyFile.clear();
+    }
+    if (!m_last.empty())
+        ::add_history(m_last.c_str());
+    m_last.clear();
 }
 
 void LineReader::writeHistory() const
@@ -193,6 +206,7 @@ std::optional<std::string> LineReader::next()
     std::string line;
     if (!m_isInteractive)
         return std::getline(std::cin, line) ? std::optional(line) : std::nullopt;
+    settleHistory();
     const InterruptsGiveUpLine whileTyped;
     const std::unique_ptr<char, decltype(&std::free)> typed(::readline("kiv> "), &std::free);
     if (!typed) {
@@ -200,12 +214,7 @@ std::optional<std::string> LineReader::next()
         return std::nullopt;
     }
     line = typed.get();
-    if (m_isSecret() && !m_historyFile.isEmpty()) {
-        writeHistory(); // the lines until now
-        m_historyFile.clear();
-    }
-    if (!line.empty())
-        ::add_history(line.c_str());
+    m_last = line;
     return line;
 }
 

@@ -34,11 +34,14 @@ public:
     static bool giveUpLine();
 
 private:
+    /// Adds the last line to the history, once it has run: it may have opened a budget.
+    void settleHistory();
     void writeHistory() const;
 
     bool m_isInteractive;
     QString m_historyFile; ///< empty once it is secret
     std::function<bool()> m_isSecret;
+    std::string m_last; ///< not in the history yet
 };
 
 } // namespace kiv::app

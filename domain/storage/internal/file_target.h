@@ -43,6 +43,8 @@ private:
     QByteArray m_name;
 };
 
+/// The backups that the first edition kept.
+inline constexpr unsigned backupsMax = 5;
 /// The name in its folder of a file's backup; number 1 is the newest.
 [[nodiscard]] QByteArray backupName(const FileTarget &target, unsigned number);
 

@@ -184,7 +184,14 @@ void OpenFile::rewrite(const std::optional<Encryption> &encryption)
     const QByteArray file = asWritten(plain, encryption);
     m_attempted = Fingerprint(file);
     // Nobody keeps what is replaced: the same version in the clear would be left of it.
-    AtomicFileWriter(m_target, present->stamp).write(file);
+    try {
+        AtomicFileWriter(m_target, present->stamp).write(file);
+    } catch (const StorageError &) {
+        // Where only its folder could not be synced, the file is in its place all the same.
+        const std::optional<FileContent> now = readFile(m_target, fileSizeMax);
+        if (!now || Fingerprint(now->bytes) != m_attempted)
+            throw;
+    }
     m_known = std::exchange(m_attempted, std::nullopt);
     m_encryption = encryption;
 }

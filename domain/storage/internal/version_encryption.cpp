@@ -5,10 +5,12 @@
 #include "storage/internal/faults.h"
 #include "storage/internal/schema.h"
 #include "storage/internal/seal.h"
+#include "storage/internal/version_folder.h"
 
 #include "storage/kept_versions.h"
 #include "storage/key_ring.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 
 #include <unistd.h>
@@ -16,11 +18,20 @@
 namespace kiv::storage::internal {
 namespace {
 
-/// Removes what a program that ended meanwhile was writing in the file's place, which may be
-/// in the clear. The lock says that nobody writes it now.
-void removeLeftover(const FileTarget &target)
+/// Removes what programs that ended meanwhile were writing, which may be in the clear: in the
+/// file's place, and in the folder of former versions. The lock says that nobody writes now.
+void removeLeftovers(const FileTarget &target)
 {
-    ::unlink((target.folder() + '/' + target.hiddenSibling(".saving")).constData());
+    const QByteArray saving = ".saving";
+    ::unlink((target.folder() + '/' + target.hiddenSibling(saving)).constData());
+    for (unsigned number = 1; number <= backupsMax; ++number)
+        ::unlink((target.folder() + "/." + backupName(target, number) + saving).constData());
+    const QDir versions(QFile::decodeName(target.folder() + '/' + target.sibling(".versions")));
+    constexpr auto kinds = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
+    for (const QString &name : versions.entryList({QStringLiteral(".*")}, kinds)) {
+        if (name.endsWith(u".saving") || name == QLatin1String(passingName))
+            ::unlink(QFile::encodeName(versions.filePath(name)).constData());
+    }
 }
 
 /// What a version is to become; nothing when it is that already. `isLeft` tells whether it
@@ -70,26 +81,40 @@ QByteArray encryptedSafely(QByteArrayView file, const Encryption &encryption)
     return bytes;
 }
 
+bool isEncrypted(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
+           file.read(encryptedMagic.size()) == encryptedMagic;
+}
+
 QStringList encryptAlike(const FileTarget &target, const std::optional<Encryption> &encryption,
                          const KeyRing *keys)
 {
     QStringList left;
-    if (!keys)
-        return left;
-    removeLeftover(target);
-    for (const KeptVersion &version : keptVersions(target.shownPath(), keys)) {
-        if (version.isFile)
-            continue;
-        const FileTarget kept(version.path);
-        removeLeftover(kept);
-        if (hasAlready(version.path, encryption))
-            continue;
-        const std::optional<FileContent> content = readFile(kept, fileSizeMax);
-        if (!content)
+    removeLeftovers(target);
+    std::vector<KeptVersion> versions;
+    try {
+        versions = keptVersions(target.shownPath(), keys);
+    } catch (const StorageError &error) {
+        return {error.filePathName()};
+    }
+    for (const KeptVersion &version : versions) {
+        if (version.isFile || hasAlready(version.path, encryption))
             continue;
         bool isLeft = false;
-        if (const auto bytes = recoded(content->bytes, encryption, *keys, isLeft))
-            AtomicFileWriter(kept, content->stamp).write(*bytes);
+        try {
+            const FileTarget kept(version.path);
+            const std::optional<FileContent> content = readFile(kept, fileSizeMax);
+            if (!content)
+                continue;
+            if (const auto bytes = recoded(content->bytes, encryption, *keys, isLeft))
+                AtomicFileWriter(kept, content->stamp).write(*bytes);
+        } catch (const StorageError &) {
+            isLeft = true; // the others are encrypted all the same
+        } catch (const ContentFault &) {
+            isLeft = true;
+        }
         if (isLeft)
             left.append(version.path);
     }

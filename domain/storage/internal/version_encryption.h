@@ -20,10 +20,13 @@ namespace kiv::storage::internal {
 /// process that is killed leaves it with either. The next call goes on where it was. What
 /// has it already is not written again.
 ///
-/// Answers with the paths of those that are damaged or under a key that is not in `keys`.
-/// They stay as they are. Throws StorageError when one cannot be read or written.
+/// Answers with the paths of those that stay as they are: damaged, under a key that is not in
+/// `keys`, too large, or not to be written; or with that of their folder, if it cannot be used.
 [[nodiscard]] QStringList encryptAlike(const FileTarget &target,
                                        const std::optional<Encryption> &encryption,
                                        const KeyRing *keys);
+
+/// Whether the file begins as an encrypted one.
+[[nodiscard]] bool isEncrypted(const QString &path);
 
 } // namespace kiv::storage::internal

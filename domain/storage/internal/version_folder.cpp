@@ -22,8 +22,6 @@
 namespace kiv::storage::internal {
 namespace {
 
-/// How a version is called while it takes the place of a kept one.
-constexpr const char *passingName = ".keeping";
 constexpr QByteArrayView extension = ".budget";
 /// The part of a file system that the former versions may fill.
 constexpr qint64 partOfFileSystem = 50;
@@ -66,9 +64,7 @@ bool isWithoutLinks(int error) noexcept
 } // namespace
 
 VersionFolder::VersionFolder(const FileTarget &target, const KeyRing *keys)
-    : m_target(target),
-      m_keys(keys),
-      m_path(target.folder() + '/' + target.sibling(".versions"))
+    : m_target(target), m_keys(keys), m_path(target.folder() + '/' + target.sibling(".versions"))
 {
     openFolder();
 }

@@ -14,6 +14,9 @@ class KeyRing;
 
 namespace kiv::storage::internal {
 
+/// How a version is called while it takes the place of a kept one.
+inline constexpr const char *passingName = ".keeping";
+
 /// A file in the folder of former versions, known from its name and its label.
 struct FormerVersion {
     QByteArray name;
