@@ -6610,10 +6610,6 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
         <translation>Die Vorschau lässt „%1“ weg: Kein offenes Konto kann ihn bezahlen.</translation>
     </message>
     <message>
-        <source>Not all accounts can be added up: an exchange rate is missing.</source>
-        <translation>Nicht alle Konten lassen sich zusammenzählen: Ein Wechselkurs fehlt.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
         <translation>„%1“ hat nicht die Form „BETRAG on TAG“, etwa „900 on 2026-12-05“.</translation>
     </message>
@@ -7319,10 +7315,6 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
         <translation>Saldo danach</translation>
     </message>
     <message>
-        <source>Not all former versions could be encrypted: %1</source>
-        <translation>Nicht alle früheren Versionen konnten verschlüsselt werden: %1</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; is encrypted: it needs its passphrase.</source>
         <translation>Die Datei „%1“ ist verschlüsselt: Sie braucht ihre Passphrase.</translation>
     </message>
@@ -7357,10 +7349,6 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     <message>
         <source>What was saved before can still be found on the disk, and in copies elsewhere.</source>
         <translation>Was vorher gespeichert wurde, ist auf der Festplatte und in Kopien anderswo noch zu finden.</translation>
-    </message>
-    <message>
-        <source>These former versions are damaged or have another passphrase, and stay as they are: %1.</source>
-        <translation>Diese früheren Versionen sind beschädigt oder haben eine andere Passphrase und bleiben, wie sie sind: %1.</translation>
     </message>
     <message>
         <source>The budget is encrypted, but what is written here is not: everybody who has it can read it.</source>
@@ -7833,7 +7821,7 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     </message>
     <message>
         <source>Count only the transactions that &apos;kiv find WORDS&apos; finds</source>
-        <translation>Nur die Buchungen zählen, die 'kiv find WÖRTER' findet</translation>
+        <translation>Nur die Buchungen zählen, die &apos;kiv find WÖRTER&apos; findet</translation>
     </message>
     <message>
         <source>Add up by category, payee, tag or account (with WORDS, --csv and --html by category)</source>
@@ -7854,6 +7842,38 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     <message>
         <source>Show income, expenses and net worth, or where the money went</source>
         <translation>Einnahmen, Ausgaben und Reinvermögen zeigen, oder wohin das Geld ging</translation>
+    </message>
+    <message>
+        <source>The former version &apos;%1&apos; could not be encrypted.</source>
+        <translation>Die frühere Version „%1“ konnte nicht verschlüsselt werden.</translation>
+    </message>
+    <message>
+        <source>Whoever has an old copy and the old passphrase can read what is saved later, too; taking the encryption away and encrypting again makes a new key.</source>
+        <translation>Wer eine alte Kopie und die alte Passphrase hat, kann auch lesen, was später gespeichert wird; die Verschlüsselung aufheben und neu verschlüsseln macht einen neuen Schlüssel.</translation>
+    </message>
+    <message>
+        <source>These former versions stay as they are, since they are damaged, have another passphrase, or cannot be written: %1.</source>
+        <translation>Diese früheren Versionen bleiben, wie sie sind, weil sie beschädigt sind, eine andere Passphrase haben oder nicht geschrieben werden können: %1.</translation>
+    </message>
+    <message>
+        <source>An amount of zero changes nothing that is to come.</source>
+        <translation>Ein Betrag von null ändert nichts an dem, was kommt.</translation>
+    </message>
+    <message>
+        <source>No bank has an open account that could pay or get this amount.</source>
+        <translation>Keine Bank hat ein offenes Konto, das diesen Betrag zahlen oder bekommen könnte.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: its account is closed.</source>
+        <translation>Die Vorschau lässt „%1“ aus: Das Konto dazu ist geschlossen.</translation>
+    </message>
+    <message>
+        <source>All together is without the accounts in %1: there is no exchange rate between %1 and %2.</source>
+        <translation>„Alle zusammen“ ist ohne die Konten in %1: Zwischen %1 und %2 ist kein Wechselkurs bekannt.</translation>
+    </message>
+    <message>
+        <source>At a terminal a passphrase has fewer than %1 bytes; a longer one can be given in a file.</source>
+        <translation>An einem Terminal hat eine Passphrase weniger als %1 Bytes; eine längere kann in einer Datei stehen.</translation>
     </message>
 </context>
 <context>

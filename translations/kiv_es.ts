@@ -6610,10 +6610,6 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
         <translation>La previsión omite «%1»: ninguna cuenta abierta puede pagarlo.</translation>
     </message>
     <message>
-        <source>Not all accounts can be added up: an exchange rate is missing.</source>
-        <translation>No se pueden sumar todas las cuentas: falta un tipo de cambio.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
         <translation>«%1» no tiene la forma «IMPORTE on DÍA», como «900 on 2026-12-05».</translation>
     </message>
@@ -7319,10 +7315,6 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
         <translation>Saldo después</translation>
     </message>
     <message>
-        <source>Not all former versions could be encrypted: %1</source>
-        <translation>No se pudieron cifrar todas las versiones anteriores: %1</translation>
-    </message>
-    <message>
         <source>The file &apos;%1&apos; is encrypted: it needs its passphrase.</source>
         <translation>El archivo «%1» está cifrado: necesita su frase de contraseña.</translation>
     </message>
@@ -7357,10 +7349,6 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     <message>
         <source>What was saved before can still be found on the disk, and in copies elsewhere.</source>
         <translation>Lo que se guardó antes aún puede encontrarse en el disco y en copias de otros lugares.</translation>
-    </message>
-    <message>
-        <source>These former versions are damaged or have another passphrase, and stay as they are: %1.</source>
-        <translation>Estas versiones anteriores están dañadas o tienen otra frase de contraseña, y quedan como están: %1.</translation>
     </message>
     <message>
         <source>The budget is encrypted, but what is written here is not: everybody who has it can read it.</source>
@@ -7833,7 +7821,7 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     </message>
     <message>
         <source>Count only the transactions that &apos;kiv find WORDS&apos; finds</source>
-        <translation>Contar solo las transacciones que encuentra 'kiv find PALABRAS'</translation>
+        <translation>Contar solo las transacciones que encuentra &apos;kiv find PALABRAS&apos;</translation>
     </message>
     <message>
         <source>Add up by category, payee, tag or account (with WORDS, --csv and --html by category)</source>
@@ -7854,6 +7842,38 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     <message>
         <source>Show income, expenses and net worth, or where the money went</source>
         <translation>Mostrar ingresos, gastos y patrimonio neto, o adónde fue el dinero</translation>
+    </message>
+    <message>
+        <source>The former version &apos;%1&apos; could not be encrypted.</source>
+        <translation>No se pudo cifrar la versión anterior «%1».</translation>
+    </message>
+    <message>
+        <source>Whoever has an old copy and the old passphrase can read what is saved later, too; taking the encryption away and encrypting again makes a new key.</source>
+        <translation>Quien tenga una copia antigua y la frase de contraseña antigua puede leer también lo que se guarde después; quitar el cifrado y cifrar de nuevo crea una clave nueva.</translation>
+    </message>
+    <message>
+        <source>These former versions stay as they are, since they are damaged, have another passphrase, or cannot be written: %1.</source>
+        <translation>Estas versiones anteriores quedan como están, porque están dañadas, tienen otra frase de contraseña o no se pueden escribir: %1.</translation>
+    </message>
+    <message>
+        <source>An amount of zero changes nothing that is to come.</source>
+        <translation>Un importe de cero no cambia nada de lo que viene.</translation>
+    </message>
+    <message>
+        <source>No bank has an open account that could pay or get this amount.</source>
+        <translation>Ningún banco tiene una cuenta abierta que pueda pagar o recibir este importe.</translation>
+    </message>
+    <message>
+        <source>The outlook leaves &apos;%1&apos; out: its account is closed.</source>
+        <translation>La previsión omite «%1»: su cuenta está cerrada.</translation>
+    </message>
+    <message>
+        <source>All together is without the accounts in %1: there is no exchange rate between %1 and %2.</source>
+        <translation>El total va sin las cuentas en %1: no hay tipo de cambio entre %1 y %2.</translation>
+    </message>
+    <message>
+        <source>At a terminal a passphrase has fewer than %1 bytes; a longer one can be given in a file.</source>
+        <translation>En un terminal, una frase de contraseña tiene menos de %1 bytes; una más larga puede darse en un archivo.</translation>
     </message>
 </context>
 <context>
