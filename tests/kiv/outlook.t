@@ -107,3 +107,24 @@ Until nothing is left, with the interest that the account shows, for each day of
   > .
   kiv: What is paid more a month must be above zero.
   kiv: 'Trip' has no schedule: it is not due regularly, or its amount is not above zero.
+
+What is closed is not paid, what has no rate is named, and a day that rises has no cause:
+
+  $ begin
+  $ each 0 <<'.' >/dev/null
+  > bank-account add Euros --bank First --balance '10 EUR' --date 2026-01-01
+  > account close Rent
+  > bill add Phone 20 --next 2026-01-25 --date 2026-01-20
+  > .
+  $ kiv outlook --date 2026-01-25 --days 3 --floor 9000
+  Lowest on 2026-01-25: $5,580.00.
+  Below $9,000.00 for the first time on 2026-01-25.
+  Free until the end, without a wage: $5,580.00.
+  Account         Now     Lowest  On          Because of  At the end
+  Checking  $2,500.00  $5,580.00  2026-01-25               $5,580.00
+  Euros        €10.00     €10.00  2026-01-25                  €10.00
+  The outlook leaves 'Rent' out: its account is closed.
+  All together is without the accounts in EUR: there is no exchange rate between EUR and USD.
+  $ kiv outlook --date 2026-01-25 --with '0 on 2026-01-26'
+  kiv: An amount of zero changes nothing that is to come.
+  [1]
