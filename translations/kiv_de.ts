@@ -7875,6 +7875,10 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <source>At a terminal a passphrase has fewer than %1 bytes; a longer one can be given in a file.</source>
         <translation>An einem Terminal hat eine Passphrase weniger als %1 Bytes; eine längere kann in einer Datei stehen.</translation>
     </message>
+    <message>
+        <source>Several budget items are named &apos;%1&apos;; write one of these: %2.</source>
+        <translation>Mehrere Budgetposten heißen „%1“; eines davon schreiben: %2.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -7875,6 +7875,10 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <source>At a terminal a passphrase has fewer than %1 bytes; a longer one can be given in a file.</source>
         <translation>En un terminal, una frase de contraseña tiene menos de %1 bytes; una más larga puede darse en un archivo.</translation>
     </message>
+    <message>
+        <source>Several budget items are named &apos;%1&apos;; write one of these: %2.</source>
+        <translation>Varias partidas se llaman «%1»; hay que escribir una de estas: %2.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

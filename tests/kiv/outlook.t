@@ -128,3 +128,14 @@ What is closed is not paid, what has no rate is named, and a day that rises has 
   $ kiv outlook --date 2026-01-25 --with '0 on 2026-01-26'
   kiv: An amount of zero changes nothing that is to come.
   [1]
+
+A name that several items have is written with its kind, as the refusal says:
+
+  $ kiv wage add Rent 5 --next 2026-02-01 >/dev/null
+  $ kiv outlook --date 2026-01-25 --without Rent
+  kiv: Several budget items are named 'Rent'; write one of these: bill:Rent, wage:Rent.
+  [1]
+  $ kiv outlook --date 2026-02-01 --days 1 --without bill:Rent --json | jq -c '.payments[] | [.name, .kind, .transaction]'
+  ["Phone","bill",null]
+  ["Salary","wage",null]
+  ["Rent","wage",null]

@@ -234,6 +234,12 @@ Refusal ambiguousItem(const QString &name, const QStringList &kinds)
                    kinds.join(QStringLiteral(", ")));
 }
 
+Refusal ambiguousTyped(const QString &name, const QStringList &ways)
+{
+    return Refusal(QObject::tr("Several budget items are named '%1'; write one of these: %2.")
+                       .arg(name, ways.join(QStringLiteral(", "))));
+}
+
 Refusal noSuchTransaction(const QString &number)
 {
     return missed(QObject::tr("There is no transaction %1").arg(number), {},

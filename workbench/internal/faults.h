@@ -93,6 +93,8 @@ namespace kiv::workbench::internal {
 /// There is no item with this name, of any kind.
 [[nodiscard]] Refusal noSuchItem(const QString &name, const QStringList &similar);
 [[nodiscard]] Refusal ambiguousItem(const QString &name, const QStringList &kinds);
+/// The same where a kind is typed before the name; `ways` are what can be typed.
+[[nodiscard]] Refusal ambiguousTyped(const QString &name, const QStringList &ways);
 [[nodiscard]] Refusal noSuchTransaction(const QString &number);
 [[nodiscard]] Refusal notSpentOn(const QString &account);
 [[nodiscard]] Refusal notEarnedFrom(const QString &account);

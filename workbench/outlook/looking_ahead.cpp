@@ -34,9 +34,8 @@ public:
 
     outlook::Beginning made(LookingAhead &ahead)
     {
-        gatherBalances();
+        gatherBooks();
         m_data.budget.forEach([&](const BudgetedMoney &item) { add(item, ahead); });
-        gatherEntries();
         for (const OutlookQuestion::Once &one : m_question.with)
             addAsked(one);
         return std::move(m_beginning);
@@ -45,35 +44,46 @@ public:
 private:
     [[nodiscard]] QDate last() const { return m_question.first.addDays(m_question.days - 1); }
 
-    /// What the account is worth with all that was entered up to the first day.
-    [[nodiscard]] Money before(const LedgerAccount &account) const
+    /// What each account is worth with all that was entered up to the first day, and the
+    /// transactions of the days to come, each once. A full book is long, so this is one pass.
+    void gatherBooks()
     {
-        const AccountNumber number = account.code().number();
-        const bool isOwed = account.type() == AccountTypes::Liability;
-        Money worth = isOwed ? -account.balance() : account.balance();
-        for (const accounting::Transaction &one : account.transactions()) {
-            if (one.occurredOn() <= m_question.first)
-                continue;
-            const Money &amount = one.amountFor(number);
-            worth += one.debiting().number() == number ? -amount : amount;
-        }
-        return worth;
-    }
-
-    void gatherBalances()
-    {
+        std::map<accounting::TransactionNumber, outlook::Once> entries;
         for (const accounting::AccountCode &code : m_data.generalLedger.accountCodes()) {
             const LedgerAccount account = m_data.generalLedger.ledger(code);
-            const AccountNumber number = code.number();
             if (account.type() != AccountTypes::Asset && account.type() != AccountTypes::Liability)
                 continue;
-            m_beginning.balances.emplace(number, before(account));
-            const auto bank = m_data.banks.find(number);
-            if (!account.isClosed() && bank &&
-                m_data.banks.bank(*bank).accounts().at(number) !=
-                    banking::BankAccountTypes::GoalSubAccount)
-                m_beginning.watched.insert(number);
+            const AccountNumber number = code.number();
+            Money worth =
+                account.type() == AccountTypes::Liability ? -account.balance() : account.balance();
+            for (const accounting::Transaction &one : account.transactions()) {
+                if (one.occurredOn() <= m_question.first)
+                    continue;
+                const AccountNumber from = one.crediting().number();
+                const AccountNumber to = one.debiting().number();
+                const Money &amount = one.amountFor(number);
+                worth += to == number ? -amount : amount;
+                if (one.occurredOn() <= last())
+                    entries.emplace(one.number().value(),
+                                    outlook::Once{one.occurredOn(), one.amountFor(from), from, to,
+                                                  one.number(), one.amountFor(to)});
+            }
+            m_beginning.balances.emplace(number, worth);
+            watch(account);
         }
+        for (auto &[number, once] : entries)
+            m_beginning.once.push_back(std::move(once));
+    }
+
+    /// Watches the open accounts of banks, but not those of goals.
+    void watch(const LedgerAccount &account)
+    {
+        const AccountNumber number = account.code().number();
+        const auto bank = m_data.banks.find(number);
+        if (!account.isClosed() && bank &&
+            m_data.banks.bank(*bank).accounts().at(number) !=
+                banking::BankAccountTypes::GoalSubAccount)
+            m_beginning.watched.insert(number);
     }
 
     void add(const BudgetedMoney &item, LookingAhead &ahead)
@@ -104,26 +114,6 @@ private:
                 expected.until = outlook::Ending{*own, Money(holding->second.code())};
         }
         m_beginning.expected.push_back(std::move(expected));
-    }
-
-    /// Transactions of the days to come, each once.
-    void gatherEntries()
-    {
-        std::map<accounting::TransactionNumber, outlook::Once> entries;
-        for (const auto &[number, balance] : m_beginning.balances) {
-            for (const accounting::Transaction &one :
-                 m_data.generalLedger.ledger(number).transactions()) {
-                if (one.occurredOn() <= m_question.first || one.occurredOn() > last())
-                    continue;
-                const AccountNumber from = one.crediting().number();
-                const AccountNumber to = one.debiting().number();
-                entries.emplace(one.number().value(),
-                                outlook::Once{one.occurredOn(), one.amountFor(from), from, to,
-                                              one.number(), one.amountFor(to)});
-            }
-        }
-        for (auto &[number, once] : entries)
-            m_beginning.once.push_back(std::move(once));
     }
 
     void addAsked(const OutlookQuestion::Once &one)
@@ -183,11 +173,10 @@ try {
     for (const auto &[number, curve] : ahead.outlook.accounts) {
         if (data.generalLedger.ledger(number).type() == AccountTypes::Liability)
             continue;
-        const auto currency = curve.start.code();
         if (convertedIfKnown(curve.start, preferred))
             money.insert(number);
         else
-            ahead.lacking.emplace(currency, preferred);
+            ahead.lacking.emplace(curve.start.code(), preferred);
     }
     if (!money.empty())
         ahead.together = ahead.outlook.together(money, preferred);

@@ -93,6 +93,13 @@ const budgeting::BudgetedMoney &BudgetView::find(const QString &name,
 BudgetItemIdentifier BudgetView::findTyped(const QString &text) const
 {
     const auto [kind, name] = withKind(text);
+    QStringList ways;
+    m_budget.forEach([&](const budgeting::BudgetedMoney &item) {
+        if (item.source().name() == name)
+            ways += kindWord(budgeting::toBudgetItemTypes(item)) + u':' + name;
+    });
+    if (!kind && ways.size() > 1)
+        throw internal::ambiguousTyped(name, ways);
     return identify(find(name, kind));
 }
 

@@ -57,6 +57,8 @@ QWidget *AccountsPage::dayRow()
     layout->addWidget(label);
     layout->addWidget(m_day);
     layout->addWidget(m_dayMessage, 1);
+    layout->addStretch();
+    m_day->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(m_day, &QLineEdit::editingFinished, this, &AccountsPage::readDay);
     return row;
 }

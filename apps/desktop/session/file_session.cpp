@@ -286,8 +286,7 @@ void FileSession::offerVersions(const QString &file)
         auto whole = versions.all() | std::views::filter(isWhole);
         if (!whole.empty())
             keys.require(whole.front().path); // its change has a name
-        for (const storage::KeptVersion &version :
-             versions.all() | std::views::filter(isWhole) | std::views::take(versionsOffered)) {
+        for (const storage::KeptVersion &version : whole | std::views::take(versionsOffered)) {
             names += version.name;
             texts +=
                 tr("%1, %2").arg(workbench::momentText(version.mark.savedAt), version.mark.change);

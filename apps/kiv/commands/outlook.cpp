@@ -129,12 +129,16 @@ private:
         }
         QJsonArray payments;
         for (const outlook::Payment &one : ahead.outlook.payments)
-            payments.append(QJsonObject{{QStringLiteral("date"), toJson(one.day)},
-                                        {QStringLiteral("due"), toJson(one.due)},
-                                        {QStringLiteral("name"), workbench::nameOf(one, *index)},
-                                        {QStringLiteral("from"), toJson(one.from)},
-                                        {QStringLiteral("to"), toJson(one.to)},
-                                        {QStringLiteral("amount"), toJson(one.amount)}});
+            payments.append(
+                QJsonObject{{QStringLiteral("date"), toJson(one.day)},
+                            {QStringLiteral("due"), toJson(one.due)},
+                            {QStringLiteral("name"), workbench::nameOf(one, *index)},
+                            {QStringLiteral("kind"),
+                             one.item ? QJsonValue(kindWord(one.item->type)) : QJsonValue()},
+                            {QStringLiteral("transaction"), toJson(one.entry)},
+                            {QStringLiteral("from"), toJson(one.from)},
+                            {QStringLiteral("to"), toJson(one.to)},
+                            {QStringLiteral("amount"), toJson(one.amount)}});
         const QStringList notices = noticesOf(ahead);
         Report report(QJsonObject{
             {QStringLiteral("first"), toJson(ahead.outlook.first)},
