@@ -71,6 +71,11 @@ Transaction TransactionList::const_iterator::operator*() const
     return m_state->transaction(m_number, m_account->code.number());
 }
 
+QDate TransactionList::const_iterator::occurredOn() const
+{
+    return m_state->record(m_number).occurredOn;
+}
+
 TransactionList::const_iterator &TransactionList::const_iterator::operator++()
 {
     m_number = m_account->transactions.next(m_number);

@@ -46,6 +46,8 @@ public:
         const_iterator operator++(int);
         /// The transaction's number, without making the transaction.
         [[nodiscard]] TransactionNumber number() const noexcept { return m_number; }
+        /// The transaction's day, likewise.
+        [[nodiscard]] QDate occurredOn() const;
         /// Whether both stand at the same place of one list.
         friend bool operator==(const const_iterator &a, const const_iterator &b) noexcept
         {

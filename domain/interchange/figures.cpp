@@ -46,6 +46,18 @@ Money plannedPer(const Period &period, const budgeting::BudgetedMoney &item)
         .rounded();
 }
 
+Money sumOf(const std::vector<Money> &amounts)
+{
+    return numira::math::sum(amounts.front().code(), amounts,
+                             [](const Money &money) { return money; });
+}
+
+/// Rounded to the minor unit.
+Money averageOf(const std::vector<Money> &amounts)
+{
+    return sumOf(amounts).scaled(1, std::ssize(amounts)).rounded();
+}
+
 /// What moved on one account, span by span.
 struct Flow {
     explicit Flow(const Account &opened, std::size_t spans)
@@ -104,10 +116,8 @@ void addAccount(const Flow &flow, const QString &path, const QString &plainPath,
     const numira::Currency currency = flow.account.balance().code();
     const auto [found, isNew] = figures.currencies.try_emplace(currency);
     CurrencyFigures &sums = found->second;
-    if (isNew) {
-        const std::vector<Money> zeros(spans, Money(currency));
-        sums = {zeros, zeros, zeros, Money(currency), zeros, false};
-    }
+    if (isNew)
+        sums = CurrencyFigures::zeros(currency, spans);
     Money balance = flow.before;
     for (std::size_t span = 0; span < spans; ++span) {
         balance += flow.change(span);
@@ -165,11 +175,33 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
         own.outgoing[span] += actual;
         own.hasItems = own.hasItems || !actual.isZero();
     }
-    const auto itself = [](const Money &money) { return money; };
-    figure.average = numira::math::sum(figure.actual.front().code(), figure.actual, itself)
-                         .scaled(1, static_cast<std::int64_t>(spans))
-                         .rounded();
+    figure.average = averageOf(figure.actual);
     figures.items.push_back(std::move(figure));
+}
+
+/// Adds the sums of a currency to those of the one into which they are converted.
+void addConverted(const CurrencyFigures &sums, const InCurrency &in, Figures &converted)
+{
+    constexpr std::array rows{&CurrencyFigures::netWorth, &CurrencyFigures::income,
+                              &CurrencyFigures::expenses, &CurrencyFigures::outgoing};
+    // All or none, so that they stay comparable.
+    std::vector<Money> all{sums.planned};
+    for (const auto row : rows)
+        all.insert(all.end(), (sums.*row).begin(), (sums.*row).end());
+    all = in(std::move(all));
+    const numira::Currency currency = all.front().code();
+    const std::size_t spans = sums.netWorth.size();
+    const auto [found, isNew] = converted.currencies.try_emplace(currency);
+    CurrencyFigures &into = found->second;
+    if (isNew)
+        into = CurrencyFigures::zeros(currency, spans);
+    into.hasItems = into.hasItems || sums.hasItems;
+    into.planned += all.front();
+    auto amount = all.begin() + 1;
+    for (const auto row : rows) {
+        for (std::size_t span = 0; span < spans; ++span)
+            (into.*row)[span] += *amount++;
+    }
 }
 
 } // namespace
@@ -217,6 +249,31 @@ Figures figuresOf(const Period &period, const std::set<Account> &accounts,
             addItem(item, flows, figures);
     });
     return figures;
+}
+
+Figures inCurrency(const Figures &figures, const InCurrency &in)
+{
+    Figures converted{figures.period, {}, {}, {}};
+    for (BalanceFigure figure : figures.balances) {
+        const std::vector<Money> amounts = in({figure.balance, figure.change});
+        figure.balance = amounts[0];
+        figure.change = amounts[1];
+        converted.balances.push_back(std::move(figure));
+    }
+    for (ItemFigure figure : figures.items) {
+        figure.planned = in({figure.planned}).front();
+        figure.actual = in(std::move(figure.actual));
+        figure.average = averageOf(figure.actual);
+        converted.items.push_back(std::move(figure));
+    }
+    for (const auto &[currency, sums] : figures.currencies)
+        addConverted(sums, in, converted);
+    return converted;
+}
+
+FlowFigures flowOf(const CurrencyFigures &figures)
+{
+    return {figures.income, figures.expenses, sumOf(figures.income), sumOf(figures.expenses)};
 }
 
 } // namespace kiv::interchange

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "interchange/groups.h"
+#include "interchange/in_currency.h"
 #include "interchange/period.h"
 #include "interchange/transaction_source.h"
 
@@ -42,6 +44,14 @@ struct CurrencyFigures {
     numira::Money planned;               ///< of all items but wages, per span
     std::vector<numira::Money> outgoing; ///< spent on such items, also on those in other currencies
     bool hasItems = false;               ///< whether anything is planned, or went out
+
+    /// Nothing in so many spans.
+    [[nodiscard]] static CurrencyFigures zeros(const numira::Currency &currency, std::size_t spans)
+    {
+        const numira::Money zero(currency);
+        const std::vector<numira::Money> none(spans, zero);
+        return {none, none, none, zero, none, false};
+    }
 };
 
 /// All figures of a report.
@@ -63,5 +73,12 @@ paydaysOf(const std::set<accounting::Account> &accounts, const TransactionSource
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures
 figuresOf(const Period &period, const std::set<accounting::Account> &accounts,
           const TransactionSource &transactions, const budgeting::Budget &budget);
+
+/// The figures with all that has a rate in one currency; the rest stays as it is.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Figures inCurrency(const Figures &figures,
+                                                        const InCurrency &in);
+
+/// What came in and was spent in one currency, with its totals.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT FlowFigures flowOf(const CurrencyFigures &figures);
 
 } // namespace kiv::interchange

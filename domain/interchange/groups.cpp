@@ -27,12 +27,55 @@ using Amounts = std::vector<Money>;
 /// The groups of one kind and currency by their names.
 using Named = QHash<QString, Amounts>;
 
+/// The groups by rank, currency and kind.
+using Keyed = std::map<std::tuple<int, Currency, AccountTypes>, Named>;
+using Flows = std::map<Currency, FlowFigures>;
+
 /// In the order in which a household asks.
 int rankOf(AccountTypes type)
 {
     if (type == AccountTypes::Expense)
         return -2;
     return type == AccountTypes::Income ? -1 : static_cast<int>(type);
+}
+
+Money totalOf(const Amounts &amounts, const Currency &currency)
+{
+    return numira::math::sum(currency, amounts, [](const Money &money) { return money; });
+}
+
+/// Adds span by span.
+void addTo(Amounts &sums, const Amounts &amounts)
+{
+    if (sums.empty())
+        sums = amounts;
+    else
+        std::ranges::transform(sums, amounts, sums.begin(), std::plus<>());
+}
+
+/// The figures in their order, with totals and averages.
+Groups assembled(const Period &period, const Keyed &keyed, const Flows &flows)
+{
+    Groups all{period, {}, flows, {}};
+    for (const auto &[key, named] : keyed) {
+        const auto &[rank, currency, type] = key;
+        std::vector<GroupFigure> figures;
+        for (auto group = named.begin(); group != named.end(); ++group) {
+            const Money total = totalOf(group.value(), currency);
+            figures.push_back({type, group.key(), group.value(), total,
+                               total.scaled(1, std::ssize(group.value())).rounded()});
+        }
+        std::ranges::sort(figures, [](const GroupFigure &a, const GroupFigure &b) {
+            const auto order = numira::compareExactly(b.total, a.total);
+            return order != 0 ? order < 0 : a.name < b.name;
+        });
+        std::ranges::move(figures, std::back_inserter(all.figures));
+    }
+    for (auto &[currency, flow] : all.currencies) {
+        flow.totalIncome = totalOf(flow.income, currency);
+        flow.totalExpenses = totalOf(flow.expenses, currency);
+    }
+    return all;
 }
 
 class Sums {
@@ -56,36 +99,9 @@ public:
                 at, groups);
     }
 
-    [[nodiscard]] Groups groups() const
-    {
-        Groups all{m_period, {}, m_flows};
-        for (const auto &[key, named] : m_groups) {
-            const auto &[rank, currency, type] = key;
-            std::vector<GroupFigure> figures;
-            for (auto group = named.begin(); group != named.end(); ++group) {
-                const Money total = totalOf(group.value(), currency);
-                figures.push_back({type, group.key(), group.value(), total,
-                                   total.scaled(1, std::ssize(group.value())).rounded()});
-            }
-            std::ranges::sort(figures, [](const GroupFigure &a, const GroupFigure &b) {
-                const auto order = numira::compareExactly(b.total, a.total);
-                return order != 0 ? order < 0 : a.name < b.name;
-            });
-            std::ranges::move(figures, std::back_inserter(all.figures));
-        }
-        for (auto &[currency, flow] : all.currencies) {
-            flow.totalIncome = totalOf(flow.income, currency);
-            flow.totalExpenses = totalOf(flow.expenses, currency);
-        }
-        return all;
-    }
+    [[nodiscard]] Groups groups() const { return assembled(m_period, m_groups, m_flows); }
 
 private:
-    [[nodiscard]] static Money totalOf(const Amounts &amounts, const Currency &currency)
-    {
-        return numira::math::sum(currency, amounts, [](const Money &money) { return money; });
-    }
-
     [[nodiscard]] Amounts zeros(const Currency &currency) const
     {
         return {m_period.size(), Money(currency)};
@@ -120,24 +136,35 @@ private:
     const Period &m_period;
     Grouped m_grouped;
     std::map<AccountNumber, const Account *> m_accounts;
-    std::map<std::tuple<int, Currency, AccountTypes>, Named> m_groups;
-    std::map<Currency, FlowFigures> m_flows;
+    Keyed m_groups;
+    Flows m_flows;
 };
 
 } // namespace
 
-QString nameOf(const GroupFigure &figure)
+QString nameOf(const Groups &groups, const GroupFigure &figure)
 {
-    return figure.name.isEmpty() ? QObject::tr("(without)") : figure.name;
+    return figure.name.isEmpty() ? groups.unnamed : figure.name;
+}
+
+bool FlowFigures::isEmpty() const
+{
+    return std::ranges::all_of(income, &Money::isZero) &&
+           std::ranges::all_of(expenses, &Money::isZero);
 }
 
 std::optional<foundation::Percentage> FlowFigures::savingsRate(const Money &income,
                                                                const Money &expenses)
 {
-    if (!income.isPositive())
+    return partOf(income - expenses, income);
+}
+
+std::optional<foundation::Percentage> partOf(const Money &part, const Money &whole)
+{
+    if (!whole.isPositive())
         return std::nullopt;
-    const double saved = (income - expenses).amount().toDouble() / income.amount().toDouble();
-    return foundation::Percentage(std::round(saved * 1000) / 10, 1);
+    const double ratio = part.amount().toDouble() / whole.amount().toDouble();
+    return foundation::Percentage(std::round(ratio * 1000) / 10, 1);
 }
 
 Groups groupsOf(const Period &period, const std::set<Account> &accounts,
@@ -146,6 +173,30 @@ Groups groupsOf(const Period &period, const std::set<Account> &accounts,
     Sums sums(period, accounts, grouped);
     transactions([&](const Transaction &transaction) { sums.add(transaction, groups); });
     return sums.groups();
+}
+
+Groups inCurrency(const Groups &groups, const InCurrency &in)
+{
+    Keyed keyed;
+    for (const GroupFigure &figure : groups.figures) {
+        const Amounts amounts = in(figure.amounts);
+        addTo(keyed[{rankOf(figure.type), amounts.front().code(), figure.type}][figure.name],
+              amounts);
+    }
+    Flows flows;
+    for (const auto &[currency, flow] : groups.currencies) {
+        // Both or none, so that one can be compared with the other.
+        Amounts both = flow.income;
+        both.insert(both.end(), flow.expenses.begin(), flow.expenses.end());
+        both = in(std::move(both));
+        const auto middle = both.begin() + std::ssize(flow.income);
+        FlowFigures &sums = flows[both.front().code()];
+        addTo(sums.income, {both.begin(), middle});
+        addTo(sums.expenses, {middle, both.end()});
+    }
+    Groups converted = assembled(groups.period, keyed, flows);
+    converted.unnamed = groups.unnamed;
+    return converted;
 }
 
 QByteArray toCsv(const Groups &groups)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "interchange/in_currency.h"
 #include "interchange/period.h"
 #include "interchange/transaction_source.h"
 
@@ -30,9 +31,6 @@ struct GroupFigure {
     numira::Money average;              ///< of a span, rounded to the minor unit
 };
 
-/// The group's name for people.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QString nameOf(const GroupFigure &figure);
-
 /// Income and expenses of one currency, span by span.
 struct KIV_INTERCHANGE_EXPORT FlowFigures {
     std::vector<numira::Money> income;   ///< of income accounts
@@ -40,11 +38,18 @@ struct KIV_INTERCHANGE_EXPORT FlowFigures {
     numira::Money totalIncome;           ///< of all spans
     numira::Money totalExpenses;         ///< of all spans
 
+    /// Whether nothing moved in any span.
+    [[nodiscard]] bool isEmpty() const;
     /// The part of the income that was not spent, with one decimal; negative when more was
     /// spent. Nothing without income.
     [[nodiscard]] static std::optional<foundation::Percentage>
     savingsRate(const numira::Money &income, const numira::Money &expenses);
 };
+
+/// Which part of the whole an amount in the same currency is, with one decimal. Nothing if the whole
+/// is not positive.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT std::optional<foundation::Percentage>
+partOf(const numira::Money &part, const numira::Money &whole);
 
 /// Where the money went and came from.
 struct Groups {
@@ -53,7 +58,12 @@ struct Groups {
     /// the largest total first.
     std::vector<GroupFigure> figures;
     std::map<numira::Currency, FlowFigures> currencies; ///< those in which something moved
+    QString unnamed; ///< what people call the figures that have no name; the caller sets it
 };
+
+/// The figure's name for people.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QString nameOf(const Groups &groups,
+                                                    const GroupFigure &figure);
 
 /// Adds up what moved, each account in its own currency: refunds count against what they
 /// refund, and what moves between the household's own accounts is neither income nor expense.
@@ -63,6 +73,10 @@ struct Groups {
                                                      const TransactionSource &transactions,
                                                      const GroupsOf &groups,
                                                      Grouped grouped = Grouped::Flows);
+
+/// The groups with all that has a rate in one currency: figures of one kind and name are then one.
+/// What has no rate stays as it is.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT Groups inCurrency(const Groups &groups, const InCurrency &in);
 
 /// The groups as a CSV table with headings (RFC 4180): kind, name and currency, the spans,
 /// total and average. No cell can be taken for a formula by a spreadsheet.

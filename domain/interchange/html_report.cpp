@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/html_report.h"
 
+#include "interchange/figure_charts.h"
 #include "interchange/internal/html_text.h"
 
 #include "foundation/presentation.h"
@@ -107,11 +108,6 @@ bool hasMoved(const std::vector<Money> &spans)
     return !std::ranges::all_of(spans, &Money::isZero);
 }
 
-bool hasFlow(const CurrencyFigures &sums)
-{
-    return hasMoved(sums.income) || hasMoved(sums.expenses);
-}
-
 QString summary(const Figures *figures, const Groups &groups)
 {
     QString html = QStringLiteral("<div class=\"cards\">\n");
@@ -134,13 +130,32 @@ QString summary(const Figures *figures, const Groups &groups)
     return html + QStringLiteral("</div>\n");
 }
 
+QString notesOf(const QStringList &notes)
+{
+    QString html;
+    for (const QString &note : notes)
+        html += QStringLiteral("<p class=\"note\">%1</p>\n").arg(htmlText(note));
+    return html;
+}
+
+/// Without a budget there is only what came in and was spent.
+std::vector<Chart> chartsOf(const Groups &groups)
+{
+    std::vector<Chart> charts;
+    for (const auto &[currency, flow] : groups.currencies) {
+        if (groups.period.size() > 1 && !flow.isEmpty())
+            charts.push_back(flowChart(groups.period, currency, flow));
+    }
+    return charts;
+}
+
 /// The heading of a column of spans.
 QString spanTitle(const Period &period)
 {
     return period.length() == SpanLength::Month ? QObject::tr("Month") : QObject::tr("Span");
 }
 
-QString figureWithTable(const Chart &chart, const QString &first, const QString &id)
+QString figureWithTable(const Chart &chart, const QString &first, const QString &drawing)
 {
     QStringList names;
     for (const ChartSeries &series : chart.series)
@@ -151,7 +166,7 @@ QString figureWithTable(const Chart &chart, const QString &first, const QString 
     QString html =
         QStringLiteral("<figure><figcaption>%1</figcaption>\n<div class=\"drawing\">\n%2"
                        "</div>%3<summary>%4</summary>\n%5")
-            .arg(htmlText(chart.title), toSvg(chart, id), opening,
+            .arg(htmlText(chart.title), drawing, opening,
                  htmlText(QObject::tr("The figures as a table")), tableHead(first, names));
     for (qsizetype month = 0; month < chart.labels.size(); ++month) {
         html += QStringLiteral("<tr>") + headCell(chart.labels[month]);
@@ -251,7 +266,7 @@ QString groupTable(const Groups &groups, std::size_t at, std::size_t end)
         tableHead(QObject::tr("Name"), QStringList{QString()} + titles);
     for (; at < end; ++at) {
         const GroupFigure &figure = groups.figures[at];
-        html += QStringLiteral("<tr>") + headCell(nameOf(figure)) +
+        html += QStringLiteral("<tr>") + headCell(nameOf(groups, figure)) +
                 shareCell(figure.total, largest.total, figure.type == AccountTypes::Income);
         html += numberCell(figure.total);
         if (hasSpans)
@@ -321,50 +336,6 @@ QString budgetTable(const Figures &figures)
 
 } // namespace
 
-std::vector<Chart> chartsOf(const Figures &figures)
-{
-    std::vector<Chart> charts;
-    const QStringList labels = figures.period.labels();
-    const bool isMonthly = figures.period.length() == SpanLength::Month;
-    for (const auto &[currency, sums] : figures.currencies) {
-        const QString code = foundation::presentationText(currency);
-        if (hasMoved(sums.netWorth))
-            charts.push_back(
-                {ChartKind::Line,
-                 QObject::tr("Net worth over time, %1").arg(code),
-                 (isMonthly
-                      ? QObject::tr(
-                            "All assets less all debts at the end of each month; the last is %1.")
-                      : QObject::tr(
-                            "All assets less all debts at the end of each span; the last is %1."))
-                     .arg(foundation::presentationText(sums.netWorth.back())),
-                 labels,
-                 {{QObject::tr("Net worth"), sums.netWorth}}});
-        if (hasFlow(sums))
-            charts.push_back({ChartKind::Bars,
-                              QObject::tr("Income and expenses, %1").arg(code),
-                              isMonthly
-                                  ? QObject::tr("Money that came in and money spent in each month.")
-                                  : QObject::tr("Money that came in and money spent in each span."),
-                              labels,
-                              {{QObject::tr("Income", "what came in"), sums.income},
-                               {QObject::tr("Expenses"), sums.expenses}}});
-        if (sums.hasItems)
-            charts.push_back(
-                {ChartKind::Bars,
-                 QObject::tr("Budget against actual, %1").arg(code),
-                 isMonthly
-                     ? QObject::tr("Planned and actual spending per month on bills, debts, goals "
-                                   "and non-tracked items.")
-                     : QObject::tr("Planned and actual spending per span on bills, debts, goals "
-                                   "and non-tracked items."),
-                 labels,
-                 {{QObject::tr("Planned"), std::vector(sums.outgoing.size(), sums.planned)},
-                  {QObject::tr("Actual"), sums.outgoing}}});
-    }
-    return charts;
-}
-
 QByteArray toHtml(const Figures *figures, const Groups &groups, const PageTexts &texts,
                   const std::optional<Chart> &ahead)
 {
@@ -385,16 +356,17 @@ QByteArray toHtml(const Figures *figures, const Groups &groups, const PageTexts 
                     ? QString()
                     : QStringLiteral("<p>%1</p>")
                           .arg(htmlText(QObject::tr("Only what fits: %1").arg(texts.filter)))) +
-        summary(figures, groups);
+        notesOf(texts.notes) + summary(figures, groups);
     int id = 0;
+    const auto draw = [&](const Chart &chart, const QString &first) {
+        return figureWithTable(chart, first, texts.draw(chart, QStringLiteral("chart%1").arg(++id)));
+    };
     if (ahead)
         html += heading(QObject::tr("What is to come")) +
                 QStringLiteral("<p>%1</p>\n").arg(htmlText(ahead->description)) +
-                figureWithTable(*ahead, QObject::tr("Date"), QStringLiteral("chart%1").arg(++id));
-    if (figures) {
-        for (const Chart &chart : chartsOf(*figures))
-            html += figureWithTable(chart, spanTitle(period), QStringLiteral("chart%1").arg(++id));
-    }
+                draw(*ahead, QObject::tr("Date"));
+    for (const Chart &chart : figures ? chartsOf(*figures) : chartsOf(groups))
+        html += draw(chart, spanTitle(period));
     html += heading(texts.grouping) + groupTables(groups);
     if (figures) {
         if (!figures->items.empty())

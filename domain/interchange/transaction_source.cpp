@@ -5,9 +5,10 @@
 
 namespace kiv::interchange {
 
-TransactionSource transactionsOf(const std::set<accounting::Account> &accounts)
+TransactionSource transactionsOf(const std::set<accounting::Account> &accounts, QDate first,
+                                 QDate last)
 {
-    return [&accounts](const std::function<void(const accounting::Transaction &)> &visit) {
+    return [&accounts, first, last](const std::function<void(const accounting::Transaction &)> &visit) {
         // Two accounts have each transaction; it is made only for the first of them.
         std::vector<bool> isVisited;
         for (const accounting::Account &account : accounts) {
@@ -19,10 +20,27 @@ TransactionSource transactionsOf(const std::set<accounting::Account> &accounts)
                 if (isVisited[number])
                     continue;
                 isVisited[number] = true;
-                visit(*each);
+                // Making a transaction costs more than looking at its day.
+                const QDate day = each.occurredOn();
+                if ((!first.isValid() || day >= first) && (!last.isValid() || day <= last))
+                    visit(*each);
             }
         }
     };
+}
+
+QDate firstDayOf(const std::set<accounting::Account> &accounts)
+{
+    QDate first;
+    for (const accounting::Account &account : accounts) {
+        const accounting::TransactionList &list = account.transactions();
+        for (auto each = list.begin(); each != list.end(); ++each) {
+            const QDate day = each.occurredOn();
+            if (!first.isValid() || day < first)
+                first = day;
+        }
+    }
+    return first;
 }
 
 } // namespace kiv::interchange

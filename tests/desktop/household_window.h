@@ -8,6 +8,7 @@
 #include "wizards/first_time_wizard.h"
 
 #include <QtCore/QTemporaryDir>
+#include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QPushButton>
 
@@ -38,6 +39,12 @@ public:
         if (passphrases.isEmpty())
             return std::nullopt;
         return Typed{passphrases.takeFirst(), isToKeep};
+    }
+    bool printer(QWidget *, QPrinter &printer) override
+    {
+        // As a printer that writes into a file.
+        printer.setOutputFileName(next(QStringLiteral("print")));
+        return !printer.outputFileName().isEmpty();
     }
     void show(QWidget *, const QString &heading, const QString &text) override
     {

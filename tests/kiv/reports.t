@@ -160,3 +160,27 @@ The figures are those of hledger, by account, period and depth.
   $ ownFlows --by category --period quarter $span >ours
   $ peerFlows year.journal -Q --depth 2 Expenses Income -b 2024-04-01 -e 2025-04-01 >theirs; same
   17
+
+So they are of the example of ledger's own manual, as its authors wrote it:
+
+  $ export KIV_FILE=manual.budget
+  $ kiv new >/dev/null
+  $ kiv import "$TESTDIR/data/ledger_manual.journal" 2>/dev/null | tail -1
+  $ sed 's/apply tag/; &/; s/end tag/; &/' "$TESTDIR/data/ledger_manual.journal" >manual.journal
+  $ flows() { peerFlows manual.journal "$@" Expenses Income | sed 's/ \$ / USD /'; }
+  $ ownFlows --by category --period month --from 2010-12-01 --to 2011-12-31 >ours
+  $ flows -M --depth 2 -b 2010-12-01 -e 2012-01-01 >theirs; same
+  $ ownFlows --by account --period quarter --from 2010-10-01 --to 2011-12-31 | grep -e ^Exp -e ^Inc >ours
+  $ flows -Q -b 2010-10-01 -e 2012-01-01 >theirs; same
+
+Currencies stay apart unless one is asked for, and then the rates are told with their days. What has
+no rate stays apart.
+
+  $ export KIV_FILE=year.budget
+  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30
+  $ kiv rates set USD EUR=0.5 >/dev/null
+  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30
+  $ kiv report --in EUR --from 2024-08-01 --to 2024-09-30 | head -4
+  $ kiv report --by tag --in USD --from 2024-08-01 --to 2024-09-30 --json |
+  >     jq -c '.in, .rates, [.groups[].total.currency]'
+  $ kiv report --in XYZ

@@ -160,22 +160,9 @@ Explanation Explainer::share(const budgeting::BudgetItemIdentifier &id) const
 
 void Explainer::addRates(Explanation &explanation, const Currency &from, const Currency &to) const
 {
-    const conversion::ConversionMap rates = presentRates(m_document.requests());
-    for (const Currency &currency : {from, to}) {
-        const auto rate = rates.rates().find(currency);
-        if (currency == rates.base() || rate == rates.rates().end())
-            continue;
-        const conversion::RateOrigin &origin = rates.origins().at(currency);
-        const QString text = origin.source == conversion::RateSource::Typed
-                                 ? QObject::tr("1 %1 is %2 %3, typed by hand")
-                                 : QObject::tr("1 %1 is %2 %3, fetched from the service");
-        explanation.lines.push_back({LineRole::Tells,
-                                     text.arg(presentationText(rates.base()),
-                                              rateText(rate->second), presentationText(currency)),
-                                     {},
-                                     {},
-                                     origin.day});
-    }
+    for (const UsedRate &rate : usedRates(presentRates(m_document.requests()), {from}, to))
+        explanation.lines.push_back(
+            {LineRole::Tells, presentationText(rate), {}, {}, rate.origin.day});
 }
 
 Explanation Explainer::conversion(const Money &amount, const Currency &currency) const

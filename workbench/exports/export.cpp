@@ -77,14 +77,28 @@ void writeExport(Requests &requests, ExportFormat format, const Sink &sink)
                                      : interchange::writeJournal(index.accounts(), transactions));
 }
 
-void exportTo(Requests &requests, ExportFormat format, const QString &file)
+namespace {
+
+void writeWhole(const QString &file, const std::function<void(const Sink &)> &write)
 {
     QSaveFile written(file);
     if (!written.open(QIODevice::WriteOnly))
         throw internal::cannotWrite(file, written.errorString());
-    writeExport(requests, format, [&written](const QByteArray &text) { written.write(text); });
+    write([&written](const QByteArray &text) { written.write(text); });
     if (!written.commit())
         throw internal::cannotWrite(file, written.errorString());
+}
+
+} // namespace
+
+void exportTo(Requests &requests, ExportFormat format, const QString &file)
+{
+    writeWhole(file, [&](const Sink &sink) { writeExport(requests, format, sink); });
+}
+
+void writeFile(const QString &file, const QByteArray &bytes)
+{
+    writeWhole(file, [&bytes](const Sink &sink) { sink(bytes); });
 }
 
 } // namespace kiv::workbench

@@ -35,4 +35,7 @@ KIV_WORKBENCH_EXPORT void writeExport(Requests &requests, ExportFormat format, c
 /// of it can be written; a former file is as before then.
 KIV_WORKBENCH_EXPORT void exportTo(Requests &requests, ExportFormat format, const QString &file);
 
+/// Writes these bytes into a file; throws and keeps a former one likewise.
+KIV_WORKBENCH_EXPORT void writeFile(const QString &file, const QByteArray &bytes);
+
 } // namespace kiv::workbench

@@ -56,9 +56,11 @@ private:
             const AccountNumber number = code.number();
             Money worth =
                 account.type() == AccountTypes::Liability ? -account.balance() : account.balance();
-            for (const accounting::Transaction &one : account.transactions()) {
-                if (one.occurredOn() <= m_question.first)
+            const accounting::TransactionList &list = account.transactions();
+            for (auto each = list.begin(); each != list.end(); ++each) {
+                if (each.occurredOn() <= m_question.first)
                     continue;
+                const accounting::Transaction one = *each;
                 const AccountNumber from = one.crediting().number();
                 const AccountNumber to = one.debiting().number();
                 const Money &amount = one.amountFor(number);

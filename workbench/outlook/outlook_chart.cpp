@@ -4,6 +4,7 @@
 #include "workbench/entry/money_text.h"
 #include "workbench/outlook/outlook_text.h"
 
+#include "foundation/clock.h"
 #include "foundation/presentation.h"
 
 namespace kiv::workbench {
@@ -29,6 +30,21 @@ interchange::Chart outlookChart(const LookingAhead &ahead, const outlook::Curve 
                   QObject::tr("%1: %2").arg(chart.labels[static_cast<qsizetype>(lowest)],
                                             amountText(curve.ends[lowest], displayAs))};
     return chart;
+}
+
+std::optional<interchange::Chart> outlookUntil(Document &document, QDate last)
+{
+    OutlookQuestion question;
+    question.first = foundation::today();
+    if (last < question.first)
+        return std::nullopt;
+    Requests &requests = document.requests();
+    const LookingAhead ahead =
+        lookAhead(document.present(), question, requests.preferredCurrency());
+    if (!ahead.together)
+        return std::nullopt;
+    return outlookChart(ahead, *ahead.together, QObject::tr("All together"), {},
+                        requests.accounts(), document.displayAs());
 }
 
 interchange::Chart outlookBars(const interchange::Chart &chart, qsizetype barsMax)

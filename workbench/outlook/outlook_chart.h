@@ -2,6 +2,7 @@
 #pragma once
 
 #include "workbench/entry/account_index.h"
+#include "workbench/document/document.h"
 #include "workbench/outlook/looking_ahead.h"
 
 #include "interchange/chart.h"
@@ -15,6 +16,11 @@ namespace kiv::workbench {
 outlookChart(const LookingAhead &ahead, const outlook::Curve &curve, const QString &title,
              const std::optional<numira::Money> &floor, const AccountIndex &index,
              navigation::CurrencyDisplayOptions displayAs);
+
+/// All accounts together from today to this day, in the preferred currency; nothing if the day is
+/// past, or without an account.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<interchange::Chart>
+outlookUntil(Document &document, QDate last);
 
 /// The same as bars, at most `barsMax`: each is the least of as many days, and named by the first
 /// of them.

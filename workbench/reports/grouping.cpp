@@ -36,12 +36,11 @@ GroupsOf byPaths(const AccountIndex &index, bool isCategory)
     return byAccounts(std::move(names));
 }
 
-GroupsOf byTags(Requests &requests, const AccountIndex &index)
+GroupsOf byTags(Requests &requests, const BudgetView &view, const AccountIndex &index)
 {
     std::map<AccountNumber, QStringList> names;
     for (const Account &account : index.accounts())
         names[account.code().number()] = {QString()};
-    const BudgetView view(requests);
     view.budget().forEach([&](const budgeting::BudgetedMoney &item) {
         const budgeting::BudgetItemIdentifier id = identify(item);
         QStringList tags;
@@ -65,20 +64,6 @@ GroupsOf byPayees()
             names = {Description::of(transaction.description()).payee};
         return names;
     };
-}
-
-GroupsOf groupsOf(Grouping grouping, Requests &requests, const AccountIndex &index)
-{
-    switch (grouping) {
-    case Grouping::Payee:
-        return byPayees();
-    case Grouping::Tag:
-        return byTags(requests, index);
-    case Grouping::Category:
-    case Grouping::Account:
-        break;
-    }
-    return byPaths(index, grouping == Grouping::Category);
 }
 
 } // namespace
@@ -139,41 +124,64 @@ void readValue(const QString &text, SpanChoice &value)
     value.length = static_cast<SpanLength>(at);
 }
 
-interchange::Period reportPeriod(SpanLength length, std::optional<QDate> from, QDate to,
-                                 const std::vector<QDate> &paydays)
+namespace {
+
+/// Where twelve spans up to the day begin.
+QDate usualBegin(SpanLength length, QDate to, const std::vector<QDate> &paydays)
 {
-    if (from)
-        return {*from, to, length, paydays};
     switch (length) {
     case SpanLength::Week:
-        return {to.addDays(-7 * 11), to, length};
+        return to.addDays(-7 * 11);
     case SpanLength::TwoWeeks:
-        return {to.addDays(-14 * 11), to, length};
+        return to.addDays(-14 * 11);
     case SpanLength::Payday: {
         const auto end = std::ranges::upper_bound(paydays, to);
         const auto count = std::min<std::ptrdiff_t>(end - paydays.begin(), 12);
-        return {count > 0 ? *(end - count) : to, to, length, paydays};
+        return count > 0 ? *(end - count) : to;
     }
     case SpanLength::Quarter:
-        return {to.addMonths(-3 * 11), to, length};
+        return to.addMonths(-3 * 11);
     case SpanLength::Year:
-        return {to.addYears(-11), to, length};
+        return to.addYears(-11);
     case SpanLength::Month:
     case SpanLength::Whole:
         break;
     }
     const QDate month = to.addMonths(-11);
-    return {QDate(month.year(), month.month(), 1), to, length};
+    return {month.year(), month.month(), 1};
 }
 
-interchange::Groups groupsBy(Grouping grouping, const interchange::Period &period,
-                             Requests &requests, const AccountIndex &index,
-                             const interchange::TransactionSource &transactions)
+} // namespace
+
+interchange::Period reportPeriod(SpanLength length, std::optional<QDate> from, QDate to,
+                                 const std::vector<QDate> &paydays, QDate earliest)
 {
-    return interchange::groupsOf(period, index.accounts(), transactions,
-                                 groupsOf(grouping, requests, index),
-                                 grouping == Grouping::Account ? interchange::Grouped::Accounts
-                                                               : interchange::Grouped::Flows);
+    if (!from) {
+        from = usualBegin(length, to, paydays);
+        if (earliest.isValid() && earliest <= to)
+            from = std::max(*from, earliest);
+    }
+    return {*from, to, length, paydays};
+}
+
+GroupsOf groupNames(Grouping grouping, Requests &requests, const BudgetView &view,
+                    const AccountIndex &index)
+{
+    switch (grouping) {
+    case Grouping::Payee:
+        return byPayees();
+    case Grouping::Tag:
+        return byTags(requests, view, index);
+    case Grouping::Category:
+    case Grouping::Account:
+        break;
+    }
+    return byPaths(index, grouping == Grouping::Category);
+}
+
+QString unnamedText(Grouping grouping)
+{
+    return grouping == Grouping::Tag ? QObject::tr("(no tag)") : QObject::tr("(no payee)");
 }
 
 } // namespace kiv::workbench

@@ -30,14 +30,17 @@ struct SpanChoice {
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, SpanChoice &value);
 
 /// Up to twelve spans that end on the day `to`, from `from` if that is given. A single span
-/// begins on the first of the month, eleven months before.
+/// begins on the first of the month, eleven months before. Without `from` there is none before
+/// that of `earliest`, the day of the first transaction: averages would be too low.
 [[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Period
 reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to,
-             const std::vector<QDate> &paydays);
+             const std::vector<QDate> &paydays, QDate earliest);
 
-/// The transactions added up by `grouping`.
-[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Groups
-groupsBy(Grouping grouping, const interchange::Period &period, Requests &requests,
-         const AccountIndex &index, const interchange::TransactionSource &transactions);
+/// The names under which a side of a transaction counts.
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf
+groupNames(Grouping grouping, Requests &requests, const BudgetView &view,
+           const AccountIndex &index);
+/// "(no payee)": what has no name.
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString unnamedText(Grouping grouping);
 
 } // namespace kiv::workbench

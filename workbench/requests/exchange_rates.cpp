@@ -34,6 +34,32 @@ ListedRates listedRates(Requests &requests)
     return listed;
 }
 
+std::vector<UsedRate> usedRates(const ConversionMap &rates, std::set<numira::Currency> from,
+                                const numira::Currency &to)
+{
+    // What is in the currency already needs none.
+    from.erase(to);
+    if (from.empty())
+        return {};
+    from.insert(to);
+    std::vector<UsedRate> used;
+    for (const numira::Currency &currency : from) {
+        const auto rate = rates.rates().find(currency);
+        if (currency != rates.base() && rate != rates.rates().end())
+            used.push_back({rates.base(), currency, rate->second, rates.origins().at(currency)});
+    }
+    return used;
+}
+
+QString presentationText(const UsedRate &rate)
+{
+    const QString text = rate.origin.source == conversion::RateSource::Typed
+                             ? QObject::tr("1 %1 is %2 %3, typed by hand")
+                             : QObject::tr("1 %1 is %2 %3, fetched from the service");
+    return text.arg(foundation::presentationText(rate.base), rateText(rate.rate),
+                    foundation::presentationText(rate.currency));
+}
+
 std::optional<numira::Money> convertedIfKnown(const numira::Money &money,
                                               const numira::Currency &currency)
 {

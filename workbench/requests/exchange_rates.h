@@ -26,6 +26,20 @@ struct ListedRates {
 /// Lists them.
 [[nodiscard]] KIV_WORKBENCH_EXPORT ListedRates listedRates(Requests &requests);
 
+/// A rate of the table that a conversion uses.
+struct UsedRate {
+    numira::Currency base;            ///< for one unit of it
+    numira::Currency currency;        ///< so much of this
+    numira::FloatingPoint rate;       ///< the rate
+    conversion::RateOrigin origin;    ///< who gave it, and its day
+};
+/// The rates by which amounts in these currencies come into the other one.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<UsedRate>
+usedRates(const conversion::ConversionMap &rates, std::set<numira::Currency> from,
+          const numira::Currency &to);
+/// "1 USD is 0.92 EUR, fetched from the service"
+[[nodiscard]] KIV_WORKBENCH_EXPORT QString presentationText(const UsedRate &rate);
+
 /// The amount in this currency, not rounded; nothing if there is no exchange rate, or if it
 /// cannot be kept.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<numira::Money>

@@ -74,6 +74,18 @@ QMap<QString, QString> texts()
              "day, or received if it has a minus. Enter asks, Esc starts again. The budget stays "
              "as "
              "it is.")},
+        {QStringLiteral("reports"),
+         QObject::tr(
+             "Where the money went and came from. “What” is added up by category, payee, tag or "
+             "account; the overview has what is owned and the plan of each item. Spans last from "
+             "a week to a year, or from payday to payday; without days there are twelve up to "
+             "today. “Only” takes a search, as on the page “Register”.\n\n"
+             "Each row of the first table has its own chart. The arrow keys go through the bars, "
+             "and the second table has the same numbers. Enter on a bar or a number goes to the "
+             "entries behind it, and Enter on an entry to the register.\n\n"
+             "Each currency stands by itself unless one is chosen to convert into, at the present "
+             "exchange rates. What moves between the household’s own accounts is neither income "
+             "nor expense. “Save as” makes a document, a page or a table; Ctrl+P prints.")},
         {QStringLiteral("banks"),
          QObject::tr("The banks and their accounts. The kind of an account says whether its "
                      "balance is money or a debt, and what can be tied to it.")},

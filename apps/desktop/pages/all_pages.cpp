@@ -11,6 +11,7 @@
 #include "pages/outlook_page.h"
 #include "pages/rates_page.h"
 #include "pages/register_page.h"
+#include "pages/reports_page.h"
 #include "pages/rules_page.h"
 #include "pages/settings_page.h"
 #include "pages/survey_page.h"
@@ -23,9 +24,9 @@ std::vector<Page *> makePages(Desk &desk)
     return {
         new HomePage(desk),       new AccountsPage(desk), new RegisterPage(desk),
         new DuePage(desk),        new ItemsPage(desk),    new OutlookPage(desk),
-        new BanksPage(desk),      new SurveyPage(desk),   new RatesPage(desk),
-        new HistoryPage(desk),    new ImportWizard(desk), new RulesPage(desk),
-        new EncryptionPage(desk), new SettingsPage(desk),
+        new ReportsPage(desk),    new BanksPage(desk),    new SurveyPage(desk),
+        new RatesPage(desk),      new HistoryPage(desk),  new ImportWizard(desk),
+        new RulesPage(desk),      new EncryptionPage(desk), new SettingsPage(desk),
     };
 }
 

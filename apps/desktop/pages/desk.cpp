@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/desk.h"
 
+#include "workbench/document/encryption_text.h"
 #include "workbench/requests/entry_notices.h"
 
 #include "foundation/clock.h"
@@ -86,6 +87,29 @@ void Desk::wait(const QString &line, const std::function<void()> &work)
         emit refreshWanted();
         work();
     });
+}
+
+bool Desk::tryWork(const QString &id, const std::function<void()> &work)
+{
+    notices().remove(id);
+    try {
+        work();
+        return true;
+    } catch (const foundation::Error &error) {
+        const QString sentence = workbench::userText(error);
+        notices().add({id, sentence, {}});
+        say(sentence);
+        return false;
+    }
+}
+
+bool Desk::writeOut(const QString &id, const QString &file, const std::function<void()> &work)
+{
+    if (!tryWork(id, work))
+        return false;
+    const QString sentence = tr("Exported to “%1”.").arg(file);
+    say(document().isEncrypted() ? sentence + u' ' + workbench::outputIsReadable() : sentence);
+    return true;
 }
 
 std::optional<QString> Desk::keptPassphrase(const QString &file)

@@ -61,6 +61,12 @@ public:
     /// Runs requests that wait for the network in an event loop. Meanwhile pages say why
     /// nothing can be changed.
     void wait(const QString &line, const std::function<void()> &work);
+    /// Writes a file for others to see, and says so. A failure becomes a notice with this id.
+    /// Returns whether it was written.
+    bool writeOut(const QString &id, const QString &file, const std::function<void()> &work);
+    /// Runs work that changes nothing; a failure becomes a notice with this id. Returns whether it
+    /// succeeded.
+    bool tryWork(const QString &id, const std::function<void()> &work);
     /// The passphrase of a file that the store was asked to keep; nothing for others.
     [[nodiscard]] std::optional<QString> keptPassphrase(const QString &file);
     /// Has the store keep it; where it cannot, a notice says why.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/file_outputs.h"
 
-#include "workbench/document/encryption_text.h"
 #include "workbench/document/verification.h"
 #include "workbench/exports/export.h"
 
@@ -41,17 +40,13 @@ void FileOutputs::exportBudget()
     const QString file = m_desk.questions().fileToExport(m_window, workbench::wordOf(format));
     if (file.isEmpty())
         return;
-    const bool isDone = attempt(QStringLiteral("export"),
-                                [&] { workbench::exportTo(m_desk.requests(), format, file); });
-    if (isDone)
-        m_desk.say(m_desk.document().isEncrypted()
-                       ? tr("Exported to “%1”. %2").arg(file, workbench::outputIsReadable())
-                       : tr("Exported to “%1”.").arg(file));
+    m_desk.writeOut(QStringLiteral("export"), file,
+                    [&] { workbench::exportTo(m_desk.requests(), format, file); });
 }
 
 void FileOutputs::checkFile()
 {
-    (void)attempt(QStringLiteral("check"), [this] {
+    m_desk.tryWork(QStringLiteral("check"), [this] {
         m_desk.document().writeNow(); // the file itself is looked at
         const workbench::Verification found =
             workbench::verify(m_desk.document().file(), &m_desk.document().keys());
@@ -69,20 +64,6 @@ void FileOutputs::checkFile()
         }
         m_desk.questions().show(m_window, tr("Check of the file"), lines.join(u'\n'));
     });
-}
-
-bool FileOutputs::attempt(const QString &id, const std::function<void()> &work)
-{
-    m_desk.notices().remove(id);
-    try {
-        work();
-        return true;
-    } catch (const foundation::Error &error) {
-        const QString sentence = workbench::userText(error);
-        m_desk.notices().add({id, sentence, {}});
-        m_desk.say(sentence);
-        return false;
-    }
 }
 
 } // namespace kiv::desktop

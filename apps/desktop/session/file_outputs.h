@@ -16,8 +16,6 @@ public:
 private:
     void exportBudget();
     void checkFile();
-    /// Runs `work`; a failure becomes a notice of this id. Returns whether it succeeded.
-    bool attempt(const QString &id, const std::function<void()> &work);
 
     Desk &m_desk;
     QWidget *m_window;

@@ -152,8 +152,16 @@ void ChartView::keyPressEvent(QKeyEvent *event)
         lookAt(m_point ? *m_point + 1 : 0);
     else if (event->key() == back)
         lookAt(m_point ? std::max<std::size_t>(*m_point, 1) - 1 : last);
+    else if (m_point && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        emit opened();
     else
         QWidget::keyPressEvent(event);
+}
+
+void ChartView::mouseDoubleClickEvent(QMouseEvent *)
+{
+    if (m_point)
+        emit opened();
 }
 
 void ChartView::mousePressEvent(QMouseEvent *event)

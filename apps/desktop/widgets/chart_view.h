@@ -30,11 +30,14 @@ public:
 signals:
     /// The values of another label are looked at: "3 March: $12.00".
     void told(const QString &values);
+    /// Enter was pressed on a label, or it was double-clicked.
+    void opened();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:

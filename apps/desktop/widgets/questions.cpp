@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/questions.h"
 
+#include <QtPrintSupport/QPrintDialog>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
@@ -94,6 +95,12 @@ std::optional<Questions::Typed> DialogQuestions::passphrase(QWidget *parent,
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return Typed{field->text(), keep->isChecked()};
+}
+
+bool DialogQuestions::printer(QWidget *parent, QPrinter &printer)
+{
+    QPrintDialog dialog(&printer, parent);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 void DialogQuestions::show(QWidget *parent, const QString &heading, const QString &text)

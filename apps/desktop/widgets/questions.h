@@ -7,6 +7,7 @@
 #include <optional>
 
 QT_BEGIN_NAMESPACE
+class QPrinter;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -41,6 +42,8 @@ public:
     /// A passphrase, which nobody sees while it is typed; nothing if the user gave up.
     [[nodiscard]] virtual std::optional<Typed> passphrase(QWidget *parent,
                                                           const QString &question) = 0;
+    /// The printer that the user chose, and how, set in `printer`. Returns whether one was.
+    [[nodiscard]] virtual bool printer(QWidget *parent, QPrinter &printer) = 0;
     /// Shows a longer text, such as the list of keys, until it is closed.
     virtual void show(QWidget *parent, const QString &heading, const QString &text) = 0;
 };
@@ -56,6 +59,7 @@ public:
                                                   const QStringList &answers) override;
     [[nodiscard]] std::optional<Typed> passphrase(QWidget *parent,
                                                   const QString &question) override;
+    [[nodiscard]] bool printer(QWidget *parent, QPrinter &printer) override;
     void show(QWidget *parent, const QString &heading, const QString &text) override;
 };
 

@@ -7,12 +7,10 @@
 #include "program/program.h"
 
 #include "workbench/outlook/outlook_chart.h"
+#include "workbench/reports/budget_report.h"
 
-#include "foundation/clock.h"
 #include "foundation/presentation.h"
-#include "interchange/html_report.h"
-#include "workbench/reports/grouping.h"
-#include "workbench/search/transaction_filter.h"
+#include "interchange/figure_charts.h"
 
 namespace kiv::app {
 
@@ -24,8 +22,8 @@ using interchange::GroupFigure;
 using interchange::Groups;
 using interchange::Period;
 using interchange::SpanLength;
-using interchange::TransactionSource;
 using numira::Money;
+using workbench::BudgetReport;
 
 QJsonArray listOf(const std::vector<Money> &amounts)
 {
@@ -159,7 +157,7 @@ void addGroupTables(Report &report, const Groups &groups, int width)
     for (std::size_t at = 0; at < groups.figures.size(); ++at) {
         const GroupFigure &figure = groups.figures[at];
         QJsonObject row = groupJson(figure);
-        row[QLatin1String("name")] = interchange::nameOf(figure);
+        row[QLatin1String("name")] = nameOf(groups, figure);
         for (std::size_t span = first; span < spans; ++span)
             row[QString::number(span)] = toJson(figure.amounts[span]);
         rows.append(row);
@@ -206,13 +204,36 @@ void addFlowTables(Report &report, const Groups &groups)
     }
 }
 
+void addRates(QJsonObject &json, const BudgetReport &books)
+{
+    if (!books.in())
+        return;
+    QJsonArray rates;
+    for (const workbench::UsedRate &rate : books.rates())
+        rates.append(QJsonObject{
+            {QStringLiteral("base"), foundation::toQString(rate.base)},
+            {QStringLiteral("currency"), foundation::toQString(rate.currency)},
+            {QStringLiteral("rate"), QString::fromStdString(rate.rate.str(12, std::ios::fmtflags()))},
+            {QStringLiteral("day"), toJson(rate.origin.day)},
+            {QStringLiteral("source"), QLatin1String(conversion::wordOf(rate.origin.source))}});
+    json[QLatin1String("in")] = foundation::toQString(*books.in());
+    json[QLatin1String("rates")] = rates;
+}
+
+void tellRates(Report &report, const BudgetReport &books)
+{
+    for (const QString &text : books.rateTexts())
+        report.line(text);
+}
+
 struct ShowReport {
     std::vector<QString> words;
     std::optional<workbench::SpanChoice> span;
     std::optional<workbench::Grouping> by;
     std::optional<QDate> from;
     std::optional<QDate> to;
-    QString title = QObject::tr("Household report");
+    std::optional<numira::Currency> in;
+    QString title = workbench::reportTitle();
     bool isHtml = false;
     bool isCsv = false;
     bool hasCharts = false;
@@ -232,6 +253,8 @@ struct ShowReport {
             .optional("--from", from,
                       QObject::tr("First day, or a day in the first span (default: twelve spans)"))
             .optional("--to", to, QObject::tr("Last day (default: today)"))
+            .optional("--in", in,
+                      QObject::tr("Convert all amounts into this currency, at the present rates"))
             .flag("--html", isHtml, QObject::tr("Print an HTML page with charts"))
             .flag("--csv", isCsv, QObject::tr("Print a table as CSV"))
             .flag("--chart", hasCharts, QObject::tr("Draw charts on the terminal"))
@@ -251,94 +274,59 @@ struct ShowReport {
 
     Report run(Call &call) const
     {
-        const AccountIndex index = call.requests.accounts();
-        const TransactionSource transactions = interchange::transactionsOf(index.accounts());
-        const BudgetView view(call.requests);
         const bool isGrouped = by || isCsv || !words.empty();
-        const Period period = periodOf(call, index, transactions, view, isGrouped);
-        const auto figures = [&] {
-            return interchange::figuresOf(period, index.accounts(), transactions, view.budget());
-        };
-        if (!isGrouped && !isHtml)
-            return overview(figures(), call);
-        // What the budget planned and the household owns is of all transactions.
-        std::optional<Figures> all;
-        if (isHtml && words.empty())
-            all = figures();
-        const std::optional<workbench::TransactionFilter> filter = filterOf(index, call.date());
-        const TransactionSource selected = [&](const auto &visit) {
-            transactions([&](const accounting::Transaction &each) {
-                if (!filter || filter->matches(each))
-                    visit(each);
-            });
-        };
-        const QString filtered = filter ? workbench::filterText(filter->parts()) : QString();
-        const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
-        const Groups groups = workbench::groupsBy(grouping, period, call.requests, index, selected);
+        const BudgetReport books(call.requests, question(call, isGrouped));
         if (isHtml || isCsv)
             call.tellReadable();
+        const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
         if (isHtml)
-            return Report().raw(interchange::toHtml(
-                all ? &*all : nullptr, groups, {title, presentationText(grouping), filtered},
-                words.empty() ? aheadOf(call, period.to()) : std::nullopt));
+            return Report().raw(books.page(
+                grouping, title, workbench::outlookUntil(call.document, books.period().to())));
         if (isCsv)
-            return Report().raw(interchange::toCsv(groups));
-        QJsonObject json = groupsJson(groups);
-        json[QLatin1String("by")] = wordOf(grouping);
-        if (filter)
-            json[QLatin1String("filter")] = filtered;
-        Report report(json);
-        addGroupTables(report, groups, call.program.terminal().width().value_or(80));
-        addFlowTables(report, groups);
-        return report;
+            return Report().raw(interchange::toCsv(books.groups(grouping)));
+        return isGrouped ? grouped(books, grouping, call) : overview(books, call, hasCharts);
     }
 
 private:
-    [[nodiscard]] Period periodOf(const Call &call, const AccountIndex &index,
-                                  const TransactionSource &transactions, const BudgetView &view,
-                                  bool isGrouped) const
+    [[nodiscard]] workbench::ReportQuestion question(const Call &call, bool isGrouped) const
     {
         // The page compares spans; a table of groups is wide enough without.
         const SpanLength otherwise = isGrouped && !isHtml ? SpanLength::Whole : SpanLength::Month;
-        const SpanLength length = span ? span->length : otherwise;
-        std::vector<QDate> paydays;
-        if (length == SpanLength::Payday)
-            paydays = interchange::paydaysOf(index.accounts(), transactions, view.budget());
-        return workbench::reportPeriod(length, from, to.value_or(call.date()), paydays);
+        return {span ? span->length : otherwise,
+                from,
+                to.value_or(call.date()),
+                QStringList(words.begin(), words.end()).join(u' '),
+                call.date(),
+                in};
     }
 
-    [[nodiscard]] std::optional<workbench::TransactionFilter> filterOf(const AccountIndex &index,
-                                                                       QDate today) const
+    static Report grouped(const BudgetReport &books, workbench::Grouping grouping, Call &call)
     {
-        if (words.empty())
-            return std::nullopt;
-        return workbench::TransactionFilter(QStringList(words.begin(), words.end()).join(u' '),
-                                            index, today);
+        const Groups groups = books.groups(grouping);
+        QJsonObject json = groupsJson(groups);
+        json[QLatin1String("by")] = wordOf(grouping);
+        if (!books.filter().isEmpty())
+            json[QLatin1String("filter")] = books.filter();
+        addRates(json, books);
+        Report report(json);
+        addGroupTables(report, groups, call.program.terminal().width().value_or(80));
+        addFlowTables(report, groups);
+        tellRates(report, books);
+        return report;
     }
 
-    Report overview(const Figures &figures, Call &call) const
+    static Report overview(const BudgetReport &books, Call &call, bool hasCharts)
     {
-        Report report(data(figures));
+        const Figures figures = books.figures();
+        QJsonObject json = data(figures);
+        addRates(json, books);
+        Report report(json);
         if (hasCharts)
             addCharts(report, figures, call);
         else
             addTables(report, figures);
+        tellRates(report, books);
         return report;
-    }
-
-    /// What is to come, unless the report ends before today.
-    static std::optional<interchange::Chart> aheadOf(Call &call, QDate last)
-    {
-        workbench::OutlookQuestion question;
-        question.first = foundation::today();
-        if (last < question.first)
-            return std::nullopt;
-        const auto ahead = workbench::lookAhead(call.document.present(), question,
-                                                call.requests.preferredCurrency());
-        if (!ahead.together)
-            return std::nullopt;
-        return workbench::outlookChart(ahead, *ahead.together, QObject::tr("All together"), {},
-                                       call.requests.accounts(), call.document.displayAs());
     }
 
     static QJsonObject data(const Figures &figures)

@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/page_keys.h"
+#include "widgets/chart_view.h"
+
+#include <QtCore/QJsonArray>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+
+using namespace kiv;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QString told(HouseholdWindow &home, const char *label = "told")
+{
+    return part<QLabel>(home, label).text();
+}
+
+QString money(const QJsonValue &amount)
+{
+    return foundation::presentationText(
+        numira::toMoney(numira::toCurrency(amount[u"currency"].toString().toStdString()),
+                        amount[u"amount"].toString().toStdString()));
+}
+
+/// Fills in a field, and adds up.
+void fill(HouseholdWindow &home, const char *field, const QString &text)
+{
+    auto &edit = part<QLineEdit>(home, field);
+    edit.setFocus();
+    edit.setText(text);
+    press(home, Qt::Key_Return);
+}
+
+void choose(HouseholdWindow &home, const char *box, const QString &text)
+{
+    auto &combo = part<QComboBox>(home, box);
+    const int at = combo.findText(text);
+    QVERIFY2(at >= 0, qPrintable(text));
+    combo.setCurrentIndex(at);
+    emit combo.activated(at);
+}
+
+} // namespace
+
+/// The page that tells where the money went, by keys.
+class TestReportsPage : public QObject {
+    Q_OBJECT
+
+private slots:
+    void figuresAreThoseOfTheCommandAndAddUpFromEntries_data()
+    {
+        QTest::addColumn<QString>("by");
+        QTest::addColumn<QString>("span");
+        for (const auto &[by, what] : {std::pair("category", "By category"),
+                                       {"payee", "By payee"},
+                                       {"tag", "By tag"},
+                                       {"account", "By account"}}) {
+            for (const auto &[span, spans] :
+                 {std::pair("month", "Months"), {"quarter", "Quarters"}, {"week", "Weeks"}})
+                QTest::addRow("%s, %s", by, span) << QLatin1String(what) + u'|' + QLatin1String(by)
+                                                  << QLatin1String(spans) + u'|' + QLatin1String(span);
+        }
+    }
+    void figuresAreThoseOfTheCommandAndAddUpFromEntries()
+    {
+        QFETCH(QString, by);
+        QFETCH(QString, span);
+        HouseholdWindow home;
+        home.openHousehold();
+        home.show();
+        home.trigger("page reports");
+        fill(home, "from", u"2025-10-01"_s);
+        fill(home, "to", u"2026-02-28"_s);
+        choose(home, "by", by.section(u'|', 0, 0));
+        choose(home, "spans", span.section(u'|', 0, 0));
+        const QJsonObject report =
+            QJsonDocument::fromJson(
+                KivCommand(home.document().file())
+                    .run({u"report"_s, u"--by"_s, by.section(u'|', 1), u"--period"_s,
+                          span.section(u'|', 1), u"--from"_s, u"2025-10-01"_s, u"--to"_s,
+                          u"2026-02-28"_s, u"--json"_s}))
+                .object();
+        const QJsonArray groups = report[u"groups"].toArray();
+        QVERIFY(!groups.isEmpty());
+        const QStringList names = texts(home, 0, "lines");
+        const QStringList totals = texts(home, 2, "lines");
+        const auto sums = names.size() - groups.size();
+        QCOMPARE(sums, 2 * report[u"currencies"].toArray().size());
+        for (qsizetype at = 0; at < groups.size(); ++at) {
+            const QJsonObject group = groups[at].toObject();
+            const QString name = group[u"name"].toString();
+            if (!name.isEmpty())
+                QCOMPARE(names[sums + at], name);
+            QCOMPARE(totals[sums + at], money(group[u"total"]));
+            table(home, "lines").selectRow(static_cast<int>(sums + at));
+            const QJsonArray amounts = group[u"amounts"].toArray();
+            const QStringList values = texts(home, 1, "values");
+            QCOMPARE(values.size(), amounts.size());
+            for (qsizetype value = 0; value < amounts.size(); ++value) {
+                QCOMPARE(values[value], money(amounts[value]));
+                // The entries behind the value come to it, or there are none.
+                table(home, "values").selectRow(static_cast<int>(value));
+                const QString sum = told(home, "entriesTold");
+                QVERIFY2(sum.endsWith(u"together "_s + values[value]) ||
+                             (sum.endsWith(u"no entries"_s) &&
+                              amounts[value][u"amount"].toString().toDouble() == 0),
+                         qPrintable(sum + u" for "_s + values[value]));
+            }
+        }
+    }
+
+    void fromABarToItsEntriesByKeys()
+    {
+        HouseholdWindow home;
+        home.openHousehold();
+        home.show();
+        home.trigger("page reports");
+        fill(home, "to", u"2026-02-28"_s);
+        QVERIFY2(told(home).contains(u"spent, "_s), qPrintable(told(home)));
+        home.window().goTo(desktop::Place::fromText(u"reports/category/group/expense/USD/Rent"_s));
+        auto &chart = *home.window().page()->findChild<desktop::ChartView *>();
+        chart.setFocus();
+        press(home, Qt::Key_Home);
+        QCOMPARE(table(home, "values").chosen(), QStringList{u"0"_s});
+        press(home, Qt::Key_End);
+        press(home, Qt::Key_Return);
+        QVERIFY(table(home, "entries").hasFocus());
+        QCOMPARE(texts(home, 4, "entries"), QStringList{dollars("900")});
+        press(home, Qt::Key_Return);
+        QCOMPARE(home.window().page()->id(), u"register"_s);
+        QVERIFY(home.window().page()->detail().startsWith(u"all/"_s));
+        // Back shows the same line.
+        home.trigger("back");
+        QCOMPARE(home.window().page()->detail(), u"category/group/expense/USD/Rent"_s);
+        // Of one span the bars are the names.
+        choose(home, "spans", u"All days as one"_s);
+        QVERIFY(texts(home, 0, "values").contains(u"Rent"_s));
+        chart.lookAt(static_cast<std::size_t>(texts(home, 0, "values").indexOf(u"Rent"_s)));
+        QVERIFY(texts(home, 1, "entries").size() > 1);
+        // The overview has items with their plans, and what is owned.
+        choose(home, "by", u"Overview"_s);
+        QVERIFY(texts(home, 0, "lines").contains(u"Net worth, USD"_s));
+        QCOMPARE(texts(home, 2, "lines")[texts(home, 0, "lines").indexOf(u"Rent"_s)].isEmpty(),
+                 false);
+    }
+
+    void whatCannotBeAskedIsToldAtItsField()
+    {
+        SmallHousehold home;
+        show(home, "reports");
+        const QString before = told(home);
+        for (const auto &[field, wrong] :
+             {std::pair("from", u"2030-01-01"_s), {"from", u"x"_s}, {"to", u"2026-02-30"_s},
+              {"words", u"not:such"_s}, {"words", u"account:Nowhere"_s}}) {
+            fill(home, field, wrong);
+            QVERIFY2(!message(home).isEmpty(), qPrintable(wrong));
+            QVERIFY(part<QLineEdit>(home, field).hasFocus());
+            QCOMPARE(told(home), before);
+            part<QLineEdit>(home, field).clear();
+        }
+        fill(home, "from", u"1990-01-01"_s);
+        QCOMPARE(message(home), QString()); // months of so many years fit, weeks do not
+        choose(home, "spans", u"Weeks"_s);
+        QVERIFY(message(home).contains(u"1200 spans"_s));
+        press(home, Qt::Key_Escape);
+        QCOMPARE(message(home), QString());
+        fill(home, "words", u"nobody"_s);
+        QCOMPARE(told(home), u"Nothing was spent or earned."_s);
+        QVERIFY(part<desktop::ChartView>(home, "").isHidden());
+    }
+
+    void reportsAreSavedAndPrinted()
+    {
+        HouseholdWindow home;
+        home.openHousehold();
+        home.show();
+        home.trigger("page reports");
+        fill(home, "from", u"2026-01-01"_s);
+        fill(home, "to", u"2026-02-28"_s);
+        const QList<QByteArray> begins{"%PDF", "<!DOCTYPE html>", "kind,name,currency,2026-01"};
+        for (qsizetype form = 0; form < begins.size(); ++form) {
+            home.questions().choices = {form};
+            home.questions().files = {home.path(u"out%1"_s.arg(form))};
+            home.trigger("saveReport");
+            QFile written(home.path(u"out%1"_s.arg(form)));
+            QVERIFY(written.open(QIODevice::ReadOnly));
+            const QByteArray bytes = written.readAll();
+            QVERIFY(bytes.startsWith(begins[form]));
+            if (form == 2)
+                QCOMPARE(bytes, KivCommand(home.document().file())
+                                    .run({u"report"_s, u"--csv"_s, u"--period"_s, u"month"_s,
+                                          u"--from"_s, u"2026-01-01"_s, u"--to"_s,
+                                          u"2026-02-28"_s}));
+        }
+        home.questions().files = {home.path(u"print.pdf"_s)};
+        home.trigger("print");
+        QVERIFY(QFileInfo(home.path(u"print.pdf"_s)).size() > 10000);
+        home.questions().choices = {1};
+        home.questions().files = {home.path(u"missing/out.html"_s)};
+        home.trigger("saveReport");
+        QVERIFY(home.window().desk().notices().texts().join(u' ').contains(u"Cannot write"_s));
+    }
+};
+
+static const kiv::test::Suite<TestReportsPage> suite;
+
+#include "tst_reports_page.moc"
