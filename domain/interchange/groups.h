@@ -46,8 +46,8 @@ struct KIV_INTERCHANGE_EXPORT FlowFigures {
     savingsRate(const numira::Money &income, const numira::Money &expenses);
 };
 
-/// Which part of the whole an amount in the same currency is, with one decimal. Nothing if the whole
-/// is not positive.
+/// Which part of the whole an amount in the same currency is, with one decimal. Nothing if the
+/// whole is not positive.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::optional<foundation::Percentage>
 partOf(const numira::Money &part, const numira::Money &whole);
 

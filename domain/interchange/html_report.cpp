@@ -359,7 +359,8 @@ QByteArray toHtml(const Figures *figures, const Groups &groups, const PageTexts 
         notesOf(texts.notes) + summary(figures, groups);
     int id = 0;
     const auto draw = [&](const Chart &chart, const QString &first) {
-        return figureWithTable(chart, first, texts.draw(chart, QStringLiteral("chart%1").arg(++id)));
+        return figureWithTable(chart, first,
+                               texts.draw(chart, QStringLiteral("chart%1").arg(++id)));
     };
     if (ahead)
         html += heading(QObject::tr("What is to come")) +

@@ -14,11 +14,11 @@ using DrawChart = std::function<QString(const Chart &chart, const QString &id)>;
 
 /// What a page is called, what its groups are, and how charts are drawn.
 struct PageTexts {
-    QString title;    ///< of the page
-    QString grouping; ///< in a few words, as a heading: "By category"
-    QString filter;   ///< which transactions it is about, as typed; empty for all
-    QStringList notes = {};   ///< sentences below the title, such as exchange rates
-    DrawChart draw = toSvg;   ///< a drawing within the page
+    QString title;          ///< of the page
+    QString grouping;       ///< in a few words, as a heading: "By category"
+    QString filter;         ///< which transactions it is about, as typed; empty for all
+    QStringList notes = {}; ///< sentences below the title, such as exchange rates
+    DrawChart draw = toSvg; ///< a drawing within the page
 };
 
 /// The groups as one HTML page to read, print or send, with the figures above and below them

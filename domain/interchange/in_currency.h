@@ -18,8 +18,9 @@ struct InCurrency {
     /// The amount in that currency; nothing without an exchange rate.
     std::function<std::optional<numira::Money>(const numira::Money &)> convert;
 
-    /// The amounts in that currency, each rounded to the minor unit, so that sums are those of what
-    /// is shown. If one of them has no rate, all stay as they are.
+    /// The amounts in that currency, each rounded to the minor unit: a row's total is that of its
+    /// spans, but sums of several rows are converted by themselves. If one of the amounts has no
+    /// rate, all stay as they are.
     [[nodiscard]] std::vector<numira::Money> operator()(std::vector<numira::Money> amounts) const
     {
         std::vector<numira::Money> converted;

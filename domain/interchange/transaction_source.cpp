@@ -8,7 +8,8 @@ namespace kiv::interchange {
 TransactionSource transactionsOf(const std::set<accounting::Account> &accounts, QDate first,
                                  QDate last)
 {
-    return [&accounts, first, last](const std::function<void(const accounting::Transaction &)> &visit) {
+    return [&accounts, first,
+            last](const std::function<void(const accounting::Transaction &)> &visit) {
         // Two accounts have each transaction; it is made only for the first of them.
         std::vector<bool> isVisited;
         for (const accounting::Account &account : accounts) {

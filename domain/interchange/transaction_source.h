@@ -15,12 +15,13 @@ namespace kiv::interchange {
 using TransactionSource =
     std::function<void(const std::function<void(const accounting::Transaction &)> &visit)>;
 
-/// All transactions of the accounts of a whole ledger, which the caller keeps; those from a first to
-/// a last day, if there are such.
+/// All transactions of the accounts of a whole ledger, which the caller keeps; those from a first
+/// to a last day, if there are such.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT TransactionSource
 transactionsOf(const std::set<accounting::Account> &accounts, QDate first = {}, QDate last = {});
 
 /// The day of the earliest transaction of the accounts; not valid without any.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QDate firstDayOf(const std::set<accounting::Account> &accounts);
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QDate
+firstDayOf(const std::set<accounting::Account> &accounts);
 
 } // namespace kiv::interchange

@@ -2,9 +2,12 @@
 #include "support/suite.h"
 
 #include "desktop/page_keys.h"
+#include "pages/report_output.h"
 #include "widgets/chart_view.h"
 
 #include <QtCore/QJsonArray>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
@@ -61,8 +64,9 @@ private slots:
                                        {"account", "By account"}}) {
             for (const auto &[span, spans] :
                  {std::pair("month", "Months"), {"quarter", "Quarters"}, {"week", "Weeks"}})
-                QTest::addRow("%s, %s", by, span) << QLatin1String(what) + u'|' + QLatin1String(by)
-                                                  << QLatin1String(spans) + u'|' + QLatin1String(span);
+                QTest::addRow("%s, %s", by, span)
+                    << QLatin1String(what) + u'|' + QLatin1String(by)
+                    << QLatin1String(spans) + u'|' + QLatin1String(span);
         }
     }
     void figuresAreThoseOfTheCommandAndAddUpFromEntries()
@@ -153,9 +157,11 @@ private slots:
         SmallHousehold home;
         show(home, "reports");
         const QString before = told(home);
-        for (const auto &[field, wrong] :
-             {std::pair("from", u"2030-01-01"_s), {"from", u"x"_s}, {"to", u"2026-02-30"_s},
-              {"words", u"not:such"_s}, {"words", u"account:Nowhere"_s}}) {
+        for (const auto &[field, wrong] : {std::pair("from", u"2030-01-01"_s),
+                                           {"from", u"x"_s},
+                                           {"to", u"2026-02-30"_s},
+                                           {"words", u"not:such"_s},
+                                           {"words", u"account:Nowhere"_s}}) {
             fill(home, field, wrong);
             QVERIFY2(!message(home).isEmpty(), qPrintable(wrong));
             QVERIFY(part<QLineEdit>(home, field).hasFocus());
@@ -191,14 +197,29 @@ private slots:
             const QByteArray bytes = written.readAll();
             QVERIFY(bytes.startsWith(begins[form]));
             if (form == 2)
-                QCOMPARE(bytes, KivCommand(home.document().file())
-                                    .run({u"report"_s, u"--csv"_s, u"--period"_s, u"month"_s,
-                                          u"--from"_s, u"2026-01-01"_s, u"--to"_s,
-                                          u"2026-02-28"_s}));
+                QCOMPARE(bytes,
+                         KivCommand(home.document().file())
+                             .run({u"report"_s, u"--csv"_s, u"--period"_s, u"month"_s, u"--from"_s,
+                                   u"2026-01-01"_s, u"--to"_s, u"2026-02-28"_s}));
         }
         home.questions().files = {home.path(u"print.pdf"_s)};
         home.trigger("print");
         QVERIFY(QFileInfo(home.path(u"print.pdf"_s)).size() > 10000);
+        // What is printed has its charts, amounts at the right, and nothing that cannot be unfolded.
+        const workbench::BudgetReport report(
+            home.requests(),
+            {interchange::SpanLength::Month, QDate(2026, 1, 1), QDate(2026, 2, 28), {}, {}, {}});
+        const auto document = desktop::reportDocument(report, workbench::Grouping::Category);
+        int amounts = 0;
+        for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+            if (!block.text().startsWith(u'$'))
+                continue;
+            ++amounts;
+            QVERIFY(block.blockFormat().alignment() & Qt::AlignRight);
+        }
+        QVERIFY(amounts > 20);
+        QCOMPARE(document->toPlainText().count(QChar::ObjectReplacementCharacter), 3);
+        QVERIFY(!document->toPlainText().contains(u"as a table"_s));
         home.questions().choices = {1};
         home.questions().files = {home.path(u"missing/out.html"_s)};
         home.trigger("saveReport");

@@ -20,7 +20,7 @@ Reports come in three forms, and as JSON.
   {"actual":[{"amount":"0.00","currency":"USD"},{"amount":"0.00","currency":"USD"}],"average":{"amount":"0.00","currency":"USD"},"kind":"wage","last":{"amount":"0.00","currency":"USD"},"name":"Salary","planned":{"amount":"3100.00","currency":"USD"}}
   $ kiv report --json --to 2026-02-28 | jq -c 'keys, .from, .to'
   ["balances","currencies","from","items","months","to"]
-  "2025-03-01"
+  "2026-01-01"
   "2026-02-28"
   $ kiv report --html --to 2026-02-28 --title '<i>' >page
   $ head -1 page
@@ -30,7 +30,7 @@ Reports come in three forms, and as JSON.
   <h2>By category</h2>
   <h3>Expense, USD</h3>
   <h2>Budget against actual</h2>
-  <h2>By account, from 2025-03-01 to 2026-02-28</h2>
+  <h2>By account, from 2026-01-01 to 2026-02-28</h2>
   <h3>Expense</h3>
   <h2>Balances on 2026-02-28</h2>
   <h3>Asset</h3>
@@ -166,21 +166,86 @@ So they are of the example of ledger's own manual, as its authors wrote it:
   $ export KIV_FILE=manual.budget
   $ kiv new >/dev/null
   $ kiv import "$TESTDIR/data/ledger_manual.journal" 2>/dev/null | tail -1
+  Transactions posted: 20; duplicates skipped: 0; accounts opened: 18.
   $ sed 's/apply tag/; &/; s/end tag/; &/' "$TESTDIR/data/ledger_manual.journal" >manual.journal
   $ flows() { peerFlows manual.journal "$@" Expenses Income | sed 's/ \$ / USD /'; }
   $ ownFlows --by category --period month --from 2010-12-01 --to 2011-12-31 >ours
   $ flows -M --depth 2 -b 2010-12-01 -e 2012-01-01 >theirs; same
+  7
   $ ownFlows --by account --period quarter --from 2010-10-01 --to 2011-12-31 | grep -e ^Exp -e ^Inc >ours
   $ flows -Q -b 2010-10-01 -e 2012-01-01 >theirs; same
+  7
 
 Currencies stay apart unless one is asked for, and then the rates are told with their days. What has
 no rate stays apart.
 
   $ export KIV_FILE=year.budget
   $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30
+  Expense, USD
+  Name                Total
+  Rent            $1,960.00
+  Groceries         $764.78
+  Home insurance    $240.00
+  Pocket money      $180.00
+  Eating out        $158.56
+  Bus pass          $110.00
+  Electricity        $92.71
+  Internet           $69.80
+  Furniture          $61.25
+  Fitness studio     $59.80
+  Telephone          $49.80
+  Pharmacy            $8.19
+  Expense, EUR
+  Name          Total
+  Travelling  €270.19
+  Income, USD
+  Name                 Total
+  Salary           $5,700.00
+  Evening classes    $560.00
+  Interest            $10.40
+  USD
+  Span                       Income   Expenses      Saved  Savings rate
+  2024-08-01..2024-09-30  $6,270.40  $3,754.89  $2,515.51  40.1 %
+  EUR
+  Span                    Income  Expenses     Saved  Savings rate
+  2024-08-01..2024-09-30   €0.00   €270.19  -€270.19
+  Without an exchange rate, and apart: USD
   $ kiv rates set USD EUR=0.5 >/dev/null
-  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30
+  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30 | sed "s/$(date -u +%F)/TODAY/"
+  Expense, EUR
+  Name              Total
+  Rent            €980.00
+  Groceries       €382.39
+  Travelling      €270.19
+  Home insurance  €120.00
+  Pocket money     €90.00
+  Eating out       €79.28
+  Bus pass         €55.00
+  Electricity      €46.36
+  Internet         €34.90
+  Furniture        €30.62
+  Fitness studio   €29.90
+  Telephone        €24.90
+  Pharmacy          €4.10
+  Income, EUR
+  Name                 Total
+  Salary           €2,850.00
+  Evening classes    €280.00
+  Interest             €5.20
+  EUR
+  Span                       Income   Expenses    Saved  Savings rate
+  2024-08-01..2024-09-30  €3,135.20  €2,147.63  €987.57  31.5 %
+  1 USD is 0.5 EUR, typed by hand (TODAY)
   $ kiv report --in EUR --from 2024-08-01 --to 2024-09-30 | head -4
+  EUR
+  Month       Income   Expenses   Budget   Actual  Net worth
+  2024-08  €1,570.20    €951.63  €848.94  €918.70  €3,906.46
+  2024-09  €1,565.00  €1,196.01  €848.94  €982.35  €4,348.94
   $ kiv report --by tag --in USD --from 2024-08-01 --to 2024-09-30 --json |
-  >     jq -c '.in, .rates, [.groups[].total.currency]'
+  >     jq -c '.in, (.rates[] | del(.day)), [.groups[].total.currency]'
+  "USD"
+  {"base":"USD","currency":"EUR","rate":"0.5","source":"typed"}
+  ["USD","USD","USD","USD","USD"]
   $ kiv report --in XYZ
+  kiv: 'XYZ' is not a currency; write its ISO 4217 code, like USD.
+  [2]

@@ -41,9 +41,8 @@ Period BudgetReport::periodOf(const ReportQuestion &question) const
 {
     std::vector<QDate> paydays;
     if (question.length == SpanLength::Payday)
-        paydays = interchange::paydaysOf(m_index.accounts(),
-                                         interchange::transactionsOf(m_index.accounts()),
-                                         m_view.budget());
+        paydays = interchange::paydaysOf(
+            m_index.accounts(), interchange::transactionsOf(m_index.accounts()), m_view.budget());
     return reportPeriod(question.length, question.from, question.to, paydays,
                         interchange::firstDayOf(m_index.accounts()));
 }
@@ -77,10 +76,10 @@ interchange::GroupsOf BudgetReport::names(Grouping grouping) const
 interchange::Groups BudgetReport::groups(Grouping grouping) const
 {
     const TransactionSource counted = [this](const auto &each) { visit(each); };
-    interchange::Groups groups = interchange::groupsOf(
-        m_period, m_index.accounts(), counted, names(grouping),
-        grouping == Grouping::Account ? interchange::Grouped::Accounts
-                                      : interchange::Grouped::Flows);
+    interchange::Groups groups =
+        interchange::groupsOf(m_period, m_index.accounts(), counted, names(grouping),
+                              grouping == Grouping::Account ? interchange::Grouped::Accounts
+                                                            : interchange::Grouped::Flows);
     groups.unnamed = unnamedText(grouping);
     const auto in = conversion();
     return in ? interchange::inCurrency(groups, *in) : groups;
@@ -88,15 +87,15 @@ interchange::Groups BudgetReport::groups(Grouping grouping) const
 
 interchange::Figures BudgetReport::figures() const
 {
-    interchange::Figures figures = interchange::figuresOf(
-        m_period, m_index.accounts(), interchange::transactionsOf(m_index.accounts()),
-        m_view.budget());
+    interchange::Figures figures =
+        interchange::figuresOf(m_period, m_index.accounts(),
+                               interchange::transactionsOf(m_index.accounts()), m_view.budget());
     const auto in = conversion();
     return in ? interchange::inCurrency(figures, *in) : figures;
 }
 
-std::optional<accounting::AccountNumber>
-BudgetReport::accountOf(budgeting::BudgetItemTypes kind, const QString &name) const
+std::optional<accounting::AccountNumber> BudgetReport::accountOf(budgeting::BudgetItemTypes kind,
+                                                                 const QString &name) const
 {
     return m_requests.accountOf({kind, budgeting::BudgetSource(name)});
 }

@@ -40,7 +40,10 @@ public:
     /// The search as typed; empty if all transactions count.
     [[nodiscard]] QString filter() const;
     /// The currency into which amounts are converted; nothing if none is.
-    [[nodiscard]] const std::optional<numira::Currency> &in() const noexcept { return m_question.in; }
+    [[nodiscard]] const std::optional<numira::Currency> &in() const noexcept
+    {
+        return m_question.in;
+    }
 
     /// Where the money went and came from.
     [[nodiscard]] interchange::Groups groups(Grouping grouping) const;
@@ -64,9 +67,9 @@ public:
 
     /// The report as a page, see interchange::toHtml(). With `ahead` what is to come stands first,
     /// unless the report is about a search.
-    [[nodiscard]] QByteArray
-    page(Grouping grouping, const QString &title, const std::optional<interchange::Chart> &ahead,
-         const interchange::DrawChart &draw = interchange::toSvg) const;
+    [[nodiscard]] QByteArray page(Grouping grouping, const QString &title,
+                                  const std::optional<interchange::Chart> &ahead,
+                                  const interchange::DrawChart &draw = interchange::toSvg) const;
     /// How amounts are shown.
     [[nodiscard]] navigation::CurrencyDisplayOptions displayAs() const
     {

@@ -37,9 +37,10 @@ reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to
              const std::vector<QDate> &paydays, QDate earliest);
 
 /// The names under which a side of a transaction counts.
-[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf
-groupNames(Grouping grouping, Requests &requests, const BudgetView &view,
-           const AccountIndex &index);
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf groupNames(Grouping grouping,
+                                                                    Requests &requests,
+                                                                    const BudgetView &view,
+                                                                    const AccountIndex &index);
 /// "(no payee)": what has no name.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString unnamedText(Grouping grouping);
 

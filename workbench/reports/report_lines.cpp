@@ -42,21 +42,21 @@ std::function<bool(const Currency &)> belongsTo(const BudgetReport &report, cons
 
 LineShare shareOf(const BudgetReport &report, AccountTypes type, const Currency &currency)
 {
-    return [type, belongs = belongsTo(report, currency)](
-               const Transaction &, const Account &account,
-               const Money &change) -> std::optional<Money> {
-        if (account.type() != type || !belongs(change.code()))
-            return std::nullopt;
-        return change;
-    };
+    return
+        [type, belongs = belongsTo(report, currency)](const Transaction &, const Account &account,
+                                                      const Money &change) -> std::optional<Money> {
+            if (account.type() != type || !belongs(change.code()))
+                return std::nullopt;
+            return change;
+        };
 }
 
 LineShare shareOfGroup(const BudgetReport &report, const GroupFigure &figure,
                        const interchange::GroupsOf &names)
 {
-    return [all = shareOf(report, figure.type, figure.total.code()), names, name = figure.name](
-               const Transaction &transaction, const Account &account,
-               const Money &change) -> std::optional<Money> {
+    return [all = shareOf(report, figure.type, figure.total.code()), names,
+            name = figure.name](const Transaction &transaction, const Account &account,
+                                const Money &change) -> std::optional<Money> {
         auto share = all(transaction, account, change);
         if (share && !names(transaction, account).contains(name))
             share.reset();
@@ -136,17 +136,18 @@ std::optional<foundation::Percentage> partOf(const Money &total, const Groups &g
         return std::nullopt;
     if (type != AccountTypes::Expense && type != AccountTypes::Income)
         return std::nullopt;
-    const Money &all = type == AccountTypes::Expense ? flow->second.totalExpenses
-                                                     : flow->second.totalIncome;
+    const Money &all =
+        type == AccountTypes::Expense ? flow->second.totalExpenses : flow->second.totalIncome;
     return interchange::partOf(total, all);
 }
 
 /// The groups over their names, for a report of one span.
-Chart chartOfNames(const Groups &groups, const GroupFigure &first, const std::vector<ReportLine> &peers)
+Chart chartOfNames(const Groups &groups, const GroupFigure &first,
+                   const std::vector<ReportLine> &peers)
 {
-    const QString title = QObject::tr("%1, %2", "such as: Expense, USD")
-                              .arg(accounting::presentationText(first.type),
-                                   presentationText(first.total.code()));
+    const QString title =
+        QObject::tr("%1, %2", "such as: Expense, USD")
+            .arg(accounting::presentationText(first.type), presentationText(first.total.code()));
     Chart chart{ChartKind::Bars,
                 title,
                 QObject::tr("%1 for %2. The largest: %3 with %4.")
@@ -166,20 +167,20 @@ ReportLine lineOf(const BudgetReport &report, const Groups &groups, const GroupF
 {
     ReportLine line;
     line.key = QStringLiteral("group/%1/%2/%3")
-                   .arg(accounting::toQString(figure.type),
-                        presentationText(figure.total.code()), figure.name);
+                   .arg(accounting::toQString(figure.type), presentationText(figure.total.code()),
+                        figure.name);
     line.name = nameOf(groups, figure);
     line.kind = accounting::presentationText(figure.type);
     line.total = figure.total;
     line.average = figure.average;
     line.part = partOf(figure.total, groups, figure.type);
-    line.chart = {ChartKind::Bars,
-                  line.name,
-                  QObject::tr("%1: %2 together, %3 on average.")
-                      .arg(line.name, presentationText(figure.total),
-                           presentationText(figure.average)),
-                  groups.period.labels(),
-                  {{line.name, figure.amounts}}};
+    line.chart = {
+        ChartKind::Bars,
+        line.name,
+        QObject::tr("%1: %2 together, %3 on average.")
+            .arg(line.name, presentationText(figure.total), presentationText(figure.average)),
+        groups.period.labels(),
+        {{line.name, figure.amounts}}};
     line.share = shareOfGroup(report, figure, names);
     return line;
 }
@@ -223,13 +224,13 @@ ReportLine lineOf(const BudgetReport &report, const interchange::ItemFigure &ite
     const Currency currency = item.actual.front().code();
     line.total = sumOf(currency, item.actual);
     line.average = item.average;
-    line.chart = {ChartKind::Bars,
-                  QObject::tr("%1, planned and actual").arg(item.name),
-                  QObject::tr("%1: %2 planned for each span, %3 on average.")
-                      .arg(item.name, presentationText(item.planned),
-                           presentationText(item.average)),
-                  report.period().labels(),
-                  {{QObject::tr("Actual"), item.actual}}};
+    line.chart = {
+        ChartKind::Bars,
+        QObject::tr("%1, planned and actual").arg(item.name),
+        QObject::tr("%1: %2 planned for each span, %3 on average.")
+            .arg(item.name, presentationText(item.planned), presentationText(item.average)),
+        report.period().labels(),
+        {{QObject::tr("Actual"), item.actual}}};
     // One chart has one currency; an account can have another than its item.
     if (item.planned.code() == currency)
         line.chart.series.insert(
@@ -305,12 +306,11 @@ QStringList reportSentences(const std::vector<ReportLine> &lines,
             const auto rate = FlowFigures::savingsRate(flow.totalIncome, flow.totalExpenses);
             const QString spent = text(flow.totalExpenses);
             const QString received = text(flow.totalIncome);
-            sentences +=
-                rate && !kept.isNegative()
-                    ? QObject::tr("%1 spent, %2 received; %3 kept, which is %4.")
-                          .arg(spent, received, text(kept), presentationText(*rate))
-                    : QObject::tr("%1 spent, %2 received; %3 more spent than received.")
-                          .arg(spent, received, text(-kept));
+            sentences += rate && !kept.isNegative()
+                             ? QObject::tr("%1 spent, %2 received; %3 kept, which is %4.")
+                                   .arg(spent, received, text(kept), presentationText(*rate))
+                             : QObject::tr("%1 spent, %2 received; %3 more spent than received.")
+                                   .arg(spent, received, text(-kept));
         } else if (line.isSum && !line.total) {
             sentences += line.chart.description;
         }

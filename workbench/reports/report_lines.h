@@ -24,8 +24,8 @@ struct ReportLine {
     std::optional<numira::Money> total;   ///< of all spans; nothing for what is owned at their ends
     std::optional<numira::Money> average; ///< of a span
     std::optional<foundation::Percentage> part; ///< of its kind in this currency
-    interchange::Chart chart;                   ///< over the spans, or over lines if `peers` says so
-    QStringList peers; ///< the keys of the lines over whose names the chart goes; else empty
+    interchange::Chart chart; ///< over the spans, or over lines if `peers` says so
+    QStringList peers;        ///< the keys of the lines over whose names the chart goes; else empty
     std::optional<interchange::FlowFigures> flow; ///< of sums of income and expenses
     LineShare share;                              ///< see entriesOf()
 };
@@ -41,7 +41,7 @@ reportSentences(const std::vector<ReportLine> &lines, navigation::CurrencyDispla
 
 /// A part of a line's amount.
 struct ReportEntry {
-    accounting::Transaction transaction;
+    accounting::Transaction transaction; ///< the entry as a whole
     accounting::AccountNumber account; ///< the side that adds it
     numira::Money amount;              ///< in the currency of the account
 };

@@ -39,15 +39,15 @@ std::vector<UsedRate> usedRates(const ConversionMap &rates, std::set<numira::Cur
 {
     // What is in the currency already needs none.
     from.erase(to);
-    if (from.empty())
-        return {};
-    from.insert(to);
     std::vector<UsedRate> used;
-    for (const numira::Currency &currency : from) {
+    const auto add = [&](const numira::Currency &currency) {
         const auto rate = rates.rates().find(currency);
         if (currency != rates.base() && rate != rates.rates().end())
             used.push_back({rates.base(), currency, rate->second, rates.origins().at(currency)});
-    }
+    };
+    std::ranges::for_each(from, add);
+    if (!from.empty())
+        add(to);
     return used;
 }
 

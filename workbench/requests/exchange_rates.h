@@ -28,12 +28,12 @@ struct ListedRates {
 
 /// A rate of the table that a conversion uses.
 struct UsedRate {
-    numira::Currency base;            ///< for one unit of it
-    numira::Currency currency;        ///< so much of this
-    numira::FloatingPoint rate;       ///< the rate
-    conversion::RateOrigin origin;    ///< who gave it, and its day
+    numira::Currency base;         ///< for one unit of it
+    numira::Currency currency;     ///< so much of this
+    numira::FloatingPoint rate;    ///< the rate
+    conversion::RateOrigin origin; ///< who gave it, and its day
 };
-/// The rates by which amounts in these currencies come into the other one.
+/// The rates by which amounts in these currencies come into the other one, whose own is the last.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<UsedRate>
 usedRates(const conversion::ConversionMap &rates, std::set<numira::Currency> from,
           const numira::Currency &to);

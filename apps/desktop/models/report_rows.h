@@ -20,8 +20,8 @@ namespace kiv::desktop {
 [[nodiscard]] std::vector<Row> valueRows(const workbench::ReportLine &line,
                                          navigation::CurrencyDisplayOptions displayAs);
 
-/// The columns of the entries behind a value, and their rows, at most entriesMax. A row's key is the
-/// entry's place.
+/// The columns of the entries behind a value, and their rows, at most entriesMax. A row's key is
+/// the entry's place.
 [[nodiscard]] QStringList entryColumns();
 constexpr std::size_t entriesMax = 1000;
 [[nodiscard]] std::vector<Row> entryRows(const std::vector<workbench::ReportEntry> &entries,

@@ -22,11 +22,11 @@ namespace kiv::desktop {
 std::vector<Page *> makePages(Desk &desk)
 {
     return {
-        new HomePage(desk),       new AccountsPage(desk), new RegisterPage(desk),
-        new DuePage(desk),        new ItemsPage(desk),    new OutlookPage(desk),
-        new ReportsPage(desk),    new BanksPage(desk),    new SurveyPage(desk),
-        new RatesPage(desk),      new HistoryPage(desk),  new ImportWizard(desk),
-        new RulesPage(desk),      new EncryptionPage(desk), new SettingsPage(desk),
+        new HomePage(desk),    new AccountsPage(desk),   new RegisterPage(desk),
+        new DuePage(desk),     new ItemsPage(desk),      new OutlookPage(desk),
+        new ReportsPage(desk), new BanksPage(desk),      new SurveyPage(desk),
+        new RatesPage(desk),   new HistoryPage(desk),    new ImportWizard(desk),
+        new RulesPage(desk),   new EncryptionPage(desk), new SettingsPage(desk),
     };
 }
 

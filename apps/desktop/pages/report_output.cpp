@@ -7,6 +7,8 @@
 #include "workbench/outlook/outlook_chart.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QRegularExpression>
+#include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
 #include <QtGui/QTextDocument>
 #include <QtPrintSupport/QPrinter>
@@ -20,21 +22,55 @@ using workbench::Grouping;
 namespace {
 
 /// A chart of this size fills the width of a page; it is drawn finer than a screen would.
-constexpr QSize chartSize(680, 260);
+constexpr QSize chartSize(620, 200);
 constexpr int finer = 4;
 constexpr int resolution = 300;
 
+/// The chart below its title, which no page break can part from it then.
 QImage pictureOf(const interchange::Chart &chart, navigation::CurrencyDisplayOptions displayAs)
 {
     ChartView view(nullptr);
-    view.setPalette(paletteFor(Appearance::Light, QApplication::palette()));
+    const QPalette light = paletteFor(Appearance::Light, QApplication::palette());
+    view.setPalette(light);
     view.setFixedSize(chartSize);
     view.setChart(chart, displayAs);
-    QImage picture(chartSize * finer, QImage::Format_RGB32);
+    QFont bold = view.font();
+    bold.setBold(true);
+    const int title = 2 * QFontMetrics(bold).height();
+    QImage picture((chartSize + QSize(0, title)) * finer, QImage::Format_RGB32);
+    picture.fill(light.color(QPalette::Base));
     picture.setDevicePixelRatio(finer);
-    view.render(&picture);
+    {
+        QPainter painter(&picture);
+        painter.setPen(light.color(QPalette::Text));
+        painter.setFont(bold);
+        painter.drawText(QRect(0, 0, chartSize.width(), title), Qt::AlignLeft | Qt::AlignVCenter,
+                         chart.title);
+        view.render(&painter, QPoint(0, title));
+    }
     picture.setDevicePixelRatio(1);
     return picture;
+}
+
+/// The page in the words of HTML 4, which is all that a QTextDocument knows: attributes in place of
+/// styles, and no folded tables.
+QString inPlainHtml(QString html)
+{
+    static const QRegularExpression left(
+        QStringLiteral("(?s)<style>.*?</style>|<summary>.*?</summary>|<svg.*?</svg>|"
+                       "<figcaption>.*?</figcaption>"));
+    html.remove(left);
+    for (const auto &[from, to] :
+         {std::pair("<td class=\"n", "<td align=\"right\" class=\"n"),
+          {"<th scope=\"col\" class=\"n", "<th align=\"right\" class=\"n"},
+          {"<th scope=\"col\"", "<th align=\"left\""},
+          {"<th scope=\"row\"", "<th align=\"left\" style=\"font-weight: normal\""},
+          {"<table", "<table width=\"100%\" cellpadding=\"2\""},
+          {"<div class=\"card\"><span", "<p class=\"card\"><span"},
+          {"</span><strong", ": </span><strong"},
+          {"</strong></div>", "</strong></p>"}})
+        html.replace(QLatin1String(from), QLatin1String(to));
+    return html;
 }
 
 QByteArray pdfOf(const BudgetReport &report, Grouping grouping)
@@ -62,8 +98,8 @@ std::unique_ptr<QTextDocument> reportDocument(const BudgetReport &report, Groupi
         return QStringLiteral("<img src=\"%1\" width=\"%2\">")
             .arg(id, QString::number(chartSize.width()));
     };
-    document->setHtml(QString::fromUtf8(
-        report.page(grouping, workbench::reportTitle(), {}, draw)));
+    document->setHtml(
+        inPlainHtml(QString::fromUtf8(report.page(grouping, workbench::reportTitle(), {}, draw))));
     return document;
 }
 

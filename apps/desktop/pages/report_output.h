@@ -15,8 +15,8 @@ QT_END_NAMESPACE
 namespace kiv::desktop {
 
 /// The report to be printed, with its charts as pictures.
-[[nodiscard]] std::unique_ptr<QTextDocument>
-reportDocument(const workbench::BudgetReport &report, workbench::Grouping grouping);
+[[nodiscard]] std::unique_ptr<QTextDocument> reportDocument(const workbench::BudgetReport &report,
+                                                            workbench::Grouping grouping);
 
 /// Asks for the form and the file, and saves the report there: as a document (PDF), a page (HTML)
 /// or a table (CSV). A failure becomes a notice.

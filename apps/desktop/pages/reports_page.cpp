@@ -101,9 +101,9 @@ ReportsPage::ReportsPage(Desk &desk)
     connect(m_valueTable, &Table::opened, this, toEntries);
     connect(m_entryTable, &Table::opened, this, [this](const QString &key) {
         const auto &entry = m_behind.at(key.toULongLong());
-        this->desk().goTo(
-            {QStringLiteral("register"), QStringLiteral("all/") + accounting::presentationText(
-                                                                      entry.transaction.number().value())});
+        this->desk().goTo({QStringLiteral("register"),
+                           QStringLiteral("all/") +
+                               accounting::presentationText(entry.transaction.number().value())});
     });
 }
 
@@ -128,7 +128,8 @@ void ReportsPage::build()
     auto *layout = new QVBoxLayout(this);
     auto *top = new QHBoxLayout;
     top->addWidget(m_told, 1);
-    const auto addButton = [this, top](const char *id, const QString &text, void (ReportsPage::*run)()) {
+    const auto addButton = [this, top](const char *id, const QString &text,
+                                       void (ReportsPage::*run)()) {
         auto *button = new QPushButton(text, this);
         button->setObjectName(QLatin1String(id));
         connect(button, &QPushButton::clicked, this, run);
@@ -253,9 +254,11 @@ bool ReportsPage::ask()
         return false;
     question.words = m_words->text();
     // What does not come from the search comes from the days.
-    QWidget &blamed = question.words.trimmed().isEmpty() ? static_cast<QWidget &>(*m_from) : *m_words;
-    auto report = m_form->read(
-        blamed, [&] { return std::make_unique<const workbench::BudgetReport>(requests(), question); });
+    QWidget &blamed =
+        question.words.trimmed().isEmpty() ? static_cast<QWidget &>(*m_from) : *m_words;
+    auto report = m_form->read(blamed, [&] {
+        return std::make_unique<const workbench::BudgetReport>(requests(), question);
+    });
     if (!report)
         return false;
     auto lines = m_form->read(blamed, [&] { return reportLines(**report, grouping()); });
@@ -277,10 +280,10 @@ bool ReportsPage::ask()
     m_lineTable->choose(chosen);
     m_lineTable->settle();
     const bool isEmpty = m_shown.empty();
-    for (QWidget *part : {static_cast<QWidget *>(m_chart), static_cast<QWidget *>(m_lineTable),
-                          static_cast<QWidget *>(m_valueTable),
-                          static_cast<QWidget *>(m_entriesTold),
-                          static_cast<QWidget *>(m_entryTable)})
+    for (QWidget *part :
+         {static_cast<QWidget *>(m_chart), static_cast<QWidget *>(m_lineTable),
+          static_cast<QWidget *>(m_valueTable), static_cast<QWidget *>(m_entriesTold),
+          static_cast<QWidget *>(m_entryTable)})
         part->setVisible(!isEmpty);
     showLine();
     if (isVisible())
@@ -290,7 +293,8 @@ bool ReportsPage::ask()
 
 void ReportsPage::startAgain()
 {
-    for (QLineEdit *field : {static_cast<QLineEdit *>(m_from), static_cast<QLineEdit *>(m_to), m_words})
+    for (QLineEdit *field :
+         {static_cast<QLineEdit *>(m_from), static_cast<QLineEdit *>(m_to), m_words})
         field->clear();
     m_in->setCurrentIndex(0);
     m_spans->setCurrentIndex(static_cast<int>(SpanLength::Month));

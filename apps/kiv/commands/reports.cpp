@@ -213,7 +213,8 @@ void addRates(QJsonObject &json, const BudgetReport &books)
         rates.append(QJsonObject{
             {QStringLiteral("base"), foundation::toQString(rate.base)},
             {QStringLiteral("currency"), foundation::toQString(rate.currency)},
-            {QStringLiteral("rate"), QString::fromStdString(rate.rate.str(12, std::ios::fmtflags()))},
+            {QStringLiteral("rate"),
+             QString::fromStdString(rate.rate.str(12, std::ios::fmtflags()))},
             {QStringLiteral("day"), toJson(rate.origin.day)},
             {QStringLiteral("source"), QLatin1String(conversion::wordOf(rate.origin.source))}});
     json[QLatin1String("in")] = foundation::toQString(*books.in());
