@@ -5,6 +5,7 @@
 #include "application/application.h"
 #include "application/desktop_keyring.h"
 #include "main_window.h"
+#include "widgets/chart_view.h"
 
 #include "networking/request_sender.h"
 #include "workbench/requests/transactions.h"
@@ -167,12 +168,18 @@ int main(int argc, char **argv)
             searches.push_back(watch.until([&] { field->setText(text); }));
     }
     document.writeNow();
+    std::vector<double> reports;
+    window.goTo({u"reports"_s, u"overview"_s});
+    PaintWatch drawn(*window.page()->findChild<desktop::ChartView *>());
+    for (const QString &by : {u"category"_s, u"payee"_s, u"tag"_s, u"account"_s, u"overview"_s})
+        reports.push_back(drawn.until([&] { window.goTo({u"reports"_s, by}); }));
     const QJsonObject result{
         {u"start to first paint, ms"_s, start},
         {u"a posting, ms"_s, summary(posts)},
         {u"undo, ms"_s, summary(undos)},
         {u"a key while writing, ms"_s, keys.empty() ? QJsonValue() : summary(keys)},
         {u"a search, ms"_s, searches.empty() ? QJsonValue() : summary(searches)},
+        {u"a report, ms"_s, summary(reports)},
         {u"memory, MiB"_s, mebibytes("VmRSS:")},
         {u"peak memory, MiB"_s, mebibytes("VmHWM:")}};
     std::cout << QJsonDocument(result).toJson().constData();

@@ -7727,10 +7727,6 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <translation>An</translation>
     </message>
     <message>
-        <source>(without)</source>
-        <translation>(ohne)</translation>
-    </message>
-    <message>
         <source>Savings rate, %1</source>
         <translation>Sparquote, %1</translation>
     </message>
@@ -7878,6 +7874,94 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     <message>
         <source>Several budget items are named &apos;%1&apos;; write one of these: %2.</source>
         <translation>Mehrere Budgetposten heißen „%1“; eines davon schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>Without an exchange rate, and apart: %1</source>
+        <translation>Ohne Wechselkurs, deshalb für sich: %1</translation>
+    </message>
+    <message>
+        <source>(no tag)</source>
+        <translation>(ohne Schlagwort)</translation>
+    </message>
+    <message>
+        <source>(no payee)</source>
+        <translation>(ohne Empfänger)</translation>
+    </message>
+    <message>
+        <source>All expenses, %1</source>
+        <translation>Alle Ausgaben, %1</translation>
+    </message>
+    <message>
+        <source>All income, %1</source>
+        <translation>Alle Einnahmen, %1</translation>
+    </message>
+    <message>
+        <source>%1 for %2. The largest: %3 with %4.</source>
+        <translation>%1 für %2. Am meisten: %3 mit %4.</translation>
+    </message>
+    <message>
+        <source>%1: %2 together, %3 on average.</source>
+        <translation>%1: zusammen %2, im Durchschnitt %3.</translation>
+    </message>
+    <message>
+        <source>%1, planned and actual</source>
+        <translation>%1, geplant und tatsächlich</translation>
+    </message>
+    <message>
+        <source>%1: %2 planned for each span, %3 on average.</source>
+        <translation>%1: %2 je Zeitraum geplant, im Durchschnitt %3.</translation>
+    </message>
+    <message>
+        <source>at the end of each span</source>
+        <translation>am Ende jedes Zeitraums</translation>
+    </message>
+    <message>
+        <source>All items but wages, %1</source>
+        <translation>Alle Posten außer Löhnen, %1</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received; %3 kept, which is %4.</source>
+        <translation>%1 ausgegeben, %2 eingenommen; %3 behalten, das sind %4.</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received; %3 more spent than received.</source>
+        <translation>%1 ausgegeben, %2 eingenommen; %3 mehr ausgegeben als eingenommen.</translation>
+    </message>
+    <message>
+        <source>Convert all amounts into this currency, at the present rates</source>
+        <translation>Alle Beträge zu den jetzigen Kursen in diese Währung umrechnen</translation>
+    </message>
+    <message>
+        <source>Where the money went and came from. “What” is added up by category, payee, tag or account; the overview has what is owned and the plan of each item. Spans last from a week to a year, or from payday to payday; without days there are twelve up to today. “Only” takes a search, as on the page “Register”.
+
+Each row of the first table has its own chart. The arrow keys go through the bars, and the second table has the same numbers. Enter on a bar or a number goes to the entries behind it, and Enter on an entry to the register.
+
+Each currency stands by itself unless one is chosen to convert into, at the present exchange rates. What moves between the household’s own accounts is neither income nor expense. “Save as” makes a document, a page or a table; Ctrl+P prints.</source>
+        <translation>Wohin das Geld ging und woher es kam. „Was“ wird nach Kategorie, Empfänger, Schlagwort oder Konto summiert; die Übersicht hat, was man besitzt, und den Plan jedes Postens. Zeiträume dauern eine Woche bis ein Jahr oder von Zahltag zu Zahltag; ohne Tage sind es zwölf bis heute. „Nur“ nimmt eine Suche, wie auf der Seite „Register“.
+
+Jede Zeile der ersten Tabelle hat ihr eigenes Diagramm. Die Pfeiltasten gehen durch die Balken, und die zweite Tabelle hat dieselben Zahlen. Die Eingabetaste auf einem Balken oder einer Zahl geht zu den Buchungen dahinter, und auf einer Buchung zum Register.
+
+Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen Wechselkursen umgerechnet wird. Was zwischen den eigenen Konten des Haushalts bewegt wird, ist weder Einnahme noch Ausgabe. „Speichern als“ macht ein Dokument, eine Seite oder eine Tabelle; Strg+P druckt.</translation>
+    </message>
+    <message>
+        <source>In which form is the report saved?</source>
+        <translation>In welcher Form wird der Bericht gespeichert?</translation>
+    </message>
+    <message>
+        <source>Document (PDF)</source>
+        <translation>Dokument (PDF)</translation>
+    </message>
+    <message>
+        <source>Page (HTML)</source>
+        <translation>Seite (HTML)</translation>
+    </message>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>Tabelle (CSV)</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -8308,6 +8392,10 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <source>Another request is not answered yet; try again in a moment.</source>
         <translation>Eine andere Anfrage ist noch nicht beantwortet; versuchen Sie es gleich noch einmal.</translation>
     </message>
+    <message>
+        <source>Exported to “%1”.</source>
+        <translation>Nach „%1“ exportiert.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::DueLines</name>
@@ -8606,10 +8694,6 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <translation>Alles (JSON)</translation>
     </message>
     <message>
-        <source>Exported to “%1”.</source>
-        <translation>Nach „%1“ exportiert.</translation>
-    </message>
-    <message>
         <source>The budget &apos;%1&apos; is intact.</source>
         <translation>Das Budget „%1“ ist unbeschädigt.</translation>
     </message>
@@ -8624,10 +8708,6 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     <message>
         <source>Check of the file</source>
         <translation>Prüfung der Datei</translation>
-    </message>
-    <message>
-        <source>Exported to “%1”. %2</source>
-        <translation>Nach „%1“ exportiert. %2</translation>
     </message>
 </context>
 <context>
@@ -10108,6 +10188,145 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>Import a bank file</source>
         <translation>Datei der Bank importieren</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ReportsPage</name>
+    <message>
+        <source>Reports</source>
+        <translation>Berichte</translation>
+    </message>
+    <message>
+        <source>&amp;What:</source>
+        <translation>&amp;Was:</translation>
+    </message>
+    <message>
+        <source>Spa&amp;ns:</source>
+        <translation>&amp;Zeiträume:</translation>
+    </message>
+    <message>
+        <source>F&amp;rom:</source>
+        <translation>&amp;Von:</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>B&amp;is:</translation>
+    </message>
+    <message>
+        <source>On&amp;ly:</source>
+        <translation>Nu&amp;r:</translation>
+    </message>
+    <message>
+        <source>&amp;Convert into:</source>
+        <translation>Umre&amp;chnen in:</translation>
+    </message>
+    <message>
+        <source>Lines of the report</source>
+        <translation>Zeilen des Berichts</translation>
+    </message>
+    <message>
+        <source>Values of the line</source>
+        <translation>Werte der Zeile</translation>
+    </message>
+    <message>
+        <source>Entries behind the value</source>
+        <translation>Buchungen hinter dem Wert</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Wochen</translation>
+    </message>
+    <message>
+        <source>Two weeks</source>
+        <translation>Zwei Wochen</translation>
+    </message>
+    <message>
+        <source>Payday to payday</source>
+        <translation>Von Zahltag zu Zahltag</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>Quartale</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Jahre</translation>
+    </message>
+    <message>
+        <source>All days as one</source>
+        <translation>Alle Tage als einer</translation>
+    </message>
+    <message>
+        <source>twelve spans</source>
+        <translation>zwölf Zeiträume</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>all entries; words as in a search</source>
+        <translation>alle Buchungen; Wörter wie in der Suche</translation>
+    </message>
+    <message>
+        <source>A&amp;dd up</source>
+        <translation>&amp;Summieren</translation>
+    </message>
+    <message>
+        <source>Start &amp;again</source>
+        <translation>Neu an&amp;fangen</translation>
+    </message>
+    <message>
+        <source>&amp;Save as …</source>
+        <translation>Speichern &amp;als …</translation>
+    </message>
+    <message>
+        <source>&amp;Print …</source>
+        <translation>Druc&amp;ken …</translation>
+    </message>
+    <message>
+        <source>Save a &amp;report as …</source>
+        <translation>Einen Berich&amp;t speichern als …</translation>
+    </message>
+    <message>
+        <source>&amp;Print a report …</source>
+        <translation>Einen Bericht d&amp;rucken …</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>Es ist kein Budget geöffnet.</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a name and a span of days</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: no entries</source>
+        <translation>%1: keine Buchungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n entries, together %2</source>
+        <translation>
+            <numerusform>%1: %n Buchung, zusammen %2</numerusform>
+            <numerusform>%1: %n Buchungen, zusammen %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The first %1 are shown.</source>
+        <translation>Die ersten %1 sind zu sehen.</translation>
     </message>
 </context>
 <context>

@@ -504,4 +504,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>kiv::desktop::ReportsPage</name>
+    <message numerus="yes">
+        <source>%1: %n entries, together %2</source>
+        <translation>
+            <numerusform>%1: %n entry, together %2</numerusform>
+            <numerusform>%1: %n entries, together %2</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -7727,10 +7727,6 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <translation>A</translation>
     </message>
     <message>
-        <source>(without)</source>
-        <translation>(sin nombre)</translation>
-    </message>
-    <message>
         <source>Savings rate, %1</source>
         <translation>Tasa de ahorro, %1</translation>
     </message>
@@ -7878,6 +7874,94 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     <message>
         <source>Several budget items are named &apos;%1&apos;; write one of these: %2.</source>
         <translation>Varias partidas se llaman «%1»; hay que escribir una de estas: %2.</translation>
+    </message>
+    <message>
+        <source>Without an exchange rate, and apart: %1</source>
+        <translation>Sin tipo de cambio, y aparte: %1</translation>
+    </message>
+    <message>
+        <source>(no tag)</source>
+        <translation>(sin etiqueta)</translation>
+    </message>
+    <message>
+        <source>(no payee)</source>
+        <translation>(sin beneficiario)</translation>
+    </message>
+    <message>
+        <source>All expenses, %1</source>
+        <translation>Todos los gastos, %1</translation>
+    </message>
+    <message>
+        <source>All income, %1</source>
+        <translation>Todos los ingresos, %1</translation>
+    </message>
+    <message>
+        <source>%1 for %2. The largest: %3 with %4.</source>
+        <translation>%1 de %2. Lo mayor: %3 con %4.</translation>
+    </message>
+    <message>
+        <source>%1: %2 together, %3 on average.</source>
+        <translation>%1: %2 en total, %3 de media.</translation>
+    </message>
+    <message>
+        <source>%1, planned and actual</source>
+        <translation>%1, previsto y real</translation>
+    </message>
+    <message>
+        <source>%1: %2 planned for each span, %3 on average.</source>
+        <translation>%1: %2 previsto por periodo, %3 de media.</translation>
+    </message>
+    <message>
+        <source>at the end of each span</source>
+        <translation>al final de cada periodo</translation>
+    </message>
+    <message>
+        <source>All items but wages, %1</source>
+        <translation>Todas las partidas salvo sueldos, %1</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received; %3 kept, which is %4.</source>
+        <translation>%1 gastado, %2 recibido; %3 conservado, que es el %4.</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received; %3 more spent than received.</source>
+        <translation>%1 gastado, %2 recibido; %3 más gastado que recibido.</translation>
+    </message>
+    <message>
+        <source>Convert all amounts into this currency, at the present rates</source>
+        <translation>Convertir todos los importes a esta moneda, a los tipos actuales</translation>
+    </message>
+    <message>
+        <source>Where the money went and came from. “What” is added up by category, payee, tag or account; the overview has what is owned and the plan of each item. Spans last from a week to a year, or from payday to payday; without days there are twelve up to today. “Only” takes a search, as on the page “Register”.
+
+Each row of the first table has its own chart. The arrow keys go through the bars, and the second table has the same numbers. Enter on a bar or a number goes to the entries behind it, and Enter on an entry to the register.
+
+Each currency stands by itself unless one is chosen to convert into, at the present exchange rates. What moves between the household’s own accounts is neither income nor expense. “Save as” makes a document, a page or a table; Ctrl+P prints.</source>
+        <translation>Adónde fue el dinero y de dónde vino. «Qué» se suma por categoría, beneficiario, etiqueta o cuenta; el resumen tiene lo que se posee y lo previsto de cada partida. Los periodos duran de una semana a un año, o de un día de pago al siguiente; sin días son doce hasta hoy. «Solo» admite una búsqueda, como en la página «Registro».
+
+Cada fila de la primera tabla tiene su propio gráfico. Las flechas recorren las barras, y la segunda tabla tiene los mismos números. Intro en una barra o un número va a los asientos que hay detrás, e Intro en un asiento va al registro.
+
+Cada moneda va por separado salvo que se elija una a la que convertir, a los tipos de cambio actuales. Lo que se mueve entre las cuentas del hogar no es ingreso ni gasto. «Guardar como» hace un documento, una página o una tabla; Ctrl+P imprime.</translation>
+    </message>
+    <message>
+        <source>In which form is the report saved?</source>
+        <translation>¿En qué forma se guarda el informe?</translation>
+    </message>
+    <message>
+        <source>Document (PDF)</source>
+        <translation>Documento (PDF)</translation>
+    </message>
+    <message>
+        <source>Page (HTML)</source>
+        <translation>Página (HTML)</translation>
+    </message>
+    <message>
+        <source>Table (CSV)</source>
+        <translation>Tabla (CSV)</translation>
+    </message>
+    <message>
+        <source>Printed.</source>
+        <translation>Impreso.</translation>
     </message>
 </context>
 <context>
@@ -8308,6 +8392,10 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <source>Another request is not answered yet; try again in a moment.</source>
         <translation>Otra petición aún no tiene respuesta; inténtelo de nuevo en un momento.</translation>
     </message>
+    <message>
+        <source>Exported to “%1”.</source>
+        <translation>Exportado a «%1».</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::DueLines</name>
@@ -8606,10 +8694,6 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <translation>Todo (JSON)</translation>
     </message>
     <message>
-        <source>Exported to “%1”.</source>
-        <translation>Exportado a «%1».</translation>
-    </message>
-    <message>
         <source>The budget &apos;%1&apos; is intact.</source>
         <translation>El presupuesto «%1» está íntegro.</translation>
     </message>
@@ -8624,10 +8708,6 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     <message>
         <source>Check of the file</source>
         <translation>Comprobación del archivo</translation>
-    </message>
-    <message>
-        <source>Exported to “%1”. %2</source>
-        <translation>Exportado a «%1». %2</translation>
     </message>
 </context>
 <context>
@@ -10108,6 +10188,145 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>Import a bank file</source>
         <translation>Importar un archivo del banco</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::ReportsPage</name>
+    <message>
+        <source>Reports</source>
+        <translation>Informes</translation>
+    </message>
+    <message>
+        <source>&amp;What:</source>
+        <translation>&amp;Qué:</translation>
+    </message>
+    <message>
+        <source>Spa&amp;ns:</source>
+        <translation>&amp;Periodos:</translation>
+    </message>
+    <message>
+        <source>F&amp;rom:</source>
+        <translation>&amp;Desde:</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>&amp;Hasta:</translation>
+    </message>
+    <message>
+        <source>On&amp;ly:</source>
+        <translation>&amp;Solo:</translation>
+    </message>
+    <message>
+        <source>&amp;Convert into:</source>
+        <translation>&amp;Convertir a:</translation>
+    </message>
+    <message>
+        <source>Lines of the report</source>
+        <translation>Líneas del informe</translation>
+    </message>
+    <message>
+        <source>Values of the line</source>
+        <translation>Valores de la línea</translation>
+    </message>
+    <message>
+        <source>Entries behind the value</source>
+        <translation>Asientos detrás del valor</translation>
+    </message>
+    <message>
+        <source>Overview</source>
+        <translation>Resumen</translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation>Semanas</translation>
+    </message>
+    <message>
+        <source>Two weeks</source>
+        <translation>Dos semanas</translation>
+    </message>
+    <message>
+        <source>Payday to payday</source>
+        <translation>De día de pago a día de pago</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Meses</translation>
+    </message>
+    <message>
+        <source>Quarters</source>
+        <translation>Trimestres</translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation>Años</translation>
+    </message>
+    <message>
+        <source>All days as one</source>
+        <translation>Todos los días como uno</translation>
+    </message>
+    <message>
+        <source>twelve spans</source>
+        <translation>doce periodos</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>hoy</translation>
+    </message>
+    <message>
+        <source>all entries; words as in a search</source>
+        <translation>todos los asientos; palabras como en una búsqueda</translation>
+    </message>
+    <message>
+        <source>A&amp;dd up</source>
+        <translation>Su&amp;mar</translation>
+    </message>
+    <message>
+        <source>Start &amp;again</source>
+        <translation>Empe&amp;zar de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Save as …</source>
+        <translation>&amp;Guardar como …</translation>
+    </message>
+    <message>
+        <source>&amp;Print …</source>
+        <translation>Imp&amp;rimir …</translation>
+    </message>
+    <message>
+        <source>Save a &amp;report as …</source>
+        <translation>Guardar un in&amp;forme como …</translation>
+    </message>
+    <message>
+        <source>&amp;Print a report …</source>
+        <translation>Impri&amp;mir un informe …</translation>
+    </message>
+    <message>
+        <source>No budget is open.</source>
+        <translation>No hay ningún presupuesto abierto.</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <comment>a name and a span of days</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1: no entries</source>
+        <translation>%1: sin asientos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n entries, together %2</source>
+        <translation>
+            <numerusform>%1: %n asiento, en total %2</numerusform>
+            <numerusform>%1: %n asientos, en total %2</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The first %1 are shown.</source>
+        <translation>Se muestran los primeros %1.</translation>
     </message>
 </context>
 <context>
