@@ -7920,14 +7920,6 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
         <translation>Alle Posten außer Löhnen, %1</translation>
     </message>
     <message>
-        <source>%1 spent, %2 received; %3 kept, which is %4.</source>
-        <translation>%1 ausgegeben, %2 eingenommen; %3 behalten, das sind %4.</translation>
-    </message>
-    <message>
-        <source>%1 spent, %2 received; %3 more spent than received.</source>
-        <translation>%1 ausgegeben, %2 eingenommen; %3 mehr ausgegeben als eingenommen.</translation>
-    </message>
-    <message>
         <source>Convert all amounts into this currency, at the present rates</source>
         <translation>Alle Beträge zu den jetzigen Kursen in diese Währung umrechnen</translation>
     </message>
@@ -7962,6 +7954,22 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     <message>
         <source>Printed.</source>
         <translation>Gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received</source>
+        <translation>%1 ausgegeben, %2 eingenommen</translation>
+    </message>
+    <message>
+        <source>%1; %2 more spent than received.</source>
+        <translation>%1; %2 mehr ausgegeben als eingenommen.</translation>
+    </message>
+    <message>
+        <source>%1; %2 kept, which is %3.</source>
+        <translation>%1; %2 behalten, das sind %3.</translation>
+    </message>
+    <message>
+        <source>%1; %2 kept.</source>
+        <translation>%1; %2 behalten.</translation>
     </message>
 </context>
 <context>
@@ -10261,10 +10269,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <translation>Jahre</translation>
     </message>
     <message>
-        <source>All days as one</source>
-        <translation>Alle Tage als einer</translation>
-    </message>
-    <message>
         <source>twelve spans</source>
         <translation>zwölf Zeiträume</translation>
     </message>
@@ -10327,6 +10331,21 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>The first %1 are shown.</source>
         <translation>Die ersten %1 sind zu sehen.</translation>
+    </message>
+    <message>
+        <source>All as one</source>
+        <translation>Alles als einer</translation>
+    </message>
+    <message>
+        <source>twelve months</source>
+        <translation>zwölf Monate</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n entries, which change it by %2</source>
+        <translation>
+            <numerusform>%1: %n Buchung, die es um %2 ändert</numerusform>
+            <numerusform>%1: %n Buchungen, die es um %2 ändern</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -513,5 +513,12 @@
             <numerusform>%1: %n entries, together %2</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1: %n entries, which change it by %2</source>
+        <translation>
+            <numerusform>%1: %n entry, which changes it by %2</numerusform>
+            <numerusform>%1: %n entries, which change it by %2</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -7920,14 +7920,6 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
         <translation>Todas las partidas salvo sueldos, %1</translation>
     </message>
     <message>
-        <source>%1 spent, %2 received; %3 kept, which is %4.</source>
-        <translation>%1 gastado, %2 recibido; %3 conservado, que es el %4.</translation>
-    </message>
-    <message>
-        <source>%1 spent, %2 received; %3 more spent than received.</source>
-        <translation>%1 gastado, %2 recibido; %3 más gastado que recibido.</translation>
-    </message>
-    <message>
         <source>Convert all amounts into this currency, at the present rates</source>
         <translation>Convertir todos los importes a esta moneda, a los tipos actuales</translation>
     </message>
@@ -7962,6 +7954,22 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     <message>
         <source>Printed.</source>
         <translation>Impreso.</translation>
+    </message>
+    <message>
+        <source>%1 spent, %2 received</source>
+        <translation>%1 gastado, %2 recibido</translation>
+    </message>
+    <message>
+        <source>%1; %2 more spent than received.</source>
+        <translation>%1; %2 más gastado que recibido.</translation>
+    </message>
+    <message>
+        <source>%1; %2 kept, which is %3.</source>
+        <translation>%1; %2 conservado, que es el %3.</translation>
+    </message>
+    <message>
+        <source>%1; %2 kept.</source>
+        <translation>%1; %2 conservado.</translation>
     </message>
 </context>
 <context>
@@ -10261,10 +10269,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <translation>Años</translation>
     </message>
     <message>
-        <source>All days as one</source>
-        <translation>Todos los días como uno</translation>
-    </message>
-    <message>
         <source>twelve spans</source>
         <translation>doce periodos</translation>
     </message>
@@ -10327,6 +10331,21 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>The first %1 are shown.</source>
         <translation>Se muestran los primeros %1.</translation>
+    </message>
+    <message>
+        <source>All as one</source>
+        <translation>Todo como uno</translation>
+    </message>
+    <message>
+        <source>twelve months</source>
+        <translation>doce meses</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n entries, which change it by %2</source>
+        <translation>
+            <numerusform>%1: %n asiento, que lo cambia en %2</numerusform>
+            <numerusform>%1: %n asientos, que lo cambian en %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>

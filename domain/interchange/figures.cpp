@@ -135,20 +135,8 @@ void addAccount(const Flow &flow, const QString &path, const QString &plainPath,
         figures.balances.push_back({path, plainPath, type, balance, change});
 }
 
-/// The flow of the account that the item owns; null when it has none.
 template <typename Item>
-const Flow *flowOf(const Item &item, const Flows &flows)
-{
-    const QString name = budgeting::itemAccountName(item.source());
-    const auto found = std::ranges::find_if(flows, [&name](const auto &flow) {
-        return flow.second.account.type() == budgeting::ItemTraits<Item>::accountType &&
-               flow.second.account.code().name() == name;
-    });
-    return found == flows.end() ? nullptr : &found->second;
-}
-
-template <typename Item>
-void addItem(const Item &item, const Flows &flows, Figures &figures)
+void addItem(const Item &item, const Flow *flow, Figures &figures)
 {
     constexpr BudgetItemTypes kind = budgeting::ItemTraits<Item>::type;
     const Money planned = plannedPer(figures.period, item);
@@ -156,7 +144,6 @@ void addItem(const Item &item, const Flows &flows, Figures &figures)
     const std::size_t spans = figures.period.size();
     ItemFigure figure{kind, item.source().name(), planned, std::vector(spans, Money(currency)),
                       Money(currency)};
-    const Flow *flow = flowOf(item, flows);
     const auto found = figures.currencies.find(currency);
     CurrencyFigures *sums = found == figures.currencies.end() ? nullptr : &found->second;
     const bool isOutgoing = kind != BudgetItemTypes::Wage;
@@ -206,16 +193,32 @@ void addConverted(const CurrencyFigures &sums, const InCurrency &in, Figures &co
 
 } // namespace
 
-std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
-                             const TransactionSource &transactions, const budgeting::Budget &budget)
+ItemAccounts itemAccountsByName(const std::set<Account> &accounts, const budgeting::Budget &budget)
 {
-    std::set<QString> names;
-    for (const auto &[source, wage] : budget.wages)
-        names.insert(budgeting::itemAccountName(source));
+    std::map<std::pair<AccountTypes, QString>, AccountNumber> named;
+    for (const Account &account : accounts)
+        named.emplace(std::pair(account.type(), account.code().name()), account.code().number());
+    ItemAccounts found;
+    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        for (const auto &[source, item] : budget.items<Item>()) {
+            const auto account = named.find(
+                {budgeting::ItemTraits<Item>::accountType, budgeting::itemAccountName(source)});
+            if (account != named.end())
+                found.emplace(
+                    budgeting::BudgetItemIdentifier{budgeting::ItemTraits<Item>::type, source},
+                    account->second);
+        }
+    });
+    return found;
+}
+
+std::vector<QDate> paydaysOf(const TransactionSource &transactions,
+                             const ItemAccounts &itemAccounts)
+{
     std::map<AccountNumber, std::set<QDate>> paydays;
-    for (const Account &account : accounts) {
-        if (account.type() == AccountTypes::Income && names.contains(account.code().name()))
-            paydays.try_emplace(account.code().number());
+    for (const auto &[item, account] : itemAccounts) {
+        if (item.type == BudgetItemTypes::Wage)
+            paydays.try_emplace(account);
     }
     transactions([&paydays](const Transaction &transaction) {
         const auto found = paydays.find(transaction.crediting().number());
@@ -230,7 +233,8 @@ std::vector<QDate> paydaysOf(const std::set<Account> &accounts,
 }
 
 Figures figuresOf(const Period &period, const std::set<Account> &accounts,
-                  const TransactionSource &transactions, const budgeting::Budget &budget)
+                  const TransactionSource &transactions, const budgeting::Budget &budget,
+                  const ItemAccounts &itemAccounts)
 {
     Figures figures{period, {}, {}, {}};
     const std::map<AccountNumber, QString> paths = accountPaths(accounts);
@@ -245,8 +249,12 @@ Figures figuresOf(const Period &period, const std::set<Account> &accounts,
         addAccount(flow, paths.at(number), plainPaths.at(number), figures);
     std::ranges::sort(figures.balances, {}, &BalanceFigure::path);
     budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        for (const auto &[source, item] : budget.items<Item>())
-            addItem(item, flows, figures);
+        for (const auto &[source, item] : budget.items<Item>()) {
+            const auto account = itemAccounts.find({budgeting::ItemTraits<Item>::type, source});
+            const auto flow =
+                account == itemAccounts.end() ? flows.end() : flows.find(account->second);
+            addItem(item, flow == flows.end() ? nullptr : &flow->second, figures);
+        }
     });
     return figures;
 }

@@ -63,16 +63,23 @@ struct Figures {
     std::map<numira::Currency, CurrencyFigures> currencies; ///< of all accounts
 };
 
+/// The accounts of the items that have one.
+using ItemAccounts = std::map<budgeting::BudgetItemIdentifier, accounting::AccountNumber>;
+
+/// Finds them by the names that items' accounts have unless somebody renames them.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT ItemAccounts
+itemAccountsByName(const std::set<accounting::Account> &accounts, const budgeting::Budget &budget);
+
 /// The days on which a wage came in, in rising order: of the wage that did so on most days.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<QDate>
-paydaysOf(const std::set<accounting::Account> &accounts, const TransactionSource &transactions,
-          const budgeting::Budget &budget);
+paydaysOf(const TransactionSource &transactions, const ItemAccounts &itemAccounts);
 
 /// Computes the figures in one pass over the transactions. All transactions must be between
 /// `accounts`. Throws what adding the amounts throws.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures
 figuresOf(const Period &period, const std::set<accounting::Account> &accounts,
-          const TransactionSource &transactions, const budgeting::Budget &budget);
+          const TransactionSource &transactions, const budgeting::Budget &budget,
+          const ItemAccounts &itemAccounts);
 
 /// The figures with all that has a rate in one currency; the rest stays as it is.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures inCurrency(const Figures &figures,

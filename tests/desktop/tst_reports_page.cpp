@@ -5,6 +5,9 @@
 #include "pages/report_output.h"
 #include "widgets/chart_view.h"
 
+#include "conversion/currency_converter.h"
+#include "numira/library.h"
+
 #include <QtCore/QJsonArray>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -141,15 +144,80 @@ private slots:
         home.trigger("back");
         QCOMPARE(home.window().page()->detail(), u"category/group/expense/USD/Rent"_s);
         // Of one span the bars are the names.
-        choose(home, "spans", u"All days as one"_s);
+        choose(home, "spans", u"All as one"_s);
         QVERIFY(texts(home, 0, "values").contains(u"Rent"_s));
         chart.lookAt(static_cast<std::size_t>(texts(home, 0, "values").indexOf(u"Rent"_s)));
         QVERIFY(texts(home, 1, "entries").size() > 1);
         // The overview has items with their plans, and what is owned.
+        choose(home, "spans", u"Months"_s);
         choose(home, "by", u"Overview"_s);
-        QVERIFY(texts(home, 0, "lines").contains(u"Net worth, USD"_s));
-        QCOMPARE(texts(home, 2, "lines")[texts(home, 0, "lines").indexOf(u"Rent"_s)].isEmpty(),
-                 false);
+        QCOMPARE(texts(home, 2, "lines")[texts(home, 0, "lines").indexOf(u"Rent"_s)],
+                 dollars("900"));
+        table(home, "lines")
+            .selectRow(static_cast<int>(texts(home, 0, "lines").indexOf(u"Net worth, USD"_s)));
+        QVERIFY(told(home, "entriesTold").contains(u"which change it by"_s));
+        // A search leaves only what can be compared with it.
+        fill(home, "words", u"item:Rent"_s);
+        QCOMPARE(texts(home, 0, "lines"),
+                 QStringList({u"All expenses, USD"_s, u"All income, USD"_s}));
+        QVERIFY(told(home).endsWith(u"Only what fits: item:Rent"_s));
+    }
+
+    void itFollowsTheBooksAndForgetsThemWithTheFile()
+    {
+        HouseholdWindow home;
+        const QString file = home.path(u"home.budget"_s);
+        KivCommand(file).makeHousehold();
+        // An item keeps its figures when somebody renames its account.
+        KivCommand(file).run({u"account"_s, u"recode"_s, u"Rent"_s, u"--name"_s, u"Flat"_s});
+        QVERIFY(home.window().open(file));
+        home.show();
+        home.trigger("page reports");
+        choose(home, "by", u"Overview"_s);
+        const auto rent = texts(home, 0, "lines").indexOf(u"Rent"_s);
+        QCOMPARE(texts(home, 3, "lines")[rent], dollars("1800"));
+        fill(home, "words", u"account:Flat"_s);
+        home.trigger("undo");
+        // The account of the search is gone, and with it the figures.
+        QVERIFY(told(home).isEmpty());
+        QVERIFY(!message(home).isEmpty());
+        home.trigger("redo");
+        QVERIFY(!told(home).isEmpty());
+        // Another file has other accounts.
+        const QString other = home.path(u"other.budget"_s);
+        KivCommand(other).run({u"demo"_s, other});
+        QVERIFY(home.window().open(other));
+        home.trigger("page reports");
+        QCOMPARE(part<QLineEdit>(home, "words").text(), QString());
+        QCOMPARE(message(home), QString());
+        // Of many names the chosen one has a bar, however small it is.
+        choose(home, "by", u"By category"_s);
+        choose(home, "spans", u"All as one"_s);
+        const QStringList names = texts(home, 0, "lines");
+        QVERIFY(names.size() > 14);
+        for (int line = 0; line < names.size(); ++line) {
+            table(home, "lines").selectRow(line);
+            if (line >= 4) // behind the sums of two currencies
+                QVERIFY2(told(home, "entriesTold").startsWith(names[line] + u':'),
+                         qPrintable(names[line]));
+        }
+        // Without a rate currencies stay apart, and with one they do not.
+        choose(home, "in", u"EUR"_s);
+        QVERIFY(told(home, "rates").endsWith(u"apart: USD"_s));
+        // The process converts as its first window does, which is gone.
+        const auto leave = qScopeGuard([] {
+            conversion::CurrencyConverter::updateCache({});
+            numira::setUpLibrary({}, "en_US", numira::ShouldAllowFallback::Yes);
+        });
+        numira::setUpLibrary([rates = workbench::storeTypedRates(
+                                  home.requests(), numira::toCurrency("USD"),
+                                  {{numira::toCurrency("EUR"), numira::FloatingPoint("0.5")}})](
+                                 const auto &from, const auto &to) { return rates.rate(from, to); },
+                             "en_US", numira::ShouldAllowFallback::Yes);
+        choose(home, "spans", u"Months"_s);
+        QVERIFY2(told(home, "rates").startsWith(u"1 USD is 0.5 EUR, typed by hand"_s),
+                 qPrintable(told(home, "rates")));
+        QCOMPARE(texts(home, 0, "lines").filter(u"USD"_s), QStringList());
     }
 
     void whatCannotBeAskedIsToldAtItsField()
@@ -174,8 +242,13 @@ private slots:
         QVERIFY(message(home).contains(u"1200 spans"_s));
         press(home, Qt::Key_Escape);
         QCOMPARE(message(home), QString());
+        // What the days are blamed for is told at the days, whatever is searched.
+        part<QLineEdit>(home, "words").setText(u"account:Nowhere"_s);
+        fill(home, "from", u"2030-01-01"_s);
+        QVERIFY(part<QLineEdit>(home, "from").hasFocus());
+        press(home, Qt::Key_Escape);
         fill(home, "words", u"nobody"_s);
-        QCOMPARE(told(home), u"Nothing was spent or earned."_s);
+        QCOMPARE(told(home), u"Nothing was spent or earned.\nOnly what fits: nobody"_s);
         QVERIFY(part<desktop::ChartView>(home, "").isHidden());
     }
 
@@ -205,7 +278,8 @@ private slots:
         home.questions().files = {home.path(u"print.pdf"_s)};
         home.trigger("print");
         QVERIFY(QFileInfo(home.path(u"print.pdf"_s)).size() > 10000);
-        // What is printed has its charts, amounts at the right, and nothing that cannot be unfolded.
+        // What is printed has its charts, amounts at the right, and nothing that cannot be
+        // unfolded.
         const workbench::BudgetReport report(
             home.requests(),
             {interchange::SpanLength::Month, QDate(2026, 1, 1), QDate(2026, 2, 28), {}, {}, {}});

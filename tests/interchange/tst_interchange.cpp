@@ -266,13 +266,14 @@ QString pageOf(const Case &given)
     const TransactionSource transactions = [&books](const auto &visit) {
         std::ranges::for_each(books.transactions, visit);
     };
+    const ItemAccounts itemAccounts = itemAccountsByName(books.accounts, books.budget);
     const auto length =
         static_cast<SpanLength>(QStringList{u"week"_s, u"two-weeks"_s, u"payday"_s, u"month"_s,
                                             u"quarter"_s, u"year"_s, u"whole"_s}
                                     .indexOf(given.options.value(u"span"_s, u"month"_s)));
     const Period period(day(given.options.value(u"from"_s).toLatin1()),
                         day(given.options.value(u"to"_s).toLatin1()), length,
-                        paydaysOf(books.accounts, transactions, books.budget));
+                        paydaysOf(transactions, itemAccounts));
     std::map<kiv::accounting::AccountNumber, QStringList> names;
     for (const kiv::accounting::Account &account : books.accounts)
         names[account.code().number()] = {
@@ -285,7 +286,8 @@ QString pageOf(const Case &given)
                  given.options.contains(u"all"_s) ? Grouped::Accounts : Grouped::Flows);
     if (given.options.contains(u"csv"_s))
         return QString::fromUtf8(toCsv(groups)).remove(u'\r').trimmed();
-    const Figures figures = figuresOf(period, books.accounts, transactions, books.budget);
+    const Figures figures =
+        figuresOf(period, books.accounts, transactions, books.budget, itemAccounts);
     QString page = QString::fromUtf8(
         toHtml(&figures, groups, {given.options.value(u"title"_s, u"t"_s), u"By category"_s, {}}));
     static const QRegularExpression loaded(u"https?:|src=|@import|url\\("_s);

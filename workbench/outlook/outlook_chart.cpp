@@ -32,19 +32,18 @@ interchange::Chart outlookChart(const LookingAhead &ahead, const outlook::Curve 
     return chart;
 }
 
-std::optional<interchange::Chart> outlookUntil(Document &document, QDate last)
+std::optional<interchange::Chart> outlookOfReport(Document &document, QDate last,
+                                                  const numira::Currency &currency)
 {
     OutlookQuestion question;
     question.first = foundation::today();
     if (last < question.first)
         return std::nullopt;
-    Requests &requests = document.requests();
-    const LookingAhead ahead =
-        lookAhead(document.present(), question, requests.preferredCurrency());
+    const LookingAhead ahead = lookAhead(document.present(), question, currency);
     if (!ahead.together)
         return std::nullopt;
     return outlookChart(ahead, *ahead.together, QObject::tr("All together"), {},
-                        requests.accounts(), document.displayAs());
+                        document.requests().accounts(), document.displayAs());
 }
 
 interchange::Chart outlookBars(const interchange::Chart &chart, qsizetype barsMax)

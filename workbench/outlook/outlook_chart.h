@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/entry/account_index.h"
 #include "workbench/document/document.h"
+#include "workbench/entry/account_index.h"
 #include "workbench/outlook/looking_ahead.h"
 
 #include "interchange/chart.h"
@@ -17,10 +17,10 @@ outlookChart(const LookingAhead &ahead, const outlook::Curve &curve, const QStri
              const std::optional<numira::Money> &floor, const AccountIndex &index,
              navigation::CurrencyDisplayOptions displayAs);
 
-/// All accounts together from today to this day, in the preferred currency; nothing if the day is
-/// past, or without an account.
+/// All accounts together on the days to come, for a report that ends on the day `last` and is in
+/// this currency: nothing if that day is past, or without an account.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<interchange::Chart>
-outlookUntil(Document &document, QDate last);
+outlookOfReport(Document &document, QDate last, const numira::Currency &currency);
 
 /// The same as bars, at most `barsMax`: each is the least of as many days, and named by the first
 /// of them.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/reports/budget_report.h"
 
+#include "workbench/requests/paying_account.h"
+
 #include "foundation/presentation.h"
 
 namespace kiv::workbench {
@@ -12,6 +14,17 @@ using interchange::TransactionSource;
 using numira::Currency;
 
 namespace {
+
+interchange::ItemAccounts accountsOfItems(const Requests::Data &data)
+{
+    interchange::ItemAccounts accounts;
+    data.budget.forEach([&](const budgeting::BudgetedMoney &item) {
+        const budgeting::BudgetItemIdentifier id = identify(item);
+        if (const auto account = workbench::accountOf(data, id))
+            accounts.emplace(id, *account);
+    });
+    return accounts;
+}
 
 std::optional<TransactionFilter> filterOf(const ReportQuestion &question, const AccountIndex &index)
 {
@@ -32,6 +45,7 @@ BudgetReport::BudgetReport(Requests &requests, const ReportQuestion &question)
       m_question(question),
       m_index(requests.accounts()),
       m_view(requests),
+      m_itemAccounts(accountsOfItems(requests.present())),
       m_period(periodOf(question)),
       m_filter(filterOf(question, m_index))
 {
@@ -41,8 +55,8 @@ Period BudgetReport::periodOf(const ReportQuestion &question) const
 {
     std::vector<QDate> paydays;
     if (question.length == SpanLength::Payday)
-        paydays = interchange::paydaysOf(
-            m_index.accounts(), interchange::transactionsOf(m_index.accounts()), m_view.budget());
+        paydays =
+            interchange::paydaysOf(interchange::transactionsOf(m_index.accounts()), m_itemAccounts);
     return reportPeriod(question.length, question.from, question.to, paydays,
                         interchange::firstDayOf(m_index.accounts()));
 }
@@ -70,7 +84,7 @@ void BudgetReport::visit(const std::function<void(const Transaction &)> &visit,
 
 interchange::GroupsOf BudgetReport::names(Grouping grouping) const
 {
-    return groupNames(grouping, m_requests, m_view, m_index);
+    return groupNames(grouping, m_view, m_itemAccounts, m_index);
 }
 
 interchange::Groups BudgetReport::groups(Grouping grouping) const
@@ -81,15 +95,21 @@ interchange::Groups BudgetReport::groups(Grouping grouping) const
                               grouping == Grouping::Account ? interchange::Grouped::Accounts
                                                             : interchange::Grouped::Flows);
     groups.unnamed = unnamedText(grouping);
+    for (const interchange::GroupFigure &figure : groups.figures)
+        m_met.insert(figure.total.code());
     const auto in = conversion();
     return in ? interchange::inCurrency(groups, *in) : groups;
 }
 
 interchange::Figures BudgetReport::figures() const
 {
-    interchange::Figures figures =
-        interchange::figuresOf(m_period, m_index.accounts(),
-                               interchange::transactionsOf(m_index.accounts()), m_view.budget());
+    interchange::Figures figures = interchange::figuresOf(
+        m_period, m_index.accounts(), interchange::transactionsOf(m_index.accounts()),
+        m_view.budget(), m_itemAccounts);
+    for (const interchange::BalanceFigure &figure : figures.balances)
+        m_met.insert(figure.balance.code());
+    for (const interchange::ItemFigure &item : figures.items)
+        m_met.insert({item.planned.code(), item.actual.front().code()});
     const auto in = conversion();
     return in ? interchange::inCurrency(figures, *in) : figures;
 }
@@ -97,7 +117,8 @@ interchange::Figures BudgetReport::figures() const
 std::optional<accounting::AccountNumber> BudgetReport::accountOf(budgeting::BudgetItemTypes kind,
                                                                  const QString &name) const
 {
-    return m_requests.accountOf({kind, budgeting::BudgetSource(name)});
+    const auto found = m_itemAccounts.find({kind, budgeting::BudgetSource(name)});
+    return found == m_itemAccounts.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<interchange::InCurrency> BudgetReport::conversion() const
@@ -109,19 +130,11 @@ std::optional<interchange::InCurrency> BudgetReport::conversion() const
         wanted, [wanted](const numira::Money &money) { return convertedIfKnown(money, wanted); }};
 }
 
-std::set<Currency> BudgetReport::currencies() const
-{
-    std::set<Currency> all;
-    for (const accounting::Account &account : m_index.accounts())
-        all.insert(account.balance().code());
-    return all;
-}
-
 std::vector<UsedRate> BudgetReport::rates() const
 {
     if (!m_question.in)
         return {};
-    return usedRates(presentRates(m_requests), currencies(), *m_question.in);
+    return usedRates(presentRates(m_requests), m_met, *m_question.in);
 }
 
 QStringList BudgetReport::rateTexts() const
@@ -133,7 +146,7 @@ QStringList BudgetReport::rateTexts() const
         texts += QObject::tr("%1 (%2)").arg(presentationText(rate),
                                             foundation::presentationText(rate.origin.day));
     QStringList lacking;
-    for (const Currency &currency : currencies()) {
+    for (const Currency &currency : m_met) {
         if (!convertedIfKnown(numira::Money(currency, 1, 0), *m_question.in))
             lacking += foundation::presentationText(currency);
     }
@@ -143,17 +156,21 @@ QStringList BudgetReport::rateTexts() const
     return texts;
 }
 
-QByteArray BudgetReport::page(Grouping grouping, const QString &title,
-                              const std::optional<interchange::Chart> &ahead,
+QByteArray BudgetReport::page(Grouping grouping, const QString &title, const MakeChart &ahead,
                               const interchange::DrawChart &draw) const
 {
-    // What the budget planned and the household owns is of all transactions.
+    // What the budget planned, the household owns and is to come is of all transactions.
     std::optional<interchange::Figures> all;
-    if (!m_filter)
+    std::optional<interchange::Chart> coming;
+    if (!m_filter) {
         all = figures();
-    return interchange::toHtml(all ? &*all : nullptr, groups(grouping),
+        if (ahead)
+            coming = ahead();
+    }
+    const interchange::Groups grouped = groups(grouping);
+    return interchange::toHtml(all ? &*all : nullptr, grouped,
                                {title, presentationText(grouping), filter(), rateTexts(), draw},
-                               m_filter ? std::nullopt : ahead);
+                               coming);
 }
 
 } // namespace kiv::workbench

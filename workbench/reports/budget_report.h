@@ -59,16 +59,17 @@ public:
     void visit(const std::function<void(const accounting::Transaction &)> &visit,
                std::optional<std::size_t> span = {}) const;
 
-    /// The exchange rates that were used, with their days, and the currencies that stay apart for
-    /// want of one, in sentences; none if nothing is converted.
+    /// The exchange rates that groups() and figures() have used, with their days, and the
+    /// currencies that stay apart for want of one, in sentences; none if nothing is converted.
     [[nodiscard]] QStringList rateTexts() const;
     /// The same rates.
     [[nodiscard]] std::vector<UsedRate> rates() const;
 
     /// The report as a page, see interchange::toHtml(). With `ahead` what is to come stands first,
     /// unless the report is about a search.
+    using MakeChart = std::function<std::optional<interchange::Chart>()>;
     [[nodiscard]] QByteArray page(Grouping grouping, const QString &title,
-                                  const std::optional<interchange::Chart> &ahead,
+                                  const MakeChart &ahead = {},
                                   const interchange::DrawChart &draw = interchange::toSvg) const;
     /// How amounts are shown.
     [[nodiscard]] navigation::CurrencyDisplayOptions displayAs() const
@@ -79,14 +80,15 @@ public:
 private:
     [[nodiscard]] interchange::Period periodOf(const ReportQuestion &question) const;
     [[nodiscard]] std::optional<interchange::InCurrency> conversion() const;
-    [[nodiscard]] std::set<numira::Currency> currencies() const;
 
     Requests &m_requests;
     ReportQuestion m_question;
     AccountIndex m_index;
     BudgetView m_view;
+    interchange::ItemAccounts m_itemAccounts;
     interchange::Period m_period;
     std::optional<TransactionFilter> m_filter;
+    mutable std::set<numira::Currency> m_met; ///< in which something was added up
 };
 
 } // namespace kiv::workbench

@@ -36,21 +36,19 @@ GroupsOf byPaths(const AccountIndex &index, bool isCategory)
     return byAccounts(std::move(names));
 }
 
-GroupsOf byTags(Requests &requests, const BudgetView &view, const AccountIndex &index)
+GroupsOf byTags(const BudgetView &view, const interchange::ItemAccounts &itemAccounts,
+                const AccountIndex &index)
 {
     std::map<AccountNumber, QStringList> names;
     for (const Account &account : index.accounts())
         names[account.code().number()] = {QString()};
-    view.budget().forEach([&](const budgeting::BudgetedMoney &item) {
-        const budgeting::BudgetItemIdentifier id = identify(item);
+    for (const auto &[item, account] : itemAccounts) {
         QStringList tags;
-        for (const tagging::Tag &tag : view.tags(id))
+        for (const tagging::Tag &tag : view.tags(item))
             tags += tag.name();
-        if (tags.isEmpty())
-            return;
-        if (const auto number = requests.accountOf(id))
-            names[*number] = tags;
-    });
+        if (!tags.isEmpty())
+            names[account] = tags;
+    }
     return byAccounts(std::move(names));
 }
 
@@ -164,14 +162,14 @@ interchange::Period reportPeriod(SpanLength length, std::optional<QDate> from, Q
     return {*from, to, length, paydays};
 }
 
-GroupsOf groupNames(Grouping grouping, Requests &requests, const BudgetView &view,
-                    const AccountIndex &index)
+GroupsOf groupNames(Grouping grouping, const BudgetView &view,
+                    const interchange::ItemAccounts &itemAccounts, const AccountIndex &index)
 {
     switch (grouping) {
     case Grouping::Payee:
         return byPayees();
     case Grouping::Tag:
-        return byTags(requests, view, index);
+        return byTags(view, itemAccounts, index);
     case Grouping::Category:
     case Grouping::Account:
         break;

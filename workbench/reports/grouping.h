@@ -3,7 +3,7 @@
 
 #include "workbench/requests/budget_view.h"
 
-#include "interchange/groups.h"
+#include "interchange/figures.h"
 
 /// What reports are about, in the words of a household.
 namespace kiv::workbench {
@@ -37,10 +37,9 @@ reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to
              const std::vector<QDate> &paydays, QDate earliest);
 
 /// The names under which a side of a transaction counts.
-[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf groupNames(Grouping grouping,
-                                                                    Requests &requests,
-                                                                    const BudgetView &view,
-                                                                    const AccountIndex &index);
+[[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf
+groupNames(Grouping grouping, const BudgetView &view, const interchange::ItemAccounts &itemAccounts,
+           const AccountIndex &index);
 /// "(no payee)": what has no name.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString unnamedText(Grouping grouping);
 

@@ -141,9 +141,20 @@ std::optional<foundation::Percentage> partOf(const Money &total, const Groups &g
     return interchange::partOf(total, all);
 }
 
+/// The largest lines, of which `at` is one, or the last one instead.
+std::vector<const ReportLine *> largest(const std::vector<ReportLine> &peers, std::size_t at)
+{
+    std::vector<const ReportLine *> shown;
+    for (const ReportLine &peer : peers | std::views::take(namesMax))
+        shown.push_back(&peer);
+    if (at >= shown.size())
+        shown.back() = &peers[at];
+    return shown;
+}
+
 /// The groups over their names, for a report of one span.
 Chart chartOfNames(const Groups &groups, const GroupFigure &first,
-                   const std::vector<ReportLine> &peers)
+                   const std::vector<const ReportLine *> &shown)
 {
     const QString title =
         QObject::tr("%1, %2", "such as: Expense, USD")
@@ -151,13 +162,13 @@ Chart chartOfNames(const Groups &groups, const GroupFigure &first,
     Chart chart{ChartKind::Bars,
                 title,
                 QObject::tr("%1 for %2. The largest: %3 with %4.")
-                    .arg(title, groups.period.labels().front(), peers.front().name,
+                    .arg(title, groups.period.labels().front(), nameOf(groups, first),
                          presentationText(first.total)),
                 {},
                 {{title, {}}}};
-    for (const ReportLine &peer : peers | std::views::take(namesMax)) {
-        chart.labels += peer.name;
-        chart.series.front().values.push_back(*peer.total);
+    for (const ReportLine *peer : shown) {
+        chart.labels += peer->name;
+        chart.series.front().values.push_back(*peer->total);
     }
     return chart;
 }
@@ -199,15 +210,11 @@ std::vector<ReportLine> groupLines(const BudgetReport &report, Grouping grouping
                groups.figures[at].total.code() == first.total.code();
              ++at)
             peers.push_back(lineOf(report, groups, groups.figures[at], names));
-        if (groups.period.size() == 1) {
-            const Chart chart = chartOfNames(groups, first, peers);
-            QStringList keys;
-            for (const ReportLine &peer : peers | std::views::take(namesMax))
-                keys += peer.key;
-            for (ReportLine &peer : peers) {
-                peer.chart = chart;
-                peer.peers = keys;
-            }
+        for (std::size_t peer = 0; groups.period.size() == 1 && peer < peers.size(); ++peer) {
+            const auto shown = largest(peers, peer);
+            peers[peer].chart = chartOfNames(groups, first, shown);
+            for (const ReportLine *one : shown)
+                peers[peer].peers += one->key;
         }
         std::ranges::move(peers, std::back_inserter(lines));
     }
@@ -243,9 +250,15 @@ ReportLine lineOf(const BudgetReport &report, const interchange::ItemFigure &ite
 
 std::vector<ReportLine> overviewLines(const BudgetReport &report)
 {
+    std::vector<ReportLine> lines;
+    // Plans and what is owned are of all transactions, and nothing to compare a search with.
+    if (!report.filter().isEmpty()) {
+        for (const auto &[currency, flow] : report.groups(Grouping::Category).currencies)
+            addFlow(report, currency, flow, lines);
+        return lines;
+    }
     const interchange::Figures figures = report.figures();
     const Period &period = report.period();
-    std::vector<ReportLine> lines;
     std::map<Currency, std::set<accounting::AccountNumber>> outgoing;
     for (const interchange::ItemFigure &item : figures.items) {
         const auto account = report.accountOf(item.kind, item.name);
@@ -260,6 +273,7 @@ std::vector<ReportLine> overviewLines(const BudgetReport &report)
             line.name = QObject::tr("Net worth, %1").arg(code);
             line.kind = QObject::tr("at the end of each span");
             line.isSum = true;
+            line.isLevel = true;
             line.chart = std::move(*chart);
             line.share = shareOfWorth(report, currency);
             lines.push_back(std::move(line));
@@ -293,30 +307,36 @@ std::vector<ReportLine> reportLines(const BudgetReport &report, std::optional<Gr
     return grouping ? groupLines(report, *grouping) : overviewLines(report);
 }
 
-QStringList reportSentences(const std::vector<ReportLine> &lines,
-                            navigation::CurrencyDisplayOptions displayAs)
+QStringList reportSentences(const BudgetReport &report, const std::vector<ReportLine> &lines)
 {
     QStringList sentences;
-    const auto text = [displayAs](const Money &money) { return amountText(money, displayAs); };
+    const auto text = [displayAs = report.displayAs()](const Money &money) {
+        return amountText(money, displayAs);
+    };
     for (const ReportLine &line : lines) {
-        // Both sums of a currency have its flow.
-        if (line.flow && line.key.startsWith(QLatin1String("sum/expense"))) {
-            const FlowFigures &flow = *line.flow;
-            const Money kept = flow.totalIncome - flow.totalExpenses;
-            const auto rate = FlowFigures::savingsRate(flow.totalIncome, flow.totalExpenses);
-            const QString spent = text(flow.totalExpenses);
-            const QString received = text(flow.totalIncome);
-            sentences += rate && !kept.isNegative()
-                             ? QObject::tr("%1 spent, %2 received; %3 kept, which is %4.")
-                                   .arg(spent, received, text(kept), presentationText(*rate))
-                             : QObject::tr("%1 spent, %2 received; %3 more spent than received.")
-                                   .arg(spent, received, text(-kept));
-        } else if (line.isSum && !line.total) {
+        if (line.isLevel)
             sentences += line.chart.description;
-        }
+        // Both sums of a currency have its flow.
+        if (!line.flow || !line.key.startsWith(QLatin1String("sum/expense")))
+            continue;
+        const Money &spent = line.flow->totalExpenses;
+        const Money &received = line.flow->totalIncome;
+        const Money kept = received - spent;
+        const auto rate = FlowFigures::savingsRate(received, spent);
+        const QString flowed =
+            QObject::tr("%1 spent, %2 received").arg(text(spent), text(received));
+        if (kept.isNegative())
+            sentences += QObject::tr("%1; %2 more spent than received.").arg(flowed, text(-kept));
+        else if (rate)
+            sentences += QObject::tr("%1; %2 kept, which is %3.")
+                             .arg(flowed, text(kept), presentationText(*rate));
+        else
+            sentences += QObject::tr("%1; %2 kept.").arg(flowed, text(kept));
     }
     if (sentences.isEmpty())
         sentences += QObject::tr("Nothing was spent or earned.");
+    if (!report.filter().isEmpty())
+        sentences += QObject::tr("Only what fits: %1").arg(report.filter());
     return sentences;
 }
 

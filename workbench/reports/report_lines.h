@@ -20,6 +20,7 @@ struct ReportLine {
     QString name;                         ///< of the group, the item or the sum
     QString kind;                         ///< "Expense" or "bill"
     bool isSum = false;                   ///< of the lines of its kind
+    bool isLevel = false;                 ///< its values are levels, and its entries change them
     std::optional<numira::Money> planned; ///< a span, of items
     std::optional<numira::Money> total;   ///< of all spans; nothing for what is owned at their ends
     std::optional<numira::Money> average; ///< of a span
@@ -31,19 +32,20 @@ struct ReportLine {
 };
 
 /// The lines of the report: those of a grouping, or without one what came in, was spent, planned
-/// and is owned. Sums come first.
+/// and is owned; of a search only what came in and was spent. Sums come first.
 [[nodiscard]] KIV_WORKBENCH_EXPORT std::vector<ReportLine>
 reportLines(const BudgetReport &report, std::optional<Grouping> grouping);
 
-/// What came in, was spent and saved in each currency, or is owned, in a sentence each.
+/// What came in, was spent and saved in each currency, or is owned, in a sentence each; and which
+/// search counts.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QStringList
-reportSentences(const std::vector<ReportLine> &lines, navigation::CurrencyDisplayOptions displayAs);
+reportSentences(const BudgetReport &report, const std::vector<ReportLine> &lines);
 
 /// A part of a line's amount.
 struct ReportEntry {
     accounting::Transaction transaction; ///< the entry as a whole
-    accounting::AccountNumber account; ///< the side that adds it
-    numira::Money amount;              ///< in the currency of the account
+    accounting::AccountNumber account;   ///< the side that adds it
+    numira::Money amount;                ///< in the currency of the account
 };
 
 /// What the line is made of in one span, in the order of days.

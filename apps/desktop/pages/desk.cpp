@@ -68,10 +68,8 @@ bool Desk::attempt(FieldMessage &message, QWidget *asker, const QString &line,
         message.complain(asker, *reason);
         return false;
     }
-    try {
-        work();
-    } catch (const foundation::Error &error) {
-        message.complain(asker, workbench::userText(error));
+    if (const auto refused = refusalOf(work)) {
+        message.complain(asker, *refused);
         return false;
     }
     message.withdraw();
@@ -92,15 +90,12 @@ void Desk::wait(const QString &line, const std::function<void()> &work)
 bool Desk::tryWork(const QString &id, const std::function<void()> &work)
 {
     notices().remove(id);
-    try {
-        work();
-        return true;
-    } catch (const foundation::Error &error) {
-        const QString sentence = workbench::userText(error);
-        notices().add({id, sentence, {}});
-        say(sentence);
-        return false;
+    const auto refused = refusalOf(work);
+    if (refused) {
+        notices().add({id, *refused, {}});
+        say(*refused);
     }
+    return !refused;
 }
 
 bool Desk::writeOut(const QString &id, const QString &file, const std::function<void()> &work)

@@ -69,13 +69,11 @@ void ExplanationPanel::explain(const Explain &explain)
 {
     std::vector<Row> rows;
     m_entries.clear();
-    try {
+    const auto refused = refusalOf([&] {
         rows = rowsOf(explain(workbench::Explainer(m_desk.document(), foundation::today())));
-    } catch (const foundation::Error &error) {
-        m_title->setText(workbench::userText(error));
-    } catch (const numira::Error &error) { // such as an amount that overflows
-        m_title->setText(workbench::userText(error));
-    }
+    });
+    if (refused)
+        m_title->setText(*refused);
     m_table->setVisible(!rows.empty());
     m_model->setRows(std::move(rows));
     m_table->settle();

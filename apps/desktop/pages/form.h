@@ -48,12 +48,10 @@ public:
     template <typename Read>
     auto read(QWidget &field, Read &&read) -> std::optional<std::invoke_result_t<Read>>
     {
-        try {
-            return read();
-        } catch (const foundation::Error &error) {
-            m_message->complain(&field, workbench::userText(error));
-            return std::nullopt;
-        }
+        std::optional<std::invoke_result_t<Read>> result;
+        if (const auto refused = refusalOf([&] { result.emplace(read()); }))
+            m_message->complain(&field, *refused);
+        return result;
     }
     /// Makes a change as Desk::perform() does. A refusal is shown at the field that is most
     /// likely at fault.

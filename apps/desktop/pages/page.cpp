@@ -40,14 +40,9 @@ void Page::bringUpToDate()
         return;
     const QString notice = QStringLiteral("page ") + m_id;
     m_desk.notices().remove(notice);
-    try {
-        refresh();
-    } catch (const foundation::Error &error) {
+    if (const auto refused = refusalOf([this] { refresh(); }))
         m_desk.notices().add(
-            {notice,
-             tr("The page “%1” cannot be shown: %2").arg(m_title, workbench::userText(error)),
-             {}});
-    }
+            {notice, tr("The page “%1” cannot be shown: %2").arg(m_title, *refused), {}});
 }
 
 void Page::showEvent(QShowEvent *event)

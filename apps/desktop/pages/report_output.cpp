@@ -120,8 +120,11 @@ void saveReport(Desk &desk, QWidget *window, const BudgetReport &report, Groupin
         if (form == 0)
             bytes = pdfOf(report, grouping);
         else if (form == 1)
-            bytes = report.page(grouping, workbench::reportTitle(),
-                                workbench::outlookUntil(desk.document(), report.period().to()));
+            bytes = report.page(grouping, workbench::reportTitle(), [&] {
+                return workbench::outlookOfReport(
+                    desk.document(), report.period().to(),
+                    report.in().value_or(desk.requests().preferredCurrency()));
+            });
         else
             bytes = interchange::toCsv(report.groups(grouping));
         workbench::writeFile(file, bytes);
@@ -134,8 +137,9 @@ void printReport(Desk &desk, QWidget *window, const BudgetReport &report, Groupi
     printer.setDocName(workbench::reportTitle());
     if (!desk.questions().printer(window, printer))
         return;
-    reportDocument(report, grouping)->print(&printer);
-    desk.say(QObject::tr("Printed."));
+    if (desk.tryWork(QStringLiteral("report"),
+                     [&] { reportDocument(report, grouping)->print(&printer); }))
+        desk.say(QObject::tr("Printed."));
 }
 
 } // namespace kiv::desktop

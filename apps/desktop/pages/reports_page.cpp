@@ -76,10 +76,15 @@ ReportsPage::ReportsPage(Desk &desk)
                                        {SpanLength::Month, tr("Months")},
                                        {SpanLength::Quarter, tr("Quarters")},
                                        {SpanLength::Year, tr("Years")},
-                                       {SpanLength::Whole, tr("All days as one")}})
+                                       {SpanLength::Whole, tr("All as one")}})
         m_spans->addItem(text, static_cast<int>(length));
     m_spans->setCurrentIndex(static_cast<int>(SpanLength::Month));
-    m_from->setPlaceholderText(tr("twelve spans"));
+    const auto tellDefault = [this] {
+        const bool isOne = m_spans->currentData().toInt() == static_cast<int>(SpanLength::Whole);
+        m_from->setPlaceholderText(isOne ? tr("twelve months") : tr("twelve spans"));
+    };
+    connect(m_spans, &QComboBox::currentIndexChanged, this, tellDefault);
+    tellDefault();
     m_to->setPlaceholderText(tr("today"));
     m_words->setPlaceholderText(tr("all entries; words as in a search"));
     m_form->addButton(QStringLiteral("add"), tr("A&dd up"), [this] { (void)ask(); });
@@ -196,7 +201,7 @@ void ReportsPage::goTo(const QString &detail)
 QString ReportsPage::detail() const
 {
     const QString key = m_lineTable->chosen().value(0);
-    const QString by = wordOfChoice(grouping());
+    const QString by = wordOfChoice(m_grouping);
     return key.isEmpty() ? by : by + u'/' + key;
 }
 
@@ -216,7 +221,14 @@ QWidget *ReportsPage::firstFocus()
 void ReportsPage::refresh()
 {
     offerCurrencies();
-    (void)ask();
+    if (std::exchange(m_file, desk().document().file()) != m_file)
+        clearFields();
+    if (ask())
+        return;
+    // The books have changed, so what was shown is not true any longer.
+    m_shown.clear();
+    m_report.reset();
+    showLines();
 }
 
 void ReportsPage::offerCurrencies()
@@ -233,9 +245,8 @@ void ReportsPage::offerCurrencies()
     m_in->setCurrentIndex(std::max(0, m_in->findData(chosen)));
 }
 
-bool ReportsPage::ask()
+std::optional<workbench::ReportQuestion> ReportsPage::readDays()
 {
-    m_form->message().withdraw();
     workbench::ReportQuestion question;
     question.length = static_cast<SpanLength>(m_spans->currentData().toInt());
     question.today = foundation::today();
@@ -251,53 +262,76 @@ bool ReportsPage::ask()
     };
     if (!isRead(*m_from, [&](QDate day) { question.from = day; }) ||
         !isRead(*m_to, [&](QDate day) { question.to = day; }))
-        return false;
+        return std::nullopt;
+    // Days that do not fit each other are refused before the search is looked at.
+    DayEdit &blamed = m_from->text().isEmpty() ? *m_to : *m_from;
+    if (!m_form->read(
+            blamed, [&] { return workbench::BudgetReport(requests(), question).period().size(); }))
+        return std::nullopt;
     question.words = m_words->text();
-    // What does not come from the search comes from the days.
-    QWidget &blamed =
-        question.words.trimmed().isEmpty() ? static_cast<QWidget &>(*m_from) : *m_words;
-    auto report = m_form->read(blamed, [&] {
-        return std::make_unique<const workbench::BudgetReport>(requests(), question);
+    return question;
+}
+
+bool ReportsPage::ask()
+{
+    m_form->message().withdraw();
+    const std::optional<workbench::ReportQuestion> question = readDays();
+    if (!question)
+        return false;
+    auto report = m_form->read(*m_words, [&] {
+        return std::make_unique<const workbench::BudgetReport>(requests(), *question);
     });
     if (!report)
         return false;
-    auto lines = m_form->read(blamed, [&] { return reportLines(**report, grouping()); });
+    auto lines = m_form->read(*m_by, [&] { return reportLines(**report, grouping()); });
     if (!lines)
         return false;
     // What is shown refers to the report.
     m_shown = std::move(*lines);
     m_report = std::move(*report);
-    const auto displayAs = requests().displayAs();
-    m_told->setText(reportSentences(m_shown, displayAs).join(u'\n'));
-    m_rates->setText(m_report->rateTexts().join(u'\n'));
-    m_rates->setVisible(!m_rates->text().isEmpty());
-    const QStringList columns = lineColumns(grouping().has_value());
-    const QString chosen = m_lineTable->chosen().value(0);
-    if (m_lines->columnCount() != columns.size() ||
-        m_lines->headerData(2, Qt::Horizontal, Qt::DisplayRole) != columns[2])
-        m_lines->setColumns(columns);
-    m_lines->setRows(lineRows(m_shown, grouping().has_value(), displayAs));
-    m_lineTable->choose(chosen);
-    m_lineTable->settle();
-    const bool isEmpty = m_shown.empty();
-    for (QWidget *part :
-         {static_cast<QWidget *>(m_chart), static_cast<QWidget *>(m_lineTable),
-          static_cast<QWidget *>(m_valueTable), static_cast<QWidget *>(m_entriesTold),
-          static_cast<QWidget *>(m_entryTable)})
-        part->setVisible(!isEmpty);
-    showLine();
+    m_grouping = grouping();
+    showLines();
     if (isVisible())
         desk().say(m_told->text());
     return true;
 }
 
-void ReportsPage::startAgain()
+void ReportsPage::showLines()
+{
+    m_told->setText(m_report ? reportSentences(*m_report, m_shown).join(u'\n') : QString());
+    m_rates->setText(m_report ? m_report->rateTexts().join(u'\n') : QString());
+    m_rates->setVisible(!m_rates->text().isEmpty());
+    const QStringList columns = lineColumns(m_grouping.has_value());
+    const QString chosen = m_lineTable->chosen().value(0);
+    {
+        const QSignalBlocker quiet(m_lineTable);
+        if (m_lines->columnCount() != columns.size() ||
+            m_lines->headerData(2, Qt::Horizontal, Qt::DisplayRole) != columns[2])
+            m_lines->setColumns(columns);
+        m_lines->setRows(lineRows(m_shown, m_grouping.has_value(), requests().displayAs()));
+        m_lineTable->choose(chosen);
+        m_lineTable->settle();
+    }
+    for (QWidget *part :
+         {static_cast<QWidget *>(m_chart), static_cast<QWidget *>(m_lineTable),
+          static_cast<QWidget *>(m_valueTable), static_cast<QWidget *>(m_entriesTold),
+          static_cast<QWidget *>(m_entryTable)})
+        part->setVisible(!m_shown.empty());
+    showLine();
+}
+
+void ReportsPage::clearFields()
 {
     for (QLineEdit *field :
          {static_cast<QLineEdit *>(m_from), static_cast<QLineEdit *>(m_to), m_words})
         field->clear();
     m_in->setCurrentIndex(0);
     m_spans->setCurrentIndex(static_cast<int>(SpanLength::Month));
+}
+
+void ReportsPage::startAgain()
+{
+    clearFields();
     (void)ask();
     firstFocus()->setFocus(Qt::OtherFocusReason);
 }
@@ -312,14 +346,20 @@ void ReportsPage::showLine()
 {
     const ReportLine *shown = line();
     const auto displayAs = requests().displayAs();
-    m_chart->setChart(shown ? shown->chart : interchange::Chart(), displayAs);
-    m_values->setColumns(shown ? valueColumns(*shown) : QStringList());
-    m_values->setRows(shown ? valueRows(*shown, displayAs) : std::vector<Row>());
-    if (shown && !shown->peers.isEmpty())
-        m_valueTable->choose(QString::number(shown->peers.indexOf(shown->key)));
-    else if (shown)
-        m_valueTable->choose(QString::number(shown->chart.labels.size() - 1)); // the newest
-    m_valueTable->settle();
+    const QString before = m_valueTable->chosen().value(0);
+    {
+        const QSignalBlocker quiet(m_valueTable);
+        m_chart->setChart(shown ? shown->chart : interchange::Chart(), displayAs);
+        m_values->setColumns(shown ? valueColumns(*shown) : QStringList());
+        m_values->setRows(shown ? valueRows(*shown, displayAs) : std::vector<Row>());
+        if (shown && !shown->peers.isEmpty())
+            m_valueTable->choose(QString::number(shown->peers.indexOf(shown->key)));
+        else if (m_values->place(before) >= 0)
+            m_valueTable->choose(before);
+        else if (shown)
+            m_valueTable->choose(QString::number(shown->chart.labels.size() - 1)); // the newest
+        m_valueTable->settle();
+    }
     showEntries();
 }
 
@@ -328,10 +368,11 @@ void ReportsPage::showEntries()
     const ReportLine *shown = line();
     const QString value = m_valueTable->chosen().value(0);
     m_behind.clear();
-    QString label;
+    QString told;
     if (shown && !value.isEmpty()) {
+        m_chart->setPoint(value.toULongLong());
         std::size_t span = value.toULongLong();
-        label = shown->chart.labels.value(value.toLongLong());
+        QString label = shown->chart.labels.value(value.toLongLong());
         if (!shown->peers.isEmpty()) {
             // Each value is a line of its own, and there is one span.
             const QString &key = shown->peers.at(value.toLongLong());
@@ -341,21 +382,29 @@ void ReportsPage::showEntries()
             label = tr("%1, %2", "a name and a span of days").arg(shown->name, label);
         }
         m_behind = entriesOf(*m_report, *shown, span);
+        told = entriesText(*shown, label);
     }
+    m_entriesTold->setText(told);
+    m_entries->setRows(m_report ? entryRows(m_behind, m_report->index(), requests().displayAs())
+                                : std::vector<Row>());
+    m_entryTable->settle();
+}
+
+QString ReportsPage::entriesText(const ReportLine &line, const QString &label) const
+{
+    if (m_behind.empty())
+        return tr("%1: no entries").arg(label);
     workbench::Sums sums;
     for (const workbench::ReportEntry &entry : m_behind)
         workbench::add(sums, entry.amount);
-    const auto displayAs = requests().displayAs();
-    QString told = m_behind.empty() ? tr("%1: no entries").arg(label)
-                                    : tr("%1: %n entries, together %2", nullptr,
-                                         static_cast<int>(m_behind.size()))
-                                          .arg(label, workbench::sumsText(sums, displayAs));
+    const QString sum = workbench::sumsText(sums, requests().displayAs());
+    const auto count = static_cast<int>(m_behind.size());
+    QString text = (line.isLevel ? tr("%1: %n entries, which change it by %2", nullptr, count)
+                                 : tr("%1: %n entries, together %2", nullptr, count))
+                       .arg(label, sum);
     if (m_behind.size() > entriesMax)
-        told += u' ' + tr("The first %1 are shown.").arg(entriesMax);
-    m_entriesTold->setText(told);
-    m_entries->setRows(m_report ? entryRows(m_behind, m_report->index(), displayAs)
-                                : std::vector<Row>());
-    m_entryTable->settle();
+        text += u' ' + tr("The first %1 are shown.").arg(entriesMax);
+    return text;
 }
 
 void ReportsPage::chooseValue(std::size_t label)
@@ -367,14 +416,14 @@ void ReportsPage::save()
 {
     if (!m_report)
         return;
-    saveReport(desk(), window(), *m_report, grouping().value_or(Grouping::Category));
+    saveReport(desk(), window(), *m_report, m_grouping.value_or(Grouping::Category));
 }
 
 void ReportsPage::print()
 {
     if (!m_report)
         return;
-    printReport(desk(), window(), *m_report, grouping().value_or(Grouping::Category));
+    printReport(desk(), window(), *m_report, m_grouping.value_or(Grouping::Category));
 }
 
 } // namespace kiv::desktop

@@ -43,15 +43,25 @@ protected:
 private:
     void build();
     void addActions();
+    /// What is added up, as the field says.
     [[nodiscard]] std::optional<workbench::Grouping> grouping() const;
     void offerCurrencies();
-    /// Adds up as the fields say, or says at its field what cannot be asked.
+    /// The days and spans that the fields say; nothing if a field is refused.
+    [[nodiscard]] std::optional<workbench::ReportQuestion> readDays();
+    /// Adds up as the fields say, or says at its field what cannot be asked; then all stays as it
+    /// was. Returns whether it could.
     bool ask();
     void startAgain();
+    void clearFields();
+    /// Shows the report.
+    void showLines();
     /// Shows the line that is chosen.
     void showLine();
     /// Shows the entries of the value that is chosen.
     void showEntries();
+    /// How many they are, and what they come to.
+    [[nodiscard]] QString entriesText(const workbench::ReportLine &line,
+                                      const QString &label) const;
     /// The value of this label is chosen.
     void chooseValue(std::size_t label);
     [[nodiscard]] const workbench::ReportLine *line() const;
@@ -73,7 +83,9 @@ private:
     TableModel *m_entries;
     Table *m_entryTable;
     QLabel *m_rates;
+    QString m_file; ///< to which the fields belong
     std::unique_ptr<const workbench::BudgetReport> m_report;
+    std::optional<workbench::Grouping> m_grouping; ///< of the report that is shown
     std::vector<workbench::ReportLine> m_shown;
     std::vector<workbench::ReportEntry> m_behind;
 };

@@ -5,6 +5,7 @@
 
 #include "workbench/entry/money_text.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtGui/QAccessible>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAccessibleWidget>
@@ -70,10 +71,15 @@ void ChartView::lookAt(std::size_t label)
 {
     if (isEmpty())
         return;
-    m_point = std::min(label, static_cast<std::size_t>(m_chart.labels.size()) - 1);
+    setPoint(std::min(label, static_cast<std::size_t>(m_chart.labels.size()) - 1));
+    emit told(valuesText(*m_point));
+}
+
+void ChartView::setPoint(std::optional<std::size_t> label)
+{
+    m_point = label;
     nameIt();
     update();
-    emit told(valuesText(*m_point));
 }
 
 QString ChartView::tickText(const numira::Decimal &tick) const
@@ -152,14 +158,16 @@ void ChartView::keyPressEvent(QKeyEvent *event)
         lookAt(m_point ? *m_point + 1 : 0);
     else if (event->key() == back)
         lookAt(m_point ? std::max<std::size_t>(*m_point, 1) - 1 : last);
-    else if (m_point && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+    else if (m_point && isSignalConnected(QMetaMethod::fromSignal(&ChartView::opened)) &&
+             (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         emit opened();
     else
         QWidget::keyPressEvent(event);
 }
 
-void ChartView::mouseDoubleClickEvent(QMouseEvent *)
+void ChartView::mouseDoubleClickEvent(QMouseEvent *event)
 {
+    mousePressEvent(event);
     if (m_point)
         emit opened();
 }

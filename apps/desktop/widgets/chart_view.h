@@ -23,6 +23,8 @@ public:
     [[nodiscard]] std::optional<std::size_t> point() const noexcept { return m_point; }
     /// Looks at the values of this label.
     void lookAt(std::size_t label);
+    /// Looks at them without telling it, because somebody else has.
+    void setPoint(std::optional<std::size_t> label);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -1,10 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/requests/requests.h"
+
+#include "numira/error.h"
+
 #include <QtCore/QPointer>
 #include <QtWidgets/QLabel>
 
 namespace kiv::desktop {
+
+/// Runs `work`, and gives the sentence of what was refused or came out too large to be kept;
+/// nothing if it succeeded.
+template <typename Work>
+[[nodiscard]] std::optional<QString> refusalOf(Work &&work)
+{
+    try {
+        work();
+        return std::nullopt;
+    } catch (const foundation::Error &error) {
+        return workbench::userText(error);
+    } catch (const numira::Error &error) {
+        return workbench::userText(error);
+    }
+}
 
 /// The line of a form that says why something was refused. The field at fault keeps what
 /// was typed, is marked and gets the focus.

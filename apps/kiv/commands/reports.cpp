@@ -281,8 +281,10 @@ struct ShowReport {
             call.tellReadable();
         const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
         if (isHtml)
-            return Report().raw(books.page(
-                grouping, title, workbench::outlookUntil(call.document, books.period().to())));
+            return Report().raw(books.page(grouping, title, [&] {
+                return workbench::outlookOfReport(call.document, books.period().to(),
+                                                  in.value_or(call.requests.preferredCurrency()));
+            }));
         if (isCsv)
             return Report().raw(interchange::toCsv(books.groups(grouping)));
         return isGrouped ? grouped(books, grouping, call) : overview(books, call, hasCharts);
