@@ -65,9 +65,10 @@ public:
     /// The same rates.
     [[nodiscard]] std::vector<UsedRate> rates() const;
 
+    /// Makes a chart when the page needs it.
+    using MakeChart = std::function<std::optional<interchange::Chart>()>;
     /// The report as a page, see interchange::toHtml(). With `ahead` what is to come stands first,
     /// unless the report is about a search.
-    using MakeChart = std::function<std::optional<interchange::Chart>()>;
     [[nodiscard]] QByteArray page(Grouping grouping, const QString &title,
                                   const MakeChart &ahead = {},
                                   const interchange::DrawChart &draw = interchange::toSvg) const;
