@@ -31,7 +31,7 @@ WelcomePage::WelcomePage(Desk &desk)
     auto *layout = new QVBoxLayout(this);
     auto *text = new QLabel(
         tr("kiv keeps your household's money: what you have, what is due, and what is left to "
-           "spend. A budget is one file on your computer; nothing is sent anywhere."),
+           "spend. A budget is one file on your computer; nothing of it is sent anywhere."),
         this);
     text->setWordWrap(true);
     layout->addStretch();
