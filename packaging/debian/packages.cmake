@@ -58,9 +58,9 @@ scripted.")
 set(CPACK_DEBIAN_KIV_PACKAGE_RECOMMENDS qt6-translations-l10n)
 kiv_debian_package(desktop kiv-desktop utils "libkiv-navigation1.1 (= ${version})"
   "household budget in a window
-Shows what is there, what is due and what is left to spend, without the terms of
-accounting, and takes what was spent, earned and moved. Every step can be undone.
-Works on the same files as the command kiv.")
+Shows what is there, what is due and what is left to spend, without the terms
+of accounting, and takes what was spent, earned and moved. Every step can be
+undone. Works on the same files as the command kiv.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, kiv")
 kiv_debian_package(dev libkiv-navigation-dev libdevel
   "libkiv-navigation1.1 (= ${version}), libnumira0.10 (= ${version}), qt6-base-dev, libboost-dev"
