@@ -22,7 +22,7 @@ Help needs nothing and leaves nothing:
     --date DATE                 Day of the opening; next due date if --next is
                                 missing
     --file FILE                 Budget file (default: the variable KIV_FILE)
-    --passphrase-file TEXT      File with the passphrase of an encrypted budget
+    --passphrase-file FILE      File with the passphrase of an encrypted budget
                                 (default: the variable KIV_PASSPHRASE_FILE)
     --json                      Print JSON, for programs
     --dry-run                   Show the result, save nothing

@@ -45,6 +45,8 @@ constexpr std::pair<std::string_view, const char *> optionWords[]{
     {"--into", "ACCOUNT"},
     {"--item", "ITEM=AMOUNT"},
     {"--name", "NAME"},
+    {"--new-passphrase-file", "FILE"},
+    {"--passphrase-file", "FILE"},
     {"--tag", "TAG"},
     {"--template", "TEMPLATE"},
     {"--under", "ACCOUNT"},

@@ -4,6 +4,7 @@
 #include "workbench/document/document.h"
 #include "workbench/entry/kind_words.h"
 #include "workbench/requests/budget_view.h"
+#include "workbench/statements/import_format.h"
 
 #include <CLI/CLI.hpp>
 
@@ -153,8 +154,10 @@ Words choicesOf(const std::string &name, const Words &path)
         using enum banking::BankAccountTypes;
         return choices(Checking, Cash, named);
     }
-    if (name == "--format" && path.front() == "import")
-        return {"journal", "csv", "ofx", "qif"};
+    if (name == "--format" && path.front() == "import") {
+        using enum workbench::ImportFormat;
+        return choices(Journal, Camt, workbench::importFormatWord);
+    }
     if (name == "--format")
         return {"journal", "csv", "json"};
     constexpr std::array currencies{"--currency", "--preferred", "--usable", "CURRENCY", "BASE"};

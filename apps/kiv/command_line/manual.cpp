@@ -23,7 +23,8 @@ QByteArray plain(const std::string &text)
 
 bool isCommon(const CLI::Option &option)
 {
-    constexpr std::array common{"--help", "--file", "--json", "--dry-run", "--verbose"};
+    constexpr std::array common{"--help", "--file",    "--passphrase-file",
+                                "--json", "--dry-run", "--verbose"};
     return std::ranges::count(common, option.get_name()) != 0;
 }
 
