@@ -62,10 +62,21 @@ Money averageOf(const std::vector<Money> &amounts)
 struct Flow {
     explicit Flow(const Account &opened, std::size_t spans)
         : account(opened),
-          before(opened.balance().code()),
-          debits(spans, before),
-          credits(spans, before)
+          before(opened.balance()),
+          debits(spans, numira::Money(before.code())),
+          credits(debits)
     {
+    }
+
+    /// Takes a change in, which the balance has already: in a span, or after the last one.
+    void add(std::optional<int> span, const Money &amount, bool isDebit)
+    {
+        if (isDebit == accounting::isDebitNormal(account.type()))
+            before -= amount;
+        else
+            before += amount;
+        if (span)
+            (isDebit ? debits : credits)[static_cast<std::size_t>(*span)] += amount;
     }
 
     /// How the balance changed in a span, positive on the account's own side.
@@ -76,7 +87,7 @@ struct Flow {
     }
 
     const Account &account;
-    Money before; ///< on the account's own side
+    Money before; ///< the period, on the account's own side
     std::vector<Money> debits;
     std::vector<Money> credits;
 };
@@ -91,20 +102,10 @@ Flows flowsOf(const Period &period, const std::set<Account> &accounts,
         flows.try_emplace(account.code().number(), account, period.size());
     transactions([&](const Transaction &transaction) {
         const std::optional<int> span = period.spanOf(transaction.occurredOn());
-        if (!span)
+        if (span && *span < 0)
             return;
-        const auto add = [&](AccountNumber number, const Money &amount, bool isDebit) {
-            Flow &flow = flows.at(number);
-            if (*span >= 0) {
-                (isDebit ? flow.debits : flow.credits)[static_cast<std::size_t>(*span)] += amount;
-            } else if (isDebit == accounting::isDebitNormal(flow.account.type())) {
-                flow.before += amount;
-            } else {
-                flow.before -= amount;
-            }
-        };
-        add(transaction.debiting().number(), transaction.debitAmount(), true);
-        add(transaction.crediting().number(), transaction.creditAmount(), false);
+        flows.at(transaction.debiting().number()).add(span, transaction.debitAmount(), true);
+        flows.at(transaction.crediting().number()).add(span, transaction.creditAmount(), false);
     });
     return flows;
 }

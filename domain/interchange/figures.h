@@ -74,8 +74,9 @@ itemAccountsByName(const std::set<accounting::Account> &accounts, const budgetin
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<QDate>
 paydaysOf(const TransactionSource &transactions, const ItemAccounts &itemAccounts);
 
-/// Computes the figures in one pass over the transactions. All transactions must be between
-/// `accounts`. Throws what adding the amounts throws.
+/// Computes the figures in one pass over the transactions, which must be between `accounts`. Those
+/// from the period's first day on are needed, also those after its last one: what was before is in
+/// the accounts' balances. Throws what adding the amounts throws.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT Figures
 figuresOf(const Period &period, const std::set<accounting::Account> &accounts,
           const TransactionSource &transactions, const budgeting::Budget &budget,

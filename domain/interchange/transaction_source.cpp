@@ -30,13 +30,15 @@ TransactionSource transactionsOf(const std::set<accounting::Account> &accounts, 
     };
 }
 
-QDate firstDayOf(const std::set<accounting::Account> &accounts)
+QDate firstDayOf(const std::set<accounting::Account> &accounts, QDate enough)
 {
     QDate first;
     for (const accounting::Account &account : accounts) {
         const accounting::TransactionList &list = account.transactions();
         for (auto each = list.begin(); each != list.end(); ++each) {
             const QDate day = each.occurredOn();
+            if (day <= enough)
+                return day;
             if (!first.isValid() || day < first)
                 first = day;
         }

@@ -20,8 +20,9 @@ using TransactionSource =
 [[nodiscard]] KIV_INTERCHANGE_EXPORT TransactionSource
 transactionsOf(const std::set<accounting::Account> &accounts, QDate first = {}, QDate last = {});
 
-/// The day of the earliest transaction of the accounts; not valid without any.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT QDate
-firstDayOf(const std::set<accounting::Account> &accounts);
+/// The day of the earliest transaction of the accounts, or of any that is not after the day
+/// `enough`, which spares looking further; not valid without any.
+[[nodiscard]] KIV_INTERCHANGE_EXPORT QDate firstDayOf(const std::set<accounting::Account> &accounts,
+                                                      QDate enough);
 
 } // namespace kiv::interchange

@@ -229,6 +229,22 @@ private:
                                     txn(std::uint16_t(transactions.size() + 1)))
                 .withStatuses(status(8), status(9))
                 .withSideAmounts(amount(4, 5), m_part[6].isEmpty() ? amount(4, 5) : amount(6, 7)));
+        debit(no(m_part[2].toUInt()), transactions.back().debitAmount());
+        debit(no(m_part[3].toUInt()), -transactions.back().creditAmount());
+    }
+    /// As a ledger does.
+    void debit(accounting::AccountNumber number, const numira::Money &amount)
+    {
+        const auto found = std::ranges::find(
+            accounts, number, [](const accounting::Account &one) { return one.code().number(); });
+        if (found->type() == accounting::AccountTypes::Unknown)
+            return; // has no side of its own
+        const bool isDebitNormal = accounting::isDebitNormal(found->type());
+        const accounting::Account after(
+            found->type(), found->code(),
+            isDebitNormal ? found->balance() + amount : found->balance() - amount, false);
+        accounts.erase(found);
+        accounts.insert(after);
     }
     void addItem()
     {

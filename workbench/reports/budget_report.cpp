@@ -57,8 +57,7 @@ Period BudgetReport::periodOf(const ReportQuestion &question) const
     if (question.length == SpanLength::Payday)
         paydays =
             interchange::paydaysOf(interchange::transactionsOf(m_index.accounts()), m_itemAccounts);
-    return reportPeriod(question.length, question.from, question.to, paydays,
-                        interchange::firstDayOf(m_index.accounts()));
+    return reportPeriod(question.length, question.from, question.to, paydays, m_index.accounts());
 }
 
 QString BudgetReport::filter() const
@@ -103,9 +102,10 @@ interchange::Groups BudgetReport::groups(Grouping grouping) const
 
 interchange::Figures BudgetReport::figures() const
 {
-    interchange::Figures figures = interchange::figuresOf(
-        m_period, m_index.accounts(), interchange::transactionsOf(m_index.accounts()),
-        m_view.budget(), m_itemAccounts);
+    interchange::Figures figures =
+        interchange::figuresOf(m_period, m_index.accounts(),
+                               interchange::transactionsOf(m_index.accounts(), m_period.from()),
+                               m_view.budget(), m_itemAccounts);
     for (const interchange::BalanceFigure &figure : figures.balances)
         m_met.insert(figure.balance.code());
     for (const interchange::ItemFigure &item : figures.items)

@@ -152,10 +152,12 @@ QDate usualBegin(SpanLength length, QDate to, const std::vector<QDate> &paydays)
 } // namespace
 
 interchange::Period reportPeriod(SpanLength length, std::optional<QDate> from, QDate to,
-                                 const std::vector<QDate> &paydays, QDate earliest)
+                                 const std::vector<QDate> &paydays,
+                                 const std::set<Account> &accounts)
 {
     if (!from) {
         from = usualBegin(length, to, paydays);
+        const QDate earliest = interchange::firstDayOf(accounts, *from);
         if (earliest.isValid() && earliest <= to)
             from = std::max(*from, earliest);
     }

@@ -31,10 +31,10 @@ KIV_WORKBENCH_EXPORT void readValue(const QString &text, SpanChoice &value);
 
 /// Up to twelve spans that end on the day `to`, from `from` if that is given. A single span
 /// begins on the first of the month, eleven months before. Without `from` there is none before
-/// that of `earliest`, the day of the first transaction: averages would be too low.
+/// that of the first transaction of `accounts`: averages would be too low.
 [[nodiscard]] KIV_WORKBENCH_EXPORT interchange::Period
 reportPeriod(interchange::SpanLength length, std::optional<QDate> from, QDate to,
-             const std::vector<QDate> &paydays, QDate earliest);
+             const std::vector<QDate> &paydays, const std::set<accounting::Account> &accounts);
 
 /// The names under which a side of a transaction counts.
 [[nodiscard]] KIV_WORKBENCH_EXPORT interchange::GroupsOf

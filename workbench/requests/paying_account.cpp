@@ -19,20 +19,23 @@ namespace {
 std::optional<AccountNumber> lastUsed(const accounting::Account &item,
                                       const std::function<bool(AccountNumber)> &canPay)
 {
-    std::optional<AccountNumber> last;
-    QDate day;
+    // Days and numbers come without making the transactions, of which the last one mostly is enough.
+    std::vector<std::pair<QDate, accounting::TransactionNumber>> entries;
+    const accounting::TransactionList &list = item.transactions();
+    for (auto each = list.begin(); each != list.end(); ++each)
+        entries.emplace_back(each.occurredOn(), each.number());
+    // Of one day the transaction with the highest number counts.
+    std::ranges::sort(entries, std::greater<>());
     const AccountNumber own = item.code().number();
-    for (const Transaction &transaction : item.transactions()) {
+    for (const auto &[day, number] : entries) {
+        const Transaction transaction = list.find(number).value();
         const AccountNumber other = transaction.debiting().number() == own
                                         ? transaction.crediting().number()
                                         : transaction.debiting().number();
-        // Of one day the transaction with the highest number counts, which comes last.
-        if ((!day.isValid() || transaction.occurredOn() >= day) && canPay(other)) {
-            last = other;
-            day = transaction.occurredOn();
-        }
+        if (canPay(other))
+            return other;
     }
-    return last;
+    return std::nullopt;
 }
 
 std::optional<AccountNumber> firstChecking(const banking::BankMap &banks,
