@@ -32,6 +32,39 @@ QString money(const QJsonValue &amount)
                         amount[u"amount"].toString().toStdString()));
 }
 
+QStringList moneyOf(const QJsonValue &amounts)
+{
+    QStringList texts;
+    for (const QJsonValue &amount : amounts.toArray())
+        texts += money(amount);
+    return texts;
+}
+
+/// A member of each object.
+QJsonArray each(const QJsonValue &objects, const QString &member)
+{
+    QJsonArray values;
+    for (const QJsonValue &object : objects.toArray())
+        values += object[member];
+    return values;
+}
+
+/// As a cell shows a rate or a part; a dash stands for none.
+QString percent(const QJsonValue &rate)
+{
+    return rate.isNull() ? u"–"_s
+                         : foundation::presentationText(foundation::Percentage(rate.toDouble(), 1));
+}
+
+QJsonObject reportOf(HouseholdWindow &home, const QStringList &arguments)
+{
+    return QJsonDocument::fromJson(KivCommand(home.document().file())
+                                       .run(QStringList{u"report"_s, u"--from"_s, u"2025-10-01"_s,
+                                                        u"--to"_s, u"2026-02-28"_s, u"--json"_s} +
+                                            arguments))
+        .object();
+}
+
 /// Fills in a field, and adds up.
 void fill(HouseholdWindow &home, const char *field, const QString &text)
 {
@@ -85,24 +118,40 @@ private slots:
         choose(home, "by", by.section(u'|', 0, 0));
         choose(home, "spans", span.section(u'|', 0, 0));
         const QJsonObject report =
-            QJsonDocument::fromJson(
-                KivCommand(home.document().file())
-                    .run({u"report"_s, u"--by"_s, by.section(u'|', 1), u"--period"_s,
-                          span.section(u'|', 1), u"--from"_s, u"2025-10-01"_s, u"--to"_s,
-                          u"2026-02-28"_s, u"--json"_s}))
-                .object();
+            reportOf(home, {u"--by"_s, by.section(u'|', 1), u"--period"_s, span.section(u'|', 1)});
         const QJsonArray groups = report[u"groups"].toArray();
         QVERIFY(!groups.isEmpty());
         const QStringList names = texts(home, 0, "lines");
         const QStringList totals = texts(home, 2, "lines");
         const auto sums = names.size() - groups.size();
         QCOMPARE(sums, 2 * report[u"currencies"].toArray().size());
+        const QJsonValue flow = report[u"currencies"][0];
+        const QJsonValue all = flow[u"total"];
+        QCOMPARE(told(home), u"%1 spent, %2 received; %3 kept, which is %4."_s.arg(
+                                 money(all[u"expenses"]), money(all[u"income"]),
+                                 money(all[u"saved"]), percent(all[u"savingsRate"])));
+        table(home, "lines").selectRow(0);
+        QStringList rates;
+        for (const QJsonValue &rate : each(flow[u"spans"], u"savingsRate"_s))
+            rates += percent(rate);
+        for (const auto &[column, key] :
+             {std::pair(1, u"income"_s), {2, u"expenses"_s}, {3, u"saved"_s}})
+            QCOMPARE(texts(home, column, "values"), moneyOf(each(flow[u"spans"], key)));
+        QCOMPARE(texts(home, 4, "values"), rates);
         for (qsizetype at = 0; at < groups.size(); ++at) {
             const QJsonObject group = groups[at].toObject();
             const QString name = group[u"name"].toString();
             if (!name.isEmpty())
                 QCOMPARE(names[sums + at], name);
             QCOMPARE(totals[sums + at], money(group[u"total"]));
+            QCOMPARE(texts(home, 3, "lines")[sums + at], money(group[u"average"]));
+            const QString kind = group[u"kind"].toString();
+            const QJsonValue whole = kind == u"expense" ? all[u"expenses"] : all[u"income"];
+            const double part = 100 * group[u"total"][u"amount"].toString().toDouble() /
+                                whole[u"amount"].toString().toDouble();
+            QCOMPARE(texts(home, 4, "lines")[sums + at], kind == u"expense" || kind == u"income"
+                                                             ? percent(std::round(part * 10) / 10)
+                                                             : u"–"_s);
             table(home, "lines").selectRow(static_cast<int>(sums + at));
             const QJsonArray amounts = group[u"amounts"].toArray();
             const QStringList values = texts(home, 1, "values");
@@ -118,6 +167,46 @@ private slots:
                          qPrintable(sum + u" for "_s + values[value]));
             }
         }
+    }
+
+    void theOverviewHasThePlans()
+    {
+        HouseholdWindow home;
+        home.openHousehold();
+        home.show();
+        home.trigger("page reports");
+        fill(home, "from", u"2025-10-01"_s);
+        fill(home, "to", u"2026-02-28"_s);
+        choose(home, "by", u"Overview"_s);
+        const QJsonObject report = reportOf(home, {});
+        const QJsonValue sums = report[u"currencies"][0];
+        const QStringList names = texts(home, 0, "lines");
+        const auto check = [&](const QString &name, const QList<QJsonValue> &columns) {
+            table(home, "lines").selectRow(static_cast<int>(names.indexOf(name)));
+            for (qsizetype column = 0; column < columns.size(); ++column)
+                QCOMPARE(texts(home, static_cast<int>(column) + 1, "values"),
+                         moneyOf(columns[column]));
+        };
+        check(u"Net worth, USD"_s, {sums[u"netWorth"]});
+        check(u"All income, USD"_s, {sums[u"income"], sums[u"expenses"]});
+        QJsonArray planned;
+        for (qsizetype span = 0; span < sums[u"outgoing"].toArray().size(); ++span)
+            planned += sums[u"planned"];
+        check(u"All items but wages, USD"_s, {planned, sums[u"outgoing"]});
+        QVERIFY(!told(home, "entriesTold").contains(u"no entries"_s));
+        const QJsonArray items = report[u"items"].toArray();
+        for (const QJsonValue &item : items) {
+            const qsizetype row = names.indexOf(item[u"name"].toString());
+            QCOMPARE(texts(home, 2, "lines")[row], money(item[u"planned"]));
+            QCOMPARE(texts(home, 4, "lines")[row], money(item[u"average"]));
+            for (qsizetype span = 0; span < planned.size(); ++span)
+                planned[span] = item[u"planned"];
+            check(names[row], {planned, item[u"actual"]});
+        }
+        // Without income there is no rate, and more was spent.
+        fill(home, "words", u"item:Rent"_s);
+        QVERIFY2(told(home).contains(u"; %1 more spent than received."_s.arg(dollars("1800"))),
+                 qPrintable(told(home)));
     }
 
     void fromABarToItsEntriesByKeys()
