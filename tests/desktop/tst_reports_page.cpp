@@ -25,11 +25,15 @@ QString told(HouseholdWindow &home, const char *label = "told")
     return part<QLabel>(home, label).text();
 }
 
+numira::Money amountOf(const QJsonValue &amount)
+{
+    return numira::toMoney(numira::toCurrency(amount[u"currency"].toString().toStdString()),
+                           amount[u"amount"].toString().toStdString());
+}
+
 QString money(const QJsonValue &amount)
 {
-    return foundation::presentationText(
-        numira::toMoney(numira::toCurrency(amount[u"currency"].toString().toStdString()),
-                        amount[u"amount"].toString().toStdString()));
+    return foundation::presentationText(amountOf(amount));
 }
 
 QStringList moneyOf(const QJsonValue &amounts)
@@ -188,6 +192,11 @@ private slots:
                          moneyOf(columns[column]));
         };
         check(u"Net worth, USD"_s, {sums[u"netWorth"]});
+        const QJsonArray worth = sums[u"netWorth"].toArray();
+        const numira::Money change = amountOf(worth.last()) - amountOf(worth[worth.size() - 2]);
+        QVERIFY2(told(home, "entriesTold")
+                     .endsWith(u"change it by "_s + foundation::presentationText(change)),
+                 qPrintable(told(home, "entriesTold")));
         check(u"All income, USD"_s, {sums[u"income"], sums[u"expenses"]});
         QJsonArray planned;
         for (qsizetype span = 0; span < sums[u"outgoing"].toArray().size(); ++span)
