@@ -181,6 +181,8 @@ void MainWindow::addViewActions()
     addLook("lookSystem", tr("Colours of the &system"), Appearance::System);
     addLook("lookLight", tr("&Light"), Appearance::Light);
     addLook("lookDark", tr("&Dark"), Appearance::Dark);
+    addLook("lookBlackOnWhite", tr("&Black on white"), Appearance::BlackOnWhite);
+    addLook("lookWhiteOnBlack", tr("&White on black"), Appearance::WhiteOnBlack);
     const auto addSize = [this](const char *id, const QString &text, const QKeySequence &keys,
                                 std::function<int(int)> change) {
         m_actions->add(QString::fromLatin1(id), Group::View, text, keys, [this, change] {

@@ -133,10 +133,9 @@ QStringList unreached(QWidget &root, QWidget &first)
     return faults;
 }
 
-QStringList pale(const QPalette &palette)
+QStringList pale(const QPalette &palette, double wanted)
 {
     using desktop::Colour;
-    constexpr double wanted = 4.5;
     QStringList faults;
     const auto judge = [&](const QString &what, const QColor &front, const QColor &back) {
         if (desktop::contrast(front, back) < wanted)

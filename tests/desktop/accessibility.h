@@ -20,7 +20,7 @@ namespace kiv::test {
 /// Widgets that Tab does not reach, beginning at `first`, or reaches twice before all were
 /// reached. The window must be active.
 [[nodiscard]] QStringList unreached(QWidget &root, QWidget &first);
-/// Pairs of colours with a contrast below 4.5.
-[[nodiscard]] QStringList pale(const QPalette &palette);
+/// Pairs of colours with less contrast than is wanted.
+[[nodiscard]] QStringList pale(const QPalette &palette, double wanted);
 
 } // namespace kiv::test

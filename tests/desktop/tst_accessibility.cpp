@@ -60,17 +60,42 @@ private slots:
         QPalette grey;
         grey.setColor(QPalette::WindowText, QColor(0x80, 0x80, 0x80));
         grey.setColor(QPalette::Window, QColor(0xa0, 0xa0, 0xa0));
-        QVERIFY(!pale(grey).isEmpty());
+        QVERIFY(!pale(grey, 4.5).isEmpty());
         QVERIFY(unreached(form, *unnamed).isEmpty());
         unnamed->installEventFilter(this);
         QVERIFY(!unreached(form, *unnamed).isEmpty());
     }
 
-    void bothPalettesCanBeRead()
+    void allPalettesCanBeRead()
     {
         using desktop::Appearance;
         for (const Appearance appearance : {Appearance::Light, Appearance::Dark})
-            QCOMPARE(pale(desktop::paletteFor(appearance, {})), QStringList());
+            QCOMPARE(pale(desktop::paletteFor(appearance, {}), 4.5), QStringList());
+        for (const Appearance appearance : {Appearance::BlackOnWhite, Appearance::WhiteOnBlack})
+            QCOMPARE(pale(desktop::paletteFor(appearance, {}), 7), QStringList());
+        // A desktop with high contrast keeps its colours, but for those that would not be read.
+        QPalette system(Qt::yellow, Qt::black, {}, {}, {}, Qt::yellow, {}, Qt::black, Qt::black);
+        system.setColor(QPalette::Highlight, Qt::darkGray);
+        const QPalette shown = desktop::paletteFor(Appearance::System, system);
+        QCOMPARE(pale(shown, 7), QStringList());
+        QCOMPARE(shown.color(QPalette::Text), QColor(Qt::yellow));
+    }
+
+    void edgesAreSeenWithHighContrast()
+    {
+        const QPalette palette = desktop::paletteFor(desktop::Appearance::WhiteOnBlack, {});
+        for (QWidget *part : std::initializer_list<QWidget *>{
+                 new QLineEdit, new QPushButton, new QCheckBox, new QComboBox, new QListWidget}) {
+            const std::unique_ptr<QWidget> widget(part);
+            widget->setPalette(palette);
+            widget->resize(100, 40);
+            const QImage image = widget->grab().toImage();
+            // Beginning outside, the first pixels lead over the edge.
+            double seen = 0;
+            for (int x = 0; x < 8; ++x)
+                seen = std::max(seen, desktop::contrast(image.pixelColor(x, 20), Qt::black));
+            QVERIFY2(seen >= 3, widget->metaObject()->className());
+        }
     }
 
     void everyPageHasNamesAndKeys_data()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "application/application.h"
 
+#include "widgets/outline_style.h"
+
 #include "workbench/document/program_identity.h"
 #include "workbench/entry/user_locale.h"
 #include "workbench/requests/requests.h"
@@ -32,7 +34,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setDesktopFileName(QStringLiteral("kiv-desktop"));
     setApplicationDisplayName(QStringLiteral("kiv"));
     // The platforms' own styles ignore parts of a palette.
-    setStyle(QStringLiteral("Fusion"));
+    setStyle(new OutlineStyle);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

@@ -108,7 +108,8 @@ void WindowSettings::setOpensLastFile(bool opens)
 Appearance WindowSettings::appearance() const
 {
     const int value = m_file.value(appearanceKey).toInt();
-    return value == 1 ? Appearance::Light : value == 2 ? Appearance::Dark : Appearance::System;
+    const bool isKnown = value > 0 && value <= static_cast<int>(Appearance::WhiteOnBlack);
+    return isKnown ? static_cast<Appearance>(value) : Appearance::System;
 }
 
 void WindowSettings::setAppearance(Appearance appearance)

@@ -18,7 +18,7 @@ public:
     static constexpr qsizetype recentMax = 10;
     /// The text sizes that can be chosen, in percent of the system's.
     static constexpr int textSizeMin = 80;
-    static constexpr int textSizeMax = 200;
+    static constexpr int textSizeMax = 250;
 
     /// In this file.
     explicit WindowSettings(const QString &file);
@@ -59,7 +59,7 @@ public:
     /// Remembers it.
     void setOpensLastFile(bool opens);
 
-    /// Light, dark or as the system.
+    /// The colours of the window.
     [[nodiscard]] Appearance appearance() const;
     /// Remembers it.
     void setAppearance(Appearance appearance);

@@ -119,6 +119,8 @@ void SettingsPage::addLooks()
     m_appearance->addItem(tr("as the system"), QStringLiteral("lookSystem"));
     m_appearance->addItem(tr("light"), QStringLiteral("lookLight"));
     m_appearance->addItem(tr("dark"), QStringLiteral("lookDark"));
+    m_appearance->addItem(tr("black on white"), QStringLiteral("lookBlackOnWhite"));
+    m_appearance->addItem(tr("white on black"), QStringLiteral("lookWhiteOnBlack"));
     connect(m_appearance, &QComboBox::activated, this,
             [this] { desk().actions().action(m_appearance->currentData().toString())->trigger(); });
     m_textSize = m_form->add(QStringLiteral("textSize"), tr("Te&xt size:"), new QComboBox);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace kiv::desktop {
 namespace {
@@ -64,6 +65,43 @@ QPalette darkPalette()
     return palette;
 }
 
+/// The pairs of text and background that an appearance consists of.
+constexpr std::array pairs{std::pair(QPalette::WindowText, QPalette::Window),
+                           std::pair(QPalette::Text, QPalette::Base),
+                           std::pair(QPalette::ButtonText, QPalette::Button)};
+constexpr double highContrast = 19; ///< yellow on black has it, and no usual palette
+constexpr double enhanced = 7;      ///< WCAG 2.1, 1.4.6
+
+/// Two colours for all that there is. What is chosen has them the other way round.
+QPalette contrastPalette(const QColor &text, const QColor &back)
+{
+    QPalette palette(text, back, back, back, back, text, text, back, back);
+    for (const QPalette::ColorRole role :
+         {QPalette::PlaceholderText, QPalette::ToolTipText, QPalette::Link, QPalette::LinkVisited,
+          QPalette::Highlight})
+        palette.setColor(role, text);
+    for (const QPalette::ColorRole role :
+         {QPalette::AlternateBase, QPalette::ToolTipBase, QPalette::HighlightedText})
+        palette.setColor(role, back);
+    const QColor weak = isDark(palette) ? QColor(0x99, 0x99, 0x99) : QColor(0x66, 0x66, 0x66);
+    for (const auto &[front, behind] : pairs)
+        palette.setColor(QPalette::Disabled, front, weak);
+    return palette;
+}
+
+/// The system's palette with its gaps filled: not every desktop sets every colour.
+QPalette followed(const QPalette &system)
+{
+    QPalette palette =
+        contrastPalette(system.color(QPalette::WindowText), system.color(QPalette::Window));
+    if (contrast(system.color(QPalette::HighlightedText), system.color(QPalette::Highlight)) >=
+        enhanced) {
+        for (const QPalette::ColorRole role : {QPalette::Highlight, QPalette::HighlightedText})
+            palette.setColor(role, system.color(role));
+    }
+    return palette;
+}
+
 } // namespace
 
 bool isDark(const QPalette &palette)
@@ -71,8 +109,19 @@ bool isDark(const QPalette &palette)
     return luminance(palette.color(QPalette::Base)) < luminance(palette.color(QPalette::Text));
 }
 
+bool isHighContrast(const QPalette &palette)
+{
+    return std::ranges::all_of(pairs, [&palette](const auto &pair) {
+        return contrast(palette.color(QPalette::Active, pair.first),
+                        palette.color(QPalette::Active, pair.second)) >= highContrast;
+    });
+}
+
 QColor colour(Colour meaning, const QPalette &palette)
 {
+    if (isHighContrast(palette))
+        return palette.color(meaning == Colour::NoticeBack ? QPalette::Window
+                                                           : QPalette::WindowText);
     const Pair &pair = table.at(static_cast<std::size_t>(meaning));
     return QColor::fromRgb(isDark(palette) ? pair.dark : pair.light);
 }
@@ -84,9 +133,15 @@ QPalette paletteFor(Appearance appearance, const QPalette &system)
         return lightPalette();
     case Appearance::Dark:
         return darkPalette();
+    case Appearance::BlackOnWhite:
+        return contrastPalette(Qt::black, Qt::white);
+    case Appearance::WhiteOnBlack:
+        return contrastPalette(Qt::white, Qt::black);
     case Appearance::System:
         break;
     }
+    if (isHighContrast(system))
+        return followed(system);
     return isDark(system) ? darkPalette() : lightPalette();
 }
 

@@ -2,10 +2,10 @@
 #include "widgets/table.h"
 
 #include "models/table_model.h"
+#include "widgets/outline_style.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
-#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QScrollBar>
 
 namespace kiv::desktop {
@@ -15,12 +15,12 @@ namespace {
 constexpr int measuredRows = 200;
 
 /// Keeps the texts of neighbouring cells apart.
-class CellStyle final : public QProxyStyle {
+class CellStyle final : public OutlineStyle {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
     {
-        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        const int usual = OutlineStyle::pixelMetric(metric, option, widget);
         if (metric != PM_FocusFrameHMargin || !widget)
             return usual;
         return usual + widget->fontMetrics().averageCharWidth() / 2;
