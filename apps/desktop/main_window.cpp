@@ -7,6 +7,7 @@
 #include "pages/welcome_page.h"
 #include "session/file_outputs.h"
 #include "session/help_session.h"
+#include "widgets/followed_view.h"
 #include "wizards/first_time_wizard.h"
 
 #include <QtCore/QFileInfo>
@@ -41,7 +42,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
       m_session(nullptr),
       m_help(nullptr),
       m_palette(nullptr),
-      m_list(new QListWidget(this)),
+      m_list(new FollowedView<QListWidget>(this)),
       m_stack(new QStackedWidget(this)),
       m_panel(new ExplanationPanel(*m_desk, this)),
       m_welcome(nullptr),

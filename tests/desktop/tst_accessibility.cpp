@@ -4,6 +4,8 @@
 #include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 
+#include "help/manual.h"
+
 #include "workbench/entry/user_locale.h"
 
 #include <QtCore/QTranslator>
@@ -116,19 +118,57 @@ private slots:
             workbench::speakAsUser(*qApp);
         }
         HouseholdWindow desk;
-        desk.openHousehold();
         desk.show();
         QStringList faults;
-        const auto note = [&faults](const QString &page, const QStringList &found) {
-            for (const QString &fault : found)
-                faults += page + QStringLiteral(": ") + fault;
+        const auto judge = [&faults](QWidget &shown, QWidget &first, const QString &place) {
+            for (const QStringList &found :
+                 {nameless(*shown.window()), mnemonicsTwice(*shown.window()),
+                  unreached(shown, first)}) {
+                for (const QString &fault : found)
+                    faults += place + QStringLiteral(": ") + fault;
+            }
         };
-        desk.lookAtAll([&](QWidget &shown, QWidget &first, const QString &place) {
-            note(place, nameless(desk.window()));
-            note(place, mnemonicsTwice(desk.window()));
-            note(place, unreached(shown, first));
-        });
+        judge(desk.window(), *QApplication::focusWidget(), u"welcome"_s);
+        desk.openHousehold();
+        desk.trigger("page accounts");
+        desk.trigger("explain");
+        desk.window().desk().notices().add({u"one"_s, u"Mind."_s, {{u"Mend"_s, [] {}}}});
+        judge(desk.window(), *QApplication::focusWidget(), u"explanation and notice"_s);
+        desk.lookAtAll(judge);
+        desk.trigger("palette");
+        auto *palette = desk.window().findChild<QWidget *>(u"palette"_s);
+        QCOMPARE(nameless(*palette), QStringList());
+        lookAtDialogs(desk.window(), judge);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+private:
+    /// Has each kind of question asked, looks at its dialog, and gives up.
+    template <typename Look>
+    static void lookAtDialogs(desktop::MainWindow &window, Look &&look)
+    {
+        desktop::DialogQuestions questions;
+        const QString sentence = desktop::householdGuide().section(u'\n', 0, 0);
+        int seen = 0;
+        const auto meet = [&](const QString &name, const std::function<void()> &ask) {
+            QTimer::singleShot(0, &window, [&] {
+                auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                QApplication::setActiveWindow(dialog);
+                QVERIFY(dialog->focusWidget());
+                look(*dialog, *dialog->focusWidget(), name);
+                QVERIFY(dialog->screen()->size().expandedTo(dialog->size()) ==
+                        dialog->screen()->size());
+                ++seen;
+                dialog->reject();
+            });
+            ask();
+        };
+        const QStringList answers(12, sentence);
+        meet(u"choice"_s, [&] { QVERIFY(!questions.choose(&window, sentence, answers)); });
+        meet(u"passphrase"_s, [&] { QVERIFY(!questions.passphrase(&window, sentence)); });
+        meet(u"keys"_s,
+             [&] { questions.show(&window, sentence, window.desk().actions().listOfKeys()); });
+        QCOMPARE(seen, 3);
     }
 
 protected:

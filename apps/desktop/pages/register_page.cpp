@@ -7,6 +7,8 @@
 #include "pages/filter_bar.h"
 #include "pages/register_delegate.h"
 #include "widgets/allow.h"
+#include "widgets/followed_view.h"
+#include "widgets/offer.h"
 
 #include "workbench/entry/money_text.h"
 
@@ -41,7 +43,7 @@ RegisterPage::RegisterPage(Desk &desk)
       m_account(new QComboBox(this)),
       m_import(new QPushButton(tr("Import a bank file"), this)),
       m_filter(new FilterBar(this)),
-      m_table(new QTableView(this)),
+      m_table(new FollowedView<QTableView>(this)),
       m_message(new FieldMessage(this)),
       m_category(new CategoryRow(this)),
       m_entry(new EntryRow(desk, this))
@@ -301,10 +303,10 @@ void RegisterPage::fillAccounts()
         const int order = QString::localeAwareCompare(a.first, b.first);
         return order != 0 ? order < 0 : a.second < b.second;
     });
-    m_account->clear();
-    m_account->addItem(tr("All accounts"));
+    std::vector<std::pair<QString, QVariant>> items{{tr("All accounts"), {}}};
     for (const auto &[name, number] : names)
-        m_account->addItem(name, number.integer());
+        items.emplace_back(name, number.integer());
+    offer(*m_account, items);
     m_account->setCurrentIndex(m_rows->account() ? m_account->findData(m_rows->account()->integer())
                                                  : 0);
 }

@@ -5,6 +5,7 @@
 #include "widgets/account_box.h"
 #include "widgets/day_edit.h"
 #include "widgets/money_edit.h"
+#include "widgets/offer.h"
 
 #include "workbench/requests/account_groups.h"
 
@@ -80,7 +81,7 @@ void SurveyStatement::makeUnbooked()
 void SurveyStatement::offerAccounts()
 {
     const QVariant chosen = m_account->currentData();
-    m_account->clear();
+    std::vector<std::pair<QString, QVariant>> items;
     std::vector<AccountNumber> others;
     for (const GroupedAccount &one : workbench::groupedAccounts(m_desk.document().present())) {
         const AccountNumber number = one.account.code().number();
@@ -88,9 +89,10 @@ void SurveyStatement::offerAccounts()
             continue;
         others.push_back(number);
         if (one.bank)
-            m_account->addItem(tr("%1 (%2)").arg(one.name, one.bank->institution()),
+            items.emplace_back(tr("%1 (%2)").arg(one.name, one.bank->institution()),
                                number.integer());
     }
+    offer(*m_account, items);
     m_account->setCurrentIndex(std::max(0, m_account->findData(chosen)));
     m_unbookedAccount->offer(
         std::make_shared<const workbench::AccountIndex>(m_desk.requests().accounts()), others);

@@ -53,10 +53,11 @@ bool SurveyTicks::eventFilter(QObject *watched, QEvent *event)
     const QString key = m_table->chosen().value(0);
     if (key.isEmpty())
         return true;
-    const int place = m_rows->place(key);
+    // First: a screen reader breaks off what it says when the focus moves, and what the tick
+    // comes to is worth more than the next row.
+    if (const int next = m_rows->place(key) + 1; next < m_rows->rowCount())
+        m_table->choose(m_rows->key(m_rows->index(next, 0)));
     emit ticked(key);
-    if (m_rows->place(key) == place && place + 1 < m_rows->rowCount())
-        m_table->choose(m_rows->key(m_rows->index(place + 1, 0)));
     return true;
 }
 

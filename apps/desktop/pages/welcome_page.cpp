@@ -13,7 +13,8 @@ namespace {
 
 QPushButton *buttonFor(QAction *action, QWidget *parent)
 {
-    auto *button = new QPushButton(action->text(), parent);
+    // Without the letter of the menu: it might be that of a menu here.
+    auto *button = new QPushButton(action->iconText(), parent);
     QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
     return button;
 }

@@ -233,9 +233,7 @@ void FileSession::undo()
 {
     attempt(QStringLiteral("undo"), [this] {
         const Document::Recalled recalled = m_desk.document().undo();
-        m_desk.say(tr("Undone: %1").arg(recalled.deed.line));
-        if (!recalled.deed.place.isEmpty())
-            m_desk.goTo(Place::fromText(recalled.deed.place));
+        tellRecalled(recalled.deed, tr("Undone: %1").arg(recalled.deed.line));
     });
 }
 
@@ -243,10 +241,15 @@ void FileSession::redo()
 {
     attempt(QStringLiteral("undo"), [this] {
         const Document::Recalled recalled = m_desk.document().redo();
-        m_desk.say(recalled.deed.line);
-        if (!recalled.deed.place.isEmpty())
-            m_desk.goTo(Place::fromText(recalled.deed.place));
+        tellRecalled(recalled.deed, recalled.deed.line);
     });
+}
+
+void FileSession::tellRecalled(const workbench::Deed &deed, const QString &sentence)
+{
+    if (!deed.place.isEmpty())
+        m_desk.goTo(Place::fromText(deed.place));
+    m_desk.say(sentence); // over the name of the page
 }
 
 void FileSession::reload()

@@ -55,6 +55,8 @@ private:
     void saveUnder(const QString &heading, const QString &notice);
     void undo();
     void redo();
+    /// Goes where something was undone or done again, and says so.
+    void tellRecalled(const workbench::Deed &deed, const QString &sentence);
     void reload();
     /// Brings a version of a file that is damaged or gone back; the newest whole one if
     /// none is named.

@@ -2,6 +2,7 @@
 #include "widgets/account_box.h"
 
 #include "widgets/completion_keys.h"
+#include "widgets/offer.h"
 
 #include "workbench/errors.h"
 
@@ -43,11 +44,12 @@ void AccountBox::offer(std::shared_ptr<const workbench::AccountIndex> accounts,
         const int order = QString::localeAwareCompare(a.first, b.first);
         return order != 0 ? order < 0 : a.second < b.second;
     });
+    std::vector<std::pair<QString, QVariant>> items;
+    for (const auto &[name, number] : names)
+        items.emplace_back(name, number.integer());
     const QString typed = currentText();
     const QSignalBlocker blocker(this);
-    clear();
-    for (const auto &[name, number] : names)
-        addItem(name, number.integer());
+    desktop::offer(*this, items);
     setCurrentIndex(findText(typed, Qt::MatchExactly));
     setEditText(typed);
 }

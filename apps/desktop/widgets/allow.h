@@ -12,7 +12,9 @@ inline void allow(QWidget &widget, const std::optional<QString> &whyNot)
 {
     widget.setEnabled(!whyNot);
     widget.setToolTip(whyNot.value_or(QString()));
-    widget.setAccessibleDescription(whyNot.value_or(QString()));
+    // Screen readers skip what they are told when they are told too much at once.
+    if (widget.accessibleDescription() != whyNot.value_or(QString()))
+        widget.setAccessibleDescription(whyNot.value_or(QString()));
 }
 
 } // namespace kiv::desktop

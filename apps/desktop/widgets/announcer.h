@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtWidgets/QLabel>
+#include "widgets/spoken_label.h"
 
 namespace kiv::desktop {
 
 /// Says what happened in a sentence: shows it in the status line, and tells screen
 /// readers.
-class Announcer final : public QLabel {
+class Announcer final : public SpokenLabel {
     Q_OBJECT
 
 public:

@@ -3,14 +3,12 @@
 
 #include "widgets/colours.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QAbstractItemView>
 
 namespace kiv::desktop {
 
-FieldMessage::FieldMessage(QWidget *parent) : QLabel(parent)
+FieldMessage::FieldMessage(QWidget *parent) : SpokenLabel(parent)
 {
-    setTextFormat(Qt::PlainText);
     setWordWrap(true);
     hide();
 }
@@ -26,15 +24,19 @@ void FieldMessage::complain(QWidget *field, const QString &sentence)
         field->setPalette(marked);
     }
     field->setAccessibleDescription(sentence);
+    const bool hadFocus = field->hasFocus();
     field->setFocus(Qt::OtherFocusReason);
     QPalette own = palette();
     own.setColor(QPalette::WindowText, colour(Colour::Wrong, own));
     setPalette(own);
     // The sign says without colour that something is wrong.
-    setText(u'\u26a0' + QStringLiteral(" ") + sentence);
+    const QString text = u'\u26a0' + QStringLiteral(" ") + sentence;
     show();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    // Who comes to a field hears its description; who is there already does not.
+    if (hadFocus)
+        speak(text);
+    else
+        setText(text);
 }
 
 void FieldMessage::withdraw()

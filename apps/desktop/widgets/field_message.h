@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "widgets/spoken_label.h"
+
 #include "workbench/requests/requests.h"
 
 #include "numira/error.h"
 
 #include <QtCore/QPointer>
-#include <QtWidgets/QLabel>
 
 namespace kiv::desktop {
 
@@ -27,7 +28,7 @@ template <typename Work>
 
 /// The line of a form that says why something was refused. The field at fault keeps what
 /// was typed, is marked and gets the focus.
-class FieldMessage final : public QLabel {
+class FieldMessage final : public SpokenLabel {
     Q_OBJECT
 
 public:

@@ -2,10 +2,9 @@
 #include "widgets/notice_bar.h"
 
 #include "widgets/colours.h"
+#include "widgets/spoken_label.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
 namespace kiv::desktop {
@@ -33,9 +32,8 @@ void NoticeBar::add(const Notice &notice)
     colours.setColor(QPalette::Window, colour(Colour::NoticeBack, colours));
     row->setPalette(colours);
     auto *layout = new QHBoxLayout(row);
-    auto *text = new QLabel(notice.text, row);
+    auto *text = new SpokenLabel(row);
     text->setObjectName(QStringLiteral("text"));
-    text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     layout->addWidget(text, 1);
     for (const Notice::Choice &choice : notice.choices) {
@@ -50,8 +48,7 @@ void NoticeBar::add(const Notice &notice)
     }
     m_rows->addWidget(row);
     show();
-    QAccessibleEvent event(text, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    text->speak(notice.text);
 }
 
 void NoticeBar::remove(const QString &id)

@@ -30,7 +30,7 @@ public:
 } // namespace
 
 Table::Table(TableModel &model, const QString &name, QWidget *parent)
-    : QTableView(parent), m_rows(model)
+    : FollowedView<QTableView>(parent), m_rows(model)
 {
     auto *style = new CellStyle;
     style->setParent(this);

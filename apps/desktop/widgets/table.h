@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "widgets/followed_view.h"
+
 #include <QtCore/QStringList>
 #include <QtWidgets/QTableView>
 
@@ -9,7 +11,7 @@ namespace kiv::desktop {
 class TableModel;
 
 /// A table of whole rows, for keys, mouse and screen readers. Tab leaves it.
-class Table final : public QTableView {
+class Table final : public FollowedView<QTableView> {
     Q_OBJECT
 
 public:
