@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "widgets/questions.h"
 
+#include <QtGui/QScreen>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialog>
@@ -8,9 +9,9 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QVBoxLayout>
 
 namespace kiv::desktop {
@@ -19,6 +20,28 @@ namespace {
 QString filter()
 {
     return QObject::tr("Budgets (*.budget)");
+}
+
+void addText(QDialog &dialog, const QString &text)
+{
+    auto *label = new QLabel(text, &dialog);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    dialog.layout()->addWidget(label);
+}
+
+void addButtons(QDialog &dialog, QDialogButtonBox::StandardButtons which)
+{
+    auto *buttons = new QDialogButtonBox(which, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    dialog.layout()->addWidget(buttons);
+}
+
+/// Gives a dialog this size, or as much of it as the screen has.
+void fit(QDialog &dialog, QSize wanted)
+{
+    dialog.resize(wanted.boundedTo(dialog.screen()->availableSize() * 0.9));
 }
 
 } // namespace
@@ -57,17 +80,34 @@ QString DialogQuestions::fileToImport(QWidget *parent)
 std::optional<qsizetype> DialogQuestions::choose(QWidget *parent, const QString &question,
                                                  const QStringList &answers)
 {
-    QMessageBox box(QMessageBox::Question, QObject::tr("Question"), question, QMessageBox::NoButton,
-                    parent);
-    box.setTextFormat(Qt::PlainText);
-    std::vector<QAbstractButton *> buttons;
-    for (const QString &answer : answers)
-        buttons.push_back(box.addButton(answer, QMessageBox::AcceptRole));
-    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.front()));
-    box.addButton(QMessageBox::Cancel);
-    box.exec();
-    const auto found = std::ranges::find(buttons, box.clickedButton());
-    return found == buttons.end() ? std::nullopt : std::optional(found - buttons.begin());
+    QDialog dialog(parent);
+    dialog.setWindowTitle(QObject::tr("Question"));
+    new QVBoxLayout(&dialog);
+    addText(dialog, question);
+    // One below the other, and scrolled: many or long ones would not fit beside each other.
+    auto *list = new QWidget;
+    auto *rows = new QVBoxLayout(list);
+    std::optional<qsizetype> chosen;
+    for (qsizetype place = 0; place < answers.size(); ++place) {
+        QString text = answers[place];
+        auto *button = new QPushButton(text.replace(u'&', QStringLiteral("&&")), list);
+        rows->addWidget(button);
+        QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, &chosen, place] {
+            chosen = place;
+            dialog.accept();
+        });
+    }
+    auto *scroll = new QScrollArea(&dialog);
+    scroll->setWidget(list);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    dialog.layout()->addWidget(scroll);
+    addButtons(dialog, QDialogButtonBox::Cancel);
+    rows->itemAt(0)->widget()->setFocus();
+    fit(dialog, dialog.sizeHint());
+    dialog.exec();
+    return chosen;
 }
 
 std::optional<Questions::Typed> DialogQuestions::passphrase(QWidget *parent,
@@ -76,10 +116,7 @@ std::optional<Questions::Typed> DialogQuestions::passphrase(QWidget *parent,
     QDialog dialog(parent);
     dialog.setWindowTitle(QObject::tr("Passphrase"));
     auto *layout = new QVBoxLayout(&dialog);
-    auto *asked = new QLabel(question, &dialog);
-    asked->setTextFormat(Qt::PlainText);
-    asked->setWordWrap(true);
-    layout->addWidget(asked);
+    addText(dialog, question);
     auto *field = new QLineEdit(&dialog);
     field->setEchoMode(QLineEdit::Password);
     field->setAccessibleName(QObject::tr("Passphrase"));
@@ -87,11 +124,9 @@ std::optional<Questions::Typed> DialogQuestions::passphrase(QWidget *parent,
     layout->addWidget(field);
     auto *keep = new QCheckBox(QObject::tr("&Keep it in the desktop’s keyring"), &dialog);
     layout->addWidget(keep);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout->addWidget(buttons);
+    addButtons(dialog, QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     field->setFocus();
+    fit(dialog, dialog.sizeHint());
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return Typed{field->text(), keep->isChecked()};
@@ -113,11 +148,9 @@ void DialogQuestions::show(QWidget *parent, const QString &heading, const QStrin
     shown->setTabChangesFocus(true);
     shown->setAccessibleName(heading);
     layout->addWidget(shown);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout->addWidget(buttons);
-    dialog.resize(dialog.fontMetrics().averageCharWidth() * 80,
-                  dialog.fontMetrics().lineSpacing() * 24);
+    addButtons(dialog, QDialogButtonBox::Close);
+    fit(dialog,
+        {dialog.fontMetrics().averageCharWidth() * 80, dialog.fontMetrics().lineSpacing() * 24});
     dialog.exec();
 }
 
