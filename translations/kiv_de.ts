@@ -9862,6 +9862,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>No number is chosen that can be explained.</source>
         <translation>Es ist keine Zahl gewählt, die erklärt werden kann.</translation>
     </message>
+    <message>
+        <source>&amp;Black on white</source>
+        <translation>Sch&amp;warz auf Weiß</translation>
+    </message>
+    <message>
+        <source>&amp;White on black</source>
+        <translation>W&amp;eiß auf Schwarz</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::NoticeBar</name>
@@ -10601,6 +10609,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>removing the tag “%1”</source>
         <translation>Entfernen des Schlagworts „%1“</translation>
     </message>
+    <message>
+        <source>black on white</source>
+        <translation>Schwarz auf Weiß</translation>
+    </message>
+    <message>
+        <source>white on black</source>
+        <translation>Weiß auf Schwarz</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::SplitLines</name>
@@ -10805,12 +10821,12 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
 <context>
     <name>kiv::desktop::WelcomePage</name>
     <message>
-        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing is sent anywhere.</source>
-        <translation>kiv führt Buch über das Geld Ihres Haushalts: was Sie haben, was fällig ist und was zum Ausgeben bleibt. Ein Budget ist eine Datei auf Ihrem Rechner; nichts davon wird verschickt.</translation>
-    </message>
-    <message>
         <source>Opened before:</source>
         <translation>Zuletzt geöffnet:</translation>
+    </message>
+    <message>
+        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing of it is sent anywhere.</source>
+        <translation>kiv führt das Geld eines Haushalts: was da ist, was fällig ist und was zum Ausgeben bleibt. Ein Budget ist eine Datei auf diesem Rechner; nichts davon wird irgendwohin gesendet.</translation>
     </message>
 </context>
 </TS>

@@ -9862,6 +9862,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>No number is chosen that can be explained.</source>
         <translation>No hay elegida ninguna cifra que se pueda explicar.</translation>
     </message>
+    <message>
+        <source>&amp;Black on white</source>
+        <translation>&amp;Negro sobre blanco</translation>
+    </message>
+    <message>
+        <source>&amp;White on black</source>
+        <translation>&amp;Blanco sobre negro</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::NoticeBar</name>
@@ -10601,6 +10609,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>removing the tag “%1”</source>
         <translation>eliminar la etiqueta «%1»</translation>
     </message>
+    <message>
+        <source>black on white</source>
+        <translation>negro sobre blanco</translation>
+    </message>
+    <message>
+        <source>white on black</source>
+        <translation>blanco sobre negro</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::SplitLines</name>
@@ -10805,12 +10821,12 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
 <context>
     <name>kiv::desktop::WelcomePage</name>
     <message>
-        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing is sent anywhere.</source>
-        <translation>kiv lleva el dinero de su hogar: lo que tiene, lo que vence y lo que queda para gastar. Un presupuesto es un archivo en su ordenador; no se envía a ninguna parte.</translation>
-    </message>
-    <message>
         <source>Opened before:</source>
         <translation>Abiertos antes:</translation>
+    </message>
+    <message>
+        <source>kiv keeps your household&apos;s money: what you have, what is due, and what is left to spend. A budget is one file on your computer; nothing of it is sent anywhere.</source>
+        <translation>kiv lleva el dinero de un hogar: lo que hay, lo que vence y lo que queda para gastar. Un presupuesto es un archivo en este equipo; nada de él se envía a ninguna parte.</translation>
     </message>
 </context>
 </TS>
