@@ -3779,7 +3779,7 @@
     </message>
     <message>
         <source>Programs differ on how aliases rename &apos;%1&apos;; write the full account name.</source>
-        <translation>Programme sind sich nicht einig, wie die Alias „%1“ umbenennen; es hilft, den vollen Namen des Kontos zu schreiben.</translation>
+        <translation>Programme sind sich nicht einig, wie die Aliasnamen „%1“ umbenennen; es hilft, den vollen Namen des Kontos zu schreiben.</translation>
     </message>
     <message>
         <source>Programs differ on which amount gives this balance of &apos;%1&apos;; write the amount.</source>
@@ -3804,8 +3804,8 @@
     <message numerus="yes">
         <source>%n transaction(s) that move no money are skipped.</source>
         <translation>
-            <numerusform>%n Buchung, die nichts bewegt, wird weggelassen.</numerusform>
-            <numerusform>%n Buchungen, die nichts bewegen, werden weggelassen.</numerusform>
+            <numerusform>%n Buchung, die nichts bewegt, wird übersprungen.</numerusform>
+            <numerusform>%n Buchungen, die nichts bewegen, werden übersprungen.</numerusform>
         </translation>
     </message>
     <message>
@@ -4102,7 +4102,7 @@
     </message>
     <message>
         <source>There is nothing to redo.</source>
-        <translation>Es gibt nichts wiederherzustellen.</translation>
+        <translation>Es gibt nichts zu wiederholen.</translation>
     </message>
     <message>
         <source>The file &apos;%1&apos; is gone, but its former versions are kept</source>
@@ -4134,7 +4134,7 @@
     </message>
     <message>
         <source>How many changes (default: 1)</source>
-        <translation>Anzahl der Änderungen (Vorgabe: 1)</translation>
+        <translation>Anzahl der Änderungen (Standard: 1)</translation>
     </message>
     <message>
         <source>Name of the version, see kiv history</source>
@@ -4142,11 +4142,11 @@
     </message>
     <message>
         <source>Name of the older version (default: the one that kiv undo goes to)</source>
-        <translation>Name der älteren Version (Vorgabe: die, zu der kiv undo führt)</translation>
+        <translation>Name der älteren Version (Standard: die, zu der kiv undo führt)</translation>
     </message>
     <message>
         <source>Name of the newer version (default: the file itself)</source>
-        <translation>Name der neueren Version (Vorgabe: die Datei selbst)</translation>
+        <translation>Name der neueren Version (Standard: die Datei selbst)</translation>
     </message>
     <message>
         <source>Take back the last change</source>
@@ -4184,8 +4184,8 @@
     <message numerus="yes">
         <source>Only %n change(s) can be redone.</source>
         <translation>
-            <numerusform>Nur %n Änderung lässt sich wiederherstellen.</numerusform>
-            <numerusform>Nur %n Änderungen lassen sich wiederherstellen.</numerusform>
+            <numerusform>Nur %n Änderung lässt sich wiederholen.</numerusform>
+            <numerusform>Nur %n Änderungen lassen sich wiederholen.</numerusform>
         </translation>
     </message>
     <message>
@@ -4210,7 +4210,7 @@
     </message>
     <message>
         <source>broken</source>
-        <translation>verletzt</translation>
+        <translation>gilt nicht mehr</translation>
     </message>
     <message>
         <source>Only those of this account: number, name or path (default: all)</source>
@@ -4773,11 +4773,11 @@
     </message>
     <message>
         <source>mark of the giver</source>
-        <translation>Merkmal beim Geber</translation>
+        <translation>Vermerk beim Geber</translation>
     </message>
     <message>
         <source>mark of the receiver</source>
-        <translation>Merkmal beim Empfänger</translation>
+        <translation>Vermerk beim Empfänger</translation>
     </message>
     <message>
         <source>refund of</source>
@@ -5168,11 +5168,11 @@
     </message>
     <message>
         <source>Amount of an item of the template, such as &apos;Rent=900&apos;, &apos;Rent=900 2026-03-31&apos; or &apos;goal:Car=50 of 900&apos; (repeatable); items without one are left out</source>
-        <translation>Betrag eines Postens der Vorlage, etwa „Miete=900“, „Miete=900 2026-03-31“ oder „goal:Auto=50 of 900“ (wiederholbar); Posten ohne Betrag entfallen</translation>
+        <translation>Betrag eines Postens der Vorlage, etwa &apos;Miete=900&apos;, &apos;Miete=900 2026-03-31&apos; oder &apos;goal:Auto=50 of 900&apos; (wiederholbar); Posten ohne Betrag entfallen</translation>
     </message>
     <message>
         <source>Give its items amounts, such as --item &apos;%1=100&apos;; those without one are left out.</source>
-        <translation>Den Posten Beträge geben, etwa --item „%1=100“; solche ohne Betrag entfallen.</translation>
+        <translation>Den Posten Beträge geben, etwa --item &apos;%1=100&apos;; solche ohne Betrag entfallen.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is given twice.</source>
@@ -5309,7 +5309,7 @@
     </message>
     <message>
         <source>reconciling “%1”</source>
-        <translation>Abgleichen von „%1“</translation>
+        <translation>„%1“ abgleichen</translation>
     </message>
     <message>
         <source>The transactions of one account or of all, and below them the row for new ones: Spent, Earned or Moved. Enter in any field posts; the day stays. When a payee is known, its last entry fills the other fields.
@@ -5351,7 +5351,7 @@ The survey window says by how much the ticked transactions may miss the balance 
 Removing a tag takes it from all items.</source>
         <translation>Jede Einstellung gilt, sobald ihr Feld verlassen wird. Einstellungen gelten für alle Budgets und können nicht rückgängig gemacht werden. Eine Währung, die das Budget verwendet, muss nutzbar bleiben.
 
-Die Toleranz des Abgleichs sagt, um wie viel die abgehakten Buchungen den Saldo eines Auszugs verfehlen dürfen. Die Stunden und Tage der Arbeit dienen den Löhnen.
+Die Toleranz des Abgleichs sagt, um wie viel die abgehakten Buchungen den Saldo eines Auszugs verfehlen dürfen. Arbeitsstunden und Arbeitstage gelten für Löhne.
 
 Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
@@ -5432,7 +5432,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>The dates are read as %1: only so are they in order.</source>
-        <translation>Die Daten werden als %1 gelesen: Nur so sind sie in der richtigen Reihenfolge.</translation>
+        <translation>Die Datumsangaben werden als %1 gelesen: Nur so sind sie in der richtigen Reihenfolge.</translation>
     </message>
     <message>
         <source>The headings appear again on line %1; the file may contain entries twice.</source>
@@ -5626,7 +5626,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>There are too many rules; remove some first.</source>
-        <translation>Es gibt zu viele Regeln; entfernen Sie erst einige.</translation>
+        <translation>Es gibt zu viele Regeln; erst sind einige zu entfernen.</translation>
     </message>
     <message>
         <source>The file has it twice.</source>
@@ -5642,7 +5642,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>It was imported before.</source>
-        <translation>Er wurde schon eingelesen.</translation>
+        <translation>Er wurde schon importiert.</translation>
     </message>
     <message>
         <source>Another file of the account had it already.</source>
@@ -5669,7 +5669,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>As you said before.</source>
-        <translation>Wie Sie es früher sagten.</translation>
+        <translation>Wie früher angegeben.</translation>
     </message>
     <message>
         <source>The columns that were kept no longer fit, and were found anew: %1</source>
@@ -5709,7 +5709,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Format: journal, csv, ofx, qif, mt940 or camt (default: guessed)</source>
-        <translation>Format: journal, csv, ofx, qif, mt940 oder camt (sonst: erraten)</translation>
+        <translation>Format: journal, csv, ofx, qif, mt940 oder camt (Standard: erraten)</translation>
     </message>
     <message>
         <source>Account number, to choose one of several statements</source>
@@ -5733,7 +5733,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>left out</source>
-        <translation>ausgelassen</translation>
+        <translation>weggelassen</translation>
     </message>
     <message>
         <source>Entry</source>
@@ -5750,8 +5750,8 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     <message numerus="yes">
         <source>Imported %n entries of %1</source>
         <translation>
-            <numerusform>%n Eintrag von %1 eingelesen</numerusform>
-            <numerusform>%n Einträge von %1 eingelesen</numerusform>
+            <numerusform>%n Eintrag von %1 importiert</numerusform>
+            <numerusform>%n Einträge von %1 importiert</numerusform>
         </translation>
     </message>
     <message>
@@ -5851,7 +5851,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Say what entries of statements are for</source>
-        <translation>Sagen, wofür Einträge von Auszügen sind</translation>
+        <translation>Festlegen, wofür Einträge von Auszügen sind</translation>
     </message>
     <message>
         <source>List all rules</source>
@@ -5879,7 +5879,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Entry %1: %2. What was it for? (account or item; empty leaves it out)</source>
-        <translation>Eintrag %1: %2. Wofür war das? (Konto oder Posten; leer lässt ihn aus)</translation>
+        <translation>Eintrag %1: %2. Wofür war das? (Konto oder Posten; leer lässt ihn weg)</translation>
     </message>
     <message>
         <source>Entry %1: %2. What was it for? (empty: %3)</source>
@@ -5891,19 +5891,19 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Entry that is new, whatever is there (repeatable)</source>
-        <translation>Eintrag, der neu ist, was auch da ist (mehrfach möglich)</translation>
+        <translation>Eintrag, der neu ist, was auch da ist (wiederholbar)</translation>
     </message>
     <message>
         <source>ENTRY=TRANSACTION, which is the same (repeatable)</source>
-        <translation>EINTRAG=BUCHUNG, die dasselbe ist (mehrfach möglich)</translation>
+        <translation>EINTRAG=BUCHUNG, die dasselbe ist (wiederholbar)</translation>
     </message>
     <message>
         <source>ENTRY=ACCOUNT, which it is for (repeatable)</source>
-        <translation>EINTRAG=KONTO, für das er ist (mehrfach möglich)</translation>
+        <translation>EINTRAG=KONTO, für das er ist (wiederholbar)</translation>
     </message>
     <message>
         <source>Entry that is not taken (repeatable)</source>
-        <translation>Eintrag, der nicht übernommen wird (mehrfach möglich)</translation>
+        <translation>Eintrag, der nicht übernommen wird (wiederholbar)</translation>
     </message>
     <message>
         <source>Is %1 the day %2?</source>
@@ -5915,18 +5915,18 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Import it all the same?</source>
-        <translation>Trotzdem einlesen?</translation>
+        <translation>Trotzdem importieren?</translation>
     </message>
     <message numerus="yes">
         <source>Import %n entries?</source>
         <translation>
-            <numerusform>%n Eintrag einlesen?</numerusform>
-            <numerusform>%n Einträge einlesen?</numerusform>
+            <numerusform>%n Eintrag importieren?</numerusform>
+            <numerusform>%n Einträge importieren?</numerusform>
         </translation>
     </message>
     <message>
         <source>New: %1; matched: %2; already imported: %3; left out: %4; accounts opened: %5.</source>
-        <translation>Neu: %1; zugeordnet: %2; schon eingelesen: %3; ausgelassen: %4; Konten eröffnet: %5.</translation>
+        <translation>Neu: %1; zugeordnet: %2; schon importiert: %3; weggelassen: %4; Konten eröffnet: %5.</translation>
     </message>
     <message numerus="yes">
         <source>%n entries should be looked at; see the marks with --dry-run.</source>
@@ -5937,7 +5937,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx, qif, mt940 or camt.</source>
-        <translation>Das Format von „%1“ ist nicht zu erkennen; geben Sie --format an: journal, csv, ofx, qif, mt940 oder camt.</translation>
+        <translation>Das Format von „%1“ ist nicht zu erkennen; es wird mit --format angegeben: journal, csv, ofx, qif, mt940 oder camt.</translation>
     </message>
     <message>
         <source>%1 It may be: %2.</source>
@@ -5945,11 +5945,11 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>%1 Use --yes to import it all the same.</source>
-        <translation>%1 Mit --yes wird sie trotzdem eingelesen.</translation>
+        <translation>%1 Mit --yes wird sie trotzdem importiert.</translation>
     </message>
     <message>
         <source>Nothing was imported.</source>
-        <translation>Nichts wurde eingelesen.</translation>
+        <translation>Es wurde nichts importiert.</translation>
     </message>
     <message>
         <source>Transaction %1 cannot be the same as an entry of %2.</source>
@@ -5957,7 +5957,7 @@ Wird ein Schlagwort entfernt, verlieren es alle Posten.</translation>
     </message>
     <message>
         <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
-        <translation>Es ist nicht bekannt, wofür das war: %1. Sagen Sie es mit --for, --against oder einer Regel.</translation>
+        <translation>Es ist nicht bekannt, wofür das war: %1. Es lässt sich mit --for, --against oder einer Regel angeben.</translation>
     </message>
     <message>
         <source>Transaction %1 has its identifier, but another amount.</source>
@@ -6288,7 +6288,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>The survey has too many ticks to be put off.</source>
-        <translation>Der Abgleich hat zu viele Haken, um verschoben zu werden.</translation>
+        <translation>Der Abgleich hat zu viele Haken, um aufgeschoben zu werden.</translation>
     </message>
     <message>
         <source>%1 above the bank</source>
@@ -6336,19 +6336,19 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Changed or reconciled since the survey was put off, and not ticked any more: %1</source>
-        <translation>Geändert oder abgeglichen, seit der Abgleich verschoben wurde, und nicht mehr abgehakt: %1</translation>
+        <translation>Geändert oder abgeglichen, seit der Abgleich aufgeschoben wurde, und nicht mehr abgehakt: %1</translation>
     </message>
     <message>
         <source>Gone since the survey was put off, and left out: %1</source>
-        <translation>Fort, seit der Abgleich verschoben wurde, und weggelassen: %1</translation>
+        <translation>Fort, seit der Abgleich aufgeschoben wurde, und weggelassen: %1</translation>
     </message>
     <message>
         <source>Put off the survey of %1 of %2.</source>
-        <translation>Den Abgleich von %1 zum %2 verschoben.</translation>
+        <translation>Den Abgleich von %1 zum %2 aufgeschoben.</translation>
     </message>
     <message>
         <source>putting off the survey of “%1”</source>
-        <translation>Abgleich von „%1“ verschieben</translation>
+        <translation>den Abgleich von „%1“ aufschieben</translation>
     </message>
     <message>
         <source>%1 of %2, %3</source>
@@ -6401,7 +6401,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Day of the statement (default: that of the bank&apos;s file, or today)</source>
-        <translation>Tag des Kontoauszugs (Vorgabe: der aus der Datei der Bank, oder heute)</translation>
+        <translation>Tag des Kontoauszugs (Standard: der aus der Datei der Bank, oder heute)</translation>
     </message>
     <message>
         <source>&apos;%1&apos; tells no day; give that of the statement.</source>
@@ -6463,7 +6463,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>The survey of %1 goes on, as it was put off.</source>
-        <translation>Der Abgleich vom %1 geht weiter, wie er verschoben wurde.</translation>
+        <translation>Der Abgleich vom %1 geht weiter, wie er aufgeschoben wurde.</translation>
     </message>
     <message>
         <source>To enter them, leave the survey and use kiv import.</source>
@@ -6475,11 +6475,11 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Begin anew, instead of with what was put off</source>
-        <translation>Neu beginnen, statt mit dem Verschobenen</translation>
+        <translation>Neu beginnen, statt mit dem Aufgeschobenen</translation>
     </message>
     <message>
         <source>Put the survey off, to go on with it later?</source>
-        <translation>Den Abgleich verschieben, um später weiterzumachen?</translation>
+        <translation>Den Abgleich aufschieben, um später weiterzumachen?</translation>
     </message>
     <message>
         <source>The books stay %1.</source>
@@ -6487,7 +6487,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>What is on the statement: 3, 1-5,9, &apos;all but 4&apos; or &apos;none&apos; (repeatable; default: what is marked as seen at the bank)</source>
-        <translation>Was auf dem Auszug steht: 3, 1-5,9, „alle außer 4“ oder „keine“ (wiederholbar; Vorgabe: was als bei der Bank gesehen markiert ist)</translation>
+        <translation>Was auf dem Auszug steht: 3, 1-5,9, &apos;alle außer 4&apos; oder &apos;keine&apos; (wiederholbar; Standard: was als bei der Bank gesehen markiert ist)</translation>
     </message>
     <message>
         <source>Item or account to which the difference is posted, such as the interest of a loan</source>
@@ -6603,7 +6603,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>The outlook leaves an entry out: %1.</source>
-        <translation>Die Vorschau lässt einen Eintrag weg: %1.</translation>
+        <translation>Die Vorschau lässt eine Buchung weg: %1.</translation>
     </message>
     <message>
         <source>The outlook leaves &apos;%1&apos; out: no open account can pay it.</source>
@@ -6611,11 +6611,11 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
-        <translation>„%1“ hat nicht die Form „BETRAG on TAG“, etwa „900 on 2026-12-05“.</translation>
+        <translation>„%1“ hat nicht die Form &apos;BETRAG on TAG&apos;, etwa &apos;900 on 2026-12-05&apos;.</translation>
     </message>
     <message>
         <source>How many days to look ahead (default: 92; at most 3,660)</source>
-        <translation>Wie viele Tage vorausgeschaut wird (Vorgabe: 92; höchstens 3.660)</translation>
+        <translation>Wie viele Tage vorausgeschaut wird (Standard: 92; höchstens 3.660)</translation>
     </message>
     <message>
         <source>Tell the first day on which less than this is there</source>
@@ -6627,7 +6627,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>Something more, as in &apos;900 on 2026-12-05&apos;; negative if it comes in (repeatable)</source>
-        <translation>Etwas dazu, wie in „900 on 2026-12-05“; negativ, wenn es hereinkommt (wiederholbar)</translation>
+        <translation>Etwas dazu, wie in &apos;900 on 2026-12-05&apos;; negativ, wenn es hereinkommt (wiederholbar)</translation>
     </message>
     <message>
         <source>List what is paid and received</source>
@@ -6635,7 +6635,7 @@ Der Import tut, was gezeigt wird, und ist ein einziger Schritt zum Rückgängigm
     </message>
     <message>
         <source>First day (default: today)</source>
-        <translation>Erster Tag (Vorgabe: heute)</translation>
+        <translation>Erster Tag (Standard: heute)</translation>
     </message>
     <message>
         <source>Lowest</source>
@@ -7001,7 +7001,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
 1. Das Konto wählen, Tag und Saldo des Auszugs tippen und Enter drücken; oder die Datei der Bank danebenlegen, die beides einträgt.
 2. Jede Buchung abhaken, die auf dem Auszug steht: Die Leertaste hakt ab und geht nach unten. Was die Bank zeigt und in den Büchern fehlt, kann in die Liste aufgenommen werden; der fehlende Betrag wird angeboten.
 3. Der zweite Reiter zeigt, was für die Posten zurückgelegt wird und warum. Ein Betrag kann überschrieben werden; ein leeres Feld nimmt ihn zurück.
-4. Abschließen: Die abgehakten Buchungen sind abgeglichen, der Saldo ist festgehalten. Ein Unterschied darf nur bleiben, wenn Sie es sagen, und wird gezeigt, bis er weg ist.
+4. Abschließen: Die abgehakten Buchungen sind abgeglichen, der Saldo ist festgehalten. Eine Abweichung darf nur bleiben, wenn das ausdrücklich gesagt wird, und wird gezeigt, bis sie weg ist.
 
 „Aufschieben“ behält den Abgleich, um später weiterzumachen. Der dritte Reiter nennt die früheren Abgleiche und sagt, ob ihre Buchungen noch wie damals sind.</translation>
     </message>
@@ -7039,7 +7039,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>Of what is owed, any difference is accepted.</source>
-        <translation>Bei einer Schuld wird jeder Unterschied angenommen.</translation>
+        <translation>Bei einer Schuld wird jede Abweichung angenommen.</translation>
     </message>
     <message>
         <source>That is inside the survey window of %1.</source>
@@ -7059,7 +7059,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>It makes up for the earlier difference.</source>
-        <translation>Er gleicht den früheren Unterschied aus.</translation>
+        <translation>Er gleicht die frühere Abweichung aus.</translation>
     </message>
     <message>
         <source>Calculated %1, statement %2.</source>
@@ -7071,7 +7071,7 @@ Unter der Tabelle steht, wie zustande kommt, was für den gewählten Posten zur�
     </message>
     <message>
         <source>%1, no difference</source>
-        <translation>%1, kein Unterschied</translation>
+        <translation>%1, keine Abweichung</translation>
     </message>
     <message>
         <source>“%1” does not look like a statement of a bank.</source>
@@ -7369,8 +7369,8 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     <message numerus="yes">
         <source>%n earlier entries</source>
         <translation>
-            <numerusform>%n früherer Eintrag</numerusform>
-            <numerusform>%n frühere Einträge</numerusform>
+            <numerusform>%n frühere Buchung</numerusform>
+            <numerusform>%n frühere Buchungen</numerusform>
         </translation>
     </message>
     <message>
@@ -7487,7 +7487,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>%1 is owed; a survey refuses no difference there.</source>
-        <translation>%1 ist geschuldet; dort lehnt ein Abgleich keinen Unterschied ab.</translation>
+        <translation>%1 ist geschuldet; dort lehnt ein Abgleich keine Abweichung ab.</translation>
     </message>
     <message>
         <source>There is no income of which anything could take a part.</source>
@@ -7495,7 +7495,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>%1 is not a day to look ahead to; name one from %2 to %3.</source>
-        <translation>Auf den %1 kann nicht vorausgeschaut werden; geben Sie einen Tag vom %2 bis zum %3 an.</translation>
+        <translation>Auf den %1 kann nicht vorausgeschaut werden; möglich ist ein Tag vom %2 bis zum %3.</translation>
     </message>
     <message>
         <source>The outlook does not tell of %1: it is no open account of a bank, or holds the money of a goal.</source>
@@ -7503,7 +7503,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.</source>
-        <translation>Ohne offenes Bankkonto oder ohne Wechselkurs lässt sich das Geld nicht zusammenzählen; nennen Sie ein Konto.</translation>
+        <translation>Ohne offenes Bankkonto oder ohne Wechselkurs lässt sich das Geld nicht zusammenzählen; ein Konto angeben.</translation>
     </message>
     <message>
         <source>%1: %2.</source>
@@ -7520,7 +7520,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>File with the passphrase of an encrypted budget (default: the variable KIV_PASSPHRASE_FILE)</source>
-        <translation>Datei mit der Passphrase eines verschlüsselten Budgets (sonst: die Variable KIV_PASSPHRASE_FILE)</translation>
+        <translation>Datei mit der Passphrase eines verschlüsselten Budgets (Standard: die Variable KIV_PASSPHRASE_FILE)</translation>
     </message>
     <message>
         <source>Balances at the end of this day (default: now)</source>
@@ -7543,7 +7543,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>File with the new passphrase (default: asked at the terminal)</source>
-        <translation>Datei mit der neuen Passphrase (sonst: wird am Terminal gefragt)</translation>
+        <translation>Datei mit der neuen Passphrase (Standard: am Terminal erfragt)</translation>
     </message>
     <message>
         <source>The budget &apos;%1&apos; and its former versions have the new passphrase.</source>
@@ -7575,7 +7575,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>Amount, such as &apos;100 EUR&apos;</source>
-        <translation>Betrag, etwa „100 EUR“</translation>
+        <translation>Betrag, etwa &apos;100 EUR&apos;</translation>
     </message>
     <message>
         <source>Currency of the result (default: the preferred one)</source>
@@ -7587,7 +7587,7 @@ Die Felder fragen, was wäre, wenn: mehr oder weniger Tage, ein Betrag, der imme
     </message>
     <message>
         <source>Give an amount, or a transaction with --entry.</source>
-        <translation>Geben Sie einen Betrag oder mit --entry eine Buchung an.</translation>
+        <translation>Einen Betrag oder mit --entry eine Buchung angeben.</translation>
     </message>
     <message>
         <source>Balance of the statement (default: the expected one)</source>
@@ -7781,11 +7781,11 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     </message>
     <message>
         <source>A report has at most %1 spans; choose a later first day or longer spans.</source>
-        <translation>Ein Bericht hat höchstens %1 Zeiträume; wählen Sie einen späteren ersten Tag oder längere Zeiträume.</translation>
+        <translation>Ein Bericht hat höchstens %1 Zeiträume; nötig sind ein späterer erster Tag oder längere Zeiträume.</translation>
     </message>
     <message>
         <source>No wage has come in by the last day; choose other spans than paydays.</source>
-        <translation>Bis zum letzten Tag ist kein Lohn eingegangen; wählen Sie andere Zeiträume als die zwischen Zahltagen.</translation>
+        <translation>Bis zum letzten Tag ist kein Lohn eingegangen; andere Zeiträume als die zwischen Zahltagen wählen.</translation>
     </message>
     <message>
         <source>By payee</source>
@@ -7825,11 +7825,11 @@ Was vorher gespeichert wurde, Exporte und was ein laufendes Programm im Speicher
     </message>
     <message>
         <source>Spans: week, two-weeks, payday, month, quarter or year (default: month, with --by a single span)</source>
-        <translation>Zeiträume: week, two-weeks, payday, month, quarter oder year (Vorgabe: month, mit --by ein einziger)</translation>
+        <translation>Zeiträume: week, two-weeks, payday, month, quarter oder year (Standard: month, mit --by ein einziger)</translation>
     </message>
     <message>
         <source>First day, or a day in the first span (default: twelve spans)</source>
-        <translation>Erster Tag oder ein Tag im ersten Zeitraum (Vorgabe: zwölf Zeiträume)</translation>
+        <translation>Erster Tag oder ein Tag im ersten Zeitraum (Standard: zwölf Zeiträume)</translation>
     </message>
     <message>
         <source>Print a table as CSV</source>
@@ -8372,7 +8372,7 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     <name>kiv::desktop::CommandPalette</name>
     <message>
         <source>Type what you want to do or to see</source>
-        <translation>Schreiben Sie, was Sie tun oder sehen möchten</translation>
+        <translation>Eingeben, was zu tun oder zu sehen ist</translation>
     </message>
     <message>
         <source>Command</source>
@@ -8398,7 +8398,7 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     </message>
     <message>
         <source>Another request is not answered yet; try again in a moment.</source>
-        <translation>Eine andere Anfrage ist noch nicht beantwortet; versuchen Sie es gleich noch einmal.</translation>
+        <translation>Eine andere Anfrage ist noch nicht beantwortet; gleich noch einmal versuchen.</translation>
     </message>
     <message>
         <source>Exported to “%1”.</source>
@@ -8846,23 +8846,23 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     </message>
     <message>
         <source>Bring the newest whole version back</source>
-        <translation>Die neueste heile Version zurückholen</translation>
+        <translation>Die neueste unbeschädigte Version zurückholen</translation>
     </message>
     <message>
         <source>&amp;Demonstration …</source>
-        <translation>&amp;Vorführung …</translation>
+        <translation>Beispie&amp;l …</translation>
     </message>
     <message>
         <source>Demonstration</source>
-        <translation>Vorführung</translation>
+        <translation>Beispiel</translation>
     </message>
     <message>
         <source>Made the demonstration</source>
-        <translation>Vorführung angelegt</translation>
+        <translation>Beispiel angelegt</translation>
     </message>
     <message>
         <source>making the demonstration</source>
-        <translation>Anlegen der Vorführung</translation>
+        <translation>das Beispiel anlegen</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -8870,7 +8870,7 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     </message>
     <message>
         <source>Which version of “%1” is to be brought back?</source>
-        <translation>Welche Fassung von „%1“ soll zurückgeholt werden?</translation>
+        <translation>Welche Version von „%1“ soll zurückgeholt werden?</translation>
     </message>
     <message>
         <source>Open it for reading</source>
@@ -9055,7 +9055,7 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     </message>
     <message>
         <source>making the budget</source>
-        <translation>Anlegen des Budgets</translation>
+        <translation>das Budget anlegen</translation>
     </message>
 </context>
 <context>
@@ -9446,7 +9446,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>The file does not show what it is. Choose it.</source>
-        <translation>Der Datei ist nicht anzusehen, was sie ist. Bitte wählen.</translation>
+        <translation>Der Datei ist nicht anzusehen, was sie ist. Die Art wählen.</translation>
     </message>
     <message>
         <source>Choose the file that is to be imported.</source>
@@ -9614,7 +9614,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>importing into “%1”</source>
-        <translation>Import in „%1“</translation>
+        <translation>in „%1“ importieren</translation>
     </message>
     <message>
         <source>Imported the journal: %1.</source>
@@ -9622,7 +9622,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>importing the journal</source>
-        <translation>Import des Journals</translation>
+        <translation>das Journal importieren</translation>
     </message>
 </context>
 <context>
@@ -10476,7 +10476,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>changing the rule “%1”</source>
-        <translation>Änderung der Regel „%1“</translation>
+        <translation>die Regel „%1“ ändern</translation>
     </message>
     <message>
         <source>Added the rule “%1”.</source>
@@ -10484,7 +10484,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>adding the rule “%1”</source>
-        <translation>Hinzufügen der Regel „%1“</translation>
+        <translation>die Regel „%1“ anlegen</translation>
     </message>
     <message>
         <source>Removed the rule “%1”.</source>
@@ -10492,7 +10492,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>removing the rule “%1”</source>
-        <translation>Entfernen der Regel „%1“</translation>
+        <translation>die Regel „%1“ entfernen</translation>
     </message>
     <message>
         <source>Moved the rule “%1” up.</source>
@@ -10500,7 +10500,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>moving the rule “%1”</source>
-        <translation>Verschieben der Regel „%1“</translation>
+        <translation>die Regel „%1“ verschieben</translation>
     </message>
     <message>
         <source>Which rule fits what a bank says of an entry?</source>
@@ -10607,7 +10607,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>removing the tag “%1”</source>
-        <translation>Entfernen des Schlagworts „%1“</translation>
+        <translation>das Schlagwort „%1“ entfernen</translation>
     </message>
     <message>
         <source>black on white</source>
@@ -10641,7 +10641,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>setting nothing aside at “%1”</source>
-        <translation>auf „%1“ nichts mehr zurückzulegen</translation>
+        <translation>auf „%1“ nichts mehr zurücklegen</translation>
     </message>
 </context>
 <context>
@@ -10660,7 +10660,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>The difference of %1 ma&amp;y stay; it is shown until it is gone</source>
-        <translation>Der Unterschied von %1 darf bleiben; er wird gezeigt, bis er &amp;weg ist</translation>
+        <translation>Die Abweichung von %1 darf bleiben; sie wird gezeigt, bis sie &amp;weg ist</translation>
     </message>
 </context>
 <context>
@@ -10695,7 +10695,7 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     </message>
     <message>
         <source>forgetting the survey of “%1”</source>
-        <translation>den aufgeschobenen Abgleich von „%1“ zu vergessen</translation>
+        <translation>den aufgeschobenen Abgleich von „%1“ vergessen</translation>
     </message>
 </context>
 <context>

@@ -978,7 +978,7 @@
     </message>
     <message>
         <source>A survey cannot be completed without a valid date.</source>
-        <translation>Una conciliación no se puede completar sin una fecha válida.</translation>
+        <translation>Una conciliación no se puede finalizar sin una fecha válida.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a version.</source>
@@ -1542,7 +1542,7 @@
     </message>
     <message>
         <source>Cannot process budget item due that has an unknown type.</source>
-        <translation>No se puede procesar una partida vencida de tipo desconocido.</translation>
+        <translation>No se puede procesar una partida que vence de tipo desconocido.</translation>
     </message>
     <message>
         <source>Cannot skip a budget item when its type is not known.</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>New account</source>
-        <translation>Cuenta nueva</translation>
+        <translation>Nueva cuenta</translation>
     </message>
     <message>
         <source>Line</source>
@@ -2041,7 +2041,7 @@
     </message>
     <message>
         <source>Rate</source>
-        <translation>Tipo</translation>
+        <translation>Tipo de cambio</translation>
     </message>
     <message>
         <source>There are no exchange rates; use kiv rates fetch or kiv rates set.</source>
@@ -2149,7 +2149,7 @@
     </message>
     <message>
         <source>Complete the survey?</source>
-        <translation>¿Completar la conciliación?</translation>
+        <translation>¿Finalizar la conciliación?</translation>
     </message>
     <message>
         <source>%1 was never reconciled.</source>
@@ -2399,7 +2399,7 @@
     </message>
     <message>
         <source>The survey was not completed; nothing is saved.</source>
-        <translation>La conciliación no se completó; no se guarda nada.</translation>
+        <translation>La conciliación no se finalizó; no se guarda nada.</translation>
     </message>
     <message>
         <source>The budget could not be created.</source>
@@ -2527,7 +2527,7 @@
     </message>
     <message>
         <source>FROM</source>
-        <translation>DESDE</translation>
+        <translation>DE</translation>
     </message>
     <message>
         <source>HOURS</source>
@@ -2571,7 +2571,7 @@
     </message>
     <message>
         <source>TO</source>
-        <translation>HASTA</translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>Budget file (default: the variable KIV_FILE)</source>
@@ -2843,7 +2843,7 @@
     </message>
     <message>
         <source>The budget &apos;%1&apos; is damaged; bring a whole version back with kiv undo.</source>
-        <translation>El presupuesto «%1» está dañado; recupere una versión íntegra con kiv undo.</translation>
+        <translation>El presupuesto «%1» está dañado; kiv undo recupera una versión íntegra.</translation>
     </message>
     <message>
         <source>Check a budget file for damage</source>
@@ -2972,7 +2972,7 @@
     </message>
     <message>
         <source>Post all due items</source>
-        <translation>Registra todas las partidas vencidas</translation>
+        <translation>Registra todas las partidas que vencen</translation>
     </message>
     <message>
         <source>Day (default: today)</source>
@@ -2984,7 +2984,7 @@
     </message>
     <message>
         <source>Post a due budget item</source>
-        <translation>Registra una partida vencida</translation>
+        <translation>Registra una partida que vence</translation>
     </message>
     <message>
         <source>Post an unexpected amount for a budget item</source>
@@ -4078,7 +4078,7 @@
     </message>
     <message>
         <source>#%1, %2, is no longer marked as reconciled since the survey of %3</source>
-        <translation>n.º %1, %2, ya no está marcada como conciliada desde la conciliación del %3</translation>
+        <translation>n.º %1, %2, ya no está marcado como conciliado desde la conciliación del %3</translation>
     </message>
     <message>
         <source>The folder &apos;%1&apos; for the former versions cannot be used: %2.</source>
@@ -4114,11 +4114,11 @@
     </message>
     <message>
         <source>bring the newest back with kiv undo</source>
-        <translation>recupere la más reciente con kiv undo</translation>
+        <translation>kiv undo recupera la más reciente</translation>
     </message>
     <message>
         <source>%1 Former versions are kept; bring the newest back with kiv undo.</source>
-        <translation>%1 Se conservan versiones anteriores; recupere la más reciente con kiv undo.</translation>
+        <translation>%1 Se conservan versiones anteriores; kiv undo recupera la más reciente.</translation>
     </message>
     <message>
         <source>Created the budget</source>
@@ -4134,19 +4134,19 @@
     </message>
     <message>
         <source>How many changes (default: 1)</source>
-        <translation>Número de cambios (predeterminado: 1)</translation>
+        <translation>Número de cambios (por defecto: 1)</translation>
     </message>
     <message>
         <source>Name of the version, see kiv history</source>
-        <translation>Nombre de la versión; vea kiv history</translation>
+        <translation>Nombre de la versión; véase kiv history</translation>
     </message>
     <message>
         <source>Name of the older version (default: the one that kiv undo goes to)</source>
-        <translation>Nombre de la versión más antigua (predeterminado: a la que va kiv undo)</translation>
+        <translation>Nombre de la versión más antigua (por defecto: a la que va kiv undo)</translation>
     </message>
     <message>
         <source>Name of the newer version (default: the file itself)</source>
-        <translation>Nombre de la versión más reciente (predeterminado: el propio archivo)</translation>
+        <translation>Nombre de la versión más reciente (por defecto: el propio archivo)</translation>
     </message>
     <message>
         <source>Take back the last change</source>
@@ -4343,15 +4343,15 @@
     <message numerus="yes">
         <source>Entered %n due items: %1.</source>
         <translation>
-            <numerusform>%n partida vencida registrada: %1.</numerusform>
-            <numerusform>%n partidas vencidas registradas: %1.</numerusform>
+            <numerusform>Registrada %n partida que vence: %1.</numerusform>
+            <numerusform>Registradas %n partidas que vencen: %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>entering %n due items</source>
         <translation>
-            <numerusform>registrar %n partida vencida</numerusform>
-            <numerusform>registrar %n partidas vencidas</numerusform>
+            <numerusform>registrar %n partida que vence</numerusform>
+            <numerusform>registrar %n partidas que vencen</numerusform>
         </translation>
     </message>
     <message>
@@ -4389,15 +4389,15 @@
     <message numerus="yes">
         <source>Skipped %n due items: %1.</source>
         <translation>
-            <numerusform>%n partida vencida omitida: %1.</numerusform>
-            <numerusform>%n partidas vencidas omitidas: %1.</numerusform>
+            <numerusform>Omitida %n partida que vence: %1.</numerusform>
+            <numerusform>Omitidas %n partidas que vencen: %1.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>skipping %n due items</source>
         <translation>
-            <numerusform>omitir %n partida vencida</numerusform>
-            <numerusform>omitir %n partidas vencidas</numerusform>
+            <numerusform>omitir %n partida que vence</numerusform>
+            <numerusform>omitir %n partidas que vencen</numerusform>
         </translation>
     </message>
     <message>
@@ -4747,7 +4747,7 @@
     <message>
         <source>open</source>
         <comment>the state of an account</comment>
-        <translation>abierto</translation>
+        <translation>abierta</translation>
     </message>
     <message>
         <source>state</source>
@@ -4964,7 +4964,7 @@
     </message>
     <message>
         <source>Account given up</source>
-        <translation>Cuenta abandonada</translation>
+        <translation>Cuenta dada de baja</translation>
     </message>
     <message>
         <source>Harbour hotel</source>
@@ -5168,11 +5168,11 @@
     </message>
     <message>
         <source>Amount of an item of the template, such as &apos;Rent=900&apos;, &apos;Rent=900 2026-03-31&apos; or &apos;goal:Car=50 of 900&apos; (repeatable); items without one are left out</source>
-        <translation>Importe de una partida de la plantilla, como «Alquiler=900», «Alquiler=900 2026-03-31» o «goal:Coche=50 of 900» (repetible); las partidas sin importe se omiten</translation>
+        <translation>Importe de una partida de la plantilla, como &apos;Alquiler=900&apos;, &apos;Alquiler=900 2026-03-31&apos; o &apos;goal:Coche=50 of 900&apos; (repetible); las partidas sin importe se omiten</translation>
     </message>
     <message>
         <source>Give its items amounts, such as --item &apos;%1=100&apos;; those without one are left out.</source>
-        <translation>Dar importes a sus partidas, como --item «%1=100»; las que no tienen importe se omiten.</translation>
+        <translation>Dar importes a sus partidas, como --item &apos;%1=100&apos;; las que no tienen importe se omiten.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is given twice.</source>
@@ -5319,7 +5319,7 @@ F2 changes the chosen transaction, Del removes it, Ctrl+D enters it again. “Re
 Ctrl+F searches: words and conditions such as &gt;50, march or not:reconciled.</source>
         <translation>Los asientos de una cuenta o de todas, y debajo la fila para los nuevos: gastado, ingresado o traspasado. Intro registra desde cualquier campo; el día se queda. Si se conoce el beneficiario, su último asiento llena los demás campos.
 
-F2 cambia el asiento elegido, Supr lo elimina, Ctrl+D lo registra otra vez. «Reembolsar», en el menú «Transacción», recupera dinero: se propone todo el importe, y se puede escribir uno menor.
+F2 cambia el asiento elegido, Supr lo elimina, Ctrl+D lo registra otra vez. «Reembolsar», en el menú «Asiento», recupera dinero: se propone todo el importe, y se puede escribir uno menor.
 
 Ctrl+F busca: palabras y condiciones como &gt;50, march o not:reconciled.</translation>
     </message>
@@ -5436,7 +5436,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>The headings appear again on line %1; the file may contain entries twice.</source>
-        <translation>Los encabezados aparecen de nuevo en la línea %1; es posible que el archivo contenga movimientos dos veces.</translation>
+        <translation>Los encabezados aparecen de nuevo en la línea %1; es posible que el archivo contenga entradas dos veces.</translation>
     </message>
     <message>
         <source>No amount is negative: amounts marked CR came in, all others went out.</source>
@@ -5449,8 +5449,8 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message numerus="yes">
         <source>%n entries that did not take place are skipped (%1).</source>
         <translation>
-            <numerusform>Se omite %n movimiento que no se realizó (%1).</numerusform>
-            <numerusform>Se omiten %n movimientos que no se realizaron (%1).</numerusform>
+            <numerusform>Se omite %n entrada que no se realizó (%1).</numerusform>
+            <numerusform>Se omiten %n entradas que no se realizaron (%1).</numerusform>
         </translation>
     </message>
     <message>
@@ -5483,7 +5483,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>This line looks like an entry but is above the headings; say with --skip how many lines are above them.</source>
-        <translation>Esta línea parece un movimiento, pero está encima de los encabezados; indicar con --skip cuántas líneas hay encima de ellos.</translation>
+        <translation>Esta línea parece una entrada, pero está encima de los encabezados; indicar con --skip cuántas líneas hay encima de ellos.</translation>
     </message>
     <message>
         <source>The column of fees has both signs.</source>
@@ -5606,7 +5606,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>What is below the entries from line %1 on is skipped.</source>
-        <translation>Se omite lo que hay debajo de los movimientos a partir de la línea %1.</translation>
+        <translation>Se omite lo que hay debajo de las entradas a partir de la línea %1.</translation>
     </message>
     <message>
         <source>It is not known what &apos;%1&apos; of %2 was for.</source>
@@ -5614,7 +5614,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>A rule needs a text that entries contain.</source>
-        <translation>Una regla necesita un texto que contengan los apuntes.</translation>
+        <translation>Una regla necesita un texto que contengan las entradas.</translation>
     </message>
     <message>
         <source>&apos;%1&apos; is not a regular expression: %2.</source>
@@ -5626,11 +5626,11 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>There are too many rules; remove some first.</source>
-        <translation>Hay demasiadas reglas; quite antes algunas.</translation>
+        <translation>Hay demasiadas reglas; antes hay que quitar algunas.</translation>
     </message>
     <message>
         <source>The file has it twice.</source>
-        <translation>El archivo lo da dos veces.</translation>
+        <translation>El archivo la da dos veces.</translation>
     </message>
     <message>
         <source>%1 is due on %2 for %3.</source>
@@ -5646,30 +5646,30 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Another file of the account had it already.</source>
-        <translation>Otro archivo de la cuenta ya lo daba.</translation>
+        <translation>Otro archivo de la cuenta ya la daba.</translation>
     </message>
     <message numerus="yes">
         <source>Entered on %1 in %n parts, which add up to it.</source>
         <translation>
-            <numerusform>Apuntado el %1 en %n parte, que lo suma.</numerusform>
-            <numerusform>Apuntado el %1 en %n partes, que lo suman.</numerusform>
+            <numerusform>Registrado el %1 en %n parte, que suma su importe.</numerusform>
+            <numerusform>Registrado el %1 en %n partes, que suman su importe.</numerusform>
         </translation>
     </message>
     <message>
         <source>The statement of %1 has it on %2.</source>
-        <translation>El extracto de %1 lo daba el %2.</translation>
+        <translation>El extracto de %1 la daba el %2.</translation>
     </message>
     <message>
         <source>Entered on %1 for the same amount; another entry fits as well.</source>
-        <translation>Apuntado el %1 con el mismo importe; otro apunte también encaja.</translation>
+        <translation>Registrado el %1 con el mismo importe; otro asiento también encaja.</translation>
     </message>
     <message>
         <source>Entered on %1 for the same amount.</source>
-        <translation>Apuntado el %1 con el mismo importe.</translation>
+        <translation>Registrado el %1 con el mismo importe.</translation>
     </message>
     <message>
         <source>As you said before.</source>
-        <translation>Como usted dijo antes.</translation>
+        <translation>Como se indicó antes.</translation>
     </message>
     <message>
         <source>The columns that were kept no longer fit, and were found anew: %1</source>
@@ -5709,7 +5709,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Format: journal, csv, ofx, qif, mt940 or camt (default: guessed)</source>
-        <translation>Formato: journal, csv, ofx, qif, mt940 o camt (si falta: se adivina)</translation>
+        <translation>Formato: journal, csv, ofx, qif, mt940 o camt (por defecto: se deduce)</translation>
     </message>
     <message>
         <source>Account number, to choose one of several statements</source>
@@ -5717,7 +5717,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>new</source>
-        <translation>nuevo</translation>
+        <translation>nueva</translation>
     </message>
     <message>
         <source>due</source>
@@ -5725,19 +5725,19 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>matched</source>
-        <translation>encontrado</translation>
+        <translation>encontrada</translation>
     </message>
     <message>
         <source>known</source>
-        <translation>conocido</translation>
+        <translation>conocida</translation>
     </message>
     <message>
         <source>left out</source>
-        <translation>omitido</translation>
+        <translation>omitida</translation>
     </message>
     <message>
         <source>Entry</source>
-        <translation>Apunte</translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>For</source>
@@ -5750,8 +5750,8 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message numerus="yes">
         <source>Imported %n entries of %1</source>
         <translation>
-            <numerusform>%n apunte de %1 importado</numerusform>
-            <numerusform>%n apuntes de %1 importados</numerusform>
+            <numerusform>%n entrada de %1 importada</numerusform>
+            <numerusform>%n entradas de %1 importadas</numerusform>
         </translation>
     </message>
     <message>
@@ -5808,7 +5808,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Account or item that such entries are for</source>
-        <translation>Cuenta o partida para la que son esos apuntes</translation>
+        <translation>Cuenta o partida para la que son esas entradas</translation>
     </message>
     <message>
         <source>The text is a regular expression</source>
@@ -5820,11 +5820,11 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>What a bank says of an entry</source>
-        <translation>Lo que dice un banco de un apunte</translation>
+        <translation>Lo que dice un banco de una entrada</translation>
     </message>
     <message>
         <source>Amount of the entry</source>
-        <translation>Importe del apunte</translation>
+        <translation>Importe de la entrada</translation>
     </message>
     <message>
         <source>Account of the statement</source>
@@ -5851,7 +5851,7 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Say what entries of statements are for</source>
-        <translation>Decir para qué son los apuntes de extractos</translation>
+        <translation>Indicar para qué son las entradas de los extractos</translation>
     </message>
     <message>
         <source>List all rules</source>
@@ -5871,19 +5871,19 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Entry %1: %2. %3 Pay it with this?</source>
-        <translation>Apunte %1: %2. %3 ¿Pagarlo con esto?</translation>
+        <translation>Entrada %1: %2. %3 ¿Pagarlo con esto?</translation>
     </message>
     <message>
         <source>Entry %1: %2. %3 Is it the same?</source>
-        <translation>Apunte %1: %2. %3 ¿Es el mismo?</translation>
+        <translation>Entrada %1: %2. %3 ¿Es la misma?</translation>
     </message>
     <message>
         <source>Entry %1: %2. What was it for? (account or item; empty leaves it out)</source>
-        <translation>Apunte %1: %2. ¿Para qué era? (cuenta o partida; vacío lo omite)</translation>
+        <translation>Entrada %1: %2. ¿Para qué era? (cuenta o partida; vacío la omite)</translation>
     </message>
     <message>
         <source>Entry %1: %2. What was it for? (empty: %3)</source>
-        <translation>Apunte %1: %2. ¿Para qué era? (vacío: %3)</translation>
+        <translation>Entrada %1: %2. ¿Para qué era? (vacío: %3)</translation>
     </message>
     <message>
         <source>Always %1 for this payee?</source>
@@ -5891,19 +5891,19 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>Entry that is new, whatever is there (repeatable)</source>
-        <translation>Apunte que es nuevo, haya lo que haya (repetible)</translation>
+        <translation>Entrada que es nueva, haya lo que haya (repetible)</translation>
     </message>
     <message>
         <source>ENTRY=TRANSACTION, which is the same (repeatable)</source>
-        <translation>APUNTE=TRANSACCIÓN, que es lo mismo (repetible)</translation>
+        <translation>ENTRADA=ASIENTO, que es lo mismo (repetible)</translation>
     </message>
     <message>
         <source>ENTRY=ACCOUNT, which it is for (repeatable)</source>
-        <translation>APUNTE=CUENTA, para la que es (repetible)</translation>
+        <translation>ENTRADA=CUENTA, para la que es (repetible)</translation>
     </message>
     <message>
         <source>Entry that is not taken (repeatable)</source>
-        <translation>Apunte que no se toma (repetible)</translation>
+        <translation>Entrada que no se toma (repetible)</translation>
     </message>
     <message>
         <source>Is %1 the day %2?</source>
@@ -5920,24 +5920,24 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     <message numerus="yes">
         <source>Import %n entries?</source>
         <translation>
-            <numerusform>¿Importar %n apunte?</numerusform>
-            <numerusform>¿Importar %n apuntes?</numerusform>
+            <numerusform>¿Importar %n entrada?</numerusform>
+            <numerusform>¿Importar %n entradas?</numerusform>
         </translation>
     </message>
     <message>
         <source>New: %1; matched: %2; already imported: %3; left out: %4; accounts opened: %5.</source>
-        <translation>Nuevos: %1; encontrados: %2; ya importados: %3; omitidos: %4; cuentas abiertas: %5.</translation>
+        <translation>Nuevas: %1; encontradas: %2; ya importadas: %3; omitidas: %4; cuentas abiertas: %5.</translation>
     </message>
     <message numerus="yes">
         <source>%n entries should be looked at; see the marks with --dry-run.</source>
         <translation>
-            <numerusform>Conviene mirar %n apunte; vea las marcas con --dry-run.</numerusform>
-            <numerusform>Conviene mirar %n apuntes; vea las marcas con --dry-run.</numerusform>
+            <numerusform>Conviene mirar %n entrada; véanse las marcas con --dry-run.</numerusform>
+            <numerusform>Conviene mirar %n entradas; véanse las marcas con --dry-run.</numerusform>
         </translation>
     </message>
     <message>
         <source>Cannot tell the format of &apos;%1&apos;; use --format: journal, csv, ofx, qif, mt940 or camt.</source>
-        <translation>No se reconoce el formato de «%1»; use --format: journal, csv, ofx, qif, mt940 o camt.</translation>
+        <translation>No se reconoce el formato de «%1»; se indica con --format: journal, csv, ofx, qif, mt940 o camt.</translation>
     </message>
     <message>
         <source>%1 It may be: %2.</source>
@@ -5945,19 +5945,19 @@ Al eliminar una etiqueta, la pierden todas las partidas.</translation>
     </message>
     <message>
         <source>%1 Use --yes to import it all the same.</source>
-        <translation>%1 Use --yes para importarlo de todos modos.</translation>
+        <translation>%1 Con --yes se importa de todos modos.</translation>
     </message>
     <message>
         <source>Nothing was imported.</source>
-        <translation>No se ha importado nada.</translation>
+        <translation>No se importó nada.</translation>
     </message>
     <message>
         <source>Transaction %1 cannot be the same as an entry of %2.</source>
-        <translation>La transacción %1 no puede ser lo mismo que un apunte de %2.</translation>
+        <translation>El asiento %1 no puede ser lo mismo que una entrada de %2.</translation>
     </message>
     <message>
         <source>It is not known what this was for: %1. Say it with --for, --against or a rule.</source>
-        <translation>No se sabe para qué era esto: %1. Dígalo con --for, --against o una regla.</translation>
+        <translation>No se sabe para qué era esto: %1. Se indica con --for, --against o una regla.</translation>
     </message>
     <message>
         <source>Transaction %1 has its identifier, but another amount.</source>
@@ -6357,8 +6357,8 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     <message numerus="yes">
         <source>%n entries of the file are not in the books: %1</source>
         <translation>
-            <numerusform>%n apunte del archivo no está en los libros: %1</numerusform>
-            <numerusform>%n apuntes del archivo no están en los libros: %1</numerusform>
+            <numerusform>%n entrada del archivo no está en los libros: %1</numerusform>
+            <numerusform>%n entradas del archivo no están en los libros: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -6393,7 +6393,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>The bank&apos;s file: its day, balance and entries are taken</source>
-        <translation>Archivo del banco: se toman su día, su saldo y sus apuntes</translation>
+        <translation>Archivo del banco: se toman su día, su saldo y sus entradas</translation>
     </message>
     <message>
         <source>Set aside what the survey proposes, as if nothing had been paid</source>
@@ -6401,7 +6401,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>Day of the statement (default: that of the bank&apos;s file, or today)</source>
-        <translation>Día del extracto (por omisión, el del archivo del banco, o hoy)</translation>
+        <translation>Día del extracto (por defecto: el del archivo del banco, o hoy)</translation>
     </message>
     <message>
         <source>&apos;%1&apos; tells no day; give that of the statement.</source>
@@ -6467,7 +6467,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>To enter them, leave the survey and use kiv import.</source>
-        <translation>Para registrarlos, salir de la conciliación y usar kiv import.</translation>
+        <translation>Para registrarlas, salir de la conciliación y usar kiv import.</translation>
     </message>
     <message>
         <source>To go on with it, use kiv survey run for this account.</source>
@@ -6487,7 +6487,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>What is on the statement: 3, 1-5,9, &apos;all but 4&apos; or &apos;none&apos; (repeatable; default: what is marked as seen at the bank)</source>
-        <translation>Lo que está en el extracto: 3, 1-5,9, «todos menos 4» o «ninguno» (repetible; por omisión, lo marcado como visto en el banco)</translation>
+        <translation>Lo que está en el extracto: 3, 1-5,9, &apos;todos menos 4&apos; o &apos;ninguno&apos; (repetible; por defecto: lo marcado como visto en el banco)</translation>
     </message>
     <message>
         <source>Item or account to which the difference is posted, such as the interest of a loan</source>
@@ -6587,11 +6587,11 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>Free until the next wage on %1: %2.</source>
-        <translation>Libre hasta el próximo sueldo el %1: %2.</translation>
+        <translation>Libre hasta el próximo salario el %1: %2.</translation>
     </message>
     <message>
         <source>Free until the end, without a wage: %1.</source>
-        <translation>Libre hasta el final, sin sueldo: %1.</translation>
+        <translation>Libre hasta el final, sin salario: %1.</translation>
     </message>
     <message>
         <source>there is no exchange rate between %1 and %2</source>
@@ -6603,7 +6603,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>The outlook leaves an entry out: %1.</source>
-        <translation>La previsión omite un apunte: %1.</translation>
+        <translation>La previsión omite un asiento: %1.</translation>
     </message>
     <message>
         <source>The outlook leaves &apos;%1&apos; out: no open account can pay it.</source>
@@ -6611,11 +6611,11 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>&apos;%1&apos; is not of the form &apos;AMOUNT on DAY&apos;, such as &apos;900 on 2026-12-05&apos;.</source>
-        <translation>«%1» no tiene la forma «IMPORTE on DÍA», como «900 on 2026-12-05».</translation>
+        <translation>«%1» no tiene la forma &apos;IMPORTE on DÍA&apos;, como &apos;900 on 2026-12-05&apos;.</translation>
     </message>
     <message>
         <source>How many days to look ahead (default: 92; at most 3,660)</source>
-        <translation>Cuántos días se mira hacia adelante (por omisión, 92; como mucho 3660)</translation>
+        <translation>Cuántos días se mira hacia adelante (por defecto: 92; como mucho 3660)</translation>
     </message>
     <message>
         <source>Tell the first day on which less than this is there</source>
@@ -6627,7 +6627,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>Something more, as in &apos;900 on 2026-12-05&apos;; negative if it comes in (repeatable)</source>
-        <translation>Algo más, como «900 on 2026-12-05»; negativo si entra (repetible)</translation>
+        <translation>Algo más, como &apos;900 on 2026-12-05&apos;; negativo si entra (repetible)</translation>
     </message>
     <message>
         <source>List what is paid and received</source>
@@ -6635,7 +6635,7 @@ La importación hace lo que se muestra, y es un solo paso que se puede deshacer.
     </message>
     <message>
         <source>First day (default: today)</source>
-        <translation>Primer día (por omisión, hoy)</translation>
+        <translation>Primer día (por defecto: hoy)</translation>
     </message>
     <message>
         <source>Lowest</source>
@@ -7001,7 +7001,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
 1. Elegir la cuenta, escribir el día y el saldo del extracto y pulsar Intro; o poner al lado el archivo del banco, que los rellena.
 2. Marcar cada asiento que está en el extracto: la barra espaciadora marca y baja. Lo que muestra el banco y falta en los libros se puede añadir a la lista, y se ofrece el importe que falta.
 3. La segunda pestaña muestra lo que se aparta para las partidas, y por qué. Un importe se puede sobrescribir; un campo vacío lo retira.
-4. Finalizar: los asientos marcados quedan conciliados, y el saldo, anotado. Una diferencia solo puede quedar si usted lo dice, y se muestra hasta que desaparezca.
+4. Finalizar: los asientos marcados quedan conciliados, y el saldo, anotado. Una diferencia solo puede quedar si se dice expresamente, y se muestra hasta que desaparezca.
 
 «Aplazar» guarda la conciliación para seguir más tarde. La tercera pestaña muestra las conciliaciones anteriores y dice si sus asientos siguen como entonces.</translation>
     </message>
@@ -7067,7 +7067,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
     </message>
     <message>
         <source>Calculated %1. Type the balance of the statement to compare.</source>
-        <translation>Calculado %1. Escriba el saldo del extracto para comparar.</translation>
+        <translation>Calculado %1. Para comparar se escribe el saldo del extracto.</translation>
     </message>
     <message>
         <source>%1, no difference</source>
@@ -7093,7 +7093,7 @@ Debajo de la tabla se explica cómo se llega a lo apartado para la partida elegi
         <source>Which kind for what
 Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a friend: a debt. A holiday, money for emergencies: a goal. Pocket money and groceries with a planned amount: free spending. What you only want to look back at: an account for spending. A credit card: an account at a bank, of the kind credit card. A purse: an account that is owned.</source>
         <translation>Qué clase para qué
-Alquiler, seguro, impuestos: una factura. Salario, pensión: un sueldo. Un préstamo de un banco o de un amigo: una deuda. Unas vacaciones, dinero para emergencias: una meta. Dinero de bolsillo y comida con un importe previsto: gasto libre. Lo que solo se mira después: una cuenta de gastos. Una tarjeta de crédito: una cuenta en un banco, de la clase tarjeta de crédito. Un monedero: una cuenta que se posee.</translation>
+Alquiler, seguro, impuestos: una factura. Nómina, pensión: un salario. Un préstamo de un banco o de un amigo: una deuda. Unas vacaciones, dinero para emergencias: una meta. Dinero de bolsillo y comida con un importe previsto: gasto libre. Lo que solo se mira después: una cuenta de gastos. Una tarjeta de crédito: una cuenta en un banco, de la clase tarjeta de crédito. Un monedero: una cuenta que se posee.</translation>
     </message>
     <message>
         <source>A first week
@@ -7110,7 +7110,7 @@ Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores:
         <translation>El fin de mes
 1. Importar el archivo del banco (Ctrl+I).
 2. En la página «Conciliación», elegir la cuenta y comparar el día y el saldo con el extracto. Se dice lo que difiere.
-3. Mirar lo que se aparta para facturas que no llegan cada mes, y completar.
+3. Mirar lo que se aparta para facturas que no llegan cada mes, y finalizar.
 4. «Inicio» dice lo que queda libre.</translation>
     </message>
     <message>
@@ -7135,7 +7135,7 @@ Cada cuenta tiene una. «Traspasado» pregunta por los dos importes, como se reg
         <source>A refund
 Choose the payment in the register, then “Refund” in the menu “Transaction”.</source>
         <translation>Un reembolso
-Elegir el pago en el registro y después «Reembolsar» en el menú «Transacción».</translation>
+Elegir el pago en el registro y después «Reembolsar» en el menú «Asiento».</translation>
     </message>
     <message>
         <source>A goal that is reached
@@ -7165,7 +7165,7 @@ La conciliación dice qué puede haber detrás. Lo que solo está en el extracto
         <source>Coming from another program
 Ctrl+I takes journals of ledger and hledger as they are. Other programs export each account as QIF, OFX or CSV. Add the account with the balance that it had before the first entry of the file, then import. At the end, compare the balances.</source>
         <translation>Desde otro programa
-Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan cada cuenta como QIF, OFX o CSV. Añadir la cuenta con el saldo que tenía antes del primer apunte del archivo, e importar. Al final, comparar los saldos.</translation>
+Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan cada cuenta como QIF, OFX o CSV. Añadir la cuenta con el saldo que tenía antes de la primera entrada del archivo, e importar. Al final, comparar los saldos.</translation>
     </message>
     <message>
         <source>%1 is behind %2, the last day that is looked at.</source>
@@ -7197,13 +7197,13 @@ Ctrl+I lee los diarios de ledger y hledger como están. Otros programas exportan
     <message numerus="yes">
         <source>No wage comes within %n days.</source>
         <translation>
-            <numerusform>En %n día no llega ningún sueldo.</numerusform>
-            <numerusform>En %n días no llega ningún sueldo.</numerusform>
+            <numerusform>En %n día no llega ningún salario.</numerusform>
+            <numerusform>En %n días no llega ningún salario.</numerusform>
         </translation>
     </message>
     <message>
         <source>The next wage comes on %1.</source>
-        <translation>El próximo sueldo llega el %1.</translation>
+        <translation>El próximo salario llega el %1.</translation>
     </message>
     <message>
         <source>The goal &apos;%1&apos; is reached.</source>
@@ -7369,8 +7369,8 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     <message numerus="yes">
         <source>%n earlier entries</source>
         <translation>
-            <numerusform>%n movimiento anterior</numerusform>
-            <numerusform>%n movimientos anteriores</numerusform>
+            <numerusform>%n asiento anterior</numerusform>
+            <numerusform>%n asientos anteriores</numerusform>
         </translation>
     </message>
     <message>
@@ -7495,7 +7495,7 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
     <message>
         <source>%1 is not a day to look ahead to; name one from %2 to %3.</source>
-        <translation>%1 no es un día al que mirar; indique uno del %2 al %3.</translation>
+        <translation>El %1 está fuera de la previsión; se admite un día del %2 al %3.</translation>
     </message>
     <message>
         <source>The outlook does not tell of %1: it is no open account of a bank, or holds the money of a goal.</source>
@@ -7503,7 +7503,7 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
     <message>
         <source>Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.</source>
-        <translation>Sin una cuenta bancaria abierta, o sin un tipo de cambio, el dinero no se puede sumar; indique una cuenta.</translation>
+        <translation>Sin una cuenta bancaria abierta, o sin un tipo de cambio, el dinero no se puede sumar; hay que indicar una cuenta.</translation>
     </message>
     <message>
         <source>%1: %2.</source>
@@ -7575,7 +7575,7 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
     <message>
         <source>Amount, such as &apos;100 EUR&apos;</source>
-        <translation>Importe, como «100 EUR»</translation>
+        <translation>Importe, como &apos;100 EUR&apos;</translation>
     </message>
     <message>
         <source>Currency of the result (default: the preferred one)</source>
@@ -7587,7 +7587,7 @@ Los campos preguntan qué pasaría: más o menos días, un importe que siempre d
     </message>
     <message>
         <source>Give an amount, or a transaction with --entry.</source>
-        <translation>Indique un importe, o un asiento con --entry.</translation>
+        <translation>Indicar un importe, o un asiento con --entry.</translation>
     </message>
     <message>
         <source>Balance of the statement (default: the expected one)</source>
@@ -7781,11 +7781,11 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     </message>
     <message>
         <source>A report has at most %1 spans; choose a later first day or longer spans.</source>
-        <translation>Un informe tiene como máximo %1 periodos; elija un primer día posterior o periodos más largos.</translation>
+        <translation>Un informe tiene como máximo %1 periodos; hay que elegir un primer día posterior o periodos más largos.</translation>
     </message>
     <message>
         <source>No wage has come in by the last day; choose other spans than paydays.</source>
-        <translation>Hasta el último día no se ha recibido ningún salario; elija otros periodos que los de cobro.</translation>
+        <translation>Hasta el último día no se ha recibido ningún salario; hay que elegir otros periodos que los de cobro.</translation>
     </message>
     <message>
         <source>By payee</source>
@@ -7817,7 +7817,7 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     </message>
     <message>
         <source>Count only the transactions that &apos;kiv find WORDS&apos; finds</source>
-        <translation>Contar solo las transacciones que encuentra &apos;kiv find PALABRAS&apos;</translation>
+        <translation>Contar solo los asientos que encuentra &apos;kiv find PALABRAS&apos;</translation>
     </message>
     <message>
         <source>Add up by category, payee, tag or account (with WORDS, --csv and --html by category)</source>
@@ -7825,11 +7825,11 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     </message>
     <message>
         <source>Spans: week, two-weeks, payday, month, quarter or year (default: month, with --by a single span)</source>
-        <translation>Periodos: week, two-weeks, payday, month, quarter o year (por omisión: month; con --by, uno solo)</translation>
+        <translation>Periodos: week, two-weeks, payday, month, quarter o year (por defecto: month; con --by, uno solo)</translation>
     </message>
     <message>
         <source>First day, or a day in the first span (default: twelve spans)</source>
-        <translation>Primer día, o un día del primer periodo (por omisión: doce periodos)</translation>
+        <translation>Primer día, o un día del primer periodo (por defecto: doce periodos)</translation>
     </message>
     <message>
         <source>Print a table as CSV</source>
@@ -7917,7 +7917,7 @@ Lo que se guardó antes, lo exportado y lo que un programa tiene en memoria no e
     </message>
     <message>
         <source>All items but wages, %1</source>
-        <translation>Todas las partidas salvo sueldos, %1</translation>
+        <translation>Todas las partidas salvo salarios, %1</translation>
     </message>
     <message>
         <source>Convert all amounts into this currency, at the present rates</source>
@@ -8130,7 +8130,7 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     </message>
     <message>
         <source>&amp;Transaction</source>
-        <translation>&amp;Transacción</translation>
+        <translation>Asien&amp;to</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -8372,7 +8372,7 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     <name>kiv::desktop::CommandPalette</name>
     <message>
         <source>Type what you want to do or to see</source>
-        <translation>Escriba lo que quiere hacer o ver</translation>
+        <translation>Escribir lo que se quiere hacer o ver</translation>
     </message>
     <message>
         <source>Command</source>
@@ -8398,7 +8398,7 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     </message>
     <message>
         <source>Another request is not answered yet; try again in a moment.</source>
-        <translation>Otra petición aún no tiene respuesta; inténtelo de nuevo en un momento.</translation>
+        <translation>Otra petición aún no tiene respuesta; intentarlo de nuevo en un momento.</translation>
     </message>
     <message>
         <source>Exported to “%1”.</source>
@@ -8641,7 +8641,7 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     </message>
     <message>
         <source>For one payment on several things: each line becomes a transaction</source>
-        <translation>Para un pago de varias cosas: cada línea será una transacción</translation>
+        <translation>Para un pago de varias cosas: cada línea será un asiento</translation>
     </message>
     <message>
         <source>Add all</source>
@@ -10656,7 +10656,7 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
     <message>
         <source>Begi&amp;n anew</source>
-        <translation>Olvidar &amp;y empezar de nuevo</translation>
+        <translation>Empezar de &amp;nuevo</translation>
     </message>
     <message>
         <source>The difference of %1 ma&amp;y stay; it is shown until it is gone</source>
@@ -10714,7 +10714,7 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
     <message>
         <source>&amp;Keep this amount</source>
-        <translation>Ma&amp;ntener este importe</translation>
+        <translation>&amp;Mantener este importe</translation>
     </message>
     <message>
         <source>Nothing is set aside of what is owed.</source>
