@@ -103,7 +103,8 @@ private slots:
         desk.show();
         for (const auto &[name, place] : {std::pair(u"home"_s, u"home"_s),
                                           {u"register"_s, u"register/all"_s},
-                                          {u"goals"_s, u"items/goal"_s}}) {
+                                          {u"goals"_s, u"items/goal"_s},
+                                          {u"reports"_s, u"reports/category"_s}}) {
             desk.window().goTo(desktop::Place::fromText(place));
             QCoreApplication::processEvents();
             QCOMPARE(misfits(desk.window()), QStringList());

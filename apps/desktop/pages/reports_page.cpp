@@ -360,6 +360,7 @@ void ReportsPage::showLine()
             m_valueTable->choose(QString::number(shown->chart.labels.size() - 1)); // the newest
         m_valueTable->settle();
     }
+    m_valueTable->scrollTo(m_valueTable->currentIndex());
     showEntries();
 }
 
