@@ -27,12 +27,20 @@ bool isRigid(const QWidget &widget)
            qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QComboBox *>(&widget);
 }
 
+/// The part of a page that is seen without scrolling, or the window.
+const QWidget &viewportOf(const QWidget &widget)
+{
+    const QWidget *at = &widget;
+    while (!at->isWindow() && !qobject_cast<const QScrollArea *>(at->parentWidget()))
+        at = at->parentWidget();
+    return *at;
+}
+
 } // namespace
 
 QStringList misfits(QWidget &root)
 {
     QStringList faults;
-    const int side = root.window()->width();
     for (const QWidget *widget : root.findChildren<QWidget *>()) {
         if (!widget->isVisible())
             continue;
@@ -45,8 +53,9 @@ QStringList misfits(QWidget &root)
                                                .arg(needed.width())
                                                .arg(needed.height());
         if (qobject_cast<const QAbstractButton *>(widget)) {
-            const int left = widget->mapTo(root.window(), QPoint(0, 0)).x();
-            if (left < 0 || left + widget->width() > side)
+            const QWidget &seen = viewportOf(*widget);
+            const int left = widget->mapTo(&seen, QPoint(0, 0)).x();
+            if (left < 0 || left + widget->width() > seen.width())
                 faults += described(*widget) + QStringLiteral(": beyond the side");
         }
         if (const auto *list = qobject_cast<const QListWidget *>(widget);

@@ -8,6 +8,7 @@
 #include "workbench/requests/requests.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 
 namespace kiv::desktop {
@@ -23,6 +24,16 @@ bool isIdleUndo(QObject *receiver, QEvent *event)
     const auto *keys = static_cast<const QKeyEvent *>(event);
     return field && ((keys->matches(QKeySequence::Undo) && !field->isUndoAvailable()) ||
                      (keys->matches(QKeySequence::Redo) && !field->isRedoAvailable()));
+}
+
+/// With another font, Qt 6.4 keeps the smallest size of a box; with another style it does not.
+void measureAnew(QObject *receiver)
+{
+    if (auto *box = qobject_cast<QComboBox *>(receiver)) {
+        QEvent style(QEvent::StyleChange);
+        QCoreApplication::sendEvent(box, &style);
+        box->updateGeometry();
+    }
 }
 
 } // namespace
@@ -44,7 +55,10 @@ bool Application::notify(QObject *receiver, QEvent *event)
             event->ignore();
             return true;
         }
-        return QApplication::notify(receiver, event);
+        const bool isDone = QApplication::notify(receiver, event);
+        if (event->type() == QEvent::FontChange)
+            measureAnew(receiver);
+        return isDone;
     } catch (const std::exception &error) {
         const QString text = workbench::userText(error);
         if (m_report)

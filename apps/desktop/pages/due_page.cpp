@@ -3,15 +3,17 @@
 
 #include "widgets/allow.h"
 #include "widgets/day_edit.h"
+#include "widgets/flow_layout.h"
 #include "widgets/money_edit.h"
 #include "widgets/table.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
+
+#include <array>
 
 namespace kiv::desktop {
 
@@ -55,18 +57,28 @@ void DuePage::build()
     layout->addWidget(m_table, 1);
     layout->addWidget(m_message);
     layout->addWidget(m_form);
-    auto *form = new QGridLayout(m_form);
-    form->setContentsMargins(0, 0, 0, 0);
-    addForm(*form);
+    addForm();
 }
 
-void DuePage::addForm(QGridLayout &form)
+void DuePage::addForm()
 {
-    const auto addField = [&](int row, int column, const QString &text, QWidget *field) {
-        auto *label = new QLabel(text, m_form);
+    auto *form = new QVBoxLayout(m_form);
+    form->setContentsMargins(0, 0, 0, 0);
+    const auto pair = [this](const QString &text, QWidget *field) {
+        auto *both = new QWidget(m_form);
+        auto *row = new QHBoxLayout(both);
+        row->setContentsMargins(0, 0, 0, 0);
+        auto *label = new QLabel(text, both);
         label->setBuddy(field);
-        form.addWidget(label, row, column);
-        form.addWidget(field, row, column + 1);
+        row->addWidget(label);
+        row->addWidget(field);
+        return both;
+    };
+    const auto addRow = [form](std::initializer_list<QWidget *> parts) {
+        auto *row = new FlowLayout;
+        form->addLayout(row);
+        for (QWidget *part : parts)
+            row->addWidget(part);
     };
     m_account->setObjectName(QStringLiteral("account"));
     m_day->setObjectName(QStringLiteral("day"));
@@ -74,15 +86,12 @@ void DuePage::addForm(QGridLayout &form)
     m_pay->setObjectName(QStringLiteral("pay"));
     m_skip->setObjectName(QStringLiteral("skip"));
     m_payAmount->setObjectName(QStringLiteral("payAmount"));
-    addField(0, 0, tr("&Account:"), m_account);
-    addField(0, 2, tr("On the da&y:"), m_day);
-    form.addWidget(m_pay, 0, 4);
-    form.addWidget(m_skip, 0, 5);
-    addField(1, 0, tr("Another a&mount:"), m_amount);
-    form.addWidget(m_isExtra, 1, 2, 1, 2);
-    form.addWidget(m_payAmount, 1, 4, 1, 2);
-    form.setColumnStretch(1, 1);
-    form.setColumnStretch(3, 1);
+    addRow({pair(tr("&Account:"), m_account), pair(tr("On the da&y:"), m_day), m_pay, m_skip});
+    addRow({pair(tr("Another a&mount:"), m_amount), m_isExtra, m_payAmount});
+    const std::array<QWidget *, 8> order{m_table, m_account, m_day,     m_pay,
+                                         m_skip,  m_amount,  m_isExtra, m_payAmount};
+    for (std::size_t place = 1; place < order.size(); ++place)
+        setTabOrder(order[place - 1], order[place]);
 }
 
 void DuePage::goTo(const QString &detail)

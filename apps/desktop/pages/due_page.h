@@ -7,7 +7,6 @@
 QT_BEGIN_NAMESPACE
 class QCheckBox;
 class QComboBox;
-class QGridLayout;
 class QPushButton;
 QT_END_NAMESPACE
 
@@ -37,7 +36,7 @@ protected:
 
 private:
     void build();
-    void addForm(QGridLayout &form);
+    void addForm();
     /// Brings the form in line with the lines that are chosen.
     void follow();
     void sayAccount();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pages/filter_bar.h"
 
+#include "widgets/flow_layout.h"
+
 #include "workbench/errors.h"
 
 #include <QtGui/QKeyEvent>
@@ -39,7 +41,7 @@ FilterBar::FilterBar(QWidget *parent)
     row->addWidget(m_field, 1);
     layout->addLayout(row);
     layout->addWidget(m_message);
-    auto *choices = new QHBoxLayout;
+    auto *choices = new FlowLayout;
     layout->addLayout(choices);
 
     m_marks = addChoice(tr("Mark"), tr("Any mark"));
@@ -60,7 +62,7 @@ FilterBar::FilterBar(QWidget *parent)
         choices->addWidget(choice);
     m_result->setTextFormat(Qt::PlainText);
     m_result->setObjectName(QStringLiteral("result"));
-    choices->addWidget(m_result, 1);
+    choices->addWidget(m_result);
 
     m_delay.setSingleShot(true);
     m_delay.setInterval(50ms);
@@ -123,6 +125,7 @@ bool FilterBar::offer(const workbench::AccountIndex &accounts)
 void FilterBar::showResult(const QString &result)
 {
     m_result->setText(result);
+    m_result->setToolTip(result); // it may be longer than the bar
 }
 
 void FilterBar::complain(const QString &sentence)

@@ -7,10 +7,17 @@
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace kiv::desktop {
+namespace {
+
+/// The narrowest field shows so many letters.
+constexpr int fieldLetters = 14;
+
+} // namespace
 
 Form::Form(Desk &desk, QWidget *parent)
     : QWidget(parent),
@@ -49,7 +56,26 @@ void Form::addField(const QString &id, const QString &label, QWidget *field)
     field->setParent(this);
     // The widest field makes room for all.
     field->setSizePolicy(QSizePolicy::Expanding, field->sizePolicy().verticalPolicy());
+    widen(*field);
     m_fields->addRow(label, field);
+}
+
+void Form::widen(QWidget &field) const
+{
+    // A day can be read. Without the room for it, the field stands below its label.
+    if (qobject_cast<QLineEdit *>(&field))
+        field.setMinimumWidth(fontMetrics().averageCharWidth() * fieldLetters);
+}
+
+void Form::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    for (int row = 0; row < m_fields->rowCount(); ++row) {
+        if (QLayoutItem *item = m_fields->itemAt(row, QFormLayout::FieldRole))
+            widen(*item->widget());
+    }
 }
 
 void Form::setShown(QWidget &field, bool isShown)

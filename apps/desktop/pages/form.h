@@ -69,9 +69,11 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void addField(const QString &id, const QString &label, QWidget *field);
+    void widen(QWidget &field) const;
 
     Desk &m_desk;
     QLabel *m_heading;

@@ -5,6 +5,7 @@
 #include "pages/category_row.h"
 #include "pages/entry_row.h"
 #include "pages/filter_bar.h"
+#include "pages/register_columns.h"
 #include "pages/register_delegate.h"
 #include "widgets/allow.h"
 #include "widgets/followed_view.h"
@@ -13,7 +14,6 @@
 #include "workbench/entry/money_text.h"
 
 #include "foundation/clock.h"
-#include "foundation/local_dates.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
@@ -127,6 +127,7 @@ void RegisterPage::buildTable()
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
     m_table->installEventFilter(this);
+    m_table->viewport()->installEventFilter(this);
     connect(m_table, &QTableView::doubleClicked, this, &RegisterPage::edit);
     connect(m_table, &QTableView::customContextMenuRequested, this, [this](const QPoint &at) {
         QMenu menu(this);
@@ -230,34 +231,11 @@ void RegisterPage::refresh()
 
 void RegisterPage::sizeRows()
 {
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().lineSpacing() + 6);
-    using enum RegisterModel::Column;
-    QHeaderView *header = m_table->horizontalHeader();
-    // What is usual decides, since to ask all rows would take seconds.
-    const QString day = foundation::localText(QDate(2028, 12, 28));
     const QString amount = workbench::amountText(
         -numira::Money(requests().preferredCurrency(), numira::Decimal(88'888)), m_displayAs);
-    const QString name = QStringLiteral("A usual account");
-    const QString both = name + QStringLiteral(" and one");
-    for (const auto &[column, text] : {std::pair(Number, QStringLiteral("65535")),
-                                       {Day, day},
-                                       {Other, both},
-                                       {Debit, name},
-                                       {Credit, name},
-                                       {Mark, tr("reconciled") + QStringLiteral("\u25cf ")},
-                                       {Amount, amount},
-                                       {Balance, amount}}) {
-        const int place = m_rows->place(column);
-        if (place < 0)
-            continue;
-        const QFontMetrics metrics = m_table->fontMetrics();
-        const QString title = m_rows->headerData(place, Qt::Horizontal, Qt::DisplayRole).toString();
-        header->resizeSection(
-            place, std::max(metrics.horizontalAdvance(text), metrics.horizontalAdvance(title)) +
-                       3 * metrics.averageCharWidth());
-    }
-    header->setSectionResizeMode(m_rows->place(Text), QHeaderView::Stretch);
-    header->restoreState(desk().settings().state(columnsKey()));
+    sizeColumns(*m_table, *m_rows, amount);
+    m_table->horizontalHeader()->restoreState(desk().settings().state(columnsKey()));
+    followWidth(*m_table, *m_rows);
 }
 
 QString RegisterPage::columnsKey() const
@@ -434,6 +412,8 @@ bool RegisterPage::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_table && event->type() == QEvent::FontChange && !m_isFirst)
         sizeRows();
+    if (watched == m_table->viewport() && event->type() == QEvent::Resize && !m_isFirst)
+        followWidth(*m_table, *m_rows);
     // Enter changes the row; as keys of an action it would be taken from all fields.
     if (watched == m_table && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();

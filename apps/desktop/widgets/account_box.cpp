@@ -19,7 +19,7 @@ AccountBox::AccountBox(QWidget *parent) : QComboBox(parent)
 {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    setMinimumContentsLength(12);
+    setMinimumContentsLength(8);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     auto *names = new QCompleter(model(), this);
     names->setCompletionMode(QCompleter::PopupCompletion);

@@ -2,6 +2,7 @@
 #include "widgets/due_lines.h"
 
 #include "widgets/allow.h"
+#include "widgets/flow_layout.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -38,6 +39,7 @@ void DueLines::setLines(const std::vector<Line> &lines)
     m_lines = lines;
     for (std::size_t row = 0; row < lines.size(); ++row)
         addLine(static_cast<int>(row), lines[row]);
+    align();
     if (hadFocus && !m_buttons.empty())
         m_buttons[std::min(place, m_buttons.size() - buttonsEach + place % buttonsEach)]->setFocus(
             Qt::OtherFocusReason);
@@ -54,9 +56,13 @@ void DueLines::addLine(int row, const Line &line)
         m_grid->addWidget(label, row, column++);
         label->show();
     }
-    QPushButton *pay = addButton(row, column++, line.pay, line);
-    QPushButton *skip = addButton(row, column++, tr("Skip"), line);
-    QPushButton *other = addButton(row, column, tr("Other amount …"), line);
+    auto *buttons = new QWidget(this);
+    auto *flow = new FlowLayout(buttons);
+    QPushButton *pay = addButton(*flow, line.pay, line);
+    QPushButton *skip = addButton(*flow, tr("Skip"), line);
+    QPushButton *other = addButton(*flow, tr("Other amount …"), line);
+    m_grid->addWidget(buttons, row, column);
+    buttons->show();
     connect(pay, &QPushButton::clicked, this,
             [this, key = line.key, pay] { emit payWanted(key, pay); });
     connect(skip, &QPushButton::clicked, this,
@@ -64,15 +70,34 @@ void DueLines::addLine(int row, const Line &line)
     connect(other, &QPushButton::clicked, this, [this, key = line.key] { emit otherWanted(key); });
 }
 
-QPushButton *DueLines::addButton(int row, int column, const QString &text, const Line &line)
+QPushButton *DueLines::addButton(QLayout &buttons, const QString &text, const Line &line)
 {
-    auto *button = new QPushButton(text, this);
+    auto *button = new QPushButton(text, buttons.parentWidget());
     // Each tells its line to those who do not see it.
     button->setAccessibleName(tr("%1: %2, %3, %4").arg(text, line.item, line.amount, line.when));
-    m_grid->addWidget(button, row, column);
+    buttons.addWidget(button);
     m_buttons.push_back(button);
-    button->show();
     return button;
+}
+
+void DueLines::align()
+{
+    for (std::size_t column = 0; column < buttonsEach; ++column) {
+        int widest = 0;
+        for (std::size_t place = column; place < m_buttons.size(); place += buttonsEach) {
+            m_buttons[place]->setMinimumWidth(0);
+            widest = std::max(widest, m_buttons[place]->sizeHint().width());
+        }
+        for (std::size_t place = column; place < m_buttons.size(); place += buttonsEach)
+            m_buttons[place]->setMinimumWidth(widest);
+    }
+}
+
+void DueLines::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        align();
 }
 
 void DueLines::allowChanges(const std::optional<QString> &whyNot)

@@ -7,6 +7,7 @@
 
 QT_BEGIN_NAMESPACE
 class QGridLayout;
+class QLayout;
 class QPushButton;
 QT_END_NAMESPACE
 
@@ -44,9 +45,14 @@ signals:
     /// Another amount is to be paid.
     void otherWanted(const QString &key);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void addLine(int row, const Line &line);
-    QPushButton *addButton(int row, int column, const QString &text, const Line &line);
+    QPushButton *addButton(QLayout &buttons, const QString &text, const Line &line);
+    /// Makes buttons that stand below each other equally wide.
+    void align();
 
     std::vector<Line> m_lines;
     QGridLayout *m_grid;

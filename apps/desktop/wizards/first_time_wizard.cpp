@@ -2,6 +2,7 @@
 #include "wizards/first_time_wizard.h"
 
 #include "widgets/currency_box.h"
+#include "widgets/flow_layout.h"
 #include "widgets/money_edit.h"
 
 #include <QtCore/QDir>
@@ -153,7 +154,7 @@ void FirstTimeWizard::addHouseholdStep()
 void FirstTimeWizard::addWaysOut()
 {
     auto *label = new QLabel(tr("Or begin in another way:"), this);
-    auto *row = new QHBoxLayout;
+    auto *row = new FlowLayout;
     row->addWidget(label);
     for (const char *id : {"new", "open", "demonstration"}) {
         QAction *action = m_desk.actions().action(QString::fromLatin1(id));
@@ -167,7 +168,6 @@ void FirstTimeWizard::addWaysOut()
     later->setObjectName(QStringLiteral("later"));
     connect(later, &QPushButton::clicked, this, &FirstTimeWizard::left);
     row->addWidget(later);
-    row->addStretch();
     static_cast<QVBoxLayout *>(layout())->addLayout(row);
 }
 
