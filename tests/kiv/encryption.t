@@ -125,6 +125,15 @@ At a terminal it is asked unseen, once a shell, and what is typed there is not k
   >     'Added the bill' 'encrypt\n' 'New passphrase' 'short\n' 'again' 'shorter\n' \
   >     'not the same passphrase.\r\nThe new' 'short\n' 'have the new passphrase' 'exit\n'
   $ ! grep -rs Secret data
+
+Who ends the program while it asks sees again what is typed:
+
+  $ "$TESTDIR/type" "Passphrase of 'household.budget':" SIGTERM
+  [143]
+  $ "$TESTDIR/type" "Passphrase of 'household.budget':" 'short\n' 'kiv> ' 'encrypt\n' \
+  >     'New passphrase' SIGHUP
+  [129]
+
   $ echo short >words
   $ kiv bill remove Secret
   kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.

@@ -3,6 +3,7 @@
 
 #include "messages/errors.h"
 #include "messages/message_log.h"
+#include "output/unseen_typing.h"
 
 #include "foundation/streams.h"
 
@@ -11,7 +12,6 @@
 #include <cstdio>
 #include <iostream>
 
-#include <termios.h>
 #include <unistd.h>
 
 namespace kiv::app {
@@ -26,28 +26,6 @@ void prompt(const QString &question)
 
 /// A terminal cuts a longer line without a word.
 constexpr qsizetype typedMax = 4095;
-
-/// While it lives, the terminal does not show what is typed, and Ctrl-C only ends the line: the
-/// terminal would stay so otherwise.
-class UnseenTyping {
-public:
-    UnseenTyping()
-    {
-        ::tcgetattr(STDIN_FILENO, &m_before);
-        termios unseen = m_before;
-        unseen.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG);
-        unseen.c_cc[VEOL] = interrupt;
-        ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &unseen);
-    }
-    ~UnseenTyping() { ::tcsetattr(STDIN_FILENO, TCSAFLUSH, &m_before); }
-    UnseenTyping(const UnseenTyping &) = delete;
-    UnseenTyping &operator=(const UnseenTyping &) = delete;
-
-    static constexpr char interrupt = 3; ///< Ctrl-C
-
-private:
-    termios m_before = {};
-};
 
 /// A line that nobody sees, at a terminal. Throws answersEnded() when it is given up.
 QByteArray askedUnseen(const QString &question)

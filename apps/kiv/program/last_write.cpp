@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "program/last_write.h"
 
+#include "output/unseen_typing.h"
 #include "program/line_reader.h"
 
 #include <unistd.h>
@@ -44,6 +45,7 @@ void LastWrite::wait()
     } while (signal == SIGUSR2 || (signal == SIGINT && LineReader::giveUpLine()));
     m_document.writePending();
     LineReader::leaveTerminal();
+    UnseenTyping::leaveTerminal();
     struct sigaction usual = {};
     usual.sa_handler = SIG_DFL;
     ::sigaction(signal, &usual, nullptr);
