@@ -3,6 +3,7 @@
 
 #include "desktop/page_keys.h"
 
+#include <QtCore/QDir>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -98,6 +99,48 @@ private slots:
         fill(other, words, words);
         QVERIFY(other.keyring().all.isEmpty());
         QVERIFY(isEncrypted(copy));
+    }
+
+    void aFormerVersionAsksForItsOwnPassphrase()
+    {
+        const QString others = u"words of somebody else"_s;
+        SmallHousehold stranger;
+        stranger.begin();
+        stranger.document().perform({u"Added"_s, {}, {}}, [&] {
+            stranger.addAccount("Food", accounting::AccountTypes::Expense);
+        });
+        stranger.document().encrypt(storage::Passphrase(others));
+        SmallHousehold home;
+        test::show(home, "encryption");
+        fill(home, words, words);
+        const QString versions = home.document().file() + u".versions/"_s;
+        QVERIFY(QDir().mkpath(versions));
+        QVERIFY(QFile::copy(stranger.document().file(),
+                            versions + u"2026-01-01T12-00-00.000Z-9000.budget"_s));
+        const auto accounts = [&home] {
+            const workbench::AccountIndex index = home.requests().accounts();
+            return index.accounts().size();
+        };
+        const std::size_t before = accounts();
+        home.trigger("page history");
+        QVERIFY(test::texts(home, 2, "steps").contains(u"another passphrase"_s));
+        test::table(home, "steps").choose(u"version 9000"_s);
+        const auto &ask = part<QPushButton>(home, "unlock");
+        QTRY_VERIFY(ask.isVisible());
+        QVERIFY(home.questions().asked.isEmpty()); // by nobody who only goes through the lines
+
+        press(home, Qt::Key_B, Qt::AltModifier); // and gives up
+        QCOMPARE(home.questions().asked.size(), 1);
+        QVERIFY(message(home).isEmpty());
+        home.questions().passphrases = {words, others};
+        press(home, Qt::Key_Y, Qt::AltModifier);
+        QCOMPARE(home.questions().asked.size(), 3);
+        QVERIFY(test::texts(home, 1, "changes").join(u' ').contains(u"Food"_s));
+        QVERIFY(!ask.isVisible());
+        QVERIFY(!test::texts(home, 2, "steps").contains(u"another passphrase"_s));
+        press(home, Qt::Key_B, Qt::AltModifier);
+        QCOMPARE(home.questions().asked.size(), 3);
+        QCOMPARE(accounts(), before + 1);
     }
 
     void theKeyringAnswersForTheUser()

@@ -30,6 +30,8 @@ Row versionRow(const KeptVersion &version)
     Cell state{version.isFile ? QObject::tr("in the file now") : QString()};
     if (version.telling == KeptVersion::Telling::Nothing)
         state = {QObject::tr("damaged"), {}, false, Colour::Wrong};
+    if (version.telling == KeptVersion::Telling::Locked)
+        state = {QObject::tr("another passphrase")};
     const QString &change = version.mark.change;
     return {versionKey + version.name,
             {{change.isEmpty() ? QObject::tr("Version %1").arg(version.name) : change},

@@ -24,23 +24,31 @@ constexpr std::chrono::milliseconds pause{150};
 
 HistoryPage::HistoryPage(Desk &desk)
     : Page(desk, QStringLiteral("history"), tr("History")),
+      m_unlocking(desk, this),
       m_model(new TableModel(historyColumns(), this)),
       m_table(new Table(*m_model, tr("Steps and versions"), this)),
       m_changes(new TableModel(changeColumns(), this)),
       m_changeTable(new Table(*m_changes, tr("What changed since"), this)),
       m_difference(new QLabel(this)),
       m_goBack(new QPushButton(tr("Go &back to this"), this)),
+      m_unlock(new QPushButton(tr("T&ype its passphrase …"), this)),
       m_message(new FieldMessage(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_table, 3);
-    layout->addWidget(m_goBack, 0, Qt::AlignLeft);
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_goBack);
+    buttons->addWidget(m_unlock);
+    buttons->addStretch();
+    layout->addLayout(buttons);
     layout->addWidget(m_message);
     layout->addWidget(m_difference);
     layout->addWidget(m_changeTable, 2);
     m_table->setObjectName(QStringLiteral("steps"));
     m_changeTable->setObjectName(QStringLiteral("changes"));
     m_goBack->setObjectName(QStringLiteral("goBack"));
+    m_unlock->setObjectName(QStringLiteral("unlock"));
+    m_unlock->hide();
     m_difference->setTextFormat(Qt::PlainText);
     m_difference->setWordWrap(true);
     m_pause.setSingleShot(true);
@@ -49,6 +57,7 @@ HistoryPage::HistoryPage(Desk &desk)
     connect(m_table, &Table::chosenChanged, this, &HistoryPage::follow);
     connect(m_table, &Table::opened, this, &HistoryPage::goBack);
     connect(m_goBack, &QPushButton::clicked, this, &HistoryPage::goBack);
+    connect(m_unlock, &QPushButton::clicked, this, &HistoryPage::unlock);
 }
 
 QWidget *HistoryPage::firstFocus()
@@ -59,11 +68,16 @@ QWidget *HistoryPage::firstFocus()
 void HistoryPage::refresh()
 {
     m_message->withdraw();
-    const QString file = desk().document().file();
-    m_model->setRows(historyRows(desk().document().steps(),
-                                 workbench::KeptVersions(file, &desk().document().keys()).all()));
+    showVersions();
     m_table->settle();
     follow();
+}
+
+void HistoryPage::showVersions()
+{
+    const workbench::Document &document = desk().document();
+    m_model->setRows(historyRows(document.steps(),
+                                 workbench::KeptVersions(document.file(), &document.keys()).all()));
 }
 
 void HistoryPage::follow()
@@ -78,6 +92,7 @@ void HistoryPage::follow()
     allow(*m_goBack, whyNot);
     m_difference->hide();
     m_changeTable->hide();
+    m_unlock->hide();
     m_pause.start();
 }
 
@@ -88,9 +103,32 @@ void HistoryPage::compare()
         return;
     try {
         showChanges(thenOf(target));
+    } catch (const storage::StorageError &error) {
+        showTrouble(error);
+        // While the keys go through the lines, nobody wants to be asked.
+        m_unlock->setVisible(error.failure() == storage::StorageFailure::PassphraseNeeded);
     } catch (const foundation::Error &error) {
-        m_difference->setText(workbench::userText(error));
-        m_difference->show();
+        showTrouble(error);
+    }
+}
+
+void HistoryPage::showTrouble(const foundation::Error &error)
+{
+    m_difference->setText(workbench::userText(error));
+    m_difference->show();
+}
+
+void HistoryPage::unlock()
+{
+    const HistoryTarget target = historyTarget(m_table->chosen().value(0));
+    try {
+        if (!m_unlocking.withPassphrases([&] { showChanges(thenOf(target)); }))
+            return;
+        m_table->setFocus(Qt::OtherFocusReason); // before the button with the focus goes
+        m_unlock->hide();
+        showVersions(); // which tell more now
+    } catch (const foundation::Error &error) {
+        showTrouble(error);
     }
 }
 
@@ -131,10 +169,14 @@ void HistoryPage::goBack()
     const HistoryTarget target = historyTarget(m_table->chosen().value(0));
     try {
         workbench::Document &document = desk().document();
-        if (target.step)
-            document.goTo(*target.step);
-        else
-            document.undoTo(target.version);
+        const bool isDone = m_unlocking.withPassphrases([&] {
+            if (target.step)
+                document.goTo(*target.step);
+            else
+                document.undoTo(target.version);
+        });
+        if (!isDone)
+            return;
     } catch (const foundation::Error &error) {
         m_message->complain(m_table, workbench::userText(error));
         return;

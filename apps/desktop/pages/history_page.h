@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pages/page.h"
+#include "pages/unlocking.h"
 
 #include <QtCore/QTimer>
 
@@ -29,19 +30,25 @@ protected:
     void refresh() override;
 
 private:
+    void showVersions();
     void follow();
     void compare();
+    /// Asks for the passphrase of the chosen version, and shows what changed since then.
+    void unlock();
     void goBack();
     /// The budget as it was at the step or in the version.
     [[nodiscard]] storage::BudgetStorage::Data thenOf(const HistoryTarget &target) const;
     void showChanges(const storage::BudgetStorage::Data &then);
+    void showTrouble(const foundation::Error &error);
 
+    Unlocking m_unlocking;
     TableModel *m_model;
     Table *m_table;
     TableModel *m_changes;
     Table *m_changeTable;
     QLabel *m_difference;
     QPushButton *m_goBack;
+    QPushButton *m_unlock; ///< only for a version with another passphrase
     FieldMessage *m_message;
     QTimer m_pause; ///< before a version is read, while the keys go on to another
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "session/unlocking.h"
+#include "pages/unlocking.h"
 
 #include "workbench/errors.h"
 
