@@ -150,7 +150,8 @@ TransactionNumber enter(Requests &requests, const Entry &entry)
     case EntryForm::Moved:
         break;
     }
-    return transfer(requests, {own, other, entry.amount, descriptionOf(entry).shown(), entry.day});
+    return transfer(requests, {own, other, entry.amount,
+                               descriptionOf(entry).text().value_or(QString()), entry.day});
 }
 
 std::vector<TransactionNumber> enterSplit(Requests &requests, const SplitEntry &entry)
@@ -171,7 +172,8 @@ void changeInto(Requests &requests, TransactionNumber number, const Entry &entry
     const bool isEarned = entry.form == EntryForm::Earned;
     changeTransaction(requests, number,
                       {entry.day, entry.amount, typed(isEarned ? entry.own : entry.other),
-                       typed(isEarned ? entry.other : entry.own), descriptionOf(entry).shown()});
+                       typed(isEarned ? entry.other : entry.own),
+                       descriptionOf(entry).text().value_or(QString())});
 }
 
 numira::Money leftToRefund(const Transaction &transaction, const AccountIndex &index)
