@@ -3,6 +3,7 @@
 
 #include "workbench/entry/money_text.h"
 #include "workbench/requests/budget_view.h"
+#include "workbench/requests/paying_account.h"
 
 #include "budgeting/item_traits.h"
 #include "foundation/error.h"
@@ -77,6 +78,8 @@ std::optional<ItemOutlook> outlookOf(const BudgetStorage::Data &data, const Budg
     outlook.item = identify(item);
     outlook.progress = *progress;
     outlook.recurs = item.period() != budgeting::EventFrequency::None;
+    // What has a progress has an account.
+    outlook.isOpen = !data.generalLedger.ledger(*accountOf(data, outlook.item)).isClosed();
     if (const auto *debt = dynamic_cast<const budgeting::Debt *>(&item)) {
         outlook.isEnded = !progress->part.isPositive();
         outlook.payoff = endingPayoff(data, *debt);

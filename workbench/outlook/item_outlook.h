@@ -15,10 +15,13 @@ struct KIV_WORKBENCH_EXPORT ItemOutlook {
     std::optional<Payoff> payoff;         ///< of a debt that is paid regularly and has an end
     bool isEnded = false;                 ///< the goal is reached, or the debt paid off
     bool recurs = false;                  ///< whether it becomes due again
+    bool isOpen = false;                  ///< whether its account is
     QString sentence;                     ///< all of it, in the user's language
 
     /// Whether it still becomes due though there is nothing left to save or to pay.
     [[nodiscard]] bool shouldEnd() const { return isEnded && recurs; }
+    /// Whether finishGoal() or finishDebt() has something to do.
+    [[nodiscard]] bool canEnd() const { return isEnded && (recurs || isOpen); }
 };
 
 /// The outlook of a goal or a debt; nothing for other items, and without an account.

@@ -7,11 +7,14 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
-class QPushButton;
 QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
+class AccountBox;
+class DayEdit;
+class Desk;
+class Form;
 class ItemSchedule;
 class Table;
 
@@ -22,7 +25,7 @@ class ItemExplained final : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ItemExplained(QWidget *parent);
+    ItemExplained(Desk &desk, QWidget *parent);
 
     /// Explains this item; is hidden if there is nothing to explain.
     void explain(workbench::Document &document, const ShownEnvelopes &envelopes,
@@ -30,13 +33,26 @@ public:
     /// Allows the end, or says why not.
     void allowChanges(const std::optional<QString> &whyNot);
 
+    /// What becomes of a goal's money.
+    struct Spending {
+        std::optional<accounting::AccountNumber> on; ///< none: it goes back
+        QDate day;
+    };
+    /// What was typed for the end of a goal. What cannot be read is told at its field.
+    [[nodiscard]] std::optional<Spending> spending();
+
 signals:
     /// The item is to recur no longer.
     void endWanted();
 
 private:
+    void allowEnd(workbench::Document &document, const budgeting::BudgetItemIdentifier &item);
+
     QLabel *m_outlook;
-    QPushButton *m_end;
+    Form *m_end;
+    AccountBox *m_spentOn;
+    DayEdit *m_day;
+    budgeting::BudgetItemIdentifier m_item; ///< whose end is offered
     TableModel *m_model;
     Table *m_table;
     ItemSchedule *m_schedule;

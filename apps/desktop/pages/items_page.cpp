@@ -48,7 +48,7 @@ BudgetItemTypes kindAt(int tab)
 ItemsPage::ItemsPage(Desk &desk)
     : ListPage(desk, QStringLiteral("items"), tr("Items"), itemColumns(BudgetItemTypes::Bill)),
       m_kinds(new QTabBar(this)),
-      m_explained(new ItemExplained(this)),
+      m_explained(new ItemExplained(desk, this)),
       m_total(new QLabel(this)),
       m_new(addButton(QStringLiteral("new"), tr("&New"), [this] { beginNew(); })),
       m_change(addButton(QStringLiteral("change"), tr("&Change"), [this] { change(); })),
@@ -269,14 +269,17 @@ void ItemsPage::remove()
 void ItemsPage::end()
 {
     const BudgetItemIdentifier id = chosenItem();
+    const bool isGoal = id.type == BudgetItemTypes::Goal;
+    const auto spending = isGoal ? m_explained->spending() : std::nullopt;
+    if (isGoal && !spending)
+        return;
     workbench::Deed deed = workbench::finishDeed(id);
     deed.place = QStringLiteral("items/%1/%2").arg(workbench::kindWord(id.type), id.source.name());
     workbench::Finished done;
     const bool isDone = perform(deed, [&] {
-        done = id.type == BudgetItemTypes::Goal
-                   ? workbench::finishGoal(desk().document(), id.source.name(), std::nullopt,
-                                           foundation::today())
-                   : workbench::finishDebt(desk().document(), id.source.name());
+        done = isGoal ? workbench::finishGoal(desk().document(), id.source.name(), spending->on,
+                                              spending->day)
+                      : workbench::finishDebt(desk().document(), id.source.name());
     });
     if (isDone)
         desk().say(deed.line + u' ' + workbench::toldOf(requests(), done, id).join(u' '));
