@@ -78,6 +78,7 @@ void AccountForm::begin(std::optional<AccountNumber> changed)
     m_parent->offer(index, offered);
     m_parent->setAccount(std::nullopt);
     m_name->clear();
+    m_kind->setCurrentIndex(0);
     m_number->clear();
     m_opening->clear();
     m_opening->setCurrency(m_desk.requests().preferredCurrency());
