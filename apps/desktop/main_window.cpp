@@ -58,7 +58,10 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     m_help = new HelpSession(*m_desk, this);
     addPages();
     fillMenus();
-    m_palette = new CommandPalette(this);
+    m_palette =
+        new CommandPalette({QStringLiteral("palette"), tr("Type what you want to do or to see"),
+                            tr("Command"), tr("Found commands")},
+                           this);
     addPaletteSources();
     applyLooks();
     connect(m_session, &FileSession::opened, this, &MainWindow::showOpened);
@@ -214,15 +217,7 @@ void MainWindow::fillMenus()
 
 void MainWindow::addPaletteSources()
 {
-    m_palette->addSource([this](const QString &) {
-        std::vector<PaletteEntry> entries;
-        for (QAction *action : m_actions->all()) {
-            entries.push_back({action->iconText(),
-                               action->shortcut().toString(QKeySequence::NativeText),
-                               ActionCollection::reason(action), [action] { action->trigger(); }});
-        }
-        return entries;
-    });
+    m_palette->addSource(actionSource(*m_actions));
     m_palette->addSource(accountSource(*m_desk));
     m_palette->addSource(itemSource(*m_desk));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 #include "support/accounting.h"
 
@@ -13,6 +14,9 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -37,6 +41,28 @@ bool has(workbench::Document &document, const QString &name)
         return account.code().name() == name;
     });
 }
+
+/// While it lives, no file becomes longer than this: a disk without room.
+class FullDisk {
+public:
+    FullDisk()
+    {
+        std::signal(SIGXFSZ, SIG_IGN); // so that it is an error of writing
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit full{4096, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before = {};
+};
 
 } // namespace
 
@@ -160,13 +186,23 @@ private slots:
         QVERIFY(!has(second.document(), u"Food"_s));
     }
 
+    void aFailedWriteIsToldAndMended_data()
+    {
+        QTest::addColumn<bool>("isFull");
+        QTest::newRow("the folder is gone, like a disk that was taken out") << false;
+        QTest::newRow("the disk is full") << true;
+    }
     void aFailedWriteIsToldAndMended()
     {
+        QFETCH(bool, isFull);
         HouseholdWindow desk;
         QVERIFY(QDir().mkpath(desk.path(u"disk"_s)));
         begin(desk, u"disk/home"_s);
-        // The folder is gone for a while, like a disk that was taken out.
-        QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
+        std::optional<FullDisk> full;
+        if (isFull)
+            full.emplace();
+        else
+            QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
         addAccount(desk.document(), u"Food"_s);
         QTRY_COMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
         QCOMPARE(notices(desk).size(), 1);
@@ -183,7 +219,8 @@ private slots:
         QVERIFY(has(desk.document(), u"Books"_s));
         QTRY_COMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
 
-        QVERIFY(QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
+        full.reset();
+        QVERIFY(isFull || QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
         desk.trigger("save");
         QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
         QCOMPARE(notices(desk).size(), 1); // of the file that was not there
@@ -248,11 +285,46 @@ private slots:
         // One that cannot be chosen says why.
         desk.trigger("palette");
         QTest::keyClicks(QApplication::focusWidget(), u"redo"_s);
-        const auto *list = desk.window().findChild<QListWidget *>(u"found"_s);
+        const auto *list = listOf(desk, u"palette"_s);
         QVERIFY(list && list->count() > 0);
         QVERIFY(list->item(0)->text().contains(u"nothing to redo"_s));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!list->isVisible());
+    }
+
+    void allKeysAreListedAndFound_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("first");
+        const QString undo = u"Undo  –  Ctrl+Z  –  There is nothing to undo."_s;
+        QTest::newRow("a name") << u"undo"_s << undo;
+        QTest::newRow("keys") << u"ctrl+z"_s << undo;
+        QTest::newRow("keys of a part")
+            << u"space TICK"_s << u"In a survey: tick the row, and go down  –  Space"_s;
+        QTest::newRow("an action without keys") << u"dark"_s << u"Dark"_s;
+        QTest::newRow("nothing") << u"ctrl+nothing"_s << QString();
+    }
+    void allKeysAreListedAndFound()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QString, first);
+        HouseholdWindow desk;
+        desk.questions().files = {desk.path(u"home"_s)};
+        desk.trigger("new");
+        desk.show();
+        QWidget *const before = QApplication::focusWidget();
+        QTest::keyClick(before, Qt::Key_Question, Qt::ControlModifier);
+        const auto *list = listOf(desk, u"keys"_s);
+        QVERIFY(list && list->isVisible());
+        QCOMPARE(kiv::test::nameless(desk.window()), QStringList());
+        for (const QAction *one : desk.window().desk().actions().all())
+            QVERIFY2(!list->findItems(one->iconText(), Qt::MatchStartsWith).isEmpty(),
+                     qPrintable(one->iconText()));
+        QTest::keyClicks(QApplication::focusWidget(), typed);
+        QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(), first);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!list->isVisible());
+        QCOMPARE(QApplication::focusWidget(), before);
     }
 
     void noTwoActionsHaveTheSameKeys()
@@ -297,6 +369,10 @@ private:
                 return button;
         }
         return nullptr;
+    }
+    static QListWidget *listOf(HouseholdWindow &desk, const QString &palette)
+    {
+        return desk.window().findChild<QFrame *>(palette)->findChild<QListWidget *>();
     }
     static QAction *action(HouseholdWindow &desk, const char *id)
     {

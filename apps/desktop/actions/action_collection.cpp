@@ -100,15 +100,4 @@ QStringList ActionCollection::conflicts() const
     return conflicts;
 }
 
-QString ActionCollection::listOfKeys() const
-{
-    QString list;
-    for (const Entry &entry : m_entries) {
-        if (!entry.action->shortcut().isEmpty())
-            list += entry.action->shortcut().toString(QKeySequence::NativeText) + u'\t' +
-                    entry.action->iconText() + u'\n';
-    }
-    return list;
-}
-
 } // namespace kiv::desktop

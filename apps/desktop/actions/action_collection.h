@@ -41,8 +41,6 @@ public:
 
     /// The keys that several actions have, for a test.
     [[nodiscard]] QStringList conflicts() const;
-    /// One line for each action with keys: keys, what it does.
-    [[nodiscard]] QString listOfKeys() const;
 
 private:
     struct Entry {

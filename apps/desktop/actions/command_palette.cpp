@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "actions/command_palette.h"
 
+#include "widgets/colours.h"
+
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
@@ -11,8 +13,8 @@
 namespace kiv::desktop {
 namespace {
 
-/// So many fit; the others are found by typing more.
-constexpr std::size_t shownMax = 40;
+/// Nobody looks through more; the others are found by typing more.
+constexpr std::size_t shownMax = 200;
 
 bool matches(const PaletteEntry &entry, const QStringList &words)
 {
@@ -24,19 +26,19 @@ bool matches(const PaletteEntry &entry, const QStringList &words)
 
 } // namespace
 
-CommandPalette::CommandPalette(QWidget *window)
+CommandPalette::CommandPalette(const Names &names, QWidget *window)
     : QFrame(window), m_field(new QLineEdit(this)), m_list(new QListWidget(this))
 {
-    setObjectName(QStringLiteral("palette"));
+    setObjectName(names.id);
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_field);
     layout->addWidget(m_list);
-    m_field->setPlaceholderText(tr("Type what you want to do or to see"));
-    m_field->setAccessibleName(tr("Command"));
+    m_field->setPlaceholderText(names.invitation);
+    m_field->setAccessibleName(names.field);
     m_list->setObjectName(QStringLiteral("found"));
-    m_list->setAccessibleName(tr("Found commands"));
+    m_list->setAccessibleName(names.list);
     m_list->setFocusPolicy(Qt::NoFocus);
     connect(m_field, &QLineEdit::textChanged, this, &CommandPalette::list);
     connect(m_field, &QLineEdit::returnPressed, this, &CommandPalette::choose);
@@ -60,22 +62,22 @@ void CommandPalette::open()
 
 void CommandPalette::list()
 {
-    const QString typed = m_field->text().trimmed();
-    const QStringList words = typed.split(u' ', Qt::SkipEmptyParts);
+    const QStringList words = m_field->text().split(u' ', Qt::SkipEmptyParts);
     m_shown.clear();
     m_list->clear();
     for (const Source &source : m_sources) {
-        for (PaletteEntry &entry : source(typed)) {
-            if (m_shown.size() < shownMax && (!entry.run || matches(entry, words)))
+        for (PaletteEntry &entry : source()) {
+            if (m_shown.size() < shownMax && matches(entry, words))
                 m_shown.push_back(std::move(entry));
         }
     }
     for (const PaletteEntry &entry : m_shown) {
-        const QString detail = entry.reason.isEmpty() ? entry.detail : entry.reason;
-        auto *item = new QListWidgetItem(
-            detail.isEmpty() ? entry.text : entry.text + QStringLiteral("  –  ") + detail, m_list);
+        QStringList parts{entry.text, entry.detail, entry.reason};
+        parts.removeAll(QString());
+        auto *item = new QListWidgetItem(parts.join(QStringLiteral("  –  ")), m_list);
+        // The arrow keys go to it all the same, so that a reader hears the reason.
         if (!entry.reason.isEmpty())
-            item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+            item->setForeground(colour(Colour::Faint, palette()));
     }
     m_list->setCurrentRow(0);
 }

@@ -14,25 +14,31 @@ QT_END_NAMESPACE
 
 namespace kiv::desktop {
 
-/// One line of the command palette.
+/// One line of a palette.
 struct PaletteEntry {
     QString text;
     QString detail;                 ///< its kind, or its keys
     QString reason = {};            ///< why it cannot be chosen; empty if it can
-    std::function<void()> run = {}; ///< none for an answer, such as a sum
+    std::function<void()> run = {}; ///< none for what is only told
 };
 
-/// A field in which all that the window can do, and all that it can show, is found by
-/// typing a part of its name.
+/// A field in which lines are found by typing words of them in any order. In one of them, all
+/// that the window can do and show is found; in another one, all keys.
 class CommandPalette final : public QFrame {
     Q_OBJECT
 
 public:
-    /// Gives entries for what was typed. Those whose text does not contain all typed words
-    /// are left out, unless they have no `run`.
-    using Source = std::function<std::vector<PaletteEntry>(const QString &typed)>;
+    /// Gives all lines that can be found.
+    using Source = std::function<std::vector<PaletteEntry>()>;
+    /// What it is called.
+    struct Names {
+        QString id;         ///< as an object
+        QString invitation; ///< in the field while it is empty
+        QString field;      ///< for screen readers
+        QString list;       ///< for screen readers
+    };
 
-    explicit CommandPalette(QWidget *window);
+    CommandPalette(const Names &names, QWidget *window);
 
     /// Adds a source; earlier ones come first.
     void addSource(Source source) { m_sources.push_back(std::move(source)); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "actions/palette_sources.h"
 
+#include "actions/part_keys.h"
 #include "models/account_rows.h"
 #include "pages/desk.h"
 
@@ -10,10 +11,41 @@
 #include "workbench/requests/budget_view.h"
 
 namespace kiv::desktop {
+namespace {
+
+PaletteEntry entryOf(QAction *action)
+{
+    return {action->iconText(), action->shortcut().toString(QKeySequence::NativeText),
+            ActionCollection::reason(action), [action] { action->trigger(); }};
+}
+
+} // namespace
+
+CommandPalette::Source actionSource(const ActionCollection &actions)
+{
+    return [&actions] {
+        std::vector<PaletteEntry> entries;
+        std::ranges::transform(actions.all(), std::back_inserter(entries), entryOf);
+        return entries;
+    };
+}
+
+CommandPalette::Source keySource(const ActionCollection &actions)
+{
+    return [&actions] {
+        std::vector<PaletteEntry> entries;
+        std::vector<PaletteEntry> without;
+        for (QAction *action : actions.all())
+            (action->shortcut().isEmpty() ? without : entries).push_back(entryOf(action));
+        std::ranges::move(partKeys(), std::back_inserter(entries));
+        std::ranges::move(without, std::back_inserter(entries));
+        return entries;
+    };
+}
 
 CommandPalette::Source accountSource(Desk &desk)
 {
-    return [&desk](const QString &) {
+    return [&desk] {
         std::vector<PaletteEntry> entries;
         if (desk.document().file().isEmpty())
             return entries;
@@ -34,7 +66,7 @@ CommandPalette::Source accountSource(Desk &desk)
 
 CommandPalette::Source itemSource(Desk &desk)
 {
-    return [&desk](const QString &) {
+    return [&desk] {
         std::vector<PaletteEntry> entries;
         if (desk.document().file().isEmpty())
             return entries;

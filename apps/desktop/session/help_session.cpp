@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "session/help_session.h"
 
+#include "actions/palette_sources.h"
 #include "help/manual.h"
 
 #include "workbench/requests/releases.h"
@@ -20,8 +21,14 @@ const QString releaseNotice = QStringLiteral("release");
 } // namespace
 
 HelpSession::HelpSession(Desk &desk, QWidget *window)
-    : QObject(window), m_desk(desk), m_window(window)
+    : QObject(window),
+      m_desk(desk),
+      m_window(window),
+      m_keys(new CommandPalette({QStringLiteral("keys"), tr("Type keys, or what they do"),
+                                 tr("List of keys"), tr("Found keys")},
+                                window))
 {
+    m_keys->addSource(keySource(desk.actions()));
     ActionCollection &actions = desk.actions();
     actions.add(QStringLiteral("manual"), Group::Help, tr("&Manual of this page"),
                 QKeySequence(Qt::Key_F1),
@@ -30,10 +37,7 @@ HelpSession::HelpSession(Desk &desk, QWidget *window)
         m_desk.questions().show(m_window, tr("The household's guide"), householdGuide());
     });
     actions.add(QStringLiteral("keys"), Group::Help, tr("List of &keys"),
-                QKeySequence(Qt::CTRL | Qt::Key_Question), [this] {
-                    m_desk.questions().show(m_window, tr("List of keys"),
-                                            m_desk.actions().listOfKeys());
-                });
+                QKeySequence(Qt::CTRL | Qt::Key_Question), [this] { m_keys->open(); });
     actions.add(QStringLiteral("releaseNotes"), Group::Help, tr("&Release notes"), {},
                 [this] { showReleaseNotes(); });
     actions.add(QStringLiteral("about"), Group::Help, tr("&About kiv"), {},

@@ -5,6 +5,8 @@
 
 namespace kiv::desktop {
 
+class CommandPalette;
+
 /// The menu of help: the manual, the list of keys, the release notes, and what this program
 /// is. Tells of a newer release once.
 class HelpSession final : public QObject {
@@ -23,6 +25,7 @@ private:
 
     Desk &m_desk;
     QWidget *m_window;
+    CommandPalette *m_keys; ///< the list of keys
     QString m_page;
 };
 

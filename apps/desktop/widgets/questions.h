@@ -44,7 +44,7 @@ public:
                                                           const QString &question) = 0;
     /// The printer that the user chose, and how, set in `printer`. Returns whether one was.
     [[nodiscard]] virtual bool printer(QWidget *parent, QPrinter &printer) = 0;
-    /// Shows a longer text, such as the list of keys, until it is closed.
+    /// Shows a longer text, such as the manual, until it is closed.
     virtual void show(QWidget *parent, const QString &heading, const QString &text) = 0;
 };
 
