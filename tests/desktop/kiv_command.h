@@ -17,6 +17,9 @@ public:
         environment.remove(QStringLiteral("LANGUAGE"));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder + QStringLiteral("/config"));
         environment.insert(QStringLiteral("XDG_DATA_HOME"), folder + QStringLiteral("/data"));
+        const QString programs = QFileInfo(QStringLiteral(KIV_COMMAND)).absolutePath();
+        environment.insert(QStringLiteral("PATH"), programs + u':' + qEnvironmentVariable("PATH"));
+        m_process.setWorkingDirectory(folder);
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     }
@@ -24,13 +27,12 @@ public:
     /// What the command with these words prints. Anything but success ends the test program.
     QByteArray run(const QStringList &words, const QByteArray &input = {})
     {
-        m_process.start(QStringLiteral(KIV_COMMAND), words);
-        m_process.write(input);
-        m_process.closeWriteChannel();
-        m_process.waitForFinished(60'000);
-        if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
-            qFatal("kiv %s failed", qPrintable(words.join(u' ')));
-        return m_process.readAllStandardOutput();
+        return runProgram(QStringLiteral(KIV_COMMAND), words, input);
+    }
+    /// Runs the lines in a shell in the file's folder.
+    void runScript(const QByteArray &lines)
+    {
+        runProgram(QStringLiteral("sh"), {QStringLiteral("-e")}, lines);
     }
     /// Runs the lines in one session.
     QByteArray runLines(const QByteArray &lines) { return run({QStringLiteral("shell")}, lines); }
@@ -46,6 +48,17 @@ public:
     }
 
 private:
+    QByteArray runProgram(const QString &program, const QStringList &words, const QByteArray &input)
+    {
+        m_process.start(program, words);
+        m_process.write(input);
+        m_process.closeWriteChannel();
+        m_process.waitForFinished(60'000);
+        if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0)
+            qFatal("%s %s failed", qPrintable(program), qPrintable(words.join(u' ')));
+        return m_process.readAllStandardOutput();
+    }
+
     QString m_file;
     QProcess m_process;
 };

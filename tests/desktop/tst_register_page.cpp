@@ -40,18 +40,11 @@ private slots:
         m_desk->trigger("newEarned");
         enter({u"7"_s, {}, u"Salary"_s, u"Mill"_s, u"extra"_s, u"2026-02-21"_s});
         QCOMPARE(news(), u"2026-02-21 Salary > Checking 7.00 USD Mill | extra"_s);
-        press(Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
-        enter({u"420.15"_s, {}, u"Card"_s, {}, {}, u"2026-02-22"_s});
-        QCOMPARE(news(), u"2026-02-22 Checking > Card 420.15 USD "_s);
-        QCOMPARE(undoName(), u"Undo moving $420.15 from Checking to Card"_s);
 
         // By keys from the field: nothing unsent is in it that could be undone first.
-        for (int step = 0; step < 4; ++step)
+        for (int step = 0; step < 3; ++step)
             press(Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(all(), m_before);
-        for (int step = 0; step < 4; ++step)
-            m_desk->trigger("redo");
-        QCOMPARE(all().size(), m_before.size() + 4);
     }
 
     void onePaymentOnSeveralThingsIsOneStep()
@@ -87,7 +80,7 @@ private slots:
         QCOMPARE(all(), m_before);
     }
 
-    void anExchangeTakesBothAmounts()
+    void anExchangeTakesTheCurrencyOfItsAccount()
     {
         m_desk->trigger("save");
         m_desk->requests().change(
@@ -103,11 +96,7 @@ private slots:
         fill(u"received"_s, u"183.50 USD"_s); // of the wrong account
         press(Qt::Key_Return);
         QVERIFY(pageMessage().contains(u"EUR"_s));
-        fill(u"received"_s, u"183.50"_s);
-        press(Qt::Key_Return);
-        const QString made = all().join(u'\n');
-        QVERIFY2(made.contains(u"Checking > "_s) && made.contains(u" > Euros 183.50 EUR"_s),
-                 qPrintable(made));
+        QCOMPARE(all(), m_before);
     }
 
     void aRefusalStandsAtItsField_data()

@@ -112,7 +112,8 @@ QMap<QString, QString> texts()
         {QStringLiteral("history"),
          QObject::tr("The steps of this session, and below them the former versions of the file. "
                      "The lower table says what changed since the chosen one. “Go back to this” "
-                     "makes it the present state; undo and redo go on from there.")},
+                     "makes it the present state; undo and redo go on from there. A version that "
+                     "was encrypted with another passphrase asks for it.")},
         {QStringLiteral("import"),
          QObject::tr(
              "A file of your bank, or a journal of another program, is laid beside the books.\n\n"
@@ -169,7 +170,7 @@ QString householdGuide()
             "A first week\n"
             "Enter the bank account with its balance, what comes in, and the largest bills: "
             "“Begin step by step” in the menu “File” asks for them. Then enter what is spent "
-            "(Ctrl+N), and pay on the page “Due” what is due. All else can wait until it "
+            "(Ctrl+T), and pay on the page “Due” what is due. All else can wait until it "
             "happens."),
         QObject::tr(
             "The end of the month\n"
@@ -194,8 +195,8 @@ QString householdGuide()
                     "Choose the payment in the register, then “Refund” in the menu “Transaction”."),
         QObject::tr(
             "A goal that is reached\n"
-            "“End it” on the page “Items” gives its money back to the account that holds it. "
-            "Then enter what was bought. To go on saving, raise what is to be reached."),
+            "“End it” on the page “Items” spends its money on what is typed there, or gives it "
+            "back to the account that holds it. To go on saving, raise what is to be reached."),
         QObject::tr(
             "An account of the wrong kind\n"
             "“Change” on the page “Accounts” corrects it, and on the page “Banks” what it is "
