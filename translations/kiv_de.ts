@@ -5340,10 +5340,6 @@ A rate can be typed over, and all can be fetched from the service. Rates are the
 Ein Kurs kann überschrieben, alle können vom Dienst abgerufen werden. Kurse gelten für alle Budgets und können nicht rückgängig gemacht werden.</translation>
     </message>
     <message>
-        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there.</source>
-        <translation>Die Schritte dieser Sitzung und darunter die früheren Versionen der Datei. Die untere Tabelle sagt, was sich seit der gewählten geändert hat. „Zurück zu diesem Stand“ macht sie zum jetzigen Stand; Rückgängigmachen und Wiederholen gehen von dort weiter.</translation>
-    </message>
-    <message>
         <source>Each setting is applied as soon as its field is left. Settings are the same for all budgets and cannot be undone. A currency that the budget uses must stay usable.
 
 The survey window says by how much the ticked transactions may miss the balance of a statement. The hours and days of work are for wages.
@@ -7096,12 +7092,6 @@ Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a
 Miete, Versicherung, Steuern: eine Rechnung. Gehalt, Rente: ein Lohn. Ein Kredit von einer Bank oder von Freunden: eine Schuld. Eine Reise, Geld für Notfälle: ein Ziel. Taschengeld und Lebensmittel mit einem geplanten Betrag: freie Ausgaben. Was nur im Rückblick zählt: ein Konto für Ausgaben. Eine Kreditkarte: ein Konto bei einer Bank, von der Art Kreditkarte. Eine Geldbörse: ein Konto, das Besitz ist.</translation>
     </message>
     <message>
-        <source>A first week
-Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+N), and pay on the page “Due” what is due. All else can wait until it happens.</source>
-        <translation>Eine erste Woche
-Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rechnungen: „Schritt für Schritt beginnen“ im Menü „Datei“ fragt danach. Dann eintragen, was ausgegeben wird (Strg+N), und auf der Seite „Fällig“ bezahlen, was fällig ist. Alles andere kann warten, bis es vorkommt.</translation>
-    </message>
-    <message>
         <source>The end of the month
 1. Import the file of the bank (Ctrl+I).
 2. On the page “Survey”, choose the account, and compare the day and the balance with the statement. What differs is told.
@@ -7136,12 +7126,6 @@ Jedes Konto hat eine. „Umgebucht“ fragt nach beiden Beträgen, wie sie gebuc
 Choose the payment in the register, then “Refund” in the menu “Transaction”.</source>
         <translation>Eine Erstattung
 Die Zahlung im Register wählen, dann „Erstatten“ im Menü „Buchung“.</translation>
-    </message>
-    <message>
-        <source>A goal that is reached
-“End it” on the page “Items” gives its money back to the account that holds it. Then enter what was bought. To go on saving, raise what is to be reached.</source>
-        <translation>Ein Ziel, das erreicht ist
-„Beenden“ auf der Seite „Posten“ gibt sein Geld an das Konto zurück, bei dem es liegt. Dann eintragen, was gekauft wurde. Wer weiter sparen will, erhöht, was erreicht werden soll.</translation>
     </message>
     <message>
         <source>An account of the wrong kind
@@ -7971,6 +7955,130 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
         <source>%1; %2 kept.</source>
         <translation>%1; %2 behalten.</translation>
     </message>
+    <message>
+        <source>Everywhere: the field or button with the underlined letter</source>
+        <translation>Überall: das Feld oder die Schaltfläche mit dem unterstrichenen Buchstaben</translation>
+    </message>
+    <message>
+        <source>%1+letter</source>
+        <translation>%1+Buchstabe</translation>
+    </message>
+    <message>
+        <source>Everywhere: the next field or button, or the one before</source>
+        <translation>Überall: das nächste Feld oder die nächste Schaltfläche, oder davor</translation>
+    </message>
+    <message>
+        <source>In a form: do what its first button does</source>
+        <translation>In einem Formular: was die erste Schaltfläche tut</translation>
+    </message>
+    <message>
+        <source>In a form: give up</source>
+        <translation>In einem Formular: aufgeben</translation>
+    </message>
+    <message>
+        <source>In a field with a day: a day on</source>
+        <translation>In einem Feld mit einem Tag: einen Tag weiter</translation>
+    </message>
+    <message>
+        <source>In a field with a day: a day back</source>
+        <translation>In einem Feld mit einem Tag: einen Tag zurück</translation>
+    </message>
+    <message>
+        <source>In a field with a day: today</source>
+        <translation>In einem Feld mit einem Tag: heute</translation>
+    </message>
+    <message>
+        <source>In a field with names: take the marked one, or the only one</source>
+        <translation>In einem Feld mit Namen: den markierten nehmen, oder den einzigen</translation>
+    </message>
+    <message>
+        <source>In a table: open or change the row</source>
+        <translation>In einer Tabelle: die Zeile öffnen oder ändern</translation>
+    </message>
+    <message>
+        <source>In a table: change the row</source>
+        <translation>In einer Tabelle: die Zeile ändern</translation>
+    </message>
+    <message>
+        <source>In a table: remove the row</source>
+        <translation>In einer Tabelle: die Zeile entfernen</translation>
+    </message>
+    <message>
+        <source>In “Due” and in the register: choose several rows</source>
+        <translation>In „Fällig“ und im Register: mehrere Zeilen wählen</translation>
+    </message>
+    <message>
+        <source>In the register: all that can be done with the row</source>
+        <translation>Im Register: alles, was mit der Zeile getan werden kann</translation>
+    </message>
+    <message>
+        <source>In the search of the register: search now</source>
+        <translation>In der Suche des Registers: jetzt suchen</translation>
+    </message>
+    <message>
+        <source>In the search of the register: on to the rows</source>
+        <translation>In der Suche des Registers: weiter zu den Zeilen</translation>
+    </message>
+    <message>
+        <source>In the search of the register: show all rows again</source>
+        <translation>In der Suche des Registers: wieder alle Zeilen zeigen</translation>
+    </message>
+    <message>
+        <source>In the entry row: enter</source>
+        <translation>In der Eingabezeile: eintragen</translation>
+    </message>
+    <message>
+        <source>In the entry row: give up</source>
+        <translation>In der Eingabezeile: aufgeben</translation>
+    </message>
+    <message>
+        <source>In a survey: tick the row, and go down</source>
+        <translation>In einem Abgleich: die Zeile abhaken und eine tiefer gehen</translation>
+    </message>
+    <message>
+        <source>In an import: take the row, or leave it out</source>
+        <translation>Bei einem Import: die Zeile nehmen oder weglassen</translation>
+    </message>
+    <message>
+        <source>In the payments of the outlook: leave the item out</source>
+        <translation>In den Zahlungen der Vorschau: den Posten weglassen</translation>
+    </message>
+    <message>
+        <source>In a chart: the next point, or the one before</source>
+        <translation>In einem Diagramm: der nächste Punkt, oder der davor</translation>
+    </message>
+    <message>
+        <source>In a chart: the first point, the last point</source>
+        <translation>In einem Diagramm: der erste Punkt, der letzte Punkt</translation>
+    </message>
+    <message>
+        <source>In the explanation of a number: open the transaction</source>
+        <translation>In der Erklärung einer Zahl: die Buchung öffnen</translation>
+    </message>
+    <message>
+        <source>In the explanation of a number: close it</source>
+        <translation>In der Erklärung einer Zahl: sie schließen</translation>
+    </message>
+    <message>
+        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there. A version that was encrypted with another passphrase asks for it.</source>
+        <translation>Die Schritte dieser Sitzung und darunter die früheren Versionen der Datei. Die untere Tabelle sagt, was sich seit der gewählten geändert hat. „Zurück zu diesem Stand“ macht sie zum jetzigen Stand; Rückgängigmachen und Wiederholen gehen von dort weiter. Eine Version, die mit einer anderen Passphrase verschlüsselt wurde, fragt nach ihr.</translation>
+    </message>
+    <message>
+        <source>A first week
+Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+T), and pay on the page “Due” what is due. All else can wait until it happens.</source>
+        <translation>Eine erste Woche
+Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rechnungen: „Schritt für Schritt beginnen“ im Menü „Datei“ fragt danach. Dann eintragen, was ausgegeben wird (Strg+T), und auf der Seite „Fällig“ bezahlen, was fällig ist. Alles andere kann warten, bis es vorkommt.</translation>
+    </message>
+    <message>
+        <source>A goal that is reached
+“End it” on the page “Items” spends its money on what is typed there, or gives it back to the account that holds it. To go on saving, raise what is to be reached.</source>
+        <translation>Ein Ziel, das erreicht ist
+„Beenden“ auf der Seite „Posten“ gibt sein Geld für das aus, was dort eingetragen ist, oder gibt es an das Konto zurück, bei dem es liegt. Wer weiter sparen will, erhöht, was erreicht werden soll.</translation>
+    </message>
+    <message>
+        <source>In a chart of a report: the entries behind the point</source>
+        <translation>Im Diagramm eines Berichts: die Buchungen hinter dem Punkt</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -8366,21 +8474,6 @@ Jede Währung steht für sich, wenn keine gewählt ist, in die zu den jetzigen W
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>kiv::desktop::CommandPalette</name>
-    <message>
-        <source>Type what you want to do or to see</source>
-        <translation>Eingeben, was zu tun oder zu sehen ist</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Befehl</translation>
-    </message>
-    <message>
-        <source>Found commands</source>
-        <translation>Gefundene Befehle</translation>
     </message>
 </context>
 <context>
@@ -9126,6 +9219,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>The household&apos;s guide</source>
         <translation>Leitfaden für den Haushalt</translation>
     </message>
+    <message>
+        <source>Type keys, or what they do</source>
+        <translation>Tasten eingeben, oder was sie tun</translation>
+    </message>
+    <message>
+        <source>Found keys</source>
+        <translation>Gefundene Tasten</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HistoryPage</name>
@@ -9171,6 +9272,10 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>The budget is as it was then. Undo and redo go on from there.</source>
         <translation>Das Budget ist, wie es damals war. Rückgängig und Wiederholen gehen von dort weiter.</translation>
+    </message>
+    <message>
+        <source>T&amp;ype its passphrase …</source>
+        <translation>Ihre &amp;Passphrase eingeben …</translation>
     </message>
 </context>
 <context>
@@ -9635,6 +9740,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>How it comes about</source>
         <translation>Wie es zustande kommt</translation>
     </message>
+    <message>
+        <source>S&amp;pent on (may be empty):</source>
+        <translation>Ausgegeben &amp;für (darf leer sein):</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>Am T&amp;ag:</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ItemForm</name>
@@ -9869,6 +9982,18 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>&amp;White on black</source>
         <translation>W&amp;eiß auf Schwarz</translation>
+    </message>
+    <message>
+        <source>Type what you want to do or to see</source>
+        <translation>Eingeben, was zu tun oder zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Found commands</source>
+        <translation>Gefundene Befehle</translation>
     </message>
 </context>
 <context>
@@ -10184,10 +10309,6 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
     <message>
         <source>No transaction is selected.</source>
         <translation>Keine Buchung ist ausgewählt.</translation>
-    </message>
-    <message>
-        <source>reconciled</source>
-        <translation>abgeglichen</translation>
     </message>
     <message>
         <source>All accounts</source>

@@ -5340,10 +5340,6 @@ A rate can be typed over, and all can be fetched from the service. Rates are the
 Un tipo se puede sobrescribir, y todos se pueden obtener del servicio. Los tipos valen para todos los presupuestos y no se pueden deshacer.</translation>
     </message>
     <message>
-        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there.</source>
-        <translation>Los pasos de esta sesión y, debajo, las versiones anteriores del archivo. La tabla inferior dice qué cambió desde la elegida. «Volver a este estado» la convierte en el estado actual; deshacer y rehacer siguen desde ahí.</translation>
-    </message>
-    <message>
         <source>Each setting is applied as soon as its field is left. Settings are the same for all budgets and cannot be undone. A currency that the budget uses must stay usable.
 
 The survey window says by how much the ticked transactions may miss the balance of a statement. The hours and days of work are for wages.
@@ -7096,12 +7092,6 @@ Rent, insurance, taxes: a bill. Salary, pension: a wage. A loan from a bank or a
 Alquiler, seguro, impuestos: una factura. Nómina, pensión: un salario. Un préstamo de un banco o de un amigo: una deuda. Unas vacaciones, dinero para emergencias: una meta. Dinero de bolsillo y comida con un importe previsto: gasto libre. Lo que solo se mira después: una cuenta de gastos. Una tarjeta de crédito: una cuenta en un banco, de la clase tarjeta de crédito. Un monedero: una cuenta que se posee.</translation>
     </message>
     <message>
-        <source>A first week
-Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+N), and pay on the page “Due” what is due. All else can wait until it happens.</source>
-        <translation>Una primera semana
-Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores: «Empezar paso a paso» en el menú «Archivo» pregunta por ello. Después, introducir lo que se gasta (Ctrl+N) y pagar en la página «Vencimientos» lo que vence. Todo lo demás puede esperar a que ocurra.</translation>
-    </message>
-    <message>
         <source>The end of the month
 1. Import the file of the bank (Ctrl+I).
 2. On the page “Survey”, choose the account, and compare the day and the balance with the statement. What differs is told.
@@ -7136,12 +7126,6 @@ Cada cuenta tiene una. «Traspasado» pregunta por los dos importes, como se reg
 Choose the payment in the register, then “Refund” in the menu “Transaction”.</source>
         <translation>Un reembolso
 Elegir el pago en el registro y después «Reembolsar» en el menú «Asiento».</translation>
-    </message>
-    <message>
-        <source>A goal that is reached
-“End it” on the page “Items” gives its money back to the account that holds it. Then enter what was bought. To go on saving, raise what is to be reached.</source>
-        <translation>Una meta alcanzada
-«Terminar» en la página «Partidas» devuelve su dinero a la cuenta que lo guarda. Después, introducir lo que se compró. Para seguir ahorrando, aumentar lo que se quiere alcanzar.</translation>
     </message>
     <message>
         <source>An account of the wrong kind
@@ -7971,6 +7955,130 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
         <source>%1; %2 kept.</source>
         <translation>%1; %2 conservado.</translation>
     </message>
+    <message>
+        <source>Everywhere: the field or button with the underlined letter</source>
+        <translation>En todas partes: el campo o botón con la letra subrayada</translation>
+    </message>
+    <message>
+        <source>%1+letter</source>
+        <translation>%1+letra</translation>
+    </message>
+    <message>
+        <source>Everywhere: the next field or button, or the one before</source>
+        <translation>En todas partes: el campo o botón siguiente, o el anterior</translation>
+    </message>
+    <message>
+        <source>In a form: do what its first button does</source>
+        <translation>En un formulario: hacer lo que hace su primer botón</translation>
+    </message>
+    <message>
+        <source>In a form: give up</source>
+        <translation>En un formulario: dejarlo</translation>
+    </message>
+    <message>
+        <source>In a field with a day: a day on</source>
+        <translation>En un campo con un día: un día adelante</translation>
+    </message>
+    <message>
+        <source>In a field with a day: a day back</source>
+        <translation>En un campo con un día: un día atrás</translation>
+    </message>
+    <message>
+        <source>In a field with a day: today</source>
+        <translation>En un campo con un día: hoy</translation>
+    </message>
+    <message>
+        <source>In a field with names: take the marked one, or the only one</source>
+        <translation>En un campo con nombres: tomar el marcado, o el único</translation>
+    </message>
+    <message>
+        <source>In a table: open or change the row</source>
+        <translation>En una tabla: abrir o cambiar la fila</translation>
+    </message>
+    <message>
+        <source>In a table: change the row</source>
+        <translation>En una tabla: cambiar la fila</translation>
+    </message>
+    <message>
+        <source>In a table: remove the row</source>
+        <translation>En una tabla: eliminar la fila</translation>
+    </message>
+    <message>
+        <source>In “Due” and in the register: choose several rows</source>
+        <translation>En «Vencimientos» y en el registro: elegir varias filas</translation>
+    </message>
+    <message>
+        <source>In the register: all that can be done with the row</source>
+        <translation>En el registro: todo lo que se puede hacer con la fila</translation>
+    </message>
+    <message>
+        <source>In the search of the register: search now</source>
+        <translation>En la búsqueda del registro: buscar ahora</translation>
+    </message>
+    <message>
+        <source>In the search of the register: on to the rows</source>
+        <translation>En la búsqueda del registro: pasar a las filas</translation>
+    </message>
+    <message>
+        <source>In the search of the register: show all rows again</source>
+        <translation>En la búsqueda del registro: mostrar de nuevo todas las filas</translation>
+    </message>
+    <message>
+        <source>In the entry row: enter</source>
+        <translation>En la fila de entrada: registrar</translation>
+    </message>
+    <message>
+        <source>In the entry row: give up</source>
+        <translation>En la fila de entrada: dejarlo</translation>
+    </message>
+    <message>
+        <source>In a survey: tick the row, and go down</source>
+        <translation>En una conciliación: marcar la fila y bajar</translation>
+    </message>
+    <message>
+        <source>In an import: take the row, or leave it out</source>
+        <translation>En una importación: tomar la fila o dejarla fuera</translation>
+    </message>
+    <message>
+        <source>In the payments of the outlook: leave the item out</source>
+        <translation>En los pagos de la previsión: dejar fuera la partida</translation>
+    </message>
+    <message>
+        <source>In a chart: the next point, or the one before</source>
+        <translation>En un gráfico: el punto siguiente, o el anterior</translation>
+    </message>
+    <message>
+        <source>In a chart: the first point, the last point</source>
+        <translation>En un gráfico: el primer punto, el último punto</translation>
+    </message>
+    <message>
+        <source>In the explanation of a number: open the transaction</source>
+        <translation>En la explicación de una cifra: abrir el asiento</translation>
+    </message>
+    <message>
+        <source>In the explanation of a number: close it</source>
+        <translation>En la explicación de una cifra: cerrarla</translation>
+    </message>
+    <message>
+        <source>The steps of this session, and below them the former versions of the file. The lower table says what changed since the chosen one. “Go back to this” makes it the present state; undo and redo go on from there. A version that was encrypted with another passphrase asks for it.</source>
+        <translation>Los pasos de esta sesión y, debajo, las versiones anteriores del archivo. La tabla inferior dice qué cambió desde la elegida. «Volver a este estado» la convierte en el estado actual; deshacer y rehacer siguen desde ahí. Una versión cifrada con otra frase de contraseña pregunta por ella.</translation>
+    </message>
+    <message>
+        <source>A first week
+Enter the bank account with its balance, what comes in, and the largest bills: “Begin step by step” in the menu “File” asks for them. Then enter what is spent (Ctrl+T), and pay on the page “Due” what is due. All else can wait until it happens.</source>
+        <translation>Una primera semana
+Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores: «Empezar paso a paso» en el menú «Archivo» pregunta por ello. Después, introducir lo que se gasta (Ctrl+T) y pagar en la página «Vencimientos» lo que vence. Todo lo demás puede esperar a que ocurra.</translation>
+    </message>
+    <message>
+        <source>A goal that is reached
+“End it” on the page “Items” spends its money on what is typed there, or gives it back to the account that holds it. To go on saving, raise what is to be reached.</source>
+        <translation>Una meta alcanzada
+«Terminar» en la página «Partidas» gasta su dinero en lo que se escriba ahí, o lo devuelve a la cuenta que lo guarda. Para seguir ahorrando, aumentar lo que se quiere alcanzar.</translation>
+    </message>
+    <message>
+        <source>In a chart of a report: the entries behind the point</source>
+        <translation>En el gráfico de un informe: los asientos detrás del punto</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>
@@ -8366,21 +8474,6 @@ Cada moneda va por separado salvo que se elija una a la que convertir, a los tip
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>kiv::desktop::CommandPalette</name>
-    <message>
-        <source>Type what you want to do or to see</source>
-        <translation>Escribir lo que se quiere hacer o ver</translation>
-    </message>
-    <message>
-        <source>Command</source>
-        <translation>Orden</translation>
-    </message>
-    <message>
-        <source>Found commands</source>
-        <translation>Órdenes encontradas</translation>
     </message>
 </context>
 <context>
@@ -9126,6 +9219,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>The household&apos;s guide</source>
         <translation>Guía del hogar</translation>
     </message>
+    <message>
+        <source>Type keys, or what they do</source>
+        <translation>Escribir teclas, o lo que hacen</translation>
+    </message>
+    <message>
+        <source>Found keys</source>
+        <translation>Teclas encontradas</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::HistoryPage</name>
@@ -9171,6 +9272,10 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>The budget is as it was then. Undo and redo go on from there.</source>
         <translation>El presupuesto está como estaba entonces. Deshacer y rehacer continúan desde ahí.</translation>
+    </message>
+    <message>
+        <source>T&amp;ype its passphrase …</source>
+        <translation>Escribir su &amp;frase de contraseña …</translation>
     </message>
 </context>
 <context>
@@ -9635,6 +9740,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>How it comes about</source>
         <translation>Cómo se llega a ello</translation>
     </message>
+    <message>
+        <source>S&amp;pent on (may be empty):</source>
+        <translation>&amp;Gastado en (puede quedar vacío):</translation>
+    </message>
+    <message>
+        <source>On the da&amp;y:</source>
+        <translation>En e&amp;l día:</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ItemForm</name>
@@ -9869,6 +9982,18 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>&amp;White on black</source>
         <translation>&amp;Blanco sobre negro</translation>
+    </message>
+    <message>
+        <source>Type what you want to do or to see</source>
+        <translation>Escribir lo que se quiere hacer o ver</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Found commands</source>
+        <translation>Órdenes encontradas</translation>
     </message>
 </context>
 <context>
@@ -10184,10 +10309,6 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     <message>
         <source>No transaction is selected.</source>
         <translation>No hay ningún asiento seleccionado.</translation>
-    </message>
-    <message>
-        <source>reconciled</source>
-        <translation>conciliado</translation>
     </message>
     <message>
         <source>All accounts</source>

@@ -166,8 +166,7 @@ private:
         const QStringList answers(12, sentence);
         meet(u"choice"_s, [&] { QVERIFY(!questions.choose(&window, sentence, answers)); });
         meet(u"passphrase"_s, [&] { QVERIFY(!questions.passphrase(&window, sentence)); });
-        meet(u"keys"_s,
-             [&] { questions.show(&window, sentence, window.desk().actions().listOfKeys()); });
+        meet(u"manual"_s, [&] { questions.show(&window, sentence, desktop::manualText({})); });
         QCOMPARE(seen, 3);
     }
 

@@ -49,6 +49,7 @@ std::vector<PaletteEntry> partKeys()
         told(QObject::tr("In the payments of the outlook: leave the item out"), {Key_Delete}),
         told(QObject::tr("In a chart: the next point, or the one before"), {Key_Right, Key_Left}),
         told(QObject::tr("In a chart: the first point, the last point"), {Key_Home, Key_End}),
+        told(QObject::tr("In a chart of a report: the entries behind the point"), {Key_Enter}),
         told(QObject::tr("In the explanation of a number: open the transaction"), {Key_Enter}),
         told(QObject::tr("In the explanation of a number: close it"), {Key_Escape}),
     };
