@@ -237,8 +237,9 @@ private:
     {
         const auto found = std::ranges::find(
             accounts, number, [](const accounting::Account &one) { return one.code().number(); });
-        if (found->type() == accounting::AccountTypes::Unknown)
-            return; // has no side of its own
+        // Some texts have transactions alone, and some an account without a side of its own.
+        if (found == accounts.end() || found->type() == accounting::AccountTypes::Unknown)
+            return;
         const bool isDebitNormal = accounting::isDebitNormal(found->type());
         const accounting::Account after(
             found->type(), found->code(),
