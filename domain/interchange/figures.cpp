@@ -5,6 +5,7 @@
 #include "interchange/internal/faults.h"
 
 #include "budgeting/item_account.h"
+#include "budgeting/item_traits.h"
 
 namespace kiv::interchange {
 
@@ -193,25 +194,6 @@ void addConverted(const CurrencyFigures &sums, const InCurrency &in, Figures &co
 }
 
 } // namespace
-
-ItemAccounts itemAccountsByName(const std::set<Account> &accounts, const budgeting::Budget &budget)
-{
-    std::map<std::pair<AccountTypes, QString>, AccountNumber> named;
-    for (const Account &account : accounts)
-        named.emplace(std::pair(account.type(), account.code().name()), account.code().number());
-    ItemAccounts found;
-    budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
-        for (const auto &[source, item] : budget.items<Item>()) {
-            const auto account = named.find(
-                {budgeting::ItemTraits<Item>::accountType, budgeting::itemAccountName(source)});
-            if (account != named.end())
-                found.emplace(
-                    budgeting::BudgetItemIdentifier{budgeting::ItemTraits<Item>::type, source},
-                    account->second);
-        }
-    });
-    return found;
-}
 
 std::vector<QDate> paydaysOf(const TransactionSource &transactions,
                              const ItemAccounts &itemAccounts)

@@ -66,10 +66,6 @@ struct Figures {
 /// The accounts of the items that have one.
 using ItemAccounts = std::map<budgeting::BudgetItemIdentifier, accounting::AccountNumber>;
 
-/// Finds them by the names that items' accounts have unless somebody renames them.
-[[nodiscard]] KIV_INTERCHANGE_EXPORT ItemAccounts
-itemAccountsByName(const std::set<accounting::Account> &accounts, const budgeting::Budget &budget);
-
 /// The days on which a wage came in, in rising order: of the wage that did so on most days.
 [[nodiscard]] KIV_INTERCHANGE_EXPORT std::vector<QDate>
 paydaysOf(const TransactionSource &transactions, const ItemAccounts &itemAccounts);

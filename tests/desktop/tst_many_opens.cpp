@@ -28,9 +28,6 @@ class TestManyOpens : public QObject {
 private slots:
     void memoryStaysFlat()
     {
-#ifdef __SANITIZE_ADDRESS__
-        QSKIP("The sanitizer keeps what is freed.");
-#endif
         // Thousands of messages would be kept.
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         SmallHousehold home;
@@ -55,7 +52,9 @@ private slots:
         qInfo() << "From" << warm << "to" << end << "KiB.";
         QVERIFY(home.questions().asked.isEmpty());
         QVERIFY(home.window().desk().notices().texts().isEmpty());
+#ifndef __SANITIZE_ADDRESS__ // which keeps what is freed
         QVERIFY(end < warm + 1'024);
+#endif
     }
 };
 

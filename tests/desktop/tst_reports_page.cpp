@@ -87,6 +87,13 @@ void choose(HouseholdWindow &home, const char *box, const QString &text)
     emit combo.activated(at);
 }
 
+void showReports(HouseholdWindow &home)
+{
+    home.openHousehold();
+    home.show();
+    home.trigger("page reports");
+}
+
 } // namespace
 
 /// The page that tells where the money went, by keys.
@@ -114,9 +121,7 @@ private slots:
         QFETCH(QString, by);
         QFETCH(QString, span);
         HouseholdWindow home;
-        home.openHousehold();
-        home.show();
-        home.trigger("page reports");
+        showReports(home);
         fill(home, "from", u"2025-10-01"_s);
         fill(home, "to", u"2026-02-28"_s);
         choose(home, "by", by.section(u'|', 0, 0));
@@ -176,9 +181,7 @@ private slots:
     void theOverviewHasThePlans()
     {
         HouseholdWindow home;
-        home.openHousehold();
-        home.show();
-        home.trigger("page reports");
+        showReports(home);
         fill(home, "from", u"2025-10-01"_s);
         fill(home, "to", u"2026-02-28"_s);
         choose(home, "by", u"Overview"_s);
@@ -221,9 +224,7 @@ private slots:
     void fromABarToItsEntriesByKeys()
     {
         HouseholdWindow home;
-        home.openHousehold();
-        home.show();
-        home.trigger("page reports");
+        showReports(home);
         fill(home, "to", u"2026-02-28"_s);
         QVERIFY2(told(home).contains(u"spent, "_s), qPrintable(told(home)));
         home.window().goTo(desktop::Place::fromText(u"reports/category/group/expense/USD/Rent"_s));
@@ -353,9 +354,7 @@ private slots:
     void reportsAreSavedAndPrinted()
     {
         HouseholdWindow home;
-        home.openHousehold();
-        home.show();
-        home.trigger("page reports");
+        showReports(home);
         fill(home, "from", u"2026-01-01"_s);
         fill(home, "to", u"2026-02-28"_s);
         const QList<QByteArray> begins{"%PDF", "<!DOCTYPE html>", "kind,name,currency,2026-01"};

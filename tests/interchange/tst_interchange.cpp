@@ -16,6 +16,7 @@
 #include "interchange/qif_reader.h"
 #include "interchange/statement_reader.h"
 
+#include "budgeting/item_account.h"
 #include "foundation/streams.h"
 
 using namespace kiv::interchange;
@@ -266,7 +267,17 @@ QString pageOf(const Case &given)
     const TransactionSource transactions = [&books](const auto &visit) {
         std::ranges::for_each(books.transactions, visit);
     };
-    const ItemAccounts itemAccounts = itemAccountsByName(books.accounts, books.budget);
+    ItemAccounts itemAccounts;
+    kiv::budgeting::forEachItemClass([&]<typename Item>(std::type_identity<Item>) {
+        using Traits = kiv::budgeting::ItemTraits<Item>;
+        for (const auto &[source, item] : books.budget.items<Item>()) {
+            for (const kiv::accounting::Account &account : books.accounts) {
+                if (account.type() == Traits::accountType &&
+                    account.code().name() == itemAccountName(source))
+                    itemAccounts.insert({{Traits::type, source}, account.code().number()});
+            }
+        }
+    });
     const auto length =
         static_cast<SpanLength>(QStringList{u"week"_s, u"two-weeks"_s, u"payday"_s, u"month"_s,
                                             u"quarter"_s, u"year"_s, u"whole"_s}

@@ -4,7 +4,6 @@
 #include "workbench/entry/money_text.h"
 #include "workbench/outlook/outlook_text.h"
 
-#include "foundation/clock.h"
 #include "foundation/presentation.h"
 
 namespace kiv::workbench {
@@ -30,20 +29,6 @@ interchange::Chart outlookChart(const LookingAhead &ahead, const outlook::Curve 
                   QObject::tr("%1: %2").arg(chart.labels[static_cast<qsizetype>(lowest)],
                                             amountText(curve.ends[lowest], displayAs))};
     return chart;
-}
-
-std::optional<interchange::Chart> outlookOfReport(Document &document, QDate last,
-                                                  const numira::Currency &currency)
-{
-    OutlookQuestion question;
-    question.first = foundation::today();
-    if (last < question.first)
-        return std::nullopt;
-    const LookingAhead ahead = lookAhead(document.present(), question, currency);
-    if (!ahead.together)
-        return std::nullopt;
-    return outlookChart(ahead, *ahead.together, QObject::tr("All together"), {},
-                        document.requests().accounts(), document.displayAs());
 }
 
 interchange::Chart outlookBars(const interchange::Chart &chart, qsizetype barsMax)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "workbench/document/document.h"
 #include "workbench/entry/account_index.h"
 #include "workbench/outlook/looking_ahead.h"
 
@@ -16,11 +15,6 @@ namespace kiv::workbench {
 outlookChart(const LookingAhead &ahead, const outlook::Curve &curve, const QString &title,
              const std::optional<numira::Money> &floor, const AccountIndex &index,
              navigation::CurrencyDisplayOptions displayAs);
-
-/// All accounts together on the days to come, for a report that ends on the day `last` and is in
-/// this currency: nothing if that day is past, or without an account.
-[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<interchange::Chart>
-outlookOfReport(Document &document, QDate last, const numira::Currency &currency);
 
 /// The same as bars, at most `barsMax`: each is the least of as many days, and named by the first
 /// of them.

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/reports/budget_report.h"
 
+#include "workbench/outlook/outlook_chart.h"
 #include "workbench/requests/paying_account.h"
 
+#include "foundation/clock.h"
 #include "foundation/presentation.h"
 
 namespace kiv::workbench {
@@ -81,6 +83,12 @@ void BudgetReport::visit(const std::function<void(const Transaction &)> &visit,
     });
 }
 
+bool BudgetReport::converts(const Currency &currency) const
+{
+    return m_question.in &&
+           convertedIfKnown(numira::Money(currency, 1, 0), *m_question.in).has_value();
+}
+
 interchange::GroupsOf BudgetReport::names(Grouping grouping) const
 {
     return groupNames(grouping, m_view, m_itemAccounts, m_index);
@@ -147,13 +155,28 @@ QStringList BudgetReport::rateTexts() const
                                             foundation::presentationText(rate.origin.day));
     QStringList lacking;
     for (const Currency &currency : m_met) {
-        if (!convertedIfKnown(numira::Money(currency, 1, 0), *m_question.in))
+        if (!converts(currency))
             lacking += foundation::presentationText(currency);
     }
     if (!lacking.isEmpty())
         texts += QObject::tr("Without an exchange rate, and apart: %1")
                      .arg(lacking.join(QStringLiteral(", ")));
     return texts;
+}
+
+std::optional<interchange::Chart> comingChart(const BudgetReport &report, Document &document)
+{
+    OutlookQuestion question;
+    question.first = foundation::today();
+    if (report.period().to() < question.first)
+        return std::nullopt;
+    const LookingAhead ahead =
+        lookAhead(document.present(), question,
+                  report.in().value_or(document.requests().preferredCurrency()));
+    if (!ahead.together)
+        return std::nullopt;
+    return outlookChart(ahead, *ahead.together, QObject::tr("All together"), {}, report.index(),
+                        report.displayAs());
 }
 
 QByteArray BudgetReport::page(Grouping grouping, const QString &title, const MakeChart &ahead,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "workbench/document/document.h"
 #include "workbench/reports/grouping.h"
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/search/transaction_filter.h"
@@ -23,6 +24,12 @@ struct ReportQuestion {
 /// What a report is called if nobody says otherwise.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString reportTitle();
 
+class BudgetReport;
+/// All accounts together on the days to come, in the currency of the report; nothing if it ends
+/// before today, or without an account.
+[[nodiscard]] KIV_WORKBENCH_EXPORT std::optional<interchange::Chart>
+comingChart(const BudgetReport &report, Document &document);
+
 /// The books as they are when it is made, and what is added up from them. Nothing is added up
 /// before it is asked for.
 class KIV_WORKBENCH_EXPORT BudgetReport {
@@ -44,6 +51,9 @@ public:
     {
         return m_question.in;
     }
+
+    /// Whether amounts of this currency come into that one.
+    [[nodiscard]] bool converts(const numira::Currency &currency) const;
 
     /// Where the money went and came from.
     [[nodiscard]] interchange::Groups groups(Grouping grouping) const;

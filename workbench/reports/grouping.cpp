@@ -99,8 +99,7 @@ QString presentationText(Grouping grouping)
 void readValue(const QString &text, Grouping &value)
 {
     QStringList words;
-    for (const Grouping grouping :
-         {Grouping::Category, Grouping::Payee, Grouping::Tag, Grouping::Account}) {
+    for (const Grouping grouping : groupings) {
         words += wordOf(grouping);
         if (text == words.last()) {
             value = grouping;

@@ -5,6 +5,8 @@
 
 #include "interchange/figures.h"
 
+#include <array>
+
 /// What reports are about, in the words of a household.
 namespace kiv::workbench {
 
@@ -15,6 +17,9 @@ enum class Grouping : std::uint8_t {
     Tag = 3,      ///< the tags of the budget items; an item with two counts under both
     Account = 4   ///< each account by itself, the household's own as well
 };
+/// All of them, in the order in which they are offered.
+inline constexpr std::array groupings{Grouping::Category, Grouping::Payee, Grouping::Tag,
+                                      Grouping::Account};
 /// "category", "payee", "tag" or "account".
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString wordOf(Grouping grouping);
 /// A heading, such as "By category".

@@ -34,9 +34,8 @@ constexpr std::size_t namesMax = 12;
 /// converted into it.
 std::function<bool(const Currency &)> belongsTo(const BudgetReport &report, const Currency &line)
 {
-    return [in = report.in(), line](const Currency &currency) {
-        return currency == line ||
-               (in == line && convertedIfKnown(Money(currency, 1, 0), line).has_value());
+    return [&report, line](const Currency &currency) {
+        return currency == line || (report.in() == line && report.converts(currency));
     };
 }
 
@@ -105,6 +104,21 @@ Money sumOf(const Currency &currency, const std::vector<Money> &amounts)
     return numira::math::sum(currency, amounts, [](const Money &money) { return money; });
 }
 
+QString sentenceOf(const FlowFigures &flow, navigation::CurrencyDisplayOptions displayAs)
+{
+    const auto text = [displayAs](const Money &money) { return amountText(money, displayAs); };
+    const Money kept = flow.totalIncome - flow.totalExpenses;
+    const auto rate = FlowFigures::savingsRate(flow.totalIncome, flow.totalExpenses);
+    const QString flowed =
+        QObject::tr("%1 spent, %2 received").arg(text(flow.totalExpenses), text(flow.totalIncome));
+    if (kept.isNegative())
+        return QObject::tr("%1; %2 more spent than received.").arg(flowed, text(-kept));
+    if (rate)
+        return QObject::tr("%1; %2 kept, which is %3.")
+            .arg(flowed, text(kept), presentationText(*rate));
+    return QObject::tr("%1; %2 kept.").arg(flowed, text(kept));
+}
+
 /// The sums of income and of expenses in one currency, with one chart for both.
 void addFlow(const BudgetReport &report, const Currency &currency, const FlowFigures &flow,
              std::vector<ReportLine> &lines)
@@ -125,6 +139,7 @@ void addFlow(const BudgetReport &report, const Currency &currency, const FlowFig
         lines.push_back(std::move(line));
     };
     add(AccountTypes::Expense, QObject::tr("All expenses, %1"), flow.totalExpenses);
+    lines.back().sentence = sentenceOf(flow, report.displayAs());
     add(AccountTypes::Income, QObject::tr("All income, %1"), flow.totalIncome);
 }
 
@@ -274,6 +289,7 @@ std::vector<ReportLine> overviewLines(const BudgetReport &report)
             line.kind = QObject::tr("at the end of each span");
             line.isSum = true;
             line.isLevel = true;
+            line.sentence = chart->description;
             line.chart = std::move(*chart);
             line.share = shareOfWorth(report, currency);
             lines.push_back(std::move(line));
@@ -310,28 +326,9 @@ std::vector<ReportLine> reportLines(const BudgetReport &report, std::optional<Gr
 QStringList reportSentences(const BudgetReport &report, const std::vector<ReportLine> &lines)
 {
     QStringList sentences;
-    const auto text = [displayAs = report.displayAs()](const Money &money) {
-        return amountText(money, displayAs);
-    };
     for (const ReportLine &line : lines) {
-        if (line.isLevel)
-            sentences += line.chart.description;
-        // Both sums of a currency have its flow.
-        if (!line.flow || !line.key.startsWith(QLatin1String("sum/expense")))
-            continue;
-        const Money &spent = line.flow->totalExpenses;
-        const Money &received = line.flow->totalIncome;
-        const Money kept = received - spent;
-        const auto rate = FlowFigures::savingsRate(received, spent);
-        const QString flowed =
-            QObject::tr("%1 spent, %2 received").arg(text(spent), text(received));
-        if (kept.isNegative())
-            sentences += QObject::tr("%1; %2 more spent than received.").arg(flowed, text(-kept));
-        else if (rate)
-            sentences += QObject::tr("%1; %2 kept, which is %3.")
-                             .arg(flowed, text(kept), presentationText(*rate));
-        else
-            sentences += QObject::tr("%1; %2 kept.").arg(flowed, text(kept));
+        if (!line.sentence.isEmpty())
+            sentences += line.sentence;
     }
     if (sentences.isEmpty())
         sentences += QObject::tr("Nothing was spent or earned.");

@@ -16,11 +16,12 @@ using LineShare = std::function<std::optional<numira::Money>(
 
 /// A line of a report, with its chart and what it is made of.
 struct ReportLine {
-    QString key;                          ///< that no other line of the report has
-    QString name;                         ///< of the group, the item or the sum
-    QString kind;                         ///< "Expense" or "bill"
-    bool isSum = false;                   ///< of the lines of its kind
-    bool isLevel = false;                 ///< its values are levels, and its entries change them
+    QString key;          ///< that no other line of the report has
+    QString name;         ///< of the group, the item or the sum
+    QString kind;         ///< "Expense" or "bill"
+    QString sentence;     ///< what it says of the whole report; empty for most lines
+    bool isSum = false;   ///< of the lines of its kind
+    bool isLevel = false; ///< its values are levels, and its entries change them
     std::optional<numira::Money> planned; ///< a span, of items
     std::optional<numira::Money> total;   ///< of all spans; nothing for what is owned at their ends
     std::optional<numira::Money> average; ///< of a span

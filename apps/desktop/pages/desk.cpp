@@ -98,13 +98,12 @@ bool Desk::tryWork(const QString &id, const std::function<void()> &work)
     return !refused;
 }
 
-bool Desk::writeOut(const QString &id, const QString &file, const std::function<void()> &work)
+void Desk::writeOut(const QString &id, const QString &file, const std::function<void()> &work)
 {
     if (!tryWork(id, work))
-        return false;
+        return;
     const QString sentence = tr("Exported to “%1”.").arg(file);
     say(document().isEncrypted() ? sentence + u' ' + workbench::outputIsReadable() : sentence);
-    return true;
 }
 
 std::optional<QString> Desk::keptPassphrase(const QString &file)

@@ -62,8 +62,7 @@ public:
     /// nothing can be changed.
     void wait(const QString &line, const std::function<void()> &work);
     /// Writes a file for others to see, and says so. A failure becomes a notice with this id.
-    /// Returns whether it was written.
-    bool writeOut(const QString &id, const QString &file, const std::function<void()> &work);
+    void writeOut(const QString &id, const QString &file, const std::function<void()> &work);
     /// Runs work that changes nothing; a failure becomes a notice with this id. Returns whether it
     /// succeeded.
     bool tryWork(const QString &id, const std::function<void()> &work);

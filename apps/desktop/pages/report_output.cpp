@@ -4,7 +4,6 @@
 #include "widgets/chart_view.h"
 
 #include "workbench/exports/export.h"
-#include "workbench/outlook/outlook_chart.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QRegularExpression>
@@ -120,11 +119,8 @@ void saveReport(Desk &desk, QWidget *window, const BudgetReport &report, Groupin
         if (form == 0)
             bytes = pdfOf(report, grouping);
         else if (form == 1)
-            bytes = report.page(grouping, workbench::reportTitle(), [&] {
-                return workbench::outlookOfReport(
-                    desk.document(), report.period().to(),
-                    report.in().value_or(desk.requests().preferredCurrency()));
-            });
+            bytes = report.page(grouping, workbench::reportTitle(),
+                                [&] { return comingChart(report, desk.document()); });
         else
             bytes = interchange::toCsv(report.groups(grouping));
         workbench::writeFile(file, bytes);

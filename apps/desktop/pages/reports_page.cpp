@@ -6,6 +6,7 @@
 #include "pages/report_output.h"
 #include "widgets/chart_view.h"
 #include "widgets/day_edit.h"
+#include "widgets/offer.h"
 #include "widgets/table.h"
 
 #include "workbench/entry/money_text.h"
@@ -33,9 +34,6 @@ namespace {
 constexpr int linesMax = 8;
 constexpr int valuesMax = 6;
 constexpr int entriesShownMax = 10;
-
-constexpr std::array groupings{Grouping::Category, Grouping::Payee, Grouping::Tag,
-                               Grouping::Account};
 
 const QString overview = QStringLiteral("overview");
 
@@ -67,7 +65,7 @@ ReportsPage::ReportsPage(Desk &desk)
       m_rates(new QLabel(this))
 {
     m_by->addItem(tr("Overview"), overview);
-    for (const Grouping grouping : groupings)
+    for (const Grouping grouping : workbench::groupings)
         m_by->addItem(presentationText(grouping), wordOf(grouping));
     m_by->setCurrentIndex(1);
     for (const auto &[length, text] : {std::pair(SpanLength::Week, tr("Weeks")),
@@ -208,7 +206,7 @@ QString ReportsPage::detail() const
 QStringList ReportsPage::parts() const
 {
     QStringList all{overview};
-    for (const Grouping grouping : groupings)
+    for (const Grouping grouping : workbench::groupings)
         all += wordOf(grouping);
     return all;
 }
@@ -233,15 +231,15 @@ void ReportsPage::refresh()
 
 void ReportsPage::offerCurrencies()
 {
-    const QVariant chosen = m_in->currentData();
-    m_in->clear();
-    m_in->addItem(tr("nothing"));
     std::set<numira::Currency> all{requests().preferredCurrency()};
     const workbench::AccountIndex index = requests().accounts();
     for (const accounting::Account &account : index.accounts())
         all.insert(account.balance().code());
+    std::vector<std::pair<QString, QVariant>> items{{tr("nothing"), {}}};
     for (const numira::Currency &currency : all)
-        m_in->addItem(foundation::presentationText(currency), QVariant::fromValue(currency));
+        items.emplace_back(foundation::presentationText(currency), QVariant::fromValue(currency));
+    const QVariant chosen = m_in->currentData();
+    offer(*m_in, items);
     m_in->setCurrentIndex(std::max(0, m_in->findData(chosen)));
 }
 
@@ -263,24 +261,25 @@ std::optional<workbench::ReportQuestion> ReportsPage::readDays()
     if (!isRead(*m_from, [&](QDate day) { question.from = day; }) ||
         !isRead(*m_to, [&](QDate day) { question.to = day; }))
         return std::nullopt;
-    // Days that do not fit each other are refused before the search is looked at.
-    DayEdit &blamed = m_from->text().isEmpty() ? *m_to : *m_from;
-    if (!m_form->read(
-            blamed, [&] { return workbench::BudgetReport(requests(), question).period().size(); }))
-        return std::nullopt;
-    question.words = m_words->text();
     return question;
 }
 
 bool ReportsPage::ask()
 {
     m_form->message().withdraw();
-    const std::optional<workbench::ReportQuestion> question = readDays();
+    std::optional<workbench::ReportQuestion> question = readDays();
     if (!question)
         return false;
-    auto report = m_form->read(*m_words, [&] {
-        return std::make_unique<const workbench::BudgetReport>(requests(), *question);
-    });
+    const auto make = [this, &question](QWidget &blamed) {
+        return m_form->read(blamed, [&] {
+            return std::make_unique<const workbench::BudgetReport>(requests(), *question);
+        });
+    };
+    // Days that do not fit each other are refused before the search is looked at.
+    auto report = make(m_from->text().isEmpty() ? *m_to : *m_from);
+    question->words = m_words->text().trimmed();
+    if (report && !question->words.isEmpty())
+        report = make(*m_words);
     if (!report)
         return false;
     auto lines = m_form->read(*m_by, [&] { return reportLines(**report, grouping()); });

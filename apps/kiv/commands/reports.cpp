@@ -6,7 +6,6 @@
 #include "output/json.h"
 #include "program/program.h"
 
-#include "workbench/outlook/outlook_chart.h"
 #include "workbench/reports/budget_report.h"
 
 #include "foundation/presentation.h"
@@ -281,10 +280,8 @@ struct ShowReport {
             call.tellReadable();
         const workbench::Grouping grouping = by.value_or(workbench::Grouping::Category);
         if (isHtml)
-            return Report().raw(books.page(grouping, title, [&] {
-                return workbench::outlookOfReport(call.document, books.period().to(),
-                                                  in.value_or(call.requests.preferredCurrency()));
-            }));
+            return Report().raw(
+                books.page(grouping, title, [&] { return comingChart(books, call.document); }));
         if (isCsv)
             return Report().raw(interchange::toCsv(books.groups(grouping)));
         return isGrouped ? grouped(books, grouping, call) : overview(books, call, hasCharts);
