@@ -49,6 +49,15 @@ function(kiv_compile_options target)
   endif()
 endfunction()
 
+# Compiles the sources of a target by eights where KIV_TOGETHER asks for it: what most
+# of them cost are the headers that they share. Names of unnamed namespaces must
+# differ then within the target, as its readers would wish anyway.
+function(kiv_compile_together target)
+  if(KIV_TOGETHER)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+  endif()
+endfunction()
+
 # One set of precompiled headers, compiled once and used by every target.
 function(kiv_precompiled_headers)
   file(WRITE ${CMAKE_BINARY_DIR}/generated/precompiled.cpp "")
@@ -152,6 +161,15 @@ function(kiv_add_test name)
   kiv_compile_options(tst_${name})
   target_precompile_headers(tst_${name} REUSE_FROM ${main})
   kiv_add_run(${name} ${name} TIMEOUT "${arg_TIMEOUT}" LABELS "${arg_LABELS}")
+endfunction()
+
+# kiv_add_test_parts(<name> SOURCES … LIBRARIES …): what several test programs share.
+function(kiv_add_test_parts name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC kiv-test-main ${arg_LIBRARIES})
+  kiv_compile_options(${name})
+  target_precompile_headers(${name} REUSE_FROM kiv-test-main)
 endfunction()
 
 # kiv_add_run(<test> <name> [<suite> [<function>…]] [RUNS <number>] [TIMEOUT …] [LABELS …])

@@ -28,7 +28,7 @@ JudgedReconciliation judgedBy(const Reconciliations &all, std::size_t place,
     return {one.account, one.day, one.balance, one.transactions.size(), fault};
 }
 
-QString nameOf(accounting::AccountNumber number, const GeneralLedger &ledger)
+QString codeText(accounting::AccountNumber number, const GeneralLedger &ledger)
 {
     return ledger.hasLedger(number)
                ? inPlainWords(accounting::presentationText(ledger.accountCode(number)))
@@ -49,7 +49,7 @@ std::pair<QString, QString> differences(const ReconciledTransaction &then,
             is += text(after);
         }
     };
-    const auto account = [&](accounting::AccountNumber number) { return nameOf(number, ledger); };
+    const auto account = [&](accounting::AccountNumber number) { return codeText(number, ledger); };
     compare(then.day, now.day, [](QDate day) { return foundation::presentationText(day); });
     compare(then.amount, now.amount,
             [&](const numira::Money &amount) { return amountText(amount, displayAs); });
@@ -87,7 +87,7 @@ QString JudgedReconciliation::reason(const GeneralLedger &ledger,
 QString JudgedReconciliation::sentence(const GeneralLedger &ledger,
                                        navigation::CurrencyDisplayOptions displayAs) const
 {
-    const QString name = nameOf(account.account.number, ledger);
+    const QString name = codeText(account.account.number, ledger);
     if (!fault)
         return QObject::tr("%1 is as it was reconciled.").arg(name);
     if (holds())

@@ -21,7 +21,7 @@ using workbench::Explanation;
 namespace {
 
 /// Further lines scroll.
-constexpr int linesMax = 8;
+constexpr int explainedLinesMax = 8;
 
 } // namespace
 
@@ -37,7 +37,7 @@ ExplanationPanel::ExplanationPanel(Desk &desk, QWidget *parent)
     setFrameShape(QFrame::StyledPanel);
     m_title->setTextFormat(Qt::PlainText);
     m_title->setWordWrap(true);
-    m_table->fit(linesMax);
+    m_table->fit(explainedLinesMax);
     auto *layout = new QVBoxLayout(this);
     auto *line = new QHBoxLayout;
     line->addWidget(m_title, 1);

@@ -24,7 +24,7 @@ using workbench::DueLine;
 namespace {
 
 /// More are on the page of what is due.
-constexpr std::size_t linesMax = 6;
+constexpr std::size_t dueLinesMax = 6;
 constexpr int freeMax = 5;
 constexpr int balancesMax = 12;
 
@@ -233,7 +233,7 @@ void HomePage::showDue()
     m_summary->setText(dueSummary(m_due));
     std::vector<DueLines::Line> lines;
     for (const DueLine &line : m_due.list.lines) {
-        if (lines.size() == linesMax)
+        if (lines.size() == dueLinesMax)
             break;
         const auto &id = line.due.id;
         lines.push_back({keyOf(id.item()), foundation::presentationText(id.dueOn),

@@ -24,6 +24,7 @@
 
 namespace kiv::desktop {
 
+using Group = ActionCollection::Group;
 using interchange::SpanLength;
 using workbench::Grouping;
 using workbench::ReportLine;
@@ -154,7 +155,6 @@ void ReportsPage::build()
 
 void ReportsPage::addActions()
 {
-    using Group = ActionCollection::Group;
     ActionCollection &actions = desk().actions();
     const auto add = [&](const char *id, const QString &text, const QKeySequence &keys,
                          void (ReportsPage::*run)()) {

@@ -17,7 +17,7 @@ using updating::ReleaseInformation;
 
 namespace {
 
-QJsonObject toJson(const ReleaseInformation &release)
+QJsonObject releaseJson(const ReleaseInformation &release)
 {
     return {{QStringLiteral("version"), updating::toQString(release.version)},
             {QStringLiteral("date"), app::toJson(release.releasedOn)},
@@ -36,7 +36,7 @@ struct CheckUpdates {
                          {QStringLiteral("latest"), QJsonValue()}};
         if (!isNews)
             return Report(json).line(QObject::tr("There is no newer release."));
-        json.insert(QStringLiteral("latest"), toJson(releases.front()));
+        json.insert(QStringLiteral("latest"), releaseJson(releases.front()));
         return Report(json).line(QObject::tr("There is a newer release: %1.")
                                      .arg(updating::presentationText(releases.front().version)));
     }
@@ -49,7 +49,7 @@ struct ReleaseNotes {
         QJsonArray rows;
         Report report;
         for (const ReleaseInformation &release : workbench::fetchedReleases(call.requests)) {
-            rows.append(toJson(release));
+            rows.append(releaseJson(release));
             report.heading(updating::presentationText(release.version) + u' ' +
                            foundation::presentationText(release.releasedOn));
             for (const QString &line : release.notes.split(u'\n'))

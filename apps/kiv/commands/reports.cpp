@@ -131,7 +131,7 @@ QJsonObject groupsJson(const Groups &groups)
     return json;
 }
 
-QString rateText(const QJsonValue &rate)
+QString savingsRateText(const QJsonValue &rate)
 {
     return rate.isNull() ? QString()
                          : foundation::presentationText(foundation::Percentage(rate.toDouble(), 1));
@@ -198,7 +198,7 @@ void addFlowTables(Report &report, const Groups &groups)
                     {QObject::tr("Income", "what came in"), QStringLiteral("income")},
                     {QObject::tr("Expenses"), QStringLiteral("expenses")},
                     {QObject::tr("Saved"), QStringLiteral("saved")},
-                    {QObject::tr("Savings rate"), QStringLiteral("savingsRate"), rateText}},
+                    {QObject::tr("Savings rate"), QStringLiteral("savingsRate"), savingsRateText}},
                    rows, QString());
     }
 }

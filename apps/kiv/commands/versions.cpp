@@ -44,7 +44,7 @@ bool isTelling(const KeptVersion &version)
     return version.telling == KeptVersion::Telling::Everything;
 }
 
-QJsonObject toJson(const KeptVersion &version)
+QJsonObject versionJson(const KeptVersion &version)
 {
     const bool isNumbered = version.mark.number > 0;
     return {
@@ -77,7 +77,7 @@ Report restored(const Document::Recalled &recalled)
     const SharedChanges changes = recalled.before
                                       ? changesBetween(*recalled.before, recalled.after)
                                       : std::make_shared<const std::vector<workbench::Change>>();
-    Report report(QJsonObject{{QStringLiteral("restored"), toJson(recalled.version)}},
+    Report report(QJsonObject{{QStringLiteral("restored"), versionJson(recalled.version)}},
                   QStringLiteral("changes"), rowsOf(changes));
     const QString sentence = recalled.version.path.isEmpty()
                                  ? QObject::tr("Restored the state of %1.")
@@ -170,7 +170,7 @@ struct History {
                                                  : versions.all();
         QJsonArray rows;
         for (const KeptVersion &version : all)
-            rows.append(toJson(version));
+            rows.append(versionJson(version));
         const auto time = [](const QJsonValue &value) {
             return localTime(QDateTime::fromString(value.toString(), Qt::ISODateWithMs));
         };

@@ -74,15 +74,15 @@ private:
 bool waitForKey(int terminal)
 {
     sigset_t all;
-    sigset_t before;
+    sigset_t heldBefore;
     ::sigfillset(&all);
-    ::pthread_sigmask(SIG_BLOCK, &all, &before);
+    ::pthread_sigmask(SIG_BLOCK, &all, &heldBefore);
     bool isReady = false;
     if (::rl_pending_signal() == 0 && isInterrupted == 0) {
         pollfd key{terminal, POLLIN, 0};
-        isReady = ::ppoll(&key, 1, nullptr, &before) > 0;
+        isReady = ::ppoll(&key, 1, nullptr, &heldBefore) > 0;
     }
-    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    ::pthread_sigmask(SIG_SETMASK, &heldBefore, nullptr);
     return isReady;
 }
 
