@@ -4,6 +4,7 @@
 #include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 #include "support/accounting.h"
+#include "support/full_disk.h"
 
 #include "storage/budget_file.h"
 
@@ -14,9 +15,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -41,28 +39,6 @@ bool has(workbench::Document &document, const QString &name)
         return account.code().name() == name;
     });
 }
-
-/// While it lives, no file becomes longer than this: a disk without room.
-class FullDisk {
-public:
-    FullDisk()
-    {
-        std::signal(SIGXFSZ, SIG_IGN); // so that it is an error of writing
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit full{4096, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit m_before = {};
-};
 
 } // namespace
 
