@@ -55,7 +55,7 @@ int FlowLayout::heightForWidth(int width) const
 
 QSize FlowLayout::sizeHint() const
 {
-    QSize all;
+    QSize all(0, 0); // a default one is (-1, -1)
     for (const QLayoutItem *item : m_items) {
         if (item->isEmpty())
             continue;
