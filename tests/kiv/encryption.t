@@ -123,7 +123,7 @@ At a terminal it is asked unseen, once a shell, and what is typed there is not k
   >     "not the passphrase of the file 'household.budget'.\r\nPassphrase" \
   >     'other words of my own\n' 'kiv> ' 'bill add Secret 5 --next 2026-02-01\n' \
   >     'Added the bill' 'encrypt\n' 'New passphrase' 'short\n' 'again' 'shorter\n' \
-  >     'not the same passphrase.\r\nThe new' 'short\n' 'have the new passphrase' 'exit\n'
+  >     'not the same passphrase.\r\nNew pass' 'short\n' 'again' 'short\n' 'have the new passphrase' 'exit\n'
   $ ! grep -rs Secret data
 
 Who ends the program while it asks sees again what is typed:

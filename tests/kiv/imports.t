@@ -126,6 +126,9 @@ A file of another account is noticed, and one whose account is known needs no na
   $ kiv import other.ofx
   kiv: Give the account of the bank statement with --into. It may be: Checking, Savings.
   [2]
+  $ kiv import other.ofx --into Food
+  kiv: No bank's statement is of 'Food': the account neither holds money nor owes any.
+  [1]
   $ kiv import other.ofx --into Checking --against Food
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
   1 entry should be looked at; see the marks with --dry-run.

@@ -96,8 +96,6 @@ QString plainNumber(const QString &text)
 
 QString momentText(const QDateTime &moment)
 {
-    if (!foundation::hasDateLocale())
-        return moment.toString(Qt::ISODate);
     const QDateTime local = moment.toLocalTime();
     return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm"));
 }

@@ -27,8 +27,7 @@ KIV_WORKBENCH_EXPORT void writeNumbersAsUser();
 /// other text is returned unchanged.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString plainNumber(const QString &text);
 
-/// A time for people: local date and time in the locale's form, or ISO 8601 in UTC
-/// without a locale.
+/// A time for people: local, to the minute, with the date in the locale's form.
 [[nodiscard]] KIV_WORKBENCH_EXPORT QString momentText(const QDateTime &moment);
 
 } // namespace kiv::workbench

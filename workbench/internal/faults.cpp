@@ -55,6 +55,13 @@ Refusal noOtherSide(const QString &text, QDate day)
                        .arg(text, foundation::presentationText(day)));
 }
 
+Refusal notKeptByBanks(const QString &account)
+{
+    return Refusal(QObject::tr("No bank's statement is of '%1': the account neither holds money "
+                               "nor owes any.")
+                       .arg(account));
+}
+
 ImportError otherCurrency(const Place &place, const numira::Currency &found,
                           const numira::Currency &wanted)
 {

@@ -46,6 +46,8 @@ namespace kiv::workbench::internal {
 
 /// `text` is what the bank says of the entry.
 [[nodiscard]] Refusal noOtherSide(const QString &text, QDate day);
+/// No bank keeps accounts of its type.
+[[nodiscard]] Refusal notKeptByBanks(const QString &account);
 [[nodiscard]] interchange::ImportError otherCurrency(const interchange::Place &place,
                                                      const numira::Currency &found,
                                                      const numira::Currency &wanted);

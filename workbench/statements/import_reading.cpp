@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbench/statements/import_reading.h"
 
+#include "workbench/internal/faults.h"
 #include "workbench/statements/statement_books.h"
 
 #include <QtCore/QObject>
@@ -32,6 +33,9 @@ public:
 
     ImportReading read()
     {
+        if (const Account *into = m_source.into ? m_index.find(*m_source.into) : nullptr;
+            into && !keepsMoney(*into))
+            throw internal::notKeptByBanks(m_index.plainName(*m_source.into));
         ImportReading reading = m_source.into ? ImportReading{{}, m_source.into} : withPossible();
         if (reading.account) {
             // Its currency and the form of its tables count from now on.

@@ -68,9 +68,12 @@ Passphrase Passphrases::chosen(const QString &file, bool isInPlace) const
         Dialogue dialogue;
         dialogue.untilSecret(QObject::tr("New passphrase"), [&](const QByteArray &typed) {
             passphrase = Passphrase::ofBytes(typed);
-        });
-        dialogue.untilSecret(QObject::tr("The new passphrase again"), [&](const QByteArray &typed) {
-            if (Passphrase::ofBytes(typed).bytes() != passphrase->bytes())
+            // Nobody knows which of two that differ was mistyped, so both are asked for again.
+            std::optional<Passphrase> again;
+            dialogue.untilSecret(
+                QObject::tr("The new passphrase again"),
+                [&](const QByteArray &repeated) { again = Passphrase::ofBytes(repeated); });
+            if (again->bytes() != passphrase->bytes())
                 throw otherPassphrase();
         });
     } else {
