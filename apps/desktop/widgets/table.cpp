@@ -7,6 +7,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleOption>
 
 namespace kiv::desktop {
 namespace {
@@ -14,9 +15,27 @@ namespace {
 /// So many rows decide how wide a column is: to ask all would take seconds in a long table.
 constexpr int measuredRows = 200;
 
-/// Keeps the texts of neighbouring cells apart.
+/// Keeps the texts of neighbouring cells apart, and headings above their columns.
 class CellStyle final : public OutlineStyle {
 public:
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *heading = qstyleoption_cast<const QStyleOptionHeader *>(option);
+        if (element != CE_HeaderLabel || !heading)
+            return OutlineStyle::drawControl(element, option, painter, widget);
+        QStyleOptionHeader above = *heading;
+        const int extra = extraOfHeading(option, widget);
+        above.rect.adjust(extra, 0, -extra, 0);
+        OutlineStyle::drawControl(element, &above, painter, widget);
+    }
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        const QSize usual = OutlineStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_HeaderSection ? usual + QSize(2 * extraOfHeading(option, widget), 0)
+                                        : usual;
+    }
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
     {
@@ -24,6 +43,14 @@ public:
         if (metric != PM_FocusFrameHMargin || !widget)
             return usual;
         return usual + widget->fontMetrics().averageCharWidth() / 2;
+    }
+
+private:
+    /// What a heading lacks at each side to have the margin of a cell.
+    int extraOfHeading(const QStyleOption *option, const QWidget *widget) const
+    {
+        const int cells = pixelMetric(PM_FocusFrameHMargin, option, widget) + 1;
+        return std::max(0, cells - pixelMetric(PM_HeaderMargin, option, widget));
     }
 };
 
@@ -35,6 +62,7 @@ Table::Table(TableModel &model, const QString &name, QWidget *parent)
     auto *style = new CellStyle;
     style->setParent(this);
     setStyle(style);
+    horizontalHeader()->setStyle(style);
     setModel(&model);
     setAccessibleName(name);
     setSelectionBehavior(SelectRows);
