@@ -323,6 +323,8 @@ private slots:
         fill(home, {{Qt::Key_Y, u"2026-01-05"_s}});
         press(home, Qt::Key_Return);
         QCOMPARE(row(home).at(2), dollars("3000"));
+        QVERIFY(home.window().findChild<desktop::Announcer *>()->text().contains(
+            u"Moved %1 from"_s.arg(dollars("3000"))));
         home.trigger("undo");
         QCOMPARE(home.document().present(), before);
     }
@@ -362,8 +364,10 @@ private slots:
         for (int step = 0; step < 6; ++step)
             home.trigger("undo");
         QCOMPARE(home.document().present(), before);
+        goTo(home, "accounts/new");
         goTo(home, "accounts/" + number(home, u"Rent"_s));
-        press(home, Qt::Key_Delete); // the item would go with it
+        QVERIFY(!part<QWidget>(home, "save").isVisible()); // the form of the new one
+        press(home, Qt::Key_Delete);                       // the item would go with it
         QCOMPARE(home.document().present(), before);
         QVERIFY(part<QWidget>(home, "remove").toolTip().contains(u"“Rent”"_s));
     }
