@@ -32,7 +32,7 @@ using surveying::Distribution;
 
 namespace {
 
-using Family = std::set<AccountNumber>;
+using FamilyNumbers = std::set<AccountNumber>;
 
 QString nameIn(const GeneralLedger &ledger, AccountNumber number)
 {
@@ -40,7 +40,7 @@ QString nameIn(const GeneralLedger &ledger, AccountNumber number)
 }
 
 /// Adds all accounts below this one.
-void addBelow(Family &family, const GeneralLedger &ledger, AccountNumber number)
+void addBelow(FamilyNumbers &family, const GeneralLedger &ledger, AccountNumber number)
 {
     for (const AccountNumber child :
          ledger.lookUpChildren(number, accounting::OpenStates::Either)) {
@@ -50,7 +50,7 @@ void addBelow(Family &family, const GeneralLedger &ledger, AccountNumber number)
 }
 
 /// Gives those accounts of the family that the bank keeps, and their surveys, to another bank.
-void moveFamily(BudgetStorage::Data &data, const Family &family, const BankName &from,
+void moveFamily(BudgetStorage::Data &data, const FamilyNumbers &family, const BankName &from,
                 const BankName &to)
 {
     const banking::Bank::Accounts kept = data.banks.bank(from).accounts();
@@ -147,7 +147,7 @@ private:
     void moveAll();
     /// What of the account's balance the statements of the old account counted. Notes these
     /// transactions, and those within the family, which no statement is going to show.
-    [[nodiscard]] Money countedOf(AccountNumber child, const Family &members);
+    [[nodiscard]] Money countedOf(AccountNumber child, const FamilyNumbers &members);
     void moveUnder();
     /// Moves so much of a balance on the day.
     TransactionNumber post(AccountNumber from, AccountNumber to, const Money &amount);
@@ -218,7 +218,7 @@ void Replacing::findWanted()
     }
 }
 
-Money Replacing::countedOf(AccountNumber child, const Family &members)
+Money Replacing::countedOf(AccountNumber child, const FamilyNumbers &members)
 {
     const accounting::LedgerAccount account = m_data.generalLedger.ledger(child);
     Money counted(account.balance().code());
@@ -253,14 +253,14 @@ TransactionNumber Replacing::post(AccountNumber from, AccountNumber to, const Mo
 void Replacing::moveAll()
 {
     GeneralLedger &ledger = m_data.generalLedger;
-    const Family under = ledger.lookUpChildren(m_said.old, accounting::OpenStates::Either);
-    Family members = under;
+    const FamilyNumbers under = ledger.lookUpChildren(m_said.old, accounting::OpenStates::Either);
+    FamilyNumbers members = under;
     members.insert(m_said.old);
     // The old bank's balance counts what lies under the account, so this money goes over with
     // the rest: it returns to the account, where no statement shows it, and leaves that of the
     // new one likewise. What the old bank has not shown yet is left to the new one.
     std::map<AccountNumber, Money> held;
-    Family finished;
+    FamilyNumbers finished;
     for (const AccountNumber child : under) {
         const Money counted = countedOf(child, members);
         if (counted.isZero())
@@ -291,7 +291,7 @@ void Replacing::moveAll()
 void Replacing::moveUnder()
 {
     GeneralLedger &ledger = m_data.generalLedger;
-    Family family;
+    FamilyNumbers family;
     addBelow(family, ledger, m_said.old);
     for (const AccountNumber child :
          ledger.lookUpChildren(m_said.old, accounting::OpenStates::Either)) {
@@ -382,7 +382,7 @@ void moveBankAccount(Document &document, AccountNumber account, const BankName &
     refuseBelow(data, account);
     if (data.banks.bank(to).isClosed())
         throw internal::bankIsClosed(to.institution());
-    Family family{account};
+    FamilyNumbers family{account};
     addBelow(family, ledger, account);
     moveFamily(data, family, kept.bank, to);
     document.put(std::move(data));

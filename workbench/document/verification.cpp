@@ -2,6 +2,7 @@
 #include "workbench/document/verification.h"
 
 #include "workbench/entry/money_text.h"
+#include "workbench/requests/balances.h"
 
 #include <QtCore/QObject>
 
@@ -29,14 +30,6 @@ Promise promiseOf(FilePromise promise)
         break;
     }
     return Promise::Ties;
-}
-
-/// Sums by currency.
-using Sums = std::map<numira::Currency, numira::Money>;
-
-void add(Sums &sums, const numira::Money &amount)
-{
-    sums.try_emplace(amount.code(), amount.code()).first->second += amount;
 }
 
 /// Adds up the transactions by account, and compares the sums with the balances and with

@@ -4,11 +4,12 @@
 namespace kiv::workbench {
 namespace {
 
-constexpr QChar mark = u'"';
+constexpr QChar quoteMark = u'"';
 
 bool needsMarks(const QString &name)
 {
-    return name.contains(u',') || name.contains(mark) || name != name.trimmed() || name.isEmpty();
+    return name.contains(u',') || name.contains(quoteMark) || name != name.trimmed() ||
+           name.isEmpty();
 }
 
 } // namespace
@@ -28,10 +29,11 @@ QStringList namesOf(const QString &text)
     };
     for (qsizetype at = 0; at < text.size(); ++at) {
         const QChar letter = text.at(at);
-        if (isMarked && letter == mark && at + 1 < text.size() && text.at(at + 1) == mark) {
-            name += mark;
+        if (isMarked && letter == quoteMark && at + 1 < text.size() &&
+            text.at(at + 1) == quoteMark) {
+            name += quoteMark;
             ++at;
-        } else if (letter == mark && (isMarked || name.trimmed().isEmpty())) {
+        } else if (letter == quoteMark && (isMarked || name.trimmed().isEmpty())) {
             if (!isMarked)
                 name.clear();
             isMarked = !isMarked;
@@ -51,7 +53,7 @@ QString namesText(const QStringList &names)
     QStringList texts;
     for (QString text : names) {
         if (needsMarks(text))
-            text = mark + text.replace(mark, QStringLiteral("\"\"")) + mark;
+            text = quoteMark + text.replace(quoteMark, QStringLiteral("\"\"")) + quoteMark;
         texts += text;
     }
     return texts.join(QStringLiteral(", "));

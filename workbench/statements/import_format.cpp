@@ -15,15 +15,16 @@ namespace {
 
 using enum ImportFormat;
 
-constexpr std::pair<ImportFormat, const char *> words[] = {{Journal, "journal"}, {Csv, "csv"},
-                                                           {Ofx, "ofx"},         {Qif, "qif"},
-                                                           {Mt940, "mt940"},     {Camt, "camt"}};
+constexpr std::pair<ImportFormat, const char *> formatWords[] = {
+    {Journal, "journal"}, {Csv, "csv"},     {Ofx, "ofx"},
+    {Qif, "qif"},         {Mt940, "mt940"}, {Camt, "camt"}};
 
-constexpr std::pair<ImportFormat, StatementFormat> statements[] = {{Csv, StatementFormat::Csv},
-                                                                   {Ofx, StatementFormat::Ofx},
-                                                                   {Qif, StatementFormat::Qif},
-                                                                   {Mt940, StatementFormat::Mt940},
-                                                                   {Camt, StatementFormat::Camt}};
+constexpr std::pair<ImportFormat, StatementFormat> statementForms[] = {
+    {Csv, StatementFormat::Csv},
+    {Ofx, StatementFormat::Ofx},
+    {Qif, StatementFormat::Qif},
+    {Mt940, StatementFormat::Mt940},
+    {Camt, StatementFormat::Camt}};
 
 /// The extensions of journals.
 constexpr std::pair<ImportFormat, const char *> journals[] = {{Journal, "journal"},
@@ -46,23 +47,23 @@ std::optional<ImportFormat> named(const auto &table, const QString &word)
 QString importFormatWord(ImportFormat format)
 {
     const auto *const found =
-        std::ranges::find(words, format, [](const auto &row) { return row.first; });
+        std::ranges::find(formatWords, format, [](const auto &row) { return row.first; });
     return QLatin1String(found->second);
 }
 
 ImportFormat importFormatOf(const QString &word)
 {
-    if (const auto format = named(words, word))
+    if (const auto format = named(formatWords, word))
         return *format;
     QStringList choices;
-    for (const auto &[format, name] : words)
+    for (const auto &[format, name] : formatWords)
         choices += QLatin1String(name);
     throw notAChoice(word, choices);
 }
 
 std::optional<StatementFormat> statementFormat(ImportFormat format)
 {
-    for (const auto &[one, statement] : statements) {
+    for (const auto &[one, statement] : statementForms) {
         if (one == format)
             return statement;
     }
@@ -74,7 +75,7 @@ std::optional<ImportFormat> guessImportFormat(const QString &file, const QByteAr
     if (const auto format = named(journals, QFileInfo(file).suffix().toLower()))
         return format;
     const auto form = interchange::guessStatementFormat(file, bytes);
-    for (const auto &[format, statement] : statements) {
+    for (const auto &[format, statement] : statementForms) {
         if (statement == form)
             return format;
     }

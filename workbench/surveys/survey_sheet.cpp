@@ -35,7 +35,7 @@ bool isCleared(const Transaction &transaction, const std::set<AccountNumber> &ac
 }
 
 /// Nothing if the statement is zero.
-std::optional<numira::Decimal> percentOf(const Money &difference, const Money &statement)
+std::optional<numira::Decimal> percentOfStatement(const Money &difference, const Money &statement)
 {
     // In minor units, so that both factors are whole numbers.
     const unsigned digits = numira::minorUnitDigits(statement.code());
@@ -228,7 +228,7 @@ SheetFigures SurveySheet::figures() const
     figures.difference = form.missing().rounded();
     figures.calculated = form.balance - figures.difference;
     figures.before = before ? before->amount : Money(form.balance.code());
-    figures.percent = percentOf(figures.difference, figures.statement);
+    figures.percent = percentOfStatement(figures.difference, figures.statement);
     figures.isAccepted =
         form.isOwed() || surveying::agrees(figures.calculated, window, figures.statement);
     return figures;

@@ -14,7 +14,7 @@ namespace kiv::desktop {
 namespace {
 
 /// Nobody looks through more; the others are found by typing more.
-constexpr std::size_t shownMax = 200;
+constexpr std::size_t resultsMax = 200;
 
 bool matches(const PaletteEntry &entry, const QStringList &words)
 {
@@ -67,7 +67,7 @@ void CommandPalette::list()
     m_list->clear();
     for (const Source &source : m_sources) {
         for (PaletteEntry &entry : source()) {
-            if (m_shown.size() < shownMax && matches(entry, words))
+            if (m_shown.size() < resultsMax && matches(entry, words))
                 m_shown.push_back(std::move(entry));
         }
     }

@@ -22,7 +22,7 @@ QString everywhere()
         "can be short: 3, 5-2, +7, or T for today.");
 }
 
-QMap<QString, QString> texts()
+QMap<QString, QString> pageTexts()
 {
     return {
         {QStringLiteral("home"),
@@ -152,7 +152,7 @@ QMap<QString, QString> texts()
 
 QString manualText(const QString &page)
 {
-    const QString own = texts().value(page);
+    const QString own = pageTexts().value(page);
     return own.isEmpty() ? everywhere() : own + QStringLiteral("\n\n") + everywhere();
 }
 

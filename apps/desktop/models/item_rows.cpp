@@ -28,7 +28,7 @@ struct KindTexts {
 };
 
 /// In the order of the kinds.
-constexpr std::array<KindTexts, 5> texts{{
+constexpr std::array<KindTexts, 5> kindTexts{{
     {QT_TRANSLATE_NOOP("QObject", "Bills"),
      QT_TRANSLATE_NOOP("QObject", "There are no bills yet: what must be paid, such as rent.")},
     {QT_TRANSLATE_NOOP("QObject", "Debts"),
@@ -44,7 +44,7 @@ constexpr std::array<KindTexts, 5> texts{{
 
 const KindTexts &textsOf(BudgetItemTypes kind)
 {
-    return texts.at(static_cast<std::size_t>(kind) - 1);
+    return kindTexts.at(static_cast<std::size_t>(kind) - 1);
 }
 
 /// "$200.00 of $1,200.00"

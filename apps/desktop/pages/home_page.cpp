@@ -41,7 +41,7 @@ QString payText(budgeting::BudgetItemTypes kind)
 }
 
 /// What is set aside, in the words of the page of items.
-QString asidePart(const std::optional<accounting::AccountNumber> &account)
+QString asidePartOf(const std::optional<accounting::AccountNumber> &account)
 {
     const QString aside = QStringLiteral("aside");
     return account ? aside + u'/' + keyOf(*account) : aside;
@@ -57,7 +57,7 @@ Place placeOf(const Care &care)
     case Care::About::LongNotReconciled:
         return {QStringLiteral("survey"), care.account ? keyOf(*care.account) : QString()};
     case Care::About::SetAside:
-        return {QStringLiteral("items"), asidePart(care.account)};
+        return {QStringLiteral("items"), asidePartOf(care.account)};
     case Care::About::Rates:
         return {QStringLiteral("rates"), {}};
     case Care::About::File:

@@ -21,7 +21,7 @@ using workbench::Payoff;
 namespace {
 
 /// Further ones scroll.
-constexpr int rowsMax = 5;
+constexpr int scheduleRowsMax = 5;
 
 } // namespace
 
@@ -42,7 +42,7 @@ ItemSchedule::ItemSchedule(QWidget *parent)
     m_spared->setTextFormat(Qt::PlainText);
     m_spared->setWordWrap(true);
     m_table->setObjectName(QStringLiteral("schedule"));
-    m_table->fit(rowsMax);
+    m_table->fit(scheduleRowsMax);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     auto *line = new QHBoxLayout;

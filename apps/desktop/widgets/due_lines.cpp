@@ -11,7 +11,7 @@
 namespace kiv::desktop {
 namespace {
 
-constexpr int texts = 4;
+constexpr int textColumns = 4;
 constexpr std::size_t buttonsEach = 3;
 
 } // namespace
@@ -51,7 +51,7 @@ void DueLines::addLine(int row, const Line &line)
     for (const QString &text : {line.day, line.when, line.item, line.amount}) {
         auto *label = new QLabel(text, this);
         label->setTextFormat(Qt::PlainText);
-        if (column == texts - 1)
+        if (column == textColumns - 1)
             label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         m_grid->addWidget(label, row, column++);
         label->show();

@@ -32,7 +32,7 @@ QJsonObject postedJson(Requests &requests, accounting::TransactionNumber number,
 }
 
 /// The argument ITEM, with its kind.
-struct ItemArgument {
+struct ItemToPay {
     QString name;
     std::optional<BudgetItemTypes> kind;
 
@@ -157,7 +157,7 @@ private:
 };
 
 struct PayUnexpected {
-    ItemArgument item;
+    ItemToPay item;
     Amount amount;
     QString account;
 
@@ -184,7 +184,7 @@ struct PayUnexpected {
 };
 
 struct SkipDue {
-    ItemArgument item;
+    ItemToPay item;
 
     void declare(Arguments &arguments) { item.declare(arguments); }
     Report run(Call &call) const

@@ -22,8 +22,8 @@ using workbench::SetAsideLine;
 
 namespace {
 
-QJsonObject accountJson(const SetAside &account, const accounting::GeneralLedger &ledger,
-                        navigation::CurrencyDisplayOptions displayAs)
+QJsonObject envelopesJson(const SetAside &account, const accounting::GeneralLedger &ledger,
+                          navigation::CurrencyDisplayOptions displayAs)
 {
     QJsonArray lines;
     for (const SetAsideLine &line : account.lines)
@@ -79,8 +79,7 @@ QString outlookText(const ItemOutlook &outlook)
     if (!outlook.shouldEnd())
         return outlook.sentence;
     return outlook.sentence + u' ' +
-           QObject::tr("To end it, use kiv %1 finish.")
-               .arg(kindWord(outlook.item.type));
+           QObject::tr("To end it, use kiv %1 finish.").arg(kindWord(outlook.item.type));
 }
 
 struct Outlooks {
@@ -130,7 +129,7 @@ struct ShowEnvelopes {
         QJsonArray rows;
         QStringList told;
         for (const SetAside &one : all.accounts) {
-            rows.append(accountJson(one, data.generalLedger, displayAs));
+            rows.append(envelopesJson(one, data.generalLedger, displayAs));
             told += noticesOf(one, data.generalLedger, displayAs);
         }
         QJsonArray due;

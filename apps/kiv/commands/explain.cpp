@@ -17,7 +17,7 @@ using workbench::Explanation;
 
 namespace {
 
-QJsonObject lineJson(const ExplainedLine &line)
+QJsonObject explainedJson(const ExplainedLine &line)
 {
     return {
         {QStringLiteral("role"), QLatin1String(wordOf(line.role))},
@@ -33,7 +33,7 @@ QJsonObject explanationJson(const Explanation &one)
 {
     QJsonArray lines;
     for (const ExplainedLine &line : one.lines)
-        lines.append(lineJson(line));
+        lines.append(explainedJson(line));
     const auto *amount = std::get_if<numira::Money>(&one.figure);
     const auto *percent = std::get_if<numira::Decimal>(&one.figure);
     return {{QStringLiteral("title"), one.title},
@@ -44,7 +44,7 @@ QJsonObject explanationJson(const Explanation &one)
 }
 
 /// The explanations, each a table that ends with its figure.
-Report told(Call &call, const std::vector<Explanation> &all)
+Report explained(Call &call, const std::vector<Explanation> &all)
 {
     const auto displayAs = call.document.displayAs();
     QJsonArray data;
@@ -92,8 +92,8 @@ struct ExplainBalance {
     }
     Report run(Call &call) const
     {
-        return told(call,
-                    {Explainer(call.document, call.date()).balance(accountOf(call, account), day)});
+        return explained(
+            call, {Explainer(call.document, call.date()).balance(accountOf(call, account), day)});
     }
 };
 
@@ -106,7 +106,7 @@ struct ExplainShare {
     }
     Report run(Call &call) const
     {
-        return told(call, {Explainer(call.document, call.date()).share(itemOf(call, item))});
+        return explained(call, {Explainer(call.document, call.date()).share(itemOf(call, item))});
     }
 };
 
@@ -128,12 +128,12 @@ struct ExplainConversion {
     {
         const Explainer explainer(call.document, call.date());
         if (entry)
-            return told(call, explainer.conversions(*entry));
+            return explained(call, explainer.conversions(*entry));
         if (!amount)
             throw UsageError(QObject::tr("Give an amount, or a transaction with --entry."));
         const numira::Currency preferred = call.requests.preferredCurrency();
-        return told(call,
-                    {explainer.conversion(amount->in(preferred), currency.value_or(preferred))});
+        return explained(
+            call, {explainer.conversion(amount->in(preferred), currency.value_or(preferred))});
     }
 };
 
@@ -149,8 +149,8 @@ struct ExplainSetAside {
     }
     Report run(Call &call) const
     {
-        return told(call, {Explainer(call.document, call.date())
-                               .setAside(accountOf(call, account), itemOf(call, item))});
+        return explained(call, {Explainer(call.document, call.date())
+                                    .setAside(accountOf(call, account), itemOf(call, item))});
     }
 };
 
@@ -158,7 +158,7 @@ struct ExplainFree {
     void declare(Arguments &arguments) { arguments.dated(QObject::tr("Day (default: today)")); }
     Report run(Call &call) const
     {
-        return told(call, Explainer(call.document, call.date()).freeMoney());
+        return explained(call, Explainer(call.document, call.date()).freeMoney());
     }
 };
 
@@ -180,7 +180,7 @@ struct ExplainTolerance {
         std::optional<numira::Money> statement;
         if (balance)
             statement = balance->in(found.balance().code());
-        return told(
+        return explained(
             call,
             {Explainer(call.document, call.date()).tolerance(found.code().number(), statement)});
     }
@@ -198,7 +198,7 @@ struct ExplainHealth {
     Report run(Call &call) const
     {
         const Explainer explainer(call.document, call.date());
-        return told(call, name ? std::vector{explainer.health(*name)} : explainer.health());
+        return explained(call, name ? std::vector{explainer.health(*name)} : explainer.health());
     }
 };
 
@@ -218,7 +218,7 @@ struct ExplainOutlook {
         std::optional<AccountNumber> number;
         if (account)
             number = accountOf(call, *account);
-        return told(call, {Explainer(call.document, call.date()).outlook(day, number)});
+        return explained(call, {Explainer(call.document, call.date()).outlook(day, number)});
     }
 };
 

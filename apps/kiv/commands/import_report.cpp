@@ -18,8 +18,8 @@ namespace {
 
 // ---- journals --------------------------------------------------------------------
 
-Rows rowsOf(std::vector<workbench::ImportedTransaction> transactions,
-            const std::shared_ptr<const AccountIndex> &index)
+Rows importedRows(std::vector<workbench::ImportedTransaction> transactions,
+                  const std::shared_ptr<const AccountIndex> &index)
 {
     const auto all = std::make_shared<const std::vector<workbench::ImportedTransaction>>(
         std::move(transactions));
@@ -123,8 +123,8 @@ QJsonObject jsonOf(const ImportRow &row, qsizetype place, const AccountIndex &in
 }
 
 /// Made one by one: there may be many, and often nobody reads them.
-Rows rowsOf(const std::shared_ptr<const ImportPreview> &preview,
-            const std::shared_ptr<const AccountIndex> &index)
+Rows previewRows(const std::shared_ptr<const ImportPreview> &preview,
+                 const std::shared_ptr<const AccountIndex> &index)
 {
     return {std::ssize(preview->rows()), [preview, index](qsizetype at) {
                 return jsonOf(preview->rows()[static_cast<std::size_t>(at)], at, *index);
@@ -142,7 +142,7 @@ Report importReport(Call &call, PostedImport import)
     const qint64 posted = import.posted();
     const qint64 skipped = import.skipped();
     const bool hasChanges = import.hasChanges();
-    const Rows rows = rowsOf(std::move(import.transactions), index);
+    const Rows rows = importedRows(std::move(import.transactions), index);
     Report report(
         QJsonObject{{QStringLiteral("accounts"), accounts},
                     {QStringLiteral("posted"), posted},
@@ -179,7 +179,8 @@ void addRows(Report &report, const std::shared_ptr<const ImportPreview> &preview
                   {QObject::tr("What"), QStringLiteral("state"), word},
                   {QObject::tr("For"), QStringLiteral("for")},
                   {QObject::tr("Why"), QStringLiteral("reason")}},
-                 rowsOf(preview, index), QObject::tr("There are no transactions in the file."));
+                 previewRows(preview, index),
+                 QObject::tr("There are no transactions in the file."));
 }
 
 Report importReport(Call &call, const std::shared_ptr<const ImportPreview> &preview,
@@ -199,7 +200,7 @@ Report importReport(Call &call, const std::shared_ptr<const ImportPreview> &prev
                     {QStringLiteral("leftOut"), counts.leftOut},
                     {QStringLiteral("doubtful"), counts.doubtful},
                     {QStringLiteral("notices"), QJsonArray::fromStringList(preview->notices())}},
-        QStringLiteral("entries"), rowsOf(preview, index));
+        QStringLiteral("entries"), previewRows(preview, index));
     report.setChange(QObject::tr("Imported %n entries of %1", nullptr,
                                  static_cast<int>(counts.added + counts.matched))
                          .arg(index->plainName(preview->account().number())));

@@ -32,7 +32,7 @@ OutlookQuestion::Once readOnce(const QString &text, const numira::Currency &curr
     Amount amount;
     QDate day;
     readValue(text.left(at).trimmed(), amount);
-    readValue(text.mid(at + 4).trimmed(), day);
+    workbench::readValue(text.mid(at + 4).trimmed(), day);
     return {day, amount.in(currency)};
 }
 

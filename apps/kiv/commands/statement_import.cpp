@@ -24,7 +24,7 @@ using workbench::ImportSource;
 namespace {
 
 /// "12.50 USD, REWE | groceries, 2026-03-01", for questions.
-QString told(const ImportRow &row, Call &call)
+QString entryText(const ImportRow &row, Call &call)
 {
     return QStringLiteral("%1, %2, %3")
         .arg(foundation::presentationText(row.entry.date),
@@ -45,7 +45,7 @@ std::size_t rowOf(const QString &text, const ImportPreview &preview)
 ImportMeaning alternativeOf(const ImportPreview &preview, std::size_t row, const QString &text)
 {
     accounting::TransactionNumber number;
-    readValue(text, number);
+    workbench::readValue(text, number);
     for (const ImportMeaning &meaning : preview.alternatives(row)) {
         const auto *match = std::get_if<ImportMatch>(&meaning);
         if (match && std::ranges::count(match->numbers, number) > 0)
@@ -98,7 +98,8 @@ private:
                                      ? QObject::tr("Entry %1: %2. %3 Pay it with this?")
                                      : QObject::tr("Entry %1: %2. %3 Is it the same?");
         if (!m_dialogue.agrees(
-                question.arg(QString::number(row + 1), told(asked, m_call), asked.reason), true))
+                question.arg(QString::number(row + 1), entryText(asked, m_call), asked.reason),
+                true))
             m_preview.part(row);
     }
 
@@ -115,7 +116,7 @@ private:
         m_dialogue.until((known.isEmpty()
                               ? question
                               : question.arg(QStringLiteral("%1"), QStringLiteral("%2"), known))
-                             .arg(QString::number(row + 1), told(asked, m_call)),
+                             .arg(QString::number(row + 1), entryText(asked, m_call)),
                          [&](const QString &answer) {
                              if (!answer.isEmpty())
                                  m_preview.setOther(row, m_index.find(answer).code().number());
@@ -230,7 +231,7 @@ Report StatementImport::finished(Call &call, const std::shared_ptr<const ImportP
         for (const ImportRow &row : preview->rows()) {
             if (row.isTicked && row.state == ImportRow::State::New && !row.other &&
                 row.opens.isEmpty())
-                throw noOtherAccount(told(row, call));
+                throw noOtherAccount(entryText(row, call));
         }
     }
     ImportPreview::Done done;

@@ -26,7 +26,7 @@ namespace {
 BudgetItemIdentifier readItem(const BudgetView &view, const QJsonValue &json)
 {
     budgeting::BudgetItemTypes kind{};
-    readValue(json[QLatin1String("kind")].toString(), kind);
+    workbench::readValue(json[QLatin1String("kind")].toString(), kind);
     return identify(view.find(json[QLatin1String("name")].toString(), kind));
 }
 

@@ -8,7 +8,7 @@ namespace kiv::app {
 namespace {
 
 constexpr int gap = 2;
-constexpr int narrowest = 4;
+constexpr int columnMin = 4;
 /// A longer text shifts the rest of its own line only.
 constexpr int widestPadded = 200;
 
@@ -54,7 +54,7 @@ void Table::shrinkTo(int total, Layout &layout)
         int *widest = nullptr;
         for (std::size_t column = 0; column < layout.widths.size(); ++column) {
             int &width = layout.widths[column];
-            if (!layout.areNumbers[column] && width > narrowest && (!widest || width > *widest))
+            if (!layout.areNumbers[column] && width > columnMin && (!widest || width > *widest))
                 widest = &width;
         }
         if (!widest)
