@@ -8079,6 +8079,10 @@ Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rec
         <source>In a chart of a report: the entries behind the point</source>
         <translation>Im Diagramm eines Berichts: die Buchungen hinter dem Punkt</translation>
     </message>
+    <message>
+        <source>No bank&apos;s statement is of &apos;%1&apos;: the account neither holds money nor owes any.</source>
+        <translation>Kein Kontoauszug gehört zu „%1“: Das Konto enthält weder Geld noch Schulden.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

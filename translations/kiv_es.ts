@@ -8079,6 +8079,10 @@ Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores:
         <source>In a chart of a report: the entries behind the point</source>
         <translation>En el gráfico de un informe: los asientos detrás del punto</translation>
     </message>
+    <message>
+        <source>No bank&apos;s statement is of &apos;%1&apos;: the account neither holds money nor owes any.</source>
+        <translation>Ningún extracto bancario es de «%1»: la cuenta ni guarda dinero ni lo debe.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -152,8 +152,8 @@ private slots:
         QTest::addColumn<QByteArray>("language");
         QTest::addColumn<QString>("usage");
         QTest::addColumn<QString>("noon");
-        QTest::newRow("nothing") << QByteArray() << u"Usage: "_s << u"2026-03-01T12:00:00"_s;
-        QTest::newRow("POSIX") << QByteArray("POSIX") << u"Usage: "_s << u"2026-03-01T12:00:00"_s;
+        QTest::newRow("nothing") << QByteArray() << u"Usage: "_s << u"2026-03-01 12:00"_s;
+        QTest::newRow("POSIX") << QByteArray("POSIX") << u"Usage: "_s << u"2026-03-01 12:00"_s;
         QTest::newRow("German") << QByteArray("de_DE") << u"Aufruf: "_s << u"01.03.2026 12:00"_s;
         QTest::newRow("Spanish") << QByteArray("es_ES") << u"Uso: "_s << u"01/03/2026 12:00"_s;
     }
