@@ -9805,7 +9805,7 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
     </message>
     <message>
         <source>none</source>
-        <translation>ninguna</translation>
+        <translation>sin cuenta</translation>
     </message>
     <message>
         <source>%1 (%2)</source>

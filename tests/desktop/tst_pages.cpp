@@ -126,6 +126,10 @@ private slots:
             home.addItem<budgeting::Bill>("House", "3001", foundation::today().addDays(-8));
         });
         table(home).selectRow(0);
+        press(home, Qt::Key_P, Qt::AltModifier);
+        QVERIFY2(message(home).contains(u"zero"_s),
+                 qPrintable(message(home))); // alone, it is meant
+        table(home).setFocus();
         press(home, Qt::Key_Down, Qt::ShiftModifier);
         press(home, Qt::Key_P, Qt::AltModifier);
         QCOMPARE(home.document().undoable()->undone, u"paying “House”"_s);

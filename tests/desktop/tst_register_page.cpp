@@ -154,6 +154,7 @@ private slots:
 
         m_desk->trigger("refundEntry");
         QCOMPARE(text(u"amount"_s), u"911.00"_s);
+        QCOMPARE(text(u"payee"_s), u"Landlord"_s);
         type(u"912"_s);
         press(Qt::Key_Return);
         QCOMPARE(focus(), u"amount"_s); // more than was paid
