@@ -42,8 +42,6 @@ Amounts, days and words are the user's:
   Was     Name         Änderung     Einzelheiten
   Posten  Lohn Salary  hinzugefügt  1.500,10 EUR, monatlich, 02.03.2026
   Konto   4 Salary     hinzugefügt  0,00 EUR
-  $ de report | grep -o Einnahmen
-  Einnahmen
   $ de due --date 2026-02-27
   Fällig      Posten  Art           Betrag  Wann
   01.03.2026  Rent    Rechnung    850,00 €  in 2 Tagen

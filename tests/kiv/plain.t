@@ -123,10 +123,9 @@ What was paid in one go is split, all or none, and is one step of undo:
 An exchange keeps both amounts as the bank booked them, without a rate:
 
   $ kiv transfer Checking Euros 200 --received '183.40 EUR' --date 2026-03-02 >/dev/null
-  $ kiv accounts | grep -E 'Checking|Euros|Conversion'
+  $ kiv accounts | grep -E 'Checking|Euros|Conversion:'
        1  Assets:Checking                        $4,822.85
       10  Assets:Euros                             \xe2\x82\xac183.40 (esc)
-      11  Equity:Conversion                          $0.00
       13  Equity:Conversion:EUR                    \xe2\x82\xac183.40 (esc)
       12  Equity:Conversion:USD                   -$200.00
   $ kiv transfer Checking Euros '200 EUR' --received 183.40

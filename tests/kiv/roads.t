@@ -147,7 +147,7 @@ An account of the wrong type becomes what it is, with all that was entered:
   $ kiv accounts | grep -e Visa -e Purse
       10  Expenses:Purse                           $50.00
        9  Liabilities:Visa                         $20.00
-  $ kiv check household.budget | tail -1
+  $ kiv check household | tail -1
   The budget 'household.budget' is intact.
   $ each 1 <<'.'
   > account convert Giro --type asset

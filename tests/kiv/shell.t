@@ -12,22 +12,15 @@ next line, and the exit status is that of the first line that failed:
   > # a comment, then a mistake
   > bill add Gym 12,3x
   > account add Rent --type expense
-  > bill add "Car tax" 360 --dry-run
   > new household
-  > templates list
+  > bill add "Car tax" 360 --dry-run
   > bill list --file household
   > .
   kiv: '12,3x' is not an amount; write one like 1234.50 or '1234.50 USD'.
   kiv: The code name is the same name as an existing budget item.
+  kiv: The file 'household.budget' exists already; choose another name.
   Added the bill 'Car tax'.
   Dry run: nothing is saved.
-  kiv: The file 'household.budget' exists already; choose another name.
-  Template                     Household
-  none                         None
-  teenager                     Teenager
-  adult-single                 Adult, single
-  adult-married-single-income  Adult, married, single income
-  adult-married-double-income  Adult, married, double income
   Name     Amount  Every    Next        Tags
   Rent  $1,250.00  monthly  2026-01-31
   [2]

@@ -166,9 +166,8 @@ A bank's file says day, balance and what is on the statement; the interest of a 
   The books are $1.44 below the bank (3.31 %), which is never refused for what is owed.
   $ kiv survey complete First Card --bank-file card.csv --difference-to Interest
   Reconciled 10 Card at First with a balance of $43.44.
-  $ kiv accounts | grep -e Card -e Interest
+  $ kiv accounts | grep Interest
        7  Expenses:Interest                         $1.44
-      10  Liabilities:Card                         $43.44
 
 Wrong statements change nothing:
 

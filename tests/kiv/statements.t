@@ -166,7 +166,7 @@ So are options that do not fit:
   kiv: 'x' is not one of: '.', ','.
   kiv: 'ab' is not one of: ',', ';', '\t', '|'.
 
-Every way to read a table:
+Every way to read a statement. What it is shows in its beginning:
 
   $ begin
   $ read_as() {
@@ -194,3 +194,7 @@ Every way to read a table:
   > 2026-01-05,5.25,
   > .
   ["2026-01-05","-5.25","Income:Salary [Budget Item]","","~20260105-dc6a84"]
+  $ read_as <s.ofx | head -1
+  ["2026-01-10","-5.25","Income:Salary [Budget Item]","Bakery |","x1"]
+  $ printf '!Type:Bank\nD13/01/2026\nT-1\nLRent [Budget Item]\n^\n' | read_as
+  ["2026-01-13","-1.00","Expenses:Rent [Budget Item]","","~20260113-e32991"]

@@ -76,6 +76,9 @@ An edited document completes a survey. What went to the goal stays in the family
   {"distributed":{"amount":"30.00","currency":"USD"},"expected":{"amount":"360.00","currency":"USD"},"kind":"bill","name":"Tax","next":"2026-07-01"}
   $ jq '.balance = "4330.50" | .items = [{kind: "bill", name: "Rent", change: "-20.00"}] |
   >     .accounts = [{account: 2, change: "0.50 USD"}]' shown.json >survey.json
+  $ jq '.items[0].name = "Nil"' survey.json | kiv survey complete --from -
+  kiv: There is no bill 'Nil'; see kiv bill list.
+  [1]
   $ kiv survey complete --from - --tick 1 --dry-run <survey.json >told
   [1]
   $ sed '/^Set aside/,$d' told
@@ -202,6 +205,8 @@ days to come:
   >         --type savings --balance 12.50 --currency EUR "$@"
   > }
   $ coming() { jq -c 'map(.next > (now | strftime("%F"))) | [length, all]'; }
+  $ kiv templates list | sed -n 3p
+  teenager                     Teenager
   $ kiv templates show teenager --json >items
   $ coming <items
   [25,true]

@@ -106,11 +106,8 @@ A large import that is undone does not fill the terminal:
   $ load 19
   23
   1 more change is not shown; see all with --json.
-  $ load 1000
-  23
-  982 more changes are not shown; see all with --json.
   $ kiv redo --dry-run --json | jq '.changes | length'
-  1002
+  21
 
 Differences are told field by field:
 
