@@ -49,11 +49,9 @@ A month, from what is due to what is on file:
 
 The day of the month that an item was given outlives a short month:
 
-  $ kiv bill list
-  Name      Amount  Every      Next        Tags
+  $ kiv bill list | sed '1d; $d'
   Light     $90.00  quarterly  2026-03-10  home
   Rent   $1,250.00  monthly    2026-02-28
-  Together a month: $1,280.00
   $ kiv skip Rent >/dev/null
 
 Programs read JSON:

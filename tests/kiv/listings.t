@@ -117,8 +117,7 @@ Each field of something is changed alone:
   $ kiv debt update Car --borrowed 400
   Changed the debt 'Car'.
   $ kiv debt update Car --bank Second >/dev/null
-  $ kiv bill list
-  Name     Amount  Every   Next        Tags
+  $ kiv bill list | tail -1
   Rent  $1,250.00  weekly  2026-03-01  home
   $ kiv bill update Rent --no-tags >/dev/null
   $ kiv post Rent --amount 7 --account Checking --date 2026-03-01 >/dev/null

@@ -42,8 +42,10 @@ What is to come, if everything regular goes on.
   The outlook leaves 'Hotel' out: there is no exchange rate between EUR and USD.
   $ each 1 <<'.'
   > outlook --date 2026-01-31 --days 9 --with '5 on 2026-02-09'
+  > outlook --floor '5 EUR'
   > .
   kiv: 2026-02-09 is behind 2026-02-08, the last day that is looked at.
+  kiv: There is no exchange rate between EUR and USD.
   $ each 2 <<'.'
   > outlook --days 5000
   > outlook --with 900

@@ -76,8 +76,7 @@ A search looks at all of it, and sums up what was spent and earned:
        3  2026-02-01                   Groceries  Visa     $3.00
        4  2026-02-03  Market | weekly  Groceries  Visa    $42.10
   2 of 9, together -$45.10.
-  $ kiv find --date 2026-03-15 -- february '>50' not:cleared -works -visa
-  Number  Date        Description  Debit  Credit     Amount
+  $ kiv find --date 2026-03-15 -- february '>50' not:cleared -works -visa | tail -2
        6  2026-02-04               Car    Checking  $100.00
   1 of 9, together $0.00.
   $ kiv find 'item:car <=100' --json | grep -E 'count|of"|filter'

@@ -47,23 +47,27 @@ Nothing to change, and what excludes each other:
   > bill update Rent
   > undo --steps 0
   > account recode 1 --under 3 --top-level
+  > bill update Rent --tag home --no-tags
   > post Rent --all --account Checking
   > post --all --amount 5 --account Checking
   > post --account Checking
   > debt add Car 5 --borrowed 9 --type loan
   > new a --file b
   > report --title T
+  > --json report --chart
   > export --format csv --json
   > .
   kiv: No change given; see --help.
   kiv: '0' is not a whole number from 1 to 1000.
   kiv: Use either --under or --top-level, not both.
+  kiv: Use either --no-tags or --tag, not both.
   kiv: Use either --all or ITEM, not both.
   kiv: Use either --all or --amount, not both.
   kiv: ITEM is missing.
   kiv: Use --type only together with --bank.
   kiv: Use either FILE or --file, not both.
   kiv: Use --title only together with --html.
+  kiv: Use either --chart or --json, not both.
   kiv: Use either --format or --json, not both.
 
 Commands, options and arguments; for a slip, what may have been meant is offered:

@@ -73,8 +73,7 @@ An account goes to another bank with its goals, its survey and what is set aside
   "Second"
   "2050.00"
   [["Tax","150.00"],["Trip","300.00"]]
-  $ kiv reconciliations
-  Bank    Account          Day of the statement    Balance  Transactions
+  $ kiv reconciliations | tail -1
   Second  Assets:Checking  2026-03-25            $2,500.00             2  holds
   $ kiv undo >/dev/null
 

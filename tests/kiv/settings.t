@@ -94,8 +94,7 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   Work hours a week               40
   Work days a week                5
   $ kiv bill add Miete 700 --next 2026-02-01 >/dev/null
-  $ kiv bill list
-  Name       Amount  Every    Next        Tags
+  $ kiv bill list | tail -1
   Miete  700.00 EUR  monthly  2026-02-01
   $ kiv configure set --notify-within 61
   kiv: The number of days to notify within must be between 0 and 60.
@@ -113,6 +112,5 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   kiv: User system locale "C"
   kiv: The first update check will occur in 5000ms
   kiv: Starting update check with the interval of 3600000ms
-  $ kiv bill list
-  Name        Amount  Every    Next        Tags
+  $ kiv bill list | tail -1
   Miete  €700.00 EUR  monthly  2026-02-01
