@@ -161,7 +161,6 @@ On a terminal it asks, and remembers what the user agrees to:
   $ "$TESTDIR/type" 'kiv> ' 'import asked.csv --into Checking\n' 'What was it for' 'Food\n' 'Always' '\n' \
   >     'Import 2' '\n' 'kiv> ' '\x04'
   $ sed 's/-05-1/-05-2/' asked.csv >again.csv
-  $ kiv import again.csv --into Checking --dry-run | head -3
-  Entry  Date        Description     Amount    What  For   Why
+  $ kiv import again.csv --into Checking --dry-run | sed -n 2,3p
       1  2026-05-22  Unknown Ltd 77  -$3.00    new   Food  As you said before.
       2  2026-05-23  Unknown Ltd 78  -$4.00    new   Food  As you said before.

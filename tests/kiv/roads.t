@@ -95,11 +95,13 @@ Another account takes its place. The statements of both show the whole transfer:
   > bank-account replace Giro --by Giro
   > bank-account replace Giro --by Trip
   > bank-account move Giro --to Second
+  > bank-account move Rent --to Second
   > .
   kiv: The account 'Checking' is closed; open it again first.
   kiv: 'Giro' cannot replace itself; add an account first.
   kiv: 'Trip' lies under 'Giro' and goes along with it; name 'Giro'.
   kiv: 'Giro' is at the bank 'Second' already.
+  kiv: The account 'Rent' is not assigned to a bank; assign it with kiv bank-account attach.
 
 A goal and a debt that came to their end:
 
