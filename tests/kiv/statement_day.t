@@ -173,11 +173,9 @@ Wrong statements change nothing:
 
   $ echo 'Date,Text,Amount' >empty.csv
   $ each 1 <<'.'
-  > survey complete First Food --balance 1
   > survey complete First Checking --bank-file card.csv
   > survey complete First Card --bank-file empty.csv --balance 1
   > .
-  kiv: The account 'Food' is not assigned to a bank; assign it with kiv bank-account attach.
   kiv: Checking was reconciled on 2026-02-06 already; the statement of 2026-01-31 is older.
   kiv: 'empty.csv' tells no day; give that of the statement.
   $ each 2 <<'.'
