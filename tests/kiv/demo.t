@@ -24,25 +24,6 @@ that hold.
   true
   $ kiv transactions --json | jq -c '[map(.refundOf != null) | any, length]'
   [true,488]
-  $ kiv accounts | grep -E 'closed|Travel cash|Conversion:|Bicycle|loan'
-       5  Assets:Old savings                         $0.00                       closed
-      26  Assets:Savings:Bicycle                   $660.00
-       7  Assets:Travel cash                        \xe2\x82\xac78.19 (esc)
-      31  Equity:Conversion:EUR                    \xe2\x82\xac348.38 (esc)
-      30  Equity:Conversion:USD                   -$381.00
-      27  Liabilities:Car loan                   $3,780.00
-      28  Liabilities:Family loan                  $300.00
-  $ kiv due --date 2025-03-31 --within 3
-  Due         Item          Kind              Amount  When
-  2025-03-29  Telephone     bill              $24.90  2 days late
-  2025-03-31  Internet      bill              $34.90  today
-  2025-04-02  Bus pass      bill              $55.00  in 2 days
-  2025-04-03  Pocket money  non-tracked item  $20.00  in 3 days
-  To pay until 2025-04-03: $134.80.
-  $ kiv find is:cleared | tail -1
-  9 of 488, together -$125.45.
-  $ kiv find is:open 2025-03-12.. | tail -1
-  12 of 488, together -$77.83.
   $ kiv demo
   kiv: The file 'household.budget' exists already; choose another name.
   [1]

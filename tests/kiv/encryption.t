@@ -9,10 +9,7 @@ A budget is encrypted with its former versions, and then used as before.
   $ echo 'four words of my own' >words
   $ echo 'other words of my own' >others
   $ kiv bill add Landlord 30 >/dev/null
-  $ kiv encrypt --passphrase-file words
-  The budget 'household.budget' and its former versions are encrypted.
-  Without the passphrase nobody can read the budget, you neither: keep it where you find it again.
-  What was saved before can still be found on the disk, and in copies elsewhere.
+  $ kiv encrypt --passphrase-file words >/dev/null
   $ readable
   $ kiv accounts
   kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.
@@ -29,10 +26,7 @@ A budget is encrypted with its former versions, and then used as before.
   $ export KIV_PASSPHRASE_FILE=words
   $ kiv bill remove Landlord
   Removed the bill 'Landlord'.
-  $ kiv undo
-  Restored the version saved at ????-??-?? ??:??:??. (glob)
-  What     Name           Change  Detail
-  item     bill Landlord  added   30.00 USD, monthly, ????-??-?? (glob)
+  $ kiv undo | tail -1
   account  5 Landlord     added   0.00 USD
   $ kiv history --json | jq -c '.[:2][] | [.change, .otherPassphrase]'
   ["Removed the bill 'Landlord'",false]
@@ -98,8 +92,6 @@ Damage is told apart from a wrong passphrase, and a whole version brought back:
   $ kiv accounts >/dev/null
   kiv: The file 'household.budget' is damaged and was not loaded. Caused by: The checksum is wrong. Former versions are kept; bring the newest back with kiv undo.
   [1]
-  $ kiv check | tail -1
-  The budget 'household.budget' is damaged; bring a whole version back with kiv undo.
   $ kiv undo
   Restored the version saved at ????-??-?? ??:??:??. (glob)
   $ readable
@@ -135,9 +127,6 @@ Who ends the program while it asks sees again what is typed:
   [129]
 
   $ echo short >words
-  $ kiv bill remove Secret
-  kiv: The file 'household.budget' is encrypted: give its passphrase with --passphrase-file, or at a terminal.
-  [2]
   $ kiv bill remove Secret --passphrase-file words
   Removed the bill 'Secret'.
   $ kiv decrypt --passphrase-file words

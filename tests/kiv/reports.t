@@ -25,15 +25,11 @@ Reports come in three forms, and as JSON.
   $ kiv report --html --to 2026-02-28 --title '<i>' >page
   $ head -1 page
   <!DOCTYPE html>
-  $ grep -o '<h[1-9]>.*</h[1-9]>' page
+  $ grep -o '</*details' page | sort | uniq -c
+        3 </details
+        3 <details
+  $ grep -o '<h1>.*</h1>' page
   <h1>&lt;i&gt;</h1>
-  <h2>By category</h2>
-  <h3>Expense, USD</h3>
-  <h2>Budget against actual</h2>
-  <h2>By account, from 2026-01-01 to 2026-02-28</h2>
-  <h3>Expense</h3>
-  <h2>Balances on 2026-02-28</h2>
-  <h3>Asset</h3>
   $ kiv report --html --to 2100-01-01 | grep -o -e '<h2>What.*</h2>' -e '<p>Lowest on' -e 'class="mark"'
   <h2>What is to come</h2>
   <p>Lowest on
@@ -41,9 +37,6 @@ Reports come in three forms, and as JSON.
   $ kiv report --from 2026-02-01 --to 2026-01-01
   kiv: A report cannot end before it begins.
   [1]
-  $ kiv report --html --chart
-  kiv: Use either --html or --chart, not both.
-  [2]
 
 A chart is as wide as the terminal. What is hardly anything is seen, and what is owed lies to
 the left of what is owned:
@@ -56,7 +49,7 @@ the left of what is owned:
   > .
   kiv: warning: Checking is below zero: -$0.02.
   kiv: warning: Checking is below zero: -$1,000.02.
-  $ kiv report --chart --from 2026-01-01 --to 2026-05-31 | head -20
+  $ kiv report --chart --from 2026-01-01 --to 2026-05-31 | sed -n '1,11p; 18,19p'
   Net worth over time, USD
   2026-01                            █████████████████████████████████  $1,250.00
   2026-02                            █████████████████████████████████  $1,249.99
@@ -68,40 +61,21 @@ the left of what is owned:
           ██ Income   ▒▒ Expenses
   2026-01                                                                   $0.00
           ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒ $1,250.00
-  2026-02                                                                   $0.00
-          ▏                                                                 $0.01
-  2026-03                                                                   $0.00
-          ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒ $1,250.01
-  2026-04                                                                   $0.00
-          ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒             $1,000.00
   2026-05 █████████████████████████████████████████████████             $1,000.03
                                                                             $0.00
-  
 
 Where the money went: by category, payee, tag and account, for any span, and for what a search
 finds.
 
   $ kiv demo year.budget --date 2025-03-31 >/dev/null
   $ export KIV_FILE=year.budget
-  $ kiv report --by category --period quarter --from 2024-10-01 --to 2025-03-31
+  $ kiv report --by category --period quarter --from 2024-10-01 --to 2025-03-31 | sed '6,13d; 15,18d'
   Expense, USD
   Name              2024-Q4    2025-Q1      Total    Average
   Rent            $2,940.00  $2,940.00  $5,880.00  $2,940.00
   Groceries       $1,113.85  $1,149.47  $2,263.32  $1,131.66
   Eating out        $289.27    $304.37    $593.64    $296.82
-  Pocket money      $260.00    $260.00    $520.00    $260.00
-  Bus pass          $165.00    $165.00    $330.00    $165.00
-  Electricity       $175.70     $83.16    $258.86    $129.43
-  Furniture         $135.20    $104.26    $239.46    $119.73
-  Fitness studio     $89.70     $89.70    $179.40     $89.70
-  Internet          $104.70     $69.80    $174.50     $87.25
-  Telephone          $74.70     $49.80    $124.50     $62.25
-  Pharmacy           $45.93     $19.22     $65.15     $32.58
   Income, USD
-  Name               2024-Q4    2025-Q1       Total    Average
-  Salary           $8,550.00  $8,550.00  $17,100.00  $8,550.00
-  Evening classes    $840.00    $980.00   $1,820.00    $910.00
-  Interest            $10.46      $9.38      $19.84      $9.92
   USD
   Span         Income    Expenses      Saved  Savings rate
   2024-Q4   $9,400.46   $5,394.05  $4,006.41  42.6 %
@@ -136,9 +110,6 @@ finds.
   $ kiv report --csv --period week --from 1900-01-01 --to 2025-03-31
   kiv: A report has at most 1200 spans; choose a later first day or longer spans.
   [1]
-  $ kiv report --csv --json
-  kiv: Use either --csv or --json, not both.
-  [2]
   $ kiv report --period decade
   kiv: 'decade' is not one of: week, two-weeks, payday, month, quarter, year.
   [2]
@@ -180,60 +151,28 @@ Currencies stay apart unless one is asked for, and then the rates are told with 
 no rate stays apart.
 
   $ export KIV_FILE=year.budget
-  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30
+  $ euros() {
+  >     kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30 |
+  >         grep -E '^(Exp|Inc|USD|EUR|Rent|Travel|2024|With|1 )' | sed "s/$(date -u +%F)/TODAY/"
+  > }
+  $ euros
   Expense, USD
-  Name                Total
   Rent            $1,960.00
-  Groceries         $764.78
-  Home insurance    $240.00
-  Pocket money      $180.00
-  Eating out        $158.56
-  Bus pass          $110.00
-  Electricity        $92.71
-  Internet           $69.80
-  Furniture          $61.25
-  Fitness studio     $59.80
-  Telephone          $49.80
-  Pharmacy            $8.19
   Expense, EUR
-  Name          Total
   Travelling  €270.19
   Income, USD
-  Name                 Total
-  Salary           $5,700.00
-  Evening classes    $560.00
-  Interest            $10.40
   USD
-  Span                       Income   Expenses      Saved  Savings rate
   2024-08-01..2024-09-30  $6,270.40  $3,754.89  $2,515.51  40.1 %
   EUR
-  Span                    Income  Expenses     Saved  Savings rate
   2024-08-01..2024-09-30   €0.00   €270.19  -€270.19
   Without an exchange rate, and apart: USD
   $ kiv rates set USD EUR=0.5 >/dev/null
-  $ kiv report --by category --in EUR --from 2024-08-01 --to 2024-09-30 | sed "s/$(date -u +%F)/TODAY/"
+  $ euros
   Expense, EUR
-  Name              Total
   Rent            €980.00
-  Groceries       €382.39
   Travelling      €270.19
-  Home insurance  €120.00
-  Pocket money     €90.00
-  Eating out       €79.28
-  Bus pass         €55.00
-  Electricity      €46.36
-  Internet         €34.90
-  Furniture        €30.62
-  Fitness studio   €29.90
-  Telephone        €24.90
-  Pharmacy          €4.10
   Income, EUR
-  Name                 Total
-  Salary           €2,850.00
-  Evening classes    €280.00
-  Interest             €5.20
   EUR
-  Span                       Income   Expenses    Saved  Savings rate
   2024-08-01..2024-09-30  €3,135.20  €2,147.63  €987.57  31.5 %
   1 USD is 0.5 EUR, typed by hand (TODAY)
   $ kiv report --in EUR --from 2024-08-01 --to 2024-09-30 | head -4
@@ -246,6 +185,3 @@ no rate stays apart.
   "USD"
   {"base":"USD","currency":"EUR","rate":"0.5","source":"typed"}
   ["USD","USD","USD","USD","USD"]
-  $ kiv report --in XYZ
-  kiv: 'XYZ' is not a currency; write its ISO 4217 code, like USD.
-  [2]

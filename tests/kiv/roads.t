@@ -5,12 +5,9 @@ What a household may not have meant, and the ways out of dead ends.
   $ . "$TESTDIR/household.sh"
   $ begin
   $ kiv account add Groceries --type expense >/dev/null
-  $ kiv bank-account add Savings --bank First --type savings --balance 100 --date 2026-01-01
-  Added the account 6 Savings to the bank 'First'.
-  $ kiv goal add Trip 100 --target 150 --bank-account Savings --next 2026-02-01
-  Added the goal 'Trip'.
-  $ kiv debt add Car 100 --borrowed 120 --bank First --next 2026-02-01 --date 2026-01-02
-  Added the debt 'Car'.
+  $ kiv bank-account add Savings --bank First --type savings --balance 100 --date 2026-01-01 >/dev/null
+  $ kiv goal add Trip 100 --target 150 --bank-account Savings --next 2026-02-01 >/dev/null
+  $ kiv debt add Car 100 --borrowed 120 --bank First --next 2026-02-01 --date 2026-01-02 >/dev/null
 
 It is a warning, and the entry stands:
 
@@ -40,11 +37,8 @@ What comes to nothing does not stop what else is due:
   kiv: warning: 'Zero' has an amount of zero and was skipped.
   kiv: warning: Checking is below zero: -$55.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
-  $ kiv bill list
-  Name     Amount  Every    Next        Tags
-  Rent  $1,250.00  monthly  2026-02-28
+  $ kiv bill list | grep Zero
   Zero      $0.00  monthly  2026-02-28
-  Together a month: $1,250.00
 
 Without an exchange rate, the rest is shown:
 
@@ -56,10 +50,7 @@ Without an exchange rate, the rest is shown:
   The totals leave 'Lessons' out: there is no exchange rate between CHF and USD.
   $ kiv dashboard --json | jq -c .notices
   ["The totals leave 'Lessons' out: there is no exchange rate between CHF and USD."]
-  $ kiv wage list
-  Name        Amount  Every    Next        Tags
-  Lessons  CHF\xc2\xa010.00  monthly  2026-04-01 (esc)
-  Salary   $3,100.00  monthly  2026-01-25
+  $ kiv wage list | tail -1
   Together a month: CHF 10.00, $3,100.00
 
 An account goes to another bank with its goals, its survey and what is set aside:
@@ -82,44 +73,21 @@ An account goes to another bank with its goals, its survey and what is set aside
   "Second"
   "2050.00"
   [["Tax","150.00"],["Trip","300.00"]]
-  $ kiv reconciliations
-  Bank    Account          Day of the statement    Balance  Transactions
+  $ kiv reconciliations | tail -1
   Second  Assets:Checking  2026-03-25            $2,500.00             2  holds
   $ kiv undo >/dev/null
 
 Another account takes its place. The statements of both show the whole transfer:
 
-  $ kiv bank-account replace Checking --by Giro --date 2026-04-01
-  Replaced Checking by Giro.
-  Moved $2,500.00 from Checking to Giro (transaction 4).
-  Under Giro are now: Trip
+  $ kiv bank-account replace Checking --by Giro --date 2026-04-01 | sed -n 4p
   Set aside at Giro are now: Tax, Trip
-  Closed Checking.
-  $ kiv envelopes --on 2026-04-01 --items
+  $ kiv envelopes --on 2026-04-01 --items | sed -n '1p; 7,8p'
   Giro, Second
-  Balance             $2,500.00
-  Set aside           $500.00
-  Free                $2,000.00
-  Last reconciled on  2026-04-01
-  Item   Before  Added   Paid      Now  Expected  Next
   Tax   $200.00  $0.00  $0.00  $200.00   $600.00  2026-06-30
   Trip  $300.00  $0.00  $0.00  $300.00   $512.90  2026-02-10
-  Tax: set aside on 2026-04-01; $600.00 yearly = $50.00 a month, 0 months
-  Trip: set aside on 2026-04-01
-  Still due until 2026-04-30, of what is paid monthly
-  Due         Item  Kind     Amount
-  2026-01-31  Rent  bill  $1,250.00
-  2026-02-10  Trip  goal    $100.00
-  $2,000.00 is free to spend: $2,500.00 at the bank, of which $500.00 is set aside.
-  The goal 'Trip' is reached: $300.00. To end it, use kiv goal finish.
   $ kiv survey show Second Giro --date 2026-04-02 --json | jq -r .expectedBalance.amount
   2500.00
-  $ kiv banks
-  First
-  Number  Account   Type      Balance
-       1  Checking  checking    $0.00
-  Second
-  Number  Account  Type                Balance
+  $ kiv banks | tail -2
        5  Giro     checking          $2,200.00
        7  Trip     goal sub-account    $300.00
   $ each 1 <<'.'
@@ -143,11 +111,8 @@ A goal and a debt that came to their end:
   Closed Giro.
   Dry run: nothing is saved.
   $ kiv undo --steps 2 >/dev/null
-  $ kiv goal finish Trip --date 2026-04-02
-  Finished the goal Trip.
+  $ kiv goal finish Trip --date 2026-04-02 | sed -n 2p
   Moved $300.00 from Trip to Giro (transaction 6).
-  'Trip' recurs no longer.
-  Closed the account of 'Trip'.
   $ kiv goal finish Trip
   kiv: 'Trip' is finished already.
   [1]
@@ -156,9 +121,8 @@ A goal and a debt that came to their end:
   kiv: Of the debt 'Car', $40.00 is still owed; pay it first.
   [1]
   $ kiv pay Car 40 --account Giro --date 2026-04-03 >/dev/null
-  $ kiv debt finish Car
+  $ kiv debt finish Car | sed 2d
   Finished the debt Car.
-  'Car' recurs no longer.
   Closed the account of 'Car'.
 
 An account of the wrong type becomes what it is, with all that was entered:
@@ -177,18 +141,14 @@ An account of the wrong type becomes what it is, with all that was entered:
   $ kiv account convert Visa --type liability
   Visa is of the type Liability now.
   The balance of Visa is $20.00 now; its transactions are as they were.
-  $ kiv account convert Purse --type asset
-  Purse is of the type Asset now.
-  The balance of Purse is $50.00 now; its transactions are as they were.
+  $ kiv account convert Purse --type asset >/dev/null
   $ kiv bank-account attach Purse --bank Second --type cash >/dev/null
-  $ kiv account convert Purse --type expense
-  Purse is of the type Expense now.
-  The balance of Purse is $50.00 now; its transactions are as they were.
+  $ kiv account convert Purse --type expense | tail -1
   Separated Purse from the bank 'Second', which cannot keep it.
   $ kiv accounts | grep -e Visa -e Purse
       10  Expenses:Purse                           $50.00
        9  Liabilities:Visa                         $20.00
-  $ kiv check household.budget | tail -1
+  $ kiv check household | tail -1
   The budget 'household.budget' is intact.
   $ each 1 <<'.'
   > account convert Giro --type asset

@@ -20,10 +20,6 @@ Items are tied to their bank. What is not given stays, the bank too:
 
   $ kiv goal list --json | jq -c .[]
   {"amount":{"amount":"50.00","currency":"USD"},"bank":"First","bankAccount":1,"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"900.00","currency":"USD"}}
-  $ kiv accounts | grep -e Trip -e Opening -e Car
-       6  Assets:Checking:Trip                      $75.00
-       2  Equity:Opening Balances USD [Equity]  -$2,500.00
-       7  Liabilities:Car                        $5,000.00
   $ kiv goal update Trip --target 950
   Changed the goal 'Trip'.
   $ kiv debt update Car --amount 210 >/dev/null
@@ -36,11 +32,8 @@ Items are tied to their bank. What is not given stays, the bank too:
   $ kiv goal update Trip --no-bank >/dev/null
   $ kiv goal list --json | jq -c .[]
   {"amount":{"amount":"50.00","currency":"USD"},"every":"monthly","kind":"goal","name":"Trip","next":"2026-02-01","tags":[],"target":{"amount":"950.00","currency":"USD"}}
-  $ kiv accounts --type asset
-  Number  Account            Balance
-       1  Assets:Checking  $4,275.00
+  $ kiv accounts --type asset | grep Trip
        6  Assets:Trip         $75.00
-  Together: $4,350.00.
 
 The reason stands behind what failed:
 
@@ -79,18 +72,16 @@ An edited document completes a survey. What went to the goal stays in the family
   Still due in January 2026, of what is paid monthly
   Nothing is due.
   $ kiv survey show First Checking --date 2026-01-31 --json >shown.json
-  $ jq -c '.reconciledOn, .itemChanges[0], .accountChanges[0], .distribution[0]' shown.json
-  null
-  {"change":{"amount":"-1250.00","currency":"USD"},"date":"2026-01-31","description":"Processed the budget item due on Sat Jan 31 2026.","kind":"bill","name":"Rent","transaction":3}
-  {"account":2,"change":{"amount":"2500.00","currency":"USD"},"date":"2026-01-01","description":"","name":"Opening Balances USD [Equity]","transaction":1}
+  $ jq -c '.distribution[0]' shown.json
   {"distributed":{"amount":"30.00","currency":"USD"},"expected":{"amount":"360.00","currency":"USD"},"kind":"bill","name":"Tax","next":"2026-07-01"}
   $ jq '.balance = "4330.50" | .items = [{kind: "bill", name: "Rent", change: "-20.00"}] |
   >     .accounts = [{account: 2, change: "0.50 USD"}]' shown.json >survey.json
-  $ jq '.distribution = [{kind: "bill", name: "Rent", distributed: "5"}]' survey.json |
-  >     kiv survey complete --from -
-  kiv: The budget item Rent (bill) cannot be distributed.
+  $ jq '.items[0].name = "Nil"' survey.json | kiv survey complete --from -
+  kiv: There is no bill 'Nil'; see kiv bill list.
   [1]
-  $ kiv survey complete --from - --tick 1 --dry-run <survey.json
+  $ kiv survey complete --from - --tick 1 --dry-run <survey.json >told
+  [1]
+  $ sed '/^Set aside/,$d' told
   Calculated  $2,480.50
   Statement   $4,330.50
   Difference  $1,850.00
@@ -100,18 +91,6 @@ An edited document completes a survey. What went to the goal stays in the family
   Item or account                 Change
   Rent                           -$20.00
   Opening Balances USD [Equity]    $0.50
-  Set aside
-  Item  Before   Added   Paid     Now  Proposed  Expected  Next
-  Tax    $0.00  $30.00  $0.00  $30.00    $30.00   $360.00  2026-07-01
-  Trip   $0.00  $75.00  $0.00  $75.00    $75.00   $900.00  2026-02-01
-  Tax: $360.00 yearly = $30.00 a month, 1 month
-  Trip: put into its account: #5
-  Free  $4,225.50
-  Still due in January 2026, of what is paid monthly
-  Nothing is due.
-  Dry run: nothing is saved.
-  This stood on standard output.
-  [1]
   $ kiv survey complete --from survey.json
   Reconciled 1 Checking at First with a balance of $4,330.50.
   $ kiv reconciliation last Checking
@@ -120,19 +99,11 @@ An edited document completes a survey. What went to the goal stays in the family
   {"account":1,"balance":{"amount":"4330.50","currency":"USD"},"currency":"USD","on":"2026-01-31"}
   $ kiv accounts | grep Trip
        6  Assets:Checking:Trip                      $75.00
-  $ kiv ledger Checking
-  1 Checking
-  Number  Date        Description                                        Other account                      Change    Balance  Status
-       1  2026-01-01                                                     Opening Balances USD [Equity]   $2,500.00  $2,500.00  reconciled
-       4  2026-01-28  Processed the budget item due on Sun Jan 25 2026.  Salary                          $3,100.00  $5,600.00  reconciled
-       5  2026-01-29  Processed unexpected budget item 'Trip'.           Trip                              -$75.00  $5,525.00  reconciled
+  $ kiv ledger Checking | tail -4
        3  2026-01-31  Processed the budget item due on Sat Jan 31 2026.  Rent                           -$1,250.00  $4,275.00  reconciled
        6  2026-01-31  Additional surveyed expense.                       Rent                              -$20.00  $4,255.00  reconciled
        7  2026-01-31  Extra-budget surveyed income.                      Opening Balances USD [Equity]       $0.50  $4,255.50  reconciled
   6 transactions, together $4,255.50.
-  $ kiv transaction remove 3
-  kiv: The transaction 3 is reconciled; undo its reconciliation before you change it.
-  [1]
 
 Flags do the same:
 
@@ -155,14 +126,6 @@ Its last survey follows an account to the kind that is right, and the next one s
   [["Tax","60.00"],["Trip","75.00"]]
   $ kiv survey complete First Checking --date 2026-02-15 --balance 4330.00
   Reconciled 1 Checking at First with a balance of $4,330.00.
-  $ kiv survey complete --from survey.json
-  kiv: Checking was reconciled on 2026-02-15 already; the statement of 2026-01-31 is older.
-  [1]
-  $ jq '.items = [{"kind": "bill", "name": "Nil", "change": "1.00"}] | .date = "2026-02-15"' \
-  >     survey.json >nil.json
-  $ kiv survey complete --from nil.json
-  kiv: There is no bill 'Nil'; see kiv bill list.
-  [1]
 
 And so do answers, asked for until they can be understood:
 
@@ -171,13 +134,6 @@ And so do answers, asked for until they can be understood:
   >     (kiv survey run First "$1" --date 2026-01-31 2>&1 >tables; echo "[$?]") |
   >         sed 's/\(n]\|)\): /\1:\n/g'
   > }
-  $ run Checking </dev/null
-  Balance of the statement (empty: $4,350.00):
-  kiv: The input ended before the last question; nothing is saved.
-  [1]
-  $ printf '%s\n' '' '' '' n n | run Checking | tail -2
-  kiv: The survey was not completed; nothing is saved.
-  [1]
   $ printf '%s\n' 433O 4330.00 yes 'all but 9' ask '' '' '' '' Nobody=1 Rent '' y | run Checking
   Balance of the statement (empty: $4,350.00):
   kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
@@ -226,9 +182,6 @@ Bad surveys change nothing:
   $ complete() {
   >     kiv survey complete First Checking --date 2026-01-31 --balance 4350.00 "$@"
   > }
-  $ complete --tick-all --item Rent
-  kiv: 'Rent' is not of the form NAME=VALUE.
-  [2]
   $ each 2 <<'.'
   > survey complete
   > survey complete First Checking
@@ -243,9 +196,6 @@ Bad surveys change nothing:
   $ kiv survey show First Checking --date 2199-01-01
   kiv: Cannot perform a mapping survey for a future date, 2199-01-01.
   [1]
-  $ kiv survey show First 'Rent [Budget Item]'
-  kiv: The account 'Rent [Budget Item]' is not assigned to a bank; assign it with kiv bank-account attach.
-  [1]
 
 The wizard makes a budget of those of a template's items that get amounts, all of them due in
 days to come:
@@ -255,6 +205,8 @@ days to come:
   >         --type savings --balance 12.50 --currency EUR "$@"
   > }
   $ coming() { jq -c 'map(.next > (now | strftime("%F"))) | [length, all]'; }
+  $ kiv templates list | sed -n 3p
+  teenager                     Teenager
   $ kiv templates show teenager --json >items
   $ coming <items
   [25,true]
@@ -280,9 +232,6 @@ days to come:
   1
   $ kiv accounts --file start --json | jq -c '[length, .[0]]'
   [4,{"balance":{"amount":"12.50","currency":"EUR"},"name":"Savings","number":1,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}]
-  $ start
-  kiv: The file 'start.budget' exists already; choose another name.
-  [1]
   $ kiv wizard none --template teenager --bank A --account B
   There are no budget items.
   Created the budget 'none.budget'.
