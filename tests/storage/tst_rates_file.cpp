@@ -5,13 +5,13 @@
 
 #include "storage/rates_file.h"
 
-#include <QtCore/QLockFile>
-#include <QtTest/QTest>
-
 using namespace kiv;
 using conversion::ConversionMap;
 using storage::RatesFile;
 using storage::StorageFailure;
+
+/// What is replaced in a file, by what, and how the file is refused.
+using Change = std::tuple<QByteArray, QByteArray, StorageFailure>;
 
 class RatesFileTest final : public QObject {
     Q_OBJECT
@@ -88,23 +88,17 @@ void RatesFileTest::whatIsInTheWayIsToldOf()
 
 void RatesFileTest::otherFilesAreRefused_data()
 {
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::addColumn<StorageFailure>("failure");
-    const auto row = [](const char *name, const QByteArray &from, const QByteArray &to,
-                        StorageFailure failure) { QTest::newRow(name) << from << to << failure; };
-    row("another kind", "kiv-exchange-rates", "kiv-exchange", StorageFailure::NotOurs);
-    row("newer", "rates 2", "rates 3", StorageFailure::Newer);
-    row("a rate changed", "151.42", "151.43", StorageFailure::Damaged);
-    row("no checksum", "sha256", "sha", StorageFailure::Damaged);
-    row("something behind it", "\nsha256", "\nsha256 \nsha256", StorageFailure::Damaged);
+    using enum StorageFailure;
+    test::addRows<Change>({{"another kind", {"kiv-exchange-rates", "kiv-exchange", NotOurs}},
+                           {"newer", {"rates 2", "rates 3", Newer}},
+                           {"a rate changed", {"151.42", "151.43", Damaged}},
+                           {"no checksum", {"sha256", "sha", Damaged}},
+                           {"something behind it", {"\nsha256", "\nsha256 \nsha256", Damaged}}});
 }
 
 void RatesFileTest::otherFilesAreRefused()
 {
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    QFETCH(StorageFailure, failure);
+    const auto [from, to, failure] = test::rowOf<Change>();
     const test::ScratchFolder folder;
     RatesFile file(folder.path(u"rates"_qs));
     file.store(someRates());

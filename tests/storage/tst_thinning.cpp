@@ -3,8 +3,6 @@
 
 #include "storage/internal/thinning.h"
 
-#include <QtTest/QTest>
-
 using namespace kiv::storage::internal;
 
 namespace {
