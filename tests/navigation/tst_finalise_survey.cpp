@@ -68,9 +68,6 @@ QStringList posted(const accounting::GeneralLedger &ledger)
 /// What is stated, and the answer to it.
 using Check = std::pair<std::function<void(StatedBooks &, Statement &)>, QString>;
 
-/// The transactions that are posted for what an account's statement has beside the books.
-using Posted = std::pair<BankAccount, QStringList>;
-
 /// The accounts of a transaction, and whether both its sides are reconciled.
 using Sides = std::tuple<std::uint32_t, std::uint32_t, bool>;
 
@@ -192,22 +189,23 @@ private slots:
 
     void whatIsMissingIsPosted_data()
     {
-        addRows<Posted>({{"asset",
-                          {at("First", 1, Checking),
-                           {u"1 from 6: 10.02 USD, Additional surveyed income."_qs,
-                            u"7 from 1: 20.00 USD, Additional surveyed expense."_qs,
-                            u"1 from 4: 30.00 USD, Extra-budget surveyed income."_qs,
-                            u"5 from 1: 40.00 USD, Extra-budget surveyed expense."_qs}}},
-                         {"liability",
-                          {at("First", 3, CreditCard),
-                           {u"6 from 3: 10.02 USD, Additional surveyed charges."_qs,
-                            u"3 from 7: 20.00 USD, Additional surveyed payments."_qs,
-                            u"4 from 3: 30.00 USD, Extra-budget surveyed charges."_qs,
-                            u"3 from 5: 40.00 USD, Extra-budget surveyed payments."_qs}}}});
+        addRows<std::pair<BankAccount, QStringList>>(
+            {{"asset",
+              {at("First", 1, Checking),
+               {u"1 from 6: 10.02 USD, Additional surveyed income."_qs,
+                u"7 from 1: 20.00 USD, Additional surveyed expense."_qs,
+                u"1 from 4: 30.00 USD, Extra-budget surveyed income."_qs,
+                u"5 from 1: 40.00 USD, Extra-budget surveyed expense."_qs}}},
+             {"liability",
+              {at("First", 3, CreditCard),
+               {u"6 from 3: 10.02 USD, Additional surveyed charges."_qs,
+                u"3 from 7: 20.00 USD, Additional surveyed payments."_qs,
+                u"4 from 3: 30.00 USD, Extra-budget surveyed charges."_qs,
+                u"3 from 5: 40.00 USD, Extra-budget surveyed payments."_qs}}}});
     }
     void whatIsMissingIsPosted()
     {
-        const auto [account, expected] = rowOf<Posted>();
+        const auto [account, expected] = rowOf<std::pair<BankAccount, QStringList>>();
         StatedBooks books;
         Statement statement;
         statement.account = account;

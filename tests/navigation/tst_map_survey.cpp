@@ -31,9 +31,6 @@ struct MappedBooks : SurveyBooks {
 /// The account that is surveyed, those of a transaction, and what the survey tells.
 using Posting = std::tuple<int, std::uint32_t, std::uint32_t, const char *>;
 
-/// When an item is due next, and what is expected.
-using Expected = std::pair<const char *, const char *>;
-
 } // namespace
 
 class MapSurveyTest : public QObject {
@@ -169,15 +166,16 @@ private slots:
 
     void anItemIsExpectedForEveryOccurrence_data()
     {
-        addRows<Expected>({{"a part of one", {"2026-09-30", "120"}},
-                           {"on the day", {"2026-03-30", "120"}},
-                           {"one", {"2027-03-30", "120"}},
-                           {"one and a half", {"2027-09-30", "180"}},
-                           {"one and a half missed", {"2024-09-30", "180"}}});
+        addRows<std::pair<const char *, const char *>>(
+            {{"a part of one", {"2026-09-30", "120"}},
+             {"on the day", {"2026-03-30", "120"}},
+             {"one", {"2027-03-30", "120"}},
+             {"one and a half", {"2027-09-30", "180"}},
+             {"one and a half missed", {"2024-09-30", "180"}}});
     }
     void anItemIsExpectedForEveryOccurrence()
     {
-        const auto [next, expected] = rowOf<Expected>();
+        const auto [next, expected] = rowOf<std::pair<const char *, const char *>>();
         MappedBooks books;
         books.items.update(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, day(next)),
                            *books.generator);

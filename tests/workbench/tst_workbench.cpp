@@ -10,9 +10,6 @@ using namespace kiv;
 using workbench::AccountIndex;
 using namespace Qt::Literals::StringLiterals;
 
-/// The names of accounts, and the paths by which they are found.
-using Paths = std::pair<QStringList, QStringList>;
-
 /// What the transcripts of the command do not reach, since it takes too many cases or
 /// no terminal.
 class TestWorkbench : public QObject {
@@ -21,7 +18,7 @@ class TestWorkbench : public QObject {
 private slots:
     void everyPathStandsForOneAccount_data()
     {
-        test::addRows<Paths>(
+        test::addRows<std::pair<QStringList, QStringList>>(
             {{"plain", {{u"Food"_s, u"Rent"_s}, {u"Food"_s, u"Rent"_s}}},
              {"the same name", {{u"Food"_s, u"Food"_s}, {u"Food 1"_s, u"Food 2"_s}}},
              {"alike once they are safe", {{u"A:B"_s, u"A-B"_s}, {u"A-B 1"_s, u"A-B 2"_s}}},
@@ -31,7 +28,7 @@ private slots:
     }
     void everyPathStandsForOneAccount()
     {
-        const auto [names, paths] = test::rowOf<Paths>();
+        const auto [names, paths] = test::rowOf<std::pair<QStringList, QStringList>>();
         std::set<accounting::Account> accounts;
         std::uint32_t number = 0;
         for (const QString &name : names)
