@@ -272,14 +272,12 @@ private slots:
 
     void everySequenceOfRequestsKeepsTheLedgerTrue_data()
     {
-        QTest::addColumn<bool>("hasOneCurrency");
-        QTest::newRow("one currency") << true;
-        QTest::newRow("two currencies") << false;
+        addRows<bool>({{"one currency", true}, {"two currencies", false}});
     }
 
     void everySequenceOfRequestsKeepsTheLedgerTrue()
     {
-        QFETCH(bool, hasOneCurrency);
+        const bool hasOneCurrency = rowOf<bool>();
         std::vector<int> accepted(kinds.size());
         std::vector<int> refused(kinds.size());
         const auto property = [&] {

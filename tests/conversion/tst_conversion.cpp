@@ -130,17 +130,13 @@ private slots:
         QCOMPARE(typed.updatedWith({}), typed);
     }
 
-    void aReplyHasATable()
+    void oneFaultRefusesTheWholeReply()
     {
         const QDateTime time(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
         QCOMPARE(readTable(sample), ConversionMap(usd, time,
                                                   {{eur, FloatingPoint("0.92")},
                                                    {gbp, FloatingPoint("0.79")},
                                                    {jpy, FloatingPoint("150.123456")}}));
-    }
-
-    void oneFaultRefusesTheWholeReply()
-    {
         // What is in the sample, and what takes its place.
         for (const auto &[good, bad] : std::initializer_list<std::pair<QByteArray, QByteArrayList>>{
                  {"'base'", {"'bass'"}},

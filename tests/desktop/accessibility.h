@@ -8,8 +8,8 @@ class QPalette;
 class QWidget;
 QT_END_NAMESPACE
 
-/// Judges of what people need who use keys alone, or who cannot see. Each gives one line for
-/// a fault, and none when all is well.
+/// Judges of what people need who use keys alone, or who cannot see, and of what is shown. Each
+/// gives one line for a fault, and none when all is well.
 namespace kiv::test {
 
 /// Focusable widgets without a name, headers and cells of tables that say nothing, in a
@@ -22,5 +22,9 @@ namespace kiv::test {
 [[nodiscard]] QStringList unreached(QWidget &root, QWidget &first);
 /// Pairs of colours with less contrast than is wanted.
 [[nodiscard]] QStringList pale(const QPalette &palette, double wanted);
+
+/// What does not fit in a shown widget and below: what is smaller than it needs to be, what
+/// lies over its neighbour, and buttons beyond the side of the window.
+[[nodiscard]] QStringList misfits(QWidget &root);
 
 } // namespace kiv::test

@@ -4,7 +4,7 @@
 #include "desktop/kiv_command.h"
 #include "main_window.h"
 #include "support/preferences_store.h"
-#include "support/scripted_sender.h"
+#include "support/surroundings.h"
 #include "wizards/first_time_wizard.h"
 
 #include <QtCore/QTemporaryDir>
@@ -88,11 +88,8 @@ public:
     explicit HouseholdWindow(ScriptedSender::Script script = ScriptedSender::json("{}"),
                              bool showsTerms = false)
         : m_settings(m_folder.filePath(QStringLiteral("window.ini"))),
-          m_document({[script = std::move(script)] {
-                          return kiv::foundation::UniqueQtPtr<kiv::networking::RequestSender>(
-                              new ScriptedSender(script));
-                      },
-                      m_folder.filePath(QStringLiteral("rates"))}),
+          m_document(kiv::test::surroundings(m_folder.filePath(QStringLiteral("rates")),
+                                             std::move(script))),
           m_window({m_document, m_settings, m_questions, m_keyring, showsTerms})
     {
     }
@@ -104,6 +101,14 @@ public:
     [[nodiscard]] kiv::desktop::WindowSettings &settings() noexcept { return m_settings; }
     [[nodiscard]] ScriptedQuestions &questions() noexcept { return m_questions; }
     [[nodiscard]] TestKeyring &keyring() noexcept { return m_keyring; }
+
+    [[nodiscard]] QStringList notices() { return m_window.desk().notices().texts(); }
+    /// An account's number, as places have it.
+    [[nodiscard]] QString number(const QString &account)
+    {
+        return kiv::accounting::presentationText(
+            requests().accounts().find(account).code().number());
+    }
 
     /// Opens the household at the end of February; see KivCommand::makeHousehold().
     void openHousehold()
@@ -167,6 +172,23 @@ public:
             QCoreApplication::processEvents();
             look(*wizard, *wizard->firstFocus(),
                  QStringLiteral("wizard %1").arg(static_cast<int>(step) + 1));
+        }
+    }
+    /// What gets the keys. A list of names that is open takes all of them; when it has
+    /// closed, a desktop makes the window active again, and here nobody else does.
+    QWidget *keyTarget()
+    {
+        if (QWidget *popup = QApplication::activePopupWidget())
+            return popup;
+        QApplication::setActiveWindow(&m_window);
+        return QApplication::focusWidget();
+    }
+    /// Types letter by letter, each to what gets the keys then.
+    void type(const QString &text)
+    {
+        for (const QChar letter : text) {
+            QTest::keyClick(keyTarget(), letter.toLatin1());
+            QCoreApplication::processEvents();
         }
     }
     /// Triggers an action as its keys do.

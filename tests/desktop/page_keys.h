@@ -8,7 +8,7 @@
 #include "foundation/presentation.h"
 
 #include <QtTest/QAbstractItemModelTester>
-#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QtWidgets>
 
 /// How tests use a page: its keys, and what it shows.
 namespace kiv::test {
@@ -27,19 +27,29 @@ inline desktop::Table &table(HouseholdWindow &home, const char *name = "")
     return *home.window().page()->findChild<desktop::Table *>(QLatin1String(name));
 }
 /// The texts of a column.
-inline QStringList texts(HouseholdWindow &home, int column, const char *name = "")
+inline QStringList texts(const QAbstractItemModel &model, int column)
 {
-    const QAbstractItemModel &model = *table(home, name).model();
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row)
         texts += model.index(row, column).data().toString();
     return texts;
+}
+inline QStringList texts(HouseholdWindow &home, int column, const char *name = "")
+{
+    return texts(*table(home, name).model(), column);
 }
 /// A field or button of the page.
 template <typename Widget>
 Widget &part(HouseholdWindow &home, const char *name)
 {
     return *home.window().page()->findChild<Widget *>(QLatin1String(name));
+}
+/// Whether a label of the page has this text.
+inline bool says(HouseholdWindow &home, const QString &text)
+{
+    const auto labels = home.window().page()->findChildren<QLabel *>();
+    return std::ranges::any_of(
+        labels, [&text](const QLabel *label) { return label->text().contains(text); });
 }
 /// What is refused on the page; empty if nothing is.
 inline QString message(HouseholdWindow &home)
@@ -64,6 +74,32 @@ inline void press(HouseholdWindow &home, Qt::Key key, Qt::KeyboardModifiers modi
 inline void type(HouseholdWindow &, const QString &text)
 {
     QTest::keyClicks(QApplication::focusWidget(), text);
+}
+/// Types the text in place of what the field has, or chooses it in its box.
+inline void enter(HouseholdWindow &home, const QString &text)
+{
+    auto *box = qobject_cast<QComboBox *>(QApplication::focusWidget());
+    if (auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget())) {
+        edit->clear();
+    } else if (box && box->isEditable()) {
+        box->clearEditText();
+    } else if (box) {
+        press(home, Qt::Key_Home);
+        for (int left = box->count(); left > 0 && !box->currentText().startsWith(text); --left)
+            press(home, Qt::Key_Down);
+        return;
+    }
+    type(home, text);
+}
+/// Presses keys in turn: "Alt+N; Alt+A=20; Return" with 20 for what the field of Alt+A has.
+inline void keys(HouseholdWindow &home, const QString &steps)
+{
+    for (const QString &step : steps.split(u"; "_qs)) {
+        const QKeyCombination combination = QKeySequence(step.section(u'=', 0, 0))[0];
+        press(home, combination.key(), combination.keyboardModifiers());
+        if (step.contains(u'='))
+            enter(home, step.section(u'=', 1));
+    }
 }
 
 } // namespace kiv::test

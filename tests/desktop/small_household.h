@@ -35,10 +35,12 @@ public:
     }
 
     template <kiv::budgeting::BudgetItem Item>
-    void addItem(const char *name, const char *each, QDate next, const char *extra = nullptr)
+    void addItem(const char *name, const char *each, QDate next, const char *extra = nullptr,
+                 std::optional<kiv::budgeting::EventFrequency> every = std::nullopt)
     {
         kiv::workbench::ItemValues values;
         values.amount = amount(each);
+        values.every = every;
         values.next = next;
         if (extra)
             values.extra = amount(extra);

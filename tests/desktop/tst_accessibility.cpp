@@ -8,7 +8,6 @@
 
 #include "workbench/entry/user_locale.h"
 
-#include <QtCore/QTranslator>
 #include <QtWidgets/QtWidgets>
 
 using namespace kiv;

@@ -144,35 +144,17 @@ private:
             press(text);
     }
 
-    // ---- keys ----------------------------------------------------------------------
-
-    /// What gets the keys. A list of names that is open takes all of them; when it has
-    /// closed, a desktop makes the window active again, and here nobody else does.
-    QWidget *target()
-    {
-        if (QWidget *popup = QApplication::activePopupWidget())
-            return popup;
-        QApplication::setActiveWindow(&m_desk.window());
-        return QApplication::focusWidget();
-    }
     /// Presses keys. A button with a letter goes up a moment later.
     void press(const QString &text)
     {
         const QKeyCombination keys = QKeySequence(text)[0];
-        QTest::keyClick(target(), keys.key(), keys.keyboardModifiers());
+        QTest::keyClick(m_desk.keyTarget(), keys.key(), keys.keyboardModifiers());
         QCoreApplication::processEvents();
         const auto isDown = [](const QAbstractButton *button) {
             return button->isVisible() && button->isDown();
         };
         QTRY_VERIFY(
             std::ranges::none_of(m_desk.window().findChildren<QAbstractButton *>(), isDown));
-    }
-    void type(const QString &text)
-    {
-        for (const QChar letter : text) {
-            QTest::keyClick(target(), letter.toLatin1());
-            QCoreApplication::processEvents();
-        }
     }
     /// A field with a letter, or one that keys open: the palette and the search.
     void fill(const QString &keys, QString text)
@@ -189,7 +171,7 @@ private:
         }
         press(u"Ctrl+A"_s);
         press(u"Del"_s);
-        type(text);
+        m_desk.type(text);
         if (!keys.startsWith(u"Alt+"))
             press(u"Return"_s);
         else if (QApplication::activePopupWidget())
@@ -236,8 +218,6 @@ private:
         for (int left = steps; left > 0; --left)
             press(u"Ctrl+Shift+Z"_s);
     }
-
-    // ---- what is shown ---------------------------------------------------------------
 
     static QString rowText(const QAbstractItemModel &model, int row)
     {

@@ -3,11 +3,6 @@
 
 #include "desktop/page_keys.h"
 
-#include <QtCore/QDir>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-
 using namespace kiv;
 using namespace Qt::StringLiterals;
 using test::message;

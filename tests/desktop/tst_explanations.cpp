@@ -3,12 +3,12 @@
 
 #include "desktop/page_keys.h"
 
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
+
+/// A row of the page of this name, and what the lines of its explanation begin with.
+using Explained = std::tuple<QString, QStringList, QStringList>;
 
 /// Balances of a day, and why a number is what it is.
 class TestExplanations : public QObject {
@@ -17,34 +17,29 @@ class TestExplanations : public QObject {
 private slots:
     void f9ExplainsTheNumberThatIsChosen_data()
     {
-        QTest::addColumn<QString>("row");
-        QTest::addColumn<QStringList>("whats");
-        QTest::addColumn<QStringList>("amounts");
-        QTest::newRow("home") << QString()
-                              << QStringList{u"Free to spend in USD: "_s + dollars("3000"),
-                                             u"Balance of Checking"_s}
-                              << QStringList{u""_s, dollars("3000")};
-        QTest::newRow("accounts") << u"Checking"_s << QStringList{u"Opening balance"_s}
-                                  << QStringList{dollars("3000")};
-        QTest::newRow("due") << u"bill:Phone"_s
-                             << QStringList{u"Balance of Checking"_s, u"Rent"_s, u"Phone"_s}
-                             << QStringList{dollars("3000"), dollars("-900"), dollars("-20")};
-        QTest::newRow("items") << u"Rent"_s << QStringList{u"monthly"_s}
-                               << QStringList{dollars("900")};
-        QTest::newRow("survey") << QString()
-                                << QStringList{u"Balance of the statement"_s,
-                                               u"the window of 2.75 %"_s}
-                                << QStringList{dollars("3000"), u"× 0.0275"_s};
+        addRows<Explained>(
+            {{"home",
+              {{},
+               {u"Free to spend in USD: "_s + dollars("3000"), u"Balance of Checking"_s},
+               {u""_s, dollars("3000")}}},
+             {"accounts", {u"Checking"_s, {u"Opening balance"_s}, {dollars("3000")}}},
+             {"due",
+              {u"bill:Phone"_s,
+               {u"Balance of Checking"_s, u"Rent"_s, u"Phone"_s},
+               {dollars("3000"), dollars("-900"), dollars("-20")}}},
+             {"items", {u"Rent"_s, {u"monthly"_s}, {dollars("900")}}},
+             {"survey",
+              {{},
+               {u"Balance of the statement"_s, u"the window of 2.75 %"_s},
+               {dollars("3000"), u"× 0.0275"_s}}}});
     }
     void f9ExplainsTheNumberThatIsChosen()
     {
-        QFETCH(QString, row);
-        QFETCH(QStringList, whats);
-        QFETCH(QStringList, amounts);
+        auto [row, whats, amounts] = rowOf<Explained>();
         SmallHousehold home;
         show(home, QTest::currentDataTag());
         if (row == u"Checking"_s)
-            row = QString::number(home.requests().accounts().find(row).code().number().integer());
+            row = home.number(row);
         if (!row.isEmpty())
             table(home).choose(row);
         QWidget *const before = QApplication::focusWidget();
@@ -61,8 +56,7 @@ private slots:
     {
         SmallHousehold home;
         show(home, "accounts");
-        table(home).choose(QString::number(
-            home.requests().accounts().find(u"Checking"_s).code().number().integer()));
+        table(home).choose(home.number(u"Checking"_s));
         QSignalSpy places(&home.window().desk(), &desktop::Desk::placeWanted);
         home.trigger("explain");
         press(home, Qt::Key_Return);
@@ -113,11 +107,7 @@ private:
     /// The texts of a column of the panel.
     static QStringList shown(HouseholdWindow &home, int column)
     {
-        const auto &model = *panel(home).findChild<desktop::Table *>()->model();
-        QStringList texts;
-        for (int row = 0; row < model.rowCount(); ++row)
-            texts += model.index(row, column).data().toString();
-        return texts;
+        return texts(*panel(home).findChild<desktop::Table *>()->model(), column);
     }
 };
 

@@ -32,7 +32,7 @@ private slots:
         home.questions().choices = {0};
         home.questions().files = {home.path(u"missing/out.journal"_s)};
         home.trigger("export");
-        QVERIFY(home.window().desk().notices().texts().join(u' ').contains(u"Cannot write"_s));
+        QVERIFY(home.notices().join(u' ').contains(u"Cannot write"_s));
     }
 
     void theFileIsChecked()
@@ -60,10 +60,10 @@ private slots:
         home.questions().files = {first, home.path(u"other.budget"_s)};
         home.trigger("saveAs");
         QCOMPARE(home.document().file(), first); // it is there already
-        QCOMPARE(home.window().desk().notices().texts().size(), 1);
+        QCOMPARE(home.notices().size(), 1);
         home.trigger("saveAs");
         QCOMPARE(home.document().file(), home.path(u"other.budget"_s));
-        QCOMPARE(home.window().desk().notices().texts(), QStringList());
+        QCOMPARE(home.notices(), QStringList());
     }
 
     void everyPageHasItsPartOfTheManual()
@@ -86,7 +86,7 @@ private slots:
         Response answer = Response::failed(u"No network."_s);
         SmallHousehold home([&answer](const QUrl &) { return std::optional(answer); });
         home.begin();
-        const auto notices = [&home] { return home.window().desk().notices().texts(); };
+        const auto notices = [&home] { return home.notices(); };
         emit home.document().navigator().updateReleased({9, 0, 0});
         QCOMPARE(notices(), QStringList{u"There is a newer release: 9.0.0."_s});
         home.trigger("releaseNotes");

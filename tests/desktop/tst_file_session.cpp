@@ -8,10 +8,6 @@
 
 #include "storage/budget_file.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
-#include <QtCore/QTimer>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
@@ -62,8 +58,8 @@ private slots:
         desk.questions().files = {desk.path(u"home"_s)};
         desk.trigger("new");
         QVERIFY(has(desk.document(), u"Food"_s));
-        QCOMPARE(notices(desk).size(), 1);
-        QVERIFY(notices(desk).first().contains(u"home.budget"_s));
+        QCOMPARE(desk.notices().size(), 1);
+        QVERIFY(desk.notices().first().contains(u"home.budget"_s));
     }
 
     void closingWritesWhatIsPending()
@@ -101,9 +97,9 @@ private slots:
         damaged.close();
         QVERIFY(!desk.window().open(damaged.fileName()));
         QVERIFY(has(desk.document(), u"Rent"_s));
-        QVERIFY(notices(desk).join(u' ').contains(u"damaged.budget"_s));
+        QVERIFY(desk.notices().join(u' ').contains(u"damaged.budget"_s));
         QVERIFY(!desk.window().open(desk.path(u"none.budget"_s)));
-        QVERIFY(notices(desk).join(u' ').contains(u"none.budget"_s));
+        QVERIFY(desk.notices().join(u' ').contains(u"none.budget"_s));
     }
 
     void changesCanBeGivenUpForAnotherFile()
@@ -126,13 +122,11 @@ private slots:
 
     void aDamagedFileIsBroughtBack_data()
     {
-        QTest::addColumn<QString>("way");
-        QTest::newRow("the newest") << u"Bring the newest whole version back"_s;
-        QTest::newRow("one that is chosen") << u"Look at former versions"_s;
+        kiv::test::addRows<QString>({{"the newest", u"Bring the newest whole version back"_s},
+                                     {"one that is chosen", u"Look at former versions"_s}});
     }
     void aDamagedFileIsBroughtBack()
     {
-        QFETCH(QString, way);
         HouseholdWindow desk;
         begin(desk, u"lost"_s); // which keeps a former version
         begin(desk, u"home"_s);
@@ -140,12 +134,12 @@ private slots:
         QVERIFY(QFile::resize(file, QFileInfo(file).size() - 1));
         QVERIFY(!desk.window().open(file));
         QVERIFY(has(desk.document(), u"Rent"_s));
-        auto *choice = buttonOfNotice(desk, way);
+        auto *choice = buttonOfNotice(desk, kiv::test::rowOf<QString>());
         QVERIFY(choice);
         desk.questions().choices = {0};
         choice->click();
         QCOMPARE(desk.window().windowTitle(), u"lost (saved)"_s);
-        QCOMPARE(notices(desk), QStringList());
+        QCOMPARE(desk.notices(), QStringList());
         QVERIFY(!has(desk.document(), u"Rent"_s)); // the version before it
     }
 
@@ -181,7 +175,7 @@ private slots:
             QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
         addAccount(desk.document(), u"Food"_s);
         QTRY_COMPARE(desk.window().windowTitle(), u"home (not saved)"_s);
-        QCOMPARE(notices(desk).size(), 1);
+        QCOMPARE(desk.notices().size(), 1);
         addAccount(desk.document(), u"Books"_s); // work goes on
         QVERIFY(has(desk.document(), u"Food"_s) && has(desk.document(), u"Books"_s));
 
@@ -199,8 +193,8 @@ private slots:
         QVERIFY(isFull || QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
         desk.trigger("save");
         QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
-        QCOMPARE(notices(desk).size(), 1); // of the file that was not there
-        QVERIFY(notices(desk).first().contains(u"none.budget"_s));
+        QCOMPARE(desk.notices().size(), 1); // of the file that was not there
+        QVERIFY(desk.notices().first().contains(u"none.budget"_s));
         QCOMPARE(savedAccounts(desk.path(u"disk/home.budget"_s)),
                  (QStringList{u"Rent"_s, u"Food"_s, u"Books"_s}));
     }
@@ -270,20 +264,16 @@ private slots:
 
     void allKeysAreListedAndFound_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("first");
         const QString undo = u"Undo  –  Ctrl+Z  –  There is nothing to undo."_s;
-        QTest::newRow("a name") << u"undo"_s << undo;
-        QTest::newRow("keys") << u"ctrl+z"_s << undo;
-        QTest::newRow("keys of a part")
-            << u"space TICK"_s << u"In a survey: tick the row, and go down  –  Space"_s;
-        QTest::newRow("an action without keys") << u"dark"_s << u"Dark"_s;
-        QTest::newRow("nothing") << u"ctrl+nothing"_s << QString();
+        kiv::test::addRows<QString>(
+            {{"undo", undo},
+             {"ctrl+z", undo},
+             {"space TICK", u"In a survey: tick the row, and go down  –  Space"_s},
+             {"dark", u"Dark"_s},
+             {"ctrl+nothing", {}}});
     }
     void allKeysAreListedAndFound()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, first);
         HouseholdWindow desk;
         desk.questions().files = {desk.path(u"home"_s)};
         desk.trigger("new");
@@ -296,8 +286,9 @@ private slots:
         for (const QAction *one : desk.window().desk().actions().all())
             QVERIFY2(!list->findItems(one->iconText(), Qt::MatchStartsWith).isEmpty(),
                      qPrintable(one->iconText()));
-        QTest::keyClicks(QApplication::focusWidget(), typed);
-        QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(), first);
+        QTest::keyClicks(QApplication::focusWidget(), QLatin1String(QTest::currentDataTag()));
+        QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(),
+                 kiv::test::rowOf<QString>());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!list->isVisible());
         QCOMPARE(QApplication::focusWidget(), before);
@@ -320,10 +311,6 @@ private:
         addAccount(desk.document(), u"Rent"_s);
         desk.trigger("save");
         desk.questions().asked.clear();
-    }
-    static QStringList notices(HouseholdWindow &desk)
-    {
-        return desk.window().desk().notices().texts();
     }
     /// The names of the expense accounts in the file.
     static QStringList savedAccounts(const QString &file)

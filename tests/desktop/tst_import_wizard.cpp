@@ -5,8 +5,6 @@
 
 #include "workbench/statements/import_memory.h"
 
-#include <QtWidgets/QtWidgets>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
@@ -35,6 +33,9 @@ QByteArray card(const QByteArray &number)
            "</BANKTRANLIST></CCSTMTRS></CCSTMTTRNRS></CREDITCARDMSGSRSV1></OFX>";
 }
 
+/// A file, the field at which it is refused, and what is said there.
+using Unread = std::tuple<QString, QByteArray, const char *, QString>;
+
 } // namespace
 
 /// Files of banks, imported by keys.
@@ -56,8 +57,7 @@ private slots:
         QCOMPARE(figures(home), u"4 new, 1 already there, 2 to look at"_s);
         QVERIFY(part<QWidget>(home, "import").toolTip().contains(u"2 entries"));
         // Those to look at: the first is said, and the other follows it.
-        press(home, Qt::Key_S, Qt::AltModifier);
-        press(home, Qt::Key_End);
+        keys(home, u"Alt+S; End"_s);
         table(home, "entries").setFocus();
         press(home, Qt::Key_Return);
         type(home, u"Nowhere"_s);
@@ -67,8 +67,7 @@ private slots:
         type(home, QString(7, QChar(8)) + u"Pocket"_s);
         press(home, Qt::Key_M, Qt::AltModifier);
         QCOMPARE(texts(home, 5, "entries"), QStringList());
-        press(home, Qt::Key_S, Qt::AltModifier);
-        press(home, Qt::Key_Home);
+        keys(home, u"Alt+S; Home"_s);
         QCOMPARE(texts(home, 5, "entries").mid(3), QStringList({u"Pocket"_s, u"Pocket"_s}));
         table(home, "entries").setFocus();
         table(home, "entries").choose(u"4"_s);
@@ -80,7 +79,7 @@ private slots:
         const auto after = home.requests().transactions();
         QCOMPARE(after.size(), before.size() + 3);
         QCOMPARE(home.window().page()->detail(),
-                 number(home, u"Checking"_s) + u'/' +
+                 home.number(u"Checking"_s) + u'/' +
                      presentationText(*after[before.size()].number()));
         QVERIFY(said(home).contains(u"3 new, 1 already there"));
         QCOMPARE(workbench::ImportMemory::of(home.document().notes()).learned.size(), 1U);
@@ -108,13 +107,7 @@ private slots:
                                  "03/04/2026;Kiosk;-7,50;1092,50\n05/04/2026;Fee;-1,00;1091,50\n";
         import(home, april, u"columns"_s);
         QVERIFY(!message(home).isEmpty());
-        for (const auto &[letter, choice] : {std::pair(Qt::Key_D, u"When"_s),
-                                             {Qt::Key_A, u"Paid"_s},
-                                             {Qt::Key_X, u"What"_s},
-                                             {Qt::Key_R, u"03/04/2026 is 3 April"_s}}) {
-            press(home, letter, Qt::AltModifier);
-            choose(choice);
-        }
+        keys(home, u"Alt+D=When; Alt+A=Paid; Alt+X=What; Alt+R=03/04/2026 is 3 April"_s);
         press(home, Qt::Key_N, Qt::AltModifier);
         QCOMPARE(message(home), QString());
         QCOMPARE(texts(home, 3, "entries"), QStringList({u"Kiosk"_s, u"Fee"_s}));
@@ -122,9 +115,7 @@ private slots:
                  foundation::presentationText(QDate(2026, 4, 3)));
         for (const int row : {0, 1}) {
             table(home, "entries").selectRow(row);
-            press(home, Qt::Key_I, Qt::AltModifier);
-            type(home, u"Fees"_s);
-            press(home, Qt::Key_Return);
+            keys(home, u"Alt+I=Fees; Return"_s);
         }
         press(home, Qt::Key_P, Qt::AltModifier);
         QCOMPARE(home.requests().transactions().size(), before.size() + 2);
@@ -142,25 +133,22 @@ private slots:
         press(home, Qt::Key_N, Qt::AltModifier);
         QCOMPARE(texts(home, 2, "entries"), QStringList({u"Already there"_s, u"New"_s}));
         // The purchase that was typed is parted from its entry, and found again by hand.
-        press(home, Qt::Key_W, Qt::AltModifier);
-        press(home, Qt::Key_Down);
+        keys(home, u"Alt+W; Down"_s);
         QCOMPARE(figures(home), u"2 new, 0 already there"_s);
-        press(home, Qt::Key_Down);
-        press(home, Qt::Key_P, Qt::AltModifier);
+        keys(home, u"Down; Alt+P"_s);
         QCOMPARE(home.requests().transactions().size(), before.size() + 1);
         // Its number is known from now on, and another one is agreed to first.
         home.beginImport(u"card.ofx"_s, card("4711"), "");
         QCOMPARE(figures(home), u"0 new, 2 already there"_s);
         home.questions().files = {home.write(u"card.ofx"_s, card("0815"))};
-        home.window().goTo({u"register"_s, number(home, u"Card"_s)});
+        home.window().goTo({u"register"_s, home.number(u"Card"_s)});
         part<QWidget>(home, "import").setFocus();
         press(home, Qt::Key_Space);
         QVERIFY(part<QWidget>(home, "agreed").hasFocus());
         QVERIFY2(message(home).contains(u"4711"), qPrintable(message(home)));
         press(home, Qt::Key_N, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());
-        press(home, Qt::Key_M, Qt::AltModifier);
-        press(home, Qt::Key_N, Qt::AltModifier);
+        keys(home, u"Alt+M; Alt+N"_s);
         QCOMPARE(home.window().page()->detail(), u"rows"_s);
         // What changes the books meanwhile is compared anew.
         QCOMPARE(figures(home), u"2 new, 0 already there"_s);
@@ -171,24 +159,17 @@ private slots:
 
     void whatCannotBeReadIsToldAtItsField_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("sentence");
-        QTest::newRow("no file") << u""_s << QByteArray() << u"bankFile"_s << u""_s;
-        QTest::newRow("unknown") << u"a.bin"_s << QByteArray("What?") << u"kind"_s << u""_s;
-        QTest::newRow("broken") << u"a.ofx"_s << card("1").replace("-12.00", "many")
-                                << u"bankFile"_s << u"many"_s;
-        QTest::newRow("no table") << u"a.csv"_s << QByteArray("One\nTwo\n") << u"day"_s << u""_s;
-        QTest::newRow("journal") << u"a.journal"_s << QByteArray("2026-03-01 Open\n  Food  2 USD\n")
-                                 << u"bankFile"_s << u"line 1"_s;
+        addRows<Unread>(
+            {{"no file", {{}, {}, "bankFile", {}}},
+             {"unknown", {u"a.bin"_s, "What?", "kind", {}}},
+             {"broken", {u"a.ofx"_s, card("1").replace("-12.00", "many"), "bankFile", u"many"_s}},
+             {"no table", {u"a.csv"_s, "One\nTwo\n", "day", {}}},
+             {"journal",
+              {u"a.journal"_s, "2026-03-01 Open\n  Food  2 USD\n", "bankFile", u"line 1"_s}}});
     }
     void whatCannotBeReadIsToldAtItsField()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, field);
-        QFETCH(QString, sentence);
+        const auto [name, bytes, field, sentence] = rowOf<Unread>();
         HouseholdWindow home;
         const auto before = begin(home);
         home.trigger("page import");
@@ -197,7 +178,7 @@ private slots:
         press(home, Qt::Key_Return);
         QVERIFY2(!message(home).isEmpty() && message(home).contains(sentence),
                  qPrintable(message(home)));
-        QVERIFY(part<QWidget>(home, field.toLatin1().constData()).hasFocus());
+        QVERIFY(part<QWidget>(home, field).hasFocus());
         QCOMPARE(part<QLineEdit>(home, "bankFile").text(), path);
         QVERIFY(home.requests().transactions() == before);
     }
@@ -231,8 +212,7 @@ private slots:
             press(home, Qt::Key_N, Qt::AltModifier);
             type(home, text);
             if (text == u"(") {
-                press(home, Qt::Key_R, Qt::AltModifier);
-                press(home, Qt::Key_Return);
+                keys(home, u"Alt+R; Return"_s);
                 QVERIFY(part<QWidget>(home, "text").hasFocus());
                 QVERIFY(!message(home).isEmpty());
                 part<QLineEdit>(home, "text").setText(u"^mar.et"_s);
@@ -249,9 +229,7 @@ private slots:
         QCOMPARE(texts(home, 0), QStringList({u"kiosk"_s, u"^mar.et"_s}));
         press(home, Qt::Key_U, Qt::AltModifier);
         QCOMPARE(texts(home, 0), QStringList({u"^mar.et"_s, u"kiosk"_s}));
-        press(home, Qt::Key_Y, Qt::AltModifier);
-        type(home, u"A kiosk"_s);
-        press(home, Qt::Key_M, Qt::AltModifier);
+        keys(home, u"Alt+Y=A kiosk; Alt+M"_s);
         for (const auto &[amount, fits] : {std::pair(u"4"_s, false), {u"5"_s, true}}) {
             part<QLineEdit>(home, "amount").setText(amount);
             press(home, Qt::Key_Return);
@@ -278,27 +256,12 @@ private:
         home.show();
         return home.requests().transactions();
     }
-    static QString number(HouseholdWindow &home, const QString &account)
-    {
-        return accounting::presentationText(
-            home.requests().accounts().find(account).code().number());
-    }
     /// Into the checking account.
     static void import(HouseholdWindow &home, const QByteArray &bytes,
                        const QString &step = u"rows"_s)
     {
         home.beginImport(u"march.csv"_s, bytes);
         QVERIFY2(home.window().page()->detail() == step, qPrintable(message(home)));
-    }
-    /// One of the answers of the box that has the focus.
-    static void choose(const QString &answer)
-    {
-        auto *box = qobject_cast<QComboBox *>(QApplication::focusWidget());
-        QVERIFY(box);
-        QTest::keyClick(box, Qt::Key_Home);
-        for (int left = box->count(); left > 0 && !box->currentText().startsWith(answer); --left)
-            QTest::keyClick(box, Qt::Key_Down);
-        QVERIFY2(box->currentText().startsWith(answer), qPrintable(answer));
     }
     static QString figures(HouseholdWindow &home) { return part<QLabel>(home, "figures").text(); }
     static QString said(HouseholdWindow &home)

@@ -6,33 +6,26 @@
 #include "workbench/document/bank_steps.h"
 #include "workbench/surveys/survey_form.h"
 
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
+
+/// A place, a field of its form, the field's letter, and what is refused there.
+using Wrong = std::tuple<const char *, const char *, Qt::Key, const char *>;
 
 /// The pages on which the household's items, banks and accounts are kept, used by keys.
 class TestItemsPage : public QObject {
     Q_OBJECT
 
 private slots:
-    // ---- items -------------------------------------------------------------------
-
     void anItemIsAddedChangedRenamedAndRemoved()
     {
         SmallHousehold home;
         show(home, "items");
         const auto before = home.document().present();
-        press(home, Qt::Key_N, Qt::AltModifier);
-        fill(home, {{Qt::Key_N, u"Gym"_s},
-                    {Qt::Key_A, u"20+10"_s},
-                    {Qt::Key_W, u"quarterly"_s},
-                    {Qt::Key_X, u"2027-01-31"_s},
-                    {Qt::Key_M, u"fun, \"a, \"\"b\"\"\""_s}});
-        press(home, Qt::Key_Return);
+        keys(
+            home,
+            u"Alt+N; Alt+N=Gym; Alt+A=20+10; Alt+W=quarterly; Alt+X=2027-01-31; Alt+M=fun, \"a, \"\"b\"\"\"; Return"_s);
         QCOMPARE(row(home), (QStringList{u"Gym"_s, dollars("30"), u"quarterly"_s, day(2027, 1, 31),
                                          dollars("10"), dollars("0"), u"\"a, \"\"b\"\"\", fun"_s}));
         QVERIFY(table(home).hasFocus());
@@ -40,9 +33,7 @@ private slots:
         const budgeting::BudgetItemIdentifier gym{budgeting::BudgetItemTypes::Bill,
                                                   budgeting::BudgetSource(u"Gym"_s)};
         QVERIFY(home.document().present().itemTags.tags(gym).contains(tagging::Tag(u"a, \"b\""_s)));
-        press(home, Qt::Key_F2);
-        fill(home, {{Qt::Key_N, u"Sport"_s}, {Qt::Key_A, u"33"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"F2; Alt+N=Sport; Alt+A=33; Return"_s);
         QCOMPARE(row(home).mid(0, 4),
                  (QStringList{u"Sport"_s, dollars("33"), u"quarterly"_s, day(2027, 1, 31)}));
         press(home, Qt::Key_Delete);
@@ -59,11 +50,7 @@ private slots:
         SmallHousehold home;
         show(home, "items");
         goTo(home, "items/goal/new");
-        fill(home, {{Qt::Key_N, u"Car"_s},
-                    {Qt::Key_A, u"100"_s},
-                    {Qt::Key_O, u"400"_s},
-                    {Qt::Key_B, u"Checking"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+N=Car; Alt+A=100; Alt+O=400; Alt+B=Checking; Return"_s);
         QCOMPARE(row(home)[5], u"%1 of %2 (0 %)"_s.arg(dollars("0"), dollars("400")));
         move(home, "Car", "Checking", "103.99");
         QCOMPARE(row(home)[5], u"%1 of %2 (25 %)"_s.arg(dollars("103.99"), dollars("400")));
@@ -80,13 +67,9 @@ private slots:
         QCOMPARE(home.requests().accounts().find(u"Car"_s).code().parent(),
                  home.requests().accounts().find(u"Checking"_s).code().number());
         goTo(home, "items/debt/new");
-        fill(home, {{Qt::Key_N, u"Loan"_s},
-                    {Qt::Key_A, u"50"_s},
-                    {Qt::Key_O, u"1000"_s},
-                    {Qt::Key_D, u"2026-01-05"_s},
-                    {Qt::Key_B, u"First"_s},
-                    {Qt::Key_K, u"line of credit"_s}});
-        press(home, Qt::Key_Return);
+        keys(
+            home,
+            u"Alt+N=Loan; Alt+A=50; Alt+O=1000; Alt+D=2026-01-05; Alt+B=First; Alt+K=line of credit; Return"_s);
         QCOMPARE(home.requests().transactions().back().occurredOn(), QDate(2026, 1, 5));
         const auto kept = home.requests().bank(u"First"_s).accounts();
         QCOMPARE(kept.at(home.requests().accounts().find(u"Loan"_s).code().number()),
@@ -100,9 +83,7 @@ private slots:
         QCOMPARE(home.document().undoable()->undone, u"finishing the debt “Loan”"_s);
         QVERIFY(home.requests().accounts().find(u"Loan"_s).isClosed());
         home.trigger("undo");
-        press(home, Qt::Key_F2);
-        fill(home, {{Qt::Key_B, u"none"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"F2; Alt+B=none; Return"_s);
         QCOMPARE(home.requests().bank(u"First"_s).accounts().size(), kept.size() - 1);
     }
 
@@ -112,12 +93,8 @@ private slots:
         show(home, "items");
         const QDate today = foundation::today();
         home.document().perform({u"Surveyed"_s, {}, {}}, [&] {
-            workbench::ItemValues yearly;
-            workbench::readValue(u"600"_s, yearly.amount.emplace());
-            yearly.every = budgeting::EventFrequency::Yearly;
-            workbench::addItem<budgeting::Bill>(home.requests(),
-                                                navigation::GuiElementIdentifier(1), u"Tax"_s,
-                                                yearly, today.addMonths(8), {});
+            home.addItem<budgeting::Bill>("Tax", "600", today.addMonths(8), nullptr,
+                                          budgeting::EventFrequency::Yearly);
             auto survey =
                 workbench::SurveyForm::propose(home.requests(), u"First"_s, u"Checking"_s, today);
             survey.distribution.clear();
@@ -134,7 +111,7 @@ private slots:
         QCOMPARE(texts(home, 2, "parts")[3], u"paid: "_s + foundation::presentationText(today));
         goTo(home, "items/bill/Rent"); // paid monthly
         QVERIFY(!table(home, "parts").isVisible());
-        goTo(home, "items/aside/" + number(home, u"Checking"_s));
+        goTo(home, "items/aside/" + home.number(u"Checking"_s).toLatin1());
         QCOMPARE(texts(home, 0).first(),
                  u"Checking: %1 = %2 set aside + %3 free; paid since %4: %5"_s.arg(
                      dollars("2940"), dollars("90"), dollars("2850"),
@@ -156,9 +133,7 @@ private slots:
         goTo(home, "items/wage/Royalties");
         QVERIFY(says(home, u"Together a month: "_s + u"¥300, "_s + dollars("2512.50")));
         goTo(home, "items/goal/Trip");
-        press(home, Qt::Key_F2);
-        fill(home, {{Qt::Key_A, u"120"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"F2; Alt+A=120; Return"_s);
         QCOMPARE(message(home), QString());
         QCOMPARE(row(home)[1], dollars("120"));
         QVERIFY(says(home, u"Together a month: "_s + dollars("120")));
@@ -186,48 +161,42 @@ private slots:
 
     void refusalsOfItemsStandAtTheirField_data()
     {
-        QTest::addColumn<QString>("place");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<QString>("wrong");
-        const auto add = [](const char *place, const char *field, Qt::Key key, const char *wrong) {
-            QTest::addRow("%s %s %s", place, field, wrong)
-                << QString::fromLatin1(place) << QString::fromLatin1(field) << key
-                << QString::fromLatin1(wrong);
-        };
-        add("items/bill/new", "name", Qt::Key_N, " ");
-        add("items/bill/new", "name", Qt::Key_N, "Rent");
-        add("items/bill/new", "amount", Qt::Key_A, "12.345");
-        add("items/bill/new", "amount", Qt::Key_A, "-5");
-        add("items/bill/new", "next", Qt::Key_X, "2026-02-30");
-        add("items/goal/new", "extra", Qt::Key_O, "much");
-        add("items/debt/new", "since", Qt::Key_D, "soon");
-        add("banks/new", "name", Qt::Key_N, "First");
-        add("banks/add", "opening", Qt::Key_L, "1.234");
-        add("banks/add", "day", Qt::Key_Y, "soon");
-        add("banks/assign", "account", Qt::Key_A, "Nowhere");
-        add("accounts/new", "name", Qt::Key_N, "");
-        add("accounts/new", "parent", Qt::Key_P, "Checking"); // of another kind
-        add("accounts/new", "opening", Qt::Key_L, "x");
+        QTest::addColumn<Wrong>("row");
+        for (const auto &[place, field, key, wrong] : std::initializer_list<Wrong>{
+                 {"items/bill/new", "name", Qt::Key_N, " "},
+                 {"items/bill/new", "name", Qt::Key_N, "Rent"},
+                 {"items/bill/new", "amount", Qt::Key_A, "12.345"},
+                 {"items/bill/new", "amount", Qt::Key_A, "-5"},
+                 {"items/bill/new", "next", Qt::Key_X, "2026-02-30"},
+                 {"items/goal/new", "extra", Qt::Key_O, "much"},
+                 {"items/debt/new", "since", Qt::Key_D, "soon"},
+                 {"banks/new", "name", Qt::Key_N, "First"},
+                 {"banks/add", "opening", Qt::Key_L, "1.234"},
+                 {"banks/add", "day", Qt::Key_Y, "soon"},
+                 {"banks/assign", "account", Qt::Key_A, "Nowhere"},
+                 {"accounts/new", "name", Qt::Key_N, ""},
+                 {"accounts/new", "parent", Qt::Key_P, "Checking"}, // of another kind
+                 {"accounts/new", "opening", Qt::Key_L, "x"}})
+            QTest::addRow("%s %s %s", place, field, wrong) << Wrong(place, field, key, wrong);
     }
     void refusalsOfItemsStandAtTheirField()
     {
-        QFETCH(QString, place);
-        QFETCH(QString, field);
-        QFETCH(Qt::Key, key);
-        QFETCH(QString, wrong);
+        const auto [where, field, key, typed] = rowOf<Wrong>();
+        const QString place = QLatin1String(where);
+        const QString wrong = QLatin1String(typed);
         SmallHousehold home;
         show(home, "items");
         const auto before = home.document().present();
         home.window().goTo(desktop::Place::fromText(place));
         if (place != u"banks/assign")
-            fill(home, {{Qt::Key_N, u"Fine"_s}});
+            keys(home, u"Alt+N=Fine"_s);
         if (place.startsWith(u"items"))
-            fill(home, {{Qt::Key_A, u"1"_s}});
-        fill(home, {{key, wrong}});
+            keys(home, u"Alt+A=1"_s);
+        press(home, key, Qt::AltModifier);
+        enter(home, wrong);
         press(home, Qt::Key_Return);
         QVERIFY(!message(home).isEmpty());
-        auto &edit = part<QWidget>(home, field.toLatin1().constData());
+        auto &edit = part<QWidget>(home, field);
         QVERIFY(edit.hasFocus());
         QCOMPARE(edit.property(edit.inherits("QComboBox") ? "currentText" : "text").toString(),
                  wrong);
@@ -236,8 +205,6 @@ private slots:
         QVERIFY(!part<QWidget>(home, "save").isVisible());
         QCOMPARE(message(home), QString());
     }
-
-    // ---- banks -------------------------------------------------------------------
 
     void banksAndTheirAccountsAreKept()
     {
@@ -250,49 +217,33 @@ private slots:
             QCOMPARE(message(home), QString());
             QCOMPARE(home.document().undoable()->undone, undone);
         };
-        press(home, Qt::Key_N, Qt::AltModifier);
-        type(home, u"Second"_s);
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+N=Second; Return"_s);
         done(u"adding the bank “Second”"_s);
         QCOMPARE(row(home), (QStringList{u"Second"_s, u"bank"_s, {}, u"open"_s}));
-        press(home, Qt::Key_A, Qt::AltModifier);
-        fill(home, {{Qt::Key_N, u"Card"_s},
-                    {Qt::Key_K, u"savings"_s},
-                    {Qt::Key_L, u"150"_s},
-                    {Qt::Key_Y, u"2026-01-05"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+A; Alt+N=Card; Alt+K=savings; Alt+L=150; Alt+Y=2026-01-05; Return"_s);
         done(u"adding the account “Card”"_s);
         QCOMPARE(row(home), (QStringList{u"    Card"_s, u"savings"_s, dollars("150"), u"open"_s}));
         QCOMPARE(home.requests().transactions().back().occurredOn(), QDate(2026, 1, 5));
-        press(home, Qt::Key_Return);
-        fill(home, {{Qt::Key_N, u"Purse"_s}, {Qt::Key_K, u"cash"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Return; Alt+N=Purse; Alt+K=cash; Return"_s);
         done(u"changing the account “Purse”"_s);
         QCOMPARE(row(home).mid(0, 2), (QStringList{u"    Purse"_s, u"cash"_s}));
         press(home, Qt::Key_B, Qt::AltModifier);
         done(u"separating “Purse” from its bank"_s);
         QCOMPARE(texts(home, 0).last(), u"Second"_s);
         goTo(home, "banks/bank/Second");
-        press(home, Qt::Key_I, Qt::AltModifier);
-        fill(home, {{Qt::Key_A, u"Purse"_s}, {Qt::Key_K, u"loan"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+I; Alt+A=Purse; Alt+K=loan; Return"_s);
         QVERIFY(part<QComboBox>(home, "kind").hasFocus()); // it is no debt
-        fill(home, {{Qt::Key_K, u"money market"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+K=money market; Return"_s);
         done(u"assigning “Purse” to “Second”"_s);
         press(home, Qt::Key_L, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty()); // it has a balance
         goTo(home, "banks/bank/First");
-        press(home, Qt::Key_F2);
-        fill(home, {{Qt::Key_N, u"Third"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"F2; Alt+N=Third; Return"_s);
         done(u"renaming “First” to “Third”"_s);
         goTo(home, "banks/bank/Second");
         press(home, Qt::Key_Delete);
         done(u"removing “Second”"_s);
-        press(home, Qt::Key_N, Qt::AltModifier);
-        type(home, u"Fourth"_s);
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+N=Fourth; Return"_s);
         done(u"adding the bank “Fourth”"_s);
         press(home, Qt::Key_L, Qt::AltModifier);
         done(u"closing “Fourth”"_s);
@@ -315,13 +266,10 @@ private slots:
                                        banking::BankAccountTypes::Checking, usd("0")});
         });
         const auto before = home.document().present();
-        goTo(home, "banks/account/" + number(home, u"Checking"_s));
-        press(home, Qt::Key_P, Qt::AltModifier);
-        fill(home, {{Qt::Key_A, u"Giro"_s}, {Qt::Key_Y, u"9999-01-01"_s}});
-        press(home, Qt::Key_Return);
+        goTo(home, "banks/account/" + home.number(u"Checking"_s).toLatin1());
+        keys(home, u"Alt+P; Alt+A=Giro; Alt+Y=9999-01-01; Return"_s);
         QVERIFY(message(home).contains(u"still to come"_s));
-        fill(home, {{Qt::Key_Y, u"2026-01-05"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+Y=2026-01-05; Return"_s);
         QCOMPARE(row(home).at(2), dollars("3000"));
         QVERIFY(home.window().findChild<desktop::Announcer *>()->text().contains(
             u"Moved %1 from"_s.arg(dollars("3000"))));
@@ -329,24 +277,15 @@ private slots:
         QCOMPARE(home.document().present(), before);
     }
 
-    // ---- accounts ----------------------------------------------------------------
-
     void accountsAreAddedRecodedClosedAndRemoved()
     {
         SmallHousehold home;
         show(home, "accounts");
         const auto before = home.document().present();
-        press(home, Qt::Key_N, Qt::AltModifier);
-        fill(home, {{Qt::Key_N, u"Purse"_s},
-                    {Qt::Key_K, u"owned"_s},
-                    {Qt::Key_L, u"40"_s},
-                    {Qt::Key_Y, u"2026-01-05"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+N; Alt+N=Purse; Alt+K=owned; Alt+L=40; Alt+Y=2026-01-05; Return"_s);
         QCOMPARE(row(home).mid(0, 3), (QStringList{u"Purse"_s, {}, dollars("40")}));
         QCOMPARE(home.requests().transactions().back().occurredOn(), QDate(2026, 1, 5));
-        press(home, Qt::Key_F2);
-        fill(home, {{Qt::Key_N, u"Wallet"_s}, {Qt::Key_P, u"Checking"_s}});
-        press(home, Qt::Key_Return);
+        keys(home, u"F2; Alt+N=Wallet; Alt+P=Checking; Return"_s);
         QCOMPARE(row(home).first(), u"Wallet"_s);
         QCOMPARE(home.requests().accounts().find(u"Wallet"_s).code().parent(),
                  home.requests().accounts().find(u"Checking"_s).code().number());
@@ -354,10 +293,7 @@ private slots:
         QVERIFY(!message(home).isEmpty()); // it has a balance
         press(home, Qt::Key_Delete);
         QVERIFY(!texts(home, 0).contains(u"Wallet"_s));
-        press(home, Qt::Key_N, Qt::AltModifier);
-        fill(home, {{Qt::Key_N, u"Fun"_s}});
-        press(home, Qt::Key_Return);
-        press(home, Qt::Key_L, Qt::AltModifier);
+        keys(home, u"Alt+N; Alt+N=Fun; Return; Alt+L"_s);
         QCOMPARE(row(home).first(), u"Fun (closed)"_s);
         press(home, Qt::Key_O, Qt::AltModifier);
         QCOMPARE(row(home).first(), u"Fun"_s);
@@ -365,7 +301,7 @@ private slots:
             home.trigger("undo");
         QCOMPARE(home.document().present(), before);
         goTo(home, "accounts/new");
-        goTo(home, "accounts/" + number(home, u"Rent"_s));
+        goTo(home, "accounts/" + home.number(u"Rent"_s).toLatin1());
         QVERIFY(!part<QWidget>(home, "save").isVisible()); // the form of the new one
         press(home, Qt::Key_Delete);                       // the item would go with it
         QCOMPARE(home.document().present(), before);
@@ -377,26 +313,6 @@ private:
     {
         home.window().goTo(desktop::Place::fromText(QString::fromUtf8(place)));
     }
-    /// Types texts in the fields whose labels have these letters.
-    static void fill(HouseholdWindow &home, const std::vector<std::pair<Qt::Key, QString>> &fields)
-    {
-        for (const auto &[key, text] : fields) {
-            press(home, key, Qt::AltModifier);
-            auto *box = qobject_cast<QComboBox *>(QApplication::focusWidget());
-            if (auto *edit = qobject_cast<QLineEdit *>(QApplication::focusWidget()))
-                edit->clear();
-            else if (box && box->isEditable())
-                box->clearEditText();
-            else if (box) {
-                press(home, Qt::Key_Home);
-                for (int left = box->count(); left > 0 && !box->currentText().startsWith(text);
-                     --left)
-                    press(home, Qt::Key_Down);
-                continue;
-            }
-            type(home, text);
-        }
-    }
     /// The row that is chosen.
     static QStringList row(HouseholdWindow &home)
     {
@@ -405,17 +321,6 @@ private:
         for (int column = 0; column < shown.model()->columnCount(); ++column)
             cells += shown.currentIndex().siblingAtColumn(column).data().toString();
         return cells;
-    }
-    static bool says(HouseholdWindow &home, const QString &text)
-    {
-        const auto labels = home.window().page()->findChildren<QLabel *>();
-        return std::ranges::any_of(
-            labels, [&text](const QLabel *label) { return label->text().contains(text); });
-    }
-    static QByteArray number(HouseholdWindow &home, const QString &account)
-    {
-        return QByteArray::number(
-            home.requests().accounts().find(account).code().number().integer());
     }
     static QString day(int year, int month, int dayOfMonth)
     {

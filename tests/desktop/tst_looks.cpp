@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "desktop/geometry.h"
+#include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 
 #include "help/manual.h"
@@ -13,6 +13,9 @@
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
+
+/// The window's size, its text in percent, the action for its colours, and its direction.
+using Look = std::tuple<QSize, int, QByteArray, bool>;
 
 /// Nothing is cut off or lies over another. With KIV_PICTURES, the name of a folder, it also
 /// writes pictures of all pages for people to look at.
@@ -38,30 +41,22 @@ private slots:
 
     void allPagesFit_data()
     {
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<int>("percent");
-        QTest::addColumn<QByteArray>("look");
-        QTest::addColumn<bool>("isFromRight");
         const QSize small(1024, 600);
         const QSize large(1366, 768);
-        const QByteArray light = "lookLight";
-        QTest::newRow("light") << small << 100 << light << false;
-        QTest::newRow("dark") << small << 100 << QByteArray("lookDark") << false;
-        QTest::newRow("light, double text") << large << 200 << light << false;
-        QTest::newRow("largest text") << large << 250 << QByteArray("lookBlackOnWhite") << false;
-        QTest::newRow("white on black") << small << 100 << QByteArray("lookWhiteOnBlack") << false;
-        QTest::newRow("from right to left") << small << 100 << light << true;
-        QTest::newRow("from right to left, largest text") << large << 250 << light << true;
-        // Their texts are longer. The name of the row is that of the language.
-        QTest::newRow("de") << small << 100 << light << false;
-        QTest::newRow("es") << small << 100 << light << false;
+        addRows<Look>({{"light", {small, 100, "lookLight", false}},
+                       {"dark", {small, 100, "lookDark", false}},
+                       {"light, double text", {large, 200, "lookLight", false}},
+                       {"largest text", {large, 250, "lookBlackOnWhite", false}},
+                       {"white on black", {small, 100, "lookWhiteOnBlack", false}},
+                       {"from right to left", {small, 100, "lookLight", true}},
+                       {"from right to left, largest text", {large, 250, "lookLight", true}},
+                       // Their texts are longer. The name of the row is that of the language.
+                       {"de", {small, 100, "lookLight", false}},
+                       {"es", {small, 100, "lookLight", false}}});
     }
     void allPagesFit()
     {
-        QFETCH(QSize, size);
-        QFETCH(int, percent);
-        QFETCH(QByteArray, look);
-        QFETCH(bool, isFromRight);
+        const auto [size, percent, look, isFromRight] = rowOf<Look>();
         QApplication::setLayoutDirection(isFromRight ? Qt::RightToLeft : Qt::LeftToRight);
         const QByteArray language = QTest::currentDataTag();
         if (language.size() == 2) {
@@ -112,7 +107,7 @@ private slots:
             QCoreApplication::processEvents();
             QCOMPARE(misfits(desk.window()), QStringList());
             // Its two currencies are no fault of the settings of somebody who just began.
-            QCOMPARE(desk.window().desk().notices().texts(), QStringList());
+            QCOMPARE(desk.notices(), QStringList());
             picture(desk.window(), name, {});
         }
     }

@@ -51,7 +51,7 @@ private slots:
         qInstallMessageHandler(nullptr);
         qInfo() << "From" << warm << "to" << end << "KiB.";
         QVERIFY(home.questions().asked.isEmpty());
-        QVERIFY(home.window().desk().notices().texts().isEmpty());
+        QVERIFY(home.notices().isEmpty());
 #ifndef __SANITIZE_ADDRESS__ // which keeps what is freed
         QVERIFY(end < warm + 1'024);
 #endif

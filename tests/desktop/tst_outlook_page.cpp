@@ -4,9 +4,6 @@
 #include "desktop/page_keys.h"
 #include "widgets/chart_view.h"
 
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;

@@ -6,10 +6,6 @@
 #include "workbench/document/bank_steps.h"
 #include "workbench/versions/kept_versions.h"
 
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
@@ -20,20 +16,17 @@ class TestPages : public QObject {
     Q_OBJECT
 
 private slots:
-    // ---- accounts ----------------------------------------------------------------
-
     void enterOpensTheRegisterOfTheAccount()
     {
         SmallHousehold home;
         show(home, "accounts");
         QSignalSpy places(&home.window().desk(), &desktop::Desk::placeWanted);
-        table(home).choose(number(home, u"Checking"_s));
+        table(home).choose(home.number(u"Checking"_s));
         press(home, Qt::Key_Down); // over the heading of the next group
-        press(home, Qt::Key_Up);
-        press(home, Qt::Key_Return);
+        keys(home, u"Up; Return"_s);
         QCOMPARE(places.size(), 1);
         QCOMPARE(places[0][0].value<desktop::Place>(),
-                 (desktop::Place{u"register"_s, number(home, u"Checking"_s)}));
+                 (desktop::Place{u"register"_s, home.number(u"Checking"_s)}));
     }
 
     void anItemsAccountHasTheItemsName()
@@ -43,8 +36,6 @@ private slots:
         QVERIFY(texts(home, 0).contains(u"Rent"_s));
         QVERIFY(!texts(home, 0).join(u' ').contains(u'['));
     }
-
-    // ---- due ---------------------------------------------------------------------
 
     void payingPostsTheAmountAndMovesTheItemOn()
     {
@@ -79,11 +70,8 @@ private slots:
     {
         SmallHousehold home;
         show(home, "due");
-        press(home, Qt::Key_M, Qt::AltModifier);
-        type(home, u"12.5"_s);
-        press(home, Qt::Key_I, Qt::AltModifier); // in addition
-        press(home, Qt::Key_M, Qt::AltModifier);
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+M=12.5; Alt+I"_s); // in addition
+        keys(home, u"Alt+M; Return"_s);
         QCOMPARE(home.requests().transactions().back().amount(), test::usd("12.5"));
         QCOMPARE(texts(home, 0).first(), u"Rent"_s); // still due
         type(home, u"850"_s);
@@ -97,8 +85,7 @@ private slots:
         SmallHousehold home;
         show(home, "due");
         const std::size_t before = home.requests().transactions().size();
-        press(home, Qt::Key_Down, Qt::ShiftModifier);
-        press(home, Qt::Key_P, Qt::AltModifier);
+        keys(home, u"Shift+Down; Alt+P"_s);
         QCOMPARE(texts(home, 0), QStringList{u"Salary"_s});
         home.trigger("undo");
         QCOMPARE(home.requests().transactions().size(), before);
@@ -126,18 +113,16 @@ private slots:
             home.addItem<budgeting::Bill>("House", "3001", foundation::today().addDays(-8));
         });
         table(home).selectRow(0);
-        press(home, Qt::Key_P, Qt::AltModifier);
-        QVERIFY2(message(home).contains(u"zero"_s),
-                 qPrintable(message(home))); // alone, it is meant
+        keys(home, u"Alt+P"_s);
+        QVERIFY(message(home).contains(u"zero"_s)); // alone, it is meant
         table(home).setFocus();
-        press(home, Qt::Key_Down, Qt::ShiftModifier);
-        press(home, Qt::Key_P, Qt::AltModifier);
+        keys(home, u"Shift+Down; Alt+P"_s);
         QCOMPARE(home.document().undoable()->undone, u"paying “House”"_s);
-        const QStringList told = home.window().desk().notices().texts();
+        const QStringList told = home.notices();
         QCOMPARE(told, QStringList{u"'Zero' has an amount of zero and was skipped.\n"
                                    "Checking is below zero: -$1.00."_s});
         home.trigger("undo");
-        QVERIFY(home.window().desk().notices().texts().isEmpty());
+        QVERIFY(home.notices().isEmpty());
     }
 
     void refusalsStandAtTheirFieldAndKeepWhatWasTyped()
@@ -171,9 +156,7 @@ private slots:
         });
         const auto accounts = [&home] { return texts(home, 4).join(u' '); };
         QCOMPARE(accounts(), u"Checking Checking Checking"_s);
-        press(home, Qt::Key_A, Qt::AltModifier);
-        type(home, u"Purse"_s);
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+A=Purse; Return"_s);
         QCOMPARE(accounts(), u"Purse Checking Checking"_s);
         QCOMPARE(texts(home, 5).first(), dollars("100"));
         press(home, Qt::Key_P, Qt::AltModifier);
@@ -208,8 +191,6 @@ private slots:
         QCOMPARE(texts(home, 4).join(u' '), u"Checking Checking Checking"_s);
     }
 
-    // ---- home --------------------------------------------------------------------
-
     void homePaysAndSkipsLineByLine()
     {
         SmallHousehold home;
@@ -220,12 +201,10 @@ private slots:
         QCOMPARE(home.requests().transactions().back().amount(), test::usd("900"));
         QCOMPARE(focus(), u"Pay: Phone, $20.00, today"_s);
         QCOMPARE(texts(home, 2, "free"), QStringList{dollars("2100")});
-        press(home, Qt::Key_Tab);
-        press(home, Qt::Key_Space);
+        keys(home, u"Tab; Space"_s);
         QCOMPARE(focus(), u"Skip: Salary, $2,500.00, in 2 days"_s);
         QCOMPARE(home.document().undoable()->undone, u"skipping “Phone”"_s);
-        press(home, Qt::Key_Tab);
-        press(home, Qt::Key_Space);
+        keys(home, u"Tab; Space"_s);
         QCOMPARE(home.window().page()->id(), u"due"_s);
         QCOMPARE(table(home).chosen(), QStringList{u"wage:Salary"_s});
     }
@@ -237,12 +216,8 @@ private slots:
         home.document().perform({u"More"_s, {}, {}}, [&] {
             home.addItem<budgeting::Bill>("Server", "500 JPY", foundation::today());
             home.addItem<budgeting::Wage>("Royalties", "300 JPY", foundation::today().addDays(1));
-            workbench::ItemValues hotel;
-            workbench::readValue(u"120 EUR"_s, hotel.amount.emplace());
-            hotel.every = budgeting::EventFrequency::Yearly;
-            workbench::addItem<budgeting::Bill>(home.requests(),
-                                                navigation::GuiElementIdentifier(1), u"Hotel"_s,
-                                                hotel, foundation::today().addMonths(5), {});
+            home.addItem<budgeting::Bill>("Hotel", "120 EUR", foundation::today().addMonths(5),
+                                          nullptr, budgeting::EventFrequency::Yearly);
             workbench::addBankAccount(home.document(),
                                       {u"Tokyo"_s,
                                        banking::BankName(u"First"_s),
@@ -252,28 +227,22 @@ private slots:
         });
         for (desktop::Page *page : home.window().pages()) {
             home.trigger("page " + page->id().toUtf8());
-            QCOMPARE(home.window().desk().notices().texts(), QStringList());
+            QCOMPARE(home.notices(), QStringList());
         }
         home.trigger("page home");
-        const auto labels = home.window().page()->findChildren<QLabel *>();
-        const auto says = [&labels](const QString &text) {
-            return std::ranges::any_of(
-                labels, [&text](const QLabel *label) { return label->text().contains(text); });
-        };
-        QVERIFY(says(u"There is no exchange rate for JPY; balances leave it out."_s));
-        QVERIFY(says(u"There is no exchange rate between JPY, EUR and USD; it is needed for: "_s
+        QVERIFY(says(home, u"There is no exchange rate for JPY; balances leave it out."_s));
+        QVERIFY(says(home,
+                     u"There is no exchange rate between JPY, EUR and USD; it is needed for: "_s
                      u"Hotel, Server, Royalties, Tokyo."_s));
-        QVERIFY(says(u"The sum at Checking leaves 'Hotel' out. "_s
-                     u"There is no exchange rate between EUR and USD."_s));
+        QVERIFY(says(home, u"The sum at Checking leaves 'Hotel' out. "_s
+                           u"There is no exchange rate between EUR and USD."_s));
         QCOMPARE(texts(home, 4, "free"), QStringList({dollars("3000"), u"¥700"_s}));
-        QVERIFY(says(u"¥700 is free to spend"_s));
-        QVERIFY(says(u": ¥500, $920.00. "_s));
+        QVERIFY(says(home, u"¥700 is free to spend"_s));
+        QVERIFY(says(home, u": ¥500, $920.00. "_s));
         home.trigger("page due");
         QCOMPARE(texts(home, 5),
                  QStringList({dollars("2100"), dollars("2080"), u"–"_s, u"–"_s, dollars("4580")}));
     }
-
-    // ---- history -----------------------------------------------------------------
 
     void goesBackToAStepAndToAFormerVersion()
     {
@@ -323,8 +292,6 @@ private slots:
         QCOMPARE(home.requests().transactions().size(), std::size_t{2});
     }
 
-    // ---- the command palette --------------------------------------------------------
-
     void theCommandPaletteFindsAccountsAndItems()
     {
         SmallHousehold home;
@@ -337,11 +304,6 @@ private slots:
     }
 
 private:
-    static QString number(HouseholdWindow &home, const QString &account)
-    {
-        return accounting::presentationText(
-            home.requests().accounts().find(account).code().number());
-    }
 };
 
 static const kiv::test::Suite<TestPages> suite;

@@ -3,8 +3,6 @@
 
 #include "desktop/household_window.h"
 
-#include <QtCore/QRegularExpression>
-
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 

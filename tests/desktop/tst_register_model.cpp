@@ -4,12 +4,8 @@
 #include "models/register_filter.h"
 #include "support/accounting.h"
 #include "support/preferences_store.h"
-#include "support/scripted_sender.h"
-#include "workbench/document/document.h"
+#include "support/surroundings.h"
 #include "workbench/requests/entry_forms.h"
-
-#include <QtCore/QRandomGenerator>
-#include <QtTest/QAbstractItemModelTester>
 
 using namespace kiv;
 using accounting::AccountNumber;
@@ -28,20 +24,17 @@ class TestRegisterModel : public QObject {
 private slots:
     void itIsTheLedgerAfterRandomChanges_data()
     {
-        QTest::addColumn<quint32>("account");
-        QTest::newRow("an asset") << 1u;
-        QTest::newRow("a liability") << 2u;
-        QTest::newRow("all accounts") << 0u;
+        kiv::test::addRows<quint32>({{"an asset", 1u}, {"a liability", 2u}, {"all accounts", 0u}});
     }
     void itIsTheLedgerAfterRandomChanges()
     {
-        QFETCH(quint32, account);
+        const auto account = kiv::test::rowOf<quint32>();
         m_shown = account == 0 ? std::nullopt : std::optional(AccountNumber(account));
         RegisterModel model(account == 0);
         RegisterFilter filter(model);
         QAbstractItemModelTester modelTester(&model);
         QAbstractItemModelTester filterTester(&filter);
-        workbench::Document document(surroundings());
+        workbench::Document document(kiv::test::surroundings({}));
         m_requests = &document.requests();
         addAccounts();
         QRandomGenerator random(account + 7);
@@ -72,7 +65,7 @@ private slots:
 
     void aRowIsReadAsAWhole()
     {
-        workbench::Document document(surroundings());
+        workbench::Document document(kiv::test::surroundings({}));
         m_requests = &document.requests();
         addAccounts();
         (void)workbench::spend(*m_requests, {amount("42.1"), u"Checking"_s, u"Food"_s, u"Market"_s,
@@ -90,14 +83,6 @@ private slots:
     }
 
 private:
-    static workbench::Surroundings surroundings()
-    {
-        return {[] {
-                    return foundation::UniqueQtPtr<networking::RequestSender>(
-                        new ScriptedSender(ScriptedSender::silence()));
-                },
-                {}};
-    }
     static workbench::Amount amount(const char *text)
     {
         workbench::Amount amount;

@@ -10,6 +10,9 @@
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 
+/// A field, what is typed into it, and what is said of it.
+using Wrong = std::tuple<QString, QString, QString>;
+
 /// The register's work by real keys.
 class TestRegisterPage : public QObject {
     Q_OBJECT
@@ -20,7 +23,7 @@ private slots:
         m_desk.emplace();
         m_desk->openHousehold();
         m_desk->show();
-        m_desk->window().goTo({u"register"_s, number(u"Checking"_s)});
+        m_desk->window().goTo({u"register"_s, m_desk->number(u"Checking"_s)});
         m_before = m_last = all();
     }
     void cleanup() { m_desk.reset(); }
@@ -101,28 +104,25 @@ private slots:
 
     void aRefusalStandsAtItsField_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("sentence");
-        const auto row = [](const char *field, const char *typed, const QString &sentence) {
-            QTest::addRow("%s %s", field, typed)
-                << QString::fromLatin1(field) << QString::fromLatin1(typed) << sentence;
-        };
-        row("amount", "much",
-            u"'much' is not an amount; write one like 1234.50 or '1234.50 USD'."_s);
-        row("amount", "1.234", u"'1.234' has too many decimals; USD allows 2."_s);
-        row("amount", "-5", u"amount"_s);
-        row("own", "Cheking", u"There is no account 'Cheking'; did you mean 'Checking'?"_s);
-        row("other", "Grocerys", u"did you mean 'Groceries'?"_s);
-        row("other", "", u"Choose what the money was spent on."_s);
-        row("other", "Salary", u"Salary"_s);
-        row("day", "32", u"'32' is not a day; write one like 2026-03-31, 3, 5-2, +7 or today."_s);
+        QTest::addColumn<Wrong>("row");
+        for (const auto &[field, typed, sentence] : std::initializer_list<Wrong>{
+                 {u"amount"_s, u"much"_s,
+                  u"'much' is not an amount; write one like 1234.50 or '1234.50 USD'."_s},
+                 {u"amount"_s, u"1.234"_s, u"'1.234' has too many decimals; USD allows 2."_s},
+                 {u"amount"_s, u"-5"_s, u"amount"_s},
+                 {u"own"_s, u"Cheking"_s,
+                  u"There is no account 'Cheking'; did you mean 'Checking'?"_s},
+                 {u"other"_s, u"Grocerys"_s, u"did you mean 'Groceries'?"_s},
+                 {u"other"_s, u""_s, u"Choose what the money was spent on."_s},
+                 {u"other"_s, u"Salary"_s, u"Salary"_s},
+                 {u"day"_s, u"32"_s,
+                  u"'32' is not a day; write one like 2026-03-31, 3, 5-2, +7 or today."_s}})
+            QTest::addRow("%s %s", qPrintable(field), qPrintable(typed))
+                << Wrong(field, typed, sentence);
     }
     void aRefusalStandsAtItsField()
     {
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, sentence);
+        const auto [field, typed, sentence] = kiv::test::rowOf<Wrong>();
         press(Qt::Key_T, Qt::ControlModifier);
         std::vector<std::optional<QString>> values{u"5"_s,    u"Checking"_s, u"Groceries"_s,
                                                    u"Shop"_s, u"food"_s,     u"2026-02-20"_s};
@@ -155,11 +155,11 @@ private slots:
         m_desk->trigger("refundEntry");
         QCOMPARE(text(u"amount"_s), u"911.00"_s);
         QCOMPARE(text(u"payee"_s), u"Landlord"_s);
-        type(u"912"_s);
+        m_desk->type(u"912"_s);
         press(Qt::Key_Return);
         QCOMPARE(focus(), u"amount"_s); // more than was paid
         press(Qt::Key_A, Qt::ControlModifier);
-        type(u"11"_s);
+        m_desk->type(u"11"_s);
         press(Qt::Key_Return);
         QVERIFY(news().contains(u"Rent > Checking 11.00 USD"_s));
         QCOMPARE(undoName(), u"Undo refunding $11.00 of “Landlord: rent and water”"_s);
@@ -196,16 +196,16 @@ private slots:
         press(Qt::Key_Up);
         press(Qt::Key_Down, Qt::ShiftModifier);
         m_desk->trigger("categoryOfEntries");
-        type(u"Fees"_s);
+        m_desk->type(u"Fees"_s);
         press(Qt::Key_Return);
         QVERIFY(pageMessage().contains(u"has no category"_s));
         QCOMPARE(all(), m_before);
         press(Qt::Key_Escape);
 
-        m_desk->window().goTo({u"register"_s, number(u"Rent"_s)});
+        m_desk->window().goTo({u"register"_s, m_desk->number(u"Rent"_s)});
         page()->findChild<QTableView *>()->selectAll();
         m_desk->trigger("categoryOfEntries");
-        type(u"Fees"_s);
+        m_desk->type(u"Fees"_s);
         press(Qt::Key_Return);
         QCOMPARE(news().count(u"Checking > Fees 900.00 USD"_s), 2);
         m_desk->trigger("undo");
@@ -216,11 +216,11 @@ private slots:
     {
         press(Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(focus(), u"search"_s);
-        type(u"landlord"_s);
+        m_desk->type(u"landlord"_s);
         press(Qt::Key_Return);
         QCOMPARE(page()->findChild<QLabel *>(u"result"_s)->text(),
                  u"2 of 7, together -$1,800.00"_s);
-        type(u" is:nothing"_s);
+        m_desk->type(u" is:nothing"_s);
         press(Qt::Key_Return);
         QCOMPARE(focus(), u"search"_s);
         QCOMPARE(text(u"search"_s), u"landlord is:nothing"_s);
@@ -240,31 +240,10 @@ private slots:
 
 private:
     [[nodiscard]] desktop::Page *page() { return m_desk->window().page(); }
-    [[nodiscard]] QString number(const QString &account)
-    {
-        return accounting::presentationText(
-            m_desk->requests().accounts().find(account).code().number());
-    }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QTest::keyClick(keyTarget(), key, modifiers);
+        QTest::keyClick(m_desk->keyTarget(), key, modifiers);
         QCoreApplication::processEvents();
-    }
-    void type(const QString &text)
-    {
-        for (const QChar letter : text) {
-            QTest::keyClick(keyTarget(), letter.toLatin1());
-            QCoreApplication::processEvents();
-        }
-    }
-    QWidget *keyTarget()
-    {
-        // A list of names that is open takes all keys. When it has closed, a desktop makes
-        // the window active again; here nobody else does.
-        if (QWidget *popup = QApplication::activePopupWidget())
-            return popup;
-        QApplication::setActiveWindow(&m_desk->window());
-        return QApplication::focusWidget();
     }
     /// Types into the fields one after the other; nothing leaves what stands there.
     void enter(const std::vector<std::optional<QString>> &values)
@@ -276,7 +255,7 @@ private:
                 continue;
             press(Qt::Key_A, Qt::ControlModifier);
             press(Qt::Key_Delete);
-            type(*values[at]);
+            m_desk->type(*values[at]);
         }
         press(Qt::Key_Return);
     }
@@ -286,11 +265,11 @@ private:
         page()->findChild<QWidget *>(field)->setFocus();
         press(Qt::Key_A, Qt::ControlModifier);
         press(Qt::Key_Delete);
-        type(text);
+        m_desk->type(text);
     }
     [[nodiscard]] QString focus()
     {
-        (void)keyTarget();
+        (void)m_desk->keyTarget();
         return QApplication::focusWidget()->objectName();
     }
     [[nodiscard]] QString text(const QString &field)

@@ -8,11 +8,8 @@
 #include "conversion/currency_converter.h"
 #include "numira/library.h"
 
-#include <QtCore/QJsonArray>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
 
 using namespace kiv;
 using namespace kiv::test;
@@ -394,7 +391,7 @@ private slots:
         home.questions().choices = {1};
         home.questions().files = {home.path(u"missing/out.html"_s)};
         home.trigger("saveReport");
-        QVERIFY(home.window().desk().notices().texts().join(u' ').contains(u"Cannot write"_s));
+        QVERIFY(home.notices().join(u' ').contains(u"Cannot write"_s));
     }
 };
 

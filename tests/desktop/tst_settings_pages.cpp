@@ -6,10 +6,6 @@
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/requests/settings.h"
 
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
@@ -20,8 +16,6 @@ class TestSettingsPages : public QObject {
     Q_OBJECT
 
 private slots:
-    // ---- rates -------------------------------------------------------------------
-
     void aRateIsTypedOverAndRefusedAtItsField()
     {
         SmallHousehold home;
@@ -69,7 +63,7 @@ private slots:
         press(home, Qt::Key_A, Qt::AltModifier);
         const QString wait = u"Another request is not answered yet; try again in a moment."_s;
         QCOMPARE(QSet(reasons.begin(), reasons.end()), QSet{wait});
-        QVERIFY(home.window().desk().notices().texts().join(u' ').contains(u"server is silent"_s));
+        QVERIFY(home.notices().join(u' ').contains(u"server is silent"_s));
         QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
         QVERIFY(part<QPushButton>(home, "fetch").hasFocus());
         QVERIFY(part<QPushButton>(home, "keep").isEnabled());
@@ -77,12 +71,10 @@ private slots:
             R"({"timestamp": 1772366400, "base": "USD", "rates": {"CHF": 0.5}})",
             u"application/json"_s);
         press(home, Qt::Key_A, Qt::AltModifier);
-        QCOMPARE(home.window().desk().notices().texts(), QStringList());
+        QCOMPARE(home.notices(), QStringList());
         QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.5 CHF"_s});
         QCOMPARE(texts(home, 4), QStringList{u"fetched"_s});
     }
-
-    // ---- settings ----------------------------------------------------------------
 
     void settingsAreAppliedAtOnceAndRefusedAtTheirField()
     {

@@ -3,11 +3,6 @@
 
 #include "desktop/page_keys.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtWidgets/QtWidgets>
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
@@ -141,9 +136,7 @@ private:
     }
     static void reconcile(HouseholdWindow &home, const QString &file, const QString &account)
     {
-        home.window().goTo(
-            {u"survey"_s,
-             presentationText(home.requests().accounts().find(account).code().number())});
+        home.window().goTo({u"survey"_s, home.number(account)});
         home.questions().files = {file};
         press(home, Qt::Key_K, Qt::AltModifier);
         QCOMPARE(message(home), QString());

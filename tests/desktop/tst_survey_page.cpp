@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "desktop/geometry.h"
+#include "desktop/accessibility.h"
 #include "desktop/page_keys.h"
 
 #include "workbench/document/bank_steps.h"
@@ -9,9 +9,6 @@
 #include "workbench/requests/transactions.h"
 
 #include "workbench/surveys/survey_notes.h"
-
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QLineEdit>
 
 using namespace kiv;
 using namespace kiv::test;
@@ -27,19 +24,14 @@ private slots:
         SmallHousehold home;
         begin(home);
         const std::size_t before = home.requests().transactions().size();
-        press(home, Qt::Key_B, Qt::AltModifier);
-        type(home, u"2030"_s);
-        press(home, Qt::Key_Return); // on to the ticks
+        keys(home, u"Alt+B=2030; Return"_s); // on to the ticks
         QVERIFY(figures(home).startsWith(u"0 ticked, the books are $2,030.00 below the bank"_s));
-        press(home, Qt::Key_Space);
-        press(home, Qt::Key_Space);
+        keys(home, u"Space; Space"_s);
         QCOMPARE(texts(home, 2, "ticks"), QStringList({u"ticked"_s, u"ticked"_s}));
         QCOMPARE(figures(home), u"2 ticked, the books are $70.00 above the bank (3.45 %)"_s);
         QVERIFY(details(home).contains(u"beyond the survey window of 2.75"_s));
         // What is missing is offered for what is not booked yet.
-        press(home, Qt::Key_I, Qt::AltModifier);
-        type(home, u"Phone"_s);
-        press(home, Qt::Key_Return);
+        keys(home, u"Alt+I=Phone; Return"_s);
         QCOMPARE(texts(home, 3, "ticks").last(), u"Phone"_s);
         QCOMPARE(figures(home), u"2 ticked, no difference"_s);
         setTaxAside(home, u"50"_s);
@@ -56,7 +48,7 @@ private slots:
         QCOMPARE(home.requests().transactions().size(), before + 1);
         QCOMPARE(home.requests().transactions().back().amount(), usd("70"));
         home.trigger("undo");
-        QCOMPARE(home.window().page()->detail(), number(home));
+        QCOMPARE(home.window().page()->detail(), home.number(u"Checking"_s));
         QCOMPARE(texts(home, 0, "past"), QStringList());
         QCOMPARE(texts(home, 2, "ticks"), QStringList({{}, {}}));
         home.trigger("redo");
@@ -73,9 +65,7 @@ private slots:
     {
         SmallHousehold home;
         begin(home);
-        press(home, Qt::Key_L, Qt::AltModifier);
-        press(home, Qt::Key_B, Qt::AltModifier);
-        type(home, u"2090"_s);
+        keys(home, u"Alt+L; Alt+B=2090"_s);
         QVERIFY(details(home).contains(u"inside the survey window"_s));
         press(home, Qt::Key_O, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());
@@ -85,11 +75,10 @@ private slots:
         // Consent is given to this difference, and to no other one.
         part<QLineEdit>(home, "balance").setText(u"2089"_s);
         QVERIFY(!consent.isChecked());
-        press(home, Qt::Key_Y, Qt::AltModifier);
-        press(home, Qt::Key_O, Qt::AltModifier);
+        keys(home, u"Alt+Y; Alt+O"_s);
         QCOMPARE(message(home), QString());
         QCOMPARE(texts(home, 3, "past"), QStringList{dollars("2089")});
-        home.window().goTo({u"survey"_s, number(home)});
+        home.window().goTo({u"survey"_s, home.number(u"Checking"_s)});
         QVERIFY(details(home).contains(u"of Checking are $11.00 above the bank since"_s));
         home.trigger("page accounts");
         QVERIFY(texts(home, 4).join(u' ').contains(u"$11.00 above the bank"_s));
@@ -146,9 +135,7 @@ private slots:
     {
         SmallHousehold home;
         begin(home);
-        press(home, Qt::Key_L, Qt::AltModifier);
-        press(home, Qt::Key_B, Qt::AltModifier);
-        type(home, u"3000"_s);
+        keys(home, u"Alt+L; Alt+B=3000"_s);
         setTaxAside(home, u"50"_s);
         press(home, Qt::Key_U, Qt::AltModifier);
         QCOMPARE(home.document().undoable()->undone, u"putting off the survey of “Checking”"_s);
@@ -156,8 +143,7 @@ private slots:
             home.requests().navigator().onRemovedTransaction(
                 home.requests().transactions().back().number().value());
         });
-        press(home, Qt::Key_1, Qt::AltModifier);
-        press(home, Qt::Key_N, Qt::AltModifier); // begin anew
+        keys(home, u"Alt+1; Alt+N"_s); // begin anew
         QCOMPARE(texts(home, 2, "ticks"), QStringList{{}});
         QCOMPARE(part<QLineEdit>(home, "balance").text(), QString());
         home.trigger("undo");
@@ -174,13 +160,11 @@ private slots:
     {
         SmallHousehold home;
         begin(home);
-        press(home, Qt::Key_L, Qt::AltModifier);
-        press(home, Qt::Key_B, Qt::AltModifier);
-        type(home, u"2100"_s);
+        keys(home, u"Alt+L; Alt+B=2100"_s);
         setTaxAside(home, u"50"_s);
         press(home, Qt::Key_O, Qt::AltModifier);
         const auto code = home.requests().accounts().find(u"Checking"_s).code();
-        const QByteArray drop = "drop " + number(home).toUtf8();
+        const QByteArray drop = "drop " + home.number(u"Checking"_s).toUtf8();
         home.document().perform({u"Closed"_s, {}, {}}, [&] {
             const auto box = home.addAccount("Box", accounting::AccountTypes::Asset);
             const accounting::AccountCode other(box, u"Box"_s, std::nullopt);
@@ -244,8 +228,7 @@ private slots:
             workbench::attachBankAccount(home.document(), banking::BankName(u"First"_s),
                                          purse->number(), banking::BankAccountTypes::Cash);
         });
-        const QString purse = accounting::presentationText(
-            home.requests().accounts().find(u"Purse"_s).code().number());
+        const QString purse = home.number(u"Purse"_s);
         home.window().goTo({u"register"_s, purse});
         home.trigger("reconcileAccount");
         QCOMPARE(home.window().page()->detail(), purse);
@@ -259,15 +242,8 @@ private:
         show(home, "due");
         press(home, Qt::Key_P, Qt::AltModifier);
         home.document().perform({u"More"_s, {}, {}}, [&] {
-            workbench::ItemValues values;
-            workbench::Amount amount;
-            workbench::readValue(u"1200"_s, amount);
-            values.amount = amount;
-            values.every = budgeting::EventFrequency::Yearly;
-            values.next = foundation::today().addDays(90);
-            workbench::addItem<budgeting::Bill>(home.requests(),
-                                                navigation::GuiElementIdentifier(1), u"Tax"_s,
-                                                values, *values.next, std::nullopt);
+            home.addItem<budgeting::Bill>("Tax", "1200", foundation::today().addDays(90), nullptr,
+                                          budgeting::EventFrequency::Yearly);
         });
         home.trigger("page survey");
     }
@@ -281,11 +257,6 @@ private:
     }
     static QString details(HouseholdWindow &home) { return part<QLabel>(home, "details").text(); }
     static QString figures(HouseholdWindow &home) { return part<QLabel>(home, "figures").text(); }
-    static QString number(HouseholdWindow &home)
-    {
-        return accounting::presentationText(
-            home.requests().accounts().find(u"Checking"_s).code().number());
-    }
 };
 
 static const kiv::test::Suite<TestSurveyPage> suite;

@@ -14,6 +14,9 @@ using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 using desktop::FirstTimeWizard;
 
+/// A step, a field of it, what is typed there, and what is said of it.
+using Wrong = std::tuple<QString, QString, QString, QString>;
+
 /// The first start, by keys.
 class TestWizard : public QObject {
     Q_OBJECT
@@ -53,24 +56,18 @@ private slots:
 
     void whatIsRefusedStandsAtItsField_data()
     {
-        QTest::addColumn<QString>("step");
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("sentence");
-        QTest::newRow("no folder") << u"place"_s << u"file"_s << u"/none/home"_s << u"/none"_s;
-        QTest::newRow("no file") << u"place"_s << u"file"_s << u" "_s << u""_s;
-        QTest::newRow("no bank") << u"bank"_s << u"bank"_s << u""_s << u""_s;
-        QTest::newRow("no account") << u"bank"_s << u"account"_s << u" "_s << u""_s;
-        QTest::newRow("a balance") << u"bank"_s << u"balance"_s << u"much"_s << u"'much'"_s;
-        QTest::newRow("an amount") << u"household"_s << u"amount"_s << u"1.234"_s << u"1.234"_s;
-        QTest::newRow("a day") << u"household"_s << u"day"_s << u"2020-01-01"_s << u"future"_s;
+        kiv::test::addRows<Wrong>(
+            {{"no folder", {u"place"_s, u"file"_s, u"/none/home"_s, u"/none"_s}},
+             {"no file", {u"place"_s, u"file"_s, u" "_s, {}}},
+             {"no bank", {u"bank"_s, u"bank"_s, {}, {}}},
+             {"no account", {u"bank"_s, u"account"_s, u" "_s, {}}},
+             {"a balance", {u"bank"_s, u"balance"_s, u"much"_s, u"'much'"_s}},
+             {"an amount", {u"household"_s, u"amount"_s, u"1.234"_s, u"1.234"_s}},
+             {"a day", {u"household"_s, u"day"_s, u"2020-01-01"_s, u"future"_s}}});
     }
     void whatIsRefusedStandsAtItsField()
     {
-        QFETCH(QString, step);
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, sentence);
+        const auto [step, field, typed, sentence] = kiv::test::rowOf<Wrong>();
         HouseholdWindow desk;
         begin(desk);
         if (step != u"place")
@@ -120,13 +117,11 @@ private slots:
 
     void itCanBeLeftAtEachStep_data()
     {
-        QTest::addColumn<int>("step");
-        for (const int step : {0, 1, 2})
-            QTest::addRow("step %d", step) << step;
+        kiv::test::addRows<int>({{"place", 0}, {"bank", 1}, {"household", 2}});
     }
     void itCanBeLeftAtEachStep()
     {
-        QFETCH(int, step);
+        const int step = kiv::test::rowOf<int>();
         HouseholdWindow desk;
         begin(desk);
         if (step > 0)

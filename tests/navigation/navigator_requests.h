@@ -25,9 +25,8 @@ struct Situation {
 /// what Desk::furnish() made.
 [[nodiscard]] Rows allRequests();
 
-/// What makes a furnished desk into each of the states in which a budget can be,
-/// under the state's name.
-[[nodiscard]] Rows allStates();
+/// A row for each state in which a budget can be: what makes it of a furnished desk.
+void addStates();
 
 /// A request that means something most of the time, for each four numbers.
 [[nodiscard]] QString randomRequest(std::array<std::uint8_t, 4> seeds);

@@ -24,7 +24,7 @@ bool isBalanced(const accounting::GeneralLedger &ledger)
     return std::ranges::all_of(sums, [](const auto &sum) { return sum.second.isZero(); });
 }
 
-Rows allStates()
+void addStates()
 {
     const std::map<const char *, const char *> inWords{
         {"empty", "clear"},
@@ -39,20 +39,19 @@ Rows allStates()
                            "TransferRequested(7, 1, 5); StoreExchangeRates()"},
         {"wizard's", "CompletedNewBudgetFirstTimeWizard(USD, USD, 1, First, checking, Checking, "
                      "100, 5)"}};
-    Rows states{{"full",
-                 [](Navigator &n) {
-                     for (int i = 3; i < 65535; ++i)
-                         n.onAddedTransaction(transfer(no(8), no(1), usd("0.01")));
-                 }},
-                {"after a failed load", [](Navigator &n) {
-                     try {
-                         n.onConfirmedLoadBudgetFile(QStringLiteral("gone"), false);
-                     } catch (const storage::StorageError &) {
-                     }
-                 }}};
+    QTest::addColumn<Request>("prepare");
     for (const auto &[name, requests] : inWords)
-        states.push_back({name, requestOf(QString::fromLatin1(requests))});
-    return states;
+        QTest::newRow(name) << requestOf(QString::fromLatin1(requests));
+    QTest::newRow("full") << Request([](Navigator &n) {
+        for (int i = 3; i < 65535; ++i)
+            n.onAddedTransaction(transfer(no(8), no(1), usd("0.01")));
+    });
+    QTest::newRow("after a failed load") << Request([](Navigator &n) {
+        try {
+            n.onConfirmedLoadBudgetFile(QStringLiteral("gone"), false);
+        } catch (const storage::StorageError &) {
+        }
+    });
 }
 
 QString randomRequest(std::array<std::uint8_t, 4> seeds)

@@ -14,12 +14,11 @@ struct SurveyBooks : Books {
 
     SurveyBooks()
     {
-        add<budgeting::Bill>("Rent");
-        items.add(item<budgeting::Bill>("Tax", usd("120"), budgeting::EventFrequency::Yearly,
-                                        day("2026-03-31")),
+        add<Bill>("Rent");
+        items.add(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, day("2026-03-31")),
                   *generator);
-        add<budgeting::Wage>("Work");
-        add<budgeting::Goal>("Trip");
+        add<Wage>("Work");
+        add<Goal>("Trip");
         putBelow(9, "Trip [Budget Item]", 1);
     }
     void putBelow(std::uint32_t number, const char *name, std::uint32_t parent)

@@ -7,12 +7,7 @@
 
 using namespace kiv;
 using namespace kiv::test;
-using budgeting::Bill;
-using budgeting::Debt;
-using budgeting::EventFrequency;
-using budgeting::Goal;
 using budgeting::ItemTraits;
-using budgeting::Wage;
 using Ledgers = BudgetLedgers;
 
 namespace {
@@ -64,8 +59,6 @@ class BudgetLedgersTest : public QObject {
 
 private slots:
     void initTestCase() { installRates(); }
-
-    // ---- adding ----------------------------------------------------------------
 
     void addOpensTheItemsAccount_data() { addKindRows(); }
     void addOpensTheItemsAccount()
@@ -122,8 +115,6 @@ private slots:
         QCOMPARE(books.add<Debt>("Boat").number(), no(7));
         QCOMPARE(books.add<Bill>("Rent").number(), no(9)); // 8 holds the opening balances
     }
-
-    // ---- updating and renaming -------------------------------------------------
 
     void updateReplacesTheItem_data() { addKindRows(); }
     void updateReplacesTheItem()
@@ -192,8 +183,6 @@ private slots:
         QCOMPARE(stateOf(books), expected);
     }
 
-    // ---- removing --------------------------------------------------------------
-
     void removeTakesOrClosesTheAccount_data() { addKindRows(); }
     void removeTakesOrClosesTheAccount()
     {
@@ -217,8 +206,6 @@ private slots:
             QVERIFY(books.budget.isEmpty() && books.items.isEmpty());
         });
     }
-
-    // ---- look-ups --------------------------------------------------------------
 
     void lookUpsAnswerForTheItem_data() { addKindRows(); }
     void lookUpsAnswerForTheItem()
@@ -256,8 +243,6 @@ private slots:
                  u"The budget item 'Rent (unknown)' is not a known type that is a budget money!");
     }
 
-    // ---- construction, comparison -----------------------------------
-
     void constructionChecksTheCodes_data() { addKindRows(); }
     void constructionChecksTheCodes()
     {
@@ -294,8 +279,6 @@ private slots:
         QVERIFY(a.items != b.items);
         QVERIFY(b.items.isEmpty() && a.budget == b.budget);
     }
-
-    // ---- posting ---------------------------------------------------------------
 
     void processPostsAndMovesOn_data() { addKindRows(); }
     void processPostsAndMovesOn()

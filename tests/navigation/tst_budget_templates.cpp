@@ -15,6 +15,9 @@ namespace {
 
 const numira::Currency jpy(392);
 
+/// A list's kinds in order, then how many items have each frequency, and each day.
+using Shape = std::tuple<BudgetWizardTemplates, QString, QString, QString>;
+
 } // namespace
 
 class tst_BudgetTemplates : public QObject {
@@ -23,31 +26,25 @@ class tst_BudgetTemplates : public QObject {
 private slots:
     void everyListHasItsShape_data()
     {
-        QTest::addColumn<BudgetWizardTemplates>("household");
-        QTest::addColumn<QString>("kinds");       // in order
-        QTest::addColumn<QString>("frequencies"); // how many of each
-        QTest::addColumn<QString>("days");        // how many on each day
         using enum BudgetWizardTemplates;
-        QTest::newRow("none") << None << u""_s << u""_s << u""_s;
-        QTest::newRow("teenager") << Teenager << u"4W 16B 4G 1N"_s << u"3:6 4:1 6:15 8:1 11:2"_s
-                                  << u"first:8 half:15 last:2"_s;
-        QTest::newRow("single") << AdultSingle << u"3W 32B 4G 1N"_s
-                                << u"3:4 4:1 6:23 7:1 8:2 11:8 15:1"_s
-                                << u"first:18 half:15 last:7"_s;
-        QTest::newRow("one income")
-            << AdultMarriedSingleIncome << u"3W 32B 4G 2N 1G 4B"_s
-            << u"3:6 4:1 6:24 7:1 8:3 11:9 15:2"_s << u"first:23 half:16 last:7"_s;
-        QTest::newRow("two incomes")
-            << AdultMarriedDoubleIncome << u"3W 32B 4G 2N 1G 4B 1W"_s
-            << u"3:6 4:2 6:24 7:1 8:3 11:9 15:2"_s << u"first:23 half:16 last:8"_s;
+        kiv::test::addRows<Shape>(
+            {{"none", {None, {}, {}, {}}},
+             {"teenager",
+              {Teenager, u"4W 16B 4G 1N"_s, u"3:6 4:1 6:15 8:1 11:2"_s,
+               u"first:8 half:15 last:2"_s}},
+             {"single",
+              {AdultSingle, u"3W 32B 4G 1N"_s, u"3:4 4:1 6:23 7:1 8:2 11:8 15:1"_s,
+               u"first:18 half:15 last:7"_s}},
+             {"one income",
+              {AdultMarriedSingleIncome, u"3W 32B 4G 2N 1G 4B"_s,
+               u"3:6 4:1 6:24 7:1 8:3 11:9 15:2"_s, u"first:23 half:16 last:7"_s}},
+             {"two incomes",
+              {AdultMarriedDoubleIncome, u"3W 32B 4G 2N 1G 4B 1W"_s,
+               u"3:6 4:2 6:24 7:1 8:3 11:9 15:2"_s, u"first:23 half:16 last:8"_s}}});
     }
-
     void everyListHasItsShape()
     {
-        QFETCH(const BudgetWizardTemplates, household);
-        QFETCH(const QString, kinds);
-        QFETCH(const QString, frequencies);
-        QFETCH(const QString, days);
+        const auto [household, kinds, frequencies, days] = kiv::test::rowOf<Shape>();
         QString letters;
         std::map<int, int> byFrequency;
         std::map<QString, int> byDay;
@@ -81,11 +78,11 @@ private slots:
         QCOMPARE(listed(byDay), days);
     }
 
-    void refusesAChildAndTheUnknown()
+    void refusesTheUnknown()
     {
-        for (const auto household : {BudgetWizardTemplates::Child, BudgetWizardTemplates(6)})
-            QVERIFY_THROWS_EXCEPTION(std::logic_error,
-                                     (void)makeBudgetItemGenerator(household, jpy)->generate());
+        QVERIFY_THROWS_EXCEPTION(
+            std::logic_error,
+            (void)makeBudgetItemGenerator(BudgetWizardTemplates(6), jpy)->generate());
     }
 };
 

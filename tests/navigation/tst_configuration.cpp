@@ -7,6 +7,7 @@
 #include "numira/error.h"
 #include "numira/library.h"
 
+#include "support/message_log.h"
 #include "support/preferences_store.h"
 
 using kiv::foundation::Percentage;
@@ -41,6 +42,27 @@ BudgetTagManager someTags()
     return BudgetTagManager(tags);
 }
 
+/// All values as text.
+QString valuesOf(const UserPreferences &preferences)
+{
+    const auto code = [](const Currency &currency) {
+        return QString::fromStdString(numira::toStdString(currency));
+    };
+    QString usable;
+    for (const auto &currency : preferences.usableCurrencies())
+        usable += u' ' + code(currency);
+    return u"%1 % %2 h %3 d %4 d %5 %6:"_s.arg(preferences.surveyWindow().rate())
+               .arg(preferences.hoursInWeek().count())
+               .arg(preferences.daysInWeek().count())
+               .arg(preferences.notifyDueWithin().count())
+               .arg(toQString(preferences.currenciesDisplayAs()),
+                    code(preferences.preferredCurrency())) +
+           usable;
+}
+
+const auto defaults = u"2.75 % 40 h 5 d 14 d Symbol EUR: EUR"_s;
+const auto warning = u"The '%1' failed to be converted, using default instead."_s;
+
 ConfigurationData accepted()
 {
     return {36h,
@@ -53,17 +75,19 @@ ConfigurationData accepted()
             Tags{tag("home"), tag("new")}};
 }
 
+using Refused = std::pair<ConfigurationData, QString>;
+
+/// What is stored under a key, the setting that the warning names, and all values then.
+using Misunderstood = std::tuple<QString, QVariant, QString, QString>;
+
 } // namespace
 
 class tst_Configuration : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QLocale::setDefault(QLocale(u"en_US"_s));
-        numira::setUpLibrary({}, "en_US", numira::ShouldAllowFallback::Yes);
-    }
+    void initTestCase() { numira::setUpLibrary({}, "en_US", numira::ShouldAllowFallback::Yes); }
+    void init() { QLocale::setDefault(QLocale(u"de_DE"_s)); }
 
     void storesWhatItLoads()
     {
@@ -79,12 +103,11 @@ private slots:
 
     void refusesWhatIsOutOfRangeAndWritesNothing_data()
     {
-        QTest::addColumn<ConfigurationData>("data");
-        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<Refused>("row");
         const auto row = [](const char *name, const QString &refusal, auto edit) {
             ConfigurationData data = accepted();
             edit(data);
-            QTest::newRow(name) << data << refusal;
+            QTest::newRow(name) << Refused(data, refusal);
         };
         using Data = ConfigurationData;
         using std::chrono::days;
@@ -124,8 +147,7 @@ private slots:
 
     void refusesWhatIsOutOfRangeAndWritesNothing()
     {
-        QFETCH(const ConfigurationData, data);
-        QFETCH(const QString, refusal);
+        const auto [data, refusal] = kiv::test::rowOf<Refused>();
         UserPreferences preferences(m_store.fresh());
         BudgetTagManager tags = someTags();
         const ConfigurationData before = load(preferences, tags);
@@ -194,6 +216,103 @@ private slots:
             const QString said = QString::fromUtf8(program.readAll()).simplified();
             QVERIFY2(said.contains(output), qPrintable(said));
         }
+    }
+
+    void aFreshStoreGivesTheDefaultsSilently()
+    {
+        const MessageLog log;
+        const UserPreferences preferences(m_store.fresh());
+        QCOMPARE(valuesOf(preferences), defaults);
+        QCOMPARE(preferences.surveyWindow().digits(), 6);
+        QVERIFY(!preferences.doesExist() && log.text().isEmpty());
+    }
+
+    void aLocaleWithoutACurrencyGivesDollarsAndOneWarning()
+    {
+        QLocale::setDefault(QLocale::c());
+        const UserPreferences preferences(m_store.fresh());
+        const MessageLog log;
+        QCOMPARE(preferences.preferredCurrency(), usd);
+        QCOMPARE(log.warnings().size(), 1);
+        QVERIFY(log.text().startsWith(warning.arg(u"preferred currency"_s) + u' '));
+        QCOMPARE(preferences.usableCurrencies(), std::set{usd});
+        QCOMPARE(log.warnings().size(), 2);
+    }
+
+    void whatIsSetIsReadBackByEveryone()
+    {
+        const auto path = m_store.fresh();
+        UserPreferences preferences(path);
+        preferences.setSurveyWindow({3.5, 6});
+        preferences.setHoursInWeek(36h);
+        preferences.setDaysInWeek(std::chrono::days(4));
+        preferences.setNotifyDueWithin(std::chrono::days(30));
+        preferences.setCurrenciesDisplayAs(CurrencyDisplayOptions::SymbolAndCode);
+        preferences.setPreferredCurrency(jpy);
+        preferences.setUsableCurrencies({usd, eur, jpy});
+        const auto expected = u"3.5 % 36 h 4 d 30 d Symbol and Code JPY: JPY USD EUR"_s;
+        QCOMPARE(valuesOf(preferences), expected);
+        QCOMPARE(valuesOf(UserPreferences(path)), expected);
+        QVERIFY(preferences.doesExist());
+        QCOMPARE(PreferencesStore::open(path).allKeys().join(u' '),
+                 u"Accounting/SurveyWindow/rate Budgeting/dayInWeek Budgeting/hrInWeek "
+                 "Budgeting/notifyDueWithin Currencies/displayAs Currencies/preferred "
+                 "Currencies/usable"_s);
+
+        preferences.setUsableCurrencies({});
+        const MessageLog log;
+        QVERIFY(UserPreferences(path).usableCurrencies().empty() && log.text().isEmpty());
+    }
+
+    void whatIsNotUnderstoodGivesADefaultAndAWarning_data()
+    {
+        const auto codes = QString(defaults).replace(u"Symbol"_s, u"ISO-4217 Code"_s);
+        const auto dollars = QString(defaults).replace(u"EUR"_s, u"USD"_s);
+        const auto window = u"Accounting/SurveyWindow/rate"_s;
+        const auto preferred = u"Currencies/preferred"_s;
+        const auto usable = u"Currencies/usable"_s;
+        kiv::test::addRows<Misunderstood>(
+            {{"comma", {window, u"3,5"_s, u"survey window"_s, defaults}},
+             {"no number", {window, u"nan"_s, u"survey window"_s, defaults}},
+             {"letters", {u"Budgeting/hrInWeek"_s, u"abc"_s, u"hours in a work week"_s, defaults}},
+             {"a part", {u"Budgeting/hrInWeek"_s, u"37.5"_s, u"hours in a work week"_s, defaults}},
+             {"a list",
+              {u"Budgeting/dayInWeek"_s, QStringList{u"5"_s, u"5"_s}, u"days in a work week"_s,
+               defaults}},
+             {"too many",
+              {u"Budgeting/notifyDueWithin"_s, u"99999999999"_s, u"notify due within"_s, defaults}},
+             {"display",
+              {u"Currencies/displayAs"_s, u"symbol"_s, u"currencies display as"_s, codes}},
+             {"small letters", {preferred, u"eur"_s, u"preferred currency"_s, dollars}},
+             {"hostile", {preferred, u"\x1b[31m\u202e"_s, u"preferred currency"_s, dollars}},
+             {"one of two",
+              {usable, QStringList{u"USD"_s, u"?"_s}, u"usable currencies"_s, defaults}},
+             {"a rectangle", {usable, QRect(1, 2, 3, 4), u"usable currencies"_s, defaults}}});
+    }
+    void whatIsNotUnderstoodGivesADefaultAndAWarning()
+    {
+        const auto [key, value, named, values] = kiv::test::rowOf<Misunderstood>();
+        const auto path = m_store.fresh();
+        PreferencesStore::open(path).setValue(key, value);
+        const UserPreferences preferences(path);
+        const MessageLog log;
+        QCOMPARE(valuesOf(preferences), values);
+        QVERIFY(!log.warnings().isEmpty());
+        for (const QString &line : log.warnings())
+            QVERIFY2(line.startsWith(warning.arg(named)), qPrintable(line));
+        QVERIFY(!log.text().contains(u'\x1b') && !log.text().contains(u'\x202e'));
+    }
+
+    void aStoreThatCannotBeWrittenWarnsOnce()
+    {
+        // A folder stands where the file should be, which even root cannot write.
+        const auto path = m_store.fresh();
+        QVERIFY(QDir().mkpath(m_store.fileOf(path)));
+        const MessageLog log;
+        QCOMPARE(UserPreferences(path).hoursInWeek(), 40h);
+        QCOMPARE(log.warnings(),
+                 QStringList{u"The user preferences file, %1, is not writable."_s.arg(
+                     m_store.fileOf(path))});
     }
 
 private:

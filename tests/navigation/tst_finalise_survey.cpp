@@ -9,12 +9,7 @@ using namespace kiv;
 using namespace kiv::test;
 using accounting::TransactionNumber;
 using accounting::TransactionStatuses;
-using budgeting::Bill;
-using budgeting::EventFrequency;
-using budgeting::Goal;
-using budgeting::Wage;
 using surveying::CompletedSurvey;
-using enum BankAccountTypes;
 
 namespace {
 
@@ -56,15 +51,11 @@ State stateOf(const StatedBooks &books)
     return state;
 }
 
-/// "1 from 5: 7.00 USD, why" for each transaction after the first `count`.
-QStringList postedAfter(const accounting::GeneralLedger &ledger, std::size_t count)
+/// "1 from 5: 7.00 USD, why" for each transaction.
+QStringList posted(const accounting::GeneralLedger &ledger)
 {
     QStringList all;
     for (const auto &transaction : ledger.transactions()) {
-        if (count > 0) {
-            --count;
-            continue;
-        }
         all.append(QStringLiteral("%1 from %2: %3, %4")
                        .arg(presentationText(transaction.debiting().number()),
                             presentationText(transaction.crediting().number()),
@@ -74,11 +65,13 @@ QStringList postedAfter(const accounting::GeneralLedger &ledger, std::size_t cou
     return all;
 }
 
-using Prepare = std::function<void(StatedBooks &, Statement &)>;
+/// What is stated, and the answer to it.
+using Check = std::pair<std::function<void(StatedBooks &, Statement &)>, QString>;
+
+/// The accounts of a transaction, and whether both its sides are reconciled.
+using Sides = std::tuple<std::uint32_t, std::uint32_t, bool>;
 
 } // namespace
-
-Q_DECLARE_METATYPE(Prepare)
 
 class FinaliseSurveyTest : public QObject {
     Q_OBJECT
@@ -86,117 +79,93 @@ class FinaliseSurveyTest : public QObject {
 private slots:
     void checksBeforeItChanges_data()
     {
-        QTest::addColumn<Prepare>("prepare");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](const char *name, Prepare prepare, const char *expected) {
-            QTest::newRow(name) << prepare << QString::fromUtf8(expected);
+        QTest::addColumn<Check>("row");
+        const auto row = [](const char *name, const QString &answer, const auto &prepare) {
+            QTest::newRow(name) << Check(prepare, answer);
         };
-        const auto missing = [&](const char *calculated, const char *balance, bool isAccepted) {
-            const QByteArray name = QByteArray(calculated) + " for " + balance;
-            const QString sign = QString::fromLatin1(*calculated == '-' ? "-$" : "$");
-            QTest::newRow(name.constData())
-                << Prepare([=](auto &books, auto &statement) {
-                       statement.balance = usd(balance);
-                       const bool isPaid = *calculated == '-';
-                       statement.ticked = {isPaid ? books.post(5, 1, calculated + 1)
-                                                  : books.post(1, 5, calculated)};
-                   })
-                << (isAccepted
-                        ? QStringLiteral("accepted")
-                        : QStringLiteral("survey First 1 (checking): The calculated budget item "
-                                         "transaction total, '%1%2', must be within 2.75 % of the "
-                                         "reconciled current balance, '$%3.00'.")
-                              .arg(sign, QString::fromLatin1(calculated).remove(u'-'),
-                                   QString::fromLatin1(balance)));
-        };
-        row(
-            "ticked in another account",
-            [](auto &books, auto &statement) { statement.ticked = {books.post(5, 10)}; },
-            "survey First 1 (checking): The transaction 1 is not in the bank account ledger nor "
-            "one "
-            "of its children.");
-        row(
-            "ticked after the day",
+        const QString accepted = u"accepted"_qs;
+        const QString refused = u"survey First 1 (checking): "_qs;
+        row("ticked in another account",
+            refused + u"The transaction 1 is not in the bank account ledger nor one of its "
+                      "children."_qs,
+            [](auto &books, auto &statement) { statement.ticked = {books.post(5, 10)}; });
+        row("ticked after the day",
+            refused + u"The posting date for transaction 1 is 2026-04-01 which is after the "
+                      "survey date, 2026-03-31."_qs,
             [](auto &books, auto &statement) {
                 statement.ticked = {books.post(5, 2, "7", "2026-04-01")};
-            },
-            "survey First 1 (checking): The posting date for transaction 1 is 2026-04-01 which is "
-            "after the survey date, 2026-03-31.");
-        row(
-            "no such account",
-            [](auto &, auto &statement) { statement.account.account.number = {}; },
-            "account : There is no account with the number 0.");
+            });
+        row("no such account", u"account : There is no account with the number 0."_qs,
+            [](auto &, auto &statement) { statement.account.account.number = {}; });
         for (const bool isTicked : {false, true}) {
-            row(
-                isTicked ? "ticked, of no type" : "of no type",
+            row(isTicked ? "ticked, of no type" : "of no type",
+                u"survey First 1 (unknown): The surveying bank account is neither an asset nor a "
+                "liability!"_qs,
                 [=](auto &books, auto &statement) {
                     statement.account.account.type = Unknown;
                     statement.itemIncreases = {{id<Bill>("Rent"), usd("1")}};
                     if (isTicked)
                         statement.ticked = {books.post(5, 1)};
-                },
-                "survey First 1 (unknown): The surveying bank account is neither an asset nor a "
-                "liability!");
+                });
         }
-        for (const char *calculated : {"0.99", "-0.99", "1.00", "-1.00"})
-            missing(calculated, "0", calculated[1] != '1' && calculated[0] != '1');
-        missing("102.76", "100", false);
-        row(
-            "any total of a liability",
-            [](auto &books, auto &statement) {
-                statement.account = at("First", 3, CreditCard);
-                statement.ticked = {books.post(5, 3)};
-                statement.balance = usd("5000");
-            },
-            "accepted");
-        row(
-            "distribution to a monthly bill",
+        const auto total = [&](const QByteArray &amount, bool isPaid, const char *balance) {
+            row((isPaid ? "-" : "") + amount + " for " + balance,
+                amount == "0.99" ? accepted
+                                 : refused + u"The calculated budget item transaction total, '%1', "
+                                             "must be within 2.75 % of the reconciled current "
+                                             "balance, '$%2.00'."_qs.arg(
+                                                 QLatin1String((isPaid ? "-$" : "$") + amount),
+                                                 QLatin1String(balance)),
+                [=](auto &books, auto &statement) {
+                    statement.balance = usd(balance);
+                    statement.ticked = {isPaid ? books.post(5, 1, amount)
+                                               : books.post(1, 5, amount)};
+                });
+        };
+        for (const char *amount : {"0.99", "1.00"}) {
+            total(amount, false, "0");
+            total(amount, true, "0");
+        }
+        total("102.76", false, "100");
+        row("any total of a liability", accepted, [](auto &books, auto &statement) {
+            statement.account = at("First", 3, CreditCard);
+            statement.ticked = {books.post(5, 3)};
+            statement.balance = usd("5000");
+        });
+        row("distribution to a monthly bill",
+            refused + u"The budget item Rent (bill) cannot be distributed."_qs,
             [](auto &, auto &statement) {
                 statement.distribution = {{id<Bill>("Rent"), {}}, {id<Goal>("Trip"), {}}};
-            },
-            "survey First 1 (checking): The budget item Rent (bill) cannot be distributed.");
-        row(
-            "distribution to a bill to save for",
-            [](auto &, auto &statement) {
-                statement.distribution = {{id<Bill>("Tax"), {usd("3"), {}, usd("120")}}};
-            },
-            "accepted");
-        row(
-            "distribution to an unknown item",
-            [](auto &, auto &statement) {
-                statement.distribution = {{id<Bill>("Flat"), {}}};
-            },
-            "out of range");
-        for (const char *inGoal : {"7.00", "7.01"}) {
-            row(
-                inGoal,
+            });
+        row("distribution to a bill to save for", accepted, [](auto &, auto &statement) {
+            statement.distribution = {{id<Bill>("Tax"), {usd("3"), {}, usd("120")}}};
+        });
+        row("distribution to an unknown item", u"out of range"_qs, [](auto &, auto &statement) {
+            statement.distribution = {{id<Bill>("Flat"), {}}};
+        });
+        for (const bool isMore : {false, true}) {
+            row(isMore ? "more than is in the goal" : "what is in the goal",
+                isMore ? refused + u"Cannot manually distribute into the goal 'Trip'."_qs
+                       : accepted,
                 [=](auto &books, auto &statement) {
                     books.post(9, 1);
-                    statement.distribution = {{id<Goal>("Trip"), {usd(inGoal), {}, usd("100")}}};
-                },
-                QByteArray(inGoal) == "7.00" ? "accepted"
-                                             : "survey First 1 (checking): Cannot manually "
-                                               "distribute into the goal 'Trip'.");
+                    statement.distribution = {
+                        {id<Goal>("Trip"), {usd(isMore ? "7.01" : "7.00"), {}, usd("100")}}};
+                });
         }
-        row(
-            "distribution to a goal without account",
-            [](auto &books, auto &statement) {
-                books.items.clearCodes();
-                statement.distribution = {{id<Goal>("Trip"), {usd("3"), {}, usd("100")}}};
-            },
-            "accepted");
+        row("distribution to a goal without account", accepted, [](auto &books, auto &statement) {
+            books.items.clearCodes();
+            statement.distribution = {{id<Goal>("Trip"), {usd("3"), {}, usd("100")}}};
+        });
     }
     void checksBeforeItChanges()
     {
-        QFETCH(Prepare, prepare);
-        QFETCH(QString, expected);
+        const auto [prepare, expected] = rowOf<Check>();
         StatedBooks books;
         Statement statement;
         prepare(books, statement);
-        if (expected == u"accepted")
-            QCOMPARE(answer([&] { books.complete(statement); }), expected);
-        else
-            QCOMPARE(refusal(books, [&] { books.complete(statement); }), expected);
+        const auto complete = [&] { books.complete(statement); };
+        QCOMPARE(expected == u"accepted" ? answer(complete) : refusal(books, complete), expected);
     }
 
     void theBalanceCountsWhatMovesIt()
@@ -218,29 +187,25 @@ private slots:
         QCOMPARE(answer([&] { books.complete(statement); }), u"accepted");
     }
 
-    // ---- posting ---------------------------------------------------------------
-
     void whatIsMissingIsPosted_data()
     {
-        QTest::addColumn<BankAccount>("account");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("asset") << at("First", 1, Checking)
-                               << QStringList{
-                                      u"1 from 6: 10.02 USD, Additional surveyed income."_qs,
-                                      u"7 from 1: 20.00 USD, Additional surveyed expense."_qs,
-                                      u"1 from 4: 30.00 USD, Extra-budget surveyed income."_qs,
-                                      u"5 from 1: 40.00 USD, Extra-budget surveyed "
-                                      u"expense."_qs};
-        QTest::newRow("liability")
-            << at("First", 3, CreditCard)
-            << QStringList{u"6 from 3: 10.02 USD, Additional surveyed charges."_qs,
-                           u"3 from 7: 20.00 USD, Additional surveyed payments."_qs,
-                           u"4 from 3: 30.00 USD, Extra-budget surveyed charges."_qs,
-                           u"3 from 5: 40.00 USD, Extra-budget surveyed payments."_qs};
+        addRows<std::pair<BankAccount, QStringList>>(
+            {{"asset",
+              {at("First", 1, Checking),
+               {u"1 from 6: 10.02 USD, Additional surveyed income."_qs,
+                u"7 from 1: 20.00 USD, Additional surveyed expense."_qs,
+                u"1 from 4: 30.00 USD, Extra-budget surveyed income."_qs,
+                u"5 from 1: 40.00 USD, Extra-budget surveyed expense."_qs}}},
+             {"liability",
+              {at("First", 3, CreditCard),
+               {u"6 from 3: 10.02 USD, Additional surveyed charges."_qs,
+                u"3 from 7: 20.00 USD, Additional surveyed payments."_qs,
+                u"4 from 3: 30.00 USD, Extra-budget surveyed charges."_qs,
+                u"3 from 5: 40.00 USD, Extra-budget surveyed payments."_qs}}}});
     }
     void whatIsMissingIsPosted()
     {
-        QFETCH(BankAccount, account);
+        const auto [account, expected] = rowOf<std::pair<BankAccount, QStringList>>();
         StatedBooks books;
         Statement statement;
         statement.account = account;
@@ -252,7 +217,7 @@ private slots:
         statement.increases = {{no(4), usd("30")}};
         statement.decreases = {{no(5), usd("40")}, {no(77), usd("0")}};
         books.complete(statement);
-        QTEST(postedAfter(books.ledger, 0), "expected");
+        QCOMPARE(posted(books.ledger), expected);
         for (const auto &transaction : books.ledger.transactions()) {
             QCOMPARE(transaction.status(), TransactionStatuses::Reconciled);
             QCOMPARE(transaction.occurredOn(), day("2026-03-31"));
@@ -277,8 +242,6 @@ private slots:
         QCOMPARE(stateOf(books), expected);
     }
 
-    // ---- recording and reconciling ---------------------------------------------
-
     void theSurveyIsRecorded()
     {
         StatedBooks books;
@@ -297,26 +260,19 @@ private slots:
 
     void sidesAreReconciledWholeOrAlone_data()
     {
-        QTest::addColumn<std::uint32_t>("debit");
-        QTest::addColumn<std::uint32_t>("credit");
-        QTest::addColumn<bool>("isWhole");
-        const auto row = [](const char *name, std::uint32_t debit, std::uint32_t credit,
-                            bool isWhole) { QTest::newRow(name) << debit << credit << isWhole; };
-        row("to an account of no bank", 5, 1, true);
-        row("to an account under it", 2, 1, true);
-        row("to another bank's account", 10, 1, false);
-        row("from another bank's account", 1, 10, false);
-        row("to the card of the same bank", 3, 1, false);
-        row("to an account under another bank's", 11, 1, true);
-        row("under it, to another bank's account", 10, 2, false);
-        row("under it, to an account of no bank", 5, 2, true);
-        row("between two under it", 9, 2, true);
+        addRows<Sides>({{"to an account of no bank", {5, 1, true}},
+                        {"to an account under it", {2, 1, true}},
+                        {"to another bank's account", {10, 1, false}},
+                        {"from another bank's account", {1, 10, false}},
+                        {"to the card of the same bank", {3, 1, false}},
+                        {"to an account under another bank's", {11, 1, true}},
+                        {"under it, to another bank's account", {10, 2, false}},
+                        {"under it, to an account of no bank", {5, 2, true}},
+                        {"between two under it", {9, 2, true}}});
     }
     void sidesAreReconciledWholeOrAlone()
     {
-        QFETCH(std::uint32_t, debit);
-        QFETCH(std::uint32_t, credit);
-        QFETCH(bool, isWhole);
+        const auto [debit, credit, isWhole] = rowOf<Sides>();
         StatedBooks books;
         Statement statement;
         statement.ticked = {books.post(debit, credit, "0.50")};

@@ -10,14 +10,7 @@
 using namespace kiv;
 using namespace kiv::test;
 using accounting::Transaction;
-using budgeting::Bill;
-using budgeting::Debt;
-using budgeting::EventFrequency;
-using budgeting::Goal;
-using budgeting::Nontrack;
-using budgeting::Wage;
 using surveying::MappingSurvey;
-using enum BankAccountTypes;
 
 namespace {
 
@@ -34,6 +27,9 @@ struct MappedBooks : SurveyBooks {
         return surveyOf(at("First", 1, Checking), date);
     }
 };
+
+/// The account that is surveyed, those of a transaction, and what the survey tells.
+using Posting = std::tuple<int, std::uint32_t, std::uint32_t, const char *>;
 
 } // namespace
 
@@ -58,48 +54,38 @@ private slots:
         QCOMPARE(books.checking().expectedBalance(), usd("100"));
     }
 
-    // ---- transactions ----------------------------------------------------------
-
     void postingsAreSorted_data()
     {
-        QTest::addColumn<std::uint32_t>("surveyed");
-        QTest::addColumn<std::uint32_t>("debit");
-        QTest::addColumn<std::uint32_t>("credit");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](std::uint32_t surveyed, const char *name, std::uint32_t debit,
-                            std::uint32_t credit, const char *expected) {
-            QTest::newRow(name) << surveyed << debit << credit << QString::fromLatin1(expected);
-        };
         // A month passed: 10 were put aside for the tax. Nothing lies in the goal's account.
-        row(1, "paid", 5, 1, "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
-        row(1, "received", 1, 5, "7.00; ; Food +1; Tax 10.00, Trip 0.00");
-        row(1, "paid for a monthly bill", 6, 1, "-7.00; Rent -1; ; Tax 10.00, Trip 0.00");
-        row(1, "wage", 1, 8, "7.00; Work +1; ; Tax 10.00, Trip 0.00");
-        row(1, "paid, saved for", 7, 1, "-7.00; Tax -1; ; Tax 17.00, Trip 0.00");
-        row(1, "received back, saved for", 1, 7, "7.00; Tax +1; ; Tax 3.00, Trip 0.00");
-        row(1, "to an account below", 2, 1, "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00");
-        row(1, "from an account below", 1, 2, "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00");
-        row(1, "into a goal below", 9, 1, "0.00; Trip -1; ; Tax 10.00, Trip 7.00");
-        row(1, "paid from below", 5, 2, "-7.00; ; Food -1; Tax 10.00, Trip 0.00");
-        row(1, "paid from a goal below, saved for", 7, 9, "-7.00; Tax -1; ; Tax 17.00, Trip -7.00");
-        row(1, "between two below", 9, 2, "0.00; Trip -1; Savings +1; Tax 10.00, Trip 7.00");
-        row(3, "charged to a card", 5, 3, "7.00; ; Food +1; ");
-        row(3, "bill charged to a card", 7, 3, "7.00; Tax +1; ; ");
-        row(3, "card paid off", 3, 1, "-7.00; ; Checking -1; ");
-        row(3, "charged below a card", 5, 4, "7.00; ; Food +1; ");
+        addRows<Posting>(
+            {{"paid", {1, 5, 1, "-7.00; ; Food -1; Tax 10.00, Trip 0.00"}},
+             {"received", {1, 1, 5, "7.00; ; Food +1; Tax 10.00, Trip 0.00"}},
+             {"paid for a monthly bill", {1, 6, 1, "-7.00; Rent -1; ; Tax 10.00, Trip 0.00"}},
+             {"wage", {1, 1, 8, "7.00; Work +1; ; Tax 10.00, Trip 0.00"}},
+             {"paid, saved for", {1, 7, 1, "-7.00; Tax -1; ; Tax 17.00, Trip 0.00"}},
+             {"received back, saved for", {1, 1, 7, "7.00; Tax +1; ; Tax 3.00, Trip 0.00"}},
+             {"to an account below", {1, 2, 1, "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00"}},
+             {"from an account below", {1, 1, 2, "0.00; ; Savings -1 +1; Tax 10.00, Trip 0.00"}},
+             {"into a goal below", {1, 9, 1, "0.00; Trip -1; ; Tax 10.00, Trip 7.00"}},
+             {"paid from below", {1, 5, 2, "-7.00; ; Food -1; Tax 10.00, Trip 0.00"}},
+             {"paid from a goal below, saved for",
+              {1, 7, 9, "-7.00; Tax -1; ; Tax 17.00, Trip -7.00"}},
+             {"between two below", {1, 9, 2, "0.00; Trip -1; Savings +1; Tax 10.00, Trip 7.00"}},
+             {"charged to a card", {3, 5, 3, "7.00; ; Food +1; "}},
+             {"bill charged to a card", {3, 7, 3, "7.00; Tax +1; ; "}},
+             {"card paid off", {3, 3, 1, "-7.00; ; Checking -1; "}},
+             {"charged below a card", {3, 5, 4, "7.00; ; Food +1; "}}});
     }
     void postingsAreSorted()
     {
-        QFETCH(std::uint32_t, surveyed);
-        QFETCH(std::uint32_t, debit);
-        QFETCH(std::uint32_t, credit);
+        const auto [surveyed, debit, credit, expected] = rowOf<Posting>();
         MappedBooks books;
         books.putBelow(4, "Loan", 3);
         books.post(debit, credit);
         const State before = stateOf(books);
         const MappingSurvey survey =
             surveyed == 3 ? books.surveyOf(at("First", 3, CreditCard)) : books.checking();
-        QTEST(told(survey), "expected");
+        QCOMPARE(told(survey), QLatin1String(expected));
         QCOMPARE(survey.budgetItemChanges().size(), 4u);
         QCOMPARE(survey.amountDue().has_value(), surveyed == 1);
         QCOMPARE(stateOf(books), before);
@@ -178,31 +164,29 @@ private slots:
                  money("EUR", "15"));
     }
 
-    // ---- what is expected and due ----------------------------------------------
-
     void anItemIsExpectedForEveryOccurrence_data()
     {
-        QTest::addColumn<QDate>("next");
-        QTest::addColumn<numira::Money>("expected");
-        QTest::newRow("a part of one") << day("2026-09-30") << usd("120");
-        QTest::newRow("on the day") << day("2026-03-30") << usd("120");
-        QTest::newRow("one") << day("2027-03-30") << usd("120");
-        QTest::newRow("one and a half") << day("2027-09-30") << usd("180");
-        QTest::newRow("one and a half missed") << day("2024-09-30") << usd("180");
+        addRows<std::pair<const char *, const char *>>(
+            {{"a part of one", {"2026-09-30", "120"}},
+             {"on the day", {"2026-03-30", "120"}},
+             {"one", {"2027-03-30", "120"}},
+             {"one and a half", {"2027-09-30", "180"}},
+             {"one and a half missed", {"2024-09-30", "180"}}});
     }
     void anItemIsExpectedForEveryOccurrence()
     {
-        QFETCH(QDate, next);
+        const auto [next, expected] = rowOf<std::pair<const char *, const char *>>();
         MappedBooks books;
-        books.items.update(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, next),
+        books.items.update(item<Bill>("Tax", usd("120"), EventFrequency::Yearly, day(next)),
                            *books.generator);
         // Of a goal it is the target that is expected.
-        books.items.update(item<Goal>("Trip", usd("9"), EventFrequency::Yearly, next, usd("120")),
-                           *books.generator);
+        books.items.update(
+            item<Goal>("Trip", usd("9"), EventFrequency::Yearly, day(next), usd("120")),
+            *books.generator);
         const surveying::Distribution proposed = books.checking("2026-03-30").distributions();
         for (const auto &item : {id<Bill>("Tax"), id<Goal>("Trip")}) {
-            QCOMPARE(proposed.at(item).nextOccurOn(), next);
-            QTEST(proposed.at(item).expected(), "expected");
+            QCOMPARE(proposed.at(item).nextOccurOn(), day(next));
+            QCOMPARE(proposed.at(item).expected(), usd(expected));
         }
     }
 

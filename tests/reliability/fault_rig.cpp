@@ -297,13 +297,6 @@ QString FaultRig::brokenPromise(const Rows::value_type &row, Fault::Place place,
                                   broken.join(u"; "_qs);
 }
 
-void addStates()
-{
-    QTest::addColumn<Request>("prepare");
-    for (const auto &[name, prepare] : allStates())
-        QTest::newRow(name.constData()) << prepare;
-}
-
 void checkRequests(Fault::Place place, int runs)
 {
     QFETCH(const Request, prepare);

@@ -39,9 +39,6 @@ private:
     std::optional<QString> m_thrown;
 };
 
-/// A row for each state of a budget.
-void addStates();
-
 /// Makes all requests in the state of the row, those to the network as well, and lets
 /// their calls fail: each call with so many of the three kinds of error, in turn, or
 /// memory at so many of the places that ask for some.

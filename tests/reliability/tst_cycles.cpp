@@ -6,10 +6,6 @@
 #include "storage/budget_file.h"
 #include "support/damage.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimer>
-
 #include <malloc.h>
 
 using namespace kiv;

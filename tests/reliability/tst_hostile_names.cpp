@@ -5,12 +5,6 @@
 
 #include "storage/budget_file.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-
 using namespace kiv;
 using namespace kiv::test;
 
@@ -61,11 +55,113 @@ class HostileNames : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void neverReachTheTerminal_data();
-    void neverReachTheTerminal();
-    void areNoFormulaInATable();
-    void areWholeInJson();
+    void initTestCase()
+    {
+        Desk desk;
+        std::uint32_t number = 100'000; // far from those of the bills
+        desk.navigator->onAddedAct(accounting::Account(accounting::AccountTypes::Asset,
+                                                       code(number, "Cash"), usd("0"), false));
+        for (const QString &name : m_names) {
+            desk.navigator->onAddedAct(accounting::Account(
+                accounting::AccountTypes::Asset, accounting::AccountCode(no(++number), name, {}),
+                usd("0"), false));
+            desk.navigator->onBankAdded(banking::Bank(banking::BankName(name), {}, false));
+            const budgeting::Bill bill(budgeting::BudgetSource(name + u'!'), usd("1"),
+                                       budgeting::EventFrequency::Monthly, day("2026-01-31"));
+            desk.navigator->onAdded(element(), toBudgetItemTypes(bill), bill, {},
+                                    tagged(bill, {tagging::Tag(name)}));
+            desk.navigator->onAddedTransaction(
+                {day("2026-01-31"), no(100'001), no(100'000), usd("1"), name});
+            for (const QString &line : desk.take()) {
+                if (line.startsWith(u"- ") || line.startsWith(u"! ") || line.startsWith(u"? "))
+                    QVERIFY2(hostileIn(line) == 0 && !line.contains(u'\n'),
+                             line.left(100).toUtf8().toHex());
+            }
+        }
+        const storage::BudgetStorage::Data data = desk.save();
+        for (const accounting::Account &account : data.generalLedger.accounts())
+            m_kept.insert(account.code().name());
+        std::set<QString> described;
+        for (const accounting::Transaction &transaction : data.generalLedger.transactions())
+            described.insert(transaction.description().value_or(QString()));
+        for (const QString &name : m_names) {
+            const budgeting::BudgetSource bill(name + u'!');
+            const bool isKept =
+                m_kept.contains(name) && data.banks.hasBank(banking::BankName(name)) &&
+                data.budget.bills.sources().contains(bill) && described.contains(name) &&
+                data.itemTags.tags({budgeting::BudgetItemTypes::Bill, bill}) ==
+                    tagging::Tags{tagging::Tag(name)};
+            QVERIFY2(isKept, name.left(100).toUtf8().toHex());
+        }
+        storage::BudgetFile file;
+        file.setFilePathName(m_path);
+        file.store(data);
+    }
+
+    void neverReachTheTerminal_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        for (const char *command :
+             {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
+              "tags list", "ledger 100001", "export --format journal", "export --format json",
+              "report --chart", "report --html"})
+            QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
+    }
+    void neverReachTheTerminal()
+    {
+        QFETCH(QStringList, arguments);
+        const QByteArray output = kiv(arguments);
+        QVERIFY2(!output.startsWith("failed"), output.left(300).constData());
+        QVERIFY(QString::fromUtf8(output).toUtf8() == output);
+        for (const QByteArray &text : {output, m_errors}) {
+            const char32_t hostile = hostileIn(QString::fromUtf8(text));
+            QVERIFY2(hostile == 0, qPrintable(QString::number(uint(hostile), 16)));
+        }
+    }
+
+    void areNoFormulaInATable()
+    {
+        const QByteArray table = kiv({u"export"_qs, u"--format"_qs, u"csv"_qs});
+        bool isQuoted = false;
+        bool isBegin = true;
+        int cells = 0;
+        for (const char c : table) {
+            if (isBegin && c == '"' && !isQuoted) {
+                isQuoted = true;
+                continue;
+            }
+            if (isBegin) {
+                const bool isEmpty = !isQuoted && c == '\r'; // at the end of a line
+                QVERIFY2(isEmpty || !QByteArray("=+-@\t\r").contains(c),
+                         table.left(300).constData());
+                ++cells;
+            }
+            isBegin = !isQuoted && (c == ',' || c == '\n');
+            if (c == '"')
+                isQuoted = !isQuoted;
+        }
+        QVERIFY(cells > 500);
+        QVERIFY(hostileIn(QString::fromUtf8(table).remove(u'\r')) == 0);
+    }
+
+    void areWholeInJson()
+    {
+        const QByteArray output = kiv({u"accounts"_qs, u"--json"_qs});
+        const QJsonDocument document = QJsonDocument::fromJson(output);
+        QVERIFY2(!document.isNull(), output.left(300).constData());
+        std::set<QString> names;
+        const QJsonArray accounts = document.isArray()
+                                        ? document.array()
+                                        : document.object().value(u"accounts"_qs).toArray();
+        for (const QJsonValue &account : accounts)
+            names.insert(account[u"name"_qs].toString());
+        for (const QString &name : m_kept) {
+            // Half a character has no form in UTF-8; JSON has its replacement.
+            if (name.isValidUtf16())
+                QVERIFY2(names.contains(name), qPrintable(name.left(100)));
+        }
+        QVERIFY(hostileIn(QString::fromUtf8(output)) == 0);
+    }
 
 private:
     QByteArray kiv(const QStringList &arguments)
@@ -87,113 +183,6 @@ private:
     std::set<QString> m_kept; ///< the names of accounts
     QByteArray m_errors;
 };
-
-void HostileNames::initTestCase()
-{
-    Desk desk;
-    std::uint32_t number = 100'000; // far from those of the bills
-    desk.navigator->onAddedAct(accounting::Account(accounting::AccountTypes::Asset,
-                                                   code(number, "Cash"), usd("0"), false));
-    for (const QString &name : m_names) {
-        desk.navigator->onAddedAct(
-            accounting::Account(accounting::AccountTypes::Asset,
-                                accounting::AccountCode(no(++number), name, {}), usd("0"), false));
-        desk.navigator->onBankAdded(banking::Bank(banking::BankName(name), {}, false));
-        const budgeting::Bill bill(budgeting::BudgetSource(name + u'!'), usd("1"),
-                                   budgeting::EventFrequency::Monthly, day("2026-01-31"));
-        desk.navigator->onAdded(element(), toBudgetItemTypes(bill), bill, {},
-                                tagged(bill, {tagging::Tag(name)}));
-        desk.navigator->onAddedTransaction(
-            {day("2026-01-31"), no(100'001), no(100'000), usd("1"), name});
-        for (const QString &line : desk.take()) {
-            if (line.startsWith(u"- ") || line.startsWith(u"! ") || line.startsWith(u"? "))
-                QVERIFY2(hostileIn(line) == 0 && !line.contains(u'\n'),
-                         line.left(100).toUtf8().toHex());
-        }
-    }
-    const storage::BudgetStorage::Data data = desk.save();
-    for (const accounting::Account &account : data.generalLedger.accounts())
-        m_kept.insert(account.code().name());
-    std::set<QString> described;
-    for (const accounting::Transaction &transaction : data.generalLedger.transactions())
-        described.insert(transaction.description().value_or(QString()));
-    for (const QString &name : m_names) {
-        const budgeting::BudgetSource bill(name + u'!');
-        const bool isKept = m_kept.contains(name) && data.banks.hasBank(banking::BankName(name)) &&
-                            data.budget.bills.sources().contains(bill) &&
-                            described.contains(name) &&
-                            data.itemTags.tags({budgeting::BudgetItemTypes::Bill, bill}) ==
-                                tagging::Tags{tagging::Tag(name)};
-        QVERIFY2(isKept, name.left(100).toUtf8().toHex());
-    }
-    storage::BudgetFile file;
-    file.setFilePathName(m_path);
-    file.store(data);
-}
-
-void HostileNames::neverReachTheTerminal_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    for (const char *command :
-         {"accounts", "banks", "transactions", "bill list", "due", "info", "dashboard", "check",
-          "tags list", "ledger 100001", "export --format journal", "export --format json",
-          "report --chart", "report --html"})
-        QTest::newRow(command) << QString::fromLatin1(command).split(u' ');
-}
-
-void HostileNames::neverReachTheTerminal()
-{
-    QFETCH(QStringList, arguments);
-    const QByteArray output = kiv(arguments);
-    QVERIFY2(!output.startsWith("failed"), output.left(300).constData());
-    QVERIFY(QString::fromUtf8(output).toUtf8() == output);
-    for (const QByteArray &text : {output, m_errors}) {
-        const char32_t hostile = hostileIn(QString::fromUtf8(text));
-        QVERIFY2(hostile == 0, qPrintable(QString::number(uint(hostile), 16)));
-    }
-}
-
-void HostileNames::areNoFormulaInATable()
-{
-    const QByteArray table = kiv({u"export"_qs, u"--format"_qs, u"csv"_qs});
-    bool isQuoted = false;
-    bool isBegin = true;
-    int cells = 0;
-    for (const char c : table) {
-        if (isBegin && c == '"' && !isQuoted) {
-            isQuoted = true;
-            continue;
-        }
-        if (isBegin) {
-            const bool isEmpty = !isQuoted && c == '\r'; // at the end of a line
-            QVERIFY2(isEmpty || !QByteArray("=+-@\t\r").contains(c), table.left(300).constData());
-            ++cells;
-        }
-        isBegin = !isQuoted && (c == ',' || c == '\n');
-        if (c == '"')
-            isQuoted = !isQuoted;
-    }
-    QVERIFY(cells > 500);
-    QVERIFY(hostileIn(QString::fromUtf8(table).remove(u'\r')) == 0);
-}
-
-void HostileNames::areWholeInJson()
-{
-    const QByteArray output = kiv({u"accounts"_qs, u"--json"_qs});
-    const QJsonDocument document = QJsonDocument::fromJson(output);
-    QVERIFY2(!document.isNull(), output.left(300).constData());
-    std::set<QString> names;
-    const QJsonArray accounts =
-        document.isArray() ? document.array() : document.object().value(u"accounts"_qs).toArray();
-    for (const QJsonValue &account : accounts)
-        names.insert(account[u"name"_qs].toString());
-    for (const QString &name : m_kept) {
-        // Half a character has no form in UTF-8; JSON has its replacement.
-        if (name.isValidUtf16())
-            QVERIFY2(names.contains(name), qPrintable(name.left(100)));
-    }
-    QVERIFY(hostileIn(QString::fromUtf8(output)) == 0);
-}
 
 static const kiv::test::Suite<HostileNames> suite;
 #include "tst_hostile_names.moc"

@@ -6,7 +6,7 @@
 #include "budgeting/item_account.h"
 #include "numira/library.h"
 
-#include "accounting/number_handout.h"
+#include "support/accounting.h"
 
 #include <functional>
 #include <random>
@@ -41,22 +41,17 @@ public:
 private:
     void change(int what)
     {
+        static constexpr std::array additions{&RandomBudget::addAccount,
+                                              &RandomBudget::addItem<budgeting::Bill>,
+                                              &RandomBudget::addItem<budgeting::Debt>,
+                                              &RandomBudget::addItem<budgeting::Goal>,
+                                              &RandomBudget::addItem<budgeting::Wage>,
+                                              &RandomBudget::addBank,
+                                              &RandomBudget::addSurvey};
+        if (what < 7)
+            return (this->*additions.at(static_cast<std::size_t>(what)))();
         auto &ledger = m_data.generalLedger;
         switch (what) {
-        case 0:
-            return addAccount();
-        case 1:
-            return addItem(std::type_identity<budgeting::Bill>{});
-        case 2:
-            return addItem(std::type_identity<budgeting::Debt>{});
-        case 3:
-            return addItem(std::type_identity<budgeting::Goal>{});
-        case 4:
-            return addItem(std::type_identity<budgeting::Wage>{});
-        case 5:
-            return addBank();
-        case 6:
-            return addSurvey();
         case 7: {
             const auto code = ledger.accountCode(account());
             if (m_pick(2))
@@ -120,7 +115,7 @@ private:
     }
 
     template <typename Item>
-    void addItem(std::type_identity<Item>)
+    void addItem()
     {
         const budgeting::BudgetSource source(name());
         const auto period = static_cast<budgeting::EventFrequency>(m_pick(16));
@@ -226,19 +221,13 @@ private:
 /// Two accounts with that many transactions.
 inline RandomBudget::Data budgetWith(int transactions)
 {
-    const numira::Currency usd = numira::toCurrency("USD");
     RandomBudget::Data data;
     accounting::SequentialAccountNumberGenerator generator;
     for (const std::uint32_t number : {1U, 2U})
-        data.generalLedger.add({accounting::AccountTypes::Asset,
-                                {accounting::AccountNumber(number), QStringLiteral("a"), {}},
-                                numira::Money(usd),
-                                false},
-                               generator);
+        addAccount(data.generalLedger, generator, accounting::AccountTypes::Asset, no(number), "a");
     for (int i = 0; i < transactions; ++i)
-        data.generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), accounting::AccountNumber(1),
-                                 accounting::AccountNumber(2),
-                                 numira::Money(usd, std::int64_t(i + 5), 0),
+        data.generalLedger.post({QDate(2026, 1, 1).addDays(i % 3650), no(1), no(2),
+                                 numira::Money(usd("0").code(), std::int64_t(i + 5), 0),
                                  QStringLiteral("shopping")});
     return data;
 }
@@ -253,17 +242,15 @@ inline RandomBudget::Data someBudget(unsigned seed, int steps)
 /// The first part of the data in which the two differ; empty when none does.
 inline QString difference(const RandomBudget::Data &a, const RandomBudget::Data &b)
 {
-    if (!(a.generalLedger == b.generalLedger))
-        return QStringLiteral("ledger");
-    if (!(a.budget == b.budget))
-        return QStringLiteral("budget");
-    if (!(a.budgetAccountCodes == b.budgetAccountCodes))
-        return QStringLiteral("item accounts");
-    if (!(a.banks == b.banks))
-        return QStringLiteral("banks");
-    if (!(a.surveys == b.surveys))
-        return QStringLiteral("surveys");
-    return a.itemTags == b.itemTags ? QString() : QStringLiteral("tags");
+    const std::pair<bool, const char *> parts[] = {
+        {a.generalLedger == b.generalLedger, "ledger"},
+        {a.budget == b.budget, "budget"},
+        {a.budgetAccountCodes == b.budgetAccountCodes, "item accounts"},
+        {a.banks == b.banks, "banks"},
+        {a.surveys == b.surveys, "surveys"},
+        {a.itemTags == b.itemTags, "tags"}};
+    const auto *part = std::ranges::find(parts, false, &std::pair<bool, const char *>::first);
+    return part == std::end(parts) ? QString() : QString::fromLatin1(part->second);
 }
 
 } // namespace kiv::test

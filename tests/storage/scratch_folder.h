@@ -155,14 +155,17 @@ inline storage::BudgetStorage::Data load(const QString &path)
     return file.load();
 }
 
-/// The names of the files in the folder in which anybody can read of a budget.
-inline QString inTheClear(const QString &folder)
+/// The names of the files beside a budget and among its versions in which anybody can read
+/// of a budget.
+inline QString inTheClear(const QString &budget)
 {
     QStringList found;
-    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
-        const QByteArray bytes = contentOf(folder + u'/' + name);
-        if (bytes.contains("SQLite") || bytes.contains("transactions"))
-            found.append(name);
+    for (const QString &folder : {QFileInfo(budget).path(), budget + u".versions"_qs}) {
+        for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden)) {
+            const QByteArray bytes = contentOf(folder + u'/' + name);
+            if (bytes.contains("SQLite") || bytes.contains("transactions"))
+                found.append(name);
+        }
     }
     return found.join(u' ');
 }

@@ -5,9 +5,6 @@
 #include "storage/internal/note_text.h"
 #include "storage/notes.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonObject>
-
 using namespace kiv::storage;
 using internal::noteFromText;
 using internal::noteText;

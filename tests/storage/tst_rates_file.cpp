@@ -5,22 +5,101 @@
 
 #include "storage/rates_file.h"
 
-#include <QtCore/QLockFile>
-#include <QtTest/QTest>
-
 using namespace kiv;
 using conversion::ConversionMap;
 using storage::RatesFile;
 using storage::StorageFailure;
 
+/// What is replaced in a file, by what, and how the file is refused.
+using Change = std::tuple<QByteArray, QByteArray, StorageFailure>;
+
 class RatesFileTest final : public QObject {
     Q_OBJECT
 
 private slots:
-    void ratesAreReadAsTheyWereStored();
-    void whatIsInTheWayIsToldOf();
-    void otherFilesAreRefused_data();
-    void otherFilesAreRefused();
+    void ratesAreReadAsTheyWereStored()
+    {
+        const test::ScratchFolder folder;
+        RatesFile file(folder.path(u"new/rates"_qs));
+        QVERIFY(!file.exists());
+        QCOMPARE(test::failureOf([&] { (void)file.load(); }), StorageFailure::NotFound);
+        for (const ConversionMap &rates :
+             {ConversionMap(),
+              ConversionMap(numira::toCurrency("EUR"), someRates().fetchedAt(), {}), someRates()}) {
+            file.store(rates);
+            QVERIFY(file.exists());
+            QVERIFY(file.load() == rates);
+        }
+        file.store({}); // nothing takes the place of something
+        QVERIFY(file.load() == someRates());
+        // The first form, without origins.
+        folder.write(u"new/rates"_qs,
+                     "kiv-exchange-rates 1\nbase USD\nfetched 2026-03-31T12:00:00.007Z\n"
+                     "JPY 151.42\nsha256 c370196dcd33de6ba3382b129d57b0016142afe7"
+                     "c882f033ff3ef16336568851\n");
+        QCOMPARE(file.load(),
+                 ConversionMap(someRates().base(), someRates().fetchedAt(),
+                               {{numira::toCurrency("JPY"), numira::FloatingPoint("151.42")}}));
+        QCOMPARE(folder.names(), QStringList(u"new"_qs));
+        QCOMPARE(QDir(folder.path(u"new"_qs)).entryList(QDir::Files | QDir::Hidden),
+                 QStringList(u"rates"_qs));
+    }
+
+    void whatIsInTheWayIsToldOf()
+    {
+        const test::ScratchFolder folder;
+        folder.write(u"rates"_qs, {});
+        QCOMPARE(test::failureOf([&] { (void)RatesFile(folder.path(u"rates"_qs)).load(); }),
+                 StorageFailure::NotOurs);
+        RatesFile inAFile(folder.path(u"rates/rates"_qs));
+        QCOMPARE(test::failureOf([&] { inAFile.store(someRates()); }), StorageFailure::CannotWrite);
+        RatesFile atAFolder(folder.path(u"third"_qs));
+        QCOMPARE(test::failureOf([&] { (void)atAFolder.load(); }), StorageFailure::NotFound);
+        QVERIFY(QDir().mkdir(folder.path(u"third.lock"_qs)));
+        QCOMPARE(test::failureOf([&] { atAFolder.store(someRates()); }), StorageFailure::NotOurs);
+        QCOMPARE(test::failureOf([] { (void)RatesFile(QString()).load(); }),
+                 StorageFailure::NoName);
+
+        // Another process that stores its own is waited for, but not for ever.
+        RatesFile file(folder.path(u"other"_qs));
+        QLockFile lock(folder.path(u"other.lock"_qs));
+        QVERIFY(lock.lock());
+        QCOMPARE(test::failureOf([&] { file.store(someRates()); }), StorageFailure::Locked);
+        QVERIFY(!file.exists());
+    }
+
+    void otherFilesAreRefused_data()
+    {
+        using enum StorageFailure;
+        test::addRows<Change>(
+            {{"another kind", {"kiv-exchange-rates", "kiv-exchange", NotOurs}},
+             {"newer", {"rates 2", "rates 3", Newer}},
+             {"a rate changed", {"151.42", "151.43", Damaged}},
+             {"no checksum", {"sha256", "sha", Damaged}},
+             {"something behind it", {"\nsha256", "\nsha256 \nsha256", Damaged}}});
+    }
+    void otherFilesAreRefused()
+    {
+        const auto [from, to, failure] = test::rowOf<Change>();
+        const test::ScratchFolder folder;
+        RatesFile file(folder.path(u"rates"_qs));
+        file.store(someRates());
+        QByteArray bytes = folder.read(u"rates"_qs);
+        QVERIFY(bytes.contains(from));
+        bytes.replace(from, to);
+        folder.write(u"rates"_qs, bytes);
+        QCOMPARE(test::failureOf([&] { (void)file.load(); }), failure);
+        QCOMPARE(folder.read(u"rates"_qs), bytes);
+
+        // It is set aside, and so is the next one.
+        for (const QString &aside : {u"rates.unreadable"_qs, u"rates.unreadable-2"_qs}) {
+            folder.write(u"rates"_qs, bytes);
+            file.store({});
+            QCOMPARE(folder.read(aside), bytes);
+            QVERIFY(file.load().isEmpty());
+        }
+        QCOMPARE(folder.names().size(), 3);
+    }
 
 private:
     static ConversionMap someRates()
@@ -35,95 +114,6 @@ private:
                                         {conversion::RateSource::Typed, QDate(2026, 3, 30)}}}};
     }
 };
-
-void RatesFileTest::ratesAreReadAsTheyWereStored()
-{
-    const test::ScratchFolder folder;
-    RatesFile file(folder.path(u"new/rates"_qs));
-    QVERIFY(!file.exists());
-    QCOMPARE(test::failureOf([&] { (void)file.load(); }), StorageFailure::NotFound);
-    for (const ConversionMap &rates :
-         {ConversionMap(), ConversionMap(numira::toCurrency("EUR"), someRates().fetchedAt(), {}),
-          someRates()}) {
-        file.store(rates);
-        QVERIFY(file.exists());
-        QVERIFY(file.load() == rates);
-    }
-    file.store({}); // nothing takes the place of something
-    QVERIFY(file.load() == someRates());
-    // The first form, without origins.
-    folder.write(u"new/rates"_qs,
-                 "kiv-exchange-rates 1\nbase USD\nfetched 2026-03-31T12:00:00.007Z\n"
-                 "JPY 151.42\nsha256 c370196dcd33de6ba3382b129d57b0016142afe7"
-                 "c882f033ff3ef16336568851\n");
-    QCOMPARE(file.load(),
-             ConversionMap(someRates().base(), someRates().fetchedAt(),
-                           {{numira::toCurrency("JPY"), numira::FloatingPoint("151.42")}}));
-    QCOMPARE(folder.names(), QStringList(u"new"_qs));
-    QCOMPARE(QDir(folder.path(u"new"_qs)).entryList(QDir::Files | QDir::Hidden),
-             QStringList(u"rates"_qs));
-}
-
-void RatesFileTest::whatIsInTheWayIsToldOf()
-{
-    const test::ScratchFolder folder;
-    folder.write(u"rates"_qs, {});
-    QCOMPARE(test::failureOf([&] { (void)RatesFile(folder.path(u"rates"_qs)).load(); }),
-             StorageFailure::NotOurs);
-    RatesFile inAFile(folder.path(u"rates/rates"_qs));
-    QCOMPARE(test::failureOf([&] { inAFile.store(someRates()); }), StorageFailure::CannotWrite);
-    RatesFile atAFolder(folder.path(u"third"_qs));
-    QCOMPARE(test::failureOf([&] { (void)atAFolder.load(); }), StorageFailure::NotFound);
-    QVERIFY(QDir().mkdir(folder.path(u"third.lock"_qs)));
-    QCOMPARE(test::failureOf([&] { atAFolder.store(someRates()); }), StorageFailure::NotOurs);
-    QCOMPARE(test::failureOf([] { (void)RatesFile(QString()).load(); }), StorageFailure::NoName);
-
-    // Another process that stores its own is waited for, but not for ever.
-    RatesFile file(folder.path(u"other"_qs));
-    QLockFile lock(folder.path(u"other.lock"_qs));
-    QVERIFY(lock.lock());
-    QCOMPARE(test::failureOf([&] { file.store(someRates()); }), StorageFailure::Locked);
-    QVERIFY(!file.exists());
-}
-
-void RatesFileTest::otherFilesAreRefused_data()
-{
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::addColumn<StorageFailure>("failure");
-    const auto row = [](const char *name, const QByteArray &from, const QByteArray &to,
-                        StorageFailure failure) { QTest::newRow(name) << from << to << failure; };
-    row("another kind", "kiv-exchange-rates", "kiv-exchange", StorageFailure::NotOurs);
-    row("newer", "rates 2", "rates 3", StorageFailure::Newer);
-    row("a rate changed", "151.42", "151.43", StorageFailure::Damaged);
-    row("no checksum", "sha256", "sha", StorageFailure::Damaged);
-    row("something behind it", "\nsha256", "\nsha256 \nsha256", StorageFailure::Damaged);
-}
-
-void RatesFileTest::otherFilesAreRefused()
-{
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    QFETCH(StorageFailure, failure);
-    const test::ScratchFolder folder;
-    RatesFile file(folder.path(u"rates"_qs));
-    file.store(someRates());
-    QByteArray bytes = folder.read(u"rates"_qs);
-    QVERIFY(bytes.contains(from));
-    bytes.replace(from, to);
-    folder.write(u"rates"_qs, bytes);
-    QCOMPARE(test::failureOf([&] { (void)file.load(); }), failure);
-    QCOMPARE(folder.read(u"rates"_qs), bytes);
-
-    // It is set aside, and so is the next one.
-    for (const QString &aside : {u"rates.unreadable"_qs, u"rates.unreadable-2"_qs}) {
-        folder.write(u"rates"_qs, bytes);
-        file.store({});
-        QCOMPARE(folder.read(aside), bytes);
-        QVERIFY(file.load().isEmpty());
-    }
-    QCOMPARE(folder.names().size(), 3);
-}
 
 static const kiv::test::Suite<RatesFileTest> suite;
 #include "tst_rates_file.moc"

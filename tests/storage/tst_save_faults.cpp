@@ -94,12 +94,6 @@ struct Desk {
         names.removeAll(lock);
         return names;
     }
-    /// The files whose content anybody can read.
-    [[nodiscard]] QString readable() const
-    {
-        QString found = test::inTheClear(folder.path({}));
-        return found + test::inTheClear(path + u".versions/"_qs);
-    }
     [[nodiscard]] QStringList kept() const { return test::versionsOf(path); }
     [[nodiscard]] QByteArray image(const QString &which) const
     {
@@ -160,8 +154,9 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
         return QStringLiteral("the next save failed");
     if (desk.kept().mid(1) != keptThen)
         return QStringLiteral("the next save lost a former version");
-    if (test::isEncrypting && !desk.readable().isEmpty())
-        return QStringLiteral("left in the clear: %1").arg(desk.readable());
+    const QString readable = test::inTheClear(desk.path);
+    if (test::isEncrypting && !readable.isEmpty())
+        return QStringLiteral("left in the clear: %1").arg(readable);
     for (const QString &left : desk.names()) {
         if (!left.startsWith(name) && !left.endsWith(u"Z-1.budget"_qs) &&
             !left.endsWith(u"Z-2.budget"_qs) && !left.endsWith(u"Z-3.budget"_qs))
@@ -201,6 +196,9 @@ QString firstBrokenPromise(Saver save, const std::string &call, int count, Stand
     return {};
 }
 
+/// A call that a save makes, how often, of what file, and whether that is encrypted.
+using Call = std::tuple<std::string, int, Standing, bool>;
+
 using Meanwhile = std::function<void(const Desk &)>;
 
 /// What a saving or a loading program meets at one of its calls, and what comes of it.
@@ -224,222 +222,208 @@ class SaveFaultsTest final : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase()
+    {
+        for (const int version : {1, 2, 3, 4})
+            QVERIFY(!bytesOf(version).isEmpty()); // made before any call fails
+    }
+
     void cleanup() { test::isEncrypting = false; }
-    void aCarelessSaverIsCaught();
-    void everyFailureLeavesAWholeFile_data();
-    void everyFailureLeavesAWholeFile();
-    void whateverIsMetIsToldRight_data();
-    void whateverIsMetIsToldRight();
-    void theLockFileGoesWithTheFile();
-    void rightsOfALostGroupGoToNobody();
-};
+    void aCarelessSaverIsCaught()
+    {
+        const int writes = callsOf(&Desk::saveCarelessly, Standing::Open).at("write");
+        QVERIFY(writes > 0);
+        QVERIFY(
+            !firstBrokenPromise(&Desk::saveCarelessly, "write", writes, Standing::Open).isEmpty());
+    }
 
-void SaveFaultsTest::initTestCase()
-{
-    for (const int version : {1, 2, 3, 4})
-        QVERIFY(!bytesOf(version).isEmpty()); // made before any call fails
-}
-
-void SaveFaultsTest::aCarelessSaverIsCaught()
-{
-    const int writes = callsOf(&Desk::saveCarelessly, Standing::Open).at("write");
-    QVERIFY(writes > 0);
-    QVERIFY(!firstBrokenPromise(&Desk::saveCarelessly, "write", writes, Standing::Open).isEmpty());
-}
-
-void SaveFaultsTest::everyFailureLeavesAWholeFile_data()
-{
-    QTest::addColumn<std::string>("call");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<Standing>("standing");
-    QTest::addColumn<bool>("isEncrypted");
-    for (const bool isEncrypted : {false, true}) {
+    void everyFailureLeavesAWholeFile_data()
+    {
+        QTest::addColumn<Call>("row");
+        for (const bool isEncrypted : {false, true}) {
+            test::isEncrypting = isEncrypted;
+            for (const auto &[standing, words] :
+                 {std::pair(Standing::Open, ""),
+                  std::pair(Standing::First, " of the first version"),
+                  std::pair(Standing::NotOpen, " of a file not opened"),
+                  std::pair(Standing::New, " of a new file")}) {
+                if (isEncrypted && standing != Standing::Open && randomRuns(0) == 0)
+                    continue;
+                for (const auto &[call, count] : callsOf(&Desk::save, standing))
+                    QTest::addRow("%s%s%s", call.c_str(), words, isEncrypted ? ", encrypted" : "")
+                        << Call(call, count, standing, isEncrypted);
+            }
+        }
+        test::isEncrypting = false;
+    }
+    void everyFailureLeavesAWholeFile()
+    {
+        const auto [call, count, standing, isEncrypted] = test::rowOf<Call>();
+        const MessageLog log; // a version that is not removed is a warning
         test::isEncrypting = isEncrypted;
-        for (const auto &[standing, words] :
-             {std::pair(Standing::Open, ""), std::pair(Standing::First, " of the first version"),
-              std::pair(Standing::NotOpen, " of a file not opened"),
-              std::pair(Standing::New, " of a new file")}) {
-            if (isEncrypted && standing != Standing::Open && randomRuns(0) == 0)
-                continue;
-            for (const auto &[call, count] : callsOf(&Desk::save, standing))
-                QTest::addRow("%s%s%s", call.c_str(), words, isEncrypted ? ", encrypted" : "")
-                    << call << count << standing << isEncrypted;
-        }
+        QCOMPARE(firstBrokenPromise(&Desk::save, call, count, standing), QString());
     }
-    test::isEncrypting = false;
-}
 
-void SaveFaultsTest::everyFailureLeavesAWholeFile()
-{
-    QFETCH(std::string, call);
-    QFETCH(int, count);
-    QFETCH(Standing, standing);
-    QFETCH(bool, isEncrypted);
-    const MessageLog log; // a version that is not removed is a warning
-    test::isEncrypting = isEncrypted;
-    QCOMPARE(firstBrokenPromise(&Desk::save, call, count, standing), QString());
-}
-
-void SaveFaultsTest::whateverIsMetIsToldRight_data()
-{
-    QTest::addColumn<Meeting>("met");
-    const auto row = [](const char *title, const Meeting &met) { QTest::newRow(title) << met; };
-    const auto write = [](const QString &which, int version) {
-        return [=](const Desk &d) { d.folder.write(which, bytesOf(version)); };
-    };
-    const auto replace = [](int version) {
-        return [=](const Desk &d) {
-            d.folder.write(u"other"_qs, bytesOf(version));
-            std::rename(qPrintable(d.folder.path(u"other"_qs)), qPrintable(d.path));
+    void whateverIsMetIsToldRight_data()
+    {
+        QTest::addColumn<Meeting>("row");
+        const auto row = [](const char *title, const Meeting &met) { QTest::newRow(title) << met; };
+        const auto write = [](const QString &which, int version) {
+            return [=](const Desk &d) { d.folder.write(which, bytesOf(version)); };
         };
-    };
-    const auto failThen = [](const char *call, int error) {
-        return [=](const Desk &) { fail(call, 1, error); };
-    };
-    using enum StorageFailure;
-    // A write that is cut short goes on, for as long as anything is taken; what reads
-    // back otherwise is not saved.
-    row("a write cut short", {"write", 1, 0, {}});
-    row("writes cut short", {"write", 1, 0, CannotWrite, {}, 1000});
-    row("another byte read back", {"pread", 2, 0, CannotWrite});
-    row("nothing read back", {"pread", 1, 0, CannotWrite, {}, 1000});
-    // The former versions are read first. Where no file can be without a name, it has one.
-    row("no nameless files", {"openat", 3, EISDIR, {}});
-    row("nobody knows of nameless files", {"openat", 3, ENOENT, {}});
-    row("no new files", {"openat", 3, EACCES, CannotWrite});
-    row("reading back interrupted", {"pread", 2, EINTR, {}});
-    row("no reading back", {"pread", 2, EIO, CannotWrite});
-    row("no link to the old version", {"linkat", 2, EIO, CannotWrite});
-    row("attributes that grow meanwhile", {"flistxattr", 2, ERANGE, {}});
-    // While the new version is synchronised, before the old one is replaced.
-    row("written to", {"fsync", 1, 0, ChangedOnDisk, write(name, 4), 1, 4});
-    row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
-    row("replaced by the same", {"fsync", 1, 0, ChangedOnDisk, replace(2), 1, 2});
-    // The new version is in its place when the folder cannot be synchronised, and
-    // there is no way back, since the one that was kept cannot be moved.
-    row("no moving back", {"fsync", 3, EIO, CannotWrite, failThen("renameat", EIO), 1, 3});
-    // Where there are no links, a copy is kept, or nothing is saved.
-    row("a copy", {"linkat", 2, EPERM, {}});
-    row("no copy", {"linkat", 2, EXDEV, CannotWrite, failThen("fsync", EIO)});
-    row("no attributes of the copy", {"linkat", 2, EMLINK, CannotWrite, failThen("fchmod", EIO)});
-    // Only where there are no locks it goes on without.
-    for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL, EIO, EINTR}) {
-        std::optional<StorageFailure> failure;
-        if (error == EIO || error == EINTR)
-            failure = CannotWrite;
-        QTest::addRow("lock: %s", qPrintable(qt_error_string(error)))
-            << Meeting{"flock", 1, error, failure, {}, 1, 2, true, Standing::NotOpen};
-    }
-
-    const auto loading = [&](const char *title, Meeting met) {
-        met.isSaving = false;
-        met.standing = Standing::NotOpen;
-        row(title, met);
-    };
-    const auto makeLock = [](const Desk &d) { d.folder.write(lock, ""); };
-    loading("not to be asked for", {"access", 1, EIO, {}});
-    loading("gone", {"lstat", 3, 0, NotFound, [](const Desk &d) { QFile::remove(d.path); }});
-    loading("cut short",
-            {"read", 1, 0, Damaged, [](const Desk &d) { QFile::resize(d.path, 5000); }});
-    loading("lock replaced", {"lstat", 2, 0, {}, [=](const Desk &d) {
-                                  QFile::remove(d.path + u".lock"_qs);
-                                  makeLock(d);
-                              }});
-    loading("lock only to be read", {"lstat", 1, 0, {}, [=](const Desk &d) {
-                                         makeLock(d);
-                                         fail("open", 1, EACCES);
-                                     }});
-    loading("lock not to be made", {"open", 1, EACCES, {}});
-    loading("lock made by another just then", {"open", 1, 0, {}, makeLock});
-}
-
-void SaveFaultsTest::whateverIsMetIsToldRight()
-{
-    QFETCH(Meeting, met);
-    const MessageLog log; // a version that is not removed is a warning
-    Desk desk(met.standing);
-    storage::BudgetStorage::Data data;
-    QString told;
-    std::function<void()> meanwhile;
-    if (met.meanwhile)
-        meanwhile = [&] { met.meanwhile(desk); };
-    fail(met.call, met.from, met.error, meanwhile, met.times);
-    const auto failure = test::failureOf([&] {
-        try {
-            met.isSaving ? desk.save(3) : void(data = desk.file.load());
-        } catch (const storage::StorageError &error) {
-            told = error.message();
-            throw;
+        const auto replace = [](int version) {
+            return [=](const Desk &d) {
+                d.folder.write(u"other"_qs, bytesOf(version));
+                std::rename(qPrintable(d.folder.path(u"other"_qs)), qPrintable(d.path));
+            };
+        };
+        const auto failThen = [](const char *call, int error) {
+            return [=](const Desk &) { fail(call, 1, error); };
+        };
+        using enum StorageFailure;
+        // A write that is cut short goes on, for as long as anything is taken; what reads
+        // back otherwise is not saved.
+        row("a write cut short", {"write", 1, 0, {}});
+        row("writes cut short", {"write", 1, 0, CannotWrite, {}, 1000});
+        row("another byte read back", {"pread", 2, 0, CannotWrite});
+        row("nothing read back", {"pread", 1, 0, CannotWrite, {}, 1000});
+        // The former versions are read first. Where no file can be without a name, it has one.
+        row("no nameless files", {"openat", 3, EISDIR, {}});
+        row("nobody knows of nameless files", {"openat", 3, ENOENT, {}});
+        row("no new files", {"openat", 3, EACCES, CannotWrite});
+        row("reading back interrupted", {"pread", 2, EINTR, {}});
+        row("no reading back", {"pread", 2, EIO, CannotWrite});
+        row("no link to the old version", {"linkat", 2, EIO, CannotWrite});
+        row("attributes that grow meanwhile", {"flistxattr", 2, ERANGE, {}});
+        // While the new version is synchronised, before the old one is replaced.
+        row("written to", {"fsync", 1, 0, ChangedOnDisk, write(name, 4), 1, 4});
+        row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
+        row("replaced by the same", {"fsync", 1, 0, ChangedOnDisk, replace(2), 1, 2});
+        // The new version is in its place when the folder cannot be synchronised, and
+        // there is no way back, since the one that was kept cannot be moved.
+        row("no moving back", {"fsync", 3, EIO, CannotWrite, failThen("renameat", EIO), 1, 3});
+        // Where there are no links, a copy is kept, or nothing is saved.
+        row("a copy", {"linkat", 2, EPERM, {}});
+        row("no copy", {"linkat", 2, EXDEV, CannotWrite, failThen("fsync", EIO)});
+        row("no attributes of the copy",
+            {"linkat", 2, EMLINK, CannotWrite, failThen("fchmod", EIO)});
+        // Only where there are no locks it goes on without.
+        for (const int error : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL, EIO, EINTR}) {
+            std::optional<StorageFailure> failure;
+            if (error == EIO || error == EINTR)
+                failure = CannotWrite;
+            QTest::addRow("lock: %s", qPrintable(qt_error_string(error)))
+                << Meeting{"flock", 1, error, failure, {}, 1, 2, true, Standing::NotOpen};
         }
-    });
-    failingCalls = {};
-    QCOMPARE(failure, met.failure);
-    if (!met.isSaving) {
-        if (!failure)
-            QCOMPARE(test::bankIn(data), u"2"_qs);
-        return;
-    }
-    QCOMPARE(desk.image(name), imageOf(failure ? met.left : 3));
-    // The reason is the system's own.
-    if (failure == StorageFailure::CannotWrite && met.error != 0 && !met.meanwhile)
-        QVERIFY2(told.contains(qt_error_string(met.error)), qPrintable(told));
-    if (failure == StorageFailure::ChangedOnDisk) {
-        QCOMPARE(desk.folder.names(), (QStringList{name, lock, versions}));
-        return;
-    }
-    desk.save(4);
-    // The third only where it could be saved.
-    QCOMPARE(desk.kept().size(), failure && met.left != 3 ? 3 : 4);
-    QCOMPARE(desk.image(name), imageOf(4));
-}
 
-void SaveFaultsTest::theLockFileGoesWithTheFile()
-{
-    for (const char *call : {"lstat", "unlink"}) {
-        const Desk desk(Standing::NotOpen);
-        {
-            test::TestFile file;
-            file.setFilePathName(desk.path);
-            (void)file.load();
-            fail(call, 1, EIO);
-        }
+        const auto loading = [&](const char *title, Meeting met) {
+            met.isSaving = false;
+            met.standing = Standing::NotOpen;
+            row(title, met);
+        };
+        const auto makeLock = [](const Desk &d) { d.folder.write(lock, ""); };
+        loading("not to be asked for", {"access", 1, EIO, {}});
+        loading("gone", {"lstat", 3, 0, NotFound, [](const Desk &d) { QFile::remove(d.path); }});
+        loading("cut short",
+                {"read", 1, 0, Damaged, [](const Desk &d) { QFile::resize(d.path, 5000); }});
+        loading("lock replaced", {"lstat", 2, 0, {}, [=](const Desk &d) {
+                                      QFile::remove(d.path + u".lock"_qs);
+                                      makeLock(d);
+                                  }});
+        loading("lock only to be read", {"lstat", 1, 0, {}, [=](const Desk &d) {
+                                             makeLock(d);
+                                             fail("open", 1, EACCES);
+                                         }});
+        loading("lock not to be made", {"open", 1, EACCES, {}});
+        loading("lock made by another just then", {"open", 1, 0, {}, makeLock});
+    }
+    void whateverIsMetIsToldRight()
+    {
+        const auto met = test::rowOf<Meeting>();
+        const MessageLog log; // a version that is not removed is a warning
+        Desk desk(met.standing);
+        storage::BudgetStorage::Data data;
+        QString told;
+        std::function<void()> meanwhile;
+        if (met.meanwhile)
+            meanwhile = [&] { met.meanwhile(desk); };
+        fail(met.call, met.from, met.error, meanwhile, met.times);
+        const auto failure = test::failureOf([&] {
+            try {
+                met.isSaving ? desk.save(3) : void(data = desk.file.load());
+            } catch (const storage::StorageError &error) {
+                told = error.message();
+                throw;
+            }
+        });
         failingCalls = {};
-        QVERIFY2(!desk.folder.names().contains(lock), call);
+        QCOMPARE(failure, met.failure);
+        if (!met.isSaving) {
+            if (!failure)
+                QCOMPARE(test::bankIn(data), u"2"_qs);
+            return;
+        }
+        QCOMPARE(desk.image(name), imageOf(failure ? met.left : 3));
+        // The reason is the system's own.
+        if (failure == StorageFailure::CannotWrite && met.error != 0 && !met.meanwhile)
+            QVERIFY2(told.contains(qt_error_string(met.error)), qPrintable(told));
+        if (failure == StorageFailure::ChangedOnDisk) {
+            QCOMPARE(desk.folder.names(), (QStringList{name, lock, versions}));
+            return;
+        }
+        desk.save(4);
+        // The third only where it could be saved.
+        QCOMPARE(desk.kept().size(), failure && met.left != 3 ? 3 : 4);
+        QCOMPARE(desk.image(name), imageOf(4));
     }
-}
 
-void SaveFaultsTest::rightsOfALostGroupGoToNobody()
-{
-    // As a list says it: its version, then who may do what. The group has the
-    // right to write.
-    constexpr const char *list = "system.posix_acl_access";
-    const QByteArray rights = QByteArray::fromHex("0200000001000600ffffffff02000600d2040000"
-                                                  "04000600ffffffff10000600ffffffff20000400"
-                                                  "ffffffff");
-    for (const bool isLost : {false, true}) {
-        Desk desk;
-        const QByteArray path = QFile::encodeName(desk.path);
-        if (::geteuid() != 0 ||
-            ::setxattr(path, list, rights.constData(), std::size_t(rights.size()), 0) != 0)
-            QSKIP("Only root gives files away, and not every file system has lists.");
-        // Only who may not give the file away goes on without, to the group or the owner.
-        for (const int call : {1, 2}) {
-            fail("fchown", call, EIO);
-            QCOMPARE(test::failureOf([&] { desk.save(3); }), StorageFailure::CannotWrite);
+    void theLockFileGoesWithTheFile()
+    {
+        for (const char *call : {"lstat", "unlink"}) {
+            const Desk desk(Standing::NotOpen);
+            {
+                test::TestFile file;
+                file.setFilePathName(desk.path);
+                (void)file.load();
+                fail(call, 1, EIO);
+            }
             failingCalls = {};
+            QVERIFY2(!desk.folder.names().contains(lock), call);
         }
-        if (isLost)
-            fail("fchown", 1, EPERM);
-        desk.save(3);
-        failingCalls = {};
-        struct stat status = {};
-        ::stat(path, &status);
-        QCOMPARE(status.st_mode & 0777U, isLost ? 0644U : 0664U);
-        std::array<char, 64> kept{};
-        QCOMPARE(::getxattr(path, list, kept.data(), kept.size()), isLost ? -1 : rights.size());
     }
-}
+
+    void rightsOfALostGroupGoToNobody()
+    {
+        // As a list says it: its version, then who may do what. The group has the
+        // right to write.
+        constexpr const char *list = "system.posix_acl_access";
+        const QByteArray rights = QByteArray::fromHex("0200000001000600ffffffff02000600d2040000"
+                                                      "04000600ffffffff10000600ffffffff20000400"
+                                                      "ffffffff");
+        for (const bool isLost : {false, true}) {
+            Desk desk;
+            const QByteArray path = QFile::encodeName(desk.path);
+            if (::geteuid() != 0 ||
+                ::setxattr(path, list, rights.constData(), std::size_t(rights.size()), 0) != 0)
+                QSKIP("Only root gives files away, and not every file system has lists.");
+            // Only who may not give the file away goes on without, to the group or the owner.
+            for (const int call : {1, 2}) {
+                fail("fchown", call, EIO);
+                QCOMPARE(test::failureOf([&] { desk.save(3); }), StorageFailure::CannotWrite);
+                failingCalls = {};
+            }
+            if (isLost)
+                fail("fchown", 1, EPERM);
+            desk.save(3);
+            failingCalls = {};
+            struct stat status = {};
+            ::stat(path, &status);
+            QCOMPARE(status.st_mode & 0777U, isLost ? 0644U : 0664U);
+            std::array<char, 64> kept{};
+            QCOMPARE(::getxattr(path, list, kept.data(), kept.size()), isLost ? -1 : rights.size());
+        }
+    }
+};
 
 static const kiv::test::Suite<SaveFaultsTest> suite;
 #include "tst_save_faults.moc"

@@ -9,8 +9,6 @@
 #include "support/damage.h"
 #include "support/message_log.h"
 
-#include <QtTest/QTest>
-
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -112,8 +110,7 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
         if (!file.startsWith(name))
             return QStringLiteral("left for good: %1").arg(file);
     }
-    const QString readable =
-        test::inTheClear(folder.path({})) + test::inTheClear(path + QStringLiteral(".versions"));
+    const QString readable = test::inTheClear(path);
     if (test::isEncrypting && !readable.isEmpty())
         return QStringLiteral("left in the clear: %1").arg(readable);
     return test::wrongInVersions(path);
@@ -136,16 +133,16 @@ QString brokenAtSomeMoment(Saver saver, int transactions, int kills,
     return {};
 }
 
+/// How many transactions a budget has, and whether it is encrypted.
+using Size = std::pair<int, bool>;
+
 /// Small budgets, and full ones when there is time.
 void addSizes()
 {
-    QTest::addColumn<int>("transactions");
-    QTest::addColumn<bool>("isEncrypted");
-    QTest::newRow("small") << few << false;
-    QTest::newRow("small, encrypted") << few << true;
+    test::addRows<Size>({{"small", {few, false}}, {"small, encrypted", {few, true}}});
     if (randomRuns(0) > 0) {
-        QTest::newRow("full") << full << false;
-        QTest::newRow("full, encrypted") << full << true;
+        QTest::newRow("full") << Size(full, false);
+        QTest::newRow("full, encrypted") << Size(full, true);
     }
 }
 
@@ -157,57 +154,51 @@ class SaveKillsTest final : public QObject {
 
 private slots:
     void cleanup() { test::isEncrypting = false; }
-    void aCarelessSaverIsCaught();
+    void aCarelessSaverIsCaught()
+    {
+        const QString neither = QStringLiteral("neither version is left");
+        QCOMPARE(brokenPromise(spoil, few, "write", 1), neither);
+        const QString atSomeMoment = brokenAtSomeMoment(spoil, few, 100, 12ms);
+        QVERIFY2(atSomeMoment.endsWith(neither), qPrintable(atSomeMoment));
+    }
+
     void aKillAtAnyCallLeavesAWholeFile_data() { addSizes(); }
-    void aKillAtAnyCallLeavesAWholeFile();
+    void aKillAtAnyCallLeavesAWholeFile()
+    {
+        const auto [transactions, isEncrypted] = test::rowOf<Size>();
+        test::isEncrypting = isEncrypted;
+        // How often each call is made during two saves.
+        const test::ScratchFolder folder;
+        folder.write(name, versionsOf(transactions).bytes[0]);
+        failingCalls = {};
+        save(versionsOf(transactions), folder.path(name), 2);
+        const auto counts = std::exchange(failingCalls, {}).counts;
+        int kills = 0;
+        for (const auto &[call, count] : counts) {
+            for (int at = 1; at <= count; ++at, ++kills) {
+                const QString broken = brokenPromise(save, transactions, call, at);
+                QVERIFY2(broken.isEmpty(), qPrintable(QStringLiteral("%1 %2: %3")
+                                                          .arg(QString::fromStdString(call),
+                                                               QString::number(at), broken)));
+            }
+        }
+        QVERIFY(kills > 40);
+    }
+
     void aKillAtAnyMomentLeavesAWholeFile_data() { addSizes(); }
-    void aKillAtAnyMomentLeavesAWholeFile();
+    void aKillAtAnyMomentLeavesAWholeFile()
+    {
+        const auto [transactions, isEncrypted] = test::rowOf<Size>();
+        test::isEncrypting = isEncrypted;
+        const bool isFull = transactions == full;
+        const QString broken = brokenAtSomeMoment(
+            save, transactions, randomRuns(60) / (isFull ? 33 : 1), isFull ? 600ms : 12ms);
+        QVERIFY2(broken.isEmpty(), qPrintable(broken));
+    }
 
 private:
     const MessageLog m_log; // a leftover that was cleared away is a warning
 };
-
-void SaveKillsTest::aCarelessSaverIsCaught()
-{
-    const QString neither = QStringLiteral("neither version is left");
-    QCOMPARE(brokenPromise(spoil, few, "write", 1), neither);
-    const QString atSomeMoment = brokenAtSomeMoment(spoil, few, 100, 12ms);
-    QVERIFY2(atSomeMoment.endsWith(neither), qPrintable(atSomeMoment));
-}
-
-void SaveKillsTest::aKillAtAnyCallLeavesAWholeFile()
-{
-    QFETCH(int, transactions);
-    QFETCH(bool, isEncrypted);
-    test::isEncrypting = isEncrypted;
-    // How often each call is made during two saves.
-    const test::ScratchFolder folder;
-    folder.write(name, versionsOf(transactions).bytes[0]);
-    failingCalls = {};
-    save(versionsOf(transactions), folder.path(name), 2);
-    const auto counts = std::exchange(failingCalls, {}).counts;
-    int kills = 0;
-    for (const auto &[call, count] : counts) {
-        for (int at = 1; at <= count; ++at, ++kills) {
-            const QString broken = brokenPromise(save, transactions, call, at);
-            QVERIFY2(broken.isEmpty(), qPrintable(QStringLiteral("%1 %2: %3")
-                                                      .arg(QString::fromStdString(call),
-                                                           QString::number(at), broken)));
-        }
-    }
-    QVERIFY(kills > 40);
-}
-
-void SaveKillsTest::aKillAtAnyMomentLeavesAWholeFile()
-{
-    QFETCH(int, transactions);
-    QFETCH(bool, isEncrypted);
-    test::isEncrypting = isEncrypted;
-    const bool isFull = transactions == full;
-    const QString broken = brokenAtSomeMoment(
-        save, transactions, randomRuns(60) / (isFull ? 33 : 1), isFull ? 600ms : 12ms);
-    QVERIFY2(broken.isEmpty(), qPrintable(broken));
-}
 
 static const kiv::test::Suite<SaveKillsTest> suite;
 #include "tst_save_kills.moc"

@@ -9,7 +9,6 @@
 #include <QtNetwork/QTcpSocket>
 
 #include <functional>
-#include <map>
 #include <memory>
 
 /// A server on the loopback address that answers every request as a test tells
@@ -47,7 +46,6 @@ public:
     [[nodiscard]] qint64 bytesTaken() const { return m_bytesTaken; }
     [[nodiscard]] int openConnections() const { return m_openConnections; }
 
-    /// A complete answer.
     [[nodiscard]] static Behaviour answer(const QByteArray &body,
                                           const QByteArray &type = "application/json",
                                           const QByteArray &status = "200 OK",
@@ -85,20 +83,6 @@ public:
     [[nodiscard]] static Behaviour redirect(const QByteArray &target)
     {
         return answer({}, "text/plain", "302 Found", "Location: " + target + "\r\n");
-    }
-
-    /// Servers that answer `good`, an answer of JSON, badly in all ways.
-    [[nodiscard]] static std::map<const char *, Behaviour> badServers(const QByteArray &good)
-    {
-        const QByteArray head = "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n\r\n";
-        return {{"slow", endless(head, " ", 20)},
-                {"endless", endless(head, QByteArray(100'000, ' '))},
-                {"truncated", raw(head + good.left(good.size() - 1))},
-                {"redirecting elsewhere", redirect("http://localhost/")},
-                {"redirecting for ever", redirect("/")},
-                {"wrong type", answer(good, "text/html")},
-                {"not JSON", answer("<html/>")},
-                {"refusing", answer(good, "application/json", "401 Unauthorized")}};
     }
 
 private:

@@ -23,7 +23,15 @@ using accounting::AccountTypes;
 using banking::BankAccount;
 using banking::BankAccountTypes;
 using banking::BankName;
+using budgeting::Bill;
+using budgeting::BudgetItemIdentifier;
 using budgeting::BudgetItemTypes;
+using budgeting::Debt;
+using budgeting::EventFrequency;
+using budgeting::Goal;
+using budgeting::Nontrack;
+using budgeting::Wage;
+using enum BankAccountTypes;
 
 // ---- values --------------------------------------------------------------------
 
@@ -162,7 +170,6 @@ void forKind(Test &&test)
         type, [] { return std::logic_error("no kind"); }, test);
 }
 
-/// "bill", "debt" and so on.
 template <budgeting::BudgetItem T>
 const std::string word = budgeting::ItemTraits<T>::word;
 
@@ -191,7 +198,6 @@ struct Books {
 
     Books()
     {
-        using enum BankAccountTypes;
         addAccount(ledger, *generator, AccountTypes::Asset, {}, "Checking");
         addAccount(ledger, *generator, AccountTypes::Asset, {}, "Savings", no(1));
         addAccount(ledger, *generator, AccountTypes::Liability, {}, "Card");
@@ -240,8 +246,8 @@ inline void setSurveys(BudgetBankLedgers &whole, surveying::CompletedSurveys sur
 }
 
 /// A survey of 2026-01-31 that sets five dollars aside for each of the items.
-inline surveying::CompletedSurvey
-survey(const BankAccount &account, const std::vector<budgeting::BudgetItemIdentifier> &items = {})
+inline surveying::CompletedSurvey survey(const BankAccount &account,
+                                         const std::vector<BudgetItemIdentifier> &items = {})
 {
     surveying::Distribution distribution;
     for (const auto &item : items)
@@ -261,7 +267,7 @@ inline surveying::CompletedSurveys surveys(const std::vector<surveying::Complete
 }
 
 template <budgeting::BudgetItem T>
-budgeting::BudgetItemIdentifier id(const char *name)
+BudgetItemIdentifier id(const char *name)
 {
     return {budgeting::ItemTraits<T>::type, source(name)};
 }

@@ -37,7 +37,6 @@ public:
             return kiv::networking::Response::succeeded(body, QStringLiteral("application/json"));
         };
     }
-    /// Never answers.
     [[nodiscard]] static Script silence()
     {
         return [](const QUrl &) { return std::nullopt; };

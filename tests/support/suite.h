@@ -25,4 +25,20 @@ public:
     std::unique_ptr<QObject> tests() const override { return std::make_unique<Tests>(); }
 };
 
+/// Gives a test a table: the name of each row and what it holds.
+template <typename Row>
+void addRows(std::initializer_list<std::pair<const char *, Row>> rows)
+{
+    QTest::addColumn<Row>("row");
+    for (const auto &[name, row] : rows)
+        QTest::newRow(name) << row;
+}
+/// What the present row of the test's table holds.
+template <typename Row>
+Row rowOf()
+{
+    QFETCH(const Row, row);
+    return row;
+}
+
 } // namespace kiv::test

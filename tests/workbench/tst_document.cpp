@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "workbench/document/document.h"
 #include "workbench/versions/kept_versions.h"
 
 #include "storage/scratch_folder.h"
 #include "support/accounting.h"
 #include "support/damage.h"
 #include "support/message_log.h"
-#include "support/scripted_sender.h"
-
-#include <QtCore/QScopeGuard>
+#include "support/surroundings.h"
 
 #include <array>
 #include <atomic>
@@ -31,15 +28,6 @@ using Data = storage::BudgetStorage::Data;
 using Kept = Document::Kept;
 
 namespace {
-
-workbench::Surroundings surroundings(const QString &ratesFile)
-{
-    return {[] {
-                return foundation::UniqueQtPtr<networking::RequestSender>(
-                    new ScriptedSender([](const QUrl &) { return std::nullopt; }));
-            },
-            ratesFile};
-}
 
 void addBank(Document &document, const QString &name)
 {
@@ -69,7 +57,7 @@ public:
     {
         for (int version = 0; version < 3; ++version) {
             // Another document each time: what one stores at once is one version.
-            Document document(surroundings(m_folder.path(u"rates"_s)));
+            Document document(test::surroundings(m_folder.path(u"rates"_s)));
             if (version > 0)
                 document.open(m_path);
             addBank(document, u"First %1"_s.arg(version));
@@ -155,7 +143,7 @@ private:
 
     void open()
     {
-        m_document.emplace(surroundings(m_folder.path(u"rates"_s)));
+        m_document.emplace(test::surroundings(m_folder.path(u"rates"_s)));
         m_document->setKeeping(Document::Keeping::WithinASecond);
         m_document->open(m_path);
     }
@@ -312,7 +300,7 @@ public:
                                MAP_SHARED | MAP_ANONYMOUS, -1, 0)) Record)
     {
         {
-            Document document(surroundings(m_folder.path(u"rates"_s)));
+            Document document(test::surroundings(m_folder.path(u"rates"_s)));
             addBank(document, u"0"_s);
             document.create(m_path, u"Created"_s);
         }
@@ -354,7 +342,7 @@ private:
     [[noreturn]] void work(Change change)
     {
         try {
-            Document document(surroundings(m_folder.path(u"rates"_s)));
+            Document document(test::surroundings(m_folder.path(u"rates"_s)));
             document.setKeeping(Document::Keeping::WithinASecond);
             document.open(m_path);
             for (int number = 1; number < 100'000; ++number) {
@@ -406,146 +394,138 @@ class DocumentTest final : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyWalkOfDeedsUndoAndRedoAgreesWithAList();
-    void nothingIsLostButTheLastSecond();
-    void aFileThatAnotherHasIsOpenedForReading();
-    void anEncryptedBudgetStaysSo();
-    void aCopyHasEverything();
-    void whatIsRefusedHalfWayLeavesNothing();
-};
-
-void DocumentTest::everyWalkOfDeedsUndoAndRedoAgreesWithAList()
-{
-    const MessageLog log;
-    for (int run = 0; run < randomRuns(4); ++run) {
-        const unsigned seed = std::random_device()();
-        Walk walk(seed);
-        for (int part = 0; part < 3 && !walk.isFull(); ++part) {
-            for (int step = 0; step < 30 && !walk.isFull(); ++step) {
-                const QString wrong = walk.step();
+    void everyWalkOfDeedsUndoAndRedoAgreesWithAList()
+    {
+        const MessageLog log;
+        for (int run = 0; run < randomRuns(4); ++run) {
+            const unsigned seed = std::random_device()();
+            Walk walk(seed);
+            for (int part = 0; part < 3 && !walk.isFull(); ++part) {
+                for (int step = 0; step < 30 && !walk.isFull(); ++step) {
+                    const QString wrong = walk.step();
+                    QVERIFY2(wrong.isEmpty(),
+                             qPrintable(u"seed %1, step %2, %3"_s.arg(seed).arg(step).arg(wrong)));
+                }
+                const QString wrong = walk.reopened();
                 QVERIFY2(wrong.isEmpty(),
-                         qPrintable(u"seed %1, step %2, %3"_s.arg(seed).arg(step).arg(wrong)));
+                         qPrintable(u"seed %1, reopened: %2"_s.arg(seed).arg(wrong)));
             }
-            const QString wrong = walk.reopened();
-            QVERIFY2(wrong.isEmpty(), qPrintable(u"seed %1, reopened: %2"_s.arg(seed).arg(wrong)));
         }
     }
-}
 
-void DocumentTest::nothingIsLostButTheLastSecond()
-{
-    const MessageLog log;
-    // First one that keeps nothing.
-    const int late = static_cast<int>(Victim::lostMax) + 1'000;
-    QVERIFY(brokenByKills(rename, 1, late, late).contains(u"was lost"_s));
-    const QString broken = brokenByKills(renameKept, randomRuns(10), 200, late);
-    QVERIFY2(broken.isEmpty(), qPrintable(broken));
-}
-
-void DocumentTest::aFileThatAnotherHasIsOpenedForReading()
-{
-    const MessageLog log;
-    const test::ScratchFolder folder;
-    const QString path = folder.path(u"home.budget"_s);
-    Document owner(surroundings(folder.path(u"rates"_s)));
-    addBank(owner, u"First"_s);
-    owner.create(path, u"Created"_s);
-    Document other(surroundings(folder.path(u"rates"_s)));
-    other.setKeeping(Document::Keeping::WithinASecond);
-    other.open(path, Document::Access::ChangeIfPossible);
-    QVERIFY(other.isReadOnly() && other.whyReadOnly()->contains(u"another program"_s));
-    bool isCalled = false;
-    QVERIFY_THROWS_EXCEPTION(workbench::Refusal, other.perform({}, [&] { isCalled = true; }));
-    QVERIFY_THROWS_EXCEPTION(workbench::Refusal, other.undo());
-    QVERIFY(!isCalled);
-    // Under another name it can be changed.
-    other.saveAs(folder.path(u"other.budget"_s), u"Saved elsewhere"_s);
-    other.perform({u"Added"_s, {}, {}}, [&] { addBank(other, u"Second"_s); });
-    other.writeNow();
-    QVERIFY(*storage::inspectBudget(folder.path(u"other.budget"_s)).data == other.present());
-}
-
-void DocumentTest::anEncryptedBudgetStaysSo()
-{
-    const MessageLog log;
-    const test::ScratchFolder folder;
-    const QString path = folder.path(u"home.budget"_s);
-    const auto readable = [&] {
-        return test::inTheClear(folder.path({})) + test::inTheClear(path + u".versions"_s);
-    };
+    void nothingIsLostButTheLastSecond()
     {
-        Document document(surroundings(folder.path(u"rates"_s)));
+        const MessageLog log;
+        // First one that keeps nothing.
+        const int late = static_cast<int>(Victim::lostMax) + 1'000;
+        QVERIFY(brokenByKills(rename, 1, late, late).contains(u"was lost"_s));
+        const QString broken = brokenByKills(renameKept, randomRuns(10), 200, late);
+        QVERIFY2(broken.isEmpty(), qPrintable(broken));
+    }
+
+    void aFileThatAnotherHasIsOpenedForReading()
+    {
+        const MessageLog log;
+        const test::ScratchFolder folder;
+        const QString path = folder.path(u"home.budget"_s);
+        Document owner(test::surroundings(folder.path(u"rates"_s)));
+        addBank(owner, u"First"_s);
+        owner.create(path, u"Created"_s);
+        Document other(test::surroundings(folder.path(u"rates"_s)));
+        other.setKeeping(Document::Keeping::WithinASecond);
+        other.open(path, Document::Access::ChangeIfPossible);
+        QVERIFY(other.isReadOnly() && other.whyReadOnly()->contains(u"another program"_s));
+        bool isCalled = false;
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, other.perform({}, [&] { isCalled = true; }));
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, other.undo());
+        QVERIFY(!isCalled);
+        // Under another name it can be changed.
+        other.saveAs(folder.path(u"other.budget"_s), u"Saved elsewhere"_s);
+        other.perform({u"Added"_s, {}, {}}, [&] { addBank(other, u"Second"_s); });
+        other.writeNow();
+        QVERIFY(*storage::inspectBudget(folder.path(u"other.budget"_s)).data == other.present());
+    }
+
+    void anEncryptedBudgetStaysSo()
+    {
+        const MessageLog log;
+        const test::ScratchFolder folder;
+        const QString path = folder.path(u"home.budget"_s);
+        {
+            Document document(test::surroundings(folder.path(u"rates"_s)));
+            document.setKeeping(Document::Keeping::WithinASecond);
+            addBank(document, u"First"_s);
+            document.create(path, u"Created"_s);
+            document.perform({u"Added Second"_s, {}, {}}, [&] { addBank(document, u"Second"_s); });
+            // What is pending is in the file that is encrypted, and undo goes on across it.
+            QCOMPARE(document.encrypt(test::passphrase()), QStringList());
+            QCOMPARE(test::inTheClear(path), QString());
+            document.perform({u"Added Third"_s, {}, {}}, [&] { addBank(document, u"Third"_s); });
+            document.undo(2);
+            document.redo();
+            document.saveCopy(folder.path(u"copy.budget"_s));
+            document.writeNow();
+            QCOMPARE(test::inTheClear(path), QString());
+            QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.saveCopy(path));
+        }
+        Document document(test::surroundings(folder.path(u"rates"_s)));
+        document.setKeeping(Document::Keeping::WithinASecond);
+        const auto open = [&] { document.open(path, Document::Access::ChangeIfPossible); };
+        QCOMPARE(test::failureOf(open), storage::StorageFailure::PassphraseNeeded);
+        QVERIFY(document.file().isEmpty());
+        document.keys().unlock(path, test::passphrase());
+        open();
+        QVERIFY(document.isEncrypted());
+        QCOMPARE(document.undo().deed.line, u"Added Second"_s);
+        document.writeNow();
+        // A file that is lost comes back encrypted, once a version of it is unlocked.
+        const QString lost = folder.path(u"lost.budget"_s);
+        QDir().rename(path + u".versions"_s, lost + u".versions"_s);
+        Document finder(test::surroundings(folder.path(u"rates"_s)));
+        finder.openLost(lost);
+        QString needed;
+        try {
+            (void)finder.undo();
+        } catch (const storage::StorageError &error) {
+            needed = error.filePathName();
+        }
+        QVERIFY(finder.keys().isLocked(needed));
+        finder.keys().unlock(needed, test::passphrase());
+        (void)finder.undo();
+        QVERIFY(finder.isEncrypted());
+        QCOMPARE(test::inTheClear(path), QString());
+    }
+
+    void aCopyHasEverything()
+    {
+        const MessageLog log;
+        const test::ScratchFolder folder;
+        Document document(test::surroundings(folder.path(u"rates"_s)));
         document.setKeeping(Document::Keeping::WithinASecond);
         addBank(document, u"First"_s);
-        document.create(path, u"Created"_s);
-        document.perform({u"Added Second"_s, {}, {}}, [&] { addBank(document, u"Second"_s); });
-        // What is pending is in the file that is encrypted, and undo goes on across it.
-        QCOMPARE(document.encrypt(test::passphrase()), QStringList());
-        QCOMPARE(readable(), QString());
-        document.perform({u"Added Third"_s, {}, {}}, [&] { addBank(document, u"Third"_s); });
-        document.undo(2);
-        document.redo();
+        document.create(folder.path(u"home.budget"_s), u"Created"_s);
+        document.perform({u"Added"_s, {}, {}}, [&] { addBank(document, u"Second"_s); });
         document.saveCopy(folder.path(u"copy.budget"_s));
-        document.writeNow();
-        QCOMPARE(readable(), QString());
-        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.saveCopy(path));
+        QVERIFY(test::load(folder.path(u"copy.budget"_s)) == document.present());
+        QCOMPARE(document.file(), folder.path(u"home.budget"_s));
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal,
+                                 document.saveCopy(folder.path(u"copy.budget"_s)));
     }
-    Document document(surroundings(folder.path(u"rates"_s)));
-    document.setKeeping(Document::Keeping::WithinASecond);
-    const auto open = [&] { document.open(path, Document::Access::ChangeIfPossible); };
-    QCOMPARE(test::failureOf(open), storage::StorageFailure::PassphraseNeeded);
-    QVERIFY(document.file().isEmpty());
-    document.keys().unlock(path, test::passphrase());
-    open();
-    QVERIFY(document.isEncrypted());
-    QCOMPARE(document.undo().deed.line, u"Added Second"_s);
-    document.writeNow();
-    // A file that is lost comes back encrypted, once a version of it is unlocked.
-    const QString lost = folder.path(u"lost.budget"_s);
-    QDir().rename(path + u".versions"_s, lost + u".versions"_s);
-    Document finder(surroundings(folder.path(u"rates"_s)));
-    finder.openLost(lost);
-    QString needed;
-    try {
-        (void)finder.undo();
-    } catch (const storage::StorageError &error) {
-        needed = error.filePathName();
+
+    void whatIsRefusedHalfWayLeavesNothing()
+    {
+        const test::ScratchFolder folder;
+        Document document(test::surroundings(folder.path(u"rates"_s))); // keeps at once
+        addBank(document, u"First"_s);
+        document.create(folder.path(u"home.budget"_s), u"Created"_s);
+        const auto before = document.present();
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.perform({}, [&] {
+            addBank(document, u"Half"_s);
+            addBank(document, u"Half"_s);
+        }));
+        QVERIFY(document.present() == before);
     }
-    QVERIFY(finder.keys().isLocked(needed));
-    finder.keys().unlock(needed, test::passphrase());
-    (void)finder.undo();
-    QVERIFY(finder.isEncrypted());
-    QCOMPARE(readable(), QString());
-}
-
-void DocumentTest::aCopyHasEverything()
-{
-    const MessageLog log;
-    const test::ScratchFolder folder;
-    Document document(surroundings(folder.path(u"rates"_s)));
-    document.setKeeping(Document::Keeping::WithinASecond);
-    addBank(document, u"First"_s);
-    document.create(folder.path(u"home.budget"_s), u"Created"_s);
-    document.perform({u"Added"_s, {}, {}}, [&] { addBank(document, u"Second"_s); });
-    document.saveCopy(folder.path(u"copy.budget"_s));
-    QVERIFY(test::load(folder.path(u"copy.budget"_s)) == document.present());
-    QCOMPARE(document.file(), folder.path(u"home.budget"_s));
-    QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.saveCopy(folder.path(u"copy.budget"_s)));
-}
-
-void DocumentTest::whatIsRefusedHalfWayLeavesNothing()
-{
-    const test::ScratchFolder folder;
-    Document document(surroundings(folder.path(u"rates"_s))); // keeps at once
-    addBank(document, u"First"_s);
-    document.create(folder.path(u"home.budget"_s), u"Created"_s);
-    const auto before = document.present();
-    QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.perform({}, [&] {
-        addBank(document, u"Half"_s);
-        addBank(document, u"Half"_s);
-    }));
-    QVERIFY(document.present() == before);
-}
+};
 
 static const kiv::test::Suite<DocumentTest> suite;
 #include "tst_document.moc"

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "workbench/entry/day_text.h"
 #include "workbench/entry/description.h"
 #include "workbench/entry/former_entries.h"
+#include "workbench/entry/sum_text.h"
 #include "workbench/errors.h"
 #include "workbench/search/own_change.h"
 #include "workbench/search/transaction_filter.h"
 
+#include "foundation/local_dates.h"
 #include "support/accounting.h"
 
 using namespace kiv;
@@ -56,6 +59,90 @@ private slots:
         QCOMPARE(found.join(u' '), answer);
     }
 
+    void sumsAreExact_data()
+    {
+        addRows<QByteArray>(
+            {{"12.30", "12.30"},
+             {"-12.30", "-12.30"},
+             {" 12+3.5 ", "15.50"},
+             {"12 - 3.5 + 1", "9.50"},
+             {"3*4.20", "12.60"},
+             {"1+2*3-4*0.5", "5.00"},
+             {"2 × 3 ÷ 4 − 1", "0.50"},
+             {"100/8", "12.50"},
+             {"0.1+0.2", "0.30"},
+             {"0.3/0.1", "3.00"},
+             {"5 - -3", "8.00"},
+             {"EUR 5 + 3", "8.00 EUR"},
+             {"3*4.20 EUR", "12.60 EUR"},
+             {"1 EUR + 2 EUR", "3.00 EUR"},
+             {"100/3", "'100/3' does not come out even; enter the amount itself."},
+             {"1/0", "'1/0' does not come out even; enter the amount itself."},
+             {"1 EUR + 2 USD",
+              "'1 EUR + 2 USD' has two currencies; enter amounts of one currency."},
+             {"2+*3", "'*3' is not an amount; write one like 1234.50 or '1234.50 USD'."},
+             {"2+", "'' is not an amount; write one like 1234.50 or '1234.50 USD'."},
+             {"0.5*0.05", "'0.5*0.05' has too many decimals; USD allows 2."},
+             {"99999999999999999999999999*9",
+              "The amount '99999999999999999999999999*9' is too large."}});
+    }
+    void sumsAreExact()
+    {
+        const numira::Currency dollar = numira::toCurrency("USD");
+        QString result;
+        try {
+            workbench::Amount amount;
+            workbench::readSum(QString::fromUtf8(QTest::currentDataTag()), amount);
+            result = workbench::typedText(amount.in(dollar), dollar);
+        } catch (const workbench::EntryError &error) {
+            result = error.message();
+        }
+        QCOMPARE(result, QString::fromUtf8(rowOf<QByteArray>()));
+    }
+
+    /// A locale and what is typed; today is 2026-03-05.
+    void daysAreRead_data()
+    {
+        addRows<QByteArray>({{"C T", "2026-03-05"},
+                             {"C  today ", "2026-03-05"},
+                             {"C y", "2026-03-04"},
+                             {"C +7", "2026-03-12"},
+                             {"C -5", "2026-02-28"},
+                             {"C 5", "2026-03-05"},
+                             {"C 6", "2026-02-06"},
+                             {"C 30", "2026-01-30"},
+                             {"C 3-5", "2026-03-05"},
+                             {"C 3/6", "2025-03-06"},
+                             {"C 2-29", "2024-02-29"},
+                             {"C 2026-12-31", "2026-12-31"},
+                             {"de_DE 5.3", "2026-03-05"},
+                             {"de_DE 31.12.", "2025-12-31"},
+                             {"de_DE 31.12.2026", "2026-12-31"},
+                             {"de_DE 2026-12-31", "2026-12-31"},
+                             {"en_US 3/5", "2026-03-05"},
+                             {"C ", ""},
+                             {"C 32", ""},
+                             {"C 0", ""},
+                             {"C 13-1", ""},
+                             {"C 2-30", ""},
+                             {"C +", ""},
+                             {"C tomorrow?", ""},
+                             {"C 2026-02-30", ""}});
+    }
+    void daysAreRead()
+    {
+        const QString row = QString::fromLatin1(QTest::currentDataTag());
+        foundation::setDateLocale(row.section(u' ', 0, 0).toStdString());
+        const auto reset = qScopeGuard([] { foundation::setDateLocale({}); });
+        QDate read;
+        try {
+            read = workbench::dayOf(row.section(u' ', 1), QDate(2026, 3, 5));
+        } catch (const workbench::EntryError &) {
+            // An invalid day stands for it.
+        }
+        QCOMPARE(read.toString(Qt::ISODate), QString::fromUtf8(rowOf<QByteArray>()));
+    }
+
     void spendingIsNegativeAndMovingIsNothing()
     {
         workbench::OwnChange change(accounts());
@@ -69,21 +156,19 @@ private slots:
 
     void descriptionsAreTakenApartAndPutTogether_data()
     {
-        QTest::addColumn<QString>("parts");
-        for (const auto &[text, parts] : {std::pair("Market | weekly [id 7]", "Market/weekly/7"),
-                                          {"weekly", "/weekly/"},
-                                          {"Market |", "Market//"},
-                                          {"| a | b [id 1] [id 2]", "/a | b/1,2"},
-                                          {"[id 7]", "//7"},
-                                          {"Lunch [x]", "/Lunch [x]/"}})
-            QTest::newRow(text) << QString::fromLatin1(parts);
+        addRows<QByteArray>({{"Market | weekly [id 7]", "Market/weekly/7"},
+                             {"weekly", "/weekly/"},
+                             {"Market |", "Market//"},
+                             {"| a | b [id 1] [id 2]", "/a | b/1,2"},
+                             {"[id 7]", "//7"},
+                             {"Lunch [x]", "/Lunch [x]/"}});
     }
     void descriptionsAreTakenApartAndPutTogether()
     {
-        QFETCH(QString, parts);
         const QString text = QString::fromLatin1(QTest::currentDataTag());
         const Description read = Description::of(text);
-        QCOMPARE(read.payee + u'/' + read.reason + u'/' + read.bankIds.join(u','), parts);
+        QCOMPARE(read.payee + u'/' + read.reason + u'/' + read.bankIds.join(u','),
+                 QString::fromUtf8(rowOf<QByteArray>()));
         QCOMPARE(read.text(), text);
     }
 

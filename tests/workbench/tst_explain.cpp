@@ -15,10 +15,8 @@
 #include "support/accounting.h"
 #include "support/damage.h"
 #include "support/message_log.h"
-#include "support/scripted_sender.h"
+#include "support/surroundings.h"
 #include "surveying/survey_rules.h"
-
-#include <QtCore/QRandomGenerator>
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -89,11 +87,7 @@ private:
     QRandomGenerator m_random;
     QDate m_today;
     test::ScratchFolder m_folder;
-    workbench::Document m_document{{[] {
-                                        return foundation::UniqueQtPtr<networking::RequestSender>(
-                                            new ScriptedSender(ScriptedSender::silence()));
-                                    },
-                                    m_folder.path(u"rates"_s)}};
+    workbench::Document m_document{test::surroundings(m_folder.path(u"rates"_s))};
 };
 
 } // namespace

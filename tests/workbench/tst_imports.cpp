@@ -4,10 +4,9 @@
 #include "interchange/cases.h"
 #include "storage/scratch_folder.h"
 #include "support/message_log.h"
-#include "support/scripted_sender.h"
+#include "support/surroundings.h"
 
 #include "workbench/document/demonstration.h"
-#include "workbench/document/document.h"
 #include "workbench/entry/description.h"
 #include "workbench/requests/budget_view.h"
 #include "workbench/statements/import_reading.h"
@@ -147,10 +146,9 @@ private slots:
     {
         const MessageLog log;
         ScratchFolder folder;
-        workbench::Document document(surroundings(folder));
-        document.createFilled(folder.path(u"home"_s), {}, [&] {
-            workbench::makeDemonstration(document, day("2026-06-30"));
-        });
+        workbench::Document document(surroundings(folder.path(u"rates"_s)));
+        document.createFilled(folder.path(u"home"_s), {},
+                              [&] { workbench::makeDemonstration(document, day("2026-06-30")); });
         workbench::Requests &requests = document.requests();
         const auto balances = [&requests] {
             std::map<QString, QString> all;
@@ -211,15 +209,6 @@ private slots:
     }
 
 private:
-    static workbench::Surroundings surroundings(const ScratchFolder &folder)
-    {
-        return {[] {
-                    return foundation::UniqueQtPtr<networking::RequestSender>(
-                        new ScriptedSender(ScriptedSender::silence()));
-                },
-                folder.path(u"rates"_s)};
-    }
-
     static ImportPreview previewOf(workbench::Document &document, accounting::AccountNumber account,
                                    std::vector<StatementEntry> entries)
     {
@@ -233,7 +222,7 @@ private:
     void walk(QRandomGenerator &random)
     {
         ScratchFolder folder;
-        workbench::Document document(surroundings(folder));
+        workbench::Document document(surroundings(folder.path(u"rates"_s)));
         document.createEmpty(folder.path(u"home"_s), u"Made"_s);
         workbench::Requests &requests = document.requests();
         const auto pick = [&random](int count) { return int(random.bounded(count)); };

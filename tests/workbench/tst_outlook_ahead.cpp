@@ -14,9 +14,7 @@
 #include "support/accounting.h"
 #include "support/damage.h"
 #include "support/message_log.h"
-#include "support/scripted_sender.h"
-
-#include <QtCore/QRandomGenerator>
+#include "support/surroundings.h"
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -133,11 +131,7 @@ private:
 
     QRandomGenerator m_random;
     test::ScratchFolder m_folder;
-    workbench::Document m_document{{[] {
-                                        return foundation::UniqueQtPtr<networking::RequestSender>(
-                                            new ScriptedSender(ScriptedSender::silence()));
-                                    },
-                                    m_folder.path(u"rates"_s)}};
+    workbench::Document m_document{test::surroundings(m_folder.path(u"rates"_s))};
     std::vector<accounting::AccountNumber> m_accounts;
 };
 

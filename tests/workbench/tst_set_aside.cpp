@@ -4,7 +4,6 @@
 #include "workbench/document/bank_moves.h"
 #include "workbench/document/bank_steps.h"
 #include "workbench/document/demonstration.h"
-#include "workbench/document/document.h"
 #include "workbench/internal/chance.h"
 #include "workbench/requests/paying_account.h"
 #include "workbench/surveys/set_aside.h"
@@ -14,7 +13,7 @@
 #include "support/accounting.h"
 #include "support/damage.h"
 #include "support/message_log.h"
-#include "support/scripted_sender.h"
+#include "support/surroundings.h"
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -204,11 +203,7 @@ private:
     workbench::internal::Chance m_chance;
     int m_banks = 0;
     QDate m_day = test::day("2024-06-30");
-    workbench::Document m_document{{[] {
-                                        return foundation::UniqueQtPtr<networking::RequestSender>(
-                                            new ScriptedSender(ScriptedSender::silence()));
-                                    },
-                                    m_folder.path(u"rates"_s)}};
+    workbench::Document m_document{test::surroundings(m_folder.path(u"rates"_s))};
 };
 
 template <typename Lines, typename Member>

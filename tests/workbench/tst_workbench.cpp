@@ -18,22 +18,17 @@ class TestWorkbench : public QObject {
 private slots:
     void everyPathStandsForOneAccount_data()
     {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<QStringList>("paths");
-        const auto row = [](const char *name, const QStringList &names, const QStringList &paths) {
-            QTest::newRow(name) << names << paths;
-        };
-        row("plain", {u"Food"_s, u"Rent"_s}, {u"Food"_s, u"Rent"_s});
-        row("the same name", {u"Food"_s, u"Food"_s}, {u"Food 1"_s, u"Food 2"_s});
-        row("alike once they are safe", {u"A:B"_s, u"A-B"_s}, {u"A-B 1"_s, u"A-B 2"_s});
-        row("a number makes another's name", {u"Food"_s, u"Food"_s, u"Food 1"_s},
-            {u"Food 1 1"_s, u"Food 2"_s, u"Food 1 3"_s});
-        row("nothing left", {u" "_s, u";"_s}, {u"1"_s, u","_s});
+        test::addRows<std::pair<QStringList, QStringList>>(
+            {{"plain", {{u"Food"_s, u"Rent"_s}, {u"Food"_s, u"Rent"_s}}},
+             {"the same name", {{u"Food"_s, u"Food"_s}, {u"Food 1"_s, u"Food 2"_s}}},
+             {"alike once they are safe", {{u"A:B"_s, u"A-B"_s}, {u"A-B 1"_s, u"A-B 2"_s}}},
+             {"a number makes another's name",
+              {{u"Food"_s, u"Food"_s, u"Food 1"_s}, {u"Food 1 1"_s, u"Food 2"_s, u"Food 1 3"_s}}},
+             {"nothing left", {{u" "_s, u";"_s}, {u"1"_s, u","_s}}}});
     }
     void everyPathStandsForOneAccount()
     {
-        QFETCH(QStringList, names);
-        QFETCH(QStringList, paths);
+        const auto [names, paths] = test::rowOf<std::pair<QStringList, QStringList>>();
         std::set<accounting::Account> accounts;
         std::uint32_t number = 0;
         for (const QString &name : names)
@@ -71,26 +66,23 @@ private slots:
 
     void slipsAreCounted_data()
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<int>("slips");
-        for (const auto &[word, slips] : {std::pair("rent", 0),
-                                          {"RENT", 0},
-                                          {"ren", 1},
-                                          {"reent", 1},
-                                          {"rant", 1},
-                                          {"rnet", 1},
-                                          {"ernt", 1},
-                                          {"tren", 2},
-                                          {"", 4},
-                                          {"tner", 3},
-                                          {"abcd", 4},
-                                          {"rente x", 3}})
-            QTest::newRow(word) << QString::fromLatin1(word) << slips;
+        test::addRows<int>({{"rent", 0},
+                            {"RENT", 0},
+                            {"ren", 1},
+                            {"reent", 1},
+                            {"rant", 1},
+                            {"rnet", 1},
+                            {"ernt", 1},
+                            {"tren", 2},
+                            {"", 4},
+                            {"tner", 3},
+                            {"abcd", 4},
+                            {"rente x", 3}});
     }
     void slipsAreCounted()
     {
-        QFETCH(QString, word);
-        QFETCH(int, slips);
+        const QString word = QString::fromLatin1(QTest::currentDataTag());
+        const int slips = test::rowOf<int>();
         QCOMPARE(workbench::slipsBetween(word, u"Rent"_s), slips);
         QCOMPARE(workbench::slipsBetween(u"Rent"_s, word), slips);
     }
