@@ -135,8 +135,6 @@ private slots:
                      banks.update(Bank(first, {{no(12), unknownType}}, false));
                  },
                  [&] { static_cast<void>(toAccountTypes(unknownType)); },
-                 [&] { static_cast<void>(isAssetAccount(unknownType)); },
-                 [&] { static_cast<void>(toQString(unknownType)); },
                  [&] { static_cast<void>(presentationText(unknownType)); }})
             QVERIFY_THROWS_EXCEPTION(std::logic_error, use());
         QCOMPARE(banks, twoBanks());

@@ -6,8 +6,6 @@
 #include "support/damage.h"
 #include "support/full_disk.h"
 
-#include <QtCore/QElapsedTimer>
-
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 
@@ -15,14 +13,9 @@ namespace {
 
 /// A second, and what a machine that does other work takes in addition.
 constexpr qint64 lostMax = 2'500;
-/// Tells a process that it is the one to kill.
-constexpr auto victimsFolder = "KIV_VICTIMS_FOLDER";
+/// Tells a process that it is the one to kill: its file, and whether its disk is full.
+constexpr auto victimsFile = "KIV_VICTIMS_FILE";
 constexpr auto victimsDisk = "KIV_VICTIMS_DISK";
-
-QString fileIn(const QString &folder)
-{
-    return folder + u"/home.budget"_s;
-}
 
 /// Opens the file in a window and enters 1 for groceries, then 2, 3, … until it is killed.
 [[noreturn]] void enterUntilKilled(const QString &file)
@@ -32,7 +25,7 @@ QString fileIn(const QString &folder)
         ::_exit(2);
     home.show();
     std::optional<FullDisk> full;
-    if (qEnvironmentVariable(victimsDisk) == u"full"_s)
+    if (!qEnvironmentVariableIsEmpty(victimsDisk))
         full.emplace();
     home.trigger("newEntry");
     const auto field = [&home](const char *name) {
@@ -55,10 +48,10 @@ class Victim {
 public:
     explicit Victim(const QString &disk)
     {
-        KivCommand(fileIn(m_folder.path())).makeHousehold();
+        KivCommand(m_file).makeHousehold();
         m_before = transactions();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QString::fromLatin1(victimsFolder), m_folder.path());
+        environment.insert(QString::fromLatin1(victimsFile), m_file);
         environment.insert(QString::fromLatin1(victimsDisk), disk);
         environment.insert(u"TMPDIR"_s, m_folder.path()); // what it leaves goes with it
         m_process.setProcessEnvironment(environment);
@@ -84,7 +77,7 @@ public:
         const qint64 end = sinceFirst.elapsed();
         m_process.kill();
         m_process.waitForFinished();
-        if (const QString wrong = test::wrongInVersions(fileIn(m_folder.path())); !wrong.isEmpty())
+        if (const QString wrong = test::wrongInVersions(m_file); !wrong.isEmpty())
             return wrong;
         const std::size_t kept = transactions() - m_before;
         return kept < entered.size() && entered[kept] < end - lostMax
@@ -95,10 +88,11 @@ public:
 private:
     [[nodiscard]] std::size_t transactions() const
     {
-        return test::load(fileIn(m_folder.path())).generalLedger.transactions().size();
+        return test::load(m_file).generalLedger.transactions().size();
     }
 
     QTemporaryDir m_folder;
+    QString m_file = m_folder.filePath(u"home.budget"_s);
     std::size_t m_before = 0;
     QProcess m_process;
 };
@@ -112,8 +106,8 @@ class TestKilledWindow : public QObject {
 private slots:
     void initTestCase()
     {
-        if (const QString folder = qEnvironmentVariable(victimsFolder); !folder.isEmpty())
-            enterUntilKilled(fileIn(folder));
+        if (const QString file = qEnvironmentVariable(victimsFile); !file.isEmpty())
+            enterUntilKilled(file);
     }
 
     void onlyTheLastSecondIsLost()

@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "desktop/household_window.h"
+#include "pages/filter_bar.h"
 
 #include "workbench/entry/money_text.h"
 
@@ -226,6 +227,12 @@ private slots:
         QCOMPARE(text(u"search"_s), u"landlord is:nothing"_s);
         press(Qt::Key_Escape);
         QCOMPARE(text(u"search"_s), QString());
+        // The boxes beside it show the filters that are typed.
+        const auto boxes = page()->findChild<desktop::FilterBar *>()->findChildren<QComboBox *>();
+        press(Qt::Key_F, Qt::ControlModifier);
+        m_desk->type(u"is:cleared"_s);
+        QTRY_COMPARE(boxes.front()->currentText(), u"Cleared"_s);
+        QCOMPARE(boxes.last()->currentIndex(), 0);
     }
 
     void aBudgetForReadingSaysWhyNothingCanBeEntered()

@@ -34,6 +34,7 @@ private slots:
         keys(home, u"Alt+I=Phone; Return"_s);
         QCOMPARE(texts(home, 3, "ticks").last(), u"Phone"_s);
         QCOMPARE(figures(home), u"2 ticked, no difference"_s);
+        setTaxAside(home, u"30"_s);
         setTaxAside(home, u"50"_s);
         QVERIFY(details(home).contains(u"items: $50.00; free: $1,980.00."_s));
         home.trigger("page home");
@@ -177,6 +178,7 @@ private slots:
             return home.document().present().surveys.begin()->second.distribution().size();
         };
         QCOMPARE(recorded(), 1U);
+        QVERIFY(part<QPushButton>(home, drop.constData()).text().startsWith(u"Set nothing"_s));
         part<QWidget>(home, drop.constData()).setFocus();
         press(home, Qt::Key_Space);
         QCOMPARE(message(home), QString());

@@ -83,9 +83,6 @@ A search looks at all of it, and sums up what was spent and earned:
       "count": 2,
       "filter": "item:car <=100",
       "of": 9,
-  $ kiv find '>abc'
-  kiv: '>abc' names no amounts; write them like >50, <20, =12.30 or 50..80.
-  [2]
   $ kiv find nothing
   No transaction fits.
   0 of 9, together 0.

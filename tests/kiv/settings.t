@@ -6,13 +6,9 @@ Help, the tour, completion and settings.
 
 Help needs nothing and leaves nothing:
 
-  $ kiv help bill add | sed 9,15d
+  $ kiv help bill add | sed '3,6d;9,15d'
   Add an item
   Usage: kiv bill add [OPTIONS] NAME AMOUNT
-  
-  Arguments:
-    NAME REQUIRED               Name
-    AMOUNT REQUIRED             Amount
   
   Options:
     --passphrase-file FILE      File with the passphrase of an encrypted budget
@@ -100,8 +96,6 @@ Settings are kept. What is preferred is usable, unless the usable ones are given
   kiv: The number of days to notify within must be between 0 and 60.
   [1]
   $ settings() { kiv configure "$@" --json | jq -c .; }
-  $ settings show
-  {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"EUR","surveyWindowPercent":2.75,"usableCurrencies":["USD","EUR"]}
   $ settings set --preferred JPY
   {"currenciesDisplayAs":"ISO-4217 Code","daysInWeek":5,"hoursInWeek":40,"notifyDueWithinDays":30,"preferredCurrency":"JPY","surveyWindowPercent":2.75,"usableCurrencies":["JPY","USD","EUR"]}
   $ settings set --usable JPY
