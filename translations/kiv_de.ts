@@ -8083,6 +8083,10 @@ Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rec
         <source>No bank&apos;s statement is of &apos;%1&apos;: the account neither holds money nor owes any.</source>
         <translation>Kein Kontoauszug gehört zu „%1“: Das Konto enthält weder Geld noch Schulden.</translation>
     </message>
+    <message>
+        <source>kiv-desktop: One file can be opened, not &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>kiv-desktop: Eine Datei kann geöffnet werden, nicht „%1“ und „%2“.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

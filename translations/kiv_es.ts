@@ -8083,6 +8083,10 @@ Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores:
         <source>No bank&apos;s statement is of &apos;%1&apos;: the account neither holds money nor owes any.</source>
         <translation>Ningún extracto bancario es de «%1»: la cuenta ni guarda dinero ni lo debe.</translation>
     </message>
+    <message>
+        <source>kiv-desktop: One file can be opened, not &apos;%1&apos; and &apos;%2&apos;.</source>
+        <translation>kiv-desktop: Se puede abrir un archivo, no «%1» y «%2».</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

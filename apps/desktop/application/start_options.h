@@ -17,8 +17,8 @@ struct StartOptions {
     [[nodiscard]] bool showsTerms() const noexcept { return ui.isAdvancedUi && !ui.isJargonFree; }
 };
 
-/// Reads the command line, whose first argument is the program's name. Help, the version
-/// and unknown options end the program. Needs the application object.
+/// Reads the command line, whose first argument is the program's name. Help, the version,
+/// unknown options and a second file end the program. Needs the application object.
 [[nodiscard]] StartOptions readStartOptions(const QStringList &arguments);
 
 } // namespace kiv::desktop
