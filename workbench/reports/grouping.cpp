@@ -128,9 +128,9 @@ QDate usualBegin(SpanLength length, QDate to, const std::vector<QDate> &paydays)
 {
     switch (length) {
     case SpanLength::Week:
-        return to.addDays(-7 * 11);
+        return to.addDays(qint64{-7} * 11);
     case SpanLength::TwoWeeks:
-        return to.addDays(-14 * 11);
+        return to.addDays(qint64{-14} * 11);
     case SpanLength::Payday: {
         const auto end = std::ranges::upper_bound(paydays, to);
         const auto count = std::min<std::ptrdiff_t>(end - paydays.begin(), 12);

@@ -134,7 +134,7 @@ void SurveySheet::tick(const std::set<TransactionNumber> &ticked)
 
 std::set<TransactionNumber> SurveySheet::readTicks(const QString &text) const
 {
-    const std::set<TransactionNumber> all = numbers();
+    std::set<TransactionNumber> all = numbers();
     const QString word = text.simplified().toLower();
     const auto isWord = [&word](const char *english, const QString &local) {
         return word == QLatin1String(english) || word == local;

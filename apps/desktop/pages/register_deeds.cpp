@@ -5,6 +5,10 @@
 #include "pages/category_row.h"
 #include "pages/entry_row.h"
 
+#include <QtWidgets/QTableView>
+
+#include <algorithm>
+
 namespace kiv::desktop {
 
 using accounting::AccountNumber;

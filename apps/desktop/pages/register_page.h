@@ -8,6 +8,7 @@
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
+class QPushButton;
 class QTableView;
 QT_END_NAMESPACE
 

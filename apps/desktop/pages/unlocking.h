@@ -24,7 +24,7 @@ public:
                 work();
                 return true;
             } catch (const storage::StorageError &error) {
-                const QString file = error.filePathName();
+                const QString &file = error.filePathName();
                 if (error.failure() != storage::StorageFailure::PassphraseNeeded ||
                     !m_desk.document().keys().isLocked(file))
                     throw;

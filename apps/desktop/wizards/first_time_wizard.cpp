@@ -11,7 +11,10 @@
 #include <QtCore/QStandardPaths>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QVBoxLayout>
 
 namespace kiv::desktop {
 

@@ -6,6 +6,7 @@
 #include "wizards/household_step.h"
 
 QT_BEGIN_NAMESPACE
+class QLineEdit;
 class QStackedWidget;
 QT_END_NAMESPACE
 

@@ -3,6 +3,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <QtCore/QString>
+
 #include <algorithm>
 #include <array>
 #include <ranges>
