@@ -34,31 +34,29 @@ void RegisterPage::beginEntry(EntryForm form)
     m_entry->begin(form);
 }
 
-void RegisterPage::edit()
+void RegisterPage::beginFromCurrent(void (EntryRow::*begin)(const Transaction &))
 {
     const std::optional<Transaction> transaction = current();
-    if (!transaction || desk().whyNoChange())
+    if (!transaction)
         return;
     showEntryRow(true);
-    m_entry->beginChange(*transaction);
+    (m_entry->*begin)(*transaction);
+}
+
+void RegisterPage::edit()
+{
+    if (!desk().whyNoChange())
+        beginFromCurrent(&EntryRow::beginChange);
 }
 
 void RegisterPage::enterAgain()
 {
-    const std::optional<Transaction> transaction = current();
-    if (!transaction)
-        return;
-    showEntryRow(true);
-    m_entry->beginAgain(*transaction);
+    beginFromCurrent(&EntryRow::beginAgain);
 }
 
 void RegisterPage::refund()
 {
-    const std::optional<Transaction> transaction = current();
-    if (!transaction)
-        return;
-    showEntryRow(true);
-    m_entry->beginRefund(*transaction);
+    beginFromCurrent(&EntryRow::beginRefund);
 }
 
 void RegisterPage::remove()

@@ -65,6 +65,8 @@ private:
     [[nodiscard]] std::optional<accounting::Transaction> current() const;
     void showEntryRow(bool isShown);
     void beginEntry(workbench::EntryForm form);
+    /// Begins something with the current transaction in the entry row.
+    void beginFromCurrent(void (EntryRow::*begin)(const accounting::Transaction &));
     void edit();
     void enterAgain();
     void refund();
