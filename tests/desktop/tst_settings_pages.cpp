@@ -27,7 +27,6 @@ private slots:
         QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.8 CHF"_s});
         QCOMPARE(texts(home, 4), QStringList{u"typed"_s});
         QVERIFY(table(home).hasFocus());
-        QCOMPARE(part<QLineEdit>(home, "rate").text(), u"0.8"_s);
         for (const auto &[field, wrong, right] : {std::tuple("rate", u"-1"_s, u"0.8"_s),
                                                   {"rate", u"0"_s, u"0.8"_s},
                                                   {"rate", u"1.2.3"_s, u"0.8"_s},
