@@ -28,12 +28,10 @@ StartOptions readStartOptions(const QStringList &arguments)
     QStringList others;
     bool isOption = true; // until "--"
     for (const QString &argument : arguments) {
-        if (others.isEmpty())
-            others += argument; // the program's name
-        else if (isOption && argument == u"--")
+        if (isOption && argument == u"--")
             isOption = false;
-        else if (isOption && argument.startsWith(u'-'))
-            others += argument;
+        else if (others.isEmpty() || (isOption && argument.startsWith(u'-')))
+            others += argument; // the program's name, or an option
         else if (options.file.isEmpty())
             options.file = argument;
         else

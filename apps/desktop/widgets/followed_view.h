@@ -42,6 +42,7 @@ protected:
         if (this->hasFocus())
             View::currentChanged(current, previous);
         else
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call)
             QAbstractItemView::currentChanged(current, previous);
     }
 };

@@ -207,7 +207,7 @@ bool FirstTimeWizard::readPlace()
 {
     m_place->message().withdraw();
     const auto file = m_place->read(*m_file, [this] {
-        const QString path = QFileInfo(nameIn(*m_file).text).absoluteFilePath();
+        QString path = QFileInfo(nameIn(*m_file).text).absoluteFilePath();
         Document::refuseExisting(path);
         const QFileInfo folder(QFileInfo(path).absolutePath());
         if (!folder.isDir())
