@@ -107,7 +107,7 @@ private slots:
     void initTestCase()
     {
         if (const QString file = qEnvironmentVariable(victimsFile); !file.isEmpty())
-            enterUntilKilled(file);
+            enterUntilKilled(file); // this process is a victim, and does not return
     }
 
     void onlyTheLastSecondIsLost()

@@ -4,7 +4,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, no file becomes longer than this: a disk without room.
+/// While it lives, no file becomes longer than 4 KiB: a disk without room.
 class FullDisk {
 public:
     FullDisk()

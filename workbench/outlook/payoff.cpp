@@ -30,7 +30,7 @@ using storage::BudgetStorage;
 namespace {
 
 constexpr int daysAYear = 365;
-constexpr int hundredthsOfAll = 10'000; ///< hundredths of a percent
+constexpr int hundredthsInAll = 10'000; ///< so many hundredths of a percent are the whole
 /// No lender takes more a year than was lent.
 constexpr double rateMax = 1;
 
@@ -105,7 +105,7 @@ private:
         Money interest(m_left.code());
         if (m_hundredths > 0 && day > m_charged) {
             interest =
-                m_left.scaled(m_charged.daysTo(day) * m_hundredths, daysAYear * hundredthsOfAll)
+                m_left.scaled(m_charged.daysTo(day) * m_hundredths, daysAYear * hundredthsInAll)
                     .rounded();
             m_charged = day;
         }
@@ -188,8 +188,8 @@ std::optional<SeenInterest> seenInterest(const BudgetStorage::Data &data,
     weight += owed * static_cast<double>(reached.daysTo(until));
     if (!seen.sum.isPositive() || weight <= 0)
         return std::nullopt;
-    const double rate = seen.sum.amount().toDouble() / weight * daysAYear * hundredthsOfAll;
-    if (rate > rateMax * hundredthsOfAll) // what was bought on it is among the charges
+    const double rate = seen.sum.amount().toDouble() / weight * daysAYear * hundredthsInAll;
+    if (rate > rateMax * hundredthsInAll) // what was bought on it is among the charges
         return std::nullopt;
     seen.hundredths = static_cast<int>(std::lround(rate));
     return seen.hundredths > 0 ? std::optional(seen) : std::nullopt;

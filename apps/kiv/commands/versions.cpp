@@ -4,9 +4,8 @@
 
 #include "output/change_table.h"
 
+#include "workbench/entry/user_locale.h"
 #include "workbench/versions/kept_versions.h"
-
-#include "foundation/local_dates.h"
 
 namespace kiv::app {
 
@@ -35,8 +34,8 @@ constexpr const char *valueWord(const Steps *)
 
 QString localTime(const QDateTime &time)
 {
-    const QDateTime local = time.toLocalTime();
-    return foundation::localText(local.date()) + local.time().toString(QStringLiteral(" HH:mm:ss"));
+    // Versions can be of the same minute.
+    return workbench::momentText(time) + time.toLocalTime().toString(QStringLiteral(":ss"));
 }
 
 bool isTelling(const KeptVersion &version)
