@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "desktop/household_window.h"
+#include "desktop/told.h"
 
 #include <QtWidgets/QtWidgets>
 
@@ -203,7 +204,11 @@ private:
         QVERIFY(table);
         press(u"Ctrl+Home"_s);
         const auto isThere = [&] {
-            return rowText(*table->model(), table->currentIndex().row()).contains(wanted);
+            return test::rowText(*table,
+                                 [table](int column) {
+                                     return table->currentIndex().siblingAtColumn(column).data();
+                                 })
+                .contains(wanted);
         };
         for (int row = 0; !isThere() && row < table->model()->rowCount(); ++row)
             press(u"Down"_s);
@@ -219,25 +224,11 @@ private:
             press(u"Ctrl+Shift+Z"_s);
     }
 
-    static QString rowText(const QAbstractItemModel &model, int row)
-    {
-        QStringList cells;
-        for (int column = 0; column < model.columnCount(); ++column)
-            cells += model.index(row, column).data().toString();
-        return cells.join(u' ');
-    }
     /// All that the page shows.
     QString told()
     {
         QStringList texts;
-        for (const QLabel *label : m_desk.window().page()->findChildren<QLabel *>()) {
-            if (label->isVisible())
-                texts += label->text();
-        }
-        for (const QTableView *table : m_desk.window().page()->findChildren<QTableView *>()) {
-            for (int row = 0; table->isVisible() && row < table->model()->rowCount(); ++row)
-                texts += rowText(*table->model(), row);
-        }
+        test::tell(*m_desk.window().page(), INT_MAX, texts);
         return texts.join(u'\n');
     }
     void compare(const QString &name)

@@ -202,52 +202,6 @@ private slots:
                                  (void)home.requests().accounts().find(u"Bread"_s));
     }
 
-    void rulesAreKeptTriedAndFollowed()
-    {
-        HouseholdWindow home;
-        begin(home);
-        home.trigger("page rules");
-        for (const auto &[text, from, to] :
-             {std::tuple(u"kiosk"_s, u"5"_s, u""_s), {u"("_s, u""_s, u""_s}}) {
-            press(home, Qt::Key_N, Qt::AltModifier);
-            type(home, text);
-            if (text == u"(") {
-                keys(home, u"Alt+R; Return"_s);
-                QVERIFY(part<QWidget>(home, "text").hasFocus());
-                QVERIFY(!message(home).isEmpty());
-                part<QLineEdit>(home, "text").setText(u"^mar.et"_s);
-            }
-            press(home, Qt::Key_I, Qt::AltModifier);
-            type(home, text == u"(" ? u"Fees"_s : u"Pocket"_s);
-            press(home, Qt::Key_A, Qt::AltModifier);
-            type(home, from);
-            press(home, Qt::Key_M, Qt::AltModifier);
-            type(home, to);
-            press(home, Qt::Key_Return);
-            QCOMPARE(message(home), QString());
-        }
-        QCOMPARE(texts(home, 0), QStringList({u"kiosk"_s, u"^mar.et"_s}));
-        press(home, Qt::Key_U, Qt::AltModifier);
-        QCOMPARE(texts(home, 0), QStringList({u"^mar.et"_s, u"kiosk"_s}));
-        keys(home, u"Alt+Y=A kiosk; Alt+M"_s);
-        for (const auto &[amount, fits] : {std::pair(u"4"_s, false), {u"5"_s, true}}) {
-            part<QLineEdit>(home, "amount").setText(amount);
-            press(home, Qt::Key_Return);
-            QCOMPARE(said(home).contains(u"Pocket"), fits);
-        }
-        import(home, march, u"columns"_s);
-        press(home, Qt::Key_N, Qt::AltModifier);
-        QCOMPARE(texts(home, 5, "entries").mid(2),
-                 QStringList({u"Fees"_s, u"Pocket"_s, u"not known yet"_s}));
-        home.trigger("page rules");
-        press(home, Qt::Key_Escape); // the trial
-        press(home, Qt::Key_Delete);
-        QCOMPARE(texts(home, 0), QStringList{u"^mar.et"_s}); // the one that fitted is gone
-        for (int step = 0; step < 4; ++step)
-            home.trigger("undo");
-        QVERIFY(home.document().notes().isEmpty());
-    }
-
 private:
     /// Opens the household. Returns what is in its books.
     static std::vector<accounting::Transaction> begin(HouseholdWindow &home)

@@ -29,57 +29,6 @@ private slots:
                  (desktop::Place{u"register"_s, home.number(u"Checking"_s)}));
     }
 
-    void anItemsAccountHasTheItemsName()
-    {
-        SmallHousehold home;
-        show(home, "accounts");
-        QVERIFY(texts(home, 0).contains(u"Rent"_s));
-        QVERIFY(!texts(home, 0).join(u' ').contains(u'['));
-    }
-
-    void payingPostsTheAmountAndMovesTheItemOn()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        QCOMPARE(texts(home, 0), QStringList({u"Rent"_s, u"Phone"_s, u"Salary"_s}));
-        QCOMPARE(texts(home, 2).at(0), u"3 days late"_s);
-        QCOMPARE(texts(home, 5), QStringList({dollars("2100"), dollars("2080"), dollars("4580")}));
-        press(home, Qt::Key_P, Qt::AltModifier);
-        QCOMPARE(texts(home, 0), QStringList({u"Phone"_s, u"Salary"_s}));
-        const accounting::Transaction paid = home.requests().transactions().back();
-        QCOMPARE(paid.occurredOn(), foundation::today());
-        QCOMPARE(paid.crediting().name(), u"Checking"_s);
-        QCOMPARE(paid.amount(), test::usd("900"));
-        QCOMPARE(home.document().undoable()->undone, u"paying “Rent”"_s);
-        home.trigger("undo");
-        QCOMPARE(texts(home, 0), QStringList({u"Rent"_s, u"Phone"_s, u"Salary"_s}));
-        QCOMPARE(table(home).chosen(), QStringList{u"bill:Rent"_s});
-    }
-
-    void skippingPostsNothing()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        const std::size_t before = home.requests().transactions().size();
-        press(home, Qt::Key_K, Qt::AltModifier);
-        QCOMPARE(texts(home, 0), QStringList({u"Phone"_s, u"Salary"_s}));
-        QCOMPARE(home.requests().transactions().size(), before);
-    }
-
-    void anotherAmountIsPaidInsteadOrBesides()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        keys(home, u"Alt+M=12.5; Alt+I"_s); // in addition
-        keys(home, u"Alt+M; Return"_s);
-        QCOMPARE(home.requests().transactions().back().amount(), test::usd("12.5"));
-        QCOMPARE(texts(home, 0).first(), u"Rent"_s); // still due
-        type(home, u"850"_s);
-        press(home, Qt::Key_Return);
-        QCOMPARE(home.requests().transactions().back().amount(), test::usd("850"));
-        QCOMPARE(texts(home, 0).first(), u"Phone"_s);
-    }
-
     void severalArePaidAsOneStepOrNotAtAll()
     {
         SmallHousehold home;
@@ -123,28 +72,6 @@ private slots:
                                    "Checking is below zero: -$1.00."_s});
         home.trigger("undo");
         QVERIFY(home.notices().isEmpty());
-    }
-
-    void refusalsStandAtTheirFieldAndKeepWhatWasTyped()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        const std::size_t before = home.requests().transactions().size();
-        for (const auto &[key, field, wrong, right] :
-             {std::tuple(Qt::Key_M, "amount", u"12.345"_s, u"12"_s),
-              {Qt::Key_M, "amount", u"many"_s, u"12"_s},
-              {Qt::Key_Y, "day", u"2026-02-30"_s, u"2026-02-28"_s}}) {
-            press(home, key, Qt::AltModifier);
-            auto *edit = home.window().page()->findChild<QLineEdit *>(QLatin1String(field));
-            edit->selectAll();
-            type(home, wrong);
-            press(home, Qt::Key_Return);
-            QVERIFY(!message(home).isEmpty());
-            QCOMPARE(edit->text(), wrong);
-            QVERIFY(edit->hasFocus());
-            edit->setText(right);
-        }
-        QCOMPARE(home.requests().transactions().size(), before);
     }
 
     void theAccountIsTheChosenOneThenTheLastOneThenTheFirst()

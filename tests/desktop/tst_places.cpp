@@ -27,7 +27,7 @@ private slots:
                 continue;
             for (const QString &kind : line.contains(u"KIND"_s) ? kinds : QStringList{{}}) {
                 const QString place = QString(line).replace(u"KIND"_s, kind);
-                named += place.section(u": "_s, 0, 0);
+                named += place.section(u": "_s, 0, 0).split(u", "_s);
                 if (!isThere(desk, place.section(u": "_s, 1)))
                     faults += place;
             }

@@ -12,7 +12,6 @@ using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 
 /// A field, what is typed into it, and what is said of it.
-using Wrong = std::tuple<QString, QString, QString>;
 
 /// The register's work by real keys.
 class TestRegisterPage : public QObject {
@@ -28,28 +27,6 @@ private slots:
         m_before = m_last = all();
     }
     void cleanup() { m_desk.reset(); }
-
-    void whatIsSpentEarnedAndMovedIsEntered()
-    {
-        press(Qt::Key_T, Qt::ControlModifier);
-        // The account that is looked at is there already.
-        enter({u"12.30+3.5"_s, {}, u"groceries"_s, u"Bakery"_s, u"bread"_s, u"2026-02-20"_s});
-        QCOMPARE(news(), u"2026-02-20 Checking > Groceries 15.80 USD Bakery | bread"_s);
-        QCOMPARE(undoName(), u"Undo spending $15.80 on Groceries"_s);
-        // The next one begins at once, on the same day; its payee is known.
-        QCOMPARE(focus(), u"amount"_s);
-        enter({u"2"_s, {}, {}, u"bakery"_s, {}, {}});
-        QCOMPARE(news(), u"2026-02-20 Checking > Groceries 2.00 USD Bakery | bread"_s);
-
-        m_desk->trigger("newEarned");
-        enter({u"7"_s, {}, u"Salary"_s, u"Mill"_s, u"extra"_s, u"2026-02-21"_s});
-        QCOMPARE(news(), u"2026-02-21 Salary > Checking 7.00 USD Mill | extra"_s);
-
-        // By keys from the field: nothing unsent is in it that could be undone first.
-        for (int step = 0; step < 3; ++step)
-            press(Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(all(), m_before);
-    }
 
     void onePaymentOnSeveralThingsIsOneStep()
     {
@@ -103,83 +80,6 @@ private slots:
         QCOMPARE(all(), m_before);
     }
 
-    void aRefusalStandsAtItsField_data()
-    {
-        QTest::addColumn<Wrong>("row");
-        for (const auto &[field, typed, sentence] : std::initializer_list<Wrong>{
-                 {u"amount"_s, u"much"_s,
-                  u"'much' is not an amount; write one like 1234.50 or '1234.50 USD'."_s},
-                 {u"amount"_s, u"1.234"_s, u"'1.234' has too many decimals; USD allows 2."_s},
-                 {u"amount"_s, u"-5"_s, u"amount"_s},
-                 {u"own"_s, u"Cheking"_s,
-                  u"There is no account 'Cheking'; did you mean 'Checking'?"_s},
-                 {u"other"_s, u"Grocerys"_s, u"did you mean 'Groceries'?"_s},
-                 {u"other"_s, u""_s, u"Choose what the money was spent on."_s},
-                 {u"other"_s, u"Salary"_s, u"Salary"_s},
-                 {u"day"_s, u"32"_s,
-                  u"'32' is not a day; write one like 2026-03-31, 3, 5-2, +7 or today."_s}})
-            QTest::addRow("%s %s", qPrintable(field), qPrintable(typed))
-                << Wrong(field, typed, sentence);
-    }
-    void aRefusalStandsAtItsField()
-    {
-        const auto [field, typed, sentence] = kiv::test::rowOf<Wrong>();
-        press(Qt::Key_T, Qt::ControlModifier);
-        std::vector<std::optional<QString>> values{u"5"_s,    u"Checking"_s, u"Groceries"_s,
-                                                   u"Shop"_s, u"food"_s,     u"2026-02-20"_s};
-        const QStringList fields{u"amount"_s, u"own"_s,    u"other"_s,
-                                 u"payee"_s,  u"reason"_s, u"day"_s};
-        values[static_cast<std::size_t>(fields.indexOf(field))] = typed;
-        enter(values);
-        const auto *message = page()->findChild<QLabel *>(u"message"_s);
-        QVERIFY2(message->isVisible() && message->text().contains(sentence),
-                 qPrintable(message->text()));
-        QCOMPARE(focus(), field);
-        QCOMPARE(text(field), typed);
-        QCOMPARE(text(u"reason"_s), u"food"_s);
-        QCOMPARE(all(), m_before);
-    }
-
-    void aRowIsChangedRemovedEnteredAgainAndRefunded()
-    {
-        selectRow(u"Landlord: rent"_s);
-        press(Qt::Key_Return);
-        QCOMPARE(text(u"amount"_s), u"900.00"_s);
-        enter({u"910"_s, {}, {}, {}, u"rent and water"_s, {}});
-        QCOMPARE(news(), u"2026-01-28 Checking > Rent 910.00 USD Landlord | rent and water"_s);
-        QCOMPARE(rowText(), u"Landlord: rent and water"_s);
-
-        press(Qt::Key_D, Qt::ControlModifier);
-        enter({u"911"_s, {}, {}, {}, {}, u"2026-02-27"_s});
-        QCOMPARE(news(), u"2026-02-27 Checking > Rent 911.00 USD Landlord | rent and water"_s);
-
-        m_desk->trigger("refundEntry");
-        QCOMPARE(text(u"amount"_s), u"911.00"_s);
-        QCOMPARE(text(u"payee"_s), u"Landlord"_s);
-        m_desk->type(u"912"_s);
-        press(Qt::Key_Return);
-        QCOMPARE(focus(), u"amount"_s); // more than was paid
-        press(Qt::Key_A, Qt::ControlModifier);
-        m_desk->type(u"11"_s);
-        press(Qt::Key_Return);
-        QVERIFY(news().contains(u"Rent > Checking 11.00 USD"_s));
-        QCOMPARE(undoName(), u"Undo refunding $11.00 of “Landlord: rent and water”"_s);
-
-        selectRow(u"Landlord: rent and water"_s, 1);
-        m_desk->trigger("refundEntry");
-        QCOMPARE(text(u"amount"_s), u"900.00"_s); // what is left
-        press(Qt::Key_Escape);
-
-        const QStringList before = all();
-        selectRow(u"Refund: Landlord: rent and water"_s);
-        press(Qt::Key_Delete);
-        QCOMPARE(all().size(), before.size() - 1);
-        m_desk->window().goTo({u"register"_s, u"all"_s});
-        m_desk->trigger("undo");
-        QCOMPARE(all(), before);
-        QCOMPARE(rowText(), u"Refund: Landlord: rent and water"_s);
-    }
-
     void severalRowsAreMarkedAndCategorisedAtOnce()
     {
         selectRow(u"Landlord: rent"_s);
@@ -211,28 +111,6 @@ private slots:
         QCOMPARE(news().count(u"Checking > Fees 900.00 USD"_s), 2);
         m_desk->trigger("undo");
         QCOMPARE(all(), m_before);
-    }
-
-    void aSearchTellsItsResult()
-    {
-        press(Qt::Key_F, Qt::ControlModifier);
-        QCOMPARE(focus(), u"search"_s);
-        m_desk->type(u"landlord"_s);
-        press(Qt::Key_Return);
-        QCOMPARE(page()->findChild<QLabel *>(u"result"_s)->text(),
-                 u"2 of 7, together -$1,800.00"_s);
-        m_desk->type(u" is:nothing"_s);
-        press(Qt::Key_Return);
-        QCOMPARE(focus(), u"search"_s);
-        QCOMPARE(text(u"search"_s), u"landlord is:nothing"_s);
-        press(Qt::Key_Escape);
-        QCOMPARE(text(u"search"_s), QString());
-        // The boxes beside it show the filters that are typed.
-        const auto boxes = page()->findChild<desktop::FilterBar *>()->findChildren<QComboBox *>();
-        press(Qt::Key_F, Qt::ControlModifier);
-        m_desk->type(u"is:cleared"_s);
-        QTRY_COMPARE(boxes.front()->currentText(), u"Cleared"_s);
-        QCOMPARE(boxes.last()->currentIndex(), 0);
     }
 
     void aBudgetForReadingSaysWhyNothingCanBeEntered()

@@ -22,50 +22,6 @@ QString told(HouseholdWindow &home, const char *label = "told")
     return part<QLabel>(home, label).text();
 }
 
-numira::Money amountOf(const QJsonValue &amount)
-{
-    return numira::toMoney(numira::toCurrency(amount[u"currency"].toString().toStdString()),
-                           amount[u"amount"].toString().toStdString());
-}
-
-QString money(const QJsonValue &amount)
-{
-    return foundation::presentationText(amountOf(amount));
-}
-
-QStringList moneyOf(const QJsonValue &amounts)
-{
-    QStringList texts;
-    for (const QJsonValue &amount : amounts.toArray())
-        texts += money(amount);
-    return texts;
-}
-
-/// A member of each object.
-QJsonArray each(const QJsonValue &objects, const QString &member)
-{
-    QJsonArray values;
-    for (const QJsonValue &object : objects.toArray())
-        values += object[member];
-    return values;
-}
-
-/// As a cell shows a rate or a part; a dash stands for none.
-QString percent(const QJsonValue &rate)
-{
-    return rate.isNull() ? u"–"_s
-                         : foundation::presentationText(foundation::Percentage(rate.toDouble(), 1));
-}
-
-QJsonObject reportOf(HouseholdWindow &home, const QStringList &arguments)
-{
-    return QJsonDocument::fromJson(KivCommand(home.document().file())
-                                       .run(QStringList{u"report"_s, u"--from"_s, u"2025-10-01"_s,
-                                                        u"--to"_s, u"2026-02-28"_s, u"--json"_s} +
-                                            arguments))
-        .object();
-}
-
 /// Fills in a field, and adds up.
 void fill(HouseholdWindow &home, const char *field, const QString &text)
 {
@@ -98,124 +54,41 @@ class TestReportsPage : public QObject {
     Q_OBJECT
 
 private slots:
-    void figuresAreThoseOfTheCommandAndAddUpFromEntries_data()
+    void everyFigureIsTheSumOfItsEntries_data()
     {
         QTest::addColumn<QString>("by");
-        QTest::addColumn<QString>("span");
-        for (const auto &[by, what] : {std::pair("category", "By category"),
-                                       {"payee", "By payee"},
-                                       {"tag", "By tag"},
-                                       {"account", "By account"}}) {
-            for (const auto &[span, spans] :
-                 {std::pair("month", "Months"), {"quarter", "Quarters"}, {"week", "Weeks"}})
-                QTest::addRow("%s, %s", by, span)
-                    << QLatin1String(what) + u'|' + QLatin1String(by)
-                    << QLatin1String(spans) + u'|' + QLatin1String(span);
+        QTest::addColumn<QString>("spans");
+        for (const QString &by : {u"By category"_s, u"By payee"_s, u"By tag"_s, u"By account"_s}) {
+            for (const QString &spans : {u"Months"_s, u"Quarters"_s, u"Weeks"_s})
+                QTest::addRow("%s, %s", qPrintable(by), qPrintable(spans)) << by << spans;
         }
     }
-    void figuresAreThoseOfTheCommandAndAddUpFromEntries()
+    void everyFigureIsTheSumOfItsEntries()
     {
         QFETCH(QString, by);
-        QFETCH(QString, span);
+        QFETCH(QString, spans);
         HouseholdWindow home;
         showReports(home);
         fill(home, "from", u"2025-10-01"_s);
         fill(home, "to", u"2026-02-28"_s);
-        choose(home, "by", by.section(u'|', 0, 0));
-        choose(home, "spans", span.section(u'|', 0, 0));
-        const QJsonObject report =
-            reportOf(home, {u"--by"_s, by.section(u'|', 1), u"--period"_s, span.section(u'|', 1)});
-        const QJsonArray groups = report[u"groups"].toArray();
-        QVERIFY(!groups.isEmpty());
-        const QStringList names = texts(home, 0, "lines");
-        const QStringList totals = texts(home, 2, "lines");
-        const auto sums = names.size() - groups.size();
-        QCOMPARE(sums, 2 * report[u"currencies"].toArray().size());
-        const QJsonValue flow = report[u"currencies"][0];
-        const QJsonValue all = flow[u"total"];
-        QCOMPARE(told(home), u"%1 spent, %2 received; %3 kept, which is %4."_s.arg(
-                                 money(all[u"expenses"]), money(all[u"income"]),
-                                 money(all[u"saved"]), percent(all[u"savingsRate"])));
-        table(home, "lines").selectRow(0);
-        QStringList rates;
-        for (const QJsonValue &rate : each(flow[u"spans"], u"savingsRate"_s))
-            rates += percent(rate);
-        for (const auto &[column, key] :
-             {std::pair(1, u"income"_s), {2, u"expenses"_s}, {3, u"saved"_s}})
-            QCOMPARE(texts(home, column, "values"), moneyOf(each(flow[u"spans"], key)));
-        QCOMPARE(texts(home, 4, "values"), rates);
-        for (qsizetype at = 0; at < groups.size(); ++at) {
-            const QJsonObject group = groups[at].toObject();
-            const QString name = group[u"name"].toString();
-            if (!name.isEmpty())
-                QCOMPARE(names[sums + at], name);
-            QCOMPARE(totals[sums + at], money(group[u"total"]));
-            QCOMPARE(texts(home, 3, "lines")[sums + at], money(group[u"average"]));
-            const QString kind = group[u"kind"].toString();
-            const QJsonValue whole = kind == u"expense" ? all[u"expenses"] : all[u"income"];
-            const double part = 100 * group[u"total"][u"amount"].toString().toDouble() /
-                                whole[u"amount"].toString().toDouble();
-            QCOMPARE(texts(home, 4, "lines")[sums + at], kind == u"expense" || kind == u"income"
-                                                             ? percent(std::round(part * 10) / 10)
-                                                             : u"–"_s);
-            table(home, "lines").selectRow(static_cast<int>(sums + at));
-            const QJsonArray amounts = group[u"amounts"].toArray();
+        choose(home, "by", by);
+        choose(home, "spans", spans);
+        int summed = 0;
+        for (int line = 0; line < table(home, "lines").model()->rowCount(); ++line) {
+            table(home, "lines").selectRow(line);
+            if (table(home, "values").model()->columnCount() > 2)
+                continue; // income beside expenses
             const QStringList values = texts(home, 1, "values");
-            QCOMPARE(values.size(), amounts.size());
-            for (qsizetype value = 0; value < amounts.size(); ++value) {
-                QCOMPARE(values[value], money(amounts[value]));
-                // The entries behind the value come to it, or there are none.
+            for (qsizetype value = 0; value < values.size(); ++value) {
                 table(home, "values").selectRow(static_cast<int>(value));
                 const QString sum = told(home, "entriesTold");
-                QVERIFY2(sum.endsWith(u"together "_s + values[value]) ||
-                             (sum.endsWith(u"no entries"_s) &&
-                              amounts[value][u"amount"].toString().toDouble() == 0),
+                const bool isSum = sum.endsWith(u"together "_s + values[value]);
+                QVERIFY2(isSum || (sum.endsWith(u"no entries"_s) && values[value] == dollars("0")),
                          qPrintable(sum + u" for "_s + values[value]));
+                summed += isSum;
             }
         }
-    }
-
-    void theOverviewHasThePlans()
-    {
-        HouseholdWindow home;
-        showReports(home);
-        fill(home, "from", u"2025-10-01"_s);
-        fill(home, "to", u"2026-02-28"_s);
-        choose(home, "by", u"Overview"_s);
-        const QJsonObject report = reportOf(home, {});
-        const QJsonValue sums = report[u"currencies"][0];
-        const QStringList names = texts(home, 0, "lines");
-        const auto check = [&](const QString &name, const QList<QJsonValue> &columns) {
-            table(home, "lines").selectRow(static_cast<int>(names.indexOf(name)));
-            for (qsizetype column = 0; column < columns.size(); ++column)
-                QCOMPARE(texts(home, static_cast<int>(column) + 1, "values"),
-                         moneyOf(columns[column]));
-        };
-        check(u"Net worth, USD"_s, {sums[u"netWorth"]});
-        const QJsonArray worth = sums[u"netWorth"].toArray();
-        const numira::Money change = amountOf(worth.last()) - amountOf(worth[worth.size() - 2]);
-        QVERIFY2(told(home, "entriesTold")
-                     .endsWith(u"change it by "_s + foundation::presentationText(change)),
-                 qPrintable(told(home, "entriesTold")));
-        check(u"All income, USD"_s, {sums[u"income"], sums[u"expenses"]});
-        QJsonArray planned;
-        for (qsizetype span = 0; span < sums[u"outgoing"].toArray().size(); ++span)
-            planned += sums[u"planned"];
-        check(u"All items but wages, USD"_s, {planned, sums[u"outgoing"]});
-        QVERIFY(!told(home, "entriesTold").contains(u"no entries"_s));
-        const QJsonArray items = report[u"items"].toArray();
-        for (const QJsonValue &item : items) {
-            const qsizetype row = names.indexOf(item[u"name"].toString());
-            QCOMPARE(texts(home, 2, "lines")[row], money(item[u"planned"]));
-            QCOMPARE(texts(home, 4, "lines")[row], money(item[u"average"]));
-            for (qsizetype span = 0; span < planned.size(); ++span)
-                planned[span] = item[u"planned"];
-            check(names[row], {planned, item[u"actual"]});
-        }
-        // Without income there is no rate, and more was spent.
-        fill(home, "words", u"item:Rent"_s);
-        QVERIFY2(told(home).contains(u"; %1 more spent than received."_s.arg(dollars("1800"))),
-                 qPrintable(told(home)));
+        QVERIFY(summed > 2);
     }
 
     void fromABarToItsEntriesByKeys()
@@ -314,38 +187,6 @@ private slots:
         QVERIFY2(told(home, "rates").startsWith(u"1 USD is 0.5 EUR, typed by hand"_s),
                  qPrintable(told(home, "rates")));
         QCOMPARE(texts(home, 0, "lines").filter(u"USD"_s), QStringList());
-    }
-
-    void whatCannotBeAskedIsToldAtItsField()
-    {
-        SmallHousehold home;
-        show(home, "reports");
-        const QString before = told(home);
-        for (const auto &[field, wrong] : {std::pair("from", u"2030-01-01"_s),
-                                           {"from", u"x"_s},
-                                           {"to", u"2026-02-30"_s},
-                                           {"words", u"not:such"_s},
-                                           {"words", u"account:Nowhere"_s}}) {
-            fill(home, field, wrong);
-            QVERIFY2(!message(home).isEmpty(), qPrintable(wrong));
-            QVERIFY(part<QLineEdit>(home, field).hasFocus());
-            QCOMPARE(told(home), before);
-            part<QLineEdit>(home, field).clear();
-        }
-        fill(home, "from", u"1990-01-01"_s);
-        QCOMPARE(message(home), QString()); // months of so many years fit, weeks do not
-        choose(home, "spans", u"Weeks"_s);
-        QVERIFY(message(home).contains(u"1200 spans"_s));
-        press(home, Qt::Key_Escape);
-        QCOMPARE(message(home), QString());
-        // What the days are blamed for is told at the days, whatever is searched.
-        part<QLineEdit>(home, "words").setText(u"account:Nowhere"_s);
-        fill(home, "from", u"2030-01-01"_s);
-        QVERIFY(part<QLineEdit>(home, "from").hasFocus());
-        press(home, Qt::Key_Escape);
-        fill(home, "words", u"nobody"_s);
-        QCOMPARE(told(home), u"Nothing was spent or earned.\nOnly what fits: nobody"_s);
-        QVERIFY(part<desktop::ChartView>(home, "").isHidden());
     }
 
     void reportsAreSavedAndPrinted()

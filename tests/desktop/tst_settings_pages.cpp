@@ -76,44 +76,6 @@ private slots:
         QCOMPARE(texts(home, 4), QStringList{u"fetched"_s});
     }
 
-    void settingsAreAppliedAtOnceAndRefusedAtTheirField()
-    {
-        SmallHousehold home;
-        show(home, "settings");
-        for (const auto &[field, wrong, right] :
-             {std::tuple("usable", u"CHF"_s, u"USD, CHF"_s), // the budget has dollars
-              {"usable", u"Franks"_s, u"USD, CHF"_s},
-              {"notify", u"61"_s, u"7"_s},
-              {"window", u"101"_s, u"5"_s},
-              {"hours", u"168"_s, u"30"_s},
-              {"days", u"8"_s, u"4"_s}}) {
-            auto &edit = part<QLineEdit>(home, field);
-            edit.setFocus();
-            for (const QString &text : {wrong, right}) {
-                edit.selectAll();
-                type(home, text);
-                press(home, Qt::Key_Return);
-                QCOMPARE(message(home).isEmpty(), text == right);
-                QVERIFY(text == right || edit.text() == wrong);
-                QVERIFY(edit.hasFocus());
-            }
-        }
-        const navigation::ConfigurationData data = workbench::presentSettings(home.requests());
-        QCOMPARE(data.usableCurrencies, std::set({currency("USD"), currency("CHF")}));
-        QCOMPARE(data.notifyDueWithin, std::chrono::days(7));
-        QCOMPARE(data.surveyWindow, 5.0);
-        QCOMPARE(data.hoursInWeek, std::chrono::hours(30));
-        QCOMPARE(data.daysInWeek, std::chrono::days(4));
-        part<QComboBox>(home, "display").setFocus();
-        press(home, Qt::Key_Home); // the codes
-        QCOMPARE(home.requests().displayAs(), navigation::CurrencyDisplayOptions::IsoCode);
-        part<QComboBox>(home, "appearance").setFocus();
-        press(home, Qt::Key_End);
-        QVERIFY(desktop::isDark(QApplication::palette()));
-        press(home, Qt::Key_Home);
-        QVERIFY(!home.document().undoable() || home.document().undoable()->line == u"Began"_s);
-    }
-
     void removingATagTakesItFromItsItems()
     {
         SmallHousehold home;

@@ -19,74 +19,6 @@ class TestSurveyPage : public QObject {
     Q_OBJECT
 
 private slots:
-    void theStatementIsTickedAndCompletedAsOneStep()
-    {
-        SmallHousehold home;
-        begin(home);
-        const std::size_t before = home.requests().transactions().size();
-        keys(home, u"Alt+B=2030; Return"_s); // on to the ticks
-        QVERIFY(figures(home).startsWith(u"0 ticked, the books are $2,030.00 below the bank"_s));
-        keys(home, u"Space; Space"_s);
-        QCOMPARE(texts(home, 2, "ticks"), QStringList({u"ticked"_s, u"ticked"_s}));
-        QCOMPARE(figures(home), u"2 ticked, the books are $70.00 above the bank (3.45 %)"_s);
-        QVERIFY(details(home).contains(u"beyond the survey window of 2.75"_s));
-        // What is missing is offered for what is not booked yet.
-        keys(home, u"Alt+I=Phone; Return"_s);
-        QCOMPARE(texts(home, 3, "ticks").last(), u"Phone"_s);
-        QCOMPARE(figures(home), u"2 ticked, no difference"_s);
-        setTaxAside(home, u"30"_s);
-        setTaxAside(home, u"50"_s);
-        QVERIFY(details(home).contains(u"items: $50.00; free: $1,980.00."_s));
-        home.trigger("page home");
-        home.trigger("page survey");
-        QCOMPARE(figures(home), u"2 ticked, no difference"_s); // nothing is lost
-        press(home, Qt::Key_O, Qt::AltModifier);
-        QCOMPARE(message(home), QString());
-        QCOMPARE(texts(home, 0, "past"), QStringList{u"Checking"_s});
-        QCOMPARE(texts(home, 3, "past"), QStringList{dollars("2030")});
-        QCOMPARE(texts(home, 4, "past"), QStringList{dollars("1980")}); // without the tax
-        QCOMPARE(home.document().undoable()->undone, u"reconciling “Checking”"_s);
-        QCOMPARE(home.requests().transactions().size(), before + 1);
-        QCOMPARE(home.requests().transactions().back().amount(), usd("70"));
-        home.trigger("undo");
-        QCOMPARE(home.window().page()->detail(), home.number(u"Checking"_s));
-        QCOMPARE(texts(home, 0, "past"), QStringList());
-        QCOMPARE(texts(home, 2, "ticks"), QStringList({{}, {}}));
-        home.trigger("redo");
-        // What was reconciled is changed behind its back.
-        home.document().perform({u"Changed"_s, {}, {}}, [&] {
-            const auto last = home.requests().transactions().back().number().value();
-            home.requests().navigator().onMarkUnreconciled({last});
-            home.requests().navigator().onRemovedTransaction(last);
-        });
-        QCOMPARE(texts(home, 6, "past"), QStringList{u"changed since"_s});
-    }
-
-    void aDifferenceMayStayIfTheUserAgrees()
-    {
-        SmallHousehold home;
-        begin(home);
-        keys(home, u"Alt+L; Alt+B=2090"_s);
-        QVERIFY(details(home).contains(u"inside the survey window"_s));
-        press(home, Qt::Key_O, Qt::AltModifier);
-        QVERIFY(!message(home).isEmpty());
-        auto &consent = part<QCheckBox>(home, "consent");
-        QVERIFY(consent.hasFocus() && consent.text().contains(u"$10.00"_s));
-        press(home, Qt::Key_Space);
-        // Consent is given to this difference, and to no other one.
-        part<QLineEdit>(home, "balance").setText(u"2089"_s);
-        QVERIFY(!consent.isChecked());
-        keys(home, u"Alt+Y; Alt+O"_s);
-        QCOMPARE(message(home), QString());
-        QCOMPARE(texts(home, 3, "past"), QStringList{dollars("2089")});
-        home.window().goTo({u"survey"_s, home.number(u"Checking"_s)});
-        QVERIFY(details(home).contains(u"of Checking are $11.00 above the bank since"_s));
-        home.trigger("page accounts");
-        QVERIFY(texts(home, 4).join(u' ').contains(u"$11.00 above the bank"_s));
-        home.trigger("page banks");
-        QCOMPARE(texts(home, 3).last(), u"open, $11.00 above the bank"_s);
-    }
-
     void aFileOfTheBankFillsInDayBalanceAndTicks()
     {
         SmallHousehold home;
@@ -185,38 +117,6 @@ private slots:
         QCOMPARE(recorded(), 0U);
         home.trigger("undo");
         QCOMPARE(recorded(), 1U);
-    }
-
-    void refusalsStandAtTheirFieldAndKeepTheTicks()
-    {
-        SmallHousehold home;
-        begin(home);
-        part<QWidget>(home, "tickAll").setFocus();
-        press(home, Qt::Key_Space);
-        const std::size_t before = home.requests().transactions().size();
-        for (const auto &[field, wrong, right] :
-             {std::tuple("balance", u"5000"_s, u"2100"_s), // another sum
-              {"balance", u"many"_s, u"2100"_s},
-              {"day", u"+1"_s, u"+0"_s}}) { // tomorrow
-            auto &edit = part<QLineEdit>(home, field);
-            edit.setFocus();
-            edit.selectAll();
-            type(home, wrong);
-            const QString typed = edit.text();
-            press(home, Qt::Key_O, Qt::AltModifier);
-            QVERIFY2(!message(home).isEmpty(), qPrintable(wrong));
-            QVERIFY(edit.hasFocus());
-            QVERIFY(edit.text() == typed || QLatin1String(field) == u"day");
-            QCOMPARE(texts(home, 2, "ticks"), QStringList({u"ticked"_s, u"ticked"_s}));
-            edit.setText(right);
-        }
-        QCOMPARE(home.requests().transactions().size(), before);
-        QVERIFY(home.document().reconciliations().empty());
-        // What lies in a goal's account cannot be set otherwise.
-        press(home, Qt::Key_2, Qt::AltModifier);
-        table(home, "shares").choose(u"goal:Trip"_s);
-        QVERIFY(!part<QLineEdit>(home, "share").isEnabled());
-        QVERIFY(!part<QLineEdit>(home, "share").toolTip().isEmpty());
     }
 
     void theRegisterLeadsToTheSurveyOfItsAccount()

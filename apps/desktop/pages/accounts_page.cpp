@@ -50,7 +50,7 @@ QWidget *AccountsPage::dayRow()
 {
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *label = new QLabel(tr("Balances on the &day (may be empty):"), row);
     label->setBuddy(m_day);
     m_day->setObjectName(QStringLiteral("on"));

@@ -63,11 +63,11 @@ void DuePage::build()
 void DuePage::addForm()
 {
     auto *form = new QVBoxLayout(m_form);
-    form->setContentsMargins(0, 0, 0, 0);
+    form->setContentsMargins({});
     const auto pair = [this](const QString &text, QWidget *field) {
         auto *both = new QWidget(m_form);
         auto *row = new QHBoxLayout(both);
-        row->setContentsMargins(0, 0, 0, 0);
+        row->setContentsMargins({});
         auto *label = new QLabel(text, both);
         label->setBuddy(field);
         row->addWidget(label);

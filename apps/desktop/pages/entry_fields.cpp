@@ -34,7 +34,7 @@ EntryFields::EntryFields(FieldMessage &message, QWidget *parent)
     m_received->setObjectName(QStringLiteral("received"));
     m_reason->setObjectName(QStringLiteral("reason"));
     m_day->setObjectName(QStringLiteral("day"));
-    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setContentsMargins({});
     addField(0, 0, m_amountLabel, tr("&Amount"), m_amount);
     addField(0, 1, m_ownLabel, {}, m_own);
     addField(0, 2, m_otherLabel, {}, m_other);

@@ -33,7 +33,7 @@ FilterBar::FilterBar(QWidget *parent)
     m_field->setClearButtonEnabled(true);
     m_field->setPlaceholderText(tr("groceries >50 march not:reconciled"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *row = new QHBoxLayout;
     auto *label = new QLabel(tr("F&ind"), this);
     label->setBuddy(m_field);

@@ -28,7 +28,7 @@ Form::Form(Desk &desk, QWidget *parent)
       m_row(new QHBoxLayout)
 {
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setWordWrap(true);
     m_heading->hide();

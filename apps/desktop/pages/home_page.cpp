@@ -116,7 +116,7 @@ HomePage::HomePage(Desk &desk)
     layout->addWidget(m_cares);
     layout->addStretch();
     auto *cares = new QVBoxLayout(m_cares);
-    cares->setContentsMargins(0, 0, 0, 0);
+    cares->setContentsMargins({});
     connect(m_allDue, &QPushButton::clicked, this, [this] {
         this->desk().goTo({QStringLiteral("due"), {}});
     });
@@ -295,7 +295,7 @@ void HomePage::addCare(const Care &care)
 {
     auto *row = new QWidget(m_cares);
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *text = new QLabel(u'\u26a0' + QStringLiteral(" ") + care.sentence, row);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);

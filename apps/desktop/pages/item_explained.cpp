@@ -39,7 +39,7 @@ ItemExplained::ItemExplained(Desk &desk, QWidget *parent)
     m_table->setObjectName(QStringLiteral("parts"));
     m_table->fit(rowsMax);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_outlook);
     layout->addWidget(m_end);
     layout->addWidget(m_table);

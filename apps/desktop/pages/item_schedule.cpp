@@ -44,7 +44,7 @@ ItemSchedule::ItemSchedule(QWidget *parent)
     m_table->setObjectName(QStringLiteral("schedule"));
     m_table->fit(scheduleRowsMax);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *line = new QHBoxLayout;
     line->addWidget(label);
     line->addWidget(m_more);

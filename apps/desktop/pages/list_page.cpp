@@ -34,7 +34,7 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
     whole->addLayout(sides, 1);
     sides->addLayout(m_list, 3);
     sides->addWidget(m_side, 2);
-    (new QVBoxLayout(m_side))->setContentsMargins(0, 0, 0, 0);
+    (new QVBoxLayout(m_side))->setContentsMargins({});
     m_side->hide();
     m_none->setWordWrap(true);
     m_list->addWidget(m_none);
@@ -42,7 +42,7 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
     m_list->addWidget(m_message);
     m_list->addWidget(m_buttons);
     m_list->addStretch();
-    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setContentsMargins({});
     m_grid->setColumnStretch(buttonsInRow, 1);
     connect(m_table, &Table::chosenChanged, this, [this] {
         follow();

@@ -19,7 +19,7 @@ PastSurveys::PastSurveys(Desk &desk, QWidget *parent)
     m_state->setTextFormat(Qt::PlainText);
     m_state->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_table, 1);
     layout->addWidget(m_state);
     layout->addStretch();

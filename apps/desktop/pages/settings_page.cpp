@@ -140,7 +140,7 @@ QWidget *SettingsPage::makeTags()
 {
     auto *side = new QWidget(this);
     auto *layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     m_noTags = new QLabel(tr("There are no tags. An item's tags are set with the item."), side);
     m_noTags->setWordWrap(true);
     m_removeTag = new QPushButton(tr("&Remove this tag"), side);

@@ -20,7 +20,7 @@ SplitLines::SplitLines(Desk &desk, QWidget *parent)
     auto *back = new QPushButton(tr("Take the last line &back"), this);
     back->setObjectName(QStringLiteral("takeBack"));
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_text, 1);
     layout->addWidget(back);
     connect(back, &QPushButton::clicked, this, &SplitLines::takeBack);

@@ -32,7 +32,7 @@ SurveyDrops::SurveyDrops(Desk &desk, QWidget *parent)
     : QWidget(parent), m_desk(desk), m_rows(new QVBoxLayout), m_message(new FieldMessage(this))
 {
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addLayout(m_rows);
     layout->addWidget(m_message);
 }
@@ -72,7 +72,7 @@ void SurveyDrops::add(const QString &sentences, const banking::BankAccount &acco
 {
     auto *row = new QWidget(this);
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *text = new QLabel(sentences, row);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);

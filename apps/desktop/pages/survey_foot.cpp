@@ -28,7 +28,7 @@ SurveyFoot::SurveyFoot(Desk &desk, QWidget *parent)
     m_details->setObjectName(QStringLiteral("details"));
     m_consent->setObjectName(QStringLiteral("consent"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     for (QLabel *label : {m_figures, m_details}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);

@@ -53,7 +53,7 @@ SurveyPage::SurveyPage(Desk &desk)
 {
     auto *statement = new QWidget(m_parts);
     auto *sides = new QHBoxLayout(statement);
-    sides->setContentsMargins(0, 0, 0, 0);
+    sides->setContentsMargins({});
     sides->addWidget(m_statement);
     sides->addWidget(m_ticks, 1);
     for (QWidget *part :

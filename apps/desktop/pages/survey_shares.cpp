@@ -28,7 +28,7 @@ SurveyShares::SurveyShares(Desk &desk, QWidget *parent)
     m_notices->setObjectName(QStringLiteral("shareNotices"));
     m_asProposed->setObjectName(QStringLiteral("asProposed"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     for (QLabel *label : {m_none, m_reason, m_notices}) {
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);

@@ -40,7 +40,7 @@ SurveyStatement::SurveyStatement(Desk &desk, QWidget *parent, Add add)
     m_told->setTextFormat(Qt::PlainText);
     m_import->setObjectName(QStringLiteral("importMissing"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_form);
     for (QLabel *label : {m_sign, m_told}) {
         label->setWordWrap(true);

@@ -22,7 +22,7 @@ SurveyTicks::SurveyTicks(Desk &desk, QWidget *parent)
     m_table->installEventFilter(this);
     m_all->setObjectName(QStringLiteral("tickAll"));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_table, 1);
     layout->addWidget(m_all, 0, Qt::AlignLeft);
     connect(m_table, &Table::opened, this, &SurveyTicks::ticked);

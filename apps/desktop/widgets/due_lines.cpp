@@ -18,7 +18,7 @@ constexpr std::size_t buttonsEach = 3;
 
 DueLines::DueLines(QWidget *parent) : QWidget(parent), m_grid(new QGridLayout(this))
 {
-    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setContentsMargins({});
     m_grid->setHorizontalSpacing(2 * m_grid->horizontalSpacing());
     m_grid->setColumnStretch(2, 1);
 }

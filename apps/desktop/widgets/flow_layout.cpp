@@ -10,7 +10,7 @@ namespace kiv::desktop {
 
 FlowLayout::FlowLayout(QWidget *parent) : QLayout(parent)
 {
-    setContentsMargins(0, 0, 0, 0);
+    setContentsMargins({});
 }
 
 FlowLayout::~FlowLayout()

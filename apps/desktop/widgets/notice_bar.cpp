@@ -12,7 +12,7 @@ namespace kiv::desktop {
 NoticeBar::NoticeBar(QWidget *parent) : QFrame(parent), m_rows(new QVBoxLayout(this))
 {
     setObjectName(QStringLiteral("notices"));
-    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setContentsMargins({});
     hide();
 }
 

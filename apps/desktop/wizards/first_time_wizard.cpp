@@ -77,7 +77,7 @@ QWidget *FirstTimeWizard::addStep(const QString &heading)
 {
     auto *step = new QWidget(m_steps);
     auto *layout = new QVBoxLayout(step);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     auto *label = new QLabel(
         tr("Step %1 of %2: %3").arg(m_steps->count() + 1).arg(std::size(steps)).arg(heading), step);
     label->setWordWrap(true);

@@ -48,7 +48,7 @@ HouseholdStep::HouseholdStep(Desk &desk, QWidget *parent)
     top->addWidget(m_household);
     top->addStretch();
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addLayout(top);
     layout->addWidget(m_table, 1);
     layout->addWidget(m_form);

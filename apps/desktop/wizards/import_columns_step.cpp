@@ -72,7 +72,7 @@ ImportColumnsStep::ImportColumnsStep(Desk &desk, QWidget *parent)
     sides->addLayout(left, 1);
     sides->addWidget(m_table, 1);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_summary);
     layout->addLayout(sides, 1);
 }

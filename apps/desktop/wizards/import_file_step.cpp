@@ -43,7 +43,7 @@ ImportFileStep::ImportFileStep(Desk &desk, QWidget *parent)
                                      {ImportFormat::Journal, tr("Journal of ledger or hledger")}})
         m_kind->addItem(text, static_cast<int>(kind));
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_form);
     layout->addStretch();
     forgetAnswers();

@@ -35,7 +35,7 @@ ImportJournalStep::ImportJournalStep(Desk &desk, QWidget *parent)
     foot->addWidget(m_import);
     foot->addWidget(back);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_notices);
     layout->addWidget(m_table, 1);
     layout->addWidget(m_message);

@@ -102,7 +102,7 @@ void ImportRowsStep::build()
     foot->addWidget(m_import);
     foot->addWidget(back);
     auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->addWidget(m_notices);
     layout->addLayout(top);
     layout->addWidget(m_table, 1);

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtWidgets/QtWidgets>
+
+/// What a window tells: its texts, the values of its fields, and its tables.
+namespace kiv::test {
+
+/// The texts of the columns that a view shows; a cell's are those of `cell`.
+inline QString rowText(const QAbstractItemView &view, const std::function<QVariant(int)> &cell)
+{
+    QStringList cells;
+    const auto *table = qobject_cast<const QTableView *>(&view);
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+        if (!table || !table->isColumnHidden(column))
+            cells += cell(column).toString();
+    }
+    return cells.join(u" | "_qs);
+}
+
+inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
+{
+    const QAbstractItemModel &model = *view.model();
+    QStringList rows;
+    if (qobject_cast<const QTableView *>(&view))
+        rows += rowText(view, [&](int column) { return model.headerData(column, Qt::Horizontal); });
+    for (int row = 0; row < std::min(model.rowCount(), rowsMax); ++row)
+        rows += (row == view.currentIndex().row() ? u"> "_qs : QString()) +
+                rowText(view, [&](int column) { return model.index(row, column).data(); });
+    if (model.rowCount() > rowsMax)
+        rows += u"… %1"_qs.arg(model.rowCount());
+    return rows;
+}
+
+/// What a field has; nothing for what is none.
+inline QString valueOf(const QWidget &widget)
+{
+    if (const auto *edit = qobject_cast<const QLineEdit *>(&widget))
+        return edit->text().isEmpty() ? edit->placeholderText() : edit->text();
+    if (const auto *box = qobject_cast<const QComboBox *>(&widget))
+        return u"%1, %2 to choose from"_qs.arg(box->currentText()).arg(box->count());
+    return {};
+}
+
+/// What a widget itself tells; nothing for what only holds others.
+inline QStringList toldBy(const QWidget &widget, int rowsMax)
+{
+    QString text = widget.accessibleDescription();
+    if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
+        return rowsOf(*view, rowsMax);
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        text = label->text() + (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());
+    else if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        text = (button->isChecked() ? u"[x "_qs : u"["_qs) + button->text() + u']';
+    else if (const auto *group = qobject_cast<const QGroupBox *>(&widget))
+        text = group->title();
+    else if (const auto *tabs = qobject_cast<const QTabBar *>(&widget))
+        text = u"tab "_qs + tabs->tabText(tabs->currentIndex());
+    if (text.trimmed().isEmpty())
+        return {};
+    return {text + (widget.isEnabled() ? QString() : u" (off)"_qs)};
+}
+
+/// What is shown, in its order, with so many rows of each table. What stands inside a field or
+/// a table is told by it.
+inline void tell(const QWidget &widget, int rowsMax, QStringList &told)
+{
+    if (!widget.isVisible())
+        return;
+    for (const QString &part : toldBy(widget, rowsMax)) {
+        // What a field is refused for stands beside it, too.
+        if (!told.contains(u"⚠ "_qs + part))
+            told += part;
+    }
+    if (qobject_cast<const QComboBox *>(&widget) || qobject_cast<const QLineEdit *>(&widget) ||
+        qobject_cast<const QAbstractItemView *>(&widget) || qobject_cast<const QTabBar *>(&widget))
+        return;
+    for (const QObject *child : widget.children()) {
+        if (const auto *part = qobject_cast<const QWidget *>(child); part && !part->isWindow())
+            tell(*part, rowsMax, told);
+    }
+}
+
+} // namespace kiv::test

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/suite.h"
+
+#include "desktop/page_keys.h"
+#include "desktop/told.h"
+#include "widgets/announcer.h"
+
+namespace {
+QDate todayIs; ///< for a test; otherwise the calendar's
+}
+/// A program's own function goes before that of a library that is loaded.
+QDate kiv::foundation::today()
+{
+    return todayIs.isValid() ? todayIs : QDate::currentDate();
+}
+
+using namespace kiv;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int rowsMax = 4; ///< of a table
+constexpr qsizetype lineMax = 158;
+
+/// The parts in lines that can be read.
+QByteArray inLines(const QStringList &told)
+{
+    QString text;
+    qsizetype used = 0;
+    for (QString part : told) {
+        part.replace(u'\n', u" / "_s);
+        const bool isNew = used == 0 || used + part.size() > lineMax;
+        text += (used == 0 ? QString() : isNew ? u"\n"_s : u" · "_s) + part;
+        used = (isNew ? 0 : used + 3) + part.size();
+    }
+    return text.toUtf8() + '\n';
+}
+
+/// What was not told before, and how much is told no more.
+QStringList newsOf(const QStringList &told, const QStringList &before)
+{
+    QStringList news;
+    for (const QString &part : told) {
+        if (!before.contains(part))
+            news += part;
+    }
+    const auto gone = std::ranges::count_if(
+        before, [&told](const QString &part) { return !told.contains(part); });
+    return gone == 0 ? news : news << u"(%1 no more)"_s.arg(gone);
+}
+
+QList<QByteArray> linesOf(const char *path)
+{
+    QFile file(QString::fromLatin1(path));
+    return file.open(QFile::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
+}
+
+/// Compares with a file, or writes it anew.
+void compare(const QByteArray &told, const char *path)
+{
+    if (qEnvironmentVariableIsSet("KIV_RENEW")) {
+        QFile file(QString::fromLatin1(path));
+        QVERIFY(file.open(QFile::WriteOnly) && file.write(told) == told.size());
+        return;
+    }
+    const QList<QByteArray> found = told.split('\n');
+    const QList<QByteArray> expected = linesOf(path);
+    for (qsizetype line = 0; line < std::max(expected.size(), found.size()); ++line)
+        QCOMPARE(found.value(line), expected.value(line));
+}
+
+/// A household in which deeds are done.
+class Desk {
+public:
+    explicit Desk(const QString &place)
+    {
+        m_home.begin();
+        m_home.show();
+        m_start = m_home.document().present();
+        m_home.window().goTo(desktop::Place::fromText(place));
+        (void)news();
+    }
+    /// "go PLACE", "do ACTION" or keys.
+    void step(const QString &text)
+    {
+        const QString rest = text.section(u' ', 1);
+        if (text.startsWith(u"go "))
+            m_home.window().goTo(desktop::Place::fromText(rest));
+        else if (text.startsWith(u"do "))
+            m_home.trigger(rest.toLatin1());
+        else
+            test::keys(m_home, text);
+    }
+    QStringList news()
+    {
+        QStringList told;
+        test::tell(*m_home.window().page(), rowsMax, told);
+        for (const QString &notice : m_home.notices())
+            told += u"notice: "_s + notice;
+        const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
+        told += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
+        if (const auto deed = m_home.document().undoable())
+            told += u"undoes "_s + deed->undone;
+        const auto *focus = QApplication::focusWidget();
+        told += u"at "_s + (focus ? focus->objectName() : u"nothing"_s);
+        return newsOf(told, std::exchange(m_before, told));
+    }
+    void undoAll()
+    {
+        while (m_home.document().undoable() && m_home.document().undoable()->line != u"Began")
+            m_home.trigger("undo");
+        QCOMPARE(m_home.document().present(), m_start);
+    }
+
+private:
+    SmallHousehold m_home;
+    storage::BudgetStorage::Data m_start;
+    QStringList m_before;
+};
+
+} // namespace
+
+/// What each page, form and wizard tells about the household, against told.txt, and what deeds
+/// tell, against deeds.txt. With KIV_RENEW the files are written anew.
+class TestTold : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { todayIs = QDate(2026, 3, 1); }
+    void cleanup() { todayIs = QDate(); }
+
+    void everyPageTellsWhatIsWritten()
+    {
+        HouseholdWindow desk;
+        desk.openHousehold();
+        desk.show();
+        QStringList before;
+        QByteArray told = "# SPDX-License-Identifier: GPL-3.0-or-later\n";
+        desk.lookAtAll([&](QWidget &shown, QWidget &first, const QString &place) {
+            QStringList parts;
+            test::tell(shown, rowsMax, parts);
+            told += u"## %1: begins at '%2', %3 parts\n"_s.arg(place, first.objectName())
+                        .arg(parts.size())
+                        .toUtf8() +
+                    inLines(newsOf(parts, before));
+            before = parts;
+        });
+        told.replace(desk.path({}).toUtf8(), "FOLDER/");
+        told.replace(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toUtf8(),
+                     "DOCUMENTS");
+        // Versions have the time of the calendar.
+        static const QRegularExpression moment(
+            u"%1 \\d\\d:\\d\\d"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
+        told = QString::fromUtf8(told).replace(moment, u"MOMENT"_s).toUtf8();
+        compare(told, KIV_TOLD);
+    }
+
+    /// Each step of deeds.txt with what is new then; at the end of its part all is undone.
+    void deedsTellWhatTheyDid()
+    {
+        QByteArray told;
+        std::optional<Desk> desk;
+        for (const QByteArray &line : linesOf(KIV_DEEDS)) {
+            const QString rest = QString::fromUtf8(line).section(u' ', 1);
+            const bool isPart = line.startsWith("## ");
+            if (isPart && desk)
+                desk->undoAll();
+            if (isPart)
+                desk.emplace(rest);
+            if (line.startsWith('#'))
+                told += line + '\n';
+            if (!line.startsWith("$ "))
+                continue;
+            desk->step(rest);
+            told += line + '\n' + inLines(desk->news());
+        }
+        QVERIFY(desk);
+        desk->undoAll();
+        compare(told, KIV_DEEDS);
+    }
+};
+
+static const kiv::test::Suite<TestTold> suite;
+
+#include "tst_told.moc"
