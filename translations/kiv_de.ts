@@ -8087,6 +8087,13 @@ Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rec
         <source>kiv-desktop: One file can be opened, not &apos;%1&apos; and &apos;%2&apos;.</source>
         <translation>kiv-desktop: Eine Datei kann geöffnet werden, nicht „%1“ und „%2“.</translation>
     </message>
+    <message numerus="yes">
+        <source>%n entries with a ? should be looked at.</source>
+        <translation>
+            <numerusform>%n Eintrag mit einem ? sollte angesehen werden.</numerusform>
+            <numerusform>%n Einträge mit einem ? sollten angesehen werden.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

@@ -409,6 +409,13 @@
             <numerusform>%n transactions, together %1.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n entries with a ? should be looked at.</source>
+        <translation>
+            <numerusform>%n entry with a ? should be looked at.</numerusform>
+            <numerusform>%n entries with a ? should be looked at.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::CategoryRow</name>

@@ -8087,6 +8087,13 @@ Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores:
         <source>kiv-desktop: One file can be opened, not &apos;%1&apos; and &apos;%2&apos;.</source>
         <translation>kiv-desktop: Se puede abrir un archivo, no «%1» y «%2».</translation>
     </message>
+    <message numerus="yes">
+        <source>%n entries with a ? should be looked at.</source>
+        <translation>
+            <numerusform>Conviene mirar %n entrada con un ?.</numerusform>
+            <numerusform>Conviene mirar %n entradas con un ?.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

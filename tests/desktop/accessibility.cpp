@@ -76,6 +76,18 @@ bool isRigid(const QWidget &widget)
            qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QComboBox *>(&widget);
 }
 
+/// Whether a layout or one in it has the widget.
+bool holds(const QLayout &layout, const QWidget &widget)
+{
+    if (layout.indexOf(&widget) >= 0)
+        return true;
+    for (int at = 0; at < layout.count(); ++at) {
+        if (const QLayout *inner = layout.itemAt(at)->layout(); inner && holds(*inner, widget))
+            return true;
+    }
+    return false;
+}
+
 /// The part of a page that is seen without scrolling, or the window.
 const QWidget &viewportOf(const QWidget &widget)
 {
@@ -210,14 +222,15 @@ QStringList misfits(QWidget &root)
         if (const auto *list = qobject_cast<const QListWidget *>(widget);
             list && list->horizontalScrollBar()->isVisible())
             faults += described(*widget) + QStringLiteral(": its lines are cut off");
-        // Only what a layout has put there; parts of a table or a combo box overlap rightly.
+        // Parts of a table or a combo box overlap rightly.
         const QWidget *parent = widget->parentWidget();
-        if (!parent->layout() || parent->layout()->indexOf(widget) < 0)
+        if (!parent->layout() || qobject_cast<const QMainWindow *>(parent) || widget->isWindow())
             continue;
+        if (!holds(*parent->layout(), *widget))
+            faults += described(*widget) + QStringLiteral(": no layout has it");
         for (const QObject *child : parent->children()) {
             const auto *other = qobject_cast<const QWidget *>(child);
             if (other && other > widget && other->isVisible() &&
-                parent->layout()->indexOf(other) >= 0 &&
                 other->geometry().intersects(widget->geometry()))
                 faults += described(*widget) + QStringLiteral(" lies over ") + described(*other);
         }

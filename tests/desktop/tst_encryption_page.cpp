@@ -60,6 +60,7 @@ private slots:
         QVERIFY(isEncrypted(file));
         part<QPushButton>(home, "decrypt").click();
         QVERIFY(!isEncrypted(file));
+        QVERIFY(!part<QPushButton>(home, "decrypt").isEnabled());
     }
 
     void anEncryptedBudgetAsksUntilItIsRight()

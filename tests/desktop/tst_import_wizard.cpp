@@ -56,6 +56,10 @@ private slots:
         QCOMPARE(texts(home, 5, "entries").mid(1, 2), QStringList({u"Salary"_s, u"Groceries"_s}));
         QCOMPARE(figures(home), u"4 new, 1 already there, 2 to look at"_s);
         QVERIFY(part<QWidget>(home, "import").toolTip().contains(u"2 entries"));
+        for (const auto &[filter, shown] : {std::pair(0, 5), {1, 4}, {2, 1}, {3, 2}}) {
+            part<QComboBox>(home, "filter").setCurrentIndex(filter);
+            QCOMPARE(texts(home, 0, "entries").size(), shown);
+        }
         // Those to look at: the first is said, and the other follows it.
         keys(home, u"Alt+S; End"_s);
         table(home, "entries").setFocus();

@@ -104,10 +104,6 @@ private:
             cells += shown.currentIndex().siblingAtColumn(column).data().toString();
         return cells;
     }
-    static QString day(int year, int month, int dayOfMonth)
-    {
-        return foundation::presentationText(QDate(year, month, dayOfMonth));
-    }
     /// Moves money to one account from another, as a step of undo.
     static void move(SmallHousehold &home, const char *to, const char *from, const char *amount)
     {

@@ -36,7 +36,7 @@ private slots:
         form.show();
         lost->move(form.width(), 0);
         lost->show();
-        QCOMPARE(misfits(form).size(), 3);
+        QCOMPARE(misfits(form).size(), 4);
     }
 
     void allPagesFit_data()
@@ -87,6 +87,22 @@ private slots:
         QVERIFY2(desk.window().size() == size, "The window grows beyond the screen.");
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
         QCOMPARE(missing(desk.window(), desktop::householdGuide()).join(u", "_s), QString());
+    }
+
+    void aWindowLooksAsItWasLeft()
+    {
+        const QPalette usual = QApplication::palette();
+        HouseholdWindow desk;
+        desk.show();
+        desk.window().resize(1017, 613);
+        desk.trigger("lookDark");
+        desk.window().close();
+        QApplication::setPalette(usual);
+        const desktop::MainWindow again(
+            {desk.document(), desk.settings(), desk.questions(), desk.keyring(), false});
+        QCOMPARE(again.size(), QSize(1017, 613));
+        QVERIFY(desktop::isDark(QApplication::palette()));
+        QApplication::setPalette(usual);
     }
 
     /// The window that docs/pictures shows.

@@ -2,7 +2,6 @@
 #include "support/suite.h"
 
 #include "desktop/household_window.h"
-#include "pages/filter_bar.h"
 
 #include "workbench/entry/money_text.h"
 
@@ -130,20 +129,6 @@ private:
         QTest::keyClick(m_desk->keyTarget(), key, modifiers);
         QCoreApplication::processEvents();
     }
-    /// Types into the fields one after the other; nothing leaves what stands there.
-    void enter(const std::vector<std::optional<QString>> &values)
-    {
-        for (std::size_t at = 0; at < values.size(); ++at) {
-            if (at > 0)
-                press(Qt::Key_Tab);
-            if (!values[at])
-                continue;
-            press(Qt::Key_A, Qt::ControlModifier);
-            press(Qt::Key_Delete);
-            m_desk->type(*values[at]);
-        }
-        press(Qt::Key_Return);
-    }
     /// Replaces what is in a field.
     void fill(const QString &field, const QString &text)
     {
@@ -151,11 +136,6 @@ private:
         press(Qt::Key_A, Qt::ControlModifier);
         press(Qt::Key_Delete);
         m_desk->type(text);
-    }
-    [[nodiscard]] QString focus()
-    {
-        (void)m_desk->keyTarget();
-        return QApplication::focusWidget()->objectName();
     }
     [[nodiscard]] QString text(const QString &field)
     {
@@ -178,19 +158,6 @@ private:
             table->model()->index(0, 1), Qt::DisplayRole, text, static_cast<int>(which) + 1);
         QVERIFY(found.size() > which);
         table->setCurrentIndex(found.at(which));
-    }
-    [[nodiscard]] QString rowText()
-    {
-        return page()
-            ->findChild<QTableView *>()
-            ->currentIndex()
-            .siblingAtColumn(1)
-            .data()
-            .toString();
-    }
-    [[nodiscard]] QString undoName()
-    {
-        return m_desk->window().desk().actions().action(u"undo"_s)->text();
     }
     /// All transactions as lines.
     [[nodiscard]] QStringList all()

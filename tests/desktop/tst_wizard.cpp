@@ -22,38 +22,6 @@ class TestWizard : public QObject {
     Q_OBJECT
 
 private slots:
-    void aHouseholdBeginsAsOneStep()
-    {
-        HouseholdWindow desk;
-        begin(desk);
-        place(desk, desk.path(u"home"_s));
-        bank(desk, u"First"_s, u"Checking"_s, u"1500"_s);
-        household(desk, u"One adult"_s);
-        chooseItem(desk, u"bill:Rent or mortgage payment"_s);
-        fill(desk, u"amount"_s, u"900"_s);
-        press(Qt::Key_Return);
-        // Not wanted in the end, and wanted without an amount.
-        chooseItem(desk, u"bill:Electricity"_s);
-        fill(desk, u"amount"_s, u"60"_s);
-        press(Qt::Key_Return);
-        chooseItem(desk, u"bill:Electricity"_s);
-        press(Qt::Key_Space);
-        chooseItem(desk, u"bill:Petrol"_s);
-        press(Qt::Key_Space);
-        QVERIFY(part<QPushButton>(desk, u"finish"_s)->text().contains(u"1"_s));
-        part<QPushButton>(desk, u"finish"_s)->click();
-
-        QCOMPARE(desk.window().windowTitle().section(u' ', 0, 0), u"home"_s);
-        QCOMPARE(desk.window().page()->id(), u"home"_s);
-        const QStringList names = accounts(desk);
-        QCOMPARE(names, QStringList({u"Checking"_s, u"Opening Balances USD [Equity]"_s,
-                                     u"Rent or mortgage payment"_s}));
-        desk.trigger("undo");
-        QCOMPARE(accounts(desk), QStringList());
-        desk.trigger("redo");
-        QCOMPARE(accounts(desk), names);
-    }
-
     void whatIsRefusedStandsAtItsField_data()
     {
         kiv::test::addRows<Wrong>(

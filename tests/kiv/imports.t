@@ -32,7 +32,7 @@ at has a mark, and can be corrected by the numbers of its entries:
       5  2026-01-22  NEWS                -$7.20     known    (4)     Entered on 2026-01-22 for the same amount.
       6  2026-01-08  CORNER SHOP 12      -$9.99     new      Food    As the last time.
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
-  2 entries should be looked at; see the marks with --dry-run.
+  2 entries with a ? should be looked at.
   Dry run: nothing is saved.
   $ kiv import s.ofx
   kiv: It is not known what this was for: 2026-01-29, -$30.00, ACME. Say it with --for, --against or a rule.

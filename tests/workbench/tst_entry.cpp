@@ -5,6 +5,7 @@
 #include "workbench/entry/description.h"
 #include "workbench/entry/former_entries.h"
 #include "workbench/entry/sum_text.h"
+#include "workbench/entry/tags_text.h"
 #include "workbench/errors.h"
 #include "workbench/search/own_change.h"
 #include "workbench/search/transaction_filter.h"
@@ -170,6 +171,22 @@ private slots:
         QCOMPARE(read.payee + u'/' + read.reason + u'/' + read.bankIds.join(u','),
                  QString::fromUtf8(rowOf<QByteArray>()));
         QCOMPARE(read.text(), text);
+    }
+
+    void namesAreTakenApartAndPutTogether_data()
+    {
+        addRows<QByteArray>({{" home, car,, ", "home|car"},
+                             {"\"a, b\" x, c", "a, b|c"},
+                             {"\"say \"\"hi\"\"\"", "say \"hi\""},
+                             {"\"a\"\"", "a\""}, // no mark at the end
+                             {"\"\"", ""},
+                             {"x\"y", "x\"y"}});
+    }
+    void namesAreTakenApartAndPutTogether()
+    {
+        const QStringList names = workbench::namesOf(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(names.join(u'|'), QString::fromUtf8(rowOf<QByteArray>()));
+        QCOMPARE(workbench::namesOf(workbench::namesText(names)), names);
     }
 
     void textsOfOthersAreNoIdentifiers()

@@ -107,6 +107,7 @@ private slots:
         QCOMPARE(offered(QString(100'000, u'a')), QString());
         const QStringList letters{u"Ab"_s, u"Ac"_s, u"Ad"_s, u"Ae"_s};
         QCOMPARE(workbench::similarTo(u"Aa"_s, letters), letters.first(3));
+        QCOMPARE(workbench::similarTo(u"--on"_s, {u"--json"_s}), QStringList());
     }
 
 private:

@@ -44,7 +44,9 @@ QStringList similarTo(const QString &word, const QStringList &known)
 {
     if (word.size() > lengthMax)
         return {};
-    int slipsMin = 1 + static_cast<int>(word.size() / 4);
+    // The dashes of an option are no letters that could be mistyped.
+    const qsizetype letters = word.size() - (word.startsWith(u"--") ? 2 : 0);
+    int slipsMin = 1 + static_cast<int>(letters / 4);
     QStringList nearest;
     QStringList begun;
     for (const QString &candidate : known) {

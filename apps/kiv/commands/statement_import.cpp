@@ -265,9 +265,12 @@ Report StatementImport::finished(Call &call, const std::shared_ptr<const ImportP
                     .arg(QString::number(counts.added), QString::number(counts.matched),
                          QString::number(counts.known), QString::number(counts.leftOut),
                          QString::number(done.opened.size())));
-    if (counts.doubtful > 0)
-        report.line(QObject::tr("%n entries should be looked at; see the marks with --dry-run.",
-                                nullptr, static_cast<int>(counts.doubtful)));
+    if (const auto doubtful = static_cast<int>(counts.doubtful); doubtful > 0)
+        report.line(
+            call.options.isDryRun
+                ? QObject::tr("%n entries with a ? should be looked at.", nullptr, doubtful)
+                : QObject::tr("%n entries should be looked at; see the marks with --dry-run.",
+                              nullptr, doubtful));
     return report;
 }
 
