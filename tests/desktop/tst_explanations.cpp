@@ -76,29 +76,6 @@ private slots:
         QVERIFY(action->isEnabled());
     }
 
-    void accountsShowTheBalancesOfADay()
-    {
-        SmallHousehold home;
-        show(home, "accounts");
-        const QStringList now = texts(home, 2);
-        QVERIFY(now.contains(dollars("3000")));
-        press(home, Qt::Key_D, Qt::AltModifier);
-        type(home, u"2020-13-01"_s);
-        press(home, Qt::Key_Return);
-        QVERIFY(!message(home).isEmpty());
-        QCOMPARE(texts(home, 2), now);
-        QCOMPARE(part<QLineEdit>(home, "on").text(), u"2020-13-01"_s);
-        part<QLineEdit>(home, "on").clear();
-        type(home, u"2020-01-01"_s);
-        press(home, Qt::Key_Return);
-        QVERIFY(message(home).isEmpty());
-        QVERIFY(!texts(home, 2).contains(dollars("3000")));
-        QVERIFY(part<QLabel>(home, "totals").text().endsWith(dollars("0") + u'.'));
-        part<QLineEdit>(home, "on").clear();
-        press(home, Qt::Key_Return);
-        QCOMPARE(texts(home, 2), now);
-    }
-
 private:
     static QWidget &panel(HouseholdWindow &home)
     {

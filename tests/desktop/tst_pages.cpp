@@ -118,24 +118,6 @@ private slots:
         QCOMPARE(texts(home, 4).join(u' '), u"Checking Checking Checking"_s);
     }
 
-    void homePaysAndSkipsLineByLine()
-    {
-        SmallHousehold home;
-        show(home, "home");
-        const auto focus = [] { return QApplication::focusWidget()->accessibleName(); };
-        QCOMPARE(focus(), u"Pay: Rent, $900.00, 3 days late"_s);
-        press(home, Qt::Key_Space);
-        QCOMPARE(home.requests().transactions().back().amount(), test::usd("900"));
-        QCOMPARE(focus(), u"Pay: Phone, $20.00, today"_s);
-        QCOMPARE(texts(home, 2, "free"), QStringList{dollars("2100")});
-        keys(home, u"Tab; Space"_s);
-        QCOMPARE(focus(), u"Skip: Salary, $2,500.00, in 2 days"_s);
-        QCOMPARE(home.document().undoable()->undone, u"skipping “Phone”"_s);
-        keys(home, u"Tab; Space"_s);
-        QCOMPARE(home.window().page()->id(), u"due"_s);
-        QCOMPARE(table(home).chosen(), QStringList{u"wage:Salary"_s});
-    }
-
     void aMissingRateBlanksNoPage()
     {
         SmallHousehold home;

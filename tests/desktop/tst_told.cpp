@@ -101,8 +101,9 @@ public:
         told += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
         if (const auto deed = m_home.document().undoable())
             told += u"undoes "_s + deed->undone;
-        const auto *focus = QApplication::focusWidget();
-        told += u"at "_s + (focus ? focus->objectName() : u"nothing"_s);
+        const QWidget &focus = *QApplication::focusWidget();
+        told += u"at "_s +
+                (focus.accessibleName().isEmpty() ? focus.objectName() : focus.accessibleName());
         return newsOf(told, std::exchange(m_before, told));
     }
     void undoAll()
