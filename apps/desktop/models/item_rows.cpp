@@ -98,7 +98,7 @@ Row rowOf(const BudgetedMoney &item, const BudgetStorage::Data &data,
     if (hasProgress(id.type))
         row.cells.push_back({progressText(data, item, displayAs)});
     if (id.type != BudgetItemTypes::Wage)
-        row.cells.push_back({nowText(envelopes, id)});
+        row.cells.push_back({nowText(envelopes, id), {}, true});
     row.cells.push_back({workbench::tagsText(data.itemTags.tags(id))});
     return row;
 }
