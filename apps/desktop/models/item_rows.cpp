@@ -63,10 +63,10 @@ QString progressText(const BudgetStorage::Data &data, const BudgetedMoney &item,
     if (!progress)
         return {};
     const bool isDebt = budgeting::toBudgetItemTypes(item) == BudgetItemTypes::Debt;
-    const QString parts = isDebt ? QObject::tr("%1 still owed of %2")
-                                       .arg(workbench::amountText(progress->part, displayAs),
-                                            workbench::amountText(progress->whole, displayAs))
-                                 : partText(progress->part, progress->whole, displayAs);
+    QString parts = isDebt ? QObject::tr("%1 still owed of %2")
+                                 .arg(workbench::amountText(progress->part, displayAs),
+                                      workbench::amountText(progress->whole, displayAs))
+                           : partText(progress->part, progress->whole, displayAs);
     if (!progress->percent)
         return parts;
     if (progress->isReached())

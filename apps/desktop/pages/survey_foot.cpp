@@ -7,6 +7,7 @@
 
 #include "workbench/entry/money_text.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
