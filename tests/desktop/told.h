@@ -6,6 +6,14 @@
 /// What a window tells: its texts, the values of its fields, and its tables.
 namespace kiv::test {
 
+/// The lines of a file; none of one that cannot be read.
+inline QStringList linesOf(const char *path)
+{
+    QFile file(QString::fromLatin1(path));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n')
+                                          : QStringList();
+}
+
 /// The texts of the columns that a view shows; a cell's are those of `cell`.
 inline QString rowText(const QAbstractItemView &view, const std::function<QVariant(int)> &cell)
 {
@@ -24,9 +32,12 @@ inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
     QStringList rows;
     if (qobject_cast<const QTableView *>(&view))
         rows += rowText(view, [&](int column) { return model.headerData(column, Qt::Horizontal); });
-    for (int row = 0; row < std::min(model.rowCount(), rowsMax); ++row)
-        rows += (row == view.currentIndex().row() ? u"> "_qs : QString()) +
-                rowText(view, [&](int column) { return model.index(row, column).data(); });
+    const int chosen = view.currentIndex().row();
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (row < rowsMax || row == chosen)
+            rows += (row == chosen ? u"> "_qs : QString()) +
+                    rowText(view, [&](int column) { return model.index(row, column).data(); });
+    }
     if (model.rowCount() > rowsMax)
         rows += u"… %1"_qs.arg(model.rowCount());
     return rows;
@@ -45,6 +56,7 @@ inline QString valueOf(const QWidget &widget)
 /// What a widget itself tells; nothing for what only holds others.
 inline QStringList toldBy(const QWidget &widget, int rowsMax)
 {
+    const QString value = valueOf(widget);
     QString text = widget.accessibleDescription();
     if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
         return rowsOf(*view, rowsMax);
@@ -56,13 +68,15 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
         text = group->title();
     else if (const auto *tabs = qobject_cast<const QTabBar *>(&widget))
         text = u"tab "_qs + tabs->tabText(tabs->currentIndex());
+    else if (!value.isEmpty() && !widget.accessibleName().isEmpty())
+        text = widget.accessibleName() + u": "_qs + value; // without a label
     if (text.trimmed().isEmpty())
         return {};
     return {text + (widget.isEnabled() ? QString() : u" (off)"_qs)};
 }
 
-/// What is shown, in its order, with so many rows of each table. What stands inside a field or
-/// a table is told by it.
+/// What is shown, in its order, with so many rows of each table and the one that is chosen. What
+/// stands inside a field or a table is told by it.
 inline void tell(const QWidget &widget, int rowsMax, QStringList &told)
 {
     if (!widget.isVisible())

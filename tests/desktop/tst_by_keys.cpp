@@ -17,20 +17,13 @@ struct Section {
     QStringList steps;
 };
 
-QStringList linesOf(const char *path)
-{
-    QFile file(QString::fromLatin1(path));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split(u'\n')
-                                          : QStringList();
-}
-
 /// What each section of the guide types.
 std::map<QString, QString> typedInGuide()
 {
     std::map<QString, QString> sections;
     QString section;
     bool isTyped = false;
-    for (const QString &line : linesOf(KIV_GUIDE)) {
+    for (const QString &line : test::linesOf(KIV_GUIDE)) {
         if (line.startsWith(u"```"))
             isTyped = !isTyped;
         else if (!isTyped && line.startsWith(u'#'))
@@ -44,7 +37,7 @@ std::map<QString, QString> typedInGuide()
 std::vector<Section> sectionsOfKeys()
 {
     std::vector<Section> sections;
-    for (const QString &line : linesOf(KIV_BY_KEYS)) {
+    for (const QString &line : test::linesOf(KIV_BY_KEYS)) {
         if (line.startsWith(u"## "))
             sections.push_back({line.mid(3), {}, {}});
         else if (line.startsWith(u"$ "))

@@ -3,7 +3,6 @@
 
 #include "desktop/page_keys.h"
 
-#include "workbench/document/bank_steps.h"
 #include "workbench/surveys/survey_form.h"
 
 using namespace kiv;
@@ -67,27 +66,6 @@ private slots:
         QCOMPARE(message(home), QString());
         QCOMPARE(row(home)[1], dollars("120"));
         QVERIFY(says(home, u"Together a month: "_s + dollars("120")));
-    }
-
-    void anAccountIsReplacedOnADayThatHasCome()
-    {
-        SmallHousehold home;
-        show(home, "banks");
-        home.document().perform({u"More"_s, {}, {}}, [&home] {
-            workbench::addBankAccount(home.document(),
-                                      {u"Giro"_s, banking::BankName(u"First"_s),
-                                       banking::BankAccountTypes::Checking, usd("0")});
-        });
-        const auto before = home.document().present();
-        goTo(home, "banks/account/" + home.number(u"Checking"_s).toLatin1());
-        keys(home, u"Alt+P; Alt+A=Giro; Alt+Y=9999-01-01; Return"_s);
-        QVERIFY(message(home).contains(u"still to come"_s));
-        keys(home, u"Alt+Y=2026-01-05; Return"_s);
-        QCOMPARE(row(home).at(2), dollars("3000"));
-        QVERIFY(home.window().findChild<desktop::Announcer *>()->text().contains(
-            u"Moved %1 from"_s.arg(dollars("3000"))));
-        home.trigger("undo");
-        QCOMPARE(home.document().present(), before);
     }
 
 private:

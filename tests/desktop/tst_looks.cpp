@@ -95,7 +95,9 @@ private slots:
         HouseholdWindow desk;
         desk.show();
         desk.window().resize(1017, 613);
-        desk.trigger("lookDark");
+        desk.trigger("page settings");
+        desk.window().findChild<QWidget *>(u"appearance"_s)->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
         desk.window().close();
         QApplication::setPalette(usual);
         const desktop::MainWindow again(

@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "desktop/household_window.h"
+#include "desktop/told.h"
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
@@ -19,10 +20,7 @@ private slots:
         QStringList faults;
         QStringList named;
         const QStringList kinds{u"bill"_s, u"debt"_s, u"goal"_s, u"nontrack"_s, u"wage"_s};
-        QFile table(QStringLiteral(KIV_PLACES));
-        QVERIFY(table.open(QIODevice::ReadOnly));
-        const QStringList lines = QString::fromUtf8(table.readAll()).split(u'\n');
-        for (const QString &line : lines) {
+        for (const QString &line : test::linesOf(KIV_PLACES)) {
             if (line.isEmpty() || line.startsWith(u'#'))
                 continue;
             for (const QString &kind : line.contains(u"KIND"_s) ? kinds : QStringList{{}}) {

@@ -25,6 +25,8 @@ constexpr qsizetype lineMax = 158;
 /// The parts in lines that can be read.
 QByteArray inLines(const QStringList &told)
 {
+    if (told.isEmpty())
+        return "nothing\n";
     QString text;
     qsizetype used = 0;
     for (QString part : told) {
@@ -46,13 +48,7 @@ QStringList newsOf(const QStringList &told, const QStringList &before)
     }
     const auto gone = std::ranges::count_if(
         before, [&told](const QString &part) { return !told.contains(part); });
-    return gone == 0 ? news : news << u"(%1 no more)"_s.arg(gone);
-}
-
-QList<QByteArray> linesOf(const char *path)
-{
-    QFile file(QString::fromLatin1(path));
-    return file.open(QFile::ReadOnly) ? file.readAll().split('\n') : QList<QByteArray>();
+    return gone == 0 ? news : news << u"(%1 gone)"_s.arg(gone);
 }
 
 /// Compares with a file, or writes it anew.
@@ -63,8 +59,8 @@ void compare(const QByteArray &told, const char *path)
         QVERIFY(file.open(QFile::WriteOnly) && file.write(told) == told.size());
         return;
     }
-    const QList<QByteArray> found = told.split('\n');
-    const QList<QByteArray> expected = linesOf(path);
+    const QStringList found = QString::fromUtf8(told).split(u'\n');
+    const QStringList expected = test::linesOf(path);
     for (qsizetype line = 0; line < std::max(expected.size(), found.size()); ++line)
         QCOMPARE(found.value(line), expected.value(line));
 }
@@ -163,19 +159,19 @@ private slots:
     {
         QByteArray told;
         std::optional<Desk> desk;
-        for (const QByteArray &line : linesOf(KIV_DEEDS)) {
-            const QString rest = QString::fromUtf8(line).section(u' ', 1);
-            const bool isPart = line.startsWith("## ");
+        for (const QString &line : test::linesOf(KIV_DEEDS)) {
+            const QString rest = line.section(u' ', 1);
+            const bool isPart = line.startsWith(u"## ");
             if (isPart && desk)
                 desk->undoAll();
             if (isPart)
                 desk.emplace(rest);
-            if (line.startsWith('#'))
-                told += line + '\n';
-            if (!line.startsWith("$ "))
+            if (line.startsWith(u'#'))
+                told += line.toUtf8() + '\n';
+            if (!line.startsWith(u"$ "))
                 continue;
             desk->step(rest);
-            told += line + '\n' + inLines(desk->news());
+            told += line.toUtf8() + '\n' + inLines(desk->news());
         }
         QVERIFY(desk);
         desk->undoAll();
