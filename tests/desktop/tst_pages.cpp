@@ -16,64 +16,6 @@ class TestPages : public QObject {
     Q_OBJECT
 
 private slots:
-    void enterOpensTheRegisterOfTheAccount()
-    {
-        SmallHousehold home;
-        show(home, "accounts");
-        QSignalSpy places(&home.window().desk(), &desktop::Desk::placeWanted);
-        table(home).choose(home.number(u"Checking"_s));
-        press(home, Qt::Key_Down); // over the heading of the next group
-        keys(home, u"Up; Return"_s);
-        QCOMPARE(places.size(), 1);
-        QCOMPARE(places[0][0].value<desktop::Place>(),
-                 (desktop::Place{u"register"_s, home.number(u"Checking"_s)}));
-    }
-
-    void severalArePaidAsOneStepOrNotAtAll()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        const std::size_t before = home.requests().transactions().size();
-        keys(home, u"Shift+Down; Alt+P"_s);
-        QCOMPARE(texts(home, 0), QStringList{u"Salary"_s});
-        home.trigger("undo");
-        QCOMPARE(home.requests().transactions().size(), before);
-        home.trigger("redo");
-        QCOMPARE(home.requests().transactions().size(), before + 2);
-        home.trigger("undo");
-        // The goal stands behind a bill of its name, which would be posted in its place.
-        home.document().perform({u"More"_s, {}, {}}, [&] {
-            home.addItem<budgeting::Bill>("Car", "5", foundation::today().addDays(1));
-            home.addItem<budgeting::Goal>("Car", "6", foundation::today().addDays(1), "60");
-        });
-        table(home).selectAll();
-        press(home, Qt::Key_P, Qt::AltModifier);
-        QVERIFY(message(home).contains(u"Car"_s));
-        QCOMPARE(home.requests().transactions().size(), before);
-        QCOMPARE(table(home).chosen().size(), 5);
-    }
-
-    void whatMayNotBeMeantIsANoticeUntilTheNextChange()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        home.document().perform({u"More"_s, {}, {}}, [&] {
-            home.addItem<budgeting::Bill>("Zero", "0", foundation::today().addDays(-9));
-            home.addItem<budgeting::Bill>("House", "3001", foundation::today().addDays(-8));
-        });
-        table(home).selectRow(0);
-        keys(home, u"Alt+P"_s);
-        QVERIFY(message(home).contains(u"zero"_s)); // alone, it is meant
-        table(home).setFocus();
-        keys(home, u"Shift+Down; Alt+P"_s);
-        QCOMPARE(home.document().undoable()->undone, u"paying “House”"_s);
-        const QStringList told = home.notices();
-        QCOMPARE(told, QStringList{u"'Zero' has an amount of zero and was skipped.\n"
-                                   "Checking is below zero: -$1.00."_s});
-        home.trigger("undo");
-        QVERIFY(home.notices().isEmpty());
-    }
-
     void theAccountIsTheChosenOneThenTheLastOneThenTheFirst()
     {
         SmallHousehold home;
@@ -116,41 +58,6 @@ private slots:
                                    purse);
         });
         QCOMPARE(texts(home, 4).join(u' '), u"Checking Checking Checking"_s);
-    }
-
-    void aMissingRateBlanksNoPage()
-    {
-        SmallHousehold home;
-        show(home, "home");
-        home.document().perform({u"More"_s, {}, {}}, [&] {
-            home.addItem<budgeting::Bill>("Server", "500 JPY", foundation::today());
-            home.addItem<budgeting::Wage>("Royalties", "300 JPY", foundation::today().addDays(1));
-            home.addItem<budgeting::Bill>("Hotel", "120 EUR", foundation::today().addMonths(5),
-                                          nullptr, budgeting::EventFrequency::Yearly);
-            workbench::addBankAccount(home.document(),
-                                      {u"Tokyo"_s,
-                                       banking::BankName(u"First"_s),
-                                       banking::BankAccountTypes::Savings,
-                                       numira::Money(numira::toCurrency("JPY"), 700, 0),
-                                       {}});
-        });
-        for (desktop::Page *page : home.window().pages()) {
-            home.trigger("page " + page->id().toUtf8());
-            QCOMPARE(home.notices(), QStringList());
-        }
-        home.trigger("page home");
-        QVERIFY(says(home, u"There is no exchange rate for JPY; balances leave it out."_s));
-        QVERIFY(says(home,
-                     u"There is no exchange rate between JPY, EUR and USD; it is needed for: "_s
-                     u"Hotel, Server, Royalties, Tokyo."_s));
-        QVERIFY(says(home, u"The sum at Checking leaves 'Hotel' out. "_s
-                           u"There is no exchange rate between EUR and USD."_s));
-        QCOMPARE(texts(home, 4, "free"), QStringList({dollars("3000"), u"¥700"_s}));
-        QVERIFY(says(home, u"¥700 is free to spend"_s));
-        QVERIFY(says(home, u": ¥500, $920.00. "_s));
-        home.trigger("page due");
-        QCOMPARE(texts(home, 5),
-                 QStringList({dollars("2100"), dollars("2080"), u"–"_s, u"–"_s, dollars("4580")}));
     }
 
     void goesBackToAStepAndToAFormerVersion()
@@ -211,8 +118,6 @@ private slots:
         QCOMPARE(home.window().page()->id(), u"items"_s);
         QCOMPARE(table(home).chosen(), QStringList{u"Trip"_s});
     }
-
-private:
 };
 
 static const kiv::test::Suite<TestPages> suite;

@@ -76,31 +76,6 @@ private slots:
         QCOMPARE(texts(home, 4), QStringList{u"fetched"_s});
     }
 
-    void removingATagTakesItFromItsItems()
-    {
-        SmallHousehold home;
-        show(home, "settings");
-        home.document().perform({u"Tagged"_s, {}, {}}, [&] {
-            const workbench::BudgetView view(home.requests());
-            workbench::ItemValues values;
-            values.tags = tagging::Tags{tagging::Tag(u"home"_s)};
-            workbench::updateItem(home.requests(), navigation::GuiElementIdentifier(1), view,
-                                  view.budget().bills.at(budgeting::BudgetSource(u"Rent"_s)),
-                                  values);
-        });
-        const auto tagsOfRent = [&home] {
-            return workbench::BudgetView(home.requests())
-                .tags({budgeting::BudgetItemTypes::Bill, budgeting::BudgetSource(u"Rent"_s)})
-                .size();
-        };
-        QCOMPARE(texts(home, 0, "tags"), QStringList{u"home"_s});
-        press(home, Qt::Key_R, Qt::AltModifier);
-        QCOMPARE(texts(home, 0, "tags"), QStringList());
-        QCOMPARE(tagsOfRent(), std::size_t{0});
-        home.trigger("undo");
-        QCOMPARE(tagsOfRent(), std::size_t{1});
-    }
-
 private:
     static numira::Currency currency(const char *code) { return numira::toCurrency(code); }
     /// The page with francs, which have no rate.

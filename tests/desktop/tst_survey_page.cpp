@@ -4,10 +4,6 @@
 #include "desktop/accessibility.h"
 #include "desktop/page_keys.h"
 
-#include "workbench/document/bank_steps.h"
-#include "workbench/requests/item_changes.h"
-#include "workbench/requests/transactions.h"
-
 #include "workbench/surveys/survey_notes.h"
 
 using namespace kiv;
@@ -87,54 +83,6 @@ private slots:
         press(home, Qt::Key_O, Qt::AltModifier);
         QCOMPARE(message(home), QString());
         QVERIFY(workbench::SurveyNotes::of(home.document().notes()).putOff.empty());
-    }
-
-    void whatIsSetAsideAtAClosedAccountCanBeDropped()
-    {
-        SmallHousehold home;
-        begin(home);
-        keys(home, u"Alt+L; Alt+B=2100"_s);
-        setTaxAside(home, u"50"_s);
-        press(home, Qt::Key_O, Qt::AltModifier);
-        const auto code = home.requests().accounts().find(u"Checking"_s).code();
-        const QByteArray drop = "drop " + home.number(u"Checking"_s).toUtf8();
-        home.document().perform({u"Closed"_s, {}, {}}, [&] {
-            const auto box = home.addAccount("Box", accounting::AccountTypes::Asset);
-            const accounting::AccountCode other(box, u"Box"_s, std::nullopt);
-            (void)workbench::post(home.requests(),
-                                  {foundation::today(), other, code, usd("2100"), u"moved"_s});
-            home.requests().change(workbench::accountOutcome, &navigation::Navigator::onClosed,
-                                   code);
-        });
-        const auto recorded = [&] {
-            return home.document().present().surveys.begin()->second.distribution().size();
-        };
-        QCOMPARE(recorded(), 1U);
-        QVERIFY(part<QPushButton>(home, drop.constData()).text().startsWith(u"Set nothing"_s));
-        part<QWidget>(home, drop.constData()).setFocus();
-        press(home, Qt::Key_Space);
-        QCOMPARE(message(home), QString());
-        QCOMPARE(recorded(), 0U);
-        home.trigger("undo");
-        QCOMPARE(recorded(), 1U);
-    }
-
-    void theRegisterLeadsToTheSurveyOfItsAccount()
-    {
-        SmallHousehold home;
-        begin(home);
-        home.document().perform({u"More"_s, {}, {}}, [&] {
-            auto &navigator = home.requests().navigator();
-            const auto purse =
-                navigator.onAddedBankAccount(u"Purse"_s, banking::BankAccountTypes::Cash, usd("5"));
-            workbench::attachBankAccount(home.document(), banking::BankName(u"First"_s),
-                                         purse->number(), banking::BankAccountTypes::Cash);
-        });
-        const QString purse = home.number(u"Purse"_s);
-        home.window().goTo({u"register"_s, purse});
-        home.trigger("reconcileAccount");
-        QCOMPARE(home.window().page()->detail(), purse);
-        QCOMPARE(texts(home, 1, "ticks"), QStringList{dollars("5")});
     }
 
 private:

@@ -76,16 +76,22 @@ public:
         m_home.window().goTo(desktop::Place::fromText(place));
         (void)news();
     }
-    /// "go PLACE", "do ACTION" or keys.
-    void step(const QString &text)
+    /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, and keys.
+    void step(const QString &steps)
     {
-        const QString rest = text.section(u' ', 1);
-        if (text.startsWith(u"go "))
-            m_home.window().goTo(desktop::Place::fromText(rest));
-        else if (text.startsWith(u"do "))
-            m_home.trigger(rest.toLatin1());
-        else
-            test::keys(m_home, text);
+        for (const QString &one : steps.split(u"; "_s)) {
+            const QString rest = one.section(u' ', 1);
+            if (one.startsWith(u"go "))
+                m_home.window().goTo(desktop::Place::fromText(rest));
+            else if (one.startsWith(u"do "))
+                m_home.trigger(rest.toLatin1());
+            else if (one.startsWith(u"at "))
+                at(rest);
+            else if (one.startsWith(u'='))
+                test::enter(m_home, one.mid(1));
+            else
+                test::keys(m_home, one);
+        }
     }
     QStringList news()
     {
@@ -110,6 +116,24 @@ public:
     }
 
 private:
+    /// Goes to a part of the page without a letter of its own, by its name or its text.
+    void at(const QString &text)
+    {
+        const QString name = text.section(u'=', 0, 0);
+        for (QWidget *part : m_home.window().page()->findChildren<QWidget *>()) {
+            const auto *button = qobject_cast<QAbstractButton *>(part);
+            if (!part->isVisible() || part->focusPolicy() == Qt::NoFocus ||
+                (part->objectName() != name && part->accessibleName() != name &&
+                 (!button || button->text() != name)))
+                continue;
+            part->setFocus(Qt::OtherFocusReason);
+            if (text.contains(u'='))
+                test::enter(m_home, text.section(u'=', 1));
+            return;
+        }
+        QFAIL(qPrintable(u"There is nothing to go to: "_s + name));
+    }
+
     SmallHousehold m_home;
     storage::BudgetStorage::Data m_start;
     QStringList m_before;
@@ -171,6 +195,7 @@ private slots:
             if (!line.startsWith(u"$ "))
                 continue;
             desk->step(rest);
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(rest));
             told += line.toUtf8() + '\n' + inLines(desk->news());
         }
         QVERIFY(desk);

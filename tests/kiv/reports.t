@@ -81,6 +81,14 @@ finds.
   2024-Q4   $9,400.46   $5,394.05  $4,006.41  42.6 %
   2025-Q1   $9,539.38   $5,234.78  $4,304.60  45.1 %
   Total    $18,939.84  $10,628.83  $8,311.01  43.9 %
+  $ for period in week two-weeks payday quarter year; do
+  >   kiv report --by category --period $period --to 2025-03-31 --json | jq -c '[.from, .spans[1]]'
+  > done
+  ["2025-01-13","2025-01-20"]
+  ["2024-10-28","2024-11-11"]
+  ["2024-10-23","2024-11-06"]
+  ["2024-01-01","2024-Q2"]
+  ["2024-01-01","2025"]
   $ kiv report --by payee --from 2025-03-01 --to 2025-03-31 groceries
   Expense, USD
   Name             Total

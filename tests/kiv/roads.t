@@ -162,3 +162,35 @@ An account of the wrong type becomes what it is, with all that was entered:
   $ kiv accounts | grep -e Visa -e Purse
        9  Assets:Visa                             -$20.00
       10  Expenses:Purse                           $50.00
+
+What cannot take another's place says why, and what has no place of its own asks for one:
+
+  $ begin
+  $ each 0 <<'.' >/dev/null
+  > bank-account add Card --bank First --type credit-card --balance 100 --date 2026-01-01
+  > bank-account add Euros --bank First --type savings --balance '10 EUR' --date 2026-01-01
+  > bank-account add Spare --bank First --type savings --balance 10 --date 2026-01-01
+  > bank add Third
+  > bank close Third
+  > goal add Apart 10 --target 700 --next 2026-03-03
+  > transfer Checking Apart 7 --date 2026-03-04
+  > debt add Loan 50 --borrowed 50 --next 2026-03-03 --date 2026-01-01
+  > transfer Checking Loan 57 --date 2026-03-04
+  > .
+  kiv: warning: For the debt 'Loan', $7.00 more was paid than was owed.
+  $ each 1 <<'.'
+  > bank-account replace Card --by Spare
+  > bank-account replace Euros --by Spare
+  > bank-account move Spare --to Third
+  > account convert 'Opening Balances USD [Equity]' --type asset
+  > debt finish Loan
+  > goal finish Apart
+  > explain tolerance Euros --balance '5 USD'
+  > .
+  kiv: 'Card' and 'Spare' cannot replace each other: one is owned, and the other is owed. Pay it off by a transfer, then close it.
+  kiv: 'Euros' and 'Spare' are kept in different currencies. Transfer the money with both amounts, tie its goals to 'Spare', then close 'Euros'.
+  kiv: The bank 'Third' is closed; open it again first.
+  kiv: 'Opening Balances USD [Equity]' holds the opening balances; its type cannot change.
+  kiv: For the debt 'Loan', $7.00 more was paid than was owed; move it back first.
+  kiv: The goal 'Apart' lies under no bank account; say to which account its money goes, or move it there first.
+  kiv: There is no exchange rate from 'USD' to 'EUR'; fetch the rates, or set it by hand.

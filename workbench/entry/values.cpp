@@ -187,14 +187,19 @@ void readValue(const QString &text, accounting::TransactionNumber &value)
     value = accounting::TransactionNumber(toInteger<std::uint16_t>(text, 1));
 }
 
+int readWhole(const QString &text, int lowest, int highest)
+{
+    return toInteger<int>(text, lowest, highest);
+}
+
 void readValue(const QString &text, std::chrono::days &value)
 {
-    value = std::chrono::days(toInteger<int>(text, 0, 36600));
+    value = std::chrono::days(readWhole(text, 0, 36600));
 }
 
 void readValue(const QString &text, std::chrono::hours &value)
 {
-    value = std::chrono::hours(toInteger<int>(text, 0, 100000));
+    value = std::chrono::hours(readWhole(text, 0, 100000));
 }
 
 void readValue(const QString &text, foundation::Percentage &value)

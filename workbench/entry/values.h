@@ -63,6 +63,8 @@ KIV_WORKBENCH_EXPORT void readValue(const QString &text, accounting::AccountType
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, banking::BankAccountTypes &value);
 /// "bill", "debt", "goal", "nontrack" or "wage".
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, budgeting::BudgetItemTypes &value);
+/// A whole number of this range, as it was typed. Throws an EntryError for anything else.
+[[nodiscard]] KIV_WORKBENCH_EXPORT int readWhole(const QString &text, int lowest, int highest);
 /// A whole number above 0.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, accounting::AccountNumber &value);
 /// A whole number from 1 to 65,535.

@@ -145,11 +145,9 @@ private:
 
 } // namespace
 
-int outlookDays(std::chrono::days days)
+void readValue(const QString &text, OutlookDays &value)
 {
-    if (days.count() < 1 || days.count() > outlookDaysMax)
-        throw notANumber(QString::number(days.count()), 1, outlookDaysMax);
-    return static_cast<int>(days.count());
+    value.count = readWhole(text, 1, outlookDaysMax);
 }
 
 Money outlookFloor(const Amount &typed, const numira::Currency &preferred)

@@ -26,9 +26,12 @@ struct OutlookQuestion {
 
 /// The most days that are looked ahead.
 inline constexpr int outlookDaysMax = 3'660;
-/// As many days, for a question. Throws an EntryError if that is none, or more than can be
-/// looked ahead.
-[[nodiscard]] KIV_WORKBENCH_EXPORT int outlookDays(std::chrono::days days);
+/// How many days are looked ahead: 1 to outlookDaysMax.
+struct OutlookDays {
+    int count = 92; ///< the usual ones
+};
+/// Throws an EntryError for anything else than such a number.
+KIV_WORKBENCH_EXPORT void readValue(const QString &text, OutlookDays &value);
 
 /// The least that shall be there, in `preferred`. Throws an EntryError for too many decimals, and
 /// a Refusal without an exchange rate.

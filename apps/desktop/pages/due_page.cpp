@@ -128,6 +128,8 @@ void DuePage::refresh()
 {
     m_due = shownDue(desk().document(), m_said);
     m_summary->setText(dueSummary(m_due));
+    // Until a row is chosen again nothing could be done, and the focus would leave its field.
+    QSignalBlocker quiet(m_table);
     m_model->setRows(dueRows(m_due));
     const bool isEmpty = m_due.list.lines.empty();
     m_table->setVisible(!isEmpty);
@@ -142,6 +144,7 @@ void DuePage::refresh()
     for (const auto &[number, name] : m_due.payers)
         m_account->addItem(name, number.integer());
     m_table->settle();
+    quiet.unblock();
     follow();
 }
 

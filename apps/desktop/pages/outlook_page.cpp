@@ -154,9 +154,9 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
     };
     if (!isRead(*m_days,
                 [&] {
-                    std::chrono::days days{};
+                    workbench::OutlookDays days;
                     workbench::readValue(m_days->text().trimmed(), days);
-                    asked.question.days = workbench::outlookDays(days);
+                    asked.question.days = days.count;
                 }) ||
         !isRead(*m_floor,
                 [&] {

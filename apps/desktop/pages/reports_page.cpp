@@ -276,7 +276,10 @@ bool ReportsPage::ask()
         });
     };
     // Days that do not fit each other are refused before the search is looked at.
-    auto report = make(m_from->text().isEmpty() ? *m_to : *m_from);
+    // Whoever goes through the spans by arrows stays there.
+    auto report = make(m_spans->hasFocus()        ? static_cast<QWidget &>(*m_spans)
+                       : m_from->text().isEmpty() ? *m_to
+                                                  : *m_from);
     question->words = m_words->text().trimmed();
     if (report && !question->words.isEmpty())
         report = make(*m_words);

@@ -63,7 +63,8 @@ void SplitLines::show()
                             workbench::amountText(m_lines[place].amount.in(m_currency), displayAs));
     m_text->setText(tr("Together with this line: %1").arg(texts.join(QStringLiteral(", "))));
     setVisible(!m_lines.empty());
-    m_desk.say(m_text->text());
+    if (!m_lines.empty())
+        m_desk.say(m_text->text());
 }
 
 } // namespace kiv::desktop

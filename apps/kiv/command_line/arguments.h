@@ -3,6 +3,7 @@
 
 #include "workbench/entry/kind_words.h"
 #include "workbench/entry/values.h"
+#include "workbench/outlook/looking_ahead.h"
 
 #include <functional>
 #include <vector>
@@ -56,6 +57,10 @@ constexpr const char *valueWord(const foundation::Percentage *)
     return "PERCENT";
 }
 constexpr const char *valueWord(const std::chrono::days *)
+{
+    return "DAYS";
+}
+constexpr const char *valueWord(const workbench::OutlookDays *)
 {
     return "DAYS";
 }

@@ -63,7 +63,7 @@ QJsonObject curveJson(const LookingAhead &ahead, const Curve &curve,
 }
 
 struct ShowOutlook {
-    std::chrono::days days{92};
+    workbench::OutlookDays days;
     std::optional<Amount> floor;
     std::vector<QString> without;
     std::vector<QString> with;
@@ -93,7 +93,7 @@ struct ShowOutlook {
         const numira::Currency preferred = call.requests.preferredCurrency();
         OutlookQuestion question;
         question.first = call.date();
-        question.days = workbench::outlookDays(days);
+        question.days = days.count;
         const BudgetView view(call.requests);
         for (const QString &name : without)
             question.without.insert(view.findTyped(name));
