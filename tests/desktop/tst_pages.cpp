@@ -102,6 +102,9 @@ private slots:
         damaged.close();
         home.trigger("page history");
         QCOMPARE(texts(home, 2, "steps").last(), u"damaged"_s);
+        // No number stands here to be explained.
+        const QAction *explain = home.window().desk().actions().action(u"explain"_s);
+        QVERIFY(!desktop::ActionCollection::reason(explain).isEmpty());
         table(home, "steps").choose(u"version 1"_s);
         press(home, Qt::Key_B, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());

@@ -97,15 +97,17 @@ public:
     {
         QStringList told;
         test::tell(*m_home.window().page(), rowsMax, told);
+        test::tell(*m_home.window().findChild<QWidget *>(u"explanation"_s), rowsMax, told);
         for (const QString &notice : m_home.notices())
             told += u"notice: "_s + notice;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
         told += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
         if (const auto deed = m_home.document().undoable())
             told += u"undoes "_s + deed->undone;
-        const QWidget &focus = *QApplication::focusWidget();
-        told += u"at "_s +
-                (focus.accessibleName().isEmpty() ? focus.objectName() : focus.accessibleName());
+        const QWidget *focus = QApplication::focusWidget();
+        told += u"at "_s + (!focus                              ? u"nothing"_s
+                            : focus->accessibleName().isEmpty() ? focus->objectName()
+                                                                : focus->accessibleName());
         return newsOf(told, std::exchange(m_before, told));
     }
     void undoAll()

@@ -129,3 +129,18 @@ A name that several items have is written with its kind, as the refusal says:
   ["Phone","bill",null]
   ["Salary","wage",null]
   ["Rent","wage",null]
+
+Without a checking account another one of a bank pays, but none that is owed:
+
+  $ kiv new poor.budget >/dev/null; export KIV_FILE=poor.budget
+  $ each 0 <<'.' >/dev/null
+  > bank add First
+  > bank-account add Card --bank First --type credit-card --balance 100 --date 2026-01-01
+  > .
+  $ kiv outlook --date 2026-01-25 --days 9 --with '5 on 2026-01-26'
+  kiv: No bank has an open account that could pay or get this amount.
+  [1]
+  $ kiv bank-account add Savings --bank First --type savings --balance 10 --date 2026-01-01 >/dev/null
+  $ kiv outlook --date 2026-01-25 --days 9 --with '5 on 2026-01-26' | tail -2
+  Card     -$100.00  -$100.00  2026-01-25                          -$100.00
+  Savings    $10.00     $5.00  2026-01-26  what was asked about       $5.00
