@@ -63,7 +63,7 @@ private slots:
         QCOMPARE(home.notices().size(), 1);
         home.trigger("saveAs");
         QCOMPARE(home.document().file(), home.path(u"other.budget"_s));
-        QCOMPARE(home.window().windowTitle(), u"other"_s);
+        QCOMPARE(home.window().windowTitle(), u"other (saved)"_s);
         QCOMPARE(home.notices(), QStringList());
     }
 
