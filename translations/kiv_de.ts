@@ -9493,6 +9493,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>Day and month can be read in two ways. Choose how.</source>
         <translation>Tag und Monat lassen sich auf zwei Arten lesen. Eine davon wählen.</translation>
     </message>
+    <message>
+        <source>Choose the column with the day.</source>
+        <translation>Die Spalte mit dem Tag wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the column with the amount, or those of money in and money out.</source>
+        <translation>Die Spalte mit dem Betrag wählen, oder die für Eingang und Ausgang.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ImportFileStep</name>

@@ -9493,6 +9493,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>Day and month can be read in two ways. Choose how.</source>
         <translation>El día y el mes se pueden leer de dos maneras. Elegir una.</translation>
     </message>
+    <message>
+        <source>Choose the column with the day.</source>
+        <translation>Elegir la columna del día.</translation>
+    </message>
+    <message>
+        <source>Choose the column with the amount, or those of money in and money out.</source>
+        <translation>Elegir la columna del importe, o las de entrada y salida.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::ImportFileStep</name>

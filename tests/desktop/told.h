@@ -46,7 +46,10 @@ inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
 /// What a field has; nothing for what is none.
 inline QString valueOf(const QWidget &widget)
 {
-    if (const auto *edit = qobject_cast<const QLineEdit *>(&widget))
+    const auto *edit = qobject_cast<const QLineEdit *>(&widget);
+    if (edit && edit->echoMode() != QLineEdit::Normal)
+        return u"hidden"_qs;
+    if (edit)
         return edit->text().isEmpty() ? edit->placeholderText() : edit->text();
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))
         return u"%1, %2 to choose from"_qs.arg(box->currentText()).arg(box->count());

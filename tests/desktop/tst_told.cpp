@@ -76,7 +76,8 @@ public:
         m_home.window().goTo(desktop::Place::fromText(place));
         (void)news();
     }
-    /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, and keys.
+    /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, "read FILE TEXT" for
+    /// an import, and keys.
     void step(const QString &steps)
     {
         for (const QString &one : steps.split(u"; "_s)) {
@@ -87,6 +88,9 @@ public:
                 m_home.trigger(rest.toLatin1());
             else if (one.startsWith(u"at "))
                 at(rest);
+            else if (one.startsWith(u"read "))
+                m_home.beginImport(rest.section(u' ', 0, 0),
+                                   rest.section(u' ', 1).replace(u'|', u'\n').toUtf8());
             else if (one.startsWith(u'='))
                 test::enter(m_home, one.mid(1));
             else
@@ -98,6 +102,7 @@ public:
         QStringList told;
         test::tell(*m_home.window().page(), rowsMax, told);
         test::tell(*m_home.window().findChild<QWidget *>(u"explanation"_s), rowsMax, told);
+        told.replaceInStrings(m_home.path({}), u"FOLDER/"_s);
         for (const QString &notice : m_home.notices())
             told += u"notice: "_s + notice;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();

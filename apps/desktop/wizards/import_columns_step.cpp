@@ -311,16 +311,29 @@ QWidget *ImportColumnsStep::firstFocus() const
 
 void ImportColumnsStep::complain(const QString &sentence)
 {
-    m_form->message().complain(firstFocus(), sentence);
+    const bool isComplete = !m_guess || m_guess->missing.isEmpty();
+    m_form->message().complain(firstFocus(), isComplete ? sentence : missingText());
+}
+
+QString ImportColumnsStep::missingText() const
+{
+    const CsvProfile &profile = m_guess->profile;
+    if (m_guess->dayReadings.size() > 1)
+        return tr("Day and month can be read in two ways. Choose how.");
+    if (columnOf<&CsvProfile::dateColumn>(profile).isEmpty())
+        return tr("Choose the column with the day.");
+    if (columnOf<&CsvProfile::amountColumn>(profile).isEmpty() &&
+        columnOf<&CsvProfile::inColumn>(profile).isEmpty() &&
+        columnOf<&CsvProfile::outColumn>(profile).isEmpty())
+        return tr("Choose the column with the amount, or those of money in and money out.");
+    return m_guess->missing;
 }
 
 bool ImportColumnsStep::isReadable()
 {
     m_form->message().withdraw();
-    if (m_guess->dayReadings.size() > 1)
-        complain(tr("Day and month can be read in two ways. Choose how."));
-    else if (!m_guess->missing.isEmpty())
-        complain(m_guess->missing);
+    if (!m_guess->missing.isEmpty())
+        complain({});
     return m_guess->missing.isEmpty();
 }
 

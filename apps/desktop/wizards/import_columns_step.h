@@ -58,6 +58,8 @@ private:
     void addColumn(const char *id, const QString &label, const QString &none,
                    decltype(ColumnField::shown) shown, decltype(ColumnField::take) take);
     void follow(const interchange::CsvProfile &profile);
+    /// What is missing, in the words of this page.
+    [[nodiscard]] QString missingText() const;
     void reshape();
     void takeColumn(const ColumnField &field);
     void takeDays();
