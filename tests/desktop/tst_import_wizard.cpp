@@ -33,9 +33,6 @@ QByteArray card(const QByteArray &number)
            "</BANKTRANLIST></CCSTMTRS></CCSTMTTRNRS></CREDITCARDMSGSRSV1></OFX>";
 }
 
-/// A file, the field at which it is refused, and what is said there.
-using Unread = std::tuple<QString, QByteArray, const char *, QString>;
-
 } // namespace
 
 /// Files of banks, imported by keys.

@@ -91,47 +91,6 @@ private slots:
         QVERIFY(summed > 2);
     }
 
-    void fromABarToItsEntriesByKeys()
-    {
-        HouseholdWindow home;
-        showReports(home);
-        fill(home, "to", u"2026-02-28"_s);
-        QVERIFY2(told(home).contains(u"spent, "_s), qPrintable(told(home)));
-        home.window().goTo(desktop::Place::fromText(u"reports/category/group/expense/USD/Rent"_s));
-        auto &chart = *home.window().page()->findChild<desktop::ChartView *>();
-        chart.setFocus();
-        press(home, Qt::Key_Home);
-        QCOMPARE(table(home, "values").chosen(), QStringList{u"0"_s});
-        press(home, Qt::Key_End);
-        press(home, Qt::Key_Return);
-        QVERIFY(table(home, "entries").hasFocus());
-        QCOMPARE(texts(home, 4, "entries"), QStringList{dollars("900")});
-        press(home, Qt::Key_Return);
-        QCOMPARE(home.window().page()->id(), u"register"_s);
-        QVERIFY(home.window().page()->detail().startsWith(u"all/"_s));
-        // Back shows the same line.
-        home.trigger("back");
-        QCOMPARE(home.window().page()->detail(), u"category/group/expense/USD/Rent"_s);
-        // Of one span the bars are the names.
-        choose(home, "spans", u"All as one"_s);
-        QVERIFY(texts(home, 0, "values").contains(u"Rent"_s));
-        chart.lookAt(static_cast<std::size_t>(texts(home, 0, "values").indexOf(u"Rent"_s)));
-        QVERIFY(texts(home, 1, "entries").size() > 1);
-        // The overview has items with their plans, and what is owned.
-        choose(home, "spans", u"Months"_s);
-        choose(home, "by", u"Overview"_s);
-        QCOMPARE(texts(home, 2, "lines")[texts(home, 0, "lines").indexOf(u"Rent"_s)],
-                 dollars("900"));
-        table(home, "lines")
-            .selectRow(static_cast<int>(texts(home, 0, "lines").indexOf(u"Net worth, USD"_s)));
-        QVERIFY(told(home, "entriesTold").contains(u"which change it by"_s));
-        // A search leaves only what can be compared with it.
-        fill(home, "words", u"item:Rent"_s);
-        QCOMPARE(texts(home, 0, "lines"),
-                 QStringList({u"All expenses, USD"_s, u"All income, USD"_s}));
-        QVERIFY(told(home).endsWith(u"Only what fits: item:Rent"_s));
-    }
-
     void itFollowsTheBooksAndForgetsThemWithTheFile()
     {
         HouseholdWindow home;

@@ -28,15 +28,6 @@ public:
     {
         return QSettings(QString::fromStdString(path.string()), QString());
     }
-    /// Settings of a file with this content.
-    [[nodiscard]] std::filesystem::path withContent(const QByteArray &content)
-    {
-        const std::filesystem::path path = fresh();
-        QFile file(fileOf(path));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("The settings file cannot be written.");
-        return path;
-    }
     [[nodiscard]] QString fileOf(const std::filesystem::path &path) const
     {
         return m_folder.filePath(QString::fromStdString(path.string()) + QStringLiteral(".conf"));

@@ -118,6 +118,7 @@ void ReportsPage::build()
         label->setWordWrap(true);
     }
     m_told->setObjectName(QStringLiteral("told"));
+    m_chart->setObjectName(QStringLiteral("chart"));
     m_entriesTold->setObjectName(QStringLiteral("entriesTold"));
     m_rates->setObjectName(QStringLiteral("rates"));
     QFont font = m_told->font();
