@@ -16,6 +16,10 @@ A month, from what is due to what is on file:
   Posted the wage 'Salary', due on 2026-01-25: $3,100.00.
   $ kiv skip Light
   Skipped the bill 'Light' due on 2026-02-10; it is next due on 2026-03-10.
+  $ kiv bill add Lamp 5 --next 2026-01-31 >/dev/null; kiv skip Lamp >/dev/null
+  $ kiv bill update Lamp --amount 6 >/dev/null; kiv skip Lamp
+  Skipped the bill 'Lamp' due on 2026-02-28; it is next due on 2026-03-31.
+  $ kiv bill remove Lamp >/dev/null
   $ kiv pay Light 19.10 --account Checking --date 2026-02-11
   Posted $19.10 for the bill 'Light', which is still due on 2026-03-10.
   $ kiv transaction clear 2 3
