@@ -188,7 +188,7 @@ void MainWindow::addViewActions()
     addLook("lookBlackOnWhite", tr("&Black on white"), Appearance::BlackOnWhite);
     addLook("lookWhiteOnBlack", tr("&White on black"), Appearance::WhiteOnBlack);
     const auto addSize = [this](const char *id, const QString &text, const QKeySequence &keys,
-                                std::function<int(int)> change) {
+                                const std::function<int(int)> &change) {
         m_actions->add(QString::fromLatin1(id), Group::View, text, keys, [this, change] {
             m_given.settings.setTextSize(change(m_given.settings.textSize()));
             applyLooks();

@@ -54,6 +54,7 @@ std::vector<TransactionNumber> byDay(const accounting::Account &account, std::op
     }
     std::ranges::sort(entries);
     std::vector<TransactionNumber> numbers;
+    numbers.reserve(entries.size());
     for (const auto &[day, number] : entries)
         numbers.push_back(number);
     return numbers;

@@ -73,8 +73,8 @@ private:
             m_beginning.balances.emplace(number, worth);
             watch(account);
         }
-        for (auto &[number, once] : entries)
-            m_beginning.once.push_back(std::move(once));
+        for (const auto &[number, once] : entries)
+            m_beginning.once.push_back(once);
     }
 
     /// Watches the open accounts of banks, but not those of goals.
@@ -135,7 +135,7 @@ private:
         outlook::Once once{one.day, one.amount.abs(), *payer, AccountNumber()};
         if (one.amount.isNegative())
             std::swap(once.from, once.to);
-        m_beginning.once.push_back(std::move(once));
+        m_beginning.once.push_back(once);
     }
 
     const BudgetStorage::Data &m_data;

@@ -29,7 +29,7 @@ using storage::BudgetStorage;
 
 namespace {
 
-constexpr int daysAYear = 365;
+constexpr qint64 daysAYear = 365;
 constexpr int hundredthsInAll = 10'000; ///< so many hundredths of a percent are the whole
 /// No lender takes more a year than was lent.
 constexpr double rateMax = 1;
@@ -72,12 +72,12 @@ DebtBooks booksOf(const BudgetStorage::Data &data, const LedgerAccount &account)
 /// A payment after the other, until nothing is left.
 class Paying {
 public:
-    Paying(const BudgetedMoney &item, Money left, Money each,
+    Paying(const BudgetedMoney &item, const Money &left, const Money &each,
            const std::optional<SeenInterest> &interest)
         : m_item(item),
           m_next(item.nextOccurOn()),
-          m_left(std::move(left)),
-          m_each(std::move(each)),
+          m_left(left),
+          m_each(each),
           m_hundredths(interest ? interest->hundredths : 0),
           m_charged(interest ? interest->until : QDate())
     {

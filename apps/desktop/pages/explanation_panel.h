@@ -5,6 +5,10 @@
 
 #include <QtWidgets/QFrame>
 
+QT_BEGIN_NAMESPACE
+class QPushButton;
+QT_END_NAMESPACE
+
 namespace kiv::desktop {
 
 class Table;

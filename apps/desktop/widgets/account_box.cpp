@@ -38,6 +38,7 @@ void AccountBox::offer(std::shared_ptr<const workbench::AccountIndex> accounts,
 {
     m_accounts = std::move(accounts);
     std::vector<std::pair<QString, AccountNumber>> names;
+    names.reserve(offered.size());
     for (const AccountNumber number : offered)
         names.emplace_back(m_accounts->plainName(number), number);
     std::ranges::sort(names, [](const auto &a, const auto &b) {
@@ -45,6 +46,7 @@ void AccountBox::offer(std::shared_ptr<const workbench::AccountIndex> accounts,
         return order != 0 ? order < 0 : a.second < b.second;
     });
     std::vector<std::pair<QString, QVariant>> items;
+    items.reserve(names.size());
     for (const auto &[name, number] : names)
         items.emplace_back(name, number.integer());
     const QString typed = currentText();

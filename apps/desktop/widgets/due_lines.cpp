@@ -4,6 +4,7 @@
 #include "widgets/allow.h"
 #include "widgets/flow_layout.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>

@@ -3,6 +3,8 @@
 
 #include "workbench/errors.h"
 
+#include "numira/money.h"
+
 #include <QtCore/QStringList>
 
 /// The errors of the command itself, with sentences in the user's language. The errors
