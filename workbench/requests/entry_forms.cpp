@@ -162,6 +162,7 @@ std::vector<TransactionNumber> enterSplit(Requests &requests, const SplitEntry &
         throw internal::splitTooShort();
     (void)splitTotal(entry, requests.accounts());
     std::vector<TransactionNumber> numbers;
+    numbers.reserve(entry.lines.size());
     for (const SplitLine &line : entry.lines)
         numbers.push_back(enter(requests, lineOf(entry, line)));
     return numbers;

@@ -121,7 +121,7 @@ void HouseholdStep::follow()
         line = chosen();
     }
     const StarterChoice &choice = line->choice;
-    const auto fill = [this](MoneyEdit &edit, const std::optional<workbench::Amount> &amount) {
+    const auto fill = [](MoneyEdit &edit, const std::optional<workbench::Amount> &amount) {
         edit.setText(amount ? amount->text : QString());
     };
     m_shownKey = keyOf(choice);

@@ -9,6 +9,10 @@
 
 #include "interchange/journal_reader.h"
 
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
 namespace kiv::desktop {
 
 ImportJournalStep::ImportJournalStep(Desk &desk, QWidget *parent)
