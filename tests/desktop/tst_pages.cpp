@@ -4,13 +4,11 @@
 #include "actions/command_palette.h"
 #include "desktop/page_keys.h"
 
-#include "workbench/document/bank_steps.h"
 #include "workbench/versions/kept_versions.h"
 
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
-using accounting::AccountNumber;
 
 /// The pages beside the register, used by keys.
 class TestPages : public QObject {

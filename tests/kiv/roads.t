@@ -163,7 +163,7 @@ An account of the wrong type becomes what it is, with all that was entered:
        9  Assets:Visa                             -$20.00
       10  Expenses:Purse                           $50.00
 
-What cannot take another's place says why, and what has no place of its own asks for one:
+What cannot be moved, replaced, finished or compared says why:
 
   $ begin
   $ each 0 <<'.' >/dev/null

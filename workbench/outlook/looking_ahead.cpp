@@ -29,7 +29,7 @@ public:
         : m_data(data), m_question(question)
     {
         m_beginning.first = question.first;
-        m_beginning.days = question.days;
+        m_beginning.days = question.days.count;
     }
 
     outlook::Beginning made(LookingAhead &ahead)
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    [[nodiscard]] QDate last() const { return m_question.first.addDays(m_question.days - 1); }
+    [[nodiscard]] QDate last() const { return m_question.first.addDays(m_question.days.count - 1); }
 
     /// What each account is worth with all that was entered up to the first day, and the
     /// transactions of the days to come, each once. A full book is long, so this is one pass.
@@ -162,7 +162,7 @@ Money outlookFloor(const Amount &typed, const numira::Currency &preferred)
 LookingAhead lookAhead(const BudgetStorage::Data &data, const OutlookQuestion &question,
                        const numira::Currency &preferred)
 try {
-    const QDate last = question.first.addDays(question.days - 1);
+    const QDate last = question.first.addDays(question.days.count - 1);
     for (const OutlookQuestion::Once &one : question.with) {
         if (one.day > last)
             throw internal::behindOutlook(one.day, last);

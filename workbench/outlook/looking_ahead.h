@@ -6,23 +6,8 @@
 #include "outlook/outlook.h"
 #include "storage/budget_storage.h"
 
-#include <chrono>
-
 /// What is to come of a household's money.
 namespace kiv::workbench {
-
-/// What is asked, beside what the budget holds.
-struct OutlookQuestion {
-    /// Something that is not in the budget.
-    struct Once {
-        QDate day;            ///< of it
-        numira::Money amount; ///< negative when money comes in
-    };
-    QDate first;                                            ///< the first day
-    int days = 92;                                          ///< how many; at least 1
-    std::set<budgeting::BudgetItemIdentifier> without = {}; ///< as if these were none
-    std::vector<Once> with = {}; ///< from or to the first account that can pay
-};
 
 /// The most days that are looked ahead.
 inline constexpr int outlookDaysMax = 3'660;
@@ -32,6 +17,19 @@ struct OutlookDays {
 };
 /// Throws an EntryError for anything else than such a number.
 KIV_WORKBENCH_EXPORT void readValue(const QString &text, OutlookDays &value);
+
+/// What is asked, beside what the budget holds.
+struct OutlookQuestion {
+    /// Something that is not in the budget.
+    struct Once {
+        QDate day;            ///< of it
+        numira::Money amount; ///< negative when money comes in
+    };
+    QDate first;                                            ///< the first day
+    OutlookDays days = {};                                  ///< that are looked at
+    std::set<budgeting::BudgetItemIdentifier> without = {}; ///< as if these were none
+    std::vector<Once> with = {}; ///< from or to the first account that can pay
+};
 
 /// The least that shall be there, in `preferred`. Throws an EntryError for too many decimals, and
 /// a Refusal without an exchange rate.

@@ -146,6 +146,7 @@ void DuePage::refresh()
     m_table->settle();
     quiet.unblock();
     follow();
+    emit figureChosen();
 }
 
 std::vector<DueLine> DuePage::chosen() const

@@ -64,7 +64,7 @@ OutlookPage::OutlookPage(Desk &desk)
     m_form->setHeading(tr("What if? Nothing of this is kept. An amount with a minus comes in."));
     m_form->addButton(QStringLiteral("look"), tr("Loo&k ahead"), [this] { ask(); });
     m_form->addButton(QStringLiteral("again"), tr("Start &again"), [this] { startAgain(); });
-    m_days->setText(QString::number(m_asked.question.days));
+    m_days->setText(QString::number(m_asked.question.days.count));
     m_curveTable->setObjectName(QStringLiteral("curves"));
     m_curveTable->fit(curvesMax);
     m_paymentTable->setObjectName(QStringLiteral("payments"));
@@ -153,11 +153,7 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
         asked.question.with.push_back({QDate(), m_amount->amount().in(preferred)});
     };
     if (!isRead(*m_days,
-                [&] {
-                    workbench::OutlookDays days;
-                    workbench::readValue(m_days->text().trimmed(), days);
-                    asked.question.days = days.count;
-                }) ||
+                [&] { workbench::readValue(m_days->text().trimmed(), asked.question.days); }) ||
         !isRead(*m_floor,
                 [&] {
                     if (!m_floor->text().trimmed().isEmpty())
@@ -203,7 +199,7 @@ void OutlookPage::startAgain()
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_floor), static_cast<QLineEdit *>(m_without),
                              static_cast<QLineEdit *>(m_amount), static_cast<QLineEdit *>(m_day)})
         field->clear();
-    m_days->setText(QString::number(workbench::OutlookQuestion().days));
+    m_days->setText(QString::number(workbench::OutlookDays().count));
     ask();
     firstFocus()->setFocus(Qt::OtherFocusReason);
 }

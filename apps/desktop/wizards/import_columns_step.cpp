@@ -335,7 +335,7 @@ bool ImportColumnsStep::isReadable()
 {
     m_form->message().withdraw();
     if (!m_guess->missing.isEmpty())
-        complain({});
+        complain(m_guess->missing);
     return m_guess->missing.isEmpty();
 }
 

@@ -93,7 +93,7 @@ struct ShowOutlook {
         const numira::Currency preferred = call.requests.preferredCurrency();
         OutlookQuestion question;
         question.first = call.date();
-        question.days = days.count;
+        question.days = days;
         const BudgetView view(call.requests);
         for (const QString &name : without)
             question.without.insert(view.findTyped(name));
