@@ -170,6 +170,20 @@ QStringList unreached(QWidget &root, QWidget &first)
     return faults;
 }
 
+int tabsUp(const QWidget &root, const QWidget &first)
+{
+    const auto top = [&root](const QWidget &at) { return at.mapTo(&root, QPoint(0, 0)).y(); };
+    int ups = 0;
+    const QWidget *last = &first;
+    for (QWidget *at = first.nextInFocusChain(); at != &first; at = at->nextInFocusChain()) {
+        if (!root.isAncestorOf(at) || !isStop(*at))
+            continue;
+        ups += top(*at) + at->height() <= top(*last);
+        last = at;
+    }
+    return ups;
+}
+
 QStringList pale(const QPalette &palette, double wanted)
 {
     using desktop::Colour;

@@ -20,6 +20,8 @@ namespace kiv::test {
 /// Widgets that Tab does not reach, beginning at `first`, or reaches twice before all were
 /// reached. The window must be active.
 [[nodiscard]] QStringList unreached(QWidget &root, QWidget &first);
+/// How often Tab goes up on its way, beginning at `first`.
+[[nodiscard]] int tabsUp(const QWidget &root, const QWidget &first);
 /// Pairs of colours with less contrast than is wanted.
 [[nodiscard]] QStringList pale(const QPalette &palette, double wanted);
 

@@ -64,7 +64,8 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
     if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
         return rowsOf(*view, rowsMax);
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
-        text = label->text() + (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());
+        text = (label->text().isEmpty() ? u"empty "_qs + label->objectName() : label->text()) +
+               (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());
     else if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
         text = (button->isChecked() ? u"[x "_qs : u"["_qs) + button->text() + u']';
     else if (const auto *group = qobject_cast<const QGroupBox *>(&widget))

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "desktop/accessibility.h"
 #include "desktop/page_keys.h"
 #include "desktop/told.h"
+#include "desktop/ways.h"
 #include "widgets/announcer.h"
 
 namespace {
@@ -21,18 +23,17 @@ namespace {
 
 constexpr int rowsMax = 4; ///< of a table
 constexpr qsizetype lineMax = 158;
+const QByteArray licence = "# SPDX-License-Identifier: GPL-3.0-or-later\n";
 
-/// The parts in lines that can be read.
-QByteArray inLines(const QStringList &told)
+/// What a line begins with, and the parts, in lines that can be read.
+QByteArray inLines(const QString &begin, const QStringList &told)
 {
-    if (told.isEmpty())
-        return "nothing\n";
-    QString text;
-    qsizetype used = 0;
-    for (QString part : told) {
+    QString text = begin + u" ⇒"_s;
+    qsizetype used = text.size();
+    for (QString part : told.isEmpty() ? QStringList{u"nothing"_s} : told) {
         part.replace(u'\n', u" / "_s);
-        const bool isNew = used == 0 || used + part.size() > lineMax;
-        text += (used == 0 ? QString() : isNew ? u"\n"_s : u" · "_s) + part;
+        const bool isNew = used + part.size() > lineMax;
+        text += (isNew ? u"\n"_s : text.endsWith(u'⇒') ? u" "_s : u" · "_s) + part;
         used = (isNew ? 0 : used + 3) + part.size();
     }
     return text.toUtf8() + '\n';
@@ -102,6 +103,10 @@ public:
         QStringList told;
         test::tell(*m_home.window().page(), rowsMax, told);
         test::tell(*m_home.window().findChild<QWidget *>(u"explanation"_s), rowsMax, told);
+        const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
+        // Whether it is saved yet is a matter of time.
+        told += u"%1 of %2"_s.arg(pages->currentItem() ? pages->currentItem()->text() : QString(),
+                                  m_home.window().windowTitle().section(u" ("_s, 0, 0));
         told.replaceInStrings(m_home.path({}), u"FOLDER/"_s);
         for (const QString &notice : m_home.notices())
             told += u"notice: "_s + notice;
@@ -148,8 +153,9 @@ private:
 
 } // namespace
 
-/// What each page, form and wizard tells about the household, against told.txt, and what deeds
-/// tell, against deeds.txt. With KIV_RENEW the files are written anew.
+/// What each page, form and wizard tells about the household, against told.txt, how their parts
+/// are set, against ways.txt, and what deeds tell, against deeds.txt. With KIV_RENEW the files are
+/// written anew.
 class TestTold : public QObject {
     Q_OBJECT
 
@@ -165,14 +171,16 @@ private slots:
         desk.openHousehold();
         desk.show();
         QStringList before;
-        QByteArray told = "# SPDX-License-Identifier: GPL-3.0-or-later\n";
+        test::tell(*pages, std::numeric_limits<int>::max(), before);
+        QByteArray told = licence + inLines(u"## window"_s, before);
         desk.lookAtAll([&](QWidget &shown, QWidget &first, const QString &place) {
             QStringList parts;
             test::tell(shown, rowsMax, parts);
-            told += u"## %1: begins at '%2', %3 parts\n"_s.arg(place, first.objectName())
-                        .arg(parts.size())
-                        .toUtf8() +
-                    inLines(newsOf(parts, before));
+            told += inLines(u"## %1: begins at '%2', Tab goes up %3 times, %4 parts"_s
+                                .arg(place, first.objectName())
+                                .arg(test::tabsUp(shown, first))
+                                .arg(parts.size()),
+                            newsOf(parts, before));
             before = parts;
         });
         told.replace(desk.path({}).toUtf8(), "FOLDER/");
@@ -183,6 +191,7 @@ private slots:
             u"%1 \\d\\d:\\d\\d"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
         told = QString::fromUtf8(told).replace(moment, u"MOMENT"_s).toUtf8();
         compare(told, KIV_TOLD);
+        compare(licence + test::Ways(desk.window()).text(lineMax), KIV_WAYS);
     }
 
     /// Each step of deeds.txt with what is new then; at the end of its part all is undone.
@@ -201,9 +210,10 @@ private slots:
                 told += line.toUtf8() + '\n';
             if (!line.startsWith(u"$ "))
                 continue;
-            desk->step(rest);
-            QVERIFY2(!QTest::currentTestFailed(), qPrintable(rest));
-            told += line.toUtf8() + '\n' + inLines(desk->news());
+            const QString step = line.section(u" ⇒"_s, 0, 0);
+            desk->step(step.mid(2));
+            QVERIFY2(!QTest::currentTestFailed(), qPrintable(step));
+            told += inLines(step, desk->news());
         }
         QVERIFY(desk);
         desk->undoAll();

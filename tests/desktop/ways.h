@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QtWidgets/QtWidgets>
+
+/// How the parts of a window are set: for each kind of part, how many have a property.
+namespace kiv::test {
+
+class Ways {
+public:
+    /// Counts the widget and all in it.
+    explicit Ways(QWidget &root)
+    {
+        add(root);
+        for (QWidget *part : root.findChildren<QWidget *>())
+            add(*part);
+        for (const QAction *action : root.findChildren<QAction *>())
+            addProperties(*action, action->metaObject(), m_kinds[u"QAction"_qs]);
+        for (const QLayout *layout : root.findChildren<QLayout *>())
+            add(*layout);
+    }
+
+    /// A line of `lengthMax` or several for each kind.
+    [[nodiscard]] QByteArray text(qsizetype lengthMax) const
+    {
+        QString all;
+        for (const auto &[kind, ways] : m_kinds) {
+            QString line = kind + u':';
+            for (const auto &[way, count] : ways) {
+                const QString next = u" %1 %2,"_qs.arg(way).arg(count);
+                if (line.size() + next.size() > lengthMax) {
+                    all += line + u'\n';
+                    line = u" "_qs;
+                }
+                line += next;
+            }
+            line.back() = u'\n';
+            all += line;
+        }
+        return all.toUtf8();
+    }
+
+private:
+    void add(const QWidget &widget)
+    {
+        static const QRegularExpression inner(
+            u"^Q(ComboBox.+|ScrollBar|SizeGrip|LineEditIconButton|TableCornerButton)$"_qs);
+        const QMetaObject *kind = widget.metaObject();
+        while (*kind->className() != 'Q')
+            kind = kind->superClass();
+        const QString name = QString::fromLatin1(kind->className());
+        if (inner.match(name).hasMatch())
+            return;
+        auto &ways = m_kinds[name];
+        addProperties(widget, kind, ways);
+        const QSizePolicy policy = widget.sizePolicy();
+        ++ways[u"%1×%2"_qs.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy())];
+        if (qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden())
+            ++ways[u"shown"_qs];
+    }
+    static void addProperties(const QObject &object, const QMetaObject *kind,
+                              std::map<QString, int> &ways)
+    {
+        // What a change of the household changes is no way.
+        static const QSet<QByteArray> ignored{"enabled", "visible",       "checked", "down",
+                                              "modal",   "mouseTracking", "default"};
+        static const QWidget plain;
+        ++ways[u"all"_qs];
+        for (int at = 0; at < kind->propertyCount(); ++at) {
+            const QMetaProperty property = kind->property(at);
+            const QVariant value = property.read(&object);
+            if (!property.isWritable() || ignored.contains(property.name()) ||
+                value == plain.property(property.name()))
+                continue;
+            const QString name = QString::fromLatin1(property.name());
+            if (property.isEnumType() && value.toInt() != 0)
+                ++ways[name + u' ' + namesOf(property, value.toInt())];
+            else if (value.userType() == QMetaType::Bool && value.toBool())
+                ++ways[name];
+            else if (value.userType() == QMetaType::QString && name != u"text")
+                ways[name] += !value.toString().isEmpty();
+        }
+    }
+    static QString namesOf(const QMetaProperty &property, int value)
+    {
+        const QMetaEnum names = property.enumerator();
+        return QString::fromLatin1(names.isFlag() ? names.valueToKeys(value)
+                                                  : QByteArray(names.valueToKey(value)));
+    }
+    void add(const QLayout &layout)
+    {
+        auto &ways = m_kinds[QString::fromLatin1(layout.metaObject()->className())];
+        ++ways[u"all"_qs];
+        ways[u"edged"_qs] += !layout.contentsMargins().isNull();
+        for (int at = 0; at < layout.count(); ++at) {
+            ++ways[layout.itemAt(at)->spacerItem() ? u"stretches"_qs : u"parts"_qs];
+            if (const Qt::Alignment side = layout.itemAt(at)->alignment())
+                ++ways[u"side %1"_qs.arg(side.toInt())];
+            if (const auto *box = qobject_cast<const QBoxLayout *>(&layout))
+                ways[u"stretched"_qs] += box->stretch(at) > 0;
+        }
+    }
+
+    std::map<QString, std::map<QString, int>> m_kinds;
+};
+
+} // namespace kiv::test
