@@ -86,10 +86,10 @@ ReportsPage::ReportsPage(Desk &desk)
     tellDefault();
     m_to->setPlaceholderText(tr("today"));
     m_words->setPlaceholderText(tr("all entries; words as in a search"));
-    m_form->addButton(QStringLiteral("add"), tr("A&dd up"), [this] { (void)ask(); });
+    m_form->addButton(QStringLiteral("add"), tr("A&dd up"), [this] { askAnew(); });
     m_form->addButton(QStringLiteral("again"), tr("Start &again"), [this] { startAgain(); });
     for (QComboBox *box : {m_by, m_spans, m_in})
-        connect(box, &QComboBox::activated, this, [this] { (void)ask(); });
+        connect(box, &QComboBox::activated, this, [this] { askAnew(); });
     connect(m_form, &Form::givenUp, this, &ReportsPage::startAgain);
     build();
     addActions();
@@ -192,7 +192,7 @@ void ReportsPage::goTo(const QString &detail)
     if (by >= 0 && by != m_by->currentIndex()) {
         m_by->setCurrentIndex(by);
         if (m_report)
-            (void)ask();
+            askAnew();
     }
     m_lineTable->choose(detail.section(u'/', 1));
 }
@@ -294,14 +294,19 @@ bool ReportsPage::ask()
     m_report = std::move(*report);
     m_grouping = grouping();
     showLines();
-    if (isVisible())
-        desk().say(m_told->text());
     return true;
+}
+
+void ReportsPage::askAnew()
+{
+    if (ask() && isVisible())
+        desk().say(m_told->text());
 }
 
 void ReportsPage::showLines()
 {
     m_told->setText(m_report ? reportSentences(*m_report, m_shown).join(u'\n') : QString());
+    m_told->setVisible(!m_told->text().isEmpty());
     m_rates->setText(m_report ? m_report->rateTexts().join(u'\n') : QString());
     m_rates->setVisible(!m_rates->text().isEmpty());
     const QStringList columns = lineColumns(m_grouping.has_value());
@@ -335,7 +340,7 @@ void ReportsPage::clearFields()
 void ReportsPage::startAgain()
 {
     clearFields();
-    (void)ask();
+    askAnew();
     firstFocus()->setFocus(Qt::OtherFocusReason);
 }
 
@@ -350,15 +355,18 @@ void ReportsPage::showLine()
     const ReportLine *shown = line();
     const auto displayAs = requests().displayAs();
     const QString before = m_valueTable->chosen().value(0);
+    // Of the same line among the same others what was looked at stays.
+    const QStringList among = shown ? shown->peers + QStringList{shown->key} : QStringList();
+    const bool stays = std::exchange(m_among, among) == among || (shown && shown->peers.isEmpty());
     {
         const QSignalBlocker quiet(m_valueTable);
         m_chart->setChart(shown ? shown->chart : interchange::Chart(), displayAs);
         m_values->setColumns(shown ? valueColumns(*shown) : QStringList());
         m_values->setRows(shown ? valueRows(*shown, displayAs) : std::vector<Row>());
-        if (shown && !shown->peers.isEmpty())
-            m_valueTable->choose(QString::number(shown->peers.indexOf(shown->key)));
-        else if (m_values->place(before) >= 0)
+        if (stays && m_values->place(before) >= 0)
             m_valueTable->choose(before);
+        else if (shown && !shown->peers.isEmpty())
+            m_valueTable->choose(QString::number(shown->peers.indexOf(shown->key)));
         else if (shown)
             m_valueTable->choose(QString::number(shown->chart.labels.size() - 1)); // the newest
         m_valueTable->settle();

@@ -51,6 +51,8 @@ private:
     /// Adds up as the fields say, or says at its field what cannot be asked; then all stays as it
     /// was. Returns whether it could.
     bool ask();
+    /// Asks as someone wished, and says the answer.
+    void askAnew();
     void startAgain();
     void clearFields();
     /// Shows the report.
@@ -87,6 +89,7 @@ private:
     std::unique_ptr<const workbench::BudgetReport> m_report;
     std::optional<workbench::Grouping> m_grouping; ///< of the report that is shown
     std::vector<workbench::ReportLine> m_shown;
+    QStringList m_among; ///< what the values were last shown of: the others, and the line itself
     std::vector<workbench::ReportEntry> m_behind;
 };
 
