@@ -8,8 +8,7 @@
 
 using namespace kiv::budgeting;
 using namespace kiv::test;
-using kiv::adviser::BudgetHealth;
-using kiv::adviser::HealthGrade;
+using namespace kiv::adviser;
 
 namespace {
 

@@ -13,13 +13,9 @@
 #include "support/message_log.h"
 #include "support/scripted_sender.h"
 
-using kiv::conversion::ConversionError;
-using kiv::conversion::ConversionMap;
-using kiv::conversion::CurrencyConverter;
-using kiv::conversion::OpenExchangeRatesSource;
+using namespace kiv::conversion;
 using kiv::networking::RequestManager;
-using numira::Currency;
-using numira::FloatingPoint;
+using namespace numira;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "desktop/painted.h"
+#include "widgets/chart_view.h"
+
 #include <QtWidgets/QtWidgets>
 
 /// What a window tells: its texts, the values of its fields, and its tables.
@@ -63,6 +66,8 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
     QString text = widget.accessibleDescription();
     if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
         return rowsOf(*view, rowsMax);
+    if (auto *chart = qobject_cast<const desktop::ChartView *>(&widget))
+        return Painted(const_cast<desktop::ChartView &>(*chart)).told();
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
         text = (label->text().isEmpty() ? u"empty "_qs + label->objectName() : label->text()) +
                (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());

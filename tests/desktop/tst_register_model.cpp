@@ -8,12 +8,8 @@
 #include "workbench/requests/entry_forms.h"
 
 using namespace kiv;
-using accounting::AccountNumber;
-using accounting::AccountTypes;
-using accounting::Transaction;
-using accounting::TransactionNumber;
-using desktop::RegisterFilter;
-using desktop::RegisterModel;
+using namespace accounting;
+using namespace desktop;
 using navigation::Navigator;
 using namespace Qt::Literals::StringLiterals;
 

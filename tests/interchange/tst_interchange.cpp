@@ -21,9 +21,7 @@
 
 using namespace kiv::interchange;
 using namespace kiv::test;
-using kiv::accounting::Account;
-using kiv::accounting::GeneralLedger;
-using kiv::accounting::Transaction;
+using namespace kiv::accounting;
 using kiv::foundation::escaped;
 using kiv::foundation::toQString;
 

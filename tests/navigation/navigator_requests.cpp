@@ -6,17 +6,11 @@
 
 namespace kiv::test {
 
-using accounting::AccountCode;
-using accounting::AccountNumber;
-using accounting::TransactionNumber;
-using banking::BankAccount;
-using banking::BankAccountTypes;
-using budgeting::BudgetedMoney;
-using budgeting::BudgetItemIdentifier;
-using budgeting::BudgetItemTypes;
+using namespace accounting;
+using namespace banking;
+using namespace budgeting;
 using navigation::ConfigurationData;
-using numira::Currency;
-using numira::Money;
+using namespace numira;
 
 namespace {
 

@@ -6,9 +6,7 @@
 
 using namespace kiv;
 using namespace kiv::test;
-using navigation::AllowSubAccounts;
-using navigation::BankAccountCode;
-using navigation::BudgetBankAccount;
+using namespace navigation;
 using Accounts = banking::Bank::Accounts;
 
 /// What no request reaches; the rest of banks is in navigator_requests.txt.

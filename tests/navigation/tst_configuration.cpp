@@ -11,13 +11,8 @@
 #include "support/preferences_store.h"
 
 using kiv::foundation::Percentage;
-using kiv::navigation::ConfigurationData;
-using kiv::navigation::CurrencyDisplayOptions;
-using kiv::navigation::UserPreferences;
-using kiv::tagging::BudgetItemTags;
-using kiv::tagging::BudgetTagManager;
-using kiv::tagging::Tag;
-using kiv::tagging::Tags;
+using namespace kiv::navigation;
+using namespace kiv::tagging;
 using numira::Currency;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

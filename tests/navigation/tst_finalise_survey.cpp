@@ -7,8 +7,7 @@
 
 using namespace kiv;
 using namespace kiv::test;
-using accounting::TransactionNumber;
-using accounting::TransactionStatuses;
+using namespace accounting;
 using surveying::CompletedSurvey;
 
 namespace {

@@ -12,8 +12,7 @@
 
 using namespace kiv;
 using namespace kiv::test;
-using conversion::ConversionMap;
-using conversion::CurrencyConverter;
+using namespace conversion;
 
 namespace {
 

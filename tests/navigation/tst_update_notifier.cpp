@@ -12,8 +12,7 @@
 
 using kiv::navigation::internal::UpdateNotifier;
 using kiv::networking::Response;
-using kiv::updating::SemanticVersion;
-using kiv::updating::UpdateChecker;
+using namespace kiv::updating;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 

@@ -13,11 +13,7 @@
 #include "support/loopback_server.h"
 #include "support/message_log.h"
 
-using kiv::networking::HttpLimits;
-using kiv::networking::HttpRequestSender;
-using kiv::networking::RequestManager;
-using kiv::networking::RequestNumber;
-using kiv::networking::Response;
+using namespace kiv::networking;
 using namespace Qt::StringLiterals;
 
 namespace {

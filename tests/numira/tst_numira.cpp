@@ -18,10 +18,7 @@
 #include <vector>
 
 using boost::multiprecision::cpp_int;
-using numira::Currency;
-using numira::Decimal;
-using numira::FloatingPoint;
-using numira::Money;
+using namespace numira;
 using numira::setUpLibrary;
 using numira::toCurrency;
 using numira::toMoney;

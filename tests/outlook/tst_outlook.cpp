@@ -7,9 +7,7 @@
 
 using namespace kiv::outlook;
 using namespace kiv::test;
-using kiv::budgeting::BudgetItemTypes;
-using kiv::budgeting::BudgetSource;
-using kiv::budgeting::EventFrequency;
+using namespace kiv::budgeting;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

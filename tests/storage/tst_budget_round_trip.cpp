@@ -11,12 +11,8 @@
 #include <rapidcheck.h>
 
 using namespace kiv;
-using accounting::AccountNumber;
-using accounting::AccountTypes;
-using budgeting::Bill;
-using budgeting::Debt;
-using budgeting::Nontrack;
-using budgeting::Wage;
+using namespace accounting;
+using namespace budgeting;
 using Data = storage::BudgetStorage::Data;
 
 namespace {

@@ -16,10 +16,7 @@
 
 using namespace kiv;
 using namespace Qt::StringLiterals;
-using storage::KeptVersion;
-using storage::KeyRing;
-using storage::Passphrase;
-using storage::StorageFailure;
+using namespace storage;
 using enum storage::StorageFailure;
 
 namespace {

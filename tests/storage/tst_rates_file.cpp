@@ -7,8 +7,7 @@
 
 using namespace kiv;
 using conversion::ConversionMap;
-using storage::RatesFile;
-using storage::StorageFailure;
+using namespace storage;
 
 /// What is replaced in a file, by what, and how the file is refused.
 using Change = std::tuple<QByteArray, QByteArray, StorageFailure>;

@@ -14,12 +14,8 @@
 
 using namespace kiv::surveying;
 using namespace kiv::test;
-using kiv::banking::BankAccount;
-using kiv::banking::BankName;
-using kiv::budgeting::BudgetItemIdentifier;
-using kiv::budgeting::BudgetItemTypes;
-using kiv::budgeting::BudgetSource;
-using kiv::budgeting::EventFrequency;
+using namespace kiv::banking;
+using namespace kiv::budgeting;
 using enum kiv::banking::BankAccountTypes;
 
 namespace {

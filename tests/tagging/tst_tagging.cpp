@@ -7,8 +7,7 @@
 
 using namespace kiv::tagging;
 using namespace kiv::test;
-using kiv::budgeting::BudgetItemIdentifier;
-using kiv::budgeting::BudgetSource;
+using namespace kiv::budgeting;
 using enum kiv::budgeting::BudgetItemTypes;
 
 namespace {

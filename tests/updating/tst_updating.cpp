@@ -13,12 +13,7 @@
 #include "support/scripted_sender.h"
 
 using kiv::networking::RequestManager;
-using kiv::updating::ReleaseFeed;
-using kiv::updating::ReleaseInformation;
-using kiv::updating::ReleaseInformationFetcher;
-using kiv::updating::SemanticVersion;
-using kiv::updating::UpdateChecker;
-using kiv::updating::UpdateError;
+using namespace kiv::updating;
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -22,8 +22,7 @@ using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using navigation::Navigator;
-using workbench::Deed;
-using workbench::Document;
+using namespace workbench;
 using Data = storage::BudgetStorage::Data;
 using Kept = Document::Kept;
 

@@ -16,8 +16,7 @@
 using namespace kiv;
 using namespace kiv::test;
 using accounting::Transaction;
-using workbench::AccountIndex;
-using workbench::Description;
+using namespace workbench;
 using namespace Qt::Literals::StringLiterals;
 
 /// What people type to enter and find transactions, and what they are shown.

@@ -20,10 +20,8 @@
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
-using numira::FloatingPoint;
-using numira::Money;
-using workbench::Explanation;
-using workbench::LineRole;
+using namespace numira;
+using namespace workbench;
 
 namespace {
 

@@ -16,11 +16,7 @@ using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
 using interchange::StatementEntry;
 using navigation::Navigator;
-using workbench::ImportMatch;
-using workbench::ImportMemory;
-using workbench::ImportPayment;
-using workbench::ImportPreview;
-using workbench::ImportRow;
+using namespace workbench;
 using State = ImportRow::State;
 
 namespace {

@@ -18,9 +18,7 @@
 
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
-using budgeting::BudgetItemIdentifier;
-using budgeting::BudgetItemTypes;
-using budgeting::EventFrequency;
+using namespace budgeting;
 using Data = storage::BudgetStorage::Data;
 
 namespace {

@@ -18,10 +18,7 @@
 using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 using navigation::Navigator;
-using workbench::SetAside;
-using workbench::SetAsideLine;
-using workbench::SurveyForm;
-using workbench::SurveySheet;
+using namespace workbench;
 using Data = storage::BudgetStorage::Data;
 
 namespace {
