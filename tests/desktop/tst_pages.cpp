@@ -3,6 +3,7 @@
 
 #include "actions/command_palette.h"
 #include "desktop/page_keys.h"
+#include "desktop/told.h"
 
 #include "workbench/versions/kept_versions.h"
 
@@ -90,6 +91,44 @@ private slots:
         press(home, Qt::Key_B, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());
         QCOMPARE(home.requests().transactions().size(), std::size_t{2});
+    }
+
+    void aBudgetThatIsOnlyReadOffersNoChange()
+    {
+        HouseholdWindow first;
+        first.openHousehold();
+        HouseholdWindow home;
+        QVERIFY(home.window().open(first.document().file()));
+        home.show();
+        const QString whyNot = home.window().desk().whyNoChange().value();
+        const auto saysWhyNot = [&home, &whyNot] {
+            QStringList told;
+            tell(*home.window().page(), 0, told);
+            return told.join(u' ').contains(whyNot);
+        };
+        QStringList refused;
+        int pressed = 0;
+        for (desktop::Page *page : home.window().pages()) {
+            for (const QString &part : QStringList{QString()} + page->parts()) {
+                for (const QPointer<QAbstractButton> button :
+                     page->findChildren<QAbstractButton *>()) {
+                    home.window().goTo({page->id(), part});
+                    if (!button || !button->isVisible() || !button->isEnabled())
+                        continue;
+                    const bool saidSo = saysWhyNot();
+                    const QString text = button->text();
+                    button->click();
+                    ++pressed;
+                    // Another page may say it from the start.
+                    if (home.window().page() == page && !saidSo && saysWhyNot())
+                        refused += page->id() + u' ' + part + u": "_s + text;
+                }
+            }
+        }
+        QVERIFY2(refused.isEmpty(), qPrintable(refused.join(u'\n')));
+        QVERIFY(pressed > 50);
+        home.window().goTo({u"register"_s, {}});
+        QVERIFY(!part<QPushButton>(home, "addLine").isEnabled());
     }
 
     void theCommandPaletteFindsAccountsAndItems()

@@ -304,7 +304,8 @@ void EntryRow::followLines()
     const bool isSplit = !m_split->lines().empty();
     // The lines are all of one form.
     m_forms->setEnabled(m_fields->isEnabled() && !isSplit);
-    m_addLine->setEnabled(m_task == Task::Enter && form() != EntryForm::Moved);
+    m_addLine->setEnabled(m_fields->isEnabled() && m_task == Task::Enter &&
+                          form() != EntryForm::Moved);
     if (m_task == Task::Enter)
         m_submit->setText(isSplit ? tr("Add all") : tr("Add"));
 }
