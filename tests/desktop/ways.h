@@ -53,6 +53,8 @@ private:
             return;
         auto &ways = m_kinds[name];
         addProperties(widget, kind, ways);
+        ways[u"bold"_qs] += widget.font().bold();
+        ways[u"large"_qs] += widget.font().pointSizeF() > QApplication::font().pointSizeF();
         const QSizePolicy policy = widget.sizePolicy();
         ++ways[u"%1×%2"_qs.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy())];
         if (qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden())
