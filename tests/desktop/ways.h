@@ -3,9 +3,9 @@
 
 #include <QtWidgets/QtWidgets>
 
-/// How the parts of a window are set: for each kind of part, how many have a property.
 namespace kiv::test {
 
+/// How the parts of a window are set: for each kind of part, how many have a property.
 class Ways {
 public:
     /// Counts the widget and all in it.
@@ -60,19 +60,17 @@ private:
         if (qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden())
             ++ways[u"shown"_qs];
     }
-    static void addProperties(const QObject &object, const QMetaObject *kind,
-                              std::map<QString, int> &ways)
+    void addProperties(const QObject &object, const QMetaObject *kind, std::map<QString, int> &ways)
     {
         // What a change of the household changes is no way.
         static const QSet<QByteArray> ignored{"enabled", "visible",       "checked", "down",
                                               "modal",   "mouseTracking", "default"};
-        static const QWidget plain;
         ++ways[u"all"_qs];
         for (int at = 0; at < kind->propertyCount(); ++at) {
             const QMetaProperty property = kind->property(at);
             const QVariant value = property.read(&object);
             if (!property.isWritable() || ignored.contains(property.name()) ||
-                value == plain.property(property.name()))
+                value == m_plain.property(property.name()))
                 continue;
             const QString name = QString::fromLatin1(property.name());
             if (property.isEnumType() && value.toInt() != 0)
@@ -103,6 +101,7 @@ private:
         }
     }
 
+    const QWidget m_plain; ///< without what is set
     std::map<QString, std::map<QString, int>> m_kinds;
 };
 
