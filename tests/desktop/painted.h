@@ -8,15 +8,15 @@ namespace kiv::test {
 /// What a widget paints: how many things of a kind with a pen and a brush, and the texts.
 class Painted final : public QPaintDevice, private QPaintEngine {
 public:
-    explicit Painted(QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
+    explicit Painted(const QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
     {
-        widget.render(this);
+        const_cast<QWidget &>(widget).render(this);
     }
     [[nodiscard]] QStringList told() const
     {
         QStringList all;
         for (const auto &[thing, count] : m_things)
-            all += u"%1 %2"_qs.arg(count).arg(thing);
+            all += u"%1: %2"_qs.arg(thing).arg(count);
         return all + m_texts;
     }
 
@@ -44,15 +44,17 @@ private:
     }
     void add(const QString &things, int count)
     {
-        const QPen pen = painter()->pen();
-        const QBrush brush = painter()->brush();
-        m_things[u"%1 %2 %3 %4 %5"_qs.arg(things, pen.color().name())
-                     .arg(pen.style())
-                     .arg(brush.color().name())
-                     .arg(brush.style())] += count;
+        // Nothing for no pen and no brush.
+        const auto named = [](const auto &ink) {
+            const auto names = QMetaEnum::fromType<decltype(ink.style())>();
+            return ink.style() == 0 ? QString()
+                                    : u" %1 %2"_qs.arg(QLatin1String(names.valueToKey(ink.style())),
+                                                       ink.color().name());
+        };
+        m_things[things + named(painter()->pen()) + named(painter()->brush())] += count;
     }
 
-    QWidget &m_widget;
+    const QWidget &m_widget;
     std::map<QString, int> m_things;
     QStringList m_texts;
 };

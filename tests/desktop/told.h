@@ -66,8 +66,8 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
     QString text = widget.accessibleDescription();
     if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
         return rowsOf(*view, rowsMax);
-    if (auto *chart = qobject_cast<const desktop::ChartView *>(&widget))
-        return Painted(const_cast<desktop::ChartView &>(*chart)).told();
+    if (qobject_cast<const desktop::ChartView *>(&widget))
+        return Painted(widget).told();
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
         text = (label->text().isEmpty() ? u"empty "_qs + label->objectName() : label->text()) +
                (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());

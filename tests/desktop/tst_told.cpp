@@ -101,13 +101,13 @@ public:
     QStringList news()
     {
         QStringList told = shown();
-        // What is shown has followed at once; what is refused waits for another try.
+        // What is shown has followed at once, new rows with the events they wait for; what is
+        // refused waits for another try.
         const bool isRefused =
             std::ranges::any_of(told, [](const QString &part) { return part.startsWith(u"⚠ "); });
         if (!isRefused) {
             emit m_home.window().desk().refreshWanted();
-            QCoreApplication::sendPostedEvents(nullptr,
-                                               QEvent::MetaCall); // shows rows that are new
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
             if (told != shown())
                 told += u"shown otherwise when all is refreshed: "_s +
                         newsOf(shown(), told).join(u", "_s);

@@ -27,6 +27,8 @@ public:
         for (const auto &[kind, ways] : m_kinds) {
             QString line = kind + u':';
             for (const auto &[way, count] : ways) {
+                if (count == 0)
+                    continue;
                 const QString next = u" %1 %2,"_qs.arg(way).arg(count);
                 if (line.size() + next.size() > lengthMax) {
                     all += line + u'\n';
@@ -57,8 +59,7 @@ private:
         ways[u"large"_qs] += widget.font().pointSizeF() > QApplication::font().pointSizeF();
         const QSizePolicy policy = widget.sizePolicy();
         ++ways[u"%1×%2"_qs.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy())];
-        if (qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden())
-            ++ways[u"shown"_qs];
+        ways[u"shown"_qs] += qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden();
     }
     void addProperties(const QObject &object, const QMetaObject *kind, std::map<QString, int> &ways)
     {
@@ -93,7 +94,7 @@ private:
         ++ways[u"all"_qs];
         ways[u"edged"_qs] += !layout.contentsMargins().isNull();
         for (int at = 0; at < layout.count(); ++at) {
-            ++ways[layout.itemAt(at)->spacerItem() ? u"stretches"_qs : u"parts"_qs];
+            ++ways[layout.itemAt(at)->spacerItem() ? u"stretches"_qs : u"held"_qs];
             if (const Qt::Alignment side = layout.itemAt(at)->alignment())
                 ++ways[u"side %1"_qs.arg(side.toInt())];
             if (const auto *box = qobject_cast<const QBoxLayout *>(&layout))

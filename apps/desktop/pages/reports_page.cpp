@@ -355,7 +355,7 @@ void ReportsPage::showLine()
     const ReportLine *shown = line();
     const auto displayAs = requests().displayAs();
     const QString before = m_valueTable->chosen().value(0);
-    // Of the same line among the same others what was looked at stays.
+    // A span stays for every line; one of several names only for the same line among the same.
     const QStringList among = shown ? shown->peers + QStringList{shown->key} : QStringList();
     const bool stays = std::exchange(m_among, among) == among || (shown && shown->peers.isEmpty());
     {
