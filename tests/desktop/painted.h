@@ -5,12 +5,17 @@
 
 namespace kiv::test {
 
-/// What a widget paints: how many things of a kind with a pen and a brush, and the texts.
+/// What a widget paints at the size it would like: how many things of a kind with a pen and a
+/// brush, and the texts.
 class Painted final : public QPaintDevice, private QPaintEngine {
 public:
-    explicit Painted(const QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
+    explicit Painted(const QWidget &widget)
+        : QPaintEngine(AllFeatures), m_widget(const_cast<QWidget &>(widget))
     {
-        const_cast<QWidget &>(widget).render(this);
+        const QSize size = widget.size();
+        m_widget.resize(widget.sizeHint());
+        m_widget.render(this);
+        m_widget.resize(size);
     }
     [[nodiscard]] QStringList told() const
     {
@@ -24,9 +29,11 @@ private:
     [[nodiscard]] QPaintEngine *paintEngine() const override { return const_cast<Painted *>(this); }
     [[nodiscard]] int metric(PaintDeviceMetric which) const override
     {
-        return which == PdmWidth    ? m_widget.width()
-               : which == PdmHeight ? m_widget.height()
-                                    : QPaintDevice::metric(which);
+        return which == PdmWidth                      ? m_widget.width()
+               : which == PdmHeight                   ? m_widget.height()
+               : which == PdmDpiX || which == PdmDpiY ? m_widget.logicalDpiX()
+               : which == PdmDevicePixelRatio         ? 1
+                                                      : QPaintDevice::metric(which);
     }
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }
@@ -54,7 +61,7 @@ private:
         m_things[things + named(painter()->pen()) + named(painter()->brush())] += count;
     }
 
-    const QWidget &m_widget;
+    QWidget &m_widget;
     std::map<QString, int> m_things;
     QStringList m_texts;
 };
