@@ -5,12 +5,10 @@
 
 namespace kiv::test {
 
-/// What a widget paints at the size it would like: how many things of a kind with a pen and a
-/// brush, and the texts.
+/// What a widget paints at the size it would like: things with a pen and a brush, and texts.
 class Painted final : public QPaintDevice, private QPaintEngine {
 public:
-    explicit Painted(const QWidget &widget)
-        : QPaintEngine(AllFeatures), m_widget(const_cast<QWidget &>(widget))
+    explicit Painted(QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
     {
         const QSize size = widget.size();
         m_widget.resize(widget.sizeHint());
@@ -29,11 +27,10 @@ private:
     [[nodiscard]] QPaintEngine *paintEngine() const override { return const_cast<Painted *>(this); }
     [[nodiscard]] int metric(PaintDeviceMetric which) const override
     {
-        return which == PdmWidth                      ? m_widget.width()
-               : which == PdmHeight                   ? m_widget.height()
-               : which == PdmDpiX || which == PdmDpiY ? m_widget.logicalDpiX()
-               : which == PdmDevicePixelRatio         ? 1
-                                                      : QPaintDevice::metric(which);
+        return which == PdmWidth              ? m_widget.width()
+               : which == PdmHeight           ? m_widget.height()
+               : which == PdmDevicePixelRatio ? 1
+                                              : m_widget.logicalDpiX();
     }
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }

@@ -3,22 +3,18 @@
 // process of its own, so that none meets what another left: settings, a converter, a log.
 #include "support/suite.h"
 
-#ifdef KIV_TEST_WINDOW
-#include "application/application.h"
-#else
-#include <QtCore/QCoreApplication>
-#endif
-
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace {
-
 #ifdef KIV_TEST_WINDOW
+#include "application/application.h"
 using Application = kiv::desktop::Application;
 #else
+#include <QtCore/QCoreApplication>
 using Application = QCoreApplication;
 #endif
+
+namespace {
 
 std::vector<const kiv::test::AnySuite *> &suites()
 {
