@@ -40,7 +40,7 @@ QByteArray inLines(const QString &begin, const QStringList &told)
 }
 
 /// What was not told before, and how much is told no more.
-QStringList newsOf(const QStringList &told, const QStringList &before)
+QStringList newsOf(const QStringList &told, const QStringList &before, bool isCounted = true)
 {
     QStringList news;
     for (const QString &part : told) {
@@ -49,7 +49,7 @@ QStringList newsOf(const QStringList &told, const QStringList &before)
     }
     const auto gone = std::ranges::count_if(
         before, [&told](const QString &part) { return !told.contains(part); });
-    return gone == 0 ? news : news << u"(%1 gone)"_s.arg(gone);
+    return gone == 0 || !isCounted ? news : news << u"(%1 gone)"_s.arg(gone);
 }
 
 /// Compares with a file, or writes it anew.
@@ -65,6 +65,8 @@ void compare(const QByteArray &told, const char *path)
     for (qsizetype line = 0; line < std::max(expected.size(), found.size()); ++line)
         QCOMPARE(found.value(line), expected.value(line));
 }
+
+std::map<QString, QStringList> lastSeen; ///< what each page told, in whichever household
 
 /// A household in which deeds are done.
 class Desk {
@@ -112,22 +114,24 @@ public:
                 told += u"shown otherwise when all is refreshed: "_s +
                         newsOf(shown(), told).join(u", "_s);
         }
-        const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
-        // Whether it is saved yet is a matter of time.
-        told += u"%1 of %2"_s.arg(pages->currentItem() ? pages->currentItem()->text() : QString(),
-                                  m_home.window().windowTitle().section(u" ("_s, 0, 0));
         told.replaceInStrings(m_home.path({}), u"FOLDER/"_s);
+        const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
+        const QString page = pages->currentItem() ? pages->currentItem()->text() : QString();
+        // Whether it is saved yet is a matter of time.
+        QStringList round{
+            u"%1 of %2"_s.arg(page, m_home.window().windowTitle().section(u" ("_s, 0, 0))};
         for (const QString &notice : m_home.notices())
-            told += u"notice: "_s + notice;
+            round += u"notice: "_s + notice;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
-        told += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
-        if (const auto deed = m_home.document().undoable())
-            told += u"undoes "_s + deed->undone;
+        round += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
+        const auto deed = m_home.document().undoable();
+        round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
         const QWidget *focus = QApplication::focusWidget();
-        told += u"at "_s + (!focus                              ? u"nothing"_s
-                            : focus->accessibleName().isEmpty() ? focus->objectName()
-                                                                : focus->accessibleName());
-        return newsOf(told, std::exchange(m_before, told));
+        round += u"at "_s + (!focus                              ? u"nothing"_s
+                             : focus->accessibleName().isEmpty() ? focus->objectName()
+                                                                 : focus->accessibleName());
+        const QStringList news = newsOf(told, std::exchange(lastSeen[page], told));
+        return news + newsOf(round, std::exchange(m_round, round), false);
     }
     void undoAll()
     {
@@ -164,7 +168,7 @@ private:
 
     SmallHousehold m_home;
     storage::BudgetStorage::Data m_start;
-    QStringList m_before;
+    QStringList m_round; ///< what the window told around its page
 };
 
 } // namespace
