@@ -124,6 +124,15 @@ A file of another account is noticed, and one whose account is known needs no na
   $ kiv import other.ofx | tail -1
   New: 0; matched: 0; already imported: 6; left out: 0; accounts opened: 0.
 
+Of two in one file, the one whose account is known:
+
+  $ { grep -v '</OFX>' other.ofx; sed 's/<OFX>//; s/DE88/DE99/' other.ofx; } >both.ofx
+  $ kiv import both.ofx | tail -1
+  New: 0; matched: 0; already imported: 6; left out: 0; accounts opened: 0.
+  $ kiv import both.ofx --into Savings
+  kiv: 'both.ofx': The file contains several statements; choose one with --statement: DE88, DE99.
+  [1]
+
 A table that names no currency may be of any account, and one that does only of one:
 
   $ kiv bank-account add Trip --bank First --currency EUR >/dev/null

@@ -108,6 +108,8 @@ private slots:
         const QStringList letters{u"Ab"_s, u"Ac"_s, u"Ad"_s, u"Ae"_s};
         QCOMPARE(workbench::similarTo(u"Aa"_s, letters), letters.first(3));
         QCOMPARE(workbench::similarTo(u"--on"_s, {u"--json"_s}), QStringList());
+        const QString longName(60, u'X'); // both of them, and not their lengths together
+        QCOMPARE(workbench::similarTo(longName, {longName + u'Y'}), {longName + u'Y'});
     }
 
 private:
