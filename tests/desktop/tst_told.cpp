@@ -66,7 +66,7 @@ void compare(const QByteArray &told, const char *path)
         QCOMPARE(found.value(line), expected.value(line));
 }
 
-std::map<QString, QStringList> lastSeen; ///< what each page told, in whichever household
+std::map<QString, QStringList> lastSeen; ///< what each page and step told, in any household
 
 /// A household in which deeds are done.
 class Desk {
@@ -130,7 +130,10 @@ public:
         round += u"at "_s + (!focus                              ? u"nothing"_s
                              : focus->accessibleName().isEmpty() ? focus->objectName()
                                                                  : focus->accessibleName());
-        const QStringList news = newsOf(told, std::exchange(lastSeen[page], told));
+        QString seen = page;
+        for (const auto *steps : m_home.window().page()->findChildren<QStackedWidget *>())
+            seen += QString::number(steps->currentIndex());
+        const QStringList news = newsOf(told, std::exchange(lastSeen[seen], told));
         return news + newsOf(round, std::exchange(m_round, round), false);
     }
     void undoAll()
