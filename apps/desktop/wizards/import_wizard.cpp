@@ -113,19 +113,10 @@ void ImportWizard::compareAnew()
     try {
         if (m_journal->draft()) {
             m_journal->show(m_file->bytes(), m_file->file());
-        } else if (const ImportPreview *former = m_rows->preview()) {
+        } else if (m_rows->preview()) {
             if (!requests().accounts().find(*m_reading->account))
                 throw workbench::Refusal(tr("The account of the file is no longer there."));
-            ImportPreview anew =
-                previewOf(requests(), *m_reading, {memory(m_reading->account.value())});
-            for (std::size_t row = 0; row < anew.rows().size(); ++row) {
-                const workbench::ImportRow &said = former->rows()[row];
-                anew.setTicked(row, said.isTicked);
-                if (said.otherBy == workbench::OtherSideBy::User && said.other)
-                    anew.setOther(row, *said.other);
-                anew.setRemembered(row, said.isRemembered);
-            }
-            m_rows->show(std::move(anew));
+            m_rows->show(preview(*m_reading));
         }
     } catch (const foundation::Error &error) {
         forget();
@@ -177,10 +168,27 @@ workbench::ImportMemory ImportWizard::memory(AccountNumber account) const
     return memory;
 }
 
+ImportPreview ImportWizard::preview(const ImportReading &reading) const
+{
+    ImportPreview anew = previewOf(requests(), reading, {memory(reading.account.value())});
+    const ImportPreview *former = m_rows->preview();
+    if (!former || m_reading->account != reading.account ||
+        m_reading->statement.entries != reading.statement.entries)
+        return anew;
+    for (std::size_t row = 0; row < anew.rows().size(); ++row) {
+        const workbench::ImportRow &said = former->rows()[row];
+        anew.setTicked(row, said.isTicked);
+        if (said.otherBy == workbench::OtherSideBy::User && said.other)
+            anew.setOther(row, *said.other);
+        anew.setRemembered(row, said.isRemembered);
+    }
+    return anew;
+}
+
 void ImportWizard::showRows(const ImportReading &reading)
 {
     try {
-        m_rows->show(previewOf(requests(), reading, {memory(reading.account.value())}));
+        m_rows->show(preview(reading));
     } catch (const foundation::Error &error) {
         m_file->complain(workbench::userText(error));
         return;

@@ -48,6 +48,9 @@ private:
     void goBack();
     /// What is remembered of imports, and how the table is read if that is to be kept.
     [[nodiscard]] workbench::ImportMemory memory(accounting::AccountNumber account) const;
+    /// The file compared with the books. What was said of its entries stands, as long as they are
+    /// read as before.
+    [[nodiscard]] workbench::ImportPreview preview(const workbench::ImportReading &reading) const;
     /// Compares the file with the books anew if these are others than they were.
     void compareAnew();
     void importRows();
