@@ -29,6 +29,22 @@ inline QString rowText(const QAbstractItemView &view, const std::function<QVaria
     return cells.join(u" | "_qs);
 }
 
+/// Its text and what one would not expect: that a number stands left («) or another text right (»),
+/// that it is bold (*) or has a colour (°).
+inline QString cellText(const QModelIndex &cell)
+{
+    static const QRegularExpression number(u"^[-+]?[^\\w\\s]?[\\d.,]+( [A-Z]{3}| %)?$"_qs);
+    QString text = cell.data().toString();
+    const bool isRight = cell.data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+    if (text.isEmpty())
+        return text;
+    if (isRight != number.match(text).hasMatch())
+        text += isRight ? u'»' : u'«';
+    if (cell.data(Qt::FontRole).value<QFont>().bold())
+        text += u'*';
+    return cell.data(Qt::ForegroundRole).isValid() ? text + u'°' : text;
+}
+
 inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
 {
     const QAbstractItemModel &model = *view.model();
@@ -39,7 +55,7 @@ inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
     for (int row = 0; row < model.rowCount(); ++row) {
         if (row < rowsMax || row == chosen)
             rows += (row == chosen ? u"> "_qs : QString()) +
-                    rowText(view, [&](int column) { return model.index(row, column).data(); });
+                    rowText(view, [&](int column) { return cellText(model.index(row, column)); });
     }
     if (model.rowCount() > rowsMax)
         rows += u"… %1"_qs.arg(model.rowCount());
