@@ -19,20 +19,6 @@ constexpr auto march = "Date,Description,Amount\n"
                        "2026-03-06,Corner kiosk 17,-7.50\n"
                        "2026-03-07,Corner kiosk 18,-3.00\n";
 
-/// Of the card: a purchase that was typed, and one that was not.
-QByteArray card(const QByteArray &number)
-{
-    const auto entry = [](const QByteArray &day, const QByteArray &amount, const QByteArray &id) {
-        return "<STMTTRN><TRNTYPE>DEBIT<DTPOSTED>" + day + "<TRNAMT>" + amount + "<FITID>" + id +
-               "<NAME>Market</STMTTRN>";
-    };
-    return "OFXHEADER:100\nDATA:OFXSGML\nVERSION:102\nENCODING:USASCII\nCHARSET:1252\n\n"
-           "<OFX><CREDITCARDMSGSRSV1><CCSTMTTRNRS><CCSTMTRS><CURDEF>USD<CCACCTFROM><ACCTID>" +
-           number + "</CCACCTFROM><BANKTRANLIST>" + entry("20260217", "-180.00", "A" + number) +
-           entry("20260301", "-12.00", "B" + number) +
-           "</BANKTRANLIST></CCSTMTRS></CCSTMTTRNRS></CREDITCARDMSGSRSV1></OFX>";
-}
-
 } // namespace
 
 /// Files of banks, imported by keys.
@@ -78,41 +64,6 @@ private slots:
         press(home, Qt::Key_P, Qt::AltModifier);
         QCOMPARE(said(home), u"All 5 entries are there already."_s);
         QCOMPARE(home.requests().transactions().size(), after.size() + 1);
-    }
-
-    void whatIsOpenIsAskedAtItsField()
-    {
-        HouseholdWindow home;
-        const auto before = begin(home);
-        home.beginImport(u"card.ofx"_s, card("4711"), "");
-        QVERIFY(part<QWidget>(home, "account").hasFocus()); // two could be meant
-        QVERIFY(!message(home).isEmpty());
-        type(home, u"Card"_s);
-        press(home, Qt::Key_N, Qt::AltModifier);
-        QCOMPARE(texts(home, 2, "entries"), QStringList({u"Already there"_s, u"New"_s}));
-        // The purchase that was typed is parted from its entry, and found again by hand.
-        keys(home, u"Alt+W; Down"_s);
-        QCOMPARE(figures(home), u"2 new, 0 already there"_s);
-        keys(home, u"Down; Alt+P"_s);
-        QCOMPARE(home.requests().transactions().size(), before.size() + 1);
-        // Its number is known from now on, and another one is agreed to first.
-        home.beginImport(u"card.ofx"_s, card("4711"), "");
-        QCOMPARE(figures(home), u"0 new, 2 already there"_s);
-        home.questions().files = {home.write(u"card.ofx"_s, card("0815"))};
-        home.window().goTo({u"register"_s, home.number(u"Card"_s)});
-        part<QWidget>(home, "import").setFocus();
-        press(home, Qt::Key_Space);
-        QVERIFY(part<QWidget>(home, "agreed").hasFocus());
-        QVERIFY2(message(home).contains(u"4711"), qPrintable(message(home)));
-        press(home, Qt::Key_N, Qt::AltModifier);
-        QVERIFY(!message(home).isEmpty());
-        keys(home, u"Alt+M; Alt+N"_s);
-        QCOMPARE(home.window().page()->detail(), u"rows"_s);
-        // What changes the books meanwhile is compared anew.
-        QCOMPARE(figures(home), u"2 new, 0 already there"_s);
-        home.trigger("undo");
-        home.window().goTo({u"import"_s, u"rows"_s});
-        QCOMPARE(figures(home), u"1 new, 1 already there"_s);
     }
 
 private:

@@ -16,32 +16,6 @@ class TestPages : public QObject {
     Q_OBJECT
 
 private slots:
-    void theAccountThatWasChosenStaysUntilItIsClosed()
-    {
-        SmallHousehold home;
-        show(home, "due");
-        home.document().perform({u"More"_s, {}, {}}, [&] {
-            home.addAccount("Purse", accounting::AccountTypes::Asset, "1000");
-        });
-        const auto accounts = [&home] { return texts(home, 4).join(u' '); };
-        QCOMPARE(accounts(), u"Checking Checking Checking"_s);
-        keys(home, u"Alt+A=Purse; Return"_s);
-        QCOMPARE(accounts(), u"Purse Checking Checking"_s);
-        QCOMPARE(texts(home, 5).first(), dollars("100"));
-        press(home, Qt::Key_P, Qt::AltModifier);
-        home.trigger("undo");
-        home.document().perform({u"Closed"_s, {}, {}}, [&] {
-            const auto purse = home.requests().accounts().find(u"Purse"_s).code();
-            home.requests().change(workbench::transactionOutcome,
-                                   &navigation::Navigator::onTransferRequested,
-                                   home.requests().accounts().find(u"Checking"_s).code().number(),
-                                   purse.number(), test::usd("1000"), QString());
-            home.requests().change(workbench::accountOutcome, &navigation::Navigator::onClosed,
-                                   purse);
-        });
-        QCOMPARE(texts(home, 4).join(u' '), u"Checking Checking Checking"_s);
-    }
-
     void goesBackToAStepAndToAFormerVersion()
     {
         SmallHousehold home;

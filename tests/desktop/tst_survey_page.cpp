@@ -4,8 +4,6 @@
 #include "desktop/accessibility.h"
 #include "desktop/page_keys.h"
 
-#include "workbench/surveys/survey_notes.h"
-
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;
@@ -60,31 +58,6 @@ private slots:
         QCOMPARE(home.questions().asked, QStringList()); // it is the same file
     }
 
-    void whatIsPutOffIsTakenUpAsTheBooksAreThen()
-    {
-        SmallHousehold home;
-        begin(home);
-        keys(home, u"Alt+L; Alt+B=3000"_s);
-        setTaxAside(home, u"50"_s);
-        press(home, Qt::Key_U, Qt::AltModifier);
-        QCOMPARE(home.document().undoable()->undone, u"putting off the survey of “Checking”"_s);
-        home.document().perform({u"Removed"_s, {}, {}}, [&] {
-            home.requests().navigator().onRemovedTransaction(
-                home.requests().transactions().back().number().value());
-        });
-        keys(home, u"Alt+1; Alt+N"_s); // begin anew
-        QCOMPARE(texts(home, 2, "ticks"), QStringList{{}});
-        QCOMPARE(part<QLineEdit>(home, "balance").text(), QString());
-        home.trigger("undo");
-        QCOMPARE(texts(home, 2, "ticks"), QStringList{u"ticked"_s});
-        QCOMPARE(part<QLineEdit>(home, "balance").text(), u"3000.00"_s);
-        QVERIFY(part<QLabel>(home, "told").text().contains(u"not ticked any more: #"_s));
-        QVERIFY(details(home).contains(u"items: $50.00; free: $2,950.00."_s));
-        press(home, Qt::Key_O, Qt::AltModifier);
-        QCOMPARE(message(home), QString());
-        QVERIFY(workbench::SurveyNotes::of(home.document().notes()).putOff.empty());
-    }
-
 private:
     /// Rent is paid: 2,100 are left at the bank, and a tax is due once a year.
     static void begin(SmallHousehold &home)
@@ -97,15 +70,6 @@ private:
         });
         home.trigger("page survey");
     }
-    static void setTaxAside(HouseholdWindow &home, const QString &amount)
-    {
-        press(home, Qt::Key_2, Qt::AltModifier);
-        table(home, "shares").choose(u"bill:Tax"_s);
-        press(home, Qt::Key_S, Qt::AltModifier);
-        type(home, amount);
-        press(home, Qt::Key_Return);
-    }
-    static QString details(HouseholdWindow &home) { return part<QLabel>(home, "details").text(); }
     static QString figures(HouseholdWindow &home) { return part<QLabel>(home, "figures").text(); }
 };
 

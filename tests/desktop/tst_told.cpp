@@ -93,7 +93,7 @@ public:
                 at(rest);
             else if (one.startsWith(u"read "))
                 m_home.beginImport(rest.section(u' ', 0, 0),
-                                   rest.section(u' ', 1).replace(u'|', u'\n').toUtf8());
+                                   rest.section(u' ', 1).replace(u'|', u'\n').toUtf8(), "");
             else if (one.startsWith(u'='))
                 test::enter(m_home, one.mid(1));
             else
