@@ -102,7 +102,6 @@ void ItemSchedule::ask()
 void ItemSchedule::showPayments(const Payoff &payoff)
 {
     std::vector<Row> rows;
-    rows.reserve(payoff.payments.size());
     for (const workbench::ScheduledPayment &one : payoff.payments)
         rows.push_back(
             {QString::number(rows.size()),

@@ -187,7 +187,6 @@ Explain ItemsPage::explanation()
         return {};
     return [=](const workbench::Explainer &explainer) {
         std::vector<workbench::Explanation> all;
-        all.reserve(accounts.size() + 1);
         for (const accounting::AccountNumber account : accounts)
             all.push_back(explainer.setAside(account, id));
         if (recurs)

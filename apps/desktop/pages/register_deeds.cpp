@@ -65,7 +65,6 @@ void RegisterPage::remove()
     if (numbers.empty())
         return;
     std::vector<Transaction> transactions;
-    transactions.reserve(numbers.size());
     for (const TransactionNumber number : numbers)
         transactions.push_back(m_rows->transaction(m_rows->rowOf(number)));
     const int row = m_table->currentIndex().row();

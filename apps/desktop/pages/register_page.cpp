@@ -275,17 +275,11 @@ QDate RegisterPage::reconciledOn(AccountNumber account) const
 
 void RegisterPage::fillAccounts()
 {
-    std::vector<std::pair<QString, AccountNumber>> names;
-    for (const accounting::Account &account : m_accounts->accounts())
-        names.emplace_back(m_accounts->plainName(account.code().number()), account.code().number());
-    std::ranges::sort(names, [](const auto &a, const auto &b) {
-        const int order = QString::localeAwareCompare(a.first, b.first);
-        return order != 0 ? order < 0 : a.second < b.second;
-    });
-    std::vector<std::pair<QString, QVariant>> items{{tr("All accounts"), {}}};
-    for (const auto &[name, number] : names)
-        items.emplace_back(name, number.integer());
-    offer(*m_account, items);
+    const auto numbers =
+        m_accounts->accounts() | std::views::transform([](const accounting::Account &account) {
+            return account.code().number();
+        });
+    offer(*m_account, {{tr("All accounts"), {}}}, *m_accounts, numbers);
     m_account->setCurrentIndex(m_rows->account() ? m_account->findData(m_rows->account()->integer())
                                                  : 0);
 }
@@ -373,7 +367,6 @@ std::vector<TransactionNumber> RegisterPage::selected() const
         rows.push_back(index.row());
     std::ranges::sort(rows);
     std::vector<TransactionNumber> numbers;
-    numbers.reserve(rows.size());
     for (const int row : rows)
         numbers.push_back(m_rows->number(m_shown->sourceRow(row)));
     return numbers;

@@ -236,7 +236,7 @@ void ReportsPage::offerCurrencies()
     const workbench::AccountIndex index = requests().accounts();
     for (const accounting::Account &account : index.accounts())
         all.insert(account.balance().code());
-    std::vector<std::pair<QString, QVariant>> items{{tr("nothing"), {}}};
+    Offers items{{tr("nothing"), {}}};
     for (const numira::Currency &currency : all)
         items.emplace_back(foundation::presentationText(currency), QVariant::fromValue(currency));
     const QVariant chosen = m_in->currentData();

@@ -81,7 +81,7 @@ void SurveyStatement::makeUnbooked()
 void SurveyStatement::offerAccounts()
 {
     const QVariant chosen = m_account->currentData();
-    std::vector<std::pair<QString, QVariant>> items;
+    Offers items;
     std::vector<AccountNumber> others;
     for (const GroupedAccount &one : workbench::groupedAccounts(m_desk.document().present())) {
         const AccountNumber number = one.account.code().number();

@@ -37,21 +37,9 @@ void AccountBox::offer(std::shared_ptr<const workbench::AccountIndex> accounts,
                        const std::vector<AccountNumber> &offered)
 {
     m_accounts = std::move(accounts);
-    std::vector<std::pair<QString, AccountNumber>> names;
-    names.reserve(offered.size());
-    for (const AccountNumber number : offered)
-        names.emplace_back(m_accounts->plainName(number), number);
-    std::ranges::sort(names, [](const auto &a, const auto &b) {
-        const int order = QString::localeAwareCompare(a.first, b.first);
-        return order != 0 ? order < 0 : a.second < b.second;
-    });
-    std::vector<std::pair<QString, QVariant>> items;
-    items.reserve(names.size());
-    for (const auto &[name, number] : names)
-        items.emplace_back(name, number.integer());
     const QString typed = currentText();
     const QSignalBlocker blocker(this);
-    desktop::offer(*this, items);
+    desktop::offer(*this, {}, *m_accounts, offered);
     setCurrentIndex(findText(typed, Qt::MatchExactly));
     setEditText(typed);
 }
