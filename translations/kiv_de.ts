@@ -8094,6 +8094,10 @@ Das Bankkonto mit seinem Saldo eintragen, was hereinkommt, und die größten Rec
             <numerusform>%n Einträge mit einem ? sollten angesehen werden.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>An amount is missing; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
+        <translation>Ein Betrag fehlt; richtig ist etwa 1234.50 oder &apos;1234.50 USD&apos;.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

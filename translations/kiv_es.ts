@@ -8094,6 +8094,10 @@ Introducir la cuenta bancaria con su saldo, lo que entra y las facturas mayores:
             <numerusform>Conviene mirar %n entradas con un ?.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>An amount is missing; write one like 1234.50 or &apos;1234.50 USD&apos;.</source>
+        <translation>Falta un importe; debe ser como 1234.50 o &apos;1234.50 USD&apos;.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::AccountForm</name>

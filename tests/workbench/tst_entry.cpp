@@ -81,7 +81,7 @@ private slots:
              {"1 EUR + 2 USD",
               "'1 EUR + 2 USD' has two currencies; enter amounts of one currency."},
              {"2+*3", "'*3' is not an amount; write one like 1234.50 or '1234.50 USD'."},
-             {"2+", "'' is not an amount; write one like 1234.50 or '1234.50 USD'."},
+             {"2+", "An amount is missing; write one like 1234.50 or '1234.50 USD'."},
              {"0.5*0.05", "'0.5*0.05' has too many decimals; USD allows 2."},
              {"99999999999999999999999999*9",
               "The amount '99999999999999999999999999*9' is too large."}});

@@ -35,6 +35,9 @@ EntryError notADate(const QString &text)
 
 EntryError notAnAmount(const QString &text)
 {
+    if (text.isEmpty())
+        return EntryError(
+            QObject::tr("An amount is missing; write one like 1234.50 or '1234.50 USD'."));
     return EntryError(
         QObject::tr("'%1' is not an amount; write one like 1234.50 or '1234.50 USD'.").arg(text));
 }
