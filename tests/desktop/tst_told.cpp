@@ -6,6 +6,7 @@
 #include "desktop/told.h"
 #include "desktop/ways.h"
 #include "widgets/announcer.h"
+#include "wizards/first_time_wizard.h"
 
 namespace {
 QDate todayIs; ///< for a test; otherwise the calendar's
@@ -24,6 +25,11 @@ namespace {
 constexpr int rowsMax = 4; ///< of a table
 constexpr qsizetype lineMax = 158;
 const QByteArray licence = "# SPDX-License-Identifier: GPL-3.0-or-later\n";
+
+QString documents()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
 
 /// What a line begins with, and the parts, in lines that can be read.
 QByteArray inLines(const QString &begin, const QStringList &told)
@@ -83,7 +89,8 @@ public:
     /// an import, and keys.
     void step(const QString &steps)
     {
-        for (const QString &one : steps.split(u"; "_s)) {
+        for (QString one : steps.split(u"; "_s)) {
+            one.replace(u"FOLDER/"_s, m_home.path({}));
             const QString rest = one.section(u' ', 1);
             if (one.startsWith(u"go "))
                 m_home.window().goTo(desktop::Place::fromText(rest));
@@ -115,11 +122,12 @@ public:
                         newsOf(shown(), told).join(u", "_s);
         }
         told.replaceInStrings(m_home.path({}), u"FOLDER/"_s);
+        told.replaceInStrings(documents(), u"DOCUMENTS"_s);
         const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
-        const QString page = pages->currentItem() ? pages->currentItem()->text() : QString();
+        const QString name = pages->currentItem() ? pages->currentItem()->text() : QString();
         // Whether it is saved yet is a matter of time.
         QStringList round{
-            u"%1 of %2"_s.arg(page, m_home.window().windowTitle().section(u" ("_s, 0, 0))};
+            u"%1 of %2"_s.arg(name, m_home.window().windowTitle().section(u" ("_s, 0, 0))};
         for (const QString &notice : m_home.notices())
             round += u"notice: "_s + notice;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
@@ -130,8 +138,8 @@ public:
         round += u"at "_s + (!focus                              ? u"nothing"_s
                              : focus->accessibleName().isEmpty() ? focus->objectName()
                                                                  : focus->accessibleName());
-        QString seen = page;
-        for (const auto *steps : m_home.window().page()->findChildren<QStackedWidget *>())
+        QString seen = name + QLatin1String(page()->metaObject()->className());
+        for (const auto *steps : page()->findChildren<QStackedWidget *>())
             seen += QString::number(steps->currentIndex());
         const QStringList news = newsOf(told, std::exchange(lastSeen[seen], told));
         return news + newsOf(round, std::exchange(m_round, round), false);
@@ -144,10 +152,16 @@ public:
     }
 
 private:
+    /// That is shown, or the first steps.
+    [[nodiscard]] QWidget *page()
+    {
+        auto *first = m_home.window().findChild<desktop::FirstTimeWizard *>();
+        return first && first->isVisible() ? static_cast<QWidget *>(first) : m_home.window().page();
+    }
     [[nodiscard]] QStringList shown()
     {
         QStringList told;
-        test::tell(*m_home.window().page(), rowsMax, told);
+        test::tell(*page(), rowsMax, told);
         test::tell(*m_home.window().findChild<QWidget *>(u"explanation"_s), rowsMax, told);
         return told;
     }
@@ -155,7 +169,7 @@ private:
     void at(const QString &text)
     {
         const QString name = text.section(u'=', 0, 0);
-        for (QWidget *part : m_home.window().page()->findChildren<QWidget *>()) {
+        for (QWidget *part : page()->findChildren<QWidget *>()) {
             const auto *button = qobject_cast<QAbstractButton *>(part);
             if (!part->isVisible() || part->focusPolicy() == Qt::NoFocus ||
                 (part->objectName() != name && part->accessibleName() != name &&
@@ -207,8 +221,7 @@ private slots:
             before = parts;
         });
         told.replace(desk.path({}).toUtf8(), "FOLDER/");
-        told.replace(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toUtf8(),
-                     "DOCUMENTS");
+        told.replace(documents().toUtf8(), "DOCUMENTS");
         // Versions have the time of the calendar.
         static const QRegularExpression moment(
             u"%1 \\d\\d:\\d\\d"_s.arg(QDate::currentDate().toString(Qt::ISODate)));

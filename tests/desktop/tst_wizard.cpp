@@ -14,52 +14,11 @@ using namespace kiv;
 using namespace Qt::Literals::StringLiterals;
 using desktop::FirstTimeWizard;
 
-/// A step, a field of it, what is typed there, and what is said of it.
-using Wrong = std::tuple<QString, QString, QString, QString>;
-
 /// The first start, by keys.
 class TestWizard : public QObject {
     Q_OBJECT
 
 private slots:
-    void whatIsRefusedStandsAtItsField_data()
-    {
-        kiv::test::addRows<Wrong>(
-            {{"no folder", {u"place"_s, u"file"_s, u"/none/home"_s, u"/none"_s}},
-             {"no file", {u"place"_s, u"file"_s, u" "_s, {}}},
-             {"no bank", {u"bank"_s, u"bank"_s, {}, {}}},
-             {"no account", {u"bank"_s, u"account"_s, u" "_s, {}}},
-             {"a balance", {u"bank"_s, u"balance"_s, u"much"_s, u"'much'"_s}},
-             {"an amount", {u"household"_s, u"amount"_s, u"1.234"_s, u"1.234"_s}},
-             {"a day", {u"household"_s, u"day"_s, u"2020-01-01"_s, u"future"_s}}});
-    }
-    void whatIsRefusedStandsAtItsField()
-    {
-        const auto [step, field, typed, sentence] = kiv::test::rowOf<Wrong>();
-        HouseholdWindow desk;
-        begin(desk);
-        if (step != u"place")
-            place(desk, desk.path(u"home"_s));
-        if (step == u"household") {
-            bank(desk, u"First"_s, u"Checking"_s, {});
-            household(desk, u"A teenager"_s);
-            chooseItem(desk, u"nontrack:Snacks"_s);
-        }
-        if (step == u"bank")
-            fill(desk, u"bank"_s, u"First"_s);
-        fill(desk, field, typed);
-        press(Qt::Key_Return);
-        auto *edit = part<QLineEdit>(desk, field);
-        QVERIFY(edit->isVisible() && edit->hasFocus());
-        QCOMPARE(edit->text(), typed);
-        QStringList told;
-        for (const auto *message : wizard(desk)->findChildren<desktop::FieldMessage *>())
-            told += message->text();
-        QVERIFY2(!told.join(QString()).isEmpty() && told.join(QString()).contains(sentence),
-                 qPrintable(told.join(u'|')));
-        QVERIFY(!QFile::exists(desk.path(u"home.budget"_s)));
-    }
-
     void anItemThatIsRefusedIsChosen()
     {
         HouseholdWindow desk;

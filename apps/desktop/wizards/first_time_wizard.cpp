@@ -5,6 +5,10 @@
 #include "widgets/flow_layout.h"
 #include "widgets/money_edit.h"
 
+#include "workbench/requests/settings.h"
+
+#include "navigation/user_preferences.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
@@ -46,6 +50,29 @@ workbench::NewName nameIn(const QLineEdit &edit)
     workbench::readValue(edit.text(), name);
     return name;
 }
+
+/// The currencies of the settings, which the wizard stores before it makes a budget. They go on
+/// for the budget that is open; the first start has none.
+class FormerCurrencies {
+public:
+    explicit FormerCurrencies(Desk &desk)
+    {
+        if (!desk.document().file().isEmpty())
+            m_settings = workbench::presentSettings(desk.requests());
+    }
+    void putBack() const
+    {
+        if (!m_settings)
+            return;
+        navigation::UserPreferences stored(std::nullopt);
+        stored.setPreferredCurrency(m_settings->preferredCurrency);
+        stored.setUsableCurrencies(m_settings->usableCurrencies);
+        stored.setCurrenciesDisplayAs(m_settings->currenciesDisplayAs);
+    }
+
+private:
+    std::optional<navigation::ConfigurationData> m_settings;
+};
 
 } // namespace
 
@@ -282,6 +309,7 @@ void FirstTimeWizard::finish()
     }
     m_answers.items = m_household->items();
     bool isFilled = false;
+    const FormerCurrencies former(m_desk);
     try {
         m_session.makeFilled(
             QFileInfo(m_file->text()).absoluteFilePath(),
@@ -300,6 +328,7 @@ void FirstTimeWizard::finish()
         } else {
             m_household->complain(sentence);
         }
+        former.putBack();
     }
 }
 
