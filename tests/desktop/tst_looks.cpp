@@ -64,9 +64,11 @@ private slots:
             qunsetenv("LC_ALL");
             workbench::speakAsUser(*qApp);
         }
-        const auto english = qScopeGuard([] {
-            for (auto *translator : qApp->findChildren<QTranslator *>())
-                QCoreApplication::removeTranslator(translator);
+        const auto english = qScopeGuard([isOther = language.size() == 2] {
+            for (auto *translator : qApp->findChildren<QTranslator *>()) {
+                if (isOther)
+                    QCoreApplication::removeTranslator(translator);
+            }
         });
         const QFont usual = QApplication::font();
         const auto back = qScopeGuard([&usual] { QApplication::setFont(usual); });
