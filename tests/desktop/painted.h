@@ -11,9 +11,9 @@ public:
     explicit Painted(QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
     {
         const QSize size = widget.size();
-        m_widget.resize(widget.sizeHint());
-        m_widget.render(this);
-        m_widget.resize(size);
+        widget.resize(widget.sizeHint());
+        widget.render(this);
+        widget.resize(size);
     }
     [[nodiscard]] QStringList told() const
     {
@@ -27,10 +27,11 @@ private:
     [[nodiscard]] QPaintEngine *paintEngine() const override { return const_cast<Painted *>(this); }
     [[nodiscard]] int metric(PaintDeviceMetric which) const override
     {
-        return which == PdmWidth              ? m_widget.width()
-               : which == PdmHeight           ? m_widget.height()
-               : which == PdmDevicePixelRatio ? 1
-                                              : m_widget.logicalDpiX();
+        return which == PdmWidth                    ? m_widget.width()
+               : which == PdmHeight                 ? m_widget.height()
+               : which == PdmDevicePixelRatio       ? 1
+               : which == PdmDevicePixelRatioScaled ? static_cast<int>(devicePixelRatioFScale())
+                                                    : m_widget.logicalDpiX();
     }
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }

@@ -47,16 +47,13 @@ public:
         kiv::workbench::addItem<Item>(requests(), kiv::navigation::GuiElementIdentifier(1),
                                       QString::fromUtf8(name), values, next, std::nullopt);
     }
-    /// Adds an account and gives its number.
-    kiv::accounting::AccountNumber addAccount(const char *name, kiv::accounting::AccountTypes type,
-                                              const char *balance = "0")
+    void addAccount(const char *name, kiv::accounting::AccountTypes type)
     {
-        const kiv::accounting::AccountNumber number = requests().accounts().nextNumber();
         requests().change(kiv::workbench::accountOutcome, &kiv::navigation::Navigator::onAddedAct,
                           kiv::accounting::Account(type,
-                                                   {number, QString::fromUtf8(name), std::nullopt},
-                                                   kiv::test::usd(balance), false));
-        return number;
+                                                   {requests().accounts().nextNumber(),
+                                                    QString::fromUtf8(name), std::nullopt},
+                                                   kiv::test::usd("0"), false));
     }
 
 private:

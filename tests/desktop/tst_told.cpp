@@ -152,7 +152,7 @@ public:
     }
 
 private:
-    /// That is shown, or the first steps.
+    /// The page that is shown, or the first steps.
     [[nodiscard]] QWidget *page()
     {
         auto *first = m_home.window().findChild<desktop::FirstTimeWizard *>();

@@ -2,7 +2,6 @@
 #include "support/suite.h"
 
 #include "desktop/household_window.h"
-#include "models/table_model.h"
 #include "widgets/table.h"
 #include "wizards/first_time_wizard.h"
 
@@ -76,14 +75,6 @@ private slots:
     }
 
 private:
-    static QStringList accounts(HouseholdWindow &desk)
-    {
-        QStringList names;
-        const workbench::AccountIndex index = desk.requests().accounts();
-        for (const accounting::Account &account : index.accounts())
-            names += index.plainName(account.code().number());
-        return names;
-    }
     static FirstTimeWizard *wizard(HouseholdWindow &desk)
     {
         return desk.window().findChild<FirstTimeWizard *>();

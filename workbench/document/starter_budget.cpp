@@ -3,6 +3,7 @@
 
 #include "workbench/internal/faults.h"
 #include "workbench/requests/item_changes.h"
+#include "workbench/requests/settings.h"
 
 #include "budgeting/budgeted_money.h"
 #include "foundation/clock.h"
@@ -98,16 +99,12 @@ std::optional<QDate> comingDay(const StarterChoice &choice, QDate today)
 
 void fillIn(Requests &requests, const StarterAnswers &answers)
 {
-    auto preferences = std::get<navigation::ConfigurationData>(
-        requests.ask(&Navigator::showConfigure, &Navigator::onPrepareShowConfigure));
+    navigation::ConfigurationData preferences = presentSettings(requests);
     if (answers.preferred)
         preferences.preferredCurrency = *answers.preferred;
     preferences.usableCurrencies.insert(preferences.preferredCurrency);
     // The Navigator stores them, too, but not before it knows the balance.
-    navigation::UserPreferences stored(std::nullopt);
-    stored.setPreferredCurrency(preferences.preferredCurrency);
-    stored.setUsableCurrencies(preferences.usableCurrencies);
-    stored.setCurrenciesDisplayAs(preferences.currenciesDisplayAs);
+    storeCurrencies(preferences);
     auto empty = qScopeGuard([&] { requests.navigator().onConfirmedNewBudgetEmpty(); });
     const banking::BankAccount account = addBank(requests, answers, preferences);
     const QDate today = foundation::today();

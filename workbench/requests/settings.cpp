@@ -5,6 +5,8 @@
 #include "workbench/entry/values.h"
 #include "workbench/internal/faults.h"
 
+#include "navigation/user_preferences.h"
+
 #include <QtCore/QRegularExpression>
 
 namespace kiv::workbench {
@@ -21,6 +23,14 @@ ConfigurationData presentSettings(Requests &requests)
 void storeSettings(Requests &requests, const ConfigurationData &settings)
 {
     requests.change(configureOutcome, &Navigator::onConfigureUpdated, settings);
+}
+
+void storeCurrencies(const ConfigurationData &settings)
+{
+    navigation::UserPreferences stored(std::nullopt);
+    stored.setPreferredCurrency(settings.preferredCurrency);
+    stored.setUsableCurrencies(settings.usableCurrencies);
+    stored.setCurrenciesDisplayAs(settings.currenciesDisplayAs);
 }
 
 void prefer(ConfigurationData &settings, const numira::Currency &currency)

@@ -15,6 +15,9 @@ presentSettings(Requests &requests);
 /// Stores them. Throws a Refusal with the Navigator's reason; nothing is stored then.
 KIV_WORKBENCH_EXPORT void storeSettings(Requests &requests,
                                         const navigation::ConfigurationData &settings);
+/// Stores the preferred currency, the usable ones and how they are named, and nothing else of the
+/// settings. Checks nothing: for those of before, or of a budget that is being made.
+KIV_WORKBENCH_EXPORT void storeCurrencies(const navigation::ConfigurationData &settings);
 
 /// Chooses the currency of amounts without one. It becomes usable.
 KIV_WORKBENCH_EXPORT void prefer(navigation::ConfigurationData &settings,

@@ -7,8 +7,6 @@
 
 #include "workbench/requests/settings.h"
 
-#include "navigation/user_preferences.h"
-
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
@@ -50,29 +48,6 @@ workbench::NewName nameIn(const QLineEdit &edit)
     workbench::readValue(edit.text(), name);
     return name;
 }
-
-/// The currencies of the settings, which the wizard stores before it makes a budget. They go on
-/// for the budget that is open; the first start has none.
-class FormerCurrencies {
-public:
-    explicit FormerCurrencies(Desk &desk)
-    {
-        if (!desk.document().file().isEmpty())
-            m_settings = workbench::presentSettings(desk.requests());
-    }
-    void putBack() const
-    {
-        if (!m_settings)
-            return;
-        navigation::UserPreferences stored(std::nullopt);
-        stored.setPreferredCurrency(m_settings->preferredCurrency);
-        stored.setUsableCurrencies(m_settings->usableCurrencies);
-        stored.setCurrenciesDisplayAs(m_settings->currenciesDisplayAs);
-    }
-
-private:
-    std::optional<navigation::ConfigurationData> m_settings;
-};
 
 } // namespace
 
@@ -309,7 +284,10 @@ void FirstTimeWizard::finish()
     }
     m_answers.items = m_household->items();
     bool isFilled = false;
-    const FormerCurrencies former(m_desk);
+    // Others are stored before the budget is made, and these go on for the one that is open.
+    std::optional<navigation::ConfigurationData> former;
+    if (!m_desk.document().file().isEmpty())
+        former = workbench::presentSettings(m_desk.requests());
     try {
         m_session.makeFilled(
             QFileInfo(m_file->text()).absoluteFilePath(),
@@ -328,7 +306,8 @@ void FirstTimeWizard::finish()
         } else {
             m_household->complain(sentence);
         }
-        former.putBack();
+        if (former)
+            workbench::storeCurrencies(*former);
     }
 }
 
