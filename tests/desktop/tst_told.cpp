@@ -31,16 +31,18 @@ QString documents()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-/// What a line begins with, and the parts, in lines that can be read.
+/// What a line begins with, and the parts, in lines that can be read; no step is broken.
 QByteArray inLines(const QString &begin, const QStringList &told)
 {
-    QString text = begin + u" ⇒"_s;
-    qsizetype used = text.size();
-    for (QString part : told.isEmpty() ? QStringList{u"nothing"_s} : told) {
-        part.replace(u'\n', u" / "_s);
-        const bool isNew = used + part.size() > lineMax;
-        text += (isNew ? u"\n"_s : text.endsWith(u'⇒') ? u" "_s : u" · "_s) + part;
-        used = (isNew ? 0 : used + 3) + part.size();
+    QString text = begin + u" ⇒ "_s + (told.isEmpty() ? u"nothing"_s : told.join(u" · "_s));
+    text.replace(u'\n', u" / "_s);
+    qsizetype first = 0;
+    while (text.size() - first > lineMax) {
+        const qsizetype end = std::max(text.lastIndexOf(u' ', first + lineMax), begin.size() + 2);
+        if (end < first)
+            break; // a word that is longer than a line
+        text[end] = u'\n';
+        first = end + 1;
     }
     return text.toUtf8() + '\n';
 }
@@ -242,7 +244,7 @@ private slots:
                 desk->undoAll();
             if (isPart)
                 desk.emplace(rest);
-            if (line.startsWith(u'#'))
+            if (isPart || line.startsWith(u"# "))
                 told += line.toUtf8() + '\n';
             if (!line.startsWith(u"$ "))
                 continue;
