@@ -54,9 +54,12 @@ private:
             const auto names = QMetaEnum::fromType<decltype(ink.style())>();
             return ink.style() == 0 ? QString()
                                     : u" %1 %2"_qs.arg(QLatin1String(names.valueToKey(ink.style())),
-                                                       ink.color().name());
+                                                       ink.color().name(QColor::HexArgb));
         };
-        m_things[things + named(painter()->pen()) + named(painter()->brush())] += count;
+        const QString width = painter()->pen().widthF() == 1
+                                  ? QString()
+                                  : u" of %1"_qs.arg(painter()->pen().widthF());
+        m_things[things + named(painter()->pen()) + width + named(painter()->brush())] += count;
     }
 
     QWidget &m_widget;

@@ -30,7 +30,7 @@ inline QString rowText(const QAbstractItemView &view, const std::function<QVaria
 }
 
 /// Its text and what one would not expect: that a number stands left («) or another text right (»),
-/// that it is bold (*) or has a colour (°).
+/// that it is bold (*) or has a colour (°), as only what is refused has otherwise.
 inline QString cellText(const QModelIndex &cell)
 {
     static const QRegularExpression number(u"^[-+]?[^\\w\\s]?[\\d.,]+( [A-Z]{3}| %)?$"_qs);
@@ -62,16 +62,27 @@ inline QStringList rowsOf(const QAbstractItemView &view, int rowsMax)
     return rows;
 }
 
+/// Whether its text has another colour than that of most.
+inline bool hasInk(const QWidget &widget)
+{
+    const auto inks = [](const QPalette &palette) {
+        return std::pair(palette.color(QPalette::Active, QPalette::Text),
+                         palette.color(QPalette::Active, QPalette::WindowText));
+    };
+    return inks(widget.palette()) != inks(QApplication::palette());
+}
+
 /// What a field has; nothing for what is none.
 inline QString valueOf(const QWidget &widget)
 {
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
     if (edit && edit->echoMode() != QLineEdit::Normal)
         return u"hidden"_qs;
+    const QString mark = hasInk(widget) ? u"°"_qs : QString();
     if (edit)
-        return edit->text().isEmpty() ? edit->placeholderText() : edit->text();
+        return (edit->text().isEmpty() ? edit->placeholderText() : edit->text()) + mark;
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))
-        return u"%1, %2 to choose from"_qs.arg(box->currentText()).arg(box->count());
+        return u"%1, %2 to choose from"_qs.arg(box->currentText()).arg(box->count()) + mark;
     return {};
 }
 
@@ -97,6 +108,8 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
         text = widget.accessibleName() + u": "_qs + value; // without a label
     if (text.trimmed().isEmpty())
         return {};
+    if (value.isEmpty() && hasInk(widget) != text.startsWith(u"⚠ "))
+        text += u'°';
     return {text + (widget.isEnabled() ? QString() : u" (off)"_qs)};
 }
 

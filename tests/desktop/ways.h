@@ -56,10 +56,19 @@ private:
         auto &ways = m_kinds[name];
         addProperties(widget, kind, ways);
         ways[u"bold"_qs] += widget.font().bold();
-        ways[u"large"_qs] += widget.font().pointSizeF() > QApplication::font().pointSizeF();
+        const int usual = QFontInfo(QApplication::font()).pixelSize();
+        const int size = QFontInfo(widget.font()).pixelSize();
+        ways[u"text %1 %"_qs.arg(100 * size / usual)] += size != usual;
+        ways[u"least"_qs] += widget.minimumWidth() > 0 || widget.minimumHeight() > 0;
+        ways[u"most"_qs] +=
+            std::min(widget.maximumWidth(), widget.maximumHeight()) < QWIDGETSIZE_MAX;
         const QSizePolicy policy = widget.sizePolicy();
         ++ways[u"%1×%2"_qs.arg(policy.horizontalPolicy()).arg(policy.verticalPolicy())];
-        ways[u"shown"_qs] += qobject_cast<const QHeaderView *>(&widget) && !widget.isHidden();
+        if (const auto *header = qobject_cast<const QHeaderView *>(&widget)) {
+            ways[u"shown"_qs] += !header->isHidden();
+            for (int section = 0; section < header->count(); ++section)
+                ++ways[u"section %1"_qs.arg(header->sectionResizeMode(section))];
+        }
     }
     void addProperties(const QObject &object, const QMetaObject *kind, std::map<QString, int> &ways)
     {
@@ -92,13 +101,32 @@ private:
     {
         auto &ways = m_kinds[QString::fromLatin1(layout.metaObject()->className())];
         ++ways[u"all"_qs];
-        ways[u"edged"_qs] += !layout.contentsMargins().isNull();
+        const QMargins edge = layout.contentsMargins();
+        ++ways[u"edges %1+%2+%3+%4"_qs.arg(edge.left())
+                   .arg(edge.top())
+                   .arg(edge.right())
+                   .arg(edge.bottom())];
+        ++ways[u"gaps %1"_qs.arg(layout.spacing())];
+        const auto *grid = qobject_cast<const QGridLayout *>(&layout);
         for (int at = 0; at < layout.count(); ++at) {
-            ++ways[layout.itemAt(at)->spacerItem() ? u"stretches"_qs : u"held"_qs];
+            const QSpacerItem *space = layout.itemAt(at)->spacerItem();
+            const QSize size = space ? space->sizeHint() : QSize();
+            ++ways[space ? u"space %1"_qs.arg(size.width() + size.height()) : u"held"_qs];
             if (const Qt::Alignment side = layout.itemAt(at)->alignment())
                 ++ways[u"side %1"_qs.arg(side.toInt())];
             if (const auto *box = qobject_cast<const QBoxLayout *>(&layout))
-                ways[u"stretched"_qs] += box->stretch(at) > 0;
+                ways[u"stretch"_qs] += box->stretch(at);
+            int row = 0, column = 0, rows = 0, columns = 0;
+            if (grid) {
+                grid->getItemPosition(at, &row, &column, &rows, &columns);
+                ways[u"places"_qs] += 8 * row + column;
+                ways[u"spans"_qs] += rows * columns;
+            }
+        }
+        for (int at = 0; grid && at < std::max(grid->rowCount(), grid->columnCount()); ++at) {
+            ways[u"row stretch"_qs] += at < grid->rowCount() ? at * grid->rowStretch(at) : 0;
+            ways[u"column stretch"_qs] +=
+                at < grid->columnCount() ? at * grid->columnStretch(at) : 0;
         }
     }
 
