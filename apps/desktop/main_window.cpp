@@ -259,6 +259,8 @@ void MainWindow::goTo(const Place &place)
         m_forward.clear();
     }
     Page *wanted = *found;
+    // What is left hides, and its focus would go to the list.
+    const bool isInList = m_list->hasFocus();
     const int row = static_cast<int>(found - m_pages.begin());
     const bool isOther = wanted != page();
     if (isOther)
@@ -271,8 +273,8 @@ void MainWindow::goTo(const Place &place)
     m_given.settings.setPage(wanted->id());
     m_help->setPage(wanted->id());
     if (isOther || !place.detail.isEmpty()) {
-        if (!m_list->hasFocus())
-            wanted->firstFocus()->setFocus(Qt::OtherFocusReason);
+        if (!isInList)
+            wanted->entry()->setFocus(Qt::OtherFocusReason);
         m_desk->say(wanted->title());
     }
     followFigure();
@@ -316,7 +318,7 @@ void MainWindow::goThrough(std::vector<Place> &from, std::vector<Place> &to)
 void MainWindow::focusNextPart()
 {
     QWidget *const focus = QApplication::focusWidget();
-    QWidget *const first = page()                        ? page()->firstFocus()
+    QWidget *const first = page()                        ? page()->entry()
                            : m_stack->currentIndex() > 0 ? m_wizard->firstFocus()
                                                          : m_welcome->firstFocus();
     if (focus == m_list || !m_list->isEnabled())
@@ -338,7 +340,7 @@ void MainWindow::showOpened()
         const QString last = m_given.settings.page();
         const bool isKnown = std::ranges::find(m_pages, last, &Page::id) != m_pages.end();
         goTo({isKnown ? last : m_pages.front()->id(), {}});
-        page()->firstFocus()->setFocus(Qt::OtherFocusReason);
+        page()->entry()->setFocus(Qt::OtherFocusReason);
         m_back.clear();
     } else {
         m_welcome->refresh();

@@ -68,9 +68,8 @@ inline void press(HouseholdWindow &home, Qt::Key key, Qt::KeyboardModifiers modi
 {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     // A button that was pressed by its letter is released a moment later.
-    const QWidget *page = home.window().page();
-    const auto buttons = (page ? page : &home.window())->findChildren<QAbstractButton *>();
-    QTRY_VERIFY(std::ranges::none_of(buttons, &QAbstractButton::isDown));
+    QTRY_VERIFY(std::ranges::none_of(home.window().findChildren<QAbstractButton *>(),
+                                     &QAbstractButton::isDown));
 }
 inline void type(HouseholdWindow &, const QString &text)
 {

@@ -82,7 +82,7 @@ inline QString valueOf(const QWidget &widget)
     if (edit)
         return (edit->text().isEmpty() ? edit->placeholderText() : edit->text()) + mark;
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))
-        return u"%1, %2 to choose from"_qs.arg(box->currentText()).arg(box->count()) + mark;
+        return u"%1 (of %2)"_qs.arg(box->currentText()).arg(box->count()) + mark;
     return {};
 }
 

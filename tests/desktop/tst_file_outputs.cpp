@@ -52,21 +52,6 @@ private slots:
         QVERIFY(home.questions().asked.last().contains(u"is damaged."_s));
     }
 
-    void savingAsGoesOnInTheOtherFile()
-    {
-        SmallHousehold home;
-        home.begin();
-        const QString first = home.document().file();
-        home.questions().files = {first, home.path(u"other.budget"_s)};
-        home.trigger("saveAs");
-        QCOMPARE(home.document().file(), first); // it is there already
-        QCOMPARE(home.notices().size(), 1);
-        home.trigger("saveAs");
-        QCOMPARE(home.document().file(), home.path(u"other.budget"_s));
-        QCOMPARE(home.window().windowTitle(), u"other (saved)"_s);
-        QCOMPARE(home.notices(), QStringList());
-    }
-
     void everyPageHasItsPartOfTheManual()
     {
         SmallHousehold home;

@@ -5,7 +5,9 @@
 #include "desktop/household_window.h"
 #include "support/accounting.h"
 #include "support/full_disk.h"
+#include "wizards/first_time_wizard.h"
 
+#include "navigation/user_preferences.h"
 #include "storage/budget_file.h"
 
 #include <QtWidgets/QLineEdit>
@@ -51,15 +53,17 @@ private slots:
         QVERIFY(QFile::exists(desk.path(u"home.budget"_s)));
         QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
         QCOMPARE(desk.settings().recentFiles(), QStringList{desk.path(u"home.budget"_s)});
+    }
 
-        // The same name again is refused, and the open budget stays.
-        addAccount(desk.document(), u"Food"_s);
-        QTRY_COMPARE(desk.window().windowTitle(), u"home (saved)"_s);
-        desk.questions().files = {desk.path(u"home"_s)};
-        desk.trigger("new");
-        QVERIFY(has(desk.document(), u"Food"_s));
-        QCOMPARE(desk.notices().size(), 1);
-        QVERIFY(desk.notices().first().contains(u"home.budget"_s));
+    void theFirstStepsAreLeftForGood()
+    {
+        HouseholdWindow desk;
+        desk.show();
+        auto *wizard = desk.window().findChild<desktop::FirstTimeWizard *>();
+        QTRY_VERIFY(wizard->isVisible());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(!wizard->isVisible());
+        QVERIFY(navigation::UserPreferences(std::nullopt).doesExist());
     }
 
     void closingWritesWhatIsPending()

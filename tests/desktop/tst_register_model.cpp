@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "desktop/follower.h"
 #include "models/register_filter.h"
 #include "support/accounting.h"
 #include "support/preferences_store.h"
@@ -28,8 +29,8 @@ private slots:
         m_shown = account == 0 ? std::nullopt : std::optional(AccountNumber(account));
         RegisterModel model(account == 0);
         RegisterFilter filter(model);
-        QAbstractItemModelTester modelTester(&model);
-        QAbstractItemModelTester filterTester(&filter);
+        kiv::test::Follower shown(model);
+        kiv::test::Follower found(filter);
         workbench::Document document(kiv::test::surroundings({}));
         m_requests = &document.requests();
         addAccounts();
@@ -46,6 +47,7 @@ private slots:
             change(random);
             show(model);
             compare(model, filter, step >= 60);
+            QVERIFY(shown.isTrue() && found.isTrue());
             for (const auto &[number, place] : kept) {
                 const int row = model.rowOf(number);
                 if (row >= 0 && model.transaction(row).occurredOn() == place.second)

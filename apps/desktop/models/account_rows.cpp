@@ -48,7 +48,7 @@ Row rowOf(const GroupedAccount &one, const Known &known, bool showsTerms)
             {{name},
              {one.bank ? one.bank->institution() : QString()},
              amountCell(one.account.balance(), known.displayAs),
-             isShared ? amountCell(one.whole, known.displayAs) : Cell{{}, {}, true},
+             isShared ? amountCell(one.whole, known.displayAs) : Cell{},
              reconciledCell(number, known)}};
     if (showsTerms) {
         row.cells.push_back({keyOf(number)});

@@ -38,16 +38,14 @@ Row rowOf(const QString &key, const BankTarget &target, const workbench::Account
 {
     const QString bank = target.bank.institution();
     if (!target.account)
-        return {key,
-                {{bank}, {QObject::tr("bank")}, Cell{{}, {}, true}, {openText(target.isClosed)}},
-                false,
-                true};
+        return {
+            key, {{bank}, {QObject::tr("bank")}, Cell{}, {openText(target.isClosed)}}, false, true};
     const accounting::Account *account = index.find(*target.account);
     const QString name = index.plainName(*target.account);
     return {key,
             {{QStringLiteral("    ") + name, QObject::tr("%1 at %2").arg(name, bank)},
              {banking::presentationText(target.kind)},
-             account ? amountCell(account->balance(), displayAs) : Cell{{}, {}, true},
+             account ? amountCell(account->balance(), displayAs) : Cell{},
              difference.isEmpty()
                  ? Cell{openText(target.isClosed)}
                  : Cell{QStringLiteral("%1, %2").arg(openText(target.isClosed), difference),

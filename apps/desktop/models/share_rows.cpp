@@ -30,7 +30,7 @@ Row rowOf(const SheetLine &line, const SurveySheet &sheet,
           navigation::CurrencyDisplayOptions displayAs)
 {
     const auto cell = [displayAs](const std::optional<numira::Money> &amount) {
-        return amount ? amountCell(*amount, displayAs) : Cell{{}, {}, true};
+        return amount ? amountCell(*amount, displayAs) : Cell{};
     };
     const std::optional<workbench::SetAsideParts> &parts = line.line.parts;
     const auto part = [&](auto which) {

@@ -183,15 +183,14 @@ std::vector<Row> reconciliationRows(workbench::Document &document)
         Cell state{QObject::tr("unchanged since")};
         if (!one.holds())
             state = {QObject::tr("changed since"), {}, false, Colour::Warning};
-        rows.push_back(
-            {QString::number(rows.size()),
-             {{index.plainName(one.account.account.number)},
-              {one.account.bank.institution()},
-              dayCell(one.day),
-              amountCell(one.balance, displayAs),
-              isLast ? amountCell(survey->nonDistributed(), displayAs) : Cell{{}, {}, true},
-              {QLocale().toString(qulonglong{one.transactions}), {}, true},
-              state}});
+        rows.push_back({QString::number(rows.size()),
+                        {{index.plainName(one.account.account.number)},
+                         {one.account.bank.institution()},
+                         dayCell(one.day),
+                         amountCell(one.balance, displayAs),
+                         isLast ? amountCell(survey->nonDistributed(), displayAs) : Cell{},
+                         {QLocale().toString(qulonglong{one.transactions}), {}, true},
+                         state}});
     }
     std::ranges::reverse(rows);
     return rows;

@@ -124,6 +124,12 @@ QWidget *DuePage::firstFocus()
     return m_table;
 }
 
+void DuePage::forgetFile()
+{
+    m_message->withdraw();
+    forgetTyping();
+}
+
 void DuePage::refresh()
 {
     m_due = shownDue(desk().document(), m_said);

@@ -33,6 +33,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
 
 private:
     void build();

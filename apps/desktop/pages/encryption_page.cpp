@@ -49,16 +49,19 @@ EncryptionPage::EncryptionPage(Desk &desk)
             field->setEchoMode(m_isShown->isChecked() ? QLineEdit::Normal : QLineEdit::Password);
     };
     connect(m_isShown, &QCheckBox::toggled, this, show);
-    connect(m_form, &Form::givenUp, this, [this] {
-        m_first->clear();
-        m_second->clear();
-    });
+    connect(m_form, &Form::givenUp, this, &EncryptionPage::forgetFile);
     show();
 }
 
 QWidget *EncryptionPage::firstFocus()
 {
     return m_first;
+}
+
+void EncryptionPage::forgetFile()
+{
+    m_first->clear();
+    m_second->clear();
 }
 
 void EncryptionPage::refresh()
@@ -115,8 +118,7 @@ void EncryptionPage::encrypt()
         desk().keepPassphrase(document.file(), m_first->text());
     else
         desk().forgetPassphrase(document.file());
-    m_first->clear();
-    m_second->clear();
+    forgetFile();
     sentences.removeAll(QString());
     const QString notice = QStringLiteral("encryption");
     desk().notices().remove(notice);

@@ -25,6 +25,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
 
 private:
     void encrypt();

@@ -230,11 +230,22 @@ void EntryRow::clearFields()
 
 void EntryRow::giveUp()
 {
+    startAnew();
+    emit leaving();
+}
+
+void EntryRow::startAnew()
+{
     setTask(Task::Enter, std::nullopt);
     m_message->withdraw();
     clearFields();
     m_fields->day().setDay(foundation::today());
-    emit leaving();
+}
+
+void EntryRow::forgetFile()
+{
+    startAnew();
+    m_fields->own().setAccount(std::nullopt);
 }
 
 // ---- what follows from what is typed -----------------------------------------------

@@ -33,6 +33,8 @@ public:
     /// Says why nothing can be entered, or lets it be.
     void allow(const std::optional<QString> &whyNot);
 
+    /// Forgets what was typed or begun, and the account of the entry before.
+    void forgetFile();
     /// Begins a new transaction, and gets the focus.
     void begin(workbench::EntryForm form);
     /// Loads the transaction, to change it.
@@ -63,6 +65,7 @@ private:
     void load(const workbench::Entry &entry);
     void clearFields();
     void giveUp();
+    void startAnew();
     void submit();
     void enter();
     void change(accounting::TransactionNumber number);

@@ -55,6 +55,7 @@ protected:
     [[nodiscard]] Table &table() const noexcept { return *m_table; }
     [[nodiscard]] TableModel &model() const noexcept { return *m_model; }
 
+    void forgetFile() override { closeForm(); }
     /// Makes a change of the row that is chosen. A refusal is shown above the buttons.
     bool perform(const workbench::Deed &deed, const std::function<void()> &work);
 

@@ -193,15 +193,26 @@ void OutlookPage::ask()
     desk().say(m_told->text());
 }
 
+void OutlookPage::forgetFile()
+{
+    clearFields();
+    m_asked = {};
+}
+
 void OutlookPage::startAgain()
+{
+    clearFields();
+    ask();
+    firstFocus()->setFocus(Qt::OtherFocusReason);
+}
+
+void OutlookPage::clearFields()
 {
     m_form->message().withdraw();
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_floor), static_cast<QLineEdit *>(m_without),
                              static_cast<QLineEdit *>(m_amount), static_cast<QLineEdit *>(m_day)})
         field->clear();
     m_days->setText(QString::number(workbench::OutlookDays().count));
-    ask();
-    firstFocus()->setFocus(Qt::OtherFocusReason);
 }
 
 void OutlookPage::leaveOut(const QString &payment)

@@ -34,6 +34,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
 
 private:
     void build();
@@ -47,6 +48,7 @@ private:
     void ask();
     /// Empties the fields, and looks ahead.
     void startAgain();
+    void clearFields();
     /// Leaves the item of the payment out.
     void leaveOut(const QString &payment);
     void show(const Asked &asked);

@@ -29,6 +29,14 @@ QStringList Page::parts() const
     return {};
 }
 
+QWidget *Page::entry()
+{
+    QWidget *const first = firstFocus();
+    return first->isVisibleTo(this) && first->isEnabled() ? first : this;
+}
+
+void Page::forgetFile() {}
+
 Explain Page::explanation()
 {
     return {};
@@ -40,7 +48,13 @@ void Page::bringUpToDate()
         return;
     const QString notice = QStringLiteral("page ") + m_id;
     m_desk.notices().remove(notice);
-    if (const auto refused = refusalOf([this] { refresh(); }))
+    const auto work = [this] {
+        const QString &file = m_desk.document().file();
+        if (std::exchange(m_file, file) != file)
+            forgetFile();
+        refresh();
+    };
+    if (const auto refused = refusalOf(work))
         m_desk.notices().add(
             {notice, tr("The page “%1” cannot be shown: %2").arg(m_title, *refused), {}});
 }

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] virtual Explain explanation();
     /// The widget that gets the focus when the page is shown.
     [[nodiscard]] virtual QWidget *firstFocus() = 0;
+    /// The same, or the page itself, which has its name, while that is hidden or off.
+    [[nodiscard]] QWidget *entry();
 
     /// Asks for the page's data if it is stale; the window calls this too.
     void bringUpToDate();
@@ -46,6 +48,8 @@ signals:
 protected:
     /// Asks for the data and shows them. What it throws is shown instead of them.
     virtual void refresh() = 0;
+    /// Forgets what was typed and begun for another file; refresh() follows.
+    virtual void forgetFile();
 
     [[nodiscard]] Desk &desk() const noexcept { return m_desk; }
     [[nodiscard]] workbench::Requests &requests() const { return m_desk.requests(); }
@@ -55,6 +59,7 @@ private:
     Desk &m_desk;
     QString m_id;
     QString m_title;
+    QString m_file; ///< that it is about
     bool m_isStale = true;
 };
 

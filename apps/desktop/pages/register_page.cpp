@@ -213,6 +213,12 @@ void RegisterPage::allowActions()
 
 // ---- what is shown -----------------------------------------------------------------
 
+void RegisterPage::forgetFile()
+{
+    m_filter->setText({});
+    m_entry->forgetFile();
+}
+
 void RegisterPage::refresh()
 {
     m_accounts = std::make_shared<const workbench::AccountIndex>(requests().accounts());

@@ -38,6 +38,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
     void hideEvent(QHideEvent *event) override;
     void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -217,11 +217,14 @@ QWidget *ReportsPage::firstFocus()
     return m_chart->isHidden() ? static_cast<QWidget *>(m_by) : m_chart;
 }
 
+void ReportsPage::forgetFile()
+{
+    clearFields();
+}
+
 void ReportsPage::refresh()
 {
     offerCurrencies();
-    if (std::exchange(m_file, desk().document().file()) != m_file)
-        clearFields();
     if (ask())
         return;
     // The books have changed, so what was shown is not true any longer.

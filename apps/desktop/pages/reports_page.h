@@ -39,6 +39,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
 
 private:
     void build();
@@ -85,7 +86,6 @@ private:
     TableModel *m_entries;
     Table *m_entryTable;
     QLabel *m_rates;
-    QString m_file; ///< to which the fields belong
     std::unique_ptr<const workbench::BudgetReport> m_report;
     std::optional<workbench::Grouping> m_grouping; ///< of the report that is shown
     std::vector<workbench::ReportLine> m_shown;

@@ -179,13 +179,14 @@ QWidget *SurveyPage::firstFocus()
     return first ? first : m_tabs;
 }
 
+void SurveyPage::forgetFile()
+{
+    m_drafts.forgetAll();
+    m_shown.reset();
+}
+
 void SurveyPage::refresh()
 {
-    const QString budget = desk().document().file();
-    if (std::exchange(m_budget, budget) != budget) {
-        m_drafts.forgetAll();
-        m_shown.reset();
-    }
     m_statement->offerAccounts();
     if (m_statement->dayField().text().isEmpty())
         m_statement->dayField().setDay(foundation::today());

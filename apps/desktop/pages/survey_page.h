@@ -37,6 +37,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
 
 private:
     void connectParts();
@@ -72,7 +73,6 @@ private:
 
     SurveyDrafts m_drafts;
     std::optional<accounting::AccountNumber> m_shown; ///< the account whose texts the fields have
-    QString m_budget;                                 ///< the file that the drafts are about
     QString m_trouble;                                ///< why there is no sheet
 
     SurveyDrops *m_drops;

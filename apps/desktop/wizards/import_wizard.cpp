@@ -95,11 +95,13 @@ QWidget *ImportWizard::firstFocus()
     return m_steps->currentWidget() == m_journal ? m_journal->firstFocus() : m_file->firstFocus();
 }
 
+void ImportWizard::forgetFile()
+{
+    forget();
+}
+
 void ImportWizard::refresh()
 {
-    const QString budget = desk().document().file();
-    if (std::exchange(m_budget, budget) != budget)
-        forget();
     m_file->refresh();
     m_rows->allow();
     m_journal->allow();

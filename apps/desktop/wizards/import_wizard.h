@@ -33,6 +33,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -64,7 +65,6 @@ private:
     ImportRowsStep *m_rows;
     ImportJournalStep *m_journal;
     std::optional<workbench::ImportReading> m_reading;
-    QString m_budget;          ///< the file that was open
     bool m_isOutdated = false; ///< whether the books have changed since the comparison
     bool m_isImporting = false;
 };
