@@ -70,6 +70,7 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     connect(m_desk, &Desk::placeWanted, this, &MainWindow::goTo);
     connect(m_desk, &Desk::looksChanged, this, &MainWindow::applyLooks);
     connect(m_desk, &Desk::refreshWanted, this, &MainWindow::followFigure);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::keepFocusInPage);
     if (!restoreGeometry(m_given.settings.state(windowKey)))
         resize(1000, 560);
     showOpened();
@@ -259,8 +260,6 @@ void MainWindow::goTo(const Place &place)
         m_forward.clear();
     }
     Page *wanted = *found;
-    // What is left hides, and its focus would go to the list.
-    const bool isInList = m_list->hasFocus();
     const int row = static_cast<int>(found - m_pages.begin());
     const bool isOther = wanted != page();
     if (isOther)
@@ -273,7 +272,7 @@ void MainWindow::goTo(const Place &place)
     m_given.settings.setPage(wanted->id());
     m_help->setPage(wanted->id());
     if (isOther || !place.detail.isEmpty()) {
-        if (!isInList)
+        if (!m_list->hasFocus())
             wanted->entry()->setFocus(Qt::OtherFocusReason);
         m_desk->say(wanted->title());
     }
@@ -313,6 +312,20 @@ void MainWindow::goThrough(std::vector<Place> &from, std::vector<Place> &to)
     m_forward = std::move(forward);
     from.pop_back();
     to.push_back(left);
+}
+
+void MainWindow::keepFocusInPage(QWidget *former, const QWidget *present)
+{
+    if (present != m_list || !former || (former->isVisible() && former->isEnabled()))
+        return;
+    // When the page is shown as a whole, if nobody has moved on by then.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_list->hasFocus() && page())
+                page()->entry()->setFocus(Qt::OtherFocusReason);
+        },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::focusNextPart()

@@ -62,6 +62,8 @@ private:
     void addPaletteSources();
     void applyLooks();
     void showOpened();
+    /// What hides or is off gives the focus to what comes next, which may be the list of pages.
+    void keepFocusInPage(QWidget *former, const QWidget *present);
     void showWizard();
     void showTitle();
     void goThrough(std::vector<Place> &from, std::vector<Place> &to);
