@@ -89,6 +89,7 @@ public:
     explicit Desk(const QString &place)
     {
         m_home.begin();
+        m_home.window().resize(1024, 600);
         m_home.show();
         m_start = m_home.document().present();
         for (const QTableView *table : m_home.window().findChildren<QTableView *>())
@@ -96,8 +97,8 @@ public:
         m_home.window().goTo(desktop::Place::fromText(place));
         (void)news();
     }
-    /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, "file FILE" for the
-    /// one that is asked for next, "read FILE TEXT" for an import, and keys.
+    /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, "file FILE TEXT" for
+    /// the one that is asked for next, "read FILE TEXT" for an import, and keys.
     void step(const QString &steps)
     {
         for (QString one : steps.split(u"; "_s)) {
@@ -110,10 +111,9 @@ public:
             else if (one.startsWith(u"at "))
                 at(rest);
             else if (one.startsWith(u"file "))
-                m_home.questions().files = {m_home.path(rest)};
+                m_home.questions().files = {fileOf(rest)};
             else if (one.startsWith(u"read "))
-                m_home.beginImport(rest.section(u' ', 0, 0),
-                                   rest.section(u' ', 1).replace(u'|', u'\n').toUtf8(), "");
+                m_home.beginImport(rest.section(u' ', 0, 0), bytesOf(rest), "");
             else if (one.startsWith(u'='))
                 test::enter(m_home, one.mid(1));
             else
@@ -134,6 +134,10 @@ public:
                 told += u"shown otherwise when all is refreshed: "_s +
                         newsOf(shown(), told).join(u", "_s);
         }
+        for (int again = 0; again < 4; ++again) // what wraps needs another layout
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        for (const QString &misfit : test::misfits(m_home.window()))
+            told += u"misfit: "_s + misfit;
         for (test::Follower *follower : m_followers) {
             if (!follower->isTrue())
                 told += u"not all that changed is called changed"_s;
@@ -149,6 +153,9 @@ public:
         round += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
         const auto deed = m_home.document().undoable();
         round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
+        const auto actions = m_home.window().findChildren<QAction *>();
+        const auto offered = std::ranges::count_if(actions, &QAction::isEnabled);
+        round += u"%1 actions"_s.arg(offered);
         round += u"at "_s + focused();
         if (const auto *offers = qobject_cast<QListView *>(QApplication::activePopupWidget()))
             round += u"offered: "_s + test::rowsOf(*offers, rowsMax).join(u", "_s);
@@ -172,6 +179,16 @@ public:
     }
 
 private:
+    /// What stands behind the file's name; a line each.
+    [[nodiscard]] static QByteArray bytesOf(const QString &step)
+    {
+        return step.section(u' ', 1).replace(u'|', u'\n').toUtf8();
+    }
+    [[nodiscard]] QString fileOf(const QString &step) const
+    {
+        const QString name = step.section(u' ', 0, 0);
+        return name == step ? m_home.path(name) : m_home.write(name, bytesOf(step));
+    }
     /// The page that is shown, or the first steps.
     [[nodiscard]] QWidget *page()
     {

@@ -36,7 +36,6 @@ public:
     /// Besides Qt's roles.
     enum Role : int {
         SortRole = Qt::UserRole, ///< a value that sorts as people expect
-        NegativeRole,            ///< whether the value is below zero
         SectionRole              ///< a Section, as an integer
     };
 
@@ -132,6 +131,8 @@ private:
     [[nodiscard]] QString spoken(const accounting::Transaction &transaction, int row,
                                  Column column) const;
     [[nodiscard]] QString spokenRow(const accounting::Transaction &transaction, int row) const;
+    /// The colour of a cell's text; none where it is the usual one.
+    [[nodiscard]] QVariant ink(int row, Column column) const;
     [[nodiscard]] QString otherText(const accounting::Transaction &transaction) const;
     [[nodiscard]] numira::Money signedAmount(const accounting::Transaction &transaction) const;
     [[nodiscard]] numira::Money balance(int row) const;

@@ -2,10 +2,14 @@
 // What the cells of the register show and tell.
 #include "models/register_model.h"
 
+#include "widgets/colours.h"
+
 #include "workbench/entry/money_text.h"
 #include "workbench/requests/entry_forms.h"
 
 #include "foundation/local_dates.h"
+
+#include <QtGui/QGuiApplication>
 
 #include <algorithm>
 
@@ -74,14 +78,25 @@ QVariant RegisterModel::data(const QModelIndex &index, int role) const
                                                             : Qt::AlignLeft | Qt::AlignVCenter);
     case SortRole:
         return sortValue(transaction(row), row, column);
-    case NegativeRole:
-        return (column == Column::Balance && m_account && balance(row).isNegative()) ||
-               (column == Column::Amount && signedAmount(transaction(row)).isNegative());
+    case Qt::ForegroundRole:
+        return ink(row, column);
     case SectionRole:
         return static_cast<int>(section(row));
     default:
         return {};
     }
+}
+
+QVariant RegisterModel::ink(int row, Column column) const
+{
+    const bool isNegative =
+        (column == Column::Balance && m_account && balance(row).isNegative()) ||
+        (column == Column::Amount && signedAmount(transaction(row)).isNegative());
+    if (isNegative)
+        return colour(Colour::Negative, QGuiApplication::palette());
+    if (section(row) == Section::Ahead)
+        return colour(Colour::Faint, QGuiApplication::palette());
+    return {};
 }
 
 QString RegisterModel::otherText(const Transaction &transaction) const

@@ -11,6 +11,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace kiv::desktop {
 namespace {
 
@@ -25,7 +27,7 @@ Form::Form(Desk &desk, QWidget *parent)
       m_heading(new QLabel(this)),
       m_fields(new QFormLayout),
       m_message(new FieldMessage(this)),
-      m_row(new QHBoxLayout)
+      m_foot(new QHBoxLayout)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -36,8 +38,8 @@ Form::Form(Desk &desk, QWidget *parent)
     layout->addWidget(m_heading);
     layout->addLayout(m_fields);
     layout->addWidget(m_message);
-    layout->addLayout(m_row);
-    m_row->addStretch();
+    layout->addLayout(m_foot);
+    m_foot->addStretch();
     // A label stands above a field that would otherwise be cut off.
     m_fields->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_fields->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
@@ -57,7 +59,9 @@ void Form::addField(const QString &id, const QString &label, QWidget *field)
     // The widest field makes room for all.
     field->setSizePolicy(QSizePolicy::Expanding, field->sizePolicy().verticalPolicy());
     widen(*field);
-    m_fields->addRow(label, field);
+    m_rows.push_back({new QLabel(label, this), field});
+    m_rows.back().label->setBuddy(field);
+    m_fields->addRow(m_rows.back().label, field);
 }
 
 void Form::widen(QWidget &field) const
@@ -72,21 +76,37 @@ void Form::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::FontChange)
         return;
-    for (int row = 0; row < m_fields->rowCount(); ++row) {
-        if (QLayoutItem *item = m_fields->itemAt(row, QFormLayout::FieldRole))
-            widen(*item->widget());
-    }
+    for (const Row &row : m_rows)
+        widen(*row.field);
+}
+
+Form::Row &Form::rowOf(const QWidget &field)
+{
+    return *std::ranges::find(m_rows, &field, &Row::field);
 }
 
 void Form::setShown(QWidget &field, bool isShown)
 {
-    m_fields->setRowVisible(&field, isShown);
+    Row &row = rowOf(field);
+    if (std::exchange(row.isShown, isShown) == isShown)
+        return;
+    // One that is only hidden would take the height of another that is shown before it (Qt 6.4,
+    // where labels may stand above their fields).
+    if (isShown) {
+        const auto place = std::ranges::count(m_rows.data(), &row, true, &Row::isShown);
+        m_fields->insertRow(static_cast<int>(place), row.label, row.field);
+    } else {
+        const QFormLayout::TakeRowResult taken = m_fields->takeRow(row.field);
+        delete taken.labelItem;
+        delete taken.fieldItem;
+    }
+    row.label->setVisible(isShown);
+    row.field->setVisible(isShown);
 }
 
 void Form::setLabel(QWidget &field, const QString &label)
 {
-    if (auto *shown = qobject_cast<QLabel *>(m_fields->labelForField(&field)))
-        shown->setText(label);
+    rowOf(field).label->setText(label);
 }
 
 QPushButton *Form::addButton(const QString &id, const QString &text,
@@ -95,17 +115,15 @@ QPushButton *Form::addButton(const QString &id, const QString &text,
     auto *button = new QPushButton(text, this);
     button->setObjectName(id);
     connect(button, &QPushButton::clicked, this, run);
-    m_row->insertWidget(static_cast<int>(m_buttons.size()), button);
+    m_foot->insertWidget(static_cast<int>(m_buttons.size()), button);
     m_buttons += button;
     return button;
 }
 
 void Form::allow(const std::optional<QString> &whyNot)
 {
-    for (int row = 0; row < m_fields->rowCount(); ++row) {
-        if (QLayoutItem *item = m_fields->itemAt(row, QFormLayout::FieldRole))
-            desktop::allow(*item->widget(), whyNot);
-    }
+    for (const Row &row : m_rows)
+        desktop::allow(*row.field, whyNot);
     for (QPushButton *button : m_buttons)
         desktop::allow(*button, whyNot);
 }

@@ -18,15 +18,6 @@ int sectionOf(const QModelIndex &index)
 
 RegisterDelegate::RegisterDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
 
-void RegisterDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
-{
-    QStyledItemDelegate::initStyleOption(option, index);
-    if (index.data(RegisterModel::NegativeRole).toBool())
-        option->palette.setColor(QPalette::Text, colour(Colour::Negative, option->palette));
-    else if (sectionOf(index) == static_cast<int>(RegisterModel::Section::Ahead))
-        option->palette.setColor(QPalette::Text, colour(Colour::Faint, option->palette));
-}
-
 void RegisterDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const
 {

@@ -5,8 +5,8 @@
 
 namespace kiv::desktop {
 
-/// Paints the cells of the register as usual, negative amounts in their colour, and a
-/// line below the last reconciliation and below today.
+/// Paints the cells of the register as usual, and a line below the last reconciliation and
+/// below today.
 class RegisterDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -15,9 +15,6 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };
 
 } // namespace kiv::desktop
