@@ -89,15 +89,10 @@ std::optional<storage::Passphrase> EncryptionPage::typed()
         m_form->read(*m_first, [this] { return storage::Passphrase(m_first->text()); });
     if (!passphrase)
         return std::nullopt;
-    const bool isSame =
-        m_form
-            ->read(*m_second,
-                   [&] {
-                       if (m_second->text() != m_first->text())
-                           throw workbench::Refusal(tr("This is not the same passphrase."));
-                       return true;
-                   })
-            .has_value();
+    const bool isSame = m_form->read(*m_second, [&] {
+        if (m_second->text() != m_first->text())
+            throw workbench::Refusal(tr("This is not the same passphrase."));
+    });
     return isSame ? passphrase : std::nullopt;
 }
 

@@ -44,14 +44,22 @@ public:
     /// Allows all fields and buttons, or says why they cannot be used now.
     void allow(const std::optional<QString> &whyNot);
 
-    /// What `read` returns. A refusal is shown at the field, and nothing returned.
+    /// What `read` returns, or whether it was done if that is nothing. A refusal is shown at the
+    /// field, and nothing returned.
     template <typename Read>
-    auto read(QWidget &field, Read &&read) -> std::optional<std::invoke_result_t<Read>>
+    auto read(QWidget &field, Read &&read)
     {
-        std::optional<std::invoke_result_t<Read>> result;
-        if (const auto refused = refusalOf([&] { result.emplace(read()); }))
-            m_message->complain(&field, *refused);
-        return result;
+        using Result = std::invoke_result_t<Read>;
+        if constexpr (std::is_void_v<Result>) {
+            const auto refused = refusalOf(read);
+            if (refused)
+                m_message->complain(&field, *refused);
+            return !refused;
+        } else {
+            std::optional<Result> result;
+            (void)this->read(field, [&] { result.emplace(read()); });
+            return result;
+        }
     }
     /// Makes a change as Desk::perform() does. A refusal is shown at the field that is most
     /// likely at fault.

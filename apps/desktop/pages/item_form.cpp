@@ -246,11 +246,7 @@ void ItemForm::addLink(ItemValues &values) const
 std::optional<BudgetSource> ItemForm::save()
 {
     workbench::NewName name;
-    const auto hasName = m_form.read(*m_name, [&] {
-        workbench::readValue(m_name->text().trimmed(), name);
-        return true;
-    });
-    if (!hasName)
+    if (!m_form.read(*m_name, [&] { workbench::readValue(m_name->text().trimmed(), name); }))
         return std::nullopt;
     const std::optional<ItemValues> given = values();
     if (!given)

@@ -143,23 +143,18 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
     const numira::Currency preferred = requests().preferredCurrency();
     Asked asked;
     asked.question.first = foundation::today();
-    const auto isRead = [this](QWidget &field, const std::function<void()> &work) {
-        return m_form->read(field, [&work] {
-            work();
-            return true;
-        });
-    };
     const auto readOnce = [&] {
         asked.question.with.push_back({QDate(), m_amount->amount().in(preferred)});
     };
-    if (!isRead(*m_days,
-                [&] { workbench::readValue(m_days->text().trimmed(), asked.question.days); }) ||
-        !isRead(*m_floor,
-                [&] {
-                    if (!m_floor->text().trimmed().isEmpty())
-                        asked.floor = workbench::outlookFloor(m_floor->amount(), preferred);
-                }) ||
-        !isRead(*m_without, [&] {
+    if (!m_form->read(
+            *m_days,
+            [&] { workbench::readValue(m_days->text().trimmed(), asked.question.days); }) ||
+        !m_form->read(*m_floor,
+                      [&] {
+                          if (!m_floor->text().trimmed().isEmpty())
+                              asked.floor = workbench::outlookFloor(m_floor->amount(), preferred);
+                      }) ||
+        !m_form->read(*m_without, [&] {
             const workbench::BudgetView view(requests());
             for (const QString &name : m_without->names())
                 asked.question.without.insert(view.findTyped(name));
@@ -167,8 +162,8 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
         return std::nullopt;
     if (m_amount->text().trimmed().isEmpty())
         return asked;
-    if (!isRead(*m_amount, readOnce) ||
-        !isRead(*m_day, [&] { asked.question.with.back().day = m_day->day(); }))
+    if (!m_form->read(*m_amount, readOnce) ||
+        !m_form->read(*m_day, [&] { asked.question.with.back().day = m_day->day(); }))
         return std::nullopt;
     return asked;
 }
@@ -182,11 +177,7 @@ void OutlookPage::ask()
     QLineEdit *blamed = m_floor;
     if (!asked->question.with.empty())
         blamed = m_day;
-    const auto isShown = m_form->read(*blamed, [&] {
-        show(*asked);
-        return true;
-    });
-    if (!isShown)
+    if (!m_form->read(*blamed, [&] { show(*asked); }))
         return;
     m_asked = *asked;
     emit figureChosen();

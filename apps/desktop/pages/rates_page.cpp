@@ -110,11 +110,7 @@ void RatesPage::keep()
     workbench::TypedRate typed;
     const bool isRead = m_form->read(*m_currency, [&] {
         workbench::readValue(m_currency->text().trimmed(), typed.currency);
-        return true;
-    }) && m_form->read(*m_rate, [&] {
-        typed.rate = workbench::rateOf(m_rate->text());
-        return true;
-    });
+    }) && m_form->read(*m_rate, [&] { typed.rate = workbench::rateOf(m_rate->text()); });
     if (!isRead)
         return;
     const QString code = foundation::toQString(typed.currency);

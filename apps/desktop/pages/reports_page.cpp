@@ -259,7 +259,6 @@ std::optional<workbench::ReportQuestion> ReportsPage::readDays()
         return m_form->read(field, [&] {
             if (!field.text().trimmed().isEmpty())
                 take(field.day());
-            return true;
         });
     };
     if (!isRead(*m_from, [&](QDate day) { question.from = day; }) ||

@@ -206,10 +206,7 @@ void RulesPage::change()
 template <typename Field, typename Read>
 bool RulesPage::readIfTyped(Form &form, Field &field, bool isEmpty, Read &&read)
 {
-    return isEmpty || form.read(field, [&] {
-        read();
-        return true;
-    });
+    return isEmpty || form.read(field, read);
 }
 
 std::optional<ImportRule> RulesPage::typedRule()

@@ -361,11 +361,8 @@ void SurveyPage::layFile()
     if (path.isEmpty())
         return;
     const AccountNumber number = m_statement->account().value();
-    const auto isLaid = m_statement->form().read(m_statement->fileButton(), [&] {
-        m_drafts.layFile(number, path);
-        return true;
-    });
-    if (!isLaid)
+    if (!m_statement->form().read(m_statement->fileButton(),
+                                  [&] { m_drafts.layFile(number, path); }))
         return;
     bringFields(number);
     showAll();

@@ -173,13 +173,7 @@ void SurveyStatement::addUnbooked()
         return;
     const auto amount = m_unbooked->read(
         *m_unbookedAmount, [this] { return m_unbookedAmount->amount().in(m_currency); });
-    const auto isAdded = amount ? m_unbooked->read(*m_unbookedAccount,
-                                                   [&] {
-                                                       m_add(*number, *amount);
-                                                       return true;
-                                                   })
-                                : std::nullopt;
-    if (!isAdded)
+    if (!amount || !m_unbooked->read(*m_unbookedAccount, [&] { m_add(*number, *amount); }))
         return;
     m_unbooked->message().withdraw();
     m_unbookedAccount->setAccount(std::nullopt);

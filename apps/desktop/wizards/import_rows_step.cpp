@@ -128,7 +128,6 @@ void ImportRowsStep::show(ImportPreview preview)
     m_other->offer(m_accounts, m_preview->possibleOthers());
     m_notices->setText(m_preview->notices().join(u'\n'));
     m_notices->setVisible(!m_preview->notices().isEmpty());
-    m_form->message().withdraw();
     const QSignalBlocker quiet(m_filter);
     m_filter->setCurrentIndex(0);
     m_model->setRows({});
@@ -338,7 +337,6 @@ bool ImportRowsStep::takeTyped()
         return false;
     m_preview->setOther(*m_shown, *account);
     m_shownOther = m_other->currentText();
-    m_form->message().withdraw();
     showChanges();
     return true;
 }
