@@ -47,11 +47,8 @@ void CategoryRow::ask(std::size_t count, std::shared_ptr<const workbench::Accoun
 
 void CategoryRow::submit()
 {
-    try {
-        emit chosen(m_box->account(tr("Choose an item or a category.")));
-    } catch (const foundation::Error &error) {
-        m_message->complain(m_box, workbench::userText(error));
-    }
+    m_message->attempt(
+        m_box, [this] { emit chosen(m_box->account(tr("Choose an item or a category."))); });
 }
 
 void CategoryRow::keyPressEvent(QKeyEvent *event)

@@ -202,21 +202,11 @@ void DuePage::sayAccount()
     refresh();
 }
 
-bool DuePage::read(QWidget &field, const std::function<void()> &work)
-{
-    try {
-        work();
-        return true;
-    } catch (const foundation::Error &error) {
-        m_message->complain(&field, workbench::userText(error));
-        return false;
-    }
-}
-
 std::optional<QDate> DuePage::day()
 {
     QDate day;
-    return read(*m_day, [&] { day = m_day->day(); }) ? std::optional(day) : std::nullopt;
+    return m_message->attempt(m_day, [&] { day = m_day->day(); }) ? std::optional(day)
+                                                                  : std::nullopt;
 }
 
 void DuePage::pay()
@@ -245,7 +235,7 @@ void DuePage::payAmount()
     if (!on || lines.size() != 1)
         return;
     numira::Money &due = lines.front().due.amount;
-    if (!read(*m_amount, [&] { due = m_amount->amount().in(due.code()); }))
+    if (!m_message->attempt(m_amount, [&] { due = m_amount->amount().in(due.code()); }))
         return;
     const bool isDone = m_isExtra->isChecked()
                             ? m_deeds.payExtra({*m_message, m_amount}, lines.front(), *on)

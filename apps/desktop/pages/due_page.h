@@ -47,7 +47,6 @@ private:
     void forgetTyping();
     void skip();
     /// Reads a field; a refusal is shown there. Returns whether it could be read.
-    bool read(QWidget &field, const std::function<void()> &work);
     [[nodiscard]] std::vector<workbench::DueLine> chosen() const;
     [[nodiscard]] std::optional<QDate> day();
 

@@ -67,13 +67,7 @@ public:
     template <typename Read>
     [[nodiscard]] bool read(QWidget *field, Read read)
     {
-        try {
-            read();
-            return true;
-        } catch (const foundation::Error &error) {
-            m_message.complain(field, workbench::userText(error));
-            return false;
-        }
+        return m_message.attempt(field, read);
     }
 
 private:

@@ -51,13 +51,10 @@ public:
     {
         using Result = std::invoke_result_t<Read>;
         if constexpr (std::is_void_v<Result>) {
-            const auto refused = refusalOf(read);
-            if (refused)
-                m_message->complain(&field, *refused);
-            return !refused;
+            return m_message->attempt(&field, read);
         } else {
             std::optional<Result> result;
-            (void)this->read(field, [&] { result.emplace(read()); });
+            m_message->attempt(&field, [&] { result.emplace(read()); });
             return result;
         }
     }

@@ -167,21 +167,18 @@ void HistoryPage::goBack()
     if (!m_goBack->isEnabled())
         return;
     const HistoryTarget target = historyTarget(m_table->chosen().value(0));
-    try {
-        workbench::Document &document = desk().document();
-        const bool isDone = m_unlocking.withPassphrases([&] {
+    workbench::Document &document = desk().document();
+    bool isDone = false;
+    m_message->attempt(m_table, [&] {
+        isDone = m_unlocking.withPassphrases([&] {
             if (target.step)
                 document.goTo(*target.step);
             else
                 document.undoTo(target.version);
         });
-        if (!isDone)
-            return;
-    } catch (const foundation::Error &error) {
-        m_message->complain(m_table, workbench::userText(error));
-        return;
-    }
-    desk().say(tr("The budget is as it was then. Undo and redo go on from there."));
+    });
+    if (isDone)
+        desk().say(tr("The budget is as it was then. Undo and redo go on from there."));
 }
 
 } // namespace kiv::desktop

@@ -36,6 +36,15 @@ public:
 
     /// Says why; `field` is at fault.
     void complain(QWidget *field, const QString &sentence);
+    /// Runs `work`; what is refused is complained of. Returns whether it was done.
+    template <typename Work>
+    bool attempt(QWidget *field, Work &&work)
+    {
+        const auto refused = refusalOf(work);
+        if (refused)
+            complain(field, *refused);
+        return !refused;
+    }
     /// The sentence; empty without one.
     [[nodiscard]] const QString &sentence() const noexcept { return m_sentence; }
     /// Takes the sentence and the mark away.
