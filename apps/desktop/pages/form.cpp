@@ -76,24 +76,24 @@ void Form::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() != QEvent::FontChange)
         return;
-    for (const Row &row : m_rows)
+    for (const FieldRow &row : m_rows)
         widen(*row.field);
 }
 
-Form::Row &Form::rowOf(const QWidget &field)
+Form::FieldRow &Form::rowOf(const QWidget &field)
 {
-    return *std::ranges::find(m_rows, &field, &Row::field);
+    return *std::ranges::find(m_rows, &field, &FieldRow::field);
 }
 
 void Form::setShown(QWidget &field, bool isShown)
 {
-    Row &row = rowOf(field);
+    FieldRow &row = rowOf(field);
     if (std::exchange(row.isShown, isShown) == isShown)
         return;
     // One that is only hidden would take the height of another that is shown before it (Qt 6.4,
     // where labels may stand above their fields).
     if (isShown) {
-        const auto place = std::ranges::count(m_rows.data(), &row, true, &Row::isShown);
+        const auto place = std::ranges::count(m_rows.data(), &row, true, &FieldRow::isShown);
         m_fields->insertRow(static_cast<int>(place), row.label, row.field);
     } else {
         const QFormLayout::TakeRowResult taken = m_fields->takeRow(row.field);
@@ -122,7 +122,7 @@ QPushButton *Form::addButton(const QString &id, const QString &text,
 
 void Form::allow(const std::optional<QString> &whyNot)
 {
-    for (const Row &row : m_rows)
+    for (const FieldRow &row : m_rows)
         desktop::allow(*row.field, whyNot);
     for (QPushButton *button : m_buttons)
         desktop::allow(*button, whyNot);

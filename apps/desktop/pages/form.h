@@ -80,19 +80,19 @@ private:
     void addField(const QString &id, const QString &label, QWidget *field);
     void widen(QWidget &field) const;
 
-    struct Row {
+    struct FieldRow {
         QLabel *label;
         QWidget *field;
         bool isShown = true;
     };
-    [[nodiscard]] Row &rowOf(const QWidget &field);
+    [[nodiscard]] FieldRow &rowOf(const QWidget &field);
 
     Desk &m_desk;
     QLabel *m_heading;
     QFormLayout *m_fields;
     FieldMessage *m_message;
     QHBoxLayout *m_foot;
-    QList<Row> m_rows;
+    QList<FieldRow> m_rows;
     QList<QPushButton *> m_buttons;
     QWidget *m_blamed = nullptr;
 };

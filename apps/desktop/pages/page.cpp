@@ -50,7 +50,7 @@ void Page::bringUpToDate()
     m_desk.notices().remove(notice);
     const auto work = [this] {
         const QString &file = m_desk.document().file();
-        if (std::exchange(m_file, file) != file)
+        if (std::exchange(m_shownFile, file) != file)
             forgetFile();
         refresh();
     };

@@ -59,7 +59,7 @@ private:
     Desk &m_desk;
     QString m_id;
     QString m_title;
-    QString m_file; ///< that it is about
+    QString m_shownFile;
     bool m_isStale = true;
 };
 
