@@ -76,7 +76,11 @@ MainWindow::MainWindow(const Surroundings &surroundings)
     showOpened();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // Its parts lose the focus when it is no longer a window of this kind.
+    disconnect(qApp, &QApplication::focusChanged, this, &MainWindow::keepFocusInPage);
+}
 
 void MainWindow::build()
 {
