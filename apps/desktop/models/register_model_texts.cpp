@@ -51,7 +51,7 @@ QString markText(TransactionStatuses status)
 
 QString descriptionText(const Transaction &transaction)
 {
-    const QString text = workbench::payeeAndReason(transaction);
+    QString text = workbench::payeeAndReason(transaction);
     if (!transaction.refundOf())
         return text;
     return text.isEmpty() ? RegisterModel::tr("Refund") : RegisterModel::tr("Refund: %1").arg(text);
