@@ -217,8 +217,9 @@ QStringList misfits(QWidget &root)
 {
     QStringList faults;
     for (const QWidget *widget : root.findChildren<QWidget *>()) {
+        // A field cuts its own button to its size.
         if (!widget->isVisible() || qobject_cast<const QLineEdit *>(widget->parentWidget()))
-            continue; // its own button fits it
+            continue;
         const QSize needed = widget->minimumSizeHint();
         if (isRigid(*widget) &&
             (widget->width() < needed.width() || widget->height() < needed.height()))

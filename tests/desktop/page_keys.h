@@ -27,29 +27,19 @@ inline desktop::Table &table(HouseholdWindow &home, const char *name = "")
     return *home.window().page()->findChild<desktop::Table *>(QLatin1String(name));
 }
 /// The texts of a column.
-inline QStringList texts(const QAbstractItemModel &model, int column)
+inline QStringList texts(HouseholdWindow &home, int column, const char *name = "")
 {
+    const QAbstractItemModel &model = *table(home, name).model();
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row)
         texts += model.index(row, column).data().toString();
     return texts;
-}
-inline QStringList texts(HouseholdWindow &home, int column, const char *name = "")
-{
-    return texts(*table(home, name).model(), column);
 }
 /// A field or button of the page.
 template <typename Widget>
 Widget &part(HouseholdWindow &home, const char *name)
 {
     return *home.window().page()->findChild<Widget *>(QLatin1String(name));
-}
-/// Whether a label of the page has this text.
-inline bool says(HouseholdWindow &home, const QString &text)
-{
-    const auto labels = home.window().page()->findChildren<QLabel *>();
-    return std::ranges::any_of(
-        labels, [&text](const QLabel *label) { return label->text().contains(text); });
 }
 /// What is refused on the page; empty if nothing is.
 inline QString message(HouseholdWindow &home)

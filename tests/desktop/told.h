@@ -30,7 +30,7 @@ inline QString rowText(const QAbstractItemView &view, const std::function<QVaria
 }
 
 /// Its text and what one would not expect: that a number stands left («) or another text right (»),
-/// that it is bold (*) or has a colour (°), as only what is refused has otherwise.
+/// that it is bold (*) or has a colour (°).
 inline QString cellText(const QModelIndex &cell)
 {
     static const QRegularExpression number(u"^[-+]?[^\\w\\s]?[\\d.,]+( [A-Z]{3}| %)?$"_qs);
@@ -108,6 +108,7 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
         text = widget.accessibleName() + u": "_qs + value; // without a label
     if (text.trimmed().isEmpty())
         return {};
+    // What is refused has a colour; its field is marked where its value is told.
     if (value.isEmpty() && hasInk(widget) != text.startsWith(u"⚠ "))
         text += u'°';
     return {text + (widget.isEnabled() ? QString() : u" (off)"_qs)};

@@ -120,51 +120,18 @@ public:
                 test::keys(m_home, one);
         }
     }
+    /// What is new since the page was seen, and since the last step around it.
     QStringList news()
     {
         QStringList told = shown();
-        // What is shown has followed at once, new rows with the events they wait for; what is
-        // refused waits for another try.
-        const bool isRefused =
-            std::ranges::any_of(told, [](const QString &part) { return part.startsWith(u"⚠ "); });
-        if (!isRefused) {
-            emit m_home.window().desk().refreshWanted();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
-            if (told != shown())
-                told += u"shown otherwise when all is refreshed: "_s +
-                        newsOf(shown(), told).join(u", "_s);
-        }
-        for (int again = 0; again < 4; ++again) // what wraps needs another layout
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        for (const QString &misfit : test::misfits(m_home.window()))
-            told += u"misfit: "_s + misfit;
-        for (test::Follower *follower : m_followers) {
-            if (!follower->isTrue())
-                told += u"not all that changed is called changed"_s;
-        }
-        const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
-        const QString name = pages->currentItem() ? pages->currentItem()->text() : QString();
-        // Whether it is saved yet is a matter of time.
-        QStringList round{
-            u"%1 of %2"_s.arg(name, m_home.window().windowTitle().section(u" ("_s, 0, 0))};
-        for (const QString &notice : m_home.notices())
-            round += u"notice: "_s + notice;
-        const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
-        round += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
-        const auto deed = m_home.document().undoable();
-        round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
-        const auto actions = m_home.window().findChildren<QAction *>();
-        const auto offered = std::ranges::count_if(actions, &QAction::isEnabled);
-        round += u"%1 actions"_s.arg(offered);
-        round += u"at "_s + focused();
-        if (const auto *offers = qobject_cast<QListView *>(QApplication::activePopupWidget()))
-            round += u"offered: "_s + test::rowsOf(*offers, rowsMax).join(u", "_s);
+        told += faults(told);
+        QStringList round = around(told);
         for (QStringList *all : {&told, &round}) {
             all->replaceInStrings(m_home.path({}), u"FOLDER"_s);
             all->replaceInStrings(documents(), u"DOCUMENTS"_s);
             all->replaceInStrings(moment(), u"MOMENT"_s);
         }
-        QString seen = name + QLatin1String(page()->metaObject()->className());
+        QString seen = pageName() + QLatin1String(page()->metaObject()->className());
         for (const auto *steps : page()->findChildren<QStackedWidget *>())
             seen += QString::number(steps->currentIndex());
         const QStringList news = newsOf(told, std::exchange(lastSeen[seen], told));
@@ -201,6 +168,57 @@ private:
         test::tell(*page(), rowsMax, told);
         test::tell(*m_home.window().findChild<QWidget *>(u"explanation"_s), rowsMax, told);
         return told;
+    }
+    [[nodiscard]] QString pageName()
+    {
+        const auto *pages = m_home.window().findChild<QListWidget *>(u"pages"_s);
+        return pages->currentItem() ? pages->currentItem()->text() : QString();
+    }
+    /// What is wrong whatever was done.
+    [[nodiscard]] QStringList faults(const QStringList &told)
+    {
+        QStringList faults;
+        // What is shown has followed at once, new rows with the events they wait for; what is
+        // refused waits for another try.
+        const bool isRefused =
+            std::ranges::any_of(told, [](const QString &part) { return part.startsWith(u"⚠ "); });
+        if (!isRefused) {
+            emit m_home.window().desk().refreshWanted();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
+            if (told != shown())
+                faults += u"shown otherwise when all is refreshed: "_s +
+                          newsOf(shown(), told).join(u", "_s);
+        }
+        for (int again = 0; again < 4; ++again) // what wraps needs another layout
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        for (const QString &misfit : test::misfits(m_home.window()))
+            faults += u"misfit: "_s + misfit;
+        for (test::Follower *follower : m_followers) {
+            if (!follower->isTrue())
+                faults += u"not all that changed is called changed"_s;
+        }
+        return faults;
+    }
+    /// What the window tells around its page.
+    [[nodiscard]] QStringList around(const QStringList &told)
+    {
+        // Whether it is saved yet is a matter of time.
+        QStringList round{
+            u"%1 of %2"_s.arg(pageName(), m_home.window().windowTitle().section(u" ("_s, 0, 0))};
+        for (const QString &notice : m_home.notices())
+            round += u"notice: "_s + notice;
+        if (m_home.notices().isEmpty())
+            round += u"no notice"_s;
+        const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
+        round += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
+        const auto deed = m_home.document().undoable();
+        round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
+        const auto actions = m_home.window().findChildren<QAction *>();
+        round += u"%1 actions"_s.arg(std::ranges::count_if(actions, &QAction::isEnabled));
+        round += u"at "_s + focused();
+        if (const auto *offers = qobject_cast<QListView *>(QApplication::activePopupWidget()))
+            round += u"offered: "_s + test::rowsOf(*offers, rowsMax).join(u", "_s);
+        return round;
     }
     /// Where the keys go, and whether they replace what is there.
     [[nodiscard]] static QString focused()

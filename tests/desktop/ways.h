@@ -107,7 +107,6 @@ private:
                    .arg(edge.right())
                    .arg(edge.bottom())];
         ++ways[u"gaps %1"_qs.arg(layout.spacing())];
-        const auto *grid = qobject_cast<const QGridLayout *>(&layout);
         for (int at = 0; at < layout.count(); ++at) {
             const QSpacerItem *space = layout.itemAt(at)->spacerItem();
             const QSize size = space ? space->sizeHint() : QSize();
@@ -116,18 +115,23 @@ private:
                 ++ways[u"side %1"_qs.arg(side.toInt())];
             if (const auto *box = qobject_cast<const QBoxLayout *>(&layout))
                 ways[u"stretch"_qs] += box->stretch(at);
-            int row = 0, column = 0, rows = 0, columns = 0;
-            if (grid) {
-                grid->getItemPosition(at, &row, &column, &rows, &columns);
-                ways[u"places"_qs] += 8 * row + column;
-                ways[u"spans"_qs] += rows * columns;
-            }
         }
-        for (int at = 0; grid && at < std::max(grid->rowCount(), grid->columnCount()); ++at) {
-            ways[u"row stretch"_qs] += at < grid->rowCount() ? at * grid->rowStretch(at) : 0;
-            ways[u"column stretch"_qs] +=
-                at < grid->columnCount() ? at * grid->columnStretch(at) : 0;
+        if (const auto *grid = qobject_cast<const QGridLayout *>(&layout))
+            addGrid(*grid, ways);
+    }
+    /// Sums in which no part can change its place, or a row its stretch, without being seen.
+    static void addGrid(const QGridLayout &grid, std::map<QString, int> &ways)
+    {
+        int row = 0, column = 0, rows = 0, columns = 0;
+        for (int at = 0; at < grid.count(); ++at) {
+            grid.getItemPosition(at, &row, &column, &rows, &columns);
+            ways[u"places"_qs] += 8 * row + column;
+            ways[u"spans"_qs] += rows * columns;
         }
+        for (int at = 0; at < grid.rowCount(); ++at)
+            ways[u"row stretch"_qs] += at * grid.rowStretch(at);
+        for (int at = 0; at < grid.columnCount(); ++at)
+            ways[u"column stretch"_qs] += at * grid.columnStretch(at);
     }
 
     const QWidget m_plain; ///< without what is set

@@ -63,6 +63,14 @@ QWidget *AccountsPage::dayRow()
     return row;
 }
 
+void AccountsPage::forgetFile()
+{
+    ListPage::forgetFile();
+    m_dayMessage->withdraw();
+    m_day->clear();
+    m_on.reset();
+}
+
 void AccountsPage::readDay()
 {
     std::optional<QDate> on;

@@ -25,6 +25,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
     void follow() override;
     void enter() override;
     void change() override;

@@ -128,6 +128,7 @@ void DuePage::forgetFile()
 {
     m_message->withdraw();
     forgetTyping();
+    m_said.clear();
 }
 
 void DuePage::refresh()

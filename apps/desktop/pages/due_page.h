@@ -46,8 +46,8 @@ private:
     /// After a deed: the fields have nothing unsent.
     void forgetTyping();
     void skip();
-    /// Reads a field; a refusal is shown there. Returns whether it could be read.
     [[nodiscard]] std::vector<workbench::DueLine> chosen() const;
+    /// The day that is typed. A refusal is shown at its field, and nothing returned.
     [[nodiscard]] std::optional<QDate> day();
 
     TableModel *m_model;

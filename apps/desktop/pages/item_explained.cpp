@@ -90,6 +90,12 @@ void ItemExplained::allowEnd(workbench::Document &document,
     m_end->message().withdraw();
 }
 
+void ItemExplained::forgetItem()
+{
+    m_item = {};
+    m_schedule->forgetItem();
+}
+
 void ItemExplained::allowChanges(const std::optional<QString> &whyNot)
 {
     m_end->allow(whyNot);

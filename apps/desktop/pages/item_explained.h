@@ -30,6 +30,8 @@ public:
     /// Explains this item; is hidden if there is nothing to explain.
     void explain(workbench::Document &document, const ShownEnvelopes &envelopes,
                  const budgeting::BudgetItemIdentifier &item);
+    /// Forgets what was typed for the item; the next one may have its name in another file.
+    void forgetItem();
     /// Allows the end, or says why not.
     void allowChanges(const std::optional<QString> &whyNot);
 

@@ -24,6 +24,8 @@ public:
 
     /// Shows the payments of this item; is hidden if there are none.
     void showItem(workbench::Document &document, const budgeting::BudgetItemIdentifier &item);
+    /// Forgets what was typed for the item.
+    void forgetItem() { m_item = {}; }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -72,6 +72,12 @@ ItemsPage::ItemsPage(Desk &desk)
     connect(m_kinds, &QTabBar::currentChanged, this, &ItemsPage::showTab);
 }
 
+void ItemsPage::forgetFile()
+{
+    ListPage::forgetFile();
+    m_explained->forgetItem();
+}
+
 bool ItemsPage::isAside() const
 {
     return m_kinds->currentIndex() == kindWords().size();

@@ -30,6 +30,7 @@ public:
 
 protected:
     void refresh() override;
+    void forgetFile() override;
     void follow() override;
     void followForm() override;
     void enter() override;

@@ -217,6 +217,7 @@ void RegisterPage::forgetFile()
 {
     m_filter->setText({});
     m_entry->forgetFile();
+    m_category->hide();
 }
 
 void RegisterPage::refresh()

@@ -107,6 +107,7 @@ void ImportFileStep::choose(std::optional<AccountNumber> into, const QString &gi
 
 void ImportFileStep::startAnew()
 {
+    m_form->message().withdraw();
     m_file->clear();
     m_account->setCurrentIndex(0);
     forgetAnswers();

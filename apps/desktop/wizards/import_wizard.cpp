@@ -98,6 +98,7 @@ QWidget *ImportWizard::firstFocus()
 void ImportWizard::forgetFile()
 {
     forget();
+    m_file->startAnew();
 }
 
 void ImportWizard::refresh()
