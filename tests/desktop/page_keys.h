@@ -56,14 +56,10 @@ inline QString dollars(const char *text)
 }
 inline void press(HouseholdWindow &home, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QTest::keyClick(home.keyTarget(), key, modifiers);
     // A button that was pressed by its letter is released a moment later.
     QTRY_VERIFY(std::ranges::none_of(home.window().findChildren<QAbstractButton *>(),
                                      &QAbstractButton::isDown));
-}
-inline void type(HouseholdWindow &, const QString &text)
-{
-    QTest::keyClicks(QApplication::focusWidget(), text);
 }
 /// Types the text in place of what the field has, or chooses it in its box.
 inline void enter(HouseholdWindow &home, const QString &text)
@@ -79,7 +75,7 @@ inline void enter(HouseholdWindow &home, const QString &text)
             press(home, Qt::Key_Down);
         return;
     }
-    type(home, text);
+    home.type(text);
 }
 /// Presses keys in turn: "Alt+N; Alt+A=20; Return" with 20 for what the field of Alt+A has.
 inline void keys(HouseholdWindow &home, const QString &steps)

@@ -3,6 +3,10 @@
 
 #include "desktop/painted.h"
 #include "widgets/chart_view.h"
+#include "widgets/money_edit.h"
+
+#include "foundation/presentation.h"
+#include "numira/library.h"
 
 #include <QtWidgets/QtWidgets>
 
@@ -78,7 +82,10 @@ inline QString valueOf(const QWidget &widget)
     const auto *edit = qobject_cast<const QLineEdit *>(&widget);
     if (edit && edit->echoMode() != QLineEdit::Normal)
         return u"hidden"_qs;
-    const QString mark = hasInk(widget) ? u"°"_qs : QString();
+    QString mark = hasInk(widget) ? u"°"_qs : QString();
+    const auto *money = qobject_cast<const desktop::MoneyEdit *>(&widget);
+    if (money && money->currency() != numira::toCurrency("USD"))
+        mark += u" in "_qs + foundation::toQString(money->currency());
     if (edit)
         return (edit->text().isEmpty() ? edit->placeholderText() : edit->text()) + mark;
     if (const auto *box = qobject_cast<const QComboBox *>(&widget))

@@ -110,7 +110,7 @@ private slots:
         SmallHousehold home;
         show(home, "home");
         home.trigger("palette");
-        type(home, u"trip goal"_s);
+        home.type(u"trip goal"_s);
         press(home, Qt::Key_Return);
         QCOMPARE(home.window().page()->id(), u"items"_s);
         QCOMPARE(table(home).chosen(), QStringList{u"Trip"_s});

@@ -22,7 +22,7 @@ private slots:
         showRates(home);
         QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
         press(home, Qt::Key_Return);
-        type(home, u"0.8"_s);
+        home.type(u"0.8"_s);
         press(home, Qt::Key_Return);
         QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.8 CHF"_s});
         QCOMPARE(texts(home, 4), QStringList{u"typed"_s});

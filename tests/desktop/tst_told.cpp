@@ -193,6 +193,15 @@ private:
             QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         for (const QString &misfit : test::misfits(m_home.window()))
             faults += u"misfit: "_s + misfit;
+        for (const QTableView *table : page()->findChildren<QTableView *>()) {
+            const QModelIndex chosen = table->currentIndex();
+            if (!table->isVisible() || !chosen.isValid())
+                continue;
+            if (!table->viewport()->rect().contains(table->visualRect(chosen).center()))
+                faults += u"out of sight: a row of "_s + table->accessibleName();
+            if (chosen.column() != 0)
+                faults += u"in column %1"_s.arg(chosen.column());
+        }
         for (test::Follower *follower : m_followers) {
             if (!follower->isTrue())
                 faults += u"not all that changed is called changed"_s;

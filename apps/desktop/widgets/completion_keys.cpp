@@ -7,18 +7,34 @@
 #include <QtWidgets/QCompleter>
 
 namespace kiv::desktop {
+namespace {
+
+bool isOfAction(const QKeyEvent &key)
+{
+    return key.modifiers().testAnyFlags(Qt::AltModifier | Qt::ControlModifier) ||
+           (key.key() >= Qt::Key_F1 && key.key() <= Qt::Key_F35);
+}
+
+} // namespace
 
 CompletionKeys::CompletionKeys(QCompleter &completer, QWidget &field, OnlyMatch onlyMatch)
     : QObject(&field), m_completer(completer), m_field(field), m_onlyMatch(onlyMatch)
 {
     completer.popup()->installEventFilter(this);
+    field.installEventFilter(this); // which a desktop asks first
 }
 
 bool CompletionKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress)
+    const bool isAsked = event->type() == QEvent::ShortcutOverride;
+    if (!isAsked && (event->type() != QEvent::KeyPress || watched == &m_field))
         return QObject::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
+    if (isAsked) {
+        if (isOfAction(*key))
+            m_completer.popup()->hide();
+        return QObject::eventFilter(watched, event);
+    }
     const bool isTab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
     const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     QModelIndex marked = m_completer.popup()->currentIndex();

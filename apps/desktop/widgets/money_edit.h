@@ -17,6 +17,7 @@ public:
 
     /// The currency of an amount that is typed without one.
     void setCurrency(const numira::Currency &currency) { m_currency = currency; }
+    [[nodiscard]] const numira::Currency &currency() const noexcept { return m_currency; }
     void setMoney(const numira::Money &money);
     /// What is typed. Throws an EntryError if that is no amount.
     [[nodiscard]] workbench::Amount amount() const;
