@@ -47,19 +47,24 @@ private:
     {
         add(mode == PolylineMode ? u"courses"_qs : u"areas"_qs, 1);
     }
-    void add(const QString &things, int count)
+    void add(QString things, int count)
     {
-        // Nothing for no pen and no brush.
+        // Nothing for no pen and no brush, and their styles unless they are solid.
         const auto named = [](const auto &ink) {
             const auto names = QMetaEnum::fromType<decltype(ink.style())>();
-            return ink.style() == 0 ? QString()
-                                    : u" %1 %2"_qs.arg(QLatin1String(names.valueToKey(ink.style())),
-                                                       ink.color().name(QColor::HexArgb));
+            const QString style =
+                ink.style() == 1 ? QString() : QLatin1String(names.valueToKey(ink.style()));
+            const bool isOpaque = ink.color().alpha() == 255;
+            return ink.style() == 0
+                       ? QString()
+                       : style + ink.color().name(isOpaque ? QColor::HexRgb : QColor::HexArgb);
         };
         const QString width = painter()->pen().widthF() == 1
                                   ? QString()
                                   : u" of %1"_qs.arg(painter()->pen().widthF());
-        m_things[things + named(painter()->pen()) + width + named(painter()->brush())] += count;
+        const QString fill = named(painter()->brush());
+        things += u' ' + named(painter()->pen()) + width + (fill.isEmpty() ? fill : u'+' + fill);
+        m_things[things.trimmed()] += count;
     }
 
     QWidget &m_widget;

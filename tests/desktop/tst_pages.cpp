@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
-#include "actions/command_palette.h"
 #include "desktop/page_keys.h"
 #include "desktop/told.h"
 
@@ -103,18 +102,6 @@ private slots:
         QVERIFY(pressed > 50);
         home.window().goTo({u"register"_s, {}});
         QVERIFY(!part<QPushButton>(home, "addLine").isEnabled());
-    }
-
-    void theCommandPaletteFindsAccountsAndItems()
-    {
-        SmallHousehold home;
-        show(home, "home");
-        home.trigger("palette");
-        home.type(u"trip goal"_s);
-        press(home, Qt::Key_Return);
-        QCOMPARE(home.window().page()->id(), u"items"_s);
-        QCOMPARE(table(home).chosen(), QStringList{u"Trip"_s});
-        QVERIFY(home.window().findChild<desktop::CommandPalette *>()->isHidden());
     }
 };
 

@@ -16,19 +16,6 @@ class TestSettingsPages : public QObject {
     Q_OBJECT
 
 private slots:
-    void aTypedRateIsListed()
-    {
-        SmallHousehold home;
-        showRates(home);
-        QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
-        press(home, Qt::Key_Return);
-        home.type(u"0.8"_s);
-        press(home, Qt::Key_Return);
-        QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.8 CHF"_s});
-        QCOMPARE(texts(home, 4), QStringList{u"typed"_s});
-        QVERIFY(table(home).hasFocus());
-    }
-
     void whileRatesAreFetchedNothingElseIsChanged()
     {
         Response answer = Response::failed(u"The server is silent."_s);
@@ -62,13 +49,12 @@ private slots:
     }
 
 private:
-    static numira::Currency currency(const char *code) { return numira::toCurrency(code); }
     /// The page with francs, which have no rate.
     static void showRates(SmallHousehold &home)
     {
         show(home, "home");
         navigation::ConfigurationData settings = workbench::presentSettings(home.requests());
-        settings.usableCurrencies = {currency("USD"), currency("CHF")};
+        settings.usableCurrencies = {numira::toCurrency("USD"), numira::toCurrency("CHF")};
         workbench::storeSettings(home.requests(), settings);
         home.requests().navigator().onStoreExchangeRates({}); // those of former tests
         home.trigger("page rates");

@@ -31,11 +31,11 @@ QString documents()
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-/// Versions have the time of the calendar.
+/// Versions and rates have the time of the calendar.
 QRegularExpression moment()
 {
     return QRegularExpression(
-        u"%1 \\d\\d:\\d\\d(:\\d\\d)?"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
+        u"%1( \\d\\d:\\d\\d(:\\d\\d)?)?"_s.arg(QDate::currentDate().toString(Qt::ISODate)));
 }
 
 /// What a line begins with, and the parts, in lines that can be read; no step is broken.
@@ -219,7 +219,7 @@ private:
         if (m_home.notices().isEmpty())
             round += u"no notice"_s;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
-        round += u"heard: "_s + (told.contains(heard) ? u"that"_s : heard);
+        round += u"heard: "_s + (told.contains(heard) || heard == pageName() ? u"that"_s : heard);
         const auto deed = m_home.document().undoable();
         round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
         const auto actions = m_home.window().findChildren<QAction *>();

@@ -83,7 +83,7 @@ private:
                 value == m_plain.property(property.name()))
                 continue;
             const QString name = QString::fromLatin1(property.name());
-            if (property.isEnumType() && value.toInt() != 0)
+            if (property.isEnumType() && (value.toInt() != 0 || name == u"textFormat"))
                 ++ways[name + u' ' + namesOf(property, value.toInt())];
             else if (value.userType() == QMetaType::Bool && value.toBool())
                 ++ways[name];

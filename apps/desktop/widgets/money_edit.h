@@ -17,6 +17,7 @@ public:
 
     /// The currency of an amount that is typed without one.
     void setCurrency(const numira::Currency &currency) { m_currency = currency; }
+    /// None before there is one.
     [[nodiscard]] const numira::Currency &currency() const noexcept { return m_currency; }
     void setMoney(const numira::Money &money);
     /// What is typed. Throws an EntryError if that is no amount.
