@@ -187,6 +187,7 @@ function(kiv_add_run test name)
   if(arg_RUNS)
     list(APPEND environment KIV_RANDOM_RUNS=${arg_RUNS})
   endif()
-  set_tests_properties(${test} PROPERTIES TIMEOUT ${arg_TIMEOUT} LABELS "${arg_LABELS}"
-    ENVIRONMENT "${environment}")
+  # What may take long begins first, so that nothing runs alone at the end.
+  set_tests_properties(${test} PROPERTIES TIMEOUT ${arg_TIMEOUT} COST ${arg_TIMEOUT}
+    LABELS "${arg_LABELS}" ENVIRONMENT "${environment}")
 endfunction()
