@@ -219,7 +219,9 @@ private:
         if (m_home.notices().isEmpty())
             round += u"no notice"_s;
         const QString heard = m_home.window().findChild<desktop::Announcer *>()->text();
-        round += u"heard: "_s + (told.contains(heard) || heard == pageName() ? u"that"_s : heard);
+        round += u"heard: "_s + (heard == pageName()    ? u"it"_s
+                                 : told.contains(heard) ? u"that"_s
+                                                        : heard);
         const auto deed = m_home.document().undoable();
         round += u"undoes "_s + (deed ? deed->undone : u"nothing"_s);
         const auto actions = m_home.window().findChildren<QAction *>();

@@ -21,20 +21,18 @@ CompletionKeys::CompletionKeys(QCompleter &completer, QWidget &field, OnlyMatch 
     : QObject(&field), m_completer(completer), m_field(field), m_onlyMatch(onlyMatch)
 {
     completer.popup()->installEventFilter(this);
-    field.installEventFilter(this); // which a desktop asks first
+    // A desktop asks the field whether it wants the keys of an action, not the list.
+    field.installEventFilter(this);
 }
 
 bool CompletionKeys::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isAsked = event->type() == QEvent::ShortcutOverride;
-    if (!isAsked && (event->type() != QEvent::KeyPress || watched == &m_field))
+    if (event->type() == QEvent::ShortcutOverride &&
+        isOfAction(*static_cast<const QKeyEvent *>(event)))
+        m_completer.popup()->hide();
+    if (event->type() != QEvent::KeyPress || watched == &m_field)
         return QObject::eventFilter(watched, event);
     const auto *key = static_cast<QKeyEvent *>(event);
-    if (isAsked) {
-        if (isOfAction(*key))
-            m_completer.popup()->hide();
-        return QObject::eventFilter(watched, event);
-    }
     const bool isTab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
     const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     QModelIndex marked = m_completer.popup()->currentIndex();

@@ -13,7 +13,7 @@ namespace kiv::desktop {
 /// Keeps a form quick while a list of completions is open: Tab takes the marked name and goes
 /// on to the next field; Enter takes the marked name, and without one does what Enter does in
 /// the form. Otherwise the first press would only close the list. Keys that go elsewhere, such
-/// as the letter of another field with Alt, close it as well: it would keep what is typed next.
+/// as the letter of another field with Alt, close it as well; open, it would get what follows.
 class CompletionKeys final : public QObject {
     Q_OBJECT
 
