@@ -243,5 +243,4 @@ days to come:
   kiv: The bill 'Petrol' could not be added. The budget item has the same name as an existing ledger account.
   [1]
   $ kiv configure show | grep JPY
-  Preferred currency              JPY
-  Usable currencies               JPY, USD, EUR
+  [1]

@@ -68,6 +68,7 @@ void Document::open(const QString &file, Access access)
     refuseUnsaved();
     const QString path = withExtension(file);
     load(path, access);
+    m_opening += path != m_file ? 1 : 0;
     m_file = path;
     begin();
 }
@@ -138,7 +139,11 @@ void Document::createEmpty(const QString &file, const QString &change)
     refuseUnsaved();
     refuseExisting(file);
     navigator().onConfirmedNewBudgetEmpty();
-    auto back = qScopeGuard([this] { revert(); });
+    ++m_opening;
+    auto back = qScopeGuard([this] {
+        --m_opening;
+        revert();
+    });
     saveAs(withExtension(file), change);
     back.dismiss();
 }
@@ -235,10 +240,12 @@ void Document::save(const Deed &deed)
     m_deed = {};
     m_notes.reset();
     // What was written at once begins anew: the file was lost.
-    if (m_keeping == Keeping::WithinASecond && !m_isKept)
+    if (m_keeping == Keeping::WithinASecond && !m_isKept) {
+        ++m_opening;
         begin();
-    else
+    } else {
         emit m_news.changed();
+    }
     listen();
 }
 

@@ -66,6 +66,10 @@ public:
     [[nodiscard]] static QString withExtension(const QString &path);
     /// The open file; empty if there is none.
     [[nodiscard]] const QString &file() const noexcept { return m_file; }
+    /// Another number for each budget that is opened, made or brought back, so that what was
+    /// typed for the one before is not taken for it. One that is saved under another name, or
+    /// opened again, keeps its own.
+    [[nodiscard]] int opening() const noexcept { return m_opening; }
     /// For what a file is opened.
     enum class Access : std::uint8_t {
         Change,  ///< locked against others who change it
@@ -286,6 +290,7 @@ private:
     std::unique_ptr<Navigator> m_navigator;
     RecallingStorage *m_storage = nullptr; ///< the Navigator's
     QString m_file;
+    int m_opening = 0;
     Requests m_requests;
     ReconciliationWatch m_watch;
     std::vector<JudgedReconciliation> m_broken;

@@ -99,20 +99,24 @@ std::optional<QDate> comingDay(const StarterChoice &choice, QDate today)
 
 void fillIn(Requests &requests, const StarterAnswers &answers)
 {
-    navigation::ConfigurationData preferences = presentSettings(requests);
+    const navigation::ConfigurationData former = presentSettings(requests);
+    navigation::ConfigurationData preferences = former;
     if (answers.preferred)
         preferences.preferredCurrency = *answers.preferred;
     preferences.usableCurrencies.insert(preferences.preferredCurrency);
     // The Navigator stores them, too, but not before it knows the balance.
     storeCurrencies(preferences);
-    auto empty = qScopeGuard([&] { requests.navigator().onConfirmedNewBudgetEmpty(); });
+    auto back = qScopeGuard([&] {
+        storeCurrencies(former);
+        requests.navigator().onConfirmedNewBudgetEmpty();
+    });
     const banking::BankAccount account = addBank(requests, answers, preferences);
     const QDate today = foundation::today();
     for (const StarterChoice &choice : answers.items) {
         if (choice.amount)
             addStarterItem(requests, choice, account, today);
     }
-    empty.dismiss();
+    back.dismiss();
 }
 
 } // namespace kiv::workbench

@@ -23,8 +23,8 @@ using budgeting::BudgetSource;
 
 namespace {
 
-/// After the kind in a place: the form for a new item.
-const QString newItem = QStringLiteral("new");
+/// After the kind in a place: the form for a new item. An item can have any other name.
+const QString newItem = QStringLiteral("");
 
 QStringList kindWords()
 {
@@ -120,7 +120,7 @@ void ItemsPage::goTo(const QString &detail)
     m_kinds->setCurrentIndex(tab);
     closeForm();
     const QString name = detail.section(u'/', 1);
-    if (name == newItem && model().place(name) < 0)
+    if (detail.contains(u'/') && name == newItem)
         beginNew();
     else
         choose(name);

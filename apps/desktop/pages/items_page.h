@@ -19,7 +19,7 @@ class ItemsPage final : public ListPage {
 public:
     explicit ItemsPage(Desk &desk);
 
-    /// A kind, such as "bill"; "bill/Rent" chooses an item, "bill/new" begins one. "aside" is
+    /// A kind, such as "bill"; "bill/Rent" chooses an item, "bill/" begins one. "aside" is
     /// what is set aside, "aside/7" at an account, and "aside/7/bill/Rent" one line of it.
     void goTo(const QString &detail) override;
     [[nodiscard]] QString detail() const override;

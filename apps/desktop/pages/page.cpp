@@ -49,8 +49,8 @@ void Page::bringUpToDate()
     const QString notice = QStringLiteral("page ") + m_id;
     m_desk.notices().remove(notice);
     const auto work = [this] {
-        const QString &file = m_desk.document().file();
-        if (std::exchange(m_shownFile, file) != file)
+        const int opening = m_desk.document().opening();
+        if (std::exchange(m_shown, opening) != opening)
             forgetFile();
         refresh();
     };

@@ -59,7 +59,7 @@ private:
     Desk &m_desk;
     QString m_id;
     QString m_title;
-    QString m_shownFile;
+    int m_shown = 0; ///< opening of the document
     bool m_isStale = true;
 };
 

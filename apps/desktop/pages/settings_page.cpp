@@ -211,8 +211,11 @@ void SettingsPage::showSettings()
     m_preferred->setCurrentText(foundation::toQString(m_settings.preferredCurrency));
     m_display->setCurrentIndex(
         m_display->findData(static_cast<int>(m_settings.currenciesDisplayAs)));
-    for (const Typed &typed : m_typed)
-        typed.field->setText(typed.shown(m_settings));
+    for (const Typed &typed : m_typed) {
+        // What was refused waits to be mended, whatever else changes.
+        if (!m_form->message().complainsOf(typed.field))
+            typed.field->setText(typed.shown(m_settings));
+    }
     const WindowSettings &looks = desk().settings();
     m_appearance->setCurrentIndex(static_cast<int>(looks.appearance()));
     m_textSize->setCurrentIndex(m_textSize->findData(looks.textSize()));

@@ -47,6 +47,8 @@ public:
     }
     /// The sentence; empty without one.
     [[nodiscard]] const QString &sentence() const noexcept { return m_sentence; }
+    /// Whether `field` is at fault.
+    [[nodiscard]] bool complainsOf(const QWidget *field) const { return m_field == field; }
     /// Takes the sentence and the mark away.
     void withdraw();
 
