@@ -26,7 +26,9 @@ What is set aside at a bank, and why. The household is the one that docs/domain.
   > transfer Checking Trip 100 --date 2026-03-10
   > spend 60 Groceries --from Card --date 2026-03-12
   > spend 75 Groceries --from Checking --date 2026-03-20
-  > bank-account add Savings --bank First --type savings --balance '50 USD' --date 2026-03-01
+  > account add Group --type asset
+  > account add Savings --type asset --under Group --balance '50 USD' --date 2026-03-01
+  > bank-account attach Savings --bank First --type savings
   > .
   $ kiv envelopes --on 2026-03-25 | sed 4,6d
   Account     Balance  Set aside       Free  Paid since  Last reconciled
@@ -104,7 +106,7 @@ More than there is, and what no line shows:
   $ kiv bill add Insurance '120 USD' --every yearly --next 2026-12-01 >/dev/null
   $ kiv survey complete First Savings --date 2026-05-03 --balance 50 --tick-all \
   >     --distribute Tax=5 --distribute Car=0 --distribute Insurance=70
-  Reconciled 10 Savings at First with a balance of $50.00.
+  Reconciled 11 Savings at First with a balance of $50.00.
   $ kiv envelopes Savings --on 2026-05-03 | sed '1d; 3,6d'
   Savings   $50.00     $70.00  -$20.00       $0.00  2026-05-03
   At Savings, $20.00 more is set aside than there is.

@@ -147,3 +147,9 @@ A refund gives back what was paid, and no more:
   kiv: A refund of $69.51 exceeds the $69.50 that are left of the transaction 2.
   [1]
   $ kiv refund 2 69.50 >/dev/null
+
+A new item of a former one's name is the one that is meant:
+
+  $ kiv bill remove Rent >/dev/null && kiv bill add Rent 5 >/dev/null && kiv ledger Rent
+  5 Rent
+  There are no transactions.

@@ -10,10 +10,10 @@ which it is listed.
   {"accounts":[],"name":"Second","open":true}
   $ told bank-account add Savings --bank Second --type savings
   {"balance":{"amount":"0.00","currency":"USD"},"name":"Savings","number":5,"open":true,"parent":null,"path":"Assets:Savings","type":"asset"}
-  $ told bill add Gym 30 --next 2026-02-01
-  {"amount":{"amount":"30.00","currency":"USD"},"every":"monthly","kind":"bill","name":"Gym","next":"2026-02-01","tags":[]}
+  $ told bill add Gym 30 --next 2026-02-01 --tag 😀
+  {"amount":{"amount":"30.00","currency":"USD"},"every":"monthly","kind":"bill","name":"Gym","next":"2026-02-01","tags":["\xf0\x9f\x98\x80"]} (esc)
   $ told bill rename Gym Club
-  {"amount":{"amount":"30.00","currency":"USD"},"every":"monthly","kind":"bill","name":"Club","next":"2026-02-01","tags":[]}
+  {"amount":{"amount":"30.00","currency":"USD"},"every":"monthly","kind":"bill","name":"Club","next":"2026-02-01","tags":["\xf0\x9f\x98\x80"]} (esc)
   $ told account add Food --type expense
   {"balance":{"amount":"0.00","currency":"USD"},"name":"Food","number":7,"open":true,"parent":null,"path":"Expenses:Food","type":"expense"}
   $ told post Rent --account Checking --date 2026-02-01

@@ -16,6 +16,8 @@ It is a warning, and the entry stands:
   > transfer Trip Checking 261 --date 2026-02-01
   > pay Car 121 --account Checking --date 2026-02-01
   > spend 2650 Groceries --date 1926-02-01
+  > earn 1 Salary --date 2010-02-01
+  > earn 1 Salary --date $(($(date +%Y) + 50))-12-31
   > transfer Groceries Checking 1200 --date 2026-02-01
   > refund 7 5 --date 2026-02-01
   > transaction update 7 --description 'nothing new is said'
@@ -35,7 +37,7 @@ What comes to nothing does not stop what else is due:
   $ kiv bill add Zero 0 --next 2026-01-30 >/dev/null
   $ kiv post --all --kind bill --account Checking --date 2026-01-31
   kiv: warning: 'Zero' has an amount of zero and was skipped.
-  kiv: warning: Checking is below zero: -$55.00.
+  kiv: warning: Checking is below zero: -$53.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv bill list | grep Zero
   Zero      $0.00  monthly  2026-02-28
@@ -79,16 +81,18 @@ An account goes to another bank with its goals, its survey and what is set aside
 
 Another account takes its place. The statements of both show the whole transfer:
 
+  $ kiv survey complete Second Giro --balance 0 --distribute Tax=10 --date 2026-03-26 >/dev/null
+  $ kiv spend 20 Tax --from Checking --date 2026-03-28 >/dev/null
   $ kiv bank-account replace Checking --by Giro --date 2026-04-01 | sed -n 4p
-  Set aside at Giro are now: Tax, Trip
+  Set aside at Giro are now: Trip
   $ kiv envelopes --on 2026-04-01 --items | sed -n '1p; 7,8p'
   Giro, Second
-  Tax   $200.00  $0.00  $0.00  $200.00   $600.00  2026-06-30
-  Trip  $300.00  $0.00  $0.00  $300.00   $512.90  2026-02-10
+  Tax   $160.00   $50.00   -$20.00  $190.00   $600.00  2026-06-30
+  Trip  $300.00  $300.00  -$300.00  $300.00   $512.90  2026-02-10
   $ kiv survey show Second Giro --date 2026-04-02 --json | jq -r .expectedBalance.amount
-  2500.00
+  2480.00
   $ kiv banks | tail -2
-       5  Giro     checking          $2,200.00
+       5  Giro     checking          $2,180.00
        7  Trip     goal sub-account    $300.00
   $ each 1 <<'.'
   > bank-account replace Checking --by Giro
@@ -112,7 +116,7 @@ A goal and a debt that came to their end:
   Dry run: nothing is saved.
   $ kiv undo --steps 2 >/dev/null
   $ kiv goal finish Trip --date 2026-04-02 | sed -n 2p
-  Moved $300.00 from Trip to Giro (transaction 6).
+  Moved $300.00 from Trip to Giro (transaction 7).
   $ kiv goal finish Trip
   kiv: 'Trip' is finished already.
   [1]
@@ -145,9 +149,10 @@ An account of the wrong type becomes what it is, with all that was entered:
   $ kiv bank-account attach Purse --bank Second --type cash >/dev/null
   $ kiv account convert Purse --type expense | tail -1
   Separated Purse from the bank 'Second', which cannot keep it.
-  $ kiv accounts | grep -e Visa -e Purse
+  $ kiv accounts | grep Purse
       10  Expenses:Purse                           $50.00
-       9  Liabilities:Visa                         $20.00
+  $ kiv banks | grep Visa
+       9  Visa     credit card          $20.00
   $ kiv check household | tail -1
   The budget 'household.budget' is intact.
   $ each 1 <<'.'

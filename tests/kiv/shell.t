@@ -69,8 +69,11 @@ by version; a new change ends redo:
   Restored the state of TIME.
   What     Name       Change   Detail
   item     bill Toll  removed  10.00 USD, monthly, 2026-02-01
+  $ printf 'undo\nundo\nredo --steps 2\nundo --to 5\nundo --to 7\nbill add Zoo 1\nsave\nbill add Bus 1\nundo --to 8\n' |
+  >     kiv shell | grep -c Restored
+  6
   $ kiv history --json | jq -r '.[] | select(.present).change'
-  Added the bill 'Gym'
+  Added the bill 'Zoo'
   $ kiv save
   Every change is saved at once; nothing is pending.
 
@@ -131,17 +134,21 @@ stand among them:
   $ kiv watch <<. >signals 2>errors
   > account add Rent --type expense
   > bill add Gym 30 --next 2026-02-01
+  > undo
   > help bill
   > .
   [1]
   $ grep -v warning errors | head -2
   kiv: The code name is the same name as an existing budget item.
   Add, change or list bills
-  $ jq -r .signal signals | head -1
-  loadedBudgetFile
+  $ jq -c 'select(.signal == "loadedBudgetFile").arguments' signals
+  {"filePathName":"household.budget","isReloaded":false}
+  {"filePathName":"household.budget","isReloaded":true}
+  {"filePathName":"household.budget","isReloaded":true}
   $ jq -c 'select(.signal | test("^save|SaveFailed"))' signals
   {"arguments":{"displayed":"5 Rent","errorMessage":"The code name is the same name as an existing budget item.","original":null},"signal":"accountSaveFailed"}
   {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
+  {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
   {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
 
 At a terminal, lines are typed with history and completion:

@@ -92,7 +92,7 @@ A survey is put off with all that was entered; what changed meanwhile is said:
   > spend 12.50 Food --from Checking --date 2026-02-03
   > spend 7.30 Food --from Checking --date 2026-02-04
   > .
-  $ printf '5490.10\nall\nTax=40\n\nn\ny\n' | run Checking --date 2026-02-05 | tail -1; grep -i off tables
+  $ printf '5480.10\nall\nFood=-3\nRent=-7\nTax=40\n\nn\ny\n' | run Checking --date 2026-02-05 | tail -1; grep -i off tables
   [0]
   Put off the survey of Checking of 2026-02-05.
   $ kiv history --json | jq -r '.[0].change'

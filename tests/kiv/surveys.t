@@ -134,7 +134,7 @@ And so do answers, asked for until they can be understood:
   >     (kiv survey run First "$1" --date 2026-01-31 2>&1 >tables; echo "[$?]") |
   >         sed 's/\(n]\|)\): /\1:\n/g'
   > }
-  $ printf '%s\n' 433O 4330.00 yes 'all but 9' ask '' '' '' '' Nobody=1 Rent '' y | run Checking
+  $ printf '%s\n' 433O 4330.00 yes 'all but 9' ask '' '' '' '' Nobody=1 Rent=-5 Rent '' y | run Checking
   Balance of the statement (empty: $4,350.00):
   kiv: '433O' is not an amount; write one like 1234.50 or '1234.50 USD'.
   Balance of the statement (empty: $4,350.00):
@@ -149,6 +149,7 @@ And so do answers, asked for until they can be understood:
   #3 of 2026-01-31, Processed the budget item due on Sat Jan 31 2026. (Rent), -$1,250.00: is it on the statement? [Y/n]:
   What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
   kiv: There is no account 'Nobody'; see kiv accounts.
+  What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
   What is on the statement but not in the books, as NAME=AMOUNT, or NAME for all that is missing? (empty to continue):
   Amount to set aside for an item, as ITEM=AMOUNT (empty to continue):
   Complete the survey? [Y/n]:

@@ -134,14 +134,8 @@ void Document::saveCopy(const QString &file)
     version.data = present();
     mark.transactions = static_cast<qint64>(version.data.generalLedger.transactionCount());
     version.mark = std::move(mark);
-    if (m_history.isEmpty()) {
-        storage::Version kept = m_storage->version();
-        version.reconciliations = std::move(kept.reconciliations);
-        version.notes = std::move(kept.notes);
-    } else {
-        version.reconciliations = keptReconciliations();
-        version.notes = m_history.present().content->notes();
-    }
+    version.reconciliations = keptReconciliations();
+    version.notes = notes();
     storage::BudgetFile copy;
     copy.encryptNextAs(m_storage->fileItself());
     copy.setFilePathName(withExtension(file));

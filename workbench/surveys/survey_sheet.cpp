@@ -197,6 +197,20 @@ void SurveySheet::addUnbooked(AccountNumber number, const Money &change)
         form.extras.insert_or_assign(number, change);
 }
 
+Money SurveySheet::missingFor(AccountNumber number) const
+{
+    Money missing = figures().difference;
+    const auto add = [&missing](const auto &named, const auto &key) {
+        if (const auto found = named.find(key); found != named.end())
+            missing += found->second;
+    };
+    if (const auto item = m_itemOf.find(number); item != m_itemOf.end())
+        add(form.items, item->second);
+    else
+        add(form.extras, number);
+    return missing.rounded();
+}
+
 void SurveySheet::setAside(Requests &requests, const QString &text)
 {
     const auto [name, value] = assignment(text);

@@ -88,6 +88,9 @@ struct KIV_WORKBENCH_EXPORT SurveySheet {
     void addUnbooked(Requests &requests, const QString &text);
     /// The same by the number of the account, which may be an item's.
     void addUnbooked(accounting::AccountNumber number, const numira::Money &change);
+    /// What addUnbooked() is to be given for this account so that the books agree: all that is
+    /// missing, beside what is named for it already. Throws what a missing exchange rate throws.
+    [[nodiscard]] numira::Money missingFor(accounting::AccountNumber number) const;
     /// Sets money aside for an item by hand: "Holiday=300.00".
     void setAside(Requests &requests, const QString &text);
 

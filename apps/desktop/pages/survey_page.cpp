@@ -41,11 +41,13 @@ SurveyPage::SurveyPage(Desk &desk)
       m_drops(new SurveyDrops(desk, this)),
       m_tabs(new QTabBar(this)),
       m_parts(new QStackedWidget(this)),
-      m_statement(new SurveyStatement(desk, this,
-                                      [this](AccountNumber account, const numira::Money &change) {
-                                          draft()->sheet.addUnbooked(account, change);
-                                          follow();
-                                      })),
+      m_statement(new SurveyStatement(
+          desk, this,
+          [this](AccountNumber account, const numira::Money &change) {
+              draft()->sheet.addUnbooked(account, change);
+              follow();
+          },
+          [this](AccountNumber account) { return draft()->sheet.missingFor(account); })),
       m_ticks(new SurveyTicks(desk, this)),
       m_shares(new SurveyShares(desk, this)),
       m_foot(new SurveyFoot(desk, this)),

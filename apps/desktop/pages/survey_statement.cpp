@@ -19,10 +19,11 @@ using accounting::AccountNumber;
 using workbench::GroupedAccount;
 using workbench::SurveySheet;
 
-SurveyStatement::SurveyStatement(Desk &desk, QWidget *parent, Add add)
+SurveyStatement::SurveyStatement(Desk &desk, QWidget *parent, Add add, MissingFor missingFor)
     : QWidget(parent),
       m_desk(desk),
       m_add(std::move(add)),
+      m_missingFor(std::move(missingFor)),
       m_form(new Form(desk, this)),
       m_account(m_form->add(QStringLiteral("account"), tr("&Account:"), new QComboBox)),
       m_day(m_form->add(QStringLiteral("day"), tr("&Day:"), new DayEdit)),
@@ -113,7 +114,7 @@ std::optional<AccountNumber> SurveyStatement::account() const
 void SurveyStatement::follow(const SurveySheet *sheet, bool hasBalance)
 {
     m_sign->setVisible(sheet != nullptr);
-    m_missing.reset();
+    m_isMissing = false;
     if (!sheet)
         return;
     const bool isOwed = sheet->form.isOwed();
@@ -128,9 +129,7 @@ void SurveyStatement::follow(const SurveySheet *sheet, bool hasBalance)
     for (MoneyEdit *field : {m_balance, m_unbookedAmount})
         field->setCurrency(m_currency);
     try {
-        const numira::Money missing = sheet->figures().difference;
-        if (hasBalance && !missing.isZero())
-            m_missing = missing;
+        m_isMissing = hasBalance && !sheet->figures().difference.isZero();
     } catch (const foundation::Error &) {
         // Without an exchange rate nothing can be offered.
     }
@@ -159,8 +158,9 @@ void SurveyStatement::clear()
 
 void SurveyStatement::offerMissing()
 {
-    if (m_missing && m_unbookedAccount->accountIfAny() && m_unbookedAmount->text().isEmpty())
-        m_unbookedAmount->setMoney(*m_missing);
+    const auto account = m_unbookedAccount->accountIfAny();
+    if (m_isMissing && account && m_unbookedAmount->text().isEmpty())
+        m_unbookedAmount->setMoney(m_missingFor(*account));
 }
 
 void SurveyStatement::addUnbooked()

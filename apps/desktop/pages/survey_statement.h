@@ -21,9 +21,11 @@ class SurveyStatement final : public QWidget {
     Q_OBJECT
 
 public:
-    /// `add` puts money that is not booked on the list, and may refuse the account.
+    /// `add` puts money that is not booked on the list, and may refuse the account;
+    /// `missingFor` is what is offered then while the books do not agree.
     using Add = std::function<void(accounting::AccountNumber account, const numira::Money &change)>;
-    SurveyStatement(Desk &desk, QWidget *parent, Add add);
+    using MissingFor = std::function<numira::Money(accounting::AccountNumber account)>;
+    SurveyStatement(Desk &desk, QWidget *parent, Add add, MissingFor missingFor);
 
     /// Offers the open accounts at banks; the chosen one stays if it is there.
     void offerAccounts();
@@ -64,6 +66,7 @@ private:
 
     Desk &m_desk;
     Add m_add;
+    MissingFor m_missingFor;
     Form *m_form;
     QComboBox *m_account;
     DayEdit *m_day;
@@ -75,8 +78,8 @@ private:
     Form *m_unbooked;
     AccountBox *m_unbookedAccount = nullptr;
     MoneyEdit *m_unbookedAmount = nullptr;
-    numira::Currency m_currency;            ///< of the sheet
-    std::optional<numira::Money> m_missing; ///< what the books lack, if something
+    numira::Currency m_currency; ///< of the sheet
+    bool m_isMissing = false;    ///< whether the books lack something
 };
 
 } // namespace kiv::desktop

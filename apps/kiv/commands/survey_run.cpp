@@ -214,7 +214,8 @@ private:
     {
         if (answer.contains(u'='))
             return m_sheet.addUnbooked(m_call.requests, answer);
-        m_sheet.addUnbooked(m_index.find(answer).code().number(), m_sheet.figures().difference);
+        const accounting::AccountNumber number = m_index.find(answer).code().number();
+        m_sheet.addUnbooked(number, m_sheet.missingFor(number));
     }
 
     Call &m_call;

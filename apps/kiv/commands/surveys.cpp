@@ -86,9 +86,10 @@ struct CompleteSurvey {
             form.addItem(call.requests, text);
         for (const QString &text : extras)
             form.addExtra(call.requests, text);
-        if (remainder)
-            sheet.addUnbooked(call.requests.accounts().find(*remainder).code().number(),
-                              sheet.figures().difference);
+        if (remainder) {
+            const auto number = call.requests.accounts().find(*remainder).code().number();
+            sheet.addUnbooked(number, sheet.missingFor(number));
+        }
         for (const QString &text : distribution)
             sheet.setAside(call.requests, text);
         if (nonDistributed)
