@@ -16,8 +16,6 @@ It is a warning, and the entry stands:
   > transfer Trip Checking 261 --date 2026-02-01
   > pay Car 121 --account Checking --date 2026-02-01
   > spend 2650 Groceries --date 1926-02-01
-  > earn 1 Salary --date 2010-02-01
-  > earn 1 Salary --date $(($(date +%Y) + 50))-12-31
   > transfer Groceries Checking 1200 --date 2026-02-01
   > refund 7 5 --date 2026-02-01
   > transaction update 7 --description 'nothing new is said'
@@ -37,7 +35,7 @@ What comes to nothing does not stop what else is due:
   $ kiv bill add Zero 0 --next 2026-01-30 >/dev/null
   $ kiv post --all --kind bill --account Checking --date 2026-01-31
   kiv: warning: 'Zero' has an amount of zero and was skipped.
-  kiv: warning: Checking is below zero: -$53.00.
+  kiv: warning: Checking is below zero: -$55.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv bill list | grep Zero
   Zero      $0.00  monthly  2026-02-28

@@ -134,21 +134,17 @@ stand among them:
   $ kiv watch <<. >signals 2>errors
   > account add Rent --type expense
   > bill add Gym 30 --next 2026-02-01
-  > undo
   > help bill
   > .
   [1]
   $ grep -v warning errors | head -2
   kiv: The code name is the same name as an existing budget item.
   Add, change or list bills
-  $ jq -c 'select(.signal == "loadedBudgetFile").arguments' signals
-  {"filePathName":"household.budget","isReloaded":false}
-  {"filePathName":"household.budget","isReloaded":true}
-  {"filePathName":"household.budget","isReloaded":true}
+  $ jq -r .signal signals | head -1
+  loadedBudgetFile
   $ jq -c 'select(.signal | test("^save|SaveFailed"))' signals
   {"arguments":{"displayed":"5 Rent","errorMessage":"The code name is the same name as an existing budget item.","original":null},"signal":"accountSaveFailed"}
   {"arguments":{"id":"1","source":"Gym"},"signal":"saveSucceeded"}
-  {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
   {"arguments":{"filePathName":"household.budget"},"signal":"savedBudgetFile"}
 
 At a terminal, lines are typed with history and completion:

@@ -126,16 +126,6 @@ private slots:
             QCOMPARE(lines[line], wanted.value(line));
     }
 
-    void theNewestThatWasLearnedStays()
-    {
-        ImportMemory memory;
-        for (int payee = 0; payee < 1'500; ++payee)
-            memory.learn(QString(100, u'x') + QString::number(payee), no(3));
-        const auto kept = ImportMemory::of(memory.keptIn({})).learned;
-        QCOMPARE(kept.back(), memory.learned.back());
-        QCOMPARE(kept.size(), std::size_t{561}); // in steps of a quarter, until they fit
-    }
-
     /// Whatever was typed before, and however the files overlap and follow each other, each
     /// entry of the bank stands in the books once.
     void anyOrderEndsInTheSameBooks()
