@@ -68,7 +68,8 @@ void Document::open(const QString &file, Access access)
     refuseUnsaved();
     const QString path = withExtension(file);
     load(path, access);
-    m_opening += path != m_file ? 1 : 0;
+    if (path != m_file)
+        ++m_opening;
     m_file = path;
     begin();
 }

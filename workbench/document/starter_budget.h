@@ -40,10 +40,10 @@ struct StarterAnswers {
 };
 
 /// Replaces the budget in memory by a starter budget with the bank, its account and the
-/// items, each due on its comingDay(). The preferences are stored first, whatever happens
-/// then; the preferred currency becomes a usable one. Throws an EntryError for an amount with
-/// too many decimals, and a Refusal when the Navigator cannot make the budget, which names the
-/// item that it refuses. The budget in memory is empty then.
+/// items, each due on its comingDay(). The preferences are stored first; the preferred currency
+/// becomes a usable one. Throws an EntryError for an amount with too many decimals, and a
+/// Refusal when the Navigator cannot make the budget, which names the item that it refuses. The
+/// budget in memory is empty then, and the currencies are as they were.
 KIV_WORKBENCH_EXPORT void fillIn(Requests &requests, const StarterAnswers &answers);
 
 } // namespace kiv::workbench

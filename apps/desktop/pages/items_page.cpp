@@ -23,8 +23,8 @@ using budgeting::BudgetSource;
 
 namespace {
 
-/// After the kind in a place: the form for a new item. An item can have any other name.
-const QString newItem = QStringLiteral("");
+/// After the kind in a place: the form for a new item, since no name is empty.
+const QString newItem;
 
 QStringList kindWords()
 {

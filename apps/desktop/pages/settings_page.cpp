@@ -212,7 +212,7 @@ void SettingsPage::showSettings()
     m_display->setCurrentIndex(
         m_display->findData(static_cast<int>(m_settings.currenciesDisplayAs)));
     for (const Typed &typed : m_typed) {
-        // What was refused waits to be mended, whatever else changes.
+        // What was refused stays as long as its reason is told.
         if (!m_form->message().complainsOf(typed.field))
             typed.field->setText(typed.shown(m_settings));
     }
