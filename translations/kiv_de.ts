@@ -10080,6 +10080,14 @@ Es ist freie Software unter der GNU General Public License, Version 3 oder spät
         <source>Only items of the budget can be left out.</source>
         <translation>Nur Posten des Budgets können weggelassen werden.</translation>
     </message>
+    <message>
+        <source>And &amp;more</source>
+        <translation>Und m&amp;ehr</translation>
+    </message>
+    <message>
+        <source>Counted already: %1 on %2.</source>
+        <translation>Schon mitgezählt: %1 am %2.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::Page</name>

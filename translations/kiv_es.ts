@@ -10080,6 +10080,14 @@ Es software libre bajo la Licencia Pública General de GNU, versión 3 o posteri
         <source>Only items of the budget can be left out.</source>
         <translation>Solo se pueden omitir partidas del presupuesto.</translation>
     </message>
+    <message>
+        <source>And &amp;more</source>
+        <translation>Y má&amp;s</translation>
+    </message>
+    <message>
+        <source>Counted already: %1 on %2.</source>
+        <translation>Ya contado: %1 el %2.</translation>
+    </message>
 </context>
 <context>
     <name>kiv::desktop::Page</name>

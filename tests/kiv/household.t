@@ -88,10 +88,12 @@ A month at a glance:
   Debts take 0 % of the income; up to 36 % is sound.
   Free spending takes 0 % of the income; up to 30 % is sound.
   Goals get 0 % of the income; from 20 % on is sound.
-  $ kiv dashboard --json | jq -c '.dueWithinDays, .health.reasons[4], .totals.remaining'
+  $ kiv dashboard --json | jq -c '.dueWithinDays, .health.reasons[4], .totals.remaining,
+  >     (.ahead | [.lowest.currency, (. as $all | .text | contains($all | .because, .lowestOn, .nextWage))])'
   14
   {"sound":false,"text":"Goals get 0 % of the income; from 20 % on is sound."}
   {"amount":"1850.00","currency":"USD"}
+  ["USD",true,true,true]
 
 What is due, by day:
 

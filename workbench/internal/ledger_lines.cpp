@@ -123,13 +123,6 @@ const std::vector<std::size_t> &LedgerLines::untold(QDate day, const Decimal &am
     return found == m_untold.end() ? none : found->second.places;
 }
 
-const std::vector<std::size_t> &LedgerLines::told(QDate day, const Decimal &amount) const
-{
-    static const std::vector<std::size_t> none;
-    const auto found = m_told.find({day.toJulianDay(), amount});
-    return found == m_told.end() ? none : found->second.places;
-}
-
 std::vector<std::size_t> LedgerLines::freeUntold(QDate day, const Decimal &amount)
 {
     return freeIn(m_untold, day, amount);

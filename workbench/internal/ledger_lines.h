@@ -41,13 +41,12 @@ public:
 
     /// The places of lines with this identifier.
     [[nodiscard]] std::vector<std::size_t> toldAs(const QString &bankId) const;
-    /// The places of lines of this amount on this day, in their order: those that no statement
-    /// of the account told, and those that one did.
+    /// The places of lines of this amount on this day that no statement of the account told, in
+    /// their order.
     [[nodiscard]] const std::vector<std::size_t> &untold(QDate day,
                                                          const numira::Decimal &amount) const;
-    [[nodiscard]] const std::vector<std::size_t> &told(QDate day,
-                                                       const numira::Decimal &amount) const;
-    /// The first free ones of these. There are not more than a person could tell apart.
+    /// The first free ones of these, and of those that a statement told. There are not more than
+    /// a person could tell apart.
     [[nodiscard]] std::vector<std::size_t> freeUntold(QDate day, const numira::Decimal &amount);
     [[nodiscard]] std::vector<std::size_t> freeTold(QDate day, const numira::Decimal &amount);
     /// Whether any line or split is of this amount.

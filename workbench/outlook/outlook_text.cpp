@@ -32,11 +32,11 @@ QString lowestText(const LookingAhead &ahead, const outlook::Curve &curve,
     return QObject::tr("Lowest on %1: %2.").arg(day, amount);
 }
 
-QString lowestAheadText(Requests &requests, QDate first)
+LowestAhead lowestAhead(Requests &requests, QDate first)
 try {
     const LookingAhead ahead = lookAhead(requests.present(), {first}, requests.preferredCurrency());
     if (!ahead.together)
-        return noticesOf(ahead).join(u' ');
+        return {noticesOf(ahead).join(u' ')};
     const outlook::Curve &all = *ahead.together;
     std::optional<std::size_t> days;
     QString wage =
@@ -45,9 +45,14 @@ try {
         days = static_cast<std::size_t>(first.daysTo(*ahead.nextWage));
         wage = QObject::tr("The next wage comes on %1.").arg(presentationText(*ahead.nextWage));
     }
-    return lowestText(ahead, all, requests.accounts(), requests.displayAs(), days) + u' ' + wage;
+    const AccountIndex index = requests.accounts();
+    const std::size_t lowest = all.lowest(days);
+    const auto cause = ahead.outlook.cause(all, lowest);
+    return {lowestText(ahead, all, index, requests.displayAs(), days) + u' ' + wage,
+            all.ends[lowest], ahead.outlook.day(lowest), cause ? nameOf(*cause, index) : QString(),
+            ahead.nextWage.value_or(QDate())};
 } catch (const Refusal &refusal) {
-    return refusal.message();
+    return {refusal.message()};
 }
 
 QStringList sentencesOf(const LookingAhead &ahead, const std::optional<numira::Money> &floor,

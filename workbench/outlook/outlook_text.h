@@ -23,9 +23,18 @@ namespace kiv::workbench {
                                                       navigation::CurrencyDisplayOptions displayAs,
                                                       std::optional<std::size_t> days = {});
 
-/// The lowest day before the next wage, or of all days without a wage, and that wage. Why not, if
-/// it cannot be told; empty if there is nothing to tell.
-[[nodiscard]] KIV_WORKBENCH_EXPORT QString lowestAheadText(Requests &requests, QDate first);
+/// The lowest day before the next wage, or of all days without a wage, and that wage.
+struct LowestAhead {
+    /// In words. Why not, if it cannot be told; empty if there is nothing to tell.
+    QString text;
+    /// All together. Nothing without it, and then the rest is empty.
+    std::optional<numira::Money> lowest = {};
+    QDate lowestOn = {};  ///< the day
+    QString because = {}; ///< the payment that makes it the lowest; empty without one
+    QDate nextWage = {};  ///< the day; none without a wage
+};
+/// Looks ahead from a day on, for as many days as is usual.
+[[nodiscard]] KIV_WORKBENCH_EXPORT LowestAhead lowestAhead(Requests &requests, QDate first);
 
 /// The answers in words, the lowest day first: "Lowest on 2026-03-03: $12.00, because of
 /// Rent.", the first day below `floor`, what is free until the next wage.

@@ -251,7 +251,7 @@ void HomePage::showDue()
 
 void HomePage::showAhead()
 {
-    const QString told = workbench::lowestAheadText(requests(), m_due.today);
+    const QString told = workbench::lowestAhead(requests(), m_due.today).text;
     m_ahead->setText(told);
     m_ahead->setVisible(!told.isEmpty());
     m_lookAhead->setVisible(!told.isEmpty());

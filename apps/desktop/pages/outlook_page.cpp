@@ -9,10 +9,12 @@
 #include "widgets/table.h"
 
 #include "workbench/entry/kind_words.h"
+#include "workbench/entry/money_text.h"
 #include "workbench/outlook/outlook_text.h"
 #include "workbench/requests/budget_view.h"
 
 #include "foundation/clock.h"
+#include "foundation/presentation.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -61,8 +63,8 @@ OutlookPage::OutlookPage(Desk &desk)
       m_paymentTable(new Table(*m_payments, tr("What is paid and received"), this)),
       m_notices(new QLabel(this))
 {
-    m_form->setHeading(tr("What if? Nothing of this is kept. An amount with a minus comes in."));
     m_form->addButton(QStringLiteral("look"), tr("Loo&k ahead"), [this] { ask(); });
+    m_form->addButton(QStringLiteral("more"), tr("And &more"), [this] { askMore(); });
     m_form->addButton(QStringLiteral("again"), tr("Start &again"), [this] { startAgain(); });
     m_days->setText(QString::number(m_asked.question.days.count));
     m_curveTable->setObjectName(QStringLiteral("curves"));
@@ -136,6 +138,7 @@ void OutlookPage::refresh()
     m_without->offer(itemNames(workbench::BudgetView(requests())));
     m_asked.question.first = foundation::today();
     show(m_asked);
+    tellKept();
 }
 
 std::optional<OutlookPage::Asked> OutlookPage::read()
@@ -143,6 +146,7 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
     const numira::Currency preferred = requests().preferredCurrency();
     Asked asked;
     asked.question.first = foundation::today();
+    asked.question.with = m_kept;
     const auto readOnce = [&] {
         asked.question.with.push_back({QDate(), m_amount->amount().in(preferred)});
     };
@@ -168,20 +172,42 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
     return asked;
 }
 
-void OutlookPage::ask()
+bool OutlookPage::ask()
 {
     m_form->message().withdraw();
     const std::optional<Asked> asked = read();
     if (!asked)
-        return;
+        return false;
     QLineEdit *blamed = m_floor;
     if (!asked->question.with.empty())
         blamed = m_day;
     if (!m_form->read(*blamed, [&] { show(*asked); }))
-        return;
+        return false;
     m_asked = *asked;
     emit figureChosen();
     desk().say(m_told->text());
+    return true;
+}
+
+void OutlookPage::askMore()
+{
+    if (!ask())
+        return;
+    m_kept = m_asked.question.with;
+    m_amount->clear();
+    m_day->clear();
+    tellKept();
+    m_amount->setFocus(Qt::OtherFocusReason);
+}
+
+void OutlookPage::tellKept()
+{
+    QStringList told(tr("What if? Nothing of this is kept. An amount with a minus comes in."));
+    for (const workbench::OutlookQuestion::Once &once : m_kept)
+        told += tr("Counted already: %1 on %2.")
+                    .arg(workbench::amountText(once.amount, requests().displayAs()),
+                         foundation::presentationText(once.day));
+    m_form->setHeading(told.join(u'\n'));
 }
 
 void OutlookPage::forgetFile()
@@ -199,6 +225,8 @@ void OutlookPage::startAgain()
 
 void OutlookPage::clearFields()
 {
+    m_kept.clear();
+    tellKept();
     m_form->message().withdraw();
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_floor), static_cast<QLineEdit *>(m_without),
                              static_cast<QLineEdit *>(m_amount), static_cast<QLineEdit *>(m_day)})

@@ -44,8 +44,12 @@ private:
         std::optional<numira::Money> floor;
     };
     [[nodiscard]] std::optional<Asked> read();
-    /// Looks ahead as the fields say.
-    void ask();
+    /// Looks ahead as the fields say. False if a field is refused.
+    bool ask();
+    /// Looks ahead as well, keeps the amount with its day, and empties their fields for another.
+    void askMore();
+    /// Tells above the fields which amounts are kept.
+    void tellKept();
     /// Empties the fields, and looks ahead.
     void startAgain();
     void clearFields();
@@ -56,6 +60,7 @@ private:
     void follow();
 
     Asked m_asked;
+    std::vector<workbench::OutlookQuestion::Once> m_kept; ///< what is asked beside the fields
     ShownOutlook m_shown;
     QLabel *m_told;
     ChartView *m_chart;

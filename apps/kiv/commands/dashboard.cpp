@@ -3,6 +3,7 @@
 #include "commands/commands.h"
 
 #include "output/json.h"
+#include "output/set_aside_json.h"
 
 #include "workbench/outlook/outlook_text.h"
 #include "workbench/requests/item_figures.h"
@@ -39,6 +40,16 @@ QJsonObject healthJson(const adviser::BudgetHealth &health)
             {QStringLiteral("reasons"), reasons}};
 }
 
+QJsonObject aheadJson(const workbench::LowestAhead &ahead)
+{
+    return {{QStringLiteral("text"), ahead.text},
+            {QStringLiteral("lowest"), moneyJson(ahead.lowest)},
+            {QStringLiteral("lowestOn"), toJson(ahead.lowestOn)},
+            {QStringLiteral("because"),
+             ahead.because.isEmpty() ? QJsonValue() : QJsonValue(ahead.because)},
+            {QStringLiteral("nextWage"), toJson(ahead.nextWage)}};
+}
+
 struct Dashboard {
     void declare(Arguments &) {}
     Report run(Call &call) const
@@ -57,7 +68,8 @@ struct Dashboard {
         QJsonArray due;
         for (const auto &item : std::get<std::vector<budgeting::BudgetItemAmountDue>>(answer))
             due.append(toJson(item));
-        const QString ahead = workbench::lowestAheadText(call.requests, foundation::today());
+        const workbench::LowestAhead ahead =
+            workbench::lowestAhead(call.requests, foundation::today());
         const auto within = qint64{std::get<std::chrono::days>(answer).count()};
 
         Report report(
@@ -65,7 +77,7 @@ struct Dashboard {
                         {QStringLiteral("health"), healthJson(health)},
                         {QStringLiteral("dueWithinDays"), within},
                         {QStringLiteral("due"), due},
-                        {QStringLiteral("ahead"), QJsonObject{{QStringLiteral("text"), ahead}}},
+                        {QStringLiteral("ahead"), aheadJson(ahead)},
                         {QStringLiteral("notices"), QJsonArray::fromStringList(notices)}});
         report.heading(QObject::tr("Every month"))
             .list({{QObject::tr("Wages"), QStringLiteral("wages")},
@@ -81,8 +93,8 @@ struct Dashboard {
                     {QObject::tr("Kind"), QStringLiteral("kind"), wordText},
                     {QObject::tr("Amount"), QStringLiteral("amount")}},
                    due, QObject::tr("Nothing is due."));
-        if (!ahead.isEmpty())
-            report.heading(QObject::tr("What is to come")).line(ahead);
+        if (!ahead.text.isEmpty())
+            report.heading(QObject::tr("What is to come")).line(ahead.text);
         report.heading(
             QObject::tr("Budget health: %1").arg(adviser::presentationText(health.grade())));
         for (const adviser::HealthReason &reason : health.reasons())
