@@ -10,7 +10,6 @@
 
 #include <random>
 
-using namespace kiv::test;
 using kiv::foundation::Percentage;
 using enum AccountTypes;
 using enum TransactionStatuses;

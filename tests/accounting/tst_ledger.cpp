@@ -5,7 +5,6 @@
 
 #include <rapidcheck.h>
 
-using namespace kiv::test;
 using enum AccountTypes;
 using enum TransactionStatuses;
 

@@ -7,7 +7,6 @@
 #include "support/budgeting.h"
 
 using namespace kiv::budgeting;
-using namespace kiv::test;
 using namespace kiv::adviser;
 
 namespace {

@@ -8,7 +8,6 @@
 #include "support/comparison.h"
 
 using namespace kiv::banking;
-using namespace kiv::test;
 using enum BankAccountTypes;
 
 namespace {

@@ -14,7 +14,6 @@
 #include <rapidcheck.h>
 
 using namespace kiv::budgeting;
-using namespace kiv::test;
 using enum EventFrequency;
 
 namespace {

@@ -16,7 +16,6 @@
 using namespace kiv::conversion;
 using kiv::networking::RequestManager;
 using namespace numira;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

@@ -10,10 +10,6 @@
 
 #include <QtWidgets/QtWidgets>
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// A language whose texts are half as long again, with the letters of others.

@@ -6,9 +6,6 @@
 
 #include <QtWidgets/QtWidgets>
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 struct Section {

@@ -4,9 +4,6 @@
 #include "desktop/page_keys.h"
 #include "help/manual.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
 using networking::Response;
 
 /// What is made of the open file, and help.

@@ -10,9 +10,6 @@
 
 #include <thread>
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// A second, and what a processor that does other work takes in addition, in milliseconds.

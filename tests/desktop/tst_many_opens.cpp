@@ -4,9 +4,6 @@
 #include "desktop/small_household.h"
 #include "support/damage.h"
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// The memory that the program has, in KiB.

@@ -4,10 +4,6 @@
 #include "desktop/page_keys.h"
 #include "widgets/chart_view.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 /// The middle of all that is drawn in a colour.

@@ -4,9 +4,6 @@
 #include "desktop/household_window.h"
 #include "desktop/told.h"
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 /// The window can do what the command can: places.txt names the place of each.
 class TestPlaces : public QObject {
     Q_OBJECT

@@ -8,11 +8,9 @@
 #include "support/surroundings.h"
 #include "workbench/requests/entry_forms.h"
 
-using namespace kiv;
 using namespace accounting;
 using namespace desktop;
 using navigation::Navigator;
-using namespace Qt::Literals::StringLiterals;
 
 /// The register follows the ledger by difference.
 class TestRegisterModel : public QObject {

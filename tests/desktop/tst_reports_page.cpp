@@ -11,10 +11,6 @@
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 QString told(HouseholdWindow &home, const char *label)

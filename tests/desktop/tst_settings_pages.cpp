@@ -6,9 +6,6 @@
 #include "workbench/requests/exchange_rates.h"
 #include "workbench/requests/settings.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
 using networking::Response;
 
 /// The pages of what belongs to the user and not to a budget: exchange rates and settings.

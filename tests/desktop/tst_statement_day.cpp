@@ -3,10 +3,6 @@
 
 #include "desktop/page_keys.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 constexpr std::array accounts{"Checking", "Credit card", "Savings"};

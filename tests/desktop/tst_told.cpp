@@ -17,9 +17,6 @@ QDate kiv::foundation::today()
     return todayIs.isValid() ? todayIs : QDate::currentDate();
 }
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 constexpr int rowsMax = 4; ///< of a table

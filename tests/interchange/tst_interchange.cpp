@@ -20,7 +20,6 @@
 #include "foundation/streams.h"
 
 using namespace kiv::interchange;
-using namespace kiv::test;
 using namespace kiv::accounting;
 using kiv::foundation::escaped;
 using kiv::foundation::toQString;

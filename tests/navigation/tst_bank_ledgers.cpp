@@ -4,8 +4,6 @@
 #include "support/comparison.h"
 #include "support/navigation.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using namespace navigation;
 using Accounts = banking::Bank::Accounts;
 

@@ -5,8 +5,6 @@
 
 #include "navigation/internal/remove_item.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using navigation::BudgetBankAccount;
 
 namespace {

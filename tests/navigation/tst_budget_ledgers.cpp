@@ -5,8 +5,6 @@
 #include "support/message_log.h"
 #include "support/navigation.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using budgeting::ItemTraits;
 using Ledgers = BudgetLedgers;
 

@@ -9,7 +9,6 @@
 
 using kiv::navigation::BudgetWizardTemplates;
 using kiv::navigation::internal::makeBudgetItemGenerator;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -14,7 +14,6 @@ using kiv::foundation::Percentage;
 using namespace kiv::navigation;
 using namespace kiv::tagging;
 using numira::Currency;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

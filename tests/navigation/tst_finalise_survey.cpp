@@ -5,8 +5,6 @@
 
 #include "navigation/internal/finalise_survey.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using namespace accounting;
 using surveying::CompletedSurvey;
 

@@ -7,8 +7,6 @@
 
 #include "navigation/survey_text.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using accounting::Transaction;
 using surveying::MappingSurvey;
 

@@ -5,8 +5,6 @@
 
 #include "conversion/currency_converter.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using banking::BankAccountTypes;
 using conversion::CurrencyConverter;
 

@@ -3,9 +3,6 @@
 
 #include "navigator_requests.h"
 
-using namespace kiv;
-using namespace kiv::test;
-
 /// All that is said to each request stands in navigator_requests.txt, a row for each
 /// situation: "what is special | request; request | answer / answer"; what leaves a slot
 /// stands behind "x ".

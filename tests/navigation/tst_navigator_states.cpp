@@ -7,8 +7,6 @@
 
 #include <rapidcheck.h>
 
-using namespace kiv;
-using namespace kiv::test;
 using storage::BudgetStorage;
 using Data = BudgetStorage::Data;
 

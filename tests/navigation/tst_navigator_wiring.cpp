@@ -10,8 +10,6 @@
 #include "networking/request_manager.h"
 #include "updating/release_information_fetcher.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using namespace conversion;
 
 namespace {

@@ -13,7 +13,6 @@
 using kiv::navigation::internal::UpdateNotifier;
 using kiv::networking::Response;
 using namespace kiv::updating;
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {

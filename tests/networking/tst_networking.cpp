@@ -14,7 +14,6 @@
 #include "support/message_log.h"
 
 using namespace kiv::networking;
-using namespace Qt::StringLiterals;
 
 namespace {
 

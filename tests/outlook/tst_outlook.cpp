@@ -6,9 +6,7 @@
 #include "support/accounting.h"
 
 using namespace kiv::outlook;
-using namespace kiv::test;
 using namespace kiv::budgeting;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 

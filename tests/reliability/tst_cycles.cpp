@@ -8,9 +8,6 @@
 
 #include <malloc.h>
 
-using namespace kiv;
-using namespace kiv::test;
-
 namespace {
 
 /// Bytes that are asked for and not given back, also those that come in large pieces.

@@ -5,9 +5,6 @@
 
 #include "support/damage.h"
 
-using namespace kiv;
-using namespace kiv::test;
-
 /// Every call that a request makes of the storages, the sender, the converter,
 /// the generator of numbers, the ledger, the banks, the surveys and the tags
 /// fails in turn, in every state of a budget.

@@ -5,9 +5,6 @@
 
 #include "storage/budget_file.h"
 
-using namespace kiv;
-using namespace kiv::test;
-
 namespace {
 
 /// Names as copied texts and enemies give them: each hostile piece in each place of an

@@ -5,9 +5,6 @@
 
 #include "support/damage.h"
 
-using namespace kiv;
-using namespace kiv::test;
-
 /// The system has no memory left when a request asks for some: at a few of the
 /// places where it does, or at all of them when there is time.
 class MemoryFaults : public QObject {

@@ -19,10 +19,8 @@
 #include <sqlite3.h>
 #include <sys/resource.h>
 
-using namespace kiv;
 using storage::StorageFailure;
 using Data = storage::BudgetStorage::Data;
-using namespace Qt::StringLiterals;
 
 namespace {
 

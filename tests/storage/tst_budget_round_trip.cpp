@@ -10,7 +10,6 @@
 
 #include <rapidcheck.h>
 
-using namespace kiv;
 using namespace accounting;
 using namespace budgeting;
 using Data = storage::BudgetStorage::Data;

@@ -13,7 +13,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace kiv;
 using storage::StorageFailure;
 using test::bankIn;
 using test::budget;

@@ -8,7 +8,6 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-using namespace kiv;
 using storage::StorageFailure;
 using test::bankIn;
 using test::budget;

@@ -14,8 +14,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-using namespace kiv;
-using namespace Qt::StringLiterals;
 using namespace storage;
 using enum storage::StorageFailure;
 

@@ -5,7 +5,6 @@
 
 #include "storage/rates_file.h"
 
-using namespace kiv;
 using conversion::ConversionMap;
 using namespace storage;
 

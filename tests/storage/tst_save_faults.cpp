@@ -14,7 +14,6 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-using namespace kiv;
 using storage::StorageFailure;
 using test::fail;
 using test::failingCalls;

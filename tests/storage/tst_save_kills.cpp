@@ -15,7 +15,6 @@
 
 #include <thread>
 
-using namespace kiv;
 using namespace std::chrono_literals;
 using test::failingCalls;
 using Data = storage::BudgetStorage::Data;

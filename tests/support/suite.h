@@ -42,3 +42,8 @@ Row rowOf()
 }
 
 } // namespace kiv::test
+
+// What all tests speak of. Only their sources include this, and nothing includes those.
+using namespace kiv;
+using namespace kiv::test;
+using namespace Qt::Literals::StringLiterals;

@@ -8,7 +8,6 @@
 #include "support/comparison.h"
 
 using namespace kiv::surveying;
-using namespace kiv::test;
 using kiv::banking::BankName;
 
 namespace {

@@ -13,7 +13,6 @@
 #include "support/comparison.h"
 
 using namespace kiv::surveying;
-using namespace kiv::test;
 using namespace kiv::banking;
 using namespace kiv::budgeting;
 using enum kiv::banking::BankAccountTypes;

@@ -6,7 +6,6 @@
 #include "support/comparison.h"
 
 using namespace kiv::tagging;
-using namespace kiv::test;
 using namespace kiv::budgeting;
 using enum kiv::budgeting::BudgetItemTypes;
 

@@ -7,8 +7,6 @@
 #include <QtCore/QTranslator>
 #include <set>
 
-using namespace Qt::StringLiterals;
-
 /// What the catalogues make of names that must stay apart.
 class StarterBudgets : public QObject {
     Q_OBJECT

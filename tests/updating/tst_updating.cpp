@@ -14,7 +14,6 @@
 
 using kiv::networking::RequestManager;
 using namespace kiv::updating;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -18,8 +18,6 @@
 #include <thread>
 #include <unistd.h>
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using navigation::Navigator;
 using namespace workbench;

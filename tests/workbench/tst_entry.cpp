@@ -13,11 +13,8 @@
 #include "foundation/local_dates.h"
 #include "support/accounting.h"
 
-using namespace kiv;
-using namespace kiv::test;
 using accounting::Transaction;
 using namespace workbench;
-using namespace Qt::Literals::StringLiterals;
 
 /// What people type to enter and find transactions, and what they are shown.
 class TestEntry : public QObject {

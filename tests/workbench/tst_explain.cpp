@@ -18,8 +18,6 @@
 #include "support/surroundings.h"
 #include "surveying/survey_rules.h"
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
 using namespace numira;
 using namespace workbench;
 

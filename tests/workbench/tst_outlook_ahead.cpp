@@ -16,8 +16,6 @@
 #include "support/message_log.h"
 #include "support/surroundings.h"
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
 using namespace budgeting;
 using Data = storage::BudgetStorage::Data;
 

@@ -15,8 +15,6 @@
 #include "support/message_log.h"
 #include "support/surroundings.h"
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
 using navigation::Navigator;
 using namespace workbench;
 using Data = storage::BudgetStorage::Data;

@@ -6,9 +6,7 @@
 
 #include "support/scripted_sender.h"
 
-using namespace kiv;
 using workbench::AccountIndex;
-using namespace Qt::Literals::StringLiterals;
 
 /// What the transcripts of the command do not reach, since it takes too many cases or
 /// no terminal.
