@@ -71,10 +71,14 @@ A conversion has its rate, with the day and the source; one of the past has its 
   1 USD is 0.8 EUR, typed by hand  TODAY
   1 USD is 0.9 CHF, typed by hand  TODAY
   $ kiv transfer Checking 'Travel cash' '50 USD' --date 2025-03-31 >/dev/null
+  $ kiv transfer 'Travel cash' Checking '10 EUR' --date 2025-03-31 >/dev/null
   $ kiv rates set USD EUR=0.50 >/dev/null; kiv account convert 'Travel cash' --type liability >/dev/null
   $ kiv explain conversion --entry 489 --json | jq -c '.[] | .amount, .lines[1].factor'
   {"amount":"40.00","currency":"EUR"}
   "0.8"
+  $ kiv explain conversion --entry 490 --json | jq -c '.[] | .amount, .lines[1].factor'
+  {"amount":"12.50","currency":"USD"}
+  "1.25"
 
 What cannot be explained is one clear sentence:
 
@@ -94,11 +98,11 @@ What cannot be explained is one clear sentence:
   $ each 2 <<'.'
   > explain conversion
   > explain health wealth
-  > explain outlook 2045-01-01 --date 2025-03-31
+  > explain outlook 2035-04-08 --date 2025-03-31
   > .
   kiv: Give an amount, or a transaction with --entry.
   kiv: 'wealth' is not one of: planned, needs, debts, spending, goals.
-  kiv: 2045-01-01 is not a day to look ahead to; name one from 2025-03-31 to 2035-04-07.
+  kiv: 2035-04-08 is not a day to look ahead to; name one from 2025-03-31 to 2035-04-07.
   $ kiv new empty >/dev/null
   $ each 1 <<'.'
   > explain health --file empty

@@ -24,11 +24,11 @@ A change that breaks one is told, once; then each command tells it.
   $ kiv reconciliations --json | jq -c '.[0] | .holds, .difference'
   true
   {"kind":"unmarked","now":{"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"date":"2026-01-28","debit":3,"number":2},"text":"1 Checking is as it was reconciled, but #2, $1,250.00, is no longer marked as reconciled since the survey of 2026-01-31.","then":{"amount":{"amount":"1250.00","currency":"USD"},"credit":1,"date":"2026-01-28","debit":3,"number":2}}
-  $ kiv transaction update 2 --amount 1200 --date 2026-01-27
-  kiv: warning: 1 Checking is not as it was reconciled: #2 was changed from 2026-01-28, $1,250.00 to 2026-01-27, $1,200.00 after the survey of 2026-01-31. See kiv reconciliations.
+  $ kiv transaction update 2 --amount 1200 --date 2026-01-27 --debit Salary
+  kiv: warning: 1 Checking is not as it was reconciled: #2 was changed from 2026-01-28, $1,250.00, 3 Rent to 2026-01-27, $1,200.00, 4 Salary after the survey of 2026-01-31. See kiv reconciliations.
   Changed transaction 2.
   $ kiv transaction remove 2
-  kiv: warning: 1 Checking is not as it was reconciled: #2 was changed from 2026-01-28, $1,250.00 to 2026-01-27, $1,200.00 after the survey of 2026-01-31. See kiv reconciliations.
+  kiv: warning: 1 Checking is not as it was reconciled: #2 was changed from 2026-01-28, $1,250.00, 3 Rent to 2026-01-27, $1,200.00, 4 Salary after the survey of 2026-01-31. See kiv reconciliations.
   Removed the transaction 2.
   $ kiv accounts --type asset
   kiv: warning: 1 Checking is not as it was reconciled: #2, $1,250.00, was removed after the survey of 2026-01-31. See kiv reconciliations.

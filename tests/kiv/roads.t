@@ -20,6 +20,7 @@ It is a warning, and the entry stands:
   > refund 7 5 --date 2026-02-01
   > transaction update 7 --description 'nothing new is said'
   > pay Salary 10 --account Groceries --date 2026-02-01
+  > earn 1 Salary --date 2010-02-01
   > .
   kiv: warning: The goals at Savings hold $60.00 more than there is.
   kiv: warning: The goal 'Trip' has $160.00 now, more than its target of $150.00.
@@ -35,7 +36,7 @@ What comes to nothing does not stop what else is due:
   $ kiv bill add Zero 0 --next 2026-01-30 >/dev/null
   $ kiv post --all --kind bill --account Checking --date 2026-01-31
   kiv: warning: 'Zero' has an amount of zero and was skipped.
-  kiv: warning: Checking is below zero: -$55.00.
+  kiv: warning: Checking is below zero: -$54.00.
   Posted the bill 'Rent', due on 2026-01-31: $1,250.00.
   $ kiv bill list | grep Zero
   Zero      $0.00  monthly  2026-02-28
@@ -75,7 +76,9 @@ An account goes to another bank with its goals, its survey and what is set aside
   [["Tax","150.00"],["Trip","300.00"]]
   $ kiv reconciliations | tail -1
   Second  Assets:Checking  2026-03-25            $2,500.00             2  holds
-  $ kiv undo >/dev/null
+  $ kiv undo | sed -n 3,4p
+  bank    First     changed  accounts  \xe2\x86\x92 1, 7 (esc)
+  bank    Second    changed  accounts 1, 5, 7 \xe2\x86\x92 5 (esc)
 
 Another account takes its place. The statements of both show the whole transfer:
 

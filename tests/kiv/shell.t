@@ -69,9 +69,14 @@ by version; a new change ends redo:
   Restored the state of TIME.
   What     Name       Change   Detail
   item     bill Toll  removed  10.00 USD, monthly, 2026-02-01
-  $ printf 'undo\nundo\nredo --steps 2\nundo --to 5\nundo --to 7\nbill add Zoo 1\nsave\nbill add Bus 1\nundo --to 8\n' |
-  >     kiv shell | grep -c Restored
-  6
+  $ printf '%s\n' undo undo 'redo --steps 9' 'redo --steps 2' redo 'undo --steps 40' 'undo --to 5' 'undo --to 7' \
+  >     'bill add Zoo 1' save 'bill add Bus 1' 'undo --to 8' |
+  >     kiv shell 2>&1 | sed -n 's/Restored.*/Restored/p; /^kiv:/p' | uniq -c | sed 's/^ *//'
+  2 Restored
+  1 kiv: Only 3 changes can be redone.
+  2 Restored
+  1 kiv: Only 6 changes can be undone.
+  3 Restored
   $ kiv history --json | jq -r '.[] | select(.present).change'
   Added the bill 'Zoo'
   $ kiv save

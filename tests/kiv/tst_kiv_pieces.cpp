@@ -19,9 +19,6 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
-
 /// The pieces of the command that have more cases than are worth a process
 /// each.
 class TestKivPieces : public QObject {

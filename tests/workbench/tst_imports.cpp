@@ -11,9 +11,6 @@
 #include "workbench/requests/budget_view.h"
 #include "workbench/statements/import_reading.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
 using interchange::StatementEntry;
 using navigation::Navigator;
 using namespace workbench;
@@ -124,6 +121,16 @@ private slots:
         const QStringList wanted = given.expected.split(u'\n');
         for (qsizetype line = 0; line < lines.size(); ++line)
             QCOMPARE(lines[line], wanted.value(line));
+    }
+
+    void theNewestThatWasLearnedStays()
+    {
+        ImportMemory memory;
+        for (int payee = 0; payee < 1'500; ++payee)
+            memory.learn(QString::number(payee).rightJustified(120, u'x'), no(5));
+        const auto kept = ImportMemory::of(memory.keptIn({})).learned;
+        QCOMPARE(kept.size(), std::size_t{420}); // as many as a note holds
+        QCOMPARE(kept.back(), memory.learned.back());
     }
 
     /// Whatever was typed before, and however the files overlap and follow each other, each

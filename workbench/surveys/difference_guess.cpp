@@ -37,17 +37,13 @@ std::optional<std::int64_t> unitsOf(const Money &money, const numira::Currency &
 /// Whether the two differ only in two digits side by side that changed places.
 bool areDigitsSwapped(std::int64_t a, std::int64_t b)
 {
-    const std::string one = std::to_string(std::abs(a));
-    const std::string other = std::to_string(std::abs(b));
-    if (one.size() != other.size() || (a < 0) != (b < 0))
+    std::string one = std::to_string(a);
+    const std::string other = std::to_string(b);
+    const auto first = std::ranges::mismatch(one, other).in1;
+    if (first == one.end() || first + 1 == one.end())
         return false;
-    const auto [at, there] = std::ranges::mismatch(one, other);
-    const auto place = static_cast<std::size_t>(at - one.begin());
-    std::string swapped = one;
-    if (place + 1 >= swapped.size())
-        return false;
-    std::swap(swapped[place], swapped[place + 1]);
-    return swapped == other;
+    std::swap(*first, *(first + 1));
+    return one == other;
 }
 
 class Guessing {
