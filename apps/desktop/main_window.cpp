@@ -13,6 +13,7 @@
 #include <QtCore/QFileInfo>
 #include <QtGui/QActionGroup>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QFontInfo>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QListWidget>
@@ -231,10 +232,7 @@ void MainWindow::applyLooks()
 {
     QApplication::setPalette(paletteFor(m_given.settings.appearance(), m_systemPalette));
     QFont font = m_systemFont;
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * m_given.settings.textSize() / 100.0);
-    else
-        font.setPixelSize(font.pixelSize() * m_given.settings.textSize() / 100);
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * m_given.settings.textSize() / 100.0);
     QApplication::setFont(font);
     // The list of pages is as wide as its longest name. It hears of the size only later.
     const QFontMetrics letters(font);

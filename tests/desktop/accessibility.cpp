@@ -234,6 +234,13 @@ QStringList misfits(QWidget &root)
             if (left < 0 || left + widget->width() > seen.width())
                 faults += described(*widget) + QStringLiteral(": beyond the side");
         }
+        if (const auto *label = qobject_cast<const QLabel *>(widget); label && !label->buddy()) {
+            const bool isCut = label->text().endsWith(u'.') && !label->wordWrap() &&
+                               !qobject_cast<const QStatusBar *>(label->parentWidget());
+            const int high = std::max(label->heightForWidth(label->width()), needed.height());
+            if (label->textFormat() != Qt::PlainText || isCut || label->height() > 3 * high)
+                faults += described(*widget) + QStringLiteral(": markup, cut or stretched");
+        }
         if (const auto *list = qobject_cast<const QListWidget *>(widget);
             list && list->horizontalScrollBar()->isVisible())
             faults += described(*widget) + QStringLiteral(": its lines are cut off");

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "application/desktop_keyring.h"
 #include "desktop/page_keys.h"
 
-using namespace kiv;
-using namespace Qt::StringLiterals;
 using test::message;
 using test::part;
 using test::press;
@@ -34,6 +33,15 @@ class TestEncryptionPage : public QObject {
     Q_OBJECT
 
 private slots:
+    void aDesktopWithoutAKeyringKeepsNothing()
+    {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+        desktop::DesktopKeyring keyring;
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, keyring.keep(u"home"_s, words));
+        QCOMPARE(keyring.kept(u"home"_s), std::nullopt);
+        keyring.forget(u"home"_s);
+    }
+
     void aPassphraseIsTypedTwice()
     {
         SmallHousehold home;
@@ -42,12 +50,15 @@ private slots:
         fill(home, words, u"other words"_s);
         QVERIFY(message(home).contains(u"not the same"_s));
         QCOMPARE(part<QLineEdit>(home, "passphrase").text(), words);
+        press(home, Qt::Key_Escape);
+        QVERIFY(part<QLineEdit>(home, "passphrase").text().isEmpty());
         fill(home, {}, {});
         QVERIFY(message(home).contains(u"at least one"_s));
         QVERIFY(!isEncrypted(file));
         QVERIFY(!part<QPushButton>(home, "decrypt").isEnabled());
 
         fill(home, words, words);
+        QCOMPARE(home.notices(), QStringList());
         QVERIFY(isEncrypted(file));
         QCOMPARE(home.window().windowTitle(), u"home (saved, encrypted)"_s);
         QVERIFY(part<QLineEdit>(home, "passphrase").text().isEmpty());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/suite.h"
 
+#include "application/start_options.h"
 #include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 #include "support/accounting.h"
@@ -13,9 +14,6 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
-
-using namespace kiv;
-using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -45,6 +43,19 @@ class TestFileSession : public QObject {
     Q_OBJECT
 
 private slots:
+    void theFileStandsBesideTheOptions()
+    {
+        const auto read = [](const QString &words) {
+            return desktop::readStartOptions(u"kiv-desktop %1"_s.arg(words).split(u' '));
+        };
+        for (const QString &words : {u"-a home"_s, u"home -a"_s, u"-a -- home"_s}) {
+            QCOMPARE(read(words).file, u"home"_s);
+            QVERIFY(read(words).showsTerms());
+        }
+        QCOMPARE(read(u"-- -a"_s).file, u"-a"_s);
+        QVERIFY(!read(u"-- -a"_s).showsTerms() && !read(u"-a -j home"_s).showsTerms());
+    }
+
     void aNewBudgetHasAFileFromTheStart()
     {
         HouseholdWindow desk;
@@ -104,9 +115,15 @@ private slots:
         QVERIFY(desk.notices().join(u' ').contains(u"damaged.budget"_s));
         QVERIFY(!desk.window().open(desk.path(u"none.budget"_s)));
         QVERIFY(desk.notices().join(u' ').contains(u"none.budget"_s));
+        QVERIFY(desk.window().open(desk.path(u"home.budget"_s)));
+        QCOMPARE(desk.notices(), QStringList());
     }
 
-    void changesCanBeGivenUpForAnotherFile()
+    void unsavedChangesAreGivenUpOrSavedElsewhere_data()
+    {
+        addRows<int>({{"saved elsewhere", 1}, {"given up", 2}});
+    }
+    void unsavedChangesAreGivenUpOrSavedElsewhere()
     {
         HouseholdWindow desk;
         QVERIFY(QDir().mkpath(desk.path(u"disk"_s)));
@@ -118,16 +135,18 @@ private slots:
         desk.trigger("save");
         QVERIFY(QDir().rename(desk.path(u"disk"_s), desk.path(u"gone"_s)));
         addAccount(desk.document(), u"Books"_s);
-        desk.questions().choices = {2};
+        desk.questions().choices = {rowOf<int>()};
+        desk.questions().files = {desk.path(u"elsewhere"_s)};
         QVERIFY(desk.window().open(desk.path(u"spare"_s)));
         QVERIFY(!has(desk.document(), u"Food"_s));
+        QCOMPARE(QFile::exists(desk.path(u"elsewhere.budget"_s)), rowOf<int>() == 1);
         QCOMPARE(desk.window().windowTitle(), u"spare (saved)"_s);
     }
 
     void aDamagedFileIsBroughtBack_data()
     {
-        kiv::test::addRows<QString>({{"the newest", u"Bring the newest whole version back"_s},
-                                     {"one that is chosen", u"Look at former versions"_s}});
+        addRows<QString>({{"the newest", u"Bring the newest whole version back"_s},
+                          {"one that is chosen", u"Look at former versions"_s}});
     }
     void aDamagedFileIsBroughtBack()
     {
@@ -138,7 +157,7 @@ private slots:
         QVERIFY(QFile::resize(file, QFileInfo(file).size() - 1));
         QVERIFY(!desk.window().open(file));
         QVERIFY(has(desk.document(), u"Rent"_s));
-        auto *choice = buttonOfNotice(desk, kiv::test::rowOf<QString>());
+        auto *choice = buttonOfNotice(desk, rowOf<QString>());
         QVERIFY(choice);
         desk.questions().choices = {0};
         choice->click();
@@ -160,6 +179,49 @@ private slots:
                  *second.document().whyReadOnly());
         QVERIFY_THROWS_EXCEPTION(workbench::Refusal, addAccount(second.document(), u"Food"_s));
         QVERIFY(!has(second.document(), u"Food"_s));
+        begin(first, u"other"_s);
+        buttonOfNotice(second, u"Try again"_s)->click();
+        QCOMPARE(second.window().windowTitle(), u"home (saved)"_s);
+    }
+
+    void aFormerBudgetIsOpenedFromTheStart()
+    {
+        HouseholdWindow desk;
+        begin(desk, u"home & garden"_s);
+        HouseholdWindow other;
+        desktop::MainWindow window(
+            {other.document(), desk.settings(), other.questions(), other.keyring(), false});
+        window.show();
+        QApplication::setActiveWindow(&window);
+        auto *button = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        QVERIFY(button);
+        QCOMPARE(button->text(), u"home && garden"_s);
+        QCOMPARE(button->accessibleDescription(), desk.path(u"home & garden.budget"_s));
+        button->click();
+        QTRY_COMPARE(window.windowTitle(), u"home & garden (read only)"_s);
+    }
+
+    /// The dialogs themselves, which a script stands for elsewhere.
+    void filesAreChosenInDialogs()
+    {
+        const QTemporaryDir folder;
+        desktop::DialogQuestions questions;
+        const auto after = [&folder](int key, const std::function<QString()> &ask) {
+            QTimer::singleShot(0, qApp, [&folder, key] {
+                QWidget *dialog = QApplication::activeModalWidget();
+                dialog->findChild<QLineEdit *>()->setText(folder.filePath(u"typed"_s));
+                QTest::keyClick(dialog, Qt::Key(key));
+            });
+            return ask();
+        };
+        const auto make = [&] { return questions.fileToMake(nullptr, u"New"_s); };
+        const auto sheet = [&] { return questions.fileToExport(nullptr, u"csv"_s); };
+        for (int time = 0; time < 2; ++time) { // what is there already is refused elsewhere
+            QCOMPARE(after(Qt::Key_Return, make), folder.filePath(u"typed.budget"_s));
+            QVERIFY(QFile(folder.filePath(u"typed.budget"_s)).open(QFile::WriteOnly));
+        }
+        QCOMPARE(after(Qt::Key_Return, sheet), folder.filePath(u"typed.csv"_s));
+        QCOMPARE(after(Qt::Key_Escape, make) + after(Qt::Key_Escape, sheet), QString());
     }
 
     void aFailedWriteIsToldAndMended_data()
@@ -197,7 +259,10 @@ private slots:
 
         full.reset();
         QVERIFY(isFull || QDir().rename(desk.path(u"gone"_s), desk.path(u"disk"_s)));
-        desk.trigger("save");
+        if (isFull)
+            desk.trigger("save");
+        else
+            buttonOfNotice(desk, u"Try again"_s)->click();
         QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
         QCOMPARE(desk.notices().size(), 1); // of the file that was not there
         QVERIFY(desk.notices().first().contains(u"none.budget"_s));
@@ -271,12 +336,11 @@ private slots:
     void allKeysAreListedAndFound_data()
     {
         const QString undo = u"Undo  –  Ctrl+Z  –  There is nothing to undo."_s;
-        kiv::test::addRows<QString>(
-            {{"undo", undo},
-             {"ctrl+z", undo},
-             {"space TICK", u"In a survey: tick the row, and go down  –  Space"_s},
-             {"dark", u"Dark"_s},
-             {"ctrl+nothing", {}}});
+        addRows<QString>({{"undo", undo},
+                          {"ctrl+z", undo},
+                          {"space TICK", u"In a survey: tick the row, and go down  –  Space"_s},
+                          {"dark", u"Dark"_s},
+                          {"ctrl+nothing", {}}});
     }
     void allKeysAreListedAndFound()
     {
@@ -288,13 +352,12 @@ private slots:
         QTest::keyClick(before, Qt::Key_Question, Qt::ControlModifier);
         const auto *list = listOf(desk, u"keys"_s);
         QVERIFY(list && list->isVisible());
-        QCOMPARE(kiv::test::nameless(desk.window()), QStringList());
+        QCOMPARE(nameless(desk.window()), QStringList());
         for (const QAction *one : desk.window().desk().actions().all())
             QVERIFY2(!list->findItems(one->iconText(), Qt::MatchStartsWith).isEmpty(),
                      qPrintable(one->iconText()));
         QTest::keyClicks(QApplication::focusWidget(), QLatin1String(QTest::currentDataTag()));
-        QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(),
-                 kiv::test::rowOf<QString>());
+        QCOMPARE(list->currentItem() ? list->currentItem()->text() : QString(), rowOf<QString>());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!list->isVisible());
         QCOMPARE(QApplication::focusWidget(), before);

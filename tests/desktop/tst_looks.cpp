@@ -10,10 +10,6 @@
 
 #include <QtWidgets/QtWidgets>
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 /// The window's size, its text in percent, the action for its colours, and its direction.
 using Look = std::tuple<QSize, int, QByteArray, bool>;
 
@@ -32,11 +28,12 @@ private slots:
         layout->addWidget(narrow, 0, 0);
         layout->addWidget(new QPushButton(u"Over"_s, &form), 1, 0);
         layout->addWidget(new QPushButton(u"Under"_s, &form), 1, 0);
+        layout->addWidget(new QLabel(u"<b>Bold</b>"_s, &form), 2, 0);
         auto *lost = new QPushButton(u"Lost"_s, &form);
         form.show();
         lost->move(form.width(), 0);
         lost->show();
-        QCOMPARE(misfits(form).size(), 4);
+        QCOMPARE(misfits(form).size(), 5);
     }
 
     void allPagesFit_data()
@@ -94,12 +91,14 @@ private slots:
         desk.trigger("page settings");
         desk.window().findChild<QWidget *>(u"appearance"_s)->setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+        desk.trigger("entryRow");
         desk.window().close();
         QApplication::setPalette(usual);
-        const desktop::MainWindow again(
+        desktop::MainWindow again(
             {desk.document(), desk.settings(), desk.questions(), desk.keyring(), false});
         QCOMPARE(again.size(), QSize(1017, 613));
         QVERIFY(desktop::isDark(QApplication::palette()));
+        QVERIFY(!again.desk().actions().action(u"entryRow"_s)->isChecked());
         QApplication::setPalette(usual);
     }
 

@@ -6,10 +6,6 @@
 
 #include "workbench/versions/kept_versions.h"
 
-using namespace kiv;
-using namespace kiv::test;
-using namespace Qt::Literals::StringLiterals;
-
 /// The pages beside the register, used by keys.
 class TestPages : public QObject {
     Q_OBJECT
@@ -61,6 +57,8 @@ private slots:
         const QAction *explain = home.window().desk().actions().action(u"explain"_s);
         QVERIFY(!desktop::ActionCollection::reason(explain).isEmpty());
         table(home, "steps").choose(u"version 1"_s);
+        QTRY_VERIFY(part<QLabel>(home, "difference").isVisible());
+        QVERIFY(part<QLabel>(home, "difference").text().contains(u"damaged"_s));
         press(home, Qt::Key_B, Qt::AltModifier);
         QVERIFY(!message(home).isEmpty());
         QCOMPARE(home.requests().transactions().size(), std::size_t{2});

@@ -57,6 +57,7 @@ void DuePage::build()
     layout->addWidget(m_table, 1);
     layout->addWidget(m_message);
     layout->addWidget(m_form);
+    layout->addStretch(); // while nothing is due
     addForm();
 }
 

@@ -119,7 +119,6 @@ void EncryptionPage::encrypt()
     desk().notices().remove(notice);
     if (!sentences.isEmpty())
         desk().notices().add({notice, sentences.join(u' '), {}});
-    refresh();
 }
 
 void EncryptionPage::decrypt()
@@ -130,10 +129,8 @@ void EncryptionPage::decrypt()
         if (!left.isEmpty())
             desk().notices().add({QStringLiteral("encryption"), left, {}});
     });
-    if (!isDone)
-        return;
-    desk().forgetPassphrase(document.file());
-    refresh();
+    if (isDone)
+        desk().forgetPassphrase(document.file());
 }
 
 } // namespace kiv::desktop

@@ -43,8 +43,6 @@ EntryFields::EntryFields(FieldMessage &message, QWidget *parent)
     addField(1, 1, m_reasonLabel, tr("Reaso&n"), m_reason);
     addField(1, 2, m_dayLabel, tr("Da&y"), m_day);
     m_day->setDay(foundation::today());
-    followForm();
-    followCurrency();
 }
 
 void EntryFields::addField(int row, int column, QLabel *&label, const QString &text, QWidget *field)

@@ -66,7 +66,9 @@ void EntryRow::build()
     for (const QString &text : {tr("&Spent"), tr("Earne&d"), tr("&Moved")})
         m_forms->addTab(text);
     head->addWidget(m_forms);
-    head->addWidget(m_taskLabel);
+    m_taskLabel->setTextFormat(Qt::PlainText);
+    m_taskLabel->setWordWrap(true);
+    head->addWidget(m_taskLabel, 1);
     head->addStretch();
     head->addWidget(m_addLine);
     m_whyNot->setTextFormat(Qt::PlainText);

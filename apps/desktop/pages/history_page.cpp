@@ -48,7 +48,7 @@ HistoryPage::HistoryPage(Desk &desk)
     m_changeTable->setObjectName(QStringLiteral("changes"));
     m_goBack->setObjectName(QStringLiteral("goBack"));
     m_unlock->setObjectName(QStringLiteral("unlock"));
-    m_unlock->hide();
+    m_difference->setObjectName(QStringLiteral("difference"));
     m_difference->setTextFormat(Qt::PlainText);
     m_difference->setWordWrap(true);
     m_pause.setSingleShot(true);

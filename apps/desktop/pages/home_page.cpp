@@ -109,6 +109,8 @@ HomePage::HomePage(Desk &desk)
     layout->addWidget(m_lookAhead, 0, Qt::AlignLeft);
     m_balancesHeading = addHeading(*layout, {});
     m_balanceTable->setObjectName(QStringLiteral("balances"));
+    m_noBalances->setTextFormat(Qt::PlainText);
+    m_noBalances->setWordWrap(true);
     layout->addWidget(m_noBalances);
     layout->addWidget(m_balanceTable);
     m_balanceTable->fit(balancesMax);

@@ -36,6 +36,7 @@ ListPage::ListPage(Desk &desk, const QString &id, const QString &title, const QS
     sides->addWidget(m_side, 2);
     (new QVBoxLayout(m_side))->setContentsMargins({});
     m_side->hide();
+    m_none->setTextFormat(Qt::PlainText);
     m_none->setWordWrap(true);
     m_list->addWidget(m_none);
     m_list->addWidget(m_table, 1);

@@ -36,6 +36,7 @@ RatesPage::RatesPage(Desk &desk)
     m_form->addButton(QStringLiteral("keep"), tr("&Keep this rate"), [this] { keep(); });
     m_fetch =
         m_form->addButton(QStringLiteral("fetch"), tr("Fetch &all rates now"), [this] { fetch(); });
+    m_none->setTextFormat(Qt::PlainText);
     m_none->setWordWrap(true);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_none);

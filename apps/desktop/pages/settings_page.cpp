@@ -142,6 +142,7 @@ QWidget *SettingsPage::makeTags()
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins({});
     m_noTags = new QLabel(tr("There are no tags. An item's tags are set with the item."), side);
+    m_noTags->setTextFormat(Qt::PlainText);
     m_noTags->setWordWrap(true);
     m_removeTag = new QPushButton(tr("&Remove this tag"), side);
     m_removeTag->setObjectName(QStringLiteral("removeTag"));

@@ -8,6 +8,7 @@
 #include "workbench/entry/money_text.h"
 
 #include <QtCore/QEvent>
+#include <QtGui/QFontInfo>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
@@ -58,10 +59,7 @@ QPushButton *SurveyFoot::addButton(const QString &id, const QString &text)
 void SurveyFoot::enlarge()
 {
     QFont large = font();
-    if (large.pointSizeF() > 0)
-        large.setPointSizeF(large.pointSizeF() * 1.5);
-    else
-        large.setPixelSize(large.pixelSize() * 3 / 2);
+    large.setPointSizeF(QFontInfo(large).pointSizeF() * 1.5);
     if (m_figures->font() != large)
         m_figures->setFont(large);
 }

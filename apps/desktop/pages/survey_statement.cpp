@@ -38,12 +38,12 @@ SurveyStatement::SurveyStatement(Desk &desk, QWidget *parent, Add add, MissingFo
     m_file = m_form->addButton(QStringLiteral("layFile"), tr("Lay a ban&k's file beside …"),
                                [this] { emit fileWanted(); });
     m_told->setObjectName(QStringLiteral("told"));
-    m_told->setTextFormat(Qt::PlainText);
     m_import->setObjectName(QStringLiteral("importMissing"));
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_form);
     for (QLabel *label : {m_sign, m_told}) {
+        label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
         layout->addWidget(label);
     }

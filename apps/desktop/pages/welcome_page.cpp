@@ -34,6 +34,7 @@ WelcomePage::WelcomePage(Desk &desk)
         tr("kiv keeps your household's money: what you have, what is due, and what is left to "
            "spend. A budget is one file on your computer; nothing of it is sent anywhere."),
         this);
+    text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     layout->addStretch();
     layout->addWidget(text);

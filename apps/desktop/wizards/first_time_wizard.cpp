@@ -82,6 +82,7 @@ QWidget *FirstTimeWizard::addStep(const QString &heading)
     layout->setContentsMargins({});
     auto *label = new QLabel(
         tr("Step %1 of %2: %3").arg(m_steps->count() + 1).arg(std::size(steps)).arg(heading), step);
+    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     layout->addWidget(label);
     step->setAccessibleName(label->text());
@@ -159,6 +160,7 @@ void FirstTimeWizard::addHouseholdStep()
 void FirstTimeWizard::addWaysOut()
 {
     auto *label = new QLabel(tr("Or begin in another way:"), this);
+    label->setTextFormat(Qt::PlainText);
     auto *row = new FlowLayout;
     row->addWidget(label);
     for (const char *id : {"new", "open", "demonstration"}) {
