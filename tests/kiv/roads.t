@@ -77,7 +77,7 @@ An account goes to another bank with its goals, its survey and what is set aside
   $ kiv reconciliations | tail -1
   Second  Assets:Checking  2026-03-25            $2,500.00             2  holds
   $ kiv undo | sed -n 3,4p
-  bank    First     changed  accounts  \xe2\x86\x92 1, 7 (esc)
+  bank    First     changed  accounts \xe2\x80\x93 \xe2\x86\x92 1, 7 (esc)
   bank    Second    changed  accounts 1, 5, 7 \xe2\x86\x92 5 (esc)
 
 Another account takes its place. The statements of both show the whole transfer:

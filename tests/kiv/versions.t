@@ -121,7 +121,7 @@ Differences are told field by field:
   transaction  2           added    2026-02-03, 5.00 USD, Processed unexpected budget item 'Rent'.
   $ kiv history diff 5 6
   What  Name       Change   Detail
-  item  bill Rent  changed  amount 1250.00 USD \xe2\x86\x92 1300.00 USD, tags  \xe2\x86\x92 home (esc)
+  item  bill Rent  changed  amount 1250.00 USD \xe2\x86\x92 1300.00 USD, tags \xe2\x80\x93 \xe2\x86\x92 home (esc)
   $ kiv history diff --json | jq -c '.[0]'
   {"after":{"balance":{"amount":"2495.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"before":{"balance":{"amount":"2500.00","currency":"USD"},"name":"Checking","number":1,"open":true,"parent":null,"path":"Assets:Checking","type":"asset"},"change":"changed","name":"1 Checking","what":"account"}
   $ kiv bill update Rent --every every-two-weeks --next 2026-03-01 >/dev/null

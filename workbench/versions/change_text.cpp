@@ -59,6 +59,11 @@ QString text(accounting::TransactionStatuses status)
     return QObject::tr("none", "the status of a transaction");
 }
 
+QString text(const QStringList &several)
+{
+    return several.isEmpty() ? none : several.join(QStringLiteral(", "));
+}
+
 QString openText(bool isClosed)
 {
     return isClosed ? QObject::tr("closed") : QObject::tr("open", "the state of an account");
@@ -74,7 +79,7 @@ Fields fieldsOf(const ItemState &item)
             {QObject::tr("next"), text(item.next), true},
             {QObject::tr("borrowed"), text(item.borrowed)},
             {QObject::tr("target"), text(item.target)},
-            {QObject::tr("tags"), tags.join(QStringLiteral(", "))}};
+            {QObject::tr("tags"), text(tags)}};
 }
 
 Fields fieldsOf(const AccountState &account)
@@ -111,7 +116,7 @@ Fields fieldsOf(const BankState &bank)
     QStringList numbers;
     for (const accounting::AccountNumber number : bank.accounts)
         numbers += accounting::presentationText(number);
-    return {{QObject::tr("accounts"), numbers.join(QStringLiteral(", "))},
+    return {{QObject::tr("accounts"), text(numbers)},
             {QObject::tr("state"), openText(bank.isClosed)}};
 }
 
