@@ -232,6 +232,7 @@ void MainWindow::applyLooks()
 {
     QApplication::setPalette(paletteFor(m_given.settings.appearance(), m_systemPalette));
     QFont font = m_systemFont;
+    // A font whose size is given in pixels does not know its points itself.
     font.setPointSizeF(QFontInfo(font).pointSizeF() * m_given.settings.textSize() / 100.0);
     QApplication::setFont(font);
     // The list of pages is as wide as its longest name. It hears of the size only later.

@@ -43,7 +43,7 @@ Row rowOf()
 
 } // namespace kiv::test
 
-// What all tests speak of. Only their sources include this, and nothing includes those.
+// Named once for all tests: only their sources include this header.
 using namespace kiv;
 using namespace kiv::test;
 using namespace Qt::Literals::StringLiterals;

@@ -27,7 +27,7 @@ namespace kiv::workbench {
 struct LowestAhead {
     /// In words. Why not, if it cannot be told; empty if there is nothing to tell.
     QString text;
-    /// All together. Nothing without it, and then the rest is empty.
+    /// Of all accounts together. Nothing if that is not told; the rest is empty then.
     std::optional<numira::Money> lowest = {};
     QDate lowestOn = {};  ///< the day
     QString because = {}; ///< the payment that makes it the lowest; empty without one

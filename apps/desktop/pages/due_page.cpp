@@ -57,7 +57,7 @@ void DuePage::build()
     layout->addWidget(m_table, 1);
     layout->addWidget(m_message);
     layout->addWidget(m_form);
-    layout->addStretch(); // while nothing is due
+    layout->addStretch(); // the room of the table, which hides while nothing is due
     addForm();
 }
 

@@ -138,7 +138,7 @@ void OutlookPage::refresh()
     m_without->offer(itemNames(workbench::BudgetView(requests())));
     m_asked.question.first = foundation::today();
     show(m_asked);
-    tellKept();
+    tellCounted();
 }
 
 std::optional<OutlookPage::Asked> OutlookPage::read()
@@ -146,7 +146,7 @@ std::optional<OutlookPage::Asked> OutlookPage::read()
     const numira::Currency preferred = requests().preferredCurrency();
     Asked asked;
     asked.question.first = foundation::today();
-    asked.question.with = m_kept;
+    asked.question.with = m_counted;
     const auto readOnce = [&] {
         asked.question.with.push_back({QDate(), m_amount->amount().in(preferred)});
     };
@@ -178,9 +178,9 @@ bool OutlookPage::ask()
     const std::optional<Asked> asked = read();
     if (!asked)
         return false;
-    QLineEdit *blamed = m_floor;
-    if (!asked->question.with.empty())
-        blamed = m_day;
+    // Too few days refuse what is counted already, too.
+    const bool isTyped = asked->question.with.size() > m_counted.size();
+    QLineEdit *blamed = isTyped ? static_cast<QLineEdit *>(m_day) : m_days;
     if (!m_form->read(*blamed, [&] { show(*asked); }))
         return false;
     m_asked = *asked;
@@ -193,17 +193,17 @@ void OutlookPage::askMore()
 {
     if (!ask())
         return;
-    m_kept = m_asked.question.with;
+    m_counted = m_asked.question.with;
     m_amount->clear();
     m_day->clear();
-    tellKept();
+    tellCounted();
     m_amount->setFocus(Qt::OtherFocusReason);
 }
 
-void OutlookPage::tellKept()
+void OutlookPage::tellCounted()
 {
     QStringList told(tr("What if? Nothing of this is kept. An amount with a minus comes in."));
-    for (const workbench::OutlookQuestion::Once &once : m_kept)
+    for (const workbench::OutlookQuestion::Once &once : m_counted)
         told += tr("Counted already: %1 on %2.")
                     .arg(workbench::amountText(once.amount, requests().displayAs()),
                          foundation::presentationText(once.day));
@@ -225,8 +225,8 @@ void OutlookPage::startAgain()
 
 void OutlookPage::clearFields()
 {
-    m_kept.clear();
-    tellKept();
+    m_counted.clear();
+    tellCounted();
     m_form->message().withdraw();
     for (QLineEdit *field : {static_cast<QLineEdit *>(m_floor), static_cast<QLineEdit *>(m_without),
                              static_cast<QLineEdit *>(m_amount), static_cast<QLineEdit *>(m_day)})

@@ -46,10 +46,10 @@ private:
     [[nodiscard]] std::optional<Asked> read();
     /// Looks ahead as the fields say. False if a field is refused.
     bool ask();
-    /// Looks ahead as well, keeps the amount with its day, and empties their fields for another.
+    /// Looks ahead, goes on counting the amount, and empties its fields for another one.
     void askMore();
-    /// Tells above the fields which amounts are kept.
-    void tellKept();
+    /// Tells above the fields which amounts are counted beside theirs.
+    void tellCounted();
     /// Empties the fields, and looks ahead.
     void startAgain();
     void clearFields();
@@ -60,7 +60,7 @@ private:
     void follow();
 
     Asked m_asked;
-    std::vector<workbench::OutlookQuestion::Once> m_kept; ///< what is asked beside the fields
+    std::vector<workbench::OutlookQuestion::Once> m_counted; ///< beside what the fields have
     ShownOutlook m_shown;
     QLabel *m_told;
     ChartView *m_chart;
