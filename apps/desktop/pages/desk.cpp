@@ -121,14 +121,10 @@ void Desk::forgetPassphrase(const QString &file)
 
 void Desk::keepPassphrase(const QString &file, const QString &passphrase)
 {
-    const QString notice = QStringLiteral("keyring");
-    notices().remove(notice);
-    try {
+    tryWork(QStringLiteral("keyring"), [&] {
         m_parts.passphrases.keep(file, passphrase);
         settings().setPassphraseKept(file, true);
-    } catch (const foundation::Error &error) {
-        notices().add({notice, workbench::userText(error), {}});
-    }
+    });
 }
 
 } // namespace kiv::desktop

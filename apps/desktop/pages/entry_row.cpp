@@ -38,6 +38,11 @@ constexpr std::size_t sidesAtOnce = 10'000;
 EntryRow::EntryRow(Desk &desk, QWidget *parent)
     : QFrame(parent),
       m_desk(desk),
+      m_idle(400ms, this,
+             [this] {
+                 if (m_isFormerStale && isVisible())
+                     readFormer();
+             }),
       m_forms(new QTabBar(this)),
       m_taskLabel(new QLabel(this)),
       m_submit(new QPushButton(this)),
@@ -100,12 +105,6 @@ void EntryRow::addPayees()
     connect(&payee, &QLineEdit::textEdited, this, [this](const QString &typed) {
         m_payees->setStringList(typed.isEmpty() ? QStringList() : former().payees(typed));
     });
-    m_idle.setSingleShot(true);
-    m_idle.setInterval(400ms);
-    connect(&m_idle, &QTimer::timeout, this, [this] {
-        if (m_isFormerStale && isVisible())
-            readFormer();
-    });
     connect(&payee, &QLineEdit::editingFinished, this, &EntryRow::followPayee);
     connect(payee.completer(), qOverload<const QString &>(&QCompleter::activated), this,
             &EntryRow::followPayee, Qt::QueuedConnection);
@@ -143,7 +142,6 @@ void EntryRow::setTask(Task task, std::optional<TransactionNumber> number)
     switch (task) {
     case Task::Enter:
         m_taskLabel->clear();
-        m_submit->setText(tr("Add"));
         break;
     case Task::Change:
         m_taskLabel->setText(tr("Change:"));

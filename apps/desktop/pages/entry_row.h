@@ -3,10 +3,10 @@
 
 #include "pages/entry_fields.h"
 #include "pages/split_lines.h"
+#include "widgets/delay.h"
 
 #include "workbench/entry/former_entries.h"
 
-#include <QtCore/QTimer>
 #include <QtWidgets/QFrame>
 
 QT_BEGIN_NAMESPACE
@@ -93,7 +93,7 @@ private:
     std::optional<accounting::AccountNumber> m_shownAccount;
     workbench::FormerEntries m_former;
     bool m_isFormerStale = true;
-    QTimer m_idle;
+    Delay m_idle;
     Task m_task = Task::Enter;
     std::optional<accounting::TransactionNumber> m_number; ///< that is changed or refunded
     QTabBar *m_forms;

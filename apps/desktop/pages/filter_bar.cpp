@@ -27,7 +27,8 @@ FilterBar::FilterBar(QWidget *parent)
       m_periods(nullptr),
       m_accounts(nullptr),
       m_result(new QLabel(this)),
-      m_message(new FieldMessage(this))
+      m_message(new FieldMessage(this)),
+      m_delay(50ms, this, &FilterBar::search)
 {
     m_field->setObjectName(QStringLiteral("search"));
     m_field->setClearButtonEnabled(true);
@@ -64,9 +65,6 @@ FilterBar::FilterBar(QWidget *parent)
     m_result->setObjectName(QStringLiteral("result"));
     choices->addWidget(m_result);
 
-    m_delay.setSingleShot(true);
-    m_delay.setInterval(50ms);
-    connect(&m_delay, &QTimer::timeout, this, &FilterBar::search);
     connect(m_field, &QLineEdit::textChanged, this, [this] { m_delay.start(); });
     const auto follow = [this](QComboBox *choice, FilterKind kind) {
         connect(choice, &QComboBox::activated, this,

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "widgets/delay.h"
 #include "widgets/field_message.h"
 
 #include "workbench/entry/account_index.h"
 #include "workbench/search/filter_part.h"
 
-#include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -57,7 +57,7 @@ private:
     QComboBox *m_accounts;
     QLabel *m_result;
     FieldMessage *m_message;
-    QTimer m_delay;
+    Delay m_delay;
 };
 
 } // namespace kiv::desktop

@@ -14,11 +14,12 @@ namespace kiv::desktop {
 
 using storage::BudgetStorage;
 
+using namespace std::chrono_literals;
+
 namespace {
 
 /// An import may have posted thousands.
 constexpr std::size_t shownMax = 200;
-constexpr std::chrono::milliseconds pause{150};
 
 } // namespace
 
@@ -32,7 +33,8 @@ HistoryPage::HistoryPage(Desk &desk)
       m_difference(new QLabel(this)),
       m_goBack(new QPushButton(tr("Go &back to this"), this)),
       m_unlock(new QPushButton(tr("T&ype its passphrase …"), this)),
-      m_message(new FieldMessage(this))
+      m_message(new FieldMessage(this)),
+      m_pause(150ms, this, &HistoryPage::compare)
 {
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_table, 3);
@@ -51,9 +53,6 @@ HistoryPage::HistoryPage(Desk &desk)
     m_difference->setObjectName(QStringLiteral("difference"));
     m_difference->setTextFormat(Qt::PlainText);
     m_difference->setWordWrap(true);
-    m_pause.setSingleShot(true);
-    m_pause.setInterval(pause);
-    connect(&m_pause, &QTimer::timeout, this, &HistoryPage::compare);
     connect(m_table, &Table::chosenChanged, this, &HistoryPage::follow);
     connect(m_table, &Table::opened, this, &HistoryPage::goBack);
     connect(m_goBack, &QPushButton::clicked, this, &HistoryPage::goBack);

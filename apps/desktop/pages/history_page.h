@@ -3,8 +3,7 @@
 
 #include "pages/page.h"
 #include "pages/unlocking.h"
-
-#include <QtCore/QTimer>
+#include "widgets/delay.h"
 
 QT_BEGIN_NAMESPACE
 class QPushButton;
@@ -50,7 +49,7 @@ private:
     QPushButton *m_goBack;
     QPushButton *m_unlock; ///< only for a version with another passphrase
     FieldMessage *m_message;
-    QTimer m_pause; ///< before a version is read, while the keys go on to another
+    Delay m_pause; ///< before a version is read, while the keys go on to another
 };
 
 } // namespace kiv::desktop

@@ -74,7 +74,6 @@ RegisterPage::RegisterPage(Desk &desk)
             &RegisterPage::figureChosen);
     // Until it is shown, its keys belong to the other pages.
     connect(&desk, &Desk::refreshWanted, this, &RegisterPage::allowActions);
-    allowActions();
 }
 
 RegisterPage::~RegisterPage() = default;
@@ -119,7 +118,6 @@ void RegisterPage::buildTable()
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);
-    m_table->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_table->setMinimumHeight(6 * m_table->fontMetrics().lineSpacing());
     m_table->verticalHeader()->hide();
@@ -131,10 +129,11 @@ void RegisterPage::buildTable()
     m_table->viewport()->installEventFilter(this);
     connect(m_table, &QTableView::doubleClicked, this, &RegisterPage::edit);
     connect(m_table, &QTableView::customContextMenuRequested, this, [this](const QPoint &at) {
-        QMenu menu(this);
-        menu.setToolTipsVisible(true);
-        menu.addActions(m_rowActions);
-        menu.exec(m_table->viewport()->mapToGlobal(at));
+        auto *menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->setToolTipsVisible(true);
+        menu->addActions(m_rowActions);
+        menu->popup(m_table->viewport()->mapToGlobal(at));
     });
 }
 
@@ -316,8 +315,7 @@ void RegisterPage::showResult()
 void RegisterPage::scrollToEnd()
 {
     m_table->scrollToBottom();
-    if (m_shown->rowCount() > 0)
-        m_table->setCurrentIndex(m_shown->index(m_shown->rowCount() - 1, 0));
+    m_table->setCurrentIndex(m_shown->index(m_shown->rowCount() - 1, 0)); // none of no rows
 }
 
 QString RegisterPage::detail() const

@@ -66,25 +66,19 @@ void HelpSession::showAbout()
 
 void HelpSession::showReleaseNotes()
 {
-    const QString heading = tr("Release notes");
-    const QString notice = QStringLiteral("releaseNotes");
-    m_desk.notices().remove(notice);
-    try {
-        std::vector<updating::ReleaseInformation> releases;
-        m_desk.wait(tr("Fetching the release notes …"),
-                    [&] { releases = workbench::fetchedReleases(m_desk.requests()); });
-        QStringList texts;
-        for (const updating::ReleaseInformation &release : releases)
-            texts += tr("%1, %2\n%3")
-                         .arg(updating::presentationText(release.version),
-                              foundation::presentationText(release.releasedOn), release.notes);
-        m_desk.questions().show(m_window, heading,
-                                texts.isEmpty() ? tr("There are no releases.")
-                                                : texts.join(QStringLiteral("\n\n")));
-    } catch (const foundation::Error &error) {
-        m_desk.notices().add({notice, workbench::userText(error), {}});
-        m_desk.say(workbench::userText(error));
-    }
+    std::vector<updating::ReleaseInformation> releases;
+    const auto fetch = [&] { releases = workbench::fetchedReleases(m_desk.requests()); };
+    if (!m_desk.tryWork(QStringLiteral("releaseNotes"),
+                        [&] { m_desk.wait(tr("Fetching the release notes …"), fetch); }))
+        return;
+    QStringList texts;
+    for (const updating::ReleaseInformation &release : releases)
+        texts += tr("%1, %2\n%3")
+                     .arg(updating::presentationText(release.version),
+                          foundation::presentationText(release.releasedOn), release.notes);
+    m_desk.questions().show(m_window, tr("Release notes"),
+                            texts.isEmpty() ? tr("There are no releases.")
+                                            : texts.join(QStringLiteral("\n\n")));
 }
 
 } // namespace kiv::desktop

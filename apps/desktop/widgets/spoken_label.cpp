@@ -34,8 +34,6 @@ constexpr std::chrono::milliseconds afterChanges{100};
 
 void tell(SpokenLabel &label)
 {
-    if (!label.isVisible())
-        return;
     // Qt 6.8 has an event of its own for announcements. Until then, on Linux a notification is
     // read when it appears, and alerts are not passed on; elsewhere alerts are read.
     for (const QAccessible::Event type : {QAccessible::ObjectShow, QAccessible::Alert}) {
@@ -46,14 +44,12 @@ void tell(SpokenLabel &label)
 
 } // namespace
 
-SpokenLabel::SpokenLabel(QWidget *parent) : QLabel(parent)
+SpokenLabel::SpokenLabel(QWidget *parent)
+    : QLabel(parent), m_soon(afterChanges, this, [this] { tell(*this); })
 {
     static const bool isKnown = (QAccessible::installFactory(interfaceOf), true);
     Q_UNUSED(isKnown)
     setTextFormat(Qt::PlainText);
-    m_soon.setSingleShot(true);
-    m_soon.setInterval(afterChanges);
-    connect(&m_soon, &QTimer::timeout, this, [this] { tell(*this); });
 }
 
 void SpokenLabel::speak(const QString &text)

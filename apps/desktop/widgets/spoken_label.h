@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtCore/QTimer>
+#include "widgets/delay.h"
+
 #include <QtWidgets/QLabel>
 
 namespace kiv::desktop {
@@ -18,7 +19,7 @@ public:
     void speak(const QString &text);
 
 private:
-    QTimer m_soon;
+    Delay m_soon;
 };
 
 } // namespace kiv::desktop
