@@ -2,6 +2,7 @@
 #include "desktop/accessibility.h"
 
 #include "widgets/colours.h"
+#include "widgets/table.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QKeySequence>
@@ -62,6 +63,28 @@ void judgeCells(const QAbstractItemView &view, QStringList &faults)
             if (!says(cell.data(Qt::DisplayRole), cell.data(Qt::AccessibleTextRole)))
                 faults +=
                     described(view) + QStringLiteral(": cell %1,%2 is empty").arg(row).arg(column);
+        }
+    }
+}
+
+/// Rows are neither low nor high, and columns as wide as what they have, within a limit.
+void judgeSizes(const QTableView &table, QStringList &faults)
+{
+    const int line = table.fontMetrics().height();
+    for (int row = 0; row < std::min(table.model()->rowCount(), 30); ++row) {
+        if (table.rowHeight(row) < line + 4 || table.rowHeight(row) > 2 * line)
+            faults += described(table) + QStringLiteral(": row %1 is low or high").arg(row);
+        for (int column = 0; column < table.model()->columnCount(); ++column) {
+            const QModelIndex cell = table.model()->index(row, column);
+            const QVariant font = cell.data(Qt::FontRole);
+            const QFontMetrics metrics(font.isValid() ? font.value<QFont>() : table.font());
+            int width = 0;
+            for (int part = 0; part < table.columnSpan(row, column); ++part)
+                width += table.columnWidth(column + part);
+            if (qobject_cast<const desktop::Table *>(&table) &&
+                width < table.horizontalHeader()->maximumSectionSize() &&
+                width < metrics.horizontalAdvance(cell.data().toString()) + line / 2)
+                faults += described(table) + QStringLiteral(": cut: ") + cell.data().toString();
         }
     }
 }
@@ -217,6 +240,9 @@ QStringList misfits(QWidget &root)
 {
     QStringList faults;
     for (const QWidget *widget : root.findChildren<QWidget *>()) {
+        if (const auto *table = qobject_cast<const QTableView *>(widget);
+            table && table->isVisible() && table->model())
+            judgeSizes(*table, faults);
         // A field cuts its own button to its size.
         if (!widget->isVisible() || qobject_cast<const QLineEdit *>(widget->parentWidget()))
             continue;
@@ -244,6 +270,8 @@ QStringList misfits(QWidget &root)
         if (const auto *list = qobject_cast<const QListWidget *>(widget);
             list && list->horizontalScrollBar()->isVisible())
             faults += described(*widget) + QStringLiteral(": its lines are cut off");
+        if (widget->layout() && widget->layout()->isEmpty() && !widget->size().isEmpty())
+            faults += described(*widget) + QStringLiteral(": room for nothing");
         // Parts of a table or a combo box overlap rightly.
         const QWidget *parent = widget->parentWidget();
         if (!parent->layout() || qobject_cast<const QMainWindow *>(parent) || widget->isWindow())
@@ -252,7 +280,7 @@ QStringList misfits(QWidget &root)
             faults += described(*widget) + QStringLiteral(": no layout has it");
         for (const QObject *child : parent->children()) {
             const auto *other = qobject_cast<const QWidget *>(child);
-            if (other && other > widget && other->isVisible() &&
+            if (other && other > widget && other->isVisible() && !other->isWindow() &&
                 other->geometry().intersects(widget->geometry()))
                 faults += described(*widget) + QStringLiteral(" lies over ") + described(*other);
         }

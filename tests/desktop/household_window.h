@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/kiv_command.h"
+#include "help/manual.h"
 #include "main_window.h"
 #include "support/preferences_store.h"
 #include "support/surroundings.h"
@@ -10,6 +11,7 @@
 #include <QtCore/QTemporaryDir>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
 #include <QtWidgets/QPushButton>
 
 /// Answers questions as a test says, and keeps what was asked.
@@ -173,6 +175,35 @@ public:
             look(*wizard, *wizard->firstFocus(),
                  QStringLiteral("wizard %1").arg(static_cast<int>(step) + 1));
         }
+    }
+    /// Has each kind of question asked, looks at its dialog, and gives up.
+    template <typename Look>
+    void lookAtDialogs(Look &&look)
+    {
+        kiv::desktop::DialogQuestions questions;
+        const QString sentence = kiv::desktop::householdGuide().section(u'\n', 0, 0);
+        int seen = 0;
+        const auto meet = [&](const QString &name, const std::function<void()> &ask) {
+            QTimer::singleShot(0, &m_window, [&] {
+                auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+                QApplication::setActiveWindow(dialog);
+                QVERIFY(dialog->focusWidget());
+                look(*dialog, *dialog->focusWidget(), name);
+                QVERIFY(dialog->screen()->size().expandedTo(dialog->size()) ==
+                        dialog->screen()->size());
+                ++seen;
+                dialog->reject();
+            });
+            ask();
+        };
+        const QStringList answers(12, sentence);
+        meet(QStringLiteral("choice"),
+             [&] { QVERIFY(!questions.choose(&m_window, sentence, answers)); });
+        meet(QStringLiteral("passphrase"),
+             [&] { QVERIFY(!questions.passphrase(&m_window, sentence)); });
+        meet(QStringLiteral("manual"),
+             [&] { questions.show(&m_window, sentence, kiv::desktop::manualText({})); });
+        QCOMPARE(seen, 3);
     }
     /// What gets the keys. A list of names that is open takes all of them; when it has
     /// closed, a desktop makes the window active again, and here nobody else does.

@@ -5,13 +5,15 @@
 
 namespace kiv::test {
 
-/// What a widget paints at the size it would like: things with a pen and a brush, and texts.
+/// What a widget paints at the size it would like: things with a pen and a brush, and texts; and
+/// what is wrong with their places.
 class Painted final : public QPaintDevice, private QPaintEngine {
 public:
     explicit Painted(QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
     {
         const QSize size = widget.size();
         widget.resize(widget.sizeHint());
+        m_all = widget.rect();
         widget.render(this);
         widget.resize(size);
     }
@@ -20,7 +22,13 @@ public:
         QStringList all;
         for (const auto &[thing, count] : m_things)
             all += u"%1: %2"_qs.arg(thing).arg(count);
-        return all + m_texts;
+        for (const auto &[text, box] : m_boxes) {
+            const bool isApart = std::ranges::none_of(m_boxes, [&box](const auto &other) {
+                return &other.second != &box && other.second.intersects(box);
+            });
+            all += isApart && m_all.contains(box) ? text : text + u" does not fit"_qs;
+        }
+        return all;
     }
 
 private:
@@ -38,10 +46,23 @@ private:
     [[nodiscard]] Type type() const override { return User; }
     void updateState(const QPaintEngineState &) override {}
     void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
-    void drawTextItem(const QPointF &, const QTextItem &item) override { m_texts += item.text(); }
-    void drawRects(const QRectF *, int count) override { add(u"boxes"_qs, count); }
+    void drawTextItem(const QPointF &at, const QTextItem &item) override
+    {
+        const QRectF box(at.x(), at.y() - item.ascent(), item.width(), item.ascent());
+        m_boxes.emplace_back(item.text(), painter()->transform().mapRect(box));
+    }
+    void drawRects(const QRectF *boxes, int count) override
+    {
+        const bool isWithin = std::all_of(boxes, boxes + count, [this](const QRectF &box) {
+            return m_all.united(painter()->transform().mapRect(box)) == m_all;
+        });
+        add(isWithin ? u"boxes"_qs : u"boxes outside"_qs, count);
+    }
     void drawLines(const QLineF *, int count) override { add(u"lines"_qs, count); }
-    void drawEllipse(const QRectF &) override { add(u"dots"_qs, 1); }
+    void drawEllipse(const QRectF &box) override
+    {
+        add(box.width() == box.height() ? u"dots"_qs : u"flat dots"_qs, 1);
+    }
     void drawPath(const QPainterPath &) override { add(u"frames"_qs, 1); }
     void drawPolygon(const QPointF *, int, PolygonDrawMode mode) override
     {
@@ -69,7 +90,8 @@ private:
 
     QWidget &m_widget;
     std::map<QString, int> m_things;
-    QStringList m_texts;
+    QRectF m_all;
+    std::vector<std::pair<QString, QRectF>> m_boxes; ///< of the texts
 };
 
 } // namespace kiv::test

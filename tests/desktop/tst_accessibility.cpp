@@ -4,8 +4,6 @@
 #include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 
-#include "help/manual.h"
-
 #include "workbench/entry/user_locale.h"
 
 #include <QtWidgets/QtWidgets>
@@ -133,36 +131,8 @@ private slots:
         desk.trigger("palette");
         auto *palette = desk.window().findChild<QWidget *>(u"palette"_s);
         QCOMPARE(nameless(*palette), QStringList());
-        lookAtDialogs(desk.window(), judge);
+        desk.lookAtDialogs(judge);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-    }
-
-private:
-    /// Has each kind of question asked, looks at its dialog, and gives up.
-    template <typename Look>
-    static void lookAtDialogs(desktop::MainWindow &window, Look &&look)
-    {
-        desktop::DialogQuestions questions;
-        const QString sentence = desktop::householdGuide().section(u'\n', 0, 0);
-        int seen = 0;
-        const auto meet = [&](const QString &name, const std::function<void()> &ask) {
-            QTimer::singleShot(0, &window, [&] {
-                auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-                QApplication::setActiveWindow(dialog);
-                QVERIFY(dialog->focusWidget());
-                look(*dialog, *dialog->focusWidget(), name);
-                QVERIFY(dialog->screen()->size().expandedTo(dialog->size()) ==
-                        dialog->screen()->size());
-                ++seen;
-                dialog->reject();
-            });
-            ask();
-        };
-        const QStringList answers(12, sentence);
-        meet(u"choice"_s, [&] { QVERIFY(!questions.choose(&window, sentence, answers)); });
-        meet(u"passphrase"_s, [&] { QVERIFY(!questions.passphrase(&window, sentence)); });
-        meet(u"manual"_s, [&] { questions.show(&window, sentence, desktop::manualText({})); });
-        QCOMPARE(seen, 3);
     }
 
 protected:

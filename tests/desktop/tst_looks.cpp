@@ -5,6 +5,7 @@
 #include "desktop/household_window.h"
 
 #include "help/manual.h"
+#include "widgets/flow_layout.h"
 
 #include "workbench/entry/user_locale.h"
 
@@ -100,6 +101,76 @@ private slots:
         QVERIFY(desktop::isDark(QApplication::palette()));
         QVERIFY(!again.desk().actions().action(u"entryRow"_s)->isChecked());
         QApplication::setPalette(usual);
+    }
+
+    /// Large text and dark colours that come later leave nothing behind of what was before.
+    void looksChangeAtAnyTime()
+    {
+        const QPalette palette = QApplication::palette();
+        const QFont usual = QApplication::font();
+        std::map<QString, QImage> late;
+        for (const bool isLate : {true, false}) {
+            const auto back = qScopeGuard([&] {
+                QApplication::setFont(usual);
+                QApplication::setPalette(palette);
+            });
+            HouseholdWindow desk;
+            desk.openHousehold();
+            QStringList faults;
+            for (const bool isSecond : {false, true}) {
+                desk.window().resize(isLate && !isSecond ? QSize(1100, 640) : QSize(1366, 768));
+                if (isLate == isSecond) {
+                    for (int step = 0; step < 6; ++step)
+                        desk.trigger("larger");
+                    desk.trigger("lookDark");
+                }
+                desk.show();
+                desk.lookAtAll([&](QWidget &, QWidget &, const QString &place) {
+                    for (int again = 0; again < 4; ++again) // what wraps needs another layout
+                        QCoreApplication::processEvents();
+                    const QImage picture = desk.window().grab().toImage();
+                    if (place == u"history" ||
+                        place == u"import file") // takes its time; names its folder
+                        return;
+                    if (isLate)
+                        late[place] = picture;
+                    else if (isSecond && late[place] != picture)
+                        faults += place;
+                });
+            }
+            QCOMPARE(faults.join(u", "_s), QString());
+        }
+    }
+
+    void buttonsFlowIntoRows()
+    {
+        QWidget area;
+        auto *flow = new desktop::FlowLayout(&area);
+        flow->setSpacing(5);
+        for (const QSize size : {QSize(500, 10), QSize(50, 20), QSize(60, 30), QSize(40, 10)}) {
+            auto *one = new QLabel(&area);
+            one->setPixmap(QPixmap(size)); // which is the size it would like
+            flow->addWidget(one);
+        }
+        flow->addWidget(new QLabel(u"hidden"_s, &area));
+        flow->itemAt(4)->widget()->hide();
+        QCOMPARE(flow->sizeHint(), QSize(665, 30));
+        QCOMPARE(flow->minimumSize(), QSize(500, 30));
+        QCOMPARE(flow->heightForWidth(115), 60);
+        QCOMPARE(flow->heightForWidth(114), 70);
+        const QRect wide{10, 20, 120, 100};
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            area.setLayoutDirection(direction);
+            flow->setGeometry(wide);
+            QList<QRect> places;
+            for (int at = 0; at < 4; ++at)
+                places += QStyle::visualRect(direction, wide, flow->itemAt(at)->geometry());
+            QCOMPARE(places, QList({QRect(10, 20, 120, 10), QRect(10, 35, 50, 20),
+                                    QRect(65, 35, 60, 30), QRect(10, 70, 40, 10)}));
+        }
+        QVERIFY(!flow->takeAt(-1) && !flow->takeAt(5));
+        delete flow->takeAt(4);
+        QCOMPARE(flow->count(), 4);
     }
 
     /// The window that docs/pictures shows.

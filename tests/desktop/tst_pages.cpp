@@ -3,8 +3,33 @@
 
 #include "desktop/page_keys.h"
 #include "desktop/told.h"
+#include "widgets/chart_view.h"
 
+#include "workbench/requests/exchange_rates.h"
+#include "workbench/requests/settings.h"
 #include "workbench/versions/kept_versions.h"
+
+namespace {
+
+/// The middle of all that is drawn in a colour.
+QPoint middleOf(desktop::ChartView &chart, desktop::Colour meaning)
+{
+    const QImage picture = chart.grab().toImage();
+    const QRgb wanted = desktop::colour(meaning, chart.palette()).rgb();
+    QPoint sum;
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == wanted) {
+                sum += QPoint(x, y);
+                ++count;
+            }
+        }
+    }
+    return count > 0 ? sum / count : QPoint();
+}
+
+} // namespace
 
 /// The pages beside the register, used by keys.
 class TestPages : public QObject {
@@ -100,6 +125,83 @@ private slots:
         QVERIFY(pressed > 50);
         home.window().goTo({u"register"_s, {}});
         QVERIFY(!part<QPushButton>(home, "addLine").isEnabled());
+    }
+
+    void aChartIsReadInBothDirectionsAndByKeys()
+    {
+        interchange::Chart chart{interchange::ChartKind::Steps,
+                                 u"Money"_s,
+                                 u"Lowest."_s,
+                                 {u"Mon"_s, u"Tue"_s, u"Wed"_s, u"Thu"_s},
+                                 {{u"Money"_s, {usd("100"), usd("-20"), usd("60"), usd("80")}}}};
+        chart.mark = {0, 1, u"here"_s};
+        desktop::ChartView view(nullptr);
+        view.resize(600, 300);
+        view.setChart(chart, {});
+        QSignalSpy told(&view, &desktop::ChartView::told);
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            view.setLayoutDirection(direction);
+            const bool isFromRight = direction == Qt::RightToLeft;
+            const QPoint mark = middleOf(view, desktop::Colour::Wrong);
+            QCOMPARE(mark.x() > 300, isFromRight); // the second of four
+            QVERIFY(mark.y() > middleOf(view, desktop::Colour::Heading).y());
+            QTest::keyClick(&view, Qt::Key_Home);
+            QTest::keyClick(&view, isFromRight ? Qt::Key_Left : Qt::Key_Right);
+            QCOMPARE(told.last()[0].toString(), u"Tue: -20.00 USD"_s);
+            QVERIFY(view.accessibleName().endsWith(u"-20.00 USD"_s));
+            QTest::mouseClick(&view, Qt::LeftButton, {}, {isFromRight ? 1 : 599, 100});
+            QCOMPARE(told.last()[0].toString(), u"Thu: 80.00 USD"_s);
+            QTest::keyClick(&view, isFromRight ? Qt::Key_Left : Qt::Key_Right); // there is no more
+            QCOMPARE(view.point(), std::optional(std::size_t{3}));
+        }
+        QCOMPARE(view.accessibleDescription(), u"Lowest."_s);
+        view.setChart({}, {});
+        QTest::keyClick(&view, Qt::Key_End);
+        view.grab();
+    }
+
+    void whileRatesAreFetchedNothingElseIsChanged()
+    {
+        networking::Response answer = networking::Response::failed(u"The server is silent."_s);
+        QStringList reasons;
+        SmallHousehold *asking = nullptr;
+        SmallHousehold home([&](const QUrl &) -> std::optional<networking::Response> {
+            // Not when the window refreshes old rates by itself.
+            if (asking && asking->requests().isBusy()) {
+                reasons += part<QPushButton>(*asking, "keep").toolTip();
+                reasons += desktop::ActionCollection::reason(
+                    asking->window().desk().actions().action(u"undo"_s));
+            }
+            return answer;
+        });
+        showRates(home);
+        asking = &home;
+        press(home, Qt::Key_A, Qt::AltModifier);
+        const QString wait = u"Another request is not answered yet; try again in a moment."_s;
+        QCOMPARE(QSet(reasons.begin(), reasons.end()), QSet{wait});
+        QVERIFY(home.notices().join(u' ').contains(u"server is silent"_s));
+        QCOMPARE(texts(home, 1), QStringList{u"not converted"_s});
+        QVERIFY(part<QPushButton>(home, "fetch").hasFocus());
+        QVERIFY(part<QPushButton>(home, "keep").isEnabled());
+        answer = networking::Response::succeeded(
+            R"({"timestamp": 1772366400, "base": "USD", "rates": {"CHF": 0.5}})",
+            u"application/json"_s);
+        press(home, Qt::Key_A, Qt::AltModifier);
+        QCOMPARE(home.notices(), QStringList());
+        QCOMPARE(texts(home, 1), QStringList{u"1 USD = 0.5 CHF"_s});
+        QCOMPARE(texts(home, 4), QStringList{u"fetched"_s});
+    }
+
+private:
+    /// The page with francs, which have no rate.
+    static void showRates(SmallHousehold &home)
+    {
+        show(home, "home");
+        navigation::ConfigurationData settings = workbench::presentSettings(home.requests());
+        settings.usableCurrencies = {numira::toCurrency("USD"), numira::toCurrency("CHF")};
+        workbench::storeSettings(home.requests(), settings);
+        home.requests().navigator().onStoreExchangeRates({}); // those of former tests
+        home.trigger("page rates");
     }
 };
 

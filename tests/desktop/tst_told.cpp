@@ -21,6 +21,7 @@ namespace {
 
 constexpr int rowsMax = 4; ///< of a table
 constexpr qsizetype lineMax = 158;
+constexpr int manyParts = 4; ///< that come back are counted and not told again
 const QByteArray licence = "# SPDX-License-Identifier: GPL-3.0-or-later\n";
 
 QString documents()
@@ -78,7 +79,8 @@ void compare(const QByteArray &told, const char *path)
         QCOMPARE(found.value(line), expected.value(line));
 }
 
-std::map<QString, QStringList> lastSeen; ///< what each page and step told, in any household
+std::map<QString, QSet<QString>> everSeen; ///< what each told at any time
+std::map<QString, QStringList> lastSeen;   ///< what each page and step told, in any household
 
 /// A household in which deeds are done.
 class Desk {
@@ -95,7 +97,7 @@ public:
         (void)news();
     }
     /// "go PLACE", "do ACTION" and "at FIELD=TEXT", "=TEXT" where the keys go, "file FILE TEXT" for
-    /// the one that is asked for next, "read FILE TEXT" for an import, and keys.
+    /// the one that is asked for next, "read FILE TEXT" for an import, "menu", and keys.
     void step(const QString &steps)
     {
         for (QString one : steps.split(u"; "_s)) {
@@ -111,6 +113,8 @@ public:
                 m_home.questions().files = {fileOf(rest)};
             else if (one.startsWith(u"read "))
                 m_home.beginImport(rest.section(u' ', 0, 0), bytesOf(rest), "");
+            else if (one == u"menu")
+                askForMenu();
             else if (one.startsWith(u'='))
                 test::enter(m_home, one.mid(1));
             else
@@ -131,7 +135,11 @@ public:
         QString seen = pageName() + QLatin1String(page()->metaObject()->className());
         for (const auto *steps : page()->findChildren<QStackedWidget *>())
             seen += QString::number(steps->currentIndex());
-        const QStringList news = newsOf(told, std::exchange(lastSeen[seen], told));
+        QStringList news = newsOf(told, std::exchange(lastSeen[seen], told));
+        const auto isKnown = [&](const QString &part) { return everSeen[seen].contains(part); };
+        if (std::ranges::count_if(news, isKnown) >= manyParts)
+            news += u"(%1 again)"_s.arg(news.removeIf(isKnown));
+        everSeen[seen] += QSet<QString>(told.begin(), told.end());
         return news + newsOf(round, std::exchange(m_round, round), false);
     }
     void undoAll()
@@ -143,6 +151,11 @@ public:
     }
 
 private:
+    static void askForMenu()
+    {
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
+        QCoreApplication::sendEvent(QApplication::focusWidget(), &asked);
+    }
     /// What stands behind the file's name; a line each.
     [[nodiscard]] static QByteArray bytesOf(const QString &step)
     {
@@ -226,6 +239,10 @@ private:
         round += u"at "_s + focused();
         if (const auto *offers = qobject_cast<QListView *>(QApplication::activePopupWidget()))
             round += u"offered: "_s + test::rowsOf(*offers, rowsMax).join(u", "_s);
+        if (const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget())) {
+            for (const QAction *one : menu->actions())
+                round += one->text() + (one->isEnabled() ? QString() : u" (off)"_s);
+        }
         return round;
     }
     /// Where the keys go, and whether they replace what is there.
@@ -286,7 +303,8 @@ private slots:
         QStringList before;
         test::tell(*pages, std::numeric_limits<int>::max(), before);
         QByteArray told = licence + inLines(u"## window"_s, before);
-        desk.lookAtAll([&](QWidget &shown, QWidget &first, const QString &place) {
+        test::Ways ways;
+        const auto look = [&](QWidget &shown, QWidget &first, const QString &place) {
             QStringList parts;
             test::tell(shown, rowsMax, parts);
             told += inLines(u"## %1: begins at '%2', Tab goes up %3 times, %4 parts"_s
@@ -295,12 +313,18 @@ private slots:
                                 .arg(parts.size()),
                             newsOf(parts, before));
             before = parts;
+        };
+        desk.lookAtAll(look);
+        ways.count(desk.window());
+        desk.lookAtDialogs([&](QWidget &shown, QWidget &first, const QString &name) {
+            look(shown, first, name);
+            ways.count(shown);
         });
         told.replace(desk.path({}).toUtf8(), "FOLDER");
         told.replace(documents().toUtf8(), "DOCUMENTS");
         told = QString::fromUtf8(told).replace(moment(), u"MOMENT"_s).toUtf8();
         compare(told, KIV_TOLD);
-        compare(licence + test::Ways(desk.window()).text(lineMax), KIV_WAYS);
+        compare(licence + ways.text(lineMax), KIV_WAYS);
     }
 
     /// Each step of deeds.txt with what is new then; at the end of its part all is undone.

@@ -9,7 +9,7 @@ namespace kiv::test {
 class Ways {
 public:
     /// Counts the widget and all in it.
-    explicit Ways(QWidget &root)
+    void count(QWidget &root)
     {
         add(root);
         for (QWidget *part : root.findChildren<QWidget *>())

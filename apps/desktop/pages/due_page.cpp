@@ -129,6 +129,7 @@ void DuePage::forgetFile()
 {
     m_message->withdraw();
     forgetTyping();
+    m_today = m_day->text(); // so that it follows the calendar again
     m_said.clear();
 }
 

@@ -108,6 +108,14 @@ void RulesPage::addTrialForm()
 
 // ---- what is shown -----------------------------------------------------------------
 
+void RulesPage::forgetFile()
+{
+    ListPage::forgetFile();
+    m_said->setText({});
+    m_amount->setText({});
+    m_file->setAccount(std::nullopt);
+}
+
 void RulesPage::goTo(const QString &detail)
 {
     closeForm();

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QStringList parts() const override;
 
 protected:
+    void forgetFile() override;
     void refresh() override;
     void follow() override;
     void followForm() override;

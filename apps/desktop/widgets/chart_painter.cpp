@@ -202,17 +202,28 @@ void ChartPainter::point(std::size_t label, const QString &text)
 
 void ChartPainter::textAt(QPointF top, const QString &text)
 {
-    const QSizeF size(m_painter.fontMetrics().horizontalAdvance(text) + m_line, 1.3 * m_line);
+    constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    const QSizeF most(m_area.width() - m_line, m_area.height());
+    const QSizeF size =
+        m_painter.boundingRect(QRectF({}, most), flags, text).size() + QSizeF(m_line, 0.3 * m_line);
     QRectF box(QPointF(top.x() - size.width() / 2, top.y()), size);
     if (box.bottom() > m_area.bottom())
         box.moveBottom(m_area.bottom() - m_line);
     box.moveLeft(std::clamp(box.left(), m_area.left(),
                             std::max(m_area.left(), m_area.right() - box.width())));
+    for (const QRectF &other : m_texts) {
+        if (!other.intersects(box))
+            continue;
+        box.moveBottom(other.top());
+        if (box.top() < m_area.top()) // there is no room above it
+            box.moveTop(other.bottom());
+    }
+    m_texts += box;
     m_painter.setPen(colour(Colour::Faint, m_palette));
     m_painter.setBrush(m_palette.base());
     m_painter.drawRoundedRect(box, m_line / 4, m_line / 4);
     m_painter.setPen(m_palette.color(QPalette::Text));
-    m_painter.drawText(box, Qt::AlignCenter, text);
+    m_painter.drawText(box, flags, text);
 }
 
 } // namespace kiv::desktop

@@ -14,7 +14,7 @@ namespace kiv::desktop {
 class ChartPainter {
 public:
     /// All that is handed in outlives the painter. The texts that stand in the drawing stay
-    /// within `area`.
+    /// within `area`, in several lines if need be, and do not cover each other.
     ChartPainter(QPainter &painter, const interchange::Chart &chart,
                  const interchange::ChartPlane &plane, const QPalette &palette, QRectF area);
 
@@ -34,7 +34,8 @@ private:
     [[nodiscard]] QPointF pointOf(std::size_t series, std::size_t label) const;
     [[nodiscard]] QPen penOf(std::size_t series) const;
     void bars(std::size_t series);
-    /// A text with a background of its own, whose upper edge is in this row if the area allows it.
+    /// A text with a background of its own, whose upper edge is in this row if the area and the
+    /// texts before it allow it.
     void textAt(QPointF top, const QString &text);
 
     QPainter &m_painter;
@@ -42,7 +43,8 @@ private:
     const interchange::ChartPlane &m_plane;
     QPalette m_palette;
     QRectF m_area;
-    double m_line; ///< the height of a line of text
+    double m_line;         ///< the height of a line of text
+    QList<QRectF> m_texts; ///< where textAt() has put one
 };
 
 } // namespace kiv::desktop

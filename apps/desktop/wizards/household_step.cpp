@@ -96,12 +96,17 @@ void HouseholdStep::showRows()
     const auto household =
         static_cast<navigation::BudgetWizardTemplates>(m_household->currentData().toInt());
     m_lines = starterLines(household, m_lines);
-    m_model->setRows(starterRows(m_lines, m_currency, m_desk.document().displayAs()));
     m_table->setVisible(!m_lines.empty());
     m_form->setVisible(!m_lines.empty());
-    m_table->settle();
+    showLines();
     follow();
     emit changed();
+}
+
+void HouseholdStep::showLines()
+{
+    m_model->setRows(starterRows(m_lines, m_currency, m_desk.document().displayAs()));
+    m_table->settle();
 }
 
 void HouseholdStep::follow()
@@ -110,15 +115,10 @@ void HouseholdStep::follow()
     if (!line || keyOf(line->choice) == m_shownKey)
         return;
     // What was typed for the line before belongs to it, if it can be read.
-    if (!m_shownKey.isEmpty() && typed(*m_amount, *m_day, *m_target) != m_shownText) {
-        const QString wanted = keyOf(line->choice);
-        if (!takeTyped()) {
-            const QSignalBlocker quiet(m_table);
-            m_table->choose(m_shownKey);
-            return;
-        }
-        m_table->choose(wanted);
-        line = chosen();
+    if (!takeTyped()) {
+        const QSignalBlocker quiet(m_table);
+        m_table->choose(m_shownKey);
+        return;
     }
     const StarterChoice &choice = line->choice;
     const auto fill = [](MoneyEdit &edit, const std::optional<workbench::Amount> &amount) {
@@ -170,7 +170,7 @@ bool HouseholdStep::takeTyped()
     line->choice = std::move(choice);
     m_shownText = typed(*m_amount, *m_day, *m_target);
     m_form->message().withdraw();
-    m_model->setRows(starterRows(m_lines, m_currency, m_desk.document().displayAs()));
+    showLines();
     emit changed();
     return true;
 }
@@ -196,7 +196,7 @@ void HouseholdStep::toggle()
     if (!line)
         return;
     line->isWanted = !line->isWanted;
-    m_model->setRows(starterRows(m_lines, m_currency, m_desk.document().displayAs()));
+    showLines();
     m_desk.say(line->isWanted ? tr("“%1” is wanted.").arg(line->choice.name)
                               : tr("“%1” is not wanted.").arg(line->choice.name));
     emit changed();

@@ -44,6 +44,7 @@ private:
     [[nodiscard]] StarterLine *chosen();
     void follow();
     void showRows();
+    void showLines();
     void toggle();
     void take();
     void chooseNext();

@@ -172,6 +172,7 @@ bool ImportRowsStep::showsFewChanges()
         return false;
     for (const std::size_t place : changed)
         m_model->setRow(draftRow(*m_preview, place, *m_accounts, m_desk.document().displayAs()));
+    m_table->settle();
     return true;
 }
 
