@@ -129,8 +129,8 @@ private slots:
                     for (int again = 0; again < 4; ++again) // what wraps needs another layout
                         QCoreApplication::processEvents();
                     const QImage picture = desk.window().grab().toImage();
-                    if (place == u"history" ||
-                        place == u"import file") // takes its time; names its folder
+                    // The one takes its time, the other names its folder.
+                    if (place == u"history" || place == u"import file")
                         return;
                     if (isLate)
                         late[place] = picture;

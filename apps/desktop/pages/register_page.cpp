@@ -315,7 +315,7 @@ void RegisterPage::showResult()
 void RegisterPage::scrollToEnd()
 {
     m_table->scrollToBottom();
-    m_table->setCurrentIndex(m_shown->index(m_shown->rowCount() - 1, 0)); // none of no rows
+    m_table->setCurrentIndex(m_shown->index(m_shown->rowCount() - 1, 0)); // without rows, none
 }
 
 QString RegisterPage::detail() const

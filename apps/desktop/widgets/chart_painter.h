@@ -14,7 +14,8 @@ namespace kiv::desktop {
 class ChartPainter {
 public:
     /// All that is handed in outlives the painter. The texts that stand in the drawing stay
-    /// within `area`, in several lines if need be, and do not cover each other.
+    /// within `area` where it has room, in several lines if need be, and give way to those before
+    /// them.
     ChartPainter(QPainter &painter, const interchange::Chart &chart,
                  const interchange::ChartPlane &plane, const QPalette &palette, QRectF area);
 

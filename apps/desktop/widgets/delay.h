@@ -12,6 +12,7 @@ class Delay : public QTimer {
     Q_OBJECT
 
 public:
+    /// `deed` is a function of the owner, or one that it hands over.
     template <typename Owner, typename Deed>
     Delay(std::chrono::milliseconds wait, Owner *owner, Deed deed)
     {

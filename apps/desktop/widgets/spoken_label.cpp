@@ -34,6 +34,8 @@ constexpr std::chrono::milliseconds afterChanges{100};
 
 void tell(SpokenLabel &label)
 {
+    if (!label.isVisible())
+        return; // it was withdrawn before it could be said
     // Qt 6.8 has an event of its own for announcements. Until then, on Linux a notification is
     // read when it appears, and alerts are not passed on; elsewhere alerts are read.
     for (const QAccessible::Event type : {QAccessible::ObjectShow, QAccessible::Alert}) {
