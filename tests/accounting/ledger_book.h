@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/accounting.h"
+#include "support/refusal.h"
 
 #include "accounting/ledger_replay.h"
 #include "accounting/number_handout.h"
@@ -15,8 +16,6 @@
 namespace kiv::test {
 
 using namespace kiv::accounting;
-
-// ---- the rates and the ledger -----------------------------------------------------
 
 /// The rate from dollars into a currency, as tests set it. Yen have none, for a
 /// reason of the converter's own; other currencies without an entry have none
@@ -75,9 +74,7 @@ inline AccountNumber nextAccountNumber(Book &book)
     return NumberHandout(book.generator, book.ledger).number();
 }
 
-// ---- requests in words ------------------------------------------------------------
-// Their words stand in ledger_cases.txt.
-
+/// The words of a request, as ledger_cases.txt explains them.
 class Words {
 public:
     explicit Words(const QString &text) : m_words(text.split(u' ')) {}
@@ -243,15 +240,8 @@ inline std::vector<Row> rows(const char *section)
 /// What the requests were refused with; empty when they were not.
 inline QString refusal(Book &book, const QString &text)
 {
-    try {
-        request(book, text);
-    } catch (const foundation::Error &error) {
-        return error.message();
-    }
-    return {};
+    return refusalOf([&] { request(book, text); });
 }
-
-// ---- what a ledger tells ----------------------------------------------------------
 
 /// For each account ("2") and transaction ("#3") all that the ledger answers of it.
 using Facts = std::map<QString, QStringList>;
@@ -322,8 +312,6 @@ inline QString difference(const GeneralLedger &before, const GeneralLedger &afte
     }
     return result.join(u"; "_qs);
 }
-
-// ---- what holds of every ledger ---------------------------------------------------
 
 inline StoredTransaction stored(const Transaction &transaction)
 {

@@ -438,14 +438,10 @@ private slots:
                  [&] { static_cast<void>(toQString(unknown)); },
                  [&] { static_cast<void>(nextOccurrence(unknown, date, 1)); },
                  [&] { static_cast<void>(occurrencesIn(unknown, date, date)); },
-                 [&] {
-                     static_cast<void>(accumulateOver(EventFrequency::None, usd("1"), unknown));
-                 },
+                 [&] { static_cast<void>(accumulateOver(None, usd("1"), unknown)); },
                  [&] { static_cast<void>(isRarerThanMonthly(unknown)); },
                  [&] { static_cast<void>(BudgetTotals(Budget(), usd("1").code(), unknown)); },
-                 [&] {
-                     static_cast<void>(Bill(BudgetSource(u"Rent"_qs), usd("1"), unknown, date));
-                 }})
+                 [&] { item<Bill>("Rent", usd("1"), unknown, date); }})
             QVERIFY_THROWS_EXCEPTION(std::logic_error, use());
     }
 };

@@ -2,6 +2,7 @@
 #include "support/suite.h"
 
 #include "support/comparison.h"
+#include "support/refusal.h"
 
 #include "foundation/dates.h"
 #include "foundation/local_dates.h"
@@ -188,20 +189,13 @@ private slots:
         Map map;
         map.insertOrAssign<Red>(a, 1);
         const Map before = map;
-        const auto refusal = [](const auto &operation) {
-            try {
-                operation();
-            } catch (const Error &error) {
-                return error.message();
-            }
-            return QString();
-        };
         // Each names the key and the type.
         for (const auto &[said, key, type] :
-             {std::tuple(refusal([&] { (void)map.value<Red>(b); }), b, Map::plainName(typeid(Red))),
-              {refusal([&] { (void)before.value<Blue>(a); }), a, Map::plainName(typeid(Blue))},
-              {refusal([&] { map.remove<Blue>(a); }), a, Map::plainName(typeid(Blue))},
-              {refusal([&] { map.remove<Red>(b); }), b, Map::plainName(typeid(Red))}})
+             {std::tuple(refusalOf([&] { (void)map.value<Red>(b); }), b,
+                         Map::plainName(typeid(Red))),
+              {refusalOf([&] { (void)before.value<Blue>(a); }), a, Map::plainName(typeid(Blue))},
+              {refusalOf([&] { map.remove<Blue>(a); }), a, Map::plainName(typeid(Blue))},
+              {refusalOf([&] { map.remove<Red>(b); }), b, Map::plainName(typeid(Red))}})
             QVERIFY2(said.contains(u'\'' + presentationText(key) + u'\'') &&
                          said.contains(u'\'' + QString::fromUtf8(type) + u'\''),
                      qPrintable(said));

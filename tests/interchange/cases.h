@@ -31,6 +31,10 @@
 /// In what is read, \xE9, \n, \r and \t stand for bytes, \9{x} for nine times what is in the
 /// braces, where # counts, and a backslash takes the end off its line. At its end, what comes
 /// of it may have … for the rest of it.
+///
+/// A journal comes to its transactions: line, day unless it is 2026-01-01, "debited < credited",
+/// amount, marks but --, text but x. A statement comes to its entries: line, day unless it is
+/// 2026-01-05, amount, value day if it differs, text, @payee, #identifier, >category.
 namespace kiv::test {
 
 using namespace Qt::Literals::StringLiterals;

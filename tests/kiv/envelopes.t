@@ -118,11 +118,9 @@ More than there is, and what no line shows:
   $ kiv envelopes Savings | head -2
   Savings is closed.
   $70.00 is set aside for 'Insurance' at Savings, which is closed.
-  $ each 0 <<'.'
-  > envelopes Card
-  > envelopes Trip
-  > .
+  $ kiv envelopes Card
   Card is owed; nothing is set aside of it.
+  $ kiv envelopes Trip
   Trip has no envelopes of its own; the account above it counts its money.
   $ kiv envelopes Groceries
   kiv: The account 'Groceries' is not assigned to a bank; assign it with kiv bank-account attach.

@@ -83,18 +83,25 @@ A conversion has its rate, with the day and the source; one of the past has its 
 What cannot be explained is one clear sentence:
 
   $ kiv nontrack add Once 5 --every none --next 2025-04-01 >/dev/null
+  $ kiv new empty >/dev/null
   $ each 1 <<'.'
   > explain share Once
   > explain set-aside Cash Holiday
   > explain tolerance 'Credit card'
   > explain outlook 2025-04-01 Bicycle --date 2025-03-31
   > explain conversion '99999999999999999999999999 EUR'
+  > explain health --file empty
+  > explain free --file empty
+  > explain outlook 2025-04-01 --date 2025-03-31 --file empty
   > .
   kiv: 'Once' does not recur, so no month has a share of it.
   kiv: Nothing is set aside for 'Holiday' at Cash.
   kiv: Credit card is owed; a survey refuses no difference there.
   kiv: The outlook does not tell of Bicycle: it is no open account of a bank, or holds the money of a goal.
   kiv: The amount has more digits before the point than can be kept exactly.
+  kiv: There is no income of which anything could take a part.
+  kiv: No bank has an open account for which money is set aside.
+  kiv: Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.
   $ each 2 <<'.'
   > explain conversion
   > explain health wealth
@@ -103,12 +110,3 @@ What cannot be explained is one clear sentence:
   kiv: Give an amount, or a transaction with --entry.
   kiv: 'wealth' is not one of: planned, needs, debts, spending, goals.
   kiv: 2035-04-08 is not a day to look ahead to; name one from 2025-03-31 to 2035-04-07.
-  $ kiv new empty >/dev/null
-  $ each 1 <<'.'
-  > explain health --file empty
-  > explain free --file empty
-  > explain outlook 2025-04-01 --date 2025-03-31 --file empty
-  > .
-  kiv: There is no income of which anything could take a part.
-  kiv: No bank has an open account for which money is set aside.
-  kiv: Without an open bank account, or without an exchange rate, the money cannot be added up; name an account.

@@ -34,9 +34,6 @@ at has a mark, and can be corrected by the numbers of its entries:
   New: 4; matched: 1; already imported: 1; left out: 0; accounts opened: 0.
   2 entries with a ? should be looked at.
   Dry run: nothing is saved.
-  $ kiv import s.ofx
-  kiv: It is not known what this was for: 2026-01-29, -$30.00, ACME. Say it with --for, --against or a rule.
-  [1]
   $ kiv import s.ofx --new 1 --same 4=3 --for 3=Food --leave-out 2 --dry-run --json |
   >     jq -c '.entries[] | [.state, .for]'
   ["new","Food"]
@@ -46,14 +43,13 @@ at has a mark, and can be corrected by the numbers of its entries:
   ["known","(4)"]
   ["new","Food"]
   $ each 1 <<'.'
+  > import s.ofx
   > import s.ofx --same 4=1
   > import s.ofx --for 4=Nowhere
   > .
+  kiv: It is not known what this was for: 2026-01-29, -$30.00, ACME. Say it with --for, --against or a rule.
   kiv: Transaction 1 cannot be the same as an entry of -$30.00.
   kiv: There is no account 'Nowhere'; see kiv accounts.
-  $ kiv import s.ofx --leave-out 7
-  kiv: '7' is not a whole number from 1 to 6.
-  [2]
   $ kiv rules add acme Food --from 25 --to 100
   Added the rule \xe2\x80\x9cacme\xe2\x80\x9d for Food. (esc)
   $ kiv import s.ofx
@@ -99,12 +95,14 @@ A rule follows the account, undo takes it back:
   > rules add x Food --from 9 --to 3
   > rules remove 2
   > import s.ofx --keep-columns
+  > import s.ofx --leave-out 7
   > .
   kiv: '(' is not a regular expression: missing closing parenthesis.
   kiv: A rule needs a text that entries contain.
   kiv: No amount lies between those of the rule.
   kiv: '2' is not a whole number from 1 to 1.
   kiv: Use either --keep-columns or --format ofx, not both.
+  kiv: '7' is not a whole number from 1 to 6.
 
 A file of another account is noticed, and one whose account is known needs no name:
 

@@ -43,27 +43,24 @@ What is to come, if everything regular goes on.
   $ each 1 <<'.'
   > outlook --date 2026-01-31 --days 9 --with '5 on 2026-02-09'
   > outlook --floor '5 EUR'
+  > outlook --without Nothing
   > .
   kiv: 2026-02-09 is behind 2026-02-08, the last day that is looked at.
   kiv: There is no exchange rate between EUR and USD.
+  kiv: There is no budget item 'Nothing'; see kiv bill list (or debt, goal, nontrack, wage).
   $ each 2 <<'.'
   > outlook --days 5000
   > outlook --with 900
   > .
   kiv: '5000' is not a whole number from 1 to 3660.
   kiv: '900' is not of the form 'AMOUNT on DAY', such as '900 on 2026-12-05'.
-  $ kiv outlook --without Nothing
-  kiv: There is no budget item 'Nothing'; see kiv bill list (or debt, goal, nontrack, wage).
-  [1]
 
 Until nothing is left, with the interest that the account shows, for each day of what was owed:
 
   $ begin
-  $ each 0 <<'.' >/dev/null
-  > debt add Loan '400 USD' --borrowed 1200 --next 2026-02-05 --date 2026-01-05
-  > account add Interest --type expense
-  > goal add Trip '300 USD' --target 700 --bank-account Checking --next 2026-02-03
-  > .
+  $ kiv debt add Loan '400 USD' --borrowed 1200 --next 2026-02-05 --date 2026-01-05 >/dev/null
+  $ kiv account add Interest --type expense >/dev/null
+  $ kiv goal add Trip '300 USD' --target 700 --bank-account Checking --next 2026-02-03 >/dev/null
   $ kiv debt schedule Loan --date 2026-02-04 | head -2
   Of the debt 'Loan' are $1,200.00 left: paid off on 2026-04-05, after 3 payments.
   Interest is left out: the account of the debt shows none.
@@ -83,10 +80,8 @@ Until nothing is left, with the interest that the account shows, for each day of
   Date         Amount     Left
   2026-02-04  $350.00  $350.00
   2026-03-03  $350.00    $0.00
-  $ each 0 <<'.' >/dev/null
-  > debt update Loan --amount 5
-  > goal update Trip --every none
-  > .
+  $ kiv debt update Loan --amount 5 >/dev/null
+  $ kiv goal update Trip --every none >/dev/null
   $ kiv debt schedule Loan --date 2026-02-04 --json | jq -c '.end, .interestPercent, .payments'
   null
   12.17
@@ -101,11 +96,9 @@ Until nothing is left, with the interest that the account shows, for each day of
 What is closed is not paid, what has no rate is named, and a day that rises has no cause:
 
   $ begin
-  $ each 0 <<'.' >/dev/null
-  > bank-account add Euros --bank First --balance '10 EUR' --date 2026-01-01
-  > account close Rent
-  > bill add Phone 20 --next 2026-01-25 --date 2026-01-20
-  > .
+  $ kiv bank-account add Euros --bank First --balance '10 EUR' --date 2026-01-01 >/dev/null
+  $ kiv account close Rent >/dev/null
+  $ kiv bill add Phone 20 --next 2026-01-25 --date 2026-01-20 >/dev/null
   $ kiv outlook --date 2026-01-25 --days 3 --floor 9000
   Lowest on 2026-01-25: $5,580.00.
   Below $9,000.00 for the first time on 2026-01-25.
@@ -133,10 +126,8 @@ A name that several items have is written with its kind, as the refusal says:
 Without a checking account another one of a bank pays, but none that is owed:
 
   $ kiv new poor.budget >/dev/null; export KIV_FILE=poor.budget
-  $ each 0 <<'.' >/dev/null
-  > bank add First
-  > bank-account add Card --bank First --type credit-card --balance 100 --date 2026-01-01
-  > .
+  $ kiv bank add First >/dev/null
+  $ kiv bank-account add Card --bank First --type credit-card --balance 100 --date 2026-01-01 >/dev/null
   $ kiv outlook --date 2026-01-25 --days 9 --with '5 on 2026-01-26'
   kiv: No bank has an open account that could pay or get this amount.
   [1]

@@ -115,9 +115,6 @@ finds.
   $ kiv report --html --to 2025-03-31 --by payee 'payee:<b>' | grep -o '</h1>.*</header>\|<h2>.*</h2>'
   </h1><p>From 2024-04-01 to 2025-03-31</p><p>Only what fits: payee:&lt;b&gt;</p></header>
   <h2>By payee</h2>
-  $ kiv report --csv --period week --from 1900-01-01 --to 2025-03-31
-  kiv: A report has at most 1200 spans; choose a later first day or longer spans.
-  [1]
   $ kiv report --period decade
   kiv: 'decade' is not one of: week, two-weeks, payday, month, quarter, year.
   [2]

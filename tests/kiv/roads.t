@@ -67,9 +67,6 @@ An account goes to another bank with its goals, its survey and what is set aside
   > .
   $ kiv bank-account move Checking --to Second
   Checking is at the bank Second now.
-  $ kiv bank-account move Trip --to First
-  kiv: 'Trip' lies under 'Checking' and goes along with it; name 'Checking'.
-  [1]
   $ kiv envelopes Checking --on 2026-03-25 --json | jq -c '.accounts[] | .bank, .free.amount, [.lines[] | [.name, .now.amount]]'
   "Second"
   "2050.00"
@@ -99,11 +96,13 @@ Another account takes its place. The statements of both show the whole transfer:
   > bank-account replace Checking --by Giro
   > bank-account replace Giro --by Giro
   > bank-account replace Giro --by Trip
+  > bank-account move Trip --to First
   > bank-account move Giro --to Second
   > bank-account move Rent --to Second
   > .
   kiv: The account 'Checking' is closed; open it again first.
   kiv: 'Giro' cannot replace itself; add an account first.
+  kiv: 'Trip' lies under 'Giro' and goes along with it; name 'Giro'.
   kiv: 'Trip' lies under 'Giro' and goes along with it; name 'Giro'.
   kiv: 'Giro' is at the bank 'Second' already.
   kiv: The account 'Rent' is not assigned to a bank; assign it with kiv bank-account attach.

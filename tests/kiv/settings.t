@@ -45,13 +45,11 @@ never offered:
   > 2'
   Added the bank 'F\u{000A}2'.
   $ completed() { for line; do echo "$line >" $(kiv completion words -- $line); done; }
-  $ completed 'ban' 'bill re' 'bill update -- R' 'bill update -- -x R' 'bill add R' 'post R' \
+  $ completed 'bill update -- R' 'bill update -- -x R' 'bill add R' 'post R' \
   >     'post Rent --account Che' 'post Rent --kind b' 'post Rent --js --acc' \
   >     'post --json --colour R' 'post --json=true R' 'bank rename F' \
-  >     'bank-account add New --bank=First --type mo' 'import x --format q' 'rates fetch EUR JM' \
+  >     'bank-account add New --bank=First --type mo' 'rates fetch EUR JM' \
   >     '--file=household.budget post R' '--file = nowhere.budget post R' '--file b'
-  ban > banks bank bank-account
-  bill re > rename remove
   bill update -- R > Rent
   bill update -- -x R >
   bill add R >
@@ -63,7 +61,6 @@ never offered:
   post --json=true R > Rent
   bank rename F > First
   bank-account add New --bank=First --type mo > money-market
-  import x --format q > qif
   rates fetch EUR JM > JMD
   --file=household.budget post R > Rent
   --file = nowhere.budget post R >

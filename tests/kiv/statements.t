@@ -65,8 +65,6 @@ The bank's own identifiers tell what is there already:
   > .
   $ kiv import s.ofx --into Checking --against Other
   New: 2; matched: 0; already imported: 0; left out: 0; accounts opened: 0.
-  $ kiv import s.ofx --into Checking --against Other
-  New: 0; matched: 0; already imported: 2; left out: 0; accounts opened: 0.
   $ kiv export | grep 'x2'
   2026-01-10 (13) Bakery | [id x2]
   $ kiv transaction update 13 --description 'Cake for Ann' >/dev/null
@@ -156,13 +154,12 @@ What cannot be read is refused, with its line:
 
 So are options that do not fit:
 
-  $ kiv import s.csv --into Checking --against Salary --profile ../x
-  kiv: '../x' is not a profile name; use letters, digits, '-' and '_'.
-  [2]
   $ each 2 <<'.'
+  > import s.csv --into 1 --against Salary --profile ../x
   > import s.csv --into 1 --decimal x
   > import s.csv --into 1 --delimiter ab
   > .
+  kiv: '../x' is not a profile name; use letters, digits, '-' and '_'.
   kiv: 'x' is not one of: '.', ','.
   kiv: 'ab' is not one of: ',', ';', '\t', '|'.
 

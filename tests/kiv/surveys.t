@@ -180,20 +180,16 @@ Nothing is set aside of a card, and nobody is asked for a distribution:
 Bad surveys change nothing:
 
   $ january
-  $ complete() {
-  >     kiv survey complete First Checking --date 2026-01-31 --balance 4350.00 "$@"
-  > }
   $ each 2 <<'.'
   > survey complete
   > survey complete First Checking
   > survey complete First --from x
+  > survey complete First Checking --date 2026-01-31 --balance 4350.00 --tick-all --tick 99
   > .
   kiv: BANK ACCOUNT is missing.
   kiv: --balance is missing.
   kiv: Use either --from or BANK, not both.
-  $ complete --tick-all --tick 99
   kiv: Use either --tick-all or --tick, not both.
-  [2]
   $ kiv survey show First Checking --date 2199-01-01
   kiv: Cannot perform a mapping survey for a future date, 2199-01-01.
   [1]
@@ -201,29 +197,25 @@ Bad surveys change nothing:
 The wizard makes a budget of those of a template's items that get amounts, all of them due in
 days to come:
 
-  $ start() {
-  >     kiv --file start wizard --template teenager --bank First --account Savings \
-  >         --type savings --balance 12.50 --currency EUR "$@"
-  > }
+  $ start='--file start wizard --template teenager --bank First --account Savings
+  >     --type savings --balance 12.50 --currency EUR'
   $ coming() { jq -c 'map(.next > (now | strftime("%F"))) | [length, all]'; }
   $ kiv templates list | sed -n 3p
   teenager                     Teenager
   $ kiv templates show teenager --json >items
   $ coming <items
   [25,true]
-  $ start --item 'Mobile carrier=5'
+  $ each 2 <<'.'
+  > $start --item 'Mobile carrier=5'
+  > $start --item 'Petrl=5'
+  > $start --item 'Petrol=5' --item 'bill:Petrol=6'
+  > $start --item 'Petrol=5 of 7'
+  > .
   kiv: The template has several items 'Mobile carrier'; write one of: bill:Mobile carrier, goal:Mobile carrier.
-  [2]
-  $ start --item 'Petrl=5'
   kiv: The template has no item 'Petrl'; did you mean 'Petrol'?
-  [2]
-  $ start --item 'Petrol=5' --item 'bill:Petrol=6'
   kiv: 'bill:Petrol' is given twice.
-  [2]
-  $ start --item 'Petrol=5 of 7'
   kiv: 'Petrol' is no goal, and has no target.
-  [2]
-  $ start --item 'goal:Mobile carrier=5 of 300 2024-02-29' --item Petrol=20.50 --json >made
+  $ kiv $start --item 'goal:Mobile carrier=5 of 300 2024-02-29' --item Petrol=20.50 --json >made
   $ coming <made
   [2,true]
   $ jq -c '.[] | [.name, .amount.amount, .target.amount, .bank]' made

@@ -19,6 +19,12 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+/// A text, the columns that it has, and what is shown there.
+using Cut = std::tuple<QString, int, QString>;
+
+/// How the help begins, and how noon of a day is written.
+using Language = std::pair<QString, QString>;
+
 /// The pieces of the command that have more cases than are worth a process
 /// each.
 class TestKivPieces : public QObject {
@@ -27,27 +33,21 @@ class TestKivPieces : public QObject {
 private slots:
     void wordsAreSplitAsAShellDoes_data()
     {
-        QTest::addColumn<std::string>("line");
-        QTest::addColumn<std::vector<std::string>>("words");
-        const auto row = [](const char *line, const std::vector<std::string> &words) {
-            QTest::newRow(line) << std::string(line) << words;
-        };
-        row("", {});
-        row("  a\tb  ", {"a", "b"});
-        row("'a b' \"c d\"", {"a b", "c d"});
-        row("a'b c'd", {"ab cd"});
-        row("'' \"\"", {"", ""});
-        row("a\\ b \"\\\"\" '\\'", {"a b", "\"", "\\"});
-        row("a # b", {"a"});
-        row("a#b", {"a#b"});
-        row("a\\", {"a\\"}); // nothing is left to be escaped
-        row("a b\r", {"a", "b"});
+        addRows<std::vector<std::string>>({{"", {}},
+                                           {"  a\tb  ", {"a", "b"}},
+                                           {"'a b' \"c d\"", {"a b", "c d"}},
+                                           {"a'b c'd", {"ab cd"}},
+                                           {"'' \"\"", {"", ""}},
+                                           {"a\\ b \"\\\"\" '\\'", {"a b", "\"", "\\"}},
+                                           {"a # b", {"a"}},
+                                           {"a#b", {"a#b"}},
+                                           {"a\\", {"a\\"}}, // nothing is left to be escaped
+                                           {"a b\r", {"a", "b"}}});
     }
     void wordsAreSplitAsAShellDoes()
     {
-        QFETCH(std::string, line);
-        QFETCH(std::vector<std::string>, words);
-        QVERIFY(app::splitWords(line) == words);
+        const auto words = rowOf<std::vector<std::string>>();
+        QVERIFY(app::splitWords(QTest::currentDataTag()) == words);
         for (const std::string &word : words)
             QVERIFY(app::splitWords(app::quotedWord(word)) == std::vector{word});
     }
@@ -58,22 +58,18 @@ private slots:
 
     void textIsCutToColumns_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QString>("shown");
-        QTest::newRow("fits") << u"abcd"_s << 4 << u"abcd"_s;
-        QTest::newRow("too long") << u"abcde"_s << 4 << u"abc…"_s;
-        QTest::newRow("wide") << u"食費食費"_s << 6 << u"食費…"_s;
-        QTest::newRow("combining") << u"e\u0301e\u0301"_s << 2 << u"e\u0301e\u0301"_s;
-        QTest::newRow("without width") << u"a\u200db"_s << 2 << u"a\u200db"_s;
-        QTest::newRow("full width") << u"ＡＢ"_s << 3 << u"Ａ…"_s;
-        QTest::newRow("enclosing") << u"5\u20dd6"_s << 2 << u"5\u20dd6"_s;
+        addRows<Cut>({{"fits", {u"abcd"_s, 4, u"abcd"_s}},
+                      {"too long", {u"abcde"_s, 4, u"abc…"_s}},
+                      {"wide", {u"食費食費"_s, 6, u"食費…"_s}},
+                      {"combining", {u"e\u0301e\u0301"_s, 2, u"e\u0301e\u0301"_s}},
+                      {"without width", {u"a\u200db"_s, 2, u"a\u200db"_s}},
+                      {"full width", {u"ＡＢ"_s, 3, u"Ａ…"_s}},
+                      {"enclosing", {u"5\u20dd6"_s, 2, u"5\u20dd6"_s}}});
     }
     void textIsCutToColumns()
     {
-        QFETCH(QString, text);
-        QFETCH(int, width);
-        QTEST(app::elided(text, width), "shown");
+        const auto [text, width, shown] = rowOf<Cut>();
+        QCOMPARE(app::elided(text, width), shown);
         QVERIFY(app::displayWidth(app::elided(text, width)) <= width);
     }
 
@@ -146,23 +142,19 @@ private slots:
 
     void helpFitsTheScreen_data()
     {
-        QTest::addColumn<QByteArray>("language");
-        QTest::addColumn<QString>("usage");
-        QTest::addColumn<QString>("noon");
-        QTest::newRow("nothing") << QByteArray() << u"Usage: "_s << u"2026-03-01 12:00"_s;
-        QTest::newRow("POSIX") << QByteArray("POSIX") << u"Usage: "_s << u"2026-03-01 12:00"_s;
-        QTest::newRow("German") << QByteArray("de_DE") << u"Aufruf: "_s << u"01.03.2026 12:00"_s;
-        QTest::newRow("Spanish") << QByteArray("es_ES") << u"Uso: "_s << u"01/03/2026 12:00"_s;
+        addRows<Language>({{"", {u"Usage: "_s, u"2026-03-01 12:00"_s}},
+                           {"POSIX", {u"Usage: "_s, u"2026-03-01 12:00"_s}},
+                           {"de_DE", {u"Aufruf: "_s, u"01.03.2026 12:00"_s}},
+                           {"es_ES", {u"Uso: "_s, u"01/03/2026 12:00"_s}}});
     }
     void helpFitsTheScreen()
     {
-        QFETCH(QByteArray, language);
-        QFETCH(QString, usage);
+        const auto [usage, noon] = rowOf<Language>();
         for (const char *variable : {"LANG", "LC_MESSAGES", "LC_NUMERIC", "LC_TIME"})
             qunsetenv(variable);
-        qputenv("LC_ALL", language);
+        qputenv("LC_ALL", QTest::currentDataTag());
         workbench::speakAsUser(*QCoreApplication::instance());
-        QTEST(workbench::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), "noon");
+        QCOMPARE(workbench::momentText(QDateTime(QDate(2026, 3, 1), QTime(12, 0))), noon);
         app::Program program(app::declareCommands);
         const auto tree = program.commandTree();
         std::vector<const CLI::App *> commands{tree.get()};

@@ -207,6 +207,10 @@ inline void Desk::furnish()
     (void)save();
 }
 
+struct FurnishedDesk : Desk {
+    FurnishedDesk() { furnish(); }
+};
+
 inline QStringList texts(const std::vector<const char *> &lines)
 {
     QStringList list;

@@ -66,8 +66,6 @@ struct Read {
         return named<navigation::BudgetWizardTemplates>("none,child,teenager,single", text);
     }
 
-    // ---- money and accounts --------------------------------------------------
-
     static Currency currency(Text text) { return numira::toCurrency(text.toStdString()); }
     static std::set<Currency> currencies(Text text) { return set(text, &currency); }
     /// "10.50", or "10.50 EUR"; nothing is no dollar.
@@ -101,8 +99,6 @@ struct Read {
         return found[5].isEmpty() ? transaction : transaction.withNumber(number(found[5]));
     }
 
-    // ---- banks -----------------------------------------------------------------
-
     static banking::BankName bank(Text text) { return banking::BankName(text); }
     static BankAccountTypes kind(Text text)
     {
@@ -130,8 +126,6 @@ struct Read {
         }
         return {bank(found[1]), accounts, !found[2].isEmpty()};
     }
-
-    // ---- budget items ----------------------------------------------------------
 
     static BudgetItemTypes type(Text text)
     {
@@ -175,8 +169,6 @@ struct Read {
                                      amount.isEmpty() ? usd("10") : money(amount)));
             });
     }
-
-    // ---- surveys, rates, configuration -----------------------------------------
 
     /// "bill Rent +1 & bill Tax -2", or the same with numbers of accounts.
     template <typename Key>
@@ -232,8 +224,6 @@ struct Read {
                 {tagging::Tag(QStringLiteral("home"))}};
     }
 };
-
-// ---- slots -----------------------------------------------------------------------
 
 using Value = std::shared_ptr<void>;
 using Reader = std::function<Value(const QString &)>;
@@ -307,8 +297,6 @@ Request requestOf(const QString &text)
             request(n);
     };
 }
-
-// ---- the table -------------------------------------------------------------------
 
 const std::vector<Situation> &situations()
 {

@@ -3,12 +3,12 @@
 
 #include "navigation/configuration.h"
 
-#include "foundation/error.h"
 #include "numira/error.h"
 #include "numira/library.h"
 
 #include "support/message_log.h"
 #include "support/preferences_store.h"
+#include "support/refusal.h"
 
 using kiv::foundation::Percentage;
 using namespace kiv::navigation;
@@ -145,15 +145,9 @@ private slots:
         UserPreferences preferences(m_store.fresh());
         BudgetTagManager tags = someTags();
         const ConfigurationData before = load(preferences, tags);
-        QString message;
-        try {
-            store(data, preferences, tags, {usd, jpy});
-        } catch (const kiv::foundation::Error &error) {
-            message = error.message();
-            QCOMPARE(load(preferences, tags), before);
-            QVERIFY(!preferences.doesExist());
-        }
-        QCOMPARE(message, refusal);
+        QCOMPARE(refusalOf([&] { store(data, preferences, tags, {usd, jpy}); }), refusal);
+        if (!refusal.isEmpty())
+            QVERIFY(load(preferences, tags) == before && !preferences.doesExist());
     }
 
     void showsCurrenciesAndReadsThemBack()

@@ -45,8 +45,7 @@ private slots:
 
     void loadingReplacesEverything()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         const auto saved = desk.save();
         desk.navigator->onConfirmedNewBudgetEmpty();
         // Rent without the tags that it has in the file.
@@ -61,8 +60,7 @@ private slots:
 
     void failedLoadChangesNothing()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         auto broken = desk.save();
         broken.budgetAccountCodes.insertOrAssign<budgeting::Bill>(source("Nothing"), no(99));
         broken.itemTags = {};
@@ -83,8 +81,7 @@ private slots:
 
     void failedReloadLeavesAnEmptyBudget()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         breakAccess(desk, QStringLiteral("load budget"));
         QVERIFY_THROWS_EXCEPTION(storage::StorageError, desk.navigator->onReloadBudgetFile());
         desk.disk->before = [](const QString &) {};
@@ -97,8 +94,7 @@ private slots:
     {
         // Without the rates it is saved, but counts as changed: to save once more is safe.
         for (const bool isStored : {false, true}) {
-            Desk desk;
-            desk.furnish();
+            FurnishedDesk desk;
             ask(desk, "Added(bill Gas)");
             breakAccess(desk,
                         isStored ? QStringLiteral("store rates") : QStringLiteral("store budget"));
@@ -123,8 +119,7 @@ private slots:
                                               {1U, QStringLiteral("cleared, reconciled")},
                                               {3U, QStringLiteral("reconciled, cleared")}};
         for (const auto &[reconciled, statuses] : rows) {
-            Desk desk;
-            desk.furnish();
+            FurnishedDesk desk;
             if (reconciled != 0)
                 desk.disk->files.at(home).generalLedger.reconcile(txn(2), no(reconciled));
             desk.navigator->onLoadBudgetFile(home);
@@ -140,8 +135,7 @@ private slots:
 
     void transferIsDatedToday()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         desk.navigator->onTransferRequested(no(4), no(1), usd("5"), QStringLiteral("Back"));
         QCOMPARE(desk.take(), texts({"transactionSaveSucceeded(none, 4) *"}));
         const auto posted = desk.save().generalLedger.lookUpTransaction(txn(4)).value();
@@ -152,8 +146,7 @@ private slots:
 
     void viewsMayChangeWhatTheyDraw()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         Navigator &n = *desk.navigator;
         QStringList drawn;
         connect(&n, &Navigator::showBills, this, [&](const budgeting::BillMap &bills) {
@@ -177,8 +170,7 @@ private slots:
 
     void viewsMayLetGoOfWhatTheyHandedIn()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         Navigator &n = *desk.navigator;
         struct Held {
             budgeting::BudgetSource item = source("Rent");
@@ -246,8 +238,7 @@ private slots:
 
     void aFailedSurveyThatPostedIsAChange()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         const auto complete = [&](const QString &unknown) {
             requestOf(QStringLiteral("CompletedSurvey(2999-12-31, First 1 checking, 2492, 1 2 3, "
                                      "bill Rent +1 & %1 Gone +1)")
@@ -262,8 +253,7 @@ private slots:
 
     void wizardBuildsABudget()
     {
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         ask(desk,
             "CompletedNewBudgetFirstTimeWizard(EUR, EUR GBP, 0, Bank, checking, Daily, 100 EUR, "
             "single)");

@@ -25,8 +25,7 @@ private slots:
         const Situation &situation = situations().at(std::size_t(index));
         const bool isFile = situation.name.startsWith("file: ");
         m_settings.reset();
-        Desk desk;
-        desk.furnish();
+        FurnishedDesk desk;
         QStringList said;
         for (const QString &request : situation.request.split(QStringLiteral("; "))) {
             // Saving would answer what is asked of files.
@@ -75,8 +74,7 @@ private slots:
         };
         for (const auto &row : allRequests()) {
             m_settings.reset();
-            Desk desk;
-            desk.furnish();
+            FurnishedDesk desk;
             compare(desk, row.second);
         }
         // What comes from elsewhere than a request.

@@ -102,8 +102,7 @@ private slots:
     {
         QFETCH(const Request, prepare);
         m_settings.reset();
-        Desk preparing;
-        preparing.furnish();
+        FurnishedDesk preparing;
         prepare(*preparing.navigator);
         const Data data = preparing.save();
         QVERIFY(isBalanced(data.generalLedger));
@@ -143,8 +142,7 @@ private slots:
         unsigned walks = 0;
         using Steps = std::vector<std::array<std::uint8_t, 4>>;
         QVERIFY(rc::check("every step keeps the books true", [&](const Steps &steps) {
-            Desk desk;
-            desk.furnish();
+            FurnishedDesk desk;
             Data before = desk.save();
             for (const auto &step : steps) {
                 const QString request = randomRequest(step);

@@ -12,6 +12,7 @@
 #include "support/json_text.h"
 #include "support/loopback_server.h"
 #include "support/message_log.h"
+#include "support/refusal.h"
 
 using namespace kiv::networking;
 
@@ -55,17 +56,6 @@ public:
     QList<RequestNumber> requests;
     QList<RequestNumber> cancelled;
 };
-
-/// Why the response is refused; empty when it is not.
-QString refusalOf(const Response &response)
-{
-    try {
-        (void)kiv::networking::readJson(response);
-        return {};
-    } catch (const kiv::networking::ReplyError &error) {
-        return error.message();
-    }
-}
 
 } // namespace
 
@@ -316,11 +306,13 @@ private slots:
               {"{'a': 1", json, broken},
               {"", json, broken},
               {deep, json, broken}}) {
-            const QString said = refusalOf(Response::succeeded(jsonText(text), type));
+            const auto response = Response::succeeded(jsonText(text), type);
+            const QString said = refusalOf([&] { (void)readJson(response); });
             QVERIFY2(said.startsWith(refusal) && said.isEmpty() == refusal.isEmpty(),
                      qPrintable(said));
         }
-        QCOMPARE(refusalOf(Response::failed(u"no network"_s)), u"no network"_s);
+        QCOMPARE(refusalOf([] { (void)readJson(Response::failed(u"no network"_s)); }),
+                 u"no network"_s);
     }
 
 private:

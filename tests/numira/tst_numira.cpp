@@ -19,9 +19,6 @@
 
 using boost::multiprecision::cpp_int;
 using namespace numira;
-using numira::setUpLibrary;
-using numira::toCurrency;
-using numira::toMoney;
 
 namespace {
 

@@ -147,10 +147,7 @@ private slots:
         const QJsonDocument document = QJsonDocument::fromJson(output);
         QVERIFY2(!document.isNull(), output.left(300).constData());
         std::set<QString> names;
-        const QJsonArray accounts = document.isArray()
-                                        ? document.array()
-                                        : document.object().value(u"accounts"_qs).toArray();
-        for (const QJsonValue &account : accounts)
+        for (const QJsonValue &account : document.array())
             names.insert(account[u"name"_qs].toString());
         for (const QString &name : m_kept) {
             // Half a character has no form in UTF-8; JSON has its replacement.

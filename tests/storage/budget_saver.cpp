@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
-// A program that saves a budget for as long as it is let:
-//
-//     budget_saver save FILE      saves two budgets in turn
-//     budget_saver encrypt FILE   does the same with encrypted ones
-//     budget_saver spoil FILE     does the same as a careless program does it
-//     budget_saver check FILE     status 0 when the file is one of the two and
-//                             the list of its versions is right
-//
-// It prints a line once the file is there and it goes on.
+// budget_saver save FILE      saves two budgets in turn, and prints a line once the file is there
+// budget_saver encrypt FILE   does the same with encrypted ones
+// budget_saver spoil FILE     does the same as a careless program does it
+// budget_saver check FILE     status 0 when the file is one of the two and its versions are right
 #include "random_budget.h"
 #include "scratch_folder.h"
 

@@ -3,6 +3,8 @@
 
 #include "scratch_folder.h"
 
+#include "support/refusal.h"
+
 #include <QtTest/QTest>
 
 namespace kiv::test {

@@ -110,6 +110,12 @@ public:
         if (isEncrypting)
             encryptNextAs(encryptedFile());
     }
+    /// The file of that path, open.
+    explicit TestFile(const QString &path) : TestFile()
+    {
+        setFilePathName(path);
+        (void)load();
+    }
 };
 
 /// The ids of the version in the file and of the former ones, each once.

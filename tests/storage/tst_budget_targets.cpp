@@ -168,13 +168,10 @@ private slots:
             ::chmod(qPrintable(m_folder->path(u"."_qs)), folder);
         };
         const auto said = [this](bool isSaving) {
-            try {
+            return test::refusalOf([&] {
                 m_file->setFilePathName(m_path);
                 isSaving ? m_file->store(budget(u"Second"_qs)) : void(m_file->load());
-            } catch (const storage::StorageError &error) {
-                return error.message();
-            }
-            return QString();
+            });
         };
         setModes(folderMode, fileMode);
         auto nobody = std::make_unique<Nobody>();
@@ -261,13 +258,9 @@ private slots:
             ::mkdir(qPrintable(versions), mode);
             ::chmod(qPrintable(versions), mode);
             QVERIFY(!isRoot || ::chown(qPrintable(versions), owner, owner) == 0);
-            QString told;
             const auto nobody = std::make_unique<Nobody>();
-            try {
-                test::store(m_path, budget(u"Second"_qs));
-            } catch (const storage::StorageError &error) {
-                told = error.message();
-            }
+            const QString told =
+                test::refusalOf([this] { test::store(m_path, budget(u"Second"_qs)); });
             QCOMPARE(bankIn(test::load(m_path)), u"First"_qs);
             QCOMPARE(told, u"The folder '%1' for the former versions "_qs.arg(versions) + cause);
             QCOMPARE(m_folder->read(u"home.budget"_qs), before);

@@ -199,9 +199,7 @@ private slots:
         makeVersions();
         const QStringList ids = test::versionsOf(m_path);
         QCOMPARE(ids.size(), 4);
-        test::TestFile file;
-        file.setFilePathName(m_path);
-        (void)file.load();
+        test::TestFile file(m_path);
         QCOMPARE(file.encrypt(test::passphrase()), QStringList());
         QCOMPARE(test::inTheClear(m_path), QString());
         QCOMPARE(test::versionsOf(m_path), ids);
@@ -261,9 +259,7 @@ private slots:
         // The last version brings an encrypted file back,
         QFile::remove(m_folder->path(u"two.budget"_s));
         // encrypted as it was, whatever else was open.
-        test::TestFile lost;
-        lost.setFilePathName(m_folder->path(u"new.budget"_s));
-        (void)lost.load();
+        test::TestFile lost(m_folder->path(u"new.budget"_s));
         lost.setFilePathName(m_folder->path(u"two.budget"_s));
         lost.restore(storage::keptVersions(lost.filePathName(), ring.get()).front());
         QVERIFY(isEncrypted(u"two.budget"_s));
@@ -281,16 +277,12 @@ private slots:
         for (const auto &left : {u".keeping"_s, u".2020-01-01T00-00-00.000Z-1.budget.saving"_s})
             test::overwrite(versions + left, "SQLite format 3");
         {
-            test::TestFile file;
-            file.setFilePathName(stranger);
-            (void)file.load();
+            test::TestFile file(stranger);
             file.setKeys(std::make_shared<KeyRing>(KeyRing::Cost::Small));
             file.encrypt(Passphrase(u"forgotten"_s));
         }
         const QByteArray kept = test::contentOf(stranger);
-        test::TestFile file;
-        file.setFilePathName(m_path);
-        (void)file.load();
+        test::TestFile file(m_path);
         QCOMPARE(file.encrypt(test::passphrase()), (QStringList{large, stranger}));
         QCOMPARE(test::inTheClear(m_path), QFileInfo(large).fileName());
         QFile::remove(large);
@@ -331,9 +323,7 @@ private slots:
                 test::isEncrypting = change > 0;
                 makeVersions();
                 if (change > 0) {
-                    test::TestFile file; // the backup of the first edition with it
-                    file.setFilePathName(m_path);
-                    (void)file.load();
+                    const test::TestFile file(m_path); // the first edition's backup with it
                     QCOMPARE(test::inTheClear(m_path), QString());
                 }
                 if (!breakOff(changes[std::size_t(change)], call, at, isKilled))
@@ -425,9 +415,7 @@ private:
     {
         const pid_t child = ::fork();
         if (child == 0) {
-            test::TestFile file;
-            file.setFilePathName(m_path);
-            (void)file.load();
+            test::TestFile file(m_path);
             test::fail(call, at, isKilled ? 0 : ENOSPC,
                        isKilled ? [] { ::raise(SIGKILL); } : std::function<void()>());
             (void)test::failureOf([&] { change(file); });

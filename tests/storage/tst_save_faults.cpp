@@ -381,9 +381,7 @@ private slots:
         for (const char *call : {"lstat", "unlink"}) {
             const Desk desk(Standing::NotOpen);
             {
-                test::TestFile file;
-                file.setFilePathName(desk.path);
-                (void)file.load();
+                const test::TestFile file(desk.path);
                 fail(call, 1, EIO);
             }
             failingCalls = {};

@@ -53,9 +53,7 @@ using Saver = void (*)(const Versions &, const QString &path, int times);
 
 void save(const Versions &versions, const QString &path, int times)
 {
-    test::TestFile file;
-    file.setFilePathName(path);
-    (void)file.load();
+    test::TestFile file(path);
     failingCalls.isOn = true;
     for (int turn = 1; turn <= times; ++turn)
         file.store(versions.data[turn % 2]);

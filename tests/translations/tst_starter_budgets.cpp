@@ -14,18 +14,15 @@ class StarterBudgets : public QObject {
 private slots:
     void starterBudgetsKeepTheirItems_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("de") << u"de"_s;
-        QTest::newRow("es") << u"es"_s;
+        addRows<QString>({{"German", u"de"_s}, {"Spanish", u"es"_s}});
     }
-
     /// Two items of one kind with one name would be refused.
     void starterBudgetsKeepTheirItems()
     {
-        QFETCH(const QString, language);
         // As a front end does it.
         QTranslator translator;
-        QVERIFY(translator.load(QLocale(language), u"kiv"_s, u"_"_s, u":/kiv/translations"_s));
+        QVERIFY(
+            translator.load(QLocale(rowOf<QString>()), u"kiv"_s, u"_"_s, u":/kiv/translations"_s));
         QVERIFY(QCoreApplication::installTranslator(&translator));
         using kiv::navigation::BudgetWizardTemplates;
         for (const auto household :

@@ -393,7 +393,6 @@ class DocumentTest final : public QObject {
 private slots:
     void everyWalkOfDeedsUndoAndRedoAgreesWithAList()
     {
-        const MessageLog log;
         for (int run = 0; run < randomRuns(4); ++run) {
             const unsigned seed = std::random_device()();
             Walk walk(seed);
@@ -412,7 +411,6 @@ private slots:
 
     void nothingIsLostButTheLastSecond()
     {
-        const MessageLog log;
         // First one that keeps nothing.
         const int late = static_cast<int>(Victim::lostMax) + 1'000;
         QVERIFY(brokenByKills(rename, 1, late, late).contains(u"was lost"_s));
@@ -422,7 +420,6 @@ private slots:
 
     void aFileThatAnotherHasIsOpenedForReading()
     {
-        const MessageLog log;
         const test::ScratchFolder folder;
         const QString path = folder.path(u"home.budget"_s);
         Document owner(test::surroundings(folder.path(u"rates"_s)));
@@ -445,7 +442,6 @@ private slots:
 
     void anEncryptedBudgetStaysSo()
     {
-        const MessageLog log;
         const test::ScratchFolder folder;
         const QString path = folder.path(u"home.budget"_s);
         {
@@ -495,7 +491,6 @@ private slots:
 
     void aCopyHasEverything()
     {
-        const MessageLog log;
         const test::ScratchFolder folder;
         Document document(test::surroundings(folder.path(u"rates"_s)));
         document.setKeeping(Document::Keeping::WithinASecond);
@@ -522,6 +517,9 @@ private slots:
         }));
         QVERIFY(document.present() == before);
     }
+
+private:
+    const MessageLog m_log;
 };
 
 static const kiv::test::Suite<DocumentTest> suite;
