@@ -267,8 +267,13 @@ void MainWindow::goTo(const Place &place)
     const bool isOther = wanted != page();
     if (isOther)
         m_panel->close();
+    {
+        // Before the page: a list without a row takes its first, and shows that page, too, when
+        // what is hidden leaves it the focus.
+        const QSignalBlocker blocker(m_list);
+        m_list->setCurrentRow(row);
+    }
     m_stack->setCurrentIndex(row + 1);
-    m_list->setCurrentRow(row);
     wanted->bringUpToDate();
     if (!place.detail.isEmpty())
         wanted->goTo(place.detail);

@@ -40,6 +40,9 @@ CommandPalette::CommandPalette(const Names &names, QWidget *window)
     m_list->setObjectName(QStringLiteral("found"));
     m_list->setAccessibleName(names.list);
     m_list->setFocusPolicy(Qt::NoFocus);
+    // Why a command is off may take more than a line.
+    m_list->setWordWrap(true);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_field, &QLineEdit::textChanged, this, &CommandPalette::list);
     connect(m_field, &QLineEdit::returnPressed, this, &CommandPalette::choose);
     connect(m_list, &QListWidget::itemClicked, this, &CommandPalette::choose);
