@@ -34,36 +34,23 @@ double luminance(const QColor &colour)
            0.0722 * linear(rgb.blueF());
 }
 
-QPalette lightPalette()
-{
-    QPalette palette(QColor(0xec, 0xee, 0xf0), QColor(0xf6, 0xf7, 0xf8));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf4, 0xf6, 0xf9));
-    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xa8));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x1f, 0x5f, 0xa8));
-    palette.setColor(QPalette::PlaceholderText, QColor(0x5a, 0x5f, 0x66));
-    return palette;
-}
-
-QPalette darkPalette()
-{
-    QPalette palette(QColor(0x3a, 0x3f, 0x45), QColor(0x26, 0x2a, 0x2f));
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
-        palette.setColor(role, QColor(0xec, 0xee, 0xf0));
-    palette.setColor(QPalette::Base, QColor(0x1c, 0x1f, 0x23));
-    palette.setColor(QPalette::AlternateBase, QColor(0x23, 0x27, 0x2c));
-    palette.setColor(QPalette::ToolTipBase, QColor(0x3a, 0x3f, 0x45));
-    palette.setColor(QPalette::Highlight, QColor(0x2c, 0x6c, 0xb4));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x9c, 0xc4, 0xf0));
-    palette.setColor(QPalette::PlaceholderText, QColor(0xa9, 0xb0, 0xb8));
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x9a, 0xa1, 0xa9));
-    return palette;
-}
+/// What a part of a palette has where neither the system nor high contrast decides.
+struct Ink {
+    QPalette::ColorRole role;
+    Pair pair;
+};
+constexpr std::array inks{Ink{QPalette::WindowText, {0xff000000, 0xffeceef0}},
+                          Ink{QPalette::Text, {0xff000000, 0xffeceef0}},
+                          Ink{QPalette::ButtonText, {0xff000000, 0xffeceef0}},
+                          Ink{QPalette::ToolTipText, {0xff000000, 0xffeceef0}},
+                          Ink{QPalette::ToolTipBase, {0xffffffdc, 0xff3a3f45}},
+                          Ink{QPalette::Base, {0xffffffff, 0xff1c1f23}},
+                          Ink{QPalette::AlternateBase, {0xfff4f6f9, 0xff23272c}},
+                          Ink{QPalette::Highlight, {0xff1f5fa8, 0xff2c6cb4}},
+                          Ink{QPalette::HighlightedText, {0xffffffff, 0xffffffff}},
+                          Ink{QPalette::Link, {0xff1f5fa8, 0xff9cc4f0}},
+                          Ink{QPalette::PlaceholderText, {0xff5a5f66, 0xffa9b0b8}}};
+constexpr Pair disabledInk{0xff808080, 0xff9aa1a9};
 
 /// The pairs of text and background that an appearance consists of.
 constexpr std::array pairs{std::pair(QPalette::WindowText, QPalette::Window),
@@ -71,6 +58,19 @@ constexpr std::array pairs{std::pair(QPalette::WindowText, QPalette::Window),
                            std::pair(QPalette::ButtonText, QPalette::Button)};
 constexpr double highContrast = 19; ///< yellow on black has it, and no usual palette
 constexpr double enhanced = 7;      ///< WCAG 2.1, 1.4.6
+
+QPalette usualPalette(bool isDark)
+{
+    const auto pick = [isDark](const Pair &pair) {
+        return QColor::fromRgb(isDark ? pair.dark : pair.light);
+    };
+    QPalette palette(pick({0xffeceef0, 0xff3a3f45}), pick({0xfff6f7f8, 0xff262a2f}));
+    for (const Ink &ink : inks)
+        palette.setColor(ink.role, pick(ink.pair));
+    for (const auto &[front, behind] : pairs)
+        palette.setColor(QPalette::Disabled, front, pick(disabledInk));
+    return palette;
+}
 
 /// Two colours for all that there is. What is chosen has them the other way round.
 QPalette contrastPalette(const QColor &text, const QColor &back)
@@ -130,9 +130,9 @@ QPalette paletteFor(Appearance appearance, const QPalette &system)
 {
     switch (appearance) {
     case Appearance::Light:
-        return lightPalette();
+        return usualPalette(false);
     case Appearance::Dark:
-        return darkPalette();
+        return usualPalette(true);
     case Appearance::BlackOnWhite:
         return contrastPalette(Qt::black, Qt::white);
     case Appearance::WhiteOnBlack:
@@ -142,7 +142,7 @@ QPalette paletteFor(Appearance appearance, const QPalette &system)
     }
     if (isHighContrast(system))
         return followed(system);
-    return isDark(system) ? darkPalette() : lightPalette();
+    return usualPalette(isDark(system));
 }
 
 double contrast(const QColor &one, const QColor &other)
