@@ -224,6 +224,12 @@ QStringList pale(const QPalette &palette, double wanted)
                                       {QPalette::Link, QPalette::Window},
                                       {QPalette::ToolTipText, QPalette::ToolTipBase}})
         judge(QStringLiteral("palette %1").arg(front), palette.color(front), palette.color(back));
+    for (const auto &[front, back] : {std::pair(QPalette::WindowText, QPalette::Window),
+                                      {QPalette::Text, QPalette::Base},
+                                      {QPalette::ButtonText, QPalette::Button}}) {
+        if (desktop::contrast(palette.color(QPalette::Disabled, front), palette.color(back)) < 3)
+            faults += QStringLiteral("disabled palette %1").arg(front);
+    }
     for (const Colour meaning : {Colour::Faint, Colour::Negative, Colour::Good, Colour::Warning,
                                  Colour::Wrong, Colour::Heading}) {
         for (const QPalette::ColorRole back :
@@ -268,7 +274,7 @@ QStringList misfits(QWidget &root)
                 faults += described(*widget) + QStringLiteral(": markup, cut or stretched");
         }
         if (const auto *list = qobject_cast<const QListWidget *>(widget);
-            list && list->horizontalScrollBar()->isVisible())
+            list && list->isVisible() && list->horizontalScrollBar()->maximum() > 0)
             faults += described(*widget) + QStringLiteral(": its lines are cut off");
         if (widget->layout() && widget->layout()->isEmpty() && !widget->size().isEmpty())
             faults += described(*widget) + QStringLiteral(": room for nothing");

@@ -5,17 +5,39 @@
 
 namespace kiv::test {
 
-/// What a widget paints at the size it would like: things with a pen and a brush, and texts; and
-/// what is wrong with their places.
+/// What a widget and all in it paint: things with a pen and a brush, and texts; and what is wrong
+/// with their places.
 class Painted final : public QPaintDevice, private QPaintEngine {
 public:
     explicit Painted(QWidget &widget) : QPaintEngine(AllFeatures), m_widget(widget)
     {
-        const QSize size = widget.size();
-        widget.resize(widget.sizeHint());
         m_all = widget.rect();
         widget.render(this);
-        widget.resize(size);
+    }
+    /// At the size that it would like.
+    [[nodiscard]] static Painted atItsSize(QWidget &widget)
+    {
+        const QSize size = widget.size();
+        widget.resize(widget.sizeHint());
+        const auto back = qScopeGuard([&] { widget.resize(size); });
+        return Painted(widget);
+    }
+    /// Whether sum() is what it is elsewhere: it holds for one font and version of Qt alone.
+    [[nodiscard]] static bool isKnown()
+    {
+        const QFont font = QApplication::font();
+        return QLatin1String(qVersion()) == u"6.4.2" &&
+               QFontInfo(font).family() == u"DejaVu Sans" &&
+               qRound(100 * QFontMetricsF(font).horizontalAdvance(u"Wäge 0,19 €"_qs)) == 7536;
+    }
+    /// A sum over all that is painted and where.
+    [[nodiscard]] QString sum() const
+    {
+        QStringList all = m_places;
+        all.sort(); // tables paint cells that span several columns in any order
+        const auto sum =
+            QCryptographicHash::hash(all.join(u'\n').toUtf8(), QCryptographicHash::Md5);
+        return QString::fromLatin1(sum.toHex().first(8));
     }
     [[nodiscard]] QStringList told() const
     {
@@ -50,6 +72,7 @@ private:
     {
         const QRectF box(at.x(), at.y() - item.ascent(), item.width(), item.ascent());
         m_boxes.emplace_back(item.text(), painter()->transform().mapRect(box));
+        note(box);
     }
     void drawRects(const QRectF *boxes, int count) override
     {
@@ -57,15 +80,28 @@ private:
             return m_all.united(painter()->transform().mapRect(box)) == m_all;
         });
         add(isWithin ? u"boxes"_qs : u"boxes outside"_qs, count);
+        std::for_each(boxes, boxes + count, [this](const QRectF &box) { note(box); });
     }
-    void drawLines(const QLineF *, int count) override { add(u"lines"_qs, count); }
+    void drawLines(const QLineF *lines, int count) override
+    {
+        add(u"lines"_qs, count);
+        std::for_each(lines, lines + count, [this](const QLineF &line) {
+            note({line.p1(), line.p2()});
+        });
+    }
     void drawEllipse(const QRectF &box) override
     {
+        note(box);
         add(box.width() == box.height() ? u"dots"_qs : u"flat dots"_qs, 1);
     }
-    void drawPath(const QPainterPath &) override { add(u"frames"_qs, 1); }
-    void drawPolygon(const QPointF *, int, PolygonDrawMode mode) override
+    void drawPath(const QPainterPath &path) override
     {
+        note(path.boundingRect());
+        add(u"frames"_qs, 1);
+    }
+    void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
+    {
+        std::for_each(points, points + count, [this](QPointF point) { note({point, QSizeF()}); });
         add(mode == PolylineMode ? u"courses"_qs : u"areas"_qs, 1);
     }
     void add(QString things, int count)
@@ -86,10 +122,17 @@ private:
         const QString fill = named(painter()->brush());
         things += u' ' + named(painter()->pen()) + width + (fill.isEmpty() ? fill : u'+' + fill);
         m_things[things.trimmed()] += count;
+        m_places += things;
+    }
+    void note(const QRectF &box)
+    {
+        const QRect at = painter()->transform().mapRect(box).toRect();
+        m_places += u"%1 %2 %3 %4"_qs.arg(at.left()).arg(at.top()).arg(at.width()).arg(at.height());
     }
 
     QWidget &m_widget;
     std::map<QString, int> m_things;
+    QStringList m_places; ///< of all things, as they are painted
     QRectF m_all;
     std::vector<std::pair<QString, QRectF>> m_boxes; ///< of the texts
 };

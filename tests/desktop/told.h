@@ -101,7 +101,7 @@ inline QStringList toldBy(const QWidget &widget, int rowsMax)
     if (const auto *view = qobject_cast<const QAbstractItemView *>(&widget))
         return rowsOf(*view, rowsMax);
     if (qobject_cast<const desktop::ChartView *>(&widget))
-        return Painted(const_cast<QWidget &>(widget)).told();
+        return Painted::atItsSize(const_cast<QWidget &>(widget)).told();
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
         text = (label->text().isEmpty() ? u"empty "_qs + label->objectName() : label->text()) +
                (label->buddy() ? u' ' + valueOf(*label->buddy()) : QString());

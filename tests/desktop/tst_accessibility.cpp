@@ -4,6 +4,8 @@
 #include "desktop/accessibility.h"
 #include "desktop/household_window.h"
 
+#include "widgets/outline_style.h"
+
 #include "workbench/entry/user_locale.h"
 
 #include <QtWidgets/QtWidgets>
@@ -64,6 +66,8 @@ private slots:
     void allPalettesCanBeRead()
     {
         using desktop::Appearance;
+        QCOMPARE(qRound(100 * desktop::contrast(QColor(0x77, 0x77, 0x77), Qt::white)), 448);
+        QCOMPARE(qRound(100 * desktop::contrast(Qt::black, QColor(10, 10, 10))), 106);
         for (const Appearance appearance : {Appearance::Light, Appearance::Dark})
             QCOMPARE(pale(desktop::paletteFor(appearance, {}), 4.5), QStringList());
         for (const Appearance appearance : {Appearance::BlackOnWhite, Appearance::WhiteOnBlack})
@@ -78,18 +82,39 @@ private slots:
 
     void edgesAreSeenWithHighContrast()
     {
-        const QPalette palette = desktop::paletteFor(desktop::Appearance::WhiteOnBlack, {});
-        for (QWidget *part : std::initializer_list<QWidget *>{
-                 new QLineEdit, new QPushButton, new QCheckBox, new QComboBox, new QListWidget}) {
-            const std::unique_ptr<QWidget> widget(part);
-            widget->setPalette(palette);
-            widget->resize(100, 40);
-            const QImage image = widget->grab().toImage();
-            // Beginning outside, the first pixels lead over the edge.
-            double seen = 0;
-            for (int x = 0; x < 8; ++x)
-                seen = std::max(seen, desktop::contrast(image.pixelColor(x, 20), Qt::black));
-            QVERIFY2(seen >= 3, widget->metaObject()->className());
+        const desktop::OutlineStyle style;
+        QStyleOptionFrame frame;
+        frame.frameShape = QFrame::Box;
+        QStyleOptionButton button;
+        QStyleOptionTab tab;
+        QStyleOptionSlider bar;
+        const auto primitive = [&](auto which, const QStyleOption &option) {
+            return [&, which](QPainter &to) { style.drawPrimitive(which, &option, &to, nullptr); };
+        };
+        const auto shape = [&](QPainter &to) {
+            style.drawControl(QStyle::CE_TabBarTabShape, &tab, &to, nullptr);
+        };
+        const auto slider = [&](QPainter &to) {
+            style.drawComplexControl(QStyle::CC_ScrollBar, &bar, &to, nullptr);
+        };
+        for (auto &[option, drawn, edge] : std::initializer_list<
+                 std::tuple<QStyleOption &, std::function<void(QPainter &)>, std::array<int, 3>>>{
+                 {frame, primitive(QStyle::PE_FrameLineEdit, frame), {1, 3, 1}},
+                 {frame, primitive(QStyle::PE_Frame, frame), {1, 3, 1}},
+                 {frame, primitive(QStyle::PE_FrameMenu, frame), {1, 3, 1}},
+                 {button, primitive(QStyle::PE_PanelButtonCommand, button), {1, 3, 1}},
+                 {button, primitive(QStyle::PE_IndicatorCheckBox, button), {1, 3, 1}},
+                 {frame, primitive(QStyle::PE_PanelStatusBar, frame), {0, 0, 0}},
+                 {tab, shape, {1, 1, 3}},
+                 {bar, slider, {1, 1, 1}}}) {
+            const std::array states{QStyle::State_Enabled, QStyle::State_HasFocus,
+                                    QStyle::State_Selected};
+            for (std::size_t at = 0; at < states.size(); ++at) {
+                QCOMPARE(edges(option, states.at(at), desktop::Appearance::WhiteOnBlack, drawn),
+                         QList<int>(4, edge.at(at)));
+                QCOMPARE(edges(option, states.at(at), desktop::Appearance::Dark, drawn),
+                         QList<int>(4, 0));
+            }
         }
     }
 
@@ -133,6 +158,35 @@ private slots:
         QCOMPARE(nameless(*palette), QStringList());
         desk.lookAtDialogs(judge);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+private:
+    /// How many pixels of the text's colour each side has, from outside.
+    static QList<int> edges(QStyleOption &option, QStyle::State state, desktop::Appearance look,
+                            const std::function<void(QPainter &)> &drawn)
+    {
+        option.palette = desktop::paletteFor(look, {});
+        option.rect = QRect(5, 5, 60, 60);
+        option.state = state;
+        QImage image(70, 70, QImage::Format_RGB32);
+        image.fill(option.palette.color(QPalette::Window));
+        QPainter painter(&image);
+        drawn(painter);
+        painter.drawPoint(0, 0); // with the black that it had before
+        const auto count = [&](QPoint at, QPoint step) {
+            int pixels = 0;
+            for (; image.pixelColor(at) == option.palette.color(QPalette::WindowText); at += step)
+                ++pixels;
+            return pixels;
+        };
+        const auto *bar = qstyleoption_cast<const QStyleOptionSlider *>(&option);
+        const QRect rect = bar ? QApplication::style()->subControlRect(QStyle::CC_ScrollBar, bar,
+                                                                       QStyle::SC_ScrollBarSlider)
+                               : option.rect;
+        const QPoint middle = rect.center();
+        return {count({rect.left(), middle.y()}, {1, 0}),
+                count({rect.right(), middle.y()}, {-1, 0}), count({middle.x(), rect.top()}, {0, 1}),
+                count({middle.x(), rect.bottom()}, {0, -1})};
     }
 
 protected:

@@ -118,12 +118,12 @@ private slots:
             desk.openHousehold();
             QStringList faults;
             for (const bool isSecond : {false, true}) {
-                desk.window().resize(isLate && !isSecond ? QSize(1100, 640) : QSize(1366, 768));
                 if (isLate == isSecond) {
                     for (int step = 0; step < 6; ++step)
                         desk.trigger("larger");
                     desk.trigger("lookDark");
                 }
+                desk.window().resize(isLate && !isSecond ? QSize(1100, 640) : QSize(1366, 768));
                 desk.show();
                 desk.lookAtAll([&](QWidget &, QWidget &, const QString &place) {
                     for (int again = 0; again < 4; ++again) // what wraps needs another layout

@@ -36,6 +36,27 @@ void choose(HouseholdWindow &home, const char *box, const QString &text)
     emit combo.activated(at);
 }
 
+/// How many figures of all lines are the sums of the entries that are told with them.
+int sums(HouseholdWindow &home)
+{
+    int summed = 0;
+    for (int line = 0; line < table(home, "lines").model()->rowCount(); ++line) {
+        table(home, "lines").selectRow(line);
+        if (table(home, "values").model()->columnCount() > 2)
+            continue; // income beside expenses
+        const QStringList values = texts(home, 1, "values");
+        for (qsizetype value = 0; value < values.size(); ++value) {
+            table(home, "values").selectRow(static_cast<int>(value));
+            const QString sum = told(home, "entriesTold");
+            if (sum.endsWith(u"together "_s + values[value]))
+                ++summed;
+            else if (!sum.endsWith(u"no entries"_s) || values[value] != dollars("0"))
+                return 0;
+        }
+    }
+    return summed;
+}
+
 void showReports(HouseholdWindow &home)
 {
     home.openHousehold();
@@ -50,41 +71,19 @@ class TestReportsPage : public QObject {
     Q_OBJECT
 
 private slots:
-    void everyFigureIsTheSumOfItsEntries_data()
-    {
-        QTest::addColumn<QString>("by");
-        QTest::addColumn<QString>("spans");
-        for (const QString &by : {u"By category"_s, u"By payee"_s, u"By tag"_s, u"By account"_s}) {
-            for (const QString &spans : {u"Months"_s, u"Quarters"_s, u"Weeks"_s})
-                QTest::addRow("%s, %s", qPrintable(by), qPrintable(spans)) << by << spans;
-        }
-    }
     void everyFigureIsTheSumOfItsEntries()
     {
-        QFETCH(QString, by);
-        QFETCH(QString, spans);
         HouseholdWindow home;
         showReports(home);
         fill(home, "from", u"2025-10-01"_s);
         fill(home, "to", u"2026-02-28"_s);
-        choose(home, "by", by);
-        choose(home, "spans", spans);
-        int summed = 0;
-        for (int line = 0; line < table(home, "lines").model()->rowCount(); ++line) {
-            table(home, "lines").selectRow(line);
-            if (table(home, "values").model()->columnCount() > 2)
-                continue; // income beside expenses
-            const QStringList values = texts(home, 1, "values");
-            for (qsizetype value = 0; value < values.size(); ++value) {
-                table(home, "values").selectRow(static_cast<int>(value));
-                const QString sum = told(home, "entriesTold");
-                const bool isSum = sum.endsWith(u"together "_s + values[value]);
-                QVERIFY2(isSum || (sum.endsWith(u"no entries"_s) && values[value] == dollars("0")),
-                         qPrintable(sum + u" for "_s + values[value]));
-                summed += isSum;
+        for (const QString &by : {u"By category"_s, u"By payee"_s, u"By tag"_s, u"By account"_s}) {
+            choose(home, "by", by);
+            for (const QString &spans : {u"Months"_s, u"Quarters"_s, u"Weeks"_s}) {
+                choose(home, "spans", spans);
+                QVERIFY2(sums(home) > 2, qPrintable(by + u", "_s + spans));
             }
         }
-        QVERIFY(summed > 2);
     }
 
     void itFollowsTheBooks()

@@ -16,6 +16,8 @@ public:
             add(*part);
         for (const QAction *action : root.findChildren<QAction *>())
             addProperties(*action, action->metaObject(), m_kinds[u"QAction"_qs]);
+        for (const QCompleter *completer : root.findChildren<QCompleter *>())
+            addProperties(*completer, completer->metaObject(), m_kinds[u"QCompleter"_qs]);
         for (const QLayout *layout : root.findChildren<QLayout *>())
             add(*layout);
     }
@@ -87,6 +89,8 @@ private:
                 ++ways[name + u' ' + namesOf(property, value.toInt())];
             else if (value.userType() == QMetaType::Bool && value.toBool())
                 ++ways[name];
+            else if (name == u"minimumContentsLength")
+                ++ways[u"%1 %2"_qs.arg(name).arg(value.toInt())];
             else if (value.userType() == QMetaType::QString && name != u"text")
                 ways[name] += !value.toString().isEmpty();
         }

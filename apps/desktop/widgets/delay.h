@@ -14,7 +14,7 @@ class Delay : public QTimer {
 public:
     /// `deed` is a function of the owner, or one that it hands over.
     template <typename Owner, typename Deed>
-    Delay(std::chrono::milliseconds wait, Owner *owner, Deed deed)
+    Delay(std::chrono::milliseconds wait, Owner *owner, Deed deed) : QTimer(owner)
     {
         setSingleShot(true);
         setInterval(wait);

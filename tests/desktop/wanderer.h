@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "main_window.h"
+#include "widgets/day_edit.h"
+#include "widgets/money_edit.h"
+
+#include <QtWidgets/QtWidgets>
+
+#include <random>
+
+namespace kiv::test {
+
+/// Chooses steps as somebody does who tries out what a page has, the same for the same seed; see
+/// TestTold for what steps can be.
+class Wanderer {
+public:
+    /// `place` is the seed, and where the way leads back to now and then.
+    explicit Wanderer(const QString &place) : m_place(place), m_chance(qChecksum(place.toUtf8())) {}
+
+    [[nodiscard]] QString step(desktop::MainWindow &window, const QWidget &page)
+    {
+        static const QStringList keys =
+            u"Return Return Escape Space Delete F2 F6 F9 Up Down Down Home End Tab Shift+Tab Left Right + -"_qs
+                .split(u' ');
+        QStringList fields, buttons, tables, actions, places, back;
+        for (QWidget *part : page.findChildren<QWidget *>()) {
+            if (!part->isVisible() || !part->isEnabled())
+                continue;
+            if (const auto *label = qobject_cast<const QLabel *>(part); label && label->buddy())
+                fields += keysOf(label->text(), u'=' + valueFor(*label->buddy()) +
+                                                    (next(3) == 0 ? u"; Return"_qs : QString()));
+            else if (qobject_cast<const QAbstractButton *>(part) &&
+                     part->focusPolicy() != Qt::NoFocus)
+                buttons += u"at %1; Space"_qs.arg(nameOf(*part));
+            else if (qobject_cast<const QAbstractItemView *>(part) &&
+                     !part->accessibleName().isEmpty())
+                tables += u"at "_qs + part->accessibleName();
+        }
+        using Group = desktop::ActionCollection::Group;
+        for (const Group group : {Group::Edit, Group::Transaction, Group::Go, Group::View}) {
+            for (const QAction *action : window.desk().actions().actions(group)) {
+                if (action->isEnabled() && !action->objectName().startsWith(u"page"))
+                    actions += u"do "_qs + action->objectName();
+            }
+        }
+        if (const auto *one = qobject_cast<const desktop::Page *>(&page)) {
+            back += u"go "_qs + m_place;
+            for (const QString &part : one->parts())
+                places += u"go "_qs + desktop::Place{one->id(), part}.text();
+        }
+        QList<const QStringList *> kinds{&fields,  &fields,  &fields, &fields, &buttons,
+                                         &buttons, &keys,    &keys,   &keys,   &keys,
+                                         &tables,  &actions, &places, &back};
+        kinds.removeIf([](const QStringList *kind) { return kind->isEmpty(); });
+        return any(*kinds.at(next(kinds.size())));
+    }
+
+private:
+    [[nodiscard]] qsizetype next(qsizetype count) { return m_chance() % count; }
+    [[nodiscard]] QString any(const QStringList &texts) { return texts.at(next(texts.size())); }
+    /// What may be typed into a field, right or wrong, or is among what a box has.
+    [[nodiscard]] QString valueFor(const QWidget &field)
+    {
+        static const QStringList amounts = u"1|250|10+5|-3|12.345|"_qs.split(u'|');
+        static const QStringList days = u"2026-02-28|2026-03-05|+7|today|2026-02-30"_qs.split(u'|');
+        static const QStringList names = u"New|Car|x y|fun, Car|Rent|Checking|7|"_qs.split(u'|');
+        const auto *box = qobject_cast<const QComboBox *>(&field);
+        if (box && box->count() > 0 && (!box->isEditable() || next(2) == 0))
+            return box->itemText(static_cast<int>(next(box->count())));
+        return any(qobject_cast<const desktop::MoneyEdit *>(&field) ? amounts
+                   : qobject_cast<const desktop::DayEdit *>(&field) ? days
+                                                                    : names);
+    }
+    [[nodiscard]] static QString nameOf(const QWidget &button)
+    {
+        const QString name = button.accessibleName();
+        return name.isEmpty() ? static_cast<const QAbstractButton &>(button).text() : name;
+    }
+    /// A step with the letter of the text, if it has one.
+    [[nodiscard]] static QStringList keysOf(const QString &text, const QString &more = {})
+    {
+        const QString keys = QKeySequence::mnemonic(text).toString();
+        return keys.isEmpty() ? QStringList() : QStringList(keys + more);
+    }
+
+    const QString m_place;
+    std::mt19937 m_chance;
+};
+
+} // namespace kiv::test
