@@ -94,6 +94,7 @@ public:
                                              std::move(script))),
           m_window({m_document, m_settings, m_questions, m_keyring, showsTerms})
     {
+        QApplication::setCursorFlashTime(0); // what is painted is not to depend on the time
     }
 
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
