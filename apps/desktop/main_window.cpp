@@ -268,8 +268,8 @@ void MainWindow::goTo(const Place &place)
     if (isOther)
         m_panel->close();
     {
-        // Before the page: a list without a row takes its first, and shows that page, too, when
-        // what is hidden leaves it the focus.
+        // The row first: without one, the list would take its first row when the page that is
+        // hidden leaves it the focus, and that row's page would be shown as well.
         const QSignalBlocker blocker(m_list);
         m_list->setCurrentRow(row);
     }

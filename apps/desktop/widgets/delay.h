@@ -7,7 +7,7 @@
 
 namespace kiv::desktop {
 
-/// Does a thing of its owner once, a while after start() was last called.
+/// Does a thing of its owner, whose child it is, once, a while after start() was last called.
 class Delay : public QTimer {
     Q_OBJECT
 
