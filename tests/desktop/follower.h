@@ -30,12 +30,18 @@ public:
                 });
         lookAnew();
     }
-    /// Whether it is what the model has.
-    [[nodiscard]] bool isTrue()
+    /// A cell that was not called changed; nothing if there is none.
+    [[nodiscard]] QString missed()
     {
         const auto shown = m_rows;
         lookAnew();
-        return shown == m_rows;
+        for (qsizetype row = 0; row < m_rows.size(); ++row) {
+            for (const auto &[column, text] : m_rows[row].asKeyValueRange()) {
+                if (shown.value(row).value(column) != text)
+                    return text;
+            }
+        }
+        return {};
     }
 
 private:

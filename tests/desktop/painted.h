@@ -122,7 +122,8 @@ private:
         const QString fill = named(painter()->brush());
         things += u' ' + named(painter()->pen()) + width + (fill.isEmpty() ? fill : u'+' + fill);
         m_things[things.trimmed()] += count;
-        m_places += things;
+        m_places += things + u" joined %1, smooth %2"_qs.arg(painter()->pen().joinStyle())
+                                 .arg(painter()->testRenderHint(QPainter::Antialiasing));
     }
     void note(const QRectF &box)
     {

@@ -56,16 +56,6 @@ private slots:
         QVERIFY(!read(u"-- -a"_s).showsTerms() && !read(u"-a -j home"_s).showsTerms());
     }
 
-    void aNewBudgetHasAFileFromTheStart()
-    {
-        HouseholdWindow desk;
-        desk.questions().files = {desk.path(u"home"_s)};
-        desk.trigger("new");
-        QVERIFY(QFile::exists(desk.path(u"home.budget"_s)));
-        QCOMPARE(desk.window().windowTitle(), u"home (saved)"_s);
-        QCOMPARE(desk.settings().recentFiles(), QStringList{desk.path(u"home.budget"_s)});
-    }
-
     void theFirstStepsAreLeftForGood()
     {
         HouseholdWindow desk;
@@ -86,21 +76,6 @@ private slots:
         QVERIFY(desk.questions().asked.isEmpty());
         HouseholdWindow other;
         QVERIFY(!other.window().open(desk.path(u"home.budget"_s)) || other.document().isReadOnly());
-    }
-
-    void undoAndRedoNameTheirStep()
-    {
-        HouseholdWindow desk;
-        begin(desk);
-        addAccount(desk.document(), u"Food & drink"_s);
-        QCOMPARE(action(desk, "undo")->text(), u"Undo adding Food && drink"_s);
-        desk.trigger("undo");
-        QVERIFY(!has(desk.document(), u"Food & drink"_s));
-        QCOMPARE(action(desk, "redo")->text(), u"Redo adding Food && drink"_s);
-        desk.trigger("redo");
-        QVERIFY(has(desk.document(), u"Food & drink"_s));
-        QVERIFY(!action(desk, "redo")->isEnabled());
-        QVERIFY(!desktop::ActionCollection::reason(action(desk, "redo")).isEmpty());
     }
 
     void aDamagedFileLeavesTheOpenBudget()
@@ -312,27 +287,6 @@ private slots:
         QCOMPARE(savedAccounts(desk.path(u"home.budget"_s)), (QStringList{u"Rent"_s, u"Food"_s}));
     }
 
-    void everyCommandIsFoundByItsName()
-    {
-        HouseholdWindow desk;
-        begin(desk);
-        desk.show();
-        desk.trigger("palette");
-        auto *field = QApplication::focusWidget();
-        QVERIFY(qobject_cast<QLineEdit *>(field));
-        QTest::keyClicks(field, u"dark"_s);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(desk.settings().appearance(), desktop::Appearance::Dark);
-        // One that cannot be chosen says why.
-        desk.trigger("palette");
-        QTest::keyClicks(QApplication::focusWidget(), u"redo"_s);
-        const auto *list = listOf(desk, u"palette"_s);
-        QVERIFY(list && list->count() > 0);
-        QVERIFY(list->item(0)->text().contains(u"nothing to redo"_s));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QVERIFY(!list->isVisible());
-    }
-
     void allKeysAreListedAndFound_data()
     {
         const QString undo = u"Undo  –  Ctrl+Z  –  There is nothing to undo."_s;
@@ -405,10 +359,6 @@ private:
     static QListWidget *listOf(HouseholdWindow &desk, const QString &palette)
     {
         return desk.window().findChild<QFrame *>(palette)->findChild<QListWidget *>();
-    }
-    static QAction *action(HouseholdWindow &desk, const char *id)
-    {
-        return desk.window().desk().actions().action(QString::fromLatin1(id));
     }
 };
 

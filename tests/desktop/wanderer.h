@@ -2,6 +2,7 @@
 #pragma once
 
 #include "main_window.h"
+#include "widgets/chart_view.h"
 #include "widgets/day_edit.h"
 #include "widgets/money_edit.h"
 
@@ -12,7 +13,7 @@
 namespace kiv::test {
 
 /// Chooses steps as somebody does who tries out what a page has, the same for the same seed; see
-/// TestTold for what steps can be.
+/// StepRunner for what steps can be.
 class Wanderer {
 public:
     /// `place` is the seed, and where the way leads back to now and then.
@@ -21,9 +22,11 @@ public:
     [[nodiscard]] QString step(desktop::MainWindow &window, const QWidget &page)
     {
         static const QStringList keys =
-            u"Return Return Escape Space Delete F2 F6 F9 Up Down Down Home End Tab Shift+Tab Left Right + -"_qs
-                .split(u' ');
-        QStringList fields, buttons, tables, actions, places, back;
+            u"Return Return Escape Space Delete F2 F6 F9 Up Down Down Home End Tab Shift+Tab Left "
+            "Right + - 7 menu"_qs.split(u' ');
+        static const QStringList sizes{u"size 1024 600"_qs, u"size 1280 720"_qs,
+                                       u"size 1040 900"_qs};
+        QStringList fields, buttons, tables, pressed, actions, files, places, back;
         for (QWidget *part : page.findChildren<QWidget *>()) {
             if (!part->isVisible() || !part->isEnabled())
                 continue;
@@ -31,17 +34,27 @@ public:
                 fields += keysOf(label->text(), u'=' + valueFor(*label->buddy()) +
                                                     (next(3) == 0 ? u"; Return"_qs : QString()));
             else if (qobject_cast<const QAbstractButton *>(part) &&
-                     part->focusPolicy() != Qt::NoFocus)
-                buttons += u"at %1; Space"_qs.arg(nameOf(*part));
-            else if (qobject_cast<const QAbstractItemView *>(part) &&
-                     !part->accessibleName().isEmpty())
+                     part->focusPolicy() != Qt::NoFocus && !nameOf(*part).contains(u"; "))
+                buttons += answers({}) + u"at %1; Space"_qs.arg(nameOf(*part));
+            else if (part->focusPolicy() != Qt::NoFocus && !part->accessibleName().isEmpty() &&
+                     (qobject_cast<const QAbstractItemView *>(part) ||
+                      qobject_cast<const desktop::ChartView *>(part))) {
                 tables += u"at "_qs + part->accessibleName();
+                pressed += u"%1 %2 %3 %4"_qs
+                               .arg(next(3) == 0 ? u"twice"_qs : u"press"_qs,
+                                    part->accessibleName())
+                               .arg(next(100))
+                               .arg(next(100) * next(100) / 100); // most rows are at the top
+            }
         }
         using Group = desktop::ActionCollection::Group;
-        for (const Group group : {Group::Edit, Group::Transaction, Group::Go, Group::View}) {
+        for (const Group group :
+             {Group::Edit, Group::Transaction, Group::Go, Group::View, Group::File}) {
             for (const QAction *action : window.desk().actions().actions(group)) {
-                if (action->isEnabled() && !action->objectName().startsWith(u"page"))
-                    actions += u"do "_qs + action->objectName();
+                if (action->isEnabled() && !action->objectName().startsWith(u"page") &&
+                    action->objectName() != u"quit")
+                    (group == Group::File ? files : actions) +=
+                        answers(action->objectName()) + u"do "_qs + action->objectName();
             }
         }
         if (const auto *one = qobject_cast<const desktop::Page *>(&page)) {
@@ -49,9 +62,9 @@ public:
             for (const QString &part : one->parts())
                 places += u"go "_qs + desktop::Place{one->id(), part}.text();
         }
-        QList<const QStringList *> kinds{&fields,  &fields,  &fields, &fields, &buttons,
-                                         &buttons, &keys,    &keys,   &keys,   &keys,
-                                         &tables,  &actions, &places, &back};
+        QList<const QStringList *> kinds{&fields,  &fields, &fields, &fields, &buttons, &buttons,
+                                         &keys,    &keys,   &keys,   &keys,   &tables,  &pressed,
+                                         &actions, &places, &back,   &sizes,  &files};
         kinds.removeIf([](const QStringList *kind) { return kind->isEmpty(); });
         return any(*kinds.at(next(kinds.size())));
     }
@@ -59,6 +72,12 @@ public:
 private:
     [[nodiscard]] qsizetype next(qsizetype count) { return m_chance() % count; }
     [[nodiscard]] QString any(const QStringList &texts) { return texts.at(next(texts.size())); }
+    /// To what may be asked for: a budget that is there, or a file that is not.
+    [[nodiscard]] QString answers(const QString &action)
+    {
+        return u"choose %1; file %2; "_qs.arg(next(3)).arg(
+            action == u"open" ? u"home.budget"_qs : u"out%1.txt"_qs.arg(next(100)));
+    }
     /// What may be typed into a field, right or wrong, or is among what a box has.
     [[nodiscard]] QString valueFor(const QWidget &field)
     {

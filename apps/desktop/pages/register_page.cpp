@@ -372,7 +372,6 @@ std::vector<TransactionNumber> RegisterPage::selected() const
         rows.push_back(index.row());
     std::ranges::sort(rows);
     std::vector<TransactionNumber> numbers;
-    numbers.reserve(rows.size());
     for (const int row : rows)
         numbers.push_back(m_rows->number(m_shown->sourceRow(row)));
     return numbers;

@@ -20,8 +20,9 @@ inline void tellCurrentCell(QAbstractItemView &view)
     }
 }
 
-/// A view whose current cell screen readers follow: they are told of it when the view gets the
-/// focus, and not while the focus is elsewhere. Qt 6.4 has it the other way round.
+/// A view whose current cell is followed: it stays in sight when the size changes, and screen
+/// readers are told of it when the view gets the focus, and not while the focus is elsewhere.
+/// Qt 6.4 has it the other way round.
 template <typename View>
 class FollowedView : public View {
 public:
@@ -35,6 +36,11 @@ protected:
         if (QAccessible::isActive())
             QMetaObject::invokeMethod(
                 this, [this] { tellCurrentCell(*this); }, Qt::QueuedConnection);
+    }
+    void resizeEvent(QResizeEvent *event) override
+    {
+        View::resizeEvent(event);
+        this->scrollTo(this->currentIndex());
     }
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override
     {

@@ -194,13 +194,6 @@ void Table::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
-void Table::resizeEvent(QResizeEvent *event)
-{
-    QTableView::resizeEvent(event);
-    // What was chosen before there was a size stays in sight.
-    scrollTo(currentIndex());
-}
-
 void Table::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QTableView::selectionChanged(selected, deselected);

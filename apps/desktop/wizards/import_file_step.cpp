@@ -57,7 +57,6 @@ void ImportFileStep::forgetAnswers()
 {
     m_source = {};
     m_asking = m_file;
-    m_agreed->setChecked(false);
     for (QWidget *field : {static_cast<QWidget *>(m_kind), static_cast<QWidget *>(m_statement),
                            static_cast<QWidget *>(m_agreed)})
         m_form->setShown(*field, false);
