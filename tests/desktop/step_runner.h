@@ -64,10 +64,13 @@ class StepRunner {
 public:
     explicit StepRunner(const QString &place) : m_place(place), m_wanderer(place)
     {
+        QSignalSpy started(&m_home.requests().navigator(),
+                           &navigation::Navigator::showNewBudgetFirstTimeWizard);
         m_home.begin();
         QVERIFY(QDir::setCurrent(m_home.path({}))); // where a name without a folder leads
         m_home.window().resize(1024, 600);
         m_home.show();
+        QVERIFY(!started.isEmpty() || started.wait()); // which comes a while after the start
         m_start = m_home.document().present();
         for (const QTableView *table : m_home.window().findChildren<QTableView *>())
             m_followers += new Follower(*table->model());
