@@ -60,12 +60,6 @@ private slots:
     }
 
 private:
-    static workbench::Amount amount(const char *text)
-    {
-        workbench::Amount amount;
-        workbench::readValue(QString::fromLatin1(text), amount);
-        return amount;
-    }
     void addAccounts()
     {
         std::uint32_t number = 0;

@@ -30,19 +30,19 @@ public:
         for (QWidget *part : page.findChildren<QWidget *>()) {
             if (!part->isVisible() || !part->isEnabled())
                 continue;
-            if (const auto *label = qobject_cast<const QLabel *>(part); label && label->buddy())
-                fields += keysOf(label->text(), u'=' + valueFor(*label->buddy()) +
-                                                    (next(3) == 0 ? u"; Return"_qs : QString()));
-            else if (qobject_cast<const QAbstractButton *>(part) &&
-                     part->focusPolicy() != Qt::NoFocus && !nameOf(*part).contains(u"; "))
+            if (const auto *label = qobject_cast<const QLabel *>(part); label && label->buddy()) {
+                // One after the other: a compiler may begin a sum at either side.
+                const QString end = next(3) == 0 ? u"; Return"_qs : QString();
+                fields += keysOf(label->text(), u'=' + valueFor(*label->buddy()) + end);
+            } else if (qobject_cast<const QAbstractButton *>(part) &&
+                       part->focusPolicy() != Qt::NoFocus && !nameOf(*part).contains(u"; "))
                 buttons += answers({}) + u"at %1; Space"_qs.arg(nameOf(*part));
             else if (part->focusPolicy() != Qt::NoFocus && !part->accessibleName().isEmpty() &&
                      (qobject_cast<const QAbstractItemView *>(part) ||
                       qobject_cast<const desktop::ChartView *>(part))) {
                 tables += u"at "_qs + part->accessibleName();
-                pressed += u"%1 %2 %3 %4"_qs
-                               .arg(next(3) == 0 ? u"twice"_qs : u"press"_qs,
-                                    part->accessibleName())
+                const QString how = next(3) == 0 ? u"twice"_qs : u"press"_qs;
+                pressed += u"%1 %2 %3 %4"_qs.arg(how, part->accessibleName())
                                .arg(next(100))
                                .arg(next(100) * next(100) / 100); // most rows are at the top
             }
@@ -75,8 +75,9 @@ private:
     /// To what may be asked for: a budget that is there, or a file that is not.
     [[nodiscard]] QString answers(const QString &action)
     {
-        return u"choose %1; file %2; "_qs.arg(next(3)).arg(
-            action == u"open" ? u"home.budget"_qs : u"out%1.txt"_qs.arg(next(100)));
+        const QString file = u"out%1.txt"_qs.arg(next(100));
+        return u"choose %1; file %2; "_qs.arg(next(3)).arg(action == u"open" ? u"home.budget"_qs
+                                                                             : file);
     }
     /// What may be typed into a field, right or wrong, or is among what a box has.
     [[nodiscard]] QString valueFor(const QWidget &field)
