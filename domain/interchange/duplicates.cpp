@@ -11,17 +11,17 @@ using accounting::Transaction;
 
 namespace {
 
-const QString opening = QStringLiteral("[id ");
+const QString idOpening = QStringLiteral("[id ");
 
 /// Where the identifier's bracket begins, at the front or behind a blank; -1 when there
 /// is none.
 qsizetype idBegin(QStringView description)
 {
-    static const QString inside = u' ' + opening;
+    static const QString inside = u' ' + idOpening;
     if (!description.endsWith(u']'))
         return -1;
     const qsizetype blank = description.lastIndexOf(inside);
-    return blank < 0 && !description.startsWith(opening) ? -1 : blank + 1;
+    return blank < 0 && !description.startsWith(idOpening) ? -1 : blank + 1;
 }
 
 bool takeOne(std::map<QString, int> &counts, const QString &key)
@@ -69,15 +69,15 @@ QString withBankId(const QString &text, const QString &bankId)
     if (id.isEmpty())
         return text;
     // Journals keep no blank at the front.
-    return (text.isEmpty() ? text : text + u' ') + opening + id + u']';
+    return (text.isEmpty() ? text : text + u' ') + idOpening + id + u']';
 }
 
 QString bankIdOf(const QString &description)
 {
     const qsizetype at = idBegin(description);
-    return at < 0
-               ? QString()
-               : description.mid(at + opening.size(), description.size() - at - opening.size() - 1);
+    return at < 0 ? QString()
+                  : description.mid(at + idOpening.size(),
+                                    description.size() - at - idOpening.size() - 1);
 }
 
 QStringView withoutBankId(QStringView description)

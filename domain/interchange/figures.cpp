@@ -93,12 +93,12 @@ struct Flow {
     std::vector<Money> credits;
 };
 
-using Flows = std::map<AccountNumber, Flow>;
+using FlowByAccount = std::map<AccountNumber, Flow>;
 
-Flows flowsOf(const Period &period, const std::set<Account> &accounts,
-              const TransactionSource &transactions)
+FlowByAccount flowsOf(const Period &period, const std::set<Account> &accounts,
+                      const TransactionSource &transactions)
 {
-    Flows flows;
+    FlowByAccount flows;
     for (const Account &account : accounts)
         flows.try_emplace(account.code().number(), account, period.size());
     transactions([&](const Transaction &transaction) {
@@ -227,7 +227,7 @@ Figures figuresOf(const Period &period, const std::set<Account> &accounts,
             const QString &name = account.code().name();
             return name.endsWith(mark) ? name.chopped(mark.size()) : name;
         });
-    const Flows flows = flowsOf(period, accounts, transactions);
+    const FlowByAccount flows = flowsOf(period, accounts, transactions);
     for (const auto &[number, flow] : flows)
         addAccount(flow, paths.at(number), plainPaths.at(number), figures);
     std::ranges::sort(figures.balances, {}, &BalanceFigure::path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/written_values.h"
 
+#include "interchange/internal/digits.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/month_names.h"
 #include "interchange/internal/statement_faults.h"
@@ -13,12 +14,9 @@
 
 namespace kiv::interchange {
 
-namespace {
+using internal::isDigit;
 
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
+namespace {
 
 /// The number without its sign; nothing when it has several signs.
 std::optional<std::pair<QString, bool>> withoutSign(const QString &text)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A test program: [SUITE] [Qt Test arguments]. Without a suite all of them run, each in a
 // process of its own, so that none meets what another left: settings, a converter, a log.
+// With -suites it prints their names.
 #include "support/suite.h"
 
 #include <sys/wait.h>
@@ -36,6 +37,11 @@ int main(int argc, char **argv)
             Application application(argc, argv);
             return QTest::qExec(suite->tests().get(), argc - 1, argv + 1);
         }
+    }
+    if (argc > 1 && std::string_view(argv[1]) == "-suites") {
+        for (const auto *suite : suites())
+            std::puts(suite->name().data());
+        return 0;
     }
     int failed = suites().empty() ? 1 : 0;
     for (const auto *suite : suites()) {

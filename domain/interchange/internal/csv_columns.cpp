@@ -3,6 +3,7 @@
 
 #include "interchange/internal/csv_headings.h"
 #include "interchange/internal/day_forms.h"
+#include "interchange/internal/digits.h"
 #include "interchange/internal/statement_faults.h"
 
 #include "foundation/presentation.h"
@@ -18,11 +19,6 @@ using words::Column;
 
 /// Columns show what they hold in their first rows.
 constexpr std::size_t shownMax = 100;
-
-bool isDigit(QChar unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 /// An amount with its sign or cents, which no other number of an entry has.
 bool isAmount(const QString &cell)

@@ -2,6 +2,7 @@
 #include "interchange/internal/csv_contents.h"
 
 #include "interchange/internal/csv_notices.h"
+#include "interchange/internal/digits.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
 
@@ -10,11 +11,6 @@
 namespace kiv::interchange::internal {
 
 namespace {
-
-bool isDigit(QChar unit)
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 // ---- days --------------------------------------------------------------------
 

@@ -2,6 +2,7 @@
 #include "interchange/internal/csv_entries.h"
 
 #include "interchange/internal/day_forms.h"
+#include "interchange/internal/digits.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
 
@@ -16,8 +17,7 @@ namespace {
 /// The number alone, where its own currency stands beside it.
 QString withoutCurrency(QString text, const QStringList &names)
 {
-    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
-    const auto isPlain = [&isDigit](QChar unit) {
+    const auto isPlain = [](QChar unit) {
         return isDigit(unit) || unit == u'.' || unit == u',' || unit == u'-';
     };
     if (std::ranges::all_of(text, isPlain)) // as most are

@@ -5,6 +5,7 @@
 #include "interchange/internal/csv_headings.h"
 #include "interchange/internal/csv_notices.h"
 #include "interchange/internal/day_forms.h"
+#include "interchange/internal/digits.h"
 #include "interchange/internal/statement_faults.h"
 
 #include <algorithm>
@@ -43,7 +44,6 @@ QString restOf(const QString &text, qsizetype offset)
 
 bool isNumber(const QString &cell)
 {
-    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
     constexpr qsizetype lettersMax = 25;
     return cell.size() <= lettersMax && std::ranges::any_of(cell, isDigit) &&
            std::ranges::count_if(cell, [](QChar unit) { return unit.isLetter(); }) <= 3;

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/day_forms.h"
 
+#include "interchange/internal/digits.h"
+
 #include <algorithm>
 
 namespace kiv::interchange::internal {
 
 namespace {
-
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
-}
 
 /// With dots, everybody writes the day before the month.
 const std::vector<DateFormat> &commonForms()

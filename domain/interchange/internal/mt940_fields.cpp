@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/mt940_fields.h"
 
+#include "interchange/internal/digits.h"
 #include "interchange/internal/faults.h"
 #include "interchange/internal/statement_faults.h"
 #include "interchange/written_values.h"
@@ -10,11 +11,6 @@
 namespace kiv::interchange::internal {
 
 namespace {
-
-bool isDigit(QChar letter)
-{
-    return letter >= u'0' && letter <= u'9';
-}
 
 bool isCapital(QChar letter)
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/internal/mt940_text.h"
 
+#include "interchange/internal/digits.h"
+
 #include <algorithm>
 #include <optional>
 #include <set>
@@ -13,18 +15,13 @@ namespace {
 /// Parts of this length were cut and go on in the next one.
 constexpr qsizetype partMax = 27;
 /// So are lines, whose first has its tag before it.
-constexpr qsizetype lineMax = 65;
+constexpr qsizetype wrappedLineMax = 65;
 constexpr qsizetype tagSize = 4;
 
 struct Part {
     int number;
     QStringView text;
 };
-
-bool isDigit(QChar letter)
-{
-    return letter.isDigit();
-}
 
 /// The number at the beginning; -1 without one.
 int numberOf(QStringView text)
@@ -157,7 +154,7 @@ Mt940Text plain(const QStringList &lines)
     bool isFirst = true;
     for (const QString &line : lines) {
         text += line;
-        if (line.size() + (isFirst ? tagSize : 0) < lineMax)
+        if (line.size() + (isFirst ? tagSize : 0) < wrappedLineMax)
             text += u' ';
         isFirst = false;
     }

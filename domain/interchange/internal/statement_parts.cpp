@@ -67,9 +67,9 @@ private:
 /// The day with which a part begins; banks also send the newest statement first.
 QDate dayOf(const StatementPart &part)
 {
-    for (const auto &balance : {part.opening, part.closing}) {
-        if (balance && balance->day.isValid())
-            return balance->day;
+    for (const auto *balance : {&part.opening, &part.closing}) {
+        if (*balance && (*balance)->day.isValid())
+            return (*balance)->day;
     }
     return part.entries.empty() ? QDate() : part.entries.front().date;
 }

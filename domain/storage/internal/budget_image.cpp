@@ -23,7 +23,6 @@ namespace kiv::storage::internal {
 namespace {
 
 constexpr QByteArrayView magic("SQLite format 3", 16);
-constexpr std::uint32_t firstEdition = 1;
 constexpr qsizetype headerSize = 100;
 
 // The offsets in the header of an SQLite database.

@@ -8,7 +8,6 @@
 namespace kiv::storage::internal {
 namespace {
 
-constexpr std::uint32_t firstEdition = 1;
 constexpr qsizetype blockSize = qsizetype{64} * 1024;
 
 void dumpValue(ImageDatabase &database, sqlite3_value *value, QByteArray &dump)

@@ -49,7 +49,7 @@ constexpr std::array<TableColumns, 9> common{{
                   "tag TEXT NOT NULL"},
 }};
 // Of the first edition, after the common ones.
-constexpr TableColumns seal{"seal", "id INTEGER PRIMARY KEY, sha256 TEXT NOT NULL"};
+constexpr TableColumns sealTable{"seal", "id INTEGER PRIMARY KEY, sha256 TEXT NOT NULL"};
 // Of the second: before the common ones, since all amounts need it, and after them.
 constexpr TableColumns currencies{"currencies", "id INTEGER PRIMARY KEY, code TEXT NOT NULL, "
                                                 "digits INTEGER NOT NULL"};
@@ -87,17 +87,17 @@ TableDefinition defined(const TableColumns &table, const ColumnTypes &types)
     return {table.name, std::string("CREATE TABLE ") + table.name + '(' + columns + ") STRICT"};
 }
 
-std::vector<TableDefinition> firstEdition()
+std::vector<TableDefinition> firstTables()
 {
     std::vector<TableDefinition> tables;
     tables.reserve(common.size() + 1);
     for (const TableColumns &table : common)
         tables.push_back(defined(table, firstTypes));
-    tables.push_back(defined(seal, firstTypes));
+    tables.push_back(defined(sealTable, firstTypes));
     return tables;
 }
 
-std::vector<TableDefinition> secondEdition()
+std::vector<TableDefinition> secondTables()
 {
     std::vector<TableDefinition> tables{defined(currencies, secondTypes)};
     for (const TableColumns &table : common)
@@ -111,7 +111,7 @@ std::vector<TableDefinition> secondEdition()
 
 std::span<const TableDefinition> tablesOf(std::uint32_t version)
 {
-    static const std::array editions{firstEdition(), secondEdition()};
+    static const std::array editions{firstTables(), secondTables()};
     if (version == 0 || version > editions.size())
         return {};
     return editions.at(version - 1);

@@ -12,7 +12,8 @@ namespace kiv::storage::internal {
 
 /// "kivb" in the header of every budget file.
 inline constexpr std::uint32_t applicationId = 0x6B'69'76'62;
-/// The version of the tables that is written.
+/// The versions of the tables: the first one, and the one that is written.
+inline constexpr std::uint32_t firstEdition = 1;
 inline constexpr std::uint32_t currentVersion = 2;
 inline constexpr int pageSize = 4096;
 
