@@ -4,7 +4,6 @@
 #include "conversion/errors.h"
 #include "conversion/internal/rates_reply.h"
 
-#include <cmath>
 #include <cstdlib>
 
 using namespace kiv;

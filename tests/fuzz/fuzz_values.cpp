@@ -7,7 +7,6 @@
 #include "workbench/entry/values.h"
 
 #include <cstdlib>
-#include <sstream>
 
 using namespace kiv;
 

@@ -15,7 +15,6 @@
 #include <limits>
 #include <map>
 #include <sstream>
-#include <vector>
 
 using boost::multiprecision::cpp_int;
 using namespace numira;

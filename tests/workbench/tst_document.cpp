@@ -504,18 +504,19 @@ private slots:
                                  document.saveCopy(folder.path(u"copy.budget"_s)));
     }
 
-    void whatIsRefusedHalfWayLeavesNothing()
+    void moreStepsThanAreKeptLoseTheOldest()
     {
         const test::ScratchFolder folder;
-        Document document(test::surroundings(folder.path(u"rates"_s))); // keeps at once
-        addBank(document, u"First"_s);
+        Document document(test::surroundings(folder.path(u"rates"_s)));
+        document.setKeeping(Document::Keeping::WithinASecond);
         document.create(folder.path(u"home.budget"_s), u"Created"_s);
-        const auto before = document.present();
-        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, document.perform({}, [&] {
-            addBank(document, u"Half"_s);
-            addBank(document, u"Half"_s);
-        }));
-        QVERIFY(document.present() == before);
+        for (int number = 1; number <= 1'003; ++number)
+            document.perform(deed(number), [&] { addBank(document, u"%1"_s.arg(number)); });
+        QCOMPARE(document.undo(2).deed.line, deed(1'002).line);
+        QCOMPARE(document.redo().deed.line, deed(1'002).line);
+        (void)document.undo(998);
+        QCOMPARE(document.present().banks.size(), 4U);
+        QCOMPARE(document.steps().size(), 1'000U);
     }
 
 private:
