@@ -11,7 +11,6 @@ VersionMark VersionMark::next() const
     VersionMark mark;
     mark.id = QStringLiteral("%1").arg(QRandomGenerator::system()->generate64(), 16, 16,
                                        QLatin1Char('0'));
-    mark.number = number + 1;
     if (!id.isEmpty()) {
         mark.ancestors = ancestors.first(std::min(ancestors.size(), ancestorsMax - 1));
         mark.ancestors.prepend(id);

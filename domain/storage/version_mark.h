@@ -12,8 +12,8 @@ namespace kiv::storage {
 struct KIV_STORAGE_EXPORT VersionMark {
     /// 16 hexadecimal digits that no other version has; empty for none.
     QString id;
-    /// The order of the versions of a file: each save gives the next number. 0 for a
-    /// file of the first edition, which has no mark.
+    /// The order of the versions of a file: each save gives the next number. 0 before
+    /// it is saved, and for a file of the first edition, which has no mark.
     qint64 number = 0;
     /// The ids of the versions from which it came, the nearest first.
     QStringList ancestors;
@@ -32,7 +32,7 @@ struct KIV_STORAGE_EXPORT VersionMark {
     static constexpr qsizetype changeMax = 200;
 
     /// The mark of a version that follows this one, with an id of its own; it has no
-    /// change, time and transactions yet.
+    /// number, change, time and transactions yet.
     [[nodiscard]] VersionMark next() const;
     /// Sets the line; its line breaks become blanks.
     void nameChange(const QString &line);

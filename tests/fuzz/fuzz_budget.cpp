@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as a budget file. With an even first byte the rest is the file; with an
 // odd one it says which cells of a whole file get which values. In both cases
 // the checksum is made right again, so that what stands behind it is reached.

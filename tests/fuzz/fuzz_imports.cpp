@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as what other programs write; the first one says what: a journal, an OFX,
 // QIF, MT940 or CAMT file, a saved profile, or a CSV table, which stands behind a profile on
 // a line. What is read is refused, or can be used: a journal goes into a ledger,

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as a reply with exchange rates: refused, or rates that can be used.
 #include "conversion/errors.h"
 #include "conversion/internal/rates_reply.h"

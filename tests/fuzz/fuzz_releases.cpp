@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as the release feed, as the checker of updates and the release notes
 // read it.
 #include "networking/request_manager.h"

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as the settings file: each preference is read as something that can be
 // used.
 #include "navigation/configuration.h"

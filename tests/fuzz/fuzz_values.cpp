@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-//
 // Bytes as each kind of value that a user types: refused with an error for the
 // user, or read; an amount and a date are written again as the same.
 #include "foundation/error.h"

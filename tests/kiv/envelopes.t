@@ -133,7 +133,8 @@ What has no exchange rate is named and left out; all else adds up:
   Checking  $6,982.50    $300.00  $6,682.50   $1,025.00  2026-04-30
   The sum at Checking leaves 'Hotel' out. There is no exchange rate between EUR and USD.
   $ kiv envelopes --on 2026-05-02 --json | jq -c 'def cents: (.amount | tonumber) * 100 | round;
-  >     .accounts[] | [.account, (.balance | cents) - (.free | cents) - ([.lines[].counted |
+  >     (.accounts[] | [.account, (.balance | cents) - (.free | cents) - ([.lines[].counted |
   >     select(.) | cents] | add // 0), (.lines[] | ([.parts[].amount | cents] | add) -
-  >     (.now | cents), .handedOver)]'
+  >     (.now | cents), .handedOver)]), ([.goals, .debts] | map(map(.name)))'
   [1,0,0,true,0,false,0,true]
+  [["Trip"],["Car"]]

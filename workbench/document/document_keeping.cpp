@@ -127,7 +127,6 @@ void Document::saveCopy(const QString &file)
 {
     refuseExisting(file);
     storage::VersionMark mark = storage::VersionMark().next();
-    mark.number = 0;
     mark.nameChange(QObject::tr("Saved a copy"));
     mark.savedAt = QDateTime::currentDateTimeUtc();
     storage::Version version;

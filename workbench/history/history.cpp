@@ -79,7 +79,6 @@ const History::Entry &History::add(const BudgetStorage::Data &data, const Deed &
 {
     const Entry &before = present();
     Entry entry{deed, before.mark.next(), following(before, data, isFollowing, notes)};
-    entry.mark.number = 0;
     entry.first = deed.line.endsWith(u'.') ? deed.line.chopped(1) : deed.line;
     if (!before.wasHandedOver) {
         entry.mark.ancestors = before.mark.ancestors;
@@ -108,7 +107,6 @@ void History::replacePresent(const BudgetStorage::Data &data)
     Entry &entry = m_entries.at(m_place);
     entry.content = following(entry, data, true, std::nullopt);
     VersionMark mark = entry.mark.next();
-    mark.number = 0;
     mark.change = entry.mark.change;
     mark.savedAt = QDateTime::currentDateTimeUtc();
     mark.transactions = static_cast<qint64>(data.generalLedger.transactionCount());
