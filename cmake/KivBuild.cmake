@@ -51,7 +51,8 @@ endfunction()
 
 # Compiles the sources of a target by eights where KIV_TOGETHER asks for it: what most
 # of them cost are the headers that they share. Names of unnamed namespaces must
-# differ then within the target, as its readers would wish anyway.
+# differ then within the target, and from those in its headers, which they would hide
+# from the other files without a word.
 function(kiv_compile_together target)
   if(KIV_TOGETHER)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
