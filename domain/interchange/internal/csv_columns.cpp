@@ -366,7 +366,7 @@ private:
     [[nodiscard]] std::vector<qsizetype> only(Column column) const
     {
         for (const QString &heading : words::headingsOf(column)) {
-            if (const auto found = under(heading); !found.empty())
+            if (auto found = under(heading); !found.empty())
                 return found;
         }
         return {};
