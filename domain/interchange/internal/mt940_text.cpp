@@ -26,7 +26,7 @@ struct Part {
 /// The number at the beginning; -1 without one.
 int numberOf(QStringView text)
 {
-    if (text.size() < 2 || !text[0].isDigit() || !text[1].isDigit())
+    if (text.size() < 2 || !isDigit(text[0]) || !isDigit(text[1]))
         return -1;
     return text[0].digitValue() * 10 + text[1].digitValue();
 }
