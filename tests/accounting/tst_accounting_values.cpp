@@ -227,5 +227,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_AccountingValues> suite;
+static const kiv::test::Suite<tst_AccountingValues> accountingValuesSuite;
 #include "tst_accounting_values.moc"

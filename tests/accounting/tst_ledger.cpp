@@ -315,5 +315,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Ledger> suite;
+static const kiv::test::Suite<tst_Ledger> ledgerSuite;
 #include "tst_ledger.moc"

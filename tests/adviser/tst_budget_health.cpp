@@ -80,5 +80,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_BudgetHealth> suite;
+static const kiv::test::Suite<tst_BudgetHealth> budgetHealthSuite;
 #include "tst_budget_health.moc"

@@ -149,5 +149,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Banking> suite;
+static const kiv::test::Suite<tst_Banking> bankingSuite;
 #include "tst_banking.moc"

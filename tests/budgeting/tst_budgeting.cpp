@@ -446,5 +446,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Budgeting> suite;
+static const kiv::test::Suite<tst_Budgeting> budgetingSuite;
 #include "tst_budgeting.moc"

@@ -260,5 +260,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Conversion> suite;
+static const kiv::test::Suite<tst_Conversion> conversionSuite;
 #include "tst_conversion.moc"

@@ -197,6 +197,6 @@ protected:
     }
 };
 
-static const kiv::test::Suite<TestAccessibility> suite;
+static const kiv::test::Suite<TestAccessibility> testAccessibilitySuite;
 
 #include "tst_accessibility.moc"

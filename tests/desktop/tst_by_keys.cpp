@@ -235,6 +235,6 @@ private:
     bool m_hasFailed = false;
 };
 
-static const kiv::test::Suite<TestByKeys> suite;
+static const kiv::test::Suite<TestByKeys> testByKeysSuite;
 
 #include "tst_by_keys.moc"

@@ -10,7 +10,7 @@ using test::press;
 
 namespace {
 
-const QString words = u"four words of my own"_s;
+const QString passphrase = u"four words of my own"_s;
 
 void fill(HouseholdWindow &home, const QString &first, const QString &second)
 {
@@ -37,7 +37,7 @@ private slots:
     {
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
         desktop::DesktopKeyring keyring;
-        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, keyring.keep(u"home"_s, words));
+        QVERIFY_THROWS_EXCEPTION(workbench::Refusal, keyring.keep(u"home"_s, passphrase));
         QCOMPARE(keyring.kept(u"home"_s), std::nullopt);
         keyring.forget(u"home"_s);
     }
@@ -47,9 +47,9 @@ private slots:
         SmallHousehold home;
         test::show(home, "encryption");
         const QString file = home.document().file();
-        fill(home, words, u"other words"_s);
+        fill(home, passphrase, u"other words"_s);
         QVERIFY(message(home).contains(u"not the same"_s));
-        QCOMPARE(part<QLineEdit>(home, "passphrase").text(), words);
+        QCOMPARE(part<QLineEdit>(home, "passphrase").text(), passphrase);
         press(home, Qt::Key_Escape);
         QVERIFY(part<QLineEdit>(home, "passphrase").text().isEmpty());
         fill(home, {}, {});
@@ -57,7 +57,7 @@ private slots:
         QVERIFY(!isEncrypted(file));
         QVERIFY(!part<QPushButton>(home, "decrypt").isEnabled());
 
-        fill(home, words, words);
+        fill(home, passphrase, passphrase);
         QCOMPARE(home.notices(), QStringList());
         QVERIFY(isEncrypted(file));
         QCOMPARE(home.window().windowTitle(), u"home (saved, encrypted)"_s);
@@ -79,23 +79,23 @@ private slots:
     {
         SmallHousehold home;
         test::show(home, "encryption");
-        fill(home, words, words);
+        fill(home, passphrase, passphrase);
         const QString copy = home.path(u"copy.budget"_s);
         home.document().saveCopy(copy);
         QVERIFY(isEncrypted(copy));
 
         HouseholdWindow other;
-        other.keyring().all = {{copy, words}}; // it was never asked to keep this one
+        other.keyring().all = {{copy, passphrase}}; // it was never asked to keep this one
         QVERIFY(!other.window().open(copy));
         QCOMPARE(other.questions().asked.size(), 1);
         QVERIFY(other.document().file().isEmpty());
         other.keyring().all.clear();
-        other.questions().passphrases = {u"wrong"_s, {}, words};
+        other.questions().passphrases = {u"wrong"_s, {}, passphrase};
         other.questions().isToKeep = true;
         QVERIFY(other.window().open(copy));
         QCOMPARE(other.questions().asked.size(), 4);
         QVERIFY(other.questions().asked.at(2).contains(u"not the passphrase"_s));
-        QCOMPARE(other.keyring().all.value(copy), words);
+        QCOMPARE(other.keyring().all.value(copy), passphrase);
         QVERIFY(other.settings().isPassphraseKept(copy));
         QVERIFY(other.window().open(copy)); // now the keyring answers
         QCOMPARE(other.questions().asked.size(), 4);
@@ -107,12 +107,12 @@ private slots:
         QVERIFY(other.keyring().all.isEmpty());
         other.keyring().isClosed = true;
         part<QCheckBox>(other, "keep").setChecked(true);
-        fill(other, words, words);
+        fill(other, passphrase, passphrase);
         QVERIFY(other.keyring().all.isEmpty());
         other.keyring().isClosed = false;
         part<QCheckBox>(other, "keep").setChecked(true);
-        fill(other, words, words);
-        QCOMPARE(other.keyring().all.value(copy), words);
+        fill(other, passphrase, passphrase);
+        QCOMPARE(other.keyring().all.value(copy), passphrase);
         QVERIFY(isEncrypted(copy));
     }
 
@@ -127,7 +127,7 @@ private slots:
         stranger.document().encrypt(storage::Passphrase(others));
         SmallHousehold home;
         test::show(home, "encryption");
-        fill(home, words, words);
+        fill(home, passphrase, passphrase);
         const QString versions = home.document().file() + u".versions/"_s;
         QVERIFY(QDir().mkpath(versions));
         QVERIFY(QFile::copy(stranger.document().file(),
@@ -147,7 +147,7 @@ private slots:
         press(home, Qt::Key_B, Qt::AltModifier); // and gives up
         QCOMPARE(home.questions().asked.size(), 1);
         QVERIFY(message(home).isEmpty());
-        home.questions().passphrases = {words, others};
+        home.questions().passphrases = {passphrase, others};
         press(home, Qt::Key_Y, Qt::AltModifier);
         QCOMPARE(home.questions().asked.size(), 3);
         QVERIFY(test::texts(home, 1, "changes").join(u' ').contains(u"Food"_s));
@@ -159,5 +159,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestEncryptionPage> suite;
+static const kiv::test::Suite<TestEncryptionPage> testEncryptionPageSuite;
 #include "tst_encryption_page.moc"

@@ -83,6 +83,6 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestFileOutputs> suite;
+static const kiv::test::Suite<TestFileOutputs> testFileOutputsSuite;
 
 #include "tst_file_outputs.moc"

@@ -362,6 +362,6 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestFileSession> suite;
+static const kiv::test::Suite<TestFileSession> testFileSessionSuite;
 
 #include "tst_file_session.moc"

@@ -161,6 +161,6 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestKilledWindow> suite;
+static const kiv::test::Suite<TestKilledWindow> testKilledWindowSuite;
 
 #include "tst_killed_window.moc"

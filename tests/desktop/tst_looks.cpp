@@ -236,6 +236,6 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestLooks> suite;
+static const kiv::test::Suite<TestLooks> testLooksSuite;
 
 #include "tst_looks.moc"

@@ -55,6 +55,6 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestManyOpens> suite;
+static const kiv::test::Suite<TestManyOpens> testManyOpensSuite;
 
 #include "tst_many_opens.moc"

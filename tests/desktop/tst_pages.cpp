@@ -205,6 +205,6 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestPages> suite;
+static const kiv::test::Suite<TestPages> testPagesSuite;
 
 #include "tst_pages.moc"

@@ -71,6 +71,6 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestPlaces> suite;
+static const kiv::test::Suite<TestPlaces> testPlacesSuite;
 
 #include "tst_places.moc"

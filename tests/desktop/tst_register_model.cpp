@@ -157,6 +157,6 @@ private:
     std::optional<AccountNumber> m_shown;
 };
 
-static const kiv::test::Suite<TestRegisterModel> suite;
+static const kiv::test::Suite<TestRegisterModel> testRegisterModelSuite;
 
 #include "tst_register_model.moc"

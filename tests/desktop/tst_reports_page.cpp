@@ -205,6 +205,6 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestReportsPage> suite;
+static const kiv::test::Suite<TestReportsPage> testReportsPageSuite;
 
 #include "tst_reports_page.moc"

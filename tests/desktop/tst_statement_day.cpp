@@ -141,5 +141,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestStatementDay> suite;
+static const kiv::test::Suite<TestStatementDay> testStatementDaySuite;
 #include "tst_statement_day.moc"

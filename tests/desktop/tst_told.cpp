@@ -119,6 +119,6 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestTold> suite;
+static const kiv::test::Suite<TestTold> testToldSuite;
 
 #include "tst_told.moc"

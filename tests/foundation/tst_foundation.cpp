@@ -289,5 +289,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Foundation> suite;
+static const kiv::test::Suite<tst_Foundation> foundationSuite;
 #include "tst_foundation.moc"

@@ -447,5 +447,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<TestInterchange> suite;
+static const kiv::test::Suite<TestInterchange> testInterchangeSuite;
 #include "tst_interchange.moc"

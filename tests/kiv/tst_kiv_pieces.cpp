@@ -220,5 +220,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestKivPieces> suite;
+static const kiv::test::Suite<TestKivPieces> testKivPiecesSuite;
 #include "tst_kiv_pieces.moc"

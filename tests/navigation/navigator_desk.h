@@ -18,6 +18,9 @@ namespace kiv::test {
 
 using navigation::Navigator;
 
+/// The file that is loaded and saved.
+inline const QString homeBudget = QStringLiteral("home.budget");
+
 /// Settings that belong to this process alone, in a folder that goes with it.
 /// They are not empty, so that no Navigator takes this for its first run.
 class OwnSettings {
@@ -56,12 +59,6 @@ inline tagging::BudgetItemTags::ItemTags tagged(const budgeting::BudgetedMoney &
 {
     return tagging::BudgetItemTags::ItemTags({toBudgetItemTypes(item), item.source()},
                                              std::move(tags));
-}
-
-inline accounting::AccountCode code(std::uint32_t number, const char *name,
-                                    std::optional<accounting::AccountNumber> parent = std::nullopt)
-{
-    return {no(number), QString::fromUtf8(name), parent};
 }
 
 inline navigation::GuiElementIdentifier element()

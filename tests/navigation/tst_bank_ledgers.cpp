@@ -162,5 +162,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<BankLedgersTest> suite;
+static const kiv::test::Suite<BankLedgersTest> bankLedgersSuite;
 #include "tst_bank_ledgers.moc"

@@ -362,5 +362,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<BudgetBankLedgersTest> suite;
+static const kiv::test::Suite<BudgetBankLedgersTest> budgetBankLedgersSuite;
 #include "tst_budget_bank_ledgers.moc"

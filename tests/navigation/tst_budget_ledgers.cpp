@@ -10,8 +10,9 @@ using Ledgers = BudgetLedgers;
 
 namespace {
 
-constexpr std::array renames{&Ledgers::renameBill, &Ledgers::renameDebt, &Ledgers::renameGoal,
-                             &Ledgers::renameNontrack, &Ledgers::renameWage};
+constexpr std::array renamesOfItems{&Ledgers::renameBill, &Ledgers::renameDebt,
+                                    &Ledgers::renameGoal, &Ledgers::renameNontrack,
+                                    &Ledgers::renameWage};
 constexpr std::array removes{&Ledgers::removeBill, &Ledgers::removeDebt, &Ledgers::removeGoal,
                              &Ledgers::removeNontrack, &Ledgers::removeWage};
 constexpr std::array processes{&Ledgers::processBill, &Ledgers::processDebt, &Ledgers::processGoal,
@@ -31,7 +32,7 @@ struct KindBooks : Books {
     }
     void rename(const char *from, const char *to, const Ledgers::Number &number = {})
     {
-        (items.*byKind<T>(renames))(source(from), source(to), number);
+        (items.*byKind<T>(renamesOfItems))(source(from), source(to), number);
     }
     void remove(const char *name) { (items.*byKind<T>(removes))(source(name)); }
     void skip(const char *name) { (items.*byKind<T>(skips))(source(name)); }
@@ -159,7 +160,7 @@ private slots:
         forEachKind([]<typename T>(std::type_identity<T>) {
             KindBooks<T> books;
             books.template add<T>("Rent");
-            (books.items.*byKind<T>(renames))(books.ownKey(), source("Flat"), {});
+            (books.items.*byKind<T>(renamesOfItems))(books.ownKey(), source("Flat"), {});
             QCOMPARE(books.items.template budgetAccountCode<T>(source("Flat")),
                      code(6, "Flat [Budget Item]"));
             books.rename("Flat", "Home", no(60));
@@ -321,5 +322,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<BudgetLedgersTest> suite;
+static const kiv::test::Suite<BudgetLedgersTest> budgetLedgersSuite;
 #include "tst_budget_ledgers.moc"

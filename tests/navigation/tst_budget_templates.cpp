@@ -85,5 +85,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_BudgetTemplates> suite;
+static const kiv::test::Suite<tst_BudgetTemplates> budgetTemplatesSuite;
 #include "tst_budget_templates.moc"

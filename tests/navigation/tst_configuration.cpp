@@ -18,9 +18,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-const Currency usd(840);
-const Currency eur(978);
-const Currency jpy(392);
+const Currency dollar(840);
+const Currency euro(978);
+const Currency yen(392);
 
 Tag tag(const char *name)
 {
@@ -61,9 +61,9 @@ ConfigurationData accepted()
 {
     return {36h,
             std::chrono::days(4),
-            eur,
+            euro,
             CurrencyDisplayOptions::SymbolAndCode,
-            {usd, eur, jpy},
+            {dollar, euro, yen},
             Percentage(5.0, 6),
             std::chrono::days(30),
             Tags{tag("home"), tag("new")}};
@@ -87,7 +87,7 @@ private slots:
     {
         UserPreferences preferences(m_store.fresh());
         BudgetTagManager tags = someTags();
-        store(accepted(), preferences, tags, {usd, jpy});
+        store(accepted(), preferences, tags, {dollar, yen});
         // A tag that the manager lacks is not added, and case matters.
         ConfigurationData expected = accepted();
         expected.tags = Tags{tag("home")};
@@ -121,9 +121,9 @@ private slots:
         row("7 days", {}, [](Data &data) { data.daysInWeek = days(7); });
         row("8 days", workDays, [](Data &data) { data.daysInWeek = days(8); });
         row("one in use is not usable", usable.arg(u"USD', 'EUR"_s),
-            [](Data &data) { data.usableCurrencies.erase(usd); });
+            [](Data &data) { data.usableCurrencies.erase(dollar); });
         row("two in use", usable.arg(u"JPY', 'USD', 'EUR"_s),
-            [](Data &data) { data.usableCurrencies = {eur}; });
+            [](Data &data) { data.usableCurrencies = {euro}; });
         row("notify -1", notify, [](Data &data) { data.notifyDueWithin = days(-1); });
         row("notify 0", {}, [](Data &data) { data.notifyDueWithin = days(0); });
         row("notify 60", {}, [](Data &data) { data.notifyDueWithin = days(60); });
@@ -134,7 +134,7 @@ private slots:
         row("no number", window, [](Data &data) { data.surveyWindow = {qQNaN(), 6}; });
         row("hours first", hours, [](Data &data) { data = {}; });
         row("currencies before the days to notify", usable.arg(u"JPY', 'EUR"_s), [](Data &data) {
-            data.usableCurrencies.erase(jpy);
+            data.usableCurrencies.erase(yen);
             data.notifyDueWithin = days(61);
         });
     }
@@ -145,7 +145,7 @@ private slots:
         UserPreferences preferences(m_store.fresh());
         BudgetTagManager tags = someTags();
         const ConfigurationData before = load(preferences, tags);
-        QCOMPARE(refusalOf([&] { store(data, preferences, tags, {usd, jpy}); }), refusal);
+        QCOMPARE(refusalOf([&] { store(data, preferences, tags, {dollar, yen}); }), refusal);
         if (!refusal.isEmpty())
             QVERIFY(load(preferences, tags) == before && !preferences.doesExist());
     }
@@ -153,29 +153,29 @@ private slots:
     void showsCurrenciesAndReadsThemBack()
     {
         using enum CurrencyDisplayOptions;
-        const std::set<Currency> usable{jpy, usd, eur};
-        for (const auto &[option, euro, franc] : {std::tuple(IsoCode, u"EUR"_s, u"CHF"_s),
-                                                  {Symbol, u"€"_s, u"CHF"_s},
-                                                  {SymbolAndCode, u"EUR [€]"_s, u"CHF"_s}}) {
-            QCOMPARE(toDisplayable(eur, option), euro);
-            QCOMPARE(toDisplayable(Currency(756), option), franc);
-            QCOMPARE(toCurrencyFromDisplayable(euro, usable, option), eur);
+        const std::set<Currency> usable{yen, dollar, euro};
+        for (const auto &[option, euros, francs] : {std::tuple(IsoCode, u"EUR"_s, u"CHF"_s),
+                                                    {Symbol, u"€"_s, u"CHF"_s},
+                                                    {SymbolAndCode, u"EUR [€]"_s, u"CHF"_s}}) {
+            QCOMPARE(toDisplayable(euro, option), euros);
+            QCOMPARE(toDisplayable(Currency(756), option), francs);
+            QCOMPARE(toCurrencyFromDisplayable(euros, usable, option), euro);
             QCOMPARE(toCurrencyFromDisplayable(QString(), usable, option), Currency());
             QCOMPARE(kiv::navigation::toCurrencyDisplayOptions(toQString(option)), option);
         }
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
-                                 (void)toCurrencyFromDisplayable(u"€"_s, {jpy, usd}, Symbol));
+                                 (void)toCurrencyFromDisplayable(u"€"_s, {yen, dollar}, Symbol));
     }
 
     void refusesUnknownOptionsAndTexts()
     {
         const auto unknown = CurrencyDisplayOptions(3);
-        QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)toDisplayable(eur, unknown));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, (void)toDisplayable(euro, unknown));
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
-                                 (void)toCurrencyFromDisplayable(u"EUR"_s, {eur}, unknown));
+                                 (void)toCurrencyFromDisplayable(u"EUR"_s, {euro}, unknown));
         QVERIFY_THROWS_EXCEPTION(
             numira::UnknownCurrency,
-            (void)toCurrencyFromDisplayable(u"eur"_s, {eur}, CurrencyDisplayOptions::IsoCode));
+            (void)toCurrencyFromDisplayable(u"euro"_s, {euro}, CurrencyDisplayOptions::IsoCode));
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
                                  (void)kiv::navigation::toCurrencyDisplayOptions(u"symbol"_s));
     }
@@ -220,10 +220,10 @@ private slots:
         QLocale::setDefault(QLocale::c());
         const UserPreferences preferences(m_store.fresh());
         const MessageLog log;
-        QCOMPARE(preferences.preferredCurrency(), usd);
+        QCOMPARE(preferences.preferredCurrency(), dollar);
         QCOMPARE(log.warnings().size(), 1);
         QVERIFY(log.text().startsWith(warning.arg(u"preferred currency"_s) + u' '));
-        QCOMPARE(preferences.usableCurrencies(), std::set{usd});
+        QCOMPARE(preferences.usableCurrencies(), std::set{dollar});
         QCOMPARE(log.warnings().size(), 2);
     }
 
@@ -236,8 +236,8 @@ private slots:
         preferences.setDaysInWeek(std::chrono::days(4));
         preferences.setNotifyDueWithin(std::chrono::days(30));
         preferences.setCurrenciesDisplayAs(CurrencyDisplayOptions::SymbolAndCode);
-        preferences.setPreferredCurrency(jpy);
-        preferences.setUsableCurrencies({usd, eur, jpy});
+        preferences.setPreferredCurrency(yen);
+        preferences.setUsableCurrencies({dollar, euro, yen});
         const auto expected = u"3.5 % 36 h 4 d 30 d Symbol and Code JPY: JPY USD EUR"_s;
         QCOMPARE(valuesOf(preferences), expected);
         QCOMPARE(valuesOf(UserPreferences(path)), expected);
@@ -271,7 +271,7 @@ private slots:
               {u"Budgeting/notifyDueWithin"_s, u"99999999999"_s, u"notify due within"_s, defaults}},
              {"display",
               {u"Currencies/displayAs"_s, u"symbol"_s, u"currencies display as"_s, codes}},
-             {"small letters", {preferred, u"eur"_s, u"preferred currency"_s, dollars}},
+             {"small letters", {preferred, u"euro"_s, u"preferred currency"_s, dollars}},
              {"hostile", {preferred, u"\x1b[31m\u202e"_s, u"preferred currency"_s, dollars}},
              {"one of two",
               {usable, QStringList{u"USD"_s, u"?"_s}, u"usable currencies"_s, defaults}},
@@ -307,5 +307,5 @@ private:
     PreferencesStore m_store;
 };
 
-static const kiv::test::Suite<tst_Configuration> suite;
+static const kiv::test::Suite<tst_Configuration> configurationSuite;
 #include "tst_configuration.moc"

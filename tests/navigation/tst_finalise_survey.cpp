@@ -285,5 +285,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<FinaliseSurveyTest> suite;
+static const kiv::test::Suite<FinaliseSurveyTest> finaliseSurveySuite;
 #include "tst_finalise_survey.moc"

@@ -222,5 +222,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<MapSurveyTest> suite;
+static const kiv::test::Suite<MapSurveyTest> mapSurveySuite;
 #include "tst_map_survey.moc"

@@ -10,8 +10,6 @@ using conversion::CurrencyConverter;
 
 namespace {
 
-const QString home = QStringLiteral("home.budget");
-
 /// Makes requests whose answers do not matter.
 void ask(Desk &desk, const char *requests)
 {
@@ -24,7 +22,7 @@ void breakAccess(Desk &desk, const QString &broken)
 {
     desk.disk->before = [broken](const QString &access) {
         if (access == broken) {
-            throw storage::StorageError(storage::StorageFailure::CannotWrite, home,
+            throw storage::StorageError(storage::StorageFailure::CannotWrite, homeBudget,
                                         QStringLiteral("No."));
         }
     };
@@ -50,7 +48,7 @@ private slots:
         desk.navigator->onConfirmedNewBudgetEmpty();
         // Rent without the tags that it has in the file.
         ask(desk, "Added(bill Gas); Added(bill Rent)");
-        desk.navigator->onConfirmedLoadBudgetFile(home, false);
+        desk.navigator->onConfirmedLoadBudgetFile(homeBudget, false);
         QCOMPARE(desk.take(),
                  texts({"- Loading Budget: \"home.budget\"", "- Successfully loaded budget.",
                         "loadedBudgetFile(\"home.budget\", false)"}));
@@ -74,7 +72,7 @@ private slots:
         QVERIFY(desk.isChanged());
         // Saving still goes to the file that is open, with its tags.
         desk.navigator->onSaveBudgetFile();
-        const auto saved = desk.disk->files.at(home);
+        const auto saved = desk.disk->files.at(homeBudget);
         QCOMPARE(saved.budget.bills.size(), std::size_t(2));
         QVERIFY(!saved.itemTags.isEmpty());
     }
@@ -108,7 +106,7 @@ private slots:
             desk.disk->rates.reset();
             desk.navigator->onSaveBudgetFile();
             QCOMPARE(desk.take().last(),
-                     QStringLiteral("savedBudgetFile(\"%1\")").arg(isStored ? other : home));
+                     QStringLiteral("savedBudgetFile(\"%1\")").arg(isStored ? other : homeBudget));
             QVERIFY(!desk.isChanged() && desk.disk->rates);
         }
     }
@@ -121,8 +119,8 @@ private slots:
         for (const auto &[reconciled, statuses] : rows) {
             FurnishedDesk desk;
             if (reconciled != 0)
-                desk.disk->files.at(home).generalLedger.reconcile(txn(2), no(reconciled));
-            desk.navigator->onLoadBudgetFile(home);
+                desk.disk->files.at(homeBudget).generalLedger.reconcile(txn(2), no(reconciled));
+            desk.navigator->onLoadBudgetFile(homeBudget);
             (void)desk.take();
             desk.navigator->onMarkCleared({txn(2)});
             QCOMPARE(desk.take(), texts({"transactionSaveSucceeded(2, 2) *"}));
@@ -295,5 +293,5 @@ private:
     OwnSettings m_settings;
 };
 
-static const kiv::test::Suite<NavigatorEffects> suite;
+static const kiv::test::Suite<NavigatorEffects> navigatorEffectsSuite;
 #include "tst_navigator_effects.moc"

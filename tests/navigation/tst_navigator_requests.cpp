@@ -99,5 +99,5 @@ private:
     std::unique_ptr<Desk> m_first; ///< converts for all others
 };
 
-static const kiv::test::Suite<NavigatorRequests> suite;
+static const kiv::test::Suite<NavigatorRequests> navigatorRequestsSuite;
 #include "tst_navigator_requests.moc"

@@ -12,8 +12,6 @@ using Data = BudgetStorage::Data;
 
 namespace {
 
-const QString home = QStringLiteral("home.budget");
-
 /// What is read of a budget that was written by the real storage.
 Data throughFile(const QString &path, const Data &data)
 {
@@ -106,7 +104,7 @@ private slots:
         prepare(*preparing.navigator);
         const Data data = preparing.save();
         QVERIFY(isBalanced(data.generalLedger));
-        QVERIFY(throughFile(m_folder.filePath(home), data) == data);
+        QVERIFY(throughFile(m_folder.filePath(homeBudget), data) == data);
         // Filling a ledger takes long; read again, it is as full.
         const bool isFull = data.generalLedger.transactionCount() > 1000;
 
@@ -116,8 +114,8 @@ private slots:
             m_settings.reset();
             Desk desk;
             if (isFull) {
-                desk.disk->files.insert_or_assign(home, data);
-                desk.navigator->onLoadBudgetFile(home);
+                desk.disk->files.insert_or_assign(homeBudget, data);
+                desk.navigator->onLoadBudgetFile(homeBudget);
             } else {
                 desk.furnish();
                 prepare(*desk.navigator);
@@ -167,5 +165,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-static const kiv::test::Suite<NavigatorStates> suite;
+static const kiv::test::Suite<NavigatorStates> navigatorStatesSuite;
 #include "tst_navigator_states.moc"

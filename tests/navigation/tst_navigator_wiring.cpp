@@ -221,5 +221,5 @@ private:
     OwnSettings m_settings;
 };
 
-static const kiv::test::Suite<NavigatorWiring> suite;
+static const kiv::test::Suite<NavigatorWiring> navigatorWiringSuite;
 #include "tst_navigator_wiring.moc"

@@ -18,9 +18,9 @@ using namespace std::chrono_literals;
 namespace {
 
 /// A notifier with its checks, of which it records the times.
-struct Desk {
-    Desk(std::chrono::milliseconds firstCheckDelay, std::chrono::milliseconds interval,
-         QByteArray newest = "1.1.0")
+struct NotifierDesk {
+    NotifierDesk(std::chrono::milliseconds firstCheckDelay, std::chrono::milliseconds interval,
+                 QByteArray newest = "1.1.0")
         : latest(std::move(newest)),
           manager(std::make_unique<ScriptedSender>([this](const QUrl &) { return onCheck(); }),
                   nullptr)
@@ -65,7 +65,7 @@ class tst_UpdateNotifier : public QObject {
 private slots:
     void theFirstCheckDoesNotShiftTheOthers()
     {
-        Desk desk(600ms, 800ms);
+        NotifierDesk desk(600ms, 800ms);
         QTRY_COMPARE(desk.checks.size(), 3);
         // At 600, 800 and 1,600 ms from the beginning, give or take the timers'
         // coarseness; the second would come at 1,400 ms if it waited for the first.
@@ -79,7 +79,7 @@ private slots:
     void anAnnouncementStopsTheChecksUntilTheyAreStarted()
     {
         const MessageLog log;
-        Desk desk(10ms, 100ms, "1.2.0-rc.1");
+        NotifierDesk desk(10ms, 100ms, "1.2.0-rc.1");
         QTRY_COMPARE(desk.announced, QStringList{u"1.2.0-rc.1"_s});
         QCOMPARE(log.debugs().mid(1),
                  (QStringList{
@@ -99,7 +99,7 @@ private slots:
 
     void startingAgainCountsFromThereWithTheNewInterval()
     {
-        Desk desk(10min, 150ms);
+        NotifierDesk desk(10min, 150ms);
         desk.notifier->startCheckNotifications(10min);
         QTest::qWait(300);
         QVERIFY(desk.checks.isEmpty());
@@ -109,7 +109,7 @@ private slots:
 
     void checksMayOverlap()
     {
-        Desk desk(0ms, 20ms, {});
+        NotifierDesk desk(0ms, 20ms, {});
         QTRY_VERIFY(desk.checkersAlive() >= 2);
         const auto waiting = desk.checkersAlive();
         // Only what asks from now on is answered; those before wait on.
@@ -121,12 +121,12 @@ private slots:
 
     void checksThatFailGoOn()
     {
-        Desk desk(0ms, 30ms, "999.0.0");
+        NotifierDesk desk(0ms, 30ms, "999.0.0");
         const MessageLog log;
         QTRY_VERIFY(desk.checks.size() >= 3);
         QVERIFY(desk.announced.isEmpty() && log.warnings().size() >= 2);
     }
 };
 
-static const kiv::test::Suite<tst_UpdateNotifier> suite;
+static const kiv::test::Suite<tst_UpdateNotifier> updateNotifierSuite;
 #include "tst_update_notifier.moc"

@@ -334,5 +334,5 @@ private:
     std::unique_ptr<QObject> m_second;
 };
 
-static const kiv::test::Suite<tst_Networking> suite;
+static const kiv::test::Suite<tst_Networking> networkingSuite;
 #include "tst_networking.moc"

@@ -451,5 +451,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Numira> suite;
+static const kiv::test::Suite<tst_Numira> numiraSuite;
 #include "tst_numira.moc"

@@ -95,5 +95,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Outlook> suite;
+static const kiv::test::Suite<tst_Outlook> outlookSuite;
 #include "tst_outlook.moc"

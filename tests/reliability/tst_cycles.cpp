@@ -88,5 +88,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<Cycles> suite;
+static const kiv::test::Suite<Cycles> cyclesSuite;
 #include "tst_cycles.moc"

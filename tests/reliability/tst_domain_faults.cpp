@@ -46,5 +46,5 @@ private slots:
     void everyFailureLeavesNoTrace() { checkRequests(Fault::Place::Calls, randomRuns(1)); }
 };
 
-static const kiv::test::Suite<DomainFaults> suite;
+static const kiv::test::Suite<DomainFaults> domainFaultsSuite;
 #include "tst_domain_faults.moc"

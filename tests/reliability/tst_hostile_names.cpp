@@ -178,5 +178,5 @@ private:
     QByteArray m_errors;
 };
 
-static const kiv::test::Suite<HostileNames> suite;
+static const kiv::test::Suite<HostileNames> hostileNamesSuite;
 #include "tst_hostile_names.moc"

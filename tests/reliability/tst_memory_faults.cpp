@@ -15,5 +15,5 @@ private slots:
     void everyFailureLeavesNoTrace() { checkRequests(Fault::Place::Memory, randomRuns(3)); }
 };
 
-static const kiv::test::Suite<MemoryFaults> suite;
+static const kiv::test::Suite<MemoryFaults> memoryFaultsSuite;
 #include "tst_memory_faults.moc"

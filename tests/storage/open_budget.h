@@ -29,7 +29,7 @@ protected:
     {
         m_file.emplace(atLeisure());
         m_folder.emplace();
-        m_path = m_folder->path(QStringLiteral("home.budget"));
+        m_path = m_folder->path(homeBudget);
         QCOMPARE(storing(m_path, QStringLiteral("First")), std::nullopt);
     }
     std::optional<storage::StorageFailure> loading(const QString &path)

@@ -15,6 +15,9 @@
 
 namespace kiv::test {
 
+/// The budget file that is saved, damaged and killed.
+inline const QString homeBudget = QStringLiteral("home.budget");
+
 inline void overwrite(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);

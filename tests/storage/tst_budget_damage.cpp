@@ -385,5 +385,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<BudgetDamageTest> suite;
+static const kiv::test::Suite<BudgetDamageTest> budgetDamageSuite;
 #include "tst_budget_damage.moc"

@@ -336,5 +336,5 @@ void BudgetRoundTripTest::aClosedAccountWithABalanceIsOpened()
     QCOMPARE(test::difference(data, loaded), QString());
 }
 
-static const kiv::test::Suite<BudgetRoundTripTest> suite;
+static const kiv::test::Suite<BudgetRoundTripTest> budgetRoundTripSuite;
 #include "tst_budget_round_trip.moc"

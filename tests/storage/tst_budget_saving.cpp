@@ -371,5 +371,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<BudgetSavingTest> suite;
+static const kiv::test::Suite<BudgetSavingTest> budgetSavingSuite;
 #include "tst_budget_saving.moc"

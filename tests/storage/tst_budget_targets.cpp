@@ -313,5 +313,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<BudgetTargetsTest> suite;
+static const kiv::test::Suite<BudgetTargetsTest> budgetTargetsSuite;
 #include "tst_budget_targets.moc"

@@ -58,7 +58,7 @@ private slots:
     void init()
     {
         m_folder.emplace();
-        m_path = m_folder->path(u"home.budget"_s);
+        m_path = m_folder->path(homeBudget);
     }
 
     void cleanup() { test::isEncrypting = false; }
@@ -432,5 +432,5 @@ private:
     QString m_path;
 };
 
-static const kiv::test::Suite<EncryptionTest> suite;
+static const kiv::test::Suite<EncryptionTest> encryptionSuite;
 #include "tst_encryption.moc"

@@ -6,8 +6,8 @@
 #include "storage/notes.h"
 
 using namespace kiv::storage;
-using internal::noteFromText;
-using internal::noteText;
+using storage::internal::noteFromText;
+using storage::internal::noteText;
 
 namespace {
 
@@ -63,9 +63,10 @@ private slots:
         notes.set(first, QJsonValue::Undefined);
         QCOMPARE(notes.size(), Notes::countMax - 1);
         for (const char *malformed : {"", "1,2", "1],[2", "{\"a\":1", "nul", "\"\xff\"", "[1]x"})
-            QVERIFY_THROWS_EXCEPTION(internal::ContentFault, (void)noteFromText(malformed));
+            QVERIFY_THROWS_EXCEPTION(storage::internal::ContentFault,
+                                     (void)noteFromText(malformed));
     }
 };
 
-static const kiv::test::Suite<NotesTest> suite;
+static const kiv::test::Suite<NotesTest> notesSuite;
 #include "tst_notes.moc"

@@ -113,5 +113,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<RatesFileTest> suite;
+static const kiv::test::Suite<RatesFileTest> ratesFileSuite;
 #include "tst_rates_file.moc"

@@ -20,9 +20,8 @@ using test::failingCalls;
 
 namespace {
 
-const QString name = QStringLiteral("home.budget");
-const QString versions = name + QStringLiteral(".versions");
-const QString lock = name + QStringLiteral(".lock");
+const QString versionsFolder = homeBudget + QStringLiteral(".versions");
+const QString lockFile = homeBudget + QStringLiteral(".lock");
 
 storage::BudgetStorage::Data budget(int version)
 {
@@ -36,8 +35,8 @@ QByteArray bytesOf(int version)
     QByteArray &bytes = known[{version, test::isEncrypting}];
     if (bytes.isEmpty()) {
         const test::ScratchFolder folder;
-        test::store(folder.path(name), budget(version));
-        bytes = folder.read(name);
+        test::store(folder.path(homeBudget), budget(version));
+        bytes = folder.read(homeBudget);
     }
     return bytes;
 }
@@ -56,8 +55,8 @@ const test::ScratchFolder &twoVersions()
     static const std::array<test::ScratchFolder, 2> folders;
     const test::ScratchFolder &folder = folders[test::isEncrypting ? 1 : 0];
     if (folder.names().isEmpty()) {
-        test::store(folder.path(name), budget(1));
-        test::store(folder.path(name), budget(2));
+        test::store(folder.path(homeBudget), budget(1));
+        test::store(folder.path(homeBudget), budget(2));
     }
     return folder;
 }
@@ -66,10 +65,10 @@ const test::ScratchFolder &twoVersions()
 struct Desk {
     explicit Desk(Standing standing = Standing::Open)
     {
-        folder.write(name, twoVersions().read(name));
+        folder.write(homeBudget, twoVersions().read(homeBudget));
         if (standing != Standing::First) {
             const auto former =
-                storage::keptVersions(twoVersions().path(name), test::keys().get()).back();
+                storage::keptVersions(twoVersions().path(homeBudget), test::keys().get()).back();
             QDir().mkdir(path + u".versions"_qs);
             test::overwrite(path + u".versions/"_qs + QFileInfo(former.path).fileName(),
                             test::contentOf(former.path));
@@ -90,7 +89,7 @@ struct Desk {
     {
         QStringList names =
             folder.names() + QDir(path + u".versions"_qs).entryList(QDir::Files | QDir::Hidden);
-        names.removeAll(lock);
+        names.removeAll(lockFile);
         return names;
     }
     [[nodiscard]] QStringList kept() const { return test::versionsOf(path); }
@@ -106,7 +105,7 @@ struct Desk {
     }
 
     test::ScratchFolder folder;
-    QString path = folder.path(name);
+    QString path = folder.path(homeBudget);
     test::TestFile file;
 };
 
@@ -118,7 +117,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
                       Standing standing)
 {
     Desk desk(standing);
-    const QByteArray old = desk.image(name);
+    const QByteArray old = desk.image(homeBudget);
     const QStringList before = desk.names();
     QStringList kept = desk.kept();
     fail(call, from, error, {}, times);
@@ -131,7 +130,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     const bool isEveryClose = call == "close" && from == 1 && times > 1;
     if (!failure && (isSyncFailure || isEveryClose))
         return QStringLiteral("what may not be on the disk counts as saved");
-    if (desk.image(name) != (failure ? old : imageOf(3)))
+    if (desk.image(homeBudget) != (failure ? old : imageOf(3)))
         return QStringLiteral("the file is not the %1 one").arg(failure ? u"old" : u"new");
     const QStringList keptThen = desk.kept();
     if (!failure)
@@ -144,12 +143,13 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
         standing != Standing::New)
         return QStringLiteral("it does not come from the version before");
     // The lock of a file that is not open went with the attempt.
-    if (failure && standing > Standing::First && times == 1 && desk.folder.names().contains(lock))
+    if (failure && standing > Standing::First && times == 1 &&
+        desk.folder.names().contains(lockFile))
         return QStringLiteral("the lock file was left");
     const QStringList after = desk.names();
     if (failure && after != before && call != "unlinkat" && call != "rmdir")
         return QStringLiteral("left behind: %1").arg(after.join(u' '));
-    if (test::failureOf([&] { desk.save(4); }) || desk.image(name) != imageOf(4))
+    if (test::failureOf([&] { desk.save(4); }) || desk.image(homeBudget) != imageOf(4))
         return QStringLiteral("the next save failed");
     if (desk.kept().mid(1) != keptThen)
         return QStringLiteral("the next save lost a former version");
@@ -157,7 +157,7 @@ QString brokenPromise(Saver save, const std::string &call, int from, int times, 
     if (test::isEncrypting && !readable.isEmpty())
         return QStringLiteral("left in the clear: %1").arg(readable);
     for (const QString &left : desk.names()) {
-        if (!left.startsWith(name) && !left.endsWith(u"Z-1.budget"_qs) &&
+        if (!left.startsWith(homeBudget) && !left.endsWith(u"Z-1.budget"_qs) &&
             !left.endsWith(u"Z-2.budget"_qs) && !left.endsWith(u"Z-3.budget"_qs))
             return QStringLiteral("left for good: %1").arg(left);
     }
@@ -295,7 +295,7 @@ private slots:
         row("no link to the old version", {"linkat", 2, EIO, CannotWrite});
         row("attributes that grow meanwhile", {"flistxattr", 2, ERANGE, {}});
         // While the new version is synchronised, before the old one is replaced.
-        row("written to", {"fsync", 1, 0, ChangedOnDisk, write(name, 4), 1, 4});
+        row("written to", {"fsync", 1, 0, ChangedOnDisk, write(homeBudget, 4), 1, 4});
         row("replaced", {"fsync", 1, 0, ChangedOnDisk, replace(4), 1, 4});
         row("replaced by the same", {"fsync", 1, 0, ChangedOnDisk, replace(2), 1, 2});
         // The new version is in its place when the folder cannot be synchronised, and
@@ -320,7 +320,7 @@ private slots:
             met.standing = Standing::NotOpen;
             row(title, met);
         };
-        const auto makeLock = [](const Desk &d) { d.folder.write(lock, ""); };
+        const auto makeLock = [](const Desk &d) { d.folder.write(lockFile, ""); };
         loading("not to be asked for", {"access", 1, EIO, {}});
         loading("gone", {"lstat", 3, 0, NotFound, [](const Desk &d) { QFile::remove(d.path); }});
         loading("cut short",
@@ -362,18 +362,18 @@ private slots:
                 QCOMPARE(test::bankIn(data), u"2"_qs);
             return;
         }
-        QCOMPARE(desk.image(name), imageOf(failure ? met.left : 3));
+        QCOMPARE(desk.image(homeBudget), imageOf(failure ? met.left : 3));
         // The reason is the system's own.
         if (failure == StorageFailure::CannotWrite && met.error != 0 && !met.meanwhile)
             QVERIFY2(told.contains(qt_error_string(met.error)), qPrintable(told));
         if (failure == StorageFailure::ChangedOnDisk) {
-            QCOMPARE(desk.folder.names(), (QStringList{name, lock, versions}));
+            QCOMPARE(desk.folder.names(), (QStringList{homeBudget, lockFile, versionsFolder}));
             return;
         }
         desk.save(4);
         // The third only where it could be saved.
         QCOMPARE(desk.kept().size(), failure && met.left != 3 ? 3 : 4);
-        QCOMPARE(desk.image(name), imageOf(4));
+        QCOMPARE(desk.image(homeBudget), imageOf(4));
     }
 
     void theLockFileGoesWithTheFile()
@@ -385,7 +385,7 @@ private slots:
                 fail(call, 1, EIO);
             }
             failingCalls = {};
-            QVERIFY2(!desk.folder.names().contains(lock), call);
+            QVERIFY2(!desk.folder.names().contains(lockFile), call);
         }
     }
 
@@ -422,5 +422,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<SaveFaultsTest> suite;
+static const kiv::test::Suite<SaveFaultsTest> saveFaultsSuite;
 #include "tst_save_faults.moc"

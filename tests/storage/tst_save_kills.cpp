@@ -21,7 +21,6 @@ using Data = storage::BudgetStorage::Data;
 
 namespace {
 
-const QString name = QStringLiteral("home.budget");
 constexpr int few = 200;
 constexpr int full = 65'535;
 
@@ -33,8 +32,8 @@ struct Versions {
         data[1].banks.add(banking::Bank(banking::BankName(QStringLiteral("Second")), {}, false));
         for (const int which : {0, 1}) {
             const test::ScratchFolder folder;
-            test::store(folder.path(name), data[which]);
-            bytes[which] = folder.read(name);
+            test::store(folder.path(homeBudget), data[which]);
+            bytes[which] = folder.read(homeBudget);
         }
     }
 
@@ -49,7 +48,7 @@ const Versions &versionsOf(int transactions)
 }
 
 /// Saves the versions in turn, that many times.
-using Saver = void (*)(const Versions &, const QString &path, int times);
+using SavingProcess = void (*)(const Versions &, const QString &path, int times);
 
 void save(const Versions &versions, const QString &path, int times)
 {
@@ -69,13 +68,13 @@ void spoil(const Versions &versions, const QString &path, int times)
 
 /// Runs the saver in a process of its own that is killed: at a chosen call, or
 /// after a while. Answers with the promise that was broken, or with nothing.
-QString brokenPromise(Saver saver, int transactions, const std::string &call, int at,
+QString brokenPromise(SavingProcess saver, int transactions, const std::string &call, int at,
                       std::chrono::microseconds after = std::chrono::seconds(20))
 {
     const Versions &versions = versionsOf(transactions);
     const test::ScratchFolder folder;
-    folder.write(name, versions.bytes[0]);
-    const QString path = folder.path(name);
+    folder.write(homeBudget, versions.bytes[0]);
+    const QString path = folder.path(homeBudget);
     const pid_t child = ::fork();
     if (child == 0) {
         test::fail(call, at, 0, [] { ::raise(SIGKILL); });
@@ -91,7 +90,7 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
     }
     if (!WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL)
         return QStringLiteral("the saver ended by itself");
-    const QByteArray left = test::imageOf(folder.read(name));
+    const QByteArray left = test::imageOf(folder.read(homeBudget));
     if (left != test::imageOf(versions.bytes[0]) && left != test::imageOf(versions.bytes[1]))
         return QStringLiteral("neither version is left");
     const QString wrong = test::wrongInVersions(path);
@@ -101,10 +100,10 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
     test::TestFile next;
     next.setFilePathName(path);
     if (test::failureOf([&] { (void)next.load(), next.store(versions.data[1]); }) ||
-        test::imageOf(folder.read(name)) != test::imageOf(versions.bytes[1]))
+        test::imageOf(folder.read(homeBudget)) != test::imageOf(versions.bytes[1]))
         return QStringLiteral("the next save failed");
     for (const QString &file : folder.names()) {
-        if (!file.startsWith(name))
+        if (!file.startsWith(homeBudget))
             return QStringLiteral("left for good: %1").arg(file);
     }
     const QString readable = test::inTheClear(path);
@@ -114,7 +113,7 @@ QString brokenPromise(Saver saver, int transactions, const std::string &call, in
 }
 
 /// Which kill, at a random moment, left something broken, or nothing.
-QString brokenAtSomeMoment(Saver saver, int transactions, int kills,
+QString brokenAtSomeMoment(SavingProcess saver, int transactions, int kills,
                            std::chrono::microseconds within)
 {
     const unsigned seed = std::random_device()();
@@ -166,9 +165,9 @@ private slots:
         test::isEncrypting = isEncrypted;
         // How often each call is made during two saves.
         const test::ScratchFolder folder;
-        folder.write(name, versionsOf(transactions).bytes[0]);
+        folder.write(homeBudget, versionsOf(transactions).bytes[0]);
         failingCalls = {};
-        save(versionsOf(transactions), folder.path(name), 2);
+        save(versionsOf(transactions), folder.path(homeBudget), 2);
         const auto counts = std::exchange(failingCalls, {}).counts;
         int kills = 0;
         for (const auto &[call, count] : counts) {
@@ -197,5 +196,5 @@ private:
     const MessageLog m_log; // a leftover that was cleared away is a warning
 };
 
-static const kiv::test::Suite<SaveKillsTest> suite;
+static const kiv::test::Suite<SaveKillsTest> saveKillsSuite;
 #include "tst_save_kills.moc"

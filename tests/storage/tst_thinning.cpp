@@ -111,5 +111,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<ThinningTest> suite;
+static const kiv::test::Suite<ThinningTest> thinningSuite;
 #include "tst_thinning.moc"

@@ -35,6 +35,12 @@ inline accounting::TransactionNumber txn(std::uint16_t number)
     return accounting::TransactionNumber(number);
 }
 
+inline accounting::AccountCode code(std::uint32_t number, const char *name,
+                                    std::optional<accounting::AccountNumber> parent = std::nullopt)
+{
+    return {no(number), QString::fromUtf8(name), parent};
+}
+
 /// Opens an account on 2026-01-01, with the generator's next number unless one
 /// is given, and answers with its number.
 inline accounting::AccountNumber

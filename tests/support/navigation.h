@@ -33,12 +33,6 @@ using budgeting::Nontrack;
 using budgeting::Wage;
 using enum BankAccountTypes;
 
-inline AccountCode code(std::uint32_t number, const char *name,
-                        std::optional<AccountNumber> parent = std::nullopt)
-{
-    return {no(number), QString::fromUtf8(name), parent};
-}
-
 inline BankName bank(const char *name)
 {
     return BankName(QString::fromUtf8(name));

@@ -125,5 +125,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Reconciliations> suite;
+static const kiv::test::Suite<tst_Reconciliations> reconciliationsSuite;
 #include "tst_reconciliations.moc"

@@ -200,5 +200,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Surveying> suite;
+static const kiv::test::Suite<tst_Surveying> surveyingSuite;
 #include "tst_surveying.moc"

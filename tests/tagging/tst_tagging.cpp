@@ -103,5 +103,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Tagging> suite;
+static const kiv::test::Suite<tst_Tagging> taggingSuite;
 #include "tst_tagging.moc"

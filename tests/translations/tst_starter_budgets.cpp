@@ -44,5 +44,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<StarterBudgets> suite;
+static const kiv::test::Suite<StarterBudgets> starterBudgetsSuite;
 #include "tst_starter_budgets.moc"

@@ -166,5 +166,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_Updating> suite;
+static const kiv::test::Suite<tst_Updating> updatingSuite;
 #include "tst_updating.moc"

@@ -523,5 +523,5 @@ private:
     const MessageLog m_log;
 };
 
-static const kiv::test::Suite<DocumentTest> suite;
+static const kiv::test::Suite<DocumentTest> documentSuite;
 #include "tst_document.moc"

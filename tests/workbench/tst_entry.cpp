@@ -252,5 +252,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestEntry> suite;
+static const kiv::test::Suite<TestEntry> testEntrySuite;
 #include "tst_entry.moc"

@@ -201,5 +201,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<tst_Explain> suite;
+static const kiv::test::Suite<tst_Explain> explainSuite;
 #include "tst_explain.moc"

@@ -332,5 +332,5 @@ private:
     }
 };
 
-static const Suite<TestImports> suite;
+static const Suite<TestImports> importsSuite;
 #include "tst_imports.moc"

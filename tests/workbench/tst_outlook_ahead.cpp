@@ -189,5 +189,5 @@ private slots:
     }
 };
 
-static const kiv::test::Suite<tst_OutlookAhead> suite;
+static const kiv::test::Suite<tst_OutlookAhead> outlookAheadSuite;
 #include "tst_outlook_ahead.moc"

@@ -302,5 +302,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<SetAsideTest> suite;
+static const kiv::test::Suite<SetAsideTest> setAsideSuite;
 #include "tst_set_aside.moc"

@@ -123,5 +123,5 @@ private:
     }
 };
 
-static const kiv::test::Suite<TestWorkbench> suite;
+static const kiv::test::Suite<TestWorkbench> testWorkbenchSuite;
 #include "tst_workbench.moc"

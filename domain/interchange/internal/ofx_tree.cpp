@@ -72,7 +72,7 @@ bool isListTag(QStringView tag)
 }
 
 /// The values that are read; all others of a large file would fill the memory.
-bool isRead(const QString &tag)
+bool isReadValue(const QString &tag)
 {
     static const std::set<QString> tags{
         QStringLiteral("ACCTID"),   QStringLiteral("ACCTTYPE"), QStringLiteral("BANKID"),
@@ -294,7 +294,7 @@ private:
         Element &parent = m_open.back();
         parent.holdsElements = true;
         const bool isValue = !element.holdsElements && !element.value.isEmpty();
-        if (isValue && !isRead(element.tag))
+        if (isValue && !isReadValue(element.tag))
             return;
         if (isValue &&
             std::ranges::find(parent.children, element.tag, &Element::tag) != parent.children.end())
