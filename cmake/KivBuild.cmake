@@ -56,6 +56,9 @@ endfunction()
 function(kiv_compile_together target)
   if(KIV_TOGETHER)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 16)
+    # A tenth less time, for a seventh more memory.
+    target_compile_options(${target} PRIVATE
+      "$<$<CXX_COMPILER_ID:GNU>:SHELL:--param ggc-min-heapsize=1048576>")
   endif()
 endfunction()
 
@@ -173,15 +176,21 @@ endfunction()
 function(kiv_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WINDOW" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
   set(main kiv-test-main)
+  set(headers kiv-test-main)
   if(arg_WINDOW)
     set(main kiv-test-window-main)
+    set(headers kiv-desktop-app)
   endif()
   add_executable(tst_${name} ${arg_SOURCES})
   kiv_automoc(tst_${name})
   target_link_libraries(tst_${name} PRIVATE ${main} ${arg_LIBRARIES})
   kiv_compile_options(tst_${name})
   kiv_compile_tests_together(tst_${name})
-  target_precompile_headers(tst_${name} REUSE_FROM ${main})
+  target_precompile_headers(tst_${name} REUSE_FROM ${headers})
+  # Nearly always empty: sources include what moc makes of them.
+  set_source_files_properties(
+    ${CMAKE_CURRENT_BINARY_DIR}/tst_${name}_autogen/mocs_compilation.cpp
+    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
   kiv_add_run(${name} ${name} TIMEOUT "${arg_TIMEOUT}" LABELS "${arg_LABELS}")
 endfunction()
 
