@@ -14,7 +14,7 @@ void lookAheadAYear(benchmark::State &state)
     const storage::BudgetStorage::Data data = dataOf(book(static_cast<int>(state.range(0))));
     workbench::OutlookQuestion question;
     question.first = lastDayOfBook();
-    question.days = 365;
+    question.days = {365};
     for (auto _ : state)
         benchmark::DoNotOptimize(
             workbench::lookAhead(data, question, numira::toCurrency("USD")).outlook.payments);
