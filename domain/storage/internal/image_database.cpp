@@ -7,6 +7,9 @@
 
 #include <sqlite3.h>
 
+#include <QtCore/QScopeGuard>
+
+#include <exception>
 #include <new>
 #include <utility>
 
@@ -53,6 +56,27 @@ void run(SQLite::Database &database, const std::string &sql)
 {
     checked([&] { return database.exec(sql); });
 }
+
+/// What forEachRow does with the rows.
+struct Taking {
+    const std::function<void(sqlite3_value **values)> &take;
+    std::exception_ptr failure; ///< what it threw
+};
+
+/// An exception must not pass through SQLite, which is written in C.
+void takeRow(sqlite3_context *context, int, sqlite3_value **values) noexcept
+{
+    Taking &taking = *static_cast<Taking *>(sqlite3_user_data(context));
+    try {
+        taking.take(values);
+    } catch (...) {
+        taking.failure = std::current_exception();
+        sqlite3_result_error_code(context, SQLITE_ABORT);
+    }
+}
+
+/// All rows together have no result.
+void endRows(sqlite3_context *) noexcept {}
 
 std::string_view textAt(const Statement &statement, int column)
 {
@@ -111,6 +135,31 @@ void ImageDatabase::countText(qsizetype size)
         throw tooManyTexts();
 }
 
+void ImageDatabase::forEachRow(const QByteArray &table, const QByteArrayList &columns,
+                               const std::function<void(sqlite3_value **values)> &take)
+{
+    // An aggregate function gets the values of a row as SQLite has them. Otherwise each
+    // row is a step, and each value a call that checks the connection.
+    constexpr const char *name = "take_row";
+    const int count = static_cast<int>(columns.size());
+    Taking taking{take, nullptr};
+    const auto define = [&](auto step, auto end) {
+        return sqlite3_create_function_v2(handle(), name, count, SQLITE_UTF8 | SQLITE_DIRECTONLY,
+                                          &taking, nullptr, step, end, nullptr);
+    };
+    check(handle(), define(&takeRow, &endRows));
+    const auto forget = qScopeGuard([&] { define(nullptr, nullptr); });
+    Statement rows(*this,
+                   QByteArray("SELECT ") + name + '(' + columns.join(',') + ") FROM " + table);
+    try {
+        rows.step();
+    } catch (...) {
+        if (taking.failure)
+            std::rethrow_exception(taking.failure);
+        throw;
+    }
+}
+
 void ImageDatabase::harden()
 {
     sqlite3 *database = handle();
@@ -125,7 +174,7 @@ void ImageDatabase::harden()
          {std::pair(SQLITE_LIMIT_LENGTH, rowSizeMax), std::pair(SQLITE_LIMIT_SQL_LENGTH, 4096),
           std::pair(SQLITE_LIMIT_COLUMN, 32), std::pair(SQLITE_LIMIT_EXPR_DEPTH, 16),
           std::pair(SQLITE_LIMIT_COMPOUND_SELECT, 2), std::pair(SQLITE_LIMIT_VDBE_OP, 10'000),
-          std::pair(SQLITE_LIMIT_FUNCTION_ARG, 8), std::pair(SQLITE_LIMIT_ATTACHED, 0),
+          std::pair(SQLITE_LIMIT_FUNCTION_ARG, 16), std::pair(SQLITE_LIMIT_ATTACHED, 0),
           std::pair(SQLITE_LIMIT_VARIABLE_NUMBER, 32), std::pair(SQLITE_LIMIT_TRIGGER_DEPTH, 1),
           std::pair(SQLITE_LIMIT_WORKER_THREADS, 0)})
         sqlite3_limit(database, limit, value);

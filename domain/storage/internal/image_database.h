@@ -6,7 +6,9 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QtCore/QByteArray>
+#include <QtCore/QByteArrayList>
 
+#include <functional>
 #include <memory>
 
 struct sqlite3;
@@ -46,6 +48,12 @@ public:
     /// A text of so many bytes is read. Throws ContentFault when all texts together
     /// have more bytes than the image, which only rows can have that share them.
     void countText(qsizetype size);
+    /// Hands the values of these columns of each row of a table to `take`, in the order of
+    /// the keys; they are good until it returns. Throws what `take` throws, and
+    /// ContentFault when the database is malformed. For a table of many rows this takes
+    /// less time than a Statement.
+    void forEachRow(const QByteArray &table, const QByteArrayList &columns,
+                    const std::function<void(sqlite3_value **values)> &take);
 
 private:
     void harden();

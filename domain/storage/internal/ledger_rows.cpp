@@ -179,8 +179,7 @@ public:
 
     void read()
     {
-        while (m_row.next())
-            m_replay.post(transaction());
+        m_row.forEach([this] { m_replay.post(transaction()); });
     }
     [[nodiscard]] const Refunds &refunds() const noexcept { return m_refunds; }
     /// The accounts in which amounts were mended.

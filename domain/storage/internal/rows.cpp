@@ -153,10 +153,28 @@ RowReader::RowReader(RowSource &source, Table table)
 
 bool RowReader::next()
 {
-    if (m_column != m_columns)
-        throw rowNotReadWhole();
+    checkIsWhole();
     if (!m_select.step())
         return false;
+    begin();
+    return true;
+}
+
+void RowReader::forEach(const std::function<void()> &read)
+{
+    QByteArrayList columns;
+    for (int column = 0; column < m_columns; ++column)
+        columns += sqlite3_column_name(m_select.get(), column);
+    m_source.database().forEachRow(nameOf(m_table), columns, [&](sqlite3_value **values) {
+        m_values = values;
+        begin();
+        read();
+        checkIsWhole();
+    });
+}
+
+void RowReader::begin()
+{
     m_column = 0;
     const std::int64_t key = integer(1, std::numeric_limits<std::int64_t>::max());
     if (key <= m_key)
@@ -164,7 +182,12 @@ bool RowReader::next()
     m_key = key;
     if (++m_rows > rowsMax)
         refuse("is one too many");
-    return true;
+}
+
+void RowReader::checkIsWhole() const
+{
+    if (m_column != m_columns)
+        throw rowNotReadWhole();
 }
 
 QString RowReader::text()

@@ -11,6 +11,7 @@
 
 #include <sqlite3.h>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -107,6 +108,8 @@ public:
     /// Goes on to the next row; false after the last one. Keys must rise from
     /// row to row.
     bool next();
+    /// Calls `read` with each row instead, which takes less time for each.
+    void forEach(const std::function<void()> &read);
     /// The key, which is the row's first value.
     [[nodiscard]] std::int64_t key() const noexcept { return m_key; }
 
@@ -160,7 +163,7 @@ private:
     // connection. One call for a value instead of three.
     [[nodiscard]] sqlite3_value *nextValue()
     {
-        return sqlite3_column_value(m_select.get(), m_column++);
+        return m_values ? m_values[m_column++] : sqlite3_column_value(m_select.get(), m_column++);
     }
     /// Nothing when the value is null.
     [[nodiscard]] sqlite3_value *nextPresent()
@@ -184,9 +187,13 @@ private:
     /// Valid until the next call.
     [[nodiscard]] const StoredCurrency &currencyFrom(sqlite3_value *stored);
 
+    void begin();
+    void checkIsWhole() const;
+
     RowSource &m_source;
     Table m_table;
     Statement m_select;
+    sqlite3_value **m_values = nullptr; ///< of the row, if forEach goes through them
     int m_columns;
     int m_column = 0;
     std::int64_t m_key = -1;
