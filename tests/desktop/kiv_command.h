@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
@@ -37,14 +38,25 @@ public:
     /// Runs the lines in one session.
     QByteArray runLines(const QByteArray &lines) { return run({QStringLiteral("shell")}, lines); }
     /// Makes the file, with the household that docs/domain.md works out, as it is at the end
-    /// of February.
+    /// of February. It has two versions; on a busy computer, where the second one's time is over
+    /// before its last change, it is made again.
     void makeHousehold()
     {
-        run({QStringLiteral("new")});
-        QFile lines(QStringLiteral(KIV_HOUSEHOLD));
-        if (!lines.open(QIODevice::ReadOnly))
+        QFile file(QStringLiteral(KIV_HOUSEHOLD));
+        if (!file.open(QIODevice::ReadOnly))
             qFatal("The household is missing.");
-        runLines(lines.readAll());
+        const QByteArray lines = file.readAll();
+        QDir former(m_file + QStringLiteral(".versions"));
+        for (int tries = 10; tries > 0; --tries) {
+            QFile::remove(m_file);
+            former.removeRecursively();
+            run({QStringLiteral("new")});
+            runLines(lines);
+            former.refresh();
+            if (former.entryList(QDir::Files).size() == 1)
+                return;
+        }
+        qFatal("The household takes too long.");
     }
 
 private:
