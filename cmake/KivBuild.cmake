@@ -62,8 +62,8 @@ function(kiv_compile_together target)
   endif()
 endfunction()
 
-# The same for tests. GCC warns of what has a member of an unnamed namespace's type where it
-# stands in an included file, as that is a header as a rule. Here it is a source.
+# The same for tests. GCC warns when a class of an included file has a member whose type is
+# in an unnamed namespace, since such a file is usually a header. Here it is a source.
 function(kiv_compile_tests_together target)
   kiv_compile_together(${target})
   if(KIV_TOGETHER)
@@ -71,7 +71,7 @@ function(kiv_compile_tests_together target)
   endif()
 endfunction()
 
-# Lets moc run over the sources of a target, started by cmake/moc.in, which spares most of
+# Lets moc run over the sources of a target by way of cmake/moc.in, which saves most of
 # its time.
 function(kiv_automoc target)
   get_target_property(KIV_MOC Qt6::moc IMPORTED_LOCATION)

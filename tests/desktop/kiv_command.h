@@ -38,8 +38,8 @@ public:
     /// Runs the lines in one session.
     QByteArray runLines(const QByteArray &lines) { return run({QStringLiteral("shell")}, lines); }
     /// Makes the file, with the household that docs/domain.md works out, as it is at the end
-    /// of February. It has two versions; on a busy computer, where the second one's time is over
-    /// before its last change, it is made again.
+    /// of February. It has two versions, since changes within a second share one. Where a busy
+    /// computer takes longer, it is made again.
     void makeHousehold()
     {
         QFile file(QStringLiteral(KIV_HOUSEHOLD));

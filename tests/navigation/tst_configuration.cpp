@@ -175,7 +175,7 @@ private slots:
                                  (void)toCurrencyFromDisplayable(u"EUR"_s, {euro}, unknown));
         QVERIFY_THROWS_EXCEPTION(
             numira::UnknownCurrency,
-            (void)toCurrencyFromDisplayable(u"euro"_s, {euro}, CurrencyDisplayOptions::IsoCode));
+            (void)toCurrencyFromDisplayable(u"eur"_s, {euro}, CurrencyDisplayOptions::IsoCode));
         QVERIFY_THROWS_EXCEPTION(std::logic_error,
                                  (void)kiv::navigation::toCurrencyDisplayOptions(u"symbol"_s));
     }
@@ -271,7 +271,7 @@ private slots:
               {u"Budgeting/notifyDueWithin"_s, u"99999999999"_s, u"notify due within"_s, defaults}},
              {"display",
               {u"Currencies/displayAs"_s, u"symbol"_s, u"currencies display as"_s, codes}},
-             {"small letters", {preferred, u"euro"_s, u"preferred currency"_s, dollars}},
+             {"small letters", {preferred, u"eur"_s, u"preferred currency"_s, dollars}},
              {"hostile", {preferred, u"\x1b[31m\u202e"_s, u"preferred currency"_s, dollars}},
              {"one of two",
               {usable, QStringList{u"USD"_s, u"?"_s}, u"usable currencies"_s, defaults}},

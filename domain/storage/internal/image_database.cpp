@@ -139,7 +139,8 @@ void ImageDatabase::forEachRow(const QByteArray &table, const QByteArrayList &co
                                const std::function<void(sqlite3_value **values)> &take)
 {
     // An aggregate function gets the values of a row as SQLite has them. Otherwise each
-    // row is a step, and each value a call that checks the connection.
+    // row is a step, and each value a call that checks the connection. A table without
+    // an index is gone through in the order of its keys.
     constexpr const char *name = "take_row";
     const int count = static_cast<int>(columns.size());
     Taking taking{take, nullptr};
