@@ -198,6 +198,7 @@ public:
 
 private:
     friend class LedgerReplay;
+    friend class StoredTransactions;
 
     /// The state for changing: not shared with any copy.
     internal::LedgerState &change();

@@ -71,6 +71,8 @@ void LedgerReplay::post(const StoredTransaction &transaction)
         m_ledger.change().append(number, std::move(record));
     else
         m_ledger.change().exchange(number, std::move(record));
+    if (transaction.refundOf)
+        m_refunds.emplace_back(number, *transaction.refundOf);
 }
 
 internal::Description LedgerReplay::descriptionOf(const StoredTransaction &transaction)
@@ -101,6 +103,12 @@ void LedgerReplay::markRefund(TransactionNumber number, TransactionNumber origin
         throw internal::refundTooLarge(original, refund.amount, left);
     refund.refundOf = original;
     m_ledger.change().exchange(number, std::move(refund));
+}
+
+void LedgerReplay::markRefunds()
+{
+    for (const auto &[number, original] : std::exchange(m_refunds, {}))
+        markRefund(number, original);
 }
 
 void LedgerReplay::markOpening(AccountNumber account, TransactionNumber number)

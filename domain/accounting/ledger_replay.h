@@ -2,8 +2,11 @@
 #pragma once
 
 #include "accounting/general_ledger.h"
+#include "accounting/stored_transactions.h"
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace kiv::accounting {
 
@@ -11,25 +14,6 @@ namespace internal {
 class Description;
 class DescriptionBlocks;
 } // namespace internal
-
-/// A transaction as a store keeps it.
-struct StoredTransaction {
-    TransactionNumber number; ///< under which it stands
-    QDate day;                ///< on which it occurred
-    AccountNumber debit;      ///< the account that is debited
-    AccountNumber credit;     ///< the account that is credited
-    numira::Money amount;     ///< in the currency in which it was entered
-    /// In the debited account's currency; nothing when it is `amount`.
-    std::optional<numira::Money> debitAmount;
-    /// In the credited account's currency; nothing when it is `amount`.
-    std::optional<numira::Money> creditAmount;
-    std::optional<QStringView> description; ///< the user's words
-    /// The transaction with the same description, which must have one; nothing when it
-    /// is told here. A store need not repeat it.
-    std::optional<TransactionNumber> describedAs;
-    TransactionStatuses debitStatus = TransactionStatuses::None;  ///< of the debited side
-    TransactionStatuses creditStatus = TransactionStatuses::None; ///< of the credited side
-};
 
 /// Builds a ledger again from what was stored of one, under the ledger's own
 /// rules but with the numbers, side amounts and marks as they were: nothing is
@@ -47,15 +31,17 @@ public:
     /// deeper than the ledger allows.
     void addAccount(AccountTypes type, const AccountCode &code, const numira::Currency &currency,
                     bool holdsOpenings);
-    /// Posts a transaction as it was. Refused besides: no number or one in use, a side amount that
-    /// is not positive, not in its account's currency, or another than the entered amount or the
-    /// other side's in the same currency.
+    /// Posts a transaction as it was, but for markRefunds() to make it a refund. Refused besides:
+    /// no number or one in use, a side amount that is not positive, not in its account's currency,
+    /// or another than the entered amount or the other side's in the same currency.
     void post(const StoredTransaction &transaction);
     /// Whether there is a transaction of that number with a description.
     [[nodiscard]] bool hasDescription(TransactionNumber number) const;
     /// `number` gives back some of `original`: accounts swapped, not more than
     /// is left, neither a refund of another.
     void markRefund(TransactionNumber number, TransactionNumber original);
+    /// Calls markRefund() for each that was posted as a refund.
+    void markRefunds();
     /// `number`, in which the account takes part, is its opening transaction.
     void markOpening(AccountNumber account, TransactionNumber number);
     /// Refused as by GeneralLedger::close.
@@ -68,6 +54,7 @@ private:
     [[nodiscard]] internal::Description descriptionOf(const StoredTransaction &transaction);
 
     GeneralLedger m_ledger;
+    std::vector<std::pair<TransactionNumber, TransactionNumber>> m_refunds; ///< with the originals
     std::unique_ptr<internal::DescriptionBlocks> m_descriptions;
 };
 

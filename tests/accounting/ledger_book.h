@@ -326,7 +326,8 @@ inline StoredTransaction stored(const Transaction &transaction)
                                       : std::nullopt,
             {},
             transaction.debitStatus(),
-            transaction.creditStatus()};
+            transaction.creditStatus(),
+            transaction.refundOf()};
 }
 
 /// The ledger, built again from what it answers.
@@ -345,13 +346,10 @@ inline GeneralLedger rebuilt(const GeneralLedger &ledger)
             }
         }
     }
-    const std::vector<Transaction> transactions = ledger.transactions();
-    for (const Transaction &transaction : transactions)
-        replay.post(stored(transaction));
-    for (const Transaction &transaction : transactions) {
-        if (transaction.refundOf())
-            replay.markRefund(*transaction.number(), *transaction.refundOf());
-    }
+    StoredTransactions transactions(ledger);
+    while (const auto transaction = transactions.next())
+        replay.post(*transaction);
+    replay.markRefunds();
     for (const Account &account : accounts) {
         const AccountNumber number = account.code().number();
         if (const auto opening = ledger.openingTransaction(number))

@@ -14,7 +14,6 @@ using accounting::AccountTypes;
 using accounting::GeneralLedger;
 using accounting::LedgerAccount;
 using accounting::LedgerReplay;
-using accounting::Transaction;
 using banking::BankAccountTypes;
 using storage::BudgetStorage;
 using surveying::CompletedSurvey;
@@ -118,28 +117,10 @@ GeneralLedger Converting::replayed(const GeneralLedger &before) const
     std::set<AccountNumber> added;
     for (const AccountCode &code : before.accountCodes())
         addAccount(replay, before, code.number(), added);
-    const std::vector<Transaction> transactions = before.transactions();
-    for (const Transaction &transaction : transactions) {
-        accounting::StoredTransaction stored;
-        stored.number = transaction.number().value();
-        stored.day = transaction.occurredOn();
-        stored.debit = transaction.debiting().number();
-        stored.credit = transaction.crediting().number();
-        stored.amount = transaction.amount();
-        if (transaction.debitAmount().code() != stored.amount.code())
-            stored.debitAmount = transaction.debitAmount();
-        if (transaction.creditAmount().code() != stored.amount.code())
-            stored.creditAmount = transaction.creditAmount();
-        if (transaction.description())
-            stored.description = *transaction.description();
-        stored.debitStatus = transaction.debitStatus();
-        stored.creditStatus = transaction.creditStatus();
-        replay.post(stored);
-    }
-    for (const Transaction &transaction : transactions) {
-        if (transaction.refundOf())
-            replay.markRefund(transaction.number().value(), *transaction.refundOf());
-    }
+    accounting::StoredTransactions transactions(before);
+    while (const auto transaction = transactions.next())
+        replay.post(*transaction);
+    replay.markRefunds();
     for (const AccountNumber number : added) {
         if (const auto opening = before.ledger(number).openedBy())
             replay.markOpening(number, *opening);

@@ -25,13 +25,15 @@ Description::Description(const std::optional<QString> &text)
 
 std::optional<QString> Description::text() const
 {
-    return isPresent() ? std::optional(view().toString()) : std::nullopt;
+    const auto text = view();
+    return text ? std::optional(text->toString()) : std::nullopt;
 }
 
-QStringView Description::view() const noexcept
+std::optional<QStringView> Description::view() const noexcept
 {
-    return isPresent() ? QStringView(m_block->units.data() + m_begin, qsizetype{m_size})
-                       : QStringView();
+    if (!isPresent())
+        return std::nullopt;
+    return QStringView(m_block->units.data() + m_begin, qsizetype{m_size});
 }
 
 Description DescriptionBlocks::add(QStringView text)

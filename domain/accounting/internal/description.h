@@ -19,10 +19,12 @@ public:
 
     [[nodiscard]] bool isPresent() const noexcept { return m_block.constData() != nullptr; }
     [[nodiscard]] std::optional<QString> text() const;
+    /// Good as long as the description.
+    [[nodiscard]] std::optional<QStringView> view() const noexcept;
 
     friend bool operator==(const Description &a, const Description &b) noexcept
     {
-        return a.isPresent() == b.isPresent() && a.view() == b.view();
+        return a.view() == b.view();
     }
 
 private:
@@ -33,7 +35,6 @@ private:
     using SharedBlock = QExplicitlySharedDataPointer<Block>;
 
     Description(const SharedBlock &block, QStringView text);
-    [[nodiscard]] QStringView view() const noexcept;
 
     SharedBlock m_block; ///< null without a text
     std::uint32_t m_begin = 0;

@@ -7,9 +7,6 @@
 
 #include <sqlite3.h>
 
-#include <QtCore/QScopeGuard>
-
-#include <exception>
 #include <new>
 #include <utility>
 
@@ -28,12 +25,6 @@ const int openFlags = SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPE
     if (result == SQLITE_NOMEM)
         throw std::bad_alloc();
     throw ContentFault(why);
-}
-
-void check(sqlite3 *database, int result)
-{
-    if (result != SQLITE_OK)
-        fail(result, sqlite3_errmsg(database));
 }
 
 /// Turns exceptions of the library into ContentFault.
@@ -57,27 +48,6 @@ void run(SQLite::Database &database, const std::string &sql)
     checked([&] { return database.exec(sql); });
 }
 
-/// What forEachRow does with the rows.
-struct Taking {
-    const std::function<void(sqlite3_value **values)> &take;
-    std::exception_ptr failure; ///< what it threw
-};
-
-/// An exception must not pass through SQLite, which is written in C.
-void takeRow(sqlite3_context *context, int, sqlite3_value **values) noexcept
-{
-    Taking &taking = *static_cast<Taking *>(sqlite3_user_data(context));
-    try {
-        taking.take(values);
-    } catch (...) {
-        taking.failure = std::current_exception();
-        sqlite3_result_error_code(context, SQLITE_ABORT);
-    }
-}
-
-/// All rows together have no result.
-void endRows(sqlite3_context *) noexcept {}
-
 std::string_view textAt(const Statement &statement, int column)
 {
     const QByteArrayView bytes = bytesOf(sqlite3_column_value(statement.get(), column));
@@ -85,6 +55,12 @@ std::string_view textAt(const Statement &statement, int column)
 }
 
 } // namespace
+
+void check(sqlite3 *database, int result)
+{
+    if (result != SQLITE_OK)
+        fail(result, sqlite3_errmsg(database));
+}
 
 void Image::Free::operator()(unsigned char *bytes) const noexcept
 {
@@ -133,32 +109,6 @@ void ImageDatabase::countText(qsizetype size)
     m_textsLeft -= size;
     if (m_textsLeft < 0)
         throw tooManyTexts();
-}
-
-void ImageDatabase::forEachRow(const QByteArray &table, const QByteArrayList &columns,
-                               const std::function<void(sqlite3_value **values)> &take)
-{
-    // An aggregate function gets the values of a row as SQLite has them. Otherwise each
-    // row is a step, and each value a call that checks the connection. A table without
-    // an index is gone through in the order of its keys.
-    constexpr const char *name = "take_row";
-    const int count = static_cast<int>(columns.size());
-    Taking taking{take, nullptr};
-    const auto define = [&](auto step, auto end) {
-        return sqlite3_create_function_v2(handle(), name, count, SQLITE_UTF8 | SQLITE_DIRECTONLY,
-                                          &taking, nullptr, step, end, nullptr);
-    };
-    check(handle(), define(&takeRow, &endRows));
-    const auto forget = qScopeGuard([&] { define(nullptr, nullptr); });
-    Statement rows(*this,
-                   QByteArray("SELECT ") + name + '(' + columns.join(',') + ") FROM " + table);
-    try {
-        rows.step();
-    } catch (...) {
-        if (taking.failure)
-            std::rethrow_exception(taking.failure);
-        throw;
-    }
 }
 
 void ImageDatabase::harden()

@@ -6,9 +6,7 @@
 #include <SQLiteCpp/Database.h>
 
 #include <QtCore/QByteArray>
-#include <QtCore/QByteArrayList>
 
-#include <functional>
 #include <memory>
 
 struct sqlite3;
@@ -16,6 +14,10 @@ struct sqlite3_stmt;
 struct sqlite3_value;
 
 namespace kiv::storage::internal {
+
+/// Throws for a code of SQLite other than SQLITE_OK: std::bad_alloc for want of memory,
+/// else ContentFault with the database's own words.
+void check(sqlite3 *database, int result);
 
 /// The bytes of a database, as SQLite made them.
 class Image {
@@ -48,12 +50,6 @@ public:
     /// A text of so many bytes is read. Throws ContentFault when all texts together
     /// have more bytes than the image, which only rows can have that share them.
     void countText(qsizetype size);
-    /// Hands the values of these columns of each row of a table to `take`, in the order of
-    /// the keys; they are good until it returns. Throws what `take` throws, and
-    /// ContentFault when the database is malformed. For a table of many rows this takes
-    /// less time than a Statement.
-    void forEachRow(const QByteArray &table, const QByteArrayList &columns,
-                    const std::function<void(sqlite3_value **values)> &take);
 
 private:
     void harden();

@@ -22,7 +22,6 @@ using accounting::AccountNumber;
 using accounting::AccountTypes;
 using accounting::LedgerReplay;
 using accounting::StoredTransaction;
-using accounting::Transaction;
 using accounting::TransactionNumber;
 using accounting::TransactionStatuses;
 
@@ -52,34 +51,51 @@ TransactionNumber toTransactionNumber(std::int64_t number) noexcept
     return TransactionNumber(static_cast<std::uint16_t>(number));
 }
 
-/// The amount on a side, if it differs from the transaction's.
-void writeSide(RowWriter &row, const numira::Money &side, const Transaction &transaction)
-{
-    if (side == transaction.amount())
-        row.null();
-    else
-        row.amount(side);
-}
-
 /// The descriptions that were written, with the first transaction that has each.
-using Descriptions = QHash<QString, std::int64_t>;
+using Descriptions = QHash<QStringView, std::int64_t>;
 
 /// A text that stands there already is not written again.
-void writeDescription(RowWriter &row, const Transaction &transaction, Descriptions &written)
+void writeDescription(RowWriter &row, const StoredTransaction &transaction, Descriptions &written)
 {
-    const std::optional<QString> &description = transaction.description();
-    if (!description) {
+    if (!transaction.description) {
         row.null();
         return;
     }
-    const auto number = transaction.number()->integer();
-    const auto known = written.constFind(*description);
-    if (known != written.constEnd()) {
-        row.integer(*known);
+    std::int64_t &first = written[*transaction.description];
+    if (first > 0) {
+        row.integer(first);
         return;
     }
-    written.insert(*description, number);
-    row.text(*description);
+    first = transaction.number.integer();
+    row.text(*transaction.description);
+}
+
+template <typename Number>
+std::optional<std::int64_t> integer(const std::optional<Number> &number)
+{
+    return number ? std::optional<std::int64_t>(number->integer()) : std::nullopt;
+}
+
+/// Null where it is the transaction's own amount.
+void writeSide(RowWriter &row, const std::optional<numira::Money> &side)
+{
+    if (side)
+        row.amount(*side);
+    else
+        row.null();
+}
+
+void write(RowWriter &row, const StoredTransaction &transaction, Descriptions &written)
+{
+    row.integer(transaction.number.integer()).date(transaction.day);
+    row.integer(transaction.debit.integer()).integer(transaction.credit.integer());
+    row.money(transaction.amount);
+    writeSide(row, transaction.debitAmount);
+    writeSide(row, transaction.creditAmount);
+    writeDescription(row, transaction, written);
+    row.integer(static_cast<int>(transaction.debitStatus));
+    row.integer(static_cast<int>(transaction.creditStatus));
+    row.optionalInteger(integer(transaction.refundOf));
 }
 
 AccountRows readAccounts(RowSource &source)
@@ -167,8 +183,6 @@ void settleSides(StoredTransaction &read, const AccountRows &accounts,
     read.creditAmount = credit;
 }
 
-using Refunds = std::vector<std::pair<TransactionNumber, TransactionNumber>>;
-
 /// Posts the rows of the transactions.
 class TransactionReader {
 public:
@@ -181,7 +195,6 @@ public:
     {
         m_row.forEach([this] { m_replay.post(transaction()); });
     }
-    [[nodiscard]] const Refunds &refunds() const noexcept { return m_refunds; }
     /// The accounts in which amounts were mended.
     [[nodiscard]] const std::set<AccountNumber> &settled() const noexcept { return m_settled; }
 
@@ -203,7 +216,7 @@ private:
         read.debitStatus = m_row.enumerator(TransactionStatuses::Reconciled);
         read.creditStatus = m_row.enumerator(TransactionStatuses::Reconciled);
         if (const auto original = m_row.optionalInteger(1, transactionNumberMax))
-            m_refunds.emplace_back(read.number, toTransactionNumber(*original));
+            read.refundOf = toTransactionNumber(*original);
         if (read.debitAmount || read.creditAmount)
             settleSides(read, m_accounts, m_settled);
         return read;
@@ -231,7 +244,6 @@ private:
     LedgerReplay &m_replay;
     const AccountRows &m_accounts;
     RowReader m_row;
-    Refunds m_refunds;
     std::set<AccountNumber> m_settled;
 };
 
@@ -239,9 +251,6 @@ private:
 
 void writeLedger(RowSink &sink, const accounting::GeneralLedger &ledger)
 {
-    const auto integer = [](const auto &number) -> std::optional<std::int64_t> {
-        return number ? std::optional<std::int64_t>(number->integer()) : std::nullopt;
-    };
     RowWriter accounts(sink, Table::Accounts);
     for (const AccountCode &code : ledger.accountCodes()) {
         const accounting::LedgerAccount account = ledger.ledger(code);
@@ -252,20 +261,16 @@ void writeLedger(RowSink &sink, const accounting::GeneralLedger &ledger)
         accounts.integer(account.isClosed()).integer(account.holdsOpenings());
         accounts.optionalInteger(integer(account.openedBy())).endRow();
     }
-    RowWriter transactions(sink, Table::Transactions);
+    RowWriter row(sink, Table::Transactions);
+    accounting::StoredTransactions transactions(ledger);
     Descriptions descriptions;
-    for (const Transaction &transaction : ledger.transactions()) {
-        transactions.optionalInteger(integer(transaction.number())).date(transaction.occurredOn());
-        transactions.integer(transaction.debiting().number().integer());
-        transactions.integer(transaction.crediting().number().integer());
-        transactions.money(transaction.amount());
-        writeSide(transactions, transaction.debitAmount(), transaction);
-        writeSide(transactions, transaction.creditAmount(), transaction);
-        writeDescription(transactions, transaction, descriptions);
-        transactions.integer(static_cast<int>(transaction.debitStatus()));
-        transactions.integer(static_cast<int>(transaction.creditStatus()));
-        transactions.optionalInteger(integer(transaction.refundOf())).endRow();
-    }
+    descriptions.reserve(static_cast<qsizetype>(ledger.transactionCount()));
+    row.writeAll([&] {
+        const auto transaction = transactions.next();
+        if (transaction)
+            write(row, *transaction, descriptions);
+        return transaction.has_value();
+    });
 }
 
 accounting::GeneralLedger readLedger(RowSource &source, QStringList &mended)
@@ -275,8 +280,7 @@ accounting::GeneralLedger readLedger(RowSource &source, QStringList &mended)
     replayAccounts(replay, accounts);
     TransactionReader transactions(replay, accounts, source);
     transactions.read();
-    for (const auto &[refund, original] : transactions.refunds())
-        replay.markRefund(refund, original);
+    replay.markRefunds();
     for (const AccountNumber number : transactions.settled()) {
         mended << QObject::tr("Amounts in the account '%1' that differed from those of their "
                               "transactions in the same currency were corrected.")

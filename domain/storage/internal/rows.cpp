@@ -26,6 +26,18 @@ QByteArray insertInto(const ImageDatabase &database, Table table)
     return "INSERT INTO " + name + " VALUES(" + QByteArray("?,").repeated(count - 1) + "?)";
 }
 
+/// The value must stay as it is until the statement has run.
+void bindValue(const Statement &statement, int column, const StoredValue &value)
+{
+    if (const auto *number = std::get_if<std::int64_t>(&value))
+        sqlite3_bind_int64(statement.get(), column, *number);
+    else if (const auto *text = std::get_if<QByteArray>(&value))
+        sqlite3_bind_text(statement.get(), column, text->constData(),
+                          static_cast<int>(text->size()), SQLITE_STATIC);
+    else
+        sqlite3_bind_null(statement.get(), column);
+}
+
 } // namespace
 
 std::pair<std::int64_t, unsigned> RowSink::keyOf(const numira::Currency &currency)
@@ -71,15 +83,10 @@ const StoredCurrency *RowSource::find(std::int64_t key) const noexcept
 
 RowWriter::RowWriter(RowSink &sink, Table table)
     : m_sink(sink),
+      m_table(table),
       m_insert(sink.database(), insertInto(sink.database(), table)),
-      m_texts(static_cast<std::size_t>(sqlite3_bind_parameter_count(m_insert.get())))
+      m_values(static_cast<std::size_t>(sqlite3_bind_parameter_count(m_insert.get())))
 {
-}
-
-RowWriter &RowWriter::integer(std::int64_t value)
-{
-    sqlite3_bind_int64(m_insert.get(), ++m_column, value);
-    return *this;
 }
 
 RowWriter &RowWriter::optionalInteger(std::optional<std::int64_t> value)
@@ -87,7 +94,7 @@ RowWriter &RowWriter::optionalInteger(std::optional<std::int64_t> value)
     return value ? integer(*value) : null();
 }
 
-RowWriter &RowWriter::text(const QString &text)
+RowWriter &RowWriter::text(QStringView text)
 {
     return bytes(toStoredText(text));
 }
@@ -105,12 +112,6 @@ RowWriter &RowWriter::amount(const numira::Money &money)
     return bytes(QByteArray::fromStdString(money.amount().toText()));
 }
 
-RowWriter &RowWriter::null()
-{
-    sqlite3_bind_null(m_insert.get(), ++m_column);
-    return *this;
-}
-
 RowWriter &RowWriter::money(const numira::Money &money)
 {
     return amount(money).currency(money.code());
@@ -123,23 +124,37 @@ RowWriter &RowWriter::currency(const numira::Currency &currency)
 
 void RowWriter::endRow()
 {
-    if (std::exchange(m_column, 0) != static_cast<int>(m_texts.size()))
+    checkIsWhole();
+    int column = 0;
+    for (const StoredValue &value : m_values)
+        bindValue(m_insert, ++column, value);
+    m_insert.step();
+    m_insert.reset();
+}
+
+void RowWriter::writeAll(const std::function<bool()> &write)
+{
+    addRows(m_sink.database(), nameOf(m_table), m_values, [&] {
+        const bool isWritten = write();
+        if (isWritten)
+            checkIsWhole();
+        return isWritten;
+    });
+}
+
+void RowWriter::checkIsWhole()
+{
+    if (std::exchange(m_column, 0) != m_values.size())
         throw rowNotWrittenWhole();
     if (++m_rows > rowsMax)
         throw tooManyRows();
-    m_insert.step();
-    m_insert.reset();
 }
 
 RowWriter &RowWriter::bytes(QByteArray bytes)
 {
     if (bytes.size() > textSizeMax)
         throw textTooLong();
-    QByteArray &kept = m_texts.at(static_cast<std::size_t>(m_column));
-    kept = std::move(bytes);
-    sqlite3_bind_text(m_insert.get(), ++m_column, kept.constData(), static_cast<int>(kept.size()),
-                      SQLITE_STATIC);
-    return *this;
+    return value(std::move(bytes));
 }
 
 RowReader::RowReader(RowSource &source, Table table)
@@ -165,7 +180,7 @@ void RowReader::forEach(const std::function<void()> &read)
     QByteArrayList columns;
     for (int column = 0; column < m_columns; ++column)
         columns += sqlite3_column_name(m_select.get(), column);
-    m_source.database().forEachRow(nameOf(m_table), columns, [&](sqlite3_value **values) {
+    takeRows(m_source.database(), nameOf(m_table), columns, [&](sqlite3_value **values) {
         m_values = values;
         begin();
         read();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/internal/bulk_rows.h"
 #include "storage/internal/faults.h"
-#include "storage/internal/image_database.h"
 
 #include "numira/money.h"
 
@@ -69,9 +69,9 @@ class RowWriter {
 public:
     RowWriter(RowSink &sink, Table table);
 
-    RowWriter &integer(std::int64_t value);
+    RowWriter &integer(std::int64_t number) { return value(number); }
     RowWriter &optionalInteger(std::optional<std::int64_t> value);
-    RowWriter &text(const QString &text);
+    RowWriter &text(QStringView text);
     /// Null for an invalid date.
     RowWriter &date(QDate date);
     /// UTF-8 that is no text of a user.
@@ -79,22 +79,32 @@ public:
     /// In a column of its own where another one tells the currency.
     RowWriter &amount(const numira::Money &money);
     RowWriter &currency(const numira::Currency &currency);
-    RowWriter &null();
+    RowWriter &null() { return value({}); }
     /// Amount and currency, in two columns.
     RowWriter &money(const numira::Money &money);
     /// Throws ContentFault when a text is too long or there are too many rows.
     void endRow();
+    /// Instead of a call of endRow() for each row, which takes more time: `write` writes
+    /// the values of one row, or answers that there are no more.
+    void writeAll(const std::function<bool()> &write);
 
     /// Begins the row of a table that numbers its rows.
     RowWriter &newRow() { return integer(m_rows + 1); }
 
 private:
+    RowWriter &value(StoredValue value)
+    {
+        m_values.at(m_column++) = std::move(value);
+        return *this;
+    }
     RowWriter &bytes(QByteArray bytes);
+    void checkIsWhole();
 
     RowSink &m_sink;
+    Table m_table;
     Statement m_insert;
-    std::vector<QByteArray> m_texts; ///< what is bound, until the row is written
-    int m_column = 0;
+    std::vector<StoredValue> m_values; ///< of the row
+    std::size_t m_column = 0;
     qint64 m_rows = 0;
 };
 

@@ -44,7 +44,7 @@ QString decoded(QByteArrayView bytes)
 
 } // namespace
 
-QByteArray toStoredText(const QString &text)
+QByteArray toStoredText(QStringView text)
 {
     if (text.isValidUtf16())
         return text.toUtf8();

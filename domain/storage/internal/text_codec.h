@@ -11,7 +11,7 @@ namespace kiv::storage::internal {
 /// The text in UTF-8, with a lone surrogate as the three bytes that its number
 /// would have as a character. So every text, whatever is in it, is read back
 /// as it was; QString's own conversion replaces such characters.
-[[nodiscard]] QByteArray toStoredText(const QString &text);
+[[nodiscard]] QByteArray toStoredText(QStringView text);
 
 /// The text with this stored form; nothing for bytes that are no stored form.
 /// QString's own conversion drops a leading byte-order mark and repairs malformed
