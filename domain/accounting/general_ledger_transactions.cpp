@@ -108,7 +108,7 @@ void GeneralLedger::repost(TransactionNumber number, const Transaction &transact
     after.creditStatus =
         after.credit == before.credit ? before.creditStatus : TransactionStatuses::None;
     after.refundOf = before.refundOf;
-    after.refundedAmount = before.refundedAmount;
+    after.setRefundedAmount(before.refundedAmount());
     change().exchange(number, std::move(after));
 }
 

@@ -59,8 +59,7 @@ void LedgerReplay::post(const StoredTransaction &transaction)
                              .debitStatus = transaction.debitStatus,
                              .creditStatus = transaction.creditStatus,
                              .refundOf = std::nullopt,
-                             .refundedAmount = {},
-                             .sides = {}};
+                             .seldom = {}};
     if (transaction.debitAmount || transaction.creditAmount)
         record.setSideAmounts(transaction.debitAmount.value_or(record.amount),
                               transaction.creditAmount.value_or(record.amount));

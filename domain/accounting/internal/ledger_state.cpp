@@ -242,9 +242,13 @@ void LedgerState::exchange(TransactionNumber number, std::optional<TransactionRe
         if (meetRefund(*after))
             refunded += after->amount;
     }
+    std::optional<TransactionRecord> originalAfter;
     m_table.detach(number);
-    if (original)
+    if (original) {
+        originalAfter = record(*original);
+        originalAfter->setRefundedAmount(refunded.amount());
         m_table.detach(*original);
+    }
     for (const ChangedSums::Sums &sums : changed.all())
         m_accounts[sums.place]->transactions.detach();
 
@@ -260,8 +264,8 @@ void LedgerState::exchange(TransactionNumber number, std::optional<TransactionRe
         if (!after && account.openedBy == number)
             account.openedBy.reset();
     }
-    if (original)
-        m_table.change(*original).refundedAmount = refunded.amount();
+    if (originalAfter)
+        m_table.change(*original) = *std::move(originalAfter);
     if (after)
         m_table.put(number, *std::move(after));
     else

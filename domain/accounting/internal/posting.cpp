@@ -142,8 +142,7 @@ TransactionRecord plainRecord(const Transaction &transaction)
                              .debitStatus = transaction.debitStatus(),
                              .creditStatus = transaction.creditStatus(),
                              .refundOf = std::nullopt,
-                             .refundedAmount = {},
-                             .sides = {}};
+                             .seldom = {}};
     record.setSideAmounts(transaction.debitAmount(), transaction.creditAmount());
     record.description = Description(transaction.description());
     return record;

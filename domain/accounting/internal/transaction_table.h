@@ -18,14 +18,19 @@
 
 namespace kiv::accounting::internal {
 
-/// What a transaction comes to in the currencies of its accounts.
-struct SideAmounts : QSharedData {
-    SideAmounts(const numira::Money &debited, const numira::Money &credited)
-        : debit(debited), credit(credited)
+/// What few transactions have.
+struct SeldomAmounts : QSharedData {
+    SeldomAmounts(const numira::Money &debited, const numira::Money &credited,
+                  const numira::Decimal &givenBack)
+        : debit(debited), credit(credited), refunded(givenBack)
     {
     }
+    /// What the transaction comes to in the currencies of its accounts.
     numira::Money debit;
     numira::Money credit;
+    /// The sum of its refunds, in the currency in which it was entered. Refunds are
+    /// entered in that currency, so that the sum never depends on a rate.
+    numira::Decimal refunded;
 };
 
 /// A transaction as the ledger keeps it. The accounts stand by number, so that
@@ -40,26 +45,28 @@ struct TransactionRecord {
     TransactionStatuses debitStatus = TransactionStatuses::None;
     TransactionStatuses creditStatus = TransactionStatuses::None;
     std::optional<TransactionNumber> refundOf;
-    /// The sum of its refunds, in the currency of `amount`. Refunds are entered
-    /// in that currency, so that the sum never depends on a rate.
-    numira::Decimal refundedAmount;
-    /// Null where both sides are `amount`.
-    SharedContent<SideAmounts> sides;
+    /// Null where both sides are `amount` and nothing was refunded.
+    SharedContent<SeldomAmounts> seldom;
 
     [[nodiscard]] const numira::Money &debitAmount() const noexcept
     {
-        return sides.constData() ? sides.constData()->debit : amount;
+        return seldom.constData() ? seldom.constData()->debit : amount;
     }
     [[nodiscard]] const numira::Money &creditAmount() const noexcept
     {
-        return sides.constData() ? sides.constData()->credit : amount;
+        return seldom.constData() ? seldom.constData()->credit : amount;
+    }
+    [[nodiscard]] numira::Decimal refundedAmount() const noexcept
+    {
+        return seldom.constData() ? seldom.constData()->refunded : numira::Decimal();
     }
     void setSideAmounts(const numira::Money &debited, const numira::Money &credited)
     {
-        if (debited == amount && credited == amount)
-            sides.reset();
-        else
-            sides = new SideAmounts(debited, credited);
+        setSeldom(debited, credited, refundedAmount());
+    }
+    void setRefundedAmount(const numira::Decimal &refunded)
+    {
+        setSeldom(debitAmount(), creditAmount(), refunded);
     }
     [[nodiscard]] bool involves(AccountNumber account) const noexcept
     {
@@ -88,9 +95,9 @@ struct TransactionRecord {
     }
     [[nodiscard]] numira::Money refunded() const noexcept
     {
-        return {amount.code(), refundedAmount};
+        return {amount.code(), refundedAmount()};
     }
-    [[nodiscard]] bool hasRefunds() const noexcept { return refundedAmount.sign() != 0; }
+    [[nodiscard]] bool hasRefunds() const noexcept { return refundedAmount().sign() != 0; }
 
     friend bool operator==(const TransactionRecord &a, const TransactionRecord &b) noexcept
     {
@@ -98,7 +105,17 @@ struct TransactionRecord {
                a.amount == b.amount && a.debitAmount() == b.debitAmount() &&
                a.creditAmount() == b.creditAmount() && a.description == b.description &&
                a.debitStatus == b.debitStatus && a.creditStatus == b.creditStatus &&
-               a.refundOf == b.refundOf && a.refundedAmount == b.refundedAmount;
+               a.refundOf == b.refundOf && a.refundedAmount() == b.refundedAmount();
+    }
+
+private:
+    void setSeldom(const numira::Money &debited, const numira::Money &credited,
+                   const numira::Decimal &refunded)
+    {
+        if (debited == amount && credited == amount && refunded.sign() == 0)
+            seldom.reset();
+        else
+            seldom = new SeldomAmounts(debited, credited, refunded);
     }
 };
 

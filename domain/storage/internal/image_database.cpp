@@ -14,6 +14,7 @@ namespace kiv::storage::internal {
 namespace {
 
 constexpr int stepsBetweenChecks = 1000;
+constexpr int pagesKept = 64;
 
 /// A database belongs to the function that made it, so SQLite need not guard
 /// each call.
@@ -91,6 +92,9 @@ ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
     auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(image.data()));
     check(handle(), sqlite3_deserialize(handle(), "main", bytes, image.size(), image.size(),
                                         SQLITE_DESERIALIZE_READONLY));
+    // Each page is read once. To take memory for all costs more than to use that of a few
+    // again.
+    run(m_database, "PRAGMA cache_size = " + std::to_string(pagesKept));
     checkSchema(version);
 }
 
