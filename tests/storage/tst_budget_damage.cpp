@@ -354,9 +354,14 @@ private slots:
         RowReader reader(source, Table::Accounts);
         QVERIFY(reader.next());
         QVERIFY_THROWS_EXCEPTION(std::logic_error, reader.next());
-        RowSink sink(database);
+        const ImageDatabase empty;
+        RowSink sink(empty);
         RowWriter writer(sink, Table::Accounts);
         QVERIFY_THROWS_EXCEPTION(std::logic_error, writer.integer(1).endRow());
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, writer.writeAll([&] {
+            writer.integer(1);
+            return true;
+        }));
     }
 
 private:

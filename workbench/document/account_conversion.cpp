@@ -176,7 +176,7 @@ void Converting::followSurveys()
 Converted convertAccount(Document &document, const Conversion &conversion)
 {
     Converting converting(document.present(), conversion);
-    const Converted done = converting.run();
+    Converted done = converting.run();
     document.put(std::move(converting).data());
     return done;
 }
