@@ -31,16 +31,17 @@ public:
     /// deeper than the ledger allows.
     void addAccount(AccountTypes type, const AccountCode &code, const numira::Currency &currency,
                     bool holdsOpenings);
-    /// Posts a transaction as it was, but for markRefunds() to make it a refund. Refused besides:
-    /// no number or one in use, a side amount that is not positive, not in its account's currency,
-    /// or another than the entered amount or the other side's in the same currency.
+    /// Posts a transaction as it was; if it is a refund, markRefunds() makes it one. Refused
+    /// besides: no number or one in use, a side amount that is not positive, not in its account's
+    /// currency, or another than the entered amount or the other side's in the same currency.
     void post(const StoredTransaction &transaction);
     /// Whether there is a transaction of that number with a description.
     [[nodiscard]] bool hasDescription(TransactionNumber number) const;
     /// `number` gives back some of `original`: accounts swapped, not more than
     /// is left, neither a refund of another.
     void markRefund(TransactionNumber number, TransactionNumber original);
-    /// Calls markRefund() for each that was posted as a refund.
+    /// Calls markRefund() for each that was posted as a refund, after all transactions, since
+    /// it may stand before its original.
     void markRefunds();
     /// `number`, in which the account takes part, is its opening transaction.
     void markOpening(AccountNumber account, TransactionNumber number);

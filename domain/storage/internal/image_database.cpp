@@ -92,8 +92,7 @@ ImageDatabase::ImageDatabase(QByteArrayView image, std::uint32_t version)
     auto *bytes = reinterpret_cast<unsigned char *>(const_cast<char *>(image.data()));
     check(handle(), sqlite3_deserialize(handle(), "main", bytes, image.size(), image.size(),
                                         SQLITE_DESERIALIZE_READONLY));
-    // Each page is read once. To take memory for all costs more than to use that of a few
-    // again.
+    // Each page is read once, so a few are enough. To take new memory for all costs time.
     run(m_database, "PRAGMA cache_size = " + std::to_string(pagesKept));
     checkSchema(version);
 }

@@ -84,8 +84,9 @@ public:
     RowWriter &money(const numira::Money &money);
     /// Throws ContentFault when a text is too long or there are too many rows.
     void endRow();
-    /// Instead of a call of endRow() for each row, which takes more time: `write` writes
-    /// the values of one row, or answers that there are no more.
+    /// Writes many rows, in less time than endRow() takes for each. `write` writes the values
+    /// of the next row, or answers that there is none. Throws what `write` throws, and what
+    /// endRow() does.
     void writeAll(const std::function<bool()> &write);
 
     /// Begins the row of a table that numbers its rows.
